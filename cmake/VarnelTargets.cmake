@@ -1,0 +1,34 @@
+# What every target of ours is built with, as one interface target and two functions.
+add_library(varnel_options INTERFACE)
+target_compile_options(varnel_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-qual
+  -Woverloaded-virtual -Wconversion -Wno-sign-conversion -Wdouble-promotion -Wno-error=deprecated-declarations)
+if(VARNEL_WARNINGS_AS_ERRORS)
+  target_compile_options(varnel_options INTERFACE -Werror)
+endif()
+if(VARNEL_SANITIZE)
+  target_compile_options(varnel_options INTERFACE -fsanitize=${VARNEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(varnel_options INTERFACE -fsanitize=${VARNEL_SANITIZE})
+endif()
+target_include_directories(varnel_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_definitions(varnel_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+
+# varnel_library(NAME SOURCES ... LINKS ...): a static library; LINKS are public.
+function(varnel_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE varnel_options)
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+endfunction()
+
+# varnel_program(NAME SOURCES ... LINKS ...)
+function(varnel_program name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_LINKS} varnel_options)
+endfunction()
+
+# Contraction to fused multiply-add would change the coordinates' last bits from machine to machine.
+function(varnel_exact_arithmetic name)
+  target_compile_options(${name} PRIVATE -ffp-contract=off)
+endfunction()

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Pictures in memory. Rows count from the bottom row upward, columns from the left, as the image
+// library stores them; colours are blue, green, red and one reserved byte.
+#pragma once
+
+#include <FreeImage.h>
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "remap/geometry.h"
+
+namespace varnel {
+
+struct BitmapUnloader {
+    void operator()(FIBITMAP* bitmap) const { FreeImage_Unload(bitmap); }
+};
+// The only owner of a bitmap; unloads it.
+using BitmapHandle = std::unique_ptr<FIBITMAP, BitmapUnloader>;
+
+// The three pictures at hand. Each is unloaded before it is replaced.
+struct Bitmaps {
+    BitmapHandle FullSourceBitmap;     // the current photo at full size, 24 bits
+    BitmapHandle PreviewSourceBitmap;  // the same at preview size
+    BitmapHandle ResultBitmap;         // the last conversion
+};
+
+// A new black 24-bit bitmap. Throws std::bad_alloc when there is no memory for it.
+BitmapHandle NewBitmap(PixelSize size);
+// A copy with pixels, metadata and colour profile. Throws std::bad_alloc.
+BitmapHandle CloneBitmap(FIBITMAP* bitmap);
+
+PixelSize SizeOf(FIBITMAP* bitmap);
+
+// Row y of a bitmap, counted from the bottom: 3 bytes a pixel for 24 bits.
+std::span<std::uint8_t> ScanLine(FIBITMAP* bitmap, int y);
+
+}  // namespace varnel

@@ -20,6 +20,9 @@ QString FloatText(float value, const QLocale& locale = QLocale());
 // is not a finite single-precision number.
 std::optional<float> FloatFromText(const QString& text);
 
+// As above but with a decimal point only: the form of the command line, whatever the locale.
+std::optional<float> FloatFromPointText(const QString& text);
+
 // A whole decimal number; nothing for any other text.
 std::optional<int> WholeFromText(const QString& text);
 

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/general_settings.h"
+
+#include <algorithm>
+
+#include "state/number_text.h"
+#include "state/setting_names.h"
+
+namespace varnel {
+
+namespace {
+
+int ReadPreviewSide(const SettingsStore& store, const QString& key, int fallback) {
+    const int side = ReadWhole(store, setting::General, key, fallback);
+    return side < 1 ? fallback : std::min(side, largestPreviewSide);
+}
+
+}  // namespace
+
+GeneralSettings LoadSettings(const SettingsStore& store) {
+    GeneralSettings settings;
+    settings.PreviewWidth = ReadPreviewSide(store, setting::PreviewWidth, settings.PreviewWidth);
+    settings.PreviewHeight = ReadPreviewSide(store, setting::PreviewHeight, settings.PreviewHeight);
+    settings.FileType = store.Get(setting::General, setting::FileType, settings.FileType);
+    const int quality =
+        ReadWhole(store, setting::General, setting::JpegCompression, settings.JPEGcompression);
+    if (quality >= 0 && quality <= 100) {
+        settings.JPEGcompression = static_cast<std::int16_t>(quality);
+    }
+    return settings;
+}
+
+}  // namespace varnel

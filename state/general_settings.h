@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the user chose for every photo: the preview's size and the form of the written files.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "state/settings_store.h"
+
+namespace varnel {
+
+inline constexpr int largestPreviewSide = 1000;  // pixels
+
+struct GeneralSettings {
+    int PreviewWidth = 400;
+    int PreviewHeight = 300;
+    QString FileType = QStringLiteral("JPG");  // "TIFF", "JPEG", "BMP" or "PNG" once chosen
+    std::int16_t JPEGcompression = 100;        // quality, percent
+
+    bool operator==(const GeneralSettings&) const = default;
+};
+
+// A missing or unusable value gives the default; a preview side above the largest is cut to it. The
+// store is not rewritten.
+GeneralSettings LoadSettings(const SettingsStore& store);
+
+}  // namespace varnel

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The names under which settings are kept. They stay as they are for good: settings of older
+// releases are found by them ("Ofset" with one f, "setting" beside "Settings").
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+
+namespace varnel::setting {
+
+// Sections.
+inline constexpr QLatin1StringView General("setting");
+inline constexpr QLatin1StringView LastUsed("Settings");
+inline constexpr QLatin1StringView Gear("Gear");
+inline constexpr QLatin1StringView Revision("Revision");
+
+// General settings.
+inline constexpr QLatin1StringView PreviewWidth("PreviewWidth");
+inline constexpr QLatin1StringView PreviewHeight("PreviewHeight");
+inline constexpr QLatin1StringView FileType("FileType");
+inline constexpr QLatin1StringView JpegCompression("JPEGcompression");
+
+// The one gear of an older release, among the general settings.
+inline constexpr QLatin1StringView OldCameraBrand("CameraBrand");
+inline constexpr QLatin1StringView OldCameraModel("CameraModel");
+inline constexpr QLatin1StringView OldLensBrand("LensBrand");
+inline constexpr QLatin1StringView OldLensModel("LensModel");
+
+// Where pictures were last looked for.
+inline constexpr QLatin1StringView LastDrive("LastDrive");
+inline constexpr QLatin1StringView LastPath("LastPath");
+
+// The gear table.
+inline constexpr QLatin1StringView NumGear("NumGear");
+inline constexpr QLatin1StringView DefaultGearName("DefaultGearName");
+
+// One gear each, followed by the gear's number.
+inline constexpr QLatin1StringView GearName("GearName");
+inline constexpr QLatin1StringView GearCameraBrand("GearCameraBrand");
+inline constexpr QLatin1StringView GearCameraModel("GearCameraModel");
+inline constexpr QLatin1StringView GearLensBrand("GearLensBrand");
+inline constexpr QLatin1StringView GearLensModel("GearLensModel");
+inline constexpr QLatin1StringView GearLensDataVersion("GearLensDataVersion");
+inline constexpr QLatin1StringView GearOfsetX("GearOfsetX");
+inline constexpr QLatin1StringView GearOfsetY("GearOfsetY");
+inline constexpr QLatin1StringView GearRatio("GearRatio");
+inline constexpr QLatin1StringView HorizontalAov("hAOV");
+inline constexpr QLatin1StringView VerticalAov("vAOV");
+
+// The update reminder.
+inline constexpr QLatin1StringView RevisionAge("RevisionAge");
+
+// "GearName" and 1 give "GearName1".
+inline QString ItemKey(QLatin1StringView name, int number) {
+    return name + QString::number(number);
+}
+
+}  // namespace varnel::setting

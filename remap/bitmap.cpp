@@ -22,7 +22,9 @@ BitmapHandle NewBitmap(PixelSize size) {
     return Owned(FreeImage_Allocate(size.width, size.height, 24));
 }
 
-BitmapHandle CloneBitmap(FIBITMAP* bitmap) { return Owned(FreeImage_Clone(bitmap)); }
+BitmapHandle CloneBitmap(FIBITMAP* bitmap) {
+    return Owned(FreeImage_Clone(bitmap));
+}
 
 PixelSize SizeOf(FIBITMAP* bitmap) {
     return {static_cast<std::int32_t>(FreeImage_GetWidth(bitmap)),

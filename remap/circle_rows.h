@@ -20,9 +20,9 @@ struct CircleView {
 };
 
 struct CircleRows {
-    std::int32_t halfWidth = 0;   // cx, rounded down
-    std::int32_t upperHalf = 0;   // height - height / 2
-    double shiftX = 0.0;          // whole pixels
+    std::int32_t halfWidth = 0;  // cx, rounded down
+    std::int32_t upperHalf = 0;  // height - height / 2
+    double shiftX = 0.0;         // whole pixels
     double shiftY = 0.0;
     std::int32_t centreX = 0;
     std::int32_t centreY = 0;

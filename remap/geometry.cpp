@@ -10,7 +10,9 @@
 
 namespace varnel {
 
-std::string_view ToText(LensKind kind) { return kind == LensKind::Sin ? "Sin" : "Tan"; }
+std::string_view ToText(LensKind kind) {
+    return kind == LensKind::Sin ? "Sin" : "Tan";
+}
 
 SourceOffset NowhereOnSource() {
     constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -55,8 +57,7 @@ double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor
         factor * static_cast<double>(outputAovDegrees) * static_cast<double>(Pi) / 180.0 / 2.0;
     const float effective = EffectiveAngle(Radians(outputAovDegrees), effectPercent);
     const double partial = std::sin(factor * static_cast<double>(effective) / 2.0);
-    return std::sin(full) /
-           NonZero(partial, "the sine of LensMapFactor x OutputAOV x effect / 2");
+    return std::sin(full) / NonZero(partial, "the sine of LensMapFactor x OutputAOV x effect / 2");
 }
 
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {
@@ -102,7 +103,9 @@ Ray RayRotation::Turn(const Ray& ray) const {
     return {x3, y3, z2};
 }
 
-Ray RotateRay(const Ray& ray, const Rotation& rotation) { return RayRotation(rotation).Turn(ray); }
+Ray RotateRay(const Ray& ray, const Rotation& rotation) {
+    return RayRotation(rotation).Turn(ray);
+}
 
 SourceOffset PolarOffset(double x, double y, double radius) {
     if (x > 0.0) {

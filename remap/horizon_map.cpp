@@ -23,8 +23,8 @@ double ColumnAngle(int column, std::int32_t halfWidth) {
 
 HorizonMap::HorizonMap(const CircleView& view)
     : rows_(MeasureCircle(view)),
-      rowDivisor_(CLng(static_cast<double>(Pi) * rows_.upperHalf / view.source.width,
-                       "the row divisor")),
+      rowDivisor_(
+          CLng(static_cast<double>(Pi) * rows_.upperHalf / view.source.width, "the row divisor")),
       // With a vertical shift the covered rows are lopsided: the lower bound is |dY| - Hc.
       firstRadius_(CLng(std::fabs(rows_.shiftY) - rows_.upperHalf, "OfsetY")) {
     NonZero(rowDivisor_, "the row divisor (the picture is more than three times as wide as high)");

@@ -74,7 +74,8 @@ class RotatedRectilinearMap {
     // Throws as RectilinearRadius, and when the effective angle of view is 0.
     RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move);
     // x and y are loop values: the ray goes through (x + ShiftX(), y + ShiftY()) and what it finds
-    // is written at (x - ShiftX(), y - ShiftY()) from the centre. That the shift counts twice is meant.
+    // is written at (x - ShiftX(), y - ShiftY()) from the centre. That the shift counts twice is
+    // meant.
     SourceOffset At(int x, int y) const;
     // The shift in pixels, single precision; positive translations give negative shifts.
     float ShiftX() const { return shiftX_; }

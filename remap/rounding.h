@@ -19,13 +19,19 @@ namespace varnel {
 inline constexpr float Pi = 3.1415927F;
 
 // Rounds toward minus infinity.
-inline double Int(double x) { return std::floor(x); }
+inline double Int(double x) {
+    return std::floor(x);
+}
 
 // Rounds to the nearest whole number, ties to even.
-inline double Round(double x) { return std::nearbyint(x); }
+inline double Round(double x) {
+    return std::nearbyint(x);
+}
 
 // Rounds to eight decimal places, ties to even.
-inline double Round8(double x) { return std::nearbyint(x * 1e8) / 1e8; }
+inline double Round8(double x) {
+    return std::nearbyint(x * 1e8) / 1e8;
+}
 
 // Rounds to the nearest 32-bit whole number, ties to even. Throws OverflowError, naming the value,
 // when the result does not fit.

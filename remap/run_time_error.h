@@ -31,7 +31,8 @@ class DivisionByZeroError : public RunTimeError {
 // not a number.
 inline double NonZero(double divisor, const char* name) {
     if (!(divisor < 0.0 || divisor > 0.0)) {
-        throw DivisionByZeroError(std::string(name) + " is " + (divisor == 0.0 ? "0" : "no number"));
+        throw DivisionByZeroError(std::string(name) + " is " +
+                                  (divisor == 0.0 ? "0" : "no number"));
     }
     return divisor;
 }

@@ -11,8 +11,8 @@ namespace varnel {
 
 SourceOffset VarnelMap::At(int column, int row) const {
     const double radius = static_cast<double>(rows_.radius);
-    const double phi = column == 0 ? static_cast<double>(row > 0 ? Pi / 2.0F : -Pi / 2.0F)
-                                   : ArcSin(row / radius);
+    const double phi =
+        column == 0 ? static_cast<double>(row > 0 ? Pi / 2.0F : -Pi / 2.0F) : ArcSin(row / radius);
     if (phi == 0.0) {
         return {static_cast<double>(column), static_cast<double>(row)};
     }

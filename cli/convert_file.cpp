@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/convert_file.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <new>
+
+#include "pipeline/output_name.h"
+#include "pipeline/preview_size.h"
+#include "remap/run_time_error.h"
+#include "remap/save_bitmap.h"
+#include "state/gear_assignment.h"
+#include "state/record_fields.h"
+
+namespace varnel {
+
+namespace {
+
+OutputType TypeFor(const Options& options, const GeneralSettings& settings) {
+    if (options.type) {
+        return *options.type;
+    }
+    return OutputTypeByEnding(options.output).value_or(OutputTypeFromText(settings.FileType));
+}
+
+QString TargetName(const ConversionRun& run, const OpenPhoto& photo, const ImageRecord& record,
+                   OutputType type) {
+    if (!run.options.output.isEmpty()) {
+        return run.options.output;
+    }
+    if (!run.options.outputDir.isEmpty()) {
+        return BatchName(record, run.options.outputDir, {}, type);
+    }
+    return ProposedName(photo.path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
+}
+
+QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QString& target) {
+    const QFileInfo file(target);
+    if (!file.exists()) {
+        return {};
+    }
+    if (file.isDir()) {
+        return QStringLiteral("this is a folder");
+    }
+    if (file.canonicalFilePath() == QFileInfo(photo.path).canonicalFilePath()) {
+        return QStringLiteral("this is the photo itself");
+    }
+    if (!run.options.force) {
+        return QStringLiteral("the file exists; --force replaces it");
+    }
+    return photo.damaged ? QStringLiteral("a damaged photo does not replace an existing file")
+                         : QString();
+}
+
+void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
+    RenderDesk desk{photo.bitmaps, [&run] { return run.options.antialiased; }};
+    const SizeKind kind = run.options.preview ? SizeKind::Thumbnails : SizeKind::Large;
+    if (run.options.preview && !photo.bitmaps.PreviewSourceBitmap) {
+        FIBITMAP* const full = photo.bitmaps.FullSourceBitmap.get();
+        const PixelSize box = *run.options.preview;
+        photo.bitmaps.PreviewSourceBitmap = ReducedCopy(full, PreviewSize(SizeOf(full), box, box));
+    }
+    Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
+}
+
+QString RenderTrouble(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
+    try {
+        RenderInto(run, photo, record);
+        return {};
+    } catch (const RunTimeError& error) {
+        return QString::fromUtf8(error.what());
+    } catch (const std::bad_alloc&) {
+        return QStringLiteral("not enough memory");
+    }
+}
+
+}  // namespace
+
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP* picture) {
+    ImageRecord record;
+    const QFileInfo file(path);
+    record.FileName = file.fileName();
+    record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
+    TakeSize(picture, record);
+    AssignGear(run.gear, record);
+    for (const Adjustment& adjustment : run.options.adjustments) {
+        const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));
+        const float value = effect ? std::max(adjustment.value, 0.1F) : adjustment.value;
+        SetField(record, adjustment.field, QString::number(static_cast<double>(value), 'g', 9));
+    }
+    return record;
+}
+
+Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection) {
+    ImageRecord record = photo.record;
+    record.Projection = static_cast<std::int16_t>(projection);
+    for (const auto& [field, value] : run.options.fields) {
+        SetField(record, field, value);
+    }
+    const OutputType type = TypeFor(run.options, run.settings);
+    const QString target = TargetName(run, photo, record, type);
+    if (const QString trouble = TargetTrouble(run, photo, target); !trouble.isEmpty()) {
+        return {target, trouble};
+    }
+    if (const QString trouble = RenderTrouble(run, photo, record); !trouble.isEmpty()) {
+        return {target, trouble};
+    }
+    const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
+    const SaveResult saved = SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
+                                        SaveFlags(type, quality));
+    return {target, saved.ok ? QString() : saved.reason};
+}
+
+}  // namespace varnel

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// One photo, one projection, one file.
+#pragma once
+
+#include <QString>
+
+#include "cli/options.h"
+#include "gear/gear_record.h"
+#include "pipeline/load_picture.h"
+#include "remap/render.h"
+#include "state/general_settings.h"
+
+namespace varnel {
+
+// What all conversions of a run have in common.
+struct ConversionRun {
+    const Options& options;
+    const GearRecord& gear;
+    const GeneralSettings& settings;
+    RenderProgress& progress;
+};
+
+// A photo that was read, and the record that its conversions start from.
+struct OpenPhoto {
+    QString path;  // as given
+    ImageRecord record;
+    Bitmaps bitmaps;
+    bool damaged = false;
+};
+
+// The record of a photo with its size known: gear, then the options' adjustments.
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP* picture);
+
+struct Written {
+    QString file;    // the name written or meant
+    QString reason;  // why it was not written; empty when it was
+};
+
+// Converts and writes. Never replaces the photo itself, an older file only with --force, and not
+// even then by a conversion of a damaged photo.
+Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection);
+
+}  // namespace varnel

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The lists that varnel-convert prints.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <variant>
+
+#include "cli/options.h"
+#include "state/settings_store.h"
+
+namespace varnel {
+
+// One entry a line: cameras and lenses as BRAND/MODEL, ready for --camera and --lens, all or those
+// of one brand; gears by name. Otherwise one line that says why not.
+std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore& store);
+
+}  // namespace varnel

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The command line of varnel-convert.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "pipeline/output_type.h"
+#include "remap/geometry.h"
+#include "state/projection.h"
+
+namespace varnel {
+
+enum class Command { Convert, ListCameras, ListLenses, ListGears, Help, Version };
+
+// The part before the first slash and the rest of BRAND/MODEL.
+struct CatalogueName {
+    QString brand;
+    QString model;
+};
+
+// A number that goes into one field of the image record, or into both effect fields.
+struct Adjustment {
+    QString field;
+    float value = 0.0F;
+};
+
+struct Options {
+    Command command = Command::Convert;
+    QStringList files;  // for the lists: the brand, if one was given
+    std::vector<Projection> projections{Projection::Varnel};
+    QString gear;
+    std::optional<CatalogueName> camera;
+    std::optional<CatalogueName> lens;
+    std::vector<Adjustment> adjustments;
+    std::vector<std::pair<QString, QString>> fields;  // of --set
+    std::optional<PixelSize> preview;
+    bool antialiased = false;
+    QString output;
+    QString outputDir;
+    std::optional<OutputType> type;
+    std::optional<int> quality;
+    bool force = false;
+    bool quiet = false;
+};
+
+// The options, or one line that says what is wrong with the command line. The first argument is the
+// program's name. Numbers have a decimal point whatever the locale.
+std::variant<Options, QString> ParseOptions(const QStringList& arguments);
+
+QString HelpText();
+
+}  // namespace varnel

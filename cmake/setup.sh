@@ -1,0 +1,39 @@
+# Shared by ./run and ./test: says what is done, installs packages, builds. Sourced, not run.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libtiff-dev)
+test_packages=("${build_packages[@]}" libgtest-dev)
+
+say() { printf '== %s\n' "$*"; }
+fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then "$@"
+  elif command -v sudo > /dev/null; then sudo "$@"
+  else fail "root or sudo is needed to install packages"
+  fi
+}
+
+install_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2> /dev/null | grep -q 'install ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  say "Installing ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  as_root apt-get update -q > /dev/null || fail "the package lists could not be read (apt-get update)"
+  as_root apt-get install -y -q --no-install-recommends "${missing[@]}" > /dev/null ||
+    fail "packages could not be installed: ${missing[*]}"
+}
+
+# build PRESET [TARGET...]
+build() {
+  local preset=$1; shift
+  say "Building ($preset)"
+  (
+    cd "$here"
+    cmake --preset "$preset" > "build-$preset.log" 2>&1 || { cat "build-$preset.log" >&2; exit 1; }
+    rm -f "build-$preset.log"
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+  ) || fail "the build failed, see above"
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/output_name.h"
+
+#include "remap/rounding.h"
+
+namespace varnel {
+
+namespace {
+
+QString Whole(float value, const char* name) {
+    return QString::number(CLng(static_cast<double>(value), name));
+}
+
+// The last three characters of "00" and the number.
+QString Padded(float value, const char* name) {
+    return (QStringLiteral("00") + Whole(value, name)).right(3);
+}
+
+QString EffectTag(float effect) {
+    return effect == 100.0F ? QString() : QStringLiteral("_Eff") + Padded(effect, "the effect");
+}
+
+QString TurnTag(const char16_t* tag, float degrees) {
+    return degrees == 0.0F ? QString()
+                           : QString::fromUtf16(tag) + Whole(degrees, "a rotation angle");
+}
+
+}  // namespace
+
+QString ProposedName(const QString& sourcePath, Projection projection) {
+    return sourcePath.chopped(qMin<qsizetype>(3, sourcePath.size())) + ToText(projection);
+}
+
+QString NameAdditions::For(Projection projection) const {
+    const QString& text = texts[static_cast<std::size_t>(projection)];
+    return text.isEmpty() ? ToText(projection) : text;
+}
+
+QString SettingsTags(const ImageRecord& image) {
+    switch (ProjectionFromIndex(image.Projection)) {
+        case Projection::Varnel:
+            return EffectTag(image.EffectVarnel);
+        case Projection::Rectilinear:
+            return QStringLiteral("_hAOV") + Padded(image.OutputAOV, "OutputAOV") +
+                   EffectTag(image.EffectRectilinear) + TurnTag(u"_LR", image.RotateY) +
+                   TurnTag(u"_UD", image.RotateX) + TurnTag(u"_Zr", image.RotateZ);
+        case Projection::Equidistance:
+        case Projection::Horizon:
+            break;
+    }
+    return {};
+}
+
+QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
+                  OutputType type) {
+    QString name =
+        folder + u'/' + image.FileName.chopped(qMin<qsizetype>(3, image.FileName.size()));
+    name += additions.For(ProjectionFromIndex(image.Projection));
+    if (!image.NameSuffix.isEmpty()) {
+        name += u'_' + image.NameSuffix;
+    }
+    return name + SettingsTags(image) + ExtensionOf(type);
+}
+
+}  // namespace varnel

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/render.h"
+
+namespace varnel {
+
+QString ToText(SizeKind kind) {
+    switch (kind) {
+        case SizeKind::Thumbnails:
+            return QStringLiteral("Thumbnails");
+        case SizeKind::Batch:
+            return QStringLiteral("Batch");
+        case SizeKind::Large:
+            break;
+    }
+    return QStringLiteral("Large");
+}
+
+SizeKind SizeKindFromText(QStringView text) {
+    if (text == u"Thumbnails") {
+        return SizeKind::Thumbnails;
+    }
+    return text == u"Batch" ? SizeKind::Batch : SizeKind::Large;
+}
+
+void Render(Projection projection, const ImageRecord& image, SizeKind kind,
+            RenderProgress& progress, RenderDesk& desk) {
+    switch (projection) {
+        case Projection::Varnel:
+            return RenderVarnel(image, kind, progress, desk);
+        case Projection::Rectilinear:
+            return RenderRectilinear(image, kind, progress, desk);
+        case Projection::Equidistance:
+            return RenderEquidistance(image, kind, progress, desk);
+        case Projection::Horizon:
+            return RenderHorizon(image, kind, progress, desk);
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// One run of a projection: its source, its result and its progress. Shared by the four renderers.
+#pragma once
+
+#include "remap/pixel_access.h"
+#include "remap/render.h"
+
+namespace varnel {
+
+class RenderRun {
+  public:
+    // Picks the source by the kind. The source must be there.
+    RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk);
+    ~RenderRun();
+    RenderRun(const RenderRun&) = delete;
+    RenderRun& operator=(const RenderRun&) = delete;
+
+    FIBITMAP* Source() const { return source_; }
+    PixelSize Size() const { return SizeOf(source_); }
+    // Lets waiting events run once and replaces ResultBitmap by a copy of the source: what the
+    // loops do not reach keeps the source's pixels.
+    void Begin(float maximum);
+    // Shows the value, lets waiting events run and asks anew how to read.
+    void Advance(float value);
+    // True when this column or row is read without interpolation.
+    bool Nearest() const { return nearest_; }
+    // Off the result nothing is written.
+    void Write(std::int32_t x, std::int32_t y, const RGBQUAD& colour) const {
+        SetPixelColor(result_, x, y, colour);
+    }
+
+  private:
+    SizeKind kind_;
+    RenderProgress& progress_;
+    RenderDesk& desk_;
+    FIBITMAP* source_;
+    FIBITMAP* result_ = nullptr;
+    bool nearest_ = false;
+    bool begun_ = false;
+};
+
+}  // namespace varnel

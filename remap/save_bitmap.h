@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Writing a bitmap to a file.
+#pragma once
+
+#include <QString>
+
+#include "remap/bitmap.h"
+
+namespace varnel {
+
+// True when the whole file is in place; otherwise the reason, and an older file of that name is as
+// it was.
+struct SaveResult {
+    bool ok = false;
+    QString reason;
+    explicit operator bool() const { return ok; }
+};
+
+// Encodes in memory and replaces the file in one step, because the library itself reports success
+// for cut files on a full disk. flags are the library's for the format (the quality for JPEG).
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
+                      int flags);
+
+}  // namespace varnel

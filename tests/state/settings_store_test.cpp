@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/settings_store.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "state/general_settings.h"
+#include "state/setting_names.h"
+
+namespace varnel {
+namespace {
+
+QString Text(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+// A settings folder of its own for each test.
+class UserStoreTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder_.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+    }
+    QString FilePath() const { return folder_.filePath(QStringLiteral("Varnel/Varnel.conf")); }
+
+  private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(UserStoreTest, WritesSectionsAsGroupsAndKeysAsTheyStand) {
+    OpenUserStore()->Save(setting::Gear, setting::ItemKey(setting::GearName, 12), Text("My gear"));
+    QFile file(FilePath());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), "[Gear]\nGearName12=My gear\n");
+}
+
+TEST_F(UserStoreTest, ReadsBackEveryTextAndTellsSectionsApart) {
+    const char* const texts[] = {"118,125",          "a, b; c", "@odd", "",
+                                 "caf\u00E9 \u2030", "50%",     "true", "C:\\x"};
+    for (const char* text : texts) {
+        OpenUserStore()->Save(Text("setting"), Text("Name"), Text(text));
+        OpenUserStore()->Save(Text("Settings"), Text("Name"), Text("other"));
+        const auto store = OpenUserStore();
+        EXPECT_EQ(store->Get(Text("setting"), Text("Name"), Text("fallback")), Text(text));
+        EXPECT_EQ(store->Get(Text("Settings"), Text("Name"), Text("fallback")), Text("other"));
+    }
+    EXPECT_EQ(OpenUserStore()->Get(Text("setting"), Text("Missing"), Text("fallback")),
+              Text("fallback"));
+}
+
+TEST_F(UserStoreTest, JoinsACommaThatWasTypedWithoutQuotes) {
+    OpenUserStore()->Save(setting::Gear, Text("other"), Text("x"));
+    QFile file(FilePath());
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    file.write("hAOV1=118,125\n");
+    file.close();
+    EXPECT_EQ(OpenUserStore()->Get(setting::Gear, Text("hAOV1"), Text("0")), Text("118,125"));
+}
+
+TEST(MemoryStore, KeepsTheLastTextOfEachSectionAndKey) {
+    MemoryStore store;
+    store.Save(Text("A"), Text("k"), Text("1"));
+    store.Save(Text("A"), Text("k"), Text("2"));
+    EXPECT_EQ(store.Get(Text("A"), Text("k"), Text("f")), Text("2"));
+    EXPECT_EQ(store.Get(Text("a"), Text("k"), Text("f")), Text("f"));
+    EXPECT_TRUE(store.Contains(Text("A"), Text("k")));
+    EXPECT_FALSE(store.Contains(Text("k"), Text("A")));
+}
+
+TEST(LoadSettings, GivesTheDefaultsOnTheFirstRun) {
+    const GeneralSettings settings = LoadSettings(MemoryStore());
+    EXPECT_EQ(settings.PreviewWidth, 400);
+    EXPECT_EQ(settings.PreviewHeight, 300);
+    EXPECT_EQ(settings.FileType, Text("JPG"));
+    EXPECT_EQ(settings.JPEGcompression, 100);
+}
+
+TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
+    const struct {
+        const char* key;
+        const char* text;
+        GeneralSettings expected;
+    } cases[] = {
+        {"PreviewWidth", "640", {640, 300, Text("JPG"), 100}},
+        {"PreviewWidth", "1000", {1000, 300, Text("JPG"), 100}},
+        {"PreviewWidth", "1001", {1000, 300, Text("JPG"), 100}},
+        {"PreviewWidth", "0", {400, 300, Text("JPG"), 100}},
+        {"PreviewWidth", "99999999999", {400, 300, Text("JPG"), 100}},
+        {"PreviewHeight", "5000", {400, 1000, Text("JPG"), 100}},
+        {"PreviewHeight", "-3", {400, 300, Text("JPG"), 100}},
+        {"PreviewHeight", "tall", {400, 300, Text("JPG"), 100}},
+        {"FileType", "PNG", {400, 300, Text("PNG"), 100}},
+        {"JPEGcompression", "0", {400, 300, Text("JPG"), 0}},
+        {"JPEGcompression", "85", {400, 300, Text("JPG"), 85}},
+        {"JPEGcompression", "101", {400, 300, Text("JPG"), 100}},
+        {"JPEGcompression", "-1", {400, 300, Text("JPG"), 100}},
+        {"JPEGcompression", "", {400, 300, Text("JPG"), 100}},
+    };
+    for (const auto& c : cases) {
+        MemoryStore store;
+        store.Save(Text("setting"), Text(c.key), Text(c.text));
+        EXPECT_EQ(LoadSettings(store), c.expected) << c.key << '=' << c.text;
+        EXPECT_EQ(store.Get(Text("setting"), Text(c.key), {}), Text(c.text)) << "rewritten";
+    }
+}
+
+}  // namespace
+}  // namespace varnel

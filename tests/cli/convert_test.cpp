@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/convert.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <sstream>
+
+#include "gear/gear_store.h"
+#include "pipeline/load_picture.h"
+#include "tests/support/files.h"
+
+namespace varnel {
+namespace {
+
+using testing::Contents;
+using testing::operator==;
+
+// Runs varnel-convert with a store of its own.
+class Convert : public ::testing::Test {
+  protected:
+    int Run(const QStringList& arguments) {
+        out_.str({});
+        err_.str({});
+        return RunConvert(QStringList{QStringLiteral("varnel-convert")} + arguments, store_,
+                          {out_, err_, false});
+    }
+    int RunWithGear(const QStringList& arguments) {
+        return Run(QStringList{QStringLiteral("--camera"), QStringLiteral("Canon/EOS 5D"),
+                               QStringLiteral("--lens"), QStringLiteral("Sigma/EX 8 mm f:3.5")} +
+                   arguments);
+    }
+    QStringList Lines() const {
+        return QString::fromStdString(out_.str()).split(u'\n', Qt::SkipEmptyParts);
+    }
+    bool ErrorHas(const char* text) const { return err_.str().find(text) != std::string::npos; }
+    QStringList FilesIn(const QString& folder) const {
+        return QDir(files_.Path(folder)).entryList(QDir::Files);
+    }
+
+    testing::PictureFolder files_;
+    MemoryStore store_;
+    std::ostringstream out_, err_;
+};
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+TEST_F(Convert, WritesEveryProjectionBesideThePhotoAndNamesThem) {
+    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    EXPECT_EQ(RunWithGear({Q("--projection"), Q("all"), photo}), exitAllWritten);
+    // The first-run type is the text "JPG", which means TIFF.
+    const QStringList expected{
+        files_.Path(Q("IMG.Varnel.TIF")), files_.Path(Q("IMG.Rectilinear.TIF")),
+        files_.Path(Q("IMG.Equidistance.TIF")), files_.Path(Q("IMG.Horizon.TIF"))};
+    EXPECT_EQ(Lines(), expected);
+    for (const QString& name : expected) {
+        const LoadedPicture written = LoadPicture(name);
+        ASSERT_EQ(written.outcome, LoadOutcome::Loaded);
+        EXPECT_EQ(SizeOf(written.bitmap.get()).width, 60);
+    }
+    EXPECT_TRUE(err_.str().empty());
+}
+
+TEST_F(Convert, AFolderGetsTheBatchNames) {
+    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    QDir(files_.Path({})).mkdir(Q("out"));
+    EXPECT_EQ(RunWithGear({Q("--projection=rectilinear"), Q("--output-dir"), files_.Path(Q("out")),
+                           Q("--output-aov=95"), Q("--rotate-y=-5"), Q("--type=png"), photo}),
+              exitAllWritten);
+    EXPECT_EQ(FilesIn(Q("out")), QStringList{Q("IMG.Rectilinear_hAOV095_LR-5.PNG")});
+    EXPECT_EQ(RunWithGear({Q("--output-dir"), files_.Path(Q("nowhere")), photo}), exitUsage);
+    EXPECT_TRUE(ErrorHas("nowhere"));
+}
+
+TEST_F(Convert, ExistingFilesAreKeptUnlessForcedAndThePhotoAlways) {
+    const QString photo = files_.Picture(Q("IMG.bmp"), FIF_BMP);
+    const QString target = files_.Text(Q("target.bmp"));
+    const QByteArray before = Contents(target);
+    EXPECT_EQ(RunWithGear({Q("--output"), target, photo}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("target.bmp: the file exists; --force replaces it"));
+    EXPECT_EQ(Contents(target), before);
+    EXPECT_EQ(RunWithGear({Q("--force"), Q("--output"), target, photo}), exitAllWritten);
+    EXPECT_NE(Contents(target), before);
+    const QByteArray original = Contents(photo);
+    EXPECT_EQ(RunWithGear({Q("--force"), Q("--output"), photo, photo}), exitSomeFailed);
+    EXPECT_EQ(Contents(photo), original);
+}
+
+TEST_F(Convert, BadPhotosAreNamedAndTheOthersDone) {
+    const QString good = files_.Picture(Q("good.png"), FIF_PNG);
+    const QString text = files_.Text(Q("text.jpg"));
+    EXPECT_EQ(RunWithGear({files_.Path(Q("none.jpg")), text, good}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("none.jpg: there is no such file"));
+    EXPECT_TRUE(ErrorHas("text.jpg: this is not a picture of a known type"));
+    EXPECT_EQ(Lines(), QStringList{files_.Path(Q("good.Varnel.TIF"))});
+}
+
+TEST_F(Convert, ADamagedPhotoIsToldAndNeverReplacesAFile) {
+    const QString whole = files_.Picture(Q("whole.jpg"), FIF_JPEG, {300, 200});
+    const QString cut = files_.Cut(Q("cut.jpg"), whole, 60);
+    EXPECT_EQ(RunWithGear({cut}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("cut.jpg: damaged: "));
+    const QString target = files_.Text(Q("target.bmp"));
+    EXPECT_EQ(RunWithGear({Q("--force"), Q("--output"), target, cut}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("a damaged photo does not replace an existing file"));
+    EXPECT_EQ(Contents(target), Q("this is no picture\n").toUtf8());
+}
+
+TEST_F(Convert, AnImpossibleNumberIsNamedAndNothingIsWritten) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    EXPECT_EQ(RunWithGear({Q("--set"), Q("Ratio=0"), photo}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("IMG.Varnel.TIF: Division by zero: Ratio is 0"));
+    EXPECT_EQ(FilesIn({}), QStringList{Q("IMG.png")});
+}
+
+TEST_F(Convert, WithoutAGearItSaysHowToGiveOne) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    EXPECT_EQ(Run({photo}), exitUsage);
+    EXPECT_TRUE(ErrorHas("--camera BRAND/MODEL and --lens BRAND/MODEL"));
+    EXPECT_EQ(Run({Q("--gear"), Q("mine"), photo}), exitUsage);
+    EXPECT_EQ(
+        Run({Q("--camera"), Q("Canon/Nothing"), Q("--lens"), Q("Sigma/EX 8 mm f:3.5"), photo}),
+        exitUsage);
+    EXPECT_TRUE(ErrorHas("unknown camera \"Canon/Nothing\""));
+}
+
+TEST_F(Convert, StoredGearsServeByNameAndByDefault) {
+    GearTable table;
+    table.Resize(2);
+    for (const int n : {1, 2}) {
+        table(n).GearName = Q(n == 1 ? "one" : "two");
+        table(n).CameraBrand = Q("Canon");
+        table(n).CameraModel = Q("EOS 5D");
+        table(n).LensBrand = Q("Sigma");
+        table(n).LensModel = Q("EX 8 mm f:3.5");
+        table(n).GearRatio = n == 1 ? 150.0F : 100.0F;
+        table(n).hAOV = 180.0F;
+    }
+    table.DefaultGearName = Q("two");
+    SaveGear(store_, table);
+    EXPECT_EQ(Run({Q("--list-gears")}), exitAllWritten);
+    EXPECT_EQ(Lines(), (QStringList{Q("one"), Q("two")}));
+
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const auto picture = [&](const QStringList& options, const char* name) {
+        EXPECT_EQ(Run(options + QStringList{Q("--output"), files_.Path(Q(name)), photo}),
+                  exitAllWritten)
+            << err_.str();
+        return Contents(files_.Path(Q(name)));
+    };
+    const QByteArray byDefault = picture({}, "default.bmp");
+    EXPECT_EQ(byDefault, picture({Q("--gear"), Q("two")}, "two.bmp"));
+    EXPECT_NE(byDefault, picture({Q("--gear"), Q("one")}, "one.bmp"));
+    // --set comes after everything else.
+    EXPECT_EQ(byDefault, picture({Q("--gear"), Q("one"), Q("--set"), Q("Ratio=100")}, "set.bmp"));
+}
+
+TEST_F(Convert, APreviewHasItsSizeAndFollowsAntialiasing) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG, {300, 200});
+    const auto preview = [&](const QStringList& options, const char* name) {
+        EXPECT_EQ(RunWithGear(options + QStringList{Q("--preview=60x60"), Q("--output"),
+                                                    files_.Path(Q(name)), photo}),
+                  exitAllWritten);
+        return LoadPicture(files_.Path(Q(name))).bitmap;
+    };
+    const BitmapHandle plain = preview({}, "plain.bmp");
+    EXPECT_EQ(SizeOf(plain.get()).width, 60);
+    EXPECT_EQ(SizeOf(plain.get()).height, 40);
+    preview({Q("--antialiased")}, "smooth.bmp");
+    EXPECT_NE(Contents(files_.Path(Q("plain.bmp"))), Contents(files_.Path(Q("smooth.bmp"))));
+}
+
+TEST_F(Convert, ListsAreReadyForTheOptions) {
+    EXPECT_EQ(Run({Q("--list-cameras"), Q("GoPro")}), exitAllWritten);
+    EXPECT_EQ(Lines(), QStringList{Q("GoPro/Hero 3 Black")});
+    EXPECT_EQ(Run({Q("--list-cameras")}), exitAllWritten);
+    EXPECT_EQ(Lines().size(), 479);
+    EXPECT_EQ(Run({Q("--list-lenses")}), exitAllWritten);
+    EXPECT_EQ(Lines().size(), 52);
+    EXPECT_EQ(Run({Q("--list-lenses"), Q("Nobody")}), exitUsage);
+}
+
+}  // namespace
+}  // namespace varnel

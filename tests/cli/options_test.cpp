@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options.h"
+
+#include <gtest/gtest.h>
+
+namespace varnel {
+namespace {
+
+std::variant<Options, QString> Parse(const char* line) {
+    return ParseOptions(QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts));
+}
+
+TEST(ParseOptions, EveryOptionReachesItsPlace) {
+    const auto parsed = Parse(
+        "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
+        "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
+        "--antialiased --output-dir out --type png --quality 80 --force --quiet a.jpg b.jpg");
+    ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
+    const Options& options = std::get<Options>(parsed);
+    EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
+    EXPECT_EQ(options.lens->brand, QStringLiteral("A"));  // split at the first slash
+    EXPECT_EQ(options.lens->model, QStringLiteral("B/C"));
+    ASSERT_EQ(options.adjustments.size(), 4U);  // --effect counts twice
+    EXPECT_EQ(options.adjustments[2].field, QStringLiteral("RotateX"));
+    EXPECT_EQ(options.adjustments[2].value, -5.0F);
+    EXPECT_EQ(options.adjustments[3].value, 1.5F);
+    ASSERT_EQ(options.fields.size(), 2U);
+    EXPECT_EQ(options.fields[1].second, QStringLiteral("0"));
+    EXPECT_EQ(options.preview->height, 300);
+    EXPECT_EQ(options.type, OutputType::Png);
+    EXPECT_EQ(options.quality, 80);
+    EXPECT_TRUE(options.antialiased && options.force && options.quiet);
+    EXPECT_EQ(options.files.size(), 2);
+}
+
+TEST(ParseOptions, AllProjectionsAndDefaults) {
+    EXPECT_EQ(std::get<Options>(Parse("p --projection all a")).projections.size(), 4U);
+    const Options options = std::get<Options>(Parse("p a"));
+    EXPECT_EQ(options.projections, std::vector{Projection::Varnel});
+    EXPECT_FALSE(options.type || options.quality || options.preview);
+}
+
+TEST(ParseOptions, AWrongLineIsToldInOneLine) {
+    for (const char* line : {"p",
+                             "p --nonsense a",
+                             "p --projection flat a",
+                             "p --projection",
+                             "p --type gif a",
+                             "p --quality 0 a",
+                             "p --quality 101 a",
+                             "p --quality 1.5 a",
+                             "p --effect 1,5 a",
+                             "p --effect nan a",
+                             "p --rotate-x 1e99 a",
+                             "p --preview 400 a",
+                             "p --preview 0x3 a",
+                             "p --preview 4x3x2 a",
+                             "p --camera Canon --lens A/B a",
+                             "p --camera Canon/EOS a",
+                             "p --gear g --camera A/B --lens C/D a",
+                             "p --output x --output-dir y a",
+                             "p --output x a b",
+                             "p --output x --projection all a",
+                             "p --set RotateZ a",
+                             "p --set Nonsense=1 a",
+                             "p --set RotateZ=much a",
+                             "p --set Projection=99999 a"}) {
+        const auto parsed = Parse(line);
+        ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << line;
+        EXPECT_FALSE(std::get<QString>(parsed).isEmpty()) << line;
+        EXPECT_FALSE(std::get<QString>(parsed).contains(u'\n')) << line;
+    }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/output_name.h"
+
+#include <gtest/gtest.h>
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+TEST(OutputType, SettingsTextsEndingsAndCodes) {
+    struct {
+        OutputType type;
+        const char *text, *extension, *filter;
+        FREE_IMAGE_FORMAT format;
+        int flags;
+    } const rows[] = {
+        {OutputType::Tiff, "TIFF", ".TIF", "Tiff (*.TIF)", FIF_TIFF, TIFF_LZW},
+        {OutputType::Jpeg, "JPEG", ".JPG", "Jpeg (*.JPG)", FIF_JPEG, 87},
+        {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", FIF_BMP, BMP_DEFAULT},
+        {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", FIF_PNG, PNG_DEFAULT},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(ToText(row.type), Q(row.text));
+        EXPECT_EQ(OutputTypeFromText(Q(row.text)), row.type);
+        EXPECT_EQ(ExtensionOf(row.type), Q(row.extension));
+        EXPECT_EQ(FilterOf(row.type), Q(row.filter));
+        EXPECT_EQ(FormatOf(row.type), row.format);
+        EXPECT_EQ(SaveFlags(row.type, 87), row.flags);
+    }
+    EXPECT_EQ(OutputTypeFromText(u"JPG"), OutputType::Tiff);
+    EXPECT_EQ(OutputTypeByEnding(u"a.b.jpeg"), OutputType::Jpeg);
+    EXPECT_EQ(OutputTypeByEnding(u"a.TIFF"), OutputType::Tiff);
+    EXPECT_EQ(OutputTypeByEnding(u"a.gif"), std::nullopt);
+}
+
+TEST(WithExtension, IsAppendedUnlessAlreadyThere) {
+    struct {
+        const char* name;
+        OutputType type;
+        const char* expected;
+    } const rows[] = {{"IMG_0001.Rectilinear", OutputType::Tiff, "IMG_0001.Rectilinear.TIF"},
+                      {"out.tif", OutputType::Tiff, "out.tif"},
+                      {"out.jpg", OutputType::Tiff, "out.jpg.TIF"},
+                      {"out.tiff", OutputType::Tiff, "out.tiff.TIF"},
+                      {"a", OutputType::Png, "a.PNG"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(WithExtension(Q(row.name), row.type), Q(row.expected));
+    }
+}
+
+TEST(ProposedName, TheDotOfTheOldExtensionStays) {
+    EXPECT_EQ(ProposedName(Q("/p/IMG_0001.jpg"), Projection::Rectilinear),
+              Q("/p/IMG_0001.Rectilinear"));
+    EXPECT_EQ(ProposedName(Q("IMG.tiff"), Projection::Varnel), Q("IMG.tVarnel"));
+    EXPECT_EQ(ProposedName(Q("ab"), Projection::Horizon), Q("Horizon"));
+}
+
+struct Entry {
+    int projection = 1;
+    float outputAov = 95.0F, effect = 100.0F;
+    float x = 0.0F, y = 0.0F, z = 0.0F;
+    const char* suffix = "";
+    const char* expected;
+};
+
+TEST(BatchName, TagsTellTheSettings) {
+    const Entry rows[] = {
+        {.expected = "/o/IMG.Rectilinear_hAOV095.TIF"},
+        {.outputAov = 130.0F, .y = -5.0F, .expected = "/o/IMG.Rectilinear_hAOV130_LR-5.TIF"},
+        {.effect = 7.0F,
+         .x = 12.0F,
+         .y = 3.0F,
+         .z = -40.0F,
+         .expected = "/o/IMG.Rectilinear_hAOV095_Eff007_LR3_UD12_Zr-40.TIF"},
+        {.outputAov = 94.5F,
+         .effect = 0.1F,
+         .y = 0.4F,
+         .expected = "/o/IMG.Rectilinear_hAOV094_Eff000_LR0.TIF"},
+        {.projection = 0, .x = 5.0F, .expected = "/o/IMG.Varnel.TIF"},
+        {.projection = 0,
+         .effect = 80.0F,
+         .suffix = "Morph0001",
+         .expected = "/o/IMG.Varnel_Morph0001_Eff080.TIF"},
+        {.projection = 2, .effect = 80.0F, .expected = "/o/IMG.Equidistance.TIF"},
+        {.projection = 3, .x = 5.0F, .expected = "/o/IMG.Horizon.TIF"},
+        {.projection = 9, .expected = "/o/IMG.Horizon.TIF"},
+    };
+    for (const Entry& row : rows) {
+        ImageRecord image;
+        image.FileName = Q("IMG.jpg");
+        image.Projection = static_cast<std::int16_t>(row.projection);
+        image.OutputAOV = row.outputAov;
+        image.EffectVarnel = row.effect;
+        image.EffectRectilinear = row.effect;
+        image.RotateX = row.x;
+        image.RotateY = row.y;
+        image.RotateZ = row.z;
+        image.NameSuffix = Q(row.suffix);
+        EXPECT_EQ(BatchName(image, Q("/o"), {}, OutputType::Tiff), Q(row.expected));
+    }
+}
+
+TEST(BatchName, AnAdditionReplacesTheProjectionsName) {
+    NameAdditions additions;
+    additions.texts[0] = Q("wide");
+    ImageRecord image;
+    image.FileName = Q("IMG.jpg");
+    image.EffectVarnel = 100.0F;
+    EXPECT_EQ(BatchName(image, Q("/o"), additions, OutputType::Jpeg), Q("/o/IMG.wide.JPG"));
+}
+
+}  // namespace
+}  // namespace varnel

@@ -26,8 +26,8 @@ constexpr auto brands = std::to_array<BrandCount>({
 constexpr std::span<const CameraRow> rows(cameras);
 
 static_assert(cameras.size() == 479 && brands.size() == 20);
-static_assert(RowsFollowBrands(rows, brands));
-static_assert(ModelsAreUnique(rows));
+static_assert(RowsFollowBrands<CameraRow>(rows, brands));
+static_assert(ModelsAreUnique<CameraRow>(rows, brands));
 static_assert(std::ranges::all_of(cameras, [](const CameraRow& row) {
     return row.sensorHeight > 0.0F && row.sensorWidth >= row.sensorHeight;
 }));

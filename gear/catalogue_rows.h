@@ -34,15 +34,21 @@ constexpr bool RowsFollowBrands(std::span<const Row> rows, std::span<const Brand
     return row == rows.end();
 }
 
-// No brand has two rows of one model name. Expects rows that follow their brands.
+// No brand has two rows of one model name. Expects rows that follow their brands. Plain pointers
+// keep this within the number of steps that compilers grant a constant expression.
 template <class Row>
-constexpr bool ModelsAreUnique(std::span<const Row> rows) {
-    for (auto row = rows.begin(); row != rows.end(); ++row) {
-        for (auto other = row + 1; other != rows.end() && other->brand == row->brand; ++other) {
-            if (other->model == row->model) {
-                return false;
+constexpr bool ModelsAreUnique(std::span<const Row> rows, std::span<const BrandCount> brands) {
+    const Row* first = rows.data();
+    for (const BrandCount& brand : brands) {
+        const Row* last = first + brand.models;
+        for (const Row* row = first; row != last; ++row) {
+            for (const Row* other = row + 1; other != last; ++other) {
+                if (other->model == row->model) {
+                    return false;
+                }
             }
         }
+        first = last;
     }
     return true;
 }

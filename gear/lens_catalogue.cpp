@@ -25,8 +25,8 @@ constexpr auto brands = std::to_array<BrandCount>({
 constexpr std::span<const LensRow> rows(lenses);
 
 static_assert(lenses.size() == 52 && brands.size() == 19);
-static_assert(RowsFollowBrands(rows, brands));
-static_assert(ModelsAreUnique(rows));
+static_assert(RowsFollowBrands<LensRow>(rows, brands));
+static_assert(ModelsAreUnique<LensRow>(rows, brands));
 static_assert(std::ranges::all_of(lenses, [](const LensRow& row) {
     return row.imageCircleRadius > 0.0F && row.mapScale > 0.0F && row.mapFactor > 0.0F;
 }));

@@ -32,3 +32,10 @@ endfunction()
 function(varnel_exact_arithmetic name)
   target_compile_options(${name} PRIVATE -ffp-contract=off)
 endfunction()
+
+# varnel_dialogs(NAME SOURCES ... LINKS ...): a library of widgets with its .ui files.
+function(varnel_dialogs name)
+  varnel_library(${name} ${ARGN})
+  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+endfunction()

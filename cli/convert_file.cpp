@@ -36,6 +36,10 @@ QString TargetName(const ConversionRun& run, const OpenPhoto& photo, const Image
     return ProposedName(photo.path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
 }
 
+bool SameFile(const QFileInfo& file, const QString& path) {
+    return file.canonicalFilePath() == QFileInfo(path).canonicalFilePath();
+}
+
 QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QString& target) {
     const QFileInfo file(target);
     if (!file.exists()) {
@@ -44,8 +48,13 @@ QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QS
     if (file.isDir()) {
         return QStringLiteral("this is a folder");
     }
-    if (file.canonicalFilePath() == QFileInfo(photo.path).canonicalFilePath()) {
+    if (SameFile(file, photo.path)) {
         return QStringLiteral("this is the photo itself");
+    }
+    // One that is yet to be converted, say: "varnel *" where an earlier result lies.
+    if (std::ranges::any_of(run.options.files,
+                            [&](const QString& path) { return SameFile(file, path); })) {
+        return QStringLiteral("this is one of the photos to convert");
     }
     if (!run.options.force) {
         return QStringLiteral("the file exists; --force replaces it");
@@ -83,7 +92,7 @@ ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP*
     const QFileInfo file(path);
     record.FileName = file.fileName();
     record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
-    TakeSize(picture, record);
+    TakeSize(SizeOf(picture), record);
     AssignGear(run.gear, record);
     for (const Adjustment& adjustment : run.options.adjustments) {
         const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));

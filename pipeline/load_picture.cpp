@@ -4,51 +4,14 @@
 #include "pipeline/load_picture.h"
 
 #include <QFile>
-#include <QFileInfo>
 
+#include "pipeline/file_check.h"
 #include "pipeline/picture_damage.h"
 #include "remap/library_messages.h"
 
 namespace varnel {
 
 namespace {
-
-// Empty when the path leads to something that can be read as a file. A pipe would make the library
-// wait for ever, and it has one and the same answer for everything else.
-QString PathTrouble(const QString& path) {
-    const QFileInfo file(path);
-    if (file.isSymLink() && !file.exists()) {
-        return QStringLiteral("the link leads nowhere");
-    }
-    if (!file.exists()) {
-        return QStringLiteral("there is no such file");
-    }
-    if (file.isDir()) {
-        return QStringLiteral("this is a folder, not a picture");
-    }
-    if (!file.isFile()) {
-        return QStringLiteral("this is no regular file");
-    }
-    if (!file.isReadable()) {
-        return QStringLiteral("no permission to read it");
-    }
-    return file.size() == 0 ? QStringLiteral("the file is empty") : QString();
-}
-
-QString SizeTrouble(FIBITMAP* bitmap) {
-    const unsigned width = FreeImage_GetWidth(bitmap);
-    const unsigned height = FreeImage_GetHeight(bitmap);
-    if (width == 0 || height == 0) {
-        return QStringLiteral("the picture has no pixels");
-    }
-    if (width > largestSide || height > largestSide) {
-        return QStringLiteral("too large: %1 x %2 pixels, a side may have %3")
-            .arg(width)
-            .arg(height)
-            .arg(largestSide);
-    }
-    return {};
-}
 
 int LoadFlags(FREE_IMAGE_FORMAT format) {
     switch (format) {
@@ -127,8 +90,7 @@ LoadedPicture LoadPicture(const QString& path) {
     }
 }
 
-void TakeSize(FIBITMAP* picture, ImageRecord& image) {
-    const PixelSize size = SizeOf(picture);
+void TakeSize(PixelSize size, ImageRecord& image) {
     image.Width = static_cast<std::int16_t>(size.width);
     image.Height = static_cast<std::int16_t>(size.height);
     image.Landscape = size.width >= size.height;

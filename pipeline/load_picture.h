@@ -27,14 +27,11 @@ struct LoadedPicture {
     }
 };
 
-// The most that a side may have: records keep sides in 16 bits.
-inline constexpr unsigned largestSide = 32767;
-
 // The file's type is taken from its contents. JPEG is decoded accurately and raw files are
 // developed for display; every depth ends as 24 bits.
 LoadedPicture LoadPicture(const QString& path);
 
-// Sets Width, Height and Landscape of the record from a picture at full size.
-void TakeSize(FIBITMAP* picture, ImageRecord& image);
+// Sets Width, Height and Landscape of the record from the size of the full picture.
+void TakeSize(PixelSize size, ImageRecord& image);
 
 }  // namespace varnel

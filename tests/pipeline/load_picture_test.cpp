@@ -9,6 +9,7 @@
 
 #include <QFile>
 
+#include "pipeline/picture_size.h"
 #include "tests/support/files.h"
 
 namespace varnel {
@@ -31,6 +32,8 @@ TEST(LoadPicture, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
         EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
+        EXPECT_EQ(ReadPictureSize(folder.Path(QStringLiteral("Küste %1.jpg").arg(format)))->height,
+                  40);
         EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).rgbGreen, 25, 4);
     }
 }
@@ -79,6 +82,7 @@ TEST(LoadPicture, WhatIsNoPictureIsRefusedWithItsReason) {
         EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << row.path.toStdString();
         EXPECT_EQ(picture.reason.toStdString(), row.reason);
         EXPECT_FALSE(picture.bitmap);
+        EXPECT_FALSE(ReadPictureSize(row.path));
     }
 }
 
@@ -116,7 +120,7 @@ TEST(TakeSize, LandscapeIsWidthAtLeastHeight) {
     for (const auto& [width, height, landscape] :
          {std::tuple{60, 40, true}, {40, 60, false}, {50, 50, true}}) {
         ImageRecord image;
-        TakeSize(NewBitmap({width, height}).get(), image);
+        TakeSize({width, height}, image);
         EXPECT_EQ(image.Width, width);
         EXPECT_EQ(image.Height, height);
         EXPECT_EQ(image.Landscape, landscape);

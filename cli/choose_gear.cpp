@@ -55,16 +55,24 @@ GearTable StoredGears(SettingsStore& store) {
     return table;
 }
 
+std::optional<GearRecord> DefaultGear(const GearTable& table) {
+    if (table.UpperBound() == 0) {
+        return std::nullopt;
+    }
+    return table(std::max(table.Find(table.DefaultGearName), 1));
+}
+
 std::variant<GearRecord, QString> ChooseGear(const Options& options, SettingsStore& store) {
     if (options.camera && options.lens) {
         return FromCatalogues(*options.camera, *options.lens);
     }
     const GearTable table = StoredGears(store);
-    if (table.UpperBound() == 0) {
+    const std::optional<GearRecord> byDefault = DefaultGear(table);
+    if (!byDefault) {
         return QStringLiteral("no gear is defined; ") + HowToGiveOne();
     }
     if (options.gear.isEmpty()) {
-        return table(std::max(table.Find(table.DefaultGearName), 1));
+        return *byDefault;
     }
     const int n = table.Find(options.gear);
     if (n == 0) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <variant>
 
 #include "cli/options.h"
@@ -15,6 +16,9 @@ namespace varnel {
 
 // The gears of the store; an empty table when there are none. Nobody is asked to define one.
 GearTable StoredGears(SettingsStore& store);
+
+// The default gear, the first one when the table has none of that name; nothing in an empty table.
+std::optional<GearRecord> DefaultGear(const GearTable& table);
 
 // From the catalogues when a camera and a lens are given, else by name from the store, else the
 // store's default gear. Otherwise one line that says what is missing and how to give it.

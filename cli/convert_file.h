@@ -38,7 +38,7 @@ struct Written {
     QString reason;  // why it was not written; empty when it was
 };
 
-// Converts and writes. Never replaces the photo itself, an older file only with --force, and not
+// Converts and writes. Never replaces a photo of the run, an older file only with --force, and not
 // even then by a conversion of a damaged photo.
 Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection);
 

@@ -82,7 +82,7 @@ bool IsEmpty(const GearNames& names) {
 
 GearLoad AskForFirstGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
     while (table(0).GearName.isEmpty()) {
-        prompt.Explain(QStringLiteral("Please define at least one camera + lens combination ..."));
+        prompt.Explain(NoGearText());
         table(0) = GearRecord();
         if (!prompt.DefineGear(table)) {
             table.Resize(0);
@@ -103,6 +103,10 @@ void TakeOverOldGear(const GearNames& names, SettingsStore& store, GearTable& ta
 }
 
 }  // namespace
+
+QString NoGearText() {
+    return QStringLiteral("Please define at least one camera + lens combination ...");
+}
 
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
     table = GearTable();

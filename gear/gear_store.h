@@ -11,6 +11,9 @@
 
 namespace varnel {
 
+// What is said while there is no gear at all.
+QString NoGearText();
+
 // What loading asks of the user while there is no gear at all.
 class GearPrompt {
   public:

@@ -88,6 +88,14 @@ TEST_F(Convert, ExistingFilesAreKeptUnlessForcedAndThePhotoAlways) {
     const QByteArray original = Contents(photo);
     EXPECT_EQ(RunWithGear({Q("--force"), Q("--output"), photo, photo}), exitSomeFailed);
     EXPECT_EQ(Contents(photo), original);
+    // Nor is another photo of the same run replaced, before or after its turn.
+    const QString other = files_.Picture(Q("IMG.Varnel.TIF"), FIF_TIFF);
+    const QByteArray untouched = Contents(other);
+    for (const QStringList& photos : {QStringList{photo, other}, QStringList{other, photo}}) {
+        EXPECT_EQ(RunWithGear(QStringList{Q("--force")} + photos), exitSomeFailed);
+        EXPECT_TRUE(ErrorHas("IMG.Varnel.TIF: this is one of the photos to convert"));
+        EXPECT_EQ(Contents(other), untouched);
+    }
 }
 
 TEST_F(Convert, BadPhotosAreNamedAndTheOthersDone) {

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What a program of the command line says, and how it ends.
+#pragma once
+
+#include <QString>
+#include <ostream>
+#include <string>
+
+namespace varnel {
+
+inline constexpr int exitAllWritten = 0;
+inline constexpr int exitSomeFailed = 1;
+inline constexpr int exitUsage = 2;
+
+struct Console {
+    std::ostream& out;  // names of written files, lists, help
+    std::ostream& err;  // what went wrong, one line each
+    bool bar = false;   // draw a progress bar on err
+    const char* program = "varnel-convert";
+};
+
+std::string LocalText(const QString& text);
+
+// One line on err, led by the program's name.
+void Complain(const Console& console, const QString& text);
+
+// Complains about what the command line asks for; returns exitUsage.
+int Refuse(const Console& console, const QString& text);
+
+// The text on out; returns exitAllWritten.
+int Show(const Console& console, const QString& text);
+
+// File names are UTF-8 wherever Varnel runs. Under a C locale Qt would switch by itself, but say so
+// on stderr each time. To be called first in main.
+void UseUtf8Locale();
+
+}  // namespace varnel

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The photos of one command, one after the other.
+#pragma once
+
+#include "cli/console.h"
+#include "cli/options.h"
+#include "gear/gear_record.h"
+#include "state/general_settings.h"
+
+namespace varnel {
+
+// Converts every photo that the options name. The name of each written file goes to out; a photo
+// that fails is told on err and the others are done. Returns the exit code.
+int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
+                  const Console& console);
+
+}  // namespace varnel

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/convert_arguments.h"
+
+#include "app/revision_age.h"
+#include "cli/choose_gear.h"
+#include "cli/convert_photos.h"
+#include "gear/gear_store.h"
+
+namespace varnel {
+
+int ConvertArguments(const QStringList& files, SettingsStore& store, QDate today,
+                     const Console& console) {
+    if (const auto reminder = CheckRevisionAge(store, today)) {
+        console.err << LocalText(*reminder) << std::endl;
+    }
+    const GeneralSettings settings = LoadSettings(store);
+    const auto gear = DefaultGear(StoredGears(store));
+    if (!gear) {
+        return Refuse(console, NoGearText());
+    }
+    Options options;
+    options.files = files;
+    options.force = true;  // who names the files on the command line means it
+    return ConvertPhotos(options, *gear, settings, console);
+}
+
+}  // namespace varnel

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the command line of varnel asks for.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <variant>
+
+namespace varnel {
+
+enum class StartMode { Window, Convert, Help, Version };
+
+struct StartRequest {
+    StartMode mode = StartMode::Window;
+    QStringList files;  // to open in the window or to convert, as given
+
+    bool operator==(const StartRequest&) const = default;
+};
+
+// The first argument is the program's name. Without more the window opens, with --open it opens
+// with the files; files alone are converted. The text, one line, says what is wrong.
+std::variant<StartRequest, QString> ParseStartArguments(const QStringList& arguments);
+
+QString StartHelpText();
+
+}  // namespace varnel

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
+#include "tests/support/files.h"
+
 namespace varnel {
 namespace {
 
@@ -72,6 +76,23 @@ TEST(ParseOptions, AWrongLineIsToldInOneLine) {
         EXPECT_FALSE(std::get<QString>(parsed).isEmpty()) << line;
         EXPECT_FALSE(std::get<QString>(parsed).contains(u'\n')) << line;
     }
+}
+
+TEST(HelpText, TheManualPageHasEveryOption) {
+    const QString page =
+        QString::fromUtf8(testing::Contents(QStringLiteral(VARNEL_MANUAL "/varnel-convert.1")))
+            .remove(u'\\');
+    const QRegularExpression option(QStringLiteral("^  (--[a-z-]+)"),
+                                    QRegularExpression::MultilineOption);
+    int count = 0;
+    for (const auto& match : option.globalMatch(HelpText())) {
+        ++count;
+        EXPECT_TRUE(page.contains(
+            QRegularExpression(QStringLiteral("^\\.TP\n\\.B[IR]? %1\\b").arg(match.captured(1)),
+                               QRegularExpression::MultilineOption)))
+            << match.captured(1).toStdString();
+    }
+    EXPECT_GT(count, 20);
 }
 
 }  // namespace

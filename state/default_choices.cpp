@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/default_choices.h"
+
+#include <algorithm>
+
+#include "state/setting_names.h"
+
+namespace varnel {
+
+int FileTypePosition(QStringView fileType) {
+    const auto* const found = std::find(fileTypeTexts.begin(), fileTypeTexts.end(), fileType);
+    return found == fileTypeTexts.end() ? 0 : static_cast<int>(found - fileTypeTexts.begin());
+}
+
+void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
+                  const GeneralSettings& settings) {
+    store.Save(setting::Gear, setting::DefaultGearName, defaultGearName);
+    const auto save = [&](QLatin1StringView key, const QString& text) {
+        store.Save(setting::General, key, text);
+    };
+    save(setting::PreviewWidth, QString::number(settings.PreviewWidth));
+    save(setting::PreviewHeight, QString::number(settings.PreviewHeight));
+    save(setting::FileType, settings.FileType);
+    save(setting::JpegCompression, QString::number(settings.JPEGcompression));
+}
+
+}  // namespace varnel

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the user may choose as defaults, and how the choice is kept.
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringView>
+#include <array>
+
+#include "state/general_settings.h"
+#include "state/settings_store.h"
+
+namespace varnel {
+
+inline constexpr int smallestPreviewSide = 100;  // pixels, as the dialog offers it
+inline constexpr int lowestJpegQuality = 1;
+inline constexpr int highestJpegQuality = 100;
+
+// The texts of the setting "FileType" in the order of the dialog's list.
+inline constexpr std::array fileTypeTexts{QLatin1StringView("TIFF"), QLatin1StringView("JPEG"),
+                                          QLatin1StringView("BMP"), QLatin1StringView("PNG")};
+
+// The place of a file type in that list. Meant so: any other text is shown as the first one, and
+// the first run's "JPG" is such a text.
+int FileTypePosition(QStringView fileType);
+
+// Writes the default gear and the general settings, in this order: gear, width, height, file type,
+// quality.
+void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
+                  const GeneralSettings& settings);
+
+}  // namespace varnel

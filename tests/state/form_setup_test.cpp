@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/form_setup.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+#include <QWheelEvent>
+#include <array>
+
+#include "state/default_choices.h"
+
+namespace varnel {
+namespace {
+
+QString Text(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+// Notes what is written, in order, as "section/key=value".
+class WritingStore : public SettingsStore {
+  public:
+    QString Get(const QString&, const QString&, const QString& fallback) const override {
+        return fallback;
+    }
+    void Save(const QString& section, const QString& key, const QString& value) override {
+        written.append(section + u'/' + key + u'=' + value);
+    }
+    QStringList written;
+};
+
+class FormSetupTest : public testing::Test {
+  protected:
+    FormSetupTest() {
+        gear.Resize(3);
+        for (int n = 0; n <= 3; ++n) {
+            gear(n).GearName = Text("Gear %1").arg(n);
+        }
+        gear.DefaultGearName = Text("Gear 2");
+    }
+    FormSetup& Open() {
+        form = std::make_unique<FormSetup>(gear, settings, store);
+        form->show();
+        return *form;
+    }
+    template <class Control>
+    Control& The(const char* name) const {
+        return *form->findChild<Control*>(Text(name));
+    }
+    void Click(const char* button) const {
+        QTest::mouseClick(&The<QPushButton>(button), Qt::LeftButton);
+    }
+    void Choose(const char* combo, int row) const { The<QComboBox>(combo).setCurrentIndex(row); }
+
+    GearTable gear;
+    GeneralSettings settings;
+    WritingStore store;
+    std::unique_ptr<FormSetup> form;
+};
+
+TEST_F(FormSetupTest, ShowsTheFirstRunWithTiffInPlaceOfJpg) {
+    Open();
+    EXPECT_EQ(form->objectName(), Text("FormSetup"));
+    EXPECT_EQ(The<QComboBox>("GearCombo").count(), 3);
+    EXPECT_EQ(The<QComboBox>("GearCombo").itemText(0), Text("Gear 1"));
+    EXPECT_EQ(The<QComboBox>("GearCombo").currentText(), Text("Gear 2"));
+    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("400 pixels"));
+    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("300 pixels"));
+    QStringList types;
+    for (int n = 0; n < The<QComboBox>("ComboFileType").count(); ++n) {
+        types.append(The<QComboBox>("ComboFileType").itemText(n));
+    }
+    EXPECT_EQ(types.join(u' '), Text("TIFF JPEG BMP PNG"));
+    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("TIFF"));
+    const struct {
+        const char* name;
+        int minimum, maximum, value;
+    } sliders[] = {{"SliderPreviewWidth", 100, 1000, 400},
+                   {"SliderPreviewHeight", 100, 1000, 300},
+                   {"SliderJPEGcompression", 1, 100, 100}};
+    for (const auto& row : sliders) {
+        const auto& slider = The<QSlider>(row.name);
+        const auto& spinBox = The<QSpinBox>(QByteArray("Spin").append(row.name).constData());
+        EXPECT_EQ((std::array{slider.minimum(), slider.maximum(), slider.value()}),
+                  (std::array{row.minimum, row.maximum, row.value}));
+        EXPECT_EQ((std::array{spinBox.minimum(), spinBox.maximum(), spinBox.value()}),
+                  (std::array{row.minimum, row.maximum, row.value}));
+    }
+    EXPECT_EQ(settings.FileType, Text("JPG")) << "opening must not change the setting";
+    Click("CommandOK");
+    EXPECT_EQ(settings.FileType, Text("TIFF"));
+}
+
+TEST_F(FormSetupTest, SelectsTheFileTypeByItsExactText) {
+    const struct {
+        const char* text;
+        int row;
+    } cases[] = {{"TIFF", 0}, {"JPEG", 1}, {"BMP", 2}, {"PNG", 3}, {"JPG", 0}, {"png", 0}, {"", 0}};
+    for (const auto& c : cases) {
+        settings.FileType = Text(c.text);
+        Open();
+        EXPECT_EQ(The<QComboBox>("ComboFileType").currentIndex(), c.row) << c.text;
+    }
+}
+
+TEST_F(FormSetupTest, ClampsWhatLiesOutsideTheSliders) {
+    settings = {4000, 20, Text("BMP"), 0};
+    Open();
+    EXPECT_EQ(The<QSlider>("SliderPreviewWidth").value(), 1000);
+    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("1000 pixels"));
+    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("100 pixels"));
+    Click("CommandOK");
+    EXPECT_EQ(settings, (GeneralSettings{1000, 100, Text("BMP"), 1}));
+}
+
+TEST_F(FormSetupTest, AnUnknownDefaultGearGivesWayToTheFirst) {
+    gear.DefaultGearName = Text("Gear 0");
+    Open();
+    EXPECT_EQ(The<QComboBox>("GearCombo").currentText(), Text("Gear 1"));
+}
+
+TEST_F(FormSetupTest, LabelAndSpinBoxFollowTheSliderAndTheSpinBoxMovesIt) {
+    Open();
+    QTest::keyClick(&The<QSlider>("SliderPreviewWidth"), Qt::Key_PageUp);
+    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("450 pixels"));
+    EXPECT_EQ(The<QSpinBox>("SpinSliderPreviewWidth").value(), 450);
+    auto& spinBox = The<QSpinBox>("SpinSliderPreviewHeight");
+    spinBox.selectAll();
+    QTest::keyClicks(&spinBox, Text("517"));
+    QTest::keyClick(&spinBox, Qt::Key_Tab);
+    EXPECT_EQ(The<QSlider>("SliderPreviewHeight").value(), 517);
+    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("517 pixels"));
+}
+
+TEST_F(FormSetupTest, OkAppliesForThisRunOnly) {
+    Open();
+    Choose("GearCombo", 2);
+    Choose("ComboFileType", 3);
+    The<QSlider>("SliderPreviewWidth").setValue(640);
+    The<QSlider>("SliderPreviewHeight").setValue(480);
+    The<QSlider>("SliderJPEGcompression").setValue(85);
+    QTest::keyClick(form.get(), Qt::Key_Return);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(form->result(), QDialog::Accepted);
+    EXPECT_EQ(gear.DefaultGearName, Text("Gear 3"));
+    EXPECT_EQ(settings, (GeneralSettings{640, 480, Text("PNG"), 85}));
+    EXPECT_TRUE(store.written.isEmpty());
+}
+
+TEST_F(FormSetupTest, CancelAndEscapeLeaveEverythingAsItWas) {
+    for (const bool byEscape : {false, true}) {
+        Open();
+        Choose("GearCombo", 0);
+        The<QSlider>("SliderPreviewWidth").setValue(640);
+        byEscape ? QTest::keyClick(form.get(), Qt::Key_Escape) : Click("CommandCancel");
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(form->result(), QDialog::Rejected);
+        EXPECT_EQ(gear.DefaultGearName, Text("Gear 2"));
+        EXPECT_EQ(settings, GeneralSettings());
+    }
+    EXPECT_TRUE(store.written.isEmpty());
+}
+
+TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
+    Open();
+    Choose("GearCombo", 0);
+    Choose("ComboFileType", 1);
+    The<QSlider>("SliderPreviewWidth").setValue(1000);
+    Click("CommandSaveDefault");
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(settings, (GeneralSettings{1000, 300, Text("JPEG"), 100}));
+    EXPECT_EQ(store.written.join(u'\n'),
+              Text("Gear/DefaultGearName=Gear 1\nsetting/PreviewWidth=1000\n"
+                   "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
+                   "setting/JPEGcompression=100"));
+    EXPECT_EQ(The<QLabel>("LabelSaved").text(), Text("Saved"));
+    Choose("ComboFileType", 0);
+    EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty()) << "no longer what was saved";
+    Click("CommandCancel");
+    EXPECT_EQ(settings.FileType, Text("JPEG"));
+}
+
+TEST_F(FormSetupTest, TheWheelMovesOnlyTheSliderWithTheFocus) {
+    Open();
+    auto& slider = The<QSlider>("SliderPreviewWidth");
+    const auto wheel = [&] {
+        const QPointF middle = slider.rect().center();
+        QWheelEvent event(middle, slider.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&slider, &event);
+        return slider.value();
+    };
+    The<QComboBox>("GearCombo").setFocus();
+    EXPECT_EQ(wheel(), 400);
+    form->activateWindow();
+    slider.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return slider.hasFocus(); }));
+    EXPECT_GT(wheel(), 400);
+}
+
+}  // namespace
+}  // namespace varnel

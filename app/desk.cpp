@@ -1,0 +1,273 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/desk.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+#include "app/scoped.h"
+#include "pipeline/load_picture.h"
+#include "pipeline/picture_size.h"
+#include "pipeline/preview_size.h"
+#include "remap/run_time_error.h"
+#include "state/gear_assignment.h"
+
+namespace varnel {
+
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("Desk", text);
+}
+
+// The hourglass for a while, put up after waiting events had their turn.
+class Hourglass {
+  public:
+    explicit Hourglass(DeskView& view) : view_(view) { view_.ShowHourglass(true); }
+    ~Hourglass() { view_.ShowHourglass(false); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+  private:
+    DeskView& view_;
+};
+
+}  // namespace
+
+ImageRecord* Desk::Current() {
+    const int n = view_.CurrentLine() + 1;
+    return n >= 1 && n <= state_.Images.UpperBound() ? &state_.Images(n) : nullptr;
+}
+
+void Desk::ShowInControls(const ImageRecord& image) {
+    const Raised loading(state_.loadingControls);
+    view_.ShowRecord(image);
+}
+
+void Desk::GiveChosenGear(ImageRecord& image) {
+    const int gear = view_.ChosenGear();
+    if (gear >= 1 && gear <= state_.Gear.UpperBound()) {
+        AssignGear(state_.Gear(gear), image);
+    }
+}
+
+bool Desk::LoadFull(int line) {
+    ImageRecord& image = state_.Images(line + 1);
+    state_.bitmaps.ResultBitmap.reset();
+    state_.bitmaps.PreviewSourceBitmap.reset();
+    state_.bitmaps.FullSourceBitmap.reset();
+    LoadedPicture loaded = LoadPicture(SourcePath(image));
+    if (!loaded.bitmap) {
+        view_.ShowSource(nullptr);
+        view_.ShowResult(nullptr);
+        view_.ShowStatus({});
+        notices_.Tell(Tr("Could not open image"),
+                      QStringLiteral("%1: %2").arg(SourcePath(image), loaded.reason));
+        return false;
+    }
+    state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
+    TakeSize(SizeOf(state_.bitmaps.FullSourceBitmap.get()), image);
+    GiveChosenGear(image);
+    ShowInControls(image);
+    view_.ShowStatus(loaded.reason.isEmpty()
+                         ? Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height)
+                         : QStringLiteral("%1: %2").arg(image.FileName, loaded.reason));
+    return true;
+}
+
+void Desk::ShowLine(int line) {
+    if (Busy() || line < 0 || line >= state_.Images.UpperBound()) {
+        return;
+    }
+    const Raised busy(busy_);
+    bool loaded = false;
+    {
+        const Hourglass hourglass(view_);
+        loaded = LoadFull(line) && RebuildThumbnail();
+    }
+    if (loaded) {
+        Preview();
+    }
+}
+
+bool Desk::RebuildThumbnail() {
+    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    if (full == nullptr) {
+        return false;
+    }
+    const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
+    state_.bitmaps.PreviewSourceBitmap.reset();
+    state_.bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
+    view_.ShowSource(state_.bitmaps.PreviewSourceBitmap.get());
+    return true;
+}
+
+// A preview that is asked for while one is drawn is drawn after it, with what is current then: a
+// second one inside the first would take the result away under it.
+void Desk::RenderPreview(const ImageRecord& image) {
+    if (!state_.bitmaps.PreviewSourceBitmap) {
+        return;
+    }
+    if (rendering_) {
+        drawAgain_ = true;
+        return;
+    }
+    {
+        const Raised rendering(rendering_);
+        const Hourglass hourglass(view_);
+        RenderThumbnail(image);
+    }
+    if (std::exchange(drawAgain_, false) && Current() != nullptr) {
+        RenderPreview(*Current());
+    }
+}
+
+void Desk::RenderThumbnail(const ImageRecord& image) {
+    RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }};
+    try {
+        Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), desk);
+        view_.ShowResult(state_.bitmaps.ResultBitmap.get());
+    } catch (const RunTimeError& error) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(QString::fromUtf8(error.what()));
+    }
+}
+
+void Desk::Preview() {
+    if (const ImageRecord* const image = Current(); image != nullptr && view_.AutoPreview()) {
+        RenderPreview(*image);
+    }
+}
+
+void Desk::PreviewNow() {
+    if (Busy() || Current() == nullptr) {
+        return;
+    }
+    StoreControls(false);
+    if (RebuildThumbnail()) {
+        RenderPreview(*Current());
+    }
+}
+
+void Desk::PreviewControls() {
+    if (busy_ || rendering_ || Current() == nullptr || !view_.AutoPreview()) {
+        return;
+    }
+    ImageRecord trial = *Current();
+    varnel::StoreControls(view_.Controls(), trial);
+    RenderPreview(trial);
+}
+
+bool Desk::GearIsPending(const ImageRecord& image) const {
+    if (image.SettingsApplied) {
+        return false;
+    }
+    const int n = state_.Gear.Find(image.GearName);
+    if (image.LensMapScale == 0.0F && image.SensorWidth == 0.0F) {
+        return true;
+    }
+    ImageRecord assigned = image;
+    return n >= 1 && AssignGear(state_.Gear(n), assigned) && !(assigned == image);
+}
+
+// What a click gives a record: its size and, if the gear is still due, the chosen gear.
+void Desk::Prepare(ImageRecord& image) {
+    const bool neverLoaded = image.Width == 0;
+    if (neverLoaded) {
+        if (const std::optional<PixelSize> size = ReadPictureSize(SourcePath(image))) {
+            TakeSize(*size, image);
+        }
+    }
+    if (neverLoaded || GearIsPending(image)) {
+        GiveChosenGear(image);
+    }
+}
+
+void Desk::PrepareAll() {
+    for (ImageRecord& image : state_.Images) {
+        Prepare(image);
+    }
+}
+
+void Desk::StoreControls(bool withPreview) {
+    if (state_.loadingControls) {
+        return;
+    }
+    const ControlValues values = view_.Controls();
+    for (const int line : view_.SelectedLines()) {
+        ImageRecord& image = state_.Images(line + 1);
+        Prepare(image);
+        varnel::StoreControls(values, image);
+    }
+    view_.HandleEvents();
+    if (withPreview) {
+        Preview();
+    }
+}
+
+void Desk::ChooseGear() {
+    if (Busy()) {
+        return;
+    }
+    for (const int line : view_.SelectedLines()) {
+        ImageRecord& image = state_.Images(line + 1);
+        if (image.GearName != view_.ChosenGearName()) {
+            image.SettingsApplied = false;
+        }
+        if (image.Width == 0) {
+            Prepare(image);
+        } else {
+            GiveChosenGear(image);
+        }
+        ShowInControls(image);
+    }
+    Preview();
+}
+
+void Desk::ApplyGear() {
+    ApplyGearToAll(state_.Images, view_.ChosenGearName());
+}
+
+void Desk::ApplySettings() {
+    if (Current() == nullptr) {
+        return;
+    }
+    PrepareAll();
+    ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
+}
+
+void Desk::ImagesAdded() {
+    view_.ShowList(state_.Images);
+}
+
+void Desk::RemoveSelected() {
+    RecordArray<ImageRecord> kept;
+    const std::vector<int> removed = view_.SelectedLines();
+    std::size_t next = 0;
+    for (int line = 0; line < state_.Images.UpperBound(); ++line) {
+        if (next < removed.size() && removed[next] == line) {
+            ++next;
+        } else {
+            kept.Append(std::move(state_.Images(line + 1)));
+        }
+    }
+    state_.Images = std::move(kept);
+    if (state_.Images.Empty()) {
+        state_.bitmaps = {};
+        view_.ShowSource(nullptr);
+        view_.ShowResult(nullptr);
+        view_.ShowStatus({});
+    }
+    view_.ShowList(state_.Images);
+}
+
+int Desk::AddToBatchQueue() {
+    PrepareAll();
+    for (const ImageRecord& image : state_.Images) {
+        state_.BatchQueue.Append(image);
+    }
+    return state_.BatchQueue.UpperBound();
+}
+
+}  // namespace varnel

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The photographer's desk: what the main window does with the image list and the current photo. It
+// knows no widget; the window is a view that it asks and tells.
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "remap/render.h"
+#include "state/control_values.h"
+#include "state/notices.h"
+#include "state/working_state.h"
+
+namespace varnel {
+
+// Lines count from 0 here, as in a list box; -1 is none. Sizes are in device pixels.
+class DeskView {
+  public:
+    virtual ~DeskView() = default;
+    virtual int CurrentLine() const = 0;
+    virtual std::vector<int> SelectedLines() const = 0;
+    virtual ControlValues Controls() const = 0;
+    virtual Projection ChosenProjection() const = 0;
+    // The position in the gear selector plus 1, 0 for none, and its text.
+    virtual int ChosenGear() const = 0;
+    virtual QString ChosenGearName() const = 0;
+    virtual bool AutoPreview() const = 0;
+    virtual bool Antialiased() const = 0;
+    virtual PixelSize PreviewBox() const = 0;   // the settings' preview size on this screen
+    virtual PixelSize PictureRoom() const = 0;  // the room that the window leaves for one picture
+    virtual RenderProgress& Progress() = 0;
+
+    virtual void ShowList(const RecordArray<ImageRecord>& images) = 0;  // makes line 0 current
+    virtual void ShowRecord(const ImageRecord& image) = 0;
+    virtual void ShowSource(FIBITMAP* bitmap) = 0;  // null empties the picture
+    virtual void ShowResult(FIBITMAP* bitmap) = 0;
+    virtual void ShowStatus(const QString& text) = 0;
+    virtual void HandleEvents() = 0;
+    virtual void ShowHourglass(bool on) = 0;
+    // While locked nothing on the window can be started and a wish to close it waits.
+    virtual void Lock(bool on) = 0;
+};
+
+// Where a picture is to be saved.
+struct SaveChoice {
+    QString name;
+    int filterIndex = 1;  // 1 TIFF, 2 JPEG, 3 BMP, 4 PNG
+};
+
+// Asks where to save; nothing when cancelled.
+class FileChooser {
+  public:
+    virtual ~FileChooser() = default;
+    virtual std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) = 0;
+    // True when the user agrees to replace the file of that name.
+    virtual bool AgreesToReplace(const QString& name) = 0;
+};
+
+class Desk {
+  public:
+    Desk(WorkingState& state, Notices& notices, DeskView& view)
+        : state_(state), notices_(notices), view_(view) {}
+
+    // A line became current: loads its photo at full size, gives it its gear, shows and previews
+    // it.
+    void ShowLine(int line);
+    // The photo at preview size, into the source picture. False when there is none.
+    bool RebuildThumbnail();
+    // Draws the current photo's preview, if automatic preview is on.
+    void Preview();
+    // The same whatever automatic preview says, after storing the controls.
+    void PreviewNow();
+    // Draws what the controls say without storing anything: while a slider is dragged.
+    void PreviewControls();
+
+    // Stores the controls into the selected records, lets waiting events run once and previews.
+    void StoreControls(bool withPreview);
+    // The gear selector was used: gives its gear to the selected photos.
+    void ChooseGear();
+    void ApplyGear();      // to all
+    void ApplySettings();  // of the current photo, to all
+
+    void ImagesAdded();
+    void RemoveSelected();
+    // Copies the whole list into the batch queue; returns the queue's length.
+    int AddToBatchQueue();
+    // Converts the current photo at full size and writes it where the chooser says.
+    void SaveAs(FileChooser& chooser);
+
+    // The current image's record, null when there is none.
+    ImageRecord* Current();
+    // True while a conversion runs; nothing else may be started then.
+    bool Busy() const { return busy_ || rendering_; }
+
+  private:
+    bool LoadFull(int line);
+    void Prepare(ImageRecord& image);
+    void PrepareAll();
+    bool GearIsPending(const ImageRecord& image) const;
+    void GiveChosenGear(ImageRecord& image);
+    void RenderPreview(const ImageRecord& image);
+    void RenderThumbnail(const ImageRecord& image);
+    void RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
+    void ShowInControls(const ImageRecord& image);
+
+    WorkingState& state_;
+    Notices& notices_;
+    DeskView& view_;
+    bool busy_ = false;
+    bool rendering_ = false;
+    bool drawAgain_ = false;
+};
+
+}  // namespace varnel

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The modal windows that the main window can open, as a port: tests answer for them.
+#pragma once
+
+#include <QWidget>
+
+#include "app/desk.h"
+#include "gear/gear_store.h"
+
+namespace varnel {
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    // True when photos were added to the image list.
+    virtual bool AddImages(QWidget* parent) = 0;
+    virtual void ManageGears(QWidget* parent) = 0;
+    virtual void ChangeDefaults(QWidget* parent) = 0;
+    virtual void ShowAbout(QWidget* parent) = 0;
+};
+
+// Everything through which the main window speaks to the user besides itself.
+struct WindowPorts {
+    Notices& notices;
+    GearPrompt& gearPrompt;
+    FileChooser& fileChooser;
+    Dialogs& dialogs;
+};
+
+}  // namespace varnel

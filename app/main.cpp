@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// varnel, the desktop program. The command line is looked at first: a conversion needs no display.
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <iostream>
+#include <optional>
+
+#include "app/console_start.h"
+#include "app/main_window.h"
+#include "app/message_boxes.h"
+#include "app/real_dialogs.h"
+#include "app/revision_age.h"
+#include "cli/console.h"
+
+namespace {
+
+using namespace varnel;
+
+int RunWindow(QApplication& application, const QStringList& files, SettingsStore& store) {
+    MessageBoxes notices;
+    FirstGearPrompt gearPrompt;
+    SaveFileDialog fileChooser;
+    if (const std::optional<QString> reminder = CheckRevisionAge(store, QDate::currentDate())) {
+        notices.Tell(*reminder, {});
+    }
+    WorkingState state;
+    state.settings = LoadSettings(store);
+    RealDialogs dialogs(state, store, notices);
+    MDIForm1 window(state, store, {notices, gearPrompt, fileChooser, dialogs});
+    QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
+    window.OpenAtStart(files);
+    window.show();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    UseUtf8Locale();
+    const auto store = OpenUserStore();
+    const auto start =
+        StartOnConsole(ArgumentTexts(argc, argv), *store, QDate::currentDate(),
+                       {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1});
+    if (const int* const exitCode = std::get_if<int>(&start)) {
+        return *exitCode;
+    }
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("varnel"));
+    QApplication::setApplicationDisplayName({});
+    return RunWindow(application, std::get<QStringList>(start), *store);
+}

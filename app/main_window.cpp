@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/main_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "pipeline/add_images.h"
+#include "remap/rounding.h"
+#include "state/setting_names.h"
+
+namespace varnel {
+
+MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts& ports)
+    : state_(state), store_(store), ports_(ports) {
+    setObjectName(QStringLiteral("MDIForm1"));
+    setWindowTitle(QStringLiteral("Varnel"));
+    setAcceptDrops(true);
+    splitter_ = new QSplitter(this);
+    auto* const right = new QWidget(splitter_);
+    BuildPictures(right);
+    auto* const scroll = new QScrollArea(splitter_);
+    auto* const column = new QWidget(scroll);
+    BuildColumn(column);
+    scroll->setWidget(column);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumWidth(column->minimumSizeHint().width() +
+                            scroll->verticalScrollBar()->sizeHint().width() + 4);
+    splitter_->addWidget(scroll);
+    splitter_->addWidget(right);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setCollapsible(0, false);
+    setCentralWidget(splitter_);
+    BuildMenus();
+    view_ = std::make_unique<WindowView>(this, parts_, state_);
+    desk_ = std::make_unique<Desk>(state_, ports_.notices, *view_);
+    ConnectControls();
+    ConnectSliders();
+    resize(1180, 800);
+    RestoreLayout();
+    UpdateEnabled();
+}
+
+MDIForm1::~MDIForm1() {
+    state_.bitmaps = {};
+}
+
+void MDIForm1::BuildColumn(QWidget* column) {
+    parts_.column = column;
+    parts_.equipment = new EquipmentPanel(column);
+    parts_.list = new ImageListPanel(column);
+    parts_.adjustments = new AdjustmentPanel(column);
+    parts_.save = new SavePanel(column);
+    auto* const layout = new QVBoxLayout(column);
+    layout->addWidget(parts_.list);
+    layout->addWidget(parts_.equipment);
+    layout->addWidget(parts_.adjustments);
+    layout->addWidget(parts_.save);
+    layout->addStretch();
+}
+
+void MDIForm1::BuildPictures(QWidget* right) {
+    parts_.pictures = new PictureArea(right);
+    parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
+    parts_.bar = new QProgressBar(right);
+    parts_.bar->setObjectName(QStringLiteral("ImgProgressBar"));
+    parts_.bar->setAccessibleName(tr("Progress"));
+    parts_.bar->setTextVisible(false);
+    parts_.bar->setMaximumHeight(10);
+    parts_.status = new QLabel(right);
+    parts_.status->setObjectName(QStringLiteral("StatusText"));
+    parts_.status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* const layout = new QVBoxLayout(right);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(parts_.pictures, 1);
+    layout->addWidget(parts_.bar);
+    statusBar()->addWidget(parts_.status, 1);
+}
+
+QAction* MDIForm1::AddEntry(QMenu* menu, const char* name, const QString& text,
+                            const QKeySequence& shortcut, void (MDIForm1::*handler)()) {
+    auto* const action = menu->addAction(text);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcut(shortcut);
+    if (handler != nullptr) {
+        connect(action, &QAction::triggered, this, handler);
+    } else {
+        action->setEnabled(false);
+    }
+    return action;
+}
+
+void MDIForm1::BuildMenus() {
+    QMenu* const file = menuBar()->addMenu(tr("&File"));
+    AddEntry(file, "CmdFileOpen", tr("&OpenOld"), {}, nullptr);
+    AddEntry(file, "CmdFileOpenFreeImage", tr("Open image(s)"), QKeySequence::Open,
+             &MDIForm1::AddImages);
+    file->addSeparator()->setObjectName(QStringLiteral("Sep2"));
+    AddEntry(file, "CmdFileExit", tr("&Exit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &MDIForm1::Quit);
+    QMenu* const setup = menuBar()->addMenu(tr("&Setup"));
+    AddEntry(setup, "CmdSetupEquipment", tr("&Manage equipment"), {}, &MDIForm1::ManageGears);
+    AddEntry(setup, "CmdSetupSetup", tr("&Defaults"), QKeySequence::Preferences,
+             &MDIForm1::ChangeDefaults);
+    QMenu* const about = menuBar()->addMenu(tr("&About"));
+    AddEntry(about, "CmdAboutAbout", tr("&About"), QKeySequence::HelpContents,
+             &MDIForm1::ShowAbout);
+}
+
+void MDIForm1::Activate() {
+    if (LoadGear(store_, state_.Gear, ports_.gearPrompt) != GearLoad::Loaded) {
+        Q_EMIT QuitWanted();
+        return;
+    }
+    parts_.equipment->Fill(state_.Gear, state_.Gear.DefaultGearName);
+    AddFiles(filesAtStart_);
+    Q_EMIT Started();
+}
+
+void MDIForm1::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    if (!started_) {
+        started_ = true;
+        // After the window is on the screen, so that the first questions stand above it.
+        QTimer::singleShot(0, this, &MDIForm1::Activate);
+    }
+}
+
+void MDIForm1::Quit() {
+    close();
+}
+
+void MDIForm1::closeEvent(QCloseEvent* event) {
+    if (desk_->Busy()) {
+        closeWanted_ = true;
+        event->ignore();
+        return;
+    }
+    SaveLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() && !desk_->Busy()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MDIForm1::dropEvent(QDropEvent* event) {
+    QStringList files;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            files.append(url.toLocalFile());
+        }
+    }
+    event->acceptProposedAction();
+    AddFiles(files);
+}
+
+void MDIForm1::AddFiles(const QStringList& files) {
+    if (!files.isEmpty() && !desk_->Busy()) {
+        AppendFiles(state_.Images, files);
+        desk_->ImagesAdded();
+    }
+}
+
+void MDIForm1::RestoreLayout() {
+    const auto stored = [this](const char* key) {
+        return QByteArray::fromBase64(
+            store_.Get(QStringLiteral("Window"), QString::fromLatin1(key), {}).toLatin1());
+    };
+    restoreGeometry(stored("Geometry"));
+    splitter_->restoreState(stored("Splitter"));
+}
+
+void MDIForm1::SaveLayout() {
+    const auto keep = [this](const char* key, const QByteArray& value) {
+        store_.Save(QStringLiteral("Window"), QString::fromLatin1(key),
+                    QString::fromLatin1(value.toBase64()));
+    };
+    keep("Geometry", saveGeometry());
+    keep("Splitter", splitter_->saveState());
+}
+
+}  // namespace varnel

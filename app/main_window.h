@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The main window: its parts, its menus, and one line for each thing that can happen on it.
+#pragma once
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QSplitter>
+#include <QTimer>
+#include <memory>
+
+#include "app/desk.h"
+#include "app/dialogs.h"
+#include "app/window_view.h"
+#include "state/settings_store.h"
+
+namespace varnel {
+
+class MDIForm1 : public QMainWindow {
+    Q_OBJECT
+  public:
+    MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts& ports);
+    ~MDIForm1() override;
+
+    // Added to the list when the gears are there: files named at the start.
+    void OpenAtStart(const QStringList& files) { filesAtStart_ = files; }
+    void AddFiles(const QStringList& files);
+
+  Q_SIGNALS:
+    // The gears are loaded and the window is ready for use.
+    void Started();
+    // The user wants to quit before there is any gear.
+    void QuitWanted();
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void BuildColumn(QWidget* column);
+    void BuildPictures(QWidget* right);
+    void BuildMenus();
+    QAction* AddEntry(QMenu* menu, const char* name, const QString& text,
+                      const QKeySequence& shortcut, void (MDIForm1::*handler)());
+    void ConnectControls();
+    void ConnectSliders();
+
+    void Activate();
+    void OnSliderChanged(SliderRow* row);
+    void OnSliderReset(SliderRow* row);
+    void OnProjection(int index);
+    void OnRoomChanged();
+    void OnListShown();
+    void PickPoint(QPoint position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+
+    void AddImages();
+    void ManageGears();
+    void ChangeDefaults();
+    void ShowAbout();
+    void Quit();
+    void SaveAs();
+    void QueueAll();
+    void RemoveImages();
+    void UpdateEnabled();
+    void RestoreLayout();
+    void SaveLayout();
+
+    WorkingState& state_;
+    SettingsStore& store_;
+    WindowPorts ports_;
+    WindowParts parts_;
+    QSplitter* splitter_ = nullptr;
+    std::unique_ptr<WindowView> view_;
+    std::unique_ptr<Desk> desk_;
+    QTimer livePreview_;  // fires when the input at hand is handled: many moves, one preview
+    QTimer roomSettled_;
+    QStringList filesAtStart_;
+    bool started_ = false;
+    bool closeWanted_ = false;
+};
+
+}  // namespace varnel

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What happens on the main window: one short handler each; the work is the desk's.
+
+#include <QShortcut>
+
+#include "app/main_window.h"
+#include "pipeline/preview_size.h"
+#include "remap/rounding.h"
+
+namespace varnel {
+
+void MDIForm1::ConnectControls() {
+    const auto click = [this](QAbstractButton* button, auto handler) {
+        connect(button, &QAbstractButton::clicked, this, [handler] { handler(); });
+    };
+    click(parts_.list->Add(), [this] { AddImages(); });
+    click(parts_.list->Remove(), [this] { RemoveImages(); });
+    click(parts_.equipment->ApplyToAll(), [this] { desk_->ApplyGear(); });
+    click(parts_.adjustments->ApplyToAll(), [this] { desk_->ApplySettings(); });
+    click(parts_.adjustments->PreviewButton(), [this] { desk_->PreviewNow(); });
+    click(parts_.adjustments->AutoPreview(), [this] { desk_->Preview(); });
+    click(parts_.adjustments->Antialiased(), [this] { desk_->Preview(); });
+    click(parts_.save->SaveAs(), [this] { SaveAs(); });
+    click(parts_.save->AddToQueue(), [this] { QueueAll(); });
+    connect(parts_.equipment->Gears(), &QComboBox::activated, this,
+            [this] { desk_->ChooseGear(); });
+    connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
+            &MDIForm1::OnProjection);
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this,
+            [this](int line) { desk_->ShowLine(line); });
+    connect(parts_.pictures->From(), &PictureBox::Released, this, &MDIForm1::PickPoint);
+    connect(parts_.pictures, &PictureArea::RoomChanged, this, [this] { roomSettled_.start(150); });
+    roomSettled_.setSingleShot(true);
+    connect(&roomSettled_, &QTimer::timeout, this, &MDIForm1::OnRoomChanged);
+    view_->WhenListShown([this] { OnListShown(); });
+    view_->WhenUnlocked([this] {
+        if (closeWanted_) {
+            QTimer::singleShot(0, this, &QWidget::close);
+        }
+    });
+
+    const auto shortcut = [this](const QKeySequence& keys, QWidget* where, auto handler) {
+        auto* const made = new QShortcut(keys, where);
+        made->setContext(where == this ? Qt::WindowShortcut : Qt::WidgetShortcut);
+        connect(made, &QShortcut::activated, this, [this, handler] {
+            if (!view_->Locked()) {
+                handler();
+            }
+        });
+    };
+    shortcut(QKeySequence::Delete, parts_.list->List(), [this] { RemoveImages(); });
+    shortcut(QKeySequence::SaveAs, this, [this] { parts_.save->SaveAs()->click(); });
+    shortcut(QKeySequence::Save, this, [this] { parts_.save->SaveAs()->click(); });
+    shortcut(QKeySequence(Qt::Key_F5), this,
+             [this] { parts_.adjustments->PreviewButton()->click(); });
+    for (const Projection projection : allProjections) {
+        const int index = static_cast<int>(projection);
+        shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)), this,
+                 [this, index] { parts_.adjustments->Projections()->button(index)->click(); });
+    }
+}
+
+void MDIForm1::ConnectSliders() {
+    livePreview_.setSingleShot(true);
+    connect(&livePreview_, &QTimer::timeout, this, [this] { desk_->PreviewControls(); });
+    for (SliderRow* const row : parts_.adjustments->Rows()) {
+        connect(row, &SliderRow::Dragged, &livePreview_, [this] { livePreview_.start(0); });
+        connect(row, &SliderRow::Changed, this, [this, row] { OnSliderChanged(row); });
+        connect(row, &SliderRow::ResetWanted, this, [this, row] { OnSliderReset(row); });
+    }
+}
+
+// The slider is disabled while its value is stored, so that a turn of the event queue cannot move
+// it again; the keyboard stays where it was.
+void MDIForm1::OnSliderChanged(SliderRow* row) {
+    if (state_.loadingControls) {
+        return;
+    }
+    QWidget* const focused = focusWidget();
+    row->Slider()->setEnabled(false);
+    view_->HandleEvents();
+    desk_->StoreControls(true);
+    row->Slider()->setEnabled(true);
+    if (focused != nullptr) {
+        focused->setFocus();
+    }
+}
+
+void MDIForm1::OnSliderReset(SliderRow* row) {
+    row->Show(0);
+    OnSliderChanged(row);
+}
+
+void MDIForm1::OnProjection(int index) {
+    const Projection projection = ProjectionFromIndex(index);
+    parts_.adjustments->ShowFor(projection);
+    if (const ImageRecord* const image = desk_->Current()) {
+        ImageRecord shown = *image;
+        shown.Projection = static_cast<std::int16_t>(projection);
+        if (const std::optional<int> effect = ValuesFor(shown).effect) {
+            parts_.adjustments->ShowEffect(*effect);
+        }
+    }
+    desk_->StoreControls(true);
+}
+
+// The pictures are made anew only when the window leaves another room for them.
+void MDIForm1::OnRoomChanged() {
+    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    FIBITMAP* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
+    if (full == nullptr || reduced == nullptr || desk_->Busy()) {
+        return;
+    }
+    const PixelSize wanted = PreviewSize(SizeOf(full), view_->PreviewBox(), view_->PictureRoom());
+    if (wanted.width != SizeOf(reduced).width || wanted.height != SizeOf(reduced).height) {
+        desk_->RebuildThumbnail();
+        desk_->Preview();
+    }
+}
+
+void MDIForm1::OnListShown() {
+    UpdateEnabled();
+    if (state_.Images.Empty()) {
+        setWindowTitle(QStringLiteral("Varnel"));
+    } else {
+        desk_->ShowLine(0);
+    }
+}
+
+// Room for picking points on the photo; nothing is done with them.
+void MDIForm1::PickPoint(QPoint /*position*/, Qt::MouseButton /*button*/,
+                         Qt::KeyboardModifiers /*modifiers*/) {}
+
+void MDIForm1::AddImages() {
+    if (ports_.dialogs.AddImages(this)) {
+        desk_->ImagesAdded();
+    }
+}
+
+void MDIForm1::RemoveImages() {
+    desk_->RemoveSelected();
+}
+
+void MDIForm1::ManageGears() {
+    ports_.dialogs.ManageGears(this);
+    const ImageRecord* const image = desk_->Current();
+    parts_.equipment->Fill(state_.Gear,
+                           image != nullptr ? image->GearName : state_.Gear.DefaultGearName);
+}
+
+void MDIForm1::ChangeDefaults() {
+    ports_.dialogs.ChangeDefaults(this);
+    parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
+    if (desk_->RebuildThumbnail()) {
+        desk_->Preview();
+    }
+}
+
+void MDIForm1::ShowAbout() {
+    ports_.dialogs.ShowAbout(this);
+}
+
+void MDIForm1::SaveAs() {
+    desk_->SaveAs(ports_.fileChooser);
+}
+
+void MDIForm1::QueueAll() {
+    parts_.save->ShowQueue(desk_->AddToBatchQueue());
+}
+
+void MDIForm1::UpdateEnabled() {
+    const bool photos = !state_.Images.Empty();
+    for (SliderRow* const row : parts_.adjustments->Rows()) {
+        row->setEnabled(photos);
+    }
+    for (QWidget* const control : std::initializer_list<QWidget*>{
+             parts_.list->Remove(), parts_.equipment->ApplyToAll(),
+             parts_.adjustments->ApplyToAll(), parts_.adjustments->PreviewButton(),
+             parts_.save->SaveAs(), parts_.save->AddToQueue()}) {
+        control->setEnabled(photos);
+    }
+}
+
+}  // namespace varnel

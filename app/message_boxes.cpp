@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/message_boxes.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QShortcut>
+
+#include "gear/form_gear_edit.h"
+#include "pipeline/output_type.h"
+
+namespace varnel {
+
+namespace {
+
+// The quit shortcut in a modal window, where the main window's own is out of reach.
+void QuitFrom(QDialog& dialog, bool& quitWanted) {
+    auto* const quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), &dialog);
+    QObject::connect(quit, &QShortcut::activated, &dialog, [&dialog, &quitWanted] {
+        quitWanted = true;
+        dialog.reject();
+    });
+}
+
+QStringList Filters() {
+    QStringList filters;
+    for (const OutputType type : allOutputTypes) {
+        filters.append(FilterOf(type));
+    }
+    return filters;
+}
+
+// Another file type must not touch the name that stands in the box: the widget would take all that
+// follows the last dot for an extension and replace it.
+void KeepNameAcrossFilters(QFileDialog& dialog) {
+    auto* const edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (edit == nullptr) {
+        return;  // the platform's own dialog leaves the name alone
+    }
+    edit->setProperty("typedName", edit->text());
+    const auto remember = [edit] { edit->setProperty("typedName", edit->text()); };
+    QObject::connect(edit, &QLineEdit::textEdited, edit, remember);
+    QObject::connect(&dialog, &QFileDialog::currentChanged, edit, remember);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, edit,
+                     [edit] { edit->setText(edit->property("typedName").toString()); });
+}
+
+}  // namespace
+
+void MessageBoxes::Tell(const QString& text, const QString& detail) {
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Varnel"), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setInformativeText(detail);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    box.exec();
+}
+
+void FirstGearPrompt::Explain(const QString& text) {
+    QMessageBox box(QMessageBox::Information, QStringLiteral("Varnel"), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
+    QuitFrom(box, quitWanted_);
+    box.exec();
+}
+
+bool FirstGearPrompt::DefineGear(GearTable& table) {
+    if (!quitWanted_) {
+        FormGearEdit editor(table, QApplication::activeWindow());
+        QuitFrom(editor, quitWanted_);
+        editor.exec();
+    }
+    return !quitWanted_;
+}
+
+std::optional<SaveChoice> SaveFileDialog::ChooseSave(const SaveChoice& proposal) {
+    const QFileInfo name(proposal.name);
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Save image as ..."),
+                       name.absolutePath());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked once the extension is known
+    const QStringList filters = Filters();
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(proposal.filterIndex - 1));
+    dialog.selectFile(name.fileName());
+    KeepNameAcrossFilters(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return SaveChoice{dialog.selectedFiles().constFirst(),
+                      static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1};
+}
+
+bool SaveFileDialog::AgreesToReplace(const QString& name) {
+    return QMessageBox::question(QApplication::activeWindow(), QStringLiteral("Varnel"),
+                                 QObject::tr("%1 already exists. Replace it?").arg(name),
+                                 QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+}  // namespace varnel

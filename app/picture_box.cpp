@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/picture_box.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "remap/paint.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int margin = 12;              // logical pixels around and between the pictures
+constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
+constexpr QColor emptyBox(84, 84, 84);
+
+}  // namespace
+
+PictureBox::PictureBox(const QString& hint, QWidget* parent) : QWidget(parent), hint_(hint) {}
+
+void PictureBox::Show(FIBITMAP* bitmap) {
+    image_ = ImageOf(bitmap);
+    image_.setDevicePixelRatio(devicePixelRatioF());
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (image_.isNull()) {
+        painter.fillRect(rect(), emptyBox);
+        painter.setPen(QColor(225, 225, 225));
+        painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
+                         Qt::AlignCenter | Qt::TextWordWrap, hint_);
+        return;
+    }
+    painter.fillRect(rect(), surround);
+    const QSizeF size = image_.deviceIndependentSize();
+    // Whole device pixels, or the picture would be blurred on a scaled screen.
+    const double ratio = devicePixelRatioF();
+    const double x = std::floor((width() - size.width()) / 2.0 * ratio) / ratio;
+    const double y = std::floor((height() - size.height()) / 2.0 * ratio) / ratio;
+    painter.drawImage(QPointF(x, y), image_);
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    Q_EMIT Released(event->position().toPoint(), event->button(), event->modifiers());
+}
+
+PictureArea::PictureArea(QWidget* parent)
+    : QWidget(parent),
+      from_(new PictureBox(tr("Add photos with \"Add image(s)\" or drop them here."), this)),
+      to_(new PictureBox(tr("The converted picture appears here."), this)) {
+    from_->setObjectName(QStringLiteral("PicSmallFrom"));
+    from_->setAccessibleName(tr("Photo as shot"));
+    to_->setObjectName(QStringLiteral("PicSmallTo"));
+    to_->setAccessibleName(tr("Converted picture"));
+    setAutoFillBackground(true);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, surround);
+    setPalette(colours);
+}
+
+void PictureArea::SetWanted(QSize size) {
+    wanted_ = size;
+    Place();
+}
+
+QSize PictureArea::Room() const {
+    const int acrossPictures = SideBySide() ? 2 : 1;
+    const int downPictures = SideBySide() ? 1 : 2;
+    return {(width() - margin * (acrossPictures + 1)) / acrossPictures,
+            (height() - margin * (downPictures + 1)) / downPictures};
+}
+
+void PictureArea::Place() {
+    const QSize box = wanted_.boundedTo(Room().expandedTo({1, 1}));
+    const QSize step =
+        SideBySide() ? QSize(box.width() + margin, 0) : QSize(0, box.height() + margin);
+    const QSize both = box + step;
+    const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
+    from_->setGeometry(QRect(corner, box));
+    to_->setGeometry(QRect(corner + QPoint(step.width(), step.height()), box));
+}
+
+void PictureArea::resizeEvent(QResizeEvent* /*event*/) {
+    Place();
+    Q_EMIT RoomChanged();
+}
+
+}  // namespace varnel

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/side_panels.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <algorithm>
+
+namespace varnel {
+
+namespace {
+
+QPushButton* Button(const char* name, const QString& text, const QString& tip, QWidget* parent) {
+    auto* const button = new QPushButton(text, parent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(tip);
+    return button;
+}
+
+}  // namespace
+
+EquipmentPanel::EquipmentPanel(QWidget* parent)
+    : QGroupBox(tr("Equipment"), parent), gears_(new QComboBox(this)) {
+    setObjectName(QStringLiteral("FrameEquip"));
+    auto* const label = new QLabel(tr("Camera + lens combination"), this);
+    label->setObjectName(QStringLiteral("Label2"));
+    label->setBuddy(gears_);
+    gears_->setObjectName(QStringLiteral("GearCombo"));
+    gears_->setAccessibleName(label->text());
+    gears_->setToolTip(tr("Which camera and lens took the selected photos"));
+    gears_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    gears_->setMinimumContentsLength(16);
+    applyToAll_ = Button("CmdApplyAll", tr("Apply to all"),
+                         tr("Every photo in the list was taken with this gear"), this);
+    auto* const grid = new QGridLayout(this);
+    grid->addWidget(label, 0, 0, 1, 2);
+    grid->addWidget(gears_, 1, 0);
+    grid->addWidget(applyToAll_, 1, 1);
+    grid->setColumnStretch(0, 1);
+}
+
+void EquipmentPanel::Fill(const GearTable& gears, const QString& selected) {
+    const QSignalBlocker blocker(gears_);
+    gears_->clear();
+    for (int n = 1; n <= gears.UpperBound(); ++n) {
+        gears_->addItem(gears(n).GearName);
+    }
+    gears_->setCurrentIndex(std::max(gears.Find(selected), 1) - 1);
+}
+
+ImageListPanel::ImageListPanel(QWidget* parent)
+    : QGroupBox(tr("Image list"), parent), list_(new QListWidget(this)) {
+    setObjectName(QStringLiteral("Frame4"));
+    list_->setObjectName(QStringLiteral("ImageList1"));
+    list_->setAccessibleName(tr("Image list"));
+    list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    list_->setMinimumHeight(110);
+    list_->setToolTip(tr("Click a photo to work on it; select several to adjust them together"));
+    add_ = Button("Command1", tr("Add image(s)"), tr("Adds photos to the list"), this);
+    remove_ = Button("CmdRemoveImages", tr("Remove image(s)"),
+                     tr("Takes the selected photos off the list; the files stay"), this);
+    auto* const grid = new QGridLayout(this);
+    grid->addWidget(list_, 0, 0, 1, 2);
+    grid->addWidget(add_, 1, 0);
+    grid->addWidget(remove_, 1, 1);
+}
+
+void ImageListPanel::Fill(const RecordArray<ImageRecord>& images) {
+    const QSignalBlocker blocker(list_);
+    list_->clear();
+    for (const ImageRecord& image : images) {
+        auto* const item = new QListWidgetItem(image.FileName, list_);
+        item->setToolTip(SourcePath(image));
+    }
+}
+
+std::vector<int> ImageListPanel::SelectedLines() const {
+    std::vector<int> lines;
+    for (int line = 0; line < list_->count(); ++line) {
+        if (list_->item(line)->isSelected()) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
+}
+
+SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
+    setObjectName(QStringLiteral("FrameSave"));
+    saveAs_ = Button("CommandSaveFreeimage", tr("Save image as ..."),
+                     tr("Converts the current photo at full size and saves it"), this);
+    addToQueue_ = Button("CommandAddToBatchQue", tr("Add to batch que"),
+                         tr("Queues every photo of the list with its present settings"), this);
+    processQueue_ = Button("CmdBatchProcess", tr("Process batch que"),
+                           tr("Converts and saves everything that is queued"), this);
+    auto* const grid = new QGridLayout(this);
+    grid->addWidget(saveAs_, 0, 0, 1, 2);
+    grid->addWidget(addToQueue_, 1, 0);
+    grid->addWidget(processQueue_, 1, 1);
+    ShowQueue(0);
+    processQueue_->hide();
+}
+
+void SavePanel::ShowQueue(int length) {
+    setTitle(length == 0 ? tr("Save") : tr("Save / batch process ") + QString::number(length));
+    if (length > 0) {
+        processQueue_->show();
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/slider_table.h"
+
+#include <QCoreApplication>
+
+namespace varnel {
+
+namespace {
+
+#define TEXT(text) QT_TRANSLATE_NOOP("Sliders", text)
+
+constexpr std::array<SliderRowData, 8> rows{{
+    {SliderId::AovInput, "SliderAOVinput", "LabelAOVinput", nullptr, nullptr, TEXT("Input hAOV"),
+     TEXT("The angle that this photo shows from its left to its right edge"), 70, 280, 80, 10, 10,
+     10, TEXT("° hAOV"), nullptr, nullptr, false, ShownFor::Always},
+    {SliderId::AovOutput, "SliderAOVoutput", "LabelAOVoutput", "LabelAOVoutput2",
+     TEXT("Output AOV"), TEXT("hAOV"),
+     TEXT("How wide the converted picture looks: small is a telephoto view, large a wide one"), 60,
+     180, 70, 10, 10, 10, TEXT("° hAOV"), nullptr, nullptr, false, ShownFor::Rectilinear},
+    {SliderId::Effect, "SliderEffect", "LabelEffect", "LabelEffect2", TEXT("Partial effect"),
+     TEXT("100 %"), TEXT("How much of the conversion is applied: 0 % stays close to the fisheye"),
+     0, 100, 100, 10, 1, 5, TEXT(" %"), nullptr, nullptr, false, ShownFor::WithEffect},
+    {SliderId::X, "SliderX", "LabelRotateX", "LabelRotate2", TEXT("Up/Down"), TEXT("0° Up/Down"),
+     TEXT("Tilts the camera. Double-click the name to reset it"), -40, 40, 0, 10, 10, 10,
+     TEXT("° Down"), TEXT("° Up"), TEXT("0°"), true, ShownFor::Rectilinear},
+    {SliderId::Y, "SliderY", "LabelRotateY", "LabelRotate3", TEXT("Left/Right"),
+     TEXT("0° Left/Right"), TEXT("Pans the camera. Double-click the name to reset it"), -40, 40, 0,
+     10, 10, 10, TEXT("° Right"), TEXT("° Left"), TEXT("0°"), true, ShownFor::Rectilinear},
+    {SliderId::Z, "SliderZ", "LabelRotateZ", "LabelRotate4", TEXT("Z-axis"), TEXT("0° Z"),
+     TEXT("Levels the picture by rolling the camera. Double-click the name to reset it"), -40, 40,
+     0, 10, 10, 10, TEXT("° c.clockwise"), TEXT("° clockwise"), TEXT("0°"), true,
+     ShownFor::Rectilinear},
+    {SliderId::XTranslate, "SliderXtranslate", "LabelTranslateX", "LabelTranslate2",
+     TEXT("Left/Right"), TEXT("0% Left/Right"),
+     TEXT("Shifts the picture sideways. Double-click the name to reset it"), -40, 40, 0, 5, 1, 10,
+     TEXT("% Right"), TEXT("% Left"), TEXT("0%"), true, ShownFor::Rectilinear},
+    {SliderId::YTranslate, "SliderYtranslate", "LabelTranslateY", "LabelTranslate3",
+     TEXT("Up/Down"), TEXT("0% Up/Down"),
+     TEXT("Shifts the picture up or down. Double-click the name to reset it"), -40, 40, 0, 5, 1, 10,
+     TEXT("% Up"), TEXT("% Down"), TEXT("0%"), true, ShownFor::Rectilinear},
+}};
+
+#undef TEXT
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate("Sliders", text);
+}
+
+}  // namespace
+
+const std::array<SliderRowData, 8>& SliderRows() {
+    return rows;
+}
+
+QString SliderCaption(const SliderRowData& row, int value) {
+    if (value == 0 && row.zero != nullptr) {
+        return Translated(row.zero);
+    }
+    if (value < 0 && row.negative != nullptr) {
+        return QString::number(-value) + Translated(row.negative);
+    }
+    return QString::number(value) + Translated(row.positive);
+}
+
+bool ShownWith(const SliderRowData& row, Projection projection) {
+    switch (row.shownFor) {
+        case ShownFor::Always:
+            return true;
+        case ShownFor::WithEffect:
+            return projection == Projection::Varnel || projection == Projection::Rectilinear;
+        case ShownFor::Rectilinear:
+            break;
+    }
+    return projection == Projection::Rectilinear;
+}
+
+std::optional<int> ValueOf(SliderId id, const ControlValues& values) {
+    switch (id) {
+        case SliderId::AovInput:
+            return values.inputAov;
+        case SliderId::AovOutput:
+            return values.outputAov;
+        case SliderId::Effect:
+            return values.effect;
+        case SliderId::X:
+            return values.rotateX;
+        case SliderId::Y:
+            return values.rotateY;
+        case SliderId::Z:
+            return values.rotateZ;
+        case SliderId::XTranslate:
+            return values.translateX;
+        case SliderId::YTranslate:
+            break;
+    }
+    return values.translateY;
+}
+
+void SetValueOf(SliderId id, int value, ControlValues& values) {
+    switch (id) {
+        case SliderId::AovInput:
+            values.inputAov = value;
+            return;
+        case SliderId::AovOutput:
+            values.outputAov = value;
+            return;
+        case SliderId::Effect:
+            values.effect = value;
+            return;
+        case SliderId::X:
+            values.rotateX = value;
+            return;
+        case SliderId::Y:
+            values.rotateY = value;
+            return;
+        case SliderId::Z:
+            values.rotateZ = value;
+            return;
+        case SliderId::XTranslate:
+            values.translateX = value;
+            return;
+        case SliderId::YTranslate:
+            values.translateY = value;
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The eight sliders of the main window in one table: names, ranges, captions and the control value
+// that each one holds.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <optional>
+
+#include "state/control_values.h"
+#include "state/projection.h"
+
+namespace varnel {
+
+enum class SliderId { AovOutput, Effect, X, Y, Z, XTranslate, YTranslate, AovInput };
+
+// Which projections show a slider.
+enum class ShownFor { Rectilinear, WithEffect, Always };
+
+struct SliderRowData {
+    SliderId id;
+    const char* slider;  // object names
+    const char* valueLabel;
+    const char* headingLabel;  // null for none
+    const char* heading;       // text of the heading label
+    const char* startCaption;  // text of the value label before the first photo
+    const char* tip;           // tool tip and accessible description
+    int minimum, maximum, start;
+    int largeChange, smallChange, tickInterval;
+    const char* positive;  // what follows the number in the caption
+    const char* negative;  // after the magnitude of a negative number; null: as positive
+    const char* zero;      // the whole caption at 0; null: as positive
+    bool resets;           // a double-click on the heading sets it to 0
+    ShownFor shownFor;
+};
+
+// In the order in which the window shows them.
+const std::array<SliderRowData, 8>& SliderRows();
+
+// The value label's text while the slider stands at value.
+QString SliderCaption(const SliderRowData& row, int value);
+
+bool ShownWith(const SliderRowData& row, Projection projection);
+
+// The slider's value among the control values; nothing for the effect when there is none.
+std::optional<int> ValueOf(SliderId id, const ControlValues& values);
+void SetValueOf(SliderId id, int value, ControlValues& values);
+
+}  // namespace varnel

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/window_progress.h"
+
+#include <QCoreApplication>
+
+namespace varnel {
+
+namespace {
+
+constexpr qint64 paintInterval = 30;  // milliseconds; a faster bar only costs time
+
+}  // namespace
+
+WindowProgress::WindowProgress(QProgressBar* bar) : bar_(bar) {
+    QSizePolicy policy = bar_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    bar_->setSizePolicy(policy);
+    bar_->hide();
+}
+
+void WindowProgress::HandleEvents() const {
+    QCoreApplication::processEvents(inputThrough_ ? QEventLoop::AllEvents
+                                                  : QEventLoop::ExcludeUserInputEvents);
+}
+
+void WindowProgress::Begin(float maximum) {
+    HandleEvents();
+    bar_->setRange(0, static_cast<int>(maximum));
+    bar_->setValue(0);
+    bar_->show();
+    sincePainted_.start();
+}
+
+void WindowProgress::Advance(float value) {
+    if (sincePainted_.elapsed() >= paintInterval) {
+        sincePainted_.restart();
+        bar_->setValue(static_cast<int>(value));
+    }
+    HandleEvents();
+}
+
+void WindowProgress::End() {
+    bar_->hide();
+}
+
+}  // namespace varnel

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/window_view.h"
+
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QSignalBlocker>
+#include <cmath>
+
+namespace varnel {
+
+namespace {
+
+PixelSize DevicePixels(QSize logical, double ratio) {
+    return {static_cast<std::int32_t>(std::lround(logical.width() * ratio)),
+            static_cast<std::int32_t>(std::lround(logical.height() * ratio))};
+}
+
+}  // namespace
+
+WindowView::WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state)
+    : window_(window), parts_(parts), state_(state), progress_(parts.bar) {}
+
+PixelSize WindowView::PreviewBox() const {
+    return DevicePixels({state_.settings.PreviewWidth, state_.settings.PreviewHeight},
+                        window_->devicePixelRatioF());
+}
+
+PixelSize WindowView::PictureRoom() const {
+    return DevicePixels(parts_.pictures->Room(), window_->devicePixelRatioF());
+}
+
+void WindowView::ShowList(const RecordArray<ImageRecord>& images) {
+    parts_.list->Fill(images);
+    {
+        const QSignalBlocker blocker(parts_.list->List());
+        parts_.list->List()->setCurrentRow(images.Empty() ? -1 : 0);
+    }
+    if (whenListShown_) {
+        whenListShown_();
+    }
+}
+
+void WindowView::ShowRecord(const ImageRecord& image) {
+    const int gear = parts_.equipment->Gears()->findText(image.GearName);
+    if (gear >= 0) {
+        const QSignalBlocker blocker(parts_.equipment->Gears());
+        parts_.equipment->Gears()->setCurrentIndex(gear);
+    }
+    parts_.adjustments->Show(ValuesFor(image));
+    window_->setWindowTitle(image.FileName + QStringLiteral(" - Varnel"));
+}
+
+void WindowView::ShowHourglass(bool on) {
+    if (on) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+void WindowView::Lock(bool on) {
+    locked_ = on;
+    progress_.LetInputThrough(on);
+    parts_.column->setEnabled(!on);
+    window_->menuBar()->setEnabled(!on);
+    for (QAction* const action : window_->findChildren<QAction*>()) {
+        if (action->menu() == nullptr && !action->isSeparator()) {
+            action->blockSignals(on);  // shortcuts work beside a disabled menu bar
+        }
+    }
+    if (!on && whenUnlocked_) {
+        whenUnlocked_();
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The main window as the desk sees it.
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <functional>
+
+#include "app/adjustment_panel.h"
+#include "app/desk.h"
+#include "app/picture_box.h"
+#include "app/side_panels.h"
+#include "app/window_progress.h"
+
+namespace varnel {
+
+struct WindowParts {
+    AdjustmentPanel* adjustments = nullptr;
+    EquipmentPanel* equipment = nullptr;
+    ImageListPanel* list = nullptr;
+    SavePanel* save = nullptr;
+    PictureArea* pictures = nullptr;
+    QWidget* column = nullptr;  // the whole side column
+    QProgressBar* bar = nullptr;
+    QLabel* status = nullptr;
+};
+
+class WindowView : public DeskView {
+  public:
+    WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state);
+
+    int CurrentLine() const override { return parts_.list->List()->currentRow(); }
+    std::vector<int> SelectedLines() const override { return parts_.list->SelectedLines(); }
+    ControlValues Controls() const override { return parts_.adjustments->Values(); }
+    Projection ChosenProjection() const override { return parts_.adjustments->Chosen(); }
+    int ChosenGear() const override { return parts_.equipment->Gears()->currentIndex() + 1; }
+    QString ChosenGearName() const override { return parts_.equipment->Gears()->currentText(); }
+    bool AutoPreview() const override { return parts_.adjustments->AutoPreview()->isChecked(); }
+    bool Antialiased() const override { return parts_.adjustments->Antialiased()->isChecked(); }
+    PixelSize PreviewBox() const override;
+    PixelSize PictureRoom() const override;
+    RenderProgress& Progress() override { return progress_; }
+
+    void ShowList(const RecordArray<ImageRecord>& images) override;
+    void ShowRecord(const ImageRecord& image) override;
+    void ShowSource(FIBITMAP* bitmap) override { parts_.pictures->From()->Show(bitmap); }
+    void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap); }
+    void ShowStatus(const QString& text) override { parts_.status->setText(text); }
+    void HandleEvents() override { progress_.HandleEvents(); }
+    void ShowHourglass(bool on) override;
+    void Lock(bool on) override;
+
+    bool Locked() const { return locked_; }
+    // Called when a lock was taken off again.
+    void WhenUnlocked(std::function<void()> then) { whenUnlocked_ = std::move(then); }
+    // Called when the list was refilled and its line 0, if any, made current.
+    void WhenListShown(std::function<void()> then) { whenListShown_ = std::move(then); }
+
+  private:
+    QMainWindow* window_;
+    WindowParts parts_;
+    const WorkingState& state_;
+    WindowProgress progress_;
+    bool locked_ = false;
+    std::function<void()> whenUnlocked_;
+    std::function<void()> whenListShown_;
+};
+
+}  // namespace varnel

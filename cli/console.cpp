@@ -3,6 +3,8 @@
 
 #include "cli/console.h"
 
+#include <langinfo.h>
+
 #include <clocale>
 #include <cstdlib>
 #include <cstring>
@@ -28,10 +30,13 @@ int Show(const Console& console, const QString& text) {
 }
 
 void UseUtf8Locale() {
-    const char* const locale = std::setlocale(LC_CTYPE, "");
-    if (locale == nullptr || std::strstr(locale, "UTF") == nullptr) {
-        ::setenv("LC_ALL", "C.UTF-8", 1);
+    if (std::setlocale(LC_CTYPE, "") != nullptr &&
+        std::strcmp(::nl_langinfo(CODESET), "UTF-8") == 0) {
+        return;
     }
+    // Numbers and dates keep the user's form, unless LC_ALL rules everything.
+    const char* const all = std::getenv("LC_ALL");
+    ::setenv(all != nullptr && *all != '\0' ? "LC_ALL" : "LC_CTYPE", "C.UTF-8", 1);
 }
 
 }  // namespace varnel

@@ -47,7 +47,7 @@ constexpr std::array numberOptions{
                  {u"RotateY", nullptr}},
     NumberOption{u"rotate-z",
                  u"D",
-                 u"Roll, degrees; positive turns counter-clockwise.",
+                 u"Roll of the camera, degrees; positive is counter-clockwise.",
                  {u"RotateZ", nullptr}},
     NumberOption{u"translate-x",
                  u"P",

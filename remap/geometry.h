@@ -36,7 +36,7 @@ struct PixelSize {
 struct Rotation {
     float x = 0.0F;  // positive looks down
     float y = 0.0F;  // positive looks right
-    float z = 0.0F;  // positive rolls the picture counter-clockwise
+    float z = 0.0F;  // positive rolls the camera counter-clockwise
 };
 
 struct Ray {

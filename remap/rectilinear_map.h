@@ -21,7 +21,7 @@ struct RectilinearView {
 };
 
 // The camera's turn and shift. Positive x tilts down, positive y pans right, positive z rolls the
-// picture counter-clockwise; positive translations move the picture right and up.
+// camera counter-clockwise; positive translations move the picture right and up.
 struct CameraMove {
     float rotateX = 0.0F;
     float rotateY = 0.0F;

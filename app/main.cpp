@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <iostream>
 #include <optional>
 
@@ -20,6 +21,14 @@ namespace {
 
 using namespace varnel;
 
+QStringList Absolute(const QStringList& files) {
+    QStringList paths;
+    for (const QString& file : files) {
+        paths.append(QFileInfo(file).absoluteFilePath());
+    }
+    return paths;
+}
+
 int RunWindow(QApplication& application, const QStringList& files, SettingsStore& store) {
     MessageBoxes notices;
     FirstGearPrompt gearPrompt;
@@ -33,7 +42,7 @@ int RunWindow(QApplication& application, const QStringList& files, SettingsStore
     MDIForm1 window(state, store, {notices, gearPrompt, fileChooser, dialogs});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
-    window.OpenAtStart(files);
+    window.OpenAtStart(Absolute(files));
     window.show();
     return QApplication::exec();
 }
@@ -45,7 +54,7 @@ int main(int argc, char* argv[]) {
     const auto store = OpenUserStore();
     const auto start =
         StartOnConsole(ArgumentTexts(argc, argv), *store, QDate::currentDate(),
-                       {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1});
+                       {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1, "varnel"});
     if (const int* const exitCode = std::get_if<int>(&start)) {
         return *exitCode;
     }

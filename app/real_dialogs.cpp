@@ -4,21 +4,24 @@
 #include "app/real_dialogs.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
 
 #include "app/form_about.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
 #include "pipeline/form_add_images.h"
+#include "pipeline/mounted_volumes.h"
 #include "state/form_setup.h"
 
 namespace varnel {
 
 bool RealDialogs::AddImages(QWidget* parent) {
-    const int before = state_.Images.UpperBound();
-    FormAddImages form(state_.Images, store_, notices_, QCoreApplication::applicationDirPath(),
-                       parent);
-    form.exec();
-    return state_.Images.UpperBound() > before;
+    const PhotoPlaces places{
+        QCoreApplication::applicationDirPath(), QDir::homePath(),
+        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation), &MountedVolumes};
+    FormAddImages form(state_.Images, store_, notices_, places, parent);
+    return form.exec() == QDialog::Accepted;
 }
 
 void RealDialogs::ManageGears(QWidget* parent) {

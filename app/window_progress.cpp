@@ -20,13 +20,12 @@ WindowProgress::WindowProgress(QProgressBar* bar) : bar_(bar) {
     bar_->hide();
 }
 
-void WindowProgress::HandleEvents() const {
+void WindowProgress::HandleEvents() {
     QCoreApplication::processEvents(inputThrough_ ? QEventLoop::AllEvents
                                                   : QEventLoop::ExcludeUserInputEvents);
 }
 
 void WindowProgress::Begin(float maximum) {
-    HandleEvents();
     bar_->setRange(0, static_cast<int>(maximum));
     bar_->setValue(0);
     bar_->show();

@@ -17,8 +17,8 @@ class WindowProgress : public RenderProgress {
     // Whether the user's input is handled while a conversion runs. Where nothing can be started
     // (all is locked) it is; a preview lets it wait, so that no handler runs inside another.
     void LetInputThrough(bool on) { inputThrough_ = on; }
-    void HandleEvents() const;
 
+    void HandleEvents() override;
     void Begin(float maximum) override;
     void Advance(float value) override;
     void End() override;

@@ -56,6 +56,9 @@ QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QS
                             [&](const QString& path) { return SameFile(file, path); })) {
         return QStringLiteral("this is one of the photos to convert");
     }
+    if (run.written.contains(file.canonicalFilePath())) {
+        return QStringLiteral("another photo of this command was written there");
+    }
     if (!run.options.force) {
         return QStringLiteral("the file exists; --force replaces it");
     }
@@ -74,15 +77,17 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
     Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
 }
 
-QString RenderTrouble(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
-    try {
-        RenderInto(run, photo, record);
-        return {};
-    } catch (const RunTimeError& error) {
-        return QString::fromUtf8(error.what());
-    } catch (const std::bad_alloc&) {
-        return QStringLiteral("not enough memory");
+// The reason why it was not written; empty when it was.
+QString WriteTo(const QString& target, const ConversionRun& run, OpenPhoto& photo,
+                const ImageRecord& record, OutputType type) {
+    if (const QString trouble = TargetTrouble(run, photo, target); !trouble.isEmpty()) {
+        return trouble;
     }
+    RenderInto(run, photo, record);
+    const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
+    return SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
+                      SaveFlags(type, quality))
+        .reason;
 }
 
 }  // namespace
@@ -109,17 +114,16 @@ Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection proj
         SetField(record, field, value);
     }
     const OutputType type = TypeFor(run.options, run.settings);
-    const QString target = TargetName(run, photo, record, type);
-    if (const QString trouble = TargetTrouble(run, photo, target); !trouble.isEmpty()) {
-        return {target, trouble};
+    Written written{photo.path, {}};
+    try {
+        written.file = TargetName(run, photo, record, type);
+        written.reason = WriteTo(written.file, run, photo, record, type);
+    } catch (const RunTimeError& error) {
+        written.reason = QString::fromUtf8(error.what());
+    } catch (const std::bad_alloc&) {
+        written.reason = QStringLiteral("not enough memory");
     }
-    if (const QString trouble = RenderTrouble(run, photo, record); !trouble.isEmpty()) {
-        return {target, trouble};
-    }
-    const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
-    const SaveResult saved = SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
-                                        SaveFlags(type, quality));
-    return {target, saved.ok ? QString() : saved.reason};
+    return written;
 }
 
 }  // namespace varnel

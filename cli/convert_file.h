@@ -20,6 +20,7 @@ struct ConversionRun {
     const GearRecord& gear;
     const GeneralSettings& settings;
     RenderProgress& progress;
+    QStringList written = {};  // canonical names of the files written so far
 };
 
 // A photo that was read, and the record that its conversions start from.
@@ -38,8 +39,8 @@ struct Written {
     QString reason;  // why it was not written; empty when it was
 };
 
-// Converts and writes. Never replaces a photo of the run, an older file only with --force, and not
-// even then by a conversion of a damaged photo.
+// Converts and writes. Never replaces a photo or a result of the run, an older file only with
+// --force, and not even then by a conversion of a damaged photo.
 Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection);
 
 }  // namespace varnel

@@ -3,6 +3,8 @@
 
 #include "cli/convert_photos.h"
 
+#include <QFileInfo>
+
 #include "cli/convert_file.h"
 #include "cli/progress_bar.h"
 
@@ -15,7 +17,7 @@ void Report(const Console& console, const QString& file, const QString& reason) 
 }
 
 // Every projection of one photo; true when all were written from a sound picture.
-bool ConvertOne(const ConversionRun& run, const QString& path, const Console& console) {
+bool ConvertOne(ConversionRun& run, const QString& path, const Console& console) {
     LoadedPicture loaded = LoadPicture(path);
     if (loaded.outcome != LoadOutcome::Loaded) {
         Report(console, path, loaded.reason);
@@ -34,7 +36,10 @@ bool ConvertOne(const ConversionRun& run, const QString& path, const Console& co
         if (!written.reason.isEmpty()) {
             Report(console, written.file, written.reason);
             allWritten = false;
-        } else if (!run.options.quiet) {
+            continue;
+        }
+        run.written.append(QFileInfo(written.file).canonicalFilePath());
+        if (!run.options.quiet) {
             console.out << LocalText(written.file) << std::endl;
         }
     }
@@ -51,7 +56,7 @@ int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralS
     if (console.bar && !options.quiet) {
         progress = &bar;
     }
-    const ConversionRun run{options, gear, settings, *progress};
+    ConversionRun run{options, gear, settings, *progress};
     bool allWritten = true;
     for (const QString& path : options.files) {
         bar.SetLabel(path);

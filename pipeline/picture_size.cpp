@@ -18,7 +18,9 @@ BitmapHandle Header(const QString& path) {
     const LibraryMessages messages;
     const QByteArray name = QFile::encodeName(path);
     const FREE_IMAGE_FORMAT format = FreeImage_GetFileType(name.constData(), 0);
-    if (format == FIF_UNKNOWN || FreeImage_FIFSupportsNoPixels(format) != TRUE) {
+    // A raw file's header gives the sensor's way up, its pixels come turned.
+    if (format == FIF_UNKNOWN || format == FIF_RAW ||
+        FreeImage_FIFSupportsNoPixels(format) != TRUE) {
         return nullptr;
     }
     try {

@@ -11,6 +11,7 @@ namespace varnel {
 
 CircleRows MeasureCircle(const CircleView& view) {
     const CentreShift shift = ShiftInPixels(view.source, view.offsetX, view.offsetY);
+    CheckShift(shift);
     CircleRows rows;
     rows.halfWidth = view.source.width / 2;
     rows.upperHalf = view.source.height - view.source.height / 2;

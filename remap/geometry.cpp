@@ -65,8 +65,19 @@ CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {
             -Int(static_cast<double>(offsetY) * source.height / 1000.0)};
 }
 
+void CheckShift(const CentreShift& shift) {
+    constexpr double limit = 5e8;  // sums of a few of these still fit 32 bits
+    if (!(std::fabs(shift.x) <= limit)) {
+        throw OverflowError("OfsetX does not fit 32 bits");
+    }
+    if (!(std::fabs(shift.y) <= limit)) {
+        throw OverflowError("OfsetY does not fit 32 bits");
+    }
+}
+
 CentreAndExtents ImageCentre(PixelSize source, float offsetX, float offsetY) {
     const CentreShift shift = ShiftInPixels(source, offsetX, offsetY);
+    CheckShift(shift);
     const std::int32_t halfWidth = source.width / 2;
     const std::int32_t halfHeight = source.height / 2;
     return {CLng(shift.x + halfWidth, "OfsetX"),

@@ -99,7 +99,10 @@ double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor
 // Offsets in thousandths of width and height, rounded down to whole pixels.
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY);
 
-// Throws OverflowError when a value does not fit 32 bits.
+// Throws OverflowError for a shift so large that sums with it would not fit 32 bits.
+void CheckShift(const CentreShift& shift);
+
+// Throws as CheckShift.
 CentreAndExtents ImageCentre(PixelSize source, float offsetX, float offsetY);
 
 // Tilt and pan are scaled by the effect (percent), the roll is not. Arguments in degrees.

@@ -24,9 +24,11 @@ SizeKind SizeKindFromText(QStringView text);
 class RenderProgress {
   public:
     virtual ~RenderProgress() = default;
-    // Before the work: shows the bar and hands control to waiting events once.
+    // Once before anything is looked at: hands control to waiting events.
+    virtual void HandleEvents() {}
+    // Before the loops: shows the bar.
     virtual void Begin(float maximum) = 0;
-    // At each column or row; hands control to waiting events.
+    // At each column or row: shows the value and hands control to waiting events.
     virtual void Advance(float value) = 0;
     // After the work, also when it failed.
     virtual void End() = 0;

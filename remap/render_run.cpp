@@ -8,12 +8,15 @@
 namespace varnel {
 
 RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk)
-    : kind_(kind),
-      progress_(progress),
-      desk_(desk),
-      source_(kind == SizeKind::Thumbnails ? desk.bitmaps.PreviewSourceBitmap.get()
-                                           : desk.bitmaps.FullSourceBitmap.get()) {
+    : kind_(kind), progress_(progress), desk_(desk) {
+    progress_.HandleEvents();
+    Bitmaps& bitmaps = desk.bitmaps;
+    source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
+                                           : bitmaps.FullSourceBitmap.get();
     assert(source_ != nullptr);
+    bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
+    bitmaps.ResultBitmap = CloneBitmap(source_);
+    result_ = bitmaps.ResultBitmap.get();
 }
 
 RenderRun::~RenderRun() {
@@ -25,9 +28,6 @@ RenderRun::~RenderRun() {
 void RenderRun::Begin(float maximum) {
     begun_ = true;
     progress_.Begin(maximum);
-    desk_.bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
-    desk_.bitmaps.ResultBitmap = CloneBitmap(source_);
-    result_ = desk_.bitmaps.ResultBitmap.get();
 }
 
 void RenderRun::Advance(float value) {

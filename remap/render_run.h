@@ -11,7 +11,8 @@ namespace varnel {
 
 class RenderRun {
   public:
-    // Picks the source by the kind. The source must be there.
+    // Lets waiting events run once, picks the source by the kind, which must be there, and replaces
+    // ResultBitmap by a copy of it: what the loops do not reach keeps the source's pixels.
     RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk);
     ~RenderRun();
     RenderRun(const RenderRun&) = delete;
@@ -19,8 +20,7 @@ class RenderRun {
 
     FIBITMAP* Source() const { return source_; }
     PixelSize Size() const { return SizeOf(source_); }
-    // Lets waiting events run once and replaces ResultBitmap by a copy of the source: what the
-    // loops do not reach keeps the source's pixels.
+    // Shows the progress, which is taken away again at the end of the run.
     void Begin(float maximum);
     // Shows the value, lets waiting events run and asks anew how to read.
     void Advance(float value);
@@ -35,7 +35,7 @@ class RenderRun {
     SizeKind kind_;
     RenderProgress& progress_;
     RenderDesk& desk_;
-    FIBITMAP* source_;
+    FIBITMAP* source_ = nullptr;
     FIBITMAP* result_ = nullptr;
     bool nearest_ = false;
     bool begun_ = false;

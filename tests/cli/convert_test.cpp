@@ -125,6 +125,22 @@ TEST_F(Convert, AnImpossibleNumberIsNamedAndNothingIsWritten) {
     EXPECT_EQ(FilesIn({}), QStringList{Q("IMG.png")});
 }
 
+TEST_F(Convert, ANumberThatNoNameCanHoldEndsOnlyItsPhoto) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    EXPECT_EQ(RunWithGear({Q("--projection=rectilinear"), Q("--rotate-y=1e30"), Q("--output-dir"),
+                           files_.Path({}), photo}),
+              exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("IMG.png: Overflow: a rotation angle"));
+}
+
+TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
+    const QString first = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString second = files_.Picture(Q("IMG.bmp"), FIF_BMP);
+    EXPECT_EQ(RunWithGear({Q("--force"), first, second}), exitSomeFailed);
+    EXPECT_EQ(Lines().size(), 1);
+    EXPECT_TRUE(ErrorHas("another photo of this command was written there"));
+}
+
 TEST_F(Convert, WithoutAGearItSaysHowToGiveOne) {
     const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
     EXPECT_EQ(Run({photo}), exitUsage);

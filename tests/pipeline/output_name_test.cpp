@@ -112,6 +112,7 @@ TEST(BatchName, AnAdditionReplacesTheProjectionsName) {
     image.FileName = Q("IMG.jpg");
     image.EffectVarnel = 100.0F;
     EXPECT_EQ(BatchName(image, Q("/o"), additions, OutputType::Jpeg), Q("/o/IMG.wide.JPG"));
+    EXPECT_EQ(BatchName(image, Q("/o/"), additions, OutputType::Jpeg), Q("/o/IMG.wide.JPG"));
 }
 
 }  // namespace

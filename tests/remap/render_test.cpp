@@ -99,6 +99,7 @@ TEST(Render, ImpossibleNumbersEndWithAnErrorAndTheBarIsTakenAway) {
         Scene scene({41, 30});
         EXPECT_THROW(scene.Draw(projection, record), RunTimeError) << int(projection);
         EXPECT_EQ(scene.progress.ends, scene.progress.maximum_ < 0.0F ? 0 : 1);
+        EXPECT_TRUE(scene.bitmaps.ResultBitmap);  // the new one stands already
     }
     Scene wide({3142, 1000});
     EXPECT_THROW(wide.Draw(Projection::Horizon, FisheyeRecord()), DivisionByZeroError);

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The gear editor: defines the scratch gear, element 0 of the table, from a camera and a lens. A
+// scratch gear that has a name is redefined, else a new one is made. After the dialog has closed an
+// empty name means that nothing was defined.
+#pragma once
+
+#include <QDialog>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "gear/gear_entry.h"
+#include "gear/gear_record.h"
+
+class QComboBox;
+class QLabel;
+class QSlider;
+class QSpinBox;
+
+namespace Ui {
+class FormGearEdit;
+}
+
+namespace varnel {
+
+class FormGearEdit : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit FormGearEdit(GearTable& table, QWidget* parent = nullptr);
+    ~FormGearEdit() override;
+
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    // A slider with its exact value, its label and the range that it has for most gears.
+    struct Adjuster {
+        QSlider* slider;
+        QSpinBox* spin;
+        QLabel* label;
+        QString unit;
+        SliderRange range;
+    };
+
+    void ConnectChoice();
+    void ConnectAdjusters();
+    void ConnectNameText();
+    void Open();
+    void SelectNames(const GearNames& names);
+    void Choose();
+    void Refresh();
+    void SetAdjuster(const Adjuster& adjuster, float value);
+    void Follow(const Adjuster& adjuster, int value);
+    void TakeAdjustment(const Adjuster& adjuster);
+    void UseCatalogue();
+    void Confirm();
+    void ShowState();
+    void ShowPromptPale();
+    bool NameIsPrompt() const;
+    bool BothChosen() const;
+    GearNames ChosenNames() const;
+
+    std::unique_ptr<Ui::FormGearEdit> ui_;
+    GearTable& table_;
+    std::vector<Adjuster> adjusters_;
+    QString prompt_;
+    bool isNew_ = true;
+    bool loading_ = false;  // the program moves the controls, not the user
+    bool hAovMoved_ = false;
+};
+
+}  // namespace varnel

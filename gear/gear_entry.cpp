@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gear/gear_entry.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "remap/rounding.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr double farthest = 32767.0;  // beyond any gear; keeps a damaged setting within a slider
+
+}  // namespace
+
+SliderRange Widened(SliderRange range, int value) {
+    return {std::min(range.minimum, value), std::max(range.maximum, value)};
+}
+
+int SliderPosition(float value) {
+    if (std::isnan(value)) {
+        return 0;
+    }
+    return static_cast<int>(std::clamp(Round(static_cast<double>(value)), -farthest, farthest));
+}
+
+void DefineEditedGear(GearTable& table, const GearEntry& entry) {
+    const bool named = !entry.typedName.trimmed().isEmpty();
+    const QString name = named ? entry.typedName : BuiltGearName(entry.names);
+    GearRecord& gear = table(0);
+    gear.GearName = entry.isNew ? UniqueGearName(table, name) : name;
+    FillGearFromCatalogue(entry.names, gear, entry.sliders);
+    if (entry.hAov) {
+        // Meant so: the vertical angle stays the catalogue's.
+        gear.hAOV = static_cast<float>(*entry.hAov);
+    }
+}
+
+void DropAdjustments(GearRecord& gear) {
+    gear.UserAdjusted = false;
+    gear.OfsetX = 0.0F;
+    gear.OfsetY = 0.0F;
+}
+
+}  // namespace varnel

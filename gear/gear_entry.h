@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the gear editor does to the scratch gear, element 0 of the table, and the ranges of its
+// sliders. Sliders hold whole numbers: degrees, percent, thousandths.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "gear/gear_catalogue.h"
+#include "gear/gear_record.h"
+
+namespace varnel {
+
+struct SliderRange {
+    int minimum = 0;
+    int maximum = 0;
+
+    bool operator==(const SliderRange&) const = default;
+};
+
+inline constexpr SliderRange hAovRange{10, 280};
+inline constexpr SliderRange ratioRange{10, 400};
+inline constexpr SliderRange ofsetRange{-200, 200};
+
+// The range, made just wide enough for the value.
+SliderRange Widened(SliderRange range, int value);
+
+// The nearest whole number, ties to even; what is stored may be any number.
+int SliderPosition(float value);
+
+// What the user has entered when the gear is confirmed.
+struct GearEntry {
+    QString typedName;  // without one the gear is named after its camera and lens
+    GearNames names;
+    EditorSliders sliders;    // count for a gear that the user adjusted
+    std::optional<int> hAov;  // the horizontal angle, when the user set it
+    bool isNew = false;       // a new gear gets a name of its own
+};
+
+void DefineEditedGear(GearTable& table, const GearEntry& entry);
+
+// The catalogue's numbers count again: no adjustment, no offset of the image circle.
+void DropAdjustments(GearRecord& gear);
+
+}  // namespace varnel

@@ -9,7 +9,7 @@
 #include <QSpinBox>
 #include <QWidget>
 
-#include "app/slider_table.h"
+#include "state/slider_table.h"
 
 namespace varnel {
 

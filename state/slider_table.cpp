@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/slider_table.h"
+#include "state/slider_table.h"
 
 #include <QCoreApplication>
 

@@ -76,6 +76,7 @@ QWidget* AdjustmentPanel::MakePreviewChoices(QWidget* parent) {
     antialiased_ = new QCheckBox(tr("Antialiased"), box);
     antialiased_->setObjectName(QStringLiteral("CheckAntialiased"));
     antialiased_->setToolTip(tr("Smooths the preview; saved pictures are always smooth"));
+    antialiased_->setChecked(true);
     preview_ = new QPushButton(tr("Preview"), box);
     preview_->setObjectName(QStringLiteral("CmdFreeImage"));
     preview_->setToolTip(tr("Draws the preview now"));

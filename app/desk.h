@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "pipeline/file_chooser.h"
 #include "remap/render.h"
 #include "state/control_values.h"
 #include "state/notices.h"
@@ -42,21 +43,6 @@ class DeskView {
     virtual void ShowHourglass(bool on) = 0;
     // While locked nothing on the window can be started and a wish to close it waits.
     virtual void Lock(bool on) = 0;
-};
-
-// Where a picture is to be saved.
-struct SaveChoice {
-    QString name;
-    int filterIndex = 1;  // 1 TIFF, 2 JPEG, 3 BMP, 4 PNG
-};
-
-// Asks where to save; nothing when cancelled.
-class FileChooser {
-  public:
-    virtual ~FileChooser() = default;
-    virtual std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) = 0;
-    // True when the user agrees to replace the file of that name.
-    virtual bool AgreesToReplace(const QString& name) = 0;
 };
 
 class Desk {

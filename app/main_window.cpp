@@ -28,19 +28,14 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     splitter_ = new QSplitter(this);
     auto* const right = new QWidget(splitter_);
     BuildPictures(right);
-    auto* const scroll = new QScrollArea(splitter_);
-    auto* const column = new QWidget(scroll);
-    BuildColumn(column);
-    scroll->setWidget(column);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setMinimumWidth(column->minimumSizeHint().width() +
-                            scroll->verticalScrollBar()->sizeHint().width() + 4);
-    splitter_->addWidget(scroll);
+    auto* const side = new QWidget(splitter_);
+    BuildSide(side);
+    splitter_->addWidget(side);
     splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 1);
     splitter_->setCollapsible(0, false);
     setCentralWidget(splitter_);
+    BuildStatus();
     BuildMenus();
     view_ = std::make_unique<WindowView>(this, parts_, state_);
     desk_ = std::make_unique<Desk>(state_, ports_.notices, *view_);
@@ -55,36 +50,53 @@ MDIForm1::~MDIForm1() {
     state_.bitmaps = {};
 }
 
-void MDIForm1::BuildColumn(QWidget* column) {
-    parts_.column = column;
-    parts_.equipment = new EquipmentPanel(column);
-    parts_.list = new ImageListPanel(column);
-    parts_.adjustments = new AdjustmentPanel(column);
-    parts_.save = new SavePanel(column);
-    auto* const layout = new QVBoxLayout(column);
-    layout->addWidget(parts_.list);
-    layout->addWidget(parts_.equipment);
-    layout->addWidget(parts_.adjustments);
-    layout->addWidget(parts_.save);
-    layout->addStretch();
+// The controls scroll where the window is low; what saves stays in sight.
+void MDIForm1::BuildSide(QWidget* side) {
+    parts_.column = side;
+    auto* const scroll = new QScrollArea(side);
+    auto* const controls = new QWidget(scroll);
+    parts_.equipment = new EquipmentPanel(controls);
+    parts_.list = new ImageListPanel(controls);
+    parts_.adjustments = new AdjustmentPanel(controls);
+    parts_.save = new SavePanel(side);
+    auto* const inner = new QVBoxLayout(controls);
+    inner->addWidget(parts_.list, 1);
+    inner->addWidget(parts_.equipment);
+    inner->addWidget(parts_.adjustments);
+    scroll->setWidget(controls);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumWidth(controls->minimumSizeHint().width() +
+                            scroll->verticalScrollBar()->sizeHint().width() + 4);
+    auto* const layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 6);
+    layout->addWidget(scroll, 1);
+    auto* const margins = new QHBoxLayout;
+    margins->setContentsMargins(9, 0, 9, 0);
+    margins->addWidget(parts_.save);
+    layout->addLayout(margins);
 }
 
 void MDIForm1::BuildPictures(QWidget* right) {
     parts_.pictures = new PictureArea(right);
     parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
-    parts_.bar = new QProgressBar(right);
+    auto* const layout = new QVBoxLayout(right);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(parts_.pictures);
+}
+
+void MDIForm1::BuildStatus() {
+    parts_.status = new QLabel(this);
+    parts_.status->setObjectName(QStringLiteral("StatusText"));
+    parts_.status->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    parts_.bar = new QProgressBar(this);
     parts_.bar->setObjectName(QStringLiteral("ImgProgressBar"));
     parts_.bar->setAccessibleName(tr("Progress"));
     parts_.bar->setTextVisible(false);
-    parts_.bar->setMaximumHeight(10);
-    parts_.status = new QLabel(right);
-    parts_.status->setObjectName(QStringLiteral("StatusText"));
-    parts_.status->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* const layout = new QVBoxLayout(right);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(parts_.pictures, 1);
-    layout->addWidget(parts_.bar);
+    parts_.bar->setMaximumSize(240, 12);
     statusBar()->addWidget(parts_.status, 1);
+    statusBar()->addPermanentWidget(parts_.bar);
 }
 
 QAction* MDIForm1::AddEntry(QMenu* menu, const char* name, const QString& text,

@@ -40,8 +40,9 @@ class MDIForm1 : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void BuildColumn(QWidget* column);
+    void BuildSide(QWidget* side);
     void BuildPictures(QWidget* right);
+    void BuildStatus();
     void BuildMenus();
     QAction* AddEntry(QMenu* menu, const char* name, const QString& text,
                       const QKeySequence& shortcut, void (MDIForm1::*handler)());

@@ -17,9 +17,9 @@
 namespace varnel {
 
 bool RealDialogs::AddImages(QWidget* parent) {
-    const PhotoPlaces places{
-        QCoreApplication::applicationDirPath(), QDir::homePath(),
-        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation), &MountedVolumes};
+    const PhotoPlaces places{QCoreApplication::applicationDirPath(), QDir::homePath(),
+                             QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+                             &MountedVolumes};
     FormAddImages form(state_.Images, store_, notices_, places, parent);
     return form.exec() == QDialog::Accepted;
 }

@@ -4,7 +4,6 @@
 // Saving the current photo: the part of the desk that writes files.
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <new>
 
 #include "app/desk.h"
@@ -22,20 +21,10 @@ QString Tr(const char* text) {
     return QCoreApplication::translate("Desk", text);
 }
 
-OutputType TypeByFilter(int filterIndex) {
-    return filterIndex >= 1 && filterIndex <= 4 ? static_cast<OutputType>(filterIndex - 1)
-                                                : OutputType::Tiff;
-}
-
-bool SameFile(const QString& a, const QString& b) {
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
-}
-
 }  // namespace
 
 void Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
-    const OutputType type = TypeByFilter(choice.filterIndex);
+    const OutputType type = TypeOf(choice);
     RenderDesk desk{state_.bitmaps};
     Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
     const SaveResult saved =
@@ -60,17 +49,9 @@ void Desk::SaveAs(FileChooser& chooser) {
     }
     const SaveChoice proposal{ProposedName(SourcePath(image), view_.ChosenProjection()),
                               static_cast<int>(OutputTypeFromText(state_.settings.FileType)) + 1};
-    std::optional<SaveChoice> choice = chooser.ChooseSave(proposal);
+    const std::optional<SaveChoice> choice =
+        AskWhereToSave(chooser, notices_, proposal, SourcePath(image));
     if (!choice) {
-        return;
-    }
-    choice->name = WithExtension(choice->name, TypeByFilter(choice->filterIndex));
-    if (SameFile(choice->name, SourcePath(image))) {
-        notices_.Tell(Tr("Could not save %1").arg(choice->name),
-                      Tr("This is the photo itself; choose another name."));
-        return;
-    }
-    if (QFileInfo::exists(choice->name) && !chooser.AgreesToReplace(choice->name)) {
         return;
     }
     view_.Lock(true);

@@ -17,43 +17,43 @@ QString Translated(const char* text) {
 
 }  // namespace
 
-SliderRow::SliderRow(const SliderRowData& data, QWidget* parent)
+SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
     : QWidget(parent),
-      data_(data),
-      valueLabel_(new QLabel(Translated(data.startCaption), this)),
+      data_(facts),
+      valueLabel_(new QLabel(Translated(facts.startCaption), this)),
       slider_(new QSlider(Qt::Horizontal, this)),
       spinBox_(new QSpinBox(this)) {
-    const QString name = QString::fromLatin1(data.slider);
-    const QString tip = Translated(data.tip);
+    const QString name = QString::fromLatin1(facts.slider);
+    const QString tip = Translated(facts.tip);
     slider_->setObjectName(name);
-    slider_->setRange(data.minimum, data.maximum);
-    slider_->setSingleStep(data.smallChange);
-    slider_->setPageStep(data.largeChange);
-    slider_->setTickInterval(data.tickInterval);
+    slider_->setRange(facts.minimum, facts.maximum);
+    slider_->setSingleStep(facts.smallChange);
+    slider_->setPageStep(facts.largeChange);
+    slider_->setTickInterval(facts.tickInterval);
     slider_->setTickPosition(QSlider::TicksBelow);
-    slider_->setValue(data.start);
+    slider_->setValue(facts.start);
     slider_->setFocusPolicy(Qt::StrongFocus);
     slider_->setToolTip(tip);
     slider_->setAccessibleDescription(tip);
     slider_->installEventFilter(this);
     spinBox_->setObjectName(QStringLiteral("Spin") + name);
-    spinBox_->setRange(data.minimum, data.maximum);
-    spinBox_->setValue(data.start);
+    spinBox_->setRange(facts.minimum, facts.maximum);
+    spinBox_->setValue(facts.start);
     spinBox_->setKeyboardTracking(false);
     spinBox_->setFocusPolicy(Qt::StrongFocus);
     spinBox_->setToolTip(tip);
     spinBox_->installEventFilter(this);
-    valueLabel_->setObjectName(QString::fromLatin1(data.valueLabel));
+    valueLabel_->setObjectName(QString::fromLatin1(facts.valueLabel));
     valueLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(0);
-    QString accessible = Translated(data.startCaption);
-    if (data.headingLabel != nullptr) {
-        accessible = Translated(data.heading);
+    QString accessible = Translated(facts.startCaption);
+    if (facts.headingLabel != nullptr) {
+        accessible = Translated(facts.heading);
         heading_ = new QLabel(accessible, this);
-        heading_->setObjectName(QString::fromLatin1(data.headingLabel));
+        heading_->setObjectName(QString::fromLatin1(facts.headingLabel));
         heading_->setToolTip(tip);
         heading_->installEventFilter(this);
         grid->addWidget(heading_, 0, 0);

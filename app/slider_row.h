@@ -16,7 +16,7 @@ namespace varnel {
 class SliderRow : public QWidget {
     Q_OBJECT
   public:
-    explicit SliderRow(const SliderRowData& data, QWidget* parent = nullptr);
+    explicit SliderRow(const SliderRowData& facts, QWidget* parent = nullptr);
 
     const SliderRowData& Data() const { return data_; }
     QSlider* Slider() const { return slider_; }

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The main window with everybody it talks to replaced, and ways to use it as a person does.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+#include <QTest>
+#include <vector>
+
+#include "app/main_window.h"
+#include "gear/gear_catalogue.h"
+#include "tests/support/files.h"
+
+namespace varnel::testing {
+
+class FakeNotices : public Notices {
+  public:
+    void Tell(const QString& text, const QString& detail) override {
+        texts.append(text);
+        details.append(detail);
+    }
+    QStringList texts, details;
+};
+
+// Defines the same two gears each time: a circular and a full-frame fisheye.
+class FakeGearPrompt : public GearPrompt {
+  public:
+    void Explain(const QString& text) override { explained.append(text); }
+    bool DefineGear(GearTable& table) override {
+        if (quit) {
+            return false;
+        }
+        const GearNames names{QStringLiteral("Canon"), QStringLiteral("EOS 5D"),
+                              QStringLiteral("Sigma"), QStringLiteral("EX 8 mm f:3.5")};
+        FillGearFromCatalogue(names, table(0));
+        table(0).GearName = BuiltGearName(names);
+        return true;
+    }
+    QStringList explained;
+    bool quit = false;
+};
+
+class FakeChooser : public FileChooser {
+  public:
+    std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) override {
+        proposed = proposal;
+        return answer;
+    }
+    bool AgreesToReplace(const QString& name) override {
+        asked.append(name);
+        return agrees;
+    }
+    SaveChoice proposed;
+    std::optional<SaveChoice> answer;
+    QStringList asked;
+    bool agrees = false;
+};
+
+class FakeDialogs : public Dialogs {
+  public:
+    bool AddImages(QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormAddImages"));
+        return onAdd && onAdd();
+    }
+    void ManageGears(QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormGearList"));
+    }
+    void ChangeDefaults(QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormSetup"));
+        if (onDefaults) {
+            onDefaults();
+        }
+    }
+    void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
+    QStringList opened;
+    std::function<bool()> onAdd;
+    std::function<void()> onDefaults;
+};
+
+class WindowDesk {
+  public:
+    WindowDesk() : window(state, store, {notices, prompt, chooser, dialogs}) {
+        window.resize(1200, 900);
+        window.show();
+        QApplication::processEvents();
+    }
+    template <class Widget = QWidget>
+    Widget* Find(const char* name) {
+        Widget* const found = window.findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    QSlider* Slider(const char* name) { return Find<QSlider>(name); }
+    QString Label(const char* name) { return Find<QLabel>(name)->text(); }
+    void Click(const char* name) {
+        auto* const button = Find<QAbstractButton>(name);
+        button->click();
+    }
+    // Clicks in the list as with the mouse.
+    void ClickLine(int line, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        auto* const list = Find<QListWidget>("ImageList1");
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers,
+                          list->visualItemRect(list->item(line)).center());
+    }
+    void Press(const char* name, Qt::Key key) {
+        QWidget* const widget = Find(name);
+        widget->setFocus();
+        QTest::keyClick(widget, key);
+    }
+    // Position pictures, 60 x 40 unless said otherwise; the list takes them as if dropped.
+    void AddPhotos(const QStringList& names, PixelSize size = {60, 40}) {
+        QStringList paths;
+        for (const QString& name : names) {
+            paths.append(files.Picture(name, FIF_BMP, size));
+        }
+        window.AddFiles(paths);
+    }
+    QImage Shown(const char* picture) { return Find(picture)->grab().toImage(); }
+    ImageRecord& Record(int n) { return state.Images(n); }
+
+    PictureFolder files;
+    WorkingState state;
+    MemoryStore store;
+    FakeNotices notices;
+    FakeGearPrompt prompt;
+    FakeChooser chooser;
+    FakeDialogs dialogs;
+    MDIForm1 window;
+};
+
+}  // namespace varnel::testing

@@ -29,8 +29,12 @@ QString TurnTag(const char16_t* tag, float degrees) {
 
 }  // namespace
 
+QString ProposedName(const QString& sourcePath, const QString& addition) {
+    return sourcePath.chopped(qMin<qsizetype>(3, sourcePath.size())) + addition;
+}
+
 QString ProposedName(const QString& sourcePath, Projection projection) {
-    return sourcePath.chopped(qMin<qsizetype>(3, sourcePath.size())) + ToText(projection);
+    return ProposedName(sourcePath, ToText(projection));
 }
 
 QString NameAdditions::For(Projection projection) const {
@@ -55,8 +59,8 @@ QString SettingsTags(const ImageRecord& image) {
 
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
                   OutputType type) {
-    QString name =
-        folder + u'/' + image.FileName.chopped(qMin<qsizetype>(3, image.FileName.size()));
+    const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
+    QString name = place + image.FileName.chopped(qMin<qsizetype>(3, image.FileName.size()));
     name += additions.For(ProjectionFromIndex(image.Projection));
     if (!image.NameSuffix.isEmpty()) {
         name += u'_' + image.NameSuffix;

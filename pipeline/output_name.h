@@ -13,7 +13,9 @@
 namespace varnel {
 
 // The name that a single save proposes: the source path without its last three characters (the dot
-// of the old extension stays), followed by the projection's name.
+// of the old extension stays), followed by the addition.
+QString ProposedName(const QString& sourcePath, const QString& addition);
+// With the projection's name.
 QString ProposedName(const QString& sourcePath, Projection projection);
 
 // What the batch adds to a name for each projection; an empty text means the projection's own name.

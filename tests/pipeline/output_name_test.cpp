@@ -58,6 +58,7 @@ TEST(ProposedName, TheDotOfTheOldExtensionStays) {
               Q("/p/IMG_0001.Rectilinear"));
     EXPECT_EQ(ProposedName(Q("IMG.tiff"), Projection::Varnel), Q("IMG.tVarnel"));
     EXPECT_EQ(ProposedName(Q("ab"), Projection::Horizon), Q("Horizon"));
+    EXPECT_EQ(ProposedName(Q("/p/IMG.jpg"), Q("Stretch")), Q("/p/IMG.Stretch"));
 }
 
 struct Entry {

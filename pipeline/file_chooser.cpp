@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/file_chooser.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace varnel {
+
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("Save", text);
+}
+
+bool SameFile(const QString& a, const QString& b) {
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
+}
+
+}  // namespace
+
+OutputType TypeOf(const SaveChoice& choice) {
+    return choice.filterIndex >= 1 && choice.filterIndex <= 4
+               ? static_cast<OutputType>(choice.filterIndex - 1)
+               : OutputType::Tiff;
+}
+
+std::optional<SaveChoice> AskWhereToSave(FileChooser& chooser, Notices& notices,
+                                         const SaveChoice& proposal, const QString& photo) {
+    std::optional<SaveChoice> choice = chooser.ChooseSave(proposal);
+    if (!choice) {
+        return std::nullopt;
+    }
+    choice->name = WithExtension(choice->name, TypeOf(*choice));
+    if (SameFile(choice->name, photo)) {
+        notices.Tell(Tr("Could not save %1").arg(choice->name),
+                     Tr("This is the photo itself; choose another name."));
+        return std::nullopt;
+    }
+    if (QFileInfo::exists(choice->name) && !chooser.AgreesToReplace(choice->name)) {
+        return std::nullopt;
+    }
+    return choice;
+}
+
+}  // namespace varnel

@@ -3,6 +3,7 @@
 
 #include "cli/convert_file.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <algorithm>
 #include <new>
@@ -32,6 +33,9 @@ QString TargetName(const ConversionRun& run, const OpenPhoto& photo, const Image
     }
     if (!run.options.outputDir.isEmpty()) {
         return BatchName(record, run.options.outputDir, {}, type);
+    }
+    if (run.options.morph) {  // the frames have nothing but their batch names to tell them apart
+        return QDir::cleanPath(BatchName(record, QFileInfo(photo.path).path(), {}, type));
     }
     return ProposedName(photo.path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
 }
@@ -107,12 +111,16 @@ ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP*
     return record;
 }
 
-Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection) {
+ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projection projection) {
     ImageRecord record = photo.record;
     record.Projection = static_cast<std::int16_t>(projection);
     for (const auto& [field, value] : run.options.fields) {
         SetField(record, field, value);
     }
+    return record;
+}
+
+Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
     const OutputType type = TypeFor(run.options, run.settings);
     Written written{photo.path, {}};
     try {

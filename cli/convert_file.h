@@ -34,6 +34,9 @@ struct OpenPhoto {
 // The record of a photo with its size known: gear, then the options' adjustments.
 ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP* picture);
 
+// The photo's record for one projection; the fields that --set names have the last word.
+ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projection projection);
+
 struct Written {
     QString file;    // the name written or meant
     QString reason;  // why it was not written; empty when it was
@@ -41,6 +44,6 @@ struct Written {
 
 // Converts and writes. Never replaces a photo or a result of the run, an older file only with
 // --force, and not even then by a conversion of a damaged photo.
-Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, Projection projection);
+Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record);
 
 }  // namespace varnel

@@ -7,6 +7,7 @@
 
 #include "cli/convert_file.h"
 #include "cli/progress_bar.h"
+#include "pipeline/morph_sequence.h"
 
 namespace varnel {
 
@@ -14,6 +15,46 @@ namespace {
 
 void Report(const Console& console, const QString& file, const QString& reason) {
     Complain(console, file + QStringLiteral(": ") + reason);
+}
+
+// One conversion; true when it was written.
+bool WriteOne(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
+              const Console& console) {
+    const Written written = ConvertPhoto(run, photo, record);
+    if (!written.reason.isEmpty()) {
+        Report(console, written.file, written.reason);
+        return false;
+    }
+    run.written.append(QFileInfo(written.file).canonicalFilePath());
+    if (!run.options.quiet) {
+        console.out << LocalText(written.file) << std::endl;
+    }
+    return true;
+}
+
+MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
+    const Projection projection = ProjectionFromIndex(record.Projection);
+    MorphEnds ends = EndsFrom(record);
+    for (const Adjustment& from : options.from) {
+        *MorphValue(ends.start, projection, from.field) = from.value;
+    }
+    for (const Adjustment& to : options.to) {
+        *MorphValue(ends.end, projection, to.field) = to.value;
+    }
+    return ends;
+}
+
+// The frames that start from the record; true when all were written.
+bool WriteMorph(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
+                const Console& console) {
+    const MorphEnds ends = EndsFor(run.options, record);
+    const int frames = *run.options.morph;
+    bool allWritten = true;
+    for (int i = 1; i <= frames; ++i) {
+        allWritten =
+            WriteOne(run, photo, MorphFrame(record, ends, i, frames), console) && allWritten;
+    }
+    return allWritten;
 }
 
 // Every projection of one photo; true when all were written from a sound picture.
@@ -32,16 +73,10 @@ bool ConvertOne(ConversionRun& run, const QString& path, const Console& console)
     photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
     bool allWritten = !photo.damaged;
     for (const Projection projection : run.options.projections) {
-        const Written written = ConvertPhoto(run, photo, projection);
-        if (!written.reason.isEmpty()) {
-            Report(console, written.file, written.reason);
-            allWritten = false;
-            continue;
-        }
-        run.written.append(QFileInfo(written.file).canonicalFilePath());
-        if (!run.options.quiet) {
-            console.out << LocalText(written.file) << std::endl;
-        }
+        const ImageRecord record = RecordFor(run, photo, projection);
+        allWritten = (run.options.morph ? WriteMorph(run, photo, record, console)
+                                        : WriteOne(run, photo, record, console)) &&
+                     allWritten;
     }
     return allWritten;
 }

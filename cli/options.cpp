@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 
+#include "pipeline/morph_sequence.h"
 #include "state/record_fields.h"
 
 namespace varnel {
@@ -88,6 +89,9 @@ void Declare(QCommandLineParser& parser) {
     parser.addOptions({
         Valued(u"set", u"FIELD=VALUE",
                u"Any field of the image record, after all the rest; may be repeated."),
+        Valued(u"morph", u"N", u"A sequence of N frames instead of one picture."),
+        Valued(u"from", u"FIELD=VALUE", u"Where the sequence starts; may be repeated."),
+        Valued(u"to", u"FIELD=VALUE", u"Where the sequence ends; may be repeated."),
         Valued(u"preview", u"WxH", u"The preview of that size instead of the full picture."),
         Flag(u"antialiased", u"Interpolate the preview."),
         Valued(u"output", u"FILE", u"The file to write."),
@@ -166,14 +170,18 @@ int QualityOf(const QString& text) {
     return quality;
 }
 
+// The parts of FIELD=VALUE.
+std::pair<QString, QString> PartsOf(const QString& option, const QString& text) {
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals < 1) {
+        throw UsageError{QStringLiteral("--%1 needs FIELD=VALUE, not \"%2\"").arg(option, text)};
+    }
+    return {text.left(equals), text.mid(equals + 1)};
+}
+
 // Tried on an empty record, so that a wrong field or value is told before any photo is read.
 std::pair<QString, QString> FieldOf(const QString& text) {
-    const qsizetype equals = text.indexOf(u'=');
-    const QString field = text.left(equals);
-    if (equals < 1) {
-        throw UsageError{QStringLiteral("--set needs FIELD=VALUE, not \"%1\"").arg(text)};
-    }
-    const QString value = text.mid(equals + 1);
+    const auto [field, value] = PartsOf(QStringLiteral("set"), text);
     ImageRecord probe;
     switch (SetField(probe, field, value)) {
         case FieldResult::UnknownField:
@@ -186,6 +194,30 @@ std::pair<QString, QString> FieldOf(const QString& text) {
             break;
     }
     return {field, value};
+}
+
+int FrameCountOf(const QString& text) {
+    const auto count = FrameCountFromText(text);
+    if (const auto* error = std::get_if<QString>(&count)) {
+        throw UsageError{QStringLiteral("--morph: ") + *error};
+    }
+    if (std::get<int>(count) < 2) {
+        throw UsageError{QStringLiteral("--morph needs at least 2 frames, not %1").arg(text)};
+    }
+    return std::get<int>(count);
+}
+
+std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts) {
+    std::vector<Adjustment> end;
+    for (const QString& text : texts) {
+        const auto [field, value] = PartsOf(option, text);
+        if (!MorphFields().contains(field)) {
+            throw UsageError{QStringLiteral("a sequence cannot move \"%1\"; it can move %2")
+                                 .arg(field, MorphFields().join(QStringLiteral(", ")))};
+        }
+        end.push_back({field, NumberOf(option, value)});
+    }
+    return end;
 }
 
 Command CommandOf(const QCommandLineParser& parser) {
@@ -240,6 +272,9 @@ Options Take(const QCommandLineParser& parser) {
     for (const QString& text : parser.values(QStringLiteral("set"))) {
         options.fields.push_back(FieldOf(text));
     }
+    TakeIfSet(parser, u"morph", options.morph, &FrameCountOf);
+    options.from = MorphEndOf(QStringLiteral("from"), parser.values(QStringLiteral("from")));
+    options.to = MorphEndOf(QStringLiteral("to"), parser.values(QStringLiteral("to")));
     TakeIfSet(parser, u"preview", options.preview, &PreviewBoxOf);
     options.antialiased = parser.isSet(QStringLiteral("antialiased"));
     options.output = parser.value(QStringLiteral("output"));
@@ -249,6 +284,40 @@ Options Take(const QCommandLineParser& parser) {
     options.force = parser.isSet(QStringLiteral("force"));
     options.quiet = parser.isSet(QStringLiteral("quiet"));
     return options;
+}
+
+// The projection of the sequence; --set has the last word there too.
+Projection MorphProjection(const Options& options) {
+    ImageRecord probe;
+    probe.Projection = static_cast<std::int16_t>(options.projections.front());
+    for (const auto& [field, value] : options.fields) {
+        SetField(probe, field, value);
+    }
+    return ProjectionFromIndex(probe.Projection);
+}
+
+void CheckMorph(const Options& options) {
+    if (!options.morph) {
+        if (!options.from.empty() || !options.to.empty()) {
+            throw UsageError{QStringLiteral("--from and --to need --morph")};
+        }
+        return;
+    }
+    if (options.projections.size() > 1) {
+        throw UsageError{QStringLiteral("--morph takes one projection")};
+    }
+    if (!options.output.isEmpty()) {
+        throw UsageError{QStringLiteral("--morph names its files itself; use --output-dir")};
+    }
+    MorphValues probe;
+    for (const auto* end : {&options.from, &options.to}) {
+        for (const Adjustment& adjustment : *end) {
+            if (MorphValue(probe, MorphProjection(options), adjustment.field) == nullptr) {
+                throw UsageError{QStringLiteral("%1 is not an effect of the projection %2")
+                                     .arg(adjustment.field, ToText(MorphProjection(options)))};
+            }
+        }
+    }
 }
 
 void CheckTogether(const Options& options) {
@@ -272,6 +341,7 @@ void CheckTogether(const Options& options) {
             QStringLiteral("--output takes one photo and one projection; use "
                            "--output-dir for more")};
     }
+    CheckMorph(options);
 }
 
 }  // namespace

@@ -40,6 +40,8 @@ struct Options {
     std::optional<CatalogueName> lens;
     std::vector<Adjustment> adjustments;
     std::vector<std::pair<QString, QString>> fields;  // of --set
+    std::optional<int> morph;                         // frames of a sequence, at least 2
+    std::vector<Adjustment> from, to;                 // its ends where they are not the photo's own
     std::optional<PixelSize> preview;
     bool antialiased = false;
     QString output;

@@ -198,6 +198,42 @@ TEST_F(Convert, APreviewHasItsSizeAndFollowsAntialiasing) {
     EXPECT_NE(Contents(files_.Path(Q("plain.bmp"))), Contents(files_.Path(Q("smooth.bmp"))));
 }
 
+TEST_F(Convert, AMorphWritesTheFramesThatSingleConversionsWouldGive) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QStringList rectilinear{Q("--type"),      Q("bmp"),          Q("--projection"),
+                                  Q("rectilinear"), Q("--output-aov"), Q("95")};
+    EXPECT_EQ(RunWithGear(rectilinear + QStringList{Q("--morph"), Q("3"), Q("--from"),
+                                                    Q("EffectRectilinear=0"), Q("--to"),
+                                                    Q("RotateY=-5"), photo}),
+              exitAllWritten)
+        << err_.str();
+    const QStringList names{files_.Path(Q("IMG.Rectilinear_Morph0001_hAOV095_Eff000.BMP")),
+                            files_.Path(Q("IMG.Rectilinear_Morph0002_hAOV095_Eff050_LR-2.BMP")),
+                            files_.Path(Q("IMG.Rectilinear_Morph0003_hAOV095_LR-5.BMP"))};
+    EXPECT_EQ(Lines(), names);
+    const struct {
+        const char *effect, *y;
+    } frames[] = {{"0.1", "0"}, {"50", "-2.5"}, {"100", "-5"}};
+    for (int i = 0; i < 3; ++i) {
+        const QString single = files_.Path(Q("single.bmp"));
+        RunWithGear(rectilinear + QStringList{Q("--force"), Q("--output"), single, Q("--effect"),
+                                              Q(frames[i].effect), Q("--rotate-y"), Q(frames[i].y),
+                                              photo});
+        EXPECT_EQ(Contents(names[i]), Contents(single)) << i;
+    }
+    // Existing frames stay without --force; into a folder go the same names.
+    EXPECT_EQ(RunWithGear(rectilinear +
+                          QStringList{Q("--morph=2"), Q("--from=EffectRectilinear=0"), photo}),
+              exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("IMG.Rectilinear_Morph0001_hAOV095_Eff000.BMP: the file exists"));
+    QDir(files_.Path({})).mkdir(Q("out"));
+    EXPECT_EQ(RunWithGear({Q("--type=bmp"), Q("--morph=2"), Q("--to=EffectVarnel=0"),
+                           Q("--output-dir"), files_.Path(Q("out")), photo}),
+              exitAllWritten);
+    EXPECT_EQ(FilesIn(Q("out")),
+              (QStringList{Q("IMG.Varnel_Morph0001.BMP"), Q("IMG.Varnel_Morph0002_Eff000.BMP")}));
+}
+
 TEST_F(Convert, ListsAreReadyForTheOptions) {
     EXPECT_EQ(Run({Q("--list-cameras"), Q("GoPro")}), exitAllWritten);
     EXPECT_EQ(Lines(), QStringList{Q("GoPro/Hero 3 Black")});

@@ -46,6 +46,20 @@ TEST(ParseOptions, AllProjectionsAndDefaults) {
     EXPECT_FALSE(options.type || options.quality || options.preview);
 }
 
+TEST(ParseOptions, AMorphHasItsEnds) {
+    const Options options = std::get<Options>(
+        Parse("p --projection rectilinear --morph 12 --from RotateX=-7.5 --from OutputAOV=60 "
+              "--to EffectRectilinear=0 a"));
+    EXPECT_EQ(options.morph, 12);
+    ASSERT_EQ(options.from.size(), 2U);
+    EXPECT_EQ(options.from[0].field, QStringLiteral("RotateX"));
+    EXPECT_EQ(options.from[0].value, -7.5F);
+    EXPECT_EQ(options.to.at(0).value, 0.0F);
+    // --set has the last word on the projection and so on its effect.
+    EXPECT_TRUE(std::holds_alternative<Options>(
+        Parse("p --morph 2 --set Projection=1 --to EffectRectilinear=5 a")));
+}
+
 TEST(ParseOptions, AWrongLineIsToldInOneLine) {
     for (const char* line : {"p",
                              "p --nonsense a",
@@ -70,7 +84,19 @@ TEST(ParseOptions, AWrongLineIsToldInOneLine) {
                              "p --set RotateZ a",
                              "p --set Nonsense=1 a",
                              "p --set RotateZ=much a",
-                             "p --set Projection=99999 a"}) {
+                             "p --set Projection=99999 a",
+                             "p --morph many a",
+                             "p --morph 32768 a",
+                             "p --morph 1 a",
+                             "p --morph 0 a",
+                             "p --morph 2 --projection all a",
+                             "p --morph 2 --output x a",
+                             "p --from RotateX=1 a",
+                             "p --to RotateX=1 a",
+                             "p --morph 2 --from RotateX a",
+                             "p --morph 2 --from RotateX=far a",
+                             "p --morph 2 --from InputAOV=90 a",
+                             "p --morph 2 --to EffectRectilinear=5 a"}) {
         const auto parsed = Parse(line);
         ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << line;
         EXPECT_FALSE(std::get<QString>(parsed).isEmpty()) << line;

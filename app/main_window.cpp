@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "pipeline/add_images.h"
 #include "remap/rounding.h"
@@ -60,9 +61,10 @@ void MDIForm1::BuildSide(QWidget* side) {
     parts_.adjustments = new AdjustmentPanel(controls);
     parts_.save = new SavePanel(side);
     auto* const inner = new QVBoxLayout(controls);
-    inner->addWidget(parts_.list, 1);
+    inner->addWidget(parts_.list);
     inner->addWidget(parts_.equipment);
     inner->addWidget(parts_.adjustments);
+    inner->addStretch();
     scroll->setWidget(controls);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
@@ -145,6 +147,13 @@ void MDIForm1::showEvent(QShowEvent* event) {
         // After the window is on the screen, so that the first questions stand above it.
         QTimer::singleShot(0, this, &MDIForm1::Activate);
     }
+}
+
+// The list's height follows the window alone, so that nothing jumps under the mouse when another
+// projection shows or hides its sliders.
+void MDIForm1::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    parts_.list->List()->setFixedHeight(std::clamp(height() / 5, 110, 420));
 }
 
 void MDIForm1::Quit() {

@@ -18,3 +18,15 @@ function(varnel_widget_test name)
     SOURCES ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/widgets_main.cpp
     LINKS ${arg_LINKS} Qt6::Widgets Qt6::Test)
 endfunction()
+
+# varnel_window_test(NAME SOURCES ... LINKS ...): a test on a real window, under Xvfb. One ctest entry.
+find_program(XVFB_RUN xvfb-run)
+function(varnel_window_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/widgets_main.cpp)
+  target_link_libraries(${name} PRIVATE ${arg_LINKS} GTest::gtest Qt6::Widgets Qt6::Test varnel_options)
+  if(XVFB_RUN)
+    add_test(NAME ${name} COMMAND ${XVFB_RUN} -a -s "-screen 0 3840x2160x24" $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_QPA_PLATFORMTHEME=")
+  endif()
+endfunction()

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The shipped programs as processes, with no display to be found.
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "gear/gear_catalogue.h"
+#include "gear/gear_store.h"
+#include "pipeline/load_picture.h"
+#include "tests/support/files.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+class Program : public ::testing::Test {
+  protected:
+    // Runs a program of ours with a configuration folder of its own; returns its exit code.
+    int Run(const char* program, const QStringList& arguments, const char* locale = "C.UTF-8") {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+            environment.remove(Q(name));
+        }
+        environment.insert(Q("XDG_CONFIG_HOME"), files_.Path(Q("config")));
+        environment.insert(Q("LC_ALL"), Q(locale));
+        process.setProcessEnvironment(environment);
+        process.start(Q(program), arguments);
+        EXPECT_TRUE(process.waitForFinished(60000));
+        out_ = QString::fromUtf8(process.readAllStandardOutput());
+        err_ = QString::fromUtf8(process.readAllStandardError());
+        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+    void DefineGear() {
+        QSettings settings(files_.Path(Q("config/Varnel/Varnel.conf")), QSettings::IniFormat);
+        const std::pair<const char*, const char*> values[] = {{"NumGear", "1"},
+                                                              {"DefaultGearName", "mine"},
+                                                              {"GearName1", "mine"},
+                                                              {"GearCameraBrand1", "Canon"},
+                                                              {"GearCameraModel1", "EOS 5D"},
+                                                              {"GearLensBrand1", "Sigma"},
+                                                              {"GearLensModel1", "EX 8 mm f:3.5"}};
+        for (const auto& [key, value] : values) {
+            settings.setValue(Q("Gear/") + Q(key), Q(value));
+        }
+    }
+    testing::PictureFolder files_;
+    QString out_, err_;
+};
+
+TEST_F(Program, VarnelConvertsItsArgumentsWithoutADisplay) {
+    const QString photo = files_.Picture(Q("Küste.png"), FIF_PNG);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}), 2);
+    EXPECT_TRUE(err_.contains(Q("Please define at least one camera + lens combination ...")));
+    DefineGear();
+    for (const char* const locale : {"C", "C.UTF-8"}) {
+        EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}, locale), 0) << err_.toStdString();
+        EXPECT_EQ(out_, files_.Path(Q("Küste.Varnel.TIF\n")));
+        EXPECT_EQ(LoadPicture(files_.Path(Q("Küste.Varnel.TIF"))).outcome, LoadOutcome::Loaded);
+    }
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {files_.Path(Q("none.jpg")), photo}), 1);
+    EXPECT_TRUE(err_.contains(Q("none.jpg: there is no such file")));
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--help")}), 0);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--version")}), 0);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--nonsense")}), 2);
+    EXPECT_EQ(err_.count(u'\n'), 1);
+}
+
+TEST_F(Program, VarnelConvertTakesItsGearFromTheUsersStore) {
+    const QString photo = files_.Picture(Q("IMG.tif"), FIF_TIFF);
+    DefineGear();
+    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Q("--projection=all"), Q("--type=png"), photo}), 0);
+    EXPECT_EQ(out_.count(u'\n'), 4);
+    EXPECT_TRUE(err_.isEmpty()) << err_.toStdString();  // nothing of what libraries say
+    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Q("--list-gears")}), 0);
+    EXPECT_EQ(out_, Q("mine\n"));
+}
+
+}  // namespace
+}  // namespace varnel

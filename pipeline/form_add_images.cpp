@@ -3,9 +3,7 @@
 
 #include "pipeline/form_add_images.h"
 
-#include <QKeyEvent>
-#include <QSignalBlocker>
-#include <algorithm>
+#include <QDir>
 
 #include "pipeline/small_picture.h"
 #include "remap/paint.h"
@@ -19,37 +17,15 @@ FormAddImages::FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& st
       ui_(std::make_unique<Ui::FormAddImages>()),
       images_(images),
       store_(store),
-      notices_(notices),
       places_(places) {
     ui_->setupUi(this);
-    FillVolumes();
-    SetUpFolders();
+    place_ = std::make_unique<FolderChooser>(*ui_->Drive1, *ui_->Dir1, notices, places_.volumes);
     SetUpFiles();
     ConnectControls();
     ShowStartPlace();
 }
 
 FormAddImages::~FormAddImages() = default;
-
-void FormAddImages::FillVolumes() {
-    volumes_ = places_.volumes();
-    for (const Volume& volume : volumes_) {
-        ui_->Drive1->addItem(VolumeLabel(volume), volume.path);
-    }
-}
-
-void FormAddImages::SetUpFolders() {
-    folders_.setFilter(QDir::AllDirs | QDir::NoDotAndDotDot);
-    folders_.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-    folders_.setRootPath(QDir::rootPath());
-    ui_->Dir1->setModel(&folders_);
-    for (int column = 1; column < folders_.columnCount(); ++column) {
-        ui_->Dir1->hideColumn(column);
-    }
-    ui_->Dir1->installEventFilter(this);
-    ui_->CmdHome->setEnabled(QDir(places_.homeFolder).exists());
-    ui_->CmdPictures->setEnabled(QDir(places_.picturesFolder).exists());
-}
 
 void FormAddImages::SetUpFiles() {
     ui_->File1->setGridSize(CellSize() + QSize(0, 14));
@@ -60,18 +36,13 @@ void FormAddImages::SetUpFiles() {
 }
 
 void FormAddImages::ConnectControls() {
-    connect(ui_->Drive1, &QComboBox::currentIndexChanged, this, &FormAddImages::EnterVolume);
-    connect(ui_->Dir1->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &FormAddImages::OnFolder);
-    // The folders above the shown one arrive later and push it down.
-    connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (folder_.startsWith(loaded)) {
-            ui_->Dir1->scrollTo(ui_->Dir1->currentIndex());
-        }
-    });
-    connect(ui_->CmdHome, &QPushButton::clicked, this, [this] { ShowFolder(places_.homeFolder); });
+    connect(place_.get(), &FolderChooser::FolderChanged, this, &FormAddImages::OnFolder);
+    ui_->CmdHome->setEnabled(QDir(places_.homeFolder).exists());
+    ui_->CmdPictures->setEnabled(QDir(places_.picturesFolder).exists());
+    connect(ui_->CmdHome, &QPushButton::clicked, this,
+            [this] { place_->Show(places_.homeFolder); });
     connect(ui_->CmdPictures, &QPushButton::clicked, this,
-            [this] { ShowFolder(places_.picturesFolder); });
+            [this] { place_->Show(places_.picturesFolder); });
     connect(ui_->Option1, &QRadioButton::toggled, this, &FormAddImages::RefillFiles);
     connect(ui_->File1, &QListWidget::itemSelectionChanged, this, &FormAddImages::ShowCounts);
     connect(ui_->File1, &QListWidget::itemDoubleClicked, this,
@@ -81,53 +52,14 @@ void FormAddImages::ConnectControls() {
 }
 
 void FormAddImages::ShowStartPlace() {
-    const StartPlace place = ChooseStartPlace(store_, places_.programFolder);
-    ShowFolder(place.folder);
-    const auto last = std::find_if(volumes_.begin(), volumes_.end(), [&](const Volume& volume) {
-        return DriveName(volume.path) == place.drive;
-    });
-    if (last != volumes_.end()) {
-        SelectVolume(static_cast<int>(last - volumes_.begin()));
-    }
+    const StartPlace start = ChooseStartPlace(store_, places_.programFolder);
+    place_->Show(start.folder);
+    place_->PutDriveInFront(start.drive);
     ui_->File1->setFocus();
 }
 
-bool FormAddImages::CanEnter(const Volume& volume) const {
-    const std::vector<Volume> now = places_.volumes();
-    return QDir(volume.path).isReadable() &&
-           std::any_of(now.begin(), now.end(), [&](const Volume& other) {
-               return other.path == volume.path && other.ready;
-           });
-}
-
-void FormAddImages::EnterVolume(int index) {
-    const Volume volume = volumes_.at(static_cast<std::size_t>(index));
-    if (CanEnter(volume)) {
-        ShowFolder(volume.path);
-        return;
-    }
-    notices_.Tell(VolumeMissingText(volume.path), QString());
-    SelectVolume(VolumeHolding(folder_, volumes_));
-}
-
-void FormAddImages::SelectVolume(int index) {
-    const QSignalBlocker quiet(ui_->Drive1);
-    ui_->Drive1->setCurrentIndex(index);
-}
-
-void FormAddImages::ShowFolder(const QString& folder) {
-    const QModelIndex index = folders_.index(folder);
-    ui_->Dir1->setCurrentIndex(index);
-    ui_->Dir1->expand(index);
-}
-
-void FormAddImages::OnFolder(const QModelIndex& index) {
-    if (!index.isValid()) {
-        return;
-    }
-    folder_ = folders_.filePath(index);
-    SelectVolume(VolumeHolding(folder_, volumes_));
-    ui_->LabelFolder->setText(QDir::toNativeSeparators(folder_));
+void FormAddImages::OnFolder() {
+    ui_->LabelFolder->setText(QDir::toNativeSeparators(place_->Folder()));
     ui_->LabelFolder->setToolTip(ui_->LabelFolder->text());
     RefillFiles();
 }
@@ -136,7 +68,7 @@ void FormAddImages::RefillFiles() {
     const QIcon plain = style()->standardIcon(QStyle::SP_FileIcon);
     const QStringView patterns = ui_->Option1->isChecked() ? photoPatterns : anyPattern;
     ui_->File1->clear();
-    for (const QString& fileName : FilesIn(folder_, patterns)) {
+    for (const QString& fileName : FilesIn(place_->Folder(), patterns)) {
         auto* const item = new QListWidgetItem(plain, fileName, ui_->File1);
         item->setToolTip(fileName);
         item->setSizeHint(CellSize());
@@ -150,7 +82,7 @@ void FormAddImages::RefillFiles() {
 
 void FormAddImages::ShowCounts() {
     const int count = ui_->File1->count();
-    if (!QDir(folder_).isReadable()) {
+    if (!QDir(place_->Folder()).isReadable()) {
         ui_->LabelCount->setText(tr("This folder cannot be read"));
     } else if (count == 0) {
         ui_->LabelCount->setText(tr("No photos here"));
@@ -175,8 +107,8 @@ void FormAddImages::Add(const QStringList& fileNames) {
         reject();
         return;
     }
-    AppendImages(images_, folder_, fileNames);
-    SaveStartPlace(store_, {DriveName(ui_->Drive1->currentData().toString()), folder_});
+    AppendImages(images_, place_->Folder(), fileNames);
+    SaveStartPlace(store_, {place_->Drive(), place_->Folder()});
     accept();
 }
 
@@ -188,24 +120,10 @@ QSize FormAddImages::CellSize() const {
 QImage FormAddImages::SmallImage(const QString& fileName) const {
     const QSize box = ui_->File1->iconSize() * devicePixelRatioF();
     const BitmapHandle small =
-        SmallPicture(QDir(folder_).filePath(fileName), {box.width(), box.height()});
+        SmallPicture(QDir(place_->Folder()).filePath(fileName), {box.width(), box.height()});
     QImage image = ImageOf(small.get());
     image.setDevicePixelRatio(devicePixelRatioF());
     return image;
-}
-
-bool FormAddImages::eventFilter(QObject* watched, QEvent* event) {
-    // Enter opens or closes the folder; it must not close the dialog under somebody who is still on
-    // the way to the photos.
-    if (watched == ui_->Dir1 && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            const QModelIndex index = ui_->Dir1->currentIndex();
-            ui_->Dir1->setExpanded(index, !ui_->Dir1->isExpanded(index));
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 void FormAddImages::showEvent(QShowEvent* event) {

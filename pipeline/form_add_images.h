@@ -6,14 +6,11 @@
 #pragma once
 
 #include <QDialog>
-#include <QFileSystemModel>
-#include <functional>
 #include <memory>
-#include <vector>
 
 #include "pipeline/add_images.h"
+#include "pipeline/folder_chooser.h"
 #include "pipeline/idle_previews.h"
-#include "pipeline/volume.h"
 #include "state/notices.h"
 
 namespace Ui {
@@ -27,7 +24,7 @@ struct PhotoPlaces {
     QString programFolder;
     QString homeFolder;
     QString picturesFolder;
-    std::function<std::vector<Volume>()> volumes;  // asked anew whenever one is chosen
+    FolderChooser::Volumes volumes;
 };
 
 // Accepted when photos were added to the images.
@@ -40,39 +37,29 @@ class FormAddImages : public QDialog {
     ~FormAddImages() override;
 
   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
-    void FillVolumes();
-    void SetUpFolders();
     void SetUpFiles();
     void ConnectControls();
     void ShowStartPlace();
 
-    void EnterVolume(int index);
-    void SelectVolume(int index);
-    void ShowFolder(const QString& folder);
-    void OnFolder(const QModelIndex& index);
+    void OnFolder();
     void RefillFiles();
     void ShowCounts();
     void AddSelected();
     void Add(const QStringList& fileNames);
 
-    bool CanEnter(const Volume& volume) const;
     QSize CellSize() const;
     QImage SmallImage(const QString& fileName) const;
 
     std::unique_ptr<Ui::FormAddImages> ui_;
     RecordArray<ImageRecord>& images_;
     SettingsStore& store_;
-    Notices& notices_;
     PhotoPlaces places_;
-    std::vector<Volume> volumes_;  // as listed
-    QFileSystemModel folders_;
+    std::unique_ptr<FolderChooser> place_;
     std::unique_ptr<IdlePreviews> previews_;
-    QString folder_;
 };
 
 }  // namespace varnel

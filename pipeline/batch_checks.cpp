@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/batch_checks.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QHash>
+#include <QLocale>
+#include <QStorageInfo>
+#include <QStringList>
+#include <QTemporaryFile>
+#include <algorithm>
+
+#include "remap/run_time_error.h"
+
+namespace varnel {
+
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("Batch", text);
+}
+
+// An entry without a name fails in the run and is told there.
+QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue,
+                                const BatchChoices& choices) {
+    QHash<QString, int> uses;
+    for (const ImageRecord& entry : queue) {
+        try {
+            ++uses[BatchPath(entry, choices)];
+        } catch (const RunTimeError&) {
+            continue;
+        }
+    }
+    return uses;
+}
+
+// Between two points of a table.
+double Between(double x, double x0, double y0, double x1, double y1) {
+    return y0 + (x - x0) / (x1 - x0) * (y1 - y0);
+}
+
+// Measured with converted photos of foliage, which need two to four times what indoor ones do.
+double BytesPerPixel(const BatchChoices& choices) {
+    const double quality = choices.jpegQuality;
+    switch (choices.type) {
+        case OutputType::Tiff:
+            return 2.3;
+        case OutputType::Png:
+            return 2.0;
+        case OutputType::Bmp:
+            return 3.0;
+        case OutputType::Jpeg:
+            break;
+    }
+    if (quality <= 85.0) {
+        return Between(std::max(quality, 50.0), 50.0, 0.19, 85.0, 0.36);
+    }
+    return quality <= 95.0 ? Between(quality, 85.0, 0.36, 95.0, 0.61)
+                           : Between(quality, 95.0, 0.61, 100.0, 1.07);
+}
+
+}  // namespace
+
+QString FolderTrouble(const QString& folder) {
+    const QString shown = QDir::toNativeSeparators(folder);
+    if (folder.isEmpty() || !QFileInfo::exists(folder)) {
+        return Tr("The folder %1 does not exist").arg(shown);
+    }
+    if (!QFileInfo(folder).isDir()) {
+        return Tr("%1 is not a folder").arg(shown);
+    }
+    // Trying is the only answer that counts: permissions say nothing of write-protected cards.
+    QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".varnel-XXXXXX")));
+    if (!probe.open()) {
+        return Tr("Nothing can be written into the folder %1 (%2)").arg(shown, probe.errorString());
+    }
+    return {};
+}
+
+int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    const QHash<QString, int> uses = UsesOfNames(queue, choices);
+    return static_cast<int>(
+        std::count_if(uses.begin(), uses.end(), [](int count) { return count > 1; }));
+}
+
+int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    const QStringList names = UsesOfNames(queue, choices).keys();
+    return static_cast<int>(std::count_if(
+        names.begin(), names.end(), [](const QString& name) { return QFileInfo::exists(name); }));
+}
+
+QString NamesText(int colliding, int existing) {
+    QStringList sentences;
+    if (colliding == 1) {
+        sentences += Tr("1 name collides: of the images of one name only the last one stays.");
+    } else if (colliding > 1) {
+        sentences += Tr("%1 names collide: of the images of one name only the last one stays.")
+                         .arg(colliding);
+    }
+    if (existing == 1) {
+        sentences += Tr("1 file in this folder will be replaced.");
+    } else if (existing > 1) {
+        sentences += Tr("%1 files in this folder will be replaced.").arg(existing);
+    }
+    return sentences.join(u' ');
+}
+
+qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    double pixels = 0.0;
+    for (const ImageRecord& entry : queue) {
+        pixels += static_cast<double>(entry.Width) * entry.Height;
+    }
+    return qRound64(pixels * BytesPerPixel(choices));
+}
+
+qint64 FreeBytes(const QString& folder) {
+    return QStorageInfo(folder).bytesAvailable();
+}
+
+QString SpaceWarning(qint64 expectedBytes, qint64 freeBytes) {
+    if (freeBytes < 0 || expectedBytes <= freeBytes) {
+        return {};
+    }
+    const QLocale locale;
+    return Tr("The images may need up to %1, but only %2 are free there.")
+        .arg(locale.formattedDataSize(expectedBytes, 1, QLocale::DataSizeSIFormat),
+             locale.formattedDataSize(freeBytes, 1, QLocale::DataSizeSIFormat));
+}
+
+}  // namespace varnel

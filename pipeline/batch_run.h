@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The batch: every queued photo converted at full size, each with its own settings, and written
+// into one folder. Only one photo is in memory at a time, however long the queue is.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "pipeline/batch_summary.h"
+#include "pipeline/load_picture.h"
+#include "pipeline/output_name.h"
+#include "remap/render.h"
+#include "remap/save_bitmap.h"
+#include "state/record_array.h"
+
+namespace varnel {
+
+// Where the files go, what they are called and how they are written.
+struct BatchChoices {
+    QString folder;  // empty until one was chosen
+    NameAdditions additions;
+    OutputType type = OutputType::Tiff;
+    int jpegQuality = 100;
+};
+
+// The full path under which an entry is written. Throws RunTimeError when a number of the record
+// cannot stand in a name.
+QString BatchPath(const ImageRecord& entry, const BatchChoices& choices);
+
+// Hears how a run goes; all calls come on the caller's thread.
+class BatchObserver {
+  public:
+    virtual ~BatchObserver() = default;
+    // The next photo is loaded and will be written under this path: shows it and handles pending
+    // events once.
+    virtual void Naming(const QString& path) = 0;
+    // How far the photo at hand is.
+    virtual RenderProgress& Progress() = 0;
+    // After each photo, also one that failed: handles pending events once and shows the numbers.
+    virtual void Done(int done, int queued) = 0;
+    // Asked after Done; true ends the run.
+    virtual bool StopAsked() = 0;
+};
+
+// How photos come in and go out.
+struct BatchPorts {
+    std::function<LoadedPicture(const QString& path)> load = LoadPicture;
+    std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
+                             int flags)>
+        save = SaveBitmap;
+};
+
+// Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
+// changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
+// the queue is never replaced, and no older file by a conversion of a damaged photo.
+BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                      BatchObserver& observer, const BatchPorts& ports = {});
+
+}  // namespace varnel

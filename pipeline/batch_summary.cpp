@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/batch_summary.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+#include "state/projection.h"
+
+namespace varnel {
+
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("Batch", text);
+}
+
+qsizetype Count(const QStringList& list) {
+    return list.size();
+}
+
+qsizetype Count(const std::vector<BatchTrouble>& list) {
+    return static_cast<qsizetype>(list.size());
+}
+
+QString LineOf(const QString& path) {
+    return path;
+}
+
+QString LineOf(const BatchTrouble& trouble) {
+    return trouble.file + QStringLiteral(": ") + trouble.reason;
+}
+
+// A heading and an indented line for each; nothing when there is none.
+template <class List>
+QString Section(const List& list, const QString& one, const QString& many) {
+    if (list.empty()) {
+        return {};
+    }
+    QString text = u'\n' + (Count(list) == 1 ? one : many.arg(Count(list))) + u'\n';
+    for (const auto& item : list) {
+        text += QStringLiteral("  ") + LineOf(item) + u'\n';
+    }
+    return text;
+}
+
+QString About(const QString& one, const QString& many, double number) {
+    const int whole = static_cast<int>(number);
+    return whole == 1 ? one : many.arg(whole);
+}
+
+}  // namespace
+
+QString SummaryText(const BatchSummary& summary) {
+    QString text = Tr("%1 of %2 images written").arg(summary.written.size()).arg(summary.queued);
+    if (summary.Stopped()) {
+        text += Tr(", stopped after %1").arg(summary.done);
+    }
+    text += u'\n';
+    text += Section(summary.failures, Tr("1 image failed:"), Tr("%1 images failed:"));
+    text += Section(summary.damaged,
+                    Tr("1 image is damaged and was written as far as it could be read:"),
+                    Tr("%1 images are damaged and were written as far as they could be read:"));
+    text += Section(summary.replaced, Tr("1 file was replaced by a later image of the same name:"),
+                    Tr("%1 files were replaced by later images of the same name:"));
+    return text;
+}
+
+QString BatchProgressText(int done, int queued) {
+    return Tr("%1 of %2 images").arg(done).arg(queued);
+}
+
+QString TimeLeftText(double elapsedSeconds, double done) {
+    if (elapsedSeconds < 3.0 || done <= 0.0 || done >= 1.0) {
+        return {};
+    }
+    const double left = elapsedSeconds / done * (1.0 - done);
+    if (left < 55.0) {
+        return Tr("about %1 seconds left").arg(static_cast<int>(std::ceil(left / 5.0)) * 5);
+    }
+    if (left < 90.0 * 60.0) {
+        return About(Tr("about 1 minute left"), Tr("about %1 minutes left"),
+                     std::round(left / 60.0));
+    }
+    return Tr("about %1 hours left").arg(std::round(left / 1800.0) / 2.0);
+}
+
+QString QueueLine(const ImageRecord& entry) {
+    const QString frame = QStringLiteral("Morph");
+    QString suffix = entry.NameSuffix;
+    if (suffix.startsWith(frame)) {
+        suffix.insert(frame.size(), u' ');
+    }
+    const QString projection = ToText(ProjectionFromIndex(entry.Projection));
+    return QStringLiteral("%1 (%2)").arg(
+        entry.FileName, suffix.isEmpty() ? projection : projection + QStringLiteral(", ") + suffix);
+}
+
+}  // namespace varnel

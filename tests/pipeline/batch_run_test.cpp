@@ -1,0 +1,385 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/batch_run.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <new>
+
+#include "pipeline/batch_checks.h"
+#include "remap/run_time_error.h"
+#include "tests/support/files.h"
+#include "tests/support/records.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+// Writes down all that it hears and asks to stop after a number of photos.
+class Listener : public BatchObserver, public RenderProgress {
+  public:
+    explicit Listener(QStringList& log) : log_(log) {}
+    void Naming(const QString& path) override { log_ += Q("name ") + path; }
+    RenderProgress& Progress() override { return *this; }
+    void Done(int done, int queued) override { log_ += BatchProgressText(done, queued); }
+    bool StopAsked() override { return --stopAfter == 0; }
+    void Begin(float /*maximum*/) override { log_ += Q("begin"); }
+    void Advance(float /*value*/) override {}
+    void End() override { log_ += Q("end"); }
+    int stopAfter = -1;
+
+  private:
+    QStringList& log_;
+};
+
+ImageRecord Entry(const QString& name, Projection projection = Projection::Varnel) {
+    ImageRecord entry = testing::FisheyeRecord();
+    entry.Folder = Q("/in");
+    entry.FileName = name;
+    entry.Projection = static_cast<std::int16_t>(projection);
+    return entry;
+}
+
+// A run without files: loading gives a small portrait, saving only notes the name.
+class FakeRun : public ::testing::Test {
+  protected:
+    BatchSummary Go() { return RunBatch(queue, choices, listener, ports); }
+    LoadedPicture Load(const QString& path) {
+        log += Q("load ") + path;
+        return {LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}};
+    }
+    SaveResult Save(FREE_IMAGE_FORMAT format, const QString& path, int flags) {
+        log += Q("save %1 as %2 with %3").arg(path).arg(format).arg(flags);
+        return {true, {}};
+    }
+
+    QStringList log;
+    Listener listener{log};
+    RecordArray<ImageRecord> queue;
+    BatchChoices choices{Q("/out"), {}, OutputType::Jpeg, 83};
+    BatchPorts ports{[this](const QString& path) { return Load(path); },
+                     [this](FREE_IMAGE_FORMAT format, FIBITMAP*, const QString& path, int flags) {
+                         return Save(format, path, flags);
+                     }};
+};
+
+TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
+    queue.Append(Entry(Q("a.jpg")));
+    queue.Append(Entry(Q("b.jpg"), Projection::Rectilinear));
+    queue(2).RotateY = -5.0F;
+    queue(2).NameSuffix = Q("Morph0007");
+    choices.additions.texts[1] = Q("flat");
+    const BatchSummary summary = Go();
+    const QStringList expected{Q("load /in/a.jpg"),
+                               Q("name /out/a.Varnel.JPG"),
+                               Q("begin"),
+                               Q("end"),
+                               Q("save /out/a.Varnel.JPG as 2 with 83"),
+                               Q("1 of 2 images"),
+                               Q("load /in/b.jpg"),
+                               Q("name /out/b.flat_Morph0007_hAOV090_LR-5.JPG"),
+                               Q("begin"),
+                               Q("end"),
+                               Q("save /out/b.flat_Morph0007_hAOV090_LR-5.JPG as 2 with 83"),
+                               Q("2 of 2 images")};
+    EXPECT_EQ(log, expected);
+    EXPECT_EQ(summary.written.size(), 2);
+    EXPECT_FALSE(summary.Stopped());
+}
+
+TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
+    queue.Append(Entry(Q("a.jpg")));
+    ImageRecord expected = queue(1);
+    expected.Width = 6;
+    expected.Height = 9;
+    expected.Landscape = false;
+    Go();
+    EXPECT_EQ(queue(1), expected);
+}
+
+TEST_F(FakeRun, OnlyOnePhotoIsAliveAtATime) {
+    int alive = 0;
+    int most = 0;
+    ports.load = [&](const QString&) {
+        most = std::max(most, ++alive);
+        return LoadedPicture{LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}};
+    };
+    // The source must be gone when the result is encoded, or large photos need a third more.
+    ports.save = [&](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString&, int) {
+        --alive;
+        EXPECT_EQ(SizeOf(bitmap).height, 9);
+        return SaveResult{true, {}};
+    };
+    for (int n = 0; n < 1000; ++n) {
+        queue.Append(Entry(Q("%1.jpg").arg(n)));
+    }
+    EXPECT_EQ(Go().written.size(), 1000);
+    EXPECT_EQ(most, 1);
+}
+
+TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
+    for (int n = 1; n <= 10; ++n) {
+        queue.Append(Entry(Q("%1.jpg").arg(n)));
+    }
+    listener.stopAfter = 3;
+    const BatchSummary summary = Go();
+    EXPECT_EQ(summary.written.join(u' '),
+              Q("/out/1.Varnel.JPG /out/2.Varnel.JPG /out/3.Varnel.JPG"));
+    EXPECT_EQ(log.last(), Q("3 of 10 images"));
+    EXPECT_TRUE(summary.Stopped());
+    EXPECT_EQ(SummaryText(summary), Q("3 of 10 images written, stopped after 3\n"));
+    // Asked during the last one, Stop takes nothing away.
+    queue.Resize(3);
+    listener.stopAfter = 3;
+    EXPECT_FALSE(Go().Stopped());
+}
+
+TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
+    const char* const names[] = {"unreadable", "memory", "library", "name", "number", "disk", "ok"};
+    for (const char* name : names) {
+        queue.Append(Entry(Q(name) + Q(".jpg")));
+    }
+    queue(4).EffectVarnel = 1e30F;  // no whole number for a tag
+    queue(5).Ratio = 0.0F;
+    ports.load = [this](const QString& path) {
+        if (path.contains(u"unreadable")) {
+            return LoadedPicture::Refused(Q("cannot be read"));
+        }
+        if (path.contains(u"memory")) {
+            throw std::bad_alloc();
+        }
+        if (path.contains(u"library")) {
+            throw std::runtime_error("the library's own words");
+        }
+        return Load(path);
+    };
+    ports.save = [](FREE_IMAGE_FORMAT, FIBITMAP*, const QString& path, int) {
+        return path.contains(u"disk") ? SaveResult{false, Q("disk full")} : SaveResult{true, {}};
+    };
+    const BatchSummary summary = Go();
+    EXPECT_EQ(summary.written, QStringList{Q("/out/ok.Varnel.JPG")});
+    EXPECT_EQ(log.filter(Q("of 7 images")).size(), 7);
+    ASSERT_EQ(summary.failures.size(), 6U);
+    const char* const reasons[] = {
+        "cannot be read",          "there is not enough memory",
+        "the library's own words", "Overflow: the effect",
+        "Division by zero: ",      "could not write /out/disk.Varnel.JPG: disk full"};
+    for (std::size_t n = 0; n < summary.failures.size(); ++n) {
+        EXPECT_EQ(summary.failures[n].file, Q("/in/%1.jpg").arg(Q(names[n])));
+        EXPECT_TRUE(summary.failures[n].reason.startsWith(Q(reasons[n])))
+            << summary.failures[n].reason.toStdString();
+    }
+}
+
+TEST_F(FakeRun, OfTwoWithOneNameTheLaterStaysAndIsTold) {
+    for (const char* name : {"a.jpg", "b.jpg", "a.tif", "a.bmp"}) {
+        queue.Append(Entry(Q(name)));
+    }
+    EXPECT_EQ(CollidingNames(queue, choices), 1);
+    const BatchSummary summary = Go();
+    EXPECT_EQ(summary.written.size(), 4);
+    EXPECT_EQ(summary.replaced, QStringList{Q("/out/a.Varnel.JPG")});
+    EXPECT_EQ(SummaryText(summary),
+              Q("4 of 4 images written\n\n1 file was replaced by a later image of the same name:\n"
+                "  /out/a.Varnel.JPG\n"));
+}
+
+// Runs with real files, read from "in" and written into "out".
+class RealRun : public ::testing::Test {
+  protected:
+    RealRun() {
+        QDir(files.Path({})).mkdir(Q("in"));
+        QDir(files.Path({})).mkdir(Q("out"));
+    }
+    QString In(const QString& name) const { return files.Path(Q("in/") + name); }
+    QString Out(const QString& name) const { return files.Path(Q("out/") + name); }
+    QStringList OutNames() const { return QDir(Out({})).entryList(QDir::Files); }
+    void Queue(const QString& name, Projection projection = Projection::Varnel) {
+        ImageRecord entry = Entry(name, projection);
+        entry.Folder = files.Path(Q("in"));
+        queue.Append(entry);
+    }
+    BatchSummary Go() {
+        QStringList log;
+        Listener listener(log);
+        return RunBatch(queue, choices, listener);
+    }
+    // What a conversion of that entry alone writes.
+    QByteArray Single(ImageRecord entry) const {
+        Bitmaps bitmaps;
+        bitmaps.FullSourceBitmap = LoadPicture(SourcePath(entry)).bitmap;
+        TakeSize(SizeOf(bitmaps.FullSourceBitmap.get()), entry);
+        SilentProgress silent;
+        RenderDesk desk{bitmaps};
+        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
+        const QString path = files.Path(Q("single"));
+        SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
+                   SaveFlags(choices.type, choices.jpegQuality));
+        return testing::Contents(path);
+    }
+
+    testing::PictureFolder files;
+    RecordArray<ImageRecord> queue;
+    BatchChoices choices{files.Path(Q("out")), {}, OutputType::Png, 90};
+};
+
+TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
+    const QString whole = files.Picture(Q("in/a.jpg"), FIF_JPEG, {300, 200});
+    files.Picture(Q("in/b.tif"), FIF_TIFF, {40, 60});
+    files.Picture(Q("in/c.png"), FIF_PNG);
+    files.Cut(Q("in/cut.jpg"), whole, 60);
+    files.Text(Q("in/text.jpg"));
+    files.Empty(Q("in/empty.png"));
+    const std::pair<const char*, Projection> names[] = {
+        {"text.jpg", Projection::Varnel},   {"a.jpg", Projection::Varnel},
+        {"cut.jpg", Projection::Horizon},   {"b.tif", Projection::Rectilinear},
+        {"gone.bmp", Projection::Varnel},   {"c.png", Projection::Equidistance},
+        {"empty.png", Projection::Horizon}, {"a.jpg", Projection::Horizon}};
+    for (const auto& [name, projection] : names) {
+        Queue(Q(name), projection);
+    }
+    const BatchSummary summary = Go();
+    const std::pair<const char*, int> good[] = {{"a.Varnel.PNG", 2},
+                                                {"cut.Horizon.PNG", 3},
+                                                {"b.Rectilinear_hAOV090.PNG", 4},
+                                                {"c.Equidistance.PNG", 6},
+                                                {"a.Horizon.PNG", 8}};
+    for (const auto& [name, entry] : good) {
+        EXPECT_EQ(testing::Contents(Out(Q(name))), Single(queue(entry))) << name;
+    }
+    EXPECT_EQ(OutNames().size(), 5);
+    ASSERT_EQ(summary.failures.size(), 3U);
+    EXPECT_EQ(summary.failures[0].file, In(Q("text.jpg")));
+    EXPECT_EQ(summary.failures[1].reason, Q("there is no such file"));
+    EXPECT_EQ(summary.failures[2].file, In(Q("empty.png")));
+    ASSERT_EQ(summary.damaged.size(), 1U);
+    EXPECT_EQ(summary.damaged[0].file, In(Q("cut.jpg")));
+    EXPECT_TRUE(SummaryText(summary).startsWith(Q("5 of 8 images written\n\n3 images failed:\n")));
+}
+
+TEST_F(RealRun, AHalfPictureReplacesNoOlderFileButOneOfItsOwnRun) {
+    files.Cut(Q("in/cut.jpg"), files.Picture(Q("in/a.jpg"), FIF_JPEG, {300, 200}), 60);
+    const QString older = files.Text(Q("out/cut.Varnel.PNG"));
+    Queue(Q("cut.jpg"));
+    Queue(Q("cut.jpg"), Projection::Horizon);
+    Queue(Q("cut.jpg"), Projection::Horizon);
+    const BatchSummary summary = Go();
+    EXPECT_EQ(testing::Contents(older), Q("this is no picture\n").toUtf8());
+    ASSERT_EQ(summary.failures.size(), 1U);
+    EXPECT_TRUE(summary.failures[0].reason.contains(Q("does not replace the older ") + older));
+    EXPECT_EQ(summary.written.size(), 2);
+    EXPECT_EQ(summary.replaced, QStringList{Out(Q("cut.Horizon.PNG"))});
+    // A whole picture of that name is no half picture's to replace, the same run's or not.
+    files.Picture(Q("in/cut.bmp"), FIF_BMP);
+    queue(2).FileName = Q("cut.bmp");
+    EXPECT_EQ(Go().failures.size(), 2U);
+    EXPECT_EQ(testing::Contents(Out(Q("cut.Horizon.PNG"))), Single(queue(2)));
+}
+
+TEST_F(RealRun, NoPhotoOfTheQueueIsReplaced) {
+    files.Picture(Q("in/a.jpg"), FIF_JPEG);
+    files.Picture(Q("in/b.Varnel.PNG"), FIF_PNG);
+    files.Picture(Q("in/b.jpg"), FIF_JPEG);
+    ASSERT_TRUE(QFile::link(In(Q("a.jpg")), Out(Q("a.Varnel.PNG"))));
+    ASSERT_TRUE(QFile::link(In(Q("b.Varnel.PNG")), Out(Q("b.Varnel.PNG"))));
+    const QByteArray before =
+        testing::Contents(In(Q("a.jpg"))) + testing::Contents(In(Q("b.Varnel.PNG")));
+    for (const char* name : {"a.jpg", "b.jpg", "b.Varnel.PNG"}) {
+        Queue(Q(name));
+    }
+    const BatchSummary summary = Go();
+    EXPECT_EQ(testing::Contents(In(Q("a.jpg"))) + testing::Contents(In(Q("b.Varnel.PNG"))), before);
+    ASSERT_EQ(summary.failures.size(), 2U);
+    EXPECT_TRUE(summary.failures[0].reason.endsWith(Q("is the photo itself")));
+    EXPECT_TRUE(summary.failures[1].reason.endsWith(Q("is one of the queued photos")));
+    EXPECT_EQ(summary.written, QStringList{Out(Q("b.Varnel.Varnel.PNG"))});
+}
+
+TEST(FolderTrouble, TellsMissingUnwritableAndNoFolder) {
+    const testing::PictureFolder files;
+    EXPECT_EQ(FolderTrouble(files.Path({})), QString());
+    EXPECT_TRUE(QDir(files.Path({})).isEmpty(QDir::Files | QDir::Hidden));
+    EXPECT_EQ(FolderTrouble(Q("/no/such")), Q("The folder /no/such does not exist"));
+    const QString file = files.Text(Q("file"));
+    EXPECT_EQ(FolderTrouble(file), file + Q(" is not a folder"));
+#ifdef Q_OS_LINUX  // where not even root can make a file
+    EXPECT_TRUE(
+        FolderTrouble(Q("/proc")).startsWith(Q("Nothing can be written into the folder /proc (")));
+#endif
+}
+
+TEST(BatchChecks, CountNamesThatCollideOrLieThereAlready) {
+    const testing::PictureFolder files;
+    files.Text(Q("b.Varnel.TIF"));
+    files.Text(Q("c.Varnel.TIF"));
+    RecordArray<ImageRecord> queue;
+    for (const char* name : {"a.jpg", "a.tif", "b.jpg", "c.jpg", "a.bmp", "c.png"}) {
+        queue.Append(Entry(Q(name)));
+    }
+    BatchChoices choices{files.Path({}) + u'/', {}, OutputType::Tiff, 90};
+    EXPECT_EQ(CollidingNames(queue, choices), 2);
+    EXPECT_EQ(ExistingNames(queue, choices), 2);
+    queue(4).NameSuffix = Q("Morph0001");
+    queue(3).EffectVarnel = 1e30F;  // has no name and counts for nothing
+    EXPECT_EQ(CollidingNames(queue, choices), 1);
+    EXPECT_EQ(ExistingNames(queue, choices), 1);
+    choices.type = OutputType::Png;
+    EXPECT_EQ(ExistingNames(queue, choices), 0);
+    EXPECT_EQ(NamesText(0, 0), QString());
+    EXPECT_EQ(NamesText(2, 1),
+              Q("2 names collide: of the images of one name only the last one stays. "
+                "1 file in this folder will be replaced."));
+}
+
+TEST(BatchChecks, WarnOnlyWhenTheSpaceIsShort) {
+    RecordArray<ImageRecord> queue;
+    queue.Append(Entry(Q("a.jpg")));
+    queue(1).Width = 6000;
+    queue(1).Height = 4000;
+    queue.Append(queue(1));
+    // 48 million pixels; JPEG 90 is half way between 0.36 and 0.61 bytes a pixel.
+    const std::pair<BatchChoices, qint64> rows[] = {{{{}, {}, OutputType::Bmp, 0}, 144'000'000},
+                                                    {{{}, {}, OutputType::Jpeg, 90}, 23'280'000},
+                                                    {{{}, {}, OutputType::Jpeg, 1}, 9'120'000}};
+    for (const auto& [choices, bytes] : rows) {
+        EXPECT_EQ(ExpectedBytes(queue, choices), bytes);
+    }
+    EXPECT_EQ(SpaceWarning(144'000'000, 144'000'000), QString());
+    EXPECT_EQ(SpaceWarning(144'000'000, -1), QString());
+    EXPECT_EQ(SpaceWarning(144'000'000, 1'500'000),
+              Q("The images may need up to 144.0 MB, but only 1.5 MB are free there."));
+    EXPECT_GT(FreeBytes(QDir::tempPath()), 0);
+    EXPECT_LT(FreeBytes(Q("/no/such")), 0);
+}
+
+TEST(TimeLeftText, WaitsForAPaceAndGetsCoarserWithTime) {
+    const struct {
+        double seconds, done;
+        const char* text;
+    } rows[] = {{2.0, 0.5, ""},
+                {10.0, 0.0, ""},
+                {10.0, 1.0, ""},
+                {10.0, 0.5, "about 10 seconds left"},
+                {11.0, 0.5, "about 15 seconds left"},
+                {60.0, 0.5, "about 1 minute left"},
+                {120.0, 0.5, "about 2 minutes left"},
+                {600.0, 0.1, "about 1.5 hours left"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(TimeLeftText(row.seconds, row.done), Q(row.text)) << row.seconds;
+    }
+}
+
+TEST(QueueLine, NamesFileProjectionAndFrame) {
+    ImageRecord entry = Entry(Q("IMG_1.jpg"), Projection::Rectilinear);
+    EXPECT_EQ(QueueLine(entry), Q("IMG_1.jpg (Rectilinear)"));
+    entry.NameSuffix = Q("Morph0012");
+    EXPECT_EQ(QueueLine(entry), Q("IMG_1.jpg (Rectilinear, Morph 0012)"));
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/reference/render.h"
+
+namespace varnel::reference {
+
+void Render(Projection projection, const ImageRecord& image, SizeKind kind,
+            RenderProgress& progress, RenderDesk& desk) {
+    switch (projection) {
+        case Projection::Varnel:
+            return RenderVarnel(image, kind, progress, desk);
+        case Projection::Rectilinear:
+            return RenderRectilinear(image, kind, progress, desk);
+        case Projection::Equidistance:
+            return RenderEquidistance(image, kind, progress, desk);
+        case Projection::Horizon:
+            return RenderHorizon(image, kind, progress, desk);
+    }
+}
+
+}  // namespace varnel::reference

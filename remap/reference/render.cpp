@@ -9,13 +9,13 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderDesk& desk) {
     switch (projection) {
         case Projection::Varnel:
-            return RenderVarnel(image, kind, progress, desk);
+            return reference::RenderVarnel(image, kind, progress, desk);
         case Projection::Rectilinear:
-            return RenderRectilinear(image, kind, progress, desk);
+            return reference::RenderRectilinear(image, kind, progress, desk);
         case Projection::Equidistance:
-            return RenderEquidistance(image, kind, progress, desk);
+            return reference::RenderEquidistance(image, kind, progress, desk);
         case Projection::Horizon:
-            return RenderHorizon(image, kind, progress, desk);
+            return reference::RenderHorizon(image, kind, progress, desk);
     }
 }
 

@@ -11,7 +11,7 @@ namespace varnel::reference {
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
                        RenderDesk& desk) {
     if (CameraMoveOf(image).Moves()) {
-        return RenderRectilinearRotated(image, kind, progress, desk);
+        return reference::RenderRectilinearRotated(image, kind, progress, desk);
     }
     RenderRun run(kind, progress, desk);
     const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);

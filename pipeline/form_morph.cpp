@@ -1,0 +1,299 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/form_morph.h"
+
+#include <QCoreApplication>
+#include <QSpinBox>
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "pipeline/preview_size.h"
+#include "pipeline/slider_binding.h"
+#include "remap/paint.h"
+#include "remap/render.h"
+#include "remap/rounding.h"
+#include "remap/run_time_error.h"
+#include "ui_form_morph.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr PixelSize pictureBox{240, 180};  // logical pixels
+
+// The sliders of the dialog, in its order, and the value that each pair of them moves.
+struct Pair {
+    SliderId id;
+    float MorphValues::*value;
+};
+constexpr std::array pairs{
+    Pair{SliderId::AovOutput, &MorphValues::OutputAOV},
+    Pair{SliderId::Effect, &MorphValues::effect},
+    Pair{SliderId::X, &MorphValues::RotateX},
+    Pair{SliderId::Y, &MorphValues::RotateY},
+    Pair{SliderId::Z, &MorphValues::RotateZ},
+    Pair{SliderId::XTranslate, &MorphValues::TranslateX},
+    Pair{SliderId::YTranslate, &MorphValues::TranslateY},
+};
+
+const SliderRowData& DataOf(SliderId id) {
+    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
+}
+
+// As on the main window, but here the shifts read in degrees while they are 0, too.
+QString MorphCaption(const SliderRowData& facts, int value) {
+    return value == 0 && facts.zero != nullptr ? QStringLiteral("0°") : SliderCaption(facts, value);
+}
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate("Sliders", text);
+}
+
+QString HeadingName(const SliderRowData& facts) {
+    return QStringLiteral("Heading") + QLatin1StringView(facts.slider);
+}
+
+QSlider* MakeSlider(const SliderRowData& facts, QWidget* parent) {
+    auto* const slider = new QSlider(Qt::Horizontal, parent);
+    slider->setRange(facts.minimum, facts.maximum);
+    slider->setSingleStep(facts.smallChange);
+    slider->setPageStep(facts.largeChange);
+    slider->setTickInterval(facts.tickInterval);
+    slider->setTickPosition(QSlider::TicksBelow);
+    slider->setToolTip(Translated(facts.tip));
+    return slider;
+}
+
+void AddGroupLabel(QGridLayout& grid, int gridRow, const QString& text) {
+    auto* const label = new QLabel(text);
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    label->setContentsMargins(0, 6, 0, 0);
+    grid.addWidget(label, gridRow, 0);
+}
+
+}  // namespace
+
+FormMorph::FormMorph(const ImageRecord& image, FIBITMAP* previewSource,
+                     RecordArray<ImageRecord>& queue, Notices& notices,
+                     std::function<void(int)> queueChanged, QWidget* parent)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::FormMorph>()),
+      image_(image),
+      ends_(EndsFrom(image)),
+      queue_(queue),
+      notices_(notices),
+      queueChanged_(std::move(queueChanged)) {
+    ui_->setupUi(this);
+    BuildPairs();
+    MarkUnused();
+    SetUpPictures(previewSource);
+    ConnectControls();
+    ShowFrameCount();
+    ui_->SliderScrub->setValue((ui_->SliderScrub->maximum() + 1) / 2);
+}
+
+FormMorph::~FormMorph() = default;
+
+void FormMorph::BuildPairs() {
+    // The captions change their length while sliders move; the columns must not.
+    const int widest = fontMetrics().horizontalAdvance(QStringLiteral("40° c.clockwise"));
+    ui_->LayoutPairs->setColumnMinimumWidth(3, widest);
+    ui_->LayoutPairs->setColumnMinimumWidth(7, widest);
+    int gridRow = 1;  // below "Start" and "End"
+    for (const Pair& pair : pairs) {
+        if (pair.id == SliderId::X) {
+            AddGroupLabel(*ui_->LayoutPairs, gridRow++, tr("Rotate camera"));
+        } else if (pair.id == SliderId::XTranslate) {
+            AddGroupLabel(*ui_->LayoutPairs, gridRow++, tr("Transpose image"));
+        }
+        AddPair(DataOf(pair.id), pair.value, gridRow++);
+    }
+    QWidget* before = ui_->SliderScrub;
+    const auto controls = ui_->FramePairs->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (QWidget* const control : controls) {
+        if (control->focusPolicy() != Qt::NoFocus) {
+            setTabOrder(before, control);
+            before = control;
+        }
+    }
+    setTabOrder(before, ui_->TextNumImages);
+}
+
+void FormMorph::AddPair(const SliderRowData& facts, float MorphValues::*value, int gridRow) {
+    auto* const heading = new QLabel(Translated(facts.heading), ui_->FramePairs);
+    heading->setObjectName(HeadingName(facts));
+    heading->setToolTip(Translated(facts.tip));
+    ui_->LayoutPairs->addWidget(heading, gridRow, 0);
+    const QList<QSlider*> both{AddEnd(facts, {gridRow, 1}, First, ends_.start.*value),
+                               AddEnd(facts, {gridRow, 5}, Last, ends_.end.*value)};
+    if (facts.resets) {
+        ResetByDoubleClick(*heading, both);
+    }
+}
+
+QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture picture,
+                           float& value) {
+    const QString end = picture == First ? QStringLiteral("Start") : QStringLiteral("End");
+    QSlider* const slider = MakeSlider(facts, ui_->FramePairs);
+    slider->setObjectName(QLatin1StringView(facts.slider) + end);
+    slider->setAccessibleName((picture == First ? tr("%1 at the start") : tr("%1 at the end"))
+                                  .arg(Translated(facts.heading)));
+    // The sequence keeps what the photo has, fractions and all, until the slider is moved.
+    const int shown = ValueOf(facts.id, ValuesFor(image_)).value_or(facts.start);
+    slider->setValue(shown);
+    auto* const spinBox = new QSpinBox(ui_->FramePairs);
+    spinBox->setObjectName(QStringLiteral("Spin") + slider->objectName());
+    Bind(*slider, *spinBox);
+    auto* const label = new QLabel(MorphCaption(facts, shown), ui_->FramePairs);
+    label->setObjectName(QLatin1StringView(facts.valueLabel) + end);
+    ui_->LayoutPairs->addWidget(slider, place.row, place.column);
+    ui_->LayoutPairs->addWidget(spinBox, place.row, place.column + 1);
+    ui_->LayoutPairs->addWidget(label, place.row, place.column + 2);
+    connect(slider, &QSlider::valueChanged, this, [this, label, picture, &facts, &value](int now) {
+        value = static_cast<float>(now);
+        label->setText(MorphCaption(facts, now));
+        DrawLater(picture);
+        DrawLater(Between);
+    });
+    return slider;
+}
+
+void FormMorph::MarkUnused() {
+    bool any = false;
+    for (const Pair& pair : pairs) {
+        const SliderRowData& facts = DataOf(pair.id);
+        if (!ShownWith(facts, ItsProjection())) {
+            auto* const heading = findChild<QLabel*>(HeadingName(facts));
+            heading->setText(heading->text() + QStringLiteral(" *"));
+            heading->setForegroundRole(QPalette::PlaceholderText);
+            any = true;
+        }
+    }
+    ui_->LabelUnused->setText(
+        tr("* The projection %1 does not use this.").arg(ToText(ItsProjection())));
+    ui_->LabelUnused->setForegroundRole(QPalette::PlaceholderText);
+    ui_->LabelUnused->setVisible(any);
+}
+
+void FormMorph::SetUpPictures(FIBITMAP* previewSource) {
+    for (QLabel* const label : {ui_->PicFirst, ui_->PicBetween, ui_->PicLast}) {
+        label->setMinimumSize(pictureBox.width, pictureBox.height);
+        label->setText(tr("No preview"));
+    }
+    if (previewSource != nullptr) {
+        const double ratio = devicePixelRatioF();
+        const PixelSize box{CLng(pictureBox.width * ratio, "a side"),
+                            CLng(pictureBox.height * ratio, "a side")};
+        bitmaps_.PreviewSourceBitmap =
+            ReducedCopy(previewSource, PreviewSize(SizeOf(previewSource), box, box));
+    }
+    for (const Picture picture : {First, Between, Last}) {
+        DrawLater(picture);
+    }
+}
+
+void FormMorph::ConnectControls() {
+    drawTimer_.setSingleShot(true);
+    drawTimer_.setInterval(0);
+    connect(&drawTimer_, &QTimer::timeout, this, &FormMorph::DrawPending);
+    connect(ui_->TextNumImages, &QLineEdit::textChanged, this, &FormMorph::ShowFrameCount);
+    connect(ui_->SliderScrub, &QSlider::valueChanged, this, [this] {
+        ShowBetweenTitle();
+        DrawLater(Between);
+    });
+    connect(ui_->CmdAddMorphToBatch, &QPushButton::clicked, this, &FormMorph::AddFrames);
+    connect(ui_->CmdClose, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+int FormMorph::FrameCount() const {
+    const auto count = FrameCountFromText(ui_->TextNumImages->text());
+    const int* const N = std::get_if<int>(&count);
+    return N != nullptr && *N >= 2 ? *N : 0;
+}
+
+void FormMorph::ShowFrameCount() {
+    const int N = FrameCount();
+    ui_->LabelAdded->clear();
+    ui_->SliderScrub->setEnabled(N > 0);
+    if (N > 0) {
+        ui_->SliderScrub->setRange(1, N);
+        ui_->SliderScrub->setPageStep(std::max(N / 10, 1));
+    }
+    ShowBetweenTitle();
+    DrawLater(Between);
+}
+
+void FormMorph::ShowBetweenTitle() {
+    const int N = FrameCount();
+    ui_->LabelBetween->setText(N > 0 ? tr("Image %1 of %2").arg(ui_->SliderScrub->value()).arg(N)
+                                     : tr("Between"));
+}
+
+void FormMorph::DrawLater(Picture picture) {
+    pending_[picture] = true;
+    drawTimer_.start();
+}
+
+void FormMorph::DrawPending() {
+    const std::array<bool, 3> pending = std::exchange(pending_, {});
+    if (pending[First]) {
+        Draw(*ui_->PicFirst, 1, 2);
+    }
+    if (pending[Between]) {
+        Draw(*ui_->PicBetween, ui_->SliderScrub->value(), FrameCount());
+    }
+    if (pending[Last]) {
+        Draw(*ui_->PicLast, 2, 2);
+    }
+}
+
+void FormMorph::Draw(QLabel& label, int i, int N) {
+    if (!bitmaps_.PreviewSourceBitmap || N == 0) {
+        label.setText(tr("No preview"));
+        return;
+    }
+    SilentProgress silent;
+    RenderDesk desk{bitmaps_, [] { return true; }};
+    try {
+        Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
+               desk);
+        QPixmap pixmap = QPixmap::fromImage(ImageOf(bitmaps_.ResultBitmap.get()));
+        pixmap.setDevicePixelRatio(devicePixelRatioF());
+        label.setPixmap(pixmap);
+    } catch (const RunTimeError& error) {
+        label.setText(QString::fromUtf8(error.what()));
+    }
+}
+
+void FormMorph::AddFrames() {
+    const auto count = FrameCountFromText(ui_->TextNumImages->text());
+    ui_->TextNumImages->setFocus();
+    ui_->TextNumImages->selectAll();
+    if (const auto* error = std::get_if<QString>(&count)) {
+        notices_.Tell(*error, QString());
+        return;
+    }
+    const int N = std::get<int>(count);
+    try {
+        AddMorph(queue_, image_, ends_, N);
+    } catch (const RunTimeError& error) {
+        notices_.Tell(tr("No images were added"), QString::fromUtf8(error.what()));
+        return;
+    } catch (const std::bad_alloc&) {
+        notices_.Tell(tr("No images were added"), tr("There is not enough memory."));
+        return;
+    }
+    if (N < 1) {
+        ui_->LabelAdded->setText(tr("No images were added"));
+        return;
+    }
+    ui_->LabelAdded->setText(
+        tr("%1 images added, %2 in the batch que").arg(N).arg(queue_.UpperBound()));
+    queueChanged_(queue_.UpperBound());
+}
+
+}  // namespace varnel

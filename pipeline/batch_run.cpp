@@ -33,6 +33,7 @@ class Run {
         : queue_(queue), choices_(choices), observer_(observer), ports_(ports) {}
 
     BatchSummary Go() {
+        summary_.folder = choices_.folder;
         summary_.queued = queue_.UpperBound();
         while (summary_.done < summary_.queued) {
             ImageRecord& entry = queue_(summary_.done + 1);

@@ -4,6 +4,7 @@
 #include "pipeline/batch_summary.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <cmath>
 
 #include "state/projection.h"
@@ -53,11 +54,14 @@ QString About(const QString& one, const QString& many, double number) {
 }  // namespace
 
 QString SummaryText(const BatchSummary& summary) {
-    QString text = Tr("%1 of %2 images written").arg(summary.written.size()).arg(summary.queued);
-    if (summary.Stopped()) {
-        text += Tr(", stopped after %1").arg(summary.done);
-    }
+    QString text = Tr("%1 of %2 images written into %3")
+                       .arg(summary.written.size())
+                       .arg(summary.queued)
+                       .arg(QDir::toNativeSeparators(summary.folder));
     text += u'\n';
+    if (summary.Stopped()) {
+        text += Tr("Stopped after %1").arg(BatchProgressText(summary.done, summary.queued)) + u'\n';
+    }
     text += Section(summary.failures, Tr("1 image failed:"), Tr("%1 images failed:"));
     text += Section(summary.damaged,
                     Tr("1 image is damaged and was written as far as it could be read:"),

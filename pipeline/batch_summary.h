@@ -18,6 +18,7 @@ struct BatchTrouble {
 };
 
 struct BatchSummary {
+    QString folder;
     int queued = 0;
     int done = 0;         // written or failed
     QStringList written;  // one path for each photo written, in order

@@ -30,12 +30,16 @@ void FolderChooser::SetUpTree() {
     tree_.installEventFilter(this);
     connect(tree_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             &FolderChooser::OnFolder);
-    // The folders above the shown one arrive later and push it down.
-    connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        if (folder_.startsWith(loaded)) {
-            tree_.scrollTo(tree_.currentIndex());
-        }
-    });
+    // The folders above the shown one arrive later and push it down; queued, because they are in
+    // their places only after this.
+    connect(
+        &folders_, &QFileSystemModel::directoryLoaded, this,
+        [this](const QString& loaded) {
+            if (folder_.startsWith(loaded)) {
+                tree_.scrollTo(tree_.currentIndex());
+            }
+        },
+        Qt::QueuedConnection);
     connect(&folders_, &QFileSystemModel::fileRenamed, this,
             [this] { OnFolder(tree_.currentIndex()); });
 }

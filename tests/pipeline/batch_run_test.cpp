@@ -7,6 +7,9 @@
 
 #include <QDir>
 #include <new>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 #include "pipeline/batch_checks.h"
 #include "remap/run_time_error.h"
@@ -102,25 +105,35 @@ TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
     EXPECT_EQ(queue(1), expected);
 }
 
-TEST_F(FakeRun, OnlyOnePhotoIsAliveAtATime) {
-    int alive = 0;
-    int most = 0;
-    ports.load = [&](const QString&) {
-        most = std::max(most, ++alive);
-        return LoadedPicture{LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}};
+#ifdef __GLIBC__
+TEST_F(FakeRun, MemoryHoldsOnePhotoHoweverLongTheQueue) {
+    const auto inUse = [] {
+        const struct mallinfo2 info = mallinfo2();
+        return static_cast<qint64>(info.uordblks + info.hblkhd);
     };
-    // The source must be gone when the result is encoded, or large photos need a third more.
-    ports.save = [&](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString&, int) {
-        --alive;
-        EXPECT_EQ(SizeOf(bitmap).height, 9);
+    const PixelSize size{100, 60};
+    const qint64 photo = 3 * 100 * 60;
+    QList<qint64> atLoad;
+    ports.load = [&](const QString&) {
+        log.clear();
+        atLoad.append(inUse());
+        return LoadedPicture{LoadOutcome::Loaded, testing::PositionPicture(size), {}};
+    };
+    // Encoding takes room of its own; the source must have made place for it.
+    ports.save = [&](FREE_IMAGE_FORMAT, FIBITMAP*, const QString&, int) {
+        EXPECT_LT(inUse() - atLoad.last(), photo * 3 / 2);
         return SaveResult{true, {}};
     };
     for (int n = 0; n < 1000; ++n) {
         queue.Append(Entry(Q("%1.jpg").arg(n)));
     }
     EXPECT_EQ(Go().written.size(), 1000);
-    EXPECT_EQ(most, 1);
+    if (atLoad.last() == 0) {
+        GTEST_SKIP() << "memory is not counted in this build";
+    }
+    EXPECT_LT(atLoad.last() - atLoad.first(), 20 * photo) << "the names of the files and no more";
 }
+#endif
 
 TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
     for (int n = 1; n <= 10; ++n) {
@@ -132,7 +145,8 @@ TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
               Q("/out/1.Varnel.JPG /out/2.Varnel.JPG /out/3.Varnel.JPG"));
     EXPECT_EQ(log.last(), Q("3 of 10 images"));
     EXPECT_TRUE(summary.Stopped());
-    EXPECT_EQ(SummaryText(summary), Q("3 of 10 images written, stopped after 3\n"));
+    EXPECT_EQ(SummaryText(summary),
+              Q("3 of 10 images written into /out\nStopped after 3 of 10 images\n"));
     // Asked during the last one, Stop takes nothing away.
     queue.Resize(3);
     listener.stopAfter = 3;
@@ -184,9 +198,9 @@ TEST_F(FakeRun, OfTwoWithOneNameTheLaterStaysAndIsTold) {
     const BatchSummary summary = Go();
     EXPECT_EQ(summary.written.size(), 4);
     EXPECT_EQ(summary.replaced, QStringList{Q("/out/a.Varnel.JPG")});
-    EXPECT_EQ(SummaryText(summary),
-              Q("4 of 4 images written\n\n1 file was replaced by a later image of the same name:\n"
-                "  /out/a.Varnel.JPG\n"));
+    EXPECT_EQ(SummaryText(summary), Q("4 of 4 images written into /out\n\n1 file was replaced by a "
+                                      "later image of the same name:\n"
+                                      "  /out/a.Varnel.JPG\n"));
 }
 
 // Runs with real files, read from "in" and written into "out".
@@ -259,26 +273,26 @@ TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
     EXPECT_EQ(summary.failures[2].file, In(Q("empty.png")));
     ASSERT_EQ(summary.damaged.size(), 1U);
     EXPECT_EQ(summary.damaged[0].file, In(Q("cut.jpg")));
-    EXPECT_TRUE(SummaryText(summary).startsWith(Q("5 of 8 images written\n\n3 images failed:\n")));
+    EXPECT_TRUE(SummaryText(summary).startsWith(
+        Q("5 of 8 images written into %1\n\n3 images failed:\n").arg(choices.folder)));
 }
 
-TEST_F(RealRun, AHalfPictureReplacesNoOlderFileButOneOfItsOwnRun) {
+TEST_F(RealRun, AHalfPictureReplacesOnlyAnotherOfItsOwnRun) {
     files.Cut(Q("in/cut.jpg"), files.Picture(Q("in/a.jpg"), FIF_JPEG, {300, 200}), 60);
+    files.Picture(Q("in/cut.bmp"), FIF_BMP);
     const QString older = files.Text(Q("out/cut.Varnel.PNG"));
-    Queue(Q("cut.jpg"));
-    Queue(Q("cut.jpg"), Projection::Horizon);
-    Queue(Q("cut.jpg"), Projection::Horizon);
+    Queue(Q("cut.jpg"));                       // the older file stays
+    Queue(Q("cut.jpg"), Projection::Horizon);  // written
+    Queue(Q("cut.jpg"), Projection::Horizon);  // replaces the half picture
+    Queue(Q("cut.bmp"), Projection::Horizon);  // a whole one replaces it again
+    Queue(Q("cut.jpg"), Projection::Horizon);  // and stays
     const BatchSummary summary = Go();
     EXPECT_EQ(testing::Contents(older), Q("this is no picture\n").toUtf8());
-    ASSERT_EQ(summary.failures.size(), 1U);
-    EXPECT_TRUE(summary.failures[0].reason.contains(Q("does not replace the older ") + older));
-    EXPECT_EQ(summary.written.size(), 2);
+    EXPECT_EQ(testing::Contents(Out(Q("cut.Horizon.PNG"))), Single(queue(4)));
+    EXPECT_EQ(summary.written.size(), 3);
     EXPECT_EQ(summary.replaced, QStringList{Out(Q("cut.Horizon.PNG"))});
-    // A whole picture of that name is no half picture's to replace, the same run's or not.
-    files.Picture(Q("in/cut.bmp"), FIF_BMP);
-    queue(2).FileName = Q("cut.bmp");
-    EXPECT_EQ(Go().failures.size(), 2U);
-    EXPECT_EQ(testing::Contents(Out(Q("cut.Horizon.PNG"))), Single(queue(2)));
+    ASSERT_EQ(summary.failures.size(), 2U);
+    EXPECT_TRUE(summary.failures[0].reason.contains(Q("does not replace the older ") + older));
 }
 
 TEST_F(RealRun, NoPhotoOfTheQueueIsReplaced) {

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The batch dialog: where and how the queued photos are to be written, and the run itself.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "pipeline/batch_run.h"
+#include "pipeline/folder_chooser.h"
+#include "pipeline/mounted_volumes.h"
+#include "state/general_settings.h"
+
+namespace Ui {
+class FormBatch;
+}
+
+namespace varnel {
+
+class BatchProgress;
+class QueueModel;
+
+class FormBatch : public QDialog {
+    Q_OBJECT
+
+  public:
+    // The choices are taken over when the dialog closes and when a run starts; as long as no folder
+    // was chosen, file type and quality come from the settings. queueChanged hears the queue's new
+    // length.
+    FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
+              const GeneralSettings& settings, Notices& notices,
+              std::function<void(int)> queueChanged, QWidget* parent = nullptr,
+              const FolderChooser::Volumes& volumes = MountedVolumes);
+    ~FormBatch() override;
+
+    // Escape and the window's close button; during a run they count as Stop.
+    void reject() override;
+    void done(int result) override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void FillChoices(const GeneralSettings& settings);
+    void ConnectControls();
+    QString StartFolder() const;
+    BatchChoices Choices() const;
+
+    void ShowQueue();
+    void ShowNames();
+    void ShowSpace();
+    void ShowRunning(bool running);
+    void ShowSummary(const BatchSummary& summary);
+
+    void Process();
+    void Stop();
+    void ClearQueue();
+    void MakeFolder();
+
+    std::unique_ptr<Ui::FormBatch> ui_;
+    RecordArray<ImageRecord>& queue_;
+    BatchChoices& choices_;
+    Notices& notices_;
+    std::function<void(int)> queueChanged_;
+    std::unique_ptr<QueueModel> lines_;
+    std::unique_ptr<FolderChooser> place_;
+    std::unique_ptr<BatchProgress> progress_;
+};
+
+}  // namespace varnel

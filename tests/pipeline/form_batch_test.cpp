@@ -1,0 +1,324 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/form_batch.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+
+#include "tests/support/files.h"
+#include "tests/support/records.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+class NotedNotices : public Notices {
+  public:
+    void Tell(const QString& text, const QString& detail) override {
+        told.append(text + u'|' + detail);
+    }
+    QStringList told;
+};
+
+// A queue of photos in "in", written into "out".
+class FormBatchTest : public ::testing::Test {
+  protected:
+    FormBatchTest() {
+        QDir(files.Path({})).mkdir(Q("in"));
+        QDir(files.Path({})).mkdir(Q("out"));
+        choices.folder = Out();
+        choices.type = OutputType::Bmp;
+    }
+    QString Out() const { return QDir::cleanPath(files.Path(Q("out"))); }
+    QStringList OutNames() const { return QDir(Out()).entryList(QDir::Files, QDir::Name); }
+    void Queue(const QString& name, Projection projection = Projection::Equidistance) {
+        ImageRecord entry = testing::FisheyeRecord();
+        entry.Folder = files.Path(Q("in"));
+        entry.FileName = name;
+        entry.Projection = static_cast<std::int16_t>(projection);
+        queue.Append(entry);
+    }
+    // Good photos named 01.bmp and so on.
+    void QueuePhotos(int count) {
+        for (int n = 1; n <= count; ++n) {
+            const QString name = Q("%1.bmp").arg(n, 2, 10, QChar(u'0'));
+            files.Picture(Q("in/") + name, FIF_BMP);
+            Queue(name);
+        }
+    }
+    void Open() {
+        form = std::make_unique<FormBatch>(queue, choices, settings, notices,
+                                           [this](int length) { lengths.append(length); });
+        form->show();
+    }
+    template <class Control>
+    Control& The(const char* name) const {
+        return *form->findChild<Control*>(Q(name));
+    }
+    void Click(const char* button) const {
+        QTest::mouseClick(&The<QPushButton>(button), Qt::LeftButton);
+    }
+    void Type(const char* box, const char* text) const {
+        QTest::keyClicks(&The<QLineEdit>(box), Q(text));
+    }
+    QString Label(const char* name) const { return The<QLabel>(name).text(); }
+    // Which of the four buttons can be seen.
+    QString Buttons() const {
+        QStringList names;
+        for (const char* name : {"CmdBatchProcess", "CmdStop", "CmdCancel", "CmdClearBatchQue"}) {
+            if (The<QPushButton>(name).isVisible()) {
+                names.append(Q(name));
+            }
+        }
+        return names.join(u' ');
+    }
+    // Clicks the start button and does that while the image after done others is in work.
+    template <class Action>
+    void RunAnd(int done, Action action) {
+        bool acted = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, form.get(), [&] {
+            if (!acted && Label("LabelProgress").startsWith(Q("%1 of ").arg(done)) &&
+                The<QPushButton>("CmdStop").isVisible() && !Label("LabelImage").isEmpty()) {
+                acted = true;
+                action();
+            }
+        });
+        timer.start(0);
+        Click("CmdBatchProcess");
+        EXPECT_TRUE(acted);
+    }
+
+    testing::PictureFolder files;
+    RecordArray<ImageRecord> queue;
+    BatchChoices choices;
+    GeneralSettings settings;
+    NotedNotices notices;
+    QList<int> lengths;
+    std::unique_ptr<FormBatch> form;
+};
+
+TEST_F(FormBatchTest, HasItsControlsAndTheSettingsAtFirst) {
+    QueuePhotos(2);
+    queue(2).NameSuffix = Q("Morph0004");
+    choices = {};
+    settings = {400, 300, Q("PNG"), 77};
+    Open();
+    EXPECT_EQ(form->objectName(), Q("FormBatch"));
+    const std::pair<const char*, const char*> controls[] = {
+        {"Drive2", "QComboBox"},
+        {"Dir2", "QTreeView"},
+        {"ComboFileType", "QComboBox"},
+        {"SliderJPEGcompression", "QSlider"},
+        {"TextFileadditionVarnel", "QLineEdit"},
+        {"TextFileadditionRectilinear", "QLineEdit"},
+        {"TextFileadditionEquidistance", "QLineEdit"},
+        {"TextFileadditionHorizon", "QLineEdit"},
+        {"LabelImage", "QLabel"},
+        {"LabelProgress", "QLabel"},
+        {"ProgressImage", "QProgressBar"},
+        {"CmdBatchProcess", "QPushButton"},
+        {"CmdStop", "QPushButton"},
+        {"CmdCancel", "QPushButton"},
+        {"CmdClearBatchQue", "QPushButton"}};
+    for (const auto& [name, kind] : controls) {
+        const auto* const control = form->findChild<QWidget*>(Q(name));
+        ASSERT_NE(control, nullptr) << name;
+        EXPECT_TRUE(control->inherits(kind)) << name;
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << name;
+    }
+    QStringList types;
+    for (int n = 0; n < The<QComboBox>("ComboFileType").count(); ++n) {
+        types.append(The<QComboBox>("ComboFileType").itemText(n));
+    }
+    EXPECT_EQ(types.join(u' '), Q("TIFF JPEG BMP PNG"));
+    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Q("PNG"));
+    EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 77);
+    EXPECT_EQ(The<QSlider>("SliderJPEGcompression").minimum(), 1);
+    EXPECT_EQ(The<QSlider>("SliderJPEGcompression").maximum(), 100);
+    EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), QString());
+    EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Stop"));
+    EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+    EXPECT_TRUE(The<QPushButton>("CmdBatchProcess").isDefault());
+    EXPECT_EQ(Label("LabelFolder"), QDir::cleanPath(files.Path(Q("in"))));
+    const auto* const lines = The<QListView>("ListQueue").model();
+    EXPECT_EQ(lines->rowCount(), 2);
+    EXPECT_EQ(lines->index(1, 0).data().toString(), Q("02.bmp (Equidistance, Morph 0004)"));
+}
+
+TEST_F(FormBatchTest, WritesTheQueueAsChosenAndEmptiesIt) {
+    QueuePhotos(2);
+    queue(2).Projection = 3;
+    Open();
+    Type("TextFileadditionEquidistance", "wi/de");  // the slash is not taken
+    The<QComboBox>("ComboFileType").setCurrentIndex(1);
+    QTest::keyClick(&The<QSlider>("SliderJPEGcompression"), Qt::Key_PageDown);
+    EXPECT_EQ(The<QSpinBox>("SpinSliderJPEGcompression").value(), 95);
+    QTest::keyClick(&The<QLineEdit>("TextFileadditionEquidistance"), Qt::Key_Return);
+    EXPECT_EQ(OutNames().join(u' '), Q("01.wide.JPG 02.Horizon.JPG"));
+    EXPECT_TRUE(queue.Empty());
+    EXPECT_EQ(lengths, QList<int>{0});
+    EXPECT_EQ(Label("LabelProgress"), Q("2 of 2 images"));
+    EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+    EXPECT_FALSE(The<QPushButton>("CmdBatchProcess").isEnabled());
+    EXPECT_TRUE(notices.told.isEmpty());
+}
+
+TEST_F(FormBatchTest, DuringARunOnlyStopCanBeUsed) {
+    QueuePhotos(2);
+    Open();
+    RunAnd(1, [this] {
+        EXPECT_EQ(Buttons(), Q("CmdStop"));
+        EXPECT_EQ(Label("LabelImage"), Out() + Q("/02.Equidistance.BMP"));
+        EXPECT_EQ(The<QListView>("ListQueue").currentIndex().row(), 1);
+        for (const QWidget* const widget : form->findChildren<QWidget*>()) {
+            if (widget->isVisible() && widget->isEnabled() &&
+                widget->focusPolicy() != Qt::NoFocus) {
+                EXPECT_EQ(widget->objectName(), Q("CmdStop"));
+            }
+        }
+        Type("TextFileadditionEquidistance", "late");
+    });
+    EXPECT_EQ(OutNames().join(u' '), Q("01.Equidistance.BMP 02.Equidistance.BMP"));
+}
+
+TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
+    const std::function<void()> ways[] = {[this] { Click("CmdStop"); },
+                                          [this] { QTest::keyClick(form.get(), Qt::Key_Escape); },
+                                          [this] { form->close(); }};
+    for (const auto& way : ways) {
+        QueuePhotos(10);
+        Open();
+        RunAnd(2, [&] {
+            way();
+            EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Wait this image"));
+            EXPECT_TRUE(form->isVisible());
+        });
+        EXPECT_EQ(OutNames().size(), 3);
+        QDir(Out()).removeRecursively();
+        QDir().mkdir(Out());
+        EXPECT_TRUE(queue.Empty());
+        EXPECT_EQ(Label("LabelProgress"), Q("3 of 10 images"));
+        EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Stop"));
+        EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+        EXPECT_TRUE(form->isVisible()) << "the summary is to be read";
+        QTest::keyClick(form.get(), Qt::Key_Escape);
+        EXPECT_FALSE(form->isVisible());
+    }
+    EXPECT_EQ(lengths, (QList<int>{0, 0, 0}));
+}
+
+TEST_F(FormBatchTest, TheSummaryCanBeReadAndCopied) {
+    QueuePhotos(1);
+    files.Text(Q("in/text.jpg"));
+    Queue(Q("text.jpg"));
+    Open();
+    Click("CmdBatchProcess");
+    const auto& text = The<QPlainTextEdit>("TextSummary");
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_TRUE(text.isReadOnly());
+    EXPECT_EQ(text.toPlainText(), Q("1 of 2 images written into %1\n\n1 image failed:\n"
+                                    "  %2: this is not a picture of a known type\n")
+                                      .arg(Out(), files.Path(Q("in/text.jpg"))));
+    Click("CmdCopy");
+    EXPECT_EQ(QApplication::clipboard()->text(), text.toPlainText());
+}
+
+TEST_F(FormBatchTest, AMissingFolderIsToldAtOnceAndTheQueueStays) {
+    QueuePhotos(1);
+    Open();
+    QDir(Out()).removeRecursively();
+    Click("CmdBatchProcess");
+    EXPECT_EQ(notices.told.join(u' '),
+              Q("The folder %1 does not exist|Choose another folder.").arg(Out()));
+    EXPECT_EQ(queue.UpperBound(), 1);
+    EXPECT_TRUE(lengths.isEmpty());
+}
+
+TEST_F(FormBatchTest, ClearEmptiesTheQueueOnly) {
+    QueuePhotos(3);
+    Open();
+    Click("CmdClearBatchQue");
+    EXPECT_TRUE(queue.Empty());
+    EXPECT_EQ(lengths, QList<int>{0});
+    EXPECT_EQ(The<QListView>("ListQueue").model()->rowCount(), 0);
+    EXPECT_FALSE(The<QPushButton>("CmdBatchProcess").isEnabled());
+    EXPECT_TRUE(OutNames().isEmpty());
+}
+
+TEST_F(FormBatchTest, TellsCollisionsAndMissingSpaceBeforeTheRun) {
+    QueuePhotos(2);
+    files.Text(Q("out/02.all.BMP"));
+    Queue(Q("02.tif"));
+    Open();
+    EXPECT_EQ(Label("LabelNames"),
+              Q("1 name collides: of the images of one name only the last one stays."));
+    Type("TextFileadditionEquidistance", "all");
+    EXPECT_TRUE(Label("LabelNames").endsWith(Q("1 file in this folder will be replaced.")));
+    queue(3).Projection = 0;
+    The<QComboBox>("ComboFileType").setCurrentIndex(3);
+    EXPECT_FALSE(The<QLabel>("LabelNames").isVisible());
+    EXPECT_FALSE(The<QLabel>("LabelSpace").isVisible());
+    queue.Resize(100'000);
+    for (ImageRecord& entry : queue) {
+        entry.Width = 32767;
+        entry.Height = 32767;
+    }
+    The<QComboBox>("ComboFileType").setCurrentIndex(2);
+    EXPECT_TRUE(Label("LabelSpace").startsWith(Q("The images may need up to 322.1 TB, but only ")));
+}
+
+TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
+    QueuePhotos(1);
+    Open();
+    Type("TextFileadditionHorizon", "sky");
+    The<QComboBox>("ComboFileType").setCurrentIndex(1);
+    The<QSlider>("SliderJPEGcompression").setValue(61);
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_EQ(form->result(), QDialog::Rejected);
+    settings.FileType = Q("PNG");
+    Open();
+    EXPECT_EQ(Label("LabelFolder"), Out());
+    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Q("JPEG"));
+    EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 61);
+    EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), Q("sky"));
+    EXPECT_EQ(queue.UpperBound(), 1);
+}
+
+TEST_F(FormBatchTest, ANewFolderIsMadeNamedAndChosen) {
+    QueuePhotos(1);
+    QDir(Out()).mkdir(Q("Varnel"));
+    Open();
+    auto& tree = The<QTreeView>("Dir2");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(tree.currentIndex()) == 1; }));
+    Click("CmdNewFolder");
+    EXPECT_TRUE(QDir(Out() + Q("/Varnel 2")).exists());
+    auto* const editor = tree.findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->text(), Q("Varnel 2"));
+    QTest::keyClicks(editor, Q("Wide"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Label("LabelFolder") == Out() + Q("/Wide"); }));
+    EXPECT_EQ(queue.UpperBound(), 1) << "naming a folder must not start the run";
+    Click("CmdBatchProcess");
+    EXPECT_TRUE(QFile::exists(Out() + Q("/Wide/01.Equidistance.BMP")));
+}
+
+}  // namespace
+}  // namespace varnel

@@ -40,6 +40,16 @@ ImageRecord* Desk::Current() {
     return n >= 1 && n <= state_.Images.UpperBound() ? &state_.Images(n) : nullptr;
 }
 
+const ImageRecord& Desk::PreparedCurrent() {
+    Prepare(*Current());
+    return *Current();
+}
+
+QString Desk::CurrentPath() {
+    const ImageRecord* const image = Current();
+    return image != nullptr ? SourcePath(*image) : QString();
+}
+
 void Desk::ShowInControls(const ImageRecord& image) {
     const Raised loading(state_.loadingControls);
     view_.ShowRecord(image);

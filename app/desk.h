@@ -78,6 +78,9 @@ class Desk {
 
     // The current image's record, null when there is none.
     ImageRecord* Current();
+    // The same, which must be there, with all that a queued record has.
+    const ImageRecord& PreparedCurrent();
+    QString CurrentPath();  // empty when there is none
     // True while a conversion runs; nothing else may be started then.
     bool Busy() const { return busy_ || rendering_; }
 

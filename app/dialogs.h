@@ -5,11 +5,15 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "app/desk.h"
 #include "gear/gear_store.h"
 
 namespace varnel {
+
+// Hears the batch queue's new length.
+using QueueChanged = std::function<void(int)>;
 
 class Dialogs {
   public:
@@ -18,6 +22,12 @@ class Dialogs {
     virtual bool AddImages(QWidget* parent) = 0;
     virtual void ManageGears(QWidget* parent) = 0;
     virtual void ChangeDefaults(QWidget* parent) = 0;
+    virtual void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) = 0;
+    // For a photo that is prepared as for the queue.
+    virtual void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+                       QWidget* parent) = 0;
+    // Begins with the photo under the path; empty for none.
+    virtual void Stretch(const QString& photo, QWidget* parent) = 0;
     virtual void ShowAbout(QWidget* parent) = 0;
 };
 

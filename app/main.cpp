@@ -38,7 +38,7 @@ int RunWindow(QApplication& application, const QStringList& files, SettingsStore
     }
     WorkingState state;
     state.settings = LoadSettings(store);
-    RealDialogs dialogs(state, store, notices);
+    RealDialogs dialogs(state, store, notices, fileChooser);
     MDIForm1 window(state, store, {notices, gearPrompt, fileChooser, dialogs});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);

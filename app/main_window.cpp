@@ -125,6 +125,9 @@ void MDIForm1::BuildMenus() {
     AddEntry(setup, "CmdSetupEquipment", tr("&Manage equipment"), {}, &MDIForm1::ManageGears);
     AddEntry(setup, "CmdSetupSetup", tr("&Defaults"), QKeySequence::Preferences,
              &MDIForm1::ChangeDefaults);
+    QMenu* const tools = menuBar()->addMenu(tr("&Tools"));
+    morph_ = AddEntry(tools, "CmdToolsMorph", tr("Morph"), {}, &MDIForm1::Morph);
+    AddEntry(tools, "CmdToolsStretch", tr("Stretch"), {}, &MDIForm1::Stretch);
     QMenu* const about = menuBar()->addMenu(tr("&About"));
     AddEntry(about, "CmdAboutAbout", tr("&About"), QKeySequence::HelpContents,
              &MDIForm1::ShowAbout);

@@ -65,6 +65,10 @@ class MDIForm1 : public QMainWindow {
     void Quit();
     void SaveAs();
     void QueueAll();
+    void ProcessBatch();
+    void Morph();
+    void Stretch();
+    QueueChanged ShowsQueue();
     void RemoveImages();
     void UpdateEnabled();
     void RestoreLayout();
@@ -75,6 +79,7 @@ class MDIForm1 : public QMainWindow {
     WindowPorts ports_;
     WindowParts parts_;
     QSplitter* splitter_ = nullptr;
+    QAction* morph_ = nullptr;
     std::unique_ptr<WindowView> view_;
     std::unique_ptr<Desk> desk_;
     QTimer livePreview_;  // fires when the input at hand is handled: many moves, one preview

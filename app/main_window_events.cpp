@@ -24,6 +24,7 @@ void MDIForm1::ConnectControls() {
     click(parts_.adjustments->Antialiased(), [this] { desk_->Preview(); });
     click(parts_.save->SaveAs(), [this] { SaveAs(); });
     click(parts_.save->AddToQueue(), [this] { QueueAll(); });
+    click(parts_.save->ProcessQueue(), [this] { ProcessBatch(); });
     connect(parts_.equipment->Gears(), &QComboBox::activated, this,
             [this] { desk_->ChooseGear(); });
     connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
@@ -167,7 +168,23 @@ void MDIForm1::SaveAs() {
 }
 
 void MDIForm1::QueueAll() {
-    parts_.save->ShowQueue(desk_->AddToBatchQueue());
+    ShowsQueue()(desk_->AddToBatchQueue());
+}
+
+QueueChanged MDIForm1::ShowsQueue() {
+    return [this](int length) { parts_.save->ShowQueue(length); };
+}
+
+void MDIForm1::ProcessBatch() {
+    ports_.dialogs.ProcessBatch(ShowsQueue(), this);
+}
+
+void MDIForm1::Morph() {
+    ports_.dialogs.Morph(desk_->PreparedCurrent(), ShowsQueue(), this);
+}
+
+void MDIForm1::Stretch() {
+    ports_.dialogs.Stretch(desk_->CurrentPath(), this);
 }
 
 void MDIForm1::UpdateEnabled() {
@@ -181,6 +198,7 @@ void MDIForm1::UpdateEnabled() {
              parts_.save->SaveAs(), parts_.save->AddToQueue()}) {
         control->setEnabled(photos);
     }
+    morph_->setEnabled(photos);
 }
 
 }  // namespace varnel

@@ -11,6 +11,7 @@
 #include <QShortcut>
 
 #include "gear/form_gear_edit.h"
+#include "pipeline/add_images.h"
 #include "pipeline/output_type.h"
 
 namespace varnel {
@@ -98,6 +99,14 @@ bool SaveFileDialog::AgreesToReplace(const QString& name) {
                                  QObject::tr("%1 already exists. Replace it?").arg(name),
                                  QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
+}
+
+QString ChoosePhoto(const QString& folder) {
+    const QString photos = photoPatterns.toString().replace(u';', u' ');
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), QObject::tr("Open image"),
+                                        folder,
+                                        QObject::tr("Photos (%1)").arg(photos) +
+                                            QStringLiteral(";;") + QObject::tr("All files (*)"));
 }
 
 }  // namespace varnel

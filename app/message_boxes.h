@@ -36,4 +36,7 @@ class SaveFileDialog : public FileChooser {
     bool AgreesToReplace(const QString& name) override;
 };
 
+// The path of a photo, asked for with the platform's file dialog; empty when cancelled.
+QString ChoosePhoto(const QString& folder);
+
 }  // namespace varnel

@@ -8,11 +8,16 @@
 #include <QStandardPaths>
 
 #include "app/form_about.h"
+#include "app/message_boxes.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
 #include "pipeline/form_add_images.h"
+#include "pipeline/form_batch.h"
+#include "pipeline/form_morph.h"
+#include "pipeline/form_stretch.h"
 #include "pipeline/mounted_volumes.h"
 #include "state/form_setup.h"
+#include "state/setting_names.h"
 
 namespace varnel {
 
@@ -37,6 +42,32 @@ void RealDialogs::ManageGears(QWidget* parent) {
 
 void RealDialogs::ChangeDefaults(QWidget* parent) {
     FormSetup form(state_.Gear, state_.settings, store_, parent);
+    form.exec();
+}
+
+void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) {
+    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, notices_, queueChanged,
+                   parent);
+    form.exec();
+}
+
+void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+                        QWidget* parent) {
+    FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, notices_,
+                   queueChanged, parent);
+    form.exec();
+}
+
+void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
+    const auto choosePhoto = [this](const QString& folder) {
+        return ChoosePhoto(folder.isEmpty()
+                               ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
+                               : folder);
+    };
+    FormStretch form(state_.settings, choosePhoto, fileChooser_, notices_, parent);
+    if (!photo.isEmpty()) {
+        form.Open(photo);
+    }
     form.exec();
 }
 

@@ -5,23 +5,31 @@
 #pragma once
 
 #include "app/dialogs.h"
+#include "pipeline/batch_run.h"
 #include "state/settings_store.h"
 
 namespace varnel {
 
 class RealDialogs : public Dialogs {
   public:
-    RealDialogs(WorkingState& state, SettingsStore& store, Notices& notices)
-        : state_(state), store_(store), notices_(notices) {}
+    RealDialogs(WorkingState& state, SettingsStore& store, Notices& notices,
+                FileChooser& fileChooser)
+        : state_(state), store_(store), notices_(notices), fileChooser_(fileChooser) {}
     bool AddImages(QWidget* parent) override;
     void ManageGears(QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
+    void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) override;
+    void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+               QWidget* parent) override;
+    void Stretch(const QString& photo, QWidget* parent) override;
     void ShowAbout(QWidget* parent) override;
 
   private:
     WorkingState& state_;
     SettingsStore& store_;
     Notices& notices_;
+    FileChooser& fileChooser_;
+    BatchChoices batchChoices_;  // the last ones, for the run of the program
 };
 
 }  // namespace varnel

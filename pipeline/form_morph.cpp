@@ -220,8 +220,11 @@ void FormMorph::ShowFrameCount() {
     ui_->LabelAdded->clear();
     ui_->SliderScrub->setEnabled(N > 0);
     if (N > 0) {
+        const int before = ui_->SliderScrub->maximum();
+        const double way = (ui_->SliderScrub->value() - 1.0) / std::max(before - 1, 1);
         ui_->SliderScrub->setRange(1, N);
         ui_->SliderScrub->setPageStep(std::max(N / 10, 1));
+        ui_->SliderScrub->setValue(1 + CLng(way * (N - 1), "an image"));
     }
     ShowBetweenTitle();
     DrawLater(Between);

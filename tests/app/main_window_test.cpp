@@ -5,11 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QMenuBar>
-#include <QPushButton>
-#include <QRadioButton>
 
 #include "tests/support/window_desk.h"
 
@@ -93,13 +90,6 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
         {"PicSmallFrom", "QWidget", nullptr},
         {"PicSmallTo", "QWidget", nullptr},
         {"OptionRemap", "QButtonGroup", nullptr},
-        {"CmdFileOpen", "QAction", "&OpenOld"},
-        {"CmdFileOpenFreeImage", "QAction", "Open image(s)"},
-        {"Sep2", "QAction", nullptr},
-        {"CmdFileExit", "QAction", "&Exit"},
-        {"CmdSetupEquipment", "QAction", "&Manage equipment"},
-        {"CmdSetupSetup", "QAction", "&Defaults"},
-        {"CmdAboutAbout", "QAction", "&About"},
     };
     WindowDesk desk;
     for (const auto& row : rows) {
@@ -112,9 +102,28 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
             EXPECT_EQ(control->property(property).toString(), Q(row.text)) << row.name;
         }
     }
-    EXPECT_EQ(desk.window.menuBar()->actions().constFirst()->text(), Q("&File"));
-    EXPECT_FALSE(desk.window.findChild<QAction*>(Q("CmdFileOpen"))->isEnabled());
+    EXPECT_FALSE(desk.Entry("CmdFileOpen")->isEnabled());
     EXPECT_FALSE(desk.Find("CmdBatchProcess")->isVisible());
+}
+
+TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
+    const QStringList rows[] = {
+        {Q("&File"), Q("CmdFileOpen: &OpenOld"), Q("CmdFileOpenFreeImage: Open image(s)"),
+         Q("Sep2: "), Q("CmdFileExit: &Exit")},
+        {Q("&Setup"), Q("CmdSetupEquipment: &Manage equipment"), Q("CmdSetupSetup: &Defaults")},
+        {Q("&Tools"), Q("CmdToolsMorph: Morph"), Q("CmdToolsStretch: Stretch")},
+        {Q("&About"), Q("CmdAboutAbout: &About")},
+    };
+    const WindowDesk desk;
+    const QList<QAction*> menus = desk.window.menuBar()->actions();
+    ASSERT_EQ(menus.size(), std::ssize(rows));
+    for (qsizetype n = 0; n < menus.size(); ++n) {
+        QStringList shown{menus[n]->text()};
+        for (const QAction* const entry : menus[n]->menu()->actions()) {
+            shown.append(entry->objectName() + Q(": ") + entry->text());
+        }
+        EXPECT_EQ(shown, rows[n]);
+    }
 }
 
 TEST(MainWindow, CaptionsFollowTheSliders) {
@@ -259,8 +268,8 @@ TEST(MainWindow, ADoubleClickOnAHeadingResetsItsSlider) {
         EXPECT_EQ(desk.Slider(slider)->value(), 0) << slider;
     }
     const ImageRecord& record = desk.Record(1);
-    EXPECT_EQ(record.RotateX + record.RotateY + record.RotateZ + record.TranslateX, 0.0F);
-    EXPECT_EQ(record.TranslateY, 0.0F);
+    EXPECT_EQ(record.RotateX + record.RotateY + record.RotateZ, 0.0F);
+    EXPECT_EQ(record.TranslateX + record.TranslateY, 0.0F);
 }
 
 TEST(MainWindow, EachEffectComesBackWithItsProjection) {
@@ -299,7 +308,7 @@ TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
     other.hAOV = 100.0F;
     desk.state.Gear.Resize(2);
     desk.state.Gear(2) = other;
-    desk.window.findChild<QAction*>(Q("CmdSetupEquipment"))->trigger();
+    desk.Entry("CmdSetupEquipment")->trigger();
     EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormGearList")});
     desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
     desk.Slider("SliderAOVinput")->setValue(200);
@@ -352,61 +361,6 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
     EXPECT_EQ(desk.notices.texts.size(), 2);  // and nothing of the other photo is saved
 }
 
-TEST(MainWindow, SaveAsProposesConvertsAndKeepsTheRulesOfNames) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    desk.Click("OptionRemap_1");
-    desk.state.settings.FileType = Q("PNG");
-    desk.Click("CommandSaveFreeimage");  // cancelled
-    EXPECT_EQ(desk.chooser.proposed.name, desk.files.Path(Q("a.Rectilinear")));
-    EXPECT_EQ(desk.chooser.proposed.filterIndex, 4);
-
-    desk.chooser.answer = SaveChoice{desk.files.Path(Q("out.jpg")), 1};
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_EQ(FreeImage_GetFileType(desk.files.Path(Q("out.jpg.TIF")).toLocal8Bit(), 0), FIF_TIFF);
-    EXPECT_TRUE(desk.Label("StatusText").contains(Q("out.jpg.TIF")));
-
-    const QByteArray before = testing::Contents(desk.files.Path(Q("out.jpg.TIF")));
-    desk.Slider("SliderX")->setValue(20);
-    desk.Click("CommandSaveFreeimage");  // not agreed to replace
-    EXPECT_EQ(desk.chooser.asked, QStringList{desk.files.Path(Q("out.jpg.TIF"))});
-    EXPECT_EQ(testing::Contents(desk.files.Path(Q("out.jpg.TIF"))), before);
-
-    desk.chooser.answer = SaveChoice{desk.files.Path(Q("a.bmp")), 3};
-    desk.chooser.agrees = true;
-    const QByteArray photo = testing::Contents(desk.files.Path(Q("a.bmp")));
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_EQ(testing::Contents(desk.files.Path(Q("a.bmp"))), photo);
-    desk.chooser.answer = SaveChoice{desk.files.Path(Q("no/such/folder")), 2};
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_EQ(desk.notices.texts.size(), 2);
-    EXPECT_TRUE(desk.notices.texts.value(1).contains(Q("no/such/folder.JPG")));
-}
-
-TEST(MainWindow, AnImpossibleSaveIsToldWithTheNumberAtFault) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    desk.Record(1).Ratio = 0.0F;
-    desk.chooser.answer = SaveChoice{desk.files.Path(Q("out")), 1};
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_EQ(desk.notices.details.value(0), Q("Division by zero: Ratio is 0"));
-    EXPECT_TRUE(testing::Contents(desk.files.Path(Q("out.TIF"))).isEmpty());
-    EXPECT_TRUE(desk.Find("CommandSaveFreeimage")->isEnabled());
-}
-
-TEST(MainWindow, QueueingCountsAndKeepsCopies) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
-    desk.Click("CommandAddToBatchQue");
-    desk.Click("CommandAddToBatchQue");
-    EXPECT_EQ(desk.Find<QGroupBox>("FrameSave")->title(), Q("Save / batch process 4"));
-    EXPECT_TRUE(desk.Find("CmdBatchProcess")->isVisible());
-    EXPECT_EQ(desk.state.BatchQueue(2).Width, 60);  // never clicked, yet ready
-    EXPECT_EQ(desk.state.BatchQueue(2).SensorWidth, desk.Record(1).SensorWidth);
-    desk.Slider("SliderAOVinput")->setValue(99);
-    EXPECT_NE(desk.state.BatchQueue(1).InputAOV, 99.0F);
-}
-
 TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")}, {900, 600});
@@ -415,7 +369,7 @@ TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
         desk.state.settings.PreviewWidth = 200;
         desk.state.settings.PreviewHeight = 200;
     };
-    desk.window.findChild<QAction*>(Q("CmdSetupSetup"))->trigger();
+    desk.Entry("CmdSetupSetup")->trigger();
     EXPECT_EQ(SizeOf(desk.state.bitmaps.PreviewSourceBitmap.get()).width, 200);
     EXPECT_EQ(desk.Find("PicSmallTo")->size(), QSize(200, 200));
 }

@@ -195,6 +195,10 @@ TEST_F(FormMorphTest, SaysWhyANumberMakesNoSequenceAndAddsNothing) {
 TEST_F(FormMorphTest, ShowsTheFirstTheLastAndAnImageBetween) {
     Open();
     EXPECT_EQ(Label("LabelBetween"), Text("Image 5 of 10"));
+    Add("19");  // 4 of 9 steps from the start, as before
+    EXPECT_EQ(Label("LabelBetween"), Text("Image 9 of 19"));
+    Add("10");
+    EXPECT_EQ(Label("LabelBetween"), Text("Image 5 of 10"));
     const QImage before = Picture("PicFirst");
     EXPECT_EQ(Picture("PicLast"), before);
     QTest::keyClick(&The<QSlider>(*form, "SliderYEnd"), Qt::Key_End);

@@ -77,10 +77,31 @@ class FakeDialogs : public Dialogs {
             onDefaults();
         }
     }
+    void ProcessBatch(const QueueChanged& queueChanged, QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormBatch"));
+        if (onQueue) {
+            onQueue(queueChanged);
+        }
+    }
+    void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+               QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormMorph"));
+        morphed = image;
+        if (onQueue) {
+            onQueue(queueChanged);
+        }
+    }
+    void Stretch(const QString& photo, QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormStretch"));
+        stretched.append(photo);
+    }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
     QStringList opened;
     std::function<bool()> onAdd;
     std::function<void()> onDefaults;
+    std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
+    ImageRecord morphed;
+    QStringList stretched;
 };
 
 class WindowDesk {
@@ -101,6 +122,9 @@ class WindowDesk {
     void Click(const char* name) {
         auto* const button = Find<QAbstractButton>(name);
         button->click();
+    }
+    QAction* Entry(const char* name) {
+        return window.findChild<QAction*>(QString::fromLatin1(name));
     }
     // Clicks in the list as with the mouse.
     void ClickLine(int line, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

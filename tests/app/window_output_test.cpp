@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What leaves the main window: single pictures, the batch queue, and photos for the tools.
+
+#include <gtest/gtest.h>
+
+#include <QGroupBox>
+
+#include "tests/support/window_desk.h"
+
+namespace varnel {
+namespace {
+
+using testing::WindowDesk;
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QString SaveCaption(WindowDesk& desk) {
+    return desk.Find<QGroupBox>("FrameSave")->title();
+}
+
+TEST(WindowOutput, SaveAsProposesConvertsAndKeepsTheRulesOfNames) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp")});
+    desk.Click("OptionRemap_1");
+    desk.state.settings.FileType = Q("PNG");
+    desk.Click("CommandSaveFreeimage");  // cancelled
+    EXPECT_EQ(desk.chooser.proposed.name, desk.files.Path(Q("a.Rectilinear")));
+    EXPECT_EQ(desk.chooser.proposed.filterIndex, 4);
+
+    desk.chooser.answer = SaveChoice{desk.files.Path(Q("out.jpg")), 1};
+    desk.Click("CommandSaveFreeimage");
+    EXPECT_EQ(FreeImage_GetFileType(desk.files.Path(Q("out.jpg.TIF")).toLocal8Bit(), 0), FIF_TIFF);
+    EXPECT_TRUE(desk.Label("StatusText").contains(Q("out.jpg.TIF")));
+
+    const QByteArray before = testing::Contents(desk.files.Path(Q("out.jpg.TIF")));
+    desk.Slider("SliderX")->setValue(20);
+    desk.Click("CommandSaveFreeimage");  // not agreed to replace
+    EXPECT_EQ(desk.chooser.asked, QStringList{desk.files.Path(Q("out.jpg.TIF"))});
+    EXPECT_EQ(testing::Contents(desk.files.Path(Q("out.jpg.TIF"))), before);
+
+    desk.chooser.answer = SaveChoice{desk.files.Path(Q("a.bmp")), 3};
+    desk.chooser.agrees = true;
+    const QByteArray photo = testing::Contents(desk.files.Path(Q("a.bmp")));
+    desk.Click("CommandSaveFreeimage");
+    EXPECT_EQ(testing::Contents(desk.files.Path(Q("a.bmp"))), photo);
+    desk.chooser.answer = SaveChoice{desk.files.Path(Q("no/such/folder")), 2};
+    desk.Click("CommandSaveFreeimage");
+    EXPECT_EQ(desk.notices.texts.size(), 2);
+    EXPECT_TRUE(desk.notices.texts.value(1).contains(Q("no/such/folder.JPG")));
+}
+
+TEST(WindowOutput, AnImpossibleSaveIsToldWithTheNumberAtFault) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp")});
+    desk.Record(1).Ratio = 0.0F;
+    desk.chooser.answer = SaveChoice{desk.files.Path(Q("out")), 1};
+    desk.Click("CommandSaveFreeimage");
+    EXPECT_EQ(desk.notices.details.value(0), Q("Division by zero: Ratio is 0"));
+    EXPECT_TRUE(testing::Contents(desk.files.Path(Q("out.TIF"))).isEmpty());
+    EXPECT_TRUE(desk.Find("CommandSaveFreeimage")->isEnabled());
+}
+
+TEST(WindowOutput, QueueingCountsAndKeepsCopies) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    desk.Click("CommandAddToBatchQue");
+    desk.Click("CommandAddToBatchQue");
+    EXPECT_EQ(SaveCaption(desk), Q("Save / batch process 4"));
+    EXPECT_TRUE(desk.Find("CmdBatchProcess")->isVisible());
+    EXPECT_EQ(desk.state.BatchQueue(2).Width, 60);  // never clicked, yet ready
+    EXPECT_EQ(desk.state.BatchQueue(2).SensorWidth, desk.Record(1).SensorWidth);
+    desk.Slider("SliderAOVinput")->setValue(99);
+    EXPECT_NE(desk.state.BatchQueue(1).InputAOV, 99.0F);
+}
+
+TEST(WindowOutput, TheBatchDialogOpensAndTheCaptionFollowsItsQueue) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    desk.Click("CommandAddToBatchQue");
+    int left = 1;
+    desk.dialogs.onQueue = [&](const QueueChanged& changed) { changed(left); };
+    desk.Click("CmdBatchProcess");
+    EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormBatch")});
+    EXPECT_EQ(SaveCaption(desk), Q("Save / batch process 1"));
+    left = 0;  // cleared, or the run is over
+    desk.Click("CmdBatchProcess");
+    EXPECT_EQ(SaveCaption(desk), Q("Save"));
+    EXPECT_TRUE(desk.Find("CmdBatchProcess")->isVisible());
+}
+
+TEST(WindowOutput, TheMorphDialogGetsTheCurrentPhotoReadyForTheQueue) {
+    WindowDesk desk;
+    EXPECT_FALSE(desk.Entry("CmdToolsMorph")->isEnabled());
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    desk.ClickLine(1);
+    desk.Record(2).LensMapScale = desk.Record(2).SensorWidth = 0.0F;  // has no gear yet
+    desk.dialogs.onQueue = [](const QueueChanged& changed) { changed(32); };
+    desk.Entry("CmdToolsMorph")->trigger();
+    EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormMorph")});
+    EXPECT_EQ(desk.dialogs.morphed.FileName, Q("b.bmp"));
+    EXPECT_EQ(desk.dialogs.morphed.Width, 60);
+    EXPECT_EQ(desk.dialogs.morphed.SensorWidth, desk.Record(1).SensorWidth);
+    EXPECT_EQ(SaveCaption(desk), Q("Save / batch process 32"));
+    EXPECT_TRUE(desk.Find("CmdBatchProcess")->isVisible());
+    desk.Find<QListWidget>("ImageList1")->selectAll();
+    desk.Click("CmdRemoveImages");
+    EXPECT_FALSE(desk.Entry("CmdToolsMorph")->isEnabled());
+}
+
+TEST(WindowOutput, TheStretchDialogBeginsWithTheCurrentPhotoIfThereIsOne) {
+    WindowDesk desk;
+    desk.Entry("CmdToolsStretch")->trigger();
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    desk.ClickLine(1);
+    desk.Entry("CmdToolsStretch")->trigger();
+    EXPECT_EQ(desk.dialogs.stretched, (QStringList{QString(), desk.files.Path(Q("b.bmp"))}));
+}
+
+}  // namespace
+}  // namespace varnel

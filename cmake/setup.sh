@@ -1,6 +1,6 @@
 # Shared by ./run and ./test: says what is done, installs packages, builds. Sourced, not run.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libtiff-dev fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libtiff-dev libhwy-dev fonts-dejavu-core)
 test_packages=("${build_packages[@]}" libgtest-dev xvfb xauth)
 
 say() { printf '== %s\n' "$*"; }

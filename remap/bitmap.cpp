@@ -26,6 +26,22 @@ BitmapHandle CloneBitmap(FIBITMAP* bitmap) {
     return Owned(FreeImage_Clone(bitmap));
 }
 
+void CopyAllButPixels(FIBITMAP* bitmap, FIBITMAP* source) {
+    for (int model = FIMD_COMMENTS; model <= FIMD_EXIF_RAW; ++model) {
+        FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(model), bitmap, nullptr, nullptr);
+    }
+    FreeImage_CloneMetadata(bitmap, source);
+    FreeImage_SetDotsPerMeterX(bitmap, FreeImage_GetDotsPerMeterX(source));
+    FreeImage_SetDotsPerMeterY(bitmap, FreeImage_GetDotsPerMeterY(source));
+    FreeImage_SetThumbnail(bitmap, FreeImage_GetThumbnail(source));
+    FreeImage_DestroyICCProfile(bitmap);
+    const FIICCPROFILE* const profile = FreeImage_GetICCProfile(source);
+    if (profile->data != nullptr && profile->size > 0) {
+        FreeImage_CreateICCProfile(bitmap, profile->data, static_cast<long>(profile->size))->flags =
+            profile->flags;
+    }
+}
+
 PixelSize SizeOf(FIBITMAP* bitmap) {
     return {static_cast<std::int32_t>(FreeImage_GetWidth(bitmap)),
             static_cast<std::int32_t>(FreeImage_GetHeight(bitmap))};

@@ -33,6 +33,10 @@ BitmapHandle NewBitmap(PixelSize size);
 // A copy with pixels, metadata and colour profile. Throws std::bad_alloc.
 BitmapHandle CloneBitmap(FIBITMAP* bitmap);
 
+// Gives the bitmap the source's metadata, colour profile, thumbnail and resolution, and takes its
+// own away.
+void CopyAllButPixels(FIBITMAP* bitmap, FIBITMAP* source);
+
 PixelSize SizeOf(FIBITMAP* bitmap);
 
 // Row y of a bitmap, counted from the bottom: 3 bytes a pixel for 24 bits.

@@ -47,13 +47,17 @@ EquidistanceMap::EquidistanceMap(const EquidistanceView& view)
     }
 }
 
+double EquidistanceMap::SourceRadius(double r) const {
+    const double theta = r * frameAngle_ / referenceRadius_ / 2.0;
+    return LensRadius(kind_, theta, curve_) * pixelsPerMillimetre_;
+}
+
 SourceOffset EquidistanceMap::At(int x, int y) const {
     const double r = std::sqrt(std::pow(y, 2) + std::pow(x, 2));
     if (r == 0.0) {
         return {};
     }
-    const double theta = r * frameAngle_ / referenceRadius_ / 2.0;
-    const double rho = LensRadius(kind_, theta, curve_) * pixelsPerMillimetre_;
+    const double rho = SourceRadius(r);
     return {x * rho / r, y * rho / r};
 }
 

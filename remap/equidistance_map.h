@@ -25,6 +25,8 @@ class EquidistanceMap {
     // Throws RunTimeError when a sensor side, the lens factor or the reference radius is 0.
     explicit EquidistanceMap(const EquidistanceView& view);
     SourceOffset At(int x, int y) const;
+    // The source's distance from the centre for the output's distance r, both in pixels.
+    double SourceRadius(double r) const;
     // The radius, in pixels, at which the output shows half the frame's angle.
     std::int32_t ReferenceRadius() const { return referenceRadius_; }
     // The frame's angle in radians.

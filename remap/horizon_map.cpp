@@ -30,8 +30,12 @@ HorizonMap::HorizonMap(const CircleView& view)
     NonZero(rowDivisor_, "the row divisor (the picture is more than three times as wide as high)");
 }
 
+double HorizonMap::Angle(int column) const {
+    return ColumnAngle(column, rows_.halfWidth);
+}
+
 SourceOffset HorizonMap::At(int column, int radius) const {
-    const double theta = ColumnAngle(column, rows_.halfWidth);
+    const double theta = Angle(column);
     return {radius * std::cos(theta), radius * std::sin(theta)};
 }
 

@@ -20,6 +20,8 @@ class HorizonMap {
     // column >= 0 to the right of the centre (the left half is its mirror image), radius signed:
     // negative ones read the opposite side of the centre.
     SourceOffset At(int column, int radius) const;
+    // The angle around the centre that a column >= 0 stands for, radians.
+    double Angle(int column) const;
     // The output row that a radius is written to, counted from the bottom row of the bitmap.
     std::int32_t OutputRow(int radius) const;
     std::int32_t RowDivisor() const { return rowDivisor_; }

@@ -31,9 +31,12 @@ RectilinearRadius::RectilinearRadius(const RectilinearView& view)
     tanStep_ = Round8(tanHalfAngle_ / NonZero(halfWidth_, "half the picture's width"));
 }
 
-double RectilinearRadius::At(double r) const {
-    const double theta = std::fabs(std::atan(r * tanStep_));
+double RectilinearRadius::AtAngle(double theta) const {
     return LensRadius(kind_, theta, curve_) * scale_;
+}
+
+double RectilinearRadius::At(double r) const {
+    return AtAngle(std::fabs(std::atan(r * tanStep_)));
 }
 
 SourceOffset RectilinearMap::At(int x, int y) const {
@@ -56,8 +59,7 @@ RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const 
       shiftY_(Shift(move.translateY, view.source.height, "TranslateY")) {}
 
 SourceOffset RotatedRectilinearMap::At(int x, int y) const {
-    const Ray ray = rotation_.Turn(
-        {x + static_cast<double>(shiftX_), y + static_cast<double>(shiftY_), focal_});
+    const Ray ray = TurnedRay(x, y);
     if (ray.z == 0.0) {
         return NowhereOnSource();
     }

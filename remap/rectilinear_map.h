@@ -43,6 +43,8 @@ class RectilinearRadius {
     // division by zero.
     explicit RectilinearRadius(const RectilinearView& view);
     double At(double r) const;
+    // The same by the ray's angle from the optical axis, radians, not negative.
+    double AtAngle(double theta) const;
     // The tangent of the viewing angle per output pixel, to eight decimals.
     double TanStep() const { return tanStep_; }
     // The half width of the output in pixels, rounded down.
@@ -80,11 +82,19 @@ class RotatedRectilinearMap {
     // The shift in pixels, single precision; positive translations give negative shifts.
     float ShiftX() const { return shiftX_; }
     float ShiftY() const { return shiftY_; }
+    const RectilinearRadius& Radius() const { return radius_; }
+    // Pixels from the eye to the output plane.
+    double Focal() const { return focal_; }
+    // The turned ray of a loop position; its z is along the optical axis.
+    Ray TurnedRay(double x, double y) const {
+        return rotation_.Turn(
+            {x + static_cast<double>(shiftX_), y + static_cast<double>(shiftY_), focal_});
+    }
 
   private:
     RectilinearRadius radius_;
     RayRotation rotation_;
-    double focal_;  // pixels from the eye to the output plane
+    double focal_;
     float shiftX_;
     float shiftY_;
 };

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "remap/bitmap.h"
+#include "remap/engine/block_runner.h"
 #include "state/image_record.h"
 
 namespace varnel {
@@ -47,6 +48,9 @@ class SilentProgress : public RenderProgress {
 struct RenderDesk {
     Bitmaps& bitmaps;
     std::function<bool()> smoothPreview = [] { return false; };
+    // Shares the work of full-size pictures out to the cores; without one it is done on the
+    // caller's.
+    BlockRunner* runner = nullptr;
 };
 
 // Each replaces ResultBitmap; the record is only read. They throw RunTimeError when a number of the

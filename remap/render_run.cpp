@@ -3,25 +3,56 @@
 
 #include "remap/render_run.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace varnel {
 
-RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk)
-    : kind_(kind), progress_(progress), desk_(desk) {
+namespace {
+
+// A bitmap that will be overwritten is taken again where it fits: its memory is there already.
+void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
+    const PixelSize size = SizeOf(source);
+    if (result &&
+        (SizeOf(result.get()).width != size.width || SizeOf(result.get()).height != size.height)) {
+        result.reset();
+    }
+    if (!result) {
+        result = NewBitmap(size);
+    }
+    CopyAllButPixels(result.get(), source);
+}
+
+}  // namespace
+
+RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, Canvas canvas)
+    : kind_(kind),
+      progress_(progress),
+      desk_(desk),
+      runner_(desk.runner != nullptr ? *desk.runner : serial_) {
     progress_.HandleEvents();
     Bitmaps& bitmaps = desk.bitmaps;
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
                                            : bitmaps.FullSourceBitmap.get();
     assert(source_ != nullptr);
-    bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
-    bitmaps.ResultBitmap = CloneBitmap(source_);
+    if (canvas == Canvas::Anything) {
+        TakeCanvas(source_, bitmaps.ResultBitmap);
+    } else {
+        bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
+        bitmaps.ResultBitmap = CloneBitmap(source_);
+    }
     result_ = bitmaps.ResultBitmap.get();
 }
 
 RenderRun::~RenderRun() {
     if (begun_) {
         progress_.End();
+    }
+}
+
+void RenderRun::CopySource() const {
+    for (int y = 0; y < Size().height; ++y) {
+        std::ranges::copy(ScanLine(source_, y), ScanLine(result_, y).begin());
     }
 }
 

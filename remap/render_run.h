@@ -9,17 +9,27 @@
 
 namespace varnel {
 
+// What ResultBitmap holds before the first pixel is written: a copy of the source, so that what is
+// never written keeps its pixels, or anything, where every pixel will be written.
+enum class Canvas { CopyOfSource, Anything };
+
 class RenderRun {
   public:
-    // Lets waiting events run once, picks the source by the kind, which must be there, and replaces
-    // ResultBitmap by a copy of it: what the loops do not reach keeps the source's pixels.
-    RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk);
+    // Lets waiting events run once, picks the source by the kind, which must be there, and makes
+    // ResultBitmap anew with the source's size, metadata and colour profile.
+    RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk,
+              Canvas canvas = Canvas::CopyOfSource);
     ~RenderRun();
     RenderRun(const RenderRun&) = delete;
     RenderRun& operator=(const RenderRun&) = delete;
 
     FIBITMAP* Source() const { return source_; }
+    FIBITMAP* Result() const { return result_; }
+    SizeKind Kind() const { return kind_; }
+    BlockRunner& Runner() const { return runner_; }
     PixelSize Size() const { return SizeOf(source_); }
+    // The source's pixels into the result.
+    void CopySource() const;
     // Shows the progress, which is taken away again at the end of the run.
     void Begin(float maximum);
     // Shows the value, lets waiting events run and asks anew how to read.
@@ -35,6 +45,8 @@ class RenderRun {
     SizeKind kind_;
     RenderProgress& progress_;
     RenderDesk& desk_;
+    SerialRunner serial_;
+    BlockRunner& runner_;
     FIBITMAP* source_ = nullptr;
     FIBITMAP* result_ = nullptr;
     bool nearest_ = false;

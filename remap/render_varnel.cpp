@@ -2,51 +2,82 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <cstring>
 
-#include "remap/blank.h"
+#include "remap/engine/batches.h"
+#include "remap/engine/node_lines.h"
 #include "remap/record_maps.h"
-#include "remap/render_run.h"
-#include "remap/rounding.h"
-#include "remap/sampling.h"
 #include "remap/varnel_map.h"
 
 namespace varnel {
 
 namespace {
 
-RGBQUAD Read(const RenderRun& run, std::int32_t centreX, double u, std::int32_t row) {
-    return run.Nearest() ? SampleNearest(run.Source(), centreX + Round(u), row)
-                         : SampleLinearX(run.Source(), centreX + u, row);
-}
+class VarnelEngine {
+  public:
+    VarnelEngine(const RenderRun& run, const VarnelMap& map)
+        : run_(run),
+          map_(map),
+          source_(SourceView::Of(run.Source())),
+          target_(TargetView::Of(run.Result())) {}
 
-void RenderColumn(const RenderRun& run, const VarnelMap& map, std::int32_t j, std::int32_t r) {
-    const std::int32_t cx = map.Rows().centreX;
-    const std::int32_t cy = map.Rows().centreY;
-    const double u = map.At(j, r).u;
-    run.Write(cx + j, cy + r, Read(run, cx, u, cy + r));
-    run.Write(cx - j, cy + r, Read(run, cx, -u, cy + r));
-    run.Write(cx + j, cy - r, Read(run, cx, u, cy - r));
-    run.Write(cx - j, cy - r, Read(run, cx, -u, cy - r));
-}
+    // The rows r to r + count - 1 above and below the centre.
+    void Draw(int r, int count) const {
+        DrawBlocks(run_, r, count, 8, [this](int from, int to) {
+            for (int n = from; n <= to; ++n) {
+                DrawRow(n, map_.Rows().centreY + n);
+                if (n > 0) {
+                    DrawRow(n, map_.Rows().centreY - n);
+                }
+            }
+        });
+    }
+
+  private:
+    void DrawRow(int r, std::int32_t row) const {
+        if (row < 0 || row >= target_.height) {
+            return;
+        }
+        if (map_.Blank(r)) {
+            std::memset(target_.At(0, row), 0, static_cast<std::size_t>(target_.width) * 3);
+            return;
+        }
+        ChordSpan span;
+        span.source = source_;
+        span.centreX = map_.Rows().centreX;
+        span.chord = map_.Chord(r);
+        span.radius = static_cast<double>(map_.Rows().radius);
+        span.plain = map_.Plain(r);
+        span.row = row;
+        span.nearest = run_.Nearest();
+        for (const int sign : {1, -1}) {
+            const std::int32_t centre = map_.Rows().centreX;
+            const Clip clip = Clip::Of(centre, sign, map_.Rows().lastColumn + 1, target_.width);
+            span.sign = sign;
+            span.first = clip.begin;
+            span.count = clip.end - clip.begin;
+            SampleChordSpan(span, {target_.At(centre + sign * clip.begin, row), 3 * sign});
+        }
+    }
+
+    const RenderRun& run_;
+    const VarnelMap& map_;
+    SourceView source_;
+    TargetView target_;
+};
 
 }  // namespace
 
 void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
                   RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+    RenderRun run(kind, progress, desk, Canvas::Anything);
     const VarnelMap map(CircleViewOf(image, run.Size()));
     const CircleRows& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
-    for (std::int32_t r = 0; r <= rows.lastRow; ++r) {
-        run.Advance(static_cast<float>(r));
-        for (std::int32_t j = 0; j <= rows.lastColumn; ++j) {
-            if (map.Blank(r)) {
-                WriteBlackQuarters(run, rows, j, r);
-            } else {
-                RenderColumn(run, map, j, r);
-            }
-        }
-    }
+    const VarnelEngine engine(run, map);
+    DrawLines(
+        run, 0, rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },
+        [&](int r) { run.Advance(static_cast<float>(r)); });
 }
 
 }  // namespace varnel

@@ -5,18 +5,21 @@
 
 #include <cmath>
 
-#include "remap/rounding.h"
-
 namespace varnel {
 
-SourceOffset VarnelMap::At(int column, int row) const {
+double VarnelMap::Chord(int row) const {
     const double radius = static_cast<double>(rows_.radius);
-    const double phi =
-        column == 0 ? static_cast<double>(row > 0 ? Pi / 2.0F : -Pi / 2.0F) : ArcSin(row / radius);
-    if (phi == 0.0) {
-        return {static_cast<double>(column), static_cast<double>(row)};
+    return radius * std::cos(ArcSin(row / radius));
+}
+
+SourceOffset VarnelMap::At(int column, int row) const {
+    if (column == 0) {
+        return {0.0, static_cast<double>(row)};
     }
-    return {column * (radius * std::cos(phi)) / radius, static_cast<double>(row)};
+    if (Plain(row)) {
+        return {static_cast<double>(column), 0.0};
+    }
+    return {column * Chord(row) / static_cast<double>(rows_.radius), static_cast<double>(row)};
 }
 
 }  // namespace varnel

@@ -18,6 +18,11 @@ class VarnelMap {
     bool Blank(int row) const { return static_cast<double>(rows_.radius) < row; }
     // column and row >= 0: the other three quarters are its mirror images. v is the row itself.
     SourceOffset At(int column, int row) const;
+    // Half the circle's chord at a row >= 0, pixels: the offset that column R reads. Negative on
+    // the row at the very edge, which is mirrored.
+    double Chord(int row) const;
+    // True for the row that is not stretched at all.
+    bool Plain(int row) const { return row == 0; }
     const CircleRows& Rows() const { return rows_; }
 
   private:

@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-#include "remap/quarter_loop.h"
 #include "remap/record_maps.h"
+#include "remap/reference/quarter_loop.h"
 
 namespace varnel::reference {
 

@@ -7,8 +7,8 @@
 
 #include <cmath>
 
-#include "remap/blank.h"
 #include "remap/record_maps.h"
+#include "remap/reference/blank.h"
 #include "remap/render_run.h"
 #include "remap/rounding.h"
 #include "remap/sampling.h"

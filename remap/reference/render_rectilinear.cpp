@@ -3,8 +3,8 @@
 
 #include "remap/reference/render.h"
 
-#include "remap/quarter_loop.h"
 #include "remap/record_maps.h"
+#include "remap/reference/quarter_loop.h"
 
 namespace varnel::reference {
 

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Fork and join: a piece of work cut into blocks that own disjoint pixels of the result.
+#pragma once
+
+#include <functional>
+
+namespace varnel {
+
+class BlockRunner {
+  public:
+    virtual ~BlockRunner() = default;
+    // Calls block(n) once for each n from 0 to blocks - 1, in any order and possibly at the same
+    // time, and returns when all are done. The blocks must not throw.
+    virtual void Run(int blocks, const std::function<void(int)>& block) = 0;
+};
+
+// One block after the other on the caller's thread.
+class SerialRunner : public BlockRunner {
+  public:
+    void Run(int blocks, const std::function<void(int)>& block) override {
+        for (int n = 0; n < blocks; ++n) {
+            block(n);
+        }
+    }
+};
+
+}  // namespace varnel

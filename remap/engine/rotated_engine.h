@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The general straight-line view: every pixel for itself. With a translation that ends on half a
+// pixel two loop positions can meet on one output pixel and others stay unwritten; of two the later
+// one stays.
+#pragma once
+
+#include <limits>
+
+#include "remap/engine/node_lines.h"
+#include "remap/engine/node_maps.h"
+#include "remap/render_run.h"
+
+namespace varnel {
+
+// Where the positions first to last of one axis go, and who is the last to write each place.
+class AxisOwners {
+  public:
+    // place(n) is rounded by the caller's rule; places outside 0 to size - 1 are dropped.
+    template <class Place>
+    AxisOwners(int first, int last, std::int32_t size, const Place& place)
+        : first_(first), last_(last), owners_(static_cast<std::size_t>(size), none) {
+        for (int n = first; n <= last; ++n) {
+            places_.push_back(place(n));
+            if (places_.back() >= 0 && places_.back() < size) {
+                owners_[static_cast<std::size_t>(places_.back())] = n;
+            }
+        }
+        contiguous_ = true;
+        for (std::size_t n = 1; n < places_.size(); ++n) {
+            contiguous_ = contiguous_ && places_[n] == places_[n - 1] + 1;
+        }
+    }
+    int First() const { return first_; }
+    int Last() const { return last_; }
+    std::int32_t Place(int n) const { return places_[static_cast<std::size_t>(n - first_)]; }
+    // Position n is the one that stays at its place.
+    bool Stays(int n) const {
+        const std::int32_t place = Place(n);
+        return place >= 0 && place < static_cast<std::int32_t>(owners_.size()) &&
+               owners_[static_cast<std::size_t>(place)] == n;
+    }
+    // Neighbouring positions go to neighbouring places.
+    bool Contiguous() const { return contiguous_; }
+    bool Covers() const { return std::ranges::find(owners_, none) == owners_.end(); }
+
+  private:
+    static constexpr int none = std::numeric_limits<int>::min();
+    int first_, last_;
+    std::vector<std::int32_t> places_;
+    std::vector<int> owners_;
+    bool contiguous_ = true;
+};
+
+class RotatedEngine {
+  public:
+    RotatedEngine(const RenderRun& run, const RotatedRectilinearMap& map,
+                  const CentreAndExtents& centre, const AxisOwners& columns,
+                  const AxisOwners& rows);
+    // Positions x to x + count - 1, all rows.
+    void Draw(int x, int count) const;
+
+  private:
+    void DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const;
+    void ScatterLine(const NodeLine& line, const std::vector<std::uint8_t>& pixels,
+                     std::uint8_t* row) const;
+
+    const RenderRun& run_;
+    const RotatedRectilinearMap& map_;
+    RotatedRectilinearNodes nodes_;
+    CentreAndExtents centre_;
+    const AxisOwners& columns_;
+    const AxisOwners& rows_;
+    SourceView source_;
+    TargetView target_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,246 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The engine against the plain loops: the gate for every change of either.
+
+#include <gtest/gtest.h>
+
+#include <hwy/targets.h>
+#include <atomic>
+#include <cmath>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "remap/engine/thread_runner.h"
+#include "remap/reference/render.h"
+#include "remap/run_time_error.h"
+#include "tests/support/bitmaps.h"
+#include "tests/support/records.h"
+#include "tests/support/runners.h"
+
+namespace varnel {
+namespace {
+
+using testing::FisheyeRecord;
+
+using Painter = BitmapHandle (*)(PixelSize);
+
+// A picture with soft tones, texture and edges, as photos have.
+BitmapHandle PhotoLike(PixelSize size) {
+    static std::map<std::pair<int, int>, BitmapHandle> painted;
+    BitmapHandle& picture = painted[{size.width, size.height}];
+    if (!picture) {
+        picture = testing::Painted(size, [](int x, int y) {
+            const double wave = 60.0 * std::sin(x * 0.05) + 50.0 * std::cos(y * 0.037 + x * 0.011);
+            const double edge = (x / 23 + y / 17) % 2 == 0 ? 30.0 : 0.0;
+            const double grain = ((x * 73 + y * 151) % 29) - 14.0;
+            const auto level = [&](double base) {
+                return static_cast<BYTE>(std::clamp(base + wave + edge + grain, 0.0, 255.0));
+            };
+            return RGBQUAD{level(110.0), level(130.0), level(90.0), 0};
+        });
+    }
+    return CloneBitmap(picture.get());
+}
+
+BitmapHandle Flat(PixelSize size) {
+    BitmapHandle bitmap = NewBitmap(size);
+    for (int y = 0; y < size.height; ++y) {
+        std::ranges::fill(ScanLine(bitmap.get(), y), std::uint8_t{200});
+    }
+    return bitmap;
+}
+
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+
+struct Case {
+    std::string name;
+    Projection projection = Projection::Rectilinear;
+    PixelSize size{301, 200};
+    std::function<void(ImageRecord&)> change = [](ImageRecord&) {};
+};
+
+BitmapHandle Drawn(Renderer renderer, const Case& c, Painter paint, SizeKind kind, bool smooth,
+                   BlockRunner* runner) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = paint(c.size);
+    bitmaps.PreviewSourceBitmap = paint(c.size);
+    ImageRecord record = FisheyeRecord();
+    record.Landscape = c.size.width >= c.size.height;
+    c.change(record);
+    SilentProgress silent;
+    RenderDesk desk{bitmaps, [smooth] { return smooth; }, runner};
+    renderer(c.projection, record, kind, silent, desk);
+    return std::move(bitmaps.ResultBitmap);
+}
+
+struct Difference {
+    int largest = 0;
+    double share = 0.0;  // of all channel values
+};
+
+Difference Compare(FIBITMAP* a, FIBITMAP* b) {
+    Difference difference;
+    const PixelSize size = SizeOf(a);
+    EXPECT_EQ(size.width, SizeOf(b).width);
+    EXPECT_EQ(size.height, SizeOf(b).height);
+    long apart = 0;
+    for (int y = 0; y < size.height; ++y) {
+        const auto rowA = ScanLine(a, y);
+        const auto rowB = ScanLine(b, y);
+        for (std::size_t n = 0; n < static_cast<std::size_t>(size.width) * 3; ++n) {
+            const int distance = std::abs(rowA[n] - rowB[n]);
+            difference.largest = std::max(difference.largest, distance);
+            apart += distance != 0 ? 1 : 0;
+        }
+    }
+    difference.share = static_cast<double>(apart) / (3.0 * size.width * size.height);
+    return difference;
+}
+
+std::vector<Case> Cases() {
+    std::vector<Case> cases;
+    const std::pair<const char*, PixelSize> sizes[] = {{"odd", {301, 201}},
+                                                       {"even", {320, 240}},
+                                                       {"upright", {200, 301}},
+                                                       {"tiny", {7, 5}},
+                                                       {"full", {1400, 900}}};
+    for (const Projection projection : allProjections) {
+        for (const auto& [name, size] : sizes) {
+            cases.push_back({ToText(projection).toStdString() + " " + name, projection, size});
+        }
+        for (const float offset : {-180.0F, 33.3F, 700.0F}) {
+            cases.push_back(
+                {ToText(projection).toStdString() + " offset",
+                 projection,
+                 {301, 200},
+                 [offset](ImageRecord& r) { r.OfsetX = offset, r.OfsetY = -offset / 2; }});
+        }
+    }
+    const std::pair<const char*, std::function<void(ImageRecord&)>> rectilinear[] = {
+        {"tilt", [](ImageRecord& r) { r.RotateX = -35.0F; }},
+        {"pan", [](ImageRecord& r) { r.RotateY = 40.0F; }},
+        {"roll", [](ImageRecord& r) { r.RotateZ = 17.0F; }},
+        {"all turns",
+         [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F, r.RotateZ = 11.0F; }},
+        {"whole shift", [](ImageRecord& r) { r.TranslateX = 10.0F, r.TranslateY = -20.0F; }},
+        {"uneven shift", [](ImageRecord& r) { r.TranslateX = 3.1F, r.TranslateY = 7.7F; }},
+        {"half-pixel shift",
+         [](ImageRecord& r) { r.TranslateX = 150.0F / 3.01F, r.TranslateY = 0.25F; }},
+        {"far shift", [](ImageRecord& r) { r.TranslateX = 300.0F; }},
+        {"behind the camera", [](ImageRecord& r) { r.OutputAOV = 170.0F, r.RotateY = 40.0F; }},
+        {"backwards", [](ImageRecord& r) { r.RotateX = 170.0F; }},
+        {"180 degrees", [](ImageRecord& r) { r.OutputAOV = 180.0F; }},
+        {"180 degrees turned", [](ImageRecord& r) { r.OutputAOV = 180.0F, r.RotateZ = 5.0F; }},
+        {"no effect", [](ImageRecord& r) { r.EffectRectilinear = 0.1F; }},
+        {"half effect turned",
+         [](ImageRecord& r) { r.EffectRectilinear = 50.0F, r.RotateX = 15.0F; }},
+    };
+    for (const auto& [name, change] : rectilinear) {
+        cases.push_back(
+            {std::string("Rectilinear ") + name, Projection::Rectilinear, {301, 200}, change});
+    }
+    const auto tan = [](float factor) {
+        return [factor](ImageRecord& r) {
+            r.LensBrand = QStringLiteral("Samyang");
+            r.LensMapFactor = factor;
+            r.LensMapScale = 12.0F;
+            r.OutputAOV = 120.0F;
+        };
+    };
+    for (const Projection projection : {Projection::Rectilinear, Projection::Equidistance}) {
+        cases.push_back({"Tan lens", projection, {301, 200}, tan(3.0F)});
+        cases.push_back({"Tan lens past its pole", projection, {301, 200}, tan(0.5F)});
+    }
+    const auto turned = [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F; };
+    cases.push_back({"large", Projection::Rectilinear, {2100, 900}});
+    cases.push_back({"large turned", Projection::Rectilinear, {4100, 1000}, turned});
+    cases.push_back({"large Equidistance", Projection::Equidistance, {4100, 1000}});
+    for (const float effect : {0.1F, 40.0F, 250.0F}) {
+        cases.push_back({"Varnel effect", Projection::Varnel, {301, 200}, [effect](ImageRecord& r) {
+                             r.EffectVarnel = effect;
+                         }});
+        cases.push_back(
+            {"Horizon effect", Projection::Horizon, {301, 200}, [effect](ImageRecord& r) {
+                 r.EffectVarnel = effect;
+             }});
+    }
+    return cases;
+}
+
+void ExpectClose(const Case& c, BlockRunner* runner) {
+    SCOPED_TRACE(c.name);
+    const auto compare = [&](Painter paint, SizeKind kind, bool smooth) {
+        const BitmapHandle engine = Drawn(&Render, c, paint, kind, smooth, runner);
+        const BitmapHandle reference = Drawn(&reference::Render, c, paint, kind, smooth, nullptr);
+        return Compare(engine.get(), reference.get());
+    };
+    const Difference photo = compare(&PhotoLike, SizeKind::Large, false);
+    EXPECT_LE(photo.largest, 1);
+    EXPECT_LT(photo.share, 0.001);
+    if (c.size.width > 1000) {
+        return;  // the plain loops take their time
+    }
+    const Difference flat = compare(&Flat, SizeKind::Batch, false);
+    EXPECT_LE(flat.largest, 1);
+    EXPECT_LT(flat.share, 0.03);
+    const Difference preview = compare(&PhotoLike, SizeKind::Thumbnails, true);
+    EXPECT_LE(preview.largest, 1);
+    EXPECT_LT(preview.share, 0.001);
+    EXPECT_EQ(compare(&PhotoLike, SizeKind::Thumbnails, false).largest, 0);  // nearest reads
+}
+
+TEST(Engine, AgreesWithThePlainLoops) {
+    for (const Case& c : Cases()) {
+        ExpectClose(c, nullptr);
+    }
+}
+
+TEST(Engine, AgreesOnEveryInstructionSet) {
+    const std::int64_t supported = hwy::SupportedTargets();
+    for (const std::int64_t target : hwy::SupportedAndGeneratedTargets()) {
+        SCOPED_TRACE(hwy::TargetName(target));
+        hwy::SetSupportedTargetsForTest(target);
+        for (const Case& c : Cases()) {
+            if (c.size.width <= 301) {
+                ExpectClose(c, nullptr);
+            }
+        }
+    }
+    hwy::SetSupportedTargetsForTest(0);
+    EXPECT_EQ(hwy::SupportedTargets(), supported);
+}
+
+TEST(Engine, WorkersAndTheirOrderChangeNoByte) {
+    for (const Case& c : Cases()) {
+        SCOPED_TRACE(c.name);
+        if (c.size.width > 1000 && c.projection != Projection::Horizon) {
+            continue;
+        }
+        const BitmapHandle serial = Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, nullptr);
+        ThreadRunner two(2);
+        ThreadRunner three(3);
+        testing::ShuffledRunner shuffled(7);
+        for (BlockRunner* const runner :
+             std::initializer_list<BlockRunner*>{&two, &three, &shuffled}) {
+            const BitmapHandle other =
+                Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, runner);
+            EXPECT_EQ(Compare(serial.get(), other.get()).largest, 0);
+        }
+    }
+}
+
+TEST(ThreadRunner, RunsEachBlockOnceAndMayBeUsedAgain) {
+    ThreadRunner runner(3);
+    for (const int blocks : {0, 1, 2, 100}) {
+        std::vector<std::atomic<int>> runs(static_cast<std::size_t>(blocks));
+        runner.Run(blocks, [&](int n) { ++runs[static_cast<std::size_t>(n)]; });
+        for (const auto& count : runs) {
+            EXPECT_EQ(count, 1);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -22,7 +22,8 @@ constexpr QColor emptyBox(84, 84, 84);
 PictureBox::PictureBox(const QString& hint, QWidget* parent) : QWidget(parent), hint_(hint) {}
 
 void PictureBox::Show(FIBITMAP* bitmap) {
-    image_ = ImageOf(bitmap);
+    // In the screen's own form, so that painting copies and converts nothing.
+    image_ = ImageOf(bitmap).convertToFormat(QImage::Format_RGB32);
     image_.setDevicePixelRatio(devicePixelRatioF());
     update();
 }

@@ -8,7 +8,9 @@
 
 #include <cmath>
 
+#include "bench/remap/peer_remap.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/record_maps.h"
 #include "remap/reference/render.h"
 
 namespace varnel {
@@ -81,7 +83,33 @@ void Register(const std::string& name, Renderer renderer, Projection projection,
         ->UseRealTime();
 }
 
+#ifdef VARNEL_PEER
+void DrawWithPeer(benchmark::State& state, PixelSize size, int threads) {
+    const std::size_t bytes =
+        static_cast<std::size_t>(size.width) * 3 * static_cast<std::size_t>(size.height);
+    std::vector<std::uint8_t> source(bytes, 100);
+    std::vector<std::uint8_t> result(bytes);
+    RectilinearView view = RectilinearViewOf(FisheyeRecord(false), size);
+    for (auto _ : state) {
+        view.outputAov = view.outputAov == 90.0F ? 91.0F : 90.0F;
+        bench::PeerRectilinear(view, source.data(), result.data(), threads);
+    }
+}
+
+void RegisterPeer(PixelSize size) {
+    for (const int threads : {1, 2}) {
+        const std::string name = "OpenCV map and remap/24MP/" + std::to_string(threads) + " cores";
+        benchmark::RegisterBenchmark(name.c_str(), &DrawWithPeer, size, threads)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+}
+#else
+void RegisterPeer(PixelSize /*size*/) {}
+#endif
+
 void RegisterAll() {
+    RegisterPeer(Megapixels(24.0));
     const PixelSize full = Megapixels(24.0);
     for (const Projection projection : allProjections) {
         const std::string name = ToText(projection).toStdString();

@@ -11,7 +11,7 @@
 namespace varnel {
 
 // Columns or rows that are worked out between two turns of the event queue at full size.
-inline constexpr int batchLines = 1024;
+inline constexpr int batchLines = 2048;
 
 // Calls draw(first, count) for columns or rows, until all from first to last are done, and
 // progress(n) for each of them. At full size a batch is drawn before its progress is told. A

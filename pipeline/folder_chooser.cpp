@@ -30,16 +30,16 @@ void FolderChooser::SetUpTree() {
     tree_.installEventFilter(this);
     connect(tree_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             &FolderChooser::OnFolder);
-    // The folders above the shown one arrive later and push it down; queued, because they are in
-    // their places only after this.
-    connect(
-        &folders_, &QFileSystemModel::directoryLoaded, this,
-        [this](const QString& loaded) {
-            if (folder_.startsWith(loaded)) {
-                tree_.scrollTo(tree_.currentIndex());
-            }
-        },
-        Qt::QueuedConnection);
+    // The folders above the shown one arrive later and push it down. They are put in their places
+    // by a timer of the model's own, so this waits a little longer.
+    arrived_.setSingleShot(true);
+    arrived_.setInterval(30);
+    connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (folder_.startsWith(loaded)) {
+            arrived_.start();
+        }
+    });
+    connect(&arrived_, &QTimer::timeout, this, [this] { tree_.scrollTo(tree_.currentIndex()); });
     connect(&folders_, &QFileSystemModel::fileRenamed, this,
             [this] { OnFolder(tree_.currentIndex()); });
 }

@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QFileSystemModel>
+#include <QTimer>
 #include <QTreeView>
 #include <functional>
 #include <vector>
@@ -55,6 +56,7 @@ class FolderChooser : public QObject {
     Volumes currentVolumes_;
     std::vector<Volume> volumes_;  // as listed
     QFileSystemModel folders_;
+    QTimer arrived_;
     QString folder_;
 };
 

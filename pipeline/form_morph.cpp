@@ -22,6 +22,8 @@ namespace varnel {
 namespace {
 
 constexpr PixelSize pictureBox{240, 180};  // logical pixels
+// Drawn larger than shown: a projection that magnifies would be a blur otherwise.
+constexpr double drawnLarger = 2.0;
 
 // The sliders of the dialog, in its order, and the value that each pair of them moves.
 struct Pair {
@@ -64,6 +66,15 @@ QSlider* MakeSlider(const SliderRowData& facts, QWidget* parent) {
     slider->setTickPosition(QSlider::TicksBelow);
     slider->setToolTip(Translated(facts.tip));
     return slider;
+}
+
+QPixmap InPictureBox(const QImage& image, double ratio) {
+    const QSize box = QSize(pictureBox.width, pictureBox.height) * ratio;
+    const bool fits = image.width() <= box.width() && image.height() <= box.height();
+    QPixmap pixmap = QPixmap::fromImage(
+        fits ? image : image.scaled(box, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
 }
 
 void AddGroupLabel(QGridLayout& grid, int gridRow, const QString& text) {
@@ -185,7 +196,7 @@ void FormMorph::SetUpPictures(FIBITMAP* previewSource) {
         label->setText(tr("No preview"));
     }
     if (previewSource != nullptr) {
-        const double ratio = devicePixelRatioF();
+        const double ratio = devicePixelRatioF() * drawnLarger;
         const PixelSize box{CLng(pictureBox.width * ratio, "a side"),
                             CLng(pictureBox.height * ratio, "a side")};
         bitmaps_.PreviewSourceBitmap =
@@ -264,9 +275,7 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
     try {
         Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
                desk);
-        QPixmap pixmap = QPixmap::fromImage(ImageOf(bitmaps_.ResultBitmap.get()));
-        pixmap.setDevicePixelRatio(devicePixelRatioF());
-        label.setPixmap(pixmap);
+        label.setPixmap(InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
     } catch (const RunTimeError& error) {
         label.setText(QString::fromUtf8(error.what()));
     }

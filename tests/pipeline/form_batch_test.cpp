@@ -17,6 +17,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "tests/support/files.h"
 #include "tests/support/records.h"
@@ -318,6 +319,20 @@ TEST_F(FormBatchTest, ANewFolderIsMadeNamedAndChosen) {
     EXPECT_EQ(queue.UpperBound(), 1) << "naming a folder must not start the run";
     Click("CmdBatchProcess");
     EXPECT_TRUE(QFile::exists(Out() + Q("/Wide/01.Equidistance.BMP")));
+}
+
+TEST_F(FormBatchTest, TheFolderStaysInSightWhenItsNeighboursArrive) {
+    QDir(Out()).mkpath(Q("a/b"));
+    choices.folder = Out() + Q("/a/b");
+    for (int n = 0; n < 5; ++n) {
+        QueuePhotos(1);
+        Open();
+        QTest::qWait(150);
+        const auto& tree = The<QTreeView>("Dir2");
+        const QRect shown = tree.visualRect(tree.currentIndex());
+        EXPECT_TRUE(tree.viewport()->rect().contains(shown.center())) << n;
+        form->close();
+    }
 }
 
 }  // namespace

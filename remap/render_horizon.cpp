@@ -64,15 +64,7 @@ class HorizonEngine {
           map_(map),
           owners_(map, run.Size().height),
           source_(SourceView::Of(run.Source())),
-          target_(TargetView::Of(run.Result())) {
-        for (int column = 0; column <= map.Rows().lastColumn; ++column) {
-            cosines_.push_back(std::cos(map.Angle(column)));
-            sines_.push_back(std::sin(map.Angle(column)));
-        }
-        // Whole vectors are read at the end, too.
-        cosines_.resize(cosines_.size() + 8);
-        sines_.resize(sines_.size() + 8);
-    }
+          target_(TargetView::Of(run.Result())) {}
 
     void FillUnownedRows() const {
         const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
@@ -87,7 +79,8 @@ class HorizonEngine {
 
     // Radii r to r + count - 1. Within a block narrow pieces of neighbouring radii follow each
     // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
-    void Draw(int r, int count) const {
+    void Draw(int r, int count) {
+        PrepareColumns(r);
         DrawBlocks(run_, r, count, 16, [this](int from, int to) {
             const int columns = map_.Rows().lastColumn + 1;
             for (int first = 0; first < columns; first += pieceColumns) {
@@ -101,6 +94,20 @@ class HorizonEngine {
 
   private:
     static constexpr int pieceColumns = 256;
+
+    // The angles of the columns, as soon as a radius within the circle needs them.
+    void PrepareColumns(int first) {
+        if (!cosines_.empty() || map_.Blank(first)) {
+            return;
+        }
+        for (int column = 0; column <= map_.Rows().lastColumn; ++column) {
+            cosines_.push_back(std::cos(map_.Angle(column)));
+            sines_.push_back(std::sin(map_.Angle(column)));
+        }
+        // Whole vectors are read at the end, too.
+        cosines_.resize(cosines_.size() + 8);
+        sines_.resize(sines_.size() + 8);
+    }
 
     // Columns first to end - 1 of both halves of the row that a radius goes to.
     void DrawPiece(int r, int first, int end) const {
@@ -145,7 +152,7 @@ void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& prog
     const HorizonMap map(CircleViewOf(image, run.Size()));
     const CircleRows& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + 2.0 * rows.upperHalf));
-    const HorizonEngine engine(run, map);
+    HorizonEngine engine(run, map);
     engine.FillUnownedRows();
     DrawLines(
         run, map.FirstRadius(), rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },

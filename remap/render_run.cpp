@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <exception>
 
 namespace varnel {
 
@@ -29,7 +30,8 @@ RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, 
     : kind_(kind),
       progress_(progress),
       desk_(desk),
-      runner_(desk.runner != nullptr ? *desk.runner : serial_) {
+      runner_(desk.runner != nullptr ? *desk.runner : serial_),
+      exceptionsBefore_(std::uncaught_exceptions()) {
     progress_.HandleEvents();
     Bitmaps& bitmaps = desk.bitmaps;
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
@@ -44,7 +46,11 @@ RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, 
     result_ = bitmaps.ResultBitmap.get();
 }
 
+// After a failure the result is the plain copy of the source, whatever was drawn before.
 RenderRun::~RenderRun() {
+    if (std::uncaught_exceptions() > exceptionsBefore_ && result_ != nullptr) {
+        CopySource();
+    }
     if (begun_) {
         progress_.End();
     }

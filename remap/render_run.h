@@ -47,6 +47,7 @@ class RenderRun {
     RenderDesk& desk_;
     SerialRunner serial_;
     BlockRunner& runner_;
+    int exceptionsBefore_;
     FIBITMAP* source_ = nullptr;
     FIBITMAP* result_ = nullptr;
     bool nearest_ = false;

@@ -12,7 +12,8 @@ class BlockRunner {
   public:
     virtual ~BlockRunner() = default;
     // Calls block(n) once for each n from 0 to blocks - 1, in any order and possibly at the same
-    // time, and returns when all are done. The blocks must not throw.
+    // time, and returns when all are done. What a block throws ends the run: no more blocks are
+    // begun, and it is thrown on once those at work are done.
     virtual void Run(int blocks, const std::function<void(int)>& block) = 0;
 };
 

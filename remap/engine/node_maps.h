@@ -5,7 +5,10 @@
 // Each agrees with its exact map to about a millionth of a pixel, or gives no number.
 #pragma once
 
+#include <limits>
+
 #include "remap/engine/radial_table.h"
+#include "remap/engine/span_kernels.h"
 #include "remap/equidistance_map.h"
 #include "remap/rectilinear_map.h"
 
@@ -36,11 +39,24 @@ class RotatedRectilinearNodes {
     explicit RotatedRectilinearNodes(const RotatedRectilinearMap& map)
         : map_(map), plain_(map.Radius()) {}
     SourceOffset At(double x, double y) const {
+        if (NearSpike(x, y)) {
+            constexpr double none = std::numeric_limits<double>::quiet_NaN();
+            return {none, none};
+        }
         const Ray ray = map_.TurnedRay(x, y);
         return plain_.FromTurned(ray.x, ray.y, ray.z / map_.Focal());
     }
 
   private:
+    // With the eye close to the output plane (an angle of view near 180 degrees) all directions but
+    // those along the plane crowd around one pixel: a spike that nodes would step over.
+    bool NearSpike(double x, double y) const {
+        constexpr double reach = 3.0 * largestNodeStep;
+        return map_.Focal() < largestNodeStep &&
+               std::fabs(x + static_cast<double>(map_.ShiftX())) < reach &&
+               std::fabs(y + static_cast<double>(map_.ShiftY())) < reach;
+    }
+
     const RotatedRectilinearMap& map_;
     RectilinearNodes plain_;
 };

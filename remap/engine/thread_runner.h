@@ -4,6 +4,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -25,6 +26,7 @@ class ThreadRunner : public BlockRunner {
     void Run(int blocks, const std::function<void(int)>& block) override;
 
   private:
+    void StartThreads(int wanted);
     void Work();
     void TakeBlocks(std::unique_lock<std::mutex>& lock);
 
@@ -36,7 +38,8 @@ class ThreadRunner : public BlockRunner {
     const std::function<void(int)>* block_ = nullptr;
     int next_ = 0;
     int blocks_ = 0;
-    int unfinished_ = 0;
+    int working_ = 0;  // threads in TakeBlocks
+    std::exception_ptr failure_;
     bool ending_ = false;
 };
 

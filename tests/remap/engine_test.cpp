@@ -141,6 +141,10 @@ std::vector<Case> Cases() {
         cases.push_back(
             {std::string("Rectilinear ") + name, Projection::Rectilinear, {301, 200}, change});
     }
+    for (const PixelSize size : {PixelSize{10, 2}, PixelSize{101, 61}, PixelSize{301, 200}}) {
+        cases.push_back({"180 degrees to the side", Projection::Rectilinear, size,
+                         [](ImageRecord& r) { r.OutputAOV = 180.0F, r.RotateY = 90.0F; }});
+    }
     const auto tan = [](float factor) {
         return [factor](ImageRecord& r) {
             r.LensBrand = QStringLiteral("Samyang");
@@ -229,6 +233,35 @@ TEST(Engine, WorkersAndTheirOrderChangeNoByte) {
             EXPECT_EQ(Compare(serial.get(), other.get()).largest, 0);
         }
     }
+}
+
+TEST(Engine, AfterAFailureTheResultIsTheSource) {
+    for (const Projection projection : allProjections) {
+        Bitmaps bitmaps;
+        bitmaps.FullSourceBitmap = PhotoLike({301, 200});
+        bitmaps.ResultBitmap = Flat({301, 200});
+        ImageRecord record = FisheyeRecord();
+        record.Ratio = 0.0F;
+        record.SensorWidth = 0.0F;
+        SilentProgress silent;
+        RenderDesk desk{bitmaps};
+        EXPECT_THROW(Render(projection, record, SizeKind::Large, silent, desk), RunTimeError);
+        EXPECT_EQ(Compare(bitmaps.ResultBitmap.get(), bitmaps.FullSourceBitmap.get()).largest, 0);
+    }
+}
+
+TEST(ThreadRunner, WhatABlockThrowsReachesTheCallerAndTheNextRunIsWhole) {
+    ThreadRunner runner(3);
+    EXPECT_THROW(runner.Run(100,
+                            [](int n) {
+                                if (n == 7) {
+                                    throw std::bad_alloc();
+                                }
+                            }),
+                 std::bad_alloc);
+    std::atomic<int> runs = 0;
+    runner.Run(50, [&](int) { ++runs; });
+    EXPECT_EQ(runs, 50);
 }
 
 TEST(ThreadRunner, RunsEachBlockOnceAndMayBeUsedAgain) {

@@ -4,6 +4,7 @@
 #include "app/desk.h"
 
 #include <QCoreApplication>
+#include <new>
 #include <utility>
 
 #include "app/scoped.h"
@@ -42,6 +43,7 @@ ImageRecord* Desk::Current() {
 
 const ImageRecord& Desk::PreparedCurrent() {
     Prepare(*Current());
+    RefreshCurrent();
     return *Current();
 }
 
@@ -62,18 +64,23 @@ void Desk::GiveChosenGear(ImageRecord& image) {
     }
 }
 
+void Desk::TellNotOpened(const ImageRecord& image) {
+    notices_.Tell(Tr("Could not open image"),
+                  QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
+}
+
 bool Desk::LoadFull(int line) {
     ImageRecord& image = state_.Images(line + 1);
     state_.bitmaps.ResultBitmap.reset();
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.FullSourceBitmap.reset();
+    view_.ShowResult(nullptr);  // never another photo's
     LoadedPicture loaded = LoadPicture(SourcePath(image));
+    loadTrouble_ = loaded.bitmap ? QString() : loaded.reason;
     if (!loaded.bitmap) {
         view_.ShowSource(nullptr);
-        view_.ShowResult(nullptr);
         view_.ShowStatus({});
-        notices_.Tell(Tr("Could not open image"),
-                      QStringLiteral("%1: %2").arg(SourcePath(image), loaded.reason));
+        ShowInControls(image);
         return false;
     }
     state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
@@ -90,14 +97,26 @@ void Desk::ShowLine(int line) {
     if (Busy() || line < 0 || line >= state_.Images.UpperBound()) {
         return;
     }
-    const Raised busy(busy_);
-    bool loaded = false;
     {
-        const Hourglass hourglass(view_);
-        loaded = LoadFull(line) && RebuildThumbnail();
+        const Raised busy(busy_);
+        if (LoadAndReduce(line)) {
+            Preview();
+        } else {
+            TellNotOpened(state_.Images(line + 1));
+        }
     }
-    if (loaded) {
-        Preview();
+    view_.Idle();
+}
+
+bool Desk::LoadAndReduce(int line) {
+    const Hourglass hourglass(view_);
+    try {
+        return LoadFull(line) && RebuildThumbnail();
+    } catch (const std::bad_alloc&) {
+        state_.bitmaps = {};
+        loadTrouble_ = Tr("there is not enough memory");
+        view_.ShowSource(nullptr);
+        return false;
     }
 }
 
@@ -120,7 +139,7 @@ void Desk::RenderPreview(const ImageRecord& image) {
         return;
     }
     if (rendering_) {
-        drawAgain_ = true;
+        drawAgain_ = !saving_;
         return;
     }
     {
@@ -131,16 +150,20 @@ void Desk::RenderPreview(const ImageRecord& image) {
     if (std::exchange(drawAgain_, false) && Current() != nullptr) {
         RenderPreview(*Current());
     }
+    view_.Idle();
 }
 
 void Desk::RenderThumbnail(const ImageRecord& image) {
-    RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }};
+    RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), desk);
         view_.ShowResult(state_.bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);
         view_.ShowStatus(QString::fromUtf8(error.what()));
+    } catch (const std::bad_alloc&) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(Tr("There is not enough memory."));
     }
 }
 
@@ -157,6 +180,8 @@ void Desk::PreviewNow() {
     StoreControls(false);
     if (RebuildThumbnail()) {
         RenderPreview(*Current());
+    } else {
+        TellNotOpened(*Current());
     }
 }
 
@@ -174,11 +199,11 @@ bool Desk::GearIsPending(const ImageRecord& image) const {
         return false;
     }
     const int n = state_.Gear.Find(image.GearName);
-    if (image.LensMapScale == 0.0F && image.SensorWidth == 0.0F) {
-        return true;
+    if (n == 0) {
+        return true;  // none yet, or one that is gone
     }
     ImageRecord assigned = image;
-    return n >= 1 && AssignGear(state_.Gear(n), assigned) && !(assigned == image);
+    return AssignGear(state_.Gear(n), assigned) && !(assigned == image);
 }
 
 // What a click gives a record: its size and, if the gear is still due, the chosen gear.
@@ -195,13 +220,29 @@ void Desk::Prepare(ImageRecord& image) {
 }
 
 void Desk::PrepareAll() {
-    for (ImageRecord& image : state_.Images) {
-        Prepare(image);
+    {
+        const Hourglass hourglass(view_);
+        for (ImageRecord& image : state_.Images) {
+            Prepare(image);
+        }
+    }
+    RefreshCurrent();
+}
+
+void Desk::RefreshCurrent() {
+    const ImageRecord* const image = Current();
+    if (image == nullptr) {
+        return;
+    }
+    const ControlValues before = view_.Controls();
+    ShowInControls(*image);
+    if (!(view_.Controls() == before)) {
+        Preview();
     }
 }
 
 void Desk::StoreControls(bool withPreview) {
-    if (state_.loadingControls) {
+    if (state_.loadingControls || saving_) {
         return;
     }
     const ControlValues values = view_.Controls();
@@ -231,6 +272,9 @@ void Desk::ChooseGear() {
             GiveChosenGear(image);
         }
         ShowInControls(image);
+    }
+    if (Current() != nullptr) {
+        ShowInControls(*Current());
     }
     Preview();
 }

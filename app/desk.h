@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "pipeline/file_chooser.h"
+#include "remap/engine/thread_runner.h"
 #include "remap/render.h"
 #include "state/control_values.h"
 #include "state/notices.h"
@@ -43,6 +44,8 @@ class DeskView {
     virtual void ShowHourglass(bool on) = 0;
     // While locked nothing on the window can be started and a wish to close it waits.
     virtual void Lock(bool on) = 0;
+    // Nothing runs any more: what waited for that may be done.
+    virtual void Idle() = 0;
 };
 
 class Desk {
@@ -86,21 +89,28 @@ class Desk {
 
   private:
     bool LoadFull(int line);
+    bool LoadAndReduce(int line);
+    void TellNotOpened(const ImageRecord& image);
+    // Shows the current record's values again after something else changed them.
+    void RefreshCurrent();
     void Prepare(ImageRecord& image);
     void PrepareAll();
     bool GearIsPending(const ImageRecord& image) const;
     void GiveChosenGear(ImageRecord& image);
     void RenderPreview(const ImageRecord& image);
     void RenderThumbnail(const ImageRecord& image);
-    void RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
+    QString RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
     void ShowInControls(const ImageRecord& image);
 
     WorkingState& state_;
     Notices& notices_;
     DeskView& view_;
+    ThreadRunner runner_;
     bool busy_ = false;
     bool rendering_ = false;
+    bool saving_ = false;
     bool drawAgain_ = false;
+    QString loadTrouble_;  // why the current line's photo is not there
 };
 
 }  // namespace varnel

@@ -23,17 +23,21 @@ QString Tr(const char* text) {
 
 }  // namespace
 
-void Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
+// The reason why it was not saved; empty when it was.
+QString Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
+    const Raised saving(saving_);
+    const Raised rendering(rendering_);
     const OutputType type = TypeOf(choice);
-    RenderDesk desk{state_.bitmaps};
-    Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
-    const SaveResult saved =
-        SaveBitmap(FormatOf(type), state_.bitmaps.ResultBitmap.get(), choice.name,
-                   SaveFlags(type, state_.settings.JPEGcompression));
-    if (saved) {
-        view_.ShowStatus(Tr("Saved %1").arg(choice.name));
-    } else {
-        notices_.Tell(Tr("Could not save %1").arg(choice.name), saved.reason);
+    RenderDesk desk{.bitmaps = state_.bitmaps, .runner = &runner_};
+    try {
+        Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
+        return SaveBitmap(FormatOf(type), state_.bitmaps.ResultBitmap.get(), choice.name,
+                          SaveFlags(type, state_.settings.JPEGcompression))
+            .reason;
+    } catch (const RunTimeError& error) {
+        return QString::fromUtf8(error.what());
+    } catch (const std::bad_alloc&) {
+        return Tr("There is not enough memory.");
     }
 }
 
@@ -41,10 +45,9 @@ void Desk::SaveAs(FileChooser& chooser) {
     if (Busy() || Current() == nullptr) {
         return;
     }
-    const Raised busy(busy_);
-    const ImageRecord image = *Current();
+    const ImageRecord image = PreparedCurrent();
     if (!state_.bitmaps.FullSourceBitmap) {
-        notices_.Tell(Tr("Could not open image"), SourcePath(image));
+        TellNotOpened(image);
         return;
     }
     const SaveChoice proposal{ProposedName(SourcePath(image), view_.ChosenProjection()),
@@ -54,19 +57,23 @@ void Desk::SaveAs(FileChooser& chooser) {
     if (!choice) {
         return;
     }
-    view_.Lock(true);
-    view_.HandleEvents();
-    view_.ShowHourglass(true);
-    try {
-        RenderAndSave(image, *choice);
-    } catch (const RunTimeError& error) {
-        notices_.Tell(Tr("Could not save %1").arg(choice->name), QString::fromUtf8(error.what()));
-    } catch (const std::bad_alloc&) {
-        notices_.Tell(Tr("Could not save %1").arg(choice->name), Tr("There is not enough memory."));
+    QString trouble;
+    {
+        const Raised busy(busy_);
+        view_.Lock(true);
+        view_.HandleEvents();
+        view_.ShowHourglass(true);
+        trouble = RenderAndSave(image, *choice);
+        state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
+        view_.ShowHourglass(false);
+        view_.Lock(false);
     }
-    state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
-    view_.ShowHourglass(false);
-    view_.Lock(false);
+    if (trouble.isEmpty()) {
+        view_.ShowStatus(Tr("Saved %1").arg(choice->name));
+    } else {
+        notices_.Tell(Tr("Could not save %1").arg(choice->name), trouble);
+    }
+    view_.Idle();
 }
 
 }  // namespace varnel

@@ -71,7 +71,7 @@ QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QS
 }
 
 void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
-    RenderDesk desk{photo.bitmaps, [&run] { return run.options.antialiased; }};
+    RenderDesk desk{photo.bitmaps, [&run] { return run.options.antialiased; }, &run.runner};
     const SizeKind kind = run.options.preview ? SizeKind::Thumbnails : SizeKind::Large;
     if (run.options.preview && !photo.bitmaps.PreviewSourceBitmap) {
         FIBITMAP* const full = photo.bitmaps.FullSourceBitmap.get();

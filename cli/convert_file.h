@@ -20,6 +20,7 @@ struct ConversionRun {
     const GearRecord& gear;
     const GeneralSettings& settings;
     RenderProgress& progress;
+    BlockRunner& runner;
     QStringList written = {};  // canonical names of the files written so far
 };
 

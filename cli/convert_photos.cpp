@@ -8,6 +8,7 @@
 #include "cli/convert_file.h"
 #include "cli/progress_bar.h"
 #include "pipeline/morph_sequence.h"
+#include "remap/engine/thread_runner.h"
 
 namespace varnel {
 
@@ -91,7 +92,8 @@ int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralS
     if (console.bar && !options.quiet) {
         progress = &bar;
     }
-    ConversionRun run{options, gear, settings, *progress};
+    ThreadRunner runner;
+    ConversionRun run{options, gear, settings, *progress, runner};
     bool allWritten = true;
     for (const QString& path : options.files) {
         bar.SetLabel(path);

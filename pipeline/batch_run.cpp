@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <new>
 
+#include "remap/engine/thread_runner.h"
 #include "remap/run_time_error.h"
 
 namespace varnel {
@@ -84,7 +85,7 @@ class Run {
     SaveResult RenderAndSave(const ImageRecord& entry, BitmapHandle source, const QString& path) {
         Bitmaps bitmaps;
         bitmaps.FullSourceBitmap = std::move(source);
-        RenderDesk desk{bitmaps};
+        RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, observer_.Progress(),
                desk);
         bitmaps.FullSourceBitmap.reset();  // encoding needs room of its own
@@ -139,6 +140,7 @@ class Run {
     const BatchChoices& choices_;
     BatchObserver& observer_;
     const BatchPorts& ports_;
+    ThreadRunner runner_;
     BatchSummary summary_;
     QSet<QString> halfPictures_;  // written by this run from damaged photos
 };

@@ -271,7 +271,7 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
         return;
     }
     SilentProgress silent;
-    RenderDesk desk{bitmaps_, [] { return true; }};
+    RenderDesk desk{bitmaps_, [] { return true; }, &runner_};
     try {
         Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
                desk);

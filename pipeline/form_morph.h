@@ -15,6 +15,7 @@
 
 #include "pipeline/morph_sequence.h"
 #include "remap/bitmap.h"
+#include "remap/engine/thread_runner.h"
 #include "state/notices.h"
 #include "state/slider_table.h"
 
@@ -68,6 +69,7 @@ class FormMorph : public QDialog {
     Notices& notices_;
     std::function<void(int)> queueChanged_;
     Bitmaps bitmaps_;
+    ThreadRunner runner_;
     QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
     std::array<bool, 3> pending_{};
 };

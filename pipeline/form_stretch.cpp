@@ -178,7 +178,7 @@ void FormStretch::DrawPreview() {
         return;
     }
     SilentProgress silent;
-    RenderDesk desk{bitmaps_};
+    RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
     RenderStretch(Curve(), SizeKind::Thumbnails, silent, desk);
     ui_->PicStretch->Show(ImageOf(bitmaps_.ResultBitmap.get()));
 }
@@ -204,7 +204,7 @@ void FormStretch::Save() {
 
 void FormStretch::RenderAndSave(const SaveChoice& choice) {
     BarProgress progress(ui_->BarStretch);
-    RenderDesk desk{bitmaps_};
+    RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
     RenderStretch(Curve(), SizeKind::Large, progress, desk);
     const OutputType type = TypeOf(choice);
     const SaveResult saved = SaveBitmap(FormatOf(type), bitmaps_.ResultBitmap.get(), choice.name,

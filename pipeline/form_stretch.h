@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "pipeline/file_chooser.h"
+#include "remap/engine/thread_runner.h"
 #include "remap/stretch.h"
 #include "state/general_settings.h"
 #include "state/notices.h"
@@ -59,6 +60,7 @@ class FormStretch : public QDialog {
     QString path_;
     BitmapHandle screenCopy_;  // the photo at most as large as a screen, for quick resizing
     Bitmaps bitmaps_;
+    ThreadRunner runner_;
     QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
     QTimer fitTimer_;
     bool busy_ = false;

@@ -4,6 +4,7 @@
 #include "app/main_window.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollArea>
@@ -56,8 +57,9 @@ void MDIForm1::BuildSide(QWidget* side) {
     parts_.column = side;
     auto* const scroll = new QScrollArea(side);
     auto* const controls = new QWidget(scroll);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    parts_.list = new ImageListPanel(controls);  // first, for the order of the Tab key
     parts_.equipment = new EquipmentPanel(controls);
-    parts_.list = new ImageListPanel(controls);
     parts_.adjustments = new AdjustmentPanel(controls);
     parts_.save = new SavePanel(side);
     auto* const inner = new QVBoxLayout(controls);
@@ -182,9 +184,13 @@ void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
 void MDIForm1::dropEvent(QDropEvent* event) {
     QStringList files;
     for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
             files.append(url.toLocalFile());
         }
+    }
+    if (desk_->Busy() || files.isEmpty()) {
+        event->ignore();
+        return;
     }
     event->acceptProposedAction();
     AddFiles(files);

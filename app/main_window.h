@@ -51,6 +51,8 @@ class MDIForm1 : public QMainWindow {
     void ConnectSliders();
 
     void Activate();
+    void OnLine(int line);
+    void OnLineClicked();
     void OnSliderChanged(SliderRow* row);
     void OnSliderReset(SliderRow* row);
     void OnProjection(int index);
@@ -87,6 +89,7 @@ class MDIForm1 : public QMainWindow {
     QStringList filesAtStart_;
     bool started_ = false;
     bool closeWanted_ = false;
+    bool changedByPress_ = false;  // the current line, by the mouse button that is down
 };
 
 }  // namespace varnel

@@ -3,7 +3,10 @@
 
 // What happens on the main window: one short handler each; the work is the desk's.
 
+#include <QGuiApplication>
 #include <QShortcut>
+#include <QSpinBox>
+#include <utility>
 
 #include "app/main_window.h"
 #include "pipeline/preview_size.h"
@@ -29,15 +32,15 @@ void MDIForm1::ConnectControls() {
             [this] { desk_->ChooseGear(); });
     connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
             &MDIForm1::OnProjection);
-    connect(parts_.list->List(), &QListWidget::currentRowChanged, this,
-            [this](int line) { desk_->ShowLine(line); });
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &MDIForm1::OnLine);
+    connect(parts_.list->List(), &QListWidget::itemClicked, this, &MDIForm1::OnLineClicked);
     connect(parts_.pictures->From(), &PictureBox::Released, this, &MDIForm1::PickPoint);
     connect(parts_.pictures, &PictureArea::RoomChanged, this, [this] { roomSettled_.start(150); });
     roomSettled_.setSingleShot(true);
     connect(&roomSettled_, &QTimer::timeout, this, &MDIForm1::OnRoomChanged);
     view_->WhenListShown([this] { OnListShown(); });
-    view_->WhenUnlocked([this] {
-        if (closeWanted_) {
+    view_->WhenIdle([this] {
+        if (!desk_->Busy() && std::exchange(closeWanted_, false)) {
             QTimer::singleShot(0, this, &QWidget::close);
         }
     });
@@ -46,6 +49,9 @@ void MDIForm1::ConnectControls() {
         auto* const made = new QShortcut(keys, where);
         made->setContext(where == this ? Qt::WindowShortcut : Qt::WidgetShortcut);
         connect(made, &QShortcut::activated, this, [this, handler] {
+            if (auto* const number = qobject_cast<QSpinBox*>(focusWidget())) {
+                number->interpretText();  // what is still being typed counts
+            }
             if (!view_->Locked()) {
                 handler();
             }
@@ -73,10 +79,22 @@ void MDIForm1::ConnectSliders() {
     }
 }
 
+void MDIForm1::OnLine(int line) {
+    changedByPress_ = QGuiApplication::mouseButtons() != Qt::NoButton;
+    desk_->ShowLine(line);
+}
+
+// A click on the line that is current already loads its photo again.
+void MDIForm1::OnLineClicked() {
+    if (!std::exchange(changedByPress_, false)) {
+        desk_->ShowLine(parts_.list->List()->currentRow());
+    }
+}
+
 // The slider is disabled while its value is stored, so that a turn of the event queue cannot move
 // it again; the keyboard stays where it was.
 void MDIForm1::OnSliderChanged(SliderRow* row) {
-    if (state_.loadingControls) {
+    if (state_.loadingControls || view_->Locked()) {
         return;
     }
     QWidget* const focused = focusWidget();
@@ -90,6 +108,9 @@ void MDIForm1::OnSliderChanged(SliderRow* row) {
 }
 
 void MDIForm1::OnSliderReset(SliderRow* row) {
+    if (view_->Locked()) {
+        return;
+    }
     row->Show(0);
     OnSliderChanged(row);
 }
@@ -111,7 +132,11 @@ void MDIForm1::OnProjection(int index) {
 void MDIForm1::OnRoomChanged() {
     FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
     FIBITMAP* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
-    if (full == nullptr || reduced == nullptr || desk_->Busy()) {
+    if (desk_->Busy()) {
+        roomSettled_.start(150);
+        return;
+    }
+    if (full == nullptr || reduced == nullptr) {
         return;
     }
     const PixelSize wanted = PreviewSize(SizeOf(full), view_->PreviewBox(), view_->PictureRoom());

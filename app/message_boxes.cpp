@@ -4,6 +4,7 @@
 #include "app/message_boxes.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -39,15 +40,23 @@ QStringList Filters() {
 // follows the last dot for an extension and replace it.
 void KeepNameAcrossFilters(QFileDialog& dialog) {
     auto* const edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    if (edit == nullptr) {
+    if (edit == nullptr ||
+        dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo")) == nullptr) {
         return;  // the platform's own dialog leaves the name alone
     }
-    edit->setProperty("typedName", edit->text());
-    const auto remember = [edit] { edit->setProperty("typedName", edit->text()); };
-    QObject::connect(edit, &QLineEdit::textEdited, edit, remember);
-    QObject::connect(&dialog, &QFileDialog::currentChanged, edit, remember);
-    QObject::connect(&dialog, &QFileDialog::filterSelected, edit,
-                     [edit] { edit->setText(edit->property("typedName").toString()); });
+    auto* const types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    // The name as it stood while the present filter was chosen.
+    edit->setProperty("ownName", edit->text());
+    edit->setProperty("ownFilter", types->currentIndex());
+    QObject::connect(edit, &QLineEdit::textChanged, edit, [edit, types](const QString& name) {
+        if (types->currentIndex() == edit->property("ownFilter").toInt()) {
+            edit->setProperty("ownName", name);
+        }
+    });
+    QObject::connect(&dialog, &QFileDialog::filterSelected, edit, [edit, types] {
+        edit->setProperty("ownFilter", types->currentIndex());
+        edit->setText(edit->property("ownName").toString());
+    });
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 
 #include "app/real_dialogs.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -32,8 +32,8 @@ bool RealDialogs::AddImages(QWidget* parent) {
 void RealDialogs::ManageGears(QWidget* parent) {
     FormGearList form(
         state_.Gear, store_,
-        [parent](GearTable& gears) {
-            FormGearEdit editor(gears, parent);
+        [](GearTable& gears) {
+            FormGearEdit editor(gears, QApplication::activeWindow());
             editor.exec();
         },
         parent);

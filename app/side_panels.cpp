@@ -3,6 +3,7 @@
 
 #include "app/side_panels.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -32,6 +33,8 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     gears_->setToolTip(tr("Which camera and lens took the selected photos"));
     gears_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     gears_->setMinimumContentsLength(16);
+    gears_->setFocusPolicy(Qt::StrongFocus);
+    gears_->installEventFilter(this);
     applyToAll_ = Button("CmdApplyAll", tr("Apply to all"),
                          tr("Every photo in the list was taken with this gear"), this);
     auto* const grid = new QGridLayout(this);
@@ -41,13 +44,25 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     grid->setColumnStretch(0, 1);
 }
 
+// A wheel that passes over the selector on its way down the column must not change the photos'
+// gear.
+bool EquipmentPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == gears_ && event->type() == QEvent::Wheel && !gears_->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QGroupBox::eventFilter(watched, event);
+}
+
 void EquipmentPanel::Fill(const GearTable& gears, const QString& selected) {
     const QSignalBlocker blocker(gears_);
     gears_->clear();
     for (int n = 1; n <= gears.UpperBound(); ++n) {
         gears_->addItem(gears(n).GearName);
     }
-    gears_->setCurrentIndex(std::max(gears.Find(selected), 1) - 1);
+    const int chosen = gears.Find(selected);
+    const int fallback = std::max(gears.Find(gears.DefaultGearName), 1);
+    gears_->setCurrentIndex((chosen > 0 ? chosen : fallback) - 1);
 }
 
 ImageListPanel::ImageListPanel(QWidget* parent)

@@ -21,10 +21,13 @@ class EquipmentPanel : public QGroupBox {
     Q_OBJECT
   public:
     explicit EquipmentPanel(QWidget* parent = nullptr);
-    // All gear names in table order; the one of that name is selected, the first without one.
+    // All gear names in table order; the one of that name is selected, without one the default.
     void Fill(const GearTable& gears, const QString& selected);
     QComboBox* Gears() const { return gears_; }
     QPushButton* ApplyToAll() const { return applyToAll_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QComboBox* gears_;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
+#include <QMouseEvent>
 
 namespace varnel {
 
@@ -107,7 +108,8 @@ void SliderRow::OnReleased() {
 }
 
 bool SliderRow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == heading_ && event->type() == QEvent::MouseButtonDblClick && data_.resets) {
+    if (watched == heading_ && event->type() == QEvent::MouseButtonDblClick && data_.resets &&
+        heading_->isEnabled() && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         Q_EMIT ResetWanted();
         return true;
     }

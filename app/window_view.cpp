@@ -49,7 +49,10 @@ void WindowView::ShowRecord(const ImageRecord& image) {
         parts_.equipment->Gears()->setCurrentIndex(gear);
     }
     parts_.adjustments->Show(ValuesFor(image));
-    window_->setWindowTitle(image.FileName + QStringLiteral(" - Varnel"));
+    const int current = CurrentLine();
+    if (current >= 0 && &image == &state_.Images(current + 1)) {
+        window_->setWindowTitle(image.FileName + QStringLiteral(" - Varnel"));
+    }
 }
 
 void WindowView::ShowHourglass(bool on) {
@@ -62,16 +65,20 @@ void WindowView::ShowHourglass(bool on) {
 
 void WindowView::Lock(bool on) {
     locked_ = on;
+    if (on) {
+        focusBeforeLock_ = window_->focusWidget();
+    }
     progress_.LetInputThrough(on);
     parts_.column->setEnabled(!on);
     window_->menuBar()->setEnabled(!on);
     for (QAction* const action : window_->findChildren<QAction*>()) {
-        if (action->menu() == nullptr && !action->isSeparator()) {
-            action->blockSignals(on);  // shortcuts work beside a disabled menu bar
+        // Shortcuts work beside a disabled menu bar. Exit waits like a click on the window's cross.
+        if (action->menu() == nullptr && action->objectName() != QStringLiteral("CmdFileExit")) {
+            action->blockSignals(on);
         }
     }
-    if (!on && whenUnlocked_) {
-        whenUnlocked_();
+    if (!on && focusBeforeLock_) {
+        focusBeforeLock_->setFocus();
     }
 }
 

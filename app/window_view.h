@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <functional>
 
 #include "app/adjustment_panel.h"
@@ -52,9 +53,15 @@ class WindowView : public DeskView {
     void ShowHourglass(bool on) override;
     void Lock(bool on) override;
 
+    void Idle() override {
+        if (whenIdle_) {
+            whenIdle_();
+        }
+    }
+
     bool Locked() const { return locked_; }
-    // Called when a lock was taken off again.
-    void WhenUnlocked(std::function<void()> then) { whenUnlocked_ = std::move(then); }
+    // Called when a conversion or a load is over.
+    void WhenIdle(std::function<void()> then) { whenIdle_ = std::move(then); }
     // Called when the list was refilled and its line 0, if any, made current.
     void WhenListShown(std::function<void()> then) { whenListShown_ = std::move(then); }
 
@@ -64,7 +71,8 @@ class WindowView : public DeskView {
     const WorkingState& state_;
     WindowProgress progress_;
     bool locked_ = false;
-    std::function<void()> whenUnlocked_;
+    std::function<void()> whenIdle_;
+    QPointer<QWidget> focusBeforeLock_;
     std::function<void()> whenListShown_;
 };
 

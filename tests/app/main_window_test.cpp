@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QMenuBar>
 
+#include "pipeline/load_picture.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -327,6 +328,26 @@ TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
     EXPECT_EQ(desk.Record(1).InputAOV, 150.0F);
 }
 
+TEST(MainWindow, AGearForAllReachesEachPhotoByAClick) {
+    WindowDesk desk;
+    GearRecord other = desk.state.Gear(1);
+    other.GearName = Q("other");
+    other.hAOV = 100.0F;
+    desk.state.Gear.Resize(2);
+    desk.state.Gear(2) = other;
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    desk.window.findChild<QAction*>(Q("CmdSetupEquipment"))->trigger();
+    desk.Find<QComboBox>("GearCombo")->setCurrentIndex(1);
+    desk.Slider("SliderAOVinput")->setValue(133);
+    desk.Click("CmdApplyAll");
+    EXPECT_EQ(desk.Record(2).GearName, Q("other"));
+    EXPECT_FALSE(desk.Record(1).SettingsApplied);
+    EXPECT_EQ(desk.Record(1).InputAOV, 133.0F);
+    desk.ClickLine(0);  // current already
+    EXPECT_EQ(desk.Record(1).InputAOV, 100.0F);
+    EXPECT_EQ(desk.Slider("SliderAOVinput")->value(), 100);
+}
+
 TEST(MainWindow, RemovingClosesTheGapsAndAnEmptyListEmptiesThePictures) {
     WindowDesk desk;
     const QImage empty = desk.Shown("PicSmallTo");
@@ -387,6 +408,12 @@ TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
     const int before = slider->value();
     roll();
     EXPECT_EQ(slider->value(), before);
+    auto* const gears = desk.Find<QComboBox>("GearCombo");
+    gears->addItem(Q("another"));
+    QWheelEvent overGears({5, 5}, gears->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(gears, &overGears);
+    EXPECT_EQ(gears->currentIndex(), 0);
     slider->setFocus();
     roll();
     EXPECT_NE(slider->value(), before);

@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <QGroupBox>
+#include <QTimer>
 
+#include "pipeline/load_picture.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -57,11 +59,36 @@ TEST(WindowOutput, AnImpossibleSaveIsToldWithTheNumberAtFault) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")});
     desk.Record(1).Ratio = 0.0F;
+    desk.Record(1).SettingsApplied = true;
     desk.chooser.answer = SaveChoice{desk.files.Path(Q("out")), 1};
     desk.Click("CommandSaveFreeimage");
     EXPECT_EQ(desk.notices.details.value(0), Q("Division by zero: Ratio is 0"));
     EXPECT_TRUE(testing::Contents(desk.files.Path(Q("out.TIF"))).isEmpty());
     EXPECT_TRUE(desk.Find("CommandSaveFreeimage")->isEnabled());
+}
+
+TEST(WindowOutput, DuringASaveNothingReachesThePictureAndACloseWaits) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp")}, {900, 600});
+    desk.Click("OptionRemap_1");
+    desk.Slider("SliderX")->setValue(20);
+    desk.chooser.answer = SaveChoice{desk.files.Path(Q("out")), 3};
+    bool tried = false;
+    QTimer::singleShot(0, [&] {  // comes with the events that the save lets run
+        tried = true;
+        EXPECT_FALSE(desk.Find("SliderX")->isEnabled());
+        QTest::mouseDClick(desk.Find("LabelRotate2"), Qt::LeftButton);
+        desk.Slider("SliderX")->setValue(-10);
+        desk.window.close();
+    });
+    desk.Find("SliderX")->setFocus();
+    desk.Click("CommandSaveFreeimage");
+    EXPECT_TRUE(tried);
+    EXPECT_EQ(desk.Record(1).RotateX, 20.0F);
+    EXPECT_EQ(SizeOf(LoadPicture(desk.files.Path(Q("out.BMP"))).bitmap.get()).width, 900);
+    EXPECT_TRUE(desk.Find("SliderX")->hasFocus());
+    QTest::qWait(20);
+    EXPECT_FALSE(desk.window.isVisible());
 }
 
 TEST(WindowOutput, QueueingCountsAndKeepsCopies) {

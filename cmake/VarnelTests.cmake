@@ -26,6 +26,7 @@ function(varnel_window_test name)
   target_link_libraries(${name} PRIVATE ${arg_LINKS} GTest::gtest Qt6::Widgets Qt6::Test varnel_options)
   if(XVFB_RUN)
     add_test(NAME ${name} COMMAND ${XVFB_RUN} -a -s "-screen 0 3840x2160x24" $<TARGET_FILE:${name}>)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=xcb;QT_QPA_PLATFORMTHEME=")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+      "QT_QPA_PLATFORM=xcb;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks-of-others.supp")
   endif()
 endfunction()

@@ -137,7 +137,13 @@ Answers::Answer RunBatchInto(const char* picture) {
     return [picture](QDialog* dialog) {
         EXPECT_EQ(dialog->objectName(), Q("FormBatch"));
         QTest::mouseClick(Find<QPushButton>(dialog, "CmdNewFolder"), Qt::LeftButton);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);  // its name may stay
+        // The tree makes the folder and edits its name, which may stay.
+        EXPECT_TRUE(QTest::qWaitFor([] {
+            return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+        }));
+        if (QWidget* const name = QApplication::focusWidget()) {
+            QTest::keyClick(name, Qt::Key_Return);
+        }
         QApplication::processEvents();
         Choose(dialog, "ComboFileType", "BMP");
         KeepPicture(dialog, (Q(picture) + Q(".png")).toUtf8());

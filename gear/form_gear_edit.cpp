@@ -223,8 +223,7 @@ void FormGearEdit::ShowState() {
     if (!chosen) {
         ui_->LabelAdjusted->setText(tr("Choose a camera and a lens first."));
     } else if (adjusted) {
-        ui_->LabelAdjusted->setText(
-            tr("Your own ratio and offsets stay for another camera or lens."));
+        ui_->LabelAdjusted->setText(tr("Ratio and offsets are set by hand."));
     } else {
         ui_->LabelAdjusted->setText(tr("Values of the catalogue."));
     }

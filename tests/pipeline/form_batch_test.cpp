@@ -327,10 +327,12 @@ TEST_F(FormBatchTest, TheFolderStaysInSightWhenItsNeighboursArrive) {
     for (int n = 0; n < 5; ++n) {
         QueuePhotos(1);
         Open();
-        QTest::qWait(150);
+        QTest::qWait(100);
         const auto& tree = The<QTreeView>("Dir2");
-        const QRect shown = tree.visualRect(tree.currentIndex());
-        EXPECT_TRUE(tree.viewport()->rect().contains(shown.center())) << n;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const QRect shown = tree.visualRect(tree.currentIndex());
+            return tree.viewport()->rect().contains(shown.center());
+        })) << n;
         form->close();
     }
 }

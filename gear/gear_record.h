@@ -42,7 +42,8 @@ struct GearRecord {
     bool operator==(const GearRecord&) const = default;
 };
 
-// The gears are elements 1 to UpperBound(); element 0 is the editor's scratch slot and always there.
+// The gears are elements 1 to UpperBound(); element 0 is the editor's scratch slot and always
+// there.
 class GearTable {
   public:
     GearTable() : gears_(1) {}

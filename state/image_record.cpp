@@ -5,6 +5,8 @@
 
 namespace varnel {
 
-QString SourcePath(const ImageRecord& image) { return image.Folder + u'/' + image.FileName; }
+QString SourcePath(const ImageRecord& image) {
+    return image.Folder + u'/' + image.FileName;
+}
 
 }  // namespace varnel

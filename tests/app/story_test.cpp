@@ -138,9 +138,8 @@ Answers::Answer RunBatchInto(const char* picture) {
         EXPECT_EQ(dialog->objectName(), Q("FormBatch"));
         QTest::mouseClick(Find<QPushButton>(dialog, "CmdNewFolder"), Qt::LeftButton);
         // The tree makes the folder and edits its name, which may stay.
-        EXPECT_TRUE(QTest::qWaitFor([] {
-            return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
-        }));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [] { return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr; }));
         if (QWidget* const name = QApplication::focusWidget()) {
             QTest::keyClick(name, Qt::Key_Return);
         }

@@ -13,6 +13,7 @@
 #include <QSpinBox>
 
 #include "pipeline/load_picture.h"
+#include "tests/support/chooser.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/files.h"
 
@@ -25,22 +26,6 @@ using testing::operator==;
 QString Text(const char* text) {
     return QString::fromUtf8(text);
 }
-
-class AnsweringChooser : public FileChooser {
-  public:
-    std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) override {
-        proposed = proposal;
-        return answer;
-    }
-    bool AgreesToReplace(const QString& name) override {
-        asked.append(name);
-        return agrees;
-    }
-    SaveChoice proposed;
-    std::optional<SaveChoice> answer;
-    QStringList asked;
-    bool agrees = false;
-};
 
 class FormStretchTest : public ::testing::Test {
   protected:
@@ -82,7 +67,7 @@ class FormStretchTest : public ::testing::Test {
     QString photo, chosen;
     QStringList folders;
     GeneralSettings settings;
-    AnsweringChooser chooser;
+    testing::FakeChooser chooser;
     testing::NotedNotices notices;
     FormStretch form;
 };

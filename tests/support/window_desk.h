@@ -15,6 +15,7 @@
 
 #include "app/main_window.h"
 #include "gear/gear_catalogue.h"
+#include "tests/support/chooser.h"
 #include "tests/support/files.h"
 
 namespace varnel::testing {
@@ -44,22 +45,6 @@ class FakeGearPrompt : public GearPrompt {
     }
     QStringList explained;
     bool quit = false;
-};
-
-class FakeChooser : public FileChooser {
-  public:
-    std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) override {
-        proposed = proposal;
-        return answer;
-    }
-    bool AgreesToReplace(const QString& name) override {
-        asked.append(name);
-        return agrees;
-    }
-    SaveChoice proposed;
-    std::optional<SaveChoice> answer;
-    QStringList asked;
-    bool agrees = false;
 };
 
 class FakeDialogs : public Dialogs {

@@ -5,12 +5,14 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QHash>
 #include <QLocale>
-#include <QStorageInfo>
 #include <QStringList>
 #include <QTemporaryFile>
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 #include "remap/run_time_error.h"
 
@@ -116,7 +118,10 @@ qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& 
 }
 
 qint64 FreeBytes(const QString& folder) {
-    return QStorageInfo(folder).bytesAvailable();
+    // Asked of the folder itself: in a container there may be no mount that holds it.
+    std::error_code failed;
+    const auto space = std::filesystem::space(QFile::encodeName(folder).toStdString(), failed);
+    return failed ? -1 : static_cast<qint64>(space.available);
 }
 
 QString SpaceWarning(qint64 expectedBytes, qint64 freeBytes) {

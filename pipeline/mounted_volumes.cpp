@@ -56,6 +56,13 @@ std::vector<Volume> MountedVolumes() {
             volumes.push_back({mount.path, storage.name(), SystemKind(mount), storage.isReady()});
         }
     }
+#ifndef Q_OS_WIN
+    // In a container nothing may be mounted at the root, and it is there all the same.
+    const auto isRoot = [](const Volume& volume) { return volume.path == QStringLiteral("/"); };
+    if (std::none_of(volumes.begin(), volumes.end(), isRoot)) {
+        volumes.push_back({QStringLiteral("/"), {}, VolumeKind::Fixed, true});
+    }
+#endif
     std::sort(volumes.begin(), volumes.end(),
               [](const Volume& a, const Volume& b) { return a.path < b.path; });
     return volumes;

@@ -302,13 +302,17 @@ TEST(MainWindow, SettingsGoToAllEvenToPhotosNeverClicked) {
     }
 }
 
+// A second gear, "other", that sees 100 degrees.
+void AddOtherGear(WindowDesk& desk) {
+    desk.state.Gear.Resize(2);
+    desk.state.Gear(2) = desk.state.Gear(1);
+    desk.state.Gear(2).GearName = Q("other");
+    desk.state.Gear(2).hAOV = 100.0F;
+}
+
 TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
     WindowDesk desk;
-    GearRecord other = desk.state.Gear(1);
-    other.GearName = Q("other");
-    other.hAOV = 100.0F;
-    desk.state.Gear.Resize(2);
-    desk.state.Gear(2) = other;
+    AddOtherGear(desk);
     desk.Entry("CmdSetupEquipment")->trigger();
     EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormGearList")});
     desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
@@ -330,11 +334,7 @@ TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
 
 TEST(MainWindow, AGearForAllReachesEachPhotoByAClick) {
     WindowDesk desk;
-    GearRecord other = desk.state.Gear(1);
-    other.GearName = Q("other");
-    other.hAOV = 100.0F;
-    desk.state.Gear.Resize(2);
-    desk.state.Gear(2) = other;
+    AddOtherGear(desk);
     desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
     desk.window.findChild<QAction*>(Q("CmdSetupEquipment"))->trigger();
     desk.Find<QComboBox>("GearCombo")->setCurrentIndex(1);

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Decoding one photo with the image libraries. They may crash, hang or throw on a damaged file, so
+// this belongs into a process of its own.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+
+#include "decoder/loaded_picture.h"
+#include "decoder/read_request.h"
+
+namespace varnel {
+
+// Reads the photo from an open regular file (position anywhere; the request's path is not looked
+// at). The type is taken from the contents, the size is looked up before any pixel is read and
+// refused when it is too large for a machine with this memory in bytes.
+// Whole: 24 bits, with metadata and colour profile. JPEG is decoded accurately, raw files are
+// developed for display, floating-point colour is tone-mapped.
+LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory);
+
+}  // namespace varnel

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What comes of reading a photo.
+#pragma once
+
+#include <QString>
+
+#include "remap/bitmap.h"
+
+namespace varnel {
+
+enum class LoadOutcome {
+    Loaded,
+    Damaged,   // a picture came, but a part of it is missing or wrong
+    NotLoaded  // no picture
+};
+
+struct LoadedPicture {
+    LoadOutcome outcome = LoadOutcome::NotLoaded;
+    BitmapHandle bitmap;  // 24 bits a pixel; empty when not loaded or when only the size was asked
+    QString reason;    // what is wrong, in words, without the file's name; empty when all is well
+    PixelSize size{};  // of the full picture, pixels; 0 x 0 when not loaded
+
+    static LoadedPicture Refused(const QString& reason) {
+        return {LoadOutcome::NotLoaded, nullptr, reason, {}};
+    }
+};
+
+}  // namespace varnel

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/picture_limits.h"
+
+#include <unistd.h>
+
+namespace varnel {
+
+std::uint64_t MachineMemory() {
+    const long pages = sysconf(_SC_PHYS_PAGES);
+    const long pageBytes = sysconf(_SC_PAGESIZE);
+    constexpr std::uint64_t unknown = std::uint64_t{4} << 30;
+    return pages > 0 && pageBytes > 0
+               ? static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(pageBytes)
+               : unknown;
+}
+
+QString SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory) {
+    if (width <= 0 || height <= 0) {
+        return QStringLiteral("the picture has no pixels");
+    }
+    if (width > largestSide || height > largestSide) {
+        return QStringLiteral("too large: %1 x %2 pixels, a side may have %3")
+            .arg(width)
+            .arg(height)
+            .arg(largestSide);
+    }
+    constexpr std::uint64_t bitmaps = 3;  // source, result, one copy
+    const std::uint64_t needed =
+        static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 3 * bitmaps;
+    if (needed > memory / 4 * 3) {
+        return QStringLiteral(
+                   "too large: %1 x %2 pixels need more than three quarters of this "
+                   "machine's memory")
+            .arg(width)
+            .arg(height);
+    }
+    return {};
+}
+
+}  // namespace varnel

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What may be asked of a photo's file.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "remap/geometry.h"
+
+namespace varnel {
+
+enum class ReadKind : std::uint32_t {
+    Whole,  // every pixel, with metadata and colour profile
+    Size,   // only the size of the full picture
+    Small   // a quick small picture for looking through a folder, without metadata
+};
+
+struct ReadRequest {
+    QString path;
+    ReadKind kind = ReadKind::Whole;
+    PixelSize box{};  // Small: the picture fits it; never enlarged
+};
+
+}  // namespace varnel

@@ -7,16 +7,13 @@
 #include <QString>
 
 #include "remap/bitmap.h"
+#include "state/whole_file.h"
 
 namespace varnel {
 
 // True when the whole file is in place; otherwise the reason, and an older file of that name is as
 // it was.
-struct SaveResult {
-    bool ok = false;
-    QString reason;
-    explicit operator bool() const { return ok; }
-};
+using SaveResult = WriteResult;
 
 // Encodes in memory and replaces the file in one step, because the library itself reports success
 // for cut files on a full disk. flags are the library's for the format (the quality for JPEG).

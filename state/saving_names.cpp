@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/saving_names.h"
+
+#ifdef Q_OS_UNIX
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <QRandomGenerator>
+
+namespace varnel {
+
+namespace {
+
+constexpr int fixedNames = 32;
+
+QByteArray SavingName(const QByteArray& folder, const QByteArray& ending) {
+    return folder + "/.varnel-saving-" + ending;
+}
+
+// With the lock and the name checked in this order nobody else can rename or remove the file: both
+// are done under the lock only.
+void RemoveStray(const QByteArray& name) {
+    struct stat found {};
+    if (::lstat(name.constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
+        return;
+    }
+    const int file = ::open(name.constData(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (file == -1) {
+        return;
+    }
+    if (::flock(file, LOCK_EX | LOCK_NB) == 0 && ::fstat(file, &found) == 0 &&
+        S_ISREG(found.st_mode) && IsNamed(found, name)) {
+        ::unlink(name.constData());
+    }
+    ::close(file);
+}
+
+}  // namespace
+
+std::vector<QByteArray> SavingNames(const QByteArray& folder) {
+    std::vector<QByteArray> names;
+    for (int i = 0; i < fixedNames; ++i) {
+        names.push_back(SavingName(folder, QByteArray::number(i)));
+    }
+    const quint64 chance = QRandomGenerator::system()->generate64();
+    names.push_back(SavingName(folder, QByteArray::number(chance, 16).rightJustified(16, '0')));
+    return names;
+}
+
+void RemoveStrays(const QByteArray& folder) {
+    for (int i = 0; i < fixedNames; ++i) {
+        RemoveStray(SavingName(folder, QByteArray::number(i)));
+    }
+}
+
+bool IsNamed(const struct stat& file, const QByteArray& name) {
+    struct stat found {};
+    return ::lstat(name.constData(), &found) == 0 && found.st_dev == file.st_dev &&
+           found.st_ino == file.st_ino;
+}
+
+}  // namespace varnel
+
+#endif

@@ -15,9 +15,17 @@ namespace varnel {
 
 // Reads the photo from an open regular file (position anywhere; the request's path is not looked
 // at). The type is taken from the contents, the size is looked up before any pixel is read and
-// refused when it is too large for a machine with this memory in bytes.
+// refused when it is too large for a machine with this memory in bytes. Never throws what the
+// libraries throw: that becomes the reason.
 // Whole: 24 bits, with metadata and colour profile. JPEG is decoded accurately, raw files are
 // developed for display, floating-point colour is tone-mapped.
+// Small: a JPEG is decoded at a fraction of its size, of a raw file the camera's own preview is
+// taken; other pictures are decoded whole unless that would take long. The answer's size is 0 x 0
+// when the file does not tell it.
 LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory);
+
+// Has the libraries open now what they would open at the first photo; from then on decoding opens
+// no file. To be called before a process gives up its rights to files.
+void PrepareDecoding();
 
 }  // namespace varnel

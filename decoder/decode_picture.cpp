@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/decode_picture.h"
+
+#include <algorithm>
+#include <exception>
+#include <new>
+#include <utility>
+
+#include "decoder/bmp_picture.h"
+#include "decoder/jpeg_frame.h"
+#include "decoder/picture_damage.h"
+#include "decoder/picture_file.h"
+#include "decoder/picture_limits.h"
+#include "decoder/tiff_facts.h"
+#include "decoder/true_colour.h"
+#include "remap/library_messages.h"
+
+namespace varnel {
+
+namespace {
+
+// Beyond that, decoding a whole picture takes more than about a second.
+constexpr std::int64_t mostPixelsForSmall = 60'000'000;
+
+QString Undecodable() {
+    return QStringLiteral("the picture cannot be decoded");
+}
+
+int WholeFlags(FREE_IMAGE_FORMAT format) {
+    switch (format) {
+        case FIF_JPEG:
+            return JPEG_ACCURATE;
+        case FIF_RAW:
+            return RAW_DISPLAY;  // linear data would come out far too dark
+        default:
+            return 0;
+    }
+}
+
+// Sides as a file states them, which may be anything.
+struct StatedSize {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+};
+
+StatedSize Stated(FIBITMAP* bitmap) {
+    return {FreeImage_GetWidth(bitmap), FreeImage_GetHeight(bitmap)};
+}
+
+PixelSize Pixels(const StatedSize& stated) {
+    return {static_cast<std::int32_t>(stated.width), static_cast<std::int32_t>(stated.height)};
+}
+
+// The largest size with the picture's proportions within the box, never larger than the picture.
+PixelSize Within(PixelSize picture, PixelSize box) {
+    const double scale = std::min({1.0, static_cast<double>(box.width) / picture.width,
+                                   static_cast<double>(box.height) / picture.height});
+    const auto scaled = [&](std::int32_t side) {
+        return std::max(static_cast<std::int32_t>(side * scale + 0.5), 1);
+    };
+    return {scaled(picture.width), scaled(picture.height)};
+}
+
+BitmapHandle Reduced(BitmapHandle bitmap, PixelSize box) {
+    const PixelSize is = SizeOf(bitmap.get());
+    const PixelSize wanted = Within(is, box);
+    if (is.width != wanted.width || is.height != wanted.height) {
+        bitmap.reset(FreeImage_Rescale(bitmap.get(), wanted.width, wanted.height, FILTER_BOX));
+        if (!bitmap) {
+            throw std::bad_alloc();
+        }
+    }
+    const BitmapHandle nothing(FreeImage_Allocate(1, 1, 24));
+    CopyAllButPixels(bitmap.get(), nothing.get());
+    return bitmap;
+}
+
+class Decoding {
+  public:
+    Decoding(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
+             const LibraryMessages& messages)
+        : file_(file), request_(request), memory_(memory), messages_(messages) {}
+
+    LoadedPicture Answer() {
+        format_ = file_.Format();
+        if (format_ == FIF_UNKNOWN) {
+            return LoadedPicture::Refused(QStringLiteral("this is not a picture of a known type"));
+        }
+        if (format_ == FIF_TIFF || format_ == FIF_RAW) {
+            tiff_ = TiffFactsOf(file_);
+        }
+        if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
+            // The plain TIFF reader would give the thumbnail for the photo.
+            return LoadedPicture::Refused(QStringLiteral("damaged: the raw photo cannot be read"));
+        }
+        stated_ = HeaderSize();
+        if (const QString trouble = stated_ ? Trouble(*stated_) : QString(); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
+        }
+        switch (request_.kind) {
+            case ReadKind::Size:
+                return OnlySize();
+            case ReadKind::Small:
+                return Small();
+            case ReadKind::Whole:
+                break;
+        }
+        return Whole();
+    }
+
+  private:
+    QString Trouble(const StatedSize& size) const {
+        return SizeTrouble(size.width, size.height, memory_);
+    }
+
+    // Without reading pixels, where the type allows.
+    std::optional<StatedSize> HeaderSize() const {
+        if (format_ == FIF_JPEG) {
+            const std::optional<PixelSize> size = JpegSize(file_);
+            return size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
+        }
+        const std::optional<BmpHeader> bmp =
+            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
+        if (bmp) {
+            return StatedSize{bmp->width, bmp->height};
+        }
+        if (FreeImage_FIFSupportsNoPixels(format_) != TRUE) {
+            return std::nullopt;
+        }
+        const BitmapHandle header = file_.Load(format_, FIF_LOAD_NOPIXELS);
+        return header ? std::optional(Stated(header.get())) : std::nullopt;
+    }
+
+    LoadedPicture OnlySize() {
+        std::optional<StatedSize> size = stated_;
+        if (size && format_ == FIF_RAW) {
+            // The library states the sensor's way up and knows no odd pixels before developing.
+            const bool known = tiff_ && tiff_->isDng && tiff_->isEven;
+            if (!known) {
+                size.reset();
+            } else if (tiff_->isTurned) {
+                std::swap(size->width, size->height);
+            }
+        }
+        if (size) {
+            return {LoadOutcome::Loaded, nullptr, {}, Pixels(*size)};
+        }
+        LoadedPicture whole = Whole();
+        whole.bitmap.reset();
+        if (whole.outcome == LoadOutcome::Damaged) {
+            whole.outcome = LoadOutcome::Loaded;  // its size is what it is
+            whole.reason.clear();
+        }
+        return whole;
+    }
+
+    LoadedPicture Small() {
+        LoadedPicture picture = Quick();
+        if (!picture.bitmap) {
+            if (stated_ && stated_->width * stated_->height > mostPixelsForSmall) {
+                return LoadedPicture::Refused(QStringLiteral("too large for a quick look"));
+            }
+            picture = Whole();
+        }
+        if (picture.bitmap) {
+            picture.bitmap = Reduced(std::move(picture.bitmap), request_.box);
+        }
+        return picture;
+    }
+    // Empty where the type has no short way.
+    LoadedPicture Quick() {
+        int flags = RAW_PREVIEW;
+        if (format_ == FIF_JPEG) {
+            // The upper half of the flags is the size that is wanted at least.
+            const int side = std::clamp(std::max(request_.box.width, request_.box.height), 1,
+                                        static_cast<int>(largestSide));
+            flags = side << 16 | JPEG_FAST;
+        } else if (format_ != FIF_RAW) {
+            return {};
+        }
+        LoadedPicture picture = Judged(file_.Load(format_, flags));
+        picture.size = format_ == FIF_JPEG && stated_ ? Pixels(*stated_) : PixelSize{};
+        return picture;
+    }
+
+    LoadedPicture Whole() {
+        const std::optional<BmpHeader> bmp =
+            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
+        BitmapHandle bitmap;
+        if (!bmp || !NeedsBmpReader(*bmp)) {
+            bitmap = file_.Load(format_, WholeFlags(format_));
+        }
+        if (!bitmap && bmp) {
+            bitmap = LoadBmp(file_, *bmp);
+        }
+        return Judged(std::move(bitmap));
+    }
+
+    // What the library gave, as an answer.
+    LoadedPicture Judged(BitmapHandle bitmap) const {
+        if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
+            return LoadedPicture::Refused(messages_.Added(Undecodable()));
+        }
+        if (const QString trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
+        }
+        bitmap = To24Bits(std::move(bitmap));
+        if (!bitmap) {
+            return LoadedPicture::Refused(
+                QStringLiteral("its pixels cannot be converted to 24-bit colour"));
+        }
+        const PixelSize size = SizeOf(bitmap.get());
+        const QString damage = DamageOf(format_, file_, messages_.Lines());
+        return {damage.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged, std::move(bitmap),
+                damage, size};
+    }
+
+    PictureFile file_;
+    const ReadRequest& request_;
+    std::uint64_t memory_;
+    const LibraryMessages& messages_;
+    FREE_IMAGE_FORMAT format_ = FIF_UNKNOWN;
+    std::optional<TiffFacts> tiff_;
+    std::optional<StatedSize> stated_;
+};
+
+}  // namespace
+
+LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory) {
+    const LibraryMessages messages;
+    try {
+        return Decoding(file, request, memory, messages).Answer();
+    } catch (const std::bad_alloc&) {
+        return LoadedPicture::Refused(QStringLiteral("not enough memory"));
+    } catch (const std::exception& error) {
+        return LoadedPicture::Refused(
+            QStringLiteral("%1 (%2)").arg(Undecodable(), QString::fromLocal8Bit(error.what())));
+    } catch (...) {  // codecs throw numbers and types of their own
+        return LoadedPicture::Refused(messages.Added(Undecodable()));
+    }
+}
+
+}  // namespace varnel

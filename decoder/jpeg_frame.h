@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The frame of a JPEG file: its segments, not its pixels.
+#pragma once
+
+#include <optional>
+
+#include "decoder/picture_file.h"
+
+namespace varnel {
+
+// The size in the frame header; nothing when there is none. The library's own look at the header
+// decodes a whole progressive picture.
+std::optional<PixelSize> JpegSize(const PictureFile& file);
+
+// True when the file stops before the picture's end marker.
+bool JpegIsCut(const PictureFile& file);
+
+}  // namespace varnel

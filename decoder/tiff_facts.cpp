@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/tiff_facts.h"
+
+#include <QtEndian>
+#include <algorithm>
+#include <array>
+#include <set>
+#include <vector>
+
+namespace varnel {
+
+namespace {
+
+enum Tag : std::uint16_t {
+    StripOffsets = 273,
+    Orientation = 274,
+    StripByteCounts = 279,
+    TileOffsets = 324,
+    TileByteCounts = 325,
+    SubDirectories = 330,
+    PreviewOffset = 513,
+    PreviewLength = 514,
+    ExifDirectory = 34665,
+    DngVersion = 50706,
+    CfaLayout = 50711,
+    DefaultScale = 50718
+};
+
+// Bytes of a value by its type's number; 0 for numbers that mean nothing.
+constexpr std::array<std::int64_t, 19> typeBytes{0, 1, 1, 2, 4, 8, 1, 1, 2, 4,
+                                                 8, 4, 8, 4, 0, 0, 8, 8, 8};
+
+// A sound file has a handful of directories and some thousand strips at most.
+constexpr std::size_t mostDirectories = 1000;
+constexpr std::int64_t mostValues = 1 << 22;
+
+struct Entry {
+    std::uint16_t tag = 0;
+    std::uint16_t type = 0;
+    std::uint64_t count = 0;
+    std::int64_t place = 0;  // of its values in the file
+};
+
+class TiffWalk {
+  public:
+    explicit TiffWalk(const PictureFile& file) : file_(file) {}
+
+    bool Begin() {
+        const QByteArray head = file_.Read(0, 16);
+        bigEndian_ = head.startsWith("MM");
+        if (head.size() < 8 || (!bigEndian_ && !head.startsWith("II"))) {
+            return false;
+        }
+        const std::uint64_t magic = Number(head, 2, 2);
+        wide_ = magic == 43 && head.size() == 16;
+        if (magic != 42 && !wide_) {
+            return false;
+        }
+        Await(wide_ ? Number(head, 8, 8) : Number(head, 4, 4));
+        return true;
+    }
+    TiffFacts Facts() {
+        for (bool first = true; !waiting_.empty() && seen_.size() < mostDirectories;
+             first = false) {
+            const std::uint64_t place = waiting_.back();
+            waiting_.pop_back();
+            if (seen_.insert(place).second) {
+                ReadDirectory(place, first);
+            }
+        }
+        return facts_;
+    }
+
+  private:
+    std::uint64_t Number(const QByteArray& bytes, std::int64_t at, std::int64_t size) const {
+        std::uint64_t number = 0;
+        for (std::int64_t i = 0; i < size && at + i < bytes.size(); ++i) {
+            const auto byte = static_cast<std::uint64_t>(static_cast<unsigned char>(
+                bytes.at(static_cast<qsizetype>(bigEndian_ ? at + i : at + size - 1 - i))));
+            number = number << 8 | byte;
+        }
+        return number;
+    }
+    // Notes whether that many bytes at that place are there.
+    bool Reaches(std::uint64_t place, std::uint64_t bytes) {
+        const auto length = static_cast<std::uint64_t>(file_.Length());
+        const bool reaches = place <= length && bytes <= length - place;
+        facts_.isCut = facts_.isCut || !reaches;
+        return reaches;
+    }
+    void Await(std::uint64_t directory) {
+        if (directory != 0) {
+            waiting_.push_back(directory);
+        }
+    }
+
+    void ReadDirectory(std::uint64_t place, bool first) {
+        const int countBytes = wide_ ? 8 : 2;
+        const int entryBytes = wide_ ? 20 : 12;
+        const int linkBytes = wide_ ? 8 : 4;
+        if (!Reaches(place, countBytes)) {
+            return;
+        }
+        const auto start = static_cast<std::int64_t>(place);
+        const std::uint64_t count = Number(file_.Read(start, countBytes), 0, countBytes);
+        if (count > 65535 || !Reaches(place, countBytes + count * entryBytes)) {
+            return;
+        }
+        const auto entryTotal = static_cast<std::int64_t>(count) * entryBytes;
+        const QByteArray bytes = file_.Read(start + countBytes, entryTotal + linkBytes);
+        std::vector<Entry> entries;
+        for (std::int64_t at = 0; at < entryTotal; at += entryBytes) {
+            if (const std::optional<Entry> entry = ReadEntry(bytes, at, start + countBytes)) {
+                entries.push_back(*entry);
+            }
+        }
+        Await(Number(bytes, entryTotal, linkBytes));
+        CheckData(entries);
+        Note(entries, first);
+    }
+    std::optional<Entry> ReadEntry(const QByteArray& bytes, std::int64_t at, std::int64_t origin) {
+        const int fieldBytes = wide_ ? 8 : 4;
+        Entry entry;
+        entry.tag = static_cast<std::uint16_t>(Number(bytes, at, 2));
+        entry.type = static_cast<std::uint16_t>(Number(bytes, at + 2, 2));
+        entry.count = Number(bytes, at + 4, fieldBytes);
+        const std::int64_t size = entry.type < typeBytes.size() ? typeBytes[entry.type] : 0;
+        if (size == 0) {
+            return std::nullopt;
+        }
+        entry.place = origin + at + 4 + fieldBytes;
+        if (entry.count > static_cast<std::uint64_t>(fieldBytes / size)) {
+            const std::uint64_t place = Number(bytes, at + 4 + fieldBytes, fieldBytes);
+            const auto length = static_cast<std::uint64_t>(file_.Length());
+            if (!Reaches(place, std::min(entry.count, length + 1) * size)) {
+                return std::nullopt;
+            }
+            entry.place = static_cast<std::int64_t>(place);
+        }
+        return entry;
+    }
+    std::vector<std::uint64_t> Values(const std::vector<Entry>& entries, Tag tag) const {
+        const auto entry = std::ranges::find(entries, tag, &Entry::tag);
+        if (entry == entries.end()) {
+            return {};
+        }
+        const std::int64_t size = typeBytes[entry->type];
+        const auto count = static_cast<std::int64_t>(
+            std::min(entry->count, static_cast<std::uint64_t>(mostValues)));
+        const QByteArray bytes = file_.Read(entry->place, count * size);
+        std::vector<std::uint64_t> values;
+        for (std::int64_t at = 0; at + size <= bytes.size(); at += size) {
+            values.push_back(Number(bytes, at, size));
+        }
+        return values;
+    }
+    void CheckData(const std::vector<Entry>& entries) {
+        constexpr std::array<std::pair<Tag, Tag>, 3> places{{{StripOffsets, StripByteCounts},
+                                                             {TileOffsets, TileByteCounts},
+                                                             {PreviewOffset, PreviewLength}}};
+        for (const auto& [offsetTag, countTag] : places) {
+            const std::vector<std::uint64_t> offsets = Values(entries, offsetTag);
+            const std::vector<std::uint64_t> counts = Values(entries, countTag);
+            for (std::size_t i = 0; i < offsets.size(); ++i) {
+                Reaches(offsets[i], i < counts.size() ? counts[i] : 0);
+            }
+        }
+    }
+    void Note(const std::vector<Entry>& entries, bool first) {
+        for (const Tag tag : {SubDirectories, ExifDirectory}) {
+            for (const std::uint64_t place : Values(entries, tag)) {
+                Await(place);
+            }
+        }
+        facts_.isDng = facts_.isDng || !Values(entries, DngVersion).empty();
+        for (const std::uint64_t layout : Values(entries, CfaLayout)) {
+            facts_.isEven = facts_.isEven && layout == 1;
+        }
+        // Two fractions of eight bytes, across and down.
+        const std::vector<std::uint64_t> scale = Values(entries, DefaultScale);
+        facts_.isEven = facts_.isEven && (scale.size() < 2 || scale[0] == scale[1]);
+        const std::vector<std::uint64_t> turn = Values(entries, Orientation);
+        if (first && !turn.empty()) {
+            facts_.isTurned = turn.front() >= 5 && turn.front() <= 8;
+        }
+    }
+
+    const PictureFile& file_;
+    bool bigEndian_ = false;
+    bool wide_ = false;  // the variant with offsets of eight bytes
+    std::vector<std::uint64_t> waiting_;
+    std::set<std::uint64_t> seen_;
+    TiffFacts facts_;
+};
+
+}  // namespace
+
+std::optional<TiffFacts> TiffFactsOf(const PictureFile& file) {
+    TiffWalk walk(file);
+    return walk.Begin() ? std::optional(walk.Facts()) : std::nullopt;
+}
+
+}  // namespace varnel

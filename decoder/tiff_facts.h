@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Directories of TIFF files and of the raw files that are built like them, looked at without the
+// library: where they say that their data lies, against where the file ends.
+#pragma once
+
+#include <optional>
+
+#include "decoder/picture_file.h"
+
+namespace varnel {
+
+struct TiffFacts {
+    bool isCut = false;     // a directory, a value or pixel data lies beyond the file's end
+    bool isDng = false;     // a raw photo; as a plain TIFF it would show a thumbnail
+    bool isTurned = false;  // width and height change places when it is developed
+    bool isEven = true;     // its pixels are square and in rows and columns
+};
+
+// Nothing when the file does not begin like a TIFF.
+std::optional<TiffFacts> TiffFactsOf(const PictureFile& file);
+
+}  // namespace varnel

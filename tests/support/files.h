@@ -4,25 +4,14 @@
 // Files for tests: pictures of every kind, and files that are none.
 #pragma once
 
-#include <QFile>
 #include <QString>
 #include <QTemporaryDir>
 
 #include "remap/save_bitmap.h"
 #include "tests/support/bitmaps.h"
+#include "tests/support/contents.h"
 
 namespace varnel::testing {
-
-inline QByteArray Contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-inline void WriteFile(const QString& path, const QByteArray& contents) {
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(contents);
-}
 
 // A folder that goes away with the test, and pictures in it.
 class PictureFolder {

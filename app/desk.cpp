@@ -8,8 +8,6 @@
 #include <utility>
 
 #include "app/scoped.h"
-#include "pipeline/load_picture.h"
-#include "pipeline/picture_size.h"
 #include "pipeline/preview_size.h"
 #include "remap/run_time_error.h"
 #include "state/gear_assignment.h"
@@ -75,7 +73,7 @@ bool Desk::LoadFull(int line) {
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.FullSourceBitmap.reset();
     view_.ShowResult(nullptr);  // never another photo's
-    LoadedPicture loaded = LoadPicture(SourcePath(image));
+    LoadedPicture loaded = photos_.Load(SourcePath(image));
     loadTrouble_ = loaded.bitmap ? QString() : loaded.reason;
     if (!loaded.bitmap) {
         view_.ShowSource(nullptr);
@@ -210,7 +208,7 @@ bool Desk::GearIsPending(const ImageRecord& image) const {
 void Desk::Prepare(ImageRecord& image) {
     const bool neverLoaded = image.Width == 0;
     if (neverLoaded) {
-        if (const std::optional<PixelSize> size = ReadPictureSize(SourcePath(image))) {
+        if (const std::optional<PixelSize> size = photos_.Size(SourcePath(image))) {
             TakeSize(*size, image);
         }
     }

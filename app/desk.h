@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "pipeline/file_chooser.h"
+#include "pipeline/photo_loader.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/render.h"
 #include "state/control_values.h"
@@ -50,8 +51,8 @@ class DeskView {
 
 class Desk {
   public:
-    Desk(WorkingState& state, Notices& notices, DeskView& view)
-        : state_(state), notices_(notices), view_(view) {}
+    Desk(WorkingState& state, PhotoLoader& photos, Notices& notices, DeskView& view)
+        : state_(state), photos_(photos), notices_(notices), view_(view) {}
 
     // A line became current: loads its photo at full size, gives it its gear, shows and previews
     // it.
@@ -103,6 +104,7 @@ class Desk {
     void ShowInControls(const ImageRecord& image);
 
     WorkingState& state_;
+    PhotoLoader& photos_;
     Notices& notices_;
     DeskView& view_;
     ThreadRunner runner_;

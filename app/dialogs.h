@@ -33,6 +33,7 @@ class Dialogs {
 
 // Everything through which the main window speaks to the user besides itself.
 struct WindowPorts {
+    PhotoLoader& photos;
     Notices& notices;
     GearPrompt& gearPrompt;
     FileChooser& fileChooser;

@@ -40,7 +40,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     BuildStatus();
     BuildMenus();
     view_ = std::make_unique<WindowView>(this, parts_, state_);
-    desk_ = std::make_unique<Desk>(state_, ports_.notices, *view_);
+    desk_ = std::make_unique<Desk>(state_, ports_.photos, ports_.notices, *view_);
     ConnectControls();
     ConnectSliders();
     resize(1180, 800);

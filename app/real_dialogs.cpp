@@ -25,7 +25,9 @@ bool RealDialogs::AddImages(QWidget* parent) {
     const PhotoPlaces places{QCoreApplication::applicationDirPath(), QDir::homePath(),
                              QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                              &MountedVolumes};
-    FormAddImages form(state_.Images, store_, notices_, places, parent);
+    // Of its own, so that a slow small picture never stands in a photo's way.
+    const auto reader = NewPictureReader({.secondsPerPhoto = 10});
+    FormAddImages form(state_.Images, store_, notices_, places, *reader, parent);
     return form.exec() == QDialog::Accepted;
 }
 
@@ -46,8 +48,8 @@ void RealDialogs::ChangeDefaults(QWidget* parent) {
 }
 
 void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) {
-    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, notices_, queueChanged,
-                   parent);
+    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, reader_, notices_,
+                   queueChanged, parent);
     form.exec();
 }
 
@@ -64,7 +66,7 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
                                ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
                                : folder);
     };
-    FormStretch form(state_.settings, choosePhoto, fileChooser_, notices_, parent);
+    FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, notices_, parent);
     if (!photo.isEmpty()) {
         form.Open(photo);
     }

@@ -12,9 +12,14 @@ namespace varnel {
 
 class RealDialogs : public Dialogs {
   public:
-    RealDialogs(WorkingState& state, SettingsStore& store, Notices& notices,
-                FileChooser& fileChooser)
-        : state_(state), store_(store), notices_(notices), fileChooser_(fileChooser) {}
+    RealDialogs(WorkingState& state, SettingsStore& store, PictureReader& reader,
+                PhotoLoader& photos, Notices& notices, FileChooser& fileChooser)
+        : state_(state),
+          store_(store),
+          reader_(reader),
+          photos_(photos),
+          notices_(notices),
+          fileChooser_(fileChooser) {}
     bool AddImages(QWidget* parent) override;
     void ManageGears(QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
@@ -27,6 +32,8 @@ class RealDialogs : public Dialogs {
   private:
     WorkingState& state_;
     SettingsStore& store_;
+    PictureReader& reader_;
+    PhotoLoader& photos_;  // the same reader, with the window's way of waiting
     Notices& notices_;
     FileChooser& fileChooser_;
     BatchChoices batchChoices_;  // the last ones, for the run of the program

@@ -8,7 +8,7 @@
 
 #include "cli/options.h"
 #include "gear/gear_record.h"
-#include "pipeline/load_picture.h"
+#include "pipeline/photo_loader.h"
 #include "remap/render.h"
 #include "state/general_settings.h"
 

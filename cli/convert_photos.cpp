@@ -59,8 +59,9 @@ bool WriteMorph(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
 }
 
 // Every projection of one photo; true when all were written from a sound picture.
-bool ConvertOne(ConversionRun& run, const QString& path, const Console& console) {
-    LoadedPicture loaded = LoadPicture(path);
+bool ConvertOne(ConversionRun& run, PhotoLoader& photos, const QString& path,
+                const Console& console) {
+    LoadedPicture loaded = photos.Load(path);
     if (loaded.outcome != LoadOutcome::Loaded) {
         Report(console, path, loaded.reason);
     }
@@ -86,6 +87,8 @@ bool ConvertOne(ConversionRun& run, const QString& path, const Console& console)
 
 int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
                   const Console& console) {
+    const auto reader = NewPictureReader();  // first: it gets ready meanwhile
+    PhotoLoader photos(*reader);
     TerminalBar bar(console.err);
     SilentProgress silent;
     RenderProgress* progress = &silent;
@@ -97,7 +100,7 @@ int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralS
     bool allWritten = true;
     for (const QString& path : options.files) {
         bar.SetLabel(path);
-        allWritten = ConvertOne(run, path, console) && allWritten;
+        allWritten = ConvertOne(run, photos, path, console) && allWritten;
     }
     return allWritten ? exitAllWritten : exitSomeFailed;
 }

@@ -3,17 +3,24 @@
 
 #include "decoder/picture_limits.h"
 
+#include <QtGlobal>
+
+#ifdef Q_OS_UNIX
 #include <unistd.h>
+#endif
 
 namespace varnel {
 
 std::uint64_t MachineMemory() {
+    constexpr std::uint64_t unknown = std::uint64_t{4} << 30;
+#ifdef Q_OS_UNIX
     const long pages = sysconf(_SC_PHYS_PAGES);
     const long pageBytes = sysconf(_SC_PAGESIZE);
-    constexpr std::uint64_t unknown = std::uint64_t{4} << 30;
-    return pages > 0 && pageBytes > 0
-               ? static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(pageBytes)
-               : unknown;
+    if (pages > 0 && pageBytes > 0) {
+        return static_cast<std::uint64_t>(pages) * static_cast<std::uint64_t>(pageBytes);
+    }
+#endif
+    return unknown;
 }
 
 QString SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory) {

@@ -36,7 +36,7 @@ LoadedPicture ReadPicture(PictureReader& reader, const ReadRequest& request,
 
 // What a reader may be told; the defaults are the programs' own.
 struct ReaderOptions {
-    QString program;           // the decoder's path; empty: the one beside this program
+    QString program = {};      // the decoder's path; empty: the one beside this program
     int secondsPerPhoto = 30;  // the longest that a photo may take
     std::uint64_t memory = 0;  // bytes that pictures are measured by; 0: this machine's memory
 };

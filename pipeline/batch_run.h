@@ -9,8 +9,8 @@
 #include <functional>
 
 #include "pipeline/batch_summary.h"
-#include "pipeline/load_picture.h"
 #include "pipeline/output_name.h"
+#include "pipeline/photo_loader.h"
 #include "remap/render.h"
 #include "remap/save_bitmap.h"
 #include "state/record_array.h"
@@ -46,7 +46,7 @@ class BatchObserver {
 
 // How photos come in and go out.
 struct BatchPorts {
-    std::function<LoadedPicture(const QString& path)> load = LoadPicture;
+    std::function<LoadedPicture(const QString& path)> load;
     std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
                              int flags)>
         save = SaveBitmap;
@@ -56,6 +56,6 @@ struct BatchPorts {
 // changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
 // the queue is never replaced, and no older file by a conversion of a damaged photo.
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
-                      BatchObserver& observer, const BatchPorts& ports = {});
+                      BatchObserver& observer, const BatchPorts& ports);
 
 }  // namespace varnel

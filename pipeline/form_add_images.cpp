@@ -5,19 +5,20 @@
 
 #include <QDir>
 
-#include "pipeline/small_picture.h"
 #include "remap/paint.h"
 #include "ui_form_add_images.h"
 
 namespace varnel {
 
 FormAddImages::FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& store,
-                             Notices& notices, const PhotoPlaces& places, QWidget* parent)
+                             Notices& notices, const PhotoPlaces& places, PictureReader& reader,
+                             QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormAddImages>()),
       images_(images),
       store_(store),
-      places_(places) {
+      places_(places),
+      reader_(reader) {
     ui_->setupUi(this);
     place_ = std::make_unique<FolderChooser>(*ui_->Drive1, *ui_->Dir1, notices, places_.volumes);
     SetUpFiles();
@@ -25,13 +26,15 @@ FormAddImages::FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& st
     ShowStartPlace();
 }
 
-FormAddImages::~FormAddImages() = default;
+FormAddImages::~FormAddImages() {
+    previews_->Stop();
+}
 
 void FormAddImages::SetUpFiles() {
     ui_->File1->setGridSize(CellSize() + QSize(0, 14));
     ui_->SplitterPlaces->setSizes({300, 620});
-    previews_ = std::make_unique<IdlePreviews>(
-        *ui_->File1, [this](const QString& fileName) { return SmallImage(fileName); });
+    PreviewMaker& maker = *this;
+    previews_ = std::make_unique<IdlePreviews>(*ui_->File1, maker);
     previews_->GiveWayTo(*ui_->Dir1);
 }
 
@@ -117,11 +120,17 @@ QSize FormAddImages::CellSize() const {
     return ui_->File1->iconSize() + QSize(34, fontMetrics().height() + 8);
 }
 
-QImage FormAddImages::SmallImage(const QString& fileName) const {
+void FormAddImages::Begin(const QString& fileName) {
     const QSize box = ui_->File1->iconSize() * devicePixelRatioF();
-    const BitmapHandle small =
-        SmallPicture(QDir(place_->Folder()).filePath(fileName), {box.width(), box.height()});
-    QImage image = ImageOf(small.get());
+    reader_.Begin(
+        {QDir(place_->Folder()).filePath(fileName), ReadKind::Small, {box.width(), box.height()}});
+}
+
+std::optional<QImage> FormAddImages::Take() {
+    if (!reader_.Wait(0)) {
+        return std::nullopt;
+    }
+    QImage image = ImageOf(reader_.Take().bitmap.get());
     image.setDevicePixelRatio(devicePixelRatioF());
     return image;
 }

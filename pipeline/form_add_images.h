@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <memory>
 
+#include "decoder/picture_reader.h"
 #include "pipeline/add_images.h"
 #include "pipeline/folder_chooser.h"
 #include "pipeline/idle_previews.h"
@@ -27,13 +28,13 @@ struct PhotoPlaces {
     FolderChooser::Volumes volumes;
 };
 
-// Accepted when photos were added to the images.
-class FormAddImages : public QDialog {
+// Accepted when photos were added to the images. The reader is the dialog's alone while it lives.
+class FormAddImages : public QDialog, private PreviewMaker {
     Q_OBJECT
 
   public:
     FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& store, Notices& notices,
-                  const PhotoPlaces& places, QWidget* parent = nullptr);
+                  const PhotoPlaces& places, PictureReader& reader, QWidget* parent = nullptr);
     ~FormAddImages() override;
 
   protected:
@@ -52,12 +53,16 @@ class FormAddImages : public QDialog {
     void Add(const QStringList& fileNames);
 
     QSize CellSize() const;
-    QImage SmallImage(const QString& fileName) const;
+
+    void Begin(const QString& fileName) override;
+    std::optional<QImage> Take() override;
+    void Cancel() override { reader_.Cancel(); }
 
     std::unique_ptr<Ui::FormAddImages> ui_;
     RecordArray<ImageRecord>& images_;
     SettingsStore& store_;
     PhotoPlaces places_;
+    PictureReader& reader_;  // for the small pictures alone
     std::unique_ptr<FolderChooser> place_;
     std::unique_ptr<IdlePreviews> previews_;
 };

@@ -39,6 +39,15 @@ void ShowText(QLabel* label, const QString& text) {
     label->setVisible(!text.isEmpty());
 }
 
+// Stop stays at hand while a photo is read; the photo itself is finished first.
+class EventsMeanwhile : public ReadingWait {
+  public:
+    bool Continue() override {
+        QCoreApplication::processEvents();
+        return true;
+    }
+};
+
 QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
     try {
         return queue.Empty() ? QString() : QFileInfo(BatchPath(queue(1), choices)).fileName();
@@ -50,13 +59,14 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
 }  // namespace
 
 FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-                     const GeneralSettings& settings, Notices& notices,
+                     const GeneralSettings& settings, PictureReader& reader, Notices& notices,
                      std::function<void(int)> queueChanged, QWidget* parent,
                      const FolderChooser::Volumes& volumes)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormBatch>()),
       queue_(queue),
       choices_(choices),
+      reader_(reader),
       notices_(notices),
       queueChanged_(std::move(queueChanged)),
       lines_(std::make_unique<QueueModel>(queue)) {
@@ -209,7 +219,11 @@ void FormBatch::Process() {
     }
     progress_->Start(queue_.UpperBound());
     ShowRunning(true);
-    const BatchSummary summary = RunBatch(queue_, choices_, *progress_);
+    EventsMeanwhile wait;
+    PhotoLoader photos(reader_, &wait);
+    const BatchSummary summary =
+        RunBatch(queue_, choices_, *progress_,
+                 {.load = [&photos](const QString& path) { return photos.Load(path); }});
     ShowRunning(false);
     progress_->Stop();
     ClearQueue();

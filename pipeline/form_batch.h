@@ -30,7 +30,7 @@ class FormBatch : public QDialog {
     // was chosen, file type and quality come from the settings. queueChanged hears the queue's new
     // length.
     FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-              const GeneralSettings& settings, Notices& notices,
+              const GeneralSettings& settings, PictureReader& reader, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr,
               const FolderChooser::Volumes& volumes = MountedVolumes);
     ~FormBatch() override;
@@ -62,6 +62,7 @@ class FormBatch : public QDialog {
     std::unique_ptr<Ui::FormBatch> ui_;
     RecordArray<ImageRecord>& queue_;
     BatchChoices& choices_;
+    PictureReader& reader_;
     Notices& notices_;
     std::function<void(int)> queueChanged_;
     std::unique_ptr<QueueModel> lines_;

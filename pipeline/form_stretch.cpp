@@ -10,7 +10,6 @@
 #include <QProgressBar>
 #include <new>
 
-#include "pipeline/load_picture.h"
 #include "pipeline/output_name.h"
 #include "pipeline/preview_size.h"
 #include "pipeline/slider_binding.h"
@@ -71,11 +70,13 @@ PixelSize PixelsOf(QSize logical, double ratio) {
 
 }  // namespace
 
-FormStretch::FormStretch(const GeneralSettings& settings, PhotoChooser choosePhoto,
-                         FileChooser& fileChooser, Notices& notices, QWidget* parent)
+FormStretch::FormStretch(const GeneralSettings& settings, PhotoLoader& photos,
+                         PhotoChooser choosePhoto, FileChooser& fileChooser, Notices& notices,
+                         QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormStretch>()),
       settings_(settings),
+      photos_(photos),
       choosePhoto_(std::move(choosePhoto)),
       fileChooser_(fileChooser),
       notices_(notices) {
@@ -142,7 +143,9 @@ void FormStretch::Open(const QString& path) {
         return;
     }
     const Hourglass hourglass;
-    LoadedPicture loaded = LoadPicture(path);
+    busy_ = true;  // events are handled meanwhile
+    LoadedPicture loaded = photos_.Load(path);
+    busy_ = false;
     if (!loaded.bitmap) {
         notices_.Tell(tr("Could not open image"),
                       QStringLiteral("%1: %2").arg(path, loaded.reason));

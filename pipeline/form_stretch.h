@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "pipeline/file_chooser.h"
+#include "pipeline/photo_loader.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/stretch.h"
 #include "state/general_settings.h"
@@ -29,8 +30,8 @@ class FormStretch : public QDialog {
     // The path of a photo to open, looked for in the folder first; empty when cancelled.
     using PhotoChooser = std::function<QString(const QString& folder)>;
 
-    FormStretch(const GeneralSettings& settings, PhotoChooser choosePhoto, FileChooser& fileChooser,
-                Notices& notices, QWidget* parent = nullptr);
+    FormStretch(const GeneralSettings& settings, PhotoLoader& photos, PhotoChooser choosePhoto,
+                FileChooser& fileChooser, Notices& notices, QWidget* parent = nullptr);
     ~FormStretch() override;
 
     void Open(const QString& path);
@@ -54,6 +55,7 @@ class FormStretch : public QDialog {
 
     std::unique_ptr<Ui::FormStretch> ui_;
     const GeneralSettings& settings_;
+    PhotoLoader& photos_;
     PhotoChooser choosePhoto_;
     FileChooser& fileChooser_;
     Notices& notices_;

@@ -13,17 +13,31 @@ namespace {
 
 constexpr int doneRole = Qt::UserRole;  // true when a line has had its turn
 constexpr int pause = 150;              // ms without input before pictures are made again
+constexpr int whileMaking = 10;         // ms between looks at the picture under way
 
 }  // namespace
 
-IdlePreviews::IdlePreviews(QListWidget& list, Maker make) : list_(list), make_(std::move(make)) {
-    connect(&timer_, &QTimer::timeout, this, &IdlePreviews::MakeOne);
+IdlePreviews::IdlePreviews(QListWidget& list, PreviewMaker& maker) : list_(list), maker_(maker) {
+    connect(&timer_, &QTimer::timeout, this, &IdlePreviews::GoOn);
     connect(list_.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (list_.isVisible()) {
             timer_.start(pause);
         }
     });
     GiveWayTo(list_);
+}
+
+void IdlePreviews::Start() {
+    Stop();
+    timer_.start(0);
+}
+
+void IdlePreviews::Stop() {
+    timer_.stop();
+    if (!underWay_.isEmpty()) {
+        maker_.Cancel();
+        underWay_.clear();
+    }
 }
 
 void IdlePreviews::GiveWayTo(QAbstractScrollArea& area) {
@@ -62,17 +76,35 @@ QListWidgetItem* IdlePreviews::NextItem() const {
     return nullptr;
 }
 
-void IdlePreviews::MakeOne() {
+void IdlePreviews::GoOn() {
+    if (underWay_.isEmpty()) {
+        BeginNext();
+        return;
+    }
+    const std::optional<QImage> image = maker_.Take();
+    if (!image) {
+        timer_.start(whileMaking);
+        return;
+    }
+    const QList<QListWidgetItem*> lines =
+        list_.findItems(underWay_, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (!lines.isEmpty() && !image->isNull()) {
+        lines.first()->setIcon(QPixmap::fromImage(*image));
+    }
+    underWay_.clear();
+    timer_.start(0);
+}
+
+void IdlePreviews::BeginNext() {
     QListWidgetItem* const item = NextItem();
     if (item == nullptr) {
         timer_.stop();
         return;
     }
     item->setData(doneRole, true);
-    if (const QImage image = make_(item->text()); !image.isNull()) {
-        item->setIcon(QPixmap::fromImage(image));
-    }
-    timer_.start(0);
+    underWay_ = item->text();
+    maker_.Begin(underWay_);
+    timer_.start(whileMaking);
 }
 
 }  // namespace varnel

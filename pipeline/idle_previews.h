@@ -1,30 +1,38 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Gives the lines of a file list their small pictures while nothing else happens: one picture per
-// turn of the event loop, only of lines that can be seen, and none right after the user did
-// something.
+// Gives the lines of a file list their small pictures while nothing else happens: one after the
+// other, only of lines that can be seen, and none begun right after the user did something.
 #pragma once
 
 #include <QAbstractScrollArea>
 #include <QImage>
 #include <QListWidget>
 #include <QTimer>
-#include <functional>
+#include <optional>
 
 namespace varnel {
+
+// Makes one small picture at a time, elsewhere.
+class PreviewMaker {
+  public:
+    virtual ~PreviewMaker() = default;
+    // Starts on the picture of the line with this text; nothing else is under way.
+    virtual void Begin(const QString& text) = 0;
+    // The picture, once there is an answer; an empty one leaves the line's icon as it is.
+    virtual std::optional<QImage> Take() = 0;
+    virtual void Cancel() = 0;
+};
 
 class IdlePreviews : public QObject {
     Q_OBJECT
 
   public:
-    // The picture of a line by its text; an empty one leaves the line's icon as it is.
-    using Maker = std::function<QImage(const QString& text)>;
+    IdlePreviews(QListWidget& list, PreviewMaker& maker);
 
-    IdlePreviews(QListWidget& list, Maker make);
-
-    void Start() { timer_.start(0); }
-    void Stop() { timer_.stop(); }
+    // Also after the list was filled anew.
+    void Start();
+    void Stop();
     // Input there makes the pictures wait, as input to the list itself does.
     void GiveWayTo(QAbstractScrollArea& area);
 
@@ -32,11 +40,13 @@ class IdlePreviews : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void MakeOne();
+    void GoOn();
+    void BeginNext();
     QListWidgetItem* NextItem() const;
 
     QListWidget& list_;
-    Maker make_;
+    PreviewMaker& maker_;
+    QString underWay_;  // the text of the line whose picture is being made
     QTimer timer_;
 };
 

@@ -16,6 +16,8 @@
 namespace varnel {
 
 struct BitmapUnloader {
+    // What the pixels stand in when the bitmap does not own them itself; let go after the bitmap.
+    std::shared_ptr<void> pixels;
     void operator()(FIBITMAP* bitmap) const { FreeImage_Unload(bitmap); }
 };
 // The only owner of a bitmap; unloads it.

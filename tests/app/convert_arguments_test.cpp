@@ -10,9 +10,9 @@
 
 #include "app/console_start.h"
 #include "gear/gear_store.h"
-#include "pipeline/load_picture.h"
 #include "state/setting_names.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel {
 namespace {
@@ -76,7 +76,7 @@ TEST_F(ConsoleStart, WritesBesideThePhotoInTheStoredType) {
     EXPECT_EQ(ExitCode({photo}), exitAllWritten);
     EXPECT_EQ(out_.str(), Line("IMG.Varnel.PNG"));
     EXPECT_EQ(err_.str(), "");
-    EXPECT_EQ(LoadPicture(files_.Path(QStringLiteral("IMG.Varnel.PNG"))).outcome,
+    EXPECT_EQ(testing::LoadPicture(files_.Path(QStringLiteral("IMG.Varnel.PNG"))).outcome,
               LoadOutcome::Loaded);
 }
 

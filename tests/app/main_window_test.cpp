@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QMenuBar>
 
-#include "pipeline/load_picture.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {

@@ -11,8 +11,8 @@
 
 #include "gear/gear_catalogue.h"
 #include "gear/gear_store.h"
-#include "pipeline/load_picture.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel {
 namespace {
@@ -64,7 +64,8 @@ TEST_F(Program, VarnelConvertsItsArgumentsWithoutADisplay) {
     for (const char* const locale : {"C", "C.UTF-8"}) {
         EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}, locale), 0) << err_.toStdString();
         EXPECT_EQ(out_, files_.Path(Q("Küste.Varnel.TIF\n")));
-        EXPECT_EQ(LoadPicture(files_.Path(Q("Küste.Varnel.TIF"))).outcome, LoadOutcome::Loaded);
+        EXPECT_EQ(testing::LoadPicture(files_.Path(Q("Küste.Varnel.TIF"))).outcome,
+                  LoadOutcome::Loaded);
     }
     EXPECT_EQ(Run(VARNEL_PROGRAM, {files_.Path(Q("none.jpg")), photo}), 1);
     EXPECT_TRUE(err_.contains(Q("none.jpg: there is no such file")));

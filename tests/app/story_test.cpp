@@ -23,11 +23,11 @@
 #include "app/main_window.h"
 #include "app/message_boxes.h"
 #include "app/real_dialogs.h"
-#include "pipeline/load_picture.h"
 #include "pipeline/output_type.h"
 #include "remap/render.h"
 #include "state/setting_names.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 #include "tests/support/screenshots.h"
 
 namespace varnel {
@@ -181,7 +181,7 @@ void StretchAndSave(QDialog* dialog) {
 QByteArray Converted(const ImageRecord& image) {
     const testing::PictureFolder folder;
     Bitmaps bitmaps;
-    bitmaps.FullSourceBitmap = LoadPicture(SourcePath(image)).bitmap;
+    bitmaps.FullSourceBitmap = testing::LoadPicture(SourcePath(image)).bitmap;
     SilentProgress silent;
     RenderDesk desk{bitmaps};
     Render(ProjectionFromIndex(image.Projection), image, SizeKind::Large, silent, desk);
@@ -227,7 +227,7 @@ class Story : public ::testing::Test {
         }
     }
     QString SaveCaption() { return Find<QGroupBox>(&window_, "FrameSave")->title(); }
-    QString Path(const QString& name) const { return photos_.Path(name); }
+    QString Path(const QString& name) const { return folder_.Path(name); }
     // What the batch wrote.
     QStringList Written() const {
         return QDir(Path(Q("Varnel"))).entryList(QDir::Files, QDir::Name);
@@ -236,14 +236,15 @@ class Story : public ::testing::Test {
         return testing::Contents(Path(Q("Varnel/") + Q(name)));
     }
 
-    testing::PictureFolder photos_;
+    testing::PictureFolder folder_;
     WorkingState state_;
     MemoryStore store_;
     MessageBoxes notices_;
     FirstGearPrompt prompt_;
     SaveFileDialog chooser_;
-    RealDialogs dialogs_{state_, store_, notices_, chooser_};
-    MDIForm1 window_{state_, store_, {notices_, prompt_, chooser_, dialogs_}};
+    PhotoLoader photos_{testing::Reader()};
+    RealDialogs dialogs_{state_, store_, testing::Reader(), photos_, notices_, chooser_};
+    MDIForm1 window_{state_, store_, {photos_, notices_, prompt_, chooser_, dialogs_}};
 };
 
 TEST_F(Story, FromTheFirstStartToSavedPictures) {
@@ -288,7 +289,7 @@ TEST_F(Story, FromTheFirstStartToSavedPictures) {
         const QString name = SampleFolder() + Q("/saved.Rectilinear") + ExtensionOf(type);
         const Answers answers({SaveUnder(name, type, "sample-circular.Rectilinear")});
         Click("CommandSaveFreeimage");
-        const LoadedPicture saved = LoadPicture(name);
+        const LoadedPicture saved = testing::LoadPicture(name);
         EXPECT_EQ(saved.outcome, LoadOutcome::Loaded) << name.toStdString();
         EXPECT_EQ(SizeOf(saved.bitmap.get()).width, 900);
     }
@@ -355,8 +356,8 @@ TEST_F(Story, TheCurrentPhotoIsStretchedAndSaved) {
             {&StretchAndSave, SaveUnder(name, OutputType::Png, "sample-circular.Stretch")});
         TakeFromMenu("&Tools", 2);
     }
-    const LoadedPicture photo = LoadPicture(Path(Q("sample-circular.jpg")));
-    const LoadedPicture saved = LoadPicture(name);
+    const LoadedPicture photo = testing::LoadPicture(Path(Q("sample-circular.jpg")));
+    const LoadedPicture saved = testing::LoadPicture(name);
     ASSERT_EQ(saved.outcome, LoadOutcome::Loaded);
     // The photo is 900 x 601 pixels; row 450 is half way from the middle to the top:
     // 1 - 0.4 (1 - cos 45°) = 0.88284.

@@ -8,7 +8,7 @@
 #include <QGroupBox>
 #include <QTimer>
 
-#include "pipeline/load_picture.h"
+#include "tests/support/loading.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -85,7 +85,7 @@ TEST(WindowOutput, DuringASaveNothingReachesThePictureAndACloseWaits) {
     desk.Click("CommandSaveFreeimage");
     EXPECT_TRUE(tried);
     EXPECT_EQ(desk.Record(1).RotateX, 20.0F);
-    EXPECT_EQ(SizeOf(LoadPicture(desk.files.Path(Q("out.BMP"))).bitmap.get()).width, 900);
+    EXPECT_EQ(SizeOf(testing::LoadPicture(desk.files.Path(Q("out.BMP"))).bitmap.get()).width, 900);
     EXPECT_TRUE(desk.Find("SliderX")->hasFocus());
     QTest::qWait(20);
     EXPECT_FALSE(desk.window.isVisible());

@@ -9,8 +9,8 @@
 #include <sstream>
 
 #include "gear/gear_store.h"
-#include "pipeline/load_picture.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel {
 namespace {
@@ -58,7 +58,7 @@ TEST_F(Convert, WritesEveryProjectionBesideThePhotoAndNamesThem) {
         files_.Path(Q("IMG.Equidistance.TIF")), files_.Path(Q("IMG.Horizon.TIF"))};
     EXPECT_EQ(Lines(), expected);
     for (const QString& name : expected) {
-        const LoadedPicture written = LoadPicture(name);
+        const LoadedPicture written = testing::LoadPicture(name);
         ASSERT_EQ(written.outcome, LoadOutcome::Loaded);
         EXPECT_EQ(SizeOf(written.bitmap.get()).width, 60);
     }
@@ -189,7 +189,7 @@ TEST_F(Convert, APreviewHasItsSizeAndFollowsAntialiasing) {
         EXPECT_EQ(RunWithGear(options + QStringList{Q("--preview=60x60"), Q("--output"),
                                                     files_.Path(Q(name)), photo}),
                   exitAllWritten);
-        return LoadPicture(files_.Path(Q(name))).bitmap;
+        return testing::LoadPicture(files_.Path(Q(name))).bitmap;
     };
     const BitmapHandle plain = preview({}, "plain.bmp");
     EXPECT_EQ(SizeOf(plain.get()).width, 60);

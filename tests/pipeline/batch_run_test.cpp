@@ -14,6 +14,7 @@
 #include "pipeline/batch_checks.h"
 #include "remap/run_time_error.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 #include "tests/support/records.h"
 
 namespace varnel {
@@ -54,7 +55,7 @@ class FakeRun : public ::testing::Test {
     BatchSummary Go() { return RunBatch(queue, choices, listener, ports); }
     LoadedPicture Load(const QString& path) {
         log += Q("load ") + path;
-        return {LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}};
+        return {LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     }
     SaveResult Save(FREE_IMAGE_FORMAT format, const QString& path, int flags) {
         log += Q("save %1 as %2 with %3").arg(path).arg(format).arg(flags);
@@ -221,12 +222,12 @@ class RealRun : public ::testing::Test {
     BatchSummary Go() {
         QStringList log;
         Listener listener(log);
-        return RunBatch(queue, choices, listener);
+        return RunBatch(queue, choices, listener, {.load = testing::LoadPicture});
     }
     // What a conversion of that entry alone writes.
     QByteArray Single(ImageRecord entry) const {
         Bitmaps bitmaps;
-        bitmaps.FullSourceBitmap = LoadPicture(SourcePath(entry)).bitmap;
+        bitmaps.FullSourceBitmap = testing::LoadPicture(SourcePath(entry)).bitmap;
         TakeSize(SizeOf(bitmaps.FullSourceBitmap.get()), entry);
         SilentProgress silent;
         RenderDesk desk{bitmaps};

@@ -15,6 +15,7 @@
 
 #include "state/setting_names.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel {
 namespace {
@@ -51,7 +52,8 @@ class FormAddImagesTest : public ::testing::Test {
 
     void Open() {
         form = std::make_unique<FormAddImages>(
-            images, store, notices, PhotoPlaces{A(), B(), Photos(), [this] { return volumes; }});
+            images, store, notices, PhotoPlaces{A(), B(), Photos(), [this] { return volumes; }},
+            testing::Reader());
         form->show();
     }
     template <class Control>

@@ -20,6 +20,7 @@
 #include <QTreeView>
 
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 #include "tests/support/records.h"
 
 namespace varnel {
@@ -64,7 +65,7 @@ class FormBatchTest : public ::testing::Test {
         }
     }
     void Open() {
-        form = std::make_unique<FormBatch>(queue, choices, settings, notices,
+        form = std::make_unique<FormBatch>(queue, choices, settings, testing::Reader(), notices,
                                            [this](int length) { lengths.append(length); });
         form->show();
     }

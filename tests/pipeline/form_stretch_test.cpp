@@ -12,10 +12,10 @@
 #include <QSlider>
 #include <QSpinBox>
 
-#include "pipeline/load_picture.h"
 #include "tests/support/chooser.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel {
 namespace {
@@ -32,7 +32,7 @@ class FormStretchTest : public ::testing::Test {
     FormStretchTest()
         : photo(files.Picture(Text("IMG.bmp"), FIF_BMP, {200, 101})),
           form(
-              settings,
+              settings, photos,
               [this](const QString& folder) {
                   folders.append(folder);
                   return chosen;
@@ -69,6 +69,7 @@ class FormStretchTest : public ::testing::Test {
     GeneralSettings settings;
     testing::FakeChooser chooser;
     testing::NotedNotices notices;
+    PhotoLoader photos{testing::Reader()};
     FormStretch form;
 };
 
@@ -151,7 +152,7 @@ TEST_F(FormStretchTest, SavesTheStretchedPhotoUnderTheChosenName) {
     testing::Click(form, "CmdSave");
     const QString saved = photo.chopped(3) + Text("Stretch.BMP");
     EXPECT_EQ(Label("LabelStatus"), Text("Saved ") + saved);
-    const BitmapHandle result = LoadPicture(saved).bitmap;
+    const BitmapHandle result = testing::LoadPicture(saved).bitmap;
     ASSERT_NE(result, nullptr);
     EXPECT_EQ(SizeOf(result.get()).width, 200);
     // Columns count from 0 in blue: the middle row as it was, the top row all of the two in the
@@ -163,8 +164,8 @@ TEST_F(FormStretchTest, SavesTheStretchedPhotoUnderTheChosenName) {
     The<QSlider>(form, "SliderStrength").setValue(0);
     testing::Click(form, "CmdSave");  // there already; not to be replaced
     EXPECT_EQ(chooser.asked, QStringList{saved});
-    EXPECT_TRUE(
-        (testing::PixelAt(LoadPicture(saved).bitmap.get(), 10, 100) == RGBQUAD{99, 100, 7, 0}));
+    EXPECT_TRUE((testing::PixelAt(testing::LoadPicture(saved).bitmap.get(), 10, 100) ==
+                 RGBQUAD{99, 100, 7, 0}));
     EXPECT_TRUE(notices.told.isEmpty());
 }
 

@@ -17,6 +17,7 @@
 #include "gear/gear_catalogue.h"
 #include "tests/support/chooser.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 
 namespace varnel::testing {
 
@@ -91,7 +92,7 @@ class FakeDialogs : public Dialogs {
 
 class WindowDesk {
   public:
-    WindowDesk() : window(state, store, {notices, prompt, chooser, dialogs}) {
+    WindowDesk() : window(state, store, {photos, notices, prompt, chooser, dialogs}) {
         window.resize(1200, 900);
         window.show();
         QApplication::processEvents();
@@ -140,6 +141,7 @@ class WindowDesk {
     FakeGearPrompt prompt;
     FakeChooser chooser;
     FakeDialogs dialogs;
+    PhotoLoader photos{Reader()};
     MDIForm1 window;
 };
 

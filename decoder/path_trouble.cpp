@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "pipeline/file_check.h"
+#include "decoder/path_trouble.h"
 
 #include <QFileInfo>
 
@@ -25,21 +25,6 @@ QString PathTrouble(const QString& path) {
         return QStringLiteral("no permission to read it");
     }
     return file.size() == 0 ? QStringLiteral("the file is empty") : QString();
-}
-
-QString SizeTrouble(FIBITMAP* bitmap) {
-    const unsigned width = FreeImage_GetWidth(bitmap);
-    const unsigned height = FreeImage_GetHeight(bitmap);
-    if (width == 0 || height == 0) {
-        return QStringLiteral("the picture has no pixels");
-    }
-    if (width > largestSide || height > largestSide) {
-        return QStringLiteral("too large: %1 x %2 pixels, a side may have %3")
-            .arg(width)
-            .arg(height)
-            .arg(largestSide);
-    }
-    return {};
 }
 
 }  // namespace varnel

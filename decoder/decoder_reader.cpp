@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/decoder_reader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <csignal>
+
+#include "decoder/picture_limits.h"
+
+namespace varnel {
+
+namespace {
+
+// A spare memory file far longer than the last picture is not worth its memory.
+constexpr std::uint64_t longestSpare = 2;  // times the picture
+
+QString BesideThisProgram() {
+    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
+    const QString beside = folder + QStringLiteral("/varnel-decoder");
+    return QFileInfo::exists(beside) ? beside
+                                     : folder + QStringLiteral("/../lib/varnel/varnel-decoder");
+}
+
+ReaderOptions Completed(ReaderOptions options) {
+    if (options.program.isEmpty()) {
+        options.program = BesideThisProgram();
+    }
+    if (options.memory == 0) {
+        options.memory = MachineMemory();
+    }
+    return options;
+}
+
+// Gives the memory file back when the bitmap that stands in it is gone.
+struct PixelOwner {
+    std::unique_ptr<MemoryFile> memory;
+    std::weak_ptr<MemoryFiles> files;
+    std::uint64_t used = 0;
+
+    ~PixelOwner() {
+        const std::shared_ptr<MemoryFiles> owner = files.lock();
+        if (owner && memory->Length() <= used * longestSpare) {
+            owner->GiveBack(std::move(memory));
+        }
+    }
+};
+
+}  // namespace
+
+DecoderReader::DecoderReader(const ReaderOptions& options)
+    : options_(Completed(options)), process_(options_.program) {
+    Restart();
+}
+
+void DecoderReader::Restart() {
+    startTrouble_ = process_.Start();
+}
+
+void DecoderReader::Begin(const ReadRequest& request) {
+    Cancel();
+    answer_.reset();
+    OpenedPhoto opened = OpenPhotoFile(request.path);
+    if (!opened.file) {
+        FinishRefused(opened.trouble);
+        return;
+    }
+    photo_ = std::move(opened.file);
+    if (!memory_) {
+        memory_ = memoryFiles_->Take();
+    }
+    request_ = {request_.number + 1, request.kind, request.box, options_.memory,
+                static_cast<std::uint32_t>(options_.secondsPerPhoto)};
+    deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
+    askedTwice_ = false;
+    Ask();
+}
+
+void DecoderReader::Ask() {
+    // It may have died since its last answer.
+    if (!process_.Send(request_, photo_.Get(), memory_->Number())) {
+        Restart();
+        if (!process_.Send(request_, photo_.Get(), memory_->Number())) {
+            const QString reason =
+                startTrouble_.isEmpty() ? QStringLiteral("it ends at once") : startTrouble_;
+            FinishRefused(QStringLiteral("the decoder could not be started (%1)").arg(reason));
+        }
+    }
+}
+
+bool DecoderReader::Wait(int milliseconds) {
+    if (answer_) {
+        return true;
+    }
+    const int left = static_cast<int>(std::max<qint64>(deadline_.remainingTime(), 0));
+    DecoderAnswer answer;
+    switch (process_.Listen(std::min(milliseconds, left), answer)) {
+        case DecoderProcess::Heard::Answer:
+            Finish(PictureFrom(answer));
+            break;
+        case DecoderProcess::Heard::Death:
+            Died();
+            break;
+        case DecoderProcess::Heard::Nothing:
+            if (deadline_.hasExpired()) {
+                FinishRefused(QStringLiteral("took too long (more than %1 seconds)")
+                                  .arg(options_.secondsPerPhoto));
+            }
+            break;
+    }
+    return answer_.has_value();
+}
+
+void DecoderReader::Died() {
+    const int signal = process_.Bury();
+    // Killed from outside: that was not the photo's fault.
+    if (signal == SIGKILL && !askedTwice_) {
+        askedTwice_ = true;
+        Restart();
+        Ask();
+        return;
+    }
+    FinishRefused(
+        signal == SIGXCPU
+            ? QStringLiteral("took too long (more than %1 seconds)").arg(options_.secondsPerPhoto)
+        : signal == 0 ? QStringLiteral("damaged: the decoder gave up on it")
+                      : QStringLiteral("damaged: the decoder died of it (signal %1)").arg(signal));
+}
+
+// After anything but a sound photo the decoder is replaced: one that is still at work has to be
+// ended, and a damaged photo may have left damage in its memory for the next one.
+void DecoderReader::Finish(LoadedPicture picture) {
+    const bool wasAsked = static_cast<bool>(photo_);
+    photo_ = Descriptor();
+    if (wasAsked && picture.outcome != LoadOutcome::Loaded) {
+        memoryFiles_->DropSpare();
+        memory_.reset();
+        Restart();
+    }
+    answer_ = std::move(picture);
+}
+
+LoadedPicture DecoderReader::Take() {
+    LoadedPicture picture = std::move(*answer_);
+    answer_.reset();
+    return picture;
+}
+
+void DecoderReader::Cancel() {
+    if (photo_) {
+        FinishRefused(QStringLiteral("cancelled"));
+    }
+    answer_.reset();
+}
+
+LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer) {
+    if (!Believable(answer, request_, memory_->Length())) {
+        return LoadedPicture::Refused(
+            QStringLiteral("damaged: the decoder's answer makes no sense"));
+    }
+    LoadedPicture picture{static_cast<LoadOutcome>(answer.outcome), nullptr, ReasonOf(answer),
+                          answer.size};
+    if (answer.bitmap.width > 0) {
+        TakePixels(answer, picture);
+    }
+    return picture;
+}
+
+void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& picture) {
+    const std::uint64_t used = RowBytes(answer) + answer.extrasLength;
+    std::byte* const bytes = memory_->Map(used);
+    if (bytes == nullptr) {
+        picture = LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        return;
+    }
+    // A copy, so that nobody changes the block while it is read.
+    const QByteArray extras(reinterpret_cast<const char*>(bytes + RowBytes(answer)),
+                            static_cast<qsizetype>(answer.extrasLength));
+    FIBITMAP* const bitmap = FreeImage_ConvertFromRawBitsEx(
+        FALSE, reinterpret_cast<BYTE*>(bytes), FIT_BITMAP, answer.bitmap.width,
+        answer.bitmap.height, static_cast<int>(answer.pitch), 24, FI_RGBA_RED_MASK,
+        FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE);
+    if (bitmap == nullptr) {
+        picture = LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        return;
+    }
+    auto owner = std::make_shared<PixelOwner>();
+    owner->memory = std::move(memory_);
+    owner->files = memoryFiles_;
+    owner->used = used;
+    picture.bitmap = BitmapHandle(bitmap, BitmapUnloader{std::move(owner)});
+    TakeExtras(extras, bitmap);
+}
+
+std::unique_ptr<PictureReader> NewPictureReader(const ReaderOptions& options) {
+    return std::make_unique<DecoderReader>(options);
+}
+
+}  // namespace varnel

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The reader that decodes in a process of its own.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <optional>
+
+#include "decoder/decoder_process.h"
+#include "decoder/memory_file.h"
+#include "decoder/photo_file.h"
+#include "decoder/picture_reader.h"
+
+namespace varnel {
+
+class DecoderReader : public PictureReader {
+  public:
+    explicit DecoderReader(const ReaderOptions& options);
+
+    void Begin(const ReadRequest& request) override;
+    bool Wait(int milliseconds) override;
+    LoadedPicture Take() override;
+    void Cancel() override;
+
+    // The decoder's process number, for tests that kill it.
+    pid_t ProcessId() const { return process_.Id(); }
+
+  private:
+    void Ask();
+    void Restart();
+    void Finish(LoadedPicture picture);
+    void FinishRefused(const QString& reason) { Finish(LoadedPicture::Refused(reason)); }
+    void Died();
+    LoadedPicture PictureFrom(const DecoderAnswer& answer);
+    void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
+
+    ReaderOptions options_;
+    DecoderProcess process_;
+    QString startTrouble_;
+    std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();
+    std::unique_ptr<MemoryFile> memory_;  // of the picture under way
+    Descriptor photo_;
+    DecoderRequest request_;
+    QDeadlineTimer deadline_;
+    bool askedTwice_ = false;
+    std::optional<LoadedPicture> answer_;
+};
+
+}  // namespace varnel

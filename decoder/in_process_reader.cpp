@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Decoding in the program's own process, for platforms without the means for another one. A photo
+// that crashes an image library takes the program down here.
+#include <QFile>
+#include <cstdio>
+#include <memory>
+
+#include "decoder/decode_picture.h"
+#include "decoder/path_trouble.h"
+#include "decoder/picture_limits.h"
+#include "decoder/picture_reader.h"
+
+namespace varnel {
+
+namespace {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+class InProcessReader : public PictureReader {
+  public:
+    explicit InProcessReader(std::uint64_t memory)
+        : memory_(memory == 0 ? MachineMemory() : memory) {}
+
+    void Begin(const ReadRequest& request) override {
+        const QString trouble = PathTrouble(request.path);
+        const std::unique_ptr<std::FILE, FileCloser> file(
+            trouble.isEmpty() ? std::fopen(QFile::encodeName(request.path).constData(), "rb")
+                              : nullptr);
+        if (!file) {
+            answer_ = LoadedPicture::Refused(
+                trouble.isEmpty() ? QStringLiteral("it cannot be opened") : trouble);
+            return;
+        }
+        answer_ = DecodePicture(file.get(), request, memory_);
+    }
+    bool Wait(int /*milliseconds*/) override { return true; }
+    LoadedPicture Take() override { return std::move(answer_); }
+    void Cancel() override { answer_ = {}; }
+
+  private:
+    std::uint64_t memory_;
+    LoadedPicture answer_;
+};
+
+}  // namespace
+
+std::unique_ptr<PictureReader> NewPictureReader(const ReaderOptions& options) {
+    return std::make_unique<InProcessReader>(options.memory);
+}
+
+}  // namespace varnel

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/memory_file.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+
+#include <new>
+
+namespace varnel {
+
+MemoryFile::MemoryFile() : file_(memfd_create("varnel-picture", MFD_CLOEXEC | MFD_ALLOW_SEALING)) {
+    if (!file_ || fcntl(file_.Get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_SEAL) != 0) {
+        throw std::bad_alloc();
+    }
+}
+
+MemoryFile::~MemoryFile() {
+    if (bytes_ != nullptr) {
+        munmap(bytes_, mapped_);
+    }
+}
+
+std::uint64_t MemoryFile::Length() const {
+    struct stat status {};
+    return fstat(file_.Get(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
+std::byte* MemoryFile::Map(std::uint64_t length) {
+    if (length > Length()) {
+        return nullptr;
+    }
+    if (length > mapped_) {
+        if (bytes_ != nullptr) {
+            munmap(bytes_, mapped_);
+        }
+        void* const bytes =
+            mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_SHARED, file_.Get(), 0);
+        bytes_ = bytes == MAP_FAILED ? nullptr : bytes;
+        mapped_ = bytes_ == nullptr ? 0 : length;
+    }
+    return static_cast<std::byte*>(bytes_);
+}
+
+std::unique_ptr<MemoryFile> MemoryFiles::Take() {
+    return spare_ ? std::move(spare_) : std::make_unique<MemoryFile>();
+}
+
+}  // namespace varnel

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Memory that a program and its decoder share: the decoder writes a picture into it, the program
+// shows and converts the picture where it lies.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "decoder/descriptor.h"
+
+namespace varnel {
+
+// A file that only exists in memory. The decoder can make it longer but never shorter, so what is
+// mapped once stays readable whatever the decoder does.
+class MemoryFile {
+  public:
+    MemoryFile();  // throws std::bad_alloc
+    ~MemoryFile();
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+
+    int Number() const { return file_.Get(); }
+    std::uint64_t Length() const;  // bytes, as it is now
+    // The first bytes in memory, for reading and writing; null when that is not possible. An
+    // earlier mapping is gone after a longer one was asked for.
+    std::byte* Map(std::uint64_t length);
+
+  private:
+    Descriptor file_;
+    void* bytes_ = nullptr;
+    std::size_t mapped_ = 0;
+};
+
+// Keeps a memory file that is not used any more for the next picture: fresh memory costs as much
+// time as the decoding of a small photo.
+class MemoryFiles {
+  public:
+    // Throws std::bad_alloc.
+    std::unique_ptr<MemoryFile> Take();
+    void GiveBack(std::unique_ptr<MemoryFile> file) { spare_ = std::move(file); }
+    void DropSpare() { spare_.reset(); }
+
+  private:
+    std::unique_ptr<MemoryFile> spare_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/protocol.h"
+
+#include <algorithm>
+
+#include "decoder/picture_limits.h"
+
+namespace varnel {
+
+namespace {
+
+// A picture with no more of its own than a reason or a size.
+bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
+    if (answer.bitmap.width != 0 || answer.bitmap.height != 0 || answer.pitch != 0 ||
+        answer.extrasLength != 0) {
+        return false;
+    }
+    const bool refused = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
+    return refused ||
+           (request.kind == ReadKind::Size &&
+            SizeTrouble(answer.size.width, answer.size.height, request.memory).isEmpty());
+}
+
+bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
+                      std::uint64_t memoryFileLength) {
+    const PixelSize bitmap = answer.bitmap;
+    if (!SizeTrouble(bitmap.width, bitmap.height, request.memory).isEmpty()) {
+        return false;
+    }
+    if (request.kind == ReadKind::Small &&
+        (bitmap.width > request.box.width || bitmap.height > request.box.height)) {
+        return false;
+    }
+    if (request.kind == ReadKind::Whole &&
+        (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
+        return false;
+    }
+    const std::uint32_t pitch = (static_cast<std::uint32_t>(bitmap.width) * 3 + 3) / 4 * 4;
+    return answer.pitch == pitch && answer.extrasLength <= longestExtras &&
+           RowBytes(answer) + answer.extrasLength <= memoryFileLength;
+}
+
+}  // namespace
+
+bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
+                std::uint64_t memoryFileLength) {
+    if (answer.number != request.number || answer.reasonLength > longestReason ||
+        answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded)) {
+        return false;
+    }
+    const bool hasPixels = request.kind != ReadKind::Size &&
+                           answer.outcome != static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
+    return hasPixels ? BelievablePixels(answer, request, memoryFileLength)
+                     : BelievableWithoutPixels(answer, request);
+}
+
+QString ReasonOf(const DecoderAnswer& answer) {
+    const auto length = std::min<std::size_t>(answer.reasonLength, longestReason);
+    QString text = QString::fromUtf8(answer.reason.data(), static_cast<qsizetype>(length));
+    // One line that can stand in a message, whatever a library made of a file's bytes.
+    std::replace_if(
+        text.begin(), text.end(), [](QChar character) { return !character.isPrint(); }, u' ');
+    return text.simplified();
+}
+
+}  // namespace varnel

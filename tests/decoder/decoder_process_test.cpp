@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The decoder as a process: dying, hanging, lying, and leaving nothing behind.
+
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <csignal>
+#include <functional>
+#include <thread>
+
+#include "decoder/decoder_reader.h"
+#include "decoder/protocol.h"
+#include "tests/support/files.h"
+
+namespace varnel {
+namespace {
+
+using testing::PictureFolder;
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QByteArray ProcessStatus(pid_t id) {
+    return testing::Contents(Q("/proc/%1/status").arg(id));
+}
+
+bool SameRows(FIBITMAP* a, FIBITMAP* b) {
+    for (int y = 0; y < SizeOf(a).height; ++y) {
+        if (!std::ranges::equal(ScanLine(a, y), ScanLine(b, y))) {
+            return false;
+        }
+    }
+    return true;
+}
+
+TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
+    const PictureFolder folder;
+    BitmapHandle photo = testing::PositionPicture({300, 200});
+    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "Küste");
+    FreeImage_SetMetadataKeyValue(FIMD_XMP, photo.get(), "XMLPacket", "<x:xmpmeta/>");
+    FreeImage_SetDotsPerMeterX(photo.get(), 11811);
+    QByteArray profile(3000, 'p');
+    profile.replace(16, 4, "RGB ");
+    FreeImage_CreateICCProfile(photo.get(), profile.data(), profile.size());
+    ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Q("a")), 90));
+    const BitmapHandle direct(FreeImage_Load(
+        FIF_JPEG, QFile::encodeName(folder.Path(Q("a"))).constData(), JPEG_ACCURATE));
+    DecoderReader reader({});
+    for (int round = 0; round < 3; ++round) {
+        const LoadedPicture picture = ReadPicture(reader, {folder.Path(Q("a"))});
+        ASSERT_TRUE(picture.bitmap) << picture.reason.toStdString();
+        FIBITMAP* const bitmap = picture.bitmap.get();
+        EXPECT_TRUE(SameRows(bitmap, direct.get()));
+        EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
+        EXPECT_EQ(FreeImage_GetDotsPerMeterX(bitmap), 11811U);
+        EXPECT_EQ(FreeImage_GetICCProfile(bitmap)->size, 3000U);
+        EXPECT_EQ(FreeImage_GetMetadataCount(FIMD_XMP, bitmap), 1U);
+    }
+}
+
+TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
+    const PictureFolder folder;
+    folder.Picture(Q("a"), FIF_PNG);
+    folder.Picture(Q("b"), FIF_PNG, {90, 20});
+    auto reader = std::make_unique<DecoderReader>(ReaderOptions{});
+    const LoadedPicture a = ReadPicture(*reader, {folder.Path(Q("a"))});
+    const LoadedPicture b = ReadPicture(*reader, {folder.Path(Q("b"))});
+    reader.reset();
+    EXPECT_EQ(testing::PixelAt(a.bitmap.get(), 50, 30).rgbBlue, 50);
+    EXPECT_EQ(testing::PixelAt(b.bitmap.get(), 80, 10).rgbBlue, 80);
+}
+
+TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
+    const PictureFolder folder;
+    const QString path = folder.Picture(Q("a.jpg"), FIF_JPEG, {900, 600});
+    DecoderReader reader({});
+    const LoadedPicture whole = ReadPicture(reader, {path});
+    ASSERT_TRUE(whole.bitmap);
+    for (int n = 0; n < 100; ++n) {
+        const pid_t victim = reader.ProcessId();
+        reader.Begin({path});
+        usleep(static_cast<useconds_t>(n * 137 % 10'000));
+        if (reader.ProcessId() == victim) {
+            kill(victim, SIGKILL);
+        }
+        while (!reader.Wait(50)) {
+        }
+        const LoadedPicture picture = reader.Take();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << n << picture.reason.toStdString();
+        EXPECT_TRUE(SameRows(picture.bitmap.get(), whole.bitmap.get()));
+    }
+}
+
+// In place of the decoder: something that does not do as it should.
+QString Impostor(const PictureFolder& folder, const char* script) {
+    const QString path = folder.Path(Q("impostor"));
+    testing::WriteFile(path, QByteArray("#!/bin/sh\n") + script);
+    QFile::setPermissions(path, QFile::Permissions(0x7700));
+    return path;
+}
+
+TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
+    const PictureFolder folder;
+    const QString photo = folder.Picture(Q("a.png"), FIF_PNG);
+    const struct {
+        QString program;
+        const char* reason;
+    } rows[] = {
+        {Impostor(folder, "exec sleep 60\n"), "took too long (more than 1 seconds)"},
+        {folder.Path(Q("none")), "the decoder could not be started ("},
+    };
+    for (const auto& row : rows) {
+        DecoderReader reader({.program = row.program, .secondsPerPhoto = 1});
+        QElapsedTimer timer;
+        timer.start();
+        const LoadedPicture picture = ReadPicture(reader, {photo});
+        EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
+        EXPECT_TRUE(picture.reason.startsWith(Q(row.reason))) << picture.reason.toStdString();
+        EXPECT_LT(timer.elapsed(), 20'000);
+    }
+    const struct {
+        const char* script;
+        const char* reason;
+    } dying[] = {
+        {"sleep 0.3\nkill -SEGV $$\n", "damaged: the decoder died of it (signal 11)"},
+        {"sleep 0.3\nkill -XCPU $$\n", "took too long (more than 30 seconds)"},
+        {"sleep 0.3\nexit 0\n", "damaged: the decoder gave up on it"},
+        {"sleep 0.3\nprintf x >&3\nexec sleep 5\n", "damaged: the decoder gave up on it"},
+    };
+    for (const auto& row : dying) {
+        DecoderReader reader({.program = Impostor(folder, row.script)});
+        EXPECT_EQ(ReadPicture(reader, {photo}).reason.toStdString(), row.reason);
+    }
+}
+
+TEST(DecoderReader, CanBeCancelledAndGoesOnWithTheNextPhoto) {
+    const PictureFolder folder;
+    const QString photo = folder.Picture(Q("a.jpg"), FIF_JPEG, {2000, 1500});
+    DecoderReader reader({});
+    const LoadedPicture given = ReadPicture(reader, {photo}, [] { return false; });
+    EXPECT_TRUE(given.bitmap || given.reason == Q("cancelled"));
+    reader.Begin({photo});
+    reader.Cancel();
+    EXPECT_TRUE(ReadPicture(reader, {photo}).bitmap);
+}
+
+TEST(DecoderReader, LeavesNoProcessBehindAndEndsWithItsParent) {
+    pid_t left = 0;
+    {
+        DecoderReader reader({});
+        left = reader.ProcessId();
+        EXPECT_EQ(kill(left, 0), 0);
+    }
+    EXPECT_NE(kill(left, 0), 0);
+    // A parent that is killed cannot clean up.
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const pid_t parent = fork();
+    if (parent == 0) {
+        DecoderReader reader({});
+        const pid_t id = reader.ProcessId();
+        (void)!write(ends[1], &id, sizeof id);
+        pause();
+    }
+    pid_t orphan = 0;
+    ASSERT_EQ(read(ends[0], &orphan, sizeof orphan), static_cast<ssize_t>(sizeof orphan));
+    usleep(50'000);
+    kill(parent, SIGKILL);
+    waitpid(parent, nullptr, 0);
+    // Gone, or dead and waiting for whoever inherited it.
+    for (int n = 0; n < 100 && !ProcessStatus(orphan).isEmpty() &&
+                    !ProcessStatus(orphan).contains("State:\tZ");
+         ++n) {
+        usleep(50'000);
+    }
+    EXPECT_TRUE(ProcessStatus(orphan).isEmpty() || ProcessStatus(orphan).contains("State:\tZ"));
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST(DecoderReader, MayDoNothingButDecode) {
+    const PictureFolder folder;
+    DecoderReader reader({});
+    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Q("a"), FIF_PNG)}).bitmap);
+    const QByteArray status = ProcessStatus(reader.ProcessId());
+    EXPECT_TRUE(status.contains("NoNewPrivs:\t1")) << status.toStdString();
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    if (prctl(PR_GET_SECCOMP) == 0) {
+        EXPECT_TRUE(status.contains("Seccomp:\t2")) << status.toStdString();
+    }
+#endif
+    const QByteArray limits = testing::Contents(Q("/proc/%1/limits").arg(reader.ProcessId()));
+    EXPECT_TRUE(
+        QString::fromUtf8(limits).contains(QRegularExpression(Q("Max core file size +0 "))));
+}
+
+TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {
+    const PictureFolder folder;
+    const QString path = folder.Path(Q("a.jpg"));
+    const QByteArray one = testing::Contents(folder.Picture(Q("one"), FIF_JPEG, {900, 600}));
+    const QByteArray two = testing::Contents(folder.Picture(Q("two"), FIF_JPEG, {600, 900}));
+    testing::WriteFile(path, one);
+    DecoderReader reader({});
+    for (int n = 0; n < 30; ++n) {
+        reader.Begin({path});
+        usleep(static_cast<useconds_t>(n * 211 % 6000));
+        if (n % 3 == 0) {
+            QFile::resize(path, one.size() / 2);
+        } else {
+            testing::WriteFile(path + u'n', n % 2 == 0 ? one : two);
+            ASSERT_EQ(rename(QFile::encodeName(path + u'n'), QFile::encodeName(path)), 0);
+        }
+        while (!reader.Wait(50)) {
+        }
+        const LoadedPicture picture = reader.Take();
+        EXPECT_EQ(picture.reason.isEmpty(), picture.outcome == LoadOutcome::Loaded);
+        if (picture.bitmap) {
+            const PixelSize size = SizeOf(picture.bitmap.get());
+            EXPECT_EQ(size.width * size.height, 900 * 600);
+        }
+    }
+}
+
+// Each row spoils one number of an answer that is believed.
+TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
+    const DecoderRequest request{7, ReadKind::Whole, {}, std::uint64_t{1} << 32, 30};
+    DecoderAnswer good;
+    good.number = 7;
+    good.size = good.bitmap = {101, 50};
+    good.pitch = 304;
+    good.extrasLength = 20;
+    constexpr std::uint64_t length = 304 * 50 + 20;
+    ASSERT_TRUE(Believable(good, request, length));
+    ASSERT_FALSE(Believable(good, request, length - 1));
+    const std::function<void(DecoderAnswer&)> spoil[] = {
+        [](DecoderAnswer& a) { a.number = 6; },
+        [](DecoderAnswer& a) { a.outcome = 3; },
+        [](DecoderAnswer& a) { a.outcome = 2; },  // nothing loaded, and yet pixels
+        [](DecoderAnswer& a) { a.bitmap = {}; },
+        [](DecoderAnswer& a) { a.bitmap.height = -50; },
+        [](DecoderAnswer& a) { a.size.width = 102; },
+        [](DecoderAnswer& a) {
+            a.size = a.bitmap = {101, 51};
+        },
+        [](DecoderAnswer& a) {
+            a.size = a.bitmap = {40'000, 1};
+        },
+        [](DecoderAnswer& a) { a.pitch = 303; },
+        [](DecoderAnswer& a) { a.pitch = 0x80000130; },
+        [](DecoderAnswer& a) { a.extrasLength = 21; },
+        [](DecoderAnswer& a) { a.extrasLength = ~std::uint64_t{0} - 15'000; },
+        [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; }};
+    for (std::size_t n = 0; n < std::size(spoil); ++n) {
+        DecoderAnswer spoilt = good;
+        spoil[n](spoilt);
+        EXPECT_FALSE(Believable(spoilt, request, length)) << n;
+    }
+    DecoderRequest small = request;
+    small.kind = ReadKind::Small;
+    small.box = {100, 100};
+    EXPECT_FALSE(Believable(good, small, length));
+    small.kind = ReadKind::Size;
+    EXPECT_FALSE(Believable(good, small, length));
+}
+
+TEST(TakeExtras, GivesWhatIsSoundOfAnyBytes) {
+    BitmapHandle photo = testing::PositionPicture({4, 4});
+    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "text");
+    FreeImage_SetMetadataKeyValue(FIMD_EXIF_MAIN, photo.get(), "Make", "maker");
+    const QByteArray block = PackExtras(photo.get());
+    for (qsizetype length = 0; length < block.size(); ++length) {
+        const BitmapHandle cut = testing::PositionPicture({4, 4});
+        TakeExtras(block.left(length), cut.get());
+        EXPECT_LT(FreeImage_GetMetadataCount(FIMD_COMMENTS, cut.get()) +
+                      FreeImage_GetMetadataCount(FIMD_EXIF_MAIN, cut.get()),
+                  2U);
+    }
+    for (qsizetype place = 8; place < block.size(); ++place) {  // after the resolution
+        for (const char value : {'\0', '\x7F', '\xFF'}) {
+            QByteArray spoilt = block;
+            spoilt[place] = value;
+            const BitmapHandle taken = testing::PositionPicture({4, 4});
+            TakeExtras(spoilt, taken.get());
+            EXPECT_LE(PackExtras(taken.get()).size(), block.size());
+        }
+    }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/picture_reader.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+
+#include "tests/support/files.h"
+#include "tests/support/loading.h"
+
+namespace varnel {
+namespace {
+
+using testing::LoadPicture;
+using testing::PictureFolder;
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+PixelSize SizeAt(const QString& path) {
+    return ReadPicture(testing::Reader(), {path, ReadKind::Size, {}}).size;
+}
+
+TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
+    const PictureFolder folder;
+    for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
+        const QString path = folder.Picture(Q("Küste %1.jpg").arg(format), format);
+        const LoadedPicture picture = LoadPicture(path);
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
+        EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
+        EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
+        EXPECT_EQ(SizeAt(path).height, 40);
+        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).rgbGreen, 25, 4);
+    }
+}
+
+TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
+    const PictureFolder folder;
+    ASSERT_EQ(mkfifo(QFile::encodeName(folder.Path(Q("pipe.jpg"))).constData(), 0600), 0);
+    QFile::link(folder.Path(Q("gone")), folder.Path(Q("link.jpg")));
+    QFile::link(folder.Path(Q("loop.jpg")), folder.Path(Q("loop.jpg")));
+    const BitmapHandle wide(FreeImage_Allocate(32768, 1, 8));
+    FreeImage_Save(FIF_PNG, wide.get(), QFile::encodeName(folder.Path(Q("wide.png"))).constData());
+    folder.Text(Q("text.jpg"));
+    folder.Empty(Q("empty.jpg"));
+    const std::pair<const char*, const char*> rows[] = {
+        {"none.jpg", "there is no such file"},
+        {"", "this is a folder, not a picture"},
+        {"pipe.jpg", "this is no regular file"},
+        {"link.jpg", "the link leads nowhere"},
+        {"loop.jpg", "the link leads nowhere"},
+        {"empty.jpg", "the file is empty"},
+        {"text.jpg", "this is not a picture of a known type"},
+        {"wide.png", "too large: 32768 x 1 pixels, a side may have 32767"}};
+    for (const auto& [name, reason] : rows) {
+        for (const ReadKind kind : {ReadKind::Whole, ReadKind::Size, ReadKind::Small}) {
+            const LoadedPicture picture =
+                ReadPicture(testing::Reader(), {folder.Path(Q(name)), kind, {108, 72}});
+            EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << name;
+            EXPECT_EQ(picture.reason.toStdString(), reason);
+            EXPECT_FALSE(picture.bitmap);
+        }
+    }
+}
+
+TEST(PictureReader, AFileWithoutPermissionSaysSo) {
+    const PictureFolder folder;
+    const QString path = folder.Picture(Q("secret.png"), FIF_PNG);
+    QFile::setPermissions(path, {});
+    QFile::setPermissions(folder.Path({}), QFile::Permissions(0x7755));
+    EXPECT_EXIT(
+        {
+            // The superuser may read everything, so become somebody else.
+            if (geteuid() == 0 && setuid(65534) != 0) {
+                std::_Exit(2);
+            }
+            const QString reason = ReadPicture(*NewPictureReader(), {path}).reason;
+            std::_Exit(reason == Q("no permission to read it") ? 0 : 1);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+TEST(PictureReader, SmallPicturesFitTheBoxWithTheirLowerRowsBelow) {
+    const PictureFolder folder;
+    const std::pair<PixelSize, PixelSize> cases[] = {
+        {{1080, 720}, {108, 72}}, {{720, 1080}, {48, 72}}, {{60, 40}, {60, 40}}};
+    for (const auto& [size, expected] : cases) {
+        const BitmapHandle halves = testing::Painted(size, [&, height = size.height](int, int y) {
+            return y < height / 2 ? RGBQUAD{250, 0, 0, 0} : RGBQUAD{0, 0, 250, 0};
+        });
+        for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG}) {
+            const QString path = folder.Path(Q("halves"));
+            SaveBitmap(format, halves.get(), path, 0);
+            const BitmapHandle small =
+                ReadPicture(testing::Reader(), {path, ReadKind::Small, {108, 72}}).bitmap;
+            ASSERT_TRUE(small);
+            EXPECT_EQ(SizeOf(small.get()).width, expected.width);
+            EXPECT_EQ(SizeOf(small.get()).height, expected.height);
+            EXPECT_GT(testing::PixelAt(small.get(), 5, 5).rgbBlue, 200);
+            EXPECT_GT(testing::PixelAt(small.get(), 5, expected.height - 5).rgbRed, 200);
+        }
+    }
+}
+
+TEST(TakeSize, LandscapeIsWidthAtLeastHeight) {
+    for (const auto& [width, height, landscape] :
+         {std::tuple{60, 40, true}, {40, 60, false}, {50, 50, true}}) {
+        ImageRecord image;
+        TakeSize({width, height}, image);
+        EXPECT_EQ(image.Width, width);
+        EXPECT_EQ(image.Height, height);
+        EXPECT_EQ(image.Landscape, landscape);
+    }
+}
+
+}  // namespace
+}  // namespace varnel

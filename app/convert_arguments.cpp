@@ -7,14 +7,18 @@
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
 #include "gear/gear_store.h"
+#include "state/telling_store.h"
 
 namespace varnel {
 
 int ConvertArguments(const QStringList& files, SettingsStore& store, QDate today,
                      const Console& console) {
+    ConsoleNotices notices(console);
+    TellOf(store, notices);
     if (const auto reminder = CheckRevisionAge(store, today)) {
         console.err << LocalText(*reminder) << std::endl;
     }
+    TellOf(store, notices);
     const GeneralSettings settings = LoadSettings(store);
     const auto gear = DefaultGear(StoredGears(store));
     if (!gear) {

@@ -13,9 +13,11 @@
 #include "app/console_start.h"
 #include "app/main_window.h"
 #include "app/message_boxes.h"
+#include "app/reading_box.h"
 #include "app/real_dialogs.h"
 #include "app/revision_age.h"
 #include "cli/console.h"
+#include "state/telling_store.h"
 
 namespace {
 
@@ -29,8 +31,10 @@ QStringList Absolute(const QStringList& files) {
     return paths;
 }
 
-int RunWindow(QApplication& application, const QStringList& files, SettingsStore& store) {
+int RunWindow(QApplication& application, const QStringList& files, SettingsStore& userStore) {
     MessageBoxes notices;
+    TellOf(userStore, notices);
+    TellingStore store(userStore, notices);
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
     if (const std::optional<QString> reminder = CheckRevisionAge(store, QDate::currentDate())) {
@@ -38,20 +42,25 @@ int RunWindow(QApplication& application, const QStringList& files, SettingsStore
     }
     WorkingState state;
     state.settings = LoadSettings(store);
-    RealDialogs dialogs(state, store, notices, fileChooser);
-    MDIForm1 window(state, store, {notices, gearPrompt, fileChooser, dialogs});
+    const auto reader = NewPictureReader();
+    ReadingBox wait;
+    PhotoLoader photos(*reader, &wait);
+    RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
+    MDIForm1 window(state, store, {photos, notices, gearPrompt, fileChooser, dialogs});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     window.OpenAtStart(Absolute(files));
     window.show();
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    TellOf(store, notices);  // the window's layout is saved last
+    return exitCode;
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
     UseUtf8Locale();
-    const auto store = OpenUserStore();
+    const auto store = OpenUserStore(QDateTime::currentDateTime());
     const auto start =
         StartOnConsole(ArgumentTexts(argc, argv), *store, QDate::currentDate(),
                        {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1, "varnel"});

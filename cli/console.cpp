@@ -19,6 +19,10 @@ void Complain(const Console& console, const QString& text) {
     console.err << console.program << ": " << LocalText(text) << "\n";
 }
 
+void ConsoleNotices::Tell(const QString& text, const QString& detail) {
+    Complain(console_, detail.isEmpty() ? text : text + QStringLiteral(": ") + detail);
+}
+
 int Refuse(const Console& console, const QString& text) {
     Complain(console, text);
     return exitUsage;

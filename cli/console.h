@@ -8,6 +8,8 @@
 #include <ostream>
 #include <string>
 
+#include "state/notices.h"
+
 namespace varnel {
 
 inline constexpr int exitAllWritten = 0;
@@ -25,6 +27,16 @@ std::string LocalText(const QString& text);
 
 // One line on err, led by the program's name.
 void Complain(const Console& console, const QString& text);
+
+// Notices where there is no window.
+class ConsoleNotices : public Notices {
+  public:
+    explicit ConsoleNotices(const Console& console) : console_(console) {}
+    void Tell(const QString& text, const QString& detail) override;
+
+  private:
+    const Console& console_;
+};
 
 // Complains about what the command line asks for; returns exitUsage.
 int Refuse(const Console& console, const QString& text);

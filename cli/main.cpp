@@ -9,11 +9,16 @@
 #include <iostream>
 
 #include "cli/convert.h"
+#include "state/telling_store.h"
 
 int main(int argc, char* argv[]) {
     varnel::UseUtf8Locale();
     const QCoreApplication application(argc, argv);
-    const auto store = varnel::OpenUserStore();
-    return varnel::RunConvert(QCoreApplication::arguments(), *store,
-                              {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1});
+    const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1};
+    varnel::ConsoleNotices notices(console);
+    const auto store = varnel::OpenUserStore(QDateTime::currentDateTime());
+    varnel::TellOf(*store, notices);
+    const int exitCode = varnel::RunConvert(QCoreApplication::arguments(), *store, console);
+    varnel::TellOf(*store, notices);
+    return exitCode;
 }

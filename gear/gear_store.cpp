@@ -14,11 +14,21 @@ namespace varnel {
 
 namespace {
 
-constexpr int mostGears = 10000;  // a damaged count must not fill the memory
+// What a stored number may be and still give a picture; the editor's sliders span less. Anything
+// else comes from damage or from a slip of the hand, and the catalogue's number stays: the remap
+// divides by the ratio and by the angle.
+struct UsableRange {
+    float least;
+    float most;
+    bool Holds(float number) const { return number >= least && number <= most; }
+};
+constexpr UsableRange usableOfset{-1000.0F, 1000.0F};  // thousandths: one picture's width or height
+constexpr UsableRange usableRatio{1.0F, 1000.0F};      // percent of the image circle's diameter
+constexpr UsableRange usableAov{1.0F, 360.0F};         // degrees
 
 int ReadGearCount(const SettingsStore& store) {
     const int count = ReadWhole(store, setting::Gear, setting::NumGear, 1);
-    return count < 0 ? 1 : std::min(count, mostGears);
+    return count < 0 ? 1 : std::min(count, setting::mostGears);
 }
 
 // The gear's version as stored; 0, which every release wrote first, for anything else.
@@ -41,16 +51,17 @@ void ReadNames(const SettingsStore& store, int n, GearRecord& gear) {
 }
 
 void ReadAdjustments(const SettingsStore& store, int n, GearRecord& gear) {
-    const auto read = [&](QLatin1StringView name, float& number) {
-        number = ReadFloat(store, setting::Gear, setting::ItemKey(name, n), number);
+    const auto read = [&](QLatin1StringView name, const UsableRange& range, float& number) {
+        const float stored = ReadFloat(store, setting::Gear, setting::ItemKey(name, n), number);
+        number = range.Holds(stored) ? stored : number;
     };
-    read(setting::GearOfsetX, gear.OfsetX);
-    read(setting::GearOfsetY, gear.OfsetY);
-    read(setting::GearRatio, gear.GearRatio);
+    read(setting::GearOfsetX, usableOfset, gear.OfsetX);
+    read(setting::GearOfsetY, usableOfset, gear.OfsetY);
+    read(setting::GearRatio, usableRatio, gear.GearRatio);
     gear.LensFieldAngle = 180.0F;
-    read(setting::HorizontalAov, gear.hAOV);
+    read(setting::HorizontalAov, usableAov, gear.hAOV);
     // Meant so: the vertical angle is written but never read back, the horizontal one serves twice.
-    read(setting::HorizontalAov, gear.vAOV);
+    read(setting::HorizontalAov, usableAov, gear.vAOV);
 }
 
 void ReadGear(const SettingsStore& store, int n, GearRecord& gear) {

@@ -35,6 +35,7 @@ inline constexpr QLatin1StringView LastPath("LastPath");
 // The gear table.
 inline constexpr QLatin1StringView NumGear("NumGear");
 inline constexpr QLatin1StringView DefaultGearName("DefaultGearName");
+inline constexpr int mostGears = 10000;  // are loaded: a damaged count must not fill the memory
 
 // One gear each, followed by the gear's number.
 inline constexpr QLatin1StringView GearName("GearName");

@@ -3,39 +3,132 @@
 
 #include "state/settings_store.h"
 
-#include <QSettings>
-#include <QStringList>
-#include <QVariant>
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QStandardPaths>
+#include <utility>
+
+#include "state/settings_guard.h"
+#include "state/settings_text.h"
 
 namespace varnel {
 
 namespace {
 
-class UserStore : public SettingsStore {
-  public:
-    UserStore()
-        : settings_(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Varnel"),
-                    QStringLiteral("Varnel")) {
-        // Only this user's own settings count, not those of the whole machine.
-        settings_.setFallbacksEnabled(false);
+constexpr int longestWait = 5000;  // ms for another process to finish writing
+
+QString WhyNotLocked(const QLockFile& lock) {
+    switch (lock.error()) {
+        case QLockFile::PermissionError:
+            return QStringLiteral("Permission denied");
+        case QLockFile::LockFailedError:
+            return QStringLiteral("another program keeps them locked");
+        default:
+            return QStringLiteral("no file can be made in the folder");
     }
+}
+
+class FileStore : public SettingsStore {
+  public:
+    FileStore(QString path, QDateTime now) : path_(std::move(path)), now_(std::move(now)) {
+        SettingsFile file = LookAtSettings(path_);
+        if (!file.IsWhole() || !file.CopyIsFresh()) {
+            QLockFile lock(LockName());
+            const bool isLocked = lock.tryLock(longestWait);
+            file = LookAtSettings(path_);  // another process may have mended it
+            values_ = Take(file, isLocked);
+        } else {
+            values_ = file.reading.values;
+        }
+    }
+    FileStore(const FileStore&) = delete;
+    FileStore& operator=(const FileStore&) = delete;
+    ~FileStore() override { Write(); }
 
     QString Get(const QString& section, const QString& key,
                 const QString& fallback) const override {
-        const QVariant value = settings_.value(Path(section, key), fallback);
-        // A comma that was typed into the file without quotes makes the value a list.
-        return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u',')
-                                                        : value.toString();
+        const QString* const found = values_.Find(section, key);
+        return found == nullptr ? fallback : *found;
     }
 
     void Save(const QString& section, const QString& key, const QString& value) override {
-        settings_.setValue(Path(section, key), value);
+        values_.Set(section, key, value);
+        changed_.Set(section, key, value);
+    }
+
+    QStringList Settle() override {
+        Write();
+        return std::exchange(toTell_, {});
     }
 
   private:
-    static QString Path(const QString& section, const QString& key) { return section + u'/' + key; }
+    QString LockName() const { return path_ + QStringLiteral(".lock"); }
 
-    QSettings settings_;
+    // The file's values after whatever has to be done about its damage and its copy.
+    SettingsValues Take(const SettingsFile& file, bool isLocked) {
+        if (!file.IsWhole()) {
+            const RescuedSettings rescued = RescueSettings(path_, file, values_, isLocked, now_);
+            toTell_.append(rescued.told);
+            return rescued.values;
+        }
+        if (isLocked && !file.CopyIsFresh()) {
+            // Without a fresh copy nothing is lost yet, so a failure is not told.
+            WriteSettingsFile(CopyOf(path_), file.bytes);
+        }
+        // A file that went away during the run is made again from what is known.
+        return file.exists ? file.reading.values : values_;
+    }
+
+    void Write() {
+        if (changed_.Empty()) {
+            return;
+        }
+        const QString reason = TryToWrite();
+        if (!reason.isEmpty() && !std::exchange(isToldUnwritable_, true)) {
+            toTell_.append(QStringLiteral("%1: the settings cannot be written (%2); "
+                                          "changes last only until the program ends")
+                               .arg(path_, reason));
+        }
+    }
+
+    // The reason when it fails; what was changed is then tried again the next time.
+    QString TryToWrite() {
+        const QString folder = QFileInfo(path_).path();
+        if (!QDir().mkpath(folder)) {
+            return QStringLiteral("the folder cannot be made");
+        }
+        QLockFile lock(LockName());
+        if (!lock.tryLock(longestWait)) {
+            return WhyNotLocked(lock);
+        }
+        const SettingsFile file = LookAtSettings(path_);
+        if (!file.canBeRead) {
+            return file.reason;  // and what cannot be read is not replaced
+        }
+        SettingsValues merged = Take(file, true);
+        merged.Merge(changed_);
+        const QByteArray bytes = SettingsText(merged);
+        if (bytes != file.bytes) {
+            const QString reason = WriteSettingsFile(path_, bytes);
+            if (!reason.isEmpty()) {
+                return reason;
+            }
+        }
+        values_ = std::move(merged);
+        changed_ = {};
+        if (HoldsGear(values_) && bytes != file.copyBytes) {
+            WriteSettingsFile(CopyOf(path_), bytes);
+        }
+        return {};
+    }
+
+    QString path_;
+    QDateTime now_;
+    SettingsValues values_;
+    SettingsValues changed_;  // not yet written
+    QStringList toTell_;
+    bool isToldUnwritable_ = false;
 };
 
 }  // namespace
@@ -54,8 +147,13 @@ bool MemoryStore::Contains(const QString& section, const QString& key) const {
     return values_.contains({section, key});
 }
 
-std::unique_ptr<SettingsStore> OpenUserStore() {
-    return std::make_unique<UserStore>();
+std::unique_ptr<SettingsStore> OpenFileStore(const QString& path, const QDateTime& now) {
+    return std::make_unique<FileStore>(path, now);
+}
+
+std::unique_ptr<SettingsStore> OpenUserStore(const QDateTime& now) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return OpenFileStore(folder + QStringLiteral("/Varnel/Varnel.conf"), now);
 }
 
 }  // namespace varnel

@@ -4,7 +4,9 @@
 // Where settings are kept between runs: texts under a section and a key of the application Varnel.
 #pragma once
 
+#include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 #include <map>
 #include <memory>
@@ -19,6 +21,9 @@ class SettingsStore {
     virtual QString Get(const QString& section, const QString& key,
                         const QString& fallback) const = 0;
     virtual void Save(const QString& section, const QString& key, const QString& value) = 0;
+    // Makes what was saved last beyond this run, and returns what the user has to be told about the
+    // store since the last call: each event once.
+    virtual QStringList Settle() { return {}; }
 };
 
 // Keeps everything in memory.
@@ -32,8 +37,12 @@ class MemoryStore : public SettingsStore {
     std::map<std::pair<QString, QString>, QString> values_;
 };
 
-// The platform's store for this user; on Linux the file Varnel/Varnel.conf in the configuration
-// folder. A section is its group, a key stands as it is.
-std::unique_ptr<SettingsStore> OpenUserStore();
+// The store of this user: the file Varnel/Varnel.conf in the configuration folder, on Linux
+// $XDG_CONFIG_HOME or ~/.config. A section is its group, a key stands as it is. What other
+// processes save meanwhile stays, key by key; the last writer of a key wins. Damage does not lose
+// gears (see settings_guard.h); the moment dates a damaged file's name. Where nothing can be
+// written the values last for this run. Settled when it is closed, too.
+std::unique_ptr<SettingsStore> OpenUserStore(const QDateTime& now);
+std::unique_ptr<SettingsStore> OpenFileStore(const QString& path, const QDateTime& now);
 
 }  // namespace varnel

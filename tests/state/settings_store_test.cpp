@@ -6,26 +6,23 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include "state/general_settings.h"
 #include "state/setting_names.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Text(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 // A settings folder of its own for each test.
-class UserStoreTest : public testing::Test {
+class UserStoreTest : public ::testing::Test {
   protected:
-    void SetUp() override {
-        ASSERT_TRUE(folder_.isValid());
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
-    }
+    void SetUp() override { qputenv("XDG_CONFIG_HOME", folder_.path().toUtf8()); }
+    void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
+    std::unique_ptr<SettingsStore> Open() const { return OpenUserStore(QDateTime()); }
     QString FilePath() const { return folder_.filePath(QStringLiteral("Varnel/Varnel.conf")); }
 
   private:
@@ -33,33 +30,51 @@ class UserStoreTest : public testing::Test {
 };
 
 TEST_F(UserStoreTest, WritesSectionsAsGroupsAndKeysAsTheyStand) {
-    OpenUserStore()->Save(setting::Gear, setting::ItemKey(setting::GearName, 12), Text("My gear"));
+    Open()->Save(setting::Gear, setting::ItemKey(setting::GearName, 12), Text("My gear"));
     QFile file(FilePath());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), "[Gear]\nGearName12=My gear\n");
+    EXPECT_TRUE(file.readAll().contains("\n[Gear]\nGearName12=My gear\n"));
+    EXPECT_EQ(file.permissions() & (QFileDevice::ReadGroup | QFileDevice::ReadOther), 0);
 }
 
 TEST_F(UserStoreTest, ReadsBackEveryTextAndTellsSectionsApart) {
     const char* const texts[] = {"118,125",          "a, b; c", "@odd", "",
                                  "caf\u00E9 \u2030", "50%",     "true", "C:\\x"};
     for (const char* text : texts) {
-        OpenUserStore()->Save(Text("setting"), Text("Name"), Text(text));
-        OpenUserStore()->Save(Text("Settings"), Text("Name"), Text("other"));
-        const auto store = OpenUserStore();
+        Open()->Save(Text("setting"), Text("Name"), Text(text));
+        Open()->Save(Text("Settings"), Text("Name"), Text("other"));
+        const auto store = Open();
         EXPECT_EQ(store->Get(Text("setting"), Text("Name"), Text("fallback")), Text(text));
         EXPECT_EQ(store->Get(Text("Settings"), Text("Name"), Text("fallback")), Text("other"));
     }
-    EXPECT_EQ(OpenUserStore()->Get(Text("setting"), Text("Missing"), Text("fallback")),
-              Text("fallback"));
+    EXPECT_EQ(Open()->Get(Text("setting"), Text("Missing"), Text("fallback")), Text("fallback"));
 }
 
 TEST_F(UserStoreTest, JoinsACommaThatWasTypedWithoutQuotes) {
-    OpenUserStore()->Save(setting::Gear, Text("other"), Text("x"));
+    Open()->Save(setting::Gear, Text("other"), Text("x"));
     QFile file(FilePath());
     ASSERT_TRUE(file.open(QIODevice::Append));
     file.write("hAOV1=118,125\n");
     file.close();
-    EXPECT_EQ(OpenUserStore()->Get(setting::Gear, Text("hAOV1"), Text("0")), Text("118,125"));
+    EXPECT_EQ(Open()->Get(setting::Gear, Text("hAOV1"), Text("0")), Text("118,125"));
+}
+
+TEST_F(UserStoreTest, KeepsTheKeysThatAnotherProcessSavesMeanwhile) {
+    const auto first = Open();
+    const auto second = Open();
+    first->Save(Text("s"), Text("a"), Text("1"));
+    first->Save(Text("s"), Text("b"), Text("1"));
+    second->Save(Text("s"), Text("b"), Text("2"));
+    second->Save(Text("s"), Text("c"), Text("2"));
+    EXPECT_EQ(first->Settle(), QStringList());
+    EXPECT_EQ(second->Settle(), QStringList());
+    EXPECT_EQ(second->Get(Text("s"), Text("a"), {}), Text("1"));
+    first->Save(Text("s"), Text("d"), Text("1"));
+    first->Settle();
+    const auto third = Open();
+    for (const auto& [key, text] : {std::pair("a", "1"), {"b", "2"}, {"c", "2"}, {"d", "1"}}) {
+        EXPECT_EQ(third->Get(Text("s"), Text(key), {}), Text(text)) << key;
+    }
 }
 
 TEST(MemoryStore, KeepsTheLastTextOfEachSectionAndKey) {

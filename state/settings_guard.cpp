@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/settings_guard.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "state/number_text.h"
+#include "state/setting_names.h"
+#include "state/whole_file.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+constexpr int mostNames = 1000;  // of damaged files within one second
+
+const QString* FindGear(const SettingsValues& values, QLatin1StringView name, int n) {
+    return values.Find(setting::Gear, setting::ItemKey(name, n));
+}
+
+int CountedGears(const SettingsValues& values) {
+    const QString* const count = values.Find(setting::Gear, setting::NumGear);
+    return count == nullptr ? 0 : WholeFromText(*count).value_or(0);
+}
+
+// The highest number of a gear of which a name is left. Gears beyond the count were deleted and
+// do not come back, unless the count itself is gone.
+int LastGear(const SettingsValues& values) {
+    const int counted = CountedGears(values);
+    int last = 0;
+    for (const auto& [name, text] : values.InOrder()) {
+        for (const QLatin1StringView part : {setting::GearName, setting::GearCameraModel}) {
+            if (name.first == setting::Gear && name.second.startsWith(part)) {
+                const int n = QStringView(name.second).sliced(part.size()).toInt();
+                last = n <= counted || counted == 0 ? std::max(last, n) : last;
+            }
+        }
+    }
+    return std::min(last, setting::mostGears);
+}
+
+struct FileBytes {
+    bool exists = false;
+    QByteArray bytes;
+    QString reason;  // why it cannot be read
+};
+
+FileBytes ReadFile(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return {};
+    }
+    if (!info.isFile()) {  // a pipe would be waited for
+        return {true, {}, QStringLiteral("Not a regular file")};
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {true, {}, file.errorString()};
+    }
+    const QByteArray bytes = file.readAll();
+    return {true, bytes, file.error() == QFileDevice::NoError ? QString() : file.errorString()};
+}
+
+QString FreeName(const QString& path, const QDateTime& now) {
+    const QString dated =
+        path + QStringLiteral(".damaged-") + now.toString(QStringLiteral("yyyy-MM-ddTHH-mm-ss"));
+    QString name = dated;
+    for (int n = 2; QFileInfo(name).exists() && n < mostNames; ++n) {
+        name = QStringLiteral("%1-%2").arg(dated).arg(n);
+    }
+    return name;
+}
+
+// Puts the bytes under a dated name and returns it; empty when that fails.
+QString SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now) {
+    const QString name = FreeName(path, now);
+    if (QFileInfo::exists(name) || !WriteSettingsFile(name, bytes).isEmpty()) {
+        return {};
+    }
+    return name;
+}
+
+// No bytes, no file.
+void Replace(const QString& path, const QByteArray& bytes) {
+    if (bytes.isEmpty()) {
+        QFile::remove(path);
+    } else {
+        WriteSettingsFile(path, bytes);
+    }
+}
+
+}  // namespace
+
+QString CopyOf(const QString& path) {
+    return path + QStringLiteral(".copy");
+}
+
+bool HoldsGear(const SettingsValues& values) {
+    const QString* const name = FindGear(values, setting::GearName, 1);
+    const QString* const byDefault = values.Find(setting::Gear, setting::DefaultGearName);
+    return name != nullptr && !name->isEmpty() && byDefault != nullptr && !byDefault->isEmpty();
+}
+
+QString GearDamage(const SettingsValues& values) {
+    const int count = CountedGears(values);
+    for (int n = 1; n <= count; ++n) {
+        if (FindGear(values, setting::GearName, n) == nullptr) {
+            return QStringLiteral("gear %1 of %2 is missing").arg(n).arg(count);
+        }
+    }
+    const QString* const byDefault = values.Find(setting::Gear, setting::DefaultGearName);
+    const bool isLost = count > 0 && (byDefault == nullptr || byDefault->isEmpty());
+    return isLost ? QStringLiteral("the default gear is missing") : QString();
+}
+
+void MendGears(SettingsValues& values) {
+    const int last = LastGear(values);
+    if (last == 0) {
+        // A first run: whatever is left of it, there is no gear to find.
+        values.Remove(setting::Gear, setting::NumGear);
+        values.Remove(setting::Gear, setting::DefaultGearName);
+        return;
+    }
+    values.Set(setting::Gear, setting::NumGear, QString::number(last));
+    for (int n = 1; n <= last; ++n) {
+        const QString* const name = FindGear(values, setting::GearName, n);
+        if (name == nullptr || name->isEmpty()) {
+            values.Set(setting::Gear, setting::ItemKey(setting::GearName, n),
+                       QStringLiteral("Gear %1").arg(n));
+        }
+    }
+    if (!HoldsGear(values)) {
+        const QString first = *FindGear(values, setting::GearName, 1);
+        values.Set(setting::Gear, setting::DefaultGearName, first);
+    }
+}
+
+SettingsFile LookAtSettings(const QString& path) {
+    SettingsFile file;
+    const FileBytes copy = ReadFile(CopyOf(path));
+    file.copyBytes = copy.bytes;
+    const auto read = [](const QByteArray& bytes) {
+        SettingsReading reading = ReadSettingsText(bytes);
+        if (reading.damage.isEmpty()) {
+            reading.damage = GearDamage(reading.values);
+        }
+        return reading;
+    };
+    file.copy = read(file.copyBytes);
+    const FileBytes own = ReadFile(path);
+    file.exists = own.exists;
+    file.canBeRead = own.reason.isEmpty();
+    file.reason = own.reason;
+    file.bytes = own.bytes;
+    if (file.exists && file.canBeRead) {
+        file.reading = read(file.bytes);
+        // The last lines are gone, though it may have ended anywhere: a file of an older release.
+        if (file.reading.damage.isEmpty() && file.CopyServes() &&
+            file.bytes.size() < file.copyBytes.size() && file.copyBytes.startsWith(file.bytes)) {
+            file.reading.damage = QStringLiteral("cut short");
+        }
+    }
+    return file;
+}
+
+QString WriteSettingsFile(const QString& path, const QByteArray& bytes) {
+    const bool isNew = !QFileInfo::exists(path);
+    const WriteResult written = WriteWholeFile(path, bytes);
+    if (written && isNew) {
+        QFile::setPermissions(path, ownerOnly);
+    }
+    return written ? QString() : written.reason;
+}
+
+RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
+                               const SettingsValues& known, bool mayWrite, const QDateTime& now) {
+    RescuedSettings rescued;
+    const bool byCopy = file.CopyServes();
+    rescued.values = byCopy ? file.copy.values : known;
+    if (!file.canBeRead) {
+        rescued.told = QStringLiteral("%1: the settings cannot be read (%2); %3")
+                           .arg(path, file.reason,
+                                byCopy ? QStringLiteral("their last good copy is used")
+                                       : QStringLiteral("they count as never made"));
+        return rescued;
+    }
+    if (!byCopy && !HoldsGear(known)) {
+        rescued.values = file.reading.values;
+        MendGears(rescued.values);
+    }
+    const QString aside = mayWrite ? SetAside(path, file.bytes, now) : QString();
+    const QByteArray better = byCopy                   ? file.copyBytes
+                              : rescued.values.Empty() ? QByteArray()
+                                                       : SettingsText(rescued.values);
+    if (!aside.isEmpty()) {
+        Replace(path, better);  // when that fails, so will the next save, and that one tells
+    }
+    rescued.told =
+        QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
+            .arg(path, file.reading.damage,
+                 byCopy ? QStringLiteral("their last good copy is used")
+                        : QStringLiteral("there is no copy of them, what could be read is used"),
+                 aside.isEmpty()
+                     ? QStringLiteral("could not be set aside")
+                     : QStringLiteral("is kept as %1").arg(QFileInfo(aside).fileName()));
+    return rescued;
+}
+
+}  // namespace varnel

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/telling_store.h"
+
+namespace varnel {
+
+void TellOf(SettingsStore& store, Notices& notices) {
+    for (const QString& text : store.Settle()) {
+        notices.Tell(text, {});
+    }
+}
+
+TellingStore::TellingStore(SettingsStore& store, Notices& notices) : store_(store) {
+    soon_.setSingleShot(true);
+    QObject::connect(&soon_, &QTimer::timeout, &soon_,
+                     [this, &notices] { TellOf(store_, notices); });
+}
+
+QString TellingStore::Get(const QString& section, const QString& key,
+                          const QString& fallback) const {
+    return store_.Get(section, key, fallback);
+}
+
+void TellingStore::Save(const QString& section, const QString& key, const QString& value) {
+    store_.Save(section, key, value);
+    soon_.start(0);
+}
+
+QStringList TellingStore::Settle() {
+    return store_.Settle();
+}
+
+}  // namespace varnel

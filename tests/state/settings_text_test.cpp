@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/settings_text.h"
+
+#include <gtest/gtest.h>
+
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "tests/support/texts.h"
+
+namespace varnel {
+namespace {
+
+using testing::Text;
+
+const char* const oddTexts[] = {"118,125",
+                                "a, b; c",
+                                "@odd",
+                                "@@",
+                                "",
+                                "caf\u00E9 \u2030",
+                                "50%",
+                                "C:\\x",
+                                "\" quoted\"",
+                                " both ",
+                                "\t",
+                                "a\nb\rc",
+                                "\x01"
+                                "f\x02g",
+                                "= [x] ;",
+                                "\\",
+                                "; none",
+                                "\u0661",
+                                "%41",
+                                "\\x41",
+                                "'",
+                                "#",
+                                "\U0001F4F7",
+                                "\u001F9"};
+
+TEST(SettingsText, IsWhatQSettingsReadsAndWrites) {
+    const QTemporaryDir folder;
+    SettingsValues values;
+    int n = 0;
+    for (const char* const text : oddTexts) {
+        values.Set(Text("a section \u20AC"), Text("key %1 \u00E9").arg(++n), Text(text));
+        values.Set(Text("General"), Text("key%1").arg(n), Text(text));
+    }
+    const QString path = folder.filePath(Text("ours"));
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(SettingsText(values));
+    }
+    const QSettings ours(path, QSettings::IniFormat);
+    QSettings theirs(folder.filePath(Text("theirs")), QSettings::IniFormat);
+    for (const auto& [name, text] : values.InOrder()) {
+        const QString key = name.first + u'/' + name.second;
+        EXPECT_EQ(ours.value(key, Text("(missing)")).toString(), text) << key.toStdString();
+        theirs.setValue(key, text);
+    }
+    EXPECT_EQ(ours.status(), QSettings::NoError);
+    theirs.sync();
+    QFile file(theirs.fileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    for (const QByteArray& bytes : {file.readAll(), SettingsText(values)}) {
+        const SettingsReading reading = ReadSettingsText(bytes);
+        EXPECT_EQ(reading.damage, QString());
+        for (const auto& [name, text] : values.InOrder()) {
+            const QString* const read = reading.values.Find(name.first, name.second);
+            ASSERT_NE(read, nullptr) << name.second.toStdString();
+            EXPECT_EQ(*read, text) << bytes.toStdString();
+        }
+    }
+}
+
+TEST(SettingsText, KeepsTheOrderInWhichThingsWereSet) {
+    SettingsValues values;
+    values.Set(Text("b"), Text("z"), Text("1"));
+    values.Set(Text("a"), Text("y"), Text("2"));
+    values.Set(Text("b"), Text("x"), Text("3"));
+    values.Set(Text("b"), Text("z"), Text("4"));
+    const QByteArray text = SettingsText(values);
+    EXPECT_TRUE(text.contains("\n\n[b]\nz=4\nx=3\n\n[a]\ny=2\n\n;")) << text.toStdString();
+    EXPECT_EQ(SettingsText(ReadSettingsText(text).values), text);
+}
+
+TEST(ReadSettingsText, TakesLinesAsTypedByHand) {
+    const struct {
+        const char* line;
+        const char* value;  // of the key k in the section s; null for a line that is no setting
+    } cases[] = {
+        {"k=118,125", "118,125"},
+        {" k = a b ", "a b"},
+        {"k=a , b", "a,b"},
+        {"k=\" a \"", " a "},
+        {"k=a ; comment", "a"},
+        {"k=\"a;b\"", "a;b"},
+        {"k=", ""},
+        {"k=\"\"", ""},
+        {"k=a\\x41 b", "aA b"},
+        {"k=\\x20 ", " "},
+        {"k=\\\"a\\\"", "\"a\""},
+        {"k=a=b", "a=b"},
+        {"%6b=1", "1"},
+        {"%U006B=2", "2"},
+        {"k=1\r", "1"},
+        {"k=\\101", "A"},
+        {"k=\"a\" \"b\"", "a b"},
+        {"[s]\nk=3", "3"},
+        {"k=\"open", nullptr},
+        {"k", nullptr},
+        {"=v", nullptr},
+        {"[s\nk=5", nullptr},
+        {"k=a\x01", nullptr},
+        {"Gear]", nullptr},
+    };
+    for (const auto& c : cases) {
+        const SettingsReading reading =
+            ReadSettingsText("[s]\n" + QByteArray(c.line) + "\nlast=1\n");
+        EXPECT_EQ(reading.damage.isEmpty(), c.value != nullptr) << c.line;
+        EXPECT_NE(reading.values.Find(Text("s"), Text("last")), nullptr) << c.line;
+        if (c.value != nullptr) {
+            const QString* const value = reading.values.Find(Text("s"), Text("k"));
+            ASSERT_NE(value, nullptr) << c.line;
+            EXPECT_EQ(*value, Text(c.value)) << c.line;
+        }
+    }
+}
+
+TEST(ReadSettingsText, MissesEveryCutButNoEdit) {
+    SettingsValues values;
+    for (int n = 1; n < 9; ++n) {
+        values.Set(Text("s"), Text("k%1").arg(n), Text("text"));
+    }
+    const QByteArray whole = SettingsText(values);
+    for (qsizetype length = 0; length < whole.size() - 1; ++length) {  // the last newline may go
+        EXPECT_NE(ReadSettingsText(whole.first(length)).damage, QString()) << length;
+    }
+    for (const auto& [from, to] : {std::pair<const char*, const char*>{"k3=text\n", ""},
+                                   {"k8=text\n", "k8=else\nk9=new\n"},
+                                   {"settings\n", "settings\r\n"},
+                                   {"; Varnel", "\xEF\xBB\xBF; Varnel"},
+                                   {"says: end of settings\n\n[s]", "gone\n\n[s]"}}) {
+        const QByteArray edited = QByteArray(whole).replace(from, to);
+        ASSERT_NE(edited, whole) << from;
+        EXPECT_EQ(ReadSettingsText(edited).damage, QString()) << edited.toStdString();
+    }
+}
+
+TEST(ReadSettingsText, SaysWhatIsWrong) {
+    const struct {
+        QByteArray bytes;
+        const char* damage;
+    } cases[] = {
+        {"", "empty"},
+        {"\n; nothing\n", "empty"},
+        {"[s]\nk=1\n", ""},
+        {"[s]\nk=1", "cut short"},
+        {"stray\n[s]\nk=1\n", "line 1 is no setting"},
+        {QByteArray(100, '\0'), "line 1 is no setting"},
+        {"[s]\nk=\xE9\n", "not UTF-8 text"},
+        {QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0001\0\n\0", 20), "not UTF-8 text"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(ReadSettingsText(c.bytes).damage, Text(c.damage)) << c.bytes.toStdString();
+    }
+    EXPECT_NE(ReadSettingsText(cases[7].bytes).values.Find(Text("s"), Text("k")), nullptr);
+}
+
+}  // namespace
+}  // namespace varnel

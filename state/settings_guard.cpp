@@ -93,6 +93,12 @@ void Replace(const QString& path, const QByteArray& bytes) {
     }
 }
 
+QString WhatIsUsed(bool copyServes, const SettingsValues& values) {
+    return copyServes       ? QStringLiteral("their last good copy is used")
+           : values.Empty() ? QStringLiteral("without a copy they begin afresh")
+                            : QStringLiteral("without a copy what could be read is used");
+}
+
 }  // namespace
 
 QString CopyOf(const QString& path) {
@@ -183,9 +189,7 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
     rescued.values = byCopy ? file.copy.values : known;
     if (!file.canBeRead) {
         rescued.told = QStringLiteral("%1: the settings cannot be read (%2); %3")
-                           .arg(path, file.reason,
-                                byCopy ? QStringLiteral("their last good copy is used")
-                                       : QStringLiteral("they count as never made"));
+                           .arg(path, file.reason, WhatIsUsed(byCopy, rescued.values));
         return rescued;
     }
     if (!byCopy && !HoldsGear(known)) {
@@ -199,14 +203,11 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
     if (!aside.isEmpty()) {
         Replace(path, better);  // when that fails, so will the next save, and that one tells
     }
-    rescued.told =
-        QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
-            .arg(path, file.reading.damage,
-                 byCopy ? QStringLiteral("their last good copy is used")
-                        : QStringLiteral("there is no copy of them, what could be read is used"),
-                 aside.isEmpty()
-                     ? QStringLiteral("could not be set aside")
-                     : QStringLiteral("is kept as %1").arg(QFileInfo(aside).fileName()));
+    rescued.told = QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
+                       .arg(path, file.reading.damage, WhatIsUsed(byCopy, rescued.values),
+                            aside.isEmpty()
+                                ? QStringLiteral("could not be set aside")
+                                : QStringLiteral("is kept as %1").arg(QFileInfo(aside).fileName()));
     return rescued;
 }
 

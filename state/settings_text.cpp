@@ -250,6 +250,8 @@ SettingsReading ReadSettingsText(const QByteArray& bytes) {
     }
     if (!isText || !isUtf8) {
         reading.damage = QStringLiteral("not UTF-8 text");
+    } else if (badLine > 1 && badLine == lines.size()) {
+        reading.damage = QStringLiteral("cut short");  // within a line
     } else if (badLine != 0) {
         reading.damage = QStringLiteral("line %1 is no setting").arg(badLine);
     } else if (reading.values.Empty()) {

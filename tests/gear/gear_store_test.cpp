@@ -187,6 +187,34 @@ TEST(LoadGear, KeepsCatalogueValuesWhereTheStoredOneIsNoNumber) {
     EXPECT_NEAR(gear.vAOV, 95.8779F, 1e-4F);
 }
 
+// The remap divides by the ratio and by the angle.
+TEST(LoadGear, KeepsCatalogueValuesWhereTheStoredOneIsOfNoUse) {
+    const struct {
+        const char* key;
+        float GearRecord::*field;
+        const char *usable, *useless;
+    } cases[] = {
+        {"GearRatio1", &GearRecord::GearRatio, "1 1000", "0 -80 0.99 1001"},
+        {"hAOV1", &GearRecord::hAOV, "1 360", "0 -120 0.99 360.1"},
+        {"hAOV1", &GearRecord::vAOV, "1 360", "0 -120 0.99 360.1"},
+        {"GearOfsetX1", &GearRecord::OfsetX, "-1000 1000", "-1001 1001"},
+        {"GearOfsetY1", &GearRecord::OfsetY, "-1000 0.5", "-1001 1001"},
+    };
+    for (const auto& c : cases) {
+        RecordingStore store;
+        PutZuiko(store);
+        const float catalogue = Load(store)(1).*c.field;
+        for (const QString& text : Text(c.usable).split(u' ')) {
+            store.Put(c.key, qPrintable(text));
+            EXPECT_EQ(Load(store)(1).*c.field, text.toFloat()) << c.key << text.toStdString();
+        }
+        for (const QString& text : (Text(c.useless) + Text(" 3e38 1e39 -inf nan")).split(u' ')) {
+            store.Put(c.key, qPrintable(text));
+            EXPECT_EQ(Load(store)(1).*c.field, catalogue) << c.key << text.toStdString();
+        }
+    }
+}
+
 TEST(LoadGear, DropsAdjustmentsMadeToOlderCatalogueData) {
     const struct {
         const char* version;

@@ -33,14 +33,28 @@ TEST(FloatText, WritesSevenAsciiDigitsWithOnlyTheLocalesDecimalCharacter) {
     }
 }
 
-TEST(FloatFromText, ReadsBackWhatAnyLocaleWrote) {
-    for (const char* locale :
-         {"C", "de_DE", "de_CH", "fr_FR", "ar_EG", "fa_IR", "sv_SE", "hi_IN"}) {
-        for (const float value : {0.0F, -0.5F, 118.125F, 1234.5F, 1.5e-7F, -2.5e10F, 3.25e38F}) {
-            EXPECT_EQ(FloatFromText(FloatText(value, QLocale(QString::fromLatin1(locale)))), value)
-                << locale;
+TEST(ReadFloat, ReadsUnderAnyLocaleWhatWasSavedUnderAnyOther) {
+    const QLocale before;
+    const char* const locales[] = {"C",     "en_US", "de_DE", "fr_FR",
+                                   "de_CH", "ar_EG", "fa_IR", "hi_IN"};
+    const float values[] = {179.3221F, 1234.5F, 0.0001F,  -12.5F,   1e-7F,
+                            3.4e38F,   0.0F,    -1234.5F, -2.5e10F, 1234567.0F};
+    const QString section = QStringLiteral("Gear");
+    for (const char* const writer : locales) {
+        MemoryStore store;
+        QLocale::setDefault(QLocale(QString::fromLatin1(writer)));
+        for (const float value : values) {
+            store.Save(section, QString::number(value), FloatText(value));
+        }
+        for (const char* const reader : locales) {
+            QLocale::setDefault(QLocale(QString::fromLatin1(reader)));
+            for (const float value : values) {
+                EXPECT_EQ(ReadFloat(store, section, QString::number(value), 99.0F), value)
+                    << writer << ' ' << reader;
+            }
         }
     }
+    QLocale::setDefault(before);
 }
 
 TEST(FloatFromText, ReadsOneNumberWhateverItsScriptAndRefusesTheRest) {

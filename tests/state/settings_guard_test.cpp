@@ -190,7 +190,7 @@ TEST_F(SettingsGuard, SavesWhatCanBeReadWithoutACopy) {
         const GearTable table = Load();
         EXPECT_GE(Good(table, 80.25F), damage.goodWithoutCopy);
         ASSERT_EQ(told_.size(), 1);
-        EXPECT_TRUE(told_[0].contains(Text("there is no copy"))) << told_[0].toStdString();
+        EXPECT_TRUE(told_[0].contains(Text("without a copy"))) << told_[0].toStdString();
         ASSERT_EQ(Damaged().size(), 1);
         EXPECT_EQ(Bytes(folder_.filePath(Text("Varnel/")) + Damaged()[0]), spoiled);
         for (int n = 1; n <= table.UpperBound(); ++n) {

@@ -159,6 +159,7 @@ TEST(ReadSettingsText, SaysWhatIsWrong) {
         {"\n; nothing\n", "empty"},
         {"[s]\nk=1\n", ""},
         {"[s]\nk=1", "cut short"},
+        {"[s]\nk=1\nother", "cut short"},
         {"stray\n[s]\nk=1\n", "line 1 is no setting"},
         {QByteArray(100, '\0'), "line 1 is no setting"},
         {"[s]\nk=\xE9\n", "not UTF-8 text"},
@@ -167,7 +168,7 @@ TEST(ReadSettingsText, SaysWhatIsWrong) {
     for (const auto& c : cases) {
         EXPECT_EQ(ReadSettingsText(c.bytes).damage, Text(c.damage)) << c.bytes.toStdString();
     }
-    EXPECT_NE(ReadSettingsText(cases[7].bytes).values.Find(Text("s"), Text("k")), nullptr);
+    EXPECT_NE(ReadSettingsText(cases[8].bytes).values.Find(Text("s"), Text("k")), nullptr);
 }
 
 }  // namespace

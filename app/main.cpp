@@ -34,12 +34,13 @@ QStringList Absolute(const QStringList& files) {
 int RunWindow(QApplication& application, const QStringList& files, SettingsStore& userStore) {
     MessageBoxes notices;
     TellOf(userStore, notices);
-    TellingStore store(userStore, notices);
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
-    if (const std::optional<QString> reminder = CheckRevisionAge(store, QDate::currentDate())) {
+    if (const std::optional<QString> reminder = CheckRevisionAge(userStore, QDate::currentDate())) {
         notices.Tell(*reminder, {});
     }
+    TellOf(userStore, notices);
+    TellingStore store(userStore, notices);
     WorkingState state;
     state.settings = LoadSettings(store);
     const auto reader = NewPictureReader();

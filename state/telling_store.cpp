@@ -5,6 +5,14 @@
 
 namespace varnel {
 
+namespace {
+
+// ms; also long enough for a window that saves while it closes to end the program first: a box that
+// came up in between would be closed with it, unread.
+constexpr int settleDelay = 200;
+
+}  // namespace
+
 void TellOf(SettingsStore& store, Notices& notices) {
     for (const QString& text : store.Settle()) {
         notices.Tell(text, {});
@@ -24,7 +32,7 @@ QString TellingStore::Get(const QString& section, const QString& key,
 
 void TellingStore::Save(const QString& section, const QString& key, const QString& value) {
     store_.Save(section, key, value);
-    soon_.start(0);
+    soon_.start(settleDelay);
 }
 
 QStringList TellingStore::Settle() {

@@ -14,8 +14,8 @@ namespace varnel {
 // Settles the store and tells what there is to tell.
 void TellOf(SettingsStore& store, Notices& notices);
 
-// Another store, settled as soon as the input during which something was saved has been handled.
-// Its troubles are told at once, whichever window saved.
+// Another store, settled a moment after something was saved. Its troubles are told then, above
+// whichever window saved.
 class TellingStore : public SettingsStore {
   public:
     TellingStore(SettingsStore& store, Notices& notices);

@@ -85,5 +85,23 @@ TEST_F(Program, VarnelConvertTakesItsGearFromTheUsersStore) {
     EXPECT_EQ(out_, Q("mine\n"));
 }
 
+TEST_F(Program, BothSayOnceThatTheSettingsWereDamagedAndUseTheCopy) {
+    const QString settings = files_.Path(Q("config/Varnel/Varnel.conf"));
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    DefineGear();
+    const std::pair<const char*, QString> runs[] = {{VARNEL_CONVERT_PROGRAM, Q("--list-gears")},
+                                                    {VARNEL_PROGRAM, photo}};
+    for (const auto& [program, argument] : runs) {
+        EXPECT_EQ(Run(program, {argument}), 0) << err_.toStdString();
+        testing::WriteFile(settings, testing::Contents(settings).first(100));
+        for (const int times : {1, 0}) {
+            EXPECT_EQ(Run(program, {argument}), 0) << err_.toStdString();
+            EXPECT_EQ(err_.count(Q("Varnel.conf: the settings were damaged (cut short); their "
+                                   "last good copy is used")),
+                      times);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace varnel

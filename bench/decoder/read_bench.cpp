@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Reading a photo through the decoder's process beside decoding it in this one, from the same
+// files. The names of further photos may be given after the options.
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <cmath>
+
+#include "decoder/decode_picture.h"
+#include "decoder/picture_limits.h"
+#include "decoder/picture_reader.h"
+#include "remap/save_bitmap.h"
+
+namespace varnel {
+namespace {
+
+// Soft rings with some grain: about as large as a JPEG as a photo is.
+BitmapHandle Rings(PixelSize size) {
+    BitmapHandle bitmap = NewBitmap(size);
+    unsigned grain = 1;
+    for (int y = 0; y < size.height; ++y) {
+        const auto row = ScanLine(bitmap.get(), y);
+        for (std::size_t x = 0; x < row.size(); ++x) {
+            grain = grain * 1664525U + 1013904223U;
+            const double ring = std::sin(std::hypot(static_cast<double>(x) / 3.0, y) / 50.0);
+            row[x] = static_cast<std::uint8_t>(128 + ring * 90 + static_cast<double>(grain >> 28));
+        }
+    }
+    return bitmap;
+}
+
+void Here(benchmark::State& state, const QString& path) {
+    for (auto _ : state) {
+        std::FILE* const file = std::fopen(QFile::encodeName(path).constData(), "rb");
+        const LoadedPicture picture = DecodePicture(file, {path}, MachineMemory());
+        std::fclose(file);
+        if (!picture.bitmap) {
+            state.SkipWithError("not loaded");
+        }
+    }
+}
+
+void Apart(benchmark::State& state, const QString& path) {
+    const auto reader = NewPictureReader();
+    for (auto _ : state) {
+        const LoadedPicture picture = ReadPicture(*reader, {path});
+        if (!picture.bitmap) {
+            state.SkipWithError("not loaded");
+        }
+    }
+}
+
+// Its start included, as when every photo had a decoder of its own.
+void ApartAnew(benchmark::State& state, const QString& path) {
+    for (auto _ : state) {
+        const auto reader = NewPictureReader();
+        benchmark::DoNotOptimize(ReadPicture(*reader, {path}).bitmap);
+    }
+}
+
+void Measure(const QString& path, const QString& name) {
+    const std::pair<const char*, void (*)(benchmark::State&, const QString&)> ways[] = {
+        {"in_process", Here}, {"decoder", Apart}, {"decoder_started", ApartAnew}};
+    for (const auto& [way, run] : ways) {
+        benchmark::RegisterBenchmark(
+            (name + u'/' + QString::fromLatin1(way)).toUtf8().constData(),
+            [run = run, path](benchmark::State& state) { run(state, path); })
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+}
+
+}  // namespace
+}  // namespace varnel
+
+int main(int argc, char* argv[]) {
+    using namespace varnel;
+    benchmark::Initialize(&argc, argv);
+    const QTemporaryDir folder;
+    const struct {
+        const char* name;
+        PixelSize size;
+        FREE_IMAGE_FORMAT format;
+        int flags;
+    } files[] = {{"small.jpg", {300, 200}, FIF_JPEG, 90},
+                 {"24mp.jpg", {6000, 4000}, FIF_JPEG, 90},
+                 {"24mp.tif", {6000, 4000}, FIF_TIFF, TIFF_LZW}};
+    for (const auto& file : files) {
+        const QString name = QString::fromLatin1(file.name);
+        const QString path = folder.filePath(name);
+        if (!SaveBitmap(file.format, Rings(file.size).get(), path, file.flags)) {
+            return 1;
+        }
+        Measure(path, name);
+    }
+    for (int n = 1; n < argc; ++n) {
+        const QString path = QFile::decodeName(argv[n]);
+        Measure(path, path.section(u'/', -1));
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

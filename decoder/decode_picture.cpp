@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "decoder/bmp_picture.h"
+#include "decoder/claimed_size.h"
 #include "decoder/jpeg_frame.h"
 #include "decoder/picture_damage.h"
 #include "decoder/picture_file.h"
@@ -94,6 +95,12 @@ class Decoding {
         if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(QStringLiteral("damaged: the raw photo cannot be read"));
+        }
+        if (const auto claimed = ClaimedSizeOf(format_, file_)) {
+            const QString trouble = SizeTrouble(claimed->width, claimed->height, memory_);
+            if (!trouble.isEmpty()) {
+                return LoadedPicture::Refused(trouble);
+            }
         }
         stated_ = HeaderSize();
         if (const QString trouble = stated_ ? Trouble(*stated_) : QString(); !trouble.isEmpty()) {

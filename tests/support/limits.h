@@ -9,12 +9,24 @@
 
 namespace varnel::testing {
 
-// Writes beyond that many bytes fail from now on, as they do on a full disk. For a process that
-// ends soon.
-inline void LimitFileSize(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, bytes};
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
+// While it lives, writes beyond that many bytes of a file fail, as they do on a full disk.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signalBefore_);
+    }
+
+  private:
+    rlimit before_{};
+    void (*signalBefore_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
 
 }  // namespace varnel::testing

@@ -5,10 +5,10 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <utility>
 
+#include "state/folder_lock.h"
 #include "state/settings_guard.h"
 #include "state/settings_text.h"
 
@@ -18,26 +18,14 @@ namespace {
 
 constexpr int longestWait = 5000;  // ms for another process to finish writing
 
-QString WhyNotLocked(const QLockFile& lock) {
-    switch (lock.error()) {
-        case QLockFile::PermissionError:
-            return QStringLiteral("Permission denied");
-        case QLockFile::LockFailedError:
-            return QStringLiteral("another program keeps them locked");
-        default:
-            return QStringLiteral("no file can be made in the folder");
-    }
-}
-
 class FileStore : public SettingsStore {
   public:
     FileStore(QString path, QDateTime now) : path_(std::move(path)), now_(std::move(now)) {
         SettingsFile file = LookAtSettings(path_);
         if (!file.IsWhole() || !file.CopyIsFresh()) {
-            QLockFile lock(LockName());
-            const bool isLocked = lock.tryLock(longestWait);
+            const FolderLock lock(Folder(), longestWait);
             file = LookAtSettings(path_);  // another process may have mended it
-            values_ = Take(file, isLocked);
+            values_ = Take(file, lock.IsHeld());
         } else {
             values_ = file.reading.values;
         }
@@ -63,7 +51,7 @@ class FileStore : public SettingsStore {
     }
 
   private:
-    QString LockName() const { return path_ + QStringLiteral(".lock"); }
+    QString Folder() const { return QFileInfo(path_).path(); }
 
     // The file's values after whatever has to be done about its damage and its copy.
     SettingsValues Take(const SettingsFile& file, bool isLocked) {
@@ -94,13 +82,12 @@ class FileStore : public SettingsStore {
 
     // The reason when it fails; what was changed is then tried again the next time.
     QString TryToWrite() {
-        const QString folder = QFileInfo(path_).path();
-        if (!QDir().mkpath(folder)) {
+        if (!QDir().mkpath(Folder())) {
             return QStringLiteral("the folder cannot be made");
         }
-        QLockFile lock(LockName());
-        if (!lock.tryLock(longestWait)) {
-            return WhyNotLocked(lock);
+        const FolderLock lock(Folder(), longestWait);
+        if (!lock.IsHeld()) {
+            return QStringLiteral("another program keeps them locked");
         }
         const SettingsFile file = LookAtSettings(path_);
         if (!file.canBeRead) {

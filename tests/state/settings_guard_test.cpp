@@ -295,7 +295,7 @@ TEST_F(SettingsGuard, IsReadableAtWhateverMomentASavingRunIsKilled) {
         EXPECT_EQ(std::max(Good(table, 50.0F), Good(table, 80.25F)), gearCount) << moment;
         EXPECT_EQ(told_, QStringList()) << moment;
     }
-    Save(gearCount, 50.0F);  // clears away what the killed ones left
+    Save(gearCount, 60.0F);  // clears away what the killed ones left
     EXPECT_EQ(QDir(QFileInfo(path_).path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 

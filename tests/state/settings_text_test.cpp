@@ -163,7 +163,7 @@ TEST(ReadSettingsText, SaysWhatIsWrong) {
         {"stray\n[s]\nk=1\n", "line 1 is no setting"},
         {QByteArray(100, '\0'), "line 1 is no setting"},
         {"[s]\nk=\xE9\n", "not UTF-8 text"},
-        {QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0001\0\n\0", 20), "not UTF-8 text"},
+        {QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0001\0\n\0", 18), "not UTF-8 text"},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(ReadSettingsText(c.bytes).damage, Text(c.damage)) << c.bytes.toStdString();

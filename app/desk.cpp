@@ -63,6 +63,9 @@ void Desk::GiveChosenGear(ImageRecord& image) {
 }
 
 void Desk::TellNotOpened(const ImageRecord& image) {
+    if (loadTrouble_ == readingCancelled) {
+        return;  // as the user wished
+    }
     notices_.Tell(Tr("Could not open image"),
                   QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
 }
@@ -73,8 +76,12 @@ bool Desk::LoadFull(int line) {
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.FullSourceBitmap.reset();
     view_.ShowResult(nullptr);  // never another photo's
+    view_.ShowTrouble({});
     LoadedPicture loaded = photos_.Load(SourcePath(image));
     loadTrouble_ = loaded.bitmap ? QString() : loaded.reason;
+    if (!loaded.reason.isEmpty()) {
+        view_.ShowTrouble(QStringLiteral("%1: %2").arg(image.FileName, loaded.reason));
+    }
     if (!loaded.bitmap) {
         view_.ShowSource(nullptr);
         view_.ShowStatus({});
@@ -85,9 +92,7 @@ bool Desk::LoadFull(int line) {
     TakeSize(SizeOf(state_.bitmaps.FullSourceBitmap.get()), image);
     GiveChosenGear(image);
     ShowInControls(image);
-    view_.ShowStatus(loaded.reason.isEmpty()
-                         ? Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height)
-                         : QStringLiteral("%1: %2").arg(image.FileName, loaded.reason));
+    view_.ShowStatus(Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
     return true;
 }
 
@@ -113,6 +118,7 @@ bool Desk::LoadAndReduce(int line) {
     } catch (const std::bad_alloc&) {
         state_.bitmaps = {};
         loadTrouble_ = Tr("there is not enough memory");
+        view_.ShowTrouble(loadTrouble_);
         view_.ShowSource(nullptr);
         return false;
     }
@@ -310,6 +316,7 @@ void Desk::RemoveSelected() {
         view_.ShowSource(nullptr);
         view_.ShowResult(nullptr);
         view_.ShowStatus({});
+        view_.ShowTrouble({});
     }
     view_.ShowList(state_.Images);
 }

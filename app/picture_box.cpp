@@ -16,6 +16,7 @@ namespace {
 constexpr int margin = 12;              // logical pixels around and between the pictures
 constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
 constexpr QColor emptyBox(84, 84, 84);
+constexpr QColor warningAmber(255, 213, 79);
 
 }  // namespace
 
@@ -53,15 +54,38 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
 PictureArea::PictureArea(QWidget* parent)
     : QWidget(parent),
       from_(new PictureBox(tr("Add photos with \"Add image(s)\" or drop them here."), this)),
-      to_(new PictureBox(tr("The converted picture appears here."), this)) {
+      to_(new PictureBox(tr("The converted picture appears here."), this)),
+      trouble_(new QLabel(this)) {
     from_->setObjectName(QStringLiteral("PicSmallFrom"));
     from_->setAccessibleName(tr("Photo as shot"));
     to_->setObjectName(QStringLiteral("PicSmallTo"));
     to_->setAccessibleName(tr("Converted picture"));
+    trouble_->setObjectName(QStringLiteral("LabelTrouble"));
+    trouble_->setWordWrap(true);
+    trouble_->setMargin(6);
+    trouble_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    trouble_->setAutoFillBackground(true);
+    QPalette warning = trouble_->palette();
+    warning.setColor(QPalette::Window, warningAmber);
+    warning.setColor(QPalette::WindowText, Qt::black);
+    trouble_->setPalette(warning);
+    trouble_->hide();
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, surround);
     setPalette(colours);
+}
+
+void PictureArea::ShowTrouble(const QString& text) {
+    trouble_->setText(text);
+    trouble_->setVisible(!text.isEmpty());
+    PlaceTrouble();
+}
+
+void PictureArea::PlaceTrouble() {
+    const QRect photo = from_->geometry();
+    const int height = std::min(trouble_->heightForWidth(photo.width()), photo.height());
+    trouble_->setGeometry(photo.left(), photo.bottom() + 1 - height, photo.width(), height);
 }
 
 void PictureArea::SetWanted(QSize size) {
@@ -84,6 +108,7 @@ void PictureArea::Place() {
     const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
     from_->setGeometry(QRect(corner, box));
     to_->setGeometry(QRect(corner + QPoint(step.width(), step.height()), box));
+    PlaceTrouble();
 }
 
 void PictureArea::resizeEvent(QResizeEvent* /*event*/) {

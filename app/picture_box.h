@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QImage>
+#include <QLabel>
 #include <QWidget>
 
 #include "remap/bitmap.h"
@@ -40,6 +41,8 @@ class PictureArea : public QWidget {
     explicit PictureArea(QWidget* parent = nullptr);
     PictureBox* From() const { return from_; }
     PictureBox* To() const { return to_; }
+    // What is wrong with the photo as shot, on its lower edge; empty when nothing is.
+    void ShowTrouble(const QString& text);
     // Logical pixels.
     void SetWanted(QSize size);
     QSize Room() const;  // for one picture
@@ -54,9 +57,11 @@ class PictureArea : public QWidget {
   private:
     bool SideBySide() const { return width() >= height(); }
     void Place();
+    void PlaceTrouble();
 
     PictureBox* from_;
     PictureBox* to_;
+    QLabel* trouble_;
     QSize wanted_{400, 300};
 };
 

@@ -48,6 +48,7 @@ class WindowView : public DeskView {
     void ShowRecord(const ImageRecord& image) override;
     void ShowSource(FIBITMAP* bitmap) override { parts_.pictures->From()->Show(bitmap); }
     void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap); }
+    void ShowTrouble(const QString& text) override { parts_.pictures->ShowTrouble(text); }
     void ShowStatus(const QString& text) override { parts_.status->setText(text); }
     void HandleEvents() override { progress_.HandleEvents(); }
     void ShowHourglass(bool on) override;

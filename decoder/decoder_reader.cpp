@@ -150,7 +150,7 @@ LoadedPicture DecoderReader::Take() {
 
 void DecoderReader::Cancel() {
     if (photo_) {
-        FinishRefused(QStringLiteral("cancelled"));
+        FinishRefused(readingCancelled.toString());
     }
     answer_.reset();
 }

@@ -381,6 +381,20 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
     EXPECT_EQ(desk.notices.texts.size(), 2);  // and nothing of the other photo is saved
 }
 
+TEST(MainWindow, WhatIsWrongWithAPhotoStandsOnItUntilTheNextOne) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp")}, {300, 200});
+    auto* const trouble = desk.Find<QLabel>("LabelTrouble");
+    EXPECT_TRUE(trouble->isHidden());
+    desk.window.AddFiles({desk.files.Cut(Q("cut.bmp"), desk.files.Path(Q("a.bmp")), 60)});
+    desk.ClickLine(1);
+    EXPECT_EQ(trouble->text(), Q("cut.bmp: damaged: the file is cut short"));
+    EXPECT_TRUE(desk.Find("PicSmallFrom")->geometry().contains(trouble->geometry()));
+    EXPECT_TRUE(desk.notices.texts.isEmpty());
+    desk.ClickLine(0);
+    EXPECT_TRUE(trouble->isHidden());
+}
+
 TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")}, {900, 600});

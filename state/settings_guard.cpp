@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <iterator>
+#include <optional>
 
 #include "state/number_text.h"
 #include "state/setting_names.h"
@@ -22,15 +24,29 @@ const QString* FindGear(const SettingsValues& values, QLatin1StringView name, in
     return values.Find(setting::Gear, setting::ItemKey(name, n));
 }
 
-int CountedGears(const SettingsValues& values) {
+std::optional<int> CountedGears(const SettingsValues& values) {
     const QString* const count = values.Find(setting::Gear, setting::NumGear);
-    return count == nullptr ? 0 : WholeFromText(*count).value_or(0);
+    return count == nullptr ? std::nullopt : WholeFromText(*count);
+}
+
+// A part of a gear, or what tells of all gears, that stands in another section: theirs lost its
+// title.
+bool IsStrayGear(const SettingsValues::Name& name) {
+    constexpr QLatin1StringView parts[] = {
+        setting::NumGear,         setting::DefaultGearName,     setting::GearName,
+        setting::GearCameraBrand, setting::GearCameraModel,     setting::GearLensBrand,
+        setting::GearLensModel,   setting::GearLensDataVersion, setting::GearOfsetX,
+        setting::GearOfsetY,      setting::GearRatio,           setting::HorizontalAov,
+        setting::VerticalAov};
+    return name.first != setting::Gear &&
+           std::any_of(std::begin(parts), std::end(parts),
+                       [&](QLatin1StringView part) { return name.second.startsWith(part); });
 }
 
 // The highest number of a gear of which a name is left. Gears beyond the count were deleted and
 // do not come back, unless the count itself is gone.
 int LastGear(const SettingsValues& values) {
-    const int counted = CountedGears(values);
+    const int counted = CountedGears(values).value_or(0);
     int last = 0;
     for (const auto& [name, text] : values.InOrder()) {
         for (const QLatin1StringView part : {setting::GearName, setting::GearCameraModel}) {
@@ -112,7 +128,15 @@ bool HoldsGear(const SettingsValues& values) {
 }
 
 QString GearDamage(const SettingsValues& values) {
-    const int count = CountedGears(values);
+    for (const auto& [name, text] : values.InOrder()) {
+        if (IsStrayGear(name)) {
+            return QStringLiteral("the gears' section has lost its title");
+        }
+    }
+    if (!CountedGears(values) && FindGear(values, setting::GearName, 2) != nullptr) {
+        return QStringLiteral("the number of gears is missing");
+    }
+    const int count = CountedGears(values).value_or(0);
     for (int n = 1; n <= count; ++n) {
         if (FindGear(values, setting::GearName, n) == nullptr) {
             return QStringLiteral("gear %1 of %2 is missing").arg(n).arg(count);
@@ -124,6 +148,12 @@ QString GearDamage(const SettingsValues& values) {
 }
 
 void MendGears(SettingsValues& values) {
+    for (const auto& [name, text] : values.InOrder()) {
+        if (IsStrayGear(name)) {
+            values.Remove(name.first, name.second);
+            values.Set(setting::Gear, name.second, text);
+        }
+    }
     const int last = LastGear(values);
     if (last == 0) {
         // A first run: whatever is left of it, there is no gear to find.

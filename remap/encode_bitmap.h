@@ -21,7 +21,7 @@ struct EncodedBitmap {
 };
 
 // flags are the library's for the format (the quality for JPEG). The library's own file in memory
-// is not used: from 2 GB on it drops what is written, and the library calls the rest a success.
+// is not used: from 2 GB on it drops what is written, and a cut TIFF still counts as a success.
 EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                            qint64 largest = largestFile);
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <new>
 #include <optional>
 
 #include "gear/camera_catalogue.h"
@@ -99,10 +100,17 @@ FisheyeShot ShotFor(const Sample& sample, int width) {
     return shot;
 }
 
+SaveResult TakeAndSave(const FisheyeShot& shot, const QString& fileName) {
+    try {
+        return SaveBitmap(FIF_JPEG, TakeFisheye(LookAt, shot).get(), fileName, jpegQuality);
+    } catch (const std::bad_alloc&) {
+        return {false, QStringLiteral("not enough memory")};
+    }
+}
+
 bool WriteSample(const Sample& sample, const Order& order) {
     const QString fileName = QDir(order.directory).filePath(Text(sample.fileName));
-    const BitmapHandle picture = TakeFisheye(LookAt, ShotFor(sample, order.width));
-    const SaveResult saved = SaveBitmap(FIF_JPEG, picture.get(), fileName, jpegQuality);
+    const SaveResult saved = TakeAndSave(ShotFor(sample, order.width), fileName);
     if (!saved) {
         std::fprintf(stderr, "varnel-sample: %s: %s\n", qPrintable(fileName),
                      qPrintable(saved.reason));

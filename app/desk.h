@@ -13,6 +13,7 @@
 #include "pipeline/photo_loader.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/render.h"
+#include "remap/save_bitmap.h"
 #include "state/control_values.h"
 #include "state/notices.h"
 #include "state/working_state.h"
@@ -102,7 +103,7 @@ class Desk {
     void GiveChosenGear(ImageRecord& image);
     void RenderPreview(const ImageRecord& image);
     void RenderThumbnail(const ImageRecord& image);
-    QString RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
+    SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
     void ShowInControls(const ImageRecord& image);
 
     WorkingState& state_;

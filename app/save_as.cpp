@@ -23,8 +23,7 @@ QString Tr(const char* text) {
 
 }  // namespace
 
-// The reason why it was not saved; empty when it was.
-QString Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
+SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
     const Raised saving(saving_);
     const Raised rendering(rendering_);
     const OutputType type = TypeOf(choice);
@@ -32,12 +31,11 @@ QString Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) 
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
         return SaveBitmap(FormatOf(type), state_.bitmaps.ResultBitmap.get(), choice.name,
-                          SaveFlags(type, state_.settings.JPEGcompression))
-            .reason;
+                          SaveFlags(type, state_.settings.JPEGcompression));
     } catch (const RunTimeError& error) {
-        return QString::fromUtf8(error.what());
+        return {false, QString::fromUtf8(error.what())};
     } catch (const std::bad_alloc&) {
-        return Tr("There is not enough memory.");
+        return {false, Tr("There is not enough memory.")};
     }
 }
 
@@ -57,21 +55,23 @@ void Desk::SaveAs(FileChooser& chooser) {
     if (!choice) {
         return;
     }
-    QString trouble;
+    SaveResult saved;
     {
         const Raised busy(busy_);
         view_.Lock(true);
         view_.HandleEvents();
         view_.ShowHourglass(true);
-        trouble = RenderAndSave(image, *choice);
+        saved = RenderAndSave(image, *choice);
         state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
         view_.ShowHourglass(false);
         view_.Lock(false);
     }
-    if (trouble.isEmpty()) {
+    if (!saved) {
+        notices_.Tell(Tr("Could not save %1").arg(choice->name), saved.reason);
+    } else if (saved.note.isEmpty()) {
         view_.ShowStatus(Tr("Saved %1").arg(choice->name));
     } else {
-        notices_.Tell(Tr("Could not save %1").arg(choice->name), trouble);
+        view_.ShowStatus(Tr("Saved %1, %2").arg(choice->name, saved.note));
     }
     view_.Idle();
 }

@@ -81,17 +81,15 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
     Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
 }
 
-// The reason why it was not written; empty when it was.
-QString WriteTo(const QString& target, const ConversionRun& run, OpenPhoto& photo,
-                const ImageRecord& record, OutputType type) {
+SaveResult WriteTo(const QString& target, const ConversionRun& run, OpenPhoto& photo,
+                   const ImageRecord& record, OutputType type) {
     if (const QString trouble = TargetTrouble(run, photo, target); !trouble.isEmpty()) {
-        return trouble;
+        return {false, trouble};
     }
     RenderInto(run, photo, record);
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
     return SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
-                      SaveFlags(type, quality))
-        .reason;
+                      SaveFlags(type, quality));
 }
 
 }  // namespace
@@ -122,10 +120,12 @@ ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projecti
 
 Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
     const OutputType type = TypeFor(run.options, run.settings);
-    Written written{photo.path, {}};
+    Written written{photo.path, {}, {}};
     try {
         written.file = TargetName(run, photo, record, type);
-        written.reason = WriteTo(written.file, run, photo, record, type);
+        const SaveResult saved = WriteTo(written.file, run, photo, record, type);
+        written.reason = saved.reason;
+        written.note = saved.note;
     } catch (const RunTimeError& error) {
         written.reason = QString::fromUtf8(error.what());
     } catch (const std::bad_alloc&) {

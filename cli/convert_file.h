@@ -41,6 +41,7 @@ ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projecti
 struct Written {
     QString file;    // the name written or meant
     QString reason;  // why it was not written; empty when it was
+    QString note;    // what the file is without; empty when it has everything
 };
 
 // Converts and writes. Never replaces a photo or a result of the run, an older file only with

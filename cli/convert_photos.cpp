@@ -26,6 +26,9 @@ bool WriteOne(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
         Report(console, written.file, written.reason);
         return false;
     }
+    if (!written.note.isEmpty()) {
+        Report(console, written.file, written.note);
+    }
     run.written.append(QFileInfo(written.file).canonicalFilePath());
     if (!run.options.quiet) {
         console.out << LocalText(written.file) << std::endl;

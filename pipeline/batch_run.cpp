@@ -78,6 +78,9 @@ class Run {
         if (!saved) {
             return Tr("could not write %1: %2").arg(path, saved.reason);
         }
+        if (!saved.note.isEmpty()) {
+            summary_.notes.push_back({path, saved.note});
+        }
         NoteWritten(entry, path, loaded);
         return {};
     }

@@ -66,6 +66,8 @@ QString SummaryText(const BatchSummary& summary) {
     text += Section(summary.damaged,
                     Tr("1 image is damaged and was written as far as it could be read:"),
                     Tr("%1 images are damaged and were written as far as they could be read:"));
+    text += Section(summary.notes, Tr("1 file does not hold everything:"),
+                    Tr("%1 files do not hold everything:"));
     text += Section(summary.replaced, Tr("1 file was replaced by a later image of the same name:"),
                     Tr("%1 files were replaced by later images of the same name:"));
     return text;

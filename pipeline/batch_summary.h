@@ -24,6 +24,7 @@ struct BatchSummary {
     QStringList written;  // one path for each photo written, in order
     std::vector<BatchTrouble> failures;
     std::vector<BatchTrouble> damaged;  // written as far as they could be read
+    std::vector<BatchTrouble> notes;    // written files and what they are without
     QStringList replaced;  // paths under which a later photo of the run replaced an earlier one
 
     bool Stopped() const { return done < queued; }

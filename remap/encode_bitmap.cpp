@@ -11,11 +11,14 @@
 #include <new>
 #include <utility>
 
+#include "remap/bitmap.h"
 #include "remap/library_messages.h"
 
 namespace varnel {
 
 namespace {
+
+constexpr QStringView notEnoughMemory = u"not enough memory";
 
 // The file that the library writes. A write that fails is remembered here, because the encoders go
 // on after one and report success.
@@ -76,7 +79,7 @@ class EncodedFile {
             }
             bytes_.resize(end);
         } catch (const std::bad_alloc&) {
-            trouble_ = QStringLiteral("not enough memory");
+            trouble_ = notEnoughMemory.toString();
             return false;
         }
         if (position_ > before) {
@@ -132,24 +135,58 @@ QString Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFil
     return {};
 }
 
-}  // namespace
-
-EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, qint64 largest) {
-    if (bitmap == nullptr) {
-        return {{}, QStringLiteral("there is no picture")};
-    }
+EncodedBitmap Encoded(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, qint64 largest) {
     try {
         EncodedFile file(largest);
         const QString reason = Encode(format, bitmap, flags, file);
         return reason.isEmpty() ? EncodedBitmap{std::move(file.Bytes()), {}}
                                 : EncodedBitmap{{}, reason};
     } catch (const std::bad_alloc&) {
-        return {{}, QStringLiteral("not enough memory")};
+        return {{}, notEnoughMemory.toString()};
     } catch (const std::exception& error) {
         return {{}, QString::fromLocal8Bit(error.what())};
     } catch (...) {  // the library throws plain texts, too
         return {{}, QStringLiteral("the picture could not be encoded")};
     }
+}
+
+// The same pixels, where they lie, and nothing else.
+BitmapHandle PixelsOf(FIBITMAP* bitmap) {
+    return BitmapHandle(FreeImage_ConvertFromRawBitsEx(
+        FALSE, FreeImage_GetBits(bitmap), FIT_BITMAP, SizeOf(bitmap).width, SizeOf(bitmap).height,
+        static_cast<int>(FreeImage_GetPitch(bitmap)), FreeImage_GetBPP(bitmap), FI_RGBA_RED_MASK,
+        FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
+}
+
+}  // namespace
+
+EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, qint64 largest) {
+    if (bitmap == nullptr) {
+        return {{}, QStringLiteral("there is no picture")};
+    }
+    EncodedBitmap whole = Encoded(format, bitmap, flags, largest);
+    const bool isPhoto = FreeImage_GetBPP(bitmap) == 24 && FreeImage_HasPixels(bitmap) == TRUE;
+    if (whole.reason.isEmpty() || whole.reason == notEnoughMemory || !isPhoto) {
+        return whole;
+    }
+    const struct {
+        bool metadata;
+        QString note;
+    } attempts[] = {{true, QStringLiteral("written without its colour profile: %1")},
+                    {false, QStringLiteral("written without its metadata: %1")}};
+    for (const auto& attempt : attempts) {
+        const BitmapHandle less = PixelsOf(bitmap);
+        if (less && attempt.metadata) {
+            CopyAllButPixels(less.get(), bitmap);
+            FreeImage_DestroyICCProfile(less.get());
+        }
+        EncodedBitmap encoded = Encoded(format, less.get(), flags, largest);
+        if (encoded.reason.isEmpty()) {
+            encoded.note = attempt.note.arg(whole.reason);
+            return encoded;
+        }
+    }
+    return whole;
 }
 
 }  // namespace varnel

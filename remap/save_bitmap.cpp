@@ -6,6 +6,7 @@
 #include <new>
 
 #include "remap/encode_bitmap.h"
+#include "state/whole_file.h"
 
 namespace varnel {
 
@@ -16,7 +17,8 @@ SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString&
         return {false, encoded.reason};
     }
     try {
-        return WriteWholeFile(fileName, encoded.bytes);
+        const WriteResult written = WriteWholeFile(fileName, encoded.bytes);
+        return {written.ok, written.reason, written ? encoded.note : QString()};
     } catch (const std::bad_alloc&) {
         return {false, QStringLiteral("not enough memory")};
     }

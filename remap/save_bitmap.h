@@ -7,13 +7,17 @@
 #include <QString>
 
 #include "remap/bitmap.h"
-#include "state/whole_file.h"
 
 namespace varnel {
 
 // True when the whole file is in place; otherwise the reason, and an older file of that name is as
 // it was.
-using SaveResult = WriteResult;
+struct SaveResult {
+    bool ok = false;
+    QString reason;
+    QString note = {};  // what of the picture is not in the file, and why; empty when all is
+    explicit operator bool() const { return ok; }
+};
 
 // Encodes in memory and replaces the file in one step, because the library itself reports success
 // for cut files on a full disk. flags are the library's for the format (the quality for JPEG).

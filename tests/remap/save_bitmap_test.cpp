@@ -56,6 +56,16 @@ TEST(EncodeBitmap, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
     }
 }
 
+TEST(EncodeBitmap, MetadataThatAnEncoderRefusesDoesNotCostThePicture) {
+    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
+    QByteArray noProfile(200, 'x');
+    FreeImage_CreateICCProfile(bitmap.get(), noProfile.data(), noProfile.size());
+    const EncodedBitmap png = EncodeBitmap(FIF_PNG, bitmap.get(), 0);
+    EXPECT_TRUE(png.bytes.startsWith("\x89PNG")) << png.reason.toStdString();
+    EXPECT_TRUE(png.note.startsWith(QStringLiteral("written without its colour profile: ")));
+    EXPECT_TRUE(EncodeBitmap(FIF_JPEG, bitmap.get(), 90).note.isEmpty());
+}
+
 TEST(EncodeBitmap, WhatCannotBeEncodedHasAReason) {
     EXPECT_FALSE(EncodeBitmap(FIF_PNG, nullptr, 0).reason.isEmpty());
     const BitmapHandle numbers(FreeImage_AllocateT(FIT_DOUBLE, 4, 3, 64, 0, 0, 0));

@@ -54,7 +54,7 @@ struct Type {
 
 class SaveFaults : public ::testing::TestWithParam<Type> {
   protected:
-    WriteResult Save(const QString& path) const {
+    SaveResult Save(const QString& path) const {
         return SaveBitmap(GetParam().format, picture_.get(), path, GetParam().flags);
     }
     const BitmapHandle picture_ = Noise({420, 320});
@@ -74,7 +74,7 @@ struct Tally {
     bool operator==(const Tally&) const = default;
 };
 
-void Count(const WriteResult& result, const QString& path, const QByteArray& before,
+void Count(const SaveResult& result, const QString& path, const QByteArray& before,
            const QByteArray& whole, const char16_t* words, Tally& tally) {
     const QByteArray contents = Contents(path);
     const qsizetype expected = result.ok || !before.isEmpty() ? 1 : 0;
@@ -100,7 +100,7 @@ TEST_P(SaveFaults, AFileThatCannotGrowIsNoSuccessAndKeepsTheOlderOne) {
             if (!before.isEmpty()) {
                 WriteFile(path, before);
             }
-            const WriteResult result = [&] {
+            const SaveResult result = [&] {
                 const testing::FileSizeLimit limit(LimitFor(i, static_cast<int>(whole_.size())));
                 return Save(path);
             }();
@@ -175,7 +175,7 @@ TEST_P(SaveFaults, AFullDiskIsNoSuccessAndKeepsTheOlderFile) {
                 if (!before.isEmpty()) {
                     WriteFile(path, before);
                 }
-                const WriteResult result = Save(path);
+                const SaveResult result = Save(path);
                 Count(result, path, before, whole_, u"No space left on device (while ", counted);
                 ::umount2(QFile::encodeName(folder.path()).constData(), MNT_DETACH);
             }

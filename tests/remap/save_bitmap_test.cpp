@@ -47,12 +47,12 @@ TEST(EncodeBitmap, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
         const QByteArray whole = EncodeBitmap(format, bitmap.get(), 0).bytes;
         for (const qint64 largest : {0LL, 1LL, whole.size() / 2, whole.size() - 1}) {
-            const EncodedBitmap cut = EncodeBitmap(format, bitmap.get(), 0, largest);
+            const EncodedBitmap cut = EncodeBitmap(format, bitmap.get(), 0, {.largest = largest});
             EXPECT_TRUE(cut.bytes.isEmpty());
             EXPECT_EQ(cut.reason,
                       QStringLiteral("the file would be larger than %1 bytes").arg(largest));
         }
-        EXPECT_EQ(EncodeBitmap(format, bitmap.get(), 0, whole.size()).bytes, whole);
+        EXPECT_EQ(EncodeBitmap(format, bitmap.get(), 0, {.largest = whole.size()}).bytes, whole);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <QtEndian>
 #include <algorithm>
+#include <iterator>
 
 namespace varnel {
 
@@ -140,6 +141,25 @@ void AddProfile(const PictureFile& file, const BmpHeader& header, FIBITMAP* bitm
     }
 }
 
+// Qt knows no header of 52 or 56 bytes. The first 40 bytes are those of the plain one, and the
+// three masks that follow them stand there in a plain one's file, too; the rest is taken out.
+QByteArray WithKnownHeader(QByteArray bytes, const BmpHeader& header) {
+    constexpr std::int64_t extendedBytes[] = {52, 56};
+    if (std::ranges::find(extendedBytes, header.headerBytes) == std::end(extendedBytes)) {
+        return bytes;
+    }
+    const bool masks = header.coding == BmpCoding::Masks || header.coding == BmpCoding::AlphaMasks;
+    const std::int64_t kept = plainHeaderBytes + (masks ? 12 : 0);
+    const std::int64_t removed = header.headerBytes - kept;
+    bytes.remove(fileHeaderBytes + kept, removed);
+    qToLittleEndian(static_cast<quint32>(header.pixelPlace - removed), bytes.data() + 10);
+    qToLittleEndian(static_cast<quint32>(plainHeaderBytes), bytes.data() + fileHeaderBytes);
+    if (masks) {
+        qToLittleEndian(static_cast<quint32>(BmpCoding::Masks), bytes.data() + 30);
+    }
+    return bytes;
+}
+
 }  // namespace
 
 std::optional<BmpHeader> ReadBmpHeader(const PictureFile& file) {
@@ -177,7 +197,10 @@ bool NeedsBmpReader(const BmpHeader& header) {
 }
 
 BitmapHandle LoadBmp(const PictureFile& file, const BmpHeader& header) {
-    QByteArray bytes = file.Read(0, file.Length());
+    if (file.Length() <= header.pixelPlace) {
+        return nullptr;
+    }
+    QByteArray bytes = WithKnownHeader(file.Read(0, file.Length()), header);
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, "bmp");

@@ -206,12 +206,18 @@ class Decoding {
     }
 
     // What the library gave, as an answer.
-    LoadedPicture Judged(BitmapHandle bitmap) const {
+    LoadedPicture Judged(BitmapHandle bitmap) {
         if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
             return LoadedPicture::Refused(messages_.Added(Undecodable()));
         }
         if (const QString trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
             return LoadedPicture::Refused(trouble);
+        }
+        if (format_ == FIF_TIFF && tiff_ && !tiff_->colourProfile.isEmpty()) {
+            // The library looks at its own only after it has given back the memory.
+            QByteArray& profile = tiff_->colourProfile;
+            FreeImage_CreateICCProfile(bitmap.get(), profile.data(),
+                                       static_cast<long>(profile.size()));
         }
         bitmap = To24Bits(std::move(bitmap));
         if (!bitmap) {

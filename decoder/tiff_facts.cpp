@@ -23,6 +23,7 @@ enum Tag : std::uint16_t {
     PreviewOffset = 513,
     PreviewLength = 514,
     ExifDirectory = 34665,
+    ColourProfile = 34675,
     DngVersion = 50706,
     CfaLayout = 50711,
     DefaultScale = 50718
@@ -35,6 +36,7 @@ constexpr std::array<std::int64_t, 19> typeBytes{0, 1, 1, 2, 4, 8, 1, 1, 2, 4,
 // A sound file has a handful of directories and some thousand strips at most.
 constexpr std::size_t mostDirectories = 1000;
 constexpr std::int64_t mostValues = 1 << 22;
+constexpr std::uint64_t mostProfile = 1 << 26;  // bytes
 
 struct Entry {
     std::uint16_t tag = 0;
@@ -184,6 +186,11 @@ class TiffWalk {
         const std::vector<std::uint64_t> turn = Values(entries, Orientation);
         if (first && !turn.empty()) {
             facts_.isTurned = turn.front() >= 5 && turn.front() <= 8;
+        }
+        const auto profile = std::ranges::find(entries, ColourProfile, &Entry::tag);
+        if (first && profile != entries.end() && typeBytes[profile->type] == 1) {
+            facts_.colourProfile = file_.Read(
+                profile->place, static_cast<std::int64_t>(std::min(profile->count, mostProfile)));
         }
     }
 

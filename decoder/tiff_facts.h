@@ -12,10 +12,11 @@
 namespace varnel {
 
 struct TiffFacts {
-    bool isCut = false;     // a directory, a value or pixel data lies beyond the file's end
-    bool isDng = false;     // a raw photo; as a plain TIFF it would show a thumbnail
-    bool isTurned = false;  // width and height change places when it is developed
-    bool isEven = true;     // its pixels are square and in rows and columns
+    bool isCut = false;        // a directory, a value or pixel data lies beyond the file's end
+    bool isDng = false;        // a raw photo; as a plain TIFF it would show a thumbnail
+    bool isTurned = false;     // width and height change places when it is developed
+    bool isEven = true;        // its pixels are square and in rows and columns
+    QByteArray colourProfile;  // of the first directory
 };
 
 // Nothing when the file does not begin like a TIFF.

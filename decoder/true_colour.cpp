@@ -3,7 +3,6 @@
 
 #include "decoder/true_colour.h"
 
-#include <QByteArray>
 #include <cmath>
 #include <new>
 
@@ -63,11 +62,18 @@ BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
     }
 }
 
-// The profile's header names the colours that it is for, as does no flag of the library.
-bool IsForRgb(const FIICCPROFILE* profile) {
-    constexpr unsigned place = 16;
-    return profile->data != nullptr && profile->size >= place + 4 &&
-           QByteArray::fromRawData(static_cast<const char*>(profile->data) + place, 4) == "RGB ";
+// PNG's library looks closely at a profile and refuses to write a picture whose profile is damaged
+// or describes other colours than red, green and blue. So it is asked with a single pixel.
+bool IsSoundForRgb(const FIICCPROFILE* profile) {
+    if (profile->data == nullptr) {
+        return false;
+    }
+    const BitmapHandle pixel(FreeImage_Allocate(1, 1, 24));
+    FreeImage_CreateICCProfile(pixel.get(), profile->data, static_cast<long>(profile->size));
+    FIMEMORY* const memory = FreeImage_OpenMemory();
+    const bool taken = FreeImage_SaveToMemory(FIF_PNG, pixel.get(), memory) == TRUE;
+    FreeImage_CloseMemory(memory);
+    return taken;
 }
 
 }  // namespace
@@ -80,7 +86,7 @@ BitmapHandle To24Bits(BitmapHandle bitmap) {
     BitmapHandle result;
     FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap.get());
     // Tone-mapped colours are no longer those of the profile.
-    const bool keepProfile = IsForRgb(profile) && !IsFloatColour(type);
+    const bool keepProfile = IsSoundForRgb(profile) && !IsFloatColour(type);
     if (type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24) {
         result = std::move(bitmap);
         if (!keepProfile) {

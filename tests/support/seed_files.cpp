@@ -3,6 +3,7 @@
 
 #include "tests/support/seed_files.h"
 
+#include "remap/library_messages.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/file_bytes.h"
 
@@ -172,6 +173,7 @@ std::vector<SeedFile> DescribedSeeds(FIBITMAP* picture) {
 }  // namespace
 
 std::vector<SeedFile> LibrarySeeds() {
+    const LibraryMessages unheard;
     const BitmapHandle picture = Picture();
     std::vector<SeedFile> seeds = DescribedSeeds(picture.get());
     for (const LibraryKind& kind : libraryKinds) {
@@ -206,13 +208,19 @@ QByteArray XmpPacket() {
            "<?xpacket end='w'?>";
 }
 
-// A display profile without any table of its own.
+// A display profile with a notice as its only table.
 QByteArray ColourProfile() {
-    QByteArray profile = Number(132, 4, Order::Big) + "none" + Number(0x02100000, 4, Order::Big) +
-                         "mntrRGB XYZ " + Numbers({2020, 5, 1, 12, 0, 0}, 2, Order::Big) + "acsp";
-    profile = profile.leftJustified(68, '\0') +
-              Numbers({0xf6d6, 0x10000, 0xd32d}, 4, Order::Big);  // the standard's white
-    return profile.leftJustified(132, '\0');
+    constexpr int headerBytes = 128;
+    const QByteArray notice = "text" + Number(0, 4) + PatternBytes(100);
+    const QByteArray table = Number(1, 4, Order::Big) + "cprt" +
+                             Numbers({headerBytes + 16, notice.size()}, 4, Order::Big) + notice;
+    const QByteArray profile = Number(headerBytes + table.size(), 4, Order::Big) + "none" +
+                               Number(0x02100000, 4, Order::Big) + "mntrRGB XYZ " +
+                               Numbers({2020, 5, 1, 12, 0, 0}, 2, Order::Big) + "acsp";
+    return (profile.leftJustified(68, '\0') +
+            Numbers({0xf6d6, 0x10000, 0xd32d}, 4, Order::Big))  // the standard's white
+               .leftJustified(headerBytes, '\0') +
+           table;
 }
 
 const std::vector<SeedFile>& SeedFiles() {

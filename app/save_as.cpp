@@ -31,7 +31,7 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
         return SaveBitmap(FormatOf(type), state_.bitmaps.ResultBitmap.get(), choice.name,
-                          SaveFlags(type, state_.settings.JPEGcompression));
+                          SaveFlags(type, state_.settings.JPEGcompression), &runner_);
     } catch (const RunTimeError& error) {
         return {false, QString::fromUtf8(error.what())};
     } catch (const std::bad_alloc&) {

@@ -89,7 +89,7 @@ SaveResult WriteTo(const QString& target, const ConversionRun& run, OpenPhoto& p
     RenderInto(run, photo, record);
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
     return SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
-                      SaveFlags(type, quality));
+                      SaveFlags(type, quality), &run.runner);
 }
 
 }  // namespace

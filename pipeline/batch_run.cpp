@@ -4,11 +4,13 @@
 #include "pipeline/batch_run.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QSet>
-#include <filesystem>
+#include <algorithm>
 #include <new>
+#include <optional>
 
+#include "pipeline/batch_targets.h"
+#include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/run_time_error.h"
 
@@ -20,138 +22,297 @@ QString Tr(const char* text) {
     return QCoreApplication::translate("Batch", text);
 }
 
-// Through links too, and on cards that do not tell small from capital letters.
-bool SameFile(const QString& a, const QString& b) {
-    std::error_code notThere;
-    return std::filesystem::equivalent(QFileInfo(a).filesystemFilePath(),
-                                       QFileInfo(b).filesystemFilePath(), notThere);
-}
+// One entry on its way. The observer hears of it only when the one before it is done.
+struct Turn {
+    int entry = 0;  // from 1
+    BitmapHandle result{};
+    QString path{};     // where it is written; empty when the photo could not be loaded
+    QString trouble{};  // why it is not written; empty when it is
+    QString damage{};   // of the photo; empty when it is sound
+    bool announced = false;
+    float maximum = 0.0F;  // of its progress; 0 until it begins
+    bool rendered = false;
+};
 
-class Run {
+class Run : private RenderProgress {
   public:
     Run(RecordArray<ImageRecord>& queue, const BatchChoices& choices, BatchObserver& observer,
         const BatchPorts& ports)
-        : queue_(queue), choices_(choices), observer_(observer), ports_(ports) {}
+        : queue_(queue),
+          choices_(choices),
+          observer_(observer),
+          ports_(ports),
+          overlaps_(ports.readAhead),
+          targets_(queue),
+          worker_(overlaps_) {}
 
     BatchSummary Go() {
         summary_.folder = choices_.folder;
         summary_.queued = queue_.UpperBound();
-        while (summary_.done < summary_.queued) {
-            ImageRecord& entry = queue_(summary_.done + 1);
-            const QString trouble = TroubleWith(entry);
-            if (!trouble.isEmpty()) {
-                summary_.failures.push_back({SourcePath(entry), trouble});
-            }
-            ++summary_.done;
-            observer_.Done(summary_.done, summary_.queued);
-            if (observer_.StopAsked()) {
-                break;
+        if (overlaps_) {
+            NoteOutputs();
+        }
+        for (int n = 1; n <= summary_.queued && !stopped_; ++n) {
+            turn_ = Turn{.entry = n, .result = std::move(turn_.result)};
+            Convert(queue_(n));
+            FinishWriting();
+            if (!stopped_) {
+                Announce();
+                Conclude();
             }
         }
+        FinishWriting();
         return std::move(summary_);
     }
 
   private:
-    QString TroubleWith(ImageRecord& entry) {
+    void Convert(ImageRecord& entry) {
         try {
-            return Convert(entry);
-        } catch (const std::bad_alloc&) {
-            return Tr("there is not enough memory");
-        } catch (const std::exception& error) {  // RunTimeError among them
-            return QString::fromUtf8(error.what());
-        }
-    }
-
-    // The reason when nothing was written.
-    QString Convert(ImageRecord& entry) {
-        LoadedPicture loaded = ports_.load(SourcePath(entry));
-        if (loaded.outcome == LoadOutcome::NotLoaded) {
-            return loaded.reason;
-        }
-        TakeSize(SizeOf(loaded.bitmap.get()), entry);
-        const QString path = BatchPath(entry, choices_);
-        observer_.Naming(path);
-        if (const QString trouble = TargetTrouble(entry, path, loaded); !trouble.isEmpty()) {
-            return trouble;
-        }
-        const SaveResult saved = RenderAndSave(entry, std::move(loaded.bitmap), path);
-        if (!saved) {
-            return Tr("could not write %1: %2").arg(path, saved.reason);
-        }
-        if (!saved.note.isEmpty()) {
-            summary_.notes.push_back({path, saved.note});
-        }
-        NoteWritten(entry, path, loaded);
-        return {};
-    }
-
-    SaveResult RenderAndSave(const ImageRecord& entry, BitmapHandle source, const QString& path) {
-        Bitmaps bitmaps;
-        bitmaps.FullSourceBitmap = std::move(source);
-        RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
-        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, observer_.Progress(),
-               desk);
-        bitmaps.FullSourceBitmap.reset();  // encoding needs room of its own
-        return ports_.save(FormatOf(choices_.type), bitmaps.ResultBitmap.get(), path,
-                           SaveFlags(choices_.type, choices_.jpegQuality));
-    }
-
-    QString TargetTrouble(const ImageRecord& entry, const QString& path,
-                          const LoadedPicture& loaded) const {
-        if (!QFileInfo::exists(path)) {
-            return {};
-        }
-        if (SameFile(path, SourcePath(entry))) {
-            return Tr("%1 is the photo itself").arg(path);
-        }
-        if (IsQueued(path)) {
-            return Tr("%1 is one of the queued photos").arg(path);
-        }
-        if (loaded.outcome == LoadOutcome::Damaged && !halfPictures_.contains(path)) {
-            return Tr("the photo is damaged (%1) and does not replace the older %2")
-                .arg(loaded.reason, path);
-        }
-        return {};
-    }
-
-    bool IsQueued(const QString& path) const {
-        QString last;
-        for (const ImageRecord& entry : queue_) {
-            const QString source = SourcePath(entry);
-            if (source != last && SameFile(path, source)) {  // frames share their photo
-                return true;
+            if (Load(SourcePath(entry))) {
+                LoadedConvert(entry);
+            } else {
+                turn_.trouble = source_.reason;
             }
-            last = source;
+        } catch (const std::bad_alloc&) {
+            turn_.trouble = Tr("there is not enough memory");
+        } catch (const std::exception& error) {  // RunTimeError among them
+            turn_.trouble = QString::fromUtf8(error.what());
         }
-        return false;
+        if (!NextHasSamePhoto()) {
+            DropSource();  // encoding needs room of its own
+        }
     }
 
-    void NoteWritten(const ImageRecord& entry, const QString& path, const LoadedPicture& loaded) {
-        if (summary_.written.contains(path) && !summary_.replaced.contains(path)) {
-            summary_.replaced.append(path);
+    void LoadedConvert(ImageRecord& entry) {
+        TakeSize(SizeOf(source_.bitmap.get()), entry);
+        turn_.damage = source_.reason;
+        turn_.path = BatchPath(entry, choices_);
+        if (writing_ && writing_->path == turn_.path) {
+            FinishWriting();
         }
-        summary_.written.append(path);
-        if (loaded.outcome == LoadOutcome::Damaged) {
-            summary_.damaged.push_back({SourcePath(entry), loaded.reason});
-            halfPictures_.insert(path);
-        } else {
-            halfPictures_.remove(path);
+        if (!writing_ && !stopped_) {
+            Announce();
+        }
+        turn_.trouble = targets_.Trouble(entry, turn_.path, turn_.damage);
+        if (turn_.trouble.isEmpty() && !stopped_) {
+            RenderTurn(entry);
         }
     }
+
+    void RenderTurn(const ImageRecord& entry) {
+        Bitmaps bitmaps;
+        bitmaps.FullSourceBitmap = std::move(source_.bitmap);
+        bitmaps.ResultBitmap = std::move(turn_.result);
+        RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
+        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, *this, desk);
+        source_.bitmap = std::move(bitmaps.FullSourceBitmap);
+        turn_.result = std::move(bitmaps.ResultBitmap);
+    }
+
+    // Reading. Frames of a sequence share their photo.
+
+    bool Load(const QString& path) {
+        if (!source_.bitmap || sourcePath_ != path) {
+            DropSource();
+            source_ = ports_.load(path);
+            sourcePath_ = path;
+            NoteLoaded(path);
+            ReadAhead();
+        }
+        return source_.outcome != LoadOutcome::NotLoaded;
+    }
+
+    // A photo that was not the next one ends what was read ahead.
+    void NoteLoaded(const QString& path) {
+        if (!ahead_.isEmpty() && ahead_.first() == path) {
+            ahead_.removeFirst();
+        } else {
+            ahead_.clear();
+            lastAhead_ = turn_.entry;
+        }
+    }
+
+    void DropSource() {
+        source_ = {};
+        sourcePath_.clear();
+    }
+
+    bool NextHasSamePhoto() const {
+        return overlaps_ && turn_.entry < summary_.queued && source_.bitmap &&
+               SourcePath(queue_(turn_.entry + 1)) == sourcePath_;
+    }
+
+    void ReadAhead() {
+        while (overlaps_ && ahead_.size() < ports_.aheadAtMost && lastAhead_ < summary_.queued) {
+            const QString path = SourcePath(queue_(lastAhead_ + 1));
+            if (path == SourcePath(queue_(lastAhead_))) {
+                ++lastAhead_;
+                continue;
+            }
+            if (outputs_.contains(path)) {
+                return;  // has to be written first
+            }
+            ports_.readAhead(path);
+            ++lastAhead_;
+            ahead_.append(path);
+        }
+    }
+
+    // Photos that this run writes itself, however odd that is.
+    void NoteOutputs() {
+        for (const ImageRecord& entry : queue_) {
+            try {
+                outputs_.insert(BatchPath(entry, choices_));
+            } catch (const RunTimeError&) {  // will be told in its turn
+            }
+        }
+    }
+
+    // Writing.
+
+    void Conclude() {
+        if (!turn_.trouble.isEmpty()) {
+            EndTurn(turn_);
+            return;
+        }
+        writing_ = std::move(turn_);
+        turn_.result = std::move(spare_);
+        worker_.Begin([this, path = writing_->path, bitmap = writing_->result.get()] {
+            return Save(bitmap, path);
+        });
+        if (!overlaps_) {
+            FinishWriting();
+        }
+    }
+
+    SaveResult Save(FIBITMAP* bitmap, const QString& path) {
+        const FREE_IMAGE_FORMAT format = FormatOf(choices_.type);
+        const int flags = SaveFlags(choices_.type, choices_.jpegQuality);
+        return ports_.save ? ports_.save(format, bitmap, path, flags)
+                           : SaveBitmap(format, bitmap, path, flags, &saveRunner_);
+    }
+
+    void FinishWriting() {
+        if (!writing_) {
+            return;
+        }
+        while (!worker_.Wait(betweenEvents)) {
+            observer_.Progress().HandleEvents();
+        }
+        const SaveResult saved = worker_.Take();
+        Turn written = std::move(*writing_);
+        writing_.reset();
+        spare_ = std::move(written.result);
+        if (saved) {
+            Note(written, saved.note);
+        } else {
+            written.trouble = Tr("could not write %1: %2").arg(written.path, saved.reason);
+        }
+        EndTurn(written);
+    }
+
+    void Note(const Turn& turn, const QString& note) {
+        if (!note.isEmpty()) {
+            summary_.notes.push_back({turn.path, note});
+        }
+        if (summary_.written.contains(turn.path) && !summary_.replaced.contains(turn.path)) {
+            summary_.replaced.append(turn.path);
+        }
+        summary_.written.append(turn.path);
+        if (!turn.damage.isEmpty()) {
+            summary_.damaged.push_back({SourcePath(queue_(turn.entry)), turn.damage});
+        }
+        targets_.NoteWritten(turn.path, !turn.damage.isEmpty());
+    }
+
+    void EndTurn(const Turn& turn) {
+        if (!turn.trouble.isEmpty()) {
+            summary_.failures.push_back({SourcePath(queue_(turn.entry)), turn.trouble});
+        }
+        ++summary_.done;
+        observer_.Done(summary_.done, summary_.queued);
+        stopped_ = observer_.StopAsked();
+    }
+
+    // Telling.
+
+    void Announce() {
+        if (turn_.announced || turn_.path.isEmpty()) {
+            return;
+        }
+        turn_.announced = true;
+        observer_.Naming(turn_.path);
+        if (turn_.maximum > 0.0F) {
+            observer_.Progress().Begin(turn_.maximum);
+        }
+        if (turn_.rendered) {
+            observer_.Progress().End();
+        }
+    }
+
+    void HandleEvents() override { observer_.Progress().HandleEvents(); }
+
+    void Begin(float maximum) override {
+        turn_.maximum = maximum;
+        if (turn_.announced) {
+            observer_.Progress().Begin(maximum);
+        }
+    }
+
+    void Advance(float value) override {
+        if (writing_ && worker_.Wait(0)) {
+            FinishWriting();
+        }
+        if (!writing_ && !stopped_) {
+            Announce();
+        }
+        if (turn_.announced) {
+            observer_.Progress().Advance(value);
+        } else {
+            HandleEvents();
+        }
+    }
+
+    void End() override {
+        turn_.rendered = true;
+        if (turn_.announced) {
+            observer_.Progress().End();
+        }
+    }
+
+    static constexpr int betweenEvents = 10;  // ms
 
     RecordArray<ImageRecord>& queue_;
     const BatchChoices& choices_;
     BatchObserver& observer_;
     const BatchPorts& ports_;
+    const bool overlaps_;
     ThreadRunner runner_;
+    ThreadRunner saveRunner_;  // on the writing thread
+    BatchTargets targets_;
+    QSet<QString> outputs_;
     BatchSummary summary_;
-    QSet<QString> halfPictures_;  // written by this run from damaged photos
+    LoadedPicture source_;
+    QString sourcePath_;
+    int lastAhead_ = 0;  // the last entry whose photo was begun to be read
+    QStringList ahead_;  // photos begun to be read and not loaded yet
+    Turn turn_;
+    std::optional<Turn> writing_;
+    BitmapHandle spare_;
+    bool stopped_ = false;
+    SaveWorker worker_;  // last: it ends before what it works with
 };
 
 }  // namespace
 
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
     return BatchName(entry, choices.folder, choices.additions, choices.type);
+}
+
+BatchPorts BatchPortsFor(PhotoFeed& feed) {
+    return {.load = [&feed](const QString& path) { return feed.Take(path); },
+            .readAhead = [&feed](const QString& path) { feed.ReadAhead(path); },
+            .aheadAtMost = feed.Readers()};
 }
 
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,

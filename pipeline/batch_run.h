@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The batch: every queued photo converted at full size, each with its own settings, and written
-// into one folder. Only one photo is in memory at a time, however long the queue is.
+// into one folder. However long the queue is, only the photos at work are in memory.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@
 
 #include "pipeline/batch_summary.h"
 #include "pipeline/output_name.h"
-#include "pipeline/photo_loader.h"
+#include "pipeline/photo_feed.h"
 #include "remap/render.h"
 #include "remap/save_bitmap.h"
 #include "state/record_array.h"
@@ -49,8 +49,16 @@ struct BatchPorts {
     std::function<LoadedPicture(const QString& path)> load;
     std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
                              int flags)>
-        save = SaveBitmap;
+        save{};  // none: SaveBitmap
+    // Told of the photos that are loaded next, as far ahead as it wishes; where it is there, one
+    // photo is read and another one written (save is called on another thread then) while a third
+    // is converted. Nobody can tell from what the observer hears or from the files.
+    std::function<void(const QString& path)> readAhead{};
+    int aheadAtMost = 1;  // photos
 };
+
+// Photos from the feed, as far ahead as it has readers.
+BatchPorts BatchPortsFor(PhotoFeed& feed);
 
 // Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
 // changed. An entry that fails is noted and nothing is written for it. A file that is a photo of

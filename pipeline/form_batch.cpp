@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QRegularExpressionValidator>
+#include <QThread>
 #include <array>
 
 #include "pipeline/batch_checks.h"
@@ -220,10 +221,8 @@ void FormBatch::Process() {
     progress_->Start(queue_.UpperBound());
     ShowRunning(true);
     EventsMeanwhile wait;
-    PhotoLoader photos(reader_, &wait);
-    const BatchSummary summary =
-        RunBatch(queue_, choices_, *progress_,
-                 {.load = [&photos](const QString& path) { return photos.Load(path); }});
+    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait);
+    const BatchSummary summary = RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
     ShowRunning(false);
     progress_->Stop();
     ClearQueue();

@@ -211,7 +211,7 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
     RenderStretch(Curve(), SizeKind::Large, progress, desk);
     const OutputType type = TypeOf(choice);
     const SaveResult saved = SaveBitmap(FormatOf(type), bitmaps_.ResultBitmap.get(), choice.name,
-                                        SaveFlags(type, settings_.JPEGcompression));
+                                        SaveFlags(type, settings_.JPEGcompression), &runner_);
     if (saved) {
         ui_->LabelStatus->setText(tr("Saved %1").arg(choice.name));
         ui_->LabelStatus->setToolTip(choice.name);

@@ -11,8 +11,8 @@
 namespace varnel {
 
 SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
-                      int flags) {
-    const EncodedBitmap encoded = EncodeBitmap(format, bitmap, flags);
+                      int flags, BlockRunner* runner) {
+    const EncodedBitmap encoded = EncodeBitmap(format, bitmap, flags, {.runner = runner});
     if (!encoded.reason.isEmpty()) {
         return {false, encoded.reason};
     }

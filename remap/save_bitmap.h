@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "remap/bitmap.h"
+#include "remap/engine/block_runner.h"
 
 namespace varnel {
 
@@ -20,8 +21,9 @@ struct SaveResult {
 };
 
 // Encodes in memory and replaces the file in one step, because the library itself reports success
-// for cut files on a full disk. flags are the library's for the format (the quality for JPEG).
+// for cut files on a full disk. flags are the library's for the format (the quality for JPEG). The
+// runner shares the encoding out to the cores where the format allows.
 SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
-                      int flags);
+                      int flags, BlockRunner* runner = nullptr);
 
 }  // namespace varnel

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/photo_feed.h"
+
+#include <algorithm>
+
+namespace varnel {
+
+namespace {
+
+constexpr int betweenQuestions = 15;  // ms; events are handled that often
+constexpr int mostReaders = 4;        // each may hold a whole picture
+
+}  // namespace
+
+PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait)
+    : first_(reader), wait_(wait) {
+    for (int n = 0; n < more; ++n) {
+        more_.push_back(NewPictureReader());
+    }
+}
+
+PhotoFeed::~PhotoFeed() {
+    GiveUp();
+}
+
+void PhotoFeed::GiveUp() {
+    for (const UnderWay& photo : underWay_) {
+        photo.reader->Cancel();
+    }
+    underWay_.clear();
+}
+
+PictureReader* PhotoFeed::FreeReader() const {
+    const auto isFree = [this](const PictureReader* reader) {
+        return std::ranges::none_of(underWay_,
+                                    [&](const UnderWay& photo) { return photo.reader == reader; });
+    };
+    if (isFree(&first_)) {
+        return &first_;
+    }
+    for (const auto& reader : more_) {
+        if (isFree(reader.get())) {
+            return reader.get();
+        }
+    }
+    return nullptr;
+}
+
+void PhotoFeed::ReadAhead(const QString& path) {
+    if (PictureReader* const reader = FreeReader()) {
+        underWay_.push_back({path, reader});
+        reader->Begin({path, ReadKind::Whole, {}});
+    }
+}
+
+LoadedPicture PhotoFeed::Take(const QString& path) {
+    if (underWay_.empty() || underWay_.front().path != path) {
+        GiveUp();
+        ReadAhead(path);
+    }
+    const UnderWay photo = underWay_.front();
+    LoadedPicture picture = WaitFor(photo);
+    underWay_.pop_front();
+    return picture;
+}
+
+LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
+    wait_.Begin(photo.path);
+    bool goesOn = true;
+    while (goesOn && !photo.reader->Wait(betweenQuestions)) {
+        goesOn = wait_.Continue();
+    }
+    wait_.End();
+    if (!goesOn) {
+        photo.reader->Cancel();
+        return LoadedPicture::Refused(readingCancelled.toString());
+    }
+    return photo.reader->Take();
+}
+
+int MoreReaders(int cores) {
+    return std::clamp(cores / 2, 1, mostReaders) - 1;
+}
+
+}  // namespace varnel

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Photos read ahead by one or more decoders, taken in the order in which they were asked for.
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include "pipeline/photo_loader.h"
+
+namespace varnel {
+
+class PhotoFeed {
+  public:
+    // Each reader reads one photo at a time; the first is somebody else's, who does not use it
+    // meanwhile. As many more are started as further photos shall be read at once.
+    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait);
+    // Gives up what was read ahead and not taken.
+    ~PhotoFeed();
+    PhotoFeed(const PhotoFeed&) = delete;
+    PhotoFeed& operator=(const PhotoFeed&) = delete;
+
+    // Starts on the photo that comes next after those that were started on, if a reader is free.
+    void ReadAhead(const QString& path);
+    // The photo that was started on first, if it is this one; else reads it now, and what was
+    // started on is given up.
+    LoadedPicture Take(const QString& path);
+    // How many photos may be read at once.
+    int Readers() const { return static_cast<int>(1 + more_.size()); }
+
+  private:
+    struct UnderWay {
+        QString path;
+        PictureReader* reader;
+    };
+    PictureReader* FreeReader() const;
+    void GiveUp();
+    LoadedPicture WaitFor(const UnderWay& photo);
+
+    PictureReader& first_;
+    std::vector<std::unique_ptr<PictureReader>> more_;
+    ReadingWait& wait_;
+    std::deque<UnderWay> underWay_;
+};
+
+// How many decoders beside the first are worth while for a run that may use this many cores.
+int MoreReaders(int cores);
+
+}  // namespace varnel

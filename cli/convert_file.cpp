@@ -6,11 +6,10 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
-#include <new>
 
+#include "pipeline/morph_sequence.h"
 #include "pipeline/output_name.h"
 #include "pipeline/preview_size.h"
-#include "remap/run_time_error.h"
 #include "remap/save_bitmap.h"
 #include "state/gear_assignment.h"
 #include "state/record_fields.h"
@@ -26,7 +25,7 @@ OutputType TypeFor(const Options& options, const GeneralSettings& settings) {
     return OutputTypeByEnding(options.output).value_or(OutputTypeFromText(settings.FileType));
 }
 
-QString TargetName(const ConversionRun& run, const OpenPhoto& photo, const ImageRecord& record,
+QString TargetName(const ConversionRun& run, const QString& path, const ImageRecord& record,
                    OutputType type) {
     if (!run.options.output.isEmpty()) {
         return run.options.output;
@@ -35,16 +34,26 @@ QString TargetName(const ConversionRun& run, const OpenPhoto& photo, const Image
         return BatchName(record, run.options.outputDir, {}, type);
     }
     if (run.options.morph) {  // the frames have nothing but their batch names to tell them apart
-        return QDir::cleanPath(BatchName(record, QFileInfo(photo.path).path(), {}, type));
+        return QDir::cleanPath(BatchName(record, QFileInfo(path).path(), {}, type));
     }
-    return ProposedName(photo.path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
+    return ProposedName(path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
 }
 
-bool SameFile(const QFileInfo& file, const QString& path) {
-    return file.canonicalFilePath() == QFileInfo(path).canonicalFilePath();
+MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
+    const Projection projection = ProjectionFromIndex(record.Projection);
+    MorphEnds ends = EndsFrom(record);
+    for (const Adjustment& from : options.from) {
+        *MorphValue(ends.start, projection, from.field) = from.value;
+    }
+    for (const Adjustment& to : options.to) {
+        *MorphValue(ends.end, projection, to.field) = to.value;
+    }
+    return ends;
 }
 
-QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QString& target) {
+}  // namespace
+
+QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
     const QFileInfo file(target);
     if (!file.exists()) {
         return {};
@@ -52,12 +61,11 @@ QString TargetTrouble(const ConversionRun& run, const OpenPhoto& photo, const QS
     if (file.isDir()) {
         return QStringLiteral("this is a folder");
     }
-    if (SameFile(file, photo.path)) {
+    if (FileIdentity(target) == FileIdentity(photo.path)) {
         return QStringLiteral("this is the photo itself");
     }
     // One that is yet to be converted, say: "varnel *" where an earlier result lies.
-    if (std::ranges::any_of(run.options.files,
-                            [&](const QString& path) { return SameFile(file, path); })) {
+    if (run.photos.Contains(target)) {
         return QStringLiteral("this is one of the photos to convert");
     }
     if (run.written.contains(file.canonicalFilePath())) {
@@ -81,25 +89,19 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
     Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
 }
 
-SaveResult WriteTo(const QString& target, const ConversionRun& run, OpenPhoto& photo,
-                   const ImageRecord& record, OutputType type) {
-    if (const QString trouble = TargetTrouble(run, photo, target); !trouble.isEmpty()) {
-        return {false, trouble};
-    }
-    RenderInto(run, photo, record);
+SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
+                  BlockRunner& runner) {
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
-    return SaveBitmap(FormatOf(type), photo.bitmaps.ResultBitmap.get(), target,
-                      SaveFlags(type, quality), &run.runner);
+    return SaveBitmap(FormatOf(target.type), result, target.file, SaveFlags(target.type, quality),
+                      &runner);
 }
 
-}  // namespace
-
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP* picture) {
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size) {
     ImageRecord record;
     const QFileInfo file(path);
     record.FileName = file.fileName();
     record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
-    TakeSize(SizeOf(picture), record);
+    TakeSize(size, record);
     AssignGear(run.gear, record);
     for (const Adjustment& adjustment : run.options.adjustments) {
         const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));
@@ -109,29 +111,30 @@ ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP*
     return record;
 }
 
-ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projection projection) {
-    ImageRecord record = photo.record;
-    record.Projection = static_cast<std::int16_t>(projection);
-    for (const auto& [field, value] : run.options.fields) {
-        SetField(record, field, value);
+std::vector<ImageRecord> RecordsFor(const ConversionRun& run, const ImageRecord& start) {
+    std::vector<ImageRecord> records;
+    for (const Projection projection : run.options.projections) {
+        ImageRecord record = start;
+        record.Projection = static_cast<std::int16_t>(projection);
+        for (const auto& [field, value] : run.options.fields) {
+            SetField(record, field, value);
+        }
+        if (!run.options.morph) {
+            records.push_back(record);
+            continue;
+        }
+        const MorphEnds ends = EndsFor(run.options, record);
+        for (int i = 1; i <= *run.options.morph; ++i) {
+            records.push_back(MorphFrame(record, ends, i, *run.options.morph));
+        }
     }
-    return record;
+    return records;
 }
 
-Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
+ConversionTarget TargetFor(const ConversionRun& run, const QString& path,
+                           const ImageRecord& record) {
     const OutputType type = TypeFor(run.options, run.settings);
-    Written written{photo.path, {}, {}};
-    try {
-        written.file = TargetName(run, photo, record, type);
-        const SaveResult saved = WriteTo(written.file, run, photo, record, type);
-        written.reason = saved.reason;
-        written.note = saved.note;
-    } catch (const RunTimeError& error) {
-        written.reason = QString::fromUtf8(error.what());
-    } catch (const std::bad_alloc&) {
-        written.reason = QStringLiteral("not enough memory");
-    }
-    return written;
+    return {TargetName(run, path, record, type), type};
 }
 
 }  // namespace varnel

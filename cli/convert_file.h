@@ -4,12 +4,15 @@
 // One photo, one projection, one file.
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 #include "cli/options.h"
 #include "gear/gear_record.h"
+#include "pipeline/file_set.h"
 #include "pipeline/photo_loader.h"
 #include "remap/render.h"
+#include "remap/save_bitmap.h"
 #include "state/general_settings.h"
 
 namespace varnel {
@@ -21,7 +24,8 @@ struct ConversionRun {
     const GeneralSettings& settings;
     RenderProgress& progress;
     BlockRunner& runner;
-    QStringList written = {};  // canonical names of the files written so far
+    FileSet photos;              // those of the run
+    QSet<QString> written = {};  // canonical names of the files written so far
 };
 
 // A photo that was read, and the record that its conversions start from.
@@ -33,19 +37,30 @@ struct OpenPhoto {
 };
 
 // The record of a photo with its size known: gear, then the options' adjustments.
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, FIBITMAP* picture);
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size);
 
-// The photo's record for one projection; the fields that --set names have the last word.
-ImageRecord RecordFor(const ConversionRun& run, const OpenPhoto& photo, Projection projection);
+// Every record that a photo is converted with: its projections, or the frames of its sequence. The
+// fields that --set names have the last word.
+std::vector<ImageRecord> RecordsFor(const ConversionRun& run, const ImageRecord& start);
 
-struct Written {
-    QString file;    // the name written or meant
-    QString reason;  // why it was not written; empty when it was
-    QString note;    // what the file is without; empty when it has everything
+// Where a conversion goes.
+struct ConversionTarget {
+    QString file;
+    OutputType type = OutputType::Tiff;
 };
+// Throws RunTimeError when a number of the record cannot stand in a name.
+ConversionTarget TargetFor(const ConversionRun& run, const QString& path,
+                           const ImageRecord& record);
 
-// Converts and writes. Never replaces a photo or a result of the run, an older file only with
-// --force, and not even then by a conversion of a damaged photo.
-Written ConvertPhoto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record);
+// Why nothing is written there; empty when it may be. Never replaces a photo or a result of the
+// run, an older file only with --force, and not even then by a conversion of a damaged photo.
+QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target);
+
+// Replaces the photo's ResultBitmap. Throws RunTimeError and std::bad_alloc.
+void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record);
+
+// Encodes with the runner and writes.
+SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
+                  BlockRunner& runner);
 
 }  // namespace varnel

@@ -4,108 +4,216 @@
 #include "cli/convert_photos.h"
 
 #include <QFileInfo>
+#include <QThread>
+#include <new>
+#include <optional>
 
 #include "cli/convert_file.h"
 #include "cli/progress_bar.h"
-#include "pipeline/morph_sequence.h"
+#include "pipeline/photo_feed.h"
+#include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/run_time_error.h"
 
 namespace varnel {
 
 namespace {
 
-void Report(const Console& console, const QString& file, const QString& reason) {
-    Complain(console, file + QStringLiteral(": ") + reason);
-}
+// While one photo is converted the next is read and the last one written; what is told is told in
+// the photos' order all the same.
+class Conversions {
+  public:
+    Conversions(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
+                const Console& console)
+        : jobs_(options.jobs.value_or(QThread::idealThreadCount())),
+          console_(console),
+          reader_(NewPictureReader()),
+          feed_(std::in_place, *reader_, MoreReaders(jobs_), wait_),
+          bar_(console.err),
+          runner_(jobs_),
+          saveRunner_(jobs_),
+          run_{options,
+               gear,
+               settings,
+               console.bar && !options.quiet ? static_cast<RenderProgress&>(bar_) : silent_,
+               runner_,
+               FileSet(options.files)},
+          worker_(jobs_ > 1) {}
 
-// One conversion; true when it was written.
-bool WriteOne(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
-              const Console& console) {
-    const Written written = ConvertPhoto(run, photo, record);
-    if (!written.reason.isEmpty()) {
-        Report(console, written.file, written.reason);
-        return false;
+    // True when all were written from sound pictures.
+    bool Go() {
+        files_ = FilesToDo();
+        for (qsizetype n = 0; n < files_.size(); ++n) {
+            bar_.SetLabel(files_[n]);
+            ConvertPhoto(n);
+        }
+        FinishWriting();
+        return allWell_;
     }
-    if (!written.note.isEmpty()) {
-        Report(console, written.file, written.note);
-    }
-    run.written.append(QFileInfo(written.file).canonicalFilePath());
-    if (!run.options.quiet) {
-        console.out << LocalText(written.file) << std::endl;
-    }
-    return true;
-}
 
-MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
-    const Projection projection = ProjectionFromIndex(record.Projection);
-    MorphEnds ends = EndsFrom(record);
-    for (const Adjustment& from : options.from) {
-        *MorphValue(ends.start, projection, from.field) = from.value;
-    }
-    for (const Adjustment& to : options.to) {
-        *MorphValue(ends.end, projection, to.field) = to.value;
-    }
-    return ends;
-}
+  private:
+    struct Writing {
+        ConversionTarget target;
+        BitmapHandle result;
+    };
 
-// The frames that start from the record; true when all were written.
-bool WriteMorph(ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
-                const Console& console) {
-    const MorphEnds ends = EndsFor(run.options, record);
-    const int frames = *run.options.morph;
-    bool allWritten = true;
-    for (int i = 1; i <= frames; ++i) {
-        allWritten =
-            WriteOne(run, photo, MorphFrame(record, ends, i, frames), console) && allWritten;
+    // Without those of which every result lies there already, if the options say so.
+    QStringList FilesToDo() {
+        QStringList files;
+        for (const QString& file : run_.options.files) {
+            if (!run_.options.skipExisting || !IsDone(file)) {
+                files.append(file);
+            }
+        }
+        return files;
     }
-    return allWritten;
-}
 
-// Every projection of one photo; true when all were written from a sound picture.
-bool ConvertOne(ConversionRun& run, PhotoLoader& photos, const QString& path,
-                const Console& console) {
-    LoadedPicture loaded = photos.Load(path);
-    if (loaded.outcome != LoadOutcome::Loaded) {
-        Report(console, path, loaded.reason);
+    bool IsDone(const QString& file) {
+        const std::optional<PixelSize> size = PhotoLoader(*reader_).Size(file);
+        if (!size) {
+            return false;  // its trouble is told in its turn
+        }
+        try {
+            const auto records = RecordsFor(run_, StartRecord(run_, file, *size));
+            return std::ranges::all_of(records, [&](const ImageRecord& record) {
+                return QFileInfo::exists(TargetFor(run_, file, record).file);
+            });
+        } catch (const RunTimeError&) {
+            return false;
+        }
     }
-    if (loaded.outcome == LoadOutcome::NotLoaded) {
-        return false;
+
+    void ConvertPhoto(qsizetype n) {
+        LoadedPicture loaded = Load(n);
+        if (loaded.outcome != LoadOutcome::Loaded) {
+            Report(files_[n], loaded.reason);
+        }
+        if (loaded.outcome == LoadOutcome::NotLoaded) {
+            return;
+        }
+        OpenPhoto photo{files_[n],
+                        StartRecord(run_, files_[n], SizeOf(loaded.bitmap.get())),
+                        {},
+                        loaded.outcome == LoadOutcome::Damaged};
+        photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
+        photo.bitmaps.ResultBitmap = std::move(spare_);
+        const std::vector<ImageRecord> records = RecordsFor(run_, photo.record);
+        for (const ImageRecord& record : records) {
+            const bool last = &record == &records.back();
+            ConvertOne(photo, record, last);
+        }
+        if (!spare_) {
+            spare_ = std::move(photo.bitmaps.ResultBitmap);
+        }
     }
-    OpenPhoto photo{path,
-                    StartRecord(run, path, loaded.bitmap.get()),
-                    {},
-                    loaded.outcome == LoadOutcome::Damaged};
-    photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
-    bool allWritten = !photo.damaged;
-    for (const Projection projection : run.options.projections) {
-        const ImageRecord record = RecordFor(run, photo, projection);
-        allWritten = (run.options.morph ? WriteMorph(run, photo, record, console)
-                                        : WriteOne(run, photo, record, console)) &&
-                     allWritten;
+
+    LoadedPicture Load(qsizetype n) {
+        if (begun_ <= n) {
+            FinishWriting();  // it may be what is written, however odd that is
+            begun_ = n + 1;
+        }
+        LoadedPicture loaded = feed_->Take(files_[n]);
+        while (jobs_ > 1 && begun_ < files_.size() && begun_ <= n + feed_->Readers() &&
+               QFileInfo::exists(files_[begun_])) {
+            feed_->ReadAhead(files_[begun_++]);
+        }
+        if (n + 1 == files_.size()) {
+            feed_.reset();  // its decoders' memory is better used now
+            reader_.reset();
+        }
+        return loaded;
     }
-    return allWritten;
-}
+
+    void ConvertOne(OpenPhoto& photo, const ImageRecord& record, bool last) {
+        QString file = photo.path;
+        try {
+            const ConversionTarget target = TargetFor(run_, photo.path, record);
+            file = target.file;
+            if (writing_ && writing_->target.file == file) {
+                FinishWriting();
+            }
+            if (run_.options.skipExisting && QFileInfo::exists(file)) {
+                return;
+            }
+            if (const QString trouble = TargetTrouble(run_, photo, file); !trouble.isEmpty()) {
+                Report(file, trouble);
+                return;
+            }
+            RenderInto(run_, photo, record);
+            if (last) {
+                photo.bitmaps.FullSourceBitmap.reset();  // encoding needs room of its own
+                photo.bitmaps.PreviewSourceBitmap.reset();
+            }
+            FinishWriting();
+            BeginWriting(target, photo);
+        } catch (const RunTimeError& error) {
+            Report(file, QString::fromUtf8(error.what()));
+        } catch (const std::bad_alloc&) {
+            Report(file, QStringLiteral("not enough memory"));
+        }
+    }
+
+    void BeginWriting(const ConversionTarget& target, OpenPhoto& photo) {
+        writing_ = {target, std::move(photo.bitmaps.ResultBitmap)};
+        photo.bitmaps.ResultBitmap = std::move(spare_);
+        worker_.Begin([this, target, result = writing_->result.get()] {
+            return SaveTo(run_, target, result, saveRunner_);
+        });
+    }
+
+    void FinishWriting() {
+        if (!writing_) {
+            return;
+        }
+        while (!worker_.Wait(1000)) {
+        }
+        const SaveResult saved = worker_.Take();
+        const Writing done = {writing_->target, nullptr};
+        spare_ = std::move(writing_->result);
+        writing_.reset();
+        if (!saved) {
+            Report(done.target.file, saved.reason);
+            return;
+        }
+        if (!saved.note.isEmpty()) {
+            Complain(console_, done.target.file + QStringLiteral(": ") + saved.note);
+        }
+        run_.written.insert(QFileInfo(done.target.file).canonicalFilePath());
+        if (!run_.options.quiet) {
+            console_.out << LocalText(done.target.file) << std::endl;
+        }
+    }
+
+    // After what came before it.
+    void Report(const QString& file, const QString& reason) {
+        FinishWriting();
+        allWell_ = false;
+        Complain(console_, file + QStringLiteral(": ") + reason);
+    }
+
+    const int jobs_;
+    const Console& console_;
+    ReadingWait wait_;
+    std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
+    std::optional<PhotoFeed> feed_;
+    TerminalBar bar_;
+    SilentProgress silent_;
+    ThreadRunner runner_;
+    ThreadRunner saveRunner_;  // on the writing thread
+    ConversionRun run_;
+    QStringList files_;
+    qsizetype begun_ = 0;  // files that were begun to be read
+    std::optional<Writing> writing_;
+    BitmapHandle spare_;
+    bool allWell_ = true;
+    SaveWorker worker_;  // last: it ends before what it works with
+};
 
 }  // namespace
 
 int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
                   const Console& console) {
-    const auto reader = NewPictureReader();  // first: it gets ready meanwhile
-    PhotoLoader photos(*reader);
-    TerminalBar bar(console.err);
-    SilentProgress silent;
-    RenderProgress* progress = &silent;
-    if (console.bar && !options.quiet) {
-        progress = &bar;
-    }
-    ThreadRunner runner;
-    ConversionRun run{options, gear, settings, *progress, runner};
-    bool allWritten = true;
-    for (const QString& path : options.files) {
-        bar.SetLabel(path);
-        allWritten = ConvertOne(run, photos, path, console) && allWritten;
-    }
-    return allWritten ? exitAllWritten : exitSomeFailed;
+    return Conversions(options, gear, settings, console).Go() ? exitAllWritten : exitSomeFailed;
 }
 
 }  // namespace varnel

@@ -101,6 +101,8 @@ void Declare(QCommandLineParser& parser) {
                u"else the setting."),
         Valued(u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."),
         Flag(u"force", u"Replace existing files."),
+        Flag(u"skip-existing", u"Do only what is missing: leave results that lie there alone."),
+        Valued(u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."),
         Flag(u"list-cameras", u"List the cameras (of a brand) as BRAND/MODEL."),
         Flag(u"list-lenses", u"List the lenses (of a brand) as BRAND/MODEL."),
         Flag(u"list-gears", u"List the gears of the settings."),
@@ -160,14 +162,17 @@ OutputType TypeOf(const QString& text) {
         QStringLiteral("unknown type \"%1\"; there are tiff, jpeg, bmp and png").arg(text)};
 }
 
-int QualityOf(const QString& text) {
+int WholeBetween(const QString& option, const QString& text, int least, int most) {
     bool ok = false;
-    const int quality = text.toInt(&ok);
-    if (!ok || quality < 1 || quality > 100) {
-        throw UsageError{
-            QStringLiteral("--quality needs a whole number from 1 to 100, not \"%1\"").arg(text)};
+    const int number = text.toInt(&ok);
+    if (!ok || number < least || number > most) {
+        throw UsageError{QStringLiteral("--%1 needs a whole number from %2 to %3, not \"%4\"")
+                             .arg(option)
+                             .arg(least)
+                             .arg(most)
+                             .arg(text)};
     }
-    return quality;
+    return number;
 }
 
 // The parts of FIELD=VALUE.
@@ -280,8 +285,14 @@ Options Take(const QCommandLineParser& parser) {
     options.output = parser.value(QStringLiteral("output"));
     options.outputDir = parser.value(QStringLiteral("output-dir"));
     TakeIfSet(parser, u"type", options.type, &TypeOf);
-    TakeIfSet(parser, u"quality", options.quality, &QualityOf);
+    TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
+        return WholeBetween(QStringLiteral("quality"), text, 1, 100);
+    });
     options.force = parser.isSet(QStringLiteral("force"));
+    options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
+    TakeIfSet(parser, u"jobs", options.jobs, [](const QString& text) {
+        return WholeBetween(QStringLiteral("jobs"), text, 1, 256);
+    });
     options.quiet = parser.isSet(QStringLiteral("quiet"));
     return options;
 }
@@ -340,6 +351,9 @@ void CheckTogether(const Options& options) {
         throw UsageError{
             QStringLiteral("--output takes one photo and one projection; use "
                            "--output-dir for more")};
+    }
+    if (options.skipExisting && options.force) {
+        throw UsageError{QStringLiteral("give either --skip-existing or --force")};
     }
     CheckMorph(options);
 }

@@ -49,6 +49,8 @@ struct Options {
     std::optional<OutputType> type;
     std::optional<int> quality;
     bool force = false;
+    bool skipExisting = false;
+    std::optional<int> jobs;  // cores to use; none: all
     bool quiet = false;
 };
 

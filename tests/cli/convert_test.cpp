@@ -107,6 +107,54 @@ TEST_F(Convert, BadPhotosAreNamedAndTheOthersDone) {
     EXPECT_EQ(Lines(), QStringList{files_.Path(Q("good.Varnel.TIF"))});
 }
 
+TEST_F(Convert, ManyJobsDoAndSayWhatOneDoes) {
+    QStringList photos;
+    for (int n = 0; n < 12; ++n) {
+        photos.append(files_.Picture(Q("%1.png").arg(n), FIF_PNG, {60 + 40 * n, 50}));
+    }
+    photos.insert(3, files_.Text(Q("text.jpg")));
+    photos.insert(7, files_.Path(Q("none.jpg")));
+    photos.insert(9, files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), FIF_BMP), 70));
+    photos.append(photos.first());  // would be written twice
+    std::vector<std::string> said;
+    QByteArrayList written;
+    for (const char* jobs : {"1", "2", "8"}) {
+        const QString folder = files_.Path(Q("out"));
+        QDir(folder).removeRecursively();
+        QDir().mkdir(folder);
+        EXPECT_EQ(RunWithGear(QStringList{Q("--jobs"), Q(jobs), Q("--projection"), Q("all"),
+                                          Q("--output-dir"), folder} +
+                              photos),
+                  exitSomeFailed);
+        said.push_back(out_.str() + err_.str());
+        QByteArray all;
+        for (const QString& name : FilesIn(Q("out"))) {
+            all += name.toUtf8() + Contents(folder + u'/' + name);
+        }
+        written.append(all);
+    }
+    EXPECT_EQ(said[0], said[1]);
+    EXPECT_EQ(said[0], said[2]);
+    EXPECT_TRUE(written[0] == written[1] && written[0] == written[2]);
+    EXPECT_TRUE(written[0].size() > 13 * 4 * 1000);
+}
+
+TEST_F(Convert, SkipExistingDoesOnlyWhatIsMissing) {
+    const QStringList photos{files_.Picture(Q("a.png"), FIF_PNG),
+                             files_.Picture(Q("b.png"), FIF_PNG)};
+    const QString older = files_.Text(Q("a.Varnel.TIF"));
+    const QStringList arguments = QStringList{Q("--skip-existing"), Q("--projection"), Q("all")};
+    EXPECT_EQ(RunWithGear(arguments + photos), exitAllWritten);
+    EXPECT_EQ(Lines().size(), 7);
+    EXPECT_EQ(Contents(older), "this is no picture\n");
+    QFile::remove(files_.Path(Q("b.Horizon.TIF")));
+    EXPECT_EQ(RunWithGear(arguments + photos), exitAllWritten);
+    EXPECT_EQ(Lines(), QStringList{files_.Path(Q("b.Horizon.TIF"))});
+    EXPECT_EQ(RunWithGear(arguments + photos + QStringList{files_.Path(Q("none.png"))}),
+              exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("none.png: there is no such file"));
+}
+
 TEST_F(Convert, ADamagedPhotoIsToldAndNeverReplacesAFile) {
     const QString whole = files_.Picture(Q("whole.jpg"), FIF_JPEG, {300, 200});
     const QString cut = files_.Cut(Q("cut.jpg"), whole, 60);

@@ -20,7 +20,8 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     const auto parsed = Parse(
         "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
         "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
-        "--antialiased --output-dir out --type png --quality 80 --force --quiet a.jpg b.jpg");
+        "--antialiased --output-dir out --type png --quality 80 --force --jobs 3 --quiet a.jpg "
+        "b.jpg");
     ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
     const Options& options = std::get<Options>(parsed);
     EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
@@ -37,6 +38,7 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     EXPECT_EQ(options.quality, 80);
     EXPECT_TRUE(options.antialiased && options.force && options.quiet);
     EXPECT_EQ(options.files.size(), 2);
+    EXPECT_EQ(options.jobs, 3);
 }
 
 TEST(ParseOptions, AllProjectionsAndDefaults) {
@@ -67,6 +69,8 @@ TEST(ParseOptions, AWrongLineIsToldInOneLine) {
                              "p --projection",
                              "p --type gif a",
                              "p --quality 0 a",
+                             "p --jobs 0 a",
+                             "p --force --skip-existing a",
                              "p --quality 101 a",
                              "p --quality 1.5 a",
                              "p --effect 1,5 a",

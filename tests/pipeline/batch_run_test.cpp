@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <chrono>
 #include <new>
+#include <thread>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -154,6 +156,48 @@ TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
     EXPECT_FALSE(Go().Stopped());
 }
 
+// Everything that an observer hears of a run with failures among its entries, when Stop is asked
+// for after some of them.
+TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
+    for (int n = 1; n <= 9; ++n) {
+        queue.Append(Entry(Q("%1.jpg").arg(n), static_cast<Projection>(n % 4)));
+    }
+    queue.Append(queue(9));  // the same name twice, and the same photo
+    queue(4).EffectVarnel = 1e30F;
+    const auto load = [](const QString& path) {
+        return path.contains(u'5') || path.contains(u'6')
+                   ? LoadedPicture::Refused(Q("unreadable"))
+                   : LoadedPicture{
+                         LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
+    };
+    const auto save = [](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString& path, int) {
+        const bool fails = path.contains(u'7');
+        std::this_thread::sleep_for(std::chrono::milliseconds(path.size() % 3));
+        return SaveResult{!fails && SizeOf(bitmap).width == 6, fails ? Q("full") : QString()};
+    };
+    for (int stopAfter = -1; stopAfter <= 10; ++stopAfter) {
+        QStringList heard[2];
+        QString summaries[2];
+        QStringList ahead;
+        for (const bool overlaps : {false, true}) {
+            BatchPorts both{load, save};
+            if (overlaps) {
+                both.readAhead = [&](const QString& path) { ahead.append(path); };
+                both.aheadAtMost = 3;
+            }
+            Listener other(heard[overlaps]);
+            other.stopAfter = stopAfter;
+            RecordArray<ImageRecord> entries = queue;
+            summaries[overlaps] = SummaryText(RunBatch(entries, choices, other, both));
+        }
+        EXPECT_EQ(heard[0], heard[1]) << stopAfter;
+        EXPECT_EQ(summaries[0], summaries[1]);
+        if (stopAfter < 0) {
+            EXPECT_EQ(ahead.size(), 8);  // all but the first, each once
+        }
+    }
+}
+
 TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
     const char* const names[] = {"unreadable", "memory", "library", "name", "number", "disk", "ok"};
     for (const char* name : names) {
@@ -222,7 +266,9 @@ class RealRun : public ::testing::Test {
     BatchSummary Go() {
         QStringList log;
         Listener listener(log);
-        return RunBatch(queue, choices, listener, {.load = testing::LoadPicture});
+        ReadingWait wait;
+        PhotoFeed feed(testing::Reader(), 1, wait);
+        return RunBatch(queue, choices, listener, BatchPortsFor(feed));
     }
     // What a conversion of that entry alone writes.
     QByteArray Single(ImageRecord entry) const {

@@ -91,6 +91,7 @@ class Decoding {
         }
         if (format_ == FIF_TIFF || format_ == FIF_RAW) {
             tiff_ = TiffFactsOf(file_);
+            HideDeadlyTags();
         }
         if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
@@ -118,6 +119,14 @@ class Decoding {
     }
 
   private:
+    // The next number means nothing to anybody and keeps the tags in order.
+    void HideDeadlyTags() {
+        constexpr char next = '\xBC';
+        for (const std::int64_t place : tiff_ ? tiff_->deadlyTags : std::vector<std::int64_t>()) {
+            file_.Replace(place + 1, next);
+        }
+    }
+
     QString Trouble(const StatedSize& size) const {
         return SizeTrouble(size.width, size.height, memory_);
     }

@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <cstdint>
 #include <cstdio>
+#include <vector>
 
 #include "remap/bitmap.h"
 
@@ -21,14 +22,26 @@ class PictureFile {
     // The bytes from that place on, fewer where the file ends.
     QByteArray Read(std::int64_t offset, std::int64_t most) const;
 
+    // From now on the library reads that byte there, whatever the file holds.
+    void Replace(std::int64_t place, char byte) { replaced_.push_back({place, byte}); }
+
     // By the contents, never by a name. FIF_UNKNOWN when no reader wants the file.
     FREE_IMAGE_FORMAT Format() const;
     // Empty when the library refuses. May throw whatever its readers throw.
     BitmapHandle Load(FREE_IMAGE_FORMAT format, int flags) const;
 
+    // For the library: fills the buffer from where the file is.
+    unsigned Fill(void* buffer, unsigned size, unsigned count) const;
+    std::FILE* File() const { return file_; }
+
   private:
+    struct Replaced {
+        std::int64_t place;
+        char byte;
+    };
     std::FILE* file_;
     std::int64_t length_;
+    std::vector<Replaced> replaced_;
 };
 
 }  // namespace varnel

@@ -22,6 +22,7 @@ enum Tag : std::uint16_t {
     SubDirectories = 330,
     PreviewOffset = 513,
     PreviewLength = 514,
+    Iptc = 33723,
     ExifDirectory = 34665,
     ColourProfile = 34675,
     DngVersion = 50706,
@@ -114,6 +115,9 @@ class TiffWalk {
         const QByteArray bytes = file_.Read(start + countBytes, entryTotal + linkBytes);
         std::vector<Entry> entries;
         for (std::int64_t at = 0; at < entryTotal; at += entryBytes) {
+            if (bigEndian_ && Number(bytes, at, 2) == Iptc) {
+                facts_.deadlyTags.push_back(start + countBytes + at);
+            }
             if (const std::optional<Entry> entry = ReadEntry(bytes, at, start + countBytes)) {
                 entries.push_back(*entry);
             }

@@ -5,16 +5,21 @@
 // library: where they say that their data lies, against where the file ends.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "decoder/picture_file.h"
 
 namespace varnel {
 
 struct TiffFacts {
-    bool isCut = false;        // a directory, a value or pixel data lies beyond the file's end
-    bool isDng = false;        // a raw photo; as a plain TIFF it would show a thumbnail
-    bool isTurned = false;     // width and height change places when it is developed
+    bool isCut = false;     // a directory, a value or pixel data lies beyond the file's end
+    bool isDng = false;     // a raw photo; as a plain TIFF it would show a thumbnail
+    bool isTurned = false;  // width and height change places when it is developed
+    // Places of the numbers of tags that the library must not see: big-endian IPTC takes it down,
+    // it turns round four times the bytes that are there.
+    std::vector<std::int64_t> deadlyTags{};
     bool isEven = true;        // its pixels are square and in rows and columns
     QByteArray colourProfile;  // of the first directory
 };

@@ -121,10 +121,7 @@ SeedFile Tiff(const TiffKind& kind) {
         }
         directory = tiff.Directory(fields, directory);
     }
-    // IPTC in big-endian files takes the library down: it turns four times the bytes that are
-    // there.
-    const bool loads = !kind.described || kind.order == Order::Little;
-    return {std::string("tiff/") + kind.name, tiff.Finish(directory), seedSize, loads};
+    return {std::string("tiff/") + kind.name, tiff.Finish(directory), seedSize};
 }
 
 struct RawKind {

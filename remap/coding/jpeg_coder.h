@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// JPEG files, several bands of a picture at once.
+#pragma once
+
+#include <QByteArray>
+#include <optional>
+
+#include "remap/bitmap.h"
+#include "remap/engine/block_runner.h"
+
+namespace varnel {
+
+// The file that the library writes for a bitmap of 24 bits with this quality (0 to 100, 0 is the
+// library's own choice): the same pixels once decoded, tables and metadata. That of a large picture
+// has restart markers and so is a few bytes larger; it does not depend on the runner. Nothing where
+// that cannot be done: the library has to try. Throws std::bad_alloc.
+std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int quality, BlockRunner& runner);
+
+}  // namespace varnel

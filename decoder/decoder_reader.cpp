@@ -178,11 +178,8 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
     // A copy, so that nobody changes the block while it is read.
     const QByteArray extras(reinterpret_cast<const char*>(bytes + RowBytes(answer)),
                             static_cast<qsizetype>(answer.extrasLength));
-    FIBITMAP* const bitmap = FreeImage_ConvertFromRawBitsEx(
-        FALSE, reinterpret_cast<BYTE*>(bytes), FIT_BITMAP, answer.bitmap.width,
-        answer.bitmap.height, static_cast<int>(answer.pitch), 24, FI_RGBA_RED_MASK,
-        FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE);
-    if (bitmap == nullptr) {
+    BitmapHandle bitmap = BitmapOver(bytes, answer.bitmap);
+    if (!bitmap) {
         picture = LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
         return;
     }
@@ -190,8 +187,8 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
     owner->memory = std::move(memory_);
     owner->files = memoryFiles_;
     owner->used = used;
-    picture.bitmap = BitmapHandle(bitmap, BitmapUnloader{std::move(owner)});
-    TakeExtras(extras, bitmap);
+    picture.bitmap = BitmapHandle(bitmap.release(), BitmapUnloader{std::move(owner)});
+    TakeExtras(extras, picture.bitmap.get());
 }
 
 std::unique_ptr<PictureReader> NewPictureReader(const ReaderOptions& options) {

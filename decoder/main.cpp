@@ -22,37 +22,60 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-struct Mapping {
-    void* bytes = MAP_FAILED;
-    std::size_t length = 0;
-    ~Mapping() {
-        if (bytes != MAP_FAILED) {
-            munmap(bytes, length);
+// The memory file of the photo at hand, where its picture goes.
+class Handover {
+  public:
+    explicit Handover(int file) : file_(file) {}
+    ~Handover() {
+        if (rows_ != nullptr) {
+            munmap(rows_, mapped_);
         }
     }
+    Handover(const Handover&) = delete;
+    Handover& operator=(const Handover&) = delete;
+
+    // Null when there is no memory for them.
+    std::byte* Rows(std::size_t length) {
+        if (rows_ == nullptr && Lengthen(length)) {
+            // All at once: one fault for each page costs as much time as half the decoding.
+            void* const rows =
+                mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE, file_, 0);
+            rows_ = rows == MAP_FAILED ? nullptr : static_cast<std::byte*>(rows);
+            mapped_ = length;
+        }
+        return mapped_ == length ? rows_ : nullptr;
+    }
+    bool WriteAfter(std::size_t rows, const QByteArray& block) const {
+        return Lengthen(rows + static_cast<std::size_t>(block.size())) &&
+               pwrite(file_, block.constData(), static_cast<std::size_t>(block.size()),
+                      static_cast<off_t>(rows)) == static_cast<ssize_t>(block.size());
+    }
+
+  private:
+    // The file only grows: a longer one of an earlier picture stays as it is.
+    bool Lengthen(std::size_t length) const {
+        return lseek(file_, 0, SEEK_END) >= static_cast<off_t>(length) ||
+               ftruncate(file_, static_cast<off_t>(length)) == 0;
+    }
+
+    int file_;
+    std::byte* rows_ = nullptr;
+    std::size_t mapped_ = 0;
 };
 
-// Writes rows and extras into the memory file; false when there is no memory for them.
-bool HandOver(FIBITMAP* bitmap, const QByteArray& extras, int memoryFile,
-              const DecoderAnswer& answer) {
-    const std::size_t rows = RowBytes(answer);
-    Mapping mapping{MAP_FAILED, rows + static_cast<std::size_t>(extras.size())};
-    // The file only grows: a longer one of an earlier picture stays as it is.
-    const off_t isLength = lseek(memoryFile, 0, SEEK_END);
-    if (isLength < static_cast<off_t>(mapping.length) &&
-        ftruncate(memoryFile, static_cast<off_t>(mapping.length)) != 0) {
+// False when there is no memory for rows and extras.
+bool HandOver(FIBITMAP* bitmap, const QByteArray& extras, const DecoderAnswer& answer,
+              Handover& handover) {
+    std::byte* const rows = handover.Rows(RowBytes(answer));
+    if (rows == nullptr) {
         return false;
     }
-    mapping.bytes = mmap(nullptr, mapping.length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE,
-                         memoryFile, 0);
-    if (mapping.bytes == MAP_FAILED) {
-        return false;
-    }
-    auto* const bytes = static_cast<std::byte*>(mapping.bytes);
     // Both have rows of whole four bytes, bottom row first.
-    std::memcpy(bytes, FreeImage_GetBits(bitmap), rows);
-    std::memcpy(bytes + rows, extras.constData(), static_cast<std::size_t>(extras.size()));
-    return true;
+    if (const BYTE* const bits = FreeImage_GetBits(bitmap);
+        static_cast<const void*>(bits) != rows) {
+        std::memcpy(rows, bits, RowBytes(answer));
+    }
+    return handover.WriteAfter(RowBytes(answer), extras);
 }
 
 void SetReason(DecoderAnswer& answer, const QString& reason) {
@@ -63,7 +86,7 @@ void SetReason(DecoderAnswer& answer, const QString& reason) {
 }
 
 DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& request,
-                        int memoryFile) {
+                        Handover& handover) {
     DecoderAnswer answer;
     answer.number = request.number;
     answer.outcome = static_cast<std::uint32_t>(picture.outcome);
@@ -80,7 +103,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     answer.bitmap = SizeOf(bitmap);
     answer.pitch = FreeImage_GetPitch(bitmap);
     answer.extrasLength = static_cast<std::uint64_t>(extras.size());
-    if (!HandOver(bitmap, extras, memoryFile, answer)) {
+    if (!HandOver(bitmap, extras, answer, handover)) {
         answer = DecoderAnswer{.number = request.number,
                                .outcome = static_cast<std::uint32_t>(LoadOutcome::NotLoaded)};
         SetReason(answer, QStringLiteral("there is not enough memory"));
@@ -101,9 +124,13 @@ bool Serve() {
     if (!photo) {
         return false;
     }
-    const LoadedPicture picture =
-        DecodePicture(photo.get(), {{}, request.kind, request.box}, request.memory);
-    const DecoderAnswer answer = AnswerFor(picture, request, files[1].Get());
+    Handover handover(files[1].Get());
+    const LoadedPicture picture = DecodePicture(
+        photo.get(), {{}, request.kind, request.box}, request.memory, [&handover](PixelSize size) {
+            const std::size_t pitch = (static_cast<std::size_t>(size.width) * 3 + 3) / 4 * 4;
+            return handover.Rows(pitch * static_cast<std::size_t>(size.height));
+        });
+    const DecoderAnswer answer = AnswerFor(picture, request, handover);
     return SendMessage(decoderSocket, &answer, sizeof answer);
 }
 

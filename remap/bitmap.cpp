@@ -22,6 +22,15 @@ BitmapHandle NewBitmap(PixelSize size) {
     return Owned(FreeImage_Allocate(size.width, size.height, 24));
 }
 
+BitmapHandle BitmapOver(std::byte* rows, PixelSize size) {
+    return BitmapHandle(rows == nullptr
+                            ? nullptr
+                            : FreeImage_ConvertFromRawBitsEx(
+                                  FALSE, reinterpret_cast<BYTE*>(rows), FIT_BITMAP, size.width,
+                                  size.height, (size.width * 3 + 3) / 4 * 4, 24, FI_RGBA_RED_MASK,
+                                  FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
+}
+
 BitmapHandle CloneBitmap(FIBITMAP* bitmap) {
     return Owned(FreeImage_Clone(bitmap));
 }

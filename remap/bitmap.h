@@ -7,6 +7,7 @@
 
 #include <FreeImage.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -32,6 +33,9 @@ struct Bitmaps {
 
 // A new black 24-bit bitmap. Throws std::bad_alloc when there is no memory for it.
 BitmapHandle NewBitmap(PixelSize size);
+// A 24-bit bitmap over rows that lie somewhere, bottom row first and as far apart as those of a
+// bitmap of its own; they have to outlive it. Empty without rows or memory.
+BitmapHandle BitmapOver(std::byte* rows, PixelSize size);
 // A copy with pixels, metadata and colour profile. Throws std::bad_alloc.
 BitmapHandle CloneBitmap(FIBITMAP* bitmap);
 

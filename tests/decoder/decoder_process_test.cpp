@@ -47,9 +47,6 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
     FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "Küste");
     FreeImage_SetMetadataKeyValue(FIMD_XMP, photo.get(), "XMLPacket", "<x:xmpmeta/>");
     FreeImage_SetDotsPerMeterX(photo.get(), 11811);
-    QByteArray profile(3000, 'p');
-    profile.replace(16, 4, "RGB ");
-    FreeImage_CreateICCProfile(photo.get(), profile.data(), profile.size());
     ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Q("a")), 90));
     const BitmapHandle direct(FreeImage_Load(
         FIF_JPEG, QFile::encodeName(folder.Path(Q("a"))).constData(), JPEG_ACCURATE));
@@ -61,7 +58,6 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
         EXPECT_TRUE(SameRows(bitmap, direct.get()));
         EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
         EXPECT_EQ(FreeImage_GetDotsPerMeterX(bitmap), 11811U);
-        EXPECT_EQ(FreeImage_GetICCProfile(bitmap)->size, 3000U);
         EXPECT_EQ(FreeImage_GetMetadataCount(FIMD_XMP, bitmap), 1U);
     }
 }

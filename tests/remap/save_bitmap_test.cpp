@@ -42,17 +42,17 @@ TEST(SaveBitmap, AFailureGivesItsReasonAndLeavesNothingBehind) {
     EXPECT_TRUE(testing::NamesIn(folder.path()).isEmpty());
 }
 
-TEST(EncodeBitmap, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
+TEST(LibraryFile, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
     const BitmapHandle bitmap = testing::PositionPicture({40, 30});
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
-        const QByteArray whole = EncodeBitmap(format, bitmap.get(), 0).bytes;
+        const QByteArray whole = LibraryFile(format, bitmap.get(), 0).bytes;
         for (const qint64 largest : {0LL, 1LL, whole.size() / 2, whole.size() - 1}) {
-            const EncodedBitmap cut = EncodeBitmap(format, bitmap.get(), 0, {.largest = largest});
+            const EncodedBitmap cut = LibraryFile(format, bitmap.get(), 0, largest);
             EXPECT_TRUE(cut.bytes.isEmpty());
             EXPECT_EQ(cut.reason,
                       QStringLiteral("the file would be larger than %1 bytes").arg(largest));
         }
-        EXPECT_EQ(EncodeBitmap(format, bitmap.get(), 0, {.largest = whole.size()}).bytes, whole);
+        EXPECT_EQ(LibraryFile(format, bitmap.get(), 0, whole.size()).bytes, whole);
     }
 }
 

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The row filters of PNG for 24-bit pictures. Rows here come from the top downward.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace varnel {
+
+// Filters one row after the other. Of the five filters it takes the one that leaves the smallest
+// sum of absolute differences, as libpng does.
+class PngFilter {
+  public:
+    // above: the row above the first one, blue, green, red; empty at the top of the picture.
+    PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above);
+
+    // The filter's number and the filtered row in the order red, green, blue: until the next call.
+    std::span<const std::uint8_t> Next(std::span<const std::uint8_t> row);
+
+  private:
+    void Take(std::span<const std::uint8_t> row);
+
+    std::vector<std::uint8_t> row_;        // after a black pixel, in the file's order of colours
+    std::vector<std::uint8_t> above_;      // likewise
+    std::vector<std::uint8_t> candidate_;  // the filter's number first
+    std::vector<std::uint8_t> best_;
+};
+
+}  // namespace varnel

@@ -4,6 +4,9 @@
 #include "remap/bitmap.h"
 
 #include <new>
+#include <utility>
+
+#include "remap/large_pages.h"
 
 namespace varnel {
 
@@ -19,6 +22,12 @@ BitmapHandle Owned(FIBITMAP* bitmap) {
 }  // namespace
 
 BitmapHandle NewBitmap(PixelSize size) {
+    const std::size_t pitch = (static_cast<std::size_t>(size.width) * 3 + 3) / 4 * 4;
+    if (auto pages = LargePages(pitch * static_cast<std::size_t>(size.height))) {
+        BitmapHandle bitmap = BitmapOver(pages.get(), size);
+        bitmap.get_deleter().pixels = std::move(pages);
+        return bitmap ? std::move(bitmap) : throw std::bad_alloc();
+    }
     return Owned(FreeImage_Allocate(size.width, size.height, 24));
 }
 

@@ -19,7 +19,10 @@ namespace varnel {
 struct BitmapUnloader {
     // What the pixels stand in when the bitmap does not own them itself; let go after the bitmap.
     std::shared_ptr<void> pixels;
-    void operator()(FIBITMAP* bitmap) const { FreeImage_Unload(bitmap); }
+    void operator()(FIBITMAP* bitmap) {
+        FreeImage_Unload(bitmap);
+        pixels.reset();
+    }
 };
 // The only owner of a bitmap; unloads it.
 using BitmapHandle = std::unique_ptr<FIBITMAP, BitmapUnloader>;

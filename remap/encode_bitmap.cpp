@@ -3,22 +3,45 @@
 
 #include "remap/encode_bitmap.h"
 
+#include <new>
+#include <optional>
+
+#include "remap/coding/jpeg_coder.h"
+#include "remap/coding/png_coder.h"
+#include "remap/coding/tiff_coder.h"
+
 namespace varnel {
 
 namespace {
 
-// By a coder of ours where there is one for such a file, else by the library.
-EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
-                     const EncodeOptions& options) {
-    return LibraryFile(format, bitmap, flags, options.largest);
+// Nothing where there is none for such a file, or where it leaves the file to the library.
+std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                                         BlockRunner& runner) {
+    switch (format) {
+        case FIF_JPEG:
+            return EncodeJpeg(bitmap, flags, runner);
+        case FIF_TIFF:
+            return flags == TIFF_LZW ? EncodeTiffLzw(bitmap, runner) : std::nullopt;
+        case FIF_PNG:
+            return flags == PNG_DEFAULT ? EncodePng(bitmap, runner) : std::nullopt;
+        default:
+            return std::nullopt;
+    }
 }
 
-// The same pixels, where they lie, and nothing else.
-BitmapHandle PixelsOf(FIBITMAP* bitmap) {
-    return BitmapHandle(FreeImage_ConvertFromRawBitsEx(
-        FALSE, FreeImage_GetBits(bitmap), FIT_BITMAP, SizeOf(bitmap).width, SizeOf(bitmap).height,
-        static_cast<int>(FreeImage_GetPitch(bitmap)), FreeImage_GetBPP(bitmap), FI_RGBA_RED_MASK,
-        FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
+EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                     const EncodeOptions& options) {
+    SerialRunner serial;
+    try {
+        std::optional<QByteArray> bytes = FileByOurCoder(
+            format, bitmap, flags, options.runner != nullptr ? *options.runner : serial);
+        if (bytes && bytes->size() <= options.largest) {
+            return {std::move(*bytes), {}};
+        }
+    } catch (const std::bad_alloc&) {
+        return {{}, notEnoughMemory.toString()};
+    }
+    return LibraryFile(format, bitmap, flags, options.largest);
 }
 
 }  // namespace
@@ -39,7 +62,9 @@ EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags
     } attempts[] = {{true, QStringLiteral("written without its colour profile: %1")},
                     {false, QStringLiteral("written without its metadata: %1")}};
     for (const auto& attempt : attempts) {
-        const BitmapHandle less = PixelsOf(bitmap);
+        // The same pixels, where they lie.
+        const BitmapHandle less =
+            BitmapOver(reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), SizeOf(bitmap));
         if (less && attempt.metadata) {
             CopyAllButPixels(less.get(), bitmap);
             FreeImage_DestroyICCProfile(less.get());

@@ -28,6 +28,21 @@ bool IsControl(QChar character) {
     return character.unicode() < 32 && character != u'\t';
 }
 
+// Other spaces belong to the text: QSettings writes them without quotes.
+bool IsSpace(QChar character) {
+    return QStringView(u" \t\r").contains(character);
+}
+
+QStringView Trimmed(QStringView text) {
+    while (!text.isEmpty() && IsSpace(text.front())) {
+        text = text.sliced(1);
+    }
+    while (!text.isEmpty() && IsSpace(text.back())) {
+        text.chop(1);
+    }
+    return text;
+}
+
 bool IsHexDigit(QChar character) {
     return QStringView(u"0123456789abcdefABCDEF").contains(character);
 }
@@ -126,7 +141,7 @@ std::optional<QString> PlainText(QStringView text) {
         if (character == u';' && !quoted) {
             break;
         }
-        begun = begun || !character.isSpace();
+        begun = begun || !IsSpace(character);
         if (character == u'"') {
             quoted = !quoted;
             kept = value.size();
@@ -152,7 +167,7 @@ std::optional<QString> PlainText(QStringView text) {
 // A section without its closing bracket still says which one it is.
 bool ReadSection(QStringView line, QString& section) {
     const qsizetype end = line.indexOf(u']');
-    const QStringView name = line.sliced(1, (end < 0 ? line.size() : end) - 1).trimmed();
+    const QStringView name = Trimmed(line.sliced(1, (end < 0 ? line.size() : end) - 1));
     if (name.compare(unnamed, Qt::CaseInsensitive) == 0) {
         section.clear();
     } else {
@@ -163,7 +178,7 @@ bool ReadSection(QStringView line, QString& section) {
 
 // False for a line that is no setting, no section, no comment and not empty.
 bool ReadLine(QStringView line, QString& section, SettingsValues& values) {
-    line = line.trimmed();
+    line = Trimmed(line);
     if (line.isEmpty() || line.startsWith(u';')) {
         return true;
     }
@@ -179,7 +194,7 @@ bool ReadLine(QStringView line, QString& section, SettingsValues& values) {
     }
     const std::optional<QString> value = PlainText(line.sliced(equals + 1));
     if (value) {
-        values.Set(section, PlainName(line.first(equals).trimmed()), *value);
+        values.Set(section, PlainName(Trimmed(line.first(equals))), *value);
     }
     return value.has_value();
 }
@@ -187,10 +202,10 @@ bool ReadLine(QStringView line, QString& section, SettingsValues& values) {
 bool IsCut(const QStringList& lines) {
     const auto holds = [&](QStringView wanted) {
         return std::any_of(lines.begin(), lines.end(),
-                           [&](const QString& line) { return line.trimmed() == wanted; });
+                           [&](const QString& line) { return Trimmed(line) == wanted; });
     };
     // Files of older releases have no such line; they end with the end of a line.
-    return holds(firstLine) ? !holds(lastLine) : !lines.constLast().trimmed().isEmpty();
+    return holds(firstLine) ? !holds(lastLine) : !Trimmed(lines.constLast()).isEmpty();
 }
 
 }  // namespace

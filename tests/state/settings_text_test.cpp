@@ -25,6 +25,7 @@ const char* const oddTexts[] = {"118,125",
                                 "C:\\x",
                                 "\" quoted\"",
                                 " both ",
+                                "\u00A0no-break spaces\u00A0",
                                 "\t",
                                 "a\nb\rc",
                                 "\x01"

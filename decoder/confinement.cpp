@@ -3,6 +3,7 @@
 
 #include "decoder/confinement.h"
 
+#include <fcntl.h>
 #include <linux/audit.h>
 #include <linux/filter.h>
 #include <linux/landlock.h>
@@ -19,6 +20,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "decoder/decoder_socket.h"
+
 namespace varnel {
 
 namespace {
@@ -27,6 +30,8 @@ namespace {
 // reports.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr bool sanitized = true;
+#elif defined(__has_feature)
+constexpr bool sanitized = __has_feature(address_sanitizer) || __has_feature(thread_sanitizer);
 #else
 constexpr bool sanitized = false;
 #endif
@@ -56,6 +61,8 @@ constexpr long forbidden[] = {
     SYS_process_vm_writev,
     SYS_kill,
     SYS_tkill,
+    SYS_rt_sigqueueinfo,
+    SYS_rt_tgsigqueueinfo,
     SYS_pidfd_open,
     SYS_pidfd_send_signal,
     SYS_pidfd_getfd,
@@ -120,6 +127,20 @@ sock_filter OnlyIf(std::uint32_t number) {
     return BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, number, 0, 1);
 }
 
+// Refuses the call unless its argument is one of these. Other calls jump over the rule.
+void AppendArgumentRule(std::vector<sock_filter>& filter, long call, int argument,
+                        const std::vector<std::uint32_t>& allowed) {
+    const auto length = static_cast<std::uint8_t>(2 + 2 * allowed.size());
+    filter.push_back(
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<std::uint32_t>(call), 0, length));
+    filter.push_back(Load(offsetof(seccomp_data, args) + argument * sizeof(std::uint64_t)));
+    for (const std::uint32_t value : allowed) {
+        filter.push_back(OnlyIf(value));
+        filter.push_back(Answer(SECCOMP_RET_ALLOW));
+    }
+    filter.push_back(Answer(Error(EACCES)));
+}
+
 std::vector<sock_filter> SystemCallFilter() {
     std::vector<sock_filter> filter{
         Load(offsetof(seccomp_data, arch)),
@@ -133,6 +154,10 @@ std::vector<sock_filter> SystemCallFilter() {
         filter.push_back(OnlyIf(static_cast<std::uint32_t>(call)));
         filter.push_back(Answer(Error(EACCES)));
     }
+    // These only for the process itself: abort() and the limits of the next photo need them.
+    const auto self = static_cast<std::uint32_t>(getpid());
+    AppendArgumentRule(filter, SYS_tgkill, 0, {self});
+    AppendArgumentRule(filter, SYS_prlimit64, 0, {0, self});
     // The libraries may start threads, but no processes. clone3 keeps its flags in memory, where
     // the filter cannot see them; without it the C library takes clone.
     filter.push_back(OnlyIf(SYS_clone3));
@@ -152,6 +177,14 @@ void FilterSystemCalls() {
     std::vector<sock_filter> filter = SystemCallFilter();
     const sock_fprog program{static_cast<unsigned short>(filter.size()), filter.data()};
     prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program);
+}
+
+// Whatever was inherited beside the socket, a terminal above all.
+void GiveUpInherited() {
+    close_range(decoderSocket + 1, ~0U, 0);
+    const int nowhere = open("/dev/null", O_WRONLY);
+    dup2(nowhere, STDERR_FILENO);
+    close(nowhere);
 }
 
 // No file or folder can be opened, made, moved or removed by its name any more.
@@ -189,6 +222,7 @@ void Confine() {
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     Limit(RLIMIT_CORE, 0, 0);
     if (!sanitized) {
+        GiveUpInherited();
         GiveUpFiles();
         FilterSystemCalls();
     }

@@ -40,9 +40,11 @@ TEST(SeedFiles, SoundOnesLoadInTheirSizeOrAreRefusedWithAReason) {
     testing::DamageTrial trial(secondsPerPhoto);
     for (const SeedFile& seed : testing::SeedFiles()) {
         const LoadedPicture picture = trial.Read(seed.bytes);
-        EXPECT_EQ(picture.outcome, seed.loads ? LoadOutcome::Loaded : LoadOutcome::NotLoaded)
+        if (seed.loads) {
+            EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << seed.name;
+        }
+        EXPECT_EQ(picture.reason.isEmpty(), picture.outcome == LoadOutcome::Loaded)
             << seed.name << ": " << picture.reason.toStdString();
-        EXPECT_EQ(picture.reason.isEmpty(), seed.loads) << seed.name;
         if (picture.bitmap) {
             EXPECT_EQ(picture.size.width, seed.size.width) << seed.name;
             EXPECT_EQ(picture.size.height, seed.size.height) << seed.name;

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "remap/geometry.h"
+#include "remap/bitmap.h"
 
 namespace varnel::testing {
 
@@ -16,7 +16,7 @@ struct SeedFile {
     std::string name;  // "type/variant"
     QByteArray bytes;
     PixelSize size;
-    bool loads = true;  // false: sound, but refused
+    bool loads = true;  // false: sound, but the library may refuse it or die of it
 
     std::string Type() const { return name.substr(0, name.find('/')); }
 };
@@ -41,5 +41,9 @@ QByteArray IptcBlock();
 QByteArray XmpPacket();
 QByteArray ColourProfile();
 QByteArray ThumbnailJpeg();
+
+// The seeds' picture as if it had been read with all that. Really reading it is for the decoder:
+// the library reads beyond its memory even with sound EXIF blocks.
+BitmapHandle DescribedPicture();
 
 }  // namespace varnel::testing

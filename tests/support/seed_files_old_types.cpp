@@ -50,8 +50,22 @@ QByteArray SunRaster(int bits, int kind) {
            PatternBytes(palette) + pixels;
 }
 
+QByteArray PsdResource(int number, const QByteArray& data) {
+    return "8BIM" + Numbers({number, 0}, 2, Order::Big) + Number(data.size(), 4, Order::Big) +
+           data + QByteArray(data.size() % 2, '\0');
+}
+
+QByteArray PsdResources() {
+    const QByteArray jpeg = ThumbnailJpeg();
+    const QByteArray thumbnail = Numbers({1, 16, 11, 48, 48 * 11, jpeg.size()}, 4, Order::Big) +
+                                 Numbers({24, 1}, 2, Order::Big) + jpeg;
+    return PsdResource(1028, IptcBlock()) + PsdResource(1036, thumbnail) +
+           PsdResource(1039, ColourProfile()) + PsdResource(1058, ExifBlock(true).mid(6)) +
+           PsdResource(1060, XmpPacket());
+}
+
 // Modes: 1 grey, 2 palette, 3 colour, 4 separated.
-QByteArray Psd(int mode, int channels, int bits, bool runs) {
+QByteArray Psd(int mode, int channels, int bits, bool runs, const QByteArray& resources = {}) {
     const int row = width * bits / 8;
     const int rows = height * channels;
     QByteArray lengths;
@@ -66,7 +80,8 @@ QByteArray Psd(int mode, int channels, int bits, bool runs) {
     const int palette = mode == 2 ? 768 : 0;
     return "8BPS" + Numbers({1, 0, 0, 0, channels}, 2, Order::Big) +
            Numbers({height, width}, 4, Order::Big) + Numbers({bits, mode}, 2, Order::Big) +
-           Number(palette, 4, Order::Big) + PatternBytes(palette) + Number(0, 8) +
+           Number(palette, 4, Order::Big) + PatternBytes(palette) +
+           Number(resources.size(), 4, Order::Big) + resources + Number(0, 4) +
            Number(runs, 2, Order::Big) + lengths + data;
 }
 
@@ -156,9 +171,12 @@ std::vector<SeedFile> OldTypeSeeds() {
         {"gif/plain", Gif(1, 0, {}), seedSize},
         {"gif/interlaced", Gif(1, 0x40, comment), seedSize},
         {"gif/animated", Gif(3, 0x86, loop), seedSize},
+        {"psd/rle", Psd(3, 3, 8, true), seedSize},
+        {"psd/alpha-rle", Psd(3, 4, 8, true), seedSize},
         {"psd/grey-rle", Psd(1, 1, 8, true), seedSize},
         {"psd/palette", Psd(2, 1, 8, false), seedSize},
         {"psd/16-rle", Psd(3, 3, 16, true), seedSize},
+        {"psd/described", Psd(3, 3, 8, true, PsdResources()), seedSize},
         {"psd/cmyk-rle", Psd(4, 4, 8, true), seedSize},
         {"ras/1", SunRaster(1, 1), seedSize},
         {"ras/8", SunRaster(8, 1), seedSize},

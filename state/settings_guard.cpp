@@ -81,23 +81,36 @@ FileBytes ReadFile(const QString& path) {
     return {true, bytes, file.error() == QFileDevice::NoError ? QString() : file.errorString()};
 }
 
-QString FreeName(const QString& path, const QDateTime& now) {
+bool Holds(const QString& path, const QByteArray& bytes) {
+    const FileBytes file = ReadFile(path);
+    return file.exists && file.reason.isEmpty() && file.bytes == bytes;
+}
+
+// A name that is free, or under which an earlier try has put the bytes already.
+QString NameFor(const QString& path, const QByteArray& bytes, const QDateTime& now) {
     const QString dated =
         path + QStringLiteral(".damaged-") + now.toString(QStringLiteral("yyyy-MM-ddTHH-mm-ss"));
     QString name = dated;
-    for (int n = 2; QFileInfo(name).exists() && n < mostNames; ++n) {
+    for (int n = 2; QFileInfo::exists(name) && !Holds(name, bytes) && n < mostNames; ++n) {
         name = QStringLiteral("%1-%2").arg(dated).arg(n);
     }
     return name;
 }
 
-// Puts the bytes under a dated name and returns it; empty when that fails.
-QString SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now) {
-    const QString name = FreeName(path, now);
-    if (QFileInfo::exists(name) || !WriteSettingsFile(name, bytes).isEmpty()) {
-        return {};
+// Puts the file's bytes under a dated name.
+void SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now,
+              RescuedSettings& rescued) {
+    const QString name = NameFor(path, bytes, now);
+    if (!Holds(name, bytes)) {
+        rescued.mustStay = QFileInfo::exists(name) ? QStringLiteral("all its names are taken")
+                                                   : WriteSettingsFile(name, bytes);
     }
-    return name;
+    if (rescued.mustStay.isEmpty()) {
+        rescued.aside = QFileInfo(name).fileName();
+    } else {
+        rescued.mustStay =
+            QStringLiteral("the damaged file could not be set aside: %1").arg(rescued.mustStay);
+    }
 }
 
 // No bytes, no file.
@@ -218,6 +231,7 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
     const bool byCopy = file.CopyServes();
     rescued.values = byCopy ? file.copy.values : known;
     if (!file.canBeRead) {
+        rescued.mustStay = file.reason;
         rescued.told = QStringLiteral("%1: the settings cannot be read (%2); %3")
                            .arg(path, file.reason, WhatIsUsed(byCopy, rescued.values));
         return rescued;
@@ -226,18 +240,20 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
         rescued.values = file.reading.values;
         MendGears(rescued.values);
     }
-    const QString aside = mayWrite ? SetAside(path, file.bytes, now) : QString();
+    if (mayWrite) {
+        SetAside(path, file.bytes, now, rescued);
+    }
     const QByteArray better = byCopy                   ? file.copyBytes
                               : rescued.values.Empty() ? QByteArray()
                                                        : SettingsText(rescued.values);
-    if (!aside.isEmpty()) {
+    if (!rescued.aside.isEmpty()) {
         Replace(path, better);  // when that fails, so will the next save, and that one tells
     }
-    rescued.told = QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
-                       .arg(path, file.reading.damage, WhatIsUsed(byCopy, rescued.values),
-                            aside.isEmpty()
-                                ? QStringLiteral("could not be set aside")
-                                : QStringLiteral("is kept as %1").arg(QFileInfo(aside).fileName()));
+    rescued.told =
+        QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
+            .arg(path, file.reading.damage, WhatIsUsed(byCopy, rescued.values),
+                 rescued.aside.isEmpty() ? QStringLiteral("could not be set aside")
+                                         : QStringLiteral("is kept as %1").arg(rescued.aside));
     return rescued;
 }
 

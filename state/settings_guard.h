@@ -47,6 +47,8 @@ SettingsFile LookAtSettings(const QString& path);
 struct RescuedSettings {
     SettingsValues values;
     QString told;
+    QString aside;  // the name under which the damaged file's bytes are safe; empty if they are not
+    QString mustStay;  // why the file must not be replaced, if it was tried to set it aside
 };
 
 // For a file that is not whole. Values that are already known serve where there is no copy. Without

@@ -25,7 +25,7 @@ class FileStore : public SettingsStore {
         if (!file.IsWhole() || !file.CopyIsFresh()) {
             const FolderLock lock(Folder(), longestWait);
             file = LookAtSettings(path_);  // another process may have mended it
-            values_ = Take(file, lock.IsHeld());
+            values_ = Take(file, lock.IsHeld()).values;
         } else {
             values_ = file.reading.values;
         }
@@ -54,18 +54,22 @@ class FileStore : public SettingsStore {
     QString Folder() const { return QFileInfo(path_).path(); }
 
     // The file's values after whatever has to be done about its damage and its copy.
-    SettingsValues Take(const SettingsFile& file, bool isLocked) {
+    RescuedSettings Take(const SettingsFile& file, bool isLocked) {
         if (!file.IsWhole()) {
-            const RescuedSettings rescued = RescueSettings(path_, file, values_, isLocked, now_);
-            toTell_.append(rescued.told);
-            return rescued.values;
+            RescuedSettings rescued = RescueSettings(path_, file, values_, isLocked, now_);
+            // Each save comes here again while the file cannot be set aside or replaced.
+            if (!toldAside_.contains(rescued.aside)) {
+                toldAside_.append(rescued.aside);
+                toTell_.append(rescued.told);
+            }
+            return rescued;
         }
         if (isLocked && !file.CopyIsFresh()) {
             // Without a fresh copy nothing is lost yet, so a failure is not told.
             WriteSettingsFile(CopyOf(path_), file.bytes);
         }
         // A file that went away during the run is made again from what is known.
-        return file.exists ? file.reading.values : values_;
+        return {file.exists ? file.reading.values : values_, {}, {}, {}};
     }
 
     void Write() {
@@ -93,7 +97,11 @@ class FileStore : public SettingsStore {
         if (!file.canBeRead) {
             return file.reason;  // and what cannot be read is not replaced
         }
-        SettingsValues merged = Take(file, true);
+        RescuedSettings taken = Take(file, true);
+        if (!taken.mustStay.isEmpty()) {
+            return taken.mustStay;
+        }
+        SettingsValues merged = std::move(taken.values);
         merged.Merge(changed_);
         const QByteArray bytes = SettingsText(merged);
         if (bytes != file.bytes) {
@@ -115,6 +123,7 @@ class FileStore : public SettingsStore {
     SettingsValues values_;
     SettingsValues changed_;  // not yet written
     QStringList toTell_;
+    QStringList toldAside_;  // of these damaged files; the empty name: of one not set aside
     bool isToldUnwritable_ = false;
 };
 

@@ -305,7 +305,7 @@ TEST_F(SettingsGuard, IsReadableAtWhateverMomentASavingRunIsKilled) {
 TEST_F(SettingsGuard, IsMendedAndToldByOneOfManyThatStartAtOnce) {
     Save(gearCount, 80.25F);
     for (int round = 0; round < 4; ++round) {
-        Write(path_, Bytes(path_).first(1000));
+        Write(path_, Bytes(path_).first(1000 + round));
         std::vector<pid_t> children;
         for (int n = 0; n < 4; ++n) {
             children.push_back(Forked([this] {

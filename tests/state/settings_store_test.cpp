@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "state/general_settings.h"
 #include "state/setting_names.h"
+#include "tests/support/limits.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -24,6 +26,31 @@ class UserStoreTest : public ::testing::Test {
     void TearDown() override { qunsetenv("XDG_CONFIG_HOME"); }
     std::unique_ptr<SettingsStore> Open() const { return OpenUserStore(QDateTime()); }
     QString FilePath() const { return folder_.filePath(QStringLiteral("Varnel/Varnel.conf")); }
+    // With a gear, as whoever begins afresh is asked for one.
+    static QStringList SaveThrice(SettingsStore& store) {
+        QStringList told;
+        for (const char* const value : {"1", "2", "3"}) {
+            store.Save(setting::Gear, setting::DefaultGearName, Text("mine"));
+            store.Save(setting::Gear, setting::ItemKey(setting::GearName, 1), Text("mine"));
+            store.Save(setting::Gear, setting::NumGear, Text("1"));
+            store.Save(Text("s"), Text("a"), Text(value));
+            told += store.Settle();
+        }
+        return told;
+    }
+    void Write(const QByteArray& bytes) const {
+        Folder().mkpath(Text("."));
+        QFile file(FilePath());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    // What is in the file itself or in the one damaged file beside it.
+    QByteArray Bytes(const char* ending) const {
+        QFile file(FilePath() + Text(ending));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+    }
+    qsizetype Damaged() const { return Folder().entryList({Text("*.damaged-*")}).size(); }
+    QDir Folder() const { return QDir(folder_.filePath(Text("Varnel"))); }
 
   private:
     QTemporaryDir folder_;
@@ -74,6 +101,50 @@ TEST_F(UserStoreTest, KeepsTheKeysThatAnotherProcessSavesMeanwhile) {
     const auto third = Open();
     for (const auto& [key, text] : {std::pair("a", "1"), {"b", "2"}, {"c", "2"}, {"d", "1"}}) {
         EXPECT_EQ(third->Get(Text("s"), Text(key), {}), Text(text)) << key;
+    }
+}
+
+TEST_F(UserStoreTest, LeavesADamagedFileAloneUntilItCanBeSetAside) {
+    const QByteArray damaged(20000, 'x');
+    Write(damaged);
+    std::unique_ptr<SettingsStore> store;
+    {
+        const testing::FileSizeLimit full(8000);
+        store = Open();
+        SaveThrice(*store);
+        EXPECT_EQ(store->Get(Text("s"), Text("a"), {}), Text("3"));
+        SaveThrice(*Open());  // and closes it
+        EXPECT_EQ(Bytes(""), damaged);
+        EXPECT_EQ(Damaged(), 0);
+    }
+    EXPECT_EQ(store->Settle().size(), 1) << "where it is kept now";
+    EXPECT_EQ(Bytes(".damaged-"), damaged);
+    EXPECT_EQ(Open()->Get(Text("s"), Text("a"), {}), Text("3"));
+}
+
+TEST_F(UserStoreTest, TellsOnceOfADamagedFileThatCannotBeSetAsideOrReplaced) {
+    const struct {
+        int damagedSize;
+        int savedSize;  // of a value in the copy
+        const char* aside;
+        int files;
+    } cases[] = {{20000, 1, "could not be set aside", 0}, {100, 20000, "is kept as", 1}};
+    for (const auto& c : cases) {
+        SaveThrice(*Open());
+        Open()->Save(Text("s"), Text("long"), QString(c.savedSize, u'x'));
+        Write(QByteArray(c.damagedSize, 'x'));
+        QStringList told;
+        {
+            const testing::FileSizeLimit full(8000);
+            const auto store = Open();
+            told = store->Settle();
+            told += SaveThrice(*store);
+        }
+        ASSERT_EQ(told.size(), 2) << told.join(u'\n').toStdString();
+        EXPECT_TRUE(told[0].contains(Text(c.aside))) << told[0].toStdString();
+        EXPECT_TRUE(told[1].contains(Text("cannot be written ("))) << told[1].toStdString();
+        EXPECT_EQ(Damaged(), c.files);
+        Folder().removeRecursively();
     }
 }
 

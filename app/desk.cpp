@@ -63,9 +63,6 @@ void Desk::GiveChosenGear(ImageRecord& image) {
 }
 
 void Desk::TellNotOpened(const ImageRecord& image) {
-    if (loadTrouble_ == readingCancelled) {
-        return;  // as the user wished
-    }
     notices_.Tell(Tr("Could not open image"),
                   QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
 }
@@ -104,7 +101,7 @@ void Desk::ShowLine(int line) {
         const Raised busy(busy_);
         if (LoadAndReduce(line)) {
             Preview();
-        } else {
+        } else if (loadTrouble_ != readingCancelled) {
             TellNotOpened(state_.Images(line + 1));
         }
     }
@@ -214,8 +211,13 @@ bool Desk::GearIsPending(const ImageRecord& image) const {
 void Desk::Prepare(ImageRecord& image) {
     const bool neverLoaded = image.Width == 0;
     if (neverLoaded) {
+        // Events are handled meanwhile; nothing may change the list under the record.
+        const Raised busy(busy_);
         if (const std::optional<PixelSize> size = photos_.Size(SourcePath(image))) {
             TakeSize(*size, image);
+        }
+        if (photos_.GivenUp()) {
+            return;
         }
     }
     if (neverLoaded || GearIsPending(image)) {
@@ -223,14 +225,20 @@ void Desk::Prepare(ImageRecord& image) {
     }
 }
 
-void Desk::PrepareAll() {
+bool Desk::PrepareAll() {
+    bool prepared = true;
     {
         const Hourglass hourglass(view_);
-        for (ImageRecord& image : state_.Images) {
-            Prepare(image);
+        const Raised busy(busy_);
+        const PhotoLoader::Together together(photos_);
+        for (int n = 1; prepared && n <= state_.Images.UpperBound(); ++n) {
+            Prepare(state_.Images(n));
+            prepared = !photos_.GivenUp();
         }
     }
     RefreshCurrent();
+    view_.Idle();
+    return prepared;
 }
 
 void Desk::RefreshCurrent() {
@@ -291,8 +299,9 @@ void Desk::ApplySettings() {
     if (Current() == nullptr) {
         return;
     }
-    PrepareAll();
-    ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
+    if (PrepareAll()) {
+        ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
+    }
 }
 
 void Desk::ImagesAdded() {
@@ -322,9 +331,10 @@ void Desk::RemoveSelected() {
 }
 
 int Desk::AddToBatchQueue() {
-    PrepareAll();
-    for (const ImageRecord& image : state_.Images) {
-        state_.BatchQueue.Append(image);
+    if (PrepareAll()) {
+        for (const ImageRecord& image : state_.Images) {
+            state_.BatchQueue.Append(image);
+        }
     }
     return state_.BatchQueue.UpperBound();
 }

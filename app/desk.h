@@ -98,7 +98,8 @@ class Desk {
     // Shows the current record's values again after something else changed them.
     void RefreshCurrent();
     void Prepare(ImageRecord& image);
-    void PrepareAll();
+    // False when the user gave it up.
+    bool PrepareAll();
     bool GearIsPending(const ImageRecord& image) const;
     void GiveChosenGear(ImageRecord& image);
     void RenderPreview(const ImageRecord& image);

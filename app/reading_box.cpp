@@ -27,8 +27,9 @@ bool ReadingBox::Continue() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (sinceBegin_.elapsed() > patience) {
         box_ = std::make_unique<QProgressDialog>(
-            QCoreApplication::translate("ReadingBox", "Reading %1 ...")
-                .arg(QFileInfo(path_).fileName()),
+            path_.isEmpty() ? QCoreApplication::translate("ReadingBox", "Reading photos ...")
+                            : QCoreApplication::translate("ReadingBox", "Reading %1 ...")
+                                  .arg(QFileInfo(path_).fileName()),
             QCoreApplication::translate("ReadingBox", "Cancel"), 0, 0,
             QApplication::activeWindow());
         box_->setWindowTitle(QStringLiteral("Varnel"));

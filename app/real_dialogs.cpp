@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include "app/form_about.h"
 #include "app/message_boxes.h"
@@ -68,7 +69,8 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
     };
     FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, notices_, parent);
     if (!photo.isEmpty()) {
-        form.Open(photo);
+        // Once the dialog is up: while the photo is read nothing may happen on the window below.
+        QTimer::singleShot(0, &form, [&form, photo] { form.Open(photo); });
     }
     form.exec();
 }

@@ -113,8 +113,8 @@ class Conversions {
             begun_ = n + 1;
         }
         LoadedPicture loaded = feed_->Take(files_[n]);
-        while (jobs_ > 1 && begun_ < files_.size() && begun_ <= n + feed_->Readers() &&
-               QFileInfo::exists(files_[begun_])) {
+        while (jobs_ > 1 && begun_ < files_.size() && begun_ <= n + feed_->Ahead() &&
+               HasRoomAhead(begun_ - n, loaded.size) && QFileInfo::exists(files_[begun_])) {
             feed_->ReadAhead(files_[begun_++]);
         }
         if (n + 1 == files_.size()) {
@@ -145,11 +145,16 @@ class Conversions {
                 photo.bitmaps.PreviewSourceBitmap.reset();
             }
             FinishWriting();
+            // What was written meanwhile may be the same file under another name.
+            if (const QString trouble = TargetTrouble(run_, photo, file); !trouble.isEmpty()) {
+                Report(file, trouble);
+                return;
+            }
             BeginWriting(target, photo);
         } catch (const RunTimeError& error) {
             Report(file, QString::fromUtf8(error.what()));
         } catch (const std::bad_alloc&) {
-            Report(file, QStringLiteral("not enough memory"));
+            Report(file, QStringLiteral("there is not enough memory"));
         }
     }
 

@@ -8,9 +8,9 @@
 
 namespace varnel {
 
-// Gives up what decoding does not need: core files, new privileges, every file by its name
-// (Landlock), and new programs, connections and other processes (seccomp). It ends with its parent.
-// What a system does not offer is left out. Not undone by anything.
+// Gives up what decoding does not need: inherited files, core files, new privileges, every file by
+// its name (Landlock), and new programs, connections and other processes (seccomp). It ends with
+// its parent. What a system does not offer is left out. Not undone by anything.
 void Confine();
 
 // The address space and the processor time from now on that the next photo may take. A process that

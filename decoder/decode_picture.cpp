@@ -204,7 +204,7 @@ class Decoding {
 
     // Past the library, which takes half as long again; empty where it has to do it.
     BitmapHandle DirectJpeg() const {
-        if (format_ != FIF_JPEG || !stated_) {
+        if (format_ != FIF_JPEG || !stated_ || request_.kind != ReadKind::Whole) {
             return nullptr;
         }
         const PixelSize size = Pixels(*stated_);
@@ -281,7 +281,7 @@ LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::ui
     try {
         return Decoding(file, request, memory, rowsFor, messages).Answer();
     } catch (const std::bad_alloc&) {
-        return LoadedPicture::Refused(QStringLiteral("not enough memory"));
+        return LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
     } catch (const std::exception& error) {
         return LoadedPicture::Refused(
             QStringLiteral("%1 (%2)").arg(Undecodable(), QString::fromLocal8Bit(error.what())));

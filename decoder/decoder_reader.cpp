@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
+#include <new>
 
 #include "decoder/picture_limits.h"
 
@@ -68,8 +70,12 @@ void DecoderReader::Begin(const ReadRequest& request) {
         return;
     }
     photo_ = std::move(opened.file);
-    if (!memory_) {
-        memory_ = memoryFiles_->Take();
+    try {
+        memory_ = memory_ ? std::move(memory_) : memoryFiles_->Take();
+    } catch (const std::bad_alloc&) {
+        FinishRefused(
+            QStringLiteral("there is no memory for it to be had (%1)").arg(qt_error_string(errno)));
+        return;
     }
     request_ = {request_.number + 1, request.kind, request.box, options_.memory,
                 static_cast<std::uint32_t>(options_.secondsPerPhoto)};
@@ -105,12 +111,15 @@ bool DecoderReader::Wait(int milliseconds) {
             break;
         case DecoderProcess::Heard::Nothing:
             if (deadline_.hasExpired()) {
-                FinishRefused(QStringLiteral("took too long (more than %1 seconds)")
-                                  .arg(options_.secondsPerPhoto));
+                FinishRefused(TookTooLong());
             }
             break;
     }
     return answer_.has_value();
+}
+
+QString DecoderReader::TookTooLong() const {
+    return QStringLiteral("took too long (more than %1 seconds)").arg(options_.secondsPerPhoto);
 }
 
 void DecoderReader::Died() {
@@ -118,15 +127,29 @@ void DecoderReader::Died() {
     // Killed from outside: that was not the photo's fault.
     if (signal == SIGKILL && !askedTwice_) {
         askedTwice_ = true;
+        deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
         Restart();
         Ask();
         return;
     }
-    FinishRefused(
-        signal == SIGXCPU
-            ? QStringLiteral("took too long (more than %1 seconds)").arg(options_.secondsPerPhoto)
-        : signal == 0 ? QStringLiteral("damaged: the decoder gave up on it")
-                      : QStringLiteral("damaged: the decoder died of it (signal %1)").arg(signal));
+    switch (signal) {
+        case 0:
+            FinishRefused(QStringLiteral("damaged: the decoder gave up on it"));
+            break;
+        case SIGXCPU:
+            FinishRefused(TookTooLong());
+            break;
+        case SIGKILL:
+        case SIGBUS:
+            FinishRefused(
+                QStringLiteral(
+                    "the system ended the decoder, perhaps for want of memory (signal %1)")
+                    .arg(signal));
+            break;
+        default:
+            FinishRefused(
+                QStringLiteral("damaged: the decoder died of it (signal %1)").arg(signal));
+    }
 }
 
 // After anything but a sound photo the decoder is replaced: one that is still at work has to be

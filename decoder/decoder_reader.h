@@ -22,6 +22,7 @@ class DecoderReader : public PictureReader {
     bool Wait(int milliseconds) override;
     LoadedPicture Take() override;
     void Cancel() override;
+    bool IsApart() const override { return true; }
 
     // The decoder's process number, for tests that kill it.
     pid_t ProcessId() const { return process_.Id(); }
@@ -32,6 +33,7 @@ class DecoderReader : public PictureReader {
     void Finish(LoadedPicture picture);
     void FinishRefused(const QString& reason) { Finish(LoadedPicture::Refused(reason)); }
     void Died();
+    QString TookTooLong() const;
     LoadedPicture PictureFrom(const DecoderAnswer& answer);
     void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
 

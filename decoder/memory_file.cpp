@@ -8,10 +8,23 @@
 #include <sys/stat.h>
 
 #include <new>
+#include <utility>
 
 namespace varnel {
 
-MemoryFile::MemoryFile() : file_(memfd_create("varnel-picture", MFD_CLOEXEC | MFD_ALLOW_SEALING)) {
+namespace {
+
+// Never a program, where the system knows the difference; some allow no other memory files.
+Descriptor NewMemoryFile() {
+    constexpr unsigned flags = MFD_CLOEXEC | MFD_ALLOW_SEALING;
+    constexpr unsigned neverExecuted = 0x0008;  // newer than some C libraries
+    Descriptor file(memfd_create("varnel-picture", flags | neverExecuted));
+    return file ? std::move(file) : Descriptor(memfd_create("varnel-picture", flags));
+}
+
+}  // namespace
+
+MemoryFile::MemoryFile() : file_(NewMemoryFile()) {
     if (!file_ || fcntl(file_.Get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_SEAL) != 0) {
         throw std::bad_alloc();
     }

@@ -25,6 +25,8 @@ class PictureReader {
     virtual LoadedPicture Take() = 0;
     // Drops what is under way, if anything is.
     virtual void Cancel() = 0;
+    // Whether it reads while the caller does something else.
+    virtual bool IsApart() const { return false; }
 };
 
 // Asked every few milliseconds while a photo is read, for handling events; false gives up.

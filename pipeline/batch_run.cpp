@@ -58,6 +58,7 @@ class Run : private RenderProgress {
             FinishWriting();
             if (!stopped_) {
                 Announce();
+                CheckTargetAgain();
                 Conclude();
             }
         }
@@ -149,8 +150,8 @@ class Run : private RenderProgress {
                 ++lastAhead_;
                 continue;
             }
-            if (outputs_.contains(path)) {
-                return;  // has to be written first
+            if (outputs_.contains(path) || !HasRoomAhead(ahead_.size() + 1, source_.size)) {
+                return;  // has to be written first, or there would be too much in memory
             }
             ports_.readAhead(path);
             ++lastAhead_;
@@ -169,6 +170,13 @@ class Run : private RenderProgress {
     }
 
     // Writing.
+
+    // What was written meanwhile may be the same file under another name.
+    void CheckTargetAgain() {
+        if (turn_.trouble.isEmpty()) {
+            turn_.trouble = targets_.Trouble(queue_(turn_.entry), turn_.path, turn_.damage);
+        }
+    }
 
     void Conclude() {
         if (!turn_.trouble.isEmpty()) {
@@ -310,9 +318,13 @@ QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
 }
 
 BatchPorts BatchPortsFor(PhotoFeed& feed) {
-    return {.load = [&feed](const QString& path) { return feed.Take(path); },
-            .readAhead = [&feed](const QString& path) { feed.ReadAhead(path); },
-            .aheadAtMost = feed.Readers()};
+    BatchPorts ports;
+    ports.load = [&feed](const QString& path) { return feed.Take(path); };
+    ports.aheadAtMost = feed.Ahead();
+    if (ports.aheadAtMost > 0) {
+        ports.readAhead = [&feed](const QString& path) { feed.ReadAhead(path); };
+    }
+    return ports;
 }
 
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,

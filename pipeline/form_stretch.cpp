@@ -146,6 +146,9 @@ void FormStretch::Open(const QString& path) {
     busy_ = true;  // events are handled meanwhile
     LoadedPicture loaded = photos_.Load(path);
     busy_ = false;
+    if (photos_.GivenUp()) {
+        return;
+    }
     if (!loaded.bitmap) {
         notices_.Tell(tr("Could not open image"),
                       QStringLiteral("%1: %2").arg(path, loaded.reason));

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "decoder/picture_limits.h"
+
 namespace varnel {
 
 namespace {
@@ -16,7 +18,7 @@ constexpr int mostReaders = 4;        // each may hold a whole picture
 
 PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait)
     : first_(reader), wait_(wait) {
-    for (int n = 0; n < more; ++n) {
+    for (int n = 0; n < more && reader.IsApart(); ++n) {
         more_.push_back(NewPictureReader());
     }
 }
@@ -78,6 +80,12 @@ LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
         return LoadedPicture::Refused(readingCancelled.toString());
     }
     return photo.reader->Take();
+}
+
+bool HasRoomAhead(qsizetype photos, PixelSize last) {
+    constexpr std::int64_t atWork = 4;  // source, two results, one of them encoded
+    const std::int64_t bytes = std::int64_t{last.width} * last.height * 3;
+    return static_cast<std::uint64_t>((photos + atWork) * bytes) <= MachineMemory() / 4 * 3;
 }
 
 int MoreReaders(int cores) {

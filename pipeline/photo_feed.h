@@ -27,8 +27,9 @@ class PhotoFeed {
     // The photo that was started on first, if it is this one; else reads it now, and what was
     // started on is given up.
     LoadedPicture Take(const QString& path);
-    // How many photos may be read at once.
-    int Readers() const { return static_cast<int>(1 + more_.size()); }
+    // How many photos may be read ahead at once; none where that would only keep the caller
+    // waiting.
+    int Ahead() const { return first_.IsApart() ? static_cast<int>(1 + more_.size()) : 0; }
 
   private:
     struct UnderWay {
@@ -44,6 +45,10 @@ class PhotoFeed {
     ReadingWait& wait_;
     std::deque<UnderWay> underWay_;
 };
+
+// Whether so many photos like the last one may be read ahead: together with those at work they have
+// to fit into three quarters of the machine's memory.
+bool HasRoomAhead(qsizetype photos, PixelSize last);
 
 // How many decoders beside the first are worth while for a run that may use this many cores.
 int MoreReaders(int cores);

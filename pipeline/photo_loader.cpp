@@ -5,13 +5,33 @@
 
 namespace varnel {
 
-LoadedPicture PhotoLoader::Read(const ReadRequest& request) {
-    if (wait_ == nullptr) {
-        return ReadPicture(reader_, request);
+void PhotoLoader::BeginWait(const QString& path) {
+    if (waits_++ == 0) {
+        givenUp_ = false;
+        if (wait_ != nullptr) {
+            wait_->Begin(path);
+        }
     }
-    wait_->Begin(request.path);
-    LoadedPicture picture = ReadPicture(reader_, request, [this] { return wait_->Continue(); });
-    wait_->End();
+}
+
+void PhotoLoader::EndWait() {
+    if (--waits_ == 0 && wait_ != nullptr) {
+        wait_->End();
+    }
+}
+
+LoadedPicture PhotoLoader::Read(const ReadRequest& request) {
+    if (reading_) {
+        return LoadedPicture::Refused(QStringLiteral("another photo is being read"));
+    }
+    reading_ = true;
+    BeginWait(request.path);
+    LoadedPicture picture = ReadPicture(reader_, request, [this] {
+        givenUp_ = wait_ != nullptr && !wait_->Continue();
+        return !givenUp_;
+    });
+    EndWait();
+    reading_ = false;
     return picture;
 }
 

@@ -16,6 +16,7 @@ namespace varnel {
 class ReadingWait {
   public:
     virtual ~ReadingWait() = default;
+    // The path is empty for several photos together.
     virtual void Begin(const QString& /*path*/) {}
     // Called every few milliseconds; false gives the photo up.
     virtual bool Continue() { return true; }
@@ -27,16 +28,35 @@ class PhotoLoader {
     explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr)
         : reader_(reader), wait_(wait) {}
 
-    // The full picture.
+    // Several photos are waited for as for one while this lives.
+    class Together {
+      public:
+        explicit Together(PhotoLoader& loader) : loader_(loader) { loader_.BeginWait({}); }
+        ~Together() { loader_.EndWait(); }
+        Together(const Together&) = delete;
+        Together& operator=(const Together&) = delete;
+
+      private:
+        PhotoLoader& loader_;
+    };
+    // Whether the last wait was given up.
+    bool GivenUp() const { return givenUp_; }
+
+    // The full picture. Not loaded while another one is read: events are handled meanwhile.
     LoadedPicture Load(const QString& path);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PixelSize> Size(const QString& path);
 
   private:
     LoadedPicture Read(const ReadRequest& request);
+    void BeginWait(const QString& path);
+    void EndWait();
 
     PictureReader& reader_;
     ReadingWait* wait_;
+    int waits_ = 0;
+    bool reading_ = false;
+    bool givenUp_ = false;
 };
 
 // Sets Width, Height and Landscape of the record from the size of the full picture.

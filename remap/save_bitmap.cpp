@@ -20,7 +20,7 @@ SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString&
         const WriteResult written = WriteWholeFile(fileName, encoded.bytes);
         return {written.ok, written.reason, written ? encoded.note : QString()};
     } catch (const std::bad_alloc&) {
-        return {false, QStringLiteral("not enough memory")};
+        return {false, QStringLiteral("there is not enough memory")};
     }
 }
 

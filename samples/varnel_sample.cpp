@@ -104,7 +104,7 @@ SaveResult TakeAndSave(const FisheyeShot& shot, const QString& fileName) {
     try {
         return SaveBitmap(FIF_JPEG, TakeFisheye(LookAt, shot).get(), fileName, jpegQuality);
     } catch (const std::bad_alloc&) {
-        return {false, QStringLiteral("not enough memory")};
+        return {false, QStringLiteral("there is not enough memory")};
     }
 }
 

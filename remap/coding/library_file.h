@@ -14,7 +14,7 @@ namespace varnel {
 // BMP and TIFF count the bytes of a file in 32 bits.
 inline constexpr qint64 largestFile = 0xFFFFFFFF;
 
-inline constexpr QStringView notEnoughMemory = u"not enough memory";
+inline constexpr QStringView notEnoughMemory = u"there is not enough memory";
 
 // No bytes and the reason when it could not be done.
 struct EncodedBitmap {

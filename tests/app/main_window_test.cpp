@@ -381,6 +381,24 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
     EXPECT_EQ(desk.notices.texts.size(), 2);  // and nothing of the other photo is saved
 }
 
+TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {
+    WindowDesk desk;
+    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    const QString late = desk.files.Picture(Q("late.bmp"), FIF_BMP);
+    int asked = 0;
+    desk.reader.meanwhile = [&] {
+        ++asked;
+        desk.window.AddFiles({late});
+        desk.ClickLine(2);
+    };
+    desk.Click("CommandAddToBatchQue");  // reads the sizes of the photos that were never shown
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(desk.state.Images.UpperBound(), 3);
+    ASSERT_EQ(desk.state.BatchQueue.UpperBound(), 3);
+    EXPECT_EQ(desk.state.BatchQueue(3).Width, 60);
+    EXPECT_FALSE(desk.state.BatchQueue(3).GearName.isEmpty());
+}
+
 TEST(MainWindow, WhatIsWrongWithAPhotoStandsOnItUntilTheNextOne) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")}, {300, 200});

@@ -139,6 +139,18 @@ TEST_F(Convert, ManyJobsDoAndSayWhatOneDoes) {
     EXPECT_TRUE(written[0].size() > 13 * 4 * 1000);
 }
 
+TEST_F(Convert, OneFileUnderTwoNamesIsNotWrittenTwice) {
+    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG, {900, 600});
+    QString other = photo;
+    other.insert(other.lastIndexOf(u'/'), Q("/."));
+    for (const char* jobs : {"1", "2"}) {
+        QFile::remove(files_.Path(Q("IMG.Varnel.TIF")));
+        EXPECT_EQ(RunWithGear({Q("--jobs"), Q(jobs), photo, other}), exitSomeFailed);
+        EXPECT_TRUE(ErrorHas("another photo of this command was written there")) << jobs;
+        EXPECT_EQ(Lines().size(), 1);
+    }
+}
+
 TEST_F(Convert, SkipExistingDoesOnlyWhatIsMissing) {
     const QStringList photos{files_.Picture(Q("a.png"), FIF_PNG),
                              files_.Picture(Q("b.png"), FIF_PNG)};

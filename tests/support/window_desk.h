@@ -90,6 +90,28 @@ class FakeDialogs : public Dialogs {
     QStringList stretched;
 };
 
+// Reads as the programs do, but lets something happen first.
+class SlowReader : public PictureReader {
+  public:
+    void Begin(const ReadRequest& request) override {
+        asked_ = static_cast<bool>(meanwhile);
+        Reader().Begin(request);
+    }
+    bool Wait(int milliseconds) override {
+        if (std::exchange(asked_, false)) {
+            meanwhile();
+            return false;
+        }
+        return Reader().Wait(milliseconds);
+    }
+    LoadedPicture Take() override { return Reader().Take(); }
+    void Cancel() override { Reader().Cancel(); }
+    std::function<void()> meanwhile;
+
+  private:
+    bool asked_ = false;
+};
+
 class WindowDesk {
   public:
     WindowDesk() : window(state, store, {photos, notices, prompt, chooser, dialogs}) {
@@ -141,7 +163,8 @@ class WindowDesk {
     FakeGearPrompt prompt;
     FakeChooser chooser;
     FakeDialogs dialogs;
-    PhotoLoader photos{Reader()};
+    SlowReader reader;
+    PhotoLoader photos{reader};
     MDIForm1 window;
 };
 

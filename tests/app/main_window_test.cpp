@@ -367,52 +367,6 @@ TEST(MainWindow, RemovingClosesTheGapsAndAnEmptyListEmptiesThePictures) {
     EXPECT_FALSE(desk.state.bitmaps.FullSourceBitmap);
 }
 
-TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    const QString broken = desk.files.Text(Q("broken.jpg"));
-    desk.window.AddFiles({broken});
-    desk.ClickLine(1);
-    EXPECT_EQ(desk.notices.texts, QStringList{Q("Could not open image")});
-    EXPECT_TRUE(desk.notices.details.value(0).contains(broken));
-    EXPECT_FALSE(desk.state.bitmaps.FullSourceBitmap);
-    EXPECT_EQ(desk.state.Images.UpperBound(), 2);
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_EQ(desk.notices.texts.size(), 2);  // and nothing of the other photo is saved
-}
-
-TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
-    const QString late = desk.files.Picture(Q("late.bmp"), FIF_BMP);
-    int asked = 0;
-    desk.reader.meanwhile = [&] {
-        ++asked;
-        desk.window.AddFiles({late});
-        desk.ClickLine(2);
-    };
-    desk.Click("CommandAddToBatchQue");  // reads the sizes of the photos that were never shown
-    EXPECT_EQ(asked, 2);
-    EXPECT_EQ(desk.state.Images.UpperBound(), 3);
-    ASSERT_EQ(desk.state.BatchQueue.UpperBound(), 3);
-    EXPECT_EQ(desk.state.BatchQueue(3).Width, 60);
-    EXPECT_FALSE(desk.state.BatchQueue(3).GearName.isEmpty());
-}
-
-TEST(MainWindow, WhatIsWrongWithAPhotoStandsOnItUntilTheNextOne) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {300, 200});
-    auto* const trouble = desk.Find<QLabel>("LabelTrouble");
-    EXPECT_TRUE(trouble->isHidden());
-    desk.window.AddFiles({desk.files.Cut(Q("cut.bmp"), desk.files.Path(Q("a.bmp")), 60)});
-    desk.ClickLine(1);
-    EXPECT_EQ(trouble->text(), Q("cut.bmp: damaged: the file is cut short"));
-    EXPECT_TRUE(desk.Find("PicSmallFrom")->geometry().contains(trouble->geometry()));
-    EXPECT_TRUE(desk.notices.texts.isEmpty());
-    desk.ClickLine(0);
-    EXPECT_TRUE(trouble->isHidden());
-}
-
 TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")}, {900, 600});
@@ -424,30 +378,6 @@ TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
     desk.Entry("CmdSetupSetup")->trigger();
     EXPECT_EQ(SizeOf(desk.state.bitmaps.PreviewSourceBitmap.get()).width, 200);
     EXPECT_EQ(desk.Find("PicSmallTo")->size(), QSize(200, 200));
-}
-
-TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    QSlider* const slider = desk.Slider("SliderAOVinput");
-    desk.Find("ImageList1")->setFocus();
-    const auto roll = [&] {
-        QWheelEvent wheel({5, 5}, slider->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(slider, &wheel);
-    };
-    const int before = slider->value();
-    roll();
-    EXPECT_EQ(slider->value(), before);
-    auto* const gears = desk.Find<QComboBox>("GearCombo");
-    gears->addItem(Q("another"));
-    QWheelEvent overGears({5, 5}, gears->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(gears, &overGears);
-    EXPECT_EQ(gears->currentIndex(), 0);
-    slider->setFocus();
-    roll();
-    EXPECT_NE(slider->value(), before);
 }
 
 }  // namespace

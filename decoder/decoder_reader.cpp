@@ -77,8 +77,12 @@ void DecoderReader::Begin(const ReadRequest& request) {
             QStringLiteral("there is no memory for it to be had (%1)").arg(qt_error_string(errno)));
         return;
     }
-    request_ = {request_.number + 1, request.kind, request.box, options_.memory,
-                static_cast<std::uint32_t>(options_.secondsPerPhoto)};
+    request_ = {request_.number + 1,
+                request.kind,
+                request.box,
+                options_.memory,
+                static_cast<std::uint32_t>(options_.secondsPerPhoto),
+                memory_->Name()};
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     Ask();

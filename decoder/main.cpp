@@ -22,32 +22,51 @@ struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
+// Memory files stay mapped while they take turns: to map one anew for each small photo costs as
+// much time as a tenth of its decoding.
+class MappedFiles {
+  public:
+    // The first bytes of that memory file, which is so long; null when there is no memory for them.
+    std::byte* Map(std::uint32_t name, int file, std::size_t length) {
+        Mapped& mapped = Find(name);
+        if (mapped.name != name || mapped.length < length) {
+            if (mapped.bytes != nullptr) {
+                munmap(mapped.bytes, mapped.length);
+            }
+            // All at once: one fault for each page costs as much time as half the decoding.
+            void* const bytes =
+                mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE, file, 0);
+            mapped = bytes == MAP_FAILED ? Mapped{}
+                                         : Mapped{name, static_cast<std::byte*>(bytes), length};
+        }
+        return mapped.bytes;
+    }
+
+  private:
+    struct Mapped {
+        std::uint32_t name = 0;
+        std::byte* bytes = nullptr;
+        std::size_t length = 0;
+    };
+    // Its place, or that of the one that was not used last.
+    Mapped& Find(std::uint32_t name) {
+        last_ = mapped_[last_].name == name ? last_ : 1 - last_;
+        return mapped_[last_];
+    }
+
+    std::array<Mapped, 2> mapped_;
+    std::size_t last_ = 0;
+};
+
 // The memory file of the photo at hand, where its picture goes.
 class Handover {
   public:
-    explicit Handover(int file) : file_(file) {}
-    ~Handover() {
-        if (rows_ != nullptr) {
-            munmap(rows_, mapped_);
-        }
-    }
-    Handover(const Handover&) = delete;
-    Handover& operator=(const Handover&) = delete;
+    Handover(MappedFiles& mapped, std::uint32_t name, int file)
+        : mapped_(mapped), name_(name), file_(file) {}
 
     // Null when there is no memory for them.
     std::byte* Rows(std::size_t length) {
-        if (rows_ != nullptr && mapped_ != length) {
-            munmap(rows_, mapped_);
-            rows_ = nullptr;
-        }
-        if (rows_ == nullptr && Lengthen(length)) {
-            // All at once: one fault for each page costs as much time as half the decoding.
-            void* const rows =
-                mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE, file_, 0);
-            rows_ = rows == MAP_FAILED ? nullptr : static_cast<std::byte*>(rows);
-            mapped_ = length;
-        }
-        return rows_;
+        return Lengthen(length) ? mapped_.Map(name_, file_, length) : nullptr;
     }
     bool WriteAfter(std::size_t rows, const QByteArray& block) const {
         return Lengthen(rows + static_cast<std::size_t>(block.size())) &&
@@ -62,9 +81,9 @@ class Handover {
                ftruncate(file_, static_cast<off_t>(length)) == 0;
     }
 
+    MappedFiles& mapped_;
+    std::uint32_t name_;
     int file_;
-    std::byte* rows_ = nullptr;
-    std::size_t mapped_ = 0;
 };
 
 // False when there is no memory for rows and extras.
@@ -116,7 +135,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
 }
 
 // One photo; false when the parent is gone.
-bool Serve() {
+bool Serve(MappedFiles& mapped) {
     DecoderRequest request;
     std::array<Descriptor, 2> files;
     if (!ReceiveMessage(decoderSocket, &request, sizeof request, &files) || !files[0] ||
@@ -128,7 +147,7 @@ bool Serve() {
     if (!photo) {
         return false;
     }
-    Handover handover(files[1].Get());
+    Handover handover(mapped, request.memoryFile, files[1].Get());
     const LoadedPicture picture = DecodePicture(
         photo.get(), {{}, request.kind, request.box}, request.memory, [&handover](PixelSize size) {
             const std::size_t pitch = (static_cast<std::size_t>(size.width) * 3 + 3) / 4 * 4;
@@ -153,7 +172,8 @@ extern "C" const char* __asan_default_options() {
 int main() {
     varnel::PrepareDecoding();
     varnel::Confine();
-    while (varnel::Serve()) {
+    varnel::MappedFiles mapped;
+    while (varnel::Serve(mapped)) {
     }
     // Not through the exit handlers: what damaged photos left in the libraries' memory is of no
     // interest any more.

@@ -24,7 +24,7 @@ Descriptor NewMemoryFile() {
 
 }  // namespace
 
-MemoryFile::MemoryFile() : file_(NewMemoryFile()) {
+MemoryFile::MemoryFile(std::uint32_t name) : name_(name), file_(NewMemoryFile()) {
     if (!file_ || fcntl(file_.Get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_SEAL) != 0) {
         throw std::bad_alloc();
     }
@@ -58,7 +58,7 @@ std::byte* MemoryFile::Map(std::uint64_t length) {
 }
 
 std::unique_ptr<MemoryFile> MemoryFiles::Take() {
-    return spare_ ? std::move(spare_) : std::make_unique<MemoryFile>();
+    return spare_ ? std::move(spare_) : std::make_unique<MemoryFile>(++made_);
 }
 
 }  // namespace varnel

@@ -17,11 +17,13 @@ namespace varnel {
 // mapped once stays readable whatever the decoder does.
 class MemoryFile {
   public:
-    MemoryFile();  // throws std::bad_alloc
+    // Throws std::bad_alloc. The name tells memory files of one reader apart.
+    explicit MemoryFile(std::uint32_t name);
     ~MemoryFile();
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
 
+    std::uint32_t Name() const { return name_; }
     int Number() const { return file_.Get(); }
     std::uint64_t Length() const;  // bytes, as it is now
     // The first bytes in memory, for reading and writing; null when that is not possible. An
@@ -29,6 +31,7 @@ class MemoryFile {
     std::byte* Map(std::uint64_t length);
 
   private:
+    std::uint32_t name_;
     Descriptor file_;
     void* bytes_ = nullptr;
     std::size_t mapped_ = 0;
@@ -45,6 +48,7 @@ class MemoryFiles {
 
   private:
     std::unique_ptr<MemoryFile> spare_;
+    std::uint32_t made_ = 0;
 };
 
 }  // namespace varnel

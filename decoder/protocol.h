@@ -21,8 +21,9 @@ struct DecoderRequest {
     std::uint32_t number = 0;  // comes back in the answer
     ReadKind kind = ReadKind::Whole;
     PixelSize box{};
-    std::uint64_t memory = 0;   // bytes that the picture is measured by
-    std::uint32_t seconds = 0;  // of processor time that it may take, about
+    std::uint64_t memory = 0;      // bytes that the picture is measured by
+    std::uint32_t seconds = 0;     // of processor time that it may take, about
+    std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
 };
 
 inline constexpr std::size_t longestReason = 1000;  // bytes of UTF-8

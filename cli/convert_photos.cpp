@@ -129,7 +129,7 @@ class Conversions {
         try {
             const ConversionTarget target = TargetFor(run_, photo.path, record);
             file = target.file;
-            if (writing_ && writing_->target.file == file) {
+            if (writing_ && MayBeSameFile(writing_->target.file, file)) {
                 FinishWriting();
             }
             if (run_.options.skipExisting && QFileInfo::exists(file)) {

@@ -88,7 +88,7 @@ class Run : private RenderProgress {
         TakeSize(SizeOf(source_.bitmap.get()), entry);
         turn_.damage = source_.reason;
         turn_.path = BatchPath(entry, choices_);
-        if (writing_ && writing_->path == turn_.path) {
+        if (writing_ && MayBeSameFile(writing_->path, turn_.path)) {
             FinishWriting();
         }
         if (!writing_ && !stopped_) {

@@ -22,6 +22,13 @@ QString FileIdentity(const QString& path) {
 #endif
 }
 
+bool MayBeSameFile(const QString& a, const QString& b) {
+    const QFileInfo first(a);
+    const QFileInfo second(b);
+    return first.fileName().compare(second.fileName(), Qt::CaseInsensitive) == 0 &&
+           FileIdentity(first.path()) == FileIdentity(second.path());
+}
+
 bool FileSet::Contains(const QString& path) {
     const QString asked = FileIdentity(path);
     if (asked.isEmpty()) {

@@ -61,7 +61,7 @@ QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString&
     if (file.isDir()) {
         return QStringLiteral("this is a folder");
     }
-    if (FileIdentity(target) == FileIdentity(photo.path)) {
+    if (SameFile(target, photo.path)) {
         return QStringLiteral("this is the photo itself");
     }
     // One that is yet to be converted, say: "varnel *" where an earlier result lies.

@@ -9,11 +9,18 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <memory>
 
 #include "decoder/loaded_picture.h"
 #include "decoder/read_request.h"
 
 namespace varnel {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+// The only owner of an open file; closes it.
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 // Memory for the rows of a picture of this size, bottom row first, as far apart as in a bitmap of
 // 24 bits; null when there is none.

@@ -16,10 +16,6 @@ namespace varnel {
 
 namespace {
 
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 class InProcessReader : public PictureReader {
   public:
     explicit InProcessReader(std::uint64_t memory)
@@ -27,9 +23,9 @@ class InProcessReader : public PictureReader {
 
     void Begin(const ReadRequest& request) override {
         const QString trouble = PathTrouble(request.path);
-        const std::unique_ptr<std::FILE, FileCloser> file(
-            trouble.isEmpty() ? std::fopen(QFile::encodeName(request.path).constData(), "rb")
-                              : nullptr);
+        const FileHandle file(trouble.isEmpty()
+                                  ? std::fopen(QFile::encodeName(request.path).constData(), "rb")
+                                  : nullptr);
         if (!file) {
             answer_ = LoadedPicture::Refused(
                 trouble.isEmpty() ? QStringLiteral("it cannot be opened") : trouble);

@@ -13,14 +13,11 @@
 #include "decoder/decode_picture.h"
 #include "decoder/decoder_socket.h"
 #include "decoder/protocol.h"
+#include "remap/row_pitch.h"
 
 namespace varnel {
 
 namespace {
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
 
 // Memory files stay mapped while they take turns: to map one anew for each small photo costs as
 // much time as a tenth of its decoding.
@@ -143,15 +140,14 @@ bool Serve(MappedFiles& mapped) {
         return false;
     }
     LimitNextPhoto(request.memory, request.seconds);
-    const std::unique_ptr<std::FILE, FileCloser> photo(fdopen(files[0].Release(), "rb"));
+    const FileHandle photo(fdopen(files[0].Release(), "rb"));
     if (!photo) {
         return false;
     }
     Handover handover(mapped, request.memoryFile, files[1].Get());
     const LoadedPicture picture = DecodePicture(
         photo.get(), {{}, request.kind, request.box}, request.memory, [&handover](PixelSize size) {
-            const std::size_t pitch = (static_cast<std::size_t>(size.width) * 3 + 3) / 4 * 4;
-            return handover.Rows(pitch * static_cast<std::size_t>(size.height));
+            return handover.Rows(RowPitch(size.width) * static_cast<std::size_t>(size.height));
         });
     const DecoderAnswer answer = AnswerFor(picture, request, handover);
     return SendMessage(decoderSocket, &answer, sizeof answer);

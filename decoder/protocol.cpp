@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "decoder/picture_limits.h"
+#include "remap/row_pitch.h"
 
 namespace varnel {
 
@@ -37,8 +38,7 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
         return false;
     }
-    const std::uint32_t pitch = (static_cast<std::uint32_t>(bitmap.width) * 3 + 3) / 4 * 4;
-    return answer.pitch == pitch && answer.extrasLength <= longestExtras &&
+    return answer.pitch == RowPitch(bitmap.width) && answer.extrasLength <= longestExtras &&
            RowBytes(answer) + answer.extrasLength <= memoryFileLength;
 }
 

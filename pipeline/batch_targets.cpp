@@ -34,7 +34,7 @@ QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path,
     if (!QFileInfo::exists(path)) {
         return {};
     }
-    if (FileIdentity(path) == FileIdentity(SourcePath(entry))) {
+    if (SameFile(path, SourcePath(entry))) {
         return Tr("%1 is the photo itself").arg(path);
     }
     if (queued_.Contains(path)) {

@@ -6,17 +6,14 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "pipeline/file_set.h"
+
 namespace varnel {
 
 namespace {
 
 QString Tr(const char* text) {
     return QCoreApplication::translate("Save", text);
-}
-
-bool SameFile(const QString& a, const QString& b) {
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
 }
 
 }  // namespace

@@ -22,6 +22,11 @@ QString FileIdentity(const QString& path) {
 #endif
 }
 
+bool SameFile(const QString& a, const QString& b) {
+    const QString identity = FileIdentity(a);
+    return !identity.isEmpty() && identity == FileIdentity(b);
+}
+
 bool MayBeSameFile(const QString& a, const QString& b) {
     const QFileInfo first(a);
     const QFileInfo second(b);

@@ -14,6 +14,9 @@ namespace varnel {
 // letters; empty when there is none.
 QString FileIdentity(const QString& path);
 
+// Whether both names lead to one file, which is there.
+bool SameFile(const QString& a, const QString& b);
+
 // Whether both names may lead to one file, be it there or not: the same folder, and names that some
 // cards do not tell apart.
 bool MayBeSameFile(const QString& a, const QString& b);

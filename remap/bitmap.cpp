@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "remap/large_pages.h"
+#include "remap/row_pitch.h"
 
 namespace varnel {
 
@@ -22,8 +23,7 @@ BitmapHandle Owned(FIBITMAP* bitmap) {
 }  // namespace
 
 BitmapHandle NewBitmap(PixelSize size) {
-    const std::size_t pitch = (static_cast<std::size_t>(size.width) * 3 + 3) / 4 * 4;
-    if (auto pages = LargePages(pitch * static_cast<std::size_t>(size.height))) {
+    if (auto pages = LargePages(RowPitch(size.width) * static_cast<std::size_t>(size.height))) {
         BitmapHandle bitmap = BitmapOver(pages.get(), size);
         bitmap.get_deleter().pixels = std::move(pages);
         return bitmap ? std::move(bitmap) : throw std::bad_alloc();
@@ -36,8 +36,8 @@ BitmapHandle BitmapOver(std::byte* rows, PixelSize size) {
                             ? nullptr
                             : FreeImage_ConvertFromRawBitsEx(
                                   FALSE, reinterpret_cast<BYTE*>(rows), FIT_BITMAP, size.width,
-                                  size.height, (size.width * 3 + 3) / 4 * 4, 24, FI_RGBA_RED_MASK,
-                                  FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
+                                  size.height, static_cast<int>(RowPitch(size.width)), 24,
+                                  FI_RGBA_RED_MASK, FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
 }
 
 BitmapHandle CloneBitmap(FIBITMAP* bitmap) {

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <memory>
 
+#include "bench/pictures.h"
 #include "decoder/jpeg_pixels.h"
 #include "decoder/picture_file.h"
 #include "remap/coding/jpeg_coder.h"
@@ -19,22 +20,8 @@ namespace {
 
 constexpr PixelSize pictureSize{6000, 4000};
 
-// Soft rings with some grain: about as large as a JPEG as a photo is.
 FIBITMAP* Rings() {
-    static const BitmapHandle rings = [] {
-        BitmapHandle bitmap = NewBitmap(pictureSize);
-        unsigned grain = 1;
-        for (int y = 0; y < pictureSize.height; ++y) {
-            const auto row = ScanLine(bitmap.get(), y);
-            for (std::size_t x = 0; x < row.size(); ++x) {
-                grain = grain * 1664525U + 1013904223U;
-                const double ring = std::sin(std::hypot(static_cast<double>(x) / 3.0, y) / 50.0);
-                row[x] =
-                    static_cast<std::uint8_t>(128 + ring * 90 + static_cast<double>(grain >> 28));
-            }
-        }
-        return bitmap;
-    }();
+    static const BitmapHandle rings = bench::Rings(pictureSize);
     return rings.get();
 }
 

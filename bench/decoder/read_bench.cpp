@@ -8,8 +8,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <cmath>
 
+#include "bench/pictures.h"
 #include "decoder/decode_picture.h"
 #include "decoder/picture_limits.h"
 #include "decoder/picture_reader.h"
@@ -18,26 +18,10 @@
 namespace varnel {
 namespace {
 
-// Soft rings with some grain: about as large as a JPEG as a photo is.
-BitmapHandle Rings(PixelSize size) {
-    BitmapHandle bitmap = NewBitmap(size);
-    unsigned grain = 1;
-    for (int y = 0; y < size.height; ++y) {
-        const auto row = ScanLine(bitmap.get(), y);
-        for (std::size_t x = 0; x < row.size(); ++x) {
-            grain = grain * 1664525U + 1013904223U;
-            const double ring = std::sin(std::hypot(static_cast<double>(x) / 3.0, y) / 50.0);
-            row[x] = static_cast<std::uint8_t>(128 + ring * 90 + static_cast<double>(grain >> 28));
-        }
-    }
-    return bitmap;
-}
-
 void Here(benchmark::State& state, const QString& path) {
     for (auto _ : state) {
-        std::FILE* const file = std::fopen(QFile::encodeName(path).constData(), "rb");
-        const LoadedPicture picture = DecodePicture(file, {path}, MachineMemory());
-        std::fclose(file);
+        const FileHandle file(std::fopen(QFile::encodeName(path).constData(), "rb"));
+        const LoadedPicture picture = DecodePicture(file.get(), {path}, MachineMemory());
         if (!picture.bitmap) {
             state.SkipWithError("not loaded");
         }
@@ -92,7 +76,7 @@ int main(int argc, char* argv[]) {
     for (const auto& file : files) {
         const QString name = QString::fromLatin1(file.name);
         const QString path = folder.filePath(name);
-        if (!SaveBitmap(file.format, Rings(file.size).get(), path, file.flags)) {
+        if (!SaveBitmap(file.format, bench::Rings(file.size).get(), path, file.flags)) {
             return 1;
         }
         Measure(path, name);

@@ -9,9 +9,11 @@
 #include <iostream>
 
 #include "cli/convert.h"
+#include "remap/large_pages.h"
 #include "state/telling_store.h"
 
 int main(int argc, char* argv[]) {
+    varnel::KeepFreedMemory();
     varnel::UseUtf8Locale();
     const QCoreApplication application(argc, argv);
     const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1};

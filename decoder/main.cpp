@@ -13,6 +13,7 @@
 #include "decoder/decode_picture.h"
 #include "decoder/decoder_socket.h"
 #include "decoder/protocol.h"
+#include "remap/large_pages.h"
 #include "remap/row_pitch.h"
 
 namespace varnel {
@@ -166,6 +167,7 @@ extern "C" const char* __asan_default_options() {
 }
 
 int main() {
+    varnel::KeepFreedMemory();
     varnel::PrepareDecoding();
     varnel::Confine();
     varnel::MappedFiles mapped;

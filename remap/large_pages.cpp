@@ -3,11 +3,21 @@
 
 #include "remap/large_pages.h"
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #ifdef __linux__
 #include <sys/mman.h>
 #endif
 
 namespace varnel {
+
+void KeepFreedMemory() {
+#ifdef __GLIBC__
+    mallopt(M_TRIM_THRESHOLD, 64 << 20);
+    mallopt(M_MMAP_THRESHOLD, 32 << 20);  // whole pictures go back all the same
+#endif
+}
 
 #ifdef __linux__
 

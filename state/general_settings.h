@@ -18,6 +18,11 @@ struct GeneralSettings {
     int PreviewHeight = 300;
     QString FileType = QStringLiteral("JPG");  // "TIFF", "JPEG", "BMP" or "PNG" once chosen
     std::int16_t JPEGcompression = 100;        // quality, percent
+    bool JPEGchroma444 = false;                // colour at full resolution
+    bool AutoOrient = true;                    // photos are turned upright as their EXIF says
+    bool OfferGear = true;                     // the gear that a photo's EXIF tells is offered
+    bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
+    bool WriteSettings = true;                 // the settings go into the result
 
     bool operator==(const GeneralSettings&) const = default;
 };

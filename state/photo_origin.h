@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What a photo's file says about the camera and the lens that took it, as the camera spelled it.
+#pragma once
+
+#include <QString>
+
+namespace varnel {
+
+struct PhotoOrigin {
+    QString Make;
+    QString Model;
+    QString LensMake;
+    QString LensModel;
+    float FocalLength = 0.0F;  // millimetres; 0 when not told
+    float FNumber = 0.0F;      // 0 when not told
+
+    bool operator==(const PhotoOrigin&) const = default;
+    bool IsKnown() const { return !Make.isEmpty() || !Model.isEmpty() || !LensModel.isEmpty(); }
+};
+
+}  // namespace varnel

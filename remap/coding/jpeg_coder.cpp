@@ -19,10 +19,10 @@ namespace varnel {
 
 namespace {
 
-// Restart markers are numbered 0 to 7 in turn. With one after each row of blocks, every band of a
-// multiple of eight such rows begins with the same number, so bands can be coded apart.
-constexpr int blockSide = 16;  // pixels, at half the resolution of colour each way
-constexpr int bandHeight = 8 * blockSide;
+// Restart markers are numbered 0 to 7 in turn. With one after each strip, every band of eight
+// strips begins with the same number, so bands can be coded apart.
+constexpr int stripHeight = 16;  // rows of pixels: one row of blocks, two at full colour resolution
+constexpr int bandHeight = 8 * stripHeight;
 // Below that one core is done before another has woken up.
 constexpr std::int64_t fewestPixelsForBands = 1'000'000;
 
@@ -37,7 +37,7 @@ struct Band {
     FIBITMAP* bitmap;
     int first;
     int count;
-    bool restarts;  // a marker after each row of blocks
+    bool restarts;  // a marker after each strip
 };
 
 // Coded bytes. They grow without throwing, because libjpeg's frames lie in between.
@@ -89,6 +89,10 @@ class CodedBytes : public jpeg_destination_mgr {
     std::size_t capacity_ = 0;
 };
 
+constexpr int QualityIn(int flags) {
+    return flags & ~JPEG_SUBSAMPLING_444;
+}
+
 // libjpeg's work on one band.
 class BandCoder {
   public:
@@ -98,7 +102,7 @@ class BandCoder {
     BandCoder& operator=(const BandCoder&) = delete;
 
     // A whole file, but without JFIF header. Nothing may be destroyed in here: errors jump.
-    bool Code(const Band& band, int quality) {
+    bool Code(const Band& band, int flags) {
         if (setjmp(errors_.Back()) != 0) {
             return false;
         }
@@ -109,9 +113,14 @@ class BandCoder {
         info_.in_color_space = JCS_EXT_BGR;
         info_.input_components = 3;
         jpeg_set_defaults(&info_);
-        jpeg_set_quality(&info_, quality == 0 ? 75 : quality, TRUE);
+        jpeg_set_quality(&info_, QualityIn(flags) == 0 ? 75 : QualityIn(flags), TRUE);
+        jpeg_component_info& brightness = info_.comp_info[0];
+        if ((flags & JPEG_SUBSAMPLING_444) != 0) {
+            brightness.h_samp_factor = brightness.v_samp_factor = 1;
+        }
         info_.write_JFIF_header = FALSE;
-        info_.restart_in_rows = band.restarts ? 1 : 0;
+        const int strip = stripHeight / (brightness.v_samp_factor * DCTSIZE);  // rows of blocks
+        info_.restart_in_rows = band.restarts ? strip : 0;
         jpeg_start_compress(&info_, TRUE);
         WriteRows(band);
         jpeg_finish_compress(&info_);
@@ -121,10 +130,10 @@ class BandCoder {
 
   private:
     void WriteRows(const Band& band) {
-        std::array<JSAMPROW, blockSide> rows;
+        std::array<JSAMPROW, stripHeight> rows;
         const int top = static_cast<int>(FreeImage_GetHeight(band.bitmap)) - 1 - band.first;
         for (int done = 0; done < band.count;) {
-            const int count = std::min(band.count - done, blockSide);
+            const int count = std::min(band.count - done, stripHeight);
             for (int i = 0; i < count; ++i) {
                 rows[i] = FreeImage_GetScanLine(band.bitmap, top - done - i);
             }
@@ -138,9 +147,9 @@ class BandCoder {
     CodedBytes& coded_;
 };
 
-bool CodeBand(const Band& band, int quality, CodedBytes& coded) {
+bool CodeBand(const Band& band, int flags, CodedBytes& coded) {
     BandCoder coder(coded);
-    const bool done = coder.Code(band, quality);
+    const bool done = coder.Code(band, flags);
     if (coder.IsOutOfMemory()) {
         throw std::bad_alloc();
     }
@@ -149,12 +158,12 @@ bool CodeBand(const Band& band, int quality, CodedBytes& coded) {
 
 // The library's file for the same metadata, up to where the tables of this quality begin: the rest
 // has to be what libjpeg makes of the same pixels here.
-std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int quality) {
+std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int flags) {
     const BitmapHandle sample = MetadataSample(bitmap);
-    EncodedBitmap file = LibraryFile(FIF_JPEG, sample.get(), quality);
+    EncodedBitmap file = LibraryFile(FIF_JPEG, sample.get(), flags);
     CodedBytes coded;
     if (!file.reason.isEmpty() ||
-        !CodeBand({sample.get(), 0, SizeOf(sample.get()).height, false}, quality, coded)) {
+        !CodeBand({sample.get(), 0, SizeOf(sample.get()).height, false}, flags, coded)) {
         return std::nullopt;
     }
     const QByteArrayView rest = coded.View().sliced(startOfImage.size());
@@ -219,11 +228,11 @@ std::optional<QByteArray> Joined(const QByteArray& head, std::vector<CodedBytes>
     return file += endOfImage;
 }
 
-bool IsCodable(FIBITMAP* bitmap, int quality) {
+bool IsCodable(FIBITMAP* bitmap, int flags) {
     const auto isSide = [](unsigned side) { return side > 0 && side <= JPEG_MAX_DIMENSION; };
     return FreeImage_HasPixels(bitmap) == TRUE && FreeImage_GetImageType(bitmap) == FIT_BITMAP &&
            FreeImage_GetBPP(bitmap) == 24 && isSide(FreeImage_GetWidth(bitmap)) &&
-           isSide(FreeImage_GetHeight(bitmap)) && quality >= 0 && quality <= 100;
+           isSide(FreeImage_GetHeight(bitmap)) && QualityIn(flags) >= 0 && QualityIn(flags) <= 100;
 }
 
 std::vector<Band> BandsOf(FIBITMAP* bitmap) {
@@ -241,11 +250,11 @@ std::vector<Band> BandsOf(FIBITMAP* bitmap) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int quality, BlockRunner& runner) {
-    if (!IsCodable(bitmap, quality)) {
+std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner) {
+    if (!IsCodable(bitmap, flags)) {
         return std::nullopt;
     }
-    const std::optional<QByteArray> head = LibraryHead(bitmap, quality);
+    const std::optional<QByteArray> head = LibraryHead(bitmap, flags);
     if (!head) {
         return std::nullopt;
     }
@@ -253,7 +262,7 @@ std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int quality, BlockRunner&
     std::vector<CodedBytes> coded(bands.size());
     std::atomic<bool> failed = false;
     runner.Run(static_cast<int>(bands.size()), [&](int n) {
-        if (!CodeBand(bands[n], quality, coded[n])) {
+        if (!CodeBand(bands[n], flags, coded[n])) {
             failed = true;
         }
     });

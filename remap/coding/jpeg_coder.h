@@ -12,10 +12,11 @@
 
 namespace varnel {
 
-// The file that the library writes for a bitmap of 24 bits with this quality (0 to 100, 0 is the
-// library's own choice): the same pixels once decoded, tables and metadata. That of a large picture
-// has restart markers and so is a few bytes larger; it does not depend on the runner. Nothing where
-// that cannot be done: the library has to try. Throws std::bad_alloc.
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int quality, BlockRunner& runner);
+// The file that the library writes for a bitmap of 24 bits with these flags (a quality of 0 to 100,
+// 0 is the library's own choice, and perhaps JPEG_SUBSAMPLING_444): the same pixels once decoded,
+// tables and metadata. That of a large picture has restart markers and so is a few bytes larger; it
+// does not depend on the runner. Nothing where that cannot be done: the library has to try. Throws
+// std::bad_alloc.
+std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner);
 
 }  // namespace varnel

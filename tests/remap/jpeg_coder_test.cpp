@@ -64,10 +64,10 @@ std::vector<QByteArray> Segments(const QByteArray& file) {
     return segments;
 }
 
-void ExpectLikeTheLibrarys(FIBITMAP* bitmap, int quality) {
+void ExpectLikeTheLibrarys(FIBITMAP* bitmap, int flags) {
     testing::ShuffledRunner runner(7);
-    const std::optional<QByteArray> file = EncodeJpeg(bitmap, quality, runner);
-    const QByteArray expected = LibraryFile(FIF_JPEG, bitmap, quality).bytes;
+    const std::optional<QByteArray> file = EncodeJpeg(bitmap, flags, runner);
+    const QByteArray expected = LibraryFile(FIF_JPEG, bitmap, flags).bytes;
     ASSERT_TRUE(file);
     EXPECT_EQ(Segments(*file), Segments(expected));
     EXPECT_LE(file->size(), expected.size() * 101 / 100);
@@ -87,7 +87,9 @@ TEST(EncodeJpeg, WritesALargePictureInBandsLikeTheLibrary) {
                 {{65500, 17}, 90},  {{2047, 1151}, 1},   {{1500, 900}, 30}};
     for (const auto& row : rows) {
         SCOPED_TRACE(::testing::Message() << row.size.width << " x " << row.size.height);
-        ExpectLikeTheLibrarys(Picture(row.size).get(), row.quality);
+        for (const int chroma : {0, JPEG_SUBSAMPLING_444}) {
+            ExpectLikeTheLibrarys(Picture(row.size).get(), row.quality | chroma);
+        }
     }
 }
 
@@ -95,10 +97,12 @@ TEST(EncodeJpeg, WritesASmallPictureByteForByteAsTheLibrary) {
     for (const PixelSize size : {PixelSize{1, 1}, {17, 33}, {16, 16}, {15, 127}, {33, 300}}) {
         const BitmapHandle bitmap = Picture(size);
         for (int quality = 0; quality <= 100; ++quality) {
-            SerialRunner runner;
-            EXPECT_EQ(EncodeJpeg(bitmap.get(), quality, runner),
-                      LibraryFile(FIF_JPEG, bitmap.get(), quality).bytes)
-                << size.width << " x " << size.height << ", " << quality;
+            for (const int flags : {quality, quality | JPEG_SUBSAMPLING_444}) {
+                SerialRunner runner;
+                EXPECT_EQ(EncodeJpeg(bitmap.get(), flags, runner),
+                          LibraryFile(FIF_JPEG, bitmap.get(), flags).bytes)
+                    << size.width << " x " << size.height << ", " << flags;
+            }
         }
     }
 }
@@ -135,8 +139,9 @@ TEST(EncodeJpeg, LeavesToTheLibraryWhatItDoesNotKnow) {
         EXPECT_FALSE(EncodeJpeg(bitmap.get(), 90, runner)) << bits;
     }
     const BitmapHandle bitmap = NewBitmap({8, 8});
-    for (const int quality : {-1, 101, JPEG_QUALITYSUPERB, JPEG_PROGRESSIVE | 90}) {
-        EXPECT_FALSE(EncodeJpeg(bitmap.get(), quality, runner)) << quality;
+    for (const int flags : {-1, 101, JPEG_QUALITYSUPERB, JPEG_PROGRESSIVE | 90,
+                            JPEG_SUBSAMPLING_422 | 90, JPEG_SUBSAMPLING_444 | 101}) {
+        EXPECT_FALSE(EncodeJpeg(bitmap.get(), flags, runner)) << flags;
     }
     const BitmapHandle wide = NewBitmap({65501, 1});
     EXPECT_FALSE(EncodeJpeg(wide.get(), 90, runner));

@@ -5,6 +5,7 @@
 // converted. A record owns copies of the gear's numbers; the projections read nothing else.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <cstdint>
 
@@ -50,6 +51,9 @@ struct ImageRecord {
     QString Folder;                  // without a trailing separator; the root is the empty text
     QString FileName;                // with extension
     QString NameSuffix;              // tells the frames of a morph sequence apart
+
+    // Settings of later versions, as they were found in a picture: written back as they are.
+    QMap<QString, QString> FurtherSettings;
 
     bool operator==(const ImageRecord&) const = default;
 };

@@ -96,6 +96,23 @@ std::optional<QString> Parse(const QString& text, const QString& /*kind*/) {
     return text;
 }
 
+QString TextOf(std::int16_t value) {
+    return QString::number(value);
+}
+
+QString TextOf(Flag16 value) {
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+QString TextOf(float value) {
+    return QString::number(static_cast<double>(value), 'g',
+                           std::numeric_limits<float>::max_digits10);
+}
+
+QString TextOf(const QString& value) {
+    return value;
+}
+
 template <class Value>
 FieldResult SetValue(Value& target, const QString& text) {
     std::optional<Value> value = Parse(text, target);
@@ -123,6 +140,15 @@ FieldResult SetField(ImageRecord& image, const QString& field, const QString& va
                           known.pointer);
     }
     return FieldResult::UnknownField;
+}
+
+QString FieldText(const ImageRecord& image, const QString& field) {
+    for (const Field& known : fields) {
+        if (field == known.name) {
+            return std::visit([&](auto pointer) { return TextOf(image.*pointer); }, known.pointer);
+        }
+    }
+    return {};
 }
 
 QStringList FieldNames() {

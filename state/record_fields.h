@@ -18,6 +18,9 @@ enum class FieldResult { Ok, UnknownField, BadValue };
 // Ok.
 FieldResult SetField(ImageRecord& image, const QString& field, const QString& value);
 
+// The field's value as SetField takes it back, numbers bit by bit; empty for any other name.
+QString FieldText(const ImageRecord& image, const QString& field);
+
 // All fields in the record's order.
 QStringList FieldNames();
 

@@ -3,6 +3,8 @@
 
 #include "state/gear_assignment.h"
 
+#include "remap/turn.h"
+
 namespace varnel {
 
 namespace {
@@ -27,7 +29,42 @@ void CopyGear(const GearRecord& gear, ImageRecord& image) {
     image.LensMapFactor = gear.LensMapFactor;
 }
 
+bool IsStoredInLandscape(const ImageRecord& image) {
+    return SwapsSides(image.Orientation) ? image.Height >= image.Width
+                                         : static_cast<bool>(image.Landscape);
+}
+
+// What undoes an orientation.
+int Inverse(int orientation) {
+    constexpr int clockwise = 6;
+    constexpr int counterClockwise = 8;
+    return orientation == clockwise          ? counterClockwise
+           : orientation == counterClockwise ? clockwise
+                                             : orientation;
+}
+
+void SetCentre(const CentreOffset& centre, ImageRecord& image) {
+    image.OfsetX = centre.x;
+    image.OfsetY = centre.y;
+}
+
 }  // namespace
+
+CentreOffset Turned(const CentreOffset& stored, int orientation) {
+    const auto [x, y] = stored;
+    const float left = 0.0F - x;  // never a negative 0, which would show
+    const float up = 0.0F - y;
+    const CentreOffset turned[] = {{x, y}, {left, y}, {left, up}, {x, up},
+                                   {y, x}, {up, x},   {up, left}, {y, left}};
+    return IsOrientation(orientation) ? turned[orientation - 1] : stored;
+}
+
+void TurnCentre(ImageRecord& image, int orientation) {
+    if (image.Orientation != orientation) {
+        const CentreOffset shown{image.OfsetX, image.OfsetY};
+        SetCentre(Turned(Turned(shown, Inverse(image.Orientation)), orientation), image);
+    }
+}
 
 bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     if (image.SettingsApplied) {
@@ -36,8 +73,10 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     image.EffectVarnel = 100.0F;
     image.EffectRectilinear = 100.0F;
     CopyGear(gear, image);
-    image.OfsetX = image.Landscape ? gear.OfsetX : gear.OfsetY;
-    image.OfsetY = image.Landscape ? gear.OfsetY : gear.OfsetX;
+    const CentreOffset stored = IsStoredInLandscape(image)
+                                    ? CentreOffset{gear.OfsetX, gear.OfsetY}
+                                    : CentreOffset{gear.OfsetY, gear.OfsetX};
+    SetCentre(Turned(stored, image.Orientation), image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = image.InputAOV > widestOutputAov ? widestOutputAov : image.InputAOV;
     return true;
@@ -50,17 +89,21 @@ void ApplyGearToAll(RecordArray<ImageRecord>& images, const QString& gearName) {
     }
 }
 
+void CopySettings(const ImageRecord& from, ImageRecord& to) {
+    ImageRecord changed = from;
+    changed.Width = to.Width;
+    changed.Height = to.Height;
+    changed.Landscape = to.Landscape;
+    changed.Folder = to.Folder;
+    changed.FileName = to.FileName;
+    changed.NameSuffix = to.NameSuffix;
+    to = std::move(changed);
+}
+
 void ApplySettingsToAll(RecordArray<ImageRecord>& images, int current) {
     const ImageRecord source = images(current);
     for (ImageRecord& image : images) {
-        ImageRecord changed = source;
-        changed.Width = image.Width;
-        changed.Height = image.Height;
-        changed.Landscape = image.Landscape;
-        changed.Folder = image.Folder;
-        changed.FileName = image.FileName;
-        changed.NameSuffix = image.NameSuffix;
-        image = std::move(changed);
+        CopySettings(source, image);
     }
 }
 

@@ -13,15 +13,31 @@
 namespace varnel {
 
 // Copies the gear's names and numbers and resets angles of view and effects to the gear's defaults;
-// rotation and translation stay. A record whose settings were applied is left alone: false.
+// rotation and translation stay. The gear's centre is meant for a picture stored in landscape: for
+// one stored upright its offsets change places, and then they turn with the picture. A record whose settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
+
+// The circle's centre beside the picture's: thousandths of width and height, positive to the right
+// and toward the bottom.
+struct CentreOffset {
+    float x = 0.0F;
+    float y = 0.0F;
+};
+// Where it is once the picture as it is stored was turned by its EXIF orientation.
+CentreOffset Turned(const CentreOffset& stored, int orientation);
+
+// Moves the record's centre offsets with a picture that is shown turned by this orientation
+// instead of the record's.
+void TurnCentre(ImageRecord& image, int orientation);
 
 // Only notes the name and reopens every record for the gear; its numbers follow when it is
 // assigned.
 void ApplyGearToAll(RecordArray<ImageRecord>& images, const QString& gearName);
 
-// Copies everything but size, orientation, file and name suffix from the current image to all.
-// Centre offsets go as they stand onto records of the other orientation, too.
+// Copies everything but size, orientations, file and name suffix. Centre offsets go as they stand
+// onto a record of the other orientation, too.
+void CopySettings(const ImageRecord& from, ImageRecord& to);
+// From the current image to all.
 void ApplySettingsToAll(RecordArray<ImageRecord>& images, int current);
 
 }  // namespace varnel

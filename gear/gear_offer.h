@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the main window says about the gear that took the current photo, and what it offers.
+#pragma once
+
+#include <QString>
+
+#include "gear/photo_gear.h"
+
+namespace varnel {
+
+struct GearOffer {
+    QString line;         // empty: nothing is known
+    int gear = 0;         // of the table, to be used; 0 for none
+    bool define = false;  // a gear may be defined from the names
+    GearNames names;
+    QString reason;  // why it is offered, or why nothing is
+
+    bool operator==(const GearOffer&) const = default;
+};
+
+// A photo that has its gear already, or one with the same camera and lens, gets no offer.
+GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const GearNames& current);
+
+}  // namespace varnel

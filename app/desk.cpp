@@ -305,7 +305,7 @@ void Desk::ApplySettings() {
 }
 
 void Desk::ImagesAdded() {
-    view_.ShowList(state_.Images);
+    view_.ShowList(state_.Images, 0);
 }
 
 void Desk::RemoveSelected() {
@@ -327,7 +327,7 @@ void Desk::RemoveSelected() {
         view_.ShowStatus({});
         view_.ShowTrouble({});
     }
-    view_.ShowList(state_.Images);
+    view_.ShowList(state_.Images, 0);
 }
 
 int Desk::AddToBatchQueue() {

@@ -37,7 +37,8 @@ class DeskView {
     virtual PixelSize PictureRoom() const = 0;  // the room that the window leaves for one picture
     virtual RenderProgress& Progress() = 0;
 
-    virtual void ShowList(const RecordArray<ImageRecord>& images) = 0;  // makes line 0 current
+    // Makes the line current.
+    virtual void ShowList(const RecordArray<ImageRecord>& images, int line) = 0;
     virtual void ShowRecord(const ImageRecord& image) = 0;
     virtual void ShowSource(FIBITMAP* bitmap) = 0;  // null empties the picture
     virtual void ShowResult(FIBITMAP* bitmap) = 0;
@@ -77,6 +78,9 @@ class Desk {
     void ApplySettings();  // of the current photo, to all
 
     void ImagesAdded();
+    // Dropped files. For a picture that Varnel made of a photo, that photo with the settings that
+    // made the picture; the first such one becomes current.
+    void AddFiles(const QStringList& paths);
     void RemoveSelected();
     // Copies the whole list into the batch queue; returns the queue's length.
     int AddToBatchQueue();

@@ -16,7 +16,6 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "pipeline/add_images.h"
 #include "remap/rounding.h"
 #include "state/setting_names.h"
 
@@ -197,10 +196,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
 }
 
 void MDIForm1::AddFiles(const QStringList& files) {
-    if (!files.isEmpty() && !desk_->Busy()) {
-        AppendFiles(state_.Images, files);
-        desk_->ImagesAdded();
-    }
+    desk_->AddFiles(files);
 }
 
 void MDIForm1::RestoreLayout() {

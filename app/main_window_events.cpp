@@ -151,7 +151,7 @@ void MDIForm1::OnListShown() {
     if (state_.Images.Empty()) {
         setWindowTitle(QStringLiteral("Varnel"));
     } else {
-        desk_->ShowLine(0);
+        desk_->ShowLine(view_->CurrentLine());
     }
 }
 

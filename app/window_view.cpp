@@ -31,11 +31,11 @@ PixelSize WindowView::PictureRoom() const {
     return DevicePixels(parts_.pictures->Room(), window_->devicePixelRatioF());
 }
 
-void WindowView::ShowList(const RecordArray<ImageRecord>& images) {
+void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
     parts_.list->Fill(images);
     {
         const QSignalBlocker blocker(parts_.list->List());
-        parts_.list->List()->setCurrentRow(images.Empty() ? -1 : 0);
+        parts_.list->List()->setCurrentRow(images.Empty() ? -1 : line);
     }
     if (whenListShown_) {
         whenListShown_();

@@ -44,7 +44,7 @@ class WindowView : public DeskView {
     PixelSize PictureRoom() const override;
     RenderProgress& Progress() override { return progress_; }
 
-    void ShowList(const RecordArray<ImageRecord>& images) override;
+    void ShowList(const RecordArray<ImageRecord>& images, int line) override;
     void ShowRecord(const ImageRecord& image) override;
     void ShowSource(FIBITMAP* bitmap) override { parts_.pictures->From()->Show(bitmap); }
     void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap); }

@@ -20,16 +20,18 @@ void PhotoLoader::EndWait() {
     }
 }
 
+bool PhotoLoader::Continue() {
+    givenUp_ = wait_ != nullptr && !wait_->Continue();
+    return !givenUp_;
+}
+
 LoadedPicture PhotoLoader::Read(const ReadRequest& request) {
     if (reading_) {
         return LoadedPicture::Refused(QStringLiteral("another photo is being read"));
     }
     reading_ = true;
     BeginWait(request.path);
-    LoadedPicture picture = ReadPicture(reader_, request, [this] {
-        givenUp_ = wait_ != nullptr && !wait_->Continue();
-        return !givenUp_;
-    });
+    LoadedPicture picture = ReadPicture(reader_, request, [this] { return Continue(); });
     EndWait();
     reading_ = false;
     return picture;
@@ -42,6 +44,12 @@ LoadedPicture PhotoLoader::Load(const QString& path) {
 std::optional<PixelSize> PhotoLoader::Size(const QString& path) {
     const LoadedPicture picture = Read({path, ReadKind::Size, {}});
     return picture.outcome == LoadOutcome::NotLoaded ? std::nullopt : std::optional(picture.size);
+}
+
+PhotoFacts PhotoLoader::Facts(const QString& path) {
+    const LoadedPicture picture = Load(path);
+    return picture.bitmap ? PhotoFacts{MetadataOf(picture.bitmap.get()), {}}
+                          : PhotoFacts{{}, picture.reason};
 }
 
 void TakeSize(PixelSize size, ImageRecord& image) {

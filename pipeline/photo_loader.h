@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "decoder/picture_reader.h"
+#include "remap/photo_metadata.h"
 #include "state/image_record.h"
 
 namespace varnel {
@@ -23,6 +24,12 @@ class ReadingWait {
     virtual void End() {}
 };
 
+// What a photo's file says.
+struct PhotoFacts {
+    PhotoMetadata metadata;
+    QString trouble;  // why nothing can be told; empty when all is well
+};
+
 class PhotoLoader {
   public:
     explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr)
@@ -35,6 +42,8 @@ class PhotoLoader {
         ~Together() { loader_.EndWait(); }
         Together(const Together&) = delete;
         Together& operator=(const Together&) = delete;
+        // Between two quick ones: lets the wait have its turn. False when it was given up.
+        bool Continue() { return loader_.Continue(); }
 
       private:
         PhotoLoader& loader_;
@@ -46,9 +55,12 @@ class PhotoLoader {
     LoadedPicture Load(const QString& path);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PixelSize> Size(const QString& path);
+    // What the file says beside its pixels.
+    PhotoFacts Facts(const QString& path);
 
   private:
     LoadedPicture Read(const ReadRequest& request);
+    bool Continue();
     void BeginWait(const QString& path);
     void EndWait();
 

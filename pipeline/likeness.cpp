@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/likeness.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include "pipeline/add_images.h"
+#include "pipeline/file_set.h"
+#include "state/picture_settings.h"
+
+namespace varnel {
+
+namespace {
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("Likeness", text);
+}
+
+bool IsSource(const QString& folder, const QString& fileName, const QString& picture) {
+    const QString path = folder + u'/' + fileName;
+    return QDir::isAbsolutePath(path) && QFileInfo(path).isFile() && !SameFile(path, picture);
+}
+
+void FindSource(Likeness& likeness, const QString& picture) {
+    ImageRecord& record = likeness.record;
+    const QString beside = RecordFolder(QFileInfo(picture).absolutePath());
+    if (record.FileName.isEmpty()) {
+        return;
+    }
+    likeness.sourceFound = IsSource(record.Folder, record.FileName, picture);
+    if (!likeness.sourceFound && IsSource(beside, record.FileName, picture)) {
+        record.Folder = beside;
+        likeness.sourceFound = true;
+    }
+}
+
+void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path,
+                        const PictureSettings& settings, AddedFiles& added) {
+    const std::optional<Likeness> likeness = LikenessFrom(settings, path);
+    if (likeness && likeness->sourceFound) {
+        images.Append(likeness->record);
+        added.like = added.like == 0 ? images.UpperBound() : added.like;
+        for (const QString& note : likeness->notes) {
+            added.notes.append(QStringLiteral("%1: %2").arg(path, note));
+        }
+        return;
+    }
+    if (likeness) {
+        const QString source = likeness->record.FileName.isEmpty() ? Tr("its name is not known")
+                                                                   : SourcePath(likeness->record);
+        added.missing.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), source));
+    }
+    AppendFiles(images, {path});
+}
+
+}  // namespace
+
+bool MayHoldSettings(const QString& path) {
+    static const QStringList endings{QStringLiteral("jpg"), QStringLiteral("jpeg"),
+                                     QStringLiteral("tif"), QStringLiteral("tiff"),
+                                     QStringLiteral("png")};
+    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
+std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture) {
+    if (settings.isEmpty()) {
+        return std::nullopt;
+    }
+    Likeness likeness;
+    likeness.notes = TakeSettings(settings, likeness.record);
+    FindSource(likeness, picture);
+    return likeness;
+}
+
+AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringList& paths,
+                                PhotoLoader& photos) {
+    AddedFiles added;
+    PhotoLoader::Together together(photos);
+    bool goesOn = true;
+    for (const QString& path : paths) {
+        const bool asks = goesOn && MayHoldSettings(path);
+        AppendFileOrSource(images, path,
+                           asks ? photos.Facts(path).metadata.settings : PictureSettings(), added);
+        goesOn = goesOn && !photos.GivenUp() && together.Continue();
+    }
+    return added;
+}
+
+}  // namespace varnel

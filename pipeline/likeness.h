@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Pictures that Varnel wrote, taken for the photo and the settings that made them.
+#pragma once
+
+#include <optional>
+
+#include "pipeline/photo_loader.h"
+#include "state/record_array.h"
+
+namespace varnel {
+
+// Whether settings are written into files of that name's type.
+bool MayHoldSettings(const QString& path);
+
+struct Likeness {
+    ImageRecord record;  // leads to the source photo where that was found
+    bool sourceFound = false;
+    QStringList notes;  // settings that were refused
+};
+
+// What made the picture; nothing when it holds no settings. The source photo is looked for where it
+// was, then beside the picture.
+std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture);
+
+struct AddedFiles {
+    int like = 0;         // number of the first record that came from a picture's settings; 0: none
+    QStringList missing;  // pictures whose source photo is gone, each with its name
+    QStringList notes;    // refused settings, each with its picture
+};
+
+// As AppendFiles does, but for a picture that holds settings its source photo with these settings
+// comes, if it is there. Reads no pixels; when the user gives up waiting, no further file is looked
+// into.
+AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringList& paths,
+                                PhotoLoader& photos);
+
+}  // namespace varnel

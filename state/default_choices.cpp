@@ -24,6 +24,14 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
     save(setting::PreviewHeight, QString::number(settings.PreviewHeight));
     save(setting::FileType, settings.FileType);
     save(setting::JpegCompression, QString::number(settings.JPEGcompression));
+    const auto saveFlag = [&](QLatin1StringView key, bool flag) {
+        save(key, QString::number(flag ? 1 : 0));
+    };
+    saveFlag(setting::JpegChroma444, settings.JPEGchroma444);
+    saveFlag(setting::AutoOrient, settings.AutoOrient);
+    saveFlag(setting::OfferGear, settings.OfferGear);
+    saveFlag(setting::WriteMetadata, settings.WriteMetadata);
+    saveFlag(setting::WriteSettings, settings.WriteSettings);
 }
 
 }  // namespace varnel

@@ -27,7 +27,7 @@ inline constexpr std::array fileTypeTexts{QLatin1StringView("TIFF"), QLatin1Stri
 int FileTypePosition(QStringView fileType);
 
 // Writes the default gear and the general settings, in this order: gear, width, height, file type,
-// quality.
+// quality, then what is on or off.
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
                   const GeneralSettings& settings);
 

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <array>
 
 #include "state/default_choices.h"
 #include "ui_form_setup.h"
@@ -21,6 +22,19 @@ void Bind(QSlider* slider, QSpinBox* spinBox) {
     QObject::connect(spinBox, &QSpinBox::valueChanged, slider, &QSlider::setValue);
 }
 
+struct Check {
+    QCheckBox* box;
+    bool GeneralSettings::*flag;
+};
+
+std::array<Check, 5> ChecksOf(const Ui::FormSetup& ui) {
+    return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
+             {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},
+             {ui.OfferGearCheck, &GeneralSettings::OfferGear},
+             {ui.WriteMetadataCheck, &GeneralSettings::WriteMetadata},
+             {ui.WriteSettingsCheck, &GeneralSettings::WriteSettings}}};
+}
+
 }  // namespace
 
 FormSetup::FormSetup(GearTable& gear, GeneralSettings& settings, SettingsStore& store,
@@ -34,6 +48,7 @@ FormSetup::FormSetup(GearTable& gear, GeneralSettings& settings, SettingsStore& 
     FillGears();
     FillSizes();
     FillFile();
+    FillChecks();
     ConnectControls();
 }
 
@@ -73,6 +88,12 @@ void FormSetup::FillFile() {
     Bind(ui_->SliderJPEGcompression, ui_->SpinSliderJPEGcompression);
 }
 
+void FormSetup::FillChecks() {
+    for (const auto& [box, flag] : ChecksOf(*ui_)) {
+        box->setChecked(settings_.*flag);
+    }
+}
+
 void FormSetup::ConnectControls() {
     const auto forget = [this] { ui_->LabelSaved->clear(); };
     for (QSlider* const slider : findChildren<QSlider*>()) {
@@ -82,6 +103,9 @@ void FormSetup::ConnectControls() {
     for (QComboBox* const combo : findChildren<QComboBox*>()) {
         combo->installEventFilter(this);
         connect(combo, &QComboBox::currentIndexChanged, this, forget);
+    }
+    for (const Check& check : ChecksOf(*ui_)) {
+        connect(check.box, &QCheckBox::toggled, this, forget);
     }
     connect(ui_->CommandOK, &QPushButton::clicked, this, [this] {
         SetMyDefaults();
@@ -97,6 +121,9 @@ void FormSetup::SetMyDefaults() {
     settings_.PreviewHeight = ui_->SliderPreviewHeight->value();
     settings_.FileType = ui_->ComboFileType->currentText();
     settings_.JPEGcompression = static_cast<std::int16_t>(ui_->SliderJPEGcompression->value());
+    for (const auto& [box, flag] : ChecksOf(*ui_)) {
+        settings_.*flag = box->isChecked();
+    }
 }
 
 void FormSetup::SaveAsDefault() {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The defaults dialog: default gear, preview size, file type and JPEG quality, for this run or for
-// good.
+// The defaults dialog: default gear, preview size, what is done with opened photos and how files
+// are written, for this run or for good.
 #pragma once
 
 #include <QDialog>
@@ -38,6 +38,7 @@ class FormSetup : public QDialog {
     void FillGears();
     void FillSizes();
     void FillFile();
+    void FillChecks();
     void ConnectControls();
     void SaveAsDefault();
 

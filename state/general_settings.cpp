@@ -17,6 +17,11 @@ int ReadPreviewSide(const SettingsStore& store, const QString& key, int fallback
     return side < 1 ? fallback : std::min(side, largestPreviewSide);
 }
 
+bool ReadFlag(const SettingsStore& store, const QString& key, bool fallback) {
+    const int flag = ReadWhole(store, setting::General, key, fallback ? 1 : 0);
+    return flag == 0 || flag == 1 ? flag == 1 : fallback;
+}
+
 }  // namespace
 
 GeneralSettings LoadSettings(const SettingsStore& store) {
@@ -29,6 +34,14 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
     if (quality >= 0 && quality <= 100) {
         settings.JPEGcompression = static_cast<std::int16_t>(quality);
     }
+    const auto read = [&store](bool& flag, const QString& key) {
+        flag = ReadFlag(store, key, flag);
+    };
+    read(settings.JPEGchroma444, setting::JpegChroma444);
+    read(settings.AutoOrient, setting::AutoOrient);
+    read(settings.OfferGear, setting::OfferGear);
+    read(settings.WriteMetadata, setting::WriteMetadata);
+    read(settings.WriteSettings, setting::WriteSettings);
     return settings;
 }
 

@@ -21,6 +21,11 @@ inline constexpr QLatin1StringView PreviewWidth("PreviewWidth");
 inline constexpr QLatin1StringView PreviewHeight("PreviewHeight");
 inline constexpr QLatin1StringView FileType("FileType");
 inline constexpr QLatin1StringView JpegCompression("JPEGcompression");
+inline constexpr QLatin1StringView JpegChroma444("JPEGchroma444");  // this and the next: 1 or 0
+inline constexpr QLatin1StringView AutoOrient("AutoOrient");
+inline constexpr QLatin1StringView OfferGear("OfferGear");
+inline constexpr QLatin1StringView WriteMetadata("WriteMetadata");
+inline constexpr QLatin1StringView WriteSettings("WriteSettings");
 
 // The one gear of an older release, among the general settings.
 inline constexpr QLatin1StringView OldCameraBrand("CameraBrand");

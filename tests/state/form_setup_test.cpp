@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
@@ -178,12 +179,52 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
     EXPECT_EQ(store.written.join(u'\n'),
               Text("Gear/DefaultGearName=Gear 1\nsetting/PreviewWidth=1000\n"
                    "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
-                   "setting/JPEGcompression=100"));
+                   "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
+                   "setting/AutoOrient=1\nsetting/OfferGear=1\n"
+                   "setting/WriteMetadata=1\nsetting/WriteSettings=1"));
     EXPECT_EQ(The<QLabel>("LabelSaved").text(), Text("Saved"));
     Choose("ComboFileType", 0);
     EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty()) << "no longer what was saved";
     Click("CommandCancel");
     EXPECT_EQ(settings.FileType, Text("JPEG"));
+}
+
+TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
+    const struct {
+        const char *name, *text, *key;
+        bool GeneralSettings::*flag;
+        bool atFirst;
+    } rows[] = {{"Chroma444Check", "Full colour resolution (4:4:4)", "JPEGchroma444",
+                 &GeneralSettings::JPEGchroma444, false},
+                {"AutoOrientCheck", "Turn photos upright", "AutoOrient",
+                 &GeneralSettings::AutoOrient, true},
+                {"OfferGearCheck", "Offer the gear that a photo tells", "OfferGear",
+                 &GeneralSettings::OfferGear, true},
+                {"WriteMetadataCheck", "Keep the photo's metadata", "WriteMetadata",
+                 &GeneralSettings::WriteMetadata, true},
+                {"WriteSettingsCheck", "Write the settings into the picture", "WriteSettings",
+                 &GeneralSettings::WriteSettings, true}};
+    for (const auto& row : rows) {
+        settings = {};
+        Open();
+        const auto& box = The<QCheckBox>(row.name);
+        EXPECT_EQ(box.text(), Text(row.text));
+        EXPECT_EQ(box.isChecked(), row.atFirst) << row.name;
+        Click("CommandSaveDefault");
+        store.written.clear();
+        QTest::keyClick(&The<QCheckBox>(row.name), Qt::Key_Space);
+        EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty());
+        EXPECT_EQ(settings.*row.flag, row.atFirst) << "not before a button";
+        Click("CommandSaveDefault");
+        GeneralSettings expected{400, 300, Text("TIFF"), 100};
+        expected.*row.flag = !row.atFirst;
+        EXPECT_EQ(settings, expected) << row.name;
+        EXPECT_TRUE(store.written.contains(
+            Text("setting/%1=%2").arg(Text(row.key)).arg(row.atFirst ? 0 : 1)))
+            << row.name;
+        Open();
+        EXPECT_EQ(The<QCheckBox>(row.name).isChecked(), !row.atFirst) << row.name;
+    }
 }
 
 TEST_F(FormSetupTest, TheWheelMovesOnlyTheSliderWithTheFocus) {

@@ -186,6 +186,16 @@ TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
         {"JPEGcompression", "101", {400, 300, Text("JPG"), 100}},
         {"JPEGcompression", "-1", {400, 300, Text("JPG"), 100}},
         {"JPEGcompression", "", {400, 300, Text("JPG"), 100}},
+        {"JPEGchroma444", "1", {400, 300, Text("JPG"), 100, true}},
+        {"JPEGchroma444", "2", {400, 300, Text("JPG"), 100, false}},
+        {"AutoOrient", "0", {400, 300, Text("JPG"), 100, false, false}},
+        {"AutoOrient", "", {400, 300, Text("JPG"), 100, false, true}},
+        {"OfferGear", "0", {400, 300, Text("JPG"), 100, false, true, false}},
+        {"OfferGear", "no", {400, 300, Text("JPG"), 100, false, true, true}},
+        {"WriteMetadata", "0", {400, 300, Text("JPG"), 100, false, true, true, false}},
+        {"WriteMetadata", "-1", {400, 300, Text("JPG"), 100, false, true, true, true}},
+        {"WriteSettings", "0", {400, 300, Text("JPG"), 100, false, true, true, true, false}},
+        {"WriteSettings", "1", {400, 300, Text("JPG"), 100, false, true, true, true, true}},
     };
     for (const auto& c : cases) {
         MemoryStore store;

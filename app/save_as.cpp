@@ -10,6 +10,7 @@
 #include "app/scoped.h"
 #include "pipeline/output_name.h"
 #include "pipeline/output_type.h"
+#include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "remap/save_bitmap.h"
 
@@ -30,8 +31,14 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
     RenderDesk desk{.bitmaps = state_.bitmaps, .runner = &runner_};
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
-        return SaveBitmap(FormatOf(type), state_.bitmaps.ResultBitmap.get(), choice.name,
-                          SaveFlags(type, state_.settings.JPEGcompression), &runner_);
+        FIBITMAP* const result = state_.bitmaps.ResultBitmap.get();
+        if (!state_.settings.WriteMetadata) {
+            DropMetadata(result);
+        }
+        return SaveBitmap(
+            FormatOf(type), result, choice.name,
+            SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444),
+            &runner_);
     } catch (const RunTimeError& error) {
         return {false, QString::fromUtf8(error.what())};
     } catch (const std::bad_alloc&) {

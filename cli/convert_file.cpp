@@ -10,6 +10,7 @@
 #include "pipeline/morph_sequence.h"
 #include "pipeline/output_name.h"
 #include "pipeline/preview_size.h"
+#include "remap/photo_metadata.h"
 #include "remap/save_bitmap.h"
 #include "state/gear_assignment.h"
 #include "state/record_fields.h"
@@ -92,8 +93,12 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
 SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
                   BlockRunner& runner) {
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
-    return SaveBitmap(FormatOf(target.type), result, target.file, SaveFlags(target.type, quality),
-                      &runner);
+    const bool chroma444 = run.options.chroma444.value_or(run.settings.JPEGchroma444);
+    if (run.options.noMetadata || !run.settings.WriteMetadata) {
+        DropMetadata(result);
+    }
+    return SaveBitmap(FormatOf(target.type), result, target.file,
+                      SaveFlags(target.type, quality, chroma444), &runner);
 }
 
 ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size) {

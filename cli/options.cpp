@@ -100,6 +100,10 @@ void Declare(QCommandLineParser& parser) {
                u"tiff, jpeg, bmp or png; default: the ending of --output, "
                u"else the setting."),
         Valued(u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."),
+        Valued(u"chroma", u"C",
+               u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
+               u"setting."),
+        Flag(u"no-metadata", u"Leave the photo's EXIF, IPTC and XMP out."),
         Flag(u"force", u"Replace existing files."),
         Flag(u"skip-existing", u"Do only what is missing: leave results that lie there alone."),
         Valued(u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."),
@@ -173,6 +177,13 @@ int WholeBetween(const QString& option, const QString& text, int least, int most
                              .arg(text)};
     }
     return number;
+}
+
+bool IsChroma444(const QString& text) {
+    if (text != u"444" && text != u"420") {
+        throw UsageError{QStringLiteral("--chroma needs 444 or 420, not \"%1\"").arg(text)};
+    }
+    return text == u"444";
 }
 
 // The parts of FIELD=VALUE.
@@ -288,6 +299,8 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);
     });
+    TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
+    options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
     options.force = parser.isSet(QStringLiteral("force"));
     options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
     TakeIfSet(parser, u"jobs", options.jobs, [](const QString& text) {

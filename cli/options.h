@@ -48,6 +48,8 @@ struct Options {
     QString outputDir;
     std::optional<OutputType> type;
     std::optional<int> quality;
+    std::optional<bool> chroma444;
+    bool noMetadata = false;
     bool force = false;
     bool skipExisting = false;
     std::optional<int> jobs;  // cores to use; none: all

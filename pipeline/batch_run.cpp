@@ -12,6 +12,7 @@
 #include "pipeline/batch_targets.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 
 namespace varnel {
@@ -195,7 +196,10 @@ class Run : private RenderProgress {
 
     SaveResult Save(FIBITMAP* bitmap, const QString& path) {
         const FREE_IMAGE_FORMAT format = FormatOf(choices_.type);
-        const int flags = SaveFlags(choices_.type, choices_.jpegQuality);
+        const int flags = SaveFlags(choices_.type, choices_.jpegQuality, choices_.chroma444);
+        if (!choices_.writeMetadata) {
+            DropMetadata(bitmap);
+        }
         return ports_.save ? ports_.save(format, bitmap, path, flags)
                            : SaveBitmap(format, bitmap, path, flags, &saveRunner_);
     }

@@ -67,6 +67,7 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
       ui_(std::make_unique<Ui::FormBatch>()),
       queue_(queue),
       choices_(choices),
+      settings_(settings),
       reader_(reader),
       notices_(notices),
       queueChanged_(std::move(queueChanged)),
@@ -79,7 +80,7 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
     progress_ = std::make_unique<BatchProgress>(
         BatchProgressWidgets{ui_->ListQueue, ui_->LabelImage, ui_->ProgressImage,
                              ui_->LabelProgress, ui_->ProgressRun, ui_->LabelTimeLeft});
-    FillChoices(settings);
+    FillChoices();
     ConnectControls();
     place_->Show(StartFolder());
     ShowRunning(false);
@@ -89,15 +90,15 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
 
 FormBatch::~FormBatch() = default;
 
-void FormBatch::FillChoices(const GeneralSettings& settings) {
+void FormBatch::FillChoices() {
     const bool first = choices_.folder.isEmpty();
     for (const OutputType type : allOutputTypes) {
         ui_->ComboFileType->addItem(ToText(type));
     }
     ui_->ComboFileType->setCurrentText(
-        ToText(first ? OutputTypeFromText(settings.FileType) : choices_.type));
+        ToText(first ? OutputTypeFromText(settings_.FileType) : choices_.type));
     ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
-    ui_->SliderJPEGcompression->setValue(first ? settings.JPEGcompression : choices_.jpegQuality);
+    ui_->SliderJPEGcompression->setValue(first ? settings_.JPEGcompression : choices_.jpegQuality);
     Bind(*ui_->SliderJPEGcompression, *ui_->SpinSliderJPEGcompression);
     const auto boxes = AdditionsOf(*ui_);
     // A folder in an addition would send the file elsewhere; the rest has no place in the names of
@@ -149,7 +150,9 @@ BatchChoices FormBatch::Choices() const {
     BatchChoices choices{place_->Folder(),
                          {},
                          OutputTypeFromText(ui_->ComboFileType->currentText()),
-                         ui_->SliderJPEGcompression->value()};
+                         ui_->SliderJPEGcompression->value(),
+                         settings_.JPEGchroma444,
+                         settings_.WriteMetadata};
     const auto boxes = AdditionsOf(*ui_);
     for (std::size_t n = 0; n < boxes.size(); ++n) {
         choices.additions.texts[n] = boxes[n]->text();

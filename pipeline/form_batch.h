@@ -27,8 +27,8 @@ class FormBatch : public QDialog {
 
   public:
     // The choices are taken over when the dialog closes and when a run starts; as long as no folder
-    // was chosen, file type and quality come from the settings. queueChanged hears the queue's new
-    // length.
+    // was chosen, file type and quality come from the settings, and what has no control here always
+    // does. queueChanged hears the queue's new length.
     FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
               const GeneralSettings& settings, PictureReader& reader, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr,
@@ -43,7 +43,7 @@ class FormBatch : public QDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void FillChoices(const GeneralSettings& settings);
+    void FillChoices();
     void ConnectControls();
     QString StartFolder() const;
     BatchChoices Choices() const;
@@ -62,6 +62,7 @@ class FormBatch : public QDialog {
     std::unique_ptr<Ui::FormBatch> ui_;
     RecordArray<ImageRecord>& queue_;
     BatchChoices& choices_;
+    const GeneralSettings& settings_;
     PictureReader& reader_;
     Notices& notices_;
     std::function<void(int)> queueChanged_;

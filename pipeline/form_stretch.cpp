@@ -14,6 +14,7 @@
 #include "pipeline/preview_size.h"
 #include "pipeline/slider_binding.h"
 #include "remap/paint.h"
+#include "remap/photo_metadata.h"
 #include "remap/rounding.h"
 #include "remap/save_bitmap.h"
 #include "ui_form_stretch.h"
@@ -213,8 +214,13 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
     RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
     RenderStretch(Curve(), SizeKind::Large, progress, desk);
     const OutputType type = TypeOf(choice);
-    const SaveResult saved = SaveBitmap(FormatOf(type), bitmaps_.ResultBitmap.get(), choice.name,
-                                        SaveFlags(type, settings_.JPEGcompression), &runner_);
+    FIBITMAP* const result = bitmaps_.ResultBitmap.get();
+    if (!settings_.WriteMetadata) {
+        DropMetadata(result);
+    }
+    const SaveResult saved =
+        SaveBitmap(FormatOf(type), result, choice.name,
+                   SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444), &runner_);
     if (saved) {
         ui_->LabelStatus->setText(tr("Saved %1").arg(choice.name));
         ui_->LabelStatus->setToolTip(choice.name);

@@ -77,8 +77,11 @@ FREE_IMAGE_FORMAT FormatOf(OutputType type) {
     return RowOf(type).format;
 }
 
-int SaveFlags(OutputType type, int jpegQuality) {
-    return type == OutputType::Jpeg ? jpegQuality : RowOf(type).flags;
+int SaveFlags(OutputType type, int jpegQuality, bool chroma444) {
+    if (type != OutputType::Jpeg) {
+        return RowOf(type).flags;
+    }
+    return chroma444 ? jpegQuality | JPEG_SUBSAMPLING_444 : jpegQuality;
 }
 
 QString WithExtension(const QString& fileName, OutputType type) {

@@ -31,8 +31,9 @@ QString ExtensionOf(OutputType type);
 // The save dialog's filter text, "Tiff (*.TIF)" and so on.
 QString FilterOf(OutputType type);
 FREE_IMAGE_FORMAT FormatOf(OutputType type);
-// The library's save flags; jpegQuality is 0 to 100 and counts for JPEG only.
-int SaveFlags(OutputType type, int jpegQuality);
+// The library's save flags; jpegQuality is 0 to 100, chroma444 keeps colour at full resolution.
+// Both count for JPEG only.
+int SaveFlags(OutputType type, int jpegQuality, bool chroma444);
 
 // The name with the type's extension appended, unless its last four characters are that extension
 // in any case.

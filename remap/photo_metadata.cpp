@@ -121,6 +121,14 @@ PhotoMetadata MetadataOf(FIBITMAP* bitmap) {
     return UnpackMetadata(BytesOf(bitmap, metadataKey));
 }
 
+void DropMetadata(FIBITMAP* bitmap) {
+    for (int model = FIMD_COMMENTS; model <= FIMD_EXIF_RAW; ++model) {
+        const char* const key = model == FIMD_CUSTOM ? metadataKey : nullptr;  // none: all
+        FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(model), bitmap, key, nullptr);
+    }
+    FreeImage_SetThumbnail(bitmap, nullptr);
+}
+
 void SetSettings(FIBITMAP* bitmap, const PictureSettings& settings) {
     SetBytes(bitmap, settingsKey, Packed(settings));
 }

@@ -69,6 +69,9 @@ PhotoMetadata UnpackMetadata(QByteArrayView block);
 // Metadata of a bitmap; empty when it has none. Clones of the bitmap take them along.
 void SetMetadata(FIBITMAP* bitmap, const PhotoMetadata& metadata);
 PhotoMetadata MetadataOf(FIBITMAP* bitmap);
+// Takes away whatever of the photo's metadata the bitmap has, those of the library as well; colour
+// profile, resolution and settings stay.
+void DropMetadata(FIBITMAP* bitmap);
 // Settings that are to be written into the bitmap's file.
 void SetSettings(FIBITMAP* bitmap, const PictureSettings& settings);
 PictureSettings SettingsOf(FIBITMAP* bitmap);

@@ -20,8 +20,8 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     const auto parsed = Parse(
         "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
         "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
-        "--antialiased --output-dir out --type png --quality 80 --force --jobs 3 --quiet a.jpg "
-        "b.jpg");
+        "--antialiased --output-dir out --type png --quality 80 --chroma 444 --no-metadata --force "
+        "--jobs 3 --quiet a.jpg b.jpg");
     ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
     const Options& options = std::get<Options>(parsed);
     EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
@@ -36,7 +36,9 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     EXPECT_EQ(options.preview->height, 300);
     EXPECT_EQ(options.type, OutputType::Png);
     EXPECT_EQ(options.quality, 80);
-    EXPECT_TRUE(options.antialiased && options.force && options.quiet);
+    EXPECT_EQ(options.chroma444, true);
+    EXPECT_EQ(std::get<Options>(Parse("p --chroma 420 a")).chroma444, false);
+    EXPECT_TRUE(options.antialiased && options.force && options.quiet && options.noMetadata);
     EXPECT_EQ(options.files.size(), 2);
     EXPECT_EQ(options.jobs, 3);
 }
@@ -45,7 +47,8 @@ TEST(ParseOptions, AllProjectionsAndDefaults) {
     EXPECT_EQ(std::get<Options>(Parse("p --projection all a")).projections.size(), 4U);
     const Options options = std::get<Options>(Parse("p a"));
     EXPECT_EQ(options.projections, std::vector{Projection::Varnel});
-    EXPECT_FALSE(options.type || options.quality || options.preview);
+    EXPECT_FALSE(options.type || options.quality || options.preview || options.chroma444 ||
+                 options.noMetadata);
 }
 
 TEST(ParseOptions, AMorphHasItsEnds) {
@@ -72,6 +75,8 @@ TEST(ParseOptions, AWrongLineIsToldInOneLine) {
                              "p --jobs 0 a",
                              "p --force --skip-existing a",
                              "p --quality 101 a",
+                             "p --chroma 422 a",
+                             "p --chroma 4:4:4 a",
                              "p --quality 1.5 a",
                              "p --effect 1,5 a",
                              "p --effect nan a",

@@ -98,6 +98,25 @@ TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
     EXPECT_FALSE(summary.Stopped());
 }
 
+TEST_F(FakeRun, ChoicesSayWhetherMetadataAndFullColourAreWritten) {
+    queue.Append(Entry(Q("a.jpg")));
+    ports.load = [](const QString&) {
+        LoadedPicture photo{LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
+        FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.bitmap.get(), "Comment", "a street");
+        return photo;
+    };
+    QString saved;
+    ports.save = [&saved](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString&, int flags) {
+        saved += Q(" %1:%2").arg(FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap)).arg(flags);
+        return SaveResult{true, {}};
+    };
+    Go();
+    choices.chroma444 = true;
+    choices.writeMetadata = false;
+    Go();
+    EXPECT_EQ(saved, Q(" 1:83 0:65619"));  // 0x10000 + 83
+}
+
 TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
     queue.Append(Entry(Q("a.jpg")));
     ImageRecord expected = queue(1);
@@ -280,7 +299,7 @@ class RealRun : public ::testing::Test {
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
         const QString path = files.Path(Q("single"));
         SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
-                   SaveFlags(choices.type, choices.jpegQuality));
+                   SaveFlags(choices.type, choices.jpegQuality, choices.chroma444));
         return testing::Contents(path);
     }
 

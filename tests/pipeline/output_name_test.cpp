@@ -17,12 +17,12 @@ TEST(OutputType, SettingsTextsEndingsAndCodes) {
         OutputType type;
         const char *text, *extension, *filter;
         FREE_IMAGE_FORMAT format;
-        int flags;
+        int flags, flags444;
     } const rows[] = {
-        {OutputType::Tiff, "TIFF", ".TIF", "Tiff (*.TIF)", FIF_TIFF, TIFF_LZW},
-        {OutputType::Jpeg, "JPEG", ".JPG", "Jpeg (*.JPG)", FIF_JPEG, 87},
-        {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", FIF_BMP, BMP_DEFAULT},
-        {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", FIF_PNG, PNG_DEFAULT},
+        {OutputType::Tiff, "TIFF", ".TIF", "Tiff (*.TIF)", FIF_TIFF, TIFF_LZW, TIFF_LZW},
+        {OutputType::Jpeg, "JPEG", ".JPG", "Jpeg (*.JPG)", FIF_JPEG, 87, 0x10000 + 87},
+        {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", FIF_BMP, BMP_DEFAULT, BMP_DEFAULT},
+        {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", FIF_PNG, PNG_DEFAULT, PNG_DEFAULT},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(ToText(row.type), Q(row.text));
@@ -30,7 +30,8 @@ TEST(OutputType, SettingsTextsEndingsAndCodes) {
         EXPECT_EQ(ExtensionOf(row.type), Q(row.extension));
         EXPECT_EQ(FilterOf(row.type), Q(row.filter));
         EXPECT_EQ(FormatOf(row.type), row.format);
-        EXPECT_EQ(SaveFlags(row.type, 87), row.flags);
+        EXPECT_EQ(SaveFlags(row.type, 87, false), row.flags);
+        EXPECT_EQ(SaveFlags(row.type, 87, true), row.flags444);
     }
     EXPECT_EQ(OutputTypeFromText(u"JPG"), OutputType::Tiff);
     EXPECT_EQ(OutputTypeByEnding(u"a.b.jpeg"), OutputType::Jpeg);

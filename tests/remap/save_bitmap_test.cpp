@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "remap/encode_bitmap.h"
+#include "remap/photo_metadata.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"
 
@@ -64,6 +65,30 @@ TEST(EncodeBitmap, MetadataThatAnEncoderRefusesDoesNotCostThePicture) {
     EXPECT_TRUE(png.bytes.startsWith("\x89PNG")) << png.reason.toStdString();
     EXPECT_TRUE(png.note.startsWith(QStringLiteral("written without its colour profile: ")));
     EXPECT_TRUE(EncodeBitmap(FIF_JPEG, bitmap.get(), 90).note.isEmpty());
+}
+
+TEST(DropMetadata, LeavesNothingButProfileResolutionAndSettings) {
+    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
+    const PictureSettings settings{{QStringLiteral("Projection"), QStringLiteral("1")}};
+    SetSettings(bitmap.get(), settings);
+    QByteArray profile(200, 'p');
+    FreeImage_CreateICCProfile(bitmap.get(), profile.data(), profile.size());
+    const QByteArray plain = LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes;
+    PhotoMetadata metadata;
+    metadata.iptc = "records";
+    SetMetadata(bitmap.get(), metadata);
+    FreeImage_SetThumbnail(bitmap.get(), testing::PositionPicture({8, 6}).get());
+    for (const FREE_IMAGE_MDMODEL model : {FIMD_COMMENTS, FIMD_EXIF_MAIN, FIMD_IPTC, FIMD_XMP}) {
+        FreeImage_SetMetadataKeyValue(model, bitmap.get(), "XMLPacket", "a street in Bergen");
+    }
+    ASSERT_TRUE(LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes.contains("Bergen"));
+    DropMetadata(bitmap.get());
+    EXPECT_TRUE(MetadataOf(bitmap.get()).IsEmpty());
+    EXPECT_EQ(SettingsOf(bitmap.get()), settings);
+    EXPECT_EQ(LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes, plain);
+    for (const FREE_IMAGE_MDMODEL model : {FIMD_COMMENTS, FIMD_EXIF_MAIN, FIMD_IPTC, FIMD_XMP}) {
+        EXPECT_EQ(FreeImage_GetMetadataCount(model, bitmap.get()), 0U);
+    }
 }
 
 TEST(EncodeBitmap, WhatCannotBeEncodedHasAReason) {

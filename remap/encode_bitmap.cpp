@@ -5,6 +5,7 @@
 
 #include <new>
 #include <optional>
+#include <utility>
 
 #include "remap/coding/jpeg_coder.h"
 #include "remap/coding/png_coder.h"
@@ -14,34 +15,96 @@ namespace varnel {
 
 namespace {
 
+constexpr QStringView noteSeparator = u"; ";
+
 // Nothing where there is none for such a file, or where it leaves the file to the library.
 std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
-                                         BlockRunner& runner) {
+                                         BlockRunner& runner, const WrittenMetadata& metadata) {
     switch (format) {
         case FIF_JPEG:
-            return EncodeJpeg(bitmap, flags, runner);
+            return EncodeJpeg(bitmap, flags, runner, metadata);
         case FIF_TIFF:
-            return flags == TIFF_LZW ? EncodeTiffLzw(bitmap, runner) : std::nullopt;
+            return flags == TIFF_LZW ? EncodeTiffLzw(bitmap, runner, metadata) : std::nullopt;
         case FIF_PNG:
-            return flags == PNG_DEFAULT ? EncodePng(bitmap, runner) : std::nullopt;
+            return flags == PNG_DEFAULT ? EncodePng(bitmap, runner, metadata) : std::nullopt;
         default:
             return std::nullopt;
     }
+}
+
+bool IsPhoto(FIBITMAP* bitmap) {
+    return FreeImage_GetBPP(bitmap) == 24 && FreeImage_HasPixels(bitmap) == TRUE;
+}
+
+// The same pixels, where they lie. Nothing when there is no memory.
+BitmapHandle WithoutMetadata(FIBITMAP* bitmap) {
+    return BitmapOver(reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), SizeOf(bitmap));
+}
+
+// The library's TIFF files take XMP along, but not what lies at places of its own.
+void PassToTiff(FIBITMAP* bitmap, WrittenMetadata& metadata) {
+    if (!metadata.xmp.isEmpty()) {
+        FreeImage_SetMetadataKeyValue(FIMD_XMP, bitmap, "XMLPacket", metadata.xmp.constData());
+    }
+    const std::pair<const QByteArray&, QString> others[] = {
+        {metadata.exif, QStringLiteral("EXIF")}, {metadata.iptc, QStringLiteral("IPTC")}};
+    for (const auto& [bytes, name] : others) {
+        if (!bytes.isEmpty()) {
+            metadata.notes +=
+                QStringLiteral("written without its %1: not in a TIFF file of this kind").arg(name);
+        }
+    }
+}
+
+// The library's file with our metadata in place of its own.
+EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT format, FIBITMAP* bitmap,
+                              int flags, qint64 largest) {
+    const BitmapHandle less = WithoutMetadata(bitmap);
+    if (!less) {
+        return {{}, notEnoughMemory.toString()};
+    }
+    CopyAllButPixels(less.get(), bitmap);
+    RGBQUAD background{};
+    if (FreeImage_GetBackgroundColor(bitmap, &background) == TRUE) {
+        FreeImage_SetBackgroundColor(less.get(), &background);
+    }
+    RemoveReplaced(less.get(), metadata);
+    if (format == FIF_TIFF) {
+        PassToTiff(less.get(), metadata);
+    }
+    EncodedBitmap file = LibraryFile(format, less.get(), flags, largest - metadata.parts.size());
+    if (file.reason.isEmpty() && !InsertParts(format, metadata, file.bytes)) {
+        return {{}, QStringLiteral("the metadata have no place in the file")};
+    }
+    return file;
 }
 
 EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                      const EncodeOptions& options) {
     SerialRunner serial;
     try {
-        std::optional<QByteArray> bytes = FileByOurCoder(
-            format, bitmap, flags, options.runner != nullptr ? *options.runner : serial);
-        if (bytes && bytes->size() <= options.largest) {
-            return {std::move(*bytes), {}};
+        WrittenMetadata metadata;
+        if (IsPhoto(bitmap)) {
+            metadata = MetadataFor(format, bitmap);
         }
+        std::optional<QByteArray> bytes = FileByOurCoder(
+            format, bitmap, flags, options.runner != nullptr ? *options.runner : serial, metadata);
+        EncodedBitmap file;
+        if (bytes && bytes->size() <= options.largest) {
+            file.bytes = std::move(*bytes);
+        } else {
+            bytes.reset();
+            file = metadata.IsEmpty()
+                       ? LibraryFile(format, bitmap, flags, options.largest)
+                       : LibraryFileWith(metadata, format, bitmap, flags, options.largest);
+        }
+        if (file.reason.isEmpty()) {
+            file.note = metadata.notes.join(noteSeparator);
+        }
+        return file;
     } catch (const std::bad_alloc&) {
         return {{}, notEnoughMemory.toString()};
     }
-    return LibraryFile(format, bitmap, flags, options.largest);
 }
 
 }  // namespace
@@ -52,8 +115,7 @@ EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags
         return {{}, QStringLiteral("there is no picture")};
     }
     EncodedBitmap whole = FileOf(format, bitmap, flags, options);
-    const bool isPhoto = FreeImage_GetBPP(bitmap) == 24 && FreeImage_HasPixels(bitmap) == TRUE;
-    if (whole.reason.isEmpty() || whole.reason == notEnoughMemory || !isPhoto) {
+    if (whole.reason.isEmpty() || whole.reason == notEnoughMemory || !IsPhoto(bitmap)) {
         return whole;
     }
     const struct {
@@ -62,16 +124,16 @@ EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags
     } attempts[] = {{true, QStringLiteral("written without its colour profile: %1")},
                     {false, QStringLiteral("written without its metadata: %1")}};
     for (const auto& attempt : attempts) {
-        // The same pixels, where they lie.
-        const BitmapHandle less =
-            BitmapOver(reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), SizeOf(bitmap));
+        const BitmapHandle less = WithoutMetadata(bitmap);
         if (less && attempt.metadata) {
             CopyAllButPixels(less.get(), bitmap);
             FreeImage_DestroyICCProfile(less.get());
         }
         EncodedBitmap encoded = FileOf(format, less.get(), flags, options);
         if (encoded.reason.isEmpty()) {
-            encoded.note = attempt.note.arg(whole.reason);
+            QStringList notes{attempt.note.arg(whole.reason), encoded.note};
+            notes.removeAll(QString());
+            encoded.note = notes.join(noteSeparator);
             return encoded;
         }
     }

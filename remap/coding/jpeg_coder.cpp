@@ -158,8 +158,10 @@ bool CodeBand(const Band& band, int flags, CodedBytes& coded) {
 
 // The library's file for the same metadata, up to where the tables of this quality begin: the rest
 // has to be what libjpeg makes of the same pixels here.
-std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int flags) {
+std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int flags,
+                                      const WrittenMetadata& metadata) {
     const BitmapHandle sample = MetadataSample(bitmap);
+    RemoveReplaced(sample.get(), metadata);
     EncodedBitmap file = LibraryFile(FIF_JPEG, sample.get(), flags);
     CodedBytes coded;
     if (!file.reason.isEmpty() ||
@@ -172,7 +174,8 @@ std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int flags) {
         return std::nullopt;
     }
     file.bytes.chop(rest.size());
-    return std::move(file.bytes);
+    return InsertParts(FIF_JPEG, metadata, file.bytes) ? std::optional(std::move(file.bytes))
+                                                       : std::nullopt;
 }
 
 // Where a coded band has what joining it to others needs.
@@ -250,11 +253,12 @@ std::vector<Band> BandsOf(FIBITMAP* bitmap) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner) {
+std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner,
+                                     const WrittenMetadata& metadata) {
     if (!IsCodable(bitmap, flags)) {
         return std::nullopt;
     }
-    const std::optional<QByteArray> head = LibraryHead(bitmap, flags);
+    const std::optional<QByteArray> head = LibraryHead(bitmap, flags, metadata);
     if (!head) {
         return std::nullopt;
     }
@@ -267,6 +271,13 @@ std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& r
         }
     });
     return failed ? std::nullopt : Joined(*head, coded, SizeOf(bitmap).height);
+}
+
+QByteArray PlainJpeg(FIBITMAP* bitmap, int quality) {
+    CodedBytes coded;
+    return CodeBand({bitmap, 0, SizeOf(bitmap).height, false}, quality, coded)
+               ? coded.View().toByteArray()
+               : throw std::bad_alloc();
 }
 
 }  // namespace varnel

@@ -8,15 +8,21 @@
 #include <optional>
 
 #include "remap/bitmap.h"
+#include "remap/coding/written_metadata.h"
 #include "remap/engine/block_runner.h"
 
 namespace varnel {
 
 // The file that the library writes for a bitmap of 24 bits with these flags (a quality of 0 to 100,
 // 0 is the library's own choice, and perhaps JPEG_SUBSAMPLING_444): the same pixels once decoded,
-// tables and metadata. That of a large picture has restart markers and so is a few bytes larger; it
-// does not depend on the runner. Nothing where that cannot be done: the library has to try. Throws
+// tables and metadata, besides those given. That of a large picture has restart markers and so is a
+// few bytes larger; it does not depend on the runner. Nothing where that cannot be done: the
+// library has to try. Throws std::bad_alloc.
+std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner,
+                                     const WrittenMetadata& metadata = {});
+
+// A JPEG file of a small bitmap of 24 bits with nothing but the picture in it. Throws
 // std::bad_alloc.
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner);
+QByteArray PlainJpeg(FIBITMAP* bitmap, int quality);
 
 }  // namespace varnel

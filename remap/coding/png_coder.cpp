@@ -202,13 +202,16 @@ QByteArray Joined(const PngFrame& frame, std::vector<Band>& bands) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner) {
+std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner,
+                                    const WrittenMetadata& metadata) {
     if (!IsPlainPhoto(bitmap)) {
         return std::nullopt;
     }
-    const EncodedBitmap sample = LibraryFile(FIF_PNG, MetadataSample(bitmap).get(), 0);
-    const std::optional<PngFrame> frame = PngFrameOf(sample.bytes, SizeOf(bitmap));
-    if (!sample.reason.isEmpty() || !frame) {
+    const BitmapHandle sample = MetadataSample(bitmap);
+    RemoveReplaced(sample.get(), metadata);
+    const EncodedBitmap file = LibraryFile(FIF_PNG, sample.get(), 0);
+    std::optional<PngFrame> frame = PngFrameOf(file.bytes, SizeOf(bitmap));
+    if (!file.reason.isEmpty() || !frame || !InsertParts(FIF_PNG, metadata, frame->head)) {
         return std::nullopt;
     }
     BandCoder coder(bitmap);

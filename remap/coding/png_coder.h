@@ -8,13 +8,16 @@
 #include <optional>
 
 #include "remap/bitmap.h"
+#include "remap/coding/written_metadata.h"
 #include "remap/engine/block_runner.h"
 
 namespace varnel {
 
 // A PNG file with the pixels and the metadata that the image library writes for a 24-bit bitmap
-// with flags 0; only the pixels are filtered and compressed otherwise. The same bytes whatever the
-// runner. None for a bitmap that is to be left to the library. Throws std::bad_alloc.
-std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner);
+// with flags 0, and the metadata given; only the pixels are filtered and compressed otherwise. The
+// same bytes whatever the runner. None for a bitmap that is to be left to the library. Throws
+// std::bad_alloc.
+std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner,
+                                    const WrittenMetadata& metadata = {});
 
 }  // namespace varnel

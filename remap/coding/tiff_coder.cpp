@@ -146,8 +146,9 @@ std::optional<StripTable> EncodeStrips(QByteArray& file, const Picture& picture,
 }
 
 // The library's directory for the bitmap, if it is one for pixels as they are coded here.
-std::optional<TiffDirectory> DirectoryFor(FIBITMAP* bitmap) {
+std::optional<TiffDirectory> DirectoryFor(FIBITMAP* bitmap, const WrittenMetadata& metadata) {
     const BitmapHandle sample = MetadataSample(bitmap);
+    RemoveReplaced(sample.get(), metadata);
     std::optional<TiffDirectory> directory =
         ReadTiff(LibraryFile(FIF_TIFF, sample.get(), TIFF_LZW).bytes);
     const struct {
@@ -176,21 +177,52 @@ std::optional<TiffDirectory> DirectoryFor(FIBITMAP* bitmap) {
     return directory;
 }
 
+// Photoshop writes IPTC as whole numbers of four bytes, and readers have come to expect that. The
+// image library overruns its memory when it turns them round in a big-endian file, so there they
+// are wrapped in another tag that holds them, too.
+void AddIptc(TiffDirectory& directory, const WrittenMetadata& metadata) {
+    if (metadata.exif.startsWith('M')) {
+        const QByteArray resource = IptcResource(metadata.iptc);
+        AddField(directory, {TIFFTAG_PHOTOSHOP, TIFF_BYTE,
+                             static_cast<std::uint32_t>(resource.size()), resource});
+        return;
+    }
+    const auto numbers = static_cast<std::uint32_t>((metadata.iptc.size() + 3) / 4);
+    AddField(directory, {TIFFTAG_RICHTIFFIPTC, TIFF_LONG, numbers,
+                         metadata.iptc.leftJustified(4 * qsizetype{numbers}, '\0')});
+}
+
+void AddMetadata(TiffDirectory& directory, const WrittenMetadata& metadata) {
+    if (!metadata.xmp.isEmpty()) {
+        AddField(directory, {TIFFTAG_XMLPACKET, TIFF_BYTE,
+                             static_cast<std::uint32_t>(metadata.xmp.size()), metadata.xmp});
+    }
+    if (!metadata.iptc.isEmpty()) {
+        AddIptc(directory, metadata);
+    }
+    if (!metadata.exif.isEmpty()) {
+        AddEntries(directory, metadata.entries, metadata.exif);
+    }
+}
+
 }  // namespace
 
-std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner) {
+std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner,
+                                        const WrittenMetadata& metadata) {
     if (FreeImage_GetImageType(bitmap) != FIT_BITMAP || FreeImage_GetBPP(bitmap) != 24 ||
         FreeImage_HasPixels(bitmap) == FALSE) {
         return std::nullopt;
     }
-    std::optional<TiffDirectory> directory = DirectoryFor(bitmap);
+    std::optional<TiffDirectory> directory = DirectoryFor(bitmap, metadata);
     if (!directory) {
         return std::nullopt;
     }
     const Picture picture(bitmap);
-    QByteArray file = TiffHeader();
+    const QByteArray start = metadata.exif.isEmpty() ? TiffHeader() : metadata.exif;
+    QByteArray file;
     // Rarely reached, and what is not reached takes no memory.
-    file.reserve(static_cast<qint64>(picture.height * picture.RowBytes()));
+    file.reserve(start.size() + static_cast<qint64>(picture.height * picture.RowBytes()));
+    file += start;
     const std::optional<StripTable> strips = EncodeStrips(file, picture, runner);
     if (!strips) {
         return std::nullopt;
@@ -201,6 +233,7 @@ std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner) {
     directory->SetNumbers(TiffTag::RowsPerStrip, number(picture.rowsPerStrip));
     directory->SetNumbers(TiffTag::StripOffsets, strips->offsets);
     directory->SetNumbers(TiffTag::StripByteCounts, strips->lengths);
+    AddMetadata(*directory, metadata);
     const auto place = AppendDirectory(file, std::move(*directory));
     if (!place) {
         return std::nullopt;

@@ -9,14 +9,16 @@
 #include <QByteArray>
 #include <optional>
 
+#include "remap/coding/written_metadata.h"
 #include "remap/engine/block_runner.h"
 
 namespace varnel {
 
 // The file that the image library writes with TIFF_LZW, in larger strips: the same pixels, and
-// every other tag as it is there. Equal bytes whatever the runner. None for a bitmap other than of
-// 24 bits, for metadata that the library writes in a way unknown here, and for a file of 4 GB or
-// more. Throws std::bad_alloc.
-std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner);
+// every other tag as it is there, besides the metadata given. Equal bytes whatever the runner. None
+// for a bitmap other than of 24 bits, for metadata that the library writes in a way unknown here,
+// and for a file of 4 GB or more. Throws std::bad_alloc.
+std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner,
+                                        const WrittenMetadata& metadata = {});
 
 }  // namespace varnel

@@ -23,6 +23,10 @@ constexpr std::uint16_t typeIfd = 13;
 // Of a value of each type, BYTE first; 0 for what there is none of.
 constexpr std::uint8_t typeBytes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4};
 
+// Of the numbers that such values are made of.
+constexpr std::uint8_t numberBytes[] = {0, 1, 1, 2, 4, 4, 1, 1, 2, 4, 4, 4, 8, 4};
+static_assert(std::size(numberBytes) == std::size(typeBytes));
+
 // Tags that say where in the file something is: tiles, free space, a JPEG stream, and the EXIF, GPS
 // and interoperability directories.
 constexpr std::uint16_t places[] = {288, 322, 323, 324,   325,   513,
@@ -38,6 +42,26 @@ void Append(QByteArray& bytes, Number number) {
     char text[sizeof(Number)];
     qToLittleEndian<Number>(number, text);
     bytes.append(text, sizeof text);
+}
+
+bool IsBigEndian(const QByteArray& file) {
+    return file.startsWith('M');
+}
+
+// A little-endian value in the file's byte order.
+QByteArray InOrder(QByteArray value, std::uint16_t type, bool bigEndian) {
+    const qsizetype width = type < std::size(numberBytes) ? numberBytes[type] : 1;
+    if (bigEndian && width > 1) {
+        for (qsizetype at = 0; at + width <= value.size(); at += width) {
+            std::reverse(value.begin() + at, value.begin() + at + width);
+        }
+    }
+    return value;
+}
+
+template <class Number>
+void Append(QByteArray& bytes, Number number, bool bigEndian) {
+    Append(bytes, bigEndian ? qbswap(number) : number);
 }
 
 bool Holds(const QByteArray& file, qint64 place, qint64 length) {
@@ -181,12 +205,40 @@ std::optional<TiffDirectory> ReadTiff(const QByteArray& file) {
     return whole;
 }
 
+void AddField(TiffDirectory& directory, TiffField field) {
+    const auto place = std::ranges::upper_bound(directory.fields, field.tag, {}, &TiffField::tag);
+    directory.fields.insert(place, std::move(field));
+}
+
+void AddEntries(TiffDirectory& directory, const QByteArray& entries, const QByteArray& block) {
+    for (qint64 at = 0; at + fieldBytes <= entries.size(); at += fieldBytes) {
+        // As if the block were little-endian.
+        QByteArray entry = entries.mid(at, fieldBytes);
+        const QByteArray value = entry.last(inlineBytes);
+        if (IsBigEndian(block)) {
+            std::reverse(entry.begin(), entry.begin() + 2);
+            std::reverse(entry.begin() + 2, entry.begin() + 4);
+            std::reverse(entry.begin() + 4, entry.begin() + 8);
+            std::reverse(entry.begin() + 8, entry.end());
+        }
+        const TiffField field{NumberAt<quint16>(entry, 0), NumberAt<quint16>(entry, 2),
+                              NumberAt<quint32>(entry, 4), value, true};
+        const qint64 length =
+            field.type < std::size(typeBytes) ? qint64{field.count} * typeBytes[field.type] : 0;
+        const bool isHere =
+            length <= inlineBytes || Holds(block, NumberAt<quint32>(entry, 8), length);
+        if (length > 0 && isHere && directory.Find(static_cast<TiffTag>(field.tag)) == nullptr) {
+            AddField(directory, field);
+        }
+    }
+}
+
 QByteArray TiffHeader() {
     return QByteArray("II*\0\0\0\0\0", headerBytes);
 }
 
 void SetDirectory(QByteArray& file, std::uint32_t place) {
-    qToLittleEndian<quint32>(place, file.data() + 4);
+    qToLittleEndian<quint32>(IsBigEndian(file) ? qbswap(place) : place, file.data() + 4);
 }
 
 // Values and directories begin at even places.
@@ -194,18 +246,20 @@ std::optional<std::uint32_t> AppendDirectory(QByteArray& file, TiffDirectory dir
     if (!AppendThumbnail(file, directory)) {
         return std::nullopt;
     }
+    const bool big = IsBigEndian(file);
     QByteArray table;
-    Append(table, static_cast<quint16>(directory.fields.size()));
+    Append(table, static_cast<quint16>(directory.fields.size()), big);
     for (const TiffField& field : directory.fields) {
-        Append(table, field.tag);
-        Append(table, field.type);
-        Append(table, field.count);
-        if (field.value.size() <= inlineBytes) {
-            table.append(field.value).append(inlineBytes - field.value.size(), '\0');
+        Append(table, field.tag, big);
+        Append(table, field.type, big);
+        Append(table, field.count, big);
+        const QByteArray value = InOrder(field.value, field.type, big && !field.isEntry);
+        if (value.size() <= inlineBytes) {
+            table.append(value).append(inlineBytes - value.size(), '\0');
         } else {
             file.append(file.size() % 2, '\0');
-            Append(table, static_cast<quint32>(file.size()));
-            file.append(field.value);
+            Append(table, static_cast<quint32>(file.size()), big);
+            file.append(value);
         }
     }
     Append(table, quint32{0});  // no directory after this one

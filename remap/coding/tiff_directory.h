@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A TIFF file's directory of tags, read from a small file that the image library wrote and written
-// with some of the tags changed. Little-endian files only.
+// with some of the tags changed. Reads little-endian files only; writes what the new file begins
+// as.
 #pragma once
 
 #include <QByteArray>
@@ -34,7 +35,9 @@ struct TiffField {
     std::uint16_t tag;
     std::uint16_t type;
     std::uint32_t count;
-    QByteArray value;  // as it is in the file
+    QByteArray value;  // little-endian
+    // The value is the last four bytes of an entry in the new file's byte order, perhaps a place.
+    bool isEntry = false;
 };
 
 struct TiffDirectory {
@@ -54,12 +57,19 @@ struct TiffDirectory {
 // is found by its place in the file: it could not be moved.
 std::optional<TiffDirectory> ReadTiff(const QByteArray& file);
 
-// What a file begins with. Where the directory is comes last, by SetDirectory.
+// Adds the entries whose tags the directory does not have. They are of the directory of a file that
+// begins with the block, in the block's byte order and in order of their tags; those that point
+// elsewhere are left out.
+void AddEntries(TiffDirectory& directory, const QByteArray& entries, const QByteArray& block);
+// In its place among the others.
+void AddField(TiffDirectory& directory, TiffField field);
+
+// What a little-endian file begins with. Where the directory is comes last, by SetDirectory.
 QByteArray TiffHeader();
 void SetDirectory(QByteArray& file, std::uint32_t place);
 
 // Appends the directory, its values and its thumbnail, but not its own strips. Returns its place;
-// none when the file would pass 4 GB.
+// none when the file would pass 4 GB. The values get the byte order that the file begins with.
 std::optional<std::uint32_t> AppendDirectory(QByteArray& file, TiffDirectory directory);
 
 }  // namespace varnel

@@ -4,11 +4,13 @@
 #include "cli/choose_gear.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "gear/camera_catalogue.h"
 #include "gear/gear_catalogue.h"
 #include "gear/gear_store.h"
 #include "gear/lens_catalogue.h"
+#include "gear/photo_gear.h"
 
 namespace varnel {
 
@@ -27,7 +29,14 @@ QString HowToGiveOne() {
         "--list-lenses)");
 }
 
-std::variant<GearRecord, QString> FromCatalogues(const CatalogueName& camera,
+GearRecord BuiltGear(const GearNames& names) {
+    GearRecord gear;
+    FillGearFromCatalogue(names, gear, {});
+    gear.GearName = BuiltGearName(names);
+    return gear;
+}
+
+std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
                                                  const CatalogueName& lens) {
     if (!FillCameraModels(camera.brand).contains(camera.model)) {
         return QStringLiteral("unknown camera \"%1/%2\"; see --list-cameras")
@@ -37,11 +46,7 @@ std::variant<GearRecord, QString> FromCatalogues(const CatalogueName& camera,
         return QStringLiteral("unknown lens \"%1/%2\"; see --list-lenses")
             .arg(lens.brand, lens.model);
     }
-    const GearNames names{camera.brand, camera.model, lens.brand, lens.model};
-    GearRecord gear;
-    FillGearFromCatalogue(names, gear, {});
-    gear.GearName = BuiltGearName(names);
-    return gear;
+    return GearChoice{BuiltGear({camera.brand, camera.model, lens.brand, lens.model}), {}};
 }
 
 }  // namespace
@@ -62,24 +67,41 @@ std::optional<GearRecord> DefaultGear(const GearTable& table) {
     return table(std::max(table.Find(table.DefaultGearName), 1));
 }
 
-std::variant<GearRecord, QString> ChooseGear(const Options& options, SettingsStore& store) {
+std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsStore& store) {
     if (options.camera && options.lens) {
         return FromCatalogues(*options.camera, *options.lens);
     }
-    const GearTable table = StoredGears(store);
+    GearTable table = StoredGears(store);
+    if (options.gear == QStringLiteral("auto")) {
+        return GearChoice{std::nullopt, std::move(table)};
+    }
     const std::optional<GearRecord> byDefault = DefaultGear(table);
     if (!byDefault) {
         return QStringLiteral("no gear is defined; ") + HowToGiveOne();
     }
     if (options.gear.isEmpty()) {
-        return *byDefault;
+        return GearChoice{byDefault, {}};
     }
     const int n = table.Find(options.gear);
     if (n == 0) {
         return QStringLiteral("there is no gear \"%1\"; see --list-gears or ").arg(options.gear) +
                HowToGiveOne();
     }
-    return table(n);
+    return GearChoice{table(n), {}};
+}
+
+std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const PhotoOrigin& origin) {
+    if (choice.forAll) {
+        return *choice.forAll;
+    }
+    const PhotoGear found = GearOfPhoto(origin, choice.table);
+    if (found.gear > 0) {
+        return choice.table(found.gear);
+    }
+    if (found.IsWhole()) {
+        return BuiltGear(found.names);
+    }
+    return QStringLiteral("no gear for it: ") + found.said;
 }
 
 }  // namespace varnel

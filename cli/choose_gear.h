@@ -10,6 +10,7 @@
 
 #include "cli/options.h"
 #include "gear/gear_record.h"
+#include "state/photo_origin.h"
 #include "state/settings_store.h"
 
 namespace varnel {
@@ -20,8 +21,19 @@ GearTable StoredGears(SettingsStore& store);
 // The default gear, the first one when the table has none of that name; nothing in an empty table.
 std::optional<GearRecord> DefaultGear(const GearTable& table);
 
-// From the catalogues when a camera and a lens are given, else by name from the store, else the
-// store's default gear. Otherwise one line that says what is missing and how to give it.
-std::variant<GearRecord, QString> ChooseGear(const Options& options, SettingsStore& store);
+// The gear of a run.
+struct GearChoice {
+    std::optional<GearRecord> forAll;  // without it each photo gets its own
+    GearTable table;                   // to find that in
+};
+
+// From the catalogues when a camera and a lens are given, each photo's own for the name "auto",
+// else by name from the store, else the store's default gear. Otherwise one line that says what is
+// missing and how to give it.
+std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsStore& store);
+
+// A photo's own gear is that of the table that took it, else one made of the catalogues' camera and
+// lens. Otherwise the reason why there is none.
+std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const PhotoOrigin& origin);
 
 }  // namespace varnel

@@ -18,11 +18,11 @@ int Convert(const Options& options, SettingsStore& store, const Console& console
         return Refuse(console,
                       QStringLiteral("%1: there is no such folder").arg(options.outputDir));
     }
-    const auto gear = ChooseGear(options, store);
-    if (const auto* error = std::get_if<QString>(&gear)) {
+    const auto gears = ChooseGear(options, store);
+    if (const auto* error = std::get_if<QString>(&gears)) {
         return Refuse(console, *error);
     }
-    return ConvertPhotos(options, std::get<GearRecord>(gear), LoadSettings(store), console);
+    return ConvertPhotos(options, std::get<GearChoice>(gears), LoadSettings(store), console);
 }
 
 }  // namespace

@@ -101,13 +101,14 @@ SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBI
                       SaveFlags(target.type, quality, chroma444), &runner);
 }
 
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size) {
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size,
+                        const GearRecord& gear) {
     ImageRecord record;
     const QFileInfo file(path);
     record.FileName = file.fileName();
     record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
     TakeSize(size, record);
-    AssignGear(run.gear, record);
+    AssignGear(gear, record);
     for (const Adjustment& adjustment : run.options.adjustments) {
         const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));
         const float value = effect ? std::max(adjustment.value, 0.1F) : adjustment.value;

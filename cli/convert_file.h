@@ -7,8 +7,8 @@
 #include <QSet>
 #include <QString>
 
+#include "cli/choose_gear.h"
 #include "cli/options.h"
-#include "gear/gear_record.h"
 #include "pipeline/file_set.h"
 #include "pipeline/photo_loader.h"
 #include "remap/render.h"
@@ -20,7 +20,7 @@ namespace varnel {
 // What all conversions of a run have in common.
 struct ConversionRun {
     const Options& options;
-    const GearRecord& gear;
+    const GearChoice& gears;
     const GeneralSettings& settings;
     RenderProgress& progress;
     BlockRunner& runner;
@@ -37,7 +37,8 @@ struct OpenPhoto {
 };
 
 // The record of a photo with its size known: gear, then the options' adjustments.
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size);
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size,
+                        const GearRecord& gear);
 
 // Every record that a photo is converted with: its projections, or the frames of its sequence. The
 // fields that --set names have the last word.

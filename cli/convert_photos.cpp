@@ -13,6 +13,7 @@
 #include "pipeline/photo_feed.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 
 namespace varnel {
@@ -23,7 +24,7 @@ namespace {
 // the photos' order all the same.
 class Conversions {
   public:
-    Conversions(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
+    Conversions(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                 const Console& console)
         : jobs_(options.jobs.value_or(QThread::idealThreadCount())),
           console_(console),
@@ -33,7 +34,7 @@ class Conversions {
           runner_(jobs_),
           saveRunner_(jobs_),
           run_{options,
-               gear,
+               gears,
                settings,
                console.bar && !options.quiet ? static_cast<RenderProgress&>(bar_) : silent_,
                runner_,
@@ -69,12 +70,17 @@ class Conversions {
     }
 
     bool IsDone(const QString& file) {
+        const bool nameTellsGear = !run_.options.outputDir.isEmpty() || run_.options.morph;
+        if (!run_.gears.forAll && nameTellsGear) {
+            return false;  // only the photo itself tells what its results are called
+        }
         const std::optional<PixelSize> size = PhotoLoader(*reader_).Size(file);
         if (!size) {
             return false;  // its trouble is told in its turn
         }
         try {
-            const auto records = RecordsFor(run_, StartRecord(run_, file, *size));
+            const auto records = RecordsFor(
+                run_, StartRecord(run_, file, *size, run_.gears.forAll.value_or(GearRecord())));
             return std::ranges::all_of(records, [&](const ImageRecord& record) {
                 return QFileInfo::exists(TargetFor(run_, file, record).file);
             });
@@ -91,8 +97,14 @@ class Conversions {
         if (loaded.outcome == LoadOutcome::NotLoaded) {
             return;
         }
+        const auto gear = GearFor(run_.gears, OriginOf(loaded.bitmap.get()));
+        if (const auto* reason = std::get_if<QString>(&gear)) {
+            Report(files_[n], *reason);
+            return;
+        }
         OpenPhoto photo{files_[n],
-                        StartRecord(run_, files_[n], SizeOf(loaded.bitmap.get())),
+                        StartRecord(run_, files_[n], SizeOf(loaded.bitmap.get()),
+                                    std::get<GearRecord>(gear)),
                         {},
                         loaded.outcome == LoadOutcome::Damaged};
         photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
@@ -105,6 +117,10 @@ class Conversions {
         if (!spare_) {
             spare_ = std::move(photo.bitmaps.ResultBitmap);
         }
+    }
+
+    PhotoOrigin OriginOf(FIBITMAP* bitmap) const {
+        return run_.gears.forAll ? PhotoOrigin() : MetadataOf(bitmap).origin;
     }
 
     LoadedPicture Load(qsizetype n) {
@@ -216,9 +232,9 @@ class Conversions {
 
 }  // namespace
 
-int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
+int ConvertPhotos(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                   const Console& console) {
-    return Conversions(options, gear, settings, console).Go() ? exitAllWritten : exitSomeFailed;
+    return Conversions(options, gears, settings, console).Go() ? exitAllWritten : exitSomeFailed;
 }
 
 }  // namespace varnel

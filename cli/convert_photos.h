@@ -4,16 +4,16 @@
 // The photos of one command, one after the other.
 #pragma once
 
+#include "cli/choose_gear.h"
 #include "cli/console.h"
 #include "cli/options.h"
-#include "gear/gear_record.h"
 #include "state/general_settings.h"
 
 namespace varnel {
 
 // Converts every photo that the options name. The name of each written file goes to out; a photo
 // that fails is told on err and the others are done. Returns the exit code.
-int ConvertPhotos(const Options& options, const GearRecord& gear, const GeneralSettings& settings,
+int ConvertPhotos(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                   const Console& console);
 
 }  // namespace varnel

@@ -79,7 +79,9 @@ void Declare(QCommandLineParser& parser) {
     parser.addOptions({
         Valued(u"projection", u"NAME",
                u"varnel, rectilinear, equidistance, horizon or all; default varnel."),
-        Valued(u"gear", u"NAME", u"A gear of the settings; default: the default gear."),
+        Valued(u"gear", u"NAME",
+               u"A gear of the settings, or auto: what each photo's EXIF tells; default: the "
+               u"default gear."),
         Valued(u"camera", u"BRAND/MODEL", u"A camera of the catalogue, with --lens."),
         Valued(u"lens", u"BRAND/MODEL", u"A lens of the catalogue, with --camera."),
     });

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Each photo with the gear that took it.
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "cli/convert.h"
+#include "gear/gear_catalogue.h"
+#include "gear/gear_store.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/files.h"
+#include "tests/support/jpeg_files.h"
+
+namespace varnel {
+namespace {
+
+using testing::Contents;
+using testing::operator==;
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QByteArray TextField(const char* text) {
+    return QByteArray(text) + '\0';
+}
+
+// Puts EXIF into a JPEG file.
+void Tell(const QString& photo, const char* model, const char* lens) {
+    using enum testing::TiffType;
+    testing::TiffBytes tiff(testing::Order::Little);
+    const std::uint32_t exif = tiff.Directory({{0xa434, Text, {}, TextField(lens)}});
+    const std::uint32_t first = tiff.Directory({{271, Text, {}, TextField("NIKON CORPORATION")},
+                                                {272, Text, {}, TextField(model)},
+                                                {0x8769, Long, {exif}}});
+    const QByteArray block = QByteArray("Exif\0\0", 6) + tiff.Finish(first);
+    testing::WriteFile(photo, Contents(photo).insert(2, testing::JpegSegment(0xE1, block)));
+}
+
+TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
+    testing::PictureFolder files;
+    const struct {
+        const char *file, *model, *lens;
+    } photos[] = {{"table.jpg", "NIKON D7100", "10.5 mm f/2.8"},
+                  {"catalogues.jpg", "NIKON D50", "10.5 mm f/2.8"},
+                  {"zoom.jpg", "NIKON D50", "24.0-70.0 mm f/2.8"},
+                  {"compact.jpg", "E5700", ""}};
+    for (const auto& photo : photos) {
+        Tell(files.Picture(Q(photo.file), FIF_JPEG), photo.model, photo.lens);
+    }
+    MemoryStore store;
+    GearTable gears;
+    gears.Resize(2);
+    FillGearFromCatalogue({Q("Nikon"), Q("D7100"), Q("Nikon"), Q("AF 10.5mm f/2.8G ED DX")},
+                          gears(1));
+    gears(1).GearName = Q("mine");
+    gears(1).GearRatio = 130.0F;  // measured: not what the catalogues say
+    gears(2) = gears(1);
+    gears(2).GearName = Q("auto");  // a keyword, and no match
+    gears(2).CameraModel = Q("D50");
+    gears(2).LensModel = Q("8 mm");
+    SaveGear(store, gears);
+    std::ostringstream out, err;
+    const auto run = [&](QStringList arguments) {
+        out.str({});
+        err.str({});
+        arguments.prepend(Q("varnel-convert"));
+        return RunConvert(arguments + QStringList{Q("--type=bmp"), Q("--force")}, store,
+                          {out, err, false});
+    };
+    EXPECT_EQ(run({Q("--gear"), Q("auto"), files.Path(Q("table.jpg")), files.Path(Q("zoom.jpg")),
+                   files.Path(Q("catalogues.jpg")), files.Path(Q("compact.jpg")),
+                   files.Picture(Q("plain.bmp"), FIF_BMP)}),
+              exitSomeFailed);
+    EXPECT_EQ(out.str(),
+              (files.Path(Q("table.Varnel.BMP\n")) + files.Path(Q("catalogues.Varnel.BMP\n")))
+                  .toStdString());
+    const char* const told[] = {
+        "zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue\n",
+        "compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue\n",
+        "plain.bmp: no gear for it: the photo does not tell what took it\n"};
+    for (const char* const line : told) {
+        EXPECT_NE(err.str().find(line), std::string::npos) << err.str();
+    }
+    const QByteArray byTable = Contents(files.Path(Q("table.Varnel.BMP")));
+    const QByteArray byCatalogues = Contents(files.Path(Q("catalogues.Varnel.BMP")));
+    run({Q("--gear"), Q("mine"), files.Path(Q("table.jpg"))});
+    EXPECT_EQ(Contents(files.Path(Q("table.Varnel.BMP"))), byTable);
+    run({Q("--camera"), Q("Nikon/D50"), Q("--lens"), Q("Nikon/AF 10.5mm f/2.8G ED DX"),
+         files.Path(Q("catalogues.jpg"))});
+    EXPECT_EQ(Contents(files.Path(Q("catalogues.Varnel.BMP"))), byCatalogues);
+    EXPECT_NE(byTable, byCatalogues);
+}
+
+}  // namespace
+}  // namespace varnel

@@ -13,6 +13,7 @@
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "remap/save_bitmap.h"
+#include "state/picture_settings.h"
 
 namespace varnel {
 
@@ -35,6 +36,9 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
         if (!state_.settings.WriteMetadata) {
             DropMetadata(result);
         }
+        ImageRecord shown = image;
+        shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
+        NoteSettings(result, shown, state_.settings.WriteSettings);
         return SaveBitmap(
             FormatOf(type), result, choice.name,
             SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444),

@@ -14,6 +14,7 @@
 #include "remap/engine/thread_runner.h"
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
+#include "state/picture_settings.h"
 
 namespace varnel {
 
@@ -107,6 +108,7 @@ class Run : private RenderProgress {
         bitmaps.ResultBitmap = std::move(turn_.result);
         RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, *this, desk);
+        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices_.writeSettings);
         source_.bitmap = std::move(bitmaps.FullSourceBitmap);
         turn_.result = std::move(bitmaps.ResultBitmap);
     }

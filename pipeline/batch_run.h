@@ -25,6 +25,7 @@ struct BatchChoices {
     int jpegQuality = 100;
     bool chroma444 = false;     // JPEG has colour at full resolution
     bool writeMetadata = true;  // the photo's go into its file
+    bool writeSettings = true;  // those that made the picture go into its file
 };
 
 // The full path under which an entry is written. Throws RunTimeError when a number of the record

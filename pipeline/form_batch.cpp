@@ -152,7 +152,8 @@ BatchChoices FormBatch::Choices() const {
                          OutputTypeFromText(ui_->ComboFileType->currentText()),
                          ui_->SliderJPEGcompression->value(),
                          settings_.JPEGchroma444,
-                         settings_.WriteMetadata};
+                         settings_.WriteMetadata,
+                         settings_.WriteSettings};
     const auto boxes = AdditionsOf(*ui_);
     for (std::size_t n = 0; n < boxes.size(); ++n) {
         choices.additions.texts[n] = boxes[n]->text();

@@ -7,18 +7,27 @@
 
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
+#include "cli/like_picture.h"
 #include "cli/lists.h"
 
 namespace varnel {
 
 namespace {
 
-int Convert(const Options& options, SettingsStore& store, const Console& console) {
+int Convert(Options options, SettingsStore& store, const Console& console) {
     if (!options.outputDir.isEmpty() && !QFileInfo(options.outputDir).isDir()) {
         return Refuse(console,
                       QStringLiteral("%1: there is no such folder").arg(options.outputDir));
     }
-    const auto gears = ChooseGear(options, store);
+    const auto notes = TakeLike(options);
+    if (const auto* error = std::get_if<QString>(&notes)) {
+        return Refuse(console, *error);
+    }
+    for (const QString& note : std::get<QStringList>(notes)) {
+        Complain(console, note);
+    }
+    const auto gears = options.likeRecord && !NamesGear(options) ? GearChoice{GearRecord(), {}}
+                                                                 : ChooseGear(options, store);
     if (const auto* error = std::get_if<QString>(&gears)) {
         return Refuse(console, *error);
     }

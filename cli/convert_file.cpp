@@ -7,12 +7,14 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "cli/like_picture.h"
 #include "pipeline/morph_sequence.h"
 #include "pipeline/output_name.h"
 #include "pipeline/preview_size.h"
 #include "remap/photo_metadata.h"
 #include "remap/save_bitmap.h"
 #include "state/gear_assignment.h"
+#include "state/picture_settings.h"
 #include "state/record_fields.h"
 
 namespace varnel {
@@ -52,6 +54,23 @@ MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
     return ends;
 }
 
+// A gear that is named replaces that of --like; output angle and effects stay the picture's.
+void GiveGear(const Options& options, const GearRecord& gear, ImageRecord& record) {
+    if (!options.likeRecord) {
+        AssignGear(gear, record);
+        return;
+    }
+    const ImageRecord& like = *options.likeRecord;
+    CopySettings(like, record);
+    if (NamesGear(options)) {
+        record.SettingsApplied = false;
+        AssignGear(gear, record);
+        record.OutputAOV = like.OutputAOV;
+        record.EffectVarnel = like.EffectVarnel;
+        record.EffectRectilinear = like.EffectRectilinear;
+    }
+}
+
 }  // namespace
 
 QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
@@ -88,6 +107,8 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
         photo.bitmaps.PreviewSourceBitmap = ReducedCopy(full, PreviewSize(SizeOf(full), box, box));
     }
     Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
+    NoteSettings(photo.bitmaps.ResultBitmap.get(), record,
+                 run.settings.WriteSettings && !run.options.noSettings);
 }
 
 SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
@@ -108,7 +129,7 @@ ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize
     record.FileName = file.fileName();
     record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
     TakeSize(size, record);
-    AssignGear(gear, record);
+    GiveGear(run.options, gear, record);
     for (const Adjustment& adjustment : run.options.adjustments) {
         const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));
         const float value = effect ? std::max(adjustment.value, 0.1F) : adjustment.value;

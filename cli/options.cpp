@@ -79,6 +79,9 @@ void Declare(QCommandLineParser& parser) {
     parser.addOptions({
         Valued(u"projection", u"NAME",
                u"varnel, rectilinear, equidistance, horizon or all; default varnel."),
+        Valued(u"like", u"PICTURE",
+               u"Gear, projection and adjustments of a picture that Varnel wrote; other options "
+               u"win. Without FILE its own photo is converted."),
         Valued(u"gear", u"NAME",
                u"A gear of the settings, or auto: what each photo's EXIF tells; default: the "
                u"default gear."),
@@ -106,6 +109,7 @@ void Declare(QCommandLineParser& parser) {
                u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
                u"setting."),
         Flag(u"no-metadata", u"Leave the photo's EXIF, IPTC and XMP out."),
+        Flag(u"no-settings", u"Do not write the settings into the results."),
         Flag(u"force", u"Replace existing files."),
         Flag(u"skip-existing", u"Do only what is missing: leave results that lie there alone."),
         Valued(u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."),
@@ -281,6 +285,8 @@ Options Take(const QCommandLineParser& parser) {
     options.command = CommandOf(parser);
     options.files = parser.positionalArguments();
     TakeIfSet(parser, u"projection", options.projections, &ProjectionsOf);
+    options.projectionGiven = parser.isSet(QStringLiteral("projection"));
+    options.like = parser.value(QStringLiteral("like"));
     options.gear = parser.value(QStringLiteral("gear"));
     TakeIfSet(parser, u"camera", options.camera,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
@@ -303,6 +309,7 @@ Options Take(const QCommandLineParser& parser) {
     });
     TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
+    options.noSettings = parser.isSet(QStringLiteral("no-settings"));
     options.force = parser.isSet(QStringLiteral("force"));
     options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
     TakeIfSet(parser, u"jobs", options.jobs, [](const QString& text) {
@@ -322,6 +329,18 @@ Projection MorphProjection(const Options& options) {
     return ProjectionFromIndex(probe.Projection);
 }
 
+void CheckMorphEnds(const Options& options) {
+    MorphValues probe;
+    for (const auto* end : {&options.from, &options.to}) {
+        for (const Adjustment& adjustment : *end) {
+            if (MorphValue(probe, MorphProjection(options), adjustment.field) == nullptr) {
+                throw UsageError{QStringLiteral("%1 is not an effect of the projection %2")
+                                     .arg(adjustment.field, ToText(MorphProjection(options)))};
+            }
+        }
+    }
+}
+
 void CheckMorph(const Options& options) {
     if (!options.morph) {
         if (!options.from.empty() || !options.to.empty()) {
@@ -335,14 +354,8 @@ void CheckMorph(const Options& options) {
     if (!options.output.isEmpty()) {
         throw UsageError{QStringLiteral("--morph names its files itself; use --output-dir")};
     }
-    MorphValues probe;
-    for (const auto* end : {&options.from, &options.to}) {
-        for (const Adjustment& adjustment : *end) {
-            if (MorphValue(probe, MorphProjection(options), adjustment.field) == nullptr) {
-                throw UsageError{QStringLiteral("%1 is not an effect of the projection %2")
-                                     .arg(adjustment.field, ToText(MorphProjection(options)))};
-            }
-        }
+    if (options.like.isEmpty() || options.projectionGiven) {
+        CheckMorphEnds(options);
     }
 }
 
@@ -350,7 +363,7 @@ void CheckTogether(const Options& options) {
     if (options.command != Command::Convert) {
         return;
     }
-    if (options.files.isEmpty()) {
+    if (options.files.isEmpty() && options.like.isEmpty()) {
         throw UsageError{QStringLiteral("no photo given; see --help")};
     }
     if (options.camera.has_value() != options.lens.has_value()) {
@@ -385,6 +398,16 @@ std::variant<Options, QString> ParseOptions(const QStringList& arguments) {
         Options options = Take(parser);
         CheckTogether(options);
         return options;
+    } catch (const UsageError& error) {
+        return error.text;
+    }
+}
+
+std::optional<QString> UseProjection(Options& options, Projection projection) {
+    options.projections = {projection};
+    try {
+        CheckMorphEnds(options);
+        return std::nullopt;
     } catch (const UsageError& error) {
         return error.text;
     }

@@ -13,6 +13,7 @@
 
 #include "pipeline/output_type.h"
 #include "remap/geometry.h"
+#include "state/image_record.h"
 #include "state/projection.h"
 
 namespace varnel {
@@ -35,6 +36,9 @@ struct Options {
     Command command = Command::Convert;
     QStringList files;  // for the lists: the brand, if one was given
     std::vector<Projection> projections{Projection::Varnel};
+    bool projectionGiven = false;
+    QString like;                           // a picture that holds settings
+    std::optional<ImageRecord> likeRecord;  // what it says, once it was read
     QString gear;
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
@@ -50,6 +54,7 @@ struct Options {
     std::optional<int> quality;
     std::optional<bool> chroma444;
     bool noMetadata = false;
+    bool noSettings = false;
     bool force = false;
     bool skipExisting = false;
     std::optional<int> jobs;  // cores to use; none: all
@@ -59,6 +64,9 @@ struct Options {
 // The options, or one line that says what is wrong with the command line. The first argument is the
 // program's name. Numbers have a decimal point whatever the locale.
 std::variant<Options, QString> ParseOptions(const QStringList& arguments);
+
+// For a projection that is known only later: one line that says what does not go with it.
+std::optional<QString> UseProjection(Options& options, Projection projection);
 
 QString HelpText();
 

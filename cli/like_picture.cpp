@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/like_picture.h"
+
+#include "pipeline/likeness.h"
+
+namespace varnel {
+
+namespace {
+
+QString MissingSource(const Likeness& likeness) {
+    return likeness.record.FileName.isEmpty()
+               ? QStringLiteral("does not say which photo it was made of")
+               : QStringLiteral("the photo that it was made of is not there: ") +
+                     SourcePath(likeness.record);
+}
+
+// Empty when all is well.
+QString Complete(Options& options, const Likeness& likeness) {
+    options.likeRecord = likeness.record;
+    if (options.files.isEmpty()) {
+        if (!likeness.sourceFound) {
+            return options.like + QStringLiteral(": ") + MissingSource(likeness);
+        }
+        options.files = QStringList{SourcePath(likeness.record)};
+    }
+    if (options.projectionGiven) {
+        return {};
+    }
+    return UseProjection(options, ProjectionFromIndex(likeness.record.Projection))
+        .value_or(QString());
+}
+
+}  // namespace
+
+std::variant<QStringList, QString> TakeLike(Options& options) {
+    if (options.like.isEmpty()) {
+        return QStringList();
+    }
+    const auto prefixed = [&options](const QString& text) {
+        return QString(options.like + QStringLiteral(": ") + text);
+    };
+    const auto reader = NewPictureReader();
+    const PhotoFacts facts = PhotoLoader(*reader).Facts(options.like);
+    if (!facts.trouble.isEmpty()) {
+        return prefixed(facts.trouble);
+    }
+    const std::optional<Likeness> likeness = LikenessFrom(facts.metadata.settings, options.like);
+    if (!likeness) {
+        return prefixed(QStringLiteral("holds no settings of Varnel"));
+    }
+    if (QString trouble = Complete(options, *likeness); !trouble.isEmpty()) {
+        return trouble;
+    }
+    QStringList notes;
+    for (const QString& note : likeness->notes) {
+        notes.append(prefixed(note));
+    }
+    return notes;
+}
+
+bool NamesGear(const Options& options) {
+    return !options.gear.isEmpty() || options.camera;
+}
+
+}  // namespace varnel

@@ -43,9 +43,14 @@ double Between(double x, double x0, double y0, double x1, double y1) {
     return y0 + (x - x0) / (x1 - x0) * (y1 - y0);
 }
 
+// By how much colour at full resolution makes a JPEG file larger. Measured with photos of
+// foliage: 1.16 to 1.31 up to quality 95, 1.34 to 1.48 at 100.
+double ChromaFactor(double quality) {
+    return quality <= 95.0 ? 1.2 : Between(quality, 95.0, 1.2, 100.0, 1.45);
+}
+
 // Measured with converted photos of foliage, which need two to four times what indoor ones do.
 double BytesPerPixel(const BatchChoices& choices) {
-    const double quality = choices.jpegQuality;
     switch (choices.type) {
         case OutputType::Tiff:
             return 2.3;
@@ -56,11 +61,13 @@ double BytesPerPixel(const BatchChoices& choices) {
         case OutputType::Jpeg:
             break;
     }
+    const double quality = choices.jpegQuality;
+    const double factor = choices.chroma444 ? ChromaFactor(quality) : 1.0;
     if (quality <= 85.0) {
-        return Between(std::max(quality, 50.0), 50.0, 0.19, 85.0, 0.36);
+        return factor * Between(std::max(quality, 50.0), 50.0, 0.19, 85.0, 0.36);
     }
-    return quality <= 95.0 ? Between(quality, 85.0, 0.36, 95.0, 0.61)
-                           : Between(quality, 95.0, 0.61, 100.0, 1.07);
+    return factor * (quality <= 95.0 ? Between(quality, 85.0, 0.36, 95.0, 0.61)
+                                     : Between(quality, 95.0, 0.61, 100.0, 1.07));
 }
 
 }  // namespace

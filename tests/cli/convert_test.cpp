@@ -10,6 +10,7 @@
 
 #include "gear/gear_store.h"
 #include "tests/support/files.h"
+#include "tests/support/jpeg_files.h"
 #include "tests/support/loading.h"
 
 namespace varnel {
@@ -292,6 +293,35 @@ TEST_F(Convert, AMorphWritesTheFramesThatSingleConversionsWouldGive) {
               exitAllWritten);
     EXPECT_EQ(FilesIn(Q("out")),
               (QStringList{Q("IMG.Varnel_Morph0001.BMP"), Q("IMG.Varnel_Morph0002_Eff000.BMP")}));
+}
+
+TEST_F(Convert, OptionsOverrideTheSettingsForColourAndMetadata) {
+    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    testing::WriteFile(photo, testing::Described(Contents(photo)));
+    const struct {
+        const char *full, *metadata;  // the settings
+        QStringList options;
+        int sampling;  // of the brightness beside the colour
+        bool exif;
+    } rows[] = {{"0", "1", {}, 0x22, true},
+                {"1", "1", {}, 0x11, true},
+                {"0", "1", {Q("--chroma=444")}, 0x11, true},
+                {"1", "0", {Q("--chroma=420")}, 0x22, false},
+                {"0", "1", {Q("--no-metadata")}, 0x22, false}};
+    for (const auto& row : rows) {
+        store_.Save(Q("setting"), Q("JPEGchroma444"), Q(row.full));
+        store_.Save(Q("setting"), Q("WriteMetadata"), Q(row.metadata));
+        const QString target = files_.Path(Q("out.jpg"));
+        EXPECT_EQ(
+            RunWithGear(QStringList{Q("--force"), Q("--output"), target, photo} + row.options),
+            exitAllWritten);
+        const QByteArray file = Contents(target);
+        const qsizetype frame = file.lastIndexOf("\xFF\xC0");  // a thumbnail has one, too
+        ASSERT_GT(frame, 0);
+        EXPECT_EQ(file[frame + 11], row.sampling);
+        EXPECT_EQ(file.contains("Exif"), row.exif);
+        EXPECT_TRUE(file.contains("ICC_PROFILE"));
+    }
 }
 
 TEST_F(Convert, ListsAreReadyForTheOptions) {

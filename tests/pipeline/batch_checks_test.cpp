@@ -68,9 +68,12 @@ TEST(BatchChecks, WarnOnlyWhenTheSpaceIsShort) {
     queue(1).Height = 4000;
     queue.Append(queue(1));
     // 48 million pixels; JPEG 90 is half way between 0.36 and 0.61 bytes a pixel.
-    const std::pair<BatchChoices, qint64> rows[] = {{{{}, {}, OutputType::Bmp, 0}, 144'000'000},
-                                                    {{{}, {}, OutputType::Jpeg, 90}, 23'280'000},
-                                                    {{{}, {}, OutputType::Jpeg, 1}, 9'120'000}};
+    const std::pair<BatchChoices, qint64> rows[] = {
+        {{{}, {}, OutputType::Bmp, 0}, 144'000'000},
+        {{{}, {}, OutputType::Jpeg, 90}, 23'280'000},
+        {{{}, {}, OutputType::Jpeg, 1}, 9'120'000},
+        {{{}, {}, OutputType::Jpeg, 90, true}, 27'936'000},
+        {{{}, {}, OutputType::Png, 90, true}, 96'000'000}};
     for (const auto& [choices, bytes] : rows) {
         EXPECT_EQ(ExpectedBytes(queue, choices), bytes);
     }

@@ -294,12 +294,17 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     The<QSlider>("SliderJPEGcompression").setValue(61);
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_EQ(form->result(), QDialog::Rejected);
+    EXPECT_TRUE(choices.writeMetadata && !choices.chroma444);
     settings.FileType = Q("PNG");
+    settings.JPEGchroma444 = true;  // has no control here
+    settings.WriteMetadata = false;
     Open();
     EXPECT_EQ(Label("LabelFolder"), Out());
     EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Q("JPEG"));
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 61);
     EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), Q("sky"));
+    form->reject();
+    EXPECT_TRUE(choices.chroma444 && !choices.writeMetadata);
     EXPECT_EQ(queue.UpperBound(), 1);
 }
 

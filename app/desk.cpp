@@ -86,7 +86,7 @@ bool Desk::LoadFull(int line) {
         return false;
     }
     state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
-    TakeSize(SizeOf(state_.bitmaps.FullSourceBitmap.get()), image);
+    TakeSize({SizeOf(state_.bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
     GiveChosenGear(image);
     ShowInControls(image);
     view_.ShowStatus(Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
@@ -213,7 +213,7 @@ void Desk::Prepare(ImageRecord& image) {
     if (neverLoaded) {
         // Events are handled meanwhile; nothing may change the list under the record.
         const Raised busy(busy_);
-        if (const std::optional<PixelSize> size = photos_.Size(SourcePath(image))) {
+        if (const std::optional<PhotoSize> size = photos_.Size(SourcePath(image))) {
             TakeSize(*size, image);
         }
         if (photos_.GivenUp()) {

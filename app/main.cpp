@@ -45,7 +45,7 @@ int RunWindow(QApplication& application, const QStringList& files, SettingsStore
     state.settings = LoadSettings(store);
     const auto reader = NewPictureReader();
     ReadingBox wait;
-    PhotoLoader photos(*reader, &wait);
+    PhotoLoader photos(*reader, &wait, &state.settings);
     RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
     MDIForm1 window(state, store, {photos, notices, gearPrompt, fileChooser, dialogs});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,

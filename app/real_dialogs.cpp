@@ -28,7 +28,8 @@ bool RealDialogs::AddImages(QWidget* parent) {
                              &MountedVolumes};
     // Of its own, so that a slow small picture never stands in a photo's way.
     const auto reader = NewPictureReader({.secondsPerPhoto = 10});
-    FormAddImages form(state_.Images, store_, notices_, places, *reader, parent);
+    FormAddImages form(state_.Images, store_, notices_, places,
+                       {*reader, state_.settings.AutoOrient}, parent);
     return form.exec() == QDialog::Accepted;
 }
 

@@ -122,7 +122,7 @@ SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBI
                       SaveFlags(target.type, quality, chroma444), &runner);
 }
 
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size,
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, const PhotoSize& size,
                         const GearRecord& gear) {
     ImageRecord record;
     const QFileInfo file(path);

@@ -37,7 +37,7 @@ struct OpenPhoto {
 };
 
 // The record of a photo with its size known: gear, then the options' adjustments.
-ImageRecord StartRecord(const ConversionRun& run, const QString& path, PixelSize size,
+ImageRecord StartRecord(const ConversionRun& run, const QString& path, const PhotoSize& size,
                         const GearRecord& gear);
 
 // Every record that a photo is converted with: its projections, or the frames of its sequence. The

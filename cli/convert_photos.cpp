@@ -26,16 +26,17 @@ class Conversions {
   public:
     Conversions(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                 const Console& console)
-        : jobs_(options.jobs.value_or(QThread::idealThreadCount())),
+        : settings_(With(options, settings)),
+          jobs_(options.jobs.value_or(QThread::idealThreadCount())),
           console_(console),
           reader_(NewPictureReader()),
-          feed_(std::in_place, *reader_, MoreReaders(jobs_), wait_),
+          feed_(std::in_place, *reader_, MoreReaders(jobs_), wait_, settings_.AutoOrient),
           bar_(console.err),
           runner_(jobs_),
           saveRunner_(jobs_),
           run_{options,
                gears,
-               settings,
+               settings_,
                console.bar && !options.quiet ? static_cast<RenderProgress&>(bar_) : silent_,
                runner_,
                FileSet(options.files)},
@@ -53,6 +54,11 @@ class Conversions {
     }
 
   private:
+    static GeneralSettings With(const Options& options, GeneralSettings settings) {
+        settings.AutoOrient = settings.AutoOrient && !options.noAutoOrient;
+        return settings;
+    }
+
     struct Writing {
         ConversionTarget target;
         BitmapHandle result;
@@ -74,7 +80,7 @@ class Conversions {
         if (!run_.gears.forAll && nameTellsGear) {
             return false;  // only the photo itself tells what its results are called
         }
-        const std::optional<PixelSize> size = PhotoLoader(*reader_).Size(file);
+        const std::optional<PhotoSize> size = PhotoLoader(*reader_, nullptr, &settings_).Size(file);
         if (!size) {
             return false;  // its trouble is told in its turn
         }
@@ -103,7 +109,7 @@ class Conversions {
             return;
         }
         OpenPhoto photo{files_[n],
-                        StartRecord(run_, files_[n], SizeOf(loaded.bitmap.get()),
+                        StartRecord(run_, files_[n], {loaded.size, loaded.orientation},
                                     std::get<GearRecord>(gear)),
                         {},
                         loaded.outcome == LoadOutcome::Damaged};
@@ -212,6 +218,7 @@ class Conversions {
         Complain(console_, file + QStringLiteral(": ") + reason);
     }
 
+    const GeneralSettings settings_;
     const int jobs_;
     const Console& console_;
     ReadingWait wait_;

@@ -109,6 +109,7 @@ void Declare(QCommandLineParser& parser) {
                u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
                u"setting."),
         Flag(u"no-metadata", u"Leave the photo's EXIF, IPTC and XMP out."),
+        Flag(u"no-auto-orient", u"Take photos as they are stored, whatever their EXIF says."),
         Flag(u"no-settings", u"Do not write the settings into the results."),
         Flag(u"force", u"Replace existing files."),
         Flag(u"skip-existing", u"Do only what is missing: leave results that lie there alone."),
@@ -309,6 +310,7 @@ Options Take(const QCommandLineParser& parser) {
     });
     TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
+    options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
     options.noSettings = parser.isSet(QStringLiteral("no-settings"));
     options.force = parser.isSet(QStringLiteral("force"));
     options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));

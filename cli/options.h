@@ -54,6 +54,7 @@ struct Options {
     std::optional<int> quality;
     std::optional<bool> chroma444;
     bool noMetadata = false;
+    bool noAutoOrient = false;
     bool noSettings = false;
     bool force = false;
     bool skipExisting = false;

@@ -12,6 +12,7 @@
 #include "decoder/claimed_size.h"
 #include "decoder/jpeg_frame.h"
 #include "decoder/jpeg_pixels.h"
+#include "decoder/orientation.h"
 #include "decoder/picture_damage.h"
 #include "decoder/picture_file.h"
 #include "decoder/picture_limits.h"
@@ -65,6 +66,22 @@ PixelSize Within(PixelSize picture, PixelSize box) {
     return {scaled(picture.width), scaled(picture.height)};
 }
 
+PixelRows RowsOf(FIBITMAP* bitmap) {
+    return {reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), FreeImage_GetPitch(bitmap)};
+}
+
+// For a picture that was turned by the orientation: what belongs to its source besides pixels.
+void DescribeTurned(FIBITMAP* bitmap, FIBITMAP* source, int orientation) {
+    CopyAllButPixels(bitmap, source);
+    if (orientation != 1) {
+        FreeImage_SetThumbnail(bitmap, nullptr);
+    }
+    if (SwapsSides(orientation)) {
+        FreeImage_SetDotsPerMeterX(bitmap, FreeImage_GetDotsPerMeterY(source));
+        FreeImage_SetDotsPerMeterY(bitmap, FreeImage_GetDotsPerMeterX(source));
+    }
+}
+
 BitmapHandle Reduced(BitmapHandle bitmap, PixelSize box) {
     const PixelSize is = SizeOf(bitmap.get());
     const PixelSize wanted = Within(is, box);
@@ -104,10 +121,16 @@ class Decoding {
                 return LoadedPicture::Refused(trouble);
             }
         }
+        NoteOrientation();
         stated_ = HeaderSize();
         if (const QString trouble = stated_ ? Trouble(*stated_) : QString(); !trouble.isEmpty()) {
             return LoadedPicture::Refused(trouble);
         }
+        return Upright(AsAsked());
+    }
+
+  private:
+    LoadedPicture AsAsked() {
         switch (request_.kind) {
             case ReadKind::Size:
                 return OnlySize();
@@ -119,7 +142,71 @@ class Decoding {
         return Whole();
     }
 
-  private:
+    void NoteOrientation() {
+        orientation_ = request_.upright ? OrientationOf(format_, file_, tiff_) : 1;
+        // The library develops raw files upright, whatever is asked.
+        turn_ = format_ == FIF_RAW ? 1 : orientation_;
+        if (format_ == FIF_TIFF && tiff_ && tiff_->orientation != 1) {
+            // It does a part of some turns with some kinds of TIFF, so it must not know.
+            file_.Replace(tiff_->orientationPlace, 1);
+        }
+    }
+
+    // Whether the sides of a raw file's picture have changed places against the sensor's; nothing
+    // when they do not tell.
+    std::optional<bool> HasSwappedSides(PixelSize size) const {
+        if (!stated_ || stated_->width == stated_->height || size.width == size.height) {
+            return std::nullopt;
+        }
+        return (stated_->width > stated_->height) != (size.width > size.height);
+    }
+
+    // The camera's own small picture in a raw file is not turned by the library. What was developed
+    // for want of one is, and has the sensor's size.
+    void NoteUnturnedPreview(PixelSize size) {
+        const std::optional<bool> swapped = HasSwappedSides(size);
+        const bool isUnturned = SwapsSides(orientation_) && swapped
+                                    ? !*swapped
+                                    : stated_ && size.width < stated_->width / 2;
+        turn_ = isUnturned ? orientation_ : 1;
+    }
+
+    LoadedPicture Upright(LoadedPicture picture) {
+        if (picture.outcome == LoadOutcome::NotLoaded) {
+            return picture;
+        }
+        if (format_ == FIF_RAW && picture.size.width > 0 &&
+            HasSwappedSides(picture.size) == !SwapsSides(orientation_)) {
+            orientation_ = 1;  // it was developed by something else than that
+        }
+        if (turn_ != 1) {
+            picture.size = Turned(picture.size, turn_);
+            if (picture.bitmap) {
+                picture.bitmap = TurnedCopy(picture.bitmap.get());
+            }
+        }
+        picture.orientation = orientation_;
+        return picture;
+    }
+
+    // By what the library has left to be done.
+    BitmapHandle TurnedCopy(FIBITMAP* bitmap) {
+        const PixelSize size = SizeOf(bitmap);
+        BitmapHandle turned = Room(Turned(size, turn_));
+        if (!turned) {
+            throw std::bad_alloc();
+        }
+        TurnRows(size, {0, size.height}, RowsOf(bitmap), turn_, RowsOf(turned.get()));
+        DescribeTurned(turned.get(), bitmap, turn_);
+        return turned;
+    }
+
+    // Where the picture is wanted, if it is.
+    BitmapHandle Room(PixelSize size) const {
+        return rowsFor_ && request_.kind == ReadKind::Whole ? BitmapOver(rowsFor_(size), size)
+                                                            : NewBitmap(size);
+    }
+
     // The next number means nothing to anybody and keeps the tags in order.
     void HideDeadlyTags() {
         constexpr char next = '\xBC';
@@ -157,7 +244,7 @@ class Decoding {
             const bool known = tiff_ && tiff_->isDng && tiff_->isEven;
             if (!known) {
                 size.reset();
-            } else if (tiff_->isTurned) {
+            } else if (SwapsSides(tiff_->orientation)) {
                 std::swap(size->width, size->height);
             }
         }
@@ -181,8 +268,11 @@ class Decoding {
             }
             picture = Whole();
         }
+        if (picture.bitmap && format_ == FIF_RAW) {
+            NoteUnturnedPreview(SizeOf(picture.bitmap.get()));
+        }
         if (picture.bitmap) {
-            picture.bitmap = Reduced(std::move(picture.bitmap), request_.box);
+            picture.bitmap = Reduced(std::move(picture.bitmap), Turned(request_.box, turn_));
         }
         return picture;
     }
@@ -203,22 +293,22 @@ class Decoding {
     }
 
     // Past the library, which takes half as long again; empty where it has to do it.
-    BitmapHandle DirectJpeg() const {
+    BitmapHandle DirectJpeg() {
         if (format_ != FIF_JPEG || !stated_ || request_.kind != ReadKind::Whole) {
             return nullptr;
         }
         const PixelSize size = Pixels(*stated_);
-        BitmapHandle bitmap = rowsFor_ ? BitmapOver(rowsFor_(size), size) : NewBitmap(size);
+        BitmapHandle bitmap = Room(Turned(size, turn_));
         if (!bitmap) {
             return nullptr;
         }
-        auto* const rows = reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap.get()));
         const BitmapHandle metadata =
-            ReadJpegPixels(file_.File(), size, rows, FreeImage_GetPitch(bitmap.get()));
+            ReadJpegPixels(file_.File(), size, RowsOf(bitmap.get()), turn_);
         if (!metadata) {
             return nullptr;
         }
-        CopyAllButPixels(bitmap.get(), metadata.get());
+        DescribeTurned(bitmap.get(), metadata.get(), turn_);
+        turn_ = 1;
         return bitmap;
     }
 
@@ -271,6 +361,8 @@ class Decoding {
     FREE_IMAGE_FORMAT format_ = FIF_UNKNOWN;
     std::optional<TiffFacts> tiff_;
     std::optional<StatedSize> stated_;
+    int orientation_ = 1;  // to be undone
+    int turn_ = 1;         // the part of it that is still to be done
 };
 
 }  // namespace

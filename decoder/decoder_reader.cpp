@@ -82,7 +82,8 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 request.box,
                 options_.memory,
                 static_cast<std::uint32_t>(options_.secondsPerPhoto),
-                memory_->Name()};
+                memory_->Name(),
+                request.upright};
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     Ask();
@@ -189,6 +190,7 @@ LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer) {
     }
     LoadedPicture picture{static_cast<LoadOutcome>(answer.outcome), nullptr, ReasonOf(answer),
                           answer.size};
+    picture.orientation = answer.orientation;
     if (answer.bitmap.width > 0) {
         TakePixels(answer, picture);
     }

@@ -93,6 +93,23 @@ std::optional<PixelSize> JpegSize(const PictureFile& file) {
     return std::nullopt;
 }
 
+QByteArray JpegExif(const PictureFile& file) {
+    constexpr int exifSegment = 0xE1;  // and others' blocks
+    constexpr int mostBytes = 65533;
+    MarkerWalk walk(file);
+    for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;
+         marker = walk.Next()) {
+        if (!HasSegment(marker)) {
+            continue;
+        }
+        const QByteArray segment = walk.Segment(marker == exifSegment ? mostBytes : 0);
+        if (segment.startsWith(QByteArrayView("Exif\0\0", 6))) {
+            return segment;
+        }
+    }
+    return {};
+}
+
 bool JpegIsCut(const PictureFile& file) {
     MarkerWalk walk(file);
     int marker = walk.Next();

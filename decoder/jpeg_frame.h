@@ -14,6 +14,9 @@ namespace varnel {
 // decodes a whole progressive picture.
 std::optional<PixelSize> JpegSize(const PictureFile& file);
 
+// The first EXIF block in front of the pixels, with its mark; empty when there is none.
+QByteArray JpegExif(const PictureFile& file);
+
 // True when the file stops before the picture's end marker.
 bool JpegIsCut(const PictureFile& file);
 

@@ -5,10 +5,13 @@
 
 #include <QByteArray>
 #include <QtEndian>
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <vector>
 
 #include "remap/coding/jpeg_errors.h"
+#include "remap/row_pitch.h"
 
 namespace varnel {
 
@@ -89,22 +92,25 @@ class JpegDecoder {
         return true;
     }
 
-    // To be called once the decoder has started.
-    bool Rows(std::byte* rows, std::size_t pitch) {
+    // The next rows, the last of them to the bottom. To be called once the decoder has started, for
+    // no more rows than are left; with the picture's last row it is done.
+    bool Rows(PixelRows rows, JDIMENSION count) {
         if (setjmp(errors_.Back()) != 0) {
             return false;
         }
-        auto* const bottom = reinterpret_cast<JSAMPROW>(rows);
-        while (info_.output_scanline < info_.output_height) {
+        auto* const bottom = reinterpret_cast<JSAMPROW>(rows.bottom);
+        const JDIMENSION end = info_.output_scanline + count;
+        while (info_.output_scanline < end) {
             std::array<JSAMPROW, 4> next;
-            JDIMENSION count = 0;
-            for (JDIMENSION y = info_.output_scanline;
-                 count < next.size() && y < info_.output_height; ++y) {
-                next[count++] = bottom + pitch * (info_.output_height - 1 - y);
+            JDIMENSION asked = 0;
+            for (JDIMENSION y = info_.output_scanline; asked < next.size() && y < end; ++y) {
+                next[asked++] = bottom + rows.pitch * (end - 1 - y);
             }
-            jpeg_read_scanlines(&info_, next.data(), count);
+            jpeg_read_scanlines(&info_, next.data(), asked);
         }
-        jpeg_finish_decompress(&info_);
+        if (end == info_.output_height) {
+            jpeg_finish_decompress(&info_);
+        }
         return true;
     }
 
@@ -172,10 +178,29 @@ BitmapHandle WithMetadata(const QByteArray& segments, bool isGrey) {
     return bitmap;
 }
 
+bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientation) {
+    if (orientation == 1) {
+        return decoder.Rows(rows, static_cast<JDIMENSION>(size.height));
+    }
+    // While they are in the cache; in whole blocks of the coding.
+    constexpr std::int32_t bandRows = 32;
+    const std::size_t pitch = RowPitch(size.width);
+    std::vector<std::byte> decoded(pitch * bandRows);
+    const PixelRows band{decoded.data(), pitch};
+    for (std::int32_t left = size.height; left > 0;) {
+        const std::int32_t count = std::min(left, bandRows);
+        if (!decoder.Rows(band, static_cast<JDIMENSION>(count))) {
+            return false;
+        }
+        left -= count;
+        TurnRows(size, {left, count}, band, orientation, rows);
+    }
+    return true;
+}
+
 }  // namespace
 
-BitmapHandle ReadJpegPixels(std::FILE* file, PixelSize expected, std::byte* rows,
-                            std::size_t pitch) {
+BitmapHandle ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows, int orientation) {
     std::rewind(file);
     JpegDecoder decoder(file);
     if (!decoder.Start(expected)) {
@@ -183,7 +208,7 @@ BitmapHandle ReadJpegPixels(std::FILE* file, PixelSize expected, std::byte* rows
     }
     const QByteArray segments = decoder.Metadata();
     const bool warnedEarly = decoder.HasWarned();
-    if (!decoder.Rows(rows, pitch)) {
+    if (!AllRows(decoder, expected, rows, orientation)) {
         return nullptr;
     }
     // In the order of the library's own work.

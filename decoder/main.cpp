@@ -112,6 +112,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     answer.number = request.number;
     answer.outcome = static_cast<std::uint32_t>(picture.outcome);
     answer.size = picture.size;
+    answer.orientation = picture.orientation;
     SetReason(answer, picture.reason);
     if (!picture.bitmap) {
         return answer;
@@ -147,7 +148,8 @@ bool Serve(MappedFiles& mapped) {
     }
     Handover handover(mapped, request.memoryFile, files[1].Get());
     const LoadedPicture picture = DecodePicture(
-        photo.get(), {{}, request.kind, request.box}, request.memory, [&handover](PixelSize size) {
+        photo.get(), {{}, request.kind, request.box, request.upright}, request.memory,
+        [&handover](PixelSize size) {
             return handover.Rows(RowPitch(size.width) * static_cast<std::size_t>(size.height));
         });
     const DecoderAnswer answer = AnswerFor(picture, request, handover);

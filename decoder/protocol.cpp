@@ -7,6 +7,7 @@
 
 #include "decoder/picture_limits.h"
 #include "remap/row_pitch.h"
+#include "remap/turn.h"
 
 namespace varnel {
 
@@ -47,7 +48,8 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
 bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
                 std::uint64_t memoryFileLength) {
     if (answer.number != request.number || answer.reasonLength > longestReason ||
-        answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded)) {
+        answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded) ||
+        !IsOrientation(answer.orientation) || (answer.orientation != 1 && !request.upright)) {
         return false;
     }
     const bool hasPixels = request.kind != ReadKind::Size &&

@@ -24,6 +24,7 @@ struct DecoderRequest {
     std::uint64_t memory = 0;      // bytes that the picture is measured by
     std::uint32_t seconds = 0;     // of processor time that it may take, about
     std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
+    bool upright = true;
 };
 
 inline constexpr std::size_t longestReason = 1000;  // bytes of UTF-8
@@ -36,6 +37,7 @@ struct DecoderAnswer {
     PixelSize bitmap{};              // of the pixels in the memory file, 0 x 0 when there are none
     std::uint32_t pitch = 0;         // bytes from row to row
     std::uint64_t extrasLength = 0;  // bytes after the rows
+    std::int32_t orientation = 1;    // as in LoadedPicture
     std::uint32_t reasonLength = 0;
     std::array<char, longestReason> reason{};
 };

@@ -20,7 +20,8 @@ enum class ReadKind : std::uint32_t {
 struct ReadRequest {
     QString path;
     ReadKind kind = ReadKind::Whole;
-    PixelSize box{};  // Small: the picture fits it; never enlarged
+    PixelSize box{};      // Small: the picture fits it; never enlarged
+    bool upright = true;  // turned as its EXIF orientation says; raw files are at any rate
 };
 
 }  // namespace varnel

@@ -174,6 +174,15 @@ class TiffWalk {
             }
         }
     }
+    void NoteOrientation(const std::vector<Entry>& entries) {
+        const std::vector<std::uint64_t> told = Values(entries, Orientation);
+        if (told.size() != 1 || told.front() > 8 || told.front() == 0) {
+            return;
+        }
+        const auto entry = std::ranges::find(entries, Orientation, &Entry::tag);
+        facts_.orientation = static_cast<int>(told.front());
+        facts_.orientationPlace = entry->place + (bigEndian_ ? typeBytes[entry->type] - 1 : 0);
+    }
     void Note(const std::vector<Entry>& entries, bool first) {
         for (const Tag tag : {SubDirectories, ExifDirectory}) {
             for (const std::uint64_t place : Values(entries, tag)) {
@@ -187,9 +196,8 @@ class TiffWalk {
         // Two fractions of eight bytes, across and down.
         const std::vector<std::uint64_t> scale = Values(entries, DefaultScale);
         facts_.isEven = facts_.isEven && (scale.size() < 2 || scale[0] == scale[1]);
-        const std::vector<std::uint64_t> turn = Values(entries, Orientation);
-        if (first && !turn.empty()) {
-            facts_.isTurned = turn.front() >= 5 && turn.front() <= 8;
+        if (first) {
+            NoteOrientation(entries);
         }
         const auto profile = std::ranges::find(entries, ColourProfile, &Entry::tag);
         if (first && profile != entries.end() && typeBytes[profile->type] == 1) {

@@ -14,9 +14,10 @@
 namespace varnel {
 
 struct TiffFacts {
-    bool isCut = false;     // a directory, a value or pixel data lies beyond the file's end
-    bool isDng = false;     // a raw photo; as a plain TIFF it would show a thumbnail
-    bool isTurned = false;  // width and height change places when it is developed
+    bool isCut = false;   // a directory, a value or pixel data lies beyond the file's end
+    bool isDng = false;   // a raw photo; as a plain TIFF it would show a thumbnail
+    int orientation = 1;  // of the first directory, as EXIF counts
+    std::int64_t orientationPlace = 0;  // of its lowest byte; 0 when there is none
     // Places of the numbers of tags that the library must not see: big-endian IPTC takes it down,
     // it turns round four times the bytes that are there.
     std::vector<std::int64_t> deadlyTags{};

@@ -87,7 +87,7 @@ class Run : private RenderProgress {
     }
 
     void LoadedConvert(ImageRecord& entry) {
-        TakeSize(SizeOf(source_.bitmap.get()), entry);
+        TakeSize({SizeOf(source_.bitmap.get()), source_.orientation}, entry);
         turn_.damage = source_.reason;
         turn_.path = BatchPath(entry, choices_);
         if (writing_ && MayBeSameFile(writing_->path, turn_.path)) {

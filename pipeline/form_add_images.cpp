@@ -11,14 +11,14 @@
 namespace varnel {
 
 FormAddImages::FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& store,
-                             Notices& notices, const PhotoPlaces& places, PictureReader& reader,
-                             QWidget* parent)
+                             Notices& notices, const PhotoPlaces& places,
+                             const SmallPictures& pictures, QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormAddImages>()),
       images_(images),
       store_(store),
       places_(places),
-      reader_(reader) {
+      pictures_(pictures) {
     ui_->setupUi(this);
     place_ = std::make_unique<FolderChooser>(*ui_->Drive1, *ui_->Dir1, notices, places_.volumes);
     SetUpFiles();
@@ -122,15 +122,17 @@ QSize FormAddImages::CellSize() const {
 
 void FormAddImages::Begin(const QString& fileName) {
     const QSize box = ui_->File1->iconSize() * devicePixelRatioF();
-    reader_.Begin(
-        {QDir(place_->Folder()).filePath(fileName), ReadKind::Small, {box.width(), box.height()}});
+    pictures_.reader.Begin({QDir(place_->Folder()).filePath(fileName),
+                            ReadKind::Small,
+                            {box.width(), box.height()},
+                            pictures_.upright});
 }
 
 std::optional<QImage> FormAddImages::Take() {
-    if (!reader_.Wait(0)) {
+    if (!pictures_.reader.Wait(0)) {
         return std::nullopt;
     }
-    QImage image = ImageOf(reader_.Take().bitmap.get());
+    QImage image = ImageOf(pictures_.reader.Take().bitmap.get());
     image.setDevicePixelRatio(devicePixelRatioF());
     return image;
 }

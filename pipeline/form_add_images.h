@@ -28,13 +28,20 @@ struct PhotoPlaces {
     FolderChooser::Volumes volumes;
 };
 
-// Accepted when photos were added to the images. The reader is the dialog's alone while it lives.
+// How the small pictures are read; the reader is the dialog's alone while it lives.
+struct SmallPictures {
+    PictureReader& reader;
+    bool upright = true;
+};
+
+// Accepted when photos were added to the images.
 class FormAddImages : public QDialog, private PreviewMaker {
     Q_OBJECT
 
   public:
     FormAddImages(RecordArray<ImageRecord>& images, SettingsStore& store, Notices& notices,
-                  const PhotoPlaces& places, PictureReader& reader, QWidget* parent = nullptr);
+                  const PhotoPlaces& places, const SmallPictures& pictures,
+                  QWidget* parent = nullptr);
     ~FormAddImages() override;
 
   protected:
@@ -56,13 +63,13 @@ class FormAddImages : public QDialog, private PreviewMaker {
 
     void Begin(const QString& fileName) override;
     std::optional<QImage> Take() override;
-    void Cancel() override { reader_.Cancel(); }
+    void Cancel() override { pictures_.reader.Cancel(); }
 
     std::unique_ptr<Ui::FormAddImages> ui_;
     RecordArray<ImageRecord>& images_;
     SettingsStore& store_;
     PhotoPlaces places_;
-    PictureReader& reader_;  // for the small pictures alone
+    SmallPictures pictures_;
     std::unique_ptr<FolderChooser> place_;
     std::unique_ptr<IdlePreviews> previews_;
 };

@@ -225,7 +225,7 @@ void FormBatch::Process() {
     progress_->Start(queue_.UpperBound());
     ShowRunning(true);
     EventsMeanwhile wait;
-    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait);
+    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait, settings_.AutoOrient);
     const BatchSummary summary = RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
     ShowRunning(false);
     progress_->Stop();

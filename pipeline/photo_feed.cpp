@@ -16,8 +16,8 @@ constexpr int mostReaders = 4;        // each may hold a whole picture
 
 }  // namespace
 
-PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait)
-    : first_(reader), wait_(wait) {
+PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright)
+    : first_(reader), wait_(wait), upright_(upright) {
     for (int n = 0; n < more && reader.IsApart(); ++n) {
         more_.push_back(NewPictureReader());
     }
@@ -53,7 +53,7 @@ PictureReader* PhotoFeed::FreeReader() const {
 void PhotoFeed::ReadAhead(const QString& path) {
     if (PictureReader* const reader = FreeReader()) {
         underWay_.push_back({path, reader});
-        reader->Begin({path, ReadKind::Whole, {}});
+        reader->Begin({path, ReadKind::Whole, {}, upright_});
     }
 }
 

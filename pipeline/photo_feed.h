@@ -15,8 +15,9 @@ namespace varnel {
 class PhotoFeed {
   public:
     // Each reader reads one photo at a time; the first is somebody else's, who does not use it
-    // meanwhile. As many more are started as further photos shall be read at once.
-    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait);
+    // meanwhile. As many more are started as further photos shall be read at once. Upright:
+    // turned as their EXIF orientation says.
+    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright = true);
     // Gives up what was read ahead and not taken.
     ~PhotoFeed();
     PhotoFeed(const PhotoFeed&) = delete;
@@ -43,6 +44,7 @@ class PhotoFeed {
     PictureReader& first_;
     std::vector<std::unique_ptr<PictureReader>> more_;
     ReadingWait& wait_;
+    bool upright_;
     std::deque<UnderWay> underWay_;
 };
 

@@ -3,6 +3,8 @@
 
 #include "pipeline/photo_loader.h"
 
+#include "state/gear_assignment.h"
+
 namespace varnel {
 
 void PhotoLoader::BeginWait(const QString& path) {
@@ -25,11 +27,12 @@ bool PhotoLoader::Continue() {
     return !givenUp_;
 }
 
-LoadedPicture PhotoLoader::Read(const ReadRequest& request) {
+LoadedPicture PhotoLoader::Read(ReadRequest request) {
     if (reading_) {
         return LoadedPicture::Refused(QStringLiteral("another photo is being read"));
     }
     reading_ = true;
+    request.upright = settings_ == nullptr || settings_->AutoOrient;
     BeginWait(request.path);
     LoadedPicture picture = ReadPicture(reader_, request, [this] { return Continue(); });
     EndWait();
@@ -41,21 +44,27 @@ LoadedPicture PhotoLoader::Load(const QString& path) {
     return Read({path, ReadKind::Whole, {}});
 }
 
-std::optional<PixelSize> PhotoLoader::Size(const QString& path) {
+std::optional<PhotoSize> PhotoLoader::Size(const QString& path) {
     const LoadedPicture picture = Read({path, ReadKind::Size, {}});
-    return picture.outcome == LoadOutcome::NotLoaded ? std::nullopt : std::optional(picture.size);
+    return picture.outcome == LoadOutcome::NotLoaded
+               ? std::nullopt
+               : std::optional(PhotoSize{picture.size, picture.orientation});
 }
 
 PhotoFacts PhotoLoader::Facts(const QString& path) {
-    const LoadedPicture picture = Load(path);
-    return picture.bitmap ? PhotoFacts{MetadataOf(picture.bitmap.get()), {}}
-                          : PhotoFacts{{}, picture.reason};
+    LoadedPicture picture = Read({path, ReadKind::Facts, {}});
+    return picture.outcome == LoadOutcome::NotLoaded ? PhotoFacts{{}, picture.reason}
+                                                     : PhotoFacts{std::move(picture.facts), {}};
 }
 
-void TakeSize(PixelSize size, ImageRecord& image) {
-    image.Width = static_cast<std::int16_t>(size.width);
-    image.Height = static_cast<std::int16_t>(size.height);
-    image.Landscape = size.width >= size.height;
+void TakeSize(const PhotoSize& size, ImageRecord& image) {
+    if (image.Width != 0) {
+        TurnCentre(image, size.orientation);
+    }
+    image.Width = static_cast<std::int16_t>(size.pixels.width);
+    image.Height = static_cast<std::int16_t>(size.pixels.height);
+    image.Landscape = size.pixels.width >= size.pixels.height;
+    image.Orientation = static_cast<std::int16_t>(size.orientation);
 }
 
 }  // namespace varnel

@@ -9,6 +9,7 @@
 
 #include "decoder/picture_reader.h"
 #include "remap/photo_metadata.h"
+#include "state/general_settings.h"
 #include "state/image_record.h"
 
 namespace varnel {
@@ -30,10 +31,18 @@ struct PhotoFacts {
     QString trouble;  // why nothing can be told; empty when all is well
 };
 
+// Of the full picture as it is shown.
+struct PhotoSize {
+    PixelSize pixels{};
+    int orientation = 1;  // of the picture as it is stored, which was undone
+};
+
 class PhotoLoader {
   public:
-    explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr)
-        : reader_(reader), wait_(wait) {}
+    // Photos are turned upright as the settings say at that moment; without settings, always.
+    explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr,
+                         const GeneralSettings* settings = nullptr)
+        : reader_(reader), wait_(wait), settings_(settings) {}
 
     // Several photos are waited for as for one while this lives.
     class Together {
@@ -54,24 +63,26 @@ class PhotoLoader {
     // The full picture. Not loaded while another one is read: events are handled meanwhile.
     LoadedPicture Load(const QString& path);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
-    std::optional<PixelSize> Size(const QString& path);
+    std::optional<PhotoSize> Size(const QString& path);
     // What the file says beside its pixels.
     PhotoFacts Facts(const QString& path);
 
   private:
-    LoadedPicture Read(const ReadRequest& request);
+    LoadedPicture Read(ReadRequest request);
     bool Continue();
     void BeginWait(const QString& path);
     void EndWait();
 
     PictureReader& reader_;
     ReadingWait* wait_;
+    const GeneralSettings* settings_;
     int waits_ = 0;
     bool reading_ = false;
     bool givenUp_ = false;
 };
 
-// Sets Width, Height and Landscape of the record from the size of the full picture.
-void TakeSize(PixelSize size, ImageRecord& image);
+// Sets Width, Height, Landscape and Orientation of the record. When it was loaded with another
+// orientation before, the circle's centre moves with the picture.
+void TakeSize(const PhotoSize& size, ImageRecord& image);
 
 }  // namespace varnel

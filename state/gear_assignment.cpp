@@ -73,9 +73,8 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     image.EffectVarnel = 100.0F;
     image.EffectRectilinear = 100.0F;
     CopyGear(gear, image);
-    const CentreOffset stored = IsStoredInLandscape(image)
-                                    ? CentreOffset{gear.OfsetX, gear.OfsetY}
-                                    : CentreOffset{gear.OfsetY, gear.OfsetX};
+    const CentreOffset stored = IsStoredInLandscape(image) ? CentreOffset{gear.OfsetX, gear.OfsetY}
+                                                           : CentreOffset{gear.OfsetY, gear.OfsetX};
     SetCentre(Turned(stored, image.Orientation), image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = image.InputAOV > widestOutputAov ? widestOutputAov : image.InputAOV;
@@ -97,6 +96,7 @@ void CopySettings(const ImageRecord& from, ImageRecord& to) {
     changed.Folder = to.Folder;
     changed.FileName = to.FileName;
     changed.NameSuffix = to.NameSuffix;
+    changed.Orientation = to.Orientation;
     to = std::move(changed);
 }
 

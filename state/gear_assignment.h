@@ -14,7 +14,8 @@ namespace varnel {
 
 // Copies the gear's names and numbers and resets angles of view and effects to the gear's defaults;
 // rotation and translation stay. The gear's centre is meant for a picture stored in landscape: for
-// one stored upright its offsets change places, and then they turn with the picture. A record whose settings were applied is left alone: false.
+// one stored upright its offsets change places, and then they turn with the picture. A record whose
+// settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
 
 // The circle's centre beside the picture's: thousandths of width and height, positive to the right

@@ -51,6 +51,7 @@ struct ImageRecord {
     QString Folder;                  // without a trailing separator; the root is the empty text
     QString FileName;                // with extension
     QString NameSuffix;              // tells the frames of a morph sequence apart
+    std::int16_t Orientation = 1;    // EXIF orientation that was undone on loading
 
     // Settings of later versions, as they were found in a picture: written back as they are.
     QMap<QString, QString> FurtherSettings;

@@ -61,9 +61,10 @@ constexpr std::array fields{
     VARNEL_FIELD(Folder),
     VARNEL_FIELD(FileName),
     VARNEL_FIELD(NameSuffix),
+    VARNEL_FIELD(Orientation),
 };
 #undef VARNEL_FIELD
-static_assert(fields.size() == 34);
+static_assert(fields.size() == 35);
 
 std::optional<std::int16_t> Parse(const QString& text, std::int16_t /*kind*/) {
     using Limits = std::numeric_limits<std::int16_t>;

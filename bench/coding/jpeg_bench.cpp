@@ -70,8 +70,8 @@ void DecodeDirectly(benchmark::State& state) {
     const BitmapHandle bitmap = NewBitmap(pictureSize);
     for (auto _ : state) {
         if (!ReadJpegPixels(file.get(), pictureSize,
-                            reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap.get())),
-                            FreeImage_GetPitch(bitmap.get()))) {
+                            {reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap.get())),
+                             FreeImage_GetPitch(bitmap.get())})) {
             state.SkipWithError("not decoded");
         }
     }

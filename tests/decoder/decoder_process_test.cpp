@@ -253,12 +253,21 @@ TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
         [](DecoderAnswer& a) { a.pitch = 0x80000130; },
         [](DecoderAnswer& a) { a.extrasLength = 21; },
         [](DecoderAnswer& a) { a.extrasLength = ~std::uint64_t{0} - 15'000; },
+        [](DecoderAnswer& a) { a.orientation = 0; },
+        [](DecoderAnswer& a) { a.orientation = 9; },
         [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; }};
     for (std::size_t n = 0; n < std::size(spoil); ++n) {
         DecoderAnswer spoilt = good;
         spoil[n](spoilt);
         EXPECT_FALSE(Believable(spoilt, request, length)) << n;
     }
+    DecoderRequest asStored = request;
+    asStored.upright = false;
+    EXPECT_TRUE(Believable(good, asStored, length));
+    DecoderAnswer turned = good;
+    turned.orientation = 8;
+    EXPECT_TRUE(Believable(turned, request, length));
+    EXPECT_FALSE(Believable(turned, asStored, length));
     DecoderRequest small = request;
     small.kind = ReadKind::Small;
     small.box = {100, 100};

@@ -67,9 +67,10 @@ std::optional<Photo> Directly(QByteArray bytes) {
     }
     const LibraryMessages said;
     Photo photo{NewBitmap(*size), {}, {}, {}};
-    BitmapHandle metadata = ReadJpegPixels(
-        file.get(), *size, reinterpret_cast<std::byte*>(FreeImage_GetBits(photo.bitmap.get())),
-        FreeImage_GetPitch(photo.bitmap.get()));
+    BitmapHandle metadata =
+        ReadJpegPixels(file.get(), *size,
+                       {reinterpret_cast<std::byte*>(FreeImage_GetBits(photo.bitmap.get())),
+                        FreeImage_GetPitch(photo.bitmap.get())});
     if (!metadata) {
         EXPECT_TRUE(said.Lines().isEmpty());
         return std::nullopt;
@@ -188,7 +189,7 @@ TEST(ReadJpegPixels, TakesRedGreenBlueAndLeavesOtherColoursAndCodings) {
     ExpectAsByLibrary(arithmetic, Wanted::Left);
     QByteArray bytes = bare;
     std::array<std::byte, 64 * 3 * 43> rows{};
-    EXPECT_FALSE(ReadJpegPixels(Opened(bytes).get(), {60, 43}, rows.data(), 64 * 3));
+    EXPECT_FALSE(ReadJpegPixels(Opened(bytes).get(), {60, 43}, {rows.data(), 64 * 3}));
 }
 
 TEST(ReadJpegPixels, SeesTheDamageThatTheLibrarySees) {

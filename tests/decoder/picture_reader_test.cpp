@@ -111,7 +111,7 @@ TEST(TakeSize, LandscapeIsWidthAtLeastHeight) {
     for (const auto& [width, height, landscape] :
          {std::tuple{60, 40, true}, {40, 60, false}, {50, 50, true}}) {
         ImageRecord image;
-        TakeSize({width, height}, image);
+        TakeSize({{width, height}}, image);
         EXPECT_EQ(image.Width, width);
         EXPECT_EQ(image.Height, height);
         EXPECT_EQ(image.Landscape, landscape);

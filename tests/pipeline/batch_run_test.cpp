@@ -293,7 +293,7 @@ class RealRun : public ::testing::Test {
     QByteArray Single(ImageRecord entry) const {
         Bitmaps bitmaps;
         bitmaps.FullSourceBitmap = testing::LoadPicture(SourcePath(entry)).bitmap;
-        TakeSize(SizeOf(bitmaps.FullSourceBitmap.get()), entry);
+        TakeSize({SizeOf(bitmaps.FullSourceBitmap.get())}, entry);
         SilentProgress silent;
         RenderDesk desk{bitmaps};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);

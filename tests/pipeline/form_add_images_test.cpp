@@ -53,7 +53,7 @@ class FormAddImagesTest : public ::testing::Test {
     void Open() {
         form = std::make_unique<FormAddImages>(
             images, store, notices, PhotoPlaces{A(), B(), Photos(), [this] { return volumes; }},
-            testing::Reader());
+            SmallPictures{testing::Reader()});
         form->show();
     }
     template <class Control>

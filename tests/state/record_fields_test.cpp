@@ -18,7 +18,7 @@ TEST(FieldNames, ListsAllFieldsInTheRecordsOrder) {
             "CameraData1 CameraData2 LensBrand LensModel ImageCircleRadius LensShift "
             "LensData3 LensMapScale LensMapFactor Projection SettingsApplied OfsetX OfsetY "
             "Ratio InputAOV OutputAOV EffectVarnel EffectRectilinear RotateX RotateY RotateZ "
-            "TranslateX TranslateY Folder FileName NameSuffix"));
+            "TranslateX TranslateY Folder FileName NameSuffix Orientation"));
 }
 
 // A field whose row points at another member would set two names to one place.
@@ -26,7 +26,7 @@ TEST(SetField, ReachesADifferentMemberByEveryName) {
     std::vector<ImageRecord> seen{ImageRecord()};
     for (const QString& name : FieldNames()) {
         ImageRecord image;
-        EXPECT_EQ(SetField(image, name, QStringLiteral("1")), FieldResult::Ok)
+        EXPECT_EQ(SetField(image, name, QStringLiteral("-1")), FieldResult::Ok)
             << name.toStdString();
         EXPECT_EQ(std::count(seen.begin(), seen.end(), image), 0) << name.toStdString();
         seen.push_back(image);

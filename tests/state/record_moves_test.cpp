@@ -94,6 +94,37 @@ TEST(AssignGear, TurnsOffsetsAndTakesTheVerticalAngleForAnUprightFrame) {
     EXPECT_EQ(image.SensorWidth, 36.0F);  // the sensor itself stays in landscape
 }
 
+// The gear's centre lies 5 to the right and 7 above the middle of a picture in landscape. Each row
+// but the first of each half is what becomes of the first one's.
+TEST(AssignGear, TurnsOffsetsWithThePicture) {
+    const struct {
+        bool storedLandscape;
+        std::int16_t orientation;
+        float x, y;
+    } rows[] = {{true, 1, 5, -7},  {true, 2, -5, -7},  {true, 3, -5, 7},  {true, 4, 5, 7},
+                {true, 5, -7, 5},  {true, 6, 7, 5},    {true, 7, 7, -5},  {true, 8, -7, -5},
+                {false, 1, -7, 5}, {false, 2, 7, 5},   {false, 3, 7, -5}, {false, 4, -7, -5},
+                {false, 5, 5, -7}, {false, 6, -5, -7}, {false, 7, -5, 7}, {false, 8, 5, 7}};
+    for (const auto& row : rows) {
+        ImageRecord image = SomeImage(row.storedLandscape == (row.orientation < 5));
+        image.Width = image.Landscape ? 600 : 400;
+        image.Height = image.Landscape ? 400 : 600;
+        image.Orientation = row.orientation;
+        AssignGear(SomeGear(), image);
+        EXPECT_EQ(image.OfsetX, row.x) << row.storedLandscape << row.orientation;
+        EXPECT_EQ(image.OfsetY, row.y) << row.storedLandscape << row.orientation;
+        EXPECT_EQ(image.InputAOV, image.Landscape ? 180.0F : 120.0F);
+        for (const auto& other : rows) {
+            if (other.storedLandscape == row.storedLandscape) {
+                ImageRecord again = image;
+                TurnCentre(again, other.orientation);
+                EXPECT_EQ(again.OfsetX, other.x) << row.orientation << other.orientation;
+                EXPECT_EQ(again.OfsetY, other.y) << row.orientation << other.orientation;
+            }
+        }
+    }
+}
+
 TEST(AssignGear, LimitsTheOutputAngleOnlyAboveItsLimit) {
     for (const auto& [input, output] :
          {std::pair{130.0F, 130.0F}, {130.5F, 130.0F}, {129.5F, 129.5F}}) {
@@ -130,6 +161,7 @@ TEST(ApplyGearToAll, NotesTheNameAndReopensEveryRecord) {
 TEST(ApplySettingsToAll, CopiesAllButSizeFileAndSuffixAndKeepsOffsetsUnturned) {
     RecordArray<ImageRecord> images;
     ImageRecord upright;
+    upright.Orientation = 6;
     upright.Width = 40;
     upright.Height = 60;
     upright.Folder = QStringLiteral("elsewhere");
@@ -147,6 +179,7 @@ TEST(ApplySettingsToAll, CopiesAllButSizeFileAndSuffixAndKeepsOffsetsUnturned) {
     expected.Folder = upright.Folder;
     expected.FileName = upright.FileName;
     expected.NameSuffix = QString();
+    expected.Orientation = 6;
     ApplySettingsToAll(images, 2);
     EXPECT_EQ(images(1), expected);
     EXPECT_EQ(images(2), source);

@@ -164,7 +164,7 @@ class WindowDesk {
     FakeChooser chooser;
     FakeDialogs dialogs;
     SlowReader reader;
-    PhotoLoader photos{reader};
+    PhotoLoader photos{reader, nullptr, &state.settings};
     MDIForm1 window;
 };
 

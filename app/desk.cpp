@@ -291,6 +291,17 @@ void Desk::ChooseGear() {
     Preview();
 }
 
+void Desk::UseGear(int gear) {
+    if (Busy() || Current() == nullptr || gear < 1 || gear > state_.Gear.UpperBound()) {
+        return;
+    }
+    ImageRecord& image = *Current();
+    image.SettingsApplied = false;
+    AssignGear(state_.Gear(gear), image);
+    ShowInControls(image);
+    Preview();
+}
+
 void Desk::ApplyGear() {
     ApplyGearToAll(state_.Images, view_.ChosenGearName());
 }

@@ -74,8 +74,9 @@ class Desk {
     void StoreControls(bool withPreview);
     // The gear selector was used: gives its gear to the selected photos.
     void ChooseGear();
-    void ApplyGear();      // to all
-    void ApplySettings();  // of the current photo, to all
+    void UseGear(int gear);  // of the table, for the current photo
+    void ApplyGear();        // to all
+    void ApplySettings();    // of the current photo, to all
 
     void ImagesAdded();
     // Dropped files. For a picture that Varnel made of a photo, that photo with the settings that

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "app/desk.h"
+#include "gear/gear_catalogue.h"
 #include "gear/gear_store.h"
 
 namespace varnel {
@@ -21,6 +22,8 @@ class Dialogs {
     // True when photos were added to the image list.
     virtual bool AddImages(QWidget* parent) = 0;
     virtual void ManageGears(QWidget* parent) = 0;
+    // With camera and lens chosen beforehand. True when the gear was added to the table.
+    virtual bool DefineGear(const GearNames& names, QWidget* parent) = 0;
     virtual void ChangeDefaults(QWidget* parent) = 0;
     virtual void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) = 0;
     // For a photo that is prepared as for the queue.

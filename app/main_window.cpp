@@ -98,7 +98,9 @@ void MDIForm1::BuildStatus() {
     parts_.bar->setAccessibleName(tr("Progress"));
     parts_.bar->setTextVisible(false);
     parts_.bar->setMaximumSize(240, 12);
-    statusBar()->addWidget(parts_.status, 1);
+    parts_.offer = new GearOfferRow(this);
+    statusBar()->addWidget(parts_.status);
+    statusBar()->addWidget(parts_.offer, 1);
     statusBar()->addPermanentWidget(parts_.bar);
 }
 

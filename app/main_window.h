@@ -62,6 +62,8 @@ class MDIForm1 : public QMainWindow {
 
     void AddImages();
     void ManageGears();
+    void TakeOffer();
+    void ShowGears();
     void ChangeDefaults();
     void ShowAbout();
     void Quit();

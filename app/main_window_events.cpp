@@ -28,6 +28,7 @@ void MDIForm1::ConnectControls() {
     click(parts_.save->SaveAs(), [this] { SaveAs(); });
     click(parts_.save->AddToQueue(), [this] { QueueAll(); });
     click(parts_.save->ProcessQueue(), [this] { ProcessBatch(); });
+    click(parts_.offer->Button(), [this] { TakeOffer(); });
     connect(parts_.equipment->Gears(), &QComboBox::activated, this,
             [this] { desk_->ChooseGear(); });
     connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
@@ -171,14 +172,29 @@ void MDIForm1::RemoveImages() {
 
 void MDIForm1::ManageGears() {
     ports_.dialogs.ManageGears(this);
+    ShowGears();
+}
+
+void MDIForm1::TakeOffer() {
+    const GearOffer offer = parts_.offer->Offer();
+    if (offer.gear > 0) {
+        desk_->UseGear(offer.gear);
+    } else if (!desk_->Busy() && ports_.dialogs.DefineGear(offer.names, this)) {
+        ShowGears();
+    }
+}
+
+void MDIForm1::ShowGears() {
     const ImageRecord* const image = desk_->Current();
     parts_.equipment->Fill(state_.Gear,
                            image != nullptr ? image->GearName : state_.Gear.DefaultGearName);
+    view_->ShowOffer();
 }
 
 void MDIForm1::ChangeDefaults() {
     ports_.dialogs.ChangeDefaults(this);
     parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
+    view_->ShowOffer();
     if (desk_->RebuildThumbnail()) {
         desk_->Preview();
     }

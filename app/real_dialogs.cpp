@@ -12,6 +12,7 @@
 #include "app/message_boxes.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
+#include "gear/gear_list.h"
 #include "pipeline/form_add_images.h"
 #include "pipeline/form_batch.h"
 #include "pipeline/form_morph.h"
@@ -42,6 +43,19 @@ void RealDialogs::ManageGears(QWidget* parent) {
         },
         parent);
     form.exec();
+}
+
+bool RealDialogs::DefineGear(const GearNames& names, QWidget* parent) {
+    state_.Gear(0) = GearRecord();
+    FormGearEdit form(state_.Gear, parent);
+    form.Preselect(names);
+    form.exec();
+    if (state_.Gear(0).GearName.isEmpty()) {
+        return false;
+    }
+    AddEditedGear(state_.Gear);
+    SaveGear(store_, state_.Gear);
+    return true;
 }
 
 void RealDialogs::ChangeDefaults(QWidget* parent) {

@@ -22,6 +22,7 @@ class RealDialogs : public Dialogs {
           fileChooser_(fileChooser) {}
     bool AddImages(QWidget* parent) override;
     void ManageGears(QWidget* parent) override;
+    bool DefineGear(const GearNames& names, QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
     void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) override;
     void Morph(const ImageRecord& image, const QueueChanged& queueChanged,

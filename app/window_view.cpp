@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <cmath>
 
+#include "remap/photo_metadata.h"
+
 namespace varnel {
 
 namespace {
@@ -37,9 +39,23 @@ void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
         const QSignalBlocker blocker(parts_.list->List());
         parts_.list->List()->setCurrentRow(images.Empty() ? -1 : line);
     }
+    ShowOffer();
     if (whenListShown_) {
         whenListShown_();
     }
+}
+
+void WindowView::ShowOffer() {
+    GearOffer offer;
+    const int n = CurrentLine() + 1;
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    if (state_.settings.OfferGear && photo != nullptr && n >= 1 &&
+        n <= state_.Images.UpperBound()) {
+        const ImageRecord& image = state_.Images(n);
+        offer = OfferFor(MetadataOf(photo).origin, state_.Gear,
+                         {image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel});
+    }
+    parts_.offer->Show(offer, state_.Gear);
 }
 
 void WindowView::ShowRecord(const ImageRecord& image) {
@@ -52,6 +68,7 @@ void WindowView::ShowRecord(const ImageRecord& image) {
     const int current = CurrentLine();
     if (current >= 0 && &image == &state_.Images(current + 1)) {
         window_->setWindowTitle(image.FileName + QStringLiteral(" - Varnel"));
+        ShowOffer();
     }
 }
 
@@ -70,6 +87,7 @@ void WindowView::Lock(bool on) {
     }
     progress_.LetInputThrough(on);
     parts_.column->setEnabled(!on);
+    parts_.offer->setEnabled(!on);
     window_->menuBar()->setEnabled(!on);
     for (QAction* const action : window_->findChildren<QAction*>()) {
         // Shortcuts work beside a disabled menu bar. Exit waits like a click on the window's cross.

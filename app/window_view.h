@@ -11,6 +11,7 @@
 
 #include "app/adjustment_panel.h"
 #include "app/desk.h"
+#include "app/gear_offer_row.h"
 #include "app/picture_box.h"
 #include "app/side_panels.h"
 #include "app/window_progress.h"
@@ -22,6 +23,7 @@ struct WindowParts {
     EquipmentPanel* equipment = nullptr;
     ImageListPanel* list = nullptr;
     SavePanel* save = nullptr;
+    GearOfferRow* offer = nullptr;
     PictureArea* pictures = nullptr;
     QWidget* column = nullptr;  // the whole side column
     QProgressBar* bar = nullptr;
@@ -59,6 +61,9 @@ class WindowView : public DeskView {
             whenIdle_();
         }
     }
+
+    // What took the current photo, once it is loaded.
+    void ShowOffer();
 
     bool Locked() const { return locked_; }
     // Called when a conversion or a load is over.

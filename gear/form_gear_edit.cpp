@@ -57,6 +57,16 @@ FormGearEdit::FormGearEdit(GearTable& table, QWidget* parent)
 
 FormGearEdit::~FormGearEdit() = default;
 
+void FormGearEdit::Preselect(const GearNames& names) {
+    SelectNames(names);
+    Choose();
+    if (BothChosen()) {
+        ui_->CmdAdd->setFocus();
+    } else {
+        ui_->LensBrandCombo->setFocus();
+    }
+}
+
 // Also for Escape and for the window's close button.
 void FormGearEdit::reject() {
     table_(0).GearName.clear();

@@ -32,6 +32,8 @@ class FormGearEdit : public QDialog {
     explicit FormGearEdit(GearTable& table, QWidget* parent = nullptr);
     ~FormGearEdit() override;
 
+    // Chooses camera and lens of a new gear, as far as they are named.
+    void Preselect(const GearNames& names);
     void reject() override;
 
   protected:

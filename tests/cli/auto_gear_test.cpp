@@ -10,9 +10,7 @@
 #include "cli/convert.h"
 #include "gear/gear_catalogue.h"
 #include "gear/gear_store.h"
-#include "tests/support/file_bytes.h"
-#include "tests/support/files.h"
-#include "tests/support/jpeg_files.h"
+#include "tests/support/taken_photos.h"
 
 namespace varnel {
 namespace {
@@ -24,22 +22,6 @@ QString Q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-QByteArray TextField(const char* text) {
-    return QByteArray(text) + '\0';
-}
-
-// Puts EXIF into a JPEG file.
-void Tell(const QString& photo, const char* model, const char* lens) {
-    using enum testing::TiffType;
-    testing::TiffBytes tiff(testing::Order::Little);
-    const std::uint32_t exif = tiff.Directory({{0xa434, Text, {}, TextField(lens)}});
-    const std::uint32_t first = tiff.Directory({{271, Text, {}, TextField("NIKON CORPORATION")},
-                                                {272, Text, {}, TextField(model)},
-                                                {0x8769, Long, {exif}}});
-    const QByteArray block = QByteArray("Exif\0\0", 6) + tiff.Finish(first);
-    testing::WriteFile(photo, Contents(photo).insert(2, testing::JpegSegment(0xE1, block)));
-}
-
 TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
     testing::PictureFolder files;
     const struct {
@@ -49,7 +31,7 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
                   {"zoom.jpg", "NIKON D50", "24.0-70.0 mm f/2.8"},
                   {"compact.jpg", "E5700", ""}};
     for (const auto& photo : photos) {
-        Tell(files.Picture(Q(photo.file), FIF_JPEG), photo.model, photo.lens);
+        testing::TakenByNikon(files, Q(photo.file), photo.model, photo.lens);
     }
     MemoryStore store;
     GearTable gears;

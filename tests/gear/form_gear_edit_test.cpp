@@ -87,6 +87,21 @@ class GearEditor : public ::testing::Test {
     std::unique_ptr<FormGearEdit> form_;
 };
 
+// What is only offered is the user's to confirm.
+TEST_F(GearEditor, BeginsWithTheCameraAndLensThatAreKnown) {
+    Open();
+    form_->Preselect({QStringLiteral("Olympus"), QStringLiteral("E-3"), {}, {}});
+    EXPECT_EQ(Get<QComboBox>("CameraCombo")->currentText(), u"E-3");
+    EXPECT_EQ(Get<QComboBox>("LensBrandCombo")->currentIndex(), -1);
+    EXPECT_FALSE(Get<QPushButton>("CmdAdd")->isEnabled());
+    form_->Preselect({QStringLiteral("Olympus"), QStringLiteral("E-3"), QStringLiteral("Olympus"),
+                      QStringLiteral("Zuiko ED 8mm f/3.5")});
+    EXPECT_EQ(Labels(), "131 \u00b0|76 %|0 \u2030 hor.|0 \u2030 vert.");
+    EXPECT_TRUE(Gear().GearName.isEmpty());
+    Click("CmdAdd");
+    EXPECT_EQ(Gear().GearName, u"Olympus E-3 + Olympus Zuiko ED 8mm f/3.5");
+}
+
 TEST_F(GearEditor, HasEveryControl) {
     Open();
     EXPECT_EQ(form_->objectName(), u"FormGearEdit");

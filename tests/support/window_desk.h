@@ -57,6 +57,10 @@ class FakeDialogs : public Dialogs {
     void ManageGears(QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormGearList"));
     }
+    bool DefineGear(const GearNames& names, QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormGearEdit"));
+        return onDefine && onDefine(names);
+    }
     void ChangeDefaults(QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormSetup"));
         if (onDefaults) {
@@ -84,6 +88,7 @@ class FakeDialogs : public Dialogs {
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
     QStringList opened;
     std::function<bool()> onAdd;
+    std::function<bool(const GearNames&)> onDefine;
     std::function<void()> onDefaults;
     std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
     ImageRecord morphed;

@@ -183,7 +183,7 @@ bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientati
         return decoder.Rows(rows, static_cast<JDIMENSION>(size.height));
     }
     // While they are in the cache; in whole blocks of the coding.
-    constexpr std::int32_t bandRows = 32;
+    constexpr std::int32_t bandRows = 64;
     const std::size_t pitch = RowPitch(size.width);
     std::vector<std::byte> decoded(pitch * bandRows);
     const PixelRows band{decoded.data(), pitch};

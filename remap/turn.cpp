@@ -4,6 +4,7 @@
 #include "remap/turn.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace varnel {
@@ -11,8 +12,7 @@ namespace varnel {
 namespace {
 
 constexpr std::ptrdiff_t pixelBytes = 3;
-// Pixels; a block's rows of both pictures fit the first cache.
-constexpr std::int32_t blockSide = 32;
+constexpr std::int32_t tileSide = 64;  // pixels
 
 // Where the stored picture's pixels go: the one at the left end of the bottom row, and how far
 // apart neighbours in a row and in a column come to lie.
@@ -43,18 +43,53 @@ Places PlacesFor(PixelSize size, int orientation, PixelRows turned) {
     return places;
 }
 
-void CopyRun(const std::byte* from, std::ptrdiff_t fromStep, std::byte* to, std::ptrdiff_t toStep,
-             std::int32_t count) {
-    if (fromStep == pixelBytes && toStep == pixelBytes) {
-        std::memcpy(to, from, static_cast<std::size_t>(count * pixelBytes));
+void CopyRow(const std::byte* from, std::byte* to, std::ptrdiff_t step, std::int32_t count) {
+    if (step == pixelBytes) {
+        std::memcpy(to, from, static_cast<std::size_t>(count) * pixelBytes);
         return;
     }
     for (std::int32_t i = 0; i < count; ++i) {
         std::memcpy(to, from, pixelBytes);
-        from += fromStep;
-        to += toStep;
+        from += pixelBytes;
+        to += step;
     }
 }
+
+// A part of a band, for rows that become columns: rows of a bitmap may lie so far apart that they
+// drive each other out of the cache.
+class Tile {
+  public:
+    void Take(PixelRows source, std::int32_t x, std::int32_t row, std::int32_t columns,
+              std::int32_t rows) {
+        rows_ = rows;
+        for (std::int32_t i = 0; i < rows; ++i) {
+            std::memcpy(
+                &bytes_[static_cast<std::size_t>(i * pitch)],
+                source.bottom + static_cast<std::size_t>(row + i) * source.pitch + x * pixelBytes,
+                static_cast<std::size_t>(columns) * pixelBytes);
+        }
+    }
+    // The tile's column to a row: its bottom pixel to that place.
+    void PutColumn(std::int32_t x, std::byte* place, std::ptrdiff_t step) const {
+        const bool backward = step < 0;
+        const std::byte* from = &bytes_[static_cast<std::size_t>(
+            x * pixelBytes + (backward ? (rows_ - 1) * pitch : 0))];
+        std::byte* to = backward ? place + (rows_ - 1) * step : place;
+        const std::ptrdiff_t next = backward ? -pitch : pitch;
+        // Four bytes go as fast as one: the fourth is where the next pixel comes.
+        for (std::int32_t i = 1; i < rows_; ++i) {
+            std::memcpy(to, from, pixelBytes + 1);
+            from += next;
+            to += pixelBytes;
+        }
+        std::memcpy(to, from, pixelBytes);
+    }
+
+  private:
+    static constexpr std::ptrdiff_t pitch = tileSide * pixelBytes + 16;
+    std::array<std::byte, tileSide * pitch> bytes_;
+    std::int32_t rows_ = 0;
+};
 
 }  // namespace
 
@@ -66,16 +101,19 @@ void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, P
     };
     if (!SwapsSides(orientation)) {
         for (std::int32_t row = 0; row < band.count; ++row) {
-            CopyRun(source.bottom + row * pitch, pixelBytes, placeOf(0, row), places.perColumn,
-                    size.width);
+            CopyRow(source.bottom + row * pitch, placeOf(0, row), places.perColumn, size.width);
         }
         return;
     }
-    for (std::int32_t row = 0; row < band.count; row += blockSide) {
-        const std::int32_t rows = std::min(blockSide, band.count - row);
-        for (std::int32_t x = 0; x < size.width; ++x) {
-            CopyRun(source.bottom + row * pitch + x * pixelBytes, pitch, placeOf(x, row),
-                    places.perRow, rows);
+    Tile tile;
+    for (std::int32_t row = 0; row < band.count; row += tileSide) {
+        const std::int32_t rows = std::min(tileSide, band.count - row);
+        for (std::int32_t left = 0; left < size.width; left += tileSide) {
+            const std::int32_t columns = std::min(tileSide, size.width - left);
+            tile.Take(source, left, row, columns, rows);
+            for (std::int32_t x = 0; x < columns; ++x) {
+                tile.PutColumn(x, placeOf(left + x, row), places.perRow);
+            }
         }
     }
 }

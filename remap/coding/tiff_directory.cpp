@@ -32,6 +32,8 @@ static_assert(std::size(numberBytes) == std::size(typeBytes));
 constexpr std::uint16_t places[] = {288, 322, 323, 324,   325,   513,
                                     519, 520, 521, 34665, 34853, 40965};
 
+constexpr std::uint16_t ofResolution[] = {282, 283, 296};
+
 template <class Number>
 Number NumberAt(const QByteArray& bytes, qint64 place) {
     return qFromLittleEndian<Number>(bytes.constData() + place);
@@ -227,8 +229,14 @@ void AddEntries(TiffDirectory& directory, const QByteArray& entries, const QByte
             field.type < std::size(typeBytes) ? qint64{field.count} * typeBytes[field.type] : 0;
         const bool isHere =
             length <= inlineBytes || Holds(block, NumberAt<quint32>(entry, 8), length);
-        if (length > 0 && isHere && directory.Find(static_cast<TiffTag>(field.tag)) == nullptr) {
+        if (length == 0 || !isHere) {
+            continue;
+        }
+        TiffField* const present = directory.Find(static_cast<TiffTag>(field.tag));
+        if (present == nullptr) {
             AddField(directory, field);
+        } else if (std::ranges::find(ofResolution, field.tag) != std::end(ofResolution)) {
+            *present = field;
         }
     }
 }

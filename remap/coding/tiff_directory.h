@@ -57,9 +57,9 @@ struct TiffDirectory {
 // is found by its place in the file: it could not be moved.
 std::optional<TiffDirectory> ReadTiff(const QByteArray& file);
 
-// Adds the entries whose tags the directory does not have. They are of the directory of a file that
-// begins with the block, in the block's byte order and in order of their tags; those that point
-// elsewhere are left out.
+// Adds the entries whose tags the directory does not have, and takes the resolution from them. They
+// are of the directory of a file that begins with the block, in the block's byte order; those that
+// point elsewhere are left out.
 void AddEntries(TiffDirectory& directory, const QByteArray& entries, const QByteArray& block);
 // In its place among the others.
 void AddField(TiffDirectory& directory, TiffField field);

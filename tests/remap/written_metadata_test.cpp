@@ -54,12 +54,13 @@ PhotoMetadata Metadata(Order order) {
     const std::uint32_t first = tiff.Directory({{259, Short, {7}},
                                                 {271, Text, {}, QByteArray("a maker", 8)},
                                                 {274, Short, {1}},
+                                                {282, Fraction, {300, 1}},
                                                 {0x8769, Long, {exif}}},
                                                second);
     PhotoMetadata metadata;
     metadata.exif = {tiff.Finish(first), ValuePlace(exif, 1),   ValuePlace(exif, 2),
                      thumbnail,          ValuePlace(second, 1), std::uint32_t{room}};
-    metadata.tiffEntries = metadata.exif.bytes.mid(first + 2, 4 * 12);
+    metadata.tiffEntries = metadata.exif.bytes.mid(first + 2, 5 * 12);
     metadata.iptc = QByteArray("\x1c\2\5\0\1T", 6) + '!';
     metadata.xmp = "<rdf:RDF>a title</rdf:RDF>";
     metadata.xmpPlace = 16;
@@ -211,6 +212,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoATiffFile) {
                                Number(5, 2, order) + QByteArray(2, '\0');
         EXPECT_EQ(entries[259], lzw);
         EXPECT_EQ(entries[271], metadata.tiffEntries.mid(12, 12));
+        EXPECT_EQ(entries[282], metadata.tiffEntries.mid(36, 12));
         EXPECT_EQ(entries[0x8769], metadata.tiffEntries.last(12));
         EXPECT_FALSE(entries.contains(330) || entries.contains(513));  // thumbnails
         const auto value = [&](std::uint32_t tag, std::uint32_t bytes) {

@@ -21,7 +21,7 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
         "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
         "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
         "--antialiased --output-dir out --type png --quality 80 --chroma 444 --no-metadata --force "
-        "--jobs 3 --quiet a.jpg b.jpg");
+        "--no-auto-orient --jobs 3 --quiet a.jpg b.jpg");
     ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
     const Options& options = std::get<Options>(parsed);
     EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
@@ -38,7 +38,8 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     EXPECT_EQ(options.quality, 80);
     EXPECT_EQ(options.chroma444, true);
     EXPECT_EQ(std::get<Options>(Parse("p --chroma 420 a")).chroma444, false);
-    EXPECT_TRUE(options.antialiased && options.force && options.quiet && options.noMetadata);
+    EXPECT_TRUE(options.antialiased && options.force && options.quiet && options.noMetadata &&
+                options.noAutoOrient);
     EXPECT_EQ(options.files.size(), 2);
     EXPECT_EQ(options.jobs, 3);
 }
@@ -48,7 +49,7 @@ TEST(ParseOptions, AllProjectionsAndDefaults) {
     const Options options = std::get<Options>(Parse("p a"));
     EXPECT_EQ(options.projections, std::vector{Projection::Varnel});
     EXPECT_FALSE(options.type || options.quality || options.preview || options.chroma444 ||
-                 options.noMetadata);
+                 options.noMetadata || options.noAutoOrient);
 }
 
 TEST(ParseOptions, AMorphHasItsEnds) {

@@ -9,6 +9,7 @@
 
 #include <QFile>
 
+#include "tests/support/file_bytes.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 
@@ -104,6 +105,41 @@ TEST(PictureReader, SmallPicturesFitTheBoxWithTheirLowerRowsBelow) {
             EXPECT_GT(testing::PixelAt(small.get(), 5, 5).rgbBlue, 200);
             EXPECT_GT(testing::PixelAt(small.get(), 5, expected.height - 5).rgbRed, 200);
         }
+    }
+}
+
+TEST(PhotoLoader, TurnsPhotosAsTheSettingsSayAtThatMomentAndTheirCentreWithThem) {
+    const PictureFolder folder;
+    const QString path = folder.Picture(Q("a.png"), FIF_PNG);
+    QByteArray file = testing::Contents(path);
+    constexpr qsizetype afterHeader = 33;
+    testing::TiffBytes exif(testing::Order::Big);
+    const std::uint32_t place = exif.Directory({{274, testing::TiffType::Short, {6}}});
+    testing::WriteFile(path,
+                       file.insert(afterHeader, testing::PngChunk("eXIf", exif.Finish(place))));
+    GeneralSettings settings;
+    PhotoLoader photos(testing::Reader(), nullptr, &settings);
+    ImageRecord image;
+    image.OfsetX = 3.0F;
+    image.OfsetY = -4.0F;
+    const struct {
+        bool autoOrient;
+        int width, orientation;
+        float x, y;
+    } rows[] = {
+        {true, 40, 6, 3.0F, -4.0F}, {false, 60, 1, -4.0F, -3.0F}, {true, 40, 6, 3.0F, -4.0F}};
+    for (const auto& row : rows) {
+        settings.AutoOrient = row.autoOrient;
+        const LoadedPicture whole = photos.Load(path);
+        ASSERT_TRUE(whole.bitmap);
+        EXPECT_EQ(SizeOf(whole.bitmap.get()).width, row.width);
+        EXPECT_EQ(whole.orientation, row.orientation);
+        TakeSize(*photos.Size(path), image);
+        EXPECT_EQ(image.Width, row.width);
+        EXPECT_EQ(image.Landscape, row.width == 60);
+        EXPECT_EQ(image.Orientation, row.orientation);
+        EXPECT_EQ(image.OfsetX, row.x);
+        EXPECT_EQ(image.OfsetY, row.y);
     }
 }
 

@@ -111,14 +111,14 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
                  run.settings.WriteSettings && !run.options.noSettings);
 }
 
-SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
+SaveResult SaveTo(ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
                   BlockRunner& runner) {
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
     const bool chroma444 = run.options.chroma444.value_or(run.settings.JPEGchroma444);
     if (run.options.noMetadata || !run.settings.WriteMetadata) {
         DropMetadata(result);
     }
-    return SaveBitmap(FormatOf(target.type), result, target.file,
+    return SaveBitmap(FormatOf(target.type), result, FileInSeries{target.file, run.series},
                       SaveFlags(target.type, quality, chroma444), &runner);
 }
 

@@ -26,6 +26,7 @@ struct ConversionRun {
     BlockRunner& runner;
     FileSet photos;              // those of the run
     QSet<QString> written = {};  // canonical names of the files written so far
+    FileSeries series = {};      // those files
 };
 
 // A photo that was read, and the record that its conversions start from.
@@ -61,7 +62,7 @@ QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString&
 void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record);
 
 // Encodes with the runner and writes.
-SaveResult SaveTo(const ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
+SaveResult SaveTo(ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
                   BlockRunner& runner);
 
 }  // namespace varnel

@@ -50,6 +50,10 @@ class Conversions {
             ConvertPhoto(n);
         }
         FinishWriting();
+        if (const WriteResult last = run_.series.Finish(); !last) {
+            allWell_ = false;
+            Complain(console_, last.reason);
+        }
         return allWell_;
     }
 

@@ -8,6 +8,7 @@
 
 #include "remap/bitmap.h"
 #include "remap/engine/block_runner.h"
+#include "state/whole_file.h"
 
 namespace varnel {
 
@@ -24,6 +25,14 @@ struct SaveResult {
 // for cut files on a full disk. flags are the library's for the format (the quality for JPEG). The
 // runner shares the encoding out to the cores where the format allows.
 SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
+                      int flags, BlockRunner* runner = nullptr);
+
+// One file of several: true when it is in place, which the series' end makes last.
+struct FileInSeries {
+    QString name;
+    FileSeries& series;
+};
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
                       int flags, BlockRunner* runner = nullptr);
 
 }  // namespace varnel

@@ -15,12 +15,6 @@ namespace varnel {
 
 namespace {
 
-constexpr int fixedNames = 32;
-
-QByteArray SavingName(const QByteArray& folder, const QByteArray& ending) {
-    return folder + "/.varnel-saving-" + ending;
-}
-
 // With the lock and the name checked in this order nobody else can rename or remove the file: both
 // are done under the lock only.
 void RemoveStray(const QByteArray& name) {
@@ -41,19 +35,17 @@ void RemoveStray(const QByteArray& name) {
 
 }  // namespace
 
-std::vector<QByteArray> SavingNames(const QByteArray& folder) {
-    std::vector<QByteArray> names;
-    for (int i = 0; i < fixedNames; ++i) {
-        names.push_back(SavingName(folder, QByteArray::number(i)));
-    }
-    const quint64 chance = QRandomGenerator::system()->generate64();
-    names.push_back(SavingName(folder, QByteArray::number(chance, 16).rightJustified(16, '0')));
-    return names;
+QByteArray SavingName(const QByteArray& folder, int n) {
+    const QByteArray ending = n < fixedSavingNames
+                                  ? QByteArray::number(n)
+                                  : QByteArray::number(QRandomGenerator::system()->generate64(), 16)
+                                        .rightJustified(16, '0');
+    return folder + "/.varnel-saving-" + ending;
 }
 
 void RemoveStrays(const QByteArray& folder) {
-    for (int i = 0; i < fixedNames; ++i) {
-        RemoveStray(SavingName(folder, QByteArray::number(i)));
+    for (int n = 0; n < fixedSavingNames; ++n) {
+        RemoveStray(SavingName(folder, n));
     }
 }
 

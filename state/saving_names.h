@@ -12,7 +12,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <vector>
 
 #ifdef Q_OS_UNIX
 
@@ -20,9 +19,12 @@
 
 namespace varnel {
 
-// The names in the order in which they are tried. The last one is by chance, for when all others
-// are taken: by as many writers, or by strays on a file system without locks.
-std::vector<QByteArray> SavingNames(const QByteArray& folder);
+inline constexpr int fixedSavingNames = 32;
+
+// The names in the order in which they are tried, n = 0 to fixedSavingNames. The last one is by
+// chance, for when all others are taken: by as many writers, or by strays on a file system without
+// locks.
+QByteArray SavingName(const QByteArray& folder, int n);
 
 // Removes the regular files of the fixed names that nobody is writing.
 void RemoveStrays(const QByteArray& folder);

@@ -30,6 +30,10 @@ QString Words(int error) {
     return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
 }
 
+QString ReasonOf(int error, const char* doing) {
+    return QStringLiteral("%1 (while %2)").arg(Words(error), QLatin1StringView(doing));
+}
+
 // What is to be replaced or made: through all links, since renaming would replace a link itself.
 struct Target {
     QByteArray name;
@@ -96,25 +100,24 @@ class SavingFile {
 
     WriteResult Write(QByteArrayView bytes) {
         const bool ok = Create() && WriteAll(bytes) && KeepPermissions() &&
-                        Check(Sync(), "syncing") && Close() && Rename() && SyncFolder();
+                        Check(Sync(), "syncing") && Close() && Rename();
         return {ok, reason_};
     }
 
   private:
     bool Check(qint64 result, const char* doing) {
-        if (result != -1) {
-            return true;
+        if (result == -1) {
+            reason_ = ReasonOf(errno, doing);
         }
-        reason_ = QStringLiteral("%1 (while %2)").arg(Words(errno), QLatin1StringView(doing));
-        return false;
+        return result != -1;
     }
 
     bool Create() {
         const QByteArray folder = FolderOf(target_.name);
-        RemoveStrays(folder);
         // A photo that only its owner may see is not shown to others while it is written.
         const unsigned permissions = target_.permissions ? 0600 : 0666;
-        for (const QByteArray& name : SavingNames(folder)) {
+        for (int n = 0; n <= fixedSavingNames; ++n) {
+            const QByteArray name = SavingName(folder, n);
             file_ = steps_.Create(name, permissions);
             if (file_ == -1 && errno == EEXIST) {
                 continue;
@@ -201,14 +204,6 @@ class SavingFile {
         return true;
     }
 
-    // Some file systems cannot, and a folder need not be readable for files to be made there.
-    bool SyncFolder() {
-        const int result = steps_.SyncFolder(FolderOf(target_.name));
-        const bool cannot =
-            result == -1 && (errno == EINVAL || errno == ENOTSUP || errno == EACCES);
-        return cannot || Check(result, "syncing the folder");
-    }
-
     void Drop(int& file) {
         if (file != -1) {
             ::close(std::exchange(file, -1));
@@ -224,6 +219,14 @@ class SavingFile {
     QString reason_;
 };
 
+// The reason when the names in the folder may not last. Some file systems cannot sync folders, and
+// a folder need not be readable for files to be made there.
+QString SyncTrouble(const QByteArray& folder, FileSteps& steps) {
+    const bool failed =
+        steps.SyncFolder(folder) == -1 && errno != EINVAL && errno != ENOTSUP && errno != EACCES;
+    return failed ? ReasonOf(errno, "syncing the folder") : QString();
+}
+
 }  // namespace
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps& steps) {
@@ -231,12 +234,58 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps&
     if (!target.trouble.isEmpty()) {
         return {false, target.trouble};
     }
-    return SavingFile(target, steps).Write(bytes);
+    RemoveStrays(FolderOf(target.name));
+    const WriteResult written = SavingFile(target, steps).Write(bytes);
+    const QString trouble = written ? SyncTrouble(FolderOf(target.name), steps) : written.reason;
+    return {trouble.isEmpty(), trouble};
 }
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
     FileSteps steps;
     return WriteWholeFile(path, bytes, steps);
+}
+
+FileSeries::FileSeries() : FileSeries(std::make_unique<FileSteps>()) {}
+
+FileSeries::FileSeries(std::unique_ptr<FileSteps> steps) : steps_(std::move(steps)) {}
+
+FileSeries::~FileSeries() {
+    Finish();
+}
+
+WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
+    const Target target = FindTarget(path);
+    if (!target.trouble.isEmpty()) {
+        return {false, target.trouble};
+    }
+    if (const QByteArray folder = FolderOf(target.name); folder != folder_) {
+        SyncFolder();
+        RemoveStrays(folder);
+        folder_ = folder;
+    }
+    WriteResult written = SavingFile(target, *steps_).Write(bytes);
+    unsynced_ += written ? 1 : 0;
+    if (!written || unsynced_ == mostUnsynced) {
+        SyncFolder();
+    }
+    if (!written) {
+        folder_.clear();  // it may have left a stray of its own
+    }
+    return written;
+}
+
+void FileSeries::SyncFolder() {
+    const QString trouble = unsynced_ > 0 ? SyncTrouble(folder_, *steps_) : QString();
+    unsynced_ = 0;
+    if (trouble_.isEmpty() && !trouble.isEmpty()) {
+        trouble_ = QFile::decodeName(folder_) + QStringLiteral(": ") + trouble;
+    }
+}
+
+WriteResult FileSeries::Finish() {
+    SyncFolder();
+    const QString trouble = std::exchange(trouble_, QString());
+    return {trouble.isEmpty(), trouble};
 }
 
 }  // namespace varnel
@@ -254,6 +303,14 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
         file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush() || !file.commit()) {
         return {false, file.errorString()};
     }
+    return {true, {}};
+}
+
+WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
+    return WriteWholeFile(path, bytes);
+}
+
+WriteResult FileSeries::Finish() {
     return {true, {}};
 }
 

@@ -6,6 +6,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <memory>
 
 namespace varnel {
 
@@ -27,5 +28,37 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes);
 #ifdef Q_OS_UNIX
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps& steps);
 #endif
+
+// Whole files one after the other, most of them in the same folder. Each is made last before it
+// gets its name, but the names of up to mostUnsynced files are made last together, which spares
+// half of what small files cost the system: until then a power cut may take back that they were
+// renamed. The files are whole, the older ones or the new ones, all the same; what a killed program
+// had written stays. What killed runs left behind is removed before the first file in a folder.
+class FileSeries {
+  public:
+#ifdef Q_OS_UNIX
+    static constexpr int mostUnsynced = 16;
+
+    FileSeries();
+    explicit FileSeries(std::unique_ptr<FileSteps> steps);
+    ~FileSeries();
+    FileSeries(const FileSeries&) = delete;
+    FileSeries& operator=(const FileSeries&) = delete;
+#endif
+
+    WriteResult Write(const QString& path, QByteArrayView bytes);
+    // Makes all names last. Otherwise the reason, led by the first folder's name that may not.
+    WriteResult Finish();
+
+#ifdef Q_OS_UNIX
+  private:
+    void SyncFolder();
+
+    std::unique_ptr<FileSteps> steps_;
+    QByteArray folder_;  // without strays, of the last file; empty before the first
+    int unsynced_ = 0;   // files in it whose names may not last yet
+    QString trouble_;
+#endif
+};
 
 }  // namespace varnel

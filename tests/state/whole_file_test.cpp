@@ -39,7 +39,7 @@ class Folder {
     QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
     QByteArray Bytes(const char* name) const { return QFile::encodeName(Path(name)); }
     QStringList Names() const { return NamesIn(folder_.path()); }
-    QByteArray Saving(int n) const { return SavingNames(Bytes("."))[n]; }
+    QByteArray Saving(int n) const { return SavingName(Bytes("."), n); }
 
   private:
     QTemporaryDir folder_;

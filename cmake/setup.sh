@@ -1,6 +1,6 @@
 # Shared by ./run and ./test: says what is done, installs packages, builds. Sourced, not run.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libjpeg-dev libtiff-dev zlib1g-dev libhwy-dev fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libjpeg-dev libtiff-dev zlib1g-dev libhwy-dev libexiv2-dev liblcms2-dev fonts-dejavu-core)
 test_packages=("${build_packages[@]}" libgtest-dev libimage-exiftool-perl xvfb xauth parallel)
 
 say() { printf '== %s\n' "$*"; }

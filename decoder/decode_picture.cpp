@@ -10,6 +10,7 @@
 
 #include "decoder/bmp_picture.h"
 #include "decoder/claimed_size.h"
+#include "decoder/cmyk.h"
 #include "decoder/jpeg_frame.h"
 #include "decoder/jpeg_pixels.h"
 #include "decoder/orientation.h"
@@ -109,8 +110,8 @@ class Decoding {
         }
         if (format_ == FIF_TIFF || format_ == FIF_RAW) {
             tiff_ = TiffFactsOf(file_);
-            HideDeadlyTags();
         }
+        HideMetadata();
         if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(QStringLiteral("damaged: the raw photo cannot be read"));
@@ -136,6 +137,7 @@ class Decoding {
                 return OnlySize();
             case ReadKind::Small:
                 return Small();
+            case ReadKind::Facts:  // not asked here
             case ReadKind::Whole:
                 break;
         }
@@ -207,11 +209,25 @@ class Decoding {
                                                             : NewBitmap(size);
     }
 
+    // Metadata are read later and by others: in the library they are where most crashes are.
+    void HideMetadata() {
+        if (format_ == FIF_JPEG) {
+            constexpr char unused = '\xEF';
+            for (const std::int64_t place : JpegMetadataMarkers(file_)) {
+                file_.Replace(place, unused);
+            }
+        } else if (tiff_) {
+            HideTags(tiff_->deadlyTags);
+            if (format_ == FIF_TIFF) {  // raw files tell there how they are to be developed
+                HideTags(tiff_->metadataTags);
+            }
+        }
+    }
     // The next number means nothing to anybody and keeps the tags in order.
-    void HideDeadlyTags() {
-        constexpr char next = '\xBC';
-        for (const std::int64_t place : tiff_ ? tiff_->deadlyTags : std::vector<std::int64_t>()) {
-            file_.Replace(place + 1, next);
+    void HideTags(const std::vector<std::int64_t>& lowestBytes) {
+        for (const std::int64_t place : lowestBytes) {
+            const QByteArray byte = file_.Read(place, 1);
+            file_.Replace(place, static_cast<char>(byte.isEmpty() ? 0 : byte.front() + 1));
         }
     }
 
@@ -342,7 +358,7 @@ class Decoding {
             FreeImage_CreateICCProfile(bitmap.get(), profile.data(),
                                        static_cast<long>(profile.size()));
         }
-        bitmap = To24Bits(std::move(bitmap));
+        bitmap = To24Bits(WithoutInks(std::move(bitmap), format_, file_));
         if (!bitmap) {
             return LoadedPicture::Refused(
                 QStringLiteral("its pixels cannot be converted to 24-bit colour"));

@@ -19,6 +19,9 @@ namespace {
 // A spare memory file far longer than the last picture is not worth its memory.
 constexpr std::uint64_t longestSpare = 2;  // times the picture
 
+// A few milliseconds are usual; the rest of the time limit stays for the others.
+constexpr qint64 mostSecondsForMetadata = 5;
+
 QString BesideThisProgram() {
     const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
     const QString beside = folder + QStringLiteral("/varnel-decoder");
@@ -86,6 +89,7 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 request.upright};
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
+    first_.reset();
     Ask();
 }
 
@@ -109,13 +113,15 @@ bool DecoderReader::Wait(int milliseconds) {
     DecoderAnswer answer;
     switch (process_.Listen(std::min(milliseconds, left), answer)) {
         case DecoderProcess::Heard::Answer:
-            Finish(PictureFrom(answer));
+            Heard(answer);
             break;
         case DecoderProcess::Heard::Death:
             Died();
             break;
         case DecoderProcess::Heard::Nothing:
-            if (deadline_.hasExpired()) {
+            if (deadline_.hasExpired() && first_) {
+                FinishWithoutMetadata();
+            } else if (deadline_.hasExpired()) {
                 FinishRefused(TookTooLong());
             }
             break;
@@ -123,11 +129,52 @@ bool DecoderReader::Wait(int milliseconds) {
     return answer_.has_value();
 }
 
+// The pixels come first, so that they are safe whatever the metadata do to the decoder.
+void DecoderReader::Heard(const DecoderAnswer& answer) {
+    const bool isSecond = first_.has_value();
+    if (isSecond ? !BelievableMetadata(answer, *first_, memory_->Length())
+                 : !Believable(answer, request_, memory_->Length())) {
+        isSecond ? FinishWithoutMetadata()
+                 : FinishRefused(QStringLiteral("damaged: the decoder's answer makes no sense"));
+        return;
+    }
+    if (isSecond) {
+        Finish(PictureFrom(*first_, MetadataFrom(answer)));
+    } else if (answer.metadataFollows == 0) {
+        Finish(PictureFrom(answer, {}));
+    } else {
+        first_ = answer;
+        deadline_ = QDeadlineTimer(
+            std::min<qint64>(deadline_.remainingTime(), mostSecondsForMetadata * 1000));
+    }
+}
+
+void DecoderReader::FinishWithoutMetadata() {
+    FileMetadata nothing;
+    nothing.metadata.notes.append(QStringLiteral("written without its metadata: it cannot be read"));
+    LoadedPicture picture = PictureFrom(*first_, nothing);
+    Restart();
+    Finish(std::move(picture));
+}
+
+FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
+    const std::uint64_t place = RowBytes(*first_) + first_->extrasLength;
+    const std::byte* const bytes = memory_->Map(place + answer.metadataLength);
+    return bytes == nullptr
+               ? FileMetadata{}
+               : TakeFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
+                                             static_cast<qsizetype>(answer.metadataLength)));
+}
+
 QString DecoderReader::TookTooLong() const {
     return QStringLiteral("took too long (more than %1 seconds)").arg(options_.secondsPerPhoto);
 }
 
 void DecoderReader::Died() {
+    if (first_) {
+        FinishWithoutMetadata();
+        return;
+    }
     const int signal = process_.Bury();
     // Killed from outside: that was not the photo's fault.
     if (signal == SIGKILL && !askedTwice_) {
@@ -162,6 +209,7 @@ void DecoderReader::Died() {
 void DecoderReader::Finish(LoadedPicture picture) {
     const bool wasAsked = static_cast<bool>(photo_);
     photo_ = Descriptor();
+    first_.reset();
     if (wasAsked && picture.outcome != LoadOutcome::Loaded) {
         memoryFiles_->DropSpare();
         memory_.reset();
@@ -183,16 +231,18 @@ void DecoderReader::Cancel() {
     answer_.reset();
 }
 
-LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer) {
-    if (!Believable(answer, request_, memory_->Length())) {
-        return LoadedPicture::Refused(
-            QStringLiteral("damaged: the decoder's answer makes no sense"));
-    }
+LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer,
+                                         const FileMetadata& metadata) {
     LoadedPicture picture{static_cast<LoadOutcome>(answer.outcome), nullptr, ReasonOf(answer),
                           answer.size};
     picture.orientation = answer.orientation;
     if (answer.bitmap.width > 0) {
         TakePixels(answer, picture);
+    } else {
+        picture.facts = metadata.metadata;
+    }
+    if (picture.bitmap) {
+        GiveMetadata(metadata, picture.bitmap.get());
     }
     return picture;
 }

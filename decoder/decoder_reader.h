@@ -34,7 +34,10 @@ class DecoderReader : public PictureReader {
     void FinishRefused(const QString& reason) { Finish(LoadedPicture::Refused(reason)); }
     void Died();
     QString TookTooLong() const;
-    LoadedPicture PictureFrom(const DecoderAnswer& answer);
+    void Heard(const DecoderAnswer& answer);
+    void FinishWithoutMetadata();
+    FileMetadata MetadataFrom(const DecoderAnswer& answer);
+    LoadedPicture PictureFrom(const DecoderAnswer& answer, const FileMetadata& metadata);
     void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
 
     ReaderOptions options_;
@@ -46,6 +49,7 @@ class DecoderReader : public PictureReader {
     DecoderRequest request_;
     QDeadlineTimer deadline_;
     bool askedTwice_ = false;
+    std::optional<DecoderAnswer> first_;  // the pixels', when the metadata follow
     std::optional<LoadedPicture> answer_;
 };
 

@@ -90,6 +90,8 @@ class BlockReader {
         return value;
     }
 
+    QByteArrayView Rest() const { return rest_; }
+
   private:
     QByteArrayView rest_;
 };
@@ -104,7 +106,7 @@ constexpr std::array<std::uint8_t, FIDT_IFD8 + 1> valueWidths{0, 1, 1, 2, 4, 8, 
 
 // Whether the library may be given such a tag: it trusts counts.
 bool IsSound(const ItemHead& head) {
-    return head.model <= FIMD_EXIF_RAW && head.type < valueWidths.size() && head.id <= 0xFFFF &&
+    return head.model == FIMD_COMMENTS && head.type < valueWidths.size() && head.id <= 0xFFFF &&
            head.keyLength > 0 && valueWidths[head.type] > 0 &&
            std::uint64_t{valueWidths[head.type]} * head.count == head.valueLength;
 }
@@ -154,9 +156,7 @@ QByteArray PackExtras(FIBITMAP* bitmap) {
         AppendItem(block, {colourProfile, profile->flags, 0, 0, 0, profile->size}, "",
                    profile->data);
     }
-    for (int model = FIMD_COMMENTS; model <= FIMD_EXIF_RAW; ++model) {
-        AppendModel(block, bitmap, static_cast<FREE_IMAGE_MDMODEL>(model));
-    }
+    AppendModel(block, bitmap, FIMD_COMMENTS);
     return block;
 }
 
@@ -181,6 +181,22 @@ void TakeExtras(const QByteArray& block, FIBITMAP* bitmap) {
             TakeTag(*head, key->toByteArray(), *value, bitmap);
         }
     }
+}
+
+QByteArray PackFileMetadata(const FileMetadata& metadata) {
+    QByteArray block;
+    Append(block, static_cast<std::uint32_t>(metadata.colourProfile.size()));
+    return block + metadata.colourProfile + PackMetadata(metadata.metadata);
+}
+
+FileMetadata TakeFileMetadata(const QByteArray& block) {
+    BlockReader reader(block);
+    const std::optional<std::uint32_t> length = reader.Value<std::uint32_t>();
+    const std::optional<QByteArrayView> profile = length ? reader.Bytes(*length) : std::nullopt;
+    if (!profile) {
+        return {};
+    }
+    return {UnpackMetadata(reader.Rest()), profile->toByteArray()};
 }
 
 }  // namespace varnel

@@ -11,6 +11,7 @@
 #include "decoder/path_trouble.h"
 #include "decoder/picture_limits.h"
 #include "decoder/picture_reader.h"
+#include "decoder/read_metadata.h"
 
 namespace varnel {
 
@@ -31,13 +32,24 @@ class InProcessReader : public PictureReader {
                 trouble.isEmpty() ? QStringLiteral("it cannot be opened") : trouble);
             return;
         }
-        answer_ = DecodePicture(file.get(), request, memory_);
+        answer_ = request.kind == ReadKind::Facts ? LoadedPicture{LoadOutcome::Loaded, nullptr, {}, {}}
+                                                  : DecodePicture(file.get(), request, memory_);
+        TakeMetadata(file.get(), request);
     }
     bool Wait(int /*milliseconds*/) override { return true; }
     LoadedPicture Take() override { return std::move(answer_); }
     void Cancel() override { answer_ = {}; }
 
   private:
+    void TakeMetadata(std::FILE* file, const ReadRequest& request) {
+        const MetadataRequest wanted{answer_.size, request.upright};
+        if (request.kind == ReadKind::Facts) {
+            answer_.facts = ReadMetadata(file, wanted).metadata;
+        } else if (request.kind == ReadKind::Whole && answer_.bitmap) {
+            GiveMetadata(ReadMetadata(file, wanted), answer_.bitmap.get());
+        }
+    }
+
     std::uint64_t memory_;
     LoadedPicture answer_;
 };

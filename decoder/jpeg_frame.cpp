@@ -33,6 +33,8 @@ class MarkerWalk {
         }
         return -1;
     }
+    // Of the byte that is read next.
+    std::int64_t Place() const { return place_; }
     // The bytes of the segment that follows, as many as asked for at most; goes behind it.
     QByteArray Segment(int most) {
         const QByteArray length = file_.Read(place_, 2);
@@ -65,6 +67,8 @@ class MarkerWalk {
     std::int64_t blockPlace_ = 0;
 };
 
+constexpr int exifSegment = 0xE1;  // and XMP's, and others' blocks
+
 // Restart markers, start of image and the like stand alone.
 bool HasSegment(int marker) {
     return marker != 0x01 && (marker < 0xD0 || marker > 0xD9);
@@ -93,8 +97,23 @@ std::optional<PixelSize> JpegSize(const PictureFile& file) {
     return std::nullopt;
 }
 
+std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file) {
+    constexpr int iptcSegment = 0xED;
+    std::vector<std::int64_t> places;
+    MarkerWalk walk(file);
+    for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;
+         marker = walk.Next()) {
+        if (marker == exifSegment || marker == iptcSegment) {
+            places.push_back(walk.Place() - 1);
+        }
+        if (HasSegment(marker)) {
+            walk.Segment(0);
+        }
+    }
+    return places;
+}
+
 QByteArray JpegExif(const PictureFile& file) {
-    constexpr int exifSegment = 0xE1;  // and others' blocks
     constexpr int mostBytes = 65533;
     MarkerWalk walk(file);
     for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;

@@ -4,7 +4,9 @@
 // The frame of a JPEG file: its segments, not its pixels.
 #pragma once
 
+#include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "decoder/picture_file.h"
 
@@ -16,6 +18,10 @@ std::optional<PixelSize> JpegSize(const PictureFile& file);
 
 // The first EXIF block in front of the pixels, with its mark; empty when there is none.
 QByteArray JpegExif(const PictureFile& file);
+
+// Where the numbers of the markers in front of the pixels are behind which EXIF, XMP and IPTC
+// stand.
+std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file);
 
 // True when the file stops before the picture's end marker.
 bool JpegIsCut(const PictureFile& file);

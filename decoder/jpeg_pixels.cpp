@@ -18,6 +18,7 @@ namespace varnel {
 namespace {
 
 constexpr QByteArrayView jfif("JFIF\0", 5);
+constexpr int colourProfileMarker = JPEG_APP0 + 2;
 
 // Reads as the image library does. The size of its buffer shows: near the buffer's end libjpeg
 // decodes more carefully and warns of wrong codes that it passes over elsewhere.
@@ -79,9 +80,8 @@ class JpegDecoder {
         jpeg_create_decompress(&info_);
         info_.src = &source_;
         jpeg_save_markers(&info_, JPEG_COM, 0xFFFF);
-        for (int n = 0; n < 16; ++n) {
-            jpeg_save_markers(&info_, JPEG_APP0 + n, 0xFFFF);
-        }
+        jpeg_save_markers(&info_, JPEG_APP0, 0xFFFF);
+        jpeg_save_markers(&info_, colourProfileMarker, 0xFFFF);
         jpeg_read_header(&info_, TRUE);
         if (!IsOrdinary() || info_.image_width != static_cast<JDIMENSION>(expected.width) ||
             info_.image_height != static_cast<JDIMENSION>(expected.height)) {
@@ -114,15 +114,14 @@ class JpegDecoder {
         return true;
     }
 
-    // What the library would look at now, as the segments of a file.
+    // Comments, resolution and colour profile, as the segments of a file.
     QByteArray Metadata() const {
         QByteArray segments;
         for (const jpeg_marker_struct* one = info_.marker_list; one != nullptr; one = one->next) {
             const QByteArrayView data(reinterpret_cast<const char*>(one->data),
                                       static_cast<qsizetype>(one->data_length));
             const bool isApp0 = one->marker == JPEG_APP0;
-            // The one is about the pixels, the other too short for anything.
-            if (one->marker == JPEG_APP0 + 14 || (isApp0 && data.size() < jfif.size())) {
+            if (isApp0 && data.size() < jfif.size()) {  // too short for anything
                 continue;
             }
             std::array<char, 4> head{'\xFF', static_cast<char>(one->marker)};

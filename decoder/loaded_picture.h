@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "remap/bitmap.h"
+#include "remap/photo_metadata.h"
 
 namespace varnel {
 
@@ -21,7 +22,8 @@ struct LoadedPicture {
     BitmapHandle bitmap;  // 24 bits a pixel; empty when not loaded or when only the size was asked
     QString reason;    // what is wrong, in words, without the file's name; empty when all is well
     PixelSize size{};  // of the full picture, pixels; 0 x 0 when not loaded
-    int orientation = 1;  // that the file tells and that was undone, as EXIF counts
+    PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
+    int orientation = 1;       // that the file tells and that was undone, as EXIF counts
 
     static LoadedPicture Refused(const QString& reason) {
         return {LoadOutcome::NotLoaded, nullptr, reason, {}};

@@ -13,6 +13,7 @@
 #include "decoder/decode_picture.h"
 #include "decoder/decoder_socket.h"
 #include "decoder/protocol.h"
+#include "decoder/read_metadata.h"
 #include "remap/large_pages.h"
 #include "remap/row_pitch.h"
 
@@ -66,10 +67,10 @@ class Handover {
     std::byte* Rows(std::size_t length) {
         return Lengthen(length) ? mapped_.Map(name_, file_, length) : nullptr;
     }
-    bool WriteAfter(std::size_t rows, const QByteArray& block) const {
-        return Lengthen(rows + static_cast<std::size_t>(block.size())) &&
+    bool WriteAt(std::size_t place, const QByteArray& block) const {
+        return Lengthen(place + static_cast<std::size_t>(block.size())) &&
                pwrite(file_, block.constData(), static_cast<std::size_t>(block.size()),
-                      static_cast<off_t>(rows)) == static_cast<ssize_t>(block.size());
+                      static_cast<off_t>(place)) == static_cast<ssize_t>(block.size());
     }
 
   private:
@@ -96,7 +97,7 @@ bool HandOver(FIBITMAP* bitmap, const QByteArray& extras, const DecoderAnswer& a
         static_cast<const void*>(bits) != rows) {
         std::memcpy(rows, bits, RowBytes(answer));
     }
-    return handover.WriteAfter(RowBytes(answer), extras);
+    return handover.WriteAt(RowBytes(answer), extras);
 }
 
 void SetReason(DecoderAnswer& answer, const QString& reason) {
@@ -133,6 +134,31 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     return answer;
 }
 
+// The pixels are the parent's already: should the metadata be this process's death, they are not
+// lost.
+bool SendMetadata(std::FILE* photo, const DecoderRequest& request, const DecoderAnswer& first,
+                  Handover& handover) {
+    const QByteArray block = PackFileMetadata(ReadMetadata(photo, {first.size, request.upright}));
+    DecoderAnswer answer;
+    answer.number = first.number;
+    if (static_cast<std::uint64_t>(block.size()) <= longestExtras &&
+        handover.WriteAt(RowBytes(first) + first.extrasLength, block)) {
+        answer.metadataLength = static_cast<std::uint64_t>(block.size());
+    }
+    return SendMessage(decoderSocket, &answer, sizeof answer);
+}
+
+LoadedPicture Decoded(std::FILE* photo, const DecoderRequest& request, Handover& handover) {
+    if (request.kind == ReadKind::Facts) {
+        return {LoadOutcome::Loaded, nullptr, {}, {}};
+    }
+    return DecodePicture(
+        photo, {{}, request.kind, request.box, request.upright}, request.memory,
+        [&handover](PixelSize size) {
+            return handover.Rows(RowPitch(size.width) * static_cast<std::size_t>(size.height));
+        });
+}
+
 // One photo; false when the parent is gone.
 bool Serve(MappedFiles& mapped) {
     DecoderRequest request;
@@ -147,13 +173,12 @@ bool Serve(MappedFiles& mapped) {
         return false;
     }
     Handover handover(mapped, request.memoryFile, files[1].Get());
-    const LoadedPicture picture = DecodePicture(
-        photo.get(), {{}, request.kind, request.box, request.upright}, request.memory,
-        [&handover](PixelSize size) {
-            return handover.Rows(RowPitch(size.width) * static_cast<std::size_t>(size.height));
-        });
-    const DecoderAnswer answer = AnswerFor(picture, request, handover);
-    return SendMessage(decoderSocket, &answer, sizeof answer);
+    DecoderAnswer answer = AnswerFor(Decoded(photo.get(), request, handover), request, handover);
+    const bool hasMetadata = request.kind == ReadKind::Facts ||
+                             (request.kind == ReadKind::Whole && answer.bitmap.width > 0);
+    answer.metadataFollows = hasMetadata ? 1 : 0;
+    return SendMessage(decoderSocket, &answer, sizeof answer) &&
+           (!hasMetadata || SendMetadata(photo.get(), request, answer, handover));
 }
 
 }  // namespace
@@ -171,6 +196,7 @@ extern "C" const char* __asan_default_options() {
 int main() {
     varnel::KeepFreedMemory();
     varnel::PrepareDecoding();
+    varnel::PrepareMetadata();
     varnel::Confine();
     varnel::MappedFiles mapped;
     while (varnel::Serve(mapped)) {

@@ -20,7 +20,7 @@ bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& 
         return false;
     }
     const bool refused = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
-    return refused ||
+    return refused || request.kind == ReadKind::Facts ||
            (request.kind == ReadKind::Size &&
             SizeTrouble(answer.size.width, answer.size.height, request.memory).isEmpty());
 }
@@ -52,10 +52,16 @@ bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
         !IsOrientation(answer.orientation) || (answer.orientation != 1 && !request.upright)) {
         return false;
     }
-    const bool hasPixels = request.kind != ReadKind::Size &&
+    const bool hasPixels = request.kind != ReadKind::Size && request.kind != ReadKind::Facts &&
                            answer.outcome != static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
     return hasPixels ? BelievablePixels(answer, request, memoryFileLength)
                      : BelievableWithoutPixels(answer, request);
+}
+
+bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                        std::uint64_t memoryFileLength) {
+    return answer.number == first.number && answer.metadataLength <= longestExtras &&
+           RowBytes(first) + first.extrasLength + answer.metadataLength <= memoryFileLength;
 }
 
 QString ReasonOf(const DecoderAnswer& answer) {

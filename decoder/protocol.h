@@ -12,6 +12,7 @@
 #include <array>
 #include <cstdint>
 
+#include "decoder/file_metadata.h"
 #include "decoder/loaded_picture.h"
 #include "decoder/read_request.h"
 
@@ -37,7 +38,9 @@ struct DecoderAnswer {
     PixelSize bitmap{};              // of the pixels in the memory file, 0 x 0 when there are none
     std::uint32_t pitch = 0;         // bytes from row to row
     std::uint64_t extrasLength = 0;  // bytes after the rows
-    std::int32_t orientation = 1;    // as in LoadedPicture
+    std::uint64_t metadataLength = 0;   // bytes after those
+    std::uint32_t metadataFollows = 0;  // not 0: they come with a second answer
+    std::int32_t orientation = 1;       // as in LoadedPicture
     std::uint32_t reasonLength = 0;
     std::array<char, longestReason> reason{};
 };
@@ -53,14 +56,22 @@ inline std::uint64_t RowBytes(const DecoderAnswer& answer) {
 bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
                 std::uint64_t memoryFileLength);
 
+// The second answer, of which nothing but number and length of the metadata counts: likewise.
+bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                        std::uint64_t memoryFileLength);
+
 // The reason's text; whatever its bytes are.
 QString ReasonOf(const DecoderAnswer& answer);
 
-// Resolution, colour profile and metadata as one block of bytes, and back. Thumbnails stay behind:
-// they would show the photo as it was. Taking a block gives back whatever of it is sound and drops
-// the rest; any bytes may be given.
+// Resolution, colour profile and comments as one block of bytes, and back. Taking a block gives
+// back whatever of it is sound and drops the rest; any bytes may be given.
 QByteArray PackExtras(FIBITMAP* bitmap);
 void TakeExtras(const QByteArray& block, FIBITMAP* bitmap);
+
+// The metadata, with a colour profile that the pixels came without, likewise. Metadata without
+// profile and pixels come back from a block that is not sound.
+QByteArray PackFileMetadata(const FileMetadata& metadata);
+FileMetadata TakeFileMetadata(const QByteArray& block);
 
 // A block beyond this is not sent; the picture then comes without.
 inline constexpr std::uint64_t longestExtras = std::uint64_t{256} << 20;  // bytes

@@ -14,6 +14,7 @@ namespace varnel {
 enum class ReadKind : std::uint32_t {
     Whole,  // every pixel, with metadata and colour profile
     Size,   // only the size of the full picture
+    Facts,  // only what the file says besides its pixels; the size is 0 x 0
     Small   // a quick small picture for looking through a folder, without metadata
 };
 

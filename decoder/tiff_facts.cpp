@@ -22,8 +22,11 @@ enum Tag : std::uint16_t {
     SubDirectories = 330,
     PreviewOffset = 513,
     PreviewLength = 514,
+    Xmp = 700,
     Iptc = 33723,
+    ImageResources = 34377,
     ExifDirectory = 34665,
+    GpsDirectory = 34853,
     ColourProfile = 34675,
     DngVersion = 50706,
     CfaLayout = 50711,
@@ -115,9 +118,7 @@ class TiffWalk {
         const QByteArray bytes = file_.Read(start + countBytes, entryTotal + linkBytes);
         std::vector<Entry> entries;
         for (std::int64_t at = 0; at < entryTotal; at += entryBytes) {
-            if (bigEndian_ && Number(bytes, at, 2) == Iptc) {
-                facts_.deadlyTags.push_back(start + countBytes + at);
-            }
+            NoteHidden(Number(bytes, at, 2), start + countBytes + at + (bigEndian_ ? 1 : 0));
             if (const std::optional<Entry> entry = ReadEntry(bytes, at, start + countBytes)) {
                 entries.push_back(*entry);
             }
@@ -125,6 +126,15 @@ class TiffWalk {
         Await(Number(bytes, entryTotal, linkBytes));
         CheckData(entries);
         Note(entries, first);
+    }
+    void NoteHidden(std::uint64_t tag, std::int64_t lowestByte) {
+        constexpr std::array<std::uint64_t, 5> metadata{Xmp, Iptc, ImageResources, ExifDirectory,
+                                                        GpsDirectory};
+        if (bigEndian_ && tag == Iptc) {
+            facts_.deadlyTags.push_back(lowestByte);
+        } else if (std::ranges::find(metadata, tag) != metadata.end()) {
+            facts_.metadataTags.push_back(lowestByte);
+        }
     }
     std::optional<Entry> ReadEntry(const QByteArray& bytes, std::int64_t at, std::int64_t origin) {
         const int fieldBytes = wide_ ? 8 : 4;

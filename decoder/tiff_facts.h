@@ -18,11 +18,11 @@ struct TiffFacts {
     bool isDng = false;   // a raw photo; as a plain TIFF it would show a thumbnail
     int orientation = 1;  // of the first directory, as EXIF counts
     std::int64_t orientationPlace = 0;  // of its lowest byte; 0 when there is none
-    // Places of the numbers of tags that the library must not see: big-endian IPTC takes it down,
-    // it turns round four times the bytes that are there.
-    std::vector<std::int64_t> deadlyTags{};
-    bool isEven = true;        // its pixels are square and in rows and columns
-    QByteArray colourProfile;  // of the first directory
+    // Lowest bytes of the numbers of tags that the library must not see.
+    std::vector<std::int64_t> deadlyTags{};    // takes it down: it turns round four times the bytes
+    std::vector<std::int64_t> metadataTags{};  // is read by others, and later
+    bool isEven = true;                        // its pixels are square and in rows and columns
+    QByteArray colourProfile;                  // of the first directory
 };
 
 // Nothing when the file does not begin like a TIFF.

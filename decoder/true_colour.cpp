@@ -3,6 +3,7 @@
 
 #include "decoder/true_colour.h"
 
+#include <QByteArray>
 #include <cmath>
 #include <new>
 
@@ -64,12 +65,9 @@ BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
 
 // PNG's library looks closely at a profile and refuses to write a picture whose profile is damaged
 // or describes other colours than red, green and blue. So it is asked with a single pixel.
-bool IsSoundForRgb(const FIICCPROFILE* profile) {
-    if (profile->data == nullptr) {
-        return false;
-    }
+bool PngTakes(QByteArray profile) {
     const BitmapHandle pixel(FreeImage_Allocate(1, 1, 24));
-    FreeImage_CreateICCProfile(pixel.get(), profile->data, static_cast<long>(profile->size));
+    FreeImage_CreateICCProfile(pixel.get(), profile.data(), static_cast<long>(profile.size()));
     FIMEMORY* const memory = FreeImage_OpenMemory();
     const bool taken = FreeImage_SaveToMemory(FIF_PNG, pixel.get(), memory) == TRUE;
     FreeImage_CloseMemory(memory);
@@ -77,6 +75,13 @@ bool IsSoundForRgb(const FIICCPROFILE* profile) {
 }
 
 }  // namespace
+
+bool IsProfileForRgb(QByteArrayView profile) {
+    constexpr qsizetype header = 128;      // bytes
+    constexpr qsizetype colourSpace = 16;  // where its four letters are
+    return profile.size() > header && profile.sliced(colourSpace, 4) == QByteArrayView("RGB ") &&
+           PngTakes(profile.toByteArray());
+}
 
 BitmapHandle To24Bits(BitmapHandle bitmap) {
     const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.get());
@@ -86,7 +91,9 @@ BitmapHandle To24Bits(BitmapHandle bitmap) {
     BitmapHandle result;
     FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap.get());
     // Tone-mapped colours are no longer those of the profile.
-    const bool keepProfile = IsSoundForRgb(profile) && !IsFloatColour(type);
+    const bool keepProfile =
+        !IsFloatColour(type) && IsProfileForRgb({static_cast<const char*>(profile->data),
+                                                 static_cast<qsizetype>(profile->size)});
     if (type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24) {
         result = std::move(bitmap);
         if (!keepProfile) {

@@ -4,6 +4,8 @@
 // Bringing decoded pictures of any depth to 24 bits.
 #pragma once
 
+#include <QByteArrayView>
+
 #include "remap/bitmap.h"
 
 namespace varnel {
@@ -11,5 +13,8 @@ namespace varnel {
 // With metadata and resolution, and with the colour profile where it describes red, green and blue
 // as they then are. Empty when the pixels are no picture (complex numbers). Throws std::bad_alloc.
 BitmapHandle To24Bits(BitmapHandle bitmap);
+
+// Whether an ICC profile is sound and describes red, green and blue.
+bool IsProfileForRgb(QByteArrayView profile);
 
 }  // namespace varnel

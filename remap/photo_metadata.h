@@ -49,7 +49,7 @@ struct PhotoMetadata {
     std::uint32_t xmpPlace = 0;  // where in it descriptions of a subject may be added
     PhotoOrigin origin;
     PictureSettings settings;  // that made the photo, when Varnel wrote it
-    QStringList notes;         // what of the photo's metadata is not here, and why
+    QStringList notes;         // "written without ...": what the photo's file has and why not here
 
     bool IsEmpty() const { return exif.bytes.isEmpty() && iptc.isEmpty() && xmp.isEmpty(); }
 };

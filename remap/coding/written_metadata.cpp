@@ -52,6 +52,7 @@ class Assembly {
             photo_.exif = {};
         }
         result_.isOfPhoto = !photo_.IsEmpty();
+        result_.notes = photo_.notes;
     }
 
     bool IsNeeded() const { return result_.isOfPhoto || !settings_.isEmpty(); }

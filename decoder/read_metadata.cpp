@@ -1,0 +1,220 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/read_metadata.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QStringList>
+#include <exception>
+#include <exiv2/exiv2.hpp>
+#include <functional>
+#include <string>
+
+#include "decoder/exif_block.h"
+#include "decoder/true_colour.h"
+#include "decoder/xmp_packet.h"
+
+namespace varnel {
+
+namespace {
+
+// The bytes of an open file, mapped where that can be done.
+class FileBytes {
+  public:
+    explicit FileBytes(std::FILE* file) {
+        if (!file_.open(file, QIODevice::ReadOnly)) {
+            return;
+        }
+        length_ = file_.size();
+        bytes_ = file_.map(0, length_);
+        if (bytes_ == nullptr) {
+            read_ = file_.readAll();
+            length_ = read_.size();
+            bytes_ = reinterpret_cast<const uchar*>(read_.constData());
+        }
+    }
+    const Exiv2::byte* Bytes() const { return bytes_; }
+    long Length() const { return static_cast<long>(length_); }
+
+  private:
+    QFile file_;
+    QByteArray read_;
+    const uchar* bytes_ = nullptr;
+    qint64 length_ = 0;
+};
+
+// The kinds of metadata that the library gave up on: it tells of that in its messages only.
+QStringList& GivenUp() {
+    thread_local QStringList kinds;
+    return kinds;
+}
+
+void Listen(int /*level*/, const char* message) {
+    static const QRegularExpression failure(
+        QStringLiteral("^Failed to decode (Exif|IPTC|XMP) metadata"));
+    const auto match = failure.match(QString::fromUtf8(message));
+    if (match.hasMatch()) {
+        GivenUp().append(match.captured(1));
+    }
+}
+
+QString Text(const Exiv2::ExifData& data, const char* key) {
+    const auto datum = data.findKey(Exiv2::ExifKey(key));
+    return datum == data.end() ? QString() : QString::fromStdString(datum->toString()).trimmed();
+}
+
+float Number(const Exiv2::ExifData& data, const char* key) {
+    const auto datum = data.findKey(Exiv2::ExifKey(key));
+    if (datum == data.end() || datum->count() == 0 || datum->toRational().second == 0) {
+        return 0.0F;
+    }
+    return datum->toFloat();
+}
+
+// What the maker note's number stands for by the library's tables; empty when it has no name.
+QString LensByMakerNote(const Exiv2::ExifData& data) {
+    const auto datum = Exiv2::lensName(data);
+    if (datum == data.end()) {
+        return {};
+    }
+    const QString name = QString::fromStdString(datum->print(&data)).trimmed();
+    const bool isName = !name.startsWith(u'(') && name.contains(QStringLiteral("mm"));
+    return isName ? name : QString();
+}
+
+PhotoOrigin OriginOf(const Exiv2::ExifData& data) {
+    PhotoOrigin origin{.Make = Text(data, "Exif.Image.Make"),
+                       .Model = Text(data, "Exif.Image.Model"),
+                       .LensMake = Text(data, "Exif.Photo.LensMake"),
+                       .LensModel = Text(data, "Exif.Photo.LensModel"),
+                       .FocalLength = Number(data, "Exif.Photo.FocalLength"),
+                       .FNumber = Number(data, "Exif.Photo.FNumber")};
+    // "----" and the like, or the bare "8mm" of a camera that does not know the lens.
+    constexpr qsizetype shortestName = 6;
+    if (origin.LensModel.size() < shortestName || origin.LensModel.startsWith(u'-')) {
+        const QString name = LensByMakerNote(data);
+        origin.LensModel = name.isEmpty() ? origin.LensModel : name;
+    }
+    return origin;
+}
+
+class Reading {
+  public:
+    Reading(std::FILE* file, const MetadataRequest& request) : bytes_(file), request_(request) {}
+
+    FileMetadata Answer() {
+        Try(QStringLiteral("metadata"), [this] { Read(); });
+        Try(QStringLiteral("EXIF"), [this] { TakeExif(); });
+        Try(QStringLiteral("IPTC"), [this] { TakeIptc(); });
+        Try(QStringLiteral("XMP"), [this] { TakeXmp(); });
+        if (result_.metadata.xmp.isEmpty()) {  // broken, so it begins anew
+            Try(QStringLiteral("XMP"), [this] { FillXmp({}, true, result_.metadata); });
+        }
+        if (result_.metadata.exif.bytes.isEmpty()) {
+            Try(QStringLiteral("EXIF"), [this] {
+                FillExif({}, {request_.size, true}, result_.metadata);
+            });
+        }
+        return std::move(result_);
+    }
+
+  private:
+    void Try(const QString& what, const std::function<void()>& step) {
+        try {
+            step();
+        } catch (const std::exception&) {
+            Note(what);
+        } catch (...) {  // whatever else the library may throw
+            Note(what);
+        }
+    }
+    void Note(const QString& what) {
+        const QString note = QStringLiteral("written without its %1: it cannot be read").arg(what);
+        if (!result_.metadata.notes.contains(note)) {
+            result_.metadata.notes.append(note);
+        }
+    }
+
+    // What was read before an error stays.
+    void Read() {
+        constexpr int unknown = 0;
+        if (bytes_.Bytes() == nullptr ||
+            Exiv2::ImageFactory::getType(bytes_.Bytes(), bytes_.Length()) == unknown) {
+            return;
+        }
+        auto image = Exiv2::ImageFactory::open(bytes_.Bytes(), bytes_.Length());
+        GivenUp().clear();
+        try {
+            image->readMetadata();
+        } catch (const std::exception&) {
+            Note(QStringLiteral("metadata"));
+        }
+        for (const QString& kind : GivenUp()) {
+            Note(kind == QStringLiteral("Exif") ? QStringLiteral("EXIF") : kind);
+        }
+        exif_ = image->exifData();
+        iptc_ = image->iptcData();
+        xmp_ = image->xmpData();
+        if (image->byteOrder() != Exiv2::invalidByteOrder) {
+            order_ = image->byteOrder();
+        }
+        if (image->iccProfileDefined() && image->iccProfile()->size_ > 0) {
+            result_.colourProfile =
+                QByteArray(reinterpret_cast<const char*>(image->iccProfile()->pData_),
+                           static_cast<qsizetype>(image->iccProfile()->size_));
+        }
+        if (!IsProfileForRgb(result_.colourProfile)) {
+            result_.colourProfile.clear();
+        }
+    }
+
+    void TakeExif() {
+        result_.metadata.origin = OriginOf(exif_);
+        FillExif(exif_, {request_.size, request_.upright, order_}, result_.metadata);
+    }
+    void TakeIptc() {
+        if (!iptc_.empty()) {
+            const Exiv2::DataBuf bytes = Exiv2::IptcParser::encode(iptc_);
+            result_.metadata.iptc = QByteArray(reinterpret_cast<const char*>(bytes.pData_),
+                                               static_cast<qsizetype>(bytes.size_));
+        }
+    }
+    void TakeXmp() { FillXmp(xmp_, request_.upright, result_.metadata); }
+
+    FileBytes bytes_;
+    MetadataRequest request_;
+    Exiv2::ExifData exif_;
+    Exiv2::IptcData iptc_;
+    Exiv2::XmpData xmp_;
+    Exiv2::ByteOrder order_ = Exiv2::littleEndian;
+    FileMetadata result_;
+};
+
+void Prepare() {
+    Exiv2::LogMsg::setLevel(Exiv2::LogMsg::warn);
+    Exiv2::LogMsg::setHandler(&Listen);
+    RegisterSettingsNamespace();
+    Exiv2::ExifData camera;  // looks for the user's own lens names
+    camera["Exif.Image.Make"] = "Canon";
+    camera["Exif.CanonCs.LensType"] = std::uint16_t{0};
+    LensByMakerNote(camera);
+}
+
+}  // namespace
+
+FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request) {
+    try {
+        PrepareMetadata();
+        return Reading(file, request).Answer();
+    } catch (const std::exception&) {  // no memory
+        return {};
+    }
+}
+
+void PrepareMetadata() {
+    static const bool prepared = (Prepare(), true);
+    static_cast<void>(prepared);
+}
+
+}  // namespace varnel

@@ -15,6 +15,7 @@
 
 #include "pipeline/batch_checks.h"
 #include "remap/run_time_error.h"
+#include "state/picture_settings.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"
@@ -297,6 +298,7 @@ class RealRun : public ::testing::Test {
         SilentProgress silent;
         RenderDesk desk{bitmaps};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
+        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings);
         const QString path = files.Path(Q("single"));
         SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
                    SaveFlags(choices.type, choices.jpegQuality, choices.chroma444));

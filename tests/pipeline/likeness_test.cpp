@@ -88,16 +88,6 @@ TEST_F(Likenesses, APhotoThatWasMovedIsFoundBesideThePictureOrMissed) {
     EXPECT_EQ(Add({files.Path(Q("results/a & b.jpg"))}).missing.size(), 1);
 }
 
-TEST_F(Likenesses, PicturesOfOtherTypesOrWithoutSettingsAreOrdinary) {
-    const QString plain = files.Picture(Q("plain.jpg"), FIF_JPEG);
-    const QString text = files.Text(Q("text.png"));
-    const AddedFiles added = Add({plain, text, files.Path(Q("none.tif")), files.Path(Q("c.bmp"))});
-    EXPECT_EQ(added.like, 0);
-    EXPECT_TRUE(added.missing.isEmpty());
-    EXPECT_EQ(images.UpperBound(), 4);
-    EXPECT_FALSE(images(1).SettingsApplied);
-}
-
 TEST_F(Likenesses, AfterGivingUpTheOtherFilesAreAddedAsTheyAre) {
     class OneTurn : public ReadingWait {
       public:

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "decoder/exif_block.h"
+#include "decoder/picture_file.h"
 #include "decoder/true_colour.h"
 #include "decoder/xmp_packet.h"
 
@@ -101,7 +102,8 @@ PhotoOrigin OriginOf(const Exiv2::ExifData& data) {
 
 class Reading {
   public:
-    Reading(std::FILE* file, const MetadataRequest& request) : bytes_(file), request_(request) {}
+    Reading(std::FILE* file, const MetadataRequest& request)
+        : file_(file), bytes_(file), request_(request) {}
 
     FileMetadata Answer() {
         Try(QStringLiteral("metadata"), [this] { Read(); });
@@ -169,9 +171,30 @@ class Reading {
         }
     }
 
+    // As they were loaded: raw files are always developed upright, others that are not known to be
+    // turned by us never are.
+    bool PixelsAreUpright() const {
+        const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+        if (told == exif_.end() || told->toLong() == 1) {
+            return true;
+        }
+        switch (PictureFile(file_).Format()) {
+            case FIF_RAW:
+                return true;
+            case FIF_JPEG:
+            case FIF_PNG:
+            case FIF_TIFF:
+            case FIF_WEBP:
+                return request_.upright;
+            default:
+                return false;
+        }
+    }
+
     void TakeExif() {
+        upright_ = PixelsAreUpright();
         result_.metadata.origin = OriginOf(exif_);
-        FillExif(exif_, {request_.size, request_.upright, order_}, result_.metadata);
+        FillExif(exif_, {request_.size, upright_, order_}, result_.metadata);
     }
     void TakeIptc() {
         if (!iptc_.empty()) {
@@ -180,8 +203,10 @@ class Reading {
                                                static_cast<qsizetype>(bytes.size_));
         }
     }
-    void TakeXmp() { FillXmp(xmp_, request_.upright, result_.metadata); }
+    void TakeXmp() { FillXmp(xmp_, upright_, result_.metadata); }
 
+    std::FILE* file_;
+    bool upright_ = true;
     FileBytes bytes_;
     MetadataRequest request_;
     Exiv2::ExifData exif_;

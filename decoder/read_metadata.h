@@ -14,7 +14,7 @@ namespace varnel {
 
 struct MetadataRequest {
     PixelSize size{};     // of the picture as it was loaded, pixels; 0 x 0 when it was not
-    bool upright = true;  // the pixels stand as they are to be seen, whatever the file says
+    bool upright = true;  // the pixels were to be turned as the file says
 };
 
 // Reads the open file (position anywhere). What is broken is left out and said in the notes; never

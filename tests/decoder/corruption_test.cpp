@@ -48,7 +48,6 @@ TEST(SeedFiles, SoundOnesLoadInTheirSizeOrAreRefusedWithAReason) {
         if (picture.bitmap) {
             EXPECT_EQ(picture.size.width, seed.size.width) << seed.name;
             EXPECT_EQ(picture.size.height, seed.size.height) << seed.name;
-            // The library reads no profile from PNG files.
             const bool described = seed.name.find("described") != std::string::npos;
             EXPECT_EQ(HasProfile(picture), described) << seed.name;
         }

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Something drawn over a picture of the main window that may also take the mouse: a grid, a frame,
+// a circle. Points are in pixels of the full picture from its top left corner, x to the right, y
+// down; the middle of the first pixel is (0.5, 0.5).
+#pragma once
+
+#include <QCursor>
+#include <QPainter>
+#include <QPointF>
+#include <QSize>
+#include <QTransform>
+#include <optional>
+
+namespace varnel {
+
+struct OverlayInput {
+    QPointF point;       // where the mouse is
+    double reach = 0.0;  // picture pixels that still count as a hit
+    Qt::MouseButtons buttons;
+    Qt::KeyboardModifiers modifiers;
+};
+
+class PictureOverlay {
+  public:
+    virtual ~PictureOverlay() = default;
+    // toWidget takes points of the picture to the painter's.
+    virtual void Paint(QPainter& painter, const QTransform& toWidget, QSize picture) = 0;
+    // True takes the mouse: Move and Release then come here.
+    virtual bool Press(const OverlayInput& /*input*/) { return false; }
+    virtual void Move(const OverlayInput& /*input*/) {}
+    virtual void Release(const OverlayInput& /*input*/) {}
+    // Steps of the wheel, away from the user is positive; true when they were used.
+    virtual bool Wheel(const OverlayInput& /*input*/, double /*steps*/) { return false; }
+    // What the mouse would take hold of there; nothing when it is not this overlay's.
+    virtual std::optional<QCursor> CursorAt(const OverlayInput& /*input*/) const {
+        return std::nullopt;
+    }
+};
+
+}  // namespace varnel

@@ -3,6 +3,7 @@
 
 #include "app/window_view.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QSignalBlocker>
@@ -33,6 +34,15 @@ PixelSize WindowView::PictureRoom() const {
     return DevicePixels(parts_.pictures->Room(), window_->devicePixelRatioF());
 }
 
+QSize WindowView::FullSize() const {
+    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    if (full == nullptr) {
+        return {};
+    }
+    const PixelSize size = SizeOf(full);
+    return {size.width, size.height};
+}
+
 void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
     parts_.list->Fill(images);
     {
@@ -54,6 +64,11 @@ void WindowView::ShowOffer() {
         const ImageRecord& image = state_.Images(n);
         offer = OfferFor(MetadataOf(photo).origin, state_.Gear,
                          {image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel});
+        if (const QString trouble = ShapeTrouble(image);
+            !trouble.isEmpty() && !offer.line.isEmpty()) {
+            offer.line += QCoreApplication::translate("GearOffer", " (cropped?)");
+            offer.reason += (offer.reason.isEmpty() ? QString() : QStringLiteral("\n")) + trouble;
+        }
     }
     parts_.offer->Show(offer, state_.Gear);
 }

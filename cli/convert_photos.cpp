@@ -10,6 +10,7 @@
 
 #include "cli/convert_file.h"
 #include "cli/progress_bar.h"
+#include "gear/gear_offer.h"
 #include "pipeline/photo_feed.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
@@ -119,6 +120,10 @@ class Conversions {
                         loaded.outcome == LoadOutcome::Damaged};
         photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
         photo.bitmaps.ResultBitmap = std::move(spare_);
+        if (const QString doubt = run_.gears.forAll ? QString() : ShapeTrouble(photo.record);
+            !doubt.isEmpty()) {
+            Complain(console_, photo.path + QStringLiteral(": ") + doubt);
+        }
         const std::vector<ImageRecord> records = RecordsFor(run_, photo.record);
         for (const ImageRecord& record : records) {
             const bool last = &record == &records.back();

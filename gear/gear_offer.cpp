@@ -4,6 +4,8 @@
 #include "gear/gear_offer.h"
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <cmath>
 
 namespace varnel {
 
@@ -32,6 +34,28 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Gear
         offer.define = !HasCameraOf(photo.names, current);
     }
     return offer;
+}
+
+QString ShapeTrouble(const ImageRecord& image) {
+    constexpr double tolerance = 0.03;
+    const auto longToShort = [](double a, double b) { return std::max(a, b) / std::min(a, b); };
+    const double sides[] = {static_cast<double>(image.Width), static_cast<double>(image.Height),
+                            static_cast<double>(image.SensorWidth),
+                            static_cast<double>(image.SensorHeight)};
+    if (!std::ranges::all_of(sides, [](double side) { return side > 0.0; })) {
+        return {};
+    }
+    const double picture = longToShort(sides[0], sides[1]);
+    const double sensor = longToShort(sides[2], sides[3]);
+    if (std::fabs(picture / sensor - 1.0) <= tolerance) {
+        return {};
+    }
+    return QCoreApplication::translate(
+               "GearOffer",
+               "its shape, %1 : 1, is not the sensor's, %2 : 1; if it was cropped, the gear's "
+               "numbers do not fit")
+        .arg(picture, 0, 'f', 2)
+        .arg(sensor, 0, 'f', 2);
 }
 
 }  // namespace varnel

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "gear/photo_gear.h"
+#include "state/image_record.h"
 
 namespace varnel {
 
@@ -22,5 +23,10 @@ struct GearOffer {
 
 // A photo that has its gear already, or one with the same camera and lens, gets no offer.
 GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const GearNames& current);
+
+// Why the gear's numbers may not fit the record's picture, though it took the photo: the picture
+// has another shape than the sensor, as after cropping. Empty when it has the same, within 3 %, or
+// when a side is not known.
+QString ShapeTrouble(const ImageRecord& image);
 
 }  // namespace varnel

@@ -324,5 +324,23 @@ TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
     }
 }
 
+TEST(ShapeTrouble, DoubtsPicturesThatAreNoWholeSensor) {
+    const struct {
+        std::int16_t width, height;
+        float sensorWidth, sensorHeight;
+        bool doubted;
+    } cases[] = {{6000, 4000, 23.5F, 15.6F, false}, {4000, 6000, 23.5F, 15.6F, false},
+                 {1600, 1600, 35.9F, 24.0F, true},  {1920, 1080, 6.17F, 4.55F, true},
+                 {0, 0, 23.5F, 15.6F, false},       {600, 400, 0.0F, 0.0F, false}};
+    for (const auto& c : cases) {
+        ImageRecord image;
+        image.Width = c.width;
+        image.Height = c.height;
+        image.SensorWidth = c.sensorWidth;
+        image.SensorHeight = c.sensorHeight;
+        EXPECT_EQ(!ShapeTrouble(image).isEmpty(), c.doubted) << c.width << " x " << c.height;
+    }
+}
+
 }  // namespace
 }  // namespace varnel

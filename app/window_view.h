@@ -48,8 +48,10 @@ class WindowView : public DeskView {
 
     void ShowList(const RecordArray<ImageRecord>& images, int line) override;
     void ShowRecord(const ImageRecord& image) override;
-    void ShowSource(FIBITMAP* bitmap) override { parts_.pictures->From()->Show(bitmap); }
-    void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap); }
+    void ShowSource(FIBITMAP* bitmap) override {
+        parts_.pictures->From()->Show(bitmap, FullSize());
+    }
+    void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap, FullSize()); }
     void ShowTrouble(const QString& text) override { parts_.pictures->ShowTrouble(text); }
     void ShowStatus(const QString& text) override { parts_.status->setText(text); }
     void HandleEvents() override { progress_.HandleEvents(); }
@@ -72,6 +74,8 @@ class WindowView : public DeskView {
     void WhenListShown(std::function<void()> then) { whenListShown_ = std::move(then); }
 
   private:
+    QSize FullSize() const;  // of the current photo
+
     QMainWindow* window_;
     WindowParts parts_;
     const WorkingState& state_;

@@ -32,15 +32,6 @@ QByteArray ProcessStatus(pid_t id) {
     return testing::Contents(Q("/proc/%1/status").arg(id));
 }
 
-bool SameRows(FIBITMAP* a, FIBITMAP* b) {
-    for (int y = 0; y < SizeOf(a).height; ++y) {
-        if (!std::ranges::equal(ScanLine(a, y), ScanLine(b, y))) {
-            return false;
-        }
-    }
-    return true;
-}
-
 TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
     const PictureFolder folder;
     BitmapHandle photo = testing::PositionPicture({300, 200});
@@ -59,7 +50,7 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
         const LoadedPicture picture = ReadPicture(reader, {folder.Path(Q("a"))});
         ASSERT_TRUE(picture.bitmap) << picture.reason.toStdString();
         FIBITMAP* const bitmap = picture.bitmap.get();
-        EXPECT_TRUE(SameRows(bitmap, direct.get()));
+        EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
         EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
         EXPECT_EQ(FreeImage_GetDotsPerMeterX(bitmap), 11811U);
         EXPECT_TRUE(MetadataOf(bitmap).xmp.contains("a lake"));
@@ -96,7 +87,7 @@ TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
         }
         const LoadedPicture picture = reader.Take();
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << n << picture.reason.toStdString();
-        EXPECT_TRUE(SameRows(picture.bitmap.get(), whole.bitmap.get()));
+        EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), whole.bitmap.get()));
     }
 }
 

@@ -28,15 +28,6 @@ BitmapHandle Loaded(QByteArray file, int flags = JPEG_ACCURATE) {
     return bitmap;
 }
 
-bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
-    bool same = FreeImage_GetWidth(one) == FreeImage_GetWidth(other) &&
-                FreeImage_GetHeight(one) == FreeImage_GetHeight(other);
-    for (int y = 0; same && y < SizeOf(one).height; ++y) {
-        same = std::ranges::equal(ScanLine(one, y), ScanLine(other, y));
-    }
-    return same;
-}
-
 // Slopes, edges and grain.
 BitmapHandle Picture(PixelSize size) {
     BitmapHandle bitmap = NewBitmap(size);
@@ -74,7 +65,7 @@ void ExpectLikeTheLibrarys(FIBITMAP* bitmap, int flags) {
     const LibraryMessages messages;  // one comes for a marker that is not where it should be
     const BitmapHandle picture = Loaded(*file);
     ASSERT_TRUE(picture);
-    EXPECT_TRUE(SamePixels(picture.get(), Loaded(expected).get()));
+    EXPECT_TRUE(testing::SamePixels(picture.get(), Loaded(expected).get()));
     EXPECT_TRUE(messages.Lines().isEmpty()) << messages.Lines().first().toStdString();
 }
 

@@ -90,14 +90,6 @@ BitmapHandle Loaded(FREE_IMAGE_FORMAT format, QByteArray file) {
     return bitmap;
 }
 
-bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
-    bool same = one != nullptr && SizeOf(one).height == SizeOf(other).height;
-    for (int y = 0; same && y < SizeOf(one).height; ++y) {
-        same = std::ranges::equal(ScanLine(one, y), ScanLine(other, y));
-    }
-    return same;
-}
-
 // The bytes are the block's own with the size and the thumbnail of the seeds' picture.
 void ExpectNewExif(QByteArray bytes, const PhotoMetadata& metadata, Order order) {
     const ExifBlock& exif = metadata.exif;
@@ -182,7 +174,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAPngFile) {
             EXPECT_TRUE(text.startsWith(QByteArray("Raw profile type iptc\0\0", 23)));
             EXPECT_EQ(qUncompress(Number(1000, 4, Order::Big) + text.mid(23)),
                       "\niptc\n      20\n3842494d04040000000000071c02050001542100\n");
-            EXPECT_TRUE(SamePixels(Loaded(FIF_PNG, file.bytes).get(), photo.get()));
+            EXPECT_TRUE(testing::SamePixels(Loaded(FIF_PNG, file.bytes).get(), photo.get()));
         }
     }
 }
@@ -229,7 +221,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoATiffFile) {
         ASSERT_EQ(profile.size(), 12);
         const QByteArray hidden = Number(34674, 2, order) + profile.mid(2);
         const BitmapHandle read = Loaded(FIF_TIFF, QByteArray(file).replace(profile, hidden));
-        EXPECT_TRUE(SamePixels(read.get(), photo.get()));
+        EXPECT_TRUE(testing::SamePixels(read.get(), photo.get()));
     }
 }
 

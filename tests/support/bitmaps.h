@@ -4,6 +4,7 @@
 // Small pictures for tests. Rows count from the bottom.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 
 #include "remap/bitmap.h"
@@ -38,6 +39,14 @@ inline RGBQUAD PixelAt(FIBITMAP* bitmap, int x, int y) {
 
 inline bool operator==(const RGBQUAD& a, const RGBQUAD& b) {
     return a.rgbBlue == b.rgbBlue && a.rgbGreen == b.rgbGreen && a.rgbRed == b.rgbRed;
+}
+
+inline bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
+    bool same = one != nullptr && other != nullptr && SizeOf(one).height == SizeOf(other).height;
+    for (int y = 0; same && y < SizeOf(one).height; ++y) {
+        same = std::ranges::equal(ScanLine(one, y), ScanLine(other, y));
+    }
+    return same;
 }
 
 inline bool IsBlack(FIBITMAP* bitmap, int x, int y) {

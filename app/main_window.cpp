@@ -124,6 +124,8 @@ void MDIForm1::BuildMenus() {
              &MDIForm1::AddImages);
     file->addSeparator()->setObjectName(QStringLiteral("Sep2"));
     AddEntry(file, "CmdFileExit", tr("&Exit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &MDIForm1::Quit);
+    parts_.editMenu = menuBar()->addMenu(tr("&Edit"));
+    parts_.viewMenu = menuBar()->addMenu(tr("&View"));
     QMenu* const setup = menuBar()->addMenu(tr("&Setup"));
     AddEntry(setup, "CmdSetupEquipment", tr("&Manage equipment"), {}, &MDIForm1::ManageGears);
     AddEntry(setup, "CmdSetupSetup", tr("&Defaults"), QKeySequence::Preferences,

@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPointer>
 #include <functional>
 
@@ -26,6 +27,8 @@ struct WindowParts {
     GearOfferRow* offer = nullptr;
     PictureArea* pictures = nullptr;
     QWidget* column = nullptr;  // the whole side column
+    QMenu* editMenu = nullptr;
+    QMenu* viewMenu = nullptr;
     QProgressBar* bar = nullptr;
     QLabel* status = nullptr;
 };

@@ -15,6 +15,7 @@ inline constexpr QLatin1StringView General("setting");
 inline constexpr QLatin1StringView LastUsed("Settings");
 inline constexpr QLatin1StringView Gear("Gear");
 inline constexpr QLatin1StringView Revision("Revision");
+inline constexpr QLatin1StringView Projects("Projects");
 
 // General settings.
 inline constexpr QLatin1StringView PreviewWidth("PreviewWidth");
@@ -54,6 +55,9 @@ inline constexpr QLatin1StringView GearOfsetY("GearOfsetY");
 inline constexpr QLatin1StringView GearRatio("GearRatio");
 inline constexpr QLatin1StringView HorizontalAov("hAOV");
 inline constexpr QLatin1StringView VerticalAov("vAOV");
+
+// A project file, followed by its number: 1 is the latest.
+inline constexpr QLatin1StringView Project("Project");
 
 // The update reminder.
 inline constexpr QLatin1StringView RevisionAge("RevisionAge");

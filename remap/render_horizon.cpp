@@ -3,77 +3,35 @@
 
 #include <cmath>
 #include <cstring>
-#include <limits>
 
 #include "remap/engine/batches.h"
 #include "remap/engine/node_lines.h"
-#include "remap/horizon_map.h"
+#include "remap/horizon_rows.h"
 #include "remap/record_maps.h"
+#include "remap/row_drawing.h"
 
 namespace varnel {
 
 namespace {
 
-// What an output row holds in the end, found out by writing whole rows in the order of the loops:
-// first black on both sides of the centre row, then the radii upward, each of which writes one row,
-// or beyond the circle black on both sides again.
-class RowOwners {
+class HorizonEngine : public RowDrawing {
   public:
-    RowOwners(const HorizonMap& map, std::int32_t height)
-        : owners_(static_cast<std::size_t>(height), nobody) {
-        const CircleRows& rows = map.Rows();
-        for (int r = 1; r <= rows.lastRow; ++r) {
-            Blacken(rows.centreY, r);
-        }
-        for (int r = map.FirstRadius(); r <= rows.lastRow; ++r) {
-            if (map.Blank(r)) {
-                Blacken(rows.centreY, r);
-            } else {
-                Take(map.OutputRow(r), r);
-            }
-        }
-    }
-    bool Has(std::int32_t row, int r) const { return Exists(row) && At(row) == r; }
-    bool Black(std::int32_t row) const { return At(row) == black_; }
-    bool Nobody(std::int32_t row) const { return At(row) == nobody; }
-
-  private:
-    static constexpr int nobody = std::numeric_limits<int>::min();
-    static constexpr int black_ = nobody + 1;
-
-    bool Exists(std::int32_t row) const {
-        return row >= 0 && row < static_cast<std::int32_t>(owners_.size());
-    }
-    int At(std::int32_t row) const { return owners_[static_cast<std::size_t>(row)]; }
-    void Take(std::int32_t row, int owner) {
-        if (Exists(row)) {
-            owners_[static_cast<std::size_t>(row)] = owner;
-        }
-    }
-    void Blacken(std::int32_t centre, int r) {
-        Take(centre + r, black_);
-        Take(centre - r, black_);
-    }
-    std::vector<int> owners_;
-};
-
-class HorizonEngine {
-  public:
-    HorizonEngine(const RenderRun& run, const HorizonMap& map)
-        : run_(run),
+    HorizonEngine(const RenderSurface& surface, const HorizonMap& map)
+        : surface_(surface),
           map_(map),
-          owners_(map, run.Size().height),
-          source_(SourceView::Of(run.Source())),
-          target_(TargetView::Of(run.Result())) {}
+          owners_(map, surface.Size().height),
+          source_(SourceView::Of(surface.Source())),
+          target_(TargetView::Of(surface.Result())) {}
 
     void FillUnownedRows() const {
-        const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
         for (std::int32_t row = 0; row < target_.height; ++row) {
-            if (owners_.Black(row)) {
-                std::memset(target_.At(0, row), 0, bytes);
-            } else if (owners_.Nobody(row)) {
-                std::memcpy(target_.At(0, row), source_.bits + row * source_.pitch, bytes);
-            }
+            FillUnownedRow(row);
+        }
+    }
+    void DrawRow(std::int32_t row) override {
+        if (!FillUnownedRow(row)) {
+            PrepareColumns(owners_.Radius(row));
+            DrawRadii(owners_.Radius(row), owners_.Radius(row));
         }
     }
 
@@ -81,19 +39,35 @@ class HorizonEngine {
     // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
     void Draw(int r, int count) {
         PrepareColumns(r);
-        DrawBlocks(run_, r, count, 16, [this](int from, int to) {
-            const int columns = map_.Rows().lastColumn + 1;
-            for (int first = 0; first < columns; first += pieceColumns) {
-                const int pieceEnd = std::min(first + pieceColumns, columns);
-                for (int n = from; n <= to; ++n) {
-                    DrawPiece(n, first, pieceEnd);
-                }
-            }
-        });
+        DrawBlocks(surface_, r, count, 16, [this](int from, int to) { DrawRadii(from, to); });
     }
 
   private:
     static constexpr int pieceColumns = 256;
+
+    // False for the row of a radius.
+    bool FillUnownedRow(std::int32_t row) const {
+        const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
+        if (owners_.Black(row)) {
+            std::memset(target_.At(0, row), 0, bytes);
+            return true;
+        }
+        if (owners_.Nobody(row)) {
+            std::memcpy(target_.At(0, row), source_.bits + row * source_.pitch, bytes);
+            return true;
+        }
+        return false;
+    }
+
+    void DrawRadii(int from, int to) const {
+        const int columns = map_.Rows().lastColumn + 1;
+        for (int first = 0; first < columns; first += pieceColumns) {
+            const int pieceEnd = std::min(first + pieceColumns, columns);
+            for (int n = from; n <= to; ++n) {
+                DrawPiece(n, first, pieceEnd);
+            }
+        }
+    }
 
     // The angles of the columns, as soon as a radius within the circle needs them.
     void PrepareColumns(int first) {
@@ -125,7 +99,7 @@ class HorizonEngine {
                         static_cast<double>(r),
                         cosines_.data(),
                         sines_.data(),
-                        run_.Nearest()};
+                        surface_.Nearest()};
         // The left half comes last and so has the centre column.
         for (const int sign : {1, -1}) {
             const Clip clip = Clip::Of(centre, sign, end, target_.width);
@@ -136,8 +110,8 @@ class HorizonEngine {
         }
     }
 
-    const RenderRun& run_;
-    const HorizonMap& map_;
+    const RenderSurface& surface_;
+    HorizonMap map_;
     RowOwners owners_;
     SourceView source_;
     TargetView target_;
@@ -157,6 +131,11 @@ void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& prog
     DrawLines(
         run, map.FirstRadius(), rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },
         [&](int r) { run.Advance(static_cast<float>(r + rows.upperHalf)); });
+}
+
+std::unique_ptr<RowDrawing> HorizonRows(const ImageRecord& image, const RenderSurface& surface) {
+    return std::make_unique<HorizonEngine>(surface,
+                                           HorizonMap(CircleViewOf(image, surface.Size())));
 }
 
 }  // namespace varnel

@@ -7,10 +7,11 @@
 #pragma once
 
 #include <limits>
+#include <optional>
 
 #include "remap/engine/node_lines.h"
 #include "remap/engine/node_maps.h"
-#include "remap/render_run.h"
+#include "remap/row_drawing.h"
 
 namespace varnel {
 
@@ -41,6 +42,11 @@ class AxisOwners {
         return place >= 0 && place < static_cast<std::int32_t>(owners_.size()) &&
                owners_[static_cast<std::size_t>(place)] == n;
     }
+    // The position that stays at a place; nothing where none is written.
+    std::optional<int> OwnerOf(std::int32_t place) const {
+        const int owner = owners_[static_cast<std::size_t>(place)];
+        return owner == none ? std::nullopt : std::optional(owner);
+    }
     // Neighbouring positions go to neighbouring places.
     bool Contiguous() const { return contiguous_; }
     bool Covers() const { return std::ranges::find(owners_, none) == owners_.end(); }
@@ -53,25 +59,33 @@ class AxisOwners {
     bool contiguous_ = true;
 };
 
-class RotatedEngine {
+class RotatedEngine : public RowDrawing {
   public:
-    RotatedEngine(const RenderRun& run, const RotatedRectilinearMap& map,
-                  const CentreAndExtents& centre, const AxisOwners& columns,
-                  const AxisOwners& rows);
+    RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
+                  const CentreAndExtents& centre);
+    RotatedEngine(const RotatedEngine&) = delete;
+    RotatedEngine& operator=(const RotatedEngine&) = delete;
+
+    const AxisOwners& Columns() const { return columns_; }
+    // Every pixel is written.
+    bool Covers() const { return covers_; }
     // Positions x to x + count - 1, all rows.
     void Draw(int x, int count) const;
+    void DrawRow(std::int32_t row) override;
 
   private:
+    NodeLine LineOf(int x, int count) const;
     void DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const;
     void ScatterLine(const NodeLine& line, const std::vector<std::uint8_t>& pixels,
                      std::uint8_t* row) const;
 
-    const RenderRun& run_;
-    const RotatedRectilinearMap& map_;
+    const RenderSurface& surface_;
+    RotatedRectilinearMap map_;
     RotatedRectilinearNodes nodes_;
     CentreAndExtents centre_;
-    const AxisOwners& columns_;
-    const AxisOwners& rows_;
+    AxisOwners columns_;
+    AxisOwners rows_;
+    bool covers_;
     SourceView source_;
     TargetView target_;
 };

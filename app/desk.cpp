@@ -291,6 +291,19 @@ void Desk::ChooseGear() {
     Preview();
 }
 
+void Desk::AdoptTile(const ContactTile& tile) {
+    if (Busy() || Current() == nullptr) {
+        return;
+    }
+    for (const int line : view_.SelectedLines()) {
+        ImageRecord& image = state_.Images(line + 1);
+        Prepare(image);
+        Adopt(tile, image);
+    }
+    ShowInControls(*Current());
+    Preview();
+}
+
 void Desk::UseGear(int gear) {
     if (Busy() || Current() == nullptr || gear < 1 || gear > state_.Gear.UpperBound()) {
         return;

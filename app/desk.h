@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "pipeline/contact_sheet.h"
 #include "pipeline/file_chooser.h"
 #include "pipeline/photo_loader.h"
 #include "remap/engine/thread_runner.h"
@@ -74,9 +75,10 @@ class Desk {
     void StoreControls(bool withPreview);
     // The gear selector was used: gives its gear to the selected photos.
     void ChooseGear();
-    void UseGear(int gear);  // of the table, for the current photo
-    void ApplyGear();        // to all
-    void ApplySettings();    // of the current photo, to all
+    void AdoptTile(const ContactTile& tile);  // of the contact sheet, for the selected photos
+    void UseGear(int gear);                   // of the table, for the current photo
+    void ApplyGear();                         // to all
+    void ApplySettings();                     // of the current photo, to all
 
     void ImagesAdded();
     // Dropped files. For a picture that Varnel made of a photo, that photo with the settings that

@@ -115,15 +115,20 @@ TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
         {Q("&About"), Q("CmdAboutAbout: &About")},
     };
     const WindowDesk desk;
-    const QList<QAction*> menus = desk.window.menuBar()->actions();
-    ASSERT_EQ(menus.size(), std::ssize(rows));
-    for (qsizetype n = 0; n < menus.size(); ++n) {
-        QStringList shown{menus[n]->text()};
-        for (const QAction* const entry : menus[n]->menu()->actions()) {
+    // Others may stand between them.
+    QStringList shown;
+    for (const QAction* const menu : desk.window.menuBar()->actions()) {
+        shown.append(menu->text());
+        for (const QAction* const entry : menu->menu()->actions()) {
             shown.append(entry->objectName() + Q(": ") + entry->text());
         }
-        EXPECT_EQ(shown, rows[n]);
     }
+    QStringList given;
+    for (const QStringList& row : rows) {
+        given += row;
+    }
+    shown.removeIf([&given](const QString& text) { return !given.contains(text); });
+    EXPECT_EQ(shown, given);
 }
 
 TEST(MainWindow, CaptionsFollowTheSliders) {

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/sheet_tools.h"
+
+#include <new>
+
+namespace varnel {
+
+SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
+                       const WorkingState& state, QObject* parent)
+    : QObject(parent),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      box_(new ContactSheetBox(parts.pictures)) {
+    QAction* const entry = parts_.viewMenu->addAction(tr("&Contact sheet"));
+    entry->setObjectName(QStringLiteral("CmdContactSheet"));
+    entry->setShortcut(Qt::Key_F6);
+    connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
+    connect(box_, &ContactSheetBox::Chosen, this,
+            [this](const ContactTile& tile) { desk_.AdoptTile(tile); });
+    // What the tiles show would no longer hold.
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &SheetTools::CloseSheet);
+}
+
+void SheetTools::Toggle() {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const ImageRecord* const image = desk_.Current();
+    if (box_->isVisible()) {
+        box_->hide();
+    } else if (photo != nullptr && image != nullptr && !desk_.Busy()) {
+        try {
+            box_->Open(*image, photo, view_.Antialiased());
+        } catch (const std::bad_alloc&) {
+            view_.ShowStatus(tr("There is not enough memory."));
+        }
+    }
+}
+
+}  // namespace varnel

@@ -3,6 +3,8 @@
 
 #include "remap/render.h"
 
+#include "remap/row_drawing.h"
+
 namespace varnel {
 
 QString ToText(SizeKind kind) {
@@ -36,6 +38,21 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
         case Projection::Horizon:
             return RenderHorizon(image, kind, progress, desk);
     }
+}
+
+std::unique_ptr<RowDrawing> RowsOf(Projection projection, const ImageRecord& image,
+                                   const RenderSurface& surface) {
+    switch (projection) {
+        case Projection::Varnel:
+            return VarnelRows(image, surface);
+        case Projection::Rectilinear:
+            return RectilinearRows(image, surface);
+        case Projection::Equidistance:
+            return EquidistanceRows(image, surface);
+        case Projection::Horizon:
+            break;
+    }
+    return HorizonRows(image, surface);
 }
 
 }  // namespace varnel

@@ -9,43 +9,61 @@
 
 namespace varnel {
 
+namespace {
+
+using PlainEngine = QuarterEngine<RectilinearMap, RectilinearNodes>;
+
+CentreAndExtents CentreOf(const ImageRecord& image, const RenderSurface& surface) {
+    return ImageCentre(surface.Size(), image.OfsetX, image.OfsetY);
+}
+
+PlainEngine PlainEngineOf(const ImageRecord& image, const RenderSurface& surface) {
+    const RectilinearMap map(RectilinearViewOf(image, surface.Size()));
+    return {surface, map, RectilinearNodes(map.Radius()), CentreOf(image, surface)};
+}
+
+RotatedRectilinearMap RotatedMapOf(const ImageRecord& image, const RenderSurface& surface) {
+    return {RectilinearViewOf(image, surface.Size()), CameraMoveOf(image)};
+}
+
+}  // namespace
+
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
                        RenderDesk& desk) {
     if (CameraMoveOf(image).Moves()) {
         return RenderRectilinearRotated(image, kind, progress, desk);
     }
     RenderRun run(kind, progress, desk, Canvas::Anything);
-    const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);
+    const CentreAndExtents centre = CentreOf(image, run);
     run.Begin(static_cast<float>(centre.left + 1));
-    const RectilinearMap map(RectilinearViewOf(image, run.Size()));
-    const RectilinearNodes nodes(map.Radius());
-    DrawQuarters(run, map, nodes, centre,
+    DrawQuarters(run, PlainEngineOf(image, run), centre.left,
                  [&](int x) { run.Advance(static_cast<float>(x + centre.left + 1)); });
 }
 
 void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
                               RenderDesk& desk) {
     RenderRun run(kind, progress, desk, Canvas::Anything);
-    const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);
+    const CentreAndExtents centre = CentreOf(image, run);
     run.Begin(static_cast<float>(centre.left + centre.right + 1));
-    const RotatedRectilinearMap map(RectilinearViewOf(image, run.Size()), CameraMoveOf(image));
-    const double tx = static_cast<double>(map.ShiftX());
-    const double ty = static_cast<double>(map.ShiftY());
-    const AxisOwners columns(
-        CLng(tx - centre.left, "TranslateX"), CLng(tx + centre.right, "TranslateX"),
-        run.Size().width,
-        [&](int x) { return CLng(static_cast<double>(centre.cx) + x - tx, "an output column"); });
-    const AxisOwners rows(CLng(ty - centre.bottom, "TranslateY"),
-                          CLng(ty + centre.top, "TranslateY"), run.Size().height, [&](int y) {
-                              return CLng(static_cast<double>(centre.cy) + y - ty, "an output row");
-                          });
-    if (!columns.Covers() || !rows.Covers()) {
+    const RotatedRectilinearMap map = RotatedMapOf(image, run);
+    const RotatedEngine engine(run, map, centre);
+    if (!engine.Covers()) {
         run.CopySource();
     }
-    const RotatedEngine engine(run, map, centre, columns, rows);
+    const double tx = static_cast<double>(map.ShiftX());
     DrawLines(
-        run, columns.First(), columns.Last(), [&](int x, int count) { engine.Draw(x, count); },
+        run, engine.Columns().First(), engine.Columns().Last(),
+        [&](int x, int count) { engine.Draw(x, count); },
         [&](int x) { run.Advance(CInt(x + (centre.left + 1.0) - tx, "the progress value")); });
+}
+
+std::unique_ptr<RowDrawing> RectilinearRows(const ImageRecord& image,
+                                            const RenderSurface& surface) {
+    if (CameraMoveOf(image).Moves()) {
+        return std::make_unique<RotatedEngine>(surface, RotatedMapOf(image, surface),
+                                               CentreOf(image, surface));
+    }
+    return std::make_unique<PlainEngine>(PlainEngineOf(image, surface));
 }
 
 }  // namespace varnel

@@ -27,11 +27,8 @@ void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
 }  // namespace
 
 RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, Canvas canvas)
-    : kind_(kind),
-      progress_(progress),
-      desk_(desk),
-      runner_(desk.runner != nullptr ? *desk.runner : serial_),
-      exceptionsBefore_(std::uncaught_exceptions()) {
+    : kind_(kind), progress_(progress), desk_(desk), exceptionsBefore_(std::uncaught_exceptions()) {
+    runner_ = desk.runner != nullptr ? desk.runner : &serial_;
     progress_.HandleEvents();
     Bitmaps& bitmaps = desk.bitmaps;
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
@@ -56,10 +53,14 @@ RenderRun::~RenderRun() {
     }
 }
 
-void RenderRun::CopySource() const {
-    for (int y = 0; y < Size().height; ++y) {
-        std::ranges::copy(ScanLine(source_, y), ScanLine(result_, y).begin());
+void RenderSurface::CopySource() const {
+    for (std::int32_t row = 0; row < Size().height; ++row) {
+        CopySourceRow(row);
     }
+}
+
+void RenderSurface::CopySourceRow(std::int32_t row) const {
+    std::ranges::copy(ScanLine(source_, row), ScanLine(result_, row).begin());
 }
 
 void RenderRun::Begin(float maximum) {

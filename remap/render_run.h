@@ -13,7 +13,31 @@ namespace varnel {
 // never written keeps its pixels, or anything, where every pixel will be written.
 enum class Canvas { CopyOfSource, Anything };
 
-class RenderRun {
+// What an engine reads from and writes to: two bitmaps of the same size.
+class RenderSurface {
+  public:
+    RenderSurface(FIBITMAP* source, FIBITMAP* result, BlockRunner& runner)
+        : source_(source), result_(result), runner_(&runner) {}
+
+    FIBITMAP* Source() const { return source_; }
+    FIBITMAP* Result() const { return result_; }
+    BlockRunner& Runner() const { return *runner_; }
+    PixelSize Size() const { return SizeOf(source_); }
+    // True when what is drawn next is read without interpolation.
+    bool Nearest() const { return nearest_; }
+    // The source's pixels into the result.
+    void CopySource() const;
+    void CopySourceRow(std::int32_t row) const;
+
+  protected:
+    RenderSurface() = default;
+    FIBITMAP* source_ = nullptr;
+    FIBITMAP* result_ = nullptr;
+    BlockRunner* runner_ = nullptr;
+    bool nearest_ = false;
+};
+
+class RenderRun : public RenderSurface {
   public:
     // Lets waiting events run once, picks the source by the kind, which must be there, and makes
     // ResultBitmap anew with the source's size, metadata and colour profile.
@@ -23,19 +47,11 @@ class RenderRun {
     RenderRun(const RenderRun&) = delete;
     RenderRun& operator=(const RenderRun&) = delete;
 
-    FIBITMAP* Source() const { return source_; }
-    FIBITMAP* Result() const { return result_; }
     SizeKind Kind() const { return kind_; }
-    BlockRunner& Runner() const { return runner_; }
-    PixelSize Size() const { return SizeOf(source_); }
-    // The source's pixels into the result.
-    void CopySource() const;
     // Shows the progress, which is taken away again at the end of the run.
     void Begin(float maximum);
     // Shows the value, lets waiting events run and asks anew how to read.
     void Advance(float value);
-    // True when this column or row is read without interpolation.
-    bool Nearest() const { return nearest_; }
     // Off the result nothing is written.
     void Write(std::int32_t x, std::int32_t y, const RGBQUAD& colour) const {
         SetPixelColor(result_, x, y, colour);
@@ -46,11 +62,7 @@ class RenderRun {
     RenderProgress& progress_;
     RenderDesk& desk_;
     SerialRunner serial_;
-    BlockRunner& runner_;
     int exceptionsBefore_;
-    FIBITMAP* source_ = nullptr;
-    FIBITMAP* result_ = nullptr;
-    bool nearest_ = false;
     bool begun_ = false;
 };
 

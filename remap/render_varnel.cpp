@@ -2,39 +2,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 #include "remap/engine/batches.h"
 #include "remap/engine/node_lines.h"
 #include "remap/record_maps.h"
+#include "remap/row_drawing.h"
 #include "remap/varnel_map.h"
 
 namespace varnel {
 
 namespace {
 
-class VarnelEngine {
+class VarnelEngine : public RowDrawing {
   public:
-    VarnelEngine(const RenderRun& run, const VarnelMap& map)
-        : run_(run),
+    VarnelEngine(const RenderSurface& surface, const VarnelMap& map)
+        : surface_(surface),
           map_(map),
-          source_(SourceView::Of(run.Source())),
-          target_(TargetView::Of(run.Result())) {}
+          source_(SourceView::Of(surface.Source())),
+          target_(TargetView::Of(surface.Result())) {}
 
     // The rows r to r + count - 1 above and below the centre.
     void Draw(int r, int count) const {
-        DrawBlocks(run_, r, count, 8, [this](int from, int to) {
+        DrawBlocks(surface_, r, count, 8, [this](int from, int to) {
             for (int n = from; n <= to; ++n) {
-                DrawRow(n, map_.Rows().centreY + n);
+                DrawLine(n, map_.Rows().centreY + n);
                 if (n > 0) {
-                    DrawRow(n, map_.Rows().centreY - n);
+                    DrawLine(n, map_.Rows().centreY - n);
                 }
             }
         });
     }
+    void DrawRow(std::int32_t row) override { DrawLine(std::abs(row - map_.Rows().centreY), row); }
 
   private:
-    void DrawRow(int r, std::int32_t row) const {
+    void DrawLine(int r, std::int32_t row) const {
         if (row < 0 || row >= target_.height) {
             return;
         }
@@ -49,7 +52,7 @@ class VarnelEngine {
         span.radius = static_cast<double>(map_.Rows().radius);
         span.plain = map_.Plain(r);
         span.row = row;
-        span.nearest = run_.Nearest();
+        span.nearest = surface_.Nearest();
         for (const int sign : {1, -1}) {
             const std::int32_t centre = map_.Rows().centreX;
             const Clip clip = Clip::Of(centre, sign, map_.Rows().lastColumn + 1, target_.width);
@@ -60,8 +63,8 @@ class VarnelEngine {
         }
     }
 
-    const RenderRun& run_;
-    const VarnelMap& map_;
+    const RenderSurface& surface_;
+    VarnelMap map_;
     SourceView source_;
     TargetView target_;
 };
@@ -78,6 +81,10 @@ void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progr
     DrawLines(
         run, 0, rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },
         [&](int r) { run.Advance(static_cast<float>(r)); });
+}
+
+std::unique_ptr<RowDrawing> VarnelRows(const ImageRecord& image, const RenderSurface& surface) {
+    return std::make_unique<VarnelEngine>(surface, VarnelMap(CircleViewOf(image, surface.Size())));
 }
 
 }  // namespace varnel

@@ -40,11 +40,12 @@ void DrawLines(const RenderRun& run, int first, int last, const Draw& draw,
     }
 }
 
-// Shares rows first to first + count - 1 out to the run's workers: draw(from, to) for pieces of a
-// few rows, which must not write the same pixels.
+// Shares rows first to first + count - 1 out to the surface's workers: draw(from, to) for pieces of
+// a few rows, which must not write the same pixels.
 template <class Draw>
-void DrawBlocks(const RenderRun& run, int first, int count, int rowsOfABlock, const Draw& draw) {
-    run.Runner().Run((count + rowsOfABlock - 1) / rowsOfABlock, [&](int block) {
+void DrawBlocks(const RenderSurface& surface, int first, int count, int rowsOfABlock,
+                const Draw& draw) {
+    surface.Runner().Run((count + rowsOfABlock - 1) / rowsOfABlock, [&](int block) {
         const int from = first + block * rowsOfABlock;
         draw(from, std::min(from + rowsOfABlock, first + count) - 1);
     });

@@ -5,10 +5,11 @@
 #pragma once
 
 #include <array>
+#include <cstdlib>
 
 #include "remap/engine/batches.h"
 #include "remap/engine/node_lines.h"
-#include "remap/render_run.h"
+#include "remap/row_drawing.h"
 
 namespace varnel {
 
@@ -16,39 +17,54 @@ namespace varnel {
 inline constexpr int blockRows = 16;
 
 template <PixelMap Map, class Nodes>
-class QuarterEngine {
+class QuarterEngine : public RowDrawing {
   public:
-    QuarterEngine(const RenderRun& run, const Map& map, const Nodes& nodes,
+    QuarterEngine(const RenderSurface& surface, const Map& map, const Nodes& nodes,
                   const CentreAndExtents& centre)
-        : run_(run),
+        : surface_(surface),
           map_(map),
           nodes_(nodes),
           centre_(centre),
-          source_(SourceView::Of(run.Source())),
-          target_(TargetView::Of(run.Result())) {}
+          source_(SourceView::Of(surface.Source())),
+          target_(TargetView::Of(surface.Result())) {}
 
     // Columns x to x + count - 1 (all <= 0) and their mirror images, all rows.
     void Draw(int x, int count) const {
-        DrawBlocks(run_, 0, centre_.bottom + 1, blockRows, [&](int from, int to) {
-            NodeLine line;
-            line.x = x;
-            line.count = count;
-            line.step = NodeStepFor(run_.Size());
+        DrawBlocks(surface_, 0, centre_.bottom + 1, blockRows, [&](int from, int to) {
+            NodeLine line = LineOf(x, count);
             for (int y = from; y <= to; ++y) {
                 line.y = -y;
-                DrawLine(line);
+                DrawLine(line, {0, target_.height});
             }
         });
     }
+    // One row, all columns. Nodes lie where the batches of columns have them, too.
+    void DrawRow(std::int32_t row) override {
+        NodeLine line = LineOf(-centre_.left, centre_.left + 1);
+        line.y = -std::abs(row - centre_.cy);
+        DrawLine(line, {row, row + 1});
+    }
 
   private:
-    void DrawLine(NodeLine& line) const {
+    struct RowRange {
+        std::int32_t first, end;
+    };
+
+    NodeLine LineOf(int x, int count) const {
+        NodeLine line;
+        line.x = x;
+        line.count = count;
+        line.step = NodeStepFor(surface_.Size());
+        return line;
+    }
+    // As far as its mirror images are among the rows.
+    void DrawLine(NodeLine& line, RowRange rows) const {
         WorkOutNodes(nodes_, line);
         std::array<SpanImage, 4> images;
         std::size_t count = 0;
         for (const int signY : {1, -1}) {
             const std::int32_t y = centre_.cy + signY * line.y;
-            if (y < 0 || y >= target_.height) {
+            if (y < rows.first || y >= rows.end) {
                 continue;
             }
             for (const int signX : {1, -1}) {
@@ -66,27 +82,25 @@ class QuarterEngine {
                         line.count,
                         centre_.cx,
                         centre_.cy,
-                        run_.Nearest(),
+                        surface_.Nearest(),
                         &ExactLine<Map>::Colour,
                         &exact,
                         {images.data(), count}});
     }
 
-    const RenderRun& run_;
-    const Map& map_;
-    const Nodes& nodes_;
+    const RenderSurface& surface_;
+    Map map_;
+    Nodes nodes_;
     CentreAndExtents centre_;
     SourceView source_;
     TargetView target_;
 };
 
 // The whole picture: columns -left to 0 with their mirror images.
-template <PixelMap Map, class Nodes, class Progress>
-void DrawQuarters(const RenderRun& run, const Map& map, const Nodes& nodes,
-                  const CentreAndExtents& centre, const Progress& progress) {
-    const QuarterEngine engine(run, map, nodes, centre);
+template <class Engine, class Progress>
+void DrawQuarters(const RenderRun& run, const Engine& engine, int left, const Progress& progress) {
     DrawLines(
-        run, -centre.left, 0, [&](int x, int count) { engine.Draw(x, count); }, progress);
+        run, -left, 0, [&](int x, int count) { engine.Draw(x, count); }, progress);
 }
 
 }  // namespace varnel

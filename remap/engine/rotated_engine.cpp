@@ -6,35 +6,74 @@
 #include <cstring>
 
 #include "remap/engine/quarter_engine.h"
+#include "remap/rounding.h"
 
 namespace varnel {
 
-RotatedEngine::RotatedEngine(const RenderRun& run, const RotatedRectilinearMap& map,
-                             const CentreAndExtents& centre, const AxisOwners& columns,
-                             const AxisOwners& rows)
-    : run_(run),
+namespace {
+
+AxisOwners ColumnOwners(const RotatedRectilinearMap& map, const CentreAndExtents& centre,
+                        std::int32_t width) {
+    const double tx = static_cast<double>(map.ShiftX());
+    return AxisOwners(
+        CLng(tx - centre.left, "TranslateX"), CLng(tx + centre.right, "TranslateX"), width,
+        [&](int x) { return CLng(static_cast<double>(centre.cx) + x - tx, "an output column"); });
+}
+
+AxisOwners RowOwnersOf(const RotatedRectilinearMap& map, const CentreAndExtents& centre,
+                       std::int32_t height) {
+    const double ty = static_cast<double>(map.ShiftY());
+    return AxisOwners(
+        CLng(ty - centre.bottom, "TranslateY"), CLng(ty + centre.top, "TranslateY"), height,
+        [&](int y) { return CLng(static_cast<double>(centre.cy) + y - ty, "an output row"); });
+}
+
+}  // namespace
+
+RotatedEngine::RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
+                             const CentreAndExtents& centre)
+    : surface_(surface),
       map_(map),
-      nodes_(map),
+      nodes_(map_),
       centre_(centre),
-      columns_(columns),
-      rows_(rows),
-      source_(SourceView::Of(run.Source())),
-      target_(TargetView::Of(run.Result())) {}
+      columns_(ColumnOwners(map, centre, surface.Size().width)),
+      rows_(RowOwnersOf(map, centre, surface.Size().height)),
+      covers_(columns_.Covers() && rows_.Covers()),
+      source_(SourceView::Of(surface.Source())),
+      target_(TargetView::Of(surface.Result())) {}
 
 void RotatedEngine::Draw(int x, int count) const {
     const int rows = rows_.Last() - rows_.First() + 1;
-    DrawBlocks(run_, rows_.First(), rows, blockRows, [&](int from, int to) {
-        NodeLine line;
+    DrawBlocks(surface_, rows_.First(), rows, blockRows, [&](int from, int to) {
+        NodeLine line = LineOf(x, count);
         std::vector<std::uint8_t> spare;
-        line.x = x;
-        line.count = count;
-        line.step = NodeStepFor(run_.Size());
         for (line.y = from; line.y <= to; ++line.y) {
             if (rows_.Stays(line.y)) {
                 DrawLine(line, spare);
             }
         }
     });
+}
+
+// Nodes lie where the batches of columns have them, too.
+void RotatedEngine::DrawRow(std::int32_t row) {
+    if (!covers_) {
+        surface_.CopySourceRow(row);
+    }
+    if (const std::optional<int> y = rows_.OwnerOf(row)) {
+        NodeLine line = LineOf(columns_.First(), columns_.Last() - columns_.First() + 1);
+        std::vector<std::uint8_t> spare;
+        line.y = *y;
+        DrawLine(line, spare);
+    }
+}
+
+NodeLine RotatedEngine::LineOf(int x, int count) const {
+    NodeLine line;
+    line.x = x;
+    line.count = count;
+    line.step = NodeStepFor(surface_.Size());
+    return line;
 }
 
 void RotatedEngine::DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const {
@@ -57,7 +96,7 @@ void RotatedEngine::DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) c
                     line.count,
                     centre_.cx,
                     centre_.cy,
-                    run_.Nearest(),
+                    surface_.Nearest(),
                     &ExactLine<RotatedRectilinearMap>::Colour,
                     &exact,
                     {&image, 1}});

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "remap/engine/thread_runner.h"
+#include "remap/part_render.h"
 #include "remap/reference/render.h"
 #include "remap/run_time_error.h"
 #include "tests/support/bitmaps.h"
@@ -233,6 +234,42 @@ TEST(Engine, WorkersAndTheirOrderChangeNoByte) {
             EXPECT_EQ(Compare(serial.get(), other.get()).largest, 0);
         }
     }
+}
+
+// Rows in pieces as one looks here and there, the result bitmap of another picture taken again.
+TEST(PartRender, RowsAreThoseOfTheWholePicture) {
+    PartRender part;
+    for (const Case& c : Cases()) {
+        SCOPED_TRACE(c.name);
+        const BitmapHandle whole = Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, nullptr);
+        const BitmapHandle source = PhotoLike(c.size);
+        ImageRecord record = FisheyeRecord();
+        record.Landscape = c.size.width >= c.size.height;
+        c.change(record);
+        part.Start(c.projection, record, source.get());
+        const int half = c.size.height / 2;
+        part.DrawSome({half - 1, half}, std::chrono::seconds(9));
+        EXPECT_TRUE(part.Has(half) && part.Has(half - 1) && !part.Has(half - 2));
+        part.DrawSome({-5, c.size.height + 5}, std::chrono::seconds(9));
+        EXPECT_EQ(Compare(part.Result(), whole.get()).largest, 0);
+    }
+}
+
+TEST(PartRender, DrawsFromTheMiddleAndForgetsWithANewStart) {
+    const BitmapHandle source = PhotoLike({301, 200});
+    PartRender part;
+    part.Start(Projection::Horizon, FisheyeRecord(), source.get());
+    const RowSpan one = part.DrawSome({40, 60}, std::chrono::microseconds(0));
+    EXPECT_EQ(std::pair(one.first, one.last), std::pair(50, 50));
+    const RowSpan rest = part.DrawSome({49, 51}, std::chrono::seconds(9));
+    EXPECT_EQ(std::pair(rest.first, rest.last), std::pair(49, 51));
+    EXPECT_LT(part.DrawSome({49, 51}, std::chrono::seconds(9)).last, 0);
+    part.Start(Projection::Varnel, FisheyeRecord(), source.get());
+    EXPECT_FALSE(part.Has(50));
+    ImageRecord impossible = FisheyeRecord();
+    impossible.Ratio = 0.0F;
+    EXPECT_THROW(part.Start(Projection::Varnel, impossible, source.get()), RunTimeError);
+    EXPECT_EQ(part.Result(), nullptr);
 }
 
 TEST(Engine, AfterAFailureTheResultIsTheSource) {

@@ -15,9 +15,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <cstdlib>
 #include <vector>
 
 #include "decoder/decoder_socket.h"
@@ -209,6 +211,22 @@ void Limit(__rlimit_resource what, std::uint64_t soft, std::uint64_t hard) {
     setrlimit(what, &limit);
 }
 
+// The file in which the system tells how much memory the process has; stays open.
+int MemoryStatus() {
+    static const int file = open("/proc/self/statm", O_RDONLY | O_CLOEXEC);
+    return file;
+}
+
+// Bytes of address space; 0 when that is not known.
+std::uint64_t AddressSpace() {
+    std::array<char, 32> text{};
+    if (pread(MemoryStatus(), text.data(), text.size() - 1, 0) <= 0) {
+        return 0;
+    }
+    return std::strtoull(text.data(), nullptr, 10) *
+           static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+}
+
 std::uint64_t ProcessorSecondsSoFar() {
     rusage used{};
     getrusage(RUSAGE_SELF, &used);
@@ -223,6 +241,7 @@ void Confine() {
     Limit(RLIMIT_CORE, 0, 0);
     if (!sanitized) {
         GiveUpInherited();
+        MemoryStatus();
         GiveUpFiles();
         FilterSystemCalls();
     }
@@ -236,6 +255,14 @@ void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds) {
     }
     // Threads of the libraries count together, so twice the time that the parent waits.
     Limit(RLIMIT_CPU, ProcessorSecondsSoFar() + 2 * std::uint64_t{seconds} + 1, RLIM_INFINITY);
+}
+
+void LimitMetadata(std::uint64_t fileLength) {
+    constexpr std::uint64_t rest = std::uint64_t{1} << 30;
+    const std::uint64_t now = sanitized ? 0 : AddressSpace();
+    if (now != 0) {
+        Limit(RLIMIT_AS, now + fileLength + rest, RLIM_INFINITY);
+    }
 }
 
 }  // namespace varnel

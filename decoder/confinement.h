@@ -17,4 +17,8 @@ void Confine();
 // goes on longer is ended by the system.
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds);
 
+// Not much more memory than the process has now, and this much for the photo's file: what a photo
+// tells besides its pixels never needs it.
+void LimitMetadata(std::uint64_t fileLength);
+
 }  // namespace varnel

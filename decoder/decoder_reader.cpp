@@ -150,9 +150,7 @@ void DecoderReader::Heard(const DecoderAnswer& answer) {
 }
 
 void DecoderReader::FinishWithoutMetadata() {
-    FileMetadata nothing;
-    nothing.metadata.notes.append(QStringLiteral("written without its metadata: it cannot be read"));
-    LoadedPicture picture = PictureFrom(*first_, nothing);
+    LoadedPicture picture = PictureFrom(*first_, UnreadMetadata());
     Restart();
     Finish(std::move(picture));
 }
@@ -160,10 +158,15 @@ void DecoderReader::FinishWithoutMetadata() {
 FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
     const std::uint64_t place = RowBytes(*first_) + first_->extrasLength;
     const std::byte* const bytes = memory_->Map(place + answer.metadataLength);
-    return bytes == nullptr
-               ? FileMetadata{}
-               : TakeFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
-                                             static_cast<qsizetype>(answer.metadataLength)));
+    if (bytes == nullptr) {
+        return UnreadMetadata();
+    }
+    FileMetadata taken =
+        TakeFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
+                                    static_cast<qsizetype>(answer.metadataLength)));
+    // The decoder always has something to say, if only that Varnel wrote the file.
+    const bool isNothing = taken.metadata.IsEmpty() && taken.metadata.notes.isEmpty();
+    return isNothing ? UnreadMetadata() : taken;
 }
 
 QString DecoderReader::TookTooLong() const {

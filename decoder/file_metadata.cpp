@@ -32,9 +32,20 @@ void DropLibraryTags(FIBITMAP* bitmap) {
     for (const QByteArray& key : dropped) {
         FreeImage_SetMetadata(FIMD_COMMENTS, bitmap, key.constData(), nullptr);
     }
+    // The library's writers die of a list that was emptied tag by tag.
+    if (FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap) == 0) {
+        FreeImage_SetMetadata(FIMD_COMMENTS, bitmap, nullptr, nullptr);
+    }
 }
 
 }  // namespace
+
+FileMetadata UnreadMetadata() {
+    FileMetadata nothing;
+    nothing.metadata.notes.append(
+        QStringLiteral("written without its metadata: it cannot be read"));
+    return nothing;
+}
 
 void GiveMetadata(const FileMetadata& metadata, FIBITMAP* bitmap) {
     DropLibraryTags(bitmap);

@@ -15,6 +15,9 @@ struct FileMetadata {
     QByteArray colourProfile;  // ICC, for red, green and blue; not of every type of file
 };
 
+// Of a file whose metadata were given up: a note that says so.
+FileMetadata UnreadMetadata();
+
 // Gives them to the picture of that file. Throws std::bad_alloc.
 void GiveMetadata(const FileMetadata& metadata, FIBITMAP* bitmap);
 

@@ -3,6 +3,7 @@
 
 // varnel-decoder: decodes photos for the other programs, one after the other, until they end.
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -138,6 +139,9 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
 // lost.
 bool SendMetadata(std::FILE* photo, const DecoderRequest& request, const DecoderAnswer& first,
                   Handover& handover) {
+    struct stat status {};
+    fstat(fileno(photo), &status);
+    LimitMetadata(static_cast<std::uint64_t>(status.st_size));
     const QByteArray block = PackFileMetadata(ReadMetadata(photo, {first.size, request.upright}));
     DecoderAnswer answer;
     answer.number = first.number;

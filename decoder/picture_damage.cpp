@@ -41,7 +41,9 @@ bool IsCut(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList&
         case FIF_TIFF:
         case FIF_RAW: {
             const std::optional<TiffFacts> facts = TiffFactsOf(file);
-            return facts && facts->isCut;
+            // Raw files keep their pixels behind the metadata and often only the maker's note tells
+            // where.
+            return facts && (facts->isCut || (format == FIF_RAW && facts->isMetadataCut));
         }
         default:
             return false;

@@ -233,7 +233,7 @@ FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request) {
         PrepareMetadata();
         return Reading(file, request).Answer();
     } catch (const std::exception&) {  // no memory
-        return {};
+        return UnreadMetadata();
     }
 }
 

@@ -6,7 +6,9 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace varnel {
@@ -42,6 +44,26 @@ constexpr std::size_t mostDirectories = 1000;
 constexpr std::int64_t mostValues = 1 << 22;
 constexpr std::uint64_t mostProfile = 1 << 26;  // bytes
 
+// What tells about the photo and not of its pixels: description, maker, model, program, time,
+// artist, computer, copyright and whole blocks.
+bool IsOfMetadata(std::uint16_t tag) {
+    constexpr std::array<int, 14> tags{270,
+                                       271,
+                                       272,
+                                       305,
+                                       306,
+                                       315,
+                                       316,
+                                       33432,
+                                       Xmp,
+                                       Iptc,
+                                       ImageResources,
+                                       ExifDirectory,
+                                       GpsDirectory,
+                                       ColourProfile};
+    return std::ranges::find(tags, tag) != tags.end();
+}
+
 struct Entry {
     std::uint16_t tag = 0;
     std::uint16_t type = 0;
@@ -64,22 +86,30 @@ class TiffWalk {
         if (magic != 42 && !wide_) {
             return false;
         }
-        Await(wide_ ? Number(head, 8, 8) : Number(head, 4, 4));
+        Await(wide_ ? Number(head, 8, 8) : Number(head, 4, 4), false);
         return true;
     }
     TiffFacts Facts() {
         for (bool first = true; !waiting_.empty() && seen_.size() < mostDirectories;
              first = false) {
-            const std::uint64_t place = waiting_.back();
+            const Waiting directory = waiting_.back();
             waiting_.pop_back();
-            if (seen_.insert(place).second) {
-                ReadDirectory(place, first);
+            inMetadata_ = directory.isOfMetadata;
+            if (seen_.insert(directory).second) {
+                ReadDirectory(directory.place, first);
             }
         }
         return facts_;
     }
 
   private:
+    struct Waiting {
+        std::uint64_t place;
+        bool isOfMetadata;  // EXIF; only whether it is whole is of interest
+
+        auto operator<=>(const Waiting&) const = default;
+    };
+
     std::uint64_t Number(const QByteArray& bytes, std::int64_t at, std::int64_t size) const {
         std::uint64_t number = 0;
         for (std::int64_t i = 0; i < size && at + i < bytes.size(); ++i) {
@@ -93,12 +123,13 @@ class TiffWalk {
     bool Reaches(std::uint64_t place, std::uint64_t bytes) {
         const auto length = static_cast<std::uint64_t>(file_.Length());
         const bool reaches = place <= length && bytes <= length - place;
-        facts_.isCut = facts_.isCut || !reaches;
+        bool& isCut = inMetadata_ ? facts_.isMetadataCut : facts_.isCut;
+        isCut = isCut || !reaches;
         return reaches;
     }
-    void Await(std::uint64_t directory) {
+    void Await(std::uint64_t directory, bool isOfMetadata) {
         if (directory != 0) {
-            waiting_.push_back(directory);
+            waiting_.push_back({directory, isOfMetadata});
         }
     }
 
@@ -118,14 +149,18 @@ class TiffWalk {
         const QByteArray bytes = file_.Read(start + countBytes, entryTotal + linkBytes);
         std::vector<Entry> entries;
         for (std::int64_t at = 0; at < entryTotal; at += entryBytes) {
-            NoteHidden(Number(bytes, at, 2), start + countBytes + at + (bigEndian_ ? 1 : 0));
+            if (!inMetadata_) {
+                NoteHidden(Number(bytes, at, 2), start + countBytes + at + (bigEndian_ ? 1 : 0));
+            }
             if (const std::optional<Entry> entry = ReadEntry(bytes, at, start + countBytes)) {
                 entries.push_back(*entry);
             }
         }
-        Await(Number(bytes, entryTotal, linkBytes));
-        CheckData(entries);
-        Note(entries, first);
+        if (!inMetadata_) {
+            Await(Number(bytes, entryTotal, linkBytes), false);
+            CheckData(entries);
+            Note(entries, first);
+        }
     }
     void NoteHidden(std::uint64_t tag, std::int64_t lowestByte) {
         constexpr std::array<std::uint64_t, 5> metadata{Xmp, Iptc, ImageResources, ExifDirectory,
@@ -150,7 +185,11 @@ class TiffWalk {
         if (entry.count > static_cast<std::uint64_t>(fieldBytes / size)) {
             const std::uint64_t place = Number(bytes, at + 4 + fieldBytes, fieldBytes);
             const auto length = static_cast<std::uint64_t>(file_.Length());
-            if (!Reaches(place, std::min(entry.count, length + 1) * size)) {
+            const bool isOfMetadata = IsOfMetadata(entry.tag);
+            const bool was = std::exchange(inMetadata_, inMetadata_ || isOfMetadata);
+            const bool reaches = Reaches(place, std::min(entry.count, length + 1) * size);
+            inMetadata_ = was;
+            if (!reaches) {
                 return std::nullopt;
             }
             entry.place = static_cast<std::int64_t>(place);
@@ -196,7 +235,7 @@ class TiffWalk {
     void Note(const std::vector<Entry>& entries, bool first) {
         for (const Tag tag : {SubDirectories, ExifDirectory}) {
             for (const std::uint64_t place : Values(entries, tag)) {
-                Await(place);
+                Await(place, tag == ExifDirectory);
             }
         }
         facts_.isDng = facts_.isDng || !Values(entries, DngVersion).empty();
@@ -219,8 +258,9 @@ class TiffWalk {
     const PictureFile& file_;
     bool bigEndian_ = false;
     bool wide_ = false;  // the variant with offsets of eight bytes
-    std::vector<std::uint64_t> waiting_;
-    std::set<std::uint64_t> seen_;
+    bool inMetadata_ = false;
+    std::vector<Waiting> waiting_;
+    std::set<Waiting> seen_;
     TiffFacts facts_;
 };
 

@@ -14,9 +14,10 @@
 namespace varnel {
 
 struct TiffFacts {
-    bool isCut = false;   // a directory, a value or pixel data lies beyond the file's end
-    bool isDng = false;   // a raw photo; as a plain TIFF it would show a thumbnail
-    int orientation = 1;  // of the first directory, as EXIF counts
+    bool isCut = false;          // a directory, a value or pixel data lies beyond the file's end
+    bool isMetadataCut = false;  // that is so of what tells about the photo
+    bool isDng = false;          // a raw photo; as a plain TIFF it would show a thumbnail
+    int orientation = 1;         // of the first directory, as EXIF counts
     std::int64_t orientationPlace = 0;  // of its lowest byte; 0 when there is none
     // Lowest bytes of the numbers of tags that the library must not see.
     std::vector<std::int64_t> deadlyTags{};    // takes it down: it turns round four times the bytes

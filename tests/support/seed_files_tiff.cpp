@@ -209,9 +209,9 @@ std::vector<SeedFile> RawSeeds() {
 QByteArray ExifBlock(bool canon) {
     TiffBytes tiff(canon ? Order::Little : Order::Big);
     TiffBytes nikon(Order::Big);
-    const std::vector<TiffField> notes = {{1, Short, {92, 0, 2, 0, 5, 3, 4}},
+    const std::vector<TiffField> notes = {{1, Short, {14, 0, 2, 0, 5, 3, 4}},
                                           {2, Text, {}, QByteArray("a lens of 8 mm", 15)},
-                                          {4, Short, {14, 0, 3, 0, 8, 0}},
+                                          {4, Short, {12, 0, 3, 0, 8, 0}},
                                           {0x84, Fraction, {8, 1, 8, 1, 35, 10, 35, 10}}};
     QByteArray note;
     if (canon) {

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Finds the image circle of a fisheye photo: the rim between the picture and the dark around it.
+// Points are in pixels from the top left corner, y down; the first pixel's middle is at 0.5.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "remap/geometry.h"
+
+namespace varnel {
+
+// Top row first, a byte a pixel.
+struct GreyPicture {
+    PixelSize size;
+    std::vector<std::uint8_t> values;
+};
+
+struct ImageCircle {
+    double x = 0.0;
+    double y = 0.0;
+    double radius = 0.0;
+};
+
+// A width of about 1000 pixels is enough. Nothing when the picture has no such rim, as those of
+// lenses that fill the frame. The same picture always gives the same circle.
+std::optional<ImageCircle> FindImageCircle(const GreyPicture& picture);
+
+}  // namespace varnel

@@ -59,6 +59,16 @@ CentreOffset Turned(const CentreOffset& stored, int orientation) {
     return IsOrientation(orientation) ? turned[orientation - 1] : stored;
 }
 
+CentreOffset ShownCentre(const CentreOffset& gear, const ImageRecord& image) {
+    const CentreOffset stored = IsStoredInLandscape(image) ? gear : CentreOffset{gear.y, gear.x};
+    return Turned(stored, image.Orientation);
+}
+
+CentreOffset GearCentre(const CentreOffset& shown, const ImageRecord& image) {
+    const CentreOffset stored = Turned(shown, Inverse(image.Orientation));
+    return IsStoredInLandscape(image) ? stored : CentreOffset{stored.y, stored.x};
+}
+
 void TurnCentre(ImageRecord& image, int orientation) {
     if (image.Orientation != orientation) {
         const CentreOffset shown{image.OfsetX, image.OfsetY};
@@ -73,9 +83,7 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     image.EffectVarnel = 100.0F;
     image.EffectRectilinear = 100.0F;
     CopyGear(gear, image);
-    const CentreOffset stored = IsStoredInLandscape(image) ? CentreOffset{gear.OfsetX, gear.OfsetY}
-                                                           : CentreOffset{gear.OfsetY, gear.OfsetX};
-    SetCentre(Turned(stored, image.Orientation), image);
+    SetCentre(ShownCentre({gear.OfsetX, gear.OfsetY}, image), image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = image.InputAOV > widestOutputAov ? widestOutputAov : image.InputAOV;
     return true;

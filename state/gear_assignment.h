@@ -27,6 +27,11 @@ struct CentreOffset {
 // Where it is once the picture as it is stored was turned by its EXIF orientation.
 CentreOffset Turned(const CentreOffset& stored, int orientation);
 
+// Where a gear's centre, which is meant for a picture stored in landscape, is on the record's
+// picture as it is shown, and back.
+CentreOffset ShownCentre(const CentreOffset& gear, const ImageRecord& image);
+CentreOffset GearCentre(const CentreOffset& shown, const ImageRecord& image);
+
 // Moves the record's centre offsets with a picture that is shown turned by this orientation
 // instead of the record's.
 void TurnCentre(ImageRecord& image, int orientation);

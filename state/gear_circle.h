@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Between a gear's image circle and the circle on a photo as it is shown.
+#pragma once
+
+#include "gear/circle_finder.h"
+#include "gear/gear_record.h"
+#include "state/image_record.h"
+#include "state/record_array.h"
+
+namespace varnel {
+
+// What a gear says of its circle: offsets in thousandths of width and height of a picture stored in
+// landscape, the ratio in percent.
+struct GearCircle {
+    float OfsetX = 0.0F;
+    float OfsetY = 0.0F;
+    float GearRatio = 0.0F;
+
+    bool operator==(const GearCircle&) const = default;
+};
+
+// Where the record's numbers put the circle on its picture of that size. The radius is 0 without a
+// ratio.
+ImageCircle CircleOf(const ImageRecord& image, PixelSize picture);
+
+// The numbers with which a gear puts the circle there, to a tenth.
+GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture);
+
+// Makes it the gear's circle and that of all its photos that are not adjusted yet, and in any case
+// that of image number current, which keeps its other settings. The gear then counts as adjusted.
+// Returns how many photos got it.
+int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
+               int current);
+
+}  // namespace varnel

@@ -76,10 +76,7 @@ void SetFacts(Exiv2::ExifData& data, const ExifWishes& wishes) {
     }
     data["Exif.Photo.PixelXDimension"] = static_cast<std::uint32_t>(wishes.size.width);
     data["Exif.Photo.PixelYDimension"] = static_cast<std::uint32_t>(wishes.size.height);
-    if (const auto chroma = data.findKey(Exiv2::ExifKey("Exif.Image.YCbCrPositioning"));
-        chroma != data.end()) {
-        *chroma = std::uint16_t{1};  // centred, as the coder has it
-    }
+    data["Exif.Image.YCbCrPositioning"] = std::uint16_t{1};  // centred, as the coder has it
 }
 
 // Reads a block that was made here a moment ago; places beyond its end read as 0.

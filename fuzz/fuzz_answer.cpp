@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "decoder/protocol.h"
+#include "remap/encode_bitmap.h"
 #include "tests/support/seed_files.h"
 
 namespace {
@@ -32,9 +33,23 @@ const QByteArray& SoundBlock() {
     return block;
 }
 
+// What is said of such a photo besides.
+const QByteArray& SoundMetadata() {
+    static const QByteArray block = [] {
+        varnel::FileMetadata photo;
+        photo.metadata.exif.bytes = varnel::testing::ExifBlock(true).mid(6);
+        photo.metadata.xmp = varnel::testing::XmpPacket();
+        photo.metadata.iptc = varnel::testing::IptcBlock();
+        photo.metadata.settings[QStringLiteral("Ratio")] = QStringLiteral("150");
+        photo.metadata.notes.append(QStringLiteral("a note"));
+        photo.colourProfile = varnel::testing::ColourProfile();
+        return varnel::PackFileMetadata(photo);
+    }();
+    return block;
+}
+
 // Bytes by bytes over a sound block: place, place, value, ...
-QByteArray Damaged(const std::uint8_t* data, std::size_t size) {
-    QByteArray block = SoundBlock();
+QByteArray Damaged(QByteArray block, const std::uint8_t* data, std::size_t size) {
     for (std::size_t i = 0; i + 3 <= size; i += 3) {
         block[(data[i] << 8 | data[i + 1]) % block.size()] = static_cast<char>(data[i + 2]);
     }
@@ -52,11 +67,28 @@ void CheckExtras(const QByteArray& block) {
     }
 }
 
+// What is taken can be given to a bitmap and be written.
+void CheckMetadata(const QByteArray& block) {
+    const varnel::FileMetadata taken = varnel::TakeFileMetadata(block);
+    const QByteArray packed = varnel::PackFileMetadata(taken);
+    if (varnel::PackFileMetadata(varnel::TakeFileMetadata(packed)) != packed) {
+        std::abort();
+    }
+    const varnel::BitmapHandle bitmap(FreeImage_Allocate(8, 8, 24));
+    varnel::GiveMetadata(taken, bitmap.get());
+    for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_TIFF}) {
+        varnel::EncodeBitmap(format, bitmap.get(), 0);
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CheckAnswer(data, size);
-    CheckExtras(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
-    CheckExtras(Damaged(data, size));
+    const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    CheckExtras(bytes);
+    CheckExtras(Damaged(SoundBlock(), data, size));
+    CheckMetadata(bytes);
+    CheckMetadata(Damaged(SoundMetadata(), data, size));
     return 0;
 }

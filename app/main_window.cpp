@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/frame_tools.h"
 #include "app/sheet_tools.h"
 #include "remap/rounding.h"
 #include "state/setting_names.h"
@@ -41,6 +42,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     BuildMenus();
     view_ = std::make_unique<WindowView>(this, parts_, state_);
     desk_ = std::make_unique<Desk>(state_, ports_.photos, ports_.notices, *view_);
+    new FrameTools(parts_, *view_, *desk_, state_, this);
     new SheetTools(parts_, *view_, *desk_, state_, this);
     ConnectControls();
     ConnectSliders();

@@ -55,6 +55,13 @@ void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
     }
 }
 
+void WindowView::ShowResult(FIBITMAP* bitmap) {
+    parts_.pictures->To()->Show(bitmap, FullSize());
+    for (const std::function<void()>& then : whenResultShown_) {
+        then();
+    }
+}
+
 void WindowView::ShowOffer() {
     GearOffer offer;
     const int n = CurrentLine() + 1;

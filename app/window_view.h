@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <functional>
+#include <vector>
 
 #include "app/adjustment_panel.h"
 #include "app/desk.h"
@@ -54,7 +55,7 @@ class WindowView : public DeskView {
     void ShowSource(FIBITMAP* bitmap) override {
         parts_.pictures->From()->Show(bitmap, FullSize());
     }
-    void ShowResult(FIBITMAP* bitmap) override { parts_.pictures->To()->Show(bitmap, FullSize()); }
+    void ShowResult(FIBITMAP* bitmap) override;
     void ShowTrouble(const QString& text) override { parts_.pictures->ShowTrouble(text); }
     void ShowStatus(const QString& text) override { parts_.status->setText(text); }
     void HandleEvents() override { progress_.HandleEvents(); }
@@ -71,6 +72,8 @@ class WindowView : public DeskView {
     void ShowOffer();
 
     bool Locked() const { return locked_; }
+    // Called when the converted picture is another one or gone.
+    void WhenResultShown(std::function<void()> then) { whenResultShown_.push_back(std::move(then)); }
     // Called when a conversion or a load is over.
     void WhenIdle(std::function<void()> then) { whenIdle_ = std::move(then); }
     // Called when the list was refilled and its line 0, if any, made current.
@@ -84,6 +87,7 @@ class WindowView : public DeskView {
     const WorkingState& state_;
     WindowProgress progress_;
     bool locked_ = false;
+    std::vector<std::function<void()>> whenResultShown_;
     std::function<void()> whenIdle_;
     QPointer<QWidget> focusBeforeLock_;
     std::function<void()> whenListShown_;

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/frame_study.h"
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+
+namespace varnel {
+
+namespace {
+
+constexpr QColor shrunkBlue(40, 120, 255);
+constexpr QColor stretchedOrange(255, 140, 0);
+constexpr QColor lossShade(0, 0, 0, 150);
+
+QString Tr(const char* text) {
+    return QCoreApplication::translate("FrameStudy", text);
+}
+
+QString Fixed(double number, int decimals) {
+    return QLocale::c().toString(number, 'f', decimals);
+}
+
+}  // namespace
+
+FrameStudy::FrameStudy(Projection projection, const ImageRecord& image, PixelSize size)
+    : places(projection, image, size),
+      grid(places),
+      border(BorderCurves(places)),
+      kept(MeasureKept(grid)) {}
+
+QPointF PointOf(const SourcePlace& place, PixelSize size) {
+    return {place.x + 0.5, size.height - 0.5 - place.y};
+}
+
+SourcePlace PlaceAtPoint(const QPointF& point, PixelSize size) {
+    return {point.x() - 0.5, size.height - 0.5 - point.y()};
+}
+
+QImage LossImage(const KeptArea& kept) {
+    QImage image(kept.columns, kept.rows, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int row = 0; row < kept.rows; ++row) {
+        for (int column = 0; column < kept.columns; ++column) {
+            if (kept.Lost(column, row)) {
+                image.setPixelColor(column, kept.rows - 1 - row, lossShade);
+            }
+        }
+    }
+    return image;
+}
+
+QColor ColourOf(Magnified magnified) {
+    switch (magnified) {
+        case Magnified::Shrunk:
+            return shrunkBlue;
+        case Magnified::Stretched:
+            return stretchedOrange;
+        case Magnified::Nothing:
+        case Magnified::AboutSame:
+            break;
+    }
+    return Qt::transparent;
+}
+
+QImage MagnificationImage(const MagnificationMap& map) {
+    QImage image(map.columns, map.rows, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int row = 0; row < map.rows; ++row) {
+        for (int column = 0; column < map.columns; ++column) {
+            const double magnification = static_cast<double>(map.At(column, row));
+            QColor colour = ColourOf(ClassOf(magnification));
+            if (colour.alpha() != 0) {
+                // Full strength from four times on.
+                colour.setAlphaF(static_cast<float>(
+                    0.2 + 0.4 * std::min(std::fabs(std::log2(magnification)) / 2.0, 1.0)));
+                image.setPixelColor(column, map.rows - 1 - row, colour);
+            }
+        }
+    }
+    return image;
+}
+
+QString KeptText(double share) {
+    return Tr("keeps %1 % of the circle").arg(std::lround(share * 100.0));
+}
+
+QString NumbersText(const ResultNumbers& numbers) {
+    const QString none = Tr("none");
+    const QString centre = numbers.centreResolution
+                               ? Fixed(*numbers.centreResolution, 2) + QStringLiteral(" : 1")
+                               : none;
+    const QString corner =
+        numbers.cornerStretch ? Fixed(*numbers.cornerStretch, 1) + QStringLiteral(" x") : none;
+    const QString rectangle =
+        numbers.rectangle.width > 0
+            ? Tr("%1 x %2 pixels").arg(numbers.rectangle.width).arg(numbers.rectangle.height)
+            : none;
+    return Tr("Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   "
+              "Largest rectangle without black %4")
+        .arg(centre, corner, QString::number(std::lround(numbers.keptShare * 100.0)), rectangle);
+}
+
+}  // namespace varnel

@@ -13,6 +13,7 @@
 #include "app/console_start.h"
 #include "app/main_window.h"
 #include "app/message_boxes.h"
+#include "app/plain_texts.h"
 #include "app/reading_box.h"
 #include "app/real_dialogs.h"
 #include "app/revision_age.h"
@@ -71,5 +72,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("varnel"));
     QApplication::setApplicationDisplayName({});
+    PlainTexts plainTexts;
+    application.installEventFilter(&plainTexts);
     return RunWindow(application, std::get<QStringList>(start), *store);
 }

@@ -47,11 +47,12 @@ BitmapHandle FromCmyk(FIBITMAP* cmyk, QByteArrayView profile) {
         cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
     const Profile screen(cmsCreate_sRGBProfile());
     if (!inks || !screen || cmsGetColorSpace(inks.get()) != cmsSigCmykData ||
-        FreeImage_GetBPP(cmyk) != 32) {
+        (FreeImage_GetBPP(cmyk) != 32 && FreeImage_GetBPP(cmyk) != 64)) {
         return nullptr;
     }
+    const cmsUInt32Number depth = FreeImage_GetBPP(cmyk) == 32 ? TYPE_CMYK_8 : TYPE_CMYK_16;
     const std::unique_ptr<void, TransformDeleter> transform(
-        cmsCreateTransform(inks.get(), TYPE_CMYK_8, screen.get(), TYPE_BGR_8,
+        cmsCreateTransform(inks.get(), depth, screen.get(), TYPE_BGR_8,
                            INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION));
     if (!transform) {
         return nullptr;

@@ -14,8 +14,9 @@ namespace varnel {
 bool IsProfileForCmyk(QByteArrayView profile);
 
 // In sRGB, 24 bits, without metadata; colours that it does not have are brought to the nearest, as
-// relative colorimetric with black point compensation does. The bitmap has four bytes of ink a
-// pixel, 255 is full ink. Empty when the profile cannot be used. Throws std::bad_alloc.
+// relative colorimetric with black point compensation does. The bitmap has four inks a pixel, of
+// 8 or 16 bits, the largest number is full ink. Empty when the profile cannot be used. Throws
+// std::bad_alloc.
 BitmapHandle FromCmyk(FIBITMAP* cmyk, QByteArrayView profile);
 
 // The picture that the image library made of the file, or, where the file has inks with a profile

@@ -6,6 +6,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <exiv2/exiv2.hpp>
 #include <iterator>
 #include <string>
@@ -50,7 +51,14 @@ bool IsOfTheOldFile(std::uint16_t tag) {
 
 bool IsOfAnotherPicture(const std::string& group) {
     return group == "Thumbnail" || group.starts_with("SubImage") || group.starts_with("SubThumb") ||
-           group == "Image2" || group == "Image3" || group.starts_with("PanasonicRaw");
+           group == "Image2" || group == "Image3" || group.starts_with("PanasonicRaw") ||
+           group == "NikonPreview";
+}
+
+// Maker notes hold further small pictures, and some viewers take the largest that they find.
+bool ShowsTheOldPicture(const Exiv2::Exifdatum& datum) {
+    const std::string name = datum.tagName();
+    return name.find("Preview") != std::string::npos || name.find("Thumbnail") != std::string::npos;
 }
 
 bool IsStale(const Exiv2::Exifdatum& datum) {
@@ -59,13 +67,47 @@ bool IsStale(const Exiv2::Exifdatum& datum) {
         // The size of the old file, and places in the old picture.
         return datum.tag() == 0x9102 || datum.tag() == 0x9214 || datum.tag() == 0xA214;
     }
-    return group == "Image" ? IsOfTheOldFile(datum.tag()) : IsOfAnotherPicture(group);
+    return group == "Image" ? IsOfTheOldFile(datum.tag())
+                            : IsOfAnotherPicture(group) || ShowsTheOldPicture(datum);
 }
 
 void Clean(Exiv2::ExifData& data) {
     for (auto datum = data.begin(); datum != data.end();) {
         datum = IsStale(*datum) ? data.erase(datum) : std::next(datum);
     }
+}
+
+template <class Value>
+void SetMissing(Exiv2::ExifData& data, const char* key, const Value& value) {
+    if (data.findKey(Exiv2::ExifKey(key)) == data.end()) {
+        data[key] = value;
+    }
+}
+
+Exiv2::URational Hundredths(double value) {
+    return {static_cast<std::uint32_t>(std::lround(std::clamp(value, 0.01, 1e6) * 100.0)), 100};
+}
+
+void SetUndefined(Exiv2::ExifData& data, const char* key, const char* bytes) {
+    if (data.findKey(Exiv2::ExifKey(key)) == data.end()) {
+        Exiv2::DataValue value(Exiv2::undefined);
+        value.read(bytes);
+        data.add(Exiv2::ExifKey(key), &value);
+    }
+}
+
+// The standard wants these in every file (Exif 2.3, table 20).
+void SetRequired(Exiv2::ExifData& data, const ExifWishes& wishes) {
+    constexpr std::uint16_t inches = 2;
+    constexpr std::uint16_t srgb = 1;
+    constexpr std::uint16_t uncalibrated = 0xFFFF;
+    SetMissing(data, "Exif.Image.XResolution", Hundredths(wishes.dotsPerInchX));
+    SetMissing(data, "Exif.Image.YResolution", Hundredths(wishes.dotsPerInchY));
+    SetMissing(data, "Exif.Image.ResolutionUnit", inches);
+    SetUndefined(data, "Exif.Photo.ExifVersion", "48 50 51 48");
+    SetUndefined(data, "Exif.Photo.ComponentsConfiguration", "1 2 3 0");
+    SetUndefined(data, "Exif.Photo.FlashpixVersion", "48 49 48 48");
+    SetMissing(data, "Exif.Photo.ColorSpace", wishes.isSrgb ? srgb : uncalibrated);
 }
 
 void SetFacts(Exiv2::ExifData& data, const ExifWishes& wishes) {
@@ -204,6 +246,7 @@ void FillExif(Exiv2::ExifData data, const ExifWishes& wishes, PhotoMetadata& met
         data.findKey(Exiv2::ExifKey("Exif.Thumbnail.StripOffsets")) != data.end();
     Clean(data);
     SetFacts(data, wishes);
+    SetRequired(data, wishes);
     metadata.exif = WholeBlock(data, wishes.byteOrder, thumbnail);
     metadata.tiffEntries = EntriesForTiff(metadata.exif);
     if (metadata.exif.bytes.size() > longestExifInJpeg) {

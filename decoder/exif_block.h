@@ -15,6 +15,10 @@ struct ExifWishes {
     PixelSize size{};
     bool upright = true;  // orientation 1 is written
     Exiv2::ByteOrder byteOrder = Exiv2::littleEndian;
+    // Where the photo does not tell them itself.
+    double dotsPerInchX = 72.0;
+    double dotsPerInchY = 72.0;
+    bool isSrgb = true;
 };
 
 // Fills the EXIF of the metadata, with a note where a JPEG file cannot hold all of it. May throw

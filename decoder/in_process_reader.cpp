@@ -32,8 +32,9 @@ class InProcessReader : public PictureReader {
                 trouble.isEmpty() ? QStringLiteral("it cannot be opened") : trouble);
             return;
         }
-        answer_ = request.kind == ReadKind::Facts ? LoadedPicture{LoadOutcome::Loaded, nullptr, {}, {}}
-                                                  : DecodePicture(file.get(), request, memory_);
+        answer_ = request.kind == ReadKind::Facts
+                      ? LoadedPicture{LoadOutcome::Loaded, nullptr, {}, {}}
+                      : DecodePicture(file.get(), request, memory_);
         TakeMetadata(file.get(), request);
     }
     bool Wait(int /*milliseconds*/) override { return true; }
@@ -42,7 +43,7 @@ class InProcessReader : public PictureReader {
 
   private:
     void TakeMetadata(std::FILE* file, const ReadRequest& request) {
-        const MetadataRequest wanted{answer_.size, request.upright};
+        const MetadataRequest wanted = WantedFor(answer_);
         if (request.kind == ReadKind::Facts) {
             answer_.facts = ReadMetadata(file, wanted).metadata;
         } else if (request.kind == ReadKind::Whole && answer_.bitmap) {

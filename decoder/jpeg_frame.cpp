@@ -113,6 +113,32 @@ std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file) {
     return places;
 }
 
+QByteArray HeaderWithoutExif(const PictureFile& file) {
+    constexpr QByteArrayView start("\xFF\xD8", 2);
+    constexpr QByteArrayView end("\xFF\xD9", 2);
+    constexpr QByteArrayView exif("Exif\0\0", 6);
+    constexpr char unused = '\xEF';
+    const std::vector<std::int64_t> markers = JpegMetadataMarkers(file);
+    MarkerWalk walk(file);
+    int marker = walk.Next();
+    for (; marker >= 0 && marker != startOfScan && marker != endOfImage; marker = walk.Next()) {
+        if (HasSegment(marker)) {
+            walk.Segment(0);
+        }
+    }
+    QByteArray header = file.Read(0, walk.Place() - 2);
+    if (marker < 0 || !header.startsWith(start)) {
+        return {};
+    }
+    for (const std::int64_t place : markers) {
+        constexpr std::int64_t markerAndLength = 3;
+        if (header.indexOf(exif, place) == place + markerAndLength) {
+            header[static_cast<qsizetype>(place)] = unused;
+        }
+    }
+    return header.append(end);
+}
+
 QByteArray JpegExif(const PictureFile& file) {
     constexpr int mostBytes = 65533;
     MarkerWalk walk(file);

@@ -23,6 +23,10 @@ QByteArray JpegExif(const PictureFile& file);
 // stand.
 std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file);
 
+// Everything in front of the pixels with EXIF blocks under a marker that nobody reads; empty for
+// other files.
+QByteArray HeaderWithoutExif(const PictureFile& file);
+
 // True when the file stops before the picture's end marker.
 bool JpegIsCut(const PictureFile& file);
 

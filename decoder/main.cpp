@@ -137,12 +137,12 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
 
 // The pixels are the parent's already: should the metadata be this process's death, they are not
 // lost.
-bool SendMetadata(std::FILE* photo, const DecoderRequest& request, const DecoderAnswer& first,
+bool SendMetadata(std::FILE* photo, const DecoderAnswer& first, const MetadataRequest& wanted,
                   Handover& handover) {
     struct stat status {};
     fstat(fileno(photo), &status);
     LimitMetadata(static_cast<std::uint64_t>(status.st_size));
-    const QByteArray block = PackFileMetadata(ReadMetadata(photo, {first.size, request.upright}));
+    const QByteArray block = PackFileMetadata(ReadMetadata(photo, wanted));
     DecoderAnswer answer;
     answer.number = first.number;
     if (static_cast<std::uint64_t>(block.size()) <= longestExtras &&
@@ -177,12 +177,15 @@ bool Serve(MappedFiles& mapped) {
         return false;
     }
     Handover handover(mapped, request.memoryFile, files[1].Get());
-    DecoderAnswer answer = AnswerFor(Decoded(photo.get(), request, handover), request, handover);
+    LoadedPicture picture = Decoded(photo.get(), request, handover);
+    DecoderAnswer answer = AnswerFor(picture, request, handover);
+    const MetadataRequest wanted = WantedFor(picture);
+    picture.bitmap.reset();
     const bool hasMetadata = request.kind == ReadKind::Facts ||
                              (request.kind == ReadKind::Whole && answer.bitmap.width > 0);
     answer.metadataFollows = hasMetadata ? 1 : 0;
     return SendMessage(decoderSocket, &answer, sizeof answer) &&
-           (!hasMetadata || SendMetadata(photo.get(), request, answer, handover));
+           (!hasMetadata || SendMetadata(photo.get(), answer, wanted, handover));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "decoder/exif_block.h"
+#include "decoder/jpeg_frame.h"
 #include "decoder/picture_file.h"
 #include "decoder/true_colour.h"
 #include "decoder/xmp_packet.h"
@@ -53,7 +54,7 @@ QStringList& GivenUp() {
 
 void Listen(int /*level*/, const char* message) {
     static const QRegularExpression failure(
-        QStringLiteral("^Failed to decode (Exif|IPTC|XMP) metadata"));
+        QStringLiteral("^Failed to decode (Exif|IPTC) metadata"));
     const auto match = failure.match(QString::fromUtf8(message));
     if (match.hasMatch()) {
         GivenUp().append(match.captured(1));
@@ -114,9 +115,7 @@ class Reading {
             Try(QStringLiteral("XMP"), [this] { FillXmp({}, true, result_.metadata); });
         }
         if (result_.metadata.exif.bytes.isEmpty()) {
-            Try(QStringLiteral("EXIF"), [this] {
-                FillExif({}, {request_.size, true}, result_.metadata);
-            });
+            Try(QStringLiteral("EXIF"), [this] { FillExif({}, Wishes(true), result_.metadata); });
         }
         return std::move(result_);
     }
@@ -138,63 +137,83 @@ class Reading {
         }
     }
 
-    // What was read before an error stays.
     void Read() {
-        constexpr int unknown = 0;
-        if (bytes_.Bytes() == nullptr ||
-            Exiv2::ImageFactory::getType(bytes_.Bytes(), bytes_.Length()) == unknown) {
+        if (bytes_.Bytes() == nullptr || ReadFrom(bytes_.Bytes(), bytes_.Length())) {
             return;
         }
-        auto image = Exiv2::ImageFactory::open(bytes_.Bytes(), bytes_.Length());
+        // Broken EXIF must not cost the rest.
+        const QByteArray rest = HeaderWithoutExif(PictureFile(file_));
+        const bool isRead =
+            !rest.isEmpty() && ReadFrom(reinterpret_cast<const Exiv2::byte*>(rest.constData()),
+                                        static_cast<long>(rest.size()));
+        Note(isRead ? QStringLiteral("EXIF") : QStringLiteral("metadata"));
+    }
+
+    // What was read before an error stays. False when there was one.
+    bool ReadFrom(const Exiv2::byte* bytes, long length) {
+        constexpr int unknown = 0;
+        if (Exiv2::ImageFactory::getType(bytes, length) == unknown) {
+            return true;
+        }
+        auto image = Exiv2::ImageFactory::open(bytes, length);
         GivenUp().clear();
+        bool whole = true;
         try {
             image->readMetadata();
         } catch (const std::exception&) {
-            Note(QStringLiteral("metadata"));
+            whole = false;
         }
+        Take(*image);
+        return whole;
+    }
+
+    void Take(Exiv2::Image& image) {
         for (const QString& kind : GivenUp()) {
             Note(kind == QStringLiteral("Exif") ? QStringLiteral("EXIF") : kind);
         }
-        exif_ = image->exifData();
-        iptc_ = image->iptcData();
-        xmp_ = image->xmpData();
-        if (image->byteOrder() != Exiv2::invalidByteOrder) {
-            order_ = image->byteOrder();
+        exif_ = image.exifData();
+        iptc_ = image.iptcData();
+        xmp_ = image.xmpData();
+        packet_ = QByteArray::fromStdString(image.xmpPacket());
+        if (image.byteOrder() != Exiv2::invalidByteOrder) {
+            order_ = image.byteOrder();
         }
-        if (image->iccProfileDefined() && image->iccProfile()->size_ > 0) {
-            result_.colourProfile =
-                QByteArray(reinterpret_cast<const char*>(image->iccProfile()->pData_),
-                           static_cast<qsizetype>(image->iccProfile()->size_));
+        if (exif_.empty() && !JpegExif(PictureFile(file_)).isEmpty()) {
+            Note(QStringLiteral("EXIF"));
         }
-        if (!IsProfileForRgb(result_.colourProfile)) {
-            result_.colourProfile.clear();
+        const auto* const profile = image.iccProfile();
+        if (image.iccProfileDefined() && profile->size_ > 0) {
+            const QByteArrayView bytes(reinterpret_cast<const char*>(profile->pData_),
+                                       static_cast<qsizetype>(profile->size_));
+            result_.colourProfile = IsProfileForRgb(bytes) ? bytes.toByteArray() : QByteArray();
         }
     }
 
-    // As they were loaded: raw files are always developed upright, others that are not known to be
-    // turned by us never are.
+    // As they were loaded; raw files are always developed upright.
     bool PixelsAreUpright() const {
         const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
-        if (told == exif_.end() || told->toLong() == 1) {
-            return true;
-        }
-        switch (PictureFile(file_).Format()) {
-            case FIF_RAW:
-                return true;
-            case FIF_JPEG:
-            case FIF_PNG:
-            case FIF_TIFF:
-            case FIF_WEBP:
-                return request_.upright;
-            default:
-                return false;
-        }
+        return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
+               told->toLong() == request_.orientation || PictureFile(file_).Format() == FIF_RAW;
+    }
+
+    ExifWishes Wishes(bool upright) const {
+        constexpr double metresPerInch = 0.0254;
+        constexpr double usualDots = 72.0;
+        const auto perInch = [](double perMetre) {
+            return perMetre > 0.0 ? perMetre * metresPerInch : usualDots;
+        };
+        return {request_.size,
+                upright,
+                order_,
+                perInch(request_.dotsPerMetreX),
+                perInch(request_.dotsPerMetreY),
+                !request_.hasProfile && result_.colourProfile.isEmpty()};
     }
 
     void TakeExif() {
         upright_ = PixelsAreUpright();
         result_.metadata.origin = OriginOf(exif_);
-        FillExif(exif_, {request_.size, upright_, order_}, result_.metadata);
+        FillExif(exif_, Wishes(upright_), result_.metadata);
     }
     void TakeIptc() {
         if (!iptc_.empty()) {
@@ -203,7 +222,14 @@ class Reading {
                                                static_cast<qsizetype>(bytes.size_));
         }
     }
-    void TakeXmp() { FillXmp(xmp_, upright_, result_.metadata); }
+    // What the library is too strict for is kept as it stands.
+    void TakeXmp() {
+        if (!xmp_.empty() || packet_.isEmpty()) {
+            FillXmp(xmp_, upright_, result_.metadata);
+        } else if (!KeepXmp(packet_, result_.metadata)) {
+            Note(QStringLiteral("XMP"));
+        }
+    }
 
     std::FILE* file_;
     bool upright_ = true;
@@ -212,6 +238,7 @@ class Reading {
     Exiv2::ExifData exif_;
     Exiv2::IptcData iptc_;
     Exiv2::XmpData xmp_;
+    QByteArray packet_;  // XMP as it is in the file
     Exiv2::ByteOrder order_ = Exiv2::littleEndian;
     FileMetadata result_;
 };
@@ -227,6 +254,16 @@ void Prepare() {
 }
 
 }  // namespace
+
+MetadataRequest WantedFor(const LoadedPicture& picture) {
+    MetadataRequest wanted{picture.size, picture.orientation};
+    if (FIBITMAP* const bitmap = picture.bitmap.get()) {
+        wanted.dotsPerMetreX = FreeImage_GetDotsPerMeterX(bitmap);
+        wanted.dotsPerMetreY = FreeImage_GetDotsPerMeterY(bitmap);
+        wanted.hasProfile = FreeImage_GetICCProfile(bitmap)->data != nullptr;
+    }
+    return wanted;
+}
 
 FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request) {
     try {

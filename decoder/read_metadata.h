@@ -8,14 +8,22 @@
 #include <cstdio>
 
 #include "decoder/file_metadata.h"
+#include "decoder/loaded_picture.h"
 #include "remap/geometry.h"
 
 namespace varnel {
 
 struct MetadataRequest {
     PixelSize size{};     // of the picture as it was loaded, pixels; 0 x 0 when it was not
-    bool upright = true;  // the pixels were to be turned as the file says
+    int orientation = 1;  // that was undone on loading, as EXIF counts
+    // Of the picture as it was loaded, where the file's EXIF does not tell it.
+    double dotsPerMetreX = 0.0;  // 0 for not known
+    double dotsPerMetreY = 0.0;
+    bool hasProfile = false;
 };
+
+// For a picture as it was loaded.
+MetadataRequest WantedFor(const LoadedPicture& picture);
 
 // Reads the open file (position anywhere). What is broken is left out and said in the notes; never
 // throws.

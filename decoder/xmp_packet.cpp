@@ -3,6 +3,8 @@
 
 #include "decoder/xmp_packet.h"
 
+#include <QXmlStreamReader>
+#include <algorithm>
 #include <array>
 #include <exiv2/exiv2.hpp>
 #include <iterator>
@@ -32,6 +34,11 @@ constexpr std::string_view onlyTool =
 bool IsStale(const std::string& key) {
     constexpr std::array beginnings{std::string_view("Xmp.xmp.Thumbnails"),
                                     std::string_view("Xmp.GPano."),
+                                    std::string_view("Xmp.mwg-rs."),  // faces and their places
+                                    std::string_view("Xmp.MP."),      // likewise
+                                    std::string_view("Xmp.crs.Crop"),
+                                    std::string_view("Xmp.crs.HasCrop"),
+                                    std::string_view("Xmp.dc.format"),
                                     std::string_view("Xmp.xmpNote."),
                                     std::string_view("Xmp.tiff.ImageWidth"),
                                     std::string_view("Xmp.tiff.ImageLength"),
@@ -66,6 +73,12 @@ std::string PacketOf(Exiv2::XmpData& data, bool upright) {
     if (upright && data.findKey(Exiv2::XmpKey("Xmp.tiff.Orientation")) != data.end()) {
         data["Xmp.tiff.Orientation"] = "1";
     }
+    const auto isDeveloping = [](const Exiv2::Xmpdatum& datum) {
+        return datum.groupName() == "crs";
+    };
+    if (std::any_of(data.begin(), data.end(), isDeveloping)) {
+        data["Xmp.crs.AlreadyApplied"] = "True";  // or raw editors would do it once more
+    }
     std::string packet;
     constexpr std::uint16_t flags = Exiv2::XmpParser::omitPacketWrapper;
     if (Exiv2::XmpParser::encode(packet, data, flags) != 0) {
@@ -92,6 +105,24 @@ void FillXmp(Exiv2::XmpData data, bool upright, PhotoMetadata& metadata) {
     packet = std::string(packetBegin) + packet + std::string(packetEnd);
     metadata.xmp = QByteArray::fromStdString(packet);
     metadata.xmpPlace = static_cast<std::uint32_t>(packetBegin.size() + place);
+}
+
+bool KeepXmp(const QByteArray& packet, PhotoMetadata& metadata) {
+    const qsizetype place = packet.lastIndexOf(endOfDescriptions);
+    const bool hasSettings = packet.contains(settingsNamespace.toUtf8());
+    if (place < 0 || hasSettings || packet.contains("<!") || packet.contains("xmpGImg")) {
+        return false;
+    }
+    QXmlStreamReader reader(packet);
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    if (reader.hasError()) {
+        return false;
+    }
+    metadata.xmp = packet;
+    metadata.xmpPlace = static_cast<std::uint32_t>(place);
+    return true;
 }
 
 }  // namespace varnel

@@ -17,4 +17,8 @@ void RegisterSettingsNamespace();
 // throw what the library throws.
 void FillXmp(Exiv2::XmpData data, bool upright, PhotoMetadata& metadata);
 
+// Takes a packet over as it is, where it is XML in order and shows nothing of the old picture;
+// false and nothing done otherwise.
+bool KeepXmp(const QByteArray& packet, PhotoMetadata& metadata);
+
 }  // namespace varnel

@@ -47,6 +47,7 @@ void Desk::AddFiles(const QStringList& paths) {
     for (ImageRecord& image : images) {
         state_.Images.Append(std::move(image));
     }
+    NoteStep(added.like > 0 ? StepKind::DroppedSettings : StepKind::Add);
     view_.ShowList(state_.Images, line);
     TellLines(notices_, Tr("Could not find the photo that a picture was made of"), added.missing);
     TellLines(notices_, Tr("Some settings of a picture could not be used"), added.notes);

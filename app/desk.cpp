@@ -68,6 +68,8 @@ void Desk::TellNotOpened(const ImageRecord& image) {
 }
 
 bool Desk::LoadFull(int line) {
+    NoteStep(StepKind::Other);  // all that comes now is nobody's deed
+    history_.Seal();
     ImageRecord& image = state_.Images(line + 1);
     state_.bitmaps.ResultBitmap.reset();
     state_.bitmaps.PreviewSourceBitmap.reset();
@@ -88,6 +90,7 @@ bool Desk::LoadFull(int line) {
     state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
     TakeSize({SizeOf(state_.bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
     GiveChosenGear(image);
+    Absorb();
     ShowInControls(image);
     view_.ShowStatus(Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
     return true;
@@ -169,6 +172,7 @@ void Desk::RenderThumbnail(const ImageRecord& image) {
 }
 
 void Desk::Preview() {
+    NoteStep(StepKind::Other);  // whatever has no name
     if (const ImageRecord* const image = Current(); image != nullptr && view_.AutoPreview()) {
         RenderPreview(*image);
     }
@@ -242,6 +246,7 @@ bool Desk::PrepareAll() {
 }
 
 void Desk::RefreshCurrent() {
+    Absorb();
     const ImageRecord* const image = Current();
     if (image == nullptr) {
         return;
@@ -258,11 +263,18 @@ void Desk::StoreControls(bool withPreview) {
         return;
     }
     const ControlValues values = view_.Controls();
-    for (const int line : view_.SelectedLines()) {
+    const std::vector<int> lines = view_.SelectedLines();
+    std::vector<ControlValues> before;
+    for (const int line : lines) {
         ImageRecord& image = state_.Images(line + 1);
         Prepare(image);
-        varnel::StoreControls(values, image);
+        before.push_back(ValuesFor(image));
     }
+    Absorb();
+    for (const int line : lines) {
+        varnel::StoreControls(values, state_.Images(line + 1));
+    }
+    NoteStored(lines, before);
     view_.HandleEvents();
     if (withPreview) {
         Preview();
@@ -285,6 +297,7 @@ void Desk::ChooseGear() {
         }
         ShowInControls(image);
     }
+    NoteStep(StepKind::Gear);
     if (Current() != nullptr) {
         ShowInControls(*Current());
     }
@@ -300,6 +313,7 @@ void Desk::AdoptTile(const ContactTile& tile) {
         Prepare(image);
         Adopt(tile, image);
     }
+    NoteStep(StepKind::ContactSheet);
     ShowInControls(*Current());
     Preview();
 }
@@ -311,12 +325,14 @@ void Desk::UseGear(int gear) {
     ImageRecord& image = *Current();
     image.SettingsApplied = false;
     AssignGear(state_.Gear(gear), image);
+    NoteStep(StepKind::Gear);
     ShowInControls(image);
     Preview();
 }
 
 void Desk::ApplyGear() {
     ApplyGearToAll(state_.Images, view_.ChosenGearName());
+    NoteStep(StepKind::GearToAll);
 }
 
 void Desk::ApplySettings() {
@@ -325,10 +341,12 @@ void Desk::ApplySettings() {
     }
     if (PrepareAll()) {
         ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
+        NoteStep(StepKind::SettingsToAll);
     }
 }
 
 void Desk::ImagesAdded() {
+    NoteStep(StepKind::Add);
     view_.ShowList(state_.Images, 0);
 }
 
@@ -344,14 +362,8 @@ void Desk::RemoveSelected() {
         }
     }
     state_.Images = std::move(kept);
-    if (state_.Images.Empty()) {
-        state_.bitmaps = {};
-        view_.ShowSource(nullptr);
-        view_.ShowResult(nullptr);
-        view_.ShowStatus({});
-        view_.ShowTrouble({});
-    }
-    view_.ShowList(state_.Images, 0);
+    NoteStep(StepKind::Remove);
+    ShowNewList(0);
 }
 
 int Desk::AddToBatchQueue() {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -16,7 +17,9 @@
 #include "remap/render.h"
 #include "remap/save_bitmap.h"
 #include "state/control_values.h"
+#include "state/history.h"
 #include "state/notices.h"
+#include "state/step_names.h"
 #include "state/working_state.h"
 
 namespace varnel {
@@ -40,6 +43,9 @@ class DeskView {
 
     // Makes the line current.
     virtual void ShowList(const RecordArray<ImageRecord>& images, int line) = 0;
+    // The list in another shape; the current photo stays as it is shown.
+    virtual void ShowLines(const RecordArray<ImageRecord>& images, int current,
+                           const std::vector<int>& selected) = 0;
     virtual void ShowRecord(const ImageRecord& image) = 0;
     virtual void ShowSource(FIBITMAP* bitmap) = 0;  // null empties the picture
     virtual void ShowResult(FIBITMAP* bitmap) = 0;
@@ -87,6 +93,24 @@ class Desk {
     void RemoveSelected();
     // Copies the whole list into the batch queue; returns the queue's length.
     int AddToBatchQueue();
+    // The selected lines together before the target's line; the count puts them last.
+    void MoveSelected(int target);
+    // The list of a project file instead of the present one; the line becomes current.
+    void TakeProject(const RecordArray<ImageRecord>& images, int line, const QString& project);
+
+    void Undo();
+    void Redo();
+    // Makes what was changed in the records a step that can be undone; nothing changed, no step.
+    // Whoever changes them calls it before anything is loaded or drawn.
+    void NoteStep(StepKind kind);
+    void SealStep() { history_.Seal(); }  // what follows is another step
+    // The list as it is stands in the project file.
+    void MarkSaved(const QString& project);
+    const History& Steps() const { return history_; }
+    void WhenStepsChanged(std::function<void()> then) {
+        whenStepsChanged_.push_back(std::move(then));
+    }
+
     // Converts the current photo at full size and writes it where the chooser says.
     void SaveAs(FileChooser& chooser);
 
@@ -114,11 +138,22 @@ class Desk {
     SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
     void ShowInControls(const ImageRecord& image);
 
+    void NoteStep(const QString& name, const StepKey& key = {});
+    void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
+    void Absorb();
+    void TellSteps();
+    void Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&));
+    void ShowRestored(const Restored& restored, const ImageRecord& shown);
+    void ShowOther(int line);
+    void ShowNewList(int line);
+
     WorkingState& state_;
     PhotoLoader& photos_;
     Notices& notices_;
     DeskView& view_;
     ThreadRunner runner_;
+    History history_;
+    std::vector<std::function<void()>> whenStepsChanged_;
     bool busy_ = false;
     bool rendering_ = false;
     bool saving_ = false;

@@ -16,6 +16,9 @@ namespace varnel {
 // Hears the batch queue's new length.
 using QueueChanged = std::function<void(int)>;
 
+// The answer to the question whether the list shall be saved before another one takes its place.
+enum class SaveFirst { Save, DoNotSave, Cancel };
+
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
@@ -32,6 +35,11 @@ class Dialogs {
     // Begins with the photo under the path; empty for none.
     virtual void Stretch(const QString& photo, QWidget* parent) = 0;
     virtual void ShowAbout(QWidget* parent) = 0;
+    // Of the project with this file name; empty when the list belongs to none.
+    virtual SaveFirst AskToSave(const QString& project) = 0;
+    // Paths of project files, to be opened or written; empty when cancelled.
+    virtual QString ChooseProject(const QString& folder) = 0;
+    virtual QString ChooseProjectName(const QString& proposal) = 0;
 };
 
 // Everything through which the main window speaks to the user besides itself.
@@ -41,6 +49,8 @@ struct WindowPorts {
     GearPrompt& gearPrompt;
     FileChooser& fileChooser;
     Dialogs& dialogs;
+    // Makes what reads the list's small pictures; without it there are none.
+    std::function<std::unique_ptr<PictureReader>()> newSmallReader = nullptr;
 };
 
 }  // namespace varnel

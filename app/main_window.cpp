@@ -18,6 +18,7 @@
 
 #include "app/frame_tools.h"
 #include "app/sheet_tools.h"
+#include "app/undo_tools.h"
 #include "remap/rounding.h"
 #include "state/setting_names.h"
 
@@ -42,6 +43,9 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     BuildMenus();
     view_ = std::make_unique<WindowView>(this, parts_, state_);
     desk_ = std::make_unique<Desk>(state_, ports_.photos, ports_.notices, *view_);
+    new UndoTools(parts_, *view_, *desk_, this);
+    list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
+    projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
     new FrameTools(parts_, *view_, *desk_, state_, this);
     new SheetTools(parts_, *view_, *desk_, state_, this);
     ConnectControls();
@@ -204,7 +208,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
 }
 
 void MDIForm1::AddFiles(const QStringList& files) {
-    desk_->AddFiles(files);
+    desk_->AddFiles(projects_->OpenFrom(files));
 }
 
 void MDIForm1::RestoreLayout() {

@@ -12,6 +12,8 @@
 
 #include "app/desk.h"
 #include "app/dialogs.h"
+#include "app/list_tools.h"
+#include "app/project_tools.h"
 #include "app/window_view.h"
 #include "state/settings_store.h"
 
@@ -86,6 +88,8 @@ class MDIForm1 : public QMainWindow {
     QAction* morph_ = nullptr;
     std::unique_ptr<WindowView> view_;
     std::unique_ptr<Desk> desk_;
+    ProjectTools* projects_ = nullptr;
+    ListTools* list_ = nullptr;
     QTimer livePreview_;  // fires when the input at hand is handled: many moves, one preview
     QTimer roomSettled_;
     QStringList filesAtStart_;

@@ -150,7 +150,7 @@ void MDIForm1::OnRoomChanged() {
 void MDIForm1::OnListShown() {
     UpdateEnabled();
     if (state_.Images.Empty()) {
-        setWindowTitle(QStringLiteral("Varnel"));
+        view_->ShowTitle({});
     } else {
         desk_->ShowLine(view_->CurrentLine());
     }
@@ -213,7 +213,10 @@ void MDIForm1::QueueAll() {
 }
 
 QueueChanged MDIForm1::ShowsQueue() {
-    return [this](int length) { parts_.save->ShowQueue(length); };
+    return [this](int length) {
+        parts_.save->ShowQueue(length);
+        list_->Refresh();
+    };
 }
 
 void MDIForm1::ProcessBatch() {

@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -18,10 +20,19 @@
 #include "pipeline/form_morph.h"
 #include "pipeline/form_stretch.h"
 #include "pipeline/mounted_volumes.h"
+#include "pipeline/project_file.h"
 #include "state/form_setup.h"
 #include "state/setting_names.h"
 
 namespace varnel {
+
+namespace {
+
+QString ProjectFilter() {
+    return QObject::tr("Varnel projects (%1)").arg(u'*' + projectEnding.toString());
+}
+
+}  // namespace
 
 bool RealDialogs::AddImages(QWidget* parent) {
     const PhotoPlaces places{QCoreApplication::applicationDirPath(), QDir::homePath(),
@@ -93,6 +104,37 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
 void RealDialogs::ShowAbout(QWidget* parent) {
     FormAbout form(parent);
     form.exec();
+}
+
+SaveFirst RealDialogs::AskToSave(const QString& project) {
+    const QString text =
+        project.isEmpty() ? QObject::tr("Save the present image list as a project first?")
+                          : QObject::tr("The project %1 was changed. Save it first?").arg(project);
+    switch (QMessageBox::question(QApplication::activeWindow(), QStringLiteral("Varnel"), text,
+                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                  QMessageBox::Save)) {
+        case QMessageBox::Save:
+            return SaveFirst::Save;
+        case QMessageBox::Discard:
+            return SaveFirst::DoNotSave;
+        default:
+            return SaveFirst::Cancel;
+    }
+}
+
+QString RealDialogs::ChooseProject(const QString& folder) {
+    return QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), QObject::tr("Open project"), folder,
+        ProjectFilter() + QStringLiteral(";;") + QObject::tr("All files (*)"));
+}
+
+QString RealDialogs::ChooseProjectName(const QString& proposal) {
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Save project as"),
+                       QFileInfo(proposal).absolutePath(), ProjectFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(projectEnding.mid(1).toString());
+    dialog.selectFile(QFileInfo(proposal).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 }  // namespace varnel

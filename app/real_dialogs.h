@@ -29,6 +29,9 @@ class RealDialogs : public Dialogs {
                QWidget* parent) override;
     void Stretch(const QString& photo, QWidget* parent) override;
     void ShowAbout(QWidget* parent) override;
+    SaveFirst AskToSave(const QString& project) override;
+    QString ChooseProject(const QString& folder) override;
+    QString ChooseProjectName(const QString& proposal) override;
 
   private:
     WorkingState& state_;

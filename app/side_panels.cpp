@@ -9,6 +9,8 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "app/photo_list.h"
+
 namespace varnel {
 
 namespace {
@@ -66,7 +68,7 @@ void EquipmentPanel::Fill(const GearTable& gears, const QString& selected) {
 }
 
 ImageListPanel::ImageListPanel(QWidget* parent)
-    : QGroupBox(tr("Image list"), parent), list_(new QListWidget(this)) {
+    : QGroupBox(tr("Image list"), parent), list_(new PhotoList(this)) {
     setObjectName(QStringLiteral("Frame4"));
     list_->setObjectName(QStringLiteral("ImageList1"));
     list_->setAccessibleName(tr("Image list"));
@@ -88,6 +90,7 @@ void ImageListPanel::Fill(const RecordArray<ImageRecord>& images) {
     for (const ImageRecord& image : images) {
         auto* const item = new QListWidgetItem(image.FileName, list_);
         item->setToolTip(SourcePath(image));
+        item->setData(PhotoList::pathRole, SourcePath(image));
     }
 }
 

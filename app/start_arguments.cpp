@@ -3,6 +3,10 @@
 
 #include "app/start_arguments.h"
 
+#include <algorithm>
+
+#include "pipeline/project_file.h"
+
 namespace varnel {
 
 namespace {
@@ -46,7 +50,8 @@ std::variant<StartRequest, QString> ParseStartArguments(const QStringList& argum
         return StartRequest{StartMode::Version, {}};
     }
     // A desktop entry that names no photo gives --open alone.
-    if (arguments.size() <= 1 || options.contains(known[2])) {
+    if (arguments.size() <= 1 || options.contains(known[2]) ||
+        std::ranges::any_of(files, IsProjectName)) {
         return StartRequest{StartMode::Window, files};
     }
     if (files.isEmpty()) {
@@ -62,6 +67,7 @@ QString StartHelpText() {
         "\n"
         "  varnel                 Open the window.\n"
         "  varnel --open FILE...  Open the window with these photos in its list.\n"
+        "  varnel FILE.varnel     Open the window with this project.\n"
         "  varnel FILE...         Convert each photo at full size, without a window: with the\n"
         "                         default gear into the Varnel projection, beside the photo, in\n"
         "                         the file type of the defaults. From IMG.jpg comes\n"

@@ -55,6 +55,29 @@ void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
     }
 }
 
+void WindowView::ShowLines(const RecordArray<ImageRecord>& images, int current,
+                           const std::vector<int>& selected) {
+    parts_.list->Fill(images);
+    QListWidget* const list = parts_.list->List();
+    const QSignalBlocker blocker(list);
+    list->setCurrentRow(current, QItemSelectionModel::NoUpdate);
+    for (const int line : selected) {
+        list->item(line)->setSelected(true);
+    }
+}
+
+void WindowView::ShowProject(const QString& name) {
+    project_ = name;
+    ShowTitle(photo_);
+}
+
+void WindowView::ShowTitle(const QString& photo) {
+    photo_ = photo;
+    QStringList parts{photo, project_, QStringLiteral("Varnel")};
+    parts.removeAll(QString());
+    window_->setWindowTitle(parts.join(QStringLiteral(" - ")));
+}
+
 void WindowView::ShowResult(FIBITMAP* bitmap) {
     parts_.pictures->To()->Show(bitmap, FullSize());
     for (const std::function<void()>& then : whenResultShown_) {
@@ -89,7 +112,7 @@ void WindowView::ShowRecord(const ImageRecord& image) {
     parts_.adjustments->Show(ValuesFor(image));
     const int current = CurrentLine();
     if (current >= 0 && &image == &state_.Images(current + 1)) {
-        window_->setWindowTitle(image.FileName + QStringLiteral(" - Varnel"));
+        ShowTitle(image.FileName);
         ShowOffer();
     }
 }

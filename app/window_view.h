@@ -51,31 +51,41 @@ class WindowView : public DeskView {
     RenderProgress& Progress() override { return progress_; }
 
     void ShowList(const RecordArray<ImageRecord>& images, int line) override;
+    void ShowLines(const RecordArray<ImageRecord>& images, int current,
+                   const std::vector<int>& selected) override;
     void ShowRecord(const ImageRecord& image) override;
     void ShowSource(FIBITMAP* bitmap) override {
         parts_.pictures->From()->Show(bitmap, FullSize());
     }
     void ShowResult(FIBITMAP* bitmap) override;
-    void ShowTrouble(const QString& text) override { parts_.pictures->ShowTrouble(text); }
+    void ShowTrouble(const QString& text) override {
+        trouble_ = text;
+        parts_.pictures->ShowTrouble(text);
+    }
     void ShowStatus(const QString& text) override { parts_.status->setText(text); }
     void HandleEvents() override { progress_.HandleEvents(); }
     void ShowHourglass(bool on) override;
     void Lock(bool on) override;
 
     void Idle() override {
-        if (whenIdle_) {
-            whenIdle_();
+        for (const auto& then : whenIdle_) {
+            then();
         }
     }
 
     // What took the current photo, once it is loaded.
     void ShowOffer();
 
+    const QString& Trouble() const { return trouble_; }
+    // In the window's title, behind the photo's name.
+    void ShowProject(const QString& name);
+    void ShowTitle(const QString& photo);
+
     bool Locked() const { return locked_; }
     // Called when the converted picture is another one or gone.
     void WhenResultShown(std::function<void()> then) { whenResultShown_.push_back(std::move(then)); }
     // Called when a conversion or a load is over.
-    void WhenIdle(std::function<void()> then) { whenIdle_ = std::move(then); }
+    void WhenIdle(std::function<void()> then) { whenIdle_.push_back(std::move(then)); }
     // Called when the list was refilled and its line 0, if any, made current.
     void WhenListShown(std::function<void()> then) { whenListShown_ = std::move(then); }
 
@@ -87,8 +97,10 @@ class WindowView : public DeskView {
     const WorkingState& state_;
     WindowProgress progress_;
     bool locked_ = false;
+    QString photo_, project_;  // of the title
+    QString trouble_;
     std::vector<std::function<void()>> whenResultShown_;
-    std::function<void()> whenIdle_;
+    std::vector<std::function<void()>> whenIdle_;
     QPointer<QWidget> focusBeforeLock_;
     std::function<void()> whenListShown_;
 };

@@ -17,7 +17,8 @@ constexpr int whileMaking = 10;         // ms between looks at the picture under
 
 }  // namespace
 
-IdlePreviews::IdlePreviews(QListWidget& list, PreviewMaker& maker) : list_(list), maker_(maker) {
+IdlePreviews::IdlePreviews(QListWidget& list, PreviewMaker& maker, int keyRole)
+    : list_(list), maker_(maker), keyRole_(keyRole) {
     connect(&timer_, &QTimer::timeout, this, &IdlePreviews::GoOn);
     connect(list_.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
         if (list_.isVisible()) {
@@ -36,6 +37,9 @@ void IdlePreviews::Stop() {
     timer_.stop();
     if (!underWay_.isEmpty()) {
         maker_.Cancel();
+        for (QListWidgetItem* const item : LinesUnderWay()) {
+            item->setData(doneRole, false);
+        }
         underWay_.clear();
     }
 }
@@ -65,6 +69,20 @@ bool IdlePreviews::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+void IdlePreviews::MarkDone(QListWidgetItem& item) {
+    item.setData(doneRole, true);
+}
+
+QList<QListWidgetItem*> IdlePreviews::LinesUnderWay() const {
+    QList<QListWidgetItem*> lines;
+    for (int row = 0; row < list_.count(); ++row) {
+        if (list_.item(row)->data(keyRole_).toString() == underWay_) {
+            lines.append(list_.item(row));
+        }
+    }
+    return lines;
+}
+
 QListWidgetItem* IdlePreviews::NextItem() const {
     const QRect seen = list_.viewport()->rect();
     for (int row = 0; row < list_.count(); ++row) {
@@ -86,10 +104,11 @@ void IdlePreviews::GoOn() {
         timer_.start(whileMaking);
         return;
     }
-    const QList<QListWidgetItem*> lines =
-        list_.findItems(underWay_, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (!lines.isEmpty() && !image->isNull()) {
-        lines.first()->setIcon(QPixmap::fromImage(*image));
+    for (QListWidgetItem* const line : LinesUnderWay()) {
+        MarkDone(*line);
+        if (!image->isNull()) {
+            line->setIcon(QPixmap::fromImage(*image));
+        }
     }
     underWay_.clear();
     timer_.start(0);
@@ -101,8 +120,12 @@ void IdlePreviews::BeginNext() {
         timer_.stop();
         return;
     }
-    item->setData(doneRole, true);
-    underWay_ = item->text();
+    if (!maker_.MayBegin()) {
+        timer_.start(pause);
+        return;
+    }
+    MarkDone(*item);
+    underWay_ = item->data(keyRole_).toString();
     maker_.Begin(underWay_);
     timer_.start(whileMaking);
 }

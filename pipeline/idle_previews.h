@@ -17,22 +17,27 @@ namespace varnel {
 class PreviewMaker {
   public:
     virtual ~PreviewMaker() = default;
-    // Starts on the picture of the line with this text; nothing else is under way.
-    virtual void Begin(const QString& text) = 0;
+    // Starts on the picture of the line with this key; nothing else is under way.
+    virtual void Begin(const QString& key) = 0;
     // The picture, once there is an answer; an empty one leaves the line's icon as it is.
     virtual std::optional<QImage> Take() = 0;
     virtual void Cancel() = 0;
+    // Whether another picture may be begun now; asked again later when not.
+    virtual bool MayBegin() const { return true; }
 };
 
 class IdlePreviews : public QObject {
     Q_OBJECT
 
   public:
-    IdlePreviews(QListWidget& list, PreviewMaker& maker);
+    // A line's key is what it holds under the role; lines with the same key share their picture.
+    IdlePreviews(QListWidget& list, PreviewMaker& maker, int keyRole = Qt::DisplayRole);
 
     // Also after the list was filled anew.
     void Start();
     void Stop();
+    // The line has its picture already.
+    static void MarkDone(QListWidgetItem& item);
     // Input there makes the pictures wait, as input to the list itself does.
     void GiveWayTo(QAbstractScrollArea& area);
 
@@ -43,10 +48,12 @@ class IdlePreviews : public QObject {
     void GoOn();
     void BeginNext();
     QListWidgetItem* NextItem() const;
+    QList<QListWidgetItem*> LinesUnderWay() const;
 
     QListWidget& list_;
     PreviewMaker& maker_;
-    QString underWay_;  // the text of the line whose picture is being made
+    int keyRole_;
+    QString underWay_;  // the key of the line whose picture is being made
     QTimer timer_;
 };
 

@@ -24,6 +24,7 @@ constexpr std::array names{TEXT("projection"),
                            TEXT("level"),
                            TEXT("frame"),
                            TEXT("image circle"),
+                           TEXT("contact sheet"),
                            TEXT("open project"),
                            TEXT("change")};
 static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);

@@ -24,6 +24,7 @@ enum class StepKind {
     Level,
     Frame,
     Circle,
+    ContactSheet,
     OpenProject,
     Other
 };

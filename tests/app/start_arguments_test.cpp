@@ -22,6 +22,8 @@ TEST(ParseStartArguments, TellsWindowConversionHelpAndVersionApart) {
                           Case{"varnel --open", StartMode::Window, ""},
                           Case{"varnel --open a.jpg b.jpg", StartMode::Window, "a.jpg b.jpg"},
                           Case{"varnel --open -- --odd.jpg", StartMode::Window, "--odd.jpg"},
+                          Case{"varnel trip.varnel", StartMode::Window, "trip.varnel"},
+                          Case{"varnel --open trip.Varnel", StartMode::Window, "trip.Varnel"},
                           Case{"varnel a.jpg", StartMode::Convert, "a.jpg"},
                           Case{"varnel b.jpg a.jpg b.jpg", StartMode::Convert, "b.jpg a.jpg b.jpg"},
                           Case{"varnel -a.jpg -", StartMode::Convert, "-a.jpg -"},

@@ -86,7 +86,15 @@ class FakeDialogs : public Dialogs {
         stretched.append(photo);
     }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
+    SaveFirst AskToSave(const QString& name) override {
+        opened.append(QStringLiteral("AskToSave ") + name);
+        return saveFirst;
+    }
+    QString ChooseProject(const QString& /*folder*/) override { return project; }
+    QString ChooseProjectName(const QString& /*proposal*/) override { return project; }
     QStringList opened;
+    SaveFirst saveFirst = SaveFirst::Cancel;
+    QString project;  // the path that is chosen
     std::function<bool()> onAdd;
     std::function<bool(const GearNames&)> onDefine;
     std::function<void()> onDefaults;

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/undo_tools.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace varnel {
+
+namespace {
+
+const QList<QKeySequence>& UndoKeys() {
+    static const QList<QKeySequence> keys{QKeySequence(Qt::CTRL | Qt::Key_Z)};
+    return keys;
+}
+
+const QList<QKeySequence>& RedoKeys() {
+    static const QList<QKeySequence> keys{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                                          QKeySequence(Qt::CTRL | Qt::Key_Y)};
+    return keys;
+}
+
+}  // namespace
+
+UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Desk& desk, QObject* parent)
+    : QObject(parent),
+      desk_(desk),
+      undo_(AddEntry(parts.editMenu, "CmdEditUndo", UndoKeys())),
+      redo_(AddEntry(parts.editMenu, "CmdEditRedo", RedoKeys())) {
+    const auto whenFree = [this, &view](QAction* entry, void (Desk::*step)()) {
+        connect(entry, &QAction::triggered, this, [this, &view, step] {
+            if (!view.Locked()) {
+                (desk_.*step)();
+            }
+        });
+    };
+    whenFree(undo_, &Desk::Undo);
+    whenFree(redo_, &Desk::Redo);
+    for (SliderRow* const row : parts.adjustments->Rows()) {
+        connect(row->Slider(), &QSlider::sliderReleased, this, [this] { desk_.SealStep(); });
+        for (auto* const field : row->findChildren<QSpinBox*>()) {
+            field->installEventFilter(this);
+        }
+    }
+    // Every press and release of a mouse button, wherever it is, ends the step at hand.
+    QApplication::instance()->installEventFilter(this);
+    desk_.WhenStepsChanged([this] { ShowNames(); });
+    ShowNames();
+}
+
+UndoTools::~UndoTools() {
+    QApplication::instance()->removeEventFilter(this);
+}
+
+// Above what others put into the menu.
+QAction* UndoTools::AddEntry(QMenu* menu, const char* name, const QList<QKeySequence>& keys) {
+    auto* const entry = new QAction(menu);
+    entry->setObjectName(QString::fromLatin1(name));
+    entry->setShortcuts(keys);
+    const auto isOther = [](const QAction* other) {
+        return !other->objectName().startsWith(QStringLiteral("CmdEdit"));
+    };
+    const QList<QAction*> entries = menu->actions();
+    const auto found = std::ranges::find_if(entries, isOther);
+    menu->insertAction(found != entries.end() ? *found : nullptr, entry);
+    return entry;
+}
+
+void UndoTools::ShowNames() {
+    const auto show = [](QAction* entry, const QString& plain, const QString& named,
+                         const QString& step) {
+        entry->setEnabled(!step.isEmpty());
+        entry->setText(step.isEmpty() ? plain : named.arg(step));
+    };
+    show(undo_, tr("&Undo"), tr("&Undo %1"), desk_.Steps().UndoName());
+    show(redo_, tr("&Redo"), tr("&Redo %1"), desk_.Steps().RedoName());
+}
+
+bool UndoTools::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
+        desk_.SealStep();
+    } else if (event->type() == QEvent::ShortcutOverride &&
+               qobject_cast<QSpinBox*>(watched) != nullptr) {
+        // A number's field would keep these keys for its own text, which it has none to go back to.
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        const QKeySequence pressed(key->keyCombination());
+        if (UndoKeys().contains(pressed) || RedoKeys().contains(pressed)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace varnel

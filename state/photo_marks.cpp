@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/photo_marks.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace varnel {
+
+PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble) {
+    const auto tr = [](const char* text) {
+        return QCoreApplication::translate("PhotoMarks", text);
+    };
+    const QString projection = ToText(ProjectionFromIndex(image.Projection));
+    QString letters = projection.left(1);
+    QStringList words{projection};
+    if (image.SettingsApplied) {
+        letters += u'A';
+        words.append(tr("adjusted"));
+    }
+    if (queued) {
+        letters += u'Q';
+        words.append(tr("in the batch queue"));
+    }
+    if (!trouble.isEmpty()) {
+        letters += u'!';
+        words.append(trouble);
+    }
+    return {letters, words.join(QStringLiteral(", "))};
+}
+
+}  // namespace varnel

@@ -161,6 +161,7 @@ void Desk::RenderThumbnail(const ImageRecord& image) {
     RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), desk);
+        view_.NoteDrawn(image);
         view_.ShowResult(state_.bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);

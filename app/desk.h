@@ -49,6 +49,8 @@ class DeskView {
     virtual void ShowRecord(const ImageRecord& image) = 0;
     virtual void ShowSource(FIBITMAP* bitmap) = 0;  // null empties the picture
     virtual void ShowResult(FIBITMAP* bitmap) = 0;
+    // The settings that the result to be shown next was made with.
+    virtual void NoteDrawn(const ImageRecord& /*image*/) {}
     // What is wrong with the photo; empty when nothing is.
     virtual void ShowTrouble(const QString& text) = 0;
     virtual void ShowStatus(const QString& text) = 0;

@@ -19,6 +19,7 @@
 #include "app/frame_tools.h"
 #include "app/sheet_tools.h"
 #include "app/undo_tools.h"
+#include "app/zoom_tools.h"
 #include "remap/rounding.h"
 #include "state/setting_names.h"
 
@@ -47,6 +48,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
     new FrameTools(parts_, *view_, *desk_, state_, this);
+    new ZoomTools(this, parts_, *view_, *desk_, state_);
     new SheetTools(parts_, *view_, *desk_, state_, this);
     ConnectControls();
     ConnectSliders();

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "remap/paint.h"
+#include "remap/paint_part.h"
 
 namespace varnel {
 
@@ -21,7 +22,6 @@ constexpr int margin = 12;              // logical pixels around and between the
 constexpr double hitReach = 7.0;        // logical pixels
 constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
 constexpr QColor emptyBox(84, 84, 84);
-constexpr QColor warningAmber(255, 213, 79);
 
 }  // namespace
 
@@ -35,15 +35,64 @@ void PictureBox::Show(FIBITMAP* bitmap, QSize full) {
     picture_ = full.isEmpty() ? image_.size() : full;
     image_.setDevicePixelRatio(devicePixelRatioF());
     update();
+    Q_EMIT Shown();
+}
+
+void PictureBox::FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full) {
+    zoom_ = zoom;
+    full_ = std::move(full);
+}
+
+void PictureBox::StandIn(const PictureBox* other) {
+    standIn_ = other;
+    update();
+}
+
+QSize PictureBox::View() const {
+    const QSizeF size = QSizeF(this->size()) * devicePixelRatioF();
+    return {static_cast<int>(size.width()), static_cast<int>(size.height())};
+}
+
+// On a scaled screen a box may begin within a pixel of the screen; the grid of whole ones begins
+// that much before it.
+QPointF PictureBox::GridOffset() const {
+    const QPointF origin = QPointF(mapTo(window(), QPoint())) * devicePixelRatioF();
+    return {origin.x() - std::floor(origin.x()), origin.y() - std::floor(origin.y())};
+}
+
+QPointF PictureBox::ViewPoint(QPointF point) const {
+    return point * devicePixelRatioF() + GridOffset();
 }
 
 QRectF PictureBox::PictureRect() const {
-    const QSizeF size = image_.deviceIndependentSize();
-    // Whole device pixels, or the picture would be blurred on a scaled screen.
     const double ratio = devicePixelRatioF();
+    if (Zoomed()) {
+        return {(zoom_->Corner() - GridOffset()) / ratio,
+                QSizeF(picture_) * zoom_->Scale() / ratio};
+    }
+    const QSizeF size = Source().image_.deviceIndependentSize();
+    // Whole device pixels, or the picture would be blurred on a scaled screen.
     const double x = std::floor((width() - size.width()) / 2.0 * ratio) / ratio;
     const double y = std::floor((height() - size.height()) / 2.0 * ratio) / ratio;
     return {QPointF(x, y), size};
+}
+
+void PictureBox::RedrawRows(RowSpan rows) {
+    if (!Zoomed() || rows.last < rows.first) {
+        return;
+    }
+    const int height = picture_.height();
+    const QRectF lines(0, height - 1 - rows.last, picture_.width(), rows.last - rows.first + 1);
+    update(ToWidget().mapRect(lines).toAlignedRect().adjusted(-1, -1, 1, 1) & rect());
+}
+
+void PictureBox::HoldPan(bool held) {
+    panHeld_ = held && Zoomed();
+    if (panHeld_) {
+        setCursor(Qt::OpenHandCursor);
+    } else {
+        unsetCursor();
+    }
 }
 
 QTransform PictureBox::ToWidget() const {
@@ -68,9 +117,10 @@ void PictureBox::RemoveOverlay(PictureOverlay* overlay) {
     update();
 }
 
-void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    if (image_.isNull()) {
+    const QImage& image = Source().image_;
+    if (image.isNull()) {
         painter.fillRect(rect(), emptyBox);
         painter.setPen(QColor(225, 225, 225));
         painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
@@ -78,13 +128,47 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
         return;
     }
     painter.fillRect(rect(), surround);
-    painter.drawImage(PictureRect().topLeft(), image_);
+    if (Zoomed()) {
+        for (const QRect& region : event->region()) {
+            PaintZoomed(painter, region);
+        }
+    } else {
+        painter.drawImage(PictureRect().topLeft(), image);
+    }
     const QTransform toWidget = ToWidget();
     for (PictureOverlay* const overlay : overlays_) {
         painter.save();
         overlay->Paint(painter, toWidget, picture_);
         painter.restore();
     }
+}
+
+// In pixels of the screen, so that at a scale of 1 none is touched by another.
+void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
+    const double ratio = devicePixelRatioF();
+    const QPointF grid = GridOffset();
+    const QRect device =
+        QRectF(QPointF(region.topLeft()) * ratio + grid, QSizeF(region.size()) * ratio)
+            .toAlignedRect();
+    QImage part(device.size(), QImage::Format_RGB32);
+    part.fill(surround);
+    const PartPlace place{zoom_->Corner() - device.topLeft(), zoom_->Scale()};
+    const FullPicture full = Source().full_ ? Source().full_() : FullPicture{};
+    if (full.bitmap == nullptr || full.rows != nullptr) {
+        QPainter under(&part);
+        under.setRenderHint(QPainter::SmoothPixmapTransform);
+        under.drawImage(QRectF(place.corner, QSizeF(picture_) * place.scale), Source().image_);
+    }
+    if (full.rows != nullptr) {
+        PaintPart(full.bitmap, place, part, [&full](int row) { return full.rows->Has(row); });
+    } else if (full.bitmap != nullptr) {
+        PaintPart(full.bitmap, place, part);
+    }
+    painter.save();
+    painter.setWorldTransform(QTransform::fromTranslate(-grid.x() / ratio, -grid.y() / ratio)
+                                  .scale(1 / ratio, 1 / ratio));
+    painter.drawImage(device.topLeft(), part);
+    painter.restore();
 }
 
 OverlayInput PictureBox::InputAt(const QSinglePointEvent& event) const {
@@ -103,30 +187,50 @@ void PictureBox::ShowCursorFor(const OverlayInput& input) {
     unsetCursor();
 }
 
+bool PictureBox::OverlaysTake(const OverlayInput& input) {
+    for (PictureOverlay* const overlay : std::views::reverse(overlays_)) {
+        if (overlay->Press(input)) {
+            holder_ = overlay;
+            return true;
+        }
+    }
+    return false;
+}
+
 void PictureBox::mousePressEvent(QMouseEvent* event) {
-    if (Empty() || holder_ != nullptr) {
+    if (Empty() || holder_ != nullptr || dragFrom_) {
         return;
     }
-    const OverlayInput input = InputAt(*event);
-    const auto taker =
-        std::ranges::find_if(std::views::reverse(overlays_),
-                             [&input](PictureOverlay* overlay) { return overlay->Press(input); });
-    holder_ = taker.base() == overlays_.begin() ? nullptr : *taker;
+    const bool left = event->button() == Qt::LeftButton;
+    const bool panning = event->button() == Qt::MiddleButton || (left && panHeld_);
+    if (!panning && OverlaysTake(InputAt(*event))) {
+        return;
+    }
+    if (Zoomed() && (panning || left)) {
+        dragFrom_ = ViewPoint(event->position());
+        setCursor(Qt::ClosedHandCursor);
+    }
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
     if (Empty()) {
         return;
     }
-    const OverlayInput input = InputAt(*event);
     if (holder_ != nullptr) {
-        holder_->Move(input);
-    } else {
-        ShowCursorFor(input);
+        holder_->Move(InputAt(*event));
+    } else if (dragFrom_) {
+        const QPointF to = ViewPoint(event->position());
+        Q_EMIT Dragged(to - std::exchange(*dragFrom_, to));
+    } else if (!panHeld_) {
+        ShowCursorFor(InputAt(*event));
     }
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton && dragFrom_) {
+        dragFrom_.reset();
+        HoldPan(panHeld_);
+    }
     if (holder_ == nullptr) {
         Q_EMIT Released(event->position().toPoint(), event->button(), event->modifiers());
         return;
@@ -137,79 +241,28 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (Empty() || holder_ != nullptr || event->button() != Qt::LeftButton ||
+        OverlaysTake(InputAt(*event))) {
+        return;
+    }
+    Q_EMIT ToggleWanted(event->position());
+}
+
 void PictureBox::wheelEvent(QWheelEvent* event) {
     const double steps = event->angleDelta().y() / 120.0;
+    if (Empty()) {
+        event->ignore();
+        return;
+    }
+    if ((event->modifiers() & Qt::ControlModifier) != 0) {
+        Q_EMIT ZoomWanted(event->position(), steps);
+        return;
+    }
     const OverlayInput input = InputAt(*event);
-    const bool used = !Empty() && std::ranges::any_of(std::views::reverse(overlays_),
-                                                      [&](PictureOverlay* overlay) {
-                                                          return overlay->Wheel(input, steps);
-                                                      });
-    event->setAccepted(used);
-}
-
-PictureArea::PictureArea(QWidget* parent)
-    : QWidget(parent),
-      from_(new PictureBox(tr("Add photos with \"Add image(s)\" or drop them here."), this)),
-      to_(new PictureBox(tr("The converted picture appears here."), this)),
-      trouble_(new QLabel(this)) {
-    from_->setObjectName(QStringLiteral("PicSmallFrom"));
-    from_->setAccessibleName(tr("Photo as shot"));
-    to_->setObjectName(QStringLiteral("PicSmallTo"));
-    to_->setAccessibleName(tr("Converted picture"));
-    trouble_->setObjectName(QStringLiteral("LabelTrouble"));
-    trouble_->setWordWrap(true);
-    trouble_->setMargin(6);
-    trouble_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    trouble_->setAutoFillBackground(true);
-    QPalette warning = trouble_->palette();
-    warning.setColor(QPalette::Window, warningAmber);
-    warning.setColor(QPalette::WindowText, Qt::black);
-    trouble_->setPalette(warning);
-    trouble_->hide();
-    setAutoFillBackground(true);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, surround);
-    setPalette(colours);
-}
-
-void PictureArea::ShowTrouble(const QString& text) {
-    trouble_->setText(text);
-    trouble_->setVisible(!text.isEmpty());
-    PlaceTrouble();
-}
-
-void PictureArea::PlaceTrouble() {
-    const QRect photo = from_->geometry();
-    const int height = std::min(trouble_->heightForWidth(photo.width()), photo.height());
-    trouble_->setGeometry(photo.left(), photo.bottom() + 1 - height, photo.width(), height);
-}
-
-void PictureArea::SetWanted(QSize size) {
-    wanted_ = size;
-    Place();
-}
-
-QSize PictureArea::Room() const {
-    const int acrossPictures = SideBySide() ? 2 : 1;
-    const int downPictures = SideBySide() ? 1 : 2;
-    return {(width() - margin * (acrossPictures + 1)) / acrossPictures,
-            (height() - margin * (downPictures + 1)) / downPictures};
-}
-
-void PictureArea::Place() {
-    const QSize box = wanted_.boundedTo(Room().expandedTo({1, 1}));
-    const QSize step =
-        SideBySide() ? QSize(box.width() + margin, 0) : QSize(0, box.height() + margin);
-    const QSize both = box + step;
-    const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
-    from_->setGeometry(QRect(corner, box));
-    to_->setGeometry(QRect(corner + QPoint(step.width(), step.height()), box));
-    PlaceTrouble();
-}
-
-void PictureArea::resizeEvent(QResizeEvent* /*event*/) {
-    Place();
-    Q_EMIT RoomChanged();
+    event->setAccepted(
+        std::ranges::any_of(std::views::reverse(overlays_),
+                            [&](PictureOverlay* overlay) { return overlay->Wheel(input, steps); }));
 }
 
 }  // namespace varnel

@@ -1,20 +1,28 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The two pictures of the main window: the photo as shot and the converted one.
+// One of the two pictures of the main window, whole or in part.
 #pragma once
 
 #include <QImage>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QTransform>
 #include <QWidget>
+#include <functional>
+#include <optional>
 #include <vector>
 
 #include "app/picture_overlay.h"
-#include "remap/bitmap.h"
+#include "pipeline/picture_zoom.h"
+#include "remap/part_render.h"
 
 namespace varnel {
+
+// What of a picture is there at full size.
+struct FullPicture {
+    FIBITMAP* bitmap = nullptr;
+    const PartRender* rows = nullptr;  // those that are there; null when all are
+};
 
 // Shows one bitmap in its middle, a bitmap pixel to a pixel of the screen, or a hint without one.
 class PictureBox : public QWidget {
@@ -25,6 +33,19 @@ class PictureBox : public QWidget {
     // without one the bitmap is the picture.
     void Show(FIBITMAP* bitmap, QSize full = {});
     bool Empty() const { return image_.isNull(); }
+
+    // Shows the part that the zoom says, until it fits, from the full-size picture; what is not
+    // there of it is the enlarged bitmap. The zoom has to stay.
+    void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full);
+    // Shows the other box's picture instead, if any.
+    void StandIn(const PictureBox* other);
+    // In device pixels, as a zoom has it.
+    QSize View() const;
+    QPointF ViewPoint(QPointF point) const;  // from a point of this widget
+    // Of some rows of the full-size picture, from 0 at the bottom, new pixels are there.
+    void RedrawRows(RowSpan rows);
+    // While held, any drag of the left button moves the picture.
+    void HoldPan(bool held);
 
     QSize Picture() const { return picture_; }
     // Where the whole picture lies, logical pixels of this widget.
@@ -43,54 +64,41 @@ class PictureBox : public QWidget {
     // it.
     void Released(QPoint position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
 
+    // The bitmap is another one.
+    void Shown();
+    // Points of this widget. Steps of the wheel with Ctrl held.
+    void ZoomWanted(QPointF point, double steps);
+    void ToggleWanted(QPointF point);
+    // The mouse drags the picture, by device pixels.
+    void Dragged(QPointF by);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
     OverlayInput InputAt(const QSinglePointEvent& event) const;
     void ShowCursorFor(const OverlayInput& input);
+    bool OverlaysTake(const OverlayInput& input);
+    bool Zoomed() const { return zoom_ != nullptr && !zoom_->Fit(); }
+    const PictureBox& Source() const { return standIn_ != nullptr ? *standIn_ : *this; }
+    QPointF GridOffset() const;
+    void PaintZoomed(QPainter& painter, const QRect& region) const;
 
     QString hint_;
     QImage image_;
     QSize picture_;
     std::vector<PictureOverlay*> overlays_;
     PictureOverlay* holder_ = nullptr;  // the overlay that has the mouse
-};
-
-// Both boxes on neutral grey, side by side in a wide area and stacked in a high one, each of the
-// wanted size where there is room.
-class PictureArea : public QWidget {
-    Q_OBJECT
-  public:
-    explicit PictureArea(QWidget* parent = nullptr);
-    PictureBox* From() const { return from_; }
-    PictureBox* To() const { return to_; }
-    // What is wrong with the photo as shot, on its lower edge; empty when nothing is.
-    void ShowTrouble(const QString& text);
-    // Logical pixels.
-    void SetWanted(QSize size);
-    QSize Room() const;  // for one picture
-    QSize minimumSizeHint() const override { return {220, 220}; }
-
-  Q_SIGNALS:
-    void RoomChanged();
-
-  protected:
-    void resizeEvent(QResizeEvent* event) override;
-
-  private:
-    bool SideBySide() const { return width() >= height(); }
-    void Place();
-    void PlaceTrouble();
-
-    PictureBox* from_;
-    PictureBox* to_;
-    QLabel* trouble_;
-    QSize wanted_{400, 300};
+    const PictureZoom* zoom_ = nullptr;
+    std::function<FullPicture()> full_;
+    const PictureBox* standIn_ = nullptr;
+    std::optional<QPointF> dragFrom_;  // device pixels, while the picture is dragged
+    bool panHeld_ = false;
 };
 
 }  // namespace varnel

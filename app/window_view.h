@@ -14,7 +14,7 @@
 #include "app/adjustment_panel.h"
 #include "app/desk.h"
 #include "app/gear_offer_row.h"
-#include "app/picture_box.h"
+#include "app/picture_area.h"
 #include "app/side_panels.h"
 #include "app/window_progress.h"
 
@@ -58,6 +58,7 @@ class WindowView : public DeskView {
         parts_.pictures->From()->Show(bitmap, FullSize());
     }
     void ShowResult(FIBITMAP* bitmap) override;
+    void NoteDrawn(const ImageRecord& image) override { drawn_ = image; }
     void ShowTrouble(const QString& text) override {
         trouble_ = text;
         parts_.pictures->ShowTrouble(text);
@@ -81,6 +82,8 @@ class WindowView : public DeskView {
     void ShowProject(const QString& name);
     void ShowTitle(const QString& photo);
 
+    // The settings of the result that is shown; the projection is the chosen one.
+    const ImageRecord& Drawn() const { return drawn_; }
     bool Locked() const { return locked_; }
     // Called when the converted picture is another one or gone.
     void WhenResultShown(std::function<void()> then) { whenResultShown_.push_back(std::move(then)); }
@@ -96,6 +99,7 @@ class WindowView : public DeskView {
     WindowParts parts_;
     const WorkingState& state_;
     WindowProgress progress_;
+    ImageRecord drawn_;
     bool locked_ = false;
     QString photo_, project_;  // of the title
     QString trouble_;

@@ -27,11 +27,15 @@ void PartRender::Start(Projection projection, const ImageRecord& image, FIBITMAP
     }
 }
 
-void PartRender::Drop() {
+void PartRender::Forget() {
     rows_.reset();
     surface_.reset();
-    result_.reset();
     there_.clear();
+}
+
+void PartRender::Drop() {
+    Forget();
+    result_.reset();
 }
 
 RowSpan PartRender::DrawSome(RowSpan wanted, std::chrono::microseconds time) {

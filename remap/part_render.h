@@ -24,6 +24,8 @@ class PartRender {
     // Forgets what was drawn and begins anew; the bitmap is taken again where it fits. The source
     // has to stay until Drop or the next Start. Throws as the conversion does and is dropped then.
     void Start(Projection projection, const ImageRecord& image, FIBITMAP* source);
+    // Forgets what was drawn and keeps the memory.
+    void Forget();
     // Forgets all and gives the memory back.
     void Drop();
     bool Started() const { return rows_ != nullptr; }

@@ -60,11 +60,15 @@ void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize pi
         }
     }
     PaintHandles(painter, toWidget, *study);
-    PaintLabel(painter, whole, KeptText(study->kept.share));
+    PaintLabel(painter, VisiblePart(painter, whole), KeptText(study->kept.share));
 }
 
 void FrameOverlay::PaintLoss(QPainter& painter, const QTransform& toWidget,
                              const FrameStudy& study) {
+    if (study.loss) {
+        painter.fillPath(toWidget.map(*study.loss), lossShade);
+        return;
+    }
     // The last cells may reach beyond the picture's right and top edge.
     const KeptArea& kept = study.kept;
     const double height = study.places.Size().height;

@@ -3,9 +3,9 @@
 
 #include "app/frame_study.h"
 
-#include <QColor>
 #include <QCoreApplication>
 #include <QLocale>
+#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 
@@ -15,7 +15,6 @@ namespace {
 
 constexpr QColor shrunkBlue(40, 120, 255);
 constexpr QColor stretchedOrange(255, 140, 0);
-constexpr QColor lossShade(0, 0, 0, 150);
 
 QString Tr(const char* text) {
     return QCoreApplication::translate("FrameStudy", text);
@@ -25,13 +24,41 @@ QString Fixed(double number, int decimals) {
     return QLocale::c().toString(number, 'f', decimals);
 }
 
+std::optional<QPainterPath> LossPath(const ResultPlaces& places,
+                                     const std::optional<SourceCurve>& outline) {
+    if (!outline) {
+        return std::nullopt;
+    }
+    const PixelSize size = places.Size();
+    QPainterPath photo;
+    photo.addRect(0.0, 0.0, size.width, size.height);
+    if (const auto& circle = places.Circle()) {
+        QPainterPath whole;
+        whole.addEllipse(PointOf(circle->centre, size), circle->radius, circle->radius);
+        photo = photo.intersected(whole);
+    }
+    QPolygonF kept;
+    for (const SourcePlace& place : *outline) {
+        kept.append(PointOf(place, size));
+    }
+    QPainterPath inside;
+    inside.addPolygon(kept);
+    return photo.subtracted(inside);
+}
+
 }  // namespace
 
 FrameStudy::FrameStudy(Projection projection, const ImageRecord& image, PixelSize size)
     : places(projection, image, size),
       grid(places),
       border(BorderCurves(places)),
-      kept(MeasureKept(grid)) {}
+      kept(MeasureKept(grid)),
+      loss(LossPath(places, KeptOutline(places, kept))) {}
+
+QRectF VisiblePart(const QPainter& painter, const QRectF& picture) {
+    const QRectF seen = picture & QRectF(painter.viewport());
+    return painter.hasClipping() ? seen & painter.clipBoundingRect() : seen;
+}
 
 QPointF PointOf(const SourcePlace& place, PixelSize size) {
     return {place.x + 0.5, size.height - 0.5 - place.y};

@@ -5,8 +5,10 @@
 // texts that go with it.
 #pragma once
 
+#include <QColor>
 #include <QImage>
-#include <QPolygonF>
+#include <QPainter>
+#include <QPainterPath>
 #include <QString>
 
 #include "remap/result_numbers.h"
@@ -23,14 +25,19 @@ struct FrameStudy {
     ResultGrid grid;
     std::vector<SourceCurve> border;
     KeptArea kept;
+    std::optional<QPainterPath> loss;  // in points of overlays; nothing without a KeptOutline
 };
+
+// The part of a picture that is in sight, for what is written over it.
+QRectF VisiblePart(const QPainter& painter, const QRectF& picture);
 
 // Between places, whose rows count from the bottom, and the points of overlays.
 QPointF PointOf(const SourcePlace& place, PixelSize size);
 SourcePlace PlaceAtPoint(const QPointF& point, PixelSize size);
 
-// A pixel for each of the cells, top row first.
+// What is lost, a pixel for each of the cells, top row first.
 QImage LossImage(const KeptArea& kept);
+inline constexpr QColor lossShade(0, 0, 0, 150);
 // Blue where the photo is shrunk, orange where it is stretched, stronger the more.
 QImage MagnificationImage(const MagnificationMap& map);
 QColor ColourOf(Magnified magnified);

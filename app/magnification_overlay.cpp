@@ -62,7 +62,7 @@ void MagnificationOverlay::Paint(QPainter& painter, const QTransform& toWidget, 
     const QRectF cells(columns.front(), picture.height() - 1.0 - rows.back(),
                        columns.back() + 1.0 - columns.front(), rows.back() + 1.0 - rows.front());
     painter.drawImage(toWidget.mapRect(cells), MagnificationImage(MapMagnification(study->grid)));
-    PaintLegend(painter, whole);
+    PaintLegend(painter, VisiblePart(painter, whole));
 }
 
 }  // namespace varnel

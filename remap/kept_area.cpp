@@ -199,6 +199,89 @@ std::vector<SourceCurve> BorderCurves(const ResultPlaces& places, int pointsPerS
     return walk.Curves();
 }
 
+namespace {
+
+// Every pixel of the loop is read, or there is none.
+std::optional<SourceCurve> ClosedLoop(const ResultPlaces& places, int pointsPerSide) {
+    const std::vector<int>& columns = places.Columns();
+    const std::vector<int>& rows = places.Rows();
+    const PixelSize size = places.Size();
+    if (!BorderLine(columns, 0) || !BorderLine(columns, size.width - 1) || !BorderLine(rows, 0) ||
+        !BorderLine(rows, size.height - 1)) {
+        return std::nullopt;
+    }
+    SourceCurve loop;
+    for (int n = 0; n < 4 * pointsPerSide; ++n) {
+        const int side = n / pointsPerSide;
+        const auto lineAt = [&](const std::vector<int>& lines, bool back) {
+            const std::size_t far = (lines.size() - 1) *
+                                    static_cast<std::size_t>(n % pointsPerSide) /
+                                    static_cast<std::size_t>(pointsPerSide);
+            return lines[back ? lines.size() - 1 - far : far];
+        };
+        const int column = side == 0   ? lineAt(columns, false)
+                           : side == 1 ? columns.back()
+                           : side == 2 ? lineAt(columns, true)
+                                       : columns.front();
+        const int row = side == 0   ? rows.front()
+                        : side == 1 ? lineAt(rows, false)
+                        : side == 2 ? rows.back()
+                                    : lineAt(rows, true);
+        const auto place = places.ReadAt(column, row);
+        if (!place) {
+            return std::nullopt;
+        }
+        loop.push_back(*place);
+    }
+    loop.push_back(loop.front());
+    return loop;
+}
+
+// Where the loop crosses the middle of a row of cells, in cells, ascending.
+std::vector<double> Crossings(const SourceCurve& loop, const KeptArea& kept, int row) {
+    std::vector<double> crossings;
+    const double height = (row + 0.5) * kept.cell - 0.5;
+    for (std::size_t n = 0; n + 1 < loop.size(); ++n) {
+        const SourcePlace& a = loop[n];
+        const SourcePlace& b = loop[n + 1];
+        if ((a.y > height) != (b.y > height)) {
+            const double x = a.x + (b.x - a.x) * (height - a.y) / (b.y - a.y);
+            crossings.push_back((x + 0.5) / kept.cell - 0.5);
+        }
+    }
+    std::ranges::sort(crossings);
+    return crossings;
+}
+
+}  // namespace
+
+std::optional<SourceCurve> KeptOutline(const ResultPlaces& places, const KeptArea& kept,
+                                       int pointsPerSide) {
+    constexpr double tolerance = 0.005;
+    std::optional<SourceCurve> loop = ClosedLoop(places, pointsPerSide);
+    if (!loop) {
+        return loop;
+    }
+    int photo = 0;
+    int different = 0;
+    for (int row = 0; row < kept.rows; ++row) {
+        const std::vector<double> crossings = Crossings(*loop, kept, row);
+        const std::uint8_t* const line =
+            kept.cells.data() + static_cast<std::ptrdiff_t>(row) * kept.columns;
+        std::size_t passed = 0;
+        for (int column = 0; column < kept.columns; ++column) {
+            while (passed < crossings.size() && crossings[passed] <= column) {
+                ++passed;
+            }
+            if ((line[column] & KeptArea::Photo) != 0) {
+                ++photo;
+                different += (passed % 2 == 1) == ((line[column] & KeptArea::Kept) != 0) ? 0 : 1;
+            }
+        }
+    }
+    return different <= tolerance * photo ? loop : std::nullopt;
+}
+
 bool KeptArea::Keeps(const SourcePlace& place) const {
     const double x = std::floor((place.x + 0.5) / cell);
     const double y = std::floor((place.y + 0.5) / cell);

@@ -41,4 +41,9 @@ struct KeptArea {
 
 KeptArea MeasureKept(const ResultGrid& grid, int columns = 400);
 
+// The closed border of what is kept, also where it runs off the photo; what it does not enclose is
+// lost. Nothing when no single outline tells that: a border that is black in places or folds over.
+std::optional<SourceCurve> KeptOutline(const ResultPlaces& places, const KeptArea& kept,
+                                       int pointsPerSide = 160);
+
 }  // namespace varnel

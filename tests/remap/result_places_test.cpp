@@ -8,6 +8,8 @@
 #include <cmath>
 #include <random>
 #include <set>
+#include <string>
+#include <string_view>
 
 #include "remap/reference/render.h"
 #include "remap/result_numbers.h"
@@ -21,7 +23,7 @@ namespace {
 using testing::operator==;
 
 struct Case {
-    const char* name;
+    std::string_view name;
     Projection projection;
     ImageRecord record;
     PixelSize size{241, 161};
@@ -227,8 +229,37 @@ TEST_P(PlacesOf, BorderPointsAreThoseThatTheOutermostPixelsRead) {
     }
 }
 
+// A border that is black in places, or folds over, is no outline.
+TEST(KeptOutline, EnclosesWhatIsKept) {
+    const std::vector<Case> cases = Cases();
+    const auto outlineOf = [&](std::string_view name) {
+        const Case& given = *std::ranges::find(cases, name, &Case::name);
+        const ResultPlaces places(given.projection, given.record,
+                                  {given.size.width * 10, given.size.height * 10});
+        return KeptOutline(places, MeasureKept(ResultGrid(places)));
+    };
+    const std::optional<SourceCurve> straight = outlineOf("Straight");
+    ASSERT_TRUE(straight);
+    double area = 0.0;
+    for (std::size_t n = 0; n + 1 < straight->size(); ++n) {
+        const SourcePlace& a = (*straight)[n];
+        const SourcePlace& b = (*straight)[n + 1];
+        area += (a.x * b.y - b.x * a.y) / 2.0;
+    }
+    const ResultPlaces places(cases[0].projection, cases[0].record, {2410, 1610});
+    int photo = 0;  // pixels of the circle that the photo has
+    for (int y = 0; y < 1610; ++y) {
+        for (int x = 0; x < 2410; ++x) {
+            photo += places.InCircle({static_cast<double>(x), static_cast<double>(y)}) ? 1 : 0;
+        }
+    }
+    EXPECT_NEAR(area / photo, CountedShare(cases[0], cases[0].size), 0.005);
+    EXPECT_FALSE(outlineOf("Turned"));
+    EXPECT_FALSE(outlineOf("Horizon"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Projections, PlacesOf, ::testing::ValuesIn(Cases()),
-                         [](const auto& testInfo) { return testInfo.param.name; });
+                         [](const auto& testInfo) { return std::string(testInfo.param.name); });
 
 // Equisolid, r = 16 sin(theta / 2) mm on 1000 pixels for 36 mm, 90 degrees across: in the middle
 // 16 / 2 x 1000 / 36 pixels of the photo for a radian, 500 of the result.

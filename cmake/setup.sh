@@ -1,7 +1,9 @@
-# Shared by ./run and ./test: says what is done, installs packages, builds. Sourced, not run.
+# Shared by ./run, ./test and ./package: says what is done, installs packages, builds. Sourced, not run.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libfreeimage-dev libjpeg-dev libtiff-dev zlib1g-dev libhwy-dev libexiv2-dev liblcms2-dev fonts-dejavu-core)
-test_packages=("${build_packages[@]}" libgtest-dev libimage-exiftool-perl xvfb xauth parallel)
+pack_packages=(dpkg-dev binutils)
+test_packages=("${build_packages[@]}" libgtest-dev libimage-exiftool-perl xvfb xauth parallel
+  "${pack_packages[@]}" desktop-file-utils appstream mandoc bash-completion lintian)
 
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }

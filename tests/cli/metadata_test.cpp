@@ -165,6 +165,9 @@ QMap<QString, QJsonValue> Told(const Fields& fields, bool isResult) {
     }
     if (!isResult) {
         values[Q("IFD0:Orientation")] = values[Q("XMP-tiff:Orientation")] = 1;
+        if (values.contains(Q("XMP-crs:ColorTemperature"))) {
+            values[Q("XMP-crs:AlreadyApplied")] = true;
+        }
         values[Q("IFD0:Software")] = values[Q("XMP-xmp:CreatorTool")] = Q("Varnel 1.0.0");
         values[Q("ExifIFD:ExifImageWidth")] = 200;
         values[Q("ExifIFD:ExifImageHeight")] = 300;

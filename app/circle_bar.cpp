@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/circle_bar.h"
+
+#include <QHBoxLayout>
+
+namespace varnel {
+
+CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this)) {
+    setObjectName(QStringLiteral("BarCircle"));
+    text_->setObjectName(QStringLiteral("LabelCircle"));
+    text_->setWordWrap(true);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the rest is the pictures'
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(9, 4, 9, 4);
+    row->addWidget(text_, 1);
+    find_ = AddButton("CmdCircleFind", tr("Find circle"),
+                      tr("Looks for the rim of the image circle on this photo"),
+                      &CircleBar::FindWanted);
+    reset_ =
+        AddButton("CmdCircleReset", tr("Gear's circle"),
+                  tr("Shows the circle that the gear has at present"), &CircleBar::ResetWanted);
+    take_ = AddButton("CmdCircleTake", tr("Take into the gear..."),
+                      tr("Makes this circle the one of the gear"), &CircleBar::TakeWanted);
+    agree_ = AddButton("CmdCircleAgree", tr("Change the gear"), {}, &CircleBar::Agreed);
+    decline_ = AddButton("CmdCircleDecline", tr("Cancel"), {}, &CircleBar::Declined);
+    ShowQuestion(false);
+}
+
+QPushButton* CircleBar::AddButton(const char* name, const QString& text, const QString& tip,
+                                  void (CircleBar::*signal)()) {
+    auto* const button = new QPushButton(text, this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(tip);
+    layout()->addWidget(button);
+    connect(button, &QPushButton::clicked, this, signal);
+    return button;
+}
+
+void CircleBar::ShowNumbers(const QString& text, bool mayFind, bool mayTake) {
+    text_->setText(text);
+    find_->setEnabled(mayFind);
+    reset_->setEnabled(mayTake);
+    take_->setEnabled(mayTake);
+    ShowQuestion(false);
+}
+
+void CircleBar::Ask(const QString& question) {
+    text_->setText(question);
+    ShowQuestion(true);
+    decline_->setFocus();
+}
+
+void CircleBar::ShowQuestion(bool asked) {
+    for (QPushButton* const button : {find_, reset_, take_}) {
+        button->setVisible(!asked);
+    }
+    for (QPushButton* const button : {agree_, decline_}) {
+        button->setVisible(asked);
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The bar below the pictures while the image circle is shown: the numbers that fit it, and a
+// question in their place before the gear is changed.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+namespace varnel {
+
+class CircleBar : public QWidget {
+    Q_OBJECT
+  public:
+    explicit CircleBar(QWidget* parent);
+    // mayTake: the circle is another one than the gear's.
+    void ShowNumbers(const QString& text, bool mayFind, bool mayTake);
+    void Ask(const QString& question);
+
+  Q_SIGNALS:
+    void FindWanted();
+    void TakeWanted();
+    void ResetWanted();  // the gear's own circle again
+    void Agreed();
+    void Declined();
+
+  private:
+    QPushButton* AddButton(const char* name, const QString& text, const QString& tip,
+                           void (CircleBar::*signal)());
+    void ShowQuestion(bool asked);
+
+    QLabel* text_;
+    QPushButton* find_;
+    QPushButton* reset_;
+    QPushButton* take_;
+    QPushButton* agree_;
+    QPushButton* decline_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/circle_tools.h"
+
+#include <QLayout>
+#include <QLocale>
+#include <algorithm>
+#include <new>
+
+#include "gear/gear_store.h"
+#include "pipeline/photo_circle.h"
+
+namespace varnel {
+
+namespace {
+
+QString NumbersText(const GearCircle& circle) {
+    const auto number = [](float value) {
+        return QLocale().toString(static_cast<double>(value), 'f', 1);
+    };
+    return QStringLiteral("OfsetX %1 ‰   OfsetY %2 ‰   GearRatio %3 %")
+        .arg(number(circle.OfsetX), number(circle.OfsetY), number(circle.GearRatio));
+}
+
+// Where to begin when the gear tells no circle.
+ImageCircle Inscribed(PixelSize picture) {
+    return {picture.width / 2.0, picture.height / 2.0,
+            std::min(picture.width, picture.height) / 2.0};
+}
+
+}  // namespace
+
+CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+                         Desk& desk, WorkingState& state, SettingsStore& store)
+    : QObject(window),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      store_(store),
+      overlay_([this] { return Shown(); }, [this](const ImageCircle& circle) { Try(circle); }),
+      bar_(new CircleBar(parts.pictures->parentWidget())),
+      entry_(parts.viewMenu->addAction(tr("&Image circle"))) {
+    entry_->setObjectName(QStringLiteral("CmdViewCircle"));
+    entry_->setShortcut(Qt::CTRL | Qt::Key_I);
+    entry_->setCheckable(true);
+    bar_->hide();
+    parts_.pictures->parentWidget()->layout()->addWidget(bar_);
+    Connect();
+}
+
+void CircleTools::Connect() {
+    connect(entry_, &QAction::toggled, this, &CircleTools::OnToggled);
+    connect(bar_, &CircleBar::FindWanted, this, &CircleTools::Find);
+    connect(bar_, &CircleBar::ResetWanted, this, &CircleTools::Reset);
+    connect(bar_, &CircleBar::TakeWanted, this, &CircleTools::Ask);
+    connect(bar_, &CircleBar::Agreed, this, &CircleTools::Take);
+    connect(bar_, &CircleBar::Declined, this, &CircleTools::Decline);
+    // After what these do to the current record.
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &CircleTools::Refresh,
+            Qt::QueuedConnection);
+    connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
+            Qt::QueuedConnection);
+    view_.WhenResultShown([this] { Refresh(); });
+}
+
+void CircleTools::OnToggled(bool on) {
+    PictureBox* const photo = parts_.pictures->From();
+    photo->RemoveOverlay(&overlay_);
+    if (on) {
+        photo->AddOverlay(&overlay_);
+    }
+    bar_->setVisible(on);
+    Reset();
+}
+
+PixelSize CircleTools::PhotoSize() const {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    return photo == nullptr ? PixelSize{} : SizeOf(photo);
+}
+
+std::optional<ImageCircle> CircleTools::Shown() {
+    const ImageRecord* const image = desk_.Current();
+    const PixelSize size = PhotoSize();
+    if (image == nullptr || size.width == 0) {
+        return std::nullopt;
+    }
+    if (trial_ && trialPhoto_ == desk_.CurrentPath()) {
+        return trial_;
+    }
+    const ImageCircle circle = CircleOf(*image, size);
+    return circle.radius > 0.0 ? circle : Inscribed(size);
+}
+
+int CircleTools::GearNumber() {
+    const ImageRecord* const image = desk_.Current();
+    return image == nullptr ? 0 : state_.Gear.Find(image->GearName);
+}
+
+void CircleTools::Try(const ImageCircle& circle) {
+    trial_ = circle;
+    trialPhoto_ = desk_.CurrentPath();
+    asking_ = false;
+    Refresh();
+}
+
+void CircleTools::Reset() {
+    trial_.reset();
+    asking_ = false;
+    Refresh();
+}
+
+void CircleTools::Refresh() {
+    if (!entry_->isChecked()) {
+        return;
+    }
+    if (trialPhoto_ != desk_.CurrentPath()) {
+        trial_.reset();
+    }
+    parts_.pictures->From()->RedrawOverlays();
+    if (asking_ && trial_) {
+        return;  // a new preview does not answer the question
+    }
+    asking_ = false;
+    const std::optional<ImageCircle> circle = Shown();
+    bar_->ShowNumbers(
+        circle ? NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize())) : QString(),
+        circle.has_value(), trial_.has_value() && GearNumber() > 0);
+}
+
+void CircleTools::Find() {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    if (photo == nullptr || desk_.Current() == nullptr || desk_.Busy()) {
+        return;
+    }
+    try {
+        if (const std::optional<ImageCircle> found = FindPhotoCircle(photo)) {
+            Try(*found);
+            view_.ShowStatus(tr("Image circle found."));
+        } else {
+            view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
+        }
+    } catch (const std::bad_alloc&) {
+        view_.ShowStatus(tr("There is not enough memory."));
+    }
+}
+
+void CircleTools::Ask() {
+    if (trial_ && GearNumber() > 0) {
+        asking_ = true;
+        bar_->Ask(tr("Change the gear \"%1\" to %2? Photos that are adjusted already keep their "
+                     "circle, but for the current one.")
+                      .arg(desk_.Current()->GearName,
+                           NumbersText(GearCircleFor(*trial_, *desk_.Current(), PhotoSize()))));
+    }
+}
+
+void CircleTools::Decline() {
+    asking_ = false;
+    Refresh();
+}
+
+void CircleTools::Take() {
+    const int gear = GearNumber();
+    if (!trial_ || gear == 0 || desk_.Busy() || view_.Locked()) {
+        return;
+    }
+    const GearCircle circle = GearCircleFor(*trial_, *desk_.Current(), PhotoSize());
+    TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
+    SaveGear(store_, state_.Gear);
+    desk_.NoteStep(StepKind::Circle);
+    Reset();
+    desk_.Preview();
+    view_.ShowStatus(tr("The gear \"%1\" has the circle now.").arg(state_.Gear(gear).GearName));
+}
+
+}  // namespace varnel

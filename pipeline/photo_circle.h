@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The image circle of a photo in memory.
+#pragma once
+
+#include "gear/circle_finder.h"
+#include "remap/bitmap.h"
+
+namespace varnel {
+
+// In pixels of the photo, 24 bits, as circle_finder.h says; looked for on a reduced copy. Throws
+// std::bad_alloc.
+std::optional<ImageCircle> FindPhotoCircle(FIBITMAP* photo);
+
+}  // namespace varnel

@@ -38,7 +38,8 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
         }
         ImageRecord shown = image;
         shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
-        NoteSettings(result, shown, state_.settings.WriteSettings);
+        NoteSettings(result, shown, state_.settings.WriteSettings,
+                     state_.settings.WriteMetadata ? choice.name : QString());
         return SaveBitmap(
             FormatOf(type), result, choice.name,
             SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444),

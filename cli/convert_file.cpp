@@ -60,7 +60,8 @@ void GiveGear(const Options& options, const GearRecord& gear, ImageRecord& recor
         AssignGear(gear, record);
         return;
     }
-    const ImageRecord& like = *options.likeRecord;
+    ImageRecord like = *options.likeRecord;
+    TurnCentre(like, record.Orientation);
     CopySettings(like, record);
     if (NamesGear(options)) {
         record.SettingsApplied = false;
@@ -69,6 +70,10 @@ void GiveGear(const Options& options, const GearRecord& gear, ImageRecord& recor
         record.EffectVarnel = like.EffectVarnel;
         record.EffectRectilinear = like.EffectRectilinear;
     }
+}
+
+bool KeepsMetadata(const ConversionRun& run) {
+    return run.settings.WriteMetadata && !run.options.noMetadata;
 }
 
 }  // namespace
@@ -98,7 +103,8 @@ QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString&
                          : QString();
 }
 
-void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record) {
+void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
+                const QString& file) {
     RenderDesk desk{photo.bitmaps, [&run] { return run.options.antialiased; }, &run.runner};
     const SizeKind kind = run.options.preview ? SizeKind::Thumbnails : SizeKind::Large;
     if (run.options.preview && !photo.bitmaps.PreviewSourceBitmap) {
@@ -108,14 +114,15 @@ void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& r
     }
     Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
     NoteSettings(photo.bitmaps.ResultBitmap.get(), record,
-                 run.settings.WriteSettings && !run.options.noSettings);
+                 run.settings.WriteSettings && !run.options.noSettings,
+                 KeepsMetadata(run) ? file : QString());
 }
 
 SaveResult SaveTo(ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,
                   BlockRunner& runner) {
     const int quality = run.options.quality.value_or(run.settings.JPEGcompression);
     const bool chroma444 = run.options.chroma444.value_or(run.settings.JPEGchroma444);
-    if (run.options.noMetadata || !run.settings.WriteMetadata) {
+    if (!KeepsMetadata(run)) {
         DropMetadata(result);
     }
     return SaveBitmap(FormatOf(target.type), result, FileInSeries{target.file, run.series},

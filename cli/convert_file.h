@@ -58,8 +58,10 @@ ConversionTarget TargetFor(const ConversionRun& run, const QString& path,
 // run, an older file only with --force, and not even then by a conversion of a damaged photo.
 QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target);
 
-// Replaces the photo's ResultBitmap. Throws RunTimeError and std::bad_alloc.
-void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record);
+// Replaces the photo's ResultBitmap, which is going to be written into the file. Throws
+// RunTimeError and std::bad_alloc.
+void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
+                const QString& file);
 
 // Encodes with the runner and writes.
 SaveResult SaveTo(ConversionRun& run, const ConversionTarget& target, FIBITMAP* result,

@@ -170,7 +170,7 @@ class Conversions {
                 Report(file, trouble);
                 return;
             }
-            RenderInto(run_, photo, record);
+            RenderInto(run_, photo, record, file);
             if (last) {
                 photo.bitmaps.FullSourceBitmap.reset();  // encoding needs room of its own
                 photo.bitmaps.PreviewSourceBitmap.reset();

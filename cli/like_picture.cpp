@@ -13,7 +13,7 @@ QString MissingSource(const Likeness& likeness) {
     return likeness.record.FileName.isEmpty()
                ? QStringLiteral("does not say which photo it was made of")
                : QStringLiteral("the photo that it was made of is not there: ") +
-                     SourcePath(likeness.record);
+                     ShownSource(likeness.record);
 }
 
 // Empty when all is well.

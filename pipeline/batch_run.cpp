@@ -108,7 +108,8 @@ class Run : private RenderProgress {
         bitmaps.ResultBitmap = std::move(turn_.result);
         RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, *this, desk);
-        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices_.writeSettings);
+        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices_.writeSettings,
+                     choices_.writeMetadata ? turn_.path : QString());
         source_.bitmap = std::move(bitmaps.FullSourceBitmap);
         turn_.result = std::move(bitmaps.ResultBitmap);
     }

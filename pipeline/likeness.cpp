@@ -9,6 +9,7 @@
 
 #include "pipeline/add_images.h"
 #include "pipeline/file_set.h"
+#include "state/gear_assignment.h"
 #include "state/picture_settings.h"
 
 namespace varnel {
@@ -27,6 +28,7 @@ bool IsSource(const QString& folder, const QString& fileName, const QString& pic
 void FindSource(Likeness& likeness, const QString& picture) {
     ImageRecord& record = likeness.record;
     const QString beside = RecordFolder(QFileInfo(picture).absolutePath());
+    record.Folder = SourceFolderOf(record, picture);
     if (record.FileName.isEmpty()) {
         return;
     }
@@ -37,10 +39,36 @@ void FindSource(Likeness& likeness, const QString& picture) {
     }
 }
 
-void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path,
+// What is missing or was refused, as a gear would give it: no conversion works with 0.
+void FillGaps(ImageRecord& record) {
+    for (float* const effect : {&record.EffectVarnel, &record.EffectRectilinear}) {
+        *effect = *effect > 0.0F ? *effect : usualEffect;
+    }
+    constexpr float usualFisheye = 180.0F;
+    record.InputAOV = record.InputAOV > 0.0F ? record.InputAOV : usualFisheye;
+    if (record.OutputAOV <= 0.0F) {
+        record.OutputAOV = UsualOutputAov(record.InputAOV);
+    }
+}
+
+// The photo may be turned in another way by now; its size is taken when it is loaded.
+void TurnAsShown(ImageRecord& record, PhotoLoader& photos) {
+    std::optional<PhotoSize> size;
+    if (record.OfsetX != 0.0F || record.OfsetY != 0.0F) {
+        size = photos.Size(SourcePath(record));
+    }
+    const int orientation = size ? size->orientation : 1;
+    if (size) {
+        TurnCentre(record, orientation);
+    }
+    record.Orientation = static_cast<std::int16_t>(orientation);
+}
+
+void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, PhotoLoader& photos,
                         const PictureSettings& settings, AddedFiles& added) {
-    const std::optional<Likeness> likeness = LikenessFrom(settings, path);
+    std::optional<Likeness> likeness = LikenessFrom(settings, path);
     if (likeness && likeness->sourceFound) {
+        TurnAsShown(likeness->record, photos);
         images.Append(likeness->record);
         added.like = added.like == 0 ? images.UpperBound() : added.like;
         for (const QString& note : likeness->notes) {
@@ -50,7 +78,7 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path,
     }
     if (likeness) {
         const QString source = likeness->record.FileName.isEmpty() ? Tr("its name is not known")
-                                                                   : SourcePath(likeness->record);
+                                                                   : ShownSource(likeness->record);
         added.missing.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), source));
     }
     AppendFiles(images, {path});
@@ -65,12 +93,20 @@ bool MayHoldSettings(const QString& path) {
     return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
 }
 
+QString ShownSource(const ImageRecord& record) {
+    constexpr qsizetype longest = 300;
+    return Shown(SourcePath(record), longest);
+}
+
 std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture) {
     if (settings.isEmpty()) {
         return std::nullopt;
     }
     Likeness likeness;
+    likeness.record.Folder = QStringLiteral(".");
+    likeness.record.Orientation = 0;
     likeness.notes = TakeSettings(settings, likeness.record);
+    FillGaps(likeness.record);
     FindSource(likeness, picture);
     return likeness;
 }
@@ -82,7 +118,7 @@ AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringL
     bool goesOn = true;
     for (const QString& path : paths) {
         const bool asks = goesOn && MayHoldSettings(path);
-        AppendFileOrSource(images, path,
+        AppendFileOrSource(images, path, photos,
                            asks ? photos.Facts(path).metadata.settings : PictureSettings(), added);
         goesOn = goesOn && !photos.GivenUp() && together.Continue();
     }

@@ -15,10 +15,15 @@ namespace varnel {
 bool MayHoldSettings(const QString& path);
 
 struct Likeness {
-    ImageRecord record;  // leads to the source photo where that was found
+    // Leads to the source photo where that was found. Its orientation is the one that the centre
+    // offsets are meant for; 0 when that was not told.
+    ImageRecord record;
     bool sourceFound = false;
     QStringList notes;  // settings that were refused
 };
+
+// The path of the photo as it can be told.
+QString ShownSource(const ImageRecord& record);
 
 // What made the picture; nothing when it holds no settings. The source photo is looked for where it
 // was, then beside the picture.

@@ -9,8 +9,6 @@ namespace varnel {
 
 namespace {
 
-constexpr float widestOutputAov = 130.0F;  // degrees, for a gear's default
-
 void CopyGear(const GearRecord& gear, ImageRecord& image) {
     image.GearName = gear.GearName;
     image.CameraBrand = gear.CameraBrand;
@@ -70,22 +68,27 @@ CentreOffset GearCentre(const CentreOffset& shown, const ImageRecord& image) {
 }
 
 void TurnCentre(ImageRecord& image, int orientation) {
-    if (image.Orientation != orientation) {
+    if (IsOrientation(image.Orientation) && image.Orientation != orientation) {
         const CentreOffset shown{image.OfsetX, image.OfsetY};
         SetCentre(Turned(Turned(shown, Inverse(image.Orientation)), orientation), image);
     }
+}
+
+float UsualOutputAov(float inputAov) {
+    constexpr float widest = 130.0F;
+    return inputAov > widest ? widest : inputAov;
 }
 
 bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     if (image.SettingsApplied) {
         return false;
     }
-    image.EffectVarnel = 100.0F;
-    image.EffectRectilinear = 100.0F;
+    image.EffectVarnel = usualEffect;
+    image.EffectRectilinear = usualEffect;
     CopyGear(gear, image);
     SetCentre(ShownCentre({gear.OfsetX, gear.OfsetY}, image), image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
-    image.OutputAOV = image.InputAOV > widestOutputAov ? widestOutputAov : image.InputAOV;
+    image.OutputAOV = UsualOutputAov(image.InputAOV);
     return true;
 }
 

@@ -12,6 +12,10 @@
 
 namespace varnel {
 
+// What a gear brings: percent, and degrees for an angle of view of the photo.
+inline constexpr float usualEffect = 100.0F;
+float UsualOutputAov(float inputAov);
+
 // Copies the gear's names and numbers and resets angles of view and effects to the gear's defaults;
 // rotation and translation stay. The gear's centre is meant for a picture stored in landscape: for
 // one stored upright its offsets change places, and then they turn with the picture. A record whose
@@ -33,7 +37,7 @@ CentreOffset ShownCentre(const CentreOffset& gear, const ImageRecord& image);
 CentreOffset GearCentre(const CentreOffset& shown, const ImageRecord& image);
 
 // Moves the record's centre offsets with a picture that is shown turned by this orientation
-// instead of the record's.
+// instead of the record's; not when that is none.
 void TurnCentre(ImageRecord& image, int orientation);
 
 // Only notes the name and reopens every record for the gear; its numbers follow when it is

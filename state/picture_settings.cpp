@@ -5,10 +5,12 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLatin1StringView>
 #include <algorithm>
 #include <array>
 
+#include "remap/turn.h"
 #include "state/number_text.h"
 #include "state/record_fields.h"
 
@@ -21,6 +23,7 @@ constexpr QLatin1StringView currentVersion("1");
 constexpr QLatin1StringView Source("Source");
 constexpr QLatin1StringView SourceFolder("SourceFolder");
 constexpr QLatin1StringView ProjectionName("Projection");
+constexpr QLatin1StringView Orientation("Orientation");
 constexpr QLatin1StringView NameSuffix("NameSuffix");
 
 constexpr qsizetype longestName = 64;
@@ -34,7 +37,7 @@ constexpr std::array textFields{
 };
 
 // The units are the record's. The ranges hold whatever the sliders, the gear editor, the catalogues
-// and the command line can sensibly give.
+// and sequences can give, and of the command line all that makes a picture.
 struct NumberField {
     QLatin1StringView name;
     float least;
@@ -51,18 +54,18 @@ constexpr std::array numberFields{
     NumberField{QLatin1StringView("LensData3"), -1e6F, 1e6F},
     NumberField{QLatin1StringView("LensMapScale"), 0.0F, 1000.0F},
     NumberField{QLatin1StringView("LensMapFactor"), 0.0F, 100.0F},
-    NumberField{QLatin1StringView("OfsetX"), -500.0F, 500.0F},
-    NumberField{QLatin1StringView("OfsetY"), -500.0F, 500.0F},
+    NumberField{QLatin1StringView("OfsetX"), -1000.0F, 1000.0F},
+    NumberField{QLatin1StringView("OfsetY"), -1000.0F, 1000.0F},
     NumberField{QLatin1StringView("Ratio"), 0.0F, 1000.0F},
-    NumberField{QLatin1StringView("InputAOV"), 1.0F, 360.0F},
-    NumberField{QLatin1StringView("OutputAOV"), 1.0F, 360.0F},
-    NumberField{QLatin1StringView("EffectVarnel"), 0.01F, 100.0F},  // as frames of a sequence have
-    NumberField{QLatin1StringView("EffectRectilinear"), 0.01F, 100.0F},
-    NumberField{QLatin1StringView("RotateX"), -180.0F, 180.0F},
-    NumberField{QLatin1StringView("RotateY"), -180.0F, 180.0F},
-    NumberField{QLatin1StringView("RotateZ"), -180.0F, 180.0F},
-    NumberField{QLatin1StringView("TranslateX"), -100.0F, 100.0F},
-    NumberField{QLatin1StringView("TranslateY"), -100.0F, 100.0F},
+    NumberField{QLatin1StringView("InputAOV"), 0.01F, 3600.0F},
+    NumberField{QLatin1StringView("OutputAOV"), 0.01F, 3600.0F},
+    NumberField{QLatin1StringView("EffectVarnel"), 0.01F, 1000.0F},
+    NumberField{QLatin1StringView("EffectRectilinear"), 0.01F, 1000.0F},
+    NumberField{QLatin1StringView("RotateX"), -3600.0F, 3600.0F},
+    NumberField{QLatin1StringView("RotateY"), -3600.0F, 3600.0F},
+    NumberField{QLatin1StringView("RotateZ"), -3600.0F, 3600.0F},
+    NumberField{QLatin1StringView("TranslateX"), -1000.0F, 1000.0F},
+    NumberField{QLatin1StringView("TranslateY"), -1000.0F, 1000.0F},
 };
 
 QString Tr(const char* text) {
@@ -158,17 +161,15 @@ Taking Take(const QString& name, const QString& value, ImageRecord& image) {
         image.Projection = projection ? static_cast<std::int16_t>(*projection) : image.Projection;
         return projection ? Taking::Taken : Taking::NotUsable;
     }
+    if (name == Orientation) {
+        const std::optional<int> number = WholeFromText(value);
+        const bool usable = number && IsOrientation(*number);
+        image.Orientation = usable ? static_cast<std::int16_t>(*number) : image.Orientation;
+        return usable ? Taking::Taken : Taking::NotUsable;
+    }
     const auto* const field = std::ranges::find_if(numberFields, isNamed, &NumberField::name);
     return field != numberFields.end() ? TakeNumber(*field, value, image)
                                        : TakeFurther(name, value, image);
-}
-
-// The text may be long and hold anything.
-QString Shown(QString text) {
-    constexpr qsizetype longest = 40;
-    std::ranges::replace_if(
-        text, [](QChar c) { return !c.isPrint(); }, u'?');
-    return text.size() <= longest ? text : text.left(longest) + QStringLiteral(" ...");
 }
 
 QString NoteOf(Taking taking, const QString& name, const QString& value) {
@@ -187,11 +188,22 @@ QString NoteOf(Taking taking, const QString& name, const QString& value) {
 
 }  // namespace
 
+QString Shown(const QString& setting, qsizetype longest) {
+    QList<uint> letters = setting.toUcs4();
+    std::ranges::replace_if(
+        letters, [](uint c) { return !QChar::isPrint(c); }, uint{'?'});
+    const bool fits = letters.size() <= longest;
+    const QString text = QString::fromUcs4(reinterpret_cast<const char32_t*>(letters.constData()),
+                                           std::min(letters.size(), longest));
+    return fits ? text : text + QStringLiteral(" ...");
+}
+
 PictureSettings SettingsFrom(const ImageRecord& image) {
     PictureSettings settings = image.FurtherSettings;
     settings.insert(Version, currentVersion);
     settings.insert(Source, image.FileName);
     settings.insert(SourceFolder, WrittenFolder(image.Folder));
+    settings.insert(Orientation, QString::number(image.Orientation));
     settings.insert(ProjectionName, ToText(ProjectionFromIndex(image.Projection)));
     for (const QLatin1StringView name : textFields) {
         settings.insert(name, FieldText(image, name));
@@ -218,8 +230,21 @@ QStringList TakeSettings(const PictureSettings& settings, ImageRecord& image) {
     return notes;
 }
 
-void NoteSettings(FIBITMAP* result, const ImageRecord& image, bool wanted) {
-    SetSettings(result, wanted ? SettingsFrom(image) : PictureSettings());
+void NoteSettings(FIBITMAP* result, const ImageRecord& image, bool wanted, const QString& file) {
+    PictureSettings settings = wanted ? SettingsFrom(image) : PictureSettings();
+    const QString folder = settings.take(SourceFolder);
+    if (!file.isEmpty() && !folder.isEmpty()) {
+        const QDir place(QFileInfo(file).absolutePath());
+        settings.insert(SourceFolder, QDir::cleanPath(place.relativeFilePath(folder)));
+    }
+    SetSettings(result, settings);
+}
+
+QString SourceFolderOf(const ImageRecord& image, const QString& picture) {
+    const bool relative = !image.Folder.isEmpty() && QDir::isRelativePath(image.Folder);
+    return relative ? RecordedFolder(
+                          QDir::cleanPath(QFileInfo(picture).absolutePath() + u'/' + image.Folder))
+                    : image.Folder;
 }
 
 }  // namespace varnel

@@ -75,6 +75,20 @@ TEST_F(Like, APictureBringsItsSettingsToItsOwnPhotoAndToOthers) {
     EXPECT_EQ(other[Q("OutputAOV")], expected[Q("OutputAOV")]);
 }
 
+TEST_F(Like, TheCentreIsTurnedAndTheFolderToldOnlyBesideTheMetadata) {
+    files_.Picture(Q("a.png"), FIF_PNG);
+    Run(gear_ + Q("--rotate-z 270 --translate-x 150 --set OfsetX=3 --set OfsetY=-5 "
+                  "--set Orientation=6 --output @r.JPG @a.png"));
+    EXPECT_EQ(Run(Q("--like @r.JPG --no-metadata --output @s.JPG @a.png")), exitAllWritten);
+    EXPECT_EQ(err_.str(), "");
+    EXPECT_EQ(SettingsIn("r.JPG")[Q("SourceFolder")], Q("."));
+    const PictureSettings settings = SettingsIn("s.JPG");
+    EXPECT_FALSE(settings.contains(Q("SourceFolder")));
+    EXPECT_EQ(settings[Q("RotateZ")] + u' ' + settings[Q("TranslateX")], Q("270 150"));
+    EXPECT_EQ(settings[Q("OfsetX")] + u' ' + settings[Q("OfsetY")], Q("-5 -3"));
+    EXPECT_EQ(Run(Q("--like @s.JPG --output @t.JPG")), exitAllWritten) << err_.str();
+}
+
 TEST_F(Like, FramesOfASequenceHoldTheirOwnSettings) {
     files_.Picture(Q("a.png"), FIF_PNG);
     Run(gear_ + Q("--projection rectilinear --output @r.JPG @a.png"));

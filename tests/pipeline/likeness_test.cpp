@@ -36,7 +36,7 @@ class Likenesses : public ::testing::Test {
     // A picture that was made of the record.
     QString Result(const char* name, FREE_IMAGE_FORMAT format) {
         const BitmapHandle bitmap = testing::PositionPicture({60, 40});
-        NoteSettings(bitmap.get(), record, true);
+        NoteSettings(bitmap.get(), record, true, files.Path(Q(name)));
         EXPECT_TRUE(SaveBitmap(format, bitmap.get(), files.Path(Q(name)), 0));
         return files.Path(Q(name));
     }
@@ -86,6 +86,35 @@ TEST_F(Likenesses, APhotoThatWasMovedIsFoundBesideThePictureOrMissed) {
     // Under its photo's name the picture is not its own photo.
     QFile::rename(result, files.Path(Q("results/a & b.jpg")));
     EXPECT_EQ(Add({files.Path(Q("results/a & b.jpg"))}).missing.size(), 1);
+}
+
+// (3, -5) on a photo turned clockwise is (-5, -3) on the photo as it is stored.
+TEST_F(Likenesses, TheCentreComesAsThePhotoIsTurnedNowAndGapsAreFilled) {
+    const struct {
+        PictureSettings settings;
+        float x, y;
+    } cases[] = {
+        {{{Q("Orientation"), Q("6")}}, -5, -3}, {{{Q("Orientation"), Q("1")}}, 3, -5}, {{}, 3, -5}};
+    const QString picture = files.Path(Q("results/r.tif"));
+    for (const auto& c : cases) {
+        PictureSettings settings = c.settings;
+        settings.insert({{Q("Source"), record.FileName},
+                         {Q("SourceFolder"), Q("../photos")},
+                         {Q("OfsetX"), Q("3")},
+                         {Q("OfsetY"), Q("-5")},
+                         {Q("InputAOV"), Q("150")}});
+        const BitmapHandle bitmap = testing::PositionPicture({60, 40});
+        SetSettings(bitmap.get(), settings);
+        SaveBitmap(FIF_TIFF, bitmap.get(), picture, 0);
+        ASSERT_EQ(Add({picture}).like, 1);
+        const ImageRecord& image = images(1);
+        EXPECT_EQ(SourcePath(image), SourcePath(record));
+        EXPECT_EQ(image.Orientation, 1);
+        EXPECT_EQ(image.OfsetX, c.x);
+        EXPECT_EQ(image.OfsetY, c.y);
+        EXPECT_EQ(image.EffectVarnel, 100.0F);
+        EXPECT_EQ(image.OutputAOV, 130.0F);
+    }
 }
 
 TEST_F(Likenesses, AfterGivingUpTheOtherFilesAreAddedAsTheyAre) {

@@ -42,12 +42,13 @@ ImageRecord AwkwardRecord() {
     record.EffectVarnel = 0.01F;
     record.RotateX = -39.999996F;
     record.RotateY = 1e-7F;
-    record.RotateZ = 180.0F;
-    record.TranslateX = -100.0F;
+    record.RotateZ = 350.0F;
+    record.TranslateX = -150.0F;
     record.TranslateY = 0.3F;
     record.Folder = Q("/photos/of today & \"tomorrow\"");
     record.FileName = Q("100% <fish>.tar.jpg");
     record.NameSuffix = Q("Morph0007");
+    record.Orientation = 6;
     record.FurtherSettings = {{Q("Softness"), Q("12,5 %")}, {Q("Empty"), Q("")}};
     return record;
 }
@@ -89,7 +90,6 @@ TEST(PictureSettings, HoldEveryFieldButThePhotosOwn) {
             missing.append(name);
         }
     }
-    missing.removeOne(Q("Orientation"));
     EXPECT_EQ(missing.join(u' '), Q("Width Height Landscape SettingsApplied Folder FileName"));
     EXPECT_EQ(settings[Q("Version")], Q("1"));
     EXPECT_EQ(settings[Q("Source")], Q("100% <fish>.tar.jpg"));
@@ -117,20 +117,23 @@ TEST(PictureSettings, UnusableOnesLeaveTheRecordAndAreTold) {
         {"RotateX", Q("nan")},
         {"RotateX", Q("-inf")},
         {"RotateX", Q("1e39")},
-        {"RotateX", Q("180.1")},
+        {"RotateX", Q("3600.1")},
         {"RotateX", Q("1,5")},
         {"RotateX", Q("")},
         {"InputAOV", Q("0")},
-        {"OutputAOV", Q("361")},
+        {"OutputAOV", Q("3601")},
         {"EffectVarnel", Q("0")},
         {"EffectRectilinear", Q("-5")},
-        {"TranslateY", Q("1000")},
-        {"OfsetX", Q("501")},
+        {"TranslateY", Q("-1001")},
+        {"OfsetX", Q("1001")},
         {"Ratio", Q("-1")},
         {"LensMapScale", Q("1e30")},
         {"SensorWidth", Q("0x10")},
         {"Projection", Q("Stereographic")},
         {"Projection", Q("1")},
+        {"Orientation", Q("0")},
+        {"Orientation", Q("9")},
+        {"Orientation", Q("6.0")},
         {"Source", Q("../../etc/passwd")},
         {"Source", Q("..")},
         {"Source", Q("")},
@@ -159,6 +162,35 @@ TEST(PictureSettings, UnusableOnesLeaveTheRecordAndAreTold) {
     ImageRecord record;
     TakeSettings(many, record);
     EXPECT_EQ(record.FurtherSettings.size(), 100);
+}
+
+TEST(PictureSettings, TellTheFolderOnlyAsItLiesBesideTheFile) {
+    const struct {
+        const char *folder, *file, *written, *back;
+    } cases[] = {
+        {"/home/me/in", "/home/me/out/r.jpg", "../in", "/home/me/in"},
+        {"/home/me/in", "/home/me/in/r.jpg", ".", "/home/me/in"},
+        {"/home/me/in/a & b", "/home/me/in/r.jpg", "a & b", "/home/me/in/a & b"},
+        {"", "/out/r.jpg", "..", ""},
+        {"/home/me/in", "", "none", "/elsewhere"},
+    };
+    for (const auto& c : cases) {
+        ImageRecord record = AwkwardRecord();
+        record.Folder = Q(c.folder);
+        const BitmapHandle bitmap(FreeImage_Allocate(1, 1, 24));
+        NoteSettings(bitmap.get(), record, true, Q(c.file));
+        const PictureSettings settings = SettingsOf(bitmap.get());
+        EXPECT_EQ(settings.value(Q("SourceFolder"), Q("none")), Q(c.written)) << c.folder;
+        ImageRecord back;
+        back.Folder = Q("/elsewhere");
+        TakeSettings(settings, back);
+        EXPECT_EQ(SourceFolderOf(back, Q(c.file)), Q(c.back)) << c.folder;
+    }
+}
+
+TEST(PictureSettings, AreShownWithoutWhatCannotBeSeenOrIsTooLong) {
+    EXPECT_EQ(Shown(Q("a\u202Eb😀写\n")), Q("a?b😀写?"));
+    EXPECT_EQ(Shown(QString(50, u'x'), 3), Q("xxx ..."));
 }
 
 TEST(PictureSettings, OfALaterVersionAreReadAsFarAsKnownAndWrittenAgain) {

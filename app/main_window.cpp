@@ -16,7 +16,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/circle_tools.h"
 #include "app/frame_tools.h"
+#include "app/level_tools.h"
 #include "app/sheet_tools.h"
 #include "app/undo_tools.h"
 #include "app/zoom_tools.h"
@@ -50,6 +52,8 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new FrameTools(parts_, *view_, *desk_, state_, this);
     new ZoomTools(this, parts_, *view_, *desk_, state_);
     new SheetTools(parts_, *view_, *desk_, state_, this);
+    new LevelTools(this, parts_, *view_, *desk_, state_);
+    new CircleTools(this, parts_, *view_, *desk_, state_, store_);
     ConnectControls();
     ConnectSliders();
     resize(1180, 800);

@@ -70,9 +70,11 @@ std::optional<QImage> ListTools::Take() {
         return std::nullopt;
     }
     const LoadedPicture picture = reader_->Take();
-    if (picture.outcome == LoadOutcome::NotLoaded) {
+    if (!picture.reason.isEmpty()) {
         troubles_.insert(underWay_, picture.reason);
         Refresh();
+    }
+    if (picture.outcome == LoadOutcome::NotLoaded) {
         return QImage();
     }
     QImage image = ImageOf(picture.bitmap.get());

@@ -109,10 +109,11 @@ void AddPhoto(QString& text, const ImageRecord& image, const QString& folder) {
     static const ImageRecord empty;
     text += u'\n' + QString(photoLine) + u'\n';
     PictureSettings settings = SettingsFrom(image);
-    settings.insert(source, image.FileName);
-    const QString absolute = settings.value(sourceFolder, image.Folder);
-    settings.insert(sourceFolder, WrittenFolder(absolute, folder));
-    settings.remove(version);
+    AddLine(text, source, image.FileName);
+    AddLine(text, sourceFolder, WrittenFolder(settings.value(sourceFolder, image.Folder), folder));
+    for (const QLatin1StringView name : {source, sourceFolder, version}) {
+        settings.remove(name);
+    }
     for (const PhotoField& field : photoFields) {
         settings.remove(field.name);
         const QString value = FieldText(image, field.name);
@@ -121,8 +122,7 @@ void AddPhoto(QString& text, const ImageRecord& image, const QString& folder) {
         }
     }
     for (const auto& [name, value] : settings.asKeyValueRange()) {
-        if (name == source || name == sourceFolder || !usual.contains(name) ||
-            usual.value(name) != value) {
+        if (!usual.contains(name) || usual.value(name) != value) {
             AddLine(text, name, value);
         }
     }

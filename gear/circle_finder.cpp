@@ -50,9 +50,12 @@ std::optional<RimPoint> RimAt(const Grey& grey, const ImageCircle& circle, doubl
         const double x = circle.x + (first + k * step) * across;
         const double y = circle.y + (first + k * step) * down;
         if (!grey.Has(x, y)) {
-            return std::nullopt;
+            break;  // the rim may be close to the picture's border
         }
         profile.push_back(grey.At(x, y));
+    }
+    if (profile.size() < 2 * blur + 5) {
+        return std::nullopt;
     }
     std::vector<double> fall(profile.size(), 0.0);
     for (std::size_t k = blur; k + blur < profile.size(); ++k) {

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <iostream>
 #include <optional>
 
@@ -74,6 +75,9 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("varnel"));
     QApplication::setApplicationDisplayName({});
+    // As the package installs both.
+    QApplication::setDesktopFileName(QStringLiteral("varnel"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("varnel")));
     PlainTexts plainTexts;
     application.installEventFilter(&plainTexts);
     return RunWindow(application, std::get<QStringList>(start), *store);

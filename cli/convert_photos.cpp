@@ -4,6 +4,7 @@
 #include "cli/convert_photos.h"
 
 #include <QFileInfo>
+#include <QMap>
 #include <QThread>
 #include <new>
 #include <optional>
@@ -51,6 +52,7 @@ class Conversions {
             ConvertPhoto(n);
         }
         FinishWriting();
+        TellHowOften();
         if (const WriteResult last = run_.series.Finish(); !last) {
             allWell_ = false;
             Complain(console_, last.reason);
@@ -211,12 +213,25 @@ class Conversions {
             Report(done.target.file, saved.reason);
             return;
         }
-        if (!saved.note.isEmpty()) {
-            Complain(console_, done.target.file + QStringLiteral(": ") + saved.note);
-        }
+        TellOnce(done.target.file, saved.note);
         run_.written.insert(QFileInfo(done.target.file).canonicalFilePath());
         if (!run_.options.quiet) {
             console_.out << LocalText(done.target.file) << std::endl;
+        }
+    }
+
+    // Many files may be without the same.
+    void TellOnce(const QString& file, const QString& note) {
+        if (!note.isEmpty() && notes_[note]++ == 0) {
+            Complain(console_, file + QStringLiteral(": ") + note);
+        }
+    }
+
+    void TellHowOften() {
+        for (const auto& [note, files] : notes_.asKeyValueRange()) {
+            if (files > 1) {
+                Complain(console_, QStringLiteral("%1 more: ").arg(files - 1) + note);
+            }
         }
     }
 
@@ -243,7 +258,8 @@ class Conversions {
     std::optional<Writing> writing_;
     BitmapHandle spare_;
     bool allWell_ = true;
-    SaveWorker worker_;  // last: it ends before what it works with
+    QMap<QString, int> notes_;  // what files are without, and how many
+    SaveWorker worker_;         // last: it ends before what it works with
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <algorithm>
 #include <cmath>
 
 #include "state/projection.h"
@@ -46,6 +47,35 @@ QString Section(const List& list, const QString& one, const QString& many) {
     return text;
 }
 
+// What is said of several files stands once, with the first of them.
+QString NotesSection(const std::vector<BatchTrouble>& notes) {
+    std::vector<BatchTrouble> lines;
+    std::vector<qsizetype> counts;
+    for (const BatchTrouble& note : notes) {
+        const auto same = std::ranges::find(lines, note.reason, &BatchTrouble::reason);
+        if (same == lines.end()) {
+            lines.push_back(note);
+            counts.push_back(1);
+        } else {
+            ++counts[same - lines.begin()];
+        }
+    }
+    if (lines.empty()) {
+        return {};
+    }
+    QString text = u'\n' +
+                   (notes.size() == 1 ? Tr("1 file does not hold everything:")
+                                      : Tr("%1 files do not hold everything:").arg(notes.size())) +
+                   u'\n';
+    for (std::size_t n = 0; n < lines.size(); ++n) {
+        const QString file = counts[n] == 1
+                                 ? lines[n].file
+                                 : Tr("%1 and %2 more").arg(lines[n].file).arg(counts[n] - 1);
+        text += QStringLiteral("  ") + LineOf({file, lines[n].reason}) + u'\n';
+    }
+    return text;
+}
+
 QString About(const QString& one, const QString& many, double number) {
     const int whole = static_cast<int>(number);
     return whole == 1 ? one : many.arg(whole);
@@ -66,8 +96,7 @@ QString SummaryText(const BatchSummary& summary) {
     text += Section(summary.damaged,
                     Tr("1 image is damaged and was written as far as it could be read:"),
                     Tr("%1 images are damaged and were written as far as they could be read:"));
-    text += Section(summary.notes, Tr("1 file does not hold everything:"),
-                    Tr("%1 files do not hold everything:"));
+    text += NotesSection(summary.notes);
     text += Section(summary.replaced, Tr("1 file was replaced by a later image of the same name:"),
                     Tr("%1 files were replaced by later images of the same name:"));
     return text;

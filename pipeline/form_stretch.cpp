@@ -222,8 +222,10 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
         SaveBitmap(FormatOf(type), result, choice.name,
                    SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444), &runner_);
     if (saved) {
-        ui_->LabelStatus->setText(tr("Saved %1").arg(choice.name));
-        ui_->LabelStatus->setToolTip(choice.name);
+        ui_->LabelStatus->setText(saved.note.isEmpty()
+                                      ? tr("Saved %1").arg(choice.name)
+                                      : tr("Saved %1, %2").arg(choice.name, saved.note));
+        ui_->LabelStatus->setToolTip(ui_->LabelStatus->text());
     } else {
         notices_.Tell(tr("Could not save %1").arg(choice.name), saved.reason);
     }

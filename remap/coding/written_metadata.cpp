@@ -188,9 +188,21 @@ bool Assembly::IsWorthKeeping() const {
 }
 
 WrittenMetadata Assembly::Bmp() {
-    WrittenMetadata none;
+    QStringList lost;
     if (IsWorthKeeping()) {
-        none.notes += QStringLiteral("BMP files hold no metadata");
+        lost += QStringLiteral("metadata");
+    }
+    if (!settings_.isEmpty()) {
+        lost += QStringLiteral("settings");
+    }
+    if (FreeImage_GetICCProfile(bitmap_)->size > 0) {
+        lost += QStringLiteral("colour profile");
+    }
+    WrittenMetadata none;
+    if (!lost.isEmpty()) {
+        const QString last = lost.takeLast();
+        none.notes += QStringLiteral("BMP files hold no ") +
+                      (lost.isEmpty() ? last : lost.join(u", ") + QStringLiteral(" or ") + last);
     }
     return none;
 }
@@ -199,7 +211,7 @@ WrittenMetadata Assembly::Bmp() {
 
 WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap) {
     Assembly assembly(bitmap);
-    if (!assembly.IsNeeded()) {
+    if (!assembly.IsNeeded() && format != FIF_BMP) {
         return {};
     }
     switch (format) {

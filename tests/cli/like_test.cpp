@@ -126,6 +126,16 @@ TEST_F(Like, APictureThatDoesNotServeIsRefusedWithTheReason) {
     }
 }
 
+TEST_F(Like, WhatEveryFileIsWithoutIsSaidOnce) {
+    for (const char* const name : {"a.png", "b.png", "c.png"}) {
+        files_.Picture(Q(name), FIF_PNG);
+    }
+    Run(gear_ + Q("--type bmp --output-dir @ @a.png @b.png @c.png"));
+    const std::string note = "BMP files hold no settings\n";
+    EXPECT_EQ(err_.str(), "varnel-convert: " + files_.Path(Q("a.Varnel.BMP")).toStdString() + ": " +
+                              note + "varnel-convert: 2 more: " + note);
+}
+
 TEST_F(Like, HostileSettingsNeverReachTheConversion) {
     const QString photo = files_.Picture(Q("a.png"), FIF_PNG);
     Run(gear_ + Q("--output @r.JPG @a.png"));

@@ -268,6 +268,19 @@ TEST_F(FakeRun, OfTwoWithOneNameTheLaterStaysAndIsTold) {
                                       "  /out/a.Varnel.JPG\n"));
 }
 
+TEST(SummaryText, WhatSeveralFilesAreWithoutStandsOnceWithTheFirst) {
+    BatchSummary summary;
+    summary.folder = Q("/out");
+    summary.queued = summary.done = 4;
+    summary.notes = {{Q("a"), Q("no IPTC")},
+                     {Q("b"), Q("no XMP")},
+                     {Q("c"), Q("no IPTC")},
+                     {Q("d"), Q("no IPTC")}};
+    EXPECT_EQ(SummaryText(summary),
+              Q("0 of 4 images written into /out\n\n4 files do not hold everything:\n"
+                "  a and 2 more: no IPTC\n  b: no XMP\n"));
+}
+
 // Runs with real files, read from "in" and written into "out".
 class RealRun : public ::testing::Test {
   protected:
@@ -298,7 +311,8 @@ class RealRun : public ::testing::Test {
         SilentProgress silent;
         RenderDesk desk{bitmaps};
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
-        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings);
+        NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings,
+                     BatchPath(entry, choices));
         const QString path = files.Path(Q("single"));
         SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
                    SaveFlags(choices.type, choices.jpegQuality, choices.chroma444));

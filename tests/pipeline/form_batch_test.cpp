@@ -236,7 +236,9 @@ TEST_F(FormBatchTest, TheSummaryCanBeReadAndCopied) {
     EXPECT_TRUE(text.isVisible());
     EXPECT_TRUE(text.isReadOnly());
     EXPECT_EQ(text.toPlainText(), Q("1 of 2 images written into %1\n\n1 image failed:\n"
-                                    "  %2: this is not a picture of a known type\n")
+                                    "  %2: this is not a picture of a known type\n\n"
+                                    "1 file does not hold everything:\n"
+                                    "  %1/01.Equidistance.BMP: BMP files hold no settings\n")
                                       .arg(Out(), files.Path(Q("in/text.jpg"))));
     Click("CmdCopy");
     EXPECT_EQ(QApplication::clipboard()->text(), text.toPlainText());

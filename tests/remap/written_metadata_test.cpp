@@ -259,14 +259,16 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
         {FIF_TIFF, [](PhotoMetadata& photo) { photo.xmpPlace = 0; },
          u"written without its settings: the photo's XMP has no place for them", false},
         {FIF_TIFF, [](PhotoMetadata& photo) { photo = {}; }, u"", true},
-        {FIF_BMP, [](PhotoMetadata&) {}, u"BMP files hold no metadata", false},
-        {FIF_BMP, [](PhotoMetadata& photo) { photo = {}; }, u"", false},
+        {FIF_BMP, [](PhotoMetadata&) {}, u"BMP files hold no metadata, settings or colour profile",
+         false},
+        {FIF_BMP, [](PhotoMetadata& photo) { photo = {}; },
+         u"BMP files hold no settings or colour profile", false},
         {FIF_BMP,
          [](PhotoMetadata& photo) {  // what every photo gets
              photo.tiffEntries = photo.tiffEntries.mid(24);
              photo.iptc.clear();
          },
-         u"", false},
+         u"BMP files hold no settings or colour profile", false},
     };
     for (const auto& row : cases) {
         PhotoMetadata metadata = Metadata(Order::Big);
@@ -277,6 +279,15 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
         EXPECT_EQ(file.bytes.count("<varnel:A>&lt;&amp;</varnel:A>"), row.hasSettings)
             << &row - cases;
     }
+}
+
+TEST(EncodeBitmap, ABmpFileThatLosesOnlyItsProfileSaysSoAndOneThatLosesNothingIsSilent) {
+    const BitmapHandle photo = Photo({});
+    SetSettings(photo.get(), {});
+    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note,
+              QStringLiteral("BMP files hold no colour profile"));
+    FreeImage_DestroyICCProfile(photo.get());
+    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note, QString());
 }
 
 TEST(EncodeBitmap, AProfileThatAnEncoderRefusesDoesNotCostTheMetadata) {

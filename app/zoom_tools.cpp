@@ -57,10 +57,10 @@ void ZoomTools::AddEntries() {
         connect(entry, &QAction::triggered, this, handler);
     };
     const auto step = [this](int steps) { ZoomTo(from_, Middle(from_), zoom_.Stepped(steps)); };
-    add("CmdViewFit", tr("&Fit"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { ShowAll(); });
+    add("CmdViewFit", tr("Fi&t"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { ShowAll(); });
     add("CmdViewActual", tr("&100 %"), {QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_0)},
         [this] { ZoomTo(from_, Middle(from_), 1.0); });
-    add("CmdViewZoomIn", tr("Zoom &in"),
+    add("CmdViewZoomIn", tr("Zoom i&n"),
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [step] { step(1); });
     add("CmdViewZoomOut", tr("Zoom &out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
@@ -80,7 +80,7 @@ void ZoomTools::AddEntries() {
         lines_.ShowGrid(on);
         redraw();
     });
-    addChoice("CmdViewCross", tr("&Centre cross"), [this, redraw](bool on) {
+    addChoice("CmdViewCross", tr("Centre c&ross"), [this, redraw](bool on) {
         lines_.ShowCross(on);
         redraw();
     });

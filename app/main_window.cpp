@@ -49,9 +49,10 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new UndoTools(parts_, *view_, *desk_, this);
     list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
-    new FrameTools(parts_, *view_, *desk_, state_, this);
     new ZoomTools(this, parts_, *view_, *desk_, state_);
+    parts_.viewMenu->addSeparator();
     new SheetTools(parts_, *view_, *desk_, state_, this);
+    new FrameTools(parts_, *view_, *desk_, state_, this);
     new LevelTools(this, parts_, *view_, *desk_, state_);
     new CircleTools(this, parts_, *view_, *desk_, state_, store_);
     ConnectControls();
@@ -185,6 +186,10 @@ void MDIForm1::Quit() {
 void MDIForm1::closeEvent(QCloseEvent* event) {
     if (desk_->Busy()) {
         closeWanted_ = true;
+        event->ignore();
+        return;
+    }
+    if (!projects_->MayClose()) {
         event->ignore();
         return;
     }

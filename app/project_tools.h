@@ -21,6 +21,11 @@ class ProjectTools : public QObject {
     // Opens the first project file among them; returns the other files that are none.
     QStringList OpenFrom(const QStringList& files);
     void Open(const QString& path);
+    // Asks whether an opened project that was changed is to be saved; false to stay.
+    bool MayClose() {
+        const History& steps = desk_.Steps();
+        return steps.Project().isEmpty() || !steps.ChangedSinceSaved() || MayLeaveList();
+    }
 
   private:
     void AddEntries(QMenu* menu, QAction* before);

@@ -99,5 +99,16 @@ TEST(Project, ADamagedOneChangesNothingAndMissingPhotosAreNamedAndKept) {
     EXPECT_EQ(desk.Find<QListWidget>("ImageList1")->currentRow(), 1);
 }
 
+TEST(Project, IsNotLostByClosingTheWindow) {
+    SavedDesk desk;
+    desk.Slider("SliderY")->setValue(30);
+    desk.dialogs.saveFirst = SaveFirst::Cancel;
+    EXPECT_FALSE(desk.window.close());
+    EXPECT_EQ(desk.dialogs.opened, QStringList{Q("AskToSave trip.varnel")});
+    desk.dialogs.saveFirst = SaveFirst::Save;
+    EXPECT_TRUE(desk.window.close());
+    EXPECT_EQ(OpenProject(desk.path).images(1).RotateY, 30.0F);
+}
+
 }  // namespace
 }  // namespace varnel

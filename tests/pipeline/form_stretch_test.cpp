@@ -169,6 +169,25 @@ TEST_F(FormStretchTest, SavesTheStretchedPhotoUnderTheChosenName) {
     EXPECT_TRUE(notices.told.isEmpty());
 }
 
+TEST_F(FormStretchTest, SaysWhatTheSavedFileDoesNotHold) {
+    const BitmapHandle bitmap = testing::PositionPicture({20, 10});
+    PhotoMetadata titled;
+    titled.xmp =
+        "<x:xmpmeta xmlns:x='adobe:ns:meta/'>"
+        "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+        "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/' dc:source='a'/>"
+        "</rdf:RDF></x:xmpmeta>";
+    SetMetadata(bitmap.get(), titled);
+    ASSERT_TRUE(SaveBitmap(FIF_TIFF, bitmap.get(), photo, 0));
+    settings.FileType = Text("BMP");
+    OpenPhoto();
+    testing::Click(form, "CmdSave");
+    chooser.answer = chooser.proposed;
+    testing::Click(form, "CmdSave");
+    EXPECT_TRUE(Label("LabelStatus").endsWith(Text("BMP, BMP files hold no metadata")))
+        << Label("LabelStatus").toStdString();
+}
+
 TEST_F(FormStretchTest, NeverReplacesThePhotoAndSaysWhyAFileCannotBeWritten) {
     OpenPhoto();
     const QByteArray before = testing::Contents(photo);

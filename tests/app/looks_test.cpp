@@ -112,5 +112,25 @@ TEST(Looks, FiftyPhotosTwentySelected) {
     KeepPicture(&desk.window, "window-fifty.png");
 }
 
+TEST(Looks, TheToolsOverThePictures) {
+    WindowDesk desk;
+    desk.state.settings.PreviewWidth = 600;
+    desk.state.settings.PreviewHeight = 450;
+    Show(desk, {1500, 900}, {Sample("sample-circular.jpg"), Sample("sample-circular-upright.jpg")});
+    const auto look = [&desk](std::initializer_list<const char*> entries, const char* name) {
+        for (const char* const entry : entries) {
+            desk.Entry(entry)->trigger();
+        }
+        QTest::qWait(600);  // small pictures, tiles and parts are drawn in idle time
+        KeepPicture(&desk.window, name);
+    };
+    look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");
+    EXPECT_TRUE(desk.Label("LabelNumbers").contains(Q("Area kept")));
+    look({"CmdViewFrame", "CmdViewMagnification", "CmdViewCircle"}, "tools-circle.png");
+    look({"CmdViewCircle", "CmdContactSheet"}, "tools-sheet.png");
+    EXPECT_TRUE(desk.Find("ContactSheet")->isVisible());
+    look({"CmdContactSheet", "CmdViewActual", "CmdViewGrid"}, "tools-zoom.png");
+}
+
 }  // namespace
 }  // namespace varnel

@@ -20,6 +20,8 @@ constexpr std::string_view packetBegin =
     "<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n";
 constexpr std::string_view packetEnd = "\n<?xpacket end=\"w\"?>";
 constexpr std::string_view endOfDescriptions = "</rdf:RDF>";
+constexpr QByteArrayView settingsDescription("<rdf:Description rdf:about=\"\" xmlns:varnel=\"");
+constexpr QByteArrayView endOfDescription("</rdf:Description>\n");
 // The XMP library takes a tenth of a small photo's time, and most photos have none.
 constexpr std::string_view onlyTool =
     "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">\n"
@@ -107,19 +109,27 @@ void FillXmp(Exiv2::XmpData data, bool upright, PhotoMetadata& metadata) {
     metadata.xmpPlace = static_cast<std::uint32_t>(packetBegin.size() + place);
 }
 
-bool KeepXmp(const QByteArray& packet, PhotoMetadata& metadata) {
-    const qsizetype place = packet.lastIndexOf(endOfDescriptions);
-    const bool hasSettings = packet.contains(settingsNamespace.toUtf8());
-    if (place < 0 || hasSettings || packet.contains("<!") || packet.contains("xmpGImg")) {
-        return false;
-    }
+bool KeepXmp(QByteArray packet, PhotoMetadata& metadata) {
+    PictureSettings settings;
     QXmlStreamReader reader(packet);
     while (!reader.atEnd()) {
-        reader.readNext();
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.namespaceUri() == settingsNamespace) {
+            const QString name = reader.name().toString();
+            settings.insert(name, reader.readElementText(QXmlStreamReader::SkipChildElements));
+        }
     }
-    if (reader.hasError()) {
+    // Each result has its own, in a description that Varnel wrote.
+    if (const qsizetype place = packet.indexOf(settingsDescription); place >= 0) {
+        const qsizetype end = packet.indexOf(endOfDescription, place);
+        packet.remove(place, end < 0 ? 0 : end + endOfDescription.size() - place);
+    }
+    const qsizetype place = packet.lastIndexOf(endOfDescriptions);
+    if (reader.hasError() || place < 0 || packet.contains(settingsNamespace.toUtf8()) ||
+        packet.contains("<!") || packet.contains("xmpGImg")) {
         return false;
     }
+    metadata.settings = settings;
     metadata.xmp = packet;
     metadata.xmpPlace = static_cast<std::uint32_t>(place);
     return true;

@@ -17,8 +17,8 @@ void RegisterSettingsNamespace();
 // throw what the library throws.
 void FillXmp(Exiv2::XmpData data, bool upright, PhotoMetadata& metadata);
 
-// Takes a packet over as it is, where it is XML in order and shows nothing of the old picture;
+// Takes a packet over but for our settings, where it is XML in order and shows no old picture;
 // false and nothing done otherwise.
-bool KeepXmp(const QByteArray& packet, PhotoMetadata& metadata);
+bool KeepXmp(QByteArray packet, PhotoMetadata& metadata);
 
 }  // namespace varnel

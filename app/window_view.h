@@ -86,7 +86,9 @@ class WindowView : public DeskView {
     const ImageRecord& Drawn() const { return drawn_; }
     bool Locked() const { return locked_; }
     // Called when the converted picture is another one or gone.
-    void WhenResultShown(std::function<void()> then) { whenResultShown_.push_back(std::move(then)); }
+    void WhenResultShown(std::function<void()> then) {
+        whenResultShown_.push_back(std::move(then));
+    }
     // Called when a conversion or a load is over.
     void WhenIdle(std::function<void()> then) { whenIdle_.push_back(std::move(then)); }
     // Called when the list was refilled and its line 0, if any, made current.

@@ -126,7 +126,8 @@ void DropMetadata(FIBITMAP* bitmap) {
         const char* const key = model == FIMD_CUSTOM ? metadataKey : nullptr;  // none: all
         FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(model), bitmap, key, nullptr);
     }
-    if (FreeImage_GetMetadataCount(FIMD_CUSTOM, bitmap) == 0) {  // the library expects no empty list
+    if (FreeImage_GetMetadataCount(FIMD_CUSTOM, bitmap) ==
+        0) {  // the library expects no empty list
         FreeImage_SetMetadata(FIMD_CUSTOM, bitmap, nullptr, nullptr);
     }
     FreeImage_SetThumbnail(bitmap, nullptr);

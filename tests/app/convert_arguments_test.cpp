@@ -96,9 +96,9 @@ TEST_F(ConsoleStart, TakesTheDefaultGearAndElseTheFirst) {
 
 TEST_F(ConsoleStart, ReplacesOlderResultsButNoPhotoOfTheCommand) {
     DefineGears();
-    ChooseType("BMP");
+    ChooseType("PNG");
     const QString photo = Photo("IMG.bmp");
-    const QString older = files_.Text(QStringLiteral("IMG.Varnel.BMP"));
+    const QString older = files_.Text(QStringLiteral("IMG.Varnel.PNG"));
     const QByteArray text = Contents(older);
     EXPECT_EQ(ExitCode({photo}), exitAllWritten);
     EXPECT_NE(Contents(older), text);
@@ -109,7 +109,7 @@ TEST_F(ConsoleStart, ReplacesOlderResultsButNoPhotoOfTheCommand) {
     EXPECT_EQ(ExitCode({photo, older}), exitSomeFailed);
     EXPECT_EQ(err_.str(),
               "varnel: " + older.toStdString() + ": this is one of the photos to convert\n");
-    EXPECT_EQ(out_.str(), Line("IMG.Varnel.Varnel.BMP"));
+    EXPECT_EQ(out_.str(), Line("IMG.Varnel.Varnel.PNG"));
     EXPECT_EQ(Contents(older), before);
     EXPECT_EQ(Contents(photo), original);
 }

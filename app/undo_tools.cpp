@@ -28,15 +28,16 @@ UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Desk& des
       desk_(desk),
       undo_(AddEntry(parts.editMenu, "CmdEditUndo", UndoKeys())),
       redo_(AddEntry(parts.editMenu, "CmdEditRedo", RedoKeys())) {
-    const auto whenFree = [this, &view](QAction* entry, void (Desk::*step)()) {
-        connect(entry, &QAction::triggered, this, [this, &view, step] {
-            if (!view.Locked()) {
-                (desk_.*step)();
-            }
-        });
-    };
-    whenFree(undo_, &Desk::Undo);
-    whenFree(redo_, &Desk::Redo);
+    connect(undo_, &QAction::triggered, this, [this, &view] {
+        if (!view.Locked()) {
+            desk_.Undo();
+        }
+    });
+    connect(redo_, &QAction::triggered, this, [this, &view] {
+        if (!view.Locked()) {
+            desk_.Redo();
+        }
+    });
     for (SliderRow* const row : parts.adjustments->Rows()) {
         connect(row->Slider(), &QSlider::sliderReleased, this, [this] { desk_.SealStep(); });
         for (auto* const field : row->findChildren<QSpinBox*>()) {

@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QLocale>
 #include <algorithm>
+#include <cmath>
 #include <new>
 
 #include "gear/gear_store.h"
@@ -126,7 +127,20 @@ void CircleTools::Refresh() {
     const std::optional<ImageCircle> circle = Shown();
     bar_->ShowNumbers(
         circle ? NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize())) : QString(),
-        circle.has_value(), trial_.has_value() && GearNumber() > 0);
+        circle.has_value(), circle && IsNewToGear(*circle));
+}
+
+// Also after an undo, which gives back the photo's circle but not the gear's.
+bool CircleTools::IsNewToGear(const ImageCircle& circle) {
+    const int n = GearNumber();
+    if (n == 0 || (!trial_ && CircleOf(*desk_.Current(), PhotoSize()).radius <= 0.0)) {
+        return false;
+    }
+    const GearCircle numbers = GearCircleFor(circle, *desk_.Current(), PhotoSize());
+    const GearRecord& gear = state_.Gear(n);
+    const auto differ = [](float one, float other) { return std::fabs(one - other) > 0.05F; };
+    return differ(numbers.OfsetX, gear.OfsetX) || differ(numbers.OfsetY, gear.OfsetY) ||
+           differ(numbers.GearRatio, gear.GearRatio);
 }
 
 void CircleTools::Find() {
@@ -147,12 +161,12 @@ void CircleTools::Find() {
 }
 
 void CircleTools::Ask() {
-    if (trial_ && GearNumber() > 0) {
+    if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
         asking_ = true;
         bar_->Ask(tr("Change the gear \"%1\" to %2? Photos that are adjusted already keep their "
                      "circle, but for the current one.")
                       .arg(desk_.Current()->GearName,
-                           NumbersText(GearCircleFor(*trial_, *desk_.Current(), PhotoSize()))));
+                           NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize()))));
     }
 }
 
@@ -163,16 +177,18 @@ void CircleTools::Decline() {
 
 void CircleTools::Take() {
     const int gear = GearNumber();
-    if (!trial_ || gear == 0 || desk_.Busy() || view_.Locked()) {
+    const std::optional<ImageCircle> shown = Shown();
+    if (!shown || gear == 0 || desk_.Busy() || view_.Locked()) {
         return;
     }
-    const GearCircle circle = GearCircleFor(*trial_, *desk_.Current(), PhotoSize());
+    const GearCircle circle = GearCircleFor(*shown, *desk_.Current(), PhotoSize());
     TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
     SaveGear(store_, state_.Gear);
     desk_.NoteStep(StepKind::Circle);
     Reset();
     desk_.Preview();
-    view_.ShowStatus(tr("The gear \"%1\" has the circle now.").arg(state_.Gear(gear).GearName));
+    view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back from the photos.")
+                         .arg(state_.Gear(gear).GearName));
 }
 
 }  // namespace varnel

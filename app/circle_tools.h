@@ -30,6 +30,7 @@ class CircleTools : public QObject {
     // photo.
     std::optional<ImageCircle> Shown();
     PixelSize PhotoSize() const;
+    bool IsNewToGear(const ImageCircle& circle);
     int GearNumber();  // of the current photo; 0 for none
     void Try(const ImageCircle& circle);
     void Refresh();

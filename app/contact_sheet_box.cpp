@@ -20,6 +20,7 @@ namespace {
 
 constexpr int columns = strengthsPerProjection;
 constexpr int margin = 8;  // logical pixels around and between the tiles
+constexpr int gap = 4;     // between a tile and its title
 constexpr QColor surround(72, 72, 72);
 constexpr QColor emptyTile(84, 84, 84);
 constexpr QColor markedFrame(255, 255, 255);
@@ -56,7 +57,7 @@ void ContactSheetBox::Open(const ImageRecord& image, FIBITMAP* photo, bool smoot
 
 void ContactSheetBox::Restart() {
     setGeometry(parentWidget()->rect());
-    const QSize room = CellSize() - QSize(0, fontMetrics().height());
+    const QSize room = CellSize() - QSize(0, fontMetrics().height() + gap);
     const auto side = [this](int logical) {
         return std::max(static_cast<int>(logical * devicePixelRatioF()), 1);
     };
@@ -112,7 +113,7 @@ int ContactSheetBox::TileAt(QPoint position) const {
 void ContactSheetBox::PaintTile(QPainter& painter, std::size_t tile) const {
     const QRect cell = CellOf(tile);
     const int line = fontMetrics().height();
-    const QRect room = cell.adjusted(0, 0, 0, -line);
+    const QRect room = cell.adjusted(0, 0, 0, -line - gap);
     const QImage& picture = pictures_[tile];
     QRectF place = room;
     if (!picture.isNull()) {

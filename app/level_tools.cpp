@@ -126,6 +126,7 @@ void LevelTools::Level() {
     const Levelling level = LevelHorizon(*image, SizeOf(photo), traced);
     if (level.trouble == LevelTrouble::None) {
         Store(level);
+        Leave();  // the mouse is free for the next tool
     }
     view_.ShowStatus(LevelText(level));
 }

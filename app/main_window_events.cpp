@@ -181,6 +181,7 @@ void MDIForm1::TakeOffer() {
         desk_->UseGear(offer.gear);
     } else if (!desk_->Busy() && ports_.dialogs.DefineGear(offer.names, this)) {
         ShowGears();
+        view_->ShowStatus(tr("The gear was added; the button gives it to this photo."));
     }
 }
 

@@ -43,6 +43,7 @@ PictureArea::PictureArea(QWidget* parent)
 void PictureArea::ShowTrouble(const QString& text) {
     trouble_->setText(text);
     trouble_->setVisible(!text.isEmpty());
+    from_->SetHintShown(text.isEmpty());
     PlaceTrouble();
 }
 

@@ -124,7 +124,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         painter.fillRect(rect(), emptyBox);
         painter.setPen(QColor(225, 225, 225));
         painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
-                         Qt::AlignCenter | Qt::TextWordWrap, hint_);
+                         Qt::AlignCenter | Qt::TextWordWrap, hintShown_ ? hint_ : QString());
         return;
     }
     painter.fillRect(rect(), surround);

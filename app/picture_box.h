@@ -32,6 +32,11 @@ class PictureBox : public QWidget {
     // Null empties the box. full is the size of the picture that the bitmap is a reduced copy of;
     // without one the bitmap is the picture.
     void Show(FIBITMAP* bitmap, QSize full = {});
+    // Whether an empty box says what it is for.
+    void SetHintShown(bool shown) {
+        hintShown_ = shown;
+        update();
+    }
     bool Empty() const { return image_.isNull(); }
 
     // Shows the part that the zoom says, until it fits, from the full-size picture; what is not
@@ -90,6 +95,7 @@ class PictureBox : public QWidget {
     void PaintZoomed(QPainter& painter, const QRect& region) const;
 
     QString hint_;
+    bool hintShown_ = true;
     QImage image_;
     QSize picture_;
     std::vector<PictureOverlay*> overlays_;

@@ -47,7 +47,9 @@ TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     EXPECT_EQ(desk.Slider("SliderX")->value(), 0);
     EXPECT_EQ(desk.Record(1).RotateZ, 10.0F);
     EXPECT_EQ(desk.Label("StatusText"), Q("Levelled: 0°, 10° c.clockwise."));
+    EXPECT_FALSE(desk.Entry("CmdToolsLevel")->isChecked());  // done
     // By 60 degrees, beyond the slider.
+    desk.Entry("CmdToolsLevel")->trigger();
     Drag(desk, {150.5, 235.6}, {250.5, 62.4});
     EXPECT_EQ(desk.Record(1).RotateZ, 10.0F);
     EXPECT_EQ(desk.Label("StatusText"),

@@ -116,11 +116,9 @@ class Decoding {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(QStringLiteral("damaged: the raw photo cannot be read"));
         }
-        if (const auto claimed = ClaimedSizeOf(format_, file_)) {
-            const QString trouble = SizeTrouble(claimed->width, claimed->height, memory_);
-            if (!trouble.isEmpty()) {
-                return LoadedPicture::Refused(trouble);
-            }
+        const ClaimedSize claimed = ClaimedSizeOf(format_, file_).value_or(ClaimedSize{1, 1});
+        if (const QString trouble = Trouble({claimed.width, claimed.height}); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
         }
         NoteOrientation();
         stated_ = HeaderSize();

@@ -136,6 +136,10 @@ void Page(QObject* parent, const char* slider, Qt::Key key, int times) {
 Answers::Answer RunBatchInto(const char* picture) {
     return [picture](QDialog* dialog) {
         EXPECT_EQ(dialog->objectName(), Q("FormBatch"));
+        // Photos that are read for long put a box of their own in front.
+        EXPECT_TRUE(QTest::qWaitFor([dialog] {
+            return QApplication::activeModalWidget() == dialog && dialog->isActiveWindow();
+        }));
         QTest::mouseClick(Find<QPushButton>(dialog, "CmdNewFolder"), Qt::LeftButton);
         // The tree makes the folder and edits its name, which may stay.
         EXPECT_TRUE(QTest::qWaitFor(

@@ -3,7 +3,6 @@
 
 #include "decoder/exif_block.h"
 
-#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,11 +11,12 @@
 #include <string>
 #include <string_view>
 
+#include "decoder/exif_walk.h"
+
 namespace varnel {
 
 namespace {
 
-constexpr std::uint32_t entryLength = 12;       // bytes of a directory's entry
 constexpr std::uint32_t thumbnailRoom = 12288;  // bytes; 160 x 120 pixels take half of it
 constexpr std::uint32_t leastThumbnailRoom = 6144;
 constexpr std::string_view software = "Varnel " VARNEL_VERSION;
@@ -121,49 +121,6 @@ void SetFacts(Exiv2::ExifData& data, const ExifWishes& wishes) {
     data["Exif.Image.YCbCrPositioning"] = std::uint16_t{1};  // centred, as the coder has it
 }
 
-// Reads a block that was made here a moment ago; places beyond its end read as 0.
-class BlockWalk {
-  public:
-    explicit BlockWalk(const ExifBlock& block) : bytes_(block.bytes), big_(block.IsBigEndian()) {}
-
-    std::uint32_t FirstDirectory() const { return Long(4); }
-    std::uint32_t Count(std::uint32_t directory) const { return Short(directory); }
-    std::uint32_t Entry(std::uint32_t directory, std::uint32_t n) const {
-        return directory + 2 + n * entryLength;
-    }
-    std::uint32_t NextDirectory(std::uint32_t directory) const {
-        return Long(Entry(directory, Count(directory)));
-    }
-    std::uint16_t TagAt(std::uint32_t entry) const { return Short(entry); }
-    // The place of a single number of four bytes, 0 when the directory has none.
-    std::uint32_t ValuePlace(std::uint32_t directory, std::uint16_t tag) const {
-        for (std::uint32_t n = 0; directory != 0 && n < Count(directory); ++n) {
-            const std::uint32_t entry = Entry(directory, n);
-            constexpr std::uint16_t typeLong = 4;
-            if (TagAt(entry) == tag && Short(entry + 2) == typeLong && Long(entry + 4) == 1) {
-                return entry + 8;
-            }
-        }
-        return 0;
-    }
-    std::uint32_t Long(std::uint32_t place) const { return Number<std::uint32_t>(place); }
-
-  private:
-    std::uint16_t Short(std::uint32_t place) const { return Number<std::uint16_t>(place); }
-
-    template <class T>
-    T Number(std::uint32_t place) const {
-        if (std::uint64_t{place} + sizeof(T) > static_cast<std::uint64_t>(bytes_.size())) {
-            return 0;
-        }
-        const char* const at = bytes_.constData() + place;
-        return big_ ? qFromBigEndian<T>(at) : qFromLittleEndian<T>(at);
-    }
-
-    const QByteArray& bytes_;
-    bool big_;
-};
-
 constexpr QByteArrayView placeholderBegin("Varnel puts the picture's thumbnail here.");
 
 QByteArray Placeholder(std::uint32_t length) {
@@ -173,14 +130,15 @@ QByteArray Placeholder(std::uint32_t length) {
 }
 
 void FindPlaces(ExifBlock& block, const QByteArray& placeholder) {
-    const BlockWalk walk(block);
+    const ExifWalk walk(block.bytes);
     const std::uint32_t first = walk.FirstDirectory();
-    const std::uint32_t exif = walk.Long(walk.ValuePlace(first, ExifDirectory));
-    block.width = walk.ValuePlace(exif, PixelXDimension);
-    block.height = walk.ValuePlace(exif, PixelYDimension);
+    const std::uint32_t exif = walk.Value(walk.Find(first, ExifDirectory));
+    block.width = walk.LongPlace(walk.Find(exif, PixelXDimension));
+    block.height = walk.LongPlace(walk.Find(exif, PixelYDimension));
     const qsizetype thumbnail =
         placeholder.isEmpty() ? -1 : block.bytes.lastIndexOf(placeholderBegin);
-    const std::uint32_t length = walk.ValuePlace(walk.NextDirectory(first), ThumbnailLength);
+    const std::uint32_t length =
+        walk.LongPlace(walk.Find(walk.NextDirectory(first), ThumbnailLength));
     if (thumbnail > 0 && length != 0) {
         block.thumbnail = static_cast<std::uint32_t>(thumbnail);
         block.thumbnailLength = length;
@@ -226,13 +184,13 @@ ExifBlock ShortBlock(Exiv2::ExifData& data, Exiv2::ByteOrder order, bool thumbna
 }
 
 QByteArray EntriesForTiff(const ExifBlock& block) {
-    const BlockWalk walk(block);
+    const ExifWalk walk(block.bytes);
     const std::uint32_t first = walk.FirstDirectory();
     QByteArray entries;
     for (std::uint32_t n = 0; n < walk.Count(first); ++n) {
-        const std::uint32_t entry = walk.Entry(first, n);
+        const std::int64_t entry = walk.Entry(first, n);
         if (!IsOfTheOldFile(walk.TagAt(entry)) && walk.TagAt(entry) != PositionOfChroma) {
-            entries += block.bytes.mid(entry, entryLength);
+            entries += block.bytes.mid(entry, ExifWalk::entryBytes);
         }
     }
     return entries;

@@ -5,6 +5,7 @@
 
 #include <QtEndian>
 
+#include "decoder/exif_walk.h"
 #include "decoder/jpeg_frame.h"
 #include "remap/turn.h"
 
@@ -14,49 +15,6 @@ namespace {
 
 constexpr std::int64_t mostExif = 1 << 20;  // bytes; the first directory lies in front
 constexpr int mostChunks = 200'000;         // a sound PNG of 800 megabytes has half of them
-
-class ExifReader {
-  public:
-    explicit ExifReader(QByteArrayView block) : block_(block), bigEndian_(block.startsWith("MM")) {}
-
-    bool IsSound() const {
-        constexpr std::uint32_t magic = 42;
-        return (bigEndian_ || block_.startsWith("II")) && Number(2, 2) == magic;
-    }
-    // 0 beyond the end.
-    std::uint32_t Number(std::int64_t at, int bytes) const {
-        std::uint32_t number = 0;
-        for (int i = 0; i < bytes && at + bytes <= block_.size(); ++i) {
-            const std::int64_t place = bigEndian_ ? at + i : at + bytes - 1 - i;
-            number = number << 8 | static_cast<unsigned char>(block_[place]);
-        }
-        return number;
-    }
-    std::uint32_t Orientation() const {
-        constexpr std::uint32_t orientation = 274;
-        constexpr int entryBytes = 12;
-        std::int64_t at = std::int64_t{Number(4, 4)} + 2;
-        for (std::uint32_t left = Number(at - 2, 2); left > 0; --left) {
-            if (Number(at, 2) == orientation) {
-                return Value(at);
-            }
-            at += entryBytes;
-        }
-        return 0;
-    }
-
-  private:
-    // Of the entry there; 0 for types that are not whole numbers.
-    std::uint32_t Value(std::int64_t entry) const {
-        constexpr int widths[] = {0, 1, 0, 2, 4};
-        const std::uint32_t type = Number(entry + 2, 2);
-        const bool isOne = Number(entry + 4, 4) == 1;
-        return isOne && type < std::size(widths) ? Number(entry + 8, widths[type]) : 0;
-    }
-
-    QByteArrayView block_;
-    bool bigEndian_;
-};
 
 // A file of chunks, each with a head of eight bytes: length and name, in whichever order.
 struct ChunkKind {
@@ -93,8 +51,10 @@ QByteArray ExifChunk(const ChunkKind& kind, const PictureFile& file) {
 
 int OrientationInExif(QByteArrayView block) {
     constexpr QByteArrayView mark("Exif\0\0", 6);
-    const ExifReader exif(block.startsWith(mark) ? block.sliced(mark.size()) : block);
-    const std::uint32_t told = exif.IsSound() ? exif.Orientation() : 0;
+    constexpr std::uint32_t orientation = 274;
+    const ExifWalk exif(block.startsWith(mark) ? block.sliced(mark.size()) : block);
+    const std::uint32_t told =
+        exif.IsSound() ? exif.Value(exif.Find(exif.FirstDirectory(), orientation)) : 0;
     return IsOrientation(told) ? static_cast<int>(told) : 1;
 }
 

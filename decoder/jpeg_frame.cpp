@@ -4,6 +4,7 @@
 #include "decoder/jpeg_frame.h"
 
 #include <QtEndian>
+#include <algorithm>
 
 namespace varnel {
 
@@ -12,13 +13,52 @@ namespace {
 constexpr int startOfScan = 0xDA;
 constexpr int endOfImage = 0xD9;
 
-// Walks from marker to marker, over garbage and fill bytes between them as the library does.
+constexpr int exifSegment = 0xE1;  // and XMP's, and others' blocks
+
+// Restart markers, start of image and the like stand alone.
+bool HasSegment(int marker) {
+    return marker > 0x01 && (marker < 0xD0 || marker > 0xD9);
+}
+
+// All frame headers; the gaps are Huffman tables, reserved, and arithmetic conditioning.
+bool IsFrame(int marker) {
+    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+// Walks from marker to marker, over their segments and over garbage and fill bytes between them as
+// the library does.
 class MarkerWalk {
   public:
     explicit MarkerWalk(const PictureFile& file) : file_(file) {}
 
-    // The next marker, -1 where the file ends. The walk then stands behind its two bytes.
-    int Next() {
+    // Goes to the next marker; false where the file ends.
+    bool Next() {
+        if (HasSegment(marker_)) {
+            place_ = SegmentEnd();
+        }
+        marker_ = FindMarker();
+        return marker_ >= 0;
+    }
+    // The same, false also where the pixels begin or the picture ends.
+    bool NextInHeader() { return Next() && marker_ != startOfScan && marker_ != endOfImage; }
+
+    int Marker() const { return marker_; }  // -1 where the file ended
+    // Behind the marker's two bytes.
+    std::int64_t Place() const { return place_; }
+    // Of the bytes behind the segment's length as many as asked for at most.
+    QByteArray Segment(int most) const {
+        return file_.Read(place_ + 2, std::clamp<std::int64_t>(SegmentEnd() - place_ - 2, 0, most));
+    }
+
+  private:
+    std::int64_t SegmentEnd() const {
+        const QByteArray length = file_.Read(place_, 2);
+        return length.size() < 2
+                   ? file_.Length()
+                   : place_ + qMax<int>(2, qFromBigEndian<quint16>(length.constData()));
+    }
+
+    int FindMarker() {
         int byte = Byte();
         while (byte >= 0) {
             while (byte >= 0 && byte != 0xFF) {
@@ -33,22 +73,7 @@ class MarkerWalk {
         }
         return -1;
     }
-    // Of the byte that is read next.
-    std::int64_t Place() const { return place_; }
-    // The bytes of the segment that follows, as many as asked for at most; goes behind it.
-    QByteArray Segment(int most) {
-        const QByteArray length = file_.Read(place_, 2);
-        if (length.size() < 2) {
-            place_ = file_.Length();
-            return {};
-        }
-        const int bytes = qFromBigEndian<quint16>(length.constData());
-        const QByteArray contents = file_.Read(place_ + 2, qMin(most, bytes - 2));
-        place_ += qMax(bytes, 2);
-        return contents;
-    }
 
-  private:
     int Byte() {
         if (place_ < blockPlace_ || place_ >= blockPlace_ + block_.size()) {
             constexpr std::int64_t blockBytes = 65536;
@@ -62,34 +87,18 @@ class MarkerWalk {
     }
 
     const PictureFile& file_;
+    int marker_ = -1;
     std::int64_t place_ = 0;
     QByteArray block_;
     std::int64_t blockPlace_ = 0;
 };
 
-constexpr int exifSegment = 0xE1;  // and XMP's, and others' blocks
-
-// Restart markers, start of image and the like stand alone.
-bool HasSegment(int marker) {
-    return marker != 0x01 && (marker < 0xD0 || marker > 0xD9);
-}
-
-// All frame headers; the gaps are Huffman tables, reserved, and arithmetic conditioning.
-bool IsFrame(int marker) {
-    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-}
-
 }  // namespace
 
 std::optional<PixelSize> JpegSize(const PictureFile& file) {
-    MarkerWalk walk(file);
-    for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;
-         marker = walk.Next()) {
-        if (!HasSegment(marker)) {
-            continue;
-        }
-        const QByteArray segment = walk.Segment(5);  // precision, height, width
-        if (IsFrame(marker) && segment.size() == 5) {
+    for (MarkerWalk walk(file); walk.NextInHeader();) {
+        const QByteArray segment = IsFrame(walk.Marker()) ? walk.Segment(5) : QByteArray();
+        if (segment.size() == 5) {  // precision, height, width
             return PixelSize{qFromBigEndian<quint16>(segment.constData() + 3),
                              qFromBigEndian<quint16>(segment.constData() + 1)};
         }
@@ -100,14 +109,9 @@ std::optional<PixelSize> JpegSize(const PictureFile& file) {
 std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file) {
     constexpr int iptcSegment = 0xED;
     std::vector<std::int64_t> places;
-    MarkerWalk walk(file);
-    for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;
-         marker = walk.Next()) {
-        if (marker == exifSegment || marker == iptcSegment) {
+    for (MarkerWalk walk(file); walk.NextInHeader();) {
+        if (walk.Marker() == exifSegment || walk.Marker() == iptcSegment) {
             places.push_back(walk.Place() - 1);
-        }
-        if (HasSegment(marker)) {
-            walk.Segment(0);
         }
     }
     return places;
@@ -118,19 +122,14 @@ QByteArray HeaderWithoutExif(const PictureFile& file) {
     constexpr QByteArrayView end("\xFF\xD9", 2);
     constexpr QByteArrayView exif("Exif\0\0", 6);
     constexpr char unused = '\xEF';
-    const std::vector<std::int64_t> markers = JpegMetadataMarkers(file);
     MarkerWalk walk(file);
-    int marker = walk.Next();
-    for (; marker >= 0 && marker != startOfScan && marker != endOfImage; marker = walk.Next()) {
-        if (HasSegment(marker)) {
-            walk.Segment(0);
-        }
+    while (walk.NextInHeader()) {
     }
     QByteArray header = file.Read(0, walk.Place() - 2);
-    if (marker < 0 || !header.startsWith(start)) {
+    if (walk.Marker() < 0 || !header.startsWith(start)) {
         return {};
     }
-    for (const std::int64_t place : markers) {
+    for (const std::int64_t place : JpegMetadataMarkers(file)) {
         constexpr std::int64_t markerAndLength = 3;
         if (header.indexOf(exif, place) == place + markerAndLength) {
             header[static_cast<qsizetype>(place)] = unused;
@@ -141,13 +140,11 @@ QByteArray HeaderWithoutExif(const PictureFile& file) {
 
 QByteArray JpegExif(const PictureFile& file) {
     constexpr int mostBytes = 65533;
-    MarkerWalk walk(file);
-    for (int marker = walk.Next(); marker >= 0 && marker != startOfScan && marker != endOfImage;
-         marker = walk.Next()) {
-        if (!HasSegment(marker)) {
+    for (MarkerWalk walk(file); walk.NextInHeader();) {
+        if (walk.Marker() != exifSegment) {
             continue;
         }
-        const QByteArray segment = walk.Segment(marker == exifSegment ? mostBytes : 0);
+        const QByteArray segment = walk.Segment(mostBytes);
         if (segment.startsWith(QByteArrayView("Exif\0\0", 6))) {
             return segment;
         }
@@ -157,14 +154,9 @@ QByteArray JpegExif(const PictureFile& file) {
 
 bool JpegIsCut(const PictureFile& file) {
     MarkerWalk walk(file);
-    int marker = walk.Next();
-    while (marker >= 0 && marker != endOfImage) {
-        if (HasSegment(marker)) {
-            walk.Segment(0);
-        }
-        marker = walk.Next();
+    while (walk.Next() && walk.Marker() != endOfImage) {
     }
-    return marker < 0;
+    return walk.Marker() < 0;
 }
 
 }  // namespace varnel

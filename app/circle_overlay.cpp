@@ -81,6 +81,21 @@ void CircleOverlay::Release(const OverlayInput& /*input*/) {
     held_ = Part::None;
 }
 
+bool CircleOverlay::Key(const OverlayKey& key) {
+    const std::optional<ImageCircle> circle = shown_();
+    if (!circle || (key.arrow.isNull() && key.grows == 0)) {
+        return false;
+    }
+    const double by = key.pixel * key.Times();
+    if (key.arrow.isNull() || key.modifiers.testFlag(Qt::ShiftModifier)) {
+        const int grows = key.grows + key.arrow.x() - key.arrow.y();
+        moved_({circle->x, circle->y, std::max(circle->radius + grows * by, key.pixel)});
+    } else {
+        moved_({circle->x + key.arrow.x() * by, circle->y + key.arrow.y() * by, circle->radius});
+    }
+    return true;
+}
+
 std::optional<QCursor> CircleOverlay::CursorAt(const OverlayInput& input) const {
     const Part part = PartAt(input);
     if (part == Part::None) {

@@ -22,6 +22,8 @@ class CircleOverlay : public PictureOverlay {
     bool Press(const OverlayInput& input) override;
     void Move(const OverlayInput& input) override;
     void Release(const OverlayInput& input) override;
+    // Arrows move it; with Shift they change the radius, as plus and minus do.
+    bool Key(const OverlayKey& key) override;
     std::optional<QCursor> CursorAt(const OverlayInput& input) const override;
 
   private:

@@ -50,6 +50,7 @@ void ContactSheetBox::Open(const ImageRecord& image, FIBITMAP* photo, bool smoot
     const auto current = std::ranges::find(tiles_, true, &ContactTile::isCurrent);
     marked_ = current == tiles_.end() ? 0 : static_cast<int>(current - tiles_.begin());
     Restart();
+    focusBefore_ = window()->focusWidget();
     show();
     raise();
     setFocus();
@@ -202,6 +203,9 @@ void ContactSheetBox::hideEvent(QHideEvent* /*event*/) {
     idle_.stop();
     photo_.reset();
     source_.reset();
+    if (hasFocus() && focusBefore_) {
+        focusBefore_->setFocus();
+    }
 }
 
 // Whoever goes on to another control has other settings in mind.

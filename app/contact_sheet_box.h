@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -59,6 +60,7 @@ class ContactSheetBox : public QWidget {
     std::vector<QImage> pictures_;
     std::size_t next_ = 0;
     int marked_ = 0;
+    QPointer<QWidget> focusBefore_;
     QTimer idle_;
 };
 

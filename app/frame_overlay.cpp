@@ -188,6 +188,25 @@ bool FrameOverlay::Wheel(const OverlayInput& input, double steps) {
     return true;
 }
 
+bool FrameOverlay::Key(const OverlayKey& key) {
+    if (port_.Study() == nullptr || !port_.MayMove() || drag_) {
+        return false;
+    }
+    if (key.grows != 0) {
+        const auto slider = FrameSlider(Steered());
+        if (slider) {
+            port_.Step(*slider, key.grows * key.Times());
+        }
+        return slider.has_value();
+    }
+    if (key.arrow.isNull() || !FrameTurns(Steered())) {
+        return false;
+    }
+    const bool across = key.arrow.x() != 0;
+    port_.Step(across ? SliderId::Y : SliderId::X, (key.arrow.x() + key.arrow.y()) * key.Times());
+    return true;
+}
+
 std::optional<QCursor> FrameOverlay::CursorAt(const OverlayInput& input) const {
     const FrameStudy* const study = port_.Study();
     if (study == nullptr || !port_.MayMove()) {

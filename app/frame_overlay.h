@@ -36,6 +36,8 @@ class FrameOverlay : public PictureOverlay {
     void Move(const OverlayInput& input) override;
     void Release(const OverlayInput& input) override;
     bool Wheel(const OverlayInput& input, double steps) override;
+    // Arrows turn the camera by a degree, plus and minus make the frame wider and narrower.
+    bool Key(const OverlayKey& key) override;
     std::optional<QCursor> CursorAt(const OverlayInput& input) const override;
 
   private:

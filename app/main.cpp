@@ -12,6 +12,7 @@
 #include <optional>
 
 #include "app/console_start.h"
+#include "app/focus_style.h"
 #include "app/main_window.h"
 #include "app/message_boxes.h"
 #include "app/plain_texts.h"
@@ -73,6 +74,7 @@ int main(int argc, char* argv[]) {
         return *exitCode;
     }
     QApplication application(argc, argv);
+    QApplication::setStyle(new FocusStyle);
     QApplication::setApplicationName(QStringLiteral("varnel"));
     QApplication::setApplicationDisplayName({});
     // As the package installs both.

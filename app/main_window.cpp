@@ -19,7 +19,10 @@
 #include "app/circle_tools.h"
 #include "app/frame_tools.h"
 #include "app/level_tools.h"
+#include "app/picture_keys.h"
+#include "app/sample_tools.h"
 #include "app/sheet_tools.h"
+#include "app/start_hint.h"
 #include "app/undo_tools.h"
 #include "app/zoom_tools.h"
 #include "remap/rounding.h"
@@ -33,10 +36,10 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     setWindowTitle(QStringLiteral("Varnel"));
     setAcceptDrops(true);
     splitter_ = new QSplitter(this);
-    auto* const right = new QWidget(splitter_);
-    BuildPictures(right);
     auto* const side = new QWidget(splitter_);
     BuildSide(side);
+    auto* const right = new QWidget(splitter_);
+    BuildPictures(right);
     splitter_->addWidget(side);
     splitter_->addWidget(right);
     splitter_->setStretchFactor(1, 1);
@@ -55,6 +58,9 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new FrameTools(parts_, *view_, *desk_, state_, this);
     new LevelTools(this, parts_, *view_, *desk_, state_);
     new CircleTools(this, parts_, *view_, *desk_, state_, store_);
+    new PictureKeys(this, parts_);
+    new StartHint(this, parts_);
+    new SampleTools(this, parts_, *view_, *desk_, state_);
     ConnectControls();
     ConnectSliders();
     resize(1180, 800);

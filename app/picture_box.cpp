@@ -22,6 +22,27 @@ constexpr int margin = 12;              // logical pixels around and between the
 constexpr double hitReach = 7.0;        // logical pixels
 constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
 constexpr QColor emptyBox(84, 84, 84);
+constexpr double panShare = 0.125;  // of the view, with an arrow key
+
+OverlayKey KeyOf(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Left:
+            return {event.key(), {-1, 0}};
+        case Qt::Key_Right:
+            return {event.key(), {1, 0}};
+        case Qt::Key_Up:
+            return {event.key(), {0, -1}};
+        case Qt::Key_Down:
+            return {event.key(), {0, 1}};
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:  // plus without Shift on many keyboards
+            return {event.key(), {}, 1};
+        case Qt::Key_Minus:
+            return {event.key(), {}, -1};
+        default:
+            return {event.key()};
+    }
+}
 
 }  // namespace
 
@@ -33,6 +54,8 @@ void PictureBox::Show(FIBITMAP* bitmap, QSize full) {
     // In the screen's own form, so that painting copies and converts nothing.
     image_ = ImageOf(bitmap).convertToFormat(QImage::Format_RGB32);
     picture_ = full.isEmpty() ? image_.size() : full;
+    // Not by a click: the keyboard stays with the list or the slider that is worked with.
+    setFocusPolicy(image_.isNull() ? Qt::NoFocus : Qt::TabFocus);
     image_.setDevicePixelRatio(devicePixelRatioF());
     update();
     Q_EMIT Shown();
@@ -141,6 +164,18 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         overlay->Paint(painter, toWidget, picture_);
         painter.restore();
     }
+    if (hasFocus()) {
+        PaintFocus(painter);
+    }
+}
+
+// Dark beside light, to be seen on any picture.
+void PictureBox::PaintFocus(QPainter& painter) const {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(0, 0, 0, 160), 4.0));
+    painter.drawRect(QRectF(rect()).adjusted(2.0, 2.0, -2.0, -2.0));
+    painter.setPen(QPen(QColor(255, 255, 255), 1.5));
+    painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
 }
 
 // In pixels of the screen, so that at a scale of 1 none is touched by another.
@@ -195,6 +230,38 @@ bool PictureBox::OverlaysTake(const OverlayInput& input) {
         }
     }
     return false;
+}
+
+// The tools come first; without one that wants them, arrows and plus and minus move what is seen.
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+    OverlayKey key = KeyOf(*event);
+    key.pixel = Empty() ? 0.0 : ToWidget().inverted().m11();
+    key.modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (Empty() || holder_ != nullptr || dragFrom_ || !UseKey(key)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool PictureBox::UseKey(const OverlayKey& key) {
+    for (PictureOverlay* const overlay : std::views::reverse(overlays_)) {
+        if (overlay->Key(key)) {
+            return true;
+        }
+    }
+    const QPointF middle = QRectF(rect()).center();
+    if (key.key == Qt::Key_Escape) {
+        Q_EMIT LeaveWanted();
+    } else if (key.key == Qt::Key_Return || key.key == Qt::Key_Enter) {
+        Q_EMIT ToggleWanted(middle);
+    } else if (key.grows != 0) {
+        Q_EMIT ZoomWanted(middle, key.grows);
+    } else if (!key.arrow.isNull() && Zoomed()) {
+        Q_EMIT Dragged({-key.arrow.x() * View().width() * panShare,
+                        -key.arrow.y() * View().height() * panShare});
+    } else {
+        return false;
+    }
+    return true;
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {

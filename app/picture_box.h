@@ -76,9 +76,12 @@ class PictureBox : public QWidget {
     void ToggleWanted(QPointF point);
     // The mouse drags the picture, by device pixels.
     void Dragged(QPointF by);
+    // Escape: the tool over the picture shall go.
+    void LeaveWanted();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -89,6 +92,8 @@ class PictureBox : public QWidget {
     OverlayInput InputAt(const QSinglePointEvent& event) const;
     void ShowCursorFor(const OverlayInput& input);
     bool OverlaysTake(const OverlayInput& input);
+    bool UseKey(const OverlayKey& key);
+    void PaintFocus(QPainter& painter) const;
     bool Zoomed() const { return zoom_ != nullptr && !zoom_->Fit(); }
     const PictureBox& Source() const { return standIn_ != nullptr ? *standIn_ : *this; }
     QPointF GridOffset() const;

@@ -22,6 +22,16 @@ struct OverlayInput {
     Qt::KeyboardModifiers modifiers;
 };
 
+struct OverlayKey {
+    int key = 0;         // as in Qt::Key
+    QPoint arrow = {};   // (-1, 0) for the left one, (0, -1) for that upward; null for other keys
+    int grows = 0;       // 1 for plus, -1 for minus
+    double pixel = 0.0;  // picture pixels to a point of the screen
+    Qt::KeyboardModifiers modifiers = {};
+
+    int Times() const { return modifiers.testFlag(Qt::ControlModifier) ? 10 : 1; }
+};
+
 class PictureOverlay {
   public:
     virtual ~PictureOverlay() = default;
@@ -33,6 +43,8 @@ class PictureOverlay {
     virtual void Release(const OverlayInput& /*input*/) {}
     // Steps of the wheel, away from the user is positive; true when they were used.
     virtual bool Wheel(const OverlayInput& /*input*/, double /*steps*/) { return false; }
+    // A key was pressed while the picture has the keyboard; true when it was used.
+    virtual bool Key(const OverlayKey& /*key*/) { return false; }
     // What the mouse would take hold of there; nothing when it is not this overlay's.
     virtual std::optional<QCursor> CursorAt(const OverlayInput& /*input*/) const {
         return std::nullopt;

@@ -59,6 +59,7 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
         heading_->installEventFilter(this);
         grid->addWidget(heading_, 0, 0);
     }
+    (heading_ != nullptr ? heading_ : valueLabel_)->setBuddy(slider_);
     slider_->setAccessibleName(accessible);
     spinBox_->setAccessibleName(accessible);
     grid->addWidget(valueLabel_, 0, heading_ != nullptr ? 1 : 0, 1, heading_ != nullptr ? 1 : 2);

@@ -141,6 +141,7 @@ void FormMorph::AddPair(const SliderRowData& facts, float MorphValues::*value, i
     ui_->LayoutPairs->addWidget(heading, gridRow, 0);
     const QList<QSlider*> both{AddEnd(facts, {gridRow, 1}, First, ends_.start.*value),
                                AddEnd(facts, {gridRow, 5}, Last, ends_.end.*value)};
+    heading->setBuddy(both.constFirst());
     if (facts.resets) {
         ResetByDoubleClick(*heading, both);
     }

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// varnel-sample OUTPUT_DIR [--width N]: the sample scene as four cameras of the catalogue take it.
-// N is the width of the frames that lie across; the upright ones have their sides exchanged.
+// varnel-sample OUTPUT_DIR [--width N] [--only NAME]: the sample scene as four cameras of the
+// catalogue take it, or one of them. N is the width of the frames that lie across; the upright ones
+// have their sides exchanged.
 
 #include <QDir>
 #include <QStringList>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -14,8 +16,10 @@
 
 #include "gear/camera_catalogue.h"
 #include "gear/lens_catalogue.h"
+#include "remap/photo_metadata.h"
 #include "remap/save_bitmap.h"
 #include "samples/fisheye_shot.h"
+#include "samples/taken_with.h"
 
 namespace varnel {
 namespace {
@@ -50,7 +54,12 @@ constexpr std::array<Sample, 4> allSamples{{
 struct Order {
     QString directory;
     int width = 3000;
+    QString only;  // one file's name; empty for all
 };
+
+QString NameOf(const Sample& sample) {
+    return QString::fromUtf16(sample.fileName);
+}
 
 constexpr int jpegQuality = 95;
 constexpr int leastWidth = 16;
@@ -65,6 +74,11 @@ std::optional<Order> ReadOrder(const QStringList& arguments) {
             bool isNumber = false;
             order.width = arguments[++i].toInt(&isNumber);
             if (!isNumber || order.width < leastWidth || order.width > mostWidth) {
+                return std::nullopt;
+            }
+        } else if (argument == u"--only" && i + 1 < arguments.size()) {
+            order.only = arguments[++i];
+            if (std::ranges::find(allSamples, order.only, NameOf) == allSamples.end()) {
                 return std::nullopt;
             }
         } else if (argument.startsWith(u'-') || argument.isEmpty() || !order.directory.isEmpty()) {
@@ -100,17 +114,30 @@ FisheyeShot ShotFor(const Sample& sample, int width) {
     return shot;
 }
 
-SaveResult TakeAndSave(const FisheyeShot& shot, const QString& fileName) {
+// So that the photo tells its gear, as those of cameras do.
+PhotoMetadata TakenWith(const Sample& sample) {
+    const auto name = [](const char16_t* const(&words)[2]) {
+        return (Text(words[0]) + u' ' + Text(words[1])).toLatin1();
+    };
+    PhotoMetadata metadata;
+    metadata.exif.bytes =
+        ExifTakenWith(Text(sample.camera[0]).toLatin1(), name(sample.camera), name(sample.lens));
+    return metadata;
+}
+
+SaveResult TakeAndSave(const Sample& sample, int width, const QString& fileName) {
     try {
-        return SaveBitmap(FIF_JPEG, TakeFisheye(LookAt, shot).get(), fileName, jpegQuality);
+        const BitmapHandle photo = TakeFisheye(LookAt, ShotFor(sample, width));
+        SetMetadata(photo.get(), TakenWith(sample));
+        return SaveBitmap(FIF_JPEG, photo.get(), fileName, jpegQuality);
     } catch (const std::bad_alloc&) {
         return {false, QStringLiteral("there is not enough memory")};
     }
 }
 
 bool WriteSample(const Sample& sample, const Order& order) {
-    const QString fileName = QDir(order.directory).filePath(Text(sample.fileName));
-    const SaveResult saved = TakeAndSave(ShotFor(sample, order.width), fileName);
+    const QString fileName = QDir(order.directory).filePath(NameOf(sample));
+    const SaveResult saved = TakeAndSave(sample, order.width, fileName);
     if (!saved) {
         std::fprintf(stderr, "varnel-sample: %s: %s\n", qPrintable(fileName),
                      qPrintable(saved.reason));
@@ -123,12 +150,15 @@ bool WriteSample(const Sample& sample, const Order& order) {
 int Run(const QStringList& arguments) {
     const std::optional<Order> order = ReadOrder(arguments);
     if (!order) {
-        std::fputs("usage: varnel-sample OUTPUT_DIR [--width 16..32767]\n", stderr);
+        std::fputs("usage: varnel-sample OUTPUT_DIR [--width 16..32767] [--only FILE_NAME]\n",
+                   stderr);
         return 2;
     }
     bool allWritten = true;
     for (const Sample& sample : allSamples) {
-        allWritten = WriteSample(sample, *order) && allWritten;
+        if (order->only.isEmpty() || order->only == NameOf(sample)) {
+            allWritten = WriteSample(sample, *order) && allWritten;
+        }
     }
     return allWritten ? 0 : 1;
 }

@@ -109,7 +109,7 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
 TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
     const QStringList rows[] = {
         {Q("&File"), Q("CmdFileOpen: &OpenOld"), Q("CmdFileOpenFreeImage: Open image(s)"),
-         Q("Sep2: "), Q("CmdFileExit: &Exit")},
+         Q("Sep2: "), Q("CmdFileExit: &Exit"), Q("CmdOpenSample: Open the sa&mple")},
         {Q("&Setup"), Q("CmdSetupEquipment: &Manage equipment"), Q("CmdSetupSetup: &Defaults")},
         {Q("&Tools"), Q("CmdToolsMorph: Morph"), Q("CmdToolsStretch: Stretch")},
         {Q("&About"), Q("CmdAboutAbout: &About")},

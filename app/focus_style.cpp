@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/focus_style.h"
+
+#include <QAbstractScrollArea>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOption>
+
+namespace varnel {
+
+namespace {
+
+void PaintFrame(QPainter& painter, const QRect& place, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.0));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), 2.0, 2.0);
+    painter.restore();
+}
+
+}  // namespace
+
+void FocusStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                             const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (widget == nullptr || !widget->hasFocus()) {
+        return;
+    }
+    const QPalette& colours = option->palette;
+    if (element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+        PaintFrame(*painter, option->rect, colours.color(QPalette::Highlight));
+    }
+    const auto* const button = qobject_cast<const QPushButton*>(widget);
+    if (element == CE_PushButton && button != nullptr && button->isDefault() &&
+        option->state.testFlag(State_KeyboardFocusChange)) {
+        PaintFrame(*painter, option->rect.adjusted(4, 4, -4, -4),
+                   colours.color(QPalette::ButtonText));
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The desktop's own style, with a frame around what has the keyboard where that style shows
+// nothing: a dialog's default button, which looks the same with and without it, and lists.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace varnel {
+
+class FocusStyle : public QProxyStyle {
+  public:
+    using QProxyStyle::QProxyStyle;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+};
+
+}  // namespace varnel

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/nearest.h"
 #include "gear/camera_catalogue.h"
 #include "gear/gear_catalogue.h"
 #include "gear/gear_store.h"
@@ -25,8 +26,27 @@ class NobodyToAsk : public GearPrompt {
 
 QString HowToGiveOne() {
     return QStringLiteral(
-        "give --camera BRAND/MODEL and --lens BRAND/MODEL (see --list-cameras and "
-        "--list-lenses)");
+        "give --camera BRAND/MODEL with --lens BRAND/MODEL (--list-cameras and --list-lenses show "
+        "them), or --gear auto for what each photo's EXIF tells");
+}
+
+// As a shell takes it for one word.
+QString Quoted(const QString& word) {
+    return word.contains(u' ') ? u'"' + word + u'"' : word;
+}
+
+// Why the name is in no catalogue, and what is there.
+QString Unknown(const QString& kind, const CatalogueName& name, const QStringList& brands,
+                const QStringList& models) {
+    const bool knownBrand = brands.contains(name.brand);
+    const QString model = Nearest(name.model, models);
+    const QString near = !knownBrand       ? Nearest(name.brand, brands)
+                         : model.isEmpty() ? QString()
+                                           : name.brand + u'/' + model;
+    const QString list = kind == u"lens" ? QStringLiteral("--list-lenses %1shows all")
+                                         : QStringLiteral("--list-cameras %1shows all");
+    return AskIfMeant(QStringLiteral("unknown %1 \"%2/%3\"").arg(kind, name.brand, name.model),
+                      near, list.arg(knownBrand ? Quoted(name.brand) + u' ' : QString()));
 }
 
 GearRecord BuiltGear(const GearNames& names) {
@@ -38,13 +58,11 @@ GearRecord BuiltGear(const GearNames& names) {
 
 std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
                                                  const CatalogueName& lens) {
-    if (!FillCameraModels(camera.brand).contains(camera.model)) {
-        return QStringLiteral("unknown camera \"%1/%2\"; see --list-cameras")
-            .arg(camera.brand, camera.model);
+    if (const QStringList models = FillCameraModels(camera.brand); !models.contains(camera.model)) {
+        return Unknown(QStringLiteral("camera"), camera, FillCameraBrands(), models);
     }
-    if (!FillLensModels(lens.brand).contains(lens.model)) {
-        return QStringLiteral("unknown lens \"%1/%2\"; see --list-lenses")
-            .arg(lens.brand, lens.model);
+    if (const QStringList models = FillLensModels(lens.brand); !models.contains(lens.model)) {
+        return Unknown(QStringLiteral("lens"), lens, FillLensBrands(), models);
     }
     return GearChoice{BuiltGear({camera.brand, camera.model, lens.brand, lens.model}), {}};
 }
@@ -58,6 +76,14 @@ GearTable StoredGears(SettingsStore& store) {
         table.Resize(0);
     }
     return table;
+}
+
+QStringList NamesOfGears(const GearTable& table) {
+    QStringList names;
+    for (int n = 1; n <= table.UpperBound(); ++n) {
+        names.append(table(n).GearName);
+    }
+    return names;
 }
 
 std::optional<GearRecord> DefaultGear(const GearTable& table) {
@@ -84,8 +110,9 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
     }
     const int n = table.Find(options.gear);
     if (n == 0) {
-        return QStringLiteral("there is no gear \"%1\"; see --list-gears or ").arg(options.gear) +
-               HowToGiveOne();
+        return AskIfMeant(QStringLiteral("there is no gear \"%1\"").arg(options.gear),
+                          Nearest(options.gear, NamesOfGears(table)),
+                          QStringLiteral("--list-gears lists yours; or ") + HowToGiveOne());
     }
     return GearChoice{table(n), {}};
 }
@@ -101,7 +128,8 @@ std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const PhotoO
     if (found.IsWhole()) {
         return BuiltGear(found.names);
     }
-    return QStringLiteral("no gear for it: ") + found.said;
+    return QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")
+        .arg(found.said);
 }
 
 }  // namespace varnel

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <variant>
 
@@ -17,6 +18,8 @@ namespace varnel {
 
 // The gears of the store; an empty table when there are none. Nobody is asked to define one.
 GearTable StoredGears(SettingsStore& store);
+
+QStringList NamesOfGears(const GearTable& table);
 
 // The default gear, the first one when the table has none of that name; nothing in an empty table.
 std::optional<GearRecord> DefaultGear(const GearTable& table);

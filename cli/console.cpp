@@ -15,8 +15,22 @@ std::string LocalText(const QString& text) {
     return text.toLocal8Bit().toStdString();
 }
 
+QString OneLine(const QString& text) {
+    QString line;
+    for (const QChar c : text) {
+        if (c == u'\n') {
+            line += QStringLiteral("\\n");
+        } else if (c.category() == QChar::Other_Control) {
+            line += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QChar(u'0'));
+        } else {
+            line += c;
+        }
+    }
+    return line;
+}
+
 void Complain(const Console& console, const QString& text) {
-    console.err << console.program << ": " << LocalText(text) << "\n";
+    console.err << console.program << ": " << LocalText(OneLine(text)) << "\n";
 }
 
 void ConsoleNotices::Tell(const QString& text, const QString& detail) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <ostream>
 #include <string>
 
@@ -15,15 +16,22 @@ namespace varnel {
 inline constexpr int exitAllWritten = 0;
 inline constexpr int exitSomeFailed = 1;
 inline constexpr int exitUsage = 2;
+inline constexpr int exitStopped = 128;  // and the signal's number, as shells count
 
 struct Console {
     std::ostream& out;  // names of written files, lists, help
     std::ostream& err;  // what went wrong, one line each
     bool bar = false;   // draw a progress bar on err
     const char* program = "varnel-convert";
+    const std::atomic<int>* stop = nullptr;  // the signal that asks to stop, once it is not 0
+
+    int StopSignal() const { return stop != nullptr ? stop->load() : 0; }
 };
 
 std::string LocalText(const QString& text);
+
+// Control characters, as odd file names may hold, written as \n or \x1b.
+QString OneLine(const QString& text);
 
 // One line on err, led by the program's name.
 void Complain(const Console& console, const QString& text);

@@ -7,6 +7,7 @@
 
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
+#include "cli/help_text.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
 
@@ -14,10 +15,21 @@ namespace varnel {
 
 namespace {
 
+// Told before a photo is read; empty when the folder to write to is there.
+QString MissingFolder(const Options& options) {
+    const QString folder =
+        options.output.isEmpty() ? options.outputDir : QFileInfo(options.output).path();
+    if (folder.isEmpty() || QFileInfo(folder).isDir()) {
+        return {};
+    }
+    return QFileInfo::exists(folder)
+               ? QStringLiteral("%1: this is no folder; name one").arg(folder)
+               : QStringLiteral("%1: there is no such folder; make it first").arg(folder);
+}
+
 int Convert(Options options, SettingsStore& store, const Console& console) {
-    if (!options.outputDir.isEmpty() && !QFileInfo(options.outputDir).isDir()) {
-        return Refuse(console,
-                      QStringLiteral("%1: there is no such folder").arg(options.outputDir));
+    if (const QString missing = MissingFolder(options); !missing.isEmpty()) {
+        return Refuse(console, missing);
     }
     const auto notes = TakeLike(options);
     if (const auto* error = std::get_if<QString>(&notes)) {

@@ -84,22 +84,29 @@ QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString&
         return {};
     }
     if (file.isDir()) {
-        return QStringLiteral("this is a folder");
+        return QStringLiteral("this is a folder; give the name of a file, or --output-dir");
     }
     if (SameFile(target, photo.path)) {
-        return QStringLiteral("this is the photo itself");
+        return QStringLiteral(
+            "this is the photo itself; --output or --output-dir names another place");
     }
     // One that is yet to be converted, say: "varnel *" where an earlier result lies.
     if (run.photos.Contains(target)) {
-        return QStringLiteral("this is one of the photos to convert");
+        return QStringLiteral(
+            "this is one of the photos to convert; --output-dir names another place");
     }
     if (run.written.contains(file.canonicalFilePath())) {
-        return QStringLiteral("another photo of this command was written there");
+        return QStringLiteral(
+            "another photo of this command was written there; convert them into different folders");
     }
     if (!run.options.force) {
-        return QStringLiteral("the file exists; --force replaces it");
+        return QStringLiteral(
+            "the file exists; --force replaces it, --skip-existing leaves it alone");
     }
-    return photo.damaged ? QStringLiteral("a damaged photo does not replace an existing file")
+    return photo.damaged ? QStringLiteral(
+                               "a damaged photo does not replace an existing file; --output or "
+                               "--output-dir names "
+                               "another place")
                          : QString();
 }
 

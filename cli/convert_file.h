@@ -35,6 +35,8 @@ struct OpenPhoto {
     ImageRecord record;
     Bitmaps bitmaps;
     bool damaged = false;
+    QString trouble = {};  // what is damaged
+    QStringList notes = {};
 };
 
 // The record of a photo with its size known: gear, then the options' adjustments.

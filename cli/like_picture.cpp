@@ -21,7 +21,8 @@ QString Complete(Options& options, const Likeness& likeness) {
     options.likeRecord = likeness.record;
     if (options.files.isEmpty()) {
         if (!likeness.sourceFound) {
-            return options.like + QStringLiteral(": ") + MissingSource(likeness);
+            return options.like + QStringLiteral(": ") + MissingSource(likeness) +
+                   QStringLiteral("; name the photo on the command line");
         }
         options.files = QStringList{SourcePath(likeness.record)};
     }
@@ -48,7 +49,8 @@ std::variant<QStringList, QString> TakeLike(Options& options) {
     }
     const std::optional<Likeness> likeness = LikenessFrom(facts.metadata.settings, options.like);
     if (!likeness) {
-        return prefixed(QStringLiteral("holds no settings of Varnel"));
+        return prefixed(
+            QStringLiteral("holds no settings of Varnel; give a picture that Varnel wrote"));
     }
     if (QString trouble = Complete(options, *likeness); !trouble.isEmpty()) {
         return trouble;

@@ -4,6 +4,8 @@
 #include "cli/lists.h"
 
 #include "cli/choose_gear.h"
+#include "cli/json_line.h"
+#include "cli/nearest.h"
 #include "gear/camera_catalogue.h"
 #include "gear/lens_catalogue.h"
 
@@ -11,48 +13,64 @@ namespace varnel {
 
 namespace {
 
+QString CatalogueLine(const QString& brand, const QString& model, bool json) {
+    return json ? QString::fromUtf8(JsonLine({{u"brand", brand}, {u"model", model}}))
+                : brand + u'/' + model;
+}
+
 template <class Models>
-std::variant<QStringList, QString> CatalogueList(const QString& wanted, const QStringList& brands,
+std::variant<QStringList, QString> CatalogueList(const Options& options, const QStringList& brands,
                                                  Models models) {
+    const QString wanted = options.files.value(0);
     QStringList lines;
     for (const QString& brand : brands) {
         if (!wanted.isEmpty() && brand != wanted) {
             continue;
         }
         for (const QString& model : models(brand)) {
-            lines.append(brand + u'/' + model);
+            lines.append(CatalogueLine(brand, model, options.json));
         }
     }
     if (lines.isEmpty()) {
-        return QStringLiteral("unknown brand \"%1\"; there are %2")
-            .arg(wanted, brands.join(QStringLiteral(", ")));
+        return AskIfMeant(QStringLiteral("unknown brand \"%1\"").arg(wanted),
+                          Nearest(wanted, brands),
+                          QStringLiteral("there are ") + brands.join(QStringLiteral(", ")));
     }
     return lines;
 }
 
-std::variant<QStringList, QString> GearList(SettingsStore& store) {
+QString GearLine(const GearRecord& gear, bool isDefault) {
+    return QString::fromUtf8(JsonLine({{u"gear", gear.GearName},
+                                       {u"default", isDefault},
+                                       {u"camera", gear.CameraBrand + u'/' + gear.CameraModel},
+                                       {u"lens", gear.LensBrand + u'/' + gear.LensModel}}));
+}
+
+std::variant<QStringList, QString> GearList(SettingsStore& store, bool json) {
     const GearTable table = StoredGears(store);
-    QStringList names;
-    for (int n = 1; n <= table.UpperBound(); ++n) {
-        names.append(table(n).GearName);
+    QStringList lines = NamesOfGears(table);
+    if (lines.isEmpty()) {
+        return QStringLiteral(
+            "no gear is defined; define one in the window (varnel), or do without: give --camera "
+            "with --lens, or --gear auto");
     }
-    if (names.isEmpty()) {
-        return QStringLiteral("no gear is defined");
+    const QString byDefault = DefaultGear(table)->GearName;
+    for (int n = 1; json && n <= table.UpperBound(); ++n) {
+        lines[n - 1] = GearLine(table(n), n == table.Find(byDefault));
     }
-    return names;
+    return lines;
 }
 
 }  // namespace
 
 std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore& store) {
-    const QString brand = options.files.value(0);
     switch (options.command) {
         case Command::ListCameras:
-            return CatalogueList(brand, FillCameraBrands(), &FillCameraModels);
+            return CatalogueList(options, FillCameraBrands(), &FillCameraModels);
         case Command::ListLenses:
-            return CatalogueList(brand, FillLensBrands(), &FillLensModels);
+            return CatalogueList(options, FillLensBrands(), &FillLensModels);
         default:
-            return GearList(store);
+            return GearList(store, options.json);
     }
 }
 

@@ -14,7 +14,8 @@
 namespace varnel {
 
 // One entry a line: cameras and lenses as BRAND/MODEL, ready for --camera and --lens, all or those
-// of one brand; gears by name. Otherwise one line that says why not.
+// of one brand; gears by name; with the option for JSON objects. Otherwise one line that says why
+// not.
 std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore& store);
 
 }  // namespace varnel

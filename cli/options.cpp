@@ -3,10 +3,12 @@
 
 #include "cli/options.h"
 
+#include <QFileInfo>
 #include <array>
-#include <cmath>
 
+#include "cli/nearest.h"
 #include "cli/option_list.h"
+#include "cli/option_values.h"
 #include "pipeline/morph_sequence.h"
 #include "state/record_fields.h"
 
@@ -14,129 +16,59 @@ namespace varnel {
 
 namespace {
 
-// What a bad command line throws inside this file; the text is the one line for the user.
-struct UsageError {
-    QString text;
-};
-
-float NumberOf(const QString& option, const QString& text) {
-    bool ok = false;
-    const float value = text.toFloat(&ok);
-    if (!ok || !std::isfinite(value)) {
-        throw UsageError{QStringLiteral("--%1 needs a number, not \"%2\"").arg(option, text)};
+QString UnknownOption(const QString& argument) {
+    const QString given = argument.section(u'=', 0, 0);
+    const QString text = QStringLiteral("unknown option \"%1\"").arg(given);
+    if (QFileInfo::exists(argument)) {
+        return text + QStringLiteral("; write ./%1 for the file of that name").arg(argument);
     }
-    return value;
+    const QString near = Nearest(given.mid(given.startsWith(u"--") ? 2 : 1), OptionNames());
+    return AskIfMeant(text, near.isEmpty() ? QString() : QStringLiteral("--") + near,
+                      QStringLiteral("--help shows all"));
 }
 
-std::vector<Projection> ProjectionsOf(const QString& text) {
-    if (text.compare(u"all", Qt::CaseInsensitive) == 0) {
-        return {allProjections.begin(), allProjections.end()};
+// Whether the option takes the next argument as its value. Throws when the name is wrong or the
+// value is missing.
+bool TakesNext(const QString& argument, const QString* next) {
+    const OptionRow* const option =
+        FindOption(argument.startsWith(u"--") ? argument.mid(2).section(u'=', 0, 0) : QString());
+    if (option == nullptr) {
+        throw UsageError{UnknownOption(argument)};
     }
-    if (const auto projection = ProjectionFromText(text)) {
-        return {*projection};
-    }
-    throw UsageError{QStringLiteral("unknown projection \"%1\"; there are varnel, rectilinear, "
-                                    "equidistance, horizon and all")
-                         .arg(text)};
-}
-
-CatalogueName CatalogueNameOf(const QString& option, const QString& text) {
-    const qsizetype slash = text.indexOf(u'/');
-    if (slash < 1 || slash + 1 == text.size()) {
-        throw UsageError{QStringLiteral("--%1 needs BRAND/MODEL, not \"%2\"").arg(option, text)};
-    }
-    return {text.left(slash), text.mid(slash + 1)};
-}
-
-PixelSize PreviewBoxOf(const QString& text) {
-    const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
-    bool widthOk = false;
-    bool heightOk = false;
-    const PixelSize size{sides.value(0).toInt(&widthOk), sides.value(1).toInt(&heightOk)};
-    if (sides.size() != 2 || !widthOk || !heightOk || size.width < 1 || size.height < 1 ||
-        size.width > 32767 || size.height > 32767) {
+    const bool hasValue = argument.contains(u'=');
+    if (option->value == nullptr && hasValue) {
         throw UsageError{
-            QStringLiteral("--preview needs WIDTHxHEIGHT in pixels, not \"%1\"").arg(text)};
+            QStringLiteral("--%1 takes no value; leave %2 out")
+                .arg(OptionText(option->name), argument.section(u'=', 1).prepend(u'='))};
     }
-    return size;
+    if (option->value == nullptr || hasValue) {
+        return false;
+    }
+    const bool optionFollows =
+        next != nullptr && next->startsWith(u"--") && FindOption(next->mid(2).section(u'=', 0, 0));
+    if (next == nullptr || optionFollows) {
+        throw UsageError{QStringLiteral("--%1 needs a value; give --%1 %2")
+                             .arg(OptionText(option->name), OptionText(option->value))};
+    }
+    return true;
 }
 
-OutputType TypeOf(const QString& text) {
-    if (const auto type = OutputTypeByName(text)) {
-        return *type;
-    }
-    throw UsageError{
-        QStringLiteral("unknown type \"%1\"; there are tiff, jpeg, bmp and png").arg(text)};
-}
-
-int WholeBetween(const QString& option, const QString& text, int least, int most) {
-    bool ok = false;
-    const int number = text.toInt(&ok);
-    if (!ok || number < least || number > most) {
-        throw UsageError{QStringLiteral("--%1 needs a whole number from %2 to %3, not \"%4\"")
-                             .arg(option)
-                             .arg(least)
-                             .arg(most)
-                             .arg(text)};
-    }
-    return number;
-}
-
-bool IsChroma444(const QString& text) {
-    if (text != u"444" && text != u"420") {
-        throw UsageError{QStringLiteral("--chroma needs 444 or 420, not \"%1\"").arg(text)};
-    }
-    return text == u"444";
-}
-
-// The parts of FIELD=VALUE.
-std::pair<QString, QString> PartsOf(const QString& option, const QString& text) {
-    const qsizetype equals = text.indexOf(u'=');
-    if (equals < 1) {
-        throw UsageError{QStringLiteral("--%1 needs FIELD=VALUE, not \"%2\"").arg(option, text)};
-    }
-    return {text.left(equals), text.mid(equals + 1)};
-}
-
-// Tried on an empty record, so that a wrong field or value is told before any photo is read.
-std::pair<QString, QString> FieldOf(const QString& text) {
-    const auto [field, value] = PartsOf(QStringLiteral("set"), text);
-    ImageRecord probe;
-    switch (SetField(probe, field, value)) {
-        case FieldResult::UnknownField:
-            throw UsageError{QStringLiteral("there is no field \"%1\"; the fields are %2")
-                                 .arg(field, FieldNames().join(QStringLiteral(", ")))};
-        case FieldResult::BadValue:
-            throw UsageError{
-                QStringLiteral("\"%1\" is no value for the field %2").arg(value, field)};
-        case FieldResult::Ok:
+// The parser's own words name neither what is near nor what is missing. "-h" becomes "--help".
+QStringList Checked(QStringList arguments) {
+    for (qsizetype n = 1; n < arguments.size(); ++n) {
+        QString& argument = arguments[n];
+        if (argument == u"--") {
             break;
-    }
-    return {field, value};
-}
-
-int FrameCountOf(const QString& text) {
-    const auto count = FrameCountFromText(text);
-    if (const auto* error = std::get_if<QString>(&count)) {
-        throw UsageError{QStringLiteral("--morph: ") + *error};
-    }
-    if (std::get<int>(count) < 2) {
-        throw UsageError{QStringLiteral("--morph needs at least 2 frames, not %1").arg(text)};
-    }
-    return std::get<int>(count);
-}
-
-std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts) {
-    std::vector<Adjustment> end;
-    for (const QString& text : texts) {
-        const auto [field, value] = PartsOf(option, text);
-        if (!MorphFields().contains(field)) {
-            throw UsageError{QStringLiteral("a sequence cannot move \"%1\"; it can move %2")
-                                 .arg(field, MorphFields().join(QStringLiteral(", ")))};
         }
-        end.push_back({field, NumberOf(option, value)});
+        if (argument == u"-h") {
+            argument = QStringLiteral("--help");
+        }
+        if (argument.size() > 1 && argument.startsWith(u'-') &&
+            TakesNext(argument, n + 1 < arguments.size() ? &arguments[n + 1] : nullptr)) {
+            ++n;
+        }
     }
-    return end;
+    return arguments;
 }
 
 Command CommandOf(const QCommandLineParser& parser) {
@@ -180,10 +112,12 @@ void TakeNumbers(const QCommandLineParser& parser, Options& options) {
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
-    options.files = parser.positionalArguments();
+    for (const QString& file : parser.positionalArguments()) {
+        options.files.append(FileNameOf({}, file));
+    }
     TakeIfSet(parser, u"projection", options.projections, &ProjectionsOf);
     options.projectionGiven = parser.isSet(QStringLiteral("projection"));
-    options.like = parser.value(QStringLiteral("like"));
+    options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
     options.gear = parser.value(QStringLiteral("gear"));
     TakeIfSet(parser, u"camera", options.camera,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
@@ -198,7 +132,7 @@ Options Take(const QCommandLineParser& parser) {
     options.to = MorphEndOf(QStringLiteral("to"), parser.values(QStringLiteral("to")));
     TakeIfSet(parser, u"preview", options.preview, &PreviewBoxOf);
     options.antialiased = parser.isSet(QStringLiteral("antialiased"));
-    options.output = parser.value(QStringLiteral("output"));
+    options.output = FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("output")));
     options.outputDir = parser.value(QStringLiteral("output-dir"));
     TakeIfSet(parser, u"type", options.type, &TypeOf);
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
@@ -214,6 +148,7 @@ Options Take(const QCommandLineParser& parser) {
         return WholeBetween(QStringLiteral("jobs"), text, 1, 256);
     });
     options.quiet = parser.isSet(QStringLiteral("quiet"));
+    options.json = parser.isSet(QStringLiteral("json"));
     return options;
 }
 
@@ -232,8 +167,10 @@ void CheckMorphEnds(const Options& options) {
     for (const auto* end : {&options.from, &options.to}) {
         for (const Adjustment& adjustment : *end) {
             if (MorphValue(probe, MorphProjection(options), adjustment.field) == nullptr) {
-                throw UsageError{QStringLiteral("%1 is not an effect of the projection %2")
-                                     .arg(adjustment.field, ToText(MorphProjection(options)))};
+                throw UsageError{
+                    QStringLiteral("%1 is not an effect of the projection %2; leave it out or "
+                                   "choose another --projection")
+                        .arg(adjustment.field, ToText(MorphProjection(options)))};
             }
         }
     }
@@ -242,15 +179,18 @@ void CheckMorphEnds(const Options& options) {
 void CheckMorph(const Options& options) {
     if (!options.morph) {
         if (!options.from.empty() || !options.to.empty()) {
-            throw UsageError{QStringLiteral("--from and --to need --morph")};
+            throw UsageError{
+                QStringLiteral("--from and --to need --morph N, the number of frames")};
         }
         return;
     }
     if (options.projections.size() > 1) {
-        throw UsageError{QStringLiteral("--morph takes one projection")};
+        throw UsageError{
+            QStringLiteral("--morph takes one projection; give --projection NAME other than all")};
     }
     if (!options.output.isEmpty()) {
-        throw UsageError{QStringLiteral("--morph names its files itself; use --output-dir")};
+        throw UsageError{QStringLiteral(
+            "--morph names its files itself; use --output-dir DIR instead of --output")};
     }
     if (options.like.isEmpty() || options.projectionGiven) {
         CheckMorphEnds(options);
@@ -262,16 +202,22 @@ void CheckTogether(const Options& options) {
         return;
     }
     if (options.files.isEmpty() && options.like.isEmpty()) {
-        throw UsageError{QStringLiteral("no photo given; see --help")};
+        throw UsageError{QStringLiteral(
+            "no photo given; give the names of photos or --like PICTURE (--help shows all)")};
     }
     if (options.camera.has_value() != options.lens.has_value()) {
-        throw UsageError{QStringLiteral("--camera and --lens go together")};
+        const auto [given, other] =
+            options.camera ? std::pair{u"camera", u"lens"} : std::pair{u"lens", u"camera"};
+        throw UsageError{QStringLiteral("--%1 goes with --%2; give --%2 BRAND/MODEL too")
+                             .arg(OptionText(given), OptionText(other))};
     }
     if (options.camera && !options.gear.isEmpty()) {
-        throw UsageError{QStringLiteral("give either --gear or --camera and --lens")};
+        throw UsageError{QStringLiteral(
+            "--gear and --camera with --lens exclude each other; give one of the two")};
     }
     if (!options.output.isEmpty() && !options.outputDir.isEmpty()) {
-        throw UsageError{QStringLiteral("give either --output or --output-dir")};
+        throw UsageError{
+            QStringLiteral("--output and --output-dir exclude each other; give one of the two")};
     }
     if (!options.output.isEmpty() && (options.files.size() > 1 || options.projections.size() > 1)) {
         throw UsageError{
@@ -279,7 +225,8 @@ void CheckTogether(const Options& options) {
                            "--output-dir for more")};
     }
     if (options.skipExisting && options.force) {
-        throw UsageError{QStringLiteral("give either --skip-existing or --force")};
+        throw UsageError{
+            QStringLiteral("--skip-existing and --force exclude each other; give one of the two")};
     }
     CheckMorph(options);
 }
@@ -289,10 +236,10 @@ void CheckTogether(const Options& options) {
 std::variant<Options, QString> ParseOptions(const QStringList& arguments) {
     QCommandLineParser parser;
     DeclareOptions(parser);
-    if (!parser.parse(arguments)) {
-        return parser.errorText();
-    }
     try {
+        if (!parser.parse(Checked(arguments))) {
+            return parser.errorText();
+        }
         Options options = Take(parser);
         CheckTogether(options);
         return options;
@@ -309,12 +256,6 @@ std::optional<QString> UseProjection(Options& options, Projection projection) {
     } catch (const UsageError& error) {
         return error.text;
     }
-}
-
-QString HelpText() {
-    QCommandLineParser parser;
-    DeclareOptions(parser);
-    return parser.helpText();
 }
 
 }  // namespace varnel

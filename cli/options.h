@@ -60,6 +60,7 @@ struct Options {
     bool skipExisting = false;
     std::optional<int> jobs;  // cores to use; none: all
     bool quiet = false;
+    bool json = false;  // what is told of each result goes to out as JSON, all else to err
 };
 
 // The options, or one line that says what is wrong with the command line. The first argument is the
@@ -68,7 +69,5 @@ std::variant<Options, QString> ParseOptions(const QStringList& arguments);
 
 // For a projection that is known only later: one line that says what does not go with it.
 std::optional<QString> UseProjection(Options& options, Projection projection);
-
-QString HelpText();
 
 }  // namespace varnel

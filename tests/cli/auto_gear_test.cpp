@@ -61,9 +61,10 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
               (files.Path(Q("table.Varnel.BMP\n")) + files.Path(Q("catalogues.Varnel.BMP\n")))
                   .toStdString());
     const char* const told[] = {
-        "zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue\n",
-        "compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue\n",
-        "plain.bmp: no gear for it: the photo does not tell what took it\n"};
+        "zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue; give ",
+        "compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue; "
+        "give ",
+        "plain.bmp: no gear for it: the photo does not tell what took it; give "};
     for (const char* const line : told) {
         EXPECT_NE(err.str().find(line), std::string::npos) << err.str();
     }

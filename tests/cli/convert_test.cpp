@@ -205,12 +205,12 @@ TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
 TEST_F(Convert, WithoutAGearItSaysHowToGiveOne) {
     const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
     EXPECT_EQ(Run({photo}), exitUsage);
-    EXPECT_TRUE(ErrorHas("--camera BRAND/MODEL and --lens BRAND/MODEL"));
+    EXPECT_TRUE(ErrorHas("no gear is defined; give --camera BRAND/MODEL with --lens BRAND/MODEL"));
     EXPECT_EQ(Run({Q("--gear"), Q("mine"), photo}), exitUsage);
     EXPECT_EQ(
         Run({Q("--camera"), Q("Canon/Nothing"), Q("--lens"), Q("Sigma/EX 8 mm f:3.5"), photo}),
         exitUsage);
-    EXPECT_TRUE(ErrorHas("unknown camera \"Canon/Nothing\""));
+    EXPECT_TRUE(ErrorHas("unknown camera \"Canon/Nothing\"; --list-cameras Canon shows all"));
 }
 
 TEST_F(Convert, StoredGearsServeByNameAndByDefault) {

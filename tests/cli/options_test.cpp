@@ -7,6 +7,7 @@
 
 #include <QRegularExpression>
 
+#include "cli/help_text.h"
 #include "tests/support/files.h"
 
 namespace varnel {
@@ -66,52 +67,85 @@ TEST(ParseOptions, AMorphHasItsEnds) {
         Parse("p --morph 2 --set Projection=1 --to EffectRectilinear=5 a")));
 }
 
-TEST(ParseOptions, AWrongLineIsToldInOneLine) {
-    for (const char* line : {"p",
-                             "p --nonsense a",
-                             "p --projection flat a",
-                             "p --projection",
-                             "p --type gif a",
-                             "p --quality 0 a",
-                             "p --jobs 0 a",
-                             "p --force --skip-existing a",
-                             "p --quality 101 a",
-                             "p --chroma 422 a",
-                             "p --chroma 4:4:4 a",
-                             "p --quality 1.5 a",
-                             "p --effect 1,5 a",
-                             "p --effect nan a",
-                             "p --rotate-x 1e99 a",
-                             "p --preview 400 a",
-                             "p --preview 0x3 a",
-                             "p --preview 4x3x2 a",
-                             "p --camera Canon --lens A/B a",
-                             "p --camera Canon/EOS a",
-                             "p --gear g --camera A/B --lens C/D a",
-                             "p --output x --output-dir y a",
-                             "p --output x a b",
-                             "p --output x --projection all a",
-                             "p --set RotateZ a",
-                             "p --set Nonsense=1 a",
-                             "p --set RotateZ=much a",
-                             "p --set Projection=99999 a",
-                             "p --morph many a",
-                             "p --morph 32768 a",
-                             "p --morph 1 a",
-                             "p --morph 0 a",
-                             "p --morph 2 --projection all a",
-                             "p --morph 2 --output x a",
-                             "p --from RotateX=1 a",
-                             "p --to RotateX=1 a",
-                             "p --morph 2 --from RotateX a",
-                             "p --morph 2 --from RotateX=far a",
-                             "p --morph 2 --from InputAOV=90 a",
-                             "p --morph 2 --to EffectRectilinear=5 a"}) {
-        const auto parsed = Parse(line);
-        ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << line;
-        EXPECT_FALSE(std::get<QString>(parsed).isEmpty()) << line;
-        EXPECT_FALSE(std::get<QString>(parsed).contains(u'\n')) << line;
+TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
+    const struct {
+        const char *line, *told;
+    } rows[] = {
+        {"p", "no photo given; give the names"},
+        {"p --nonsense a", "unknown option \"--nonsense\"; --help"},
+        {"p --projektion=varnel a", "\"--projektion\"; did you mean \"--projection\"?"},
+        {"p --out x a", "did you mean \"--output\"?"},
+        {"p -force a", "did you mean \"--force\"?"},
+        {"p --force=1 a", "--force takes no value; leave =1 out"},
+        {"p --output --type png a", "--output needs a value; give --output FILE"},
+        {"p a --projection", "--projection needs a value; give --projection NAME"},
+        {"p --projection flat a",
+         "\"flat\"; use varnel, rectilinear, equidistance, horizon or all"},
+        {"p -", "-: photos do not come from standard input"},
+        {"p --like - a", "--like -: photos do not come from"},
+        {"p --output - a", "--output -: results do not go to standard output"},
+        {"p --type gif a", "\"gif\"; use tiff, jpeg, bmp or png"},
+        {"p --type JPG a", "\"JPG\"; use jpeg"},
+        {"p --quality 0 a", "--quality needs a whole number from 1 to 100, not \"0\""},
+        {"p --quality 101 a", "from 1 to 100"},
+        {"p --quality 1.5 a", "from 1 to 100"},
+        {"p --jobs 0 a", "from 1 to 256"},
+        {"p --force --skip-existing a", "exclude each other; give one"},
+        {"p --chroma 422 a", "--chroma needs 444 or 420"},
+        {"p --chroma 4:4:4 a", "--chroma needs 444 or 420"},
+        {"p --effect 1,5 a", "not \"1,5\"; write it with a point: 1.5"},
+        {"p --effect nan a", "not \"nan\"; give digits"},
+        {"p --rotate-x 1e99 a", "--rotate-x needs a number"},
+        {"p --preview 400 a", "for example --preview 800x600"},
+        {"p --preview 0x3 a", "WIDTHxHEIGHT"},
+        {"p --preview 4x3x2 a", "WIDTHxHEIGHT"},
+        {"p --camera Canon --lens A/B a", "not \"Canon\"; --list-cameras"},
+        {"p --lens A/ --camera A/B a", "not \"A/\"; --list-lenses"},
+        {"p --camera Canon/EOS a", "give --lens BRAND/MODEL too"},
+        {"p --gear g --camera A/B --lens C/D a", "exclude each other"},
+        {"p --output x --output-dir y a", "exclude each other"},
+        {"p --output x a b", "use --output-dir for more"},
+        {"p --output x --projection all a", "use --output-dir for more"},
+        {"p --set RotateZ a", "not \"RotateZ\"; for example --set RotateX=10"},
+        {"p --set Rotatez=1 a", "did you mean \"RotateZ\"? fields: Width, "},
+        {"p --set RotateZ=much a", "\"much\" is no value for the field RotateZ"},
+        {"p --set Projection=99999 a", "no value for the field Projection"},
+        {"p --morph many a", "from 2 to 32767, not \"many\""},
+        {"p --morph 32768 a", "from 2 to 32767"},
+        {"p --morph 1 a", "from 2 to 32767"},
+        {"p --morph 2 --projection all a", "--morph takes one projection"},
+        {"p --morph 2 --output x a", "use --output-dir DIR"},
+        {"p --from RotateX=1 a", "need --morph N"},
+        {"p --to RotateX=1 a", "need --morph N"},
+        {"p --morph 2 --from RotateX a", "--from needs FIELD=VALUE"},
+        {"p --morph 2 --from RotateX=far a", "--from needs a number"},
+        {"p --morph 2 --from InputAOV=90 a", "cannot move \"InputAOV\"; it can move OutputAOV, "},
+        {"p --morph 2 --to EffectRectilinear=5 a", "choose another --projection"}};
+    for (const auto& row : rows) {
+        const auto parsed = Parse(row.line);
+        ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << row.line;
+        const QString told = std::get<QString>(parsed);
+        EXPECT_TRUE(told.contains(QString::fromUtf8(row.told)) && !told.contains(u'\n'))
+            << row.line << ": " << told.toStdString();
     }
+}
+
+TEST(ParseOptions, DashesInTheirPlacesAreNoMistake) {
+    EXPECT_EQ(std::get<Options>(Parse("p -h")).command, Command::Help);
+    const Options options = std::get<Options>(Parse("p --rotate-x -5 --output ./- -- --force"));
+    EXPECT_EQ(options.adjustments.at(0).value, -5.0F);
+    EXPECT_EQ(options.files, QStringList{QStringLiteral("--force")});
+    EXPECT_FALSE(options.force);
+}
+
+TEST(HelpText, IsInGroupsThatFitATerminal) {
+    qsizetype linesOfOption = 0;
+    for (const QString& line : HelpText().split(u'\n')) {
+        EXPECT_LE(line.size(), 80) << line.toStdString();
+        linesOfOption = line.startsWith(u"  --") || line.isEmpty() ? 1 : linesOfOption + 1;
+        EXPECT_TRUE(linesOfOption < 3 || !line.startsWith(QString(20, u' '))) << line.toStdString();
+    }
+    EXPECT_TRUE(HelpText().contains(u"\n\nCamera and lens:\n  --gear <NAME>  "));
 }
 
 TEST(HelpText, TheManualPageHasEveryOption) {
@@ -129,6 +163,15 @@ TEST(HelpText, TheManualPageHasEveryOption) {
             << match.captured(1).toStdString();
     }
     EXPECT_GT(count, 20);
+    const QRegularExpression code(QStringLiteral("^ +([0-9]+)  "),
+                                  QRegularExpression::MultilineOption);
+    count = 0;
+    for (const auto& match : code.globalMatch(HelpText())) {
+        ++count;
+        EXPECT_TRUE(page.contains(QStringLiteral(".TP\n.B %1\n").arg(match.captured(1))))
+            << match.captured(1).toStdString();
+    }
+    EXPECT_EQ(count, 5);
 }
 
 }  // namespace

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What varnel-convert --help shows.
+#pragma once
+
+#include <QString>
+
+namespace varnel {
+
+// Usage, the options in their groups as lines "  --name <VALUE>  what it does" of at most 80
+// columns, examples, exit codes.
+QString HelpText();
+
+}  // namespace varnel

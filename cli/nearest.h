@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Which name somebody may have meant.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace varnel {
+
+// The name that is the fewest letters away, as long as that is no more than a third of what was
+// given, else the shortest that begins with it; small and capital letters are the same. Empty when
+// nothing is near.
+QString Nearest(const QString& given, const QStringList& names);
+
+// "WHAT; did you mean "NEAREST"? REST", without the middle when nothing is near.
+QString AskIfMeant(const QString& what, const QString& nearest, const QString& rest);
+
+}  // namespace varnel

@@ -3,14 +3,16 @@
 
 #include "cli/convert_photos.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QMap>
 #include <QThread>
+#include <map>
 #include <new>
 #include <optional>
 
+#include "cli/advice.h"
 #include "cli/convert_file.h"
-#include "cli/progress_bar.h"
+#include "cli/run_reports.h"
 #include "gear/gear_offer.h"
 #include "pipeline/photo_feed.h"
 #include "pipeline/save_worker.h"
@@ -22,6 +24,20 @@ namespace varnel {
 
 namespace {
 
+// While a photo is read: the time left is counted down, and a signal gives the photo up.
+class RunWait : public ReadingWait {
+  public:
+    RunWait(TerminalBar& bar, const Console& console) : bar_(bar), console_(console) {}
+    bool Continue() override {
+        bar_.Refresh();
+        return console_.StopSignal() == 0;
+    }
+
+  private:
+    TerminalBar& bar_;
+    const Console& console_;
+};
+
 // While one photo is converted the next is read and the last one written; what is told is told in
 // the photos' order all the same.
 class Conversions {
@@ -31,33 +47,37 @@ class Conversions {
         : settings_(With(options, settings)),
           jobs_(options.jobs.value_or(QThread::idealThreadCount())),
           console_(console),
+          reports_(options, console),
+          wait_(reports_.Bar(), console),
           reader_(NewPictureReader()),
           feed_(std::in_place, *reader_, MoreReaders(jobs_), wait_, settings_.AutoOrient),
-          bar_(console.err),
           runner_(jobs_),
           saveRunner_(jobs_),
-          run_{options,
-               gears,
-               settings_,
-               console.bar && !options.quiet ? static_cast<RenderProgress&>(bar_) : silent_,
-               runner_,
-               FileSet(options.files)},
+          run_{options, gears, settings_, reports_.Bar(), runner_, FileSet(options.files)},
           worker_(jobs_ > 1) {}
 
-    // True when all were written from sound pictures.
-    bool Go() {
+    // Returns the exit code.
+    int Go() {
         files_ = FilesToDo();
-        for (qsizetype n = 0; n < files_.size(); ++n) {
-            bar_.SetLabel(files_[n]);
+        reports_.Bar().Start(files_.size() * ResultsEach());
+        for (qsizetype n = 0; n < files_.size() && !Stopped(); ++n) {
+            reports_.Bar().SetPhoto(files_[n]);
+            TellSkipped(n);
             ConvertPhoto(n);
         }
         FinishWriting();
-        TellHowOften();
+        TellSkipped(files_.size());
+        reports_.Finish();
+        bool allWell = reports_.AllWell();
         if (const WriteResult last = run_.series.Finish(); !last) {
-            allWell_ = false;
-            Complain(console_, last.reason);
+            allWell = false;
+            reports_.Say(last.reason);
         }
-        return allWell_;
+        if (const int signal = console_.StopSignal(); signal != 0 && left_) {
+            TellStopped();
+            return exitStopped + signal;
+        }
+        return allWell ? exitAllWritten : exitSomeFailed;
     }
 
   private:
@@ -69,50 +89,114 @@ class Conversions {
     struct Writing {
         ConversionTarget target;
         BitmapHandle result;
+        FileReport report;
+        QElapsedTimer sinceBegun;
     };
+
+    // Asked between two results. What is left then is not done.
+    bool Stopped() {
+        left_ = left_ || console_.StopSignal() != 0;
+        return left_;
+    }
+
+    qsizetype ResultsEach() const {
+        return run_.options.morph.value_or(static_cast<int>(run_.options.projections.size()));
+    }
+
+    void TellStopped() {
+        const QString rest =
+            run_.options.skipExisting ? QStringLiteral("the same command does the rest")
+            : run_.options.force
+                ? QStringLiteral(
+                      "with --skip-existing instead of --force the same command does "
+                      "what is missing")
+                : QStringLiteral("with --skip-existing the same command does the rest");
+        reports_.Say(QStringLiteral("stopped, %1 of %2 pictures are written; ")
+                         .arg(written_)
+                         .arg(files_.size() * ResultsEach()) +
+                     rest);
+    }
 
     // Without those of which every result lies there already, if the options say so.
     QStringList FilesToDo() {
+        if (!run_.options.skipExisting) {
+            return run_.options.files;
+        }
         QStringList files;
         for (const QString& file : run_.options.files) {
-            if (!run_.options.skipExisting || !IsDone(file)) {
+            const auto results =
+                console_.StopSignal() == 0 ? ResultsThere(file) : std::vector<FileReport>();
+            if (results.empty()) {
                 files.append(file);
             }
+            auto& skipped = skipped_[files.size()];
+            skipped.insert(skipped.end(), results.begin(), results.end());
         }
         return files;
     }
 
-    bool IsDone(const QString& file) {
+    // All of the photo's results, as long as they all lie there.
+    std::vector<FileReport> ResultsThere(const QString& file) {
         const bool nameTellsGear = !run_.options.outputDir.isEmpty() || run_.options.morph;
         if (!run_.gears.forAll && nameTellsGear) {
-            return false;  // only the photo itself tells what its results are called
+            return {};  // only the photo itself tells what its results are called
         }
-        const std::optional<PhotoSize> size = PhotoLoader(*reader_, nullptr, &settings_).Size(file);
+        const std::optional<PhotoSize> size = PhotoLoader(*reader_, &wait_, &settings_).Size(file);
         if (!size) {
-            return false;  // its trouble is told in its turn
+            return {};  // its trouble is told in its turn
         }
+        std::vector<FileReport> results;
         try {
-            const auto records = RecordsFor(
-                run_, StartRecord(run_, file, *size, run_.gears.forAll.value_or(GearRecord())));
-            return std::ranges::all_of(records, [&](const ImageRecord& record) {
-                return QFileInfo::exists(TargetFor(run_, file, record).file);
-            });
+            for (const ImageRecord& record : RecordsFor(
+                     run_,
+                     StartRecord(run_, file, *size, run_.gears.forAll.value_or(GearRecord())))) {
+                results.push_back(ReportOf(file, record));
+                results.back().result = TargetFor(run_, file, record).file;
+                if (!QFileInfo::exists(results.back().result)) {
+                    return {};
+                }
+                results.back().status = FileStatus::Skipped;
+            }
         } catch (const RunTimeError&) {
-            return false;
+            return {};
+        }
+        return results;
+    }
+
+    static FileReport ReportOf(const QString& photo, const ImageRecord& record) {
+        FileReport report{.photo = photo};
+        report.projection = ToText(ProjectionFromIndex(record.Projection)).toLower();
+        report.gear = record.GearName;
+        return report;
+    }
+
+    // Those that come before the file of that number.
+    void TellSkipped(qsizetype n) {
+        if (run_.options.json && !skipped_[n].empty()) {
+            FinishWriting();
+            for (const FileReport& report : skipped_[n]) {
+                reports_.Skipped(report);
+            }
         }
     }
 
     void ConvertPhoto(qsizetype n) {
+        begun_.start();
         LoadedPicture loaded = Load(n);
-        if (loaded.outcome != LoadOutcome::Loaded) {
-            Report(files_[n], loaded.reason);
+        if (loaded.outcome != LoadOutcome::Loaded && Stopped()) {
+            return;  // it was given up
         }
         if (loaded.outcome == LoadOutcome::NotLoaded) {
+            FailedPhoto(files_[n], loaded.reason + PhotoAdvice(files_[n]));
             return;
+        }
+        if (loaded.outcome == LoadOutcome::Damaged) {
+            FinishWriting();
+            reports_.Damaged(files_[n], loaded.reason);
         }
         const auto gear = GearFor(run_.gears, OriginOf(loaded.bitmap.get()));
         if (const auto* reason = std::get_if<QString>(&gear)) {
-            Report(files_[n], *reason);
+            FailedPhoto(files_[n], *reason);
             return;
         }
         OpenPhoto photo{files_[n],
@@ -120,19 +204,28 @@ class Conversions {
                                     std::get<GearRecord>(gear)),
                         {},
                         loaded.outcome == LoadOutcome::Damaged};
+        photo.trouble = loaded.reason;
         photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
         photo.bitmaps.ResultBitmap = std::move(spare_);
+        ConvertAll(photo);
+        if (!spare_) {
+            spare_ = std::move(photo.bitmaps.ResultBitmap);
+        }
+    }
+
+    void ConvertAll(OpenPhoto& photo) {
         if (const QString doubt = run_.gears.forAll ? QString() : ShapeTrouble(photo.record);
             !doubt.isEmpty()) {
-            Complain(console_, photo.path + QStringLiteral(": ") + doubt);
+            photo.notes.append(doubt);
+            reports_.Say(photo.path + QStringLiteral(": ") + doubt);
         }
         const std::vector<ImageRecord> records = RecordsFor(run_, photo.record);
         for (const ImageRecord& record : records) {
-            const bool last = &record == &records.back();
-            ConvertOne(photo, record, last);
-        }
-        if (!spare_) {
-            spare_ = std::move(photo.bitmaps.ResultBitmap);
+            if (&record != &records.front() && Stopped()) {
+                return;
+            }
+            ConvertOne(photo, record, &record == &records.back());
+            begun_.start();
         }
     }
 
@@ -141,14 +234,14 @@ class Conversions {
     }
 
     LoadedPicture Load(qsizetype n) {
-        if (begun_ <= n) {
+        if (asked_ <= n) {
             FinishWriting();  // it may be what is written, however odd that is
-            begun_ = n + 1;
+            asked_ = n + 1;
         }
         LoadedPicture loaded = feed_->Take(files_[n]);
-        while (jobs_ > 1 && begun_ < files_.size() && begun_ <= n + feed_->Ahead() &&
-               HasRoomAhead(begun_ - n, loaded.size) && QFileInfo::exists(files_[begun_])) {
-            feed_->ReadAhead(files_[begun_++]);
+        while (jobs_ > 1 && asked_ < files_.size() && asked_ <= n + feed_->Ahead() &&
+               HasRoomAhead(asked_ - n, loaded.size) && QFileInfo::exists(files_[asked_])) {
+            feed_->ReadAhead(files_[asked_++]);
         }
         if (n + 1 == files_.size()) {
             feed_.reset();  // its decoders' memory is better used now
@@ -158,41 +251,48 @@ class Conversions {
     }
 
     void ConvertOne(OpenPhoto& photo, const ImageRecord& record, bool last) {
-        QString file = photo.path;
+        FileReport report = ReportOf(photo.path, record);
+        report.notes = photo.notes;
         try {
             const ConversionTarget target = TargetFor(run_, photo.path, record);
-            file = target.file;
-            if (writing_ && MayBeSameFile(writing_->target.file, file)) {
+            report.result = target.file;
+            if (writing_ && MayBeSameFile(writing_->target.file, target.file)) {
                 FinishWriting();
             }
-            if (run_.options.skipExisting && QFileInfo::exists(file)) {
+            if (run_.options.skipExisting && QFileInfo::exists(target.file)) {
+                SkippedResult(report);
                 return;
             }
-            if (const QString trouble = TargetTrouble(run_, photo, file); !trouble.isEmpty()) {
-                Report(file, trouble);
+            if (const QString trouble = TargetTrouble(run_, photo, target.file);
+                !trouble.isEmpty()) {
+                FailedResult(report, trouble);
                 return;
             }
-            RenderInto(run_, photo, record, file);
+            RenderInto(run_, photo, record, target.file);
             if (last) {
                 photo.bitmaps.FullSourceBitmap.reset();  // encoding needs room of its own
                 photo.bitmaps.PreviewSourceBitmap.reset();
             }
             FinishWriting();
             // What was written meanwhile may be the same file under another name.
-            if (const QString trouble = TargetTrouble(run_, photo, file); !trouble.isEmpty()) {
-                Report(file, trouble);
+            if (const QString trouble = TargetTrouble(run_, photo, target.file);
+                !trouble.isEmpty()) {
+                FailedResult(report, trouble);
                 return;
             }
-            BeginWriting(target, photo);
+            BeginWriting(target, photo, report);
         } catch (const RunTimeError& error) {
-            Report(file, QString::fromUtf8(error.what()));
+            FailedResult(report, QString::fromUtf8(error.what()));
         } catch (const std::bad_alloc&) {
-            Report(file, QStringLiteral("there is not enough memory"));
+            FailedResult(report, QStringLiteral("there is not enough memory; --jobs 1 takes less"));
         }
     }
 
-    void BeginWriting(const ConversionTarget& target, OpenPhoto& photo) {
-        writing_ = {target, std::move(photo.bitmaps.ResultBitmap)};
+    void BeginWriting(const ConversionTarget& target, OpenPhoto& photo, FileReport& report) {
+        report.status = photo.damaged ? FileStatus::Damaged : FileStatus::Converted;
+        report.reason = photo.trouble;
+        report.size = SizeOf(photo.bitmaps.ResultBitmap.get());
+        writing_ = {target, std::move(photo.bitmaps.ResultBitmap), report, begun_};
         photo.bitmaps.ResultBitmap = std::move(spare_);
         worker_.Begin([this, target, result = writing_->result.get()] {
             return SaveTo(run_, target, result, saveRunner_);
@@ -203,70 +303,83 @@ class Conversions {
         if (!writing_) {
             return;
         }
-        while (!worker_.Wait(1000)) {
+        while (!worker_.Wait(100)) {
+            reports_.Bar().Refresh();
         }
         const SaveResult saved = worker_.Take();
-        const Writing done = {writing_->target, nullptr};
+        FileReport report = std::move(writing_->report);
+        report.seconds = static_cast<double>(writing_->sinceBegun.elapsed()) / 1000.0;
         spare_ = std::move(writing_->result);
         writing_.reset();
         if (!saved) {
-            Report(done.target.file, saved.reason);
+            report.size = {};
+            FailedResult(report, saved.reason + ResultAdvice(report.result, saved.reason));
             return;
         }
-        TellOnce(done.target.file, saved.note);
-        run_.written.insert(QFileInfo(done.target.file).canonicalFilePath());
-        if (!run_.options.quiet) {
-            console_.out << LocalText(done.target.file) << std::endl;
-        }
+        const QFileInfo file(report.result);
+        run_.written.insert(file.canonicalFilePath());
+        report.bytes = file.size();
+        report.notes += saved.note.isEmpty() ? QStringList() : QStringList(saved.note);
+        ++written_;
+        reports_.Note(report.result, saved.note);
+        reports_.Written(report);
+        reports_.Bar().Done(1);
     }
 
-    // Many files may be without the same.
-    void TellOnce(const QString& file, const QString& note) {
-        if (!note.isEmpty() && notes_[note]++ == 0) {
-            Complain(console_, file + QStringLiteral(": ") + note);
+    // The following come after what was begun before them.
+    void SkippedResult(FileReport& report) {
+        if (run_.options.json) {
+            FinishWriting();
+            report.status = FileStatus::Skipped;
+            reports_.Skipped(report);
         }
+        reports_.Bar().Done(1);
     }
 
-    void TellHowOften() {
-        for (const auto& [note, files] : notes_.asKeyValueRange()) {
-            if (files > 1) {
-                Complain(console_, QStringLiteral("%1 more: ").arg(files - 1) + note);
-            }
-        }
-    }
-
-    // After what came before it.
-    void Report(const QString& file, const QString& reason) {
+    void FailedResult(FileReport report, const QString& reason) {
         FinishWriting();
-        allWell_ = false;
-        Complain(console_, file + QStringLiteral(": ") + reason);
+        report.status = FileStatus::Failed;
+        report.reason = reason;
+        report.seconds = static_cast<double>(begun_.elapsed()) / 1000.0;
+        reports_.Failed(report);
+        reports_.Bar().Done(1);
+    }
+
+    void FailedPhoto(const QString& photo, const QString& reason) {
+        FinishWriting();
+        reports_.Failed({.photo = photo,
+                         .status = FileStatus::Failed,
+                         .reason = reason,
+                         .seconds = static_cast<double>(begun_.elapsed()) / 1000.0});
+        reports_.Bar().Done(ResultsEach());
     }
 
     const GeneralSettings settings_;
     const int jobs_;
     const Console& console_;
-    ReadingWait wait_;
+    RunReports reports_;
+    RunWait wait_;
     std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
     std::optional<PhotoFeed> feed_;
-    TerminalBar bar_;
-    SilentProgress silent_;
     ThreadRunner runner_;
     ThreadRunner saveRunner_;  // on the writing thread
     ConversionRun run_;
     QStringList files_;
-    qsizetype begun_ = 0;  // files that were begun to be read
+    std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number
+    qsizetype asked_ = 0;                                   // files that were begun to be read
+    QElapsedTimer begun_;                                   // the result at hand
     std::optional<Writing> writing_;
     BitmapHandle spare_;
-    bool allWell_ = true;
-    QMap<QString, int> notes_;  // what files are without, and how many
-    SaveWorker worker_;         // last: it ends before what it works with
+    qsizetype written_ = 0;
+    bool left_ = false;  // something was not done because of a signal
+    SaveWorker worker_;  // last: it ends before what it works with
 };
 
 }  // namespace
 
 int ConvertPhotos(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                   const Console& console) {
-    return Conversions(options, gears, settings, console).Go() ? exitAllWritten : exitSomeFailed;
+    return Conversions(options, gears, settings, console).Go();
 }
 
 }  // namespace varnel

@@ -9,14 +9,17 @@
 #include <iostream>
 
 #include "cli/convert.h"
+#include "cli/stop_signals.h"
 #include "remap/large_pages.h"
 #include "state/telling_store.h"
 
 int main(int argc, char* argv[]) {
     varnel::KeepFreedMemory();
     varnel::UseUtf8Locale();
+    const varnel::StopSignals stop;
     const QCoreApplication application(argc, argv);
-    const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1};
+    const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1,
+                                  "varnel-convert", &stop.Came()};
     varnel::ConsoleNotices notices(console);
     const auto store = varnel::OpenUserStore(QDateTime::currentDateTime());
     varnel::TellOf(*store, notices);

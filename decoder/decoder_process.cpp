@@ -33,9 +33,12 @@ class SpawnActions {
         posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
         posix_spawn_file_actions_adddup2(&actions_, socket, decoderSocket);
         posix_spawnattr_init(&attributes_);
-        // Its own signals, whatever the parent ignores or holds back.
+        // Its own signals, whatever the parent ignores or holds back; but Ctrl-C is for the parent,
+        // which decides what is still finished.
         sigset_t signals;
         sigemptyset(&signals);
+        sigaddset(&signals, SIGINT);
+        sigaddset(&signals, SIGTERM);
         posix_spawnattr_setsigmask(&attributes_, &signals);
         sigfillset(&signals);
         posix_spawnattr_setsigdefault(&attributes_, &signals);

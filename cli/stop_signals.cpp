@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/stop_signals.h"
+
+#include <unistd.h>
+
+#include "cli/console.h"
+
+namespace varnel {
+
+StopSignals::StopSignals() {
+    sigemptyset(&signals_);
+    for (const int signal : {SIGINT, SIGTERM}) {
+        struct sigaction action {};
+        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler != SIG_IGN) {
+            sigaddset(&signals_, signal);
+        }
+    }
+    // For all threads that are made from now on, so that only the waiting one hears them.
+    pthread_sigmask(SIG_BLOCK, &signals_, &before_);
+    if (sigismember(&signals_, SIGTERM) == 1 || sigismember(&signals_, SIGINT) == 1) {
+        waiting_ = std::thread([this] { Wait(); });
+    }
+}
+
+StopSignals::~StopSignals() {
+    if (waiting_.joinable()) {
+        ending_ = true;
+        pthread_kill(waiting_.native_handle(),
+                     sigismember(&signals_, SIGTERM) == 1 ? SIGTERM : SIGINT);
+        waiting_.join();
+    }
+    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+}
+
+void StopSignals::Wait() {
+    while (true) {
+        int signal = 0;
+        if (sigwait(&signals_, &signal) != 0) {
+            continue;
+        }
+        if (ending_) {
+            return;
+        }
+        if (came_ != 0) {
+            _exit(exitStopped + signal);
+        }
+        came_ = signal;
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The real program, stopped by signals at random moments.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QThread>
+#include <csignal>
+#include <map>
+#include <random>
+
+#include "tests/support/files.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+class Stop : public ::testing::Test {
+  protected:
+    Stop() {
+        for (int n = 0; n < 6; ++n) {
+            photos_.append(files_.Picture(Q("%1.bmp").arg(n), FIF_BMP, {700, 500}));
+        }
+    }
+    // As a terminal starts it: with its decoders in a process group of its own.
+    void Start(QProcess& program, const QString& folder, const QStringList& options) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(Q("XDG_CONFIG_HOME"), files_.Path(Q("settings")));
+        program.setProcessEnvironment(environment);
+        program.setChildProcessModifier([] { ::setpgid(0, 0); });
+        QDir().mkpath(files_.Path(folder));
+        program.start(Q(VARNEL_CONVERT),
+                      QStringList{Q("--camera=Canon/EOS 5D"), Q("--lens=Sigma/EX 8 mm f:3.5"),
+                                  Q("--type=png"), Q("--projection=all"), Q("--output-dir"),
+                                  files_.Path(folder)} +
+                          options + photos_);
+        ASSERT_TRUE(program.waitForStarted());
+    }
+    static int CodeOf(QProcess& program) {
+        program.waitForFinished(120'000);
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    }
+    std::map<QString, QByteArray> Outputs(const QString& folder) const {
+        std::map<QString, QByteArray> outputs;
+        for (const QString& name :
+             QDir(files_.Path(folder)).entryList(QDir::Files | QDir::Hidden)) {
+            outputs[name] = testing::Contents(files_.Path(folder) + u'/' + name);
+        }
+        return outputs;
+    }
+
+    testing::PictureFolder files_;
+    QStringList photos_;
+};
+
+TEST_F(Stop, LeavesWholeFilesOnlyAndCanBeGoneOnWith) {
+    QElapsedTimer timer;
+    timer.start();
+    QProcess whole;
+    Start(whole, Q("whole"), {});
+    ASSERT_EQ(CodeOf(whole), 0);
+    const auto expected = Outputs(Q("whole"));
+    ASSERT_EQ(expected.size(), 24U);
+    const qint64 wholeTime = timer.elapsed();
+    std::mt19937 random(2026);
+    int stopped = 0;
+    for (int n = 0; n < 8; ++n) {
+        const int signal = n % 2 == 0 ? SIGINT : SIGTERM;
+        const QString folder = Q("run %1").arg(n);
+        QProcess program;
+        Start(program, folder, {Q(n % 4 < 2 ? "--jobs=1" : "--jobs=4")});
+        QThread::msleep(random() % static_cast<unsigned>(wholeTime));
+        const pid_t group = static_cast<pid_t>(program.processId());
+        ::kill(-group, signal);
+        const int code = CodeOf(program);
+        EXPECT_EQ(::kill(-group, 0), -1) << "a decoder still runs";
+        const auto outputs = Outputs(folder);
+        EXPECT_EQ(code, outputs == expected ? 0 : 128 + signal);
+        for (const auto& [name, bytes] : outputs) {
+            EXPECT_TRUE(expected.contains(name) && expected.at(name) == bytes)
+                << name.toStdString();
+        }
+        if (code != 0) {
+            ++stopped;
+            EXPECT_TRUE(program.readAllStandardError().contains(
+                QByteArray("stopped, ") + QByteArray::number(outputs.size()) + " of 24 pictures"));
+        }
+        if (n == 0) {
+            QProcess rest;
+            Start(rest, folder, {Q("--skip-existing")});
+            EXPECT_EQ(CodeOf(rest), 0);
+            EXPECT_TRUE(Outputs(folder) == expected);
+        }
+    }
+    EXPECT_GE(stopped, 3);
+}
+
+TEST_F(Stop, ASecondSignalEndsItAtOnceAndIgnoredOnesAreIgnored) {
+    QProcess twice;
+    Start(twice, Q("twice"), {});
+    QThread::msleep(100);
+    const pid_t id = static_cast<pid_t>(twice.processId());
+    ::kill(id, SIGINT);
+    QThread::msleep(2);  // else both may count as one
+    ::kill(id, SIGTERM);
+    const int code = CodeOf(twice);
+    EXPECT_TRUE(code == 143 || code == 130) << code;  // it may have ended by the first already
+    QProcess background;
+    photos_ = photos_.first(2);
+    std::signal(SIGINT, SIG_IGN);  // as a shell without job control starts it
+    Start(background, Q("background"), {});
+    std::signal(SIGINT, SIG_DFL);
+    QThread::msleep(100);
+    ::kill(static_cast<pid_t>(background.processId()), SIGINT);
+    EXPECT_EQ(CodeOf(background), 0);
+}
+
+}  // namespace
+}  // namespace varnel

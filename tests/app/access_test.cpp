@@ -99,5 +99,53 @@ TEST_F(Access, TheDialogs) {
     Walk(stretch);
 }
 
+// The photo of 300 x 200 pixels is shown a pixel to a point.
+TEST_F(Access, TheToolsOverThePhoto) {
+    desk_.AddPhotos({Q("a.bmp")}, {300, 200});
+    desk_.Click("OptionRemap_1");
+    desk_.window.activateWindow();
+    QWidget* const photo = desk_.Find("PicSmallFrom");
+    const auto press = [photo](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        EXPECT_TRUE(photo->hasFocus());
+        QTest::keyClick(photo, key, modifiers);
+    };
+    desk_.Entry("CmdViewCircle")->trigger();
+    const QString before = desk_.Label("LabelCircle");
+    press(Qt::Key_Right, Qt::ControlModifier);
+    press(Qt::Key_Up);
+    press(Qt::Key_Up);
+    // 10 of 300 and 2 of 200 pixels, in thousandths
+    EXPECT_TRUE(desk_.Label("LabelCircle").startsWith(Q("OfsetX 33.3 ‰   OfsetY -10.0 ‰")))
+        << desk_.Label("LabelCircle").toStdString();
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Plus);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(desk_.Label("LabelCircle"), before);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(desk_.Entry("CmdViewCircle")->isChecked());
+
+    desk_.Entry("CmdViewFrame")->trigger();
+    press(Qt::Key_Left);
+    press(Qt::Key_Down, Qt::ControlModifier);
+    press(Qt::Key_Minus);
+    EXPECT_EQ(desk_.Record(1).RotateY, -1.0F);
+    EXPECT_EQ(desk_.Record(1).RotateX, 10.0F);
+    EXPECT_EQ(desk_.Record(1).OutputAOV, 129.0F);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(desk_.Entry("CmdViewFrame")->isChecked());
+
+    for (int n = 0; n < 4; ++n) {
+        press(Qt::Key_Plus);
+    }
+    EXPECT_EQ(desk_.Label("ZoomText"), Q("400 %"));
+    const QImage shown = desk_.Shown("PicSmallFrom");
+    press(Qt::Key_Right);
+    EXPECT_NE(desk_.Shown("PicSmallFrom"), shown);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(desk_.Find("ZoomText")->isVisible());
+}
+
 }  // namespace
 }  // namespace varnel

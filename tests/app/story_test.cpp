@@ -18,7 +18,6 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
-#include <QTimer>
 
 #include "app/main_window.h"
 #include "app/message_boxes.h"
@@ -26,6 +25,7 @@
 #include "pipeline/output_type.h"
 #include "remap/render.h"
 #include "state/setting_names.h"
+#include "tests/support/answers.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/screenshots.h"
@@ -33,6 +33,7 @@
 namespace varnel {
 namespace {
 
+using testing::Answers;
 using testing::KeepPicture;
 using testing::SampleFolder;
 
@@ -46,37 +47,6 @@ Widget* Find(QObject* parent, const char* name) {
     EXPECT_NE(found, nullptr) << name;
     return found;
 }
-
-// Answers the modal windows that come up, one after the other, as a person in front of them would.
-// While one is answered it may open the next.
-class Answers {
-  public:
-    using Answer = std::function<void(QDialog*)>;
-    explicit Answers(std::vector<Answer> answers) : answers_(std::move(answers)) { LookLater(); }
-    ~Answers() { EXPECT_EQ(next_, answers_.size()) << "a window that was expected did not come"; }
-
-  private:
-    void LookLater() {
-        QTimer::singleShot(30, &context_, [this] {
-            LookLater();
-            Look();
-        });
-    }
-    void Look() {
-        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || dialog == answering_ || !dialog->isVisible() ||
-            next_ == answers_.size()) {
-            return;
-        }
-        QDialog* const before = std::exchange(answering_, dialog);
-        answers_[next_++](dialog);
-        answering_ = before;
-    }
-    std::vector<Answer> answers_;
-    std::size_t next_ = 0;
-    QDialog* answering_ = nullptr;
-    QObject context_;
-};
 
 void PressOk(QDialog* dialog) {
     QTest::mouseClick(qobject_cast<QMessageBox*>(dialog)->button(QMessageBox::Ok), Qt::LeftButton);

@@ -14,9 +14,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Desk", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Desk)
+};
 
 void TellLines(Notices& notices, const QString& text, QStringList lines) {
     constexpr qsizetype mostLines = 10;
@@ -49,8 +49,9 @@ void Desk::AddFiles(const QStringList& paths) {
     }
     NoteStep(added.like > 0 ? StepKind::DroppedSettings : StepKind::Add);
     view_.ShowList(state_.Images, line);
-    TellLines(notices_, Tr("Could not find the photo that a picture was made of"), added.missing);
-    TellLines(notices_, Tr("Some settings of a picture could not be used"), added.notes);
+    TellLines(notices_, Texts::tr("Could not find the photo that a picture was made of"),
+              added.missing);
+    TellLines(notices_, Texts::tr("Some settings of a picture could not be used"), added.notes);
 }
 
 }  // namespace varnel

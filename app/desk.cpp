@@ -11,14 +11,15 @@
 #include "pipeline/preview_size.h"
 #include "remap/run_time_error.h"
 #include "state/gear_assignment.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Desk", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Desk)
+};
 
 // The hourglass for a while, put up after waiting events had their turn.
 class Hourglass {
@@ -63,7 +64,7 @@ void Desk::GiveChosenGear(ImageRecord& image) {
 }
 
 void Desk::TellNotOpened(const ImageRecord& image) {
-    notices_.Tell(Tr("Could not open image"),
+    notices_.Tell(Texts::tr("Could not open image"),
                   QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
 }
 
@@ -92,7 +93,7 @@ bool Desk::LoadFull(int line) {
     GiveChosenGear(image);
     Absorb();
     ShowInControls(image);
-    view_.ShowStatus(Tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
+    view_.ShowStatus(Texts::tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
     return true;
 }
 
@@ -117,7 +118,7 @@ bool Desk::LoadAndReduce(int line) {
         return LoadFull(line) && RebuildThumbnail();
     } catch (const std::bad_alloc&) {
         state_.bitmaps = {};
-        loadTrouble_ = Tr("there is not enough memory");
+        loadTrouble_ = Texts::tr("there is not enough memory");
         view_.ShowTrouble(loadTrouble_);
         view_.ShowSource(nullptr);
         return false;
@@ -165,10 +166,10 @@ void Desk::RenderThumbnail(const ImageRecord& image) {
         view_.ShowResult(state_.bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);
-        view_.ShowStatus(QString::fromUtf8(error.what()));
+        view_.ShowStatus(ToldReason(error.what()));
     } catch (const std::bad_alloc&) {
         view_.ShowResult(nullptr);
-        view_.ShowStatus(Tr("There is not enough memory."));
+        view_.ShowStatus(Texts::tr("There is not enough memory."));
     }
 }
 

@@ -16,9 +16,9 @@ namespace {
 constexpr QColor shrunkBlue(40, 120, 255);
 constexpr QColor stretchedOrange(255, 140, 0);
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("FrameStudy", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(FrameStudy)
+};
 
 QString Fixed(double number, int decimals) {
     return QLocale::c().toString(number, 'f', decimals);
@@ -113,11 +113,11 @@ QImage MagnificationImage(const MagnificationMap& map) {
 }
 
 QString KeptText(double share) {
-    return Tr("keeps %1 % of the circle").arg(std::lround(share * 100.0));
+    return Texts::tr("keeps %1 % of the circle").arg(std::lround(share * 100.0));
 }
 
 QString NumbersText(const ResultNumbers& numbers) {
-    const QString none = Tr("none");
+    const QString none = Texts::tr("none");
     const QString centre = numbers.centreResolution
                                ? Fixed(*numbers.centreResolution, 2) + QStringLiteral(" : 1")
                                : none;
@@ -125,10 +125,11 @@ QString NumbersText(const ResultNumbers& numbers) {
         numbers.cornerStretch ? Fixed(*numbers.cornerStretch, 1) + QStringLiteral(" x") : none;
     const QString rectangle =
         numbers.rectangle.width > 0
-            ? Tr("%1 x %2 pixels").arg(numbers.rectangle.width).arg(numbers.rectangle.height)
+            ? Texts::tr("%1 x %2 pixels").arg(numbers.rectangle.width).arg(numbers.rectangle.height)
             : none;
-    return Tr("Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   "
-              "Largest rectangle without black %4")
+    return Texts::tr(
+               "Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   "
+               "Largest rectangle without black %4")
         .arg(centre, corner, QString::number(std::lround(numbers.keptShare * 100.0)), rectangle);
 }
 

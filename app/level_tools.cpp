@@ -13,12 +13,12 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("LevelTools", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LevelTools)
+};
 
 QString Hint() {
-    return Tr(
+    return Texts::tr(
         "Draw along the horizon on the photo as shot, or click points and then the last one again. "
         "Escape leaves.");
 }
@@ -32,7 +32,7 @@ int Whole(double degrees) {
 }
 
 QString BeyondText(SliderId id, double value, double beyond) {
-    return Tr("it takes %1, %2° more than the slider has")
+    return Texts::tr("it takes %1, %2° more than the slider has")
         .arg(SliderCaption(RowOf(id), Whole(value)))
         .arg(std::fabs(beyond), 0, 'f', 0);
 }
@@ -45,7 +45,7 @@ QString OutOfReachText(const Levelling& level) {
     if (level.beyondZ != 0.0) {
         parts.append(BeyondText(SliderId::Z, level.rotateZ, level.beyondZ));
     }
-    return Tr("Not levelled: %1.").arg(parts.join(Tr(" and ")));
+    return Texts::tr("Not levelled: %1.").arg(parts.join(Texts::tr(" and ")));
 }
 
 }  // namespace
@@ -53,17 +53,17 @@ QString OutOfReachText(const Levelling& level) {
 QString LevelText(const Levelling& level) {
     switch (level.trouble) {
         case LevelTrouble::NoLens:
-            return Tr("Not levelled: the gear's numbers make no lens.");
+            return Texts::tr("Not levelled: the gear's numbers make no lens.");
         case LevelTrouble::TooShort:
-            return Tr("Not levelled: the line is too short.");
+            return Texts::tr("Not levelled: the line is too short.");
         case LevelTrouble::NotStraight:
-            return Tr("Not levelled: through this lens no horizon is bent like this line.");
+            return Texts::tr("Not levelled: through this lens no horizon is bent like this line.");
         case LevelTrouble::OutOfReach:
             return OutOfReachText(level);
         case LevelTrouble::None:
             break;
     }
-    return Tr("Levelled: %1, %2.")
+    return Texts::tr("Levelled: %1, %2.")
         .arg(SliderCaption(RowOf(SliderId::X), Whole(level.rotateX)),
              SliderCaption(RowOf(SliderId::Z), Whole(level.rotateZ)));
 }

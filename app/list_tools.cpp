@@ -8,6 +8,7 @@
 #include "app/photo_list.h"
 #include "remap/paint.h"
 #include "state/photo_marks.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -71,7 +72,7 @@ std::optional<QImage> ListTools::Take() {
     }
     const LoadedPicture picture = reader_->Take();
     if (!picture.reason.isEmpty()) {
-        troubles_.insert(underWay_, picture.reason);
+        troubles_.insert(underWay_, ToldReason(picture.reason));
         Refresh();
     }
     if (picture.outcome == LoadOutcome::NotLoaded) {

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 
 #include "pipeline/project_file.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -169,7 +170,7 @@ bool ProjectTools::SaveTo(const QString& path) {
     }
     const WriteResult written = WriteProject(path, state_.Images);
     if (!written) {
-        Tell(tr("Could not save %1").arg(path), {written.reason});
+        Tell(tr("Could not save %1").arg(path), {ToldReason(written.reason)});
         return false;
     }
     desk_.MarkSaved(path);

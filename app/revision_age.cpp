@@ -3,6 +3,7 @@
 
 #include "app/revision_age.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include "state/number_text.h"
@@ -16,14 +17,17 @@ constexpr int releaseYear = 2023;
 constexpr int releaseMonth = 1;
 constexpr int firstAgeToTell = 7;  // months
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(RevisionAge)
+};
+
 QString ReminderText(int age) {
-    return QStringList{
-        QStringLiteral("This version of Varnel is now more than %1 months old.").arg(age),
-        QStringLiteral("An updated revision is likely available."),
-        QStringLiteral("It is recommended that you upgrade the executable file."),
-        QString(),
-        QStringLiteral("Upgraded executables may be downloaded from"),
-        QStringLiteral(VARNEL_DOWNLOAD_ADDRESS)}
+    return QStringList{Texts::tr("This version of Varnel is now more than %1 months old.").arg(age),
+                       Texts::tr("An updated revision is likely available."),
+                       Texts::tr("It is recommended that you upgrade the executable file."),
+                       QString(),
+                       Texts::tr("Upgraded executables may be downloaded from"),
+                       QStringLiteral(VARNEL_DOWNLOAD_ADDRESS)}
         .join(u'\n');
 }
 

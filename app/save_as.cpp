@@ -14,14 +14,15 @@
 #include "remap/run_time_error.h"
 #include "remap/save_bitmap.h"
 #include "state/picture_settings.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Desk", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Desk)
+};
 
 }  // namespace
 
@@ -45,9 +46,9 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
             SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444),
             &runner_);
     } catch (const RunTimeError& error) {
-        return {false, QString::fromUtf8(error.what())};
+        return {false, ToldReason(error.what())};
     } catch (const std::bad_alloc&) {
-        return {false, Tr("There is not enough memory.")};
+        return {false, Texts::tr("There is not enough memory.")};
     }
 }
 
@@ -79,11 +80,11 @@ void Desk::SaveAs(FileChooser& chooser) {
         view_.Lock(false);
     }
     if (!saved) {
-        notices_.Tell(Tr("Could not save %1").arg(choice->name), saved.reason);
+        notices_.Tell(Texts::tr("Could not save %1").arg(choice->name), ToldReason(saved.reason));
     } else if (saved.note.isEmpty()) {
-        view_.ShowStatus(Tr("Saved %1").arg(choice->name));
+        view_.ShowStatus(Texts::tr("Saved %1").arg(choice->name));
     } else {
-        view_.ShowStatus(Tr("Saved %1, %2").arg(choice->name, saved.note));
+        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(choice->name, ToldReason(saved.note)));
     }
     view_.Idle();
 }

@@ -3,6 +3,7 @@
 
 #include "gear/gear_store.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 
@@ -116,7 +117,8 @@ void TakeOverOldGear(const GearNames& names, SettingsStore& store, GearTable& ta
 }  // namespace
 
 QString NoGearText() {
-    return QStringLiteral("Please define at least one camera + lens combination ...");
+    return QCoreApplication::translate("GearStore",
+                                       "Please define at least one camera + lens combination ...");
 }
 
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {

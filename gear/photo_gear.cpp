@@ -3,6 +3,7 @@
 
 #include "gear/photo_gear.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <vector>
 
@@ -74,22 +75,26 @@ void FindGear(const CatalogueEntry& camera, const PhotoLenses& lenses, const Gea
     }
 }
 
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PhotoGear)
+};
+
 QString ReasonFor(GearLack lack, const QString& camera, const QString& lens) {
     switch (lack) {
         case GearLack::None:
             break;
         case GearLack::Origin:
-            return QStringLiteral("the photo does not tell what took it");
+            return Texts::tr("the photo does not tell what took it");
         case GearLack::KnownCamera:
-            return QStringLiteral("the camera %1 is not in the catalogue").arg(camera);
+            return Texts::tr("the camera %1 is not in the catalogue").arg(camera);
         case GearLack::KnownLens:
-            return QStringLiteral("the lens %1 is not in the catalogue").arg(lens);
+            return Texts::tr("the lens %1 is not in the catalogue").arg(lens);
         case GearLack::ToldLens:
-            return QStringLiteral("the photo does not tell well enough which lens took it");
+            return Texts::tr("the photo does not tell well enough which lens took it");
         case GearLack::OneGear:
-            return QStringLiteral("the photo does not tell which gear of its camera took it");
+            return Texts::tr("the photo does not tell which gear of its camera took it");
         case GearLack::DefinedGear:
-            return QStringLiteral("no gear has this camera and this lens");
+            return Texts::tr("no gear has this camera and this lens");
     }
     return {};
 }

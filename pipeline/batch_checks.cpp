@@ -20,9 +20,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Batch", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Batch)
+};
 
 // An entry without a name fails in the run and is told there.
 QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue,
@@ -75,15 +75,16 @@ double BytesPerPixel(const BatchChoices& choices) {
 QString FolderTrouble(const QString& folder) {
     const QString shown = QDir::toNativeSeparators(folder);
     if (folder.isEmpty() || !QFileInfo::exists(folder)) {
-        return Tr("The folder %1 does not exist").arg(shown);
+        return Texts::tr("The folder %1 does not exist").arg(shown);
     }
     if (!QFileInfo(folder).isDir()) {
-        return Tr("%1 is not a folder").arg(shown);
+        return Texts::tr("%1 is not a folder").arg(shown);
     }
     // Trying is the only answer that counts: permissions say nothing of write-protected cards.
     QTemporaryFile probe(QDir(folder).filePath(QStringLiteral(".varnel-XXXXXX")));
     if (!probe.open()) {
-        return Tr("Nothing can be written into the folder %1 (%2)").arg(shown, probe.errorString());
+        return Texts::tr("Nothing can be written into the folder %1 (%2)")
+            .arg(shown, probe.errorString());
     }
     return {};
 }
@@ -103,15 +104,17 @@ int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& cho
 QString NamesText(int colliding, int existing) {
     QStringList sentences;
     if (colliding == 1) {
-        sentences += Tr("1 name collides: of the images of one name only the last one stays.");
+        sentences +=
+            Texts::tr("1 name collides: of the images of one name only the last one stays.");
     } else if (colliding > 1) {
-        sentences += Tr("%1 names collide: of the images of one name only the last one stays.")
-                         .arg(colliding);
+        sentences +=
+            Texts::tr("%1 names collide: of the images of one name only the last one stays.")
+                .arg(colliding);
     }
     if (existing == 1) {
-        sentences += Tr("1 file in this folder will be replaced.");
+        sentences += Texts::tr("1 file in this folder will be replaced.");
     } else if (existing > 1) {
-        sentences += Tr("%1 files in this folder will be replaced.").arg(existing);
+        sentences += Texts::tr("%1 files in this folder will be replaced.").arg(existing);
     }
     return sentences.join(u' ');
 }
@@ -136,7 +139,7 @@ QString SpaceWarning(qint64 expectedBytes, qint64 freeBytes) {
         return {};
     }
     const QLocale locale;
-    return Tr("The images may need up to %1, but only %2 are free there.")
+    return Texts::tr("The images may need up to %1, but only %2 are free there.")
         .arg(locale.formattedDataSize(expectedBytes, 1, QLocale::DataSizeSIFormat),
              locale.formattedDataSize(freeBytes, 1, QLocale::DataSizeSIFormat));
 }

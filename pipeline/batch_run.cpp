@@ -15,14 +15,15 @@
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "state/picture_settings.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Batch", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Batch)
+};
 
 // One entry on its way. The observer hears of it only when the one before it is done.
 struct Turn {
@@ -77,9 +78,9 @@ class Run : private RenderProgress {
                 turn_.trouble = source_.reason;
             }
         } catch (const std::bad_alloc&) {
-            turn_.trouble = Tr("there is not enough memory");
+            turn_.trouble = Texts::tr("there is not enough memory");
         } catch (const std::exception& error) {  // RunTimeError among them
-            turn_.trouble = QString::fromUtf8(error.what());
+            turn_.trouble = ToldReason(error.what());
         }
         if (!NextHasSamePhoto()) {
             DropSource();  // encoding needs room of its own
@@ -219,9 +220,10 @@ class Run : private RenderProgress {
         writing_.reset();
         spare_ = std::move(written.result);
         if (saved) {
-            Note(written, saved.note);
+            Note(written, ToldReason(saved.note));
         } else {
-            written.trouble = Tr("could not write %1: %2").arg(written.path, saved.reason);
+            written.trouble =
+                Texts::tr("could not write %1: %2").arg(written.path, ToldReason(saved.reason));
         }
         EndTurn(written);
     }

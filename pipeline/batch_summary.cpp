@@ -14,9 +14,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Batch", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Batch)
+};
 
 qsizetype Count(const QStringList& list) {
     return list.size();
@@ -63,14 +63,15 @@ QString NotesSection(const std::vector<BatchTrouble>& notes) {
     if (lines.empty()) {
         return {};
     }
-    QString text = u'\n' +
-                   (notes.size() == 1 ? Tr("1 file does not hold everything:")
-                                      : Tr("%1 files do not hold everything:").arg(notes.size())) +
-                   u'\n';
+    QString text =
+        u'\n' +
+        (notes.size() == 1 ? Texts::tr("1 file does not hold everything:")
+                           : Texts::tr("%1 files do not hold everything:").arg(notes.size())) +
+        u'\n';
     for (std::size_t n = 0; n < lines.size(); ++n) {
-        const QString file = counts[n] == 1
-                                 ? lines[n].file
-                                 : Tr("%1 and %2 more").arg(lines[n].file).arg(counts[n] - 1);
+        const QString file =
+            counts[n] == 1 ? lines[n].file
+                           : Texts::tr("%1 and %2 more").arg(lines[n].file).arg(counts[n] - 1);
         text += QStringLiteral("  ") + LineOf({file, lines[n].reason}) + u'\n';
     }
     return text;
@@ -84,26 +85,29 @@ QString About(const QString& one, const QString& many, double number) {
 }  // namespace
 
 QString SummaryText(const BatchSummary& summary) {
-    QString text = Tr("%1 of %2 images written into %3")
+    QString text = Texts::tr("%1 of %2 images written into %3")
                        .arg(summary.written.size())
                        .arg(summary.queued)
                        .arg(QDir::toNativeSeparators(summary.folder));
     text += u'\n';
     if (summary.Stopped()) {
-        text += Tr("Stopped after %1").arg(BatchProgressText(summary.done, summary.queued)) + u'\n';
+        text += Texts::tr("Stopped after %1").arg(BatchProgressText(summary.done, summary.queued)) +
+                u'\n';
     }
-    text += Section(summary.failures, Tr("1 image failed:"), Tr("%1 images failed:"));
-    text += Section(summary.damaged,
-                    Tr("1 image is damaged and was written as far as it could be read:"),
-                    Tr("%1 images are damaged and were written as far as they could be read:"));
+    text += Section(summary.failures, Texts::tr("1 image failed:"), Texts::tr("%1 images failed:"));
+    text +=
+        Section(summary.damaged,
+                Texts::tr("1 image is damaged and was written as far as it could be read:"),
+                Texts::tr("%1 images are damaged and were written as far as they could be read:"));
     text += NotesSection(summary.notes);
-    text += Section(summary.replaced, Tr("1 file was replaced by a later image of the same name:"),
-                    Tr("%1 files were replaced by later images of the same name:"));
+    text += Section(summary.replaced,
+                    Texts::tr("1 file was replaced by a later image of the same name:"),
+                    Texts::tr("%1 files were replaced by later images of the same name:"));
     return text;
 }
 
 QString BatchProgressText(int done, int queued) {
-    return Tr("%1 of %2 images").arg(done).arg(queued);
+    return Texts::tr("%1 of %2 images").arg(done).arg(queued);
 }
 
 QString TimeLeftText(double elapsedSeconds, double done) {
@@ -112,13 +116,13 @@ QString TimeLeftText(double elapsedSeconds, double done) {
     }
     const double left = elapsedSeconds / done * (1.0 - done);
     if (left < 55.0) {
-        return Tr("about %1 seconds left").arg(static_cast<int>(std::ceil(left / 5.0)) * 5);
+        return Texts::tr("about %1 seconds left").arg(static_cast<int>(std::ceil(left / 5.0)) * 5);
     }
     if (left < 90.0 * 60.0) {
-        return About(Tr("about 1 minute left"), Tr("about %1 minutes left"),
+        return About(Texts::tr("about 1 minute left"), Texts::tr("about %1 minutes left"),
                      std::round(left / 60.0));
     }
-    return Tr("about %1 hours left").arg(std::round(left / 1800.0) / 2.0);
+    return Texts::tr("about %1 hours left").arg(std::round(left / 1800.0) / 2.0);
 }
 
 QString QueueLine(const ImageRecord& entry) {

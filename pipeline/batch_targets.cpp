@@ -10,9 +10,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Batch", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Batch)
+};
 
 // Frames of a sequence share their photo.
 QStringList PhotosOf(const RecordArray<ImageRecord>& queue) {
@@ -35,13 +35,14 @@ QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path,
         return {};
     }
     if (SameFile(path, SourcePath(entry))) {
-        return Tr("%1 is the photo itself").arg(path);
+        return Texts::tr("%1 is the photo itself").arg(path);
     }
     if (queued_.Contains(path)) {
-        return Tr("%1 is one of the queued photos").arg(path);
+        return Texts::tr("%1 is one of the queued photos").arg(path);
     }
     if (!damage.isEmpty() && !halfPictures_.contains(path)) {
-        return Tr("the photo is damaged (%1) and does not replace the older %2").arg(damage, path);
+        return Texts::tr("the photo is damaged (%1) and does not replace the older %2")
+            .arg(damage, path);
     }
     return {};
 }

@@ -12,9 +12,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Save", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Save)
+};
 
 }  // namespace
 
@@ -32,8 +32,8 @@ std::optional<SaveChoice> AskWhereToSave(FileChooser& chooser, Notices& notices,
     }
     choice->name = WithExtension(choice->name, TypeOf(*choice));
     if (SameFile(choice->name, photo)) {
-        notices.Tell(Tr("Could not save %1").arg(choice->name),
-                     Tr("This is the photo itself; choose another name."));
+        notices.Tell(Texts::tr("Could not save %1").arg(choice->name),
+                     Texts::tr("This is the photo itself; choose another name."));
         return std::nullopt;
     }
     if (QFileInfo::exists(choice->name) && !chooser.AgreesToReplace(choice->name)) {

@@ -15,6 +15,7 @@
 #include "remap/render.h"
 #include "remap/rounding.h"
 #include "remap/run_time_error.h"
+#include "state/told_reason.h"
 #include "ui_form_morph.h"
 
 namespace varnel {
@@ -278,7 +279,7 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
                desk);
         label.setPixmap(InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
     } catch (const RunTimeError& error) {
-        label.setText(QString::fromUtf8(error.what()));
+        label.setText(ToldReason(error.what()));
     }
 }
 
@@ -294,7 +295,7 @@ void FormMorph::AddFrames() {
     try {
         AddMorph(queue_, image_, ends_, N);
     } catch (const RunTimeError& error) {
-        notices_.Tell(tr("No images were added"), QString::fromUtf8(error.what()));
+        notices_.Tell(tr("No images were added"), ToldReason(error.what()));
         return;
     } catch (const std::bad_alloc&) {
         notices_.Tell(tr("No images were added"), tr("There is not enough memory."));

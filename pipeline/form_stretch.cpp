@@ -17,6 +17,7 @@
 #include "remap/photo_metadata.h"
 #include "remap/rounding.h"
 #include "remap/save_bitmap.h"
+#include "state/told_reason.h"
 #include "ui_form_stretch.h"
 
 namespace varnel {
@@ -222,12 +223,12 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
         SaveBitmap(FormatOf(type), result, choice.name,
                    SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444), &runner_);
     if (saved) {
-        ui_->LabelStatus->setText(saved.note.isEmpty()
-                                      ? tr("Saved %1").arg(choice.name)
-                                      : tr("Saved %1, %2").arg(choice.name, saved.note));
+        ui_->LabelStatus->setText(
+            saved.note.isEmpty() ? tr("Saved %1").arg(choice.name)
+                                 : tr("Saved %1, %2").arg(choice.name, ToldReason(saved.note)));
         ui_->LabelStatus->setToolTip(ui_->LabelStatus->text());
     } else {
-        notices_.Tell(tr("Could not save %1").arg(choice.name), saved.reason);
+        notices_.Tell(tr("Could not save %1").arg(choice.name), ToldReason(saved.reason));
     }
 }
 

@@ -16,9 +16,9 @@ namespace varnel {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("Likeness", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Likeness)
+};
 
 bool IsSource(const QString& folder, const QString& fileName, const QString& picture) {
     const QString path = folder + u'/' + fileName;
@@ -77,8 +77,9 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, P
         return;
     }
     if (likeness) {
-        const QString source = likeness->record.FileName.isEmpty() ? Tr("its name is not known")
-                                                                   : ShownSource(likeness->record);
+        const QString source = likeness->record.FileName.isEmpty()
+                                   ? Texts::tr("its name is not known")
+                                   : ShownSource(likeness->record);
         added.missing.append(QStringLiteral("%1: %2").arg(QFileInfo(path).fileName(), source));
     }
     AppendFiles(images, {path});

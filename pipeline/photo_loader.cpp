@@ -3,7 +3,10 @@
 
 #include "pipeline/photo_loader.h"
 
+#include <QCoreApplication>
+
 #include "state/gear_assignment.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -29,12 +32,14 @@ bool PhotoLoader::Continue() {
 
 LoadedPicture PhotoLoader::Read(ReadRequest request) {
     if (reading_) {
-        return LoadedPicture::Refused(QStringLiteral("another photo is being read"));
+        return LoadedPicture::Refused(
+            QCoreApplication::translate("PhotoLoader", "another photo is being read"));
     }
     reading_ = true;
     request.upright = settings_ == nullptr || settings_->AutoOrient;
     BeginWait(request.path);
     LoadedPicture picture = ReadPicture(reader_, request, [this] { return Continue(); });
+    picture.reason = ToldReason(picture.reason);
     EndWait();
     reading_ = false;
     return picture;

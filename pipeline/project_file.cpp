@@ -46,9 +46,9 @@ constexpr std::array photoFields{
     PhotoField{QLatin1StringView("Orientation"), 1, 8},
 };
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("ProjectFile", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(ProjectFile)
+};
 
 bool IsOdd(QChar c) {
     return c == u'\\' || c.category() == QChar::Other_Control || c.isSurrogate() ||
@@ -148,7 +148,7 @@ class Reader {
         trouble_ = why;
         return false;
     }
-    bool FailHere() { return Fail(Tr("it is damaged: line %1 cannot be read").arg(next_)); }
+    bool FailHere() { return Fail(Texts::tr("it is damaged: line %1 cannot be read").arg(next_)); }
     // The next line that says something; false at the end.
     bool Next() {
         while (next_ < lines_.size()) {
@@ -186,14 +186,14 @@ class Reader {
 
 bool Reader::ReadHead() {
     if (!Next() || !line_.startsWith(firstWords)) {
-        return Fail(Tr("it is not a Varnel project"));
+        return Fail(Texts::tr("it is not a Varnel project"));
     }
     const std::optional<int> written = WholeFromText(line_.mid(firstWords.size()).toString());
     if (!written || *written < 1) {
         return FailHere();
     }
     if (*written > currentVersion) {
-        return Fail(Tr("a newer version of Varnel wrote it"));
+        return Fail(Texts::tr("a newer version of Varnel wrote it"));
     }
     const std::optional<int> photos =
         Next() && line_.startsWith(photosKey + QLatin1StringView("="))
@@ -222,13 +222,13 @@ bool Reader::ReadPhotos() {
         if (ends) {
             const int found = project_.images.UpperBound();
             return found == expected_ ||
-                   Fail(Tr("it is damaged: it should hold %1 photos and holds %2")
+                   Fail(Texts::tr("it is damaged: it should hold %1 photos and holds %2")
                             .arg(expected_)
                             .arg(found));
         }
         within = true;
     }
-    return Fail(Tr("it is damaged: its end is missing"));
+    return Fail(Texts::tr("it is damaged: its end is missing"));
 }
 
 bool Reader::TakeLine() {
@@ -269,7 +269,7 @@ void Reader::TakePhotoField(const PhotoField& field, const QString& value) {
     const std::optional<int> whole = WholeFromText(value);
     if ((whole && (*whole < field.least || *whole > field.most)) ||
         SetField(changed, field.name, value) != FieldResult::Ok) {
-        AddNote(Tr("the setting %1 cannot be used").arg(field.name));
+        AddNote(Texts::tr("the setting %1 cannot be used").arg(field.name));
         return;
     }
     image_ = std::move(changed);
@@ -319,7 +319,7 @@ ReadProject ProjectFromText(const QByteArray& text, const QString& folder) {
     QString decoded = decoder(text);
     if (decoder.hasError() || decoded.contains(QChar(0))) {
         ReadProject refused;
-        refused.trouble = Tr("it is not a text file");
+        refused.trouble = Texts::tr("it is not a text file");
         return refused;
     }
     if (!decoded.contains(u'\n')) {
@@ -338,7 +338,7 @@ ReadProject OpenProject(const QString& path) {
     if (!file.open(QIODevice::ReadOnly)) {
         refused.trouble = file.errorString();
     } else if (file.size() > largestFile) {
-        refused.trouble = Tr("it is too large");
+        refused.trouble = Texts::tr("it is too large");
     } else {
         return ProjectFromText(file.read(largestFile), QFileInfo(path).absolutePath());
     }

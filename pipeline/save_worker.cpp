@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "pipeline/save_worker.h"
+#include "state/told_reason.h"
 
 #include <QCoreApplication>
 #include <chrono>
@@ -20,7 +21,7 @@ SaveResult Done(const SaveWorker::Job& job) {
     } catch (const std::bad_alloc&) {
         return {false, QCoreApplication::translate("Batch", "there is not enough memory")};
     } catch (const std::exception& error) {
-        return {false, QString::fromUtf8(error.what())};
+        return {false, ToldReason(error.what())};
     }
 }
 

@@ -8,20 +8,25 @@
 
 namespace varnel {
 
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PhotoMarks)
+};
+
+}  // namespace
+
 PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble) {
-    const auto tr = [](const char* text) {
-        return QCoreApplication::translate("PhotoMarks", text);
-    };
     const QString projection = ToText(ProjectionFromIndex(image.Projection));
     QString letters = projection.left(1);
     QStringList words{projection};
     if (image.SettingsApplied) {
         letters += u'A';
-        words.append(tr("adjusted"));
+        words.append(Texts::tr("adjusted"));
     }
     if (queued) {
         letters += u'Q';
-        words.append(tr("in the batch queue"));
+        words.append(Texts::tr("in the batch queue"));
     }
     if (!trouble.isEmpty()) {
         letters += u'!';

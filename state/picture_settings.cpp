@@ -68,9 +68,9 @@ constexpr std::array numberFields{
     NumberField{QLatin1StringView("TranslateY"), -1000.0F, 1000.0F},
 };
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("PictureSettings", text);
-}
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PictureSettings)
+};
 
 // Also what XML can hold.
 bool IsPlainText(const QString& text) {
@@ -175,11 +175,11 @@ Taking Take(const QString& name, const QString& value, ImageRecord& image) {
 QString NoteOf(Taking taking, const QString& name, const QString& value) {
     switch (taking) {
         case Taking::NotUsable:
-            return Tr("the setting %1 cannot be \"%2\"").arg(Shown(name), Shown(value));
+            return Texts::tr("the setting %1 cannot be \"%2\"").arg(Shown(name), Shown(value));
         case Taking::OutOfRange:
-            return Tr("the setting %1 is out of range: %2").arg(Shown(name), Shown(value));
+            return Texts::tr("the setting %1 is out of range: %2").arg(Shown(name), Shown(value));
         case Taking::Unknown:
-            return Tr("the setting \"%1\" cannot be kept").arg(Shown(name));
+            return Texts::tr("the setting \"%1\" cannot be kept").arg(Shown(name));
         case Taking::Taken:
             break;
     }

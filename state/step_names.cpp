@@ -10,57 +10,36 @@ namespace varnel {
 
 namespace {
 
-#define TEXT(text) QT_TRANSLATE_NOOP("Steps", text)
-
-constexpr std::array names{TEXT("projection"),
-                           TEXT("choice of gear"),
-                           TEXT("apply gear to all"),
-                           TEXT("apply settings to all"),
-                           TEXT("adjustments"),
-                           TEXT("add images"),
-                           TEXT("remove images"),
-                           TEXT("reorder images"),
-                           TEXT("add images with settings"),
-                           TEXT("level"),
-                           TEXT("frame"),
-                           TEXT("image circle"),
-                           TEXT("contact sheet"),
-                           TEXT("open project"),
-                           TEXT("change")};
+constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
+                           QT_TRANSLATE_NOOP("Steps", "choice of gear"),
+                           QT_TRANSLATE_NOOP("Steps", "apply gear to all"),
+                           QT_TRANSLATE_NOOP("Steps", "apply settings to all"),
+                           QT_TRANSLATE_NOOP("Steps", "adjustments"),
+                           QT_TRANSLATE_NOOP("Steps", "add images"),
+                           QT_TRANSLATE_NOOP("Steps", "remove images"),
+                           QT_TRANSLATE_NOOP("Steps", "reorder images"),
+                           QT_TRANSLATE_NOOP("Steps", "add images with settings"),
+                           QT_TRANSLATE_NOOP("Steps", "level"),
+                           QT_TRANSLATE_NOOP("Steps", "frame"),
+                           QT_TRANSLATE_NOOP("Steps", "image circle"),
+                           QT_TRANSLATE_NOOP("Steps", "contact sheet"),
+                           QT_TRANSLATE_NOOP("Steps", "open project"),
+                           QT_TRANSLATE_NOOP("Steps", "change")};
 static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);
+
+// The sliders' steps as they read within a sentence, in the order of the sliders' names.
+constexpr std::array sliderNames{QT_TRANSLATE_NOOP("Steps", "output AOV"),
+                                 QT_TRANSLATE_NOOP("Steps", "partial effect"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate up/down"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate left/right"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate Z-axis"),
+                                 QT_TRANSLATE_NOOP("Steps", "transpose left/right"),
+                                 QT_TRANSLATE_NOOP("Steps", "transpose up/down"),
+                                 QT_TRANSLATE_NOOP("Steps", "input hAOV")};
+static_assert(sliderNames.size() == static_cast<std::size_t>(SliderId::AovInput) + 1);
 
 QString Translated(const char* text) {
     return QCoreApplication::translate("Steps", text);
-}
-
-// The group that tells the two sliders of one caption apart.
-QString GroupOf(SliderId slider) {
-    switch (slider) {
-        case SliderId::X:
-        case SliderId::Y:
-        case SliderId::Z:
-            return Translated(TEXT("rotate %1"));
-        case SliderId::XTranslate:
-        case SliderId::YTranslate:
-            return Translated(TEXT("transpose %1"));
-        case SliderId::AovOutput:
-        case SliderId::Effect:
-        case SliderId::AovInput:
-            break;
-    }
-    return QStringLiteral("%1");
-}
-
-#undef TEXT
-
-// As it reads within a sentence: "Left/Right" becomes "left/right", "AOV" and "Z-axis" stay.
-QString Running(QString caption) {
-    for (qsizetype n = 0; n + 1 < caption.size(); ++n) {
-        if (caption[n].isUpper() && caption[n + 1].isLower()) {
-            caption[n] = caption[n].toLower();
-        }
-    }
-    return caption;
 }
 
 }  // namespace
@@ -70,13 +49,7 @@ QString StepName(StepKind kind) {
 }
 
 QString StepName(SliderId slider) {
-    for (const SliderRowData& row : SliderRows()) {
-        if (row.id == slider) {
-            const char* const caption = row.heading != nullptr ? row.heading : row.startCaption;
-            return GroupOf(slider).arg(Running(QCoreApplication::translate("Sliders", caption)));
-        }
-    }
-    return {};
+    return Translated(sliderNames[static_cast<std::size_t>(slider)]);
 }
 
 ControlStep StepBetween(const ControlValues& before, const ControlValues& after) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "state/telling_store.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -15,7 +16,7 @@ constexpr int settleDelay = 200;
 
 void TellOf(SettingsStore& store, Notices& notices) {
     for (const QString& text : store.Settle()) {
-        notices.Tell(text, {});
+        notices.Tell(ToldReason(text), {});
     }
 }
 

@@ -20,7 +20,9 @@
 #include "app/real_dialogs.h"
 #include "app/revision_age.h"
 #include "cli/console.h"
+#include "state/default_choices.h"
 #include "state/telling_store.h"
+#include "translations/window_language.h"
 
 namespace {
 
@@ -82,5 +84,7 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("varnel")));
     PlainTexts plainTexts;
     application.installEventFilter(&plainTexts);
+    const int language = LanguagePosition(LoadSettings(*store).Language);
+    const WindowLanguage windowLanguage(application, languages[language].code);
     return RunWindow(application, std::get<QStringList>(start), *store);
 }

@@ -14,6 +14,12 @@ int FileTypePosition(QStringView fileType) {
     return found == fileTypeTexts.end() ? 0 : static_cast<int>(found - fileTypeTexts.begin());
 }
 
+int LanguagePosition(QStringView code) {
+    const auto* const found = std::ranges::find_if(
+        languages, [&](const Language& language) { return language.code == code; });
+    return found == languages.end() ? 0 : static_cast<int>(found - languages.begin());
+}
+
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
                   const GeneralSettings& settings) {
     store.Save(setting::Gear, setting::DefaultGearName, defaultGearName);
@@ -32,6 +38,7 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
     saveFlag(setting::OfferGear, settings.OfferGear);
     saveFlag(setting::WriteMetadata, settings.WriteMetadata);
     saveFlag(setting::WriteSettings, settings.WriteSettings);
+    save(setting::Language, settings.Language);
 }
 
 }  // namespace varnel

@@ -26,8 +26,21 @@ inline constexpr std::array fileTypeTexts{QLatin1StringView("TIFF"), QLatin1Stri
 // the first run's "JPG" is such a text.
 int FileTypePosition(QStringView fileType);
 
+struct Language {
+    QLatin1StringView code;  // the setting "Language"
+    QStringView name;        // in that language
+};
+
+// The languages of the window in the order of the dialog's list. The first one is what stands in
+// the sources.
+inline constexpr std::array languages{Language{QLatin1StringView("en"), u"English"},
+                                      Language{QLatin1StringView("de"), u"Deutsch"}};
+
+// The place of a language in that list; any other text means the first one.
+int LanguagePosition(QStringView code);
+
 // Writes the default gear and the general settings, in this order: gear, width, height, file type,
-// quality, then what is on or off.
+// quality, what is on or off, language.
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
                   const GeneralSettings& settings);
 

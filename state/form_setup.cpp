@@ -49,6 +49,7 @@ FormSetup::FormSetup(GearTable& gear, GeneralSettings& settings, SettingsStore& 
     FillSizes();
     FillFile();
     FillChecks();
+    FillLanguages();
     ConnectControls();
 }
 
@@ -94,6 +95,13 @@ void FormSetup::FillChecks() {
     }
 }
 
+void FormSetup::FillLanguages() {
+    for (const Language& language : languages) {
+        ui_->ComboLanguage->addItem(language.name.toString(), QString(language.code));
+    }
+    ui_->ComboLanguage->setCurrentIndex(LanguagePosition(settings_.Language));
+}
+
 void FormSetup::ConnectControls() {
     const auto forget = [this] { ui_->LabelSaved->clear(); };
     for (QSlider* const slider : findChildren<QSlider*>()) {
@@ -124,6 +132,7 @@ void FormSetup::SetMyDefaults() {
     for (const auto& [box, flag] : ChecksOf(*ui_)) {
         settings_.*flag = box->isChecked();
     }
+    settings_.Language = ui_->ComboLanguage->currentData().toString();
 }
 
 void FormSetup::SaveAsDefault() {

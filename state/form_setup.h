@@ -39,6 +39,7 @@ class FormSetup : public QDialog {
     void FillSizes();
     void FillFile();
     void FillChecks();
+    void FillLanguages();
     void ConnectControls();
     void SaveAsDefault();
 

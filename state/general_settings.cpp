@@ -42,6 +42,7 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
     read(settings.OfferGear, setting::OfferGear);
     read(settings.WriteMetadata, setting::WriteMetadata);
     read(settings.WriteSettings, setting::WriteSettings);
+    settings.Language = store.Get(setting::General, setting::Language, settings.Language);
     return settings;
 }
 

@@ -23,6 +23,7 @@ struct GeneralSettings {
     bool OfferGear = true;                     // the gear that a photo's EXIF tells is offered
     bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
     bool WriteSettings = true;                 // the settings go into the result
+    QString Language = QStringLiteral("en");   // of the window, as code
 
     bool operator==(const GeneralSettings&) const = default;
 };

@@ -27,6 +27,7 @@ inline constexpr QLatin1StringView AutoOrient("AutoOrient");
 inline constexpr QLatin1StringView OfferGear("OfferGear");
 inline constexpr QLatin1StringView WriteMetadata("WriteMetadata");
 inline constexpr QLatin1StringView WriteSettings("WriteSettings");
+inline constexpr QLatin1StringView Language("Language");
 
 // The one gear of an older release, among the general settings.
 inline constexpr QLatin1StringView OldCameraBrand("CameraBrand");

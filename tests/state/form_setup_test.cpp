@@ -181,7 +181,7 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
                    "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
                    "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
                    "setting/AutoOrient=1\nsetting/OfferGear=1\n"
-                   "setting/WriteMetadata=1\nsetting/WriteSettings=1"));
+                   "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/Language=en"));
     EXPECT_EQ(The<QLabel>("LabelSaved").text(), Text("Saved"));
     Choose("ComboFileType", 0);
     EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty()) << "no longer what was saved";
@@ -225,6 +225,22 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
         Open();
         EXPECT_EQ(The<QCheckBox>(row.name).isChecked(), !row.atFirst) << row.name;
     }
+}
+
+TEST_F(FormSetupTest, OffersLanguagesByTheirOwnNamesAndStartsWithEnglish) {
+    const struct {
+        const char* stored;
+        const char* shown;
+    } cases[] = {{"en", "English"}, {"de", "Deutsch"}, {"DE", "English"}, {"", "English"}};
+    for (const auto& c : cases) {
+        settings.Language = Text(c.stored);
+        Open();
+        EXPECT_EQ(The<QComboBox>("ComboLanguage").currentText(), Text(c.shown)) << c.stored;
+    }
+    Choose("ComboLanguage", 1);
+    Click("CommandSaveDefault");
+    EXPECT_EQ(settings.Language, Text("de"));
+    EXPECT_EQ(store.written.constLast(), Text("setting/Language=de"));
 }
 
 TEST_F(FormSetupTest, TheWheelMovesOnlyTheSliderWithTheFocus) {

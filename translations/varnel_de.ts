@@ -1,0 +1,2781 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>Batch</name>
+    <message>
+        <source>The folder %1 does not exist</source>
+        <translation>Den Ordner %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder</source>
+        <translation>%1 ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1 (%2)</source>
+        <translation>In den Ordner %1 kann nichts geschrieben werden (%2)</translation>
+    </message>
+    <message>
+        <source>1 name collides: of the images of one name only the last one stays.</source>
+        <translation>1 Name kommt mehrfach vor: Von Bildern gleichen Namens bleibt nur das letzte.</translation>
+    </message>
+    <message>
+        <source>%1 names collide: of the images of one name only the last one stays.</source>
+        <translation>%1 Namen kommen mehrfach vor: Von Bildern gleichen Namens bleibt nur das letzte.</translation>
+    </message>
+    <message>
+        <source>1 file in this folder will be replaced.</source>
+        <translation>1 Datei in diesem Ordner wird ersetzt.</translation>
+    </message>
+    <message>
+        <source>%1 files in this folder will be replaced.</source>
+        <translation>%1 Dateien in diesem Ordner werden ersetzt.</translation>
+    </message>
+    <message>
+        <source>The images may need up to %1, but only %2 are free there.</source>
+        <translation>Die Bilder können bis zu %1 brauchen, dort sind aber nur %2 frei.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>could not write %1: %2</source>
+        <translation>%1 konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>1 file does not hold everything:</source>
+        <translation>1 Datei enthält nicht alles:</translation>
+    </message>
+    <message>
+        <source>%1 files do not hold everything:</source>
+        <translation>%1 Dateien enthalten nicht alles:</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1 of %2 images written into %3</source>
+        <translation>%1 von %2 Bildern in %3 geschrieben</translation>
+    </message>
+    <message>
+        <source>Stopped after %1</source>
+        <translation>Angehalten nach %1</translation>
+    </message>
+    <message>
+        <source>1 image failed:</source>
+        <translation>1 Bild ist misslungen:</translation>
+    </message>
+    <message>
+        <source>%1 images failed:</source>
+        <translation>%1 Bilder sind misslungen:</translation>
+    </message>
+    <message>
+        <source>1 image is damaged and was written as far as it could be read:</source>
+        <translation>1 Bild ist beschädigt und wurde so weit geschrieben, wie es lesbar war:</translation>
+    </message>
+    <message>
+        <source>%1 images are damaged and were written as far as they could be read:</source>
+        <translation>%1 Bilder sind beschädigt und wurden so weit geschrieben, wie sie lesbar waren:</translation>
+    </message>
+    <message>
+        <source>1 file was replaced by a later image of the same name:</source>
+        <translation>1 Datei wurde durch ein späteres Bild gleichen Namens ersetzt:</translation>
+    </message>
+    <message>
+        <source>%1 files were replaced by later images of the same name:</source>
+        <translation>%1 Dateien wurden durch spätere Bilder gleichen Namens ersetzt:</translation>
+    </message>
+    <message>
+        <source>%1 of %2 images</source>
+        <translation>%1 von %2 Bildern</translation>
+    </message>
+    <message>
+        <source>about %1 seconds left</source>
+        <translation>noch etwa %1 Sekunden</translation>
+    </message>
+    <message>
+        <source>about 1 minute left</source>
+        <translation>noch etwa 1 Minute</translation>
+    </message>
+    <message>
+        <source>about %1 minutes left</source>
+        <translation>noch etwa %1 Minuten</translation>
+    </message>
+    <message>
+        <source>about %1 hours left</source>
+        <translation>noch etwa %1 Stunden</translation>
+    </message>
+    <message>
+        <source>%1 is the photo itself</source>
+        <translation>%1 ist das Foto selbst</translation>
+    </message>
+    <message>
+        <source>%1 is one of the queued photos</source>
+        <translation>%1 ist eines der Fotos im Stapel</translation>
+    </message>
+    <message>
+        <source>the photo is damaged (%1) and does not replace the older %2</source>
+        <translation>das Foto ist beschädigt (%1) und ersetzt die ältere Datei %2 nicht</translation>
+    </message>
+</context>
+<context>
+    <name>Desk</name>
+    <message>
+        <source>Could not find the photo that a picture was made of</source>
+        <translation>Das Foto, aus dem ein Bild entstand, wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Some settings of a picture could not be used</source>
+        <translation>Einige Einstellungen eines Bildes sind nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>Could not open image</source>
+        <translation>Das Bild konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 gespeichert, %2</translation>
+    </message>
+</context>
+<context>
+    <name>FormAbout</name>
+    <message>
+        <source>About Varnel</source>
+        <translation>Über Varnel</translation>
+    </message>
+    <message>
+        <source>The program&apos;s picture</source>
+        <translation>Das Bild des Programms</translation>
+    </message>
+    <message>
+        <source>The version to name when you report a problem</source>
+        <translation>Die Version, die Sie bei einer Fehlermeldung nennen</translation>
+    </message>
+    <message>
+        <source>Converts fisheye photographs into other projections.</source>
+        <translation>Wandelt Fisheye-Fotos in andere Projektionen um.</translation>
+    </message>
+    <message>
+        <source>© Varnel developers
+Licence: GPL-3.0-or-later. This program comes without any warranty.</source>
+        <translation>© Varnel developers
+Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>The image library that reads and writes your photos</source>
+        <translation>Die Bildbibliothek, die Ihre Fotos liest und schreibt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back to your photos</source>
+        <translation>Zurück zu Ihren Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>FormAddImages</name>
+    <message>
+        <source>Add image(s)</source>
+        <translation>Bild(er) hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Drive</source>
+        <translation>&amp;Laufwerk</translation>
+    </message>
+    <message>
+        <source>The disk or memory card that your photos are on</source>
+        <translation>Die Platte oder Speicherkarte mit Ihren Fotos</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>&amp;Home</source>
+        <translation>&amp;Eigener Ordner</translation>
+    </message>
+    <message>
+        <source>Go to your own folder</source>
+        <translation>Zu Ihrem eigenen Ordner</translation>
+    </message>
+    <message>
+        <source>Home folder</source>
+        <translation>Eigener Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Pictures</source>
+        <translation>&amp;Bilder</translation>
+    </message>
+    <message>
+        <source>Go to your folder of pictures</source>
+        <translation>Zu Ihrem Bilderordner</translation>
+    </message>
+    <message>
+        <source>Pictures folder</source>
+        <translation>Bilderordner</translation>
+    </message>
+    <message>
+        <source>The folder whose photos are shown</source>
+        <translation>Der Ordner, dessen Fotos gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>The folder that is shown</source>
+        <translation>Der gezeigte Ordner</translation>
+    </message>
+    <message>
+        <source>How many files are selected</source>
+        <translation>Wie viele Dateien gewählt sind</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Select one or more files; double-click adds one at once</source>
+        <translation>Wählen Sie eine oder mehrere Dateien; ein Doppelklick fügt eine sofort hinzu</translation>
+    </message>
+    <message>
+        <source>Ph&amp;otos (*.jpg;*.tif;*.png;*.bmp;*.dng)</source>
+        <translation>F&amp;otos (*.jpg;*.tif;*.png;*.bmp;*.dng)</translation>
+    </message>
+    <message>
+        <source>Show the files that are photos by their names</source>
+        <translation>Nur Dateien zeigen, die dem Namen nach Fotos sind</translation>
+    </message>
+    <message>
+        <source>Show photos only</source>
+        <translation>Nur Fotos zeigen</translation>
+    </message>
+    <message>
+        <source>All &amp;files (*.*)</source>
+        <translation>&amp;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>Show every file, also photos with other endings</source>
+        <translation>Jede Datei zeigen, auch Fotos mit anderen Endungen</translation>
+    </message>
+    <message>
+        <source>Show all files</source>
+        <translation>Alle Dateien zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Add image(s)</source>
+        <translation>Bild(er) &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Put the selected files into your list of photos</source>
+        <translation>Die gewählten Dateien in Ihre Bildliste aufnehmen</translation>
+    </message>
+    <message>
+        <source>Add the selected images</source>
+        <translation>Die gewählten Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back without adding anything</source>
+        <translation>Zurück, ohne etwas hinzuzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>FormBatch</name>
+    <message>
+        <source>Process batch que</source>
+        <translation>Stapel verarbeiten</translation>
+    </message>
+    <message>
+        <source>Queued images</source>
+        <translation>Bilder im Stapel</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Zielordner</translation>
+    </message>
+    <message>
+        <source>&amp;Drive</source>
+        <translation>&amp;Laufwerk</translation>
+    </message>
+    <message>
+        <source>The disk or memory card that the images go to</source>
+        <translation>Die Platte oder Speicherkarte, auf die die Bilder kommen</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Laufwerk</translation>
+    </message>
+    <message>
+        <source>&amp;New folder</source>
+        <translation>&amp;Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Make a folder in the chosen one and give it a name</source>
+        <translation>Im gewählten Ordner einen neuen anlegen und benennen</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>The folder that the images are written to</source>
+        <translation>Der Ordner, in den die Bilder geschrieben werden</translation>
+    </message>
+    <message>
+        <source>The chosen output folder</source>
+        <translation>Der gewählte Zielordner</translation>
+    </message>
+    <message>
+        <source>Saved photos</source>
+        <translation>Gespeicherte Fotos</translation>
+    </message>
+    <message>
+        <source>File &amp;type</source>
+        <translation>Datei&amp;typ</translation>
+    </message>
+    <message>
+        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
+        <translation>TIFF und PNG behalten jede Einzelheit, JPEG macht kleine Dateien</translation>
+    </message>
+    <message>
+        <source>File type of the images</source>
+        <translation>Dateityp der Bilder</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality</source>
+        <translation>JPEG-&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
+        <translation>100 behält die meisten Einzelheiten, niedrigere Werte machen kleinere JPEG-Dateien</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 100</source>
+        <translation>JPEG-Qualität, 1 bis 100</translation>
+    </message>
+    <message>
+        <source>Name additions</source>
+        <translation>Namenszusätze</translation>
+    </message>
+    <message>
+        <source>&amp;Varnel</source>
+        <translation>&amp;Varnel</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of Varnel images; empty: the word Varnel</source>
+        <translation>Was in den Namen der Varnel-Bilder auf den Namen des Fotos folgt; leer: das Wort Varnel</translation>
+    </message>
+    <message>
+        <source>Name addition for Varnel</source>
+        <translation>Namenszusatz für Varnel</translation>
+    </message>
+    <message>
+        <source>&amp;Rectilinear</source>
+        <translation>&amp;Rectilinear</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of Rectilinear images; empty: the word Rectilinear</source>
+        <translation>Was in den Namen der Rectilinear-Bilder auf den Namen des Fotos folgt; leer: das Wort Rectilinear</translation>
+    </message>
+    <message>
+        <source>Name addition for Rectilinear</source>
+        <translation>Namenszusatz für Rectilinear</translation>
+    </message>
+    <message>
+        <source>&amp;Equidistance</source>
+        <translation>&amp;Equidistance</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of Equidistance images; empty: the word Equidistance</source>
+        <translation>Was in den Namen der Equidistance-Bilder auf den Namen des Fotos folgt; leer: das Wort Equidistance</translation>
+    </message>
+    <message>
+        <source>Name addition for Equidistance</source>
+        <translation>Namenszusatz für Equidistance</translation>
+    </message>
+    <message>
+        <source>&amp;Horizon</source>
+        <translation>&amp;Horizon</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of Horizon images; empty: the word Horizon</source>
+        <translation>Was in den Namen der Horizon-Bilder auf den Namen des Fotos folgt; leer: das Wort Horizon</translation>
+    </message>
+    <message>
+        <source>Name addition for Horizon</source>
+        <translation>Namenszusatz für Horizon</translation>
+    </message>
+    <message>
+        <source>What the first image of the queue will be called</source>
+        <translation>Wie das erste Bild des Stapels heißen wird</translation>
+    </message>
+    <message>
+        <source>Name of the first image</source>
+        <translation>Name des ersten Bildes</translation>
+    </message>
+    <message>
+        <source>&amp;Summary</source>
+        <translation>&amp;Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the summary, to keep it or to send it</source>
+        <translation>Die Zusammenfassung kopieren, zum Aufheben oder Versenden</translation>
+    </message>
+    <message>
+        <source>Copy the summary</source>
+        <translation>Zusammenfassung kopieren</translation>
+    </message>
+    <message>
+        <source>Summary of the run</source>
+        <translation>Zusammenfassung des Laufs</translation>
+    </message>
+    <message>
+        <source>Names that collide or exist already</source>
+        <translation>Namen, die mehrfach vorkommen oder schon vergeben sind</translation>
+    </message>
+    <message>
+        <source>Whether there is room enough</source>
+        <translation>Ob der Platz reicht</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>The image that is being written</source>
+        <translation>Das Bild, das gerade geschrieben wird</translation>
+    </message>
+    <message>
+        <source>How far this image is</source>
+        <translation>Wie weit dieses Bild ist</translation>
+    </message>
+    <message>
+        <source>Progress of this image</source>
+        <translation>Fortschritt dieses Bildes</translation>
+    </message>
+    <message>
+        <source>How many images are done</source>
+        <translation>Wie viele Bilder fertig sind</translation>
+    </message>
+    <message>
+        <source>How long it will take</source>
+        <translation>Wie lange es dauern wird</translation>
+    </message>
+    <message>
+        <source>How far the whole run is</source>
+        <translation>Wie weit der ganze Lauf ist</translation>
+    </message>
+    <message>
+        <source>Progress of the whole run</source>
+        <translation>Fortschritt des ganzen Laufs</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Finish the image at hand and leave out the others</source>
+        <translation>Das laufende Bild abschließen und die anderen weglassen</translation>
+    </message>
+    <message>
+        <source>Clear batch que</source>
+        <translation>Stapel leeren</translation>
+    </message>
+    <message>
+        <source>Take all images out of the queue; the photos stay</source>
+        <translation>Alle Bilder aus dem Stapel nehmen; die Fotos bleiben</translation>
+    </message>
+    <message>
+        <source>Convert every queued image and write it to the output folder</source>
+        <translation>Jedes Bild des Stapels umwandeln und in den Zielordner schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back to the main window; the queue stays as it is</source>
+        <translation>Zurück zum Hauptfenster; der Stapel bleibt, wie er ist</translation>
+    </message>
+</context>
+<context>
+    <name>FormGearEdit</name>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>The name under which you will choose this combination for your photos. Without one it is named after camera and lens.</source>
+        <translation>Der Name, unter dem Sie diese Kombination für Ihre Fotos wählen. Ohne Namen heißt sie nach Kamera und Objektiv.</translation>
+    </message>
+    <message>
+        <source>Name of the gear</source>
+        <translation>Name der Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Enter gear name here</source>
+        <translation>Name der Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>&amp;Brand</source>
+        <translation>&amp;Marke</translation>
+    </message>
+    <message>
+        <source>The maker of the camera, or its sensor size if the camera is not listed</source>
+        <translation>Der Hersteller der Kamera, oder die Sensorgröße, wenn die Kamera nicht aufgeführt ist</translation>
+    </message>
+    <message>
+        <source>Camera brand</source>
+        <translation>Kameramarke</translation>
+    </message>
+    <message>
+        <source>Choose a brand</source>
+        <translation>Marke wählen</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>M&amp;odell</translation>
+    </message>
+    <message>
+        <source>The camera that took the photos; it sets the size of the sensor</source>
+        <translation>Die Kamera, mit der die Fotos aufgenommen wurden; sie bestimmt die Sensorgröße</translation>
+    </message>
+    <message>
+        <source>Camera model</source>
+        <translation>Kameramodell</translation>
+    </message>
+    <message>
+        <source>Choose a model</source>
+        <translation>Modell wählen</translation>
+    </message>
+    <message>
+        <source>Lens</source>
+        <translation>Objektiv</translation>
+    </message>
+    <message>
+        <source>B&amp;rand</source>
+        <translation>Ma&amp;rke</translation>
+    </message>
+    <message>
+        <source>The maker of the fisheye lens</source>
+        <translation>Der Hersteller des Fisheye-Objektivs</translation>
+    </message>
+    <message>
+        <source>Lens brand</source>
+        <translation>Objektivmarke</translation>
+    </message>
+    <message>
+        <source>Mo&amp;del</source>
+        <translation>Mo&amp;dell</translation>
+    </message>
+    <message>
+        <source>The fisheye lens; a zoom is listed once for every focal length</source>
+        <translation>Das Fisheye-Objektiv; ein Zoom ist für jede Brennweite einmal aufgeführt</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Objektivmodell</translation>
+    </message>
+    <message>
+        <source>Fine adjustment</source>
+        <translation>Feineinstellung</translation>
+    </message>
+    <message>
+        <source>Horizontal angle of &amp;view</source>
+        <translation>Waagerechter &amp;Bildwinkel</translation>
+    </message>
+    <message>
+        <source>How much of the scene a landscape photo shows from its left to its right edge; the catalogue tells it unless you move it</source>
+        <translation>Wie viel der Szene ein Foto im Querformat vom linken bis zum rechten Rand zeigt; der Katalog gibt ihn vor, solange Sie ihn nicht verstellen</translation>
+    </message>
+    <message>
+        <source>Horizontal angle of view in degrees</source>
+        <translation>Waagerechter Bildwinkel in Grad</translation>
+    </message>
+    <message>
+        <source>Horizontal angle of view in degrees, exact value</source>
+        <translation>Waagerechter Bildwinkel in Grad, genauer Wert</translation>
+    </message>
+    <message>
+        <source>Sensor &amp;width / image circle</source>
+        <translation>&amp;Sensorbreite / Bildkreis</translation>
+    </message>
+    <message>
+        <source>The width of the sensor compared with the circle that the lens draws; raise it when the circle in the photo is smaller than expected</source>
+        <translation>Die Breite des Sensors im Vergleich zum Kreis, den das Objektiv zeichnet; größer stellen, wenn der Kreis im Foto kleiner ist als erwartet</translation>
+    </message>
+    <message>
+        <source>Sensor width in percent of the image circle</source>
+        <translation>Sensorbreite in Prozent des Bildkreises</translation>
+    </message>
+    <message>
+        <source>Sensor width in percent of the image circle, exact value</source>
+        <translation>Sensorbreite in Prozent des Bildkreises, genauer Wert</translation>
+    </message>
+    <message>
+        <source>Circle off centre, &amp;horizontally</source>
+        <translation>Kreis außer Mitte, &amp;waagerecht</translation>
+    </message>
+    <message>
+        <source>How far the middle of the image circle lies from the middle of the photo, in thousandths of its width</source>
+        <translation>Wie weit die Mitte des Bildkreises von der Mitte des Fotos entfernt liegt, in Tausendsteln seiner Breite</translation>
+    </message>
+    <message>
+        <source>Horizontal offset of the image circle in thousandths</source>
+        <translation>Waagerechter Versatz des Bildkreises in Tausendsteln</translation>
+    </message>
+    <message>
+        <source>Horizontal offset of the image circle in thousandths, exact value</source>
+        <translation>Waagerechter Versatz des Bildkreises in Tausendsteln, genauer Wert</translation>
+    </message>
+    <message>
+        <source>Circle off centre, ver&amp;tically</source>
+        <translation>Kreis außer Mitte, senkre&amp;cht</translation>
+    </message>
+    <message>
+        <source>How far the middle of the image circle lies from the middle of the photo, in thousandths of its height</source>
+        <translation>Wie weit die Mitte des Bildkreises von der Mitte des Fotos entfernt liegt, in Tausendsteln seiner Höhe</translation>
+    </message>
+    <message>
+        <source>Vertical offset of the image circle in thousandths</source>
+        <translation>Senkrechter Versatz des Bildkreises in Tausendsteln</translation>
+    </message>
+    <message>
+        <source>Vertical offset of the image circle in thousandths, exact value</source>
+        <translation>Senkrechter Versatz des Bildkreises in Tausendsteln, genauer Wert</translation>
+    </message>
+    <message>
+        <source>&amp;Catalogue values</source>
+        <translation>&amp;Katalogwerte</translation>
+    </message>
+    <message>
+        <source>Forget your own values and take those of the catalogue for this camera and lens</source>
+        <translation>Die eigenen Werte vergessen und die des Katalogs für diese Kamera und dieses Objektiv nehmen</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Keep this combination of camera and lens</source>
+        <translation>Diese Kombination aus Kamera und Objektiv behalten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close without a change</source>
+        <translation>Schließen, ohne etwas zu ändern</translation>
+    </message>
+</context>
+<context>
+    <name>FormGearList</name>
+    <message>
+        <source>Camera + lens combinations</source>
+        <translation>Kombinationen aus Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Your combinations of camera and lens; double-click one to redefine it</source>
+        <translation>Ihre Kombinationen aus Kamera und Objektiv; ein Doppelklick ändert eine</translation>
+    </message>
+    <message>
+        <source>Add new</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Define another combination of camera and lens</source>
+        <translation>Eine weitere Kombination aus Kamera und Objektiv festlegen</translation>
+    </message>
+    <message>
+        <source>Redefine</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Change the selected combination</source>
+        <translation>Die gewählte Kombination ändern</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Take the selected combination off the list (Del)</source>
+        <translation>Die gewählte Kombination aus der Liste nehmen (Entf)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save the list and close</source>
+        <translation>Die Liste speichern und schließen</translation>
+    </message>
+    <message>
+        <source>New photos get the combination in bold. Changes are saved with OK.</source>
+        <translation>Neue Fotos bekommen die fett gezeigte Kombination. OK speichert die Änderungen.</translation>
+    </message>
+</context>
+<context>
+    <name>FormMorph</name>
+    <message>
+        <source>Morph</source>
+        <translation>Morph</translation>
+    </message>
+    <message>
+        <source>First image</source>
+        <translation>Erstes Bild</translation>
+    </message>
+    <message>
+        <source>Last image</source>
+        <translation>Letztes Bild</translation>
+    </message>
+    <message>
+        <source>First image of the sequence</source>
+        <translation>Erstes Bild der Sequenz</translation>
+    </message>
+    <message>
+        <source>An image between the first and the last</source>
+        <translation>Ein Bild zwischen dem ersten und dem letzten</translation>
+    </message>
+    <message>
+        <source>Last image of the sequence</source>
+        <translation>Letztes Bild der Sequenz</translation>
+    </message>
+    <message>
+        <source>Runs through the sequence: the picture in the middle shows the image at this place</source>
+        <translation>Fährt durch die Sequenz: In der Mitte steht das Bild an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>Image shown between the first and the last</source>
+        <translation>Gezeigtes Bild zwischen dem ersten und dem letzten</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>&amp;Number of images</source>
+        <translation>&amp;Anzahl der Bilder</translation>
+    </message>
+    <message>
+        <source>How many images the sequence has, the first and the last included</source>
+        <translation>Wie viele Bilder die Sequenz hat, das erste und das letzte eingeschlossen</translation>
+    </message>
+    <message>
+        <source>Number of images</source>
+        <translation>Anzahl der Bilder</translation>
+    </message>
+    <message>
+        <source>What was added</source>
+        <translation>Was hinzugefügt wurde</translation>
+    </message>
+    <message>
+        <source>&amp;Add to batch que</source>
+        <translation>&amp;Zum Stapel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Puts every image of the sequence into the batch queue, where &quot;Process batch que&quot; writes them</source>
+        <translation>Legt jedes Bild der Sequenz in den Stapel, wo „Stapel verarbeiten“ sie schreibt</translation>
+    </message>
+    <message>
+        <source>Add the sequence to the batch queue</source>
+        <translation>Die Sequenz zum Stapel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back to the photos; what was added stays in the queue</source>
+        <translation>Zurück zu den Fotos; was hinzugefügt wurde, bleibt im Stapel</translation>
+    </message>
+</context>
+<context>
+    <name>FormSetup</name>
+    <message>
+        <source>Defaults</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>Default gear</source>
+        <translation>Übliche Ausrüstung</translation>
+    </message>
+    <message>
+        <source>&amp;Camera + lens combination</source>
+        <translation>&amp;Kamera + Objektiv</translation>
+    </message>
+    <message>
+        <source>The camera and lens that your photos were taken with, unless you choose another</source>
+        <translation>Kamera und Objektiv, mit denen Ihre Fotos aufgenommen wurden, solange Sie nichts anderes wählen</translation>
+    </message>
+    <message>
+        <source>Default camera and lens combination</source>
+        <translation>Übliche Kombination aus Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Preview size</source>
+        <translation>Größe der Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Width</source>
+        <translation>&amp;Breite</translation>
+    </message>
+    <message>
+        <source>How wide the previews may become; smaller previews follow the sliders faster</source>
+        <translation>Wie breit die Vorschau werden darf; eine kleinere folgt den Reglern schneller</translation>
+    </message>
+    <message>
+        <source>Preview width in pixels</source>
+        <translation>Breite der Vorschau in Pixeln</translation>
+    </message>
+    <message>
+        <source>&amp;Height</source>
+        <translation>&amp;Höhe</translation>
+    </message>
+    <message>
+        <source>How high the previews may become; smaller previews follow the sliders faster</source>
+        <translation>Wie hoch die Vorschau werden darf; eine kleinere folgt den Reglern schneller</translation>
+    </message>
+    <message>
+        <source>Preview height in pixels</source>
+        <translation>Höhe der Vorschau in Pixeln</translation>
+    </message>
+    <message>
+        <source>Opened photos</source>
+        <translation>Geöffnete Fotos</translation>
+    </message>
+    <message>
+        <source>Turn photos upright</source>
+        <translation>Fotos aufrecht drehen</translation>
+    </message>
+    <message>
+        <source>Photos that were taken with the camera on its side stand upright, as the camera noted it</source>
+        <translation>Fotos, die mit gedrehter Kamera aufgenommen wurden, stehen aufrecht, wie die Kamera es vermerkt hat</translation>
+    </message>
+    <message>
+        <source>Offer the gear that a photo tells</source>
+        <translation>Ausrüstung anbieten, die ein Foto verrät</translation>
+    </message>
+    <message>
+        <source>When a photo tells its camera and lens, the matching gear is offered; you decide</source>
+        <translation>Wenn ein Foto Kamera und Objektiv verrät, wird die passende Ausrüstung angeboten; Sie entscheiden</translation>
+    </message>
+    <message>
+        <source>Saved photos</source>
+        <translation>Gespeicherte Fotos</translation>
+    </message>
+    <message>
+        <source>File &amp;type</source>
+        <translation>Datei&amp;typ</translation>
+    </message>
+    <message>
+        <source>The file type that is proposed when you save: TIFF and PNG keep every detail, JPEG makes small files</source>
+        <translation>Der Dateityp, der beim Speichern vorgeschlagen wird: TIFF und PNG behalten jede Einzelheit, JPEG macht kleine Dateien</translation>
+    </message>
+    <message>
+        <source>File type of saved photos</source>
+        <translation>Dateityp gespeicherter Fotos</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality</source>
+        <translation>JPEG-&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
+        <translation>100 behält die meisten Einzelheiten, niedrigere Werte machen kleinere JPEG-Dateien</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 100</source>
+        <translation>JPEG-Qualität, 1 bis 100</translation>
+    </message>
+    <message>
+        <source>Full colour resolution (4:4:4)</source>
+        <translation>Volle Farbauflösung (4:4:4)</translation>
+    </message>
+    <message>
+        <source>Fine coloured detail stays sharp in JPEG files, which become larger</source>
+        <translation>Feine farbige Einzelheiten bleiben in JPEG-Dateien scharf, die dabei größer werden</translation>
+    </message>
+    <message>
+        <source>Keep the photo&apos;s metadata</source>
+        <translation>Metadaten des Fotos behalten</translation>
+    </message>
+    <message>
+        <source>Camera, lens, date, place, captions and keywords (EXIF, IPTC, XMP) go into the saved file; the colour profile always does</source>
+        <translation>Kamera, Objektiv, Datum, Ort, Bildtexte und Stichwörter (EXIF, IPTC, XMP) kommen in die gespeicherte Datei; das Farbprofil immer</translation>
+    </message>
+    <message>
+        <source>Write the settings into the picture</source>
+        <translation>Einstellungen ins Bild schreiben</translation>
+    </message>
+    <message>
+        <source>Projection, gear and adjustments are written into the saved file, so that they can be had back from it; the photo&apos;s name is among them and, while its metadata are kept, where it lies beside the file</source>
+        <translation>Projektion, Ausrüstung und Anpassungen werden in die gespeicherte Datei geschrieben, sodass sie sich daraus zurückholen lassen; der Name des Fotos gehört dazu und, solange seine Metadaten behalten werden, auch, wo es von der Datei aus liegt</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>Sp&amp;rache</translation>
+    </message>
+    <message>
+        <source>The language of menus, buttons and messages; names and file names stay as they are</source>
+        <translation>Die Sprache der Menüs, Schaltflächen und Meldungen; Namen und Dateinamen bleiben, wie sie sind</translation>
+    </message>
+    <message>
+        <source>Language of the window</source>
+        <translation>Sprache des Fensters</translation>
+    </message>
+    <message>
+        <source>Saved as default, it changes at the next start.</source>
+        <translation>Als Vorgabe gespeichert, wechselt sie beim nächsten Start.</translation>
+    </message>
+    <message>
+        <source>&amp;Save as default</source>
+        <translation>Als Vorgabe &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Use these values now and at every start of Varnel</source>
+        <translation>Diese Werte jetzt und bei jedem Start von Varnel verwenden</translation>
+    </message>
+    <message>
+        <source>Save as default</source>
+        <translation>Als Vorgabe speichern</translation>
+    </message>
+    <message>
+        <source>Whether the defaults were saved</source>
+        <translation>Ob die Vorgaben gespeichert wurden</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Use these values until Varnel is closed</source>
+        <translation>Diese Werte verwenden, bis Varnel geschlossen wird</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Leave everything as it was</source>
+        <translation>Alles lassen, wie es war</translation>
+    </message>
+</context>
+<context>
+    <name>FormStretch</name>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>&amp;Open image ...</source>
+        <translation>Bild &amp;öffnen ...</translation>
+    </message>
+    <message>
+        <source>Chooses the photo to stretch; it can also be dropped on this window</source>
+        <translation>Wählt das Foto, das gestreckt wird; es lässt sich auch auf dieses Fenster ziehen</translation>
+    </message>
+    <message>
+        <source>Open an image</source>
+        <translation>Ein Bild öffnen</translation>
+    </message>
+    <message>
+        <source>File name of the photo</source>
+        <translation>Dateiname des Fotos</translation>
+    </message>
+    <message>
+        <source>S&amp;trength</source>
+        <translation>S&amp;tärke</translation>
+    </message>
+    <message>
+        <source>How much the rows are widened or narrowed away from the middle row. Double-click the name to reset it</source>
+        <translation>Wie stark die Zeilen abseits der Mittelzeile verbreitert oder verschmälert werden. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>Strength of the stretch, percent</source>
+        <translation>Stärke der Streckung, Prozent</translation>
+    </message>
+    <message>
+        <source>&amp;Middle row</source>
+        <translation>&amp;Mittelzeile</translation>
+    </message>
+    <message>
+        <source>The row that keeps its width: up is toward the top of the picture. Double-click the name to reset it</source>
+        <translation>Die Zeile, die ihre Breite behält: oben ist zum oberen Bildrand hin. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>Row that keeps its width, percent up from the middle</source>
+        <translation>Zeile, die ihre Breite behält, Prozent oberhalb der Mitte</translation>
+    </message>
+    <message>
+        <source>State of the photo</source>
+        <translation>Zustand des Fotos</translation>
+    </message>
+    <message>
+        <source>Progress of the save</source>
+        <translation>Fortschritt des Speicherns</translation>
+    </message>
+    <message>
+        <source>&amp;Save image as ...</source>
+        <translation>Bild &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Stretches the photo at full size and writes it to a new file</source>
+        <translation>Streckt das Foto in voller Größe und schreibt es in eine neue Datei</translation>
+    </message>
+    <message>
+        <source>Save the stretched image</source>
+        <translation>Das gestreckte Bild speichern</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Back to the photos</source>
+        <translation>Zurück zu den Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>FrameStudy</name>
+    <message>
+        <source>keeps %1 % of the circle</source>
+        <translation>behält %1 % des Bildkreises</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
+        <translation>Auflösung in der Mitte %1   |   Stärkste Dehnung in der Ecke %2   |   Behaltene Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
+    </message>
+</context>
+<context>
+    <name>GearOffer</name>
+    <message>
+        <source> (cropped?)</source>
+        <translation> (beschnitten?)</translation>
+    </message>
+    <message>
+        <source>Taken with %1</source>
+        <translation>Aufgenommen mit %1</translation>
+    </message>
+    <message>
+        <source>its shape, %1 : 1, is not the sensor&apos;s, %2 : 1; if it was cropped, the gear&apos;s numbers do not fit</source>
+        <translation>sein Seitenverhältnis, %1 : 1, ist nicht das des Sensors, %2 : 1; wenn es beschnitten wurde, passen die Werte der Ausrüstung nicht</translation>
+    </message>
+</context>
+<context>
+    <name>GearStore</name>
+    <message>
+        <source>Please define at least one camera + lens combination ...</source>
+        <translation>Bitte legen Sie mindestens eine Kombination aus Kamera und Objektiv fest ...</translation>
+    </message>
+</context>
+<context>
+    <name>LevelTools</name>
+    <message>
+        <source>Draw along the horizon on the photo as shot, or click points and then the last one again. Escape leaves.</source>
+        <translation>Ziehen Sie auf dem Originalfoto am Horizont entlang, oder klicken Sie Punkte an und den letzten noch einmal. Esc beendet.</translation>
+    </message>
+    <message>
+        <source>it takes %1, %2° more than the slider has</source>
+        <translation>nötig sind %1, %2° mehr, als der Regler hat</translation>
+    </message>
+    <message>
+        <source>Not levelled: %1.</source>
+        <translation>Nicht ausgerichtet: %1.</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>Not levelled: the gear&apos;s numbers make no lens.</source>
+        <translation>Nicht ausgerichtet: Die Werte der Ausrüstung ergeben kein Objektiv.</translation>
+    </message>
+    <message>
+        <source>Not levelled: the line is too short.</source>
+        <translation>Nicht ausgerichtet: Die Linie ist zu kurz.</translation>
+    </message>
+    <message>
+        <source>Not levelled: through this lens no horizon is bent like this line.</source>
+        <translation>Nicht ausgerichtet: Durch dieses Objektiv ist kein Horizont so gebogen wie diese Linie.</translation>
+    </message>
+    <message>
+        <source>Levelled: %1, %2.</source>
+        <translation>Ausgerichtet: %1, %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Likeness</name>
+    <message>
+        <source>its name is not known</source>
+        <translation>sein Name ist nicht bekannt</translation>
+    </message>
+</context>
+<context>
+    <name>MagnificationOverlay</name>
+    <message>
+        <source>shrunk</source>
+        <translation>verkleinert</translation>
+    </message>
+    <message>
+        <source>about 1 : 1</source>
+        <translation>etwa 1 : 1</translation>
+    </message>
+    <message>
+        <source>stretched</source>
+        <translation>gedehnt</translation>
+    </message>
+</context>
+<context>
+    <name>Morph</name>
+    <message>
+        <source>&quot;%1&quot; is not a whole number.</source>
+        <translation>„%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 is out of range: a sequence has at most %2 frames.</source>
+        <translation>%1 liegt außerhalb des Bereichs: Eine Sequenz hat höchstens %2 Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoGear</name>
+    <message>
+        <source>the photo does not tell what took it</source>
+        <translation>das Foto verrät nicht, womit es aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>the camera %1 is not in the catalogue</source>
+        <translation>die Kamera %1 steht nicht im Katalog</translation>
+    </message>
+    <message>
+        <source>the lens %1 is not in the catalogue</source>
+        <translation>das Objektiv %1 steht nicht im Katalog</translation>
+    </message>
+    <message>
+        <source>the photo does not tell well enough which lens took it</source>
+        <translation>das Foto verrät nicht genau genug, mit welchem Objektiv es aufgenommen wurde</translation>
+    </message>
+    <message>
+        <source>the photo does not tell which gear of its camera took it</source>
+        <translation>das Foto verrät nicht, welche Ausrüstung mit dieser Kamera es aufgenommen hat</translation>
+    </message>
+    <message>
+        <source>no gear has this camera and this lens</source>
+        <translation>keine Ausrüstung hat diese Kamera und dieses Objektiv</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoLoader</name>
+    <message>
+        <source>another photo is being read</source>
+        <translation>es wird gerade ein anderes Foto gelesen</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoMarks</name>
+    <message>
+        <source>adjusted</source>
+        <translation>angepasst</translation>
+    </message>
+    <message>
+        <source>in the batch queue</source>
+        <translation>im Stapel</translation>
+    </message>
+</context>
+<context>
+    <name>PictureSettings</name>
+    <message>
+        <source>the setting %1 cannot be &quot;%2&quot;</source>
+        <translation>die Einstellung %1 kann nicht „%2“ sein</translation>
+    </message>
+    <message>
+        <source>the setting %1 is out of range: %2</source>
+        <translation>die Einstellung %1 liegt außerhalb ihres Bereichs: %2</translation>
+    </message>
+    <message>
+        <source>the setting &quot;%1&quot; cannot be kept</source>
+        <translation>die Einstellung „%1“ kann nicht behalten werden</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectFile</name>
+    <message>
+        <source>it is damaged: line %1 cannot be read</source>
+        <translation>es ist beschädigt: Zeile %1 ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it is not a Varnel project</source>
+        <translation>es ist kein Varnel-Projekt</translation>
+    </message>
+    <message>
+        <source>a newer version of Varnel wrote it</source>
+        <translation>eine neuere Version von Varnel hat es geschrieben</translation>
+    </message>
+    <message>
+        <source>it is damaged: it should hold %1 photos and holds %2</source>
+        <translation>es ist beschädigt: Es sollte %1 Fotos enthalten und enthält %2</translation>
+    </message>
+    <message>
+        <source>it is damaged: its end is missing</source>
+        <translation>es ist beschädigt: Das Ende fehlt</translation>
+    </message>
+    <message>
+        <source>the setting %1 cannot be used</source>
+        <translation>die Einstellung %1 ist nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>it is not a text file</source>
+        <translation>es ist keine Textdatei</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es ist zu groß</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Save image as ...</source>
+        <translation>Bild speichern unter ...</translation>
+    </message>
+    <message>
+        <source>%1 already exists. Replace it?</source>
+        <translation>%1 gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Open image</source>
+        <translation>Bild öffnen</translation>
+    </message>
+    <message>
+        <source>Photos (%1)</source>
+        <translation>Fotos (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Varnel projects (%1)</source>
+        <translation>Varnel-Projekte (%1)</translation>
+    </message>
+    <message>
+        <source>Save the present image list as a project first?</source>
+        <translation>Soll die jetzige Bildliste zuerst als Projekt gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>The project %1 was changed. Save it first?</source>
+        <translation>Das Projekt %1 wurde geändert. Soll es zuerst gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Save project as</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingBox</name>
+    <message>
+        <source>Reading photos ...</source>
+        <translation>Fotos werden gelesen ...</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>Overflow: %1 does not fit 32 bits</source>
+        <translation>Überlauf: %1 passt nicht in 32 Bit</translation>
+    </message>
+    <message>
+        <source>Overflow: %1 does not fit 16 bits</source>
+        <translation>Überlauf: %1 passt nicht in 16 Bit</translation>
+    </message>
+    <message>
+        <source>Overflow: %1 does not fit a single-precision number</source>
+        <translation>Überlauf: %1 passt nicht in eine Zahl einfacher Genauigkeit</translation>
+    </message>
+    <message>
+        <source>Division by zero: %1 is 0</source>
+        <translation>Division durch null: %1 ist 0</translation>
+    </message>
+    <message>
+        <source>Division by zero: %1 is no number</source>
+        <translation>Division durch null: %1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>Division by zero: %1</source>
+        <translation>Division durch null: %1</translation>
+    </message>
+    <message>
+        <source>a sequence of one frame has no steps</source>
+        <translation>eine Sequenz aus einem Bild hat keine Schritte</translation>
+    </message>
+    <message>
+        <source>half the picture&apos;s width</source>
+        <translation>die halbe Bildbreite</translation>
+    </message>
+    <message>
+        <source>the tangent of half the angle of view</source>
+        <translation>der Tangens des halben Bildwinkels</translation>
+    </message>
+    <message>
+        <source>the sine of LensMapFactor x OutputAOV x effect / 2</source>
+        <translation>der Sinus von LensMapFactor x OutputAOV x Wirkung / 2</translation>
+    </message>
+    <message>
+        <source>the reference radius (from ImageCircleRadius and Ratio)</source>
+        <translation>der Bezugsradius (aus ImageCircleRadius und Ratio)</translation>
+    </message>
+    <message>
+        <source>the row divisor (the picture is more than three times as wide as high)</source>
+        <translation>der Zeilenteiler (das Bild ist mehr als dreimal so breit wie hoch)</translation>
+    </message>
+    <message>
+        <source>the row divisor</source>
+        <translation>der Zeilenteiler</translation>
+    </message>
+    <message>
+        <source>the picture&apos;s side</source>
+        <translation>die Bildseite</translation>
+    </message>
+    <message>
+        <source>the progress value</source>
+        <translation>der Fortschrittswert</translation>
+    </message>
+    <message>
+        <source>the scale</source>
+        <translation>der Maßstab</translation>
+    </message>
+    <message>
+        <source>the effect</source>
+        <translation>die Wirkung</translation>
+    </message>
+    <message>
+        <source>a rotation angle</source>
+        <translation>ein Drehwinkel</translation>
+    </message>
+    <message>
+        <source>a translation</source>
+        <translation>eine Verschiebung</translation>
+    </message>
+    <message>
+        <source>a side</source>
+        <translation>eine Seite</translation>
+    </message>
+    <message>
+        <source>a preview side</source>
+        <translation>eine Seite der Vorschau</translation>
+    </message>
+    <message>
+        <source>an image</source>
+        <translation>ein Bild</translation>
+    </message>
+    <message>
+        <source>an output column</source>
+        <translation>eine Ausgabespalte</translation>
+    </message>
+    <message>
+        <source>an output row</source>
+        <translation>eine Ausgabezeile</translation>
+    </message>
+    <message>
+        <source>an output position</source>
+        <translation>eine Ausgabeposition</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>there is no picture</source>
+        <translation>es ist kein Bild da</translation>
+    </message>
+    <message>
+        <source>the picture could not be encoded</source>
+        <translation>das Bild konnte nicht kodiert werden</translation>
+    </message>
+    <message>
+        <source>the metadata have no place in the file</source>
+        <translation>für die Metadaten ist in der Datei kein Platz</translation>
+    </message>
+    <message>
+        <source>the file would be larger than %1 bytes</source>
+        <translation>die Datei würde größer als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>written without its EXIF: too long for a JPEG file</source>
+        <translation>ohne EXIF geschrieben: zu lang für eine JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>written without part of its EXIF: too long for a JPEG file</source>
+        <translation>ohne einen Teil der EXIF-Daten geschrieben: zu lang für eine JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>written without its XMP: too long for a JPEG file</source>
+        <translation>ohne XMP geschrieben: zu lang für eine JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>written without its IPTC: too long for a JPEG file</source>
+        <translation>ohne IPTC geschrieben: zu lang für eine JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>written without its settings: too long for a JPEG file</source>
+        <translation>ohne die Einstellungen geschrieben: zu lang für eine JPEG-Datei</translation>
+    </message>
+    <message>
+        <source>written without its settings: the photo&apos;s XMP has no place for them</source>
+        <translation>ohne die Einstellungen geschrieben: im XMP des Fotos ist kein Platz für sie</translation>
+    </message>
+    <message>
+        <source>written without its %1: not in a TIFF file of this kind</source>
+        <translation>ohne %1 geschrieben: nicht in einer TIFF-Datei dieser Art</translation>
+    </message>
+    <message>
+        <source>written without its metadata: it cannot be read</source>
+        <translation>ohne Metadaten geschrieben: nicht lesbar</translation>
+    </message>
+    <message>
+        <source>written without its %1: it cannot be read</source>
+        <translation>ohne %1 geschrieben: nicht lesbar</translation>
+    </message>
+    <message>
+        <source>written without its colour profile: %1</source>
+        <translation>ohne Farbprofil geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>written without its metadata: %1</source>
+        <translation>ohne Metadaten geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>BMP files hold no metadata</source>
+        <translation>BMP-Dateien enthalten keine Metadaten</translation>
+    </message>
+    <message>
+        <source>BMP files hold no settings</source>
+        <translation>BMP-Dateien enthalten keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>BMP files hold no colour profile</source>
+        <translation>BMP-Dateien enthalten kein Farbprofil</translation>
+    </message>
+    <message>
+        <source>BMP files hold no metadata or settings</source>
+        <translation>BMP-Dateien enthalten weder Metadaten noch Einstellungen</translation>
+    </message>
+    <message>
+        <source>BMP files hold no metadata or colour profile</source>
+        <translation>BMP-Dateien enthalten weder Metadaten noch Farbprofil</translation>
+    </message>
+    <message>
+        <source>BMP files hold no settings or colour profile</source>
+        <translation>BMP-Dateien enthalten weder Einstellungen noch Farbprofil</translation>
+    </message>
+    <message>
+        <source>BMP files hold no metadata, settings or colour profile</source>
+        <translation>BMP-Dateien enthalten weder Metadaten noch Einstellungen noch Farbprofil</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the link leads nowhere</source>
+        <translation>die Verknüpfung führt ins Leere</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a picture</source>
+        <translation>das ist ein Ordner, kein Bild</translation>
+    </message>
+    <message>
+        <source>this is no regular file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>no permission to read it</source>
+        <translation>keine Berechtigung, sie zu lesen</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>sie lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>this is not a picture of a known type</source>
+        <translation>das ist kein Bild eines bekannten Typs</translation>
+    </message>
+    <message>
+        <source>the picture has no pixels</source>
+        <translation>das Bild hat keine Pixel</translation>
+    </message>
+    <message>
+        <source>the picture cannot be decoded</source>
+        <translation>das Bild lässt sich nicht dekodieren</translation>
+    </message>
+    <message>
+        <source>its pixels cannot be converted to 24-bit colour</source>
+        <translation>die Pixel lassen sich nicht in 24-Bit-Farben umwandeln</translation>
+    </message>
+    <message>
+        <source>too large: %1 x %2 pixels, a side may have %3</source>
+        <translation>zu groß: %1 x %2 Pixel, eine Seite darf %3 haben</translation>
+    </message>
+    <message>
+        <source>too large: %1 x %2 pixels need more than three quarters of this machine&apos;s memory</source>
+        <translation>zu groß: %1 x %2 Pixel brauchen mehr als drei Viertel des Speichers dieses Rechners</translation>
+    </message>
+    <message>
+        <source>too large for a quick look</source>
+        <translation>zu groß für einen schnellen Blick</translation>
+    </message>
+    <message>
+        <source>took too long (more than %1 seconds)</source>
+        <translation>dauerte zu lange (mehr als %1 Sekunden)</translation>
+    </message>
+    <message>
+        <source>there is no memory for it to be had (%1)</source>
+        <translation>dafür ist kein Speicher zu bekommen (%1)</translation>
+    </message>
+    <message>
+        <source>the decoder could not be started (%1)</source>
+        <translation>der Dekoder ließ sich nicht starten (%1)</translation>
+    </message>
+    <message>
+        <source>it ends at once</source>
+        <translation>er endet sofort</translation>
+    </message>
+    <message>
+        <source>the system ended the decoder, perhaps for want of memory (signal %1)</source>
+        <translation>das System hat den Dekoder beendet, vielleicht aus Speichermangel (Signal %1)</translation>
+    </message>
+    <message>
+        <source>damaged: the decoder died of it (signal %1)</source>
+        <translation>beschädigt: Der Dekoder ist daran abgestürzt (Signal %1)</translation>
+    </message>
+    <message>
+        <source>damaged: the decoder gave up on it</source>
+        <translation>beschädigt: Der Dekoder hat es aufgegeben</translation>
+    </message>
+    <message>
+        <source>damaged: the decoder&apos;s answer makes no sense</source>
+        <translation>beschädigt: Die Antwort des Dekoders ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>damaged: the raw photo cannot be read</source>
+        <translation>beschädigt: Das Rohbild ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>damaged: the file is cut short</source>
+        <translation>beschädigt: Die Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>damaged: %1</source>
+        <translation>beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>Not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>%1 (while creating a temporary file)</source>
+        <translation>%1 (beim Anlegen einer vorläufigen Datei)</translation>
+    </message>
+    <message>
+        <source>%1 (while setting its permissions)</source>
+        <translation>%1 (beim Setzen der Zugriffsrechte)</translation>
+    </message>
+    <message>
+        <source>%1 (while syncing the folder)</source>
+        <translation>%1 (beim Sichern des Ordners auf die Platte)</translation>
+    </message>
+    <message>
+        <source>%1 (while syncing)</source>
+        <translation>%1 (beim Sichern auf die Platte)</translation>
+    </message>
+    <message>
+        <source>%1 (while writing)</source>
+        <translation>%1 (beim Schreiben)</translation>
+    </message>
+    <message>
+        <source>%1 (while closing)</source>
+        <translation>%1 (beim Schließen)</translation>
+    </message>
+    <message>
+        <source>%1 (while renaming)</source>
+        <translation>%1 (beim Umbenennen)</translation>
+    </message>
+    <message>
+        <source>%1: the settings cannot be written (%2); changes last only until the program ends</source>
+        <translation>%1: Die Einstellungen lassen sich nicht schreiben (%2); Änderungen gelten nur, bis das Programm endet</translation>
+    </message>
+    <message>
+        <source>%1: the settings cannot be read (%2); %3</source>
+        <translation>%1: Die Einstellungen sind nicht lesbar (%2); %3</translation>
+    </message>
+    <message>
+        <source>%1: the settings were damaged (%2); %3, the damaged file could not be set aside</source>
+        <translation>%1: Die Einstellungen waren beschädigt (%2); %3, die beschädigte Datei ließ sich nicht beiseitelegen</translation>
+    </message>
+    <message>
+        <source>%1: the settings were damaged (%2); %3, the damaged file is kept as %4</source>
+        <translation>%1: Die Einstellungen waren beschädigt (%2); %3, die beschädigte Datei bleibt als %4 erhalten</translation>
+    </message>
+    <message>
+        <source>their last good copy is used</source>
+        <translation>verwendet wird ihre letzte gute Kopie</translation>
+    </message>
+    <message>
+        <source>without a copy they begin afresh</source>
+        <translation>ohne Kopie beginnen sie von vorn</translation>
+    </message>
+    <message>
+        <source>without a copy what could be read is used</source>
+        <translation>ohne Kopie wird verwendet, was lesbar war</translation>
+    </message>
+    <message>
+        <source>all its names are taken</source>
+        <translation>alle ihre Namen sind vergeben</translation>
+    </message>
+    <message>
+        <source>the damaged file could not be set aside: %1</source>
+        <translation>die beschädigte Datei ließ sich nicht beiseitelegen: %1</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner lässt sich nicht anlegen</translation>
+    </message>
+    <message>
+        <source>another program keeps them locked</source>
+        <translation>ein anderes Programm hält sie gesperrt</translation>
+    </message>
+    <message>
+        <source>the gears&apos; section has lost its title</source>
+        <translation>der Abschnitt der Ausrüstungen hat seinen Titel verloren</translation>
+    </message>
+    <message>
+        <source>the number of gears is missing</source>
+        <translation>die Anzahl der Ausrüstungen fehlt</translation>
+    </message>
+    <message>
+        <source>gear %1 of %2 is missing</source>
+        <translation>Ausrüstung %1 von %2 fehlt</translation>
+    </message>
+    <message>
+        <source>the default gear is missing</source>
+        <translation>die übliche Ausrüstung fehlt</translation>
+    </message>
+    <message>
+        <source>not UTF-8 text</source>
+        <translation>kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>abgeschnitten</translation>
+    </message>
+    <message>
+        <source>line %1 is no setting</source>
+        <translation>Zeile %1 ist keine Einstellung</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+</context>
+<context>
+    <name>RevisionAge</name>
+    <message>
+        <source>This version of Varnel is now more than %1 months old.</source>
+        <translation>Diese Version von Varnel ist jetzt mehr als %1 Monate alt.</translation>
+    </message>
+    <message>
+        <source>An updated revision is likely available.</source>
+        <translation>Wahrscheinlich gibt es eine neuere Fassung.</translation>
+    </message>
+    <message>
+        <source>It is recommended that you upgrade the executable file.</source>
+        <translation>Es empfiehlt sich, das Programm zu aktualisieren.</translation>
+    </message>
+    <message>
+        <source>Upgraded executables may be downloaded from</source>
+        <translation>Neuere Fassungen gibt es unter</translation>
+    </message>
+</context>
+<context>
+    <name>Save</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>This is the photo itself; choose another name.</source>
+        <translation>Das ist das Foto selbst; bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>Sliders</name>
+    <message>
+        <source>Input hAOV</source>
+        <translation>Bildwinkel Objektiv</translation>
+    </message>
+    <message>
+        <source>The angle that this photo shows from its left to its right edge</source>
+        <translation>Der Winkel, den dieses Foto vom linken bis zum rechten Rand zeigt</translation>
+    </message>
+    <message>
+        <source>° hAOV</source>
+        <translation>° waagerecht</translation>
+    </message>
+    <message>
+        <source>Output AOV</source>
+        <translation>Bildwinkel Ausgabe</translation>
+    </message>
+    <message>
+        <source>hAOV</source>
+        <translation>waagerecht</translation>
+    </message>
+    <message>
+        <source>How wide the converted picture looks: small is a telephoto view, large a wide one</source>
+        <translation>Wie weit das umgewandelte Bild wirkt: klein wie ein Tele, groß wie ein Weitwinkel</translation>
+    </message>
+    <message>
+        <source>Partial effect</source>
+        <translation>Teilwirkung</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>How much of the conversion is applied: 0 % stays close to the fisheye</source>
+        <translation>Wie stark umgewandelt wird: 0 % bleibt nah am Fisheye</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Up/Down</source>
+        <translation>Oben/Unten</translation>
+    </message>
+    <message>
+        <source>0° Up/Down</source>
+        <translation>0° oben/unten</translation>
+    </message>
+    <message>
+        <source>Tilts the camera. Double-click the name to reset it</source>
+        <translation>Neigt die Kamera. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>° Down</source>
+        <translation>° unten</translation>
+    </message>
+    <message>
+        <source>° Up</source>
+        <translation>° oben</translation>
+    </message>
+    <message>
+        <source>0°</source>
+        <translation>0°</translation>
+    </message>
+    <message>
+        <source>Left/Right</source>
+        <translation>Links/Rechts</translation>
+    </message>
+    <message>
+        <source>0° Left/Right</source>
+        <translation>0° links/rechts</translation>
+    </message>
+    <message>
+        <source>Pans the camera. Double-click the name to reset it</source>
+        <translation>Schwenkt die Kamera. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>° Right</source>
+        <translation>° rechts</translation>
+    </message>
+    <message>
+        <source>° Left</source>
+        <translation>° links</translation>
+    </message>
+    <message>
+        <source>Z-axis</source>
+        <translation>Z-Achse</translation>
+    </message>
+    <message>
+        <source>0° Z</source>
+        <translation>0° Z</translation>
+    </message>
+    <message>
+        <source>Levels the picture by rolling the camera. Double-click the name to reset it</source>
+        <translation>Richtet das Bild aus, indem die Kamera gerollt wird. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>° c.clockwise</source>
+        <translation>° linksherum</translation>
+    </message>
+    <message>
+        <source>° clockwise</source>
+        <translation>° rechtsherum</translation>
+    </message>
+    <message>
+        <source>0% Left/Right</source>
+        <translation>0% links/rechts</translation>
+    </message>
+    <message>
+        <source>Shifts the picture sideways. Double-click the name to reset it</source>
+        <translation>Verschiebt das Bild zur Seite. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>% Right</source>
+        <translation>% rechts</translation>
+    </message>
+    <message>
+        <source>% Left</source>
+        <translation>% links</translation>
+    </message>
+    <message>
+        <source>0%</source>
+        <translation>0%</translation>
+    </message>
+    <message>
+        <source>0% Up/Down</source>
+        <translation>0% oben/unten</translation>
+    </message>
+    <message>
+        <source>Shifts the picture up or down. Double-click the name to reset it</source>
+        <translation>Verschiebt das Bild nach oben oder unten. Ein Doppelklick auf den Namen setzt zurück</translation>
+    </message>
+    <message>
+        <source>% Up</source>
+        <translation>% oben</translation>
+    </message>
+    <message>
+        <source>% Down</source>
+        <translation>% unten</translation>
+    </message>
+</context>
+<context>
+    <name>Steps</name>
+    <message>
+        <source>projection</source>
+        <translation>Projektion</translation>
+    </message>
+    <message>
+        <source>choice of gear</source>
+        <translation>Wahl der Ausrüstung</translation>
+    </message>
+    <message>
+        <source>apply gear to all</source>
+        <translation>Ausrüstung für alle</translation>
+    </message>
+    <message>
+        <source>apply settings to all</source>
+        <translation>Einstellungen für alle</translation>
+    </message>
+    <message>
+        <source>adjustments</source>
+        <translation>Anpassungen</translation>
+    </message>
+    <message>
+        <source>add images</source>
+        <translation>Bilder hinzufügen</translation>
+    </message>
+    <message>
+        <source>remove images</source>
+        <translation>Bilder entfernen</translation>
+    </message>
+    <message>
+        <source>reorder images</source>
+        <translation>Bilder umordnen</translation>
+    </message>
+    <message>
+        <source>add images with settings</source>
+        <translation>Bilder mit Einstellungen hinzufügen</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>image circle</source>
+        <translation>Bildkreis</translation>
+    </message>
+    <message>
+        <source>contact sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>open project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>output AOV</source>
+        <translation>Bildwinkel der Ausgabe</translation>
+    </message>
+    <message>
+        <source>partial effect</source>
+        <translation>Teilwirkung</translation>
+    </message>
+    <message>
+        <source>rotate up/down</source>
+        <translation>Drehen oben/unten</translation>
+    </message>
+    <message>
+        <source>rotate left/right</source>
+        <translation>Drehen links/rechts</translation>
+    </message>
+    <message>
+        <source>rotate Z-axis</source>
+        <translation>Drehen Z-Achse</translation>
+    </message>
+    <message>
+        <source>transpose left/right</source>
+        <translation>Verschieben links/rechts</translation>
+    </message>
+    <message>
+        <source>transpose up/down</source>
+        <translation>Verschieben oben/unten</translation>
+    </message>
+    <message>
+        <source>input hAOV</source>
+        <translation>Bildwinkel des Objektivs</translation>
+    </message>
+</context>
+<context>
+    <name>Volume</name>
+    <message>
+        <source>fixed</source>
+        <translation>fest</translation>
+    </message>
+    <message>
+        <source>removable</source>
+        <translation>wechselbar</translation>
+    </message>
+    <message>
+        <source>network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>optical</source>
+        <translation>optisch</translation>
+    </message>
+    <message>
+        <source>Drive %1 is not availabe</source>
+        <translation>Das Laufwerk %1 ist nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::AdjustmentPanel</name>
+    <message>
+        <source>Refine equipment parameters</source>
+        <translation>Ausrüstung feiner einstellen</translation>
+    </message>
+    <message>
+        <source>Remap</source>
+        <translation>Umwandeln</translation>
+    </message>
+    <message>
+        <source>Rotate camera</source>
+        <translation>Kamera drehen</translation>
+    </message>
+    <message>
+        <source>Transpose image</source>
+        <translation>Bild verschieben</translation>
+    </message>
+    <message>
+        <source>Fills the frame with the whole fisheye circle</source>
+        <translation>Füllt das Bild mit dem ganzen Bildkreis des Fisheyes</translation>
+    </message>
+    <message>
+        <source>Straight lines of the scene come out straight</source>
+        <translation>Gerade Linien der Szene bleiben gerade</translation>
+    </message>
+    <message>
+        <source>A fisheye in which equal angles take equal room</source>
+        <translation>Ein Fisheye, in dem gleiche Winkel gleich viel Platz haben</translation>
+    </message>
+    <message>
+        <source>Unrolls a circle shot straight up or down into a panorama</source>
+        <translation>Rollt einen senkrecht nach oben oder unten aufgenommenen Kreis zum Panorama ab</translation>
+    </message>
+    <message>
+        <source>Apply to all</source>
+        <translation>Für alle</translation>
+    </message>
+    <message>
+        <source>Gives every photo in the list these settings and this gear</source>
+        <translation>Gibt jedem Foto der Liste diese Einstellungen und diese Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Auto preview</source>
+        <translation>Auto-Vorschau</translation>
+    </message>
+    <message>
+        <source>Redraws the preview after every change</source>
+        <translation>Zeichnet die Vorschau nach jeder Änderung neu</translation>
+    </message>
+    <message>
+        <source>Antialiased</source>
+        <translation>Geglättet</translation>
+    </message>
+    <message>
+        <source>Smooths the preview; saved pictures are always smooth</source>
+        <translation>Glättet die Vorschau; gespeicherte Bilder sind immer glatt</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Draws the preview now</source>
+        <translation>Zeichnet die Vorschau jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CircleBar</name>
+    <message>
+        <source>Find circle</source>
+        <translation>Kreis suchen</translation>
+    </message>
+    <message>
+        <source>Looks for the rim of the image circle on this photo</source>
+        <translation>Sucht den Rand des Bildkreises auf diesem Foto</translation>
+    </message>
+    <message>
+        <source>Gear&apos;s circle</source>
+        <translation>Kreis der Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Shows the circle that the gear has at present</source>
+        <translation>Zeigt den Kreis, den die Ausrüstung zurzeit hat</translation>
+    </message>
+    <message>
+        <source>Take into the gear...</source>
+        <translation>In die Ausrüstung übernehmen...</translation>
+    </message>
+    <message>
+        <source>Makes this circle the one of the gear</source>
+        <translation>Macht diesen Kreis zu dem der Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Change the gear</source>
+        <translation>Ausrüstung ändern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CircleTools</name>
+    <message>
+        <source>&amp;Image circle</source>
+        <translation>B&amp;ildkreis</translation>
+    </message>
+    <message>
+        <source>Image circle found.</source>
+        <translation>Bildkreis gefunden.</translation>
+    </message>
+    <message>
+        <source>No rim of an image circle was found on this photo.</source>
+        <translation>Auf diesem Foto wurde kein Rand eines Bildkreises gefunden.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>Change the gear &quot;%1&quot; to %2? Photos that are adjusted already keep their circle, but for the current one.</source>
+        <translation>Die Ausrüstung „%1“ auf %2 ändern? Fotos, die schon angepasst sind, behalten ihren Kreis, bis auf das aktuelle.</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; has the circle now; undo takes it back from the photos.</source>
+        <translation>Die Ausrüstung „%1“ hat den Kreis jetzt; Rückgängig nimmt ihn von den Fotos zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ContactSheetBox</name>
+    <message>
+        <source>Contact sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>The photo in every projection and three strengths</source>
+        <translation>Das Foto in jeder Projektion und drei Stärken</translation>
+    </message>
+    <message>
+        <source> (as it is)</source>
+        <translation> (wie jetzt)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::EquipmentPanel</name>
+    <message>
+        <source>Equipment</source>
+        <translation>Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Camera + lens combination</source>
+        <translation>Kamera + Objektiv</translation>
+    </message>
+    <message>
+        <source>Which camera and lens took the selected photos</source>
+        <translation>Mit welcher Kamera und welchem Objektiv die gewählten Fotos aufgenommen wurden</translation>
+    </message>
+    <message>
+        <source>Apply to all</source>
+        <translation>Für alle</translation>
+    </message>
+    <message>
+        <source>Every photo in the list was taken with this gear</source>
+        <translation>Jedes Foto der Liste wurde mit dieser Ausrüstung aufgenommen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormAbout</name>
+    <message>
+        <source>Revision %1</source>
+        <translation>Revision %1</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormAddImages</name>
+    <message>
+        <source>This folder cannot be read</source>
+        <translation>Dieser Ordner ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>No photos here</source>
+        <translation>Keine Fotos hier</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 von %2 gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormBatch</name>
+    <message>
+        <source>1 queued image</source>
+        <translation>1 Bild im Stapel</translation>
+    </message>
+    <message>
+        <source>%1 queued images</source>
+        <translation>%1 Bilder im Stapel</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Choose another folder.</source>
+        <translation>Bitte wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Wait this image</source>
+        <translation>Dieses Bild noch</translation>
+    </message>
+    <message>
+        <source>No folder can be made in %1</source>
+        <translation>In %1 kann kein Ordner angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormGearEdit</name>
+    <message>
+        <source> °</source>
+        <translation> °</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source> ‰ hor.</source>
+        <translation> ‰ waag.</translation>
+    </message>
+    <message>
+        <source> ‰ vert.</source>
+        <translation> ‰ senkr.</translation>
+    </message>
+    <message>
+        <source>New camera + lens combination</source>
+        <translation>Neue Kombination aus Kamera und Objektiv</translation>
+    </message>
+    <message>
+        <source>Redefine camera + lens combination</source>
+        <translation>Kombination aus Kamera und Objektiv ändern</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Choose a camera and a lens first.</source>
+        <translation>Bitte wählen Sie zuerst Kamera und Objektiv.</translation>
+    </message>
+    <message>
+        <source>Ratio and offsets are set by hand.</source>
+        <translation>Verhältnis und Versatz sind von Hand eingestellt.</translation>
+    </message>
+    <message>
+        <source>Values of the catalogue.</source>
+        <translation>Werte des Katalogs.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormGearList</name>
+    <message>
+        <source>The gear of new photos</source>
+        <translation>Die Ausrüstung neuer Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormMorph</name>
+    <message>
+        <source>Rotate camera</source>
+        <translation>Kamera drehen</translation>
+    </message>
+    <message>
+        <source>Transpose image</source>
+        <translation>Bild verschieben</translation>
+    </message>
+    <message>
+        <source>%1 at the start</source>
+        <translation>%1 am Anfang</translation>
+    </message>
+    <message>
+        <source>%1 at the end</source>
+        <translation>%1 am Ende</translation>
+    </message>
+    <message>
+        <source>* The projection %1 does not use this.</source>
+        <translation>* Die Projektion %1 verwendet das nicht.</translation>
+    </message>
+    <message>
+        <source>No preview</source>
+        <translation>Keine Vorschau</translation>
+    </message>
+    <message>
+        <source>Image %1 of %2</source>
+        <translation>Bild %1 von %2</translation>
+    </message>
+    <message>
+        <source>Between</source>
+        <translation>Dazwischen</translation>
+    </message>
+    <message>
+        <source>No images were added</source>
+        <translation>Es wurden keine Bilder hinzugefügt</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>%1 images added, %2 in the batch que</source>
+        <translation>%1 Bilder hinzugefügt, %2 im Stapel</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormSetup</name>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 Pixel</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormStretch</name>
+    <message>
+        <source>100 % narrower</source>
+        <translation>100 % schmaler</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>wider</source>
+        <translation>breiter</translation>
+    </message>
+    <message>
+        <source>narrower</source>
+        <translation>schmaler</translation>
+    </message>
+    <message>
+        <source>up</source>
+        <translation>oben</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>unten</translation>
+    </message>
+    <message>
+        <source>Could not open image</source>
+        <translation>Das Bild konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 gespeichert, %2</translation>
+    </message>
+    <message>
+        <source>Closes when the picture is saved</source>
+        <translation>Schließt, sobald das Bild gespeichert ist</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FrameTools</name>
+    <message>
+        <source>&amp;Frame on the photo</source>
+        <translation>&amp;Rahmen auf dem Foto</translation>
+    </message>
+    <message>
+        <source>&amp;Magnification map</source>
+        <translation>Abbildungs&amp;maßstab</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::GearOfferRow</name>
+    <message>
+        <source>Use %1</source>
+        <translation>%1 verwenden</translation>
+    </message>
+    <message>
+        <source>Gives this photo the gear &quot;%1&quot;</source>
+        <translation>Gibt diesem Foto die Ausrüstung „%1“</translation>
+    </message>
+    <message>
+        <source>Define this gear...</source>
+        <translation>Diese Ausrüstung festlegen...</translation>
+    </message>
+    <message>
+        <source>Opens the gear editor with the camera and the lens chosen</source>
+        <translation>Öffnet das Fenster für Ausrüstungen, Kamera und Objektiv sind schon gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ImageListPanel</name>
+    <message>
+        <source>Image list</source>
+        <translation>Bildliste</translation>
+    </message>
+    <message>
+        <source>Click a photo to work on it; select several to adjust them together</source>
+        <translation>Klicken Sie ein Foto an, um es zu bearbeiten; wählen Sie mehrere, um sie gemeinsam anzupassen</translation>
+    </message>
+    <message>
+        <source>Add image(s)</source>
+        <translation>Bild(er) hinzufügen</translation>
+    </message>
+    <message>
+        <source>Adds photos to the list</source>
+        <translation>Nimmt Fotos in die Liste auf</translation>
+    </message>
+    <message>
+        <source>Remove image(s)</source>
+        <translation>Bild(er) entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the selected photos off the list; the files stay</source>
+        <translation>Nimmt die gewählten Fotos aus der Liste; die Dateien bleiben</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::LevelTools</name>
+    <message>
+        <source>&amp;Level the horizon</source>
+        <translation>&amp;Horizont ausrichten</translation>
+    </message>
+    <message>
+        <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
+        <translation>Nur Rectilinear lässt sich ausrichten; die anderen drehen die Kamera nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::MDIForm1</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;OpenOld</source>
+        <translation>&amp;Öffnen (alt)</translation>
+    </message>
+    <message>
+        <source>Open image(s)</source>
+        <translation>Bild(er) öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Setup</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Manage equipment</source>
+        <translation>&amp;Ausrüstung verwalten</translation>
+    </message>
+    <message>
+        <source>&amp;Defaults</source>
+        <translation>&amp;Vorgaben</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Morph</source>
+        <translation>Morph</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>The gear was added; the button gives it to this photo.</source>
+        <translation>Die Ausrüstung wurde hinzugefügt; die Schaltfläche gibt sie diesem Foto.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::PictureArea</name>
+    <message>
+        <source>Add photos with &quot;Add image(s)&quot; or drop them here.</source>
+        <translation>Fügen Sie Fotos mit „Bild(er) hinzufügen“ hinzu, oder ziehen Sie sie hierher.</translation>
+    </message>
+    <message>
+        <source>The converted picture appears here.</source>
+        <translation>Hier erscheint das umgewandelte Bild.</translation>
+    </message>
+    <message>
+        <source>Photo as shot</source>
+        <translation>Originalfoto</translation>
+    </message>
+    <message>
+        <source>Converted picture</source>
+        <translation>Umgewandeltes Bild</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ProjectTools</name>
+    <message>
+        <source>Open project...</source>
+        <translation>Projekt öffnen...</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Save project as...</source>
+        <translation>Projekt speichern unter...</translation>
+    </message>
+    <message>
+        <source>Recent projects</source>
+        <translation>Zuletzt verwendete Projekte</translation>
+    </message>
+    <message>
+        <source>Could not open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Some photos of the project are not where they were</source>
+        <translation>Einige Fotos des Projekts sind nicht mehr, wo sie waren</translation>
+    </message>
+    <message>
+        <source>Some settings of the project could not be used</source>
+        <translation>Einige Einstellungen des Projekts sind nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>photos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>... and %1 more</source>
+        <translation>... und %1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SampleTools</name>
+    <message>
+        <source>Open the sa&amp;mple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sample photo could not be made: %1 did not start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing the sample photo, which takes a few seconds ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sample photo could not be made: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SavePanel</name>
+    <message>
+        <source>Save image as ...</source>
+        <translation>Bild speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Converts the current photo at full size and saves it</source>
+        <translation>Wandelt das aktuelle Foto in voller Größe um und speichert es</translation>
+    </message>
+    <message>
+        <source>Add to batch que</source>
+        <translation>Zum Stapel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Queues every photo of the list with its present settings</source>
+        <translation>Legt jedes Foto der Liste mit seinen jetzigen Einstellungen in den Stapel</translation>
+    </message>
+    <message>
+        <source>Process batch que</source>
+        <translation>Stapel verarbeiten</translation>
+    </message>
+    <message>
+        <source>Converts and saves everything that is queued</source>
+        <translation>Wandelt alles im Stapel um und speichert es</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save / batch process </source>
+        <translation>Speichern / Stapel </translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SheetTools</name>
+    <message>
+        <source>&amp;Contact sheet</source>
+        <translation>Kontakt&amp;bogen</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::StartHint</name>
+    <message>
+        <source>Drop fisheye photos here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::StretchView</name>
+    <message>
+        <source>The stretched picture and the curve of its stretch</source>
+        <translation>Das gestreckte Bild und die Kurve seiner Streckung</translation>
+    </message>
+    <message>
+        <source>Open a photo or drop one here.</source>
+        <translation>Öffnen Sie ein Foto, oder ziehen Sie eines hierher.</translation>
+    </message>
+    <message>
+        <source>wider</source>
+        <translation>breiter</translation>
+    </message>
+    <message>
+        <source>narrower</source>
+        <translation>schmaler</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::UndoTools</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ZoomTools</name>
+    <message>
+        <source>Fi&amp;t</source>
+        <translation>Ein&amp;passen</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>Zoom i&amp;n</source>
+        <translation>&amp;Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Grid</source>
+        <translation>&amp;Gitter</translation>
+    </message>
+    <message>
+        <source>Centre c&amp;ross</source>
+        <translation>Mittenkreu&amp;z</translation>
+    </message>
+    <message>
+        <source>&amp;Before instead of after	B</source>
+        <translation>V&amp;orher statt nachher	B</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/app/every_form.h"
+
+#include "app/form_about.h"
+#include "gear/form_gear_edit.h"
+#include "gear/form_gear_list.h"
+#include "pipeline/form_add_images.h"
+#include "pipeline/form_batch.h"
+#include "pipeline/form_morph.h"
+#include "pipeline/form_stretch.h"
+#include "state/form_setup.h"
+#include "tests/support/window_desk.h"
+
+namespace varnel::testing {
+
+namespace {
+
+using Look = std::function<void(QWidget& form)>;
+
+std::vector<Volume> OneVolume() {
+    return {{QStringLiteral("/"), QString(), VolumeKind::Fixed}};
+}
+
+void Show(QWidget& form, const Look& look) {
+    form.show();
+    form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
+    QTest::qWait(50);
+    look(form);
+}
+
+void ShowMainWindow(WindowDesk& desk, const Look& look) {
+    Show(desk.window, look);
+    desk.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, {300, 200});
+    desk.Click("CommandAddToBatchQue");
+    for (const char* const projection : {"OptionRemap_0", "OptionRemap_1", "OptionRemap_2"}) {
+        desk.Click(projection);
+        look(desk.window);
+    }
+    desk.Slider("SliderAOVoutput")->setValue(90);
+    for (const char* const entry :
+         {"CmdViewMagnification", "CmdViewCircle", "CmdToolsLevel", "CmdEditUndo"}) {
+        desk.Entry(entry)->trigger();
+        QTest::qWait(20);
+        look(desk.window);
+    }
+}
+
+void ShowGearForms(WindowDesk& desk, const Look& look) {
+    FormGearList list(desk.state.Gear, desk.store, [](GearTable&) {});
+    Show(list, look);
+    desk.state.Gear(0) = GearRecord();
+    FormGearEdit empty(desk.state.Gear);
+    Show(empty, look);
+    desk.state.Gear(0) = desk.state.Gear(1);
+    FormGearEdit gear(desk.state.Gear);
+    Show(gear, look);
+}
+
+void ShowBatch(WindowDesk& desk, const Look& look) {
+    BatchChoices choices;
+    FormBatch batch(
+        desk.state.BatchQueue, choices, desk.state.settings, Reader(), desk.notices, [](int) {},
+        nullptr, &OneVolume);
+    Show(batch, look);
+    batch.findChild<QAbstractButton*>(QStringLiteral("CmdBatchProcess"))->click();
+    QTest::qWait(20);
+    look(batch);
+}
+
+void ShowToolForms(WindowDesk& desk, const Look& look) {
+    FormMorph morph(desk.state.Images(1), desk.state.bitmaps.PreviewSourceBitmap.get(),
+                    desk.state.BatchQueue, desk.notices, [](int) {});
+    Show(morph, look);
+    morph.findChild<QAbstractButton*>(QStringLiteral("CmdAddMorphToBatch"))->click();
+    QTest::qWait(20);
+    look(morph);
+    FormStretch stretch(
+        desk.state.settings, desk.photos, [](const QString&) { return QString(); }, desk.chooser,
+        desk.notices);
+    Show(stretch, look);
+    stretch.Open(desk.files.Path(QStringLiteral("a.bmp")));
+    QTest::qWait(20);
+    look(stretch);
+}
+
+}  // namespace
+
+void ShowEveryForm(const Look& look) {
+    WindowDesk desk;
+    ShowMainWindow(desk, look);
+    FormAbout about;
+    Show(about, look);
+    FormSetup setup(desk.state.Gear, desk.state.settings, desk.store);
+    Show(setup, look);
+    setup.findChild<QAbstractButton*>(QStringLiteral("CommandSaveDefault"))->click();
+    QTest::qWait(20);
+    look(setup);
+    ShowGearForms(desk, look);
+    const QString folder = desk.files.Path({});
+    FormAddImages add(desk.state.Images, desk.store, desk.notices,
+                      {folder, folder, folder, &OneVolume}, {Reader(), true});
+    Show(add, look);
+    ShowBatch(desk, look);
+    ShowToolForms(desk, look);
+}
+
+}  // namespace varnel::testing

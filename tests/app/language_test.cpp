@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// No text of the window bypasses the translation, and there is room for longer ones.
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDirIterator>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSpinBox>
+#include <QTest>
+#include <map>
+
+#include "app/revision_age.h"
+#include "gear/gear_store.h"
+#include "gear/photo_gear.h"
+#include "pipeline/batch_checks.h"
+#include "pipeline/batch_summary.h"
+#include "pipeline/elided_label.h"
+#include "pipeline/morph_sequence.h"
+#include "pipeline/project_file.h"
+#include "state/settings_store.h"
+#include "state/step_names.h"
+#include "state/told_reason.h"
+#include "tests/app/every_form.h"
+#include "tests/app/pseudo_language.h"
+#include "tests/support/files.h"
+#include "translations/window_language.h"
+
+namespace varnel {
+namespace {
+
+using testing::PseudoLanguage;
+using testing::ReadTranslations;
+using testing::ShowEveryForm;
+using testing::Unmarked;
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QString Name(const QObject& object) {
+    return object.objectName().isEmpty() ? Q(object.metaObject()->className())
+                                         : object.objectName();
+}
+
+// What the user reads or has read to him, but for the content of lists and inputs.
+QStringList TextsOf(const QObject& object) {
+    QStringList texts;
+    for (const char* const property :
+         {"text", "title", "windowTitle", "toolTip", "statusTip", "whatsThis", "accessibleName",
+          "accessibleDescription", "placeholderText", "prefix", "suffix", "plainText"}) {
+        if (qobject_cast<const QLineEdit*>(&object) == nullptr || Q(property) != Q("text")) {
+            texts.append(object.property(property).toString());
+        }
+    }
+    if (const auto* const list = qobject_cast<const QListWidget*>(&object)) {
+        for (int row = 0; row < list->count(); ++row) {
+            texts += {list->item(row)->text(), list->item(row)->toolTip()};
+        }
+    }
+    const auto* const drives = qobject_cast<const QComboBox*>(&object);
+    if (drives != nullptr && drives->objectName().startsWith(Q("Drive"))) {
+        texts.append(drives->itemText(0));
+    }
+    return texts;
+}
+
+QStringList UnmarkedIn(QWidget& form) {
+    QStringList found;
+    QObjectList objects = form.findChildren<QObject*>();
+    objects.append(&form);
+    for (const QObject* const object : objects) {
+        // The notice is the image library's own, as its licence wants it.
+        if (object->objectName() == Q("LabelFreeimageNotice") ||
+            object->objectName().startsWith(Q("qt_"))) {
+            continue;
+        }
+        for (const QString& text : TextsOf(*object)) {
+            if (!Unmarked(text).isEmpty()) {
+                found.append(form.objectName() + u'/' + Name(*object) + Q(": ") + text);
+            }
+        }
+    }
+    return found;
+}
+
+bool IsCut(const QWidget& widget) {
+    const auto* const label = qobject_cast<const QLabel*>(&widget);
+    const bool isText = (label != nullptr && !label->text().isEmpty() &&
+                         dynamic_cast<const ElidedLabel*>(label) == nullptr) ||
+                        qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                        qobject_cast<const QGroupBox*>(&widget) != nullptr ||
+                        qobject_cast<const QSpinBox*>(&widget) != nullptr;
+    if (!isText || widget.visibleRegion().isEmpty() || widget.objectName().startsWith(Q("qt_"))) {
+        return false;
+    }
+    if (label != nullptr && label->wordWrap()) {
+        return widget.height() < widget.heightForWidth(widget.width());
+    }
+    const bool isGroup = qobject_cast<const QGroupBox*>(&widget) != nullptr;
+    const int needed =
+        isGroup ? widget.fontMetrics().horizontalAdvance(widget.property("title").toString())
+                : std::min(widget.sizeHint().width(), widget.minimumSizeHint().width());
+    return widget.visibleRegion().boundingRect().width() < needed;
+}
+
+QStringList CutIn(const QWidget& form) {
+    QStringList found;
+    for (const QWidget* const widget : form.findChildren<QWidget*>()) {
+        if (widget->window() == &form && IsCut(*widget)) {
+            found.append(form.objectName() + u'/' + Name(*widget) + Q(": ") +
+                         widget->property("text").toString() +
+                         widget->property("title").toString());
+        }
+    }
+    return found;
+}
+
+// Letters that two entries of a menu, or two controls that are seen together, answer to.
+QStringList ClashesIn(const QWidget& form) {
+    QStringList found;
+    std::map<QString, QStringList> owners;
+    const auto note = [&owners](const QString& text) {
+        if (const auto letter = QKeySequence::mnemonic(text).toString(); !letter.isEmpty()) {
+            owners[letter].append(text);
+        }
+    };
+    const auto close = [&] {
+        for (const auto& [letter, texts] : owners) {
+            if (texts.size() > 1) {
+                found.append(form.objectName() + Q(": ") + texts.join(Q(" | ")));
+            }
+        }
+        owners.clear();
+    };
+    for (const QWidget* const widget : form.findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->window() == &form) {
+            note(widget->property("text").toString());
+            note(widget->property("title").toString());
+        }
+    }
+    const auto menus = form.findChildren<QMenu*>();
+    for (const QMenu* const menu : menus) {
+        if (menu->parentWidget() == form.findChild<QWidget*>(Q("qt_menubar")) ||
+            qobject_cast<const QMenu*>(menu->parentWidget()) == nullptr) {
+            note(menu->title());
+        }
+    }
+    close();
+    for (const QMenu* const menu : menus) {
+        for (const QAction* const entry : menu->actions()) {
+            note(entry->text());
+        }
+        close();
+    }
+    return found;
+}
+
+void ExpectNone(QStringList found) {
+    found.removeDuplicates();
+    EXPECT_TRUE(found.isEmpty()) << found.join(u'\n').toStdString();
+}
+
+TEST(PseudoLanguage, MarksEveryTextOfTheWindowAndCutsNone) {
+    const PseudoLanguage pseudo;
+    QStringList unmarked;
+    QStringList cut;
+    ShowEveryForm([&](QWidget& form) {
+        unmarked += UnmarkedIn(form);
+        cut += CutIn(form);
+    });
+    ExpectNone(unmarked);
+    ExpectNone(cut);
+}
+
+TEST(PseudoLanguage, MarksWhatIsTold) {
+    const PseudoLanguage pseudo;
+    MemoryStore store;
+    BatchSummary summary;
+    summary.queued = 3;
+    summary.failures = {{Q("/a/b.bmp"), ToldReason(Q("the file is empty"))}};
+    summary.notes = {{Q("/a/c.bmp"), ToldReason(Q("written without its XMP: too long for a JPEG "
+                                                  "file; BMP files hold no settings"))}};
+    const QString texts[] = {
+        *CheckRevisionAge(store, QDate(2024, 1, 1)),
+        NoGearText(),
+        GearOfPhoto({}, {}).said,
+        SpaceWarning(2, 1),
+        SummaryText(summary),
+        TimeLeftText(100.0, 0.5),
+        std::get<QString>(FrameCountFromText(Q("1.5"))),
+        OpenProject(Q(VARNEL_SOURCES "/README.md")).trouble,
+        StepName(SliderId::Z),
+        ToldReason("Overflow: TranslateX does not fit 32 bits"),
+        ToldReason(Q("/x/y: the settings cannot be read (Not a regular file); without a copy they "
+                     "begin afresh")),
+    };
+    for (const QString& text : texts) {
+        EXPECT_TRUE(text.contains(u'[')) << text.toStdString();
+        EXPECT_EQ(Unmarked(text), QString()) << text.toStdString();
+    }
+}
+
+TEST(ToldReason, IsTheSameWithoutATranslation) {
+    for (const char* const reason :
+         {"damaged: a; b (c)", "No space left on device (while writing)", "%1 of 2; 100 %2",
+          "there is not enough memory (malloc)", "written without its %2: it cannot be read"}) {
+        EXPECT_EQ(ToldReason(Q(reason)), Q(reason));
+    }
+}
+
+// The rooms that speak English: each of their reasons is in the list of those that are translated.
+TEST(ToldReason, KnowsEveryReason) {
+    const PseudoLanguage pseudo;
+    static const QRegularExpression literal(
+        Q("(?:QStringLiteral\\(|Refused\\()\"([a-z][^\"]* [^\"]*)\""));
+    static const QRegularExpression joint(Q("\"\\s*\"")), format(Q("xmlns|[<>\\[]"));
+    static const QStringList assembled{Q("written without %1: %2"), Q("colour profile"),
+                                       Q("could not be set aside"), Q("is kept as %1")};
+    QStringList unknown;
+    for (const char* const room : {"decoder", "remap", "state"}) {
+        QDirIterator files(Q(VARNEL_SOURCES "/") + Q(room), {Q("*.cpp"), Q("*.h")}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+            const QString text = QString::fromUtf8(file.readAll()).remove(joint);
+            for (auto found = literal.globalMatch(text); found.hasNext();) {
+                const QString reason = found.next().captured(1);
+                if (!reason.contains(format) && !assembled.contains(reason) &&
+                    ToldReason(reason) == reason) {
+                    unknown.append(files.fileName() + Q(": ") + reason);
+                }
+            }
+        }
+    }
+    ExpectNone(unknown);
+}
+
+TEST(German, KeepsPlaceholdersAndLettersToPress) {
+    static const QRegularExpression special(Q("%[1-9]"));
+    const auto placeholders = [](const QString& text) {
+        QStringList all;
+        for (auto found = special.globalMatch(text); found.hasNext();) {
+            all.append(found.next().captured());
+        }
+        all.sort();
+        return all;
+    };
+    const auto hasLetter = [](const QString& text) {
+        return !QKeySequence::mnemonic(text).isEmpty();
+    };
+    const auto translations = ReadTranslations(Q(VARNEL_SOURCES "/translations/varnel_de.ts"));
+    EXPECT_GT(translations.size(), 600);
+    for (const auto& [source, german] : translations.asKeyValueRange()) {
+        EXPECT_FALSE(german.isEmpty()) << source.text.toStdString();
+        EXPECT_EQ(placeholders(source.text), placeholders(german)) << german.toStdString();
+        EXPECT_EQ(hasLetter(source.text), hasLetter(german)) << german.toStdString();
+        EXPECT_EQ(source.text.startsWith(u' '), german.startsWith(u' ')) << german.toStdString();
+        EXPECT_EQ(source.text.endsWith(u' '), german.endsWith(u' ')) << german.toStdString();
+    }
+}
+
+TEST(German, FitsTheFormsAndTheirLetters) {
+    const WindowLanguage german(*QCoreApplication::instance(), Q("de"));
+    QStringList faults;
+    bool isGerman = false;
+    ShowEveryForm([&](QWidget& form) {
+        faults += CutIn(form) + ClashesIn(form);
+        isGerman = isGerman || form.windowTitle() == Q("Vorgaben");
+    });
+    ExpectNone(faults);
+    EXPECT_TRUE(isGerman);
+}
+
+TEST(German, HasTheStandardButtons) {
+    const auto cancel = [] {
+        const QMessageBox box(QMessageBox::Question, {}, {},
+                              QMessageBox::Save | QMessageBox::Cancel);
+        return box.button(QMessageBox::Cancel)->text();
+    };
+    EXPECT_EQ(cancel(), Q("Cancel"));
+    const WindowLanguage german(*QCoreApplication::instance(), Q("de"));
+    EXPECT_EQ(cancel(), Q("Abbrechen"));
+}
+
+}  // namespace
+}  // namespace varnel

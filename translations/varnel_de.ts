@@ -2633,19 +2633,19 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <name>varnel::SampleTools</name>
     <message>
         <source>Open the sa&amp;mple</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispielfoto ö&amp;ffnen</translation>
     </message>
     <message>
         <source>The sample photo could not be made: %1 did not start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beispielfoto konnte nicht gemacht werden: %1 ließ sich nicht starten.</translation>
     </message>
     <message>
         <source>Drawing the sample photo, which takes a few seconds ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beispielfoto wird gezeichnet, das dauert ein paar Sekunden ...</translation>
     </message>
     <message>
         <source>The sample photo could not be made: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beispielfoto konnte nicht gemacht werden: %1</translation>
     </message>
 </context>
 <context>
@@ -2698,11 +2698,11 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <name>varnel::StartHint</name>
     <message>
         <source>Drop fisheye photos here</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisheye-Fotos hierher ziehen</translation>
     </message>
     <message>
         <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
     </message>
 </context>
 <context>

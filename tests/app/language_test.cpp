@@ -5,20 +5,20 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
 #include <QTest>
-#include <map>
 
+#include "app/focus_style.h"
 #include "app/revision_age.h"
 #include "gear/gear_store.h"
 #include "gear/photo_gear.h"
@@ -31,6 +31,7 @@
 #include "state/step_names.h"
 #include "state/told_reason.h"
 #include "tests/app/every_form.h"
+#include "tests/app/form_walk.h"
 #include "tests/app/pseudo_language.h"
 #include "tests/support/files.h"
 #include "translations/window_language.h"
@@ -121,46 +122,6 @@ QStringList CutIn(const QWidget& form) {
                          widget->property("text").toString() +
                          widget->property("title").toString());
         }
-    }
-    return found;
-}
-
-// Letters that two entries of a menu, or two controls that are seen together, answer to.
-QStringList ClashesIn(const QWidget& form) {
-    QStringList found;
-    std::map<QString, QStringList> owners;
-    const auto note = [&owners](const QString& text) {
-        if (const auto letter = QKeySequence::mnemonic(text).toString(); !letter.isEmpty()) {
-            owners[letter].append(text);
-        }
-    };
-    const auto close = [&] {
-        for (const auto& [letter, texts] : owners) {
-            if (texts.size() > 1) {
-                found.append(form.objectName() + Q(": ") + texts.join(Q(" | ")));
-            }
-        }
-        owners.clear();
-    };
-    for (const QWidget* const widget : form.findChildren<QWidget*>()) {
-        if (widget->isVisible() && widget->window() == &form) {
-            note(widget->property("text").toString());
-            note(widget->property("title").toString());
-        }
-    }
-    const auto menus = form.findChildren<QMenu*>();
-    for (const QMenu* const menu : menus) {
-        if (menu->parentWidget() == form.findChild<QWidget*>(Q("qt_menubar")) ||
-            qobject_cast<const QMenu*>(menu->parentWidget()) == nullptr) {
-            note(menu->title());
-        }
-    }
-    close();
-    for (const QMenu* const menu : menus) {
-        for (const QAction* const entry : menu->actions()) {
-            note(entry->text());
-        }
-        close();
     }
     return found;
 }
@@ -270,12 +231,13 @@ TEST(German, KeepsPlaceholdersAndLettersToPress) {
     }
 }
 
-TEST(German, FitsTheFormsAndTheirLetters) {
+TEST(German, FitsTheFormsAndHasALetterForEachControl) {
+    QApplication::setStyle(new FocusStyle);
     const WindowLanguage german(*QCoreApplication::instance(), Q("de"));
     QStringList faults;
     bool isGerman = false;
     ShowEveryForm([&](QWidget& form) {
-        faults += CutIn(form) + ClashesIn(form);
+        faults += CutIn(form) + testing::FaultsOf(form);
         isGerman = isGerman || form.windowTitle() == Q("Vorgaben");
     });
     ExpectNone(faults);

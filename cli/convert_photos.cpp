@@ -12,6 +12,7 @@
 
 #include "cli/advice.h"
 #include "cli/convert_file.h"
+#include "cli/results_there.h"
 #include "cli/run_reports.h"
 #include "gear/gear_offer.h"
 #include "pipeline/photo_feed.h"
@@ -123,9 +124,10 @@ class Conversions {
             return run_.options.files;
         }
         QStringList files;
+        PhotoLoader photos(*reader_, &wait_, &settings_);
         for (const QString& file : run_.options.files) {
-            const auto results =
-                console_.StopSignal() == 0 ? ResultsThere(file) : std::vector<FileReport>();
+            const auto results = console_.StopSignal() == 0 ? ResultsThere(run_, photos, file)
+                                                            : std::vector<FileReport>();
             if (results.empty()) {
                 files.append(file);
             }
@@ -133,41 +135,6 @@ class Conversions {
             skipped.insert(skipped.end(), results.begin(), results.end());
         }
         return files;
-    }
-
-    // All of the photo's results, as long as they all lie there.
-    std::vector<FileReport> ResultsThere(const QString& file) {
-        const bool nameTellsGear = !run_.options.outputDir.isEmpty() || run_.options.morph;
-        if (!run_.gears.forAll && nameTellsGear) {
-            return {};  // only the photo itself tells what its results are called
-        }
-        const std::optional<PhotoSize> size = PhotoLoader(*reader_, &wait_, &settings_).Size(file);
-        if (!size) {
-            return {};  // its trouble is told in its turn
-        }
-        std::vector<FileReport> results;
-        try {
-            for (const ImageRecord& record : RecordsFor(
-                     run_,
-                     StartRecord(run_, file, *size, run_.gears.forAll.value_or(GearRecord())))) {
-                results.push_back(ReportOf(file, record));
-                results.back().result = TargetFor(run_, file, record).file;
-                if (!QFileInfo::exists(results.back().result)) {
-                    return {};
-                }
-                results.back().status = FileStatus::Skipped;
-            }
-        } catch (const RunTimeError&) {
-            return {};
-        }
-        return results;
-    }
-
-    static FileReport ReportOf(const QString& photo, const ImageRecord& record) {
-        FileReport report{.photo = photo};
-        report.projection = ToText(ProjectionFromIndex(record.Projection)).toLower();
-        report.gear = record.GearName;
-        return report;
     }
 
     // Those that come before the file of that number.

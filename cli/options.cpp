@@ -197,6 +197,13 @@ void CheckMorph(const Options& options) {
     }
 }
 
+// Another type's contents under a picture's name would mislead; names that tell nothing may hold
+// any.
+bool IsOtherPictureName(const QString& name) {
+    return !OutputTypeByEnding(name) &&
+           FreeImage_GetFIFFromFilename(name.toUtf8().constData()) != FIF_UNKNOWN;
+}
+
 void CheckTogether(const Options& options) {
     if (options.command != Command::Convert) {
         return;
@@ -223,6 +230,12 @@ void CheckTogether(const Options& options) {
         throw UsageError{
             QStringLiteral("--output takes one photo and one projection; use "
                            "--output-dir for more")};
+    }
+    if (!options.type && IsOtherPictureName(options.output)) {
+        throw UsageError{
+            QStringLiteral("--output %1: no pictures of this type are written; end the "
+                           "name in .tif, .jpg, .bmp or .png, or give --type")
+                .arg(options.output)};
     }
     if (options.skipExisting && options.force) {
         throw UsageError{

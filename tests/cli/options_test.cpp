@@ -106,6 +106,7 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --output x --output-dir y a", "exclude each other"},
         {"p --output x a b", "use --output-dir for more"},
         {"p --output x --projection all a", "use --output-dir for more"},
+        {"p --output x.gif a", "end the name in .tif, .jpg, .bmp or .png, or give --type"},
         {"p --set RotateZ a", "not \"RotateZ\"; for example --set RotateX=10"},
         {"p --set Rotatez=1 a", "did you mean \"RotateZ\"? fields: Width, "},
         {"p --set RotateZ=much a", "\"much\" is no value for the field RotateZ"},

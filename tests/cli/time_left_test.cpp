@@ -5,6 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QThread>
+#include <sstream>
+
+#include "cli/progress_bar.h"
+
 namespace varnel {
 namespace {
 
@@ -40,6 +45,21 @@ TEST(LeftText, IsCoarserTheLongerItTakes) {
         {3599.0, "1 h 0 min left"}, {3900.0, "1 h 5 min left"}, {90000.0, "25 h 0 min left"}};
     for (const auto& row : rows) {
         EXPECT_EQ(LeftText(row.seconds).toStdString(), row.text) << row.seconds;
+    }
+}
+
+TEST(TerminalBar, IsOneShortLineWhereItIsWanted) {
+    for (const bool shown : {false, true}) {
+        std::ostringstream terminal;
+        {
+            TerminalBar bar(terminal, shown);
+            bar.Start(4);
+            bar.SetPhoto(QStringLiteral("folder/a\n") + QString(100, u'x'));
+            QThread::msleep(110);
+            bar.Done(2);
+        }
+        const std::string line = "\r[############............] 2 of 4  a\\n" + std::string(41, 'x');
+        EXPECT_EQ(terminal.str(), shown ? line + "\x1b[K\r\x1b[K" : "");
     }
 }
 

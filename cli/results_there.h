@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What an earlier run has done already.
+#pragma once
+
+#include <vector>
+
+#include "cli/convert_file.h"
+#include "cli/file_report.h"
+
+namespace varnel {
+
+// Photo, projection and gear of a conversion.
+FileReport ReportOf(const QString& photo, const ImageRecord& record);
+
+// All of the photo's results as skipped ones, if every one lies there; else none. The photo is not
+// decoded, only its size is looked up.
+std::vector<FileReport> ResultsThere(const ConversionRun& run, PhotoLoader& photos,
+                                     const QString& file);
+
+}  // namespace varnel

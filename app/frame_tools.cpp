@@ -5,6 +5,7 @@
 
 #include <QBoxLayout>
 
+#include "app/menu_entry.h"
 #include "remap/run_time_error.h"
 
 namespace varnel {
@@ -38,9 +39,7 @@ FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Desk& desk,
 }
 
 QAction* FrameTools::AddEntry(const char* name, const QString& text, const QKeySequence& keys) {
-    QAction* const entry = parts_.viewMenu->addAction(text);
-    entry->setObjectName(QString::fromLatin1(name));
-    entry->setShortcut(keys);
+    QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text, {keys});
     entry->setCheckable(true);
     connect(entry, &QAction::toggled, &update_, [this] { update_.start(0); });
     return entry;

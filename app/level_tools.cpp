@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/level_tools.h"
+#include "app/menu_entry.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
@@ -78,9 +79,8 @@ LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView
       leave_(new QShortcut(QKeySequence(Qt::Key_Escape), window)),
       stroke_([this] { parts_.pictures->From()->RedrawOverlays(); }, [this] { Level(); }) {
     QAction* const neighbour = window->findChild<QAction*>(QStringLiteral("CmdToolsStretch"));
-    entry_ = qobject_cast<QMenu*>(neighbour->parent())->addAction(tr("&Level the horizon"));
-    entry_->setObjectName(QStringLiteral("CmdToolsLevel"));
-    entry_->setShortcut(Qt::CTRL | Qt::Key_L);
+    entry_ = AddMenuEntry(qobject_cast<QMenu*>(neighbour->parent()), "CmdToolsLevel",
+                          tr("&Level the horizon"), {Qt::CTRL | Qt::Key_L});
     entry_->setCheckable(true);
     connect(entry_, &QAction::toggled, this, &LevelTools::OnToggled);
     connect(parts_.list->List(), &QListWidget::currentRowChanged, this,

@@ -19,6 +19,7 @@
 #include "app/circle_tools.h"
 #include "app/frame_tools.h"
 #include "app/level_tools.h"
+#include "app/menu_entry.h"
 #include "app/picture_keys.h"
 #include "app/sample_tools.h"
 #include "app/sheet_tools.h"
@@ -127,9 +128,7 @@ void MDIForm1::BuildStatus() {
 
 QAction* MDIForm1::AddEntry(QMenu* menu, const char* name, const QString& text,
                             const QKeySequence& shortcut, void (MDIForm1::*handler)()) {
-    auto* const action = menu->addAction(text);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setShortcut(shortcut);
+    auto* const action = AddMenuEntry(menu, name, text, {shortcut});
     if (handler != nullptr) {
         connect(action, &QAction::triggered, this, handler);
     } else {

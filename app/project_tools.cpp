@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 
+#include "app/menu_entry.h"
 #include "pipeline/project_file.h"
 #include "state/told_reason.h"
 
@@ -32,10 +33,7 @@ void ProjectTools::AddEntries(QMenu* menu, QAction* before) {
     menu->insertSeparator(before);
     const auto add = [&](const char* name, const QString& text, const QKeySequence& keys,
                          auto handler) {
-        auto* const entry = new QAction(text, menu);
-        entry->setObjectName(QString::fromLatin1(name));
-        entry->setShortcut(keys);
-        menu->insertAction(before, entry);
+        QAction* const entry = AddMenuEntry(menu, name, text, {keys}, before);
         connect(entry, &QAction::triggered, this, handler);
         return entry;
     };

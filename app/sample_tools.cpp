@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "app/menu_entry.h"
 #include "gear/gear_catalogue.h"
 
 namespace varnel {
@@ -37,8 +38,7 @@ SampleTools::SampleTools(QMainWindow* window, const WindowParts& parts, WindowVi
     : QObject(window), parts_(parts), view_(view), desk_(desk), state_(state) {
     QMenu* const file = window->menuBar()->actions().constFirst()->menu();
     file->addSeparator();
-    QAction* const entry = file->addAction(tr("Open the sa&mple"));
-    entry->setObjectName(QStringLiteral("CmdOpenSample"));
+    QAction* const entry = AddMenuEntry(file, "CmdOpenSample", tr("Open the sa&mple"));
     connect(entry, &QAction::triggered, this, &SampleTools::Open);
     maker_.setProgram(
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("varnel-sample")));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/sheet_tools.h"
+#include "app/menu_entry.h"
 
 #include <new>
 
@@ -15,9 +16,8 @@ SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
       desk_(desk),
       state_(state),
       box_(new ContactSheetBox(parts.pictures)) {
-    QAction* const entry = parts_.viewMenu->addAction(tr("&Contact sheet"));
-    entry->setObjectName(QStringLiteral("CmdContactSheet"));
-    entry->setShortcut(Qt::Key_F6);
+    QAction* const entry =
+        AddMenuEntry(parts_.viewMenu, "CmdContactSheet", tr("&Contact sheet"), {Qt::Key_F6});
     connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
     connect(box_, &ContactSheetBox::Chosen, this,
             [this](const ContactTile& tile) { desk_.AdoptTile(tile); });

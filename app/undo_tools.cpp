@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/undo_tools.h"
+#include "app/menu_entry.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -26,8 +27,8 @@ const QList<QKeySequence>& RedoKeys() {
 UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Desk& desk, QObject* parent)
     : QObject(parent),
       desk_(desk),
-      undo_(AddEntry(parts.editMenu, "CmdEditUndo", UndoKeys())),
-      redo_(AddEntry(parts.editMenu, "CmdEditRedo", RedoKeys())) {
+      undo_(AddMenuEntry(parts.editMenu, "CmdEditUndo", {}, UndoKeys())),
+      redo_(AddMenuEntry(parts.editMenu, "CmdEditRedo", {}, RedoKeys())) {
     connect(undo_, &QAction::triggered, this, [this, &view] {
         if (!view.Locked()) {
             desk_.Undo();
@@ -55,19 +56,6 @@ UndoTools::~UndoTools() {
 }
 
 // Above what others put into the menu.
-QAction* UndoTools::AddEntry(QMenu* menu, const char* name, const QList<QKeySequence>& keys) {
-    auto* const entry = new QAction(menu);
-    entry->setObjectName(QString::fromLatin1(name));
-    entry->setShortcuts(keys);
-    const auto isOther = [](const QAction* other) {
-        return !other->objectName().startsWith(QStringLiteral("CmdEdit"));
-    };
-    const QList<QAction*> entries = menu->actions();
-    const auto found = std::ranges::find_if(entries, isOther);
-    menu->insertAction(found != entries.end() ? *found : nullptr, entry);
-    return entry;
-}
-
 void UndoTools::ShowNames() {
     const auto show = [](QAction* entry, const QString& plain, const QString& named,
                          const QString& step) {

@@ -21,7 +21,6 @@ class UndoTools : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    QAction* AddEntry(QMenu* menu, const char* name, const QList<QKeySequence>& keys);
     void ShowNames();
 
     Desk& desk_;

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "app/held_keys.h"
+#include "app/menu_entry.h"
 
 namespace varnel {
 
@@ -43,17 +44,10 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
     AddKeys();
 }
 
-QAction* ZoomTools::AddEntry(const char* name, const QString& text) {
-    QAction* const entry = parts_.viewMenu->addAction(text);
-    entry->setObjectName(QString::fromLatin1(name));
-    return entry;
-}
-
 void ZoomTools::AddEntries() {
     const auto add = [this](const char* name, const QString& text,
                             const QList<QKeySequence>& shortcuts, auto handler) {
-        QAction* const entry = AddEntry(name, text);
-        entry->setShortcuts(shortcuts);
+        QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text, shortcuts);
         connect(entry, &QAction::triggered, this, handler);
     };
     const auto step = [this](int steps) { ZoomTo(from_, Middle(from_), zoom_.Stepped(steps)); };
@@ -67,7 +61,7 @@ void ZoomTools::AddEntries() {
         [step] { step(-1); });
     parts_.viewMenu->addSeparator();
     const auto addChoice = [this](const char* name, const QString& text, auto handler) {
-        QAction* const entry = AddEntry(name, text);
+        QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text);
         entry->setCheckable(true);
         connect(entry, &QAction::toggled, this, handler);
         return entry;

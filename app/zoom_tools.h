@@ -23,7 +23,6 @@ class ZoomTools : public QObject {
 
   private:
     void AddEntries();
-    QAction* AddEntry(const char* name, const QString& text);
     void AddKeys();
     void ConnectBox(PictureBox* box);
     void OnSourceShown();

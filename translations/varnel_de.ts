@@ -1101,7 +1101,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
-        <translation>Auflösung in der Mitte %1   |   Stärkste Dehnung in der Ecke %2   |   Behaltene Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
+        <translation>Auflösung Mitte %1   |   Eckdehnung bis %2   |   Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
     </message>
 </context>
 <context>

@@ -41,4 +41,11 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
     }
 }
 
+void FocusStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    QColor hint = palette.color(QPalette::Text);
+    hint.setAlpha(128);
+    palette.setColor(QPalette::PlaceholderText, hint);
+}
+
 }  // namespace varnel

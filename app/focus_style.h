@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The desktop's own style, with a frame around what has the keyboard where that style shows
-// nothing: a dialog's default button, which looks the same with and without it, and lists.
+// nothing: a dialog's default button, which looks the same with and without it, and lists. The
+// hints in empty fields can be read on dark desktops, too: some of those leave them black.
 #pragma once
 
 #include <QProxyStyle>
@@ -14,6 +15,8 @@ class FocusStyle : public QProxyStyle {
     using QProxyStyle::QProxyStyle;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
 };
 
 }  // namespace varnel

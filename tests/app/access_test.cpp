@@ -76,5 +76,13 @@ TEST(Access, TheToolsOverThePhoto) {
     EXPECT_FALSE(desk.Find("ZoomText")->isVisible());
 }
 
+TEST(FocusStyle, HintsInFieldsAreReadOnADarkDesktop) {
+    QPalette dark;
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);
+    FocusStyle().polish(dark);
+    EXPECT_EQ(dark.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
+}
+
 }  // namespace
 }  // namespace varnel

@@ -7,11 +7,13 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QTest>
@@ -84,6 +86,10 @@ class Walk {
         if ((TakesFocus(&widget) || picture) && widget.accessibleName().isEmpty() &&
             (button == nullptr || button->text().isEmpty()) && LabelOf(widget) == nullptr) {
             Note(widget, Q("has no name"));
+        }
+        const auto* const push = qobject_cast<const QPushButton*>(button);
+        if (push != nullptr && qobject_cast<QDialog*>(&form_) != nullptr && !push->autoDefault()) {
+            Note(widget, Q("is not pressed by Return while it has the focus"));
         }
     }
     // A text that stands right before or right above an input, at its left edge. A folder is no

@@ -55,6 +55,15 @@ TEST(VarnelSample, WritesTheFourFramesAndNamesThem) {
     EXPECT_EQ(outcome.out, names);
 }
 
+TEST(VarnelSample, WritesOneThatIsAskedFor) {
+    const QTemporaryDir folder;
+    const QString name = QStringLiteral("sample-fullframe.jpg");
+    const Outcome outcome = RunSample({folder.path(), QStringLiteral("--only"), name,
+                                       QStringLiteral("--width"), QStringLiteral("90")});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_EQ(outcome.out, folder.filePath(name) + u'\n');
+}
+
 TEST(VarnelSample, WrongArgumentsGiveOneLineAndExitTwo) {
     const QString folder = QDir::tempPath();
     const QStringList rows[] = {{},
@@ -63,6 +72,7 @@ TEST(VarnelSample, WrongArgumentsGiveOneLineAndExitTwo) {
                                 {folder, QStringLiteral("--width"), QStringLiteral("15")},
                                 {folder, QStringLiteral("--width"), QStringLiteral("32768")},
                                 {folder, QStringLiteral("--width"), QStringLiteral("90x")},
+                                {folder, QStringLiteral("--only"), QStringLiteral("sample.jpg")},
                                 {folder, QStringLiteral("--wide")},
                                 {QString()}};
     for (const QStringList& arguments : rows) {

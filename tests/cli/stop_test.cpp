@@ -83,6 +83,10 @@ TEST_F(Stop, LeavesWholeFilesOnlyAndCanBeGoneOnWith) {
         const int code = CodeOf(program);
         EXPECT_EQ(::kill(-group, 0), -1) << "a decoder still runs";
         const auto outputs = Outputs(folder);
+        if (code == -1) {  // the signal's own way: it came before main or after it
+            EXPECT_TRUE(outputs.empty() || outputs == expected);
+            continue;
+        }
         EXPECT_EQ(code, outputs == expected ? 0 : 128 + signal);
         for (const auto& [name, bytes] : outputs) {
             EXPECT_TRUE(expected.contains(name) && expected.at(name) == bytes)
@@ -104,21 +108,20 @@ TEST_F(Stop, LeavesWholeFilesOnlyAndCanBeGoneOnWith) {
 }
 
 TEST_F(Stop, ASecondSignalEndsItAtOnceAndIgnoredOnesAreIgnored) {
+    photos_ = QStringList{files_.Picture(Q("large.bmp"), FIF_BMP, {3600, 2400})};
     QProcess twice;
-    Start(twice, Q("twice"), {});
-    QThread::msleep(100);
+    Start(twice, Q("twice"), {Q("--jobs=1")});
+    ASSERT_TRUE(twice.waitForReadyRead(60'000));  // the second of four results is at hand
     const pid_t id = static_cast<pid_t>(twice.processId());
     ::kill(id, SIGINT);
-    QThread::msleep(2);  // else both may count as one
+    QThread::msleep(20);  // which is too short to end it
     ::kill(id, SIGTERM);
-    const int code = CodeOf(twice);
-    EXPECT_TRUE(code == 143 || code == 130) << code;  // it may have ended by the first already
+    EXPECT_EQ(CodeOf(twice), 143);
     QProcess background;
-    photos_ = photos_.first(2);
     std::signal(SIGINT, SIG_IGN);  // as a shell without job control starts it
     Start(background, Q("background"), {});
     std::signal(SIGINT, SIG_DFL);
-    QThread::msleep(100);
+    ASSERT_TRUE(background.waitForReadyRead(60'000));
     ::kill(static_cast<pid_t>(background.processId()), SIGINT);
     EXPECT_EQ(CodeOf(background), 0);
 }

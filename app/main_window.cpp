@@ -18,6 +18,7 @@
 
 #include "app/circle_tools.h"
 #include "app/frame_tools.h"
+#include "app/guide_tools.h"
 #include "app/level_tools.h"
 #include "app/menu_entry.h"
 #include "app/picture_keys.h"
@@ -62,6 +63,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new PictureKeys(this, parts_);
     new StartHint(this, parts_);
     new SampleTools(this, parts_, *view_, *desk_, state_);
+    new GuideTools(this, ports_.notices);
     ConnectControls();
     ConnectSliders();
     resize(1180, 800);
@@ -154,8 +156,7 @@ void MDIForm1::BuildMenus() {
     morph_ = AddEntry(tools, "CmdToolsMorph", tr("Morph"), {}, &MDIForm1::Morph);
     AddEntry(tools, "CmdToolsStretch", tr("Stretch"), {}, &MDIForm1::Stretch);
     QMenu* const about = menuBar()->addMenu(tr("&About"));
-    AddEntry(about, "CmdAboutAbout", tr("&About"), QKeySequence::HelpContents,
-             &MDIForm1::ShowAbout);
+    AddEntry(about, "CmdAboutAbout", tr("&About"), {}, &MDIForm1::ShowAbout);
 }
 
 void MDIForm1::Activate() {

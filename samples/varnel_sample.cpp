@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// varnel-sample OUTPUT_DIR [--width N] [--only NAME]: the sample scene as four cameras of the
-// catalogue take it, or one of them. N is the width of the frames that lie across; the upright ones
-// have their sides exchanged.
+// varnel-sample OUTPUT_DIR [--width N] [--only NAME] [--up]: the sample scene as four cameras of
+// the catalogue take it, or one of them. N is the width of the frames that lie across; the upright
+// ones have their sides exchanged. With --up the cameras look straight up.
 
 #include <QDir>
 #include <QStringList>
@@ -55,6 +55,7 @@ struct Order {
     QString directory;
     int width = 3000;
     QString only;  // one file's name; empty for all
+    bool up = false;
 };
 
 QString NameOf(const Sample& sample) {
@@ -81,6 +82,8 @@ std::optional<Order> ReadOrder(const QStringList& arguments) {
             if (std::ranges::find(allSamples, order.only, NameOf) == allSamples.end()) {
                 return std::nullopt;
             }
+        } else if (argument == u"--up") {
+            order.up = true;
         } else if (argument.startsWith(u'-') || argument.isEmpty() || !order.directory.isEmpty()) {
             return std::nullopt;
         } else {
@@ -114,6 +117,11 @@ FisheyeShot ShotFor(const Sample& sample, int width) {
     return shot;
 }
 
+// The upper edge of the picture is then what lies behind the photographer.
+Colour LookFromBelow(const Ray& direction) {
+    return LookAt({direction.x, direction.z, -direction.y});
+}
+
 // So that the photo tells its gear, as those of cameras do.
 PhotoMetadata TakenWith(const Sample& sample) {
     const auto name = [](const char16_t* const(&words)[2]) {
@@ -125,9 +133,10 @@ PhotoMetadata TakenWith(const Sample& sample) {
     return metadata;
 }
 
-SaveResult TakeAndSave(const Sample& sample, int width, const QString& fileName) {
+SaveResult TakeAndSave(const Sample& sample, const Order& order, const QString& fileName) {
     try {
-        const BitmapHandle photo = TakeFisheye(LookAt, ShotFor(sample, width));
+        const BitmapHandle photo =
+            TakeFisheye(order.up ? LookFromBelow : LookAt, ShotFor(sample, order.width));
         SetMetadata(photo.get(), TakenWith(sample));
         return SaveBitmap(FIF_JPEG, photo.get(), fileName, jpegQuality);
     } catch (const std::bad_alloc&) {
@@ -137,7 +146,7 @@ SaveResult TakeAndSave(const Sample& sample, int width, const QString& fileName)
 
 bool WriteSample(const Sample& sample, const Order& order) {
     const QString fileName = QDir(order.directory).filePath(NameOf(sample));
-    const SaveResult saved = TakeAndSave(sample, order.width, fileName);
+    const SaveResult saved = TakeAndSave(sample, order, fileName);
     if (!saved) {
         std::fprintf(stderr, "varnel-sample: %s: %s\n", qPrintable(fileName),
                      qPrintable(saved.reason));
@@ -150,8 +159,9 @@ bool WriteSample(const Sample& sample, const Order& order) {
 int Run(const QStringList& arguments) {
     const std::optional<Order> order = ReadOrder(arguments);
     if (!order) {
-        std::fputs("usage: varnel-sample OUTPUT_DIR [--width 16..32767] [--only FILE_NAME]\n",
-                   stderr);
+        std::fputs(
+            "usage: varnel-sample OUTPUT_DIR [--width 16..32767] [--only FILE_NAME] [--up]\n",
+            stderr);
         return 2;
     }
     bool allWritten = true;

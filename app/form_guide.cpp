@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/form_guide.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QTextList>
+#include <algorithm>
+
+namespace varnel {
+
+namespace {
+
+// Beside bin, where the installation and the build both have it.
+constexpr char16_t startPage[] = u"../share/varnel/guide/index.md";
+
+constexpr int margin = 24;
+
+// Markdown knows no colours: commands stand on a ground of their own, lines apart from one another.
+void SetOff(QTextDocument& page, const QColor& ground) {
+    QTextCursor cursor(&page);
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format;
+        if (block.blockFormat().hasProperty(QTextFormat::BlockCodeFence)) {
+            format.setBackground(ground);
+        } else if (block.blockFormat().headingLevel() > 1) {
+            format.setTopMargin(18);
+        } else if (!block.textList()) {
+            format.setLineHeight(3, QTextBlockFormat::LineDistanceHeight);
+        }
+        cursor.setPosition(block.position());
+        cursor.mergeBlockFormat(format);
+    }
+}
+
+QPushButton* Button(const char* name, const QString& text, const QString& tip, QWidget* parent) {
+    auto* const button = new QPushButton(text, parent);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(tip);
+    button->setAutoDefault(false);  // Enter is for the search
+    return button;
+}
+
+}  // namespace
+
+QString GuideStartPage(const QString& programFolder) {
+    const QString page =
+        QDir::cleanPath(QDir(programFolder).absoluteFilePath(QString::fromUtf16(startPage)));
+    return QFile::exists(page) ? page : QString();
+}
+
+QVariant GuideText::loadResource(int type, const QUrl& name) {
+    const QVariant resource = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) {
+        return resource;
+    }
+    const QImage picture = QImage::fromData(resource.toByteArray());
+    const int room = std::max(200, viewport()->width() - 2 * margin);
+    return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation) : picture;
+}
+
+void GuideText::doSetSource(const QUrl& page, QTextDocument::ResourceType type) {
+    QTextBrowser::doSetSource(page, type);
+    document()->setDocumentMargin(margin);
+    SetOff(*document(), palette().color(QPalette::AlternateBase));
+}
+
+FormGuide::FormGuide(const QString& startPage, QWidget* parent)
+    : QDialog(parent, Qt::Window),
+      text_(new GuideText(this)),
+      wanted_(new QLineEdit(this)),
+      startPage_(startPage) {
+    setObjectName(QStringLiteral("FormGuide"));
+    setWindowTitle(tr("Varnel user guide"));
+    resize(860, 760);
+    text_->setObjectName(QStringLiteral("TextGuide"));
+    text_->setAccessibleName(tr("Page of the guide"));
+    text_->setFrameShape(QFrame::NoFrame);
+    // Pictures are made to fit before the length of the page is known.
+    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 6, 0, 0);
+    auto* const bar = new QHBoxLayout;
+    bar->setContentsMargins(9, 0, 9, 0);
+    BuildBar(bar);
+    layout->addLayout(bar);
+    layout->addWidget(text_, 1);
+    text_->setFocus();
+    text_->setSource(QUrl::fromLocalFile(startPage));
+}
+
+void FormGuide::BuildBar(QBoxLayout* layout) {
+    auto* const contents = Button("CmdGuideContents", tr("&Contents"), tr("The first page"), this);
+    auto* const back = Button("CmdGuideBack", tr("&Back"), tr("The page before"), this);
+    auto* const forward = Button("CmdGuideForward", tr("&Forward"), tr("The page after"), this);
+    back->setShortcut(QKeySequence::Back);
+    forward->setShortcut(QKeySequence::Forward);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    wanted_->setObjectName(QStringLiteral("TextGuideFind"));
+    wanted_->setPlaceholderText(tr("Find in the guide"));
+    wanted_->setAccessibleName(tr("Find in the guide"));
+    wanted_->setClearButtonEnabled(true);
+    layout->addWidget(contents);
+    layout->addWidget(back);
+    layout->addWidget(forward);
+    layout->addStretch();
+    layout->addWidget(wanted_);
+    connect(contents, &QPushButton::clicked, this,
+            [this] { text_->setSource(QUrl::fromLocalFile(startPage_)); });
+    connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
+    connect(forward, &QPushButton::clicked, text_, &QTextBrowser::forward);
+    connect(text_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(text_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    connect(wanted_, &QLineEdit::returnPressed, this, &FormGuide::FindNext);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, wanted_,
+            qOverload<>(&QWidget::setFocus));
+}
+
+void FormGuide::FindNext() {
+    const QString wanted = wanted_->text();
+    if (wanted.isEmpty() || text_->find(wanted)) {
+        return;
+    }
+    const QFileInfo here(text_->source().toLocalFile());
+    QStringList pages = here.dir().entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
+    std::ranges::rotate(pages, pages.begin() + pages.indexOf(here.fileName()) + 1);
+    for (const QString& page : pages) {
+        if (FindOn(here.dir().filePath(page), wanted)) {
+            return;
+        }
+    }
+}
+
+bool FormGuide::FindOn(const QString& page, const QString& wanted) {
+    QFile file(page);
+    QTextDocument looked;
+    if (file.open(QIODevice::ReadOnly)) {
+        looked.setMarkdown(QString::fromUtf8(file.readAll()));
+    }
+    if (looked.find(wanted).isNull()) {
+        return false;
+    }
+    text_->setSource(QUrl::fromLocalFile(page));
+    text_->moveCursor(QTextCursor::Start);
+    return text_->find(wanted);
+}
+
+}  // namespace varnel

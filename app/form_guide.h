@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The user guide in a window of its own that may stay open beside the work. Its pages are Markdown
+// files with pictures, links from page to page included; they are installed with the program and
+// nothing of them comes from a network.
+#pragma once
+
+#include <QBoxLayout>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTextBrowser>
+
+namespace varnel {
+
+// The first page, as a program in that folder finds it; empty when there is none.
+QString GuideStartPage(const QString& programFolder);
+
+// Shows pictures no wider than itself.
+class GuideText : public QTextBrowser {
+  public:
+    using QTextBrowser::QTextBrowser;
+    QVariant loadResource(int type, const QUrl& name) override;
+
+  protected:
+    void doSetSource(const QUrl& page, QTextDocument::ResourceType type) override;
+};
+
+class FormGuide : public QDialog {
+    Q_OBJECT
+  public:
+    explicit FormGuide(const QString& startPage, QWidget* parent = nullptr);
+
+  private:
+    void BuildBar(QBoxLayout* layout);
+    // From the cursor to the end of the page, then on the other pages, then on this one from its
+    // start.
+    void FindNext();
+    bool FindOn(const QString& page, const QString& wanted);
+
+    GuideText* text_;
+    QLineEdit* wanted_;
+    QString startPage_;
+};
+
+}  // namespace varnel

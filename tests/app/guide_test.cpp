@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The user guide and its window: what the guide names is there to be seen, pages and pictures lead
+// where they say.
+
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QGroupBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTextBlock>
+
+#include "app/form_guide.h"
+#include "tests/support/window_desk.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QString StartPage() {
+    return GuideStartPage(QCoreApplication::applicationDirPath());
+}
+
+QStringList Pages() {
+    return QDir(QFileInfo(StartPage()).path()).entryList({Q("*.md")}, QDir::Files);
+}
+
+QString TextOf(const QString& path) {
+    return QString::fromUtf8(testing::Contents(path));
+}
+
+QString PageText(const QString& page) {
+    return TextOf(QFileInfo(StartPage()).dir().filePath(page));
+}
+
+QStringList Matches(const QString& text, const char* pattern) {
+    QStringList found;
+    for (const auto& match : QRegularExpression(Q(pattern)).globalMatch(text)) {
+        found.append(match.captured(1));
+    }
+    return found;
+}
+
+QString Plain(QString text) {
+    return text.remove(u'&').section(u'\t', 0, 0);
+}
+
+// Menu entries as "File, Exit", and the texts of all controls, those of the dialogs included.
+QStringList ShownTexts(testing::WindowDesk& desk) {
+    QStringList texts;
+    for (const QMenu* const menu : desk.window.findChildren<QMenu*>()) {
+        for (const QAction* const entry : menu->actions()) {
+            texts.append(Plain(menu->title()) + Q(", ") + Plain(entry->text()));
+        }
+    }
+    for (const QWidget* const widget : desk.window.findChildren<QWidget*>()) {
+        for (const char* const property : {"text", "title"}) {
+            texts.append(Plain(widget->property(property).toString()));
+        }
+    }
+    QDirIterator forms(Q(VARNEL_TREE), {Q("*.ui")}, QDir::Files, QDirIterator::Subdirectories);
+    while (forms.hasNext()) {
+        for (QString text : Matches(TextOf(forms.next()),
+                                    R"re(name="(?:text|title)">\s*<string[^>]*>([^<]+)<)re")) {
+            texts.append(Plain(text.replace(Q("&amp;"), Q("&"))));
+        }
+    }
+    return texts;
+}
+
+// The literals of the programs, those on several lines as one.
+QString ProgramTexts() {
+    QString all;
+    for (const char* const room : {"app", "cli", "decoder", "gear", "pipeline", "state"}) {
+        QDirIterator sources(Q(VARNEL_TREE "/") + Q(room), {Q("*.cpp")}, QDir::Files);
+        while (sources.hasNext()) {
+            all += TextOf(sources.next());
+        }
+    }
+    return all.replace(QRegularExpression(Q(R"re("\s*\n\s*u?")re")), QString());
+}
+
+TEST(Guide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
+    testing::WindowDesk desk;
+    const QStringList shown = ShownTexts(desk);
+    for (const QString& page : Pages()) {
+        for (const QString& name : Matches(PageText(page), R"(\*\*([^*]+)\*\*)")) {
+            EXPECT_TRUE(shown.contains(QString(name).replace(u'\n', u' ')))
+                << qPrintable(page) << ": " << qPrintable(name);
+        }
+    }
+}
+
+TEST(Guide, ExplainsOnlyMessagesThatThereAre) {
+    const QString page = PageText(Q("troubleshooting.md"));
+    const QString said = ProgramTexts();
+    int messages = 0;
+    for (const QString& message :
+         Matches(page.mid(page.indexOf(Q("## Messages"))), R"(\n\| ([^|]+) \|)")) {
+        if (message == Q("message") || message.startsWith(u'-')) {
+            continue;
+        }
+        ++messages;
+        for (const QString& part : message.split(Q("..."), Qt::SkipEmptyParts)) {
+            EXPECT_TRUE(said.contains(part.trimmed())) << qPrintable(message);
+        }
+    }
+    EXPECT_GT(messages, 10);
+}
+
+TEST(Guide, LinksAndPicturesLeadSomewhereAndEveryPageIsReached) {
+    const QDir folder = QFileInfo(StartPage()).dir();
+    QSet<QString> reached{Q("index.md")};
+    QSet<QString> drawn;
+    for (const QString& page : Pages()) {
+        for (const QString& link : Matches(PageText(page), R"(\]\(([^)]+)\))")) {
+            EXPECT_TRUE(QFile::exists(folder.filePath(link))) << qPrintable(page + u' ' + link);
+            (link.endsWith(Q(".md")) ? reached : drawn).insert(link);
+        }
+    }
+    EXPECT_EQ(reached.size(), Pages().size());
+    for (const QString& link : Matches(TextOf(Q(VARNEL_TREE "/README.md")), R"(\]\(([^)]+)\))")) {
+        EXPECT_TRUE(QFile::exists(Q(VARNEL_TREE "/") + link)) << qPrintable(link);
+    }
+    for (const QString& picture : folder.entryList({Q("pictures")}, QDir::Dirs)) {
+        for (const QFileInfo& file : QDir(folder.filePath(picture)).entryInfoList(QDir::Files)) {
+            EXPECT_TRUE(drawn.contains(picture + u'/' + file.fileName()))
+                << "no page shows " << qPrintable(file.fileName());
+            EXPECT_LT(file.size(), 150'000) << qPrintable(file.fileName());
+        }
+    }
+}
+
+TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {
+    testing::WindowDesk desk;
+    for (int times = 0; times < 2; ++times) {
+        desk.Entry("CmdGuide")->trigger();
+    }
+    const auto forms = desk.window.findChildren<FormGuide*>();
+    ASSERT_EQ(forms.size(), 1);
+    EXPECT_TRUE(forms.front()->isVisible());
+    EXPECT_TRUE(desk.notices.texts.isEmpty());
+    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))), QString());
+    QDir(desk.files.Path({})).mkpath(Q("share/varnel/guide"));
+    testing::WriteFile(desk.files.Path(Q("share/varnel/guide/index.md")), "# Here");
+    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))),
+              QFileInfo(desk.files.Path(Q("share/varnel/guide/index.md"))).absoluteFilePath());
+}
+
+TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
+    FormGuide form(StartPage());
+    form.resize(500, 500);
+    form.show();
+    auto* const text = form.findChild<GuideText*>();
+    const auto page = [text] { return text->source().fileName(); };
+    const auto click = [&form](const char* name) {
+        form.findChild<QPushButton*>(Q(name))->click();
+    };
+    auto* const wanted = form.findChild<QLineEdit*>();
+    const auto find = [wanted](const char* words) {
+        wanted->setText(Q(words));
+        QTest::keyClick(wanted, Qt::Key_Return);
+    };
+    find("orthographic");
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    EXPECT_EQ(text->textCursor().selectedText(), Q("orthographic"));
+    find("no such word anywhere");
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    click("CmdGuideBack");
+    EXPECT_EQ(page(), Q("index.md"));
+    click("CmdGuideForward");
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    click("CmdGuideContents");
+    EXPECT_EQ(page(), Q("index.md"));
+    find("Magnification map");
+    const QVariant picture =
+        text->loadResource(QTextDocument::ImageResource, QUrl(Q("pictures/window.jpg")));
+    EXPECT_GT(picture.value<QImage>().width(), 200);
+    EXPECT_LT(picture.value<QImage>().width(), text->viewport()->width());
+}
+
+}  // namespace
+}  // namespace varnel

@@ -3,10 +3,10 @@
 
 #include "app/form_guide.h"
 
+#include <QBoxLayout>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QTextList>
@@ -71,55 +71,62 @@ void GuideText::doSetSource(const QUrl& page, QTextDocument::ResourceType type) 
 }
 
 FormGuide::FormGuide(const QString& startPage, QWidget* parent)
-    : QDialog(parent, Qt::Window),
-      text_(new GuideText(this)),
-      wanted_(new QLineEdit(this)),
-      startPage_(startPage) {
+    : QDialog(parent, Qt::Window), startPage_(startPage) {
     setObjectName(QStringLiteral("FormGuide"));
     setWindowTitle(tr("Varnel user guide"));
     resize(860, 760);
-    text_->setObjectName(QStringLiteral("TextGuide"));
-    text_->setAccessibleName(tr("Page of the guide"));
-    text_->setFrameShape(QFrame::NoFrame);
-    // Pictures are made to fit before the length of the page is known.
-    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 6, 0, 0);
     auto* const bar = new QHBoxLayout;
     bar->setContentsMargins(9, 0, 9, 0);
-    BuildBar(bar);
     layout->addLayout(bar);
+    // In the order of the Tab key.
+    auto* const contents = Button("CmdGuideContents", tr("&Contents"), tr("The first page"), this);
+    auto* const back = Button("CmdGuideBack", tr("&Back"), tr("The page before"), this);
+    auto* const forward = Button("CmdGuideForward", tr("&Forward"), tr("The page after"), this);
+    wanted_ = new QLineEdit(this);
+    text_ = new GuideText(this);
+    bar->addWidget(contents);
+    bar->addWidget(back);
+    bar->addWidget(forward);
+    bar->addStretch();
+    bar->addWidget(wanted_);
     layout->addWidget(text_, 1);
+    PrepareText();
+    PrepareSearch();
+    ConnectWays(contents, back, forward);
     text_->setFocus();
     text_->setSource(QUrl::fromLocalFile(startPage));
 }
 
-void FormGuide::BuildBar(QBoxLayout* layout) {
-    auto* const contents = Button("CmdGuideContents", tr("&Contents"), tr("The first page"), this);
-    auto* const back = Button("CmdGuideBack", tr("&Back"), tr("The page before"), this);
-    auto* const forward = Button("CmdGuideForward", tr("&Forward"), tr("The page after"), this);
-    back->setShortcut(QKeySequence::Back);
-    forward->setShortcut(QKeySequence::Forward);
-    back->setEnabled(false);
-    forward->setEnabled(false);
+void FormGuide::PrepareText() {
+    text_->setObjectName(QStringLiteral("TextGuide"));
+    text_->setAccessibleName(tr("Page of the guide"));
+    // Pictures are made to fit before the length of the page is known.
+    text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+void FormGuide::PrepareSearch() {
     wanted_->setObjectName(QStringLiteral("TextGuideFind"));
     wanted_->setPlaceholderText(tr("Find in the guide"));
     wanted_->setAccessibleName(tr("Find in the guide"));
     wanted_->setClearButtonEnabled(true);
-    layout->addWidget(contents);
-    layout->addWidget(back);
-    layout->addWidget(forward);
-    layout->addStretch();
-    layout->addWidget(wanted_);
+    connect(wanted_, &QLineEdit::returnPressed, this, &FormGuide::FindNext);
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, wanted_,
+            qOverload<>(&QWidget::setFocus));
+}
+
+void FormGuide::ConnectWays(QPushButton* contents, QPushButton* back, QPushButton* forward) {
+    back->setShortcut(QKeySequence::Back);
+    forward->setShortcut(QKeySequence::Forward);
+    back->setEnabled(false);
+    forward->setEnabled(false);
     connect(contents, &QPushButton::clicked, this,
             [this] { text_->setSource(QUrl::fromLocalFile(startPage_)); });
     connect(back, &QPushButton::clicked, text_, &QTextBrowser::backward);
     connect(forward, &QPushButton::clicked, text_, &QTextBrowser::forward);
     connect(text_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(text_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
-    connect(wanted_, &QLineEdit::returnPressed, this, &FormGuide::FindNext);
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, wanted_,
-            qOverload<>(&QWidget::setFocus));
 }
 
 void FormGuide::FindNext() {

@@ -6,9 +6,9 @@
 // nothing of them comes from a network.
 #pragma once
 
-#include <QBoxLayout>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTextBrowser>
 
 namespace varnel {
@@ -32,14 +32,16 @@ class FormGuide : public QDialog {
     explicit FormGuide(const QString& startPage, QWidget* parent = nullptr);
 
   private:
-    void BuildBar(QBoxLayout* layout);
+    void PrepareText();
+    void PrepareSearch();
+    void ConnectWays(QPushButton* contents, QPushButton* back, QPushButton* forward);
     // From the cursor to the end of the page, then on the other pages, then on this one from its
     // start.
     void FindNext();
     bool FindOn(const QString& page, const QString& wanted);
 
-    GuideText* text_;
-    QLineEdit* wanted_;
+    GuideText* text_ = nullptr;
+    QLineEdit* wanted_ = nullptr;
     QString startPage_;
 };
 

@@ -4,6 +4,7 @@
 #include "tests/app/every_form.h"
 
 #include "app/form_about.h"
+#include "app/form_guide.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
 #include "pipeline/form_add_images.h"
@@ -93,6 +94,10 @@ void ShowEveryForm(const Look& look) {
     ShowMainWindow(desk, look);
     FormAbout about;
     Show(about, look);
+    // A page without links, which Tab would visit.
+    WriteFile(desk.files.Path(QStringLiteral("page.md")), "# 1");
+    FormGuide guide(desk.files.Path(QStringLiteral("page.md")));
+    Show(guide, look);
     FormSetup setup(desk.state.Gear, desk.state.settings, desk.store);
     Show(setup, look);
     setup.findChild<QAbstractButton*>(QStringLiteral("CommandSaveDefault"))->click();

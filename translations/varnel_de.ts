@@ -2320,6 +2320,45 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::FormGuide</name>
+    <message>
+        <source>Varnel user guide</source>
+        <translation>Varnel-Handbuch (englisch)</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>The first page</source>
+        <translation>Die erste Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>The page before</source>
+        <translation>Die Seite davor</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vor</translation>
+    </message>
+    <message>
+        <source>The page after</source>
+        <translation>Die Seite danach</translation>
+    </message>
+    <message>
+        <source>Page of the guide</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Find in the guide</source>
+        <translation>Im Handbuch suchen</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FormMorph</name>
     <message>
         <source>Rotate camera</source>
@@ -2460,6 +2499,21 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Opens the gear editor with the camera and the lens chosen</source>
         <translation>Öffnet das Fenster für Ausrüstungen, Kamera und Objektiv sind schon gewählt</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::GuideTools</name>
+    <message>
+        <source>User &amp;guide</source>
+        <translation>&amp;Handbuch (englisch)</translation>
+    </message>
+    <message>
+        <source>The user guide is not installed</source>
+        <translation>Das Handbuch ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>It belongs into the folder share/varnel/guide beside %1.</source>
+        <translation>Es gehört in den Ordner share/varnel/guide neben %1.</translation>
     </message>
 </context>
 <context>

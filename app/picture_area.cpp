@@ -24,6 +24,11 @@ PictureArea::PictureArea(QWidget* parent)
     from_->setAccessibleName(tr("Photo as shot"));
     to_->setObjectName(QStringLiteral("PicSmallTo"));
     to_->setAccessibleName(tr("Converted picture"));
+    for (PictureBox* const box : {from_, to_}) {
+        box->setAccessibleDescription(
+            tr("Plus and minus zoom, arrow keys move what is seen. While the image circle or the "
+               "frame is shown on the photo, they change that."));
+    }
     trouble_->setObjectName(QStringLiteral("LabelTrouble"));
     trouble_->setWordWrap(true);
     trouble_->setMargin(6);

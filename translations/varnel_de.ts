@@ -2635,6 +2635,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Converted picture</source>
         <translation>Umgewandeltes Bild</translation>
     </message>
+    <message>
+        <source>Plus and minus zoom, arrow keys move what is seen. While the image circle or the frame is shown on the photo, they change that.</source>
+        <translation>Plus und Minus ändern die Vergrößerung, Pfeiltasten den Ausschnitt. Solange auf dem Foto der Bildkreis oder der Rahmen zu sehen ist, ändern sie diesen.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::ProjectTools</name>

@@ -7,6 +7,7 @@
 #include "app/form_guide.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
+#include "gear/gear_list.h"
 #include "pipeline/form_add_images.h"
 #include "pipeline/form_batch.h"
 #include "pipeline/form_morph.h"
@@ -47,9 +48,18 @@ void ShowMainWindow(WindowDesk& desk, const Look& look) {
         QTest::qWait(20);
         look(desk.window);
     }
+    QTest::keyClick(desk.Find("PicSmallFrom"), Qt::Key_Right, Qt::ControlModifier);
+    desk.Click("CmdCircleTake");
+    GearOffer offer;
+    offer.define = true;
+    desk.window.findChild<GearOfferRow*>()->Show(offer, desk.state.Gear);
+    QTest::qWait(20);
+    look(desk.window);
 }
 
 void ShowGearForms(WindowDesk& desk, const Look& look) {
+    desk.state.Gear(0) = desk.state.Gear(1);
+    AddEditedGear(desk.state.Gear);
     FormGearList list(desk.state.Gear, desk.store, [](GearTable&) {});
     Show(list, look);
     desk.state.Gear(0) = GearRecord();

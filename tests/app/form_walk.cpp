@@ -7,7 +7,6 @@
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -88,7 +87,9 @@ class Walk {
             Note(widget, Q("has no name"));
         }
         const auto* const push = qobject_cast<const QPushButton*>(button);
-        if (push != nullptr && qobject_cast<QDialog*>(&form_) != nullptr && !push->autoDefault()) {
+        // Return would press the default one instead.
+        if (push != nullptr && !push->autoDefault() &&
+            std::ranges::any_of(form_.findChildren<QPushButton*>(), &QPushButton::isDefault)) {
             Note(widget, Q("is not pressed by Return while it has the focus"));
         }
     }

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <csignal>
 #include <iostream>
 
 #include "cli/convert.h"
@@ -13,9 +14,9 @@
 #include "remap/large_pages.h"
 #include "state/telling_store.h"
 
-int main(int argc, char* argv[]) {
-    varnel::KeepFreedMemory();
-    varnel::UseUtf8Locale();
+namespace {
+
+int Convert(int argc, char* argv[]) {
     const varnel::StopSignals stop;
     const QCoreApplication application(argc, argv);
     const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1,
@@ -25,5 +26,19 @@ int main(int argc, char* argv[]) {
     varnel::TellOf(*store, notices);
     const int exitCode = varnel::RunConvert(QCoreApplication::arguments(), *store, console);
     varnel::TellOf(*store, notices);
+    return exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    varnel::KeepFreedMemory();
+    varnel::UseUtf8Locale();
+    const int exitCode = Convert(argc, argv);
+    // All is tidied up; now in the signal's own way, or a shell's loop would go on to its next
+    // round after Ctrl-C.
+    if (exitCode > varnel::exitStopped) {
+        std::raise(exitCode - varnel::exitStopped);
+    }
     return exitCode;
 }

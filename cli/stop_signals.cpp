@@ -44,6 +44,9 @@ void StopSignals::Wait() {
             return;
         }
         if (came_ != 0) {
+            std::signal(signal, SIG_DFL);
+            pthread_sigmask(SIG_UNBLOCK, &signals_, nullptr);
+            pthread_kill(pthread_self(), signal);
             _exit(exitStopped + signal);
         }
         came_ = signal;

@@ -11,7 +11,7 @@
 namespace varnel {
 
 // While this lives SIGINT and SIGTERM set a number instead of ending the program; the second one
-// ends it at once, with 128 + its number as exit code. Signals that were ignored stay ignored, as
+// ends it at once in that signal's own way. Signals that were ignored stay ignored, as
 // in a shell's background jobs. To be made before any other thread.
 class StopSignals {
   public:

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QTextList>
@@ -42,7 +43,6 @@ QPushButton* Button(const char* name, const QString& text, const QString& tip, Q
     auto* const button = new QPushButton(text, parent);
     button->setObjectName(QString::fromLatin1(name));
     button->setToolTip(tip);
-    button->setAutoDefault(false);  // Enter is for the search
     return button;
 }
 
@@ -127,6 +127,14 @@ void FormGuide::ConnectWays(QPushButton* contents, QPushButton* back, QPushButto
     connect(forward, &QPushButton::clicked, text_, &QTextBrowser::forward);
     connect(text_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
     connect(text_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+}
+
+// The dialog would press a button as well.
+void FormGuide::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || focusWidget() != wanted_) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 void FormGuide::FindNext() {

@@ -31,6 +31,9 @@ class FormGuide : public QDialog {
   public:
     explicit FormGuide(const QString& startPage, QWidget* parent = nullptr);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void PrepareText();
     void PrepareSearch();

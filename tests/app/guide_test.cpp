@@ -165,6 +165,7 @@ TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
     };
     auto* const wanted = form.findChild<QLineEdit*>();
     const auto find = [wanted](const char* words) {
+        wanted->setFocus();
         wanted->setText(Q(words));
         QTest::keyClick(wanted, Qt::Key_Return);
     };

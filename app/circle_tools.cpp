@@ -64,6 +64,7 @@ void CircleTools::Connect() {
     connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
             Qt::QueuedConnection);
     view_.WhenResultShown([this] { Refresh(); });
+    desk_.WhenGearRestored([this](const GearChange& change) { RestoreGear(change); });
 }
 
 void CircleTools::OnToggled(bool on) {
@@ -130,7 +131,6 @@ void CircleTools::Refresh() {
         circle.has_value(), circle && IsNewToGear(*circle));
 }
 
-// Also after an undo, which gives back the photo's circle but not the gear's.
 bool CircleTools::IsNewToGear(const ImageCircle& circle) {
     const int n = GearNumber();
     if (n == 0 || (!trial_ && CircleOf(*desk_.Current(), PhotoSize()).radius <= 0.0)) {
@@ -149,9 +149,12 @@ void CircleTools::Find() {
         return;
     }
     try {
-        if (const std::optional<ImageCircle> found = FindPhotoCircle(photo)) {
+        if (const std::optional<FoundCircle> found = FindPhotoCircle(photo)) {
             Try(*found);
-            view_.ShowStatus(tr("Image circle found."));
+            view_.ShowStatus(found->rough
+                                 ? tr("A rough image circle, from the light inside: it is dark at "
+                                      "the rim. Drag the rim where it is not right.")
+                                 : tr("Image circle found."));
         } else {
             view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
         }
@@ -182,13 +185,29 @@ void CircleTools::Take() {
         return;
     }
     const GearCircle circle = GearCircleFor(*shown, *desk_.Current(), PhotoSize());
+    const GearRecord before = state_.Gear(gear);
     TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
     SaveGear(store_, state_.Gear);
-    desk_.NoteStep(StepKind::Circle);
+    desk_.NoteStep(StepKind::Circle,
+                   {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
     Reset();
     desk_.Preview();
-    view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back from the photos.")
+    view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back.")
                          .arg(state_.Gear(gear).GearName));
+}
+
+void CircleTools::RestoreGear(const GearChange& change) {
+    if (ChangeGear(state_.Gear, change)) {
+        SaveGear(store_, state_.Gear);
+        view_.ShowStatus(
+            tr("The gear \"%1\" has the circle %2 again.")
+                .arg(change.to.GearName,
+                     NumbersText({change.to.OfsetX, change.to.OfsetY, change.to.GearRatio})));
+    } else {
+        view_.ShowStatus(tr("The gear \"%1\" stays as it is: it was edited or deleted since.")
+                             .arg(change.to.GearName));
+    }
+    Refresh();
 }
 
 }  // namespace varnel

@@ -39,6 +39,7 @@ class CircleTools : public QObject {
     void Ask();
     void Decline();
     void Take();
+    void RestoreGear(const GearChange& change);
 
     WindowParts parts_;
     WindowView& view_;

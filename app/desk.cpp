@@ -334,7 +334,7 @@ void Desk::UseGear(int gear) {
 
 void Desk::ApplyGear() {
     ApplyGearToAll(state_.Images, view_.ChosenGearName());
-    NoteStep(StepKind::GearToAll);
+    NoteStep(StepKind::GearToAll, {.onAllLines = true, .gear = {}});
 }
 
 void Desk::ApplySettings() {
@@ -343,7 +343,7 @@ void Desk::ApplySettings() {
     }
     if (PrepareAll()) {
         ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
-        NoteStep(StepKind::SettingsToAll);
+        NoteStep(StepKind::SettingsToAll, {.onAllLines = true, .gear = {}});
     }
 }
 

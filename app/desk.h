@@ -104,7 +104,11 @@ class Desk {
     void Redo();
     // Makes what was changed in the records a step that can be undone; nothing changed, no step.
     // Whoever changes them calls it before anything is loaded or drawn.
-    void NoteStep(StepKind kind);
+    void NoteStep(StepKind kind, const StepBesides& besides = {});
+    // Does what a step that is undone or done again shall do to a gear.
+    void WhenGearRestored(std::function<void(const GearChange&)> then) {
+        whenGearRestored_ = std::move(then);
+    }
     void SealStep() { history_.Seal(); }  // what follows is another step
     // The list as it is stands in the project file.
     void MarkSaved(const QString& project);
@@ -140,7 +144,7 @@ class Desk {
     SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
     void ShowInControls(const ImageRecord& image);
 
-    void NoteStep(const QString& name, const StepKey& key = {});
+    void NoteStep(const QString& name, const StepKey& key, const StepBesides& besides = {});
     void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
     void Absorb();
     void TellSteps();
@@ -156,6 +160,7 @@ class Desk {
     ThreadRunner runner_;
     History history_;
     std::vector<std::function<void()>> whenStepsChanged_;
+    std::function<void(const GearChange&)> whenGearRestored_;
     bool busy_ = false;
     bool rendering_ = false;
     bool saving_ = false;

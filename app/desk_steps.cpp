@@ -38,13 +38,13 @@ void Desk::TellSteps() {
     }
 }
 
-void Desk::NoteStep(const QString& name, const StepKey& key) {
-    history_.Note(name, state_.Images, key);
+void Desk::NoteStep(const QString& name, const StepKey& key, const StepBesides& besides) {
+    history_.Note(name, state_.Images, key, besides);
     TellSteps();
 }
 
-void Desk::NoteStep(StepKind kind) {
-    NoteStep(StepName(kind));
+void Desk::NoteStep(StepKind kind, const StepBesides& besides) {
+    NoteStep(StepName(kind), {}, besides);
 }
 
 void Desk::Absorb() {
@@ -94,6 +94,9 @@ void Desk::Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRec
     if (const std::optional<Restored> restored = (history_.*step)(state_.Images)) {
         ShowRestored(*restored, shown);
         TellSteps();
+        if (restored->besides.gear && whenGearRestored_) {
+            whenGearRestored_(*restored->besides.gear);
+        }
     }
 }
 
@@ -107,7 +110,7 @@ void Desk::ShowRestored(const Restored& restored, const ImageRecord& shown) {
             view_.ShowLines(state_.Images, current,
                             LinesNow(*restored.origin, view_.SelectedLines()));
         }
-    } else if (!restored.changed.empty() &&
+    } else if (!restored.besides.onAllLines && !restored.changed.empty() &&
                std::ranges::find(restored.changed, before) == restored.changed.end()) {
         current = -1;
     }

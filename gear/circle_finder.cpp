@@ -8,6 +8,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "gear/circle_fit.h"
+#include "gear/outer_light.h"
 #include "gear/rough_circle.h"
 
 namespace varnel {
@@ -29,12 +31,12 @@ GreyPicture Halved(const GreyPicture& picture) {
     return half;
 }
 
-// A place on the rim, to a fraction of a pixel.
-struct RimPoint {
-    double angle = 0.0;
-    double x = 0.0;
-    double y = 0.0;
-};
+// Light as the eye sees it: what is dim at the rim counts for nearly as much as what is bright. Of
+// black a level is a level.
+double Seen(double level) {
+    constexpr double least = 16.0;
+    return 2.0 * std::sqrt(least) * std::sqrt(level + least);
+}
 
 // The outermost clear darkening outward within reach of the circle in one direction.
 std::optional<RimPoint> RimAt(const Grey& grey, const ImageCircle& circle, double angle,
@@ -52,7 +54,7 @@ std::optional<RimPoint> RimAt(const Grey& grey, const ImageCircle& circle, doubl
         if (!grey.Has(x, y)) {
             break;  // the rim may be close to the picture's border
         }
-        profile.push_back(grey.At(x, y));
+        profile.push_back(Seen(grey.At(x, y)));
     }
     if (profile.size() < 2 * blur + 5) {
         return std::nullopt;
@@ -64,7 +66,7 @@ std::optional<RimPoint> RimAt(const Grey& grey, const ImageCircle& circle, doubl
         }
     }
     // What lies inside the rim may be brighter than the rim itself.
-    const double clear = std::max(leastStep, 0.4 * *std::ranges::max_element(fall));
+    const double clear = std::max(leastStep, 0.25 * *std::ranges::max_element(fall));
     auto peak = fall.end() - blur - 2;
     while (peak > fall.begin() + blur &&
            !(*peak >= clear && *peak >= *(peak + 1) && *peak > *(peak - 1))) {
@@ -94,52 +96,6 @@ std::vector<RimPoint> Rim(const Grey& grey, const ImageCircle& circle, double re
     return rim;
 }
 
-double Residual(const RimPoint& point, const ImageCircle& circle) {
-    return Length(point.x - circle.x, point.y - circle.y) - circle.radius;
-}
-
-double MedianResidual(const std::vector<RimPoint>& rim, const ImageCircle& circle) {
-    std::vector<double> sizes;
-    for (const RimPoint& point : rim) {
-        sizes.push_back(std::fabs(Residual(point, circle)));
-    }
-    const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
-    std::ranges::nth_element(sizes, middle);
-    return *middle;
-}
-
-// One weighted Gauss-Newton step toward the circle of least distances.
-ImageCircle Fitted(const std::vector<RimPoint>& rim, const ImageCircle& circle) {
-    const double limit = 4.685 * std::max(1.4826 * MedianResidual(rim, circle), 0.1);
-    std::array<std::array<double, 4>, 3> sums{};
-    for (const RimPoint& point : rim) {
-        const double residual = Residual(point, circle);
-        const double share = std::min(std::fabs(residual) / limit, 1.0);
-        const double weight = (1.0 - share * share) * (1.0 - share * share);
-        const double distance = residual + circle.radius;
-        const std::array<double, 4> row{(point.x - circle.x) / distance,
-                                        (point.y - circle.y) / distance, 1.0, residual};
-        for (std::size_t i = 0; i < 3; ++i) {
-            for (std::size_t j = 0; j < 4; ++j) {
-                sums[i][j] += weight * row[i] * row[j];
-            }
-        }
-    }
-    for (std::size_t i = 0; i < 3; ++i) {
-        if (std::fabs(sums[i][i]) < 1e-9) {
-            return circle;
-        }
-        for (std::size_t k = 0; k < 3; ++k) {
-            const double factor = k == i ? 0.0 : sums[k][i] / sums[i][i];
-            for (std::size_t j = 0; j < 4; ++j) {
-                sums[k][j] -= factor * sums[i][j];
-            }
-        }
-    }
-    return {circle.x + sums[0][3] / sums[0][0], circle.y + sums[1][3] / sums[1][1],
-            circle.radius + sums[2][3] / sums[2][2]};
-}
-
 // Whether three quarters of what lies outside are less than half as bright as the rim. A picture
 // that shows next to nothing outside has no rim either.
 bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
@@ -166,17 +122,10 @@ bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
     return *most < 0.5 * static_cast<double>(rim) / static_cast<double>(rimCount);
 }
 
-}  // namespace
-
-std::optional<ImageCircle> FindImageCircle(const GreyPicture& picture) {
-    constexpr int leastSide = 64;
+// Where the rim shows as a step from light to dark.
+std::optional<ImageCircle> CircleByRim(const Grey& grey, const GreyPicture& half) {
     constexpr double leastShare = 0.4;
     constexpr std::size_t leastPoints = 40;
-    if (std::min(picture.size.width, picture.size.height) < leastSide) {
-        return std::nullopt;
-    }
-    const Grey grey(picture);
-    const GreyPicture half = Halved(picture);
     const RoughCircle rough = FindRoughCircle(Grey(half));
     if (rough.share < leastShare) {
         return std::nullopt;
@@ -194,10 +143,23 @@ std::optional<ImageCircle> FindImageCircle(const GreyPicture& picture) {
             circle = Fitted(rim, circle);
         }
     }
-    if (!MayBe(circle, grey) || !IsDarkOutside(grey, circle)) {
+    return MayBe(circle, grey) && IsDarkOutside(grey, circle) ? std::optional(circle)
+                                                              : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<FoundCircle> FindImageCircle(const GreyPicture& picture) {
+    constexpr int leastSide = 64;
+    if (std::min(picture.size.width, picture.size.height) < leastSide) {
         return std::nullopt;
     }
-    return circle;
+    const Grey grey(picture);
+    if (const auto circle = CircleByRim(grey, Halved(picture))) {
+        return FoundCircle{*circle, false};
+    }
+    const auto circle = CircleAroundLight(grey);
+    return circle ? std::optional(FoundCircle{*circle, true}) : std::nullopt;
 }
 
 }  // namespace varnel

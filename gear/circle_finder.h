@@ -25,8 +25,12 @@ struct ImageCircle {
     double radius = 0.0;
 };
 
+struct FoundCircle : ImageCircle {
+    bool rough = false;  // the scene is dark at the rim: it was found from the light inside alone
+};
+
 // A width of about 1000 pixels is enough. Nothing when the picture has no such rim, as those of
 // lenses that fill the frame. The same picture always gives the same circle.
-std::optional<ImageCircle> FindImageCircle(const GreyPicture& picture);
+std::optional<FoundCircle> FindImageCircle(const GreyPicture& picture);
 
 }  // namespace varnel

@@ -7,11 +7,13 @@
 #include <numbers>
 #include <random>
 
+#include "gear/circle_fit.h"
+
 namespace varnel {
 
 namespace {
 
-constexpr int angles = 360;
+constexpr std::size_t angles = 360;
 
 // A place where the picture becomes brighter on the way in.
 struct Edge {
@@ -63,22 +65,6 @@ std::vector<Edge> CollectEdges(const Grey& grey, double leastStep) {
     return edges;
 }
 
-std::optional<ImageCircle> Through(const Edge& a, const Edge& b, const Edge& c) {
-    const double bx = b.x - a.x;
-    const double by = b.y - a.y;
-    const double cx = c.x - a.x;
-    const double cy = c.y - a.y;
-    const double area = 2.0 * (bx * cy - by * cx);
-    if (std::fabs(area) < 1.0) {
-        return std::nullopt;
-    }
-    const double bb = bx * bx + by * by;
-    const double cc = cx * cx + cy * cy;
-    const double x = (cy * bb - by * cc) / area;
-    const double y = (bx * cc - cx * bb) / area;
-    return ImageCircle{a.x + x, a.y + y, Length(x, y)};
-}
-
 // Whether the edge lies on the rim and its brighter side is the inner one.
 bool IsOn(const Edge& edge, const ImageCircle& circle, double tolerance) {
     constexpr double leastAgreement = 0.9;  // the cosine
@@ -91,11 +77,6 @@ bool IsOn(const Edge& edge, const ImageCircle& circle, double tolerance) {
 
 using Angles = std::array<bool, angles>;
 
-std::size_t AngleOf(double x, double y) {
-    const double turn = (std::atan2(y, x) / std::numbers::pi + 1.0) / 2.0;
-    return static_cast<std::size_t>(turn * angles) % angles;
-}
-
 // Edges beyond this are outside the rim.
 double Outer(const ImageCircle& circle, double tolerance) {
     return circle.radius + 2.0 * tolerance;
@@ -103,8 +84,9 @@ double Outer(const ImageCircle& circle, double tolerance) {
 
 int VisibleAngles(const ImageCircle& circle, const Grey& grey) {
     int visible = 0;
-    for (int i = 0; i < angles; ++i) {
-        const double angle = (2.0 * (i + 0.5) / angles - 1.0) * std::numbers::pi;
+    for (std::size_t i = 0; i < angles; ++i) {
+        const double angle =
+            (2.0 * (static_cast<double>(i) + 0.5) / angles - 1.0) * std::numbers::pi;
         visible += grey.Has(circle.x + circle.radius * std::cos(angle),
                             circle.y + circle.radius * std::sin(angle));
     }
@@ -120,13 +102,13 @@ double Coverage(const std::vector<Edge>& edges, const ImageCircle& circle, const
         const double x = edge.x - circle.x;
         const double y = edge.y - circle.y;
         if (IsOn(edge, circle, tolerance)) {
-            covered.at(AngleOf(x, y)) = true;
+            covered.at(SideOf(x, y, angles)) = true;
         } else if (edge.first && Length(x, y) > Outer(circle, tolerance)) {
-            brightOutside.at(AngleOf(x, y)) = true;
+            brightOutside.at(SideOf(x, y, angles)) = true;
         }
     }
     // A rim that is nearly all outside the picture counts as missing.
-    const int visible = std::max(VisibleAngles(circle, grey), angles / 3);
+    const int visible = std::max(VisibleAngles(circle, grey), static_cast<int>(angles) / 3);
     return static_cast<double>(std::ranges::count(covered, true) -
                                std::ranges::count(brightOutside, true)) /
            visible;

@@ -27,19 +27,20 @@ GreyPicture GreyOf(FIBITMAP* bitmap) {
 
 }  // namespace
 
-std::optional<ImageCircle> FindPhotoCircle(FIBITMAP* photo) {
+std::optional<FoundCircle> FindPhotoCircle(FIBITMAP* photo) {
     constexpr PixelSize box{searchedSide, searchedSide};
     const PixelSize full = SizeOf(photo);
     const BitmapHandle reduced = ReducedCopy(photo, PreviewSize(full, box, box));
     const PixelSize size = SizeOf(reduced.get());
-    const std::optional<ImageCircle> found = FindImageCircle(GreyOf(reduced.get()));
+    const std::optional<FoundCircle> found = FindImageCircle(GreyOf(reduced.get()));
     if (!found) {
         return std::nullopt;
     }
     const double across = static_cast<double>(full.width) / size.width;
     const double down = static_cast<double>(full.height) / size.height;
-    return ImageCircle{found->x * across, found->y * down,
-                       found->radius * (full.width >= full.height ? across : down)};
+    return FoundCircle{{found->x * across, found->y * down,
+                        found->radius * (full.width >= full.height ? across : down)},
+                       found->rough};
 }
 
 }  // namespace varnel

@@ -57,4 +57,13 @@ int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageReco
     return taken;
 }
 
+bool ChangeGear(GearTable& table, const GearChange& change) {
+    const int n = table.Find(change.from.GearName);
+    if (n == 0 || table(n) != change.from) {
+        return false;
+    }
+    table(n) = change.to;
+    return true;
+}
+
 }  // namespace varnel

@@ -109,9 +109,10 @@ bool History::MovedPhotos(const Run& run) const {
                                [](const Shared& a, const Shared& b) { return SamePhoto(*a, *b); });
 }
 
-void History::Note(const QString& name, const Images& images, const StepKey& key) {
+void History::Note(const QString& name, const Images& images, const StepKey& key,
+                   const StepBesides& besides) {
     Run now = SharedWith(known_, images);
-    if (now == known_) {
+    if (now == known_ && !besides.gear) {
         return;
     }
     Run before = std::exchange(known_, std::move(now));
@@ -124,9 +125,10 @@ void History::Note(const QString& name, const Images& images, const StepKey& key
     Step step = Between(before, known_);
     step.name = name;
     step.key = key;
+    step.besides = besides;
     sealed_ = false;
     undone_.clear();
-    if (step.Lines() > 0) {
+    if (step.Lines() > 0 || besides.gear) {
         Push(std::move(step));
     }
 }
@@ -199,7 +201,11 @@ std::optional<Restored> History::Undo(Images& images) {
     done_.pop_back();
     const Step step = undone_.back();
     project_ = step.projects ? step.projects->first : project_;
-    return Apply(step, step.after, step.before, images);
+    Restored restored = Apply(step, step.after, step.before, images);
+    if (restored.besides.gear) {
+        std::swap(restored.besides.gear->from, restored.besides.gear->to);
+    }
+    return restored;
 }
 
 std::optional<Restored> History::Redo(Images& images) {
@@ -216,6 +222,7 @@ std::optional<Restored> History::Redo(Images& images) {
 Restored History::Apply(const Step& step, const Run& gone, const Run& come, Images& images) {
     const Run before = std::exchange(known_, Spliced(known_, step.first, gone.size(), come));
     Restored restored;
+    restored.besides = step.besides;
     for (std::size_t n = 0; n < come.size(); ++n) {
         if (gone.size() != come.size() || gone[n] != come[n]) {
             restored.changed.push_back(static_cast<int>(step.first + n));

@@ -13,6 +13,7 @@
 #include <optional>
 #include <vector>
 
+#include "state/gear_circle.h"
 #include "state/image_record.h"
 #include "state/record_array.h"
 
@@ -21,11 +22,18 @@ namespace varnel {
 // Moves of one slider over the same lines: the slider's number, then the lines. Empty: by itself.
 using StepKey = std::vector<int>;
 
+// What a step did besides changing lines.
+struct StepBesides {
+    bool onAllLines = false;  // also those that were so already
+    std::optional<GearChange> gear;
+};
+
 // What an undone step did to the list.
 struct Restored {
     std::vector<int> changed;  // lines that are new or other than before
     // When photos came, went or moved: the line on which each line's photo was, -1 for none.
     std::optional<std::vector<int>> origin;
+    StepBesides besides;  // the gear's change is still to be done
 };
 
 class History {
@@ -35,8 +43,9 @@ class History {
     static constexpr std::size_t mostLines = 500000;  // of all steps together
 
     // What changed since the last call becomes a step, if anything did. Steps of one key become one
-    // step until the last is sealed.
-    void Note(const QString& name, const Images& images, const StepKey& key = {});
+    // step until the last is sealed. A gear's change is a step by itself.
+    void Note(const QString& name, const Images& images, const StepKey& key = {},
+              const StepBesides& besides = {});
     // The same for a list that came from another project file.
     void NoteProject(const QString& name, const Images& images, const QString& project);
     // Takes what changed since the last call for nobody's deed: a photo's size, the gear that a
@@ -66,6 +75,7 @@ class History {
         std::size_t first = 0;  // line
         Run before, after;
         std::optional<std::pair<QString, QString>> projects;  // before and after
+        StepBesides besides;
         std::size_t Lines() const { return before.size() + after.size(); }
     };
 

@@ -57,6 +57,7 @@ TEST_P(CircleFinder, IsRightWithinThreeThousandthsOfTheWidth) {
     const Shot& shot = GetParam();
     const auto found = FindImageCircle(Photograph(shot));
     ASSERT_TRUE(found);
+    EXPECT_FALSE(found->rough);
     const double tolerance = 0.003 * shot.size.width;
     EXPECT_NEAR(found->x, shot.circle.x, tolerance);
     EXPECT_NEAR(found->y, shot.circle.y, tolerance);
@@ -81,6 +82,35 @@ TEST(CircleFinder, FindsNoneWhereTheLensFillsTheFrame) {
     EXPECT_FALSE(FindImageCircle({{1000, 667}, std::vector<std::uint8_t>(667000, 30)}));
     EXPECT_FALSE(FindImageCircle({{40, 40}, std::vector<std::uint8_t>(1600, 30)}));
     EXPECT_FALSE(FindImageCircle({}));
+}
+
+// A wood from below: sky between leaves up to a height, black trees to the rim, which glints here
+// and there.
+GreyPicture Wood(double sky) {
+    const ImageCircle circle{512.0, 381.0, 310.0};
+    GreyPicture picture{{1000, 750}, {}};
+    for (int row = 0; row < 750; ++row) {
+        for (int column = 0; column < 1000; ++column) {
+            const double x = column + 0.5 - circle.x;
+            const double y = row + 0.5 - circle.y;
+            const double r = std::hypot(x, y) / circle.radius;
+            const double turn = std::atan2(y, x) + 3.1416;
+            const bool glint = r > 0.992 && r < 1.0 && std::fmod(turn, 2.1) < 0.4;
+            picture.values.push_back(r < sky && Scene(x, y) > 170.0 ? 200 : glint ? 5 : 0);
+        }
+    }
+    picture.values[40 * 1000 + 700] = 90;  // a hot pixel
+    return picture;
+}
+
+TEST(CircleFinder, HoldsAllLightWhereTheRimIsDark) {
+    const auto found = FindImageCircle(Wood(0.93));
+    ASSERT_TRUE(found);
+    EXPECT_TRUE(found->rough);
+    EXPECT_NEAR(found->x, 512.0, 3.0);
+    EXPECT_NEAR(found->y, 381.0, 3.0);
+    EXPECT_NEAR(found->radius, 310.0, 3.0);
+    EXPECT_FALSE(FindImageCircle(Wood(0.3))) << "a lamp";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "app/circle_bar.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 
 namespace varnel {
 
@@ -50,15 +51,31 @@ void CircleBar::ShowNumbers(const QString& text, bool mayFind, bool mayTake) {
 void CircleBar::Ask(const QString& question) {
     text_->setText(question);
     ShowQuestion(true);
-    decline_->setFocus();
+    agree_->setFocus();
+}
+
+// The buttons themselves only mind the space bar.
+void CircleBar::keyPressEvent(QKeyEvent* event) {
+    const bool asked = agree_->isVisible();
+    if (asked && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        decline_->hasFocus() ? Q_EMIT Declined() : Q_EMIT Agreed();
+    } else if (asked && event->key() == Qt::Key_Escape) {
+        Q_EMIT Declined();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void CircleBar::ShowQuestion(bool asked) {
+    const bool answered = !asked && (agree_->hasFocus() || decline_->hasFocus());
     for (QPushButton* const button : {find_, reset_, take_}) {
         button->setVisible(!asked);
     }
     for (QPushButton* const button : {agree_, decline_}) {
         button->setVisible(asked);
+    }
+    if (answered) {
+        (take_->isEnabled() ? take_ : find_)->setFocus();
     }
 }
 

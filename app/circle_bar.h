@@ -26,6 +26,9 @@ class CircleBar : public QWidget {
     void Agreed();
     void Declined();
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     QPushButton* AddButton(const char* name, const QString& text, const QString& tip,
                            void (CircleBar::*signal)());

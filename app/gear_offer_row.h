@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The line of the status bar that says what took the current photo, with a button while the photo
-// has another gear. Always as high as with the button, so that the pictures keep their room.
+// has another gear, and a warning when that gear cannot have taken it. Always as high as with the
+// button, so that the pictures keep their room.
 #pragma once
 
 #include <QLabel>
@@ -23,6 +24,8 @@ class GearOfferRow : public QWidget {
 
   private:
     GearOffer offer_;
+    QLabel* sign_;
+    QLabel* trouble_;
     QLabel* line_;
     QPushButton* button_;
 };

@@ -39,10 +39,12 @@ std::vector<QLineF> CrossLines(QSizeF picture) {
 // Dark beside light, to be seen on any picture.
 void DrawLines(QPainter& painter, const QTransform& toWidget, const std::vector<QLineF>& lines,
                const QColor& colour) {
+    painter.setRenderHint(QPainter::Antialiasing,
+                          false);  // which would spread them over two pixels
     for (const QLineF& line : lines) {
         const QLineF shown = toWidget.map(line);
         const QPointF aside = shown.dx() == 0.0 ? QPointF(1.0, 0.0) : QPointF(0.0, 1.0);
-        painter.setPen(QPen(QColor(0, 0, 0, colour.alpha() * 2 / 3), 1.0));
+        painter.setPen(QPen(QColor(0, 0, 0, colour.alpha() * 4 / 5), 1.0));
         painter.drawLine(shown.translated(aside));
         painter.setPen(QPen(colour, 1.0));
         painter.drawLine(shown);
@@ -53,7 +55,7 @@ void DrawLines(QPainter& painter, const QTransform& toWidget, const std::vector<
 
 void PictureLines::Paint(QPainter& painter, const QTransform& toWidget, QSize picture) {
     if (grid_) {
-        DrawLines(painter, toWidget, GridLines(picture), QColor(255, 255, 255, 120));
+        DrawLines(painter, toWidget, GridLines(picture), QColor(255, 255, 255, 190));
     }
     if (cross_) {
         DrawLines(painter, toWidget, CrossLines(picture), QColor(255, 235, 59, 230));

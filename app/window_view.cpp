@@ -3,7 +3,6 @@
 
 #include "app/window_view.h"
 
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QSignalBlocker>
@@ -91,14 +90,7 @@ void WindowView::ShowOffer() {
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (state_.settings.OfferGear && photo != nullptr && n >= 1 &&
         n <= state_.Images.UpperBound()) {
-        const ImageRecord& image = state_.Images(n);
-        offer = OfferFor(MetadataOf(photo).origin, state_.Gear,
-                         {image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel});
-        if (const QString trouble = ShapeTrouble(image);
-            !trouble.isEmpty() && !offer.line.isEmpty()) {
-            offer.line += QCoreApplication::translate("GearOffer", " (cropped?)");
-            offer.reason += (offer.reason.isEmpty() ? QString() : QStringLiteral("\n")) + trouble;
-        }
+        offer = OfferFor(MetadataOf(photo).origin, state_.Gear, state_.Images(n));
     }
     parts_.offer->Show(offer, state_.Gear);
 }

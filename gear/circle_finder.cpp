@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 
 #include "gear/circle_fit.h"
@@ -32,10 +33,15 @@ GreyPicture Halved(const GreyPicture& picture) {
 }
 
 // Light as the eye sees it: what is dim at the rim counts for nearly as much as what is bright. Of
-// black a level is a level.
-double Seen(double level) {
+// black a level stays a level.
+GreyPicture Seen(const GreyPicture& picture) {
     constexpr double least = 16.0;
-    return 2.0 * std::sqrt(least) * std::sqrt(level + least);
+    GreyPicture seen{picture.size, {}};
+    std::ranges::transform(picture.values, std::back_inserter(seen.values), [](int level) {
+        const double scaled = 2.0 * (std::sqrt(least * (level + least)) - least);
+        return static_cast<std::uint8_t>(std::lround(scaled));
+    });
+    return seen;
 }
 
 // The outermost clear darkening outward within reach of the circle in one direction.
@@ -54,7 +60,7 @@ std::optional<RimPoint> RimAt(const Grey& grey, const ImageCircle& circle, doubl
         if (!grey.Has(x, y)) {
             break;  // the rim may be close to the picture's border
         }
-        profile.push_back(Seen(grey.At(x, y)));
+        profile.push_back(grey.At(x, y));
     }
     if (profile.size() < 2 * blur + 5) {
         return std::nullopt;
@@ -123,19 +129,21 @@ bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
 }
 
 // Where the rim shows as a step from light to dark.
-std::optional<ImageCircle> CircleByRim(const Grey& grey, const GreyPicture& half) {
+std::optional<ImageCircle> CircleByRim(const GreyPicture& picture) {
     constexpr double leastShare = 0.4;
     constexpr std::size_t leastPoints = 40;
+    const GreyPicture half = Halved(picture);
     const RoughCircle rough = FindRoughCircle(Grey(half));
     if (rough.share < leastShare) {
         return std::nullopt;
     }
     ImageCircle circle{2.0 * rough.circle.x, 2.0 * rough.circle.y, 2.0 * rough.circle.radius};
+    const GreyPicture seen = Seen(picture);
     // Of the step of a soft rim a third is within the few pixels that are compared there.
     const double leastStep = rough.leastStep / 3.0;
     for (const double reach : {0.025, 0.015, 0.01, 0.008}) {
         const std::vector<RimPoint> rim =
-            Rim(grey, circle, std::max(reach * circle.radius, 3.0), leastStep);
+            Rim(Grey(seen), circle, std::max(reach * circle.radius, 3.0), leastStep);
         if (rim.size() < leastPoints) {
             return std::nullopt;
         }
@@ -143,6 +151,7 @@ std::optional<ImageCircle> CircleByRim(const Grey& grey, const GreyPicture& half
             circle = Fitted(rim, circle);
         }
     }
+    const Grey grey(picture);
     return MayBe(circle, grey) && IsDarkOutside(grey, circle) ? std::optional(circle)
                                                               : std::nullopt;
 }
@@ -154,11 +163,10 @@ std::optional<FoundCircle> FindImageCircle(const GreyPicture& picture) {
     if (std::min(picture.size.width, picture.size.height) < leastSide) {
         return std::nullopt;
     }
-    const Grey grey(picture);
-    if (const auto circle = CircleByRim(grey, Halved(picture))) {
+    if (const auto circle = CircleByRim(picture)) {
         return FoundCircle{*circle, false};
     }
-    const auto circle = CircleAroundLight(grey);
+    const auto circle = CircleAroundLight(Grey(picture));
     return circle ? std::optional(FoundCircle{*circle, true}) : std::nullopt;
 }
 

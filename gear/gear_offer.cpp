@@ -15,15 +15,20 @@ bool HasCameraOf(const GearNames& one, const GearNames& other) {
     return one.cameraBrand == other.cameraBrand && one.cameraModel == other.cameraModel;
 }
 
+QString Text(const char* text) {
+    return QCoreApplication::translate("GearOffer", text);
+}
+
 }  // namespace
 
-GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const GearNames& current) {
+GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image) {
+    const GearNames current{image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel};
     GearOffer offer;
     const PhotoGear photo = GearOfPhoto(origin, table);
     if (photo.lack == GearLack::Origin) {
         return offer;
     }
-    offer.line = QCoreApplication::translate("GearOffer", "Taken with %1").arg(photo.takenWith);
+    offer.line = Text(QT_TRANSLATE_NOOP("GearOffer", "Taken with %1")).arg(photo.takenWith);
     offer.reason = photo.said;
     offer.names = photo.names;
     if (photo.gear > 0) {
@@ -32,6 +37,14 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Gear
         offer.define = !(photo.names == current);
     } else if (photo.lack == GearLack::ToldLens) {
         offer.define = !HasCameraOf(photo.names, current);
+    }
+    if (offer.gear > 0 || offer.define) {
+        if (!current.cameraModel.isEmpty()) {
+            offer.trouble = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
+        }
+    } else if (const QString doubt = ShapeTrouble(image); !doubt.isEmpty()) {
+        offer.line += Text(QT_TRANSLATE_NOOP("GearOffer", " (cropped?)"));
+        offer.reason += (offer.reason.isEmpty() ? QString() : QStringLiteral("\n")) + doubt;
     }
     return offer;
 }

@@ -16,13 +16,15 @@ struct GearOffer {
     int gear = 0;         // of the table, to be used; 0 for none
     bool define = false;  // a gear may be defined from the names
     GearNames names;
-    QString reason;  // why it is offered, or why nothing is
+    QString reason;   // why it is offered, or why nothing is
+    QString trouble;  // the gear in use is not the one that took the photo; empty when it may be
 
     bool operator==(const GearOffer&) const = default;
 };
 
-// A photo that has its gear already, or one with the same camera and lens, gets no offer.
-GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const GearNames& current);
+// A photo that has its gear already, or one with the same camera and lens, gets no offer. The
+// record tells its gear and, when that gear took the photo, whether the picture was cropped.
+GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image);
 
 // Why the gear's numbers may not fit the record's picture, though it took the photo: the picture
 // has another shape than the sensor, as after cropping. Empty when it has the same, within 3 %, or

@@ -129,8 +129,8 @@ std::vector<RimPoint> Hull(std::vector<RimPoint> points) {
 }
 
 // How well the rim bounds the light: long smooth stretches count for more than as many points
-// apart, which a circle meets by chance. Nothing when more than
-// a hundredth of the light is outside.
+// apart, which a circle meets by chance, and light near all of the rim for more than a gap on one
+// side. Nothing when more than a hundredth of the light is outside.
 double Bounding(const std::vector<RimPoint>& light, const ImageCircle& circle) {
     constexpr double tolerance = 1.2;
     constexpr double outside = 2.0;
@@ -138,9 +138,12 @@ double Bounding(const std::vector<RimPoint>& light, const ImageCircle& circle) {
     double score = 0.0;
     double stretch = 0.0;
     double length = 0.0;
+    double filled = 0.0;
     for (const RimPoint& point : light) {
         const double off = Residual(point, circle);
+        const double gap = off / (0.1 * circle.radius);
         out += off > outside ? 1 : 0;
+        filled += 1.0 / (1.0 + gap * gap);
         if (std::fabs(off) < tolerance) {
             stretch += 1.0 - off * off / (tolerance * tolerance);
             length += 1.0;
@@ -149,31 +152,7 @@ double Bounding(const std::vector<RimPoint>& light, const ImageCircle& circle) {
             stretch = length = 0.0;
         }
     }
-    return out * 100 > light.size() ? 0.0 : score + stretch * length;
-}
-
-// The circle through three corners that bounds the light best. Of many corners every so manieth
-// will do.
-std::optional<ImageCircle> Bound(const std::vector<RimPoint>& light, const Grey& grey) {
-    constexpr std::size_t enough = 60;
-    const std::vector<RimPoint> hull = Hull(light);
-    const std::size_t step = hull.size() / enough + 1;
-    std::optional<ImageCircle> best;
-    double most = 0.0;
-    for (std::size_t a = 0; a < hull.size(); a += step) {
-        for (std::size_t b = a + step; b < hull.size(); b += step) {
-            for (std::size_t c = b + step; c < hull.size(); c += step) {
-                const auto circle = Through(hull[a], hull[b], hull[c]);
-                const double score =
-                    circle && MayBe(*circle, grey) ? Bounding(light, *circle) : 0.0;
-                if (score > most) {
-                    most = score;
-                    best = circle;
-                }
-            }
-        }
-    }
-    return best;
+    return out * 100 > light.size() ? 0.0 : (score + stretch * length) * filled;
 }
 
 // Whether the picture shows most of the rim and light comes near to it on most sides, as it does
@@ -200,6 +179,30 @@ bool IsAllRound(const std::vector<RimPoint>& light, const ImageCircle& circle, c
            static_cast<double>(std::ranges::count(shown, true)) >= most * sides;
 }
 
+// The circle through three corners that, with light all round, bounds the light best. Of many
+// corners every so manieth will do.
+std::optional<ImageCircle> Bound(const std::vector<RimPoint>& light, const Grey& grey) {
+    constexpr std::size_t enough = 60;
+    const std::vector<RimPoint> hull = Hull(light);
+    const std::size_t step = hull.size() / enough + 1;
+    std::optional<ImageCircle> best;
+    double most = 0.0;
+    for (std::size_t a = 0; a < hull.size(); a += step) {
+        for (std::size_t b = a + step; b < hull.size(); b += step) {
+            for (std::size_t c = b + step; c < hull.size(); c += step) {
+                const auto circle = Through(hull[a], hull[b], hull[c]);
+                const double score =
+                    circle && MayBe(*circle, grey) ? Bounding(light, *circle) : 0.0;
+                if (score > most && IsAllRound(light, *circle, grey)) {
+                    most = score;
+                    best = circle;
+                }
+            }
+        }
+    }
+    return best;
+}
+
 }  // namespace
 
 std::optional<ImageCircle> CircleAroundLight(const Grey& grey) {
@@ -207,9 +210,7 @@ std::optional<ImageCircle> CircleAroundLight(const Grey& grey) {
     if (!black) {
         return std::nullopt;
     }
-    const std::vector<RimPoint> light = OuterLight(grey, *black);
-    const std::optional<ImageCircle> circle = Bound(light, grey);
-    return circle && IsAllRound(light, *circle, grey) ? circle : std::nullopt;
+    return Bound(OuterLight(grey, *black), grey);
 }
 
 }  // namespace varnel

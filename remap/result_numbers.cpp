@@ -96,12 +96,36 @@ double AreaOf(const GridCell& cell) {
            2.0;
 }
 
+// The share of the way up at which an unrolled result's middle column is half way to the rim.
+std::optional<double> HalfWayUp(const ResultPlaces& places) {
+    if (!places.Circle() || places.Columns().empty()) {
+        return std::nullopt;
+    }
+    const PhotoCircle& circle = *places.Circle();
+    const int column = places.Columns()[places.Columns().size() / 2];
+    double nearest = circle.radius;
+    std::size_t found = 0;
+    for (std::size_t n = 0; n < places.Rows().size(); ++n) {
+        if (const auto place = places.At(column, places.Rows()[n])) {
+            const double distance =
+                std::hypot(place->x - circle.centre.x, place->y - circle.centre.y);
+            if (const double off = std::fabs(distance - circle.radius / 2.0); off < nearest) {
+                nearest = off;
+                found = n;
+            }
+        }
+    }
+    return static_cast<double>(found) / static_cast<double>(places.Rows().size() - 1);
+}
+
 }  // namespace
 
 ResultNumbers MeasureResult(const ResultGrid& grid, const KeptArea& kept) {
     const Stretches stretches(grid.Places());
     ResultNumbers numbers;
-    if (const auto middle = stretches.At(0.5, 0.5)) {
+    numbers.halfWay = grid.Places().IsUnrolled();
+    const auto high = numbers.halfWay ? HalfWayUp(grid.Places()) : 0.5;
+    if (const auto middle = high ? stretches.At(0.5, *high) : std::nullopt) {
         numbers.centreResolution = std::sqrt(middle->Area());
     }
     for (const double across : {0.0, 1.0}) {

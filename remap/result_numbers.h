@@ -11,8 +11,10 @@ namespace varnel {
 
 struct ResultNumbers {
     // Photo pixels for each pixel of the result, along a line, in the result's middle: above 1 the
-    // result is too small to show all that is there. Nothing when the middle is black.
+    // result is too small to show all that is there. Nothing when the middle is black. An unrolled
+    // result has one point of the photo along its middle: there it is half way up to the rim.
     std::optional<double> centreResolution;
+    bool halfWay = false;
     // The result's pixels for each of the photo's, the way they are drawn out most, at the worst of
     // the corners. A corner that shows nothing of the circle counts where, on the way from it to
     // the middle, the circle begins.

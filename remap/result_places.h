@@ -53,6 +53,8 @@ class ResultPlaces {
     const std::vector<int>& Columns() const { return columns_; }
     const std::vector<int>& Rows() const { return rows_; }
     PixelSize Size() const { return size_; }
+    // Whether the photo's middle is a whole row of the result, around which the rest is unrolled.
+    bool IsUnrolled() const { return std::holds_alternative<HorizonMap>(map_); }
 
   private:
     enum class Line { Untouched, Black, Shown };

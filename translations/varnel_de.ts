@@ -1100,8 +1100,16 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>%1 x %2 Pixel</translation>
     </message>
     <message>
-        <source>Centre resolution %1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
-        <translation>Auflösung Mitte %1   |   Eckdehnung bis %2   |   Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
+        <source>Resolution half way to the rim %1</source>
+        <translation>Auflösung halbwegs zum Rand %1</translation>
+    </message>
+    <message>
+        <source>Centre resolution %1</source>
+        <translation>Auflösung Mitte %1</translation>
+    </message>
+    <message>
+        <source>%1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
+        <translation>%1   |   Eckdehnung bis %2   |   Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
     </message>
 </context>
 <context>
@@ -1117,6 +1125,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>its shape, %1 : 1, is not the sensor&apos;s, %2 : 1; if it was cropped, the gear&apos;s numbers do not fit</source>
         <translation>sein Seitenverhältnis, %1 : 1, ist nicht das des Sensors, %2 : 1; wenn es beschnitten wurde, passen die Werte der Ausrüstung nicht</translation>
+    </message>
+    <message>
+        <source>Not this photo&apos;s gear</source>
+        <translation>Nicht die Ausrüstung dieses Fotos</translation>
     </message>
 </context>
 <context>
@@ -2166,8 +2178,20 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Die Ausrüstung „%1“ auf %2 ändern? Fotos, die schon angepasst sind, behalten ihren Kreis, bis auf das aktuelle.</translation>
     </message>
     <message>
-        <source>The gear &quot;%1&quot; has the circle now; undo takes it back from the photos.</source>
-        <translation>Die Ausrüstung „%1“ hat den Kreis jetzt; Rückgängig nimmt ihn von den Fotos zurück.</translation>
+        <source>A rough image circle, from the light inside: it is dark at the rim. Drag the rim where it is not right.</source>
+        <translation>Ein ungefährer Bildkreis, aus dem Licht darin: Am Rand ist es dunkel. Ziehen Sie den Rand, wo er nicht stimmt.</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; has the circle now; undo takes it back.</source>
+        <translation>Die Ausrüstung „%1“ hat den Kreis jetzt; Rückgängig nimmt ihn zurück.</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; has the circle %2 again.</source>
+        <translation>Die Ausrüstung „%1“ hat wieder den Kreis %2.</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; stays as it is: it was edited or deleted since.</source>
+        <translation>Die Ausrüstung „%1“ bleibt, wie sie ist: Sie wurde seither geändert oder gelöscht.</translation>
     </message>
 </context>
 <context>
@@ -2499,6 +2523,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Opens the gear editor with the camera and the lens chosen</source>
         <translation>Öffnet das Fenster für Ausrüstungen, Kamera und Objektiv sind schon gewählt</translation>
+    </message>
+    <message>
+        <source>The camera or the lens of the gear in use is not the photo&apos;s: the circle and the angles do not fit.</source>
+        <translation>Kamera oder Objektiv der benutzten Ausrüstung sind nicht die des Fotos: Kreis und Winkel passen nicht.</translation>
     </message>
 </context>
 <context>

@@ -33,6 +33,10 @@ void Drag(WindowDesk& desk, QPointF from, QPointF to) {
     QTest::mouseRelease(box, Qt::LeftButton, {}, at(to));
 }
 
+void Key(WindowDesk& desk, Qt::Key key) {
+    QTest::keyClick(desk.window.focusWidget(), key);
+}
+
 TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     WindowDesk desk;
     desk.AddPhotos({Q("a.bmp")}, {400, 300});
@@ -74,8 +78,11 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     EXPECT_EQ(desk.state.Gear(1), before);
     Drag(desk, {306.0, 186.0}, {306.0, 206.0});
     desk.Click("CmdCircleTake");
+    Key(desk, Qt::Key_Escape);
+    EXPECT_TRUE(desk.Find("CmdCircleTake")->isVisible());
+    desk.Click("CmdCircleTake");
     EXPECT_EQ(desk.state.Gear(1), before);
-    desk.Click("CmdCircleAgree");
+    Key(desk, Qt::Key_Return);
     EXPECT_NEAR(static_cast<double>(desk.state.Gear(1).OfsetX), 10.0, 2.5);
     // 15, but for the screen's coarser pixels.
     EXPECT_NEAR(static_cast<double>(desk.state.Gear(1).OfsetY), 15.0, 3.0);
@@ -83,6 +90,17 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     EXPECT_EQ(desk.Record(1).Ratio, desk.state.Gear(1).GearRatio);
     EXPECT_NE(desk.store.Get(Q("Gear"), Q("GearOfsetY1"), {}), QString());
     EXPECT_FALSE(desk.Find<QPushButton>("CmdCircleTake")->isEnabled());
+    const GearRecord after = desk.state.Gear(1);
+    desk.Entry("CmdEditUndo")->trigger();
+    EXPECT_EQ(desk.state.Gear(1), before);
+    EXPECT_EQ(desk.store.Get(Q("Gear"), Q("GearOfsetY1"), {}), Q("0"));
+    desk.Entry("CmdEditRedo")->trigger();
+    EXPECT_EQ(desk.state.Gear(1), after);
+    desk.state.Gear(1).hAOV = 99.0F;
+    desk.Entry("CmdEditUndo")->trigger();
+    EXPECT_EQ(desk.state.Gear(1).OfsetY, after.OfsetY);
+    EXPECT_NE(desk.Record(1).OfsetY, after.OfsetY);
+    EXPECT_TRUE(desk.Label("StatusText").contains(Q("edited or deleted since")));
 }
 
 }  // namespace

@@ -317,8 +317,19 @@ TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
     };
     const GearTable table = Table({canonSigma, nikonSigma});
     for (const auto& c : cases) {
-        const GearOffer offer = OfferFor(c.origin, table, c.current);
-        EXPECT_EQ(offer.line, Q(c.line));
+        ImageRecord image;
+        image.CameraBrand = c.current.cameraBrand;
+        image.CameraModel = c.current.cameraModel;
+        image.LensBrand = c.current.lensBrand;
+        image.LensModel = c.current.lensModel;
+        image.Width = image.Height = 1600;  // cropped, when that gear took it
+        image.SensorWidth = 23.5F;
+        image.SensorHeight = 15.6F;
+        const GearOffer offer = OfferFor(c.origin, table, image);
+        const bool other = c.gear > 0 || c.define;
+        EXPECT_EQ(offer.line, other || *c.line == '\0' ? Q(c.line) : Q(c.line) + Q(" (cropped?)"));
+        EXPECT_EQ(offer.trouble, other ? Q("Not this photo's gear") : QString()) << c.line;
+        EXPECT_EQ(offer.reason.contains(Q("1.00 : 1")), !other && *c.line != '\0') << c.line;
         EXPECT_EQ(offer.gear, c.gear) << c.line;
         EXPECT_EQ(offer.define, c.define) << c.line;
     }

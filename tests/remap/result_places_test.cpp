@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 #include <set>
 #include <string>
@@ -279,6 +280,18 @@ TEST(MeasureResult, MiddleAndCornersOfAStraightView) {
     EXPECT_NEAR(*numbers.cornerStretch, 1.0 / radial, 0.001);
     EXPECT_EQ(numbers.rectangle.width, 1000);
     EXPECT_EQ(numbers.rectangle.height, 667);
+}
+
+// A circle of 400 pixels around (500, 500), unrolled onto 1000 columns: half way up to the rim a
+// pixel of the result is 200 x 2 pi / 1000 of the photo's across and the row divisor, 2, along.
+TEST(MeasureResult, AnUnrolledViewIsMeasuredHalfWayToTheRim) {
+    const ResultPlaces places(Projection::Horizon, testing::FisheyeRecord(), {1000, 1000});
+    const ResultGrid grid(places);
+    const ResultNumbers numbers = MeasureResult(grid, MeasureKept(grid));
+    EXPECT_TRUE(numbers.halfWay);
+    ASSERT_TRUE(numbers.centreResolution);
+    EXPECT_NEAR(*numbers.centreResolution, std::sqrt(200.0 * 2.0 * std::numbers::pi / 1000.0 * 2.0),
+                0.02);
 }
 
 TEST(MapMagnification, ClassesAndBlackCells) {

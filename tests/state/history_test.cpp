@@ -185,6 +185,32 @@ TEST(History, KeepsABoundedNumberOfStepsAndLines) {
     }
 }
 
+TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
+    GearTable table;
+    table.Resize(2);
+    table(2).GearName = Q("A");
+    const GearRecord before = table(2);
+    table(2).OfsetX = 4.5F;
+    const GearRecord after = table(2);
+    Images images = Photos("ab");
+    History history;
+    history.Note(Q("add"), images);
+    history.Note(Q("circle"), images, {}, {.onAllLines = true, .gear = GearChange{before, after}});
+    const auto back = history.Undo(images);
+    EXPECT_TRUE(back->changed.empty() && back->besides.onAllLines);
+    EXPECT_TRUE(ChangeGear(table, *back->besides.gear));
+    EXPECT_EQ(table(2), before);
+    const auto again = history.Redo(images);
+    EXPECT_TRUE(ChangeGear(table, *again->besides.gear));
+    EXPECT_EQ(table(2), after);
+    table(2).hAOV = 1.0F;  // edited
+    EXPECT_FALSE(ChangeGear(table, *history.Undo(images)->besides.gear));
+    EXPECT_EQ(table(2).OfsetX, 4.5F);
+    table.Remove(2);
+    EXPECT_FALSE(ChangeGear(table, *back->besides.gear));
+    EXPECT_EQ(history.UndoName(), Q("add"));
+}
+
 TEST(History, AProjectIsAStepAndTakesItsNameBack) {
     Images images = Photos("ab");
     History history;

@@ -12,6 +12,9 @@ namespace varnel {
 
 namespace {
 
+constexpr int dark = 128;  // of 255
+constexpr QColor linkOnDark(110, 175, 255);
+
 void PaintFrame(QPainter& painter, const QRect& place, const QColor& colour) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -46,6 +49,10 @@ void FocusStyle::polish(QPalette& palette) {
     QColor hint = palette.color(QPalette::Text);
     hint.setAlpha(128);
     palette.setColor(QPalette::PlaceholderText, hint);
+    if (palette.color(QPalette::Base).lightness() < dark &&
+        palette.color(QPalette::Link).lightness() <= dark) {
+        palette.setColor(QPalette::Link, linkOnDark);
+    }
 }
 
 }  // namespace varnel

@@ -59,9 +59,16 @@ QVariant GuideText::loadResource(int type, const QUrl& name) {
     if (type != QTextDocument::ImageResource) {
         return resource;
     }
-    const QImage picture = QImage::fromData(resource.toByteArray());
+    QImage picture = QImage::fromData(resource.toByteArray());
     const int room = std::max(200, viewport()->width() - 2 * margin);
-    return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation) : picture;
+    if (picture.width() > room) {
+        const int pixels = static_cast<int>(room * devicePixelRatioF());
+        if (picture.width() > pixels) {
+            picture = picture.scaledToWidth(pixels, Qt::SmoothTransformation);
+        }
+        picture.setDevicePixelRatio(static_cast<double>(picture.width()) / room);
+    }
+    return picture;
 }
 
 void GuideText::doSetSource(const QUrl& page, QTextDocument::ResourceType type) {

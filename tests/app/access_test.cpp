@@ -76,12 +76,15 @@ TEST(Access, TheToolsOverThePhoto) {
     EXPECT_FALSE(desk.Find("ZoomText")->isVisible());
 }
 
-TEST(FocusStyle, HintsInFieldsAreReadOnADarkDesktop) {
-    QPalette dark;
+TEST(FocusStyle, HintsAndLinksAreReadOnADarkDesktop) {
+    QPalette dark(QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Link, Qt::blue);
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::PlaceholderText, Qt::black);
     FocusStyle().polish(dark);
     EXPECT_EQ(dark.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
+    EXPECT_GT(dark.color(QPalette::Link).lightness(), 150);
 }
 
 }  // namespace

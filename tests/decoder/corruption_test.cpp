@@ -21,15 +21,6 @@ using testing::SeedFile;
 
 constexpr int secondsPerPhoto = 5;
 
-std::string Pixels(const LoadedPicture& picture) {
-    std::string pixels;
-    for (int y = 0; y < picture.size.height; ++y) {
-        const auto row = ScanLine(picture.bitmap.get(), y);
-        pixels.append(row.begin(), row.end());
-    }
-    return pixels;
-}
-
 bool HasProfile(const LoadedPicture& picture) {
     const FIICCPROFILE* const profile = FreeImage_GetICCProfile(picture.bitmap.get());
     return QByteArray(static_cast<const char*>(profile->data), profile->size) ==
@@ -72,7 +63,7 @@ TEST_P(DamagedFiles, GetAnAnswerInTimeAndLeaveTheReaderSound) {
     std::cout << trial.Tally().Table();
     const LoadedPicture last = trial.Read(good);
     ASSERT_EQ(last.outcome, LoadOutcome::Loaded) << last.reason.toStdString();
-    EXPECT_EQ(Pixels(last), Pixels(first));
+    EXPECT_TRUE(testing::SamePixels(last.bitmap.get(), first.bitmap.get()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Part, DamagedFiles, ::testing::Range(0, 4));
@@ -106,14 +97,22 @@ TEST_P(Bombs, AreRefusedAtOnceAndTakeNoMemory) {
     for (const BombFile& bomb : bombs) {
         const QString path = folder.Path(QStringLiteral("photo"));
         testing::WriteFile(path, bomb.bytes);
-        QElapsedTimer timer;
-        timer.start();
-        const LoadedPicture picture = ReadPicture(*reader, {path});
-        std::cout << bomb.name << ": " << timer.elapsed() << " ms, " << picture.reason.toStdString()
-                  << '\n';
-        EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << bomb.name;
-        EXPECT_FALSE(picture.reason.isEmpty()) << bomb.name;
-        EXPECT_LT(timer.elapsed(), 5000) << bomb.name;
+        // Others may find something else wrong first, or count a column more.
+        const bool saysSize = bomb.name.starts_with("jpeg") || bomb.name.starts_with("png") ||
+                              bomb.name.starts_with("bmp") || bomb.name == "tiff/big-endian";
+        const QString start =
+            saysSize ? QStringLiteral("too large: %1 x %1 pixels").arg(side) : QString();
+        for (const ReadKind kind : {ReadKind::Whole, ReadKind::Size, ReadKind::Small}) {
+            QElapsedTimer timer;
+            timer.start();
+            const LoadedPicture picture = ReadPicture(*reader, {path, kind, {60, 60}});
+            const std::string reason = picture.reason.toStdString();
+            std::cout << bomb.name << ": " << timer.elapsed() << " ms, " << reason << '\n';
+            EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << bomb.name;
+            EXPECT_TRUE(!picture.reason.isEmpty() && picture.reason.startsWith(start))
+                << bomb.name << ": " << reason;
+            EXPECT_LT(timer.elapsed(), 5000) << bomb.name;
+        }
     }
     EXPECT_LT(HighestMemory() - before, 10'000'000);
 }

@@ -18,18 +18,16 @@
 #include "decoder/decoder_reader.h"
 #include "decoder/protocol.h"
 #include "tests/support/files.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
 using testing::PictureFolder;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 QByteArray ProcessStatus(pid_t id) {
-    return testing::Contents(Q("/proc/%1/status").arg(id));
+    return testing::Contents(Text("/proc/%1/status").arg(id));
 }
 
 TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
@@ -42,12 +40,12 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
         "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/"
         "elements/1.1/' dc:source='a lake'/></rdf:RDF>");
     FreeImage_SetDotsPerMeterX(photo.get(), 11811);
-    ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Q("a")), 90));
+    ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Text("a")), 90));
     const BitmapHandle direct(FreeImage_Load(
-        FIF_JPEG, QFile::encodeName(folder.Path(Q("a"))).constData(), JPEG_ACCURATE));
+        FIF_JPEG, QFile::encodeName(folder.Path(Text("a"))).constData(), JPEG_ACCURATE));
     DecoderReader reader({});
     for (int round = 0; round < 3; ++round) {
-        const LoadedPicture picture = ReadPicture(reader, {folder.Path(Q("a"))});
+        const LoadedPicture picture = ReadPicture(reader, {folder.Path(Text("a"))});
         ASSERT_TRUE(picture.bitmap) << picture.reason.toStdString();
         FIBITMAP* const bitmap = picture.bitmap.get();
         EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
@@ -60,11 +58,11 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
 
 TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
     const PictureFolder folder;
-    folder.Picture(Q("a"), FIF_PNG);
-    folder.Picture(Q("b"), FIF_PNG, {90, 20});
+    folder.Picture(Text("a"), FIF_PNG);
+    folder.Picture(Text("b"), FIF_PNG, {90, 20});
     auto reader = std::make_unique<DecoderReader>(ReaderOptions{});
-    const LoadedPicture a = ReadPicture(*reader, {folder.Path(Q("a"))});
-    const LoadedPicture b = ReadPicture(*reader, {folder.Path(Q("b"))});
+    const LoadedPicture a = ReadPicture(*reader, {folder.Path(Text("a"))});
+    const LoadedPicture b = ReadPicture(*reader, {folder.Path(Text("b"))});
     reader.reset();
     EXPECT_EQ(testing::PixelAt(a.bitmap.get(), 50, 30).rgbBlue, 50);
     EXPECT_EQ(testing::PixelAt(b.bitmap.get(), 80, 10).rgbBlue, 80);
@@ -72,7 +70,7 @@ TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
 
 TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Q("a.jpg"), FIF_JPEG, {900, 600});
+    const QString path = folder.Picture(Text("a.jpg"), FIF_JPEG, {900, 600});
     DecoderReader reader({});
     const LoadedPicture whole = ReadPicture(reader, {path});
     ASSERT_TRUE(whole.bitmap);
@@ -93,7 +91,7 @@ TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
 
 // In place of the decoder: something that does not do as it should.
 QString Impostor(const PictureFolder& folder, const char* script) {
-    const QString path = folder.Path(Q("impostor"));
+    const QString path = folder.Path(Text("impostor"));
     testing::WriteFile(path, QByteArray("#!/bin/sh\n") + script);
     QFile::setPermissions(path, QFile::Permissions(0x7700));
     return path;
@@ -101,13 +99,13 @@ QString Impostor(const PictureFolder& folder, const char* script) {
 
 TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
     const PictureFolder folder;
-    const QString photo = folder.Picture(Q("a.png"), FIF_PNG);
+    const QString photo = folder.Picture(Text("a.png"), FIF_PNG);
     const struct {
         QString program;
         const char* reason;
     } rows[] = {
         {Impostor(folder, "exec sleep 60\n"), "took too long (more than 1 seconds)"},
-        {folder.Path(Q("none")), "the decoder could not be started ("},
+        {folder.Path(Text("none")), "the decoder could not be started ("},
     };
     for (const auto& row : rows) {
         DecoderReader reader({.program = row.program, .secondsPerPhoto = 1});
@@ -115,7 +113,7 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
         timer.start();
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
-        EXPECT_TRUE(picture.reason.startsWith(Q(row.reason))) << picture.reason.toStdString();
+        EXPECT_TRUE(picture.reason.startsWith(Text(row.reason))) << picture.reason.toStdString();
         EXPECT_LT(timer.elapsed(), 20'000);
     }
     const struct {
@@ -135,10 +133,10 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
 
 TEST(DecoderReader, CanBeCancelledAndGoesOnWithTheNextPhoto) {
     const PictureFolder folder;
-    const QString photo = folder.Picture(Q("a.jpg"), FIF_JPEG, {2000, 1500});
+    const QString photo = folder.Picture(Text("a.jpg"), FIF_JPEG, {2000, 1500});
     DecoderReader reader({});
     const LoadedPicture given = ReadPicture(reader, {photo}, [] { return false; });
-    EXPECT_TRUE(given.bitmap || given.reason == Q("cancelled"));
+    EXPECT_TRUE(given.bitmap || given.reason == Text("cancelled"));
     reader.Begin({photo});
     reader.Cancel();
     EXPECT_TRUE(ReadPicture(reader, {photo}).bitmap);
@@ -181,7 +179,7 @@ TEST(DecoderReader, LeavesNoProcessBehindAndEndsWithItsParent) {
 TEST(DecoderReader, MayDoNothingButDecode) {
     const PictureFolder folder;
     DecoderReader reader({});
-    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Q("a"), FIF_PNG)}).bitmap);
+    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), FIF_PNG)}).bitmap);
     const QByteArray status = ProcessStatus(reader.ProcessId());
     EXPECT_TRUE(status.contains("NoNewPrivs:\t1")) << status.toStdString();
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
@@ -189,16 +187,16 @@ TEST(DecoderReader, MayDoNothingButDecode) {
         EXPECT_TRUE(status.contains("Seccomp:\t2")) << status.toStdString();
     }
 #endif
-    const QByteArray limits = testing::Contents(Q("/proc/%1/limits").arg(reader.ProcessId()));
+    const QByteArray limits = testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId()));
     EXPECT_TRUE(
-        QString::fromUtf8(limits).contains(QRegularExpression(Q("Max core file size +0 "))));
+        QString::fromUtf8(limits).contains(QRegularExpression(Text("Max core file size +0 "))));
 }
 
 TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {
     const PictureFolder folder;
-    const QString path = folder.Path(Q("a.jpg"));
-    const QByteArray one = testing::Contents(folder.Picture(Q("one"), FIF_JPEG, {900, 600}));
-    const QByteArray two = testing::Contents(folder.Picture(Q("two"), FIF_JPEG, {600, 900}));
+    const QString path = folder.Path(Text("a.jpg"));
+    const QByteArray one = testing::Contents(folder.Picture(Text("one"), FIF_JPEG, {900, 600}));
+    const QByteArray two = testing::Contents(folder.Picture(Text("two"), FIF_JPEG, {600, 900}));
     testing::WriteFile(path, one);
     DecoderReader reader({});
     for (int n = 0; n < 30; ++n) {

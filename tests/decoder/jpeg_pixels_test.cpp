@@ -99,13 +99,7 @@ QString ExpectAsByLibrary(const QByteArray& bytes, Wanted wanted) {
     EXPECT_TRUE(photo->extras == expected->extras);
     EXPECT_EQ(photo->messages, expected->messages);
     EXPECT_EQ(photo->damage, expected->damage);
-    for (int y = 0; y < SizeOf(expected->bitmap.get()).height; ++y) {
-        if (!std::ranges::equal(ScanLine(photo->bitmap.get(), y),
-                                ScanLine(expected->bitmap.get(), y))) {
-            ADD_FAILURE() << "row " << y;
-            break;
-        }
-    }
+    EXPECT_TRUE(testing::SamePixels(photo->bitmap.get(), expected->bitmap.get()));
     return photo->damage;
 }
 

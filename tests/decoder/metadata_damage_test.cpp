@@ -23,6 +23,7 @@ namespace {
 using testing::DescribedKind;
 using testing::MetadataBlocks;
 using testing::Mutator;
+using testing::PixelBytes;
 
 const QString allLost = QStringLiteral("written without its metadata: it cannot be read");
 constexpr qint64 mostMilliseconds = 9000;  // five seconds, a new decoder and a busy machine
@@ -66,20 +67,11 @@ class Damage : public Mutator {
     }
 };
 
-QByteArray Pixels(FIBITMAP* bitmap) {
-    QByteArray pixels;
-    for (int y = 0; bitmap != nullptr && y < SizeOf(bitmap).height; ++y) {
-        const auto row = ScanLine(bitmap, y);
-        pixels.append(reinterpret_cast<const char*>(row.data()),
-                      static_cast<qsizetype>(row.size()));
-    }
-    return pixels;
-}
-
 class MetadataTrial {
   public:
     explicit MetadataTrial(const DescribedKind& kind)
-        : kind_(kind), sound_(Pixels(Read(kind.file(testing::SoundBlocks(false))).bitmap.get())) {}
+        : kind_(kind),
+          sound_(PixelBytes(Read(kind.file(testing::SoundBlocks(false))).bitmap.get())) {}
 
     // What became of the metadata, for the tally.
     std::string Try(const MetadataBlocks& blocks, bool write) {
@@ -93,7 +85,7 @@ class MetadataTrial {
         if (!picture.bitmap) {
             return "lost";
         }
-        EXPECT_TRUE(Pixels(picture.bitmap.get()) == sound_);
+        EXPECT_TRUE(PixelBytes(picture.bitmap.get()) == sound_);
         const QStringList notes = MetadataOf(picture.bitmap.get()).notes;
         EXPECT_EQ(QSet<QString>(notes.begin(), notes.end()).size(), notes.size());
         if (reader_.ProcessId() != decoder) {
@@ -119,7 +111,8 @@ class MetadataTrial {
             const LoadedPicture again = Read(file.bytes);
             EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << again.reason.toStdString();
             if (again.bitmap) {
-                EXPECT_TRUE(format == FIF_JPEG || Pixels(again.bitmap.get()) == sound_) << format;
+                EXPECT_TRUE(format == FIF_JPEG || PixelBytes(again.bitmap.get()) == sound_)
+                    << format;
                 const QStringList notes = MetadataOf(again.bitmap.get()).notes;
                 EXPECT_TRUE(notes.isEmpty()) << format << notes.join(u'\n').toStdString();
             }
@@ -266,7 +259,7 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
-        EXPECT_EQ(Pixels(picture.bitmap.get()), QByteArray(24, 'p'));
+        EXPECT_EQ(PixelBytes(picture.bitmap.get()), QByteArray(24, 'p'));
         EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, QStringList{allLost});
     }
     testing::WriteFile(photo, orders[0]);

@@ -7,10 +7,9 @@
 
 #include <string>
 
-#include "decoder/decode_picture.h"
 #include "remap/coding/library_file.h"
 #include "remap/turn.h"
-#include "tests/decoder/photo_makers.h"
+#include "tests/decoder/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/jpeg_files.h"
@@ -18,14 +17,10 @@
 namespace varnel {
 namespace {
 
+using testing::Decode;
 using testing::Order;
 using testing::TiffBytes;
 using testing::TiffType;
-
-LoadedPicture Decode(QByteArray contents, const ReadRequest& request) {
-    const FileHandle file(fmemopen(contents.data(), contents.size(), "rb"));
-    return DecodePicture(file.get(), request, std::uint64_t{16} << 30);
-}
 
 QByteArray Exif(int orientation, Order order = Order::Big) {
     TiffBytes tiff(order);
@@ -69,17 +64,20 @@ QByteArray Tiff(FIBITMAP* bitmap, int orientation, bool ycc) {
             pixels.append(samples, 3);
         }
     }
-    return testing::Tiff({{256, 4, {SizeOf(bitmap).width}},
-                          {257, 4, {SizeOf(bitmap).height}},
-                          {258, 3, {8, 8, 8}},
-                          {259, 3, {1}},
-                          {262, 3, {ycc ? 6 : 2}},
-                          {274, 3, {orientation}},
-                          {277, 3, {3}},
-                          {278, 4, {SizeOf(bitmap).height}},
-                          {284, 3, {1}},
-                          {530, 3, {1, 1}}},
-                         pixels);
+    using enum TiffType;
+    const auto width = static_cast<std::uint32_t>(SizeOf(bitmap).width);
+    const auto height = static_cast<std::uint32_t>(SizeOf(bitmap).height);
+    return testing::StripTiff({{256, Long, {width}},
+                               {257, Long, {height}},
+                               {258, Short, {8, 8, 8}},
+                               {259, Short, {1}},
+                               {262, Short, {ycc ? 6U : 2U}},
+                               {274, Short, {static_cast<std::uint32_t>(orientation)}},
+                               {277, Short, {3}},
+                               {278, Long, {height}},
+                               {284, Short, {1}},
+                               {530, Short, {1, 1}}},
+                              pixels);
 }
 
 // Greys as letters, from the top row.
@@ -148,11 +146,8 @@ TEST(DecodePicture, TurnsJpegAsItIsDecoded) {
             const BitmapHandle expected(FreeImage_Rotate(plain.bitmap.get(), row.turned));
             const LoadedPicture picture = Decode(file, {});
             ASSERT_EQ(SizeOf(picture.bitmap.get()).width, SizeOf(expected.get()).width);
-            for (int y = 0; y < picture.size.height; ++y) {
-                EXPECT_TRUE(std::ranges::equal(ScanLine(picture.bitmap.get(), y),
-                                               ScanLine(expected.get(), y)))
-                    << orientation << ' ' << flags << ' ' << y;
-            }
+            EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), expected.get()))
+                << orientation << ' ' << flags;
             const LoadedPicture small = Decode(file, {{}, ReadKind::Small, {20, 10}});
             EXPECT_EQ(SizeOf(small.bitmap.get()).width, orientation < 5 ? 6 : 18);
             EXPECT_EQ(SizeOf(small.bitmap.get()).height, 10);
@@ -167,8 +162,8 @@ TEST(DecodePicture, TellsHowARawPhotoWasTurnedAndLeavesItAlone) {
         for (const ReadKind kind : {ReadKind::Whole, ReadKind::Size}) {
             for (const int orientation : {1, 3, 6, 8}) {
                 const LoadedPicture picture =
-                    Decode(testing::Dng({90, 70}, false, orientation), {{}, kind, {}, upright});
-                EXPECT_EQ(picture.size.width, orientation < 5 ? 90 : 70);
+                    Decode(testing::RawPhoto(false, orientation), {{}, kind, {}, upright});
+                EXPECT_EQ(picture.size.width, orientation < 5 ? 64 : 48);
                 EXPECT_EQ(picture.orientation, upright ? orientation : 1);
             }
         }

@@ -12,16 +12,14 @@
 #include "tests/support/file_bytes.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
 using testing::LoadPicture;
 using testing::PictureFolder;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 PixelSize SizeAt(const QString& path) {
     return ReadPicture(testing::Reader(), {path, ReadKind::Size, {}}).size;
@@ -30,7 +28,7 @@ PixelSize SizeAt(const QString& path) {
 TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
     const PictureFolder folder;
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
-        const QString path = folder.Picture(Q("Küste %1.jpg").arg(format), format);
+        const QString path = folder.Picture(Text("Küste %1.jpg").arg(format), format);
         const LoadedPicture picture = LoadPicture(path);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
@@ -42,13 +40,14 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
 
 TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
     const PictureFolder folder;
-    ASSERT_EQ(mkfifo(QFile::encodeName(folder.Path(Q("pipe.jpg"))).constData(), 0600), 0);
-    QFile::link(folder.Path(Q("gone")), folder.Path(Q("link.jpg")));
-    QFile::link(folder.Path(Q("loop.jpg")), folder.Path(Q("loop.jpg")));
+    ASSERT_EQ(mkfifo(QFile::encodeName(folder.Path(Text("pipe.jpg"))).constData(), 0600), 0);
+    QFile::link(folder.Path(Text("gone")), folder.Path(Text("link.jpg")));
+    QFile::link(folder.Path(Text("loop.jpg")), folder.Path(Text("loop.jpg")));
     const BitmapHandle wide(FreeImage_Allocate(32768, 1, 8));
-    FreeImage_Save(FIF_PNG, wide.get(), QFile::encodeName(folder.Path(Q("wide.png"))).constData());
-    folder.Text(Q("text.jpg"));
-    folder.Empty(Q("empty.jpg"));
+    FreeImage_Save(FIF_PNG, wide.get(),
+                   QFile::encodeName(folder.Path(Text("wide.png"))).constData());
+    folder.Text(Text("text.jpg"));
+    folder.Empty(Text("empty.jpg"));
     const std::pair<const char*, const char*> rows[] = {
         {"none.jpg", "there is no such file"},
         {"", "this is a folder, not a picture"},
@@ -61,7 +60,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
     for (const auto& [name, reason] : rows) {
         for (const ReadKind kind : {ReadKind::Whole, ReadKind::Size, ReadKind::Small}) {
             const LoadedPicture picture =
-                ReadPicture(testing::Reader(), {folder.Path(Q(name)), kind, {108, 72}});
+                ReadPicture(testing::Reader(), {folder.Path(Text(name)), kind, {108, 72}});
             EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << name;
             EXPECT_EQ(picture.reason.toStdString(), reason);
             EXPECT_FALSE(picture.bitmap);
@@ -71,7 +70,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
 
 TEST(PictureReader, AFileWithoutPermissionSaysSo) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Q("secret.png"), FIF_PNG);
+    const QString path = folder.Picture(Text("secret.png"), FIF_PNG);
     QFile::setPermissions(path, {});
     QFile::setPermissions(folder.Path({}), QFile::Permissions(0x7755));
     EXPECT_EXIT(
@@ -81,36 +80,14 @@ TEST(PictureReader, AFileWithoutPermissionSaysSo) {
                 std::_Exit(2);
             }
             const QString reason = ReadPicture(*NewPictureReader(), {path}).reason;
-            std::_Exit(reason == Q("no permission to read it") ? 0 : 1);
+            std::_Exit(reason == Text("no permission to read it") ? 0 : 1);
         },
         ::testing::ExitedWithCode(0), "");
 }
 
-TEST(PictureReader, SmallPicturesFitTheBoxWithTheirLowerRowsBelow) {
-    const PictureFolder folder;
-    const std::pair<PixelSize, PixelSize> cases[] = {
-        {{1080, 720}, {108, 72}}, {{720, 1080}, {48, 72}}, {{60, 40}, {60, 40}}};
-    for (const auto& [size, expected] : cases) {
-        const BitmapHandle halves = testing::Painted(size, [&, height = size.height](int, int y) {
-            return y < height / 2 ? RGBQUAD{250, 0, 0, 0} : RGBQUAD{0, 0, 250, 0};
-        });
-        for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG}) {
-            const QString path = folder.Path(Q("halves"));
-            SaveBitmap(format, halves.get(), path, 0);
-            const BitmapHandle small =
-                ReadPicture(testing::Reader(), {path, ReadKind::Small, {108, 72}}).bitmap;
-            ASSERT_TRUE(small);
-            EXPECT_EQ(SizeOf(small.get()).width, expected.width);
-            EXPECT_EQ(SizeOf(small.get()).height, expected.height);
-            EXPECT_GT(testing::PixelAt(small.get(), 5, 5).rgbBlue, 200);
-            EXPECT_GT(testing::PixelAt(small.get(), 5, expected.height - 5).rgbRed, 200);
-        }
-    }
-}
-
 TEST(PhotoLoader, TurnsPhotosAsTheSettingsSayAtThatMomentAndTheirCentreWithThem) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Q("a.png"), FIF_PNG);
+    const QString path = folder.Picture(Text("a.png"), FIF_PNG);
     QByteArray file = testing::Contents(path);
     constexpr qsizetype afterHeader = 33;
     testing::TiffBytes exif(testing::Order::Big);

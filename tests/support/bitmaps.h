@@ -4,8 +4,10 @@
 // Small pictures for tests. Rows count from the bottom.
 #pragma once
 
+#include <QByteArray>
 #include <algorithm>
 #include <functional>
+#include <random>
 
 #include "remap/bitmap.h"
 #include "remap/pixel_access.h"
@@ -31,6 +33,30 @@ inline BitmapHandle PositionPicture(PixelSize size) {
     });
 }
 
+// Every byte by chance, the same each time.
+inline BitmapHandle Noise(PixelSize size) {
+    std::mt19937 random(7);
+    return Painted(size, [&](int, int) {
+        const auto level = [&] { return static_cast<BYTE>(random()); };
+        return RGBQUAD{level(), level(), level(), 0};
+    });
+}
+
+// A slope with the grain of a sensor, like a photo.
+inline BitmapHandle Grainy(PixelSize size) {
+    BitmapHandle bitmap = NewBitmap(size);
+    std::minstd_rand random(3);
+    for (int y = 0; y < size.height; ++y) {
+        const std::span<std::uint8_t> row = ScanLine(bitmap.get(), y);
+        for (std::size_t x = 0; x < row.size(); ++x) {
+            const auto grain = random() >> 8;
+            row[x] = static_cast<std::uint8_t>(x / 9 * (1 + x % 3) + static_cast<unsigned>(y) / 5 +
+                                               grain % 4 + grain / 4 % 4);
+        }
+    }
+    return bitmap;
+}
+
 inline RGBQUAD PixelAt(FIBITMAP* bitmap, int x, int y) {
     RGBQUAD colour{1, 2, 3, 4};
     GetPixelColor(bitmap, x, y, colour);
@@ -47,6 +73,25 @@ inline bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
         same = std::ranges::equal(ScanLine(one, y), ScanLine(other, y));
     }
     return same;
+}
+
+// All rows' bytes, one after the other from the bottom; none of no picture.
+inline QByteArray PixelBytes(FIBITMAP* bitmap) {
+    QByteArray bytes;
+    for (int y = 0; bitmap != nullptr && y < SizeOf(bitmap).height; ++y) {
+        const auto row = ScanLine(bitmap, y);
+        bytes.append(reinterpret_cast<const char*>(row.data()), std::ssize(row));
+    }
+    return bytes;
+}
+
+// The picture that a file holds, as the library reads it; none when it refuses.
+inline BitmapHandle FromFile(FREE_IMAGE_FORMAT format, QByteArray file, int flags = 0) {
+    FIMEMORY* const memory =
+        FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
+    BitmapHandle bitmap(FreeImage_LoadFromMemory(format, memory, flags));
+    FreeImage_CloseMemory(memory);
+    return bitmap;
 }
 
 inline bool IsBlack(FIBITMAP* bitmap, int x, int y) {

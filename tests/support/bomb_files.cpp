@@ -51,13 +51,6 @@ const SizePlace sizePlaces[] = {
     {"j2k/grey", "\xff\x51", 22, 4},  // its only tile
 };
 
-QByteArray Seed(const std::string& name) {
-    const auto& seeds = SeedFiles();
-    return std::find_if(seeds.begin(), seeds.end(),
-                        [&](const SeedFile& seed) { return seed.name == name; })
-        ->bytes;
-}
-
 QByteArray Declaring(QByteArray file, const SizePlace& place, int side) {
     const qsizetype start = std::max<qsizetype>(file.indexOf(place.mark), 0) + place.after;
     if (place.bytes == 0) {

@@ -65,9 +65,10 @@ QString Trouble(const LoadedPicture& picture) {
 }  // namespace
 
 void DamageTally::Add(const std::string& type, Verdict verdict, qint64 milliseconds) {
-    Row& row = rows_[type];
-    ++row.counts[static_cast<std::size_t>(verdict)];
-    row.slowest = std::max(row.slowest, milliseconds);
+    for (Row* const row : {&rows_[type], &rows_["all"]}) {
+        ++row->counts[static_cast<std::size_t>(verdict)];
+        row->slowest = std::max(row->slowest, milliseconds);
+    }
 }
 
 void DamageTally::Add(const DamageTally& other) {
@@ -81,16 +82,9 @@ void DamageTally::Add(const DamageTally& other) {
 }
 
 std::string DamageTally::Table() const {
-    DamageTally all;
-    for (const auto& [type, row] : rows_) {
-        DamageTally one;
-        one.rows_["all"] = row;
-        all.Add(one);
-    }
-    all.rows_.insert(rows_.begin(), rows_.end());
     std::string table =
         "type      files   loaded  damaged  refused     died  too long  slowest, ms\n";
-    for (const auto& [type, row] : all.rows_) {
+    for (const auto& [type, row] : rows_) {
         const auto& [loaded, damaged, refused, died, tooLong] = row.counts;
         std::array<char, 120> line{};
         std::snprintf(line.data(), line.size(), "%-6s %8d %8d %8d %8d %8d %9d %12lld\n",

@@ -3,7 +3,7 @@
 
 #include "tests/support/described_files.h"
 
-#include <algorithm>
+#include <QtEndian>
 #include <vector>
 
 #include "tests/support/file_bytes.h"
@@ -12,15 +12,6 @@
 namespace varnel::testing {
 
 namespace {
-
-const QByteArray& Seed(const char* name) {
-    return std::ranges::find(SeedFiles(), name, &SeedFile::name)->bytes;
-}
-
-QByteArray ImageResource(const QByteArray& iptc) {
-    return "8BIM" + Numbers({4, 4, 0, 0}, 1) + Number(iptc.size(), 4, Order::Big) + iptc +
-           QByteArray(iptc.size() % 2, '\0');
-}
 
 QByteArray ShortSegment(int marker, const QByteArray& data) {
     constexpr qsizetype longest = 65533;
@@ -68,17 +59,17 @@ MetadataBlocks SoundBlocks(bool bigEndian) {
 
 QByteArray DescribedJpeg(const MetadataBlocks& blocks) {
     return QByteArray(Seed("jpeg/444"))
-        .insert(
-            2,
-            ShortSegment(0xe1, blocks.exif) +
-                ShortSegment(0xe1, QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + blocks.xmp) +
-                ShortSegment(0xe2, QByteArray("ICC_PROFILE\0\1\1", 14) + blocks.profile) +
-                ShortSegment(0xed, QByteArray("Photoshop 3.0\0", 14) + ImageResource(blocks.iptc)));
+        .insert(2, ShortSegment(0xe1, blocks.exif) +
+                       ShortSegment(0xe1,
+                                    QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + blocks.xmp) +
+                       ShortSegment(0xe2, QByteArray("ICC_PROFILE\0\1\1", 14) + blocks.profile) +
+                       ShortSegment(0xed, QByteArray("Photoshop 3.0\0", 14) +
+                                              ImageResource(1028, blocks.iptc)));
 }
 
 QByteArray DescribedPng(const MetadataBlocks& blocks) {
     constexpr qsizetype behindHeader = 8 + 25;
-    const QByteArray resource = ImageResource(blocks.iptc);
+    const QByteArray resource = ImageResource(1028, blocks.iptc);
     const QByteArray digits = "\niptc\n" + QByteArray::number(resource.size()).rightJustified(8) +
                               '\n' + resource.toHex();
     return QByteArray(Seed("png/colour2-8"))

@@ -99,4 +99,22 @@ QByteArray TiffBytes::Finish(std::uint32_t firstDirectory) const {
     return QByteArray(bytes_).replace(4, 4, Number(firstDirectory, 4, order_));
 }
 
+QByteArray StripTiff(std::vector<TiffField> fields, const QByteArray& pixels) {
+    fields.push_back({279, TiffType::Long, {static_cast<std::uint32_t>(pixels.size())}});
+    fields.push_back({273, TiffType::Long, {0}});
+    QByteArray file;
+    for (int pass = 0; pass < 2; ++pass) {  // the first one tells where the pixels begin
+        fields.back().values = {static_cast<std::uint32_t>(file.size())};
+        TiffBytes tiff(Order::Little);
+        const std::uint32_t place = tiff.Directory(fields);
+        file = tiff.Finish(place);
+    }
+    return file + pixels;
+}
+
+QByteArray ImageResource(int number, const QByteArray& data) {
+    return "8BIM" + Numbers({number, 0}, 2, Order::Big) + Number(data.size(), 4, Order::Big) +
+           data + QByteArray(data.size() % 2, '\0');
+}
+
 }  // namespace varnel::testing

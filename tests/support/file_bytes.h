@@ -54,4 +54,10 @@ class TiffBytes {
     QByteArray bytes_;
 };
 
+// A little-endian TIFF file of one strip, its directory in front of the pixels.
+QByteArray StripTiff(std::vector<TiffField> fields, const QByteArray& pixels);
+
+// What Photoshop calls an image resource: in JPEG and PSD files, IPTC has the number 1028.
+QByteArray ImageResource(int number, const QByteArray& data);
+
 }  // namespace varnel::testing

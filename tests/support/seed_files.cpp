@@ -3,9 +3,12 @@
 
 #include "tests/support/seed_files.h"
 
-#include "remap/library_messages.h"
+#include <algorithm>
+
+#include "remap/coding/library_file.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/jpeg_files.h"
 
 namespace varnel::testing {
 
@@ -107,17 +110,6 @@ BitmapHandle Converted(FIBITMAP* picture, const LibraryKind& kind) {
     }
 }
 
-QByteArray Saved(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags) {
-    FIMEMORY* memory = FreeImage_OpenMemory();
-    FreeImage_SaveToMemory(format, bitmap, memory, flags);
-    BYTE* bytes = nullptr;
-    DWORD length = 0;
-    FreeImage_AcquireMemory(memory, &bytes, &length);
-    const QByteArray file(reinterpret_cast<const char*>(bytes), length);
-    FreeImage_CloseMemory(memory);
-    return file;
-}
-
 void SetTag(FIBITMAP* bitmap, FREE_IMAGE_MDMODEL model, const char* key, int number,
             FREE_IMAGE_MDTYPE type, const QByteArray& value) {
     FITAG* const tag = FreeImage_CreateTag();
@@ -131,41 +123,21 @@ void SetTag(FIBITMAP* bitmap, FREE_IMAGE_MDMODEL model, const char* key, int num
     FreeImage_DeleteTag(tag);
 }
 
-QByteArray Segment(int marker, const QByteArray& data) {
-    return Numbers({0xff, marker}, 1) + Number(data.size() + 2, 2, Order::Big) + data;
-}
-
-// A JPEG with everything that photos carry.
-QByteArray DescribedJpeg(FIBITMAP* picture, bool canon, int flags) {
-    const QByteArray iptc = IptcBlock();
-    return Saved(FIF_JPEG, picture, flags)
-        .insert(2,
-                Segment(0xe1, ExifBlock(canon)) +
-                    Segment(0xe1, QByteArray("http://ns.adobe.com/xap/1.0/\0", 29) + XmpPacket()) +
-                    Segment(0xe2, QByteArray("ICC_PROFILE\0\1\1", 14) + ColourProfile()) +
-                    Segment(0xed, QByteArray("Photoshop 3.0\0"
-                                             "8BIM\4\4\0\0",
-                                             22) +
-                                      Number(iptc.size(), 4, Order::Big) + iptc) +
-                    Segment(0xfe, "a fish's eye"));
-}
-
 // Described photos, written by hand and by the library.
 std::vector<SeedFile> DescribedSeeds(FIBITMAP* picture) {
     const BitmapHandle photo = DescribedPicture();
     std::vector<SeedFile> seeds = {
-        {"jpeg/described", DescribedJpeg(picture, true, 80), seedSize},
-        {"jpeg/described-big-endian", DescribedJpeg(picture, false, 80 | JPEG_PROGRESSIVE),
-         seedSize}};
+        {"jpeg/described", Described(LibraryFile(FIF_JPEG, picture, 80).bytes, true), seedSize},
+        {"jpeg/described-big-endian",
+         Described(LibraryFile(FIF_JPEG, picture, 80 | JPEG_PROGRESSIVE).bytes), seedSize}};
     constexpr std::tuple<const char*, FREE_IMAGE_FORMAT, int> kinds[] = {
         {"jpeg/described-twice", FIF_JPEG, 80},
         {"tiff/described-jpeg", FIF_TIFF, TIFF_JPEG},
         {"tiff/described-lzw", FIF_TIFF, TIFF_LZW},
         {"webp/described", FIF_WEBP, 0},
-
         {"tga/thumbnail", FIF_TARGA, 0}};
     for (const auto& [name, format, flags] : kinds) {
-        seeds.push_back({name, Saved(format, photo.get(), flags), seedSize});
+        seeds.push_back({name, LibraryFile(format, photo.get(), flags).bytes, seedSize});
     }
     return seeds;
 }
@@ -173,7 +145,6 @@ std::vector<SeedFile> DescribedSeeds(FIBITMAP* picture) {
 }  // namespace
 
 std::vector<SeedFile> LibrarySeeds() {
-    const LibraryMessages unheard;
     const BitmapHandle picture = Picture();
     std::vector<SeedFile> seeds = DescribedSeeds(picture.get());
     for (const LibraryKind& kind : libraryKinds) {
@@ -181,7 +152,7 @@ std::vector<SeedFile> LibrarySeeds() {
         if (kind.format == FIF_ICO) {  // whose sides are multiples of 8
             bitmap.reset(FreeImage_Rescale(bitmap.get(), 32, 32, FILTER_BOX));
         }
-        seeds.push_back({kind.name, Saved(kind.format, bitmap.get(), kind.flags),
+        seeds.push_back({kind.name, LibraryFile(kind.format, bitmap.get(), kind.flags).bytes,
                          SizeOf(bitmap.get()), kind.loads});
     }
     return seeds;
@@ -203,7 +174,7 @@ BitmapHandle DescribedPicture() {
 
 QByteArray ThumbnailJpeg() {
     const BitmapHandle small(FreeImage_Rescale(Picture().get(), 16, 11, FILTER_BOX));
-    return Saved(FIF_JPEG, small.get(), 50);
+    return LibraryFile(FIF_JPEG, small.get(), 50).bytes;
 }
 
 QByteArray IptcBlock() {
@@ -247,6 +218,10 @@ const std::vector<SeedFile>& SeedFiles() {
         return seeds;
     }();
     return all;
+}
+
+const QByteArray& Seed(std::string_view name) {
+    return std::ranges::find(SeedFiles(), name, &SeedFile::name)->bytes;
 }
 
 }  // namespace varnel::testing

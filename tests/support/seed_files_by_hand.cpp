@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
+
 #include "tests/support/file_bytes.h"
 #include "tests/support/seed_files.h"
 
@@ -11,83 +13,90 @@ namespace {
 constexpr int width = seedSize.width;
 constexpr int height = seedSize.height;
 
-struct BmpKind {
-    const char* name;
-    int header;  // bytes; 12 and 64 are OS/2's
-    int bits;
-    int compression = 0;  // 1 and 2: run lengths, 3: masks
-    bool topDown = false;
-    bool lastLineEnds = true;  // run lengths: an end-of-line also after the last row
+constexpr std::pair<const char*, BmpKind> bmpKinds[] = {
+    {"1", {40, 1}},
+    {"4", {40, 4}},
+    {"8", {40, 8}},
+    {"16", {40, 16}},
+    {"24", {40, 24}},
+    {"32", {40, 32}},
+    {"top-down-8", {40, 8, 0, true}},
+    {"top-down-24", {40, 24, 0, true}},
+    {"rle8", {40, 8, 1}},
+    {"rle8-no-last-end", {40, 8, 1, false, false}},
+    {"rle4", {40, 4, 2}},
+    {"rle4-no-last-end", {40, 4, 2, false, false}},
+    {"masks-16", {40, 16, 3}},
+    {"masks-32", {40, 32, 3}},
+    {"os2-1", {12, 1}},
+    {"os2-4", {12, 4}},
+    {"os2-8", {12, 8}},
+    {"os2-24", {12, 24}},
+    {"v4-8", {108, 8}},
+    {"v4-24", {108, 24}},
+    {"v4-masks-32", {108, 32, 3}},
+    {"v5-4", {124, 4}},
+    {"v5-24", {124, 24}},
+    {"v5-masks-32", {124, 32, 3}},
+    {"v5-rle8", {124, 8, 1}},
 };
 
-constexpr BmpKind bmpKinds[] = {
-    {"1", 40, 1},
-    {"4", 40, 4},
-    {"8", 40, 8},
-    {"16", 40, 16},
-    {"24", 40, 24},
-    {"32", 40, 32},
-    {"top-down-8", 40, 8, 0, true},
-    {"top-down-24", 40, 24, 0, true},
-    {"rle8", 40, 8, 1},
-    {"rle8-no-last-end", 40, 8, 1, false, false},
-    {"rle4", 40, 4, 2},
-    {"rle4-no-last-end", 40, 4, 2, false, false},
-    {"masks-16", 40, 16, 3},
-    {"masks-32", 40, 32, 3},
-    {"os2-1", 12, 1},
-    {"os2-4", 12, 4},
-    {"os2-8", 12, 8},
-    {"os2-24", 12, 24},
-    {"v4-8", 108, 8},
-    {"v4-24", 108, 24},
-    {"v4-masks-32", 108, 32, 3},
-    {"v5-4", 124, 4},
-    {"v5-24", 124, 24},
-    {"v5-masks-32", 124, 32, 3},
-    {"v5-rle8", 124, 8, 1},
-};
-
-// Each row: four bytes as they are, one run, the end of the line; at last the end of the picture.
-QByteArray BmpRuns(const BmpKind& kind) {
-    const int asTheyAre = 4 * 8 / kind.bits;
-    QByteArray rows;
-    for (int y = 0; y < height; ++y) {
-        rows += Numbers({0, asTheyAre, 1, 2, 3, 4, width - asTheyAre, y % 16 * 17}, 1);
-        rows += y + 1 < height || kind.lastLineEnds ? Number(0, 2) : QByteArray();
+// Four bytes as they are, then runs of one byte: one pixel or, in 4 bits, two.
+QByteArray BmpRuns(const BmpKind& kind, int columns) {
+    const int pixels = 8 / kind.depth;
+    QByteArray row = Numbers({0, 4 * pixels}, 1);
+    for (int x = 0; x < columns; x += pixels) {
+        const int first = kind.Colour(x, 0).rgbBlue;
+        const int byte = pixels == 1 ? first : first << 4 | kind.Colour(x + 1, 0).rgbBlue;
+        row += (x < 4 * pixels ? QByteArray() : Number(std::min(pixels, columns - x), 1)) +
+               Number(byte, 1);
     }
-    return rows + Number(0x0100, 2);
+    return row;
 }
 
-QByteArray BmpInfo(const BmpKind& kind, int pixelBytes) {
-    if (kind.header == 12) {
-        return Number(12, 4) + Numbers({width, height, 1, kind.bits}, 2);
+QByteArray BmpRow(const BmpKind& kind, int columns, int y) {
+    QByteArray row((columns * kind.depth + 31) / 32 * 4, '\0');
+    for (int x = 0; x < columns; ++x) {
+        const RGBQUAD c = kind.Colour(x, y);
+        if (kind.depth > 8) {
+            const int bytes = kind.depth / 8;
+            row.replace(x * bytes, bytes,
+                        Numbers({c.rgbBlue, c.rgbGreen, c.rgbRed, 0}, 1).first(bytes));
+        } else {
+            const int bit = x * kind.depth;
+            row[bit / 8] =
+                static_cast<char>(row[bit / 8] | c.rgbBlue << (8 - kind.depth - bit % 8));
+        }
     }
-    QByteArray info = Numbers({kind.header, width, kind.topDown ? -height : height}, 4) +
-                      Numbers({1, kind.bits}, 2) +
-                      Numbers({kind.compression, pixelBytes, 2835, 2835, 0, 0}, 4);
-    if (kind.compression == 3) {
-        info += kind.bits == 16 ? Numbers({0xf800, 0x07e0, 0x001f}, 4)
-                                : Numbers({0xff0000, 0x00ff00, 0x0000ff}, 4);
-    }
-    if (kind.header > 64) {
-        info = info.leftJustified(56, '\0') + Number(0x73524742, 4);  // the colour space: "sRGB"
-        info = info.leftJustified(kind.header, '\0');
-    }
-    return info;
+    return row;
 }
 
-SeedFile Bmp(const BmpKind& kind) {
-    const QByteArray pixels = kind.compression == 1 || kind.compression == 2
-                                  ? BmpRuns(kind)
-                                  : PatternBytes((width * kind.bits + 31) / 32 * 4 * height);
-    const int entry = kind.header == 12 ? 3 : 4;
-    const QByteArray palette = kind.bits <= 8 ? PatternBytes((1 << kind.bits) * entry) : "";
-    const QByteArray info = BmpInfo(kind, static_cast<int>(pixels.size()));
-    const auto offset = 14 + info.size() + palette.size();
-    return {std::string("bmp/") + kind.name,
-            "BM" + Numbers({offset + pixels.size(), 0, offset}, 4) + info + palette + pixels,
-            seedSize};
+QByteArray BmpPixels(const BmpKind& kind, PixelSize size) {
+    QByteArray pixels;
+    for (int y = 0; y < size.height; ++y) {
+        const bool last = y + 1 == size.height;
+        pixels += !kind.HasRuns()
+                      ? BmpRow(kind, size.width, kind.topFirst ? size.height - 1 - y : y)
+                      : BmpRuns(kind, size.width) + Number(0, last && !kind.lastRowEnds ? 0 : 2);
+    }
+    return pixels + (kind.HasRuns() ? Number(0x0100, 2) : QByteArray());
+}
+
+QByteArray BmpHeader(const BmpKind& kind, PixelSize size, qsizetype pixelBytes) {
+    if (kind.headerBytes == 12) {
+        return Number(12, 4) + Numbers({size.width, size.height, 1, kind.depth}, 2);
+    }
+    QByteArray header =
+        Numbers({kind.headerBytes, size.width, kind.topFirst ? -size.height : size.height}, 4) +
+        Numbers({1, kind.depth}, 2) + Numbers({kind.coding, pixelBytes, 5000, 6000, 0, 0}, 4);
+    if (kind.coding == 3 && kind.headerBytes != 64) {
+        header += kind.depth == 16 ? Numbers({0xf800, 0x07e0, 0x001f}, 4)
+                                   : Numbers({0xff0000, 0x00ff00, 0x0000ff}, 4);
+    }
+    if (kind.headerBytes > 64) {
+        header = header.leftJustified(56, '\0') + Number(0x73524742, 4);  // the colours: "sRGB"
+    }
+    return header.leftJustified(kind.headerBytes, '\0');
 }
 
 struct PngKind {
@@ -138,10 +147,22 @@ SeedFile Png(const PngKind& kind, const std::string& name, const QByteArray& bet
 
 }  // namespace
 
+QByteArray Bmp(const BmpKind& kind, PixelSize size) {
+    const QByteArray pixels = BmpPixels(kind, size);
+    QByteArray header = BmpHeader(kind, size, pixels.size());
+    for (int i = 0; kind.depth <= 8 && i < 1 << kind.depth; ++i) {
+        const RGBQUAD c = kind.Colour(i, 0);
+        header +=
+            Numbers({c.rgbBlue, c.rgbGreen, c.rgbRed, 0}, 1).first(kind.headerBytes == 12 ? 3 : 4);
+    }
+    const qsizetype offset = 14 + header.size();
+    return "BM" + Numbers({offset + pixels.size(), 0, offset}, 4) + header + pixels;
+}
+
 std::vector<SeedFile> BmpSeeds() {
     std::vector<SeedFile> seeds;
-    for (const BmpKind& kind : bmpKinds) {
-        seeds.push_back(Bmp(kind));
+    for (const auto& [name, kind] : bmpKinds) {
+        seeds.push_back({std::string("bmp/") + name, Bmp(kind, seedSize), seedSize});
     }
     return seeds;
 }

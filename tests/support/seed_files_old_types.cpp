@@ -50,18 +50,13 @@ QByteArray SunRaster(int bits, int kind) {
            PatternBytes(palette) + pixels;
 }
 
-QByteArray PsdResource(int number, const QByteArray& data) {
-    return "8BIM" + Numbers({number, 0}, 2, Order::Big) + Number(data.size(), 4, Order::Big) +
-           data + QByteArray(data.size() % 2, '\0');
-}
-
 QByteArray PsdResources() {
     const QByteArray jpeg = ThumbnailJpeg();
     const QByteArray thumbnail = Numbers({1, 16, 11, 48, 48 * 11, jpeg.size()}, 4, Order::Big) +
                                  Numbers({24, 1}, 2, Order::Big) + jpeg;
-    return PsdResource(1028, IptcBlock()) + PsdResource(1036, thumbnail) +
-           PsdResource(1039, ColourProfile()) + PsdResource(1058, ExifBlock(true).mid(6)) +
-           PsdResource(1060, XmpPacket());
+    return ImageResource(1028, IptcBlock()) + ImageResource(1036, thumbnail) +
+           ImageResource(1039, ColourProfile()) + ImageResource(1058, ExifBlock(true).mid(6)) +
+           ImageResource(1060, XmpPacket());
 }
 
 // Modes: 1 grey, 2 palette, 3 colour, 4 separated.

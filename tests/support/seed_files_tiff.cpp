@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "tests/support/described_files.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/seed_files.h"
 
@@ -20,27 +21,17 @@ struct TiffKind {
     int photometric;  // 0 and 1 grey, 2 colour, 3 palette, 5 separated, 6 luma and chroma
     int tile = 0;     // side in pixels; 0: strips
     int pages = 1;
-    bool planes = false;     // one colour after the other
-    bool described = false;  // with IPTC, XMP, profile, EXIF and place
+    bool planes = false;  // one colour after the other
 };
 
 constexpr TiffKind tiffKinds[] = {
-    {"big-endian", Order::Big, 8, 3, 2},
-    {"big-endian-described", Order::Big, 8, 3, 2, 0, 1, false, true},
-    {"big-endian-16", Order::Big, 16, 3, 2},
-    {"described", Order::Little, 8, 3, 2, 0, 1, false, true},
-    {"white-is-0", Order::Little, 1, 1, 0},
-    {"grey-4", Order::Little, 4, 1, 1},
-    {"grey-16", Order::Little, 16, 1, 1},
-    {"palette-4", Order::Little, 4, 1, 3},
-    {"palette-8", Order::Little, 8, 1, 3},
-    {"alpha", Order::Little, 8, 4, 2},
-    {"cmyk", Order::Little, 8, 4, 5},
-    {"cmyk-16", Order::Little, 16, 4, 5},
-    {"ycbcr", Order::Little, 8, 3, 6},
-    {"tiles", Order::Little, 8, 3, 2, 32},
-    {"tiles-16", Order::Big, 16, 1, 1, 16},
-    {"planes", Order::Little, 8, 3, 2, 0, 1, true},
+    {"big-endian", Order::Big, 8, 3, 2},     {"big-endian-16", Order::Big, 16, 3, 2},
+    {"white-is-0", Order::Little, 1, 1, 0},  {"grey-4", Order::Little, 4, 1, 1},
+    {"grey-16", Order::Little, 16, 1, 1},    {"palette-4", Order::Little, 4, 1, 3},
+    {"palette-8", Order::Little, 8, 1, 3},   {"alpha", Order::Little, 8, 4, 2},
+    {"cmyk", Order::Little, 8, 4, 5},        {"cmyk-16", Order::Little, 16, 4, 5},
+    {"ycbcr", Order::Little, 8, 3, 6},       {"tiles", Order::Little, 8, 3, 2, 32},
+    {"tiles-16", Order::Big, 16, 1, 1, 16},  {"planes", Order::Little, 8, 3, 2, 0, 1, true},
     {"pages", Order::Little, 8, 3, 2, 0, 3},
 };
 
@@ -73,26 +64,6 @@ void AddPixels(TiffBytes& tiff, std::vector<TiffField>& fields, const TiffKind& 
     }
 }
 
-void Describe(TiffBytes& tiff, std::vector<TiffField>& fields) {
-    const std::uint32_t exif =
-        tiff.Directory({{0x829a, Fraction, {1, 125}},
-                        {0x8827, Short, {200}},
-                        {0x9003, Text, {}, QByteArray("2020:05:01 12:00:00", 20)},
-                        {0x927c, Undefined, {}, PatternBytes(90)},
-                        {0x9286, Undefined, {}, "ASCII\0\0\0fish"}});
-    const std::uint32_t place =
-        tiff.Directory({{1, Text, {}, QByteArray("N", 2)}, {2, Fraction, {50, 1, 30, 1, 11, 10}}});
-    const std::vector<TiffField> more = {{271, Text, {}, QByteArray("Varnel", 7)},
-                                         {282, Fraction, {300, 1}},
-                                         {283, Fraction, {300, 1}},
-                                         {700, Byte, {}, XmpPacket()},
-                                         {33723, Undefined, {}, IptcBlock()},
-                                         {34665, Long, {exif}},
-                                         {34675, Undefined, {}, ColourProfile()},
-                                         {34853, Long, {place}}};
-    fields.insert(fields.end(), more.begin(), more.end());
-}
-
 SeedFile Tiff(const TiffKind& kind) {
     TiffBytes tiff(kind.order);
     std::uint32_t directory = 0;
@@ -116,9 +87,6 @@ SeedFile Tiff(const TiffKind& kind) {
             fields.push_back({338, Short, {2}});
         }
         AddPixels(tiff, fields, kind);
-        if (kind.described) {
-            Describe(tiff, fields);
-        }
         directory = tiff.Directory(fields, directory);
     }
     return {std::string("tiff/") + kind.name, tiff.Finish(directory), seedSize};
@@ -153,10 +121,10 @@ std::vector<TiffField> PictureFields(TiffBytes& tiff, PixelSize size, int bits, 
 }
 
 // What a raw file says of its camera and colours.
-std::vector<TiffField> CameraFields() {
+std::vector<TiffField> CameraFields(std::uint32_t orientation) {
     return {{271, Text, {}, QByteArray("Varnel", 7)},
             {272, Text, {}, QByteArray("Test camera", 12)},
-            {274, Short, {1}},
+            {274, Short, {orientation}},
             {50706, Byte, {1, 4, 0, 0}},
             {50707, Byte, {1, 1, 0, 0}},
             {50708, Text, {}, QByteArray("Varnel test camera", 19)},
@@ -165,7 +133,7 @@ std::vector<TiffField> CameraFields() {
             {50778, Short, {21}}};
 }
 
-SeedFile Raw(const RawKind& kind) {
+QByteArray Raw(const RawKind& kind, std::uint32_t orientation = 1) {
     TiffBytes tiff(kind.order);
     const int samples = kind.mosaic ? 1 : 3;
     std::vector<TiffField> raw =
@@ -176,20 +144,22 @@ SeedFile Raw(const RawKind& kind) {
         raw.push_back({33422, Byte, {0, 1, 1, 2}});
     }
     raw.push_back({50717, Long, Repeated(samples, (1 << kind.bits) - 1)});
-    std::vector<TiffField> first = CameraFields();
+    std::vector<TiffField> first = CameraFields(orientation);
     std::vector<TiffField> outer = raw;
     if (kind.preview) {
         outer = PictureFields(tiff, {16, 12}, 8, 3, 2, PatternBytes(16 * 12 * 3));
         outer.push_back({330, Long, {tiff.Directory(raw)}});
     }
     first.insert(first.end(), outer.begin(), outer.end());
-    return {std::string("dng/") + kind.name, tiff.Finish(tiff.Directory(first)), rawSize};
+    return tiff.Finish(tiff.Directory(first));
 }
 
 }  // namespace
 
 std::vector<SeedFile> TiffSeeds() {
-    std::vector<SeedFile> seeds;
+    std::vector<SeedFile> seeds = {
+        {"tiff/described", DescribedTiff(SoundBlocks(false)), seedSize},
+        {"tiff/big-endian-described", DescribedTiff(SoundBlocks(true)), seedSize}};
     for (const TiffKind& kind : tiffKinds) {
         seeds.push_back(Tiff(kind));
     }
@@ -199,9 +169,13 @@ std::vector<SeedFile> TiffSeeds() {
 std::vector<SeedFile> RawSeeds() {
     std::vector<SeedFile> seeds;
     for (const RawKind& kind : rawKinds) {
-        seeds.push_back(Raw(kind));
+        seeds.push_back({std::string("dng/") + kind.name, Raw(kind), rawSize});
     }
     return seeds;
+}
+
+QByteArray RawPhoto(bool mosaic, int orientation) {
+    return Raw({"", Order::Little, 16, mosaic}, static_cast<std::uint32_t>(orientation));
 }
 
 // The maker's note is a directory of its own in the maker's manner: Canon's counts its places from

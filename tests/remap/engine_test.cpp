@@ -46,11 +46,7 @@ BitmapHandle PhotoLike(PixelSize size) {
 }
 
 BitmapHandle Flat(PixelSize size) {
-    BitmapHandle bitmap = NewBitmap(size);
-    for (int y = 0; y < size.height; ++y) {
-        std::ranges::fill(ScanLine(bitmap.get(), y), std::uint8_t{200});
-    }
-    return bitmap;
+    return testing::Painted(size, [](int, int) { return RGBQUAD{200, 200, 200, 0}; });
 }
 
 using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);

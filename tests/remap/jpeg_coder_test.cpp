@@ -20,27 +20,8 @@
 namespace varnel {
 namespace {
 
-BitmapHandle Loaded(QByteArray file, int flags = JPEG_ACCURATE) {
-    FIMEMORY* const memory =
-        FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    BitmapHandle bitmap(FreeImage_LoadFromMemory(FIF_JPEG, memory, flags));
-    FreeImage_CloseMemory(memory);
-    return bitmap;
-}
-
-// Slopes, edges and grain.
-BitmapHandle Picture(PixelSize size) {
-    BitmapHandle bitmap = NewBitmap(size);
-    unsigned grain = 1;
-    for (int y = 0; y < size.height; ++y) {
-        const std::span<std::uint8_t> row = ScanLine(bitmap.get(), y);
-        for (std::size_t x = 0; x < row.size(); ++x) {
-            grain = grain * 1664525U + 1013904223U;
-            row[x] = static_cast<std::uint8_t>(x / 7 + y * 2 + (grain >> 27) + (y & x & 64));
-        }
-    }
-    return bitmap;
-}
+using testing::FromFile;
+using testing::Grainy;
 
 // The marker segments up to the scan, without that of the restart interval.
 std::vector<QByteArray> Segments(const QByteArray& file) {
@@ -63,9 +44,10 @@ void ExpectLikeTheLibrarys(FIBITMAP* bitmap, int flags) {
     EXPECT_EQ(Segments(*file), Segments(expected));
     EXPECT_LE(file->size(), expected.size() * 101 / 100);
     const LibraryMessages messages;  // one comes for a marker that is not where it should be
-    const BitmapHandle picture = Loaded(*file);
+    const BitmapHandle picture = FromFile(FIF_JPEG, *file, JPEG_ACCURATE);
     ASSERT_TRUE(picture);
-    EXPECT_TRUE(testing::SamePixels(picture.get(), Loaded(expected).get()));
+    EXPECT_TRUE(
+        testing::SamePixels(picture.get(), FromFile(FIF_JPEG, expected, JPEG_ACCURATE).get()));
     EXPECT_TRUE(messages.Lines().isEmpty()) << messages.Lines().first().toStdString();
 }
 
@@ -79,14 +61,14 @@ TEST(EncodeJpeg, WritesALargePictureInBandsLikeTheLibrary) {
     for (const auto& row : rows) {
         SCOPED_TRACE(::testing::Message() << row.size.width << " x " << row.size.height);
         for (const int chroma : {0, JPEG_SUBSAMPLING_444}) {
-            ExpectLikeTheLibrarys(Picture(row.size).get(), row.quality | chroma);
+            ExpectLikeTheLibrarys(Grainy(row.size).get(), row.quality | chroma);
         }
     }
 }
 
 TEST(EncodeJpeg, WritesASmallPictureByteForByteAsTheLibrary) {
     for (const PixelSize size : {PixelSize{1, 1}, {17, 33}, {16, 16}, {15, 127}, {33, 300}}) {
-        const BitmapHandle bitmap = Picture(size);
+        const BitmapHandle bitmap = Grainy(size);
         for (int quality = 0; quality <= 100; ++quality) {
             for (const int flags : {quality, quality | JPEG_SUBSAMPLING_444}) {
                 SerialRunner runner;
@@ -99,14 +81,14 @@ TEST(EncodeJpeg, WritesASmallPictureByteForByteAsTheLibrary) {
 }
 
 TEST(EncodeJpeg, TakesEveryMetadataSegmentAlong) {
-    const BitmapHandle large = Picture({1200, 900});
-    const BitmapHandle described =
-        Loaded(testing::Described(LibraryFile(FIF_JPEG, NewBitmap({8, 8}).get(), 90).bytes));
+    const BitmapHandle large = Grainy({1200, 900});
+    const BitmapHandle described = FromFile(
+        FIF_JPEG, testing::Described(LibraryFile(FIF_JPEG, NewBitmap({8, 8}).get(), 90).bytes));
     ASSERT_GT(FreeImage_GetMetadataCount(FIMD_EXIF_RAW, described.get()), 0U);
     CopyAllButPixels(large.get(), described.get());
     FreeImage_SetDotsPerMeterY(large.get(), 11811);
     ExpectLikeTheLibrarys(large.get(), 85);
-    const BitmapHandle thumbnail = Picture({60, 40});
+    const BitmapHandle thumbnail = Grainy({60, 40});
     FreeImage_SetThumbnail(large.get(), thumbnail.get());
     QByteArray profile(200'000, 'p');  // four segments
     FreeImage_CreateICCProfile(large.get(), profile.data(), static_cast<long>(profile.size()));
@@ -114,7 +96,7 @@ TEST(EncodeJpeg, TakesEveryMetadataSegmentAlong) {
 }
 
 TEST(EncodeJpeg, DoesNotDependOnTheRunner) {
-    const BitmapHandle bitmap = Picture({1201, 1000});
+    const BitmapHandle bitmap = Grainy({1201, 1000});
     SerialRunner serial;
     ThreadRunner threads(3);
     testing::ShuffledRunner shuffled(3);
@@ -137,7 +119,7 @@ TEST(EncodeJpeg, LeavesToTheLibraryWhatItDoesNotKnow) {
     const BitmapHandle wide = NewBitmap({65501, 1});
     EXPECT_FALSE(EncodeJpeg(wide.get(), 90, runner));
     const BitmapHandle header =
-        Loaded(LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes, FIF_LOAD_NOPIXELS);
+        FromFile(FIF_JPEG, LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes, FIF_LOAD_NOPIXELS);
     ASSERT_TRUE(header);
     EXPECT_FALSE(EncodeJpeg(header.get(), 90, runner));
 }

@@ -61,24 +61,6 @@ BitmapHandle Mixture(PixelSize size) {
     });
 }
 
-BitmapHandle Decoded(QByteArray file, int flags = 0) {
-    FIMEMORY* const memory =
-        FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    BitmapHandle bitmap(FreeImage_LoadFromMemory(FIF_PNG, memory, flags));
-    FreeImage_CloseMemory(memory);
-    return bitmap;
-}
-
-void ExpectSamePixels(FIBITMAP* bitmap, FIBITMAP* expected) {
-    ASSERT_NE(bitmap, nullptr);
-    ASSERT_EQ(FreeImage_GetBPP(bitmap), 24U);
-    ASSERT_EQ(SizeOf(bitmap).width, SizeOf(expected).width);
-    ASSERT_EQ(SizeOf(bitmap).height, SizeOf(expected).height);
-    for (int y = 0; y < SizeOf(expected).height; ++y) {
-        ASSERT_TRUE(std::ranges::equal(ScanLine(bitmap, y), ScanLine(expected, y))) << y;
-    }
-}
-
 TEST(EncodePng, WritesThePixelsInSoundChunksWhateverTheRunner) {
     const struct {
         PixelSize size;
@@ -92,7 +74,7 @@ TEST(EncodePng, WritesThePixelsInSoundChunksWhateverTheRunner) {
         SerialRunner serial;
         const auto file = EncodePng(bitmap.get(), serial);
         ASSERT_TRUE(file);
-        ExpectSamePixels(Decoded(*file).get(), bitmap.get());
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, *file).get(), bitmap.get()));
         const Parts parts = PartsOf(*file);
         EXPECT_TRUE(parts.sound);
         EXPECT_EQ(parts.pixelChunks, pixelChunks);
@@ -184,7 +166,8 @@ TEST(EncodePng, LeavesOtherBitmapsToTheLibrary) {
         BitmapHandle(FreeImage_Allocate(4, 4, 8)),
         BitmapHandle(FreeImage_Allocate(4, 4, 32)),
         BitmapHandle(FreeImage_AllocateT(FIT_RGB16, 4, 4)),
-        Decoded(LibraryFile(FIF_PNG, withBackground.get(), 0).bytes, FIF_LOAD_NOPIXELS),
+        testing::FromFile(FIF_PNG, LibraryFile(FIF_PNG, withBackground.get(), 0).bytes,
+                          FIF_LOAD_NOPIXELS),
         NewBitmap({1'000'001, 1}),  // wider than libpng reads
         std::move(withBackground)};
     for (const BitmapHandle& bitmap : bitmaps) {

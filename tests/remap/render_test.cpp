@@ -134,22 +134,6 @@ TEST(Render, PreviewsAreReadNearestUntilSmoothedAndFullSizeIsAlwaysInterpolated)
     }
 }
 
-TEST(RenderRectilinear, TheCentreStaysAndAPlainViewIsSymmetric) {
-    Scene scene({41, 31});
-    scene.bitmaps.FullSourceBitmap = testing::Painted({41, 31}, [](int x, int y) {
-        const auto distance = static_cast<BYTE>((x - 20) * (x - 20) + (y - 15) * (y - 15));
-        return RGBQUAD{distance, distance, distance, 0};
-    });
-    FIBITMAP* const result = scene.Draw(Projection::Rectilinear, FisheyeRecord());
-    EXPECT_EQ(PixelAt(result, 20, 15).rgbRed, 0);
-    for (int x = 0; x <= 40; ++x) {
-        for (int y = 0; y <= 30; ++y) {
-            // A blend that is rounded down can come out one lower on one side.
-            EXPECT_NEAR(PixelAt(result, x, y).rgbRed, PixelAt(result, 40 - x, 30 - y).rgbRed, 1);
-        }
-    }
-}
-
 TEST(RenderRectilinear, AHalfPixelShiftLeavesEverySecondColumnAsItWas) {
     // 2 % of 25 columns: the writes round to even columns, the odd ones keep the source's pixels
     // and of the two that meet on an even column the later stays.
@@ -163,15 +147,6 @@ TEST(RenderRectilinear, AHalfPixelShiftLeavesEverySecondColumnAsItWas) {
     }
     // Column 12 is written from rays at -1 and, last, at -0.5 + 0 (x = 0): left of the centre.
     EXPECT_EQ(PixelAt(result, 12, 10).rgbBlue, 11);
-}
-
-TEST(RenderRectilinear, ALargeOffsetLeavesUnreachedPixelsAlone) {
-    Scene scene({40, 30});
-    ImageRecord record = FisheyeRecord();
-    record.OfsetX =
-        250.0F;  // centre at column 30, reach 30 to the left and, mirrored, to the right
-    FIBITMAP* const result = scene.Draw(Projection::Rectilinear, record);
-    EXPECT_EQ(PixelAt(result, 30, 15).rgbBlue, 30);
 }
 
 TEST(RenderVarnel, CentreColumnStaysRowsBeyondTheCircleAreBlackAndTheEdgeRowIsMirrored) {
@@ -205,16 +180,6 @@ TEST(RenderHorizon, CirclesBecomeRowsAndTheLaterBlackWins) {
         EXPECT_TRUE(IsBlack(result, x, 71)) << x;  // written by radius -31 first
         EXPECT_TRUE(IsBlack(result, x, 9)) << x;
     }
-}
-
-TEST(RenderEquidistance, TheCentreStaysAndTheOrderOfQuartersIsTheirOwnPlace) {
-    Scene scene({61, 41});
-    FIBITMAP* const result = scene.Draw(Projection::Equidistance, FisheyeRecord());
-    EXPECT_EQ(PixelAt(result, 30, 20).rgbBlue, 30);
-    EXPECT_LT(PixelAt(result, 25, 20).rgbBlue, 30);
-    EXPECT_GT(PixelAt(result, 35, 20).rgbBlue, 30);
-    EXPECT_LT(PixelAt(result, 30, 15).rgbGreen, 20);
-    EXPECT_GT(PixelAt(result, 30, 25).rgbGreen, 20);
 }
 
 TEST(SizeKind, TextsAndBack) {

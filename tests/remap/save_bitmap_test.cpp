@@ -57,16 +57,6 @@ TEST(LibraryFile, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
     }
 }
 
-TEST(EncodeBitmap, MetadataThatAnEncoderRefusesDoesNotCostThePicture) {
-    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
-    QByteArray noProfile(200, 'x');
-    FreeImage_CreateICCProfile(bitmap.get(), noProfile.data(), noProfile.size());
-    const EncodedBitmap png = EncodeBitmap(FIF_PNG, bitmap.get(), 0);
-    EXPECT_TRUE(png.bytes.startsWith("\x89PNG")) << png.reason.toStdString();
-    EXPECT_TRUE(png.note.startsWith(QStringLiteral("written without its colour profile: ")));
-    EXPECT_TRUE(EncodeBitmap(FIF_JPEG, bitmap.get(), 90).note.isEmpty());
-}
-
 TEST(DropMetadata, LeavesNothingButProfileResolutionAndSettings) {
     const BitmapHandle bitmap = testing::PositionPicture({40, 30});
     const PictureSettings settings{{QStringLiteral("Projection"), QStringLiteral("1")}};

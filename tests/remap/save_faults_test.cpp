@@ -16,7 +16,6 @@
 #include <csignal>
 #include <functional>
 #include <optional>
-#include <random>
 #include <thread>
 
 #include "remap/encode_bitmap.h"
@@ -36,16 +35,6 @@ constexpr int sizes = 60;
 constexpr int moments = 50;
 constexpr int page = 4096;  // what a small file system counts in
 
-// Noise, so that every type makes a file of many pages of it.
-BitmapHandle Noise(PixelSize size) {
-    std::mt19937 random(1);
-    return testing::Painted(size, [&](int, int) {
-        const auto bits = random();
-        return RGBQUAD{static_cast<BYTE>(bits), static_cast<BYTE>(bits >> 8),
-                       static_cast<BYTE>(bits >> 16), 0};
-    });
-}
-
 struct Type {
     const char* name;
     FREE_IMAGE_FORMAT format;
@@ -57,7 +46,8 @@ class SaveFaults : public ::testing::TestWithParam<Type> {
     SaveResult Save(const QString& path) const {
         return SaveBitmap(GetParam().format, picture_.get(), path, GetParam().flags);
     }
-    const BitmapHandle picture_ = Noise({420, 320});
+    // Noise, so that every type makes a file of many pages.
+    const BitmapHandle picture_ = testing::Noise({420, 320});
     const QByteArray whole_ =
         EncodeBitmap(GetParam().format, picture_.get(), GetParam().flags).bytes;
     const QByteArray older_ = QByteArray(3 * page, 'o');

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <vector>
 
 #include "tests/support/bitmaps.h"
@@ -82,10 +81,7 @@ TEST(RenderStretch, WithoutStrengthEveryByteStays) {
     for (const PixelSize size : {PixelSize{7, 5}, {8, 6}, {1, 1}}) {
         Table table(testing::PositionPicture(size));
         FIBITMAP* const result = table.Stretch({0.0, 0.4});
-        for (int y = 0; y < size.height; ++y) {
-            EXPECT_TRUE(std::ranges::equal(ScanLine(result, y),
-                                           ScanLine(table.bitmaps.FullSourceBitmap.get(), y)));
-        }
+        EXPECT_TRUE(testing::SamePixels(result, table.bitmaps.FullSourceBitmap.get()));
     }
 }
 

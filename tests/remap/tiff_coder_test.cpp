@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
-#include <iterator>
 #include <random>
 
 #include "remap/coding/library_file.h"
@@ -16,6 +15,7 @@
 #include "remap/coding/tiff_directory.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/library_messages.h"
+#include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seed_files.h"
 
@@ -37,14 +37,6 @@ Bytes Coded(LzwEncoder& encoder, const Bytes& first, const Bytes& second, Bytes*
     return room[0];
 }
 
-BitmapHandle Loaded(QByteArray file) {
-    FIMEMORY* const memory =
-        FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    BitmapHandle bitmap(FreeImage_LoadFromMemory(FIF_TIFF, memory, 0));
-    FreeImage_CloseMemory(memory);
-    return bitmap;
-}
-
 // By the library, as the one row of a grey picture.
 Bytes Decoded(const Bytes& codes, std::size_t length) {
     const std::pair<int, std::size_t> tags[] = {{256, length}, {257, 1}, {258, 8},
@@ -59,7 +51,7 @@ Bytes Decoded(const Bytes& codes, std::size_t length) {
     QByteArray file = TiffHeader() + QByteArray(reinterpret_cast<const char*>(codes.data()),
                                                 static_cast<qsizetype>(codes.size()));
     SetDirectory(file, AppendDirectory(file, directory).value());
-    const BitmapHandle row = Loaded(file);
+    const BitmapHandle row = testing::FromFile(FIF_TIFF, file);
     return row ? Bytes(ScanLine(row.get(), 0).begin(), ScanLine(row.get(), 0).end()) : Bytes();
 }
 
@@ -144,29 +136,6 @@ TEST(LzwEncoder, WidensAndClearsWhereTiffHasIt) {
     }
 }
 
-// A slope with the grain of a sensor, like a photo.
-BitmapHandle Photo(PixelSize size) {
-    BitmapHandle bitmap = NewBitmap(size);
-    std::minstd_rand random(3);
-    for (int y = 0; y < size.height; ++y) {
-        const std::span<std::uint8_t> row = ScanLine(bitmap.get(), y);
-        for (std::size_t x = 0; x < row.size(); ++x) {
-            const auto grain = random() >> 8;
-            row[x] = static_cast<std::uint8_t>(x / 9 * (1 + x % 3) + static_cast<unsigned>(y) / 5 +
-                                               grain % 4 + grain / 4 % 4);
-        }
-    }
-    return bitmap;
-}
-
-Bytes PixelsOf(FIBITMAP* bitmap) {
-    Bytes pixels;
-    for (int y = 0; bitmap != nullptr && y < SizeOf(bitmap).height; ++y) {
-        std::ranges::copy(ScanLine(bitmap, y), std::back_inserter(pixels));
-    }
-    return pixels;
-}
-
 // Every tag but where and how long the strips and the thumbnail are.
 std::vector<QByteArray> Tags(const TiffDirectory& directory) {
     std::vector<QByteArray> tags;
@@ -198,12 +167,12 @@ void ExpectLikeTheLibrarys(FIBITMAP* bitmap) {
         EXPECT_EQ(directory->smaller[n].strips, librarys->smaller[n].strips);
     }
     const LibraryMessages unheard;
-    const BitmapHandle picture = Loaded(*file);
+    const BitmapHandle picture = testing::FromFile(FIF_TIFF, *file);
     ASSERT_TRUE(picture);
     EXPECT_EQ(SizeOf(picture.get()).width, SizeOf(bitmap).width);
-    EXPECT_EQ(PixelsOf(picture.get()), PixelsOf(bitmap));
-    EXPECT_EQ(PixelsOf(FreeImage_GetThumbnail(picture.get())),
-              PixelsOf(FreeImage_GetThumbnail(bitmap)));
+    EXPECT_EQ(testing::PixelBytes(picture.get()), testing::PixelBytes(bitmap));
+    EXPECT_EQ(testing::PixelBytes(FreeImage_GetThumbnail(picture.get())),
+              testing::PixelBytes(FreeImage_GetThumbnail(bitmap)));
 }
 
 TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
@@ -216,7 +185,7 @@ TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
                                  {5, 70000},
                                  {2500, 2300}}) {
         SCOPED_TRACE(::testing::Message() << size.width << " x " << size.height);
-        ExpectLikeTheLibrarys(Photo(size).get());
+        ExpectLikeTheLibrarys(testing::Grainy(size).get());
     }
 }
 
@@ -226,13 +195,13 @@ TEST(EncodeTiffLzw, TakesEveryTagAlong) {
     FreeImage_SetDotsPerMeterY(photo.get(), 5906);
     ASSERT_EQ(ReadTiff(LibraryFile(FIF_TIFF, photo.get(), TIFF_LZW).bytes)->smaller.size(), 1U);
     ExpectLikeTheLibrarys(photo.get());
-    const BitmapHandle large = Photo({800, 600});
+    const BitmapHandle large = testing::Grainy({800, 600});
     CopyAllButPixels(large.get(), photo.get());
     ExpectLikeTheLibrarys(large.get());
 }
 
 TEST(EncodeTiffLzw, DoesNotDependOnTheRunner) {
-    const BitmapHandle photo = Photo({1200, 1100});
+    const BitmapHandle photo = testing::Grainy({1200, 1100});
     SerialRunner serial;
     ThreadRunner threads(3);
     testing::ShuffledRunner shuffled(3);

@@ -5,9 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <vector>
 
 #include "tests/support/bitmaps.h"
 
@@ -28,15 +26,6 @@ FisheyeShot ShotOf(LensKind kind, LensCurve curve) {
     shot.kind = kind;
     shot.curve = curve;
     return shot;
-}
-
-std::vector<std::uint8_t> BytesOf(const BitmapHandle& bitmap) {
-    std::vector<std::uint8_t> bytes;
-    for (int y = 0; y < SizeOf(bitmap.get()).height; ++y) {
-        const std::span<std::uint8_t> line = ScanLine(bitmap.get(), y);
-        bytes.insert(bytes.end(), line.begin(), line.end());
-    }
-    return bytes;
 }
 
 TEST(FisheyeRay, HandWorkedAngles) {
@@ -80,59 +69,6 @@ TEST(FisheyeRay, NothingOutsideTheCircleAndBeyondTheLens) {
     EXPECT_FALSE(FisheyeRay(tangent, 150.0 + 452.2, 100.0));
 }
 
-TEST(TakeFisheye, TheCircleIsWhereItBelongs) {
-    FisheyeShot shot = ShotOf(LensKind::Sin, sinCurve);
-    shot.centreX = 140.0;
-    shot.centreY = 90.0;
-    shot.circleRadius = 8.0;
-    const BitmapHandle picture = TakeFisheye(
-        [](const Ray&) {
-            return Colour{200.0, 200.0, 200.0};
-        },
-        shot);
-    int lit = 0;
-    int left = 1000, right = 0, bottom = 1000, top = 0;
-    for (int y = 0; y < 201; ++y) {
-        for (int x = 0; x < 301; ++x) {
-            if (!testing::IsBlack(picture.get(), x, y)) {
-                ++lit;
-                left = std::min(left, x);
-                right = std::max(right, x);
-                bottom = std::min(bottom, y);
-                top = std::max(top, y);
-            }
-        }
-    }
-    EXPECT_EQ(left, 60);
-    EXPECT_EQ(right, 220);
-    EXPECT_EQ(bottom, 10);
-    EXPECT_EQ(top, 170);
-    EXPECT_NEAR(lit, 3.14159265 * 80.0 * 80.0, 80.0);
-}
-
-TEST(TakeFisheye, RightIsRightAndUpIsUpInEitherFormat) {
-    const Scene scene = [](const Ray& ray) {
-        return Colour{ray.x > 0.0 ? 200.0 : 0.0, ray.y > 0.0 ? 200.0 : 0.0, 40.0};
-    };
-    for (const PixelSize size : {PixelSize{60, 40}, PixelSize{40, 60}}) {
-        FisheyeShot shot = ShotOf(LensKind::Sin, sinCurve);
-        shot.size = size;
-        shot.pixelsPerMillimetre = 2.0;
-        shot.centreX = size.width / 2;
-        shot.centreY = size.height / 2;
-        const BitmapHandle picture = TakeFisheye(scene, shot);
-        for (const int right : {0, 1}) {
-            for (const int up : {0, 1}) {
-                const RGBQUAD pixel = PixelAt(picture.get(), size.width / 2 + (right ? 9 : -9),
-                                              size.height / 2 + (up ? 9 : -9));
-                EXPECT_EQ(pixel.rgbRed, right * 200);
-                EXPECT_EQ(pixel.rgbGreen, up * 200);
-                EXPECT_EQ(pixel.rgbBlue, 40);
-            }
-        }
-    }
-}
-
 TEST(TakeFisheye, TheBytesDoNotDependOnTheThreads) {
     FisheyeShot shot = ShotOf(LensKind::Sin, {5.0F, 0.5F});
     shot.size = {61, 47};
@@ -140,12 +76,12 @@ TEST(TakeFisheye, TheBytesDoNotDependOnTheThreads) {
     shot.centreY = 23.0;
     shot.samples = 2;
     shot.noise = 3.0;
-    const std::vector<std::uint8_t> one = BytesOf(TakeFisheye(LookAt, shot, 1));
+    const QByteArray one = testing::PixelBytes(TakeFisheye(LookAt, shot, 1).get());
     for (const int threads : {2, 5, 100, 0}) {
-        EXPECT_EQ(one, BytesOf(TakeFisheye(LookAt, shot, threads))) << threads;
+        EXPECT_EQ(one, testing::PixelBytes(TakeFisheye(LookAt, shot, threads).get())) << threads;
     }
     shot.noise = 0.0;
-    EXPECT_NE(one, BytesOf(TakeFisheye(LookAt, shot, 1)));
+    EXPECT_NE(one, testing::PixelBytes(TakeFisheye(LookAt, shot, 1).get()));
 }
 
 TEST(TakeFisheye, NoiseHasItsDeviationAndNoDirection) {
@@ -191,15 +127,6 @@ TEST(TakeView, SamplesSpreadEvenlyOverThePixel) {
         EXPECT_EQ(PixelAt(view.get(), 2, 1).rgbRed, expected[samples]) << samples;
         EXPECT_EQ(PixelAt(view.get(), 3, 1).rgbRed, 200);
     }
-}
-
-TEST(TakeView, NoRayIsBlack) {
-    const BitmapHandle view =
-        TakeView(LookAtGradients, {3, 3}, 1, [](double x, double) -> std::optional<Ray> {
-            return x == 1.0 ? std::nullopt : std::optional(Ray{0.0, 0.0, 1.0});
-        });
-    EXPECT_TRUE(testing::IsBlack(view.get(), 1, 2));
-    EXPECT_FALSE(testing::IsBlack(view.get(), 2, 2));
 }
 
 }  // namespace

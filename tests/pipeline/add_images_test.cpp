@@ -10,13 +10,12 @@
 
 #include "state/setting_names.h"
 #include "tests/support/files.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Text(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 TEST(FilesIn, MatchesWithoutRegardToCaseAndSorts) {
     const QTemporaryDir folder;

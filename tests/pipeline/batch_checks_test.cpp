@@ -10,46 +10,39 @@
 #include "pipeline/batch_summary.h"
 #include "tests/support/files.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-ImageRecord Entry(const QString& name, Projection projection = Projection::Varnel) {
-    ImageRecord entry = testing::FisheyeRecord();
-    entry.FileName = name;
-    entry.Projection = static_cast<std::int16_t>(projection);
-    return entry;
-}
+using testing::FisheyePhoto;
+using testing::Text;
 
 TEST(FolderTrouble, TellsMissingUnwritableAndNoFolder) {
     const testing::PictureFolder files;
     EXPECT_EQ(FolderTrouble(files.Path({})), QString());
     EXPECT_TRUE(QDir(files.Path({})).isEmpty(QDir::Files | QDir::Hidden));
-    EXPECT_EQ(FolderTrouble(Q("/no/such")), Q("The folder /no/such does not exist"));
-    const QString file = files.Text(Q("file"));
-    EXPECT_EQ(FolderTrouble(file), file + Q(" is not a folder"));
+    EXPECT_EQ(FolderTrouble(Text("/no/such")), Text("The folder /no/such does not exist"));
+    const QString file = files.Text(Text("file"));
+    EXPECT_EQ(FolderTrouble(file), file + Text(" is not a folder"));
 #ifdef Q_OS_LINUX  // where not even root can make a file
-    EXPECT_TRUE(
-        FolderTrouble(Q("/proc")).startsWith(Q("Nothing can be written into the folder /proc (")));
+    EXPECT_TRUE(FolderTrouble(Text("/proc"))
+                    .startsWith(Text("Nothing can be written into the folder /proc (")));
 #endif
 }
 
 TEST(BatchChecks, CountNamesThatCollideOrLieThereAlready) {
     const testing::PictureFolder files;
-    files.Text(Q("b.Varnel.TIF"));
-    files.Text(Q("c.Varnel.TIF"));
+    files.Text(Text("b.Varnel.TIF"));
+    files.Text(Text("c.Varnel.TIF"));
     RecordArray<ImageRecord> queue;
     for (const char* name : {"a.jpg", "a.tif", "b.jpg", "c.jpg", "a.bmp", "c.png"}) {
-        queue.Append(Entry(Q(name)));
+        queue.Append(FisheyePhoto({}, Text(name)));
     }
     BatchChoices choices{files.Path({}) + u'/', {}, OutputType::Tiff, 90};
     EXPECT_EQ(CollidingNames(queue, choices), 2);
     EXPECT_EQ(ExistingNames(queue, choices), 2);
-    queue(4).NameSuffix = Q("Morph0001");
+    queue(4).NameSuffix = Text("Morph0001");
     queue(3).EffectVarnel = 1e30F;  // has no name and counts for nothing
     EXPECT_EQ(CollidingNames(queue, choices), 1);
     EXPECT_EQ(ExistingNames(queue, choices), 1);
@@ -57,13 +50,13 @@ TEST(BatchChecks, CountNamesThatCollideOrLieThereAlready) {
     EXPECT_EQ(ExistingNames(queue, choices), 0);
     EXPECT_EQ(NamesText(0, 0), QString());
     EXPECT_EQ(NamesText(2, 1),
-              Q("2 names collide: of the images of one name only the last one stays. "
-                "1 file in this folder will be replaced."));
+              Text("2 names collide: of the images of one name only the last one stays. "
+                   "1 file in this folder will be replaced."));
 }
 
 TEST(BatchChecks, WarnOnlyWhenTheSpaceIsShort) {
     RecordArray<ImageRecord> queue;
-    queue.Append(Entry(Q("a.jpg")));
+    queue.Append(FisheyePhoto({}, Text("a.jpg")));
     queue(1).Width = 6000;
     queue(1).Height = 4000;
     queue.Append(queue(1));
@@ -80,9 +73,9 @@ TEST(BatchChecks, WarnOnlyWhenTheSpaceIsShort) {
     EXPECT_EQ(SpaceWarning(144'000'000, 144'000'000), QString());
     EXPECT_EQ(SpaceWarning(144'000'000, -1), QString());
     EXPECT_EQ(SpaceWarning(144'000'000, 1'500'000),
-              Q("The images may need up to 144.0 MB, but only 1.5 MB are free there."));
+              Text("The images may need up to 144.0 MB, but only 1.5 MB are free there."));
     EXPECT_GT(FreeBytes(QDir::tempPath()), 0);
-    EXPECT_LT(FreeBytes(Q("/no/such")), 0);
+    EXPECT_LT(FreeBytes(Text("/no/such")), 0);
 }
 
 TEST(TimeLeftText, WaitsForAPaceAndGetsCoarserWithTime) {
@@ -98,15 +91,15 @@ TEST(TimeLeftText, WaitsForAPaceAndGetsCoarserWithTime) {
                 {120.0, 0.5, "about 2 minutes left"},
                 {600.0, 0.1, "about 1.5 hours left"}};
     for (const auto& row : rows) {
-        EXPECT_EQ(TimeLeftText(row.seconds, row.done), Q(row.text)) << row.seconds;
+        EXPECT_EQ(TimeLeftText(row.seconds, row.done), Text(row.text)) << row.seconds;
     }
 }
 
 TEST(QueueLine, NamesFileProjectionAndFrame) {
-    ImageRecord entry = Entry(Q("IMG_1.jpg"), Projection::Rectilinear);
-    EXPECT_EQ(QueueLine(entry), Q("IMG_1.jpg (Rectilinear)"));
-    entry.NameSuffix = Q("Morph0012");
-    EXPECT_EQ(QueueLine(entry), Q("IMG_1.jpg (Rectilinear, Morph 0012)"));
+    ImageRecord entry = FisheyePhoto({}, Text("IMG_1.jpg"), Projection::Rectilinear);
+    EXPECT_EQ(QueueLine(entry), Text("IMG_1.jpg (Rectilinear)"));
+    entry.NameSuffix = Text("Morph0012");
+    EXPECT_EQ(QueueLine(entry), Text("IMG_1.jpg (Rectilinear, Morph 0012)"));
 }
 
 }  // namespace

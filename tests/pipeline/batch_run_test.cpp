@@ -19,56 +19,48 @@
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::FisheyePhoto;
+using testing::Text;
 
 // Writes down all that it hears and asks to stop after a number of photos.
 class Listener : public BatchObserver, public RenderProgress {
   public:
     explicit Listener(QStringList& log) : log_(log) {}
-    void Naming(const QString& path) override { log_ += Q("name ") + path; }
+    void Naming(const QString& path) override { log_ += Text("name ") + path; }
     RenderProgress& Progress() override { return *this; }
     void Done(int done, int queued) override { log_ += BatchProgressText(done, queued); }
     bool StopAsked() override { return --stopAfter == 0; }
-    void Begin(float /*maximum*/) override { log_ += Q("begin"); }
+    void Begin(float /*maximum*/) override { log_ += Text("begin"); }
     void Advance(float /*value*/) override {}
-    void End() override { log_ += Q("end"); }
+    void End() override { log_ += Text("end"); }
     int stopAfter = -1;
 
   private:
     QStringList& log_;
 };
 
-ImageRecord Entry(const QString& name, Projection projection = Projection::Varnel) {
-    ImageRecord entry = testing::FisheyeRecord();
-    entry.Folder = Q("/in");
-    entry.FileName = name;
-    entry.Projection = static_cast<std::int16_t>(projection);
-    return entry;
-}
-
 // A run without files: loading gives a small portrait, saving only notes the name.
 class FakeRun : public ::testing::Test {
   protected:
     BatchSummary Go() { return RunBatch(queue, choices, listener, ports); }
     LoadedPicture Load(const QString& path) {
-        log += Q("load ") + path;
+        log += Text("load ") + path;
         return {LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     }
     SaveResult Save(FREE_IMAGE_FORMAT format, const QString& path, int flags) {
-        log += Q("save %1 as %2 with %3").arg(path).arg(format).arg(flags);
+        log += Text("save %1 as %2 with %3").arg(path).arg(format).arg(flags);
         return {true, {}};
     }
 
     QStringList log;
     Listener listener{log};
     RecordArray<ImageRecord> queue;
-    BatchChoices choices{Q("/out"), {}, OutputType::Jpeg, 83};
+    BatchChoices choices{Text("/out"), {}, OutputType::Jpeg, 83};
     BatchPorts ports{[this](const QString& path) { return Load(path); },
                      [this](FREE_IMAGE_FORMAT format, FIBITMAP*, const QString& path, int flags) {
                          return Save(format, path, flags);
@@ -76,31 +68,23 @@ class FakeRun : public ::testing::Test {
 };
 
 TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
-    queue.Append(Entry(Q("a.jpg")));
-    queue.Append(Entry(Q("b.jpg"), Projection::Rectilinear));
+    queue.Append(FisheyePhoto(Text("/in"), Text("a.jpg")));
+    queue.Append(FisheyePhoto(Text("/in"), Text("b.jpg"), Projection::Rectilinear));
     queue(2).RotateY = -5.0F;
-    queue(2).NameSuffix = Q("Morph0007");
-    choices.additions.texts[1] = Q("flat");
+    queue(2).NameSuffix = Text("Morph0007");
+    choices.additions.texts[1] = Text("flat");
     const BatchSummary summary = Go();
-    const QStringList expected{Q("load /in/a.jpg"),
-                               Q("name /out/a.Varnel.JPG"),
-                               Q("begin"),
-                               Q("end"),
-                               Q("save /out/a.Varnel.JPG as 2 with 83"),
-                               Q("1 of 2 images"),
-                               Q("load /in/b.jpg"),
-                               Q("name /out/b.flat_Morph0007_hAOV090_LR-5.JPG"),
-                               Q("begin"),
-                               Q("end"),
-                               Q("save /out/b.flat_Morph0007_hAOV090_LR-5.JPG as 2 with 83"),
-                               Q("2 of 2 images")};
-    EXPECT_EQ(log, expected);
+    EXPECT_EQ(log.join(u'\n'),
+              Text("load /in/a.jpg\nname /out/a.Varnel.JPG\nbegin\nend\n"
+                   "save /out/a.Varnel.JPG as 2 with 83\n1 of 2 images\n"
+                   "load /in/b.jpg\nname /out/b.flat_Morph0007_hAOV090_LR-5.JPG\nbegin\nend\n"
+                   "save /out/b.flat_Morph0007_hAOV090_LR-5.JPG as 2 with 83\n2 of 2 images"));
     EXPECT_EQ(summary.written.size(), 2);
     EXPECT_FALSE(summary.Stopped());
 }
 
-TEST_F(FakeRun, ChoicesSayWhetherMetadataAndFullColourAreWritten) {
-    queue.Append(Entry(Q("a.jpg")));
+TEST_F(FakeRun, ChoicesSayWhetherMetadataSettingsAndFullColourAreWritten) {
+    queue.Append(FisheyePhoto(Text("/in"), Text("a.jpg")));
     ports.load = [](const QString&) {
         LoadedPicture photo{LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
         FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.bitmap.get(), "Comment", "a street");
@@ -108,18 +92,21 @@ TEST_F(FakeRun, ChoicesSayWhetherMetadataAndFullColourAreWritten) {
     };
     QString saved;
     ports.save = [&saved](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString&, int flags) {
-        saved += Q(" %1:%2").arg(FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap)).arg(flags);
+        saved += Text(" %1:%2:%3")
+                     .arg(FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap))
+                     .arg(SettingsOf(bitmap).value(Text("Ratio"), Text("none")))
+                     .arg(flags);
         return SaveResult{true, {}};
     };
     Go();
     choices.chroma444 = true;
-    choices.writeMetadata = false;
+    choices.writeMetadata = choices.writeSettings = false;
     Go();
-    EXPECT_EQ(saved, Q(" 1:83 0:65619"));  // 0x10000 + 83
+    EXPECT_EQ(saved, Text(" 1:125:83 0:none:65619"));  // 0x10000 + 83
 }
 
 TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
-    queue.Append(Entry(Q("a.jpg")));
+    queue.Append(FisheyePhoto(Text("/in"), Text("a.jpg")));
     ImageRecord expected = queue(1);
     expected.Width = 6;
     expected.Height = 9;
@@ -148,7 +135,7 @@ TEST_F(FakeRun, MemoryHoldsOnePhotoHoweverLongTheQueue) {
         return SaveResult{true, {}};
     };
     for (int n = 0; n < 1000; ++n) {
-        queue.Append(Entry(Q("%1.jpg").arg(n)));
+        queue.Append(FisheyePhoto(Text("/in"), Text("%1.jpg").arg(n)));
     }
     EXPECT_EQ(Go().written.size(), 1000);
     if (atLoad.last() == 0) {
@@ -160,16 +147,16 @@ TEST_F(FakeRun, MemoryHoldsOnePhotoHoweverLongTheQueue) {
 
 TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
     for (int n = 1; n <= 10; ++n) {
-        queue.Append(Entry(Q("%1.jpg").arg(n)));
+        queue.Append(FisheyePhoto(Text("/in"), Text("%1.jpg").arg(n)));
     }
     listener.stopAfter = 3;
     const BatchSummary summary = Go();
     EXPECT_EQ(summary.written.join(u' '),
-              Q("/out/1.Varnel.JPG /out/2.Varnel.JPG /out/3.Varnel.JPG"));
-    EXPECT_EQ(log.last(), Q("3 of 10 images"));
+              Text("/out/1.Varnel.JPG /out/2.Varnel.JPG /out/3.Varnel.JPG"));
+    EXPECT_EQ(log.last(), Text("3 of 10 images"));
     EXPECT_TRUE(summary.Stopped());
     EXPECT_EQ(SummaryText(summary),
-              Q("3 of 10 images written into /out\nStopped after 3 of 10 images\n"));
+              Text("3 of 10 images written into /out\nStopped after 3 of 10 images\n"));
     // Asked during the last one, Stop takes nothing away.
     queue.Resize(3);
     listener.stopAfter = 3;
@@ -180,20 +167,21 @@ TEST_F(FakeRun, StopDuringTheThirdOfTenFinishesIt) {
 // for after some of them.
 TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
     for (int n = 1; n <= 9; ++n) {
-        queue.Append(Entry(Q("%1.jpg").arg(n), static_cast<Projection>(n % 4)));
+        queue.Append(
+            FisheyePhoto(Text("/in"), Text("%1.jpg").arg(n), static_cast<Projection>(n % 4)));
     }
     queue.Append(queue(9));  // the same name twice, and the same photo
     queue(4).EffectVarnel = 1e30F;
     const auto load = [](const QString& path) {
         return path.contains(u'5') || path.contains(u'6')
-                   ? LoadedPicture::Refused(Q("unreadable"))
+                   ? LoadedPicture::Refused(Text("unreadable"))
                    : LoadedPicture{
                          LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     };
     const auto save = [](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString& path, int) {
         const bool fails = path.contains(u'7');
         std::this_thread::sleep_for(std::chrono::milliseconds(path.size() % 3));
-        return SaveResult{!fails && SizeOf(bitmap).width == 6, fails ? Q("full") : QString()};
+        return SaveResult{!fails && SizeOf(bitmap).width == 6, fails ? Text("full") : QString()};
     };
     for (int stopAfter = -1; stopAfter <= 10; ++stopAfter) {
         QStringList heard[2];
@@ -221,13 +209,13 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
 TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
     const char* const names[] = {"unreadable", "memory", "library", "name", "number", "disk", "ok"};
     for (const char* name : names) {
-        queue.Append(Entry(Q(name) + Q(".jpg")));
+        queue.Append(FisheyePhoto(Text("/in"), Text(name) + Text(".jpg")));
     }
     queue(4).EffectVarnel = 1e30F;  // no whole number for a tag
     queue(5).Ratio = 0.0F;
     ports.load = [this](const QString& path) {
         if (path.contains(u"unreadable")) {
-            return LoadedPicture::Refused(Q("cannot be read"));
+            return LoadedPicture::Refused(Text("cannot be read"));
         }
         if (path.contains(u"memory")) {
             throw std::bad_alloc();
@@ -238,63 +226,62 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
         return Load(path);
     };
     ports.save = [](FREE_IMAGE_FORMAT, FIBITMAP*, const QString& path, int) {
-        return path.contains(u"disk") ? SaveResult{false, Q("disk full")} : SaveResult{true, {}};
+        return path.contains(u"disk") ? SaveResult{false, Text("disk full")} : SaveResult{true, {}};
     };
     const BatchSummary summary = Go();
-    EXPECT_EQ(summary.written, QStringList{Q("/out/ok.Varnel.JPG")});
-    EXPECT_EQ(log.filter(Q("of 7 images")).size(), 7);
+    EXPECT_EQ(summary.written, QStringList{Text("/out/ok.Varnel.JPG")});
+    EXPECT_EQ(log.filter(Text("of 7 images")).size(), 7);
     ASSERT_EQ(summary.failures.size(), 6U);
     const char* const reasons[] = {
         "cannot be read",          "there is not enough memory",
         "the library's own words", "Overflow: the effect",
         "Division by zero: ",      "could not write /out/disk.Varnel.JPG: disk full"};
     for (std::size_t n = 0; n < summary.failures.size(); ++n) {
-        EXPECT_EQ(summary.failures[n].file, Q("/in/%1.jpg").arg(Q(names[n])));
-        EXPECT_TRUE(summary.failures[n].reason.startsWith(Q(reasons[n])))
+        EXPECT_EQ(summary.failures[n].file, Text("/in/%1.jpg").arg(Text(names[n])));
+        EXPECT_TRUE(summary.failures[n].reason.startsWith(Text(reasons[n])))
             << summary.failures[n].reason.toStdString();
     }
 }
 
 TEST_F(FakeRun, OfTwoWithOneNameTheLaterStaysAndIsTold) {
     for (const char* name : {"a.jpg", "b.jpg", "a.tif", "a.bmp"}) {
-        queue.Append(Entry(Q(name)));
+        queue.Append(FisheyePhoto(Text("/in"), Text(name)));
     }
     EXPECT_EQ(CollidingNames(queue, choices), 1);
     const BatchSummary summary = Go();
     EXPECT_EQ(summary.written.size(), 4);
-    EXPECT_EQ(summary.replaced, QStringList{Q("/out/a.Varnel.JPG")});
-    EXPECT_EQ(SummaryText(summary), Q("4 of 4 images written into /out\n\n1 file was replaced by a "
-                                      "later image of the same name:\n"
-                                      "  /out/a.Varnel.JPG\n"));
+    EXPECT_EQ(summary.replaced, QStringList{Text("/out/a.Varnel.JPG")});
+    EXPECT_EQ(SummaryText(summary),
+              Text("4 of 4 images written into /out\n\n1 file was replaced by a "
+                   "later image of the same name:\n"
+                   "  /out/a.Varnel.JPG\n"));
 }
 
 TEST(SummaryText, WhatSeveralFilesAreWithoutStandsOnceWithTheFirst) {
     BatchSummary summary;
-    summary.folder = Q("/out");
+    summary.folder = Text("/out");
     summary.queued = summary.done = 4;
-    summary.notes = {{Q("a"), Q("no IPTC")},
-                     {Q("b"), Q("no XMP")},
-                     {Q("c"), Q("no IPTC")},
-                     {Q("d"), Q("no IPTC")}};
+    summary.notes = {{Text("a"), Text("no IPTC")},
+                     {Text("b"), Text("no XMP")},
+                     {Text("c"), Text("no IPTC")},
+                     {Text("d"), Text("no IPTC")}};
     EXPECT_EQ(SummaryText(summary),
-              Q("0 of 4 images written into /out\n\n4 files do not hold everything:\n"
-                "  a and 2 more: no IPTC\n  b: no XMP\n"));
+              Text("0 of 4 images written into /out\n\n4 files do not hold everything:\n"
+                   "  a and 2 more: no IPTC\n  b: no XMP\n"));
 }
 
 // Runs with real files, read from "in" and written into "out".
 class RealRun : public ::testing::Test {
   protected:
     RealRun() {
-        QDir(files.Path({})).mkdir(Q("in"));
-        QDir(files.Path({})).mkdir(Q("out"));
+        QDir(files.Path({})).mkdir(Text("in"));
+        QDir(files.Path({})).mkdir(Text("out"));
     }
-    QString In(const QString& name) const { return files.Path(Q("in/") + name); }
-    QString Out(const QString& name) const { return files.Path(Q("out/") + name); }
+    QString In(const QString& name) const { return files.Path(Text("in/") + name); }
+    QString Out(const QString& name) const { return files.Path(Text("out/") + name); }
     QStringList OutNames() const { return QDir(Out({})).entryList(QDir::Files); }
     void Queue(const QString& name, Projection projection = Projection::Varnel) {
-        ImageRecord entry = Entry(name, projection);
-        entry.Folder = files.Path(Q("in"));
-        queue.Append(entry);
+        queue.Append(FisheyePhoto(files.Path(Text("in")), name, projection));
     }
     BatchSummary Go() {
         QStringList log;
@@ -313,7 +300,7 @@ class RealRun : public ::testing::Test {
         Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
         NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings,
                      BatchPath(entry, choices));
-        const QString path = files.Path(Q("single"));
+        const QString path = files.Path(Text("single"));
         SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
                    SaveFlags(choices.type, choices.jpegQuality, choices.chroma444));
         return testing::Contents(path);
@@ -321,23 +308,23 @@ class RealRun : public ::testing::Test {
 
     testing::PictureFolder files;
     RecordArray<ImageRecord> queue;
-    BatchChoices choices{files.Path(Q("out")), {}, OutputType::Png, 90};
+    BatchChoices choices{files.Path(Text("out")), {}, OutputType::Png, 90};
 };
 
 TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
-    const QString whole = files.Picture(Q("in/a.jpg"), FIF_JPEG, {300, 200});
-    files.Picture(Q("in/b.tif"), FIF_TIFF, {40, 60});
-    files.Picture(Q("in/c.png"), FIF_PNG);
-    files.Cut(Q("in/cut.jpg"), whole, 60);
-    files.Text(Q("in/text.jpg"));
-    files.Empty(Q("in/empty.png"));
+    const QString whole = files.Picture(Text("in/a.jpg"), FIF_JPEG, {300, 200});
+    files.Picture(Text("in/b.tif"), FIF_TIFF, {40, 60});
+    files.Picture(Text("in/c.png"), FIF_PNG);
+    files.Cut(Text("in/cut.jpg"), whole, 60);
+    files.Text(Text("in/text.jpg"));
+    files.Empty(Text("in/empty.png"));
     const std::pair<const char*, Projection> names[] = {
         {"text.jpg", Projection::Varnel},   {"a.jpg", Projection::Varnel},
         {"cut.jpg", Projection::Horizon},   {"b.tif", Projection::Rectilinear},
         {"gone.bmp", Projection::Varnel},   {"c.png", Projection::Equidistance},
         {"empty.png", Projection::Horizon}, {"a.jpg", Projection::Horizon}};
     for (const auto& [name, projection] : names) {
-        Queue(Q(name), projection);
+        Queue(Text(name), projection);
     }
     const BatchSummary summary = Go();
     const std::pair<const char*, int> good[] = {{"a.Varnel.PNG", 2},
@@ -346,54 +333,55 @@ TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
                                                 {"c.Equidistance.PNG", 6},
                                                 {"a.Horizon.PNG", 8}};
     for (const auto& [name, entry] : good) {
-        EXPECT_EQ(testing::Contents(Out(Q(name))), Single(queue(entry))) << name;
+        EXPECT_EQ(testing::Contents(Out(Text(name))), Single(queue(entry))) << name;
     }
     EXPECT_EQ(OutNames().size(), 5);
     ASSERT_EQ(summary.failures.size(), 3U);
-    EXPECT_EQ(summary.failures[0].file, In(Q("text.jpg")));
-    EXPECT_EQ(summary.failures[1].reason, Q("there is no such file"));
-    EXPECT_EQ(summary.failures[2].file, In(Q("empty.png")));
+    EXPECT_EQ(summary.failures[0].file, In(Text("text.jpg")));
+    EXPECT_EQ(summary.failures[1].reason, Text("there is no such file"));
+    EXPECT_EQ(summary.failures[2].file, In(Text("empty.png")));
     ASSERT_EQ(summary.damaged.size(), 1U);
-    EXPECT_EQ(summary.damaged[0].file, In(Q("cut.jpg")));
+    EXPECT_EQ(summary.damaged[0].file, In(Text("cut.jpg")));
     EXPECT_TRUE(SummaryText(summary).startsWith(
-        Q("5 of 8 images written into %1\n\n3 images failed:\n").arg(choices.folder)));
+        Text("5 of 8 images written into %1\n\n3 images failed:\n").arg(choices.folder)));
 }
 
 TEST_F(RealRun, AHalfPictureReplacesOnlyAnotherOfItsOwnRun) {
-    files.Cut(Q("in/cut.jpg"), files.Picture(Q("in/a.jpg"), FIF_JPEG, {300, 200}), 60);
-    files.Picture(Q("in/cut.bmp"), FIF_BMP);
-    const QString older = files.Text(Q("out/cut.Varnel.PNG"));
-    Queue(Q("cut.jpg"));                       // the older file stays
-    Queue(Q("cut.jpg"), Projection::Horizon);  // written
-    Queue(Q("cut.jpg"), Projection::Horizon);  // replaces the half picture
-    Queue(Q("cut.bmp"), Projection::Horizon);  // a whole one replaces it again
-    Queue(Q("cut.jpg"), Projection::Horizon);  // and stays
+    files.Cut(Text("in/cut.jpg"), files.Picture(Text("in/a.jpg"), FIF_JPEG, {300, 200}), 60);
+    files.Picture(Text("in/cut.bmp"), FIF_BMP);
+    const QString older = files.Text(Text("out/cut.Varnel.PNG"));
+    Queue(Text("cut.jpg"));                       // the older file stays
+    Queue(Text("cut.jpg"), Projection::Horizon);  // written
+    Queue(Text("cut.jpg"), Projection::Horizon);  // replaces the half picture
+    Queue(Text("cut.bmp"), Projection::Horizon);  // a whole one replaces it again
+    Queue(Text("cut.jpg"), Projection::Horizon);  // and stays
     const BatchSummary summary = Go();
-    EXPECT_EQ(testing::Contents(older), Q("this is no picture\n").toUtf8());
-    EXPECT_EQ(testing::Contents(Out(Q("cut.Horizon.PNG"))), Single(queue(4)));
+    EXPECT_EQ(testing::Contents(older), Text("this is no picture\n").toUtf8());
+    EXPECT_EQ(testing::Contents(Out(Text("cut.Horizon.PNG"))), Single(queue(4)));
     EXPECT_EQ(summary.written.size(), 3);
-    EXPECT_EQ(summary.replaced, QStringList{Out(Q("cut.Horizon.PNG"))});
+    EXPECT_EQ(summary.replaced, QStringList{Out(Text("cut.Horizon.PNG"))});
     ASSERT_EQ(summary.failures.size(), 2U);
-    EXPECT_TRUE(summary.failures[0].reason.contains(Q("does not replace the older ") + older));
+    EXPECT_TRUE(summary.failures[0].reason.contains(Text("does not replace the older ") + older));
 }
 
 TEST_F(RealRun, NoPhotoOfTheQueueIsReplaced) {
-    files.Picture(Q("in/a.jpg"), FIF_JPEG);
-    files.Picture(Q("in/b.Varnel.PNG"), FIF_PNG);
-    files.Picture(Q("in/b.jpg"), FIF_JPEG);
-    ASSERT_TRUE(QFile::link(In(Q("a.jpg")), Out(Q("a.Varnel.PNG"))));
-    ASSERT_TRUE(QFile::link(In(Q("b.Varnel.PNG")), Out(Q("b.Varnel.PNG"))));
+    files.Picture(Text("in/a.jpg"), FIF_JPEG);
+    files.Picture(Text("in/b.Varnel.PNG"), FIF_PNG);
+    files.Picture(Text("in/b.jpg"), FIF_JPEG);
+    ASSERT_TRUE(QFile::link(In(Text("a.jpg")), Out(Text("a.Varnel.PNG"))));
+    ASSERT_TRUE(QFile::link(In(Text("b.Varnel.PNG")), Out(Text("b.Varnel.PNG"))));
     const QByteArray before =
-        testing::Contents(In(Q("a.jpg"))) + testing::Contents(In(Q("b.Varnel.PNG")));
+        testing::Contents(In(Text("a.jpg"))) + testing::Contents(In(Text("b.Varnel.PNG")));
     for (const char* name : {"a.jpg", "b.jpg", "b.Varnel.PNG"}) {
-        Queue(Q(name));
+        Queue(Text(name));
     }
     const BatchSummary summary = Go();
-    EXPECT_EQ(testing::Contents(In(Q("a.jpg"))) + testing::Contents(In(Q("b.Varnel.PNG"))), before);
+    EXPECT_EQ(testing::Contents(In(Text("a.jpg"))) + testing::Contents(In(Text("b.Varnel.PNG"))),
+              before);
     ASSERT_EQ(summary.failures.size(), 2U);
-    EXPECT_TRUE(summary.failures[0].reason.endsWith(Q("is the photo itself")));
-    EXPECT_TRUE(summary.failures[1].reason.endsWith(Q("is one of the queued photos")));
-    EXPECT_EQ(summary.written, QStringList{Out(Q("b.Varnel.Varnel.PNG"))});
+    EXPECT_TRUE(summary.failures[0].reason.endsWith(Text("is the photo itself")));
+    EXPECT_TRUE(summary.failures[1].reason.endsWith(Text("is one of the queued photos")));
+    EXPECT_EQ(summary.written, QStringList{Out(Text("b.Varnel.Varnel.PNG"))});
 }
 
 }  // namespace

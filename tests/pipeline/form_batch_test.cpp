@@ -5,9 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QClipboard>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -15,52 +13,39 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTest>
 #include <QTimer>
 #include <QTreeView>
 
+#include "tests/support/dialogs.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-class NotedNotices : public Notices {
-  public:
-    void Tell(const QString& text, const QString& detail) override {
-        told.append(text + u'|' + detail);
-    }
-    QStringList told;
-};
+using testing::Text;
 
 // A queue of photos in "in", written into "out".
-class FormBatchTest : public ::testing::Test {
+class FormBatchTest : public testing::DialogTest<FormBatch> {
   protected:
     FormBatchTest() {
-        QDir(files.Path({})).mkdir(Q("in"));
-        QDir(files.Path({})).mkdir(Q("out"));
+        QDir(files.Path({})).mkdir(Text("in"));
+        QDir(files.Path({})).mkdir(Text("out"));
         choices.folder = Out();
         choices.type = OutputType::Bmp;
     }
-    QString Out() const { return QDir::cleanPath(files.Path(Q("out"))); }
+    QString Out() const { return QDir::cleanPath(files.Path(Text("out"))); }
     QStringList OutNames() const { return QDir(Out()).entryList(QDir::Files, QDir::Name); }
     void Queue(const QString& name, Projection projection = Projection::Equidistance) {
-        ImageRecord entry = testing::FisheyeRecord();
-        entry.Folder = files.Path(Q("in"));
-        entry.FileName = name;
-        entry.Projection = static_cast<std::int16_t>(projection);
-        queue.Append(entry);
+        queue.Append(testing::FisheyePhoto(files.Path(Text("in")), name, projection));
     }
     // Good photos named 01.bmp and so on.
     void QueuePhotos(int count) {
         for (int n = 1; n <= count; ++n) {
-            const QString name = Q("%1.bmp").arg(n, 2, 10, QChar(u'0'));
-            files.Picture(Q("in/") + name, FIF_BMP);
+            const QString name = Text("%1.bmp").arg(n, 2, 10, QChar(u'0'));
+            files.Picture(Text("in/") + name, FIF_BMP);
             Queue(name);
         }
     }
@@ -69,23 +54,15 @@ class FormBatchTest : public ::testing::Test {
                                            [this](int length) { lengths.append(length); });
         form->show();
     }
-    template <class Control>
-    Control& The(const char* name) const {
-        return *form->findChild<Control*>(Q(name));
-    }
-    void Click(const char* button) const {
-        QTest::mouseClick(&The<QPushButton>(button), Qt::LeftButton);
-    }
     void Type(const char* box, const char* text) const {
-        QTest::keyClicks(&The<QLineEdit>(box), Q(text));
+        QTest::keyClicks(&The<QLineEdit>(box), Text(text));
     }
-    QString Label(const char* name) const { return The<QLabel>(name).text(); }
     // Which of the four buttons can be seen.
     QString Buttons() const {
         QStringList names;
         for (const char* name : {"CmdBatchProcess", "CmdStop", "CmdCancel", "CmdClearBatchQue"}) {
             if (The<QPushButton>(name).isVisible()) {
-                names.append(Q(name));
+                names.append(Text(name));
             }
         }
         return names.join(u' ');
@@ -96,7 +73,7 @@ class FormBatchTest : public ::testing::Test {
         bool acted = false;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, form.get(), [&] {
-            if (!acted && Label("LabelProgress").startsWith(Q("%1 of ").arg(done)) &&
+            if (!acted && Label("LabelProgress").startsWith(Text("%1 of ").arg(done)) &&
                 The<QPushButton>("CmdStop").isVisible() && !Label("LabelImage").isEmpty()) {
                 acted = true;
                 action();
@@ -111,18 +88,16 @@ class FormBatchTest : public ::testing::Test {
     RecordArray<ImageRecord> queue;
     BatchChoices choices;
     GeneralSettings settings;
-    NotedNotices notices;
     QList<int> lengths;
-    std::unique_ptr<FormBatch> form;
 };
 
 TEST_F(FormBatchTest, HasItsControlsAndTheSettingsAtFirst) {
     QueuePhotos(2);
-    queue(2).NameSuffix = Q("Morph0004");
+    queue(2).NameSuffix = Text("Morph0004");
     choices = {};
-    settings = {400, 300, Q("PNG"), 77};
+    settings = {400, 300, Text("PNG"), 77};
     Open();
-    EXPECT_EQ(form->objectName(), Q("FormBatch"));
+    EXPECT_EQ(form->objectName(), Text("FormBatch"));
     const std::pair<const char*, const char*> controls[] = {
         {"Drive2", "QComboBox"},
         {"Dir2", "QTreeView"},
@@ -140,28 +115,24 @@ TEST_F(FormBatchTest, HasItsControlsAndTheSettingsAtFirst) {
         {"CmdCancel", "QPushButton"},
         {"CmdClearBatchQue", "QPushButton"}};
     for (const auto& [name, kind] : controls) {
-        const auto* const control = form->findChild<QWidget*>(Q(name));
+        const auto* const control = form->findChild<QWidget*>(Text(name));
         ASSERT_NE(control, nullptr) << name;
         EXPECT_TRUE(control->inherits(kind)) << name;
         EXPECT_FALSE(control->accessibleName().isEmpty()) << name;
     }
-    QStringList types;
-    for (int n = 0; n < The<QComboBox>("ComboFileType").count(); ++n) {
-        types.append(The<QComboBox>("ComboFileType").itemText(n));
-    }
-    EXPECT_EQ(types.join(u' '), Q("TIFF JPEG BMP PNG"));
-    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Q("PNG"));
+    EXPECT_EQ(testing::Items(The<QComboBox>("ComboFileType")), Text("TIFF JPEG BMP PNG"));
+    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("PNG"));
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 77);
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").minimum(), 1);
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").maximum(), 100);
     EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), QString());
-    EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Stop"));
-    EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+    EXPECT_EQ(The<QPushButton>("CmdStop").text(), Text("Stop"));
+    EXPECT_EQ(Buttons(), Text("CmdBatchProcess CmdCancel CmdClearBatchQue"));
     EXPECT_TRUE(The<QPushButton>("CmdBatchProcess").isDefault());
-    EXPECT_EQ(Label("LabelFolder"), QDir::cleanPath(files.Path(Q("in"))));
+    EXPECT_EQ(Label("LabelFolder"), QDir::cleanPath(files.Path(Text("in"))));
     const auto* const lines = The<QListView>("ListQueue").model();
     EXPECT_EQ(lines->rowCount(), 2);
-    EXPECT_EQ(lines->index(1, 0).data().toString(), Q("02.bmp (Equidistance, Morph 0004)"));
+    EXPECT_EQ(lines->index(1, 0).data().toString(), Text("02.bmp (Equidistance, Morph 0004)"));
 }
 
 TEST_F(FormBatchTest, WritesTheQueueAsChosenAndEmptiesIt) {
@@ -173,11 +144,11 @@ TEST_F(FormBatchTest, WritesTheQueueAsChosenAndEmptiesIt) {
     QTest::keyClick(&The<QSlider>("SliderJPEGcompression"), Qt::Key_PageDown);
     EXPECT_EQ(The<QSpinBox>("SpinSliderJPEGcompression").value(), 95);
     QTest::keyClick(&The<QLineEdit>("TextFileadditionEquidistance"), Qt::Key_Return);
-    EXPECT_EQ(OutNames().join(u' '), Q("01.wide.JPG 02.Horizon.JPG"));
+    EXPECT_EQ(OutNames().join(u' '), Text("01.wide.JPG 02.Horizon.JPG"));
     EXPECT_TRUE(queue.Empty());
     EXPECT_EQ(lengths, QList<int>{0});
-    EXPECT_EQ(Label("LabelProgress"), Q("2 of 2 images"));
-    EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+    EXPECT_EQ(Label("LabelProgress"), Text("2 of 2 images"));
+    EXPECT_EQ(Buttons(), Text("CmdBatchProcess CmdCancel CmdClearBatchQue"));
     EXPECT_FALSE(The<QPushButton>("CmdBatchProcess").isEnabled());
     EXPECT_TRUE(notices.told.isEmpty());
 }
@@ -186,18 +157,18 @@ TEST_F(FormBatchTest, DuringARunOnlyStopCanBeUsed) {
     QueuePhotos(2);
     Open();
     RunAnd(1, [this] {
-        EXPECT_EQ(Buttons(), Q("CmdStop"));
-        EXPECT_EQ(Label("LabelImage"), Out() + Q("/02.Equidistance.BMP"));
+        EXPECT_EQ(Buttons(), Text("CmdStop"));
+        EXPECT_EQ(Label("LabelImage"), Out() + Text("/02.Equidistance.BMP"));
         EXPECT_EQ(The<QListView>("ListQueue").currentIndex().row(), 1);
         for (const QWidget* const widget : form->findChildren<QWidget*>()) {
             if (widget->isVisible() && widget->isEnabled() &&
                 widget->focusPolicy() != Qt::NoFocus) {
-                EXPECT_EQ(widget->objectName(), Q("CmdStop"));
+                EXPECT_EQ(widget->objectName(), Text("CmdStop"));
             }
         }
         Type("TextFileadditionEquidistance", "late");
     });
-    EXPECT_EQ(OutNames().join(u' '), Q("01.Equidistance.BMP 02.Equidistance.BMP"));
+    EXPECT_EQ(OutNames().join(u' '), Text("01.Equidistance.BMP 02.Equidistance.BMP"));
 }
 
 TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
@@ -209,16 +180,16 @@ TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
         Open();
         RunAnd(2, [&] {
             way();
-            EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Wait this image"));
+            EXPECT_EQ(The<QPushButton>("CmdStop").text(), Text("Wait this image"));
             EXPECT_TRUE(form->isVisible());
         });
         EXPECT_EQ(OutNames().size(), 3);
         QDir(Out()).removeRecursively();
         QDir().mkdir(Out());
         EXPECT_TRUE(queue.Empty());
-        EXPECT_EQ(Label("LabelProgress"), Q("3 of 10 images"));
-        EXPECT_EQ(The<QPushButton>("CmdStop").text(), Q("Stop"));
-        EXPECT_EQ(Buttons(), Q("CmdBatchProcess CmdCancel CmdClearBatchQue"));
+        EXPECT_EQ(Label("LabelProgress"), Text("3 of 10 images"));
+        EXPECT_EQ(The<QPushButton>("CmdStop").text(), Text("Stop"));
+        EXPECT_EQ(Buttons(), Text("CmdBatchProcess CmdCancel CmdClearBatchQue"));
         EXPECT_TRUE(form->isVisible()) << "the summary is to be read";
         QTest::keyClick(form.get(), Qt::Key_Escape);
         EXPECT_FALSE(form->isVisible());
@@ -228,18 +199,18 @@ TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
 
 TEST_F(FormBatchTest, TheSummaryCanBeReadAndCopied) {
     QueuePhotos(1);
-    files.Text(Q("in/text.jpg"));
-    Queue(Q("text.jpg"));
+    files.Text(Text("in/text.jpg"));
+    Queue(Text("text.jpg"));
     Open();
     Click("CmdBatchProcess");
     const auto& text = The<QPlainTextEdit>("TextSummary");
     EXPECT_TRUE(text.isVisible());
     EXPECT_TRUE(text.isReadOnly());
-    EXPECT_EQ(text.toPlainText(), Q("1 of 2 images written into %1\n\n1 image failed:\n"
-                                    "  %2: this is not a picture of a known type\n\n"
-                                    "1 file does not hold everything:\n"
-                                    "  %1/01.Equidistance.BMP: BMP files hold no settings\n")
-                                      .arg(Out(), files.Path(Q("in/text.jpg"))));
+    EXPECT_EQ(text.toPlainText(), Text("1 of 2 images written into %1\n\n1 image failed:\n"
+                                       "  %2: this is not a picture of a known type\n\n"
+                                       "1 file does not hold everything:\n"
+                                       "  %1/01.Equidistance.BMP: BMP files hold no settings\n")
+                                      .arg(Out(), files.Path(Text("in/text.jpg"))));
     Click("CmdCopy");
     EXPECT_EQ(QApplication::clipboard()->text(), text.toPlainText());
 }
@@ -250,7 +221,7 @@ TEST_F(FormBatchTest, AMissingFolderIsToldAtOnceAndTheQueueStays) {
     QDir(Out()).removeRecursively();
     Click("CmdBatchProcess");
     EXPECT_EQ(notices.told.join(u' '),
-              Q("The folder %1 does not exist|Choose another folder.").arg(Out()));
+              Text("The folder %1 does not exist|Choose another folder.").arg(Out()));
     EXPECT_EQ(queue.UpperBound(), 1);
     EXPECT_TRUE(lengths.isEmpty());
 }
@@ -268,13 +239,13 @@ TEST_F(FormBatchTest, ClearEmptiesTheQueueOnly) {
 
 TEST_F(FormBatchTest, TellsCollisionsAndMissingSpaceBeforeTheRun) {
     QueuePhotos(2);
-    files.Text(Q("out/02.all.BMP"));
-    Queue(Q("02.tif"));
+    files.Text(Text("out/02.all.BMP"));
+    Queue(Text("02.tif"));
     Open();
     EXPECT_EQ(Label("LabelNames"),
-              Q("1 name collides: of the images of one name only the last one stays."));
+              Text("1 name collides: of the images of one name only the last one stays."));
     Type("TextFileadditionEquidistance", "all");
-    EXPECT_TRUE(Label("LabelNames").endsWith(Q("1 file in this folder will be replaced.")));
+    EXPECT_TRUE(Label("LabelNames").endsWith(Text("1 file in this folder will be replaced.")));
     queue(3).Projection = 0;
     The<QComboBox>("ComboFileType").setCurrentIndex(3);
     EXPECT_FALSE(The<QLabel>("LabelNames").isVisible());
@@ -285,7 +256,8 @@ TEST_F(FormBatchTest, TellsCollisionsAndMissingSpaceBeforeTheRun) {
         entry.Height = 32767;
     }
     The<QComboBox>("ComboFileType").setCurrentIndex(2);
-    EXPECT_TRUE(Label("LabelSpace").startsWith(Q("The images may need up to 322.1 TB, but only ")));
+    EXPECT_TRUE(
+        Label("LabelSpace").startsWith(Text("The images may need up to 322.1 TB, but only ")));
 }
 
 TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
@@ -297,14 +269,14 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_EQ(form->result(), QDialog::Rejected);
     EXPECT_TRUE(choices.writeMetadata && !choices.chroma444);
-    settings.FileType = Q("PNG");
+    settings.FileType = Text("PNG");
     settings.JPEGchroma444 = true;  // has no control here
     settings.WriteMetadata = false;
     Open();
     EXPECT_EQ(Label("LabelFolder"), Out());
-    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Q("JPEG"));
+    EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("JPEG"));
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 61);
-    EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), Q("sky"));
+    EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), Text("sky"));
     form->reject();
     EXPECT_TRUE(choices.chroma444 && !choices.writeMetadata);
     EXPECT_EQ(queue.UpperBound(), 1);
@@ -312,26 +284,26 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
 
 TEST_F(FormBatchTest, ANewFolderIsMadeNamedAndChosen) {
     QueuePhotos(1);
-    QDir(Out()).mkdir(Q("Varnel"));
+    QDir(Out()).mkdir(Text("Varnel"));
     Open();
     auto& tree = The<QTreeView>("Dir2");
     ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(tree.currentIndex()) == 1; }));
     Click("CmdNewFolder");
-    EXPECT_TRUE(QDir(Out() + Q("/Varnel 2")).exists());
+    EXPECT_TRUE(QDir(Out() + Text("/Varnel 2")).exists());
     auto* const editor = tree.findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
-    EXPECT_EQ(editor->text(), Q("Varnel 2"));
-    QTest::keyClicks(editor, Q("Wide"));
+    EXPECT_EQ(editor->text(), Text("Varnel 2"));
+    QTest::keyClicks(editor, Text("Wide"));
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Label("LabelFolder") == Out() + Q("/Wide"); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Label("LabelFolder") == Out() + Text("/Wide"); }));
     EXPECT_EQ(queue.UpperBound(), 1) << "naming a folder must not start the run";
     Click("CmdBatchProcess");
-    EXPECT_TRUE(QFile::exists(Out() + Q("/Wide/01.Equidistance.BMP")));
+    EXPECT_TRUE(QFile::exists(Out() + Text("/Wide/01.Equidistance.BMP")));
 }
 
 TEST_F(FormBatchTest, TheFolderStaysInSightWhenItsNeighboursArrive) {
-    QDir(Out()).mkpath(Q("a/b"));
-    choices.folder = Out() + Q("/a/b");
+    QDir(Out()).mkpath(Text("a/b"));
+    choices.folder = Out() + Text("/a/b");
     for (int n = 0; n < 5; ++n) {
         QueuePhotos(1);
         Open();

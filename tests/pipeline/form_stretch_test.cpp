@@ -16,16 +16,14 @@
 #include "tests/support/dialogs.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
 using testing::The;
 using testing::operator==;
-
-QString Text(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 class FormStretchTest : public ::testing::Test {
   protected:

@@ -6,14 +6,14 @@
 #include <gtest/gtest.h>
 
 #include "remap/run_time_error.h"
+#include "tests/support/changed_fields.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 ImageRecord Photo(Projection projection) {
     ImageRecord image = testing::FisheyeRecord();
@@ -21,7 +21,7 @@ ImageRecord Photo(Projection projection) {
     image.EffectVarnel = 70.0F;
     image.EffectRectilinear = 60.0F;
     image.TranslateY = 3.5F;
-    image.FileName = Q("IMG.jpg");
+    image.FileName = Text("IMG.jpg");
     return image;
 }
 
@@ -38,25 +38,21 @@ TEST(MorphFrame, MovesTheSevenSettingsInEqualSteps) {
     const MorphEnds ends{{60.0F, 10.0F, -40.0F, 0.0F, 1.0F, 5.0F, -2.0F},
                          {180.0F, 90.0F, 40.0F, 30.0F, 1.0F, -5.0F, 0.0F}};
     const ImageRecord photo = Photo(Projection::Rectilinear);
-    const struct {
-        int i;
-        float outputAov, effect, x, y, z, translateX, translateY;
-        const char* suffix;
-    } rows[] = {{1, 60, 10, -40, 0, 1, 5, -2, "Morph0001"},
-                {2, 90, 30, -20, 7.5F, 1, 2.5F, -1.5F, "Morph0002"},
-                {4, 150, 70, 20, 22.5F, 1, -2.5F, -0.5F, "Morph0004"},
-                {5, 180, 90, 40, 30, 1, -5, 0, "Morph0005"}};
-    for (const auto& row : rows) {
-        ImageRecord expected = photo;
-        expected.OutputAOV = row.outputAov;
-        expected.EffectRectilinear = row.effect;
-        expected.RotateX = row.x;
-        expected.RotateY = row.y;
-        expected.RotateZ = row.z;
-        expected.TranslateX = row.translateX;
-        expected.TranslateY = row.translateY;
-        expected.NameSuffix = Q(row.suffix);
-        EXPECT_EQ(MorphFrame(photo, ends, row.i, 5), expected) << row.i;
+    const std::pair<int, const char*> rows[] = {
+        {1,
+         "OutputAOV=60 EffectRectilinear=10 RotateX=-40 RotateZ=1 TranslateX=5 TranslateY=-2 "
+         "NameSuffix=Morph0001"},
+        {2,
+         "EffectRectilinear=30 RotateX=-20 RotateY=7.5 RotateZ=1 TranslateX=2.5 TranslateY=-1.5 "
+         "NameSuffix=Morph0002"},
+        {4,
+         "OutputAOV=150 EffectRectilinear=70 RotateX=20 RotateY=22.5 RotateZ=1 TranslateX=-2.5 "
+         "TranslateY=-0.5 NameSuffix=Morph0004"},
+        {5,
+         "OutputAOV=180 EffectRectilinear=90 RotateX=40 RotateY=30 RotateZ=1 TranslateX=-5 "
+         "TranslateY=0 NameSuffix=Morph0005"}};
+    for (const auto& [i, changes] : rows) {
+        EXPECT_EQ(testing::Changed(photo, MorphFrame(photo, ends, i, 5)), changes);
     }
 }
 
@@ -96,7 +92,7 @@ TEST(MorphFrame, TheNameKeepsFourDigits) {
                                     {9999, "Morph9999"},
                                     {10000, "Morph0000"},
                                     {32767, "Morph2767"}}) {
-        EXPECT_EQ(MorphFrame(photo, {}, i, 32767).NameSuffix, Q(suffix));
+        EXPECT_EQ(MorphFrame(photo, {}, i, 32767).NameSuffix, Text(suffix));
     }
 }
 
@@ -108,10 +104,10 @@ TEST(AddMorph, AppendsBehindWhatIsQueued) {
     ASSERT_EQ(queue.UpperBound(), 4);
     EXPECT_EQ(queue(1), photo);
     ImageRecord last = photo;
-    last.NameSuffix = Q("Morph0003");
+    last.NameSuffix = Text("Morph0003");
     EXPECT_EQ(queue(4), last);
     AddMorph(queue, photo, EndsFrom(photo), 2);
-    EXPECT_EQ(queue(5).NameSuffix, Q("Morph0001"));
+    EXPECT_EQ(queue(5).NameSuffix, Text("Morph0001"));
 }
 
 TEST(AddMorph, OneFrameIsADivisionByZeroAndFewerAreNothing) {
@@ -126,18 +122,18 @@ TEST(AddMorph, OneFrameIsADivisionByZeroAndFewerAreNothing) {
 
 TEST(MorphValue, KnowsTheEffectOfItsProjectionOnly) {
     MorphValues values;
-    EXPECT_EQ(MorphValue(values, Projection::Varnel, Q("EffectVarnel")), &values.effect);
-    EXPECT_EQ(MorphValue(values, Projection::Rectilinear, Q("EffectVarnel")), nullptr);
-    EXPECT_EQ(MorphValue(values, Projection::Horizon, Q("EffectRectilinear")), nullptr);
-    EXPECT_EQ(MorphValue(values, Projection::Horizon, Q("TranslateX")), &values.TranslateX);
-    EXPECT_EQ(MorphValue(values, Projection::Varnel, Q("InputAOV")), nullptr);
+    EXPECT_EQ(MorphValue(values, Projection::Varnel, Text("EffectVarnel")), &values.effect);
+    EXPECT_EQ(MorphValue(values, Projection::Rectilinear, Text("EffectVarnel")), nullptr);
+    EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("EffectRectilinear")), nullptr);
+    EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("TranslateX")), &values.TranslateX);
+    EXPECT_EQ(MorphValue(values, Projection::Varnel, Text("InputAOV")), nullptr);
     EXPECT_EQ(MorphFields().size(), 8);
 }
 
 TEST(FrameCountFromText, TakesWholeNumbersOfSixteenBits) {
     for (const auto& [text, count] :
          {std::pair{"2", 2}, {" 32767 ", 32767}, {"0", 0}, {"-3", -3}}) {
-        EXPECT_EQ(std::get<int>(FrameCountFromText(Q(text))), count);
+        EXPECT_EQ(std::get<int>(FrameCountFromText(Text(text))), count);
     }
     for (const auto& [text, words] :
          {std::pair{"", "\"\" is not a whole number."},
@@ -149,7 +145,7 @@ TEST(FrameCountFromText, TakesWholeNumbersOfSixteenBits) {
           {"99999999999999999999",
            "99999999999999999999 is out of range: a sequence has at most 32767 frames."},
           {"-32769", "-32769 is out of range: a sequence has at most 32767 frames."}}) {
-        EXPECT_EQ(std::get<QString>(FrameCountFromText(Q(text))), Q(words));
+        EXPECT_EQ(std::get<QString>(FrameCountFromText(Text(text))), Text(words));
     }
 }
 

@@ -5,12 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/texts.h"
+
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 TEST(OutputType, SettingsTextsEndingsAndCodes) {
     struct {
@@ -25,10 +25,10 @@ TEST(OutputType, SettingsTextsEndingsAndCodes) {
         {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", FIF_PNG, PNG_DEFAULT, PNG_DEFAULT},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(ToText(row.type), Q(row.text));
-        EXPECT_EQ(OutputTypeFromText(Q(row.text)), row.type);
-        EXPECT_EQ(ExtensionOf(row.type), Q(row.extension));
-        EXPECT_EQ(FilterOf(row.type), Q(row.filter));
+        EXPECT_EQ(ToText(row.type), Text(row.text));
+        EXPECT_EQ(OutputTypeFromText(Text(row.text)), row.type);
+        EXPECT_EQ(ExtensionOf(row.type), Text(row.extension));
+        EXPECT_EQ(FilterOf(row.type), Text(row.filter));
         EXPECT_EQ(FormatOf(row.type), row.format);
         EXPECT_EQ(SaveFlags(row.type, 87, false), row.flags);
         EXPECT_EQ(SaveFlags(row.type, 87, true), row.flags444);
@@ -50,16 +50,16 @@ TEST(WithExtension, IsAppendedUnlessAlreadyThere) {
                       {"out.tiff", OutputType::Tiff, "out.tiff.TIF"},
                       {"a", OutputType::Png, "a.PNG"}};
     for (const auto& row : rows) {
-        EXPECT_EQ(WithExtension(Q(row.name), row.type), Q(row.expected));
+        EXPECT_EQ(WithExtension(Text(row.name), row.type), Text(row.expected));
     }
 }
 
 TEST(ProposedName, TheDotOfTheOldExtensionStays) {
-    EXPECT_EQ(ProposedName(Q("/p/IMG_0001.jpg"), Projection::Rectilinear),
-              Q("/p/IMG_0001.Rectilinear"));
-    EXPECT_EQ(ProposedName(Q("IMG.tiff"), Projection::Varnel), Q("IMG.tVarnel"));
-    EXPECT_EQ(ProposedName(Q("ab"), Projection::Horizon), Q("Horizon"));
-    EXPECT_EQ(ProposedName(Q("/p/IMG.jpg"), Q("Stretch")), Q("/p/IMG.Stretch"));
+    EXPECT_EQ(ProposedName(Text("/p/IMG_0001.jpg"), Projection::Rectilinear),
+              Text("/p/IMG_0001.Rectilinear"));
+    EXPECT_EQ(ProposedName(Text("IMG.tiff"), Projection::Varnel), Text("IMG.tVarnel"));
+    EXPECT_EQ(ProposedName(Text("ab"), Projection::Horizon), Text("Horizon"));
+    EXPECT_EQ(ProposedName(Text("/p/IMG.jpg"), Text("Stretch")), Text("/p/IMG.Stretch"));
 }
 
 struct Entry {
@@ -94,7 +94,7 @@ TEST(BatchName, TagsTellTheSettings) {
     };
     for (const Entry& row : rows) {
         ImageRecord image;
-        image.FileName = Q("IMG.jpg");
+        image.FileName = Text("IMG.jpg");
         image.Projection = static_cast<std::int16_t>(row.projection);
         image.OutputAOV = row.outputAov;
         image.EffectVarnel = row.effect;
@@ -102,19 +102,19 @@ TEST(BatchName, TagsTellTheSettings) {
         image.RotateX = row.x;
         image.RotateY = row.y;
         image.RotateZ = row.z;
-        image.NameSuffix = Q(row.suffix);
-        EXPECT_EQ(BatchName(image, Q("/o"), {}, OutputType::Tiff), Q(row.expected));
+        image.NameSuffix = Text(row.suffix);
+        EXPECT_EQ(BatchName(image, Text("/o"), {}, OutputType::Tiff), Text(row.expected));
     }
 }
 
 TEST(BatchName, AnAdditionReplacesTheProjectionsName) {
     NameAdditions additions;
-    additions.texts[0] = Q("wide");
+    additions.texts[0] = Text("wide");
     ImageRecord image;
-    image.FileName = Q("IMG.jpg");
+    image.FileName = Text("IMG.jpg");
     image.EffectVarnel = 100.0F;
-    EXPECT_EQ(BatchName(image, Q("/o"), additions, OutputType::Jpeg), Q("/o/IMG.wide.JPG"));
-    EXPECT_EQ(BatchName(image, Q("/o/"), additions, OutputType::Jpeg), Q("/o/IMG.wide.JPG"));
+    EXPECT_EQ(BatchName(image, Text("/o"), additions, OutputType::Jpeg), Text("/o/IMG.wide.JPG"));
+    EXPECT_EQ(BatchName(image, Text("/o/"), additions, OutputType::Jpeg), Text("/o/IMG.wide.JPG"));
 }
 
 }  // namespace

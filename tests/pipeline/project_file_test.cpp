@@ -11,13 +11,12 @@
 #include "tests/support/contents.h"
 #include "tests/support/files.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 // Every field, numbers bit by bit.
 QStringList Fields(const ImageRecord& image) {
@@ -35,7 +34,7 @@ RecordArray<ImageRecord> SomePhotos(const QString& folder) {
     RecordArray<ImageRecord> images;
     ImageRecord image = testing::FisheyeRecord();
     image.Folder = folder;
-    image.FileName = Q("a.bmp");
+    image.FileName = Text("a.bmp");
     image.SettingsApplied = true;
     image.Width = 4000;
     image.Height = 3000;
@@ -44,17 +43,17 @@ RecordArray<ImageRecord> SomePhotos(const QString& folder) {
     image.OfsetX = 0.1F;
     image.RotateY = -0.0F;
     image.EffectRectilinear = 1.0F / 3.0F;
-    image.FurtherSettings.insert(Q("Sparkle"), Q("a=b \\ ü"));
+    image.FurtherSettings.insert(Text("Sparkle"), Text("a=b \\ ü"));
     images.Append(image);
     image = ImageRecord();  // never looked at
-    image.Folder = folder + Q("/sub folder");
-    image.FileName = Q(" =[Photo]\n\\ 日本\u2028 ");
+    image.Folder = folder + Text("/sub folder");
+    image.FileName = Text(" =[Photo]\n\\ 日本\u2028 ");
     images.Append(image);
     image = testing::FisheyeRecord();
-    image.Folder = Q("/elsewhere");
-    image.FileName = Q("#c.jpg");
-    image.NameSuffix = Q("Morph0001");
-    image.GearName = Q("gear & \"more\"");
+    image.Folder = Text("/elsewhere");
+    image.FileName = Text("#c.jpg");
+    image.NameSuffix = Text("Morph0001");
+    image.GearName = Text("gear & \"more\"");
     images.Append(image);
     image.Folder = QString();  // the root
     images.Append(image);
@@ -63,10 +62,10 @@ RecordArray<ImageRecord> SomePhotos(const QString& folder) {
 
 TEST(ProjectFile, ComesBackBitByBitWithWhateverLineEnds) {
     const testing::PictureFolder folder;
-    folder.Picture(Q("a.bmp"), FIF_BMP);
-    const QString here = QFileInfo(folder.Path(Q("a.bmp"))).absolutePath();
+    folder.Picture(Text("a.bmp"), FIF_BMP);
+    const QString here = QFileInfo(folder.Path(Text("a.bmp"))).absolutePath();
     const RecordArray<ImageRecord> images = SomePhotos(here);
-    const QString path = folder.Path(Q("x.varnel"));
+    const QString path = folder.Path(Text("x.varnel"));
     ASSERT_TRUE(WriteProject(path, images));
     const QByteArray text = testing::Contents(path);
     EXPECT_TRUE(text.startsWith("Varnel project 1\n"));
@@ -78,21 +77,21 @@ TEST(ProjectFile, ComesBackBitByBitWithWhateverLineEnds) {
         ASSERT_EQ(read.trouble, QString());
         EXPECT_EQ(read.notes, QStringList());
         EXPECT_EQ(read.missing.size(), 3);
-        EXPECT_EQ(read.missing.value(2), Q("/#c.jpg"));
+        EXPECT_EQ(read.missing.value(2), Text("/#c.jpg"));
         ASSERT_EQ(read.images.UpperBound(), 4);
         for (int n = 1; n <= 4; ++n) {
             EXPECT_EQ(Fields(read.images(n)), Fields(images(n)));
         }
     }
     // Moved together with its photos.
-    const ReadProject moved = ProjectFromText(text, Q("/moved"));
-    EXPECT_EQ(moved.images(1).Folder, Q("/moved"));
-    EXPECT_EQ(moved.images(3).Folder, Q("/elsewhere"));
+    const ReadProject moved = ProjectFromText(text, Text("/moved"));
+    EXPECT_EQ(moved.images(1).Folder, Text("/moved"));
+    EXPECT_EQ(moved.images(3).Folder, Text("/elsewhere"));
 }
 
 TEST(ProjectFile, SaysWhatIsWrongWithADamagedOrNewerOne) {
     const QByteArray good = "Varnel project 1\nPhotos=1\n\n[Photo]\nSource=a.jpg\n\n[End]\n";
-    ASSERT_EQ(ProjectFromText(good, Q("/p")).images.UpperBound(), 1);
+    ASSERT_EQ(ProjectFromText(good, Text("/p")).images.UpperBound(), 1);
     const struct {
         QByteArray part, instead;
         const char* trouble;
@@ -109,17 +108,17 @@ TEST(ProjectFile, SaysWhatIsWrongWithADamagedOrNewerOne) {
                 {"a.jpg", "\xFF.jpg", "it is not a text file"}};
     for (const auto& row : rows) {
         const ReadProject read =
-            ProjectFromText(QByteArray(good).replace(row.part, row.instead), Q("/p"));
-        EXPECT_EQ(read.trouble, Q(row.trouble));
+            ProjectFromText(QByteArray(good).replace(row.part, row.instead), Text("/p"));
+        EXPECT_EQ(read.trouble, Text(row.trouble));
         EXPECT_TRUE(read.images.Empty());
     }
-    EXPECT_FALSE(OpenProject(Q("/no/such.varnel")).trouble.isEmpty());
+    EXPECT_FALSE(OpenProject(Text("/no/such.varnel")).trouble.isEmpty());
 }
 
 TEST(ProjectFile, EveryCutIsFoundOut) {
-    const QByteArray text = ProjectText(SomePhotos(Q("/p")), Q("/p"));
+    const QByteArray text = ProjectText(SomePhotos(Text("/p")), Text("/p"));
     for (qsizetype length = 0; length < text.size() - 1; ++length) {
-        EXPECT_NE(ProjectFromText(text.left(length), Q("/p")).trouble, QString()) << length;
+        EXPECT_NE(ProjectFromText(text.left(length), Text("/p")).trouble, QString()) << length;
     }
 }
 
@@ -128,7 +127,7 @@ TEST(ProjectFile, RefusesHostileValuesAndKeepsTheRest) {
         "Varnel project 1\nPhotos=1\n[Photo]\nSource=a.jpg\nSourceFolder=/p\nRotateX=nan\n"
         "RotateY=1e30\nRotateZ=7\nWidth=-4\nHeight=40000\nOrientation=9\nNameSuffix=../x\n"
         "SettingsApplied=perhaps\nLater=kept\n[End]\n",
-        Q("/p"));
+        Text("/p"));
     EXPECT_EQ(read.trouble, QString());
     EXPECT_EQ(read.notes.size(), 7);
     const ImageRecord& image = read.images(1);
@@ -138,15 +137,15 @@ TEST(ProjectFile, RefusesHostileValuesAndKeepsTheRest) {
     EXPECT_EQ(image.Width, 0);
     EXPECT_EQ(image.Orientation, 1);
     EXPECT_EQ(image.NameSuffix, QString());
-    EXPECT_EQ(image.FurtherSettings.value(Q("Later")), Q("kept"));
+    EXPECT_EQ(image.FurtherSettings.value(Text("Later")), Text("kept"));
 }
 
 TEST(RecentProjects, TheLatestComesFirstAndEightStay) {
     MemoryStore store;
     for (const char* const name : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "3"}) {
-        NoteRecentProject(Q(name), store);
+        NoteRecentProject(Text(name), store);
     }
-    EXPECT_EQ(RecentProjects(store).join(u' '), Q("3 9 8 7 6 5 4 2"));
+    EXPECT_EQ(RecentProjects(store).join(u' '), Text("3 9 8 7 6 5 4 2"));
 }
 
 }  // namespace

@@ -11,13 +11,12 @@
 
 #include "pipeline/mounted_volumes.h"
 #include "tests/support/files.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Text(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 TEST(KindOf, TellsByFileSystemDeviceAndMedium) {
     const struct {

@@ -6,23 +6,19 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTest>
-#include <QWheelEvent>
 #include <array>
 
 #include "state/default_choices.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Text(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 // Notes what is written, in order, as "section/key=value".
 class WritingStore : public SettingsStore {
@@ -36,7 +32,7 @@ class WritingStore : public SettingsStore {
     QStringList written;
 };
 
-class FormSetupTest : public testing::Test {
+class FormSetupTest : public testing::DialogTest<FormSetup> {
   protected:
     FormSetupTest() {
         gear.Resize(3);
@@ -50,19 +46,11 @@ class FormSetupTest : public testing::Test {
         form->show();
         return *form;
     }
-    template <class Control>
-    Control& The(const char* name) const {
-        return *form->findChild<Control*>(Text(name));
-    }
-    void Click(const char* button) const {
-        QTest::mouseClick(&The<QPushButton>(button), Qt::LeftButton);
-    }
     void Choose(const char* combo, int row) const { The<QComboBox>(combo).setCurrentIndex(row); }
 
     GearTable gear;
     GeneralSettings settings;
     WritingStore store;
-    std::unique_ptr<FormSetup> form;
 };
 
 TEST_F(FormSetupTest, ShowsTheFirstRunWithTiffInPlaceOfJpg) {
@@ -71,13 +59,9 @@ TEST_F(FormSetupTest, ShowsTheFirstRunWithTiffInPlaceOfJpg) {
     EXPECT_EQ(The<QComboBox>("GearCombo").count(), 3);
     EXPECT_EQ(The<QComboBox>("GearCombo").itemText(0), Text("Gear 1"));
     EXPECT_EQ(The<QComboBox>("GearCombo").currentText(), Text("Gear 2"));
-    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("400 pixels"));
-    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("300 pixels"));
-    QStringList types;
-    for (int n = 0; n < The<QComboBox>("ComboFileType").count(); ++n) {
-        types.append(The<QComboBox>("ComboFileType").itemText(n));
-    }
-    EXPECT_EQ(types.join(u' '), Text("TIFF JPEG BMP PNG"));
+    EXPECT_EQ(Label("LabelPreviewWidth"), Text("400 pixels"));
+    EXPECT_EQ(Label("LabelPreviewHeight"), Text("300 pixels"));
+    EXPECT_EQ(testing::Items(The<QComboBox>("ComboFileType")), Text("TIFF JPEG BMP PNG"));
     EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("TIFF"));
     const struct {
         const char* name;
@@ -114,8 +98,8 @@ TEST_F(FormSetupTest, ClampsWhatLiesOutsideTheSliders) {
     settings = {4000, 20, Text("BMP"), 0};
     Open();
     EXPECT_EQ(The<QSlider>("SliderPreviewWidth").value(), 1000);
-    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("1000 pixels"));
-    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("100 pixels"));
+    EXPECT_EQ(Label("LabelPreviewWidth"), Text("1000 pixels"));
+    EXPECT_EQ(Label("LabelPreviewHeight"), Text("100 pixels"));
     Click("CommandOK");
     EXPECT_EQ(settings, (GeneralSettings{1000, 100, Text("BMP"), 1}));
 }
@@ -129,14 +113,14 @@ TEST_F(FormSetupTest, AnUnknownDefaultGearGivesWayToTheFirst) {
 TEST_F(FormSetupTest, LabelAndSpinBoxFollowTheSliderAndTheSpinBoxMovesIt) {
     Open();
     QTest::keyClick(&The<QSlider>("SliderPreviewWidth"), Qt::Key_PageUp);
-    EXPECT_EQ(The<QLabel>("LabelPreviewWidth").text(), Text("450 pixels"));
+    EXPECT_EQ(Label("LabelPreviewWidth"), Text("450 pixels"));
     EXPECT_EQ(The<QSpinBox>("SpinSliderPreviewWidth").value(), 450);
     auto& spinBox = The<QSpinBox>("SpinSliderPreviewHeight");
     spinBox.selectAll();
     QTest::keyClicks(&spinBox, Text("517"));
     QTest::keyClick(&spinBox, Qt::Key_Tab);
     EXPECT_EQ(The<QSlider>("SliderPreviewHeight").value(), 517);
-    EXPECT_EQ(The<QLabel>("LabelPreviewHeight").text(), Text("517 pixels"));
+    EXPECT_EQ(Label("LabelPreviewHeight"), Text("517 pixels"));
 }
 
 TEST_F(FormSetupTest, OkAppliesForThisRunOnly) {
@@ -182,9 +166,9 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
                    "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
                    "setting/AutoOrient=1\nsetting/OfferGear=1\n"
                    "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/Language=en"));
-    EXPECT_EQ(The<QLabel>("LabelSaved").text(), Text("Saved"));
+    EXPECT_EQ(Label("LabelSaved"), Text("Saved"));
     Choose("ComboFileType", 0);
-    EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty()) << "no longer what was saved";
+    EXPECT_TRUE(Label("LabelSaved").isEmpty()) << "no longer what was saved";
     Click("CommandCancel");
     EXPECT_EQ(settings.FileType, Text("JPEG"));
 }
@@ -213,7 +197,7 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
         Click("CommandSaveDefault");
         store.written.clear();
         QTest::keyClick(&The<QCheckBox>(row.name), Qt::Key_Space);
-        EXPECT_TRUE(The<QLabel>("LabelSaved").text().isEmpty());
+        EXPECT_TRUE(Label("LabelSaved").isEmpty());
         EXPECT_EQ(settings.*row.flag, row.atFirst) << "not before a button";
         Click("CommandSaveDefault");
         GeneralSettings expected{400, 300, Text("TIFF"), 100};
@@ -245,20 +229,7 @@ TEST_F(FormSetupTest, OffersLanguagesByTheirOwnNamesAndStartsWithEnglish) {
 
 TEST_F(FormSetupTest, TheWheelMovesOnlyTheSliderWithTheFocus) {
     Open();
-    auto& slider = The<QSlider>("SliderPreviewWidth");
-    const auto wheel = [&] {
-        const QPointF middle = slider.rect().center();
-        QWheelEvent event(middle, slider.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&slider, &event);
-        return slider.value();
-    };
-    The<QComboBox>("GearCombo").setFocus();
-    EXPECT_EQ(wheel(), 400);
-    form->activateWindow();
-    slider.setFocus();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return slider.hasFocus(); }));
-    EXPECT_GT(wheel(), 400);
+    ExpectWheelOnlyWithFocus(The<QSlider>("SliderPreviewWidth"), The<QComboBox>("GearCombo"));
 }
 
 }  // namespace

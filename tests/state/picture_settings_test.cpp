@@ -12,21 +12,20 @@
 
 #include "state/record_fields.h"
 #include "tests/support/records.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 // Every field that is written, each with a value that its text could lose.
 ImageRecord AwkwardRecord() {
     ImageRecord record = testing::FisheyeRecord();
-    record.GearName = Q("Gear \"ä\" <&'> 100% \\ =;, 写真");
-    record.CameraBrand = Q(" leading and trailing ");
-    record.CameraModel = Q("😀");
-    record.LensModel = Q("Zuiko ED 8mm f/3.5");
+    record.GearName = Text("Gear \"ä\" <&'> 100% \\ =;, 写真");
+    record.CameraBrand = Text(" leading and trailing ");
+    record.CameraModel = Text("😀");
+    record.LensModel = Text("Zuiko ED 8mm f/3.5");
     record.SensorWidth = std::nextafter(36.0F, 37.0F);
     record.SensorHeight = std::numeric_limits<float>::denorm_min();
     record.CameraData1 = -0.1F;
@@ -45,11 +44,11 @@ ImageRecord AwkwardRecord() {
     record.RotateZ = 350.0F;
     record.TranslateX = -150.0F;
     record.TranslateY = 0.3F;
-    record.Folder = Q("/photos/of today & \"tomorrow\"");
-    record.FileName = Q("100% <fish>.tar.jpg");
-    record.NameSuffix = Q("Morph0007");
+    record.Folder = Text("/photos/of today & \"tomorrow\"");
+    record.FileName = Text("100% <fish>.tar.jpg");
+    record.NameSuffix = Text("Morph0007");
     record.Orientation = 6;
-    record.FurtherSettings = {{Q("Softness"), Q("12,5 %")}, {Q("Empty"), Q("")}};
+    record.FurtherSettings = {{Text("Softness"), Text("12,5 %")}, {Text("Empty"), Text("")}};
     return record;
 }
 
@@ -62,7 +61,7 @@ void ExpectBack(const ImageRecord& record) {
 }
 
 TEST(PictureSettings, ARecordComesBackAsItWasInEveryLocale) {
-    for (const auto& locale : {QLocale::c(), QLocale(QLocale::German), QLocale(Q("ar_EG"))}) {
+    for (const auto& locale : {QLocale::c(), QLocale(QLocale::German), QLocale(Text("ar_EG"))}) {
         QLocale::setDefault(locale);
         ExpectBack(AwkwardRecord());
     }
@@ -90,74 +89,61 @@ TEST(PictureSettings, HoldEveryFieldButThePhotosOwn) {
             missing.append(name);
         }
     }
-    EXPECT_EQ(missing.join(u' '), Q("Width Height Landscape SettingsApplied Folder FileName"));
-    EXPECT_EQ(settings[Q("Version")], Q("1"));
-    EXPECT_EQ(settings[Q("Source")], Q("100% <fish>.tar.jpg"));
-    EXPECT_EQ(settings[Q("Projection")], Q("Horizon"));
-    EXPECT_EQ(settings[Q("OfsetX")], Q("-2.70000005"));
+    EXPECT_EQ(missing.join(u' '), Text("Width Height Landscape SettingsApplied Folder FileName"));
+    EXPECT_EQ(settings[Text("Version")], Text("1"));
+    EXPECT_EQ(settings[Text("Source")], Text("100% <fish>.tar.jpg"));
+    EXPECT_EQ(settings[Text("Projection")], Text("Horizon"));
+    EXPECT_EQ(settings[Text("OfsetX")], Text("-2.70000005"));
 }
 
 TEST(PictureSettings, WhatCannotBeWrittenIsMissing) {
     ImageRecord record = AwkwardRecord();
-    record.FileName = Q("two\nlines.jpg");
+    record.FileName = Text("two\nlines.jpg");
     record.CameraModel = QChar(0xD83D);  // half a character
     record.RotateX = std::numeric_limits<float>::quiet_NaN();
     QStringList lost = SettingsFrom(AwkwardRecord()).keys();
     for (const QString& name : SettingsFrom(record).keys()) {
         lost.removeOne(name);
     }
-    EXPECT_EQ(lost.join(u' '), Q("CameraModel RotateX Source"));
+    EXPECT_EQ(lost.join(u' '), Text("CameraModel RotateX Source"));
 }
 
 TEST(PictureSettings, UnusableOnesLeaveTheRecordAndAreTold) {
-    const struct {
-        const char* name;
-        QString value;
-    } cases[] = {
-        {"RotateX", Q("nan")},
-        {"RotateX", Q("-inf")},
-        {"RotateX", Q("1e39")},
-        {"RotateX", Q("3600.1")},
-        {"RotateX", Q("1,5")},
-        {"RotateX", Q("")},
-        {"InputAOV", Q("0")},
-        {"OutputAOV", Q("3601")},
-        {"EffectVarnel", Q("0")},
-        {"EffectRectilinear", Q("-5")},
-        {"TranslateY", Q("-1001")},
-        {"OfsetX", Q("1001")},
-        {"Ratio", Q("-1")},
-        {"LensMapScale", Q("1e30")},
-        {"SensorWidth", Q("0x10")},
-        {"Projection", Q("Stereographic")},
-        {"Projection", Q("1")},
-        {"Orientation", Q("0")},
-        {"Orientation", Q("9")},
-        {"Orientation", Q("6.0")},
-        {"Source", Q("../../etc/passwd")},
-        {"Source", Q("..")},
-        {"Source", Q("")},
-        {"NameSuffix", Q("/../x")},
-        {"GearName", QString(1001, u'x')},
-        {"GearName", Q("a\x01z")},
-        {"GearName", QString(QChar(0xDC00))},
-        {"SourceFolder", Q("/a\nb")},
-        {"2ndLater", Q("x")},
-        {"La ter", Q("x")},
-        {"", Q("x")},
-        {"Later", QString(1001, u'x')},
-    };
-    for (const auto& c : cases) {
-        ImageRecord record = AwkwardRecord();
-        const QStringList notes = TakeSettings({{Q(c.name), c.value}}, record);
-        ASSERT_EQ(notes.size(), 1) << c.name << '=' << c.value.toStdString();
-        EXPECT_TRUE(notes.front().contains(Q(c.name))) << c.name;
-        EXPECT_LT(notes.front().size(), 150);
-        EXPECT_TRUE(record == AwkwardRecord()) << c.name << '=' << c.value.toStdString();
+    const QString tooLong(1001, u'x');
+    const std::pair<const char*, QStringList> unusable[] = {
+        {"RotateX", {Text("nan"), Text("-inf"), Text("1e39"), Text("3600.1"), Text("1,5"), {}}},
+        {"InputAOV", {Text("0")}},
+        {"OutputAOV", {Text("3601")}},
+        {"EffectVarnel", {Text("0")}},
+        {"EffectRectilinear", {Text("-5")}},
+        {"TranslateY", {Text("-1001")}},
+        {"OfsetX", {Text("1001")}},
+        {"Ratio", {Text("-1")}},
+        {"LensMapScale", {Text("1e30")}},
+        {"SensorWidth", {Text("0x10")}},
+        {"Projection", {Text("Stereographic"), Text("1")}},
+        {"Orientation", {Text("0"), Text("9"), Text("6.0")}},
+        {"Source", {Text("../../etc/passwd"), Text(".."), {}}},
+        {"NameSuffix", {Text("/../x")}},
+        {"GearName", {tooLong, Text("a\x01z"), QString(QChar(0xDC00))}},
+        {"SourceFolder", {Text("/a\nb")}},
+        {"2ndLater", {Text("x")}},
+        {"La ter", {Text("x")}},
+        {"", {Text("x")}},
+        {"Later", {tooLong}}};
+    for (const auto& [name, values] : unusable) {
+        for (const QString& value : values) {
+            ImageRecord record = AwkwardRecord();
+            const QStringList notes = TakeSettings({{Text(name), value}}, record);
+            ASSERT_EQ(notes.size(), 1) << name << '=' << value.toStdString();
+            EXPECT_TRUE(notes.front().contains(Text(name))) << name;
+            EXPECT_LT(notes.front().size(), 150);
+            EXPECT_TRUE(record == AwkwardRecord()) << name << '=' << value.toStdString();
+        }
     }
     PictureSettings many;
     for (int n = 0; n < 5000; ++n) {
-        many.insert(Q("Later%1").arg(n), Q("x"));
+        many.insert(Text("Later%1").arg(n), Text("x"));
     }
     ImageRecord record;
     TakeSettings(many, record);
@@ -176,36 +162,36 @@ TEST(PictureSettings, TellTheFolderOnlyAsItLiesBesideTheFile) {
     };
     for (const auto& c : cases) {
         ImageRecord record = AwkwardRecord();
-        record.Folder = Q(c.folder);
+        record.Folder = Text(c.folder);
         const BitmapHandle bitmap(FreeImage_Allocate(1, 1, 24));
-        NoteSettings(bitmap.get(), record, true, Q(c.file));
+        NoteSettings(bitmap.get(), record, true, Text(c.file));
         const PictureSettings settings = SettingsOf(bitmap.get());
-        EXPECT_EQ(settings.value(Q("SourceFolder"), Q("none")), Q(c.written)) << c.folder;
+        EXPECT_EQ(settings.value(Text("SourceFolder"), Text("none")), Text(c.written)) << c.folder;
         ImageRecord back;
-        back.Folder = Q("/elsewhere");
+        back.Folder = Text("/elsewhere");
         TakeSettings(settings, back);
-        EXPECT_EQ(SourceFolderOf(back, Q(c.file)), Q(c.back)) << c.folder;
+        EXPECT_EQ(SourceFolderOf(back, Text(c.file)), Text(c.back)) << c.folder;
     }
 }
 
 TEST(PictureSettings, AreShownWithoutWhatCannotBeSeenOrIsTooLong) {
-    EXPECT_EQ(Shown(Q("a\u202Eb😀写\n")), Q("a?b😀写?"));
-    EXPECT_EQ(Shown(QString(50, u'x'), 3), Q("xxx ..."));
+    EXPECT_EQ(Shown(Text("a\u202Eb😀写\n")), Text("a?b😀写?"));
+    EXPECT_EQ(Shown(QString(50, u'x'), 3), Text("xxx ..."));
 }
 
 TEST(PictureSettings, OfALaterVersionAreReadAsFarAsKnownAndWrittenAgain) {
     ImageRecord record;
-    EXPECT_TRUE(TakeSettings({{Q("Version"), Q("27")},
-                              {Q("RotateY"), Q("-7.5")},
-                              {Q("Projection"), Q("rectilinear")},
-                              {Q("Curl"), Q("soft; 3")}},
+    EXPECT_TRUE(TakeSettings({{Text("Version"), Text("27")},
+                              {Text("RotateY"), Text("-7.5")},
+                              {Text("Projection"), Text("rectilinear")},
+                              {Text("Curl"), Text("soft; 3")}},
                              record)
                     .isEmpty());
     EXPECT_EQ(record.RotateY, -7.5F);
     EXPECT_EQ(record.Projection, 1);
     EXPECT_TRUE(record.SettingsApplied);
-    EXPECT_EQ(SettingsFrom(record)[Q("Curl")], Q("soft; 3"));
-    EXPECT_EQ(SettingsFrom(record)[Q("Version")], Q("1"));
+    EXPECT_EQ(SettingsFrom(record)[Text("Curl")], Text("soft; 3"));
+    EXPECT_EQ(SettingsFrom(record)[Text("Version")], Text("1"));
 }
 
 }  // namespace

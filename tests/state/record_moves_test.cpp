@@ -7,9 +7,12 @@
 
 #include "state/control_values.h"
 #include "state/gear_assignment.h"
+#include "tests/support/changed_fields.h"
 
 namespace varnel {
 namespace {
+
+using testing::Changed;
 
 // Every field differs from every other and from an empty record.
 GearRecord SomeGear() {
@@ -57,41 +60,14 @@ ImageRecord SomeImage(bool landscape) {
 }
 
 TEST(AssignGear, CopiesTheGearAndResetsAnglesEffectsAndOffsetsOnly) {
-    ImageRecord expected = SomeImage(true);
-    expected.GearName = QStringLiteral("gear");
-    expected.CameraBrand = QStringLiteral("camera brand");
-    expected.CameraModel = QStringLiteral("camera model");
-    expected.SensorWidth = 36.0F;
-    expected.SensorHeight = 24.0F;
-    expected.CameraData1 = 1.0F;
-    expected.CameraData2 = 2.0F;
-    expected.LensBrand = QStringLiteral("lens brand");
-    expected.LensModel = QStringLiteral("lens model");
-    expected.ImageCircleRadius = 11.5F;
-    expected.LensShift = 0.25F;
-    expected.LensData3 = 3.0F;
-    expected.LensMapScale = 16.0F;
-    expected.LensMapFactor = 0.5F;
-    expected.OfsetX = 5.0F;
-    expected.OfsetY = -7.0F;
-    expected.Ratio = 150.0F;
-    expected.InputAOV = 180.0F;
-    expected.OutputAOV = 130.0F;
-    expected.EffectVarnel = 100.0F;
-    expected.EffectRectilinear = 100.0F;
     ImageRecord image = SomeImage(true);
     EXPECT_TRUE(AssignGear(SomeGear(), image));
-    EXPECT_EQ(image, expected);
-}
-
-TEST(AssignGear, TurnsOffsetsAndTakesTheVerticalAngleForAnUprightFrame) {
-    ImageRecord image = SomeImage(false);
-    EXPECT_TRUE(AssignGear(SomeGear(), image));
-    EXPECT_EQ(image.OfsetX, -7.0F);
-    EXPECT_EQ(image.OfsetY, 5.0F);
-    EXPECT_EQ(image.InputAOV, 120.0F);
-    EXPECT_EQ(image.OutputAOV, 120.0F);
-    EXPECT_EQ(image.SensorWidth, 36.0F);  // the sensor itself stays in landscape
+    EXPECT_EQ(Changed(SomeImage(true), image),
+              "GearName=gear CameraBrand=camera brand CameraModel=camera model SensorWidth=36 "
+              "SensorHeight=24 CameraData1=1 CameraData2=2 LensBrand=lens brand "
+              "LensModel=lens model ImageCircleRadius=11.5 LensShift=0.25 LensData3=3 "
+              "LensMapScale=16 LensMapFactor=0.5 OfsetX=5 OfsetY=-7 Ratio=150 InputAOV=180 "
+              "OutputAOV=130 EffectVarnel=100 EffectRectilinear=100");
 }
 
 // The gear's centre lies 5 to the right and 7 above the middle of a picture in landscape. Each row
@@ -114,6 +90,8 @@ TEST(AssignGear, TurnsOffsetsWithThePicture) {
         EXPECT_EQ(image.OfsetX, row.x) << row.storedLandscape << row.orientation;
         EXPECT_EQ(image.OfsetY, row.y) << row.storedLandscape << row.orientation;
         EXPECT_EQ(image.InputAOV, image.Landscape ? 180.0F : 120.0F);
+        EXPECT_EQ(image.OutputAOV, image.Landscape ? 130.0F : 120.0F);
+        EXPECT_EQ(image.SensorWidth, 36.0F);  // the sensor itself stays in landscape
         for (const auto& other : rows) {
             if (other.storedLandscape == row.storedLandscape) {
                 ImageRecord again = image;
@@ -150,11 +128,9 @@ TEST(ApplyGearToAll, NotesTheNameAndReopensEveryRecord) {
     images.Append(SomeImage(true));
     images.Append(SomeImage(false));
     images(2).SettingsApplied = true;
-    ImageRecord expected = images(2);
-    expected.SettingsApplied = false;
-    expected.GearName = QStringLiteral("other");
+    const ImageRecord before = images(2);
     ApplyGearToAll(images, QStringLiteral("other"));
-    EXPECT_EQ(images(2), expected);
+    EXPECT_EQ(Changed(before, images(2)), "GearName=other SettingsApplied=False");
     EXPECT_EQ(images(1).GearName, QStringLiteral("other"));
 }
 
@@ -172,16 +148,10 @@ TEST(ApplySettingsToAll, CopiesAllButSizeFileAndSuffixAndKeepsOffsetsUnturned) {
     images(2).SettingsApplied = true;
     const ImageRecord source = images(2);
 
-    ImageRecord expected = source;
-    expected.Width = 40;
-    expected.Height = 60;
-    expected.Landscape = false;
-    expected.Folder = upright.Folder;
-    expected.FileName = upright.FileName;
-    expected.NameSuffix = QString();
-    expected.Orientation = 6;
     ApplySettingsToAll(images, 2);
-    EXPECT_EQ(images(1), expected);
+    EXPECT_EQ(Changed(source, images(1)),
+              "Width=40 Height=60 Landscape=False Folder=elsewhere FileName=upright.jpg "
+              "NameSuffix= Orientation=6");
     EXPECT_EQ(images(2), source);
 }
 
@@ -210,40 +180,26 @@ TEST(ValuesFor, RoundsToTheNearestWholeNumberTiesToEven) {
 TEST(StoreControls, WritesEveryControlButOnlyTheChosenEffect) {
     const struct {
         int projection;
-        int effect;
-        std::int16_t storedProjection;
-        float varnel, rectilinear;
-    } cases[] = {
-        {0, 40, 0, 40.0F, 66.0F}, {0, 0, 0, 0.1F, 66.0F},   {0, -5, 0, 0.1F, 66.0F},
-        {1, 40, 1, 55.0F, 40.0F}, {1, 0, 1, 55.0F, 0.1F},   {1, 1, 1, 55.0F, 1.0F},
-        {2, 40, 2, 55.0F, 66.0F}, {3, 40, 3, 55.0F, 66.0F}, {-1, 40, 3, 55.0F, 66.0F},
-    };
-    for (const auto& c : cases) {
+        std::optional<int> effect;
+        const char *changedProjection, *changedEffect;
+    } rows[] = {{0, 40, "Projection=0 ", "EffectVarnel=40 "},
+                {0, 0, "Projection=0 ", "EffectVarnel=0.100000001 "},
+                {0, -5, "Projection=0 ", "EffectVarnel=0.100000001 "},
+                {0, std::nullopt, "Projection=0 ", ""},
+                {1, 40, "Projection=1 ", "EffectRectilinear=40 "},
+                {1, 0, "Projection=1 ", "EffectRectilinear=0.100000001 "},
+                {1, 1, "Projection=1 ", "EffectRectilinear=1 "},
+                {2, 40, "", ""},
+                {3, 40, "Projection=3 ", ""},
+                {-1, 40, "Projection=3 ", ""}};
+    for (const auto& row : rows) {
         ImageRecord image = SomeImage(true);
-        image.EffectVarnel = 55.0F;
-        image.EffectRectilinear = 66.0F;
-        ImageRecord expected = image;
-        expected.Projection = c.storedProjection;
-        expected.SettingsApplied = true;
-        expected.InputAOV = 170.0F;
-        expected.OutputAOV = 90.0F;
-        expected.EffectVarnel = c.varnel;
-        expected.EffectRectilinear = c.rectilinear;
-        expected.RotateX = -1.0F;
-        expected.RotateY = 2.0F;
-        expected.RotateZ = -3.0F;
-        expected.TranslateX = 4.0F;
-        expected.TranslateY = -5.0F;
-        StoreControls({c.projection, 170, 90, c.effect, -1, 2, -3, 4, -5}, image);
-        EXPECT_EQ(image, expected) << c.projection << ' ' << c.effect;
+        StoreControls({row.projection, 170, 90, row.effect, -1, 2, -3, 4, -5}, image);
+        EXPECT_EQ(
+            Changed(SomeImage(true), image),
+            row.changedProjection + std::string("SettingsApplied=True InputAOV=170 OutputAOV=90 ") +
+                row.changedEffect + "RotateX=-1 RotateY=2 RotateZ=-3 TranslateX=4 TranslateY=-5");
     }
-}
-
-TEST(StoreControls, LeavesTheEffectAloneWhenThereIsNone) {
-    ImageRecord image;
-    image.EffectVarnel = 55.0F;
-    StoreControls(ControlValues{}, image);
-    EXPECT_EQ(image.EffectVarnel, 55.0F);
 }
 
 }  // namespace

@@ -20,12 +20,15 @@
 #include "gear/gear_store.h"
 #include "state/setting_names.h"
 #include "state/telling_store.h"
+#include "tests/support/contents.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
+using testing::Contents;
 using testing::Text;
+using testing::WriteFile;
 
 constexpr int gearCount = 50;
 
@@ -53,17 +56,6 @@ GearTable Gears(int count, float ratio) {
     }
     table.DefaultGearName = table(count).GearName;
     return table;
-}
-
-QByteArray Bytes(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-}
-
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
 }
 
 class SettingsGuard : public ::testing::Test {
@@ -163,10 +155,10 @@ TEST_F(SettingsGuard, LosesNoGearAndSaysSoWhateverTheDamage) {
     for (const Damage& damage : damages) {
         SCOPED_TRACE(damage.name);
         Save(gearCount, 80.25F);
-        const QByteArray whole = Bytes(path_);
+        const QByteArray whole = Contents(path_);
         const QByteArray spoiled = damage.spoil(whole);
         ASSERT_NE(spoiled, whole);
-        Write(path_, spoiled);
+        WriteFile(path_, spoiled);
         const GearTable table = Load();
         EXPECT_EQ(Good(table, 80.25F), gearCount);
         EXPECT_EQ(table.UpperBound(), gearCount);
@@ -175,9 +167,9 @@ TEST_F(SettingsGuard, LosesNoGearAndSaysSoWhateverTheDamage) {
         EXPECT_TRUE(told_[0].startsWith(path_ + Text(": the settings were damaged (")))
             << told_[0].toStdString();
         ASSERT_EQ(Damaged(), QStringList(Text("Varnel.conf.damaged-2026-11-21T10-15-30")));
-        EXPECT_EQ(Bytes(path_ + Text(".damaged-2026-11-21T10-15-30")), spoiled);
-        EXPECT_EQ(Bytes(path_), whole);
-        EXPECT_EQ(Bytes(CopyOf(path_)), whole);
+        EXPECT_EQ(Contents(path_ + Text(".damaged-2026-11-21T10-15-30")), spoiled);
+        EXPECT_EQ(Contents(path_), whole);
+        EXPECT_EQ(Contents(CopyOf(path_)), whole);
         EXPECT_EQ(Good(Load(), 80.25F), gearCount);
         EXPECT_EQ(told_, QStringList()) << "said twice";
         QDir(QFileInfo(path_).path()).removeRecursively();
@@ -188,15 +180,15 @@ TEST_F(SettingsGuard, SavesWhatCanBeReadWithoutACopy) {
     for (const Damage& damage : damages) {
         SCOPED_TRACE(damage.name);
         Save(gearCount, 80.25F);
-        const QByteArray spoiled = damage.spoil(Bytes(path_));
+        const QByteArray spoiled = damage.spoil(Contents(path_));
         QFile::remove(CopyOf(path_));
-        Write(path_, spoiled);
+        WriteFile(path_, spoiled);
         const GearTable table = Load();
         EXPECT_GE(Good(table, 80.25F), damage.goodWithoutCopy);
         ASSERT_EQ(told_.size(), 1);
         EXPECT_TRUE(told_[0].contains(Text("without a copy"))) << told_[0].toStdString();
         ASSERT_EQ(Damaged().size(), 1);
-        EXPECT_EQ(Bytes(folder_.filePath(Text("Varnel/")) + Damaged()[0]), spoiled);
+        EXPECT_EQ(Contents(folder_.filePath(Text("Varnel/")) + Damaged()[0]), spoiled);
         for (int n = 1; n <= table.UpperBound(); ++n) {
             EXPECT_NE(table(n).GearName, QString()) << n;
         }
@@ -214,31 +206,31 @@ TEST_F(SettingsGuard, KnowsACutFileOfAnOlderReleaseByItsCopy) {
         older.setValue(Text("Gear/NumGear"), 1);
         older.setValue(Text("setting/FileType"), Text("PNG"));
     }
-    const QByteArray whole = Bytes(path_);
+    const QByteArray whole = Contents(path_);
     EXPECT_EQ(Load().UpperBound(), 1);
     EXPECT_EQ(told_, QStringList());
-    EXPECT_EQ(Bytes(path_), whole) << "reading wrote";
-    EXPECT_EQ(Bytes(CopyOf(path_)), whole);
-    Write(path_, whole.first(whole.indexOf("\n[setting]")));
+    EXPECT_EQ(Contents(path_), whole) << "reading wrote";
+    EXPECT_EQ(Contents(CopyOf(path_)), whole);
+    WriteFile(path_, whole.first(whole.indexOf("\n[setting]")));
     EXPECT_EQ(Load().UpperBound(), 1);
     EXPECT_EQ(told_.size(), 1);
-    EXPECT_EQ(Bytes(path_), whole);
+    EXPECT_EQ(Contents(path_), whole);
 }
 
 TEST_F(SettingsGuard, NeitherReplacesAnotherDamagedFileNorAGoodCopy) {
     Save(gearCount, 80.25F);
-    const QByteArray whole = Bytes(path_);
+    const QByteArray whole = Contents(path_);
     for (const char* const spoiled : {"one", "two", "three"}) {
-        Write(path_, spoiled);
+        WriteFile(path_, spoiled);
         EXPECT_EQ(Good(Load(), 80.25F), gearCount);
     }
     EXPECT_EQ(Damaged().size(), 3);
-    EXPECT_EQ(Bytes(path_ + Text(".damaged-2026-11-21T10-15-30-2")), "two");
+    EXPECT_EQ(Contents(path_ + Text(".damaged-2026-11-21T10-15-30-2")), "two");
     // A run that is under way loses nothing either, and the copy may be damaged, too.
     const auto store = Open();
     store->Save(Text("setting"), Text("FileType"), Text("PNG"));
-    Write(path_, whole.first(1000));
-    Write(CopyOf(path_), "damaged");
+    WriteFile(path_, whole.first(1000));
+    WriteFile(CopyOf(path_), "damaged");
     EXPECT_EQ(store->Settle().size(), 1);
     EXPECT_EQ(Good(Load(), 80.25F), gearCount);
     EXPECT_EQ(Open()->Get(Text("setting"), Text("FileType"), {}), Text("PNG"));
@@ -246,14 +238,14 @@ TEST_F(SettingsGuard, NeitherReplacesAnotherDamagedFileNorAGoodCopy) {
 
 TEST_F(SettingsGuard, TakesAMissingFileForAFirstRunAndLeavesTheCopy) {
     Save(2, 80.25F);
-    const QByteArray copy = Bytes(CopyOf(path_));
+    const QByteArray copy = Contents(CopyOf(path_));
     QFile::remove(path_);
     EXPECT_EQ(Load().UpperBound(), 0);
     EXPECT_EQ(told_, QStringList());
     Open()->Save(Text("Window"), Text("Geometry"), Text("x"));
-    EXPECT_EQ(Bytes(CopyOf(path_)), copy);
+    EXPECT_EQ(Contents(CopyOf(path_)), copy);
     Save(1, 90.0F);
-    EXPECT_EQ(Bytes(CopyOf(path_)), Bytes(path_));
+    EXPECT_EQ(Contents(CopyOf(path_)), Contents(path_));
 }
 
 TEST_F(SettingsGuard, WritesNoFileAndNoCopyToReadThem) {
@@ -305,7 +297,7 @@ TEST_F(SettingsGuard, IsReadableAtWhateverMomentASavingRunIsKilled) {
 TEST_F(SettingsGuard, IsMendedAndToldByOneOfManyThatStartAtOnce) {
     Save(gearCount, 80.25F);
     for (int round = 0; round < 4; ++round) {
-        Write(path_, Bytes(path_).first(1000 + round));
+        WriteFile(path_, Contents(path_).first(1000 + round));
         std::vector<pid_t> children;
         for (int n = 0; n < 4; ++n) {
             children.push_back(Forked([this] {
@@ -325,7 +317,7 @@ TEST_F(SettingsGuard, IsMendedAndToldByOneOfManyThatStartAtOnce) {
 }
 
 TEST_F(SettingsGuard, SaysOnceThatNothingCanBeWrittenAndKeepsTheValuesForTheRun) {
-    Write(folder_.filePath(Text("file")), "x");
+    WriteFile(folder_.filePath(Text("file")), "x");
     QDir(folder_.path()).mkpath(Text("folder/Varnel.conf"));
     for (const char* const place : {"file/Varnel/Varnel.conf", "folder/Varnel.conf"}) {
         path_ = folder_.filePath(Text(place));
@@ -349,7 +341,7 @@ TEST_F(SettingsGuard, UsesTheCopyWhereNothingCanBeSetAside) {
         GTEST_SKIP() << "everything can be written";
     }
     Save(gearCount, 80.25F);
-    Write(path_, "damaged");
+    WriteFile(path_, "damaged");
     const QString folder = QFileInfo(path_).path();
     QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     EXPECT_EQ(Good(Load(), 80.25F), gearCount);
@@ -361,7 +353,7 @@ TEST_F(SettingsGuard, UsesTheCopyWhereNothingCanBeSetAside) {
 TEST_F(SettingsGuard, TellsOfASaveAMomentLater) {
     int argumentCount = 0;
     QCoreApplication application(argumentCount, nullptr);
-    Write(folder_.filePath(Text("Varnel")), "no folder");
+    WriteFile(folder_.filePath(Text("Varnel")), "no folder");
     const auto user = Open();
     NotedNotices notices;
     TellingStore store(*user, notices);

@@ -11,6 +11,7 @@
 
 #include "state/general_settings.h"
 #include "state/setting_names.h"
+#include "tests/support/contents.h"
 #include "tests/support/limits.h"
 #include "tests/support/texts.h"
 
@@ -40,14 +41,11 @@ class UserStoreTest : public ::testing::Test {
     }
     void Write(const QByteArray& bytes) const {
         Folder().mkpath(Text("."));
-        QFile file(FilePath());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
+        testing::WriteFile(FilePath(), bytes);
     }
     // What is in the file itself or in the one damaged file beside it.
     QByteArray Bytes(const char* ending) const {
-        QFile file(FilePath() + Text(ending));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+        return testing::Contents(FilePath() + Text(ending));
     }
     qsizetype Damaged() const { return Folder().entryList({Text("*.damaged-*")}).size(); }
     QDir Folder() const { return QDir(folder_.filePath(Text("Varnel"))); }
@@ -64,26 +62,13 @@ TEST_F(UserStoreTest, WritesSectionsAsGroupsAndKeysAsTheyStand) {
     EXPECT_EQ(file.permissions() & (QFileDevice::ReadGroup | QFileDevice::ReadOther), 0);
 }
 
-TEST_F(UserStoreTest, ReadsBackEveryTextAndTellsSectionsApart) {
-    const char* const texts[] = {"118,125",          "a, b; c", "@odd", "",
-                                 "caf\u00E9 \u2030", "50%",     "true", "C:\\x"};
-    for (const char* text : texts) {
-        Open()->Save(Text("setting"), Text("Name"), Text(text));
-        Open()->Save(Text("Settings"), Text("Name"), Text("other"));
-        const auto store = Open();
-        EXPECT_EQ(store->Get(Text("setting"), Text("Name"), Text("fallback")), Text(text));
-        EXPECT_EQ(store->Get(Text("Settings"), Text("Name"), Text("fallback")), Text("other"));
-    }
-    EXPECT_EQ(Open()->Get(Text("setting"), Text("Missing"), Text("fallback")), Text("fallback"));
-}
-
-TEST_F(UserStoreTest, JoinsACommaThatWasTypedWithoutQuotes) {
-    Open()->Save(setting::Gear, Text("other"), Text("x"));
-    QFile file(FilePath());
-    ASSERT_TRUE(file.open(QIODevice::Append));
-    file.write("hAOV1=118,125\n");
-    file.close();
-    EXPECT_EQ(Open()->Get(setting::Gear, Text("hAOV1"), Text("0")), Text("118,125"));
+TEST_F(UserStoreTest, ReadsBackATextAndTellsSectionsApart) {
+    Open()->Save(Text("setting"), Text("Name"), Text("caf\u00E9, 50%"));
+    Open()->Save(Text("Settings"), Text("Name"), Text("other"));
+    const auto store = Open();
+    EXPECT_EQ(store->Get(Text("setting"), Text("Name"), {}), Text("caf\u00E9, 50%"));
+    EXPECT_EQ(store->Get(Text("Settings"), Text("Name"), {}), Text("other"));
+    EXPECT_EQ(store->Get(Text("setting"), Text("Missing"), Text("fallback")), Text("fallback"));
 }
 
 TEST_F(UserStoreTest, KeepsTheKeysThatAnotherProcessSavesMeanwhile) {
@@ -146,24 +131,6 @@ TEST_F(UserStoreTest, TellsOnceOfADamagedFileThatCannotBeSetAsideOrReplaced) {
         EXPECT_EQ(Damaged(), c.files);
         Folder().removeRecursively();
     }
-}
-
-TEST(MemoryStore, KeepsTheLastTextOfEachSectionAndKey) {
-    MemoryStore store;
-    store.Save(Text("A"), Text("k"), Text("1"));
-    store.Save(Text("A"), Text("k"), Text("2"));
-    EXPECT_EQ(store.Get(Text("A"), Text("k"), Text("f")), Text("2"));
-    EXPECT_EQ(store.Get(Text("a"), Text("k"), Text("f")), Text("f"));
-    EXPECT_TRUE(store.Contains(Text("A"), Text("k")));
-    EXPECT_FALSE(store.Contains(Text("k"), Text("A")));
-}
-
-TEST(LoadSettings, GivesTheDefaultsOnTheFirstRun) {
-    const GeneralSettings settings = LoadSettings(MemoryStore());
-    EXPECT_EQ(settings.PreviewWidth, 400);
-    EXPECT_EQ(settings.PreviewHeight, 300);
-    EXPECT_EQ(settings.FileType, Text("JPG"));
-    EXPECT_EQ(settings.JPEGcompression, 100);
 }
 
 TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {

@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "tests/support/contents.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -50,11 +51,7 @@ TEST(SettingsText, IsWhatQSettingsReadsAndWrites) {
         values.Set(Text("General"), Text("key%1").arg(n), Text(text));
     }
     const QString path = folder.filePath(Text("ours"));
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(SettingsText(values));
-    }
+    testing::WriteFile(path, SettingsText(values));
     const QSettings ours(path, QSettings::IniFormat);
     QSettings theirs(folder.filePath(Text("theirs")), QSettings::IniFormat);
     for (const auto& [name, text] : values.InOrder()) {
@@ -64,9 +61,7 @@ TEST(SettingsText, IsWhatQSettingsReadsAndWrites) {
     }
     EXPECT_EQ(ours.status(), QSettings::NoError);
     theirs.sync();
-    QFile file(theirs.fileName());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    for (const QByteArray& bytes : {file.readAll(), SettingsText(values)}) {
+    for (const QByteArray& bytes : {testing::Contents(theirs.fileName()), SettingsText(values)}) {
         const SettingsReading reading = ReadSettingsText(bytes);
         EXPECT_EQ(reading.damage, QString());
         for (const auto& [name, text] : values.InOrder()) {
@@ -89,10 +84,9 @@ TEST(SettingsText, KeepsTheOrderInWhichThingsWereSet) {
 }
 
 TEST(ReadSettingsText, TakesLinesAsTypedByHand) {
-    const struct {
-        const char* line;
-        const char* value;  // of the key k in the section s; null for a line that is no setting
-    } cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
+        // and the value of the key k
+
         {"k=118,125", "118,125"},
         {" k = a b ", "a b"},
         {"k=a , b", "a,b"},
@@ -111,23 +105,20 @@ TEST(ReadSettingsText, TakesLinesAsTypedByHand) {
         {"k=\\101", "A"},
         {"k=\"a\" \"b\"", "a b"},
         {"[s]\nk=3", "3"},
-        {"k=\"open", nullptr},
-        {"k", nullptr},
-        {"=v", nullptr},
-        {"[s\nk=5", nullptr},
-        {"k=a\x01", nullptr},
-        {"Gear]", nullptr},
     };
-    for (const auto& c : cases) {
-        const SettingsReading reading =
-            ReadSettingsText("[s]\n" + QByteArray(c.line) + "\nlast=1\n");
-        EXPECT_EQ(reading.damage.isEmpty(), c.value != nullptr) << c.line;
-        EXPECT_NE(reading.values.Find(Text("s"), Text("last")), nullptr) << c.line;
-        if (c.value != nullptr) {
-            const QString* const value = reading.values.Find(Text("s"), Text("k"));
-            ASSERT_NE(value, nullptr) << c.line;
-            EXPECT_EQ(*value, Text(c.value)) << c.line;
-        }
+    const auto read = [](const char* line) {
+        return ReadSettingsText("[s]\n" + QByteArray(line) + "\nlast=1\n");
+    };
+    for (const auto& [line, value] : cases) {
+        const SettingsReading reading = read(line);
+        EXPECT_EQ(reading.damage, QString()) << line;
+        const QString* const found = reading.values.Find(Text("s"), Text("k"));
+        ASSERT_NE(found, nullptr) << line;
+        EXPECT_EQ(*found, Text(value)) << line;
+    }
+    for (const char* const line : {"k=\"open", "k", "=v", "[s\nk=5", "k=a\x01", "Gear]"}) {
+        EXPECT_NE(read(line).damage, QString()) << line;
+        EXPECT_NE(read(line).values.Find(Text("s"), Text("last")), nullptr) << line;
     }
 }
 

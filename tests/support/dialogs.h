@@ -4,11 +4,17 @@
 // Using a dialog as a person does, and somebody who notes what it says.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
+#include <QLabel>
+#include <QSlider>
 #include <QTest>
 #include <QWheelEvent>
+#include <memory>
 
 #include "state/notices.h"
 
@@ -32,6 +38,15 @@ inline void Click(const QDialog& form, const char* button) {
     QTest::mouseClick(&The<QAbstractButton>(form, button), Qt::LeftButton);
 }
 
+// What stands in a selector.
+inline QString Items(const QComboBox& combo) {
+    QStringList items;
+    for (int row = 0; row < combo.count(); ++row) {
+        items.append(combo.itemText(row));
+    }
+    return items.join(u' ');
+}
+
 // One notch of the wheel over the middle of the widget.
 inline void Wheel(QWidget& widget) {
     const QPointF middle = widget.rect().center();
@@ -39,5 +54,34 @@ inline void Wheel(QWidget& widget) {
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&widget, &event);
 }
+
+// A dialog, and its controls by their names.
+template <class Form>
+class DialogTest : public ::testing::Test {
+  protected:
+    template <class Control>
+    Control& The(const char* name) const {
+        return testing::The<Control>(*form, name);
+    }
+    void Click(const char* button) const { testing::Click(*form, button); }
+    QString Label(const char* name) const { return The<QLabel>(name).text(); }
+
+    // The wheel over a slider must not move it while another control has the focus.
+    void ExpectWheelOnlyWithFocus(QSlider& slider, QWidget& other) const {
+        const int before = slider.value();
+        other.setFocus();
+        Wheel(slider);
+        EXPECT_EQ(slider.value(), before);
+        form->activateWindow();
+        slider.setFocus();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return slider.hasFocus(); }));
+        Wheel(slider);
+        EXPECT_GT(slider.value(), before);
+    }
+    void TearDown() override { form.reset(); }  // before what it was opened on
+
+    NotedNotices notices;
+    std::unique_ptr<Form> form;
+};
 
 }  // namespace varnel::testing

@@ -27,4 +27,14 @@ inline ImageRecord FisheyeRecord() {
     return record;
 }
 
+// The same lens's photo of that name.
+inline ImageRecord FisheyePhoto(const QString& folder, const QString& name,
+                                Projection projection = Projection::Varnel) {
+    ImageRecord record = FisheyeRecord();
+    record.Folder = folder;
+    record.FileName = name;
+    record.Projection = static_cast<std::int16_t>(projection);
+    return record;
+}
+
 }  // namespace varnel::testing

@@ -3,7 +3,7 @@
 
 #include "app/sample_tools.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -83,7 +83,7 @@ void SampleTools::OnMade() {
 }
 
 void SampleTools::Add() {
-    if (desk_.Busy() || view_.Locked()) {
+    if (desk_.Busy() || view_.Locked() || QApplication::activeModalWidget() != nullptr) {
         QTimer::singleShot(200, this, &SampleTools::Add);
         return;
     }

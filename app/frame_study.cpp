@@ -127,8 +127,8 @@ QString NumbersText(const ResultNumbers& numbers) {
         numbers.rectangle.width > 0
             ? Texts::tr("%1 x %2 pixels").arg(numbers.rectangle.width).arg(numbers.rectangle.height)
             : none;
-    const QString where = numbers.halfWay ? Texts::tr("Resolution half way to the rim %1")
-                                          : Texts::tr("Centre resolution %1");
+    const QString where =
+        numbers.halfWay ? Texts::tr("Half-way resolution %1") : Texts::tr("Centre resolution %1");
     return Texts::tr(
                "%1   |   Worst corner stretch %2   |   Area kept %3 %   |   "
                "Largest rectangle without black %4")

@@ -97,8 +97,12 @@ const FrameStudy* FrameTools::Fresh() {
 
 void FrameTools::Update() {
     const FrameStudy* const study = magnification_->isChecked() ? Fresh() : nullptr;
-    numbers_->setText(study == nullptr ? QString()
-                                       : NumbersText(MeasureResult(study->grid, study->kept)));
+    const auto numbers =
+        study == nullptr ? ResultNumbers() : MeasureResult(study->grid, study->kept);
+    numbers_->setText(study == nullptr ? QString() : NumbersText(numbers));
+    numbers_->setToolTip(numbers.halfWay ? tr("The middle of Horizon is a single point of the "
+                                              "photo: its resolution is told half way to the rim.")
+                                         : QString());
     numbers_->setVisible(magnification_->isChecked());
     parts_.pictures->From()->RedrawOverlays();
     parts_.pictures->To()->RedrawOverlays();

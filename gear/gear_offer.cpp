@@ -38,7 +38,9 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Imag
     } else if (photo.lack == GearLack::ToldLens) {
         offer.define = !HasCameraOf(photo.names, current);
     }
-    if (offer.gear > 0 || offer.define) {
+    const bool otherCamera =
+        !photo.names.cameraModel.isEmpty() && !HasCameraOf(photo.names, current);
+    if (offer.gear > 0 || offer.define || otherCamera) {
         if (!current.cameraModel.isEmpty()) {
             offer.trouble = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
         }

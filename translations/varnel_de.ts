@@ -1100,8 +1100,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>%1 x %2 Pixel</translation>
     </message>
     <message>
-        <source>Resolution half way to the rim %1</source>
-        <translation>Auflösung halbwegs zum Rand %1</translation>
+        <source>Half-way resolution %1</source>
+        <translation>Auflösung halbwegs %1</translation>
     </message>
     <message>
         <source>Centre resolution %1</source>
@@ -2504,6 +2504,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Magnification map</source>
         <translation>Abbildungs&amp;maßstab</translation>
+    </message>
+    <message>
+        <source>The middle of Horizon is a single point of the photo: its resolution is told half way to the rim.</source>
+        <translation>Die Mitte von Horizon ist ein einziger Punkt des Fotos: Gezeigt wird die Auflösung auf halbem Weg zum Rand.</translation>
     </message>
 </context>
 <context>

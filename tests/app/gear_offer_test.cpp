@@ -7,30 +7,28 @@
 
 #include "gear/gear_list.h"
 #include "tests/support/taken_photos.h"
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
 using testing::TakenByNikon;
+using testing::Text;
 using testing::WindowDesk;
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-const GearNames nikon{Q("Nikon"), Q("D7100"), Q("Nikon"), Q("AF 10.5mm f/2.8G ED DX")};
+const GearNames nikon{Text("Nikon"), Text("D7100"), Text("Nikon"), Text("AF 10.5mm f/2.8G ED DX")};
 
 class GearOfferRowTest : public ::testing::Test {
   protected:
     GearOfferRowTest() {
         desk_.window.AddFiles(
-            {TakenByNikon(desk_.files, Q("a.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
-             TakenByNikon(desk_.files, Q("b.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
-             desk_.files.Picture(Q("c.bmp"), FIF_BMP)});
+            {TakenByNikon(desk_.files, Text("a.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
+             TakenByNikon(desk_.files, Text("b.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
+             desk_.files.Picture(Text("c.bmp"), FIF_BMP)});
         desk_.dialogs.onDefine = [this](const GearNames& names) {
             FillGearFromCatalogue(names, desk_.state.Gear(0));
-            desk_.state.Gear(0).GearName = Q("Cut & dried");
+            desk_.state.Gear(0).GearName = Text("Cut & dried");
             AddEditedGear(desk_.state.Gear);
             return names == nikon;
         };
@@ -41,22 +39,22 @@ class GearOfferRowTest : public ::testing::Test {
 };
 
 TEST_F(GearOfferRowTest, DefinesAndUsesTheGearOnlyWhenAsked) {
-    EXPECT_EQ(desk_.Label("LabelTakenWith"), Q("Taken with NIKON D7100, 10.5 mm f/2.8"));
-    EXPECT_EQ(Button()->text(), Q("Define this gear..."));
+    EXPECT_EQ(desk_.Label("LabelTakenWith"), Text("Taken with NIKON D7100, 10.5 mm f/2.8"));
+    EXPECT_EQ(Button()->text(), Text("Define this gear..."));
     const ImageRecord before = desk_.Record(1);
     desk_.Click("CmdOfferedGear");
-    EXPECT_EQ(desk_.dialogs.opened, QStringList{Q("FormGearEdit")});
+    EXPECT_EQ(desk_.dialogs.opened, QStringList{Text("FormGearEdit")});
     EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->count(), 2);
     EXPECT_EQ(desk_.Record(1), before);
-    EXPECT_EQ(Button()->text(), Q("Use Cut && dried"));
+    EXPECT_EQ(Button()->text(), Text("Use Cut && dried"));
     // Other photos that are selected stay as they are.
     desk_.ClickLine(1, Qt::ControlModifier);
     const ImageRecord other = desk_.Record(1);
     desk_.Click("CmdOfferedGear");
-    EXPECT_EQ(desk_.Record(2).GearName, Q("Cut & dried"));
+    EXPECT_EQ(desk_.Record(2).GearName, Text("Cut & dried"));
     EXPECT_EQ(desk_.Record(2).LensModel, nikon.lensModel);
     EXPECT_EQ(desk_.Record(1), other);
-    EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->currentText(), Q("Cut & dried"));
+    EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->currentText(), Text("Cut & dried"));
     EXPECT_FALSE(Button()->isVisible());
     EXPECT_FALSE(desk_.Label("LabelTakenWith").isEmpty());
 }

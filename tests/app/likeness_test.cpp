@@ -9,30 +9,28 @@
 #include <QComboBox>
 #include <QFile>
 
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WindowDesk;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 // Adjusts the desk's first photo, saves it and takes it off the list.
 QString SavedAndRemoved(WindowDesk& desk) {
-    desk.AddPhotos({Q("a.bmp")});
+    desk.AddPhotos({Text("a.bmp")});
     desk.Click("OptionRemap_1");
     desk.Slider("SliderY")->setValue(-20);
     desk.Slider("SliderEffect")->setValue(60);
     desk.chooser.agrees = true;
-    desk.chooser.answer = SaveChoice{desk.files.Path(Q("r")), 2};
+    desk.chooser.answer = SaveChoice{desk.files.Path(Text("r")), 2};
     desk.Click("CommandSaveFreeimage");
     desk.Click("CmdRemoveImages");
     EXPECT_TRUE(desk.state.Images.Empty());
     desk.Click("OptionRemap_0");
-    return desk.files.Path(Q("r.JPG"));
+    return desk.files.Path(Text("r.JPG"));
 }
 
 TEST(DroppedLikeness, BringsPhotoGearAndSettingsBackAndSelectsThem) {
@@ -41,15 +39,15 @@ TEST(DroppedLikeness, BringsPhotoGearAndSettingsBackAndSelectsThem) {
     const QString gear = desk.state.Gear(1).GearName;
     for (const bool gearIsThere : {true, false}) {
         if (!gearIsThere) {
-            desk.state.Gear(1).GearName = Q("another");
+            desk.state.Gear(1).GearName = Text("another");
             desk.state.Gear(1).GearRatio = 77.0F;
-            desk.Find<QComboBox>("GearCombo")->setItemText(0, Q("another"));
+            desk.Find<QComboBox>("GearCombo")->setItemText(0, Text("another"));
         }
-        desk.window.AddFiles({desk.files.Picture(Q("b.bmp"), FIF_BMP), result});
+        desk.window.AddFiles({desk.files.Picture(Text("b.bmp"), FIF_BMP), result});
         auto* const list = desk.Find<QListWidget>("ImageList1");
         EXPECT_EQ(list->currentRow(), 1);
-        EXPECT_EQ(list->selectedItems().value(0)->text(), Q("a.bmp"));
-        EXPECT_EQ(desk.window.windowTitle(), Q("a.bmp - Varnel"));
+        EXPECT_EQ(list->selectedItems().value(0)->text(), Text("a.bmp"));
+        EXPECT_EQ(desk.window.windowTitle(), Text("a.bmp - Varnel"));
         EXPECT_EQ(desk.Find<QButtonGroup>("OptionRemap")->checkedId(), 1);
         EXPECT_EQ(desk.Slider("SliderY")->value(), -20);
         EXPECT_EQ(desk.Slider("SliderEffect")->value(), 60);
@@ -70,17 +68,17 @@ TEST(DroppedLikeness, BringsPhotoGearAndSettingsBackAndSelectsThem) {
 TEST(DroppedLikeness, NamesThePhotoThatIsGoneAndAddsThePicture) {
     WindowDesk desk;
     const QString result = SavedAndRemoved(desk);
-    QFile::remove(desk.files.Path(Q("a.bmp")));
+    QFile::remove(desk.files.Path(Text("a.bmp")));
     desk.window.AddFiles({result});
     EXPECT_EQ(desk.notices.texts,
-              QStringList{Q("Could not find the photo that a picture was made of")});
-    EXPECT_EQ(desk.notices.details, QStringList{Q("r.JPG: ") + desk.files.Path(Q("a.bmp"))});
-    EXPECT_EQ(desk.Record(1).FileName, Q("r.JPG"));
+              QStringList{Text("Could not find the photo that a picture was made of")});
+    EXPECT_EQ(desk.notices.details, QStringList{Text("r.JPG: ") + desk.files.Path(Text("a.bmp"))});
+    EXPECT_EQ(desk.Record(1).FileName, Text("r.JPG"));
     EXPECT_EQ(desk.Record(1).RotateY, 0.0F);
     desk.state.settings.WriteSettings = false;  // so nothing is missing
     desk.Click("CmdRemoveImages");
     desk.window.AddFiles({SavedAndRemoved(desk)});
-    EXPECT_EQ(desk.Record(1).FileName, Q("r.JPG"));
+    EXPECT_EQ(desk.Record(1).FileName, Text("r.JPG"));
     EXPECT_EQ(desk.notices.texts.size(), 1);
 }
 

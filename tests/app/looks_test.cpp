@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 
 #include "tests/support/screenshots.h"
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -17,14 +18,11 @@ namespace {
 
 using testing::KeepPicture;
 using testing::SampleFolder;
+using testing::Text;
 using testing::WindowDesk;
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
-
 QString Sample(const char* name) {
-    return SampleFolder() + u'/' + Q(name);
+    return SampleFolder() + u'/' + Text(name);
 }
 
 QPalette DarkDesktop() {
@@ -61,7 +59,7 @@ TEST(Looks, SmallAndHugeWindows) {
         WindowDesk desk;
         if (size.width() > 3000) {
             desk.state.settings.PreviewWidth = desk.state.settings.PreviewHeight = 1000;
-            desk.window.findChild<QAction*>(Q("CmdSetupSetup"))->trigger();
+            desk.window.findChild<QAction*>(Text("CmdSetupSetup"))->trigger();
         }
         Show(desk, size, {Sample("sample-circular.jpg"), Sample("sample-fullframe.jpg")});
         KeepPicture(&desk.window, name);
@@ -73,7 +71,7 @@ TEST(Looks, SmallAndHugeWindows) {
 
 TEST(Looks, DarkDesktop) {
     const QPalette before = QApplication::palette();
-    QApplication::setStyle(QStyleFactory::create(Q("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(Text("Fusion")));
     QApplication::setPalette(DarkDesktop());
     {
         WindowDesk desk;
@@ -90,11 +88,11 @@ TEST(Looks, EmptyPortraitAndError) {
     Show(desk, {1280, 900}, {});
     KeepPicture(&desk.window, "window-empty.png");
     Show(desk, {1280, 900},
-         {Sample("sample-circular-upright.jpg"), desk.files.Text(Q("torn.jpg"))});
+         {Sample("sample-circular-upright.jpg"), desk.files.Text(Text("torn.jpg"))});
     KeepPicture(&desk.window, "window-portrait.png");
     desk.ClickLine(1);
     KeepPicture(&desk.window, "window-error.png");
-    EXPECT_EQ(desk.notices.texts, QStringList{Q("Could not open image")});
+    EXPECT_EQ(desk.notices.texts, QStringList{Text("Could not open image")});
 }
 
 TEST(Looks, FiftyPhotosTwentySelected) {
@@ -125,7 +123,7 @@ TEST(Looks, TheToolsOverThePictures) {
         KeepPicture(&desk.window, name);
     };
     look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");
-    EXPECT_TRUE(desk.Label("LabelNumbers").contains(Q("Area kept")));
+    EXPECT_TRUE(desk.Label("LabelNumbers").contains(Text("Area kept")));
     look({"CmdViewFrame", "CmdViewMagnification", "CmdViewCircle"}, "tools-circle.png");
     look({"CmdViewCircle", "CmdContactSheet"}, "tools-sheet.png");
     EXPECT_TRUE(desk.Find("ContactSheet")->isVisible());

@@ -5,24 +5,22 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WindowDesk;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    const QString broken = desk.files.Text(Q("broken.jpg"));
+    desk.AddPhotos({Text("a.bmp")});
+    const QString broken = desk.files.Text(Text("broken.jpg"));
     desk.window.AddFiles({broken});
     desk.ClickLine(1);
-    EXPECT_EQ(desk.notices.texts, QStringList{Q("Could not open image")});
+    EXPECT_EQ(desk.notices.texts, QStringList{Text("Could not open image")});
     EXPECT_TRUE(desk.notices.details.value(0).contains(broken));
     EXPECT_FALSE(desk.state.bitmaps.FullSourceBitmap);
     EXPECT_EQ(desk.state.Images.UpperBound(), 2);
@@ -32,8 +30,8 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
 
 TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
-    const QString late = desk.files.Picture(Q("late.bmp"), FIF_BMP);
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
+    const QString late = desk.files.Picture(Text("late.bmp"), FIF_BMP);
     int asked = 0;
     desk.reader.meanwhile = [&] {
         ++asked;
@@ -50,12 +48,12 @@ TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {
 
 TEST(MainWindow, WhatIsWrongWithAPhotoStandsOnItUntilTheNextOne) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {300, 200});
+    desk.AddPhotos({Text("a.bmp")}, {300, 200});
     auto* const trouble = desk.Find<QLabel>("LabelTrouble");
     EXPECT_TRUE(trouble->isHidden());
-    desk.window.AddFiles({desk.files.Cut(Q("cut.bmp"), desk.files.Path(Q("a.bmp")), 60)});
+    desk.window.AddFiles({desk.files.Cut(Text("cut.bmp"), desk.files.Path(Text("a.bmp")), 60)});
     desk.ClickLine(1);
-    EXPECT_EQ(trouble->text(), Q("cut.bmp: damaged: the file is cut short"));
+    EXPECT_EQ(trouble->text(), Text("cut.bmp: damaged: the file is cut short"));
     EXPECT_TRUE(desk.Find("PicSmallFrom")->geometry().contains(trouble->geometry()));
     EXPECT_TRUE(desk.notices.texts.isEmpty());
     desk.ClickLine(0);

@@ -13,13 +13,12 @@
 #include "gear/gear_store.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 class Program : public ::testing::Test {
   protected:
@@ -28,19 +27,19 @@ class Program : public ::testing::Test {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-            environment.remove(Q(name));
+            environment.remove(Text(name));
         }
-        environment.insert(Q("XDG_CONFIG_HOME"), files_.Path(Q("config")));
-        environment.insert(Q("LC_ALL"), Q(locale));
+        environment.insert(Text("XDG_CONFIG_HOME"), files_.Path(Text("config")));
+        environment.insert(Text("LC_ALL"), Text(locale));
         process.setProcessEnvironment(environment);
-        process.start(Q(program), arguments);
+        process.start(Text(program), arguments);
         EXPECT_TRUE(process.waitForFinished(60000));
         out_ = QString::fromUtf8(process.readAllStandardOutput());
         err_ = QString::fromUtf8(process.readAllStandardError());
         return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     }
     void DefineGear() {
-        QSettings settings(files_.Path(Q("config/Varnel/Varnel.conf")), QSettings::IniFormat);
+        QSettings settings(files_.Path(Text("config/Varnel/Varnel.conf")), QSettings::IniFormat);
         const std::pair<const char*, const char*> values[] = {{"NumGear", "1"},
                                                               {"DefaultGearName", "mine"},
                                                               {"GearName1", "mine"},
@@ -49,7 +48,7 @@ class Program : public ::testing::Test {
                                                               {"GearLensBrand1", "Sigma"},
                                                               {"GearLensModel1", "EX 8 mm f:3.5"}};
         for (const auto& [key, value] : values) {
-            settings.setValue(Q("Gear/") + Q(key), Q(value));
+            settings.setValue(Text("Gear/") + Text(key), Text(value));
         }
     }
     testing::PictureFolder files_;
@@ -57,47 +56,48 @@ class Program : public ::testing::Test {
 };
 
 TEST_F(Program, VarnelConvertsItsArgumentsWithoutADisplay) {
-    const QString photo = files_.Picture(Q("Küste.png"), FIF_PNG);
+    const QString photo = files_.Picture(Text("Küste.png"), FIF_PNG);
     EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}), 2);
-    EXPECT_TRUE(err_.contains(Q("Please define at least one camera + lens combination ...")));
+    EXPECT_TRUE(err_.contains(Text("Please define at least one camera + lens combination ...")));
     DefineGear();
     for (const char* const locale : {"C", "C.UTF-8"}) {
         EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}, locale), 0) << err_.toStdString();
-        EXPECT_EQ(out_, files_.Path(Q("Küste.Varnel.TIF\n")));
-        EXPECT_EQ(testing::LoadPicture(files_.Path(Q("Küste.Varnel.TIF"))).outcome,
+        EXPECT_EQ(out_, files_.Path(Text("Küste.Varnel.TIF\n")));
+        EXPECT_EQ(testing::LoadPicture(files_.Path(Text("Küste.Varnel.TIF"))).outcome,
                   LoadOutcome::Loaded);
     }
-    EXPECT_EQ(Run(VARNEL_PROGRAM, {files_.Path(Q("none.jpg")), photo}), 1);
-    EXPECT_TRUE(err_.contains(Q("none.jpg: there is no such file")));
-    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--help")}), 0);
-    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--version")}), 0);
-    EXPECT_EQ(Run(VARNEL_PROGRAM, {Q("--nonsense")}), 2);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {files_.Path(Text("none.jpg")), photo}), 1);
+    EXPECT_TRUE(err_.contains(Text("none.jpg: there is no such file")));
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Text("--help")}), 0);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Text("--version")}), 0);
+    EXPECT_EQ(Run(VARNEL_PROGRAM, {Text("--nonsense")}), 2);
     EXPECT_EQ(err_.count(u'\n'), 1);
 }
 
 TEST_F(Program, VarnelConvertTakesItsGearFromTheUsersStore) {
-    const QString photo = files_.Picture(Q("IMG.tif"), FIF_TIFF);
+    const QString photo = files_.Picture(Text("IMG.tif"), FIF_TIFF);
     DefineGear();
-    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Q("--projection=all"), Q("--type=png"), photo}), 0);
+    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Text("--projection=all"), Text("--type=png"), photo}),
+              0);
     EXPECT_EQ(out_.count(u'\n'), 4);
     EXPECT_TRUE(err_.isEmpty()) << err_.toStdString();  // nothing of what libraries say
-    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Q("--list-gears")}), 0);
-    EXPECT_EQ(out_, Q("mine\n"));
+    EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Text("--list-gears")}), 0);
+    EXPECT_EQ(out_, Text("mine\n"));
 }
 
 TEST_F(Program, BothSayOnceThatTheSettingsWereDamagedAndUseTheCopy) {
-    const QString settings = files_.Path(Q("config/Varnel/Varnel.conf"));
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString settings = files_.Path(Text("config/Varnel/Varnel.conf"));
+    const QString photo = files_.Picture(Text("IMG.png"), FIF_PNG);
     DefineGear();
-    const std::pair<const char*, QString> runs[] = {{VARNEL_CONVERT_PROGRAM, Q("--list-gears")},
+    const std::pair<const char*, QString> runs[] = {{VARNEL_CONVERT_PROGRAM, Text("--list-gears")},
                                                     {VARNEL_PROGRAM, photo}};
     for (const auto& [program, argument] : runs) {
         EXPECT_EQ(Run(program, {argument}), 0) << err_.toStdString();
         testing::WriteFile(settings, testing::Contents(settings).first(100));
         for (const int times : {1, 0}) {
             EXPECT_EQ(Run(program, {argument}), 0) << err_.toStdString();
-            EXPECT_EQ(err_.count(Q("Varnel.conf: the settings were damaged (cut short); their "
-                                   "last good copy is used")),
+            EXPECT_EQ(err_.count(Text("Varnel.conf: the settings were damaged (cut short); their "
+                                      "last good copy is used")),
                       times);
         }
     }

@@ -9,52 +9,50 @@
 #include <QMenu>
 
 #include "pipeline/project_file.h"
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WindowDesk;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 // A window with one adjusted photo, saved as a project.
 struct SavedDesk : WindowDesk {
     SavedDesk() {
-        AddPhotos({Q("a.bmp"), Q("b.bmp")});
+        AddPhotos({Text("a.bmp"), Text("b.bmp")});
         Click("OptionRemap_1");
         Slider("SliderY")->setValue(-20);
-        dialogs.project = files.Path(Q("trip"));
+        dialogs.project = files.Path(Text("trip"));
         Entry("CmdSaveProject")->trigger();
-        path = files.Path(Q("trip.varnel"));
+        path = files.Path(Text("trip.varnel"));
     }
     QString path;
 };
 
 TEST(Project, ComesBackWithEverySettingAndShowsItsName) {
     SavedDesk desk;
-    EXPECT_EQ(desk.window.windowTitle(), Q("a.bmp - trip - Varnel"));
+    EXPECT_EQ(desk.window.windowTitle(), Text("a.bmp - trip - Varnel"));
     const ImageRecord saved = desk.Record(1);
     desk.Slider("SliderY")->setValue(30);
     desk.Entry("CmdSaveProject")->trigger();  // to the same file
     desk.Slider("SliderY")->setValue(-20);
     desk.Entry("CmdSaveProject")->trigger();
     WindowDesk other;
-    other.window.AddFiles({other.files.Picture(Q("c.bmp"), FIF_BMP), desk.path});
+    other.window.AddFiles({other.files.Picture(Text("c.bmp"), FIF_BMP), desk.path});
     EXPECT_EQ(other.dialogs.opened, QStringList());
     ASSERT_EQ(other.state.Images.UpperBound(), 3);
     EXPECT_EQ(other.Record(1), saved);
-    EXPECT_EQ(other.Entry("CmdEditUndo")->text(), Q("&Undo add images"));
+    EXPECT_EQ(other.Entry("CmdEditUndo")->text(), Text("&Undo add images"));
     other.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(other.Slider("SliderY")->value(), -20);
-    EXPECT_EQ(other.window.windowTitle(), Q("a.bmp - trip - Varnel"));
-    auto* const recent = other.window.findChild<QMenu*>(Q("MenuRecentProjects"));
+    EXPECT_EQ(other.window.windowTitle(), Text("a.bmp - trip - Varnel"));
+    auto* const recent = other.window.findChild<QMenu*>(Text("MenuRecentProjects"));
     Q_EMIT qobject_cast<QMenu*>(recent->parent())->aboutToShow();
-    EXPECT_EQ(recent->actions().value(0)->text(), Q("trip.varnel"));
+    EXPECT_EQ(recent->actions().value(0)->text(), Text("trip.varnel"));
     other.Entry("CmdEditUndo")->trigger();
-    EXPECT_EQ(other.window.windowTitle(), Q("Varnel"));
+    EXPECT_EQ(other.window.windowTitle(), Text("Varnel"));
     EXPECT_EQ(other.notices.texts, QStringList());
 }
 
@@ -74,7 +72,7 @@ TEST(Project, AsksOnlyWhenTheListWasChangedSinceItWasSaved) {
         desk.dialogs.opened.clear();
         desk.dialogs.saveFirst = row.answer;
         desk.window.AddFiles({desk.path});
-        EXPECT_EQ(desk.dialogs.opened, QStringList{Q("AskToSave trip.varnel")});
+        EXPECT_EQ(desk.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
         EXPECT_EQ(desk.Record(1).RotateY, row.left);
     }
     EXPECT_EQ(OpenProject(desk.path).images(1).RotateY, 10.0F);
@@ -83,17 +81,17 @@ TEST(Project, AsksOnlyWhenTheListWasChangedSinceItWasSaved) {
 TEST(Project, ADamagedOneChangesNothingAndMissingPhotosAreNamedAndKept) {
     SavedDesk desk;
     const ImageRecord before = desk.Record(1);
-    QFile::copy(desk.path, desk.files.Path(Q("keep")));
-    desk.files.Cut(Q("cut.varnel"), desk.path, 60);
-    desk.window.AddFiles({desk.files.Path(Q("cut.varnel"))});
+    QFile::copy(desk.path, desk.files.Path(Text("keep")));
+    desk.files.Cut(Text("cut.varnel"), desk.path, 60);
+    desk.window.AddFiles({desk.files.Path(Text("cut.varnel"))});
     ASSERT_EQ(desk.notices.texts.size(), 1);
-    EXPECT_TRUE(desk.notices.texts[0].contains(Q("cut.varnel")));
-    EXPECT_TRUE(desk.notices.details[0].contains(Q("damaged")));
+    EXPECT_TRUE(desk.notices.texts[0].contains(Text("cut.varnel")));
+    EXPECT_TRUE(desk.notices.details[0].contains(Text("damaged")));
     EXPECT_EQ(desk.Record(1), before);
-    EXPECT_EQ(desk.window.windowTitle(), Q("a.bmp - trip - Varnel"));
-    QFile::remove(desk.files.Path(Q("a.bmp")));
+    EXPECT_EQ(desk.window.windowTitle(), Text("a.bmp - trip - Varnel"));
+    QFile::remove(desk.files.Path(Text("a.bmp")));
     desk.window.AddFiles({desk.path});
-    EXPECT_EQ(desk.notices.details.value(1), desk.files.Path(Q("a.bmp")));
+    EXPECT_EQ(desk.notices.details.value(1), desk.files.Path(Text("a.bmp")));
     EXPECT_EQ(desk.notices.texts.size(), 2);
     EXPECT_EQ(desk.Record(1), before);
     EXPECT_EQ(desk.Find<QListWidget>("ImageList1")->currentRow(), 1);
@@ -104,7 +102,7 @@ TEST(Project, IsNotLostByClosingTheWindow) {
     desk.Slider("SliderY")->setValue(30);
     desk.dialogs.saveFirst = SaveFirst::Cancel;
     EXPECT_FALSE(desk.window.close());
-    EXPECT_EQ(desk.dialogs.opened, QStringList{Q("AskToSave trip.varnel")});
+    EXPECT_EQ(desk.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
     desk.dialogs.saveFirst = SaveFirst::Save;
     EXPECT_TRUE(desk.window.close());
     EXPECT_EQ(OpenProject(desk.path).images(1).RotateY, 30.0F);

@@ -9,16 +9,14 @@
 #include <QMimeData>
 
 #include "app/photo_list.h"
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WindowDesk;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 std::string Lines(WindowDesk& desk) {
     QString lines;
@@ -26,8 +24,8 @@ std::string Lines(WindowDesk& desk) {
     for (int line = 0; line < list->count(); ++line) {
         EXPECT_EQ(list->item(line)->text(), desk.Record(line + 1).FileName);
         lines += list->item(line)->text().chopped(4);
-        lines += line == list->currentRow() ? Q("*") : QString();
-        lines += list->item(line)->isSelected() ? Q("+") : QString();
+        lines += line == list->currentRow() ? Text("*") : QString();
+        lines += list->item(line)->isSelected() ? Text("+") : QString();
     }
     return lines.toStdString();
 }
@@ -40,20 +38,20 @@ void Keys(WindowDesk& desk, Qt::Key key, Qt::KeyboardModifiers modifiers) {
 TEST(Undo, TheEntriesNameTheStepAndControlsListAndPreviewFollow) {
     WindowDesk desk;
     EXPECT_FALSE(desk.Entry("CmdEditUndo")->isEnabled());
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")}, {300, 200});
-    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Q("&Undo add images"));
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp")}, {300, 200});
+    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Text("&Undo add images"));
     desk.Click("OptionRemap_1");
-    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Q("&Undo projection"));
+    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Text("&Undo projection"));
     const QImage before = desk.Shown("PicSmallTo");
     desk.Press("SliderY", Qt::Key_Right);
     desk.Press("SliderY", Qt::Key_Right);
     EXPECT_EQ(desk.Record(1).RotateY, 20.0F);
-    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Q("&Undo rotate left/right"));
+    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Text("&Undo rotate left/right"));
     desk.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(desk.Record(1).RotateY, 0.0F);
     EXPECT_EQ(desk.Slider("SliderY")->value(), 0);
     EXPECT_EQ(desk.Shown("PicSmallTo"), before);
-    EXPECT_EQ(desk.Entry("CmdEditRedo")->text(), Q("&Redo rotate left/right"));
+    EXPECT_EQ(desk.Entry("CmdEditRedo")->text(), Text("&Redo rotate left/right"));
     desk.Find("SpinSliderY")->setFocus();
     Keys(desk, Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(desk.Slider("SliderY")->value(), 20);
@@ -75,7 +73,7 @@ TEST(Undo, TheEntriesNameTheStepAndControlsListAndPreviewFollow) {
 
 TEST(Undo, TheMouseEndsAStep) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
+    desk.AddPhotos({Text("a.bmp")});
     desk.Press("SliderEffect", Qt::Key_Left);
     desk.Press("SliderEffect", Qt::Key_Left);
     QTest::mouseClick(desk.Find("CheckAntialiased"), Qt::LeftButton);
@@ -84,17 +82,17 @@ TEST(Undo, TheMouseEndsAStep) {
     EXPECT_EQ(desk.Record(1).EffectVarnel, 98.0F);
     desk.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(desk.Record(1).EffectVarnel, 100.0F);
-    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Q("&Undo add images"));
+    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Text("&Undo add images"));
 }
 
 TEST(Undo, ReachesEveryPhotoThatAStepReached) {
     WindowDesk desk;
     desk.state.Gear.Resize(2);
     desk.state.Gear(2) = desk.state.Gear(1);
-    desk.state.Gear(2).GearName = Q("other");
+    desk.state.Gear(2).GearName = Text("other");
     desk.state.Gear(2).hAOV = 100.0F;
     desk.Entry("CmdSetupEquipment")->trigger();
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
     desk.ClickLine(2, Qt::ControlModifier);
     desk.Slider("SliderAOVinput")->setValue(200);
     const auto all = [&] {
@@ -115,9 +113,9 @@ TEST(Undo, ReachesEveryPhotoThatAStepReached) {
     deed([&] { desk.Click("OptionRemap_1"); });
     deed([&] { desk.Click("CmdApplyAll2"); });
     deed([&] { desk.Click("CmdApplyAll"); });
-    EXPECT_EQ(names,
-              (QStringList{Q("&Undo input hAOV"), Q("&Undo choice of gear"), Q("&Undo projection"),
-                           Q("&Undo apply settings to all"), Q("&Undo apply gear to all")}));
+    EXPECT_EQ(names, (QStringList{Text("&Undo input hAOV"), Text("&Undo choice of gear"),
+                                  Text("&Undo projection"), Text("&Undo apply settings to all"),
+                                  Text("&Undo apply gear to all")}));
     for (std::size_t n = states.size() - 1; n-- > 1;) {
         desk.Entry("CmdEditUndo")->trigger();
         EXPECT_EQ(all(), states[n]) << n;
@@ -125,7 +123,7 @@ TEST(Undo, ReachesEveryPhotoThatAStepReached) {
     desk.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(desk.Record(1).InputAOV, 200.0F);
     EXPECT_EQ(desk.Record(3).InputAOV, 200.0F);
-    EXPECT_NE(desk.Find<QComboBox>("GearCombo")->currentText(), Q("other"));
+    EXPECT_NE(desk.Find<QComboBox>("GearCombo")->currentText(), Text("other"));
     for (std::size_t n = 2; n < states.size(); ++n) {
         desk.Entry("CmdEditRedo")->trigger();
     }
@@ -135,7 +133,7 @@ TEST(Undo, ReachesEveryPhotoThatAStepReached) {
 
 TEST(Undo, RemovedPhotosComeBackAndAnotherPhotosStepShowsThatPhoto) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
     desk.ClickLine(1);
     desk.Slider("SliderAOVinput")->setValue(150);
     desk.ClickLine(2);
@@ -152,7 +150,7 @@ TEST(Undo, RemovedPhotosComeBackAndAnotherPhotosStepShowsThatPhoto) {
 
 TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp"), Q("d.bmp")});
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp"), Text("d.bmp")});
     desk.ClickLine(1);
     FIBITMAP* const photo = desk.state.bitmaps.FullSourceBitmap.get();
     auto* const list = desk.Find<PhotoList>("ImageList1");
@@ -163,7 +161,7 @@ TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {
     Keys(desk, Qt::Key_Up, Qt::AltModifier);
     Keys(desk, Qt::Key_Up, Qt::AltModifier);
     EXPECT_EQ(Lines(desk), "b*+acd");
-    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Q("&Undo reorder images"));
+    EXPECT_EQ(desk.Entry("CmdEditUndo")->text(), Text("&Undo reorder images"));
     EXPECT_EQ(desk.state.bitmaps.FullSourceBitmap.get(), photo);  // not read again
     Q_EMIT list->MoveWanted(4);
     EXPECT_EQ(Lines(desk), "acdb*+");
@@ -171,7 +169,7 @@ TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {
     EXPECT_EQ(Lines(desk), "b*+acd");
     // Files from elsewhere still reach the window.
     QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(desk.files.Path(Q("a.bmp")))});
+    data.setUrls({QUrl::fromLocalFile(desk.files.Path(Text("a.bmp")))});
     QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(list->viewport(), &enter);
     EXPECT_TRUE(enter.isAccepted());
@@ -179,8 +177,8 @@ TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {
 
 TEST(PhotoList, MarksTellTheProjectionAndTheState) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
-    desk.window.AddFiles({desk.files.Text(Q("no.bmp"))});
+    desk.AddPhotos({Text("a.bmp"), Text("b.bmp")});
+    desk.window.AddFiles({desk.files.Text(Text("no.bmp"))});
     const auto marks = [&](int line) {
         QTest::qWait(1);
         const auto* const item = desk.Find<QListWidget>("ImageList1")->item(line);
@@ -198,7 +196,7 @@ TEST(PhotoList, MarksTellTheProjectionAndTheState) {
     EXPECT_TRUE(desk.Find<QListWidget>("ImageList1")
                     ->item(0)
                     ->toolTip()
-                    .endsWith(Q("Equidistance, adjusted, in the batch queue")));
+                    .endsWith(Text("Equidistance, adjusted, in the batch queue")));
     desk.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(marks(0), "VQ");
 }

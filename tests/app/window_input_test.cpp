@@ -7,20 +7,18 @@
 
 #include <QComboBox>
 
+#include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WindowDesk;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
     WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
+    desk.AddPhotos({Text("a.bmp")});
     QSlider* const slider = desk.Slider("SliderAOVinput");
     desk.Find("ImageList1")->setFocus();
     const auto roll = [&] {
@@ -32,7 +30,7 @@ TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
     roll();
     EXPECT_EQ(slider->value(), before);
     auto* const gears = desk.Find<QComboBox>("GearCombo");
-    gears->addItem(Q("another"));
+    gears->addItem(Text("another"));
     QWheelEvent overGears({5, 5}, gears->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(gears, &overGears);

@@ -17,71 +17,69 @@
 #include "tests/support/jpeg_files.h"
 #include "tests/support/loading.h"
 #include "tests/support/profiles.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
+using testing::Text;
 using testing::WriteFile;
-
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 QByteArray ExifTool(const QStringList& arguments) {
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    program.start(Q("exiftool"), arguments);
+    program.start(Text("exiftool"), arguments);
     EXPECT_TRUE(program.waitForFinished(60'000)) << "exiftool: libimage-exiftool-perl";
     return program.readAllStandardOutput();
 }
 
 // What the photos tell, as that program's assignments.
 const QStringList told{
-    Q("-IFD0:Artist=Jürgen Fisch"),
-    Q("-IFD0:Copyright=all eyes"),
-    Q("-IFD0:ImageDescription=a lake"),
-    Q("-IFD0:ModifyDate=2021:02:03 04:05:06"),
-    Q("-ExifIFD:DateTimeOriginal=2020:02:03 04:05:06"),
-    Q("-ExifIFD:OffsetTimeOriginal=+02:00"),
-    Q("-ExifIFD:UserComment=Küste"),
-    Q("-ExifIFD:FNumber=3.5"),
-    Q("-ExifIFD:ExposureTime=0.004"),
-    Q("-ExifIFD:ISO=400"),
-    Q("-ExifIFD:FocalLength=8"),
-    Q("-ExifIFD:LensModel=a fisheye of 8 mm"),
-    Q("-GPS:GPSLatitude=50.51"),
-    Q("-GPS:GPSLatitudeRef=S"),
-    Q("-GPS:GPSLongitude=14.42"),
-    Q("-GPS:GPSLongitudeRef=W"),
-    Q("-GPS:GPSAltitude=321.5"),
-    Q("-GPS:GPSDateStamp=2020:02:03"),
-    Q("-GPS:GPSTimeStamp=02:05:06"),
-    Q("-IPTC:CodedCharacterSet=UTF8"),
-    Q("-IPTC:City=Mladá Boleslav"),
-    Q("-IPTC:Keywords=fish"),
-    Q("-IPTC:Keywords=œil"),
-    Q("-IPTC:Caption-Abstract=魚眼"),
-    Q("-XMP-dc:Title=a lake"),
-    Q("-XMP-dc:Title-cs=jezero"),
-    Q("-XMP-dc:Subject=fish"),
-    Q("-XMP-dc:Subject=œil"),
-    Q("-XMP-xmp:Rating=4"),
-    Q("-XMP-photoshop:City=Mladá Boleslav"),
-    Q("-XMP-lr:HierarchicalSubject=place|lake"),
-    Q("-XMP-xmpMM:DocumentID=uuid:0815"),
-    Q("-XMP-iptcExt:PersonInImage=nobody"),
-    Q("-XMP-tiff:Orientation=6"),
-    Q("-XMP-exifEX:LensModel=8 mm"),
-    Q("-XMP-crs:ColorTemperature=5500"),
-    Q("-XMP-aux:SerialNumber=0815"),
-    Q("-IFD0:Orientation=6"),
+    Text("-IFD0:Artist=Jürgen Fisch"),
+    Text("-IFD0:Copyright=all eyes"),
+    Text("-IFD0:ImageDescription=a lake"),
+    Text("-IFD0:ModifyDate=2021:02:03 04:05:06"),
+    Text("-ExifIFD:DateTimeOriginal=2020:02:03 04:05:06"),
+    Text("-ExifIFD:OffsetTimeOriginal=+02:00"),
+    Text("-ExifIFD:UserComment=Küste"),
+    Text("-ExifIFD:FNumber=3.5"),
+    Text("-ExifIFD:ExposureTime=0.004"),
+    Text("-ExifIFD:ISO=400"),
+    Text("-ExifIFD:FocalLength=8"),
+    Text("-ExifIFD:LensModel=a fisheye of 8 mm"),
+    Text("-GPS:GPSLatitude=50.51"),
+    Text("-GPS:GPSLatitudeRef=S"),
+    Text("-GPS:GPSLongitude=14.42"),
+    Text("-GPS:GPSLongitudeRef=W"),
+    Text("-GPS:GPSAltitude=321.5"),
+    Text("-GPS:GPSDateStamp=2020:02:03"),
+    Text("-GPS:GPSTimeStamp=02:05:06"),
+    Text("-IPTC:CodedCharacterSet=UTF8"),
+    Text("-IPTC:City=Mladá Boleslav"),
+    Text("-IPTC:Keywords=fish"),
+    Text("-IPTC:Keywords=œil"),
+    Text("-IPTC:Caption-Abstract=魚眼"),
+    Text("-XMP-dc:Title=a lake"),
+    Text("-XMP-dc:Title-cs=jezero"),
+    Text("-XMP-dc:Subject=fish"),
+    Text("-XMP-dc:Subject=œil"),
+    Text("-XMP-xmp:Rating=4"),
+    Text("-XMP-photoshop:City=Mladá Boleslav"),
+    Text("-XMP-lr:HierarchicalSubject=place|lake"),
+    Text("-XMP-xmpMM:DocumentID=uuid:0815"),
+    Text("-XMP-iptcExt:PersonInImage=nobody"),
+    Text("-XMP-tiff:Orientation=6"),
+    Text("-XMP-exifEX:LensModel=8 mm"),
+    Text("-XMP-crs:ColorTemperature=5500"),
+    Text("-XMP-aux:SerialNumber=0815"),
+    Text("-IFD0:Orientation=6"),
     // What a sound photo has to have.
-    Q("-IFD0:ResolutionUnit=2"),
-    Q("-IFD0:YCbCrPositioning=1"),
-    Q("-ExifIFD:ExifVersion=0232"),
-    Q("-ExifIFD:ComponentsConfiguration=1 2 3 0"),
-    Q("-ExifIFD:FlashpixVersion=0100"),
-    Q("-ExifIFD:ColorSpace=65535"),
+    Text("-IFD0:ResolutionUnit=2"),
+    Text("-IFD0:YCbCrPositioning=1"),
+    Text("-ExifIFD:ExifVersion=0232"),
+    Text("-ExifIFD:ComponentsConfiguration=1 2 3 0"),
+    Text("-ExifIFD:FlashpixVersion=0100"),
+    Text("-ExifIFD:ColorSpace=65535"),
 };
 
 // Fields by "group:name", of each file.
@@ -93,18 +91,19 @@ class Metadata : public ::testing::Test {
     std::string Convert(const QStringList& arguments) {
         std::ostringstream out, err;
         MemoryStore store;
-        EXPECT_EQ(RunConvert(QStringList{Q("varnel-convert"), Q("--camera"), Q("Canon/EOS 5D"),
-                                         Q("--lens"), Q("Sigma/EX 8 mm f:3.5")} +
-                                 arguments,
-                             store, {out, err, false}),
-                  exitAllWritten)
+        EXPECT_EQ(
+            RunConvert(QStringList{Text("varnel-convert"), Text("--camera"), Text("Canon/EOS 5D"),
+                                   Text("--lens"), Text("Sigma/EX 8 mm f:3.5")} +
+                           arguments,
+                       store, {out, err, false}),
+            exitAllWritten)
             << err.str();
         return err.str();
     }
     // One call for all: each takes a fifth of a second.
     QMap<QString, Fields> Read(const QStringList& names) const {
-        QStringList arguments{Q("-q"), Q("-json"), Q("-G1"),       Q("-n"),
-                              Q("-u"), Q("-b"),    Q("-validate"), Q("-all")};
+        QStringList arguments{Text("-q"), Text("-json"), Text("-G1"),       Text("-n"),
+                              Text("-u"), Text("-b"),    Text("-validate"), Text("-all")};
         for (const QString& name : names) {
             arguments += Path(name);
         }
@@ -112,7 +111,7 @@ class Metadata : public ::testing::Test {
         const QJsonArray all = QJsonDocument::fromJson(ExifTool(arguments)).array();
         for (const QJsonValue& file : all) {
             const Fields fields = file.toObject();
-            files[fields[Q("SourceFile")].toString().section(u'/', -1)] = fields;
+            files[fields[Text("SourceFile")].toString().section(u'/', -1)] = fields;
         }
         EXPECT_EQ(files.size(), names.size());
         return files;
@@ -120,7 +119,7 @@ class Metadata : public ::testing::Test {
 
     // Small, and looks like the picture.
     void ExpectThumbnail(const QString& base64, const QString& name) const {
-        const QString path = Path(Q("thumbnail.jpg"));
+        const QString path = Path(Text("thumbnail.jpg"));
         WriteFile(path, QByteArray::fromBase64(base64.section(u':', 1).toLatin1()));
         const LoadedPicture thumbnail = testing::LoadPicture(path);
         const LoadedPicture picture = testing::LoadPicture(Path(name));
@@ -145,11 +144,11 @@ class Metadata : public ::testing::Test {
 
 // Of the file and not of the photo.
 bool IsOfTheFile(const QString& key) {
-    static const QRegularExpression pattern(
-        Q("^(SourceFile$|(ExifTool|System|File|Composite|JFIF|PNG|PNG-pHYs|XMP-varnel|XMP-x|IFD1):"
-          "|IFD0:(BitsPerSample|Compression|FillOrder|ImageHeight|ImageWidth|SubfileType|Predictor|"
-          "PhotometricInterpretation|PlanarConfiguration|RowsPerStrip|SampleFormat|StripByteCounts|"
-          "SamplesPerPixel|StripOffsets|YCbCrPositioning)$)"));
+    static const QRegularExpression pattern(Text(
+        "^(SourceFile$|(ExifTool|System|File|Composite|JFIF|PNG|PNG-pHYs|XMP-varnel|XMP-x|IFD1):"
+        "|IFD0:(BitsPerSample|Compression|FillOrder|ImageHeight|ImageWidth|SubfileType|Predictor|"
+        "PhotometricInterpretation|PlanarConfiguration|RowsPerStrip|SampleFormat|StripByteCounts|"
+        "SamplesPerPixel|StripOffsets|YCbCrPositioning)$)"));
     return pattern.match(key).hasMatch();
 }
 
@@ -158,19 +157,19 @@ QMap<QString, QJsonValue> Told(const Fields& fields, bool isResult) {
     QMap<QString, QJsonValue> values;
     for (auto field = fields.begin(); field != fields.end(); ++field) {
         QString key = field.key();
-        key.replace(Q("IPTC2:"), Q("IPTC:"));  // where a TIFF file has them as Photoshop does
+        key.replace(Text("IPTC2:"), Text("IPTC:"));  // where a TIFF file has them as Photoshop does
         if (!IsOfTheFile(key)) {
             values[key] = field.value();
         }
     }
     if (!isResult) {
-        values[Q("IFD0:Orientation")] = values[Q("XMP-tiff:Orientation")] = 1;
-        if (values.contains(Q("XMP-crs:ColorTemperature"))) {
-            values[Q("XMP-crs:AlreadyApplied")] = true;
+        values[Text("IFD0:Orientation")] = values[Text("XMP-tiff:Orientation")] = 1;
+        if (values.contains(Text("XMP-crs:ColorTemperature"))) {
+            values[Text("XMP-crs:AlreadyApplied")] = true;
         }
-        values[Q("IFD0:Software")] = values[Q("XMP-xmp:CreatorTool")] = Q("Varnel 1.0.0");
-        values[Q("ExifIFD:ExifImageWidth")] = 200;
-        values[Q("ExifIFD:ExifImageHeight")] = 300;
+        values[Text("IFD0:Software")] = values[Text("XMP-xmp:CreatorTool")] = Text("Varnel 1.0.0");
+        values[Text("ExifIFD:ExifImageWidth")] = 200;
+        values[Text("ExifIFD:ExifImageHeight")] = 300;
     }
     return values;
 }
@@ -187,78 +186,81 @@ void ExpectSame(const Fields& photo, const Fields& result) {
 
 TEST_F(Metadata, OfEveryKindSurvivesInEveryType) {
     constexpr const char* photos[] = {"little.jpg", "big.jpg", "photo.png", "photo.tif"};
-    const QByteArray jpeg = testing::Contents(files_.Picture(Q("plain.jpg"), FIF_JPEG, {300, 200}));
+    const QByteArray jpeg =
+        testing::Contents(files_.Picture(Text("plain.jpg"), FIF_JPEG, {300, 200}));
     for (const bool canon : {true, false}) {
         WriteFile(
-            Path(Q(photos[canon ? 0 : 1])),
+            Path(Text(photos[canon ? 0 : 1])),
             QByteArray(jpeg).insert(2, testing::JpegSegment(0xE1, testing::ExifBlock(canon))));
     }
-    files_.Picture(Q(photos[2]), FIF_PNG, {300, 200});
-    files_.Picture(Q(photos[3]), FIF_TIFF, {300, 200});
-    WriteFile(Path(Q("rgb.icc")), testing::RgbProfile());
-    const QStringList quietly{Q("-q"), Q("-q"), Q("-overwrite_original"), Q("-n")};
+    files_.Picture(Text(photos[2]), FIF_PNG, {300, 200});
+    files_.Picture(Text(photos[3]), FIF_TIFF, {300, 200});
+    WriteFile(Path(Text("rgb.icc")), testing::RgbProfile());
+    const QStringList quietly{Text("-q"), Text("-q"), Text("-overwrite_original"), Text("-n")};
     ExifTool(quietly + told +
-             QStringList{Q("-ICC_Profile<=") + Path(Q("rgb.icc")), Path(Q(photos[0])),
-                         Path(Q(photos[1]))});
-    ExifTool(quietly + QStringList{Q("-tagsfromfile"), Path(Q(photos[0])), Q("-all:all"),
-                                   Q("-icc_profile"), Path(Q(photos[2])), Path(Q(photos[3]))});
+             QStringList{Text("-ICC_Profile<=") + Path(Text("rgb.icc")), Path(Text(photos[0])),
+                         Path(Text(photos[1]))});
+    ExifTool(quietly + QStringList{Text("-tagsfromfile"), Path(Text(photos[0])), Text("-all:all"),
+                                   Text("-icc_profile"), Path(Text(photos[2])),
+                                   Path(Text(photos[3]))});
     QStringList names;
     for (const char* const photo : photos) {
-        names += Q(photo);
+        names += Text(photo);
         for (const char* const type : {"jpg", "tif", "png"}) {
-            names += Q(photo) + Q(".as.") + Q(type);
-            EXPECT_EQ(Convert({Q("--output"), Path(names.back()), Path(Q(photo))}), "");
+            names += Text(photo) + Text(".as.") + Text(type);
+            EXPECT_EQ(Convert({Text("--output"), Path(names.back()), Path(Text(photo))}), "");
         }
     }
     const QMap<QString, Fields> all = Read(names);
-    const Fields first = all[Q(photos[0])];
+    const Fields first = all[Text(photos[0])];
     // Not all that was told is lost before the beginning.
     for (const char* const key : {"GPS:GPSLatitude", "Canon:MacroMode", "IPTC:City",
                                   "XMP-lr:HierarchicalSubject", "ICC-header:ColorSpaceData"}) {
-        EXPECT_TRUE(first.contains(Q(key))) << key;
+        EXPECT_TRUE(first.contains(Text(key))) << key;
     }
     for (const QString& name : names) {
-        const QString photo = name.section(Q(".as."), 0, 0);
+        const QString photo = name.section(Text(".as."), 0, 0);
         if (photo == name) {
             continue;
         }
         SCOPED_TRACE(name.toStdString());
         ExpectSame(all[photo], all[name]);
-        const QStringList found = all[name][Q("ExifTool:Validate")].toString().split(u' ');
-        if (!name.endsWith(Q(".tif"))) {  // errors, warnings, and minor ones of them
-            EXPECT_TRUE(found[0] == Q("0") && found.value(1) == found.value(2))
-                << all[name][Q("ExifTool:Warning")].toString().toStdString();
+        const QStringList found = all[name][Text("ExifTool:Validate")].toString().split(u' ');
+        if (!name.endsWith(Text(".tif"))) {  // errors, warnings, and minor ones of them
+            EXPECT_TRUE(found[0] == Text("0") && found.value(1) == found.value(2))
+                << all[name][Text("ExifTool:Warning")].toString().toStdString();
         }
-        if (photo.endsWith(Q(".jpg")) && !name.endsWith(Q(".tif"))) {
-            ExpectThumbnail(all[name][Q("IFD1:ThumbnailImage")].toString(), name);
+        if (photo.endsWith(Text(".jpg")) && !name.endsWith(Text(".tif"))) {
+            ExpectThumbnail(all[name][Text("IFD1:ThumbnailImage")].toString(), name);
         }
     }
 }
 
 TEST_F(Metadata, AreLeftOutOnRequestAndAGreyProfileAlways) {
-    const QByteArray jpeg = testing::Contents(files_.Picture(Q("plain.jpg"), FIF_JPEG));
+    const QByteArray jpeg = testing::Contents(files_.Picture(Text("plain.jpg"), FIF_JPEG));
     const auto profile = [](const QByteArray& bytes) {
         return testing::JpegSegment(0xE2, QByteArray("ICC_PROFILE\0\1\1", 14) + bytes);
     };
-    WriteFile(Path(Q("rgb.jpg")),
+    WriteFile(Path(Text("rgb.jpg")),
               QByteArray(jpeg).insert(2, testing::JpegSegment(0xE1, testing::ExifBlock(true)) +
                                              profile(testing::RgbProfile())));
-    WriteFile(Path(Q("grey.jpg")), QByteArray(jpeg).insert(2, profile(testing::GreyProfile())));
-    const QStringList types{Q("jpg"), Q("tif"), Q("png")};
+    WriteFile(Path(Text("grey.jpg")), QByteArray(jpeg).insert(2, profile(testing::GreyProfile())));
+    const QStringList types{Text("jpg"), Text("tif"), Text("png")};
     QStringList names;
     for (const QString& type : types) {
-        Convert({Q("--no-metadata"), Q("--no-settings"), Q("--output"), Path(Q("rgb.as.") + type),
-                 Path(Q("rgb.jpg"))});
-        Convert({Q("--output"), Path(Q("grey.as.") + type), Path(Q("grey.jpg"))});
-        names += {Q("rgb.as.") + type, Q("grey.as.") + type};
+        Convert({Text("--no-metadata"), Text("--no-settings"), Text("--output"),
+                 Path(Text("rgb.as.") + type), Path(Text("rgb.jpg"))});
+        Convert({Text("--output"), Path(Text("grey.as.") + type), Path(Text("grey.jpg"))});
+        names += {Text("rgb.as.") + type, Text("grey.as.") + type};
     }
     const QMap<QString, Fields> all = Read(names);
     for (const QString& name : names) {
         const QString keys = all[name].keys().join(u' ');
-        EXPECT_EQ(keys.contains(Q("ICC-header:")), name.startsWith(Q("rgb"))) << name.toStdString();
+        EXPECT_EQ(keys.contains(Text("ICC-header:")), name.startsWith(Text("rgb")))
+            << name.toStdString();
         const bool tells = keys.contains(
-            QRegularExpression(Q("IFD0:(Make|Software)|ExifIFD|GPS|IPTC|XMP|Canon|IFD1")));
-        EXPECT_EQ(tells, name.startsWith(Q("grey"))) << name.toStdString();
+            QRegularExpression(Text("IFD0:(Make|Software)|ExifIFD|GPS|IPTC|XMP|Canon|IFD1")));
+        EXPECT_EQ(tells, name.startsWith(Text("grey"))) << name.toStdString();
     }
 }
 

@@ -10,40 +10,40 @@
 #include <QStandardPaths>
 
 #include "tests/support/files.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 class Recipes : public ::testing::Test {
   protected:
     Recipes() {
         QByteArray list;
         for (int n = 0; n < 23; ++n) {
-            list += files_.Picture(Q("photo %1.jpg").arg(n), FIF_JPEG).toUtf8() + '\n';
+            list += files_.Picture(Text("photo %1.jpg").arg(n), FIF_JPEG).toUtf8() + '\n';
         }
-        testing::WriteFile(files_.Path(Q("photos.txt")), list);
-        Run(Q("array-job"), {{"SLURM_ARRAY_TASK_ID", "0"}, {"COUNT", "1"}}, Q("at once"));
-        expected_ = Outputs(Q("at once"));
+        testing::WriteFile(files_.Path(Text("photos.txt")), list);
+        Run(Text("array-job"), {{"SLURM_ARRAY_TASK_ID", "0"}, {"COUNT", "1"}}, Text("at once"));
+        expected_ = Outputs(Text("at once"));
     }
     int Run(const QString& recipe, const QList<std::pair<const char*, const char*>>& variables,
             const QString& folder) {
         QProcess job;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(Q("PATH"), Q(VARNEL_PROGRAMS ":") + environment.value(Q("PATH")));
-        environment.insert(Q("XDG_CONFIG_HOME"), files_.Path(Q("settings")));
-        environment.insert(Q("HOME"), files_.Path({}));
+        environment.insert(Text("PATH"),
+                           Text(VARNEL_PROGRAMS ":") + environment.value(Text("PATH")));
+        environment.insert(Text("XDG_CONFIG_HOME"), files_.Path(Text("settings")));
+        environment.insert(Text("HOME"), files_.Path({}));
         for (const auto& [name, value] : variables) {
-            environment.insert(Q(name), Q(value));
+            environment.insert(Text(name), Text(value));
         }
         job.setProcessEnvironment(environment);
         job.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        job.start(Q(VARNEL_RECIPES "/") + recipe,
-                  {files_.Path(Q("photos.txt")), files_.Path(folder), Q("--camera"),
-                   Q("Canon/EOS 5D"), Q("--lens"), Q("Sigma/EX 8 mm f:3.5")});
+        job.start(Text(VARNEL_RECIPES "/") + recipe,
+                  {files_.Path(Text("photos.txt")), files_.Path(folder), Text("--camera"),
+                   Text("Canon/EOS 5D"), Text("--lens"), Text("Sigma/EX 8 mm f:3.5")});
         job.waitForFinished(120'000);
         return job.exitCode();
     }
@@ -62,22 +62,23 @@ class Recipes : public ::testing::Test {
 TEST_F(Recipes, ArrayTasksTogetherMakeWhatOneRunMakesAndMendWhatIsMissing) {
     ASSERT_EQ(expected_.size(), 23U);
     for (const char* task : {"0", "1", "2"}) {
-        EXPECT_EQ(Run(Q("array-job"), {{"SLURM_ARRAY_TASK_ID", task}, {"COUNT", "3"}}, Q("tasks")),
-                  0);
+        EXPECT_EQ(
+            Run(Text("array-job"), {{"SLURM_ARRAY_TASK_ID", task}, {"COUNT", "3"}}, Text("tasks")),
+            0);
     }
-    EXPECT_TRUE(Outputs(Q("tasks")) == expected_);
-    QFile::remove(files_.Path(Q("tasks/photo 4.Varnel.TIF")));
-    EXPECT_EQ(Run(Q("array-job"), {{"PBS_ARRAY_INDEX", "2"}, {"COUNT", "3"}}, Q("tasks")), 0);
-    EXPECT_TRUE(Outputs(Q("tasks")) == expected_);
-    EXPECT_NE(Run(Q("array-job"), {{"COUNT", "3"}}, Q("tasks")), 0) << "no task number";
+    EXPECT_TRUE(Outputs(Text("tasks")) == expected_);
+    QFile::remove(files_.Path(Text("tasks/photo 4.Varnel.TIF")));
+    EXPECT_EQ(Run(Text("array-job"), {{"PBS_ARRAY_INDEX", "2"}, {"COUNT", "3"}}, Text("tasks")), 0);
+    EXPECT_TRUE(Outputs(Text("tasks")) == expected_);
+    EXPECT_NE(Run(Text("array-job"), {{"COUNT", "3"}}, Text("tasks")), 0) << "no task number";
 }
 
 TEST_F(Recipes, ParallelJobsMakeTheSame) {
-    if (QStandardPaths::findExecutable(Q("parallel")).isEmpty()) {
+    if (QStandardPaths::findExecutable(Text("parallel")).isEmpty()) {
         GTEST_SKIP() << "GNU parallel is not installed";
     }
-    EXPECT_EQ(Run(Q("parallel-job"), {}, Q("parallel")), 0);
-    EXPECT_TRUE(Outputs(Q("parallel")) == expected_);
+    EXPECT_EQ(Run(Text("parallel-job"), {}, Text("parallel")), 0);
+    EXPECT_TRUE(Outputs(Text("parallel")) == expected_);
 }
 
 }  // namespace

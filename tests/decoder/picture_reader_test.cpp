@@ -34,6 +34,9 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
         EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
         EXPECT_EQ(SizeAt(path).height, 40);
+        const LoadedPicture small =
+            ReadPicture(testing::Reader(), {path, ReadKind::Small, {30, 10}});
+        EXPECT_EQ(SizeOf(small.bitmap.get()).width, 15);
         EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).rgbGreen, 25, 4);
     }
 }

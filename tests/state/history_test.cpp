@@ -7,21 +7,20 @@
 
 #include "state/list_order.h"
 #include "state/step_names.h"
+#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
 using Images = RecordArray<ImageRecord>;
 
-QString Q(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::Text;
 
 Images Photos(const char* names) {
     Images images;
     for (const char* name = names; *name != '\0'; ++name) {
         ImageRecord image;
-        image.Folder = Q("/p");
+        image.Folder = Text("/p");
         image.FileName = QChar::fromLatin1(*name);
         images.Append(image);
     }
@@ -43,16 +42,16 @@ std::vector<ImageRecord> All(const Images& images) {
 TEST(History, EveryKindOfChangeGoesBackAndForth) {
     Images images = Photos("abc");
     History history;
-    history.Note(Q("1 add"), images);
+    history.Note(Text("1 add"), images);
     std::vector<std::vector<ImageRecord>> states{{}, All(images)};
     const auto note = [&](const char* name) {
-        history.Note(Q(name), images);
+        history.Note(Text(name), images);
         states.push_back(All(images));
     };
     images(2).RotateY = 10.0F;
     note("2 one");
     for (ImageRecord& image : images) {
-        image.GearName = Q("gear");
+        image.GearName = Text("gear");
     }
     note("3 all");
     std::swap(images(1), images(3));
@@ -61,7 +60,7 @@ TEST(History, EveryKindOfChangeGoesBackAndForth) {
     fewer.Append(images(2));
     images = fewer;
     note("5 remove");
-    history.Note(Q("nothing changed"), images);
+    history.Note(Text("nothing changed"), images);
     for (std::size_t n = states.size() - 1; n-- > 0;) {
         EXPECT_EQ(history.UndoName().front(), QChar::fromLatin1(static_cast<char>('1' + n)));
         ASSERT_TRUE(history.Undo(images));
@@ -75,7 +74,7 @@ TEST(History, EveryKindOfChangeGoesBackAndForth) {
     EXPECT_TRUE(history.RedoName().isEmpty());
     history.Undo(images);
     images(1).RotateX = 1.0F;
-    history.Note(Q("another way"), images);
+    history.Note(Text("another way"), images);
     EXPECT_TRUE(history.RedoName().isEmpty());
 }
 
@@ -85,12 +84,12 @@ TEST(History, SaysWhichLinesChangedAndWherePhotosWere) {
     history.Absorb(images);
     history.MarkSaved({});
     images(1).RotateX = images(3).RotateX = 5.0F;
-    history.Note(Q("turn"), images);
+    history.Note(Text("turn"), images);
     const auto turned = history.Undo(images);
     EXPECT_EQ(turned->changed, (std::vector<int>{0, 2}));
     EXPECT_FALSE(turned->origin);
     images = Photos("dac");
-    history.Note(Q("list"), images);
+    history.Note(Text("list"), images);
     const auto listed = history.Undo(images);
     EXPECT_EQ(Names(images), "abcd");
     EXPECT_EQ(listed->origin, (std::vector<int>{1, -1, 2, 0}));
@@ -103,7 +102,7 @@ TEST(History, MovesOfOneSliderAreOneStepUntilItIsSealed) {
     history.Absorb(images);
     const auto move = [&](float degrees, const StepKey& key) {
         images(1).RotateY = degrees;
-        history.Note(Q("move"), images, key);
+        history.Note(Text("move"), images, key);
     };
     struct {
         StepKey second;
@@ -137,16 +136,16 @@ TEST(History, MovesOfOneSliderAreOneStepUntilItIsSealed) {
 TEST(History, WhatLookingAtAPhotoBringsStays) {
     Images images = Photos("ab");
     History history;
-    history.Note(Q("add"), images);
+    history.Note(Text("add"), images);
     history.MarkSaved({});
     images(1).Width = 60;
     images(1).Height = 40;
-    images(1).GearName = Q("gear");
+    images(1).GearName = Text("gear");
     history.Absorb(images);
     EXPECT_FALSE(history.ChangedSinceSaved());
     images(1).RotateX = 10.0F;
     images(1).OfsetX = 2.0F;
-    history.Note(Q("turn"), images);
+    history.Note(Text("turn"), images);
     // Read again, turned upright now: the centre moved to the top.
     images(1).Width = 40;
     images(1).Height = 60;
@@ -160,7 +159,7 @@ TEST(History, WhatLookingAtAPhotoBringsStays) {
     EXPECT_EQ(images(1).Orientation, 6);
     history.Undo(images);
     history.Redo(images);
-    EXPECT_EQ(images(1).GearName, Q("gear"));
+    EXPECT_EQ(images(1).GearName, Text("gear"));
     history.Redo(images);
     EXPECT_EQ(images(1).OfsetY, 2.0F);
 }
@@ -174,7 +173,7 @@ TEST(History, KeepsABoundedNumberOfStepsAndLines) {
         const int noted = photos == 1 ? 250 : 20;
         for (int n = 1; n <= noted; ++n) {
             images(1).RotateX = images(photos).RotateY = static_cast<float>(n);
-            history.Note(Q("turn"), images);
+            history.Note(Text("turn"), images);
         }
         int undone = 0;
         while (history.Undo(images)) {
@@ -188,14 +187,15 @@ TEST(History, KeepsABoundedNumberOfStepsAndLines) {
 TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
     GearTable table;
     table.Resize(2);
-    table(2).GearName = Q("A");
+    table(2).GearName = Text("A");
     const GearRecord before = table(2);
     table(2).OfsetX = 4.5F;
     const GearRecord after = table(2);
     Images images = Photos("ab");
     History history;
-    history.Note(Q("add"), images);
-    history.Note(Q("circle"), images, {}, {.onAllLines = true, .gear = GearChange{before, after}});
+    history.Note(Text("add"), images);
+    history.Note(Text("circle"), images, {},
+                 {.onAllLines = true, .gear = GearChange{before, after}});
     const auto back = history.Undo(images);
     EXPECT_TRUE(back->changed.empty() && back->besides.onAllLines);
     EXPECT_TRUE(ChangeGear(table, *back->besides.gear));
@@ -208,23 +208,23 @@ TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
     EXPECT_EQ(table(2).OfsetX, 4.5F);
     table.Remove(2);
     EXPECT_FALSE(ChangeGear(table, *back->besides.gear));
-    EXPECT_EQ(history.UndoName(), Q("add"));
+    EXPECT_EQ(history.UndoName(), Text("add"));
 }
 
 TEST(History, AProjectIsAStepAndTakesItsNameBack) {
     Images images = Photos("ab");
     History history;
-    history.Note(Q("add"), images);
+    history.Note(Text("add"), images);
     EXPECT_TRUE(history.ChangedSinceSaved());
     images = Photos("c");
-    history.NoteProject(Q("open"), images, Q("/p/x.varnel"));
+    history.NoteProject(Text("open"), images, Text("/p/x.varnel"));
     EXPECT_FALSE(history.ChangedSinceSaved());
     history.Undo(images);
     EXPECT_EQ(Names(images), "ab");
     EXPECT_EQ(history.Project(), QString());
     EXPECT_TRUE(history.ChangedSinceSaved());
     history.Redo(images);
-    EXPECT_EQ(history.Project(), Q("/p/x.varnel"));
+    EXPECT_EQ(history.Project(), Text("/p/x.varnel"));
     EXPECT_FALSE(history.ChangedSinceSaved());
 }
 
@@ -245,12 +245,12 @@ TEST(StepBetween, NamesTheSliderThatMoved) {
     for (const auto& row : rows) {
         ControlValues after;
         after.*row.value = all.*row.value = 1;
-        EXPECT_EQ(StepBetween(before, after).name, Q(row.name));
+        EXPECT_EQ(StepBetween(before, after).name, Text(row.name));
         EXPECT_EQ(StepBetween(before, after).slider.has_value(),
                   row.value != &ControlValues::projection);
     }
     all.projection = 0;
-    EXPECT_EQ(StepBetween(before, all).name, Q("adjustments"));
+    EXPECT_EQ(StepBetween(before, all).name, Text("adjustments"));
 }
 
 TEST(ListOrder, ChosenLinesMoveTogether) {

@@ -146,6 +146,15 @@ TEST(Undo, RemovedPhotosComeBackAndAnotherPhotosStepShowsThatPhoto) {
     desk.Entry("CmdEditUndo")->trigger();
     EXPECT_EQ(Lines(desk), "a*+bc");
     EXPECT_EQ(desk.Record(2).InputAOV, 150.0F);
+    // What was done to all stays where one is, though this photo was so already.
+    desk.ClickLine(1);
+    desk.Click("OptionRemap_1");
+    desk.Click("CmdApplyAll2");
+    for (const char* entry : {"CmdEditUndo", "CmdEditRedo"}) {
+        desk.Entry(entry)->trigger();
+        EXPECT_EQ(Lines(desk), "ab*+c") << entry;
+    }
+    EXPECT_EQ(desk.Record(3).Projection, desk.Record(2).Projection);
 }
 
 TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {

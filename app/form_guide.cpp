@@ -13,6 +13,8 @@
 #include <QTextList>
 #include <algorithm>
 
+#include "app/named_button.h"
+
 namespace varnel {
 
 namespace {
@@ -37,13 +39,6 @@ void SetOff(QTextDocument& page, const QColor& ground) {
         cursor.setPosition(block.position());
         cursor.mergeBlockFormat(format);
     }
-}
-
-QPushButton* Button(const char* name, const QString& text, const QString& tip, QWidget* parent) {
-    auto* const button = new QPushButton(text, parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(tip);
-    return button;
 }
 
 }  // namespace
@@ -88,9 +83,11 @@ FormGuide::FormGuide(const QString& startPage, QWidget* parent)
     bar->setContentsMargins(9, 0, 9, 0);
     layout->addLayout(bar);
     // In the order of the Tab key.
-    auto* const contents = Button("CmdGuideContents", tr("&Contents"), tr("The first page"), this);
-    auto* const back = Button("CmdGuideBack", tr("&Back"), tr("The page before"), this);
-    auto* const forward = Button("CmdGuideForward", tr("&Forward"), tr("The page after"), this);
+    auto* const contents =
+        NamedButton("CmdGuideContents", tr("&Contents"), tr("The first page"), this);
+    auto* const back = NamedButton("CmdGuideBack", tr("&Back"), tr("The page before"), this);
+    auto* const forward =
+        NamedButton("CmdGuideForward", tr("&Forward"), tr("The page after"), this);
     wanted_ = new QLineEdit(this);
     text_ = new GuideText(this);
     bar->addWidget(contents);

@@ -9,20 +9,10 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "app/named_button.h"
 #include "app/photo_list.h"
 
 namespace varnel {
-
-namespace {
-
-QPushButton* Button(const char* name, const QString& text, const QString& tip, QWidget* parent) {
-    auto* const button = new QPushButton(text, parent);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(tip);
-    return button;
-}
-
-}  // namespace
 
 EquipmentPanel::EquipmentPanel(QWidget* parent)
     : QGroupBox(tr("Equipment"), parent), gears_(new QComboBox(this)) {
@@ -37,8 +27,8 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     gears_->setMinimumContentsLength(16);
     gears_->setFocusPolicy(Qt::StrongFocus);
     gears_->installEventFilter(this);
-    applyToAll_ = Button("CmdApplyAll", tr("Apply to all"),
-                         tr("Every photo in the list was taken with this gear"), this);
+    applyToAll_ = NamedButton("CmdApplyAll", tr("Apply to all"),
+                              tr("Every photo in the list was taken with this gear"), this);
     auto* const grid = new QGridLayout(this);
     grid->addWidget(label, 0, 0, 1, 2);
     grid->addWidget(gears_, 1, 0);
@@ -75,9 +65,9 @@ ImageListPanel::ImageListPanel(QWidget* parent)
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->setMinimumHeight(110);
     list_->setToolTip(tr("Click a photo to work on it; select several to adjust them together"));
-    add_ = Button("Command1", tr("Add image(s)"), tr("Adds photos to the list"), this);
-    remove_ = Button("CmdRemoveImages", tr("Remove image(s)"),
-                     tr("Takes the selected photos off the list; the files stay"), this);
+    add_ = NamedButton("Command1", tr("Add image(s)"), tr("Adds photos to the list"), this);
+    remove_ = NamedButton("CmdRemoveImages", tr("Remove image(s)"),
+                          tr("Takes the selected photos off the list; the files stay"), this);
     auto* const grid = new QGridLayout(this);
     grid->addWidget(list_, 0, 0, 1, 2);
     grid->addWidget(add_, 1, 0);
@@ -106,12 +96,12 @@ std::vector<int> ImageListPanel::SelectedLines() const {
 
 SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
     setObjectName(QStringLiteral("FrameSave"));
-    saveAs_ = Button("CommandSaveFreeimage", tr("Save image as ..."),
-                     tr("Converts the current photo at full size and saves it"), this);
-    addToQueue_ = Button("CommandAddToBatchQue", tr("Add to batch que"),
-                         tr("Queues every photo of the list with its present settings"), this);
-    processQueue_ = Button("CmdBatchProcess", tr("Process batch que"),
-                           tr("Converts and saves everything that is queued"), this);
+    saveAs_ = NamedButton("CommandSaveFreeimage", tr("Save image as ..."),
+                          tr("Converts the current photo at full size and saves it"), this);
+    addToQueue_ = NamedButton("CommandAddToBatchQue", tr("Add to batch que"),
+                              tr("Queues every photo of the list with its present settings"), this);
+    processQueue_ = NamedButton("CmdBatchProcess", tr("Process batch que"),
+                                tr("Converts and saves everything that is queued"), this);
     auto* const grid = new QGridLayout(this);
     grid->addWidget(saveAs_, 0, 0, 1, 2);
     grid->addWidget(addToQueue_, 1, 0);

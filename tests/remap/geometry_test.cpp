@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <bit>
 #include <numbers>
 
@@ -84,7 +85,7 @@ TEST(ImageCentre, OffsetsRoundDownAndOddSidesReachFurtherRight) {
     struct {
         PixelSize size;
         float x, y;
-        CentreAndExtents expected;
+        std::array<int, 6> expected;  // the centre, columns to the left and right, rows down and up
     } const rows[] = {
         {{5, 4}, 0.0F, 0.0F, {2, 2, 2, 3, 2, 2}},
         {{5, 5}, -500.0F, 500.0F, {-1, 0, 5, 6, 4, 5}},  // Int(-2.5) = -3, -Int(2.5) = -2
@@ -92,13 +93,8 @@ TEST(ImageCentre, OffsetsRoundDownAndOddSidesReachFurtherRight) {
         {{1000, 800}, -2.7F, -3.2F, {497, 403, 503, 503, 403, 403}},
     };
     for (const auto& row : rows) {
-        const CentreAndExtents centre = ImageCentre(row.size, row.x, row.y);
-        EXPECT_EQ(centre.cx, row.expected.cx) << row.x;
-        EXPECT_EQ(centre.cy, row.expected.cy) << row.x;
-        EXPECT_EQ(centre.left, row.expected.left) << row.x;
-        EXPECT_EQ(centre.right, row.expected.right) << row.x;
-        EXPECT_EQ(centre.bottom, row.expected.bottom) << row.x;
-        EXPECT_EQ(centre.top, row.expected.top) << row.x;
+        const auto [cx, cy, left, right, bottom, top] = ImageCentre(row.size, row.x, row.y);
+        EXPECT_EQ((std::array{cx, cy, left, right, bottom, top}), row.expected) << row.x;
     }
     EXPECT_THROW(ImageCentre({1000, 1000}, 3e9F, 0.0F), OverflowError);
 }

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <numbers>
-#include <random>
 #include <set>
 #include <string>
 #include <string_view>
@@ -78,14 +77,6 @@ void PrintTo(const Case& given, std::ostream* out) {
 
 class PlacesOf : public ::testing::TestWithParam<Case> {};
 
-BitmapHandle Noise(PixelSize size) {
-    std::mt19937 random(7);
-    return testing::Painted(size, [&](int, int) {
-        const auto level = [&] { return static_cast<BYTE>(random() % 256); };
-        return RGBQUAD{level(), level(), level(), 0};
-    });
-}
-
 // Bytes of a noisy picture read at the places instead of drawn; positions moved by a shift.
 std::pair<int, int> DifferentAndAll(const Case& given, FIBITMAP* source, FIBITMAP* drawn,
                                     double shift) {
@@ -113,7 +104,7 @@ std::pair<int, int> DifferentAndAll(const Case& given, FIBITMAP* source, FIBITMA
 TEST_P(PlacesOf, ReadingThereGivesTheConversionByteForByte) {
     const Case& given = GetParam();
     Bitmaps bitmaps;
-    bitmaps.FullSourceBitmap = Noise(given.size);
+    bitmaps.FullSourceBitmap = testing::Noise(given.size);
     SilentProgress progress;
     RenderDesk desk{bitmaps};
     reference::Render(given.projection, given.record, SizeKind::Large, progress, desk);

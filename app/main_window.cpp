@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -66,7 +67,8 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new GuideTools(this, ports_.notices);
     ConnectControls();
     ConnectSliders();
-    resize(1180, 800);
+    constexpr QSize titleAndFrame(16, 48);
+    resize(QSize(1180, 800).boundedTo(screen()->availableSize() - titleAndFrame));
     RestoreLayout();
     UpdateEnabled();
 }

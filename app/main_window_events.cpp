@@ -181,7 +181,9 @@ void MDIForm1::TakeOffer() {
         desk_->UseGear(offer.gear);
     } else if (!desk_->Busy() && ports_.dialogs.DefineGear(offer.names, this)) {
         ShowGears();
-        view_->ShowStatus(tr("The gear was added; the button gives it to this photo."));
+        if (const int gear = parts_.offer->Offer().gear; gear > 0) {
+            desk_->UseGear(gear);
+        }
     }
 }
 

@@ -21,9 +21,10 @@ QString SampleName() {
     return QStringLiteral("sample-circular.jpg");
 }
 
+// Where its owner finds it, because results are first proposed beside their photos.
 QString SamplePath() {
-    const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-    return QDir(cache).filePath(QStringLiteral("varnel/") + SampleName());
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QDir(pictures).filePath(QStringLiteral("Varnel/") + SampleName());
 }
 
 GearNames SampleGear() {

@@ -2644,10 +2644,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>&amp;About</source>
         <translation>&amp;Info</translation>
     </message>
-    <message>
-        <source>The gear was added; the button gives it to this photo.</source>
-        <translation>Die Ausrüstung wurde hinzugefügt; die Schaltfläche gibt sie diesem Foto.</translation>
-    </message>
 </context>
 <context>
     <name>varnel::PictureArea</name>

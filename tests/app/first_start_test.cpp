@@ -55,7 +55,7 @@ TEST(StartHint, IsLitWhileFilesHoverOverTheWindow) {
 
 TEST(Sample, IsDrawnOnFirstUseAndGetsItsGear) {
     WindowDesk desk;
-    qputenv("XDG_CACHE_HOME", desk.files.Path(Q("cache")).toUtf8());
+    qputenv("HOME", desk.files.Path(Q("home")).toUtf8());
     GearTable& gears = desk.state.Gear;
     gears(0) = gears(1);
     gears(0).CameraModel = Q("EOS 6D");

@@ -105,7 +105,7 @@ void Desk::ShowLine(int line) {
         const Raised busy(busy_);
         if (LoadAndReduce(line)) {
             Preview();
-        } else if (loadTrouble_ != readingCancelled) {
+        } else if (loadTrouble_ != ToldReason(readingCancelled.toString())) {
             TellNotOpened(state_.Images(line + 1));
         }
     }

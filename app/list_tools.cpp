@@ -96,7 +96,7 @@ void ListTools::Cancel() {
 // What is wrong with the photo on the desk, now that nothing is read any more.
 void ListTools::NoteLoaded() {
     const QString path = desk_.CurrentPath();
-    if (path.isEmpty() || view_.Trouble().endsWith(readingCancelled)) {
+    if (path.isEmpty() || view_.Trouble().endsWith(ToldReason(readingCancelled.toString()))) {
         return;
     }
     if (!view_.Trouble().isEmpty()) {

@@ -328,7 +328,11 @@ QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
 
 BatchPorts BatchPortsFor(PhotoFeed& feed) {
     BatchPorts ports;
-    ports.load = [&feed](const QString& path) { return feed.Take(path); };
+    ports.load = [&feed](const QString& path) {
+        LoadedPicture picture = feed.Take(path);
+        picture.reason = ToldReason(picture.reason);
+        return picture;
+    };
     ports.aheadAtMost = feed.Ahead();
     if (ports.aheadAtMost > 0) {
         ports.readAhead = [&feed](const QString& path) { feed.ReadAhead(path); };

@@ -35,6 +35,9 @@ constexpr const char* reasons[] = {
     QT_TRANSLATE_NOOP("Reasons", "the scale"),
     QT_TRANSLATE_NOOP("Reasons", "the effect"),
     QT_TRANSLATE_NOOP("Reasons", "a rotation angle"),
+    QT_TRANSLATE_NOOP("Reasons", "the angle in radians"),
+    QT_TRANSLATE_NOOP("Reasons", "the effective angle of view"),
+    QT_TRANSLATE_NOOP("Reasons", "the circle's radius"),
     QT_TRANSLATE_NOOP("Reasons", "a translation"),
     QT_TRANSLATE_NOOP("Reasons", "a side"),
     QT_TRANSLATE_NOOP("Reasons", "a preview side"),
@@ -84,6 +87,7 @@ constexpr const char* reasons[] = {
                       "too large: %1 x %2 pixels need more than three quarters of this machine's "
                       "memory"),
     QT_TRANSLATE_NOOP("Reasons", "too large for a quick look"),
+    QT_TRANSLATE_NOOP("Reasons", "cancelled"),
     QT_TRANSLATE_NOOP("Reasons", "took too long (more than %1 seconds)"),
     QT_TRANSLATE_NOOP("Reasons", "there is no memory for it to be had (%1)"),
     QT_TRANSLATE_NOOP("Reasons", "the decoder could not be started (%1)"),

@@ -1761,6 +1761,22 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>empty</source>
         <translation>leer</translation>
     </message>
+    <message>
+        <source>the angle in radians</source>
+        <translation>der Winkel im Bogenmaß</translation>
+    </message>
+    <message>
+        <source>the effective angle of view</source>
+        <translation>der wirksame Bildwinkel</translation>
+    </message>
+    <message>
+        <source>the circle&apos;s radius</source>
+        <translation>der Radius des Kreises</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

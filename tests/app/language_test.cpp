@@ -23,9 +23,11 @@
 #include "gear/gear_store.h"
 #include "gear/photo_gear.h"
 #include "pipeline/batch_checks.h"
+#include "pipeline/batch_run.h"
 #include "pipeline/batch_summary.h"
 #include "pipeline/elided_label.h"
 #include "pipeline/morph_sequence.h"
+#include "pipeline/photo_feed.h"
 #include "pipeline/project_file.h"
 #include "state/settings_store.h"
 #include "state/step_names.h"
@@ -146,6 +148,9 @@ TEST(PseudoLanguage, MarksEveryTextOfTheWindowAndCutsNone) {
 TEST(PseudoLanguage, MarksWhatIsTold) {
     const PseudoLanguage pseudo;
     MemoryStore store;
+    const auto reader = NewPictureReader();
+    ReadingWait wait;
+    PhotoFeed feed(*reader, 0, wait, true);
     BatchSummary summary;
     summary.queued = 3;
     summary.failures = {{Q("/a/b.bmp"), ToldReason(Q("the file is empty"))}};
@@ -162,6 +167,8 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
         OpenProject(Q(VARNEL_SOURCES "/README.md")).trouble,
         StepName(SliderId::Z),
         ToldReason("Overflow: TranslateX does not fit 32 bits"),
+        ToldReason(readingCancelled.toString()),
+        BatchPortsFor(feed).load(Q("/no/such.jpg")).reason,
         ToldReason(Q("/x/y: the settings cannot be read (Not a regular file); without a copy they "
                      "begin afresh")),
     };
@@ -183,7 +190,7 @@ TEST(ToldReason, IsTheSameWithoutATranslation) {
 TEST(ToldReason, KnowsEveryReason) {
     const PseudoLanguage pseudo;
     static const QRegularExpression literal(
-        Q("(?:QStringLiteral\\(|Refused\\()\"([a-z][^\"]* [^\"]*)\""));
+        Q("(?:QStringLiteral\\(|Refused\\(|,\\s+(?=\"(?:the|an?|half) ))\"([a-z][^\"]* [^\"]*)\""));
     static const QRegularExpression joint(Q("\"\\s*\"")), format(Q("xmlns|[<>\\[]"));
     static const QStringList assembled{Q("written without %1: %2"), Q("colour profile"),
                                        Q("could not be set aside"), Q("is kept as %1")};

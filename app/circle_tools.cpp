@@ -103,13 +103,13 @@ int CircleTools::GearNumber() {
 void CircleTools::Try(const ImageCircle& circle) {
     trial_ = circle;
     trialPhoto_ = desk_.CurrentPath();
-    asking_ = false;
+    asked_.reset();
     Refresh();
 }
 
 void CircleTools::Reset() {
     trial_.reset();
-    asking_ = false;
+    asked_.reset();
     Refresh();
 }
 
@@ -121,10 +121,10 @@ void CircleTools::Refresh() {
         trial_.reset();
     }
     parts_.pictures->From()->RedrawOverlays();
-    if (asking_ && trial_) {
+    if (trial_ && asked_ && *asked_ == desk_.Current()->GearName) {
         return;  // a new preview does not answer the question
     }
-    asking_ = false;
+    asked_.reset();
     const std::optional<ImageCircle> circle = Shown();
     bar_->ShowNumbers(
         circle ? NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize())) : QString(),
@@ -165,7 +165,7 @@ void CircleTools::Find() {
 
 void CircleTools::Ask() {
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
-        asking_ = true;
+        asked_ = desk_.Current()->GearName;
         bar_->Ask(tr("Change the gear \"%1\" to %2? Photos that are adjusted already keep their "
                      "circle, but for the current one.")
                       .arg(desk_.Current()->GearName,
@@ -174,7 +174,7 @@ void CircleTools::Ask() {
 }
 
 void CircleTools::Decline() {
-    asking_ = false;
+    asked_.reset();
     Refresh();
 }
 

@@ -51,7 +51,7 @@ class CircleTools : public QObject {
     QAction* entry_;
     std::optional<ImageCircle> trial_;
     QString trialPhoto_;
-    bool asking_ = false;  // whether the gear shall have the one on trial
+    std::optional<QString> asked_;  // whether this gear shall have the one on trial
 };
 
 }  // namespace varnel

@@ -55,7 +55,6 @@ UndoTools::~UndoTools() {
     QApplication::instance()->removeEventFilter(this);
 }
 
-// Above what others put into the menu.
 void UndoTools::ShowNames() {
     const auto show = [](QAction* entry, const QString& plain, const QString& named,
                          const QString& step) {

@@ -85,6 +85,16 @@ void AddEveryPhoto(QDialog* dialog) {
     Press(Qt::Key_Space);
 }
 
+void Adjust() {
+    TabTo("OptionRemap_0");
+    Press(Qt::Key_Right);
+    TabTo("SliderY");
+    Press(Qt::Key_Right, {}, 2);
+    TabTo("SpinSliderX");
+    QTest::keyClicks(QApplication::focusWidget(), Q("-7"));
+    Press(Qt::Key_Return);
+}
+
 void RunTheBatch(QDialog* dialog) {
     WaitForKeyboard(dialog);
     Choose("ComboFileType", "BMP");
@@ -125,13 +135,7 @@ TEST(Keyboard, FromTheFirstStartToABatch) {
     }
     ASSERT_EQ(state.Images.UpperBound(), 2);
     back();
-    TabTo("OptionRemap_0");
-    Press(Qt::Key_Right);
-    TabTo("SliderY");
-    Press(Qt::Key_Right, {}, 2);
-    TabTo("SpinSliderX");
-    QTest::keyClicks(QApplication::focusWidget(), Q("-7"));
-    Press(Qt::Key_Return);
+    Adjust();
     EXPECT_EQ(state.Images(1).Projection, 1);
     EXPECT_EQ(state.Images(1).RotateY, 20.0F);
     EXPECT_EQ(state.Images(1).RotateX, -7.0F);

@@ -70,6 +70,9 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
         return RGBQUAD{grey, grey, grey, 0};
     });
     ASSERT_TRUE(FreeImage_Save(FIF_BMP, disc.get(), path.toUtf8().constData()));
+    desk.state.Gear.Resize(2);
+    desk.state.Gear(2).GearName = Q("other");
+    desk.Entry("CmdSetupEquipment")->trigger();
     desk.window.AddFiles({path});
     desk.Entry("CmdViewCircle")->trigger();
     const GearRecord before = desk.state.Gear(1);
@@ -80,6 +83,12 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     desk.Click("CmdCircleTake");
     Key(desk, Qt::Key_Escape);
     EXPECT_TRUE(desk.Find("CmdCircleTake")->isVisible());
+    desk.Click("CmdCircleTake");
+    desk.Press("GearCombo", Qt::Key_Down);
+    QApplication::processEvents();
+    EXPECT_TRUE(desk.Find("CmdCircleTake")->isVisible());  // it was not asked for this gear
+    desk.Press("GearCombo", Qt::Key_Up);
+    QApplication::processEvents();
     desk.Click("CmdCircleTake");
     EXPECT_EQ(desk.state.Gear(1), before);
     Key(desk, Qt::Key_Return);

@@ -27,6 +27,7 @@ int ConvertArguments(const QStringList& files, SettingsStore& store, QDate today
     Options options;
     options.files = files;
     options.force = true;  // who names the files on the command line means it
+    options.advises = false;
     return ConvertPhotos(options, {*gear, {}}, settings, console);
 }
 

@@ -79,34 +79,35 @@ bool KeepsMetadata(const ConversionRun& run) {
 }  // namespace
 
 QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
+    const auto trouble = [&run](QStringView reason, QStringView advice) {
+        return run.options.advises ? QStringLiteral("%1; %2").arg(reason, advice)
+                                   : reason.toString();
+    };
     const QFileInfo file(target);
     if (!file.exists()) {
         return {};
     }
     if (file.isDir()) {
-        return QStringLiteral("this is a folder; give the name of a file, or --output-dir");
+        return trouble(u"this is a folder", u"give the name of a file, or --output-dir");
     }
     if (SameFile(target, photo.path)) {
-        return QStringLiteral(
-            "this is the photo itself; --output or --output-dir names another place");
+        return trouble(u"this is the photo itself",
+                       u"--output or --output-dir names another place");
     }
     // One that is yet to be converted, say: "varnel *" where an earlier result lies.
     if (run.photos.Contains(target)) {
-        return QStringLiteral(
-            "this is one of the photos to convert; --output-dir names another place");
+        return trouble(u"this is one of the photos to convert",
+                       u"--output-dir names another place");
     }
     if (run.written.contains(file.canonicalFilePath())) {
-        return QStringLiteral(
-            "another photo of this command was written there; convert them into different folders");
+        return trouble(u"another photo of this command was written there",
+                       u"convert them into different folders");
     }
     if (!run.options.force) {
-        return QStringLiteral(
-            "the file exists; --force replaces it, --skip-existing leaves it alone");
+        return trouble(u"the file exists", u"--force replaces it, --skip-existing leaves it alone");
     }
-    return photo.damaged ? QStringLiteral(
-                               "a damaged photo does not replace an existing file; --output or "
-                               "--output-dir names "
-                               "another place")
+    return photo.damaged ? trouble(u"a damaged photo does not replace an existing file",
+                                   u"--output or --output-dir names another place")
                          : QString();
 }
 

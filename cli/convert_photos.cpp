@@ -251,7 +251,8 @@ class Conversions {
         } catch (const RunTimeError& error) {
             FailedResult(report, QString::fromUtf8(error.what()));
         } catch (const std::bad_alloc&) {
-            FailedResult(report, QStringLiteral("there is not enough memory; --jobs 1 takes less"));
+            FailedResult(report, QStringLiteral("there is not enough memory") +
+                                     Advice(QStringLiteral("; --jobs 1 takes less")));
         }
     }
 
@@ -265,6 +266,8 @@ class Conversions {
             return SaveTo(run_, target, result, saveRunner_);
         });
     }
+
+    QString Advice(const QString& text) const { return run_.options.advises ? text : QString(); }
 
     void FinishWriting() {
         if (!writing_) {
@@ -280,7 +283,7 @@ class Conversions {
         writing_.reset();
         if (!saved) {
             report.size = {};
-            FailedResult(report, saved.reason + ResultAdvice(report.result, saved.reason));
+            FailedResult(report, saved.reason + Advice(ResultAdvice(report.result, saved.reason)));
             return;
         }
         const QFileInfo file(report.result);

@@ -60,7 +60,8 @@ struct Options {
     bool skipExisting = false;
     std::optional<int> jobs;  // cores to use; none: all
     bool quiet = false;
-    bool json = false;  // what is told of each result goes to out as JSON, all else to err
+    bool advises = true;  // troubles name the options that help; off for a program without them
+    bool json = false;    // what is told of each result goes to out as JSON, all else to err
 };
 
 // The options, or one line that says what is wrong with the command line. The first argument is the

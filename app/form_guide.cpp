@@ -66,12 +66,6 @@ QVariant GuideText::loadResource(int type, const QUrl& name) {
     return picture;
 }
 
-void GuideText::doSetSource(const QUrl& page, QTextDocument::ResourceType type) {
-    QTextBrowser::doSetSource(page, type);
-    document()->setDocumentMargin(margin);
-    SetOff(*document(), palette().color(QPalette::AlternateBase));
-}
-
 FormGuide::FormGuide(const QString& startPage, QWidget* parent)
     : QDialog(parent, Qt::Window), startPage_(startPage) {
     setObjectName(QStringLiteral("FormGuide"));
@@ -108,6 +102,11 @@ void FormGuide::PrepareText() {
     text_->setAccessibleName(tr("Page of the guide"));
     // Pictures are made to fit before the length of the page is known.
     text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    // Said on the ways back and forward, too, which do not go through doSetSource.
+    connect(text_, &QTextBrowser::sourceChanged, text_, [this] {
+        text_->document()->setDocumentMargin(margin);
+        SetOff(*text_->document(), text_->palette().color(QPalette::AlternateBase));
+    });
 }
 
 void FormGuide::PrepareSearch() {

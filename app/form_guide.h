@@ -21,9 +21,6 @@ class GuideText : public QTextBrowser {
   public:
     using QTextBrowser::QTextBrowser;
     QVariant loadResource(int type, const QUrl& name) override;
-
-  protected:
-    void doSetSource(const QUrl& page, QTextDocument::ResourceType type) override;
 };
 
 class FormGuide : public QDialog {

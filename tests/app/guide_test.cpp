@@ -121,8 +121,12 @@ TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
     EXPECT_EQ(text->textCursor().selectedText(), Q("orthographic"));
     find("no such word anywhere");
     EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    const double margin = text->document()->documentMargin();
     click("CmdGuideBack");
     EXPECT_EQ(page(), Q("index.md"));
+    EXPECT_EQ(text->document()->documentMargin(), margin);
+    EXPECT_EQ(text->document()->lastBlock().blockFormat().lineHeightType(),
+              QTextBlockFormat::LineDistanceHeight);
     click("CmdGuideForward");
     EXPECT_EQ(page(), Q("unlisted-lens.md"));
     click("CmdGuideContents");

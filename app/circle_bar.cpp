@@ -11,6 +11,9 @@ namespace varnel {
 CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this)) {
     setObjectName(QStringLiteral("BarCircle"));
     text_->setObjectName(QStringLiteral("LabelCircle"));
+    text_->setToolTip(
+        tr("The middle of the circle, in thousandths of the photo's width and height, "
+           "and the sensor's width in percent of the circle's diameter"));
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the rest is the pictures'

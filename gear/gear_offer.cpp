@@ -19,6 +19,18 @@ QString Text(const char* text) {
     return QCoreApplication::translate("GearOffer", text);
 }
 
+// Pictures of an unlisted camera may well have another shape without any cropping.
+void AddDoubts(const ImageRecord& image, bool isUnlisted, GearOffer& offer) {
+    const QString doubt = ShapeTrouble(image);
+    if (isUnlisted) {
+        offer.line += Text(QT_TRANSLATE_NOOP("GearOffer", " (camera not in the list)"));
+    } else if (!doubt.isEmpty()) {
+        offer.line += Text(QT_TRANSLATE_NOOP("GearOffer", " (cropped?)"));
+    }
+    const bool hasBoth = !offer.reason.isEmpty() && !doubt.isEmpty();
+    offer.reason += (hasBoth ? QStringLiteral("\n") : QString()) + doubt;
+}
+
 }  // namespace
 
 GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image) {
@@ -44,9 +56,8 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Imag
         if (!current.cameraModel.isEmpty()) {
             offer.trouble = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
         }
-    } else if (const QString doubt = ShapeTrouble(image); !doubt.isEmpty()) {
-        offer.line += Text(QT_TRANSLATE_NOOP("GearOffer", " (cropped?)"));
-        offer.reason += (offer.reason.isEmpty() ? QString() : QStringLiteral("\n")) + doubt;
+    } else {
+        AddDoubts(image, photo.lack == GearLack::KnownCamera, offer);
     }
     return offer;
 }

@@ -1130,6 +1130,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Not this photo&apos;s gear</source>
         <translation>Nicht die Ausrüstung dieses Fotos</translation>
     </message>
+    <message>
+        <source> (camera not in the list)</source>
+        <translation> (Kamera nicht in der Liste)</translation>
+    </message>
 </context>
 <context>
     <name>GearStore</name>
@@ -2169,6 +2173,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The middle of the circle, in thousandths of the photo&apos;s width and height, and the sensor&apos;s width in percent of the circle&apos;s diameter</source>
+        <translation>Die Mitte des Kreises in Tausendsteln der Breite und der Höhe des Fotos und die Breite des Sensors in Prozent des Kreisdurchmessers</translation>
     </message>
 </context>
 <context>

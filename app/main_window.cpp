@@ -68,7 +68,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     ConnectControls();
     ConnectSliders();
     constexpr QSize titleAndFrame(16, 48);
-    resize(QSize(1180, 800).boundedTo(screen()->availableSize() - titleAndFrame));
+    resize(QSize(1180, 1040).boundedTo(screen()->availableSize() - titleAndFrame));
     RestoreLayout();
     UpdateEnabled();
 }

@@ -70,8 +70,9 @@ QString NotesSection(const std::vector<BatchTrouble>& notes) {
         u'\n';
     for (std::size_t n = 0; n < lines.size(); ++n) {
         const QString file =
-            counts[n] == 1 ? lines[n].file
-                           : Texts::tr("%1 and %2 more").arg(lines[n].file).arg(counts[n] - 1);
+            counts[n] == 1
+                ? lines[n].file
+                : Texts::tr("%1 and %2 more").arg(lines[n].file, QString::number(counts[n] - 1));
         text += QStringLiteral("  ") + LineOf({file, lines[n].reason}) + u'\n';
     }
     return text;

@@ -92,7 +92,7 @@ QString NameFor(const QString& path, const QByteArray& bytes, const QDateTime& n
         path + QStringLiteral(".damaged-") + now.toString(QStringLiteral("yyyy-MM-ddTHH-mm-ss"));
     QString name = dated;
     for (int n = 2; QFileInfo::exists(name) && !Holds(name, bytes) && n < mostNames; ++n) {
-        name = QStringLiteral("%1-%2").arg(dated).arg(n);
+        name = dated + u'-' + QString::number(n);
     }
     return name;
 }

@@ -261,13 +261,13 @@ TEST(SummaryText, WhatSeveralFilesAreWithoutStandsOnceWithTheFirst) {
     BatchSummary summary;
     summary.folder = Text("/out");
     summary.queued = summary.done = 4;
-    summary.notes = {{Text("a"), Text("no IPTC")},
+    summary.notes = {{Text("50%1"), Text("no IPTC")},
                      {Text("b"), Text("no XMP")},
                      {Text("c"), Text("no IPTC")},
                      {Text("d"), Text("no IPTC")}};
     EXPECT_EQ(SummaryText(summary),
               Text("0 of 4 images written into /out\n\n4 files do not hold everything:\n"
-                   "  a and 2 more: no IPTC\n  b: no XMP\n"));
+                   "  50%1 and 2 more: no IPTC\n  b: no XMP\n"));
 }
 
 // Runs with real files, read from "in" and written into "out".

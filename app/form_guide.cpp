@@ -132,10 +132,10 @@ void FormGuide::ConnectWays(QPushButton* contents, QPushButton* back, QPushButto
     connect(text_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
 }
 
-// The dialog would press a button as well.
+// The dialog would press its first button from anywhere, and so leave the page that is read.
 void FormGuide::keyPressEvent(QKeyEvent* event) {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isReturn || focusWidget() != wanted_) {
+    if (!isReturn || qobject_cast<QPushButton*>(focusWidget()) != nullptr) {
         QDialog::keyPressEvent(event);
     }
 }

@@ -128,6 +128,9 @@ TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
     EXPECT_EQ(text->document()->lastBlock().blockFormat().lineHeightType(),
               QTextBlockFormat::LineDistanceHeight);
     click("CmdGuideForward");
+    text->moveCursor(QTextCursor::Start);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_Return);
     EXPECT_EQ(page(), Q("unlisted-lens.md"));
     click("CmdGuideContents");
     EXPECT_EQ(page(), Q("index.md"));

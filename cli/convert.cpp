@@ -46,9 +46,7 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     return ConvertPhotos(options, std::get<GearChoice>(gears), LoadSettings(store), console);
 }
 
-}  // namespace
-
-int RunConvert(const QStringList& arguments, SettingsStore& store, const Console& console) {
+int Run(const QStringList& arguments, SettingsStore& store, const Console& console) {
     const auto parsed = ParseOptions(arguments);
     if (const auto* error = std::get_if<QString>(&parsed)) {
         return Refuse(console, *error);
@@ -71,6 +69,17 @@ int RunConvert(const QStringList& arguments, SettingsStore& store, const Console
         return Refuse(console, *error);
     }
     return Show(console, std::get<QStringList>(list).join(u'\n') + u'\n');
+}
+
+}  // namespace
+
+int RunConvert(const QStringList& arguments, SettingsStore& store, const Console& console) {
+    const int exitCode = Run(arguments, store, console);
+    if (console.out.flush()) {
+        return exitCode;
+    }
+    Complain(console, QStringLiteral("the standard output could not be written"));
+    return exitCode == exitAllWritten ? exitSomeFailed : exitCode;
 }
 
 }  // namespace varnel

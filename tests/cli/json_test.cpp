@@ -93,6 +93,10 @@ TEST_F(Json, TellsOfEveryResultInOrder) {
               std::string::npos)
         << err_.str();
     EXPECT_EQ(Lines().at(0)[u"status"].toString(), Q("failed"));
+    // A disk that is full, say.
+    out_.setstate(std::ios::badbit);
+    EXPECT_EQ(Run({Q("--force"), odd}), exitSomeFailed);
+    EXPECT_NE(err_.str().find("the standard output could not be written"), std::string::npos);
 }
 
 TEST_F(Json, ARefusedCommandLinePrintsNothing) {

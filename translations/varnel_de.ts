@@ -1101,7 +1101,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Half-way resolution %1</source>
-        <translation>Auflösung halbwegs %1</translation>
+        <translation>Auflösung auf halbem Weg %1</translation>
     </message>
     <message>
         <source>Centre resolution %1</source>

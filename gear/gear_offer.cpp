@@ -7,12 +7,26 @@
 #include <algorithm>
 #include <cmath>
 
+#include "gear/camera_catalogue.h"
+
 namespace varnel {
 
 namespace {
 
 bool HasCameraOf(const GearNames& one, const GearNames& other) {
     return one.cameraBrand == other.cameraBrand && one.cameraModel == other.cameraModel;
+}
+
+// Whether the record's gear is told apart from the photo's by the camera's name alone: the camera
+// matters by the size of its sensor.
+bool ServesAsWell(const GearNames& photo, const ImageRecord& image) {
+    constexpr float tolerance = 0.01F;
+    const auto near = [](float a, float b) { return std::fabs(a - b) <= tolerance * b; };
+    const auto camera = FindCamera(photo.cameraBrand, photo.cameraModel);
+    return camera && near(image.SensorWidth, camera->sensorWidth) &&
+           near(image.SensorHeight, camera->sensorHeight) &&
+           (photo.lensModel.isEmpty() ||
+            (photo.lensBrand == image.LensBrand && photo.lensModel == image.LensModel));
 }
 
 QString Text(const char* text) {
@@ -52,7 +66,8 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Imag
     }
     const bool otherCamera =
         !photo.names.cameraModel.isEmpty() && !HasCameraOf(photo.names, current);
-    if (offer.gear > 0 || offer.define || otherCamera) {
+    const bool isOther = offer.gear > 0 || offer.define || otherCamera;
+    if (isOther && !ServesAsWell(photo.names, image)) {
         if (!current.cameraModel.isEmpty()) {
             offer.trouble = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
         }

@@ -17,7 +17,7 @@ struct GearOffer {
     bool define = false;  // a gear may be defined from the names
     GearNames names;
     QString reason;   // why it is offered, or why nothing is
-    QString trouble;  // the gear in use is not the one that took the photo; empty when it may be
+    QString trouble;  // the gear in use does not fit the photo; empty when it may
 
     bool operator==(const GearOffer&) const = default;
 };

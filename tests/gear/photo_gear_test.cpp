@@ -309,6 +309,13 @@ TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
         {nikonPhoto, canonSigma, 2, false, "Taken with NIKON D7100, Sigma EX 4.5 mm f:2.8"},
         {nikonPhoto, nikonSigma, 0, false, "Taken with NIKON D7100, Sigma EX 4.5 mm f:2.8",
          " (cropped?)"},
+        // Another camera with the same sensor will do.
+        {nikonPhoto,
+         {Q("Nikon"), Q("D7000"), nikonSigma.lensBrand, nikonSigma.lensModel},
+         2,
+         false,
+         "Taken with NIKON D7100, Sigma EX 4.5 mm f:2.8",
+         " (cropped?)"},
         {Taken("NIKON", "NIKON D50", "10.5 mm f/2.8"), canonSigma, 0, true,
          "Taken with NIKON D50, 10.5 mm f/2.8"},
         {Taken("SONY", "ILCE-7S", "----"), canonSigma, 0, true, "Taken with SONY ILCE-7S"},

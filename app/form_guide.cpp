@@ -13,6 +13,7 @@
 #include <QTextList>
 #include <algorithm>
 
+#include "app/first_size.h"
 #include "app/named_button.h"
 
 namespace varnel {
@@ -70,7 +71,7 @@ FormGuide::FormGuide(const QString& startPage, QWidget* parent)
     : QDialog(parent, Qt::Window), startPage_(startPage) {
     setObjectName(QStringLiteral("FormGuide"));
     setWindowTitle(tr("Varnel user guide"));
-    resize(860, 760);
+    resize(FirstSize(*this, {860, 760}));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 6, 0, 0);
     auto* const bar = new QHBoxLayout;

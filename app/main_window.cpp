@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -18,6 +17,7 @@
 #include <algorithm>
 
 #include "app/circle_tools.h"
+#include "app/first_size.h"
 #include "app/frame_tools.h"
 #include "app/guide_tools.h"
 #include "app/level_tools.h"
@@ -67,8 +67,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new GuideTools(this, ports_.notices);
     ConnectControls();
     ConnectSliders();
-    constexpr QSize titleAndFrame(16, 48);
-    resize(QSize(1180, 1040).boundedTo(screen()->availableSize() - titleAndFrame));
+    resize(FirstSize(*this, {1180, 1040}));
     RestoreLayout();
     UpdateEnabled();
 }

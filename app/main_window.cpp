@@ -67,7 +67,8 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     new GuideTools(this, ports_.notices);
     ConnectControls();
     ConnectSliders();
-    resize(FirstSize(*this, {1180, 1040}));
+    // Sliders without scrolling, pictures side by side.
+    resize(FirstSize(*this, {1400, 1040}));
     RestoreLayout();
     UpdateEnabled();
 }

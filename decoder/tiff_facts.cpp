@@ -110,9 +110,10 @@ class TiffWalk {
         auto operator<=>(const Waiting&) const = default;
     };
 
+    // 0 unless all of its bytes are there.
     std::uint64_t Number(const QByteArray& bytes, std::int64_t at, std::int64_t size) const {
         std::uint64_t number = 0;
-        for (std::int64_t i = 0; i < size && at + i < bytes.size(); ++i) {
+        for (std::int64_t i = 0; i < size && at + size <= bytes.size(); ++i) {
             const auto byte = static_cast<std::uint64_t>(static_cast<unsigned char>(
                 bytes.at(static_cast<qsizetype>(bigEndian_ ? at + i : at + size - 1 - i))));
             number = number << 8 | byte;

@@ -18,6 +18,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTest>
+#include <QTreeView>
 
 #include "app/main_window.h"
 #include "app/message_boxes.h"
@@ -112,8 +113,11 @@ Answers::Answer RunBatchInto(const char* picture) {
         }));
         QTest::mouseClick(Find<QPushButton>(dialog, "CmdNewFolder"), Qt::LeftButton);
         // The tree makes the folder and edits its name, which may stay.
-        EXPECT_TRUE(QTest::qWaitFor(
-            [] { return qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr; }));
+        const auto* const tree = dialog->findChild<QTreeView*>();
+        EXPECT_TRUE(QTest::qWaitFor([tree] {
+            const auto* const edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+            return edit != nullptr && tree->isAncestorOf(edit);
+        }));
         if (QWidget* const name = QApplication::focusWidget()) {
             QTest::keyClick(name, Qt::Key_Return);
         }

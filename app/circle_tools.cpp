@@ -9,6 +9,7 @@
 #include <cmath>
 #include <new>
 
+#include "app/menu_entry.h"
 #include "gear/gear_store.h"
 #include "pipeline/photo_circle.h"
 
@@ -42,9 +43,8 @@ CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowVi
       store_(store),
       overlay_([this] { return Shown(); }, [this](const ImageCircle& circle) { Try(circle); }),
       bar_(new CircleBar(parts.pictures->parentWidget())),
-      entry_(parts.viewMenu->addAction(tr("&Image circle"))) {
-    entry_->setObjectName(QStringLiteral("CmdViewCircle"));
-    entry_->setShortcut(Qt::CTRL | Qt::Key_I);
+      entry_(AddMenuEntry(parts.viewMenu, "CmdViewCircle", tr("&Image circle"),
+                          {Qt::CTRL | Qt::Key_I})) {
     entry_->setCheckable(true);
     bar_->hide();
     parts_.pictures->parentWidget()->layout()->addWidget(bar_);

@@ -3,18 +3,17 @@
 
 #include "app/guide_tools.h"
 
-#include <QAction>
 #include <QCoreApplication>
-#include <QMenu>
+
+#include "app/menu_entry.h"
 
 namespace varnel {
 
 GuideTools::GuideTools(QMainWindow* window, Notices& notices)
     : QObject(window), window_(window), notices_(notices) {
     auto* const about = window->findChild<QAction*>(QStringLiteral("CmdAboutAbout"));
-    auto* const entry = qobject_cast<QMenu*>(about->parent())->addAction(tr("User &guide"));
-    entry->setObjectName(QStringLiteral("CmdGuide"));
-    entry->setShortcut(QKeySequence::HelpContents);
+    QAction* const entry = AddMenuEntry(qobject_cast<QMenu*>(about->parent()), "CmdGuide",
+                                        tr("User &guide"), {QKeySequence::HelpContents});
     connect(entry, &QAction::triggered, this, &GuideTools::Show);
 }
 

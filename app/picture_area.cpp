@@ -9,8 +9,6 @@ namespace varnel {
 
 namespace {
 
-constexpr int margin = 12;              // logical pixels around and between the pictures
-constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
 constexpr QColor warningAmber(255, 213, 79);
 
 }  // namespace
@@ -41,7 +39,7 @@ PictureArea::PictureArea(QWidget* parent)
     trouble_->hide();
     setAutoFillBackground(true);
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, surround);
+    colours.setColor(QPalette::Window, pictureSurround);
     setPalette(colours);
 }
 
@@ -71,15 +69,15 @@ void PictureArea::SetRoomy(bool roomy) {
 QSize PictureArea::Room() const {
     const int acrossPictures = SideBySide() ? 2 : 1;
     const int downPictures = SideBySide() ? 1 : 2;
-    return {(width() - margin * (acrossPictures + 1)) / acrossPictures,
-            (height() - margin * (downPictures + 1)) / downPictures};
+    return {(width() - pictureMargin * (acrossPictures + 1)) / acrossPictures,
+            (height() - pictureMargin * (downPictures + 1)) / downPictures};
 }
 
 void PictureArea::Place() {
     const QSize room = Room().expandedTo({1, 1});
     const QSize box = roomy_ ? room : wanted_.boundedTo(room);
-    const QSize step =
-        SideBySide() ? QSize(box.width() + margin, 0) : QSize(0, box.height() + margin);
+    const QSize step = SideBySide() ? QSize(box.width() + pictureMargin, 0)
+                                    : QSize(0, box.height() + pictureMargin);
     const QSize both = box + step;
     const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
     from_->setGeometry(QRect(corner, box));

@@ -18,9 +18,7 @@ namespace varnel {
 
 namespace {
 
-constexpr int margin = 12;              // logical pixels around and between the pictures
-constexpr double hitReach = 7.0;        // logical pixels
-constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
+constexpr double hitReach = 7.0;  // logical pixels
 constexpr QColor emptyBox(84, 84, 84);
 constexpr double panShare = 0.125;  // of the view, with an arrow key
 
@@ -146,11 +144,12 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     if (image.isNull()) {
         painter.fillRect(rect(), emptyBox);
         painter.setPen(QColor(225, 225, 225));
-        painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
-                         Qt::AlignCenter | Qt::TextWordWrap, hintShown_ ? hint_ : QString());
+        painter.drawText(
+            rect().adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
+            Qt::AlignCenter | Qt::TextWordWrap, hintShown_ ? hint_ : QString());
         return;
     }
-    painter.fillRect(rect(), surround);
+    painter.fillRect(rect(), pictureSurround);
     if (Zoomed()) {
         for (const QRect& region : event->region()) {
             PaintZoomed(painter, region);
@@ -186,7 +185,7 @@ void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
         QRectF(QPointF(region.topLeft()) * ratio + grid, QSizeF(region.size()) * ratio)
             .toAlignedRect();
     QImage part(device.size(), QImage::Format_RGB32);
-    part.fill(surround);
+    part.fill(pictureSurround);
     const PartPlace place{zoom_->Corner() - device.topLeft(), zoom_->Scale()};
     const FullPicture full = Source().full_ ? Source().full_() : FullPicture{};
     if (full.bitmap == nullptr || full.rows != nullptr) {

@@ -4,6 +4,7 @@
 // One of the two pictures of the main window, whole or in part.
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QMouseEvent>
 #include <QTransform>
@@ -17,6 +18,10 @@
 #include "remap/part_render.h"
 
 namespace varnel {
+
+// Around pictures: neutral, so that it does not tint what one sees.
+inline constexpr QColor pictureSurround(96, 96, 96);
+inline constexpr int pictureMargin = 12;  // logical pixels around and between pictures
 
 // What of a picture is there at full size.
 struct FullPicture {

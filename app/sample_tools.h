@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The File menu's last entry: the sample photo, to try Varnel without one of one's own. It is made
-// on first use by the program beside this one and kept among the user's cached files.
+// on first use by the program beside this one, into the folder Varnel of the user's pictures.
 #pragma once
 
 #include <QObject>

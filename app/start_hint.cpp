@@ -7,11 +7,12 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "app/picture_box.h"
+
 namespace varnel {
 
 namespace {
 
-constexpr QColor surround(96, 96, 96);  // as around the pictures
 constexpr QColor litSurround(112, 112, 112);
 constexpr QColor textColour(235, 235, 235);
 constexpr QColor frameColour(170, 170, 170);
@@ -61,10 +62,10 @@ QLabel* StartHint::AddLabel(const char* name, const QString& text) {
 
 void StartHint::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), surround);
+    painter.fillRect(rect(), pictureSurround);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(lit_ ? textColour : frameColour, lit_ ? 3.0 : 2.0, Qt::DashLine));
-    painter.setBrush(lit_ ? litSurround : surround);
+    painter.setBrush(lit_ ? litSurround : pictureSurround);
     painter.drawRoundedRect(rect().adjusted(margin, margin, -margin, -margin), 12.0, 12.0);
 }
 

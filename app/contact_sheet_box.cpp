@@ -76,7 +76,7 @@ void ContactSheetBox::DrawNext() {
     QImage& picture = pictures_[next_];
     try {
         const BitmapHandle bitmap = TilePicture(tiles_[next_], source_.get(), smooth_);
-        picture = ImageOf(bitmap.get()).copy();
+        picture = ImageOf(bitmap.get());
         picture.setDevicePixelRatio(devicePixelRatioF());
     } catch (const RunTimeError&) {
         picture = QImage();  // stays empty, as its preview would

@@ -4,18 +4,22 @@
 #include "remap/paint.h"
 
 #include <QPainter>
+#include <algorithm>
 
 namespace varnel {
 
+// Row by row: an image over the bitmap's memory, turned over by QImage, may still be over that
+// memory, as one of a single pixel is.
 QImage ImageOf(FIBITMAP* bitmap) {
     if (bitmap == nullptr) {
         return {};
     }
     const PixelSize size = SizeOf(bitmap);
-    const QImage upsideDown(FreeImage_GetBits(bitmap), size.width, size.height,
-                            static_cast<qsizetype>(FreeImage_GetPitch(bitmap)),
-                            QImage::Format_BGR888);
-    return upsideDown.mirrored();
+    QImage image(size.width, size.height, QImage::Format_BGR888);
+    for (int y = 0; y < image.height(); ++y) {
+        std::ranges::copy(ScanLine(bitmap, size.height - 1 - y), image.scanLine(y));
+    }
+    return image;
 }
 
 int PaintBitmapToDC(FIBITMAP* bitmap, QPainter& painter, int x, int y) {

@@ -33,9 +33,9 @@ void Show(QWidget& form, const Look& look) {
     look(form);
 }
 
-void ShowMainWindow(WindowDesk& desk, const Look& look) {
+void ShowMainWindow(WindowDesk& desk, const Look& look, PixelSize photo) {
     Show(desk.window, look);
-    desk.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, {300, 200});
+    desk.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, photo);
     desk.Click("CommandAddToBatchQue");
     for (const char* const projection : {"OptionRemap_0", "OptionRemap_1", "OptionRemap_2"}) {
         desk.Click(projection);
@@ -99,9 +99,9 @@ void ShowToolForms(WindowDesk& desk, const Look& look) {
 
 }  // namespace
 
-void ShowEveryForm(const Look& look) {
+void ShowEveryForm(const Look& look, PixelSize photo) {
     WindowDesk desk;
-    ShowMainWindow(desk, look);
+    ShowMainWindow(desk, look, photo);
     FormAbout about;
     Show(about, look);
     // A page without links, which Tab would visit.

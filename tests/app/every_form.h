@@ -7,9 +7,11 @@
 #include <QWidget>
 #include <functional>
 
+#include "remap/geometry.h"
+
 namespace varnel::testing {
 
 // Looks at each form while it is shown; at some of them in several states.
-void ShowEveryForm(const std::function<void(QWidget& form)>& look);
+void ShowEveryForm(const std::function<void(QWidget& form)>& look, PixelSize photo = {300, 200});
 
 }  // namespace varnel::testing

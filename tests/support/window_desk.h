@@ -127,7 +127,9 @@ class SlowReader : public PictureReader {
 
 class WindowDesk {
   public:
-    WindowDesk() : window(state, store, {photos, notices, prompt, chooser, dialogs}) {
+    // The list's small pictures come when there is a reader for them.
+    explicit WindowDesk(const NewSmallReader& newSmallReader = nullptr)
+        : window(state, store, {photos, notices, prompt, chooser, dialogs, newSmallReader}) {
         window.resize(1200, 900);
         window.show();
         QApplication::processEvents();

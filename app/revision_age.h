@@ -12,8 +12,17 @@
 
 namespace varnel {
 
+struct Release {
+    QDate date;               // its year and month count
+    QString downloadAddress;  // of newer ones; may be empty
+};
+
+// The one that this program is, as the build says.
+Release ThisRelease();
+
 // The text to show, if any. Keeps the age in months in the store, so that one call in each new
 // month answers; a clock that was set back changes nothing. To be called once at each start.
-std::optional<QString> CheckRevisionAge(SettingsStore& store, QDate today);
+std::optional<QString> CheckRevisionAge(SettingsStore& store, QDate today,
+                                        const Release& release = ThisRelease());
 
 }  // namespace varnel

@@ -157,7 +157,7 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
     summary.notes = {{Q("/a/c.bmp"), ToldReason(Q("written without its XMP: too long for a JPEG "
                                                   "file; BMP files hold no settings"))}};
     const QString texts[] = {
-        *CheckRevisionAge(store, QDate(2024, 1, 1)),
+        *CheckRevisionAge(store, QDate(2100, 1, 1)),
         NoGearText(),
         GearOfPhoto({}, {}).said,
         SpaceWarning(2, 1),

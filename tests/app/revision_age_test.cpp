@@ -20,6 +20,8 @@ void PrintTo(const Start& start, std::ostream* out) {
     *out << start.name;
 }
 
+const Release release{{2023, 1, 1}, QStringLiteral("https://varnel.example/download")};
+
 constexpr QLatin1StringView section("Revision");
 constexpr QLatin1StringView key("RevisionAge");
 
@@ -31,7 +33,7 @@ TEST_P(CheckRevisionAgeAt, TellsOnceInEachNewMonth) {
     if (start.stored != nullptr) {
         store.Save(section, key, QString::fromLatin1(start.stored));
     }
-    const std::optional<QString> text = CheckRevisionAge(store, start.today);
+    const std::optional<QString> text = CheckRevisionAge(store, start.today, release);
     EXPECT_EQ(text.has_value(), start.told != 0);
     if (text) {
         EXPECT_TRUE(text->contains(QStringLiteral("more than %1 months old.").arg(start.told)))
@@ -40,7 +42,7 @@ TEST_P(CheckRevisionAgeAt, TellsOnceInEachNewMonth) {
     EXPECT_EQ(store.Contains(section, key), start.after != nullptr);
     EXPECT_EQ(store.Get(section, key, {}), QString::fromLatin1(start.after));
     // The second start of the same day says and changes nothing.
-    EXPECT_FALSE(CheckRevisionAge(store, start.today));
+    EXPECT_FALSE(CheckRevisionAge(store, start.today, release));
     EXPECT_EQ(store.Get(section, key, {}), QString::fromLatin1(start.after));
 }
 
@@ -63,13 +65,31 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CheckRevisionAge, SpeaksInSixLines) {
     MemoryStore store;
-    EXPECT_EQ(CheckRevisionAge(store, {2023, 8, 1}),
+    EXPECT_EQ(CheckRevisionAge(store, {2023, 8, 1}, release),
               QStringLiteral("This version of Varnel is now more than 7 months old.\n"
                              "An updated revision is likely available.\n"
                              "It is recommended that you upgrade the executable file.\n"
                              "\n"
                              "Upgraded executables may be downloaded from\n"
                              "https://varnel.example/download"));
+}
+
+TEST(CheckRevisionAge, SendsNobodyToAnAddressThatThereIsNot) {
+    MemoryStore store;
+    EXPECT_EQ(CheckRevisionAge(store, {2023, 8, 1}, {release.date, {}}),
+              QStringLiteral("This version of Varnel is now more than 7 months old.\n"
+                             "An updated revision is likely available.\n"
+                             "It is recommended that you upgrade the executable file."));
+}
+
+TEST(CheckRevisionAge, CountsFromTheReleaseThatWasBuilt) {
+    MemoryStore store;
+    const QDate date = ThisRelease().date;
+    ASSERT_TRUE(date.isValid());
+    EXPECT_FALSE(CheckRevisionAge(store, date));
+    EXPECT_EQ(store.Get(section, key, {}), QStringLiteral("0"));
+    EXPECT_FALSE(CheckRevisionAge(store, date.addMonths(6)));
+    EXPECT_TRUE(CheckRevisionAge(store, date.addMonths(7)));
 }
 
 }  // namespace

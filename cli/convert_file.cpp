@@ -30,16 +30,18 @@ OutputType TypeFor(const Options& options, const GeneralSettings& settings) {
 
 QString TargetName(const ConversionRun& run, const QString& path, const ImageRecord& record,
                    OutputType type) {
+    const PhotoEnding ending = run.options.keepEnding ? PhotoEnding::Kept : PhotoEnding::Cut;
     if (!run.options.output.isEmpty()) {
         return run.options.output;
     }
     if (!run.options.outputDir.isEmpty()) {
-        return BatchName(record, run.options.outputDir, {}, type);
+        return BatchName(record, run.options.outputDir, {}, type, ending);
     }
     if (run.options.morph) {  // the frames have nothing but their batch names to tell them apart
-        return QDir::cleanPath(BatchName(record, QFileInfo(path).path(), {}, type));
+        return QDir::cleanPath(BatchName(record, QFileInfo(path).path(), {}, type, ending));
     }
-    return ProposedName(path, ProjectionFromIndex(record.Projection)) + ExtensionOf(type);
+    return ProposedName(path, ToText(ProjectionFromIndex(record.Projection)), ending) +
+           ExtensionOf(type);
 }
 
 MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
@@ -76,12 +78,36 @@ bool KeepsMetadata(const ConversionRun& run) {
     return run.settings.WriteMetadata && !run.options.noMetadata;
 }
 
+QString Trouble(const Options& options, QStringView reason, QStringView advice) {
+    return options.advises ? QStringLiteral("%1; %2").arg(reason, advice) : reason.toString();
+}
+
+QString NameTrouble(const Options& options, const QString& photo, const QString& first) {
+    if (SameFile(photo, first)) {
+        return Trouble(options, u"the same photo has this result already",
+                       u"give each photo and projection once");
+    }
+    const bool endingsDiffer =
+        QFileInfo(photo).fileName().compare(QFileInfo(first).fileName(), Qt::CaseInsensitive) != 0;
+    return Trouble(
+        options,
+        QStringLiteral("%1 was not converted, %2 of this command has the same result name")
+            .arg(photo, first),
+        endingsDiffer && !options.keepEnding
+            ? u"--keep-ending tells them apart"
+            : u"convert them into different folders (--keep-ending tells only endings apart)");
+}
+
 }  // namespace
+
+QString TakeName(ConversionRun& run, const QString& photo, const QString& target) {
+    const QString first = run.names.Take(target, photo);
+    return first.isEmpty() ? QString() : NameTrouble(run.options, photo, first);
+}
 
 QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
     const auto trouble = [&run](QStringView reason, QStringView advice) {
-        return run.options.advises ? QStringLiteral("%1; %2").arg(reason, advice)
-                                   : reason.toString();
+        return Trouble(run.options, reason, advice);
     };
     const QFileInfo file(target);
     if (!file.exists()) {
@@ -99,9 +125,8 @@ QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString&
         return trouble(u"this is one of the photos to convert",
                        u"--output-dir names another place");
     }
-    if (run.written.contains(file.canonicalFilePath())) {
-        return trouble(u"another photo of this command was written there",
-                       u"convert them into different folders");
+    if (const QString first = run.written.value(file.canonicalFilePath()); !first.isEmpty()) {
+        return NameTrouble(run.options, photo.path, first);  // through a link, say
     }
     if (!run.options.force) {
         return trouble(u"the file exists", u"--force replaces it, --skip-existing leaves it alone");

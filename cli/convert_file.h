@@ -4,11 +4,12 @@
 // One photo, one projection, one file.
 #pragma once
 
-#include <QSet>
+#include <QHash>
 #include <QString>
 
 #include "cli/choose_gear.h"
 #include "cli/options.h"
+#include "cli/taken_names.h"
 #include "pipeline/file_set.h"
 #include "pipeline/photo_loader.h"
 #include "remap/render.h"
@@ -24,9 +25,10 @@ struct ConversionRun {
     const GeneralSettings& settings;
     RenderProgress& progress;
     BlockRunner& runner;
-    FileSet photos;              // those of the run
-    QSet<QString> written = {};  // canonical names of the files written so far
-    FileSeries series = {};      // those files
+    FileSet photos;  // those of the run
+    TakenNames names = {};
+    QHash<QString, QString> written = {};  // photos by the canonical names of their results
+    FileSeries series = {};                // those results
 };
 
 // A photo that was read, and the record that its conversions start from.
@@ -55,6 +57,10 @@ struct ConversionTarget {
 // Throws RunTimeError when a number of the record cannot stand in a name.
 ConversionTarget TargetFor(const ConversionRun& run, const QString& path,
                            const ImageRecord& record);
+
+// Why a photo cannot have a result of that name; empty when it has now taken it. An earlier photo
+// of the run may have the name, whether its result was written, lay there already or failed.
+QString TakeName(ConversionRun& run, const QString& photo, const QString& target);
 
 // Why nothing is written there; empty when it may be. Never replaces a photo or a result of the
 // run, an older file only with --force, and not even then by a conversion of a damaged photo.

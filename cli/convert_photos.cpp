@@ -139,9 +139,12 @@ class Conversions {
 
     // Those that come before the file of that number.
     void TellSkipped(qsizetype n) {
-        if (run_.options.json && !skipped_[n].empty()) {
-            FinishWriting();
-            for (const FileReport& report : skipped_[n]) {
+        for (const FileReport& report : skipped_[n]) {
+            if (report.status == FileStatus::Failed) {
+                FinishWriting();
+                reports_.Failed(report);
+            } else if (run_.options.json) {
+                FinishWriting();
                 reports_.Skipped(report);
             }
         }
@@ -226,6 +229,11 @@ class Conversions {
             if (writing_ && MayBeSameFile(writing_->target.file, target.file)) {
                 FinishWriting();
             }
+            if (const QString trouble = TakeName(run_, photo.path, target.file);
+                !trouble.isEmpty()) {
+                FailedResult(report, trouble);
+                return;
+            }
             if (run_.options.skipExisting && QFileInfo::exists(target.file)) {
                 SkippedResult(report);
                 return;
@@ -287,7 +295,7 @@ class Conversions {
             return;
         }
         const QFileInfo file(report.result);
-        run_.written.insert(file.canonicalFilePath());
+        run_.written.insert(file.canonicalFilePath(), report.photo);
         report.bytes = file.size();
         report.notes += saved.note.isEmpty() ? QStringList() : QStringList(saved.note);
         ++written_;

@@ -50,6 +50,8 @@ constexpr std::array outputRows{
     OptionRow{u"output", u"FILE", u"The file to write, for one photo and one projection."},
     OptionRow{u"output-dir", u"DIR",
               u"The folder to write to, under names that tell the settings."},
+    OptionRow{u"keep-ending", nullptr,
+              u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
     OptionRow{u"type", u"TYPE",
               u"tiff, jpeg, bmp or png; default: the ending of --output, else the setting."},
     OptionRow{u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."},

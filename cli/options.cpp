@@ -134,6 +134,7 @@ Options Take(const QCommandLineParser& parser) {
     options.antialiased = parser.isSet(QStringLiteral("antialiased"));
     options.output = FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("output")));
     options.outputDir = parser.value(QStringLiteral("output-dir"));
+    options.keepEnding = parser.isSet(QStringLiteral("keep-ending"));
     TakeIfSet(parser, u"type", options.type, &TypeOf);
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);
@@ -230,6 +231,10 @@ void CheckTogether(const Options& options) {
         throw UsageError{
             QStringLiteral("--output takes one photo and one projection; use "
                            "--output-dir for more")};
+    }
+    if (!options.output.isEmpty() && options.keepEnding) {
+        throw UsageError{
+            QStringLiteral("--output is the whole name of the file; leave --keep-ending out")};
     }
     if (!options.type && IsOtherPictureName(options.output)) {
         throw UsageError{

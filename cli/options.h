@@ -50,6 +50,7 @@ struct Options {
     bool antialiased = false;
     QString output;
     QString outputDir;
+    bool keepEnding = false;
     std::optional<OutputType> type;
     std::optional<int> quality;
     std::optional<bool> chroma444;

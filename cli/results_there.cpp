@@ -16,8 +16,7 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record) {
     return report;
 }
 
-std::vector<FileReport> ResultsThere(const ConversionRun& run, PhotoLoader& photos,
-                                     const QString& file) {
+std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, const QString& file) {
     const bool nameTellsGear = !run.options.outputDir.isEmpty() || run.options.morph;
     if (!run.gears.forAll && nameTellsGear) {
         return {};  // only the photo itself tells what its results are called
@@ -33,13 +32,16 @@ std::vector<FileReport> ResultsThere(const ConversionRun& run, PhotoLoader& phot
         for (const ImageRecord& record : RecordsFor(run, start)) {
             results.push_back(ReportOf(file, record));
             results.back().result = TargetFor(run, file, record).file;
-            results.back().status = FileStatus::Skipped;
             if (!QFileInfo::exists(results.back().result)) {
                 return {};
             }
         }
     } catch (const RunTimeError&) {
         return {};
+    }
+    for (FileReport& result : results) {
+        result.reason = TakeName(run, file, result.result);
+        result.status = result.reason.isEmpty() ? FileStatus::Skipped : FileStatus::Failed;
     }
     return results;
 }

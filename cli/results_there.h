@@ -14,9 +14,9 @@ namespace varnel {
 // Photo, projection and gear of a conversion.
 FileReport ReportOf(const QString& photo, const ImageRecord& record);
 
-// All of the photo's results as skipped ones, if every one lies there; else none. The photo is not
+// All of the photo's results, if under every one's name a file lies already: as skipped ones, or as
+// failed ones where the name is that of an earlier photo's result. Else none. The photo is not
 // decoded, only its size is looked up.
-std::vector<FileReport> ResultsThere(const ConversionRun& run, PhotoLoader& photos,
-                                     const QString& file);
+std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, const QString& file);
 
 }  // namespace varnel

@@ -27,10 +27,20 @@ QString TurnTag(const char16_t* tag, float degrees) {
                            : QString::fromUtf16(tag) + Whole(degrees, "a rotation angle");
 }
 
+// Of a name or of a path, whose folders stay as they are.
+QString Stem(const QString& path, PhotoEnding ending) {
+    constexpr qsizetype letters = 3;
+    if (ending == PhotoEnding::Kept) {
+        return path + u'.';
+    }
+    const qsizetype name = path.size() - (path.lastIndexOf(u'/') + 1);
+    return name < letters ? path : path.chopped(letters);
+}
+
 }  // namespace
 
-QString ProposedName(const QString& sourcePath, const QString& addition) {
-    return sourcePath.chopped(qMin<qsizetype>(3, sourcePath.size())) + addition;
+QString ProposedName(const QString& sourcePath, const QString& addition, PhotoEnding ending) {
+    return Stem(sourcePath, ending) + addition;
 }
 
 QString ProposedName(const QString& sourcePath, Projection projection) {
@@ -58,9 +68,9 @@ QString SettingsTags(const ImageRecord& image) {
 }
 
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
-                  OutputType type) {
+                  OutputType type, PhotoEnding ending) {
     const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
-    QString name = place + image.FileName.chopped(qMin<qsizetype>(3, image.FileName.size()));
+    QString name = place + Stem(image.FileName, ending);
     name += additions.For(ProjectionFromIndex(image.Projection));
     if (!image.NameSuffix.isEmpty()) {
         name += u'_' + image.NameSuffix;

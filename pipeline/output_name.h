@@ -12,9 +12,16 @@
 
 namespace varnel {
 
-// The name that a single save proposes: the source path without its last three characters (the dot
-// of the old extension stays), followed by the addition.
-QString ProposedName(const QString& sourcePath, const QString& addition);
+// What becomes of the ending of the photo's own name. Cut are the last three characters, so that
+// the dot of an extension stays: "IMG.jpg" gives "IMG.", "IMG.tiff" gives "IMG.t"; names of one or
+// two characters are left whole, as cutting them would lead out of the folder. Kept gives
+// "IMG.jpg.", which tells IMG.jpg and IMG.png apart.
+enum class PhotoEnding { Cut, Kept };
+
+// The name that a single save proposes: the source path with its ending treated so, followed by the
+// addition.
+QString ProposedName(const QString& sourcePath, const QString& addition,
+                     PhotoEnding ending = PhotoEnding::Cut);
 // With the projection's name.
 QString ProposedName(const QString& sourcePath, Projection projection);
 
@@ -29,9 +36,9 @@ struct NameAdditions {
 // to three digits.
 QString SettingsTags(const ImageRecord& image);
 
-// The full path of a batch entry's file in a folder: file name without its last three characters,
+// The full path of a batch entry's file in a folder: file name with its ending treated so,
 // addition, "_" and suffix if there is one, tags, extension.
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
-                  OutputType type);
+                  OutputType type, PhotoEnding ending = PhotoEnding::Cut);
 
 }  // namespace varnel

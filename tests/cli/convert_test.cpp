@@ -147,7 +147,7 @@ TEST_F(Convert, OneFileUnderTwoNamesIsNotWrittenTwice) {
     for (const char* jobs : {"1", "2"}) {
         QFile::remove(files_.Path(Q("IMG.Varnel.TIF")));
         EXPECT_EQ(RunWithGear({Q("--jobs"), Q(jobs), photo, other}), exitSomeFailed);
-        EXPECT_TRUE(ErrorHas("another photo of this command was written there")) << jobs;
+        EXPECT_TRUE(ErrorHas("the same photo has this result already; give each")) << jobs;
         EXPECT_EQ(Lines().size(), 1);
     }
 }
@@ -195,11 +195,62 @@ TEST_F(Convert, ANumberThatNoNameCanHoldEndsOnlyItsPhoto) {
 }
 
 TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
-    const QString first = files_.Picture(Q("IMG.png"), FIF_PNG);
-    const QString second = files_.Picture(Q("IMG.bmp"), FIF_BMP);
-    EXPECT_EQ(RunWithGear({Q("--force"), first, second}), exitSomeFailed);
-    EXPECT_EQ(Lines().size(), 1);
-    EXPECT_TRUE(ErrorHas("another photo of this command was written there"));
+    for (const char* folder : {"a", "b", "out"}) {
+        QDir(files_.Path({})).mkdir(Q(folder));
+    }
+    const QString photo = files_.Picture(Q("a/y.jpg"), FIF_JPEG);
+    const struct {
+        QString other;
+        const char* advice;
+    } pairs[] = {{files_.Picture(Q("a/y.png"), FIF_PNG), "--keep-ending tells them apart"},
+                 {files_.Picture(Q("b/y.jpg"), FIF_JPEG), "into different folders"}};
+    const QString folder = files_.Path(Q("out"));
+    const QStringList all{Q("--projection=all"), Q("--output-dir"), folder};
+    for (const auto& [other, advice] : pairs) {
+        const QString refused = Q("/y.Varnel.TIF: ") + other + Q(" was not converted, ") + photo +
+                                Q(" of this command has the same result name; ");
+        for (const char* option : {"--force", "--skip-existing", "--quiet"}) {
+            QDir(folder).removeRecursively();
+            QDir().mkdir(folder);
+            // Once with nothing in the folder, once with all the results of an earlier run, once
+            // with some of them.
+            for (const bool removes : {false, false, true}) {
+                if (removes) {
+                    QFile::remove(folder + Q("/y.Horizon.TIF"));
+                }
+                EXPECT_EQ(RunWithGear(all + QStringList{Q(option), photo, other}), exitSomeFailed);
+                EXPECT_TRUE(ErrorHas(qPrintable(refused)) && ErrorHas(advice)) << err_.str();
+                EXPECT_EQ(FilesIn(Q("out")).size(), 4);
+            }
+        }
+    }
+    for (const char* jobs : {"--jobs=1", "--jobs=2"}) {
+        EXPECT_EQ(RunWithGear({Q(jobs), Q("--keep-ending"), Q("--skip-existing"), Q("--output-dir"),
+                               folder, photo, pairs[0].other}),
+                  exitAllWritten)
+            << err_.str();
+    }
+    EXPECT_TRUE(FilesIn(Q("out")).contains(Q("y.jpg.Varnel.TIF")));
+    EXPECT_TRUE(FilesIn(Q("out")).contains(Q("y.png.Varnel.TIF")));
+    EXPECT_EQ(RunWithGear({Q("--keep-ending"), photo}), exitAllWritten);
+    EXPECT_EQ(Lines(), QStringList{photo + Q(".Varnel.TIF")});
+    EXPECT_EQ(RunWithGear({Q("--keep-ending"), Q("--morph=2"), photo}), exitAllWritten);
+    EXPECT_EQ(Lines().value(1), photo + Q(".Varnel_Morph0002.TIF"));
+    // As on a card that does not tell small from capital letters.
+    QFile::link(folder + Q("/y.Varnel.TIF"), folder + Q("/Y.Varnel.TIF"));
+    EXPECT_EQ(RunWithGear({Q("--skip-existing"), Q("--output-dir"), folder, photo,
+                           files_.Picture(Q("a/Y.png"), FIF_PNG)}),
+              exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("/a/Y.png was not converted, "));
+    // No photo has no results.
+    EXPECT_EQ(RunWithGear({files_.Text(Q("b/z.aae")), files_.Picture(Q("b/z.png"), FIF_PNG)}),
+              exitSomeFailed);
+    EXPECT_EQ(Lines(), QStringList{files_.Path(Q("b/z.Varnel.TIF"))});
+    // All of one photo's results under one name.
+    EXPECT_EQ(RunWithGear({Q("--projection=all"), Q("--skip-existing"), Q("--set=Projection=1"),
+                           pairs[0].other}),
+              exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("a/y.Rectilinear.TIF: the same photo has this result already"));
 }
 
 TEST_F(Convert, WithoutAGearItSaysHowToGiveOne) {

@@ -54,12 +54,15 @@ class Json : public ::testing::Test {
 
 TEST_F(Json, TellsOfEveryResultInOrder) {
     const QString odd = files_.Picture(Q("a \"b\"\n\xC3\xA4\\.png"), FIF_PNG);
-    const QStringList photos{odd, files_.Path(Q("none.png")),
+    const QStringList photos{odd,
+                             files_.Path(Q("none.png")),
                              files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), FIF_BMP), 70),
                              files_.Picture(Q("there.png"), FIF_PNG),
+                             files_.Picture(Q("there.jpg"), FIF_JPEG),
                              files_.Picture(Q("last.png"), FIF_PNG)};
-    const char* const statuses[] = {"converted", "converted", "failed",    "damaged",  "damaged",
-                                    "skipped",   "skipped",   "converted", "converted"};
+    const char* const statuses[] = {"converted", "converted", "failed",   "damaged",
+                                    "damaged",   "skipped",   "skipped",  "failed",
+                                    "failed",    "converted", "converted"};
     for (const char* jobs : {"--jobs=1", "--jobs=3"}) {
         for (const QString& name : QDir(files_.Path({})).entryList({Q("*.BMP")}, QDir::Files)) {
             if (name.contains(u"Varnel") || name.contains(u"Morph")) {
@@ -71,8 +74,8 @@ TEST_F(Json, TellsOfEveryResultInOrder) {
         EXPECT_EQ(Run(QStringList{Q(jobs), Q("--morph=2"), Q("--skip-existing")} + photos),
                   exitSomeFailed);
         const QList<QJsonObject> lines = Lines();
-        ASSERT_EQ(lines.size(), 9) << out_.str();
-        for (int n = 0; n < 9; ++n) {
+        ASSERT_EQ(lines.size(), 11) << out_.str();
+        for (int n = 0; n < 11; ++n) {
             EXPECT_EQ(lines[n][u"status"].toString(), Q(statuses[n])) << n;
         }
         EXPECT_EQ(lines[0][u"file"].toString(), odd);
@@ -85,6 +88,8 @@ TEST_F(Json, TellsOfEveryResultInOrder) {
         EXPECT_TRUE(lines[2][u"result"].isNull() && lines[2][u"bytes"].isNull());
         EXPECT_TRUE(lines[3][u"reason"].toString().startsWith(u"damaged: "));
         EXPECT_TRUE(lines[5][u"result"].toString().endsWith(u"there.Varnel_Morph0001.BMP"));
+        EXPECT_EQ(lines[7][u"result"], lines[5][u"result"]);
+        EXPECT_TRUE(lines[7][u"reason"].toString().contains(u"/there.png of this command has"));
     }
     // People read the same on the other stream, a line each, with the line break shown.
     EXPECT_EQ(Run({odd}), exitAllWritten);

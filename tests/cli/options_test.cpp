@@ -22,7 +22,7 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
         "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
         "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
         "--antialiased --output-dir out --type png --quality 80 --chroma 444 --no-metadata --force "
-        "--no-auto-orient --jobs 3 --quiet a.jpg b.jpg");
+        "--no-auto-orient --keep-ending --jobs 3 --quiet a.jpg b.jpg");
     ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
     const Options& options = std::get<Options>(parsed);
     EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
@@ -40,7 +40,7 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
     EXPECT_EQ(options.chroma444, true);
     EXPECT_EQ(std::get<Options>(Parse("p --chroma 420 a")).chroma444, false);
     EXPECT_TRUE(options.antialiased && options.force && options.quiet && options.noMetadata &&
-                options.noAutoOrient);
+                options.noAutoOrient && options.keepEnding);
     EXPECT_EQ(options.files.size(), 2);
     EXPECT_EQ(options.jobs, 3);
 }
@@ -104,6 +104,7 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --camera Canon/EOS a", "give --lens BRAND/MODEL too"},
         {"p --gear g --camera A/B --lens C/D a", "exclude each other"},
         {"p --output x --output-dir y a", "exclude each other"},
+        {"p --output x --keep-ending a", "leave --keep-ending out"},
         {"p --output x a b", "use --output-dir for more"},
         {"p --output x --projection all a", "use --output-dir for more"},
         {"p --output x.gif a", "end the name in .tif, .jpg, .bmp or .png, or give --type"},

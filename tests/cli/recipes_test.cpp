@@ -29,7 +29,7 @@ class Recipes : public ::testing::Test {
         expected_ = Outputs(Text("at once"));
     }
     int Run(const QString& recipe, const QList<std::pair<const char*, const char*>>& variables,
-            const QString& folder) {
+            const QString& folder, const QStringList& more = {}) {
         QProcess job;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(Text("PATH"),
@@ -41,9 +41,11 @@ class Recipes : public ::testing::Test {
         }
         job.setProcessEnvironment(environment);
         job.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        job.start(Text(VARNEL_RECIPES "/") + recipe,
-                  {files_.Path(Text("photos.txt")), files_.Path(folder), Text("--camera"),
-                   Text("Canon/EOS 5D"), Text("--lens"), Text("Sigma/EX 8 mm f:3.5")});
+        job.start(
+            Text(VARNEL_RECIPES "/") + recipe,
+            QStringList{files_.Path(Text("photos.txt")), files_.Path(folder), Text("--camera"),
+                        Text("Canon/EOS 5D"), Text("--lens"), Text("Sigma/EX 8 mm f:3.5")} +
+                more);
         job.waitForFinished(120'000);
         return job.exitCode();
     }
@@ -79,6 +81,23 @@ TEST_F(Recipes, ParallelJobsMakeTheSame) {
     }
     EXPECT_EQ(Run(Text("parallel-job"), {}, Text("parallel")), 0);
     EXPECT_TRUE(Outputs(Text("parallel")) == expected_);
+}
+
+TEST_F(Recipes, PhotosThatWouldHaveOneResultAreRefusedBeforeAnyIsConverted) {
+    testing::WriteFile(files_.Path(Text("photos.txt")),
+                       (files_.Path(Text("photo 1.jpg")) + u'\n' +
+                        files_.Picture(Text("photo 1.png"), FIF_PNG) + u'\n')
+                           .toUtf8());
+    const bool hasParallel = !QStandardPaths::findExecutable(Text("parallel")).isEmpty();
+    for (const char* recipe : {"array-job", "parallel-job"}) {
+        const QList<std::pair<const char*, const char*>> task{{"SGE_TASK_ID", "1"}, {"COUNT", "1"}};
+        EXPECT_EQ(Run(Text(recipe), task, Text(recipe)), 2);
+        EXPECT_EQ(Outputs(Text(recipe)).size(), 0U);
+        if (hasParallel || recipe[0] == 'a') {
+            EXPECT_EQ(Run(Text(recipe), task, Text(recipe), {Text("--keep-ending")}), 0);
+            EXPECT_EQ(Outputs(Text(recipe)).size(), 2U);
+        }
+    }
 }
 
 }  // namespace

@@ -54,12 +54,35 @@ TEST(WithExtension, IsAppendedUnlessAlreadyThere) {
     }
 }
 
-TEST(ProposedName, TheDotOfTheOldExtensionStays) {
-    EXPECT_EQ(ProposedName(Text("/p/IMG_0001.jpg"), Projection::Rectilinear),
-              Text("/p/IMG_0001.Rectilinear"));
-    EXPECT_EQ(ProposedName(Text("IMG.tiff"), Projection::Varnel), Text("IMG.tVarnel"));
-    EXPECT_EQ(ProposedName(Text("ab"), Projection::Horizon), Text("Horizon"));
-    EXPECT_EQ(ProposedName(Text("/p/IMG.jpg"), Text("Stretch")), Text("/p/IMG.Stretch"));
+TEST(OutputNames, TheDotOfTheOldExtensionStaysAndNoNameLeadsOutOfItsFolder) {
+    const struct {
+        const char *name, *cut, *kept;
+    } rows[] = {
+        {"IMG_0001.jpg", "IMG_0001.Horizon", "IMG_0001.jpg.Horizon"},
+        {"IMG.tiff", "IMG.tHorizon", "IMG.tiff.Horizon"},
+        {"01", "01Horizon", "01.Horizon"},
+        {"7", "7Horizon", "7.Horizon"},
+        {"123", "Horizon", "123.Horizon"},
+        {".jpg", ".Horizon", ".jpg.Horizon"},
+        {"a. ", "Horizon", "a. .Horizon"},
+        {"a\nb\"%1.jpg", "a\nb\"%1.Horizon", "a\nb\"%1.jpg.Horizon"},
+    };
+    for (const auto& [name, cut, kept] : rows) {
+        ImageRecord image;
+        image.FileName = Text(name);
+        image.Projection = static_cast<std::int16_t>(Projection::Horizon);
+        for (const bool keeps : {false, true}) {
+            const PhotoEnding ending = keeps ? PhotoEnding::Kept : PhotoEnding::Cut;
+            const QString expected = Text(keeps ? kept : cut);
+            EXPECT_EQ(ProposedName(image.FileName, Text("Horizon"), ending), expected);
+            EXPECT_EQ(ProposedName(Text("/p/") + image.FileName, Text("Horizon"), ending),
+                      Text("/p/") + expected);
+            EXPECT_EQ(BatchName(image, Text("/o"), {}, OutputType::Png, ending),
+                      Text("/o/") + expected + Text(".PNG"));
+        }
+    }
+    EXPECT_EQ(ProposedName(Text("/p/IMG.jpg"), Projection::Rectilinear),
+              Text("/p/IMG.Rectilinear"));
 }
 
 struct Entry {

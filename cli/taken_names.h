@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Whose results the names of one run are. Two photos of one name, or of names that differ in their
+// endings alone, would have one result; what lies on the disk cannot tell of which of them it is.
+#pragma once
+
+#include <QMultiHash>
+#include <QString>
+
+namespace varnel {
+
+class TakenNames {
+  public:
+    // The photo that took the name before; empty when it was free: now it is this photo's. Names
+    // that differ in small and capital letters are one only where the file that is there says so.
+    QString Take(const QString& result, const QString& photo);
+
+  private:
+    struct Taken {
+        QString result;
+        QString photo;
+    };
+    QString Key(const QString& result);
+
+    QMultiHash<QString, Taken> taken_;  // by whole names in small letters
+    QString folder_;                    // the last one as given, and its true path
+    QString truePath_;
+};
+
+}  // namespace varnel

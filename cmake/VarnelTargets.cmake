@@ -33,9 +33,21 @@ function(varnel_exact_arithmetic name)
   target_compile_options(${name} PRIVATE -ffp-contract=off)
 endfunction()
 
-# varnel_dialogs(NAME SOURCES ... LINKS ...): a library of widgets with its .ui files.
+# varnel_dialogs(NAME SOURCES ... LINKS ...): a library of widgets with its .ui files. Their headers are
+# made by commands that name what they write, as AUTOUIC's are not: so one run of the build is enough.
 function(varnel_dialogs name)
-  varnel_library(${name} ${ARGN})
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  set(forms ${arg_SOURCES})
+  list(FILTER forms INCLUDE REGEX "[.]ui$")
+  list(FILTER arg_SOURCES EXCLUDE REGEX "[.]ui$")
+  qt_wrap_ui(headers ${forms})
+  varnel_library(${name} SOURCES ${arg_SOURCES} ${headers} LINKS ${arg_LINKS})
   target_link_libraries(${name} PUBLIC Qt6::Widgets)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTOUIC ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
+  # What AUTOUIC once left in an older build folder would be found first.
+  file(GLOB stale ${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include/ui_*.h)
+  if(stale)
+    file(REMOVE ${stale})
+  endif()
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()

@@ -36,8 +36,6 @@ build() {
     cd "$here"
     cmake --preset "$preset" > "build-$preset.log" 2>&1 || { cat "build-$preset.log" >&2; exit 1; }
     rm -f "build-$preset.log"
-    # Twice, the second time for what includes a form's header that the first has written anew.
-    cmake --build --preset "$preset" ${1:+--target "$@"} &&
-      cmake --build --preset "$preset" ${1:+--target "$@"}
+    cmake --build --preset "$preset" ${1:+--target "$@"}
   ) || fail "the build failed, see above"
 }

@@ -40,8 +40,11 @@ void FolderChooser::SetUpTree() {
         }
     });
     connect(&arrived_, &QTimer::timeout, this, [this] { tree_.scrollTo(tree_.currentIndex()); });
-    connect(&folders_, &QFileSystemModel::fileRenamed, this,
-            [this] { OnFolder(tree_.currentIndex()); });
+    connect(&folders_, &QFileSystemModel::fileRenamed, this, [this] {
+        OnFolder(tree_.currentIndex());
+        arrived_.start();  // another name may stand elsewhere
+    });
+    connect(&folders_, &FolderModel::NameRefused, this, &FolderChooser::OnNameRefused);
 }
 
 bool FolderChooser::CanEnter(const Volume& volume) const {
@@ -113,14 +116,29 @@ bool FolderChooser::MakeFolder(const QString& proposedName) {
     return true;
 }
 
+void FolderChooser::OnNameRefused(const QModelIndex& index, const QString& name,
+                                  const QString& reason) {
+    // After the editor that the name was typed into is gone.
+    QTimer::singleShot(0, this, [this, folder = QPersistentModelIndex(index), name, reason] {
+        notices_.Tell(tr("The folder cannot be named %1").arg(name), reason);
+        if (folder.isValid()) {
+            tree_.setFocus();
+            tree_.edit(folder);
+        }
+    });
+}
+
 bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
     // Enter opens or closes the folder; it must not set off the dialog's button under somebody who
-    // is still on the way to a folder.
+    // is still on the way to a folder. The one that ends the naming of a folder comes here, too: to
+    // open the folder then would have it listed under its first name, and what the model is told of
+    // a folder that is gone it takes for the whole tree.
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            const QModelIndex index = tree_.currentIndex();
-            tree_.setExpanded(index, !tree_.isExpanded(index));
+            if (const QModelIndex index = tree_.currentIndex(); tree_.hasFocus()) {
+                tree_.setExpanded(index, !tree_.isExpanded(index));
+            }
             return true;
         }
     }

@@ -6,12 +6,12 @@
 #pragma once
 
 #include <QComboBox>
-#include <QFileSystemModel>
 #include <QTimer>
 #include <QTreeView>
 #include <functional>
 #include <vector>
 
+#include "pipeline/folder_model.h"
 #include "pipeline/volume.h"
 #include "state/notices.h"
 
@@ -29,8 +29,8 @@ class FolderChooser : public QObject {
     void Show(const QString& folder);
     // Puts the drive of that name (see DriveName) in front without going there.
     void PutDriveInFront(const QString& name);
-    // Makes a new folder in the shown one, goes there and lets the user give it a name. False when
-    // none can be made.
+    // Makes a new folder in the shown one, goes there and lets the user give it a name; a name that
+    // it cannot have is told and asked for again. False when none can be made.
     bool MakeFolder(const QString& proposedName);
 
     // Absolute, with "/"; empty before the first Show.
@@ -48,6 +48,7 @@ class FolderChooser : public QObject {
     void EnterVolume(int index);
     void SelectVolume(int index);
     void OnFolder(const QModelIndex& index);
+    void OnNameRefused(const QModelIndex& index, const QString& name, const QString& reason);
     bool CanEnter(const Volume& volume) const;
 
     QComboBox& drives_;
@@ -55,7 +56,7 @@ class FolderChooser : public QObject {
     Notices& notices_;
     Volumes currentVolumes_;
     std::vector<Volume> volumes_;  // as listed
-    QFileSystemModel folders_;
+    FolderModel folders_;
     QTimer arrived_;
     QString folder_;
 };

@@ -2257,6 +2257,28 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::FolderChooser</name>
+    <message>
+        <source>The folder cannot be named %1</source>
+        <translation>Der Ordner kann nicht %1 heißen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FolderModel</name>
+    <message>
+        <source>A name cannot hold a slash.</source>
+        <translation>Ein Name kann keinen Schrägstrich enthalten.</translation>
+    </message>
+    <message>
+        <source>Something of that name is there already.</source>
+        <translation>Unter diesem Namen gibt es schon etwas.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FormAbout</name>
     <message>
         <source>Revision %1</source>

@@ -57,6 +57,11 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
     void Type(const char* box, const char* text) const {
         QTest::keyClicks(&The<QLineEdit>(box), Text(text));
     }
+    // The box in which a folder is being named.
+    static QLineEdit* InEditor() {
+        auto* const box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        return box != nullptr && qobject_cast<QTreeView*>(box->parent()->parent()) ? box : nullptr;
+    }
     // Which of the four buttons can be seen.
     QString Buttons() const {
         QStringList names;
@@ -290,15 +295,36 @@ TEST_F(FormBatchTest, ANewFolderIsMadeNamedAndChosen) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(tree.currentIndex()) == 1; }));
     Click("CmdNewFolder");
     EXPECT_TRUE(QDir(Out() + Text("/Varnel 2")).exists());
-    auto* const editor = tree.findChild<QLineEdit*>();
-    ASSERT_NE(editor, nullptr);
-    EXPECT_EQ(editor->text(), Text("Varnel 2"));
-    QTest::keyClicks(editor, Text("Wide"));
-    QTest::keyClick(editor, Qt::Key_Return);
+    const auto name = [&](const QString& folder) {
+        ASSERT_TRUE(QTest::qWaitFor([] { return InEditor(); }));
+        EXPECT_EQ(InEditor()->text(), Text("Varnel 2"));
+        QTest::keyClicks(InEditor(), folder);
+        QTest::keyClick(InEditor(), Qt::Key_Return);
+    };
+    for (const QString& bad : {Text("Varnel"), Text("a/b"), Text("."), QString(256, u'n')}) {
+        name(bad);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return notices.told.size() == 1; }))
+            << qPrintable(bad);
+        EXPECT_TRUE(notices.told.takeFirst().contains(bad));
+    }
+    name(Text("Wide"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return Label("LabelFolder") == Out() + Text("/Wide"); }));
+    EXPECT_FALSE(QTest::qWaitFor([&] { return tree.model()->rowCount() != 1; }, 300))
+        << "the root alone stands at the top";
+    EXPECT_EQ(tree.currentIndex().data().toString(), Text("Wide"));
+    EXPECT_TRUE(tree.viewport()->rect().contains(tree.visualRect(tree.currentIndex()).center()));
     EXPECT_EQ(queue.UpperBound(), 1) << "naming a folder must not start the run";
     Click("CmdBatchProcess");
     EXPECT_TRUE(QFile::exists(Out() + Text("/Wide/01.Equidistance.BMP")));
+}
+
+TEST_F(FormBatchTest, WhereNoFolderCanBeMadeThatIsTold) {
+    QueuePhotos(1);
+    choices.folder = Text("/proc");
+    Open();
+    Click("CmdNewFolder");
+    EXPECT_EQ(notices.told, QStringList(Text("No folder can be made in /proc")));
+    EXPECT_EQ(Label("LabelFolder"), Text("/proc"));
 }
 
 TEST_F(FormBatchTest, TheFolderStaysInSightWhenItsNeighboursArrive) {

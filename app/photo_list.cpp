@@ -9,7 +9,9 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <algorithm>
+#include <cstdlib>
 
+#include "app/scoped.h"
 #include "state/list_order.h"
 
 namespace varnel {
@@ -116,8 +118,61 @@ void PhotoList::keyPressEvent(QKeyEvent* event) {
     } else if (alone && event->key() == Qt::Key_Down) {
         Q_EMIT MoveWanted(TargetOneDown(count(), SelectedLines()));
     } else {
+        const varnel::Raised handling(handlingInput_);
+        const QPersistentModelIndex before = currentIndex();
         QListWidget::keyPressEvent(event);
+        KeepCurrentSelected(before);
     }
+}
+
+// The view makes a line current and selects it in two steps; only after both is it seen what is
+// missing.
+bool PhotoList::viewportEvent(QEvent* event) {
+    if (!event->isPointerEvent()) {
+        return QListWidget::viewportEvent(event);
+    }
+    const varnel::Raised handling(handlingInput_);
+    const QPersistentModelIndex before = currentIndex();
+    const bool used = QListWidget::viewportEvent(event);
+    KeepCurrentSelected(before);
+    return used;
+}
+
+void PhotoList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListWidget::selectionChanged(selected, deselected);
+    KeepLater();
+}
+
+void PhotoList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QListWidget::currentChanged(current, previous);
+    KeepLater();
+}
+
+// For what neither the mouse nor a key does, a screen reader for one.
+void PhotoList::KeepLater() {
+    QTimer::singleShot(0, this, [this] {
+        if (!handlingInput_) {
+            KeepCurrentSelected(currentIndex());
+        }
+    });
+}
+
+// A line that became current is selected with the others; where the current one was taken off the
+// selection, the nearest of the others becomes current, or it stays when it was the last.
+void PhotoList::KeepCurrentSelected(const QModelIndex& before) {
+    const QModelIndex current = currentIndex();
+    if (count() == 0 || (current.isValid() && selectionModel()->isSelected(current))) {
+        return;
+    }
+    const std::vector<int> selected = SelectedLines();
+    if (selected.empty() || (current.isValid() && current != before)) {
+        selectionModel()->setCurrentIndex(current.isValid() ? current : model()->index(0, 0),
+                                          QItemSelectionModel::Select);
+        return;
+    }
+    const int nearest = *std::ranges::min_element(
+        selected, {}, [&current](int line) { return std::abs(line - current.row()); });
+    selectionModel()->setCurrentIndex(model()->index(nearest, 0), QItemSelectionModel::NoUpdate);
 }
 
 // The records move first and the lines follow them; were the drop taken, the view would take its

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The list box of the photos: small pictures, marks at the right end of each line, and lines that
-// can be dragged, or moved with Alt and the arrow keys. It moves nothing itself.
+// can be dragged, or moved with Alt and the arrow keys. It moves nothing itself. While there are
+// lines, one is current and selected, whatever is clicked: else the sliders would move and reach
+// nothing, or another photo than the one that is shown.
 #pragma once
 
 #include <QListWidget>
@@ -23,10 +25,18 @@ class PhotoList : public QListWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
     std::vector<int> SelectedLines() const;
+    void KeepLater();
+    void KeepCurrentSelected(const QModelIndex& before);
+
+    bool handlingInput_ = false;
 };
 
 }  // namespace varnel

@@ -59,7 +59,7 @@ void WindowView::ShowLines(const RecordArray<ImageRecord>& images, int current,
     parts_.list->Fill(images);
     QListWidget* const list = parts_.list->List();
     const QSignalBlocker blocker(list);
-    list->setCurrentRow(current, QItemSelectionModel::NoUpdate);
+    list->setCurrentRow(current);
     for (const int line : selected) {
         list->item(line)->setSelected(true);
     }

@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QShortcut>
 
+#include "app/save_dialog.h"
 #include "gear/form_gear_edit.h"
 #include "pipeline/add_images.h"
 #include "pipeline/output_type.h"
@@ -86,28 +87,20 @@ bool FirstGearPrompt::DefineGear(GearTable& table) {
 }
 
 std::optional<SaveChoice> SaveFileDialog::ChooseSave(const SaveChoice& proposal) {
-    const QFileInfo name(proposal.name);
-    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Save image as ..."),
-                       name.absolutePath());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked once the extension is known
     const QStringList filters = Filters();
-    dialog.setNameFilters(filters);
-    dialog.selectNameFilter(filters.value(proposal.filterIndex - 1));
-    dialog.selectFile(name.fileName());
+    SaveDialog dialog(QObject::tr("Save image as ..."), QFileInfo(proposal.name).absoluteFilePath(),
+                      filters, proposal.filterIndex - 1);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked once the extension is known
     KeepNameAcrossFilters(dialog);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    const QString name = dialog.Choose();
+    if (name.isEmpty()) {
         return std::nullopt;
     }
-    return SaveChoice{dialog.selectedFiles().constFirst(),
-                      static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1};
+    return SaveChoice{name, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1};
 }
 
 bool SaveFileDialog::AgreesToReplace(const QString& name) {
-    return QMessageBox::question(QApplication::activeWindow(), QStringLiteral("Varnel"),
-                                 QObject::tr("%1 already exists. Replace it?").arg(name),
-                                 QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No) == QMessageBox::Yes;
+    return SaveDialog::AgreesToReplace(name);
 }
 
 QString ChoosePhoto(const QString& folder) {

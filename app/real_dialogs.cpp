@@ -12,6 +12,7 @@
 
 #include "app/form_about.h"
 #include "app/message_boxes.h"
+#include "app/save_dialog.h"
 #include "gear/form_gear_edit.h"
 #include "gear/form_gear_list.h"
 #include "gear/gear_list.h"
@@ -129,12 +130,10 @@ QString RealDialogs::ChooseProject(const QString& folder) {
 }
 
 QString RealDialogs::ChooseProjectName(const QString& proposal) {
-    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Save project as"),
-                       QFileInfo(proposal).absolutePath(), ProjectFilter());
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    SaveDialog dialog(QObject::tr("Save project as"), QFileInfo(proposal).absoluteFilePath(),
+                      {ProjectFilter()});
     dialog.setDefaultSuffix(projectEnding.mid(1).toString());
-    dialog.selectFile(QFileInfo(proposal).fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    return dialog.Choose();
 }
 
 }  // namespace varnel

@@ -68,6 +68,7 @@ void CircleTools::Connect() {
 }
 
 void CircleTools::OnToggled(bool on) {
+    PrepareCurrent();
     PictureBox* const photo = parts_.pictures->From();
     photo->RemoveOverlay(&overlay_);
     if (on) {
@@ -75,6 +76,13 @@ void CircleTools::OnToggled(bool on) {
     }
     bar_->setVisible(on);
     Reset();
+}
+
+// A gear that was given to all photos has its say before its circle is shown or changed.
+void CircleTools::PrepareCurrent() {
+    if (desk_.Current() != nullptr) {
+        desk_.PreparedCurrent();
+    }
 }
 
 PixelSize CircleTools::PhotoSize() const {
@@ -164,6 +172,7 @@ void CircleTools::Find() {
 }
 
 void CircleTools::Ask() {
+    PrepareCurrent();
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
         asked_ = desk_.Current()->GearName;
         bar_->Ask(tr("Change the gear \"%1\" to %2? Photos that are adjusted already keep their "

@@ -26,6 +26,7 @@ class CircleTools : public QObject {
   private:
     void Connect();
     void OnToggled(bool on);
+    void PrepareCurrent();
     // The one on trial, or else the one that the current record's numbers make; nothing without a
     // photo.
     std::optional<ImageCircle> Shown();

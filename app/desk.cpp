@@ -56,13 +56,6 @@ void Desk::ShowInControls(const ImageRecord& image) {
     view_.ShowRecord(image);
 }
 
-void Desk::GiveChosenGear(ImageRecord& image) {
-    const int gear = view_.ChosenGear();
-    if (gear >= 1 && gear <= state_.Gear.UpperBound()) {
-        AssignGear(state_.Gear(gear), image);
-    }
-}
-
 void Desk::TellNotOpened(const ImageRecord& image) {
     notices_.Tell(Texts::tr("Could not open image"),
                   QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
@@ -90,7 +83,7 @@ bool Desk::LoadFull(int line) {
     }
     state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
     TakeSize({SizeOf(state_.bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
-    GiveChosenGear(image);
+    GiveOwnGear(image);
     Absorb();
     ShowInControls(image);
     view_.ShowStatus(Texts::tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
@@ -201,36 +194,6 @@ void Desk::PreviewControls() {
     RenderPreview(trial);
 }
 
-bool Desk::GearIsPending(const ImageRecord& image) const {
-    if (image.SettingsApplied) {
-        return false;
-    }
-    const int n = state_.Gear.Find(image.GearName);
-    if (n == 0) {
-        return true;  // none yet, or one that is gone
-    }
-    ImageRecord assigned = image;
-    return AssignGear(state_.Gear(n), assigned) && !(assigned == image);
-}
-
-// What a click gives a record: its size and, if the gear is still due, the chosen gear.
-void Desk::Prepare(ImageRecord& image) {
-    const bool neverLoaded = image.Width == 0;
-    if (neverLoaded) {
-        // Events are handled meanwhile; nothing may change the list under the record.
-        const Raised busy(busy_);
-        if (const std::optional<PhotoSize> size = photos_.Size(SourcePath(image))) {
-            TakeSize(*size, image);
-        }
-        if (photos_.GivenUp()) {
-            return;
-        }
-    }
-    if (neverLoaded || GearIsPending(image)) {
-        GiveChosenGear(image);
-    }
-}
-
 bool Desk::PrepareAll() {
     bool prepared = true;
     {
@@ -283,29 +246,6 @@ void Desk::StoreControls(bool withPreview) {
     }
 }
 
-void Desk::ChooseGear() {
-    if (Busy()) {
-        return;
-    }
-    for (const int line : view_.SelectedLines()) {
-        ImageRecord& image = state_.Images(line + 1);
-        if (image.GearName != view_.ChosenGearName()) {
-            image.SettingsApplied = false;
-        }
-        if (image.Width == 0) {
-            Prepare(image);
-        } else {
-            GiveChosenGear(image);
-        }
-        ShowInControls(image);
-    }
-    NoteStep(StepKind::Gear);
-    if (Current() != nullptr) {
-        ShowInControls(*Current());
-    }
-    Preview();
-}
-
 void Desk::AdoptTile(const ContactTile& tile) {
     if (Busy() || Current() == nullptr) {
         return;
@@ -318,23 +258,6 @@ void Desk::AdoptTile(const ContactTile& tile) {
     NoteStep(StepKind::ContactSheet);
     ShowInControls(*Current());
     Preview();
-}
-
-void Desk::UseGear(int gear) {
-    if (Busy() || Current() == nullptr || gear < 1 || gear > state_.Gear.UpperBound()) {
-        return;
-    }
-    ImageRecord& image = *Current();
-    image.SettingsApplied = false;
-    AssignGear(state_.Gear(gear), image);
-    NoteStep(StepKind::Gear);
-    ShowInControls(image);
-    Preview();
-}
-
-void Desk::ApplyGear() {
-    ApplyGearToAll(state_.Images, view_.ChosenGearName());
-    NoteStep(StepKind::GearToAll, {.onAllLines = true, .gear = {}});
 }
 
 void Desk::ApplySettings() {

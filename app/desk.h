@@ -32,7 +32,8 @@ class DeskView {
     virtual std::vector<int> SelectedLines() const = 0;
     virtual ControlValues Controls() const = 0;
     virtual Projection ChosenProjection() const = 0;
-    // The position in the gear selector plus 1, 0 for none, and its text.
+    // The number of the gear in the selector and its name; 0 and empty for one that the table does
+    // not have.
     virtual int ChosenGear() const = 0;
     virtual QString ChosenGearName() const = 0;
     virtual bool AutoPreview() const = 0;
@@ -137,8 +138,9 @@ class Desk {
     void Prepare(ImageRecord& image);
     // False when the user gave it up.
     bool PrepareAll();
-    bool GearIsPending(const ImageRecord& image) const;
-    void GiveChosenGear(ImageRecord& image);
+    int OwnGear(const ImageRecord& image) const;
+    void GiveOwnGear(ImageRecord& image);
+    bool KnowSize(ImageRecord& image);
     void RenderPreview(const ImageRecord& image);
     void RenderThumbnail(const ImageRecord& image);
     SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
@@ -150,7 +152,6 @@ class Desk {
     void TellSteps();
     void Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&));
     void ShowRestored(const Restored& restored, const ImageRecord& shown);
-    void ShowOther(int line);
     void ShowNewList(int line);
 
     WorkingState& state_;

@@ -117,18 +117,12 @@ void Desk::ShowRestored(const Restored& restored, const ImageRecord& shown) {
     if (count == 0) {
         ShowNewList(0);
     } else if (current < 0) {
-        ShowOther(restored.changed.empty() ? std::clamp(before, 0, count - 1)
+        ShowNewList(restored.changed.empty() ? std::clamp(before, 0, count - 1)
                                            : restored.changed.front());
     } else if (!(*Current() == shown)) {
         ShowInControls(*Current());
         Preview();
     }
-}
-
-// Its own gear stands in the selector when it is loaded: else it would be given another one.
-void Desk::ShowOther(int line) {
-    ShowInControls(state_.Images(line + 1));
-    ShowNewList(line);
 }
 
 void Desk::ShowNewList(int line) {

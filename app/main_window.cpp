@@ -166,7 +166,7 @@ void MDIForm1::Activate() {
         Q_EMIT QuitWanted();
         return;
     }
-    parts_.equipment->Fill(state_.Gear, state_.Gear.DefaultGearName);
+    parts_.equipment->Fill(state_.Gear);
     AddFiles(filesAtStart_);
     Q_EMIT Started();
 }

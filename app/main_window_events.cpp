@@ -151,6 +151,7 @@ void MDIForm1::OnListShown() {
     UpdateEnabled();
     if (state_.Images.Empty()) {
         view_->ShowTitle({});
+        ShowGears();
     } else {
         desk_->ShowLine(view_->CurrentLine());
     }
@@ -188,9 +189,10 @@ void MDIForm1::TakeOffer() {
 }
 
 void MDIForm1::ShowGears() {
-    const ImageRecord* const image = desk_->Current();
-    parts_.equipment->Fill(state_.Gear,
-                           image != nullptr ? image->GearName : state_.Gear.DefaultGearName);
+    parts_.equipment->Fill(state_.Gear);
+    if (const ImageRecord* const image = desk_->Current()) {
+        parts_.equipment->Show(image->GearName);
+    }
     view_->ShowOffer();
 }
 
@@ -240,7 +242,7 @@ void MDIForm1::UpdateEnabled() {
         row->setEnabled(photos);
     }
     for (QWidget* const control : std::initializer_list<QWidget*>{
-             parts_.list->Remove(), parts_.equipment->ApplyToAll(),
+             parts_.list->Remove(), parts_.equipment->Gears(), parts_.equipment->ApplyToAll(),
              parts_.adjustments->ApplyToAll(), parts_.adjustments->PreviewButton(),
              parts_.save->SaveAs(), parts_.save->AddToQueue()}) {
         control->setEnabled(photos);

@@ -27,12 +27,11 @@ SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
 
 void SheetTools::Toggle() {
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
-    const ImageRecord* const image = desk_.Current();
     if (box_->isVisible()) {
         box_->hide();
-    } else if (photo != nullptr && image != nullptr && !desk_.Busy()) {
+    } else if (photo != nullptr && desk_.Current() != nullptr && !desk_.Busy()) {
         try {
-            box_->Open(*image, photo, view_.Antialiased());
+            box_->Open(desk_.PreparedCurrent(), photo, view_.Antialiased());
         } catch (const std::bad_alloc&) {
             view_.ShowStatus(tr("There is not enough memory."));
         }

@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include "app/named_button.h"
 #include "app/photo_list.h"
@@ -46,15 +45,23 @@ bool EquipmentPanel::eventFilter(QObject* watched, QEvent* event) {
     return QGroupBox::eventFilter(watched, event);
 }
 
-void EquipmentPanel::Fill(const GearTable& gears, const QString& selected) {
+void EquipmentPanel::Fill(const GearTable& gears) {
     const QSignalBlocker blocker(gears_);
     gears_->clear();
     for (int n = 1; n <= gears.UpperBound(); ++n) {
         gears_->addItem(gears(n).GearName);
     }
-    const int chosen = gears.Find(selected);
-    const int fallback = std::max(gears.Find(gears.DefaultGearName), 1);
-    gears_->setCurrentIndex((chosen > 0 ? chosen : fallback) - 1);
+    gears_->setCurrentIndex(gears.Default() - 1);
+}
+
+void EquipmentPanel::Show(const QString& gearName) {
+    const QSignalBlocker blocker(gears_);
+    gears_->setPlaceholderText(gearName.isEmpty() ? tr("No gear yet")
+                                                  : tr("%1 (not in the list)").arg(gearName));
+    gears_->setCurrentIndex(gears_->findText(gearName));
+    const bool listed = gears_->currentIndex() >= 0;
+    gears_->setAccessibleDescription(listed ? QString() : gears_->placeholderText());
+    applyToAll_->setEnabled(listed);
 }
 
 ImageListPanel::ImageListPanel(QWidget* parent)

@@ -21,8 +21,11 @@ class EquipmentPanel : public QGroupBox {
     Q_OBJECT
   public:
     explicit EquipmentPanel(QWidget* parent = nullptr);
-    // All gear names in table order; the one of that name is selected, without one the default.
-    void Fill(const GearTable& gears, const QString& selected);
+    // All gear names in table order; the default gear is selected.
+    void Fill(const GearTable& gears);
+    // A photo's gear. A name that is not among them is shown with a mark; none is selected then,
+    // and there is none to be applied to all.
+    void Show(const QString& gearName);
     QComboBox* Gears() const { return gears_; }
     QPushButton* ApplyToAll() const { return applyToAll_; }
 

@@ -96,11 +96,7 @@ void WindowView::ShowOffer() {
 }
 
 void WindowView::ShowRecord(const ImageRecord& image) {
-    const int gear = parts_.equipment->Gears()->findText(image.GearName);
-    if (gear >= 0) {
-        const QSignalBlocker blocker(parts_.equipment->Gears());
-        parts_.equipment->Gears()->setCurrentIndex(gear);
-    }
+    parts_.equipment->Show(image.GearName);
     parts_.adjustments->Show(ValuesFor(image));
     const int current = CurrentLine();
     if (current >= 0 && &image == &state_.Images(current + 1)) {

@@ -63,6 +63,12 @@ class GearTable {
         }
         return 0;
     }
+    // The number of the gear that new photos get: the first one when none has the default's name, 0
+    // when there is no gear at all.
+    int Default() const {
+        const int byName = Find(DefaultGearName);
+        return byName > 0 || UpperBound() == 0 ? byName : 1;
+    }
 
     QString DefaultGearName;
 

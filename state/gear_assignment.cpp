@@ -92,6 +92,11 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     return true;
 }
 
+// Every gear brings effects, and nothing sets one to 0 afterwards.
+bool HasGearNumbers(const ImageRecord& image) {
+    return image.SettingsApplied || image.EffectVarnel > 0.0F;
+}
+
 void ApplyGearToAll(RecordArray<ImageRecord>& images, const QString& gearName) {
     for (ImageRecord& image : images) {
         image.SettingsApplied = false;

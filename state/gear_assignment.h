@@ -22,6 +22,9 @@ float UsualOutputAov(float inputAov);
 // settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
 
+// False for a record that may name a gear, but was never given one's numbers.
+bool HasGearNumbers(const ImageRecord& image);
+
 // The circle's centre beside the picture's: thousandths of width and height, positive to the right
 // and toward the bottom.
 struct CentreOffset {

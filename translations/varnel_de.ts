@@ -2255,6 +2255,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Every photo in the list was taken with this gear</source>
         <translation>Jedes Foto der Liste wurde mit dieser Ausrüstung aufgenommen</translation>
     </message>
+    <message>
+        <source>No gear yet</source>
+        <translation>Noch keine Ausrüstung</translation>
+    </message>
+    <message>
+        <source>%1 (not in the list)</source>
+        <translation>%1 (nicht in der Liste)</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FolderChooser</name>

@@ -306,18 +306,9 @@ TEST(MainWindow, SettingsGoToAllEvenToPhotosNeverClicked) {
     }
 }
 
-// A second gear, "other", that sees 100 degrees.
-void AddOtherGear(WindowDesk& desk) {
-    desk.state.Gear.Resize(2);
-    desk.state.Gear(2) = desk.state.Gear(1);
-    desk.state.Gear(2).GearName = Q("other");
-    desk.state.Gear(2).hAOV = 100.0F;
-}
-
 TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
     WindowDesk desk;
-    AddOtherGear(desk);
-    desk.Entry("CmdSetupEquipment")->trigger();
+    desk.AddGear(Q("other"), 100.0F);
     EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormGearList")});
     desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
     desk.Slider("SliderAOVinput")->setValue(200);
@@ -338,9 +329,8 @@ TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
 
 TEST(MainWindow, AGearForAllReachesEachPhotoByAClick) {
     WindowDesk desk;
-    AddOtherGear(desk);
+    desk.AddGear(Q("other"), 100.0F);
     desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
-    desk.window.findChild<QAction*>(Q("CmdSetupEquipment"))->trigger();
     desk.Find<QComboBox>("GearCombo")->setCurrentIndex(1);
     desk.Slider("SliderAOVinput")->setValue(133);
     desk.Click("CmdApplyAll");

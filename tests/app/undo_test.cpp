@@ -87,11 +87,7 @@ TEST(Undo, TheMouseEndsAStep) {
 
 TEST(Undo, ReachesEveryPhotoThatAStepReached) {
     WindowDesk desk;
-    desk.state.Gear.Resize(2);
-    desk.state.Gear(2) = desk.state.Gear(1);
-    desk.state.Gear(2).GearName = Text("other");
-    desk.state.Gear(2).hAOV = 100.0F;
-    desk.Entry("CmdSetupEquipment")->trigger();
+    desk.AddGear(Text("other"), 100.0F);
     desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
     desk.ClickLine(2, Qt::ControlModifier);
     desk.Slider("SliderAOVinput")->setValue(200);

@@ -168,6 +168,15 @@ class WindowDesk {
         }
         window.AddFiles(paths);
     }
+    // One more gear like the first, under another name and with another angle of view.
+    void AddGear(const QString& name, float hAov) {
+        GearRecord gear = state.Gear(1);
+        gear.GearName = name;
+        gear.hAOV = hAov;
+        state.Gear.Resize(state.Gear.UpperBound() + 1);
+        state.Gear(state.Gear.UpperBound()) = gear;
+        Entry("CmdSetupEquipment")->trigger();
+    }
     QImage Shown(const char* picture) { return Find(picture)->grab().toImage(); }
     ImageRecord& Record(int n) { return state.Images(n); }
 

@@ -8,9 +8,20 @@
 
 namespace varnel {
 
-// Gives up what decoding does not need: inherited files, core files, new privileges, every file by
-// its name (Landlock), and new programs, connections and other processes (seccomp). It ends with
-// its parent. What a system does not offer is left out. Not undone by anything.
+// Sanitizers need terabytes of address space, and files and other system calls for their reports.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr bool sanitized = true;
+#elif defined(__has_feature)
+inline constexpr bool sanitized =
+    __has_feature(address_sanitizer) || __has_feature(thread_sanitizer);
+#else
+inline constexpr bool sanitized = false;
+#endif
+
+// Gives up what decoding does not need: core files, new privileges, and, unless the build is
+// sanitized, inherited files, every file by its name (Landlock) and every system call but a few
+// (FilterSystemCalls). It ends with its parent. What a system does not offer is left out. Not
+// undone by anything.
 void Confine();
 
 // The address space and the processor time from now on that the next photo may take. A process that

@@ -132,6 +132,13 @@ bool DecoderReader::Wait(int milliseconds) {
 // The pixels come first, so that they are safe whatever the metadata do to the decoder.
 void DecoderReader::Heard(const DecoderAnswer& answer) {
     const bool isSecond = first_.has_value();
+    if (answer.outcome == triedForbidden) {
+        isSecond ? FinishWithoutMetadata()
+                 : FinishRefused(QStringLiteral("damaged: the decoder tried something forbidden "
+                                                "(system call %1)")
+                                     .arg(answer.number));
+        return;
+    }
     if (isSecond ? !BelievableMetadata(answer, *first_, memory_->Length())
                  : !Believable(answer, request_, memory_->Length())) {
         isSecond ? FinishWithoutMetadata()
@@ -193,6 +200,9 @@ void DecoderReader::Died() {
             break;
         case SIGXCPU:
             FinishRefused(TookTooLong());
+            break;
+        case SIGSYS:
+            FinishRefused(QStringLiteral("damaged: the decoder tried something forbidden"));
             break;
         case SIGKILL:
         case SIGBUS:

@@ -3,16 +3,17 @@
 
 // varnel-decoder: decodes photos for the other programs, one after the other, until they end.
 #include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "decoder/confinement.h"
 #include "decoder/decode_picture.h"
 #include "decoder/decoder_socket.h"
+#include "decoder/picture_file.h"
 #include "decoder/protocol.h"
 #include "decoder/read_metadata.h"
 #include "remap/large_pages.h"
@@ -139,9 +140,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
 // lost.
 bool SendMetadata(std::FILE* photo, const DecoderAnswer& first, const MetadataRequest& wanted,
                   Handover& handover) {
-    struct stat status {};
-    fstat(fileno(photo), &status);
-    LimitMetadata(static_cast<std::uint64_t>(status.st_size));
+    LimitMetadata(PictureFile(photo).Length());
     const QByteArray block = PackFileMetadata(ReadMetadata(photo, wanted));
     DecoderAnswer answer;
     answer.number = first.number;
@@ -202,6 +201,9 @@ extern "C" const char* __asan_default_options() {
 
 int main() {
     varnel::KeepFreedMemory();
+    // Told by name the zone is read once; else the C library looks at the file for every time of
+    // day, and takes another zone when it may not.
+    setenv("TZ", ":/etc/localtime", 0);
     varnel::PrepareDecoding();
     varnel::PrepareMetadata();
     varnel::Confine();

@@ -30,10 +30,14 @@ struct DecoderRequest {
 
 inline constexpr std::size_t longestReason = 1000;  // bytes of UTF-8
 
+// In place of an outcome: the decoder tried a system call that is forbidden to it, of that number,
+// and is dead. Whoever says so is not asked again.
+inline constexpr std::uint32_t triedForbidden = 0xF0;
+
 // The memory file holds the rows, bottom row first, then what else belongs to the picture.
 struct DecoderAnswer {
     std::uint32_t number = 0;
-    std::uint32_t outcome = 0;       // as LoadOutcome
+    std::uint32_t outcome = 0;       // as LoadOutcome, or triedForbidden
     PixelSize size{};                // of the full picture
     PixelSize bitmap{};              // of the pixels in the memory file, 0 x 0 when there are none
     std::uint32_t pitch = 0;         // bytes from row to row

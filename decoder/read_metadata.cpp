@@ -28,7 +28,8 @@ class FileBytes {
         if (!file_.open(file, QIODevice::ReadOnly)) {
             return;
         }
-        length_ = file_.size();
+        // Not by its name or state, of which the decoder may not ask.
+        length_ = PictureFile(file).Length();
         bytes_ = file_.map(0, length_);
         if (bytes_ == nullptr) {
             read_ = file_.readAll();

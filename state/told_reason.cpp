@@ -94,6 +94,8 @@ constexpr const char* reasons[] = {
     QT_TRANSLATE_NOOP("Reasons", "it ends at once"),
     QT_TRANSLATE_NOOP("Reasons",
                       "the system ended the decoder, perhaps for want of memory (signal %1)"),
+    QT_TRANSLATE_NOOP("Reasons", "damaged: the decoder tried something forbidden (system call %1)"),
+    QT_TRANSLATE_NOOP("Reasons", "damaged: the decoder tried something forbidden"),
     QT_TRANSLATE_NOOP("Reasons", "damaged: the decoder died of it (signal %1)"),
     QT_TRANSLATE_NOOP("Reasons", "damaged: the decoder gave up on it"),
     QT_TRANSLATE_NOOP("Reasons", "damaged: the decoder's answer makes no sense"),

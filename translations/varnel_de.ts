@@ -1781,6 +1781,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>cancelled</source>
         <translation>abgebrochen</translation>
     </message>
+    <message>
+        <source>damaged: the decoder tried something forbidden (system call %1)</source>
+        <translation>beschädigt: Der Dekoder hat Verbotenes versucht (Systemaufruf %1)</translation>
+    </message>
+    <message>
+        <source>damaged: the decoder tried something forbidden</source>
+        <translation>beschädigt: Der Dekoder hat Verbotenes versucht</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

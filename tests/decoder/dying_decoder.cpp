@@ -2,21 +2,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // In place of the decoder: gives pixels as it should, and then does what the photo's file tells.
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <QByteArray>
 #include <csignal>
 
+#include "decoder/confinement.h"
 #include "decoder/decoder_socket.h"
 #include "decoder/protocol.h"
 
 namespace {
+
+// As one that hostile bytes have taken over.
+void TrySomethingForbidden() {
+    varnel::Confine();
+    socket(AF_INET, SOCK_STREAM, 0);
+}
 
 void GoOn(const QByteArray& order, varnel::DecoderAnswer answer) {
     if (order.startsWith("signal ")) {
         raise(order.mid(7).toInt());
     } else if (order == "hang") {
         pause();
+    } else if (order == "forbidden") {
+        TrySomethingForbidden();
     } else if (order == "stutter") {
         varnel::SendMessage(varnel::decoderSocket, "x", 1);
     } else if (order == "other number") {
@@ -35,6 +45,9 @@ int main() {
     while (varnel::ReceiveMessage(varnel::decoderSocket, &request, sizeof request, &files)) {
         QByteArray order(100, '\0');
         order.truncate(read(files[0].Get(), order.data(), order.size()));
+        if (order == "forbidden at once") {
+            TrySomethingForbidden();
+        }
         varnel::DecoderAnswer answer;
         answer.number = request.number;
         answer.metadataFollows = 1;

@@ -249,7 +249,7 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
     const QString photo = folder.Path(QStringLiteral("photo"));
     const char* const orders[] = {"signal 11", "signal 7",     "signal 9",  "signal 24",
                                   "stutter",   "other number", "length 77", "length 1000000000000",
-                                  "length 0",  "length 50",    "hang"};
+                                  "length 0",  "length 50",    "forbidden", "hang"};
     DecoderReader reader({.program = QStringLiteral(VARNEL_DYING_DECODER)});
     for (const char* const order : orders) {
         SCOPED_TRACE(order);

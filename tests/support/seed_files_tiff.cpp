@@ -183,7 +183,10 @@ QByteArray RawPhoto(bool mosaic, int orientation) {
 QByteArray ExifBlock(bool canon) {
     TiffBytes tiff(canon ? Order::Little : Order::Big);
     TiffBytes nikon(Order::Big);
-    const std::vector<TiffField> notes = {{1, Short, {14, 0, 2, 0, 5, 3, 4}},
+    std::vector<std::uint32_t> settings = {52, 0, 2, 0, 5, 3, 4};
+    settings.resize(22);
+    settings.insert(settings.end(), {32, 15, 15, 1});  // number 32 of 15 mm: a fisheye
+    const std::vector<TiffField> notes = {{1, Short, settings},
                                           {2, Text, {}, QByteArray("a lens of 8 mm", 15)},
                                           {4, Short, {12, 0, 3, 0, 8, 0}},
                                           {0x84, Fraction, {8, 1, 8, 1, 35, 10, 35, 10}}};

@@ -13,6 +13,7 @@
 #include "pipeline/contact_sheet.h"
 #include "pipeline/file_chooser.h"
 #include "pipeline/photo_loader.h"
+#include "pipeline/save_meanwhile.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/render.h"
 #include "remap/save_bitmap.h"
@@ -59,6 +60,8 @@ class DeskView {
     virtual void ShowHourglass(bool on) = 0;
     // While locked nothing on the window can be started and a wish to close it waits.
     virtual void Lock(bool on) = 0;
+    // What the user does to cancel what runs; none takes the way to it away again.
+    virtual void LetCancel(std::function<void()> cancel) = 0;
     // Nothing runs any more: what waited for that may be done.
     virtual void Idle() = 0;
 };
@@ -143,7 +146,9 @@ class Desk {
     bool KnowSize(ImageRecord& image);
     void RenderPreview(const ImageRecord& image);
     void RenderThumbnail(const ImageRecord& image);
-    SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice);
+    SaveResult RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
+                             const CancelFlag& cancelled);
+    void TellSaved(const SaveResult& saved, const QString& name);
     void ShowInControls(const ImageRecord& image);
 
     void NoteStep(const QString& name, const StepKey& key, const StepBesides& besides = {});

@@ -22,6 +22,7 @@
 #include "app/guide_tools.h"
 #include "app/level_tools.h"
 #include "app/menu_entry.h"
+#include "app/named_button.h"
 #include "app/picture_keys.h"
 #include "app/sample_tools.h"
 #include "app/sheet_tools.h"
@@ -124,10 +125,15 @@ void MDIForm1::BuildStatus() {
     parts_.bar->setAccessibleName(tr("Progress"));
     parts_.bar->setTextVisible(false);
     parts_.bar->setMaximumSize(240, 12);
+    parts_.cancel =
+        NamedButton("CmdCancelSave", tr("Cancel"), tr("Ends the saving without a file"), this);
+    parts_.cancel->setShortcut(Qt::Key_Escape);
+    parts_.cancel->hide();
     parts_.offer = new GearOfferRow(this);
     statusBar()->addWidget(parts_.status);
     statusBar()->addWidget(parts_.offer, 1);
     statusBar()->addPermanentWidget(parts_.bar);
+    statusBar()->addPermanentWidget(parts_.cancel);
 }
 
 QAction* MDIForm1::AddEntry(QMenu* menu, const char* name, const QString& text,

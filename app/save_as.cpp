@@ -26,13 +26,15 @@ struct Texts {
 
 }  // namespace
 
-SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice) {
+SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
+                               const CancelFlag& cancelled) {
     const Raised saving(saving_);
     const Raised rendering(rendering_);
     const OutputType type = TypeOf(choice);
     RenderDesk desk{.bitmaps = state_.bitmaps, .runner = &runner_};
+    CancellableProgress progress(view_.Progress(), cancelled);
     try {
-        Render(view_.ChosenProjection(), image, SizeKind::Large, view_.Progress(), desk);
+        Render(view_.ChosenProjection(), image, SizeKind::Large, progress, desk);
         FIBITMAP* const result = state_.bitmaps.ResultBitmap.get();
         if (!state_.settings.WriteMetadata) {
             DropMetadata(result);
@@ -41,10 +43,12 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
         shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
         NoteSettings(result, shown, state_.settings.WriteSettings,
                      state_.settings.WriteMetadata ? choice.name : QString());
-        return SaveBitmap(
-            FormatOf(type), result, choice.name,
-            SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444),
-            &runner_);
+        const int flags =
+            SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444);
+        return SaveMeanwhile({FormatOf(type), choice.name, flags}, result, runner_,
+                             view_.Progress(), cancelled);
+    } catch (const SavingCancelled&) {
+        return {};
     } catch (const RunTimeError& error) {
         return {false, ToldReason(error.what())};
     } catch (const std::bad_alloc&) {
@@ -68,25 +72,36 @@ void Desk::SaveAs(FileChooser& chooser) {
     if (!choice) {
         return;
     }
+    CancelFlag cancelled = false;
     SaveResult saved;
     {
         const Raised busy(busy_);
         view_.Lock(true);
+        view_.LetCancel([&cancelled] { cancelled = true; });
         view_.HandleEvents();
         view_.ShowHourglass(true);
-        saved = RenderAndSave(image, *choice);
+        saved = RenderAndSave(image, *choice, cancelled);
         state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
         view_.ShowHourglass(false);
+        view_.LetCancel(nullptr);
         view_.Lock(false);
     }
-    if (!saved) {
-        notices_.Tell(Texts::tr("Could not save %1").arg(choice->name), ToldReason(saved.reason));
-    } else if (saved.note.isEmpty()) {
-        view_.ShowStatus(Texts::tr("Saved %1").arg(choice->name));
+    if (!saved && cancelled) {
+        view_.ShowStatus(CancelledText());
     } else {
-        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(choice->name, ToldReason(saved.note)));
+        TellSaved(saved, choice->name);
     }
     view_.Idle();
+}
+
+void Desk::TellSaved(const SaveResult& saved, const QString& name) {
+    if (!saved) {
+        notices_.Tell(Texts::tr("Could not save %1").arg(name), ToldReason(saved.reason));
+    } else if (saved.note.isEmpty()) {
+        view_.ShowStatus(Texts::tr("Saved %1").arg(name));
+    } else {
+        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ToldReason(saved.note)));
+    }
 }
 
 }  // namespace varnel

@@ -22,7 +22,14 @@ PixelSize DevicePixels(QSize logical, double ratio) {
 }  // namespace
 
 WindowView::WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state)
-    : window_(window), parts_(parts), state_(state), progress_(parts.bar) {}
+    : window_(window), parts_(parts), state_(state), progress_(parts.bar) {
+    QObject::connect(parts_.cancel, &QPushButton::clicked, parts_.cancel, [this] {
+        parts_.cancel->setEnabled(false);
+        if (cancel_) {
+            cancel_();
+        }
+    });
+}
 
 PixelSize WindowView::PreviewBox() const {
     return DevicePixels({state_.settings.PreviewWidth, state_.settings.PreviewHeight},
@@ -111,6 +118,12 @@ void WindowView::ShowHourglass(bool on) {
     } else {
         QGuiApplication::restoreOverrideCursor();
     }
+}
+
+void WindowView::LetCancel(std::function<void()> cancel) {
+    cancel_ = std::move(cancel);
+    parts_.cancel->setEnabled(cancel_ != nullptr);
+    parts_.cancel->setVisible(cancel_ != nullptr);
 }
 
 void WindowView::Lock(bool on) {

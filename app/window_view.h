@@ -31,6 +31,7 @@ struct WindowParts {
     QMenu* editMenu = nullptr;
     QMenu* viewMenu = nullptr;
     QProgressBar* bar = nullptr;
+    QPushButton* cancel = nullptr;  // beside the bar
     QLabel* status = nullptr;
 };
 
@@ -67,6 +68,7 @@ class WindowView : public DeskView {
     void HandleEvents() override { progress_.HandleEvents(); }
     void ShowHourglass(bool on) override;
     void Lock(bool on) override;
+    void LetCancel(std::function<void()> cancel) override;
 
     void Idle() override {
         for (const auto& then : whenIdle_) {
@@ -108,6 +110,7 @@ class WindowView : public DeskView {
     std::vector<std::function<void()>> whenResultShown_;
     std::vector<std::function<void()>> whenIdle_;
     QPointer<QWidget> focusBeforeLock_;
+    std::function<void()> cancel_;
     std::function<void()> whenListShown_;
 };
 

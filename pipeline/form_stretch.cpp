@@ -84,6 +84,7 @@ FormStretch::FormStretch(const GeneralSettings& settings, PhotoLoader& photos,
       notices_(notices) {
     ui_->setupUi(this);
     ui_->BarStretch->hide();
+    ui_->CmdCancelSave->hide();
     ui_->CmdSave->setEnabled(false);
     setAcceptDrops(true);
     SetUpSliders();
@@ -123,6 +124,7 @@ void FormStretch::ConnectControls() {
         }
     });
     connect(ui_->CmdSave, &QPushButton::clicked, this, &FormStretch::Save);
+    connect(ui_->CmdCancelSave, &QPushButton::clicked, this, [this] { cancelled_ = true; });
     connect(ui_->CmdClose, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -210,19 +212,30 @@ void FormStretch::Save() {
     SetBusy(false);
 }
 
-void FormStretch::RenderAndSave(const SaveChoice& choice) {
-    BarProgress progress(ui_->BarStretch);
+SaveResult FormStretch::Rendered(const SaveChoice& choice) {
+    BarProgress bar(ui_->BarStretch);
+    CancellableProgress progress(bar, cancelled_);
     RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
-    RenderStretch(Curve(), SizeKind::Large, progress, desk);
+    try {
+        RenderStretch(Curve(), SizeKind::Large, progress, desk);
+    } catch (const SavingCancelled&) {
+        return {};
+    }
     const OutputType type = TypeOf(choice);
     FIBITMAP* const result = bitmaps_.ResultBitmap.get();
     if (!settings_.WriteMetadata) {
         DropMetadata(result);
     }
-    const SaveResult saved =
-        SaveBitmap(FormatOf(type), result, choice.name,
-                   SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444), &runner_);
-    if (saved) {
+    const int flags = SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444);
+    return SaveMeanwhile({FormatOf(type), choice.name, flags}, result, runner_, bar, cancelled_);
+}
+
+void FormStretch::RenderAndSave(const SaveChoice& choice) {
+    cancelled_ = false;
+    const SaveResult saved = Rendered(choice);
+    if (!saved && cancelled_) {
+        ui_->LabelStatus->setText(CancelledText());
+    } else if (saved) {
         ui_->LabelStatus->setText(
             saved.note.isEmpty() ? tr("Saved %1").arg(choice.name)
                                  : tr("Saved %1, %2").arg(choice.name, ToldReason(saved.note)));
@@ -235,6 +248,7 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
 void FormStretch::SetBusy(bool busy) {
     busy_ = busy;
     ui_->FrameControls->setEnabled(!busy);
+    ui_->CmdCancelSave->setVisible(busy);
     for (QPushButton* const button : {ui_->CmdOpen, ui_->CmdSave}) {
         button->setEnabled(!busy);
     }

@@ -12,6 +12,7 @@
 
 #include "pipeline/file_chooser.h"
 #include "pipeline/photo_loader.h"
+#include "pipeline/save_meanwhile.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/stretch.h"
 #include "state/general_settings.h"
@@ -51,6 +52,7 @@ class FormStretch : public QDialog {
     void DrawPreview();
     void Save();
     void RenderAndSave(const SaveChoice& choice);
+    SaveResult Rendered(const SaveChoice& choice);
     void SetBusy(bool busy);
 
     std::unique_ptr<Ui::FormStretch> ui_;
@@ -65,6 +67,7 @@ class FormStretch : public QDialog {
     ThreadRunner runner_;
     QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
     QTimer fitTimer_;
+    CancelFlag cancelled_ = false;
     bool busy_ = false;
     bool closeWanted_ = false;
 };

@@ -3,9 +3,11 @@
 
 #include "remap/save_bitmap.h"
 
+#include <cerrno>
 #include <new>
 
 #include "remap/encode_bitmap.h"
+#include "state/file_steps.h"
 
 namespace varnel {
 
@@ -24,6 +26,65 @@ SaveResult Written(const EncodedBitmap& encoded, const Write& write) {
     }
 }
 
+struct Stopped {};
+
+class StoppableRunner : public BlockRunner {
+  public:
+    StoppableRunner(BlockRunner& runner, const std::function<bool()>& stopped)
+        : runner_(runner), stopped_(stopped) {}
+    void Run(int blocks, const std::function<void(int)>& block) override {
+        runner_.Run(blocks, [&](int n) {
+            if (stopped_()) {
+                throw Stopped();
+            }
+            block(n);
+        });
+    }
+
+  private:
+    BlockRunner& runner_;
+    const std::function<bool()>& stopped_;
+};
+
+#ifdef Q_OS_UNIX
+
+// The steps before the file has its name fail once it is given up.
+class StoppableSteps : public FileSteps {
+  public:
+    explicit StoppableSteps(const std::function<bool()>& stopped) : stopped_(stopped) {}
+    int Create(const QByteArray& name, unsigned permissions) override {
+        return GivenUp() ? -1 : FileSteps::Create(name, permissions);
+    }
+    qint64 Write(int file, const char* bytes, qint64 length) override {
+        return GivenUp() ? -1 : FileSteps::Write(file, bytes, length);
+    }
+    int Sync(int file) override { return GivenUp() ? -1 : FileSteps::Sync(file); }
+    int Rename(const QByteArray& name, const QByteArray& newName) override {
+        return GivenUp() ? -1 : FileSteps::Rename(name, newName);
+    }
+
+  private:
+    bool GivenUp() const {
+        const bool stopped = stopped_();
+        errno = stopped ? ECANCELED : errno;
+        return stopped;
+    }
+    const std::function<bool()>& stopped_;
+};
+
+WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) {
+    StoppableSteps steps(file.stopped);
+    return WriteWholeFile(file.name, bytes, steps);
+}
+
+#else
+
+WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) {
+    return file.stopped() ? WriteResult{} : WriteWholeFile(file.name, bytes);
+}
+
+#endif
+
 }  // namespace
 
 SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
@@ -36,6 +97,17 @@ SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSe
                       int flags, BlockRunner* runner) {
     return Written(EncodeBitmap(format, bitmap, flags, {.runner = runner}),
                    [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
+}
+
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
+                      int flags, BlockRunner& runner) {
+    StoppableRunner stoppable(runner, file.stopped);
+    try {
+        return Written(EncodeBitmap(format, bitmap, flags, {.runner = &stoppable}),
+                       [&](QByteArrayView bytes) { return WriteUnlessStopped(file, bytes); });
+    } catch (const Stopped&) {
+        return {};
+    }
 }
 
 }  // namespace varnel

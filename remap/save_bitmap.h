@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 #include "remap/bitmap.h"
 #include "remap/engine/block_runner.h"
@@ -34,5 +35,14 @@ struct FileInSeries {
 };
 SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
                       int flags, BlockRunner* runner = nullptr);
+
+// A file that may still be given up: asked on any thread and often until the file gets its name.
+// Once stopped says true no file is written and an older one stays as it was.
+struct StoppableFile {
+    QString name;
+    std::function<bool()> stopped;
+};
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
+                      int flags, BlockRunner& runner);
 
 }  // namespace varnel

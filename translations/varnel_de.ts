@@ -1084,6 +1084,18 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Back to the photos</source>
         <translation>Zurück zu den Fotos</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ends the saving without a file</source>
+        <translation>Beendet das Speichern ohne Datei</translation>
+    </message>
+    <message>
+        <source>Cancel the saving</source>
+        <translation>Speichern abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>FrameStudy</name>
@@ -1818,6 +1830,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>This is the photo itself; choose another name.</source>
         <translation>Das ist das Foto selbst; bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>SaveMeanwhile</name>
+    <message>
+        <source>Cancelled, nothing was saved</source>
+        <translation>Abgebrochen, nichts wurde gespeichert</translation>
     </message>
 </context>
 <context>
@@ -2705,6 +2724,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;About</source>
         <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ends the saving without a file</source>
+        <translation>Beendet das Speichern ohne Datei</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <QGroupBox>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QTimer>
 
 #include "tests/support/loading.h"
@@ -89,6 +91,40 @@ TEST(WindowOutput, DuringASaveNothingReachesThePictureAndACloseWaits) {
     EXPECT_TRUE(desk.Find("SliderX")->hasFocus());
     QTest::qWait(20);
     EXPECT_FALSE(desk.window.isVisible());
+}
+
+// While it is encoded and written, too, the window lives and the user may think better of it.
+TEST(WindowOutput, ASaveCanBeCancelledUntilItsFileIsThere) {
+    for (const bool whileWritten : {false, true}) {
+        WindowDesk desk;
+        desk.AddPhotos({Text("a.bmp")}, {3000, 2000});
+        desk.chooser.answer = SaveChoice{desk.files.Path(Text("out.PNG")), 4};
+        desk.chooser.agrees = true;
+        testing::WriteFile(desk.chooser.answer->name, "older");
+        auto* const bar = desk.Find<QProgressBar>("ImgProgressBar");
+        auto* const cancel = desk.Find<QPushButton>("CmdCancelSave");
+        int turns = 0;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            // Nobody knows how long the writing takes.
+            if (bar->isVisible() && (bar->maximum() == 0) == whileWritten && ++turns == 1) {
+                EXPECT_FALSE(desk.Find("CommandSaveFreeimage")->isEnabled());
+                cancel->click();
+            }
+        });
+        EXPECT_TRUE(cancel->isHidden());
+        look.start(0);
+        desk.Click("CommandSaveFreeimage");
+        look.stop();
+        EXPECT_GE(turns, 1) << whileWritten;
+        EXPECT_EQ(testing::Contents(desk.chooser.answer->name), "older");
+        EXPECT_EQ(desk.Label("StatusText"), Text("Cancelled, nothing was saved"));
+        EXPECT_TRUE(desk.notices.texts.isEmpty());
+        EXPECT_TRUE(cancel->isHidden());
+        EXPECT_FALSE(bar->isVisible());
+        desk.Click("CommandSaveFreeimage");
+        EXPECT_EQ(SizeOf(testing::LoadPicture(desk.chooser.answer->name).bitmap.get()).width, 3000);
+    }
 }
 
 TEST(WindowOutput, QueueingCountsAndKeepsCopies) {

@@ -8,6 +8,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -200,6 +201,28 @@ TEST_F(FormStretchTest, NeverReplacesThePhotoAndSaysWhyAFileCannotBeWritten) {
     EXPECT_TRUE(
         notices.told.last().startsWith(Text("Could not save ") + chooser.answer->name + u'|'));
     EXPECT_TRUE(CanSave());
+}
+
+TEST_F(FormStretchTest, ASaveCanBeCancelledWhileItIsWritten) {
+    photo = files.Picture(Text("large.bmp"), FIF_BMP, {2000, 1500});
+    OpenPhoto();
+    chooser.answer = SaveChoice{files.Path(Text("out.png")), 4};
+    auto& bar = The<QProgressBar>(form, "BarStretch");
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (bar.isVisible() && bar.maximum() == 0) {
+            The<QPushButton>(form, "CmdCancelSave").click();
+        }
+    });
+    look.start(0);
+    testing::Click(form, "CmdSave");
+    look.stop();
+    EXPECT_FALSE(QFileInfo::exists(chooser.answer->name));
+    EXPECT_EQ(Label("LabelStatus"), Text("Cancelled, nothing was saved"));
+    EXPECT_TRUE(notices.told.isEmpty());
+    EXPECT_TRUE(CanSave());
+    testing::Click(form, "CmdSave");
+    EXPECT_TRUE(QFileInfo::exists(chooser.answer->name));
 }
 
 TEST_F(FormStretchTest, EscapeClosesButNotBeforeASaveHasEnded) {

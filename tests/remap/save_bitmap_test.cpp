@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+#include <atomic>
 
 #include "remap/encode_bitmap.h"
+#include "remap/engine/thread_runner.h"
 #include "remap/photo_metadata.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"
@@ -41,6 +43,30 @@ TEST(SaveBitmap, AFailureGivesItsReasonAndLeavesNothingBehind) {
     EXPECT_FALSE(missing.reason.isEmpty());
     EXPECT_FALSE(SaveBitmap(FIF_PNG, bitmap.get(), folder.path(), 0).ok);  // a folder
     EXPECT_TRUE(testing::NamesIn(folder.path()).isEmpty());
+}
+
+// Whenever it is given up, in any of the moments in which that is asked.
+TEST(SaveBitmap, AFileThatIsGivenUpLeavesTheOlderOneAsItWas) {
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("a"));
+    const BitmapHandle bitmap = testing::Noise({500, 400});
+    const std::pair<FREE_IMAGE_FORMAT, int> types[] = {
+        {FIF_TIFF, TIFF_LZW}, {FIF_JPEG, 90}, {FIF_BMP, 0}, {FIF_PNG, 0}};
+    ThreadRunner runner(3);
+    for (const auto& [format, flags] : types) {
+        testing::WriteFile(name, "older");
+        int before = 0;
+        for (bool saved = false; !saved; ++before) {
+            std::atomic<int> asked = 0;
+            const StoppableFile file{name, [&] { return asked++ == before; }};
+            saved = SaveBitmap(format, bitmap.get(), file, flags, runner).ok;
+            EXPECT_EQ(testing::Contents(name) == "older", !saved) << format << ", " << before;
+            EXPECT_EQ(testing::NamesIn(folder.path()).size(), 1) << format << ", " << before;
+            ASSERT_EQ(asked > before, !saved);
+        }
+        EXPECT_GE(before, 5) << format;
+        EXPECT_EQ(testing::Contents(name), EncodeBitmap(format, bitmap.get(), flags).bytes);
+    }
 }
 
 TEST(LibraryFile, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {

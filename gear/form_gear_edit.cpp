@@ -41,10 +41,14 @@ FormGearEdit::FormGearEdit(GearTable& table, QWidget* parent)
     ui_->setupUi(this);
     prompt_ = ui_->GearNameText->text();
     adjusters_ = {
-        {ui_->SliderhAOV, ui_->SpinhAOV, ui_->LabelhAOV, tr(" \u00b0"), hAovRange},
-        {ui_->SliderRatio, ui_->SpinRatio, ui_->LabelRatio, tr(" %"), ratioRange},
-        {ui_->SliderXofset, ui_->SpinXofset, ui_->LabelXofset, tr(" \u2030 hor."), ofsetRange},
-        {ui_->SliderYofset, ui_->SpinYofset, ui_->LabelYofset, tr(" \u2030 vert."), ofsetRange},
+        {&GearRecord::hAOV, ui_->SliderhAOV, ui_->SpinhAOV, ui_->LabelhAOV, tr(" \u00b0"),
+         hAovRange},
+        {&GearRecord::GearRatio, ui_->SliderRatio, ui_->SpinRatio, ui_->LabelRatio, tr(" %"),
+         ratioRange},
+        {&GearRecord::OfsetX, ui_->SliderXofset, ui_->SpinXofset, ui_->LabelXofset,
+         tr(" \u2030 hor."), ofsetRange},
+        {&GearRecord::OfsetY, ui_->SliderYofset, ui_->SpinYofset, ui_->LabelYofset,
+         tr(" \u2030 vert."), ofsetRange},
     };
     ConnectNameText();
     ConnectChoice();
@@ -125,7 +129,7 @@ void FormGearEdit::ConnectAdjusters() {
         connect(adjuster.spin, &QSpinBox::valueChanged, adjuster.slider, &QSlider::setValue);
         connect(adjuster.slider, &QSlider::valueChanged, this, [this, &adjuster](int value) {
             Follow(adjuster, value);
-            TakeAdjustment(adjuster);
+            TakeAdjustment(adjuster, value);
         });
         // Wide enough for every value, so that nothing moves while a slider is dragged.
         const QString widest = QStringLiteral("-200") + adjuster.unit;
@@ -135,6 +139,7 @@ void FormGearEdit::ConnectAdjusters() {
 }
 
 void FormGearEdit::Open() {
+    opened_ = table_(0);
     isNew_ = table_(0).GearName.isEmpty();
     setWindowTitle(isNew_ ? tr("New camera + lens combination")
                           : tr("Redefine camera + lens combination"));
@@ -160,30 +165,33 @@ void FormGearEdit::SelectNames(const GearNames& names) {
     Select(ui_->LensCombo, names.lensModel);
 }
 
+// Another camera or another lens comes with its own numbers; what the user made of the gear's own
+// camera and lens comes back with them.
 void FormGearEdit::Choose() {
+    if (ChosenNames() == NamesOf(opened_)) {
+        table_(0) = opened_;
+    } else {
+        DropAdjustments(table_(0));
+    }
     Refresh();
     ShowState();
 }
 
-// A gear that the user adjusted keeps its numbers whatever is chosen. The sliders go back to them.
 void FormGearEdit::Refresh() {
-    const GearRecord& gear = table_(0);
-    if (!gear.UserAdjusted) {
+    if (!table_(0).UserAdjusted) {
         FillGearFromCatalogue(ChosenNames(), table_(0));
     }
     if (!BothChosen()) {
         return;  // there are no angles yet
     }
-    SetAdjuster(adjusters_[1], gear.GearRatio);
-    SetAdjuster(adjusters_[2], gear.OfsetX);
-    SetAdjuster(adjusters_[3], gear.OfsetY);
-    SetAdjuster(adjusters_[0], gear.hAOV);
-    hAovMoved_ = false;
+    for (const Adjuster& adjuster : adjusters_) {
+        ShowNumber(adjuster);
+    }
 }
 
-void FormGearEdit::SetAdjuster(const Adjuster& adjuster, float value) {
+void FormGearEdit::ShowNumber(const Adjuster& adjuster) {
     const QScopedValueRollback<bool> loading(loading_, true);
-    const int position = SliderPosition(value);
+    const int position = SliderPosition(table_(0).*adjuster.number);
     const SliderRange range = Widened(adjuster.range, position);
     adjuster.spin->setRange(range.minimum, range.maximum);
     adjuster.slider->setRange(range.minimum, range.maximum);
@@ -195,43 +203,37 @@ void FormGearEdit::Follow(const Adjuster& adjuster, int value) {
     adjuster.spin->setValue(value);
 }
 
-void FormGearEdit::TakeAdjustment(const Adjuster& adjuster) {
+void FormGearEdit::TakeAdjustment(const Adjuster& adjuster, int value) {
     if (loading_) {
         return;
     }
-    table_(0).UserAdjusted = true;
-    hAovMoved_ = hAovMoved_ || adjuster.slider == ui_->SliderhAOV;
+    SetNumber(adjuster.number, value, table_(0));
     ShowState();
 }
 
 void FormGearEdit::UseCatalogue() {
     DropAdjustments(table_(0));
-    Choose();
+    Refresh();
+    ShowState();
     ui_->SliderhAOV->setFocus();  // the button is disabled now and cannot keep it
 }
 
 void FormGearEdit::Confirm() {
-    GearEntry entry;
-    entry.typedName = NameIsPrompt() ? QString() : ui_->GearNameText->text();
-    entry.names = ChosenNames();
-    entry.sliders = {ui_->SliderRatio->value(), ui_->SliderXofset->value(),
-                     ui_->SliderYofset->value()};
-    if (hAovMoved_) {
-        entry.hAov = ui_->SliderhAOV->value();
-    }
-    entry.isNew = isNew_;
-    DefineEditedGear(table_, entry);
+    const QString typed = NameIsPrompt() ? QString() : ui_->GearNameText->text();
+    DefineEditedGear(table_, {typed, ChosenNames(), isNew_});
     accept();
 }
 
 void FormGearEdit::ShowState() {
     const bool chosen = BothChosen();
-    const bool adjusted = table_(0).UserAdjusted;
+    const bool adjusted = table_(0).SetByHand;
     ui_->CmdAdd->setEnabled(chosen);
     ui_->FrameAdjust->setEnabled(chosen);
     ui_->CmdCatalogue->setEnabled(chosen && adjusted);
     if (!chosen) {
         ui_->LabelAdjusted->setText(tr("Choose a camera and a lens first."));
+    } else if (adjusted && HasOwnAngle(table_(0)) && !HasOwnCircle(table_(0))) {
+        ui_->LabelAdjusted->setText(tr("The angle of view is set by hand."));
     } else if (adjusted) {
         ui_->LabelAdjusted->setText(tr("Ratio and offsets are set by hand."));
     } else {

@@ -41,8 +41,10 @@ class FormGearEdit : public QDialog {
     void changeEvent(QEvent* event) override;
 
   private:
-    // A slider with its exact value, its label and the range that it has for most gears.
+    // One of the gear's numbers: its slider, the same as a whole number, its label and the range
+    // that it has for most gears.
     struct Adjuster {
+        float GearRecord::*number;
         QSlider* slider;
         QSpinBox* spin;
         QLabel* label;
@@ -57,9 +59,9 @@ class FormGearEdit : public QDialog {
     void SelectNames(const GearNames& names);
     void Choose();
     void Refresh();
-    void SetAdjuster(const Adjuster& adjuster, float value);
+    void ShowNumber(const Adjuster& adjuster);
     void Follow(const Adjuster& adjuster, int value);
-    void TakeAdjustment(const Adjuster& adjuster);
+    void TakeAdjustment(const Adjuster& adjuster, int value);
     void UseCatalogue();
     void Confirm();
     void ShowState();
@@ -70,11 +72,11 @@ class FormGearEdit : public QDialog {
 
     std::unique_ptr<Ui::FormGearEdit> ui_;
     GearTable& table_;
+    GearRecord opened_;  // the gear as it came
     std::vector<Adjuster> adjusters_;
     QString prompt_;
     bool isNew_ = true;
     bool loading_ = false;  // the program moves the controls, not the user
-    bool hAovMoved_ = false;
 };
 
 }  // namespace varnel

@@ -78,6 +78,17 @@ void ComputeAngles(GearRecord& gear) {
     }
 }
 
+GearRecord CatalogueGear(const GearNames& names) {
+    GearRecord gear;
+    FillGearFromCatalogue(names, gear);
+    return gear;
+}
+
+bool Differ(float one, float other) {
+    constexpr float storedDigits = 1e-5F;  // seven digits are written
+    return std::fabs(one - other) > storedDigits * std::fabs(other);
+}
+
 }  // namespace
 
 GearNames NamesOf(const GearRecord& gear) {
@@ -91,10 +102,20 @@ void FillGearFromCatalogue(const GearNames& names, GearRecord& gear, const Edito
     FillLens(gear);
     ComputeAngles(gear);
     if (gear.UserAdjusted) {
-        gear.GearRatio = static_cast<float>(sliders.ratio);
-        gear.OfsetX = static_cast<float>(sliders.xOfset);
-        gear.OfsetY = static_cast<float>(sliders.yOfset);
+        gear.GearRatio = sliders.ratio;
+        gear.OfsetX = sliders.xOfset;
+        gear.OfsetY = sliders.yOfset;
     }
+}
+
+bool HasOwnCircle(const GearRecord& gear) {
+    const GearRecord catalogue = CatalogueGear(NamesOf(gear));
+    return Differ(gear.GearRatio, catalogue.GearRatio) || Differ(gear.OfsetX, catalogue.OfsetX) ||
+           Differ(gear.OfsetY, catalogue.OfsetY);
+}
+
+bool HasOwnAngle(const GearRecord& gear) {
+    return Differ(gear.hAOV, CatalogueGear(NamesOf(gear)).hAOV);
 }
 
 QString BuiltGearName(const GearNames& names) {

@@ -21,12 +21,13 @@ struct GearNames {
 
 GearNames NamesOf(const GearRecord& gear);
 
-// Where the gear editor's sliders stand. A gear that the user adjusted takes these values in place
-// of the catalogue's.
+// What the gear editor's sliders stand for: a moved one for its whole number, one that was not
+// moved for the gear's own number. A gear that the user adjusted takes these values in place of the
+// catalogue's.
 struct EditorSliders {
-    int ratio = 0;   // percent
-    int xOfset = 0;  // thousandths of the picture's width
-    int yOfset = 0;  // thousandths of the picture's height
+    float ratio = 0.0F;   // percent
+    float xOfset = 0.0F;  // thousandths of the picture's width
+    float yOfset = 0.0F;  // thousandths of the picture's height
 };
 
 // Writes the names, the catalogue's numbers and the angles of view and the ratio that follow from
@@ -34,6 +35,11 @@ struct EditorSliders {
 // whose numbers are still zero stays, too.
 void FillGearFromCatalogue(const GearNames& names, GearRecord& gear,
                            const EditorSliders& sliders = {});
+
+// Whether the gear's circle (ratio and offsets) or its horizontal angle is another than the
+// catalogue's, by more than a number changes that is stored as text.
+bool HasOwnCircle(const GearRecord& gear);
+bool HasOwnAngle(const GearRecord& gear);
 
 // "Canon EOS 5D + Samyang 8 mm f/3.5"
 QString BuiltGearName(const GearNames& names);

@@ -27,20 +27,31 @@ int SliderPosition(float value) {
     return static_cast<int>(std::clamp(Round(static_cast<double>(value)), -farthest, farthest));
 }
 
+void SetNumber(float GearRecord::*number, int value, GearRecord& gear) {
+    gear.UserAdjusted = true;
+    gear.SetByHand = true;
+    gear.*number = static_cast<float>(value);
+    if (number == &GearRecord::hAOV) {
+        gear.vAOV = gear.hAOV;
+    }
+}
+
 void DefineEditedGear(GearTable& table, const GearEntry& entry) {
     const bool named = !entry.typedName.trimmed().isEmpty();
     const QString name = named ? entry.typedName : BuiltGearName(entry.names);
     GearRecord& gear = table(0);
+    const GearRecord before = gear;
     gear.GearName = entry.isNew ? UniqueGearName(table, name) : name;
-    FillGearFromCatalogue(entry.names, gear, entry.sliders);
-    if (entry.hAov) {
-        // Meant so: the vertical angle stays the catalogue's.
-        gear.hAOV = static_cast<float>(*entry.hAov);
+    FillGearFromCatalogue(entry.names, gear, {before.GearRatio, before.OfsetX, before.OfsetY});
+    if (gear.UserAdjusted) {
+        gear.hAOV = before.hAOV;
+        gear.vAOV = before.vAOV;
     }
 }
 
 void DropAdjustments(GearRecord& gear) {
     gear.UserAdjusted = false;
+    gear.SetByHand = false;
     gear.OfsetX = 0.0F;
     gear.OfsetY = 0.0F;
 }

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 
 #include "gear/gear_catalogue.h"
 #include "gear/gear_record.h"
@@ -30,15 +29,18 @@ SliderRange Widened(SliderRange range, int value);
 // The nearest whole number, ties to even; what is stored may be any number.
 int SliderPosition(float value);
 
+// Gives one of the gear's numbers a value of the user's. An angle counts both ways, as it does when
+// it is read back from the store.
+void SetNumber(float GearRecord::*number, int value, GearRecord& gear);
+
 // What the user has entered when the gear is confirmed.
 struct GearEntry {
     QString typedName;  // without one the gear is named after its camera and lens
     GearNames names;
-    EditorSliders sliders;    // count for a gear that the user adjusted
-    std::optional<int> hAov;  // the horizontal angle, when the user set it
-    bool isNew = false;       // a new gear gets a name of its own
+    bool isNew = false;  // a new gear gets a name of its own
 };
 
+// An adjusted gear keeps the numbers that it has, any other gets the catalogue's.
 void DefineEditedGear(GearTable& table, const GearEntry& entry);
 
 // The catalogue's numbers count again: no adjustment, no offset of the image circle.

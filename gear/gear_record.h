@@ -38,6 +38,7 @@ struct GearRecord {
     float OfsetX = 0.0F;
     float OfsetY = 0.0F;
     float GearRatio = 0.0F;
+    bool SetByHand = false;  // angle, ratio or offsets are the user's, not the catalogue's
 
     bool operator==(const GearRecord&) const = default;
 };

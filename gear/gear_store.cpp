@@ -65,13 +65,21 @@ void ReadAdjustments(const SettingsStore& store, int n, GearRecord& gear) {
     read(setting::HorizontalAov, usableAov, gear.vAOV);
 }
 
+// Settings of older releases do not tell; then other numbers than the catalogue's are the user's.
+bool ReadSetByHand(const SettingsStore& store, int n, const GearRecord& gear) {
+    const QString told = store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
+    return told == u"1" || (told != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
+}
+
 void ReadGear(const SettingsStore& store, int n, GearRecord& gear) {
     ReadNames(store, n, gear);
     FillGearFromCatalogue(NamesOf(gear), gear);
     // Adjustments that were made to older catalogue data are dropped.
     if (ReadVersion(store, n) >= gear.LensDataVersion) {
         ReadAdjustments(store, n, gear);
+        gear.SetByHand = ReadSetByHand(store, n, gear);
     }
+    // Of every gear that was stored, also of one that the user never touched.
     gear.UserAdjusted = true;
 }
 
@@ -162,6 +170,7 @@ void SaveGear(SettingsStore& store, GearTable& table) {
         save(setting::GearRatio, FloatText(gear.GearRatio));
         save(setting::HorizontalAov, FloatText(gear.hAOV));
         save(setting::VerticalAov, FloatText(gear.vAOV));
+        save(setting::GearSetByHand, QString::number(gear.SetByHand ? 1 : 0));
     }
 }
 

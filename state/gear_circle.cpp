@@ -39,6 +39,7 @@ GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, Pi
 int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
                int current) {
     gear.UserAdjusted = true;
+    gear.SetByHand = true;
     gear.OfsetX = circle.OfsetX;
     gear.OfsetY = circle.OfsetY;
     gear.GearRatio = circle.GearRatio;

@@ -56,6 +56,7 @@ inline constexpr QLatin1StringView GearOfsetY("GearOfsetY");
 inline constexpr QLatin1StringView GearRatio("GearRatio");
 inline constexpr QLatin1StringView HorizontalAov("hAOV");
 inline constexpr QLatin1StringView VerticalAov("vAOV");
+inline constexpr QLatin1StringView GearSetByHand("GearSetByHand");  // 1 or 0; since 1.1
 
 // A project file, followed by its number: 1 is the latest.
 inline constexpr QLatin1StringView Project("Project");

@@ -2416,6 +2416,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Values of the catalogue.</source>
         <translation>Werte des Katalogs.</translation>
     </message>
+    <message>
+        <source>The angle of view is set by hand.</source>
+        <translation>Der Bildwinkel ist von Hand eingestellt.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormGearList</name>

@@ -80,7 +80,7 @@ class GearEditor : public ::testing::Test {
         Gear().hAOV = Gear().vAOV = 118.0F;
         Gear().GearRatio = 450.0F;
         Gear().OfsetX = -4.0F;
-        Gear().UserAdjusted = true;
+        Gear().UserAdjusted = Gear().SetByHand = true;
     }
 
     GearTable table_;
@@ -209,26 +209,29 @@ TEST_F(GearEditor, MovedSlidersReplaceTheCataloguesNumbers) {
     EXPECT_NEAR(Gear().hAOV, 130.9048F, 1e-4F);
 }
 
-TEST_F(GearEditor, AMovedAngleCountsAcrossOnly) {
+// What was not moved stays as exact as it was; an angle counts as when it is read back.
+TEST_F(GearEditor, AMovedAngleIsTheVerticalOneToo) {
     Open();
     ChooseZuiko();
     Move("SliderhAOV", -11);
+    EXPECT_EQ(Get<QLabel>("LabelAdjusted")->text(), u"The angle of view is set by hand.");
     Click("CmdAdd");
     EXPECT_EQ(Gear().hAOV, 120.0F);
-    EXPECT_NEAR(Gear().vAOV, 95.8779F, 1e-4F);
-    EXPECT_EQ(Gear().GearRatio, 76.0F);
+    EXPECT_EQ(Gear().vAOV, 120.0F);
+    EXPECT_NEAR(Gear().GearRatio, 75.8772F, 1e-4F);
 }
 
-TEST_F(GearEditor, AnotherModelBringsTheSlidersBack) {
+TEST_F(GearEditor, AnotherModelComesWithItsOwnNumbers) {
     Open();
     ChooseZuiko();
     Move("SliderhAOV", 5);
     Move("SliderRatio", 5);
     ChooseLens("Samyang", "7.5 mm f/3.5");
-    EXPECT_EQ(Labels(), "131 \u00b0|76 %|0 \u2030 hor.|0 \u2030 vert.");
+    EXPECT_EQ(Labels(), "137 \u00b0|74 %|0 \u2030 hor.|0 \u2030 vert.");
     Click("CmdAdd");
-    EXPECT_EQ(Gear().GearRatio, 76.0F);
+    EXPECT_NEAR(Gear().GearRatio, 74.1426F, 1e-4F);
     EXPECT_NEAR(Gear().hAOV, 136.5910F, 1e-4F);
+    EXPECT_FALSE(Gear().UserAdjusted);
 }
 
 TEST_F(GearEditor, CatalogueValuesCanBeHadBack) {
@@ -266,15 +269,28 @@ TEST_F(GearEditor, OpensAGearForRedefining) {
     EXPECT_EQ(Get<QComboBox>("LensCombo")->currentText(), u"Zuiko ED 8mm f/3.5");
     EXPECT_EQ(Labels(), "118 \u00b0|450 %|-4 \u2030 hor.|0 \u2030 vert.");
     EXPECT_EQ(Gear(), before);
+    EXPECT_TRUE(Get<QPushButton>("CmdCatalogue")->isEnabled());
 
     ChooseLens("Samyang", "7.5 mm f/3.5");
-    EXPECT_EQ(Labels(), "118 \u00b0|450 %|-4 \u2030 hor.|0 \u2030 vert.");
+    EXPECT_EQ(Labels(), "137 \u00b0|74 %|0 \u2030 hor.|0 \u2030 vert.");
+    EXPECT_EQ(Get<QLabel>("LabelAdjusted")->text(), u"Values of the catalogue.");
+    ChooseLens("Olympus", "Zuiko ED 8mm f/3.5");
+    EXPECT_EQ(Gear(), before);
+}
+
+// An angle of one's own outlives another offset and another name.
+TEST_F(GearEditor, RedefiningKeepsEveryNumberThatWasNotMoved) {
+    PutLoadedGear();
+    Gear().hAOV = Gear().vAOV = 118.3F;
+    GearRecord wanted = Gear();
+    Open();
+    EXPECT_EQ(Get<QLabel>("LabelhAOV")->text(), u"118 \u00b0");
+    Get<QLineEdit>("GearNameText")->setText(QStringLiteral("other"));
+    Move("SliderYofset", 2);
     Click("CmdAdd");
-    EXPECT_EQ(Gear().GearName, u"mine");
-    EXPECT_EQ(Gear().GearRatio, 450.0F);
-    EXPECT_EQ(Gear().OfsetX, -4.0F);
-    EXPECT_NEAR(Gear().hAOV, 136.5910F, 1e-4F);
-    EXPECT_NEAR(Gear().vAOV, 100.6953F, 1e-4F);
+    wanted.GearName = QStringLiteral("other");
+    wanted.OfsetY = 2.0F;
+    EXPECT_EQ(Gear(), wanted);
 }
 
 TEST_F(GearEditor, RedefinesAnUnadjustedGearFromTheCatalogue) {

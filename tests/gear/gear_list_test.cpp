@@ -112,28 +112,26 @@ TEST(GearEntry, NamesTheGear) {
 }
 
 TEST(GearEntry, TakesOnlyWhatTheUserSet) {
-    const struct {
-        bool adjusted;
-        std::optional<int> hAov;
-        float ratio, ofsetX, ofsetY, horizontal;
-    } cases[] = {
-        {false, std::nullopt, 75.8772F, 0.0F, 0.0F, 130.9048F},
-        {true, std::nullopt, 81.0F, -7.0F, 9.0F, 130.9048F},
-        {true, 118, 81.0F, -7.0F, 9.0F, 118.0F},
-    };
-    for (const auto& c : cases) {
-        GearTable table;
-        table(0).UserAdjusted = c.adjusted;
-        DefineEditedGear(table, {{}, Zuiko(), {81, -7, 9}, c.hAov, true});
-        EXPECT_NEAR(table(0).GearRatio, c.ratio, 1e-4F);
-        EXPECT_EQ(table(0).OfsetX, c.ofsetX);
-        EXPECT_EQ(table(0).OfsetY, c.ofsetY);
-        EXPECT_NEAR(table(0).hAOV, c.horizontal, 1e-4F);
-        EXPECT_NEAR(table(0).vAOV, 95.8779F, 1e-4F);
-        DropAdjustments(table(0));
-        EXPECT_FALSE(table(0).UserAdjusted);
-        EXPECT_EQ(table(0).OfsetX + table(0).OfsetY, 0.0F);
-    }
+    GearTable table;
+    FillGearFromCatalogue(Zuiko(), table(0));
+    const GearRecord catalogue = table(0);
+    DefineEditedGear(table, {QStringLiteral("a"), Zuiko(), true});
+    EXPECT_EQ(table(0).hAOV, catalogue.hAOV);
+    EXPECT_FALSE(table(0).UserAdjusted);
+    SetNumber(&GearRecord::OfsetX, -7, table(0));
+    DefineEditedGear(table, {QStringLiteral("b"), Zuiko(), false});
+    EXPECT_EQ(table(0).OfsetX, -7.0F);
+    EXPECT_EQ(table(0).GearRatio, catalogue.GearRatio);
+    EXPECT_EQ(table(0).vAOV, catalogue.vAOV);
+    SetNumber(&GearRecord::hAOV, 118, table(0));
+    DefineEditedGear(table, {{}, Zuiko(), false});
+    EXPECT_EQ(table(0).hAOV, 118.0F);
+    EXPECT_EQ(table(0).vAOV, 118.0F);
+    EXPECT_TRUE(table(0).UserAdjusted && table(0).SetByHand);
+    DropAdjustments(table(0));
+    DefineEditedGear(table, {catalogue.GearName, Zuiko(), false});
+    table(0).GearName.clear();
+    EXPECT_EQ(table(0), catalogue);
 }
 
 TEST(GearEntry, FitsSlidersAndRanges) {

@@ -92,6 +92,7 @@ TEST(SaveGear, WritesTheKeysInOrder) {
         {Text("Olympus"), Text("E-3"), Text("Olympus"), Text("Zuiko ED 8mm f/3.5")}, table(1));
     table(1).GearName = Text("one");
     table(1).OfsetX = -2.0F;
+    table(1).SetByHand = true;
     table(2).GearName = Text("two");
     table(2).LensDataVersion = 1;
     table(2).OfsetY = 0.5F;
@@ -104,10 +105,11 @@ TEST(SaveGear, WritesTheKeysInOrder) {
                    "Gear/GearLensBrand1=Olympus|Gear/GearLensModel1=Zuiko ED 8mm f/3.5|"
                    "Gear/GearLensDataVersion1=0|Gear/GearOfsetX1=-2|Gear/GearOfsetY1=0|"
                    "Gear/GearRatio1=75.87719|Gear/hAOV1=130.9048|Gear/vAOV1=95.87793|"
+                   "Gear/GearSetByHand1=1|"
                    "Gear/GearName2=two|Gear/GearCameraBrand2=|Gear/GearCameraModel2=|"
                    "Gear/GearLensBrand2=|Gear/GearLensModel2=|Gear/GearLensDataVersion2=1|"
                    "Gear/GearOfsetX2=0|Gear/GearOfsetY2=0.5|Gear/GearRatio2=0|Gear/hAOV2=0|"
-                   "Gear/vAOV2=0"));
+                   "Gear/vAOV2=0|Gear/GearSetByHand2=0"));
 }
 
 TEST(SaveGear, MakesASingleGearTheDefault) {
@@ -129,7 +131,7 @@ TEST(LoadGear, ReadsTheKeysInOrderAndWritesNothing) {
               Text("?Gear/DefaultGearName|?Gear/NumGear|?Gear/GearName1|?Gear/GearCameraBrand1|"
                    "?Gear/GearCameraModel1|?Gear/GearLensBrand1|?Gear/GearLensModel1|"
                    "?Gear/GearLensDataVersion1|?Gear/GearOfsetX1|?Gear/GearOfsetY1|"
-                   "?Gear/GearRatio1|?Gear/hAOV1|?Gear/hAOV1"));
+                   "?Gear/GearRatio1|?Gear/hAOV1|?Gear/hAOV1|?Gear/GearSetByHand1"));
 }
 
 TEST(LoadGear, ReadsOneGearWithoutACountAndKeepsCatalogueValuesForMissingKeys) {
@@ -173,6 +175,35 @@ TEST(LoadGear, AppliesStoredAdjustmentsAndTheHorizontalAngleTwice) {
     EXPECT_EQ(gear.GearRatio, 80.25F);
     EXPECT_EQ(gear.hAOV, 118.125F);
     EXPECT_EQ(gear.vAOV, 118.125F);
+}
+
+TEST(LoadGear, KnowsWhetherNumbersAreTheUsers) {
+    const struct {
+        const char *key, *text, *told;
+        bool byHand;
+    } cases[] = {
+        {"GearRatio1", "75.87719", nullptr, false},  // as older releases stored the catalogue's
+        {"hAOV1", "130.9048", nullptr, false},
+        {"GearRatio1", "76", nullptr, true},
+        {"hAOV1", "130", nullptr, true},
+        {"GearOfsetY1", "0.5", nullptr, true},
+        {"hAOV1", "130", "?", true},
+        {"hAOV1", "130", "0", false},
+        {"hAOV1", "130.9048", "1", true},
+        {"GearLensDataVersion1", "-1", "1", false},
+    };
+    for (const auto& c : cases) {
+        RecordingStore store;
+        PutZuiko(store);
+        store.Put(c.key, c.text);
+        if (c.told != nullptr) {
+            store.Put("GearSetByHand1", c.told);
+        }
+        GearTable table = Load(store);
+        EXPECT_EQ(table(1).SetByHand, c.byHand) << c.key << c.text;
+        SaveGear(store, table);
+        EXPECT_EQ(Load(store)(1).SetByHand, c.byHand) << c.key << c.text;
+    }
 }
 
 TEST(LoadGear, KeepsCatalogueValuesWhereTheStoredOneIsNoNumber) {

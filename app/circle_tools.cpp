@@ -12,6 +12,7 @@
 #include "app/menu_entry.h"
 #include "gear/gear_store.h"
 #include "pipeline/photo_circle.h"
+#include "state/shortage.h"
 
 namespace varnel {
 
@@ -167,7 +168,7 @@ void CircleTools::Find() {
             view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
         }
     } catch (const std::bad_alloc&) {
-        view_.ShowStatus(tr("There is not enough memory."));
+        view_.ShowStatus(ShortageText(Scarce::Memory));
     }
 }
 

@@ -13,6 +13,7 @@
 #include "pipeline/preview_size.h"
 #include "remap/paint.h"
 #include "remap/run_time_error.h"
+#include "state/shortage.h"
 
 namespace varnel {
 
@@ -45,15 +46,36 @@ ContactSheetBox::ContactSheetBox(QWidget* parent) : QWidget(parent) {
 void ContactSheetBox::Open(const ImageRecord& image, FIBITMAP* photo, bool smooth) {
     image_ = image;
     smooth_ = smooth;
-    photo_ = ReducedCopy(photo, PreviewSize(SizeOf(photo), largestTile, largestTile));
     tiles_ = ContactTiles(image);
     const auto current = std::ranges::find(tiles_, true, &ContactTile::isCurrent);
     marked_ = current == tiles_.end() ? 0 : static_cast<int>(current - tiles_.begin());
-    Restart();
+    const QString shortage = Shortage([&] {
+        photo_ = ReducedCopy(photo, PreviewSize(SizeOf(photo), largestTile, largestTile));
+        Restart();
+    });
+    if (GiveUpFor(shortage)) {
+        return;
+    }
     focusBefore_ = window()->focusWidget();
     show();
     raise();
     setFocus();
+}
+
+bool ContactSheetBox::GiveUpFor(const QString& shortage) {
+    if (shortage.isEmpty()) {
+        return false;
+    }
+    hide();
+    Drop();
+    Q_EMIT GivenUp(shortage);
+    return true;
+}
+
+void ContactSheetBox::Drop() {
+    idle_.stop();
+    photo_.reset();
+    source_.reset();
 }
 
 void ContactSheetBox::Restart() {
@@ -73,18 +95,24 @@ void ContactSheetBox::DrawNext() {
     if (IsDrawn()) {
         return;
     }
-    QImage& picture = pictures_[next_];
-    try {
-        const BitmapHandle bitmap = TilePicture(tiles_[next_], source_.get(), smooth_);
-        picture = ImageOf(bitmap.get());
-        picture.setDevicePixelRatio(devicePixelRatioF());
-    } catch (const RunTimeError&) {
-        picture = QImage();  // stays empty, as its preview would
+    if (GiveUpFor(Shortage([this] { Draw(next_); }))) {
+        return;
     }
     ++next_;
     update();
     if (!IsDrawn()) {
         idle_.start(0);
+    }
+}
+
+void ContactSheetBox::Draw(std::size_t tile) {
+    QImage& picture = pictures_[tile];
+    try {
+        const BitmapHandle bitmap = TilePicture(tiles_[tile], source_.get(), smooth_);
+        picture = ImageOf(bitmap.get());
+        picture.setDevicePixelRatio(devicePixelRatioF());
+    } catch (const RunTimeError&) {
+        picture = QImage();  // stays empty, as its preview would
     }
 }
 
@@ -194,15 +222,13 @@ void ContactSheetBox::keyPressEvent(QKeyEvent* event) {
 
 bool ContactSheetBox::eventFilter(QObject* watched, QEvent* event) {
     if (watched == parentWidget() && event->type() == QEvent::Resize && isVisible()) {
-        Restart();
+        GiveUpFor(Shortage([this] { Restart(); }));
     }
     return QWidget::eventFilter(watched, event);
 }
 
 void ContactSheetBox::hideEvent(QHideEvent* /*event*/) {
-    idle_.stop();
-    photo_.reset();
-    source_.reset();
+    Drop();
     if (hasFocus() && focusBefore_) {
         focusBefore_->setFocus();
     }

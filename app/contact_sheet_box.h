@@ -21,7 +21,8 @@ class ContactSheetBox : public QWidget {
     Q_OBJECT
   public:
     explicit ContactSheetBox(QWidget* parent);
-    // Of a record and its photo, which is read before this returns.
+    // Of a record and its photo, which is read before this returns. Closes where there is no memory
+    // for the tiles.
     void Open(const ImageRecord& image, FIBITMAP* photo, bool smooth);
     const std::vector<ContactTile>& Tiles() const { return tiles_; }
     // The picture of a tile; null while it is not drawn yet or when it cannot be.
@@ -33,6 +34,8 @@ class ContactSheetBox : public QWidget {
   Q_SIGNALS:
     // A tile was chosen; the sheet is closed then.
     void Chosen(const ContactTile& tile);
+    // Something was short; the sheet is closed then.
+    void GivenUp(const QString& shortage);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -47,7 +50,10 @@ class ContactSheetBox : public QWidget {
     QSize CellSize() const;
     int TileAt(QPoint position) const;  // -1 for none
     void DrawNext();
+    void Draw(std::size_t tile);
     void Restart();
+    bool GiveUpFor(const QString& shortage);  // when it is not empty
+    void Drop();
     void PaintTile(QPainter& painter, std::size_t tile) const;
     void MoveTo(int tile);
     void Choose(int tile);

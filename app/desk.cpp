@@ -11,6 +11,7 @@
 #include "pipeline/preview_size.h"
 #include "remap/run_time_error.h"
 #include "state/gear_assignment.h"
+#include "state/shortage.h"
 #include "state/told_reason.h"
 
 namespace varnel {
@@ -108,7 +109,11 @@ void Desk::ShowLine(int line) {
 bool Desk::LoadAndReduce(int line) {
     const Hourglass hourglass(view_);
     try {
-        return LoadFull(line) && RebuildThumbnail();
+        if (!LoadFull(line)) {
+            return false;
+        }
+        Reduce();
+        return true;
     } catch (const std::bad_alloc&) {
         state_.bitmaps = {};
         loadTrouble_ = Texts::tr("there is not enough memory");
@@ -118,16 +123,26 @@ bool Desk::LoadAndReduce(int line) {
     }
 }
 
-bool Desk::RebuildThumbnail() {
+void Desk::Reduce() {
     FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
-    if (full == nullptr) {
-        return false;
-    }
     const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
     view_.ShowSource(state_.bitmaps.PreviewSourceBitmap.get());
-    return true;
+}
+
+bool Desk::RebuildThumbnail() {
+    if (!state_.bitmaps.FullSourceBitmap) {
+        return false;
+    }
+    const QString shortage = Shortage([this] { Reduce(); });
+    if (!shortage.isEmpty()) {
+        loadTrouble_ = shortage;
+        view_.ShowSource(nullptr);
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(shortage);
+    }
+    return shortage.isEmpty();
 }
 
 // A preview that is asked for while one is drawn is drawn after it, with what is current then: a
@@ -162,7 +177,7 @@ void Desk::RenderThumbnail(const ImageRecord& image) {
         view_.ShowStatus(ToldReason(error.what()));
     } catch (const std::bad_alloc&) {
         view_.ShowResult(nullptr);
-        view_.ShowStatus(Texts::tr("There is not enough memory."));
+        view_.ShowStatus(ShortageText(Scarce::Memory));
     }
 }
 

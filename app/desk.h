@@ -74,7 +74,8 @@ class Desk {
     // A line became current: loads its photo at full size, gives it its gear, shows and previews
     // it.
     void ShowLine(int line);
-    // The photo at preview size, into the source picture. False when there is none.
+    // The photo at preview size, into the source picture. False when there is none, or no memory
+    // for it, which the status says.
     bool RebuildThumbnail();
     // Draws the current photo's preview, if automatic preview is on.
     void Preview();
@@ -135,6 +136,7 @@ class Desk {
   private:
     bool LoadFull(int line);
     bool LoadAndReduce(int line);
+    void Reduce();
     void TellNotOpened(const ImageRecord& image);
     // Shows the current record's values again after something else changed them.
     void RefreshCurrent();

@@ -5,12 +5,12 @@
 
 #include <unistd.h>
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
 #include <iostream>
 #include <optional>
 
+#include "app/application.h"
 #include "app/console_start.h"
 #include "app/focus_style.h"
 #include "app/main_window.h"
@@ -36,8 +36,9 @@ QStringList Absolute(const QStringList& files) {
     return paths;
 }
 
-int RunWindow(QApplication& application, const QStringList& files, SettingsStore& userStore) {
+int RunWindow(Application& application, const QStringList& files, SettingsStore& userStore) {
     MessageBoxes notices;
+    application.TellTo(&notices);
     TellOf(userStore, notices);
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
@@ -60,6 +61,7 @@ int RunWindow(QApplication& application, const QStringList& files, SettingsStore
     window.OpenAtStart(Absolute(files));
     window.show();
     const int exitCode = QApplication::exec();
+    application.TellTo(nullptr);
     TellOf(store, notices);  // the window's layout is saved last
     return exitCode;
 }
@@ -75,7 +77,7 @@ int main(int argc, char* argv[]) {
     if (const int* const exitCode = std::get_if<int>(&start)) {
         return *exitCode;
     }
-    QApplication application(argc, argv);
+    Application application(argc, argv);
     QApplication::setStyle(new FocusStyle);
     QApplication::setApplicationName(QStringLiteral("varnel"));
     QApplication::setApplicationDisplayName({});

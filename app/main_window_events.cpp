@@ -4,6 +4,7 @@
 // What happens on the main window: one short handler each; the work is the desk's.
 
 #include <QGuiApplication>
+#include <QScopeGuard>
 #include <QShortcut>
 #include <QSpinBox>
 #include <utility>
@@ -99,10 +100,12 @@ void MDIForm1::OnSliderChanged(SliderRow* row) {
         return;
     }
     QWidget* const focused = focusWidget();
-    row->Slider()->setEnabled(false);
-    view_->HandleEvents();
-    desk_->StoreControls(true);
-    row->Slider()->setEnabled(true);
+    {
+        row->Slider()->setEnabled(false);
+        const auto enable = qScopeGuard([row] { row->Slider()->setEnabled(true); });
+        view_->HandleEvents();
+        desk_->StoreControls(true);
+    }
     if (focused != nullptr) {
         focused->setFocus();
     }
@@ -137,12 +140,14 @@ void MDIForm1::OnRoomChanged() {
         roomSettled_.start(150);
         return;
     }
-    if (full == nullptr || reduced == nullptr) {
+    if (full == nullptr) {
         return;
     }
     const PixelSize wanted = PreviewSize(SizeOf(full), view_->PreviewBox(), view_->PictureRoom());
-    if (wanted.width != SizeOf(reduced).width || wanted.height != SizeOf(reduced).height) {
-        desk_->RebuildThumbnail();
+    // There may have been no memory for the one before.
+    if ((reduced == nullptr || wanted.width != SizeOf(reduced).width ||
+         wanted.height != SizeOf(reduced).height) &&
+        desk_->RebuildThumbnail()) {
         desk_->Preview();
     }
 }

@@ -4,8 +4,6 @@
 #include "app/sheet_tools.h"
 #include "app/menu_entry.h"
 
-#include <new>
-
 namespace varnel {
 
 SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
@@ -21,6 +19,8 @@ SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
     connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
     connect(box_, &ContactSheetBox::Chosen, this,
             [this](const ContactTile& tile) { desk_.AdoptTile(tile); });
+    connect(box_, &ContactSheetBox::GivenUp, this,
+            [this](const QString& shortage) { view_.ShowStatus(shortage); });
     // What the tiles show would no longer hold.
     connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &SheetTools::CloseSheet);
 }
@@ -30,11 +30,7 @@ void SheetTools::Toggle() {
     if (box_->isVisible()) {
         box_->hide();
     } else if (photo != nullptr && desk_.Current() != nullptr && !desk_.Busy()) {
-        try {
-            box_->Open(desk_.PreparedCurrent(), photo, view_.Antialiased());
-        } catch (const std::bad_alloc&) {
-            view_.ShowStatus(tr("There is not enough memory."));
-        }
+        box_->Open(desk_.PreparedCurrent(), photo, view_.Antialiased());
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QRegularExpressionValidator>
+#include <QScopeGuard>
 #include <QThread>
 #include <array>
 
@@ -16,6 +17,7 @@
 #include "pipeline/slider_binding.h"
 #include "remap/run_time_error.h"
 #include "state/default_choices.h"
+#include "state/shortage.h"
 #include "ui_form_batch.h"
 
 namespace varnel {
@@ -222,15 +224,26 @@ void FormBatch::Process() {
         notices_.Tell(trouble, tr("Choose another folder."));
         return;
     }
-    progress_->Start(queue_.UpperBound());
-    ShowRunning(true);
-    EventsMeanwhile wait;
-    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait, settings_.AutoOrient);
-    const BatchSummary summary = RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
-    ShowRunning(false);
-    progress_->Stop();
+    BatchSummary summary;
+    const QString shortage = Shortage([&] { summary = Run(); });
+    if (!shortage.isEmpty()) {
+        notices_.Tell(shortage, QString());
+        return;
+    }
     ClearQueue();
     ShowSummary(summary);
+}
+
+BatchSummary FormBatch::Run() {
+    progress_->Start(queue_.UpperBound());
+    ShowRunning(true);
+    const auto atEnd = qScopeGuard([this] {
+        ShowRunning(false);
+        progress_->Stop();
+    });
+    EventsMeanwhile wait;
+    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait, settings_.AutoOrient);
+    return RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
 }
 
 void FormBatch::Stop() {

@@ -55,6 +55,7 @@ class FormBatch : public QDialog {
     void ShowSummary(const BatchSummary& summary);
 
     void Process();
+    BatchSummary Run();
     void Stop();
     void ClearQueue();
     void MakeFolder();

@@ -15,6 +15,7 @@
 #include "remap/render.h"
 #include "remap/rounding.h"
 #include "remap/run_time_error.h"
+#include "state/shortage.h"
 #include "state/told_reason.h"
 #include "ui_form_morph.h"
 
@@ -195,14 +196,17 @@ void FormMorph::MarkUnused() {
 void FormMorph::SetUpPictures(FIBITMAP* previewSource) {
     for (QLabel* const label : {ui_->PicFirst, ui_->PicBetween, ui_->PicLast}) {
         label->setMinimumSize(pictureBox.width, pictureBox.height);
-        label->setText(tr("No preview"));
+        label->setWordWrap(true);
     }
     if (previewSource != nullptr) {
         const double ratio = devicePixelRatioF() * drawnLarger;
         const PixelSize box{CLng(pictureBox.width * ratio, "a side"),
                             CLng(pictureBox.height * ratio, "a side")};
-        bitmaps_.PreviewSourceBitmap =
-            ReducedCopy(previewSource, PreviewSize(SizeOf(previewSource), box, box));
+        const QString shortage = Shortage([&] {
+            bitmaps_.PreviewSourceBitmap =
+                ReducedCopy(previewSource, PreviewSize(SizeOf(previewSource), box, box));
+        });
+        noPreview_ = shortage.isEmpty() ? noPreview_ : shortage;
     }
     for (const Picture picture : {First, Between, Last}) {
         DrawLater(picture);
@@ -269,17 +273,24 @@ void FormMorph::DrawPending() {
 
 void FormMorph::Draw(QLabel& label, int i, int N) {
     if (!bitmaps_.PreviewSourceBitmap || N == 0) {
-        label.setText(tr("No preview"));
+        label.setText(noPreview_);
         return;
     }
     SilentProgress silent;
     RenderDesk desk{bitmaps_, [] { return true; }, &runner_};
+    QString trouble;
     try {
-        Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
-               desk);
-        label.setPixmap(InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
+        trouble = Shortage([&] {
+            Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
+                   desk);
+            label.setPixmap(
+                InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
+        });
     } catch (const RunTimeError& error) {
-        label.setText(ToldReason(error.what()));
+        trouble = ToldReason(error.what());
+    }
+    if (!trouble.isEmpty()) {
+        label.setText(trouble);
     }
 }
 
@@ -298,7 +309,7 @@ void FormMorph::AddFrames() {
         notices_.Tell(tr("No images were added"), ToldReason(error.what()));
         return;
     } catch (const std::bad_alloc&) {
-        notices_.Tell(tr("No images were added"), tr("There is not enough memory."));
+        notices_.Tell(tr("No images were added"), ShortageText(Scarce::Memory));
         return;
     }
     if (N < 1) {

@@ -72,6 +72,7 @@ class FormMorph : public QDialog {
     ThreadRunner runner_;
     QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
     std::array<bool, 3> pending_{};
+    QString noPreview_ = tr("No preview");  // or why there is none
 };
 
 }  // namespace varnel

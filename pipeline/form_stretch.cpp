@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QScopeGuard>
 #include <new>
 
 #include "pipeline/output_name.h"
@@ -17,6 +18,7 @@
 #include "remap/photo_metadata.h"
 #include "remap/rounding.h"
 #include "remap/save_bitmap.h"
+#include "state/shortage.h"
 #include "state/told_reason.h"
 #include "ui_form_stretch.h"
 
@@ -147,21 +149,30 @@ void FormStretch::Open(const QString& path) {
         return;
     }
     const Hourglass hourglass;
-    busy_ = true;  // events are handled meanwhile
-    LoadedPicture loaded = photos_.Load(path);
-    busy_ = false;
+    LoadedPicture loaded;
+    BitmapHandle copy;
+    PixelSize size;
+    const QString shortage = Shortage([&] {
+        busy_ = true;  // events are handled meanwhile
+        const auto idle = qScopeGuard([this] { busy_ = false; });
+        loaded = photos_.Load(path);
+        if (loaded.bitmap) {
+            size = SizeOf(loaded.bitmap.get());
+            copy =
+                ReducedCopy(loaded.bitmap.get(), PreviewSize(size, largestPreview, largestPreview));
+        }
+    });
     if (photos_.GivenUp()) {
         return;
     }
-    if (!loaded.bitmap) {
-        notices_.Tell(tr("Could not open image"),
-                      QStringLiteral("%1: %2").arg(path, loaded.reason));
+    if (!copy) {
+        notices_.Tell(
+            tr("Could not open image"),
+            QStringLiteral("%1: %2").arg(path, shortage.isEmpty() ? loaded.reason : shortage));
         return;
     }
     path_ = path;
-    const PixelSize size = SizeOf(loaded.bitmap.get());
-    screenCopy_ =
-        ReducedCopy(loaded.bitmap.get(), PreviewSize(size, largestPreview, largestPreview));
+    screenCopy_ = std::move(copy);
     bitmaps_ = {};
     bitmaps_.FullSourceBitmap = std::move(loaded.bitmap);
     ui_->LabelFile->setText(QFileInfo(path).fileName());
@@ -178,9 +189,18 @@ void FormStretch::FitPreview() {
         return;
     }
     const PixelSize room = PixelsOf(ui_->PicStretch->Room(), devicePixelRatioF());
-    bitmaps_.PreviewSourceBitmap =
-        ReducedCopy(screenCopy_.get(), PreviewSize(SizeOf(screenCopy_.get()), room, room));
+    const QString shortage = Shortage([&] {
+        bitmaps_.PreviewSourceBitmap =
+            ReducedCopy(screenCopy_.get(), PreviewSize(SizeOf(screenCopy_.get()), room, room));
+    });
+    ShowShortage(shortage);
     DrawPreview();
+}
+
+void FormStretch::ShowShortage(const QString& shortage) {
+    if (!shortage.isEmpty()) {
+        ui_->LabelStatus->setText(shortage);
+    }
 }
 
 void FormStretch::DrawPreview() {
@@ -189,8 +209,10 @@ void FormStretch::DrawPreview() {
     }
     SilentProgress silent;
     RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
-    RenderStretch(Curve(), SizeKind::Thumbnails, silent, desk);
-    ui_->PicStretch->Show(ImageOf(bitmaps_.ResultBitmap.get()));
+    ShowShortage(Shortage([&] {
+        RenderStretch(Curve(), SizeKind::Thumbnails, silent, desk);
+        ui_->PicStretch->Show(ImageOf(bitmaps_.ResultBitmap.get()));
+    }));
 }
 
 void FormStretch::Save() {
@@ -206,7 +228,7 @@ void FormStretch::Save() {
         const Hourglass hourglass;
         RenderAndSave(*choice);
     } catch (const std::bad_alloc&) {
-        notices_.Tell(tr("Could not save %1").arg(choice->name), tr("There is not enough memory."));
+        notices_.Tell(tr("Could not save %1").arg(choice->name), ShortageText(Scarce::Memory));
     }
     bitmaps_.ResultBitmap.reset();  // full size: too much to keep for nothing
     SetBusy(false);

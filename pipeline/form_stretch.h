@@ -50,6 +50,7 @@ class FormStretch : public QDialog {
     void ShowValues();
     void FitPreview();
     void DrawPreview();
+    void ShowShortage(const QString& shortage);  // when it is not empty
     void Save();
     void RenderAndSave(const SaveChoice& choice);
     SaveResult Rendered(const SaveChoice& choice);

@@ -2221,10 +2221,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Auf diesem Foto wurde kein Rand eines Bildkreises gefunden.</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
-    </message>
-    <message>
         <source>Change the gear &quot;%1&quot; to %2? Photos that are adjusted already keep their circle, but for the current one.</source>
         <translation>Die Ausrüstung „%1“ auf %2 ändern? Fotos, die schon angepasst sind, behalten ihren Kreis, bis auf das aktuelle.</translation>
     </message>
@@ -2506,10 +2502,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Es wurden keine Bilder hinzugefügt</translation>
     </message>
     <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
-    </message>
-    <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 Bilder hinzugefügt, %2 im Stapel</translation>
     </message>
@@ -2562,10 +2554,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Could not save %1</source>
         <translation>%1 konnte nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -2868,10 +2856,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>&amp;Contact sheet</source>
         <translation>Kontakt&amp;bogen</translation>
     </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
-    </message>
 </context>
 <context>
     <name>varnel::StartHint</name>
@@ -2955,6 +2939,24 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>Shortage</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>The system gives no more threads.</source>
+        <translation>Das System gibt keine weiteren Threads her.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::Application</name>
+    <message>
+        <source>What was just begun was not done.</source>
+        <translation>Was gerade begonnen wurde, ist nicht ausgeführt.</translation>
     </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 
 #include "pipeline/folder_chooser.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -136,7 +137,8 @@ bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            if (const QModelIndex index = tree_.currentIndex(); tree_.hasFocus()) {
+            const QModelIndex index = tree_.currentIndex();
+            if (!tree_.isAncestorOf(QApplication::focusWidget())) {
                 tree_.setExpanded(index, !tree_.isExpanded(index));
             }
             return true;

@@ -1840,6 +1840,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>Shortage</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>The system gives no more threads.</source>
+        <translation>Das System gibt keine weiteren Threads her.</translation>
+    </message>
+</context>
+<context>
     <name>Sliders</name>
     <message>
         <source>Input hAOV</source>
@@ -2165,6 +2176,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Draws the preview now</source>
         <translation>Zeichnet die Vorschau jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::Application</name>
+    <message>
+        <source>What was just begun was not done.</source>
+        <translation>Was gerade begonnen wurde, ist nicht ausgeführt.</translation>
     </message>
 </context>
 <context>
@@ -2939,24 +2957,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-</context>
-<context>
-    <name>Shortage</name>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
-    </message>
-    <message>
-        <source>The system gives no more threads.</source>
-        <translation>Das System gibt keine weiteren Threads her.</translation>
-    </message>
-</context>
-<context>
-    <name>varnel::Application</name>
-    <message>
-        <source>What was just begun was not done.</source>
-        <translation>Was gerade begonnen wurde, ist nicht ausgeführt.</translation>
     </message>
 </context>
 </TS>

@@ -67,7 +67,7 @@ class ContactSheetBox : public QWidget {
     std::size_t next_ = 0;
     int marked_ = 0;
     QPointer<QWidget> focusBefore_;
-    QTimer idle_;
+    QTimer idle_{this};
 };
 
 }  // namespace varnel

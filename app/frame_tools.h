@@ -45,7 +45,7 @@ class FrameTools : public QObject, private FramePort {
     WindowView& view_;
     Desk& desk_;
     const WorkingState& state_;
-    QTimer update_;  // fires when the input at hand is handled
+    QTimer update_{this};  // fires when the input at hand is handled
     FrameOverlay frameOverlay_;
     MagnificationOverlay map_;
     QAction* frame_;

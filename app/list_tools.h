@@ -50,8 +50,8 @@ class ListTools : public QObject, private PreviewMaker {
     NewSmallReader newReader_;
     std::unique_ptr<PictureReader> reader_;
     IdlePreviews previews_;
-    QTimer refresh_;
-    QTimer resume_;
+    QTimer refresh_{this};
+    QTimer resume_{this};
     QString underWay_;
     QHash<QString, QPixmap> pictures_;  // of each path
     QHash<QString, QString> troubles_;

@@ -90,8 +90,8 @@ class MDIForm1 : public QMainWindow {
     std::unique_ptr<Desk> desk_;
     ProjectTools* projects_ = nullptr;
     ListTools* list_ = nullptr;
-    QTimer livePreview_;  // fires when the input at hand is handled: many moves, one preview
-    QTimer roomSettled_;
+    QTimer livePreview_{this};  // fires when the input at hand is handled: many moves, one preview
+    QTimer roomSettled_{this};
     QStringList filesAtStart_;
     bool started_ = false;
     bool closeWanted_ = false;

@@ -48,7 +48,7 @@ class PartFeed : public QObject {
     Projection projection_ = Projection::Rectilinear;
     ImageRecord image_;    // what part_ is drawn with
     bool failed_ = false;  // with these settings there is no picture
-    QTimer timer_;
+    QTimer timer_{this};
 };
 
 }  // namespace varnel

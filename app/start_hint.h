@@ -27,7 +27,7 @@ class StartHint : public QWidget {
     void Light(bool lit);
 
     WindowParts parts_;
-    QTimer look_;  // fires when the list is filled and the gears are there
+    QTimer look_{this};  // fires when the list is filled and the gears are there
     bool lit_ = false;
 };
 

@@ -57,7 +57,7 @@ class FolderChooser : public QObject {
     Volumes currentVolumes_;
     std::vector<Volume> volumes_;  // as listed
     FolderModel folders_;
-    QTimer arrived_;
+    QTimer arrived_{this};
     QString folder_;
 };
 

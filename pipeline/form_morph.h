@@ -70,7 +70,7 @@ class FormMorph : public QDialog {
     std::function<void(int)> queueChanged_;
     Bitmaps bitmaps_;
     ThreadRunner runner_;
-    QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
+    QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
     std::array<bool, 3> pending_{};
     QString noPreview_ = tr("No preview");  // or why there is none
 };

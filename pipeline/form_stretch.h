@@ -66,8 +66,8 @@ class FormStretch : public QDialog {
     BitmapHandle screenCopy_;  // the photo at most as large as a screen, for quick resizing
     Bitmaps bitmaps_;
     ThreadRunner runner_;
-    QTimer drawTimer_;  // fires when no event waits any more: the newest values are drawn
-    QTimer fitTimer_;
+    QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
+    QTimer fitTimer_{this};
     CancelFlag cancelled_ = false;
     bool busy_ = false;
     bool closeWanted_ = false;

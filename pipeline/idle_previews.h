@@ -54,7 +54,7 @@ class IdlePreviews : public QObject {
     PreviewMaker& maker_;
     int keyRole_;
     QString underWay_;  // the key of the line whose picture is being made
-    QTimer timer_;
+    QTimer timer_{this};
 };
 
 }  // namespace varnel

@@ -13,6 +13,7 @@
 #include "pipeline/form_morph.h"
 #include "pipeline/form_stretch.h"
 #include "state/form_setup.h"
+#include "tests/support/settled.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel::testing {
@@ -29,7 +30,7 @@ void Show(QWidget& form, const Look& look) {
     form.show();
     form.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
-    QTest::qWait(50);
+    EXPECT_TRUE(Settle());
     look(form);
 }
 
@@ -45,7 +46,7 @@ void ShowMainWindow(WindowDesk& desk, const Look& look, PixelSize photo) {
     for (const char* const entry :
          {"CmdViewMagnification", "CmdViewCircle", "CmdToolsLevel", "CmdEditUndo"}) {
         desk.Entry(entry)->trigger();
-        QTest::qWait(20);
+        EXPECT_TRUE(Settle());
         look(desk.window);
     }
     QTest::keyClick(desk.Find("PicSmallFrom"), Qt::Key_Right, Qt::ControlModifier);
@@ -53,7 +54,7 @@ void ShowMainWindow(WindowDesk& desk, const Look& look, PixelSize photo) {
     GearOffer offer;
     offer.define = true;
     desk.window.findChild<GearOfferRow*>()->Show(offer, desk.state.Gear);
-    QTest::qWait(20);
+    EXPECT_TRUE(Settle());
     look(desk.window);
 }
 
@@ -77,7 +78,7 @@ void ShowBatch(WindowDesk& desk, const Look& look) {
         nullptr, &OneVolume);
     Show(batch, look);
     batch.findChild<QAbstractButton*>(QStringLiteral("CmdBatchProcess"))->click();
-    QTest::qWait(20);
+    EXPECT_TRUE(Settle());
     look(batch);
 }
 
@@ -86,14 +87,14 @@ void ShowToolForms(WindowDesk& desk, const Look& look) {
                     desk.state.BatchQueue, desk.notices, [](int) {});
     Show(morph, look);
     morph.findChild<QAbstractButton*>(QStringLiteral("CmdAddMorphToBatch"))->click();
-    QTest::qWait(20);
+    EXPECT_TRUE(Settle());
     look(morph);
     FormStretch stretch(
         desk.state.settings, desk.photos, [](const QString&) { return QString(); }, desk.chooser,
         desk.notices);
     Show(stretch, look);
     stretch.Open(desk.files.Path(QStringLiteral("a.bmp")));
-    QTest::qWait(20);
+    EXPECT_TRUE(Settle());
     look(stretch);
 }
 
@@ -111,7 +112,7 @@ void ShowEveryForm(const Look& look, PixelSize photo) {
     FormSetup setup(desk.state.Gear, desk.state.settings, desk.store);
     Show(setup, look);
     setup.findChild<QAbstractButton*>(QStringLiteral("CommandSaveDefault"))->click();
-    QTest::qWait(20);
+    EXPECT_TRUE(Settle());
     look(setup);
     ShowGearForms(desk, look);
     const QString folder = desk.files.Path({});

@@ -10,6 +10,7 @@
 #include <QMimeData>
 
 #include "gear/gear_list.h"
+#include "tests/support/settled.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -25,7 +26,7 @@ TEST(StartHint, StaysWhileThereIsAGearAndNoPhoto) {
     WindowDesk desk;
     const QWidget* const hint = desk.Find("StartHint");
     const auto shown = [hint] {
-        QTest::qWait(1);
+        testing::Settle();
         return hint->isVisible();
     };
     EXPECT_TRUE(shown());
@@ -41,7 +42,7 @@ TEST(StartHint, StaysWhileThereIsAGearAndNoPhoto) {
 
 TEST(StartHint, IsLitWhileFilesHoverOverTheWindow) {
     WindowDesk desk;
-    QTest::qWait(1);
+    ASSERT_TRUE(testing::Settle());
     const QImage before = desk.Shown("StartHint");
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(Q("/a.jpg"))});

@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 
 #include "tests/support/screenshots.h"
+#include "tests/support/settled.h"
 #include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 using testing::KeepPicture;
 using testing::SampleFolder;
+using testing::Settle;
 using testing::Text;
 using testing::WindowDesk;
 
@@ -48,7 +50,7 @@ void Show(WindowDesk& desk, QSize size, const QStringList& files) {
     if (!files.isEmpty()) {
         desk.Click("OptionRemap_1");
     }
-    QTest::qWait(250);  // the pictures follow the room once it has settled
+    EXPECT_TRUE(Settle());  // the pictures follow the room
     ExpectNothingCutOff(desk);
 }
 
@@ -119,7 +121,7 @@ TEST(Looks, TheToolsOverThePictures) {
         for (const char* const entry : entries) {
             desk.Entry(entry)->trigger();
         }
-        QTest::qWait(600);  // small pictures, tiles and parts are drawn in idle time
+        EXPECT_TRUE(Settle());  // tiles and parts are drawn
         KeepPicture(&desk.window, name);
     };
     look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");

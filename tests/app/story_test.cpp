@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -30,6 +31,7 @@
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/screenshots.h"
+#include "tests/support/settled.h"
 
 namespace varnel {
 namespace {
@@ -37,6 +39,7 @@ namespace {
 using testing::Answers;
 using testing::KeepPicture;
 using testing::SampleFolder;
+using testing::Settle;
 
 QString Q(const char* text) {
     return QString::fromUtf8(text);
@@ -76,7 +79,12 @@ void AddEveryPhoto(QDialog* dialog) {
     EXPECT_TRUE(QTest::qWaitFor([files] { return files->model()->rowCount() == 4; }));
     files->setFocus();
     files->selectAll();
-    QTest::qWait(500);  // for the small previews
+    EXPECT_TRUE(QTest::qWaitFor([files] {
+        // Photos are none of them square, file types' icons are.
+        const auto* const list = qobject_cast<QListWidget*>(files);
+        const QSize icon = list->item(2)->icon().actualSize(list->iconSize());
+        return icon.width() != icon.height();
+    }));
     KeepPicture(dialog, "add-images.png");
     QTest::mouseClick(Find<QPushButton>(dialog, "CmdAddImages"), Qt::LeftButton);
 }
@@ -149,7 +157,7 @@ void StretchAndSave(QDialog* dialog) {
     EXPECT_EQ(dialog->objectName(), Q("FormStretch"));
     Page(dialog, "SliderStrength", Qt::Key_PageUp, 4);
     EXPECT_EQ(Find<QSlider>(dialog, "SliderStrength")->value(), 40);
-    QTest::qWait(100);  // for the preview
+    EXPECT_TRUE(Settle());  // the preview is drawn
     KeepPicture(dialog, "stretch.png");
     QTest::mouseClick(Find<QPushButton>(dialog, "CmdSave"), Qt::LeftButton);
     QTest::mouseClick(Find<QPushButton>(dialog, "CmdClose"), Qt::LeftButton);

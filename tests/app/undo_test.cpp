@@ -9,6 +9,7 @@
 #include <QMimeData>
 
 #include "app/photo_list.h"
+#include "tests/support/settled.h"
 #include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
@@ -185,7 +186,7 @@ TEST(PhotoList, MarksTellTheProjectionAndTheState) {
     desk.AddPhotos({Text("a.bmp"), Text("b.bmp")});
     desk.window.AddFiles({desk.files.Text(Text("no.bmp"))});
     const auto marks = [&](int line) {
-        QTest::qWait(1);
+        EXPECT_TRUE(testing::Settle());
         const auto* const item = desk.Find<QListWidget>("ImageList1")->item(line);
         EXPECT_TRUE(item->data(Qt::AccessibleTextRole).toString().startsWith(item->text()));
         return item->data(PhotoList::marksRole).toString().toStdString();

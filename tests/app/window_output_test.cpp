@@ -89,8 +89,7 @@ TEST(WindowOutput, DuringASaveNothingReachesThePictureAndACloseWaits) {
     EXPECT_EQ(SizeOf(testing::LoadPicture(desk.files.Path(Text("out.BMP"))).bitmap.get()).width,
               900);
     EXPECT_TRUE(desk.Find("SliderX")->hasFocus());
-    QTest::qWait(20);
-    EXPECT_FALSE(desk.window.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&desk] { return !desk.window.isVisible(); }));
 }
 
 // While it is encoded and written, too, the window lives and the user may think better of it.

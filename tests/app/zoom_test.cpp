@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "remap/paint.h"
+#include "tests/support/settled.h"
 #include "tests/support/window_desk.h"
 
 namespace varnel {
@@ -18,7 +19,7 @@ void ShowActualSize(WindowDesk& desk) {
     desk.AddPhotos({QStringLiteral("photo.bmp")}, {1500, 1000});
     desk.Click("OptionRemap_1");
     desk.Entry("CmdViewActual")->trigger();
-    QTest::qWait(300);
+    EXPECT_TRUE(testing::Settle());
 }
 
 // What a box shows, and the same part of a picture of full size.

@@ -166,7 +166,9 @@ TEST(DecoderReader, LeavesNoProcessBehindAndEndsWithItsParent) {
     }
     pid_t orphan = 0;
     ASSERT_EQ(read(ends[0], &orphan, sizeof orphan), static_cast<ssize_t>(sizeof orphan));
-    usleep(50'000);
+    while (!ProcessStatus(orphan).contains("NoNewPrivs:\t1")) {  // it has begun
+        sched_yield();
+    }
     kill(parent, SIGKILL);
     waitpid(parent, nullptr, 0);
     // Gone, or dead and waiting for whoever inherited it.

@@ -14,6 +14,7 @@
 #include "tests/support/dialogs.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
+#include "tests/support/settled.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -196,6 +197,7 @@ TEST_F(FormAddImagesTest, EnterAddsTheSelectedAndADoubleClickTheOneBelowIt) {
 TEST_F(FormAddImagesTest, EnterInTheFoldersOpensThemAndNotTheList) {
     Open();
     Pick(0);
+    ASSERT_TRUE(testing::Settle());  // folders arrive by and by
     auto& tree = The<QTreeView>("Dir1");
     const bool wasOpen = tree.isExpanded(tree.currentIndex());
     QTest::keyClick(&tree, Qt::Key_Return);
@@ -213,8 +215,7 @@ TEST_F(FormAddImagesTest, PreviewsComeOnePerTurnWhileItIsOpen) {
     ASSERT_TRUE(WaitForPreview(1));
     EXPECT_FALSE(HasPreview(2)) << "the next one has its own turn";
     form->hide();
-    QTest::qWait(50);
-    EXPECT_FALSE(HasPreview(2));
+    EXPECT_FALSE(QTest::qWaitFor([this] { return HasPreview(2); }, 100));
     form->show();
     ASSERT_TRUE(WaitForPreview(2));
     EXPECT_FALSE(HasPreview(0));

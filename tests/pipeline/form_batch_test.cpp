@@ -20,6 +20,7 @@
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"
+#include "tests/support/settled.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -333,7 +334,7 @@ TEST_F(FormBatchTest, TheFolderStaysInSightWhenItsNeighboursArrive) {
     for (int n = 0; n < 5; ++n) {
         QueuePhotos(1);
         Open();
-        QTest::qWait(100);
+        EXPECT_TRUE(testing::Settle());
         const auto& tree = The<QTreeView>("Dir2");
         EXPECT_TRUE(QTest::qWaitFor([&] {
             const QRect shown = tree.visualRect(tree.currentIndex());

@@ -17,6 +17,7 @@
 #include "tests/support/dialogs.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
+#include "tests/support/settled.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -42,7 +43,7 @@ class FormStretchTest : public ::testing::Test {
     }
     QString Label(const char* name) const { return The<QLabel>(form, name).text(); }
     QImage View() {
-        QTest::qWait(20);  // fitting and drawing
+        EXPECT_TRUE(testing::Settle());  // fitting and drawing
         return The<QWidget>(form, "PicStretch").grab().toImage();
     }
     bool CanSave() const { return The<QPushButton>(form, "CmdSave").isEnabled(); }

@@ -21,7 +21,7 @@ namespace varnel {
 namespace {
 
 // Beside bin, where the installation and the build both have it.
-constexpr char16_t startPage[] = u"../share/varnel/guide/index.md";
+constexpr char16_t shippedPage[] = u"../share/varnel/guide/index.md";
 
 constexpr int margin = 24;
 
@@ -46,7 +46,7 @@ void SetOff(QTextDocument& page, const QColor& ground) {
 
 QString GuideStartPage(const QString& programFolder) {
     const QString page =
-        QDir::cleanPath(QDir(programFolder).absoluteFilePath(QString::fromUtf16(startPage)));
+        QDir::cleanPath(QDir(programFolder).absoluteFilePath(QString::fromUtf16(shippedPage)));
     return QFile::exists(page) ? page : QString();
 }
 
@@ -148,7 +148,7 @@ void FormGuide::FindNext() {
     }
     const QFileInfo here(text_->source().toLocalFile());
     QStringList pages = here.dir().entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name);
-    std::ranges::rotate(pages, pages.begin() + pages.indexOf(here.fileName()) + 1);
+    std::rotate(pages.begin(), pages.begin() + pages.indexOf(here.fileName()) + 1, pages.end());
     for (const QString& page : pages) {
         if (FindOn(here.dir().filePath(page), wanted)) {
             return;

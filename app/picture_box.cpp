@@ -8,7 +8,6 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 #include "remap/paint.h"
@@ -212,8 +211,8 @@ OverlayInput PictureBox::InputAt(const QSinglePointEvent& event) const {
 }
 
 void PictureBox::ShowCursorFor(const OverlayInput& input) {
-    for (const PictureOverlay* const overlay : std::views::reverse(overlays_)) {
-        if (const std::optional<QCursor> cursor = overlay->CursorAt(input)) {
+    for (auto overlay = overlays_.rbegin(); overlay != overlays_.rend(); ++overlay) {
+        if (const std::optional<QCursor> cursor = (*overlay)->CursorAt(input)) {
             setCursor(*cursor);
             return;
         }
@@ -222,13 +221,13 @@ void PictureBox::ShowCursorFor(const OverlayInput& input) {
 }
 
 bool PictureBox::OverlaysTake(const OverlayInput& input) {
-    for (PictureOverlay* const overlay : std::views::reverse(overlays_)) {
-        if (overlay->Press(input)) {
-            holder_ = overlay;
-            return true;
-        }
+    const auto taker = std::find_if(overlays_.rbegin(), overlays_.rend(),
+                                    [&](PictureOverlay* overlay) { return overlay->Press(input); });
+    if (taker == overlays_.rend()) {
+        return false;
     }
-    return false;
+    holder_ = *taker;
+    return true;
 }
 
 // The tools come first; without one that wants them, arrows and plus and minus move what is seen.
@@ -242,10 +241,9 @@ void PictureBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool PictureBox::UseKey(const OverlayKey& key) {
-    for (PictureOverlay* const overlay : std::views::reverse(overlays_)) {
-        if (overlay->Key(key)) {
-            return true;
-        }
+    if (std::any_of(overlays_.rbegin(), overlays_.rend(),
+                    [&](PictureOverlay* overlay) { return overlay->Key(key); })) {
+        return true;
     }
     const QPointF middle = QRectF(rect()).center();
     if (key.key == Qt::Key_Escape) {
@@ -327,8 +325,8 @@ void PictureBox::wheelEvent(QWheelEvent* event) {
     }
     const OverlayInput input = InputAt(*event);
     event->setAccepted(
-        std::ranges::any_of(std::views::reverse(overlays_),
-                            [&](PictureOverlay* overlay) { return overlay->Wheel(input, steps); }));
+        std::any_of(overlays_.rbegin(), overlays_.rend(),
+                    [&](PictureOverlay* overlay) { return overlay->Wheel(input, steps); }));
 }
 
 }  // namespace varnel

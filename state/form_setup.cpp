@@ -64,7 +64,7 @@ void FormSetup::FillGears() {
 }
 
 void FormSetup::FillSizes() {
-    const auto fill = [this](QSlider* slider, QSpinBox* spinBox, QLabel* label, int side) {
+    const auto fill = [](QSlider* slider, QSpinBox* spinBox, QLabel* label, int side) {
         const auto show = [label](int pixels) { label->setText(tr("%1 pixels").arg(pixels)); };
         slider->setRange(smallestPreviewSide, largestPreviewSide);
         slider->setValue(side);

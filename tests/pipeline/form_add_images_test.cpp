@@ -199,6 +199,8 @@ TEST_F(FormAddImagesTest, EnterInTheFoldersOpensThemAndNotTheList) {
     Pick(0);
     ASSERT_TRUE(testing::Settle());  // folders arrive by and by
     auto& tree = The<QTreeView>("Dir1");
+    tree.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&tree] { return tree.hasFocus(); }));
     const bool wasOpen = tree.isExpanded(tree.currentIndex());
     QTest::keyClick(&tree, Qt::Key_Return);
     EXPECT_TRUE(form->isVisible());

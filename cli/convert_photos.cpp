@@ -15,6 +15,7 @@
 #include "cli/results_there.h"
 #include "cli/run_reports.h"
 #include "gear/gear_offer.h"
+#include "pipeline/lending_steps.h"
 #include "pipeline/photo_feed.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
@@ -46,16 +47,23 @@ class Conversions {
     Conversions(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                 const Console& console)
         : settings_(With(options, settings)),
-          jobs_(options.jobs.value_or(QThread::idealThreadCount())),
+          runner_(options.jobs.value_or(QThread::idealThreadCount())),
           console_(console),
           reports_(options, console),
           wait_(reports_.Bar(), console),
           reader_(NewPictureReader()),
-          feed_(std::in_place, *reader_, MoreReaders(jobs_), wait_, settings_.AutoOrient),
-          runner_(jobs_),
-          saveRunner_(jobs_),
-          run_{options, gears, settings_, reports_.Bar(), runner_, FileSet(options.files)},
-          worker_(jobs_ > 1) {}
+          feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_, settings_.AutoOrient,
+                &runner_),
+          run_{options,
+               gears,
+               settings_,
+               reports_.Bar(),
+               runner_,
+               FileSet(options.files),
+               {},
+               {},
+               LendingSeries(runner_)},
+          worker_(runner_.Cores() > 1, &runner_) {}
 
     // Returns the exit code.
     int Go() {
@@ -209,7 +217,7 @@ class Conversions {
             asked_ = n + 1;
         }
         LoadedPicture loaded = feed_->Take(files_[n]);
-        while (jobs_ > 1 && asked_ < files_.size() && asked_ <= n + feed_->Ahead() &&
+        while (runner_.Cores() > 1 && asked_ < files_.size() && asked_ <= n + feed_->Ahead() &&
                HasRoomAhead(asked_ - n, loaded.size) && QFileInfo::exists(files_[asked_])) {
             feed_->ReadAhead(files_[asked_++]);
         }
@@ -271,7 +279,7 @@ class Conversions {
         writing_ = {target, std::move(photo.bitmaps.ResultBitmap), report, begun_};
         photo.bitmaps.ResultBitmap = std::move(spare_);
         worker_.Begin([this, target, result = writing_->result.get()] {
-            return SaveTo(run_, target, result, saveRunner_);
+            return SaveTo(run_, target, result, runner_);
         });
     }
 
@@ -281,8 +289,11 @@ class Conversions {
         if (!writing_) {
             return;
         }
-        while (!worker_.Wait(100)) {
-            reports_.Bar().Refresh();
+        {
+            const CoreLent lent(runner_);
+            while (!worker_.Wait(100)) {
+                reports_.Bar().Refresh();
+            }
         }
         const SaveResult saved = worker_.Take();
         FileReport report = std::move(writing_->report);
@@ -333,14 +344,12 @@ class Conversions {
     }
 
     const GeneralSettings settings_;
-    const int jobs_;
+    ThreadRunner runner_;  // all that is busy, the decoders too, takes its cores of this
     const Console& console_;
     RunReports reports_;
     RunWait wait_;
     std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
     std::optional<PhotoFeed> feed_;
-    ThreadRunner runner_;
-    ThreadRunner saveRunner_;  // on the writing thread
     ConversionRun run_;
     QStringList files_;
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number

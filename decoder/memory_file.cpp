@@ -58,7 +58,13 @@ std::byte* MemoryFile::Map(std::uint64_t length) {
 }
 
 std::unique_ptr<MemoryFile> MemoryFiles::Take() {
+    const std::lock_guard lock(mutex_);
     return spare_ ? std::move(spare_) : std::make_unique<MemoryFile>(++made_);
+}
+
+void MemoryFiles::GiveBack(std::unique_ptr<MemoryFile> file) {
+    const std::lock_guard lock(mutex_);
+    spare_.swap(file);
 }
 
 }  // namespace varnel

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 
 #include "decoder/descriptor.h"
 
@@ -38,15 +39,16 @@ class MemoryFile {
 };
 
 // Keeps a memory file that is not used any more for the next picture: fresh memory costs as much
-// time as the decoding of a small photo.
+// time as the decoding of a small photo. Pictures may be gone on another thread than they are read.
 class MemoryFiles {
   public:
     // Throws std::bad_alloc.
     std::unique_ptr<MemoryFile> Take();
-    void GiveBack(std::unique_ptr<MemoryFile> file) { spare_ = std::move(file); }
-    void DropSpare() { spare_.reset(); }
+    void GiveBack(std::unique_ptr<MemoryFile> file);
+    void DropSpare() { GiveBack(nullptr); }
 
   private:
+    std::mutex mutex_;
     std::unique_ptr<MemoryFile> spare_;
     std::uint32_t made_ = 0;
 };

@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "pipeline/batch_targets.h"
+#include "pipeline/lending_steps.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/photo_metadata.h"
@@ -46,8 +47,9 @@ class Run : private RenderProgress {
           observer_(observer),
           ports_(ports),
           overlaps_(ports.readAhead),
+          runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
           targets_(queue),
-          worker_(overlaps_) {}
+          worker_(overlaps_, &runner_) {}
 
     BatchSummary Go() {
         summary_.folder = choices_.folder;
@@ -204,16 +206,25 @@ class Run : private RenderProgress {
         if (!choices_.writeMetadata) {
             DropMetadata(bitmap);
         }
-        return ports_.save ? ports_.save(format, bitmap, path, flags)
-                           : SaveBitmap(format, bitmap, path, flags, &saveRunner_);
+        if (ports_.save) {
+            return ports_.save(format, bitmap, path, flags);
+        }
+        FileSeries one = LendingSeries(runner_);
+        const SaveResult saved =
+            SaveBitmap(format, bitmap, FileInSeries{path, one}, flags, &runner_);
+        const WriteResult lasts = one.Finish();
+        return !saved || lasts ? saved : SaveResult{false, lasts.reason};
     }
 
     void FinishWriting() {
         if (!writing_) {
             return;
         }
-        while (!worker_.Wait(betweenEvents)) {
-            observer_.Progress().HandleEvents();
+        {
+            const CoreLent lent(runner_);
+            while (!worker_.Wait(betweenEvents)) {
+                observer_.Progress().HandleEvents();
+            }
         }
         const SaveResult saved = worker_.Take();
         Turn written = std::move(*writing_);
@@ -304,8 +315,8 @@ class Run : private RenderProgress {
     BatchObserver& observer_;
     const BatchPorts& ports_;
     const bool overlaps_;
-    ThreadRunner runner_;
-    ThreadRunner saveRunner_;  // on the writing thread
+    std::optional<ThreadRunner> own_;
+    ThreadRunner& runner_;
     BatchTargets targets_;
     QSet<QString> outputs_;
     BatchSummary summary_;
@@ -333,6 +344,7 @@ BatchPorts BatchPortsFor(PhotoFeed& feed) {
         picture.reason = ToldReason(picture.reason);
         return picture;
     };
+    ports.cores = feed.Cores();
     ports.aheadAtMost = feed.Ahead();
     if (ports.aheadAtMost > 0) {
         ports.readAhead = [&feed](const QString& path) { feed.ReadAhead(path); };

@@ -58,6 +58,8 @@ struct BatchPorts {
     // is converted. Nobody can tell from what the observer hears or from the files.
     std::function<void(const QString& path)> readAhead{};
     int aheadAtMost = 1;  // photos
+    // Those that converting and writing share with reading; null: as many as the machine has.
+    ThreadRunner* cores = nullptr;
 };
 
 // Photos from the feed, as far ahead as it has readers.

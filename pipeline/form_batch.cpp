@@ -242,7 +242,8 @@ BatchSummary FormBatch::Run() {
         progress_->Stop();
     });
     EventsMeanwhile wait;
-    PhotoFeed feed(reader_, MoreReaders(QThread::idealThreadCount()), wait, settings_.AutoOrient);
+    ThreadRunner cores(QThread::idealThreadCount());
+    PhotoFeed feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
     return RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
 }
 

@@ -16,10 +16,16 @@ constexpr int mostReaders = 4;        // each may hold a whole picture
 
 }  // namespace
 
-PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright)
-    : first_(reader), wait_(wait), upright_(upright) {
+PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright,
+                     ThreadRunner* cores)
+    : cores_(reader.IsApart() && cores != nullptr && cores->Cores() > 1 ? cores : nullptr),
+      thread_(cores_ == nullptr ? nullptr : std::make_unique<ReadingThread>(&reader, *cores_)),
+      first_(thread_ ? *thread_ : reader),
+      wait_(wait),
+      upright_(upright) {
     for (int n = 0; n < more && reader.IsApart(); ++n) {
-        more_.push_back(NewPictureReader());
+        more_.push_back(cores_ == nullptr ? NewPictureReader()
+                                          : std::make_unique<ReadingThread>(nullptr, *cores_));
     }
 }
 
@@ -68,11 +74,18 @@ LoadedPicture PhotoFeed::Take(const QString& path) {
     return picture;
 }
 
+std::optional<CoreLent> PhotoFeed::Lent() {
+    return cores_ == nullptr ? std::nullopt : std::optional<CoreLent>(std::in_place, *cores_);
+}
+
 LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
     wait_.Begin(photo.path);
     bool goesOn = true;
-    while (goesOn && !photo.reader->Wait(betweenQuestions)) {
-        goesOn = wait_.Continue();
+    {
+        const std::optional<CoreLent> lent = Lent();
+        while (goesOn && !photo.reader->Wait(betweenQuestions)) {
+            goesOn = wait_.Continue();
+        }
     }
     wait_.End();
     if (!goesOn) {

@@ -6,9 +6,11 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "pipeline/photo_loader.h"
+#include "pipeline/reading_thread.h"
 
 namespace varnel {
 
@@ -16,8 +18,10 @@ class PhotoFeed {
   public:
     // Each reader reads one photo at a time; the first is somebody else's, who does not use it
     // meanwhile. As many more are started as further photos shall be read at once. Upright:
-    // turned as their EXIF orientation says.
-    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright = true);
+    // turned as their EXIF orientation says. With cores each decoder takes one while it works, and
+    // the caller's is lent while it waits.
+    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright = true,
+              ThreadRunner* cores = nullptr);
     // Gives up what was read ahead and not taken.
     ~PhotoFeed();
     PhotoFeed(const PhotoFeed&) = delete;
@@ -31,6 +35,8 @@ class PhotoFeed {
     // How many photos may be read ahead at once; none where that would only keep the caller
     // waiting.
     int Ahead() const { return first_.IsApart() ? static_cast<int>(1 + more_.size()) : 0; }
+    // Those that the decoders take theirs of; null when there are none.
+    ThreadRunner* Cores() const { return cores_; }
 
   private:
     struct UnderWay {
@@ -38,9 +44,12 @@ class PhotoFeed {
         PictureReader* reader;
     };
     PictureReader* FreeReader() const;
+    std::optional<CoreLent> Lent();
     void GiveUp();
     LoadedPicture WaitFor(const UnderWay& photo);
 
+    ThreadRunner* cores_;
+    std::unique_ptr<ReadingThread> thread_;  // with the first reader, if there are cores
     PictureReader& first_;
     std::vector<std::unique_ptr<PictureReader>> more_;
     ReadingWait& wait_;

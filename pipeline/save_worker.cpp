@@ -77,6 +77,14 @@ SaveResult SaveWorker::Take() {
     return result;
 }
 
+SaveResult SaveWorker::DoneWithCore(const Job& job) {
+    if (cores_ == nullptr) {
+        return Done(job);
+    }
+    const CoreTaken core(*cores_);
+    return Done(job);
+}
+
 void SaveWorker::Work() {
     std::unique_lock lock(mutex_);
     while (true) {
@@ -86,7 +94,7 @@ void SaveWorker::Work() {
         }
         const Job job = std::exchange(job_, nullptr);
         lock.unlock();
-        SaveResult result = Done(job);
+        SaveResult result = DoneWithCore(job);
         lock.lock();
         result_ = std::move(result);
         done_.notify_all();

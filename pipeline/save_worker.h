@@ -10,6 +10,7 @@
 #include <optional>
 #include <thread>
 
+#include "remap/engine/thread_runner.h"
 #include "remap/save_bitmap.h"
 
 namespace varnel {
@@ -19,8 +20,10 @@ class SaveWorker {
     // Whatever it throws becomes the reason.
     using Job = std::function<SaveResult()>;
 
-    // Without a thread of its own it does its work when it is told to begin.
-    explicit SaveWorker(bool onThread = true) : onThread_(onThread) {}
+    // Without a thread of its own it does its work when it is told to begin. The thread takes one
+    // of the cores while it works.
+    explicit SaveWorker(bool onThread = true, ThreadRunner* cores = nullptr)
+        : onThread_(onThread), cores_(cores) {}
     // Waits for what is under way.
     ~SaveWorker();
     SaveWorker(const SaveWorker&) = delete;
@@ -34,9 +37,11 @@ class SaveWorker {
 
   private:
     bool StartThread();
+    SaveResult DoneWithCore(const Job& job);
     void Work();
 
     const bool onThread_;
+    ThreadRunner* const cores_;
     std::mutex mutex_;
     std::condition_variable wake_;
     std::condition_variable done_;

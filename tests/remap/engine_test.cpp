@@ -6,11 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <hwy/targets.h>
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <cmath>
 #include <functional>
 #include <map>
 #include <string>
+#include <thread>
 
 #include "remap/engine/thread_runner.h"
 #include "remap/part_render.h"
@@ -295,6 +298,32 @@ TEST(ThreadRunner, WhatABlockThrowsReachesTheCallerAndTheNextRunIsWhole) {
     std::atomic<int> runs = 0;
     runner.Run(50, [&](int) { ++runs; });
     EXPECT_EQ(runs, 50);
+}
+
+TEST(ThreadRunner, SeveralCallersShareItsCores) {
+    ThreadRunner runner(2);
+    std::atomic<int> busy = 0, most = 0, done = 0;
+    const std::function<void(int)> block = [&](int) {
+        const int now = ++busy;
+        most = std::max(most.load(), now);
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+        --busy;
+        ++done;
+    };
+    std::thread other([&] {
+        for (int n = 0; n < 20; ++n) {
+            const CoreTaken core(runner);
+            runner.Run(3, block);
+            const CoreLent lent(runner);
+        }
+    });
+    for (int n = 0; n < 40; ++n) {
+        runner.Run(4, block);
+    }
+    runner.GiveCore();
+    other.join();
+    EXPECT_EQ(done, 20 * 3 + 40 * 4);
+    EXPECT_EQ(most, 2);
 }
 
 TEST(ThreadRunner, RunsEachBlockOnceAndMayBeUsedAgain) {

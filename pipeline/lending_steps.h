@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Writing files for a run that shares its cores out.
+#pragma once
+
+#include "remap/engine/thread_runner.h"
+#include "state/whole_file.h"
+
+namespace varnel {
+
+// A series, written by threads that have a core, whose core is lent while the disk is waited for.
+FileSeries LendingSeries(ThreadRunner& cores);
+
+}  // namespace varnel

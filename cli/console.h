@@ -10,6 +10,7 @@
 #include <string>
 
 #include "state/notices.h"
+#include "state/unfinished_file.h"
 
 namespace varnel {
 
@@ -24,6 +25,7 @@ struct Console {
     bool bar = false;   // draw a progress bar on err
     const char* program = "varnel-convert";
     const std::atomic<int>* stop = nullptr;  // the signal that asks to stop, once it is not 0
+    UnfinishedFile* unfinished = nullptr;    // where the file that is being written is noted
 
     int StopSignal() const { return stop != nullptr ? stop->load() : 0; }
 };

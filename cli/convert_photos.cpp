@@ -62,7 +62,8 @@ class Conversions {
                FileSet(options.files),
                {},
                {},
-               LendingSeries(runner_)},
+               LendingSeries(runner_,
+                             console.unfinished != nullptr ? *console.unfinished : unfinished_)},
           worker_(runner_.Cores() > 1, &runner_) {}
 
     // Returns the exit code.
@@ -350,6 +351,7 @@ class Conversions {
     RunWait wait_;
     std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
     std::optional<PhotoFeed> feed_;
+    UnfinishedFile unfinished_;  // for a console that does not ask
     ConversionRun run_;
     QStringList files_;
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number

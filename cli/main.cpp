@@ -17,10 +17,14 @@
 namespace {
 
 int Convert(int argc, char* argv[]) {
-    const varnel::StopSignals stop;
+    varnel::UnfinishedFile unfinished;
+    const varnel::StopSignals stop(unfinished);
     const QCoreApplication application(argc, argv);
-    const varnel::Console console{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1,
-                                  "varnel-convert", &stop.Came()};
+    const varnel::Console console{std::cout,        std::cerr,    ::isatty(STDERR_FILENO) == 1,
+                                  "varnel-convert", &stop.Came(), &unfinished};
+    if (!stop.Trouble().isEmpty()) {
+        varnel::Complain(console, stop.Trouble());
+    }
     varnel::ConsoleNotices notices(console);
     const auto store = varnel::OpenUserStore(QDateTime::currentDateTime());
     varnel::TellOf(*store, notices);

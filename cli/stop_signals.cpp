@@ -5,11 +5,13 @@
 
 #include <unistd.h>
 
+#include <system_error>
+
 #include "cli/console.h"
 
 namespace varnel {
 
-StopSignals::StopSignals() {
+StopSignals::StopSignals(UnfinishedFile& unfinished) : unfinished_(unfinished) {
     sigemptyset(&signals_);
     for (const int signal : {SIGINT, SIGTERM}) {
         struct sigaction action {};
@@ -20,7 +22,19 @@ StopSignals::StopSignals() {
     // For all threads that are made from now on, so that only the waiting one hears them.
     pthread_sigmask(SIG_BLOCK, &signals_, &before_);
     if (sigismember(&signals_, SIGTERM) == 1 || sigismember(&signals_, SIGINT) == 1) {
+        StartWaiting();
+    }
+}
+
+void StopSignals::StartWaiting() {
+    try {
         waiting_ = std::thread([this] { Wait(); });
+    } catch (const std::system_error& error) {
+        pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+        trouble_ = QStringLiteral(
+                       "Ctrl-C and SIGTERM will end the program at once: no thread can be started "
+                       "to wait for them (%1)")
+                       .arg(QString::fromLocal8Bit(error.code().message().c_str()));
     }
 }
 
@@ -44,6 +58,7 @@ void StopSignals::Wait() {
             return;
         }
         if (came_ != 0) {
+            unfinished_.RemoveForEver();
             std::signal(signal, SIG_DFL);
             pthread_sigmask(SIG_UNBLOCK, &signals_, nullptr);
             pthread_kill(pthread_self(), signal);

@@ -209,7 +209,8 @@ class Run : private RenderProgress {
         if (ports_.save) {
             return ports_.save(format, bitmap, path, flags);
         }
-        FileSeries one = LendingSeries(runner_);
+        UnfinishedFile unfinished;  // nobody ends a window in the middle of a file
+        FileSeries one = LendingSeries(runner_, unfinished);
         const SaveResult saved =
             SaveBitmap(format, bitmap, FileInSeries{path, one}, flags, &runner_);
         const WriteResult lasts = one.Finish();

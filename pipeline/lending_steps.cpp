@@ -15,7 +15,17 @@ namespace {
 
 class LendingSteps : public FileSteps {
   public:
-    explicit LendingSteps(ThreadRunner& cores) : cores_(cores) {}
+    LendingSteps(ThreadRunner& cores, UnfinishedFile& unfinished)
+        : cores_(cores), unfinished_(unfinished) {}
+    int Create(const QByteArray& name, unsigned permissions) override {
+        return unfinished_.Begin(name, [&] { return FileSteps::Create(name, permissions); });
+    }
+    int Rename(const QByteArray& name, const QByteArray& newName) override {
+        return unfinished_.End([&] { return FileSteps::Rename(name, newName); });
+    }
+    int Remove(const QByteArray& name) override {
+        return unfinished_.End([&] { return FileSteps::Remove(name); });
+    }
     int Sync(int file) override {
         return Lent([&] { return FileSteps::Sync(file); });
     }
@@ -38,17 +48,18 @@ class LendingSteps : public FileSteps {
     }
 
     ThreadRunner& cores_;
+    UnfinishedFile& unfinished_;
 };
 
 }  // namespace
 
-FileSeries LendingSeries(ThreadRunner& cores) {
-    return FileSeries(std::make_unique<LendingSteps>(cores));
+FileSeries LendingSeries(ThreadRunner& cores, UnfinishedFile& unfinished) {
+    return FileSeries(std::make_unique<LendingSteps>(cores, unfinished));
 }
 
 #else
 
-FileSeries LendingSeries(ThreadRunner& /*cores*/) {
+FileSeries LendingSeries(ThreadRunner& /*cores*/, UnfinishedFile& /*unfinished*/) {
     return {};
 }
 

@@ -5,11 +5,13 @@
 #pragma once
 
 #include "remap/engine/thread_runner.h"
+#include "state/unfinished_file.h"
 #include "state/whole_file.h"
 
 namespace varnel {
 
 // A series, written by threads that have a core, whose core is lent while the disk is waited for.
-FileSeries LendingSeries(ThreadRunner& cores);
+// The file that is being written is noted.
+FileSeries LendingSeries(ThreadRunner& cores, UnfinishedFile& unfinished);
 
 }  // namespace varnel

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <numbers>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -31,10 +32,16 @@ void ForEachRow(int rows, int threads, const std::function<void(int)>& work) {
         }
     };
     std::vector<std::jthread> others;
-    for (int first = 1; first < threads; ++first) {
-        others.emplace_back(share, first);
+    int first = 1;
+    try {
+        for (; first < threads; ++first) {
+            others.emplace_back(share, first);
+        }
+    } catch (const std::system_error&) {  // no more threads are to be had
     }
-    share(0);
+    for (share(0); first < threads; ++first) {
+        share(first);
+    }
 }
 
 Colour PixelMean(const Scene& scene, const RayAt& rayAt, int samples, int x, int y) {

@@ -4,13 +4,16 @@
 // The real program, stopped by signals at random moments.
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QThread>
+#include <algorithm>
 #include <csignal>
+#include <functional>
 #include <map>
 #include <random>
 
@@ -31,11 +34,16 @@ class Stop : public ::testing::Test {
         }
     }
     // As a terminal starts it: with its decoders in a process group of its own.
-    void Start(QProcess& program, const QString& folder, const QStringList& options) {
+    void Start(
+        QProcess& program, const QString& folder, const QStringList& options,
+        const std::function<void()>& limit = [] {}) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(Q("XDG_CONFIG_HOME"), files_.Path(Q("settings")));
         program.setProcessEnvironment(environment);
-        program.setChildProcessModifier([] { ::setpgid(0, 0); });
+        program.setChildProcessModifier([limit] {
+            ::setpgid(0, 0);
+            limit();
+        });
         QDir().mkpath(files_.Path(folder));
         program.start(Q(VARNEL_CONVERT),
                       QStringList{Q("--camera=Canon/EOS 5D"), Q("--lens=Sigma/EX 8 mm f:3.5"),
@@ -106,16 +114,51 @@ TEST_F(Stop, LeavesWholeFilesOnlyAndCanBeGoneOnWith) {
     EXPECT_GE(stopped, 3);
 }
 
-TEST_F(Stop, ASecondSignalEndsItAtOnceAndIgnoredOnesAreIgnored) {
-    photos_ = QStringList{files_.Picture(Q("large.bmp"), FIF_BMP, {3600, 2400})};
-    QProcess twice;
-    Start(twice, Q("twice"), {Q("--jobs=1")});
-    ASSERT_TRUE(twice.waitForReadyRead(60'000));  // the second of four results is at hand
-    const pid_t id = static_cast<pid_t>(twice.processId());
-    ::kill(id, SIGINT);
-    QThread::msleep(20);  // which is too short to end it
-    ::kill(id, SIGTERM);
-    EXPECT_EQ(CodeOf(twice), 143);
+TEST_F(Stop, ASecondSignalEndsItAtOnceAndLeavesNothingBehind) {
+    photos_ = QStringList{files_.Picture(Q("large.bmp"), FIF_BMP, {6000, 4000})};
+    const qint64 whole = qint64{6000} * 4000 * 3;
+    qint64 fastest = 1'000'000;
+    for (int n = 0; n < 4; ++n) {
+        const QString folder = Q("twice %1").arg(n);
+        QProcess twice;
+        Start(twice, folder, {Q("--type=bmp"), Q("--jobs=2")});
+        const pid_t group = static_cast<pid_t>(twice.processId());
+        while (Outputs(folder).empty() && twice.state() == QProcess::Running) {
+            twice.waitForFinished(1);  // the first result is being written
+        }
+        QElapsedTimer timer;
+        timer.start();
+        ::kill(group, SIGINT);
+        ::kill(group, SIGTERM);
+        EXPECT_EQ(CodeOf(twice), 143);
+        fastest = std::min(fastest, timer.elapsed());
+        for (const QFileInfo& file :
+             QDir(files_.Path(folder)).entryInfoList(QDir::Files | QDir::Hidden)) {
+            EXPECT_TRUE(!file.isHidden() && file.size() > whole) << file.fileName().toStdString();
+        }
+        for (int wait = 0; wait < 1000 && ::kill(-group, 0) == 0; ++wait) {
+            QThread::msleep(1);
+        }
+        EXPECT_EQ(::kill(-group, 0), -1) << "a decoder still runs";
+    }
+    EXPECT_LT(fastest, 200);
+}
+
+TEST_F(Stop, WithoutThreadsItSaysWhatSignalsDoAndDoesTheSame) {
+    QProcess whole;
+    Start(whole, Q("whole"), {});
+    ASSERT_EQ(CodeOf(whole), 0);
+    QProcess alone;
+    Start(alone, Q("alone"), {Q("--jobs=4")}, [] {
+        const rlimit tooLarge{rlim_t{1} << 46, RLIM_INFINITY};  // of a thread's stack, bytes
+        ::setrlimit(RLIMIT_STACK, &tooLarge);
+    });
+    EXPECT_EQ(CodeOf(alone), 0);
+    EXPECT_TRUE(alone.readAllStandardError().contains("no thread can be started to wait"));
+    EXPECT_TRUE(Outputs(Q("alone")) == Outputs(Q("whole")));
+}
+
+TEST_F(Stop, IgnoredSignalsAreIgnored) {
     QProcess background;
     std::signal(SIGINT, SIG_IGN);  // as a shell without job control starts it
     Start(background, Q("background"), {});

@@ -148,7 +148,7 @@ TEST_F(ConsoleStart, TheReminderGoesToStderrOnceAMonth) {
 
 TEST_F(ConsoleStart, WhatNeedsNoPhotoIsAnsweredAtOnce) {
     EXPECT_EQ(ExitCode({QStringLiteral("--version")}, {2023, 8, 1}), exitAllWritten);
-    EXPECT_EQ(out_.str(), "varnel 1.0.0\n");
+    EXPECT_EQ(out_.str(), "varnel " VARNEL_VERSION "\n");
     EXPECT_EQ(ExitCode({QStringLiteral("--help")}, {2023, 8, 1}), exitAllWritten);
     EXPECT_EQ(out_.str().find("Usage: varnel [--open] [FILE...]\n"), 0U);
     EXPECT_EQ(ExitCode({QStringLiteral("--nonsense")}), exitUsage);

@@ -20,7 +20,7 @@ TEST(FormAbout, ShowsTheVersionsOfProgramAndImageLibrary) {
         const auto* const label = form.findChild<QLabel*>(QString::fromLatin1(name));
         return label == nullptr ? QStringLiteral("no such label") : label->text();
     };
-    EXPECT_EQ(text("LabelRevision"), QStringLiteral("Revision 1.0.0"));
+    EXPECT_EQ(text("LabelRevision"), QStringLiteral("Revision " VARNEL_VERSION));
     EXPECT_EQ(text("LabelFreeimage"), QStringLiteral("FreeImage"));
     EXPECT_EQ(text("LabelFreeimageVersion"),
               QStringLiteral("Version ") + QString::fromLatin1(FreeImage_GetVersion()));

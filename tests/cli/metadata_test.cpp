@@ -167,7 +167,8 @@ QMap<QString, QJsonValue> Told(const Fields& fields, bool isResult) {
         if (values.contains(Text("XMP-crs:ColorTemperature"))) {
             values[Text("XMP-crs:AlreadyApplied")] = true;
         }
-        values[Text("IFD0:Software")] = values[Text("XMP-xmp:CreatorTool")] = Text("Varnel 1.0.0");
+        values[Text("IFD0:Software")] = values[Text("XMP-xmp:CreatorTool")] =
+            Text("Varnel " VARNEL_VERSION);
         values[Text("ExifIFD:ExifImageWidth")] = 200;
         values[Text("ExifIFD:ExifImageHeight")] = 300;
     }

@@ -7,8 +7,9 @@
 #include <algorithm>
 
 #include "app/desk.h"
+#include "app/hourglass.h"
 #include "app/scoped.h"
-#include "pipeline/likeness.h"
+#include "pipeline/add_images.h"
 
 namespace varnel {
 
@@ -31,18 +32,69 @@ void TellLines(Notices& notices, const QString& text, QStringList lines) {
 
 }  // namespace
 
+// One by one they would each put up a box when their line becomes current.
+void Desk::NoteBad(const std::vector<BadFile>& bad) {
+    for (const BadFile& file : bad) {
+        unreadable_.insert(file.path, file.reason);
+    }
+}
+
+void Desk::TellBad(const std::vector<BadFile>& bad) {
+    QStringList lines;
+    for (const BadFile& file : bad) {
+        lines.append(QStringLiteral("%1: %2").arg(file.path, file.reason));
+    }
+    TellLines(notices_,
+              lines.size() == 1
+                  ? Texts::tr("Could not open image")
+                  : Texts::tr("%1 of the added images could not be opened").arg(lines.size()),
+              lines);
+}
+
+void Desk::ImagesAdded(int before) {
+    std::vector<BadFile> bad;
+    {
+        const Hourglass hourglass(view_);
+        const Raised busy(busy_);
+        PhotoLoader::Together together(photos_);
+        for (int n = before + 1; n <= state_.Images.UpperBound(); ++n) {
+            const QString path = SourcePath(state_.Images(n));
+            if (const QString trouble = photos_.Trouble(path); !trouble.isEmpty()) {
+                bad.push_back({path, trouble});
+            }
+            if (photos_.GivenUp() || !together.Continue()) {
+                break;
+            }
+        }
+    }
+    NoteStep(StepKind::Add);
+    NoteBad(bad);
+    view_.ShowList(state_.Images, 0);
+    TellBad(bad);
+}
+
 void Desk::AddFiles(const QStringList& paths) {
     if (Busy() || paths.isEmpty()) {
         return;
     }
     RecordArray<ImageRecord> images;
+    DroppedPhotos photos;
     AddedFiles added;
     {
+        const Hourglass hourglass(view_);
         const Raised busy(busy_);
-        view_.ShowHourglass(true);
-        added = AppendFilesOrSources(images, paths, photos_);
-        view_.ShowHourglass(false);
+        PhotoLoader::Together together(photos_);
+        photos = PhotosOf(paths, [&] { return together.Continue(); });
+        if (photos.givenUp) {
+            return;
+        }
+        added = AppendFilesOrSources(images, photos.files, photos_);
     }
+    TellLines(notices_, Texts::tr("There are no photos in a folder"), photos.without);
+    if (images.Empty()) {
+        return;
+    }
+    NoteBad(added.bad);
     const int line = added.like > 0 ? state_.Images.UpperBound() + added.like - 1 : 0;
     for (ImageRecord& image : images) {
         state_.Images.Append(std::move(image));
@@ -51,6 +103,10 @@ void Desk::AddFiles(const QStringList& paths) {
     view_.ShowList(state_.Images, line);
     TellLines(notices_, Texts::tr("Could not find the photo that a picture was made of"),
               added.missing);
+    TellBad(added.bad);
+    if (photos.tooMany) {
+        notices_.Tell(Texts::tr("Only the first %1 photos were added").arg(mostDropped), QString());
+    }
     TellLines(notices_, Texts::tr("Some settings of a picture could not be used"), added.notes);
 }
 

@@ -7,6 +7,7 @@
 #include <new>
 #include <utility>
 
+#include "app/hourglass.h"
 #include "app/scoped.h"
 #include "pipeline/preview_size.h"
 #include "remap/run_time_error.h"
@@ -20,18 +21,6 @@ namespace {
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Desk)
-};
-
-// The hourglass for a while, put up after waiting events had their turn.
-class Hourglass {
-  public:
-    explicit Hourglass(DeskView& view) : view_(view) { view_.ShowHourglass(true); }
-    ~Hourglass() { view_.ShowHourglass(false); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-
-  private:
-    DeskView& view_;
 };
 
 }  // namespace
@@ -82,6 +71,7 @@ bool Desk::LoadFull(int line) {
         ShowInControls(image);
         return false;
     }
+    unreadable_.remove(SourcePath(image));
     state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
     TakeSize({SizeOf(state_.bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
     GiveOwnGear(image);
@@ -99,7 +89,8 @@ void Desk::ShowLine(int line) {
         const Raised busy(busy_);
         if (LoadAndReduce(line)) {
             Preview();
-        } else if (loadTrouble_ != ToldReason(readingCancelled.toString())) {
+        } else if (loadTrouble_ != ToldReason(readingCancelled.toString()) &&
+                   Unreadable(CurrentPath()).isEmpty()) {
             TellNotOpened(state_.Images(line + 1));
         }
     }
@@ -283,11 +274,6 @@ void Desk::ApplySettings() {
         ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
         NoteStep(StepKind::SettingsToAll, {.onAllLines = true, .gear = {}});
     }
-}
-
-void Desk::ImagesAdded() {
-    NoteStep(StepKind::Add);
-    view_.ShowList(state_.Images, 0);
 }
 
 void Desk::RemoveSelected() {

@@ -5,6 +5,7 @@
 // knows no widget; the window is a view that it asks and tells.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -12,6 +13,7 @@
 
 #include "pipeline/contact_sheet.h"
 #include "pipeline/file_chooser.h"
+#include "pipeline/likeness.h"
 #include "pipeline/photo_loader.h"
 #include "pipeline/save_meanwhile.h"
 #include "remap/engine/thread_runner.h"
@@ -93,9 +95,10 @@ class Desk {
     void ApplyGear();                         // to all
     void ApplySettings();                     // of the current photo, to all
 
-    void ImagesAdded();
-    // Dropped files. For a picture that Varnel made of a photo, that photo with the settings that
-    // made the picture; the first such one becomes current.
+    // Those behind that many are new.
+    void ImagesAdded(int before);
+    // Dropped files and folders. For a picture that Varnel made of a photo, that photo with the
+    // settings that made the picture; the first such one becomes current.
     void AddFiles(const QStringList& paths);
     void RemoveSelected();
     // Copies the whole list into the batch queue; returns the queue's length.
@@ -130,6 +133,8 @@ class Desk {
     // The same, which must be there, with all that a queued record has.
     const ImageRecord& PreparedCurrent();
     QString CurrentPath();  // empty when there is none
+    // Why a photo that was added could not be read, which was told then; empty for the others.
+    QString Unreadable(const QString& path) const { return unreadable_.value(path); }
     // True while a conversion runs; nothing else may be started then.
     bool Busy() const { return busy_ || rendering_; }
 
@@ -137,6 +142,8 @@ class Desk {
     bool LoadFull(int line);
     bool LoadAndReduce(int line);
     void Reduce();
+    void NoteBad(const std::vector<BadFile>& bad);
+    void TellBad(const std::vector<BadFile>& bad);
     void TellNotOpened(const ImageRecord& image);
     // Shows the current record's values again after something else changed them.
     void RefreshCurrent();
@@ -173,6 +180,7 @@ class Desk {
     bool rendering_ = false;
     bool saving_ = false;
     bool drawAgain_ = false;
+    QHash<QString, QString> unreadable_;
     QString loadTrouble_;  // why the current line's photo is not there
 };
 

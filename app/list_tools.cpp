@@ -119,7 +119,8 @@ void ListTools::ShowMarks() {
         QListWidgetItem* const item = list_.item(line);
         const ImageRecord& image = state_.Images(line + 1);
         const QString path = SourcePath(image);
-        const auto [letters, words] = MarksOf(image, queued.contains(path), troubles_.value(path));
+        const auto [letters, words] =
+            MarksOf(image, queued.contains(path), troubles_.value(path, desk_.Unreadable(path)));
         const QString tip = path + u'\n' + words;
         if (item->toolTip() != tip) {
             item->setData(PhotoList::marksRole, letters);

@@ -43,7 +43,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
     if (const std::optional<QString> reminder = CheckRevisionAge(userStore, QDate::currentDate())) {
-        notices.Tell(*reminder, {});
+        MessageBoxes::Inform(*reminder);
     }
     TellOf(userStore, notices);
     TellingStore store(userStore, notices);

@@ -220,7 +220,7 @@ void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
 void MDIForm1::dropEvent(QDropEvent* event) {
     QStringList files;
     for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile()) {
+        if (url.isLocalFile() && QFileInfo::exists(url.toLocalFile())) {
             files.append(url.toLocalFile());
         }
     }

@@ -167,8 +167,9 @@ void MDIForm1::PickPoint(QPoint /*position*/, Qt::MouseButton /*button*/,
                          Qt::KeyboardModifiers /*modifiers*/) {}
 
 void MDIForm1::AddImages() {
+    const int before = state_.Images.UpperBound();
     if (ports_.dialogs.AddImages(this)) {
-        desk_->ImagesAdded();
+        desk_->ImagesAdded(before);
     }
 }
 

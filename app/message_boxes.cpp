@@ -7,9 +7,13 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QShortcut>
+#include <QSpacerItem>
+#include <QStyle>
+#include <algorithm>
 
 #include "app/save_dialog.h"
 #include "gear/form_gear_edit.h"
@@ -27,6 +31,22 @@ void QuitFrom(QDialog& dialog, bool& quitWanted) {
         quitWanted = true;
         dialog.reject();
     });
+}
+
+// A box is as wide as its text, which may be a few words, while the detail has whole paths.
+void Widen(QMessageBox& box) {
+    constexpr int readable = 64;  // characters of a line
+    int widest = 0;
+    for (const QString& line : (box.text() + u'\n' + box.informativeText()).split(u'\n')) {
+        widest = std::max(widest, box.fontMetrics().horizontalAdvance(line));
+    }
+    const int room = std::min(widest, readable * box.fontMetrics().averageCharWidth());
+    auto* const grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid != nullptr) {
+        const int icon = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+        grid->addItem(new QSpacerItem(room + 2 * icon, 0), grid->rowCount(), 0, 1,
+                      grid->columnCount());
+    }
 }
 
 QStringList Filters() {
@@ -62,10 +82,17 @@ void KeepNameAcrossFilters(QFileDialog& dialog) {
 
 }  // namespace
 
-void MessageBoxes::Tell(const QString& text, const QString& detail) {
+void MessageBoxes::Inform(const QString& text) {
     QMessageBox box(QMessageBox::Information, QStringLiteral("Varnel"), text, QMessageBox::Ok,
                     QApplication::activeWindow());
+    box.exec();
+}
+
+void MessageBoxes::Tell(const QString& text, const QString& detail) {
+    QMessageBox box(QMessageBox::Warning, QStringLiteral("Varnel"), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
     box.setInformativeText(detail);
+    Widen(box);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     box.exec();
 }

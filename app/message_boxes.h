@@ -12,9 +12,11 @@
 
 namespace varnel {
 
-// Plain modal message boxes with an OK button, above whatever window is active.
+// Plain modal message boxes with an OK button, above whatever window is active. What has to be told
+// is that something went wrong; the rest is for information.
 class MessageBoxes : public Notices {
   public:
+    static void Inform(const QString& text);
     void Tell(const QString& text, const QString& detail) override;
 };
 

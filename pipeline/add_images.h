@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+#include <functional>
 
 #include "state/image_record.h"
 #include "state/record_array.h"
@@ -15,21 +16,37 @@
 
 namespace varnel {
 
-inline constexpr QStringView photoPatterns = u"*.jpg;*.tif;*.png;*.bmp;*.dng";
+// The endings that the dialog names, then the others of the same types.
+inline constexpr QStringView photoPatterns =
+    u"*.jpg;*.tif;*.png;*.bmp;*.dng;*.jpeg;*.jpe;*.jif;*.jfif;*.tiff;*.dib";
 inline constexpr QStringView anyPattern = u"*.*";  // every file, with a dot in its name or without
 
 // The names of the folder's files that match one of the patterns, sorted; case never counts. Hidden
 // files are left out.
 QStringList FilesIn(const QString& folder, QStringView patterns);
 
+inline constexpr int mostDropped = 10000;  // photos of folders that are taken at once
+
+struct DroppedPhotos {
+    QStringList files;    // absolute
+    QStringList without;  // folders in which no photo was found
+    bool tooMany = false;
+    bool givenUp = false;
+};
+
+// The files as they are and, for each folder, its own photos, then those of its sub-folders, in the
+// order in which people count: "2" before "10". What is hidden and links to folders are left out.
+// Asks between folders whether to go on.
+DroppedPhotos PhotosOf(const QStringList& dropped, const std::function<bool()>& goesOn);
+
 struct StartPlace {
     QString drive;   // as DriveName gives it
     QString folder;  // absolute
 };
 
-// Where photos were last looked for, at first the program's own folder. When that folder is gone or
+// Where photos were last looked for, at first the given folder. When that folder is gone or
 // empty: the system's root.
-StartPlace ChooseStartPlace(const SettingsStore& store, const QString& programFolder);
+StartPlace ChooseStartPlace(const SettingsStore& store, const QString& firstFolder);
 void SaveStartPlace(SettingsStore& store, const StartPlace& place);
 
 // The folder as records keep it: the platform's separators, none at the end. The root is the empty

@@ -85,6 +85,12 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, P
     AppendFiles(images, {path});
 }
 
+void NoteIfBad(const QString& path, PhotoLoader& photos, AddedFiles& added) {
+    if (const QString trouble = photos.Trouble(path); !trouble.isEmpty()) {
+        added.bad.push_back({path, trouble});
+    }
+}
+
 }  // namespace
 
 bool MayHoldSettings(const QString& path) {
@@ -119,6 +125,9 @@ AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringL
     bool goesOn = true;
     for (const QString& path : paths) {
         const bool asks = goesOn && MayHoldSettings(path);
+        if (goesOn) {
+            NoteIfBad(path, photos, added);
+        }
         AppendFileOrSource(images, path, photos,
                            asks ? photos.Facts(path).metadata.settings : PictureSettings(), added);
         goesOn = goesOn && !photos.GivenUp() && together.Continue();

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "pipeline/photo_loader.h"
 #include "state/record_array.h"
@@ -29,14 +30,20 @@ QString ShownSource(const ImageRecord& record);
 // was, then beside the picture.
 std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture);
 
+// A file that no picture can be had of.
+struct BadFile {
+    QString path, reason;
+};
+
 struct AddedFiles {
     int like = 0;         // number of the first record that came from a picture's settings; 0: none
     QStringList missing;  // pictures whose source photo is gone, each with its name
     QStringList notes;    // refused settings, each with its picture
+    std::vector<BadFile> bad;
 };
 
 // As AppendFiles does, but for a picture that holds settings its source photo with these settings
-// comes, if it is there. Reads no pixels; when the user gives up waiting, no further file is looked
+// comes, if it is there. Reads no pixels, but notes which files are no pictures; when the user gives up waiting, no further file is looked
 // into.
 AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringList& paths,
                                 PhotoLoader& photos);

@@ -4,6 +4,7 @@
 #include "pipeline/photo_loader.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 #include "state/gear_assignment.h"
 #include "state/told_reason.h"
@@ -38,10 +39,12 @@ LoadedPicture PhotoLoader::Read(ReadRequest request) {
     reading_ = true;
     request.upright = settings_ == nullptr || settings_->AutoOrient;
     BeginWait(request.path);
+    const auto atEnd = qScopeGuard([this] {
+        EndWait();
+        reading_ = false;
+    });
     LoadedPicture picture = ReadPicture(reader_, request, [this] { return Continue(); });
     picture.reason = ToldReason(picture.reason);
-    EndWait();
-    reading_ = false;
     return picture;
 }
 
@@ -54,6 +57,11 @@ std::optional<PhotoSize> PhotoLoader::Size(const QString& path) {
     return picture.outcome == LoadOutcome::NotLoaded
                ? std::nullopt
                : std::optional(PhotoSize{picture.size, picture.orientation});
+}
+
+QString PhotoLoader::Trouble(const QString& path) {
+    const LoadedPicture picture = Read({path, ReadKind::Size, {}});
+    return picture.outcome == LoadOutcome::NotLoaded && !givenUp_ ? picture.reason : QString();
 }
 
 PhotoFacts PhotoLoader::Facts(const QString& path) {

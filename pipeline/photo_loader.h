@@ -64,6 +64,8 @@ class PhotoLoader {
     LoadedPicture Load(const QString& path);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PhotoSize> Size(const QString& path);
+    // Why there is no picture in the file, as far as its beginning tells; empty when there is one.
+    QString Trouble(const QString& path);
     // What the file says beside its pixels.
     PhotoFacts Facts(const QString& path);
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "app/photo_list.h"
+#include "pipeline/add_images.h"
 #include "tests/support/texts.h"
 #include "tests/support/window_desk.h"
 
@@ -26,6 +28,43 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
     EXPECT_EQ(desk.state.Images.UpperBound(), 2);
     desk.Click("CommandSaveFreeimage");
     EXPECT_EQ(desk.notices.texts.size(), 2);  // and nothing of the other photo is saved
+}
+
+TEST(MainWindow, BadFilesOfADropOrADialogAreToldInOneBoxAndMarked) {
+    WindowDesk desk;
+    QDir(desk.files.Path({})).mkpath(Text("day/evening"));
+    desk.files.Picture(Text("day/b.bmp"), FIF_BMP);
+    const QStringList bad{desk.files.Text(Text("day/a.jpg")),
+                          desk.files.Empty(Text("day/evening/c.TIFF"))};
+    const auto expectTold = [&](int first) {
+        EXPECT_EQ(desk.notices.texts,
+                  QStringList(Text("2 of the added images could not be opened")));
+        for (const QString& path : bad) {
+            EXPECT_TRUE(desk.notices.details.value(0).contains(path)) << qPrintable(path);
+        }
+        QApplication::processEvents();
+        const auto* const list = desk.Find<QListWidget>("ImageList1");
+        ASSERT_EQ(list->count(), first + 3);
+        for (int line = 0; line < 3; ++line) {
+            desk.ClickLine(first + line);
+            EXPECT_EQ(list->item(first + line)->data(PhotoList::marksRole).toString(),
+                      line == 1 ? Text("V") : Text("V!"));
+        }
+        EXPECT_EQ(desk.notices.texts.size(), 1) << "no box for each of them";
+        desk.notices.texts.clear();
+        desk.notices.details.clear();
+    };
+    desk.window.AddFiles({desk.files.Path(Text("day"))});
+    expectTold(0);
+    desk.dialogs.onAdd = [&] {
+        AppendFiles(desk.state.Images, {bad[0], desk.files.Path(Text("day/b.bmp")), bad[1]});
+        return true;
+    };
+    desk.Click("Command1");
+    expectTold(3);
+    QDir(desk.files.Path({})).mkdir(Text("none"));
+    desk.window.AddFiles({desk.files.Path(Text("none"))});
+    EXPECT_EQ(desk.notices.texts, QStringList(Text("There are no photos in a folder")));
 }
 
 TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {

@@ -65,6 +65,23 @@ TEST(SaveDialog, ProposesAndGivesTheNameAsItStands) {
     }
 }
 
+TEST(MessageBoxes, WarnAndAreWideEnoughToRead) {
+    const QString path = Text("/a/b.jpg: ");
+    const QString reason = Text("damaged, and that in more words than are good for a line; ");
+    MessageBoxes notices;
+    for (const QString& detail : {path + reason, path + reason.repeated(5)}) {
+        const Answers answers({[&](QDialog* dialog) {
+            const auto* const box = qobject_cast<QMessageBox*>(dialog);
+            EXPECT_EQ(box->icon(), QMessageBox::Warning);
+            const int characters = box->width() / box->fontMetrics().averageCharWidth();
+            EXPECT_GT(characters, 60);
+            EXPECT_LT(characters, 90);
+            dialog->accept();
+        }});
+        notices.Tell(Text("Could not open image"), detail);
+    }
+}
+
 TEST(SaveDialog, AProjectMayHaveQuotesAndIsReplacedWhenAgreedOnly) {
     const testing::PictureFolder folder;
     WorkingState state;

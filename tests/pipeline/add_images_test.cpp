@@ -25,10 +25,36 @@ TEST(FilesIn, MatchesWithoutRegardToCaseAndSorts) {
     }
     QDir(folder.path()).mkdir(Text("folder.jpg"));
     EXPECT_EQ(FilesIn(folder.path(), photoPatterns).join(u' '),
-              Text("a.jpg b.JPG c.Tif d.png e.bmp f.DNG K.jpg"));
+              Text("a.jpg b.JPG c.Tif d.png e.bmp f.DNG g.tiff h.jpeg K.jpg"));
     EXPECT_EQ(FilesIn(folder.path(), anyPattern).join(u' '),
               Text("a.jpg b.JPG c.Tif d.png e.bmp f.DNG g.tiff h.jpeg i.jpg.txt jpg K.jpg"));
     EXPECT_TRUE(FilesIn(folder.filePath(Text("gone")), anyPattern).isEmpty());
+}
+
+TEST(PhotosOf, TakesFoldersWithThoseInsideAsPeopleCountAndLeavesTheHidden) {
+    const QTemporaryDir folder;
+    const QDir dir(folder.path());
+    for (const char* const name : {"day/IMG10.JPEG", "day/img2.tiff", "day/notes.txt", "day/.x.jpg",
+                                   "day/10/a.png", "day/9/deep/b.dng", "day/.thumbs/c.jpg"}) {
+        dir.mkpath(QFileInfo(Text(name)).path());
+        testing::WriteFile(folder.filePath(Text(name)), "x");
+    }
+    dir.mkpath(Text("empty"));
+    QFile::link(folder.path(), folder.filePath(Text("day/loop")));
+    const auto in = [&](const QStringList& names) {
+        QStringList paths;
+        for (const QString& name : names) {
+            paths.append(folder.filePath(name));
+        }
+        return paths;
+    };
+    const auto always = [] { return true; };
+    const DroppedPhotos found = PhotosOf(in({Text("x"), Text("day"), Text("empty")}), always);
+    EXPECT_EQ(found.files, in({Text("x"), Text("day/img2.tiff"), Text("day/IMG10.JPEG"),
+                               Text("day/9/deep/b.dng"), Text("day/10/a.png")}));
+    EXPECT_EQ(found.without, in({Text("empty")}));
+    EXPECT_FALSE(found.tooMany || found.givenUp);
+    EXPECT_TRUE(PhotosOf(in({Text("day")}), [] { return false; }).givenUp);
 }
 
 TEST(ChooseStartPlace, IsTheLastFolderUnlessThereIsNothingInIt) {

@@ -54,6 +54,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     view_ = std::make_unique<WindowView>(this, parts_, state_);
     desk_ = std::make_unique<Desk>(state_, ports_.photos, ports_.notices, *view_);
     new UndoTools(parts_, *view_, *desk_, this);
+    AddRemoveEntry();
     list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
     new ZoomTools(this, parts_, *view_, *desk_, state_);
@@ -152,6 +153,9 @@ void MDIForm1::BuildMenus() {
     AddEntry(file, "CmdFileOpen", tr("&OpenOld"), {}, nullptr);
     AddEntry(file, "CmdFileOpenFreeImage", tr("Open image(s)"), QKeySequence::Open,
              &MDIForm1::AddImages);
+    saveImage_ = AddEntry(file, "CmdFileSaveImage", parts_.save->SaveAs()->text(),
+                          QKeySequence::Save, &MDIForm1::SaveAs);
+    saveImage_->setShortcuts(saveImage_->shortcuts() << QKeySequence::SaveAs);
     file->addSeparator()->setObjectName(QStringLiteral("Sep2"));
     AddEntry(file, "CmdFileExit", tr("&Exit"), QKeySequence(Qt::CTRL | Qt::Key_Q), &MDIForm1::Quit);
     parts_.editMenu = menuBar()->addMenu(tr("&Edit"));
@@ -165,6 +169,15 @@ void MDIForm1::BuildMenus() {
     AddEntry(tools, "CmdToolsStretch", tr("Stretch"), {}, &MDIForm1::Stretch);
     QMenu* const about = menuBar()->addMenu(tr("&About"));
     AddEntry(about, "CmdAboutAbout", tr("&About"), {}, &MDIForm1::ShowAbout);
+}
+
+// Its key is the list's own: elsewhere it deletes what is typed.
+void MDIForm1::AddRemoveEntry() {
+    parts_.editMenu->addSeparator();
+    removeImages_ = AddEntry(parts_.editMenu, "CmdEditRemoveImages", parts_.list->Remove()->text(),
+                             QKeySequence::Delete, &MDIForm1::RemoveImages);
+    removeImages_->setShortcutContext(Qt::WidgetShortcut);
+    parts_.list->List()->addAction(removeImages_);
 }
 
 void MDIForm1::Activate() {

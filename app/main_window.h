@@ -49,7 +49,9 @@ class MDIForm1 : public QMainWindow {
     void BuildMenus();
     QAction* AddEntry(QMenu* menu, const char* name, const QString& text,
                       const QKeySequence& shortcut, void (MDIForm1::*handler)());
+    void AddRemoveEntry();
     void ConnectControls();
+    void TakeTyped();
     void ConnectSliders();
 
     void Activate();
@@ -86,6 +88,8 @@ class MDIForm1 : public QMainWindow {
     WindowParts parts_;
     QSplitter* splitter_ = nullptr;
     QAction* morph_ = nullptr;
+    QAction* saveImage_ = nullptr;
+    QAction* removeImages_ = nullptr;
     std::unique_ptr<WindowView> view_;
     std::unique_ptr<Desk> desk_;
     ProjectTools* projects_ = nullptr;

@@ -47,27 +47,27 @@ void MDIForm1::ConnectControls() {
         }
     });
 
-    const auto shortcut = [this](const QKeySequence& keys, QWidget* where, auto handler) {
-        auto* const made = new QShortcut(keys, where);
-        made->setContext(where == this ? Qt::WindowShortcut : Qt::WidgetShortcut);
+    const auto shortcut = [this](const QKeySequence& keys, auto handler) {
+        auto* const made = new QShortcut(keys, this);
         connect(made, &QShortcut::activated, this, [this, handler] {
-            if (auto* const number = qobject_cast<QSpinBox*>(focusWidget())) {
-                number->interpretText();  // what is still being typed counts
-            }
+            TakeTyped();
             if (!view_->Locked()) {
                 handler();
             }
         });
     };
-    shortcut(QKeySequence::Delete, parts_.list->List(), [this] { RemoveImages(); });
-    shortcut(QKeySequence::SaveAs, this, [this] { parts_.save->SaveAs()->click(); });
-    shortcut(QKeySequence::Save, this, [this] { parts_.save->SaveAs()->click(); });
-    shortcut(QKeySequence(Qt::Key_F5), this,
-             [this] { parts_.adjustments->PreviewButton()->click(); });
+    shortcut(QKeySequence(Qt::Key_F5), [this] { parts_.adjustments->PreviewButton()->click(); });
     for (const Projection projection : allProjections) {
         const int index = static_cast<int>(projection);
-        shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)), this,
+        shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)),
                  [this, index] { parts_.adjustments->Projections()->button(index)->click(); });
+    }
+}
+
+// What is still being typed counts.
+void MDIForm1::TakeTyped() {
+    if (auto* const number = qobject_cast<QSpinBox*>(focusWidget())) {
+        number->interpretText();
     }
 }
 
@@ -216,6 +216,7 @@ void MDIForm1::ShowAbout() {
 }
 
 void MDIForm1::SaveAs() {
+    TakeTyped();
     desk_->SaveAs(ports_.fileChooser);
 }
 
@@ -253,7 +254,9 @@ void MDIForm1::UpdateEnabled() {
              parts_.save->SaveAs(), parts_.save->AddToQueue()}) {
         control->setEnabled(photos);
     }
-    morph_->setEnabled(photos);
+    for (QAction* const entry : {morph_, saveImage_, removeImages_}) {
+        entry->setEnabled(photos);
+    }
 }
 
 }  // namespace varnel

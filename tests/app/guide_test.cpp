@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QTextBlock>
 
 #include "app/form_guide.h"
@@ -83,6 +84,52 @@ TEST(Guide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
                 << qPrintable(page) << ": " << qPrintable(name);
         }
     }
+}
+
+// The first key of every entry, and all keys without an entry. Escape leaves many things; the
+// defaults have a key on some desktops only.
+QStringList RealKeys(const QWidget& window) {
+    QStringList keys;
+    for (const QAction* const action : window.findChildren<QAction*>()) {
+        if (action->objectName() != Q("CmdSetupSetup")) {
+            keys.append(action->shortcut().toString(QKeySequence::PortableText));
+        }
+    }
+    for (const QShortcut* const shortcut : window.findChildren<QShortcut*>()) {
+        keys.append(shortcut->key().toString(QKeySequence::PortableText));
+    }
+    keys.removeAll(QString());
+    keys.removeAll(Q("Esc"));
+    keys.sort();
+    return keys;
+}
+
+// Those of one cell after the other: "Ctrl+O, Del", "Ctrl+1 to Ctrl+4". Others are no shortcuts.
+QStringList ToldKeys(const QStringList& cells) {
+    static const QRegularExpression isKey(Q(R"(^((Ctrl|Alt|Shift)\+)+\S$|^F\d+$|^Del$)"));
+    static const QRegularExpression range(Q(R"(^(.*)(\d) to .*(\d)$)"));
+    QStringList keys;
+    for (const QString& cell : cells) {
+        for (const QString& told : cell.split(Q(", "))) {
+            const auto row = range.match(told);
+            for (int n = row.captured(2).toInt(); n <= row.captured(3).toInt(); ++n) {
+                keys.append(row.hasMatch() ? row.captured(1) + QString::number(n) : told);
+            }
+        }
+    }
+    keys = keys.filter(isKey);
+    keys.sort();
+    return keys;
+}
+
+TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
+    testing::WindowDesk desk;
+    const QStringList real = RealKeys(desk.window);
+    const QString table = PageText(Q("steering.md")).section(Q("## Keys"), 1);
+    EXPECT_EQ(ToldKeys(Matches(table, R"((?m)^\| ([^|]+) \|)")), real);
+    QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
+    manual = manual.section(Q(".SH KEYS"), 1).section(Q(".SH OPTIONS"), 0, 0).remove(u'\\');
+    EXPECT_EQ(ToldKeys(Matches(manual, R"((?m)^\.B (.+)$)")), real);
 }
 
 TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {

@@ -109,7 +109,9 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
 TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
     const QStringList rows[] = {
         {Q("&File"), Q("CmdFileOpen: &OpenOld"), Q("CmdFileOpenFreeImage: Open image(s)"),
-         Q("Sep2: "), Q("CmdFileExit: &Exit"), Q("CmdOpenSample: Open the sa&mple")},
+         Q("CmdFileSaveImage: Save image as ..."), Q("Sep2: "), Q("CmdFileExit: &Exit"),
+         Q("CmdOpenSample: Open the sa&mple")},
+        {Q("&Edit"), Q("CmdEditRemoveImages: Remove image(s)")},
         {Q("&Setup"), Q("CmdSetupEquipment: &Manage equipment"), Q("CmdSetupSetup: &Defaults")},
         {Q("&Tools"), Q("CmdToolsMorph: Morph"), Q("CmdToolsStretch: Stretch")},
         {Q("&About"), Q("CmdAboutAbout: &About")},

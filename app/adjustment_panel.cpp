@@ -26,11 +26,11 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent)
     remapColumn->addWidget(MakePreviewChoices(remap));
     AddRow(remapColumn, SliderId::AovOutput);
     AddRow(remapColumn, SliderId::Effect);
-    AddGroupLabel(remapColumn, "LabelRotate1", tr("Rotate camera"));
+    AddGroupLabel(remapColumn, "LabelRotate1", GroupName(SliderId::X));
     AddRow(remapColumn, SliderId::X);
     AddRow(remapColumn, SliderId::Y);
     AddRow(remapColumn, SliderId::Z);
-    AddGroupLabel(remapColumn, "LabelTranslate1", tr("Transpose image"));
+    AddGroupLabel(remapColumn, "LabelTranslate1", GroupName(SliderId::XTranslate));
     AddRow(remapColumn, SliderId::XTranslate);
     AddRow(remapColumn, SliderId::YTranslate);
     AddRow(equipmentColumn, SliderId::AovInput);
@@ -40,13 +40,15 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent)
     ShowFor(Projection::Varnel);
 }
 
-QWidget* AdjustmentPanel::MakeProjections(QWidget* parent) {
+QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     static const std::array tips{
-        QT_TR_NOOP("Fills the frame with the whole fisheye circle"),
+        QT_TR_NOOP(
+            "Stretches every row of the circle sideways to the full width; no row moves up or "
+            "down"),
         QT_TR_NOOP("Straight lines of the scene come out straight"),
         QT_TR_NOOP("A fisheye in which equal angles take equal room"),
         QT_TR_NOOP("Unrolls a circle shot straight up or down into a panorama")};
-    auto* const box = new QWidget(parent);
+    auto* const box = new QWidget(remap);
     auto* const grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     for (const Projection projection : allProjections) {
@@ -61,6 +63,9 @@ QWidget* AdjustmentPanel::MakeProjections(QWidget* parent) {
     applyToAll_ = new QPushButton(tr("Apply to all"), box);
     applyToAll_->setObjectName(QStringLiteral("CmdApplyAll2"));
     applyToAll_->setToolTip(tr("Gives every photo in the list these settings and this gear"));
+    // The gear has a button of the same text.
+    applyToAll_->setAccessibleName(
+        QStringLiteral("%1: %2").arg(remap->title(), applyToAll_->text()));
     grid->addWidget(applyToAll_, 0, 2, 2, 1);
     return box;
 }

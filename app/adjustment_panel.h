@@ -37,7 +37,7 @@ class AdjustmentPanel : public QWidget {
     QButtonGroup* Projections() const { return projections_; }
 
   private:
-    QWidget* MakeProjections(QWidget* parent);
+    QWidget* MakeProjections(QGroupBox* remap);
     QWidget* MakePreviewChoices(QWidget* parent);
     void AddRow(QLayout* layout, SliderId id);
     void AddGroupLabel(QLayout* layout, const char* name, const QString& text);

@@ -12,8 +12,8 @@ CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
     setObjectName(QStringLiteral("BarCircle"));
     text_->setObjectName(QStringLiteral("LabelCircle"));
     text_->setToolTip(
-        tr("The middle of the circle, in thousandths of the photo's width and height, "
-           "and the sensor's width in percent of the circle's diameter"));
+        tr("How far the circle's middle is from the photo's, in thousandths of its width and "
+           "height, and the circle's diameter in percent of the photo's longer side"));
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the rest is the pictures'
@@ -30,6 +30,7 @@ CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
                       tr("Makes this circle the one of the gear"), &CircleBar::TakeWanted);
     agree_ = AddButton("CmdCircleAgree", tr("Change the gear"), {}, &CircleBar::Agreed);
     decline_ = AddButton("CmdCircleDecline", tr("Cancel"), {}, &CircleBar::Declined);
+    decline_->setAccessibleName(QStringLiteral("%1: %2").arg(agree_->text(), decline_->text()));
     ShowQuestion(false);
 }
 

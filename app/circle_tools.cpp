@@ -18,12 +18,27 @@ namespace varnel {
 
 namespace {
 
+QString Number(double value) {
+    return QLocale().toString(value, 'f', 1);
+}
+
+// A gear's offsets lead to the right and down.
 QString NumbersText(const GearCircle& circle) {
-    const auto number = [](float value) {
-        return QLocale().toString(static_cast<double>(value), 'f', 1);
+    QStringList places;
+    const auto add = [&places](float offset, const QString& positive, const QString& negative) {
+        const double shown = std::round(static_cast<double>(offset) * 10.0) / 10.0;
+        if (shown != 0.0) {
+            places.append((shown > 0.0 ? positive : negative).arg(Number(std::fabs(shown))));
+        }
     };
-    return QStringLiteral("OfsetX %1 ‰   OfsetY %2 ‰   GearRatio %3 %")
-        .arg(number(circle.OfsetX), number(circle.OfsetY), number(circle.GearRatio));
+    add(circle.OfsetX, CircleTools::tr("%1 ‰ right"), CircleTools::tr("%1 ‰ left"));
+    add(circle.OfsetY, CircleTools::tr("%1 ‰ down"), CircleTools::tr("%1 ‰ up"));
+    const QString place = places.isEmpty() ? CircleTools::tr("in the middle of the photo")
+                                           : places.join(QStringLiteral(", "));
+    // The ratio is the photo's longer side in percent of the diameter.
+    const auto ratio = static_cast<double>(circle.GearRatio);
+    return CircleTools::tr("Centre %1, diameter %2 %")
+        .arg(place, Number(ratio > 0.0 ? 10000.0 / ratio : 0.0));
 }
 
 // Where to begin when the gear tells no circle.
@@ -76,6 +91,9 @@ void CircleTools::OnToggled(bool on) {
         photo->AddOverlay(&overlay_);
     }
     bar_->setVisible(on);
+    if (!on && parts_.status->text() == found_) {
+        view_.ShowStatus({});
+    }
     Reset();
 }
 
@@ -160,10 +178,10 @@ void CircleTools::Find() {
     try {
         if (const std::optional<FoundCircle> found = FindPhotoCircle(photo)) {
             Try(*found);
-            view_.ShowStatus(found->rough
-                                 ? tr("A rough image circle, from the light inside: it is dark at "
-                                      "the rim. Drag the rim where it is not right.")
-                                 : tr("Image circle found."));
+            found_ = found->rough ? tr("A rough image circle, from the light inside: it is dark at "
+                                       "the rim. Drag the rim where it is not right.")
+                                  : tr("Image circle found.");
+            view_.ShowStatus(found_);
         } else {
             view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
         }
@@ -176,7 +194,8 @@ void CircleTools::Ask() {
     PrepareCurrent();
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
         asked_ = desk_.Current()->GearName;
-        bar_->Ask(tr("Change the gear \"%1\" to %2? Photos that are adjusted already keep their "
+        bar_->Ask(tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
+                     "keep their "
                      "circle, but for the current one.")
                       .arg(desk_.Current()->GearName,
                            NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize()))));
@@ -210,7 +229,7 @@ void CircleTools::RestoreGear(const GearChange& change) {
     if (ChangeGear(state_.Gear, change)) {
         SaveGear(store_, state_.Gear);
         view_.ShowStatus(
-            tr("The gear \"%1\" has the circle %2 again.")
+            tr("The gear \"%1\" has its circle again: %2.")
                 .arg(change.to.GearName,
                      NumbersText({change.to.OfsetX, change.to.OfsetY, change.to.GearRatio})));
     } else {

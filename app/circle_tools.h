@@ -48,6 +48,7 @@ class CircleTools : public QObject {
     WorkingState& state_;
     SettingsStore& store_;
     CircleOverlay overlay_;
+    QString found_;  // what the status says of the circle that was looked for
     CircleBar* bar_;
     QAction* entry_;
     std::optional<ImageCircle> trial_;

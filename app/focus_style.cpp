@@ -28,6 +28,11 @@ void PaintFrame(QPainter& painter, const QRect& place, const QColor& colour) {
 
 void FocusStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
+    if (const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        combo != nullptr && element == CE_ComboBoxLabel) {
+        DrawShortened(*combo, painter, widget);
+        return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
     if (widget == nullptr || !widget->hasFocus()) {
         return;
@@ -42,6 +47,18 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
         PaintFrame(*painter, option->rect.adjusted(4, 4, -4, -4),
                    colours.color(QPalette::ButtonText));
     }
+}
+
+// A text that has too little room ends in dots.
+void FocusStyle::DrawShortened(const QStyleOptionComboBox& combo, QPainter* painter,
+                               const QWidget* widget) const {
+    constexpr int margins = 2;  // between the field and its text
+    QStyleOptionComboBox shortened(combo);
+    const int icon = combo.currentIcon.isNull() ? 0 : combo.iconSize.width() + 4;
+    const int room =
+        subControlRect(CC_ComboBox, &combo, SC_ComboBoxEditField, widget).width() - icon - margins;
+    shortened.currentText = combo.fontMetrics.elidedText(combo.currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(CE_ComboBoxLabel, &shortened, painter, widget);
 }
 
 void FocusStyle::polish(QPalette& palette) {

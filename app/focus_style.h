@@ -8,6 +8,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionComboBox>
 
 namespace varnel {
 
@@ -18,6 +19,10 @@ class FocusStyle : public QProxyStyle {
                      const QWidget* widget) const override;
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
+
+  private:
+    void DrawShortened(const QStyleOptionComboBox& combo, QPainter* painter,
+                       const QWidget* widget) const;
 };
 
 }  // namespace varnel

@@ -64,9 +64,15 @@ QString LevelText(const Levelling& level) {
         case LevelTrouble::None:
             break;
     }
-    return Texts::tr("Levelled: %1, %2.")
-        .arg(SliderCaption(RowOf(SliderId::X), Whole(level.rotateX)),
-             SliderCaption(RowOf(SliderId::Z), Whole(level.rotateZ)));
+    QStringList turns;
+    for (const auto& [id, angle] :
+         {std::pair(SliderId::X, level.rotateX), std::pair(SliderId::Z, level.rotateZ)}) {
+        if (Whole(angle) != 0) {
+            turns.append(SliderCaption(RowOf(id), Whole(angle)));
+        }
+    }
+    return turns.isEmpty() ? Texts::tr("The horizon is level already.")
+                           : Texts::tr("Levelled: %1.").arg(turns.join(QStringLiteral(", ")));
 }
 
 LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,

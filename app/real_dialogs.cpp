@@ -36,7 +36,7 @@ QString ProjectFilter() {
 }  // namespace
 
 bool RealDialogs::AddImages(QWidget* parent) {
-    const PhotoPlaces places{QCoreApplication::applicationDirPath(), QDir::homePath(),
+    const PhotoPlaces places{QDir::homePath(),
                              QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                              &MountedVolumes};
     // Of its own, so that a slow small picture never stands in a photo's way.

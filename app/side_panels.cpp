@@ -28,6 +28,7 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     gears_->installEventFilter(this);
     applyToAll_ = NamedButton("CmdApplyAll", tr("Apply to all"),
                               tr("Every photo in the list was taken with this gear"), this);
+    applyToAll_->setAccessibleName(QStringLiteral("%1: %2").arg(title(), applyToAll_->text()));
     auto* const grid = new QGridLayout(this);
     grid->addWidget(label, 0, 0, 1, 2);
     grid->addWidget(gears_, 1, 0);

@@ -52,8 +52,9 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
     grid->setVerticalSpacing(0);
     QString accessible = Translated(facts.startCaption);
     if (facts.headingLabel != nullptr) {
-        accessible = Translated(facts.heading);
-        heading_ = new QLabel(accessible, this);
+        accessible = SpokenName(facts);
+        heading_ = new QLabel(Translated(facts.heading), this);
+        heading_->setAccessibleName(accessible);
         heading_->setObjectName(QString::fromLatin1(facts.headingLabel));
         heading_->setToolTip(tip);
         heading_->installEventFilter(this);

@@ -55,7 +55,9 @@ void FormAddImages::ConnectControls() {
 }
 
 void FormAddImages::ShowStartPlace() {
-    const StartPlace start = ChooseStartPlace(store_, places_.programFolder);
+    const bool pictures = !QDir(places_.picturesFolder).isEmpty();
+    const StartPlace start =
+        ChooseStartPlace(store_, pictures ? places_.picturesFolder : places_.homeFolder);
     place_->Show(start.folder);
     place_->PutDriveInFront(start.drive);
     ui_->File1->setFocus();

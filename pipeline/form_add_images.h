@@ -22,7 +22,6 @@ namespace varnel {
 
 // The places of this computer that the dialog knows.
 struct PhotoPlaces {
-    QString programFolder;
     QString homeFolder;
     QString picturesFolder;
     FolderChooser::Volumes volumes;

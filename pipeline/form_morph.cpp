@@ -119,9 +119,9 @@ void FormMorph::BuildPairs() {
     int gridRow = 1;  // below "Start" and "End"
     for (const Pair& pair : pairs) {
         if (pair.id == SliderId::X) {
-            AddGroupLabel(*ui_->LayoutPairs, gridRow++, tr("Rotate camera"));
+            AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
         } else if (pair.id == SliderId::XTranslate) {
-            AddGroupLabel(*ui_->LayoutPairs, gridRow++, tr("Transpose image"));
+            AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
         }
         AddPair(DataOf(pair.id), pair.value, gridRow++);
     }
@@ -139,6 +139,7 @@ void FormMorph::BuildPairs() {
 void FormMorph::AddPair(const SliderRowData& facts, float MorphValues::*value, int gridRow) {
     auto* const heading = new QLabel(Translated(facts.heading), ui_->FramePairs);
     heading->setObjectName(HeadingName(facts));
+    heading->setAccessibleName(SpokenName(facts));
     heading->setToolTip(Translated(facts.tip));
     ui_->LayoutPairs->addWidget(heading, gridRow, 0);
     const QList<QSlider*> both{AddEnd(facts, {gridRow, 1}, First, ends_.start.*value),
@@ -154,8 +155,8 @@ QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture 
     const QString end = picture == First ? QStringLiteral("Start") : QStringLiteral("End");
     QSlider* const slider = MakeSlider(facts, ui_->FramePairs);
     slider->setObjectName(QLatin1StringView(facts.slider) + end);
-    slider->setAccessibleName((picture == First ? tr("%1 at the start") : tr("%1 at the end"))
-                                  .arg(Translated(facts.heading)));
+    slider->setAccessibleName(
+        (picture == First ? tr("%1 at the start") : tr("%1 at the end")).arg(SpokenName(facts)));
     // The sequence keeps what the photo has, fractions and all, until the slider is moved.
     const int shown = ValueOf(facts.id, ValuesFor(image_)).value_or(facts.start);
     slider->setValue(shown);

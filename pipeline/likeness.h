@@ -43,8 +43,8 @@ struct AddedFiles {
 };
 
 // As AppendFiles does, but for a picture that holds settings its source photo with these settings
-// comes, if it is there. Reads no pixels, but notes which files are no pictures; when the user gives up waiting, no further file is looked
-// into.
+// comes, if it is there. Reads no pixels, but notes which files are no pictures; when the user
+// gives up waiting, no further file is looked into.
 AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringList& paths,
                                 PhotoLoader& photos);
 

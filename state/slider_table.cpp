@@ -4,6 +4,7 @@
 #include "state/slider_table.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 namespace varnel {
 
@@ -33,32 +34,34 @@ constexpr std::array<SliderRowData, 8> rows{{
      QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0° Up/Down"),
      QT_TRANSLATE_NOOP("Sliders", "Tilts the camera. Double-click the name to reset it"), -40, 40,
      0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Down"), QT_TRANSLATE_NOOP("Sliders", "° Up"),
-     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear},
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::Y, "SliderY", "LabelRotateY", "LabelRotate3",
      QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0° Left/Right"),
      QT_TRANSLATE_NOOP("Sliders", "Pans the camera. Double-click the name to reset it"), -40, 40, 0,
      10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Right"), QT_TRANSLATE_NOOP("Sliders", "° Left"),
-     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear},
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::Z, "SliderZ", "LabelRotateZ", "LabelRotate4", QT_TRANSLATE_NOOP("Sliders", "Z-axis"),
      QT_TRANSLATE_NOOP("Sliders", "0° Z"),
      QT_TRANSLATE_NOOP(
          "Sliders", "Levels the picture by rolling the camera. Double-click the name to reset it"),
      -40, 40, 0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° c.clockwise"),
      QT_TRANSLATE_NOOP("Sliders", "° clockwise"), QT_TRANSLATE_NOOP("Sliders", "0°"), true,
-     ShownFor::Rectilinear},
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::XTranslate, "SliderXtranslate", "LabelTranslateX", "LabelTranslate2",
      QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0% Left/Right"),
      QT_TRANSLATE_NOOP("Sliders", "Shifts the picture sideways. Double-click the name to reset it"),
      -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Right"),
      QT_TRANSLATE_NOOP("Sliders", "% Left"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
-     ShownFor::Rectilinear},
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
     {SliderId::YTranslate, "SliderYtranslate", "LabelTranslateY", "LabelTranslate3",
      QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0% Up/Down"),
      QT_TRANSLATE_NOOP("Sliders",
                        "Shifts the picture up or down. Double-click the name to reset it"),
      -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Up"),
      QT_TRANSLATE_NOOP("Sliders", "% Down"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
-     ShownFor::Rectilinear},
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
 }};
 
 QString Translated(const char* text) {
@@ -69,6 +72,17 @@ QString Translated(const char* text) {
 
 const std::array<SliderRowData, 8>& SliderRows() {
     return rows;
+}
+
+QString GroupName(SliderId id) {
+    const char* const group = std::ranges::find(rows, id, &SliderRowData::id)->group;
+    return group == nullptr ? QString() : Translated(group);
+}
+
+QString SpokenName(const SliderRowData& row) {
+    const QString heading = Translated(row.heading);
+    return row.group == nullptr ? heading
+                                : QStringLiteral("%1: %2").arg(Translated(row.group), heading);
 }
 
 QString SliderCaption(const SliderRowData& row, int value) {

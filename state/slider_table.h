@@ -34,10 +34,16 @@ struct SliderRowData {
     const char* zero;      // the whole caption at 0; null: as positive
     bool resets;           // a double-click on the heading sets it to 0
     ShownFor shownFor;
+    const char* group = nullptr;  // the title above it and its neighbours; null for none
 };
 
 // In the order in which the window shows them.
 const std::array<SliderRowData, 8>& SliderRows();
+
+// Empty for none.
+QString GroupName(SliderId id);
+// What tells it from all others: the heading, behind the group's name if there is one.
+QString SpokenName(const SliderRowData& row);
 
 // The value label's text while the slider stands at value.
 QString SliderCaption(const SliderRowData& row, int value);

@@ -158,6 +158,18 @@
         <source>Saved %1, %2</source>
         <translation>%1 gespeichert, %2</translation>
     </message>
+    <message>
+        <source>%1 of the added images could not be opened</source>
+        <translation>%1 der hinzugefügten Bilder konnten nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>There are no photos in a folder</source>
+        <translation>In einem Ordner sind keine Fotos</translation>
+    </message>
+    <message>
+        <source>Only the first %1 photos were added</source>
+        <translation>Nur die ersten %1 Fotos wurden hinzugefügt</translation>
+    </message>
 </context>
 <context>
     <name>FormAbout</name>
@@ -1185,8 +1197,12 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Nicht ausgerichtet: Durch dieses Objektiv ist kein Horizont so gebogen wie diese Linie.</translation>
     </message>
     <message>
-        <source>Levelled: %1, %2.</source>
-        <translation>Ausgerichtet: %1, %2.</translation>
+        <source>The horizon is level already.</source>
+        <translation>Der Horizont ist schon waagerecht.</translation>
+    </message>
+    <message>
+        <source>Levelled: %1.</source>
+        <translation>Ausgerichtet: %1.</translation>
     </message>
 </context>
 <context>
@@ -1992,6 +2008,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>% Down</source>
         <translation>% unten</translation>
     </message>
+    <message>
+        <source>Rotate camera</source>
+        <translation>Kamera drehen</translation>
+    </message>
+    <message>
+        <source>Transpose image</source>
+        <translation>Bild verschieben</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -2122,18 +2146,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Umwandeln</translation>
     </message>
     <message>
-        <source>Rotate camera</source>
-        <translation>Kamera drehen</translation>
-    </message>
-    <message>
-        <source>Transpose image</source>
-        <translation>Bild verschieben</translation>
-    </message>
-    <message>
-        <source>Fills the frame with the whole fisheye circle</source>
-        <translation>Füllt das Bild mit dem ganzen Bildkreis des Fisheyes</translation>
-    </message>
-    <message>
         <source>Straight lines of the scene come out straight</source>
         <translation>Gerade Linien der Szene bleiben gerade</translation>
     </message>
@@ -2176,6 +2188,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Draws the preview now</source>
         <translation>Zeichnet die Vorschau jetzt</translation>
+    </message>
+    <message>
+        <source>Stretches every row of the circle sideways to the full width; no row moves up or down</source>
+        <translation>Streckt jede Zeile des Bildkreises seitwärts auf die volle Breite; keine Zeile rückt nach oben oder unten</translation>
     </message>
 </context>
 <context>
@@ -2220,8 +2236,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>The middle of the circle, in thousandths of the photo&apos;s width and height, and the sensor&apos;s width in percent of the circle&apos;s diameter</source>
-        <translation>Die Mitte des Kreises in Tausendsteln der Breite und der Höhe des Fotos und die Breite des Sensors in Prozent des Kreisdurchmessers</translation>
+        <source>How far the circle&apos;s middle is from the photo&apos;s, in thousandths of its width and height, and the circle&apos;s diameter in percent of the photo&apos;s longer side</source>
+        <translation>Wie weit die Kreismitte von der Bildmitte liegt, in Tausendsteln der Breite und Höhe des Fotos, und der Durchmesser des Kreises in Prozent der längeren Seite</translation>
     </message>
 </context>
 <context>
@@ -2239,10 +2255,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Auf diesem Foto wurde kein Rand eines Bildkreises gefunden.</translation>
     </message>
     <message>
-        <source>Change the gear &quot;%1&quot; to %2? Photos that are adjusted already keep their circle, but for the current one.</source>
-        <translation>Die Ausrüstung „%1“ auf %2 ändern? Fotos, die schon angepasst sind, behalten ihren Kreis, bis auf das aktuelle.</translation>
-    </message>
-    <message>
         <source>A rough image circle, from the light inside: it is dark at the rim. Drag the rim where it is not right.</source>
         <translation>Ein ungefährer Bildkreis, aus dem Licht darin: Am Rand ist es dunkel. Ziehen Sie den Rand, wo er nicht stimmt.</translation>
     </message>
@@ -2251,12 +2263,40 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Die Ausrüstung „%1“ hat den Kreis jetzt; Rückgängig nimmt ihn zurück.</translation>
     </message>
     <message>
-        <source>The gear &quot;%1&quot; has the circle %2 again.</source>
-        <translation>Die Ausrüstung „%1“ hat wieder den Kreis %2.</translation>
-    </message>
-    <message>
         <source>The gear &quot;%1&quot; stays as it is: it was edited or deleted since.</source>
         <translation>Die Ausrüstung „%1“ bleibt, wie sie ist: Sie wurde seither geändert oder gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 ‰ right</source>
+        <translation>%1 ‰ rechts</translation>
+    </message>
+    <message>
+        <source>%1 ‰ left</source>
+        <translation>%1 ‰ links</translation>
+    </message>
+    <message>
+        <source>%1 ‰ down</source>
+        <translation>%1 ‰ unten</translation>
+    </message>
+    <message>
+        <source>%1 ‰ up</source>
+        <translation>%1 ‰ oben</translation>
+    </message>
+    <message>
+        <source>in the middle of the photo</source>
+        <translation>in der Bildmitte</translation>
+    </message>
+    <message>
+        <source>Centre %1, diameter %2 %</source>
+        <translation>Kreismitte %1, Durchmesser %2 %</translation>
+    </message>
+    <message>
+        <source>Change the circle of the gear &quot;%1&quot;? %2. Photos that are adjusted already keep their circle, but for the current one.</source>
+        <translation>Den Kreis der Ausrüstung „%1“ ändern? %2. Fotos, die schon angepasst sind, behalten ihren Kreis, bis auf das aktuelle.</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; has its circle again: %2.</source>
+        <translation>Die Ausrüstung „%1“ hat wieder ihren Kreis: %2.</translation>
     </message>
 </context>
 <context>
@@ -2483,14 +2523,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 </context>
 <context>
     <name>varnel::FormMorph</name>
-    <message>
-        <source>Rotate camera</source>
-        <translation>Kamera drehen</translation>
-    </message>
-    <message>
-        <source>Transpose image</source>
-        <translation>Bild verschieben</translation>
-    </message>
     <message>
         <source>%1 at the start</source>
         <translation>%1 am Anfang</translation>

@@ -44,7 +44,7 @@ TEST(Access, TheToolsOverThePhoto) {
     press(Qt::Key_Up);
     press(Qt::Key_Up);
     // 10 of 300 and 2 of 200 pixels, in thousandths
-    EXPECT_TRUE(desk.Label("LabelCircle").startsWith(Q("OfsetX 33.3 ‰   OfsetY -10.0 ‰")))
+    EXPECT_TRUE(desk.Label("LabelCircle").startsWith(Q("Centre 33.3 ‰ right, 10.0 ‰ up, ")))
         << desk.Label("LabelCircle").toStdString();
     press(Qt::Key_Down, Qt::ShiftModifier);
     press(Qt::Key_Plus);

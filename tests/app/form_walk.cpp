@@ -77,6 +77,10 @@ class Walk {
         }
         return nullptr;
     }
+    static QString Spoken(const QWidget& widget) {
+        return widget.accessibleName().isEmpty() ? widget.property("text").toString()
+                                                 : widget.accessibleName();
+    }
     void CheckName(const QWidget& widget) {
         const auto* const label = qobject_cast<const QLabel*>(&widget);
         const bool picture = widget.objectName().startsWith(Q("Pic")) ||
@@ -87,6 +91,14 @@ class Walk {
             Note(widget, Q("has no name"));
         }
         const auto* const push = qobject_cast<const QPushButton*>(button);
+        if (push != nullptr || qobject_cast<const QSlider*>(&widget) != nullptr) {
+            for (const QWidget* const other : form_.findChildren<QWidget*>()) {
+                if (other != &widget && other->metaObject() == widget.metaObject() &&
+                    Spoken(*other) == Spoken(widget)) {
+                    Note(widget, Q("has the name of another"));
+                }
+            }
+        }
         // Return would press the default one instead.
         if (push != nullptr && !push->autoDefault() &&
             std::ranges::any_of(form_.findChildren<QPushButton*>(), &QPushButton::isDefault)) {

@@ -50,7 +50,7 @@ TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     EXPECT_EQ(desk.Slider("SliderZ")->value(), 10);
     EXPECT_EQ(desk.Slider("SliderX")->value(), 0);
     EXPECT_EQ(desk.Record(1).RotateZ, 10.0F);
-    EXPECT_EQ(desk.Label("StatusText"), Q("Levelled: 0°, 10° c.clockwise."));
+    EXPECT_EQ(desk.Label("StatusText"), Q("Levelled: 10° c.clockwise."));
     EXPECT_FALSE(desk.Entry("CmdToolsLevel")->isChecked());  // done
     // By 60 degrees, beyond the slider.
     desk.Entry("CmdToolsLevel")->trigger();
@@ -77,7 +77,7 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     desk.Entry("CmdViewCircle")->trigger();
     const GearRecord before = desk.state.Gear(1);
     desk.Click("CmdCircleFind");
-    EXPECT_EQ(desk.Label("LabelCircle"), Q("OfsetX 10.0 ‰   OfsetY -35.0 ‰   GearRatio 200.0 %"));
+    EXPECT_EQ(desk.Label("LabelCircle"), Q("Centre 10.0 ‰ right, 35.0 ‰ up, diameter 50.0 %"));
     EXPECT_EQ(desk.state.Gear(1), before);
     Drag(desk, {306.0, 186.0}, {306.0, 206.0});
     desk.Click("CmdCircleTake");

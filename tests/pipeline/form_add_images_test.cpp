@@ -44,7 +44,7 @@ class FormAddImagesTest : public testing::DialogTest<FormAddImages> {
 
     void Open() {
         form = std::make_unique<FormAddImages>(
-            images, store, notices, PhotoPlaces{A(), B(), Photos(), [this] { return volumes; }},
+            images, store, notices, PhotoPlaces{B(), Photos(), [this] { return volumes; }},
             SmallPictures{testing::Reader()});
         form->show();
     }
@@ -192,6 +192,15 @@ TEST_F(FormAddImagesTest, EnterAddsTheSelectedAndADoubleClickTheOneBelowIt) {
     EXPECT_FALSE(form->isVisible());
     ASSERT_EQ(images.UpperBound(), 3);
     EXPECT_EQ(images(3).FileName, Text("b.JPG"));
+}
+
+TEST_F(FormAddImagesTest, OpensForTheFirstTimeInThePicturesUnlessThereAreNone) {
+    store = MemoryStore();
+    Open();
+    EXPECT_EQ(ShownFolder(), Photos());
+    QDir(Photos()).removeRecursively();
+    Open();
+    EXPECT_EQ(ShownFolder(), B());
 }
 
 TEST_F(FormAddImagesTest, EnterInTheFoldersOpensThemAndNotTheList) {

@@ -138,7 +138,8 @@ bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             const QModelIndex index = tree_.currentIndex();
-            if (!tree_.isAncestorOf(QApplication::focusWidget())) {
+            const QWidget* const focused = QApplication::focusWidget();
+            if (focused == &tree_ || !tree_.isAncestorOf(focused)) {
                 tree_.setExpanded(index, !tree_.isExpanded(index));
             }
             return true;

@@ -4,18 +4,24 @@
 #include "decoder/confinement.h"
 
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <linux/landlock.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 
 #include "decoder/decoder_socket.h"
 #include "decoder/system_call_filter.h"
+
+// POSIX leaves its declaration to the programs.
+extern char** environ;  // NOLINT
 
 namespace varnel {
 
@@ -44,6 +50,23 @@ void GiveUpFiles() {
     }
     syscall(SYS_landlock_restrict_self, made, 0);
     close(static_cast<int>(made));
+}
+
+// Those of the parent, when that runs as root.
+void GiveUpPowers() {
+    __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
+    const std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> none{};
+    syscall(SYS_capset, &head, none.data());
+}
+
+// People keep passwords there. What is still asked for is the time zone.
+void ForgetEnvironment() {
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        const std::size_t length = std::strlen(*entry);
+        if (std::strncmp(*entry, "TZ=", 3) != 0) {
+            std::fill_n(*entry, length, '\0');
+        }
+    }
 }
 
 void Limit(__rlimit_resource what, std::uint64_t soft, std::uint64_t hard) {
@@ -83,15 +106,21 @@ void Confine() {
         GiveUpInherited();
         MemoryStatus();
         GiveUpFiles();
+        GiveUpPowers();
+        ForgetEnvironment();
         FilterSystemCalls();
     }
 }
 
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds) {
-    // The library's picture in its own depth, the picture handed over and a little for the rest.
+    // The library's picture in its own depth, the picture handed over and a little for the rest. In
+    // the end metadata may need a little more; that much is final, because the parent says the same
+    // for each photo.
     constexpr std::uint64_t rest = std::uint64_t{1} << 30;
+    const std::uint64_t most = memory / 4 * 3 + rest;
     if (!sanitized) {
-        Limit(RLIMIT_AS, memory / 4 * 3 + rest, RLIM_INFINITY);
+        Limit(RLIMIT_AS, most, most + 2 * rest);
+        Limit(RLIMIT_FSIZE, most, most);  // the memory file
     }
     // Threads of the libraries count together, so twice the time that the parent waits.
     Limit(RLIMIT_CPU, ProcessorSecondsSoFar() + 2 * std::uint64_t{seconds} + 1, RLIM_INFINITY);
@@ -101,7 +130,10 @@ void LimitMetadata(std::uint64_t fileLength) {
     constexpr std::uint64_t rest = std::uint64_t{1} << 30;
     const std::uint64_t now = sanitized ? 0 : AddressSpace();
     if (now != 0) {
-        Limit(RLIMIT_AS, now + fileLength + rest, RLIM_INFINITY);
+        rlimit limit{};
+        getrlimit(RLIMIT_AS, &limit);
+        Limit(RLIMIT_AS, std::min<std::uint64_t>(now + fileLength + rest, limit.rlim_max),
+              limit.rlim_max);
     }
 }
 

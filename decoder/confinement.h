@@ -19,13 +19,14 @@ inline constexpr bool sanitized = false;
 #endif
 
 // Gives up what decoding does not need: core files, new privileges, and, unless the build is
-// sanitized, inherited files, every file by its name (Landlock) and every system call but a few
-// (FilterSystemCalls). It ends with its parent. What a system does not offer is left out. Not
-// undone by anything.
+// sanitized, inherited files, root's powers, the environment but for the time zone, every file by
+// its name (Landlock) and every system call but a few (FilterSystemCalls). It ends with its parent.
+// What a system does not offer is left out. Not undone by anything.
 void Confine();
 
-// The address space and the processor time from now on that the next photo may take. A process that
-// goes on longer is ended by the system.
+// The address space in bytes and the processor time from now on that the next photo may take; what
+// `memory` allows the first time stays the most for ever. A process that goes on longer is ended by
+// the system.
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds);
 
 // Not much more memory than the process has now, and this much for the photo's file: what a photo

@@ -29,7 +29,7 @@ constexpr int allowed[] = {
     SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(write), SCMP_SYS(writev), SCMP_SYS(pwrite64),
     SCMP_SYS(lseek), SCMP_SYS(fstat), SCMP_SYS(ftruncate), SCMP_SYS(close),
     // memory
-    SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(madvise),
+    SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap),
     // threads
     SCMP_SYS(futex), SCMP_SYS(set_robust_list), SCMP_SYS(rseq), SCMP_SYS(sched_yield),
     SCMP_SYS(sched_getaffinity), SCMP_SYS(gettid), SCMP_SYS(exit), SCMP_SYS(exit_group),
@@ -136,6 +136,11 @@ void AddFormsOfCalls(Filter& filter) {
     filter.Allow(SCMP_SYS(mmap), {Bits(2, PROT_EXEC, 0)});
     filter.Refuse(SCMP_SYS(mmap), EACCES, {Bits(2, PROT_EXEC, PROT_EXEC)});
     filter.Allow(SCMP_SYS(mprotect), {Bits(2, PROT_EXEC, 0)});
+    // Pages may be given back, but not be taken from the memory file (MADV_REMOVE, 9). Newer advice
+    // is refused, as by a system that does not know it; poisoning memory, for root, is among that.
+    filter.Allow(SCMP_SYS(madvise), {{2, SCMP_CMP_LE, MADV_FREE, 0}});
+    filter.Allow(SCMP_SYS(madvise), {Is(2, MADV_HUGEPAGE)});
+    filter.Refuse(SCMP_SYS(madvise), EINVAL, {{2, SCMP_CMP_GT, MADV_HUGEPAGE, 0}});
     // abort(), and the limits of the next photo.
     filter.Allow(SCMP_SYS(tgkill), {Is(0, static_cast<scmp_datum_t>(getpid()))});
     filter.Allow(SCMP_SYS(prlimit64), {Is(0, 0)});

@@ -24,10 +24,17 @@ struct Edge {
     bool first = false;  // nothing was brighter on the way to it
 };
 
+struct Way {
+    int x;  // where it begins
+    int y;
+    int stepX;
+    int stepY;
+};
+
 // The first brightenings on one way from the border into the picture.
-void CollectOnWay(const Grey& grey, double leastStep, int x, int y, int stepX, int stepY,
-                  std::vector<Edge>& edges) {
+void CollectOnWay(const Grey& grey, double leastStep, const Way& way, std::vector<Edge>& edges) {
     constexpr int mostOnWay = 2;
+    const auto& [x, y, stepX, stepY] = way;
     const int length = (stepX != 0 ? grey.Width() : grey.Height()) * 6 / 10;
     const auto at = [&](int k) { return grey.Pixel(x + k * stepX, y + k * stepY); };
     const auto rise = [&](int k) { return at(k + 1) + at(k + 2) - at(k - 1) - at(k - 2); };
@@ -55,12 +62,12 @@ void CollectOnWay(const Grey& grey, double leastStep, int x, int y, int stepX, i
 std::vector<Edge> CollectEdges(const Grey& grey, double leastStep) {
     std::vector<Edge> edges;
     for (int y = 2; y < grey.Height() - 2; ++y) {
-        CollectOnWay(grey, leastStep, 0, y, 1, 0, edges);
-        CollectOnWay(grey, leastStep, grey.Width() - 1, y, -1, 0, edges);
+        CollectOnWay(grey, leastStep, {0, y, 1, 0}, edges);
+        CollectOnWay(grey, leastStep, {grey.Width() - 1, y, -1, 0}, edges);
     }
     for (int x = 2; x < grey.Width() - 2; ++x) {
-        CollectOnWay(grey, leastStep, x, 0, 0, 1, edges);
-        CollectOnWay(grey, leastStep, x, grey.Height() - 1, 0, -1, edges);
+        CollectOnWay(grey, leastStep, {x, 0, 0, 1}, edges);
+        CollectOnWay(grey, leastStep, {x, grey.Height() - 1, 0, -1}, edges);
     }
     return edges;
 }

@@ -4,6 +4,9 @@
 // Four output pixels from one position: the views that are symmetric about the circle centre.
 #pragma once
 
+#include <utility>
+
+#include "remap/geometry.h"
 #include "remap/pixel_map.h"
 #include "remap/render_run.h"
 #include "remap/rounding.h"
@@ -18,11 +21,12 @@ inline RGBQUAD ReadAt(const RenderRun& run, std::int32_t cx, std::int32_t cy, So
                          : SampleBilinear(run.Source(), cx + offset.u, cy + offset.v);
 }
 
-// Column x (<= 0) of the lower left quarter and its three mirror images, rows -lastRow to 0.
+// Column x (<= 0) of the lower left quarter and its three mirror images, rows -centre.bottom to 0.
 template <PixelMap Map>
-void RenderQuarterColumn(const RenderRun& run, const Map& map, std::int32_t cx, std::int32_t cy,
-                         std::int32_t x, std::int32_t lastRow) {
-    for (std::int32_t y = -lastRow; y <= 0; ++y) {
+void RenderQuarterColumn(const RenderRun& run, const Map& map, const CentreAndExtents& centre,
+                         std::int32_t x) {
+    const auto [cx, cy] = std::pair(centre.cx, centre.cy);
+    for (std::int32_t y = -centre.bottom; y <= 0; ++y) {
         const auto [u, v] = map.At(x, y);
         run.Write(cx + x, cy + y, ReadAt(run, cx, cy, {u, v}));
         run.Write(cx - x, cy + y, ReadAt(run, cx, cy, {-u, v}));

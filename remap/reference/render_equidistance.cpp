@@ -19,7 +19,7 @@ void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress&
     for (std::int32_t x = -centre.left; x <= 0; ++x) {
         // 16 bits, so that a frame of 65534 columns or more ends with an overflow.
         run.Advance(CInt(centre.left + x + 1, "the progress value"));
-        RenderQuarterColumn(run, map, centre.cx, centre.cy, x, centre.bottom);
+        RenderQuarterColumn(run, map, centre, x);
     }
 }
 

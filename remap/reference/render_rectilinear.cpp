@@ -19,7 +19,7 @@ void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& 
     const RectilinearMap map(RectilinearViewOf(image, run.Size()));
     for (std::int32_t x = -centre.left; x <= 0; ++x) {
         run.Advance(static_cast<float>(x + centre.left + 1));
-        RenderQuarterColumn(run, map, centre.cx, centre.cy, x, centre.bottom);
+        RenderQuarterColumn(run, map, centre, x);
     }
 }
 

@@ -142,8 +142,11 @@ class Walls : public ::testing::Test {
     static long Other() { return Address("/tmp/varnel-behind-walls"); }
     long Room() const { return Address(bytes_.data()); }
 
+    long Page() const { return Address(page_); }
+
     testing::PictureFolder folder_;
     std::array<char, 200> bytes_{};
+    void* page_ = mmap(nullptr, 4096, PROT_READ, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     QString path_ = folder_.Path(Text("photo"));
     QByteArray name_ = QFile::encodeName(path_);
     MemoryFile memoryFile_{1};
@@ -201,6 +204,8 @@ TEST_F(Walls, ThePhotoCanOnlyBeRead) {
         {"photo: duplicate", SYS_fcntl, {photo, F_DUPFD, 0}},
         {"memory: shorten", SYS_ftruncate, {memory, 0}, EPERM},
         {"memory: seal", SYS_fcntl, {memory, F_ADD_SEALS, F_SEAL_GROW}},
+        {"memory: take pages away", SYS_madvise, {Page(), 4096, MADV_REMOVE}},
+        {"memory: poison", SYS_madvise, {Page(), 4096, MADV_HWPOISON}, EINVAL},
         {"memory: of its own", SYS_memfd_create, {Address("a"), 0}},
     });
     EXPECT_EQ(testing::Contents(path_), "a photo");
@@ -217,7 +222,6 @@ TEST_F(Walls, NobodyElseCanBeReached) {
     iovec part{bytes_.data(), bytes_.size()};
     msghdr message{};
     const struct sigaction ignore {};
-    const long page = Address(mmap(nullptr, 4096, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
     ExpectFates({
         {"program", SYS_execve, {program, Address(arguments), 0}},
         {"program in another way", SYS_execveat, {AT_FDCWD, program, Address(arguments), 0, 0}},
@@ -228,7 +232,7 @@ TEST_F(Walls, NobodyElseCanBeReached) {
         {"name space", SYS_unshare, {CLONE_NEWUSER}},
         {"another's name space", SYS_setns, {photo, 0}},
         {"new code", SYS_mmap, {0, 9, PROT_READ | PROT_EXEC, MAP_PRIVATE, photo, 0}, EACCES},
-        {"data to code", SYS_mprotect, {page, 4096, PROT_READ | PROT_EXEC}},
+        {"data to code", SYS_mprotect, {Page(), 4096, PROT_READ | PROT_EXEC}},
         {"parent: kill", SYS_kill, {parent, SIGURG}},
         {"parent: kill its thread", SYS_tgkill, {parent, parent, SIGURG}},
         {"parent: kill its thread alone", SYS_tkill, {parent, SIGURG}},

@@ -211,14 +211,25 @@ TEST(DecoderReader, OneProcessNamesManyLenses) {
     EXPECT_EQ(reader.ProcessId(), first);
 }
 
-TEST(DecoderReader, GetsNoNewRightsAndLeavesNoCore) {
+TEST(DecoderReader, HasNoRightsNoSecretsAndLimitsThatStay) {
     const PictureFolder folder;
+    qputenv("VARNEL_SECRET", "a password");
     DecoderReader reader({});
+    qunsetenv("VARNEL_SECRET");
     ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), FIF_PNG)}).bitmap);
     EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("NoNewPrivs:\t1"));
-    const QByteArray limits = testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId()));
-    EXPECT_TRUE(
-        QString::fromUtf8(limits).contains(QRegularExpression(Text("Max core file size +0 "))));
+    const auto has = [&](const char* limit) {
+        return QString::fromUtf8(testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId())))
+            .contains(QRegularExpression(Text(limit)));
+    };
+    EXPECT_TRUE(has("Max core file size +0 "));
+    if (!sanitized) {
+        EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("CapEff:\t0000000000000000"));
+        EXPECT_TRUE(has("Max address space +\\d+ +\\d+ "));
+        EXPECT_TRUE(has("Max file size +\\d+ +\\d+ "));
+        EXPECT_FALSE(testing::Contents(Text("/proc/%1/environ").arg(reader.ProcessId()))
+                         .contains("a password"));
+    }
 }
 
 TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QSpinBox>
 #include <algorithm>
+#include <cmath>
 #include <new>
 #include <utility>
 
@@ -53,6 +54,12 @@ QString MorphCaption(const SliderRowData& facts, int value) {
 
 QString Translated(const char* text) {
     return QCoreApplication::translate("Sliders", text);
+}
+
+// Where a slider stands for a value, rounded as on the main window.
+int PlaceOf(const SliderRowData& facts, float value) {
+    const double number = std::isnan(value) ? 0.0 : static_cast<double>(value);
+    return CLng(std::clamp<double>(number, facts.minimum, facts.maximum), facts.slider);
 }
 
 QString HeadingName(const SliderRowData& facts) {
@@ -158,7 +165,8 @@ QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture 
     slider->setAccessibleName(
         (picture == First ? tr("%1 at the start") : tr("%1 at the end")).arg(SpokenName(facts)));
     // The sequence keeps what the photo has, fractions and all, until the slider is moved.
-    const int shown = ValueOf(facts.id, ValuesFor(image_)).value_or(facts.start);
+    const bool unknown = facts.id == SliderId::Effect && !Reads(ItsProjection(), facts.id);
+    const int shown = unknown ? facts.start : PlaceOf(facts, value);
     slider->setValue(shown);
     auto* const spinBox = new QSpinBox(ui_->FramePairs);
     spinBox->setObjectName(QStringLiteral("Spin") + slider->objectName());
@@ -181,7 +189,7 @@ void FormMorph::MarkUnused() {
     bool any = false;
     for (const Pair& pair : pairs) {
         const SliderRowData& facts = DataOf(pair.id);
-        if (!ShownWith(facts, ItsProjection())) {
+        if (!Reads(ItsProjection(), facts.id)) {
             auto* const heading = findChild<QLabel*>(HeadingName(facts));
             heading->setText(heading->text() + QStringLiteral(" *"));
             heading->setForegroundRole(QPalette::PlaceholderText);

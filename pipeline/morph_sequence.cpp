@@ -20,31 +20,25 @@ struct MovedField {
     QLatin1StringView name;
     float ImageRecord::*field;
     float MorphValues::*value;
-    std::optional<Projection> onlyFor;
-    std::optional<float> floor;
+    std::optional<float> floor = std::nullopt;
 };
 
 constexpr std::array movedFields{
-    MovedField{QLatin1StringView("OutputAOV"), &ImageRecord::OutputAOV, &MorphValues::OutputAOV,
-               std::nullopt, std::nullopt},
+    MovedField{QLatin1StringView("OutputAOV"), &ImageRecord::OutputAOV, &MorphValues::OutputAOV},
     MovedField{QLatin1StringView("EffectVarnel"), &ImageRecord::EffectVarnel, &MorphValues::effect,
-               Projection::Varnel, 0.01F},
+               0.01F},
     MovedField{QLatin1StringView("EffectRectilinear"), &ImageRecord::EffectRectilinear,
-               &MorphValues::effect, Projection::Rectilinear, 0.1F},
-    MovedField{QLatin1StringView("RotateX"), &ImageRecord::RotateX, &MorphValues::RotateX,
-               std::nullopt, std::nullopt},
-    MovedField{QLatin1StringView("RotateY"), &ImageRecord::RotateY, &MorphValues::RotateY,
-               std::nullopt, std::nullopt},
-    MovedField{QLatin1StringView("RotateZ"), &ImageRecord::RotateZ, &MorphValues::RotateZ,
-               std::nullopt, std::nullopt},
-    MovedField{QLatin1StringView("TranslateX"), &ImageRecord::TranslateX, &MorphValues::TranslateX,
-               std::nullopt, std::nullopt},
-    MovedField{QLatin1StringView("TranslateY"), &ImageRecord::TranslateY, &MorphValues::TranslateY,
-               std::nullopt, std::nullopt},
+               &MorphValues::effect, 0.1F},
+    MovedField{QLatin1StringView("RotateX"), &ImageRecord::RotateX, &MorphValues::RotateX},
+    MovedField{QLatin1StringView("RotateY"), &ImageRecord::RotateY, &MorphValues::RotateY},
+    MovedField{QLatin1StringView("RotateZ"), &ImageRecord::RotateZ, &MorphValues::RotateZ},
+    MovedField{QLatin1StringView("TranslateX"), &ImageRecord::TranslateX, &MorphValues::TranslateX},
+    MovedField{QLatin1StringView("TranslateY"), &ImageRecord::TranslateY, &MorphValues::TranslateY},
 };
 
+// Of the two effects that which the projection reads, and all else.
 bool Moves(const MovedField& moved, Projection projection) {
-    return moved.onlyFor.value_or(projection) == projection;
+    return moved.value != &MorphValues::effect || EffectReadBy(projection) == moved.field;
 }
 
 // How far frame i is on its way, 0 to 1.

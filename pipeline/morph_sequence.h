@@ -19,7 +19,7 @@ inline constexpr int mostMorphFrames = 32767;
 // The settings that a sequence moves, in the units of the record.
 struct MorphValues {
     float OutputAOV = 0.0F;
-    float effect = 0.0F;  // for the record's own projection; Equidistance and Horizon know none
+    float effect = 0.0F;  // the one that the record's projection reads; Equidistance reads none
     float RotateX = 0.0F;
     float RotateY = 0.0F;
     float RotateZ = 0.0F;
@@ -40,7 +40,7 @@ struct MorphEnds {
 MorphEnds EndsFrom(const ImageRecord& image);
 
 // The value by the name of its record field. The effect is EffectVarnel or EffectRectilinear,
-// whichever belongs to the projection. Null for every other name.
+// whichever the projection reads. Null for every other name.
 float* MorphValue(MorphValues& values, Projection projection, const QString& field);
 
 // The names that MorphValue knows, over all projections, in the record's order.

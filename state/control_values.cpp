@@ -14,18 +14,9 @@ namespace {
 
 constexpr float smallestEffect = 0.1F;  // percent; 0 would divide by zero
 
-// The field of the record that holds the projection's effect, if it has one.
+// The field of the record that the slider of the effect moves; Horizon has no such slider.
 std::optional<float ImageRecord::*> EffectField(Projection projection) {
-    switch (projection) {
-        case Projection::Varnel:
-            return &ImageRecord::EffectVarnel;
-        case Projection::Rectilinear:
-            return &ImageRecord::EffectRectilinear;
-        case Projection::Equidistance:
-        case Projection::Horizon:
-            break;
-    }
-    return std::nullopt;
+    return projection == Projection::Horizon ? std::nullopt : EffectReadBy(projection);
 }
 
 // Numbers beyond every slider's range end at the range of int; no number counts as 0.

@@ -14,7 +14,7 @@ struct ControlValues {
     int projection = 0;         // index of the OptionRemap button
     int inputAov = 0;           // degrees
     int outputAov = 0;          // degrees
-    std::optional<int> effect;  // percent; nothing for the projections that know no effect
+    std::optional<int> effect;  // percent; nothing for the projections without a slider for it
     int rotateX = 0;            // degrees
     int rotateY = 0;
     int rotateZ = 0;

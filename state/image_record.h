@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QString>
 #include <cstdint>
+#include <optional>
 
 #include "state/flag16.h"
 #include "state/projection.h"
@@ -58,6 +59,9 @@ struct ImageRecord {
 
     bool operator==(const ImageRecord&) const = default;
 };
+
+// The effect that a projection reads; nothing for Equidistance. Horizon reads that of Varnel, too.
+std::optional<float ImageRecord::*> EffectReadBy(Projection projection);
 
 // Folder and file name joined by "/".
 QString SourcePath(const ImageRecord& image);

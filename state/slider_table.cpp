@@ -107,6 +107,23 @@ bool ShownWith(const SliderRowData& row, Projection projection) {
     return projection == Projection::Rectilinear;
 }
 
+bool Reads(Projection projection, SliderId id) {
+    switch (id) {
+        case SliderId::AovInput:
+            return projection == Projection::Equidistance;
+        case SliderId::Effect:
+            return EffectReadBy(projection).has_value();
+        case SliderId::AovOutput:
+        case SliderId::X:
+        case SliderId::Y:
+        case SliderId::Z:
+        case SliderId::XTranslate:
+        case SliderId::YTranslate:
+            break;
+    }
+    return projection == Projection::Rectilinear;
+}
+
 std::optional<int> ValueOf(SliderId id, const ControlValues& values) {
     switch (id) {
         case SliderId::AovInput:

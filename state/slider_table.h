@@ -49,6 +49,9 @@ QString SpokenName(const SliderRowData& row);
 QString SliderCaption(const SliderRowData& row, int value);
 
 bool ShownWith(const SliderRowData& row, Projection projection);
+// Whether the projection reads what the slider stands for. The main window shows the angle of the
+// lens always and the effect of Horizon never.
+bool Reads(Projection projection, SliderId id);
 
 // The slider's value among the control values; nothing for the effect when there is none.
 std::optional<int> ValueOf(SliderId id, const ControlValues& values);

@@ -107,6 +107,11 @@ TEST_F(Like, FramesOfASequenceHoldTheirOwnSettings) {
     EXPECT_EQ(SettingsIn("n.png")[Text("NameSuffix")], QString());
     EXPECT_EQ(Run(Text("--like @r.JPG --morph 2 --from EffectVarnel=20 @a.png")), exitUsage);
     EXPECT_TRUE(ErrorHas("EffectVarnel is not an effect of the projection Rectilinear"));
+    EXPECT_EQ(Run(Text("--like @r.JPG --projection horizon --type png --morph 2 "
+                       "--from EffectVarnel=50 --to EffectVarnel=100 --output-dir @ @a.png")),
+              exitAllWritten)
+        << err_.str();
+    EXPECT_EQ(SettingsIn("a.Horizon_Morph0001.PNG")[Text("EffectVarnel")], Text("50"));
 }
 
 TEST_F(Like, APictureThatDoesNotServeIsRefusedWithTheReason) {

@@ -112,14 +112,17 @@ TEST_F(FormMorphTest, LabelsFollowTheSlidersInTheirWords) {
     EXPECT_EQ(The<QSlider>("SliderZEnd").value(), 0);
 }
 
-TEST_F(FormMorphTest, MarksWhatTheProjectionDoesNotUse) {
+TEST_F(FormMorphTest, MarksWhatTheProjectionDoesNotUseAndStartsAtTheRest) {
     const struct {
         Projection projection;
         int marked;
         bool effectMarked;
-    } rows[] = {{Projection::Varnel, 6, false},
-                {Projection::Rectilinear, 0, false},
-                {Projection::Horizon, 7, true}};
+        int effect;  // where its slider stands
+    } rows[] = {{Projection::Varnel, 6, false, 90},
+                {Projection::Rectilinear, 0, false, 80},
+                {Projection::Equidistance, 7, true, 100},
+                {Projection::Horizon, 6, false, 90}};
+    image.EffectVarnel = 90.4F;
     for (const auto& row : rows) {
         image.Projection = static_cast<std::int16_t>(row.projection);
         Open();
@@ -129,6 +132,7 @@ TEST_F(FormMorphTest, MarksWhatTheProjectionDoesNotUse) {
         }
         EXPECT_EQ(marked, row.marked);
         EXPECT_EQ(Label("HeadingSliderEffect").endsWith(u'*'), row.effectMarked);
+        EXPECT_EQ(The<QSlider>("SliderEffectStart").value(), row.effect);
         EXPECT_EQ(The<QLabel>("LabelUnused").isVisible(), row.marked > 0);
         EXPECT_TRUE(Label("LabelUnused").contains(ToText(row.projection)));
     }

@@ -26,8 +26,9 @@ ImageRecord Photo(Projection projection) {
 }
 
 TEST(EndsFrom, BothEndsAreThePhotosOwnSettings) {
-    for (const auto& [projection, effect] :
-         {std::pair{Projection::Varnel, 70.0F}, {Projection::Rectilinear, 60.0F}}) {
+    for (const auto& [projection, effect] : {std::pair{Projection::Varnel, 70.0F},
+                                             {Projection::Rectilinear, 60.0F},
+                                             {Projection::Horizon, 70.0F}}) {
         const MorphEnds ends = EndsFrom(Photo(projection));
         EXPECT_EQ(ends.start, (MorphValues{90.0F, effect, 0, 0, 0, 0, 3.5F}));
         EXPECT_EQ(ends.end, ends.start);
@@ -67,7 +68,7 @@ TEST(MorphFrame, CountsInSinglePrecision) {
     EXPECT_EQ(MorphFrame(Photo(Projection::Varnel), ends, 2, 4).RotateX, 0.1F + moved);
 }
 
-TEST(MorphFrame, TheEffectDrivesItsProjectionsFieldAboveItsFloor) {
+TEST(MorphFrame, TheEffectDrivesTheFieldThatTheProjectionReadsAboveItsFloor) {
     const MorphEnds ends{{.effect = 0.0F}, {.effect = 0.04F}};
     const struct {
         Projection projection;
@@ -76,7 +77,7 @@ TEST(MorphFrame, TheEffectDrivesItsProjectionsFieldAboveItsFloor) {
     } rows[] = {
         {Projection::Varnel, 1, 0.01F, 60.0F},       {Projection::Varnel, 3, 0.04F, 60.0F},
         {Projection::Rectilinear, 1, 70.0F, 0.1F},   {Projection::Rectilinear, 3, 70.0F, 0.1F},
-        {Projection::Equidistance, 1, 70.0F, 60.0F}, {Projection::Horizon, 3, 70.0F, 60.0F}};
+        {Projection::Equidistance, 1, 70.0F, 60.0F}, {Projection::Horizon, 3, 0.04F, 60.0F}};
     for (const auto& row : rows) {
         const ImageRecord frame = MorphFrame(Photo(row.projection), ends, row.i, 3);
         EXPECT_EQ(frame.EffectVarnel, row.varnel) << row.i;
@@ -120,11 +121,13 @@ TEST(AddMorph, OneFrameIsADivisionByZeroAndFewerAreNothing) {
     EXPECT_EQ(queue.UpperBound(), 1);
 }
 
-TEST(MorphValue, KnowsTheEffectOfItsProjectionOnly) {
+TEST(MorphValue, KnowsTheEffectThatTheProjectionReadsOnly) {
     MorphValues values;
     EXPECT_EQ(MorphValue(values, Projection::Varnel, Text("EffectVarnel")), &values.effect);
     EXPECT_EQ(MorphValue(values, Projection::Rectilinear, Text("EffectVarnel")), nullptr);
+    EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("EffectVarnel")), &values.effect);
     EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("EffectRectilinear")), nullptr);
+    EXPECT_EQ(MorphValue(values, Projection::Equidistance, Text("EffectVarnel")), nullptr);
     EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("TranslateX")), &values.TranslateX);
     EXPECT_EQ(MorphValue(values, Projection::Varnel, Text("InputAOV")), nullptr);
     EXPECT_EQ(MorphFields().size(), 8);

@@ -99,7 +99,7 @@ class HorizonEngine : public RowDrawing {
                         static_cast<double>(r),
                         cosines_.data(),
                         sines_.data(),
-                        surface_.Nearest()};
+                        surface_.Nearest() ? RowReading::Nearest : RowReading::Vectors};
         // The left half comes last and so has the centre column.
         for (const int sign : {1, -1}) {
             const Clip clip = Clip::Of(centre, sign, end, target_.width);

@@ -87,6 +87,17 @@ inline bool Smooth(const double* p) {
            std::fabs(p[2]) < 1e6 && std::fabs(p[3]) < 1e6;
 }
 
+// Whether the positions between p[2] and p[3] keep so close to whole ones that single precision
+// would lose what is left of them, as everywhere where a whole picture comes from one pixel.
+inline bool Lost(const double* p) {
+    constexpr double close = 1e-4;
+    const auto lost = [](double at) {
+        const double part = at - std::floor(at);
+        return (part < close && part > 0.0) || part > 1.0 - close;
+    };
+    return lost(p[2]) && lost(p[3]);
+}
+
 inline void StoreInside(const SourceView source, VecI x, VecI y, VecF partX, VecF partY,
                         std::uint8_t* out, std::ptrdiff_t stride) {
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
@@ -190,7 +201,8 @@ void NodeSpanImpl(const NodeSpan& span) {
         step = power;
     }
     for (int n = 0; n * span.step < span.count; ++n) {
-        if (Smooth(span.u + n) && Smooth(span.v + n)) {
+        const bool exact = Lost(span.u + n) || Lost(span.v + n);
+        if (!exact && Smooth(span.u + n) && Smooth(span.v + n)) {
             SampleSegment(span, n, steps);
             continue;
         }
@@ -225,18 +237,23 @@ inline void TakeColumns(VecD x, std::size_t n, RowPositions& at) {
 }
 
 // A source column from an offset; without interpolation the offset is rounded by itself.
-inline VecD Column(double centre, VecD offset, bool nearest) {
-    return hn::Add(hn::Set(Doubles(), centre), nearest ? hn::Round(offset) : offset);
+inline VecD Column(double centre, VecD offset, RowReading reading) {
+    return hn::Add(hn::Set(Doubles(), centre),
+                   reading == RowReading::Nearest ? hn::Round(offset) : offset);
 }
 
 // Whether a vector may be read and blended in single precision: all its pixels are on the picture,
-// and no position is so close to a whole one that the difference would be lost. Just below a whole
-// column the blend, rounded down, is one level lower; the single-precision pi leads there often.
+// and no position is so close to a whole one that the difference would be lost. Between 128 and 256
+// single precision goes in steps of 1.5e-5: with a neighbour one level darker and a part of less
+// than half a step (and of what else is rounded on the way) the blend would be the pixel itself,
+// but rounded down it has to be the level below. Such parts are common: weak effects, mirrored rows
+// and the single-precision pi lead there.
 inline bool Plain(VecI column, VecI row, VecF part, const SourceView source) {
     const Floats floats;
-    constexpr float tiny = 1e-6F;
+    constexpr float least = 1e-5F;
+    constexpr float most = 1.0F - least;
     const auto apart =
-        hn::And(hn::Gt(part, hn::Set(floats, tiny)), hn::Lt(part, hn::Set(floats, 1.0F - tiny)));
+        hn::And(hn::Gt(part, hn::Set(floats, least)), hn::Lt(part, hn::Set(floats, most)));
     const auto clear = hn::Or(hn::Eq(part, hn::Zero(floats)), apart);
     return hn::AllTrue(floats, clear) &&
            hn::AllTrue(Ints(), hn::And(Within(column, 0, source.width - 3),
@@ -254,10 +271,11 @@ HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at
     }
 }
 
-inline void StoreRowPixels(const SourceView source, const RowPositions& at, bool nearest, int count,
-                           std::uint8_t* out, std::ptrdiff_t stride) {
+inline void StoreRowPixels(const SourceView source, const RowPositions& at, RowReading reading,
+                           int count, std::uint8_t* out, std::ptrdiff_t stride) {
     const std::size_t lanes = hn::Lanes(Floats());
-    const bool fits = !nearest && FitsOffsets(source);
+    const bool nearest = reading == RowReading::Nearest;
+    const bool fits = reading == RowReading::Vectors && FitsOffsets(source);
     for (std::size_t n = 0; n < static_cast<std::size_t>(count); n += lanes) {
         const VecI column = hn::Load(Ints(), at.column.data() + n);
         const VecI row = hn::Load(Ints(), at.row.data() + n);
@@ -290,10 +308,10 @@ void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
             const VecD u =
                 span.plain ? j
                            : hn::Div(hn::Mul(j, hn::Set(d, span.chord)), hn::Set(d, span.radius));
-            TakeColumns(Column(span.centreX, hn::Mul(hn::Set(d, span.sign), u), span.nearest), n,
+            TakeColumns(Column(span.centreX, hn::Mul(hn::Set(d, span.sign), u), span.reading), n,
                         at);
         }
-        StoreRowPixels(span.source, at, span.nearest, std::min(lanesAtMost, span.count - done),
+        StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
                        target.first + done * target.stride, target.stride);
     }
 }
@@ -309,12 +327,12 @@ void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
             const VecD u =
                 hn::Mul(hn::Set(d, span.sign), hn::Mul(radius, hn::LoadU(d, span.cosines + i + n)));
             const VecD v = hn::Mul(radius, hn::LoadU(d, span.sines + i + n));
-            TakeColumns(Column(span.centreX, u, span.nearest), n, at);
+            TakeColumns(Column(span.centreX, u, span.reading), n, at);
             const VecD row = hn::Round(hn::Add(hn::Set(d, span.centreY), v));
             hn::Store(hn::DemoteTo(hn::Rebind<std::int32_t, Doubles>(), row),
                       hn::Rebind<std::int32_t, Doubles>(), at.row.data() + n);
         }
-        StoreRowPixels(span.source, at, span.nearest, std::min(lanesAtMost, span.count - done),
+        StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
                        target.first + done * target.stride, target.stride);
     }
 }

@@ -55,6 +55,10 @@ struct NodeSpan {
 
 void SampleNodeSpan(const NodeSpan& span);
 
+// How a run within a row is read: a vector at a time in single precision where that is good enough,
+// every pixel by itself in double precision, or without interpolation.
+enum class RowReading { Vectors, Pixels, Nearest };
+
 // A run of columns of the Varnel projection: column j reads centreX + sign * (j * chord / radius)
 // of one row; with plain set, centreX + sign * j.
 struct ChordSpan {
@@ -66,7 +70,7 @@ struct ChordSpan {
     double chord = 0.0, radius = 1.0;
     bool plain = false;
     std::int32_t row = 0;
-    bool nearest = false;
+    RowReading reading = RowReading::Vectors;
 };
 
 void SampleChordSpan(const ChordSpan& span, SpanTarget target);
@@ -82,7 +86,7 @@ struct CircleSpan {
     double radius = 0.0;
     const double* cosines = nullptr;
     const double* sines = nullptr;
-    bool nearest = false;
+    RowReading reading = RowReading::Vectors;
 };
 
 void SampleCircleSpan(const CircleSpan& span, SpanTarget target);

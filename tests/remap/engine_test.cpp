@@ -9,9 +9,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <cmath>
 #include <functional>
-#include <map>
 #include <string>
 #include <thread>
 
@@ -19,38 +17,19 @@
 #include "remap/part_render.h"
 #include "remap/reference/render.h"
 #include "remap/run_time_error.h"
-#include "tests/support/bitmaps.h"
+#include "tests/remap/engine_pictures.h"
 #include "tests/support/records.h"
 #include "tests/support/runners.h"
 
 namespace varnel {
 namespace {
 
+using testing::Compare;
+using testing::Difference;
 using testing::FisheyeRecord;
-
-using Painter = BitmapHandle (*)(PixelSize);
-
-// A picture with soft tones, texture and edges, as photos have.
-BitmapHandle PhotoLike(PixelSize size) {
-    static std::map<std::pair<int, int>, BitmapHandle> painted;
-    BitmapHandle& picture = painted[{size.width, size.height}];
-    if (!picture) {
-        picture = testing::Painted(size, [](int x, int y) {
-            const double wave = 60.0 * std::sin(x * 0.05) + 50.0 * std::cos(y * 0.037 + x * 0.011);
-            const double edge = (x / 23 + y / 17) % 2 == 0 ? 30.0 : 0.0;
-            const double grain = ((x * 73 + y * 151) % 29) - 14.0;
-            const auto level = [&](double base) {
-                return static_cast<BYTE>(std::clamp(base + wave + edge + grain, 0.0, 255.0));
-            };
-            return RGBQUAD{level(110.0), level(130.0), level(90.0), 0};
-        });
-    }
-    return CloneBitmap(picture.get());
-}
-
-BitmapHandle Flat(PixelSize size) {
-    return testing::Painted(size, [](int, int) { return RGBQUAD{200, 200, 200, 0}; });
-}
+using testing::Flat;
+using testing::Painter;
+using testing::PhotoLike;
 
 using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
 
@@ -73,30 +52,6 @@ BitmapHandle Drawn(Renderer renderer, const Case& c, Painter paint, SizeKind kin
     RenderDesk desk{bitmaps, [smooth] { return smooth; }, runner};
     renderer(c.projection, record, kind, silent, desk);
     return std::move(bitmaps.ResultBitmap);
-}
-
-struct Difference {
-    int largest = 0;
-    double share = 0.0;  // of all channel values
-};
-
-Difference Compare(FIBITMAP* a, FIBITMAP* b) {
-    Difference difference;
-    const PixelSize size = SizeOf(a);
-    EXPECT_EQ(size.width, SizeOf(b).width);
-    EXPECT_EQ(size.height, SizeOf(b).height);
-    long apart = 0;
-    for (int y = 0; y < size.height; ++y) {
-        const auto rowA = ScanLine(a, y);
-        const auto rowB = ScanLine(b, y);
-        for (std::size_t n = 0; n < static_cast<std::size_t>(size.width) * 3; ++n) {
-            const int distance = std::abs(rowA[n] - rowB[n]);
-            difference.largest = std::max(difference.largest, distance);
-            apart += distance != 0 ? 1 : 0;
-        }
-    }
-    difference.share = static_cast<double>(apart) / (3.0 * size.width * size.height);
-    return difference;
 }
 
 std::vector<Case> Cases() {

@@ -30,6 +30,7 @@ void WindowProgress::Begin(float maximum) {
     bar_->setValue(0);
     bar_->show();
     sincePainted_.start();
+    sincePaused_.start();
 }
 
 void WindowProgress::Advance(float value) {
@@ -38,6 +39,13 @@ void WindowProgress::Advance(float value) {
         bar_->setValue(static_cast<int>(value));
     }
     HandleEvents();
+}
+
+void WindowProgress::Pause() {
+    if (inputThrough_ && sincePaused_.elapsed() >= paintInterval) {
+        HandleEvents();
+        sincePaused_.start();
+    }
 }
 
 void WindowProgress::End() {

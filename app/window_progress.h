@@ -21,11 +21,13 @@ class WindowProgress : public RenderProgress {
     void HandleEvents() override;
     void Begin(float maximum) override;
     void Advance(float value) override;
+    void Pause() override;
     void End() override;
 
   private:
     QProgressBar* bar_;
     QElapsedTimer sincePainted_;
+    QElapsedTimer sincePaused_;
     bool inputThrough_ = false;
 };
 

@@ -49,6 +49,7 @@ void BatchProgress::Begin(float maximum) {
     widgets_.imageBar->setRange(0, static_cast<int>(maximum));
     widgets_.imageBar->setValue(0);
     sincePainted_.start();
+    sincePaused_.start();
 }
 
 void BatchProgress::Advance(float value) {
@@ -58,6 +59,13 @@ void BatchProgress::Advance(float value) {
         ShowRun(done_ + static_cast<double>(value / maximum_));
     }
     HandleEvents();
+}
+
+void BatchProgress::Pause() {
+    if (sincePaused_.elapsed() >= paintInterval) {
+        HandleEvents();
+        sincePaused_.start();
+    }
 }
 
 void BatchProgress::End() {

@@ -39,6 +39,7 @@ class BatchProgress : public BatchObserver, public RenderProgress {
     void HandleEvents() override;
     void Begin(float maximum) override;
     void Advance(float value) override;
+    void Pause() override;
     void End() override;
 
   private:
@@ -50,6 +51,7 @@ class BatchProgress : public BatchObserver, public RenderProgress {
     float maximum_ = 1.0F;  // of the photo at hand
     QElapsedTimer sinceStart_;
     QElapsedTimer sincePainted_;
+    QElapsedTimer sincePaused_;
     bool running_ = false;
 };
 

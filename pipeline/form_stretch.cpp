@@ -46,6 +46,7 @@ class BarProgress : public RenderProgress {
             HandleEvents();
         }
     }
+    void Pause() override { Advance(static_cast<float>(bar_->value())); }
     void End() override { bar_->hide(); }
 
   private:

@@ -17,6 +17,15 @@ constexpr int betweenEvents = 10;  // ms
 
 void CancellableProgress::Advance(float value) {
     told_.Advance(value);
+    EndIfCancelled();
+}
+
+void CancellableProgress::Pause() {
+    told_.Pause();
+    EndIfCancelled();
+}
+
+void CancellableProgress::EndIfCancelled() const {
     if (cancelled_) {
         throw SavingCancelled();
     }

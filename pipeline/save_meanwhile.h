@@ -24,9 +24,12 @@ class CancellableProgress : public RenderProgress {
     void HandleEvents() override { told_.HandleEvents(); }
     void Begin(float maximum) override { told_.Begin(maximum); }
     void Advance(float value) override;
+    void Pause() override;
     void End() override { told_.End(); }
 
   private:
+    void EndIfCancelled() const;
+
     RenderProgress& told_;
     const CancelFlag& cancelled_;
 };

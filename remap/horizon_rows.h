@@ -8,6 +8,7 @@
 #include <limits>
 #include <vector>
 
+#include "remap/engine/line_range.h"
 #include "remap/horizon_map.h"
 
 namespace varnel {
@@ -20,7 +21,8 @@ class RowOwners {
     RowOwners(const HorizonMap& map, std::int32_t height)
         : owners_(static_cast<std::size_t>(height), nobody) {
         const CircleRows& rows = map.Rows();
-        for (int r = 1; r <= rows.lastRow; ++r) {
+        const LineRange shown = OnPicture(rows.centreY, height, rows.lastRow);
+        for (int r = std::max(shown.first, 1); r <= shown.last; ++r) {
             Blacken(rows.centreY, r);
         }
         for (int r = map.FirstRadius(); r <= rows.lastRow; ++r) {

@@ -21,7 +21,8 @@ QString ToText(SizeKind kind);
 // "Thumbnails" and "Batch" by their text; every other text means Large.
 SizeKind SizeKindFromText(QStringView text);
 
-// Hears how far a conversion is. Calls come on the caller's thread only.
+// Hears how far a conversion is. Calls come on the caller's thread only. What one throws ends the
+// conversion and reaches the caller.
 class RenderProgress {
   public:
     virtual ~RenderProgress() = default;
@@ -31,6 +32,9 @@ class RenderProgress {
     virtual void Begin(float maximum) = 0;
     // At each column or row: shows the value and hands control to waiting events.
     virtual void Advance(float value) = 0;
+    // Between pieces of the work, so often that no piece takes more than some hundredths of a
+    // second however large the picture. May hand control to waiting events, too.
+    virtual void Pause() {}
     // After the work, also when it failed.
     virtual void End() = 0;
 };

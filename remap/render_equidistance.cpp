@@ -15,10 +15,18 @@ namespace {
 using EquidistanceEngine = QuarterEngine<EquidistanceMap, EquidistanceNodes>;
 
 EquidistanceEngine EngineOf(const ImageRecord& image, const RenderSurface& surface) {
-    const CentreAndExtents centre = ImageCentre(surface.Size(), image.OfsetX, image.OfsetY);
-    const EquidistanceMap map(EquidistanceViewOf(image, surface.Size()));
-    const EquidistanceNodes nodes(map, std::hypot(centre.left + largestNodeStep * nodesAround,
-                                                  centre.bottom + largestNodeStep * nodesAround));
+    const PixelSize size = surface.Size();
+    const CentreAndExtents centre = ImageCentre(size, image.OfsetX, image.OfsetY);
+    const EquidistanceMap map(EquidistanceViewOf(image, size));
+    // As far as nodes go beyond the lines.
+    constexpr int margin = largestNodeStep * (nodesAround + 1);
+    const int offPicture = std::max(OnPicture(centre.cx, size.width, centre.left).first,
+                                    OnPicture(centre.cy, size.height, centre.bottom).first);
+    // A table from the centre on would be too coarse for a picture far away from it.
+    const bool isFar = offPicture / 8 > std::max(size.width, size.height);
+    const EquidistanceNodes nodes(map, isFar ? std::max(offPicture - margin, 0) : 0,
+                                  std::hypot(centre.left + largestNodeStep * nodesAround,
+                                             centre.bottom + largestNodeStep * nodesAround));
     return {surface, map, nodes, centre};
 }
 
@@ -29,10 +37,12 @@ void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress&
     RenderRun run(kind, progress, desk, Canvas::Anything);
     const int left = ImageCentre(run.Size(), image.OfsetX, image.OfsetY).left;
     run.Begin(static_cast<float>(left + 1));
-    DrawQuarters(run, EngineOf(image, run), left, [&](int x) {
-        // 16 bits, so that a frame of 65534 columns or more ends with an overflow.
-        run.Advance(CInt(left + x + 1, "the progress value"));
-    });
+    const EquidistanceEngine engine = EngineOf(image, run);
+    // 16 bits, so that a frame of 65534 columns or more ends with an overflow, which is better
+    // found before the work.
+    const auto value = [left](int x) { return CInt(left + x + 1, "the progress value"); };
+    value(0);
+    DrawQuarters(run, engine, [&](int x) { run.Advance(value(x)); });
 }
 
 std::unique_ptr<RowDrawing> EquidistanceRows(const ImageRecord& image,

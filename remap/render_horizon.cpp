@@ -20,13 +20,16 @@ class HorizonEngine : public RowDrawing {
         : surface_(surface),
           map_(map),
           owners_(map, surface.Size().height),
+          columns_(Columns(map.Rows(), surface.Size().width)),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
 
     void FillUnownedRows() const {
-        for (std::int32_t row = 0; row < target_.height; ++row) {
-            FillUnownedRow(row);
-        }
+        DrawBlocks(surface_, {0, target_.height - 1}, 64, [this](int from, int to) {
+            for (std::int32_t row = from; row <= to; ++row) {
+                FillUnownedRow(row);
+            }
+        });
     }
     void DrawRow(std::int32_t row) override {
         if (!FillUnownedRow(row)) {
@@ -39,12 +42,18 @@ class HorizonEngine : public RowDrawing {
     // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
     void Draw(int r, int count) {
         PrepareColumns(r);
-        DrawBlocks(surface_, r, count, 16, [this](int from, int to) { DrawRadii(from, to); });
+        DrawBlocks(surface_, {r, r + count - 1}, 16,
+                   [this](int from, int to) { DrawRadii(from, to); });
     }
 
   private:
     static constexpr int pieceColumns = 256;
 
+    // Those that the picture has, in whole pieces from the centre.
+    static LineRange Columns(const CircleRows& rows, std::int32_t width) {
+        const LineRange shown = OnPicture(rows.centreX, width, rows.lastColumn);
+        return {shown.first / pieceColumns * pieceColumns, shown.last};
+    }
     // False for the row of a radius.
     bool FillUnownedRow(std::int32_t row) const {
         const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
@@ -60,9 +69,8 @@ class HorizonEngine : public RowDrawing {
     }
 
     void DrawRadii(int from, int to) const {
-        const int columns = map_.Rows().lastColumn + 1;
-        for (int first = 0; first < columns; first += pieceColumns) {
-            const int pieceEnd = std::min(first + pieceColumns, columns);
+        for (int first = columns_.first; first <= columns_.last; first += pieceColumns) {
+            const int pieceEnd = std::min(first + pieceColumns, columns_.last + 1);
             for (int n = from; n <= to; ++n) {
                 DrawPiece(n, first, pieceEnd);
             }
@@ -74,7 +82,7 @@ class HorizonEngine : public RowDrawing {
         if (!cosines_.empty() || map_.Blank(first)) {
             return;
         }
-        for (int column = 0; column <= map_.Rows().lastColumn; ++column) {
+        for (int column = columns_.first; column <= columns_.last; ++column) {
             cosines_.push_back(std::cos(map_.Angle(column)));
             sines_.push_back(std::sin(map_.Angle(column)));
         }
@@ -103,19 +111,23 @@ class HorizonEngine : public RowDrawing {
         // The left half comes last and so has the centre column.
         for (const int sign : {1, -1}) {
             const Clip clip = Clip::Of(centre, sign, end, target_.width);
-            span.sign = sign;
-            span.first = std::max(clip.begin, first);
-            span.count = clip.end - span.first;
-            SampleCircleSpan(span, {target_.At(centre + sign * span.first, row), 3 * sign});
+            const int begin = std::max(clip.begin, first);
+            if (begin < clip.end) {
+                span.sign = sign;
+                span.first = begin - columns_.first;
+                span.count = clip.end - begin;
+                SampleCircleSpan(span, {target_.At(centre + sign * begin, row), 3 * sign});
+            }
         }
     }
 
     const RenderSurface& surface_;
     HorizonMap map_;
     RowOwners owners_;
+    LineRange columns_;  // distances from the centre
     SourceView source_;
     TargetView target_;
-    std::vector<double> cosines_, sines_;
+    std::vector<double> cosines_, sines_;  // from the first of the columns on
 };
 
 }  // namespace
@@ -129,7 +141,7 @@ void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& prog
     HorizonEngine engine(run, map);
     engine.FillUnownedRows();
     DrawLines(
-        run, map.FirstRadius(), rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },
+        run, {map.FirstRadius(), rows.lastRow}, [&](int r, int count) { engine.Draw(r, count); },
         [&](int r) { run.Advance(static_cast<float>(r + rows.upperHalf)); });
 }
 

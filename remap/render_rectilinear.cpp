@@ -36,7 +36,7 @@ void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& 
     RenderRun run(kind, progress, desk, Canvas::Anything);
     const CentreAndExtents centre = CentreOf(image, run);
     run.Begin(static_cast<float>(centre.left + 1));
-    DrawQuarters(run, PlainEngineOf(image, run), centre.left,
+    DrawQuarters(run, PlainEngineOf(image, run),
                  [&](int x) { run.Advance(static_cast<float>(x + centre.left + 1)); });
 }
 
@@ -47,14 +47,15 @@ void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderPro
     run.Begin(static_cast<float>(centre.left + centre.right + 1));
     const RotatedRectilinearMap map = RotatedMapOf(image, run);
     const RotatedEngine engine(run, map, centre);
-    if (!engine.Covers()) {
-        run.CopySource();
-    }
-    const double tx = static_cast<double>(map.ShiftX());
+    const auto value = [&](int x) {
+        return CInt(x + (centre.left + 1.0) - static_cast<double>(map.ShiftX()),
+                    "the progress value");
+    };
+    value(engine.Columns().All().last);  // an overflow is better found before the work
+    engine.FillTheRest();
     DrawLines(
-        run, engine.Columns().First(), engine.Columns().Last(),
-        [&](int x, int count) { engine.Draw(x, count); },
-        [&](int x) { run.Advance(CInt(x + (centre.left + 1.0) - tx, "the progress value")); });
+        run, {engine.Columns().First(), engine.Columns().Last()},
+        [&](int x, int count) { engine.Draw(x, count); }, [&](int x) { run.Advance(value(x)); });
 }
 
 std::unique_ptr<RowDrawing> RectilinearRows(const ImageRecord& image,

@@ -27,9 +27,12 @@ void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
 }  // namespace
 
 RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, Canvas canvas)
-    : kind_(kind), progress_(progress), desk_(desk), exceptionsBefore_(std::uncaught_exceptions()) {
+    : RenderSurface(progress),
+      kind_(kind),
+      desk_(desk),
+      exceptionsBefore_(std::uncaught_exceptions()) {
     runner_ = desk.runner != nullptr ? desk.runner : &serial_;
-    progress_.HandleEvents();
+    progress_->HandleEvents();
     Bitmaps& bitmaps = desk.bitmaps;
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
                                            : bitmaps.FullSourceBitmap.get();
@@ -49,7 +52,7 @@ RenderRun::~RenderRun() {
         CopySource();
     }
     if (begun_) {
-        progress_.End();
+        progress_->End();
     }
 }
 
@@ -65,11 +68,11 @@ void RenderSurface::CopySourceRow(std::int32_t row) const {
 
 void RenderRun::Begin(float maximum) {
     begun_ = true;
-    progress_.Begin(maximum);
+    progress_->Begin(maximum);
 }
 
 void RenderRun::Advance(float value) {
-    progress_.Advance(value);
+    progress_->Advance(value);
     nearest_ = kind_ == SizeKind::Thumbnails && !desk_.smoothPreview();
 }
 

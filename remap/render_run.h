@@ -28,9 +28,16 @@ class RenderSurface {
     // The source's pixels into the result.
     void CopySource() const;
     void CopySourceRow(std::int32_t row) const;
+    // To be called often: gives whoever waits for the conversion a turn. Throws to end it.
+    void Pause() const {
+        if (progress_ != nullptr) {
+            progress_->Pause();
+        }
+    }
 
   protected:
-    RenderSurface() = default;
+    explicit RenderSurface(RenderProgress& progress) : progress_(&progress) {}
+    RenderProgress* progress_ = nullptr;
     FIBITMAP* source_ = nullptr;
     FIBITMAP* result_ = nullptr;
     BlockRunner* runner_ = nullptr;
@@ -59,7 +66,6 @@ class RenderRun : public RenderSurface {
 
   private:
     SizeKind kind_;
-    RenderProgress& progress_;
     RenderDesk& desk_;
     SerialRunner serial_;
     int exceptionsBefore_;

@@ -33,7 +33,7 @@ class VarnelEngine : public RowDrawing {
 
     // The rows r to r + count - 1 above and below the centre.
     void Draw(int r, int count) const {
-        DrawBlocks(surface_, r, count, 8, [this](int from, int to) {
+        DrawBlocks(surface_, {r, r + count - 1}, 8, [this](int from, int to) {
             for (int n = from; n <= to; ++n) {
                 DrawLine(n, map_.Rows().centreY + n);
                 if (n > 0) {
@@ -41,6 +41,12 @@ class VarnelEngine : public RowDrawing {
                 }
             }
         });
+    }
+    // Those to be drawn, all >= 0.
+    LineRange Rows() const {
+        const CircleRows& rows = map_.Rows();
+        return WorthARun({0, rows.lastRow}, OnPicture(rows.centreY, target_.height, rows.lastRow),
+                         target_.height);
     }
     void DrawRow(std::int32_t row) override { DrawLine(std::abs(row - map_.Rows().centreY), row); }
 
@@ -69,7 +75,9 @@ class VarnelEngine : public RowDrawing {
             span.sign = sign;
             span.first = clip.begin;
             span.count = clip.end - clip.begin;
-            SampleChordSpan(span, {target_.At(centre + sign * clip.begin, row), 3 * sign});
+            if (span.count > 0) {
+                SampleChordSpan(span, {target_.At(centre + sign * clip.begin, row), 3 * sign});
+            }
         }
     }
 
@@ -89,7 +97,7 @@ void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progr
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
     const VarnelEngine engine(run, map);
     DrawLines(
-        run, 0, rows.lastRow, [&](int r, int count) { engine.Draw(r, count); },
+        run, engine.Rows(), [&](int r, int count) { engine.Draw(r, count); },
         [&](int r) { run.Advance(static_cast<float>(r)); });
 }
 

@@ -112,13 +112,8 @@ void ResultPlaces::LayOutQuarters() {
 }
 
 void ResultPlaces::LayOutMoved() {
-    const auto layOut = [](std::vector<Loop>& loops, double shift, std::int32_t centre,
-                           std::int32_t below, std::int32_t above) {
-        const AxisOwners owners(
-            CLng(shift - below, "a translation"), CLng(shift + above, "a translation"),
-            static_cast<std::int32_t>(loops.size()), [&](int n) {
-                return CLng(static_cast<double>(centre) + n - shift, "an output position");
-            });
+    const auto layOut = [](std::vector<Loop>& loops, const LoopAxis& axis) {
+        const AxisOwners owners(axis, static_cast<std::int32_t>(loops.size()));
         for (std::size_t n = 0; n < loops.size(); ++n) {
             if (const auto owner = owners.OwnerOf(static_cast<std::int32_t>(n))) {
                 loops[n] = {Line::Shown, *owner};
@@ -126,10 +121,10 @@ void ResultPlaces::LayOutMoved() {
         }
     };
     const auto& map = std::get<RotatedRectilinearMap>(map_);
-    layOut(columnLoops_, static_cast<double>(map.ShiftX()), extents_.cx, extents_.left,
-           extents_.right);
-    layOut(rowLoops_, static_cast<double>(map.ShiftY()), extents_.cy, extents_.bottom,
-           extents_.top);
+    layOut(columnLoops_, {static_cast<double>(map.ShiftX()), extents_.cx, extents_.left,
+                          extents_.right, "TranslateX"});
+    layOut(rowLoops_, {static_cast<double>(map.ShiftY()), extents_.cy, extents_.bottom,
+                       extents_.top, "TranslateY"});
 }
 
 void ResultPlaces::LayOutCircle(const CircleRows& circle) {

@@ -19,8 +19,8 @@ RectilinearNodes::RectilinearNodes(const RectilinearRadius& radius)
           return radius.AtAngle(theta) / std::sin(theta);
       }) {}
 
-EquidistanceNodes::EquidistanceNodes(const EquidistanceMap& map, double farthest)
-    : table_(0.0, farthest * farthest, tolerance / farthest, [&map](double square) {
+EquidistanceNodes::EquidistanceNodes(const EquidistanceMap& map, double nearest, double farthest)
+    : table_(nearest * nearest, farthest * farthest, tolerance / farthest, [&map](double square) {
           const double r = std::max(std::sqrt(std::max(square, 0.0)), 1e-6);
           return map.SourceRadius(r) / r;
       }) {}

@@ -63,8 +63,8 @@ class RotatedRectilinearNodes {
 
 class EquidistanceNodes {
   public:
-    // farthest: the largest distance from the centre that is asked for, in pixels.
-    EquidistanceNodes(const EquidistanceMap& map, double farthest);
+    // The distances from the centre that are asked for, in pixels; nearest < farthest.
+    EquidistanceNodes(const EquidistanceMap& map, double nearest, double farthest);
     SourceOffset At(double x, double y) const {
         const double scale = table_.At(x * x + y * y);
         return {x * scale, y * scale};

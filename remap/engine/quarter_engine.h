@@ -25,12 +25,16 @@ class QuarterEngine : public RowDrawing {
           map_(map),
           nodes_(nodes),
           centre_(centre),
+          columns_(Columns(centre, surface.Size().width)),
+          rows_(OnPicture(centre.cy, surface.Size().height, centre.bottom)),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
 
-    // Columns x to x + count - 1 (all <= 0) and their mirror images, all rows.
+    // Those to be drawn, all <= 0.
+    LineRange Columns() const { return columns_; }
+    // Columns x to x + count - 1 and their mirror images, all rows.
     void Draw(int x, int count) const {
-        DrawBlocks(surface_, 0, centre_.bottom + 1, blockRows, [&](int from, int to) {
+        DrawBlocks(surface_, rows_, blockRows, [&](int from, int to) {
             NodeLine line = LineOf(x, count);
             for (int y = from; y <= to; ++y) {
                 line.y = -y;
@@ -40,7 +44,7 @@ class QuarterEngine : public RowDrawing {
     }
     // One row, all columns. Nodes lie where the batches of columns have them, too.
     void DrawRow(std::int32_t row) override {
-        NodeLine line = LineOf(-centre_.left, centre_.left + 1);
+        NodeLine line = LineOf(columns_.first, columns_.Count());
         line.y = -std::abs(row - centre_.cy);
         DrawLine(line, {row, row + 1});
     }
@@ -49,6 +53,11 @@ class QuarterEngine : public RowDrawing {
     struct RowRange {
         std::int32_t first, end;
     };
+
+    static LineRange Columns(const CentreAndExtents& centre, std::int32_t width) {
+        const LineRange shown = OnPicture(centre.cx, width, centre.left);
+        return WorthARun({-centre.left, 0}, {-shown.last, -shown.first}, width);
+    }
 
     NodeLine LineOf(int x, int count) const {
         NodeLine line;
@@ -92,15 +101,17 @@ class QuarterEngine : public RowDrawing {
     Map map_;
     Nodes nodes_;
     CentreAndExtents centre_;
+    LineRange columns_;
+    LineRange rows_;  // distances from the centre
     SourceView source_;
     TargetView target_;
 };
 
-// The whole picture: columns -left to 0 with their mirror images.
+// The whole picture.
 template <class Engine, class Progress>
-void DrawQuarters(const RenderRun& run, const Engine& engine, int left, const Progress& progress) {
+void DrawQuarters(const RenderRun& run, const Engine& engine, const Progress& progress) {
     DrawLines(
-        run, -left, 0, [&](int x, int count) { engine.Draw(x, count); }, progress);
+        run, engine.Columns(), [&](int x, int count) { engine.Draw(x, count); }, progress);
 }
 
 }  // namespace varnel

@@ -3,6 +3,8 @@
 
 #include "remap/engine/rotated_engine.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 
 #include "remap/engine/quarter_engine.h"
@@ -12,23 +14,46 @@ namespace varnel {
 
 namespace {
 
-AxisOwners ColumnOwners(const RotatedRectilinearMap& map, const CentreAndExtents& centre,
-                        std::int32_t width) {
-    const double tx = static_cast<double>(map.ShiftX());
-    return AxisOwners(
-        CLng(tx - centre.left, "TranslateX"), CLng(tx + centre.right, "TranslateX"), width,
-        [&](int x) { return CLng(static_cast<double>(centre.cx) + x - tx, "an output column"); });
+LoopAxis ColumnAxis(const RotatedRectilinearMap& map, const CentreAndExtents& centre) {
+    return {static_cast<double>(map.ShiftX()), centre.cx, centre.left, centre.right, "TranslateX"};
 }
 
-AxisOwners RowOwnersOf(const RotatedRectilinearMap& map, const CentreAndExtents& centre,
-                       std::int32_t height) {
-    const double ty = static_cast<double>(map.ShiftY());
-    return AxisOwners(
-        CLng(ty - centre.bottom, "TranslateY"), CLng(ty + centre.top, "TranslateY"), height,
-        [&](int y) { return CLng(static_cast<double>(centre.cy) + y - ty, "an output row"); });
+LoopAxis RowAxis(const RotatedRectilinearMap& map, const CentreAndExtents& centre) {
+    return {static_cast<double>(map.ShiftY()), centre.cy, centre.bottom, centre.top, "TranslateY"};
+}
+
+LineRange AllOf(const LoopAxis& axis) {
+    return {CLng(axis.shift - axis.before, axis.shiftName),
+            CLng(axis.shift + axis.after, axis.shiftName)};
+}
+
+// The positions that go to the picture, and some around them.
+LineRange ShownOf(const LoopAxis& axis, std::int32_t size, LineRange all) {
+    const auto within = [all](double n) {
+        return static_cast<int>(std::clamp<double>(n, all.first, all.last));
+    };
+    const double origin = std::floor(axis.shift - axis.centre);
+    return {within(origin - 1.0), within(origin + size + 1.0)};
 }
 
 }  // namespace
+
+AxisOwners::AxisOwners(const LoopAxis& axis, std::int32_t size)
+    : all_(AllOf(axis)),
+      run_(WorthARun(all_, ShownOf(axis, size, all_), size)),
+      owners_(static_cast<std::size_t>(size), none) {
+    for (int n = 0; n < run_.Count(); ++n) {
+        const int position = run_.first + n;
+        places_.push_back(
+            CLng(static_cast<double>(axis.centre) + position - axis.shift, "an output position"));
+        if (places_.back() >= 0 && places_.back() < size) {
+            owners_[static_cast<std::size_t>(places_.back())] = position;
+        }
+    }
+    for (std::size_t n = 1; n < places_.size(); ++n) {
+        contiguous_ = contiguous_ && places_[n] == places_[n - 1] + 1;
+    }
+}
 
 RotatedEngine::RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
                              const CentreAndExtents& centre)
@@ -36,15 +61,25 @@ RotatedEngine::RotatedEngine(const RenderSurface& surface, const RotatedRectilin
       map_(map),
       nodes_(map_),
       centre_(centre),
-      columns_(ColumnOwners(map, centre, surface.Size().width)),
-      rows_(RowOwnersOf(map, centre, surface.Size().height)),
+      columns_(ColumnAxis(map, centre), surface.Size().width),
+      rows_(RowAxis(map, centre), surface.Size().height),
       covers_(columns_.Covers() && rows_.Covers()),
       source_(SourceView::Of(surface.Source())),
       target_(TargetView::Of(surface.Result())) {}
 
+void RotatedEngine::FillTheRest() const {
+    if (covers_) {
+        return;
+    }
+    DrawBlocks(surface_, {0, target_.height - 1}, 64, [this](int from, int to) {
+        for (std::int32_t row = from; row <= to; ++row) {
+            surface_.CopySourceRow(row);
+        }
+    });
+}
+
 void RotatedEngine::Draw(int x, int count) const {
-    const int rows = rows_.Last() - rows_.First() + 1;
-    DrawBlocks(surface_, rows_.First(), rows, blockRows, [&](int from, int to) {
+    DrawBlocks(surface_, {rows_.First(), rows_.Last()}, blockRows, [&](int from, int to) {
         NodeLine line = LineOf(x, count);
         std::vector<std::uint8_t> spare;
         for (line.y = from; line.y <= to; ++line.y) {

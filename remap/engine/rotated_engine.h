@@ -9,33 +9,32 @@
 #include <limits>
 #include <optional>
 
+#include "remap/engine/line_range.h"
 #include "remap/engine/node_lines.h"
 #include "remap/engine/node_maps.h"
 #include "remap/row_drawing.h"
 
 namespace varnel {
 
-// Where the positions first to last of one axis go, and who is the last to write each place.
+// One axis of the loops: positions from shift - before to shift + after, which are written at the
+// centre less the shift.
+struct LoopAxis {
+    double shift = 0.0;  // pixels
+    std::int32_t centre = 0;
+    std::int32_t before = 0, after = 0;
+    const char* shiftName = "";  // for errors
+};
+
+// Where the positions of one axis go, and who is the last to write each place.
 class AxisOwners {
   public:
-    // place(n) is rounded by the caller's rule; places outside 0 to size - 1 are dropped.
-    template <class Place>
-    AxisOwners(int first, int last, std::int32_t size, const Place& place)
-        : first_(first), last_(last), owners_(static_cast<std::size_t>(size), none) {
-        for (int n = first; n <= last; ++n) {
-            places_.push_back(place(n));
-            if (places_.back() >= 0 && places_.back() < size) {
-                owners_[static_cast<std::size_t>(places_.back())] = n;
-            }
-        }
-        contiguous_ = true;
-        for (std::size_t n = 1; n < places_.size(); ++n) {
-            contiguous_ = contiguous_ && places_[n] == places_[n - 1] + 1;
-        }
-    }
-    int First() const { return first_; }
-    int Last() const { return last_; }
-    std::int32_t Place(int n) const { return places_[static_cast<std::size_t>(n - first_)]; }
+    // Places outside 0 to size - 1 are dropped. Throws OverflowError.
+    AxisOwners(const LoopAxis& axis, std::int32_t size);
+    // The whole loop, and what of it is worth a run.
+    LineRange All() const { return all_; }
+    int First() const { return run_.first; }
+    int Last() const { return run_.last; }
+    std::int32_t Place(int n) const { return places_[static_cast<std::size_t>(n - run_.first)]; }
     // Position n is the one that stays at its place.
     bool Stays(int n) const {
         const std::int32_t place = Place(n);
@@ -53,7 +52,7 @@ class AxisOwners {
 
   private:
     static constexpr int none = std::numeric_limits<int>::min();
-    int first_, last_;
+    LineRange all_, run_;
     std::vector<std::int32_t> places_;
     std::vector<int> owners_;
     bool contiguous_ = true;
@@ -67,8 +66,8 @@ class RotatedEngine : public RowDrawing {
     RotatedEngine& operator=(const RotatedEngine&) = delete;
 
     const AxisOwners& Columns() const { return columns_; }
-    // Every pixel is written.
-    bool Covers() const { return covers_; }
+    // The source's pixels to where none is written.
+    void FillTheRest() const;
     // Positions x to x + count - 1, all rows.
     void Draw(int x, int count) const;
     void DrawRow(std::int32_t row) override;

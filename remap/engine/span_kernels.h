@@ -75,8 +75,9 @@ struct ChordSpan {
 
 void SampleChordSpan(const ChordSpan& span, SpanTarget target);
 
-// A run of columns of the Horizon projection: column i reads centreX + sign * radius * cosines[i]
-// in the row nearest to centreY + radius * sines[i].
+// A run of columns of the Horizon projection: the one with the angle i reads centreX + sign *
+// radius
+// * cosines[i] in the row nearest to centreY + radius * sines[i].
 struct CircleSpan {
     SourceView source;
     int first = 0;

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "app/console_start.h"
+#include "app/revision_age.h"
 #include "gear/gear_store.h"
 #include "state/setting_names.h"
 #include "tests/support/files.h"
@@ -139,10 +140,11 @@ TEST_F(ConsoleStart, BadPhotosAreNamedAndTheOthersDone) {
 TEST_F(ConsoleStart, TheReminderGoesToStderrOnceAMonth) {
     DefineGears();
     const QString photo = Photo("IMG.bmp");
-    EXPECT_EQ(ExitCode({photo}, {2023, 8, 1}), exitAllWritten);
+    const QDate oldEnough = ThisRelease().date.addMonths(7);
+    EXPECT_EQ(ExitCode({photo}, oldEnough), exitAllWritten);
     EXPECT_EQ(err_.str().find("This version of Varnel is now more than 7 months old.\n"), 0U);
     EXPECT_EQ(out_.str(), Line("IMG.Varnel.TIF"));
-    EXPECT_EQ(ExitCode({photo}, {2023, 8, 2}), exitAllWritten);
+    EXPECT_EQ(ExitCode({photo}, oldEnough.addDays(1)), exitAllWritten);
     EXPECT_EQ(err_.str(), "");
 }
 

@@ -116,9 +116,12 @@ void ShowEveryForm(const Look& look, PixelSize photo) {
     look(setup);
     ShowGearForms(desk, look);
     const QString folder = desk.files.Path({});
-    FormAddImages add(desk.state.Images, desk.store, desk.notices, {folder, folder, &OneVolume},
-                      {Reader(), true});
-    Show(add, look);
+    {
+        // Gone before the reader is used by others.
+        FormAddImages add(desk.state.Images, desk.store, desk.notices, {folder, folder, &OneVolume},
+                          {Reader(), true});
+        Show(add, look);
+    }
     ShowBatch(desk, look);
     ShowToolForms(desk, look);
 }

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "gear/gear_catalogue.h"
-#include "gear/gear_list.h"
 #include "gear/gear_store.h"
 #include "ui_form_gear_list.h"
 
@@ -19,6 +18,7 @@ FormGearList::FormGearList(GearTable& table, SettingsStore& store, EditGear edit
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormGearList>()),
       table_(table),
+      origins_(table),
       store_(store),
       editGear_(std::move(editGear)) {
     ui_->setupUi(this);
@@ -26,6 +26,7 @@ FormGearList::FormGearList(GearTable& table, SettingsStore& store, EditGear edit
     connect(ui_->CmdEdit, &QPushButton::clicked, this, &FormGearList::Redefine);
     connect(ui_->CmdDelete, &QPushButton::clicked, this, &FormGearList::Delete);
     connect(ui_->CmdOK, &QPushButton::clicked, this, &FormGearList::SaveAndClose);
+    connect(ui_->CmdCancel, &QPushButton::clicked, this, &FormGearList::reject);
     auto* deleteKey = new QShortcut(QKeySequence(QKeySequence::Delete), ui_->GearList);
     deleteKey->setContext(Qt::WidgetShortcut);
     connect(deleteKey, &QShortcut::activated, this, &FormGearList::Delete);
@@ -40,6 +41,7 @@ void FormGearList::AddNew() {
     table_(0) = GearRecord();
     editGear_(table_);
     if (!table_(0).GearName.isEmpty()) {
+        origins_.NoteAdded();
         Refresh(AddEditedGear(table_));
     }
 }
@@ -64,12 +66,19 @@ void FormGearList::Delete() {
         return;
     }
     DeleteGear(table_, n);
+    origins_.NoteDeleted(n);
     Refresh(std::min(n, table_.UpperBound()));
 }
 
 void FormGearList::SaveAndClose() {
     SaveGear(store_, table_);
     accept();
+}
+
+// Also for Escape and for the window's close button.
+void FormGearList::reject() {
+    table_ = origins_.Before();
+    QDialog::reject();
 }
 
 void FormGearList::Refresh(int selected) {

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The list of gears: add, redefine, delete. Only OK writes the table to the store; until then the
-// changes stand in the table alone.
+// The list of gears: add, redefine, delete. OK writes the table to the store; every other way out
+// of the dialog leaves the table as it was.
 #pragma once
 
 #include <QDialog>
 #include <functional>
 #include <memory>
 
-#include "gear/gear_record.h"
+#include "gear/gear_list.h"
 #include "state/settings_store.h"
 
 namespace Ui {
@@ -28,6 +28,9 @@ class FormGearList : public QDialog {
     FormGearList(GearTable& table, SettingsStore& store, EditGear editGear,
                  QWidget* parent = nullptr);
     ~FormGearList() override;
+    // Since the dialog was opened.
+    std::vector<GearChange> Redefined() const { return origins_.Redefined(table_); }
+    void reject() override;
 
   private:
     void AddNew();
@@ -40,6 +43,7 @@ class FormGearList : public QDialog {
 
     std::unique_ptr<Ui::FormGearList> ui_;
     GearTable& table_;
+    GearOrigins origins_;
     SettingsStore& store_;
     EditGear editGear_;
 };

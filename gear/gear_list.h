@@ -5,6 +5,8 @@
 // gear that the table has.
 #pragma once
 
+#include <vector>
+
 #include "gear/gear_record.h"
 
 namespace varnel {
@@ -23,5 +25,21 @@ bool MayDeleteGear(const GearTable& table);
 
 // Removes gear n; the default passes to the gear that comes first then.
 void DeleteGear(GearTable& table, int n);
+
+// Which gear of the table is which of the gears that were there when the list was opened.
+class GearOrigins {
+  public:
+    explicit GearOrigins(const GearTable& table);
+    void NoteAdded() { origins_.push_back(0); }
+    void NoteDeleted(int n) { origins_.erase(origins_.begin() + n); }
+    const GearTable& Before() const { return before_; }
+    // The gears that are other ones now, under the same name or another. Of several that had one
+    // name only the first, which that name means.
+    std::vector<GearChange> Redefined(const GearTable& now) const;
+
+  private:
+    GearTable before_;
+    std::vector<int> origins_;  // of gear n: its number before, 0 for a new one
+};
 
 }  // namespace varnel

@@ -43,6 +43,11 @@ struct GearRecord {
     bool operator==(const GearRecord&) const = default;
 };
 
+// One gear before and after it was changed.
+struct GearChange {
+    GearRecord from, to;
+};
+
 // The gears are elements 1 to UpperBound(); element 0 is the editor's scratch slot and always
 // there.
 class GearTable {

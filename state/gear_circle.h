@@ -34,13 +34,9 @@ GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, Pi
 int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
                int current);
 
-// What a step did to a gear of the table, or what undoing it shall do.
-struct GearChange {
-    GearRecord from, to;
-};
-
-// False, and nothing is changed, when the table's gear of that name is another one than it was: it
-// was deleted or edited since.
+// What a step did to a gear of the table, or what undoing it shall do. False, and nothing is
+// changed, when the table's gear of that name is another one than it was: it was deleted or edited
+// since.
 bool ChangeGear(GearTable& table, const GearChange& change);
 
 }  // namespace varnel

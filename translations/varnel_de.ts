@@ -763,6 +763,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>New photos get the combination in bold. Changes are saved with OK.</source>
         <translation>Neue Fotos bekommen die fett gezeigte Kombination. OK speichert die Änderungen.</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close and leave all combinations as they were (Esc)</source>
+        <translation>Schließen und alle Kombinationen lassen, wie sie waren (Esc)</translation>
+    </message>
 </context>
 <context>
     <name>FormMorph</name>
@@ -1374,6 +1382,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Save project as</source>
         <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>1 photo uses this gear. Give it the new numbers?</source>
+        <translation>1 Foto verwendet diese Ausrüstung. Soll es die neuen Werte bekommen?</translation>
+    </message>
+    <message>
+        <source>%1 photos use this gear. Give them the new numbers?</source>
+        <translation>%1 Fotos verwenden diese Ausrüstung. Sollen sie die neuen Werte bekommen?</translation>
     </message>
 </context>
 <context>
@@ -2111,6 +2127,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>input hAOV</source>
         <translation>Bildwinkel des Objektivs</translation>
     </message>
+    <message>
+        <source>new numbers of a gear</source>
+        <translation>neue Werte einer Ausrüstung</translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2654,6 +2674,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>The camera or the lens of the gear in use is not the photo&apos;s: the circle and the angles do not fit.</source>
         <translation>Kamera oder Objektiv der benutzten Ausrüstung sind nicht die des Fotos: Kreis und Winkel passen nicht.</translation>
+    </message>
+    <message>
+        <source>Puts the gear that this photo was adjusted with into the list; the photo stays as it is</source>
+        <translation>Nimmt die Ausrüstung, mit der dieses Foto angepasst wurde, in die Liste auf; das Foto bleibt, wie es ist</translation>
     </message>
 </context>
 <context>

@@ -74,7 +74,8 @@ TEST_F(GearListForm, HasEveryControl) {
     } cases[] = {{"CmdAddNew", "Add new"},
                  {"CmdEdit", "Redefine"},
                  {"CmdDelete", "Delete"},
-                 {"CmdOK", "OK"}};
+                 {"CmdOK", "OK"},
+                 {"CmdCancel", "Cancel"}};
     for (const auto& c : cases) {
         EXPECT_EQ(Get<QPushButton>(c.name)->text(), Text(c.text));
         EXPECT_TRUE(Get<QPushButton>(c.name)->isVisible()) << c.name;
@@ -164,12 +165,33 @@ TEST_F(GearListForm, DeletesDownToOneGear) {
     EXPECT_EQ(Stored("DefaultGearName"), u"b");
 }
 
-TEST_F(GearListForm, SavesOnlyWithOk) {
-    Open({"a", "b"}, "a");
-    Click("CmdDelete");
-    QTest::keyClick(form_.get(), Qt::Key_Escape);
-    EXPECT_EQ(Stored("NumGear"), u"-");
-    EXPECT_EQ(form_->result(), QDialog::Rejected);
+TEST_F(GearListForm, EveryOtherWayOutTakesEverythingBack) {
+    edit_ = [](GearTable& table) {
+        table(0).GearName += Text("+");
+        table(0).OfsetX = 6.0F;
+    };
+    Open({"a", "b", "c"}, "a");
+    const GearRecord before = table_(2);
+    const std::function<void()> ways[] = {
+        [this] { Click("CmdCancel"); },
+        [this] { QTest::keyClick(form_.get(), Qt::Key_Escape); },
+        [this] { form_->close(); },
+    };
+    for (const auto& leave : ways) {
+        form_ = std::make_unique<FormGearList>(table_, store_,
+                                               [this](GearTable& table) { edit_(table); });
+        form_->show();
+        Click("CmdDelete");
+        Click("CmdEdit");
+        Click("CmdAddNew");
+        EXPECT_EQ(Lines(), "b+,c,[+]:b+");
+        leave();
+        EXPECT_EQ(form_->result(), QDialog::Rejected);
+        ASSERT_EQ(table_.UpperBound(), 3);
+        EXPECT_EQ(table_(2), before);
+        EXPECT_EQ(table_.DefaultGearName, u"a");
+        EXPECT_EQ(Stored("NumGear"), u"-");
+    }
 }
 
 TEST_F(GearListForm, ActsOnASelectedLineOnly) {

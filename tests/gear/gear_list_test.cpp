@@ -83,6 +83,23 @@ TEST(GearList, RenamingTheDefaultTakesItAlong) {
     }
 }
 
+TEST(GearOrigins, TellsWhichGearsAreOtherOnesNow) {
+    GearTable table = Table({"a", "b", "c", "b", "d"}, "a");
+    GearOrigins origins(table);
+    DeleteGear(table, 1);
+    origins.NoteDeleted(1);
+    table(1).hAOV = 5.0F;                       // b
+    table(2).GearName = QStringLiteral("new");  // c
+    table(3).hAOV = 6.0F;                       // the second b: no photo's
+    AddEditedGear(table);
+    origins.NoteAdded();
+    std::string told;
+    for (const GearChange& change : origins.Redefined(table)) {
+        told += (change.from.GearName + u'>' + change.to.GearName + u' ').toStdString();
+    }
+    EXPECT_EQ(told, "b>b c>new ");
+}
+
 TEST(GearEntry, NamesTheGear) {
     const char* built = "Olympus E-3 + Olympus Zuiko ED 8mm f/3.5";
     const struct {

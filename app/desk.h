@@ -93,7 +93,12 @@ class Desk {
     void AdoptTile(const ContactTile& tile);  // of the contact sheet, for the selected photos
     void UseGear(int gear);                   // of the table, for the current photo
     void ApplyGear();                         // to all
-    void ApplySettings();                     // of the current photo, to all
+    void NameGear(const QString& gear);       // the current photo's, which keeps its numbers
+    // After gears were redefined. Their photos follow a new name; new numbers they get if that is
+    // agreed to for the gear, as it was called, and so many photos. Else they keep what they have.
+    void FollowGears(const std::vector<GearChange>& changes,
+                     const std::function<bool(const QString& gear, int photos)>& agrees);
+    void ApplySettings();  // of the current photo, to all
 
     // Those behind that many are new.
     void ImagesAdded(int before);

@@ -7,6 +7,7 @@
 #include "app/desk.h"
 #include "app/scoped.h"
 #include "state/gear_assignment.h"
+#include "state/gear_redefinition.h"
 
 namespace varnel {
 
@@ -85,6 +86,40 @@ void Desk::ApplyGear() {
     }
     ApplyGearToAll(state_.Images, view_.ChosenGearName());
     NoteStep(StepKind::GearToAll, {.onAllLines = true, .gear = {}});
+}
+
+void Desk::NameGear(const QString& gear) {
+    Current()->GearName = gear;
+    NoteStep(StepKind::Gear);
+    ShowInControls(*Current());
+}
+
+void Desk::FollowGears(const std::vector<GearChange>& changes,
+                       const std::function<bool(const QString& gear, int photos)>& agrees) {
+    if (changes.empty()) {
+        return;
+    }
+    NoteStep(StepKind::Other);
+    std::vector<GearFollowers> followers;
+    std::vector<bool> agreed;
+    for (const GearChange& change : changes) {
+        const GearFollowers& photos = followers.emplace_back(change, state_.Images);
+        agreed.push_back(photos.Count() > 0 && agrees(photos.Gear(), photos.Count()));
+    }
+    for (const GearFollowers& photos : followers) {
+        photos.Settle(state_.Images);
+    }
+    Absorb();
+    for (std::size_t n = 0; n < followers.size(); ++n) {
+        if (agreed[n]) {
+            followers[n].GiveNewNumbers(state_.Images);
+        }
+    }
+    NoteStep(StepKind::GearNumbers, {.onAllLines = true, .gear = {}});
+    if (Current() != nullptr) {
+        ShowInControls(*Current());
+        Preview();
+    }
 }
 
 }  // namespace varnel

@@ -6,6 +6,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "app/desk.h"
 #include "gear/gear_catalogue.h"
@@ -24,9 +25,13 @@ class Dialogs {
     virtual ~Dialogs() = default;
     // True when photos were added to the image list.
     virtual bool AddImages(QWidget* parent) = 0;
-    virtual void ManageGears(QWidget* parent) = 0;
-    // With camera and lens chosen beforehand. True when the gear was added to the table.
-    virtual bool DefineGear(const GearNames& names, QWidget* parent) = 0;
+    // The gears that were redefined.
+    virtual std::vector<GearChange> ManageGears(QWidget* parent) = 0;
+    // Whether that many photos shall have the new numbers of their gear.
+    virtual bool GiveNewNumbers(const QString& gear, int photos) = 0;
+    // Begins with what is known of the gear: names, and numbers if there is a ratio. True when it
+    // was added to the table.
+    virtual bool DefineGear(const GearRecord& known, QWidget* parent) = 0;
     virtual void ChangeDefaults(QWidget* parent) = 0;
     virtual void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) = 0;
     // For a photo that is prepared as for the queue.

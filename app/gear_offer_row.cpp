@@ -78,7 +78,11 @@ void GearOfferRow::Show(const GearOffer& offer, const GearTable& gears) {
         button_->setToolTip(tr("Gives this photo the gear \"%1\"").arg(name));
     } else if (offer.define) {
         button_->setText(tr("Define this gear..."));
-        button_->setToolTip(tr("Opens the gear editor with the camera and the lens chosen"));
+        button_->setToolTip(
+            offer.lost
+                ? tr("Puts the gear that this photo was adjusted with into the list; the photo "
+                     "stays as it is")
+                : tr("Opens the gear editor with the camera and the lens chosen"));
     }
     button_->setVisible(offer.gear > 0 || offer.define);
 }

@@ -12,6 +12,7 @@
 #include "app/main_window.h"
 #include "pipeline/preview_size.h"
 #include "remap/rounding.h"
+#include "state/gear_assignment.h"
 
 namespace varnel {
 
@@ -178,19 +179,28 @@ void MDIForm1::RemoveImages() {
 }
 
 void MDIForm1::ManageGears() {
-    ports_.dialogs.ManageGears(this);
+    const std::vector<GearChange> changes = ports_.dialogs.ManageGears(this);
     ShowGears();
+    desk_->FollowGears(changes, [this](const QString& gear, int photos) {
+        return ports_.dialogs.GiveNewNumbers(gear, photos);
+    });
 }
 
 void MDIForm1::TakeOffer() {
     const GearOffer offer = parts_.offer->Offer();
     if (offer.gear > 0) {
         desk_->UseGear(offer.gear);
-    } else if (!desk_->Busy() && ports_.dialogs.DefineGear(offer.names, this)) {
-        ShowGears();
-        if (const int gear = parts_.offer->Offer().gear; gear > 0) {
-            desk_->UseGear(gear);
-        }
+        return;
+    }
+    const GearRecord known = offer.lost ? GearOf(*desk_->Current()) : GearNamed(offer.names);
+    if (desk_->Busy() || !ports_.dialogs.DefineGear(known, this)) {
+        return;
+    }
+    ShowGears();
+    if (offer.lost) {
+        desk_->NameGear(state_.Gear(state_.Gear.UpperBound()).GearName);
+    } else if (const int gear = parts_.offer->Offer().gear; gear > 0) {
+        desk_->UseGear(gear);
     }
 }
 

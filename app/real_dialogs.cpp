@@ -46,7 +46,7 @@ bool RealDialogs::AddImages(QWidget* parent) {
     return form.exec() == QDialog::Accepted;
 }
 
-void RealDialogs::ManageGears(QWidget* parent) {
+std::vector<GearChange> RealDialogs::ManageGears(QWidget* parent) {
     FormGearList form(
         state_.Gear, store_,
         [](GearTable& gears) {
@@ -54,13 +54,27 @@ void RealDialogs::ManageGears(QWidget* parent) {
             editor.exec();
         },
         parent);
-    form.exec();
+    return form.exec() == QDialog::Accepted ? form.Redefined() : std::vector<GearChange>();
 }
 
-bool RealDialogs::DefineGear(const GearNames& names, QWidget* parent) {
+bool RealDialogs::GiveNewNumbers(const QString& gear, int photos) {
+    const QString question =
+        photos == 1
+            ? QObject::tr("1 photo uses this gear. Give it the new numbers?")
+            : QObject::tr("%1 photos use this gear. Give them the new numbers?").arg(photos);
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Varnel"),
+                    gear + QStringLiteral("\n\n") + question, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+bool RealDialogs::DefineGear(const GearRecord& known, QWidget* parent) {
     state_.Gear(0) = GearRecord();
     FormGearEdit form(state_.Gear, parent);
-    form.Preselect(names);
+    form.Propose(known);
     form.exec();
     if (state_.Gear(0).GearName.isEmpty()) {
         return false;

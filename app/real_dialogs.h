@@ -21,8 +21,9 @@ class RealDialogs : public Dialogs {
           notices_(notices),
           fileChooser_(fileChooser) {}
     bool AddImages(QWidget* parent) override;
-    void ManageGears(QWidget* parent) override;
-    bool DefineGear(const GearNames& names, QWidget* parent) override;
+    std::vector<GearChange> ManageGears(QWidget* parent) override;
+    bool GiveNewNumbers(const QString& gear, int photos) override;
+    bool DefineGear(const GearRecord& known, QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
     void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) override;
     void Morph(const ImageRecord& image, const QueueChanged& queueChanged,

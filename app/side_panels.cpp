@@ -7,11 +7,21 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <algorithm>
 
 #include "app/named_button.h"
 #include "app/photo_list.h"
 
 namespace varnel {
+
+QString EquipmentPanel::GearsTip() {
+    return tr("Which camera and lens took the selected photos");
+}
+
+QString EquipmentPanel::Marked(const QString& gearName) {
+    return gearName.isEmpty() ? tr("No gear yet") : tr("%1 (not in the list)").arg(gearName);
+}
 
 EquipmentPanel::EquipmentPanel(QWidget* parent)
     : QGroupBox(tr("Equipment"), parent), gears_(new QComboBox(this)) {
@@ -21,7 +31,7 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     label->setBuddy(gears_);
     gears_->setObjectName(QStringLiteral("GearCombo"));
     gears_->setAccessibleName(label->text());
-    gears_->setToolTip(tr("Which camera and lens took the selected photos"));
+    gears_->setToolTip(GearsTip());
     gears_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     gears_->setMinimumContentsLength(16);
     gears_->setFocusPolicy(Qt::StrongFocus);
@@ -43,6 +53,9 @@ bool EquipmentPanel::eventFilter(QObject* watched, QEvent* event) {
         event->ignore();
         return true;
     }
+    if (watched == gears_ && event->type() == QEvent::Resize) {
+        ShowMark();
+    }
     return QGroupBox::eventFilter(watched, event);
 }
 
@@ -57,12 +70,30 @@ void EquipmentPanel::Fill(const GearTable& gears) {
 
 void EquipmentPanel::Show(const QString& gearName) {
     const QSignalBlocker blocker(gears_);
-    gears_->setPlaceholderText(gearName.isEmpty() ? tr("No gear yet")
-                                                  : tr("%1 (not in the list)").arg(gearName));
+    shown_ = gearName;
     gears_->setCurrentIndex(gears_->findText(gearName));
     const bool listed = gears_->currentIndex() >= 0;
-    gears_->setAccessibleDescription(listed ? QString() : gears_->placeholderText());
+    ShowMark();
+    gears_->setAccessibleDescription(listed ? QString() : Marked(gearName));
+    gears_->setToolTip((listed ? QString() : Marked(gearName) + u'\n') + GearsTip());
     applyToAll_->setEnabled(listed);
+}
+
+// However long the name is, the mark stays in sight.
+void EquipmentPanel::ShowMark() {
+    QStyleOptionComboBox option;
+    option.initFrom(gears_);
+    constexpr int margin = 8;  // that styles leave around a text
+    const int room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, gears_)
+            .width() -
+        margin;
+    const QFontMetrics metrics = gears_->fontMetrics();
+    const int rest = room - metrics.horizontalAdvance(Marked(QStringLiteral(" ")));
+    const int least = metrics.averageCharWidth() * 4;
+    gears_->setPlaceholderText(
+        Marked(metrics.elidedText(shown_, Qt::ElideRight, std::max(rest, least))));
 }
 
 ImageListPanel::ImageListPanel(QWidget* parent)

@@ -33,6 +33,11 @@ class EquipmentPanel : public QGroupBox {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    static QString GearsTip();
+    static QString Marked(const QString& gearName);
+    void ShowMark();
+
+    QString shown_;  // the gear of the photo that is shown
     QComboBox* gears_;
     QPushButton* applyToAll_;
 };

@@ -95,9 +95,10 @@ void WindowView::ShowOffer() {
     GearOffer offer;
     const int n = CurrentLine() + 1;
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (state_.settings.OfferGear && photo != nullptr && n >= 1 &&
-        n <= state_.Images.UpperBound()) {
-        offer = OfferFor(MetadataOf(photo).origin, state_.Gear, state_.Images(n));
+    if (n >= 1 && n <= state_.Images.UpperBound()) {
+        const bool asks = state_.settings.OfferGear && photo != nullptr;
+        offer = OfferFor(asks ? MetadataOf(photo).origin : PhotoOrigin(), state_.Gear,
+                         state_.Images(n));
     }
     parts_.offer->Show(offer, state_.Gear);
 }

@@ -61,9 +61,17 @@ FormGearEdit::FormGearEdit(GearTable& table, QWidget* parent)
 
 FormGearEdit::~FormGearEdit() = default;
 
-void FormGearEdit::Preselect(const GearNames& names) {
-    SelectNames(names);
-    Choose();
+void FormGearEdit::Propose(const GearRecord& known) {
+    if (!known.GearName.isEmpty()) {
+        ui_->GearNameText->setText(known.GearName);
+    }
+    SelectNames(NamesOf(known));
+    if (BothChosen()) {
+        TakeKnown(known, table_(0));
+        opened_ = table_(0);
+    }
+    Refresh();
+    ShowState();
     if (BothChosen()) {
         ui_->CmdAdd->setFocus();
     } else {

@@ -32,8 +32,8 @@ class FormGearEdit : public QDialog {
     explicit FormGearEdit(GearTable& table, QWidget* parent = nullptr);
     ~FormGearEdit() override;
 
-    // Chooses camera and lens of a new gear, as far as they are named.
-    void Preselect(const GearNames& names);
+    // Begins a new gear with what is known of it; names that are in no catalogue are left open.
+    void Propose(const GearRecord& known);
     void reject() override;
 
   protected:

@@ -95,6 +95,12 @@ GearNames NamesOf(const GearRecord& gear) {
     return {gear.CameraBrand, gear.CameraModel, gear.LensBrand, gear.LensModel};
 }
 
+GearRecord GearNamed(const GearNames& names) {
+    GearRecord gear;
+    WriteNames(names, gear);
+    return gear;
+}
+
 void FillGearFromCatalogue(const GearNames& names, GearRecord& gear, const EditorSliders& sliders) {
     WriteNames(names, gear);
     gear.LensDataVersion = 0;

@@ -20,6 +20,7 @@ struct GearNames {
 };
 
 GearNames NamesOf(const GearRecord& gear);
+GearRecord GearNamed(const GearNames& names);  // without a number
 
 // What the gear editor's sliders stand for: a moved one for its whole number, one that was not
 // moved for the gear's own number. A gear that the user adjusted takes these values in place of the

@@ -49,6 +49,21 @@ void DefineEditedGear(GearTable& table, const GearEntry& entry) {
     }
 }
 
+void TakeKnown(const GearRecord& known, GearRecord& gear) {
+    FillGearFromCatalogue(NamesOf(known), gear);
+    if (known.GearRatio > 0.0F) {
+        gear.GearRatio = known.GearRatio;
+        gear.OfsetX = known.OfsetX;
+        gear.OfsetY = known.OfsetY;
+    }
+    const bool isRounded = known.hAOV == static_cast<float>(SliderPosition(gear.hAOV));
+    if (known.hAOV > 0.0F && known.hAOV != gear.hAOV && !isRounded) {
+        gear.hAOV = gear.vAOV = known.hAOV;
+    }
+    gear.SetByHand = HasOwnCircle(gear) || HasOwnAngle(gear);
+    gear.UserAdjusted = gear.SetByHand;
+}
+
 void DropAdjustments(GearRecord& gear) {
     gear.UserAdjusted = false;
     gear.SetByHand = false;

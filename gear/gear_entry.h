@@ -43,6 +43,11 @@ struct GearEntry {
 // An adjusted gear keeps the numbers that it has, any other gets the catalogue's.
 void DefineEditedGear(GearTable& table, const GearEntry& entry);
 
+// Writes into the gear what is known of one that is to be defined: its names, its own ratio with
+// the offsets, and its own angle; 0 for what is not known. An angle that a slider rounded is the
+// catalogue's.
+void TakeKnown(const GearRecord& known, GearRecord& gear);
+
 // The catalogue's numbers count again: no adjustment, no offset of the image circle.
 void DropAdjustments(GearRecord& gear);
 

@@ -45,10 +45,8 @@ void AddDoubts(const ImageRecord& image, bool isUnlisted, GearOffer& offer) {
     offer.reason += (hasBoth ? QStringLiteral("\n") : QString()) + doubt;
 }
 
-}  // namespace
-
-GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image) {
-    const GearNames current{image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel};
+GearOffer OfferOfPhoto(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image,
+                       const GearNames& current) {
     GearOffer offer;
     const PhotoGear photo = GearOfPhoto(origin, table);
     if (photo.lack == GearLack::Origin) {
@@ -73,6 +71,19 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Imag
         }
     } else {
         AddDoubts(image, photo.lack == GearLack::KnownCamera, offer);
+    }
+    return offer;
+}
+
+}  // namespace
+
+GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image) {
+    const GearNames current{image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel};
+    GearOffer offer = OfferOfPhoto(origin, table, image, current);
+    if (!image.GearName.isEmpty() && table.Find(image.GearName) == 0) {
+        offer.lost = offer.define = true;
+        offer.gear = 0;
+        offer.names = current;
     }
     return offer;
 }

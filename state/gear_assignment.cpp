@@ -9,24 +9,6 @@ namespace varnel {
 
 namespace {
 
-void CopyGear(const GearRecord& gear, ImageRecord& image) {
-    image.GearName = gear.GearName;
-    image.CameraBrand = gear.CameraBrand;
-    image.CameraModel = gear.CameraModel;
-    image.SensorWidth = gear.SensorWidth;
-    image.SensorHeight = gear.SensorHeight;
-    image.CameraData1 = gear.CameraData1;
-    image.CameraData2 = gear.CameraData2;
-    image.LensBrand = gear.LensBrand;
-    image.LensModel = gear.LensModel;
-    image.ImageCircleRadius = gear.ImageCircleRadius;
-    image.LensShift = gear.LensShift;
-    image.LensData3 = gear.LensData3;
-    image.Ratio = gear.GearRatio;
-    image.LensMapScale = gear.LensMapScale;
-    image.LensMapFactor = gear.LensMapFactor;
-}
-
 bool IsStoredInLandscape(const ImageRecord& image) {
     return SwapsSides(image.Orientation) ? image.Height >= image.Width
                                          : static_cast<bool>(image.Landscape);
@@ -79,6 +61,25 @@ float UsualOutputAov(float inputAov) {
     return inputAov > widest ? widest : inputAov;
 }
 
+void CopyGear(const GearRecord& gear, ImageRecord& image) {
+    image.GearName = gear.GearName;
+    image.CameraBrand = gear.CameraBrand;
+    image.CameraModel = gear.CameraModel;
+    image.SensorWidth = gear.SensorWidth;
+    image.SensorHeight = gear.SensorHeight;
+    image.CameraData1 = gear.CameraData1;
+    image.CameraData2 = gear.CameraData2;
+    image.LensBrand = gear.LensBrand;
+    image.LensModel = gear.LensModel;
+    image.ImageCircleRadius = gear.ImageCircleRadius;
+    image.LensShift = gear.LensShift;
+    image.LensData3 = gear.LensData3;
+    image.Ratio = gear.GearRatio;
+    image.LensMapScale = gear.LensMapScale;
+    image.LensMapFactor = gear.LensMapFactor;
+    SetCentre(ShownCentre({gear.OfsetX, gear.OfsetY}, image), image);
+}
+
 bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     if (image.SettingsApplied) {
         return false;
@@ -86,10 +87,24 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     image.EffectVarnel = usualEffect;
     image.EffectRectilinear = usualEffect;
     CopyGear(gear, image);
-    SetCentre(ShownCentre({gear.OfsetX, gear.OfsetY}, image), image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = UsualOutputAov(image.InputAOV);
     return true;
+}
+
+GearRecord GearOf(const ImageRecord& image) {
+    GearRecord gear;
+    gear.GearName = image.GearName;
+    gear.CameraBrand = image.CameraBrand;
+    gear.CameraModel = image.CameraModel;
+    gear.LensBrand = image.LensBrand;
+    gear.LensModel = image.LensModel;
+    const CentreOffset centre = GearCentre({image.OfsetX, image.OfsetY}, image);
+    gear.OfsetX = centre.x;
+    gear.OfsetY = centre.y;
+    gear.GearRatio = image.Ratio;
+    gear.hAOV = image.Landscape ? image.InputAOV : 0.0F;
+    return gear;
 }
 
 // Every gear brings effects, and nothing sets one to 0 afterwards.

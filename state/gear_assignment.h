@@ -16,11 +16,18 @@ namespace varnel {
 inline constexpr float usualEffect = 100.0F;
 float UsualOutputAov(float inputAov);
 
+// Copies the gear's names and numbers but for its angles of view. No adjustment is touched.
+void CopyGear(const GearRecord& gear, ImageRecord& image);
+
 // Copies the gear's names and numbers and resets angles of view and effects to the gear's defaults;
 // rotation and translation stay. The gear's centre is meant for a picture stored in landscape: for
 // one stored upright its offsets change places, and then they turn with the picture. A record whose
 // settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
+
+// The gear that gave the record its numbers, as far as they tell it: its angle of view only from a
+// landscape record, and as it was refined there.
+GearRecord GearOf(const ImageRecord& image);
 
 // False for a record that may name a gear, but was never given one's numbers.
 bool HasGearNumbers(const ImageRecord& image);

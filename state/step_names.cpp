@@ -13,6 +13,7 @@ namespace {
 constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
                            QT_TRANSLATE_NOOP("Steps", "choice of gear"),
                            QT_TRANSLATE_NOOP("Steps", "apply gear to all"),
+                           QT_TRANSLATE_NOOP("Steps", "new numbers of a gear"),
                            QT_TRANSLATE_NOOP("Steps", "apply settings to all"),
                            QT_TRANSLATE_NOOP("Steps", "adjustments"),
                            QT_TRANSLATE_NOOP("Steps", "add images"),

@@ -15,6 +15,7 @@ enum class StepKind {
     Projection,
     Gear,
     GearToAll,
+    GearNumbers,  // of a gear that was redefined
     SettingsToAll,
     Adjustments,  // several controls at once
     Add,

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "gear/gear_entry.h"
 #include "gear/gear_list.h"
 #include "tests/support/taken_photos.h"
 #include "tests/support/texts.h"
@@ -26,16 +27,18 @@ class GearOfferRowTest : public ::testing::Test {
             {TakenByNikon(desk_.files, Text("a.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
              TakenByNikon(desk_.files, Text("b.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
              desk_.files.Picture(Text("c.bmp"), FIF_BMP)});
-        desk_.dialogs.onDefine = [this](const GearNames& names) {
-            FillGearFromCatalogue(names, desk_.state.Gear(0));
+        desk_.dialogs.onDefine = [this](const GearRecord& known) {
+            TakeKnown(known, desk_.state.Gear(0));
             desk_.state.Gear(0).GearName = Text("Cut & dried");
             AddEditedGear(desk_.state.Gear);
-            return names == nikon;
+            known_ = known;
+            return true;
         };
     }
     QAbstractButton* Button() { return desk_.Find<QAbstractButton>("CmdOfferedGear"); }
 
     WindowDesk desk_;
+    GearRecord known_;
 };
 
 TEST_F(GearOfferRowTest, DefinesAndUsesTheGearOnlyWhenAsked) {
@@ -43,6 +46,7 @@ TEST_F(GearOfferRowTest, DefinesAndUsesTheGearOnlyWhenAsked) {
     EXPECT_EQ(Button()->text(), Text("Define this gear..."));
     desk_.Click("CmdOfferedGear");
     EXPECT_EQ(desk_.dialogs.opened, QStringList{Text("FormGearEdit")});
+    EXPECT_EQ(known_, GearNamed(nikon));
     EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->count(), 2);
     EXPECT_EQ(desk_.Record(1).GearName, Text("Cut & dried"));
     // Other photos that are selected stay as they are.
@@ -56,6 +60,28 @@ TEST_F(GearOfferRowTest, DefinesAndUsesTheGearOnlyWhenAsked) {
     EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->currentText(), Text("Cut & dried"));
     EXPECT_FALSE(Button()->isVisible());
     EXPECT_FALSE(desk_.Label("LabelTakenWith").isEmpty());
+}
+
+// As of a picture that was dropped on the list: what was done to it stays.
+TEST_F(GearOfferRowTest, DefinesTheGearThatAPhotoHasAndTheTableNot) {
+    desk_.ClickLine(2);
+    desk_.Slider("SliderAOVinput")->setValue(150);
+    desk_.Record(3).GearName = Text("lost");
+    desk_.Record(3).OfsetX = 7.0F;
+    desk_.state.settings.OfferGear = false;  // tells of what photos tell
+    desk_.ClickLine(0);
+    EXPECT_FALSE(Button()->isVisible());
+    desk_.ClickLine(2);
+    EXPECT_EQ(Button()->text(), Text("Define this gear..."));
+    ImageRecord wanted = desk_.Record(3);
+    desk_.Click("CmdOfferedGear");
+    EXPECT_EQ(known_.GearName, Text("lost"));
+    EXPECT_EQ(known_.OfsetX, 7.0F);
+    EXPECT_EQ(known_.hAOV, 150.0F);
+    wanted.GearName = Text("Cut & dried");  // the editor's last word
+    EXPECT_EQ(desk_.Record(3), wanted);
+    EXPECT_EQ(desk_.Find<QComboBox>("GearCombo")->currentText(), wanted.GearName);
+    EXPECT_FALSE(Button()->isVisible());
 }
 
 TEST_F(GearOfferRowTest, IsSilentAboutOtherPhotosAndWhenSwitchedOff) {

@@ -90,16 +90,34 @@ class GearEditor : public ::testing::Test {
 // What is only offered is the user's to confirm.
 TEST_F(GearEditor, BeginsWithTheCameraAndLensThatAreKnown) {
     Open();
-    form_->Preselect({QStringLiteral("Olympus"), QStringLiteral("E-3"), {}, {}});
+    form_->Propose(GearNamed({QStringLiteral("Olympus"), QStringLiteral("E-3"), {}, {}}));
     EXPECT_EQ(Get<QComboBox>("CameraCombo")->currentText(), u"E-3");
     EXPECT_EQ(Get<QComboBox>("LensBrandCombo")->currentIndex(), -1);
     EXPECT_FALSE(Get<QPushButton>("CmdAdd")->isEnabled());
-    form_->Preselect({QStringLiteral("Olympus"), QStringLiteral("E-3"), QStringLiteral("Olympus"),
-                      QStringLiteral("Zuiko ED 8mm f/3.5")});
+    const GearNames zuiko{QStringLiteral("Olympus"), QStringLiteral("E-3"),
+                          QStringLiteral("Olympus"), QStringLiteral("Zuiko ED 8mm f/3.5")};
+    form_->Propose(GearNamed(zuiko));
     EXPECT_EQ(Labels(), "131 \u00b0|76 %|0 \u2030 hor.|0 \u2030 vert.");
     EXPECT_TRUE(Gear().GearName.isEmpty());
     Click("CmdAdd");
     EXPECT_EQ(Gear().GearName, u"Olympus E-3 + Olympus Zuiko ED 8mm f/3.5");
+}
+
+// A gear that a photo remembers: its own numbers, but not what a slider made of the catalogue's.
+TEST_F(GearEditor, BeginsWithTheNumbersThatAreKnown) {
+    PutLoadedGear();
+    GearRecord known = Gear();
+    known.hAOV = 131.0F;
+    Gear() = GearRecord();
+    Open();
+    form_->Propose(known);
+    EXPECT_EQ(Labels(), "131 \u00b0|450 %|-4 \u2030 hor.|0 \u2030 vert.");
+    EXPECT_EQ(Get<QLabel>("LabelAdjusted")->text(), u"Ratio and offsets are set by hand.");
+    Click("CmdAdd");
+    EXPECT_EQ(Gear().GearName, u"mine");
+    EXPECT_EQ(Gear().GearRatio, 450.0F);
+    EXPECT_NEAR(Gear().hAOV, 130.9048F, 1e-4F);
+    EXPECT_NEAR(Gear().vAOV, 95.8779F, 1e-4F);
 }
 
 TEST_F(GearEditor, HasEveryControl) {

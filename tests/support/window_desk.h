@@ -54,12 +54,17 @@ class FakeDialogs : public Dialogs {
         opened.append(QStringLiteral("FormAddImages"));
         return onAdd && onAdd();
     }
-    void ManageGears(QWidget* /*parent*/) override {
+    std::vector<GearChange> ManageGears(QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormGearList"));
+        return onManage ? onManage() : std::vector<GearChange>();
     }
-    bool DefineGear(const GearNames& names, QWidget* /*parent*/) override {
+    bool GiveNewNumbers(const QString& gear, int photos) override {
+        opened.append(QStringLiteral("%1: %2").arg(gear).arg(photos));
+        return givesNewNumbers;
+    }
+    bool DefineGear(const GearRecord& known, QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormGearEdit"));
-        return onDefine && onDefine(names);
+        return onDefine && onDefine(known);
     }
     void ChangeDefaults(QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormSetup"));
@@ -96,7 +101,9 @@ class FakeDialogs : public Dialogs {
     SaveFirst saveFirst = SaveFirst::Cancel;
     QString project;  // the path that is chosen
     std::function<bool()> onAdd;
-    std::function<bool(const GearNames&)> onDefine;
+    std::function<std::vector<GearChange>()> onManage;
+    bool givesNewNumbers = true;
+    std::function<bool(const GearRecord&)> onDefine;
     std::function<void()> onDefaults;
     std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
     ImageRecord morphed;

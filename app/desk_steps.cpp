@@ -118,7 +118,7 @@ void Desk::ShowRestored(const Restored& restored, const ImageRecord& shown) {
         ShowNewList(0);
     } else if (current < 0) {
         ShowNewList(restored.changed.empty() ? std::clamp(before, 0, count - 1)
-                                           : restored.changed.front());
+                                             : restored.changed.front());
     } else if (!(*Current() == shown)) {
         ShowInControls(*Current());
         Preview();

@@ -15,14 +15,6 @@ namespace varnel {
 
 namespace {
 
-// Whether columns so far apart fall on halves, thirds, fifths ... again and again, as those of the
-// row 3/5 up a whole radius do. Many blends are then whole levels but for the last bit, which takes
-// double precision.
-bool OnFractions(double step) {
-    constexpr double all = 720720.0;  // what 1 to 16 divide
-    return std::fabs(step * all - std::nearbyint(step * all)) < 1e-3;
-}
-
 class VarnelEngine : public RowDrawing {
   public:
     VarnelEngine(const RenderSurface& surface, const VarnelMap& map)
@@ -66,9 +58,8 @@ class VarnelEngine : public RowDrawing {
         span.radius = static_cast<double>(map_.Rows().radius);
         span.plain = map_.Plain(r);
         span.row = row;
-        span.reading = surface_.Nearest()                      ? RowReading::Nearest
-                       : OnFractions(span.chord / span.radius) ? RowReading::Pixels
-                                                               : RowReading::Vectors;
+        span.reading =
+            surface_.Nearest() ? RowReading::Nearest : ReadingFor(span.chord / span.radius);
         for (const int sign : {1, -1}) {
             const std::int32_t centre = map_.Rows().centreX;
             const Clip clip = Clip::Of(centre, sign, map_.Rows().lastColumn + 1, target_.width);

@@ -7,17 +7,23 @@
 #include <cmath>
 #include <numbers>
 
-#include "remap/render_run.h"
-#include "remap/rounding.h"
-#include "remap/sampling.h"
+#include "remap/engine/batches.h"
+#include "remap/engine/node_lines.h"
+#include "remap/engine/span_kernels.h"
 
 namespace varnel {
 
 namespace {
 
-// The middle of count rows or columns: between two of them when the count is even.
-double Middle(int count) {
-    return (count - 1) / 2.0;
+// One row of the source to the same row of the result.
+void DrawRow(const SourceView& source, std::uint8_t* target, std::int32_t row, double factor) {
+    if (factor == 1.0) {
+        std::copy_n(source.bits + row * source.pitch, 3 * static_cast<std::size_t>(source.width),
+                    target);
+        return;
+    }
+    const RowReading reading = ReadingFor(factor);
+    SampleStretchSpan({source, MiddleOf(source.width), factor, row, reading}, {target, 3});
 }
 
 }  // namespace
@@ -28,27 +34,27 @@ double StretchCurve::FactorAt(double height) const {
 }
 
 double HeightOfRow(int y, int rows) {
-    return rows < 2 ? 0.0 : (y - Middle(rows)) / Middle(rows);
+    return rows < 2 ? 0.0 : (y - MiddleOf(rows)) / MiddleOf(rows);
 }
 
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
                    RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
-    const PixelSize size = run.Size();
-    const double centre = Middle(size.width);
-    // Rounded, because a hair below a whole column the right neighbour of the blend would be one
-    // too far.
-    const auto columnOf = [&](std::int32_t x, double factor) {
-        return Round8(centre + (x - centre) * factor);
-    };
-    run.Begin(static_cast<float>(size.height));
-    for (std::int32_t y = 0; y < size.height; ++y) {
-        run.Advance(static_cast<float>(y));
-        const double factor = curve.FactorAt(HeightOfRow(y, size.height));
-        for (std::int32_t x = 0; x < size.width; ++x) {
-            run.Write(x, y, SampleLinearX(run.Source(), columnOf(x, factor), y));
+    RenderRun run(kind, progress, desk, Canvas::Anything);
+    const int rows = run.Size().height;
+    const SourceView source = SourceView::Of(run.Source());
+    const TargetView target = TargetView::Of(run.Result());
+    const auto draw = [&](int from, int to) {
+        for (int y = from; y <= to; ++y) {
+            DrawRow(source, target.At(0, y), y, curve.FactorAt(HeightOfRow(y, rows)));
         }
-    }
+    };
+    run.Begin(static_cast<float>(rows));
+    DrawLines(
+        run, {0, rows - 1},
+        [&](int y, int count) {
+            DrawBlocks(run, {y, y + count - 1}, blockRows, draw);
+        },
+        [&](int y) { run.Advance(static_cast<float>(y)); });
 }
 
 }  // namespace varnel

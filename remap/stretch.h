@@ -20,6 +20,11 @@ struct StretchCurve {
     double FactorAt(double height) const;
 };
 
+// The middle of count rows or columns: between two of them when the count is even.
+inline double MiddleOf(int count) {
+    return (count - 1) / 2.0;
+}
+
 // The height of row y of a picture with that many rows.
 double HeightOfRow(int y, int rows);
 

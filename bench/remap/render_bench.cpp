@@ -12,6 +12,7 @@
 #include "remap/engine/thread_runner.h"
 #include "remap/record_maps.h"
 #include "remap/reference/render.h"
+#include "remap/reference/render_stretch.h"
 
 namespace varnel {
 namespace {
@@ -83,6 +84,27 @@ void Register(const std::string& name, Renderer renderer, Projection projection,
         ->UseRealTime();
 }
 
+using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderDesk&);
+
+void Stretch(benchmark::State& state, Stretcher stretcher, PixelSize size, int workers) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = Texture(size);
+    ThreadRunner runner(workers);
+    RenderDesk desk{.bitmaps = bitmaps, .runner = &runner};
+    SilentProgress silent;
+    StretchCurve curve{0.4, 0.1};
+    for (auto _ : state) {
+        curve.strength = -curve.strength;  // new settings each time, widened and narrowed
+        stretcher(curve, SizeKind::Large, silent, desk);
+    }
+}
+
+void RegisterStretch(const std::string& name, Stretcher stretcher, PixelSize size, int workers) {
+    benchmark::RegisterBenchmark(name.c_str(), &Stretch, stretcher, size, workers)
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
+}
+
 #ifdef VARNEL_PEER
 void DrawWithPeer(benchmark::State& state, PixelSize size, int threads) {
     const std::size_t bytes =
@@ -124,6 +146,9 @@ void RegisterAll() {
              SizeKind::Large, 1);
     Register("engine/24MP/2 cores/Rectilinear turned", &Render, Projection::Rectilinear, true, full,
              SizeKind::Large, 2);
+    RegisterStretch("reference/24MP/Stretch", &reference::RenderStretch, full, 1);
+    RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);
+    RegisterStretch("engine/24MP/2 cores/Stretch", &RenderStretch, full, 2);
     for (const PixelSize box : {PixelSize{400, 300}, PixelSize{1000, 750}}) {
         const std::string size = std::to_string(box.width) + "x" + std::to_string(box.height);
         for (const bool moved : {false, true}) {

@@ -12,6 +12,9 @@
 
 namespace varnel {
 
+// Rows that one block of a batch has, and where they are mirrored as many more.
+inline constexpr int blockRows = 16;
+
 // Calls draw(first, count) for columns or rows, until all of the range are done, and progress(n)
 // for each of them. At full size a batch is drawn before its progress is told. A
 // preview is told of each line before it is drawn and may be read another way from then on: it is

@@ -13,9 +13,6 @@
 
 namespace varnel {
 
-// Rows that one block of a batch has, and mirrored as many more.
-inline constexpr int blockRows = 16;
-
 template <PixelMap Map, class Nodes>
 class QuarterEngine : public RowDrawing {
   public:

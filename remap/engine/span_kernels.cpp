@@ -264,9 +264,14 @@ inline bool Plain(VecI column, VecI row, VecF part, const SourceView source) {
 HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at, bool nearest,
                                 std::size_t first, std::size_t end, std::uint8_t* out,
                                 std::ptrdiff_t stride) {
+    const bool outside = AllOutside(hn::Load(Ints(), at.column.data() + first),
+                                    hn::Load(Ints(), at.row.data() + first), source);
     for (std::size_t n = first; n < end; ++n) {
-        const RGBQUAD colour =
-            nearest ? source(at.x[n], at.row[n]) : BlendLinearX(source, at.x[n], at.row[n]);
+        RGBQUAD colour = black;
+        if (!outside) {
+            colour =
+                nearest ? source(at.x[n], at.row[n]) : BlendLinearX(source, at.x[n], at.row[n]);
+        }
         Put(out + static_cast<std::ptrdiff_t>(n) * stride, colour);
     }
 }
@@ -337,6 +342,25 @@ void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
     }
 }
 
+void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
+    const Doubles d;
+    const VecD centre = hn::Set(d, span.centre);
+    const VecD decimals = hn::Set(d, 1e8);
+    RowPositions at;
+    at.row.fill(span.row);
+    for (int done = 0; done < span.source.width; done += lanesAtMost) {
+        for (std::size_t n = 0; n < lanesAtMost; n += hn::Lanes(d)) {
+            const VecD x = hn::Iota(d, static_cast<double>(done) + static_cast<double>(n));
+            const VecD away = hn::Mul(hn::Sub(x, centre), hn::Set(d, span.factor));
+            const VecD whole = hn::Round(hn::Mul(hn::Add(centre, away), decimals));
+            TakeColumns(hn::Div(whole, decimals), n, at);
+        }
+        StoreRowPixels(span.source, at, span.reading,
+                       std::min(lanesAtMost, span.source.width - done),
+                       target.first + done * target.stride, target.stride);
+    }
+}
+
 }  // namespace HWY_NAMESPACE
 }  // namespace varnel
 HWY_AFTER_NAMESPACE();
@@ -347,6 +371,7 @@ namespace varnel {
 HWY_EXPORT(NodeSpanImpl);
 HWY_EXPORT(ChordSpanImpl);
 HWY_EXPORT(CircleSpanImpl);
+HWY_EXPORT(StretchSpanImpl);
 
 void SampleNodeSpan(const NodeSpan& span) {
     HWY_DYNAMIC_DISPATCH(NodeSpanImpl)(span);
@@ -358,6 +383,10 @@ void SampleChordSpan(const ChordSpan& span, SpanTarget target) {
 
 void SampleCircleSpan(const CircleSpan& span, SpanTarget target) {
     HWY_DYNAMIC_DISPATCH(CircleSpanImpl)(span, target);
+}
+
+void SampleStretchSpan(const StretchSpan& span, SpanTarget target) {
+    HWY_DYNAMIC_DISPATCH(StretchSpanImpl)(span, target);
 }
 
 }  // namespace varnel

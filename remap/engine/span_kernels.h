@@ -5,6 +5,7 @@
 // code is in span_kernels.cpp alone and chooses the instruction set when it runs.
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -59,6 +60,15 @@ void SampleNodeSpan(const NodeSpan& span);
 // every pixel by itself in double precision, or without interpolation.
 enum class RowReading { Vectors, Pixels, Nearest };
 
+// For columns a step apart on the source. Where they fall on halves, thirds, fifths ... again and
+// again, as those of the Varnel row 3/5 up a whole radius do, many blends are whole levels but for
+// the last bit, which takes double precision.
+inline RowReading ReadingFor(double step) {
+    constexpr double all = 3603600.0;  // what 1 to 16, 25, 50 and 100 divide
+    const bool onFractions = std::fabs(step * all - std::nearbyint(step * all)) < 1e-3;
+    return onFractions ? RowReading::Pixels : RowReading::Vectors;
+}
+
 // A run of columns of the Varnel projection: column j reads centreX + sign * (j * chord / radius)
 // of one row; with plain set, centreX + sign * j.
 struct ChordSpan {
@@ -91,5 +101,17 @@ struct CircleSpan {
 };
 
 void SampleCircleSpan(const CircleSpan& span, SpanTarget target);
+
+// A whole row of the stretch: column x reads centre + (x - centre) * factor of the same row, to
+// eight decimals.
+struct StretchSpan {
+    SourceView source;
+    double centre = 0.0;
+    double factor = 1.0;
+    std::int32_t row = 0;
+    RowReading reading = RowReading::Vectors;
+};
+
+void SampleStretchSpan(const StretchSpan& span, SpanTarget target);
 
 }  // namespace varnel

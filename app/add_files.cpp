@@ -95,11 +95,15 @@ void Desk::AddFiles(const QStringList& paths) {
         return;
     }
     NoteBad(added.bad);
-    const int line = added.like > 0 ? state_.Images.UpperBound() + added.like - 1 : 0;
+    const int before = state_.Images.UpperBound();
+    const int line = added.like.isEmpty() ? 0 : before + added.like.firstKey() - 1;
     for (ImageRecord& image : images) {
         state_.Images.Append(std::move(image));
     }
-    NoteStep(added.like > 0 ? StepKind::DroppedSettings : StepKind::Add);
+    NoteStep(added.like.isEmpty() ? StepKind::Add : StepKind::DroppedSettings);
+    for (auto made = added.like.cbegin(); made != added.like.cend(); ++made) {
+        MarkWritten(state_.Images(before + made.key()), made.value());
+    }
     view_.ShowList(state_.Images, line);
     TellLines(notices_, Texts::tr("Could not find the photo that a picture was made of"),
               added.missing);

@@ -110,7 +110,8 @@ class Desk {
     int AddToBatchQueue();
     // The selected lines together before the target's line; the count puts them last.
     void MoveSelected(int target);
-    // The list of a project file instead of the present one; the line becomes current.
+    // The list of a project file instead of the present one; the line becomes current. Without a
+    // file it is a list that was kept against a crash.
     void TakeProject(const RecordArray<ImageRecord>& images, int line, const QString& project);
 
     void Undo();
@@ -125,6 +126,8 @@ class Desk {
     void SealStep() { history_.Seal(); }  // what follows is another step
     // The list as it is stands in the project file.
     void MarkSaved(const QString& project);
+    // A picture of a photo with these settings is in the file.
+    void MarkWritten(const ImageRecord& image, const QString& file);
     const History& Steps() const { return history_; }
     void WhenStepsChanged(std::function<void()> then) {
         whenStepsChanged_.push_back(std::move(then));

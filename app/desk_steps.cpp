@@ -58,6 +58,11 @@ void Desk::MarkSaved(const QString& project) {
     TellSteps();
 }
 
+void Desk::MarkWritten(const ImageRecord& image, const QString& file) {
+    history_.MarkWritten(image, file);
+    TellSteps();
+}
+
 // What only rounds the numbers to what the controls show is no step.
 void Desk::NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before) {
     for (std::size_t n = 0; n < lines.size(); ++n) {
@@ -158,7 +163,8 @@ void Desk::MoveSelected(int target) {
 void Desk::TakeProject(const RecordArray<ImageRecord>& images, int line, const QString& project) {
     NoteStep(StepKind::Other);
     state_.Images = images;
-    history_.NoteProject(StepName(StepKind::OpenProject), state_.Images, project);
+    const StepKind kind = project.isEmpty() ? StepKind::RestoreList : StepKind::OpenProject;
+    history_.NoteProject(StepName(kind), state_.Images, project);
     TellSteps();
     ShowNewList(line);
 }

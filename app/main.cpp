@@ -53,9 +53,14 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     ReadingBox wait;
     PhotoLoader photos(*reader, &wait, &state.settings);
     RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
-    MDIForm1 window(state, store, {photos, notices, gearPrompt, fileChooser, dialogs, [] {
-                                       return NewPictureReader({.secondsPerPhoto = 10});
-                                   }});
+    MDIForm1 window(state, store,
+                    {photos,
+                     notices,
+                     gearPrompt,
+                     fileChooser,
+                     dialogs,
+                     [] { return NewPictureReader({.secondsPerPhoto = 10}); },
+                     {UserSessionFolder()}});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     window.OpenAtStart(Absolute(files));

@@ -57,6 +57,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     AddRemoveEntry();
     list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
+    sessions_ = new SessionTools(*projects_, *desk_, state_, ports_, this);
     new ZoomTools(this, parts_, *view_, *desk_, state_);
     parts_.viewMenu->addSeparator();
     new SheetTools(parts_, *view_, *desk_, state_, this);
@@ -186,6 +187,9 @@ void MDIForm1::Activate() {
         return;
     }
     parts_.equipment->Fill(state_.Gear);
+    if (filesAtStart_.isEmpty()) {  // other work comes first
+        sessions_->OfferLost();
+    }
     AddFiles(filesAtStart_);
     Q_EMIT Started();
 }
@@ -220,6 +224,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
+    sessions_->End();
     SaveLayout();
     QMainWindow::closeEvent(event);
 }

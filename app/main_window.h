@@ -14,6 +14,7 @@
 #include "app/dialogs.h"
 #include "app/list_tools.h"
 #include "app/project_tools.h"
+#include "app/session_tools.h"
 #include "app/window_view.h"
 #include "state/settings_store.h"
 
@@ -93,6 +94,7 @@ class MDIForm1 : public QMainWindow {
     std::unique_ptr<WindowView> view_;
     std::unique_ptr<Desk> desk_;
     ProjectTools* projects_ = nullptr;
+    SessionTools* sessions_ = nullptr;
     ListTools* list_ = nullptr;
     QTimer livePreview_{this};  // fires when the input at hand is handled: many moves, one preview
     QTimer roomSettled_{this};

@@ -242,7 +242,10 @@ QueueChanged MDIForm1::ShowsQueue() {
 }
 
 void MDIForm1::ProcessBatch() {
-    ports_.dialogs.ProcessBatch(ShowsQueue(), this);
+    ports_.dialogs.ProcessBatch(
+        ShowsQueue(),
+        [this](const ImageRecord& entry, const QString& file) { desk_->MarkWritten(entry, file); },
+        this);
 }
 
 void MDIForm1::Morph() {

@@ -8,7 +8,6 @@
 #include <QMenuBar>
 
 #include "app/menu_entry.h"
-#include "pipeline/project_file.h"
 #include "state/told_reason.h"
 
 namespace varnel {
@@ -63,7 +62,8 @@ void ProjectTools::FillRecent() {
 
 void ProjectTools::ShowState() {
     const QString project = desk_.Steps().Project();
-    view_.ShowProject(QFileInfo(project).completeBaseName());
+    view_.ShowProject(QFileInfo(project).completeBaseName(),
+                      !ChangedProject().isEmpty() || desk_.Steps().UnsavedPhotos() > 0);
     save_->setEnabled(!state_.Images.Empty() || !project.isEmpty());
     saveAs_->setEnabled(save_->isEnabled());
 }
@@ -105,8 +105,9 @@ void ProjectTools::Open(const QString& path) {
         return;
     }
     ReadProject project = OpenProject(path);
-    const bool asks = project.trouble.isEmpty() && desk_.Steps().ChangedSinceSaved();
-    if (asks && !MayLeaveList()) {
+    const bool asks = project.trouble.isEmpty() && desk_.Steps().ChangedSinceSaved() &&
+                      (!state_.Images.Empty() || !desk_.Steps().Project().isEmpty());
+    if (asks && !SavedOrDiscarded({ChangedProject(), desk_.Steps().UnsavedPhotos()})) {
         return;
     }
     if (asks) {
@@ -116,25 +117,37 @@ void ProjectTools::Open(const QString& path) {
         Tell(tr("Could not open %1").arg(path), {project.trouble});
         return;
     }
+    Show(project, QFileInfo(path).absoluteFilePath());
+    NoteRecentProject(QFileInfo(path).absoluteFilePath(), store_);
+}
+
+void ProjectTools::Show(const ReadProject& project, const QString& path) {
     int line = 0;  // a photo that is there is shown first
     while (line < project.images.UpperBound() - 1 &&
            project.missing.contains(SourcePath(project.images(line + 1)))) {
         ++line;
     }
     const bool none = project.missing.size() == project.images.UpperBound();
-    desk_.TakeProject(project.images, none ? 0 : line, QFileInfo(path).absoluteFilePath());
-    NoteRecentProject(QFileInfo(path).absoluteFilePath(), store_);
+    desk_.TakeProject(project.images, none ? 0 : line, path);
     Tell(tr("Some photos of the project are not where they were"), project.missing);
     Tell(tr("Some settings of the project could not be used"), project.notes);
 }
 
-// Nothing is lost that nobody was asked about.
-bool ProjectTools::MayLeaveList() {
+QString ProjectTools::ChangedProject() const {
     const History& steps = desk_.Steps();
-    if (state_.Images.Empty() && steps.Project().isEmpty()) {
-        return true;
-    }
-    switch (ports_.dialogs.AskToSave(QFileInfo(steps.Project()).fileName())) {
+    return steps.ChangedSinceSaved() ? QFileInfo(steps.Project()).fileName() : QString();
+}
+
+bool ProjectTools::MayClose() {
+    const UnsavedWork work{ChangedProject(), desk_.Steps().UnsavedPhotos(),
+                           state_.BatchQueue.UpperBound()};
+    return (work.project.isEmpty() && work.photos == 0 && work.queued == 0) ||
+           SavedOrDiscarded(work);
+}
+
+// Nothing is lost that nobody was asked about.
+bool ProjectTools::SavedOrDiscarded(const UnsavedWork& work) {
+    switch (ports_.dialogs.AskToSave(work)) {
         case SaveFirst::Save:
             return Save();
         case SaveFirst::DoNotSave:

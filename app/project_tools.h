@@ -8,6 +8,7 @@
 
 #include "app/dialogs.h"
 #include "app/window_view.h"
+#include "pipeline/project_file.h"
 #include "state/settings_store.h"
 
 namespace varnel {
@@ -21,11 +22,11 @@ class ProjectTools : public QObject {
     // Opens the first project file among them; returns the other files that are none.
     QStringList OpenFrom(const QStringList& files);
     void Open(const QString& path);
-    // Asks whether an opened project that was changed is to be saved; false to stay.
-    bool MayClose() {
-        const History& steps = desk_.Steps();
-        return steps.Project().isEmpty() || !steps.ChangedSinceSaved() || MayLeaveList();
-    }
+    // Puts the list of a project in the place of the present one. The path is the project file's;
+    // empty where it is none of the user's.
+    void Show(const ReadProject& project, const QString& path);
+    // Asks once whether work that closing would lose is to be saved; false to stay.
+    bool MayClose();
 
   private:
     void AddEntries(QMenu* menu, QAction* before);
@@ -34,7 +35,8 @@ class ProjectTools : public QObject {
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& path);
-    bool MayLeaveList();
+    QString ChangedProject() const;
+    bool SavedOrDiscarded(const UnsavedWork& work);
     void ShowState();
     void Tell(const QString& text, const QStringList& lines);
     QString StartFolder() const;

@@ -89,9 +89,11 @@ void RealDialogs::ChangeDefaults(QWidget* parent) {
     form.exec();
 }
 
-void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) {
+void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                               QWidget* parent) {
     FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, reader_, notices_,
                    queueChanged, parent);
+    QObject::connect(&form, &FormBatch::Written, parent, written);
     form.exec();
 }
 
@@ -121,19 +123,48 @@ void RealDialogs::ShowAbout(QWidget* parent) {
     form.exec();
 }
 
-SaveFirst RealDialogs::AskToSave(const QString& project) {
-    const QString text =
-        project.isEmpty() ? QObject::tr("Save the present image list as a project first?")
-                          : QObject::tr("The project %1 was changed. Save it first?").arg(project);
-    switch (QMessageBox::question(QApplication::activeWindow(), QStringLiteral("Varnel"), text,
-                                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                                  QMessageBox::Save)) {
+SaveFirst RealDialogs::AskToSave(const UnsavedWork& work) {
+    QStringList lines;
+    if (work.photos > 0) {
+        lines.append(QObject::tr("Photos with unsaved adjustments: %1").arg(work.photos));
+    }
+    if (work.queued > 0) {
+        lines.append(QObject::tr("Images waiting in the batch queue, which no project holds: %1")
+                         .arg(work.queued));
+    }
+    lines.append(work.project.isEmpty()
+                     ? QObject::tr("Save the present image list as a project first?")
+                     : QObject::tr("The project %1 was changed. Save it first?").arg(work.project));
+    switch (QMessageBox::question(
+        QApplication::activeWindow(), QStringLiteral("Varnel"), lines.join(QStringLiteral("\n\n")),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
         case QMessageBox::Save:
             return SaveFirst::Save;
         case QMessageBox::Discard:
             return SaveFirst::DoNotSave;
         default:
             return SaveFirst::Cancel;
+    }
+}
+
+Restore RealDialogs::AskToRestore(const LostList& list) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(QStringLiteral("Varnel"));
+    box.setIcon(QMessageBox::Question);
+    box.setText(QObject::tr("Varnel was not closed properly. Its image list of %1 is still there. "
+                            "Open it again?")
+                    .arg(QLocale().toString(list.written, QLocale::ShortFormat)));
+    box.setInformativeText(
+        QObject::tr("Photos in the list: %1. \"No\" removes it for good.").arg(list.photos));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Yes);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Restore::Yes;
+        case QMessageBox::No:
+            return Restore::No;
+        default:
+            return Restore::Later;
     }
 }
 

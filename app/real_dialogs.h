@@ -25,12 +25,14 @@ class RealDialogs : public Dialogs {
     bool GiveNewNumbers(const QString& gear, int photos) override;
     bool DefineGear(const GearRecord& known, QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
-    void ProcessBatch(const QueueChanged& queueChanged, QWidget* parent) override;
+    void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                      QWidget* parent) override;
     void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
                QWidget* parent) override;
     void Stretch(const QString& photo, QWidget* parent) override;
     void ShowAbout(QWidget* parent) override;
-    SaveFirst AskToSave(const QString& project) override;
+    SaveFirst AskToSave(const UnsavedWork& work) override;
+    Restore AskToRestore(const LostList& list) override;
     QString ChooseProject(const QString& folder) override;
     QString ChooseProjectName(const QString& proposal) override;
 

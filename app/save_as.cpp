@@ -91,6 +91,9 @@ void Desk::SaveAs(FileChooser& chooser) {
     } else {
         TellSaved(saved, choice->name);
     }
+    if (saved) {
+        MarkWritten(image, choice->name);
+    }
     view_.Idle();
 }
 

@@ -72,8 +72,9 @@ void WindowView::ShowLines(const RecordArray<ImageRecord>& images, int current,
     }
 }
 
-void WindowView::ShowProject(const QString& name) {
+void WindowView::ShowProject(const QString& name, bool unsaved) {
     project_ = name;
+    unsaved_ = unsaved;
     ShowTitle(photo_);
 }
 
@@ -81,7 +82,14 @@ void WindowView::ShowTitle(const QString& photo) {
     photo_ = photo;
     QStringList parts{photo, project_, QStringLiteral("Varnel")};
     parts.removeAll(QString());
+    const QString place = QStringLiteral("[*]");  // of the mark; written twice it is itself
+    for (QString& part : parts) {
+        part.replace(place, place + place);
+    }
+    parts.first() += unsaved_ ? place : QString();
+    window_->setWindowModified(false);  // before its place may go
     window_->setWindowTitle(parts.join(QStringLiteral(" - ")));
+    window_->setWindowModified(unsaved_);
 }
 
 void WindowView::ShowResult(FIBITMAP* bitmap) {

@@ -80,8 +80,8 @@ class WindowView : public DeskView {
     void ShowOffer();
 
     const QString& Trouble() const { return trouble_; }
-    // In the window's title, behind the photo's name.
-    void ShowProject(const QString& name);
+    // In the window's title, behind the photo's name; marked when there is unsaved work.
+    void ShowProject(const QString& name, bool unsaved);
     void ShowTitle(const QString& photo);
 
     // The settings of the result that is shown; the projection is the chosen one.
@@ -106,6 +106,7 @@ class WindowView : public DeskView {
     ImageRecord drawn_;
     bool locked_ = false;
     QString photo_, project_;  // of the title
+    bool unsaved_ = false;
     QString trouble_;
     std::vector<std::function<void()>> whenResultShown_;
     std::vector<std::function<void()>> whenIdle_;

@@ -248,6 +248,7 @@ class Run : private RenderProgress {
             summary_.replaced.append(turn.path);
         }
         summary_.written.append(turn.path);
+        summary_.entries.append(turn.entry);
         if (!turn.damage.isEmpty()) {
             summary_.damaged.push_back({SourcePath(queue_(turn.entry)), turn.damage});
         }

@@ -22,6 +22,7 @@ struct BatchSummary {
     int queued = 0;
     int done = 0;         // written or failed
     QStringList written;  // one path for each photo written, in order
+    QList<int> entries;   // the number in the queue of each of these
     std::vector<BatchTrouble> failures;
     std::vector<BatchTrouble> damaged;  // written as far as they could be read
     std::vector<BatchTrouble> notes;    // written files and what they are without

@@ -230,6 +230,9 @@ void FormBatch::Process() {
         notices_.Tell(shortage, QString());
         return;
     }
+    for (qsizetype n = 0; n < summary.written.size(); ++n) {
+        Q_EMIT Written(queue_(summary.entries[n]), summary.written[n]);
+    }
     ClearQueue();
     ShowSummary(summary);
 }

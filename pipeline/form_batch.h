@@ -39,6 +39,10 @@ class FormBatch : public QDialog {
     void reject() override;
     void done(int result) override;
 
+  Q_SIGNALS:
+    // After a run, for each entry of the queue that was written, with its file.
+    void Written(const ImageRecord& entry, const QString& path);
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -70,7 +70,7 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, P
     if (likeness && likeness->sourceFound) {
         TurnAsShown(likeness->record, photos);
         images.Append(likeness->record);
-        added.like = added.like == 0 ? images.UpperBound() : added.like;
+        added.like.insert(images.UpperBound(), path);
         for (const QString& note : likeness->notes) {
             added.notes.append(QStringLiteral("%1: %2").arg(path, note));
         }

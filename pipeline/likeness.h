@@ -4,6 +4,7 @@
 // Pictures that Varnel wrote, taken for the photo and the settings that made them.
 #pragma once
 
+#include <QMap>
 #include <optional>
 #include <vector>
 
@@ -36,7 +37,8 @@ struct BadFile {
 };
 
 struct AddedFiles {
-    int like = 0;         // number of the first record that came from a picture's settings; 0: none
+    // Numbers of the records that came from a picture's settings, with that picture.
+    QMap<int, QString> like;
     QStringList missing;  // pictures whose source photo is gone, each with its name
     QStringList notes;    // refused settings, each with its picture
     std::vector<BadFile> bad;

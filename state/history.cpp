@@ -141,6 +141,9 @@ void History::NoteProject(const QString& name, const Images& images, const QStri
     undone_.clear();
     Push(std::move(step));
     MarkSaved(project);
+    if (project.isEmpty()) {
+        saved_.clear();
+    }
 }
 
 void History::Push(Step step) {
@@ -169,13 +172,16 @@ void History::Replace(const Run& older, const Run& newer) {
     for (std::size_t n = 0; n < older.size(); ++n) {
         if (older[n] != newer[n]) {
             instead.emplace(older[n].get(), newer[n]);
+            if (!older[n]->SettingsApplied && newer[n]->SettingsApplied) {
+                stored_.push_back(newer[n]);
+            }
         }
     }
     if (instead.empty()) {
         return;
     }
-    const auto replaceIn = [&instead](Run& run) {
-        for (Shared& record : run) {
+    const auto replaceIn = [&instead](auto& records) {
+        for (Shared& record : records) {
             if (const auto found = instead.find(record.get()); found != instead.end()) {
                 record = found->second;
             }
@@ -183,6 +189,8 @@ void History::Replace(const Run& older, const Run& newer) {
     };
     replaceIn(known_);
     replaceIn(saved_);
+    replaceIn(stored_);
+    replaceIn(written_);
     const auto replaceInSteps = [&](auto& steps) {
         for (Step& step : steps) {
             replaceIn(step.before);
@@ -265,6 +273,34 @@ void History::Take(const Restored& restored, Images& images) {
 bool History::ChangedSinceSaved() const {
     return !std::ranges::equal(known_, saved_,
                                [](const Shared& a, const Shared& b) { return a == b || *a == *b; });
+}
+
+void History::MarkWritten(const ImageRecord& image, const QString& file) {
+    const auto same = std::ranges::find_if(known_, [&image](const Shared& record) {
+        return record->FileName == image.FileName && *record == image;
+    });
+    written_.insert(file,
+                    same != known_.end() ? *same : std::make_shared<const ImageRecord>(image));
+}
+
+int History::UnsavedPhotos() const {
+    QMultiHash<QString, const ImageRecord*> safe;  // of each file name
+    const auto insert = [&safe](const auto& records) {
+        for (const Shared& record : records) {
+            safe.insert(record->FileName, record.get());
+        }
+    };
+    insert(saved_);
+    insert(stored_);
+    insert(written_);
+    const auto unsaved = [&safe](const Shared& record) {
+        const auto [first, last] = std::as_const(safe).equal_range(record->FileName);
+        return record->SettingsApplied &&
+               std::none_of(first, last, [&record](const ImageRecord* other) {
+                   return other == record.get() || *other == *record;
+               });
+    };
+    return static_cast<int>(std::ranges::count_if(known_, unsaved));
 }
 
 void History::MarkSaved(const QString& project) {

@@ -7,6 +7,7 @@
 // 0.
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <deque>
 #include <memory>
@@ -46,7 +47,8 @@ class History {
     // step until the last is sealed. A gear's change is a step by itself.
     void Note(const QString& name, const Images& images, const StepKey& key = {},
               const StepBesides& besides = {});
-    // The same for a list that came from another project file.
+    // The same for a list that came from another project file. It is saved there; a list without
+    // a project is saved nowhere.
     void NoteProject(const QString& name, const Images& images, const QString& project);
     // Takes what changed since the last call for nobody's deed: a photo's size, the gear that a
     // photo gets when it is first looked at. Steps that hold such a record hold the new one then.
@@ -65,6 +67,11 @@ class History {
     // The list as it is stands in the project file.
     void MarkSaved(const QString& project);
     bool ChangedSinceSaved() const;
+    // A picture of a photo with these settings is in the file; what was there before is not.
+    void MarkWritten(const ImageRecord& image, const QString& file);
+    // The photos adjusted by hand whose adjustments are neither in the project file nor in a
+    // picture.
+    int UnsavedPhotos() const;
 
   private:
     using Shared = std::shared_ptr<const ImageRecord>;
@@ -89,6 +96,8 @@ class History {
 
     Run known_;
     Run saved_;
+    Run stored_;  // as the photos came, though the controls were stored into them
+    QHash<QString, Shared> written_;  // the record that each written picture was made with
     std::deque<Step> done_;
     std::vector<Step> undone_;
     QString project_;

@@ -25,6 +25,7 @@ constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
                            QT_TRANSLATE_NOOP("Steps", "image circle"),
                            QT_TRANSLATE_NOOP("Steps", "contact sheet"),
                            QT_TRANSLATE_NOOP("Steps", "open project"),
+                           QT_TRANSLATE_NOOP("Steps", "open the list again"),
                            QT_TRANSLATE_NOOP("Steps", "change")};
 static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);
 

@@ -27,6 +27,7 @@ enum class StepKind {
     Circle,
     ContactSheet,
     OpenProject,
+    RestoreList,
     Other
 };
 

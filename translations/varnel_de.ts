@@ -1391,6 +1391,22 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>%1 photos use this gear. Give them the new numbers?</source>
         <translation>%1 Fotos verwenden diese Ausrüstung. Sollen sie die neuen Werte bekommen?</translation>
     </message>
+    <message>
+        <source>Photos with unsaved adjustments: %1</source>
+        <translation>Fotos mit ungespeicherten Anpassungen: %1</translation>
+    </message>
+    <message>
+        <source>Images waiting in the batch queue, which no project holds: %1</source>
+        <translation>Bilder im Stapel, die kein Projekt enthält: %1</translation>
+    </message>
+    <message>
+        <source>Varnel was not closed properly. Its image list of %1 is still there. Open it again?</source>
+        <translation>Varnel wurde nicht richtig beendet. Seine Bildliste vom %1 ist noch da. Wieder öffnen?</translation>
+    </message>
+    <message>
+        <source>Photos in the list: %1. &quot;No&quot; removes it for good.</source>
+        <translation>Fotos in der Liste: %1. „Nein“ löscht sie endgültig.</translation>
+    </message>
 </context>
 <context>
     <name>ReadingBox</name>
@@ -2130,6 +2146,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>new numbers of a gear</source>
         <translation>neue Werte einer Ausrüstung</translation>
+    </message>
+    <message>
+        <source>open the list again</source>
+        <translation>Liste wieder öffnen</translation>
     </message>
 </context>
 <context>
@@ -3013,6 +3033,21 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SessionTools</name>
+    <message>
+        <source>The image list of a window that was not closed is damaged and cannot be opened</source>
+        <translation>Die Bildliste eines Fensters, das nicht geschlossen wurde, ist beschädigt und lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>no folder can be made there</source>
+        <translation>dort kann kein Ordner angelegt werden</translation>
+    </message>
+    <message>
+        <source>The image list cannot be kept against a crash in %1</source>
+        <translation>Die Bildliste kann nicht gegen einen Absturz gesichert werden in %1</translation>
     </message>
 </context>
 </TS>

@@ -97,6 +97,81 @@ TEST(Project, ADamagedOneChangesNothingAndMissingPhotosAreNamedAndKept) {
     EXPECT_EQ(desk.Find<QListWidget>("ImageList1")->currentRow(), 1);
 }
 
+void Adjust(WindowDesk& desk) {
+    desk.Slider("SliderAOVinput")->setValue(99);
+}
+
+// Work of some kind on two photos of which both were looked at, and what closing asks about.
+struct Work {
+    const char* name;
+    std::function<void(WindowDesk&)> act;
+    int photos, queued;
+};
+
+std::vector<Work> Works() {
+    const auto queue = [](WindowDesk& desk) { desk.Click("CommandAddToBatchQue"); };
+    const auto saveFirst = [](WindowDesk& desk) {
+        desk.ClickLine(0);
+        Adjust(desk);
+        desk.chooser.answer = SaveChoice{desk.files.Path(Text("out")), 3};
+        desk.Click("CommandSaveFreeimage");
+    };
+    const auto convert = [queue](WindowDesk& desk) {
+        Adjust(desk);
+        queue(desk);
+        desk.dialogs.onBatch = [&](const PictureWritten& written) {
+            written(desk.state.BatchQueue(2), Text("/out/b"));
+            desk.state.BatchQueue.Clear();
+        };
+        desk.Click("CmdBatchProcess");
+    };
+    const auto bothOnce = [](WindowDesk& desk) {
+        desk.Find<QListWidget>("ImageList1")->selectAll();
+        Adjust(desk);
+    };
+    return {
+        {"looking", [](WindowDesk&) {}, 0, 0},
+        {"a preview", [](WindowDesk& desk) { desk.Click("CmdFreeImage"); }, 0, 0},
+        {"an adjustment", Adjust, 1, 0},
+        {"adjustments of both", bothOnce, 2, 0},
+        {"a gear for all", [](WindowDesk& desk) { desk.Click("CmdApplyAll"); }, 0, 0},
+        {"an adjustment taken back",
+         [](WindowDesk& desk) {
+             Adjust(desk);
+             desk.Entry("CmdEditUndo")->trigger();
+         },
+         0, 0},
+        {"a saved picture", saveFirst, 0, 0},
+        {"a saved picture and more",
+         [saveFirst](WindowDesk& desk) {
+             saveFirst(desk);
+             desk.Slider("SliderAOVinput")->setValue(120);
+         },
+         1, 0},
+        {"a queue", queue, 0, 2},
+        {"a queue that was converted", convert, 0, 0},
+    };
+}
+
+TEST(Project, ClosingAsksOnceForWorkThatIsInNoFile) {
+    for (const Work& work : Works()) {
+        WindowDesk desk;
+        desk.AddPhotos({Text("a[*].bmp"), Text("b.bmp")});
+        desk.ClickLine(1);
+        work.act(desk);
+        const bool asks = work.photos + work.queued > 0;
+        EXPECT_EQ(desk.window.isWindowModified(), work.photos > 0) << work.name;
+        EXPECT_EQ(desk.window.windowTitle().contains(Text("bmp[*] - Varnel")), work.photos > 0)
+            << desk.window.windowTitle().toStdString();
+        EXPECT_EQ(desk.window.close(), !asks) << work.name;
+        EXPECT_EQ(desk.dialogs.opened.filter(Text("AskToSave")).size(), asks ? 1 : 0) << work.name;
+        EXPECT_EQ(desk.dialogs.unsaved.photos, work.photos) << work.name;
+        EXPECT_EQ(desk.dialogs.unsaved.queued, work.queued) << work.name;
+        desk.dialogs.saveFirst = SaveFirst::DoNotSave;
+        EXPECT_TRUE(!asks || desk.window.close()) << work.name;
+    }
+}
+
 TEST(Project, IsNotLostByClosingTheWindow) {
     SavedDesk desk;
     desk.Slider("SliderY")->setValue(30);

@@ -116,8 +116,7 @@ TEST(PhotoList, KeepsTheCurrentLineSelectedSoThatTheSlidersReachIt) {
         EXPECT_EQ(selected, deed.selected) << deed.name;
         desk.Slider("SliderAOVinput")->setValue(99);
         EXPECT_EQ(desk.Record(deed.line + 1).InputAOV, 99.0F) << deed.name;
-        EXPECT_EQ(desk.window.windowTitle(),
-                  list->item(deed.line)->text() + Text(" - Varnel"));  // it is the one shown
+        EXPECT_TRUE(desk.window.windowTitle().startsWith(list->item(deed.line)->text()));
     }
 }
 

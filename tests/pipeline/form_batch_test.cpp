@@ -204,11 +204,19 @@ TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
 }
 
 TEST_F(FormBatchTest, TheSummaryCanBeReadAndCopied) {
-    QueuePhotos(1);
     files.Text(Text("in/text.jpg"));
     Queue(Text("text.jpg"));
+    QueuePhotos(1);
+    const ImageRecord photo = queue(2);
     Open();
+    QStringList written;
+    QObject::connect(form.get(), &FormBatch::Written,
+                     [&](const ImageRecord& entry, const QString& path) {
+                         EXPECT_EQ(entry.FileName, photo.FileName);
+                         written.append(path);
+                     });
     Click("CmdBatchProcess");
+    EXPECT_EQ(written, QStringList{Out() + Text("/01.Equidistance.BMP")});
     const auto& text = The<QPlainTextEdit>("TextSummary");
     EXPECT_TRUE(text.isVisible());
     EXPECT_TRUE(text.isReadOnly());

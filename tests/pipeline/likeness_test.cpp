@@ -58,7 +58,7 @@ TEST_F(Likenesses, ThePhotoComesWithTheSettingsOfItsPictureFromEveryType) {
     for (const auto& c : cases) {
         const QString other = files.Picture(Text("other.jpg"), FIF_JPEG);
         const AddedFiles added = Add({other, Result(c.name, c.format)});
-        EXPECT_EQ(added.like, 2) << c.name;
+        EXPECT_EQ(added.like.keys(), QList<int>{2}) << c.name;
         EXPECT_TRUE(added.missing.isEmpty() && added.notes.isEmpty()) << c.name;
         ImageRecord expected = record;
         expected.Landscape = false;  // known when the photo is loaded
@@ -71,11 +71,11 @@ TEST_F(Likenesses, ThePhotoComesWithTheSettingsOfItsPictureFromEveryType) {
 TEST_F(Likenesses, APhotoThatWasMovedIsFoundBesideThePictureOrMissed) {
     const QString result = Result("results/r.jpg", FIF_JPEG);
     QFile::rename(SourcePath(record), files.Path(Text("results/a & b.jpg")));
-    EXPECT_EQ(Add({result}).like, 1);
+    EXPECT_EQ(Add({result}).like.keys(), QList<int>{1});
     EXPECT_EQ(images(1).Folder, files.Path(Text("results")));
     QFile::remove(files.Path(Text("results/a & b.jpg")));
     const AddedFiles added = Add({result});
-    EXPECT_EQ(added.like, 0);
+    EXPECT_EQ(added.like.keys(), QList<int>{});
     EXPECT_EQ(added.missing, QStringList{Text("r.jpg: ") + SourcePath(record)});
     ImageRecord ordinary;
     ordinary.Folder = files.Path(Text("results"));
@@ -105,7 +105,7 @@ TEST_F(Likenesses, TheCentreComesAsThePhotoIsTurnedNowAndGapsAreFilled) {
         const BitmapHandle bitmap = testing::PositionPicture({60, 40});
         SetSettings(bitmap.get(), settings);
         SaveBitmap(FIF_TIFF, bitmap.get(), picture, 0);
-        ASSERT_EQ(Add({picture}).like, 1);
+        ASSERT_EQ(Add({picture}).like.keys(), QList<int>{1});
         const ImageRecord& image = images(1);
         EXPECT_EQ(SourcePath(image), SourcePath(record));
         EXPECT_EQ(image.Orientation, 1);
@@ -125,7 +125,7 @@ TEST_F(Likenesses, AfterGivingUpTheOtherFilesAreAddedAsTheyAre) {
     PhotoLoader photos(testing::Reader(), &wait);
     const AddedFiles added =
         AppendFilesOrSources(images, {files.Path(Text("c.bmp")), result}, photos);
-    EXPECT_EQ(added.like, 0);
+    EXPECT_EQ(added.like.keys(), QList<int>{});
     EXPECT_EQ(images.UpperBound(), 2);
     EXPECT_EQ(images(2).FileName, Text("r.png"));
 }

@@ -228,6 +228,47 @@ TEST(History, AProjectIsAStepAndTakesItsNameBack) {
     EXPECT_FALSE(history.ChangedSinceSaved());
 }
 
+TEST(History, PhotosAreUnsavedWhoseAdjustmentsAreInNoFile) {
+    Images images = Photos("aab");
+    History history;
+    const auto adjust = [&](int n, float turn) {
+        images(n).RotateY = turn;
+        images(n).SettingsApplied = true;
+        history.Note(Text("adjust"), images);
+        return history.UnsavedPhotos();
+    };
+    history.Note(Text("add"), images);
+    images(3).GearName = Text("gear");
+    history.Note(Text("gear"), images);
+    EXPECT_EQ(history.UnsavedPhotos(), 0);
+    images(1).SettingsApplied = true;  // and nothing else
+    history.Absorb(images);
+    EXPECT_EQ(history.UnsavedPhotos(), 0);
+    EXPECT_EQ(adjust(1, 10.0F), 1);
+    EXPECT_EQ(adjust(2, 20.0F), 2);
+    EXPECT_EQ(adjust(3, 30.0F), 3);
+    history.MarkWritten(images(1), Text("/out/a"));
+    history.MarkWritten(images(3), Text("/out/b"));
+    EXPECT_EQ(history.UnsavedPhotos(), 1);
+    images(1).Width = 300;  // loaded again
+    history.Absorb(images);
+    EXPECT_EQ(history.UnsavedPhotos(), 1);
+    EXPECT_EQ(adjust(1, 11.0F), 2);
+    history.Undo(images);
+    EXPECT_EQ(history.UnsavedPhotos(), 1);
+    history.Redo(images);
+    EXPECT_EQ(adjust(1, 10.0F), 1);  // by hand to what the picture has
+    adjust(1, 12.0F);
+    history.MarkWritten(images(1), Text("/out/a"));  // in place of the first
+    EXPECT_EQ(history.UnsavedPhotos(), 1);
+    history.Undo(images);
+    EXPECT_EQ(history.UnsavedPhotos(), 2);
+    history.MarkSaved(Text("/p/x.varnel"));
+    EXPECT_EQ(history.UnsavedPhotos(), 0);
+    history.Undo(images);
+    EXPECT_EQ(history.UnsavedPhotos(), 1);
+}
+
 TEST(StepBetween, NamesTheSliderThatMoved) {
     const struct {
         int ControlValues::*value;

@@ -72,8 +72,12 @@ class FakeDialogs : public Dialogs {
             onDefaults();
         }
     }
-    void ProcessBatch(const QueueChanged& queueChanged, QWidget* /*parent*/) override {
+    void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                      QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormBatch"));
+        if (onBatch) {
+            onBatch(written);
+        }
         if (onQueue) {
             onQueue(queueChanged);
         }
@@ -91,9 +95,14 @@ class FakeDialogs : public Dialogs {
         stretched.append(photo);
     }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
-    SaveFirst AskToSave(const QString& name) override {
-        opened.append(QStringLiteral("AskToSave ") + name);
+    SaveFirst AskToSave(const UnsavedWork& work) override {
+        opened.append(QStringLiteral("AskToSave ") + work.project);
+        unsaved = work;
         return saveFirst;
+    }
+    Restore AskToRestore(const LostList& list) override {
+        lost.push_back(list);
+        return restore;
     }
     QString ChooseProject(const QString& /*folder*/) override { return project; }
     QString ChooseProjectName(const QString& /*proposal*/) override { return project; }
@@ -106,6 +115,10 @@ class FakeDialogs : public Dialogs {
     std::function<bool(const GearRecord&)> onDefine;
     std::function<void()> onDefaults;
     std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
+    std::function<void(const PictureWritten&)> onBatch;
+    UnsavedWork unsaved;
+    std::vector<LostList> lost;
+    Restore restore = Restore::Later;
     ImageRecord morphed;
     QStringList stretched;
 };
@@ -134,9 +147,13 @@ class SlowReader : public PictureReader {
 
 class WindowDesk {
   public:
-    // The list's small pictures come when there is a reader for them.
-    explicit WindowDesk(const NewSmallReader& newSmallReader = nullptr)
-        : window(state, store, {photos, notices, prompt, chooser, dialogs, newSmallReader}) {
+    // The list's small pictures come when there is a reader for them; it is kept against a crash
+    // when there is a folder.
+    explicit WindowDesk(const NewSmallReader& newSmallReader = nullptr,
+                        const QString& sessionFolder = {}, Restore restore = Restore::Later)
+        : window(state, store,
+                 {photos, notices, prompt, chooser, dialogs, newSmallReader, {sessionFolder, 20}}) {
+        dialogs.restore = restore;
         window.resize(1200, 900);
         window.show();
         QApplication::processEvents();

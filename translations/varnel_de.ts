@@ -2945,6 +2945,21 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::SessionTools</name>
+    <message>
+        <source>The image list of a window that was not closed is damaged and cannot be opened</source>
+        <translation>Die Bildliste eines Fensters, das nicht geschlossen wurde, ist beschädigt und lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>no folder can be made there</source>
+        <translation>dort kann kein Ordner angelegt werden</translation>
+    </message>
+    <message>
+        <source>The image list cannot be kept against a crash in %1</source>
+        <translation>Die Bildliste kann nicht gegen einen Absturz gesichert werden in %1</translation>
+    </message>
+</context>
+<context>
     <name>varnel::SheetTools</name>
     <message>
         <source>&amp;Contact sheet</source>
@@ -3033,21 +3048,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
-    </message>
-</context>
-<context>
-    <name>varnel::SessionTools</name>
-    <message>
-        <source>The image list of a window that was not closed is damaged and cannot be opened</source>
-        <translation>Die Bildliste eines Fensters, das nicht geschlossen wurde, ist beschädigt und lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>no folder can be made there</source>
-        <translation>dort kann kein Ordner angelegt werden</translation>
-    </message>
-    <message>
-        <source>The image list cannot be kept against a crash in %1</source>
-        <translation>Die Bildliste kann nicht gegen einen Absturz gesichert werden in %1</translation>
     </message>
 </context>
 </TS>

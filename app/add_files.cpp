@@ -10,6 +10,7 @@
 #include "app/hourglass.h"
 #include "app/scoped.h"
 #include "pipeline/add_images.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -42,7 +43,7 @@ void Desk::NoteBad(const std::vector<BadFile>& bad) {
 void Desk::TellBad(const std::vector<BadFile>& bad) {
     QStringList lines;
     for (const BadFile& file : bad) {
-        lines.append(QStringLiteral("%1: %2").arg(file.path, file.reason));
+        lines.append(QStringLiteral("%1: %2").arg(file.path, ToldReason(file.reason)));
     }
     TellLines(notices_,
               lines.size() == 1
@@ -59,7 +60,7 @@ void Desk::ImagesAdded(int before) {
         PhotoLoader::Together together(photos_);
         for (int n = before + 1; n <= state_.Images.UpperBound(); ++n) {
             const QString path = SourcePath(state_.Images(n));
-            if (const QString trouble = photos_.Trouble(path); !trouble.isEmpty()) {
+            if (const Reason trouble = photos_.Trouble(path); !trouble.isEmpty()) {
                 bad.push_back({path, trouble});
             }
             if (photos_.GivenUp() || !together.Continue()) {

@@ -48,7 +48,7 @@ void Desk::ShowInControls(const ImageRecord& image) {
 
 void Desk::TellNotOpened(const ImageRecord& image) {
     notices_.Tell(Texts::tr("Could not open image"),
-                  QStringLiteral("%1: %2").arg(SourcePath(image), loadTrouble_));
+                  QStringLiteral("%1: %2").arg(SourcePath(image), ToldReason(loadTrouble_)));
 }
 
 bool Desk::LoadFull(int line) {
@@ -61,9 +61,9 @@ bool Desk::LoadFull(int line) {
     view_.ShowResult(nullptr);  // never another photo's
     view_.ShowTrouble({});
     LoadedPicture loaded = photos_.Load(SourcePath(image));
-    loadTrouble_ = loaded.bitmap ? QString() : loaded.reason;
+    loadTrouble_ = loaded.bitmap ? Reason() : loaded.reason;
     if (!loaded.reason.isEmpty()) {
-        view_.ShowTrouble(QStringLiteral("%1: %2").arg(image.FileName, loaded.reason));
+        view_.ShowTrouble(QStringLiteral("%1: %2").arg(image.FileName, ToldReason(loaded.reason)));
     }
     if (!loaded.bitmap) {
         view_.ShowSource(nullptr);
@@ -89,8 +89,7 @@ void Desk::ShowLine(int line) {
         const Raised busy(busy_);
         if (LoadAndReduce(line)) {
             Preview();
-        } else if (loadTrouble_ != ToldReason(readingCancelled.toString()) &&
-                   Unreadable(CurrentPath()).isEmpty()) {
+        } else if (!loadTrouble_.Is(ReasonCode::Cancelled) && Unreadable(CurrentPath()).isEmpty()) {
             TellNotOpened(state_.Images(line + 1));
         }
     }
@@ -107,8 +106,8 @@ bool Desk::LoadAndReduce(int line) {
         return true;
     } catch (const std::bad_alloc&) {
         state_.bitmaps = {};
-        loadTrouble_ = Texts::tr("there is not enough memory");
-        view_.ShowTrouble(loadTrouble_);
+        loadTrouble_ = ReasonCode::NotEnoughMemory;
+        view_.ShowTrouble(ToldReason(loadTrouble_));
         view_.ShowSource(nullptr);
         return false;
     }
@@ -128,7 +127,7 @@ bool Desk::RebuildThumbnail() {
     }
     const QString shortage = Shortage([this] { Reduce(); });
     if (!shortage.isEmpty()) {
-        loadTrouble_ = shortage;
+        loadTrouble_ = {ReasonCode::Words, shortage};
         view_.ShowSource(nullptr);
         view_.ShowResult(nullptr);
         view_.ShowStatus(shortage);

@@ -141,8 +141,10 @@ class Desk {
     // The same, which must be there, with all that a queued record has.
     const ImageRecord& PreparedCurrent();
     QString CurrentPath();  // empty when there is none
+    // Why its photo is not there; empty when it is.
+    const Reason& LoadTrouble() const { return loadTrouble_; }
     // Why a photo that was added could not be read, which was told then; empty for the others.
-    QString Unreadable(const QString& path) const { return unreadable_.value(path); }
+    Reason Unreadable(const QString& path) const { return unreadable_.value(path); }
     // True while a conversion runs; nothing else may be started then.
     bool Busy() const { return busy_ || rendering_; }
 
@@ -188,8 +190,8 @@ class Desk {
     bool rendering_ = false;
     bool saving_ = false;
     bool drawAgain_ = false;
-    QHash<QString, QString> unreadable_;
-    QString loadTrouble_;  // why the current line's photo is not there
+    QHash<QString, Reason> unreadable_;
+    Reason loadTrouble_;  // why the current line's photo is not there
 };
 
 }  // namespace varnel

@@ -96,7 +96,7 @@ void ListTools::Cancel() {
 // What is wrong with the photo on the desk, now that nothing is read any more.
 void ListTools::NoteLoaded() {
     const QString path = desk_.CurrentPath();
-    if (path.isEmpty() || view_.Trouble().endsWith(ToldReason(readingCancelled.toString()))) {
+    if (path.isEmpty() || desk_.LoadTrouble().Is(ReasonCode::Cancelled)) {
         return;
     }
     if (!view_.Trouble().isEmpty()) {
@@ -120,7 +120,8 @@ void ListTools::ShowMarks() {
         const ImageRecord& image = state_.Images(line + 1);
         const QString path = SourcePath(image);
         const auto [letters, words] =
-            MarksOf(image, queued.contains(path), troubles_.value(path, desk_.Unreadable(path)));
+            MarksOf(image, queued.contains(path),
+                    troubles_.value(path, ToldReason(desk_.Unreadable(path))));
         const QString tip = path + u'\n' + words;
         if (item->toolTip() != tip) {
             item->setData(PhotoList::marksRole, letters);

@@ -21,6 +21,7 @@
 #include "remap/engine/thread_runner.h"
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -166,12 +167,12 @@ class Conversions {
             return;  // it was given up
         }
         if (loaded.outcome == LoadOutcome::NotLoaded) {
-            FailedPhoto(files_[n], loaded.reason + PhotoAdvice(files_[n]));
+            FailedPhoto(files_[n], ToldReason(loaded.reason) + PhotoAdvice(files_[n]));
             return;
         }
         if (loaded.outcome == LoadOutcome::Damaged) {
             FinishWriting();
-            reports_.Damaged(files_[n], loaded.reason);
+            reports_.Damaged(files_[n], ToldReason(loaded.reason));
         }
         const auto gear = GearFor(run_.gears, OriginOf(loaded.bitmap.get()));
         if (const auto* reason = std::get_if<QString>(&gear)) {
@@ -183,7 +184,7 @@ class Conversions {
                                     std::get<GearRecord>(gear)),
                         {},
                         loaded.outcome == LoadOutcome::Damaged};
-        photo.trouble = loaded.reason;
+        photo.trouble = ToldReason(loaded.reason);
         photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
         photo.bitmaps.ResultBitmap = std::move(spare_);
         ConvertAll(photo);
@@ -268,7 +269,7 @@ class Conversions {
         } catch (const RunTimeError& error) {
             FailedResult(report, QString::fromUtf8(error.what()));
         } catch (const std::bad_alloc&) {
-            FailedResult(report, QStringLiteral("there is not enough memory") +
+            FailedResult(report, ToldReason(ReasonCode::NotEnoughMemory) +
                                      Advice(QStringLiteral("; --jobs 1 takes less")));
         }
     }

@@ -4,6 +4,7 @@
 #include "cli/like_picture.h"
 
 #include "pipeline/likeness.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -45,7 +46,7 @@ std::variant<QStringList, QString> TakeLike(Options& options) {
     const auto reader = NewPictureReader();
     const PhotoFacts facts = PhotoLoader(*reader).Facts(options.like);
     if (!facts.trouble.isEmpty()) {
-        return prefixed(facts.trouble);
+        return prefixed(ToldReason(facts.trouble));
     }
     const std::optional<Likeness> likeness = LikenessFrom(facts.metadata.settings, options.like);
     if (!likeness) {

@@ -28,10 +28,6 @@ namespace {
 // Beyond that, decoding a whole picture takes more than about a second.
 constexpr std::int64_t mostPixelsForSmall = 60'000'000;
 
-QString Undecodable() {
-    return QStringLiteral("the picture cannot be decoded");
-}
-
 int WholeFlags(FREE_IMAGE_FORMAT format) {
     switch (format) {
         case FIF_JPEG:
@@ -106,7 +102,7 @@ class Decoding {
     LoadedPicture Answer() {
         format_ = file_.Format();
         if (format_ == FIF_UNKNOWN) {
-            return LoadedPicture::Refused(QStringLiteral("this is not a picture of a known type"));
+            return LoadedPicture::Refused(ReasonCode::NoKnownType);
         }
         if (format_ == FIF_TIFF || format_ == FIF_RAW) {
             tiff_ = TiffFactsOf(file_);
@@ -114,15 +110,15 @@ class Decoding {
         HideMetadata();
         if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
-            return LoadedPicture::Refused(QStringLiteral("damaged: the raw photo cannot be read"));
+            return LoadedPicture::Refused(ReasonCode::RawUnreadable);
         }
         const ClaimedSize claimed = ClaimedSizeOf(format_, file_).value_or(ClaimedSize{1, 1});
-        if (const QString trouble = Trouble({claimed.width, claimed.height}); !trouble.isEmpty()) {
+        if (const Reason trouble = Trouble({claimed.width, claimed.height}); !trouble.isEmpty()) {
             return LoadedPicture::Refused(trouble);
         }
         NoteOrientation();
         stated_ = HeaderSize();
-        if (const QString trouble = stated_ ? Trouble(*stated_) : QString(); !trouble.isEmpty()) {
+        if (const Reason trouble = stated_ ? Trouble(*stated_) : Reason(); !trouble.isEmpty()) {
             return LoadedPicture::Refused(trouble);
         }
         return Upright(AsAsked());
@@ -229,7 +225,7 @@ class Decoding {
         }
     }
 
-    QString Trouble(const StatedSize& size) const {
+    Reason Trouble(const StatedSize& size) const {
         return SizeTrouble(size.width, size.height, memory_);
     }
 
@@ -269,7 +265,7 @@ class Decoding {
         whole.bitmap.reset();
         if (whole.outcome == LoadOutcome::Damaged) {
             whole.outcome = LoadOutcome::Loaded;  // its size is what it is
-            whole.reason.clear();
+            whole.reason = {};
         }
         return whole;
     }
@@ -278,7 +274,7 @@ class Decoding {
         LoadedPicture picture = Quick();
         if (!picture.bitmap) {
             if (stated_ && stated_->width * stated_->height > mostPixelsForSmall) {
-                return LoadedPicture::Refused(QStringLiteral("too large for a quick look"));
+                return LoadedPicture::Refused(ReasonCode::TooLargeForQuickLook);
             }
             picture = Whole();
         }
@@ -345,9 +341,9 @@ class Decoding {
     // What the library gave, as an answer.
     LoadedPicture Judged(BitmapHandle bitmap) {
         if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
-            return LoadedPicture::Refused(messages_.Added(Undecodable()));
+            return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
-        if (const QString trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
+        if (const Reason trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
             return LoadedPicture::Refused(trouble);
         }
         if (format_ == FIF_TIFF && tiff_ && !tiff_->colourProfile.isEmpty()) {
@@ -358,11 +354,10 @@ class Decoding {
         }
         bitmap = To24Bits(WithoutInks(std::move(bitmap), format_, file_));
         if (!bitmap) {
-            return LoadedPicture::Refused(
-                QStringLiteral("its pixels cannot be converted to 24-bit colour"));
+            return LoadedPicture::Refused(ReasonCode::NoTrueColour);
         }
         const PixelSize size = SizeOf(bitmap.get());
-        const QString damage = DamageOf(format_, file_, messages_.Lines());
+        const Reason damage = DamageOf(format_, file_, messages_.Lines());
         return {damage.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged, std::move(bitmap),
                 damage, size};
     }
@@ -387,12 +382,12 @@ LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::ui
     try {
         return Decoding(file, request, memory, rowsFor, messages).Answer();
     } catch (const std::bad_alloc&) {
-        return LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
     } catch (const std::exception& error) {
         return LoadedPicture::Refused(
-            QStringLiteral("%1 (%2)").arg(Undecodable(), QString::fromLocal8Bit(error.what())));
+            {ReasonCode::Added, ReasonCode::CannotBeDecoded, QString::fromLocal8Bit(error.what())});
     } catch (...) {  // codecs throw numbers and types of their own
-        return LoadedPicture::Refused(messages.Added(Undecodable()));
+        return LoadedPicture::Refused(messages.Added(ReasonCode::CannotBeDecoded));
     }
 }
 

@@ -65,18 +65,18 @@ class SpawnActions {
 
 }  // namespace
 
-QString DecoderProcess::Start() {
+Reason DecoderProcess::Start() {
     End();
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
-        return qt_error_string(errno);
+        return {ReasonCode::Words, qt_error_string(errno)};
     }
     Descriptor ours(ends[0]);
     const Descriptor theirs(ends[1]);
     pid_t id = -1;
     if (const int error = SpawnActions(theirs.Get()).Spawn(QFile::encodeName(program_), id);
         error != 0) {
-        return QStringLiteral("%1: %2").arg(program_, qt_error_string(error));
+        return {ReasonCode::Of, program_, qt_error_string(error)};
     }
     id_ = id;
     socket_ = std::move(ours);

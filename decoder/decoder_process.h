@@ -10,6 +10,7 @@
 
 #include "decoder/descriptor.h"
 #include "decoder/protocol.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -23,7 +24,7 @@ class DecoderProcess {
     bool Runs() const { return id_ > 0; }
     pid_t Id() const { return id_; }
     // Why it could not be started; empty when it was. It ends with the thread that started it.
-    QString Start();
+    Reason Start();
     // False when it is gone.
     bool Send(const DecoderRequest& request, int photo, int memory);
 

@@ -76,8 +76,7 @@ void DecoderReader::Begin(const ReadRequest& request) {
     try {
         memory_ = memory_ ? std::move(memory_) : memoryFiles_->Take();
     } catch (const std::bad_alloc&) {
-        FinishRefused(
-            QStringLiteral("there is no memory for it to be had (%1)").arg(qt_error_string(errno)));
+        FinishRefused({ReasonCode::NoMemoryToBeHad, qt_error_string(errno)});
         return;
     }
     request_ = {request_.number + 1,
@@ -98,9 +97,9 @@ void DecoderReader::Ask() {
     if (!process_.Send(request_, photo_.Get(), memory_->Number())) {
         Restart();
         if (!process_.Send(request_, photo_.Get(), memory_->Number())) {
-            const QString reason =
-                startTrouble_.isEmpty() ? QStringLiteral("it ends at once") : startTrouble_;
-            FinishRefused(QStringLiteral("the decoder could not be started (%1)").arg(reason));
+            const Reason reason =
+                startTrouble_.isEmpty() ? ReasonCode::DecoderEndsAtOnce : startTrouble_;
+            FinishRefused({ReasonCode::DecoderNotStarted, reason});
         }
     }
 }
@@ -134,15 +133,12 @@ void DecoderReader::Heard(const DecoderAnswer& answer) {
     const bool isSecond = first_.has_value();
     if (answer.outcome == triedForbidden) {
         isSecond ? FinishWithoutMetadata()
-                 : FinishRefused(QStringLiteral("damaged: the decoder tried something forbidden "
-                                                "(system call %1)")
-                                     .arg(answer.number));
+                 : FinishRefused({ReasonCode::DecoderTriedForbiddenCall, answer.number});
         return;
     }
     if (isSecond ? !BelievableMetadata(answer, *first_, memory_->Length())
                  : !Believable(answer, request_, memory_->Length())) {
-        isSecond ? FinishWithoutMetadata()
-                 : FinishRefused(QStringLiteral("damaged: the decoder's answer makes no sense"));
+        isSecond ? FinishWithoutMetadata() : FinishRefused(ReasonCode::DecoderMakesNoSense);
         return;
     }
     if (isSecond) {
@@ -176,8 +172,8 @@ FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
     return isNothing ? UnreadMetadata() : taken;
 }
 
-QString DecoderReader::TookTooLong() const {
-    return QStringLiteral("took too long (more than %1 seconds)").arg(options_.secondsPerPhoto);
+Reason DecoderReader::TookTooLong() const {
+    return {ReasonCode::TookTooLong, options_.secondsPerPhoto};
 }
 
 void DecoderReader::Died() {
@@ -196,24 +192,20 @@ void DecoderReader::Died() {
     }
     switch (signal) {
         case 0:
-            FinishRefused(QStringLiteral("damaged: the decoder gave up on it"));
+            FinishRefused(ReasonCode::DecoderGaveUp);
             break;
         case SIGXCPU:
             FinishRefused(TookTooLong());
             break;
         case SIGSYS:
-            FinishRefused(QStringLiteral("damaged: the decoder tried something forbidden"));
+            FinishRefused(ReasonCode::DecoderTriedForbidden);
             break;
         case SIGKILL:
         case SIGBUS:
-            FinishRefused(
-                QStringLiteral(
-                    "the system ended the decoder, perhaps for want of memory (signal %1)")
-                    .arg(signal));
+            FinishRefused({ReasonCode::DecoderEndedBySystem, signal});
             break;
         default:
-            FinishRefused(
-                QStringLiteral("damaged: the decoder died of it (signal %1)").arg(signal));
+            FinishRefused({ReasonCode::DecoderDied, signal});
     }
 }
 
@@ -239,14 +231,14 @@ LoadedPicture DecoderReader::Take() {
 
 void DecoderReader::Cancel() {
     if (photo_) {
-        FinishRefused(readingCancelled.toString());
+        FinishRefused(ReasonCode::Cancelled);
     }
     answer_.reset();
 }
 
 LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer,
                                          const FileMetadata& metadata) {
-    LoadedPicture picture{static_cast<LoadOutcome>(answer.outcome), nullptr, ReasonOf(answer),
+    LoadedPicture picture{static_cast<LoadOutcome>(answer.outcome), nullptr, *ReasonOf(answer),
                           answer.size};
     picture.orientation = answer.orientation;
     if (answer.bitmap.width > 0) {
@@ -264,7 +256,7 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
     const std::uint64_t used = RowBytes(answer) + answer.extrasLength;
     std::byte* const bytes = memory_->Map(used);
     if (bytes == nullptr) {
-        picture = LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        picture = LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
         return;
     }
     // A copy, so that nobody changes the block while it is read.
@@ -272,7 +264,7 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
                             static_cast<qsizetype>(answer.extrasLength));
     BitmapHandle bitmap = BitmapOver(bytes, answer.bitmap);
     if (!bitmap) {
-        picture = LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        picture = LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
         return;
     }
     auto owner = std::make_shared<PixelOwner>();

@@ -31,9 +31,9 @@ class DecoderReader : public PictureReader {
     void Ask();
     void Restart();
     void Finish(LoadedPicture picture);
-    void FinishRefused(const QString& reason) { Finish(LoadedPicture::Refused(reason)); }
+    void FinishRefused(const Reason& reason) { Finish(LoadedPicture::Refused(reason)); }
     void Died();
-    QString TookTooLong() const;
+    Reason TookTooLong() const;
     void Heard(const DecoderAnswer& answer);
     void FinishWithoutMetadata();
     FileMetadata MetadataFrom(const DecoderAnswer& answer);
@@ -42,7 +42,7 @@ class DecoderReader : public PictureReader {
 
     ReaderOptions options_;
     DecoderProcess process_;
-    QString startTrouble_;
+    Reason startTrouble_;
     std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();
     std::unique_ptr<MemoryFile> memory_;  // of the picture under way
     Descriptor photo_;

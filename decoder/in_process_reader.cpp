@@ -23,13 +23,13 @@ class InProcessReader : public PictureReader {
         : memory_(memory == 0 ? MachineMemory() : memory) {}
 
     void Begin(const ReadRequest& request) override {
-        const QString trouble = PathTrouble(request.path);
+        const Reason trouble = PathTrouble(request.path);
         const FileHandle file(trouble.isEmpty()
                                   ? std::fopen(QFile::encodeName(request.path).constData(), "rb")
                                   : nullptr);
         if (!file) {
-            answer_ = LoadedPicture::Refused(
-                trouble.isEmpty() ? QStringLiteral("it cannot be opened") : trouble);
+            answer_ =
+                LoadedPicture::Refused(trouble.isEmpty() ? ReasonCode::CannotBeOpened : trouble);
             return;
         }
         answer_ = request.kind == ReadKind::Facts

@@ -4,10 +4,9 @@
 // What comes of reading a photo.
 #pragma once
 
-#include <QString>
-
 #include "remap/bitmap.h"
 #include "remap/photo_metadata.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -20,12 +19,12 @@ enum class LoadOutcome {
 struct LoadedPicture {
     LoadOutcome outcome = LoadOutcome::NotLoaded;
     BitmapHandle bitmap;  // 24 bits a pixel; empty when not loaded or when only the size was asked
-    QString reason;    // what is wrong, in words, without the file's name; empty when all is well
-    PixelSize size{};  // of the full picture, pixels; 0 x 0 when not loaded
+    Reason reason;        // what is wrong; empty when all is well
+    PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
     PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
     int orientation = 1;       // that the file tells and that was undone, as EXIF counts
 
-    static LoadedPicture Refused(const QString& reason) {
+    static LoadedPicture Refused(const Reason& reason) {
         return {LoadOutcome::NotLoaded, nullptr, reason, {}};
     }
 };

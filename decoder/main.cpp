@@ -102,13 +102,6 @@ bool HandOver(FIBITMAP* bitmap, const QByteArray& extras, const DecoderAnswer& a
     return handover.WriteAt(RowBytes(answer), extras);
 }
 
-void SetReason(DecoderAnswer& answer, const QString& reason) {
-    const QByteArray text = reason.toUtf8();
-    answer.reasonLength =
-        static_cast<std::uint32_t>(std::min<std::size_t>(text.size(), longestReason));
-    std::memcpy(answer.reason.data(), text.constData(), answer.reasonLength);
-}
-
 DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& request,
                         Handover& handover) {
     DecoderAnswer answer;
@@ -131,7 +124,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     if (!HandOver(bitmap, extras, answer, handover)) {
         answer = DecoderAnswer{.number = request.number,
                                .outcome = static_cast<std::uint32_t>(LoadOutcome::NotLoaded)};
-        SetReason(answer, QStringLiteral("there is not enough memory"));
+        SetReason(answer, ReasonCode::NotEnoughMemory);
     }
     return answer;
 }

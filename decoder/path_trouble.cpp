@@ -7,24 +7,24 @@
 
 namespace varnel {
 
-QString PathTrouble(const QString& path) {
+Reason PathTrouble(const QString& path) {
     const QFileInfo file(path);
     if (file.isSymLink() && !file.exists()) {
-        return QStringLiteral("the link leads nowhere");
+        return ReasonCode::LinkLeadsNowhere;
     }
     if (!file.exists()) {
-        return QStringLiteral("there is no such file");
+        return ReasonCode::NoSuchFile;
     }
     if (file.isDir()) {
-        return QStringLiteral("this is a folder, not a picture");
+        return ReasonCode::IsFolder;
     }
     if (!file.isFile()) {
-        return QStringLiteral("this is no regular file");
+        return ReasonCode::IsNoRegularFile;
     }
     if (!file.isReadable()) {
-        return QStringLiteral("no permission to read it");
+        return ReasonCode::NoPermissionToRead;
     }
-    return file.size() == 0 ? QStringLiteral("the file is empty") : QString();
+    return file.size() == 0 ? ReasonCode::FileEmpty : ReasonCode::None;
 }
 
 }  // namespace varnel

@@ -14,20 +14,20 @@
 namespace varnel {
 
 OpenedPhoto OpenPhotoFile(const QString& path) {
-    if (const QString trouble = PathTrouble(path); !trouble.isEmpty()) {
+    if (const Reason trouble = PathTrouble(path); !trouble.isEmpty()) {
         return {{}, trouble};
     }
     Descriptor file(
         open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (!file) {
-        return {{}, qt_error_string(errno)};
+        return {{}, Reason(ReasonCode::Words, qt_error_string(errno))};
     }
     struct stat status {};
     if (fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) {
-        return {{}, QStringLiteral("this is no regular file")};
+        return {{}, ReasonCode::IsNoRegularFile};
     }
     if (status.st_size == 0) {
-        return {{}, QStringLiteral("the file is empty")};
+        return {{}, ReasonCode::FileEmpty};
     }
     return {std::move(file), {}};
 }

@@ -7,12 +7,13 @@
 #include <QString>
 
 #include "decoder/descriptor.h"
+#include "state/reason.h"
 
 namespace varnel {
 
 struct OpenedPhoto {
     Descriptor file;
-    QString trouble;  // why there is no file
+    Reason trouble;  // why there is no file
 };
 
 // Opens for reading what is a regular, readable file that is not empty; never waits, as opening a

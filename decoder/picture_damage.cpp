@@ -58,13 +58,12 @@ bool MeansDamage(const QString& message) {
     });
 }
 
-QString DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages) {
+Reason DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages) {
     const auto message = std::ranges::find_if(messages, MeansDamage);
     if (message != messages.end()) {
-        return QStringLiteral("damaged: %1").arg(*message);
+        return {ReasonCode::Damaged, *message};
     }
-    return IsCut(format, file, messages) ? QStringLiteral("damaged: the file is cut short")
-                                         : QString();
+    return IsCut(format, file, messages) ? ReasonCode::FileCutShort : ReasonCode::None;
 }
 
 }  // namespace varnel

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "decoder/picture_file.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -17,6 +18,6 @@ bool MeansDamage(const QString& message);
 
 // What is wrong with a picture that was loaded from this file with these library messages; empty
 // when nothing is.
-QString DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages);
+Reason DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages);
 
 }  // namespace varnel

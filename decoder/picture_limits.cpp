@@ -23,25 +23,18 @@ std::uint64_t MachineMemory() {
     return unknown;
 }
 
-QString SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory) {
+Reason SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory) {
     if (width <= 0 || height <= 0) {
-        return QStringLiteral("the picture has no pixels");
+        return ReasonCode::NoPixels;
     }
     if (width > largestSide || height > largestSide) {
-        return QStringLiteral("too large: %1 x %2 pixels, a side may have %3")
-            .arg(width)
-            .arg(height)
-            .arg(largestSide);
+        return {ReasonCode::SideTooLong, width, height, largestSide};
     }
     constexpr std::uint64_t bitmaps = 3;  // source, result, one copy
     const std::uint64_t needed =
         static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 3 * bitmaps;
     if (needed > memory / 4 * 3) {
-        return QStringLiteral(
-                   "too large: %1 x %2 pixels need more than three quarters of this "
-                   "machine's memory")
-            .arg(width)
-            .arg(height);
+        return {ReasonCode::TooManyPixels, width, height};
     }
     return {};
 }

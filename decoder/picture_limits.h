@@ -4,10 +4,10 @@
 // How large a picture may be; asked before its pixels take memory and again after decoding.
 #pragma once
 
-#include <QString>
 #include <cstdint>
 
 #include "remap/geometry.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -19,6 +19,6 @@ std::uint64_t MachineMemory();
 
 // Why a picture of this many pixels is refused on a machine with this memory in bytes; empty when
 // it is not. Source, result and one copy at 24 bits may take three quarters of the memory.
-QString SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory);
+Reason SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory);
 
 }  // namespace varnel

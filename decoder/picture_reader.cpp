@@ -17,7 +17,7 @@ LoadedPicture ReadPicture(PictureReader& reader, const ReadRequest& request,
     while (!reader.Wait(betweenQuestions)) {
         if (keepReading && !keepReading()) {
             reader.Cancel();
-            return LoadedPicture::Refused(readingCancelled.toString());
+            return LoadedPicture::Refused(ReasonCode::Cancelled);
         }
     }
     return reader.Take();

@@ -32,10 +32,7 @@ class PictureReader {
 // Asked every few milliseconds while a photo is read, for handling events; false gives up.
 using KeepReading = std::function<bool()>;
 
-// The reason of a photo that was given up.
-inline constexpr QStringView readingCancelled = u"cancelled";
-
-// Reads and waits for the answer; not loaded and the reason readingCancelled when it was given up.
+// Reads and waits for the answer; not loaded and the reason Cancelled when it was given up.
 LoadedPicture ReadPicture(PictureReader& reader, const ReadRequest& request,
                           const KeepReading& keepReading = {});
 

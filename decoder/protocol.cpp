@@ -3,7 +3,11 @@
 
 #include "decoder/protocol.h"
 
+#include <QByteArray>
+#include <QIODevice>
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 #include "decoder/picture_limits.h"
 #include "remap/row_pitch.h"
@@ -12,6 +16,34 @@
 namespace varnel {
 
 namespace {
+
+constexpr qsizetype longestText = 500;  // characters in a reason that is too long
+
+QByteArray Packed(const Reason& reason) {
+    QByteArray block;
+    QDataStream out(&block, QIODevice::WriteOnly);
+    out << reason;
+    return block;
+}
+
+Reason WithTextsCut(const Reason& reason, qsizetype longest) {
+    std::vector<Reason::Argument> arguments = reason.Arguments();
+    for (Reason::Argument& argument : arguments) {
+        if (auto* const text = std::get_if<QString>(&argument)) {
+            text->truncate(longest);
+        } else if (auto* const nested = std::get_if<Reason>(&argument)) {
+            *nested = WithTextsCut(*nested, longest);
+        }
+    }
+    return {reason.Code(), std::move(arguments)};
+}
+
+// All is well without a reason only. What the user does is not the decoder's to say.
+bool BelievableReason(const DecoderAnswer& answer) {
+    const std::optional<Reason> reason = ReasonOf(answer);
+    const bool allWell = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::Loaded);
+    return reason && reason->isEmpty() == allWell && !reason->Is(ReasonCode::Cancelled);
+}
 
 // A picture with no more of its own than a reason or a size.
 bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
@@ -49,7 +81,8 @@ bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
                 std::uint64_t memoryFileLength) {
     if (answer.number != request.number || answer.reasonLength > longestReason ||
         answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded) ||
-        !IsOrientation(answer.orientation) || (answer.orientation != 1 && !request.upright)) {
+        !BelievableReason(answer) || !IsOrientation(answer.orientation) ||
+        (answer.orientation != 1 && !request.upright)) {
         return false;
     }
     const bool hasPixels = request.kind != ReadKind::Size && request.kind != ReadKind::Facts &&
@@ -64,13 +97,23 @@ bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
            RowBytes(first) + first.extrasLength + answer.metadataLength <= memoryFileLength;
 }
 
-QString ReasonOf(const DecoderAnswer& answer) {
+void SetReason(DecoderAnswer& answer, const Reason& reason) {
+    QByteArray block = Packed(reason);
+    for (qsizetype longest = longestText; block.size() > qsizetype{longestReason}; longest /= 2) {
+        block = Packed(WithTextsCut(reason, longest));
+    }
+    answer.reasonLength = static_cast<std::uint32_t>(block.size());
+    std::memcpy(answer.reason.data(), block.constData(), answer.reasonLength);
+}
+
+std::optional<Reason> ReasonOf(const DecoderAnswer& answer) {
     const auto length = std::min<std::size_t>(answer.reasonLength, longestReason);
-    QString text = QString::fromUtf8(answer.reason.data(), static_cast<qsizetype>(length));
-    // One line that can stand in a message, whatever a library made of a file's bytes.
-    std::replace_if(
-        text.begin(), text.end(), [](QChar character) { return !character.isPrint(); }, u' ');
-    return text.simplified();
+    QDataStream in(QByteArray::fromRawData(answer.reason.data(), static_cast<qsizetype>(length)));
+    Reason reason;
+    if (length > 0) {
+        in >> reason;
+    }
+    return in.status() == QDataStream::Ok && in.atEnd() ? std::optional(reason) : std::nullopt;
 }
 
 }  // namespace varnel

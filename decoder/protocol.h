@@ -8,9 +8,9 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "decoder/file_metadata.h"
 #include "decoder/loaded_picture.h"
@@ -28,7 +28,7 @@ struct DecoderRequest {
     bool upright = true;
 };
 
-inline constexpr std::size_t longestReason = 1000;  // bytes of UTF-8
+inline constexpr std::size_t longestReason = 2000;  // bytes
 
 // In place of an outcome: the decoder tried a system call that is forbidden to it, of that number,
 // and is dead. Whoever says so is not asked again.
@@ -46,7 +46,7 @@ struct DecoderAnswer {
     std::uint32_t metadataFollows = 0;  // not 0: they come with a second answer
     std::int32_t orientation = 1;       // as in LoadedPicture
     std::uint32_t reasonLength = 0;
-    std::array<char, longestReason> reason{};
+    std::array<char, longestReason> reason{};  // its code and arguments as a stream
 };
 
 // Bytes that the rows take.
@@ -64,8 +64,10 @@ bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
 bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
                         std::uint64_t memoryFileLength);
 
-// The reason's text; whatever its bytes are.
-QString ReasonOf(const DecoderAnswer& answer);
+// Puts the reason into the answer, its texts cut where it would be too long, and takes it out
+// again: nothing when its bytes are no sound reason.
+void SetReason(DecoderAnswer& answer, const Reason& reason);
+std::optional<Reason> ReasonOf(const DecoderAnswer& answer);
 
 // Resolution, colour profile and comments as one block of bytes, and back. Taking a block gives
 // back whatever of it is sound and drops the rest; any bytes may be given.

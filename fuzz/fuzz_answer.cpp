@@ -23,7 +23,9 @@ void CheckAnswer(const std::uint8_t* data, std::size_t size) {
         if (rows > length || answer.extrasLength > length - rows) {
             std::abort();
         }
-        varnel::ReasonOf(answer);
+        if (!varnel::ReasonOf(answer)) {
+            std::abort();
+        }
     }
 }
 

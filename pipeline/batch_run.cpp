@@ -32,7 +32,7 @@ struct Turn {
     BitmapHandle result{};
     QString path{};     // where it is written; empty when the photo could not be loaded
     QString trouble{};  // why it is not written; empty when it is
-    QString damage{};   // of the photo; empty when it is sound
+    Reason damage{};    // of the photo; empty when it is sound
     bool announced = false;
     float maximum = 0.0F;  // of its progress; 0 until it begins
     bool rendered = false;
@@ -77,10 +77,10 @@ class Run : private RenderProgress {
             if (Load(SourcePath(entry))) {
                 LoadedConvert(entry);
             } else {
-                turn_.trouble = source_.reason;
+                turn_.trouble = ToldReason(source_.reason);
             }
         } catch (const std::bad_alloc&) {
-            turn_.trouble = Texts::tr("there is not enough memory");
+            turn_.trouble = ToldReason(ReasonCode::NotEnoughMemory);
         } catch (const std::exception& error) {  // RunTimeError among them
             turn_.trouble = ToldReason(error.what());
         }
@@ -250,7 +250,7 @@ class Run : private RenderProgress {
         summary_.written.append(turn.path);
         summary_.entries.append(turn.entry);
         if (!turn.damage.isEmpty()) {
-            summary_.damaged.push_back({SourcePath(queue_(turn.entry)), turn.damage});
+            summary_.damaged.push_back({SourcePath(queue_(turn.entry)), ToldReason(turn.damage)});
         }
         targets_.NoteWritten(turn.path, !turn.damage.isEmpty());
     }
@@ -341,11 +341,7 @@ QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
 
 BatchPorts BatchPortsFor(PhotoFeed& feed) {
     BatchPorts ports;
-    ports.load = [&feed](const QString& path) {
-        LoadedPicture picture = feed.Take(path);
-        picture.reason = ToldReason(picture.reason);
-        return picture;
-    };
+    ports.load = [&feed](const QString& path) { return feed.Take(path); };
     ports.cores = feed.Cores();
     ports.aheadAtMost = feed.Ahead();
     if (ports.aheadAtMost > 0) {

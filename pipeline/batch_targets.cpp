@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include "state/told_reason.h"
+
 namespace varnel {
 
 namespace {
@@ -29,8 +31,7 @@ QStringList PhotosOf(const RecordArray<ImageRecord>& queue) {
 
 BatchTargets::BatchTargets(const RecordArray<ImageRecord>& queue) : queued_(PhotosOf(queue)) {}
 
-QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path,
-                              const QString& damage) {
+QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path, const Reason& damage) {
     if (!QFileInfo::exists(path)) {
         return {};
     }
@@ -42,7 +43,7 @@ QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path,
     }
     if (!damage.isEmpty() && !halfPictures_.contains(path)) {
         return Texts::tr("the photo is damaged (%1) and does not replace the older %2")
-            .arg(damage, path);
+            .arg(ToldReason(damage), path);
     }
     return {};
 }

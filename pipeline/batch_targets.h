@@ -19,7 +19,7 @@ class BatchTargets {
     explicit BatchTargets(const RecordArray<ImageRecord>& queue);
     // Why that photo's conversion is not written under the path; empty when it may be. The damage
     // is empty for a sound photo.
-    QString Trouble(const ImageRecord& entry, const QString& path, const QString& damage);
+    QString Trouble(const ImageRecord& entry, const QString& path, const Reason& damage);
     void NoteWritten(const QString& path, bool damaged);
 
   private:

@@ -167,9 +167,9 @@ void FormStretch::Open(const QString& path) {
         return;
     }
     if (!copy) {
-        notices_.Tell(
-            tr("Could not open image"),
-            QStringLiteral("%1: %2").arg(path, shortage.isEmpty() ? loaded.reason : shortage));
+        notices_.Tell(tr("Could not open image"),
+                      QStringLiteral("%1: %2").arg(
+                          path, shortage.isEmpty() ? ToldReason(loaded.reason) : shortage));
         return;
     }
     path_ = path;
@@ -180,7 +180,7 @@ void FormStretch::Open(const QString& path) {
     ui_->LabelFile->setToolTip(path);
     ui_->LabelStatus->setText(loaded.reason.isEmpty()
                                   ? tr("%1 x %2 pixels").arg(size.width).arg(size.height)
-                                  : loaded.reason);
+                                  : ToldReason(loaded.reason));
     ui_->CmdSave->setEnabled(true);
     fitTimer_.start();
 }

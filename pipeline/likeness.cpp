@@ -86,7 +86,7 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, P
 }
 
 void NoteIfBad(const QString& path, PhotoLoader& photos, AddedFiles& added) {
-    if (const QString trouble = photos.Trouble(path); !trouble.isEmpty()) {
+    if (const Reason trouble = photos.Trouble(path); !trouble.isEmpty()) {
         added.bad.push_back({path, trouble});
     }
 }

@@ -33,7 +33,8 @@ std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QStr
 
 // A file that no picture can be had of.
 struct BadFile {
-    QString path, reason;
+    QString path;
+    Reason reason;
 };
 
 struct AddedFiles {

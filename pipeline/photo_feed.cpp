@@ -90,7 +90,7 @@ LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
     wait_.End();
     if (!goesOn) {
         photo.reader->Cancel();
-        return LoadedPicture::Refused(readingCancelled.toString());
+        return LoadedPicture::Refused(ReasonCode::Cancelled);
     }
     return photo.reader->Take();
 }

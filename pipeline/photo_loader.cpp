@@ -3,11 +3,9 @@
 
 #include "pipeline/photo_loader.h"
 
-#include <QCoreApplication>
 #include <QScopeGuard>
 
 #include "state/gear_assignment.h"
-#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -33,8 +31,7 @@ bool PhotoLoader::Continue() {
 
 LoadedPicture PhotoLoader::Read(ReadRequest request) {
     if (reading_) {
-        return LoadedPicture::Refused(
-            QCoreApplication::translate("PhotoLoader", "another photo is being read"));
+        return LoadedPicture::Refused(ReasonCode::AnotherIsRead);
     }
     reading_ = true;
     request.upright = settings_ == nullptr || settings_->AutoOrient;
@@ -43,9 +40,7 @@ LoadedPicture PhotoLoader::Read(ReadRequest request) {
         EndWait();
         reading_ = false;
     });
-    LoadedPicture picture = ReadPicture(reader_, request, [this] { return Continue(); });
-    picture.reason = ToldReason(picture.reason);
-    return picture;
+    return ReadPicture(reader_, request, [this] { return Continue(); });
 }
 
 LoadedPicture PhotoLoader::Load(const QString& path) {
@@ -59,9 +54,9 @@ std::optional<PhotoSize> PhotoLoader::Size(const QString& path) {
                : std::optional(PhotoSize{picture.size, picture.orientation});
 }
 
-QString PhotoLoader::Trouble(const QString& path) {
+Reason PhotoLoader::Trouble(const QString& path) {
     const LoadedPicture picture = Read({path, ReadKind::Size, {}});
-    return picture.outcome == LoadOutcome::NotLoaded && !givenUp_ ? picture.reason : QString();
+    return picture.outcome == LoadOutcome::NotLoaded && !givenUp_ ? picture.reason : Reason();
 }
 
 PhotoFacts PhotoLoader::Facts(const QString& path) {

@@ -99,7 +99,7 @@ LoadedPicture ReadingThread::Read(const ReadRequest& request) {
     try {
         return ReadPicture(Reader(), request, [this] { return !IsGivenUp(); });
     } catch (const std::bad_alloc&) {
-        return LoadedPicture::Refused(QStringLiteral("there is not enough memory"));
+        return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
     }
 }
 

@@ -4,7 +4,6 @@
 #include "pipeline/save_worker.h"
 #include "state/told_reason.h"
 
-#include <QCoreApplication>
 #include <chrono>
 #include <exception>
 #include <new>
@@ -19,7 +18,7 @@ SaveResult Done(const SaveWorker::Job& job) {
     try {
         return job();
     } catch (const std::bad_alloc&) {
-        return {false, QCoreApplication::translate("Batch", "there is not enough memory")};
+        return {false, ToldReason(ReasonCode::NotEnoughMemory)};
     } catch (const std::exception& error) {
         return {false, ToldReason(error.what())};
     }

@@ -52,8 +52,8 @@ LibraryMessages::~LibraryMessages() {
     Collector() = nullptr;
 }
 
-QString LibraryMessages::Added(const QString& text) const {
-    return lines_.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, lines_.last());
+Reason LibraryMessages::Added(const Reason& reason) const {
+    return lines_.isEmpty() ? reason : Reason(ReasonCode::Added, reason, lines_.last());
 }
 
 }  // namespace varnel

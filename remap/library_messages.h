@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include "state/reason.h"
+
 namespace varnel {
 
 // Collects the messages of this thread's library calls while it lives. Only one may live in a
@@ -20,8 +22,8 @@ class LibraryMessages {
     LibraryMessages& operator=(const LibraryMessages&) = delete;
 
     const QStringList& Lines() const { return lines_; }
-    // The text with the last message, if there was one, in brackets.
-    QString Added(const QString& text) const;
+    // The reason with the last message, if there was one.
+    Reason Added(const Reason& reason) const;
 
   private:
     QStringList lines_;

@@ -1,20 +1,24 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The reasons that the rooms without translations give, in the language of the window. The decoder
-// is a process of its own, the geometry and the files know no user, and the settings are read
-// before the language is known: they all speak English, and programs for the console leave it so.
+// The one place where reasons become text.
 #pragma once
 
 #include <QString>
 
+#include "state/reason.h"
+
 namespace varnel {
 
-// The same text, word for word, when no translation is installed, and for anything that none of
-// those rooms says. Several reasons stand with "; " between them.
-QString ToldReason(const QString& reason);
+// In the language whose translation is installed; in English where none is, as in the programs for
+// the console. Words of libraries and of the system stay as they are. Empty when all is well.
+QString ToldReason(const Reason& reason);
 
-// As an exception tells it.
+// For reasons that are still sentences.
+QString ToldReason(const QString& reason);
 QString ToldReason(const char* what);
+
+// How many arguments the text of a code has places for. The code is one that there is.
+int PlacesIn(ReasonCode code);
 
 }  // namespace varnel

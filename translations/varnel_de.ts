@@ -36,10 +36,6 @@
         <translation>Die Bilder können bis zu %1 brauchen, dort sind aber nur %2 frei.</translation>
     </message>
     <message>
-        <source>there is not enough memory</source>
-        <translation>der Speicher reicht nicht</translation>
-    </message>
-    <message>
         <source>could not write %1: %2</source>
         <translation>%1 konnte nicht geschrieben werden: %2</translation>
     </message>
@@ -137,10 +133,6 @@
     <message>
         <source>%1 x %2 pixels</source>
         <translation>%1 x %2 Pixel</translation>
-    </message>
-    <message>
-        <source>there is not enough memory</source>
-        <translation>der Speicher reicht nicht</translation>
     </message>
     <message>
         <source>There is not enough memory.</source>
@@ -1274,13 +1266,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>PhotoLoader</name>
-    <message>
-        <source>another photo is being read</source>
-        <translation>es wird gerade ein anderes Foto gelesen</translation>
-    </message>
-</context>
-<context>
     <name>PhotoMarks</name>
     <message>
         <source>adjusted</source>
@@ -1848,6 +1833,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>damaged: the decoder tried something forbidden</source>
         <translation>beschädigt: Der Dekoder hat Verbotenes versucht</translation>
+    </message>
+    <message>
+        <source>another photo is being read</source>
+        <translation>es wird gerade ein anderes Foto gelesen</translation>
     </message>
 </context>
 <context>

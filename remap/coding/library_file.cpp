@@ -13,6 +13,7 @@
 
 #include "remap/bitmap.h"
 #include "remap/library_messages.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -128,7 +129,7 @@ QString Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFil
         return file.Trouble();
     }
     if (!done || file.Bytes().isEmpty() || CutByLibrary(messages.Lines())) {
-        return messages.Added(QStringLiteral("the picture could not be encoded"));
+        return ToldReason(messages.Added(ReasonCode::CannotBeEncoded));
     }
     return {};
 }

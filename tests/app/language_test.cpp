@@ -167,8 +167,8 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
         OpenProject(Q(VARNEL_SOURCES "/README.md")).trouble,
         StepName(SliderId::Z),
         ToldReason("Overflow: TranslateX does not fit 32 bits"),
-        ToldReason(readingCancelled.toString()),
-        BatchPortsFor(feed).load(Q("/no/such.jpg")).reason,
+        ToldReason(ReasonCode::Cancelled),
+        ToldReason(BatchPortsFor(feed).load(Q("/no/such.jpg")).reason),
         ToldReason(Q("/x/y: the settings cannot be read (Not a regular file); without a copy they "
                      "begin afresh")),
     };

@@ -19,6 +19,7 @@
 #include "decoder/confinement.h"
 #include "decoder/decoder_reader.h"
 #include "decoder/protocol.h"
+#include "state/told_reason.h"
 #include "tests/support/described_files.h"
 #include "tests/support/files.h"
 #include "tests/support/texts.h"
@@ -49,7 +50,7 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
     DecoderReader reader({});
     for (int round = 0; round < 3; ++round) {
         const LoadedPicture picture = ReadPicture(reader, {folder.Path(Text("a"))});
-        ASSERT_TRUE(picture.bitmap) << picture.reason.toStdString();
+        ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
         FIBITMAP* const bitmap = picture.bitmap.get();
         EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
         EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
@@ -87,7 +88,8 @@ TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
         while (!reader.Wait(50)) {
         }
         const LoadedPicture picture = reader.Take();
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << n << picture.reason.toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
+            << n << ToldReason(picture.reason).toStdString();
         EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), whole.bitmap.get()));
     }
 }
@@ -116,7 +118,8 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
         timer.start();
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
-        EXPECT_TRUE(picture.reason.startsWith(Text(row.reason))) << picture.reason.toStdString();
+        const QString reason = ToldReason(picture.reason);
+        EXPECT_TRUE(reason.startsWith(Text(row.reason))) << reason.toStdString();
         EXPECT_LT(timer.elapsed(), 20'000);
     }
     const struct {
@@ -131,7 +134,7 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
     };
     for (const auto& row : dying) {
         DecoderReader reader({.program = Impostor(folder, row.script)});
-        EXPECT_EQ(ReadPicture(reader, {photo}).reason.toStdString(), row.reason);
+        EXPECT_EQ(ToldReason(ReadPicture(reader, {photo}).reason).toStdString(), row.reason);
     }
 }
 
@@ -140,7 +143,7 @@ TEST(DecoderReader, CanBeCancelledAndGoesOnWithTheNextPhoto) {
     const QString photo = folder.Picture(Text("a.jpg"), FIF_JPEG, {2000, 1500});
     DecoderReader reader({});
     const LoadedPicture given = ReadPicture(reader, {photo}, [] { return false; });
-    EXPECT_TRUE(given.bitmap || given.reason == Text("cancelled"));
+    EXPECT_TRUE(given.bitmap || given.reason.Is(ReasonCode::Cancelled));
     reader.Begin({photo});
     reader.Cancel();
     EXPECT_TRUE(ReadPicture(reader, {photo}).bitmap);
@@ -189,8 +192,7 @@ TEST(DecoderReader, TellsOfWhatItMayNotDoAndGoesOn) {
     testing::WriteFile(folder.Path(Text("b")), "sound");
     if (!sanitized && prctl(PR_GET_SECCOMP) >= 0) {
         EXPECT_EQ(ReadPicture(reader, {folder.Path(Text("a"))}).reason,
-                  Text("damaged: the decoder tried something forbidden (system call %1)")
-                      .arg(SYS_socket));
+                  Reason(ReasonCode::DecoderTriedForbiddenCall, SYS_socket));
     }
     EXPECT_TRUE(ReadPicture(reader, {folder.Path(Text("b"))}).bitmap);
 }
@@ -289,7 +291,14 @@ TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
         [](DecoderAnswer& a) { a.extrasLength = ~std::uint64_t{0} - 15'000; },
         [](DecoderAnswer& a) { a.orientation = 0; },
         [](DecoderAnswer& a) { a.orientation = 9; },
-        [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; }};
+        [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; },
+        [](DecoderAnswer& a) { a.reasonLength = 1; },
+        [](DecoderAnswer& a) { a.outcome = 1; },  // damaged, and yet no reason
+        [](DecoderAnswer& a) { SetReason(a, ReasonCode::FileCutShort); },
+        [](DecoderAnswer& a) {
+            a.outcome = 1;
+            SetReason(a, ReasonCode::Cancelled);
+        }};
     for (std::size_t n = 0; n < std::size(spoil); ++n) {
         DecoderAnswer spoilt = good;
         spoil[n](spoilt);
@@ -308,6 +317,17 @@ TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
     EXPECT_FALSE(Believable(good, small, length));
     small.kind = ReadKind::Size;
     EXPECT_FALSE(Believable(good, small, length));
+}
+
+TEST(ReasonOf, CutsOnlyTextsThatAreTooLong) {
+    for (const qsizetype length : {0, 512, 5000}) {
+        const QString words(length, QChar(0xFFFD));
+        DecoderAnswer answer;
+        SetReason(answer, {ReasonCode::Added, ReasonCode::CannotBeDecoded, words});
+        ASSERT_TRUE(ReasonOf(answer));
+        EXPECT_EQ(*ReasonOf(answer), Reason(ReasonCode::Added, ReasonCode::CannotBeDecoded,
+                                            words.left(length > 512 ? 500 : length)));
+    }
 }
 
 TEST(TakeExtras, GivesWhatIsSoundOfAnyBytes) {

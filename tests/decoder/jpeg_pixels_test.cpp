@@ -29,7 +29,7 @@ struct Photo {
     BitmapHandle bitmap;
     QByteArray extras;
     QStringList messages;
-    QString damage;
+    Reason damage;
 
     void Finish(const PictureFile& file, const LibraryMessages& said) {
         messages = said.Lines();
@@ -83,7 +83,7 @@ std::optional<Photo> Directly(QByteArray bytes) {
 enum class Wanted { Read, Left, Any };
 
 // Returns the damage that both saw.
-QString ExpectAsByLibrary(const QByteArray& bytes, Wanted wanted) {
+Reason ExpectAsByLibrary(const QByteArray& bytes, Wanted wanted) {
     const std::optional<Photo> photo = Directly(bytes);
     if (wanted != Wanted::Any) {
         EXPECT_EQ(photo.has_value(), wanted == Wanted::Read);

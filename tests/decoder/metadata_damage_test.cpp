@@ -12,6 +12,7 @@
 
 #include "decoder/decoder_reader.h"
 #include "remap/encode_bitmap.h"
+#include "state/told_reason.h"
 #include "tests/support/described_files.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/files.h"
@@ -81,7 +82,7 @@ class MetadataTrial {
         const LoadedPicture picture = Read(kind_.file(blocks));
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
         slowest_ = std::max(slowest_, timer.elapsed());
-        EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
+        EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
         if (!picture.bitmap) {
             return "lost";
         }
@@ -109,7 +110,7 @@ class MetadataTrial {
         for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_TIFF, FIF_PNG}) {
             const EncodedBitmap file = EncodeBitmap(format, bitmap, 0);
             const LoadedPicture again = Read(file.bytes);
-            EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << again.reason.toStdString();
+            EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << ToldReason(again.reason).toStdString();
             if (again.bitmap) {
                 EXPECT_TRUE(format == FIF_JPEG || PixelBytes(again.bitmap.get()) == sound_)
                     << format;
@@ -258,7 +259,7 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
         timer.start();
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
         EXPECT_EQ(PixelBytes(picture.bitmap.get()), QByteArray(24, 'p'));
         EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, QStringList{allLost});
     }

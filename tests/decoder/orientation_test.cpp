@@ -9,6 +9,7 @@
 
 #include "remap/coding/library_file.h"
 #include "remap/turn.h"
+#include "state/told_reason.h"
 #include "tests/decoder/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/file_bytes.h"
@@ -113,7 +114,7 @@ TEST(DecodePicture, TurnsEveryTypeOnceAndSaysSo) {
         for (const QByteArray& file : files) {
             SCOPED_TRACE(::testing::Message() << orientation << file.left(4).constData());
             const LoadedPicture picture = Decode(file, {});
-            ASSERT_TRUE(picture.bitmap) << picture.reason.toStdString();
+            ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
             EXPECT_EQ(Letters(picture.bitmap.get()), shown[orientation - 1]);
             EXPECT_EQ(picture.orientation, orientation);
             EXPECT_EQ(picture.size.height, orientation < 5 ? 2 : 3);

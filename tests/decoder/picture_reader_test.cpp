@@ -9,6 +9,7 @@
 
 #include <QFile>
 
+#include "state/told_reason.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
@@ -30,7 +31,7 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
         const QString path = folder.Picture(Text("Küste %1.jpg").arg(format), format);
         const LoadedPicture picture = LoadPicture(path);
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << picture.reason.toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
         EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
         EXPECT_EQ(SizeAt(path).height, 40);
@@ -65,7 +66,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
             const LoadedPicture picture =
                 ReadPicture(testing::Reader(), {folder.Path(Text(name)), kind, {108, 72}});
             EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << name;
-            EXPECT_EQ(picture.reason.toStdString(), reason);
+            EXPECT_EQ(ToldReason(picture.reason).toStdString(), reason);
             EXPECT_FALSE(picture.bitmap);
         }
     }
@@ -82,8 +83,8 @@ TEST(PictureReader, AFileWithoutPermissionSaysSo) {
             if (geteuid() == 0 && setuid(65534) != 0) {
                 std::_Exit(2);
             }
-            const QString reason = ReadPicture(*NewPictureReader(), {path}).reason;
-            std::_Exit(reason == Text("no permission to read it") ? 0 : 1);
+            const Reason reason = ReadPicture(*NewPictureReader(), {path}).reason;
+            std::_Exit(reason.Is(ReasonCode::NoPermissionToRead) ? 0 : 1);
         },
         ::testing::ExitedWithCode(0), "");
 }

@@ -174,7 +174,7 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
     queue(4).EffectVarnel = 1e30F;
     const auto load = [](const QString& path) {
         return path.contains(u'5') || path.contains(u'6')
-                   ? LoadedPicture::Refused(Text("unreadable"))
+                   ? LoadedPicture::Refused(ReasonCode::CannotBeOpened)
                    : LoadedPicture{
                          LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     };
@@ -215,7 +215,7 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
     queue(5).Ratio = 0.0F;
     ports.load = [this](const QString& path) {
         if (path.contains(u"unreadable")) {
-            return LoadedPicture::Refused(Text("cannot be read"));
+            return LoadedPicture::Refused(ReasonCode::CannotBeOpened);
         }
         if (path.contains(u"memory")) {
             throw std::bad_alloc();
@@ -233,7 +233,7 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
     EXPECT_EQ(log.filter(Text("of 7 images")).size(), 7);
     ASSERT_EQ(summary.failures.size(), 6U);
     const char* const reasons[] = {
-        "cannot be read",          "there is not enough memory",
+        "it cannot be opened",     "there is not enough memory",
         "the library's own words", "Overflow: the effect",
         "Division by zero: ",      "could not write /out/disk.Varnel.JPG: disk full"};
     for (std::size_t n = 0; n < summary.failures.size(); ++n) {

@@ -5,8 +5,10 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 
+#include "state/told_reason.h"
 #include "tests/support/files.h"
 
 namespace varnel::testing {
@@ -17,10 +19,13 @@ Verdict VerdictOf(const LoadedPicture& picture) {
     if (picture.outcome != LoadOutcome::NotLoaded) {
         return picture.outcome == LoadOutcome::Loaded ? Verdict::Loaded : Verdict::Damaged;
     }
-    if (picture.reason.startsWith(u"took too long")) {
+    if (picture.reason.Is(ReasonCode::TookTooLong)) {
         return Verdict::TooLong;
     }
-    const bool died = picture.reason.contains(u"the decoder");
+    constexpr std::array deaths{ReasonCode::DecoderDied, ReasonCode::DecoderGaveUp,
+                                ReasonCode::DecoderEndedBySystem, ReasonCode::DecoderNotStarted,
+                                ReasonCode::DecoderMakesNoSense};
+    const bool died = std::ranges::find(deaths, picture.reason.Code()) != deaths.end();
     return died ? Verdict::Died : Verdict::Refused;
 }
 
@@ -42,7 +47,8 @@ QString WritingTrouble(FIBITMAP* picture) {
 
 QString Trouble(const LoadedPicture& picture) {
     if ((picture.outcome == LoadOutcome::Loaded) != picture.reason.isEmpty()) {
-        return QStringLiteral("a reason exactly when not all is well: \"%1\"").arg(picture.reason);
+        return QStringLiteral("a reason exactly when not all is well: \"%1\"")
+            .arg(ToldReason(picture.reason));
     }
     if ((picture.outcome != LoadOutcome::NotLoaded) != static_cast<bool>(picture.bitmap)) {
         return QStringLiteral("a picture exactly when one was loaded");

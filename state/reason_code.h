@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Everything that can be wrong with a photo, a number, a written file or the settings. What each
+// one says stands in told_reason.cpp, in the same order.
+#pragma once
+
+#include <cstdint>
+
+namespace varnel {
+
+enum class ReasonCode : std::uint16_t {
+    None,         // all is well
+    Words,        // somebody else's: of the system, of a library
+    SystemError,  // a number of errno's
+    Added,        // a reason and somebody else's words about it
+    Of,           // a file or folder and what is wrong with it
+    Several,      // reasons one after the other
+    // remap: numbers that make no picture. The value that does not fit, or the divisor
+    OverflowOf32Bits,
+    OverflowOf16Bits,
+    OverflowOfSingle,
+    DividedByZero,
+    DividedByNoNumber,
+    DivisionByZero,
+    // what those numbers are called
+    OneFrameHasNoSteps,
+    HalfPictureWidth,
+    TangentOfHalfAngle,
+    SineOfHalfAngle,
+    ReferenceRadius,
+    RowDivisorOfWidePicture,
+    RowDivisor,
+    PictureSide,
+    ProgressValue,
+    Scale,
+    Effect,
+    RotationAngle,
+    AngleInRadians,
+    EffectiveAngle,
+    CircleRadius,
+    Translation,
+    Side,
+    PreviewSide,
+    ImageNumber,
+    OutputColumn,
+    OutputRow,
+    OutputPosition,
+    // remap: written files
+    NotEnoughMemory,
+    NoPicture,
+    CannotBeEncoded,
+    NoPlaceForMetadata,
+    FileTooLarge,
+    ExifTooLong,
+    PartOfExifTooLong,
+    XmpTooLong,
+    IptcTooLong,
+    SettingsTooLong,
+    NoPlaceForSettings,
+    NotInSuchTiff,
+    MetadataUnreadable,
+    KindUnreadable,
+    WithoutProfile,
+    WithoutMetadata,
+    BmpHoldsNoMetadata,
+    BmpHoldsNoSettings,
+    BmpHoldsNoProfile,
+    BmpHoldsNoMetadataOrSettings,
+    BmpHoldsNoMetadataOrProfile,
+    BmpHoldsNoSettingsOrProfile,
+    BmpHoldsPixelsOnly,
+    // decoder
+    NoSuchFile,
+    LinkLeadsNowhere,
+    IsFolder,
+    IsNoRegularFile,
+    NoPermissionToRead,
+    FileEmpty,
+    CannotBeOpened,
+    NoKnownType,
+    NoPixels,
+    CannotBeDecoded,
+    NoTrueColour,
+    SideTooLong,
+    TooManyPixels,
+    TooLargeForQuickLook,
+    Cancelled,
+    AnotherIsRead,
+    TookTooLong,
+    NoMemoryToBeHad,
+    DecoderNotStarted,
+    DecoderEndsAtOnce,
+    DecoderEndedBySystem,
+    DecoderDied,
+    DecoderGaveUp,
+    DecoderTriedForbiddenCall,
+    DecoderTriedForbidden,
+    DecoderMakesNoSense,
+    RawUnreadable,
+    FileCutShort,
+    Damaged,
+    // state: files that are replaced as a whole
+    NotRegular,
+    WhileCreating,
+    WhileSettingPermissions,
+    WhileSyncingFolder,
+    WhileSyncing,
+    WhileWriting,
+    WhileClosing,
+    WhileRenaming,
+    // state: the settings file
+    SettingsUnwritable,
+    SettingsUnreadable,
+    SettingsDamaged,
+    SettingsDamagedAndKept,
+    CopyIsUsed,
+    SettingsBeginAfresh,
+    RestIsUsed,
+    AllNamesTaken,
+    NotSetAside,
+    FolderNotMade,
+    SettingsLocked,
+    GearTitleLost,
+    GearNumberMissing,
+    GearMissing,
+    DefaultGearMissing,
+    NotUtf8,
+    TextCutShort,
+    LineIsNoSetting,
+    SettingsEmpty,
+    Count  // of the codes; none itself
+};
+
+}  // namespace varnel

@@ -10,6 +10,7 @@
 #include "app/hourglass.h"
 #include "app/scoped.h"
 #include "pipeline/preview_size.h"
+#include "remap/error_reason.h"
 #include "remap/run_time_error.h"
 #include "state/gear_assignment.h"
 #include "state/shortage.h"
@@ -164,7 +165,7 @@ void Desk::RenderThumbnail(const ImageRecord& image) {
         view_.ShowResult(state_.bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);
-        view_.ShowStatus(ToldReason(error.what()));
+        view_.ShowStatus(ToldReason(ReasonFor(error)));
     } catch (const std::bad_alloc&) {
         view_.ShowResult(nullptr);
         view_.ShowStatus(ShortageText(Scarce::Memory));

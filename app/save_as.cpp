@@ -10,6 +10,7 @@
 #include "app/scoped.h"
 #include "pipeline/output_name.h"
 #include "pipeline/output_type.h"
+#include "remap/error_reason.h"
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "remap/save_bitmap.h"
@@ -50,7 +51,7 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
     } catch (const SavingCancelled&) {
         return {};
     } catch (const RunTimeError& error) {
-        return {false, ToldReason(error.what())};
+        return {false, ToldReason(ReasonFor(error))};
     } catch (const std::bad_alloc&) {
         return {false, Texts::tr("There is not enough memory.")};
     }

@@ -19,6 +19,7 @@
 #include "pipeline/photo_feed.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/error_reason.h"
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "state/told_reason.h"
@@ -267,7 +268,7 @@ class Conversions {
             }
             BeginWriting(target, photo, report);
         } catch (const RunTimeError& error) {
-            FailedResult(report, QString::fromUtf8(error.what()));
+            FailedResult(report, ToldReason(ReasonFor(error)));
         } catch (const std::bad_alloc&) {
             FailedResult(report, ToldReason(ReasonCode::NotEnoughMemory) +
                                      Advice(QStringLiteral("; --jobs 1 takes less")));

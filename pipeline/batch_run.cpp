@@ -13,6 +13,7 @@
 #include "pipeline/lending_steps.h"
 #include "pipeline/save_worker.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/error_reason.h"
 #include "remap/photo_metadata.h"
 #include "remap/run_time_error.h"
 #include "state/picture_settings.h"
@@ -79,10 +80,8 @@ class Run : private RenderProgress {
             } else {
                 turn_.trouble = ToldReason(source_.reason);
             }
-        } catch (const std::bad_alloc&) {
-            turn_.trouble = ToldReason(ReasonCode::NotEnoughMemory);
-        } catch (const std::exception& error) {  // RunTimeError among them
-            turn_.trouble = ToldReason(error.what());
+        } catch (const std::exception& error) {
+            turn_.trouble = ToldReason(ReasonFor(error));
         }
         if (!NextHasSamePhoto()) {
             DropSource();  // encoding needs room of its own

@@ -12,6 +12,7 @@
 
 #include "pipeline/preview_size.h"
 #include "pipeline/slider_binding.h"
+#include "remap/error_reason.h"
 #include "remap/paint.h"
 #include "remap/render.h"
 #include "remap/rounding.h"
@@ -209,8 +210,8 @@ void FormMorph::SetUpPictures(FIBITMAP* previewSource) {
     }
     if (previewSource != nullptr) {
         const double ratio = devicePixelRatioF() * drawnLarger;
-        const PixelSize box{CLng(pictureBox.width * ratio, "a side"),
-                            CLng(pictureBox.height * ratio, "a side")};
+        const PixelSize box{CLng(pictureBox.width * ratio, ReasonCode::Side),
+                            CLng(pictureBox.height * ratio, ReasonCode::Side)};
         const QString shortage = Shortage([&] {
             bitmaps_.PreviewSourceBitmap =
                 ReducedCopy(previewSource, PreviewSize(SizeOf(previewSource), box, box));
@@ -250,7 +251,7 @@ void FormMorph::ShowFrameCount() {
         const double way = (ui_->SliderScrub->value() - 1.0) / std::max(before - 1, 1);
         ui_->SliderScrub->setRange(1, N);
         ui_->SliderScrub->setPageStep(std::max(N / 10, 1));
-        ui_->SliderScrub->setValue(1 + CLng(way * (N - 1), "an image"));
+        ui_->SliderScrub->setValue(1 + CLng(way * (N - 1), ReasonCode::ImageNumber));
     }
     ShowBetweenTitle();
     DrawLater(Between);
@@ -296,7 +297,7 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
                 InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
         });
     } catch (const RunTimeError& error) {
-        trouble = ToldReason(error.what());
+        trouble = ToldReason(ReasonFor(error));
     }
     if (!trouble.isEmpty()) {
         label.setText(trouble);
@@ -315,7 +316,7 @@ void FormMorph::AddFrames() {
     try {
         AddMorph(queue_, image_, ends_, N);
     } catch (const RunTimeError& error) {
-        notices_.Tell(tr("No images were added"), ToldReason(error.what()));
+        notices_.Tell(tr("No images were added"), ToldReason(ReasonFor(error)));
         return;
     } catch (const std::bad_alloc&) {
         notices_.Tell(tr("No images were added"), ShortageText(Scarce::Memory));

@@ -69,8 +69,8 @@ QString LocalFileOf(const QMimeData& dropped) {
 }
 
 PixelSize PixelsOf(QSize logical, double ratio) {
-    return {std::max(CLng(logical.width() * ratio, "a side"), 1),
-            std::max(CLng(logical.height() * ratio, "a side"), 1)};
+    return {std::max(CLng(logical.width() * ratio, ReasonCode::Side), 1),
+            std::max(CLng(logical.height() * ratio, ReasonCode::Side), 1)};
 }
 
 }  // namespace

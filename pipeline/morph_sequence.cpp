@@ -44,7 +44,7 @@ bool Moves(const MovedField& moved, Projection projection) {
 // How far frame i is on its way, 0 to 1.
 float Progress(int i, int N) {
     if (N == 1) {
-        throw DivisionByZeroError("a sequence of one frame has no steps");
+        throw DivisionByZeroError(ReasonCode::DivisionByZero, ReasonCode::OneFrameHasNoSteps);
     }
     return static_cast<float>((i - 1) / static_cast<double>(N - 1));
 }

@@ -9,22 +9,23 @@ namespace varnel {
 
 namespace {
 
-QString Whole(float value, const char* name) {
+QString Whole(float value, ValueName name) {
     return QString::number(CLng(static_cast<double>(value), name));
 }
 
 // The last three characters of "00" and the number.
-QString Padded(float value, const char* name) {
+QString Padded(float value, ValueName name) {
     return (QStringLiteral("00") + Whole(value, name)).right(3);
 }
 
 QString EffectTag(float effect) {
-    return effect == 100.0F ? QString() : QStringLiteral("_Eff") + Padded(effect, "the effect");
+    return effect == 100.0F ? QString()
+                            : QStringLiteral("_Eff") + Padded(effect, ReasonCode::Effect);
 }
 
 QString TurnTag(const char16_t* tag, float degrees) {
     return degrees == 0.0F ? QString()
-                           : QString::fromUtf16(tag) + Whole(degrees, "a rotation angle");
+                           : QString::fromUtf16(tag) + Whole(degrees, ReasonCode::RotationAngle);
 }
 
 // Of a name or of a path, whose folders stay as they are.

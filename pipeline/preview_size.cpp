@@ -13,7 +13,7 @@ namespace varnel {
 namespace {
 
 std::int32_t Scaled(std::int32_t side, std::int32_t numerator, std::int32_t denominator) {
-    return CLng(static_cast<double>(side) * numerator / denominator, "a preview side");
+    return CLng(static_cast<double>(side) * numerator / denominator, ReasonCode::PreviewSide);
 }
 
 }  // namespace

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "pipeline/save_worker.h"
+#include "remap/error_reason.h"
 #include "state/told_reason.h"
 
 #include <chrono>
 #include <exception>
-#include <new>
 #include <system_error>
 #include <utility>
 
@@ -17,10 +17,8 @@ namespace {
 SaveResult Done(const SaveWorker::Job& job) {
     try {
         return job();
-    } catch (const std::bad_alloc&) {
-        return {false, ToldReason(ReasonCode::NotEnoughMemory)};
     } catch (const std::exception& error) {
-        return {false, ToldReason(error.what())};
+        return {false, ToldReason(ReasonFor(error))};
     }
 }
 

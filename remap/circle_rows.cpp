@@ -20,10 +20,10 @@ CircleRows MeasureCircle(const CircleView& view) {
     rows.centreX = CLng(rows.halfWidth + shift.x, "OfsetX");
     rows.centreY = CLng(view.source.height / 2 + shift.y, "OfsetY");
     const std::int32_t side = view.landscape ? view.source.width : view.source.height;
-    const std::int32_t fiftySides = CLng(50.0 * side, "the picture's side");
+    const std::int32_t fiftySides = CLng(50.0 * side, ReasonCode::PictureSide);
     rows.radius = ToSingle(fiftySides / NonZero(static_cast<double>(view.ratio), "Ratio") * 100.0 /
                                NonZero(static_cast<double>(view.effect), "EffectVarnel"),
-                           "the circle's radius");
+                           ReasonCode::CircleRadius);
     rows.lastColumn = CLng(std::fabs(shift.x) + rows.halfWidth, "OfsetX");
     rows.lastRow = CLng(std::fabs(shift.y) + rows.upperHalf, "OfsetY");
     return rows;

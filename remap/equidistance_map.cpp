@@ -41,7 +41,7 @@ EquidistanceMap::EquidistanceMap(const EquidistanceView& view)
       referenceRadius_(ReferenceRadiusOf(view)),
       pixelsPerMillimetre_(view.source.width /
                            NonZero(static_cast<double>(view.sensor.width), "SensorWidth")) {
-    NonZero(referenceRadius_, "the reference radius (from ImageCircleRadius and Ratio)");
+    NonZero(referenceRadius_, ReasonCode::ReferenceRadius);
     if (kind_ == LensKind::Tan) {
         NonZero(static_cast<double>(curve_.factor), "LensMapFactor");
     }

@@ -43,12 +43,12 @@ double PixelsPerUnit(std::int32_t sourceWidth, bool landscape, const SensorSize&
 
 float Radians(float degrees) {
     return ToSingle(static_cast<double>(degrees) * static_cast<double>(Pi) / 180.0,
-                    "the angle in radians");
+                    ReasonCode::AngleInRadians);
 }
 
 float EffectiveAngle(float outputAov, float effectPercent) {
     return ToSingle(static_cast<double>(outputAov) * static_cast<double>(effectPercent) / 100.0,
-                    "the effective angle of view");
+                    ReasonCode::EffectiveAngle);
 }
 
 double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor) {
@@ -57,7 +57,7 @@ double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor
         factor * static_cast<double>(outputAovDegrees) * static_cast<double>(Pi) / 180.0 / 2.0;
     const float effective = EffectiveAngle(Radians(outputAovDegrees), effectPercent);
     const double partial = std::sin(factor * static_cast<double>(effective) / 2.0);
-    return std::sin(full) / NonZero(partial, "the sine of LensMapFactor x OutputAOV x effect / 2");
+    return std::sin(full) / NonZero(partial, ReasonCode::SineOfHalfAngle);
 }
 
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {
@@ -68,10 +68,10 @@ CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {
 void CheckShift(const CentreShift& shift) {
     constexpr double limit = 5e8;  // sums of a few of these still fit 32 bits
     if (!(std::fabs(shift.x) <= limit)) {
-        throw OverflowError("OfsetX does not fit 32 bits");
+        throw OverflowError(ReasonCode::OverflowOf32Bits, "OfsetX");
     }
     if (!(std::fabs(shift.y) <= limit)) {
-        throw OverflowError("OfsetY does not fit 32 bits");
+        throw OverflowError(ReasonCode::OverflowOf32Bits, "OfsetY");
     }
 }
 

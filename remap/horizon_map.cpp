@@ -16,18 +16,18 @@ double ColumnAngle(int column, std::int32_t halfWidth) {
         return static_cast<double>(-Pi / 2.0F);
     }
     const double pi = static_cast<double>(Pi);
-    return pi * column / NonZero(halfWidth, "half the picture's width") + 1.5 * pi;
+    return pi * column / NonZero(halfWidth, ReasonCode::HalfPictureWidth) + 1.5 * pi;
 }
 
 }  // namespace
 
 HorizonMap::HorizonMap(const CircleView& view)
     : rows_(MeasureCircle(view)),
-      rowDivisor_(
-          CLng(static_cast<double>(Pi) * rows_.upperHalf / view.source.width, "the row divisor")),
+      rowDivisor_(CLng(static_cast<double>(Pi) * rows_.upperHalf / view.source.width,
+                       ReasonCode::RowDivisor)),
       // With a vertical shift the covered rows are lopsided: the lower bound is |dY| - Hc.
       firstRadius_(CLng(std::fabs(rows_.shiftY) - rows_.upperHalf, "OfsetY")) {
-    NonZero(rowDivisor_, "the row divisor (the picture is more than three times as wide as high)");
+    NonZero(rowDivisor_, ReasonCode::RowDivisorOfWidePicture);
 }
 
 double HorizonMap::Angle(int column) const {
@@ -41,7 +41,7 @@ SourceOffset HorizonMap::At(int column, int radius) const {
 
 std::int32_t HorizonMap::OutputRow(int radius) const {
     const double step = static_cast<double>(-radius) / rowDivisor_;
-    return CLng(step + rows_.centreY, "an output row");
+    return CLng(step + rows_.centreY, ReasonCode::OutputRow);
 }
 
 }  // namespace varnel

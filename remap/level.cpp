@@ -176,7 +176,8 @@ std::optional<Ray> SourceRay(const RectilinearView& view, const SourceOffset& of
     if (distance == 0.0) {
         return Ray{0.0, 0.0, 1.0};
     }
-    const double theta = LensAngle(view.kind, distance / NonZero(scale, "the scale"), view.curve);
+    const double theta =
+        LensAngle(view.kind, distance / NonZero(scale, ReasonCode::Scale), view.curve);
     if (!(theta >= 0.0 && theta <= std::numbers::pi)) {
         return std::nullopt;
     }

@@ -11,7 +11,7 @@ namespace varnel {
 
 namespace {
 
-float Shift(float percent, std::int32_t side, const char* name) {
+float Shift(float percent, std::int32_t side, ValueName name) {
     return ToSingle(-(static_cast<double>(percent) * side / 100.0), name);
 }
 
@@ -28,7 +28,7 @@ RectilinearRadius::RectilinearRadius(const RectilinearView& view)
     scale_ *= EffectRatio(view.outputAov, view.effect, curve_.factor);
     const float angle = EffectiveAngle(Radians(view.outputAov), view.effect);
     tanHalfAngle_ = std::tan(static_cast<double>(angle) / 2.0);
-    tanStep_ = Round8(tanHalfAngle_ / NonZero(halfWidth_, "half the picture's width"));
+    tanStep_ = Round8(tanHalfAngle_ / NonZero(halfWidth_, ReasonCode::HalfPictureWidth));
 }
 
 double RectilinearRadius::AtAngle(double theta) const {
@@ -54,7 +54,7 @@ RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const 
     : radius_(view),
       rotation_(RotationAngles(move.rotateX, move.rotateY, move.rotateZ, view.effect)),
       focal_(radius_.HalfWidth() /
-             std::fabs(NonZero(radius_.TanHalfAngle(), "the tangent of half the angle of view"))),
+             std::fabs(NonZero(radius_.TanHalfAngle(), ReasonCode::TangentOfHalfAngle))),
       shiftX_(Shift(move.translateX, view.source.width, "TranslateX")),
       shiftY_(Shift(move.translateY, view.source.height, "TranslateY")) {}
 

@@ -40,7 +40,7 @@ void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress&
     const EquidistanceEngine engine = EngineOf(image, run);
     // 16 bits, so that a frame of 65534 columns or more ends with an overflow, which is better
     // found before the work.
-    const auto value = [left](int x) { return CInt(left + x + 1, "the progress value"); };
+    const auto value = [left](int x) { return CInt(left + x + 1, ReasonCode::ProgressValue); };
     value(0);
     DrawQuarters(run, engine, [&](int x) { run.Advance(value(x)); });
 }

@@ -49,7 +49,7 @@ void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderPro
     const RotatedEngine engine(run, map, centre);
     const auto value = [&](int x) {
         return CInt(x + (centre.left + 1.0) - static_cast<double>(map.ShiftX()),
-                    "the progress value");
+                    ReasonCode::ProgressValue);
     };
     value(engine.Columns().All().last);  // an overflow is better found before the work
     engine.FillTheRest();

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdint>
 #include <optional>
-#include <string>
 
 #include "remap/run_time_error.h"
 
@@ -35,28 +34,28 @@ inline double Round8(double x) {
 
 // Rounds to the nearest 32-bit whole number, ties to even. Throws OverflowError, naming the value,
 // when the result does not fit.
-inline std::int32_t CLng(double x, const char* name) {
+inline std::int32_t CLng(double x, ValueName name) {
     const double rounded = Round(x);
     if (!(rounded >= -2147483648.0 && rounded <= 2147483647.0)) {
-        throw OverflowError(std::string(name) + " does not fit 32 bits");
+        throw OverflowError(ReasonCode::OverflowOf32Bits, name);
     }
     return static_cast<std::int32_t>(rounded);
 }
 
 // As CLng for 16 bits.
-inline std::int16_t CInt(double x, const char* name) {
+inline std::int16_t CInt(double x, ValueName name) {
     const double rounded = Round(x);
     if (!(rounded >= -32768.0 && rounded <= 32767.0)) {
-        throw OverflowError(std::string(name) + " does not fit 16 bits");
+        throw OverflowError(ReasonCode::OverflowOf16Bits, name);
     }
     return static_cast<std::int16_t>(rounded);
 }
 
 // Rounds a double once to single precision. Throws OverflowError when it is beyond a float's range.
-inline float ToSingle(double x, const char* name) {
+inline float ToSingle(double x, ValueName name) {
     const float single = static_cast<float>(x);
     if (!std::isfinite(single)) {
-        throw OverflowError(std::string(name) + " does not fit a single-precision number");
+        throw OverflowError(ReasonCode::OverflowOfSingle, name);
     }
     return single;
 }

@@ -3,36 +3,54 @@
 
 // The errors that a conversion can end with because of its numbers: a whole number that does not
 // fit, a division by zero. They are thrown by the checked functions here and in rounding.h and
-// caught where one picture's conversion is started, never in between.
+// caught where one picture's conversion is started, never in between. What they say is told by
+// ReasonFor (error_reason.h): the geometry knows no texts.
 #pragma once
 
-#include <stdexcept>
-#include <string>
+#include <exception>
+
+#include "state/reason_code.h"
 
 namespace varnel {
 
-class RunTimeError : public std::runtime_error {
+// What a number is called: by the name of a record's field, which outlives every error, or in
+// words, which languages have their own of.
+struct ValueName {
+    ValueName(const char* itsField) : field(itsField) {}
+    ValueName(ReasonCode itsWords) : words(itsWords) {}
+
+    const char* field = "";
+    ReasonCode words = ReasonCode::None;
+};
+
+class RunTimeError : public std::exception {
   public:
-    using std::runtime_error::runtime_error;
+    RunTimeError(ReasonCode code, ValueName value) : code_(code), value_(value) {}
+    const char* what() const noexcept override { return "a number makes no picture"; }
+    ReasonCode Code() const { return code_; }
+    const ValueName& Value() const { return value_; }
+
+  private:
+    ReasonCode code_;
+    ValueName value_;
 };
 
 class OverflowError : public RunTimeError {
   public:
-    explicit OverflowError(const std::string& what) : RunTimeError("Overflow: " + what) {}
+    using RunTimeError::RunTimeError;
 };
 
 class DivisionByZeroError : public RunTimeError {
   public:
-    explicit DivisionByZeroError(const std::string& what)
-        : RunTimeError("Division by zero: " + what) {}
+    using RunTimeError::RunTimeError;
 };
 
 // Returns the divisor itself. Throws DivisionByZeroError, naming the divisor, when it is zero or
 // not a number.
-inline double NonZero(double divisor, const char* name) {
+inline double NonZero(double divisor, ValueName name) {
     if (!(divisor < 0.0 || divisor > 0.0)) {
-        throw DivisionByZeroError(std::string(name) + " is " +
-                                  (divisor == 0.0 ? "0" : "no number"));
+        throw DivisionByZeroError(
+            divisor == 0.0 ? ReasonCode::DividedByZero : ReasonCode::DividedByNoNumber, name);
     }
     return divisor;
 }

@@ -44,8 +44,8 @@ AxisOwners::AxisOwners(const LoopAxis& axis, std::int32_t size)
       owners_(static_cast<std::size_t>(size), none) {
     for (int n = 0; n < run_.Count(); ++n) {
         const int position = run_.first + n;
-        places_.push_back(
-            CLng(static_cast<double>(axis.centre) + position - axis.shift, "an output position"));
+        places_.push_back(CLng(static_cast<double>(axis.centre) + position - axis.shift,
+                               ReasonCode::OutputPosition));
         if (places_.back() >= 0 && places_.back() < size) {
             owners_[static_cast<std::size_t>(places_.back())] = position;
         }

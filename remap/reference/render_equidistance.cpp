@@ -18,7 +18,7 @@ void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress&
     const EquidistanceMap map(EquidistanceViewOf(image, run.Size()));
     for (std::int32_t x = -centre.left; x <= 0; ++x) {
         // 16 bits, so that a frame of 65534 columns or more ends with an overflow.
-        run.Advance(CInt(centre.left + x + 1, "the progress value"));
+        run.Advance(CInt(centre.left + x + 1, ReasonCode::ProgressValue));
         RenderQuarterColumn(run, map, centre, x);
     }
 }

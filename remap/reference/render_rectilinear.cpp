@@ -35,12 +35,12 @@ void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderPro
     const std::int32_t firstY = CLng(ty - centre.bottom, "TranslateY");
     const std::int32_t lastY = CLng(ty + centre.top, "TranslateY");
     for (std::int32_t x = CLng(tx - centre.left, "TranslateX"); x <= lastX; ++x) {
-        run.Advance(CInt(x + (centre.left + 1.0) - tx, "the progress value"));
+        run.Advance(CInt(x + (centre.left + 1.0) - tx, ReasonCode::ProgressValue));
         const std::int32_t column =
-            CLng(static_cast<double>(centre.cx) + x - tx, "an output column");
+            CLng(static_cast<double>(centre.cx) + x - tx, ReasonCode::OutputColumn);
         for (std::int32_t y = firstY; y <= lastY; ++y) {
             const RGBQUAD colour = ReadAt(run, centre.cx, centre.cy, map.At(x, y));
-            run.Write(column, CLng(static_cast<double>(centre.cy) + y - ty, "an output row"),
+            run.Write(column, CLng(static_cast<double>(centre.cy) + y - ty, ReasonCode::OutputRow),
                       colour);
         }
     }

@@ -29,6 +29,7 @@
 #include "pipeline/morph_sequence.h"
 #include "pipeline/photo_feed.h"
 #include "pipeline/project_file.h"
+#include "remap/error_reason.h"
 #include "state/settings_store.h"
 #include "state/step_names.h"
 #include "state/told_reason.h"
@@ -166,7 +167,7 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
         std::get<QString>(FrameCountFromText(Q("1.5"))),
         OpenProject(Q(VARNEL_SOURCES "/README.md")).trouble,
         StepName(SliderId::Z),
-        ToldReason("Overflow: TranslateX does not fit 32 bits"),
+        ToldReason(ReasonFor(OverflowError(ReasonCode::OverflowOf32Bits, "TranslateX"))),
         ToldReason(ReasonCode::Cancelled),
         ToldReason(BatchPortsFor(feed).load(Q("/no/such.jpg")).reason),
         ToldReason(Q("/x/y: the settings cannot be read (Not a regular file); without a copy they "

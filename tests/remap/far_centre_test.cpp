@@ -10,9 +10,11 @@
 
 #include "remap/engine/line_range.h"
 #include "remap/engine/thread_runner.h"
+#include "remap/error_reason.h"
 #include "remap/part_render.h"
 #include "remap/reference/render.h"
 #include "remap/run_time_error.h"
+#include "state/told_reason.h"
 #include "tests/remap/engine_pictures.h"
 #include "tests/support/records.h"
 
@@ -54,7 +56,7 @@ struct Drawing {
         try {
             renderer(projection, record, kind, progress, desk);
         } catch (const RunTimeError& thrown) {
-            error = thrown.what();
+            error = ToldReason(ReasonFor(thrown)).toStdString();
         }
     }
     FIBITMAP* Result() const { return bitmaps.ResultBitmap.get(); }

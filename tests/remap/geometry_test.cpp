@@ -9,7 +9,9 @@
 #include <bit>
 #include <numbers>
 
+#include "remap/error_reason.h"
 #include "remap/rounding.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 namespace {
@@ -28,10 +30,11 @@ TEST(Rounding, WhatDoesNotFitIsAnOverflowThatNamesTheValue) {
     EXPECT_EQ(CInt(32767.4, ""), 32767);
     EXPECT_THROW(ToSingle(1e39, ""), OverflowError);
     try {
-        CInt(32767.5, "the column");
+        CInt(32767.5, "OfsetX");
         FAIL();
     } catch (const RunTimeError& error) {
-        EXPECT_STREQ(error.what(), "Overflow: the column does not fit 16 bits");
+        EXPECT_EQ(ToldReason(ReasonFor(error)).toStdString(),
+                  "Overflow: OfsetX does not fit 16 bits");
     }
     EXPECT_EQ(PixelIndex(3e9), std::nullopt);
     EXPECT_EQ(PixelIndex(-7.0), -7);

@@ -9,10 +9,12 @@
 #include <cmath>
 
 #include "remap/equidistance_map.h"
+#include "remap/error_reason.h"
 #include "remap/horizon_map.h"
 #include "remap/rectilinear_map.h"
 #include "remap/run_time_error.h"
 #include "remap/varnel_map.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 namespace {
@@ -68,7 +70,7 @@ TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
         try {
             const RotatedRectilinearMap map(view, {});
         } catch (const DivisionByZeroError& error) {
-            return error.what();
+            return ToldReason(ReasonFor(error)).toStdString();
         }
         return {};
     };

@@ -51,9 +51,9 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
     } catch (const SavingCancelled&) {
         return {};
     } catch (const RunTimeError& error) {
-        return {false, ToldReason(ReasonFor(error))};
+        return {false, ReasonFor(error)};
     } catch (const std::bad_alloc&) {
-        return {false, Texts::tr("There is not enough memory.")};
+        return {false, {ReasonCode::Words, Texts::tr("There is not enough memory.")}};
     }
 }
 

@@ -5,7 +5,6 @@
 
 #include <QFileInfo>
 #include <cerrno>
-#include <cstring>
 
 namespace varnel {
 
@@ -24,8 +23,8 @@ QString PhotoAdvice(const QString& path) {
     return path.contains(u'*') ? QStringLiteral("; nothing fits this pattern") : QString();
 }
 
-QString ResultAdvice(const QString& path, const QString& reason) {
-    if (reason.startsWith(QString::fromLocal8Bit(std::strerror(ENOSPC)))) {
+QString ResultAdvice(const QString& path, const Reason& reason) {
+    if (reason.IsBy(ENOSPC)) {
         return QStringLiteral("; make room, then --skip-existing does the rest");
     }
     const QFileInfo folder(QFileInfo(path).path());

@@ -7,12 +7,14 @@
 
 #include <QString>
 
+#include "state/reason.h"
+
 namespace varnel {
 
 // A photo that could not be read.
 QString PhotoAdvice(const QString& path);
 
-// A result that could not be written, and the reason that was told.
-QString ResultAdvice(const QString& path, const QString& reason);
+// A result that could not be written, and the reason.
+QString ResultAdvice(const QString& path, const Reason& reason);
 
 }  // namespace varnel

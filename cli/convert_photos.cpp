@@ -83,7 +83,7 @@ class Conversions {
         bool allWell = reports_.AllWell();
         if (const WriteResult last = run_.series.Finish(); !last) {
             allWell = false;
-            reports_.Say(last.reason);
+            reports_.Say(ToldReason(last.reason));
         }
         if (const int signal = console_.StopSignal(); signal != 0 && left_) {
             TellStopped();
@@ -305,13 +305,14 @@ class Conversions {
         writing_.reset();
         if (!saved) {
             report.size = {};
-            FailedResult(report, saved.reason + Advice(ResultAdvice(report.result, saved.reason)));
+            FailedResult(report, ToldReason(saved.reason) +
+                                     Advice(ResultAdvice(report.result, saved.reason)));
             return;
         }
         const QFileInfo file(report.result);
         run_.written.insert(file.canonicalFilePath(), report.photo);
         report.bytes = file.size();
-        report.notes += saved.note.isEmpty() ? QStringList() : QStringList(saved.note);
+        report.notes += saved.note.isEmpty() ? QStringList() : QStringList(ToldReason(saved.note));
         ++written_;
         reports_.Note(report.result, saved.note);
         reports_.Written(report);

@@ -3,6 +3,11 @@
 
 #include "cli/run_reports.h"
 
+#include <QStringList>
+#include <algorithm>
+
+#include "state/told_reason.h"
+
 namespace varnel {
 
 void RunReports::Tell(const FileReport& report) {
@@ -41,17 +46,28 @@ void RunReports::Damaged(const QString& photo, const QString& reason) {
     Say(photo + QStringLiteral(": ") + reason);
 }
 
-void RunReports::Note(const QString& file, const QString& note) {
-    if (!note.isEmpty() && notes_[note]++ == 0) {
-        Say(file + QStringLiteral(": ") + note);
+void RunReports::Note(const QString& file, const Reason& note) {
+    if (note.isEmpty()) {
+        return;
+    }
+    const auto known = std::ranges::find(notes_, note, &std::pair<Reason, int>::first);
+    if (known != notes_.end()) {
+        ++known->second;
+    } else {
+        notes_.emplace_back(note, 1);
+        Say(file + QStringLiteral(": ") + ToldReason(note));
     }
 }
 
 void RunReports::Finish() {
-    for (const auto& [note, files] : notes_.asKeyValueRange()) {
+    QStringList lines;
+    for (const auto& [note, files] : notes_) {
         if (files > 1) {
-            Say(QStringLiteral("%1 more: ").arg(files - 1) + note);
+            lines.append(QStringLiteral("%1 more: ").arg(files - 1) + ToldReason(note));
         }
+    }
+    for (const QString& line : lines) {
+        Say(line);
     }
 }
 

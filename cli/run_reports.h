@@ -4,13 +4,15 @@
 // What a run says of its photos and results, for people and for scripts.
 #pragma once
 
-#include <QMap>
 #include <QString>
+#include <utility>
+#include <vector>
 
 #include "cli/console.h"
 #include "cli/file_report.h"
 #include "cli/options.h"
 #include "cli/progress_bar.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -33,7 +35,7 @@ class RunReports {
     void Damaged(const QString& photo, const QString& reason);
     void Say(const QString& text);
     // The same may be true of many files: told in full for the first one only.
-    void Note(const QString& file, const QString& note);
+    void Note(const QString& file, const Reason& note);
     // How many more files each note was about.
     void Finish();
 
@@ -43,7 +45,7 @@ class RunReports {
     const Options& options_;
     const Console& console_;
     TerminalBar bar_;
-    QMap<QString, int> notes_;  // and how many files
+    std::vector<std::pair<Reason, int>> notes_;  // and how many files
     bool allWell_ = true;
 };
 

@@ -42,8 +42,7 @@ void DropLibraryTags(FIBITMAP* bitmap) {
 
 FileMetadata UnreadMetadata() {
     FileMetadata nothing;
-    nothing.metadata.notes.append(
-        QStringLiteral("written without its metadata: it cannot be read"));
+    nothing.metadata.notes.append(ReasonCode::MetadataUnreadable);
     return nothing;
 }
 

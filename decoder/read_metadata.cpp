@@ -102,37 +102,40 @@ PhotoOrigin OriginOf(const Exiv2::ExifData& data) {
     return origin;
 }
 
+Reason Unreadable(QStringView kind) {
+    return {ReasonCode::KindUnreadable, kind.toString()};
+}
+
 class Reading {
   public:
     Reading(std::FILE* file, const MetadataRequest& request)
         : file_(file), bytes_(file), request_(request) {}
 
     FileMetadata Answer() {
-        Try(QStringLiteral("metadata"), [this] { Read(); });
-        Try(QStringLiteral("EXIF"), [this] { TakeExif(); });
-        Try(QStringLiteral("IPTC"), [this] { TakeIptc(); });
-        Try(QStringLiteral("XMP"), [this] { TakeXmp(); });
+        Try(ReasonCode::MetadataUnreadable, [this] { Read(); });
+        Try(Unreadable(u"EXIF"), [this] { TakeExif(); });
+        Try(Unreadable(u"IPTC"), [this] { TakeIptc(); });
+        Try(Unreadable(u"XMP"), [this] { TakeXmp(); });
         if (result_.metadata.xmp.isEmpty()) {  // broken, so it begins anew
-            Try(QStringLiteral("XMP"), [this] { FillXmp({}, true, result_.metadata); });
+            Try(Unreadable(u"XMP"), [this] { FillXmp({}, true, result_.metadata); });
         }
         if (result_.metadata.exif.bytes.isEmpty()) {
-            Try(QStringLiteral("EXIF"), [this] { FillExif({}, Wishes(true), result_.metadata); });
+            Try(Unreadable(u"EXIF"), [this] { FillExif({}, Wishes(true), result_.metadata); });
         }
         return std::move(result_);
     }
 
   private:
-    void Try(const QString& what, const std::function<void()>& step) {
+    void Try(const Reason& note, const std::function<void()>& step) {
         try {
             step();
         } catch (const std::exception&) {
-            Note(what);
+            Note(note);
         } catch (...) {  // whatever else the library may throw
-            Note(what);
+            Note(note);
         }
     }
-    void Note(const QString& what) {
-        const QString note = QStringLiteral("written without its %1: it cannot be read").arg(what);
+    void Note(const Reason& note) {
         if (!result_.metadata.notes.contains(note)) {
             result_.metadata.notes.append(note);
         }
@@ -147,7 +150,7 @@ class Reading {
         const bool isRead =
             !rest.isEmpty() && ReadFrom(reinterpret_cast<const Exiv2::byte*>(rest.constData()),
                                         static_cast<long>(rest.size()));
-        Note(isRead ? QStringLiteral("EXIF") : QStringLiteral("metadata"));
+        Note(isRead ? Unreadable(u"EXIF") : ReasonCode::MetadataUnreadable);
     }
 
     // What was read before an error stays. False when there was one.
@@ -170,7 +173,7 @@ class Reading {
 
     void Take(Exiv2::Image& image) {
         for (const QString& kind : GivenUp()) {
-            Note(kind == QStringLiteral("Exif") ? QStringLiteral("EXIF") : kind);
+            Note(Unreadable(kind == u"Exif" ? QStringView(u"EXIF") : kind));
         }
         exif_ = image.exifData();
         iptc_ = image.iptcData();
@@ -180,7 +183,7 @@ class Reading {
             order_ = image.byteOrder();
         }
         if (exif_.empty() && !JpegExif(PictureFile(file_)).isEmpty()) {
-            Note(QStringLiteral("EXIF"));
+            Note(Unreadable(u"EXIF"));
         }
         const auto* const profile = image.iccProfile();
         if (image.iccProfileDefined() && profile->size_ > 0) {
@@ -228,7 +231,7 @@ class Reading {
         if (!xmp_.empty() || packet_.isEmpty()) {
             FillXmp(xmp_, upright_, result_.metadata);
         } else if (!KeepXmp(packet_, result_.metadata)) {
-            Note(QStringLiteral("XMP"));
+            Note(Unreadable(u"XMP"));
         }
     }
 

@@ -43,7 +43,7 @@ const QByteArray& SoundMetadata() {
         photo.metadata.xmp = varnel::testing::XmpPacket();
         photo.metadata.iptc = varnel::testing::IptcBlock();
         photo.metadata.settings[QStringLiteral("Ratio")] = QStringLiteral("150");
-        photo.metadata.notes.append(QStringLiteral("a note"));
+        photo.metadata.notes.append(varnel::ReasonCode::MetadataUnreadable);
         photo.colourProfile = varnel::testing::ColourProfile();
         return varnel::PackFileMetadata(photo);
     }();

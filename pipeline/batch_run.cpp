@@ -231,7 +231,7 @@ class Run : private RenderProgress {
         writing_.reset();
         spare_ = std::move(written.result);
         if (saved) {
-            Note(written, ToldReason(saved.note));
+            Note(written, saved.note);
         } else {
             written.trouble =
                 Texts::tr("could not write %1: %2").arg(written.path, ToldReason(saved.reason));
@@ -239,7 +239,7 @@ class Run : private RenderProgress {
         EndTurn(written);
     }
 
-    void Note(const Turn& turn, const QString& note) {
+    void Note(const Turn& turn, const Reason& note) {
         if (!note.isEmpty()) {
             summary_.notes.push_back({turn.path, note});
         }

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "state/projection.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -48,11 +49,11 @@ QString Section(const List& list, const QString& one, const QString& many) {
 }
 
 // What is said of several files stands once, with the first of them.
-QString NotesSection(const std::vector<BatchTrouble>& notes) {
-    std::vector<BatchTrouble> lines;
+QString NotesSection(const std::vector<BatchNote>& notes) {
+    std::vector<BatchNote> lines;
     std::vector<qsizetype> counts;
-    for (const BatchTrouble& note : notes) {
-        const auto same = std::ranges::find(lines, note.reason, &BatchTrouble::reason);
+    for (const BatchNote& note : notes) {
+        const auto same = std::ranges::find(lines, note.note, &BatchNote::note);
         if (same == lines.end()) {
             lines.push_back(note);
             counts.push_back(1);
@@ -73,7 +74,7 @@ QString NotesSection(const std::vector<BatchTrouble>& notes) {
             counts[n] == 1
                 ? lines[n].file
                 : Texts::tr("%1 and %2 more").arg(lines[n].file, QString::number(counts[n] - 1));
-        text += QStringLiteral("  ") + LineOf({file, lines[n].reason}) + u'\n';
+        text += QStringLiteral("  ") + LineOf({file, ToldReason(lines[n].note)}) + u'\n';
     }
     return text;
 }

@@ -9,12 +9,18 @@
 #include <vector>
 
 #include "state/image_record.h"
+#include "state/reason.h"
 
 namespace varnel {
 
 struct BatchTrouble {
     QString file;    // the photo
     QString reason;  // in words, without the file's name
+};
+
+struct BatchNote {
+    QString file;  // that was written
+    Reason note;
 };
 
 struct BatchSummary {
@@ -25,7 +31,7 @@ struct BatchSummary {
     QList<int> entries;   // the number in the queue of each of these
     std::vector<BatchTrouble> failures;
     std::vector<BatchTrouble> damaged;  // written as far as they could be read
-    std::vector<BatchTrouble> notes;    // written files and what they are without
+    std::vector<BatchNote> notes;       // written files and what they are without
     QStringList replaced;  // paths under which a later photo of the run replaced an earlier one
 
     bool Stopped() const { return done < queued; }

@@ -3,7 +3,6 @@
 
 #include "pipeline/save_worker.h"
 #include "remap/error_reason.h"
-#include "state/told_reason.h"
 
 #include <chrono>
 #include <exception>
@@ -18,7 +17,7 @@ SaveResult Done(const SaveWorker::Job& job) {
     try {
         return job();
     } catch (const std::exception& error) {
-        return {false, ToldReason(ReasonFor(error))};
+        return {false, ReasonFor(error)};
     }
 }
 

@@ -15,8 +15,6 @@ namespace varnel {
 
 namespace {
 
-constexpr QStringView noteSeparator = u"; ";
-
 // Nothing where there is none for such a file, or where it leaves the file to the library.
 std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                                          BlockRunner& runner, const WrittenMetadata& metadata) {
@@ -50,8 +48,7 @@ void PassToTiff(FIBITMAP* bitmap, WrittenMetadata& metadata) {
         {metadata.exif, QStringLiteral("EXIF")}, {metadata.iptc, QStringLiteral("IPTC")}};
     for (const auto& [bytes, name] : others) {
         if (!bytes.isEmpty()) {
-            metadata.notes +=
-                QStringLiteral("written without its %1: not in a TIFF file of this kind").arg(name);
+            metadata.notes += Reason(ReasonCode::NotInSuchTiff, name);
         }
     }
 }
@@ -61,7 +58,7 @@ EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT forma
                               int flags, qint64 largest) {
     const BitmapHandle less = WithoutMetadata(bitmap);
     if (!less) {
-        return {{}, notEnoughMemory.toString()};
+        return {{}, ReasonCode::NotEnoughMemory};
     }
     CopyAllButPixels(less.get(), bitmap);
     RGBQUAD background{};
@@ -74,7 +71,7 @@ EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT forma
     }
     EncodedBitmap file = LibraryFile(format, less.get(), flags, largest - metadata.parts.size());
     if (file.reason.isEmpty() && !InsertParts(format, metadata, file.bytes)) {
-        return {{}, QStringLiteral("the metadata have no place in the file")};
+        return {{}, ReasonCode::NoPlaceForMetadata};
     }
     return file;
 }
@@ -99,11 +96,11 @@ EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                        : LibraryFileWith(metadata, format, bitmap, flags, options.largest);
         }
         if (file.reason.isEmpty()) {
-            file.note = metadata.notes.join(noteSeparator);
+            file.note = Joined(metadata.notes);
         }
         return file;
     } catch (const std::bad_alloc&) {
-        return {{}, notEnoughMemory.toString()};
+        return {{}, ReasonCode::NotEnoughMemory};
     }
 }
 
@@ -112,17 +109,17 @@ EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
 EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                            const EncodeOptions& options) {
     if (bitmap == nullptr) {
-        return {{}, QStringLiteral("there is no picture")};
+        return {{}, ReasonCode::NoPicture};
     }
     EncodedBitmap whole = FileOf(format, bitmap, flags, options);
-    if (whole.reason.isEmpty() || whole.reason == notEnoughMemory || !IsPhoto(bitmap)) {
+    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory) ||
+        !IsPhoto(bitmap)) {
         return whole;
     }
     const struct {
         bool metadata;
-        QString note;
-    } attempts[] = {{true, QStringLiteral("written without its colour profile: %1")},
-                    {false, QStringLiteral("written without its metadata: %1")}};
+        ReasonCode note;
+    } attempts[] = {{true, ReasonCode::WithoutProfile}, {false, ReasonCode::WithoutMetadata}};
     for (const auto& attempt : attempts) {
         const BitmapHandle less = WithoutMetadata(bitmap);
         if (less && attempt.metadata) {
@@ -131,9 +128,7 @@ EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags
         }
         EncodedBitmap encoded = FileOf(format, less.get(), flags, options);
         if (encoded.reason.isEmpty()) {
-            QStringList notes{attempt.note.arg(whole.reason), encoded.note};
-            notes.removeAll(QString());
-            encoded.note = notes.join(noteSeparator);
+            encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
             return encoded;
         }
     }

@@ -11,11 +11,11 @@
 #include <QByteArrayView>
 #include <QMap>
 #include <QString>
-#include <QStringList>
 #include <cstdint>
 
 #include "remap/bitmap.h"
 #include "state/photo_origin.h"
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -49,7 +49,7 @@ struct PhotoMetadata {
     std::uint32_t xmpPlace = 0;  // where in it descriptions of a subject may be added
     PhotoOrigin origin;
     PictureSettings settings;  // that made the photo, when Varnel wrote it
-    QStringList notes;         // "written without ...": what the photo's file has and why not here
+    Reasons notes;             // "written without ...": what the photo's file has and why not here
 
     bool IsEmpty() const { return exif.bytes.isEmpty() && iptc.isEmpty() && xmp.isEmpty(); }
 };

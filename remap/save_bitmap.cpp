@@ -20,9 +20,9 @@ SaveResult Written(const EncodedBitmap& encoded, const Write& write) {
     }
     try {
         const WriteResult written = write(encoded.bytes);
-        return {written.ok, written.reason, written ? encoded.note : QString()};
+        return {written.ok, written.reason, written ? encoded.note : Reason()};
     } catch (const std::bad_alloc&) {
-        return {false, QStringLiteral("there is not enough memory")};
+        return {false, ReasonCode::NotEnoughMemory};
     }
 }
 

@@ -17,8 +17,8 @@ namespace varnel {
 // it was.
 struct SaveResult {
     bool ok = false;
-    QString reason;
-    QString note = {};  // what of the picture is not in the file, and why; empty when all is
+    Reason reason;
+    Reason note = {};  // what of the picture is not in the file, and why; empty when all is
     explicit operator bool() const { return ok; }
 };
 

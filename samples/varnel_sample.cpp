@@ -20,6 +20,7 @@
 #include "remap/save_bitmap.h"
 #include "samples/fisheye_shot.h"
 #include "samples/taken_with.h"
+#include "state/told_reason.h"
 
 namespace varnel {
 namespace {
@@ -140,7 +141,7 @@ SaveResult TakeAndSave(const Sample& sample, const Order& order, const QString& 
         SetMetadata(photo.get(), TakenWith(sample));
         return SaveBitmap(FIF_JPEG, photo.get(), fileName, jpegQuality);
     } catch (const std::bad_alloc&) {
-        return {false, QStringLiteral("there is not enough memory")};
+        return {false, ReasonCode::NotEnoughMemory};
     }
 }
 
@@ -149,7 +150,7 @@ bool WriteSample(const Sample& sample, const Order& order) {
     const SaveResult saved = TakeAndSave(sample, order, fileName);
     if (!saved) {
         std::fprintf(stderr, "varnel-sample: %s: %s\n", qPrintable(fileName),
-                     qPrintable(saved.reason));
+                     qPrintable(ToldReason(saved.reason)));
         return false;
     }
     std::printf("%s\n", qPrintable(fileName));

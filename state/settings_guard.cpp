@@ -11,6 +11,7 @@
 
 #include "state/number_text.h"
 #include "state/setting_names.h"
+#include "state/told_reason.h"
 #include "state/whole_file.h"
 
 namespace varnel {
@@ -222,7 +223,7 @@ QString WriteSettingsFile(const QString& path, const QByteArray& bytes) {
     if (written && isNew) {
         QFile::setPermissions(path, ownerOnly);
     }
-    return written ? QString() : written.reason;
+    return written ? QString() : ToldReason(written.reason);
 }
 
 RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,

@@ -13,7 +13,6 @@
 #include <cerrno>
 #include <climits>
 #include <optional>
-#include <system_error>
 #include <utility>
 
 #include "state/file_steps.h"
@@ -26,19 +25,15 @@ namespace {
 constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
 constexpr int mostLinks = 40;              // as the system itself follows
 
-QString Words(int error) {
-    return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
-}
-
-QString ReasonOf(int error, const char* doing) {
-    return QStringLiteral("%1 (while %2)").arg(Words(error), QLatin1StringView(doing));
+Reason By(int error) {
+    return {ReasonCode::SystemError, error};
 }
 
 // What is to be replaced or made: through all links, since renaming would replace a link itself.
 struct Target {
     QByteArray name;
     std::optional<unsigned> permissions;  // of the older file, if there is one
-    QString trouble;
+    Reason trouble;
 };
 
 QByteArray FolderOf(const QByteArray& name) {
@@ -64,21 +59,19 @@ Target FindTarget(const QString& path) {
     const QByteArray given = QFile::encodeName(path);
     const std::optional<QByteArray> name = FollowLinks(given);
     if (given.contains('\0') || !name) {
-        return {given, {}, Words(name ? EINVAL : ELOOP)};
+        return {given, {}, By(name ? EINVAL : ELOOP)};
     }
     struct stat older {};
     if (::stat(name->constData(), &older) != 0) {
-        return {*name, {}, errno == ENOENT ? QString() : Words(errno)};
+        return {*name, {}, errno == ENOENT ? Reason() : By(errno)};
     }
     if (!S_ISREG(older.st_mode)) {
-        return {*name,
-                {},
-                S_ISDIR(older.st_mode) ? Words(EISDIR) : QStringLiteral("Not a regular file")};
+        return {*name, {}, S_ISDIR(older.st_mode) ? By(EISDIR) : ReasonCode::NotRegular};
     }
     // Renaming asks for no more than the folder's permission; a file that is write-protected is
     // meant to stay.
     if (::faccessat(AT_FDCWD, name->constData(), W_OK, AT_EACCESS) != 0) {
-        return {*name, {}, Words(errno)};
+        return {*name, {}, By(errno)};
     }
     return {*name, older.st_mode & 0777U, {}};
 }
@@ -100,14 +93,14 @@ class SavingFile {
 
     WriteResult Write(QByteArrayView bytes) {
         const bool ok = Create() && WriteAll(bytes) && KeepPermissions() &&
-                        Check(Sync(), "syncing") && Close() && Rename();
+                        Check(Sync(), ReasonCode::WhileSyncing) && Close() && Rename();
         return {ok, reason_};
     }
 
   private:
-    bool Check(qint64 result, const char* doing) {
+    bool Check(qint64 result, ReasonCode doing) {
         if (result == -1) {
-            reason_ = ReasonOf(errno, doing);
+            reason_ = {doing, By(errno)};
         }
         return result != -1;
     }
@@ -122,7 +115,7 @@ class SavingFile {
             if (file_ == -1 && errno == EEXIST) {
                 continue;
             }
-            if (!Check(file_, "creating a temporary file")) {
+            if (!Check(file_, ReasonCode::WhileCreating)) {
                 return false;
             }
             if (Lock(name)) {
@@ -133,7 +126,7 @@ class SavingFile {
             Drop(lock_);
         }
         errno = EEXIST;
-        return Check(-1, "creating a temporary file");
+        return Check(-1, ReasonCode::WhileCreating);
     }
 
     // False when another program took it for a stray file before it was locked. Where there are no
@@ -156,7 +149,7 @@ class SavingFile {
             if (written == 0) {  // would go on like this for ever
                 errno = EIO;
             }
-            if (!Check(written > 0 ? written : -1, "writing")) {
+            if (!Check(written > 0 ? written : -1, ReasonCode::WhileWriting)) {
                 return false;
             }
             bytes = bytes.sliced(written);
@@ -172,7 +165,7 @@ class SavingFile {
         }
         const int result = steps_.SetPermissions(file_, *target_.permissions);
         const bool unknown = result == -1 && (errno == EPERM || errno == ENOTSUP);
-        return unknown || Check(result, "setting its permissions");
+        return unknown || Check(result, ReasonCode::WhileSettingPermissions);
     }
 
     int Sync() {
@@ -186,7 +179,7 @@ class SavingFile {
     // Before renaming, because network drives tell of some failed writes only here.
     bool Close() {
         const int result = steps_.Close(std::exchange(file_, -1));
-        return (result == -1 && errno == EINTR) || Check(result, "closing");
+        return (result == -1 && errno == EINTR) || Check(result, ReasonCode::WhileClosing);
     }
 
     bool Rename() {
@@ -195,9 +188,9 @@ class SavingFile {
         if (!IsNamed(identity_, name_)) {
             name_.clear();
             errno = ENOENT;
-            return Check(-1, "renaming");
+            return Check(-1, ReasonCode::WhileRenaming);
         }
-        if (!Check(steps_.Rename(name_, target_.name), "renaming")) {
+        if (!Check(steps_.Rename(name_, target_.name), ReasonCode::WhileRenaming)) {
             return false;
         }
         name_.clear();
@@ -216,15 +209,15 @@ class SavingFile {
     struct stat identity_ {};
     int file_ = -1;
     int lock_ = -1;
-    QString reason_;
+    Reason reason_;
 };
 
 // The reason when the names in the folder may not last. Some file systems cannot sync folders, and
 // a folder need not be readable for files to be made there.
-QString SyncTrouble(const QByteArray& folder, FileSteps& steps) {
+Reason SyncTrouble(const QByteArray& folder, FileSteps& steps) {
     const bool failed =
         steps.SyncFolder(folder) == -1 && errno != EINVAL && errno != ENOTSUP && errno != EACCES;
-    return failed ? ReasonOf(errno, "syncing the folder") : QString();
+    return failed ? Reason(ReasonCode::WhileSyncingFolder, By(errno)) : Reason();
 }
 
 }  // namespace
@@ -236,7 +229,7 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps&
     }
     RemoveStrays(FolderOf(target.name));
     const WriteResult written = SavingFile(target, steps).Write(bytes);
-    const QString trouble = written ? SyncTrouble(FolderOf(target.name), steps) : written.reason;
+    const Reason trouble = written ? SyncTrouble(FolderOf(target.name), steps) : written.reason;
     return {trouble.isEmpty(), trouble};
 }
 
@@ -275,16 +268,16 @@ WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
 }
 
 void FileSeries::SyncFolder() {
-    const QString trouble = unsynced_ > 0 ? SyncTrouble(folder_, *steps_) : QString();
+    const Reason trouble = unsynced_ > 0 ? SyncTrouble(folder_, *steps_) : Reason();
     unsynced_ = 0;
     if (trouble_.isEmpty() && !trouble.isEmpty()) {
-        trouble_ = QFile::decodeName(folder_) + QStringLiteral(": ") + trouble;
+        trouble_ = {ReasonCode::Of, QFile::decodeName(folder_), trouble};
     }
 }
 
 WriteResult FileSeries::Finish() {
     SyncFolder();
-    const QString trouble = std::exchange(trouble_, QString());
+    const Reason trouble = std::exchange(trouble_, Reason());
     return {trouble.isEmpty(), trouble};
 }
 
@@ -301,7 +294,7 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
     // Flushing is checked by itself: committing alone has let cut files pass on a full disk.
     if (!file.open(QIODevice::WriteOnly) ||
         file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush() || !file.commit()) {
-        return {false, file.errorString()};
+        return {false, {ReasonCode::Words, file.errorString()}};
     }
     return {true, {}};
 }

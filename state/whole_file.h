@@ -8,14 +8,17 @@
 #include <QString>
 #include <memory>
 
+#include "state/reason.h"
+
 namespace varnel {
 
 class FileSteps;
 
-// True when the whole file is in place; otherwise the reason in the system's words.
+// True when the whole file is in place; otherwise the reason, which IsBy knows the system's error
+// of.
 struct WriteResult {
     bool ok = false;
-    QString reason;
+    Reason reason;
     explicit operator bool() const { return ok; }
 };
 
@@ -57,7 +60,7 @@ class FileSeries {
     std::unique_ptr<FileSteps> steps_;
     QByteArray folder_;  // without strays, of the last file; empty before the first
     int unsynced_ = 0;   // files in it whose names may not last yet
-    QString trouble_;
+    Reason trouble_;
 #endif
 };
 

@@ -13,7 +13,6 @@
 
 #include "remap/bitmap.h"
 #include "remap/library_messages.h"
-#include "state/told_reason.h"
 
 namespace varnel {
 
@@ -58,14 +57,14 @@ class EncodedFile {
     }
 
     qint64 Position() const { return position_; }
-    const QString& Trouble() const { return trouble_; }
+    const Reason& Trouble() const { return trouble_; }
     QByteArray& Bytes() { return bytes_; }
 
   private:
     // Makes the file at least so long; what was never written is zero.
     bool Reach(qint64 end) {
         if (end > largest_) {
-            trouble_ = QStringLiteral("the file would be larger than %1 bytes").arg(largest_);
+            trouble_ = {ReasonCode::FileTooLarge, largest_};
             return false;
         }
         const qint64 before = bytes_.size();
@@ -78,7 +77,7 @@ class EncodedFile {
             }
             bytes_.resize(end);
         } catch (const std::bad_alloc&) {
-            trouble_ = notEnoughMemory.toString();
+            trouble_ = ReasonCode::NotEnoughMemory;
             return false;
         }
         if (position_ > before) {
@@ -90,7 +89,7 @@ class EncodedFile {
     const qint64 largest_;
     QByteArray bytes_;
     qint64 position_ = 0;
-    QString trouble_;
+    Reason trouble_;
 };
 
 EncodedFile& FileOf(fi_handle handle) {
@@ -121,7 +120,7 @@ bool CutByLibrary(const QStringList& messages) {
 }
 
 // The reason why the file is not whole; empty when it is.
-QString Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFile& file) {
+Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFile& file) {
     const LibraryMessages messages;
     FreeImageIO access{ReadItems, WriteItems, SeekTo, TellPosition};
     const bool done = FreeImage_SaveToHandle(format, bitmap, &access, &file, flags) == TRUE;
@@ -129,7 +128,7 @@ QString Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFil
         return file.Trouble();
     }
     if (!done || file.Bytes().isEmpty() || CutByLibrary(messages.Lines())) {
-        return ToldReason(messages.Added(ReasonCode::CannotBeEncoded));
+        return messages.Added(ReasonCode::CannotBeEncoded);
     }
     return {};
 }
@@ -139,15 +138,15 @@ QString Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFil
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, qint64 largest) {
     try {
         EncodedFile file(largest);
-        const QString reason = Encode(format, bitmap, flags, file);
+        const Reason reason = Encode(format, bitmap, flags, file);
         return reason.isEmpty() ? EncodedBitmap{std::move(file.Bytes()), {}}
                                 : EncodedBitmap{{}, reason};
     } catch (const std::bad_alloc&) {
-        return {{}, notEnoughMemory.toString()};
+        return {{}, ReasonCode::NotEnoughMemory};
     } catch (const std::exception& error) {
-        return {{}, QString::fromLocal8Bit(error.what())};
+        return {{}, {ReasonCode::Words, QString::fromLocal8Bit(error.what())}};
     } catch (...) {  // the library throws plain texts, too
-        return {{}, QStringLiteral("the picture could not be encoded")};
+        return {{}, ReasonCode::CannotBeEncoded};
     }
 }
 

@@ -5,22 +5,20 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 #include "remap/bitmap.h"
+#include "state/reason.h"
 
 namespace varnel {
 
 // BMP and TIFF count the bytes of a file in 32 bits.
 inline constexpr qint64 largestFile = 0xFFFFFFFF;
 
-inline constexpr QStringView notEnoughMemory = u"there is not enough memory";
-
 // No bytes and the reason when it could not be done.
 struct EncodedBitmap {
     QByteArray bytes;
-    QString reason;
-    QString note = {};  // what the file is without, and why; empty when it has everything
+    Reason reason;
+    Reason note = {};  // what the file is without, and why; empty when it has everything
 };
 
 // flags are the library's for the format. The library's own file in memory is not used: from 2 GB

@@ -20,14 +20,6 @@ namespace {
 constexpr qsizetype longestSegment = 65533;  // bytes of data
 constexpr qsizetype longestXmpInJpeg = 65502;
 
-QString Without(const char16_t* what, const char16_t* why) {
-    return QStringLiteral("written without %1: %2").arg(QStringView(what), QStringView(why));
-}
-
-QString TooLong(const char16_t* what) {
-    return Without(what, u"too long for a JPEG file");
-}
-
 QByteArray Segment(char marker, QByteArrayView head, QByteArrayView data) {
     QByteArray segment("\xFF\0\0\0", 4);
     segment[1] = marker;
@@ -79,7 +71,7 @@ QByteArray Assembly::Packet() {
     if (auto packet = PacketWithSettings(photo_, settings_)) {
         return std::move(*packet);
     }
-    result_.notes += Without(u"its settings", u"the photo's XMP has no place for them");
+    result_.notes += ReasonCode::NoPlaceForSettings;
     return photo_.xmp;
 }
 
@@ -90,11 +82,11 @@ void Assembly::AddExifSegment() {
         return;
     }
     if (exif.bytes.size() > longestExifInJpeg) {
-        result_.notes += TooLong(u"its EXIF");
+        result_.notes += ReasonCode::ExifTooLong;
         return;
     }
     if (isShortened) {
-        result_.notes += TooLong(u"part of its EXIF");
+        result_.notes += ReasonCode::PartOfExifTooLong;
     }
     result_.parts += Segment('\xE1', QByteArrayView("Exif\0\0", 6), WrittenExif(exif, bitmap_));
 }
@@ -103,11 +95,11 @@ void Assembly::AddXmpSegment() {
     constexpr QByteArrayView head("http://ns.adobe.com/xap/1.0/\0", 29);
     QByteArray packet = Packet();
     if (packet.size() > longestXmpInJpeg && !photo_.xmp.isEmpty()) {
-        result_.notes += TooLong(u"its XMP");
+        result_.notes += ReasonCode::XmpTooLong;
         packet = settings_.isEmpty() ? QByteArray() : SettingsPacket(settings_);
     }
     if (packet.size() > longestXmpInJpeg) {
-        result_.notes += TooLong(u"its settings");
+        result_.notes += ReasonCode::SettingsTooLong;
     } else if (!packet.isEmpty()) {
         result_.parts += Segment('\xE1', head, packet);
     }
@@ -120,7 +112,7 @@ void Assembly::AddIptcSegment() {
     }
     const QByteArray resource = IptcResource(photo_.iptc);
     if (head.size() + resource.size() > longestSegment) {
-        result_.notes += TooLong(u"its IPTC");
+        result_.notes += ReasonCode::IptcTooLong;
     } else {
         result_.parts += Segment('\xED', head, resource);
     }
@@ -187,22 +179,22 @@ bool Assembly::IsWorthKeeping() const {
     return !photo_.iptc.isEmpty() || photo_.xmp.count("xmlns:") > namespacesAlways;
 }
 
+// By what is lost: metadata 1, settings 2, colour profile 4.
+constexpr std::array lostInBmp{ReasonCode::None,
+                               ReasonCode::BmpHoldsNoMetadata,
+                               ReasonCode::BmpHoldsNoSettings,
+                               ReasonCode::BmpHoldsNoMetadataOrSettings,
+                               ReasonCode::BmpHoldsNoProfile,
+                               ReasonCode::BmpHoldsNoMetadataOrProfile,
+                               ReasonCode::BmpHoldsNoSettingsOrProfile,
+                               ReasonCode::BmpHoldsPixelsOnly};
+
 WrittenMetadata Assembly::Bmp() {
-    QStringList lost;
-    if (IsWorthKeeping()) {
-        lost += QStringLiteral("metadata");
-    }
-    if (!settings_.isEmpty()) {
-        lost += QStringLiteral("settings");
-    }
-    if (FreeImage_GetICCProfile(bitmap_)->size > 0) {
-        lost += QStringLiteral("colour profile");
-    }
+    const std::size_t lost = (IsWorthKeeping() ? 1U : 0U) + (settings_.isEmpty() ? 0U : 2U) +
+                             (FreeImage_GetICCProfile(bitmap_)->size > 0 ? 4U : 0U);
     WrittenMetadata none;
-    if (!lost.isEmpty()) {
-        const QString last = lost.takeLast();
-        none.notes += QStringLiteral("BMP files hold no ") +
-                      (lost.isEmpty() ? last : lost.join(u", ") + QStringLiteral(" or ") + last);
+    if (lost != 0) {
+        none.notes += lostInBmp[lost];
     }
     return none;
 }

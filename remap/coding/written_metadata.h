@@ -7,7 +7,8 @@
 #include <FreeImage.h>
 
 #include <QByteArray>
-#include <QStringList>
+
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -19,7 +20,7 @@ struct WrittenMetadata {
     QByteArray entries;  // of that directory, for the file's; their values are in exif
     QByteArray iptc;
     QByteArray xmp;
-    QStringList notes;  // what the file is without
+    Reasons notes;  // what the file is without
 
     // Then the library is left to write what it knows.
     bool IsEmpty() const { return !isOfPhoto && parts.isEmpty() && xmp.isEmpty(); }

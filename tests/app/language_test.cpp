@@ -155,8 +155,8 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
     BatchSummary summary;
     summary.queued = 3;
     summary.failures = {{Q("/a/b.bmp"), ToldReason(Q("the file is empty"))}};
-    summary.notes = {{Q("/a/c.bmp"), ToldReason(Q("written without its XMP: too long for a JPEG "
-                                                  "file; BMP files hold no settings"))}};
+    summary.notes = {
+        {Q("/a/c.bmp"), Joined({ReasonCode::XmpTooLong, ReasonCode::BmpHoldsNoSettings})}};
     const QString texts[] = {
         *CheckRevisionAge(store, QDate(2100, 1, 1)),
         NoGearText(),

@@ -207,7 +207,7 @@ TEST(DecoderReader, OneProcessNamesManyLenses) {
     const pid_t first = reader.ProcessId();
     for (int n = 0; n < 150; ++n) {
         const LoadedPicture facts = ReadPicture(reader, {.path = photo, .kind = ReadKind::Facts});
-        ASSERT_EQ(facts.facts.notes, QStringList()) << n;
+        ASSERT_TRUE(facts.facts.notes.isEmpty()) << n;
         ASSERT_TRUE(facts.facts.origin.LensModel.contains(Text("mm"))) << n;
     }
     EXPECT_EQ(reader.ProcessId(), first);

@@ -26,7 +26,7 @@ using testing::MetadataBlocks;
 using testing::Mutator;
 using testing::PixelBytes;
 
-const QString allLost = QStringLiteral("written without its metadata: it cannot be read");
+const Reason allLost = ReasonCode::MetadataUnreadable;
 constexpr qint64 mostMilliseconds = 9000;  // five seconds, a new decoder and a busy machine
 
 class Damage : public Mutator {
@@ -87,10 +87,12 @@ class MetadataTrial {
             return "lost";
         }
         EXPECT_TRUE(PixelBytes(picture.bitmap.get()) == sound_);
-        const QStringList notes = MetadataOf(picture.bitmap.get()).notes;
-        EXPECT_EQ(QSet<QString>(notes.begin(), notes.end()).size(), notes.size());
+        const Reasons notes = MetadataOf(picture.bitmap.get()).notes;
+        for (const Reason& note : notes) {
+            EXPECT_EQ(notes.count(note), 1);
+        }
         if (reader_.ProcessId() != decoder) {
-            EXPECT_EQ(notes, QStringList{allLost});
+            EXPECT_EQ(notes, Reasons{allLost});
         }
         if (write) {
             Write(picture.bitmap.get());
@@ -114,8 +116,8 @@ class MetadataTrial {
             if (again.bitmap) {
                 EXPECT_TRUE(format == FIF_JPEG || PixelBytes(again.bitmap.get()) == sound_)
                     << format;
-                const QStringList notes = MetadataOf(again.bitmap.get()).notes;
-                EXPECT_TRUE(notes.isEmpty()) << format << notes.join(u'\n').toStdString();
+                const Reasons notes = MetadataOf(again.bitmap.get()).notes;
+                EXPECT_TRUE(notes.isEmpty()) << format << ToldReason(Joined(notes)).toStdString();
             }
         }
     }
@@ -261,11 +263,11 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
         EXPECT_EQ(PixelBytes(picture.bitmap.get()), QByteArray(24, 'p'));
-        EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, QStringList{allLost});
+        EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, Reasons{allLost});
     }
     testing::WriteFile(photo, orders[0]);
     const LoadedPicture facts = ReadPicture(reader, {.path = photo, .kind = ReadKind::Facts});
-    EXPECT_EQ(facts.facts.notes, QStringList{allLost});
+    EXPECT_EQ(facts.facts.notes, Reasons{allLost});
 }
 
 }  // namespace

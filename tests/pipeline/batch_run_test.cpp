@@ -181,7 +181,8 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
     const auto save = [](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString& path, int) {
         const bool fails = path.contains(u'7');
         std::this_thread::sleep_for(std::chrono::milliseconds(path.size() % 3));
-        return SaveResult{!fails && SizeOf(bitmap).width == 6, fails ? Text("full") : QString()};
+        return SaveResult{!fails && SizeOf(bitmap).width == 6,
+                          fails ? Reason(ReasonCode::Words, Text("full")) : Reason()};
     };
     for (int stopAfter = -1; stopAfter <= 10; ++stopAfter) {
         QStringList heard[2];
@@ -226,7 +227,8 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
         return Load(path);
     };
     ports.save = [](FREE_IMAGE_FORMAT, FIBITMAP*, const QString& path, int) {
-        return path.contains(u"disk") ? SaveResult{false, Text("disk full")} : SaveResult{true, {}};
+        return path.contains(u"disk") ? SaveResult{false, {ReasonCode::Words, Text("disk full")}}
+                                      : SaveResult{true, {}};
     };
     const BatchSummary summary = Go();
     EXPECT_EQ(summary.written, QStringList{Text("/out/ok.Varnel.JPG")});
@@ -261,13 +263,14 @@ TEST(SummaryText, WhatSeveralFilesAreWithoutStandsOnceWithTheFirst) {
     BatchSummary summary;
     summary.folder = Text("/out");
     summary.queued = summary.done = 4;
-    summary.notes = {{Text("50%1"), Text("no IPTC")},
-                     {Text("b"), Text("no XMP")},
-                     {Text("c"), Text("no IPTC")},
-                     {Text("d"), Text("no IPTC")}};
+    summary.notes = {{Text("50%1"), ReasonCode::IptcTooLong},
+                     {Text("b"), ReasonCode::BmpHoldsNoMetadata},
+                     {Text("c"), ReasonCode::IptcTooLong},
+                     {Text("d"), ReasonCode::IptcTooLong}};
     EXPECT_EQ(SummaryText(summary),
               Text("0 of 4 images written into /out\n\n4 files do not hold everything:\n"
-                   "  50%1 and 2 more: no IPTC\n  b: no XMP\n"));
+                   "  50%1 and 2 more: written without its IPTC: too long for a JPEG file\n"
+                   "  b: BMP files hold no metadata\n"));
 }
 
 // Runs with real files, read from "in" and written into "out".

@@ -11,6 +11,7 @@
 #include "remap/encode_bitmap.h"
 #include "remap/engine/thread_runner.h"
 #include "remap/photo_metadata.h"
+#include "state/told_reason.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"
 
@@ -24,7 +25,7 @@ TEST(SaveBitmap, EveryTypeReadsBackAndReplacesAnOlderFile) {
         const QString name = folder.filePath(QStringLiteral("ä %1.x").arg(format));
         testing::WriteFile(name, "older");
         const SaveResult saved = SaveBitmap(format, bitmap.get(), name, 0);
-        EXPECT_TRUE(saved.ok) << saved.reason.toStdString();
+        EXPECT_TRUE(saved.ok) << ToldReason(saved.reason).toStdString();
         const QByteArray path = QFile::encodeName(name);
         EXPECT_EQ(FreeImage_GetFileType(path.constData(), 0), format);
         const BitmapHandle read(FreeImage_Load(format, path.constData(), 0));
@@ -76,8 +77,7 @@ TEST(LibraryFile, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
         for (const qint64 largest : {0LL, 1LL, whole.size() / 2, whole.size() - 1}) {
             const EncodedBitmap cut = LibraryFile(format, bitmap.get(), 0, largest);
             EXPECT_TRUE(cut.bytes.isEmpty());
-            EXPECT_EQ(cut.reason,
-                      QStringLiteral("the file would be larger than %1 bytes").arg(largest));
+            EXPECT_EQ(cut.reason, Reason(ReasonCode::FileTooLarge, largest));
         }
         EXPECT_EQ(LibraryFile(format, bitmap.get(), 0, whole.size()).bytes, whole);
     }

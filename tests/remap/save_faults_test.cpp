@@ -20,6 +20,7 @@
 
 #include "remap/encode_bitmap.h"
 #include "remap/save_bitmap.h"
+#include "state/told_reason.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"
 #include "tests/support/limits.h"
@@ -73,7 +74,8 @@ void Count(const SaveResult& result, const QString& path, const QByteArray& befo
     tally.falseSuccesses += result.ok && contents != whole ? 1 : 0;
     tally.lost += !result.ok && contents != before ? 1 : 0;
     tally.strays += NamesIn(QFileInfo(path).path()).size() != expected ? 1 : 0;
-    tally.withoutReason += !result.ok && !result.reason.startsWith(QStringView(words)) ? 1 : 0;
+    tally.withoutReason +=
+        !result.ok && !ToldReason(result.reason).startsWith(QStringView(words)) ? 1 : 0;
 }
 
 // Sizes from nothing to a byte less than the file; the last ten cut only its end.

@@ -12,6 +12,7 @@
 #include "remap/coding/written_exif.h"
 #include "remap/encode_bitmap.h"
 #include "remap/photo_metadata.h"
+#include "state/told_reason.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/seed_files.h"
@@ -117,7 +118,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAJpegFile) {
         for (const int flags : {90, 90 | JPEG_SUBSAMPLING_444, 90 | JPEG_PROGRESSIVE}) {
             const PhotoMetadata metadata = Metadata(order);
             const EncodedBitmap file = EncodeBitmap(FIF_JPEG, Photo(metadata).get(), flags);
-            EXPECT_EQ(file.note, QString());
+            EXPECT_TRUE(file.note.isEmpty());
             EXPECT_EQ(file.bytes.mid(2, 2), "\xff\xe0");
             const auto segments = Segments(file.bytes);
             ASSERT_EQ(segments.count(0xe1), 2U);
@@ -267,7 +268,7 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
         row.change(metadata);
         const EncodedBitmap file =
             EncodeBitmap(row.format, Photo(metadata).get(), row.format == FIF_TIFF ? TIFF_LZW : 0);
-        EXPECT_EQ(file.note, QStringView(row.note)) << &row - cases;
+        EXPECT_EQ(ToldReason(file.note), QStringView(row.note)) << &row - cases;
         EXPECT_EQ(file.bytes.count("<varnel:A>&lt;&amp;</varnel:A>"), row.hasSettings)
             << &row - cases;
     }
@@ -276,10 +277,9 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
 TEST(EncodeBitmap, ABmpFileThatLosesOnlyItsProfileSaysSoAndOneThatLosesNothingIsSilent) {
     const BitmapHandle photo = Photo({});
     SetSettings(photo.get(), {});
-    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note,
-              QStringLiteral("BMP files hold no colour profile"));
+    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note, ReasonCode::BmpHoldsNoProfile);
     FreeImage_DestroyICCProfile(photo.get());
-    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note, QString());
+    EXPECT_TRUE(EncodeBitmap(FIF_BMP, photo.get(), 0).note.isEmpty());
 }
 
 TEST(EncodeBitmap, AProfileThatAnEncoderRefusesDoesNotCostTheMetadata) {
@@ -287,7 +287,7 @@ TEST(EncodeBitmap, AProfileThatAnEncoderRefusesDoesNotCostTheMetadata) {
     QByteArray noProfile(200, 'x');
     FreeImage_CreateICCProfile(photo.get(), noProfile.data(), noProfile.size());
     const EncodedBitmap png = EncodeBitmap(FIF_PNG, photo.get(), 0);
-    EXPECT_TRUE(png.note.startsWith(QStringLiteral("written without its colour profile: ")));
+    EXPECT_TRUE(png.note.Is(ReasonCode::WithoutProfile));
     EXPECT_TRUE(png.bytes.startsWith("\x89PNG") && png.bytes.contains("eXIf") &&
                 png.bytes.contains(packetWithSettings));
 }

@@ -9,6 +9,7 @@
 
 #include "state/file_steps.h"
 #include "state/saving_names.h"
+#include "state/told_reason.h"
 #include "state/whole_file.h"
 #include "tests/support/contents.h"
 
@@ -79,7 +80,7 @@ TEST_F(Series, TellsAtTheEndOfTheFirstFolderWhoseNamesMayNotLast) {
     EXPECT_TRUE(Write("a/0") && Write("a/1") && Write("b/0"));
     const WriteResult end = series_.Finish();
     EXPECT_FALSE(end.ok);
-    EXPECT_EQ(end.reason,
+    EXPECT_EQ(ToldReason(end.reason),
               Path("a") + QStringLiteral(": Input/output error (while syncing the folder)"));
     EXPECT_EQ(Contents(Path("a/1")), "newer");
     EXPECT_TRUE(series_.Finish().ok);  // told once

@@ -22,6 +22,7 @@
 
 #include "state/file_steps.h"
 #include "state/saving_names.h"
+#include "state/told_reason.h"
 #include "tests/support/contents.h"
 
 namespace varnel {
@@ -109,7 +110,7 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
         }
         FailingSteps steps(n, fault);
         const WriteResult result = WriteWholeFile(folder.Path("target"), newer, steps);
-        const bool inPlace = result.ok || result.reason.contains(u"folder");
+        const bool inPlace = result.ok || result.reason.Is(ReasonCode::WhileSyncingFolder);
         EXPECT_EQ(Contents(folder.Path("target")), inPlace ? newer : before) << n;
         EXPECT_NE(result.ok, !result.reason.isEmpty());
         if (lasting) {  // removing the hidden file has failed as well: the next save does it
@@ -122,7 +123,7 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
             EXPECT_GE(n, 9);
             return reasons;
         }
-        reasons.insert(result.reason);
+        reasons.insert(ToldReason(result.reason));
     }
 }
 
@@ -198,7 +199,7 @@ TEST(WriteWholeFile, GoesOnAfterInterruptionsAndWithoutWhatTheFileSystemHasNot) 
     WriteFile(folder.Path("target"), older);
     HesitantSteps steps;
     const WriteResult result = WriteWholeFile(folder.Path("target"), newer, steps);
-    EXPECT_TRUE(result.ok) << result.reason.toStdString();
+    EXPECT_TRUE(result.ok) << ToldReason(result.reason).toStdString();
     EXPECT_EQ(Contents(folder.Path("target")), newer);
     EXPECT_EQ(Permissions(folder.Bytes("target")), 0600U);  // less open than before, never more
 }
@@ -208,7 +209,7 @@ TEST(WriteWholeFile, AWriteOfNothingIsAFailureAndNoEndlessLoop) {
         qint64 Write(int, const char*, qint64) override { return 0; }
     } steps;
     const Folder folder;
-    EXPECT_EQ(WriteWholeFile(folder.Path("target"), newer, steps).reason,
+    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("target"), newer, steps).reason),
               QStringLiteral("Input/output error (while writing)"));
     EXPECT_TRUE(folder.Names().isEmpty());
     EXPECT_TRUE(WriteWholeFile(folder.Path("target"), {}, steps).ok);  // an empty file is one
@@ -242,7 +243,7 @@ TEST(WriteWholeFile, ReplacesTheFileThatALinkLeadsTo) {
     EXPECT_EQ(Contents(folder.Path("inner/file")), newer);
     EXPECT_TRUE(WriteWholeFile(folder.Path("dangling"), newer).ok);
     EXPECT_EQ(Contents(folder.Path("inner/made")), newer);
-    EXPECT_EQ(WriteWholeFile(folder.Path("ring"), newer).reason,
+    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("ring"), newer).reason),
               QStringLiteral("Too many levels of symbolic links"));
     for (const auto& [name, to] : links) {
         EXPECT_TRUE(QFileInfo(folder.Path(name)).isSymLink());
@@ -267,7 +268,7 @@ TEST(WriteWholeFile, RefusesWhatIsNoFileToReplace) {
         {folder.Path(QByteArray(300, 'x')), "File name too long"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(WriteWholeFile(row.path, newer).reason.toStdString(), row.reason);
+        EXPECT_EQ(ToldReason(WriteWholeFile(row.path, newer).reason).toStdString(), row.reason);
     }
     EXPECT_EQ(folder.Names().join(u' '), QStringLiteral("file folder pipe"));
     EXPECT_TRUE(WriteWholeFile(folder.Path(QByteArray(255, 'x')), newer).ok);  // the longest name
@@ -281,10 +282,10 @@ TEST(WriteWholeFile, RefusesWhatIsWriteProtected) {
                               ::seteuid(anybody) == 0));
     WriteFile(folder.Path("file"), older);
     ::chmod(folder.Bytes("file").constData(), 0400);
-    EXPECT_EQ(WriteWholeFile(folder.Path("file"), newer).reason,
+    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("file"), newer).reason),
               QStringLiteral("Permission denied"));
     ::chmod(folder.Bytes(".").constData(), 0500);
-    EXPECT_EQ(WriteWholeFile(folder.Path("new"), newer).reason,
+    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("new"), newer).reason),
               QStringLiteral("Permission denied (while creating a temporary file)"));
     ::chmod(folder.Bytes(".").constData(), 0700);
     EXPECT_EQ(Contents(folder.Path("file")), older);
@@ -363,7 +364,7 @@ TEST(WriteWholeFile, IsNotDisturbedByOthersThatRemoveStrays) {
     EXPECT_TRUE(WriteWholeFile(folder.Path("target"), newer, steps).ok);
     EXPECT_EQ(Contents(folder.Path("target")), newer);
     steps.moment = DisturbedSteps::Replace;
-    EXPECT_EQ(WriteWholeFile(folder.Path("target"), older, steps).reason,
+    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("target"), older, steps).reason),
               QStringLiteral("No such file or directory (while renaming)"));
     EXPECT_EQ(Contents(folder.Path("target")), newer);
 }

@@ -11,7 +11,6 @@
 
 #include "state/number_text.h"
 #include "state/setting_names.h"
-#include "state/told_reason.h"
 #include "state/whole_file.h"
 
 namespace varnel {
@@ -63,7 +62,7 @@ int LastGear(const SettingsValues& values) {
 struct FileBytes {
     bool exists = false;
     QByteArray bytes;
-    QString reason;  // why it cannot be read
+    Reason reason;  // why it cannot be read
 };
 
 FileBytes ReadFile(const QString& path) {
@@ -72,14 +71,15 @@ FileBytes ReadFile(const QString& path) {
         return {};
     }
     if (!info.isFile()) {  // a pipe would be waited for
-        return {true, {}, QStringLiteral("Not a regular file")};
+        return {true, {}, ReasonCode::NotRegular};
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return {true, {}, file.errorString()};
+        return {true, {}, {ReasonCode::Words, file.errorString()}};
     }
     const QByteArray bytes = file.readAll();
-    return {true, bytes, file.error() == QFileDevice::NoError ? QString() : file.errorString()};
+    const bool isWhole = file.error() == QFileDevice::NoError;
+    return {true, bytes, isWhole ? Reason() : Reason(ReasonCode::Words, file.errorString())};
 }
 
 bool Holds(const QString& path, const QByteArray& bytes) {
@@ -103,14 +103,13 @@ void SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now
               RescuedSettings& rescued) {
     const QString name = NameFor(path, bytes, now);
     if (!Holds(name, bytes)) {
-        rescued.mustStay = QFileInfo::exists(name) ? QStringLiteral("all its names are taken")
-                                                   : WriteSettingsFile(name, bytes);
+        rescued.mustStay =
+            QFileInfo::exists(name) ? ReasonCode::AllNamesTaken : WriteSettingsFile(name, bytes);
     }
     if (rescued.mustStay.isEmpty()) {
         rescued.aside = QFileInfo(name).fileName();
     } else {
-        rescued.mustStay =
-            QStringLiteral("the damaged file could not be set aside: %1").arg(rescued.mustStay);
+        rescued.mustStay = {ReasonCode::NotSetAside, rescued.mustStay};
     }
 }
 
@@ -123,10 +122,10 @@ void Replace(const QString& path, const QByteArray& bytes) {
     }
 }
 
-QString WhatIsUsed(bool copyServes, const SettingsValues& values) {
-    return copyServes       ? QStringLiteral("their last good copy is used")
-           : values.Empty() ? QStringLiteral("without a copy they begin afresh")
-                            : QStringLiteral("without a copy what could be read is used");
+Reason WhatIsUsed(bool copyServes, const SettingsValues& values) {
+    return copyServes       ? ReasonCode::CopyIsUsed
+           : values.Empty() ? ReasonCode::SettingsBeginAfresh
+                            : ReasonCode::RestIsUsed;
 }
 
 }  // namespace
@@ -141,24 +140,24 @@ bool HoldsGear(const SettingsValues& values) {
     return name != nullptr && !name->isEmpty() && byDefault != nullptr && !byDefault->isEmpty();
 }
 
-QString GearDamage(const SettingsValues& values) {
+Reason GearDamage(const SettingsValues& values) {
     for (const auto& [name, text] : values.InOrder()) {
         if (IsStrayGear(name)) {
-            return QStringLiteral("the gears' section has lost its title");
+            return ReasonCode::GearTitleLost;
         }
     }
     if (!CountedGears(values) && FindGear(values, setting::GearName, 2) != nullptr) {
-        return QStringLiteral("the number of gears is missing");
+        return ReasonCode::GearNumberMissing;
     }
     const int count = CountedGears(values).value_or(0);
     for (int n = 1; n <= count; ++n) {
         if (FindGear(values, setting::GearName, n) == nullptr) {
-            return QStringLiteral("gear %1 of %2 is missing").arg(n).arg(count);
+            return {ReasonCode::GearMissing, n, count};
         }
     }
     const QString* const byDefault = values.Find(setting::Gear, setting::DefaultGearName);
     const bool isLost = count > 0 && (byDefault == nullptr || byDefault->isEmpty());
-    return isLost ? QStringLiteral("the default gear is missing") : QString();
+    return isLost ? ReasonCode::DefaultGearMissing : ReasonCode::None;
 }
 
 void MendGears(SettingsValues& values) {
@@ -217,13 +216,13 @@ SettingsFile LookAtSettings(const QString& path) {
     return file;
 }
 
-QString WriteSettingsFile(const QString& path, const QByteArray& bytes) {
+Reason WriteSettingsFile(const QString& path, const QByteArray& bytes) {
     const bool isNew = !QFileInfo::exists(path);
     const WriteResult written = WriteWholeFile(path, bytes);
     if (written && isNew) {
         QFile::setPermissions(path, ownerOnly);
     }
-    return written ? QString() : ToldReason(written.reason);
+    return written ? Reason() : written.reason;
 }
 
 RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
@@ -233,8 +232,8 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
     rescued.values = byCopy ? file.copy.values : known;
     if (!file.canBeRead) {
         rescued.mustStay = file.reason;
-        rescued.told = QStringLiteral("%1: the settings cannot be read (%2); %3")
-                           .arg(path, file.reason, WhatIsUsed(byCopy, rescued.values));
+        rescued.told = {ReasonCode::SettingsUnreadable, path, file.reason,
+                        WhatIsUsed(byCopy, rescued.values)};
         return rescued;
     }
     if (!byCopy && !HoldsGear(known)) {
@@ -250,11 +249,11 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
     if (!rescued.aside.isEmpty()) {
         Replace(path, better);  // when that fails, so will the next save, and that one tells
     }
-    rescued.told =
-        QStringLiteral("%1: the settings were damaged (%2); %3, the damaged file %4")
-            .arg(path, file.reading.damage, WhatIsUsed(byCopy, rescued.values),
-                 rescued.aside.isEmpty() ? QStringLiteral("could not be set aside")
-                                         : QStringLiteral("is kept as %1").arg(rescued.aside));
+    const Reason& damage = file.reading.damage;
+    const Reason used = WhatIsUsed(byCopy, rescued.values);
+    rescued.told = rescued.aside.isEmpty() ? Reason(ReasonCode::SettingsDamaged, path, damage, used)
+                                           : Reason(ReasonCode::SettingsDamagedAndKept, path,
+                                                    damage, used, rescued.aside);
     return rescued;
 }
 

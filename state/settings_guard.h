@@ -18,8 +18,8 @@ namespace varnel {
 
 QString CopyOf(const QString& path);
 
-// What is wrong with the gears, in a few words; empty when each gear that is counted has its name.
-QString GearDamage(const SettingsValues& values);
+// What is wrong with the gears; empty when each gear that is counted has its name.
+Reason GearDamage(const SettingsValues& values);
 bool HoldsGear(const SettingsValues& values);
 
 // Makes the gears that are left in a damaged file ones that can be loaded: the count ends with the
@@ -30,7 +30,7 @@ void MendGears(SettingsValues& values);
 struct SettingsFile {
     bool exists = false;
     bool canBeRead = true;  // true for a missing one
-    QString reason;         // why it cannot be read
+    Reason reason;          // why it cannot be read
     QByteArray bytes;
     SettingsReading reading;
     QByteArray copyBytes;
@@ -46,9 +46,9 @@ SettingsFile LookAtSettings(const QString& path);
 // The values to go on with, and what the user has to be told.
 struct RescuedSettings {
     SettingsValues values;
-    QString told;
+    Reason told;
     QString aside;  // the name under which the damaged file's bytes are safe; empty if they are not
-    QString mustStay;  // why the file must not be replaced, if it was tried to set it aside
+    Reason mustStay;  // why the file must not be replaced, if it was tried to set it aside
 };
 
 // For a file that is not whole. Values that are already known serve where there is no copy. Without
@@ -58,6 +58,6 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
                                const SettingsValues& known, bool mayWrite, const QDateTime& now);
 
 // Writes a settings file as a whole, for its owner only; returns the reason when it fails.
-QString WriteSettingsFile(const QString& path, const QByteArray& bytes);
+Reason WriteSettingsFile(const QString& path, const QByteArray& bytes);
 
 }  // namespace varnel

@@ -45,7 +45,7 @@ class FileStore : public SettingsStore {
         changed_.Set(section, key, value);
     }
 
-    QStringList Settle() override {
+    Reasons Settle() override {
         Write();
         return std::exchange(toTell_, {});
     }
@@ -76,22 +76,20 @@ class FileStore : public SettingsStore {
         if (changed_.Empty()) {
             return;
         }
-        const QString reason = TryToWrite();
+        const Reason reason = TryToWrite();
         if (!reason.isEmpty() && !std::exchange(isToldUnwritable_, true)) {
-            toTell_.append(QStringLiteral("%1: the settings cannot be written (%2); "
-                                          "changes last only until the program ends")
-                               .arg(path_, reason));
+            toTell_.append({ReasonCode::SettingsUnwritable, path_, reason});
         }
     }
 
     // The reason when it fails; what was changed is then tried again the next time.
-    QString TryToWrite() {
+    Reason TryToWrite() {
         if (!QDir().mkpath(Folder())) {
-            return QStringLiteral("the folder cannot be made");
+            return ReasonCode::FolderNotMade;
         }
         const FolderLock lock(Folder(), longestWait);
         if (!lock.IsHeld()) {
-            return QStringLiteral("another program keeps them locked");
+            return ReasonCode::SettingsLocked;
         }
         const SettingsFile file = LookAtSettings(path_);
         if (!file.canBeRead) {
@@ -105,7 +103,7 @@ class FileStore : public SettingsStore {
         merged.Merge(changed_);
         const QByteArray bytes = SettingsText(merged);
         if (bytes != file.bytes) {
-            const QString reason = WriteSettingsFile(path_, bytes);
+            const Reason reason = WriteSettingsFile(path_, bytes);
             if (!reason.isEmpty()) {
                 return reason;
             }
@@ -122,7 +120,7 @@ class FileStore : public SettingsStore {
     QDateTime now_;
     SettingsValues values_;
     SettingsValues changed_;  // not yet written
-    QStringList toTell_;
+    Reasons toTell_;
     QStringList toldAside_;  // of these damaged files; the empty name: of one not set aside
     bool isToldUnwritable_ = false;
 };

@@ -6,11 +6,12 @@
 
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 #include <QStringView>
 #include <map>
 #include <memory>
 #include <utility>
+
+#include "state/reason.h"
 
 namespace varnel {
 
@@ -23,7 +24,7 @@ class SettingsStore {
     virtual void Save(const QString& section, const QString& key, const QString& value) = 0;
     // Makes what was saved last beyond this run, and returns what the user has to be told about the
     // store since the last call: each event once.
-    virtual QStringList Settle() { return {}; }
+    virtual Reasons Settle() { return {}; }
 };
 
 // Keeps everything in memory.

@@ -264,15 +264,15 @@ SettingsReading ReadSettingsText(const QByteArray& bytes) {
         }
     }
     if (!isText || !isUtf8) {
-        reading.damage = QStringLiteral("not UTF-8 text");
+        reading.damage = ReasonCode::NotUtf8;
     } else if (badLine > 1 && badLine == lines.size()) {
-        reading.damage = QStringLiteral("cut short");  // within a line
+        reading.damage = ReasonCode::TextCutShort;  // within a line
     } else if (badLine != 0) {
-        reading.damage = QStringLiteral("line %1 is no setting").arg(badLine);
+        reading.damage = {ReasonCode::LineIsNoSetting, badLine};
     } else if (reading.values.Empty()) {
-        reading.damage = QStringLiteral("empty");
+        reading.damage = ReasonCode::SettingsEmpty;
     } else if (IsCut(lines)) {
-        reading.damage = QStringLiteral("cut short");
+        reading.damage = ReasonCode::TextCutShort;
     }
     return reading;
 }

@@ -13,6 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "state/reason.h"
+
 namespace varnel {
 
 // Texts by section and key. They keep the order in which they were first set: a damaged file is
@@ -40,7 +42,7 @@ class SettingsValues {
 
 struct SettingsReading {
     SettingsValues values;  // of a damaged file, what could still be read
-    QString damage;         // in a few words; empty when the file is whole
+    Reason damage;          // empty when the file is whole
 };
 
 SettingsReading ReadSettingsText(const QByteArray& bytes);

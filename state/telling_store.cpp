@@ -15,8 +15,8 @@ constexpr int settleDelay = 200;
 }  // namespace
 
 void TellOf(SettingsStore& store, Notices& notices) {
-    for (const QString& text : store.Settle()) {
-        notices.Tell(ToldReason(text), {});
+    for (const Reason& reason : store.Settle()) {
+        notices.Tell(ToldReason(reason), {});
     }
 }
 
@@ -36,7 +36,7 @@ void TellingStore::Save(const QString& section, const QString& key, const QStrin
     soon_.start(settleDelay);
 }
 
-QStringList TellingStore::Settle() {
+Reasons TellingStore::Settle() {
     return store_.Settle();
 }
 

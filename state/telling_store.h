@@ -21,7 +21,7 @@ class TellingStore : public SettingsStore {
     TellingStore(SettingsStore& store, Notices& notices);
     QString Get(const QString& section, const QString& key, const QString& fallback) const override;
     void Save(const QString& section, const QString& key, const QString& value) override;
-    QStringList Settle() override;
+    Reasons Settle() override;
 
   private:
     SettingsStore& store_;

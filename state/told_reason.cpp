@@ -4,14 +4,11 @@
 #include "state/told_reason.h"
 
 #include <QCoreApplication>
-#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
-#include <optional>
 #include <string_view>
 #include <system_error>
-#include <vector>
 
 namespace varnel {
 
@@ -268,78 +265,6 @@ QString ToldReason(const Reason& reason) {
     }
     return reason.Is(ReasonCode::Several) ? values.join(QStringLiteral("; "))
                                           : Filled(TextOf(reason.Code()), values);
-}
-
-namespace {
-
-struct Pattern {
-    const char* text;
-    QRegularExpression expression;  // its placeholders as groups, in the order of their numbers
-};
-
-std::vector<Pattern> MakePatterns() {
-    static const QRegularExpression placeholder(QStringLiteral("%[1-9]"));
-    std::vector<Pattern> patterns;
-    for (const auto& [code, text] : rows) {
-        if (code <= ReasonCode::Several) {
-            continue;
-        }
-        QStringList fixed;
-        for (const QString& part : QString::fromUtf8(text).split(placeholder)) {
-            fixed.append(QRegularExpression::escape(part));
-        }
-        patterns.push_back(
-            {text, QRegularExpression(
-                       QRegularExpression::anchoredPattern(fixed.join(QStringLiteral("(.+?)"))),
-                       QRegularExpression::DotMatchesEverythingOption)});
-    }
-    return patterns;
-}
-
-std::optional<QString> Translated(const QString& reason) {
-    static const std::vector<Pattern> patterns = MakePatterns();
-    for (const Pattern& pattern : patterns) {
-        if (const auto match = pattern.expression.match(reason); match.hasMatch()) {
-            QStringList values;
-            for (const QString& value : match.capturedTexts().mid(1)) {
-                values.append(ToldReason(value));
-            }
-            return Filled(QCoreApplication::translate("Reasons", pattern.text), values);
-        }
-    }
-    return std::nullopt;
-}
-
-// "there is not enough memory (so says the image library)"
-std::optional<QString> WithAddition(const QString& reason) {
-    const qsizetype bracket = reason.indexOf(QStringLiteral(" ("));
-    if (bracket < 0 || !reason.endsWith(u')')) {
-        return std::nullopt;
-    }
-    const std::optional<QString> before = Translated(reason.left(bracket));
-    return before ? std::optional(*before + reason.mid(bracket)) : std::nullopt;
-}
-
-}  // namespace
-
-QString ToldReason(const QString& reason) {
-    const QString separator = QStringLiteral("; ");
-    const QStringList parts = reason.split(separator);
-    if (parts.size() > 1 && Translated(parts.front())) {
-        QStringList told;
-        for (const QString& part : parts) {
-            told.append(ToldReason(part));
-        }
-        return told.join(separator);
-    }
-    if (const std::optional<QString> told = Translated(reason)) {
-        return *told;
-    }
-    return WithAddition(reason).value_or(reason);
-}
-
-QString ToldReason(const char* what) {
-    return ToldReason(QString::fromUtf8(what));
 }
 
 }  // namespace varnel

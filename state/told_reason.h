@@ -14,10 +14,6 @@ namespace varnel {
 // the console. Words of libraries and of the system stay as they are. Empty when all is well.
 QString ToldReason(const Reason& reason);
 
-// For reasons that are still sentences.
-QString ToldReason(const QString& reason);
-QString ToldReason(const char* what);
-
 // How many arguments the text of a code has places for. The code is one that there is.
 int PlacesIn(ReasonCode code);
 

@@ -20,6 +20,7 @@
 #include "gear/gear_store.h"
 #include "state/setting_names.h"
 #include "state/telling_store.h"
+#include "state/told_reason.h"
 #include "tests/support/contents.h"
 #include "tests/support/texts.h"
 
@@ -58,6 +59,14 @@ GearTable Gears(int count, float ratio) {
     return table;
 }
 
+QStringList Told(const Reasons& reasons) {
+    QStringList texts;
+    for (const Reason& reason : reasons) {
+        texts.append(ToldReason(reason));
+    }
+    return texts;
+}
+
 class SettingsGuard : public ::testing::Test {
   protected:
     std::unique_ptr<SettingsStore> Open() const { return OpenFileStore(path_, moment_); }
@@ -65,12 +74,12 @@ class SettingsGuard : public ::testing::Test {
         GearTable table = Gears(count, ratio);
         const auto store = Open();
         SaveGear(*store, table);
-        EXPECT_EQ(store->Settle(), QStringList());
+        EXPECT_TRUE(store->Settle().isEmpty());
     }
     // Opens the settings anew; told_ then holds what the user is told.
     GearTable Load() {
         const auto store = Open();
-        told_ = store->Settle();
+        told_ = Told(store->Settle());
         GearTable table;
         NobodyToAsk prompt;
         LoadGear(*store, table, prompt);
@@ -326,7 +335,7 @@ TEST_F(SettingsGuard, SaysOnceThatNothingCanBeWrittenAndKeepsTheValuesForTheRun)
         EXPECT_EQ(store->Settle().size(), isThere ? 1 : 0) << place;  // cannot be read
         for (const char* const value : {"one", "two"}) {
             store->Save(Text("setting"), Text("FileType"), Text(value));
-            const QStringList told = store->Settle();
+            const QStringList told = Told(store->Settle());
             EXPECT_EQ(store->Get(Text("setting"), Text("FileType"), {}), Text(value));
             ASSERT_EQ(told.size(), value[0] == 'o' ? 1 : 0) << place;
             EXPECT_TRUE(told.isEmpty() ||
@@ -366,7 +375,7 @@ TEST_F(SettingsGuard, TellsOfASaveAMomentLater) {
     }
     EXPECT_EQ(notices.texts.size(), 1);
     QFile::remove(folder_.filePath(Text("Varnel")));
-    EXPECT_EQ(store.Settle(), QStringList());
+    EXPECT_TRUE(store.Settle().isEmpty());
     EXPECT_EQ(Open()->Get(Text("a"), Text("b"), {}), Text("c")) << "what failed is tried again";
 }
 

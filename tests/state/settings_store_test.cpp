@@ -11,6 +11,7 @@
 
 #include "state/general_settings.h"
 #include "state/setting_names.h"
+#include "state/told_reason.h"
 #include "tests/support/contents.h"
 #include "tests/support/limits.h"
 #include "tests/support/texts.h"
@@ -28,8 +29,8 @@ class UserStoreTest : public ::testing::Test {
     std::unique_ptr<SettingsStore> Open() const { return OpenUserStore(QDateTime()); }
     QString FilePath() const { return folder_.filePath(QStringLiteral("Varnel/Varnel.conf")); }
     // With a gear, as whoever begins afresh is asked for one.
-    static QStringList SaveThrice(SettingsStore& store) {
-        QStringList told;
+    static Reasons SaveThrice(SettingsStore& store) {
+        Reasons told;
         for (const char* const value : {"1", "2", "3"}) {
             store.Save(setting::Gear, setting::DefaultGearName, Text("mine"));
             store.Save(setting::Gear, setting::ItemKey(setting::GearName, 1), Text("mine"));
@@ -78,8 +79,8 @@ TEST_F(UserStoreTest, KeepsTheKeysThatAnotherProcessSavesMeanwhile) {
     first->Save(Text("s"), Text("b"), Text("1"));
     second->Save(Text("s"), Text("b"), Text("2"));
     second->Save(Text("s"), Text("c"), Text("2"));
-    EXPECT_EQ(first->Settle(), QStringList());
-    EXPECT_EQ(second->Settle(), QStringList());
+    EXPECT_TRUE(first->Settle().isEmpty());
+    EXPECT_TRUE(second->Settle().isEmpty());
     EXPECT_EQ(second->Get(Text("s"), Text("a"), {}), Text("1"));
     first->Save(Text("s"), Text("d"), Text("1"));
     first->Settle();
@@ -111,23 +112,25 @@ TEST_F(UserStoreTest, TellsOnceOfADamagedFileThatCannotBeSetAsideOrReplaced) {
     const struct {
         int damagedSize;
         int savedSize;  // of a value in the copy
-        const char* aside;
+        ReasonCode aside;
         int files;
-    } cases[] = {{20000, 1, "could not be set aside", 0}, {100, 20000, "is kept as", 1}};
+    } cases[] = {{20000, 1, ReasonCode::SettingsDamaged, 0},
+                 {100, 20000, ReasonCode::SettingsDamagedAndKept, 1}};
     for (const auto& c : cases) {
         SaveThrice(*Open());
         Open()->Save(Text("s"), Text("long"), QString(c.savedSize, u'x'));
         Write(QByteArray(c.damagedSize, 'x'));
-        QStringList told;
+        Reasons told;
         {
             const testing::FileSizeLimit full(8000);
             const auto store = Open();
             told = store->Settle();
             told += SaveThrice(*store);
         }
-        ASSERT_EQ(told.size(), 2) << told.join(u'\n').toStdString();
-        EXPECT_TRUE(told[0].contains(Text(c.aside))) << told[0].toStdString();
-        EXPECT_TRUE(told[1].contains(Text("cannot be written ("))) << told[1].toStdString();
+        ASSERT_EQ(told.size(), 2) << ToldReason(Joined(told)).toStdString();
+        EXPECT_TRUE(told[0].Is(c.aside)) << ToldReason(told[0]).toStdString();
+        EXPECT_TRUE(told[1].Is(ReasonCode::SettingsUnwritable))
+            << ToldReason(told[1]).toStdString();
         EXPECT_EQ(Damaged(), c.files);
         Folder().removeRecursively();
     }

@@ -8,6 +8,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "state/told_reason.h"
 #include "tests/support/contents.h"
 #include "tests/support/texts.h"
 
@@ -62,7 +63,7 @@ TEST(SettingsText, IsWhatQSettingsReadsAndWrites) {
     theirs.sync();
     for (const QByteArray& bytes : {testing::Contents(theirs.fileName()), SettingsText(values)}) {
         const SettingsReading reading = ReadSettingsText(bytes);
-        EXPECT_EQ(reading.damage, QString());
+        EXPECT_TRUE(reading.damage.isEmpty());
         for (const auto& [name, text] : values.InOrder()) {
             const QString* const read = reading.values.Find(name.first, name.second);
             ASSERT_NE(read, nullptr) << name.second.toStdString();
@@ -110,13 +111,13 @@ TEST(ReadSettingsText, TakesLinesAsTypedByHand) {
     };
     for (const auto& [line, value] : cases) {
         const SettingsReading reading = read(line);
-        EXPECT_EQ(reading.damage, QString()) << line;
+        EXPECT_TRUE(reading.damage.isEmpty()) << line;
         const QString* const found = reading.values.Find(Text("s"), Text("k"));
         ASSERT_NE(found, nullptr) << line;
         EXPECT_EQ(*found, Text(value)) << line;
     }
     for (const char* const line : {"k=\"open", "k", "=v", "[s\nk=5", "k=a\x01", "Gear]"}) {
-        EXPECT_NE(read(line).damage, QString()) << line;
+        EXPECT_FALSE(read(line).damage.isEmpty()) << line;
         EXPECT_NE(read(line).values.Find(Text("s"), Text("last")), nullptr) << line;
     }
 }
@@ -128,7 +129,7 @@ TEST(ReadSettingsText, MissesEveryCutButNoEdit) {
     }
     const QByteArray whole = SettingsText(values);
     for (qsizetype length = 0; length < whole.size() - 1; ++length) {  // the last newline may go
-        EXPECT_NE(ReadSettingsText(whole.first(length)).damage, QString()) << length;
+        EXPECT_FALSE(ReadSettingsText(whole.first(length)).damage.isEmpty()) << length;
     }
     for (const auto& [from, to] : {std::pair<const char*, const char*>{"k3=text\n", ""},
                                    {"k8=text\n", "k8=else\nk9=new\n"},
@@ -137,7 +138,7 @@ TEST(ReadSettingsText, MissesEveryCutButNoEdit) {
                                    {"says: end of settings\n\n[s]", "gone\n\n[s]"}}) {
         const QByteArray edited = QByteArray(whole).replace(from, to);
         ASSERT_NE(edited, whole) << from;
-        EXPECT_EQ(ReadSettingsText(edited).damage, QString()) << edited.toStdString();
+        EXPECT_TRUE(ReadSettingsText(edited).damage.isEmpty()) << edited.toStdString();
     }
 }
 
@@ -157,7 +158,8 @@ TEST(ReadSettingsText, SaysWhatIsWrong) {
         {QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0001\0\n\0", 18), "not UTF-8 text"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(ReadSettingsText(c.bytes).damage, Text(c.damage)) << c.bytes.toStdString();
+        EXPECT_EQ(ToldReason(ReadSettingsText(c.bytes).damage), Text(c.damage))
+            << c.bytes.toStdString();
     }
     EXPECT_NE(ReadSettingsText(cases[8].bytes).values.Find(Text("s"), Text("k")), nullptr);
 }

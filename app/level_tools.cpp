@@ -108,7 +108,8 @@ void LevelTools::OnToggled(bool on) {
     if (on) {
         photo->AddOverlay(&stroke_);
         view_.ShowStatus(Hint());
-    } else if (parts_.status->text() == Hint()) {
+        hintNumber_ = view_.StatusNumber();
+    } else if (view_.StatusNumber() == hintNumber_) {
         view_.ShowStatus({});
     }
     leave_->setEnabled(on);

@@ -36,6 +36,7 @@ class LevelTools : public QObject {
     WorkingState& state_;
     QShortcut* leave_;
     StrokeOverlay stroke_;
+    int hintNumber_ = 0;  // of the hint in the status line
     QAction* entry_;
 };
 

@@ -64,7 +64,12 @@ class WindowView : public DeskView {
         trouble_ = text;
         parts_.pictures->ShowTrouble(text);
     }
-    void ShowStatus(const QString& text) override { parts_.status->setText(text); }
+    void ShowStatus(const QString& text) override {
+        ++statusNumber_;
+        parts_.status->setText(text);
+    }
+    // Of the text in the status line: whoever remembers it knows whether theirs still stands there.
+    int StatusNumber() const { return statusNumber_; }
     void HandleEvents() override { progress_.HandleEvents(); }
     void ShowHourglass(bool on) override;
     void Lock(bool on) override;
@@ -108,6 +113,7 @@ class WindowView : public DeskView {
     QString photo_, project_;  // of the title
     bool unsaved_ = false;
     QString trouble_;
+    int statusNumber_ = 0;
     std::vector<std::function<void()>> whenResultShown_;
     std::vector<std::function<void()>> whenIdle_;
     QPointer<QWidget> focusBeforeLock_;

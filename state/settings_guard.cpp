@@ -210,7 +210,7 @@ SettingsFile LookAtSettings(const QString& path) {
         // The last lines are gone, though it may have ended anywhere: a file of an older release.
         if (file.reading.damage.isEmpty() && file.CopyServes() &&
             file.bytes.size() < file.copyBytes.size() && file.copyBytes.startsWith(file.bytes)) {
-            file.reading.damage = QStringLiteral("cut short");
+            file.reading.damage = ReasonCode::TextCutShort;
         }
     }
     return file;

@@ -40,9 +40,9 @@ SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner&
                           file.flags, runner);
     });
     progress.Begin(0.0F);
-    while (!worker.Wait(betweenEvents)) {
-        progress.Advance(0.0F);
-    }
+    do {
+        progress.HandleEvents();
+    } while (!worker.Wait(betweenEvents));
     progress.End();
     return worker.Take();
 }

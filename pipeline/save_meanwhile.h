@@ -41,8 +41,8 @@ struct PictureFile {
 };
 
 // Encodes and writes on another thread; nobody else may use the bitmap or the runner meanwhile.
-// Until it is done the progress, begun with a maximum of 0 because nobody knows how far it is, gets
-// its turns. Cancelled before the file has its name, no file is written.
+// Until it is done the progress, begun with a maximum of 0 because nobody knows how far it is,
+// handles events. Cancelled before the file has its name, no file is written.
 SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner& runner,
                          RenderProgress& progress, const CancelFlag& cancelled);
 // What is told of a picture that was cancelled.

@@ -243,8 +243,7 @@ TEST(WriteWholeFile, ReplacesTheFileThatALinkLeadsTo) {
     EXPECT_EQ(Contents(folder.Path("inner/file")), newer);
     EXPECT_TRUE(WriteWholeFile(folder.Path("dangling"), newer).ok);
     EXPECT_EQ(Contents(folder.Path("inner/made")), newer);
-    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("ring"), newer).reason),
-              QStringLiteral("Too many levels of symbolic links"));
+    EXPECT_TRUE(WriteWholeFile(folder.Path("ring"), newer).reason.IsBy(ELOOP));
     for (const auto& [name, to] : links) {
         EXPECT_TRUE(QFileInfo(folder.Path(name)).isSymLink());
     }

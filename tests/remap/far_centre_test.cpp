@@ -166,10 +166,11 @@ TEST(Pauses, EndTheConversion) {
             ThreadRunner runner(cores);
             RenderDesk desk{.bitmaps = bitmaps, .runner = &runner};
             CountedProgress progress;
-            progress.lastPause = 2;
+            // The other thread may be quick enough to leave no second block to this one.
+            progress.lastPause = cores == 1 ? 2 : 1;
             EXPECT_THROW(Render(projection, FisheyeRecord(), SizeKind::Large, progress, desk),
                          std::bad_alloc);
-            EXPECT_EQ(progress.pauses, 2);
+            EXPECT_EQ(progress.pauses, progress.lastPause);
             EXPECT_EQ(progress.steps, 0);
             EXPECT_EQ(Compare(bitmaps.ResultBitmap.get(), bitmaps.FullSourceBitmap.get()).largest,
                       0);

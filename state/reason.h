@@ -21,7 +21,12 @@ class Reason {
     struct Argument;
 
     // All is well.
-    Reason() = default;
+    Reason();
+    Reason(const Reason&);
+    Reason(Reason&&) noexcept;
+    Reason& operator=(const Reason&);
+    Reason& operator=(Reason&&) noexcept;
+    ~Reason();
     // With as many arguments as the code's text has places: whole numbers, texts, further reasons.
     template <class... Arguments>
     Reason(ReasonCode code, Arguments&&... arguments)
@@ -45,6 +50,14 @@ class Reason {
 struct Reason::Argument : std::variant<qint64, QString, Reason> {
     using variant::variant;
 };
+
+// Here, where arguments are complete: they hold reasons themselves.
+inline Reason::Reason() = default;
+inline Reason::Reason(const Reason&) = default;
+inline Reason::Reason(Reason&&) noexcept = default;
+inline Reason& Reason::operator=(const Reason&) = default;
+inline Reason& Reason::operator=(Reason&&) noexcept = default;
+inline Reason::~Reason() = default;
 
 using Reasons = QList<Reason>;
 

@@ -34,9 +34,8 @@ struct Way {
 // The first brightenings on one way from the border into the picture.
 void CollectOnWay(const Grey& grey, double leastStep, const Way& way, std::vector<Edge>& edges) {
     constexpr int mostOnWay = 2;
-    const auto& [x, y, stepX, stepY] = way;
-    const int length = (stepX != 0 ? grey.Width() : grey.Height()) * 6 / 10;
-    const auto at = [&](int k) { return grey.Pixel(x + k * stepX, y + k * stepY); };
+    const int length = (way.stepX != 0 ? grey.Width() : grey.Height()) * 6 / 10;
+    const auto at = [&](int k) { return grey.Pixel(way.x + k * way.stepX, way.y + k * way.stepY); };
     const auto rise = [&](int k) { return at(k + 1) + at(k + 2) - at(k - 1) - at(k - 2); };
     int found = 0;
     for (int k = 3; k < length - 3 && found < mostOnWay; ++k) {
@@ -44,8 +43,8 @@ void CollectOnWay(const Grey& grey, double leastStep, const Way& way, std::vecto
         if (here < 2 * leastStep || here < rise(k - 1) || here <= rise(k + 1)) {
             continue;
         }
-        const int px = x + k * stepX;
-        const int py = y + k * stepY;
+        const int px = way.x + k * way.stepX;
+        const int py = way.y + k * way.stepY;
         if (px < 2 || py < 2 || px >= grey.Width() - 2 || py >= grey.Height() - 2) {
             continue;
         }

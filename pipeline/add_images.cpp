@@ -17,7 +17,7 @@ namespace varnel {
 namespace {
 
 void SortAsCounted(QStringList& names) {
-    QCollator order(QLocale(QLocale::English));
+    QCollator order{QLocale(QLocale::English)};
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
     std::ranges::sort(names, order);

@@ -1,19 +1,23 @@
 include(GoogleTest)
 
-# varnel_test(NAME SOURCES ... LINKS ...): one test binary for a room, every case a ctest entry.
+# varnel_test(NAME [LABEL ...] SOURCES ... LINKS ...): one test binary for a room, every case a ctest entry
+# that has the room's name as its label, if no other one is given.
 function(varnel_test name)
-  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(arg "" "LABEL" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LINKS} GTest::gtest GTest::gtest_main varnel_options)
+  if(NOT arg_LABEL)
+    get_filename_component(arg_LABEL ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
-    PROPERTIES TIMEOUT 300
+    PROPERTIES TIMEOUT 300 LABELS ${arg_LABEL}
       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;UBSAN_OPTIONS=print_stacktrace=1")
 endfunction()
 
 # varnel_widget_test(NAME SOURCES ... LINKS ...): the same with an application for widgets.
 function(varnel_widget_test name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
-  varnel_test(${name}
+  varnel_test(${name} LABEL windows
     SOURCES ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/widgets_main.cpp
     LINKS ${arg_LINKS} Qt6::Widgets Qt6::Test)
 endfunction()

@@ -5,6 +5,9 @@ pack_packages=(dpkg-dev binutils)
 test_packages=("${build_packages[@]}" qt6-translations-l10n libgtest-dev libimage-exiftool-perl xvfb xauth parallel
   "${pack_packages[@]}" desktop-file-utils appstream mandoc bash-completion lintian)
 
+# What looks at the sources and builds them in other ways, for .ci/run and .ci/nightly.
+ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags)
+
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 

@@ -96,7 +96,7 @@ TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
 
 // In place of the decoder: something that does not do as it should.
 QString Impostor(const PictureFolder& folder, const char* script) {
-    const QString path = folder.Path(Text("impostor"));
+    QString path = folder.Path(Text("impostor"));
     testing::WriteFile(path, QByteArray("#!/bin/sh\n") + script);
     QFile::setPermissions(path, QFile::Permissions(0x7700));
     return path;

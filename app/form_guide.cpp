@@ -51,7 +51,7 @@ QString GuideStartPage(const QString& programFolder) {
 }
 
 QVariant GuideText::loadResource(int type, const QUrl& name) {
-    const QVariant resource = QTextBrowser::loadResource(type, name);
+    QVariant resource = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) {
         return resource;
     }

@@ -45,7 +45,7 @@ ListTools::ListTools(const WindowParts& parts, WindowView& view, Desk& desk,
 }
 
 ListTools::~ListTools() {
-    Cancel();
+    ListTools::Cancel();
 }
 
 bool ListTools::eventFilter(QObject* watched, QEvent* event) {

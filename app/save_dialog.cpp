@@ -57,7 +57,8 @@ void SaveDialog::accept() {
         return;
     }
     quoted_ = file.absoluteFilePath();
-    QDialog::accept();  // the other one would look at what it takes for the name
+    // The nearer one would look at what it takes for the name.
+    QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
 }
 
 }  // namespace varnel

@@ -4,6 +4,7 @@
 #include "decoder/decode_picture.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <new>
 #include <utility>
@@ -30,7 +31,7 @@ constexpr std::int64_t mostPixelsForSmall = 60'000'000;
 
 int WholeFlags(FREE_IMAGE_FORMAT format) {
     switch (format) {
-        case FIF_JPEG:
+        case FIF_JPEG:  // NOLINT(bugprone-branch-clone): one number, two meanings
             return JPEG_ACCURATE;
         case FIF_RAW:
             return RAW_DISPLAY;  // linear data would come out far too dark
@@ -58,7 +59,7 @@ PixelSize Within(PixelSize picture, PixelSize box) {
     const double scale = std::min({1.0, static_cast<double>(box.width) / picture.width,
                                    static_cast<double>(box.height) / picture.height});
     const auto scaled = [&](std::int32_t side) {
-        return std::max(static_cast<std::int32_t>(side * scale + 0.5), 1);
+        return std::max(static_cast<std::int32_t>(std::floor(side * scale + 0.5)), 1);
     };
     return {scaled(picture.width), scaled(picture.height)};
 }

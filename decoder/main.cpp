@@ -187,6 +187,7 @@ bool Serve(MappedFiles& mapped) {
 // Sanitized builds watch our own code. What the image libraries do beyond it, they do to sound
 // photos, too, and no report may end the decoder for it; and memory may run out, as it does
 // otherwise.
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer asks for this name
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options() {
     return "replace_intrin=0:alloc_dealloc_mismatch=0:allocator_may_return_null=1";

@@ -126,9 +126,7 @@ void FormMorph::BuildPairs() {
     ui_->LayoutPairs->setColumnMinimumWidth(7, widest);
     int gridRow = 1;  // below "Start" and "End"
     for (const Pair& pair : pairs) {
-        if (pair.id == SliderId::X) {
-            AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
-        } else if (pair.id == SliderId::XTranslate) {
+        if (pair.id == SliderId::X || pair.id == SliderId::XTranslate) {
             AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
         }
         AddPair(DataOf(pair.id), pair.value, gridRow++);

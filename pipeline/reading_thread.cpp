@@ -11,7 +11,7 @@
 namespace varnel {
 
 ReadingThread::~ReadingThread() {
-    Cancel();
+    ReadingThread::Cancel();
     {
         const std::lock_guard lock(mutex_);
         ending_ = true;

@@ -79,7 +79,7 @@ void SessionPlace::Clear() {
 
 QString SessionPlace::SetAside() {
     const QFileInfo place(folder_);
-    const QString path = place.dir().filePath(QStringLiteral("damaged-") + place.fileName() +
+    QString path = place.dir().filePath(QStringLiteral("damaged-") + place.fileName() +
                                               projectEnding.toString());
     if (!QFile::rename(File(), path)) {
         return {};

@@ -103,7 +103,7 @@ class FileStore : public SettingsStore {
         merged.Merge(changed_);
         const QByteArray bytes = SettingsText(merged);
         if (bytes != file.bytes) {
-            const Reason reason = WriteSettingsFile(path_, bytes);
+            Reason reason = WriteSettingsFile(path_, bytes);
             if (!reason.isEmpty()) {
                 return reason;
             }

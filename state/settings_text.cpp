@@ -265,6 +265,7 @@ SettingsReading ReadSettingsText(const QByteArray& bytes) {
     }
     if (!isText || !isUtf8) {
         reading.damage = ReasonCode::NotUtf8;
+        // NOLINTNEXTLINE(bugprone-branch-clone): the order of the questions matters
     } else if (badLine > 1 && badLine == lines.size()) {
         reading.damage = ReasonCode::TextCutShort;  // within a line
     } else if (badLine != 0) {

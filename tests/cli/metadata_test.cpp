@@ -109,7 +109,7 @@ class Metadata : public ::testing::Test {
         }
         QMap<QString, Fields> files;
         const QJsonArray all = QJsonDocument::fromJson(ExifTool(arguments)).array();
-        for (const QJsonValue& file : all) {
+        for (const auto& file : all) {
             const Fields fields = file.toObject();
             files[fields[Text("SourceFile")].toString().section(u'/', -1)] = fields;
         }

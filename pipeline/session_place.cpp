@@ -80,7 +80,7 @@ void SessionPlace::Clear() {
 QString SessionPlace::SetAside() {
     const QFileInfo place(folder_);
     QString path = place.dir().filePath(QStringLiteral("damaged-") + place.fileName() +
-                                              projectEnding.toString());
+                                        projectEnding.toString());
     if (!QFile::rename(File(), path)) {
         return {};
     }

@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "remap/bitmap.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel::bench {
 

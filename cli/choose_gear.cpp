@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "cli/nearest.h"
-#include "gear/camera_catalogue.h"
-#include "gear/gear_catalogue.h"
-#include "gear/gear_store.h"
-#include "gear/lens_catalogue.h"
-#include "gear/photo_gear.h"
+#include "cli/options/nearest.h"
+#include "gear/catalogue/camera_catalogue.h"
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/catalogue/lens_catalogue.h"
+#include "gear/from_photo/photo_gear.h"
+#include "gear/store/gear_store.h"
 
 namespace varnel {
 

@@ -9,10 +9,10 @@
 #include <optional>
 #include <variant>
 
-#include "cli/options.h"
-#include "gear/gear_record.h"
-#include "state/photo_origin.h"
-#include "state/settings_store.h"
+#include "cli/options/options.h"
+#include "remap/image/camera_info.h"
+#include "state/records/gear_record.h"
+#include "state/settings/settings_store.h"
 
 namespace varnel {
 

@@ -7,9 +7,9 @@
 
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
-#include "cli/help_text.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
+#include "cli/options/help_text.h"
 
 namespace varnel {
 

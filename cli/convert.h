@@ -6,8 +6,8 @@
 
 #include <QStringList>
 
-#include "cli/console.h"
-#include "state/settings_store.h"
+#include "cli/report/console.h"
+#include "state/settings/settings_store.h"
 
 namespace varnel {
 

@@ -8,14 +8,14 @@
 #include <algorithm>
 
 #include "cli/like_picture.h"
-#include "pipeline/morph_sequence.h"
-#include "pipeline/output_name.h"
-#include "pipeline/preview_size.h"
-#include "remap/photo_metadata.h"
-#include "remap/save_bitmap.h"
-#include "state/gear_assignment.h"
-#include "state/picture_settings.h"
-#include "state/record_fields.h"
+#include "pipeline/conversion/morph_sequence.h"
+#include "pipeline/conversion/output_name.h"
+#include "remap/encode/save_bitmap.h"
+#include "remap/image/photo_metadata.h"
+#include "remap/image/preview_size.h"
+#include "state/editing/gear_assignment.h"
+#include "state/editing/picture_settings.h"
+#include "state/editing/record_fields.h"
 
 namespace varnel {
 

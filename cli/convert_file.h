@@ -8,13 +8,13 @@
 #include <QString>
 
 #include "cli/choose_gear.h"
-#include "cli/options.h"
+#include "cli/options/options.h"
 #include "cli/taken_names.h"
-#include "pipeline/file_set.h"
-#include "pipeline/photo_loader.h"
-#include "remap/render.h"
-#include "remap/save_bitmap.h"
-#include "state/general_settings.h"
+#include "files/file_identity.h"
+#include "pipeline/photos/photo_loader.h"
+#include "remap/encode/save_bitmap.h"
+#include "remap/render/render.h"
+#include "state/settings/general_settings.h"
 
 namespace varnel {
 

@@ -10,19 +10,19 @@
 #include <new>
 #include <optional>
 
-#include "cli/advice.h"
+#include "base/error_reason.h"
+#include "base/error_text.h"
+#include "base/run_time_error.h"
+#include "base/thread_runner.h"
 #include "cli/convert_file.h"
-#include "cli/results_there.h"
-#include "cli/run_reports.h"
-#include "gear/gear_offer.h"
-#include "pipeline/lending_steps.h"
-#include "pipeline/photo_feed.h"
-#include "pipeline/save_worker.h"
-#include "remap/engine/thread_runner.h"
-#include "remap/error_reason.h"
-#include "remap/photo_metadata.h"
-#include "remap/run_time_error.h"
-#include "state/told_reason.h"
+#include "cli/existing_results.h"
+#include "cli/options/advice.h"
+#include "cli/report/run_reports.h"
+#include "gear/from_photo/gear_offer.h"
+#include "pipeline/conversion/lending_steps.h"
+#include "pipeline/conversion/prefetching_reader.h"
+#include "pipeline/conversion/save_worker.h"
+#include "remap/image/photo_metadata.h"
 
 namespace varnel {
 

@@ -5,9 +5,9 @@
 #pragma once
 
 #include "cli/choose_gear.h"
-#include "cli/console.h"
-#include "cli/options.h"
-#include "state/general_settings.h"
+#include "cli/options/options.h"
+#include "cli/report/console.h"
+#include "state/settings/general_settings.h"
 
 namespace varnel {
 

@@ -3,8 +3,8 @@
 
 #include "cli/like_picture.h"
 
-#include "pipeline/likeness.h"
-#include "state/told_reason.h"
+#include "base/error_text.h"
+#include "pipeline/conversion/settings_from_picture.h"
 
 namespace varnel {
 

@@ -8,7 +8,7 @@
 #include <QStringList>
 #include <variant>
 
-#include "cli/options.h"
+#include "cli/options/options.h"
 
 namespace varnel {
 

@@ -4,10 +4,10 @@
 #include "cli/lists.h"
 
 #include "cli/choose_gear.h"
-#include "cli/json_line.h"
-#include "cli/nearest.h"
-#include "gear/camera_catalogue.h"
-#include "gear/lens_catalogue.h"
+#include "cli/options/nearest.h"
+#include "cli/report/json_line.h"
+#include "gear/catalogue/camera_catalogue.h"
+#include "gear/catalogue/lens_catalogue.h"
 
 namespace varnel {
 

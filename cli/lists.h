@@ -8,8 +8,8 @@
 #include <QStringList>
 #include <variant>
 
-#include "cli/options.h"
-#include "state/settings_store.h"
+#include "cli/options/options.h"
+#include "state/settings/settings_store.h"
 
 namespace varnel {
 

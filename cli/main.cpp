@@ -9,10 +9,10 @@
 #include <csignal>
 #include <iostream>
 
+#include "base/huge_pages.h"
 #include "cli/convert.h"
 #include "cli/stop_signals.h"
-#include "remap/large_pages.h"
-#include "state/telling_store.h"
+#include "state/settings/autosaving_store.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include <system_error>
 
-#include "cli/console.h"
+#include "cli/report/console.h"
 
 namespace varnel {
 

@@ -9,7 +9,7 @@
 #include <csignal>
 #include <thread>
 
-#include "state/unfinished_file.h"
+#include "files/unfinished_file.h"
 
 namespace varnel {
 

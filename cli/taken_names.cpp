@@ -5,7 +5,7 @@
 
 #include <QFileInfo>
 
-#include "pipeline/file_set.h"
+#include "files/file_identity.h"
 
 namespace varnel {
 

@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "decoder/protocol.h"
-#include "remap/encode_bitmap.h"
-#include "tests/support/seed_files.h"
+#include "decoder/process/protocol.h"
+#include "remap/encode/encode_bitmap.h"
+#include "tests/support/seeds/seed_files.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 // Any lines as the arguments of either program: they are taken, or refused with one line.
 #include <cstdlib>
 
-#include "app/start_arguments.h"
-#include "cli/options.h"
+#include "app/start/start_arguments.h"
+#include "cli/options/options.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "state/number_text.h"
+#include "state/settings/number_text.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const QString text =

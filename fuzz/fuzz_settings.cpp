@@ -5,7 +5,7 @@
 // again, and that file is whole.
 #include <cstdlib>
 
-#include "state/settings_guard.h"
+#include "state/settings/settings_recovery.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     varnel::SettingsReading reading = varnel::ReadSettingsText(

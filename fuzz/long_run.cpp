@@ -10,8 +10,8 @@
 #include <mutex>
 #include <thread>
 
-#include "tests/support/damage_tally.h"
 #include "tests/support/files.h"
+#include "tests/support/seeds/damage_tally.h"
 
 namespace varnel {
 

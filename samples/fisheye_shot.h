@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-#include "remap/bitmap.h"
+#include "remap/image/bitmap.h"
 #include "samples/scene.h"
 
 namespace varnel {

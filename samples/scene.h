@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "remap/geometry.h"
+#include "remap/projection/geometry.h"
 
 namespace varnel {
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "remap/geometry.h"
+#include "remap/projection/geometry.h"
 
 namespace varnel::sample {
 

@@ -14,13 +14,13 @@
 #include <new>
 #include <optional>
 
-#include "gear/camera_catalogue.h"
-#include "gear/lens_catalogue.h"
-#include "remap/photo_metadata.h"
-#include "remap/save_bitmap.h"
+#include "base/error_text.h"
+#include "gear/catalogue/camera_catalogue.h"
+#include "gear/catalogue/lens_catalogue.h"
+#include "remap/encode/save_bitmap.h"
+#include "remap/image/photo_metadata.h"
 #include "samples/fisheye_shot.h"
 #include "samples/taken_with.h"
-#include "state/told_reason.h"
 
 namespace varnel {
 namespace {

@@ -10,10 +10,10 @@
 #include <cstdio>
 #include <ctime>
 
-#include "decoder/decode_picture.h"
-#include "decoder/picture_limits.h"
-#include "remap/encode_bitmap.h"
-#include "remap/render.h"
+#include "decoder/formats/decode_picture.h"
+#include "decoder/request/picture_limits.h"
+#include "remap/encode/encode_bitmap.h"
+#include "remap/render/render.h"
 
 namespace varnel::bench {
 namespace {

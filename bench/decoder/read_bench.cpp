@@ -10,10 +10,10 @@
 #include <QTemporaryDir>
 
 #include "bench/pictures.h"
-#include "decoder/decode_picture.h"
-#include "decoder/picture_limits.h"
-#include "decoder/picture_reader.h"
-#include "remap/save_bitmap.h"
+#include "decoder/formats/decode_picture.h"
+#include "decoder/process/picture_reader.h"
+#include "decoder/request/picture_limits.h"
+#include "remap/encode/save_bitmap.h"
 
 namespace varnel {
 namespace {

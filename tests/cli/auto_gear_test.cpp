@@ -8,9 +8,9 @@
 #include <sstream>
 
 #include "cli/convert.h"
-#include "gear/gear_catalogue.h"
-#include "gear/gear_store.h"
-#include "tests/support/taken_photos.h"
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/store/gear_store.h"
+#include "tests/support/seeds/taken_photos.h"
 
 namespace varnel {
 namespace {

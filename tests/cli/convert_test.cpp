@@ -8,10 +8,10 @@
 #include <QDir>
 #include <sstream>
 
-#include "gear/gear_store.h"
+#include "gear/store/gear_store.h"
 #include "tests/support/files.h"
-#include "tests/support/jpeg_files.h"
 #include "tests/support/loading.h"
+#include "tests/support/seeds/jpeg_files.h"
 
 namespace varnel {
 namespace {

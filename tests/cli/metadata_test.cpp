@@ -14,9 +14,9 @@
 
 #include "cli/convert.h"
 #include "tests/support/files.h"
-#include "tests/support/jpeg_files.h"
 #include "tests/support/loading.h"
-#include "tests/support/profiles.h"
+#include "tests/support/seeds/jpeg_files.h"
+#include "tests/support/seeds/profiles.h"
 #include "tests/support/texts.h"
 
 namespace varnel {

@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "remap/bitmap.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 namespace {

@@ -9,8 +9,8 @@
 #include <functional>
 #include <random>
 
-#include "remap/bitmap.h"
-#include "remap/pixel_access.h"
+#include "remap/image/bitmap.h"
+#include "remap/image/pixel_access.h"
 
 namespace varnel::testing {
 

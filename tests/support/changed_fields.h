@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "state/record_fields.h"
+#include "state/editing/record_fields.h"
 
 namespace varnel::testing {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "pipeline/file_chooser.h"
+#include "pipeline/photos/file_chooser.h"
 
 namespace varnel::testing {
 

@@ -16,7 +16,7 @@
 #include <QWheelEvent>
 #include <memory>
 
-#include "state/notices.h"
+#include "base/notices.h"
 
 namespace varnel::testing {
 

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "remap/save_bitmap.h"
+#include "remap/encode/save_bitmap.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"
 

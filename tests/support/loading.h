@@ -4,7 +4,7 @@
 // Reading pictures back as the programs read photos.
 #pragma once
 
-#include "pipeline/photo_loader.h"
+#include "pipeline/photos/photo_loader.h"
 
 namespace varnel::testing {
 

@@ -4,7 +4,7 @@
 // Image records for tests.
 #pragma once
 
-#include "state/image_record.h"
+#include "state/records/image_record.h"
 
 namespace varnel::testing {
 

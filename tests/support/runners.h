@@ -8,7 +8,7 @@
 #include <random>
 #include <vector>
 
-#include "remap/engine/block_runner.h"
+#include "base/block_runner.h"
 
 namespace varnel::testing {
 

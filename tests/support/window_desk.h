@@ -13,8 +13,8 @@
 #include <QTest>
 #include <vector>
 
-#include "app/main_window.h"
-#include "gear/gear_catalogue.h"
+#include "app/window/main_window.h"
+#include "gear/catalogue/gear_catalogue.h"
 #include "tests/support/chooser.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The ports of the main window, answered with real windows.
+#pragma once
+
+#include <QWidget>
+
+#include "app/workspace/workspace.h"
+#include "base/notices.h"
+#include "gear/store/gear_store.h"
+
+namespace varnel {
+
+// Plain modal message boxes with an OK button, above whatever window is active. What has to be told
+// is that something went wrong; the rest is for information.
+class MessageBoxes : public Notices {
+  public:
+    static void Inform(const QString& text);
+    void Tell(const QString& text, const QString& detail) override;
+};
+
+// Asks for the first gear with the gear editor. Only the shortcut that quits the program leads out
+// without one.
+class FirstGearPrompt : public GearPrompt {
+  public:
+    void Explain(const QString& text) override;
+    bool DefineGear(GearTable& table) override;
+
+  private:
+    bool quitWanted_ = false;
+};
+
+// The platform's file dialog with the four file types.
+class SaveFileDialog : public FileChooser {
+  public:
+    std::optional<SaveChoice> ChooseSave(const SaveChoice& proposal) override;
+    bool AgreesToReplace(const QString& name) override;
+};
+
+// The path of a photo, asked for with the platform's file dialog; empty when cancelled.
+QString ChoosePhoto(const QString& folder);
+
+}  // namespace varnel

@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/dialogs/real_dialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include "app/dialogs/form_about.h"
+#include "app/dialogs/message_boxes.h"
+#include "app/dialogs/save_dialog.h"
+#include "gear/dialogs/form_gear_edit.h"
+#include "gear/dialogs/form_gear_list.h"
+#include "gear/store/gear_list.h"
+#include "pipeline/dialogs/form_add_images.h"
+#include "pipeline/dialogs/form_batch.h"
+#include "pipeline/dialogs/form_morph.h"
+#include "pipeline/dialogs/form_stretch.h"
+#include "pipeline/photos/mounted_volumes.h"
+#include "pipeline/photos/project_file.h"
+#include "state/dialogs/form_setup.h"
+#include "state/settings/setting_names.h"
+
+namespace varnel {
+
+namespace {
+
+QString ProjectFilter() {
+    return QObject::tr("Varnel projects (%1)").arg(u'*' + projectEnding.toString());
+}
+
+}  // namespace
+
+bool RealDialogs::AddImages(QWidget* parent) {
+    const PhotoPlaces places{QDir::homePath(),
+                             QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+                             &MountedVolumes};
+    // Of its own, so that a slow small picture never stands in a photo's way.
+    const auto reader = NewPictureReader({.secondsPerPhoto = 10});
+    FormAddImages form(state_.Images, store_, notices_, places,
+                       {*reader, state_.settings.AutoOrient}, parent);
+    return form.exec() == QDialog::Accepted;
+}
+
+std::vector<GearChange> RealDialogs::ManageGears(QWidget* parent) {
+    FormGearList form(
+        state_.Gear, store_,
+        [](GearTable& gears) {
+            FormGearEdit editor(gears, QApplication::activeWindow());
+            editor.exec();
+        },
+        parent);
+    return form.exec() == QDialog::Accepted ? form.Redefined() : std::vector<GearChange>();
+}
+
+bool RealDialogs::GiveNewNumbers(const QString& gear, int photos) {
+    const QString question =
+        photos == 1
+            ? QObject::tr("1 photo uses this gear. Give it the new numbers?")
+            : QObject::tr("%1 photos use this gear. Give them the new numbers?").arg(photos);
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Varnel"),
+                    gear + QStringLiteral("\n\n") + question, QMessageBox::Yes | QMessageBox::No,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+bool RealDialogs::DefineGear(const GearRecord& known, QWidget* parent) {
+    state_.Gear(0) = GearRecord();
+    FormGearEdit form(state_.Gear, parent);
+    form.Propose(known);
+    form.exec();
+    if (state_.Gear(0).GearName.isEmpty()) {
+        return false;
+    }
+    AddEditedGear(state_.Gear);
+    SaveGear(store_, state_.Gear);
+    return true;
+}
+
+void RealDialogs::ChangeDefaults(QWidget* parent) {
+    FormSetup form(state_.Gear, state_.settings, store_, parent);
+    form.exec();
+}
+
+void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                               QWidget* parent) {
+    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, reader_, notices_,
+                   queueChanged, parent);
+    QObject::connect(&form, &FormBatch::Written, parent, written);
+    form.exec();
+}
+
+void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+                        QWidget* parent) {
+    FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, notices_,
+                   queueChanged, parent);
+    form.exec();
+}
+
+void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
+    const auto choosePhoto = [this](const QString& folder) {
+        return ChoosePhoto(folder.isEmpty()
+                               ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
+                               : folder);
+    };
+    FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, notices_, parent);
+    if (!photo.isEmpty()) {
+        // Once the dialog is up: while the photo is read nothing may happen on the window below.
+        QTimer::singleShot(0, &form, [&form, photo] { form.Open(photo); });
+    }
+    form.exec();
+}
+
+void RealDialogs::ShowAbout(QWidget* parent) {
+    FormAbout form(parent);
+    form.exec();
+}
+
+SaveFirst RealDialogs::AskToSave(const UnsavedWork& work) {
+    QStringList lines;
+    if (work.photos > 0) {
+        lines.append(QObject::tr("Photos with unsaved adjustments: %1").arg(work.photos));
+    }
+    if (work.queued > 0) {
+        lines.append(QObject::tr("Images waiting in the batch queue, which no project holds: %1")
+                         .arg(work.queued));
+    }
+    lines.append(work.project.isEmpty()
+                     ? QObject::tr("Save the present image list as a project first?")
+                     : QObject::tr("The project %1 was changed. Save it first?").arg(work.project));
+    switch (QMessageBox::question(
+        QApplication::activeWindow(), QStringLiteral("Varnel"), lines.join(QStringLiteral("\n\n")),
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save)) {
+        case QMessageBox::Save:
+            return SaveFirst::Save;
+        case QMessageBox::Discard:
+            return SaveFirst::DoNotSave;
+        default:
+            return SaveFirst::Cancel;
+    }
+}
+
+Restore RealDialogs::AskToRestore(const LostList& list) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(QStringLiteral("Varnel"));
+    box.setIcon(QMessageBox::Question);
+    box.setText(QObject::tr("Varnel was not closed properly. Its image list of %1 is still there. "
+                            "Open it again?")
+                    .arg(QLocale().toString(list.written, QLocale::ShortFormat)));
+    box.setInformativeText(
+        QObject::tr("Photos in the list: %1. \"No\" removes it for good.").arg(list.photos));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.setDefaultButton(QMessageBox::Yes);
+    switch (box.exec()) {
+        case QMessageBox::Yes:
+            return Restore::Yes;
+        case QMessageBox::No:
+            return Restore::No;
+        default:
+            return Restore::Later;
+    }
+}
+
+QString RealDialogs::ChooseProject(const QString& folder) {
+    return QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), QObject::tr("Open project"), folder,
+        ProjectFilter() + QStringLiteral(";;") + QObject::tr("All files (*)"));
+}
+
+QString RealDialogs::ChooseProjectName(const QString& proposal) {
+    SaveDialog dialog(QObject::tr("Save project as"), QFileInfo(proposal).absoluteFilePath(),
+                      {ProjectFilter()});
+    dialog.setDefaultSuffix(projectEnding.mid(1).toString());
+    return dialog.Choose();
+}
+
+}  // namespace varnel

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The main window's dialogs as they really are.
+#pragma once
+
+#include "app/workspace/dialogs.h"
+#include "pipeline/conversion/batch_run.h"
+#include "state/settings/settings_store.h"
+
+namespace varnel {
+
+class RealDialogs : public Dialogs {
+  public:
+    RealDialogs(WorkingState& state, SettingsStore& store, PictureReader& reader,
+                PhotoLoader& photos, Notices& notices, FileChooser& fileChooser)
+        : state_(state),
+          store_(store),
+          reader_(reader),
+          photos_(photos),
+          notices_(notices),
+          fileChooser_(fileChooser) {}
+    bool AddImages(QWidget* parent) override;
+    std::vector<GearChange> ManageGears(QWidget* parent) override;
+    bool GiveNewNumbers(const QString& gear, int photos) override;
+    bool DefineGear(const GearRecord& known, QWidget* parent) override;
+    void ChangeDefaults(QWidget* parent) override;
+    void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                      QWidget* parent) override;
+    void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+               QWidget* parent) override;
+    void Stretch(const QString& photo, QWidget* parent) override;
+    void ShowAbout(QWidget* parent) override;
+    SaveFirst AskToSave(const UnsavedWork& work) override;
+    Restore AskToRestore(const LostList& list) override;
+    QString ChooseProject(const QString& folder) override;
+    QString ChooseProjectName(const QString& proposal) override;
+
+  private:
+    WorkingState& state_;
+    SettingsStore& store_;
+    PictureReader& reader_;
+    PhotoLoader& photos_;  // the same reader, with the window's way of waiting
+    Notices& notices_;
+    FileChooser& fileChooser_;
+    BatchChoices batchChoices_;  // the last ones, for the run of the program
+};
+
+}  // namespace varnel

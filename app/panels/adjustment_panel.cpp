@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/panels/adjustment_panel.h"
+
+#include <QGridLayout>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace varnel {
+
+AdjustmentPanel::AdjustmentPanel(QWidget* parent)
+    : QWidget(parent), projections_(new QButtonGroup(this)) {
+    projections_->setObjectName(QStringLiteral("OptionRemap"));
+    auto* const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+
+    auto* const equipment = new QGroupBox(tr("Refine equipment parameters"), this);
+    equipment->setObjectName(QStringLiteral("Frame1"));
+    auto* const equipmentColumn = new QVBoxLayout(equipment);
+
+    auto* const remap = new QGroupBox(tr("Remap"), this);
+    remap->setObjectName(QStringLiteral("FrameRemap"));
+    auto* const remapColumn = new QVBoxLayout(remap);
+    remapColumn->addWidget(MakeProjections(remap));
+    remapColumn->addWidget(MakePreviewChoices(remap));
+    AddRow(remapColumn, SliderId::AovOutput);
+    AddRow(remapColumn, SliderId::Effect);
+    AddGroupLabel(remapColumn, "LabelRotate1", GroupName(SliderId::X));
+    AddRow(remapColumn, SliderId::X);
+    AddRow(remapColumn, SliderId::Y);
+    AddRow(remapColumn, SliderId::Z);
+    AddGroupLabel(remapColumn, "LabelTranslate1", GroupName(SliderId::XTranslate));
+    AddRow(remapColumn, SliderId::XTranslate);
+    AddRow(remapColumn, SliderId::YTranslate);
+    AddRow(equipmentColumn, SliderId::AovInput);
+
+    column->addWidget(remap);
+    column->addWidget(equipment);
+    ShowFor(Projection::Varnel);
+}
+
+QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
+    static const std::array tips{
+        QT_TR_NOOP(
+            "Stretches every row of the circle sideways to the full width; no row moves up or "
+            "down"),
+        QT_TR_NOOP("Straight lines of the scene come out straight"),
+        QT_TR_NOOP("A fisheye in which equal angles take equal room"),
+        QT_TR_NOOP("Unrolls a circle shot straight up or down into a panorama")};
+    auto* const box = new QWidget(remap);
+    auto* const grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    for (const Projection projection : allProjections) {
+        const int index = static_cast<int>(projection);
+        auto* const button = new QRadioButton(ToText(projection), box);
+        button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
+        button->setToolTip(tr(tips[static_cast<std::size_t>(index)]));
+        projections_->addButton(button, index);
+        grid->addWidget(button, index / 2, index % 2);
+    }
+    projections_->button(0)->setChecked(true);
+    applyToAll_ = new QPushButton(tr("Apply to all"), box);
+    applyToAll_->setObjectName(QStringLiteral("CmdApplyAll2"));
+    applyToAll_->setToolTip(tr("Gives every photo in the list these settings and this gear"));
+    // The gear has a button of the same text.
+    applyToAll_->setAccessibleName(
+        QStringLiteral("%1: %2").arg(remap->title(), applyToAll_->text()));
+    grid->addWidget(applyToAll_, 0, 2, 2, 1);
+    return box;
+}
+
+QWidget* AdjustmentPanel::MakePreviewChoices(QWidget* parent) {
+    auto* const box = new QWidget(parent);
+    auto* const grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    autoPreview_ = new QCheckBox(tr("Auto preview"), box);
+    autoPreview_->setObjectName(QStringLiteral("CheckAutoPreview"));
+    autoPreview_->setToolTip(tr("Redraws the preview after every change"));
+    autoPreview_->setChecked(true);
+    antialiased_ = new QCheckBox(tr("Antialiased"), box);
+    antialiased_->setObjectName(QStringLiteral("CheckAntialiased"));
+    antialiased_->setToolTip(tr("Smooths the preview; saved pictures are always smooth"));
+    antialiased_->setChecked(true);
+    preview_ = new QPushButton(tr("Preview"), box);
+    preview_->setObjectName(QStringLiteral("CmdFreeImage"));
+    preview_->setToolTip(tr("Draws the preview now"));
+    grid->addWidget(autoPreview_, 0, 0);
+    grid->addWidget(antialiased_, 1, 0);
+    grid->addWidget(preview_, 0, 1, 2, 1, Qt::AlignRight);
+    return box;
+}
+
+void AdjustmentPanel::AddRow(QLayout* layout, SliderId id) {
+    const auto& table = SliderRows();
+    for (std::size_t n = 0; n < table.size(); ++n) {
+        if (table[n].id == id) {
+            rows_[n] = new SliderRow(table[n], this);
+            layout->addWidget(rows_[n]);
+        }
+    }
+}
+
+void AdjustmentPanel::AddGroupLabel(QLayout* layout, const char* name, const QString& text) {
+    auto* const label = new QLabel(text, this);
+    label->setObjectName(QString::fromLatin1(name));
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+    layout->addWidget(label);
+    groupLabels_.push_back(label);
+}
+
+SliderRow* AdjustmentPanel::Row(SliderId id) const {
+    for (SliderRow* const row : rows_) {
+        if (row->Data().id == id) {
+            return row;
+        }
+    }
+    return nullptr;
+}
+
+ControlValues AdjustmentPanel::Values() const {
+    ControlValues values;
+    values.projection = projections_->checkedId();
+    for (const SliderRow* const row : rows_) {
+        SetValueOf(row->Data().id, row->Value(), values);
+    }
+    return values;
+}
+
+Projection AdjustmentPanel::Chosen() const {
+    return ProjectionFromIndex(projections_->checkedId());
+}
+
+void AdjustmentPanel::Show(const ControlValues& values) {
+    const Projection projection = ProjectionFromIndex(values.projection);
+    projections_->button(static_cast<int>(projection))->setChecked(true);
+    ShowFor(projection);
+    for (SliderRow* const row : rows_) {
+        if (const std::optional<int> value = ValueOf(row->Data().id, values)) {
+            row->Show(*value);
+        }
+    }
+}
+
+void AdjustmentPanel::ShowEffect(int percent) {
+    Row(SliderId::Effect)->Show(percent);
+}
+
+void AdjustmentPanel::ShowFor(Projection projection) {
+    for (SliderRow* const row : rows_) {
+        row->SetShown(ShownWith(row->Data(), projection));
+    }
+    for (QLabel* const label : groupLabels_) {
+        label->setVisible(projection == Projection::Rectilinear);
+    }
+}
+
+}  // namespace varnel

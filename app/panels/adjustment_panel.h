@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The frames "Remap" and "Refine equipment parameters": projection, sliders and preview choices.
+#pragma once
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QPushButton>
+#include <array>
+#include <vector>
+
+#include "app/panels/slider_row.h"
+
+namespace varnel {
+
+class AdjustmentPanel : public QWidget {
+    Q_OBJECT
+  public:
+    explicit AdjustmentPanel(QWidget* parent = nullptr);
+
+    ControlValues Values() const;
+    Projection Chosen() const;
+    // Checks the projection's button, shows what belongs to it and sets every slider, without
+    // telling anybody.
+    void Show(const ControlValues& values);
+    void ShowEffect(int percent);
+    // Shows the sliders and labels of a projection and hides the others.
+    void ShowFor(Projection projection);
+    const std::array<SliderRow*, 8>& Rows() const { return rows_; }
+    SliderRow* Row(SliderId id) const;
+    QCheckBox* AutoPreview() const { return autoPreview_; }
+    QCheckBox* Antialiased() const { return antialiased_; }
+    QPushButton* PreviewButton() const { return preview_; }
+    QPushButton* ApplyToAll() const { return applyToAll_; }
+    QButtonGroup* Projections() const { return projections_; }
+
+  private:
+    QWidget* MakeProjections(QGroupBox* remap);
+    QWidget* MakePreviewChoices(QWidget* parent);
+    void AddRow(QLayout* layout, SliderId id);
+    void AddGroupLabel(QLayout* layout, const char* name, const QString& text);
+
+    QButtonGroup* projections_;
+    QCheckBox* autoPreview_ = nullptr;
+    QCheckBox* antialiased_ = nullptr;
+    QPushButton* preview_ = nullptr;
+    QPushButton* applyToAll_ = nullptr;
+    std::array<SliderRow*, 8> rows_{};
+    std::vector<QLabel*> groupLabels_;  // headings of the rotation and shift sliders
+};
+
+}  // namespace varnel

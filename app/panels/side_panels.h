@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The frames of the side column around the remap controls: equipment, image list, saving.
+#pragma once
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <vector>
+
+#include "base/record_array.h"
+#include "state/records/gear_record.h"
+#include "state/records/image_record.h"
+
+namespace varnel {
+
+// "Equipment": which gear took the photos.
+class EquipmentPanel : public QGroupBox {
+    Q_OBJECT
+  public:
+    explicit EquipmentPanel(QWidget* parent = nullptr);
+    // All gear names in table order; the default gear is selected.
+    void Fill(const GearTable& gears);
+    // A photo's gear. A name that is not among them is shown with a mark; none is selected then,
+    // and there is none to be applied to all.
+    void Show(const QString& gearName);
+    QComboBox* Gears() const { return gears_; }
+    QPushButton* ApplyToAll() const { return applyToAll_; }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    static QString GearsTip();
+    static QString Marked(const QString& gearName);
+    void ShowMark();
+
+    QString shown_;  // the gear of the photo that is shown
+    QComboBox* gears_;
+    QPushButton* applyToAll_;
+};
+
+// "Image list".
+class ImageListPanel : public QGroupBox {
+    Q_OBJECT
+  public:
+    explicit ImageListPanel(QWidget* parent = nullptr);
+    // One line for each record; none is current afterwards.
+    void Fill(const RecordArray<ImageRecord>& images);
+    std::vector<int> SelectedLines() const;  // in list order, from 0
+    QListWidget* List() const { return list_; }
+    QPushButton* Add() const { return add_; }
+    QPushButton* Remove() const { return remove_; }
+
+  private:
+    QListWidget* list_;
+    QPushButton* add_;
+    QPushButton* remove_;
+};
+
+// "Save", later "Save / batch process " and the length of the queue.
+class SavePanel : public QGroupBox {
+    Q_OBJECT
+  public:
+    explicit SavePanel(QWidget* parent = nullptr);
+    // 0 shows the plain caption; the button that opens the batch appears with the first entry.
+    void ShowQueue(int length);
+    QPushButton* SaveAs() const { return saveAs_; }
+    QPushButton* AddToQueue() const { return addToQueue_; }
+    QPushButton* ProcessQueue() const { return processQueue_; }
+
+  private:
+    QPushButton* saveAs_;
+    QPushButton* addToQueue_;
+    QPushButton* processQueue_;
+};
+
+}  // namespace varnel

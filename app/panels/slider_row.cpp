@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/panels/slider_row.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QMouseEvent>
+
+namespace varnel {
+
+namespace {
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate("Sliders", text);
+}
+
+}  // namespace
+
+SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
+    : QWidget(parent),
+      data_(facts),
+      valueLabel_(new QLabel(Translated(facts.startCaption), this)),
+      slider_(new QSlider(Qt::Horizontal, this)),
+      spinBox_(new QSpinBox(this)) {
+    const QString name = QString::fromLatin1(facts.slider);
+    const QString tip = Translated(facts.tip);
+    slider_->setObjectName(name);
+    slider_->setRange(facts.minimum, facts.maximum);
+    slider_->setSingleStep(facts.smallChange);
+    slider_->setPageStep(facts.largeChange);
+    slider_->setTickInterval(facts.tickInterval);
+    slider_->setTickPosition(QSlider::TicksBelow);
+    slider_->setValue(facts.start);
+    slider_->setFocusPolicy(Qt::StrongFocus);
+    slider_->setToolTip(tip);
+    slider_->setAccessibleDescription(tip);
+    slider_->installEventFilter(this);
+    spinBox_->setObjectName(QStringLiteral("Spin") + name);
+    spinBox_->setRange(facts.minimum, facts.maximum);
+    spinBox_->setValue(facts.start);
+    spinBox_->setKeyboardTracking(false);
+    spinBox_->setFocusPolicy(Qt::StrongFocus);
+    spinBox_->setToolTip(tip);
+    spinBox_->installEventFilter(this);
+    valueLabel_->setObjectName(QString::fromLatin1(facts.valueLabel));
+    valueLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+
+    auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(0);
+    QString accessible = Translated(facts.startCaption);
+    if (facts.headingLabel != nullptr) {
+        accessible = SpokenName(facts);
+        heading_ = new QLabel(Translated(facts.heading), this);
+        heading_->setAccessibleName(accessible);
+        heading_->setObjectName(QString::fromLatin1(facts.headingLabel));
+        heading_->setToolTip(tip);
+        heading_->installEventFilter(this);
+        grid->addWidget(heading_, 0, 0);
+    }
+    (heading_ != nullptr ? heading_ : valueLabel_)->setBuddy(slider_);
+    slider_->setAccessibleName(accessible);
+    spinBox_->setAccessibleName(accessible);
+    grid->addWidget(valueLabel_, 0, heading_ != nullptr ? 1 : 0, 1, heading_ != nullptr ? 1 : 2);
+    grid->addWidget(spinBox_, 0, 2, 2, 1);
+    grid->addWidget(slider_, 1, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+
+    connect(slider_, &QSlider::valueChanged, this, &SliderRow::OnValue);
+    connect(slider_, &QSlider::sliderPressed, this, [this] { valueBeforeDrag_ = Value(); });
+    connect(slider_, &QSlider::sliderReleased, this, &SliderRow::OnReleased);
+    connect(spinBox_, &QSpinBox::valueChanged, slider_, &QSlider::setValue);
+}
+
+void SliderRow::Show(int value) {
+    silent_ = true;
+    slider_->setValue(value);
+    OnValue(slider_->value());  // also when the slider stood there already: the caption is new
+    silent_ = false;
+}
+
+void SliderRow::SetShown(bool shown) {
+    for (QWidget* const control : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        control->setVisible(shown);
+    }
+    setVisible(shown);
+}
+
+void SliderRow::OnValue(int value) {
+    valueLabel_->setText(SliderCaption(data_, value));
+    const bool wasBlocked = spinBox_->blockSignals(true);
+    spinBox_->setValue(value);
+    spinBox_->blockSignals(wasBlocked);
+    if (silent_) {
+        return;
+    }
+    if (slider_->isSliderDown()) {
+        Q_EMIT Dragged();
+    } else {
+        Q_EMIT Changed();
+    }
+}
+
+void SliderRow::OnReleased() {
+    if (Value() != valueBeforeDrag_) {
+        Q_EMIT Changed();
+    }
+}
+
+bool SliderRow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == heading_ && event->type() == QEvent::MouseButtonDblClick && data_.resets &&
+        heading_->isEnabled() && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
+        Q_EMIT ResetWanted();
+        return true;
+    }
+    // A wheel that passes over a slider on its way down the column must not change the photo.
+    if (event->type() == QEvent::Wheel && watched != heading_ &&
+        !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace varnel

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Over the converted picture: where the photo is shrunk and where it is stretched.
+#pragma once
+
+#include <functional>
+
+#include "app/picture/overlay_geometry.h"
+#include "app/picture/picture_overlay.h"
+
+namespace varnel {
+
+class MagnificationOverlay : public PictureOverlay {
+  public:
+    // Null when there is nothing to show.
+    explicit MagnificationOverlay(std::function<const FrameStudy*()> study)
+        : study_(std::move(study)) {}
+
+    void Paint(QPainter& painter, const QTransform& toWidget, QSize picture) override;
+
+  private:
+    std::function<const FrameStudy*()> study_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,332 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/picture/picture_box.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "remap/display/paint.h"
+#include "remap/display/paint_part.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr double hitReach = 7.0;  // logical pixels
+constexpr QColor emptyBox(84, 84, 84);
+constexpr double panShare = 0.125;  // of the view, with an arrow key
+
+OverlayKey KeyOf(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Left:
+            return {event.key(), {-1, 0}};
+        case Qt::Key_Right:
+            return {event.key(), {1, 0}};
+        case Qt::Key_Up:
+            return {event.key(), {0, -1}};
+        case Qt::Key_Down:
+            return {event.key(), {0, 1}};
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:  // plus without Shift on many keyboards
+            return {event.key(), {}, 1};
+        case Qt::Key_Minus:
+            return {event.key(), {}, -1};
+        default:
+            return {event.key()};
+    }
+}
+
+}  // namespace
+
+PictureBox::PictureBox(const QString& hint, QWidget* parent) : QWidget(parent), hint_(hint) {
+    setMouseTracking(true);  // overlays change the cursor
+}
+
+void PictureBox::Show(FIBITMAP* bitmap, QSize full) {
+    // In the screen's own form, so that painting copies and converts nothing.
+    image_ = ImageOf(bitmap).convertToFormat(QImage::Format_RGB32);
+    picture_ = full.isEmpty() ? image_.size() : full;
+    // Not by a click: the keyboard stays with the list or the slider that is worked with.
+    setFocusPolicy(image_.isNull() ? Qt::NoFocus : Qt::TabFocus);
+    image_.setDevicePixelRatio(devicePixelRatioF());
+    update();
+    Q_EMIT Shown();
+}
+
+void PictureBox::FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full) {
+    zoom_ = zoom;
+    full_ = std::move(full);
+}
+
+void PictureBox::StandIn(const PictureBox* other) {
+    standIn_ = other;
+    update();
+}
+
+QSize PictureBox::View() const {
+    const QSizeF size = QSizeF(this->size()) * devicePixelRatioF();
+    return {static_cast<int>(size.width()), static_cast<int>(size.height())};
+}
+
+// On a scaled screen a box may begin within a pixel of the screen; the grid of whole ones begins
+// that much before it.
+QPointF PictureBox::GridOffset() const {
+    const QPointF origin = QPointF(mapTo(window(), QPoint())) * devicePixelRatioF();
+    return {origin.x() - std::floor(origin.x()), origin.y() - std::floor(origin.y())};
+}
+
+QPointF PictureBox::ViewPoint(QPointF point) const {
+    return point * devicePixelRatioF() + GridOffset();
+}
+
+QRectF PictureBox::PictureRect() const {
+    const double ratio = devicePixelRatioF();
+    if (Zoomed()) {
+        return {(zoom_->Corner() - GridOffset()) / ratio,
+                QSizeF(picture_) * zoom_->Scale() / ratio};
+    }
+    const QSizeF size = Source().image_.deviceIndependentSize();
+    // Whole device pixels, or the picture would be blurred on a scaled screen.
+    const double x = std::floor((width() - size.width()) / 2.0 * ratio) / ratio;
+    const double y = std::floor((height() - size.height()) / 2.0 * ratio) / ratio;
+    return {QPointF(x, y), size};
+}
+
+void PictureBox::RedrawRows(RowSpan rows) {
+    if (!Zoomed() || rows.last < rows.first) {
+        return;
+    }
+    const int height = picture_.height();
+    const QRectF lines(0, height - 1 - rows.last, picture_.width(), rows.last - rows.first + 1);
+    update(ToWidget().mapRect(lines).toAlignedRect().adjusted(-1, -1, 1, 1) & rect());
+}
+
+void PictureBox::HoldPan(bool held) {
+    panHeld_ = held && Zoomed();
+    if (panHeld_) {
+        setCursor(Qt::OpenHandCursor);
+    } else {
+        unsetCursor();
+    }
+}
+
+QTransform PictureBox::ToWidget() const {
+    if (picture_.isEmpty()) {
+        return {};
+    }
+    const QRectF place = PictureRect();
+    return QTransform::fromTranslate(place.x(), place.y())
+        .scale(place.width() / picture_.width(), place.height() / picture_.height());
+}
+
+void PictureBox::AddOverlay(PictureOverlay* overlay) {
+    overlays_.push_back(overlay);
+    update();
+}
+
+void PictureBox::RemoveOverlay(PictureOverlay* overlay) {
+    std::erase(overlays_, overlay);
+    if (holder_ == overlay) {
+        holder_ = nullptr;
+    }
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const QImage& image = Source().image_;
+    if (image.isNull()) {
+        painter.fillRect(rect(), emptyBox);
+        painter.setPen(QColor(225, 225, 225));
+        painter.drawText(
+            rect().adjusted(pictureMargin, pictureMargin, -pictureMargin, -pictureMargin),
+            Qt::AlignCenter | Qt::TextWordWrap, hintShown_ ? hint_ : QString());
+        return;
+    }
+    painter.fillRect(rect(), pictureSurround);
+    if (Zoomed()) {
+        for (const QRect& region : event->region()) {
+            PaintZoomed(painter, region);
+        }
+    } else {
+        painter.drawImage(PictureRect().topLeft(), image);
+    }
+    const QTransform toWidget = ToWidget();
+    for (PictureOverlay* const overlay : overlays_) {
+        painter.save();
+        overlay->Paint(painter, toWidget, picture_);
+        painter.restore();
+    }
+    if (hasFocus()) {
+        PaintFocus(painter);
+    }
+}
+
+// Dark beside light, to be seen on any picture.
+void PictureBox::PaintFocus(QPainter& painter) const {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor(0, 0, 0, 160), 4.0));
+    painter.drawRect(QRectF(rect()).adjusted(2.0, 2.0, -2.0, -2.0));
+    painter.setPen(QPen(QColor(255, 255, 255), 1.5));
+    painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+}
+
+// In pixels of the screen, so that at a scale of 1 none is touched by another.
+void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
+    const double ratio = devicePixelRatioF();
+    const QPointF grid = GridOffset();
+    const QRect device =
+        QRectF(QPointF(region.topLeft()) * ratio + grid, QSizeF(region.size()) * ratio)
+            .toAlignedRect();
+    QImage part(device.size(), QImage::Format_RGB32);
+    part.fill(pictureSurround);
+    const PartPlace place{zoom_->Corner() - device.topLeft(), zoom_->Scale()};
+    const FullPicture full = Source().full_ ? Source().full_() : FullPicture{};
+    if (full.bitmap == nullptr || full.rows != nullptr) {
+        QPainter under(&part);
+        under.setRenderHint(QPainter::SmoothPixmapTransform);
+        under.drawImage(QRectF(place.corner, QSizeF(picture_) * place.scale), Source().image_);
+    }
+    if (full.rows != nullptr) {
+        PaintPart(full.bitmap, place, part, [&full](int row) { return full.rows->Has(row); });
+    } else if (full.bitmap != nullptr) {
+        PaintPart(full.bitmap, place, part);
+    }
+    painter.save();
+    painter.setWorldTransform(QTransform::fromTranslate(-grid.x() / ratio, -grid.y() / ratio)
+                                  .scale(1 / ratio, 1 / ratio));
+    painter.drawImage(device.topLeft(), part);
+    painter.restore();
+}
+
+OverlayInput PictureBox::InputAt(const QSinglePointEvent& event) const {
+    const QTransform toPicture = ToWidget().inverted();
+    return {toPicture.map(event.position()), hitReach * toPicture.m11(), event.buttons(),
+            event.modifiers()};
+}
+
+void PictureBox::ShowCursorFor(const OverlayInput& input) {
+    for (auto overlay = overlays_.rbegin(); overlay != overlays_.rend(); ++overlay) {
+        if (const std::optional<QCursor> cursor = (*overlay)->CursorAt(input)) {
+            setCursor(*cursor);
+            return;
+        }
+    }
+    unsetCursor();
+}
+
+bool PictureBox::OverlaysTake(const OverlayInput& input) {
+    const auto taker = std::find_if(overlays_.rbegin(), overlays_.rend(),
+                                    [&](PictureOverlay* overlay) { return overlay->Press(input); });
+    if (taker == overlays_.rend()) {
+        return false;
+    }
+    holder_ = *taker;
+    return true;
+}
+
+// The tools come first; without one that wants them, arrows and plus and minus move what is seen.
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+    OverlayKey key = KeyOf(*event);
+    key.pixel = Empty() ? 0.0 : ToWidget().inverted().m11();
+    key.modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (Empty() || holder_ != nullptr || dragFrom_ || !UseKey(key)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+bool PictureBox::UseKey(const OverlayKey& key) {
+    if (std::any_of(overlays_.rbegin(), overlays_.rend(),
+                    [&](PictureOverlay* overlay) { return overlay->Key(key); })) {
+        return true;
+    }
+    const QPointF middle = QRectF(rect()).center();
+    if (key.key == Qt::Key_Escape) {
+        Q_EMIT LeaveWanted();
+    } else if (key.key == Qt::Key_Return || key.key == Qt::Key_Enter) {
+        Q_EMIT ToggleWanted(middle);
+    } else if (key.grows != 0) {
+        Q_EMIT ZoomWanted(middle, key.grows);
+    } else if (!key.arrow.isNull() && Zoomed()) {
+        Q_EMIT Dragged({-key.arrow.x() * View().width() * panShare,
+                        -key.arrow.y() * View().height() * panShare});
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    if (Empty() || holder_ != nullptr || dragFrom_) {
+        return;
+    }
+    const bool left = event->button() == Qt::LeftButton;
+    const bool panning = event->button() == Qt::MiddleButton || (left && panHeld_);
+    if (!panning && OverlaysTake(InputAt(*event))) {
+        return;
+    }
+    if (Zoomed() && (panning || left)) {
+        dragFrom_ = ViewPoint(event->position());
+        setCursor(Qt::ClosedHandCursor);
+    }
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+    if (Empty()) {
+        return;
+    }
+    if (holder_ != nullptr) {
+        holder_->Move(InputAt(*event));
+    } else if (dragFrom_) {
+        const QPointF to = ViewPoint(event->position());
+        Q_EMIT Dragged(to - std::exchange(*dragFrom_, to));
+    } else if (!panHeld_) {
+        ShowCursorFor(InputAt(*event));
+    }
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton && dragFrom_) {
+        dragFrom_.reset();
+        HoldPan(panHeld_);
+    }
+    if (holder_ == nullptr) {
+        Q_EMIT Released(event->position().toPoint(), event->button(), event->modifiers());
+        return;
+    }
+    if (event->buttons() == Qt::NoButton) {
+        std::exchange(holder_, nullptr)->Release(InputAt(*event));
+        ShowCursorFor(InputAt(*event));
+    }
+}
+
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (Empty() || holder_ != nullptr || event->button() != Qt::LeftButton ||
+        OverlaysTake(InputAt(*event))) {
+        return;
+    }
+    Q_EMIT ToggleWanted(event->position());
+}
+
+void PictureBox::wheelEvent(QWheelEvent* event) {
+    const double steps = event->angleDelta().y() / 120.0;
+    if (Empty()) {
+        event->ignore();
+        return;
+    }
+    if ((event->modifiers() & Qt::ControlModifier) != 0) {
+        Q_EMIT ZoomWanted(event->position(), steps);
+        return;
+    }
+    const OverlayInput input = InputAt(*event);
+    event->setAccepted(
+        std::any_of(overlays_.rbegin(), overlays_.rend(),
+                    [&](PictureOverlay* overlay) { return overlay->Wheel(input, steps); }));
+}
+
+}  // namespace varnel

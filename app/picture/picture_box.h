@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// One of the two pictures of the main window, whole or in part.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QMouseEvent>
+#include <QTransform>
+#include <QWidget>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "app/picture/picture_overlay.h"
+#include "pipeline/photos/picture_zoom.h"
+#include "remap/render/region_renderer.h"
+
+namespace varnel {
+
+// Around pictures: neutral, so that it does not tint what one sees.
+inline constexpr QColor pictureSurround(96, 96, 96);
+inline constexpr int pictureMargin = 12;  // logical pixels around and between pictures
+
+// What of a picture is there at full size.
+struct FullPicture {
+    FIBITMAP* bitmap = nullptr;
+    const PartRender* rows = nullptr;  // those that are there; null when all are
+};
+
+// Shows one bitmap in its middle, a bitmap pixel to a pixel of the screen, or a hint without one.
+class PictureBox : public QWidget {
+    Q_OBJECT
+  public:
+    explicit PictureBox(const QString& hint, QWidget* parent = nullptr);
+    // Null empties the box. full is the size of the picture that the bitmap is a reduced copy of;
+    // without one the bitmap is the picture.
+    void Show(FIBITMAP* bitmap, QSize full = {});
+    // Whether an empty box says what it is for.
+    void SetHintShown(bool shown) {
+        hintShown_ = shown;
+        update();
+    }
+    bool Empty() const { return image_.isNull(); }
+
+    // Shows the part that the zoom says, until it fits, from the full-size picture; what is not
+    // there of it is the enlarged bitmap. The zoom has to stay.
+    void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full);
+    // Shows the other box's picture instead, if any.
+    void StandIn(const PictureBox* other);
+    // In device pixels, as a zoom has it.
+    QSize View() const;
+    QPointF ViewPoint(QPointF point) const;  // from a point of this widget
+    // Of some rows of the full-size picture, from 0 at the bottom, new pixels are there.
+    void RedrawRows(RowSpan rows);
+    // While held, any drag of the left button moves the picture.
+    void HoldPan(bool held);
+
+    QSize Picture() const { return picture_; }
+    // Where the whole picture lies, logical pixels of this widget.
+    QRectF PictureRect() const;
+    // From points of the picture, (0, 0) being its top left corner, to points of this widget.
+    QTransform ToWidget() const;
+
+    // Not owned, and never deleted before the box or without RemoveOverlay. The one added last is
+    // drawn last and asked first.
+    void AddOverlay(PictureOverlay* overlay);
+    void RemoveOverlay(PictureOverlay* overlay);
+    void RedrawOverlays() { update(); }
+
+  Q_SIGNALS:
+    // The mouse was released on the picture, at a position of this widget, and no overlay had taken
+    // it.
+    void Released(QPoint position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+
+    // The bitmap is another one.
+    void Shown();
+    // Points of this widget. Steps of the wheel with Ctrl held.
+    void ZoomWanted(QPointF point, double steps);
+    void ToggleWanted(QPointF point);
+    // The mouse drags the picture, by device pixels.
+    void Dragged(QPointF by);
+    // Escape: the tool over the picture shall go.
+    void LeaveWanted();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    OverlayInput InputAt(const QSinglePointEvent& event) const;
+    void ShowCursorFor(const OverlayInput& input);
+    bool OverlaysTake(const OverlayInput& input);
+    bool UseKey(const OverlayKey& key);
+    void PaintFocus(QPainter& painter) const;
+    bool Zoomed() const { return zoom_ != nullptr && !zoom_->Fit(); }
+    const PictureBox& Source() const { return standIn_ != nullptr ? *standIn_ : *this; }
+    QPointF GridOffset() const;
+    void PaintZoomed(QPainter& painter, const QRect& region) const;
+
+    QString hint_;
+    bool hintShown_ = true;
+    QImage image_;
+    QSize picture_;
+    std::vector<PictureOverlay*> overlays_;
+    PictureOverlay* holder_ = nullptr;  // the overlay that has the mouse
+    const PictureZoom* zoom_ = nullptr;
+    std::function<FullPicture()> full_;
+    const PictureBox* standIn_ = nullptr;
+    std::optional<QPointF> dragFrom_;  // device pixels, while the picture is dragged
+    bool panHeld_ = false;
+};
+
+}  // namespace varnel

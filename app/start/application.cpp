@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/start/application.h"
+
+#include <new>
+
+#include "base/shortage.h"
+
+namespace varnel {
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    bool handled = false;
+    const QString shortage = Shortage([&] { handled = QApplication::notify(receiver, event); });
+    if (!shortage.isEmpty()) {
+        TellLater(shortage);
+    }
+    return handled;
+}
+
+// Not at once: the event may have been one of painting, above which no box can stand.
+void Application::TellLater(const QString& shortage) {
+    if (telling_ || notices_ == nullptr) {
+        return;
+    }
+    try {
+        QMetaObject::invokeMethod(
+            this,
+            [this, shortage] {
+                if (notices_ != nullptr) {
+                    notices_->Tell(shortage, tr("What was just begun was not done."));
+                }
+                telling_ = false;
+            },
+            Qt::QueuedConnection);
+        telling_ = true;
+    } catch (const std::bad_alloc&) {
+        // the next event that fails tells it
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// varnel, the desktop program. The command line is looked at first: a conversion needs no display.
+
+#include <unistd.h>
+
+#include <QFileInfo>
+#include <QIcon>
+#include <iostream>
+#include <optional>
+
+#include "app/dialogs/message_boxes.h"
+#include "app/dialogs/reading_box.h"
+#include "app/dialogs/real_dialogs.h"
+#include "app/start/application.h"
+#include "app/start/console_start.h"
+#include "app/start/focus_style.h"
+#include "app/start/plain_texts.h"
+#include "app/start/revision_age.h"
+#include "app/window/main_window.h"
+#include "cli/report/console.h"
+#include "state/settings/autosaving_store.h"
+#include "state/settings/default_choices.h"
+#include "translations/window_language.h"
+
+namespace {
+
+using namespace varnel;
+
+QStringList Absolute(const QStringList& files) {
+    QStringList paths;
+    for (const QString& file : files) {
+        paths.append(QFileInfo(file).absoluteFilePath());
+    }
+    return paths;
+}
+
+int RunWindow(Application& application, const QStringList& files, SettingsStore& userStore) {
+    MessageBoxes notices;
+    application.TellTo(&notices);
+    TellOf(userStore, notices);
+    FirstGearPrompt gearPrompt;
+    SaveFileDialog fileChooser;
+    if (const std::optional<QString> reminder = CheckRevisionAge(userStore, QDate::currentDate())) {
+        MessageBoxes::Inform(*reminder);
+    }
+    TellOf(userStore, notices);
+    TellingStore store(userStore, notices);
+    WorkingState state;
+    state.settings = LoadSettings(store);
+    const auto reader = NewPictureReader();
+    ReadingBox wait;
+    PhotoLoader photos(*reader, &wait, &state.settings);
+    RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
+    MDIForm1 window(state, store,
+                    {photos,
+                     notices,
+                     gearPrompt,
+                     fileChooser,
+                     dialogs,
+                     [] { return NewPictureReader({.secondsPerPhoto = 10}); },
+                     {UserSessionFolder()}});
+    QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
+    window.OpenAtStart(Absolute(files));
+    window.show();
+    const int exitCode = QApplication::exec();
+    application.TellTo(nullptr);
+    TellOf(store, notices);  // the window's layout is saved last
+    return exitCode;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    UseUtf8Locale();
+    const auto store = OpenUserStore(QDateTime::currentDateTime());
+    const auto start =
+        StartOnConsole(ArgumentTexts(argc, argv), *store, QDate::currentDate(),
+                       {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1, "varnel"});
+    if (const int* const exitCode = std::get_if<int>(&start)) {
+        return *exitCode;
+    }
+    Application application(argc, argv);
+    QApplication::setStyle(new FocusStyle);
+    QApplication::setApplicationName(QStringLiteral("varnel"));
+    QApplication::setApplicationDisplayName({});
+    // As the package installs both.
+    QApplication::setDesktopFileName(QStringLiteral("varnel"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("varnel")));
+    PlainTexts plainTexts;
+    application.installEventFilter(&plainTexts);
+    const int language = LanguagePosition(LoadSettings(*store).Language);
+    const WindowLanguage windowLanguage(application, languages[language].code);
+    return RunWindow(application, std::get<QStringList>(start), *store);
+}

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/circle_tools.h"
+
+#include <QLayout>
+#include <QLocale>
+#include <algorithm>
+#include <cmath>
+#include <new>
+
+#include "app/panels/menu_entry.h"
+#include "base/shortage.h"
+#include "gear/store/gear_store.h"
+#include "remap/analysis/photo_circle.h"
+
+namespace varnel {
+
+namespace {
+
+QString Number(double value) {
+    return QLocale().toString(value, 'f', 1);
+}
+
+// A gear's offsets lead to the right and down.
+QString NumbersText(const GearCircle& circle) {
+    QStringList places;
+    const auto add = [&places](float offset, const QString& positive, const QString& negative) {
+        const double shown = std::round(static_cast<double>(offset) * 10.0) / 10.0;
+        if (shown != 0.0) {
+            places.append((shown > 0.0 ? positive : negative).arg(Number(std::fabs(shown))));
+        }
+    };
+    add(circle.OfsetX, CircleTools::tr("%1 ‰ right"), CircleTools::tr("%1 ‰ left"));
+    add(circle.OfsetY, CircleTools::tr("%1 ‰ down"), CircleTools::tr("%1 ‰ up"));
+    const QString place = places.isEmpty() ? CircleTools::tr("in the middle of the photo")
+                                           : places.join(QStringLiteral(", "));
+    // The ratio is the photo's longer side in percent of the diameter.
+    const auto ratio = static_cast<double>(circle.GearRatio);
+    return CircleTools::tr("Centre %1, diameter %2 %")
+        .arg(place, Number(ratio > 0.0 ? 10000.0 / ratio : 0.0));
+}
+
+// Where to begin when the gear tells no circle.
+ImageCircle Inscribed(PixelSize picture) {
+    return {picture.width / 2.0, picture.height / 2.0,
+            std::min(picture.width, picture.height) / 2.0};
+}
+
+}  // namespace
+
+CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+                         Desk& desk, WorkingState& state, SettingsStore& store)
+    : QObject(window),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      store_(store),
+      overlay_([this] { return Shown(); }, [this](const ImageCircle& circle) { Try(circle); }),
+      bar_(new CircleBar(parts.pictures->parentWidget())),
+      entry_(AddMenuEntry(parts.viewMenu, "CmdViewCircle", tr("&Image circle"),
+                          {Qt::CTRL | Qt::Key_I})) {
+    entry_->setCheckable(true);
+    bar_->hide();
+    parts_.pictures->parentWidget()->layout()->addWidget(bar_);
+    Connect();
+}
+
+void CircleTools::Connect() {
+    connect(entry_, &QAction::toggled, this, &CircleTools::OnToggled);
+    connect(bar_, &CircleBar::FindWanted, this, &CircleTools::Find);
+    connect(bar_, &CircleBar::ResetWanted, this, &CircleTools::Reset);
+    connect(bar_, &CircleBar::TakeWanted, this, &CircleTools::Ask);
+    connect(bar_, &CircleBar::Agreed, this, &CircleTools::Take);
+    connect(bar_, &CircleBar::Declined, this, &CircleTools::Decline);
+    // After what these do to the current record.
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &CircleTools::Refresh,
+            Qt::QueuedConnection);
+    connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
+            Qt::QueuedConnection);
+    view_.WhenResultShown([this] { Refresh(); });
+    desk_.WhenGearRestored([this](const GearChange& change) { RestoreGear(change); });
+}
+
+void CircleTools::OnToggled(bool on) {
+    PrepareCurrent();
+    PictureBox* const photo = parts_.pictures->From();
+    photo->RemoveOverlay(&overlay_);
+    if (on) {
+        photo->AddOverlay(&overlay_);
+    }
+    bar_->setVisible(on);
+    if (!on && parts_.status->text() == found_) {
+        view_.ShowStatus({});
+    }
+    Reset();
+}
+
+// A gear that was given to all photos has its say before its circle is shown or changed.
+void CircleTools::PrepareCurrent() {
+    if (desk_.Current() != nullptr) {
+        desk_.PreparedCurrent();
+    }
+}
+
+PixelSize CircleTools::PhotoSize() const {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    return photo == nullptr ? PixelSize{} : SizeOf(photo);
+}
+
+std::optional<ImageCircle> CircleTools::Shown() {
+    const ImageRecord* const image = desk_.Current();
+    const PixelSize size = PhotoSize();
+    if (image == nullptr || size.width == 0) {
+        return std::nullopt;
+    }
+    if (trial_ && trialPhoto_ == desk_.CurrentPath()) {
+        return trial_;
+    }
+    const ImageCircle circle = CircleOf(*image, size);
+    return circle.radius > 0.0 ? circle : Inscribed(size);
+}
+
+int CircleTools::GearNumber() {
+    const ImageRecord* const image = desk_.Current();
+    return image == nullptr ? 0 : state_.Gear.Find(image->GearName);
+}
+
+void CircleTools::Try(const ImageCircle& circle) {
+    trial_ = circle;
+    trialPhoto_ = desk_.CurrentPath();
+    asked_.reset();
+    Refresh();
+}
+
+void CircleTools::Reset() {
+    trial_.reset();
+    asked_.reset();
+    Refresh();
+}
+
+void CircleTools::Refresh() {
+    if (!entry_->isChecked()) {
+        return;
+    }
+    if (trialPhoto_ != desk_.CurrentPath()) {
+        trial_.reset();
+    }
+    parts_.pictures->From()->RedrawOverlays();
+    if (trial_ && asked_ && *asked_ == desk_.Current()->GearName) {
+        return;  // a new preview does not answer the question
+    }
+    asked_.reset();
+    const std::optional<ImageCircle> circle = Shown();
+    bar_->ShowNumbers(
+        circle ? NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize())) : QString(),
+        circle.has_value(), circle && IsNewToGear(*circle));
+}
+
+bool CircleTools::IsNewToGear(const ImageCircle& circle) {
+    const int n = GearNumber();
+    if (n == 0 || (!trial_ && CircleOf(*desk_.Current(), PhotoSize()).radius <= 0.0)) {
+        return false;
+    }
+    const GearCircle numbers = GearCircleFor(circle, *desk_.Current(), PhotoSize());
+    const GearRecord& gear = state_.Gear(n);
+    const auto differ = [](float one, float other) { return std::fabs(one - other) > 0.05F; };
+    return differ(numbers.OfsetX, gear.OfsetX) || differ(numbers.OfsetY, gear.OfsetY) ||
+           differ(numbers.GearRatio, gear.GearRatio);
+}
+
+void CircleTools::Find() {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    if (photo == nullptr || desk_.Current() == nullptr || desk_.Busy()) {
+        return;
+    }
+    try {
+        if (const std::optional<FoundCircle> found = FindPhotoCircle(photo)) {
+            Try(*found);
+            found_ = found->rough ? tr("A rough image circle, from the light inside: it is dark at "
+                                       "the rim. Drag the rim where it is not right.")
+                                  : tr("Image circle found.");
+            view_.ShowStatus(found_);
+        } else {
+            view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
+        }
+    } catch (const std::bad_alloc&) {
+        view_.ShowStatus(ShortageText(Scarce::Memory));
+    }
+}
+
+void CircleTools::Ask() {
+    PrepareCurrent();
+    if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
+        asked_ = desk_.Current()->GearName;
+        bar_->Ask(tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
+                     "keep their "
+                     "circle, but for the current one.")
+                      .arg(desk_.Current()->GearName,
+                           NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize()))));
+    }
+}
+
+void CircleTools::Decline() {
+    asked_.reset();
+    Refresh();
+}
+
+void CircleTools::Take() {
+    const int gear = GearNumber();
+    const std::optional<ImageCircle> shown = Shown();
+    if (!shown || gear == 0 || desk_.Busy() || view_.Locked()) {
+        return;
+    }
+    const GearCircle circle = GearCircleFor(*shown, *desk_.Current(), PhotoSize());
+    const GearRecord before = state_.Gear(gear);
+    TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
+    SaveGear(store_, state_.Gear);
+    desk_.NoteStep(StepKind::Circle,
+                   {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
+    Reset();
+    desk_.Preview();
+    view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back.")
+                         .arg(state_.Gear(gear).GearName));
+}
+
+void CircleTools::RestoreGear(const GearChange& change) {
+    if (ChangeGear(state_.Gear, change)) {
+        SaveGear(store_, state_.Gear);
+        view_.ShowStatus(
+            tr("The gear \"%1\" has its circle again: %2.")
+                .arg(change.to.GearName,
+                     NumbersText({change.to.OfsetX, change.to.OfsetY, change.to.GearRatio})));
+    } else {
+        view_.ShowStatus(tr("The gear \"%1\" stays as it is: it was edited or deleted since.")
+                             .arg(change.to.GearName));
+    }
+    Refresh();
+}
+
+}  // namespace varnel

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What to do first, over the two pictures while the list is empty and there is a gear: where photos
+// are dropped and one line on what follows. It is lit while something is dragged over the window.
+#pragma once
+
+#include <QLabel>
+#include <QTimer>
+#include <QWidget>
+
+#include "app/workspace/window_view.h"
+
+namespace varnel {
+
+class StartHint : public QWidget {
+    Q_OBJECT
+  public:
+    StartHint(QWidget* window, const WindowParts& parts);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QLabel* AddLabel(const char* name, const QString& text);
+    void Light(bool lit);
+
+    WindowParts parts_;
+    QTimer look_{this};  // fires when the list is filled and the gears are there
+    bool lit_ = false;
+};
+
+}  // namespace varnel

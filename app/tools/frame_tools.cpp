@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/frame_tools.h"
+
+#include <QBoxLayout>
+
+#include "app/panels/menu_entry.h"
+#include "base/run_time_error.h"
+
+namespace varnel {
+
+FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Desk& desk,
+                       const WorkingState& state, QObject* parent)
+    : QObject(parent),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      frameOverlay_(*this),
+      map_([this] { return magnification_->isChecked() ? Fresh() : nullptr; }),
+      frame_(AddEntry("CmdViewFrame", tr("&Frame on the photo"), Qt::CTRL | Qt::Key_F)),
+      magnification_(
+          AddEntry("CmdViewMagnification", tr("&Magnification map"), Qt::CTRL | Qt::Key_M)),
+      numbers_(new QLabel(parts.pictures->parentWidget())) {
+    numbers_->setObjectName(QStringLiteral("LabelNumbers"));
+    numbers_->setAlignment(Qt::AlignCenter);
+    numbers_->setMargin(4);
+    numbers_->setWordWrap(true);
+    numbers_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    numbers_->hide();
+    if (auto* const column = qobject_cast<QBoxLayout*>(numbers_->parentWidget()->layout())) {
+        column->addWidget(numbers_);
+        column->setStretchFactor(parts_.pictures, 1);
+    }
+    parts_.pictures->From()->AddOverlay(&frameOverlay_);
+    parts_.pictures->To()->AddOverlay(&map_);
+    FollowControls();
+}
+
+QAction* FrameTools::AddEntry(const char* name, const QString& text, const QKeySequence& keys) {
+    QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text, {keys});
+    entry->setCheckable(true);
+    connect(entry, &QAction::toggled, &update_, [this] { update_.start(0); });
+    return entry;
+}
+
+void FrameTools::FollowControls() {
+    update_.setSingleShot(true);
+    connect(&update_, &QTimer::timeout, this, &FrameTools::Update);
+    const auto soon = [this] { update_.start(0); };
+    for (SliderRow* const row : parts_.adjustments->Rows()) {
+        connect(row->Slider(), &QSlider::valueChanged, this, soon);
+    }
+    connect(parts_.adjustments->Projections(), &QButtonGroup::idToggled, this, soon);
+    view_.WhenResultShown(soon);
+}
+
+std::optional<ImageRecord> FrameTools::LiveRecord() const {
+    const ImageRecord* const image = desk_.Current();
+    if (image == nullptr || state_.bitmaps.FullSourceBitmap == nullptr) {
+        return std::nullopt;
+    }
+    ImageRecord live = *image;
+    // Controls hold whole numbers; a record that they only show keeps its own.
+    if (!(view_.Controls() == ValuesFor(*image))) {
+        StoreControls(view_.Controls(), live);
+    }
+    return live;
+}
+
+PixelSize FrameTools::PhotoSize() const {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    return photo == nullptr ? PixelSize{} : SizeOf(photo);
+}
+
+const FrameStudy* FrameTools::Fresh() {
+    const std::optional<ImageRecord> live = LiveRecord();
+    const PixelSize size = PhotoSize();
+    if (live == studied_ && size.width == studiedSize_.width &&
+        size.height == studiedSize_.height) {
+        return study_.get();
+    }
+    studied_ = live;
+    studiedSize_ = size;
+    study_.reset();
+    if (live) {
+        try {
+            study_ =
+                std::make_unique<FrameStudy>(ProjectionFromIndex(live->Projection), *live, size);
+        } catch (const RunTimeError&) {
+            // The preview says what is wrong.
+        }
+    }
+    return study_.get();
+}
+
+void FrameTools::Update() {
+    const FrameStudy* const study = magnification_->isChecked() ? Fresh() : nullptr;
+    const auto numbers =
+        study == nullptr ? ResultNumbers() : MeasureResult(study->grid, study->kept);
+    numbers_->setText(study == nullptr ? QString() : NumbersText(numbers));
+    numbers_->setToolTip(numbers.halfWay ? tr("The middle of Horizon is a single point of the "
+                                              "photo: its resolution is told half way to the rim.")
+                                         : QString());
+    numbers_->setVisible(magnification_->isChecked());
+    parts_.pictures->From()->RedrawOverlays();
+    parts_.pictures->To()->RedrawOverlays();
+}
+
+FrameSetting FrameTools::Setting() const {
+    return {*desk_.Current(), view_.Controls(), PhotoSize()};
+}
+
+bool FrameTools::MayMove() const {
+    return !view_.Locked() && desk_.Current() != nullptr;
+}
+
+void FrameTools::Try(const ControlValues& controls) {
+    for (SliderRow* const row : parts_.adjustments->Rows()) {
+        const std::optional<int> value = ValueOf(row->Data().id, controls);
+        if (value && *value != row->Value()) {
+            row->Show(*value);
+            Q_EMIT row->Dragged();
+        }
+    }
+}
+
+void FrameTools::Store(SliderId slider) {
+    Q_EMIT parts_.adjustments->Row(slider)->Changed();
+}
+
+void FrameTools::Step(SliderId slider, int by) {
+    QSlider* const moved = parts_.adjustments->Row(slider)->Slider();
+    moved->setValue(moved->value() + by);
+}
+
+}  // namespace varnel

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The View menu's entries "Frame on the photo" and "Magnification map" with what they show: the
+// frame over the photo as shot, the map over the converted picture and the numbers below both.
+#pragma once
+
+#include <QAction>
+#include <QObject>
+#include <QTimer>
+#include <memory>
+#include <optional>
+
+#include "app/picture/frame_overlay.h"
+#include "app/picture/magnification_overlay.h"
+#include "app/workspace/window_view.h"
+
+namespace varnel {
+
+class FrameTools : public QObject, private FramePort {
+    Q_OBJECT
+  public:
+    FrameTools(const WindowParts& parts, WindowView& view, Desk& desk, const WorkingState& state,
+               QObject* parent);
+
+  private:
+    const FrameStudy* Study() override { return frame_->isChecked() ? Fresh() : nullptr; }
+    FrameSetting Setting() const override;
+    bool MayMove() const override;
+    void Try(const ControlValues& controls) override;
+    void Store(SliderId slider) override;
+    void Step(SliderId slider, int by) override;
+
+    QAction* AddEntry(const char* name, const QString& text, const QKeySequence& keys);
+    void FollowControls();
+    // What the conversion would be made from now; nothing without a photo.
+    std::optional<ImageRecord> LiveRecord() const;
+    PixelSize PhotoSize() const;
+    // The study of the live record, worked out anew when that has changed; null when there is no
+    // photo or no conversion with its numbers.
+    const FrameStudy* Fresh();
+    void Update();
+
+    WindowParts parts_;
+    WindowView& view_;
+    Desk& desk_;
+    const WorkingState& state_;
+    QTimer update_{this};  // fires when the input at hand is handled
+    FrameOverlay frameOverlay_;
+    MagnificationOverlay map_;
+    QAction* frame_;
+    QAction* magnification_;
+    QLabel* numbers_;
+    std::optional<ImageRecord> studied_;
+    PixelSize studiedSize_;
+    std::unique_ptr<FrameStudy> study_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/level_tools.h"
+#include "app/panels/menu_entry.h"
+
+#include <QCoreApplication>
+#include <QMenuBar>
+#include <QStringList>
+#include <algorithm>
+#include <cmath>
+
+namespace varnel {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(LevelTools)
+};
+
+QString Hint() {
+    return Texts::tr(
+        "Draw along the horizon on the photo as shot, or click points and then the last one again. "
+        "Escape leaves.");
+}
+
+const SliderRowData& RowOf(SliderId id) {
+    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
+}
+
+int Whole(double degrees) {
+    return static_cast<int>(std::lround(degrees));
+}
+
+QString BeyondText(SliderId id, double value, double beyond) {
+    return Texts::tr("it takes %1, %2° more than the slider has")
+        .arg(SliderCaption(RowOf(id), Whole(value)))
+        .arg(std::fabs(beyond), 0, 'f', 0);
+}
+
+QString OutOfReachText(const Levelling& level) {
+    QStringList parts;
+    if (level.beyondX != 0.0) {
+        parts.append(BeyondText(SliderId::X, level.rotateX, level.beyondX));
+    }
+    if (level.beyondZ != 0.0) {
+        parts.append(BeyondText(SliderId::Z, level.rotateZ, level.beyondZ));
+    }
+    return Texts::tr("Not levelled: %1.").arg(parts.join(Texts::tr(" and ")));
+}
+
+}  // namespace
+
+QString LevelText(const Levelling& level) {
+    switch (level.trouble) {
+        case LevelTrouble::NoLens:
+            return Texts::tr("Not levelled: the gear's numbers make no lens.");
+        case LevelTrouble::TooShort:
+            return Texts::tr("Not levelled: the line is too short.");
+        case LevelTrouble::NotStraight:
+            return Texts::tr("Not levelled: through this lens no horizon is bent like this line.");
+        case LevelTrouble::OutOfReach:
+            return OutOfReachText(level);
+        case LevelTrouble::None:
+            break;
+    }
+    QStringList turns;
+    for (const auto& [id, angle] :
+         {std::pair(SliderId::X, level.rotateX), std::pair(SliderId::Z, level.rotateZ)}) {
+        if (Whole(angle) != 0) {
+            turns.append(SliderCaption(RowOf(id), Whole(angle)));
+        }
+    }
+    return turns.isEmpty() ? Texts::tr("The horizon is level already.")
+                           : Texts::tr("Levelled: %1.").arg(turns.join(QStringLiteral(", ")));
+}
+
+LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
+                       WorkingState& state)
+    : QObject(window),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      leave_(new QShortcut(QKeySequence(Qt::Key_Escape), window)),
+      stroke_([this] { parts_.pictures->From()->RedrawOverlays(); }, [this] { Level(); }) {
+    QAction* const neighbour = window->findChild<QAction*>(QStringLiteral("CmdToolsStretch"));
+    entry_ = AddMenuEntry(qobject_cast<QMenu*>(neighbour->parent()), "CmdToolsLevel",
+                          tr("&Level the horizon"), {Qt::CTRL | Qt::Key_L});
+    entry_->setCheckable(true);
+    connect(entry_, &QAction::toggled, this, &LevelTools::OnToggled);
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this,
+            [this] { stroke_.Clear(); });
+    leave_->setEnabled(false);
+    connect(leave_, &QShortcut::activated, this, &LevelTools::Leave);
+}
+
+void LevelTools::OnToggled(bool on) {
+    if (on && view_.ChosenProjection() != Projection::Rectilinear) {
+        view_.ShowStatus(
+            tr("Only Rectilinear can be levelled; the others do not turn the camera."));
+        Leave();
+        return;
+    }
+    PictureBox* const photo = parts_.pictures->From();
+    stroke_.Clear();
+    photo->RemoveOverlay(&stroke_);
+    if (on) {
+        photo->AddOverlay(&stroke_);
+        view_.ShowStatus(Hint());
+        hintNumber_ = view_.StatusNumber();
+    } else if (view_.StatusNumber() == hintNumber_) {
+        view_.ShowStatus({});
+    }
+    leave_->setEnabled(on);
+}
+
+void LevelTools::Level() {
+    const ImageRecord* const image = desk_.Current();
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    if (image == nullptr || photo == nullptr || desk_.Busy() || view_.Locked()) {
+        return;
+    }
+    if (view_.ChosenProjection() != Projection::Rectilinear) {
+        view_.ShowStatus(
+            tr("Only Rectilinear can be levelled; the others do not turn the camera."));
+        return;
+    }
+    std::vector<PicturePoint> traced;
+    for (const QPointF point : stroke_.Points()) {
+        traced.push_back({point.x(), point.y()});
+    }
+    const Levelling level = LevelHorizon(*image, SizeOf(photo), traced);
+    if (level.trouble == LevelTrouble::None) {
+        Store(level);
+        Leave();  // the mouse is free for the next tool
+    }
+    view_.ShowStatus(LevelText(level));
+}
+
+// As if both sliders had been moved, but one step to be undone.
+void LevelTools::Store(const Levelling& level) {
+    parts_.adjustments->Row(SliderId::X)->Show(Whole(level.rotateX));
+    parts_.adjustments->Row(SliderId::Z)->Show(Whole(level.rotateZ));
+    for (const int line : view_.SelectedLines()) {
+        ImageRecord& image = state_.Images(line + 1);
+        // The others get their gear first, which the desk minds.
+        if (image.SettingsApplied || line == view_.CurrentLine()) {
+            StoreControls(view_.Controls(), image);
+        }
+    }
+    desk_.NoteStep(StepKind::Level);
+    desk_.StoreControls(true);
+}
+
+}  // namespace varnel

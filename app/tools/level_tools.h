@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The Tools menu's entry "Level the horizon": while it is checked, a line traced along the horizon
+// on the photo as shot sets tilt and roll.
+#pragma once
+
+#include <QAction>
+#include <QObject>
+#include <QShortcut>
+
+#include "app/picture/stroke_overlay.h"
+#include "app/workspace/window_view.h"
+#include "state/editing/level_horizon.h"
+
+namespace varnel {
+
+// What became of it, in a sentence for the status line.
+QString LevelText(const Levelling& level);
+
+class LevelTools : public QObject {
+    Q_OBJECT
+  public:
+    LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
+               WorkingState& state);
+
+  private:
+    void OnToggled(bool on);
+    void Leave() { entry_->setChecked(false); }
+    void Level();
+    void Store(const Levelling& level);
+
+    WindowParts parts_;
+    WindowView& view_;
+    Desk& desk_;
+    WorkingState& state_;
+    QShortcut* leave_;
+    StrokeOverlay stroke_;
+    int hintNumber_ = 0;  // of the hint in the status line
+    QAction* entry_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The tools over the photo by keyboard: a tool that is switched on gets it, Escape switches the
+// tool off again.
+#pragma once
+
+#include <QAction>
+#include <QObject>
+#include <array>
+
+#include "app/workspace/window_view.h"
+
+namespace varnel {
+
+class PictureKeys : public QObject {
+    Q_OBJECT
+  public:
+    // After the tools have their menu entries.
+    PictureKeys(QWidget* window, const WindowParts& parts);
+
+  private:
+    void Leave();
+
+    std::array<QAction*, 2> tools_;
+};
+
+}  // namespace varnel

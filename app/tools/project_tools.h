@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Project files: their entries in the File menu, and everything that opens or saves one.
+#pragma once
+
+#include <QObject>
+
+#include "app/workspace/dialogs.h"
+#include "app/workspace/window_view.h"
+#include "pipeline/photos/project_file.h"
+#include "state/settings/settings_store.h"
+
+namespace varnel {
+
+class ProjectTools : public QObject {
+    Q_OBJECT
+  public:
+    ProjectTools(QMainWindow* window, WindowView& view, Desk& desk, const WorkingState& state,
+                 SettingsStore& store, const WindowPorts& ports);
+
+    // Opens the first project file among them; returns the other files that are none.
+    QStringList OpenFrom(const QStringList& files);
+    void Open(const QString& path);
+    // Puts the list of a project in the place of the present one. The path is the project file's;
+    // empty where it is none of the user's.
+    void Show(const ReadProject& project, const QString& path);
+    // Asks once whether work that closing would lose is to be saved; false to stay.
+    bool MayClose();
+
+  private:
+    void AddEntries(QMenu* menu, QAction* before);
+    void FillRecent();
+    void ChooseAndOpen();
+    bool Save();
+    bool SaveAs();
+    bool SaveTo(const QString& path);
+    QString ChangedProject() const;
+    bool SavedOrDiscarded(const UnsavedWork& work);
+    void ShowState();
+    void Tell(const QString& text, const QStringList& lines);
+    QString StartFolder() const;
+
+    QMainWindow* window_;
+    WindowView& view_;
+    Desk& desk_;
+    const WorkingState& state_;
+    SettingsStore& store_;
+    WindowPorts ports_;
+    QAction* save_ = nullptr;
+    QAction* saveAs_ = nullptr;
+    QMenu* recent_ = nullptr;
+};
+
+}  // namespace varnel

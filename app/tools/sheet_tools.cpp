@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/sheet_tools.h"
+#include "app/panels/menu_entry.h"
+
+namespace varnel {
+
+SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
+                       const WorkingState& state, QObject* parent)
+    : QObject(parent),
+      parts_(parts),
+      view_(view),
+      desk_(desk),
+      state_(state),
+      box_(new ContactSheetBox(parts.pictures)) {
+    QAction* const entry =
+        AddMenuEntry(parts_.viewMenu, "CmdContactSheet", tr("&Contact sheet"), {Qt::Key_F6});
+    connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
+    connect(box_, &ContactSheetBox::Chosen, this,
+            [this](const ContactTile& tile) { desk_.AdoptTile(tile); });
+    connect(box_, &ContactSheetBox::GivenUp, this,
+            [this](const QString& shortage) { view_.ShowStatus(shortage); });
+    // What the tiles show would no longer hold.
+    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &SheetTools::CloseSheet);
+}
+
+void SheetTools::Toggle() {
+    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    if (box_->isVisible()) {
+        box_->hide();
+    } else if (photo != nullptr && desk_.Current() != nullptr && !desk_.Busy()) {
+        box_->Open(desk_.PreparedCurrent(), photo, view_.Antialiased());
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// "Undo" and "Redo" in the Edit menu, with the names of their steps.
+#pragma once
+
+#include <QAction>
+#include <QObject>
+
+#include "app/workspace/window_view.h"
+
+namespace varnel {
+
+class UndoTools : public QObject {
+    Q_OBJECT
+  public:
+    UndoTools(const WindowParts& parts, const WindowView& view, Desk& desk, QObject* parent);
+    ~UndoTools() override;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void ShowNames();
+
+    Desk& desk_;
+    QAction* undo_;
+    QAction* redo_;
+};
+
+}  // namespace varnel

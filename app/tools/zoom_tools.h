@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Zoom, pan, before and after, grid and cross: one zoom for both pictures, with its entries in the
+// View menu, its keys and the part of the converted picture that is drawn for it.
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include "app/picture/picture_lines.h"
+#include "app/picture/region_scheduler.h"
+#include "app/workspace/window_view.h"
+#include "pipeline/photos/picture_zoom.h"
+
+namespace varnel {
+
+class ZoomTools : public QObject {
+    Q_OBJECT
+  public:
+    ZoomTools(QMainWindow* window, const WindowParts& parts, const WindowView& view,
+              const Desk& desk, const WorkingState& state);
+
+  private:
+    void AddEntries();
+    void AddKeys();
+    void ConnectBox(PictureBox* box);
+    void OnSourceShown();
+    void OnResultShown();
+    void OnRoomChanged();
+
+    FIBITMAP* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
+    PartFeed::Wish Wish() const;
+    RowSpan VisibleRows() const;
+    QPointF Middle(const PictureBox* box) const { return QRectF(box->rect()).center(); }
+    // Makes the scale so, the point of the box's picture staying where it is on the screen.
+    void ZoomTo(const PictureBox* box, QPointF point, double scale);
+    void Toggle(const PictureBox* box, QPointF point);
+    void ShowAll();
+    void ShowZoom();
+    void ShowBefore(bool on);
+
+    QMainWindow* window_;
+    WindowParts parts_;
+    const WindowView& view_;
+    const Desk& desk_;
+    const WorkingState& state_;
+    PictureBox* from_;
+    PictureBox* to_;
+    PictureZoom zoom_;
+    PartFeed feed_;
+    PictureLines lines_;
+    QLabel* shownScale_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The modal windows that the main window can open, as a port: tests answer for them.
+#pragma once
+
+#include <QDateTime>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "app/workspace/workspace.h"
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/store/gear_store.h"
+
+namespace varnel {
+
+// Hears the batch queue's new length.
+using QueueChanged = std::function<void(int)>;
+
+// Hears which entry of the queue was written into which file.
+using PictureWritten = std::function<void(const ImageRecord&, const QString&)>;
+
+// What is lost when the window closes, or another list takes the place of the present one.
+struct UnsavedWork {
+    QString project;  // file name of the project that was changed; empty: none
+    int photos = 0;   // with adjustments that are in no project and in no picture
+    int queued = 0;   // images in the batch queue
+};
+
+// The answer to the question whether the list shall be saved first.
+enum class SaveFirst { Save, DoNotSave, Cancel };
+
+// The image list of a window that was not closed.
+struct LostList {
+    QDateTime written;
+    int photos = 0;
+};
+
+// What is to be done with it: open it, remove it, or ask again at the next start.
+enum class Restore { Yes, No, Later };
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    // True when photos were added to the image list.
+    virtual bool AddImages(QWidget* parent) = 0;
+    // The gears that were redefined.
+    virtual std::vector<GearChange> ManageGears(QWidget* parent) = 0;
+    // Whether that many photos shall have the new numbers of their gear.
+    virtual bool GiveNewNumbers(const QString& gear, int photos) = 0;
+    // Begins with what is known of the gear: names, and numbers if there is a ratio. True when it
+    // was added to the table.
+    virtual bool DefineGear(const GearRecord& known, QWidget* parent) = 0;
+    virtual void ChangeDefaults(QWidget* parent) = 0;
+    virtual void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+                              QWidget* parent) = 0;
+    // For a photo that is prepared as for the queue.
+    virtual void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
+                       QWidget* parent) = 0;
+    // Begins with the photo under the path; empty for none.
+    virtual void Stretch(const QString& photo, QWidget* parent) = 0;
+    virtual void ShowAbout(QWidget* parent) = 0;
+    virtual SaveFirst AskToSave(const UnsavedWork& work) = 0;
+    virtual Restore AskToRestore(const LostList& list) = 0;
+    // Paths of project files, to be opened or written; empty when cancelled.
+    virtual QString ChooseProject(const QString& folder) = 0;
+    virtual QString ChooseProjectName(const QString& proposal) = 0;
+};
+
+// Everything through which the main window speaks to the user besides itself.
+struct WindowPorts {
+    PhotoLoader& photos;
+    Notices& notices;
+    GearPrompt& gearPrompt;
+    FileChooser& fileChooser;
+    Dialogs& dialogs;
+    // Makes what reads the list's small pictures; without it there are none.
+    std::function<std::unique_ptr<PictureReader>()> newSmallReader = nullptr;
+    // Where image lists are kept against a crash; without a folder they are not.
+    struct {
+        QString folder = {};
+        int pause = 3000;  // ms from a change until it is kept
+    } sessions = {};
+};
+
+}  // namespace varnel

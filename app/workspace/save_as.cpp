@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Saving the current photo: the part of the desk that writes files.
+
+#include <QCoreApplication>
+#include <new>
+
+#include "app/panels/scoped.h"
+#include "app/workspace/workspace.h"
+#include "base/error_reason.h"
+#include "base/error_text.h"
+#include "base/run_time_error.h"
+#include "pipeline/conversion/output_name.h"
+#include "remap/encode/output_type.h"
+#include "remap/encode/save_bitmap.h"
+#include "remap/image/photo_metadata.h"
+#include "state/editing/picture_settings.h"
+
+namespace varnel {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Desk)
+};
+
+}  // namespace
+
+SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
+                               const CancelFlag& cancelled) {
+    const Raised saving(saving_);
+    const Raised rendering(rendering_);
+    const OutputType type = TypeOf(choice);
+    RenderDesk desk{.bitmaps = state_.bitmaps, .runner = &runner_};
+    CancellableProgress progress(view_.Progress(), cancelled);
+    try {
+        Render(view_.ChosenProjection(), image, SizeKind::Large, progress, desk);
+        FIBITMAP* const result = state_.bitmaps.ResultBitmap.get();
+        if (!state_.settings.WriteMetadata) {
+            DropMetadata(result);
+        }
+        ImageRecord shown = image;
+        shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
+        NoteSettings(result, shown, state_.settings.WriteSettings,
+                     state_.settings.WriteMetadata ? choice.name : QString());
+        const int flags =
+            SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444);
+        return SaveMeanwhile({FormatOf(type), choice.name, flags}, result, runner_,
+                             view_.Progress(), cancelled);
+    } catch (const SavingCancelled&) {
+        return {};
+    } catch (const RunTimeError& error) {
+        return {false, ReasonFor(error)};
+    } catch (const std::bad_alloc&) {
+        return {false, {ReasonCode::Words, Texts::tr("There is not enough memory.")}};
+    }
+}
+
+void Desk::SaveAs(FileChooser& chooser) {
+    if (Busy() || Current() == nullptr) {
+        return;
+    }
+    const ImageRecord image = PreparedCurrent();
+    if (!state_.bitmaps.FullSourceBitmap) {
+        TellNotOpened(image);
+        return;
+    }
+    const SaveChoice proposal{ProposedName(SourcePath(image), view_.ChosenProjection()),
+                              static_cast<int>(OutputTypeFromText(state_.settings.FileType)) + 1};
+    const std::optional<SaveChoice> choice =
+        AskWhereToSave(chooser, notices_, proposal, SourcePath(image));
+    if (!choice) {
+        return;
+    }
+    CancelFlag cancelled = false;
+    SaveResult saved;
+    {
+        const Raised busy(busy_);
+        view_.Lock(true);
+        view_.LetCancel([&cancelled] { cancelled = true; });
+        view_.HandleEvents();
+        view_.ShowHourglass(true);
+        saved = RenderAndSave(image, *choice, cancelled);
+        state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
+        view_.ShowHourglass(false);
+        view_.LetCancel(nullptr);
+        view_.Lock(false);
+    }
+    if (!saved && cancelled) {
+        view_.ShowStatus(CancelledText());
+    } else {
+        TellSaved(saved, choice->name);
+    }
+    if (saved) {
+        MarkWritten(image, choice->name);
+    }
+    view_.Idle();
+}
+
+void Desk::TellSaved(const SaveResult& saved, const QString& name) {
+    if (!saved) {
+        notices_.Tell(Texts::tr("Could not save %1").arg(name), ToldReason(saved.reason));
+    } else if (saved.note.isEmpty()) {
+        view_.ShowStatus(Texts::tr("Saved %1").arg(name));
+    } else {
+        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ToldReason(saved.note)));
+    }
+}
+
+}  // namespace varnel

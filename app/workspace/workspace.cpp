@@ -1,0 +1,304 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/workspace/workspace.h"
+
+#include <QCoreApplication>
+#include <new>
+#include <utility>
+
+#include "app/panels/scoped.h"
+#include "app/workspace/hourglass.h"
+#include "base/error_reason.h"
+#include "base/error_text.h"
+#include "base/run_time_error.h"
+#include "base/shortage.h"
+#include "remap/image/preview_size.h"
+#include "state/editing/gear_assignment.h"
+
+namespace varnel {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Desk)
+};
+
+}  // namespace
+
+ImageRecord* Desk::Current() {
+    const int n = view_.CurrentLine() + 1;
+    return n >= 1 && n <= state_.Images.UpperBound() ? &state_.Images(n) : nullptr;
+}
+
+const ImageRecord& Desk::PreparedCurrent() {
+    Prepare(*Current());
+    RefreshCurrent();
+    return *Current();
+}
+
+QString Desk::CurrentPath() {
+    const ImageRecord* const image = Current();
+    return image != nullptr ? SourcePath(*image) : QString();
+}
+
+void Desk::ShowInControls(const ImageRecord& image) {
+    const Raised loading(state_.loadingControls);
+    view_.ShowRecord(image);
+}
+
+void Desk::TellNotOpened(const ImageRecord& image) {
+    notices_.Tell(Texts::tr("Could not open image"),
+                  QStringLiteral("%1: %2").arg(SourcePath(image), ToldReason(loadTrouble_)));
+}
+
+bool Desk::LoadFull(int line) {
+    NoteStep(StepKind::Other);  // all that comes now is nobody's deed
+    history_.Seal();
+    ImageRecord& image = state_.Images(line + 1);
+    state_.bitmaps.ResultBitmap.reset();
+    state_.bitmaps.PreviewSourceBitmap.reset();
+    state_.bitmaps.FullSourceBitmap.reset();
+    view_.ShowResult(nullptr);  // never another photo's
+    view_.ShowTrouble({});
+    LoadedPicture loaded = photos_.Load(SourcePath(image));
+    loadTrouble_ = loaded.bitmap ? Reason() : loaded.reason;
+    if (!loaded.reason.isEmpty()) {
+        view_.ShowTrouble(QStringLiteral("%1: %2").arg(image.FileName, ToldReason(loaded.reason)));
+    }
+    if (!loaded.bitmap) {
+        view_.ShowSource(nullptr);
+        view_.ShowStatus({});
+        ShowInControls(image);
+        return false;
+    }
+    unreadable_.remove(SourcePath(image));
+    state_.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
+    TakeSize({SizeOf(state_.bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
+    GiveOwnGear(image);
+    Absorb();
+    ShowInControls(image);
+    view_.ShowStatus(Texts::tr("%1 x %2 pixels").arg(image.Width).arg(image.Height));
+    return true;
+}
+
+void Desk::ShowLine(int line) {
+    if (Busy() || line < 0 || line >= state_.Images.UpperBound()) {
+        return;
+    }
+    {
+        const Raised busy(busy_);
+        if (LoadAndReduce(line)) {
+            Preview();
+        } else if (!loadTrouble_.Is(ReasonCode::Cancelled) && Unreadable(CurrentPath()).isEmpty()) {
+            TellNotOpened(state_.Images(line + 1));
+        }
+    }
+    view_.Idle();
+}
+
+bool Desk::LoadAndReduce(int line) {
+    const Hourglass hourglass(view_);
+    try {
+        if (!LoadFull(line)) {
+            return false;
+        }
+        Reduce();
+        return true;
+    } catch (const std::bad_alloc&) {
+        state_.bitmaps = {};
+        loadTrouble_ = ReasonCode::NotEnoughMemory;
+        view_.ShowTrouble(ToldReason(loadTrouble_));
+        view_.ShowSource(nullptr);
+        return false;
+    }
+}
+
+void Desk::Reduce() {
+    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
+    state_.bitmaps.PreviewSourceBitmap.reset();
+    state_.bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
+    view_.ShowSource(state_.bitmaps.PreviewSourceBitmap.get());
+}
+
+bool Desk::RebuildThumbnail() {
+    if (!state_.bitmaps.FullSourceBitmap) {
+        return false;
+    }
+    const QString shortage = Shortage([this] { Reduce(); });
+    if (!shortage.isEmpty()) {
+        loadTrouble_ = {ReasonCode::Words, shortage};
+        view_.ShowSource(nullptr);
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(shortage);
+    }
+    return shortage.isEmpty();
+}
+
+// A preview that is asked for while one is drawn is drawn after it, with what is current then: a
+// second one inside the first would take the result away under it.
+void Desk::RenderPreview(const ImageRecord& image) {
+    if (!state_.bitmaps.PreviewSourceBitmap) {
+        return;
+    }
+    if (rendering_) {
+        drawAgain_ = !saving_;
+        return;
+    }
+    {
+        const Raised rendering(rendering_);
+        const Hourglass hourglass(view_);
+        RenderThumbnail(image);
+    }
+    if (std::exchange(drawAgain_, false) && Current() != nullptr) {
+        RenderPreview(*Current());
+    }
+    view_.Idle();
+}
+
+void Desk::RenderThumbnail(const ImageRecord& image) {
+    RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
+    try {
+        Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), desk);
+        view_.NoteDrawn(image);
+        view_.ShowResult(state_.bitmaps.ResultBitmap.get());
+    } catch (const RunTimeError& error) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(ToldReason(ReasonFor(error)));
+    } catch (const std::bad_alloc&) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(ShortageText(Scarce::Memory));
+    }
+}
+
+void Desk::Preview() {
+    NoteStep(StepKind::Other);  // whatever has no name
+    if (const ImageRecord* const image = Current(); image != nullptr && view_.AutoPreview()) {
+        RenderPreview(*image);
+    }
+}
+
+void Desk::PreviewNow() {
+    if (Busy() || Current() == nullptr) {
+        return;
+    }
+    StoreControls(false);
+    if (RebuildThumbnail()) {
+        RenderPreview(*Current());
+    } else {
+        TellNotOpened(*Current());
+    }
+}
+
+void Desk::PreviewControls() {
+    if (busy_ || rendering_ || Current() == nullptr || !view_.AutoPreview()) {
+        return;
+    }
+    ImageRecord trial = *Current();
+    varnel::StoreControls(view_.Controls(), trial);
+    RenderPreview(trial);
+}
+
+bool Desk::PrepareAll() {
+    bool prepared = true;
+    {
+        const Hourglass hourglass(view_);
+        const Raised busy(busy_);
+        const PhotoLoader::Together together(photos_);
+        for (int n = 1; prepared && n <= state_.Images.UpperBound(); ++n) {
+            Prepare(state_.Images(n));
+            prepared = !photos_.GivenUp();
+        }
+    }
+    RefreshCurrent();
+    view_.Idle();
+    return prepared;
+}
+
+void Desk::RefreshCurrent() {
+    Absorb();
+    const ImageRecord* const image = Current();
+    if (image == nullptr) {
+        return;
+    }
+    const ControlValues before = view_.Controls();
+    ShowInControls(*image);
+    if (!(view_.Controls() == before)) {
+        Preview();
+    }
+}
+
+void Desk::StoreControls(bool withPreview) {
+    if (state_.loadingControls || saving_) {
+        return;
+    }
+    const ControlValues values = view_.Controls();
+    const std::vector<int> lines = view_.SelectedLines();
+    std::vector<ControlValues> before;
+    for (const int line : lines) {
+        ImageRecord& image = state_.Images(line + 1);
+        Prepare(image);
+        before.push_back(ValuesFor(image));
+    }
+    Absorb();
+    for (const int line : lines) {
+        varnel::StoreControls(values, state_.Images(line + 1));
+    }
+    NoteStored(lines, before);
+    view_.HandleEvents();
+    if (withPreview) {
+        Preview();
+    }
+}
+
+void Desk::AdoptTile(const ContactTile& tile) {
+    if (Busy() || Current() == nullptr) {
+        return;
+    }
+    for (const int line : view_.SelectedLines()) {
+        ImageRecord& image = state_.Images(line + 1);
+        Prepare(image);
+        Adopt(tile, image);
+    }
+    NoteStep(StepKind::ContactSheet);
+    ShowInControls(*Current());
+    Preview();
+}
+
+void Desk::ApplySettings() {
+    if (Current() == nullptr) {
+        return;
+    }
+    if (PrepareAll()) {
+        ApplySettingsToAll(state_.Images, view_.CurrentLine() + 1);
+        NoteStep(StepKind::SettingsToAll, {.onAllLines = true, .gear = {}});
+    }
+}
+
+void Desk::RemoveSelected() {
+    RecordArray<ImageRecord> kept;
+    const std::vector<int> removed = view_.SelectedLines();
+    std::size_t next = 0;
+    for (int line = 0; line < state_.Images.UpperBound(); ++line) {
+        if (next < removed.size() && removed[next] == line) {
+            ++next;
+        } else {
+            kept.Append(std::move(state_.Images(line + 1)));
+        }
+    }
+    state_.Images = std::move(kept);
+    NoteStep(StepKind::Remove);
+    ShowNewList(0);
+}
+
+int Desk::AddToBatchQueue() {
+    if (PrepareAll()) {
+        for (const ImageRecord& image : state_.Images) {
+            state_.BatchQueue.Append(image);
+        }
+    }
+    return state_.BatchQueue.UpperBound();
+}
+
+}  // namespace varnel

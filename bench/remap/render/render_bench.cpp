@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The engine beside the plain loops and across picture sizes. Read the figures as ratios within one
+// run: machines differ and are noisy.
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+#include "base/thread_runner.h"
+#include "bench/remap/render/peer_remap.h"
+#include "remap/projection/record_maps.h"
+#include "remap/render/reference/render.h"
+#include "remap/render/reference/render_stretch.h"
+
+namespace varnel {
+namespace {
+
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+
+ImageRecord FisheyeRecord(bool moved) {
+    ImageRecord record;
+    record.Landscape = true;
+    record.SensorWidth = 36.0F;
+    record.SensorHeight = 24.0F;
+    record.LensMapScale = 30.59F;  // a 15 mm equisolid lens
+    record.LensMapFactor = 0.5F;
+    record.ImageCircleRadius = 21.63F;
+    record.Ratio = 83.2F;
+    record.InputAOV = 147.0F;
+    record.OutputAOV = 90.0F;
+    record.EffectVarnel = 100.0F;
+    record.EffectRectilinear = 100.0F;
+    if (moved) {
+        record.RotateX = 10.0F;
+        record.RotateY = -20.0F;
+        record.RotateZ = 5.0F;
+        record.TranslateX = 2.0F;
+    }
+    return record;
+}
+
+BitmapHandle Texture(PixelSize size) {
+    BitmapHandle bitmap = NewBitmap(size);
+    unsigned grain = 1;
+    for (int y = 0; y < size.height; ++y) {
+        for (std::uint8_t& byte : ScanLine(bitmap.get(), y)) {
+            grain = grain * 1664525U + 1013904223U;
+            byte = static_cast<std::uint8_t>(120 + (grain >> 27) + ((y / 40) % 2) * 60);
+        }
+    }
+    return bitmap;
+}
+
+// The size of a 3:2 picture with so many megapixels.
+PixelSize Megapixels(double millions) {
+    const double height = std::sqrt(millions * 1e6 / 1.5);
+    return {static_cast<std::int32_t>(std::lround(height * 1.5)),
+            static_cast<std::int32_t>(std::lround(height))};
+}
+
+void Draw(benchmark::State& state, Renderer renderer, Projection projection, bool moved,
+          PixelSize size, SizeKind kind, int workers) {
+    Bitmaps bitmaps;
+    (kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap : bitmaps.FullSourceBitmap) =
+        Texture(size);
+    ThreadRunner runner(workers);
+    RenderDesk desk{bitmaps, [] { return true; }, &runner};
+    SilentProgress silent;
+    ImageRecord record = FisheyeRecord(moved);
+    for (auto _ : state) {
+        record.OutputAOV = record.OutputAOV == 90.0F ? 91.0F : 90.0F;  // new settings each time
+        renderer(projection, record, kind, silent, desk);
+    }
+    state.SetItemsProcessed(state.iterations() * size.width * size.height);
+}
+
+void Register(const std::string& name, Renderer renderer, Projection projection, bool moved,
+              PixelSize size, SizeKind kind, int workers) {
+    benchmark::RegisterBenchmark(name.c_str(), &Draw, renderer, projection, moved, size, kind,
+                                 workers)
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
+}
+
+using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderDesk&);
+
+void Stretch(benchmark::State& state, Stretcher stretcher, PixelSize size, int workers) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = Texture(size);
+    ThreadRunner runner(workers);
+    RenderDesk desk{.bitmaps = bitmaps, .runner = &runner};
+    SilentProgress silent;
+    StretchCurve curve{0.4, 0.1};
+    for (auto _ : state) {
+        curve.strength = -curve.strength;  // new settings each time, widened and narrowed
+        stretcher(curve, SizeKind::Large, silent, desk);
+    }
+}
+
+void RegisterStretch(const std::string& name, Stretcher stretcher, PixelSize size, int workers) {
+    benchmark::RegisterBenchmark(name.c_str(), &Stretch, stretcher, size, workers)
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
+}
+
+#ifdef VARNEL_PEER
+void DrawWithPeer(benchmark::State& state, PixelSize size, int threads) {
+    const std::size_t bytes =
+        static_cast<std::size_t>(size.width) * 3 * static_cast<std::size_t>(size.height);
+    std::vector<std::uint8_t> source(bytes, 100);
+    std::vector<std::uint8_t> result(bytes);
+    RectilinearView view = RectilinearViewOf(FisheyeRecord(false), size);
+    for (auto _ : state) {
+        view.outputAov = view.outputAov == 90.0F ? 91.0F : 90.0F;
+        bench::PeerRectilinear(view, source.data(), result.data(), threads);
+    }
+}
+
+void RegisterPeer(PixelSize size) {
+    for (const int threads : {1, 2}) {
+        const std::string name = "OpenCV map and remap/24MP/" + std::to_string(threads) + " cores";
+        benchmark::RegisterBenchmark(name.c_str(), &DrawWithPeer, size, threads)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    }
+}
+#else
+void RegisterPeer(PixelSize /*size*/) {}
+#endif
+
+void RegisterAll() {
+    RegisterPeer(Megapixels(24.0));
+    const PixelSize full = Megapixels(24.0);
+    for (const Projection projection : allProjections) {
+        const std::string name = ToText(projection).toStdString();
+        Register("reference/24MP/" + name, &reference::Render, projection, false, full,
+                 SizeKind::Large, 1);
+        Register("engine/24MP/1 core/" + name, &Render, projection, false, full, SizeKind::Large,
+                 1);
+        Register("engine/24MP/2 cores/" + name, &Render, projection, false, full, SizeKind::Large,
+                 2);
+    }
+    Register("engine/24MP/1 core/Rectilinear turned", &Render, Projection::Rectilinear, true, full,
+             SizeKind::Large, 1);
+    Register("engine/24MP/2 cores/Rectilinear turned", &Render, Projection::Rectilinear, true, full,
+             SizeKind::Large, 2);
+    RegisterStretch("reference/24MP/Stretch", &reference::RenderStretch, full, 1);
+    RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);
+    RegisterStretch("engine/24MP/2 cores/Stretch", &RenderStretch, full, 2);
+    for (const PixelSize box : {PixelSize{400, 300}, PixelSize{1000, 750}}) {
+        const std::string size = std::to_string(box.width) + "x" + std::to_string(box.height);
+        for (const bool moved : {false, true}) {
+            const std::string view = moved ? " turned" : "";
+            Register("reference/preview/" + size + view, &reference::Render,
+                     Projection::Rectilinear, moved, box, SizeKind::Thumbnails, 1);
+            Register("engine/preview/" + size + view, &Render, Projection::Rectilinear, moved, box,
+                     SizeKind::Thumbnails, 1);
+        }
+    }
+    for (const double millions : {6.0, 12.0, 24.0, 48.0, 96.0}) {
+        Register("engine/size/" + std::to_string(static_cast<int>(millions)) + "MP", &Render,
+                 Projection::Rectilinear, false, Megapixels(millions), SizeKind::Large, 1);
+    }
+}
+
+}  // namespace
+}  // namespace varnel
+
+int main(int argc, char** argv) {
+    varnel::RegisterAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What an earlier run has done already.
+#pragma once
+
+#include <vector>
+
+#include "cli/convert_file.h"
+#include "cli/report/file_report.h"
+
+namespace varnel {
+
+// Photo, projection and gear of a conversion.
+FileReport ReportOf(const QString& photo, const ImageRecord& record);
+
+// All of the photo's results, if under every one's name a file lies already: as skipped ones, or as
+// failed ones where the name is that of an earlier photo's result. Else none. The photo is not
+// decoded, only its size is looked up.
+std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, const QString& file);
+
+}  // namespace varnel

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options/help_text.h"
+
+#include "cli/options/option_list.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr qsizetype helpColumn = 27;
+constexpr qsizetype lastColumn = 80;
+
+constexpr char16_t head[] =
+    uR"(Usage: varnel-convert [OPTIONS] PHOTO...
+       varnel-convert --like PICTURE [OPTIONS] [PHOTO...]
+       varnel-convert --list-gears
+       varnel-convert --list-cameras [BRAND]
+       varnel-convert --list-lenses [BRAND]
+
+Converts fisheye photos into other projections, at full size. Without --output
+and --output-dir IMG.jpg becomes IMG.Varnel.TIF (or another type) beside it.
+)";
+
+constexpr char16_t foot[] =
+    uR"(
+Examples:
+  Straighten a photo, 95 degrees wide:
+    varnel-convert --projection rectilinear --output-aov 95 \
+        --camera "Canon/EOS 5D" --lens "Canon/EF 15 mm f:2.8" IMG.jpg
+  All four projections of every photo, with the gear that its EXIF tells:
+    varnel-convert --gear auto --projection all --output-dir DIR *.jpg
+  Go on where an earlier run was stopped, and keep a list for a script:
+    varnel-convert --skip-existing --json --output-dir DIR *.jpg > results.jsonl
+
+Exit codes:
+    0  all photos were converted and written
+    1  some photo failed or was damaged; it was named, the others were done
+    2  the command line was wrong, nothing was done
+  130  stopped by Ctrl-C; results are whole, --skip-existing goes on
+  143  stopped by a termination signal; likewise
+
+The manual has it all: man varnel-convert
+)";
+
+QString Wrapped(const QString& text, const QString& first) {
+    QString lines;
+    QString line = first.leftJustified(helpColumn - 1);
+    if (line.size() >= helpColumn) {
+        lines = line + u'\n';
+        line = QString(helpColumn - 1, u' ');
+    }
+    for (const QString& word : text.split(u' ')) {
+        if (line.size() + 1 + word.size() > lastColumn) {
+            lines += line + u'\n';
+            line = QString(helpColumn - 1, u' ');
+        }
+        line += u' ' + word;
+    }
+    return lines + line + u'\n';
+}
+
+}  // namespace
+
+QString HelpText() {
+    QString text = OptionText(head);
+    for (const OptionGroup& group : OptionGroups()) {
+        text += u'\n' + OptionText(group.heading) + QStringLiteral(":\n");
+        for (const OptionRow& row : group.rows) {
+            QString name = QStringLiteral("  --") + OptionText(row.name);
+            if (row.value != nullptr) {
+                name += QStringLiteral(" <%1>").arg(OptionText(row.value));
+            }
+            text += Wrapped(OptionText(row.help), name);
+        }
+    }
+    return text + OptionText(foot);
+}
+
+}  // namespace varnel

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options/option_list.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr std::array photoRows{
+    OptionRow{u"like", u"PICTURE",
+              u"As that picture of Varnel's was made; other options win. Without PHOTO: its own."},
+    OptionRow{u"no-auto-orient", nullptr,
+              u"Take photos as they are stored, whatever their EXIF says."},
+};
+
+constexpr std::array gearRows{
+    OptionRow{u"gear", u"NAME",
+              u"A gear of the settings, or auto: what each photo's EXIF tells; default: the "
+              u"default gear."},
+    OptionRow{u"camera", u"BRAND/MODEL", u"A camera of the catalogue, with --lens."},
+    OptionRow{u"lens", u"BRAND/MODEL", u"A lens of the catalogue, with --camera."},
+    OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},
+    OptionRow{u"list-cameras", nullptr, u"List the cameras (of a brand) as BRAND/MODEL."},
+    OptionRow{u"list-lenses", nullptr, u"List the lenses (of a brand) as BRAND/MODEL."},
+};
+
+constexpr std::array viewRows{
+    OptionRow{u"projection", u"NAME",
+              u"varnel, rectilinear, equidistance, horizon or all; default: varnel."},
+    OptionRow{u"output-aov", u"D", u"Angle of view of the output, degrees (rectilinear)."},
+    OptionRow{u"input-aov", u"D", u"Angle of view of the lens, degrees (equidistance)."},
+    OptionRow{u"effect", u"P", u"Strength of the projection, percent (0.1 to 100)."},
+    OptionRow{u"rotate-x", u"D", u"Tilt of the camera, degrees; positive looks down."},
+    OptionRow{u"rotate-y", u"D", u"Pan of the camera, degrees; positive looks right."},
+    OptionRow{u"rotate-z", u"D", u"Roll of the camera, degrees; positive is counter-clockwise."},
+    OptionRow{u"translate-x", u"P", u"Shift of the picture, percent; positive is right."},
+    OptionRow{u"translate-y", u"P", u"Shift of the picture, percent; positive is up."},
+    OptionRow{u"set", u"FIELD=VALUE",
+              u"Any field of the image record, after all the rest; may be repeated."},
+};
+
+constexpr std::array sequenceRows{
+    OptionRow{u"morph", u"N", u"Write N frames that move evenly from a start to an end."},
+    OptionRow{u"from", u"FIELD=VALUE", u"A setting of the first frame; may be repeated."},
+    OptionRow{u"to", u"FIELD=VALUE", u"A setting of the last frame; may be repeated."},
+};
+
+constexpr std::array outputRows{
+    OptionRow{u"output", u"FILE", u"The file to write, for one photo and one projection."},
+    OptionRow{u"output-dir", u"DIR",
+              u"The folder to write to, under names that tell the settings."},
+    OptionRow{u"keep-ending", nullptr,
+              u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
+    OptionRow{u"type", u"TYPE",
+              u"tiff, jpeg, bmp or png; default: the ending of --output, else the setting."},
+    OptionRow{u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."},
+    OptionRow{u"chroma", u"C",
+              u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
+              u"setting."},
+    OptionRow{u"preview", u"WxH", u"The preview of that size instead of the full picture."},
+    OptionRow{u"antialiased", nullptr, u"Interpolate the preview."},
+    OptionRow{u"no-metadata", nullptr, u"Leave the photo's EXIF, IPTC and XMP out."},
+    OptionRow{u"no-settings", nullptr, u"Do not write the settings into the results."},
+};
+
+constexpr std::array runRows{
+    OptionRow{u"force", nullptr, u"Replace existing files; photos are never replaced."},
+    OptionRow{u"skip-existing", nullptr,
+              u"Do only what is missing: leave results that lie there alone."},
+    OptionRow{u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."},
+    OptionRow{u"quiet", nullptr, u"No progress and no names of written files."},
+    OptionRow{u"json", nullptr,
+              u"For scripts: one JSON object a line on standard output for each result."},
+    OptionRow{u"help", nullptr, u"Show this text."},
+    OptionRow{u"version", nullptr, u"Show the version."},
+};
+
+constexpr std::array groups{
+    OptionGroup{u"Photos", photoRows},
+    OptionGroup{u"Camera and lens", gearRows},
+    OptionGroup{u"Projection and view", viewRows},
+    OptionGroup{u"Sequences", sequenceRows},
+    OptionGroup{u"Output", outputRows},
+    OptionGroup{u"Behaviour", runRows},
+};
+
+constexpr std::array numberOptions{
+    NumberOption{u"input-aov", {u"InputAOV", nullptr}},
+    NumberOption{u"output-aov", {u"OutputAOV", nullptr}},
+    NumberOption{u"effect", {u"EffectVarnel", u"EffectRectilinear"}},
+    NumberOption{u"rotate-x", {u"RotateX", nullptr}},
+    NumberOption{u"rotate-y", {u"RotateY", nullptr}},
+    NumberOption{u"rotate-z", {u"RotateZ", nullptr}},
+    NumberOption{u"translate-x", {u"TranslateX", nullptr}},
+    NumberOption{u"translate-y", {u"TranslateY", nullptr}},
+};
+
+}  // namespace
+
+std::span<const OptionGroup> OptionGroups() {
+    return groups;
+}
+
+const OptionRow* FindOption(QStringView name) {
+    for (const OptionGroup& group : groups) {
+        for (const OptionRow& row : group.rows) {
+            if (name == QStringView(row.name)) {
+                return &row;
+            }
+        }
+    }
+    return nullptr;
+}
+
+QStringList OptionNames() {
+    QStringList names;
+    for (const OptionGroup& group : groups) {
+        for (const OptionRow& row : group.rows) {
+            names.append(OptionText(row.name));
+        }
+    }
+    return names;
+}
+
+std::span<const NumberOption> NumberOptions() {
+    return numberOptions;
+}
+
+void DeclareOptions(QCommandLineParser& parser) {
+    for (const OptionGroup& group : groups) {
+        for (const OptionRow& row : group.rows) {
+            QCommandLineOption option(OptionText(row.name));
+            if (row.value != nullptr) {
+                option.setValueName(OptionText(row.value));
+            }
+            parser.addOption(option);
+        }
+    }
+}
+
+}  // namespace varnel

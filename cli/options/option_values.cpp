@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options/option_values.h"
+
+#include <cmath>
+
+#include "cli/options/nearest.h"
+#include "pipeline/conversion/morph_sequence.h"
+#include "state/editing/record_fields.h"
+
+namespace varnel {
+
+namespace {
+
+// The parts of FIELD=VALUE.
+std::pair<QString, QString> PartsOf(const QString& option, const QString& text) {
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals < 1) {
+        throw UsageError{
+            QStringLiteral("--%1 needs FIELD=VALUE, not \"%2\"; for example --%1 RotateX=10")
+                .arg(option, text)};
+    }
+    return {text.left(equals), text.mid(equals + 1)};
+}
+
+QString Joined(const QStringList& names) {
+    return names.join(QStringLiteral(", "));
+}
+
+}  // namespace
+
+float NumberOf(const QString& option, const QString& text) {
+    bool ok = false;
+    const float value = text.toFloat(&ok);
+    if (ok && std::isfinite(value)) {
+        return value;
+    }
+    const QString point = QString(text).replace(u',', u'.');
+    (void)point.toFloat(&ok);
+    throw UsageError{QStringLiteral("--%1 needs a number, not \"%2\"; ").arg(option, text) +
+                     (ok && point != text ? QStringLiteral("write it with a point: ") + point
+                                          : QStringLiteral("give digits like 12.5 or -5"))};
+}
+
+std::vector<Projection> ProjectionsOf(const QString& text) {
+    if (text.compare(u"all", Qt::CaseInsensitive) == 0) {
+        return {allProjections.begin(), allProjections.end()};
+    }
+    if (const auto projection = ProjectionFromText(text)) {
+        return {*projection};
+    }
+    throw UsageError{QStringLiteral("unknown projection \"%1\"; use varnel, rectilinear, "
+                                    "equidistance, horizon or all")
+                         .arg(text)};
+}
+
+CatalogueName CatalogueNameOf(const QString& option, const QString& text) {
+    const qsizetype slash = text.indexOf(u'/');
+    if (slash < 1 || slash + 1 == text.size()) {
+        const bool camera = option == u"camera";
+        throw UsageError{
+            QStringLiteral("--%1 needs BRAND/MODEL, not \"%2\"; %3 shows them")
+                .arg(option, text,
+                     camera ? QStringLiteral("--list-cameras") : QStringLiteral("--list-lenses"))};
+    }
+    return {text.left(slash), text.mid(slash + 1)};
+}
+
+PixelSize PreviewBoxOf(const QString& text) {
+    constexpr int longest = 32767;
+    const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
+    bool widthOk = false;
+    bool heightOk = false;
+    const PixelSize size{sides.value(0).toInt(&widthOk), sides.value(1).toInt(&heightOk)};
+    if (sides.size() != 2 || !widthOk || !heightOk || size.width < 1 || size.height < 1 ||
+        size.width > longest || size.height > longest) {
+        throw UsageError{
+            QStringLiteral("--preview needs WIDTHxHEIGHT in pixels, not \"%1\"; for example "
+                           "--preview 800x600")
+                .arg(text)};
+    }
+    return size;
+}
+
+OutputType TypeOf(const QString& text) {
+    if (const auto type = OutputTypeByName(text)) {
+        return *type;
+    }
+    if (const auto type = OutputTypeByEnding(u'.' + text)) {
+        throw UsageError{
+            QStringLiteral("unknown type \"%1\"; use %2").arg(text, ToText(*type).toLower())};
+    }
+    throw UsageError{QStringLiteral("unknown type \"%1\"; use tiff, jpeg, bmp or png").arg(text)};
+}
+
+int WholeBetween(const QString& option, const QString& text, int least, int most) {
+    bool ok = false;
+    const int number = text.toInt(&ok);
+    if (!ok || number < least || number > most) {
+        throw UsageError{QStringLiteral("--%1 needs a whole number from %2 to %3, not \"%4\"")
+                             .arg(option)
+                             .arg(least)
+                             .arg(most)
+                             .arg(text)};
+    }
+    return number;
+}
+
+bool IsChroma444(const QString& text) {
+    if (text != u"444" && text != u"420") {
+        throw UsageError{QStringLiteral("--chroma needs 444 or 420, not \"%1\"").arg(text)};
+    }
+    return text == u"444";
+}
+
+std::pair<QString, QString> FieldOf(const QString& text) {
+    const auto [field, value] = PartsOf(QStringLiteral("set"), text);
+    ImageRecord probe;
+    switch (SetField(probe, field, value)) {
+        case FieldResult::UnknownField:
+            throw UsageError{AskIfMeant(
+                QStringLiteral("--set: there is no field \"%1\"").arg(field),
+                Nearest(field, FieldNames()), QStringLiteral("fields: ") + Joined(FieldNames()))};
+        case FieldResult::BadValue:
+            throw UsageError{QStringLiteral("--set: \"%1\" is no value for the field %2; fields of "
+                                            "numbers take digits, a point, a minus sign")
+                                 .arg(value, field)};
+        case FieldResult::Ok:
+            break;
+    }
+    return {field, value};
+}
+
+int FrameCountOf(const QString& text) {
+    return WholeBetween(QStringLiteral("morph"), text, 2, mostMorphFrames);
+}
+
+std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts) {
+    std::vector<Adjustment> end;
+    for (const QString& text : texts) {
+        const auto [field, value] = PartsOf(option, text);
+        if (!MorphFields().contains(field)) {
+            throw UsageError{
+                AskIfMeant(QStringLiteral("--%1: a sequence cannot move \"%2\"").arg(option, field),
+                           Nearest(field, MorphFields()),
+                           QStringLiteral("it can move ") + Joined(MorphFields()))};
+        }
+        end.push_back({field, NumberOf(option, value)});
+    }
+    return end;
+}
+
+QString FileNameOf(const QString& option, const QString& text) {
+    if (text != u"-") {
+        return text;
+    }
+    const QString given = option.isEmpty() ? text : QStringLiteral("--%1 -").arg(option);
+    throw UsageError{
+        given +
+        (option == u"output"
+             ? QStringLiteral(": results do not go to standard output, they are put in place as "
+                              "whole files")
+             : QStringLiteral(": photos do not come from standard input, because results are named "
+                              "after their photos and lead back to them")) +
+        QStringLiteral("; give a file's name (./- for one that is called -)")};
+}
+
+}  // namespace varnel

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the options' values mean. Each function throws UsageError.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <utility>
+#include <vector>
+
+#include "cli/options/options.h"
+
+namespace varnel {
+
+// What a bad command line throws; the text is the one line for the user.
+struct UsageError {
+    QString text;
+};
+
+std::vector<Projection> ProjectionsOf(const QString& text);
+CatalogueName CatalogueNameOf(const QString& option, const QString& text);
+PixelSize PreviewBoxOf(const QString& text);
+OutputType TypeOf(const QString& text);
+// Numbers have a decimal point whatever the locale.
+float NumberOf(const QString& option, const QString& text);
+int WholeBetween(const QString& option, const QString& text, int least, int most);
+// Whether JPEG keeps colour at full resolution.
+bool IsChroma444(const QString& text);
+// The parts of FIELD=VALUE for --set; tried on an empty record, so that a wrong field or value is
+// told before any photo is read.
+std::pair<QString, QString> FieldOf(const QString& text);
+int FrameCountOf(const QString& text);
+std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts);
+// A photo (without an option's name) or a file to write: not standard input or output.
+QString FileNameOf(const QString& option, const QString& text);
+
+}  // namespace varnel

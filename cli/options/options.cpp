@@ -1,0 +1,279 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options/options.h"
+
+#include <QFileInfo>
+#include <array>
+
+#include "cli/options/nearest.h"
+#include "cli/options/option_list.h"
+#include "cli/options/option_values.h"
+#include "pipeline/conversion/morph_sequence.h"
+#include "state/editing/record_fields.h"
+
+namespace varnel {
+
+namespace {
+
+QString UnknownOption(const QString& argument) {
+    const QString given = argument.section(u'=', 0, 0);
+    const QString text = QStringLiteral("unknown option \"%1\"").arg(given);
+    if (QFileInfo::exists(argument)) {
+        return text + QStringLiteral("; write ./%1 for the file of that name").arg(argument);
+    }
+    const QString near = Nearest(given.mid(given.startsWith(u"--") ? 2 : 1), OptionNames());
+    return AskIfMeant(text, near.isEmpty() ? QString() : QStringLiteral("--") + near,
+                      QStringLiteral("--help shows all"));
+}
+
+// Whether the option takes the next argument as its value. Throws when the name is wrong or the
+// value is missing.
+bool TakesNext(const QString& argument, const QString* next) {
+    const OptionRow* const option =
+        FindOption(argument.startsWith(u"--") ? argument.mid(2).section(u'=', 0, 0) : QString());
+    if (option == nullptr) {
+        throw UsageError{UnknownOption(argument)};
+    }
+    const bool hasValue = argument.contains(u'=');
+    if (option->value == nullptr && hasValue) {
+        throw UsageError{
+            QStringLiteral("--%1 takes no value; leave %2 out")
+                .arg(OptionText(option->name), argument.section(u'=', 1).prepend(u'='))};
+    }
+    if (option->value == nullptr || hasValue) {
+        return false;
+    }
+    const bool optionFollows =
+        next != nullptr && next->startsWith(u"--") && FindOption(next->mid(2).section(u'=', 0, 0));
+    if (next == nullptr || optionFollows) {
+        throw UsageError{QStringLiteral("--%1 needs a value; give --%1 %2")
+                             .arg(OptionText(option->name), OptionText(option->value))};
+    }
+    return true;
+}
+
+// The parser's own words name neither what is near nor what is missing. "-h" becomes "--help".
+QStringList Checked(QStringList arguments) {
+    for (qsizetype n = 1; n < arguments.size(); ++n) {
+        QString& argument = arguments[n];
+        if (argument == u"--") {
+            break;
+        }
+        if (argument == u"-h") {
+            argument = QStringLiteral("--help");
+        }
+        if (argument.size() > 1 && argument.startsWith(u'-') &&
+            TakesNext(argument, n + 1 < arguments.size() ? &arguments[n + 1] : nullptr)) {
+            ++n;
+        }
+    }
+    return arguments;
+}
+
+Command CommandOf(const QCommandLineParser& parser) {
+    const std::array commands{
+        std::pair{u"help", Command::Help},
+        std::pair{u"version", Command::Version},
+        std::pair{u"list-cameras", Command::ListCameras},
+        std::pair{u"list-lenses", Command::ListLenses},
+        std::pair{u"list-gears", Command::ListGears},
+    };
+    for (const auto& [name, command] : commands) {
+        if (parser.isSet(OptionText(name))) {
+            return command;
+        }
+    }
+    return Command::Convert;
+}
+
+template <class Value, class Read>
+void TakeIfSet(const QCommandLineParser& parser, const char16_t* name, Value& value, Read read) {
+    if (parser.isSet(OptionText(name))) {
+        value = read(parser.value(OptionText(name)));
+    }
+}
+
+void TakeNumbers(const QCommandLineParser& parser, Options& options) {
+    for (const NumberOption& option : NumberOptions()) {
+        const QString name = OptionText(option.name);
+        if (!parser.isSet(name)) {
+            continue;
+        }
+        const float value = NumberOf(name, parser.value(name));
+        for (const char16_t* field : option.fields) {
+            if (field != nullptr) {
+                options.adjustments.push_back({OptionText(field), value});
+            }
+        }
+    }
+}
+
+Options Take(const QCommandLineParser& parser) {
+    Options options;
+    options.command = CommandOf(parser);
+    for (const QString& file : parser.positionalArguments()) {
+        options.files.append(FileNameOf({}, file));
+    }
+    TakeIfSet(parser, u"projection", options.projections, &ProjectionsOf);
+    options.projectionGiven = parser.isSet(QStringLiteral("projection"));
+    options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
+    options.gear = parser.value(QStringLiteral("gear"));
+    TakeIfSet(parser, u"camera", options.camera,
+              [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
+    TakeIfSet(parser, u"lens", options.lens,
+              [](const QString& text) { return CatalogueNameOf(QStringLiteral("lens"), text); });
+    TakeNumbers(parser, options);
+    for (const QString& text : parser.values(QStringLiteral("set"))) {
+        options.fields.push_back(FieldOf(text));
+    }
+    TakeIfSet(parser, u"morph", options.morph, &FrameCountOf);
+    options.from = MorphEndOf(QStringLiteral("from"), parser.values(QStringLiteral("from")));
+    options.to = MorphEndOf(QStringLiteral("to"), parser.values(QStringLiteral("to")));
+    TakeIfSet(parser, u"preview", options.preview, &PreviewBoxOf);
+    options.antialiased = parser.isSet(QStringLiteral("antialiased"));
+    options.output = FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("output")));
+    options.outputDir = parser.value(QStringLiteral("output-dir"));
+    options.keepEnding = parser.isSet(QStringLiteral("keep-ending"));
+    TakeIfSet(parser, u"type", options.type, &TypeOf);
+    TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
+        return WholeBetween(QStringLiteral("quality"), text, 1, 100);
+    });
+    TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
+    options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
+    options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
+    options.noSettings = parser.isSet(QStringLiteral("no-settings"));
+    options.force = parser.isSet(QStringLiteral("force"));
+    options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
+    TakeIfSet(parser, u"jobs", options.jobs, [](const QString& text) {
+        return WholeBetween(QStringLiteral("jobs"), text, 1, 256);
+    });
+    options.quiet = parser.isSet(QStringLiteral("quiet"));
+    options.json = parser.isSet(QStringLiteral("json"));
+    return options;
+}
+
+// The projection of the sequence; --set has the last word there too.
+Projection MorphProjection(const Options& options) {
+    ImageRecord probe;
+    probe.Projection = static_cast<std::int16_t>(options.projections.front());
+    for (const auto& [field, value] : options.fields) {
+        SetField(probe, field, value);
+    }
+    return ProjectionFromIndex(probe.Projection);
+}
+
+void CheckMorphEnds(const Options& options) {
+    MorphValues probe;
+    for (const auto* end : {&options.from, &options.to}) {
+        for (const Adjustment& adjustment : *end) {
+            if (MorphValue(probe, MorphProjection(options), adjustment.field) == nullptr) {
+                throw UsageError{
+                    QStringLiteral("%1 is not an effect of the projection %2; leave it out or "
+                                   "choose another --projection")
+                        .arg(adjustment.field, ToText(MorphProjection(options)))};
+            }
+        }
+    }
+}
+
+void CheckMorph(const Options& options) {
+    if (!options.morph) {
+        if (!options.from.empty() || !options.to.empty()) {
+            throw UsageError{
+                QStringLiteral("--from and --to need --morph N, the number of frames")};
+        }
+        return;
+    }
+    if (options.projections.size() > 1) {
+        throw UsageError{
+            QStringLiteral("--morph takes one projection; give --projection NAME other than all")};
+    }
+    if (!options.output.isEmpty()) {
+        throw UsageError{QStringLiteral(
+            "--morph names its files itself; use --output-dir DIR instead of --output")};
+    }
+    if (options.like.isEmpty() || options.projectionGiven) {
+        CheckMorphEnds(options);
+    }
+}
+
+// Another type's contents under a picture's name would mislead; names that tell nothing may hold
+// any.
+bool IsOtherPictureName(const QString& name) {
+    return !OutputTypeByEnding(name) &&
+           FreeImage_GetFIFFromFilename(name.toUtf8().constData()) != FIF_UNKNOWN;
+}
+
+void CheckTogether(const Options& options) {
+    if (options.command != Command::Convert) {
+        return;
+    }
+    if (options.files.isEmpty() && options.like.isEmpty()) {
+        throw UsageError{QStringLiteral(
+            "no photo given; give the names of photos or --like PICTURE (--help shows all)")};
+    }
+    if (options.camera.has_value() != options.lens.has_value()) {
+        const auto [given, other] =
+            options.camera ? std::pair{u"camera", u"lens"} : std::pair{u"lens", u"camera"};
+        throw UsageError{QStringLiteral("--%1 goes with --%2; give --%2 BRAND/MODEL too")
+                             .arg(OptionText(given), OptionText(other))};
+    }
+    if (options.camera && !options.gear.isEmpty()) {
+        throw UsageError{QStringLiteral(
+            "--gear and --camera with --lens exclude each other; give one of the two")};
+    }
+    if (!options.output.isEmpty() && !options.outputDir.isEmpty()) {
+        throw UsageError{
+            QStringLiteral("--output and --output-dir exclude each other; give one of the two")};
+    }
+    if (!options.output.isEmpty() && (options.files.size() > 1 || options.projections.size() > 1)) {
+        throw UsageError{
+            QStringLiteral("--output takes one photo and one projection; use "
+                           "--output-dir for more")};
+    }
+    if (!options.output.isEmpty() && options.keepEnding) {
+        throw UsageError{
+            QStringLiteral("--output is the whole name of the file; leave --keep-ending out")};
+    }
+    if (!options.type && IsOtherPictureName(options.output)) {
+        throw UsageError{
+            QStringLiteral("--output %1: no pictures of this type are written; end the "
+                           "name in .tif, .jpg, .bmp or .png, or give --type")
+                .arg(options.output)};
+    }
+    if (options.skipExisting && options.force) {
+        throw UsageError{
+            QStringLiteral("--skip-existing and --force exclude each other; give one of the two")};
+    }
+    CheckMorph(options);
+}
+
+}  // namespace
+
+std::variant<Options, QString> ParseOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    DeclareOptions(parser);
+    try {
+        if (!parser.parse(Checked(arguments))) {
+            return parser.errorText();
+        }
+        Options options = Take(parser);
+        CheckTogether(options);
+        return options;
+    } catch (const UsageError& error) {
+        return error.text;
+    }
+}
+
+std::optional<QString> UseProjection(Options& options, Projection projection) {
+    options.projections = {projection};
+    try {
+        CheckMorphEnds(options);
+        return std::nullopt;
+    } catch (const UsageError& error) {
+        return error.text;
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The command line of varnel-convert.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "base/pixel_size.h"
+#include "remap/encode/output_type.h"
+#include "state/records/image_record.h"
+#include "state/records/projection.h"
+
+namespace varnel {
+
+enum class Command { Convert, ListCameras, ListLenses, ListGears, Help, Version };
+
+// The part before the first slash and the rest of BRAND/MODEL.
+struct CatalogueName {
+    QString brand;
+    QString model;
+};
+
+// A number that goes into one field of the image record, or into both effect fields.
+struct Adjustment {
+    QString field;
+    float value = 0.0F;
+};
+
+struct Options {
+    Command command = Command::Convert;
+    QStringList files;  // for the lists: the brand, if one was given
+    std::vector<Projection> projections{Projection::Varnel};
+    bool projectionGiven = false;
+    QString like;                           // a picture that holds settings
+    std::optional<ImageRecord> likeRecord;  // what it says, once it was read
+    QString gear;
+    std::optional<CatalogueName> camera;
+    std::optional<CatalogueName> lens;
+    std::vector<Adjustment> adjustments;
+    std::vector<std::pair<QString, QString>> fields;  // of --set
+    std::optional<int> morph;                         // frames of a sequence, at least 2
+    std::vector<Adjustment> from, to;                 // its ends where they are not the photo's own
+    std::optional<PixelSize> preview;
+    bool antialiased = false;
+    QString output;
+    QString outputDir;
+    bool keepEnding = false;
+    std::optional<OutputType> type;
+    std::optional<int> quality;
+    std::optional<bool> chroma444;
+    bool noMetadata = false;
+    bool noAutoOrient = false;
+    bool noSettings = false;
+    bool force = false;
+    bool skipExisting = false;
+    std::optional<int> jobs;  // cores to use; none: all
+    bool quiet = false;
+    bool advises = true;  // troubles name the options that help; off for a program without them
+    bool json = false;    // what is told of each result goes to out as JSON, all else to err
+};
+
+// The options, or one line that says what is wrong with the command line. The first argument is the
+// program's name. Numbers have a decimal point whatever the locale.
+std::variant<Options, QString> ParseOptions(const QStringList& arguments);
+
+// For a projection that is known only later: one line that says what does not go with it.
+std::optional<QString> UseProjection(Options& options, Projection projection);
+
+}  // namespace varnel

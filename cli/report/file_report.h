@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What became of one result, and its line of JSON.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+enum class FileStatus { Converted, Damaged, Skipped, Failed };
+
+struct FileReport {
+    QString photo = {};   // as given
+    QString result = {};  // where it was written or would have been; empty when that is not known
+    FileStatus status = FileStatus::Converted;
+    QString reason = {};  // why it failed, what is damaged
+    QString projection = {};
+    QString gear = {};
+    PixelSize size{};      // of the result, pixels; 0 x 0 when there is none
+    qint64 bytes = -1;     // of the result; negative when there is none
+    double seconds = 0.0;  // by the clock
+    QStringList notes = {};
+};
+
+// One JSON object without line breaks, in UTF-8. It always has all its names; what is not known is
+// null.
+QByteArray ToJson(const FileReport& report);
+
+}  // namespace varnel

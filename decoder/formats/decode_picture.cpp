@@ -1,0 +1,395 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/formats/decode_picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+#include <new>
+#include <utility>
+
+#include "decoder/formats/bmp_picture.h"
+#include "decoder/formats/cmyk.h"
+#include "decoder/formats/header_size.h"
+#include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/jpeg_pixels.h"
+#include "decoder/formats/orientation.h"
+#include "decoder/formats/picture_file.h"
+#include "decoder/formats/tiff_structure.h"
+#include "decoder/formats/true_colour.h"
+#include "decoder/formats/truncation.h"
+#include "decoder/request/picture_limits.h"
+#include "remap/image/library_messages.h"
+
+namespace varnel {
+
+namespace {
+
+// Beyond that, decoding a whole picture takes more than about a second.
+constexpr std::int64_t mostPixelsForSmall = 60'000'000;
+
+int WholeFlags(FREE_IMAGE_FORMAT format) {
+    switch (format) {
+        case FIF_JPEG:  // NOLINT(bugprone-branch-clone): one number, two meanings
+            return JPEG_ACCURATE;
+        case FIF_RAW:
+            return RAW_DISPLAY;  // linear data would come out far too dark
+        default:
+            return 0;
+    }
+}
+
+// Sides as a file states them, which may be anything.
+struct StatedSize {
+    std::int64_t width = 0;
+    std::int64_t height = 0;
+};
+
+StatedSize Stated(FIBITMAP* bitmap) {
+    return {FreeImage_GetWidth(bitmap), FreeImage_GetHeight(bitmap)};
+}
+
+PixelSize Pixels(const StatedSize& stated) {
+    return {static_cast<std::int32_t>(stated.width), static_cast<std::int32_t>(stated.height)};
+}
+
+// The largest size with the picture's proportions within the box, never larger than the picture.
+PixelSize Within(PixelSize picture, PixelSize box) {
+    const double scale = std::min({1.0, static_cast<double>(box.width) / picture.width,
+                                   static_cast<double>(box.height) / picture.height});
+    const auto scaled = [&](std::int32_t side) {
+        return std::max(static_cast<std::int32_t>(std::floor(side * scale + 0.5)), 1);
+    };
+    return {scaled(picture.width), scaled(picture.height)};
+}
+
+PixelRows RowsOf(FIBITMAP* bitmap) {
+    return {reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), FreeImage_GetPitch(bitmap)};
+}
+
+// For a picture that was turned by the orientation: what belongs to its source besides pixels.
+void DescribeTurned(FIBITMAP* bitmap, FIBITMAP* source, int orientation) {
+    CopyAllButPixels(bitmap, source);
+    if (orientation != 1) {
+        FreeImage_SetThumbnail(bitmap, nullptr);
+    }
+    if (SwapsSides(orientation)) {
+        FreeImage_SetDotsPerMeterX(bitmap, FreeImage_GetDotsPerMeterY(source));
+        FreeImage_SetDotsPerMeterY(bitmap, FreeImage_GetDotsPerMeterX(source));
+    }
+}
+
+BitmapHandle Reduced(BitmapHandle bitmap, PixelSize box) {
+    const PixelSize is = SizeOf(bitmap.get());
+    const PixelSize wanted = Within(is, box);
+    if (is.width != wanted.width || is.height != wanted.height) {
+        bitmap.reset(FreeImage_Rescale(bitmap.get(), wanted.width, wanted.height, FILTER_BOX));
+        if (!bitmap) {
+            throw std::bad_alloc();
+        }
+    }
+    const BitmapHandle nothing(FreeImage_Allocate(1, 1, 24));
+    CopyAllButPixels(bitmap.get(), nothing.get());
+    return bitmap;
+}
+
+class Decoding {
+  public:
+    Decoding(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
+             const RowsFor& rowsFor, const LibraryMessages& messages)
+        : file_(file), request_(request), memory_(memory), rowsFor_(rowsFor), messages_(messages) {}
+
+    LoadedPicture Answer() {
+        format_ = file_.Format();
+        if (format_ == FIF_UNKNOWN) {
+            return LoadedPicture::Refused(ReasonCode::NoKnownType);
+        }
+        if (format_ == FIF_TIFF || format_ == FIF_RAW) {
+            tiff_ = TiffFactsOf(file_);
+        }
+        HideMetadata();
+        if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
+            // The plain TIFF reader would give the thumbnail for the photo.
+            return LoadedPicture::Refused(ReasonCode::RawUnreadable);
+        }
+        const ClaimedSize claimed = ClaimedSizeOf(format_, file_).value_or(ClaimedSize{1, 1});
+        if (const Reason trouble = Trouble({claimed.width, claimed.height}); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
+        }
+        NoteOrientation();
+        stated_ = HeaderSize();
+        if (const Reason trouble = stated_ ? Trouble(*stated_) : Reason(); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
+        }
+        return Upright(AsAsked());
+    }
+
+  private:
+    LoadedPicture AsAsked() {
+        switch (request_.kind) {
+            case ReadKind::Size:
+                return OnlySize();
+            case ReadKind::Small:
+                return Small();
+            case ReadKind::Facts:  // not asked here
+            case ReadKind::Whole:
+                break;
+        }
+        return Whole();
+    }
+
+    void NoteOrientation() {
+        orientation_ = request_.upright ? OrientationOf(format_, file_, tiff_) : 1;
+        // The library develops raw files upright, whatever is asked.
+        turn_ = format_ == FIF_RAW ? 1 : orientation_;
+        if (format_ == FIF_TIFF && tiff_ && tiff_->orientation != 1) {
+            // It does a part of some turns with some kinds of TIFF, so it must not know.
+            file_.Replace(tiff_->orientationPlace, 1);
+        }
+    }
+
+    // Whether the sides of a raw file's picture have changed places against the sensor's; nothing
+    // when they do not tell.
+    std::optional<bool> HasSwappedSides(PixelSize size) const {
+        if (!stated_ || stated_->width == stated_->height || size.width == size.height) {
+            return std::nullopt;
+        }
+        return (stated_->width > stated_->height) != (size.width > size.height);
+    }
+
+    // The camera's own small picture in a raw file is not turned by the library. What was developed
+    // for want of one is, and has the sensor's size.
+    void NoteUnturnedPreview(PixelSize size) {
+        const std::optional<bool> swapped = HasSwappedSides(size);
+        const bool isUnturned = SwapsSides(orientation_) && swapped
+                                    ? !*swapped
+                                    : stated_ && size.width < stated_->width / 2;
+        turn_ = isUnturned ? orientation_ : 1;
+    }
+
+    LoadedPicture Upright(LoadedPicture picture) {
+        if (picture.outcome == LoadOutcome::NotLoaded) {
+            return picture;
+        }
+        if (format_ == FIF_RAW && picture.size.width > 0 &&
+            HasSwappedSides(picture.size) == !SwapsSides(orientation_)) {
+            orientation_ = 1;  // it was developed by something else than that
+        }
+        if (turn_ != 1) {
+            picture.size = Turned(picture.size, turn_);
+            if (picture.bitmap) {
+                picture.bitmap = TurnedCopy(picture.bitmap.get());
+            }
+        }
+        picture.orientation = orientation_;
+        return picture;
+    }
+
+    // By what the library has left to be done.
+    BitmapHandle TurnedCopy(FIBITMAP* bitmap) {
+        const PixelSize size = SizeOf(bitmap);
+        BitmapHandle turned = Room(Turned(size, turn_));
+        if (!turned) {
+            throw std::bad_alloc();
+        }
+        TurnRows(size, {0, size.height}, RowsOf(bitmap), turn_, RowsOf(turned.get()));
+        DescribeTurned(turned.get(), bitmap, turn_);
+        return turned;
+    }
+
+    // Where the picture is wanted, if it is.
+    BitmapHandle Room(PixelSize size) const {
+        return rowsFor_ && request_.kind == ReadKind::Whole ? BitmapOver(rowsFor_(size), size)
+                                                            : NewBitmap(size);
+    }
+
+    // Metadata are read later and by others: in the library they are where most crashes are.
+    void HideMetadata() {
+        if (format_ == FIF_JPEG) {
+            constexpr char unused = '\xEF';
+            for (const std::int64_t place : JpegMetadataMarkers(file_)) {
+                file_.Replace(place, unused);
+            }
+        } else if (tiff_) {
+            HideTags(tiff_->deadlyTags);
+            if (format_ == FIF_TIFF) {  // raw files tell there how they are to be developed
+                HideTags(tiff_->metadataTags);
+            }
+        }
+    }
+    // The next number means nothing to anybody and keeps the tags in order.
+    void HideTags(const std::vector<std::int64_t>& lowestBytes) {
+        for (const std::int64_t place : lowestBytes) {
+            const QByteArray byte = file_.Read(place, 1);
+            file_.Replace(place, static_cast<char>(byte.isEmpty() ? 0 : byte.front() + 1));
+        }
+    }
+
+    Reason Trouble(const StatedSize& size) const {
+        return SizeTrouble(size.width, size.height, memory_);
+    }
+
+    // Without reading pixels, where the type allows.
+    std::optional<StatedSize> HeaderSize() const {
+        if (format_ == FIF_JPEG) {
+            const std::optional<PixelSize> size = JpegSize(file_);
+            return size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
+        }
+        const std::optional<BmpHeader> bmp =
+            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
+        if (bmp) {
+            return StatedSize{bmp->width, bmp->height};
+        }
+        if (FreeImage_FIFSupportsNoPixels(format_) != TRUE) {
+            return std::nullopt;
+        }
+        const BitmapHandle header = file_.Load(format_, FIF_LOAD_NOPIXELS);
+        return header ? std::optional(Stated(header.get())) : std::nullopt;
+    }
+
+    LoadedPicture OnlySize() {
+        std::optional<StatedSize> size = stated_;
+        if (size && format_ == FIF_RAW) {
+            // The library states the sensor's way up and knows no odd pixels before developing.
+            const bool known = tiff_ && tiff_->isDng && tiff_->isEven;
+            if (!known) {
+                size.reset();
+            } else if (SwapsSides(tiff_->orientation)) {
+                std::swap(size->width, size->height);
+            }
+        }
+        if (size) {
+            return {LoadOutcome::Loaded, nullptr, {}, Pixels(*size)};
+        }
+        LoadedPicture whole = Whole();
+        whole.bitmap.reset();
+        if (whole.outcome == LoadOutcome::Damaged) {
+            whole.outcome = LoadOutcome::Loaded;  // its size is what it is
+            whole.reason = {};
+        }
+        return whole;
+    }
+
+    LoadedPicture Small() {
+        LoadedPicture picture = Quick();
+        if (!picture.bitmap) {
+            if (stated_ && stated_->width * stated_->height > mostPixelsForSmall) {
+                return LoadedPicture::Refused(ReasonCode::TooLargeForQuickLook);
+            }
+            picture = Whole();
+        }
+        if (picture.bitmap && format_ == FIF_RAW) {
+            NoteUnturnedPreview(SizeOf(picture.bitmap.get()));
+        }
+        if (picture.bitmap) {
+            picture.bitmap = Reduced(std::move(picture.bitmap), Turned(request_.box, turn_));
+        }
+        return picture;
+    }
+    // Empty where the type has no short way.
+    LoadedPicture Quick() {
+        int flags = RAW_PREVIEW;
+        if (format_ == FIF_JPEG) {
+            // The upper half of the flags is the size that is wanted at least.
+            const int side = std::clamp(std::max(request_.box.width, request_.box.height), 1,
+                                        static_cast<int>(largestSide));
+            flags = side << 16 | JPEG_FAST;
+        } else if (format_ != FIF_RAW) {
+            return {};
+        }
+        LoadedPicture picture = Judged(file_.Load(format_, flags));
+        picture.size = format_ == FIF_JPEG && stated_ ? Pixels(*stated_) : PixelSize{};
+        return picture;
+    }
+
+    // Past the library, which takes half as long again; empty where it has to do it.
+    BitmapHandle DirectJpeg() {
+        if (format_ != FIF_JPEG || !stated_ || request_.kind != ReadKind::Whole) {
+            return nullptr;
+        }
+        const PixelSize size = Pixels(*stated_);
+        BitmapHandle bitmap = Room(Turned(size, turn_));
+        if (!bitmap) {
+            return nullptr;
+        }
+        const BitmapHandle metadata =
+            ReadJpegPixels(file_.File(), size, RowsOf(bitmap.get()), turn_);
+        if (!metadata) {
+            return nullptr;
+        }
+        DescribeTurned(bitmap.get(), metadata.get(), turn_);
+        turn_ = 1;
+        return bitmap;
+    }
+
+    LoadedPicture Whole() {
+        if (BitmapHandle bitmap = DirectJpeg()) {
+            return Judged(std::move(bitmap));
+        }
+        const std::optional<BmpHeader> bmp =
+            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
+        BitmapHandle bitmap;
+        if (!bmp || !NeedsBmpReader(*bmp)) {
+            bitmap = file_.Load(format_, WholeFlags(format_));
+        }
+        if (!bitmap && bmp) {
+            bitmap = LoadBmp(file_, *bmp);
+        }
+        return Judged(std::move(bitmap));
+    }
+
+    // What the library gave, as an answer.
+    LoadedPicture Judged(BitmapHandle bitmap) {
+        if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
+            return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
+        }
+        if (const Reason trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
+            return LoadedPicture::Refused(trouble);
+        }
+        if (format_ == FIF_TIFF && tiff_ && !tiff_->colourProfile.isEmpty()) {
+            // The library looks at its own only after it has given back the memory.
+            QByteArray& profile = tiff_->colourProfile;
+            FreeImage_CreateICCProfile(bitmap.get(), profile.data(),
+                                       static_cast<long>(profile.size()));
+        }
+        bitmap = To24Bits(WithoutInks(std::move(bitmap), format_, file_));
+        if (!bitmap) {
+            return LoadedPicture::Refused(ReasonCode::NoTrueColour);
+        }
+        const PixelSize size = SizeOf(bitmap.get());
+        const Reason damage = DamageOf(format_, file_, messages_.Lines());
+        return {damage.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged, std::move(bitmap),
+                damage, size};
+    }
+
+    PictureFile file_;
+    const ReadRequest& request_;
+    std::uint64_t memory_;
+    const RowsFor& rowsFor_;
+    const LibraryMessages& messages_;
+    FREE_IMAGE_FORMAT format_ = FIF_UNKNOWN;
+    std::optional<TiffFacts> tiff_;
+    std::optional<StatedSize> stated_;
+    int orientation_ = 1;  // to be undone
+    int turn_ = 1;         // the part of it that is still to be done
+};
+
+}  // namespace
+
+LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
+                            const RowsFor& rowsFor) {
+    const LibraryMessages messages;
+    try {
+        return Decoding(file, request, memory, rowsFor, messages).Answer();
+    } catch (const std::bad_alloc&) {
+        return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
+    } catch (const std::exception& error) {
+        return LoadedPicture::Refused(
+            {ReasonCode::Added, ReasonCode::CannotBeDecoded, QString::fromLocal8Bit(error.what())});
+    } catch (...) {  // codecs throw numbers and types of their own
+        return LoadedPicture::Refused(messages.Added(ReasonCode::CannotBeDecoded));
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Decoding one photo with the image libraries. They may crash, hang or throw on a damaged file, so
+// this belongs into a process of its own.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <functional>
+#include <memory>
+
+#include "decoder/request/loaded_picture.h"
+#include "decoder/request/read_request.h"
+
+namespace varnel {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+// The only owner of an open file; closes it.
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
+
+// Memory for the rows of a picture of this size, bottom row first, as far apart as in a bitmap of
+// 24 bits; null when there is none.
+using RowsFor = std::function<std::byte*(PixelSize size)>;
+
+// Reads the photo from an open regular file (position anywhere; the request's path is not looked
+// at). The type is taken from the contents, the size is looked up before any pixel is read and
+// refused when it is too large for a machine with this memory in bytes. Never throws what the
+// libraries throw: that becomes the reason.
+// Whole: 24 bits, with metadata and colour profile. JPEG is decoded accurately, raw files are
+// developed for display, floating-point colour is tone-mapped.
+// Small: a JPEG is decoded at a fraction of its size, of a raw file the camera's own preview is
+// taken; other pictures are decoded whole unless that would take long. The answer's size is 0 x 0
+// when the file does not tell it.
+// Where it can, a whole photo is decoded right into the rows that it asks for, and the bitmap
+// stands there; else the bitmap has memory of its own.
+LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
+                            const RowsFor& rowsFor = {});
+
+// Has the libraries open now what they would open at the first photo; from then on decoding opens
+// no file. To be called before a process gives up its rights to files.
+void PrepareDecoding();
+
+}  // namespace varnel

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/formats/orientation.h"
+
+#include <QtEndian>
+
+#include "decoder/formats/exif_walk.h"
+#include "decoder/formats/jpeg_frame.h"
+#include "remap/image/exif_orientation.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr std::int64_t mostExif = 1 << 20;  // bytes; the first directory lies in front
+constexpr int mostChunks = 200'000;         // a sound PNG of 800 megabytes has half of them
+
+// A file of chunks, each with a head of eight bytes: length and name, in whichever order.
+struct ChunkKind {
+    QByteArrayView name;  // of the one with EXIF
+    int start;            // the first chunk's place
+    bool bigEndian;       // and so is the length in front of the name
+    int after;            // bytes of a checksum
+    int evenTo;           // lengths are rounded up to that
+};
+
+constexpr ChunkKind pngChunks{"eXIf", 8, true, 4, 1};
+constexpr ChunkKind webpChunks{"EXIF", 12, false, 0, 2};
+
+QByteArray ExifChunk(const ChunkKind& kind, const PictureFile& file) {
+    constexpr int headBytes = 8;
+    std::int64_t place = kind.start;
+    for (int n = 0; n < mostChunks; ++n) {
+        const QByteArray head = file.Read(place, headBytes);
+        if (head.size() < headBytes) {
+            return {};
+        }
+        const std::int64_t length = kind.bigEndian
+                                        ? qFromBigEndian<quint32>(head.constData())
+                                        : qFromLittleEndian<quint32>(head.constData() + 4);
+        if (QByteArrayView(head).sliced(kind.bigEndian ? 4 : 0, 4) == kind.name) {
+            return file.Read(place + headBytes, qMin(length, mostExif));
+        }
+        place += headBytes + (length + kind.evenTo - 1) / kind.evenTo * kind.evenTo + kind.after;
+    }
+    return {};
+}
+
+}  // namespace
+
+int OrientationInExif(QByteArrayView block) {
+    constexpr QByteArrayView mark("Exif\0\0", 6);
+    constexpr std::uint32_t orientation = 274;
+    const ExifWalk exif(block.startsWith(mark) ? block.sliced(mark.size()) : block);
+    const std::uint32_t told =
+        exif.IsSound() ? exif.Value(exif.Find(exif.FirstDirectory(), orientation)) : 0;
+    return IsOrientation(told) ? static_cast<int>(told) : 1;
+}
+
+int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
+                  const std::optional<TiffFacts>& tiff) {
+    switch (format) {
+        case FIF_JPEG:
+            return OrientationInExif(JpegExif(file));
+        case FIF_PNG:
+            return OrientationInExif(ExifChunk(pngChunks, file));
+        case FIF_WEBP:
+            return OrientationInExif(ExifChunk(webpChunks, file));
+        case FIF_TIFF:
+        case FIF_RAW:
+            return tiff ? tiff->orientation : 1;
+        default:
+            return 1;
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Which way up a photo's file says that it was taken.
+#pragma once
+
+#include <QByteArrayView>
+#include <optional>
+
+#include "decoder/formats/picture_file.h"
+#include "decoder/formats/tiff_structure.h"
+
+namespace varnel {
+
+// As EXIF counts, see remap/turn.h; 1 when the block does not tell it in order. The block begins
+// with its byte order, or with the mark that it has in a JPEG file.
+int OrientationInExif(QByteArrayView block);
+
+// Of a JPEG, PNG, WebP or TIFF file, or of a raw file that is built like a TIFF (for which the
+// facts are); else 1.
+int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
+                  const std::optional<TiffFacts>& tiff);
+
+}  // namespace varnel

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A photo's open file, read by place. Nothing here opens a file: the process that decodes may not.
+#pragma once
+
+#include <QByteArray>
+#include <cstdint>
+#include <cstdio>
+#include <vector>
+
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+class PictureFile {
+  public:
+    // The file stays the caller's.
+    explicit PictureFile(std::FILE* file);
+
+    std::int64_t Length() const { return length_; }
+    // The bytes from that place on, fewer where the file ends.
+    QByteArray Read(std::int64_t offset, std::int64_t most) const;
+
+    // From now on the library reads that byte there, whatever the file holds.
+    void Replace(std::int64_t place, char byte) { replaced_.push_back({place, byte}); }
+
+    // By the contents, never by a name. FIF_UNKNOWN when no reader wants the file.
+    FREE_IMAGE_FORMAT Format() const;
+    // Empty when the library refuses. May throw whatever its readers throw.
+    BitmapHandle Load(FREE_IMAGE_FORMAT format, int flags) const;
+
+    // For the library: fills the buffer from where the file is.
+    unsigned Fill(void* buffer, unsigned size, unsigned count) const;
+    std::FILE* File() const { return file_; }
+
+  private:
+    struct Replaced {
+        std::int64_t place;
+        char byte;
+    };
+    std::FILE* file_;
+    std::int64_t length_;
+    std::vector<Replaced> replaced_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/formats/true_colour.h"
+
+#include <QByteArray>
+#include <cmath>
+#include <new>
+
+#include "decoder/formats/tone_map.h"
+
+namespace varnel {
+
+namespace {
+
+bool IsFloatColour(FREE_IMAGE_TYPE type) {
+    return type == FIT_RGBF || type == FIT_RGBAF;
+}
+
+// The standard conversion stretches darkest to brightest over black to white; a sample that is no
+// number would spoil that.
+template <class Sample>
+void ReplaceNonNumbers(FIBITMAP* bitmap) {
+    for (unsigned y = 0; y < FreeImage_GetHeight(bitmap); ++y) {
+        auto* const row =
+            reinterpret_cast<Sample*>(FreeImage_GetScanLine(bitmap, static_cast<int>(y)));
+        for (unsigned x = 0; x < FreeImage_GetWidth(bitmap); ++x) {
+            row[x] = std::isfinite(row[x]) ? row[x] : Sample{0};
+        }
+    }
+}
+
+// Grey of other kinds has no direct way to 24 bits.
+BitmapHandle ToGrey8(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
+    switch (type) {
+        case FIT_UINT16:  // the upper eight bits, as of 16-bit colour
+            return BitmapHandle(FreeImage_ConvertTo8Bits(bitmap));
+        case FIT_FLOAT:
+            ReplaceNonNumbers<float>(bitmap);
+            break;
+        case FIT_DOUBLE:
+            ReplaceNonNumbers<double>(bitmap);
+            break;
+        default:
+            break;
+    }
+    return BitmapHandle(FreeImage_ConvertToStandardType(bitmap, TRUE));
+}
+
+BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
+    switch (type) {
+        case FIT_BITMAP:
+        case FIT_RGB16:
+        case FIT_RGBA16:
+            return BitmapHandle(FreeImage_ConvertTo24Bits(bitmap));
+        case FIT_RGBF:
+        case FIT_RGBAF:
+            return ToneMapped(bitmap);
+        default: {
+            const BitmapHandle grey = ToGrey8(bitmap, type);
+            return BitmapHandle(grey ? FreeImage_ConvertTo24Bits(grey.get()) : nullptr);
+        }
+    }
+}
+
+// PNG's library looks closely at a profile and refuses to write a picture whose profile is damaged
+// or describes other colours than red, green and blue. So it is asked with a single pixel.
+bool PngTakes(QByteArray profile) {
+    const BitmapHandle pixel(FreeImage_Allocate(1, 1, 24));
+    FreeImage_CreateICCProfile(pixel.get(), profile.data(), static_cast<long>(profile.size()));
+    FIMEMORY* const memory = FreeImage_OpenMemory();
+    const bool taken = FreeImage_SaveToMemory(FIF_PNG, pixel.get(), memory) == TRUE;
+    FreeImage_CloseMemory(memory);
+    return taken;
+}
+
+}  // namespace
+
+bool IsProfileForRgb(QByteArrayView profile) {
+    constexpr qsizetype header = 128;      // bytes
+    constexpr qsizetype colourSpace = 16;  // where its four letters are
+    return profile.size() > header && profile.sliced(colourSpace, 4) == QByteArrayView("RGB ") &&
+           PngTakes(profile.toByteArray());
+}
+
+BitmapHandle To24Bits(BitmapHandle bitmap) {
+    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.get());
+    if (type == FIT_COMPLEX || type == FIT_UNKNOWN) {
+        return nullptr;
+    }
+    BitmapHandle result;
+    FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap.get());
+    // Tone-mapped colours are no longer those of the profile.
+    const bool keepProfile =
+        !IsFloatColour(type) && IsProfileForRgb({static_cast<const char*>(profile->data),
+                                                 static_cast<qsizetype>(profile->size)});
+    if (type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24) {
+        result = std::move(bitmap);
+        if (!keepProfile) {
+            FreeImage_DestroyICCProfile(result.get());
+        }
+        return result;
+    }
+    result = Converted(bitmap.get(), type);
+    if (!result) {
+        throw std::bad_alloc();
+    }
+    FreeImage_CloneMetadata(result.get(), bitmap.get());
+    FreeImage_SetDotsPerMeterX(result.get(), FreeImage_GetDotsPerMeterX(bitmap.get()));
+    FreeImage_SetDotsPerMeterY(result.get(), FreeImage_GetDotsPerMeterY(bitmap.get()));
+    FreeImage_DestroyICCProfile(result.get());
+    if (keepProfile) {
+        FreeImage_CreateICCProfile(result.get(), profile->data, static_cast<long>(profile->size));
+    }
+    return result;
+}
+
+}  // namespace varnel

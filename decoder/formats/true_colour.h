@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Bringing decoded pictures of any depth to 24 bits.
+#pragma once
+
+#include <QByteArrayView>
+
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+// With metadata and resolution, and with the colour profile where it describes red, green and blue
+// as they then are. Empty when the pixels are no picture (complex numbers). Throws std::bad_alloc.
+BitmapHandle To24Bits(BitmapHandle bitmap);
+
+// Whether an ICC profile is sound and describes red, green and blue.
+bool IsProfileForRgb(QByteArrayView profile);
+
+}  // namespace varnel

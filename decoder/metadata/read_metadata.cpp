@@ -1,0 +1,286 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/metadata/read_metadata.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QStringList>
+#include <exception>
+#include <exiv2/exiv2.hpp>
+#include <functional>
+#include <string>
+
+#include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/picture_file.h"
+#include "decoder/formats/true_colour.h"
+#include "decoder/metadata/exif_block.h"
+#include "decoder/metadata/xmp_packet.h"
+
+namespace varnel {
+
+namespace {
+
+// The bytes of an open file, mapped where that can be done.
+class FileBytes {
+  public:
+    explicit FileBytes(std::FILE* file) {
+        if (!file_.open(file, QIODevice::ReadOnly)) {
+            return;
+        }
+        // Not by its name or state, of which the decoder may not ask.
+        length_ = PictureFile(file).Length();
+        bytes_ = file_.map(0, length_);
+        if (bytes_ == nullptr) {
+            read_ = file_.readAll();
+            length_ = read_.size();
+            bytes_ = reinterpret_cast<const uchar*>(read_.constData());
+        }
+    }
+    const Exiv2::byte* Bytes() const { return bytes_; }
+    long Length() const { return static_cast<long>(length_); }
+
+  private:
+    QFile file_;
+    QByteArray read_;
+    const uchar* bytes_ = nullptr;
+    qint64 length_ = 0;
+};
+
+// The kinds of metadata that the library gave up on: it tells of that in its messages only.
+QStringList& GivenUp() {
+    thread_local QStringList kinds;
+    return kinds;
+}
+
+void Listen(int /*level*/, const char* message) {
+    static const QRegularExpression failure(
+        QStringLiteral("^Failed to decode (Exif|IPTC) metadata"));
+    const auto match = failure.match(QString::fromUtf8(message));
+    if (match.hasMatch()) {
+        GivenUp().append(match.captured(1));
+    }
+}
+
+QString Text(const Exiv2::ExifData& data, const char* key) {
+    const auto datum = data.findKey(Exiv2::ExifKey(key));
+    return datum == data.end() ? QString() : QString::fromStdString(datum->toString()).trimmed();
+}
+
+float Number(const Exiv2::ExifData& data, const char* key) {
+    const auto datum = data.findKey(Exiv2::ExifKey(key));
+    if (datum == data.end() || datum->count() == 0 || datum->toRational().second == 0) {
+        return 0.0F;
+    }
+    return datum->toFloat();
+}
+
+// What the maker note's number stands for by the library's tables; empty when it has no name.
+QString LensByMakerNote(const Exiv2::ExifData& data) {
+    const auto datum = Exiv2::lensName(data);
+    if (datum == data.end()) {
+        return {};
+    }
+    const QString name = QString::fromStdString(datum->print(&data)).trimmed();
+    const bool isName = !name.startsWith(u'(') && name.contains(QStringLiteral("mm"));
+    return isName ? name : QString();
+}
+
+PhotoOrigin OriginOf(const Exiv2::ExifData& data) {
+    PhotoOrigin origin{.Make = Text(data, "Exif.Image.Make"),
+                       .Model = Text(data, "Exif.Image.Model"),
+                       .LensMake = Text(data, "Exif.Photo.LensMake"),
+                       .LensModel = Text(data, "Exif.Photo.LensModel"),
+                       .FocalLength = Number(data, "Exif.Photo.FocalLength"),
+                       .FNumber = Number(data, "Exif.Photo.FNumber")};
+    // "----" and the like, or the bare "8mm" of a camera that does not know the lens.
+    constexpr qsizetype shortestName = 6;
+    if (origin.LensModel.size() < shortestName || origin.LensModel.startsWith(u'-')) {
+        const QString name = LensByMakerNote(data);
+        origin.LensModel = name.isEmpty() ? origin.LensModel : name;
+    }
+    return origin;
+}
+
+Reason Unreadable(QStringView kind) {
+    return {ReasonCode::KindUnreadable, kind.toString()};
+}
+
+class Reading {
+  public:
+    Reading(std::FILE* file, const MetadataRequest& request)
+        : file_(file), bytes_(file), request_(request) {}
+
+    FileMetadata Answer() {
+        Try(ReasonCode::MetadataUnreadable, [this] { Read(); });
+        Try(Unreadable(u"EXIF"), [this] { TakeExif(); });
+        Try(Unreadable(u"IPTC"), [this] { TakeIptc(); });
+        Try(Unreadable(u"XMP"), [this] { TakeXmp(); });
+        if (result_.metadata.xmp.isEmpty()) {  // broken, so it begins anew
+            Try(Unreadable(u"XMP"), [this] { FillXmp({}, true, result_.metadata); });
+        }
+        if (result_.metadata.exif.bytes.isEmpty()) {
+            Try(Unreadable(u"EXIF"), [this] { FillExif({}, Wishes(true), result_.metadata); });
+        }
+        return std::move(result_);
+    }
+
+  private:
+    void Try(const Reason& note, const std::function<void()>& step) {
+        try {
+            step();
+        } catch (const std::exception&) {
+            Note(note);
+        } catch (...) {  // whatever else the library may throw
+            Note(note);
+        }
+    }
+    void Note(const Reason& note) {
+        if (!result_.metadata.notes.contains(note)) {
+            result_.metadata.notes.append(note);
+        }
+    }
+
+    void Read() {
+        if (bytes_.Bytes() == nullptr || ReadFrom(bytes_.Bytes(), bytes_.Length())) {
+            return;
+        }
+        // Broken EXIF must not cost the rest.
+        const QByteArray rest = HeaderWithoutExif(PictureFile(file_));
+        const bool isRead =
+            !rest.isEmpty() && ReadFrom(reinterpret_cast<const Exiv2::byte*>(rest.constData()),
+                                        static_cast<long>(rest.size()));
+        Note(isRead ? Unreadable(u"EXIF") : ReasonCode::MetadataUnreadable);
+    }
+
+    // What was read before an error stays. False when there was one.
+    bool ReadFrom(const Exiv2::byte* bytes, long length) {
+        constexpr int unknown = 0;
+        if (Exiv2::ImageFactory::getType(bytes, length) == unknown) {
+            return true;
+        }
+        auto image = Exiv2::ImageFactory::open(bytes, length);
+        GivenUp().clear();
+        bool whole = true;
+        try {
+            image->readMetadata();
+        } catch (const std::exception&) {
+            whole = false;
+        }
+        Take(*image);
+        return whole;
+    }
+
+    void Take(Exiv2::Image& image) {
+        for (const QString& kind : GivenUp()) {
+            Note(Unreadable(kind == u"Exif" ? QStringView(u"EXIF") : kind));
+        }
+        exif_ = image.exifData();
+        iptc_ = image.iptcData();
+        xmp_ = image.xmpData();
+        packet_ = QByteArray::fromStdString(image.xmpPacket());
+        if (image.byteOrder() != Exiv2::invalidByteOrder) {
+            order_ = image.byteOrder();
+        }
+        if (exif_.empty() && !JpegExif(PictureFile(file_)).isEmpty()) {
+            Note(Unreadable(u"EXIF"));
+        }
+        const auto* const profile = image.iccProfile();
+        if (image.iccProfileDefined() && profile->size_ > 0) {
+            const QByteArrayView bytes(reinterpret_cast<const char*>(profile->pData_),
+                                       static_cast<qsizetype>(profile->size_));
+            result_.colourProfile = IsProfileForRgb(bytes) ? bytes.toByteArray() : QByteArray();
+        }
+    }
+
+    // As they were loaded; raw files are always developed upright.
+    bool PixelsAreUpright() const {
+        const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
+        return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
+               told->toLong() == request_.orientation || PictureFile(file_).Format() == FIF_RAW;
+    }
+
+    ExifWishes Wishes(bool upright) const {
+        constexpr double metresPerInch = 0.0254;
+        constexpr double usualDots = 72.0;
+        const auto perInch = [](double perMetre) {
+            return perMetre > 0.0 ? perMetre * metresPerInch : usualDots;
+        };
+        return {request_.size,
+                upright,
+                order_,
+                perInch(request_.dotsPerMetreX),
+                perInch(request_.dotsPerMetreY),
+                !request_.hasProfile && result_.colourProfile.isEmpty()};
+    }
+
+    void TakeExif() {
+        upright_ = PixelsAreUpright();
+        result_.metadata.origin = OriginOf(exif_);
+        FillExif(exif_, Wishes(upright_), result_.metadata);
+    }
+    void TakeIptc() {
+        if (!iptc_.empty()) {
+            const Exiv2::DataBuf bytes = Exiv2::IptcParser::encode(iptc_);
+            result_.metadata.iptc = QByteArray(reinterpret_cast<const char*>(bytes.pData_),
+                                               static_cast<qsizetype>(bytes.size_));
+        }
+    }
+    // What the library is too strict for is kept as it stands.
+    void TakeXmp() {
+        if (!xmp_.empty() || packet_.isEmpty()) {
+            FillXmp(xmp_, upright_, result_.metadata);
+        } else if (!KeepXmp(packet_, result_.metadata)) {
+            Note(Unreadable(u"XMP"));
+        }
+    }
+
+    std::FILE* file_;
+    bool upright_ = true;
+    FileBytes bytes_;
+    MetadataRequest request_;
+    Exiv2::ExifData exif_;
+    Exiv2::IptcData iptc_;
+    Exiv2::XmpData xmp_;
+    QByteArray packet_;  // XMP as it is in the file
+    Exiv2::ByteOrder order_ = Exiv2::littleEndian;
+    FileMetadata result_;
+};
+
+void Prepare() {
+    Exiv2::LogMsg::setLevel(Exiv2::LogMsg::warn);
+    Exiv2::LogMsg::setHandler(&Listen);
+    RegisterSettingsNamespace();
+    Exiv2::ExifData camera;  // looks for the user's own lens names
+    camera["Exif.Image.Make"] = "Canon";
+    camera["Exif.CanonCs.LensType"] = std::uint16_t{0};
+    LensByMakerNote(camera);
+}
+
+}  // namespace
+
+MetadataRequest WantedFor(const LoadedPicture& picture) {
+    MetadataRequest wanted{picture.size, picture.orientation};
+    if (FIBITMAP* const bitmap = picture.bitmap.get()) {
+        wanted.dotsPerMetreX = FreeImage_GetDotsPerMeterX(bitmap);
+        wanted.dotsPerMetreY = FreeImage_GetDotsPerMeterY(bitmap);
+        wanted.hasProfile = FreeImage_GetICCProfile(bitmap)->data != nullptr;
+    }
+    return wanted;
+}
+
+FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request) {
+    try {
+        PrepareMetadata();
+        return Reading(file, request).Answer();
+    } catch (const std::exception&) {  // no memory
+        return UnreadMetadata();
+    }
+}
+
+void PrepareMetadata() {
+    static const bool prepared = (Prepare(), true);
+    static_cast<void>(prepared);
+}
+
+}  // namespace varnel

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The reader that decodes in a process of its own.
+#pragma once
+
+#include <QDeadlineTimer>
+#include <optional>
+
+#include "decoder/process/decoder_process.h"
+#include "decoder/process/photo_file.h"
+#include "decoder/process/picture_reader.h"
+#include "decoder/process/shared_memory.h"
+
+namespace varnel {
+
+class DecoderReader : public PictureReader {
+  public:
+    explicit DecoderReader(const ReaderOptions& options);
+
+    void Begin(const ReadRequest& request) override;
+    bool Wait(int milliseconds) override;
+    LoadedPicture Take() override;
+    void Cancel() override;
+    bool IsApart() const override { return true; }
+
+    // The decoder's process number, for tests that kill it.
+    pid_t ProcessId() const { return process_.Id(); }
+
+  private:
+    void Ask();
+    void Restart();
+    void Finish(LoadedPicture picture);
+    void FinishRefused(const Reason& reason) { Finish(LoadedPicture::Refused(reason)); }
+    void Died();
+    Reason TookTooLong() const;
+    void Heard(const DecoderAnswer& answer);
+    void FinishWithoutMetadata();
+    FileMetadata MetadataFrom(const DecoderAnswer& answer);
+    LoadedPicture PictureFrom(const DecoderAnswer& answer, const FileMetadata& metadata);
+    void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
+
+    ReaderOptions options_;
+    DecoderProcess process_;
+    Reason startTrouble_;
+    std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();
+    std::unique_ptr<MemoryFile> memory_;  // of the picture under way
+    Descriptor photo_;
+    DecoderRequest request_;
+    QDeadlineTimer deadline_;
+    bool askedTwice_ = false;
+    std::optional<DecoderAnswer> first_;  // the pixels', when the metadata follow
+    std::optional<LoadedPicture> answer_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "decoder/process/protocol.h"
+
+#include <QByteArray>
+#include <QIODevice>
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include "decoder/request/picture_limits.h"
+#include "remap/image/exif_orientation.h"
+#include "remap/image/row_pitch.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr qsizetype longestText = 500;  // characters in a reason that is too long
+
+QByteArray Packed(const Reason& reason) {
+    QByteArray block;
+    QDataStream out(&block, QIODevice::WriteOnly);
+    out << reason;
+    return block;
+}
+
+Reason WithTextsCut(const Reason& reason, qsizetype longest) {
+    std::vector<Reason::Argument> arguments = reason.Arguments();
+    for (Reason::Argument& argument : arguments) {
+        if (auto* const text = std::get_if<QString>(&argument)) {
+            text->truncate(longest);
+        } else if (auto* const nested = std::get_if<Reason>(&argument)) {
+            *nested = WithTextsCut(*nested, longest);
+        }
+    }
+    return {reason.Code(), std::move(arguments)};
+}
+
+// All is well without a reason only. What the user does is not the decoder's to say.
+bool BelievableReason(const DecoderAnswer& answer) {
+    const std::optional<Reason> reason = ReasonOf(answer);
+    const bool allWell = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::Loaded);
+    return reason && reason->isEmpty() == allWell && !reason->Is(ReasonCode::Cancelled);
+}
+
+// A picture with no more of its own than a reason or a size.
+bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
+    if (answer.bitmap.width != 0 || answer.bitmap.height != 0 || answer.pitch != 0 ||
+        answer.extrasLength != 0) {
+        return false;
+    }
+    const bool refused = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
+    return refused || request.kind == ReadKind::Facts ||
+           (request.kind == ReadKind::Size &&
+            SizeTrouble(answer.size.width, answer.size.height, request.memory).isEmpty());
+}
+
+bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
+                      std::uint64_t memoryFileLength) {
+    const PixelSize bitmap = answer.bitmap;
+    if (!SizeTrouble(bitmap.width, bitmap.height, request.memory).isEmpty()) {
+        return false;
+    }
+    if (request.kind == ReadKind::Small &&
+        (bitmap.width > request.box.width || bitmap.height > request.box.height)) {
+        return false;
+    }
+    if (request.kind == ReadKind::Whole &&
+        (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
+        return false;
+    }
+    return answer.pitch == RowPitch(bitmap.width) && answer.extrasLength <= longestExtras &&
+           RowBytes(answer) + answer.extrasLength <= memoryFileLength;
+}
+
+}  // namespace
+
+bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
+                std::uint64_t memoryFileLength) {
+    if (answer.number != request.number || answer.reasonLength > longestReason ||
+        answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded) ||
+        !BelievableReason(answer) || !IsOrientation(answer.orientation) ||
+        (answer.orientation != 1 && !request.upright)) {
+        return false;
+    }
+    const bool hasPixels = request.kind != ReadKind::Size && request.kind != ReadKind::Facts &&
+                           answer.outcome != static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
+    return hasPixels ? BelievablePixels(answer, request, memoryFileLength)
+                     : BelievableWithoutPixels(answer, request);
+}
+
+bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                        std::uint64_t memoryFileLength) {
+    return answer.number == first.number && answer.metadataLength <= longestExtras &&
+           RowBytes(first) + first.extrasLength + answer.metadataLength <= memoryFileLength;
+}
+
+void SetReason(DecoderAnswer& answer, const Reason& reason) {
+    QByteArray block = Packed(reason);
+    for (qsizetype longest = longestText; block.size() > qsizetype{longestReason}; longest /= 2) {
+        block = Packed(WithTextsCut(reason, longest));
+    }
+    answer.reasonLength = static_cast<std::uint32_t>(block.size());
+    std::memcpy(answer.reason.data(), block.constData(), answer.reasonLength);
+}
+
+std::optional<Reason> ReasonOf(const DecoderAnswer& answer) {
+    const auto length = std::min<std::size_t>(answer.reasonLength, longestReason);
+    QDataStream in(QByteArray::fromRawData(answer.reason.data(), static_cast<qsizetype>(length)));
+    Reason reason;
+    if (length > 0) {
+        in >> reason;
+    }
+    return in.status() == QDataStream::Ok && in.atEnd() ? std::optional(reason) : std::nullopt;
+}
+
+}  // namespace varnel

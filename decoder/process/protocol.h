@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What a program and its decoder process say to each other: one message of fixed size each way over
+// a socket that keeps messages apart. With the request come two file descriptors, the photo and a
+// memory file for the picture, in this order. Both ends are built together, so structs go as they
+// are.
+#pragma once
+
+#include <QByteArray>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "decoder/request/file_metadata.h"
+#include "decoder/request/loaded_picture.h"
+#include "decoder/request/read_request.h"
+
+namespace varnel {
+
+struct DecoderRequest {
+    std::uint32_t number = 0;  // comes back in the answer
+    ReadKind kind = ReadKind::Whole;
+    PixelSize box{};
+    std::uint64_t memory = 0;      // bytes that the picture is measured by
+    std::uint32_t seconds = 0;     // of processor time that it may take, about
+    std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
+    bool upright = true;
+};
+
+inline constexpr std::size_t longestReason = 2000;  // bytes
+
+// In place of an outcome: the decoder tried a system call that is forbidden to it, of that number,
+// and is dead. Whoever says so is not asked again.
+inline constexpr std::uint32_t triedForbidden = 0xF0;
+
+// The memory file holds the rows, bottom row first, then what else belongs to the picture.
+struct DecoderAnswer {
+    std::uint32_t number = 0;
+    std::uint32_t outcome = 0;       // as LoadOutcome, or triedForbidden
+    PixelSize size{};                // of the full picture
+    PixelSize bitmap{};              // of the pixels in the memory file, 0 x 0 when there are none
+    std::uint32_t pitch = 0;         // bytes from row to row
+    std::uint64_t extrasLength = 0;  // bytes after the rows
+    std::uint64_t metadataLength = 0;   // bytes after those
+    std::uint32_t metadataFollows = 0;  // not 0: they come with a second answer
+    std::int32_t orientation = 1;       // as in LoadedPicture
+    std::uint32_t reasonLength = 0;
+    std::array<char, longestReason> reason{};  // its code and arguments as a stream
+};
+
+// Bytes that the rows take.
+inline std::uint64_t RowBytes(const DecoderAnswer& answer) {
+    return std::uint64_t{answer.pitch} * static_cast<std::uint32_t>(answer.bitmap.height);
+}
+
+// Nothing in an answer is believed unseen: a decoder may be out of its mind after a hostile photo.
+// True when the answer belongs to the request, its numbers agree with one another and the memory
+// file is long enough for what it is said to hold.
+bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
+                std::uint64_t memoryFileLength);
+
+// The second answer, of which nothing but number and length of the metadata counts: likewise.
+bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                        std::uint64_t memoryFileLength);
+
+// Puts the reason into the answer, its texts cut where it would be too long, and takes it out
+// again: nothing when its bytes are no sound reason.
+void SetReason(DecoderAnswer& answer, const Reason& reason);
+std::optional<Reason> ReasonOf(const DecoderAnswer& answer);
+
+// Resolution, colour profile and comments as one block of bytes, and back. Taking a block gives
+// back whatever of it is sound and drops the rest; any bytes may be given.
+QByteArray PackExtras(FIBITMAP* bitmap);
+void TakeExtras(const QByteArray& block, FIBITMAP* bitmap);
+
+// The metadata, with a colour profile that the pixels came without, likewise. Metadata without
+// profile and pixels come back from a block that is not sound.
+QByteArray PackFileMetadata(const FileMetadata& metadata);
+FileMetadata TakeFileMetadata(const QByteArray& block);
+
+// A block beyond this is not sent; the picture then comes without.
+inline constexpr std::uint64_t longestExtras = std::uint64_t{256} << 20;  // bytes
+
+}  // namespace varnel

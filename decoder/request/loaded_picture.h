@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What comes of reading a photo.
+#pragma once
+
+#include "base/reason.h"
+#include "remap/image/bitmap.h"
+#include "remap/image/photo_metadata.h"
+
+namespace varnel {
+
+enum class LoadOutcome {
+    Loaded,
+    Damaged,   // a picture came, but a part of it is missing or wrong
+    NotLoaded  // no picture
+};
+
+struct LoadedPicture {
+    LoadOutcome outcome = LoadOutcome::NotLoaded;
+    BitmapHandle bitmap;  // 24 bits a pixel; empty when not loaded or when only the size was asked
+    Reason reason;        // what is wrong; empty when all is well
+    PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
+    PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
+    int orientation = 1;       // that the file tells and that was undone, as EXIF counts
+
+    static LoadedPicture Refused(const Reason& reason) {
+        return {LoadOutcome::NotLoaded, nullptr, reason, {}};
+    }
+};
+
+}  // namespace varnel

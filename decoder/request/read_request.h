@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What may be asked of a photo's file.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "base/pixel_size.h"
+
+namespace varnel {
+
+enum class ReadKind : std::uint32_t {
+    Whole,  // every pixel, with metadata and colour profile
+    Size,   // only the size of the full picture
+    Facts,  // only what the file says besides its pixels; the size is 0 x 0
+    Small   // a quick small picture for looking through a folder, without metadata
+};
+
+struct ReadRequest {
+    QString path;
+    ReadKind kind = ReadKind::Whole;
+    PixelSize box{};      // Small: the picture fits it; never enlarged
+    bool upright = true;  // turned as its EXIF orientation says; raw files are at any rate
+};
+
+}  // namespace varnel

@@ -1,0 +1,312 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "files/atomic_file.h"
+
+#ifdef Q_OS_UNIX
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <optional>
+#include <utility>
+
+#include "files/file_operations.h"
+#include "files/temp_names.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
+constexpr int mostLinks = 40;              // as the system itself follows
+
+Reason By(int error) {
+    return {ReasonCode::SystemError, error};
+}
+
+// What is to be replaced or made: through all links, since renaming would replace a link itself.
+struct Target {
+    QByteArray name;
+    std::optional<unsigned> permissions;  // of the older file, if there is one
+    Reason trouble;
+};
+
+QByteArray FolderOf(const QByteArray& name) {
+    const qsizetype slash = name.lastIndexOf('/');
+    return slash < 0 ? QByteArray(".") : name.left(std::max<qsizetype>(slash, 1));
+}
+
+// Nothing when the links go round in a ring.
+std::optional<QByteArray> FollowLinks(QByteArray name) {
+    for (int links = 0; links <= mostLinks; ++links) {
+        QByteArray next(PATH_MAX, Qt::Uninitialized);
+        const ssize_t length = ::readlink(name.constData(), next.data(), PATH_MAX);
+        if (length < 0) {  // no link
+            return name;
+        }
+        next.truncate(length);
+        name = next.startsWith('/') ? next : FolderOf(name) + '/' + next;
+    }
+    return std::nullopt;
+}
+
+Target FindTarget(const QString& path) {
+    const QByteArray given = QFile::encodeName(path);
+    const std::optional<QByteArray> name = FollowLinks(given);
+    if (given.contains('\0') || !name) {
+        return {given, {}, By(name ? EINVAL : ELOOP)};
+    }
+    struct stat older {};
+    if (::stat(name->constData(), &older) != 0) {
+        return {*name, {}, errno == ENOENT ? Reason() : By(errno)};
+    }
+    if (!S_ISREG(older.st_mode)) {
+        return {*name, {}, S_ISDIR(older.st_mode) ? By(EISDIR) : ReasonCode::NotRegular};
+    }
+    // Renaming asks for no more than the folder's permission; a file that is write-protected is
+    // meant to stay.
+    if (::faccessat(AT_FDCWD, name->constData(), W_OK, AT_EACCESS) != 0) {
+        return {*name, {}, By(errno)};
+    }
+    return {*name, older.st_mode & 0777U, {}};
+}
+
+// The hidden file on its way to the target's name. Goes away with this object if it did not get
+// there.
+class SavingFile {
+  public:
+    SavingFile(const Target& target, FileSteps& steps) : target_(target), steps_(steps) {}
+    SavingFile(const SavingFile&) = delete;
+    SavingFile& operator=(const SavingFile&) = delete;
+    ~SavingFile() {
+        if (!name_.isEmpty()) {
+            steps_.Remove(name_);  // before the lock goes
+        }
+        Drop(file_);
+        Drop(lock_);
+    }
+
+    WriteResult Write(QByteArrayView bytes) {
+        const bool ok = Create() && WriteAll(bytes) && KeepPermissions() &&
+                        Check(Sync(), ReasonCode::WhileSyncing) && Close() && Rename();
+        return {ok, reason_};
+    }
+
+  private:
+    bool Check(qint64 result, ReasonCode doing) {
+        if (result == -1) {
+            reason_ = {doing, By(errno)};
+        }
+        return result != -1;
+    }
+
+    bool Create() {
+        const QByteArray folder = FolderOf(target_.name);
+        // A photo that only its owner may see is not shown to others while it is written.
+        const unsigned permissions = target_.permissions ? 0600 : 0666;
+        for (int n = 0; n <= fixedSavingNames; ++n) {
+            const QByteArray name = SavingName(folder, n);
+            file_ = steps_.Create(name, permissions);
+            if (file_ == -1 && errno == EEXIST) {
+                continue;
+            }
+            if (!Check(file_, ReasonCode::WhileCreating)) {
+                return false;
+            }
+            if (Lock(name)) {
+                name_ = name;
+                return true;
+            }
+            Drop(file_);
+            Drop(lock_);
+        }
+        errno = EEXIST;
+        return Check(-1, ReasonCode::WhileCreating);
+    }
+
+    // False when another program took it for a stray file before it was locked. Where there are no
+    // locks no program removes strays, and the file is safe without one.
+    bool Lock(const QByteArray& name) {
+        lock_ = steps_.Lock(file_);
+        if (lock_ == -1 && errno == EWOULDBLOCK) {
+            return false;
+        }
+        return ::fstat(file_, &identity_) == 0 && IsNamed(identity_, name);
+    }
+
+    bool WriteAll(QByteArrayView bytes) {
+        while (!bytes.isEmpty()) {
+            const qint64 length = std::min<qint64>(bytes.size(), largestPiece);
+            const qint64 written = steps_.Write(file_, bytes.data(), length);
+            if (written == -1 && errno == EINTR) {
+                continue;
+            }
+            if (written == 0) {  // would go on like this for ever
+                errno = EIO;
+            }
+            if (!Check(written > 0 ? written : -1, ReasonCode::WhileWriting)) {
+                return false;
+            }
+            bytes = bytes.sliced(written);
+        }
+        return true;
+    }
+
+    // File systems that keep no permissions may refuse. Then the file is less open than the older
+    // one was, never more.
+    bool KeepPermissions() {
+        if (!target_.permissions || (identity_.st_mode & 0777U) == *target_.permissions) {
+            return true;
+        }
+        const int result = steps_.SetPermissions(file_, *target_.permissions);
+        const bool unknown = result == -1 && (errno == EPERM || errno == ENOTSUP);
+        return unknown || Check(result, ReasonCode::WhileSettingPermissions);
+    }
+
+    int Sync() {
+        int result = -1;
+        do {
+            result = steps_.Sync(file_);
+        } while (result == -1 && errno == EINTR);
+        return result;
+    }
+
+    // Before renaming, because network drives tell of some failed writes only here.
+    bool Close() {
+        const int result = steps_.Close(std::exchange(file_, -1));
+        return (result == -1 && errno == EINTR) || Check(result, ReasonCode::WhileClosing);
+    }
+
+    bool Rename() {
+        // On network drives with locks of their own a computer may take the files of another one
+        // for strays; that one's half-written file must not come under our name.
+        if (!IsNamed(identity_, name_)) {
+            name_.clear();
+            errno = ENOENT;
+            return Check(-1, ReasonCode::WhileRenaming);
+        }
+        if (!Check(steps_.Rename(name_, target_.name), ReasonCode::WhileRenaming)) {
+            return false;
+        }
+        name_.clear();
+        return true;
+    }
+
+    void Drop(int& file) {
+        if (file != -1) {
+            ::close(std::exchange(file, -1));
+        }
+    }
+
+    const Target& target_;
+    FileSteps& steps_;
+    QByteArray name_;  // empty while there is no hidden file
+    struct stat identity_ {};
+    int file_ = -1;
+    int lock_ = -1;
+    Reason reason_;
+};
+
+// The reason when the names in the folder may not last. Some file systems cannot sync folders, and
+// a folder need not be readable for files to be made there.
+Reason SyncTrouble(const QByteArray& folder, FileSteps& steps) {
+    const bool failed =
+        steps.SyncFolder(folder) == -1 && errno != EINVAL && errno != ENOTSUP && errno != EACCES;
+    return failed ? Reason(ReasonCode::WhileSyncingFolder, By(errno)) : Reason();
+}
+
+}  // namespace
+
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps& steps) {
+    const Target target = FindTarget(path);
+    if (!target.trouble.isEmpty()) {
+        return {false, target.trouble};
+    }
+    RemoveStrays(FolderOf(target.name));
+    const WriteResult written = SavingFile(target, steps).Write(bytes);
+    const Reason trouble = written ? SyncTrouble(FolderOf(target.name), steps) : written.reason;
+    return {trouble.isEmpty(), trouble};
+}
+
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
+    FileSteps steps;
+    return WriteWholeFile(path, bytes, steps);
+}
+
+FileSeries::FileSeries() : FileSeries(std::make_unique<FileSteps>()) {}
+
+FileSeries::FileSeries(std::unique_ptr<FileSteps> steps) : steps_(std::move(steps)) {}
+
+FileSeries::~FileSeries() {
+    Finish();
+}
+
+WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
+    const Target target = FindTarget(path);
+    if (!target.trouble.isEmpty()) {
+        return {false, target.trouble};
+    }
+    if (const QByteArray folder = FolderOf(target.name); folder != folder_) {
+        SyncFolder();
+        RemoveStrays(folder);
+        folder_ = folder;
+    }
+    WriteResult written = SavingFile(target, *steps_).Write(bytes);
+    unsynced_ += written ? 1 : 0;
+    if (!written || unsynced_ == mostUnsynced) {
+        SyncFolder();
+    }
+    if (!written) {
+        folder_.clear();  // it may have left a stray of its own
+    }
+    return written;
+}
+
+void FileSeries::SyncFolder() {
+    const Reason trouble = unsynced_ > 0 ? SyncTrouble(folder_, *steps_) : Reason();
+    unsynced_ = 0;
+    if (trouble_.isEmpty() && !trouble.isEmpty()) {
+        trouble_ = {ReasonCode::Of, QFile::decodeName(folder_), trouble};
+    }
+}
+
+WriteResult FileSeries::Finish() {
+    SyncFolder();
+    const Reason trouble = std::exchange(trouble_, Reason());
+    return {trouble.isEmpty(), trouble};
+}
+
+}  // namespace varnel
+
+#else
+
+#include <QSaveFile>
+
+namespace varnel {
+
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
+    QSaveFile file(path);
+    // Flushing is checked by itself: committing alone has let cut files pass on a full disk.
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush() || !file.commit()) {
+        return {false, {ReasonCode::Words, file.errorString()}};
+    }
+    return {true, {}};
+}
+
+WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
+    return WriteWholeFile(path, bytes);
+}
+
+WriteResult FileSeries::Finish() {
+    return {true, {}};
+}
+
+}  // namespace varnel
+
+#endif

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "files/file_operations.h"
+
+#ifdef Q_OS_UNIX
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+namespace varnel {
+
+int FileSteps::Create(const QByteArray& name, unsigned permissions) {
+    return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
+}
+
+int FileSteps::Lock(int file) {
+    return ::flock(file, LOCK_EX | LOCK_NB) == 0 ? ::fcntl(file, F_DUPFD_CLOEXEC, 0) : -1;
+}
+
+qint64 FileSteps::Write(int file, const char* bytes, qint64 length) {
+    return ::write(file, bytes, static_cast<std::size_t>(length));
+}
+
+int FileSteps::SetPermissions(int file, unsigned permissions) {
+    return ::fchmod(file, static_cast<mode_t>(permissions));
+}
+
+int FileSteps::Sync(int file) {
+    return ::fsync(file);
+}
+
+int FileSteps::Close(int file) {
+    return ::close(file);
+}
+
+int FileSteps::Rename(const QByteArray& name, const QByteArray& newName) {
+    return std::rename(name.constData(), newName.constData());
+}
+
+int FileSteps::SyncFolder(const QByteArray& folder) {
+    const int opened = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened == -1) {
+        return -1;
+    }
+    const int result = ::fsync(opened);
+    const int error = errno;
+    ::close(opened);
+    errno = error;
+    return result;
+}
+
+int FileSteps::Remove(const QByteArray& name) {
+    return ::unlink(name.constData());
+}
+
+}  // namespace varnel
+
+#endif

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gear/catalogue/gear_catalogue.h"
+
+#include <cmath>
+
+#include "base/rounding.h"
+#include "gear/catalogue/camera_catalogue.h"
+#include "gear/catalogue/lens_catalogue.h"
+#include "remap/projection/geometry.h"
+
+namespace varnel {
+
+namespace {
+
+void WriteNames(const GearNames& names, GearRecord& gear) {
+    gear.CameraBrand = names.cameraBrand;
+    gear.CameraModel = names.cameraModel;
+    gear.LensBrand = names.lensBrand;
+    gear.LensModel = names.lensModel;
+}
+
+void FillCamera(GearRecord& gear) {
+    const std::optional<CameraRow> camera = FindCamera(gear.CameraBrand, gear.CameraModel);
+    if (!camera) {
+        return;
+    }
+    gear.SensorWidth = camera->sensorWidth;
+    gear.SensorHeight = camera->sensorHeight;
+    gear.CameraData1 = 0.0F;
+    gear.CameraData2 = 0.0F;
+    if (camera->brand == "Drones" && camera->model == "Parrot Bebop") {
+        // The only camera with a fixed lens whose offsets were once stored otherwise: version 1
+        // makes offsets that were saved without a version give way.
+        gear.OfsetX = 0.0F;
+        gear.OfsetY = 0.0F;
+        gear.LensDataVersion = 1;
+    }
+}
+
+void FillLens(GearRecord& gear) {
+    const std::optional<LensRow> lens = FindLens(gear.LensBrand, gear.LensModel);
+    if (!lens) {
+        return;
+    }
+    gear.ImageCircleRadius = lens->imageCircleRadius;
+    gear.LensShift = lens->shift;
+    gear.LensData3 = 0.0F;
+    gear.LensFieldAngle = lens->fieldAngle;
+    gear.LensMapScale = lens->mapScale;
+    gear.LensMapFactor = lens->mapFactor;
+}
+
+// Twice the angle, in degrees, of the ray that lands at half the extent of the picture along one
+// side of the sensor: at the circle's edge when the whole circle fits, else at the sensor's edge.
+double AngleOfView(LensKind kind, const GearRecord& gear, float sensorSide) {
+    const double radius = static_cast<double>(gear.ImageCircleRadius);
+    const double side = static_cast<double>(sensorSide);
+    const double halfExtent = 2.0 * radius < side ? radius : side / 2.0;
+    const double relative = halfExtent / static_cast<double>(gear.LensMapScale);
+    const double factor = static_cast<double>(gear.LensMapFactor);
+    const double pi = static_cast<double>(Pi);
+    return kind == LensKind::Sin ? 360.0 * ArcSin(relative) / (factor * pi)
+                                 : factor * 360.0 * std::atan(relative) / pi;
+}
+
+void ComputeAngles(GearRecord& gear) {
+    if (gear.ImageCircleRadius != 0.0F) {
+        gear.GearRatio = static_cast<float>(50.0 * static_cast<double>(gear.SensorWidth) /
+                                            static_cast<double>(gear.ImageCircleRadius));
+    }
+    if (gear.LensMapScale != 0.0F && gear.LensMapFactor != 0.0F) {
+        const LensKind kind =
+            CatalogueMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString());
+        gear.hAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorWidth));
+        gear.vAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorHeight));
+    }
+}
+
+GearRecord CatalogueGear(const GearNames& names) {
+    GearRecord gear;
+    FillGearFromCatalogue(names, gear);
+    return gear;
+}
+
+bool Differ(float one, float other) {
+    constexpr float storedDigits = 1e-5F;  // seven digits are written
+    return std::fabs(one - other) > storedDigits * std::fabs(other);
+}
+
+}  // namespace
+
+GearNames NamesOf(const GearRecord& gear) {
+    return {gear.CameraBrand, gear.CameraModel, gear.LensBrand, gear.LensModel};
+}
+
+GearRecord GearNamed(const GearNames& names) {
+    GearRecord gear;
+    WriteNames(names, gear);
+    return gear;
+}
+
+void FillGearFromCatalogue(const GearNames& names, GearRecord& gear, const EditorSliders& sliders) {
+    WriteNames(names, gear);
+    gear.LensDataVersion = 0;
+    FillCamera(gear);
+    FillLens(gear);
+    ComputeAngles(gear);
+    if (gear.UserAdjusted) {
+        gear.GearRatio = sliders.ratio;
+        gear.OfsetX = sliders.xOfset;
+        gear.OfsetY = sliders.yOfset;
+    }
+}
+
+bool HasOwnCircle(const GearRecord& gear) {
+    const GearRecord catalogue = CatalogueGear(NamesOf(gear));
+    return Differ(gear.GearRatio, catalogue.GearRatio) || Differ(gear.OfsetX, catalogue.OfsetX) ||
+           Differ(gear.OfsetY, catalogue.OfsetY);
+}
+
+bool HasOwnAngle(const GearRecord& gear) {
+    return Differ(gear.hAOV, CatalogueGear(NamesOf(gear)).hAOV);
+}
+
+QString BuiltGearName(const GearNames& names) {
+    return names.cameraBrand + u' ' + names.cameraModel + QStringLiteral(" + ") + names.lensBrand +
+           u' ' + names.lensModel;
+}
+
+QString UniqueGearName(const GearTable& table, QString name) {
+    for (int n = 1; n <= table.UpperBound(); ++n) {
+        if (table(n).GearName == name) {
+            name += u" 2";
+        }
+    }
+    return name;
+}
+
+}  // namespace varnel

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the gear list does to the table. The editor's result is in element 0; n is the number of a
+// gear that the table has.
+#pragma once
+
+#include <vector>
+
+#include "state/records/gear_record.h"
+
+namespace varnel {
+
+// The first gear that has the default's name.
+bool IsDefaultGear(const GearTable& table, int n);
+
+// Appends the editor's gear and returns its number.
+int AddEditedGear(GearTable& table);
+
+// Puts the editor's gear in place of gear n. The default gear stays the default under a new name.
+void ReplaceWithEditedGear(GearTable& table, int n);
+
+// One gear has to stay.
+bool MayDeleteGear(const GearTable& table);
+
+// Removes gear n; the default passes to the gear that comes first then.
+void DeleteGear(GearTable& table, int n);
+
+// Which gear of the table is which of the gears that were there when the list was opened.
+class GearOrigins {
+  public:
+    explicit GearOrigins(const GearTable& table);
+    void NoteAdded() { origins_.push_back(0); }
+    void NoteDeleted(int n) { origins_.erase(origins_.begin() + n); }
+    const GearTable& Before() const { return before_; }
+    // The gears that are other ones now, under the same name or another. Of several that had one
+    // name only the first, which that name means.
+    std::vector<GearChange> Redefined(const GearTable& now) const;
+
+  private:
+    GearTable before_;
+    std::vector<int> origins_;  // of gear n: its number before, 0 for a new one
+};
+
+}  // namespace varnel

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gear/store/gear_store.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <limits>
+
+#include "gear/catalogue/gear_catalogue.h"
+#include "state/settings/number_text.h"
+#include "state/settings/setting_names.h"
+
+namespace varnel {
+
+namespace {
+
+// What a stored number may be and still give a picture; the editor's sliders span less. Anything
+// else comes from damage or from a slip of the hand, and the catalogue's number stays: the remap
+// divides by the ratio and by the angle.
+struct UsableRange {
+    float least;
+    float most;
+    bool Holds(float number) const { return number >= least && number <= most; }
+};
+constexpr UsableRange usableOfset{-1000.0F, 1000.0F};  // thousandths: one picture's width or height
+constexpr UsableRange usableRatio{1.0F, 1000.0F};      // percent of the image circle's diameter
+constexpr UsableRange usableAov{1.0F, 360.0F};         // degrees
+
+int ReadGearCount(const SettingsStore& store) {
+    const int count = ReadWhole(store, setting::Gear, setting::NumGear, 1);
+    return count < 0 ? 1 : std::min(count, setting::mostGears);
+}
+
+// The gear's version as stored; 0, which every release wrote first, for anything else.
+std::int16_t ReadVersion(const SettingsStore& store, int n) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const int version =
+        ReadWhole(store, setting::Gear, setting::ItemKey(setting::GearLensDataVersion, n), 0);
+    return static_cast<std::int16_t>(std::clamp<int>(version, Limits::min(), Limits::max()));
+}
+
+void ReadNames(const SettingsStore& store, int n, GearRecord& gear) {
+    const auto read = [&](QLatin1StringView name, QString& text) {
+        text = store.Get(setting::Gear, setting::ItemKey(name, n), text);
+    };
+    read(setting::GearName, gear.GearName);
+    read(setting::GearCameraBrand, gear.CameraBrand);
+    read(setting::GearCameraModel, gear.CameraModel);
+    read(setting::GearLensBrand, gear.LensBrand);
+    read(setting::GearLensModel, gear.LensModel);
+}
+
+void ReadAdjustments(const SettingsStore& store, int n, GearRecord& gear) {
+    const auto read = [&](QLatin1StringView name, const UsableRange& range, float& number) {
+        const float stored = ReadFloat(store, setting::Gear, setting::ItemKey(name, n), number);
+        number = range.Holds(stored) ? stored : number;
+    };
+    read(setting::GearOfsetX, usableOfset, gear.OfsetX);
+    read(setting::GearOfsetY, usableOfset, gear.OfsetY);
+    read(setting::GearRatio, usableRatio, gear.GearRatio);
+    gear.LensFieldAngle = 180.0F;
+    read(setting::HorizontalAov, usableAov, gear.hAOV);
+    // Meant so: the vertical angle is written but never read back, the horizontal one serves twice.
+    read(setting::HorizontalAov, usableAov, gear.vAOV);
+}
+
+// Settings of older releases do not tell; then other numbers than the catalogue's are the user's.
+bool ReadSetByHand(const SettingsStore& store, int n, const GearRecord& gear) {
+    const QString told = store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
+    return told == u"1" || (told != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
+}
+
+void ReadGear(const SettingsStore& store, int n, GearRecord& gear) {
+    ReadNames(store, n, gear);
+    FillGearFromCatalogue(NamesOf(gear), gear);
+    // Adjustments that were made to older catalogue data are dropped.
+    if (ReadVersion(store, n) >= gear.LensDataVersion) {
+        ReadAdjustments(store, n, gear);
+        gear.SetByHand = ReadSetByHand(store, n, gear);
+    }
+    // Of every gear that was stored, also of one that the user never touched.
+    gear.UserAdjusted = true;
+}
+
+GearNames ReadOldNames(const SettingsStore& store) {
+    const auto read = [&](const QString& key) {
+        return store.Get(setting::General, key, QString());
+    };
+    GearNames names;
+    names.cameraBrand = read(setting::OldCameraBrand);
+    names.cameraModel = read(setting::OldCameraModel);
+    names.lensBrand = read(setting::OldLensBrand);
+    names.lensModel = read(setting::OldLensModel);
+    return names;
+}
+
+bool IsEmpty(const GearNames& names) {
+    return names.cameraBrand.isEmpty() && names.cameraModel.isEmpty() &&
+           names.lensBrand.isEmpty() && names.lensModel.isEmpty();
+}
+
+GearLoad AskForFirstGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
+    while (table(0).GearName.isEmpty()) {
+        prompt.Explain(NoGearText());
+        table(0) = GearRecord();
+        if (!prompt.DefineGear(table)) {
+            table.Resize(0);
+            return GearLoad::QuitWanted;
+        }
+    }
+    table(1) = table(0);
+    table.DefaultGearName = table(1).GearName;
+    SaveGear(store, table);
+    return GearLoad::Loaded;
+}
+
+void TakeOverOldGear(const GearNames& names, SettingsStore& store, GearTable& table) {
+    table(1).GearName = BuiltGearName(names);
+    table.DefaultGearName = table(1).GearName;
+    FillGearFromCatalogue(names, table(1));
+    SaveGear(store, table);
+}
+
+}  // namespace
+
+QString NoGearText() {
+    return QCoreApplication::translate("GearStore",
+                                       "Please define at least one camera + lens combination ...");
+}
+
+GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
+    table = GearTable();
+    table.DefaultGearName = store.Get(setting::Gear, setting::DefaultGearName, QString());
+    if (table.DefaultGearName.isEmpty()) {
+        const GearNames oldNames = ReadOldNames(store);
+        table.Resize(1);
+        if (IsEmpty(oldNames)) {
+            return AskForFirstGear(store, table, prompt);
+        }
+        TakeOverOldGear(oldNames, store, table);
+        return GearLoad::Loaded;
+    }
+    table.Resize(ReadGearCount(store));
+    for (int n = 1; n <= table.UpperBound(); ++n) {
+        ReadGear(store, n, table(n));
+    }
+    return GearLoad::Loaded;
+}
+
+void SaveGear(SettingsStore& store, GearTable& table) {
+    if (table.UpperBound() == 1) {
+        table.DefaultGearName = table(1).GearName;
+    }
+    store.Save(setting::Gear, setting::NumGear, QString::number(table.UpperBound()));
+    store.Save(setting::Gear, setting::DefaultGearName, table.DefaultGearName);
+    for (int n = 1; n <= table.UpperBound(); ++n) {
+        const GearRecord& gear = table(n);
+        const auto save = [&](QLatin1StringView name, const QString& text) {
+            store.Save(setting::Gear, setting::ItemKey(name, n), text);
+        };
+        save(setting::GearName, gear.GearName);
+        save(setting::GearCameraBrand, gear.CameraBrand);
+        save(setting::GearCameraModel, gear.CameraModel);
+        save(setting::GearLensBrand, gear.LensBrand);
+        save(setting::GearLensModel, gear.LensModel);
+        save(setting::GearLensDataVersion, QString::number(gear.LensDataVersion));
+        save(setting::GearOfsetX, FloatText(gear.OfsetX));
+        save(setting::GearOfsetY, FloatText(gear.OfsetY));
+        save(setting::GearRatio, FloatText(gear.GearRatio));
+        save(setting::HorizontalAov, FloatText(gear.hAOV));
+        save(setting::VerticalAov, FloatText(gear.vAOV));
+        save(setting::GearSetByHand, QString::number(gear.SetByHand ? 1 : 0));
+    }
+}
+
+}  // namespace varnel

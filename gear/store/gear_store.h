@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The gear table in the settings store.
+#pragma once
+
+#include <QString>
+
+#include "state/records/gear_record.h"
+#include "state/settings/settings_store.h"
+
+namespace varnel {
+
+// What is said while there is no gear at all.
+QString NoGearText();
+
+// What loading asks of the user while there is no gear at all.
+class GearPrompt {
+  public:
+    virtual ~GearPrompt() = default;
+    // Shows the text until it is confirmed.
+    virtual void Explain(const QString& text) = 0;
+    // Lets the user define element 0 of the table; its name stays empty when none was defined.
+    // False when the user wants to quit the program instead.
+    virtual bool DefineGear(GearTable& table) = 0;
+};
+
+enum class GearLoad { Loaded, QuitWanted };
+
+// Fills the table from the store. Settings of an older release, which knew one gear only, are taken
+// over and saved in the present form; without any gear the user is asked for one until there is
+// one. After QuitWanted the table holds no gear and nothing was saved.
+GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt);
+
+// Writes the table; a single gear becomes the default one. Keys of gears that are gone stay in the
+// store, beyond the stored number.
+void SaveGear(SettingsStore& store, GearTable& table);
+
+}  // namespace varnel

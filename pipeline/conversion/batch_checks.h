@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What can be told of a batch before it runs.
+#pragma once
+
+#include <QString>
+
+#include "pipeline/conversion/batch_run.h"
+
+namespace varnel {
+
+// Why nothing can be written into the folder; empty when files can be made there.
+QString FolderTrouble(const QString& folder);
+
+// How many names more than one entry would be written under.
+int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
+
+// How many files of those names are in the folder already.
+int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
+
+// The two numbers in words; empty when both are 0.
+QString NamesText(int colliding, int existing);
+
+// The space that the run may need, as for photos full of fine detail.
+qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
+
+// The free space where the folder is; -1 when the system does not tell.
+qint64 FreeBytes(const QString& folder);
+
+// A warning when there is less free than expected; an unknown amount warns nobody.
+QString SpaceWarning(qint64 expectedBytes, qint64 freeBytes);
+
+}  // namespace varnel

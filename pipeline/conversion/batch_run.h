@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The batch: every queued photo converted at full size, each with its own settings, and written
+// into one folder. However long the queue is, only the photos at work are in memory.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "base/record_array.h"
+#include "pipeline/conversion/batch_summary.h"
+#include "pipeline/conversion/output_name.h"
+#include "pipeline/conversion/prefetching_reader.h"
+#include "remap/encode/save_bitmap.h"
+#include "remap/render/render.h"
+
+namespace varnel {
+
+// Where the files go, what they are called and how they are written.
+struct BatchChoices {
+    QString folder;  // empty until one was chosen
+    NameAdditions additions;
+    OutputType type = OutputType::Tiff;
+    int jpegQuality = 100;
+    bool chroma444 = false;     // JPEG has colour at full resolution
+    bool writeMetadata = true;  // the photo's go into its file
+    bool writeSettings = true;  // those that made the picture go into its file
+};
+
+// The full path under which an entry is written. Throws RunTimeError when a number of the record
+// cannot stand in a name.
+QString BatchPath(const ImageRecord& entry, const BatchChoices& choices);
+
+// Hears how a run goes; all calls come on the caller's thread.
+class BatchObserver {
+  public:
+    virtual ~BatchObserver() = default;
+    // The next photo is loaded and will be written under this path: shows it and handles pending
+    // events once.
+    virtual void Naming(const QString& path) = 0;
+    // How far the photo at hand is.
+    virtual RenderProgress& Progress() = 0;
+    // After each photo, also one that failed: handles pending events once and shows the numbers.
+    virtual void Done(int done, int queued) = 0;
+    // Asked after Done; true ends the run.
+    virtual bool StopAsked() = 0;
+};
+
+// How photos come in and go out.
+struct BatchPorts {
+    std::function<LoadedPicture(const QString& path)> load;
+    std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
+                             int flags)>
+        save{};  // none: SaveBitmap
+    // Told of the photos that are loaded next, as far ahead as it wishes; where it is there, one
+    // photo is read and another one written (save is called on another thread then) while a third
+    // is converted. Nobody can tell from what the observer hears or from the files.
+    std::function<void(const QString& path)> readAhead{};
+    int aheadAtMost = 1;  // photos
+    // Those that converting and writing share with reading; null: as many as the machine has.
+    ThreadRunner* cores = nullptr;
+};
+
+// Photos from the feed, as far ahead as it has readers.
+BatchPorts BatchPortsFor(PhotoFeed& feed);
+
+// Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
+// changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
+// the queue is never replaced, and no older file by a conversion of a damaged photo.
+BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                      BatchObserver& observer, const BatchPorts& ports);
+
+}  // namespace varnel

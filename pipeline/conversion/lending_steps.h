@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Writing files for a run that shares its cores out.
+#pragma once
+
+#include "base/thread_runner.h"
+#include "files/atomic_file.h"
+#include "files/unfinished_file.h"
+
+namespace varnel {
+
+// A series, written by threads that have a core, whose core is lent while the disk is waited for.
+// The file that is being written is noted.
+FileSeries LendingSeries(ThreadRunner& cores, UnfinishedFile& unfinished);
+
+}  // namespace varnel

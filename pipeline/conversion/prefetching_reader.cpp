@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/conversion/prefetching_reader.h"
+
+#include <algorithm>
+
+#include "decoder/request/picture_limits.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int betweenQuestions = 15;  // ms; events are handled that often
+constexpr int mostReaders = 4;        // each may hold a whole picture
+
+}  // namespace
+
+PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright,
+                     ThreadRunner* cores)
+    : cores_(reader.IsApart() && cores != nullptr && cores->Cores() > 1 ? cores : nullptr),
+      thread_(cores_ == nullptr ? nullptr : std::make_unique<ReadingThread>(&reader, *cores_)),
+      first_(thread_ ? *thread_ : reader),
+      wait_(wait),
+      upright_(upright) {
+    for (int n = 0; n < more && reader.IsApart(); ++n) {
+        more_.push_back(cores_ == nullptr ? NewPictureReader()
+                                          : std::make_unique<ReadingThread>(nullptr, *cores_));
+    }
+}
+
+PhotoFeed::~PhotoFeed() {
+    GiveUp();
+}
+
+void PhotoFeed::GiveUp() {
+    for (const UnderWay& photo : underWay_) {
+        photo.reader->Cancel();
+    }
+    underWay_.clear();
+}
+
+PictureReader* PhotoFeed::FreeReader() const {
+    const auto isFree = [this](const PictureReader* reader) {
+        return std::ranges::none_of(underWay_,
+                                    [&](const UnderWay& photo) { return photo.reader == reader; });
+    };
+    if (isFree(&first_)) {
+        return &first_;
+    }
+    for (const auto& reader : more_) {
+        if (isFree(reader.get())) {
+            return reader.get();
+        }
+    }
+    return nullptr;
+}
+
+void PhotoFeed::ReadAhead(const QString& path) {
+    if (PictureReader* const reader = FreeReader()) {
+        underWay_.push_back({path, reader});
+        reader->Begin({path, ReadKind::Whole, {}, upright_});
+    }
+}
+
+LoadedPicture PhotoFeed::Take(const QString& path) {
+    if (underWay_.empty() || underWay_.front().path != path) {
+        GiveUp();
+        ReadAhead(path);
+    }
+    const UnderWay photo = underWay_.front();
+    LoadedPicture picture = WaitFor(photo);
+    underWay_.pop_front();
+    return picture;
+}
+
+std::optional<CoreLent> PhotoFeed::Lent() {
+    return cores_ == nullptr ? std::nullopt : std::optional<CoreLent>(std::in_place, *cores_);
+}
+
+LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
+    wait_.Begin(photo.path);
+    bool goesOn = true;
+    {
+        const std::optional<CoreLent> lent = Lent();
+        while (goesOn && !photo.reader->Wait(betweenQuestions)) {
+            goesOn = wait_.Continue();
+        }
+    }
+    wait_.End();
+    if (!goesOn) {
+        photo.reader->Cancel();
+        return LoadedPicture::Refused(ReasonCode::Cancelled);
+    }
+    return photo.reader->Take();
+}
+
+bool HasRoomAhead(qsizetype photos, PixelSize last) {
+    constexpr std::int64_t atWork = 4;  // source, two results, one of them encoded
+    const std::int64_t bytes = std::int64_t{last.width} * last.height * 3;
+    return static_cast<std::uint64_t>((photos + atWork) * bytes) <= MachineMemory() / 4 * 3;
+}
+
+int MoreReaders(int cores) {
+    return std::clamp(cores / 2, 1, mostReaders) - 1;
+}
+
+}  // namespace varnel

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/conversion/save_meanwhile.h"
+
+#include <QCoreApplication>
+
+#include "pipeline/conversion/save_worker.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int betweenEvents = 10;  // ms
+
+}  // namespace
+
+void CancellableProgress::Advance(float value) {
+    told_.Advance(value);
+    EndIfCancelled();
+}
+
+void CancellableProgress::Pause() {
+    told_.Pause();
+    EndIfCancelled();
+}
+
+void CancellableProgress::EndIfCancelled() const {
+    if (cancelled_) {
+        throw SavingCancelled();
+    }
+}
+
+SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner& runner,
+                         RenderProgress& progress, const CancelFlag& cancelled) {
+    SaveWorker worker;
+    worker.Begin([&] {
+        return SaveBitmap(file.format, bitmap,
+                          StoppableFile{file.name, [&cancelled] { return cancelled.load(); }},
+                          file.flags, runner);
+    });
+    progress.Begin(0.0F);
+    do {
+        progress.HandleEvents();
+    } while (!worker.Wait(betweenEvents));
+    progress.End();
+    return worker.Take();
+}
+
+QString CancelledText() {
+    return QCoreApplication::translate("SaveMeanwhile", "Cancelled, nothing was saved");
+}
+
+}  // namespace varnel

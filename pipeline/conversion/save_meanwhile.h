@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Saving a picture while the window that saves it goes on painting and can cancel it.
+#pragma once
+
+#include <atomic>
+
+#include "remap/encode/save_bitmap.h"
+#include "remap/render/render.h"
+
+namespace varnel {
+
+using CancelFlag = std::atomic<bool>;
+
+// Thrown through a conversion once it is cancelled.
+struct SavingCancelled {};
+
+// Tells another progress, until the flag is raised: then the conversion ends by SavingCancelled.
+class CancellableProgress : public RenderProgress {
+  public:
+    CancellableProgress(RenderProgress& told, const CancelFlag& cancelled)
+        : told_(told), cancelled_(cancelled) {}
+    void HandleEvents() override { told_.HandleEvents(); }
+    void Begin(float maximum) override { told_.Begin(maximum); }
+    void Advance(float value) override;
+    void Pause() override;
+    void End() override { told_.End(); }
+
+  private:
+    void EndIfCancelled() const;
+
+    RenderProgress& told_;
+    const CancelFlag& cancelled_;
+};
+
+struct PictureFile {
+    FREE_IMAGE_FORMAT format = FIF_UNKNOWN;
+    QString name;
+    int flags = 0;  // the library's for the format
+};
+
+// Encodes and writes on another thread; nobody else may use the bitmap or the runner meanwhile.
+// Until it is done the progress, begun with a maximum of 0 because nobody knows how far it is,
+// handles events. Cancelled before the file has its name, no file is written.
+SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner& runner,
+                         RenderProgress& progress, const CancelFlag& cancelled);
+// What is told of a picture that was cancelled.
+QString CancelledText();
+
+}  // namespace varnel

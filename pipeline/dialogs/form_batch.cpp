@@ -1,0 +1,294 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/dialogs/form_batch.h"
+
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QRegularExpressionValidator>
+#include <QScopeGuard>
+#include <QThread>
+#include <array>
+
+#include "base/run_time_error.h"
+#include "base/shortage.h"
+#include "pipeline/conversion/batch_checks.h"
+#include "pipeline/dialogs/batch_progress.h"
+#include "pipeline/dialogs/queue_model.h"
+#include "pipeline/dialogs/slider_binding.h"
+#include "state/settings/default_choices.h"
+#include "ui_form_batch.h"
+
+namespace varnel {
+
+namespace {
+
+// In the order of the projections.
+std::array<QLineEdit*, allProjections.size()> AdditionsOf(const Ui::FormBatch& ui) {
+    return {ui.TextFileadditionVarnel, ui.TextFileadditionRectilinear,
+            ui.TextFileadditionEquidistance, ui.TextFileadditionHorizon};
+}
+
+// Its room stays, so that nothing moves when it appears.
+void KeepRoomOf(QWidget* widget) {
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+}
+
+void ShowText(QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
+}
+
+// Stop stays at hand while a photo is read; the photo itself is finished first.
+class EventsMeanwhile : public ReadingWait {
+  public:
+    bool Continue() override {
+        QCoreApplication::processEvents();
+        return true;
+    }
+};
+
+QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    try {
+        return queue.Empty() ? QString() : QFileInfo(BatchPath(queue(1), choices)).fileName();
+    } catch (const RunTimeError&) {
+        return {};  // the run will tell
+    }
+}
+
+}  // namespace
+
+FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
+                     const GeneralSettings& settings, PictureReader& reader, Notices& notices,
+                     std::function<void(int)> queueChanged, QWidget* parent,
+                     const FolderChooser::Volumes& volumes)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::FormBatch>()),
+      queue_(queue),
+      choices_(choices),
+      settings_(settings),
+      reader_(reader),
+      notices_(notices),
+      queueChanged_(std::move(queueChanged)),
+      lines_(std::make_unique<QueueModel>(queue)) {
+    ui_->setupUi(this);
+    KeepRoomOf(ui_->CmdStop);
+    KeepRoomOf(ui_->CmdCancel);
+    ui_->ListQueue->setModel(lines_.get());
+    place_ = std::make_unique<FolderChooser>(*ui_->Drive2, *ui_->Dir2, notices, volumes);
+    progress_ = std::make_unique<BatchProgress>(
+        BatchProgressWidgets{ui_->ListQueue, ui_->LabelImage, ui_->ProgressImage,
+                             ui_->LabelProgress, ui_->ProgressRun, ui_->LabelTimeLeft});
+    FillChoices();
+    ConnectControls();
+    place_->Show(StartFolder());
+    ShowRunning(false);
+    ShowQueue();
+    ui_->CmdBatchProcess->setFocus();
+}
+
+FormBatch::~FormBatch() = default;
+
+void FormBatch::FillChoices() {
+    const bool first = choices_.folder.isEmpty();
+    for (const OutputType type : allOutputTypes) {
+        ui_->ComboFileType->addItem(ToText(type));
+    }
+    ui_->ComboFileType->setCurrentText(
+        ToText(first ? OutputTypeFromText(settings_.FileType) : choices_.type));
+    ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
+    ui_->SliderJPEGcompression->setValue(first ? settings_.JPEGcompression : choices_.jpegQuality);
+    Bind(*ui_->SliderJPEGcompression, *ui_->SpinSliderJPEGcompression);
+    const auto boxes = AdditionsOf(*ui_);
+    // A folder in an addition would send the file elsewhere; the rest has no place in the names of
+    // memory cards.
+    auto* const plain = new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral(R"([^/\\:*?"<>|]*)")), this);
+    for (std::size_t n = 0; n < boxes.size(); ++n) {
+        boxes[n]->setPlaceholderText(ToText(allProjections[n]));
+        boxes[n]->setText(choices_.additions.texts[n]);
+        boxes[n]->setValidator(plain);
+    }
+}
+
+void FormBatch::ConnectControls() {
+    for (const auto show : {&FormBatch::ShowNames, &FormBatch::ShowSpace}) {
+        connect(place_.get(), &FolderChooser::FolderChanged, this, show);
+        connect(ui_->ComboFileType, &QComboBox::currentIndexChanged, this, show);
+    }
+    connect(ui_->SliderJPEGcompression, &QSlider::valueChanged, this, &FormBatch::ShowSpace);
+    for (QLineEdit* const box : AdditionsOf(*ui_)) {
+        connect(box, &QLineEdit::textChanged, this, &FormBatch::ShowNames);
+    }
+    ui_->Drive2->installEventFilter(this);
+    ui_->ComboFileType->installEventFilter(this);
+    connect(ui_->CmdNewFolder, &QPushButton::clicked, this, &FormBatch::MakeFolder);
+    connect(ui_->CmdBatchProcess, &QPushButton::clicked, this, &FormBatch::Process);
+    connect(ui_->CmdStop, &QPushButton::clicked, this, &FormBatch::Stop);
+    connect(ui_->CmdClearBatchQue, &QPushButton::clicked, this, &FormBatch::ClearQueue);
+    connect(ui_->CmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(ui_->CmdCopy, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(ui_->TextSummary->toPlainText()); });
+}
+
+// The last one used; at first where the photos are.
+QString FormBatch::StartFolder() const {
+    QStringList wishes{choices_.folder};
+    if (!queue_.Empty()) {
+        wishes.append(queue_(1).Folder + u'/');
+    }
+    for (const QString& wish : wishes) {
+        if (!wish.isEmpty() && QFileInfo(wish).isDir()) {
+            return wish;
+        }
+    }
+    return QDir::homePath();
+}
+
+BatchChoices FormBatch::Choices() const {
+    BatchChoices choices{place_->Folder(),
+                         {},
+                         OutputTypeFromText(ui_->ComboFileType->currentText()),
+                         ui_->SliderJPEGcompression->value(),
+                         settings_.JPEGchroma444,
+                         settings_.WriteMetadata,
+                         settings_.WriteSettings};
+    const auto boxes = AdditionsOf(*ui_);
+    for (std::size_t n = 0; n < boxes.size(); ++n) {
+        choices.additions.texts[n] = boxes[n]->text();
+    }
+    return choices;
+}
+
+void FormBatch::ShowQueue() {
+    const int queued = queue_.UpperBound();
+    lines_->Reset();
+    ui_->HeadingListQueue->setText(queued == 1 ? tr("1 queued image")
+                                               : tr("%1 queued images").arg(queued));
+    ui_->CmdBatchProcess->setEnabled(queued > 0);
+    ui_->CmdClearBatchQue->setEnabled(queued > 0);
+    ui_->LabelProgress->setText(BatchProgressText(0, queued));
+    ShowNames();
+    ShowSpace();
+}
+
+// What the run will do to the folder.
+void FormBatch::ShowNames() {
+    const BatchChoices choices = Choices();
+    ui_->LabelFolder->setText(QDir::toNativeSeparators(choices.folder));
+    ui_->LabelFolder->setToolTip(ui_->LabelFolder->text());
+    ui_->LabelExample->setText(ExampleName(queue_, choices));
+    ShowText(ui_->LabelNames,
+             NamesText(CollidingNames(queue_, choices), ExistingNames(queue_, choices)));
+}
+
+void FormBatch::ShowSpace() {
+    const BatchChoices choices = Choices();
+    const bool jpeg = choices.type == OutputType::Jpeg;
+    ui_->SliderJPEGcompression->setEnabled(jpeg);
+    ui_->SpinSliderJPEGcompression->setEnabled(jpeg);
+    ui_->HeadingSliderJPEGcompression->setEnabled(jpeg);
+    ShowText(ui_->LabelSpace,
+             SpaceWarning(ExpectedBytes(queue_, choices), FreeBytes(choices.folder)));
+}
+
+void FormBatch::ShowRunning(bool running) {
+    ui_->CmdCancel->setVisible(!running);
+    ui_->CmdClearBatchQue->setVisible(!running);
+    ui_->CmdBatchProcess->setVisible(!running);
+    ui_->CmdStop->setVisible(running);
+    ui_->CmdStop->setText(tr("Stop"));
+    ui_->StackPages->setEnabled(!running);
+    setCursor(running ? Qt::BusyCursor : Qt::ArrowCursor);
+    if (running) {
+        ui_->CmdStop->setFocus();
+    }
+}
+
+void FormBatch::ShowSummary(const BatchSummary& summary) {
+    ui_->TextSummary->setPlainText(SummaryText(summary));
+    ui_->StackPages->setCurrentWidget(ui_->PageSummary);
+    ui_->LabelProgress->setText(BatchProgressText(summary.done, summary.queued));
+    ui_->LabelTimeLeft->clear();
+    ui_->CmdCancel->setText(tr("Close"));
+    ui_->CmdCancel->setDefault(true);
+    ui_->CmdCancel->setFocus();
+}
+
+void FormBatch::Process() {
+    choices_ = Choices();
+    if (const QString trouble = FolderTrouble(choices_.folder); !trouble.isEmpty()) {
+        notices_.Tell(trouble, tr("Choose another folder."));
+        return;
+    }
+    BatchSummary summary;
+    const QString shortage = Shortage([&] { summary = Run(); });
+    if (!shortage.isEmpty()) {
+        notices_.Tell(shortage, QString());
+        return;
+    }
+    for (qsizetype n = 0; n < summary.written.size(); ++n) {
+        Q_EMIT Written(queue_(summary.entries[n]), summary.written[n]);
+    }
+    ClearQueue();
+    ShowSummary(summary);
+}
+
+BatchSummary FormBatch::Run() {
+    progress_->Start(queue_.UpperBound());
+    ShowRunning(true);
+    const auto atEnd = qScopeGuard([this] {
+        ShowRunning(false);
+        progress_->Stop();
+    });
+    EventsMeanwhile wait;
+    ThreadRunner cores(QThread::idealThreadCount());
+    PhotoFeed feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
+    return RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
+}
+
+void FormBatch::Stop() {
+    ui_->CmdStop->setText(tr("Wait this image"));
+    progress_->Stop();
+}
+
+void FormBatch::ClearQueue() {
+    queue_.Clear();
+    ShowQueue();
+    queueChanged_(0);
+}
+
+void FormBatch::MakeFolder() {
+    if (!place_->MakeFolder(QStringLiteral("Varnel"))) {
+        notices_.Tell(
+            tr("No folder can be made in %1").arg(QDir::toNativeSeparators(place_->Folder())),
+            QString());
+    }
+}
+
+void FormBatch::reject() {
+    if (ui_->CmdStop->isVisibleTo(this)) {
+        Stop();
+    } else {
+        QDialog::reject();
+    }
+}
+
+void FormBatch::done(int result) {
+    choices_ = Choices();
+    QDialog::done(result);
+}
+
+bool FormBatch::eventFilter(QObject* watched, QEvent* event) {
+    // The wheel only moves what was chosen before, not what happens to lie under the pointer.
+    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+}  // namespace varnel

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The batch dialog: where and how the queued photos are to be written, and the run itself.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "pipeline/conversion/batch_run.h"
+#include "pipeline/dialogs/folder_chooser.h"
+#include "pipeline/photos/mounted_volumes.h"
+#include "state/settings/general_settings.h"
+
+namespace Ui {
+class FormBatch;
+}
+
+namespace varnel {
+
+class BatchProgress;
+class QueueModel;
+
+class FormBatch : public QDialog {
+    Q_OBJECT
+
+  public:
+    // The choices are taken over when the dialog closes and when a run starts; as long as no folder
+    // was chosen, file type and quality come from the settings, and what has no control here always
+    // does. queueChanged hears the queue's new length.
+    FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
+              const GeneralSettings& settings, PictureReader& reader, Notices& notices,
+              std::function<void(int)> queueChanged, QWidget* parent = nullptr,
+              const FolderChooser::Volumes& volumes = MountedVolumes);
+    ~FormBatch() override;
+
+    // Escape and the window's close button; during a run they count as Stop.
+    void reject() override;
+    void done(int result) override;
+
+  Q_SIGNALS:
+    // After a run, for each entry of the queue that was written, with its file.
+    void Written(const ImageRecord& entry, const QString& path);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void FillChoices();
+    void ConnectControls();
+    QString StartFolder() const;
+    BatchChoices Choices() const;
+
+    void ShowQueue();
+    void ShowNames();
+    void ShowSpace();
+    void ShowRunning(bool running);
+    void ShowSummary(const BatchSummary& summary);
+
+    void Process();
+    BatchSummary Run();
+    void Stop();
+    void ClearQueue();
+    void MakeFolder();
+
+    std::unique_ptr<Ui::FormBatch> ui_;
+    RecordArray<ImageRecord>& queue_;
+    BatchChoices& choices_;
+    const GeneralSettings& settings_;
+    PictureReader& reader_;
+    Notices& notices_;
+    std::function<void(int)> queueChanged_;
+    std::unique_ptr<QueueModel> lines_;
+    std::unique_ptr<FolderChooser> place_;
+    std::unique_ptr<BatchProgress> progress_;
+};
+
+}  // namespace varnel

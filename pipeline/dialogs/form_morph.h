@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The morph dialog: a numbered sequence between two settings of one photo goes into the batch
+// queue, its first and last picture and one between in view.
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <QSlider>
+#include <QTimer>
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "base/notices.h"
+#include "base/thread_runner.h"
+#include "pipeline/conversion/morph_sequence.h"
+#include "remap/image/bitmap.h"
+#include "state/editing/slider_table.h"
+
+namespace Ui {
+class FormMorph;
+}
+
+namespace varnel {
+
+class FormMorph : public QDialog {
+    Q_OBJECT
+
+  public:
+    // previewSource is the photo at preview size and is copied; null for none. queueChanged hears
+    // the queue's upper bound each time that images were added.
+    FormMorph(const ImageRecord& image, FIBITMAP* previewSource, RecordArray<ImageRecord>& queue,
+              Notices& notices, std::function<void(int)> queueChanged, QWidget* parent = nullptr);
+    ~FormMorph() override;
+
+  private:
+    enum Picture { First, Between, Last };
+
+    struct GridPlace {
+        int row, column;
+    };
+
+    void BuildPairs();
+    void AddPair(const SliderRowData& facts, float MorphValues::*value, int gridRow);
+    // Slider, spin box and label from that place on, for the value that the first or last picture
+    // shows.
+    QSlider* AddEnd(const SliderRowData& facts, GridPlace place, Picture picture, float& value);
+    void MarkUnused();
+    void SetUpPictures(FIBITMAP* previewSource);
+    void ConnectControls();
+
+    // The number of images when it makes a sequence, else 0.
+    int FrameCount() const;
+    void ShowFrameCount();
+    void ShowBetweenTitle();
+    void DrawLater(Picture picture);
+    void DrawPending();
+    void Draw(QLabel& label, int i, int N);
+    void AddFrames();
+
+    Projection ItsProjection() const { return ProjectionFromIndex(image_.Projection); }
+
+    std::unique_ptr<Ui::FormMorph> ui_;
+    const ImageRecord image_;
+    MorphEnds ends_;
+    RecordArray<ImageRecord>& queue_;
+    Notices& notices_;
+    std::function<void(int)> queueChanged_;
+    Bitmaps bitmaps_;
+    ThreadRunner runner_;
+    QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
+    std::array<bool, 3> pending_{};
+    QString noPreview_ = tr("No preview");  // or why there is none
+};
+
+}  // namespace varnel

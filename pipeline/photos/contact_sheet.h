@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// One photo in every projection and three strengths, to choose from by eye.
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "remap/render/render.h"
+#include "state/editing/control_values.h"
+
+namespace varnel {
+
+inline constexpr int strengthsPerProjection = 3;
+
+struct ContactTile {
+    ControlValues values;    // what the window's controls would show
+    ImageRecord record;      // what adopting the tile makes of the photo's record
+    QString title;           // "Rectilinear 75 %"
+    bool isCurrent = false;  // the photo's own settings
+};
+
+// Projection by projection in their own order, gentle first. Varnel, Rectilinear and Horizon by
+// half, three quarters and all of their effect, Equidistance by the input angle of view: 15 % less,
+// as it is, 15 % more, within the slider's range. Everything else is the record's.
+std::vector<ContactTile> ContactTiles(const ImageRecord& image);
+
+// Gives the tile's settings to a record, which is applied then.
+void Adopt(const ContactTile& tile, ImageRecord& image);
+
+// The tile as the preview of its settings would show the source at this size. Throws as Render.
+BitmapHandle TilePicture(const ContactTile& tile, FIBITMAP* source, bool smooth);
+
+}  // namespace varnel

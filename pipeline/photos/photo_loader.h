@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Photos for the window, the batch and the command line: reading one and waiting for it.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "decoder/process/picture_reader.h"
+#include "remap/image/photo_metadata.h"
+#include "state/records/image_record.h"
+#include "state/settings/general_settings.h"
+
+namespace varnel {
+
+// What happens meanwhile.
+class ReadingWait {
+  public:
+    virtual ~ReadingWait() = default;
+    // The path is empty for several photos together.
+    virtual void Begin(const QString& /*path*/) {}
+    // Called every few milliseconds; false gives the photo up.
+    virtual bool Continue() { return true; }
+    virtual void End() {}
+};
+
+// What a photo's file says.
+struct PhotoFacts {
+    PhotoMetadata metadata;
+    Reason trouble;  // why nothing can be told; empty when all is well
+};
+
+// Of the full picture as it is shown.
+struct PhotoSize {
+    PixelSize pixels{};
+    int orientation = 1;  // of the picture as it is stored, which was undone
+};
+
+class PhotoLoader {
+  public:
+    // Photos are turned upright as the settings say at that moment; without settings, always.
+    explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr,
+                         const GeneralSettings* settings = nullptr)
+        : reader_(reader), wait_(wait), settings_(settings) {}
+
+    // Several photos are waited for as for one while this lives.
+    class Together {
+      public:
+        explicit Together(PhotoLoader& loader) : loader_(loader) { loader_.BeginWait({}); }
+        ~Together() { loader_.EndWait(); }
+        Together(const Together&) = delete;
+        Together& operator=(const Together&) = delete;
+        // Between two quick ones: lets the wait have its turn. False when it was given up.
+        bool Continue() { return loader_.Continue(); }
+
+      private:
+        PhotoLoader& loader_;
+    };
+    // Whether the last wait was given up.
+    bool GivenUp() const { return givenUp_; }
+
+    // The full picture. Not loaded while another one is read: events are handled meanwhile.
+    LoadedPicture Load(const QString& path);
+    // Its size, without decoding it where the format allows; nothing when it cannot be read.
+    std::optional<PhotoSize> Size(const QString& path);
+    // Why there is no picture in the file, as far as its beginning tells; empty when there is one.
+    Reason Trouble(const QString& path);
+    // What the file says beside its pixels.
+    PhotoFacts Facts(const QString& path);
+
+  private:
+    LoadedPicture Read(ReadRequest request);
+    bool Continue();
+    void BeginWait(const QString& path);
+    void EndWait();
+
+    PictureReader& reader_;
+    ReadingWait* wait_;
+    const GeneralSettings* settings_;
+    int waits_ = 0;
+    bool reading_ = false;
+    bool givenUp_ = false;
+};
+
+// Sets Width, Height, Landscape and Orientation of the record. When it was loaded with another
+// orientation before, the circle's centre moves with the picture.
+void TakeSize(const PhotoSize& size, ImageRecord& image);
+
+}  // namespace varnel

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Circles through points and near them. Points as in circle_finder.h.
+#pragma once
+
+#include <cmath>
+#include <numbers>
+#include <optional>
+#include <vector>
+
+#include "remap/analysis/rough_circle.h"
+
+namespace varnel {
+
+// A place on the rim, to a fraction of a pixel.
+struct RimPoint {
+    double angle = 0.0;
+    double x = 0.0;
+    double y = 0.0;
+};
+
+inline double Residual(const RimPoint& point, const ImageCircle& circle) {
+    return Length(point.x - circle.x, point.y - circle.y) - circle.radius;
+}
+
+// Of so many equal sides around, the one that lies in that direction.
+inline std::size_t SideOf(double across, double down, std::size_t sides) {
+    const double turn = (std::atan2(down, across) / std::numbers::pi + 1.0) / 2.0;
+    return static_cast<std::size_t>(turn * static_cast<double>(sides)) % sides;
+}
+
+// Nothing when they are all but in line.
+template <class Point>
+std::optional<ImageCircle> Through(const Point& a, const Point& b, const Point& c) {
+    const double bx = b.x - a.x;
+    const double by = b.y - a.y;
+    const double cx = c.x - a.x;
+    const double cy = c.y - a.y;
+    const double area = 2.0 * (bx * cy - by * cx);
+    if (std::fabs(area) < 1.0) {
+        return std::nullopt;
+    }
+    const double bb = bx * bx + by * by;
+    const double cc = cx * cx + cy * cy;
+    const double x = (cy * bb - by * cc) / area;
+    const double y = (bx * cc - cx * bb) / area;
+    return ImageCircle{a.x + x, a.y + y, Length(x, y)};
+}
+
+// One weighted Gauss-Newton step toward the circle of least distances; far points do not count.
+ImageCircle Fitted(const std::vector<RimPoint>& rim, const ImageCircle& circle);
+
+}  // namespace varnel

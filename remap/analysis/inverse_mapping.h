@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Where on the photo each pixel of the converted picture comes from, as the conversions read it at
+// full size. Positions are in pixels: pixel (x, y) has its centre at exactly (x, y), rows count
+// from the bottom row.
+#pragma once
+
+#include <optional>
+#include <variant>
+#include <vector>
+
+#include "remap/projection/horizon_map.h"
+#include "remap/projection/record_maps.h"
+#include "remap/projection/varnel_map.h"
+
+namespace varnel {
+
+struct SourcePlace {
+    double x = 0.0;
+    double y = 0.0;
+};
+
+struct PhotoCircle {
+    SourcePlace centre;
+    double radius = 0.0;
+
+    bool Holds(const SourcePlace& place) const;
+};
+
+// The image circle by the record's offsets and ratio; nothing when the ratio is 0 or below.
+std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize size);
+
+class ResultPlaces {
+  public:
+    // The record's own Projection is not looked at. Throws as the conversion does.
+    ResultPlaces(Projection projection, const ImageRecord& image, PixelSize size);
+
+    // Nothing where the result is black or not written and where the position is off the photo.
+    std::optional<SourcePlace> At(int column, int row) const;
+    // The position that is read, also one off the photo, where a read gives black.
+    std::optional<SourcePlace> ReadAt(int column, int row) const;
+    // True for pixels that no loop writes: they keep what the photo has there.
+    bool Untouched(int column, int row) const;
+    // Nearer to one of the photo's pixels than to what lies outside.
+    bool InPicture(const SourcePlace& place) const;
+    // Without a circle nothing is outside it.
+    bool InCircle(const SourcePlace& place) const { return !circle_ || circle_->Holds(place); }
+    const std::optional<PhotoCircle>& Circle() const { return circle_; }
+
+    // The columns and rows that show the photo, ascending. A translation by half pixels leaves
+    // every other one out.
+    const std::vector<int>& Columns() const { return columns_; }
+    const std::vector<int>& Rows() const { return rows_; }
+    PixelSize Size() const { return size_; }
+    // Whether the photo's middle is a whole row of the result, around which the rest is unrolled.
+    bool IsUnrolled() const { return std::holds_alternative<HorizonMap>(map_); }
+
+  private:
+    enum class Line { Untouched, Black, Shown };
+    struct Loop {
+        Line line = Line::Untouched;
+        int position = 0;  // what the map is asked for
+    };
+
+    void LayOutQuarters();
+    void LayOutMoved();
+    void LayOutCircle(const CircleRows& circle);
+    void LayOutHorizon();
+    SourceOffset OffsetAt(int x, int y) const;
+
+    PixelSize size_;
+    SourcePlace centre_;
+    std::optional<PhotoCircle> circle_;
+    CentreAndExtents extents_;  // of the projections that do not go by circles
+    std::variant<std::monostate, RectilinearMap, RotatedRectilinearMap, EquidistanceMap, VarnelMap,
+                 HorizonMap>
+        map_;
+    std::vector<Loop> columnLoops_, rowLoops_;
+    std::vector<int> columns_, rows_;
+};
+
+}  // namespace varnel

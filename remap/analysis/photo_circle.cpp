@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/analysis/photo_circle.h"
+
+#include <algorithm>
+
+#include "remap/image/preview_size.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr std::int32_t searchedSide = 1000;
+
+// The brightest channel: a rim may be of one colour, and the dark around it is dark in all.
+GreyPicture GreyOf(FIBITMAP* bitmap) {
+    GreyPicture grey{SizeOf(bitmap), {}};
+    for (int y = grey.size.height - 1; y >= 0; --y) {
+        const auto row = ScanLine(bitmap, y);
+        for (std::size_t x = 0; x < static_cast<std::size_t>(grey.size.width); ++x) {
+            grey.values.push_back(std::max({row[3 * x], row[3 * x + 1], row[3 * x + 2]}));
+        }
+    }
+    return grey;
+}
+
+}  // namespace
+
+std::optional<FoundCircle> FindPhotoCircle(FIBITMAP* photo) {
+    constexpr PixelSize box{searchedSide, searchedSide};
+    const PixelSize full = SizeOf(photo);
+    const BitmapHandle reduced = ReducedCopy(photo, PreviewSize(full, box, box));
+    const PixelSize size = SizeOf(reduced.get());
+    const std::optional<FoundCircle> found = FindImageCircle(GreyOf(reduced.get()));
+    if (!found) {
+        return std::nullopt;
+    }
+    const double across = static_cast<double>(full.width) / size.width;
+    const double down = static_cast<double>(full.height) / size.height;
+    return FoundCircle{{found->x * across, found->y * down,
+                        found->radius * (full.width >= full.height ? across : down)},
+                       found->rough};
+}
+
+}  // namespace varnel

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Bitmaps on the screen.
+#pragma once
+
+#include <QImage>
+
+#include "remap/image/bitmap.h"
+
+class QPainter;
+
+namespace varnel {
+
+// A 24-bit bitmap as an image that owns its pixels, the first row on top; empty for no bitmap.
+QImage ImageOf(FIBITMAP* bitmap);
+
+// Draws the whole bitmap with its upper left corner at (x, y), one bitmap pixel to one unit of the
+// painter. Returns the number of rows drawn.
+int PaintBitmapToDC(FIBITMAP* bitmap, QPainter& painter, int x, int y);
+
+}  // namespace varnel

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/encode_bitmap.h"
+
+#include <new>
+#include <optional>
+#include <utility>
+
+#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/png_coder.h"
+#include "remap/encode/tiff_coder.h"
+
+namespace varnel {
+
+namespace {
+
+// Nothing where there is none for such a file, or where it leaves the file to the library.
+std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                                         BlockRunner& runner, const WrittenMetadata& metadata) {
+    switch (format) {
+        case FIF_JPEG:
+            return EncodeJpeg(bitmap, flags, runner, metadata);
+        case FIF_TIFF:
+            return flags == TIFF_LZW ? EncodeTiffLzw(bitmap, runner, metadata) : std::nullopt;
+        case FIF_PNG:
+            return flags == PNG_DEFAULT ? EncodePng(bitmap, runner, metadata) : std::nullopt;
+        default:
+            return std::nullopt;
+    }
+}
+
+bool IsPhoto(FIBITMAP* bitmap) {
+    return FreeImage_GetBPP(bitmap) == 24 && FreeImage_HasPixels(bitmap) == TRUE;
+}
+
+// The same pixels, where they lie. Nothing when there is no memory.
+BitmapHandle WithoutMetadata(FIBITMAP* bitmap) {
+    return BitmapOver(reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), SizeOf(bitmap));
+}
+
+// The library's TIFF files take XMP along, but not what lies at places of its own.
+void PassToTiff(FIBITMAP* bitmap, WrittenMetadata& metadata) {
+    if (!metadata.xmp.isEmpty()) {
+        FreeImage_SetMetadataKeyValue(FIMD_XMP, bitmap, "XMLPacket", metadata.xmp.constData());
+    }
+    const std::pair<const QByteArray&, QString> others[] = {
+        {metadata.exif, QStringLiteral("EXIF")}, {metadata.iptc, QStringLiteral("IPTC")}};
+    for (const auto& [bytes, name] : others) {
+        if (!bytes.isEmpty()) {
+            metadata.notes += Reason(ReasonCode::NotInSuchTiff, name);
+        }
+    }
+}
+
+// The library's file with our metadata in place of its own.
+EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT format, FIBITMAP* bitmap,
+                              int flags, qint64 largest) {
+    const BitmapHandle less = WithoutMetadata(bitmap);
+    if (!less) {
+        return {{}, ReasonCode::NotEnoughMemory};
+    }
+    CopyAllButPixels(less.get(), bitmap);
+    RGBQUAD background{};
+    if (FreeImage_GetBackgroundColor(bitmap, &background) == TRUE) {
+        FreeImage_SetBackgroundColor(less.get(), &background);
+    }
+    RemoveReplaced(less.get(), metadata);
+    if (format == FIF_TIFF) {
+        PassToTiff(less.get(), metadata);
+    }
+    EncodedBitmap file = LibraryFile(format, less.get(), flags, largest - metadata.parts.size());
+    if (file.reason.isEmpty() && !InsertParts(format, metadata, file.bytes)) {
+        return {{}, ReasonCode::NoPlaceForMetadata};
+    }
+    return file;
+}
+
+EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                     const EncodeOptions& options) {
+    SerialRunner serial;
+    try {
+        WrittenMetadata metadata;
+        if (IsPhoto(bitmap)) {
+            metadata = MetadataFor(format, bitmap);
+        }
+        std::optional<QByteArray> bytes = FileByOurCoder(
+            format, bitmap, flags, options.runner != nullptr ? *options.runner : serial, metadata);
+        EncodedBitmap file;
+        if (bytes && bytes->size() <= options.largest) {
+            file.bytes = std::move(*bytes);
+        } else {
+            bytes.reset();
+            file = metadata.IsEmpty()
+                       ? LibraryFile(format, bitmap, flags, options.largest)
+                       : LibraryFileWith(metadata, format, bitmap, flags, options.largest);
+        }
+        if (file.reason.isEmpty()) {
+            file.note = Joined(metadata.notes);
+        }
+        return file;
+    } catch (const std::bad_alloc&) {
+        return {{}, ReasonCode::NotEnoughMemory};
+    }
+}
+
+}  // namespace
+
+EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                           const EncodeOptions& options) {
+    if (bitmap == nullptr) {
+        return {{}, ReasonCode::NoPicture};
+    }
+    EncodedBitmap whole = FileOf(format, bitmap, flags, options);
+    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory) ||
+        !IsPhoto(bitmap)) {
+        return whole;
+    }
+    const struct {
+        bool metadata;
+        ReasonCode note;
+    } attempts[] = {{true, ReasonCode::WithoutProfile}, {false, ReasonCode::WithoutMetadata}};
+    for (const auto& attempt : attempts) {
+        const BitmapHandle less = WithoutMetadata(bitmap);
+        if (less && attempt.metadata) {
+            CopyAllButPixels(less.get(), bitmap);
+            FreeImage_DestroyICCProfile(less.get());
+        }
+        EncodedBitmap encoded = FileOf(format, less.get(), flags, options);
+        if (encoded.reason.isEmpty()) {
+            encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
+            return encoded;
+        }
+    }
+    return whole;
+}
+
+}  // namespace varnel

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Turning a bitmap into the bytes of a file, in memory.
+#pragma once
+
+#include "base/block_runner.h"
+#include "remap/encode/freeimage_encoder.h"
+
+namespace varnel {
+
+struct EncodeOptions {
+    BlockRunner* runner = nullptr;  // none: on the caller's thread alone
+    qint64 largest = largestFile;   // bytes
+};
+
+// flags are the library's for the format (the quality for JPEG). Metadata or a colour profile that
+// the format's encoder refuses do not cost the picture: it is encoded without.
+EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                           const EncodeOptions& options = {});
+
+}  // namespace varnel

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/save_bitmap.h"
+
+#include <cerrno>
+#include <new>
+
+#include "files/file_operations.h"
+#include "remap/encode/encode_bitmap.h"
+
+namespace varnel {
+
+namespace {
+
+template <class Write>
+SaveResult Written(const EncodedBitmap& encoded, const Write& write) {
+    if (!encoded.reason.isEmpty()) {
+        return {false, encoded.reason};
+    }
+    try {
+        const WriteResult written = write(encoded.bytes);
+        return {written.ok, written.reason, written ? encoded.note : Reason()};
+    } catch (const std::bad_alloc&) {
+        return {false, ReasonCode::NotEnoughMemory};
+    }
+}
+
+struct Stopped {};
+
+class StoppableRunner : public BlockRunner {
+  public:
+    StoppableRunner(BlockRunner& runner, const std::function<bool()>& stopped)
+        : runner_(runner), stopped_(stopped) {}
+    void Run(int blocks, const std::function<void(int)>& block) override {
+        runner_.Run(blocks, [&](int n) {
+            if (stopped_()) {
+                throw Stopped();
+            }
+            block(n);
+        });
+    }
+
+  private:
+    BlockRunner& runner_;
+    const std::function<bool()>& stopped_;
+};
+
+#ifdef Q_OS_UNIX
+
+// The steps before the file has its name fail once it is given up.
+class StoppableSteps : public FileSteps {
+  public:
+    explicit StoppableSteps(const std::function<bool()>& stopped) : stopped_(stopped) {}
+    int Create(const QByteArray& name, unsigned permissions) override {
+        return GivenUp() ? -1 : FileSteps::Create(name, permissions);
+    }
+    qint64 Write(int file, const char* bytes, qint64 length) override {
+        return GivenUp() ? -1 : FileSteps::Write(file, bytes, length);
+    }
+    int Sync(int file) override { return GivenUp() ? -1 : FileSteps::Sync(file); }
+    int Rename(const QByteArray& name, const QByteArray& newName) override {
+        return GivenUp() ? -1 : FileSteps::Rename(name, newName);
+    }
+
+  private:
+    bool GivenUp() const {
+        const bool stopped = stopped_();
+        errno = stopped ? ECANCELED : errno;
+        return stopped;
+    }
+    const std::function<bool()>& stopped_;
+};
+
+WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) {
+    StoppableSteps steps(file.stopped);
+    return WriteWholeFile(file.name, bytes, steps);
+}
+
+#else
+
+WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) {
+    return file.stopped() ? WriteResult{} : WriteWholeFile(file.name, bytes);
+}
+
+#endif
+
+}  // namespace
+
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
+                      int flags, BlockRunner* runner) {
+    return Written(EncodeBitmap(format, bitmap, flags, {.runner = runner}),
+                   [&](QByteArrayView bytes) { return WriteWholeFile(fileName, bytes); });
+}
+
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
+                      int flags, BlockRunner* runner) {
+    return Written(EncodeBitmap(format, bitmap, flags, {.runner = runner}),
+                   [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
+}
+
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
+                      int flags, BlockRunner& runner) {
+    StoppableRunner stoppable(runner, file.stopped);
+    try {
+        return Written(EncodeBitmap(format, bitmap, flags, {.runner = &stoppable}),
+                       [&](QByteArrayView bytes) { return WriteUnlessStopped(file, bytes); });
+    } catch (const Stopped&) {
+        return {};
+    }
+}
+
+}  // namespace varnel

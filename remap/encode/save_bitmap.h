@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Writing a bitmap to a file.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "base/block_runner.h"
+#include "files/atomic_file.h"
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+// True when the whole file is in place; otherwise the reason, and an older file of that name is as
+// it was.
+struct SaveResult {
+    bool ok = false;
+    Reason reason;
+    Reason note = {};  // what of the picture is not in the file, and why; empty when all is
+    explicit operator bool() const { return ok; }
+};
+
+// Encodes in memory and replaces the file in one step, because the library itself reports success
+// for cut files on a full disk. flags are the library's for the format (the quality for JPEG). The
+// runner shares the encoding out to the cores where the format allows.
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
+                      int flags, BlockRunner* runner = nullptr);
+
+// One file of several: true when it is in place, which the series' end makes last.
+struct FileInSeries {
+    QString name;
+    FileSeries& series;
+};
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
+                      int flags, BlockRunner* runner = nullptr);
+
+// A file that may still be given up: asked on any thread and often until the file gets its name.
+// Once stopped says true no file is written and an older one stays as it was.
+struct StoppableFile {
+    QString name;
+    std::function<bool()> stopped;
+};
+SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
+                      int flags, BlockRunner& runner);
+
+}  // namespace varnel

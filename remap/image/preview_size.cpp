@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/image/preview_size.h"
+
+#include <algorithm>
+#include <new>
+
+#include "base/rounding.h"
+
+namespace varnel {
+
+namespace {
+
+std::int32_t Scaled(std::int32_t side, std::int32_t numerator, std::int32_t denominator) {
+    return CLng(static_cast<double>(side) * numerator / denominator, ReasonCode::PreviewSide);
+}
+
+}  // namespace
+
+PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room) {
+    std::int32_t w = std::min({picture.width, box.width, std::max(room.width, 100)});
+    std::int32_t h = Scaled(w, picture.height, picture.width);
+    for (const std::int32_t limit : {box.height, std::max(room.height, 100)}) {
+        if (h > limit) {
+            h = limit;
+            w = Scaled(h, picture.width, picture.height);
+        }
+    }
+    return {std::max(w, 1), std::max(h, 1)};
+}
+
+BitmapHandle ReducedCopy(FIBITMAP* picture, PixelSize size) {
+    BitmapHandle reduced(FreeImage_Rescale(picture, size.width, size.height, FILTER_BOX));
+    if (!reduced) {
+        throw std::bad_alloc();
+    }
+    return reduced;
+}
+
+}  // namespace varnel

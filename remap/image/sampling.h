@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Reading a source picture at fractional positions. x counts columns, y rows from the bottom, both
+// in pixels; a position off the bitmap, beyond 32 bits or no number reads black.
+#pragma once
+
+#include "remap/image/pixel_access.h"
+
+namespace varnel {
+
+// The pixel nearest to the position, ties to even.
+RGBQUAD SampleNearest(FIBITMAP* bitmap, double x, double y);
+
+// Between two neighbours of one row; y is rounded to a whole row.
+RGBQUAD SampleLinearX(FIBITMAP* bitmap, double x, double y);
+
+// Between four neighbours. A neighbour off the bitmap counts as black with its full weight, so that
+// the picture darkens toward its edges. The blend is rounded down; the fourth byte of a blend is 0,
+// a position that is whole in both directions gives its pixel unchanged.
+RGBQUAD SampleBilinear(FIBITMAP* bitmap, double x, double y);
+
+}  // namespace varnel

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Which radius of the Horizon projection an output row shows in the end: its loops write some rows
+// several times.
+#pragma once
+
+#include <limits>
+#include <vector>
+
+#include "base/line_range.h"
+#include "remap/projection/horizon_map.h"
+
+namespace varnel {
+
+// What an output row holds in the end, found out by writing whole rows in the order of the loops:
+// first black on both sides of the centre row, then the radii upward, each of which writes one row,
+// or beyond the circle black on both sides again.
+class RowOwners {
+  public:
+    RowOwners(const HorizonMap& map, std::int32_t height)
+        : owners_(static_cast<std::size_t>(height), nobody) {
+        const CircleRows& rows = map.Rows();
+        const LineRange shown = OnPicture(rows.centreY, height, rows.lastRow);
+        for (int r = std::max(shown.first, 1); r <= shown.last; ++r) {
+            Blacken(rows.centreY, r);
+        }
+        for (int r = map.FirstRadius(); r <= rows.lastRow; ++r) {
+            if (map.Blank(r)) {
+                Blacken(rows.centreY, r);
+            } else {
+                Take(map.OutputRow(r), r);
+            }
+        }
+    }
+    bool Has(std::int32_t row, int r) const { return Exists(row) && At(row) == r; }
+    bool Black(std::int32_t row) const { return At(row) == black_; }
+    bool Nobody(std::int32_t row) const { return At(row) == nobody; }
+    // The radius of a row that is neither black nor nobody's.
+    int Radius(std::int32_t row) const { return At(row); }
+
+  private:
+    static constexpr int nobody = std::numeric_limits<int>::min();
+    static constexpr int black_ = nobody + 1;
+
+    bool Exists(std::int32_t row) const {
+        return row >= 0 && row < static_cast<std::int32_t>(owners_.size());
+    }
+    int At(std::int32_t row) const { return owners_[static_cast<std::size_t>(row)]; }
+    void Take(std::int32_t row, int owner) {
+        if (Exists(row)) {
+            owners_[static_cast<std::size_t>(row)] = owner;
+        }
+    }
+    void Blacken(std::int32_t centre, int r) {
+        Take(centre + r, black_);
+        Take(centre - r, black_);
+    }
+    std::vector<int> owners_;
+};
+
+}  // namespace varnel

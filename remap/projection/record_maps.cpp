@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/projection/record_maps.h"
+
+namespace varnel {
+
+namespace {
+
+LensKind KindOf(const ImageRecord& image) {
+    return LensMappingKind(image.LensBrand.toStdString(), image.LensModel.toStdString());
+}
+
+SensorSize SensorOf(const ImageRecord& image) {
+    return {image.SensorWidth, image.SensorHeight};
+}
+
+LensCurve CurveOf(const ImageRecord& image) {
+    return {image.LensMapScale, image.LensMapFactor};
+}
+
+}  // namespace
+
+RectilinearView RectilinearViewOf(const ImageRecord& image, PixelSize source) {
+    return {source,         image.Landscape, SensorOf(image),        KindOf(image),
+            CurveOf(image), image.OutputAOV, image.EffectRectilinear};
+}
+
+CameraMove CameraMoveOf(const ImageRecord& image) {
+    return {image.RotateX, image.RotateY, image.RotateZ, image.TranslateX, image.TranslateY};
+}
+
+EquidistanceView EquidistanceViewOf(const ImageRecord& image, PixelSize source) {
+    return {source,         image.Landscape,         SensorOf(image), KindOf(image),
+            CurveOf(image), image.ImageCircleRadius, image.Ratio,     image.InputAOV};
+}
+
+CircleView CircleViewOf(const ImageRecord& image, PixelSize source) {
+    return {source, image.Landscape, image.OfsetX, image.OfsetY, image.Ratio, image.EffectVarnel};
+}
+
+}  // namespace varnel

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/projection/rectilinear_map.h"
+
+#include <cmath>
+
+#include "base/rounding.h"
+
+namespace varnel {
+
+namespace {
+
+float Shift(float percent, std::int32_t side, ValueName name) {
+    return ToSingle(-(static_cast<double>(percent) * side / 100.0), name);
+}
+
+}  // namespace
+
+RectilinearRadius::RectilinearRadius(const RectilinearView& view)
+    : kind_(view.kind),
+      curve_(view.curve),
+      scale_(PixelsPerUnit(view.source.width, view.landscape, view.sensor)),
+      halfWidth_(view.source.width / 2),
+      tanHalfAngle_(0.0),
+      tanStep_(0.0) {
+    NonZero(static_cast<double>(curve_.factor), "LensMapFactor");
+    scale_ *= EffectRatio(view.outputAov, view.effect, curve_.factor);
+    const float angle = EffectiveAngle(Radians(view.outputAov), view.effect);
+    tanHalfAngle_ = std::tan(static_cast<double>(angle) / 2.0);
+    tanStep_ = Round8(tanHalfAngle_ / NonZero(halfWidth_, ReasonCode::HalfPictureWidth));
+}
+
+double RectilinearRadius::AtAngle(double theta) const {
+    return LensRadius(kind_, theta, curve_) * scale_;
+}
+
+double RectilinearRadius::At(double r) const {
+    return AtAngle(std::fabs(std::atan(r * tanStep_)));
+}
+
+SourceOffset RectilinearMap::At(int x, int y) const {
+    const double across = x;
+    const double up = y;
+    const double r = std::sqrt(across * across + up * up);
+    if (r == 0.0) {
+        return {};
+    }
+    const double rho = radius_.At(r);
+    return {across * rho / r, up * rho / r};
+}
+
+RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move)
+    : radius_(view),
+      rotation_(RotationAngles(move.rotateX, move.rotateY, move.rotateZ, view.effect)),
+      focal_(radius_.HalfWidth() /
+             std::fabs(NonZero(radius_.TanHalfAngle(), ReasonCode::TangentOfHalfAngle))),
+      shiftX_(Shift(move.translateX, view.source.width, "TranslateX")),
+      shiftY_(Shift(move.translateY, view.source.height, "TranslateY")) {}
+
+SourceOffset RotatedRectilinearMap::At(int x, int y) const {
+    const Ray ray = TurnedRay(x, y);
+    if (ray.z == 0.0) {
+        return NowhereOnSource();
+    }
+    // A ray that points backwards keeps its direction on the plane.
+    const double sign = ray.z > 0.0 ? 1.0 : -1.0;
+    const double planeX = focal_ * (sign * ray.x) / ray.z;
+    const double planeY = focal_ * (sign * ray.y) / ray.z;
+    const double r = std::sqrt(planeX * planeX + planeY * planeY);
+    return r == 0.0 ? SourceOffset{} : PolarOffset(planeX, planeY, radius_.At(r));
+}
+
+}  // namespace varnel

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Runs of output pixels through a radial map: along a row for full-size pictures, along a column
+// for previews, which are told of each column.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "remap/image/interpolation.h"
+#include "remap/projection/pixel_map.h"
+#include "remap/render/engine/span_kernels.h"
+
+namespace varnel {
+
+// The nodes of a run of count pixels that starts at the map position (x, y).
+struct NodeLine {
+    int x = 0, y = 0;
+    int count = 0;
+    int step = largestNodeStep;
+    std::vector<double> u, v;
+};
+
+// The smaller the picture the stronger its lines bend from pixel to pixel.
+inline int NodeStepFor(PixelSize picture) {
+    const int longest = std::max(picture.width, picture.height);
+    return longest < 2000 ? 16 : longest < 4000 ? 32 : largestNodeStep;
+}
+
+// Fills in the nodes; the vectors are reused.
+template <class Nodes>
+void WorkOutNodes(const Nodes& nodes, NodeLine& line) {
+    const int segments = (line.count + line.step - 1) / line.step;
+    const auto size = static_cast<std::size_t>(segments + 1 + 2 * nodesAround);
+    line.u.resize(size);
+    line.v.resize(size);
+    for (std::size_t n = 0; n < size; ++n) {
+        const double along = (static_cast<double>(n) - nodesAround) * line.step;
+        const SourceOffset offset = nodes.At(line.x + along, line.y);
+        line.u[n] = offset.u;
+        line.v[n] = offset.v;
+    }
+}
+
+// A run's exact colours: by the map itself and the literal blends.
+template <PixelMap Map>
+struct ExactLine {
+    const Map& map;
+    const NodeLine& line;
+
+    static RGBQUAD Colour(const void* context, const NodeSpan& span, const SpanImage& image,
+                          int n) {
+        const auto& self = *static_cast<const ExactLine*>(context);
+        const auto [u, v] = self.map.At(self.line.x + n, self.line.y);
+        const double column = image.signX * u;
+        const double row = span.centreY + image.signY * v;
+        return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
+                            : BlendBilinear(span.source, span.centreX + column, row);
+    }
+};
+
+// The picture that runs are written into.
+struct TargetView {
+    std::uint8_t* bits = nullptr;
+    std::ptrdiff_t pitch = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    static TargetView Of(FIBITMAP* bitmap) {
+        const PixelSize size = SizeOf(bitmap);
+        return {FreeImage_GetBits(bitmap), static_cast<std::ptrdiff_t>(FreeImage_GetPitch(bitmap)),
+                size.width, size.height};
+    }
+    std::uint8_t* At(std::int32_t x, std::int32_t y) const {
+        return bits + y * pitch + 3 * static_cast<std::ptrdiff_t>(x);
+    }
+};
+
+// The part of a run of count pixels from x on, one further each time in direction step (1 or -1),
+// that lies within 0 and size - 1: pixels begin to end - 1.
+struct Clip {
+    int begin = 0;
+    int end = 0;
+    static Clip Of(std::int32_t x, int step, int count, std::int32_t size) {
+        const int begin = step > 0 ? -x : x - (size - 1);
+        const int end = step > 0 ? size - x : x + 1;
+        return {std::max(begin, 0), std::min(end, count)};
+    }
+};
+
+}  // namespace varnel

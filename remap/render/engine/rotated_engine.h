@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The general straight-line view: every pixel for itself. With a translation that ends on half a
+// pixel two loop positions can meet on one output pixel and others stay unwritten; of two the later
+// one stays.
+#pragma once
+
+#include <limits>
+#include <optional>
+
+#include "base/line_range.h"
+#include "remap/render/engine/control_points.h"
+#include "remap/render/engine/smooth_maps.h"
+#include "remap/render/row_renderer.h"
+
+namespace varnel {
+
+// One axis of the loops: positions from shift - before to shift + after, which are written at the
+// centre less the shift.
+struct LoopAxis {
+    double shift = 0.0;  // pixels
+    std::int32_t centre = 0;
+    std::int32_t before = 0, after = 0;
+    const char* shiftName = "";  // for errors
+};
+
+// Where the positions of one axis go, and who is the last to write each place.
+class AxisOwners {
+  public:
+    // Places outside 0 to size - 1 are dropped. Throws OverflowError.
+    AxisOwners(const LoopAxis& axis, std::int32_t size);
+    // The whole loop, and what of it is worth a run.
+    LineRange All() const { return all_; }
+    int First() const { return run_.first; }
+    int Last() const { return run_.last; }
+    std::int32_t Place(int n) const { return places_[static_cast<std::size_t>(n - run_.first)]; }
+    // Position n is the one that stays at its place.
+    bool Stays(int n) const {
+        const std::int32_t place = Place(n);
+        return place >= 0 && place < static_cast<std::int32_t>(owners_.size()) &&
+               owners_[static_cast<std::size_t>(place)] == n;
+    }
+    // The position that stays at a place; nothing where none is written.
+    std::optional<int> OwnerOf(std::int32_t place) const {
+        const int owner = owners_[static_cast<std::size_t>(place)];
+        return owner == none ? std::nullopt : std::optional(owner);
+    }
+    // Neighbouring positions go to neighbouring places.
+    bool Contiguous() const { return contiguous_; }
+    bool Covers() const { return std::ranges::find(owners_, none) == owners_.end(); }
+
+  private:
+    static constexpr int none = std::numeric_limits<int>::min();
+    LineRange all_, run_;
+    std::vector<std::int32_t> places_;
+    std::vector<int> owners_;
+    bool contiguous_ = true;
+};
+
+class RotatedEngine : public RowDrawing {
+  public:
+    RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
+                  const CentreAndExtents& centre);
+    RotatedEngine(const RotatedEngine&) = delete;
+    RotatedEngine& operator=(const RotatedEngine&) = delete;
+
+    const AxisOwners& Columns() const { return columns_; }
+    // The source's pixels to where none is written.
+    void FillTheRest() const;
+    // Positions x to x + count - 1, all rows.
+    void Draw(int x, int count) const;
+    void DrawRow(std::int32_t row) override;
+
+  private:
+    NodeLine LineOf(int x, int count) const;
+    void DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const;
+    void ScatterLine(const NodeLine& line, const std::vector<std::uint8_t>& pixels,
+                     std::uint8_t* row) const;
+
+    const RenderSurface& surface_;
+    RotatedRectilinearMap map_;
+    RotatedRectilinearNodes nodes_;
+    CentreAndExtents centre_;
+    AxisOwners columns_;
+    AxisOwners rows_;
+    bool covers_;
+    SourceView source_;
+    TargetView target_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Vectors of pixels for span_kernels.cpp, which includes this once for each instruction set. Blends
+// are linear interpolations in single precision, which leave flat areas exactly flat; they differ
+// from the double-precision blends by one level in fewer than one of a thousand channels (tested).
+
+#if defined(VARNEL_VECTOR_PIXELS_INL) == defined(HWY_TARGET_TOGGLE)
+#ifdef VARNEL_VECTOR_PIXELS_INL
+#undef VARNEL_VECTOR_PIXELS_INL
+#else
+#define VARNEL_VECTOR_PIXELS_INL
+#endif
+
+#include <hwy/highway.h>
+
+#include <array>
+#include <cstring>
+#include <limits>
+
+#include "remap/render/engine/source_view.h"
+
+HWY_BEFORE_NAMESPACE();
+namespace varnel {
+namespace HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+constexpr int lanesAtMost = 8;
+using Floats = hn::CappedTag<float, lanesAtMost>;
+using Ints = hn::Rebind<std::int32_t, Floats>;
+using Words = hn::Rebind<std::uint32_t, Floats>;
+using VecF = hn::Vec<Floats>;
+using VecI = hn::Vec<Ints>;
+using VecW = hn::Vec<Words>;
+
+// Source pixels of one vector: whole coordinates of the lower left neighbour and what is left.
+struct Positions {
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> x;
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> y;
+    HWY_ALIGN std::array<float, lanesAtMost> partX;
+    HWY_ALIGN std::array<float, lanesAtMost> partY;
+};
+
+inline void Put(std::uint8_t* pixel, const RGBQUAD& colour) {
+    pixel[0] = colour.rgbBlue;
+    pixel[1] = colour.rgbGreen;
+    pixel[2] = colour.rgbRed;
+}
+
+// Two neighbouring pixels of a row as 8 bytes: blue, green, red, blue, green, red and two more.
+struct Pair {
+    VecW low, high;
+};
+
+inline Pair LoadPairs(const std::uint64_t* pairs) {
+    Pair pair;
+    hn::LoadInterleaved2(Words(), reinterpret_cast<const std::uint32_t*>(pairs), pair.low,
+                         pair.high);
+    return pair;
+}
+
+template <int kShift>
+inline VecF Byte(VecW word) {
+    const VecW byte = hn::And(hn::ShiftRight<kShift>(word), hn::Set(Words(), 255U));
+    return hn::ConvertTo(Floats(), hn::BitCast(Ints(), byte));
+}
+
+inline VecF Between(VecF a, VecF b, VecF part) {
+    return hn::MulAdd(hn::Sub(b, a), part, a);
+}
+
+struct Colours {
+    VecF blue, green, red;
+};
+
+inline Colours BetweenPair(const Pair& pair, VecF part) {
+    return {Between(Byte<0>(pair.low), Byte<24>(pair.low), part),
+            Between(Byte<8>(pair.low), Byte<0>(pair.high), part),
+            Between(Byte<16>(pair.low), Byte<8>(pair.high), part)};
+}
+
+#if HWY_TARGET != HWY_SCALAR
+// The bytes of four pixels of 32 bits without their fourth ones, in order and in reverse.
+HWY_ALIGN constexpr std::array<std::uint8_t, 16> packed{0,  1,  2,  4,  5,    6,    8,    9,
+                                                        10, 12, 13, 14, 0x80, 0x80, 0x80, 0x80};
+HWY_ALIGN constexpr std::array<std::uint8_t, 16> packedBackward{
+    12, 13, 14, 8, 9, 10, 4, 5, 6, 0, 1, 2, 0x80, 0x80, 0x80, 0x80};
+
+// A whole vector to neighbouring pixels, from out on to the right or, backward, to the left.
+inline void StorePacked(VecI pixels, std::uint8_t* out, bool backward) {
+    const hn::Repartition<std::uint8_t, Ints> bytes;
+    const auto order = hn::LoadDup128(bytes, backward ? packedBackward.data() : packed.data());
+    HWY_ALIGN std::array<std::uint8_t, 4 * lanesAtMost> packedPixels;
+    hn::Store(hn::TableLookupBytes(hn::BitCast(bytes, pixels), order), bytes, packedPixels.data());
+    const std::size_t lanes = hn::Lanes(Ints());
+    for (std::size_t n = 0; n < lanes; n += 4) {
+        std::uint8_t* const four = backward ? out - 3 * static_cast<std::ptrdiff_t>(n) - 9
+                                            : out + 3 * static_cast<std::ptrdiff_t>(n);
+        std::memcpy(four, packedPixels.data() + 4 * n, 12);
+    }
+}
+
+#endif
+
+inline void StoreColours(const Colours& colours, std::uint8_t* out, std::ptrdiff_t stride,
+                         int count) {
+    const Ints ints;
+    const VecI blue = hn::ConvertTo(ints, colours.blue);
+    const VecI green = hn::ShiftLeft<8>(hn::ConvertTo(ints, colours.green));
+    const VecI red = hn::ShiftLeft<16>(hn::ConvertTo(ints, colours.red));
+    const VecI whole = hn::Or(blue, hn::Or(green, red));
+#if HWY_TARGET != HWY_SCALAR
+    if (count == static_cast<int>(hn::Lanes(ints))) {
+        StorePacked(whole, out, stride < 0);
+        return;
+    }
+#endif
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> pixels;
+    hn::Store(whole, ints, pixels.data());
+    for (int n = 0; n < count; ++n) {
+        std::memcpy(out + n * stride, &pixels[static_cast<std::size_t>(n)], 3);
+    }
+}
+
+// Low <= value <= high.
+inline hn::Mask<Ints> Within(VecI value, std::int32_t low, std::int32_t high) {
+    const Ints ints;
+    return hn::And(hn::Gt(value, hn::Set(ints, low - 1)), hn::Lt(value, hn::Set(ints, high + 1)));
+}
+
+// No neighbour of any lane is on the picture.
+inline bool AllOutside(VecI x, VecI y, const SourceView& source) {
+    const auto touching =
+        hn::And(Within(x, -1, source.width - 1), Within(y, -1, source.height - 1));
+    return hn::AllFalse(Ints(), touching);
+}
+
+// Bytes from the first pixel of the picture; it has to be smaller than 2 GB.
+inline VecI Offsets(VecI x, VecI y, std::ptrdiff_t pitch) {
+    const Ints ints;
+    const VecI columns = hn::Add(x, hn::Add(x, x));
+    return hn::Add(hn::Mul(y, hn::Set(ints, static_cast<std::int32_t>(pitch))), columns);
+}
+
+inline bool FitsOffsets(const SourceView& source) {
+    return source.pitch * source.height <= std::numeric_limits<std::int32_t>::max();
+}
+
+}  // namespace HWY_NAMESPACE
+}  // namespace varnel
+HWY_AFTER_NAMESPACE();
+
+#endif

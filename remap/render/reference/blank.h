@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "remap/projection/image_circle_geometry.h"
+#include "remap/render/render_session.h"
+
+namespace varnel {
+
+// Black at the four mirror images of a position, column and row counted from the circle centre.
+inline void WriteBlackQuarters(const RenderRun& run, const CircleRows& rows, std::int32_t column,
+                               std::int32_t row) {
+    run.Write(rows.centreX + column, rows.centreY + row, black);
+    run.Write(rows.centreX - column, rows.centreY + row, black);
+    run.Write(rows.centreX + column, rows.centreY - row, black);
+    run.Write(rows.centreX - column, rows.centreY - row, black);
+}
+
+}  // namespace varnel

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The projections as plain loops through the library's calls for single pixels: slow and obviously
+// right. Tests and benchmarks measure the engine by them; no program ships them.
+#pragma once
+
+#include "remap/render/render.h"
+
+namespace varnel::reference {
+
+// As the functions of the same names in remap/render.h.
+void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                  RenderDesk& desk);
+void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                       RenderDesk& desk);
+void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                              RenderDesk& desk);
+void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                        RenderDesk& desk);
+void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                   RenderDesk& desk);
+
+void Render(Projection projection, const ImageRecord& image, SizeKind kind,
+            RenderProgress& progress, RenderDesk& desk);
+
+}  // namespace varnel::reference

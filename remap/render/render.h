@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The four projections: from a source bitmap and an image record to ResultBitmap, which always has
+// the size, metadata and colour profile of its source.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "base/block_runner.h"
+#include "remap/image/bitmap.h"
+#include "state/records/image_record.h"
+
+namespace varnel {
+
+// Thumbnails reads the preview-size source, the other two the full-size one.
+enum class SizeKind { Thumbnails, Large, Batch };
+
+QString ToText(SizeKind kind);
+// "Thumbnails" and "Batch" by their text; every other text means Large.
+SizeKind SizeKindFromText(QStringView text);
+
+// Hears how far a conversion is. Calls come on the caller's thread only. What one throws ends the
+// conversion and reaches the caller.
+class RenderProgress {
+  public:
+    virtual ~RenderProgress() = default;
+    // Once before anything is looked at: hands control to waiting events.
+    virtual void HandleEvents() {}
+    // Before the loops: shows the bar.
+    virtual void Begin(float maximum) = 0;
+    // At each column or row: shows the value and hands control to waiting events.
+    virtual void Advance(float value) = 0;
+    // Between pieces of the work, so often that no piece takes more than some hundredths of a
+    // second however large the picture. May hand control to waiting events, too.
+    virtual void Pause() {}
+    // After the work, also when it failed.
+    virtual void End() = 0;
+};
+
+// Does nothing.
+class SilentProgress : public RenderProgress {
+  public:
+    void Begin(float /*maximum*/) override {}
+    void Advance(float /*value*/) override {}
+    void End() override {}
+};
+
+// What a conversion works on. smoothPreview is asked again for every column or row, so that a
+// preview follows a change made while it is drawn; full-size pictures are always interpolated.
+struct RenderDesk {
+    Bitmaps& bitmaps;
+    std::function<bool()> smoothPreview = [] { return false; };
+    // Shares the work of full-size pictures out to the cores; without one it is done on the
+    // caller's.
+    BlockRunner* runner = nullptr;
+};
+
+// Each replaces ResultBitmap; the record is only read. They throw RunTimeError when a number of the
+// record makes the conversion impossible (the message names it) and std::bad_alloc.
+void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                  RenderDesk& desk);
+// Hands over to RenderRectilinearRotated unless all rotations and translations are exactly 0.
+void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                       RenderDesk& desk);
+void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                              RenderDesk& desk);
+void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                        RenderDesk& desk);
+void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                   RenderDesk& desk);
+
+// The projection by its kind; the record's own Projection is not looked at.
+void Render(Projection projection, const ImageRecord& image, SizeKind kind,
+            RenderProgress& progress, RenderDesk& desk);
+
+}  // namespace varnel

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <cmath>
+#include <cstring>
+
+#include "remap/projection/last_writer.h"
+#include "remap/projection/record_maps.h"
+#include "remap/render/engine/batches.h"
+#include "remap/render/engine/control_points.h"
+#include "remap/render/row_renderer.h"
+
+namespace varnel {
+
+namespace {
+
+class HorizonEngine : public RowDrawing {
+  public:
+    HorizonEngine(const RenderSurface& surface, const HorizonMap& map)
+        : surface_(surface),
+          map_(map),
+          owners_(map, surface.Size().height),
+          columns_(Columns(map.Rows(), surface.Size().width)),
+          source_(SourceView::Of(surface.Source())),
+          target_(TargetView::Of(surface.Result())) {}
+
+    void FillUnownedRows() const {
+        DrawBlocks(surface_, {0, target_.height - 1}, 64, [this](int from, int to) {
+            for (std::int32_t row = from; row <= to; ++row) {
+                FillUnownedRow(row);
+            }
+        });
+    }
+    void DrawRow(std::int32_t row) override {
+        if (!FillUnownedRow(row)) {
+            PrepareColumns(owners_.Radius(row));
+            DrawRadii(owners_.Radius(row), owners_.Radius(row));
+        }
+    }
+
+    // Radii r to r + count - 1. Within a block narrow pieces of neighbouring radii follow each
+    // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
+    void Draw(int r, int count) {
+        PrepareColumns(r);
+        DrawBlocks(surface_, {r, r + count - 1}, 16,
+                   [this](int from, int to) { DrawRadii(from, to); });
+    }
+
+  private:
+    static constexpr int pieceColumns = 256;
+
+    // Those that the picture has, in whole pieces from the centre.
+    static LineRange Columns(const CircleRows& rows, std::int32_t width) {
+        const LineRange shown = OnPicture(rows.centreX, width, rows.lastColumn);
+        return {shown.first / pieceColumns * pieceColumns, shown.last};
+    }
+    // False for the row of a radius.
+    bool FillUnownedRow(std::int32_t row) const {
+        const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
+        if (owners_.Black(row)) {
+            std::memset(target_.At(0, row), 0, bytes);
+            return true;
+        }
+        if (owners_.Nobody(row)) {
+            std::memcpy(target_.At(0, row), source_.bits + row * source_.pitch, bytes);
+            return true;
+        }
+        return false;
+    }
+
+    void DrawRadii(int from, int to) const {
+        for (int first = columns_.first; first <= columns_.last; first += pieceColumns) {
+            const int pieceEnd = std::min(first + pieceColumns, columns_.last + 1);
+            for (int n = from; n <= to; ++n) {
+                DrawPiece(n, first, pieceEnd);
+            }
+        }
+    }
+
+    // The angles of the columns, as soon as a radius within the circle needs them.
+    void PrepareColumns(int first) {
+        if (!cosines_.empty() || map_.Blank(first)) {
+            return;
+        }
+        for (int column = columns_.first; column <= columns_.last; ++column) {
+            cosines_.push_back(std::cos(map_.Angle(column)));
+            sines_.push_back(std::sin(map_.Angle(column)));
+        }
+        // Whole vectors are read at the end, too.
+        cosines_.resize(cosines_.size() + 8);
+        sines_.resize(sines_.size() + 8);
+    }
+
+    // Columns first to end - 1 of both halves of the row that a radius goes to.
+    void DrawPiece(int r, int first, int end) const {
+        const std::int32_t row = map_.Blank(r) ? -1 : map_.OutputRow(r);
+        if (!owners_.Has(row, r)) {
+            return;
+        }
+        const std::int32_t centre = map_.Rows().centreX;
+        CircleSpan span{source_,
+                        0,
+                        0,
+                        static_cast<double>(centre),
+                        static_cast<double>(map_.Rows().centreY),
+                        1.0,
+                        static_cast<double>(r),
+                        cosines_.data(),
+                        sines_.data(),
+                        surface_.Nearest() ? RowReading::Nearest : RowReading::Vectors};
+        // The left half comes last and so has the centre column.
+        for (const int sign : {1, -1}) {
+            const Clip clip = Clip::Of(centre, sign, end, target_.width);
+            const int begin = std::max(clip.begin, first);
+            if (begin < clip.end) {
+                span.sign = sign;
+                span.first = begin - columns_.first;
+                span.count = clip.end - begin;
+                SampleCircleSpan(span, {target_.At(centre + sign * begin, row), 3 * sign});
+            }
+        }
+    }
+
+    const RenderSurface& surface_;
+    HorizonMap map_;
+    RowOwners owners_;
+    LineRange columns_;  // distances from the centre
+    SourceView source_;
+    TargetView target_;
+    std::vector<double> cosines_, sines_;  // from the first of the columns on
+};
+
+}  // namespace
+
+void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
+                   RenderDesk& desk) {
+    RenderRun run(kind, progress, desk, Canvas::Anything);
+    const HorizonMap map(CircleViewOf(image, run.Size()));
+    const CircleRows& rows = map.Rows();
+    run.Begin(static_cast<float>(std::fabs(rows.shiftY) + 2.0 * rows.upperHalf));
+    HorizonEngine engine(run, map);
+    engine.FillUnownedRows();
+    DrawLines(
+        run, {map.FirstRadius(), rows.lastRow}, [&](int r, int count) { engine.Draw(r, count); },
+        [&](int r) { run.Advance(static_cast<float>(r + rows.upperHalf)); });
+}
+
+std::unique_ptr<RowDrawing> HorizonRows(const ImageRecord& image, const RenderSurface& surface) {
+    return std::make_unique<HorizonEngine>(surface,
+                                           HorizonMap(CircleViewOf(image, surface.Size())));
+}
+
+}  // namespace varnel

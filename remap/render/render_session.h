@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// One run of a projection: its source, its result and its progress. Shared by the four renderers.
+#pragma once
+
+#include "remap/image/pixel_access.h"
+#include "remap/render/render.h"
+
+namespace varnel {
+
+// What ResultBitmap holds before the first pixel is written: a copy of the source, so that what is
+// never written keeps its pixels, or anything, where every pixel will be written.
+enum class Canvas { CopyOfSource, Anything };
+
+// What an engine reads from and writes to: two bitmaps of the same size.
+class RenderSurface {
+  public:
+    RenderSurface(FIBITMAP* source, FIBITMAP* result, BlockRunner& runner)
+        : source_(source), result_(result), runner_(&runner) {}
+
+    FIBITMAP* Source() const { return source_; }
+    FIBITMAP* Result() const { return result_; }
+    BlockRunner& Runner() const { return *runner_; }
+    PixelSize Size() const { return SizeOf(source_); }
+    // True when what is drawn next is read without interpolation.
+    bool Nearest() const { return nearest_; }
+    // The source's pixels into the result.
+    void CopySource() const;
+    void CopySourceRow(std::int32_t row) const;
+    // To be called often: gives whoever waits for the conversion a turn. Throws to end it.
+    void Pause() const {
+        if (progress_ != nullptr) {
+            progress_->Pause();
+        }
+    }
+
+  protected:
+    explicit RenderSurface(RenderProgress& progress) : progress_(&progress) {}
+    RenderProgress* progress_ = nullptr;
+    FIBITMAP* source_ = nullptr;
+    FIBITMAP* result_ = nullptr;
+    BlockRunner* runner_ = nullptr;
+    bool nearest_ = false;
+};
+
+class RenderRun : public RenderSurface {
+  public:
+    // Lets waiting events run once, picks the source by the kind, which must be there, and makes
+    // ResultBitmap anew with the source's size, metadata and colour profile.
+    RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk,
+              Canvas canvas = Canvas::CopyOfSource);
+    ~RenderRun();
+    RenderRun(const RenderRun&) = delete;
+    RenderRun& operator=(const RenderRun&) = delete;
+
+    SizeKind Kind() const { return kind_; }
+    // Shows the progress, which is taken away again at the end of the run.
+    void Begin(float maximum);
+    // Shows the value, lets waiting events run and asks anew how to read.
+    void Advance(float value);
+    // Off the result nothing is written.
+    void Write(std::int32_t x, std::int32_t y, const RGBQUAD& colour) const {
+        SetPixelColor(result_, x, y, colour);
+    }
+
+  private:
+    SizeKind kind_;
+    RenderDesk& desk_;
+    SerialRunner serial_;
+    int exceptionsBefore_;
+    bool begun_ = false;
+};
+
+}  // namespace varnel

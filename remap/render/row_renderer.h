@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The conversions one output row at a time, for who needs some rows only and not all at once.
+#pragma once
+
+#include <memory>
+
+#include "remap/render/render_session.h"
+
+namespace varnel {
+
+class RowDrawing {
+  public:
+    virtual ~RowDrawing() = default;
+    // Every pixel of the row (of the result, from 0 at the bottom), exactly as the whole
+    // conversion leaves it, and no other row.
+    virtual void DrawRow(std::int32_t row) = 0;
+};
+
+// By the projection's kind; the record's own Projection is not looked at. The surface has to
+// outlive the drawing. They throw as the conversions do.
+std::unique_ptr<RowDrawing> RowsOf(Projection projection, const ImageRecord& image,
+                                   const RenderSurface& surface);
+std::unique_ptr<RowDrawing> VarnelRows(const ImageRecord& image, const RenderSurface& surface);
+std::unique_ptr<RowDrawing> RectilinearRows(const ImageRecord& image, const RenderSurface& surface);
+std::unique_ptr<RowDrawing> EquidistanceRows(const ImageRecord& image,
+                                             const RenderSurface& surface);
+std::unique_ptr<RowDrawing> HorizonRows(const ImageRecord& image, const RenderSurface& surface);
+
+}  // namespace varnel

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The defaults dialog: default gear, preview size, what is done with opened photos and how files
+// are written, for this run or for good.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "state/records/gear_record.h"
+#include "state/settings/general_settings.h"
+#include "state/settings/settings_store.h"
+
+namespace Ui {
+class FormSetup;
+}
+
+namespace varnel {
+
+// Accepted means applied. The settings may have changed even when the dialog was cancelled, because
+// saving as default applies them and leaves the dialog open.
+class FormSetup : public QDialog {
+    Q_OBJECT
+
+  public:
+    FormSetup(GearTable& gear, GeneralSettings& settings, SettingsStore& store,
+              QWidget* parent = nullptr);
+    ~FormSetup() override;
+
+    // Takes the controls' values over for this run.
+    void SetMyDefaults();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void FillGears();
+    void FillSizes();
+    void FillFile();
+    void FillChecks();
+    void FillLanguages();
+    void ConnectControls();
+    void SaveAsDefault();
+
+    std::unique_ptr<Ui::FormSetup> ui_;
+    GearTable& gear_;
+    GeneralSettings& settings_;
+    SettingsStore& store_;
+};
+
+}  // namespace varnel

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/frame_solver.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "base/run_time_error.h"
+
+namespace varnel {
+
+namespace {
+
+const SliderRowData& RowOf(SliderId id) {
+    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
+}
+
+// The index of the line; nothing when a border line is black. A translation may leave the outermost
+// line out.
+std::optional<std::size_t> LineAt(double share, const std::vector<int>& shown, int count) {
+    if (shown.empty() || (share == 0.0 && shown.front() > 1) ||
+        (share == 1.0 && shown.back() < count - 2)) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(std::round(share * static_cast<double>(shown.size() - 1)));
+}
+
+// How far from the wanted place the point is with these controls.
+double Miss(const FrameSetting& setting, const ControlValues& controls, const FramePoint& point,
+            const SourcePlace& wanted) {
+    ImageRecord trial = setting.image;
+    StoreControls(controls, trial);
+    try {
+        const ResultPlaces places(ProjectionFromIndex(controls.projection), trial, setting.size);
+        if (const auto place = PlaceOf(point, places)) {
+            return std::hypot(place->x - wanted.x, place->y - wanted.y);
+        }
+    } catch (const RunTimeError&) {
+        // No conversion with these numbers.
+    }
+    return std::numeric_limits<double>::infinity();
+}
+
+}  // namespace
+
+std::optional<SliderId> FrameSlider(Projection projection) {
+    switch (projection) {
+        case Projection::Rectilinear:
+            return SliderId::AovOutput;
+        case Projection::Varnel:
+            return SliderId::Effect;
+        case Projection::Equidistance:
+            return SliderId::AovInput;
+        case Projection::Horizon:
+            break;
+    }
+    return std::nullopt;
+}
+
+bool FrameTurns(Projection projection) {
+    return projection == Projection::Rectilinear;
+}
+
+const std::vector<FramePoint>& FrameHandles(Projection projection) {
+    static const std::vector<FramePoint> around{{0.0, 0.0}, {0.5, 0.0}, {1.0, 0.0}, {1.0, 0.5},
+                                                {1.0, 1.0}, {0.5, 1.0}, {0.0, 1.0}, {0.0, 0.5}};
+    static const std::vector<FramePoint> aside{{0.0, 0.0}, {0.0, 0.25}, {0.0, 0.75}, {0.0, 1.0},
+                                               {1.0, 0.0}, {1.0, 0.25}, {1.0, 0.75}, {1.0, 1.0}};
+    static const std::vector<FramePoint> none;
+    if (!FrameSlider(projection)) {
+        return none;
+    }
+    return projection == Projection::Varnel ? aside : around;
+}
+
+std::optional<SourcePlace> PlaceOf(const FramePoint& point, const ResultPlaces& places) {
+    const auto column = LineAt(point.across, places.Columns(), places.Size().width);
+    const auto row = LineAt(point.up, places.Rows(), places.Size().height);
+    if (!column || !row) {
+        return std::nullopt;
+    }
+    return places.ReadAt(places.Columns()[*column], places.Rows()[*row]);
+}
+
+int WidthNearest(const FrameSetting& setting, const FramePoint& handle, const SourcePlace& wanted) {
+    const auto slider = FrameSlider(ProjectionFromIndex(setting.controls.projection));
+    if (!slider) {
+        return 0;
+    }
+    ControlValues controls = setting.controls;
+    int best = ValueOf(*slider, controls).value_or(0);
+    double least = Miss(setting, controls, handle, wanted);
+    const SliderRowData& row = RowOf(*slider);
+    for (int value = row.minimum; value <= row.maximum; ++value) {
+        SetValueOf(*slider, value, controls);
+        if (const double miss = Miss(setting, controls, handle, wanted); miss < least) {
+            least = miss;
+            best = value;
+        }
+    }
+    return best;
+}
+
+ControlValues TurnedNearest(const FrameSetting& setting, const SourcePlace& wanted) {
+    ControlValues best = setting.controls;
+    if (!FrameTurns(ProjectionFromIndex(best.projection))) {
+        return best;
+    }
+    const FramePoint middle;
+    const SliderRowData& tilt = RowOf(SliderId::X);
+    const SliderRowData& pan = RowOf(SliderId::Y);
+    double least = Miss(setting, best, middle, wanted);
+    const auto tried = [&](int down, int right) {
+        ControlValues controls = best;
+        controls.rotateX = std::clamp(best.rotateX + down, tilt.minimum, tilt.maximum);
+        controls.rotateY = std::clamp(best.rotateY + right, pan.minimum, pan.maximum);
+        const double miss = Miss(setting, controls, middle, wanted);
+        const bool nearer = miss < least;
+        if (nearer) {
+            least = miss;
+            best = controls;
+        }
+        return nearer;
+    };
+    for (int step = 8; step >= 1; step /= 2) {
+        bool moved = true;
+        while (moved) {
+            moved = false;
+            for (const int down : {-step, 0, step}) {
+                for (const int right : {-step, 0, step}) {
+                    moved = ((down != 0 || right != 0) && tried(down, right)) || moved;
+                }
+            }
+        }
+    }
+    return best;
+}
+
+}  // namespace varnel

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Steering a conversion by the frame that it cuts out of the photo: which slider a handle moves and
+// which value puts it nearest to where it is wanted. Positions as in remap/result_places.h.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "remap/analysis/inverse_mapping.h"
+#include "state/editing/slider_table.h"
+
+namespace varnel {
+
+// The slider that makes the frame wider; Horizon has none.
+std::optional<SliderId> FrameSlider(Projection projection);
+// The frame can be panned and tilted.
+bool FrameTurns(Projection projection);
+
+// A point of the result by its share of the way from the left and from the bottom.
+struct FramePoint {
+    double across = 0.5;
+    double up = 0.5;
+};
+
+// Points of the border that the slider moves: the corners, and of the sides the middles, or for
+// Varnel, which leaves its middle lines alone, the quarters.
+const std::vector<FramePoint>& FrameHandles(Projection projection);
+// Where the photo is read for the point; nothing where the border is black.
+std::optional<SourcePlace> PlaceOf(const FramePoint& point, const ResultPlaces& places);
+
+// What is steered: the record as stored, the controls over it and the photo's size.
+struct FrameSetting {
+    const ImageRecord& image;
+    ControlValues controls;
+    PixelSize size;
+};
+
+// Within the slider's range; the value at hand when no other is nearer or the projection has no
+// such slider.
+int WidthNearest(const FrameSetting& setting, const FramePoint& handle, const SourcePlace& wanted);
+// The controls with the turns that bring the middle of the frame nearest to the wanted place.
+ControlValues TurnedNearest(const FrameSetting& setting, const SourcePlace& wanted);
+
+}  // namespace varnel

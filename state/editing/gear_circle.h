@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Between a gear's image circle and the circle on a photo as it is shown.
+#pragma once
+
+#include "base/record_array.h"
+#include "remap/analysis/circle_finder.h"
+#include "state/records/gear_record.h"
+#include "state/records/image_record.h"
+
+namespace varnel {
+
+// What a gear says of its circle: offsets in thousandths of width and height of a picture stored in
+// landscape, the ratio in percent.
+struct GearCircle {
+    float OfsetX = 0.0F;
+    float OfsetY = 0.0F;
+    float GearRatio = 0.0F;
+
+    bool operator==(const GearCircle&) const = default;
+};
+
+// Where the record's numbers put the circle on its picture of that size. The radius is 0 without a
+// ratio.
+ImageCircle CircleOf(const ImageRecord& image, PixelSize picture);
+
+// The numbers with which a gear puts the circle there, to a tenth.
+GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture);
+
+// Makes it the gear's circle and that of all its photos that are not adjusted yet, and in any case
+// that of image number current, which keeps its other settings. The gear then counts as adjusted.
+// Returns how many photos got it.
+int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
+               int current);
+
+// What a step did to a gear of the table, or what undoing it shall do. False, and nothing is
+// changed, when the table's gear of that name is another one than it was: it was deleted or edited
+// since.
+bool ChangeGear(GearTable& table, const GearChange& change);
+
+}  // namespace varnel

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/level_horizon.h"
+
+#include <algorithm>
+#include <numbers>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "remap/projection/level.h"
+#include "remap/projection/record_maps.h"
+#include "state/editing/slider_table.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr double degree = std::numbers::pi / 180.0;
+constexpr double shortest = 5.0 * degree;
+constexpr double farthestOff = 3.0 * degree;  // a hand follows an edge far better
+
+// How far a value is beyond what its slider can be set to, whole numbers as it holds.
+double Beyond(SliderId id, double value) {
+    const auto& rows = SliderRows();
+    const auto row = std::ranges::find(rows, id, &SliderRowData::id);
+    constexpr double rounding = 0.5;
+    const bool above = value > row->maximum + rounding;
+    const bool below = value < row->minimum - rounding;
+    return above ? value - row->maximum : below ? value - row->minimum : 0.0;
+}
+
+std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
+                        std::span<const PicturePoint> traced) {
+    const RectilinearView view = RectilinearViewOf(image, source);
+    std::vector<Ray> rays;
+    for (const PicturePoint& point : traced) {
+        if (const auto ray = SourceRay(view, OffsetOf(point, source, image))) {
+            rays.push_back(*ray);
+        }
+    }
+    return rays;
+}
+
+Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
+    Levelling level;
+    const std::optional<HorizonFit> fit = FitHorizon(rays);
+    if (!fit || fit->length < shortest) {
+        level.trouble = LevelTrouble::TooShort;
+        return level;
+    }
+    if (fit->spread > farthestOff) {
+        level.trouble = LevelTrouble::NotStraight;
+        return level;
+    }
+    const LevelTurn present{static_cast<double>(image.RotateX), static_cast<double>(image.RotateZ)};
+    const LevelTurn turn = TurnForHorizon(fit->normal, image.EffectRectilinear, present);
+    level.rotateX = turn.x;
+    level.rotateZ = turn.z;
+    level.beyondX = Beyond(SliderId::X, turn.x);
+    level.beyondZ = Beyond(SliderId::Z, turn.z);
+    if (level.beyondX != 0.0 || level.beyondZ != 0.0) {
+        level.trouble = LevelTrouble::OutOfReach;
+    }
+    return level;
+}
+
+}  // namespace
+
+SourceOffset OffsetOf(const PicturePoint& point, PixelSize source, const ImageRecord& image) {
+    const CentreAndExtents centre = ImageCentre(source, image.OfsetX, image.OfsetY);
+    return {point.x - 0.5 - centre.cx, source.height - 0.5 - point.y - centre.cy};
+}
+
+Levelling LevelHorizon(const ImageRecord& image, PixelSize source,
+                       std::span<const PicturePoint> traced) {
+    try {
+        return LevelRays(image, RaysOf(image, source, traced));
+    } catch (const RunTimeError&) {
+        Levelling level;
+        level.trouble = LevelTrouble::NoLens;
+        return level;
+    }
+}
+
+}  // namespace varnel

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/list_badges.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace varnel {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(PhotoMarks)
+};
+
+}  // namespace
+
+PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble) {
+    const QString projection = ToText(ProjectionFromIndex(image.Projection));
+    QString letters = projection.left(1);
+    QStringList words{projection};
+    if (image.SettingsApplied) {
+        letters += u'A';
+        words.append(Texts::tr("adjusted"));
+    }
+    if (queued) {
+        letters += u'Q';
+        words.append(Texts::tr("in the batch queue"));
+    }
+    if (!trouble.isEmpty()) {
+        letters += u'!';
+        words.append(trouble);
+    }
+    return {letters, words.join(QStringLiteral(", "))};
+}
+
+}  // namespace varnel

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the image list shows of a photo beside its name, as letters and in words.
+#pragma once
+
+#include <QString>
+
+#include "state/records/image_record.h"
+
+namespace varnel {
+
+// The initial of the projection, then "A" for adjusted, "Q" for queued and "!" for trouble.
+struct PhotoMarks {
+    QString letters;
+    QString words;  // the same, joined with commas; the trouble stands last
+
+    bool operator==(const PhotoMarks&) const = default;
+};
+
+// The trouble is empty when all is well.
+PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble);
+
+}  // namespace varnel

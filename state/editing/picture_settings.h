@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The settings that made a picture as names and values: how they stand in the pictures that Varnel
+// writes, and how a record gets them back. Numbers have a decimal point whatever the locale and
+// come back bit by bit.
+#pragma once
+
+#include <QStringList>
+
+#include "remap/image/photo_metadata.h"
+#include "state/records/image_record.h"
+
+namespace varnel {
+
+// The photo, how it was turned, its gear and every adjustment; what a record knows of its photo's
+// size is left out.
+// What cannot be written (a number that is none, a name with control characters) is missing.
+PictureSettings SettingsFrom(const ImageRecord& image);
+
+// Takes what can be used into the record and marks it as applied; missing and unusable settings
+// leave what the record has. Names of later versions are kept in FurtherSettings. Each line of the
+// answer says what was refused and why. The picture may come from anywhere: only numbers that the
+// controls or a sensible command line could have given are taken. A folder may be a relative one.
+QStringList TakeSettings(const PictureSettings& settings, ImageRecord& image);
+
+// Gives the settings to a result that is about to be written, or takes older ones away. The photo's
+// folder is told as it lies beside the result's file, and not at all when no file is given: nobody
+// else is to learn whose folders these are.
+void NoteSettings(FIBITMAP* result, const ImageRecord& image, bool wanted,
+                  const QString& file = {});
+
+// Where the record's photo lies, when its folder was told by this picture.
+QString SourceFolderOf(const ImageRecord& image, const QString& picture);
+
+// A setting for the eye: it may be long and hold anything.
+QString Shown(const QString& setting, qsizetype longest = 40);
+
+}  // namespace varnel

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/record_fields.h"
+
+#include <QLatin1StringView>
+#include <array>
+#include <limits>
+#include <variant>
+
+#include "state/settings/number_text.h"
+
+namespace varnel {
+
+namespace {
+
+using FieldPointer = std::variant<std::int16_t ImageRecord::*, Flag16 ImageRecord::*,
+                                  float ImageRecord::*, QString ImageRecord::*>;
+
+struct Field {
+    QLatin1StringView name;
+    FieldPointer pointer;
+};
+
+#define VARNEL_FIELD(name)                           \
+    Field {                                          \
+        QLatin1StringView(#name), &ImageRecord::name \
+    }
+constexpr std::array fields{
+    VARNEL_FIELD(Width),
+    VARNEL_FIELD(Height),
+    VARNEL_FIELD(Landscape),
+    VARNEL_FIELD(GearName),
+    VARNEL_FIELD(CameraBrand),
+    VARNEL_FIELD(CameraModel),
+    VARNEL_FIELD(SensorWidth),
+    VARNEL_FIELD(SensorHeight),
+    VARNEL_FIELD(CameraData1),
+    VARNEL_FIELD(CameraData2),
+    VARNEL_FIELD(LensBrand),
+    VARNEL_FIELD(LensModel),
+    VARNEL_FIELD(ImageCircleRadius),
+    VARNEL_FIELD(LensShift),
+    VARNEL_FIELD(LensData3),
+    VARNEL_FIELD(LensMapScale),
+    VARNEL_FIELD(LensMapFactor),
+    VARNEL_FIELD(Projection),
+    VARNEL_FIELD(SettingsApplied),
+    VARNEL_FIELD(OfsetX),
+    VARNEL_FIELD(OfsetY),
+    VARNEL_FIELD(Ratio),
+    VARNEL_FIELD(InputAOV),
+    VARNEL_FIELD(OutputAOV),
+    VARNEL_FIELD(EffectVarnel),
+    VARNEL_FIELD(EffectRectilinear),
+    VARNEL_FIELD(RotateX),
+    VARNEL_FIELD(RotateY),
+    VARNEL_FIELD(RotateZ),
+    VARNEL_FIELD(TranslateX),
+    VARNEL_FIELD(TranslateY),
+    VARNEL_FIELD(Folder),
+    VARNEL_FIELD(FileName),
+    VARNEL_FIELD(NameSuffix),
+    VARNEL_FIELD(Orientation),
+};
+#undef VARNEL_FIELD
+static_assert(fields.size() == 35);
+
+std::optional<std::int16_t> Parse(const QString& text, std::int16_t /*kind*/) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const std::optional<int> whole = WholeFromText(text);
+    if (!whole || *whole < Limits::min() || *whole > Limits::max()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int16_t>(*whole);
+}
+
+std::optional<Flag16> Parse(const QString& text, Flag16 /*kind*/) {
+    for (const auto on : {u"True", u"true", u"1", u"-1"}) {
+        if (text == QStringView(on)) {
+            return Flag16(true);
+        }
+    }
+    for (const auto off : {u"False", u"false", u"0"}) {
+        if (text == QStringView(off)) {
+            return Flag16(false);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<float> Parse(const QString& text, float /*kind*/) {
+    return FloatFromPointText(text);
+}
+
+std::optional<QString> Parse(const QString& text, const QString& /*kind*/) {
+    return text;
+}
+
+QString TextOf(std::int16_t value) {
+    return QString::number(value);
+}
+
+QString TextOf(Flag16 value) {
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+QString TextOf(float value) {
+    return QString::number(static_cast<double>(value), 'g',
+                           std::numeric_limits<float>::max_digits10);
+}
+
+QString TextOf(const QString& value) {
+    return value;
+}
+
+template <class Value>
+FieldResult SetValue(Value& target, const QString& text) {
+    std::optional<Value> value = Parse(text, target);
+    if (!value) {
+        return FieldResult::BadValue;
+    }
+    target = *std::move(value);
+    return FieldResult::Ok;
+}
+
+}  // namespace
+
+FieldResult SetField(ImageRecord& image, const QString& field, const QString& value) {
+    for (const Field& known : fields) {
+        if (field != known.name) {
+            continue;
+        }
+        if (known.pointer == FieldPointer(&ImageRecord::Projection)) {
+            if (const auto projection = ProjectionFromText(value)) {
+                image.Projection = static_cast<std::int16_t>(*projection);
+                return FieldResult::Ok;
+            }
+        }
+        return std::visit([&](auto pointer) { return SetValue(image.*pointer, value); },
+                          known.pointer);
+    }
+    return FieldResult::UnknownField;
+}
+
+QString FieldText(const ImageRecord& image, const QString& field) {
+    for (const Field& known : fields) {
+        if (field == known.name) {
+            return std::visit([&](auto pointer) { return TextOf(image.*pointer); }, known.pointer);
+        }
+    }
+    return {};
+}
+
+QStringList FieldNames() {
+    QStringList names;
+    for (const Field& field : fields) {
+        names.append(field.name);
+    }
+    return names;
+}
+
+}  // namespace varnel

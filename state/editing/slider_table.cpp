@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/slider_table.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+namespace varnel {
+
+namespace {
+
+constexpr std::array<SliderRowData, 8> rows{{
+    {SliderId::AovInput, "SliderAOVinput", "LabelAOVinput", nullptr, nullptr,
+     QT_TRANSLATE_NOOP("Sliders", "Input hAOV"),
+     QT_TRANSLATE_NOOP("Sliders",
+                       "The angle that this photo shows from its left to its right edge"),
+     70, 280, 80, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° hAOV"), nullptr, nullptr, false,
+     ShownFor::Always},
+    {SliderId::AovOutput, "SliderAOVoutput", "LabelAOVoutput", "LabelAOVoutput2",
+     QT_TRANSLATE_NOOP("Sliders", "Output AOV"), QT_TRANSLATE_NOOP("Sliders", "hAOV"),
+     QT_TRANSLATE_NOOP(
+         "Sliders",
+         "How wide the converted picture looks: small is a telephoto view, large a wide one"),
+     60, 180, 70, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° hAOV"), nullptr, nullptr, false,
+     ShownFor::Rectilinear},
+    {SliderId::Effect, "SliderEffect", "LabelEffect", "LabelEffect2",
+     QT_TRANSLATE_NOOP("Sliders", "Partial effect"), QT_TRANSLATE_NOOP("Sliders", "100 %"),
+     QT_TRANSLATE_NOOP("Sliders",
+                       "How much of the conversion is applied: 0 % stays close to the fisheye"),
+     0, 100, 100, 10, 1, 5, QT_TRANSLATE_NOOP("Sliders", " %"), nullptr, nullptr, false,
+     ShownFor::WithEffect},
+    {SliderId::X, "SliderX", "LabelRotateX", "LabelRotate2",
+     QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0° Up/Down"),
+     QT_TRANSLATE_NOOP("Sliders", "Tilts the camera. Double-click the name to reset it"), -40, 40,
+     0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Down"), QT_TRANSLATE_NOOP("Sliders", "° Up"),
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
+    {SliderId::Y, "SliderY", "LabelRotateY", "LabelRotate3",
+     QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0° Left/Right"),
+     QT_TRANSLATE_NOOP("Sliders", "Pans the camera. Double-click the name to reset it"), -40, 40, 0,
+     10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Right"), QT_TRANSLATE_NOOP("Sliders", "° Left"),
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
+    {SliderId::Z, "SliderZ", "LabelRotateZ", "LabelRotate4", QT_TRANSLATE_NOOP("Sliders", "Z-axis"),
+     QT_TRANSLATE_NOOP("Sliders", "0° Z"),
+     QT_TRANSLATE_NOOP(
+         "Sliders", "Levels the picture by rolling the camera. Double-click the name to reset it"),
+     -40, 40, 0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° c.clockwise"),
+     QT_TRANSLATE_NOOP("Sliders", "° clockwise"), QT_TRANSLATE_NOOP("Sliders", "0°"), true,
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
+    {SliderId::XTranslate, "SliderXtranslate", "LabelTranslateX", "LabelTranslate2",
+     QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0% Left/Right"),
+     QT_TRANSLATE_NOOP("Sliders", "Shifts the picture sideways. Double-click the name to reset it"),
+     -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Right"),
+     QT_TRANSLATE_NOOP("Sliders", "% Left"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
+    {SliderId::YTranslate, "SliderYtranslate", "LabelTranslateY", "LabelTranslate3",
+     QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0% Up/Down"),
+     QT_TRANSLATE_NOOP("Sliders",
+                       "Shifts the picture up or down. Double-click the name to reset it"),
+     -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Up"),
+     QT_TRANSLATE_NOOP("Sliders", "% Down"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
+     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
+}};
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate("Sliders", text);
+}
+
+}  // namespace
+
+const std::array<SliderRowData, 8>& SliderRows() {
+    return rows;
+}
+
+QString GroupName(SliderId id) {
+    const char* const group = std::ranges::find(rows, id, &SliderRowData::id)->group;
+    return group == nullptr ? QString() : Translated(group);
+}
+
+QString SpokenName(const SliderRowData& row) {
+    const QString heading = Translated(row.heading);
+    return row.group == nullptr ? heading
+                                : QStringLiteral("%1: %2").arg(Translated(row.group), heading);
+}
+
+QString SliderCaption(const SliderRowData& row, int value) {
+    if (value == 0 && row.zero != nullptr) {
+        return Translated(row.zero);
+    }
+    if (value < 0 && row.negative != nullptr) {
+        return QString::number(-value) + Translated(row.negative);
+    }
+    return QString::number(value) + Translated(row.positive);
+}
+
+bool ShownWith(const SliderRowData& row, Projection projection) {
+    switch (row.shownFor) {
+        case ShownFor::Always:
+            return true;
+        case ShownFor::WithEffect:
+            return projection == Projection::Varnel || projection == Projection::Rectilinear;
+        case ShownFor::Rectilinear:
+            break;
+    }
+    return projection == Projection::Rectilinear;
+}
+
+bool Reads(Projection projection, SliderId id) {
+    switch (id) {
+        case SliderId::AovInput:
+            return projection == Projection::Equidistance;
+        case SliderId::Effect:
+            return EffectReadBy(projection).has_value();
+        case SliderId::AovOutput:
+        case SliderId::X:
+        case SliderId::Y:
+        case SliderId::Z:
+        case SliderId::XTranslate:
+        case SliderId::YTranslate:
+            break;
+    }
+    return projection == Projection::Rectilinear;
+}
+
+std::optional<int> ValueOf(SliderId id, const ControlValues& values) {
+    switch (id) {
+        case SliderId::AovInput:
+            return values.inputAov;
+        case SliderId::AovOutput:
+            return values.outputAov;
+        case SliderId::Effect:
+            return values.effect;
+        case SliderId::X:
+            return values.rotateX;
+        case SliderId::Y:
+            return values.rotateY;
+        case SliderId::Z:
+            return values.rotateZ;
+        case SliderId::XTranslate:
+            return values.translateX;
+        case SliderId::YTranslate:
+            break;
+    }
+    return values.translateY;
+}
+
+void SetValueOf(SliderId id, int value, ControlValues& values) {
+    switch (id) {
+        case SliderId::AovInput:
+            values.inputAov = value;
+            return;
+        case SliderId::AovOutput:
+            values.outputAov = value;
+            return;
+        case SliderId::Effect:
+            values.effect = value;
+            return;
+        case SliderId::X:
+            values.rotateX = value;
+            return;
+        case SliderId::Y:
+            values.rotateY = value;
+            return;
+        case SliderId::Z:
+            values.rotateZ = value;
+            return;
+        case SliderId::XTranslate:
+            values.translateX = value;
+            return;
+        case SliderId::YTranslate:
+            values.translateY = value;
+    }
+}
+
+}  // namespace varnel

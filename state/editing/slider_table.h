@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The eight sliders of the main window in one table: names, ranges, captions and the control value
+// that each one holds.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <optional>
+
+#include "state/editing/control_values.h"
+#include "state/records/projection.h"
+
+namespace varnel {
+
+enum class SliderId { AovOutput, Effect, X, Y, Z, XTranslate, YTranslate, AovInput };
+
+// Which projections show a slider.
+enum class ShownFor { Rectilinear, WithEffect, Always };
+
+struct SliderRowData {
+    SliderId id;
+    const char* slider;  // object names
+    const char* valueLabel;
+    const char* headingLabel;  // null for none
+    const char* heading;       // text of the heading label
+    const char* startCaption;  // text of the value label before the first photo
+    const char* tip;           // tool tip and accessible description
+    int minimum, maximum, start;
+    int largeChange, smallChange, tickInterval;
+    const char* positive;  // what follows the number in the caption
+    const char* negative;  // after the magnitude of a negative number; null: as positive
+    const char* zero;      // the whole caption at 0; null: as positive
+    bool resets;           // a double-click on the heading sets it to 0
+    ShownFor shownFor;
+    const char* group = nullptr;  // the title above it and its neighbours; null for none
+};
+
+// In the order in which the window shows them.
+const std::array<SliderRowData, 8>& SliderRows();
+
+// Empty for none.
+QString GroupName(SliderId id);
+// What tells it from all others: the heading, behind the group's name if there is one.
+QString SpokenName(const SliderRowData& row);
+
+// The value label's text while the slider stands at value.
+QString SliderCaption(const SliderRowData& row, int value);
+
+bool ShownWith(const SliderRowData& row, Projection projection);
+// Whether the projection reads what the slider stands for. The main window shows the angle of the
+// lens always and the effect of Horizon never.
+bool Reads(Projection projection, SliderId id);
+
+// The slider's value among the control values; nothing for the effect when there is none.
+std::optional<int> ValueOf(SliderId id, const ControlValues& values);
+void SetValueOf(SliderId id, int value, ControlValues& values);
+
+}  // namespace varnel

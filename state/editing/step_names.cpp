@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/step_names.h"
+
+#include <QCoreApplication>
+#include <array>
+
+namespace varnel {
+
+namespace {
+
+constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
+                           QT_TRANSLATE_NOOP("Steps", "choice of gear"),
+                           QT_TRANSLATE_NOOP("Steps", "apply gear to all"),
+                           QT_TRANSLATE_NOOP("Steps", "new numbers of a gear"),
+                           QT_TRANSLATE_NOOP("Steps", "apply settings to all"),
+                           QT_TRANSLATE_NOOP("Steps", "adjustments"),
+                           QT_TRANSLATE_NOOP("Steps", "add images"),
+                           QT_TRANSLATE_NOOP("Steps", "remove images"),
+                           QT_TRANSLATE_NOOP("Steps", "reorder images"),
+                           QT_TRANSLATE_NOOP("Steps", "add images with settings"),
+                           QT_TRANSLATE_NOOP("Steps", "level"),
+                           QT_TRANSLATE_NOOP("Steps", "frame"),
+                           QT_TRANSLATE_NOOP("Steps", "image circle"),
+                           QT_TRANSLATE_NOOP("Steps", "contact sheet"),
+                           QT_TRANSLATE_NOOP("Steps", "open project"),
+                           QT_TRANSLATE_NOOP("Steps", "open the list again"),
+                           QT_TRANSLATE_NOOP("Steps", "change")};
+static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);
+
+// The sliders' steps as they read within a sentence, in the order of the sliders' names.
+constexpr std::array sliderNames{QT_TRANSLATE_NOOP("Steps", "output AOV"),
+                                 QT_TRANSLATE_NOOP("Steps", "partial effect"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate up/down"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate left/right"),
+                                 QT_TRANSLATE_NOOP("Steps", "rotate Z-axis"),
+                                 QT_TRANSLATE_NOOP("Steps", "transpose left/right"),
+                                 QT_TRANSLATE_NOOP("Steps", "transpose up/down"),
+                                 QT_TRANSLATE_NOOP("Steps", "input hAOV")};
+static_assert(sliderNames.size() == static_cast<std::size_t>(SliderId::AovInput) + 1);
+
+QString Translated(const char* text) {
+    return QCoreApplication::translate("Steps", text);
+}
+
+}  // namespace
+
+QString StepName(StepKind kind) {
+    return Translated(names[static_cast<std::size_t>(kind)]);
+}
+
+QString StepName(SliderId slider) {
+    return Translated(sliderNames[static_cast<std::size_t>(slider)]);
+}
+
+ControlStep StepBetween(const ControlValues& before, const ControlValues& after) {
+    if (before.projection != after.projection) {  // its effect comes with it
+        return {StepName(StepKind::Projection), std::nullopt};
+    }
+    std::optional<SliderId> moved;
+    for (const SliderRowData& row : SliderRows()) {
+        if (ValueOf(row.id, before) != ValueOf(row.id, after)) {
+            if (moved) {
+                return {StepName(StepKind::Adjustments), std::nullopt};
+            }
+            moved = row.id;
+        }
+    }
+    return {moved ? StepName(*moved) : StepName(StepKind::Adjustments), moved};
+}
+
+}  // namespace varnel

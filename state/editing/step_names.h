@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the steps that can be undone are called, in one table: the texts follow "Undo" and "Redo".
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "state/editing/slider_table.h"
+
+namespace varnel {
+
+enum class StepKind {
+    Projection,
+    Gear,
+    GearToAll,
+    GearNumbers,  // of a gear that was redefined
+    SettingsToAll,
+    Adjustments,  // several controls at once
+    Add,
+    Remove,
+    Reorder,
+    DroppedSettings,
+    Level,
+    Frame,
+    Circle,
+    ContactSheet,
+    OpenProject,
+    RestoreList,
+    Other
+};
+
+QString StepName(StepKind kind);
+// "rotate left/right": the slider's own caption, led by its group's name where there are two.
+QString StepName(SliderId slider);
+
+struct ControlStep {
+    QString name;
+    std::optional<SliderId> slider;  // when one slider alone was moved
+};
+
+// What was done when the controls of a photo went from one state to the other.
+ControlStep StepBetween(const ControlValues& before, const ControlValues& after);
+
+}  // namespace varnel

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Everything that Varnel knows of one photo: where it is, which gear took it and how it is to be
+// converted. A record owns copies of the gear's numbers; the projections read nothing else.
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+#include "base/bool16.h"
+#include "state/records/projection.h"
+
+namespace varnel {
+
+// Angles in degrees, effects and translations in percent, lengths on the sensor in millimetres,
+// circle-centre offsets in thousandths of the picture's width and height.
+struct ImageRecord {
+    std::int16_t Width = 0;   // pixels, as loaded
+    std::int16_t Height = 0;  // pixels, as loaded
+    Flag16 Landscape;         // Width >= Height
+    QString GearName;
+    QString CameraBrand;
+    QString CameraModel;
+    float SensorWidth = 0.0F;
+    float SensorHeight = 0.0F;
+    float CameraData1 = 0.0F;
+    float CameraData2 = 0.0F;
+    QString LensBrand;
+    QString LensModel;
+    float ImageCircleRadius = 0.0F;
+    float LensShift = 0.0F;
+    float LensData3 = 0.0F;
+    float LensMapScale = 0.0F;
+    float LensMapFactor = 0.0F;
+    std::int16_t Projection = 0;  // see ProjectionFromIndex
+    Flag16 SettingsApplied;       // while false, assigning a gear resets the adjustments
+    float OfsetX = 0.0F;          // spelled as in the settings; positive = right
+    float OfsetY = 0.0F;          // positive = toward the bottom of the picture
+    float Ratio = 0.0F;           // sensor width in percent of the circle's diameter
+    float InputAOV = 0.0F;
+    float OutputAOV = 0.0F;
+    float EffectVarnel = 0.0F;       // never below 0.1 when set from the controls
+    float EffectRectilinear = 0.0F;  // likewise
+    float RotateX = 0.0F;            // positive = down
+    float RotateY = 0.0F;            // positive = right
+    float RotateZ = 0.0F;            // positive = counter-clockwise
+    float TranslateX = 0.0F;         // positive = right
+    float TranslateY = 0.0F;         // positive = up
+    QString Folder;                  // without a trailing separator; the root is the empty text
+    QString FileName;                // with extension
+    QString NameSuffix;              // tells the frames of a morph sequence apart
+    std::int16_t Orientation = 1;    // EXIF orientation that was undone on loading
+
+    // Settings of later versions, as they were found in a picture: written back as they are.
+    QMap<QString, QString> FurtherSettings;
+
+    bool operator==(const ImageRecord&) const = default;
+};
+
+// The effect that a projection reads; nothing for Equidistance. Horizon reads that of Varnel, too.
+std::optional<float ImageRecord::*> EffectReadBy(Projection projection);
+
+// Folder and file name joined by "/".
+QString SourcePath(const ImageRecord& image);
+
+}  // namespace varnel

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/settings/autosaving_store.h"
+#include "base/error_text.h"
+
+namespace varnel {
+
+namespace {
+
+// ms; also long enough for a window that saves while it closes to end the program first: a box that
+// came up in between would be closed with it, unread.
+constexpr int settleDelay = 200;
+
+}  // namespace
+
+void TellOf(SettingsStore& store, Notices& notices) {
+    for (const Reason& reason : store.Settle()) {
+        notices.Tell(ToldReason(reason), {});
+    }
+}
+
+TellingStore::TellingStore(SettingsStore& store, Notices& notices) : store_(store) {
+    soon_.setSingleShot(true);
+    QObject::connect(&soon_, &QTimer::timeout, &soon_,
+                     [this, &notices] { TellOf(store_, notices); });
+}
+
+QString TellingStore::Get(const QString& section, const QString& key,
+                          const QString& fallback) const {
+    return store_.Get(section, key, fallback);
+}
+
+void TellingStore::Save(const QString& section, const QString& key, const QString& value) {
+    store_.Save(section, key, value);
+    soon_.start(settleDelay);
+}
+
+Reasons TellingStore::Settle() {
+    return store_.Settle();
+}
+
+}  // namespace varnel

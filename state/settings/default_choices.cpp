@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/settings/default_choices.h"
+
+#include <algorithm>
+
+#include "state/settings/setting_names.h"
+
+namespace varnel {
+
+int FileTypePosition(QStringView fileType) {
+    const auto* const found = std::find(fileTypeTexts.begin(), fileTypeTexts.end(), fileType);
+    return found == fileTypeTexts.end() ? 0 : static_cast<int>(found - fileTypeTexts.begin());
+}
+
+int LanguagePosition(QStringView code) {
+    const auto* const found = std::ranges::find_if(
+        languages, [&](const Language& language) { return language.code == code; });
+    return found == languages.end() ? 0 : static_cast<int>(found - languages.begin());
+}
+
+void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
+                  const GeneralSettings& settings) {
+    store.Save(setting::Gear, setting::DefaultGearName, defaultGearName);
+    const auto save = [&](QLatin1StringView key, const QString& text) {
+        store.Save(setting::General, key, text);
+    };
+    save(setting::PreviewWidth, QString::number(settings.PreviewWidth));
+    save(setting::PreviewHeight, QString::number(settings.PreviewHeight));
+    save(setting::FileType, settings.FileType);
+    save(setting::JpegCompression, QString::number(settings.JPEGcompression));
+    const auto saveFlag = [&](QLatin1StringView key, bool flag) {
+        save(key, QString::number(flag ? 1 : 0));
+    };
+    saveFlag(setting::JpegChroma444, settings.JPEGchroma444);
+    saveFlag(setting::AutoOrient, settings.AutoOrient);
+    saveFlag(setting::OfferGear, settings.OfferGear);
+    saveFlag(setting::WriteMetadata, settings.WriteMetadata);
+    saveFlag(setting::WriteSettings, settings.WriteSettings);
+    save(setting::Language, settings.Language);
+}
+
+}  // namespace varnel

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the user may choose as defaults, and how the choice is kept.
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringView>
+#include <array>
+
+#include "state/settings/general_settings.h"
+#include "state/settings/settings_store.h"
+
+namespace varnel {
+
+inline constexpr int smallestPreviewSide = 100;  // pixels, as the dialog offers it
+inline constexpr int lowestJpegQuality = 1;
+inline constexpr int highestJpegQuality = 100;
+
+// The texts of the setting "FileType" in the order of the dialog's list.
+inline constexpr std::array fileTypeTexts{QLatin1StringView("TIFF"), QLatin1StringView("JPEG"),
+                                          QLatin1StringView("BMP"), QLatin1StringView("PNG")};
+
+// The place of a file type in that list. Meant so: any other text is shown as the first one, and
+// the first run's "JPG" is such a text.
+int FileTypePosition(QStringView fileType);
+
+struct Language {
+    QLatin1StringView code;  // the setting "Language"
+    QStringView name;        // in that language
+};
+
+// The languages of the window in the order of the dialog's list. The first one is what stands in
+// the sources.
+inline constexpr std::array languages{Language{QLatin1StringView("en"), u"English"},
+                                      Language{QLatin1StringView("de"), u"Deutsch"}};
+
+// The place of a language in that list; any other text means the first one.
+int LanguagePosition(QStringView code);
+
+// Writes the default gear and the general settings, in this order: gear, width, height, file type,
+// quality, what is on or off, language.
+void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
+                  const GeneralSettings& settings);
+
+}  // namespace varnel

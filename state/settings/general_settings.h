@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the user chose for every photo: the preview's size and the form of the written files.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+#include "state/settings/settings_store.h"
+
+namespace varnel {
+
+inline constexpr int largestPreviewSide = 1000;  // pixels
+
+struct GeneralSettings {
+    int PreviewWidth = 400;
+    int PreviewHeight = 300;
+    QString FileType = QStringLiteral("JPG");  // "TIFF", "JPEG", "BMP" or "PNG" once chosen
+    std::int16_t JPEGcompression = 100;        // quality, percent
+    bool JPEGchroma444 = false;                // colour at full resolution
+    bool AutoOrient = true;                    // photos are turned upright as their EXIF says
+    bool OfferGear = true;                     // the gear that a photo's EXIF tells is offered
+    bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
+    bool WriteSettings = true;                 // the settings go into the result
+    QString Language = QStringLiteral("en");   // of the window, as code
+
+    bool operator==(const GeneralSettings&) const = default;
+};
+
+// A missing or unusable value gives the default; a preview side above the largest is cut to it. The
+// store is not rewritten.
+GeneralSettings LoadSettings(const SettingsStore& store);
+
+}  // namespace varnel

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Where settings are kept between runs: texts under a section and a key of the application Varnel.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringView>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "base/reason.h"
+
+namespace varnel {
+
+class SettingsStore {
+  public:
+    virtual ~SettingsStore() = default;
+    // The stored text, or the fallback when the key is missing.
+    virtual QString Get(const QString& section, const QString& key,
+                        const QString& fallback) const = 0;
+    virtual void Save(const QString& section, const QString& key, const QString& value) = 0;
+    // Makes what was saved last beyond this run, and returns what the user has to be told about the
+    // store since the last call: each event once.
+    virtual Reasons Settle() { return {}; }
+};
+
+// Keeps everything in memory.
+class MemoryStore : public SettingsStore {
+  public:
+    QString Get(const QString& section, const QString& key, const QString& fallback) const override;
+    void Save(const QString& section, const QString& key, const QString& value) override;
+    bool Contains(const QString& section, const QString& key) const;
+
+  private:
+    std::map<std::pair<QString, QString>, QString> values_;
+};
+
+// The store of this user: the file Varnel/Varnel.conf in the configuration folder, on Linux
+// $XDG_CONFIG_HOME or ~/.config. A section is its group, a key stands as it is. What other
+// processes save meanwhile stays, key by key; the last writer of a key wins. Damage does not lose
+// gears (see settings_guard.h); the moment dates a damaged file's name. Where nothing can be
+// written the values last for this run. Settled when it is closed, too.
+std::unique_ptr<SettingsStore> OpenUserStore(const QDateTime& now);
+std::unique_ptr<SettingsStore> OpenFileStore(const QString& path, const QDateTime& now);
+
+}  // namespace varnel

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The text of a settings file: sections in brackets, a line "key=text" for each value, comments
+// after semicolons, UTF-8. The same form as QSettings' INI files, which older releases wrote. The
+// first line promises a last one, so that a file that was cut is known from one that was edited.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <cstddef>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "base/reason.h"
+
+namespace varnel {
+
+// Texts by section and key. They keep the order in which they were first set: a damaged file is
+// read up to the damage, so the parts of one gear had better stand together.
+class SettingsValues {
+  public:
+    using Name = std::pair<QString, QString>;  // section, key
+    bool Empty() const { return values_.empty(); }
+    // Null when there is none.
+    const QString* Find(const QString& section, const QString& key) const;
+    void Set(const QString& section, const QString& key, const QString& text);
+    void Remove(const QString& section, const QString& key) { values_.erase({section, key}); }
+    void Merge(const SettingsValues& newer);
+    // Section after section.
+    std::vector<std::pair<Name, QString>> InOrder() const;
+
+  private:
+    struct Held {
+        QString text;
+        std::size_t position = 0;
+    };
+    std::map<Name, Held> values_;
+    std::size_t nextPosition_ = 0;
+};
+
+struct SettingsReading {
+    SettingsValues values;  // of a damaged file, what could still be read
+    Reason damage;          // empty when the file is whole
+};
+
+SettingsReading ReadSettingsText(const QByteArray& bytes);
+QByteArray SettingsText(const SettingsValues& values);
+
+}  // namespace varnel

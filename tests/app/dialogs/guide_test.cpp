@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The user guide's window, and that the controls which the guide names are there.
+
+#include <gtest/gtest.h>
+
+#include <QDirIterator>
+#include <QGroupBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QTextBlock>
+
+#include "app/dialogs/form_guide.h"
+#include "tests/support/window_desk.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+QString StartPage() {
+    return GuideStartPage(QCoreApplication::applicationDirPath());
+}
+
+QStringList Pages() {
+    return QDir(QFileInfo(StartPage()).path()).entryList({Q("*.md")}, QDir::Files);
+}
+
+QString TextOf(const QString& path) {
+    return QString::fromUtf8(testing::Contents(path));
+}
+
+QString PageText(const QString& page) {
+    return TextOf(QFileInfo(StartPage()).dir().filePath(page));
+}
+
+QStringList Matches(const QString& text, const char* pattern) {
+    QStringList found;
+    for (const auto& match : QRegularExpression(Q(pattern)).globalMatch(text)) {
+        found.append(match.captured(1));
+    }
+    return found;
+}
+
+QString Plain(QString text) {
+    return text.remove(u'&').section(u'\t', 0, 0);
+}
+
+// Menu entries as "File, Exit", and the texts of all controls, those of the dialogs included.
+QStringList ShownTexts(testing::WindowDesk& desk) {
+    QStringList texts;
+    for (const QMenu* const menu : desk.window.findChildren<QMenu*>()) {
+        for (const QAction* const entry : menu->actions()) {
+            texts.append(Plain(menu->title()) + Q(", ") + Plain(entry->text()));
+        }
+    }
+    for (const QWidget* const widget : desk.window.findChildren<QWidget*>()) {
+        for (const char* const property : {"text", "title"}) {
+            texts.append(Plain(widget->property(property).toString()));
+        }
+    }
+    QDirIterator forms(Q(VARNEL_TREE), {Q("*.ui")}, QDir::Files, QDirIterator::Subdirectories);
+    while (forms.hasNext()) {
+        for (QString text : Matches(TextOf(forms.next()),
+                                    R"re(name="(?:text|title)">\s*<string[^>]*>([^<]+)<)re")) {
+            texts.append(Plain(text.replace(Q("&amp;"), Q("&"))));
+        }
+    }
+    return texts;
+}
+
+TEST(Guide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
+    testing::WindowDesk desk;
+    const QStringList shown = ShownTexts(desk);
+    for (const QString& page : Pages()) {
+        for (const QString& name : Matches(PageText(page), R"(\*\*([^*]+)\*\*)")) {
+            EXPECT_TRUE(shown.contains(QString(name).replace(u'\n', u' ')))
+                << qPrintable(page) << ": " << qPrintable(name);
+        }
+    }
+}
+
+// The first key of every entry, and all keys without an entry. Escape leaves many things; the
+// defaults have a key on some desktops only.
+QStringList RealKeys(const QWidget& window) {
+    QStringList keys;
+    for (const QAction* const action : window.findChildren<QAction*>()) {
+        if (action->objectName() != Q("CmdSetupSetup")) {
+            keys.append(action->shortcut().toString(QKeySequence::PortableText));
+        }
+    }
+    for (const QShortcut* const shortcut : window.findChildren<QShortcut*>()) {
+        keys.append(shortcut->key().toString(QKeySequence::PortableText));
+    }
+    keys.removeAll(QString());
+    keys.removeAll(Q("Esc"));
+    keys.sort();
+    return keys;
+}
+
+// Those of one cell after the other: "Ctrl+O, Del", "Ctrl+1 to Ctrl+4". Others are no shortcuts.
+QStringList ToldKeys(const QStringList& cells) {
+    static const QRegularExpression isKey(Q(R"(^((Ctrl|Alt|Shift)\+)+\S$|^F\d+$|^Del$)"));
+    static const QRegularExpression range(Q(R"(^(.*)(\d) to .*(\d)$)"));
+    QStringList keys;
+    for (const QString& cell : cells) {
+        for (const QString& told : cell.split(Q(", "))) {
+            const auto row = range.match(told);
+            for (int n = row.captured(2).toInt(); n <= row.captured(3).toInt(); ++n) {
+                keys.append(row.hasMatch() ? row.captured(1) + QString::number(n) : told);
+            }
+        }
+    }
+    keys = keys.filter(isKey);
+    keys.sort();
+    return keys;
+}
+
+TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
+    testing::WindowDesk desk;
+    const QStringList real = RealKeys(desk.window);
+    const QString table = PageText(Q("steering.md")).section(Q("## Keys"), 1);
+    EXPECT_EQ(ToldKeys(Matches(table, R"((?m)^\| ([^|]+) \|)")), real);
+    QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
+    manual = manual.section(Q(".SH KEYS"), 1).section(Q(".SH OPTIONS"), 0, 0).remove(u'\\');
+    EXPECT_EQ(ToldKeys(Matches(manual, R"((?m)^\.B (.+)$)")), real);
+}
+
+TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {
+    testing::WindowDesk desk;
+    for (int times = 0; times < 2; ++times) {
+        desk.Entry("CmdGuide")->trigger();
+    }
+    const auto forms = desk.window.findChildren<FormGuide*>();
+    ASSERT_EQ(forms.size(), 1);
+    EXPECT_TRUE(forms.front()->isVisible());
+    EXPECT_TRUE(desk.notices.texts.isEmpty());
+    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))), QString());
+    QDir(desk.files.Path({})).mkpath(Q("share/varnel/guide"));
+    testing::WriteFile(desk.files.Path(Q("share/varnel/guide/index.md")), "# Here");
+    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))),
+              QFileInfo(desk.files.Path(Q("share/varnel/guide/index.md"))).absoluteFilePath());
+}
+
+TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
+    FormGuide form(StartPage());
+    form.resize(500, 500);
+    form.show();
+    auto* const text = form.findChild<GuideText*>();
+    const auto page = [text] { return text->source().fileName(); };
+    const auto click = [&form](const char* name) {
+        form.findChild<QPushButton*>(Q(name))->click();
+    };
+    auto* const wanted = form.findChild<QLineEdit*>();
+    const auto find = [wanted](const char* words) {
+        wanted->setFocus();
+        wanted->setText(Q(words));
+        QTest::keyClick(wanted, Qt::Key_Return);
+    };
+    find("orthographic");
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    EXPECT_EQ(text->textCursor().selectedText(), Q("orthographic"));
+    find("no such word anywhere");
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    const double margin = text->document()->documentMargin();
+    click("CmdGuideBack");
+    EXPECT_EQ(page(), Q("index.md"));
+    EXPECT_EQ(text->document()->documentMargin(), margin);
+    EXPECT_EQ(text->document()->lastBlock().blockFormat().lineHeightType(),
+              QTextBlockFormat::LineDistanceHeight);
+    click("CmdGuideForward");
+    text->moveCursor(QTextCursor::Start);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    click("CmdGuideContents");
+    EXPECT_EQ(page(), Q("index.md"));
+    find("Magnification map");
+    const QVariant picture =
+        text->loadResource(QTextDocument::ImageResource, QUrl(Q("pictures/window.jpg")));
+    EXPECT_GT(picture.value<QImage>().width(), 200);
+    EXPECT_LT(picture.value<QImage>().width(), text->viewport()->width());
+}
+
+}  // namespace
+}  // namespace varnel

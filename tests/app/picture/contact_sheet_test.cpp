@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <gtest/gtest.h>
+
+#include "app/picture/contact_sheet_box.h"
+#include "tests/support/window_desk.h"
+
+namespace varnel {
+namespace {
+
+TEST(ContactSheet, OpensWithAKeyAndAdoptsTheTileThatIsClicked) {
+    testing::WindowDesk desk;
+    auto* const sheet = desk.Find<ContactSheetBox>("ContactSheet");
+    desk.Entry("CmdContactSheet")->trigger();
+    EXPECT_FALSE(sheet->isVisible());  // no photo, nothing to choose from
+    desk.AddPhotos({QStringLiteral("a"), QStringLiteral("b")}, {300, 200});
+    desk.Record(1).RotateY = 5.0F;
+    desk.Record(1).SettingsApplied = true;
+    desk.Entry("CmdContactSheet")->trigger();
+    ASSERT_TRUE(sheet->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->IsDrawn(); }));
+    ASSERT_EQ(sheet->Tiles().size(), 12U);
+    for (std::size_t tile = 0; tile < sheet->Tiles().size(); ++tile) {
+        EXPECT_FALSE(sheet->Picture(tile).isNull()) << tile;
+        EXPECT_TRUE(sheet->rect().contains(sheet->CellOf(tile))) << tile;
+    }
+    constexpr std::size_t rectilinear75 = 4;
+    QTest::mouseClick(sheet, Qt::LeftButton, {}, sheet->CellOf(rectilinear75).center());
+    EXPECT_FALSE(sheet->isVisible());
+    EXPECT_EQ(desk.Record(1).Projection, 1);
+    EXPECT_EQ(desk.Record(1).EffectRectilinear, 75.0F);
+    EXPECT_EQ(desk.Record(1).RotateY, 5.0F);
+    EXPECT_EQ(desk.Record(2).Projection, 0);
+    EXPECT_EQ(desk.Slider("SliderEffect")->value(), 75);
+
+    desk.Entry("CmdContactSheet")->trigger();
+    QTest::keyClick(sheet, Qt::Key_Down);
+    QTest::keyClick(sheet, Qt::Key_Return);
+    EXPECT_EQ(desk.Record(1).Projection, 2);
+    desk.Entry("CmdContactSheet")->trigger();
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    EXPECT_FALSE(sheet->isVisible());
+    EXPECT_EQ(desk.Record(1).Projection, 2);
+}
+
+}  // namespace
+}  // namespace varnel

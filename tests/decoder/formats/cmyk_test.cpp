@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Photos in printing inks.
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "base/error_text.h"
+#include "remap/encode/freeimage_encoder.h"
+#include "tests/decoder/formats/decoding.h"
+#include "tests/support/bitmaps.h"
+#include "tests/support/seeds/profiles.h"
+
+namespace varnel {
+namespace {
+
+// Inks in percent and what becomes of them by the profile: L* is 100 - black - 0.4 cyan.
+constexpr struct {
+    std::array<int, 4> inks;
+    int grey;
+} colours[] = {{{0, 0, 0, 0}, 255},      // paper
+               {{0, 0, 0, 100}, 0},      //
+               {{0, 100, 100, 0}, 255},  // would be red
+               {{100, 0, 0, 0}, 145},    // L* 60, would be cyan
+               {{0, 0, 0, 50}, 119}};    // L* 50, would be 128
+constexpr int side = 16;                 // pixels of each colour
+
+// 16 rows, 16 columns of each colour.
+QByteArray Inked(FREE_IMAGE_FORMAT format, int flags, bool withProfile) {
+    const BitmapHandle bitmap(FreeImage_Allocate(side * std::size(colours), side, 32));
+    for (int y = 0; y < side; ++y) {
+        BYTE* row = FreeImage_GetScanLine(bitmap.get(), y);
+        for (int x = 0; x < side * static_cast<int>(std::size(colours)); ++x) {
+            for (const int ink : colours[x / side].inks) {
+                *row++ = static_cast<BYTE>((ink * 255 + 50) / 100);
+            }
+        }
+    }
+    QByteArray profile = withProfile ? testing::InkProfile() : QByteArray();
+    FreeImage_CreateICCProfile(bitmap.get(), profile.data(), static_cast<long>(profile.size()));
+    FreeImage_GetICCProfile(bitmap.get())->flags |= FIICC_COLOR_IS_CMYK;
+    return LibraryFile(format, bitmap.get(), flags).bytes;
+}
+
+TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
+    for (const QByteArray& file :
+         {Inked(FIF_JPEG, 100, true), Inked(FIF_TIFF, TIFF_CMYK | TIFF_LZW, true)}) {
+        const LoadedPicture picture = testing::Decode(file);
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        EXPECT_EQ(FreeImage_GetICCProfile(picture.bitmap.get())->data, nullptr);
+        for (std::size_t n = 0; n < std::size(colours); ++n) {
+            const RGBQUAD colour =
+                testing::PixelAt(picture.bitmap.get(), static_cast<int>(n) * side + side / 2, 5);
+            for (const int value : {colour.rgbRed, colour.rgbGreen, colour.rgbBlue}) {
+                EXPECT_NEAR(value, colours[n].grey, 2)
+                    << n << (file.startsWith("\xFF") ? 'j' : 't');
+            }
+        }
+    }
+}
+
+TEST(DecodePicture, InksWithoutAProfileAreTakenByRuleOfThumb) {
+    const LoadedPicture picture = testing::Decode(Inked(FIF_JPEG, 100, false));
+    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+    const RGBQUAD cyan = testing::PixelAt(picture.bitmap.get(), 3 * side + side / 2, 5);
+    EXPECT_LT(cyan.rgbRed, 20);
+    EXPECT_GT(cyan.rgbBlue, 200);
+}
+
+}  // namespace
+}  // namespace varnel

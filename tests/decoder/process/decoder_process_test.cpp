@@ -1,0 +1,357 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The decoder as a process: dying, hanging, lying, and leaving nothing behind.
+
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <csignal>
+#include <functional>
+#include <thread>
+
+#include "base/error_text.h"
+#include "decoder/process/decoder_reader.h"
+#include "decoder/process/protocol.h"
+#include "decoder/process/sandbox.h"
+#include "tests/support/files.h"
+#include "tests/support/seeds/described_files.h"
+#include "tests/support/texts.h"
+
+namespace varnel {
+namespace {
+
+using testing::PictureFolder;
+using testing::Text;
+
+QByteArray ProcessStatus(pid_t id) {
+    return testing::Contents(Text("/proc/%1/status").arg(id));
+}
+
+TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
+    const PictureFolder folder;
+    BitmapHandle photo = testing::PositionPicture({300, 200});
+    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "Küste");
+    FreeImage_SetMetadataKeyValue(
+        FIMD_XMP, photo.get(), "XMLPacket",
+        "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
+        "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/"
+        "elements/1.1/' dc:source='a lake'/></rdf:RDF>");
+    FreeImage_SetDotsPerMeterX(photo.get(), 11811);
+    ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Text("a")), 90));
+    const BitmapHandle direct(FreeImage_Load(
+        FIF_JPEG, QFile::encodeName(folder.Path(Text("a"))).constData(), JPEG_ACCURATE));
+    DecoderReader reader({});
+    for (int round = 0; round < 3; ++round) {
+        const LoadedPicture picture = ReadPicture(reader, {folder.Path(Text("a"))});
+        ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
+        FIBITMAP* const bitmap = picture.bitmap.get();
+        EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
+        EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
+        EXPECT_EQ(FreeImage_GetDotsPerMeterX(bitmap), 11811U);
+        EXPECT_TRUE(MetadataOf(bitmap).xmp.contains("a lake"));
+        EXPECT_TRUE(MetadataOf(bitmap).notes.isEmpty());
+    }
+}
+
+TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
+    const PictureFolder folder;
+    folder.Picture(Text("a"), FIF_PNG);
+    folder.Picture(Text("b"), FIF_PNG, {90, 20});
+    auto reader = std::make_unique<DecoderReader>(ReaderOptions{});
+    const LoadedPicture a = ReadPicture(*reader, {folder.Path(Text("a"))});
+    const LoadedPicture b = ReadPicture(*reader, {folder.Path(Text("b"))});
+    reader.reset();
+    EXPECT_EQ(testing::PixelAt(a.bitmap.get(), 50, 30).rgbBlue, 50);
+    EXPECT_EQ(testing::PixelAt(b.bitmap.get(), 80, 10).rgbBlue, 80);
+}
+
+TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
+    const PictureFolder folder;
+    const QString path = folder.Picture(Text("a.jpg"), FIF_JPEG, {900, 600});
+    DecoderReader reader({});
+    const LoadedPicture whole = ReadPicture(reader, {path});
+    ASSERT_TRUE(whole.bitmap);
+    for (int n = 0; n < 100; ++n) {
+        const pid_t victim = reader.ProcessId();
+        reader.Begin({path});
+        usleep(static_cast<useconds_t>(n * 137 % 10'000));
+        if (reader.ProcessId() == victim) {
+            kill(victim, SIGKILL);
+        }
+        while (!reader.Wait(50)) {
+        }
+        const LoadedPicture picture = reader.Take();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
+            << n << ToldReason(picture.reason).toStdString();
+        EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), whole.bitmap.get()));
+    }
+}
+
+// In place of the decoder: something that does not do as it should.
+QString Impostor(const PictureFolder& folder, const char* script) {
+    QString path = folder.Path(Text("impostor"));
+    testing::WriteFile(path, QByteArray("#!/bin/sh\n") + script);
+    QFile::setPermissions(path, QFile::Permissions(0x7700));
+    return path;
+}
+
+TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
+    const PictureFolder folder;
+    const QString photo = folder.Picture(Text("a.png"), FIF_PNG);
+    const struct {
+        QString program;
+        const char* reason;
+    } rows[] = {
+        {Impostor(folder, "exec sleep 60\n"), "took too long (more than 1 seconds)"},
+        {folder.Path(Text("none")), "the decoder could not be started ("},
+    };
+    for (const auto& row : rows) {
+        DecoderReader reader({.program = row.program, .secondsPerPhoto = 1});
+        QElapsedTimer timer;
+        timer.start();
+        const LoadedPicture picture = ReadPicture(reader, {photo});
+        EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
+        const QString reason = ToldReason(picture.reason);
+        EXPECT_TRUE(reason.startsWith(Text(row.reason))) << reason.toStdString();
+        EXPECT_LT(timer.elapsed(), 20'000);
+    }
+    const struct {
+        const char* script;
+        const char* reason;
+    } dying[] = {
+        {"sleep 0.3\nkill -SEGV $$\n", "damaged: the decoder died of it (signal 11)"},
+        {"sleep 0.3\nkill -SYS $$\n", "damaged: the decoder tried something forbidden"},
+        {"sleep 0.3\nkill -XCPU $$\n", "took too long (more than 30 seconds)"},
+        {"sleep 0.3\nexit 0\n", "damaged: the decoder gave up on it"},
+        {"sleep 0.3\nprintf x >&3\nexec sleep 5\n", "damaged: the decoder gave up on it"},
+    };
+    for (const auto& row : dying) {
+        DecoderReader reader({.program = Impostor(folder, row.script)});
+        EXPECT_EQ(ToldReason(ReadPicture(reader, {photo}).reason).toStdString(), row.reason);
+    }
+}
+
+TEST(DecoderReader, CanBeCancelledAndGoesOnWithTheNextPhoto) {
+    const PictureFolder folder;
+    const QString photo = folder.Picture(Text("a.jpg"), FIF_JPEG, {2000, 1500});
+    DecoderReader reader({});
+    const LoadedPicture given = ReadPicture(reader, {photo}, [] { return false; });
+    EXPECT_TRUE(given.bitmap || given.reason.Is(ReasonCode::Cancelled));
+    reader.Begin({photo});
+    reader.Cancel();
+    EXPECT_TRUE(ReadPicture(reader, {photo}).bitmap);
+}
+
+TEST(DecoderReader, LeavesNoProcessBehindAndEndsWithItsParent) {
+    pid_t left = 0;
+    {
+        DecoderReader reader({});
+        left = reader.ProcessId();
+        EXPECT_EQ(kill(left, 0), 0);
+    }
+    EXPECT_NE(kill(left, 0), 0);
+    // A parent that is killed cannot clean up.
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const pid_t parent = fork();
+    if (parent == 0) {
+        DecoderReader reader({});
+        const pid_t id = reader.ProcessId();
+        (void)!write(ends[1], &id, sizeof id);
+        pause();
+    }
+    pid_t orphan = 0;
+    ASSERT_EQ(read(ends[0], &orphan, sizeof orphan), static_cast<ssize_t>(sizeof orphan));
+    while (!ProcessStatus(orphan).contains("NoNewPrivs:\t1")) {  // it has begun
+        sched_yield();
+    }
+    kill(parent, SIGKILL);
+    waitpid(parent, nullptr, 0);
+    // Gone, or dead and waiting for whoever inherited it.
+    for (int n = 0; n < 100 && !ProcessStatus(orphan).isEmpty() &&
+                    !ProcessStatus(orphan).contains("State:\tZ");
+         ++n) {
+        usleep(50'000);
+    }
+    EXPECT_TRUE(ProcessStatus(orphan).isEmpty() || ProcessStatus(orphan).contains("State:\tZ"));
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST(DecoderReader, TellsOfWhatItMayNotDoAndGoesOn) {
+    const PictureFolder folder;
+    DecoderReader reader({.program = QStringLiteral(VARNEL_DYING_DECODER)});
+    testing::WriteFile(folder.Path(Text("a")), "forbidden at once");
+    testing::WriteFile(folder.Path(Text("b")), "sound");
+    if (!sanitized && prctl(PR_GET_SECCOMP) >= 0) {
+        EXPECT_EQ(ReadPicture(reader, {folder.Path(Text("a"))}).reason,
+                  Reason(ReasonCode::DecoderTriedForbiddenCall, SYS_socket));
+    }
+    EXPECT_TRUE(ReadPicture(reader, {folder.Path(Text("b"))}).bitmap);
+}
+
+// The lens's name comes from a table; on the way to it the user's accounts are asked for, again and
+// again and at last in ways of their own.
+TEST(DecoderReader, OneProcessNamesManyLenses) {
+    const PictureFolder folder;
+    const QString photo = folder.Path(Text("photo.jpg"));
+    testing::WriteFile(photo, testing::DescribedJpeg(testing::SoundBlocks(false)));
+    DecoderReader reader({});
+    const pid_t first = reader.ProcessId();
+    for (int n = 0; n < 150; ++n) {
+        const LoadedPicture facts = ReadPicture(reader, {.path = photo, .kind = ReadKind::Facts});
+        ASSERT_TRUE(facts.facts.notes.isEmpty()) << n;
+        ASSERT_TRUE(facts.facts.origin.LensModel.contains(Text("mm"))) << n;
+    }
+    EXPECT_EQ(reader.ProcessId(), first);
+}
+
+TEST(DecoderReader, HasNoRightsNoSecretsAndLimitsThatStay) {
+    const PictureFolder folder;
+    qputenv("VARNEL_SECRET", "a password");
+    DecoderReader reader({});
+    qunsetenv("VARNEL_SECRET");
+    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), FIF_PNG)}).bitmap);
+    EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("NoNewPrivs:\t1"));
+    const auto has = [&](const char* limit) {
+        return QString::fromUtf8(testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId())))
+            .contains(QRegularExpression(Text(limit)));
+    };
+    EXPECT_TRUE(has("Max core file size +0 "));
+    if (!sanitized) {
+        EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("CapEff:\t0000000000000000"));
+        EXPECT_TRUE(has("Max address space +\\d+ +\\d+ "));
+        EXPECT_TRUE(has("Max file size +\\d+ +\\d+ "));
+        EXPECT_FALSE(testing::Contents(Text("/proc/%1/environ").arg(reader.ProcessId()))
+                         .contains("a password"));
+    }
+}
+
+TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {
+    const PictureFolder folder;
+    const QString path = folder.Path(Text("a.jpg"));
+    const QByteArray one = testing::Contents(folder.Picture(Text("one"), FIF_JPEG, {900, 600}));
+    const QByteArray two = testing::Contents(folder.Picture(Text("two"), FIF_JPEG, {600, 900}));
+    testing::WriteFile(path, one);
+    DecoderReader reader({});
+    for (int n = 0; n < 30; ++n) {
+        reader.Begin({path});
+        usleep(static_cast<useconds_t>(n * 211 % 6000));
+        if (n % 3 == 0) {
+            QFile::resize(path, one.size() / 2);
+        } else {
+            testing::WriteFile(path + u'n', n % 2 == 0 ? one : two);
+            ASSERT_EQ(rename(QFile::encodeName(path + u'n'), QFile::encodeName(path)), 0);
+        }
+        while (!reader.Wait(50)) {
+        }
+        const LoadedPicture picture = reader.Take();
+        EXPECT_EQ(picture.reason.isEmpty(), picture.outcome == LoadOutcome::Loaded);
+        if (picture.bitmap) {
+            const PixelSize size = SizeOf(picture.bitmap.get());
+            EXPECT_EQ(size.width * size.height, 900 * 600);
+        }
+    }
+}
+
+// Each row spoils one number of an answer that is believed.
+TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
+    const DecoderRequest request{7, ReadKind::Whole, {}, std::uint64_t{1} << 32, 30};
+    DecoderAnswer good;
+    good.number = 7;
+    good.size = good.bitmap = {101, 50};
+    good.pitch = 304;
+    good.extrasLength = 20;
+    constexpr std::uint64_t length = 304 * 50 + 20;
+    ASSERT_TRUE(Believable(good, request, length));
+    ASSERT_FALSE(Believable(good, request, length - 1));
+    const std::function<void(DecoderAnswer&)> spoil[] = {
+        [](DecoderAnswer& a) { a.number = 6; },
+        [](DecoderAnswer& a) { a.outcome = 3; },
+        [](DecoderAnswer& a) { a.outcome = 2; },  // nothing loaded, and yet pixels
+        [](DecoderAnswer& a) { a.bitmap = {}; },
+        [](DecoderAnswer& a) { a.bitmap.height = -50; },
+        [](DecoderAnswer& a) { a.size.width = 102; },
+        [](DecoderAnswer& a) {
+            a.size = a.bitmap = {101, 51};
+        },
+        [](DecoderAnswer& a) {
+            a.size = a.bitmap = {40'000, 1};
+        },
+        [](DecoderAnswer& a) { a.pitch = 303; },
+        [](DecoderAnswer& a) { a.pitch = 0x80000130; },
+        [](DecoderAnswer& a) { a.extrasLength = 21; },
+        [](DecoderAnswer& a) { a.extrasLength = ~std::uint64_t{0} - 15'000; },
+        [](DecoderAnswer& a) { a.orientation = 0; },
+        [](DecoderAnswer& a) { a.orientation = 9; },
+        [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; },
+        [](DecoderAnswer& a) { a.reasonLength = 1; },
+        [](DecoderAnswer& a) { a.outcome = 1; },  // damaged, and yet no reason
+        [](DecoderAnswer& a) { SetReason(a, ReasonCode::FileCutShort); },
+        [](DecoderAnswer& a) {
+            a.outcome = 1;
+            SetReason(a, ReasonCode::Cancelled);
+        }};
+    for (std::size_t n = 0; n < std::size(spoil); ++n) {
+        DecoderAnswer spoilt = good;
+        spoil[n](spoilt);
+        EXPECT_FALSE(Believable(spoilt, request, length)) << n;
+    }
+    DecoderRequest asStored = request;
+    asStored.upright = false;
+    EXPECT_TRUE(Believable(good, asStored, length));
+    DecoderAnswer turned = good;
+    turned.orientation = 8;
+    EXPECT_TRUE(Believable(turned, request, length));
+    EXPECT_FALSE(Believable(turned, asStored, length));
+    DecoderRequest small = request;
+    small.kind = ReadKind::Small;
+    small.box = {100, 100};
+    EXPECT_FALSE(Believable(good, small, length));
+    small.kind = ReadKind::Size;
+    EXPECT_FALSE(Believable(good, small, length));
+}
+
+TEST(ReasonOf, CutsOnlyTextsThatAreTooLong) {
+    for (const qsizetype length : {0, 512, 5000}) {
+        const QString words(length, QChar(0xFFFD));
+        DecoderAnswer answer;
+        SetReason(answer, {ReasonCode::Added, ReasonCode::CannotBeDecoded, words});
+        ASSERT_TRUE(ReasonOf(answer));
+        EXPECT_EQ(*ReasonOf(answer), Reason(ReasonCode::Added, ReasonCode::CannotBeDecoded,
+                                            words.left(length > 512 ? 500 : length)));
+    }
+}
+
+TEST(TakeExtras, GivesWhatIsSoundOfAnyBytes) {
+    BitmapHandle photo = testing::PositionPicture({4, 4});
+    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "text");
+    FreeImage_SetMetadataKeyValue(FIMD_EXIF_MAIN, photo.get(), "Make", "maker");
+    const QByteArray block = PackExtras(photo.get());
+    for (qsizetype length = 0; length < block.size(); ++length) {
+        const BitmapHandle cut = testing::PositionPicture({4, 4});
+        TakeExtras(block.left(length), cut.get());
+        EXPECT_LT(FreeImage_GetMetadataCount(FIMD_COMMENTS, cut.get()) +
+                      FreeImage_GetMetadataCount(FIMD_EXIF_MAIN, cut.get()),
+                  2U);
+    }
+    for (qsizetype place = 8; place < block.size(); ++place) {  // after the resolution
+        for (const char value : {'\0', '\x7F', '\xFF'}) {
+            QByteArray spoilt = block;
+            spoilt[place] = value;
+            const BitmapHandle taken = testing::PositionPicture({4, 4});
+            TakeExtras(spoilt, taken.get());
+            EXPECT_LE(PackExtras(taken.get()).size(), block.size());
+        }
+    }
+}
+
+}  // namespace
+}  // namespace varnel

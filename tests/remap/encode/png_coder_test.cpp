@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/png_coder.h"
+
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+#include <QtEndian>
+#include <algorithm>
+#include <random>
+
+#include "base/thread_runner.h"
+#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/png_filter.h"
+#include "remap/encode/png_frame.h"
+#include "tests/support/bitmaps.h"
+#include "tests/support/runners.h"
+#include "tests/support/seeds/file_bytes.h"
+#include "tests/support/seeds/seed_files.h"
+
+namespace varnel {
+namespace {
+
+using testing::PngChunk;
+using Bytes = std::vector<std::uint8_t>;
+
+// All chunks but the pixels', with what is wrong with any of them; the pixels' data joined.
+struct Parts {
+    QByteArray others;
+    QByteArray pixels;
+    int pixelChunks = 0;
+    bool sound = true;
+};
+
+Parts PartsOf(const QByteArray& file) {
+    Parts parts{file.left(8), {}};
+    for (qsizetype at = 8; at < file.size();) {
+        const auto length = qFromBigEndian<qint32>(file.constData() + at);
+        const QByteArray chunk = file.mid(at, length + 12);
+        const QByteArray data = chunk.mid(8, length);
+        const bool isPixels = chunk.mid(4, 4) == "IDAT";
+        parts.sound = parts.sound && chunk == PngChunk(chunk.mid(4, 4).constData(), data);
+        parts.pixelChunks += isPixels ? 1 : 0;
+        (isPixels ? parts.pixels : parts.others) += isPixels ? data : chunk;
+        at += chunk.size();
+    }
+    return parts;
+}
+
+// Stripes, a slope, noise and black, one below the other.
+BitmapHandle Mixture(PixelSize size) {
+    std::mt19937 random(7);
+    return testing::Painted(size, [&](int x, int y) {
+        const auto grain = static_cast<BYTE>(random());
+        const RGBQUAD kinds[] = {{static_cast<BYTE>(x % 7 * 30), static_cast<BYTE>(x / 9), 200, 0},
+                                 {static_cast<BYTE>(x), static_cast<BYTE>(y), 7, 0},
+                                 {grain, static_cast<BYTE>(random()), 90, 0},
+                                 {}};
+        return kinds[y / 5 % 4];
+    });
+}
+
+TEST(EncodePng, WritesThePixelsInSoundChunksWhateverTheRunner) {
+    const struct {
+        PixelSize size;
+        int pixelChunks;  // one for each band of 512 kB, and the checksum
+    } cases[] = {{{1, 1}, 2},      {{1, 40}, 2},     {{40, 1}, 2},     {{3, 2}, 2},
+                 {{257, 129}, 2},  {{1000, 174}, 2}, {{1000, 175}, 3}, {{1000, 348}, 3},
+                 {{1000, 349}, 4}, {{200000, 3}, 4}};
+    for (const auto& [size, pixelChunks] : cases) {
+        SCOPED_TRACE(::testing::Message() << size.width << " x " << size.height);
+        const BitmapHandle bitmap = Mixture(size);
+        SerialRunner serial;
+        const auto file = EncodePng(bitmap.get(), serial);
+        ASSERT_TRUE(file);
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, *file).get(), bitmap.get()));
+        const Parts parts = PartsOf(*file);
+        EXPECT_TRUE(parts.sound);
+        EXPECT_EQ(parts.pixelChunks, pixelChunks);
+        Bytes filtered(static_cast<std::size_t>(size.height) * (1 + 3 * size.width));
+        uLongf length = filtered.size();
+        // Looks at the checksum, which the library does not.
+        EXPECT_EQ(uncompress(filtered.data(), &length,
+                             reinterpret_cast<const Bytef*>(parts.pixels.constData()),
+                             static_cast<uLong>(parts.pixels.size())),
+                  Z_OK);
+        EXPECT_EQ(length, filtered.size());
+        testing::ShuffledRunner shuffled(3);
+        ThreadRunner threads(3);
+        EXPECT_EQ(EncodePng(bitmap.get(), shuffled), file);
+        EXPECT_EQ(EncodePng(bitmap.get(), threads), file);
+    }
+}
+
+void AddText(FIBITMAP* bitmap, FREE_IMAGE_MDMODEL model, const char* key, QByteArray text) {
+    FITAG* const tag = FreeImage_CreateTag();
+    FreeImage_SetTagKey(tag, key);
+    FreeImage_SetTagType(tag, FIDT_ASCII);
+    FreeImage_SetTagLength(tag, static_cast<DWORD>(text.size() + 1));
+    FreeImage_SetTagCount(tag, static_cast<DWORD>(text.size() + 1));
+    FreeImage_SetTagValue(tag, text.constData());
+    FreeImage_SetMetadata(model, bitmap, key, tag);
+    FreeImage_DeleteTag(tag);
+}
+
+// Each with a word that the library then writes beside the usual ones.
+TEST(EncodePng, WritesTheOtherChunksAsTheLibraryDoes) {
+    const struct {
+        const char* word;
+        void (*change)(FIBITMAP*);
+    } cases[] = {
+        {"IEND", [](FIBITMAP*) {}},
+        {"pHYs", [](FIBITMAP* bitmap) { FreeImage_SetDotsPerMeterX(bitmap, 11811); }},
+        {"iTXt",
+         [](FIBITMAP* bitmap) { AddText(bitmap, FIMD_COMMENTS, "Comment", "seen from below"); }},
+        {"adobe.xmp",
+         [](FIBITMAP* bitmap) { AddText(bitmap, FIMD_XMP, "XMLPacket", "<x:xmpmeta/>"); }},
+        {"iCCP",
+         [](FIBITMAP* bitmap) {
+             QByteArray profile = testing::ColourProfile();
+             FreeImage_CreateICCProfile(bitmap, profile.data(), static_cast<long>(profile.size()));
+         }},
+    };
+    for (const auto& [word, change] : cases) {
+        SCOPED_TRACE(word);
+        const BitmapHandle bitmap = Mixture({70, 30});
+        change(bitmap.get());
+        SerialRunner runner;
+        const auto file = EncodePng(bitmap.get(), runner);
+        ASSERT_TRUE(file);
+        const QByteArray others = PartsOf(*file).others;
+        EXPECT_TRUE(others.contains(word));
+        EXPECT_EQ(others, PartsOf(LibraryFile(FIF_PNG, bitmap.get(), 0).bytes).others);
+    }
+}
+
+// A grey photo's three equal channels are no runs; black and noise are nothing but runs.
+TEST(EncodePng, GrowsTheFileByLessThanATenth) {
+    std::mt19937 random(5);
+    const PixelSize size{700, 500};
+    const BitmapHandle photos[] = {
+        testing::Painted(size,
+                         [&](int x, int y) {
+                             const auto grey = static_cast<BYTE>((x + y) / 6 + random() % 3);
+                             return RGBQUAD{grey, grey, grey, 0};
+                         }),
+        testing::Painted(size, [&](int x, int y) {
+            const auto noise = [&] { return static_cast<BYTE>(x / 4 + random() % 6); };
+            return y < 250 ? black : RGBQUAD{noise(), noise(), noise(), 0};
+        })};
+    for (const BitmapHandle& photo : photos) {
+        SerialRunner runner;
+        const auto ours = static_cast<double>(EncodePng(photo.get(), runner).value().size());
+        EXPECT_LT(ours,
+                  1.1 * static_cast<double>(LibraryFile(FIF_PNG, photo.get(), 0).bytes.size()));
+    }
+}
+
+TEST(EncodePng, LeavesOtherBitmapsToTheLibrary) {
+    const RGBQUAD red{0, 0, 255, 0};
+    BitmapHandle withBackground = Mixture({4, 4});
+    FreeImage_SetBackgroundColor(withBackground.get(), const_cast<RGBQUAD*>(&red));
+    const BitmapHandle bitmaps[] = {
+        BitmapHandle(),
+        BitmapHandle(FreeImage_Allocate(4, 4, 8)),
+        BitmapHandle(FreeImage_Allocate(4, 4, 32)),
+        BitmapHandle(FreeImage_AllocateT(FIT_RGB16, 4, 4)),
+        testing::FromFile(FIF_PNG, LibraryFile(FIF_PNG, withBackground.get(), 0).bytes,
+                          FIF_LOAD_NOPIXELS),
+        NewBitmap({1'000'001, 1}),  // wider than libpng reads
+        std::move(withBackground)};
+    for (const BitmapHandle& bitmap : bitmaps) {
+        SerialRunner runner;
+        EXPECT_FALSE(EncodePng(bitmap.get(), runner)) << &bitmap - bitmaps;
+    }
+}
+
+const QByteArray pngStart = "\x89PNG\r\n\x1a\n";
+
+QByteArray Header(const char* kind) {
+    return PngChunk("IHDR", QByteArray("\0\0\0\x08\0\0\0\x08", 8) + QByteArray(kind, 5));
+}
+
+TEST(PngFrame, IsNoneForAnythingUnexpected) {
+    const QByteArray header = Header("\x08\x02\0\0\0");
+    const QByteArray text = PngChunk("tEXt", "Comment");
+    const QByteArray pixels = PngChunk("IDAT", "12");
+    const QByteArray end = PngChunk("IEND", {});
+    const QByteArray sound = pngStart + header + text + pixels + pixels + text + end;
+    const auto frame = PngFrameOf(sound, {0x10203, 5});
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->tail, text + end);
+    EXPECT_EQ(frame->head,
+              pngStart + PngChunk("IHDR", QByteArray("\0\1\2\3\0\0\0\5\x08\x02\0\0\0", 13)) + text);
+    for (qsizetype length = 0; length < sound.size(); ++length) {
+        EXPECT_FALSE(PngFrameOf(sound.left(length), {5, 5})) << length;
+    }
+    const QByteArray others[] = {
+        sound + '\0',
+        pngStart + text + header + pixels + end,
+        pngStart + header + text + end,
+        pngStart + header + pixels + text + pixels + end,
+        pngStart + header + PngChunk("PLTE", "123") + pixels + end,
+        pngStart + header + header + pixels + end,
+        pngStart + Header("\x10\x02\0\0\0") + pixels + end,
+        pngStart + Header("\x08\x06\0\0\0") + pixels + end,
+        pngStart + Header("\x08\x02\0\0\1") + pixels + end,
+        pngStart + QByteArray("\xff\xff\xff\xf0IHDR", 8) + header + pixels + end,
+    };
+    for (const QByteArray& other : others) {
+        EXPECT_FALSE(PngFrameOf(other, {5, 5})) << other.toHex(' ').toStdString();
+    }
+}
+
+// Pixels from red to blue, as they are thought of, to blue first, as they are stored.
+Bytes Stored(Bytes pixels) {
+    for (std::size_t i = 0; i < pixels.size(); i += 3) {
+        std::swap(pixels[i], pixels[i + 2]);
+    }
+    return pixels;
+}
+
+TEST(PngFilter, TakesTheFirstOfTheFiltersThatLeaveLeast) {
+    const struct {
+        Bytes above;
+        Bytes row;
+        Bytes filtered;
+    } cases[] = {
+        {{100, 100, 100, 100, 100, 100}, {1, 2, 3, 255, 1, 2}, {0, 1, 2, 3, 255, 1, 2}},
+        {{}, {100, 110, 120, 101, 109, 122}, {1, 100, 110, 120, 1, 255, 2}},
+        {{10, 200, 90, 180, 20, 250}, {11, 201, 91, 181, 21, 251}, {2, 1, 1, 1, 1, 1, 1}},
+        {{100, 101, 100, 50, 60, 71}, {50, 50, 51, 50, 55, 60}, {3, 0, 0, 1, 0, 0, 255}},
+        {{10, 10, 20, 50, 50, 50, 50, 50, 50},
+         {10, 11, 20, 80, 80, 81, 80, 80, 80},
+         {4, 0, 1, 0, 30, 30, 31, 0, 0, 255}},
+    };
+    for (const auto& [above, row, filtered] : cases) {
+        PngFilter filter(row.size(), Stored(above));
+        EXPECT_TRUE(std::ranges::equal(filter.Next(Stored(row)), filtered)) << int{filtered[0]};
+    }
+}
+
+}  // namespace
+}  // namespace varnel

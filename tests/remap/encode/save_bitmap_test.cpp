@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/save_bitmap.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <atomic>
+
+#include "base/error_text.h"
+#include "base/thread_runner.h"
+#include "remap/encode/encode_bitmap.h"
+#include "remap/image/photo_metadata.h"
+#include "tests/support/bitmaps.h"
+#include "tests/support/contents.h"
+
+namespace varnel {
+namespace {
+
+TEST(SaveBitmap, EveryTypeReadsBackAndReplacesAnOlderFile) {
+    const QTemporaryDir folder;
+    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
+    for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
+        const QString name = folder.filePath(QStringLiteral("ä %1.x").arg(format));
+        testing::WriteFile(name, "older");
+        const SaveResult saved = SaveBitmap(format, bitmap.get(), name, 0);
+        EXPECT_TRUE(saved.ok) << ToldReason(saved.reason).toStdString();
+        const QByteArray path = QFile::encodeName(name);
+        EXPECT_EQ(FreeImage_GetFileType(path.constData(), 0), format);
+        const BitmapHandle read(FreeImage_Load(format, path.constData(), 0));
+        ASSERT_TRUE(read);
+        EXPECT_NEAR(testing::PixelAt(read.get(), 25, 11).rgbGreen, 11, 3);
+    }
+    EXPECT_EQ(testing::NamesIn(folder.path()).size(), 4);
+}
+
+TEST(SaveBitmap, AFailureGivesItsReasonAndLeavesNothingBehind) {
+    const QTemporaryDir folder;
+    const BitmapHandle bitmap = testing::PositionPicture({4, 3});
+    const SaveResult missing =
+        SaveBitmap(FIF_PNG, bitmap.get(), folder.filePath(QStringLiteral("no/such.png")), 0);
+    EXPECT_FALSE(missing.ok);
+    EXPECT_FALSE(missing.reason.isEmpty());
+    EXPECT_FALSE(SaveBitmap(FIF_PNG, bitmap.get(), folder.path(), 0).ok);  // a folder
+    EXPECT_TRUE(testing::NamesIn(folder.path()).isEmpty());
+}
+
+// Whenever it is given up, in any of the moments in which that is asked.
+TEST(SaveBitmap, AFileThatIsGivenUpLeavesTheOlderOneAsItWas) {
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("a"));
+    const BitmapHandle bitmap = testing::Noise({500, 400});
+    const std::pair<FREE_IMAGE_FORMAT, int> types[] = {
+        {FIF_TIFF, TIFF_LZW}, {FIF_JPEG, 90}, {FIF_BMP, 0}, {FIF_PNG, 0}};
+    ThreadRunner runner(3);
+    for (const auto& [format, flags] : types) {
+        testing::WriteFile(name, "older");
+        int before = 0;
+        for (bool saved = false; !saved; ++before) {
+            std::atomic<int> asked = 0;
+            const StoppableFile file{name, [&] { return asked++ == before; }};
+            saved = SaveBitmap(format, bitmap.get(), file, flags, runner).ok;
+            EXPECT_EQ(testing::Contents(name) == "older", !saved) << format << ", " << before;
+            EXPECT_EQ(testing::NamesIn(folder.path()).size(), 1) << format << ", " << before;
+            ASSERT_EQ(asked > before, !saved);
+        }
+        EXPECT_GE(before, 5) << format;
+        EXPECT_EQ(testing::Contents(name), EncodeBitmap(format, bitmap.get(), flags).bytes);
+    }
+}
+
+TEST(LibraryFile, AFileLargerThanAllowedIsRefusedWhateverTheLibrarySays) {
+    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
+    for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
+        const QByteArray whole = LibraryFile(format, bitmap.get(), 0).bytes;
+        for (const qint64 largest : {0LL, 1LL, whole.size() / 2, whole.size() - 1}) {
+            const EncodedBitmap cut = LibraryFile(format, bitmap.get(), 0, largest);
+            EXPECT_TRUE(cut.bytes.isEmpty());
+            EXPECT_EQ(cut.reason, Reason(ReasonCode::FileTooLarge, largest));
+        }
+        EXPECT_EQ(LibraryFile(format, bitmap.get(), 0, whole.size()).bytes, whole);
+    }
+}
+
+TEST(DropMetadata, LeavesNothingButProfileResolutionAndSettings) {
+    const BitmapHandle bitmap = testing::PositionPicture({40, 30});
+    const PictureSettings settings{{QStringLiteral("Projection"), QStringLiteral("1")}};
+    SetSettings(bitmap.get(), settings);
+    QByteArray profile(200, 'p');
+    FreeImage_CreateICCProfile(bitmap.get(), profile.data(), profile.size());
+    const QByteArray plain = LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes;
+    PhotoMetadata metadata;
+    metadata.iptc = "records";
+    SetMetadata(bitmap.get(), metadata);
+    FreeImage_SetThumbnail(bitmap.get(), testing::PositionPicture({8, 6}).get());
+    for (const FREE_IMAGE_MDMODEL model : {FIMD_COMMENTS, FIMD_EXIF_MAIN, FIMD_IPTC, FIMD_XMP}) {
+        FreeImage_SetMetadataKeyValue(model, bitmap.get(), "XMLPacket", "a street in Bergen");
+    }
+    ASSERT_TRUE(LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes.contains("Bergen"));
+    DropMetadata(bitmap.get());
+    EXPECT_TRUE(MetadataOf(bitmap.get()).IsEmpty());
+    EXPECT_EQ(SettingsOf(bitmap.get()), settings);
+    EXPECT_EQ(LibraryFile(FIF_JPEG, bitmap.get(), 90).bytes, plain);
+    for (const FREE_IMAGE_MDMODEL model : {FIMD_COMMENTS, FIMD_EXIF_MAIN, FIMD_IPTC, FIMD_XMP}) {
+        EXPECT_EQ(FreeImage_GetMetadataCount(model, bitmap.get()), 0U);
+    }
+}
+
+TEST(EncodeBitmap, WhatCannotBeEncodedHasAReason) {
+    EXPECT_FALSE(EncodeBitmap(FIF_PNG, nullptr, 0).reason.isEmpty());
+    const BitmapHandle numbers(FreeImage_AllocateT(FIT_DOUBLE, 4, 3, 64, 0, 0, 0));
+    EXPECT_FALSE(EncodeBitmap(FIF_JPEG, numbers.get(), 0).reason.isEmpty());
+    EXPECT_FALSE(EncodeBitmap(FIF_UNKNOWN, numbers.get(), 0).reason.isEmpty());
+}
+
+}  // namespace
+}  // namespace varnel

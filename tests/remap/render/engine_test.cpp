@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The engine against the plain loops: the gate for every change of either.
+
+#include <gtest/gtest.h>
+
+#include <hwy/targets.h>
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <string>
+#include <thread>
+
+#include "base/run_time_error.h"
+#include "base/thread_runner.h"
+#include "remap/render/reference/render.h"
+#include "remap/render/region_renderer.h"
+#include "tests/remap/render/engine_pictures.h"
+#include "tests/support/records.h"
+#include "tests/support/runners.h"
+
+namespace varnel {
+namespace {
+
+using testing::Compare;
+using testing::Difference;
+using testing::FisheyeRecord;
+using testing::Flat;
+using testing::Painter;
+using testing::PhotoLike;
+
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+
+struct Case {
+    std::string name;
+    Projection projection = Projection::Rectilinear;
+    PixelSize size{301, 200};
+    std::function<void(ImageRecord&)> change = [](ImageRecord&) {};
+};
+
+BitmapHandle Drawn(Renderer renderer, const Case& c, Painter paint, SizeKind kind, bool smooth,
+                   BlockRunner* runner) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = paint(c.size);
+    bitmaps.PreviewSourceBitmap = paint(c.size);
+    ImageRecord record = FisheyeRecord();
+    record.Landscape = c.size.width >= c.size.height;
+    c.change(record);
+    SilentProgress silent;
+    RenderDesk desk{bitmaps, [smooth] { return smooth; }, runner};
+    renderer(c.projection, record, kind, silent, desk);
+    return std::move(bitmaps.ResultBitmap);
+}
+
+std::vector<Case> Cases() {
+    std::vector<Case> cases;
+    const std::pair<const char*, PixelSize> sizes[] = {{"odd", {301, 201}},
+                                                       {"even", {320, 240}},
+                                                       {"upright", {200, 301}},
+                                                       {"tiny", {7, 5}},
+                                                       {"full", {1400, 900}}};
+    for (const Projection projection : allProjections) {
+        for (const auto& [name, size] : sizes) {
+            cases.push_back({ToText(projection).toStdString() + " " + name, projection, size});
+        }
+        for (const float offset : {-180.0F, 33.3F, 700.0F}) {
+            cases.push_back(
+                {ToText(projection).toStdString() + " offset",
+                 projection,
+                 {301, 200},
+                 [offset](ImageRecord& r) { r.OfsetX = offset, r.OfsetY = -offset / 2; }});
+        }
+    }
+    const std::pair<const char*, std::function<void(ImageRecord&)>> rectilinear[] = {
+        {"tilt", [](ImageRecord& r) { r.RotateX = -35.0F; }},
+        {"pan", [](ImageRecord& r) { r.RotateY = 40.0F; }},
+        {"roll", [](ImageRecord& r) { r.RotateZ = 17.0F; }},
+        {"all turns",
+         [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F, r.RotateZ = 11.0F; }},
+        {"whole shift", [](ImageRecord& r) { r.TranslateX = 10.0F, r.TranslateY = -20.0F; }},
+        {"uneven shift", [](ImageRecord& r) { r.TranslateX = 3.1F, r.TranslateY = 7.7F; }},
+        {"half-pixel shift",
+         [](ImageRecord& r) { r.TranslateX = 150.0F / 3.01F, r.TranslateY = 0.25F; }},
+        {"far shift", [](ImageRecord& r) { r.TranslateX = 300.0F; }},
+        {"behind the camera", [](ImageRecord& r) { r.OutputAOV = 170.0F, r.RotateY = 40.0F; }},
+        {"backwards", [](ImageRecord& r) { r.RotateX = 170.0F; }},
+        {"180 degrees", [](ImageRecord& r) { r.OutputAOV = 180.0F; }},
+        {"180 degrees turned", [](ImageRecord& r) { r.OutputAOV = 180.0F, r.RotateZ = 5.0F; }},
+        {"no effect", [](ImageRecord& r) { r.EffectRectilinear = 0.1F; }},
+        {"half effect turned",
+         [](ImageRecord& r) { r.EffectRectilinear = 50.0F, r.RotateX = 15.0F; }},
+    };
+    for (const auto& [name, change] : rectilinear) {
+        cases.push_back(
+            {std::string("Rectilinear ") + name, Projection::Rectilinear, {301, 200}, change});
+    }
+    for (const PixelSize size : {PixelSize{10, 2}, PixelSize{101, 61}, PixelSize{301, 200}}) {
+        cases.push_back({"180 degrees to the side", Projection::Rectilinear, size,
+                         [](ImageRecord& r) { r.OutputAOV = 180.0F, r.RotateY = 90.0F; }});
+    }
+    const auto tan = [](float factor) {
+        return [factor](ImageRecord& r) {
+            r.LensBrand = QStringLiteral("Samyang");
+            r.LensMapFactor = factor;
+            r.LensMapScale = 12.0F;
+            r.OutputAOV = 120.0F;
+        };
+    };
+    for (const Projection projection : {Projection::Rectilinear, Projection::Equidistance}) {
+        cases.push_back({"Tan lens", projection, {301, 200}, tan(3.0F)});
+        cases.push_back({"Tan lens past its pole", projection, {301, 200}, tan(0.5F)});
+    }
+    const auto turned = [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F; };
+    cases.push_back({"large", Projection::Rectilinear, {2100, 900}});
+    cases.push_back({"large turned", Projection::Rectilinear, {4100, 1000}, turned});
+    cases.push_back({"large Equidistance", Projection::Equidistance, {4100, 1000}});
+    for (const float effect : {0.1F, 40.0F, 250.0F}) {
+        cases.push_back({"Varnel effect", Projection::Varnel, {301, 200}, [effect](ImageRecord& r) {
+                             r.EffectVarnel = effect;
+                         }});
+        cases.push_back(
+            {"Horizon effect", Projection::Horizon, {301, 200}, [effect](ImageRecord& r) {
+                 r.EffectVarnel = effect;
+             }});
+    }
+    return cases;
+}
+
+void ExpectClose(const Case& c, BlockRunner* runner) {
+    SCOPED_TRACE(c.name);
+    const auto compare = [&](Painter paint, SizeKind kind, bool smooth) {
+        const BitmapHandle engine = Drawn(&Render, c, paint, kind, smooth, runner);
+        const BitmapHandle reference = Drawn(&reference::Render, c, paint, kind, smooth, nullptr);
+        return Compare(engine.get(), reference.get());
+    };
+    const Difference photo = compare(&PhotoLike, SizeKind::Large, false);
+    EXPECT_LE(photo.largest, 1);
+    EXPECT_LT(photo.share, 0.001);
+    if (c.size.width > 1000) {
+        return;  // the plain loops take their time
+    }
+    const Difference flat = compare(&Flat, SizeKind::Batch, false);
+    EXPECT_LE(flat.largest, 1);
+    EXPECT_LT(flat.share, 0.03);
+    const Difference preview = compare(&PhotoLike, SizeKind::Thumbnails, true);
+    EXPECT_LE(preview.largest, 1);
+    EXPECT_LT(preview.share, 0.001);
+    EXPECT_EQ(compare(&PhotoLike, SizeKind::Thumbnails, false).largest, 0);  // nearest reads
+}
+
+TEST(Engine, AgreesWithThePlainLoops) {
+    for (const Case& c : Cases()) {
+        ExpectClose(c, nullptr);
+    }
+}
+
+TEST(Engine, AgreesOnEveryInstructionSet) {
+    const std::int64_t supported = hwy::SupportedTargets();
+    for (const std::int64_t target : hwy::SupportedAndGeneratedTargets()) {
+        SCOPED_TRACE(hwy::TargetName(target));
+        hwy::SetSupportedTargetsForTest(target);
+        for (const Case& c : Cases()) {
+            if (c.size.width <= 301) {
+                ExpectClose(c, nullptr);
+            }
+        }
+    }
+    hwy::SetSupportedTargetsForTest(0);
+    EXPECT_EQ(hwy::SupportedTargets(), supported);
+}
+
+TEST(Engine, WorkersAndTheirOrderChangeNoByte) {
+    for (const Case& c : Cases()) {
+        SCOPED_TRACE(c.name);
+        if (c.size.width > 1000 && c.projection != Projection::Horizon) {
+            continue;
+        }
+        const BitmapHandle serial = Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, nullptr);
+        ThreadRunner two(2);
+        ThreadRunner three(3);
+        testing::ShuffledRunner shuffled(7);
+        for (BlockRunner* const runner :
+             std::initializer_list<BlockRunner*>{&two, &three, &shuffled}) {
+            const BitmapHandle other =
+                Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, runner);
+            EXPECT_EQ(Compare(serial.get(), other.get()).largest, 0);
+        }
+    }
+}
+
+// Rows in pieces as one looks here and there, the result bitmap of another picture taken again.
+TEST(PartRender, RowsAreThoseOfTheWholePicture) {
+    PartRender part;
+    for (const Case& c : Cases()) {
+        SCOPED_TRACE(c.name);
+        const BitmapHandle whole = Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, nullptr);
+        const BitmapHandle source = PhotoLike(c.size);
+        ImageRecord record = FisheyeRecord();
+        record.Landscape = c.size.width >= c.size.height;
+        c.change(record);
+        part.Start(c.projection, record, source.get());
+        const int half = c.size.height / 2;
+        part.DrawSome({half - 1, half}, std::chrono::seconds(9));
+        EXPECT_TRUE(part.Has(half) && part.Has(half - 1) && !part.Has(half - 2));
+        part.DrawSome({-5, c.size.height + 5}, std::chrono::seconds(9));
+        EXPECT_EQ(Compare(part.Result(), whole.get()).largest, 0);
+    }
+}
+
+TEST(PartRender, DrawsFromTheMiddleAndForgetsWithANewStart) {
+    const BitmapHandle source = PhotoLike({301, 200});
+    PartRender part;
+    part.Start(Projection::Horizon, FisheyeRecord(), source.get());
+    const RowSpan one = part.DrawSome({40, 60}, std::chrono::microseconds(0));
+    EXPECT_EQ(std::pair(one.first, one.last), std::pair(50, 50));
+    const RowSpan rest = part.DrawSome({49, 51}, std::chrono::seconds(9));
+    EXPECT_EQ(std::pair(rest.first, rest.last), std::pair(49, 51));
+    EXPECT_LT(part.DrawSome({49, 51}, std::chrono::seconds(9)).last, 0);
+    part.Start(Projection::Varnel, FisheyeRecord(), source.get());
+    EXPECT_FALSE(part.Has(50));
+    ImageRecord impossible = FisheyeRecord();
+    impossible.Ratio = 0.0F;
+    EXPECT_THROW(part.Start(Projection::Varnel, impossible, source.get()), RunTimeError);
+    EXPECT_EQ(part.Result(), nullptr);
+}
+
+TEST(Engine, AfterAFailureTheResultIsTheSource) {
+    for (const Projection projection : allProjections) {
+        Bitmaps bitmaps;
+        bitmaps.FullSourceBitmap = PhotoLike({301, 200});
+        bitmaps.ResultBitmap = Flat({301, 200});
+        ImageRecord record = FisheyeRecord();
+        record.Ratio = 0.0F;
+        record.SensorWidth = 0.0F;
+        SilentProgress silent;
+        RenderDesk desk{bitmaps};
+        EXPECT_THROW(Render(projection, record, SizeKind::Large, silent, desk), RunTimeError);
+        EXPECT_EQ(Compare(bitmaps.ResultBitmap.get(), bitmaps.FullSourceBitmap.get()).largest, 0);
+    }
+}
+
+TEST(ThreadRunner, WhatABlockThrowsReachesTheCallerAndTheNextRunIsWhole) {
+    ThreadRunner runner(3);
+    EXPECT_THROW(runner.Run(100,
+                            [](int n) {
+                                if (n == 7) {
+                                    throw std::bad_alloc();
+                                }
+                            }),
+                 std::bad_alloc);
+    std::atomic<int> runs = 0;
+    runner.Run(50, [&](int) { ++runs; });
+    EXPECT_EQ(runs, 50);
+}
+
+TEST(ThreadRunner, SeveralCallersShareItsCores) {
+    ThreadRunner runner(2);
+    std::atomic<int> busy = 0, most = 0, done = 0;
+    const std::function<void(int)> block = [&](int) {
+        const int now = ++busy;
+        most = std::max(most.load(), now);
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+        --busy;
+        ++done;
+    };
+    std::thread other([&] {
+        for (int n = 0; n < 20; ++n) {
+            const CoreTaken core(runner);
+            runner.Run(3, block);
+            const CoreLent lent(runner);
+        }
+    });
+    for (int n = 0; n < 40; ++n) {
+        runner.Run(4, block);
+    }
+    runner.GiveCore();
+    other.join();
+    EXPECT_EQ(done, 20 * 3 + 40 * 4);
+    EXPECT_EQ(most, 2);
+}
+
+TEST(ThreadRunner, RunsEachBlockOnceAndMayBeUsedAgain) {
+    ThreadRunner runner(3);
+    for (const int blocks : {0, 1, 2, 100}) {
+        std::vector<std::atomic<int>> runs(static_cast<std::size_t>(blocks));
+        runner.Run(blocks, [&](int n) { ++runs[static_cast<std::size_t>(n)]; });
+        for (const auto& count : runs) {
+            EXPECT_EQ(count, 1);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/editing/gear_circle.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "state/editing/gear_assignment.h"
+
+namespace varnel {
+namespace {
+
+GearRecord Gear(const char* name) {
+    GearRecord gear;
+    gear.GearName = QString::fromLatin1(name);
+    gear.OfsetX = 12.5F;
+    gear.OfsetY = -4.0F;
+    gear.GearRatio = 160.0F;
+    return gear;
+}
+
+ImageRecord Photo(PixelSize size, int orientation) {
+    ImageRecord image;
+    image.Width = static_cast<std::int16_t>(size.width);
+    image.Height = static_cast<std::int16_t>(size.height);
+    image.Landscape = size.width >= size.height;
+    image.Orientation = static_cast<std::int16_t>(orientation);
+    return image;
+}
+
+TEST(CircleOf, IsWhereTheGearsNumbersPutIt) {
+    struct {
+        PixelSize size;
+        int orientation;
+        double x, y;
+    } const rows[] = {
+        {{3000, 2000}, 1, 1537.5, 992.0},  {{3000, 2000}, 3, 1462.5, 1008.0},
+        {{2000, 3000}, 6, 1008.0, 1537.5}, {{2000, 3000}, 8, 992.0, 1462.5},
+        {{2000, 3000}, 1, 992.0, 1537.5},
+    };
+    for (const auto& row : rows) {
+        ImageRecord image = Photo(row.size, row.orientation);
+        AssignGear(Gear("A"), image);
+        const ImageCircle circle = CircleOf(image, row.size);
+        EXPECT_NEAR(circle.x, row.x, 0.01) << row.orientation;
+        EXPECT_NEAR(circle.y, row.y, 0.01) << row.orientation;
+        EXPECT_NEAR(circle.radius, 937.5, 0.01);
+        EXPECT_EQ(GearCircleFor(circle, image, row.size), (GearCircle{12.5F, -4.0F, 160.0F}))
+            << row.orientation;
+    }
+    EXPECT_EQ(CircleOf(ImageRecord(), {3000, 2000}).radius, 0.0);
+}
+
+TEST(GearCircleFor, RoundsToTenthsWithoutANegativeZero) {
+    const GearCircle circle =
+        GearCircleFor({1499.999, 1004.68, 800.0}, Photo({3000, 2000}, 1), {3000, 2000});
+    EXPECT_EQ(circle, (GearCircle{0.0F, 2.3F, 187.5F}));
+    EXPECT_FALSE(std::signbit(circle.OfsetX));
+}
+
+TEST(TakeCircle, ReachesTheCurrentPhotoAndUnadjustedOnesOfTheGear) {
+    GearRecord gear = Gear("A");
+    RecordArray<ImageRecord> images;
+    for (int n = 1; n <= 4; ++n) {
+        images.Append(Photo({2000, 3000}, 6));
+        AssignGear(Gear(n == 4 ? "B" : "A"), images(n));
+        images(n).RotateX = 7.0F;
+    }
+    images(1).SettingsApplied = true;  // the current one
+    images(2).SettingsApplied = true;
+    EXPECT_EQ(TakeCircle({1.0F, 2.0F, 150.0F}, gear, images, 1), 2);
+    EXPECT_TRUE(gear.UserAdjusted);
+    EXPECT_EQ(gear.GearRatio, 150.0F);
+    for (const int n : {1, 3}) {
+        EXPECT_EQ(images(n).OfsetX, -2.0F) << n;
+        EXPECT_EQ(images(n).OfsetY, 1.0F) << n;
+        EXPECT_EQ(images(n).Ratio, 150.0F) << n;
+        EXPECT_EQ(images(n).RotateX, 7.0F) << n;
+    }
+    EXPECT_EQ(images(2).Ratio, 160.0F);
+    EXPECT_EQ(images(4).Ratio, 160.0F);
+}
+
+}  // namespace
+}  // namespace varnel

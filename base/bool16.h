@@ -8,9 +8,9 @@
 
 namespace varnel {
 
-class Flag16 {
+class Bool16 {
   public:
-    constexpr Flag16(bool on = false) : value_(on ? -1 : 0) {}  // NOLINT: a bool in other clothes
+    constexpr Bool16(bool on = false) : value_(on ? -1 : 0) {}  // NOLINT: a bool in other clothes
     constexpr operator bool() const { return value_ != 0; }     // NOLINT: likewise
     constexpr std::int16_t Value() const { return value_; }
 

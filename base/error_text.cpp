@@ -235,14 +235,14 @@ QString Filled(const QString& text, const QStringList& values) {
     return filled;
 }
 
-QString ToldValue(qint64 number) {
+QString ValueText(qint64 number) {
     return QString::number(number);
 }
-QString ToldValue(const QString& text) {
+QString ValueText(const QString& text) {
     return text;
 }
-QString ToldValue(const Reason& reason) {
-    return ToldReason(reason);
+QString ValueText(const Reason& reason) {
+    return ErrorText(reason);
 }
 
 QString SystemWords(qint64 error) {
@@ -255,13 +255,13 @@ int PlacesIn(ReasonCode code) {
     return static_cast<int>(std::ranges::count(std::string_view(EnglishOf(code)), '%'));
 }
 
-QString ToldReason(const Reason& reason) {
+QString ErrorText(const Reason& reason) {
     if (reason.Is(ReasonCode::SystemError)) {
         return SystemWords(std::get<qint64>(reason.Arguments().front()));
     }
     QStringList values;
     for (const Reason::Argument& argument : reason.Arguments()) {
-        values.append(std::visit([](const auto& value) { return ToldValue(value); }, argument));
+        values.append(std::visit([](const auto& value) { return ValueText(value); }, argument));
     }
     return reason.Is(ReasonCode::Several) ? values.join(QStringLiteral("; "))
                                           : Filled(TextOf(reason.Code()), values);

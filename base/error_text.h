@@ -12,7 +12,7 @@ namespace varnel {
 
 // In the language whose translation is installed; in English where none is, as in the programs for
 // the console. Words of libraries and of the system stay as they are. Empty when all is well.
-QString ToldReason(const Reason& reason);
+QString ErrorText(const Reason& reason);
 
 // How many arguments the text of a code has places for. The code is one that there is.
 int PlacesIn(ReasonCode code);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Why something is not as it should be: a code with its arguments. Programs ask the code; people
-// get the text that ToldReason makes of it (told_reason.h).
+// get the text that ErrorText makes of it (told_reason.h).
 #pragma once
 
 #include <QDataStream>

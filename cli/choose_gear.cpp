@@ -117,7 +117,7 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
     return GearChoice{table(n), {}};
 }
 
-std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const PhotoOrigin& origin) {
+std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const CameraInfo& origin) {
     if (choice.forAll) {
         return *choice.forAll;
     }

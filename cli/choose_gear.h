@@ -37,6 +37,6 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
 
 // A photo's own gear is that of the table that took it, else one made of the catalogues' camera and
 // lens. Otherwise the reason why there is none.
-std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const PhotoOrigin& origin);
+std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const CameraInfo& origin);
 
 }  // namespace varnel

@@ -78,18 +78,18 @@ bool KeepsMetadata(const ConversionRun& run) {
     return run.settings.WriteMetadata && !run.options.noMetadata;
 }
 
-QString Trouble(const Options& options, QStringView reason, QStringView advice) {
+QString Error(const Options& options, QStringView reason, QStringView advice) {
     return options.advises ? QStringLiteral("%1; %2").arg(reason, advice) : reason.toString();
 }
 
-QString NameTrouble(const Options& options, const QString& photo, const QString& first) {
+QString NameError(const Options& options, const QString& photo, const QString& first) {
     if (SameFile(photo, first)) {
-        return Trouble(options, u"the same photo has this result already",
-                       u"give each photo and projection once");
+        return Error(options, u"the same photo has this result already",
+                     u"give each photo and projection once");
     }
     const bool endingsDiffer =
         QFileInfo(photo).fileName().compare(QFileInfo(first).fileName(), Qt::CaseInsensitive) != 0;
-    return Trouble(
+    return Error(
         options,
         QStringLiteral("%1 was not converted, %2 of this command has the same result name")
             .arg(photo, first),
@@ -102,50 +102,48 @@ QString NameTrouble(const Options& options, const QString& photo, const QString&
 
 QString TakeName(ConversionRun& run, const QString& photo, const QString& target) {
     const QString first = run.names.Take(target, photo);
-    return first.isEmpty() ? QString() : NameTrouble(run.options, photo, first);
+    return first.isEmpty() ? QString() : NameError(run.options, photo, first);
 }
 
-QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
-    const auto trouble = [&run](QStringView reason, QStringView advice) {
-        return Trouble(run.options, reason, advice);
+QString TargetError(ConversionRun& run, const OpenPhoto& photo, const QString& target) {
+    const auto error = [&run](QStringView reason, QStringView advice) {
+        return Error(run.options, reason, advice);
     };
     const QFileInfo file(target);
     if (!file.exists()) {
         return {};
     }
     if (file.isDir()) {
-        return trouble(u"this is a folder", u"give the name of a file, or --output-dir");
+        return error(u"this is a folder", u"give the name of a file, or --output-dir");
     }
     if (SameFile(target, photo.path)) {
-        return trouble(u"this is the photo itself",
-                       u"--output or --output-dir names another place");
+        return error(u"this is the photo itself", u"--output or --output-dir names another place");
     }
     // One that is yet to be converted, say: "varnel *" where an earlier result lies.
     if (run.photos.Contains(target)) {
-        return trouble(u"this is one of the photos to convert",
-                       u"--output-dir names another place");
+        return error(u"this is one of the photos to convert", u"--output-dir names another place");
     }
     if (const QString first = run.written.value(file.canonicalFilePath()); !first.isEmpty()) {
-        return NameTrouble(run.options, photo.path, first);  // through a link, say
+        return NameError(run.options, photo.path, first);  // through a link, say
     }
     if (!run.options.force) {
-        return trouble(u"the file exists", u"--force replaces it, --skip-existing leaves it alone");
+        return error(u"the file exists", u"--force replaces it, --skip-existing leaves it alone");
     }
-    return photo.damaged ? trouble(u"a damaged photo does not replace an existing file",
-                                   u"--output or --output-dir names another place")
+    return photo.damaged ? error(u"a damaged photo does not replace an existing file",
+                                 u"--output or --output-dir names another place")
                          : QString();
 }
 
 void RenderInto(const ConversionRun& run, OpenPhoto& photo, const ImageRecord& record,
                 const QString& file) {
-    RenderDesk desk{photo.bitmaps, [&run] { return run.options.antialiased; }, &run.runner};
+    RenderContext context{photo.bitmaps, [&run] { return run.options.antialiased; }, &run.runner};
     const SizeKind kind = run.options.preview ? SizeKind::Thumbnails : SizeKind::Large;
     if (run.options.preview && !photo.bitmaps.PreviewSourceBitmap) {
         FIBITMAP* const full = photo.bitmaps.FullSourceBitmap.get();
         const PixelSize box = *run.options.preview;
         photo.bitmaps.PreviewSourceBitmap = ReducedCopy(full, PreviewSize(SizeOf(full), box, box));
     }
-    Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, desk);
+    Render(ProjectionFromIndex(record.Projection), record, kind, run.progress, context);
     NoteSettings(photo.bitmaps.ResultBitmap.get(), record,
                  run.settings.WriteSettings && !run.options.noSettings,
                  KeepsMetadata(run) ? file : QString());

@@ -25,7 +25,7 @@ struct ConversionRun {
     const GeneralSettings& settings;
     RenderProgress& progress;
     BlockRunner& runner;
-    FileSet photos;  // those of the run
+    FileIdentities photos;  // those of the run
     TakenNames names = {};
     QHash<QString, QString> written = {};  // photos by the canonical names of their results
     FileSeries series = {};                // those results
@@ -37,7 +37,7 @@ struct OpenPhoto {
     ImageRecord record;
     Bitmaps bitmaps;
     bool damaged = false;
-    QString trouble = {};  // what is damaged
+    QString error = {};  // what is damaged
     QStringList notes = {};
 };
 
@@ -64,7 +64,7 @@ QString TakeName(ConversionRun& run, const QString& photo, const QString& target
 
 // Why nothing is written there; empty when it may be. Never replaces a photo or a result of the
 // run, an older file only with --force, and not even then by a conversion of a damaged photo.
-QString TargetTrouble(ConversionRun& run, const OpenPhoto& photo, const QString& target);
+QString TargetError(ConversionRun& run, const OpenPhoto& photo, const QString& target);
 
 // Replaces the photo's ResultBitmap, which is going to be written into the file. Throws
 // RunTimeError and std::bad_alloc.

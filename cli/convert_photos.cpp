@@ -61,7 +61,7 @@ class Conversions {
                settings_,
                reports_.Bar(),
                runner_,
-               FileSet(options.files),
+               FileIdentities(options.files),
                {},
                {},
                LendingSeries(runner_,
@@ -83,7 +83,7 @@ class Conversions {
         bool allWell = reports_.AllWell();
         if (const WriteResult last = run_.series.Finish(); !last) {
             allWell = false;
-            reports_.Say(ToldReason(last.reason));
+            reports_.Say(ErrorText(last.reason));
         }
         if (const int signal = console_.StopSignal(); signal != 0 && left_) {
             TellStopped();
@@ -168,12 +168,12 @@ class Conversions {
             return;  // it was given up
         }
         if (loaded.outcome == LoadOutcome::NotLoaded) {
-            FailedPhoto(files_[n], ToldReason(loaded.reason) + PhotoAdvice(files_[n]));
+            FailedPhoto(files_[n], ErrorText(loaded.reason) + PhotoAdvice(files_[n]));
             return;
         }
         if (loaded.outcome == LoadOutcome::Damaged) {
             FinishWriting();
-            reports_.Damaged(files_[n], ToldReason(loaded.reason));
+            reports_.Damaged(files_[n], ErrorText(loaded.reason));
         }
         const auto gear = GearFor(run_.gears, OriginOf(loaded.bitmap.get()));
         if (const auto* reason = std::get_if<QString>(&gear)) {
@@ -185,7 +185,7 @@ class Conversions {
                                     std::get<GearRecord>(gear)),
                         {},
                         loaded.outcome == LoadOutcome::Damaged};
-        photo.trouble = ToldReason(loaded.reason);
+        photo.error = ErrorText(loaded.reason);
         photo.bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
         photo.bitmaps.ResultBitmap = std::move(spare_);
         ConvertAll(photo);
@@ -195,7 +195,7 @@ class Conversions {
     }
 
     void ConvertAll(OpenPhoto& photo) {
-        if (const QString doubt = run_.gears.forAll ? QString() : ShapeTrouble(photo.record);
+        if (const QString doubt = run_.gears.forAll ? QString() : ShapeError(photo.record);
             !doubt.isEmpty()) {
             photo.notes.append(doubt);
             reports_.Say(photo.path + QStringLiteral(": ") + doubt);
@@ -210,8 +210,8 @@ class Conversions {
         }
     }
 
-    PhotoOrigin OriginOf(FIBITMAP* bitmap) const {
-        return run_.gears.forAll ? PhotoOrigin() : MetadataOf(bitmap).origin;
+    CameraInfo OriginOf(FIBITMAP* bitmap) const {
+        return run_.gears.forAll ? CameraInfo() : MetadataOf(bitmap).origin;
     }
 
     LoadedPicture Load(qsizetype n) {
@@ -240,18 +240,16 @@ class Conversions {
             if (writing_ && MayBeSameFile(writing_->target.file, target.file)) {
                 FinishWriting();
             }
-            if (const QString trouble = TakeName(run_, photo.path, target.file);
-                !trouble.isEmpty()) {
-                FailedResult(report, trouble);
+            if (const QString error = TakeName(run_, photo.path, target.file); !error.isEmpty()) {
+                FailedResult(report, error);
                 return;
             }
             if (run_.options.skipExisting && QFileInfo::exists(target.file)) {
                 SkippedResult(report);
                 return;
             }
-            if (const QString trouble = TargetTrouble(run_, photo, target.file);
-                !trouble.isEmpty()) {
-                FailedResult(report, trouble);
+            if (const QString error = TargetError(run_, photo, target.file); !error.isEmpty()) {
+                FailedResult(report, error);
                 return;
             }
             RenderInto(run_, photo, record, target.file);
@@ -261,23 +259,22 @@ class Conversions {
             }
             FinishWriting();
             // What was written meanwhile may be the same file under another name.
-            if (const QString trouble = TargetTrouble(run_, photo, target.file);
-                !trouble.isEmpty()) {
-                FailedResult(report, trouble);
+            if (const QString error = TargetError(run_, photo, target.file); !error.isEmpty()) {
+                FailedResult(report, error);
                 return;
             }
             BeginWriting(target, photo, report);
         } catch (const RunTimeError& error) {
-            FailedResult(report, ToldReason(ReasonFor(error)));
+            FailedResult(report, ErrorText(ReasonFor(error)));
         } catch (const std::bad_alloc&) {
-            FailedResult(report, ToldReason(ReasonCode::NotEnoughMemory) +
+            FailedResult(report, ErrorText(ReasonCode::NotEnoughMemory) +
                                      Advice(QStringLiteral("; --jobs 1 takes less")));
         }
     }
 
     void BeginWriting(const ConversionTarget& target, OpenPhoto& photo, FileReport& report) {
         report.status = photo.damaged ? FileStatus::Damaged : FileStatus::Converted;
-        report.reason = photo.trouble;
+        report.reason = photo.error;
         report.size = SizeOf(photo.bitmaps.ResultBitmap.get());
         writing_ = {target, std::move(photo.bitmaps.ResultBitmap), report, begun_};
         photo.bitmaps.ResultBitmap = std::move(spare_);
@@ -305,14 +302,14 @@ class Conversions {
         writing_.reset();
         if (!saved) {
             report.size = {};
-            FailedResult(report, ToldReason(saved.reason) +
+            FailedResult(report, ErrorText(saved.reason) +
                                      Advice(ResultAdvice(report.result, saved.reason)));
             return;
         }
         const QFileInfo file(report.result);
         run_.written.insert(file.canonicalFilePath(), report.photo);
         report.bytes = file.size();
-        report.notes += saved.note.isEmpty() ? QStringList() : QStringList(ToldReason(saved.note));
+        report.notes += saved.note.isEmpty() ? QStringList() : QStringList(ErrorText(saved.note));
         ++written_;
         reports_.Note(report.result, saved.note);
         reports_.Written(report);
@@ -353,7 +350,7 @@ class Conversions {
     RunReports reports_;
     RunWait wait_;
     std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
-    std::optional<PhotoFeed> feed_;
+    std::optional<PrefetchingReader> feed_;
     UnfinishedFile unfinished_;  // for a console that does not ask
     ConversionRun run_;
     QStringList files_;

@@ -23,7 +23,7 @@ std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, co
     }
     const std::optional<PhotoSize> size = photos.Size(file);
     if (!size) {
-        return {};  // its trouble is told in its turn
+        return {};  // its error is told in its turn
     }
     std::vector<FileReport> results;
     try {

@@ -10,7 +10,7 @@ namespace varnel {
 
 namespace {
 
-QString MissingSource(const Likeness& likeness) {
+QString MissingSource(const SettingsFromPicture& likeness) {
     return likeness.record.FileName.isEmpty()
                ? QStringLiteral("does not say which photo it was made of")
                : QStringLiteral("the photo that it was made of is not there: ") +
@@ -18,7 +18,7 @@ QString MissingSource(const Likeness& likeness) {
 }
 
 // Empty when all is well.
-QString Complete(Options& options, const Likeness& likeness) {
+QString Complete(Options& options, const SettingsFromPicture& likeness) {
     options.likeRecord = likeness.record;
     if (options.files.isEmpty()) {
         if (!likeness.sourceFound) {
@@ -45,16 +45,17 @@ std::variant<QStringList, QString> TakeLike(Options& options) {
     };
     const auto reader = NewPictureReader();
     const PhotoFacts facts = PhotoLoader(*reader).Facts(options.like);
-    if (!facts.trouble.isEmpty()) {
-        return prefixed(ToldReason(facts.trouble));
+    if (!facts.error.isEmpty()) {
+        return prefixed(ErrorText(facts.error));
     }
-    const std::optional<Likeness> likeness = LikenessFrom(facts.metadata.settings, options.like);
+    const std::optional<SettingsFromPicture> likeness =
+        FindSettingsFromPicture(facts.metadata.settings, options.like);
     if (!likeness) {
         return prefixed(
             QStringLiteral("holds no settings of Varnel; give a picture that Varnel wrote"));
     }
-    if (QString trouble = Complete(options, *likeness); !trouble.isEmpty()) {
-        return trouble;
+    if (QString error = Complete(options, *likeness); !error.isEmpty()) {
+        return error;
     }
     QStringList notes;
     for (const QString& note : likeness->notes) {

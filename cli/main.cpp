@@ -22,8 +22,8 @@ int Convert(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const varnel::Console console{std::cout,        std::cerr,    ::isatty(STDERR_FILENO) == 1,
                                   "varnel-convert", &stop.Came(), &unfinished};
-    if (!stop.Trouble().isEmpty()) {
-        varnel::Complain(console, stop.Trouble());
+    if (!stop.Error().isEmpty()) {
+        varnel::Complain(console, stop.Error());
     }
     varnel::ConsoleNotices notices(console);
     const auto store = varnel::OpenUserStore(QDateTime::currentDateTime());

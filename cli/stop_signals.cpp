@@ -31,10 +31,10 @@ void StopSignals::StartWaiting() {
         waiting_ = std::thread([this] { Wait(); });
     } catch (const std::system_error& error) {
         pthread_sigmask(SIG_SETMASK, &before_, nullptr);
-        trouble_ = QStringLiteral(
-                       "Ctrl-C and SIGTERM will end the program at once: no thread can be started "
-                       "to wait for them (%1)")
-                       .arg(QString::fromLocal8Bit(error.code().message().c_str()));
+        error_ = QStringLiteral(
+                     "Ctrl-C and SIGTERM will end the program at once: no thread can be started "
+                     "to wait for them (%1)")
+                     .arg(QString::fromLocal8Bit(error.code().message().c_str()));
     }
 }
 

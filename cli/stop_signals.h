@@ -28,14 +28,14 @@ class StopSignals {
     // The signal that came, or 0.
     const std::atomic<int>& Came() const { return came_; }
     // Why signals end the program at once; empty when they do not.
-    const QString& Trouble() const { return trouble_; }
+    const QString& Error() const { return error_; }
 
   private:
     void StartWaiting();
     void Wait();
 
     UnfinishedFile& unfinished_;
-    QString trouble_;
+    QString error_;
     sigset_t signals_{};
     sigset_t before_{};
     std::atomic<int> came_ = 0;

@@ -33,7 +33,7 @@ Reason By(int error) {
 struct Target {
     QByteArray name;
     std::optional<unsigned> permissions;  // of the older file, if there is one
-    Reason trouble;
+    Reason error;
 };
 
 QByteArray FolderOf(const QByteArray& name) {
@@ -80,7 +80,7 @@ Target FindTarget(const QString& path) {
 // there.
 class SavingFile {
   public:
-    SavingFile(const Target& target, FileSteps& steps) : target_(target), steps_(steps) {}
+    SavingFile(const Target& target, FileOperations& steps) : target_(target), steps_(steps) {}
     SavingFile(const SavingFile&) = delete;
     SavingFile& operator=(const SavingFile&) = delete;
     ~SavingFile() {
@@ -204,7 +204,7 @@ class SavingFile {
     }
 
     const Target& target_;
-    FileSteps& steps_;
+    FileOperations& steps_;
     QByteArray name_;  // empty while there is no hidden file
     struct stat identity_ {};
     int file_ = -1;
@@ -214,7 +214,7 @@ class SavingFile {
 
 // The reason when the names in the folder may not last. Some file systems cannot sync folders, and
 // a folder need not be readable for files to be made there.
-Reason SyncTrouble(const QByteArray& folder, FileSteps& steps) {
+Reason SyncError(const QByteArray& folder, FileOperations& steps) {
     const bool failed =
         steps.SyncFolder(folder) == -1 && errno != EINVAL && errno != ENOTSUP && errno != EACCES;
     return failed ? Reason(ReasonCode::WhileSyncingFolder, By(errno)) : Reason();
@@ -222,25 +222,25 @@ Reason SyncTrouble(const QByteArray& folder, FileSteps& steps) {
 
 }  // namespace
 
-WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps& steps) {
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& steps) {
     const Target target = FindTarget(path);
-    if (!target.trouble.isEmpty()) {
-        return {false, target.trouble};
+    if (!target.error.isEmpty()) {
+        return {false, target.error};
     }
     RemoveStrays(FolderOf(target.name));
     const WriteResult written = SavingFile(target, steps).Write(bytes);
-    const Reason trouble = written ? SyncTrouble(FolderOf(target.name), steps) : written.reason;
-    return {trouble.isEmpty(), trouble};
+    const Reason error = written ? SyncError(FolderOf(target.name), steps) : written.reason;
+    return {error.isEmpty(), error};
 }
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
-    FileSteps steps;
+    FileOperations steps;
     return WriteWholeFile(path, bytes, steps);
 }
 
-FileSeries::FileSeries() : FileSeries(std::make_unique<FileSteps>()) {}
+FileSeries::FileSeries() : FileSeries(std::make_unique<FileOperations>()) {}
 
-FileSeries::FileSeries(std::unique_ptr<FileSteps> steps) : steps_(std::move(steps)) {}
+FileSeries::FileSeries(std::unique_ptr<FileOperations> steps) : steps_(std::move(steps)) {}
 
 FileSeries::~FileSeries() {
     Finish();
@@ -248,8 +248,8 @@ FileSeries::~FileSeries() {
 
 WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
     const Target target = FindTarget(path);
-    if (!target.trouble.isEmpty()) {
-        return {false, target.trouble};
+    if (!target.error.isEmpty()) {
+        return {false, target.error};
     }
     if (const QByteArray folder = FolderOf(target.name); folder != folder_) {
         SyncFolder();
@@ -268,17 +268,17 @@ WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
 }
 
 void FileSeries::SyncFolder() {
-    const Reason trouble = unsynced_ > 0 ? SyncTrouble(folder_, *steps_) : Reason();
+    const Reason error = unsynced_ > 0 ? SyncError(folder_, *steps_) : Reason();
     unsynced_ = 0;
-    if (trouble_.isEmpty() && !trouble.isEmpty()) {
-        trouble_ = {ReasonCode::Of, QFile::decodeName(folder_), trouble};
+    if (error_.isEmpty() && !error.isEmpty()) {
+        error_ = {ReasonCode::Of, QFile::decodeName(folder_), error};
     }
 }
 
 WriteResult FileSeries::Finish() {
     SyncFolder();
-    const Reason trouble = std::exchange(trouble_, Reason());
-    return {trouble.isEmpty(), trouble};
+    const Reason error = std::exchange(error_, Reason());
+    return {error.isEmpty(), error};
 }
 
 }  // namespace varnel

@@ -12,7 +12,7 @@
 
 namespace varnel {
 
-class FileSteps;
+class FileOperations;
 
 // True when the whole file is in place; otherwise the reason, which IsBy knows the system's error
 // of.
@@ -29,7 +29,7 @@ struct WriteResult {
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes);
 
 #ifdef Q_OS_UNIX
-WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileSteps& steps);
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& steps);
 #endif
 
 // Whole files one after the other, most of them in the same folder. Each is made last before it
@@ -43,7 +43,7 @@ class FileSeries {
     static constexpr int mostUnsynced = 16;
 
     FileSeries();
-    explicit FileSeries(std::unique_ptr<FileSteps> steps);
+    explicit FileSeries(std::unique_ptr<FileOperations> steps);
     ~FileSeries();
     FileSeries(const FileSeries&) = delete;
     FileSeries& operator=(const FileSeries&) = delete;
@@ -57,10 +57,10 @@ class FileSeries {
   private:
     void SyncFolder();
 
-    std::unique_ptr<FileSteps> steps_;
+    std::unique_ptr<FileOperations> steps_;
     QByteArray folder_;  // without strays, of the last file; empty before the first
     int unsynced_ = 0;   // files in it whose names may not last yet
-    Reason trouble_;
+    Reason error_;
 #endif
 };
 

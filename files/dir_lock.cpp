@@ -22,7 +22,7 @@ constexpr unsigned long pause = 5;  // ms between two tries
 
 }  // namespace
 
-FolderLock::FolderLock(const QString& folder, int milliseconds)
+DirLock::DirLock(const QString& folder, int milliseconds)
     : folder_(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     const QDeadlineTimer deadline(milliseconds);
     bool isBusy = false;
@@ -36,7 +36,7 @@ FolderLock::FolderLock(const QString& folder, int milliseconds)
     isHeld_ = !isBusy;
 }
 
-FolderLock::~FolderLock() {
+DirLock::~DirLock() {
     if (folder_ != -1) {
         ::close(folder_);
     }
@@ -48,10 +48,10 @@ FolderLock::~FolderLock() {
 
 namespace varnel {
 
-FolderLock::FolderLock(const QString& folder, int milliseconds)
+DirLock::DirLock(const QString& folder, int milliseconds)
     : file_(folder + QStringLiteral("/.lock")), isHeld_(file_.tryLock(milliseconds)) {}
 
-FolderLock::~FolderLock() = default;
+DirLock::~DirLock() = default;
 
 }  // namespace varnel
 

@@ -14,13 +14,13 @@ namespace varnel {
 
 // Held until this object goes. The lock is on the folder itself and ends with the process: no lock
 // file is left behind by a killed one, or taken for that of a living one.
-class FolderLock {
+class DirLock {
   public:
     // Waits for others, but not longer than this.
-    FolderLock(const QString& folder, int milliseconds);
-    FolderLock(const FolderLock&) = delete;
-    FolderLock& operator=(const FolderLock&) = delete;
-    ~FolderLock();
+    DirLock(const QString& folder, int milliseconds);
+    DirLock(const DirLock&) = delete;
+    DirLock& operator=(const DirLock&) = delete;
+    ~DirLock();
     // False when another process held it all the time. Where there are no locks, on some network
     // drives, nobody is kept out: the last writer wins.
     bool IsHeld() const { return isHeld_; }

@@ -34,7 +34,7 @@ bool MayBeSameFile(const QString& a, const QString& b) {
            FileIdentity(first.path()) == FileIdentity(second.path());
 }
 
-bool FileSet::Contains(const QString& path) {
+bool FileIdentities::Contains(const QString& path) {
     const QString asked = FileIdentity(path);
     if (asked.isEmpty()) {
         return false;

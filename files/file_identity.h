@@ -21,9 +21,9 @@ bool SameFile(const QString& a, const QString& b);
 // cards do not tell apart.
 bool MayBeSameFile(const QString& a, const QString& b);
 
-class FileSet {
+class FileIdentities {
   public:
-    explicit FileSet(QStringList paths) : unknown_(std::move(paths)) {}
+    explicit FileIdentities(QStringList paths) : unknown_(std::move(paths)) {}
     // Asks the system once for each of the paths that is there, however often it is called.
     bool Contains(const QString& path);
 

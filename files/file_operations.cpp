@@ -15,35 +15,35 @@
 
 namespace varnel {
 
-int FileSteps::Create(const QByteArray& name, unsigned permissions) {
+int FileOperations::Create(const QByteArray& name, unsigned permissions) {
     return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
 }
 
-int FileSteps::Lock(int file) {
+int FileOperations::Lock(int file) {
     return ::flock(file, LOCK_EX | LOCK_NB) == 0 ? ::fcntl(file, F_DUPFD_CLOEXEC, 0) : -1;
 }
 
-qint64 FileSteps::Write(int file, const char* bytes, qint64 length) {
+qint64 FileOperations::Write(int file, const char* bytes, qint64 length) {
     return ::write(file, bytes, static_cast<std::size_t>(length));
 }
 
-int FileSteps::SetPermissions(int file, unsigned permissions) {
+int FileOperations::SetPermissions(int file, unsigned permissions) {
     return ::fchmod(file, static_cast<mode_t>(permissions));
 }
 
-int FileSteps::Sync(int file) {
+int FileOperations::Sync(int file) {
     return ::fsync(file);
 }
 
-int FileSteps::Close(int file) {
+int FileOperations::Close(int file) {
     return ::close(file);
 }
 
-int FileSteps::Rename(const QByteArray& name, const QByteArray& newName) {
+int FileOperations::Rename(const QByteArray& name, const QByteArray& newName) {
     return std::rename(name.constData(), newName.constData());
 }
 
-int FileSteps::SyncFolder(const QByteArray& folder) {
+int FileOperations::SyncFolder(const QByteArray& folder) {
     const int opened = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (opened == -1) {
         return -1;
@@ -55,7 +55,7 @@ int FileSteps::SyncFolder(const QByteArray& folder) {
     return result;
 }
 
-int FileSteps::Remove(const QByteArray& name) {
+int FileOperations::Remove(const QByteArray& name) {
     return ::unlink(name.constData());
 }
 

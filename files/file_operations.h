@@ -11,9 +11,9 @@ namespace varnel {
 
 // These are the system's own. Each gives -1 on failure and then leaves the error in errno. Names
 // are in the file system's encoding, files are descriptors.
-class FileSteps {
+class FileOperations {
   public:
-    virtual ~FileSteps() = default;
+    virtual ~FileOperations() = default;
 
     // Opens a new file for writing. Fails with EEXIST where there is anything of that name.
     virtual int Create(const QByteArray& name, unsigned permissions);

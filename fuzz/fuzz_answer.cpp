@@ -18,7 +18,7 @@ void CheckAnswer(const std::uint8_t* data, std::size_t size) {
     std::memcpy(&answer, data, std::min(size, sizeof answer));
     const varnel::DecoderRequest request{.number = answer.number, .memory = std::uint64_t{4} << 30};
     constexpr std::uint64_t length = std::uint64_t{1} << 20;
-    if (varnel::Believable(answer, request, length)) {
+    if (varnel::IsConsistent(answer, request, length)) {
         const std::uint64_t rows = varnel::RowBytes(answer);
         if (rows > length || answer.extrasLength > length - rows) {
             std::abort();

@@ -58,18 +58,18 @@ class LongRun {
         testing::DamageTrial trial(secondsPerPhoto);
         for (std::uint64_t number = part; number < run_.files; number += parts) {
             const auto file = testing::MakeDamagedFile(seeds_, run_.seed, number);
-            if (const QString trouble = trial.Try(file); !trouble.isEmpty()) {
-                Report(number, file, trouble);
+            if (const QString error = trial.Try(file); !error.isEmpty()) {
+                Report(number, file, error);
             }
         }
         const std::scoped_lock lock(mutex_);
         tally_.Add(trial.Tally());
     }
-    void Report(std::uint64_t number, const testing::DamagedFile& file, const QString& trouble) {
+    void Report(std::uint64_t number, const testing::DamagedFile& file, const QString& error) {
         const std::scoped_lock lock(mutex_);
         ++broken_;
         std::printf("%llu, from %s: %s\n", static_cast<unsigned long long>(number),
-                    file.seed.name.c_str(), trouble.toLocal8Bit().constData());
+                    file.seed.name.c_str(), error.toLocal8Bit().constData());
         if (!run_.keep.isEmpty()) {
             const QString name = QStringLiteral("%1-%2").arg(run_.seed).arg(number);
             testing::WriteFile(QDir(run_.keep).filePath(name), file.bytes);

@@ -150,7 +150,7 @@ bool WriteSample(const Sample& sample, const Order& order) {
     const SaveResult saved = TakeAndSave(sample, order, fileName);
     if (!saved) {
         std::fprintf(stderr, "varnel-sample: %s: %s\n", qPrintable(fileName),
-                     qPrintable(ToldReason(saved.reason)));
+                     qPrintable(ErrorText(saved.reason)));
         return false;
     }
     std::printf("%s\n", qPrintable(fileName));

@@ -117,7 +117,7 @@
     </message>
 </context>
 <context>
-    <name>Desk</name>
+    <name>Workspace</name>
     <message>
         <source>Could not find the photo that a picture was made of</source>
         <translation>Das Foto, aus dem ein Bild entstand, wurde nicht gefunden</translation>
@@ -1110,7 +1110,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>FrameStudy</name>
+    <name>OverlayGeometry</name>
     <message>
         <source>keeps %1 % of the circle</source>
         <translation>behält %1 % des Bildkreises</translation>
@@ -1206,7 +1206,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>Likeness</name>
+    <name>SettingsFromPicture</name>
     <message>
         <source>its name is not known</source>
         <translation>sein Name ist nicht bekannt</translation>
@@ -1266,7 +1266,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>PhotoMarks</name>
+    <name>ListBadges</name>
     <message>
         <source>adjusted</source>
         <translation>angepasst</translation>

@@ -31,16 +31,16 @@ class ShortenedLabel : public QLabel {
 GearOfferRow::GearOfferRow(QWidget* parent)
     : QWidget(parent),
       sign_(new QLabel(this)),
-      trouble_(new QLabel(this)),
+      error_(new QLabel(this)),
       line_(new ShortenedLabel(this)),
       button_(new QPushButton(this)) {
     const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
     sign_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
-    trouble_->setObjectName(QStringLiteral("LabelGearTrouble"));
-    trouble_->setTextFormat(Qt::PlainText);
-    QFont bold = trouble_->font();
+    error_->setObjectName(QStringLiteral("LabelGearError"));
+    error_->setTextFormat(Qt::PlainText);
+    QFont bold = error_->font();
     bold.setBold(true);
-    trouble_->setFont(bold);
+    error_->setFont(bold);
     line_->setObjectName(QStringLiteral("LabelTakenWith"));
     line_->setTextFormat(Qt::PlainText);
     button_->setObjectName(QStringLiteral("CmdOfferedGear"));
@@ -48,21 +48,21 @@ GearOfferRow::GearOfferRow(QWidget* parent)
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(16, 0, 0, 0);
     layout->addWidget(sign_);
-    layout->addWidget(trouble_);
+    layout->addWidget(error_);
     layout->addWidget(line_);
     layout->addWidget(button_);
     layout->addStretch();
     button_->hide();
     sign_->hide();
-    trouble_->hide();
+    error_->hide();
 }
 
 void GearOfferRow::Show(const GearOffer& offer, const GearTable& gears) {
     offer_ = offer;
-    sign_->setVisible(!offer.trouble.isEmpty());
-    trouble_->setVisible(!offer.trouble.isEmpty());
-    trouble_->setText(offer.trouble);
-    trouble_->setToolTip(
+    sign_->setVisible(!offer.error.isEmpty());
+    error_->setVisible(!offer.error.isEmpty());
+    error_->setText(offer.error);
+    error_->setToolTip(
         tr("The camera or the lens of the gear in use is not the photo's: the "
            "circle and the angles do not fit."));
     line_->setText(offer.line);

@@ -25,7 +25,7 @@ class GearOfferRow : public QWidget {
   private:
     GearOffer offer_;
     QLabel* sign_;
-    QLabel* trouble_;
+    QLabel* error_;
     QLabel* line_;
     QPushButton* button_;
 };

@@ -41,7 +41,7 @@ Projection FrameOverlay::Steered() const {
 }
 
 void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize picture) {
-    const FrameStudy* const study = port_.Study();
+    const OverlayGeometry* const study = port_.Study();
     if (study == nullptr) {
         return;
     }
@@ -51,7 +51,7 @@ void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize pi
     PaintLoss(painter, toWidget, *study);
     for (const SourceCurve& curve : study->border) {
         QPolygonF line;
-        for (const SourcePlace& place : curve) {
+        for (const SourcePosition& place : curve) {
             line.append(toWidget.map(PointOf(place, study->places.Size())));
         }
         for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 3.5), QPen(frameYellow, 1.8)}) {
@@ -64,13 +64,13 @@ void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize pi
 }
 
 void FrameOverlay::PaintLoss(QPainter& painter, const QTransform& toWidget,
-                             const FrameStudy& study) {
+                             const OverlayGeometry& study) {
     if (study.loss) {
         painter.fillPath(toWidget.map(*study.loss), lossShade);
         return;
     }
     // The last cells may reach beyond the picture's right and top edge.
-    const KeptArea& kept = study.kept;
+    const SourceCoverage& kept = study.kept;
     const double height = study.places.Size().height;
     const QRectF cells(0.0, height - kept.rows * kept.cell, kept.columns * kept.cell,
                        kept.rows * kept.cell);
@@ -78,7 +78,7 @@ void FrameOverlay::PaintLoss(QPainter& painter, const QTransform& toWidget,
 }
 
 void FrameOverlay::PaintHandles(QPainter& painter, const QTransform& toWidget,
-                                const FrameStudy& study) const {
+                                const OverlayGeometry& study) const {
     painter.setPen(QPen(Qt::black, 1.0));
     painter.setBrush(frameYellow);
     for (const FramePoint& handle : FrameHandles(Steered())) {
@@ -91,7 +91,7 @@ void FrameOverlay::PaintHandles(QPainter& painter, const QTransform& toWidget,
     }
 }
 
-std::optional<FramePoint> FrameOverlay::HandleAt(const FrameStudy& study,
+std::optional<FramePoint> FrameOverlay::HandleAt(const OverlayGeometry& study,
                                                  const OverlayInput& input) const {
     std::optional<FramePoint> nearest;
     double least = input.reach;
@@ -109,13 +109,13 @@ std::optional<FramePoint> FrameOverlay::HandleAt(const FrameStudy& study,
     return nearest;
 }
 
-bool FrameOverlay::Inside(const FrameStudy& study, const OverlayInput& input) const {
+bool FrameOverlay::Inside(const OverlayGeometry& study, const OverlayInput& input) const {
     return FrameTurns(Steered()) &&
            study.kept.Keeps(PlaceAtPoint(input.point, study.places.Size()));
 }
 
 bool FrameOverlay::Press(const OverlayInput& input) {
-    const FrameStudy* const study = port_.Study();
+    const OverlayGeometry* const study = port_.Study();
     if (study == nullptr || input.buttons != Qt::LeftButton || !port_.MayMove()) {
         return false;
     }
@@ -137,9 +137,9 @@ void FrameOverlay::Move(const OverlayInput& input) {
         return;
     }
     const FrameSetting setting = port_.Setting();
-    const SourcePlace here = PlaceAtPoint(input.point, setting.size);
-    const SourcePlace wanted{drag_->from.x + here.x - drag_->pressed.x,
-                             drag_->from.y + here.y - drag_->pressed.y};
+    const SourcePosition here = PlaceAtPoint(input.point, setting.size);
+    const SourcePosition wanted{drag_->from.x + here.x - drag_->pressed.x,
+                                drag_->from.y + here.y - drag_->pressed.y};
     ControlValues controls = setting.controls;
     if (!drag_->handle) {
         controls = TurnedNearest(setting, wanted);
@@ -170,7 +170,7 @@ void FrameOverlay::Release(const OverlayInput& /*input*/) {
 }
 
 bool FrameOverlay::Wheel(const OverlayInput& input, double steps) {
-    const FrameStudy* const study = port_.Study();
+    const OverlayGeometry* const study = port_.Study();
     if (study == nullptr || !port_.MayMove() || drag_ || input.modifiers != Qt::NoModifier) {
         return false;
     }
@@ -208,7 +208,7 @@ bool FrameOverlay::Key(const OverlayKey& key) {
 }
 
 std::optional<QCursor> FrameOverlay::CursorAt(const OverlayInput& input) const {
-    const FrameStudy* const study = port_.Study();
+    const OverlayGeometry* const study = port_.Study();
     if (study == nullptr || !port_.MayMove()) {
         return std::nullopt;
     }

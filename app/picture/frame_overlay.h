@@ -17,7 +17,7 @@ class FramePort {
   public:
     virtual ~FramePort() = default;
     // Null when there is nothing to show.
-    virtual const FrameStudy* Study() = 0;
+    virtual const OverlayGeometry* Study() = 0;
     virtual FrameSetting Setting() const = 0;
     virtual bool MayMove() const = 0;
     // While a drag goes on: shown and previewed, not stored.
@@ -43,16 +43,18 @@ class FrameOverlay : public PictureOverlay {
   private:
     struct Drag {
         std::optional<FramePoint> handle;  // nothing: the frame as a whole
-        SourcePlace from;                  // of what is moved
-        SourcePlace pressed;
+        SourcePosition from;               // of what is moved
+        SourcePosition pressed;
         ControlValues before;
     };
 
     Projection Steered() const;
-    std::optional<FramePoint> HandleAt(const FrameStudy& study, const OverlayInput& input) const;
-    bool Inside(const FrameStudy& study, const OverlayInput& input) const;
-    void PaintLoss(QPainter& painter, const QTransform& toWidget, const FrameStudy& study);
-    void PaintHandles(QPainter& painter, const QTransform& toWidget, const FrameStudy& study) const;
+    std::optional<FramePoint> HandleAt(const OverlayGeometry& study,
+                                       const OverlayInput& input) const;
+    bool Inside(const OverlayGeometry& study, const OverlayInput& input) const;
+    void PaintLoss(QPainter& painter, const QTransform& toWidget, const OverlayGeometry& study);
+    void PaintHandles(QPainter& painter, const QTransform& toWidget,
+                      const OverlayGeometry& study) const;
 
     FramePort& port_;
     std::optional<Drag> drag_;

@@ -50,7 +50,7 @@ void PaintLegend(QPainter& painter, const QRectF& picture) {
 }  // namespace
 
 void MagnificationOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize picture) {
-    const FrameStudy* const study = study_();
+    const OverlayGeometry* const study = study_();
     if (study == nullptr || study->grid.Columns().empty()) {
         return;
     }

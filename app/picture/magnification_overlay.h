@@ -14,13 +14,13 @@ namespace varnel {
 class MagnificationOverlay : public PictureOverlay {
   public:
     // Null when there is nothing to show.
-    explicit MagnificationOverlay(std::function<const FrameStudy*()> study)
+    explicit MagnificationOverlay(std::function<const OverlayGeometry*()> study)
         : study_(std::move(study)) {}
 
     void Paint(QPainter& painter, const QTransform& toWidget, QSize picture) override;
 
   private:
-    std::function<const FrameStudy*()> study_;
+    std::function<const OverlayGeometry*()> study_;
 };
 
 }  // namespace varnel

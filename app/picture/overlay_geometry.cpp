@@ -17,14 +17,14 @@ constexpr QColor shrunkBlue(40, 120, 255);
 constexpr QColor stretchedOrange(255, 140, 0);
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(FrameStudy)
+    Q_DECLARE_TR_FUNCTIONS(OverlayGeometry)
 };
 
 QString Fixed(double number, int decimals) {
     return QLocale::c().toString(number, 'f', decimals);
 }
 
-std::optional<QPainterPath> LossPath(const ResultPlaces& places,
+std::optional<QPainterPath> LossPath(const InverseMapping& places,
                                      const std::optional<SourceCurve>& outline) {
     if (!outline) {
         return std::nullopt;
@@ -38,7 +38,7 @@ std::optional<QPainterPath> LossPath(const ResultPlaces& places,
         photo = photo.intersected(whole);
     }
     QPolygonF kept;
-    for (const SourcePlace& place : *outline) {
+    for (const SourcePosition& place : *outline) {
         kept.append(PointOf(place, size));
     }
     QPainterPath inside;
@@ -48,27 +48,27 @@ std::optional<QPainterPath> LossPath(const ResultPlaces& places,
 
 }  // namespace
 
-FrameStudy::FrameStudy(Projection projection, const ImageRecord& image, PixelSize size)
+OverlayGeometry::OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size)
     : places(projection, image, size),
       grid(places),
       border(BorderCurves(places)),
-      kept(MeasureKept(grid)),
-      loss(LossPath(places, KeptOutline(places, kept))) {}
+      kept(MeasureCoverage(grid)),
+      loss(LossPath(places, CoverageOutline(places, kept))) {}
 
 QRectF VisiblePart(const QPainter& painter, const QRectF& picture) {
     const QRectF seen = picture & QRectF(painter.viewport());
     return painter.hasClipping() ? seen & painter.clipBoundingRect() : seen;
 }
 
-QPointF PointOf(const SourcePlace& place, PixelSize size) {
+QPointF PointOf(const SourcePosition& place, PixelSize size) {
     return {place.x + 0.5, size.height - 0.5 - place.y};
 }
 
-SourcePlace PlaceAtPoint(const QPointF& point, PixelSize size) {
+SourcePosition PlaceAtPoint(const QPointF& point, PixelSize size) {
     return {point.x() - 0.5, size.height - 0.5 - point.y()};
 }
 
-QImage LossImage(const KeptArea& kept) {
+QImage LossImage(const SourceCoverage& kept) {
     QImage image(kept.columns, kept.rows, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     for (int row = 0; row < kept.rows; ++row) {
@@ -116,7 +116,7 @@ QString KeptText(double share) {
     return Texts::tr("keeps %1 % of the circle").arg(std::lround(share * 100.0));
 }
 
-QString NumbersText(const ResultNumbers& numbers) {
+QString NumbersText(const ProjectionMetrics& numbers) {
     const QString none = Texts::tr("none");
     const QString centre = numbers.centreResolution
                                ? Fixed(*numbers.centreResolution, 2) + QStringLiteral(" : 1")

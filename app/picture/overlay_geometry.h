@@ -15,28 +15,28 @@
 
 namespace varnel {
 
-struct FrameStudy {
-    // Throws as ResultPlaces.
-    FrameStudy(Projection projection, const ImageRecord& image, PixelSize size);
-    FrameStudy(const FrameStudy&) = delete;
-    FrameStudy& operator=(const FrameStudy&) = delete;
+struct OverlayGeometry {
+    // Throws as InverseMapping.
+    OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size);
+    OverlayGeometry(const OverlayGeometry&) = delete;
+    OverlayGeometry& operator=(const OverlayGeometry&) = delete;
 
-    ResultPlaces places;
-    ResultGrid grid;
+    InverseMapping places;
+    MappingMesh grid;
     std::vector<SourceCurve> border;
-    KeptArea kept;
-    std::optional<QPainterPath> loss;  // in points of overlays; nothing without a KeptOutline
+    SourceCoverage kept;
+    std::optional<QPainterPath> loss;  // in points of overlays; nothing without a CoverageOutline
 };
 
 // The part of a picture that is in sight, for what is written over it.
 QRectF VisiblePart(const QPainter& painter, const QRectF& picture);
 
 // Between places, whose rows count from the bottom, and the points of overlays.
-QPointF PointOf(const SourcePlace& place, PixelSize size);
-SourcePlace PlaceAtPoint(const QPointF& point, PixelSize size);
+QPointF PointOf(const SourcePosition& place, PixelSize size);
+SourcePosition PlaceAtPoint(const QPointF& point, PixelSize size);
 
 // What is lost, a pixel for each of the cells, top row first.
-QImage LossImage(const KeptArea& kept);
+QImage LossImage(const SourceCoverage& kept);
 inline constexpr QColor lossShade(0, 0, 0, 150);
 // Blue where the photo is shrunk, orange where it is stretched, stronger the more.
 QImage MagnificationImage(const MagnificationMap& map);
@@ -45,6 +45,6 @@ QColor ColourOf(Magnified magnified);
 // "keeps 63 % of the circle"
 QString KeptText(double share);
 // The four numbers in one line.
-QString NumbersText(const ResultNumbers& numbers);
+QString NumbersText(const ProjectionMetrics& numbers);
 
 }  // namespace varnel

@@ -17,7 +17,7 @@ PictureArea::PictureArea(QWidget* parent)
     : QWidget(parent),
       from_(new PictureBox(tr("Add photos with \"Add image(s)\" or drop them here."), this)),
       to_(new PictureBox(tr("The converted picture appears here."), this)),
-      trouble_(new QLabel(this)) {
+      error_(new QLabel(this)) {
     from_->setObjectName(QStringLiteral("PicSmallFrom"));
     from_->setAccessibleName(tr("Photo as shot"));
     to_->setObjectName(QStringLiteral("PicSmallTo"));
@@ -27,33 +27,33 @@ PictureArea::PictureArea(QWidget* parent)
             tr("Plus and minus zoom, arrow keys move what is seen. While the image circle or the "
                "frame is shown on the photo, they change that."));
     }
-    trouble_->setObjectName(QStringLiteral("LabelTrouble"));
-    trouble_->setWordWrap(true);
-    trouble_->setMargin(6);
-    trouble_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    trouble_->setAutoFillBackground(true);
-    QPalette warning = trouble_->palette();
+    error_->setObjectName(QStringLiteral("LabelError"));
+    error_->setWordWrap(true);
+    error_->setMargin(6);
+    error_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    error_->setAutoFillBackground(true);
+    QPalette warning = error_->palette();
     warning.setColor(QPalette::Window, warningAmber);
     warning.setColor(QPalette::WindowText, Qt::black);
-    trouble_->setPalette(warning);
-    trouble_->hide();
+    error_->setPalette(warning);
+    error_->hide();
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, pictureSurround);
     setPalette(colours);
 }
 
-void PictureArea::ShowTrouble(const QString& text) {
-    trouble_->setText(text);
-    trouble_->setVisible(!text.isEmpty());
+void PictureArea::ShowError(const QString& text) {
+    error_->setText(text);
+    error_->setVisible(!text.isEmpty());
     from_->SetHintShown(text.isEmpty());
-    PlaceTrouble();
+    PlaceError();
 }
 
-void PictureArea::PlaceTrouble() {
+void PictureArea::PlaceError() {
     const QRect photo = from_->geometry();
-    const int height = std::min(trouble_->heightForWidth(photo.width()), photo.height());
-    trouble_->setGeometry(photo.left(), photo.bottom() + 1 - height, photo.width(), height);
+    const int height = std::min(error_->heightForWidth(photo.width()), photo.height());
+    error_->setGeometry(photo.left(), photo.bottom() + 1 - height, photo.width(), height);
 }
 
 void PictureArea::SetWanted(QSize size) {
@@ -82,7 +82,7 @@ void PictureArea::Place() {
     const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
     from_->setGeometry(QRect(corner, box));
     to_->setGeometry(QRect(corner + QPoint(step.width(), step.height()), box));
-    PlaceTrouble();
+    PlaceError();
 }
 
 void PictureArea::resizeEvent(QResizeEvent* /*event*/) {

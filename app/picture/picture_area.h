@@ -19,7 +19,7 @@ class PictureArea : public QWidget {
     PictureBox* From() const { return from_; }
     PictureBox* To() const { return to_; }
     // What is wrong with the photo as shot, on its lower edge; empty when nothing is.
-    void ShowTrouble(const QString& text);
+    void ShowError(const QString& text);
     // Logical pixels.
     void SetWanted(QSize size);
     // Boxes as large as there is room, whatever was wanted: for pictures shown in part.
@@ -36,11 +36,11 @@ class PictureArea : public QWidget {
   private:
     bool SideBySide() const { return width() >= height(); }
     void Place();
-    void PlaceTrouble();
+    void PlaceError();
 
     PictureBox* from_;
     PictureBox* to_;
-    QLabel* trouble_;
+    QLabel* error_;
     QSize wanted_{400, 300};
     bool roomy_ = false;
 };

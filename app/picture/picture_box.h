@@ -26,7 +26,7 @@ inline constexpr int pictureMargin = 12;  // logical pixels around and between p
 // What of a picture is there at full size.
 struct FullPicture {
     FIBITMAP* bitmap = nullptr;
-    const PartRender* rows = nullptr;  // those that are there; null when all are
+    const RegionRenderer* rows = nullptr;  // those that are there; null when all are
 };
 
 // Shows one bitmap in its middle, a bitmap pixel to a pixel of the screen, or a hint without one.

@@ -17,23 +17,23 @@ constexpr int whileBusy = 50;
 
 }  // namespace
 
-PartFeed::PartFeed(QObject* parent) : QObject(parent) {
+RegionScheduler::RegionScheduler(QObject* parent) : QObject(parent) {
     timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &PartFeed::Slice);
+    connect(&timer_, &QTimer::timeout, this, &RegionScheduler::Slice);
 }
 
-void PartFeed::Serve(std::function<Wish()> wish, std::function<bool()> busy) {
+void RegionScheduler::Serve(std::function<Wish()> wish, std::function<bool()> busy) {
     wish_ = std::move(wish);
     busy_ = std::move(busy);
 }
 
-void PartFeed::Wake() {
+void RegionScheduler::Wake() {
     if (!timer_.isActive()) {
         timer_.start(0);
     }
 }
 
-void PartFeed::Renew() {
+void RegionScheduler::Renew() {
     const Wish wish = wish_();
     failed_ = false;
     if (part_.Started() && !(wish.projection == projection_ && wish.image == image_)) {
@@ -42,13 +42,13 @@ void PartFeed::Renew() {
     timer_.start(afterChange);
 }
 
-void PartFeed::Drop() {
+void RegionScheduler::Drop() {
     timer_.stop();
     part_.Drop();
     failed_ = false;
 }
 
-bool PartFeed::Begin(const Wish& wish) {
+bool RegionScheduler::Begin(const Wish& wish) {
     projection_ = wish.projection;
     image_ = wish.image;
     try {
@@ -61,7 +61,7 @@ bool PartFeed::Begin(const Wish& wish) {
     return !failed_;
 }
 
-void PartFeed::Slice() {
+void RegionScheduler::Slice() {
     if (busy_()) {
         timer_.start(whileBusy);
         return;

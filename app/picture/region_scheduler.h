@@ -13,10 +13,10 @@
 
 namespace varnel {
 
-class PartFeed : public QObject {
+class RegionScheduler : public QObject {
     Q_OBJECT
   public:
-    explicit PartFeed(QObject* parent);
+    explicit RegionScheduler(QObject* parent);
 
     // What to draw from; null when there is nothing. Asked before each slice; busy() puts it off.
     struct Wish {
@@ -33,7 +33,7 @@ class PartFeed : public QObject {
     void Renew();
     // Forgets all; also needed before a source goes.
     void Drop();
-    const PartRender& Part() const { return part_; }
+    const RegionRenderer& Part() const { return part_; }
 
   Q_SIGNALS:
     void Drawn(RowSpan rows);
@@ -42,7 +42,7 @@ class PartFeed : public QObject {
     void Slice();
     bool Begin(const Wish& wish);
 
-    PartRender part_;
+    RegionRenderer part_;
     std::function<Wish()> wish_;
     std::function<bool()> busy_;
     Projection projection_ = Projection::Rectilinear;

@@ -46,7 +46,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
         MessageBoxes::Inform(*reminder);
     }
     TellOf(userStore, notices);
-    TellingStore store(userStore, notices);
+    AutosavingStore store(userStore, notices);
     WorkingState state;
     state.settings = LoadSettings(store);
     const auto reader = NewPictureReader();

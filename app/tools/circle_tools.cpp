@@ -50,11 +50,11 @@ ImageCircle Inscribed(PixelSize picture) {
 }  // namespace
 
 CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                         Desk& desk, WorkingState& state, SettingsStore& store)
+                         Workspace& workspace, WorkingState& state, SettingsStore& store)
     : QObject(window),
       parts_(parts),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       store_(store),
       overlay_([this] { return Shown(); }, [this](const ImageCircle& circle) { Try(circle); }),
@@ -80,7 +80,7 @@ void CircleTools::Connect() {
     connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
             Qt::QueuedConnection);
     view_.WhenResultShown([this] { Refresh(); });
-    desk_.WhenGearRestored([this](const GearChange& change) { RestoreGear(change); });
+    workspace_.WhenGearRestored([this](const GearChange& change) { RestoreGear(change); });
 }
 
 void CircleTools::OnToggled(bool on) {
@@ -99,8 +99,8 @@ void CircleTools::OnToggled(bool on) {
 
 // A gear that was given to all photos has its say before its circle is shown or changed.
 void CircleTools::PrepareCurrent() {
-    if (desk_.Current() != nullptr) {
-        desk_.PreparedCurrent();
+    if (workspace_.Current() != nullptr) {
+        workspace_.PreparedCurrent();
     }
 }
 
@@ -110,12 +110,12 @@ PixelSize CircleTools::PhotoSize() const {
 }
 
 std::optional<ImageCircle> CircleTools::Shown() {
-    const ImageRecord* const image = desk_.Current();
+    const ImageRecord* const image = workspace_.Current();
     const PixelSize size = PhotoSize();
     if (image == nullptr || size.width == 0) {
         return std::nullopt;
     }
-    if (trial_ && trialPhoto_ == desk_.CurrentPath()) {
+    if (trial_ && trialPhoto_ == workspace_.CurrentPath()) {
         return trial_;
     }
     const ImageCircle circle = CircleOf(*image, size);
@@ -123,13 +123,13 @@ std::optional<ImageCircle> CircleTools::Shown() {
 }
 
 int CircleTools::GearNumber() {
-    const ImageRecord* const image = desk_.Current();
+    const ImageRecord* const image = workspace_.Current();
     return image == nullptr ? 0 : state_.Gear.Find(image->GearName);
 }
 
 void CircleTools::Try(const ImageCircle& circle) {
     trial_ = circle;
-    trialPhoto_ = desk_.CurrentPath();
+    trialPhoto_ = workspace_.CurrentPath();
     asked_.reset();
     Refresh();
 }
@@ -144,26 +144,27 @@ void CircleTools::Refresh() {
     if (!entry_->isChecked()) {
         return;
     }
-    if (trialPhoto_ != desk_.CurrentPath()) {
+    if (trialPhoto_ != workspace_.CurrentPath()) {
         trial_.reset();
     }
     parts_.pictures->From()->RedrawOverlays();
-    if (trial_ && asked_ && *asked_ == desk_.Current()->GearName) {
+    if (trial_ && asked_ && *asked_ == workspace_.Current()->GearName) {
         return;  // a new preview does not answer the question
     }
     asked_.reset();
     const std::optional<ImageCircle> circle = Shown();
-    bar_->ShowNumbers(
-        circle ? NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize())) : QString(),
-        circle.has_value(), circle && IsNewToGear(*circle));
+    bar_->ShowNumbers(circle
+                          ? NumbersText(GearCircleFor(*circle, *workspace_.Current(), PhotoSize()))
+                          : QString(),
+                      circle.has_value(), circle && IsNewToGear(*circle));
 }
 
 bool CircleTools::IsNewToGear(const ImageCircle& circle) {
     const int n = GearNumber();
-    if (n == 0 || (!trial_ && CircleOf(*desk_.Current(), PhotoSize()).radius <= 0.0)) {
+    if (n == 0 || (!trial_ && CircleOf(*workspace_.Current(), PhotoSize()).radius <= 0.0)) {
         return false;
     }
-    const GearCircle numbers = GearCircleFor(circle, *desk_.Current(), PhotoSize());
+    const GearCircle numbers = GearCircleFor(circle, *workspace_.Current(), PhotoSize());
     const GearRecord& gear = state_.Gear(n);
     const auto differ = [](float one, float other) { return std::fabs(one - other) > 0.05F; };
     return differ(numbers.OfsetX, gear.OfsetX) || differ(numbers.OfsetY, gear.OfsetY) ||
@@ -172,7 +173,7 @@ bool CircleTools::IsNewToGear(const ImageCircle& circle) {
 
 void CircleTools::Find() {
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (photo == nullptr || desk_.Current() == nullptr || desk_.Busy()) {
+    if (photo == nullptr || workspace_.Current() == nullptr || workspace_.Busy()) {
         return;
     }
     try {
@@ -193,12 +194,13 @@ void CircleTools::Find() {
 void CircleTools::Ask() {
     PrepareCurrent();
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
-        asked_ = desk_.Current()->GearName;
-        bar_->Ask(tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
-                     "keep their "
-                     "circle, but for the current one.")
-                      .arg(desk_.Current()->GearName,
-                           NumbersText(GearCircleFor(*circle, *desk_.Current(), PhotoSize()))));
+        asked_ = workspace_.Current()->GearName;
+        bar_->Ask(
+            tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
+               "keep their "
+               "circle, but for the current one.")
+                .arg(workspace_.Current()->GearName,
+                     NumbersText(GearCircleFor(*circle, *workspace_.Current(), PhotoSize()))));
     }
 }
 
@@ -210,17 +212,17 @@ void CircleTools::Decline() {
 void CircleTools::Take() {
     const int gear = GearNumber();
     const std::optional<ImageCircle> shown = Shown();
-    if (!shown || gear == 0 || desk_.Busy() || view_.Locked()) {
+    if (!shown || gear == 0 || workspace_.Busy() || view_.Locked()) {
         return;
     }
-    const GearCircle circle = GearCircleFor(*shown, *desk_.Current(), PhotoSize());
+    const GearCircle circle = GearCircleFor(*shown, *workspace_.Current(), PhotoSize());
     const GearRecord before = state_.Gear(gear);
     TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
     SaveGear(store_, state_.Gear);
-    desk_.NoteStep(StepKind::Circle,
-                   {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
+    workspace_.NoteStep(StepKind::Circle,
+                        {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
     Reset();
-    desk_.Preview();
+    workspace_.Preview();
     view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back.")
                          .arg(state_.Gear(gear).GearName));
 }

@@ -20,8 +20,8 @@ namespace varnel {
 class CircleTools : public QObject {
     Q_OBJECT
   public:
-    CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
-                WorkingState& state, SettingsStore& store);
+    CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+                Workspace& workspace, WorkingState& state, SettingsStore& store);
 
   private:
     void Connect();
@@ -44,7 +44,7 @@ class CircleTools : public QObject {
 
     WindowParts parts_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     WorkingState& state_;
     SettingsStore& store_;
     CircleOverlay overlay_;

@@ -20,9 +20,9 @@ constexpr int margin = 24;  // logical pixels around the frame and within
 
 }  // namespace
 
-StartHint::StartHint(QWidget* window, const WindowParts& parts)
+EmptyState::EmptyState(QWidget* window, const WindowParts& parts)
     : QWidget(parts.pictures), parts_(parts) {
-    setObjectName(QStringLiteral("StartHint"));
+    setObjectName(QStringLiteral("EmptyState"));
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(2 * margin, 2 * margin, 2 * margin, 2 * margin);
     column->addStretch();
@@ -48,7 +48,7 @@ StartHint::StartHint(QWidget* window, const WindowParts& parts)
     }
 }
 
-QLabel* StartHint::AddLabel(const char* name, const QString& text) {
+QLabel* EmptyState::AddLabel(const char* name, const QString& text) {
     auto* const label = new QLabel(text, this);
     label->setObjectName(QString::fromLatin1(name));
     label->setAlignment(Qt::AlignCenter);
@@ -60,7 +60,7 @@ QLabel* StartHint::AddLabel(const char* name, const QString& text) {
     return label;
 }
 
-void StartHint::paintEvent(QPaintEvent* /*event*/) {
+void EmptyState::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), pictureSurround);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -69,12 +69,12 @@ void StartHint::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(rect().adjusted(margin, margin, -margin, -margin), 12.0, 12.0);
 }
 
-void StartHint::Light(bool lit) {
+void EmptyState::Light(bool lit) {
     lit_ = lit;
     update();
 }
 
-bool StartHint::eventFilter(QObject* watched, QEvent* event) {
+bool EmptyState::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::Resize:
             setGeometry(parts_.pictures->rect());

@@ -13,10 +13,10 @@
 
 namespace varnel {
 
-class StartHint : public QWidget {
+class EmptyState : public QWidget {
     Q_OBJECT
   public:
-    StartHint(QWidget* window, const WindowParts& parts);
+    EmptyState(QWidget* window, const WindowParts& parts);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

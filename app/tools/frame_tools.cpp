@@ -10,12 +10,12 @@
 
 namespace varnel {
 
-FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Desk& desk,
+FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
                        const WorkingState& state, QObject* parent)
     : QObject(parent),
       parts_(parts),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       frameOverlay_(*this),
       map_([this] { return magnification_->isChecked() ? Fresh() : nullptr; }),
@@ -57,7 +57,7 @@ void FrameTools::FollowControls() {
 }
 
 std::optional<ImageRecord> FrameTools::LiveRecord() const {
-    const ImageRecord* const image = desk_.Current();
+    const ImageRecord* const image = workspace_.Current();
     if (image == nullptr || state_.bitmaps.FullSourceBitmap == nullptr) {
         return std::nullopt;
     }
@@ -74,7 +74,7 @@ PixelSize FrameTools::PhotoSize() const {
     return photo == nullptr ? PixelSize{} : SizeOf(photo);
 }
 
-const FrameStudy* FrameTools::Fresh() {
+const OverlayGeometry* FrameTools::Fresh() {
     const std::optional<ImageRecord> live = LiveRecord();
     const PixelSize size = PhotoSize();
     if (live == studied_ && size.width == studiedSize_.width &&
@@ -86,8 +86,8 @@ const FrameStudy* FrameTools::Fresh() {
     study_.reset();
     if (live) {
         try {
-            study_ =
-                std::make_unique<FrameStudy>(ProjectionFromIndex(live->Projection), *live, size);
+            study_ = std::make_unique<OverlayGeometry>(ProjectionFromIndex(live->Projection), *live,
+                                                       size);
         } catch (const RunTimeError&) {
             // The preview says what is wrong.
         }
@@ -96,9 +96,9 @@ const FrameStudy* FrameTools::Fresh() {
 }
 
 void FrameTools::Update() {
-    const FrameStudy* const study = magnification_->isChecked() ? Fresh() : nullptr;
+    const OverlayGeometry* const study = magnification_->isChecked() ? Fresh() : nullptr;
     const auto numbers =
-        study == nullptr ? ResultNumbers() : MeasureResult(study->grid, study->kept);
+        study == nullptr ? ProjectionMetrics() : MeasureResult(study->grid, study->kept);
     numbers_->setText(study == nullptr ? QString() : NumbersText(numbers));
     numbers_->setToolTip(numbers.halfWay ? tr("The middle of Horizon is a single point of the "
                                               "photo: its resolution is told half way to the rim.")
@@ -109,11 +109,11 @@ void FrameTools::Update() {
 }
 
 FrameSetting FrameTools::Setting() const {
-    return {*desk_.Current(), view_.Controls(), PhotoSize()};
+    return {*workspace_.Current(), view_.Controls(), PhotoSize()};
 }
 
 bool FrameTools::MayMove() const {
-    return !view_.Locked() && desk_.Current() != nullptr;
+    return !view_.Locked() && workspace_.Current() != nullptr;
 }
 
 void FrameTools::Try(const ControlValues& controls) {

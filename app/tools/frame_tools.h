@@ -20,11 +20,11 @@ namespace varnel {
 class FrameTools : public QObject, private FramePort {
     Q_OBJECT
   public:
-    FrameTools(const WindowParts& parts, WindowView& view, Desk& desk, const WorkingState& state,
-               QObject* parent);
+    FrameTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
+               const WorkingState& state, QObject* parent);
 
   private:
-    const FrameStudy* Study() override { return frame_->isChecked() ? Fresh() : nullptr; }
+    const OverlayGeometry* Study() override { return frame_->isChecked() ? Fresh() : nullptr; }
     FrameSetting Setting() const override;
     bool MayMove() const override;
     void Try(const ControlValues& controls) override;
@@ -38,12 +38,12 @@ class FrameTools : public QObject, private FramePort {
     PixelSize PhotoSize() const;
     // The study of the live record, worked out anew when that has changed; null when there is no
     // photo or no conversion with its numbers.
-    const FrameStudy* Fresh();
+    const OverlayGeometry* Fresh();
     void Update();
 
     WindowParts parts_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     QTimer update_{this};  // fires when the input at hand is handled
     FrameOverlay frameOverlay_;
@@ -53,7 +53,7 @@ class FrameTools : public QObject, private FramePort {
     QLabel* numbers_;
     std::optional<ImageRecord> studied_;
     PixelSize studiedSize_;
-    std::unique_ptr<FrameStudy> study_;
+    std::unique_ptr<OverlayGeometry> study_;
 };
 
 }  // namespace varnel

@@ -9,18 +9,18 @@
 
 namespace varnel {
 
-HeldKey::HeldKey(int key, QWidget* window, std::function<bool()> wanted)
+HoldKey::HoldKey(int key, QWidget* window, std::function<bool()> wanted)
     : QObject(window), key_(key), window_(window), wanted_(std::move(wanted)) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-void HeldKey::LetGo() {
+void HoldKey::LetGo() {
     if (std::exchange(held_, false)) {
         Q_EMIT Held(false);
     }
 }
 
-bool HeldKey::eventFilter(QObject* watched, QEvent* event) {
+bool HoldKey::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::WindowDeactivate && watched == window_) {
         LetGo();  // the release goes to another window

@@ -10,12 +10,12 @@
 
 namespace varnel {
 
-class HeldKey : public QObject {
+class HoldKey : public QObject {
     Q_OBJECT
   public:
     // wanted() decides at the press whether it is this key's time; if not, the press goes where it
     // would have gone anyway.
-    HeldKey(int key, QWidget* window, std::function<bool()> wanted);
+    HoldKey(int key, QWidget* window, std::function<bool()> wanted);
 
   Q_SIGNALS:
     void Held(bool on);

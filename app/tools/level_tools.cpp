@@ -52,16 +52,16 @@ QString OutOfReachText(const Levelling& level) {
 }  // namespace
 
 QString LevelText(const Levelling& level) {
-    switch (level.trouble) {
-        case LevelTrouble::NoLens:
+    switch (level.error) {
+        case LevelError::NoLens:
             return Texts::tr("Not levelled: the gear's numbers make no lens.");
-        case LevelTrouble::TooShort:
+        case LevelError::TooShort:
             return Texts::tr("Not levelled: the line is too short.");
-        case LevelTrouble::NotStraight:
+        case LevelError::NotStraight:
             return Texts::tr("Not levelled: through this lens no horizon is bent like this line.");
-        case LevelTrouble::OutOfReach:
+        case LevelError::OutOfReach:
             return OutOfReachText(level);
-        case LevelTrouble::None:
+        case LevelError::None:
             break;
     }
     QStringList turns;
@@ -75,12 +75,12 @@ QString LevelText(const Levelling& level) {
                            : Texts::tr("Levelled: %1.").arg(turns.join(QStringLiteral(", ")));
 }
 
-LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
-                       WorkingState& state)
+LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+                       Workspace& workspace, WorkingState& state)
     : QObject(window),
       parts_(parts),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       leave_(new QShortcut(QKeySequence(Qt::Key_Escape), window)),
       stroke_([this] { parts_.pictures->From()->RedrawOverlays(); }, [this] { Level(); }) {
@@ -116,9 +116,9 @@ void LevelTools::OnToggled(bool on) {
 }
 
 void LevelTools::Level() {
-    const ImageRecord* const image = desk_.Current();
+    const ImageRecord* const image = workspace_.Current();
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (image == nullptr || photo == nullptr || desk_.Busy() || view_.Locked()) {
+    if (image == nullptr || photo == nullptr || workspace_.Busy() || view_.Locked()) {
         return;
     }
     if (view_.ChosenProjection() != Projection::Rectilinear) {
@@ -131,7 +131,7 @@ void LevelTools::Level() {
         traced.push_back({point.x(), point.y()});
     }
     const Levelling level = LevelHorizon(*image, SizeOf(photo), traced);
-    if (level.trouble == LevelTrouble::None) {
+    if (level.error == LevelError::None) {
         Store(level);
         Leave();  // the mouse is free for the next tool
     }
@@ -144,13 +144,13 @@ void LevelTools::Store(const Levelling& level) {
     parts_.adjustments->Row(SliderId::Z)->Show(Whole(level.rotateZ));
     for (const int line : view_.SelectedLines()) {
         ImageRecord& image = state_.Images(line + 1);
-        // The others get their gear first, which the desk minds.
+        // The others get their gear first, which the workspace minds.
         if (image.SettingsApplied || line == view_.CurrentLine()) {
             StoreControls(view_.Controls(), image);
         }
     }
-    desk_.NoteStep(StepKind::Level);
-    desk_.StoreControls(true);
+    workspace_.NoteStep(StepKind::Level);
+    workspace_.StoreControls(true);
 }
 
 }  // namespace varnel

@@ -21,8 +21,8 @@ QString LevelText(const Levelling& level);
 class LevelTools : public QObject {
     Q_OBJECT
   public:
-    LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
-               WorkingState& state);
+    LevelTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+               Workspace& workspace, WorkingState& state);
 
   private:
     void OnToggled(bool on);
@@ -32,7 +32,7 @@ class LevelTools : public QObject {
 
     WindowParts parts_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     WorkingState& state_;
     QShortcut* leave_;
     StrokeOverlay stroke_;

@@ -19,12 +19,12 @@ constexpr qsizetype mostPictures = 5000;  // are kept: about 25 MB
 
 }  // namespace
 
-ListTools::ListTools(const WindowParts& parts, WindowView& view, Desk& desk,
+ListTools::ListTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
                      const WorkingState& state, NewSmallReader newReader, QObject* parent)
     : QObject(parent),
       list_(*parts.list->List()),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       newReader_(std::move(newReader)),
       previews_(list_, *this, PhotoList::pathRole) {
@@ -37,8 +37,8 @@ ListTools::ListTools(const WindowParts& parts, WindowView& view, Desk& desk,
         Refresh();
     });
     connect(qobject_cast<PhotoList*>(&list_), &PhotoList::MoveWanted, this,
-            [this](int target) { desk_.MoveSelected(target); });
-    desk_.WhenStepsChanged([this] { Refresh(); });
+            [this](int target) { workspace_.MoveSelected(target); });
+    workspace_.WhenStepsChanged([this] { Refresh(); });
     view_.WhenIdle([this] { NoteLoaded(); });
     list_.installEventFilter(this);
     list_.viewport()->installEventFilter(this);
@@ -72,7 +72,7 @@ std::optional<QImage> ListTools::Take() {
     }
     const LoadedPicture picture = reader_->Take();
     if (!picture.reason.isEmpty()) {
-        troubles_.insert(underWay_, ToldReason(picture.reason));
+        errors_.insert(underWay_, ErrorText(picture.reason));
         Refresh();
     }
     if (picture.outcome == LoadOutcome::NotLoaded) {
@@ -93,16 +93,16 @@ void ListTools::Cancel() {
     }
 }
 
-// What is wrong with the photo on the desk, now that nothing is read any more.
+// What is wrong with the photo on the workspace, now that nothing is read any more.
 void ListTools::NoteLoaded() {
-    const QString path = desk_.CurrentPath();
-    if (path.isEmpty() || desk_.LoadTrouble().Is(ReasonCode::Cancelled)) {
+    const QString path = workspace_.CurrentPath();
+    if (path.isEmpty() || workspace_.LoadError().Is(ReasonCode::Cancelled)) {
         return;
     }
-    if (!view_.Trouble().isEmpty()) {
-        troubles_.insert(path, view_.Trouble());
+    if (!view_.Error().isEmpty()) {
+        errors_.insert(path, view_.Error());
     } else if (state_.bitmaps.FullSourceBitmap) {
-        troubles_.remove(path);
+        errors_.remove(path);
     }
     Refresh();
 }
@@ -121,7 +121,7 @@ void ListTools::ShowMarks() {
         const QString path = SourcePath(image);
         const auto [letters, words] =
             MarksOf(image, queued.contains(path),
-                    troubles_.value(path, ToldReason(desk_.Unreadable(path))));
+                    errors_.value(path, ErrorText(workspace_.Unreadable(path))));
         const QString tip = path + u'\n' + words;
         if (item->toolTip() != tip) {
             item->setData(PhotoList::marksRole, letters);

@@ -23,8 +23,8 @@ class ListTools : public QObject, private PreviewMaker {
     Q_OBJECT
   public:
     // Without a way to a reader there are no small pictures.
-    ListTools(const WindowParts& parts, WindowView& view, Desk& desk, const WorkingState& state,
-              NewSmallReader newReader, QObject* parent);
+    ListTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
+              const WorkingState& state, NewSmallReader newReader, QObject* parent);
     ~ListTools() override;
 
     // Something that the marks show may have changed: they follow soon.
@@ -37,7 +37,7 @@ class ListTools : public QObject, private PreviewMaker {
     void Begin(const QString& path) override;
     std::optional<QImage> Take() override;
     void Cancel() override;
-    bool MayBegin() const override { return newReader_ != nullptr && !desk_.Busy(); }
+    bool MayBegin() const override { return newReader_ != nullptr && !workspace_.Busy(); }
 
     void NoteLoaded();
     void ShowMarks();
@@ -45,7 +45,7 @@ class ListTools : public QObject, private PreviewMaker {
 
     QListWidget& list_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     NewSmallReader newReader_;
     std::unique_ptr<PictureReader> reader_;
@@ -54,7 +54,7 @@ class ListTools : public QObject, private PreviewMaker {
     QTimer resume_{this};
     QString underWay_;
     QHash<QString, QPixmap> pictures_;  // of each path
-    QHash<QString, QString> troubles_;
+    QHash<QString, QString> errors_;
     bool refilled_ = false;
 };
 

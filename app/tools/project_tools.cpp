@@ -12,19 +12,19 @@
 
 namespace varnel {
 
-ProjectTools::ProjectTools(QMainWindow* window, WindowView& view, Desk& desk,
+ProjectTools::ProjectTools(QMainWindow* window, WindowView& view, Workspace& workspace,
                            const WorkingState& state, SettingsStore& store,
                            const WindowPorts& ports)
     : QObject(window),
       window_(window),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       store_(store),
       ports_(ports) {
     auto* const sep = window->findChild<QAction*>(QStringLiteral("Sep2"));
     AddEntries(window->menuBar()->actions().constFirst()->menu(), sep);
-    desk_.WhenStepsChanged([this] { ShowState(); });
+    workspace_.WhenStepsChanged([this] { ShowState(); });
     ShowState();
 }
 
@@ -61,9 +61,9 @@ void ProjectTools::FillRecent() {
 }
 
 void ProjectTools::ShowState() {
-    const QString project = desk_.Steps().Project();
+    const QString project = workspace_.Steps().Project();
     view_.ShowProject(QFileInfo(project).completeBaseName(),
-                      !ChangedProject().isEmpty() || desk_.Steps().UnsavedPhotos() > 0);
+                      !ChangedProject().isEmpty() || workspace_.Steps().UnsavedPhotos() > 0);
     save_->setEnabled(!state_.Images.Empty() || !project.isEmpty());
     saveAs_->setEnabled(save_->isEnabled());
 }
@@ -85,8 +85,8 @@ QStringList ProjectTools::OpenFrom(const QStringList& files) {
 }
 
 QString ProjectTools::StartFolder() const {
-    const QString known = desk_.Steps().Project().isEmpty() ? RecentProjects(store_).value(0)
-                                                            : desk_.Steps().Project();
+    const QString known = workspace_.Steps().Project().isEmpty() ? RecentProjects(store_).value(0)
+                                                                 : workspace_.Steps().Project();
     if (!known.isEmpty()) {
         return QFileInfo(known).absolutePath();
     }
@@ -94,27 +94,28 @@ QString ProjectTools::StartFolder() const {
 }
 
 void ProjectTools::ChooseAndOpen() {
-    const QString path = desk_.Busy() ? QString() : ports_.dialogs.ChooseProject(StartFolder());
+    const QString path =
+        workspace_.Busy() ? QString() : ports_.dialogs.ChooseProject(StartFolder());
     if (!path.isEmpty()) {
         Open(path);
     }
 }
 
 void ProjectTools::Open(const QString& path) {
-    if (desk_.Busy()) {
+    if (workspace_.Busy()) {
         return;
     }
     ReadProject project = OpenProject(path);
-    const bool asks = project.trouble.isEmpty() && desk_.Steps().ChangedSinceSaved() &&
-                      (!state_.Images.Empty() || !desk_.Steps().Project().isEmpty());
-    if (asks && !SavedOrDiscarded({ChangedProject(), desk_.Steps().UnsavedPhotos()})) {
+    const bool asks = project.error.isEmpty() && workspace_.Steps().ChangedSinceSaved() &&
+                      (!state_.Images.Empty() || !workspace_.Steps().Project().isEmpty());
+    if (asks && !SavedOrDiscarded({ChangedProject(), workspace_.Steps().UnsavedPhotos()})) {
         return;
     }
     if (asks) {
         project = OpenProject(path);  // it may be the one that was just saved
     }
-    if (!project.trouble.isEmpty()) {
-        Tell(tr("Could not open %1").arg(path), {project.trouble});
+    if (!project.error.isEmpty()) {
+        Tell(tr("Could not open %1").arg(path), {project.error});
         return;
     }
     Show(project, QFileInfo(path).absoluteFilePath());
@@ -128,18 +129,18 @@ void ProjectTools::Show(const ReadProject& project, const QString& path) {
         ++line;
     }
     const bool none = project.missing.size() == project.images.UpperBound();
-    desk_.TakeProject(project.images, none ? 0 : line, path);
+    workspace_.TakeProject(project.images, none ? 0 : line, path);
     Tell(tr("Some photos of the project are not where they were"), project.missing);
     Tell(tr("Some settings of the project could not be used"), project.notes);
 }
 
 QString ProjectTools::ChangedProject() const {
-    const History& steps = desk_.Steps();
+    const History& steps = workspace_.Steps();
     return steps.ChangedSinceSaved() ? QFileInfo(steps.Project()).fileName() : QString();
 }
 
 bool ProjectTools::MayClose() {
-    const UnsavedWork work{ChangedProject(), desk_.Steps().UnsavedPhotos(),
+    const UnsavedWork work{ChangedProject(), workspace_.Steps().UnsavedPhotos(),
                            state_.BatchQueue.UpperBound()};
     return (work.project.isEmpty() && work.photos == 0 && work.queued == 0) ||
            SavedOrDiscarded(work);
@@ -159,15 +160,15 @@ bool ProjectTools::SavedOrDiscarded(const UnsavedWork& work) {
 }
 
 bool ProjectTools::Save() {
-    const QString& path = desk_.Steps().Project();
+    const QString& path = workspace_.Steps().Project();
     return path.isEmpty() ? SaveAs() : SaveTo(QString(path));
 }
 
 bool ProjectTools::SaveAs() {
-    if (desk_.Busy()) {
+    if (workspace_.Busy()) {
         return false;
     }
-    const QString known = desk_.Steps().Project();
+    const QString known = workspace_.Steps().Project();
     const QString proposal =
         known.isEmpty() ? QDir(StartFolder()).filePath(tr("photos") + projectEnding.toString())
                         : known;
@@ -176,15 +177,15 @@ bool ProjectTools::SaveAs() {
 }
 
 bool ProjectTools::SaveTo(const QString& path) {
-    if (desk_.Busy()) {
+    if (workspace_.Busy()) {
         return false;
     }
     const WriteResult written = WriteProject(path, state_.Images);
     if (!written) {
-        Tell(tr("Could not save %1").arg(path), {ToldReason(written.reason)});
+        Tell(tr("Could not save %1").arg(path), {ErrorText(written.reason)});
         return false;
     }
-    desk_.MarkSaved(path);
+    workspace_.MarkSaved(path);
     NoteRecentProject(path, store_);
     view_.ShowStatus(tr("Saved %1").arg(path));
     return true;

@@ -16,8 +16,8 @@ namespace varnel {
 class ProjectTools : public QObject {
     Q_OBJECT
   public:
-    ProjectTools(QMainWindow* window, WindowView& view, Desk& desk, const WorkingState& state,
-                 SettingsStore& store, const WindowPorts& ports);
+    ProjectTools(QMainWindow* window, WindowView& view, Workspace& workspace,
+                 const WorkingState& state, SettingsStore& store, const WindowPorts& ports);
 
     // Opens the first project file among them; returns the other files that are none.
     QStringList OpenFrom(const QStringList& files);
@@ -43,7 +43,7 @@ class ProjectTools : public QObject {
 
     QMainWindow* window_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     SettingsStore& store_;
     WindowPorts ports_;

@@ -35,8 +35,8 @@ GearNames SampleGear() {
 }  // namespace
 
 SampleTools::SampleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                         Desk& desk, const WorkingState& state)
-    : QObject(window), parts_(parts), view_(view), desk_(desk), state_(state) {
+                         Workspace& workspace, const WorkingState& state)
+    : QObject(window), parts_(parts), view_(view), workspace_(workspace), state_(state) {
     QMenu* const file = window->menuBar()->actions().constFirst()->menu();
     file->addSeparator();
     QAction* const entry = AddMenuEntry(file, "CmdOpenSample", tr("Open the sa&mple"));
@@ -84,11 +84,11 @@ void SampleTools::OnMade() {
 }
 
 void SampleTools::Add() {
-    if (desk_.Busy() || view_.Locked() || QApplication::activeModalWidget() != nullptr) {
+    if (workspace_.Busy() || view_.Locked() || QApplication::activeModalWidget() != nullptr) {
         QTimer::singleShot(200, this, &SampleTools::Add);
         return;
     }
-    desk_.AddFiles({SamplePath()});
+    workspace_.AddFiles({SamplePath()});
     const int last = state_.Images.UpperBound();
     if (view_.CurrentLine() != last - 1) {
         parts_.list->List()->setCurrentRow(last - 1);
@@ -96,7 +96,7 @@ void SampleTools::Add() {
     for (int gear = 1; gear <= state_.Gear.UpperBound(); ++gear) {
         if (NamesOf(state_.Gear(gear)) == SampleGear()) {
             if (state_.Images(last).GearName != state_.Gear(gear).GearName) {
-                desk_.UseGear(gear);
+                workspace_.UseGear(gear);
             }
             return;
         }

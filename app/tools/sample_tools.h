@@ -15,8 +15,8 @@ namespace varnel {
 class SampleTools : public QObject {
     Q_OBJECT
   public:
-    SampleTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Desk& desk,
-                const WorkingState& state);
+    SampleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
+                Workspace& workspace, const WorkingState& state);
     ~SampleTools() override;
 
   private:
@@ -27,7 +27,7 @@ class SampleTools : public QObject {
 
     WindowParts parts_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     QProcess maker_;
 };

@@ -12,18 +12,18 @@
 
 namespace varnel {
 
-SessionTools::SessionTools(ProjectTools& projects, Desk& desk, const WorkingState& state,
+SessionTools::SessionTools(ProjectTools& projects, Workspace& workspace, const WorkingState& state,
                            const WindowPorts& ports, QObject* parent)
     : QObject(parent),
       projects_(projects),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       ports_(ports),
       ended_(ports.sessions.folder.isEmpty()) {
     timer_.setSingleShot(true);
     timer_.setInterval(ports_.sessions.pause);
     connect(&timer_, &QTimer::timeout, this, &SessionTools::Write);
-    desk_.WhenStepsChanged([this] { NoteChange(); });
+    workspace_.WhenStepsChanged([this] { NoteChange(); });
 }
 
 void SessionTools::NoteChange() {
@@ -36,17 +36,17 @@ void SessionTools::Write() {
     if (writing_ && worker_.Wait(0)) {
         writing_ = false;
         if (const SaveResult result = worker_.Take(); !result) {
-            NoteTrouble(ToldReason(result.reason));
+            NoteError(ErrorText(result.reason));
         }
     }
     if (writing_) {
         timer_.start();
-    } else if (state_.Images.Empty() || !desk_.Steps().ChangedSinceSaved()) {
+    } else if (state_.Images.Empty() || !workspace_.Steps().ChangedSinceSaved()) {
         Forget();
     } else if (!std::ranges::equal(state_.Images, written_)) {
         Begin();
     }
-    TellTrouble();
+    TellError();
 }
 
 // A copy of the list is written on another thread; its texts are shared.
@@ -56,7 +56,7 @@ void SessionTools::Begin() {
     }
     written_ = state_.Images;
     if (!place_) {
-        NoteTrouble(tr("no folder can be made there"));
+        NoteError(tr("no folder can be made there"));
         return;
     }
     writing_ = true;
@@ -101,8 +101,8 @@ void SessionTools::OfferLost() {
 // True when the next one may be offered.
 bool SessionTools::Take(std::unique_ptr<SessionPlace> place) {
     const ReadProject list = OpenProject(place->File());
-    if (!list.trouble.isEmpty()) {
-        TellDamaged(*place, list.trouble);
+    if (!list.error.isEmpty()) {
+        TellDamaged(*place, list.error);
         return true;
     }
     switch (ports_.dialogs.AskToRestore({place->Written(), list.images.UpperBound()})) {
@@ -119,33 +119,33 @@ bool SessionTools::Take(std::unique_ptr<SessionPlace> place) {
     return false;
 }
 
-void SessionTools::TellDamaged(SessionPlace& place, const QString& trouble) {
+void SessionTools::TellDamaged(SessionPlace& place, const QString& error) {
     const QString file = place.File();
     const QString aside = place.SetAside();
     ports_.notices.Tell(
         tr("The image list of a window that was not closed is damaged and cannot be opened"),
-        QStringLiteral("%1: %2").arg(aside.isEmpty() ? file : aside, trouble));
+        QStringLiteral("%1: %2").arg(aside.isEmpty() ? file : aside, error));
 }
 
 // Only the first is told.
-void SessionTools::NoteTrouble(const QString& reason) {
+void SessionTools::NoteError(const QString& reason) {
     if (!std::exchange(failed_, true)) {
-        trouble_ = reason;
+        error_ = reason;
     }
 }
 
-void SessionTools::TellTrouble() {
-    if (trouble_.isEmpty()) {
+void SessionTools::TellError() {
+    if (error_.isEmpty()) {
         return;
     }
-    if (desk_.Busy() || QApplication::mouseButtons() != Qt::NoButton ||
+    if (workspace_.Busy() || QApplication::mouseButtons() != Qt::NoButton ||
         QApplication::activeModalWidget() != nullptr) {
         timer_.start();
         return;
     }
     ports_.notices.Tell(
         tr("The image list cannot be kept against a crash in %1").arg(ports_.sessions.folder),
-        std::exchange(trouble_, QString()));
+        std::exchange(error_, QString()));
 }
 
 }  // namespace varnel

@@ -19,7 +19,7 @@ class SessionTools : public QObject {
     Q_OBJECT
   public:
     // Without a folder in the ports nothing is kept or offered.
-    SessionTools(ProjectTools& projects, Desk& desk, const WorkingState& state,
+    SessionTools(ProjectTools& projects, Workspace& workspace, const WorkingState& state,
                  const WindowPorts& ports, QObject* parent);
 
     void OfferLost();
@@ -32,12 +32,12 @@ class SessionTools : public QObject {
     void Begin();
     void Forget();
     bool Take(std::unique_ptr<SessionPlace> place);
-    void TellDamaged(SessionPlace& place, const QString& trouble);
-    void NoteTrouble(const QString& reason);
-    void TellTrouble();
+    void TellDamaged(SessionPlace& place, const QString& error);
+    void NoteError(const QString& reason);
+    void TellError();
 
     ProjectTools& projects_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     WindowPorts ports_;
     QTimer timer_;
@@ -46,7 +46,7 @@ class SessionTools : public QObject {
     bool writing_ = false;
     bool ended_ = false;
     bool failed_ = false;
-    QString trouble_;  // to be told as soon as the user does nothing else
+    QString error_;  // to be told as soon as the user does nothing else
     SaveWorker worker_;
 };
 

@@ -6,19 +6,19 @@
 
 namespace varnel {
 
-SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Desk& desk,
+SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
                        const WorkingState& state, QObject* parent)
     : QObject(parent),
       parts_(parts),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       box_(new ContactSheetBox(parts.pictures)) {
     QAction* const entry =
         AddMenuEntry(parts_.viewMenu, "CmdContactSheet", tr("&Contact sheet"), {Qt::Key_F6});
     connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
     connect(box_, &ContactSheetBox::Chosen, this,
-            [this](const ContactTile& tile) { desk_.AdoptTile(tile); });
+            [this](const ContactTile& tile) { workspace_.AdoptTile(tile); });
     connect(box_, &ContactSheetBox::GivenUp, this,
             [this](const QString& shortage) { view_.ShowStatus(shortage); });
     // What the tiles show would no longer hold.
@@ -29,8 +29,8 @@ void SheetTools::Toggle() {
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (box_->isVisible()) {
         box_->hide();
-    } else if (photo != nullptr && desk_.Current() != nullptr && !desk_.Busy()) {
-        box_->Open(desk_.PreparedCurrent(), photo, view_.Antialiased());
+    } else if (photo != nullptr && workspace_.Current() != nullptr && !workspace_.Busy()) {
+        box_->Open(workspace_.PreparedCurrent(), photo, view_.Antialiased());
     }
 }
 

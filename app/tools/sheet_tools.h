@@ -14,8 +14,8 @@ namespace varnel {
 class SheetTools : public QObject {
     Q_OBJECT
   public:
-    SheetTools(const WindowParts& parts, WindowView& view, Desk& desk, const WorkingState& state,
-               QObject* parent);
+    SheetTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
+               const WorkingState& state, QObject* parent);
     // Another photo became current.
     void CloseSheet() { box_->hide(); }
 
@@ -24,7 +24,7 @@ class SheetTools : public QObject {
 
     WindowParts parts_;
     WindowView& view_;
-    Desk& desk_;
+    Workspace& workspace_;
     const WorkingState& state_;
     ContactSheetBox* box_;
 };

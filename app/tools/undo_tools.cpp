@@ -24,30 +24,31 @@ const QList<QKeySequence>& RedoKeys() {
 
 }  // namespace
 
-UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Desk& desk, QObject* parent)
+UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Workspace& workspace,
+                     QObject* parent)
     : QObject(parent),
-      desk_(desk),
+      workspace_(workspace),
       undo_(AddMenuEntry(parts.editMenu, "CmdEditUndo", {}, UndoKeys())),
       redo_(AddMenuEntry(parts.editMenu, "CmdEditRedo", {}, RedoKeys())) {
     connect(undo_, &QAction::triggered, this, [this, &view] {
         if (!view.Locked()) {
-            desk_.Undo();
+            workspace_.Undo();
         }
     });
     connect(redo_, &QAction::triggered, this, [this, &view] {
         if (!view.Locked()) {
-            desk_.Redo();
+            workspace_.Redo();
         }
     });
     for (SliderRow* const row : parts.adjustments->Rows()) {
-        connect(row->Slider(), &QSlider::sliderReleased, this, [this] { desk_.SealStep(); });
+        connect(row->Slider(), &QSlider::sliderReleased, this, [this] { workspace_.SealStep(); });
         for (auto* const field : row->findChildren<QSpinBox*>()) {
             field->installEventFilter(this);
         }
     }
     // Every press and release of a mouse button, wherever it is, ends the step at hand.
     QApplication::instance()->installEventFilter(this);
-    desk_.WhenStepsChanged([this] { ShowNames(); });
+    workspace_.WhenStepsChanged([this] { ShowNames(); });
     ShowNames();
 }
 
@@ -61,13 +62,13 @@ void UndoTools::ShowNames() {
         entry->setEnabled(!step.isEmpty());
         entry->setText(step.isEmpty() ? plain : named.arg(step));
     };
-    show(undo_, tr("&Undo"), tr("&Undo %1"), desk_.Steps().UndoName());
-    show(redo_, tr("&Redo"), tr("&Redo %1"), desk_.Steps().RedoName());
+    show(undo_, tr("&Undo"), tr("&Undo %1"), workspace_.Steps().UndoName());
+    show(redo_, tr("&Redo"), tr("&Redo %1"), workspace_.Steps().RedoName());
 }
 
 bool UndoTools::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
-        desk_.SealStep();
+        workspace_.SealStep();
     } else if (event->type() == QEvent::ShortcutOverride &&
                qobject_cast<QSpinBox*>(watched) != nullptr) {
         // A number's field would keep these keys for its own text, which it has none to go back to.

@@ -14,7 +14,8 @@ namespace varnel {
 class UndoTools : public QObject {
     Q_OBJECT
   public:
-    UndoTools(const WindowParts& parts, const WindowView& view, Desk& desk, QObject* parent);
+    UndoTools(const WindowParts& parts, const WindowView& view, Workspace& workspace,
+              QObject* parent);
     ~UndoTools() override;
 
   protected:
@@ -23,7 +24,7 @@ class UndoTools : public QObject {
   private:
     void ShowNames();
 
-    Desk& desk_;
+    Workspace& workspace_;
     QAction* undo_;
     QAction* redo_;
 };

@@ -15,12 +15,12 @@
 namespace varnel {
 
 ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const WindowView& view,
-                     const Desk& desk, const WorkingState& state)
+                     const Workspace& workspace, const WorkingState& state)
     : QObject(window),
       window_(window),
       parts_(parts),
       view_(view),
-      desk_(desk),
+      workspace_(workspace),
       state_(state),
       from_(parts.pictures->From()),
       to_(parts.pictures->To()),
@@ -29,8 +29,8 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
     shownScale_->setObjectName(QStringLiteral("ZoomText"));
     shownScale_->hide();
     window->statusBar()->addPermanentWidget(shownScale_);
-    feed_.Serve([this] { return Wish(); }, [this] { return desk_.Busy(); });
-    connect(&feed_, &PartFeed::Drawn, to_, &PictureBox::RedrawRows);
+    feed_.Serve([this] { return Wish(); }, [this] { return workspace_.Busy(); });
+    connect(&feed_, &RegionScheduler::Drawn, to_, &PictureBox::RedrawRows);
     from_->FollowZoom(&zoom_, [this] { return FullPicture{Photo(), nullptr}; });
     to_->FollowZoom(&zoom_, [this] { return FullPicture{feed_.Part().Result(), &feed_.Part()}; });
     for (PictureBox* const box : {from_, to_}) {
@@ -86,17 +86,17 @@ void ZoomTools::AddEntries() {
 void ZoomTools::AddKeys() {
     const auto overPictures = [this] { return from_->underMouse() || to_->underMouse(); };
     // Lists look for what is typed.
-    auto* const before = new HeldKey(Qt::Key_B, window_, [this, overPictures] {
+    auto* const before = new HoldKey(Qt::Key_B, window_, [this, overPictures] {
         const QWidget* const focus = window_->focusWidget();
         const bool types = qobject_cast<const QComboBox*>(focus) != nullptr ||
                            qobject_cast<const QListView*>(focus) != nullptr ||
                            qobject_cast<const QLineEdit*>(focus) != nullptr;
         return !types || overPictures();
     });
-    connect(before, &HeldKey::Held, this, [this](bool on) { ShowBefore(on); });
-    auto* const pan = new HeldKey(Qt::Key_Space, window_,
+    connect(before, &HoldKey::Held, this, [this](bool on) { ShowBefore(on); });
+    auto* const pan = new HoldKey(Qt::Key_Space, window_,
                                   [this, overPictures] { return !zoom_.Fit() && overPictures(); });
-    connect(pan, &HeldKey::Held, this, [this](bool on) {
+    connect(pan, &HoldKey::Held, this, [this](bool on) {
         from_->HoldPan(on);
         to_->HoldPan(on);
     });
@@ -146,7 +146,7 @@ void ZoomTools::OnRoomChanged() {
     }
 }
 
-PartFeed::Wish ZoomTools::Wish() const {
+RegionScheduler::Wish ZoomTools::Wish() const {
     if (zoom_.Fit() || to_->Empty()) {
         return {};
     }

@@ -19,7 +19,7 @@ class ZoomTools : public QObject {
     Q_OBJECT
   public:
     ZoomTools(QMainWindow* window, const WindowParts& parts, const WindowView& view,
-              const Desk& desk, const WorkingState& state);
+              const Workspace& workspace, const WorkingState& state);
 
   private:
     void AddEntries();
@@ -30,7 +30,7 @@ class ZoomTools : public QObject {
     void OnRoomChanged();
 
     FIBITMAP* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
-    PartFeed::Wish Wish() const;
+    RegionScheduler::Wish Wish() const;
     RowSpan VisibleRows() const;
     QPointF Middle(const PictureBox* box) const { return QRectF(box->rect()).center(); }
     // Makes the scale so, the point of the box's picture staying where it is on the screen.
@@ -43,12 +43,12 @@ class ZoomTools : public QObject {
     QMainWindow* window_;
     WindowParts parts_;
     const WindowView& view_;
-    const Desk& desk_;
+    const Workspace& workspace_;
     const WorkingState& state_;
     PictureBox* from_;
     PictureBox* to_;
     PictureZoom zoom_;
-    PartFeed feed_;
+    RegionScheduler feed_;
     PictureLines lines_;
     QLabel* shownScale_;
 };

@@ -52,21 +52,21 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     BuildStatus();
     BuildMenus();
     view_ = std::make_unique<WindowView>(this, parts_, state_);
-    desk_ = std::make_unique<Desk>(state_, ports_.photos, ports_.notices, *view_);
-    new UndoTools(parts_, *view_, *desk_, this);
+    workspace_ = std::make_unique<Workspace>(state_, ports_.photos, ports_.notices, *view_);
+    new UndoTools(parts_, *view_, *workspace_, this);
     AddRemoveEntry();
-    list_ = new ListTools(parts_, *view_, *desk_, state_, ports_.newSmallReader, this);
-    projects_ = new ProjectTools(this, *view_, *desk_, state_, store_, ports_);
-    sessions_ = new SessionTools(*projects_, *desk_, state_, ports_, this);
-    new ZoomTools(this, parts_, *view_, *desk_, state_);
+    list_ = new ListTools(parts_, *view_, *workspace_, state_, ports_.newSmallReader, this);
+    projects_ = new ProjectTools(this, *view_, *workspace_, state_, store_, ports_);
+    sessions_ = new SessionTools(*projects_, *workspace_, state_, ports_, this);
+    new ZoomTools(this, parts_, *view_, *workspace_, state_);
     parts_.viewMenu->addSeparator();
-    new SheetTools(parts_, *view_, *desk_, state_, this);
-    new FrameTools(parts_, *view_, *desk_, state_, this);
-    new LevelTools(this, parts_, *view_, *desk_, state_);
-    new CircleTools(this, parts_, *view_, *desk_, state_, store_);
+    new SheetTools(parts_, *view_, *workspace_, state_, this);
+    new FrameTools(parts_, *view_, *workspace_, state_, this);
+    new LevelTools(this, parts_, *view_, *workspace_, state_);
+    new CircleTools(this, parts_, *view_, *workspace_, state_, store_);
     new PictureKeys(this, parts_);
-    new StartHint(this, parts_);
-    new SampleTools(this, parts_, *view_, *desk_, state_);
+    new EmptyState(this, parts_);
+    new SampleTools(this, parts_, *view_, *workspace_, state_);
     new GuideTools(this, ports_.notices);
     ConnectControls();
     ConnectSliders();
@@ -215,7 +215,7 @@ void MDIForm1::Quit() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-    if (desk_->Busy()) {
+    if (workspace_->Busy()) {
         closeWanted_ = true;
         event->ignore();
         return;
@@ -230,7 +230,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
 }
 
 void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls() && !desk_->Busy()) {
+    if (event->mimeData()->hasUrls() && !workspace_->Busy()) {
         event->acceptProposedAction();
     }
 }
@@ -242,7 +242,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
             files.append(url.toLocalFile());
         }
     }
-    if (desk_->Busy() || files.isEmpty()) {
+    if (workspace_->Busy() || files.isEmpty()) {
         event->ignore();
         return;
     }
@@ -251,7 +251,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
 }
 
 void MDIForm1::AddFiles(const QStringList& files) {
-    desk_->AddFiles(projects_->OpenFrom(files));
+    workspace_->AddFiles(projects_->OpenFrom(files));
 }
 
 void MDIForm1::RestoreLayout() {

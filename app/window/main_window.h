@@ -92,7 +92,7 @@ class MDIForm1 : public QMainWindow {
     QAction* saveImage_ = nullptr;
     QAction* removeImages_ = nullptr;
     std::unique_ptr<WindowView> view_;
-    std::unique_ptr<Desk> desk_;
+    std::unique_ptr<Workspace> workspace_;
     ProjectTools* projects_ = nullptr;
     SessionTools* sessions_ = nullptr;
     ListTools* list_ = nullptr;

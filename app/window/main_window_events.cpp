@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What happens on the main window: one short handler each; the work is the desk's.
+// What happens on the main window: one short handler each; the work is the workspace's.
 
 #include <QGuiApplication>
 #include <QScopeGuard>
@@ -22,17 +22,17 @@ void MDIForm1::ConnectControls() {
     };
     click(parts_.list->Add(), [this] { AddImages(); });
     click(parts_.list->Remove(), [this] { RemoveImages(); });
-    click(parts_.equipment->ApplyToAll(), [this] { desk_->ApplyGear(); });
-    click(parts_.adjustments->ApplyToAll(), [this] { desk_->ApplySettings(); });
-    click(parts_.adjustments->PreviewButton(), [this] { desk_->PreviewNow(); });
-    click(parts_.adjustments->AutoPreview(), [this] { desk_->Preview(); });
-    click(parts_.adjustments->Antialiased(), [this] { desk_->Preview(); });
+    click(parts_.equipment->ApplyToAll(), [this] { workspace_->ApplyGear(); });
+    click(parts_.adjustments->ApplyToAll(), [this] { workspace_->ApplySettings(); });
+    click(parts_.adjustments->PreviewButton(), [this] { workspace_->PreviewNow(); });
+    click(parts_.adjustments->AutoPreview(), [this] { workspace_->Preview(); });
+    click(parts_.adjustments->Antialiased(), [this] { workspace_->Preview(); });
     click(parts_.save->SaveAs(), [this] { SaveAs(); });
     click(parts_.save->AddToQueue(), [this] { QueueAll(); });
     click(parts_.save->ProcessQueue(), [this] { ProcessBatch(); });
     click(parts_.offer->Button(), [this] { TakeOffer(); });
     connect(parts_.equipment->Gears(), &QComboBox::activated, this,
-            [this] { desk_->ChooseGear(); });
+            [this] { workspace_->ChooseGear(); });
     connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
             &MDIForm1::OnProjection);
     connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &MDIForm1::OnLine);
@@ -43,7 +43,7 @@ void MDIForm1::ConnectControls() {
     connect(&roomSettled_, &QTimer::timeout, this, &MDIForm1::OnRoomChanged);
     view_->WhenListShown([this] { OnListShown(); });
     view_->WhenIdle([this] {
-        if (!desk_->Busy() && std::exchange(closeWanted_, false)) {
+        if (!workspace_->Busy() && std::exchange(closeWanted_, false)) {
             QTimer::singleShot(0, this, &QWidget::close);
         }
     });
@@ -74,7 +74,7 @@ void MDIForm1::TakeTyped() {
 
 void MDIForm1::ConnectSliders() {
     livePreview_.setSingleShot(true);
-    connect(&livePreview_, &QTimer::timeout, this, [this] { desk_->PreviewControls(); });
+    connect(&livePreview_, &QTimer::timeout, this, [this] { workspace_->PreviewControls(); });
     for (SliderRow* const row : parts_.adjustments->Rows()) {
         connect(row, &SliderRow::Dragged, &livePreview_, [this] { livePreview_.start(0); });
         connect(row, &SliderRow::Changed, this, [this, row] { OnSliderChanged(row); });
@@ -84,13 +84,13 @@ void MDIForm1::ConnectSliders() {
 
 void MDIForm1::OnLine(int line) {
     changedByPress_ = QGuiApplication::mouseButtons() != Qt::NoButton;
-    desk_->ShowLine(line);
+    workspace_->ShowLine(line);
 }
 
 // A click on the line that is current already loads its photo again.
 void MDIForm1::OnLineClicked() {
     if (!std::exchange(changedByPress_, false)) {
-        desk_->ShowLine(parts_.list->List()->currentRow());
+        workspace_->ShowLine(parts_.list->List()->currentRow());
     }
 }
 
@@ -105,7 +105,7 @@ void MDIForm1::OnSliderChanged(SliderRow* row) {
         row->Slider()->setEnabled(false);
         const auto enable = qScopeGuard([row] { row->Slider()->setEnabled(true); });
         view_->HandleEvents();
-        desk_->StoreControls(true);
+        workspace_->StoreControls(true);
     }
     if (focused != nullptr) {
         focused->setFocus();
@@ -123,21 +123,21 @@ void MDIForm1::OnSliderReset(SliderRow* row) {
 void MDIForm1::OnProjection(int index) {
     const Projection projection = ProjectionFromIndex(index);
     parts_.adjustments->ShowFor(projection);
-    if (const ImageRecord* const image = desk_->Current()) {
+    if (const ImageRecord* const image = workspace_->Current()) {
         ImageRecord shown = *image;
         shown.Projection = static_cast<std::int16_t>(projection);
         if (const std::optional<int> effect = ValuesFor(shown).effect) {
             parts_.adjustments->ShowEffect(*effect);
         }
     }
-    desk_->StoreControls(true);
+    workspace_->StoreControls(true);
 }
 
 // The pictures are made anew only when the window leaves another room for them.
 void MDIForm1::OnRoomChanged() {
     FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
     FIBITMAP* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
-    if (desk_->Busy()) {
+    if (workspace_->Busy()) {
         roomSettled_.start(150);
         return;
     }
@@ -148,8 +148,8 @@ void MDIForm1::OnRoomChanged() {
     // There may have been no memory for the one before.
     if ((reduced == nullptr || wanted.width != SizeOf(reduced).width ||
          wanted.height != SizeOf(reduced).height) &&
-        desk_->RebuildThumbnail()) {
-        desk_->Preview();
+        workspace_->RebuildThumbnail()) {
+        workspace_->Preview();
     }
 }
 
@@ -159,7 +159,7 @@ void MDIForm1::OnListShown() {
         view_->ShowTitle({});
         ShowGears();
     } else {
-        desk_->ShowLine(view_->CurrentLine());
+        workspace_->ShowLine(view_->CurrentLine());
     }
 }
 
@@ -170,18 +170,18 @@ void MDIForm1::PickPoint(QPoint /*position*/, Qt::MouseButton /*button*/,
 void MDIForm1::AddImages() {
     const int before = state_.Images.UpperBound();
     if (ports_.dialogs.AddImages(this)) {
-        desk_->ImagesAdded(before);
+        workspace_->ImagesAdded(before);
     }
 }
 
 void MDIForm1::RemoveImages() {
-    desk_->RemoveSelected();
+    workspace_->RemoveSelected();
 }
 
 void MDIForm1::ManageGears() {
     const std::vector<GearChange> changes = ports_.dialogs.ManageGears(this);
     ShowGears();
-    desk_->FollowGears(changes, [this](const QString& gear, int photos) {
+    workspace_->FollowGears(changes, [this](const QString& gear, int photos) {
         return ports_.dialogs.GiveNewNumbers(gear, photos);
     });
 }
@@ -189,24 +189,24 @@ void MDIForm1::ManageGears() {
 void MDIForm1::TakeOffer() {
     const GearOffer offer = parts_.offer->Offer();
     if (offer.gear > 0) {
-        desk_->UseGear(offer.gear);
+        workspace_->UseGear(offer.gear);
         return;
     }
-    const GearRecord known = offer.lost ? GearOf(*desk_->Current()) : GearNamed(offer.names);
-    if (desk_->Busy() || !ports_.dialogs.DefineGear(known, this)) {
+    const GearRecord known = offer.lost ? GearOf(*workspace_->Current()) : GearNamed(offer.names);
+    if (workspace_->Busy() || !ports_.dialogs.DefineGear(known, this)) {
         return;
     }
     ShowGears();
     if (offer.lost) {
-        desk_->NameGear(state_.Gear(state_.Gear.UpperBound()).GearName);
+        workspace_->NameGear(state_.Gear(state_.Gear.UpperBound()).GearName);
     } else if (const int gear = parts_.offer->Offer().gear; gear > 0) {
-        desk_->UseGear(gear);
+        workspace_->UseGear(gear);
     }
 }
 
 void MDIForm1::ShowGears() {
     parts_.equipment->Fill(state_.Gear);
-    if (const ImageRecord* const image = desk_->Current()) {
+    if (const ImageRecord* const image = workspace_->Current()) {
         parts_.equipment->Show(image->GearName);
     }
     view_->ShowOffer();
@@ -216,8 +216,8 @@ void MDIForm1::ChangeDefaults() {
     ports_.dialogs.ChangeDefaults(this);
     parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
     view_->ShowOffer();
-    if (desk_->RebuildThumbnail()) {
-        desk_->Preview();
+    if (workspace_->RebuildThumbnail()) {
+        workspace_->Preview();
     }
 }
 
@@ -227,11 +227,11 @@ void MDIForm1::ShowAbout() {
 
 void MDIForm1::SaveAs() {
     TakeTyped();
-    desk_->SaveAs(ports_.fileChooser);
+    workspace_->SaveAs(ports_.fileChooser);
 }
 
 void MDIForm1::QueueAll() {
-    ShowsQueue()(desk_->AddToBatchQueue());
+    ShowsQueue()(workspace_->AddToBatchQueue());
 }
 
 QueueChanged MDIForm1::ShowsQueue() {
@@ -244,16 +244,18 @@ QueueChanged MDIForm1::ShowsQueue() {
 void MDIForm1::ProcessBatch() {
     ports_.dialogs.ProcessBatch(
         ShowsQueue(),
-        [this](const ImageRecord& entry, const QString& file) { desk_->MarkWritten(entry, file); },
+        [this](const ImageRecord& entry, const QString& file) {
+            workspace_->MarkWritten(entry, file);
+        },
         this);
 }
 
 void MDIForm1::Morph() {
-    ports_.dialogs.Morph(desk_->PreparedCurrent(), ShowsQueue(), this);
+    ports_.dialogs.Morph(workspace_->PreparedCurrent(), ShowsQueue(), this);
 }
 
 void MDIForm1::Stretch() {
-    ports_.dialogs.Stretch(desk_->CurrentPath(), this);
+    ports_.dialogs.Stretch(workspace_->CurrentPath(), this);
 }
 
 void MDIForm1::UpdateEnabled() {

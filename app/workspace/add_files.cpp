@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Files that were dropped: the part of the desk that looks into them.
+// Files that were dropped: the part of the workspace that looks into them.
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -17,7 +17,7 @@ namespace varnel {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Desk)
+    Q_DECLARE_TR_FUNCTIONS(Workspace)
 };
 
 void TellLines(Notices& notices, const QString& text, QStringList lines) {
@@ -34,16 +34,16 @@ void TellLines(Notices& notices, const QString& text, QStringList lines) {
 }  // namespace
 
 // One by one they would each put up a box when their line becomes current.
-void Desk::NoteBad(const std::vector<BadFile>& bad) {
+void Workspace::NoteBad(const std::vector<BadFile>& bad) {
     for (const BadFile& file : bad) {
         unreadable_.insert(file.path, file.reason);
     }
 }
 
-void Desk::TellBad(const std::vector<BadFile>& bad) {
+void Workspace::TellBad(const std::vector<BadFile>& bad) {
     QStringList lines;
     for (const BadFile& file : bad) {
-        lines.append(QStringLiteral("%1: %2").arg(file.path, ToldReason(file.reason)));
+        lines.append(QStringLiteral("%1: %2").arg(file.path, ErrorText(file.reason)));
     }
     TellLines(notices_,
               lines.size() == 1
@@ -52,7 +52,7 @@ void Desk::TellBad(const std::vector<BadFile>& bad) {
               lines);
 }
 
-void Desk::ImagesAdded(int before) {
+void Workspace::ImagesAdded(int before) {
     std::vector<BadFile> bad;
     {
         const Hourglass hourglass(view_);
@@ -60,8 +60,8 @@ void Desk::ImagesAdded(int before) {
         PhotoLoader::Together together(photos_);
         for (int n = before + 1; n <= state_.Images.UpperBound(); ++n) {
             const QString path = SourcePath(state_.Images(n));
-            if (const Reason trouble = photos_.Trouble(path); !trouble.isEmpty()) {
-                bad.push_back({path, trouble});
+            if (const Reason error = photos_.Error(path); !error.isEmpty()) {
+                bad.push_back({path, error});
             }
             if (photos_.GivenUp() || !together.Continue()) {
                 break;
@@ -74,7 +74,7 @@ void Desk::ImagesAdded(int before) {
     TellBad(bad);
 }
 
-void Desk::AddFiles(const QStringList& paths) {
+void Workspace::AddFiles(const QStringList& paths) {
     if (Busy() || paths.isEmpty()) {
         return;
     }

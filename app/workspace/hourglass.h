@@ -10,13 +10,13 @@ namespace varnel {
 // The hourglass for a while, put up after waiting events had their turn.
 class Hourglass {
   public:
-    explicit Hourglass(DeskView& view) : view_(view) { view_.ShowHourglass(true); }
+    explicit Hourglass(WorkspaceView& view) : view_(view) { view_.ShowHourglass(true); }
     ~Hourglass() { view_.ShowHourglass(false); }
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 
   private:
-    DeskView& view_;
+    WorkspaceView& view_;
 };
 
 }  // namespace varnel

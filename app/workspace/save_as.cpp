@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Saving the current photo: the part of the desk that writes files.
+// Saving the current photo: the part of the workspace that writes files.
 
 #include <QCoreApplication>
 #include <new>
@@ -22,20 +22,20 @@ namespace varnel {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Desk)
+    Q_DECLARE_TR_FUNCTIONS(Workspace)
 };
 
 }  // namespace
 
-SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
-                               const CancelFlag& cancelled) {
+SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
+                                    const CancelFlag& cancelled) {
     const Raised saving(saving_);
     const Raised rendering(rendering_);
     const OutputType type = TypeOf(choice);
-    RenderDesk desk{.bitmaps = state_.bitmaps, .runner = &runner_};
+    RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &runner_};
     CancellableProgress progress(view_.Progress(), cancelled);
     try {
-        Render(view_.ChosenProjection(), image, SizeKind::Large, progress, desk);
+        Render(view_.ChosenProjection(), image, SizeKind::Large, progress, workspace);
         FIBITMAP* const result = state_.bitmaps.ResultBitmap.get();
         if (!state_.settings.WriteMetadata) {
             DropMetadata(result);
@@ -57,7 +57,7 @@ SaveResult Desk::RenderAndSave(const ImageRecord& image, const SaveChoice& choic
     }
 }
 
-void Desk::SaveAs(FileChooser& chooser) {
+void Workspace::SaveAs(FileChooser& chooser) {
     if (Busy() || Current() == nullptr) {
         return;
     }
@@ -98,13 +98,13 @@ void Desk::SaveAs(FileChooser& chooser) {
     view_.Idle();
 }
 
-void Desk::TellSaved(const SaveResult& saved, const QString& name) {
+void Workspace::TellSaved(const SaveResult& saved, const QString& name) {
     if (!saved) {
-        notices_.Tell(Texts::tr("Could not save %1").arg(name), ToldReason(saved.reason));
+        notices_.Tell(Texts::tr("Could not save %1").arg(name), ErrorText(saved.reason));
     } else if (saved.note.isEmpty()) {
         view_.ShowStatus(Texts::tr("Saved %1").arg(name));
     } else {
-        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ToldReason(saved.note)));
+        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ErrorText(saved.note)));
     }
 }
 

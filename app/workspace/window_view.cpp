@@ -105,8 +105,8 @@ void WindowView::ShowOffer() {
     FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (n >= 1 && n <= state_.Images.UpperBound()) {
         const bool asks = state_.settings.OfferGear && photo != nullptr;
-        offer = OfferFor(asks ? MetadataOf(photo).origin : PhotoOrigin(), state_.Gear,
-                         state_.Images(n));
+        offer =
+            OfferFor(asks ? MetadataOf(photo).origin : CameraInfo(), state_.Gear, state_.Images(n));
     }
     parts_.offer->Show(offer, state_.Gear);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window as the desk sees it.
+// The main window as the workspace sees it.
 #pragma once
 
 #include <QLabel>
@@ -35,7 +35,7 @@ struct WindowParts {
     QLabel* status = nullptr;
 };
 
-class WindowView : public DeskView {
+class WindowView : public WorkspaceView {
   public:
     WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state);
 
@@ -60,9 +60,9 @@ class WindowView : public DeskView {
     }
     void ShowResult(FIBITMAP* bitmap) override;
     void NoteDrawn(const ImageRecord& image) override { drawn_ = image; }
-    void ShowTrouble(const QString& text) override {
-        trouble_ = text;
-        parts_.pictures->ShowTrouble(text);
+    void ShowError(const QString& text) override {
+        error_ = text;
+        parts_.pictures->ShowError(text);
     }
     void ShowStatus(const QString& text) override {
         ++statusNumber_;
@@ -84,7 +84,7 @@ class WindowView : public DeskView {
     // What took the current photo, once it is loaded.
     void ShowOffer();
 
-    const QString& Trouble() const { return trouble_; }
+    const QString& Error() const { return error_; }
     // In the window's title, behind the photo's name; marked when there is unsaved work.
     void ShowProject(const QString& name, bool unsaved);
     void ShowTitle(const QString& photo);
@@ -112,7 +112,7 @@ class WindowView : public DeskView {
     bool locked_ = false;
     QString photo_, project_;  // of the title
     bool unsaved_ = false;
-    QString trouble_;
+    QString error_;
     int statusNumber_ = 0;
     std::vector<std::function<void()>> whenResultShown_;
     std::vector<std::function<void()>> whenIdle_;

@@ -21,38 +21,38 @@ namespace varnel {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Desk)
+    Q_DECLARE_TR_FUNCTIONS(Workspace)
 };
 
 }  // namespace
 
-ImageRecord* Desk::Current() {
+ImageRecord* Workspace::Current() {
     const int n = view_.CurrentLine() + 1;
     return n >= 1 && n <= state_.Images.UpperBound() ? &state_.Images(n) : nullptr;
 }
 
-const ImageRecord& Desk::PreparedCurrent() {
+const ImageRecord& Workspace::PreparedCurrent() {
     Prepare(*Current());
     RefreshCurrent();
     return *Current();
 }
 
-QString Desk::CurrentPath() {
+QString Workspace::CurrentPath() {
     const ImageRecord* const image = Current();
     return image != nullptr ? SourcePath(*image) : QString();
 }
 
-void Desk::ShowInControls(const ImageRecord& image) {
+void Workspace::ShowInControls(const ImageRecord& image) {
     const Raised loading(state_.loadingControls);
     view_.ShowRecord(image);
 }
 
-void Desk::TellNotOpened(const ImageRecord& image) {
+void Workspace::TellNotOpened(const ImageRecord& image) {
     notices_.Tell(Texts::tr("Could not open image"),
-                  QStringLiteral("%1: %2").arg(SourcePath(image), ToldReason(loadTrouble_)));
+                  QStringLiteral("%1: %2").arg(SourcePath(image), ErrorText(loadError_)));
 }
 
-bool Desk::LoadFull(int line) {
+bool Workspace::LoadFull(int line) {
     NoteStep(StepKind::Other);  // all that comes now is nobody's deed
     history_.Seal();
     ImageRecord& image = state_.Images(line + 1);
@@ -60,11 +60,11 @@ bool Desk::LoadFull(int line) {
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.FullSourceBitmap.reset();
     view_.ShowResult(nullptr);  // never another photo's
-    view_.ShowTrouble({});
+    view_.ShowError({});
     LoadedPicture loaded = photos_.Load(SourcePath(image));
-    loadTrouble_ = loaded.bitmap ? Reason() : loaded.reason;
+    loadError_ = loaded.bitmap ? Reason() : loaded.reason;
     if (!loaded.reason.isEmpty()) {
-        view_.ShowTrouble(QStringLiteral("%1: %2").arg(image.FileName, ToldReason(loaded.reason)));
+        view_.ShowError(QStringLiteral("%1: %2").arg(image.FileName, ErrorText(loaded.reason)));
     }
     if (!loaded.bitmap) {
         view_.ShowSource(nullptr);
@@ -82,7 +82,7 @@ bool Desk::LoadFull(int line) {
     return true;
 }
 
-void Desk::ShowLine(int line) {
+void Workspace::ShowLine(int line) {
     if (Busy() || line < 0 || line >= state_.Images.UpperBound()) {
         return;
     }
@@ -90,14 +90,14 @@ void Desk::ShowLine(int line) {
         const Raised busy(busy_);
         if (LoadAndReduce(line)) {
             Preview();
-        } else if (!loadTrouble_.Is(ReasonCode::Cancelled) && Unreadable(CurrentPath()).isEmpty()) {
+        } else if (!loadError_.Is(ReasonCode::Cancelled) && Unreadable(CurrentPath()).isEmpty()) {
             TellNotOpened(state_.Images(line + 1));
         }
     }
     view_.Idle();
 }
 
-bool Desk::LoadAndReduce(int line) {
+bool Workspace::LoadAndReduce(int line) {
     const Hourglass hourglass(view_);
     try {
         if (!LoadFull(line)) {
@@ -107,14 +107,14 @@ bool Desk::LoadAndReduce(int line) {
         return true;
     } catch (const std::bad_alloc&) {
         state_.bitmaps = {};
-        loadTrouble_ = ReasonCode::NotEnoughMemory;
-        view_.ShowTrouble(ToldReason(loadTrouble_));
+        loadError_ = ReasonCode::NotEnoughMemory;
+        view_.ShowError(ErrorText(loadError_));
         view_.ShowSource(nullptr);
         return false;
     }
 }
 
-void Desk::Reduce() {
+void Workspace::Reduce() {
     FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
     const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
     state_.bitmaps.PreviewSourceBitmap.reset();
@@ -122,13 +122,13 @@ void Desk::Reduce() {
     view_.ShowSource(state_.bitmaps.PreviewSourceBitmap.get());
 }
 
-bool Desk::RebuildThumbnail() {
+bool Workspace::RebuildThumbnail() {
     if (!state_.bitmaps.FullSourceBitmap) {
         return false;
     }
     const QString shortage = Shortage([this] { Reduce(); });
     if (!shortage.isEmpty()) {
-        loadTrouble_ = {ReasonCode::Words, shortage};
+        loadError_ = {ReasonCode::Words, shortage};
         view_.ShowSource(nullptr);
         view_.ShowResult(nullptr);
         view_.ShowStatus(shortage);
@@ -138,7 +138,7 @@ bool Desk::RebuildThumbnail() {
 
 // A preview that is asked for while one is drawn is drawn after it, with what is current then: a
 // second one inside the first would take the result away under it.
-void Desk::RenderPreview(const ImageRecord& image) {
+void Workspace::RenderPreview(const ImageRecord& image) {
     if (!state_.bitmaps.PreviewSourceBitmap) {
         return;
     }
@@ -157,29 +157,29 @@ void Desk::RenderPreview(const ImageRecord& image) {
     view_.Idle();
 }
 
-void Desk::RenderThumbnail(const ImageRecord& image) {
-    RenderDesk desk{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
+void Workspace::RenderThumbnail(const ImageRecord& image) {
+    RenderContext workspace{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
     try {
-        Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), desk);
+        Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), workspace);
         view_.NoteDrawn(image);
         view_.ShowResult(state_.bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);
-        view_.ShowStatus(ToldReason(ReasonFor(error)));
+        view_.ShowStatus(ErrorText(ReasonFor(error)));
     } catch (const std::bad_alloc&) {
         view_.ShowResult(nullptr);
         view_.ShowStatus(ShortageText(Scarce::Memory));
     }
 }
 
-void Desk::Preview() {
+void Workspace::Preview() {
     NoteStep(StepKind::Other);  // whatever has no name
     if (const ImageRecord* const image = Current(); image != nullptr && view_.AutoPreview()) {
         RenderPreview(*image);
     }
 }
 
-void Desk::PreviewNow() {
+void Workspace::PreviewNow() {
     if (Busy() || Current() == nullptr) {
         return;
     }
@@ -191,7 +191,7 @@ void Desk::PreviewNow() {
     }
 }
 
-void Desk::PreviewControls() {
+void Workspace::PreviewControls() {
     if (busy_ || rendering_ || Current() == nullptr || !view_.AutoPreview()) {
         return;
     }
@@ -200,7 +200,7 @@ void Desk::PreviewControls() {
     RenderPreview(trial);
 }
 
-bool Desk::PrepareAll() {
+bool Workspace::PrepareAll() {
     bool prepared = true;
     {
         const Hourglass hourglass(view_);
@@ -216,7 +216,7 @@ bool Desk::PrepareAll() {
     return prepared;
 }
 
-void Desk::RefreshCurrent() {
+void Workspace::RefreshCurrent() {
     Absorb();
     const ImageRecord* const image = Current();
     if (image == nullptr) {
@@ -229,7 +229,7 @@ void Desk::RefreshCurrent() {
     }
 }
 
-void Desk::StoreControls(bool withPreview) {
+void Workspace::StoreControls(bool withPreview) {
     if (state_.loadingControls || saving_) {
         return;
     }
@@ -252,7 +252,7 @@ void Desk::StoreControls(bool withPreview) {
     }
 }
 
-void Desk::AdoptTile(const ContactTile& tile) {
+void Workspace::AdoptTile(const ContactTile& tile) {
     if (Busy() || Current() == nullptr) {
         return;
     }
@@ -266,7 +266,7 @@ void Desk::AdoptTile(const ContactTile& tile) {
     Preview();
 }
 
-void Desk::ApplySettings() {
+void Workspace::ApplySettings() {
     if (Current() == nullptr) {
         return;
     }
@@ -276,7 +276,7 @@ void Desk::ApplySettings() {
     }
 }
 
-void Desk::RemoveSelected() {
+void Workspace::RemoveSelected() {
     RecordArray<ImageRecord> kept;
     const std::vector<int> removed = view_.SelectedLines();
     std::size_t next = 0;
@@ -292,7 +292,7 @@ void Desk::RemoveSelected() {
     ShowNewList(0);
 }
 
-int Desk::AddToBatchQueue() {
+int Workspace::AddToBatchQueue() {
     if (PrepareAll()) {
         for (const ImageRecord& image : state_.Images) {
             state_.BatchQueue.Append(image);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The photographer's desk: what the main window does with the image list and the current photo. It
-// knows no widget; the window is a view that it asks and tells.
+// The photographer's workspace: what the main window does with the image list and the current
+// photo. It knows no widget; the window is a view that it asks and tells.
 #pragma once
 
 #include <QHash>
@@ -28,9 +28,9 @@
 namespace varnel {
 
 // Lines count from 0 here, as in a list box; -1 is none. Sizes are in device pixels.
-class DeskView {
+class WorkspaceView {
   public:
-    virtual ~DeskView() = default;
+    virtual ~WorkspaceView() = default;
     virtual int CurrentLine() const = 0;
     virtual std::vector<int> SelectedLines() const = 0;
     virtual ControlValues Controls() const = 0;
@@ -56,7 +56,7 @@ class DeskView {
     // The settings that the result to be shown next was made with.
     virtual void NoteDrawn(const ImageRecord& /*image*/) {}
     // What is wrong with the photo; empty when nothing is.
-    virtual void ShowTrouble(const QString& text) = 0;
+    virtual void ShowError(const QString& text) = 0;
     virtual void ShowStatus(const QString& text) = 0;
     virtual void HandleEvents() = 0;
     virtual void ShowHourglass(bool on) = 0;
@@ -68,9 +68,9 @@ class DeskView {
     virtual void Idle() = 0;
 };
 
-class Desk {
+class Workspace {
   public:
-    Desk(WorkingState& state, PhotoLoader& photos, Notices& notices, DeskView& view)
+    Workspace(WorkingState& state, PhotoLoader& photos, Notices& notices, WorkspaceView& view)
         : state_(state), photos_(photos), notices_(notices), view_(view) {}
 
     // A line became current: loads its photo at full size, gives it its gear, shows and previews
@@ -142,7 +142,7 @@ class Desk {
     const ImageRecord& PreparedCurrent();
     QString CurrentPath();  // empty when there is none
     // Why its photo is not there; empty when it is.
-    const Reason& LoadTrouble() const { return loadTrouble_; }
+    const Reason& LoadError() const { return loadError_; }
     // Why a photo that was added could not be read, which was told then; empty for the others.
     Reason Unreadable(const QString& path) const { return unreadable_.value(path); }
     // True while a conversion runs; nothing else may be started then.
@@ -181,7 +181,7 @@ class Desk {
     WorkingState& state_;
     PhotoLoader& photos_;
     Notices& notices_;
-    DeskView& view_;
+    WorkspaceView& view_;
     ThreadRunner runner_;
     History history_;
     std::vector<std::function<void()>> whenStepsChanged_;
@@ -191,7 +191,7 @@ class Desk {
     bool saving_ = false;
     bool drawAgain_ = false;
     QHash<QString, Reason> unreadable_;
-    Reason loadTrouble_;  // why the current line's photo is not there
+    Reason loadError_;  // why the current line's photo is not there
 };
 
 }  // namespace varnel

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Which gear a photo has and gets: the part of the desk that minds the gears. Looking at a photo
-// gives it none but its own, and the default gear when it never had one.
+// Which gear a photo has and gets: the part of the workspace that minds the gears. Looking at a
+// photo gives it none but its own, and the default gear when it never had one.
 
 #include "app/panels/scoped.h"
 #include "app/workspace/workspace.h"
@@ -13,20 +13,20 @@ namespace varnel {
 
 // The number of the gear that brings the record's numbers. One whose gear is not in the table keeps
 // what it has.
-int Desk::OwnGear(const ImageRecord& image) const {
+int Workspace::OwnGear(const ImageRecord& image) const {
     const int own = image.GearName.isEmpty() ? 0 : state_.Gear.Find(image.GearName);
     const bool hasOther = !image.GearName.isEmpty() && HasGearNumbers(image);
     return own > 0 || hasOther ? own : state_.Gear.Default();
 }
 
-void Desk::GiveOwnGear(ImageRecord& image) {
+void Workspace::GiveOwnGear(ImageRecord& image) {
     if (const int gear = OwnGear(image); gear > 0) {
         AssignGear(state_.Gear(gear), image);
     }
 }
 
 // Takes the photo's size from its file unless it is known. False when the user gave it up.
-bool Desk::KnowSize(ImageRecord& image) {
+bool Workspace::KnowSize(ImageRecord& image) {
     if (image.Width != 0) {
         return true;
     }
@@ -39,13 +39,13 @@ bool Desk::KnowSize(ImageRecord& image) {
 }
 
 // What a click gives a record: its size and, if they are still due, its gear's numbers.
-void Desk::Prepare(ImageRecord& image) {
+void Workspace::Prepare(ImageRecord& image) {
     if (KnowSize(image)) {
         GiveOwnGear(image);
     }
 }
 
-void Desk::ChooseGear() {
+void Workspace::ChooseGear() {
     const int gear = view_.ChosenGear();
     if (Busy() || gear < 1 || gear > state_.Gear.UpperBound()) {
         return;
@@ -68,7 +68,7 @@ void Desk::ChooseGear() {
     Preview();
 }
 
-void Desk::UseGear(int gear) {
+void Workspace::UseGear(int gear) {
     if (Busy() || Current() == nullptr || gear < 1 || gear > state_.Gear.UpperBound()) {
         return;
     }
@@ -80,7 +80,7 @@ void Desk::UseGear(int gear) {
     Preview();
 }
 
-void Desk::ApplyGear() {
+void Workspace::ApplyGear() {
     if (view_.ChosenGear() == 0) {
         return;
     }
@@ -88,14 +88,14 @@ void Desk::ApplyGear() {
     NoteStep(StepKind::GearToAll, {.onAllLines = true, .gear = {}});
 }
 
-void Desk::NameGear(const QString& gear) {
+void Workspace::NameGear(const QString& gear) {
     Current()->GearName = gear;
     NoteStep(StepKind::Gear);
     ShowInControls(*Current());
 }
 
-void Desk::FollowGears(const std::vector<GearChange>& changes,
-                       const std::function<bool(const QString& gear, int photos)>& agrees) {
+void Workspace::FollowGears(const std::vector<GearChange>& changes,
+                            const std::function<bool(const QString& gear, int photos)>& agrees) {
     if (changes.empty()) {
         return;
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Steps back and forth, and the list as a whole: the part of the desk that minds the history.
+// Steps back and forth, and the list as a whole: the part of the workspace that minds the history.
 
 #include <algorithm>
 #include <utility>
@@ -32,39 +32,40 @@ std::vector<int> LinesNow(const std::vector<int>& origin, const std::vector<int>
 
 }  // namespace
 
-void Desk::TellSteps() {
+void Workspace::TellSteps() {
     for (const auto& then : whenStepsChanged_) {
         then();
     }
 }
 
-void Desk::NoteStep(const QString& name, const StepKey& key, const StepBesides& besides) {
+void Workspace::NoteStep(const QString& name, const StepKey& key, const StepBesides& besides) {
     history_.Note(name, state_.Images, key, besides);
     TellSteps();
 }
 
-void Desk::NoteStep(StepKind kind, const StepBesides& besides) {
+void Workspace::NoteStep(StepKind kind, const StepBesides& besides) {
     NoteStep(StepName(kind), {}, besides);
 }
 
-void Desk::Absorb() {
+void Workspace::Absorb() {
     history_.Absorb(state_.Images);
     TellSteps();
 }
 
-void Desk::MarkSaved(const QString& project) {
+void Workspace::MarkSaved(const QString& project) {
     NoteStep(StepKind::Other);
     history_.MarkSaved(project);
     TellSteps();
 }
 
-void Desk::MarkWritten(const ImageRecord& image, const QString& file) {
+void Workspace::MarkWritten(const ImageRecord& image, const QString& file) {
     history_.MarkWritten(image, file);
     TellSteps();
 }
 
 // What only rounds the numbers to what the controls show is no step.
-void Desk::NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before) {
+void Workspace::NoteStored(const std::vector<int>& lines,
+                           const std::vector<ControlValues>& before) {
     for (std::size_t n = 0; n < lines.size(); ++n) {
         const ControlValues after = ValuesFor(state_.Images(lines[n] + 1));
         if (after == before[n]) {
@@ -82,15 +83,15 @@ void Desk::NoteStored(const std::vector<int>& lines, const std::vector<ControlVa
     Absorb();
 }
 
-void Desk::Undo() {
+void Workspace::Undo() {
     Restore(&History::Undo);
 }
 
-void Desk::Redo() {
+void Workspace::Redo() {
     Restore(&History::Redo);
 }
 
-void Desk::Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&)) {
+void Workspace::Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&)) {
     if (Busy() || state_.loadingControls) {
         return;
     }
@@ -105,7 +106,7 @@ void Desk::Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRec
     }
 }
 
-void Desk::ShowRestored(const Restored& restored, const ImageRecord& shown) {
+void Workspace::ShowRestored(const Restored& restored, const ImageRecord& shown) {
     const int count = state_.Images.UpperBound();
     const int before = view_.CurrentLine();
     int current = before;
@@ -130,18 +131,18 @@ void Desk::ShowRestored(const Restored& restored, const ImageRecord& shown) {
     }
 }
 
-void Desk::ShowNewList(int line) {
+void Workspace::ShowNewList(int line) {
     if (state_.Images.Empty()) {
         state_.bitmaps = {};
         view_.ShowSource(nullptr);
         view_.ShowResult(nullptr);
         view_.ShowStatus({});
-        view_.ShowTrouble({});
+        view_.ShowError({});
     }
     view_.ShowList(state_.Images, line);
 }
 
-void Desk::MoveSelected(int target) {
+void Workspace::MoveSelected(int target) {
     if (Busy()) {
         return;
     }
@@ -160,7 +161,8 @@ void Desk::MoveSelected(int target) {
     NoteStep(StepKind::Reorder);
 }
 
-void Desk::TakeProject(const RecordArray<ImageRecord>& images, int line, const QString& project) {
+void Workspace::TakeProject(const RecordArray<ImageRecord>& images, int line,
+                            const QString& project) {
     NoteStep(StepKind::Other);
     state_.Images = images;
     const StepKind kind = project.isEmpty() ? StepKind::RestoreList : StepKind::OpenProject;

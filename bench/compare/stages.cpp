@@ -57,9 +57,9 @@ bool Convert(const char* name, Bitmaps& bitmaps, Spent& spent) {
         return false;
     }
     const double decoded = Now();
-    RenderDesk desk{bitmaps};
+    RenderContext context{bitmaps};
     SilentProgress silent;
-    RenderRectilinear(FisheyeRecord(), SizeKind::Large, silent, desk);
+    RenderRectilinear(FisheyeRecord(), SizeKind::Large, silent, context);
     const double remapped = Now();
     const bool encoded = !EncodeBitmap(FIF_JPEG, bitmaps.ResultBitmap.get(), 95).bytes.isEmpty();
     spent.decode += decoded - start;

@@ -61,7 +61,7 @@ struct Options {
     bool skipExisting = false;
     std::optional<int> jobs;  // cores to use; none: all
     bool quiet = false;
-    bool advises = true;  // troubles name the options that help; off for a program without them
+    bool advises = true;  // errors name the options that help; off for a program without them
     bool json = false;    // what is told of each result goes to out as JSON, all else to err
 };
 

@@ -55,7 +55,7 @@ void RunReports::Note(const QString& file, const Reason& note) {
         ++known->second;
     } else {
         notes_.emplace_back(note, 1);
-        Say(file + QStringLiteral(": ") + ToldReason(note));
+        Say(file + QStringLiteral(": ") + ErrorText(note));
     }
 }
 
@@ -63,7 +63,7 @@ void RunReports::Finish() {
     QStringList lines;
     for (const auto& [note, files] : notes_) {
         if (files > 1) {
-            lines.append(QStringLiteral("%1 more: ").arg(files - 1) + ToldReason(note));
+            lines.append(QStringLiteral("%1 more: ").arg(files - 1) + ErrorText(note));
         }
     }
     for (const QString& line : lines) {

@@ -113,14 +113,14 @@ class Decoding {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(ReasonCode::RawUnreadable);
         }
-        const ClaimedSize claimed = ClaimedSizeOf(format_, file_).value_or(ClaimedSize{1, 1});
-        if (const Reason trouble = Trouble({claimed.width, claimed.height}); !trouble.isEmpty()) {
-            return LoadedPicture::Refused(trouble);
+        const HeaderSize claimed = HeaderSizeOf(format_, file_).value_or(HeaderSize{1, 1});
+        if (const Reason error = Error({claimed.width, claimed.height}); !error.isEmpty()) {
+            return LoadedPicture::Refused(error);
         }
         NoteOrientation();
-        stated_ = HeaderSize();
-        if (const Reason trouble = stated_ ? Trouble(*stated_) : Reason(); !trouble.isEmpty()) {
-            return LoadedPicture::Refused(trouble);
+        stated_ = ReadHeaderSize();
+        if (const Reason error = stated_ ? Error(*stated_) : Reason(); !error.isEmpty()) {
+            return LoadedPicture::Refused(error);
         }
         return Upright(AsAsked());
     }
@@ -226,12 +226,12 @@ class Decoding {
         }
     }
 
-    Reason Trouble(const StatedSize& size) const {
-        return SizeTrouble(size.width, size.height, memory_);
+    Reason Error(const StatedSize& size) const {
+        return SizeError(size.width, size.height, memory_);
     }
 
     // Without reading pixels, where the type allows.
-    std::optional<StatedSize> HeaderSize() const {
+    std::optional<StatedSize> ReadHeaderSize() const {
         if (format_ == FIF_JPEG) {
             const std::optional<PixelSize> size = JpegSize(file_);
             return size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
@@ -344,8 +344,8 @@ class Decoding {
         if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
-        if (const Reason trouble = Trouble(Stated(bitmap.get())); !trouble.isEmpty()) {
-            return LoadedPicture::Refused(trouble);
+        if (const Reason error = Error(Stated(bitmap.get())); !error.isEmpty()) {
+            return LoadedPicture::Refused(error);
         }
         if (format_ == FIF_TIFF && tiff_ && !tiff_->colourProfile.isEmpty()) {
             // The library looks at its own only after it has given back the memory.
@@ -369,7 +369,7 @@ class Decoding {
     const RowsFor& rowsFor_;
     const LibraryMessages& messages_;
     FREE_IMAGE_FORMAT format_ = FIF_UNKNOWN;
-    std::optional<TiffFacts> tiff_;
+    std::optional<TiffStructure> tiff_;
     std::optional<StatedSize> stated_;
     int orientation_ = 1;  // to be undone
     int turn_ = 1;         // the part of it that is still to be done

@@ -38,7 +38,7 @@ int GifPaletteBytes(char flags) {
 }
 
 // The first frame's: it comes behind the palette and any number of extensions.
-std::optional<ClaimedSize> GifSize(const PictureFile& file) {
+std::optional<HeaderSize> GifSize(const PictureFile& file) {
     const QByteArray screen = file.Read(0, 13);
     if (screen.size() < 13) {
         return std::nullopt;
@@ -60,13 +60,13 @@ std::optional<ClaimedSize> GifSize(const PictureFile& file) {
     if (frame.size() < 10) {
         return std::nullopt;
     }
-    return ClaimedSize{Number(frame.constData() + 5, 2, false),
-                       Number(frame.constData() + 7, 2, false)};
+    return HeaderSize{Number(frame.constData() + 5, 2, false),
+                      Number(frame.constData() + 7, 2, false)};
 }
 
 }  // namespace
 
-std::optional<ClaimedSize> ClaimedSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file) {
+std::optional<HeaderSize> HeaderSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file) {
     if (format == FIF_GIF) {
         return GifSize(file);
     }
@@ -83,7 +83,7 @@ std::optional<ClaimedSize> ClaimedSizeOf(FREE_IMAGE_FORMAT format, const Picture
         const char* const numbers = header.constData() + mark + place.after;
         const std::int64_t first = Number(numbers, place.bytes, place.bigEndian);
         const std::int64_t second = Number(numbers + place.bytes, place.bytes, place.bigEndian);
-        return place.heightFirst ? ClaimedSize{second, first} : ClaimedSize{first, second};
+        return place.heightFirst ? HeaderSize{second, first} : HeaderSize{first, second};
     }
     return std::nullopt;
 }

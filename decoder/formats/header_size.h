@@ -11,13 +11,13 @@
 
 namespace varnel {
 
-struct ClaimedSize {
+struct HeaderSize {
     std::int64_t width = 0;
     std::int64_t height = 0;
 };
 
 // GIF, IFF, SGI, DDS and JPEG 2000; nothing for other types or without a header. Good for refusing
 // only: the picture that comes may be a few pixels smaller.
-std::optional<ClaimedSize> ClaimedSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file);
+std::optional<HeaderSize> HeaderSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file);
 
 }  // namespace varnel

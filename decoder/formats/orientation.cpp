@@ -59,7 +59,7 @@ int OrientationInExif(QByteArrayView block) {
 }
 
 int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
-                  const std::optional<TiffFacts>& tiff) {
+                  const std::optional<TiffStructure>& tiff) {
     switch (format) {
         case FIF_JPEG:
             return OrientationInExif(JpegExif(file));

@@ -19,6 +19,6 @@ int OrientationInExif(QByteArrayView block);
 // Of a JPEG, PNG, WebP or TIFF file, or of a raw file that is built like a TIFF (for which the
 // facts are); else 1.
 int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
-                  const std::optional<TiffFacts>& tiff);
+                  const std::optional<TiffStructure>& tiff);
 
 }  // namespace varnel

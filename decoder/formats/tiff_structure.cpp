@@ -89,7 +89,7 @@ class TiffWalk {
         Await(wide_ ? Number(head, 8, 8) : Number(head, 4, 4), false);
         return true;
     }
-    TiffFacts Facts() {
+    TiffStructure Facts() {
         for (bool first = true; !waiting_.empty() && seen_.size() < mostDirectories;
              first = false) {
             const Waiting directory = waiting_.back();
@@ -262,12 +262,12 @@ class TiffWalk {
     bool inMetadata_ = false;
     std::vector<Waiting> waiting_;
     std::set<Waiting> seen_;
-    TiffFacts facts_;
+    TiffStructure facts_;
 };
 
 }  // namespace
 
-std::optional<TiffFacts> TiffFactsOf(const PictureFile& file) {
+std::optional<TiffStructure> TiffFactsOf(const PictureFile& file) {
     TiffWalk walk(file);
     return walk.Begin() ? std::optional(walk.Facts()) : std::nullopt;
 }

@@ -13,7 +13,7 @@
 
 namespace varnel {
 
-struct TiffFacts {
+struct TiffStructure {
     bool isCut = false;          // a directory, a value or pixel data lies beyond the file's end
     bool isMetadataCut = false;  // that is so of what tells about the photo
     bool isDng = false;          // a raw photo; as a plain TIFF it would show a thumbnail
@@ -27,6 +27,6 @@ struct TiffFacts {
 };
 
 // Nothing when the file does not begin like a TIFF.
-std::optional<TiffFacts> TiffFactsOf(const PictureFile& file);
+std::optional<TiffStructure> TiffFactsOf(const PictureFile& file);
 
 }  // namespace varnel

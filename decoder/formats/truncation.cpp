@@ -40,7 +40,7 @@ bool IsCut(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList&
             return !messages.isEmpty() && JpegIsCut(file);
         case FIF_TIFF:
         case FIF_RAW: {
-            const std::optional<TiffFacts> facts = TiffFactsOf(file);
+            const std::optional<TiffStructure> facts = TiffFactsOf(file);
             // Raw files keep their pixels behind the metadata and often only the maker's note tells
             // where.
             return facts && (facts->isCut || (format == FIF_RAW && facts->isMetadataCut));

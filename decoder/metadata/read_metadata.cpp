@@ -86,13 +86,13 @@ QString LensByMakerNote(const Exiv2::ExifData& data) {
     return isName ? name : QString();
 }
 
-PhotoOrigin OriginOf(const Exiv2::ExifData& data) {
-    PhotoOrigin origin{.Make = Text(data, "Exif.Image.Make"),
-                       .Model = Text(data, "Exif.Image.Model"),
-                       .LensMake = Text(data, "Exif.Photo.LensMake"),
-                       .LensModel = Text(data, "Exif.Photo.LensModel"),
-                       .FocalLength = Number(data, "Exif.Photo.FocalLength"),
-                       .FNumber = Number(data, "Exif.Photo.FNumber")};
+CameraInfo OriginOf(const Exiv2::ExifData& data) {
+    CameraInfo origin{.Make = Text(data, "Exif.Image.Make"),
+                      .Model = Text(data, "Exif.Image.Model"),
+                      .LensMake = Text(data, "Exif.Photo.LensMake"),
+                      .LensModel = Text(data, "Exif.Photo.LensModel"),
+                      .FocalLength = Number(data, "Exif.Photo.FocalLength"),
+                      .FNumber = Number(data, "Exif.Photo.FNumber")};
     // "----" and the like, or the bare "8mm" of a camera that does not know the lens.
     constexpr qsizetype shortestName = 6;
     if (origin.LensModel.size() < shortestName || origin.LensModel.startsWith(u'-')) {

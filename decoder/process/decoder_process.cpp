@@ -93,7 +93,7 @@ DecoderProcess::Heard DecoderProcess::Listen(int milliseconds, DecoderAnswer& an
         return Heard::Nothing;  // also when a signal came between
     }
     return ReceiveMessage(socket_.Get(), &answer, sizeof answer, nullptr) ? Heard::Answer
-                                                                          : Heard::Death;
+                                                                          : Heard::PeerClosed;
 }
 
 bool DecoderProcess::IsDead() {
@@ -110,7 +110,7 @@ void DecoderProcess::End() {
     id_ = -1;
 }
 
-int DecoderProcess::Bury() {
+int DecoderProcess::Reap() {
     // A process closes its files a moment before it is dead.
     constexpr int moments = 50;
     bool dead = !Runs();

@@ -28,7 +28,7 @@ class DecoderProcess {
     // False when it is gone.
     bool Send(const DecoderRequest& request, int photo, int memory);
 
-    enum class Heard { Nothing, Answer, Death };
+    enum class Heard { Nothing, Answer, PeerClosed };
     // Waits this many milliseconds at most.
     Heard Listen(int milliseconds, DecoderAnswer& answer);
 
@@ -36,7 +36,7 @@ class DecoderProcess {
     void End();
     // For one that does not answer any more: ends it too, but first lets it finish dying. Returns
     // the signal that ended it, 0 when there was none but ours.
-    int Bury();
+    int Reap();
 
   private:
     bool IsDead();

@@ -41,7 +41,7 @@ ReaderOptions Completed(ReaderOptions options) {
 
 // Gives the memory file back when the bitmap that stands in it is gone.
 struct PixelOwner {
-    std::unique_ptr<MemoryFile> memory;
+    std::unique_ptr<SharedMemory> memory;
     std::weak_ptr<MemoryFiles> files;
     std::uint64_t used = 0;
 
@@ -61,7 +61,7 @@ DecoderReader::DecoderReader(const ReaderOptions& options)
 }
 
 void DecoderReader::Restart() {
-    startTrouble_ = process_.Start();
+    startError_ = process_.Start();
 }
 
 void DecoderReader::Begin(const ReadRequest& request) {
@@ -69,7 +69,7 @@ void DecoderReader::Begin(const ReadRequest& request) {
     answer_.reset();
     OpenedPhoto opened = OpenPhotoFile(request.path);
     if (!opened.file) {
-        FinishRefused(opened.trouble);
+        FinishRefused(opened.error);
         return;
     }
     photo_ = std::move(opened.file);
@@ -98,7 +98,7 @@ void DecoderReader::Ask() {
         Restart();
         if (!process_.Send(request_, photo_.Get(), memory_->Number())) {
             const Reason reason =
-                startTrouble_.isEmpty() ? ReasonCode::DecoderEndsAtOnce : startTrouble_;
+                startError_.isEmpty() ? ReasonCode::DecoderEndsAtOnce : startError_;
             FinishRefused({ReasonCode::DecoderNotStarted, reason});
         }
     }
@@ -114,7 +114,7 @@ bool DecoderReader::Wait(int milliseconds) {
         case DecoderProcess::Heard::Answer:
             Heard(answer);
             break;
-        case DecoderProcess::Heard::Death:
+        case DecoderProcess::Heard::PeerClosed:
             Died();
             break;
         case DecoderProcess::Heard::Nothing:
@@ -136,8 +136,8 @@ void DecoderReader::Heard(const DecoderAnswer& answer) {
                  : FinishRefused({ReasonCode::DecoderTriedForbiddenCall, answer.number});
         return;
     }
-    if (isSecond ? !BelievableMetadata(answer, *first_, memory_->Length())
-                 : !Believable(answer, request_, memory_->Length())) {
+    if (isSecond ? !IsConsistentMetadata(answer, *first_, memory_->Length())
+                 : !IsConsistent(answer, request_, memory_->Length())) {
         isSecond ? FinishWithoutMetadata() : FinishRefused(ReasonCode::DecoderMakesNoSense);
         return;
     }
@@ -181,7 +181,7 @@ void DecoderReader::Died() {
         FinishWithoutMetadata();
         return;
     }
-    const int signal = process_.Bury();
+    const int signal = process_.Reap();
     // Killed from outside: that was not the photo's fault.
     if (signal == SIGKILL && !askedTwice_) {
         askedTwice_ = true;

@@ -42,9 +42,9 @@ class DecoderReader : public PictureReader {
 
     ReaderOptions options_;
     DecoderProcess process_;
-    Reason startTrouble_;
+    Reason startError_;
     std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();
-    std::unique_ptr<MemoryFile> memory_;  // of the picture under way
+    std::unique_ptr<SharedMemory> memory_;  // of the picture under way
     Descriptor photo_;
     DecoderRequest request_;
     QDeadlineTimer deadline_;

@@ -23,13 +23,12 @@ class InProcessReader : public PictureReader {
         : memory_(memory == 0 ? MachineMemory() : memory) {}
 
     void Begin(const ReadRequest& request) override {
-        const Reason trouble = PathTrouble(request.path);
-        const FileHandle file(trouble.isEmpty()
+        const Reason error = PathError(request.path);
+        const FileHandle file(error.isEmpty()
                                   ? std::fopen(QFile::encodeName(request.path).constData(), "rb")
                                   : nullptr);
         if (!file) {
-            answer_ =
-                LoadedPicture::Refused(trouble.isEmpty() ? ReasonCode::CannotBeOpened : trouble);
+            answer_ = LoadedPicture::Refused(error.isEmpty() ? ReasonCode::CannotBeOpened : error);
             return;
         }
         answer_ = request.kind == ReadKind::Facts

@@ -14,8 +14,8 @@
 namespace varnel {
 
 OpenedPhoto OpenPhotoFile(const QString& path) {
-    if (const Reason trouble = PathTrouble(path); !trouble.isEmpty()) {
-        return {{}, trouble};
+    if (const Reason error = PathError(path); !error.isEmpty()) {
+        return {{}, error};
     }
     Descriptor file(
         open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));

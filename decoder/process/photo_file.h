@@ -13,7 +13,7 @@ namespace varnel {
 
 struct OpenedPhoto {
     Descriptor file;
-    Reason trouble;  // why there is no file
+    Reason error;  // why there is no file
 };
 
 // Opens for reading what is a regular, readable file that is not empty; never waits, as opening a

@@ -39,14 +39,14 @@ Reason WithTextsCut(const Reason& reason, qsizetype longest) {
 }
 
 // All is well without a reason only. What the user does is not the decoder's to say.
-bool BelievableReason(const DecoderAnswer& answer) {
+bool IsConsistentReason(const DecoderAnswer& answer) {
     const std::optional<Reason> reason = ReasonOf(answer);
     const bool allWell = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::Loaded);
     return reason && reason->isEmpty() == allWell && !reason->Is(ReasonCode::Cancelled);
 }
 
 // A picture with no more of its own than a reason or a size.
-bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
+bool IsConsistentWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
     if (answer.bitmap.width != 0 || answer.bitmap.height != 0 || answer.pitch != 0 ||
         answer.extrasLength != 0) {
         return false;
@@ -54,13 +54,13 @@ bool BelievableWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& 
     const bool refused = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
     return refused || request.kind == ReadKind::Facts ||
            (request.kind == ReadKind::Size &&
-            SizeTrouble(answer.size.width, answer.size.height, request.memory).isEmpty());
+            SizeError(answer.size.width, answer.size.height, request.memory).isEmpty());
 }
 
 bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
                       std::uint64_t memoryFileLength) {
     const PixelSize bitmap = answer.bitmap;
-    if (!SizeTrouble(bitmap.width, bitmap.height, request.memory).isEmpty()) {
+    if (!SizeError(bitmap.width, bitmap.height, request.memory).isEmpty()) {
         return false;
     }
     if (request.kind == ReadKind::Small &&
@@ -77,22 +77,22 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
 
 }  // namespace
 
-bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
-                std::uint64_t memoryFileLength) {
+bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
+                  std::uint64_t memoryFileLength) {
     if (answer.number != request.number || answer.reasonLength > longestReason ||
         answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded) ||
-        !BelievableReason(answer) || !IsOrientation(answer.orientation) ||
+        !IsConsistentReason(answer) || !IsOrientation(answer.orientation) ||
         (answer.orientation != 1 && !request.upright)) {
         return false;
     }
     const bool hasPixels = request.kind != ReadKind::Size && request.kind != ReadKind::Facts &&
                            answer.outcome != static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
     return hasPixels ? BelievablePixels(answer, request, memoryFileLength)
-                     : BelievableWithoutPixels(answer, request);
+                     : IsConsistentWithoutPixels(answer, request);
 }
 
-bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
-                        std::uint64_t memoryFileLength) {
+bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                          std::uint64_t memoryFileLength) {
     return answer.number == first.number && answer.metadataLength <= longestExtras &&
            RowBytes(first) + first.extrasLength + answer.metadataLength <= memoryFileLength;
 }

@@ -57,12 +57,12 @@ inline std::uint64_t RowBytes(const DecoderAnswer& answer) {
 // Nothing in an answer is believed unseen: a decoder may be out of its mind after a hostile photo.
 // True when the answer belongs to the request, its numbers agree with one another and the memory
 // file is long enough for what it is said to hold.
-bool Believable(const DecoderAnswer& answer, const DecoderRequest& request,
-                std::uint64_t memoryFileLength);
+bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
+                  std::uint64_t memoryFileLength);
 
 // The second answer, of which nothing but number and length of the metadata counts: likewise.
-bool BelievableMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
-                        std::uint64_t memoryFileLength);
+bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
+                          std::uint64_t memoryFileLength);
 
 // Puts the reason into the answer, its texts cut where it would be too long, and takes it out
 // again: nothing when its bytes are no sound reason.

@@ -24,24 +24,24 @@ Descriptor NewMemoryFile() {
 
 }  // namespace
 
-MemoryFile::MemoryFile(std::uint32_t name) : name_(name), file_(NewMemoryFile()) {
+SharedMemory::SharedMemory(std::uint32_t name) : name_(name), file_(NewMemoryFile()) {
     if (!file_ || fcntl(file_.Get(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_SEAL) != 0) {
         throw std::bad_alloc();
     }
 }
 
-MemoryFile::~MemoryFile() {
+SharedMemory::~SharedMemory() {
     if (bytes_ != nullptr) {
         munmap(bytes_, mapped_);
     }
 }
 
-std::uint64_t MemoryFile::Length() const {
+std::uint64_t SharedMemory::Length() const {
     struct stat status {};
     return fstat(file_.Get(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
 
-std::byte* MemoryFile::Map(std::uint64_t length) {
+std::byte* SharedMemory::Map(std::uint64_t length) {
     if (length > Length()) {
         return nullptr;
     }
@@ -57,12 +57,12 @@ std::byte* MemoryFile::Map(std::uint64_t length) {
     return static_cast<std::byte*>(bytes_);
 }
 
-std::unique_ptr<MemoryFile> MemoryFiles::Take() {
+std::unique_ptr<SharedMemory> MemoryFiles::Take() {
     const std::lock_guard lock(mutex_);
-    return spare_ ? std::move(spare_) : std::make_unique<MemoryFile>(++made_);
+    return spare_ ? std::move(spare_) : std::make_unique<SharedMemory>(++made_);
 }
 
-void MemoryFiles::GiveBack(std::unique_ptr<MemoryFile> file) {
+void MemoryFiles::GiveBack(std::unique_ptr<SharedMemory> file) {
     const std::lock_guard lock(mutex_);
     spare_.swap(file);
 }

@@ -16,13 +16,13 @@ namespace varnel {
 
 // A file that only exists in memory. The decoder can make it longer but never shorter, so what is
 // mapped once stays readable whatever the decoder does.
-class MemoryFile {
+class SharedMemory {
   public:
     // Throws std::bad_alloc. The name tells memory files of one reader apart.
-    explicit MemoryFile(std::uint32_t name);
-    ~MemoryFile();
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
+    explicit SharedMemory(std::uint32_t name);
+    ~SharedMemory();
+    SharedMemory(const SharedMemory&) = delete;
+    SharedMemory& operator=(const SharedMemory&) = delete;
 
     std::uint32_t Name() const { return name_; }
     int Number() const { return file_.Get(); }
@@ -43,13 +43,13 @@ class MemoryFile {
 class MemoryFiles {
   public:
     // Throws std::bad_alloc.
-    std::unique_ptr<MemoryFile> Take();
-    void GiveBack(std::unique_ptr<MemoryFile> file);
+    std::unique_ptr<SharedMemory> Take();
+    void GiveBack(std::unique_ptr<SharedMemory> file);
     void DropSpare() { GiveBack(nullptr); }
 
   private:
     std::mutex mutex_;
-    std::unique_ptr<MemoryFile> spare_;
+    std::unique_ptr<SharedMemory> spare_;
     std::uint32_t made_ = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace varnel {
 
-Reason PathTrouble(const QString& path) {
+Reason PathError(const QString& path) {
     const QFileInfo file(path);
     if (file.isSymLink() && !file.exists()) {
         return ReasonCode::LinkLeadsNowhere;

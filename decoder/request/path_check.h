@@ -13,6 +13,6 @@ namespace varnel {
 // Why this path is no photo that could be read: missing, a folder, not permitted, empty, no regular
 // file; empty when none of that is so. The libraries have one and the same answer for all of these,
 // and a pipe would make them wait for ever.
-Reason PathTrouble(const QString& path);
+Reason PathError(const QString& path);
 
 }  // namespace varnel

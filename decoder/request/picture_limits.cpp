@@ -23,7 +23,7 @@ std::uint64_t MachineMemory() {
     return unknown;
 }
 
-Reason SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory) {
+Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory) {
     if (width <= 0 || height <= 0) {
         return ReasonCode::NoPixels;
     }

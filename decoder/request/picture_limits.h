@@ -19,6 +19,6 @@ std::uint64_t MachineMemory();
 
 // Why a picture of this many pixels is refused on a machine with this memory in bytes; empty when
 // it is not. Source, result and one copy at 24 bits may take three quarters of the memory.
-Reason SizeTrouble(std::int64_t width, std::int64_t height, std::uint64_t memory);
+Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory);
 
 }  // namespace varnel

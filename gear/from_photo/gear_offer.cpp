@@ -35,7 +35,7 @@ QString Text(const char* text) {
 
 // Pictures of an unlisted camera may well have another shape without any cropping.
 void AddDoubts(const ImageRecord& image, bool isUnlisted, GearOffer& offer) {
-    const QString doubt = ShapeTrouble(image);
+    const QString doubt = ShapeError(image);
     if (isUnlisted) {
         offer.line += Text(QT_TRANSLATE_NOOP("GearOffer", " (camera not in the list)"));
     } else if (!doubt.isEmpty()) {
@@ -45,7 +45,7 @@ void AddDoubts(const ImageRecord& image, bool isUnlisted, GearOffer& offer) {
     offer.reason += (hasBoth ? QStringLiteral("\n") : QString()) + doubt;
 }
 
-GearOffer OfferOfPhoto(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image,
+GearOffer OfferOfPhoto(const CameraInfo& origin, const GearTable& table, const ImageRecord& image,
                        const GearNames& current) {
     GearOffer offer;
     const PhotoGear photo = GearOfPhoto(origin, table);
@@ -67,7 +67,7 @@ GearOffer OfferOfPhoto(const PhotoOrigin& origin, const GearTable& table, const 
     const bool isOther = offer.gear > 0 || offer.define || otherCamera;
     if (isOther && !ServesAsWell(photo.names, image)) {
         if (!current.cameraModel.isEmpty()) {
-            offer.trouble = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
+            offer.error = Text(QT_TRANSLATE_NOOP("GearOffer", "Not this photo's gear"));
         }
     } else {
         AddDoubts(image, photo.lack == GearLack::KnownCamera, offer);
@@ -77,7 +77,7 @@ GearOffer OfferOfPhoto(const PhotoOrigin& origin, const GearTable& table, const 
 
 }  // namespace
 
-GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image) {
+GearOffer OfferFor(const CameraInfo& origin, const GearTable& table, const ImageRecord& image) {
     const GearNames current{image.CameraBrand, image.CameraModel, image.LensBrand, image.LensModel};
     GearOffer offer = OfferOfPhoto(origin, table, image, current);
     if (!image.GearName.isEmpty() && table.Find(image.GearName) == 0) {
@@ -88,7 +88,7 @@ GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const Imag
     return offer;
 }
 
-QString ShapeTrouble(const ImageRecord& image) {
+QString ShapeError(const ImageRecord& image) {
     constexpr double tolerance = 0.03;
     const auto longToShort = [](double a, double b) { return std::max(a, b) / std::min(a, b); };
     const double sides[] = {static_cast<double>(image.Width), static_cast<double>(image.Height),

@@ -17,8 +17,8 @@ struct GearOffer {
     bool define = false;  // a gear may be defined from the names
     bool lost = false;    // it is the record's own, which the table does not have
     GearNames names;
-    QString reason;   // why it is offered, or why nothing is
-    QString trouble;  // the gear in use does not fit the photo; empty when it may
+    QString reason;  // why it is offered, or why nothing is
+    QString error;   // the gear in use does not fit the photo; empty when it may
 
     bool operator==(const GearOffer&) const = default;
 };
@@ -26,11 +26,11 @@ struct GearOffer {
 // A photo that has its gear already, or one with the same camera and lens, gets no offer, unless
 // that gear is not in the table: it may be defined then, whatever the photo tells. The record tells
 // its gear and, when that gear took the photo, whether the picture was cropped.
-GearOffer OfferFor(const PhotoOrigin& origin, const GearTable& table, const ImageRecord& image);
+GearOffer OfferFor(const CameraInfo& origin, const GearTable& table, const ImageRecord& image);
 
 // Why the gear's numbers may not fit the record's picture, though it took the photo: the picture
 // has another shape than the sensor, as after cropping. Empty when it has the same, within 3 %, or
 // when a side is not known.
-QString ShapeTrouble(const ImageRecord& image);
+QString ShapeError(const ImageRecord& image);
 
 }  // namespace varnel

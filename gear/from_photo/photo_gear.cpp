@@ -14,14 +14,14 @@ namespace varnel {
 namespace {
 
 // The maker's name is left out where the model has it, too.
-QString CameraText(const PhotoOrigin& origin) {
+QString CameraText(const CameraInfo& origin) {
     const QString make = origin.Make.simplified();
     const QString model = origin.Model.simplified();
     const bool repeated = model.startsWith(make.section(u' ', 0, 0), Qt::CaseInsensitive);
     return repeated ? model : QString(make + u' ' + model).simplified();
 }
 
-QString LensText(const PhotoOrigin& origin, const PhotoLenses& lenses) {
+QString LensText(const CameraInfo& origin, const PhotoLenses& lenses) {
     const QString told = origin.LensModel.simplified();
     if (lenses.isNamed && !told.isEmpty()) {
         return told;
@@ -101,7 +101,7 @@ QString ReasonFor(GearLack lack, const QString& camera, const QString& lens) {
 
 }  // namespace
 
-PhotoGear GearOfPhoto(const PhotoOrigin& origin, const GearTable& table) {
+PhotoGear GearOfPhoto(const CameraInfo& origin, const GearTable& table) {
     PhotoGear found;
     const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
     const PhotoLenses lenses = LensesFromExif(origin, camera);

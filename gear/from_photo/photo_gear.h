@@ -35,6 +35,6 @@ struct PhotoGear {
 
 // A gear of the table fits when its camera and its lens are the photo's. While the lens cannot be
 // told, the only gear of the camera with a lens that may have been it fits.
-PhotoGear GearOfPhoto(const PhotoOrigin& origin, const GearTable& table);
+PhotoGear GearOfPhoto(const CameraInfo& origin, const GearTable& table);
 
 }  // namespace varnel

@@ -63,7 +63,7 @@ bool Near(float one, float other) {
 }
 
 // What the exposure says speaks against the lens.
-bool ExposureFits(const KnownLens& lens, const PhotoOrigin& origin, const CatalogueEntry& camera) {
+bool ExposureFits(const KnownLens& lens, const CameraInfo& origin, const CatalogueEntry& camera) {
     if (origin.FNumber > 0.0F && origin.FNumber < lens.name.aperture * (1.0F - apertureTolerance)) {
         return false;
     }
@@ -112,7 +112,7 @@ struct ToldLens {
     bool unknown = false;  // some lens that is none of the catalogue's
 };
 
-ToldLens ToldBy(const PhotoOrigin& origin) {
+ToldLens ToldBy(const CameraInfo& origin) {
     ToldLens told{ParseLensName(origin.LensModel), {}};
     told.makers = MakersIn(told.name.words);
     if (told.makers.isEmpty() && TellsLens(origin.LensMake)) {
@@ -188,7 +188,7 @@ CatalogueEntry OnlyOne(const std::vector<KnownLens>& lenses, const CatalogueEntr
 
 }  // namespace
 
-PhotoLenses LensesFromExif(const PhotoOrigin& origin, const CatalogueEntry& camera) {
+PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camera) {
     if (FindLens(camera.brand, camera.model)) {
         return {{camera}, camera, true};  // built in: both catalogues have it under one name
     }

@@ -21,6 +21,6 @@ struct PhotoLenses {
 // A lens without a name is found by its focal length only where one lens of the camera's maker, or
 // else of those who make lenses for every camera, has it; zoom lenses are not found so, because
 // what they share with ordinary lenses is most of their range.
-PhotoLenses LensesFromExif(const PhotoOrigin& origin, const CatalogueEntry& camera);
+PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camera);
 
 }  // namespace varnel

@@ -72,7 +72,7 @@ double BytesPerPixel(const BatchChoices& choices) {
 
 }  // namespace
 
-QString FolderTrouble(const QString& folder) {
+QString FolderError(const QString& folder) {
     const QString shown = QDir::toNativeSeparators(folder);
     if (folder.isEmpty() || !QFileInfo::exists(folder)) {
         return Texts::tr("The folder %1 does not exist").arg(shown);

@@ -11,7 +11,7 @@
 namespace varnel {
 
 // Why nothing can be written into the folder; empty when files can be made there.
-QString FolderTrouble(const QString& folder);
+QString FolderError(const QString& folder);
 
 // How many names more than one entry would be written under.
 int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);

@@ -31,9 +31,9 @@ struct Texts {
 struct Turn {
     int entry = 0;  // from 1
     BitmapHandle result{};
-    QString path{};     // where it is written; empty when the photo could not be loaded
-    QString trouble{};  // why it is not written; empty when it is
-    Reason damage{};    // of the photo; empty when it is sound
+    QString path{};   // where it is written; empty when the photo could not be loaded
+    QString error{};  // why it is not written; empty when it is
+    Reason damage{};  // of the photo; empty when it is sound
     bool announced = false;
     float maximum = 0.0F;  // of its progress; 0 until it begins
     bool rendered = false;
@@ -78,10 +78,10 @@ class Run : private RenderProgress {
             if (Load(SourcePath(entry))) {
                 LoadedConvert(entry);
             } else {
-                turn_.trouble = ToldReason(source_.reason);
+                turn_.error = ErrorText(source_.reason);
             }
         } catch (const std::exception& error) {
-            turn_.trouble = ToldReason(ReasonFor(error));
+            turn_.error = ErrorText(ReasonFor(error));
         }
         if (!NextHasSamePhoto()) {
             DropSource();  // encoding needs room of its own
@@ -98,8 +98,8 @@ class Run : private RenderProgress {
         if (!writing_ && !stopped_) {
             Announce();
         }
-        turn_.trouble = targets_.Trouble(entry, turn_.path, turn_.damage);
-        if (turn_.trouble.isEmpty() && !stopped_) {
+        turn_.error = targets_.Error(entry, turn_.path, turn_.damage);
+        if (turn_.error.isEmpty() && !stopped_) {
             RenderTurn(entry);
         }
     }
@@ -108,8 +108,8 @@ class Run : private RenderProgress {
         Bitmaps bitmaps;
         bitmaps.FullSourceBitmap = std::move(source_.bitmap);
         bitmaps.ResultBitmap = std::move(turn_.result);
-        RenderDesk desk{.bitmaps = bitmaps, .runner = &runner_};
-        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, *this, desk);
+        RenderContext context{.bitmaps = bitmaps, .runner = &runner_};
+        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Batch, *this, context);
         NoteSettings(bitmaps.ResultBitmap.get(), entry, choices_.writeSettings,
                      choices_.writeMetadata ? turn_.path : QString());
         source_.bitmap = std::move(bitmaps.FullSourceBitmap);
@@ -179,13 +179,13 @@ class Run : private RenderProgress {
 
     // What was written meanwhile may be the same file under another name.
     void CheckTargetAgain() {
-        if (turn_.trouble.isEmpty()) {
-            turn_.trouble = targets_.Trouble(queue_(turn_.entry), turn_.path, turn_.damage);
+        if (turn_.error.isEmpty()) {
+            turn_.error = targets_.Error(queue_(turn_.entry), turn_.path, turn_.damage);
         }
     }
 
     void Conclude() {
-        if (!turn_.trouble.isEmpty()) {
+        if (!turn_.error.isEmpty()) {
             EndTurn(turn_);
             return;
         }
@@ -233,8 +233,8 @@ class Run : private RenderProgress {
         if (saved) {
             Note(written, saved.note);
         } else {
-            written.trouble =
-                Texts::tr("could not write %1: %2").arg(written.path, ToldReason(saved.reason));
+            written.error =
+                Texts::tr("could not write %1: %2").arg(written.path, ErrorText(saved.reason));
         }
         EndTurn(written);
     }
@@ -249,14 +249,14 @@ class Run : private RenderProgress {
         summary_.written.append(turn.path);
         summary_.entries.append(turn.entry);
         if (!turn.damage.isEmpty()) {
-            summary_.damaged.push_back({SourcePath(queue_(turn.entry)), ToldReason(turn.damage)});
+            summary_.damaged.push_back({SourcePath(queue_(turn.entry)), ErrorText(turn.damage)});
         }
         targets_.NoteWritten(turn.path, !turn.damage.isEmpty());
     }
 
     void EndTurn(const Turn& turn) {
-        if (!turn.trouble.isEmpty()) {
-            summary_.failures.push_back({SourcePath(queue_(turn.entry)), turn.trouble});
+        if (!turn.error.isEmpty()) {
+            summary_.failures.push_back({SourcePath(queue_(turn.entry)), turn.error});
         }
         ++summary_.done;
         observer_.Done(summary_.done, summary_.queued);
@@ -338,7 +338,7 @@ QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
     return BatchName(entry, choices.folder, choices.additions, choices.type);
 }
 
-BatchPorts BatchPortsFor(PhotoFeed& feed) {
+BatchPorts BatchPortsFor(PrefetchingReader& feed) {
     BatchPorts ports;
     ports.load = [&feed](const QString& path) { return feed.Take(path); };
     ports.cores = feed.Cores();

@@ -63,7 +63,7 @@ struct BatchPorts {
 };
 
 // Photos from the feed, as far ahead as it has readers.
-BatchPorts BatchPortsFor(PhotoFeed& feed);
+BatchPorts BatchPortsFor(PrefetchingReader& feed);
 
 // Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
 // changed. An entry that fails is noted and nothing is written for it. A file that is a photo of

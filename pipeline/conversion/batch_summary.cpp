@@ -23,7 +23,7 @@ qsizetype Count(const QStringList& list) {
     return list.size();
 }
 
-qsizetype Count(const std::vector<BatchTrouble>& list) {
+qsizetype Count(const std::vector<BatchError>& list) {
     return static_cast<qsizetype>(list.size());
 }
 
@@ -31,8 +31,8 @@ QString LineOf(const QString& path) {
     return path;
 }
 
-QString LineOf(const BatchTrouble& trouble) {
-    return trouble.file + QStringLiteral(": ") + trouble.reason;
+QString LineOf(const BatchError& error) {
+    return error.file + QStringLiteral(": ") + error.reason;
 }
 
 // A heading and an indented line for each; nothing when there is none.
@@ -74,7 +74,7 @@ QString NotesSection(const std::vector<BatchNote>& notes) {
             counts[n] == 1
                 ? lines[n].file
                 : Texts::tr("%1 and %2 more").arg(lines[n].file, QString::number(counts[n] - 1));
-        text += QStringLiteral("  ") + LineOf({file, ToldReason(lines[n].note)}) + u'\n';
+        text += QStringLiteral("  ") + LineOf({file, ErrorText(lines[n].note)}) + u'\n';
     }
     return text;
 }

@@ -13,7 +13,7 @@
 
 namespace varnel {
 
-struct BatchTrouble {
+struct BatchError {
     QString file;    // the photo
     QString reason;  // in words, without the file's name
 };
@@ -29,9 +29,9 @@ struct BatchSummary {
     int done = 0;         // written or failed
     QStringList written;  // one path for each photo written, in order
     QList<int> entries;   // the number in the queue of each of these
-    std::vector<BatchTrouble> failures;
-    std::vector<BatchTrouble> damaged;  // written as far as they could be read
-    std::vector<BatchNote> notes;       // written files and what they are without
+    std::vector<BatchError> failures;
+    std::vector<BatchError> damaged;  // written as far as they could be read
+    std::vector<BatchNote> notes;     // written files and what they are without
     QStringList replaced;  // paths under which a later photo of the run replaced an earlier one
 
     bool Stopped() const { return done < queued; }

@@ -31,7 +31,7 @@ QStringList PhotosOf(const RecordArray<ImageRecord>& queue) {
 
 BatchTargets::BatchTargets(const RecordArray<ImageRecord>& queue) : queued_(PhotosOf(queue)) {}
 
-QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path, const Reason& damage) {
+QString BatchTargets::Error(const ImageRecord& entry, const QString& path, const Reason& damage) {
     if (!QFileInfo::exists(path)) {
         return {};
     }
@@ -43,7 +43,7 @@ QString BatchTargets::Trouble(const ImageRecord& entry, const QString& path, con
     }
     if (!damage.isEmpty() && !halfPictures_.contains(path)) {
         return Texts::tr("the photo is damaged (%1) and does not replace the older %2")
-            .arg(ToldReason(damage), path);
+            .arg(ErrorText(damage), path);
     }
     return {};
 }

@@ -19,11 +19,11 @@ class BatchTargets {
     explicit BatchTargets(const RecordArray<ImageRecord>& queue);
     // Why that photo's conversion is not written under the path; empty when it may be. The damage
     // is empty for a sound photo.
-    QString Trouble(const ImageRecord& entry, const QString& path, const Reason& damage);
+    QString Error(const ImageRecord& entry, const QString& path, const Reason& damage);
     void NoteWritten(const QString& path, bool damaged);
 
   private:
-    FileSet queued_;
+    FileIdentities queued_;
     QSet<QString> halfPictures_;  // written by this run from damaged photos
 };
 

@@ -13,24 +13,24 @@ namespace varnel {
 
 namespace {
 
-class LendingSteps : public FileSteps {
+class LendingSteps : public FileOperations {
   public:
     LendingSteps(ThreadRunner& cores, UnfinishedFile& unfinished)
         : cores_(cores), unfinished_(unfinished) {}
     int Create(const QByteArray& name, unsigned permissions) override {
-        return unfinished_.Begin(name, [&] { return FileSteps::Create(name, permissions); });
+        return unfinished_.Begin(name, [&] { return FileOperations::Create(name, permissions); });
     }
     int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return unfinished_.End([&] { return FileSteps::Rename(name, newName); });
+        return unfinished_.End([&] { return FileOperations::Rename(name, newName); });
     }
     int Remove(const QByteArray& name) override {
-        return unfinished_.End([&] { return FileSteps::Remove(name); });
+        return unfinished_.End([&] { return FileOperations::Remove(name); });
     }
     int Sync(int file) override {
-        return Lent([&] { return FileSteps::Sync(file); });
+        return Lent([&] { return FileOperations::Sync(file); });
     }
     int SyncFolder(const QByteArray& folder) override {
-        return Lent([&] { return FileSteps::SyncFolder(folder); });
+        return Lent([&] { return FileOperations::SyncFolder(folder); });
     }
 
   private:

@@ -16,8 +16,8 @@ constexpr int mostReaders = 4;        // each may hold a whole picture
 
 }  // namespace
 
-PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright,
-                     ThreadRunner* cores)
+PrefetchingReader::PrefetchingReader(PictureReader& reader, int more, ReadingWait& wait,
+                                     bool upright, ThreadRunner* cores)
     : cores_(reader.IsApart() && cores != nullptr && cores->Cores() > 1 ? cores : nullptr),
       thread_(cores_ == nullptr ? nullptr : std::make_unique<ReadingThread>(&reader, *cores_)),
       first_(thread_ ? *thread_ : reader),
@@ -29,18 +29,18 @@ PhotoFeed::PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool up
     }
 }
 
-PhotoFeed::~PhotoFeed() {
+PrefetchingReader::~PrefetchingReader() {
     GiveUp();
 }
 
-void PhotoFeed::GiveUp() {
+void PrefetchingReader::GiveUp() {
     for (const UnderWay& photo : underWay_) {
         photo.reader->Cancel();
     }
     underWay_.clear();
 }
 
-PictureReader* PhotoFeed::FreeReader() const {
+PictureReader* PrefetchingReader::FreeReader() const {
     const auto isFree = [this](const PictureReader* reader) {
         return std::ranges::none_of(underWay_,
                                     [&](const UnderWay& photo) { return photo.reader == reader; });
@@ -56,14 +56,14 @@ PictureReader* PhotoFeed::FreeReader() const {
     return nullptr;
 }
 
-void PhotoFeed::ReadAhead(const QString& path) {
+void PrefetchingReader::ReadAhead(const QString& path) {
     if (PictureReader* const reader = FreeReader()) {
         underWay_.push_back({path, reader});
         reader->Begin({path, ReadKind::Whole, {}, upright_});
     }
 }
 
-LoadedPicture PhotoFeed::Take(const QString& path) {
+LoadedPicture PrefetchingReader::Take(const QString& path) {
     if (underWay_.empty() || underWay_.front().path != path) {
         GiveUp();
         ReadAhead(path);
@@ -74,11 +74,11 @@ LoadedPicture PhotoFeed::Take(const QString& path) {
     return picture;
 }
 
-std::optional<CoreLent> PhotoFeed::Lent() {
+std::optional<CoreLent> PrefetchingReader::Lent() {
     return cores_ == nullptr ? std::nullopt : std::optional<CoreLent>(std::in_place, *cores_);
 }
 
-LoadedPicture PhotoFeed::WaitFor(const UnderWay& photo) {
+LoadedPicture PrefetchingReader::WaitFor(const UnderWay& photo) {
     wait_.Begin(photo.path);
     bool goesOn = true;
     {

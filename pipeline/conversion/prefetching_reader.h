@@ -14,18 +14,18 @@
 
 namespace varnel {
 
-class PhotoFeed {
+class PrefetchingReader {
   public:
     // Each reader reads one photo at a time; the first is somebody else's, who does not use it
     // meanwhile. As many more are started as further photos shall be read at once. Upright:
     // turned as their EXIF orientation says. With cores each decoder takes one while it works, and
     // the caller's is lent while it waits.
-    PhotoFeed(PictureReader& reader, int more, ReadingWait& wait, bool upright = true,
-              ThreadRunner* cores = nullptr);
+    PrefetchingReader(PictureReader& reader, int more, ReadingWait& wait, bool upright = true,
+                      ThreadRunner* cores = nullptr);
     // Gives up what was read ahead and not taken.
-    ~PhotoFeed();
-    PhotoFeed(const PhotoFeed&) = delete;
-    PhotoFeed& operator=(const PhotoFeed&) = delete;
+    ~PrefetchingReader();
+    PrefetchingReader(const PrefetchingReader&) = delete;
+    PrefetchingReader& operator=(const PrefetchingReader&) = delete;
 
     // Starts on the photo that comes next after those that were started on, if a reader is free.
     void ReadAhead(const QString& path);

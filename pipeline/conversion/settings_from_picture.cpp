@@ -17,7 +17,7 @@ namespace varnel {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Likeness)
+    Q_DECLARE_TR_FUNCTIONS(SettingsFromPicture)
 };
 
 bool IsSource(const QString& folder, const QString& fileName, const QString& picture) {
@@ -25,7 +25,7 @@ bool IsSource(const QString& folder, const QString& fileName, const QString& pic
     return QDir::isAbsolutePath(path) && QFileInfo(path).isFile() && !SameFile(path, picture);
 }
 
-void FindSource(Likeness& likeness, const QString& picture) {
+void FindSource(SettingsFromPicture& likeness, const QString& picture) {
     ImageRecord& record = likeness.record;
     const QString beside = RecordFolder(QFileInfo(picture).absolutePath());
     record.Folder = SourceFolderOf(record, picture);
@@ -66,7 +66,7 @@ void TurnAsShown(ImageRecord& record, PhotoLoader& photos) {
 
 void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, PhotoLoader& photos,
                         const PictureSettings& settings, AddedFiles& added) {
-    std::optional<Likeness> likeness = LikenessFrom(settings, path);
+    std::optional<SettingsFromPicture> likeness = FindSettingsFromPicture(settings, path);
     if (likeness && likeness->sourceFound) {
         TurnAsShown(likeness->record, photos);
         images.Append(likeness->record);
@@ -86,8 +86,8 @@ void AppendFileOrSource(RecordArray<ImageRecord>& images, const QString& path, P
 }
 
 void NoteIfBad(const QString& path, PhotoLoader& photos, AddedFiles& added) {
-    if (const Reason trouble = photos.Trouble(path); !trouble.isEmpty()) {
-        added.bad.push_back({path, trouble});
+    if (const Reason error = photos.Error(path); !error.isEmpty()) {
+        added.bad.push_back({path, error});
     }
 }
 
@@ -105,11 +105,12 @@ QString ShownSource(const ImageRecord& record) {
     return Shown(SourcePath(record), longest);
 }
 
-std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture) {
+std::optional<SettingsFromPicture> FindSettingsFromPicture(const PictureSettings& settings,
+                                                           const QString& picture) {
     if (settings.isEmpty()) {
         return std::nullopt;
     }
-    Likeness likeness;
+    SettingsFromPicture likeness;
     likeness.record.Folder = QStringLiteral(".");
     likeness.record.Orientation = 0;
     likeness.notes = TakeSettings(settings, likeness.record);

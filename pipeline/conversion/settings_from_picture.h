@@ -16,7 +16,7 @@ namespace varnel {
 // Whether settings are written into files of that name's type.
 bool MayHoldSettings(const QString& path);
 
-struct Likeness {
+struct SettingsFromPicture {
     // Leads to the source photo where that was found. Its orientation is the one that the centre
     // offsets are meant for; 0 when that was not told.
     ImageRecord record;
@@ -29,7 +29,8 @@ QString ShownSource(const ImageRecord& record);
 
 // What made the picture; nothing when it holds no settings. The source photo is looked for where it
 // was, then beside the picture.
-std::optional<Likeness> LikenessFrom(const PictureSettings& settings, const QString& picture);
+std::optional<SettingsFromPicture> FindSettingsFromPicture(const PictureSettings& settings,
+                                                           const QString& picture);
 
 // A file that no picture can be had of.
 struct BadFile {

@@ -220,8 +220,8 @@ void FormBatch::ShowSummary(const BatchSummary& summary) {
 
 void FormBatch::Process() {
     choices_ = Choices();
-    if (const QString trouble = FolderTrouble(choices_.folder); !trouble.isEmpty()) {
-        notices_.Tell(trouble, tr("Choose another folder."));
+    if (const QString error = FolderError(choices_.folder); !error.isEmpty()) {
+        notices_.Tell(error, tr("Choose another folder."));
         return;
     }
     BatchSummary summary;
@@ -246,7 +246,7 @@ BatchSummary FormBatch::Run() {
     });
     EventsMeanwhile wait;
     ThreadRunner cores(QThread::idealThreadCount());
-    PhotoFeed feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
+    PrefetchingReader feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
     return RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
 }
 

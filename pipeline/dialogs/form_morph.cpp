@@ -285,20 +285,20 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
         return;
     }
     SilentProgress silent;
-    RenderDesk desk{bitmaps_, [] { return true; }, &runner_};
-    QString trouble;
+    RenderContext context{bitmaps_, [] { return true; }, &runner_};
+    QString message;
     try {
-        trouble = Shortage([&] {
+        message = Shortage([&] {
             Render(ItsProjection(), MorphFrame(image_, ends_, i, N), SizeKind::Thumbnails, silent,
-                   desk);
+                   context);
             label.setPixmap(
                 InPictureBox(ImageOf(bitmaps_.ResultBitmap.get()), devicePixelRatioF()));
         });
     } catch (const RunTimeError& error) {
-        trouble = ToldReason(ReasonFor(error));
+        message = ErrorText(ReasonFor(error));
     }
-    if (!trouble.isEmpty()) {
-        label.setText(trouble);
+    if (!message.isEmpty()) {
+        label.setText(message);
     }
 }
 
@@ -314,7 +314,7 @@ void FormMorph::AddFrames() {
     try {
         AddMorph(queue_, image_, ends_, N);
     } catch (const RunTimeError& error) {
-        notices_.Tell(tr("No images were added"), ToldReason(ReasonFor(error)));
+        notices_.Tell(tr("No images were added"), ErrorText(ReasonFor(error)));
         return;
     } catch (const std::bad_alloc&) {
         notices_.Tell(tr("No images were added"), ShortageText(Scarce::Memory));

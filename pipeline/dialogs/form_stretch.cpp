@@ -169,7 +169,7 @@ void FormStretch::Open(const QString& path) {
     if (!copy) {
         notices_.Tell(tr("Could not open image"),
                       QStringLiteral("%1: %2").arg(
-                          path, shortage.isEmpty() ? ToldReason(loaded.reason) : shortage));
+                          path, shortage.isEmpty() ? ErrorText(loaded.reason) : shortage));
         return;
     }
     path_ = path;
@@ -180,7 +180,7 @@ void FormStretch::Open(const QString& path) {
     ui_->LabelFile->setToolTip(path);
     ui_->LabelStatus->setText(loaded.reason.isEmpty()
                                   ? tr("%1 x %2 pixels").arg(size.width).arg(size.height)
-                                  : ToldReason(loaded.reason));
+                                  : ErrorText(loaded.reason));
     ui_->CmdSave->setEnabled(true);
     fitTimer_.start();
 }
@@ -209,9 +209,9 @@ void FormStretch::DrawPreview() {
         return;
     }
     SilentProgress silent;
-    RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
+    RenderContext context{.bitmaps = bitmaps_, .runner = &runner_};
     ShowShortage(Shortage([&] {
-        RenderStretch(Curve(), SizeKind::Thumbnails, silent, desk);
+        RenderStretch(Curve(), SizeKind::Thumbnails, silent, context);
         ui_->PicStretch->Show(ImageOf(bitmaps_.ResultBitmap.get()));
     }));
 }
@@ -238,9 +238,9 @@ void FormStretch::Save() {
 SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     BarProgress bar(ui_->BarStretch);
     CancellableProgress progress(bar, cancelled_);
-    RenderDesk desk{.bitmaps = bitmaps_, .runner = &runner_};
+    RenderContext context{.bitmaps = bitmaps_, .runner = &runner_};
     try {
-        RenderStretch(Curve(), SizeKind::Large, progress, desk);
+        RenderStretch(Curve(), SizeKind::Large, progress, context);
     } catch (const SavingCancelled&) {
         return {};
     }
@@ -259,12 +259,12 @@ void FormStretch::RenderAndSave(const SaveChoice& choice) {
     if (!saved && cancelled_) {
         ui_->LabelStatus->setText(CancelledText());
     } else if (saved) {
-        ui_->LabelStatus->setText(
-            saved.note.isEmpty() ? tr("Saved %1").arg(choice.name)
-                                 : tr("Saved %1, %2").arg(choice.name, ToldReason(saved.note)));
+        ui_->LabelStatus->setText(saved.note.isEmpty()
+                                      ? tr("Saved %1").arg(choice.name)
+                                      : tr("Saved %1, %2").arg(choice.name, ErrorText(saved.note)));
         ui_->LabelStatus->setToolTip(ui_->LabelStatus->text());
     } else {
-        notices_.Tell(tr("Could not save %1").arg(choice.name), ToldReason(saved.reason));
+        notices_.Tell(tr("Could not save %1").arg(choice.name), ErrorText(saved.reason));
     }
 }
 

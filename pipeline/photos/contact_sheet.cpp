@@ -77,10 +77,10 @@ void Adopt(const ContactTile& tile, ImageRecord& image) {
 BitmapHandle TilePicture(const ContactTile& tile, FIBITMAP* source, bool smooth) {
     Bitmaps bitmaps;
     bitmaps.PreviewSourceBitmap = CloneBitmap(source);
-    RenderDesk desk{bitmaps, [smooth] { return smooth; }};
+    RenderContext context{bitmaps, [smooth] { return smooth; }};
     SilentProgress progress;
     Render(ProjectionFromIndex(tile.record.Projection), tile.record, SizeKind::Thumbnails, progress,
-           desk);
+           context);
     return std::move(bitmaps.ResultBitmap);
 }
 

@@ -54,7 +54,7 @@ std::optional<PhotoSize> PhotoLoader::Size(const QString& path) {
                : std::optional(PhotoSize{picture.size, picture.orientation});
 }
 
-Reason PhotoLoader::Trouble(const QString& path) {
+Reason PhotoLoader::Error(const QString& path) {
     const LoadedPicture picture = Read({path, ReadKind::Size, {}});
     return picture.outcome == LoadOutcome::NotLoaded && !givenUp_ ? picture.reason : Reason();
 }

@@ -28,7 +28,7 @@ class ReadingWait {
 // What a photo's file says.
 struct PhotoFacts {
     PhotoMetadata metadata;
-    Reason trouble;  // why nothing can be told; empty when all is well
+    Reason error;  // why nothing can be told; empty when all is well
 };
 
 // Of the full picture as it is shown.
@@ -65,7 +65,7 @@ class PhotoLoader {
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PhotoSize> Size(const QString& path);
     // Why there is no picture in the file, as far as its beginning tells; empty when there is one.
-    Reason Trouble(const QString& path);
+    Reason Error(const QString& path);
     // What the file says beside its pixels.
     PhotoFacts Facts(const QString& path);
 

@@ -139,13 +139,13 @@ class Reader {
             return std::move(project_);
         }
         ReadProject refused;
-        refused.trouble = trouble_;
+        refused.error = error_;
         return refused;
     }
 
   private:
     bool Fail(const QString& why) {
-        trouble_ = why;
+        error_ = why;
         return false;
     }
     bool FailHere() { return Fail(Texts::tr("it is damaged: line %1 cannot be read").arg(next_)); }
@@ -181,7 +181,7 @@ class Reader {
     PictureSettings settings_;
     QList<std::pair<const PhotoField*, QString>> fields_;
     ReadProject project_;
-    QString trouble_;
+    QString error_;
 };
 
 bool Reader::ReadHead() {
@@ -319,7 +319,7 @@ ReadProject ProjectFromText(const QByteArray& text, const QString& folder) {
     QString decoded = decoder(text);
     if (decoder.hasError() || decoded.contains(QChar(0))) {
         ReadProject refused;
-        refused.trouble = Texts::tr("it is not a text file");
+        refused.error = Texts::tr("it is not a text file");
         return refused;
     }
     if (!decoded.contains(u'\n')) {
@@ -336,9 +336,9 @@ ReadProject OpenProject(const QString& path) {
     QFile file(path);
     ReadProject refused;
     if (!file.open(QIODevice::ReadOnly)) {
-        refused.trouble = file.errorString();
+        refused.error = file.errorString();
     } else if (file.size() > largestFile) {
-        refused.trouble = Texts::tr("it is too large");
+        refused.error = Texts::tr("it is too large");
     } else {
         return ProjectFromText(file.read(largestFile), QFileInfo(path).absolutePath());
     }

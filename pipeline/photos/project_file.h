@@ -25,7 +25,7 @@ bool IsProjectName(const QString& path);
 QString ProjectName(const QString& path);
 
 struct ReadProject {
-    QString trouble;  // why the file cannot be read; then all else is empty
+    QString error;  // why the file cannot be read; then all else is empty
     RecordArray<ImageRecord> images;
     QStringList missing;  // photos that are not where the project says; their records are there
     QStringList notes;    // settings that were refused, each with its photo

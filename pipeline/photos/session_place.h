@@ -40,7 +40,7 @@ class SessionPlace {
         : folder_(folder), lock_(folder, milliseconds) {}
 
     QString folder_;
-    FolderLock lock_;
+    DirLock lock_;
 };
 
 }  // namespace varnel

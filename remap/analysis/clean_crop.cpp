@@ -11,7 +11,7 @@ namespace varnel {
 namespace {
 
 // A read there takes nothing from beside the photo, or from outside its circle.
-bool Clean(const ResultPlaces& places, const std::optional<SourcePlace>& place) {
+bool Clean(const InverseMapping& places, const std::optional<SourcePosition>& place) {
     const PixelSize size = places.Size();
     return place && place->x >= 0.0 && place->x <= size.width - 1.0 && place->y >= 0.0 &&
            place->y <= size.height - 1.0 && places.InCircle(*place);
@@ -26,7 +26,7 @@ struct Bounds {
 // the grid how far every column reaches down, then the widest stretch for each height.
 class GridSearch {
   public:
-    explicit GridSearch(const ResultGrid& grid)
+    explicit GridSearch(const MappingMesh& grid)
         : grid_(grid), lowest_(grid.Columns().size(), none) {}
 
     std::optional<Bounds> Best() {
@@ -82,7 +82,7 @@ class GridSearch {
         }
     }
 
-    const ResultGrid& grid_;
+    const MappingMesh& grid_;
     std::vector<std::int64_t> lowest_;
     std::int64_t most_ = 0;
     std::optional<Bounds> best_;
@@ -91,7 +91,7 @@ class GridSearch {
 // Bounds that are indices of the columns and rows that show the photo.
 class RimCheck {
   public:
-    explicit RimCheck(const ResultPlaces& places) : places_(places) {}
+    explicit RimCheck(const InverseMapping& places) : places_(places) {}
 
     static constexpr std::array<std::int64_t Bounds::*, 4> sides{&Bounds::left, &Bounds::right,
                                                                  &Bounds::bottom, &Bounds::top};
@@ -152,7 +152,7 @@ class RimCheck {
         return clean(to);
     }
 
-    const ResultPlaces& places_;
+    const InverseMapping& places_;
 };
 
 std::int64_t IndexOf(const std::vector<int>& lines, int line) {
@@ -161,7 +161,7 @@ std::int64_t IndexOf(const std::vector<int>& lines, int line) {
 
 }  // namespace
 
-ResultRectangle LargestRectangle(const ResultGrid& grid) {
+CleanCrop FindCleanCrop(const MappingMesh& grid) {
     const std::optional<Bounds> found = GridSearch(grid).Best();
     if (!found) {
         return {};

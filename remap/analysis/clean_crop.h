@@ -9,7 +9,7 @@
 namespace varnel {
 
 // Pixels of the converted picture; rows count from the bottom.
-struct ResultRectangle {
+struct CleanCrop {
     int left = 0;
     int bottom = 0;
     int width = 0;
@@ -19,6 +19,6 @@ struct ResultRectangle {
 // The largest upright rectangle of the result that shows nothing but the photo within its circle.
 // Found on the grid, widened to the pixel and then looked at along its whole rim. Empty when there
 // is none as large as a cell of the grid.
-ResultRectangle LargestRectangle(const ResultGrid& grid);
+CleanCrop FindCleanCrop(const MappingMesh& grid);
 
 }  // namespace varnel

@@ -36,7 +36,7 @@ struct OffsetOf {
 
 }  // namespace
 
-bool PhotoCircle::Holds(const SourcePlace& place) const {
+bool PhotoCircle::Holds(const SourcePosition& place) const {
     const double x = place.x - centre.x;
     const double y = place.y - centre.y;
     return x * x + y * y <= radius * radius;
@@ -48,12 +48,12 @@ std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize siz
     }
     CircleView view = CircleViewOf(image, size);
     view.effect = 100.0F;
-    const CircleRows rows = MeasureCircle(view);
+    const ImageCircleGeometry rows = MeasureCircle(view);
     return PhotoCircle{{static_cast<double>(rows.centreX), static_cast<double>(rows.centreY)},
                        static_cast<double>(rows.radius)};
 }
 
-ResultPlaces::ResultPlaces(Projection projection, const ImageRecord& image, PixelSize size)
+InverseMapping::InverseMapping(Projection projection, const ImageRecord& image, PixelSize size)
     : size_(size),
       circle_(PhotoCircleOf(image, size)),
       extents_(ImageCentre(size, image.OfsetX, image.OfsetY)),
@@ -102,7 +102,7 @@ ResultPlaces::ResultPlaces(Projection projection, const ImageRecord& image, Pixe
     list(rowLoops_, rows_);
 }
 
-void ResultPlaces::LayOutQuarters() {
+void InverseMapping::LayOutQuarters() {
     for (std::size_t n = 0; n < columnLoops_.size(); ++n) {
         columnLoops_[n] = {Line::Shown, static_cast<int>(n) - extents_.cx};
     }
@@ -111,7 +111,7 @@ void ResultPlaces::LayOutQuarters() {
     }
 }
 
-void ResultPlaces::LayOutMoved() {
+void InverseMapping::LayOutMoved() {
     const auto layOut = [](std::vector<Loop>& loops, const LoopAxis& axis) {
         const AxisOwners owners(axis, static_cast<std::int32_t>(loops.size()));
         for (std::size_t n = 0; n < loops.size(); ++n) {
@@ -127,17 +127,17 @@ void ResultPlaces::LayOutMoved() {
                        extents_.top, "TranslateY"});
 }
 
-void ResultPlaces::LayOutCircle(const CircleRows& circle) {
+void InverseMapping::LayOutCircle(const ImageCircleGeometry& circle) {
     centre_ = {static_cast<double>(circle.centreX), static_cast<double>(circle.centreY)};
     for (std::size_t n = 0; n < columnLoops_.size(); ++n) {
         columnLoops_[n] = {Line::Shown, static_cast<int>(n) - circle.centreX};
     }
 }
 
-void ResultPlaces::LayOutHorizon() {
+void InverseMapping::LayOutHorizon() {
     const auto& map = std::get<HorizonMap>(map_);
     LayOutCircle(map.Rows());
-    const RowOwners owners(map, size_.height);
+    const LastWriters owners(map, size_.height);
     for (std::int32_t row = 0; row < size_.height; ++row) {
         Loop& loop = rowLoops_[static_cast<std::size_t>(row)];
         if (owners.Black(row)) {
@@ -148,35 +148,35 @@ void ResultPlaces::LayOutHorizon() {
     }
 }
 
-SourceOffset ResultPlaces::OffsetAt(int x, int y) const {
+SourceOffset InverseMapping::OffsetAt(int x, int y) const {
     return std::visit(OffsetOf{x, y}, map_);
 }
 
-std::optional<SourcePlace> ResultPlaces::ReadAt(int column, int row) const {
+std::optional<SourcePosition> InverseMapping::ReadAt(int column, int row) const {
     const Loop& x = columnLoops_[static_cast<std::size_t>(column)];
     const Loop& y = rowLoops_[static_cast<std::size_t>(row)];
     if (x.line != Line::Shown || y.line != Line::Shown) {
         return std::nullopt;
     }
     const SourceOffset offset = OffsetAt(x.position, y.position);
-    const SourcePlace place{centre_.x + offset.u, centre_.y + offset.v};
+    const SourcePosition place{centre_.x + offset.u, centre_.y + offset.v};
     if (!std::isfinite(place.x) || !std::isfinite(place.y)) {
         return std::nullopt;
     }
     return place;
 }
 
-std::optional<SourcePlace> ResultPlaces::At(int column, int row) const {
-    const std::optional<SourcePlace> place = ReadAt(column, row);
+std::optional<SourcePosition> InverseMapping::At(int column, int row) const {
+    const std::optional<SourcePosition> place = ReadAt(column, row);
     return place && InPicture(*place) ? place : std::nullopt;
 }
 
-bool ResultPlaces::Untouched(int column, int row) const {
+bool InverseMapping::Untouched(int column, int row) const {
     return columnLoops_[static_cast<std::size_t>(column)].line == Line::Untouched ||
            rowLoops_[static_cast<std::size_t>(row)].line == Line::Untouched;
 }
 
-bool ResultPlaces::InPicture(const SourcePlace& place) const {
+bool InverseMapping::InPicture(const SourcePosition& place) const {
     return place.x >= -0.5 && place.x <= size_.width - 0.5 && place.y >= -0.5 &&
            place.y <= size_.height - 0.5;
 }

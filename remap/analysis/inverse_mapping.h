@@ -16,36 +16,36 @@
 
 namespace varnel {
 
-struct SourcePlace {
+struct SourcePosition {
     double x = 0.0;
     double y = 0.0;
 };
 
 struct PhotoCircle {
-    SourcePlace centre;
+    SourcePosition centre;
     double radius = 0.0;
 
-    bool Holds(const SourcePlace& place) const;
+    bool Holds(const SourcePosition& place) const;
 };
 
 // The image circle by the record's offsets and ratio; nothing when the ratio is 0 or below.
 std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize size);
 
-class ResultPlaces {
+class InverseMapping {
   public:
     // The record's own Projection is not looked at. Throws as the conversion does.
-    ResultPlaces(Projection projection, const ImageRecord& image, PixelSize size);
+    InverseMapping(Projection projection, const ImageRecord& image, PixelSize size);
 
     // Nothing where the result is black or not written and where the position is off the photo.
-    std::optional<SourcePlace> At(int column, int row) const;
+    std::optional<SourcePosition> At(int column, int row) const;
     // The position that is read, also one off the photo, where a read gives black.
-    std::optional<SourcePlace> ReadAt(int column, int row) const;
+    std::optional<SourcePosition> ReadAt(int column, int row) const;
     // True for pixels that no loop writes: they keep what the photo has there.
     bool Untouched(int column, int row) const;
     // Nearer to one of the photo's pixels than to what lies outside.
-    bool InPicture(const SourcePlace& place) const;
+    bool InPicture(const SourcePosition& place) const;
     // Without a circle nothing is outside it.
-    bool InCircle(const SourcePlace& place) const { return !circle_ || circle_->Holds(place); }
+    bool InCircle(const SourcePosition& place) const { return !circle_ || circle_->Holds(place); }
     const std::optional<PhotoCircle>& Circle() const { return circle_; }
 
     // The columns and rows that show the photo, ascending. A translation by half pixels leaves
@@ -65,12 +65,12 @@ class ResultPlaces {
 
     void LayOutQuarters();
     void LayOutMoved();
-    void LayOutCircle(const CircleRows& circle);
+    void LayOutCircle(const ImageCircleGeometry& circle);
     void LayOutHorizon();
     SourceOffset OffsetAt(int x, int y) const;
 
     PixelSize size_;
-    SourcePlace centre_;
+    SourcePosition centre_;
     std::optional<PhotoCircle> circle_;
     CentreAndExtents extents_;  // of the projections that do not go by circles
     std::variant<std::monostate, RectilinearMap, RotatedRectilinearMap, EquidistanceMap, VarnelMap,

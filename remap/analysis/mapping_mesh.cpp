@@ -22,7 +22,7 @@ std::vector<int> Spread(const std::vector<int>& shown, int count) {
     return chosen;
 }
 
-using Place = std::optional<SourcePlace>;
+using Place = std::optional<SourcePosition>;
 
 std::optional<GridCell> Joined(const Place& lowLeft, const Place& lowRight, const Place& topLeft,
                                const Place& topRight) {
@@ -34,7 +34,7 @@ std::optional<GridCell> Joined(const Place& lowLeft, const Place& lowRight, cons
 
 }  // namespace
 
-ResultGrid::ResultGrid(const ResultPlaces& places, int columns) : places_(&places) {
+MappingMesh::MappingMesh(const InverseMapping& places, int columns) : places_(&places) {
     if (places.Columns().empty() || places.Rows().empty()) {
         return;
     }
@@ -49,13 +49,13 @@ ResultGrid::ResultGrid(const ResultPlaces& places, int columns) : places_(&place
     }
 }
 
-std::optional<SourcePlace> ResultGrid::Corner(std::size_t i, std::size_t j) const {
-    std::optional<SourcePlace> place = At(i, j);
+std::optional<SourcePosition> MappingMesh::Corner(std::size_t i, std::size_t j) const {
+    std::optional<SourcePosition> place = At(i, j);
     if (!place) {
         return place;
     }
-    const SourcePlace here = *place;
-    const auto widen = [&](const std::optional<SourcePlace>& inner, int pixels) {
+    const SourcePosition here = *place;
+    const auto widen = [&](const std::optional<SourcePosition>& inner, int pixels) {
         if (inner) {
             place->x += (here.x - inner->x) * 0.5 / pixels;
             place->y += (here.y - inner->y) * 0.5 / pixels;
@@ -74,11 +74,11 @@ std::optional<SourcePlace> ResultGrid::Corner(std::size_t i, std::size_t j) cons
     return place;
 }
 
-std::optional<GridCell> ResultGrid::InnerCell(std::size_t i, std::size_t j) const {
+std::optional<GridCell> MappingMesh::InnerCell(std::size_t i, std::size_t j) const {
     return Joined(At(i, j), At(i + 1, j), At(i, j + 1), At(i + 1, j + 1));
 }
 
-std::optional<GridCell> ResultGrid::Cell(std::size_t i, std::size_t j) const {
+std::optional<GridCell> MappingMesh::Cell(std::size_t i, std::size_t j) const {
     return Joined(Corner(i, j), Corner(i + 1, j), Corner(i, j + 1), Corner(i + 1, j + 1));
 }
 

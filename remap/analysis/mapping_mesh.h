@@ -10,20 +10,20 @@
 namespace varnel {
 
 struct GridCell {
-    SourcePlace lowLeft, lowRight, topLeft, topRight;
+    SourcePosition lowLeft, lowRight, topLeft, topRight;
 };
 
-class ResultGrid {
+class MappingMesh {
   public:
     // About so many columns; the rows are as far apart.
-    explicit ResultGrid(const ResultPlaces& places, int columns = 128);
+    explicit MappingMesh(const InverseMapping& places, int columns = 128);
 
-    const ResultPlaces& Places() const { return *places_; }
+    const InverseMapping& Places() const { return *places_; }
     // The output columns and rows of the net.
     const std::vector<int>& Columns() const { return columns_; }
     const std::vector<int>& Rows() const { return rows_; }
     // The place that is read there, also off the photo.
-    const std::optional<SourcePlace>& At(std::size_t i, std::size_t j) const {
+    const std::optional<SourcePosition>& At(std::size_t i, std::size_t j) const {
         return net_[j * columns_.size() + i];
     }
     // The cell whose lower left corner is (i, j). Nothing where a corner shows nothing.
@@ -32,11 +32,11 @@ class ResultGrid {
     std::optional<GridCell> Cell(std::size_t i, std::size_t j) const;
 
   private:
-    std::optional<SourcePlace> Corner(std::size_t i, std::size_t j) const;
+    std::optional<SourcePosition> Corner(std::size_t i, std::size_t j) const;
 
-    const ResultPlaces* places_;
+    const InverseMapping* places_;
     std::vector<int> columns_, rows_;
-    std::vector<std::optional<SourcePlace>> net_;
+    std::vector<std::optional<SourcePosition>> net_;
 };
 
 }  // namespace varnel

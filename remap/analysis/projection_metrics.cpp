@@ -12,7 +12,7 @@ namespace {
 
 // How the place on the photo moves when the result's pixel moves by one.
 struct Jacobian {
-    SourcePlace across, up;
+    SourcePosition across, up;
 
     double Area() const { return std::fabs(across.x * up.y - across.y * up.x); }
     // The smaller of the two main stretches, photo pixels per result pixel.
@@ -28,7 +28,7 @@ struct Jacobian {
 
 class Stretches {
   public:
-    explicit Stretches(const ResultPlaces& places)
+    explicit Stretches(const InverseMapping& places)
         : places_(places), columns_(places.Columns()), rows_(places.Rows()) {}
 
     // At a share of the way over the columns and rows that show the photo. From the neighbours on
@@ -56,19 +56,20 @@ class Stretches {
         const auto last = static_cast<double>(lines.size() - 1);
         return static_cast<std::size_t>(std::clamp(std::round(share * last), 1.0, last - 1.0));
     }
-    std::optional<SourcePlace> Shown(int column, int row) const {
+    std::optional<SourcePosition> Shown(int column, int row) const {
         const auto place = places_.At(column, row);
         return place && places_.InCircle(*place) ? place : std::nullopt;
     }
-    static std::optional<SourcePlace> Slope(const std::optional<SourcePlace>& from,
-                                            const std::optional<SourcePlace>& to, int pixels) {
+    static std::optional<SourcePosition> Slope(const std::optional<SourcePosition>& from,
+                                               const std::optional<SourcePosition>& to,
+                                               int pixels) {
         if (!from || !to) {
             return std::nullopt;
         }
-        return SourcePlace{(to->x - from->x) / pixels, (to->y - from->y) / pixels};
+        return SourcePosition{(to->x - from->x) / pixels, (to->y - from->y) / pixels};
     }
 
-    const ResultPlaces& places_;
+    const InverseMapping& places_;
     const std::vector<int>& columns_;
     const std::vector<int>& rows_;
 };
@@ -85,7 +86,7 @@ std::optional<double> StretchTowards(const Stretches& stretches, double across, 
     return std::nullopt;
 }
 
-double Cross(const SourcePlace& a, const SourcePlace& b, const SourcePlace& c) {
+double Cross(const SourcePosition& a, const SourcePosition& b, const SourcePosition& c) {
     return (b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x);
 }
 
@@ -97,7 +98,7 @@ double AreaOf(const GridCell& cell) {
 }
 
 // The share of the way up at which an unrolled result's middle column is half way to the rim.
-std::optional<double> HalfWayUp(const ResultPlaces& places) {
+std::optional<double> HalfWayUp(const InverseMapping& places) {
     if (!places.Circle() || places.Columns().empty()) {
         return std::nullopt;
     }
@@ -120,9 +121,9 @@ std::optional<double> HalfWayUp(const ResultPlaces& places) {
 
 }  // namespace
 
-ResultNumbers MeasureResult(const ResultGrid& grid, const KeptArea& kept) {
+ProjectionMetrics MeasureResult(const MappingMesh& grid, const SourceCoverage& kept) {
     const Stretches stretches(grid.Places());
-    ResultNumbers numbers;
+    ProjectionMetrics numbers;
     numbers.halfWay = grid.Places().IsUnrolled();
     const auto high = numbers.halfWay ? HalfWayUp(grid.Places()) : 0.5;
     if (const auto middle = high ? stretches.At(0.5, *high) : std::nullopt) {
@@ -136,7 +137,7 @@ ResultNumbers MeasureResult(const ResultGrid& grid, const KeptArea& kept) {
         }
     }
     numbers.keptShare = kept.share;
-    numbers.rectangle = LargestRectangle(grid);
+    numbers.rectangle = FindCleanCrop(grid);
     return numbers;
 }
 
@@ -150,7 +151,7 @@ Magnified ClassOf(double magnification) {
     return magnification > aboutSame ? Magnified::Stretched : Magnified::AboutSame;
 }
 
-MagnificationMap MapMagnification(const ResultGrid& grid) {
+MagnificationMap MapMagnification(const MappingMesh& grid) {
     const std::vector<int>& columns = grid.Columns();
     const std::vector<int>& rows = grid.Rows();
     MagnificationMap map;
@@ -159,8 +160,8 @@ MagnificationMap MapMagnification(const ResultGrid& grid) {
     }
     map.columns = static_cast<int>(columns.size()) - 1;
     map.rows = static_cast<int>(rows.size()) - 1;
-    const ResultPlaces& places = grid.Places();
-    const auto inside = [&](const SourcePlace& place) {
+    const InverseMapping& places = grid.Places();
+    const auto inside = [&](const SourcePosition& place) {
         return places.InPicture(place) && places.InCircle(place);
     };
     for (std::size_t j = 0; j + 1 < rows.size(); ++j) {

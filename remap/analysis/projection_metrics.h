@@ -9,7 +9,7 @@
 
 namespace varnel {
 
-struct ResultNumbers {
+struct ProjectionMetrics {
     // Photo pixels for each pixel of the result, along a line, in the result's middle: above 1 the
     // result is too small to show all that is there. Nothing when the middle is black. An unrolled
     // result has one point of the photo along its middle: there it is half way up to the rim.
@@ -20,10 +20,10 @@ struct ResultNumbers {
     // the middle, the circle begins.
     std::optional<double> cornerStretch;
     double keptShare = 0.0;  // of the circle, 0 to 1
-    ResultRectangle rectangle;
+    CleanCrop rectangle;
 };
 
-ResultNumbers MeasureResult(const ResultGrid& grid, const KeptArea& kept);
+ProjectionMetrics MeasureResult(const MappingMesh& grid, const SourceCoverage& kept);
 
 // By how much a line grows from the photo to the result.
 enum class Magnified : std::uint8_t { Nothing, Shrunk, AboutSame, Stretched };
@@ -43,6 +43,6 @@ struct MagnificationMap {
     }
 };
 
-MagnificationMap MapMagnification(const ResultGrid& grid);
+MagnificationMap MapMagnification(const MappingMesh& grid);
 
 }  // namespace varnel

@@ -28,13 +28,13 @@ std::optional<int> BorderLine(const std::vector<int>& shown, int line) {
     return std::abs(nearest - line) <= 1 ? std::optional(nearest) : std::nullopt;
 }
 
-double Distance(const SourcePlace& a, const SourcePlace& b) {
+double Distance(const SourcePosition& a, const SourcePosition& b) {
     return std::hypot(a.x - b.x, a.y - b.y);
 }
 
 class BorderWalk {
   public:
-    BorderWalk(const ResultPlaces& places, int steps)
+    BorderWalk(const InverseMapping& places, int steps)
         : places_(places),
           steps_(std::max(steps, 1)),
           jump_(std::max(places.Size().width, places.Size().height) / 8.0) {}
@@ -79,7 +79,7 @@ class BorderWalk {
         const OutputPixel pixel = pixelAt(static_cast<std::size_t>(shown));
         Take(places_.At(pixel.column, pixel.row));
     }
-    void Take(const std::optional<SourcePlace>& place) {
+    void Take(const std::optional<SourcePosition>& place) {
         const bool ends =
             !place || (!current_.empty() && Distance(current_.back(), *place) > jump_);
         if (ends && current_.size() > 1) {
@@ -93,7 +93,7 @@ class BorderWalk {
         }
     }
 
-    const ResultPlaces& places_;
+    const InverseMapping& places_;
     int steps_;
     double jump_;
     SourceCurve current_;
@@ -102,7 +102,7 @@ class BorderWalk {
 
 class Raster {
   public:
-    explicit Raster(KeptArea& area) : area_(area) {}
+    explicit Raster(SourceCoverage& area) : area_(area) {}
 
     void Fill(const GridCell& cell) {
         Triangle({ToCells(cell.lowLeft), ToCells(cell.lowRight), ToCells(cell.topRight)});
@@ -110,20 +110,20 @@ class Raster {
     }
 
   private:
-    SourcePlace ToCells(const SourcePlace& place) const {
+    SourcePosition ToCells(const SourcePosition& place) const {
         return {(place.x + 0.5) / area_.cell - 0.5, (place.y + 0.5) / area_.cell - 0.5};
     }
     // Every cell whose middle lies in the triangle.
-    void Triangle(const std::array<SourcePlace, 3>& corners) {
-        const auto [low, high] = std::ranges::minmax(corners, {}, &SourcePlace::y);
+    void Triangle(const std::array<SourcePosition, 3>& corners) {
+        const auto [low, high] = std::ranges::minmax(corners, {}, &SourcePosition::y);
         const int first = static_cast<int>(std::ceil(std::max(low.y, 0.0)));
         const int last = static_cast<int>(std::floor(std::min(high.y, area_.rows - 1.0)));
         for (int row = first; row <= last; ++row) {
             double left = std::numeric_limits<double>::infinity();
             double right = -left;
             for (std::size_t n = 0; n < 3; ++n) {
-                const SourcePlace& a = corners[n];
-                const SourcePlace& b = corners[(n + 1) % 3];
+                const SourcePosition& a = corners[n];
+                const SourcePosition& b = corners[(n + 1) % 3];
                 if (std::min(a.y, b.y) <= row && std::max(a.y, b.y) >= row && a.y != b.y) {
                     const double x = a.x + (b.x - a.x) * (row - a.y) / (b.y - a.y);
                     left = std::min(left, x);
@@ -139,11 +139,11 @@ class Raster {
         std::uint8_t* const line =
             area_.cells.data() + static_cast<std::ptrdiff_t>(row) * area_.columns;
         for (double x = first; x <= last; ++x) {
-            line[static_cast<std::ptrdiff_t>(x)] |= KeptArea::Kept;
+            line[static_cast<std::ptrdiff_t>(x)] |= SourceCoverage::Kept;
         }
     }
 
-    KeptArea& area_;
+    SourceCoverage& area_;
 };
 
 // Where a lens formula jumps from one end of the plane to the other there is nothing in between.
@@ -152,15 +152,15 @@ bool Torn(const GridCell& cell, double limit) {
            Distance(cell.lowRight, cell.topLeft) > limit;
 }
 
-void MarkPhoto(const ResultPlaces& places, KeptArea& area) {
+void MarkPhoto(const InverseMapping& places, SourceCoverage& area) {
     for (int row = 0; row < area.rows; ++row) {
         std::uint8_t* const line =
             area.cells.data() + static_cast<std::ptrdiff_t>(row) * area.columns;
         for (int column = 0; column < area.columns; ++column) {
-            const SourcePlace middle{(column + 0.5) * area.cell - 0.5,
-                                     (row + 0.5) * area.cell - 0.5};
+            const SourcePosition middle{(column + 0.5) * area.cell - 0.5,
+                                        (row + 0.5) * area.cell - 0.5};
             if (places.InPicture(middle) && places.InCircle(middle)) {
-                line[column] |= KeptArea::Photo;
+                line[column] |= SourceCoverage::Photo;
             }
         }
     }
@@ -168,7 +168,7 @@ void MarkPhoto(const ResultPlaces& places, KeptArea& area) {
 
 }  // namespace
 
-std::vector<SourceCurve> BorderCurves(const ResultPlaces& places, int pointsPerSide) {
+std::vector<SourceCurve> BorderCurves(const InverseMapping& places, int pointsPerSide) {
     const std::vector<int>& columns = places.Columns();
     const std::vector<int>& rows = places.Rows();
     const auto left = BorderLine(columns, 0);
@@ -202,7 +202,7 @@ std::vector<SourceCurve> BorderCurves(const ResultPlaces& places, int pointsPerS
 namespace {
 
 // Every pixel of the loop is read, or there is none.
-std::optional<SourceCurve> ClosedLoop(const ResultPlaces& places, int pointsPerSide) {
+std::optional<SourceCurve> ClosedLoop(const InverseMapping& places, int pointsPerSide) {
     const std::vector<int>& columns = places.Columns();
     const std::vector<int>& rows = places.Rows();
     const PixelSize size = places.Size();
@@ -238,12 +238,12 @@ std::optional<SourceCurve> ClosedLoop(const ResultPlaces& places, int pointsPerS
 }
 
 // Where the loop crosses the middle of a row of cells, in cells, ascending.
-std::vector<double> Crossings(const SourceCurve& loop, const KeptArea& kept, int row) {
+std::vector<double> Crossings(const SourceCurve& loop, const SourceCoverage& kept, int row) {
     std::vector<double> crossings;
     const double height = (row + 0.5) * kept.cell - 0.5;
     for (std::size_t n = 0; n + 1 < loop.size(); ++n) {
-        const SourcePlace& a = loop[n];
-        const SourcePlace& b = loop[n + 1];
+        const SourcePosition& a = loop[n];
+        const SourcePosition& b = loop[n + 1];
         if ((a.y > height) != (b.y > height)) {
             const double x = a.x + (b.x - a.x) * (height - a.y) / (b.y - a.y);
             crossings.push_back((x + 0.5) / kept.cell - 0.5);
@@ -255,8 +255,8 @@ std::vector<double> Crossings(const SourceCurve& loop, const KeptArea& kept, int
 
 }  // namespace
 
-std::optional<SourceCurve> KeptOutline(const ResultPlaces& places, const KeptArea& kept,
-                                       int pointsPerSide) {
+std::optional<SourceCurve> CoverageOutline(const InverseMapping& places, const SourceCoverage& kept,
+                                           int pointsPerSide) {
     constexpr double tolerance = 0.005;
     std::optional<SourceCurve> loop = ClosedLoop(places, pointsPerSide);
     if (!loop) {
@@ -273,16 +273,17 @@ std::optional<SourceCurve> KeptOutline(const ResultPlaces& places, const KeptAre
             while (passed < crossings.size() && crossings[passed] <= column) {
                 ++passed;
             }
-            if ((line[column] & KeptArea::Photo) != 0) {
+            if ((line[column] & SourceCoverage::Photo) != 0) {
                 ++photo;
-                different += (passed % 2 == 1) == ((line[column] & KeptArea::Kept) != 0) ? 0 : 1;
+                different +=
+                    (passed % 2 == 1) == ((line[column] & SourceCoverage::Kept) != 0) ? 0 : 1;
             }
         }
     }
     return different <= tolerance * photo ? loop : std::nullopt;
 }
 
-bool KeptArea::Keeps(const SourcePlace& place) const {
+bool SourceCoverage::Keeps(const SourcePosition& place) const {
     const double x = std::floor((place.x + 0.5) / cell);
     const double y = std::floor((place.y + 0.5) / cell);
     return x >= 0.0 && x < columns && y >= 0.0 && y < rows &&
@@ -291,9 +292,9 @@ bool KeptArea::Keeps(const SourcePlace& place) const {
             Kept) != 0;
 }
 
-KeptArea MeasureKept(const ResultGrid& grid, int columns) {
+SourceCoverage MeasureCoverage(const MappingMesh& grid, int columns) {
     const PixelSize size = grid.Places().Size();
-    KeptArea area;
+    SourceCoverage area;
     area.cell = static_cast<double>(std::max(size.width, size.height)) / columns;
     area.columns = static_cast<int>(std::ceil(size.width / area.cell));
     area.rows = static_cast<int>(std::ceil(size.height / area.cell));
@@ -309,8 +310,8 @@ KeptArea MeasureKept(const ResultGrid& grid, int columns) {
         }
     }
     const auto photo = std::ranges::count_if(
-        area.cells, [](std::uint8_t cell) { return (cell & KeptArea::Photo) != 0; });
-    const auto kept = std::ranges::count(area.cells, KeptArea::Photo | KeptArea::Kept);
+        area.cells, [](std::uint8_t cell) { return (cell & SourceCoverage::Photo) != 0; });
+    const auto kept = std::ranges::count(area.cells, SourceCoverage::Photo | SourceCoverage::Kept);
     area.share = photo == 0 ? 0.0 : static_cast<double>(kept) / static_cast<double>(photo);
     return area;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The converted picture seen on the photo: its border as curves and what of the image circle it
-// keeps. Positions as in result_places.h.
+// keeps. Positions as in inverse_mapping.h.
 #pragma once
 
 #include <cstdint>
@@ -13,15 +13,15 @@
 namespace varnel {
 
 // Points in order; a whole border ends where it began.
-using SourceCurve = std::vector<SourcePlace>;
+using SourceCurve = std::vector<SourcePosition>;
 
 // The places of the outermost pixels of the converted picture, pointsPerSide on each side: every
 // point is one that the conversion reads. Split where the border leaves the photo, is black or
 // jumps.
-std::vector<SourceCurve> BorderCurves(const ResultPlaces& places, int pointsPerSide = 160);
+std::vector<SourceCurve> BorderCurves(const InverseMapping& places, int pointsPerSide = 160);
 
 // The photo in square cells, row by row from the bottom.
-struct KeptArea {
+struct SourceCoverage {
     enum : std::uint8_t { Photo = 1, Kept = 2 };  // in circle and picture; shown in the result
 
     int columns = 0;
@@ -36,14 +36,14 @@ struct KeptArea {
                      static_cast<std::size_t>(column)] == Photo;
     }
     // True where the converted picture shows the photo.
-    bool Keeps(const SourcePlace& place) const;
+    bool Keeps(const SourcePosition& place) const;
 };
 
-KeptArea MeasureKept(const ResultGrid& grid, int columns = 400);
+SourceCoverage MeasureCoverage(const MappingMesh& grid, int columns = 400);
 
 // The closed border of what is kept, also where it runs off the photo; what it does not enclose is
 // lost. Nothing when no single outline tells that: a border that is black in places or folds over.
-std::optional<SourceCurve> KeptOutline(const ResultPlaces& places, const KeptArea& kept,
-                                       int pointsPerSide = 160);
+std::optional<SourceCurve> CoverageOutline(const InverseMapping& places, const SourceCoverage& kept,
+                                           int pointsPerSide = 160);
 
 }  // namespace varnel

@@ -27,7 +27,7 @@ class EncodedFile {
     // Nothing may be thrown through the encoders, which are C.
     bool Write(const void* bytes, qint64 length) {
         const qint64 end = position_ + length;
-        if (!trouble_.isEmpty() || !Reach(end)) {
+        if (!error_.isEmpty() || !Reach(end)) {
             return false;
         }
         std::memcpy(bytes_.data() + position_, bytes, static_cast<std::size_t>(length));
@@ -57,14 +57,14 @@ class EncodedFile {
     }
 
     qint64 Position() const { return position_; }
-    const Reason& Trouble() const { return trouble_; }
+    const Reason& Error() const { return error_; }
     QByteArray& Bytes() { return bytes_; }
 
   private:
     // Makes the file at least so long; what was never written is zero.
     bool Reach(qint64 end) {
         if (end > largest_) {
-            trouble_ = {ReasonCode::FileTooLarge, largest_};
+            error_ = {ReasonCode::FileTooLarge, largest_};
             return false;
         }
         const qint64 before = bytes_.size();
@@ -77,7 +77,7 @@ class EncodedFile {
             }
             bytes_.resize(end);
         } catch (const std::bad_alloc&) {
-            trouble_ = ReasonCode::NotEnoughMemory;
+            error_ = ReasonCode::NotEnoughMemory;
             return false;
         }
         if (position_ > before) {
@@ -89,7 +89,7 @@ class EncodedFile {
     const qint64 largest_;
     QByteArray bytes_;
     qint64 position_ = 0;
-    Reason trouble_;
+    Reason error_;
 };
 
 EncodedFile& FileOf(fi_handle handle) {
@@ -124,8 +124,8 @@ Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFile
     const LibraryMessages messages;
     FreeImageIO access{ReadItems, WriteItems, SeekTo, TellPosition};
     const bool done = FreeImage_SaveToHandle(format, bitmap, &access, &file, flags) == TRUE;
-    if (!file.Trouble().isEmpty()) {
-        return file.Trouble();
+    if (!file.Error().isEmpty()) {
+        return file.Error();
     }
     if (!done || file.Bytes().isEmpty() || CutByLibrary(messages.Lines())) {
         return messages.Added(ReasonCode::CannotBeEncoded);

@@ -49,18 +49,18 @@ class StoppableRunner : public BlockRunner {
 #ifdef Q_OS_UNIX
 
 // The steps before the file has its name fail once it is given up.
-class StoppableSteps : public FileSteps {
+class StoppableSteps : public FileOperations {
   public:
     explicit StoppableSteps(const std::function<bool()>& stopped) : stopped_(stopped) {}
     int Create(const QByteArray& name, unsigned permissions) override {
-        return GivenUp() ? -1 : FileSteps::Create(name, permissions);
+        return GivenUp() ? -1 : FileOperations::Create(name, permissions);
     }
     qint64 Write(int file, const char* bytes, qint64 length) override {
-        return GivenUp() ? -1 : FileSteps::Write(file, bytes, length);
+        return GivenUp() ? -1 : FileOperations::Write(file, bytes, length);
     }
-    int Sync(int file) override { return GivenUp() ? -1 : FileSteps::Sync(file); }
+    int Sync(int file) override { return GivenUp() ? -1 : FileOperations::Sync(file); }
     int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return GivenUp() ? -1 : FileSteps::Rename(name, newName);
+        return GivenUp() ? -1 : FileOperations::Rename(name, newName);
     }
 
   private:

@@ -8,7 +8,7 @@
 
 namespace varnel {
 
-struct PhotoOrigin {
+struct CameraInfo {
     QString Make;
     QString Model;
     QString LensMake;
@@ -16,7 +16,7 @@ struct PhotoOrigin {
     float FocalLength = 0.0F;  // millimetres; 0 when not told
     float FNumber = 0.0F;      // 0 when not told
 
-    bool operator==(const PhotoOrigin&) const = default;
+    bool operator==(const CameraInfo&) const = default;
     bool IsKnown() const { return !Make.isEmpty() || !Model.isEmpty() || !LensModel.isEmpty(); }
 };
 

@@ -27,12 +27,12 @@ QDataStream& operator>>(QDataStream& in, ExifBlock& exif) {
            exif.thumbnailLength >> exif.thumbnailRoom;
 }
 
-QDataStream& operator<<(QDataStream& out, const PhotoOrigin& origin) {
+QDataStream& operator<<(QDataStream& out, const CameraInfo& origin) {
     return out << origin.Make << origin.Model << origin.LensMake << origin.LensModel
                << origin.FocalLength << origin.FNumber;
 }
 
-QDataStream& operator>>(QDataStream& in, PhotoOrigin& origin) {
+QDataStream& operator>>(QDataStream& in, CameraInfo& origin) {
     return in >> origin.Make >> origin.Model >> origin.LensMake >> origin.LensModel >>
            origin.FocalLength >> origin.FNumber;
 }

@@ -47,7 +47,7 @@ struct PhotoMetadata {
     QByteArray iptc;             // IIM records
     QByteArray xmp;              // an XMP packet in UTF-8, without settings; never empty once read
     std::uint32_t xmpPlace = 0;  // where in it descriptions of a subject may be added
-    PhotoOrigin origin;
+    CameraInfo origin;
     PictureSettings settings;  // that made the photo, when Varnel wrote it
     Reasons notes;             // "written without ...": what the photo's file has and why not here
 

@@ -26,10 +26,10 @@ class HorizonMap {
     std::int32_t OutputRow(int radius) const;
     std::int32_t RowDivisor() const { return rowDivisor_; }
     std::int32_t FirstRadius() const { return firstRadius_; }
-    const CircleRows& Rows() const { return rows_; }
+    const ImageCircleGeometry& Rows() const { return rows_; }
 
   private:
-    CircleRows rows_;
+    ImageCircleGeometry rows_;
     std::int32_t rowDivisor_;
     std::int32_t firstRadius_;
 };

@@ -9,10 +9,10 @@
 
 namespace varnel {
 
-CircleRows MeasureCircle(const CircleView& view) {
+ImageCircleGeometry MeasureCircle(const CircleView& view) {
     const CentreShift shift = ShiftInPixels(view.source, view.offsetX, view.offsetY);
     CheckShift(shift);
-    CircleRows rows;
+    ImageCircleGeometry rows;
     rows.halfWidth = view.source.width / 2;
     rows.upperHalf = view.source.height - view.source.height / 2;
     rows.shiftX = shift.x;

@@ -19,7 +19,7 @@ struct CircleView {
     float effect = 100.0F;
 };
 
-struct CircleRows {
+struct ImageCircleGeometry {
     std::int32_t halfWidth = 0;  // cx, rounded down
     std::int32_t upperHalf = 0;  // height - height / 2
     double shiftX = 0.0;         // whole pixels
@@ -33,6 +33,6 @@ struct CircleRows {
 
 // R = 50 * side / ratio * 100 / effect, the side being the width of a landscape frame and the
 // height of an upright one. Throws RunTimeError when ratio or effect is 0 or a value overflows.
-CircleRows MeasureCircle(const CircleView& view);
+ImageCircleGeometry MeasureCircle(const CircleView& view);
 
 }  // namespace varnel

@@ -16,11 +16,11 @@ namespace varnel {
 // What an output row holds in the end, found out by writing whole rows in the order of the loops:
 // first black on both sides of the centre row, then the radii upward, each of which writes one row,
 // or beyond the circle black on both sides again.
-class RowOwners {
+class LastWriters {
   public:
-    RowOwners(const HorizonMap& map, std::int32_t height)
+    LastWriters(const HorizonMap& map, std::int32_t height)
         : owners_(static_cast<std::size_t>(height), nobody) {
-        const CircleRows& rows = map.Rows();
+        const ImageCircleGeometry& rows = map.Rows();
         const LineRange shown = OnPicture(rows.centreY, height, rows.lastRow);
         for (int r = std::max(shown.first, 1); r <= shown.last; ++r) {
             Blacken(rows.centreY, r);

@@ -23,10 +23,10 @@ class VarnelMap {
     double Chord(int row) const;
     // True for the row that is not stretched at all.
     bool Plain(int row) const { return row == 0; }
-    const CircleRows& Rows() const { return rows_; }
+    const ImageCircleGeometry& Rows() const { return rows_; }
 
   private:
-    CircleRows rows_;
+    ImageCircleGeometry rows_;
 };
 
 static_assert(PixelMap<VarnelMap>);

@@ -7,7 +7,7 @@
 
 namespace varnel {
 
-void PartRender::Start(Projection projection, const ImageRecord& image, FIBITMAP* source) {
+void RegionRenderer::Start(Projection projection, const ImageRecord& image, FIBITMAP* source) {
     rows_.reset();
     const PixelSize size = SizeOf(source);
     if (result_ && (SizeOf(result_.get()).width != size.width ||
@@ -27,18 +27,18 @@ void PartRender::Start(Projection projection, const ImageRecord& image, FIBITMAP
     }
 }
 
-void PartRender::Forget() {
+void RegionRenderer::Forget() {
     rows_.reset();
     surface_.reset();
     there_.clear();
 }
 
-void PartRender::Drop() {
+void RegionRenderer::Drop() {
     Forget();
     result_.reset();
 }
 
-RowSpan PartRender::DrawSome(RowSpan wanted, std::chrono::microseconds time) {
+RowSpan RegionRenderer::DrawSome(RowSpan wanted, std::chrono::microseconds time) {
     if (!Started()) {
         return {};
     }

@@ -19,7 +19,7 @@ struct RowSpan {
     int last = -1;
 };
 
-class PartRender {
+class RegionRenderer {
   public:
     // Forgets what was drawn and begins anew; the bitmap is taken again where it fits. The source
     // has to stay until Drop or the next Start. Throws as the conversion does and is dropped then.
@@ -45,7 +45,7 @@ class PartRender {
     SerialRunner runner_;
     BitmapHandle result_;
     std::unique_ptr<RenderSurface> surface_;
-    std::unique_ptr<RowDrawing> rows_;
+    std::unique_ptr<RowRenderer> rows_;
     std::vector<bool> there_;
 };
 

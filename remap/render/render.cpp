@@ -27,21 +27,21 @@ SizeKind SizeKindFromText(QStringView text) {
 }
 
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
-            RenderProgress& progress, RenderDesk& desk) {
+            RenderProgress& progress, RenderContext& context) {
     switch (projection) {
         case Projection::Varnel:
-            return RenderVarnel(image, kind, progress, desk);
+            return RenderVarnel(image, kind, progress, context);
         case Projection::Rectilinear:
-            return RenderRectilinear(image, kind, progress, desk);
+            return RenderRectilinear(image, kind, progress, context);
         case Projection::Equidistance:
-            return RenderEquidistance(image, kind, progress, desk);
+            return RenderEquidistance(image, kind, progress, context);
         case Projection::Horizon:
-            return RenderHorizon(image, kind, progress, desk);
+            return RenderHorizon(image, kind, progress, context);
     }
 }
 
-std::unique_ptr<RowDrawing> RowsOf(Projection projection, const ImageRecord& image,
-                                   const RenderSurface& surface) {
+std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,
+                                    const RenderSurface& surface) {
     switch (projection) {
         case Projection::Varnel:
             return VarnelRows(image, surface);

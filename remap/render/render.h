@@ -49,7 +49,7 @@ class SilentProgress : public RenderProgress {
 
 // What a conversion works on. smoothPreview is asked again for every column or row, so that a
 // preview follows a change made while it is drawn; full-size pictures are always interpolated.
-struct RenderDesk {
+struct RenderContext {
     Bitmaps& bitmaps;
     std::function<bool()> smoothPreview = [] { return false; };
     // Shares the work of full-size pictures out to the cores; without one it is done on the
@@ -60,19 +60,19 @@ struct RenderDesk {
 // Each replaces ResultBitmap; the record is only read. They throw RunTimeError when a number of the
 // record makes the conversion impossible (the message names it) and std::bad_alloc.
 void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderDesk& desk);
+                  RenderContext& context);
 // Hands over to RenderRectilinearRotated unless all rotations and translations are exactly 0.
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderDesk& desk);
+                       RenderContext& context);
 void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderDesk& desk);
+                              RenderContext& context);
 void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderDesk& desk);
+                        RenderContext& context);
 void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk);
+                   RenderContext& context);
 
 // The projection by its kind; the record's own Projection is not looked at.
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
-            RenderProgress& progress, RenderDesk& desk);
+            RenderProgress& progress, RenderContext& context);
 
 }  // namespace varnel

@@ -12,7 +12,7 @@ namespace varnel {
 
 namespace {
 
-using EquidistanceEngine = QuarterEngine<EquidistanceMap, EquidistanceNodes>;
+using EquidistanceEngine = FourfoldEngine<EquidistanceMap, EquidistanceNodes>;
 
 EquidistanceEngine EngineOf(const ImageRecord& image, const RenderSurface& surface) {
     const PixelSize size = surface.Size();
@@ -33,8 +33,8 @@ EquidistanceEngine EngineOf(const ImageRecord& image, const RenderSurface& surfa
 }  // namespace
 
 void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderDesk& desk) {
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+                        RenderContext& context) {
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const int left = ImageCentre(run.Size(), image.OfsetX, image.OfsetY).left;
     run.Begin(static_cast<float>(left + 1));
     const EquidistanceEngine engine = EngineOf(image, run);
@@ -45,8 +45,8 @@ void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress&
     DrawQuarters(run, engine, [&](int x) { run.Advance(value(x)); });
 }
 
-std::unique_ptr<RowDrawing> EquidistanceRows(const ImageRecord& image,
-                                             const RenderSurface& surface) {
+std::unique_ptr<RowRenderer> EquidistanceRows(const ImageRecord& image,
+                                              const RenderSurface& surface) {
     return std::make_unique<EquidistanceEngine>(EngineOf(image, surface));
 }
 

@@ -14,7 +14,7 @@ namespace varnel {
 
 namespace {
 
-class HorizonEngine : public RowDrawing {
+class HorizonEngine : public RowRenderer {
   public:
     HorizonEngine(const RenderSurface& surface, const HorizonMap& map)
         : surface_(surface),
@@ -50,7 +50,7 @@ class HorizonEngine : public RowDrawing {
     static constexpr int pieceColumns = 256;
 
     // Those that the picture has, in whole pieces from the centre.
-    static LineRange Columns(const CircleRows& rows, std::int32_t width) {
+    static LineRange Columns(const ImageCircleGeometry& rows, std::int32_t width) {
         const LineRange shown = OnPicture(rows.centreX, width, rows.lastColumn);
         return {shown.first / pieceColumns * pieceColumns, shown.last};
     }
@@ -123,7 +123,7 @@ class HorizonEngine : public RowDrawing {
 
     const RenderSurface& surface_;
     HorizonMap map_;
-    RowOwners owners_;
+    LastWriters owners_;
     LineRange columns_;  // distances from the centre
     SourceView source_;
     TargetView target_;
@@ -133,10 +133,10 @@ class HorizonEngine : public RowDrawing {
 }  // namespace
 
 void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk) {
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+                   RenderContext& context) {
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const HorizonMap map(CircleViewOf(image, run.Size()));
-    const CircleRows& rows = map.Rows();
+    const ImageCircleGeometry& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + 2.0 * rows.upperHalf));
     HorizonEngine engine(run, map);
     engine.FillUnownedRows();
@@ -145,7 +145,7 @@ void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& prog
         [&](int r) { run.Advance(static_cast<float>(r + rows.upperHalf)); });
 }
 
-std::unique_ptr<RowDrawing> HorizonRows(const ImageRecord& image, const RenderSurface& surface) {
+std::unique_ptr<RowRenderer> HorizonRows(const ImageRecord& image, const RenderSurface& surface) {
     return std::make_unique<HorizonEngine>(surface,
                                            HorizonMap(CircleViewOf(image, surface.Size())));
 }

@@ -11,7 +11,7 @@ namespace varnel {
 
 namespace {
 
-using PlainEngine = QuarterEngine<RectilinearMap, RectilinearNodes>;
+using PlainEngine = FourfoldEngine<RectilinearMap, RectilinearNodes>;
 
 CentreAndExtents CentreOf(const ImageRecord& image, const RenderSurface& surface) {
     return ImageCentre(surface.Size(), image.OfsetX, image.OfsetY);
@@ -29,11 +29,11 @@ RotatedRectilinearMap RotatedMapOf(const ImageRecord& image, const RenderSurface
 }  // namespace
 
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderDesk& desk) {
+                       RenderContext& context) {
     if (CameraMoveOf(image).Moves()) {
-        return RenderRectilinearRotated(image, kind, progress, desk);
+        return RenderRectilinearRotated(image, kind, progress, context);
     }
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const CentreAndExtents centre = CentreOf(image, run);
     run.Begin(static_cast<float>(centre.left + 1));
     DrawQuarters(run, PlainEngineOf(image, run),
@@ -41,8 +41,8 @@ void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& 
 }
 
 void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderDesk& desk) {
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+                              RenderContext& context) {
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const CentreAndExtents centre = CentreOf(image, run);
     run.Begin(static_cast<float>(centre.left + centre.right + 1));
     const RotatedRectilinearMap map = RotatedMapOf(image, run);
@@ -58,8 +58,8 @@ void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderPro
         [&](int x, int count) { engine.Draw(x, count); }, [&](int x) { run.Advance(value(x)); });
 }
 
-std::unique_ptr<RowDrawing> RectilinearRows(const ImageRecord& image,
-                                            const RenderSurface& surface) {
+std::unique_ptr<RowRenderer> RectilinearRows(const ImageRecord& image,
+                                             const RenderSurface& surface) {
     if (CameraMoveOf(image).Moves()) {
         return std::make_unique<RotatedEngine>(surface, RotatedMapOf(image, surface),
                                                CentreOf(image, surface));

@@ -26,14 +26,15 @@ void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
 
 }  // namespace
 
-RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, Canvas canvas)
+RenderSession::RenderSession(SizeKind kind, RenderProgress& progress, RenderContext& context,
+                             Canvas canvas)
     : RenderSurface(progress),
       kind_(kind),
-      desk_(desk),
+      workspace_(context),
       exceptionsBefore_(std::uncaught_exceptions()) {
-    runner_ = desk.runner != nullptr ? desk.runner : &serial_;
+    runner_ = context.runner != nullptr ? context.runner : &serial_;
     progress_->HandleEvents();
-    Bitmaps& bitmaps = desk.bitmaps;
+    Bitmaps& bitmaps = context.bitmaps;
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
                                            : bitmaps.FullSourceBitmap.get();
     assert(source_ != nullptr);
@@ -47,7 +48,7 @@ RenderRun::RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk, 
 }
 
 // After a failure the result is the plain copy of the source, whatever was drawn before.
-RenderRun::~RenderRun() {
+RenderSession::~RenderSession() {
     if (std::uncaught_exceptions() > exceptionsBefore_ && result_ != nullptr) {
         CopySource();
     }
@@ -66,14 +67,14 @@ void RenderSurface::CopySourceRow(std::int32_t row) const {
     std::ranges::copy(ScanLine(source_, row), ScanLine(result_, row).begin());
 }
 
-void RenderRun::Begin(float maximum) {
+void RenderSession::Begin(float maximum) {
     begun_ = true;
     progress_->Begin(maximum);
 }
 
-void RenderRun::Advance(float value) {
+void RenderSession::Advance(float value) {
     progress_->Advance(value);
-    nearest_ = kind_ == SizeKind::Thumbnails && !desk_.smoothPreview();
+    nearest_ = kind_ == SizeKind::Thumbnails && !workspace_.smoothPreview();
 }
 
 }  // namespace varnel

@@ -44,15 +44,15 @@ class RenderSurface {
     bool nearest_ = false;
 };
 
-class RenderRun : public RenderSurface {
+class RenderSession : public RenderSurface {
   public:
     // Lets waiting events run once, picks the source by the kind, which must be there, and makes
     // ResultBitmap anew with the source's size, metadata and colour profile.
-    RenderRun(SizeKind kind, RenderProgress& progress, RenderDesk& desk,
-              Canvas canvas = Canvas::CopyOfSource);
-    ~RenderRun();
-    RenderRun(const RenderRun&) = delete;
-    RenderRun& operator=(const RenderRun&) = delete;
+    RenderSession(SizeKind kind, RenderProgress& progress, RenderContext& context,
+                  Canvas canvas = Canvas::CopyOfSource);
+    ~RenderSession();
+    RenderSession(const RenderSession&) = delete;
+    RenderSession& operator=(const RenderSession&) = delete;
 
     SizeKind Kind() const { return kind_; }
     // Shows the progress, which is taken away again at the end of the run.
@@ -66,7 +66,7 @@ class RenderRun : public RenderSurface {
 
   private:
     SizeKind kind_;
-    RenderDesk& desk_;
+    RenderContext& workspace_;
     SerialRunner serial_;
     int exceptionsBefore_;
     bool begun_ = false;

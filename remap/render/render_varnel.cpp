@@ -15,7 +15,7 @@ namespace varnel {
 
 namespace {
 
-class VarnelEngine : public RowDrawing {
+class VarnelEngine : public RowRenderer {
   public:
     VarnelEngine(const RenderSurface& surface, const VarnelMap& map)
         : surface_(surface),
@@ -36,7 +36,7 @@ class VarnelEngine : public RowDrawing {
     }
     // Those to be drawn, all >= 0.
     LineRange Rows() const {
-        const CircleRows& rows = map_.Rows();
+        const ImageCircleGeometry& rows = map_.Rows();
         return WorthARun({0, rows.lastRow}, OnPicture(rows.centreY, target_.height, rows.lastRow),
                          target_.height);
     }
@@ -81,10 +81,10 @@ class VarnelEngine : public RowDrawing {
 }  // namespace
 
 void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderDesk& desk) {
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+                  RenderContext& context) {
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const VarnelMap map(CircleViewOf(image, run.Size()));
-    const CircleRows& rows = map.Rows();
+    const ImageCircleGeometry& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
     const VarnelEngine engine(run, map);
     DrawLines(
@@ -92,7 +92,7 @@ void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progr
         [&](int r) { run.Advance(static_cast<float>(r)); });
 }
 
-std::unique_ptr<RowDrawing> VarnelRows(const ImageRecord& image, const RenderSurface& surface) {
+std::unique_ptr<RowRenderer> VarnelRows(const ImageRecord& image, const RenderSurface& surface) {
     return std::make_unique<VarnelEngine>(surface, VarnelMap(CircleViewOf(image, surface.Size())));
 }
 

@@ -10,9 +10,9 @@
 
 namespace varnel {
 
-class RowDrawing {
+class RowRenderer {
   public:
-    virtual ~RowDrawing() = default;
+    virtual ~RowRenderer() = default;
     // Every pixel of the row (of the result, from 0 at the bottom), exactly as the whole
     // conversion leaves it, and no other row.
     virtual void DrawRow(std::int32_t row) = 0;
@@ -20,12 +20,13 @@ class RowDrawing {
 
 // By the projection's kind; the record's own Projection is not looked at. The surface has to
 // outlive the drawing. They throw as the conversions do.
-std::unique_ptr<RowDrawing> RowsOf(Projection projection, const ImageRecord& image,
-                                   const RenderSurface& surface);
-std::unique_ptr<RowDrawing> VarnelRows(const ImageRecord& image, const RenderSurface& surface);
-std::unique_ptr<RowDrawing> RectilinearRows(const ImageRecord& image, const RenderSurface& surface);
-std::unique_ptr<RowDrawing> EquidistanceRows(const ImageRecord& image,
+std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,
+                                    const RenderSurface& surface);
+std::unique_ptr<RowRenderer> VarnelRows(const ImageRecord& image, const RenderSurface& surface);
+std::unique_ptr<RowRenderer> RectilinearRows(const ImageRecord& image,
                                              const RenderSurface& surface);
-std::unique_ptr<RowDrawing> HorizonRows(const ImageRecord& image, const RenderSurface& surface);
+std::unique_ptr<RowRenderer> EquidistanceRows(const ImageRecord& image,
+                                              const RenderSurface& surface);
+std::unique_ptr<RowRenderer> HorizonRows(const ImageRecord& image, const RenderSurface& surface);
 
 }  // namespace varnel

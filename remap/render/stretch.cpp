@@ -38,8 +38,8 @@ double HeightOfRow(int y, int rows) {
 }
 
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk) {
-    RenderRun run(kind, progress, desk, Canvas::Anything);
+                   RenderContext& context) {
+    RenderSession run(kind, progress, context, Canvas::Anything);
     const int rows = run.Size().height;
     const SourceView source = SourceView::Of(run.Source());
     const TargetView target = TargetView::Of(run.Result());

@@ -31,6 +31,6 @@ double HeightOfRow(int y, int rows);
 // Replaces ResultBitmap as the projections do, always interpolated along the row; columns from
 // beside the source are black. Throws std::bad_alloc.
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk);
+                   RenderContext& context);
 
 }  // namespace varnel

@@ -29,11 +29,11 @@ std::optional<std::size_t> LineAt(double share, const std::vector<int>& shown, i
 
 // How far from the wanted place the point is with these controls.
 double Miss(const FrameSetting& setting, const ControlValues& controls, const FramePoint& point,
-            const SourcePlace& wanted) {
+            const SourcePosition& wanted) {
     ImageRecord trial = setting.image;
     StoreControls(controls, trial);
     try {
-        const ResultPlaces places(ProjectionFromIndex(controls.projection), trial, setting.size);
+        const InverseMapping places(ProjectionFromIndex(controls.projection), trial, setting.size);
         if (const auto place = PlaceOf(point, places)) {
             return std::hypot(place->x - wanted.x, place->y - wanted.y);
         }
@@ -75,7 +75,7 @@ const std::vector<FramePoint>& FrameHandles(Projection projection) {
     return projection == Projection::Varnel ? aside : around;
 }
 
-std::optional<SourcePlace> PlaceOf(const FramePoint& point, const ResultPlaces& places) {
+std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapping& places) {
     const auto column = LineAt(point.across, places.Columns(), places.Size().width);
     const auto row = LineAt(point.up, places.Rows(), places.Size().height);
     if (!column || !row) {
@@ -84,7 +84,8 @@ std::optional<SourcePlace> PlaceOf(const FramePoint& point, const ResultPlaces& 
     return places.ReadAt(places.Columns()[*column], places.Rows()[*row]);
 }
 
-int WidthNearest(const FrameSetting& setting, const FramePoint& handle, const SourcePlace& wanted) {
+int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
+                 const SourcePosition& wanted) {
     const auto slider = FrameSlider(ProjectionFromIndex(setting.controls.projection));
     if (!slider) {
         return 0;
@@ -103,7 +104,7 @@ int WidthNearest(const FrameSetting& setting, const FramePoint& handle, const So
     return best;
 }
 
-ControlValues TurnedNearest(const FrameSetting& setting, const SourcePlace& wanted) {
+ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& wanted) {
     ControlValues best = setting.controls;
     if (!FrameTurns(ProjectionFromIndex(best.projection))) {
         return best;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Steering a conversion by the frame that it cuts out of the photo: which slider a handle moves and
-// which value puts it nearest to where it is wanted. Positions as in remap/result_places.h.
+// which value puts it nearest to where it is wanted. Positions as in remap/analysis/inverse_mapping.h.
 #pragma once
 
 #include <optional>
@@ -28,7 +28,7 @@ struct FramePoint {
 // Varnel, which leaves its middle lines alone, the quarters.
 const std::vector<FramePoint>& FrameHandles(Projection projection);
 // Where the photo is read for the point; nothing where the border is black.
-std::optional<SourcePlace> PlaceOf(const FramePoint& point, const ResultPlaces& places);
+std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapping& places);
 
 // What is steered: the record as stored, the controls over it and the photo's size.
 struct FrameSetting {
@@ -39,8 +39,9 @@ struct FrameSetting {
 
 // Within the slider's range; the value at hand when no other is nearer or the projection has no
 // such slider.
-int WidthNearest(const FrameSetting& setting, const FramePoint& handle, const SourcePlace& wanted);
+int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
+                 const SourcePosition& wanted);
 // The controls with the turns that bring the middle of the frame nearest to the wanted place.
-ControlValues TurnedNearest(const FrameSetting& setting, const SourcePlace& wanted);
+ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& wanted);
 
 }  // namespace varnel

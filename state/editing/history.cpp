@@ -36,7 +36,7 @@ bool SamePhoto(const ImageRecord& a, const ImageRecord& b) {
     return a.FileName == b.FileName && a.Folder == b.Folder;
 }
 
-// A step keeps no older size of a photo than the one that the photo on the desk has.
+// A step keeps no older size of a photo than the one that the photo on the workspace has.
 void KeepSize(const ImageRecord& now, ImageRecord& restored) {
     if (now.Width == 0 || restored.Width == 0) {
         return;

@@ -46,11 +46,11 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
     Levelling level;
     const std::optional<HorizonFit> fit = FitHorizon(rays);
     if (!fit || fit->length < shortest) {
-        level.trouble = LevelTrouble::TooShort;
+        level.error = LevelError::TooShort;
         return level;
     }
     if (fit->spread > farthestOff) {
-        level.trouble = LevelTrouble::NotStraight;
+        level.error = LevelError::NotStraight;
         return level;
     }
     const LevelTurn present{static_cast<double>(image.RotateX), static_cast<double>(image.RotateZ)};
@@ -60,7 +60,7 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
     level.beyondX = Beyond(SliderId::X, turn.x);
     level.beyondZ = Beyond(SliderId::Z, turn.z);
     if (level.beyondX != 0.0 || level.beyondZ != 0.0) {
-        level.trouble = LevelTrouble::OutOfReach;
+        level.error = LevelError::OutOfReach;
     }
     return level;
 }
@@ -78,7 +78,7 @@ Levelling LevelHorizon(const ImageRecord& image, PixelSize source,
         return LevelRays(image, RaysOf(image, source, traced));
     } catch (const RunTimeError&) {
         Levelling level;
-        level.trouble = LevelTrouble::NoLens;
+        level.error = LevelError::NoLens;
         return level;
     }
 }

@@ -20,7 +20,7 @@ struct PicturePoint {
 // The offset from the circle's centre, as the projections count it.
 SourceOffset OffsetOf(const PicturePoint& point, PixelSize source, const ImageRecord& image);
 
-enum class LevelTrouble {
+enum class LevelError {
     None,
     NoLens,       // the record's numbers make no lens
     TooShort,     // to tell a direction
@@ -29,7 +29,7 @@ enum class LevelTrouble {
 };
 
 struct Levelling {
-    LevelTrouble trouble = LevelTrouble::None;
+    LevelError error = LevelError::None;
     double rotateX = 0.0;  // degrees, as the record holds them
     double rotateZ = 0.0;
     double beyondX = 0.0;  // degrees past the slider's end, signed; 0 within

@@ -11,12 +11,12 @@ namespace varnel {
 namespace {
 
 struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(PhotoMarks)
+    Q_DECLARE_TR_FUNCTIONS(ListBadges)
 };
 
 }  // namespace
 
-PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble) {
+ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error) {
     const QString projection = ToText(ProjectionFromIndex(image.Projection));
     QString letters = projection.left(1);
     QStringList words{projection};
@@ -28,9 +28,9 @@ PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble
         letters += u'Q';
         words.append(Texts::tr("in the batch queue"));
     }
-    if (!trouble.isEmpty()) {
+    if (!error.isEmpty()) {
         letters += u'!';
-        words.append(trouble);
+        words.append(error);
     }
     return {letters, words.join(QStringLiteral(", "))};
 }

@@ -10,15 +10,15 @@
 
 namespace varnel {
 
-// The initial of the projection, then "A" for adjusted, "Q" for queued and "!" for trouble.
-struct PhotoMarks {
+// The initial of the projection, then "A" for adjusted, "Q" for queued and "!" for error.
+struct ListBadges {
     QString letters;
-    QString words;  // the same, joined with commas; the trouble stands last
+    QString words;  // the same, joined with commas; the error stands last
 
-    bool operator==(const PhotoMarks&) const = default;
+    bool operator==(const ListBadges&) const = default;
 };
 
-// The trouble is empty when all is well.
-PhotoMarks MarksOf(const ImageRecord& image, bool queued, const QString& trouble);
+// The error is empty when all is well.
+ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error);
 
 }  // namespace varnel

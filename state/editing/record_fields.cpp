@@ -14,7 +14,7 @@ namespace varnel {
 
 namespace {
 
-using FieldPointer = std::variant<std::int16_t ImageRecord::*, Flag16 ImageRecord::*,
+using FieldPointer = std::variant<std::int16_t ImageRecord::*, Bool16 ImageRecord::*,
                                   float ImageRecord::*, QString ImageRecord::*>;
 
 struct Field {
@@ -75,15 +75,15 @@ std::optional<std::int16_t> Parse(const QString& text, std::int16_t /*kind*/) {
     return static_cast<std::int16_t>(*whole);
 }
 
-std::optional<Flag16> Parse(const QString& text, Flag16 /*kind*/) {
+std::optional<Bool16> Parse(const QString& text, Bool16 /*kind*/) {
     for (const auto on : {u"True", u"true", u"1", u"-1"}) {
         if (text == QStringView(on)) {
-            return Flag16(true);
+            return Bool16(true);
         }
     }
     for (const auto off : {u"False", u"false", u"0"}) {
         if (text == QStringView(off)) {
-            return Flag16(false);
+            return Bool16(false);
         }
     }
     return std::nullopt;
@@ -101,7 +101,7 @@ QString TextOf(std::int16_t value) {
     return QString::number(value);
 }
 
-QString TextOf(Flag16 value) {
+QString TextOf(Bool16 value) {
     return value ? QStringLiteral("True") : QStringLiteral("False");
 }
 

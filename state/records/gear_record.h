@@ -34,7 +34,7 @@ struct GearRecord {
     float vAOV = 0.0F;
     float LensMapScale = 0.0F;
     float LensMapFactor = 0.0F;
-    Flag16 UserAdjusted;
+    Bool16 UserAdjusted;
     float OfsetX = 0.0F;
     float OfsetY = 0.0F;
     float GearRatio = 0.0F;

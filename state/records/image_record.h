@@ -20,7 +20,7 @@ namespace varnel {
 struct ImageRecord {
     std::int16_t Width = 0;   // pixels, as loaded
     std::int16_t Height = 0;  // pixels, as loaded
-    Flag16 Landscape;         // Width >= Height
+    Bool16 Landscape;         // Width >= Height
     QString GearName;
     QString CameraBrand;
     QString CameraModel;
@@ -36,7 +36,7 @@ struct ImageRecord {
     float LensMapScale = 0.0F;
     float LensMapFactor = 0.0F;
     std::int16_t Projection = 0;  // see ProjectionFromIndex
-    Flag16 SettingsApplied;       // while false, assigning a gear resets the adjustments
+    Bool16 SettingsApplied;       // while false, assigning a gear resets the adjustments
     float OfsetX = 0.0F;          // spelled as in the settings; positive = right
     float OfsetY = 0.0F;          // positive = toward the bottom of the picture
     float Ratio = 0.0F;           // sensor width in percent of the circle's diameter

@@ -16,27 +16,27 @@ constexpr int settleDelay = 200;
 
 void TellOf(SettingsStore& store, Notices& notices) {
     for (const Reason& reason : store.Settle()) {
-        notices.Tell(ToldReason(reason), {});
+        notices.Tell(ErrorText(reason), {});
     }
 }
 
-TellingStore::TellingStore(SettingsStore& store, Notices& notices) : store_(store) {
+AutosavingStore::AutosavingStore(SettingsStore& store, Notices& notices) : store_(store) {
     soon_.setSingleShot(true);
     QObject::connect(&soon_, &QTimer::timeout, &soon_,
                      [this, &notices] { TellOf(store_, notices); });
 }
 
-QString TellingStore::Get(const QString& section, const QString& key,
-                          const QString& fallback) const {
+QString AutosavingStore::Get(const QString& section, const QString& key,
+                             const QString& fallback) const {
     return store_.Get(section, key, fallback);
 }
 
-void TellingStore::Save(const QString& section, const QString& key, const QString& value) {
+void AutosavingStore::Save(const QString& section, const QString& key, const QString& value) {
     store_.Save(section, key, value);
     soon_.start(settleDelay);
 }
 
-Reasons TellingStore::Settle() {
+Reasons AutosavingStore::Settle() {
     return store_.Settle();
 }
 

@@ -14,11 +14,11 @@ namespace varnel {
 // Settles the store and tells what there is to tell.
 void TellOf(SettingsStore& store, Notices& notices);
 
-// Another store, settled a moment after something was saved. Its troubles are told then, above
+// Another store, settled a moment after something was saved. Its errors are told then, above
 // whichever window saved.
-class TellingStore : public SettingsStore {
+class AutosavingStore : public SettingsStore {
   public:
-    TellingStore(SettingsStore& store, Notices& notices);
+    AutosavingStore(SettingsStore& store, Notices& notices);
     QString Get(const QString& section, const QString& key, const QString& fallback) const override;
     void Save(const QString& section, const QString& key, const QString& value) override;
     Reasons Settle() override;

@@ -23,7 +23,7 @@ class FileStore : public SettingsStore {
     FileStore(QString path, QDateTime now) : path_(std::move(path)), now_(std::move(now)) {
         SettingsFile file = LookAtSettings(path_);
         if (!file.IsWhole() || !file.CopyIsFresh()) {
-            const FolderLock lock(Folder(), longestWait);
+            const DirLock lock(Folder(), longestWait);
             file = LookAtSettings(path_);  // another process may have mended it
             values_ = Take(file, lock.IsHeld()).values;
         } else {
@@ -87,7 +87,7 @@ class FileStore : public SettingsStore {
         if (!QDir().mkpath(Folder())) {
             return ReasonCode::FolderNotMade;
         }
-        const FolderLock lock(Folder(), longestWait);
+        const DirLock lock(Folder(), longestWait);
         if (!lock.IsHeld()) {
             return ReasonCode::SettingsLocked;
         }

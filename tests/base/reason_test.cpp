@@ -52,7 +52,7 @@ TEST(Reason, IsToldWithItsArgumentsWhateverTheyLookLike) {
         {Joined({{}, ReasonCode::FileEmpty}), "the file is empty"},
         {Joined({}), ""}};
     for (const auto& [reason, told] : cases) {
-        EXPECT_EQ(ToldReason(reason).toStdString(), told);
+        EXPECT_EQ(ErrorText(reason).toStdString(), told);
         EXPECT_EQ(Taken(Streamed(reason)), reason) << told;
     }
 }
@@ -93,7 +93,7 @@ TEST(Reason, OfOtherBytesIsCorruptOrSound) {
         EXPECT_FALSE(Taken(block)) << block.left(20).toHex().toStdString();
     }
     const Reason told(ReasonCode::Damaged, Text("two\nlines\x1b[0m "));
-    EXPECT_EQ(ToldReason(*Taken(Streamed(told))), Text("damaged: two lines [0m"));
+    EXPECT_EQ(ErrorText(*Taken(Streamed(told))), Text("damaged: two lines [0m"));
     const QByteArray sound = Streamed({ReasonCode::Of, Text("/a"), diskFull});
     for (qsizetype place = 0; place < sound.size(); ++place) {
         EXPECT_FALSE(Taken(sound.left(place)));
@@ -101,7 +101,7 @@ TEST(Reason, OfOtherBytesIsCorruptOrSound) {
             QByteArray spoilt = sound;
             spoilt[place] = value;
             if (const auto reason = Taken(spoilt)) {
-                ToldReason(*reason);
+                ErrorText(*reason);
             }
         }
     }

@@ -55,35 +55,37 @@ enum class Fault { Once, Lasting, Kill };
 
 // Step n fails, and all after it where the fault is lasting; or the process is killed before step
 // n. Writes five bytes at a time.
-class FailingSteps : public FileSteps {
+class FailingSteps : public FileOperations {
   public:
     FailingSteps(int n, Fault fault) : n_(n), fault_(fault) {}
     int count = 0;
 
     int Create(const QByteArray& name, unsigned permissions) override {
-        return Fails() ? -1 : FileSteps::Create(name, permissions);
+        return Fails() ? -1 : FileOperations::Create(name, permissions);
     }
-    int Lock(int file) override { return Fails() ? -1 : FileSteps::Lock(file); }
+    int Lock(int file) override { return Fails() ? -1 : FileOperations::Lock(file); }
     qint64 Write(int file, const char* bytes, qint64 length) override {
-        return Fails() ? -1 : FileSteps::Write(file, bytes, std::min<qint64>(length, 5));
+        return Fails() ? -1 : FileOperations::Write(file, bytes, std::min<qint64>(length, 5));
     }
     int SetPermissions(int file, unsigned permissions) override {
-        return Fails() ? -1 : FileSteps::SetPermissions(file, permissions);
+        return Fails() ? -1 : FileOperations::SetPermissions(file, permissions);
     }
-    int Sync(int file) override { return Fails() ? -1 : FileSteps::Sync(file); }
+    int Sync(int file) override { return Fails() ? -1 : FileOperations::Sync(file); }
     int Close(int file) override {
         const bool fails = Fails();
-        const int result = FileSteps::Close(file);  // closed in any case, as by the system
+        const int result = FileOperations::Close(file);  // closed in any case, as by the system
         errno = fails ? ENOSPC : errno;
         return fails ? -1 : result;
     }
     int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return Fails() ? -1 : FileSteps::Rename(name, newName);
+        return Fails() ? -1 : FileOperations::Rename(name, newName);
     }
     int SyncFolder(const QByteArray& folder) override {
-        return Fails() ? -1 : FileSteps::SyncFolder(folder);
+        return Fails() ? -1 : FileOperations::SyncFolder(folder);
     }
-    int Remove(const QByteArray& name) override { return Fails() ? -1 : FileSteps::Remove(name); }
+    int Remove(const QByteArray& name) override {
+        return Fails() ? -1 : FileOperations::Remove(name);
+    }
 
   private:
     bool Fails() {
@@ -123,7 +125,7 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
             EXPECT_GE(n, 9);
             return reasons;
         }
-        reasons.insert(ToldReason(result.reason));
+        reasons.insert(ErrorText(result.reason));
     }
 }
 
@@ -172,16 +174,17 @@ TEST(WriteWholeFile, KilledAtAnyStepLeavesTheOlderOrTheNewerAndAStrayThatGoes) {
 }
 
 // Every step is interrupted once, writes take a byte, then two ...; what cannot be done is said.
-class HesitantSteps : public FileSteps {
+class HesitantSteps : public FileOperations {
   public:
     qint64 Write(int file, const char* bytes, qint64 length) override {
         errno = EINTR;
         ++calls_;
-        return calls_ % 2 != 0 ? -1 : FileSteps::Write(file, bytes, std::min(length, calls_ / 2));
+        return calls_ % 2 != 0 ? -1
+                               : FileOperations::Write(file, bytes, std::min(length, calls_ / 2));
     }
     int SetPermissions(int /*file*/, unsigned /*permissions*/) override { return Refuse(EPERM); }
     int Sync(int file) override {
-        return std::exchange(synced_, true) ? FileSteps::Sync(file) : Refuse(EINTR);
+        return std::exchange(synced_, true) ? FileOperations::Sync(file) : Refuse(EINTR);
     }
     int SyncFolder(const QByteArray& /*folder*/) override { return Refuse(EINVAL); }
 
@@ -199,17 +202,17 @@ TEST(WriteWholeFile, GoesOnAfterInterruptionsAndWithoutWhatTheFileSystemHasNot) 
     WriteFile(folder.Path("target"), older);
     HesitantSteps steps;
     const WriteResult result = WriteWholeFile(folder.Path("target"), newer, steps);
-    EXPECT_TRUE(result.ok) << ToldReason(result.reason).toStdString();
+    EXPECT_TRUE(result.ok) << ErrorText(result.reason).toStdString();
     EXPECT_EQ(Contents(folder.Path("target")), newer);
     EXPECT_EQ(Permissions(folder.Bytes("target")), 0600U);  // less open than before, never more
 }
 
 TEST(WriteWholeFile, AWriteOfNothingIsAFailureAndNoEndlessLoop) {
-    class : public FileSteps {
+    class : public FileOperations {
         qint64 Write(int, const char*, qint64) override { return 0; }
     } steps;
     const Folder folder;
-    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("target"), newer, steps).reason),
+    EXPECT_EQ(ErrorText(WriteWholeFile(folder.Path("target"), newer, steps).reason),
               QStringLiteral("Input/output error (while writing)"));
     EXPECT_TRUE(folder.Names().isEmpty());
     EXPECT_TRUE(WriteWholeFile(folder.Path("target"), {}, steps).ok);  // an empty file is one
@@ -267,7 +270,7 @@ TEST(WriteWholeFile, RefusesWhatIsNoFileToReplace) {
         {folder.Path(QByteArray(300, 'x')), "File name too long"},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(ToldReason(WriteWholeFile(row.path, newer).reason).toStdString(), row.reason);
+        EXPECT_EQ(ErrorText(WriteWholeFile(row.path, newer).reason).toStdString(), row.reason);
     }
     EXPECT_EQ(folder.Names().join(u' '), QStringLiteral("file folder pipe"));
     EXPECT_TRUE(WriteWholeFile(folder.Path(QByteArray(255, 'x')), newer).ok);  // the longest name
@@ -281,10 +284,10 @@ TEST(WriteWholeFile, RefusesWhatIsWriteProtected) {
                               ::seteuid(anybody) == 0));
     WriteFile(folder.Path("file"), older);
     ::chmod(folder.Bytes("file").constData(), 0400);
-    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("file"), newer).reason),
+    EXPECT_EQ(ErrorText(WriteWholeFile(folder.Path("file"), newer).reason),
               QStringLiteral("Permission denied"));
     ::chmod(folder.Bytes(".").constData(), 0500);
-    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("new"), newer).reason),
+    EXPECT_EQ(ErrorText(WriteWholeFile(folder.Path("new"), newer).reason),
               QStringLiteral("Permission denied (while creating a temporary file)"));
     ::chmod(folder.Bytes(".").constData(), 0700);
     EXPECT_EQ(Contents(folder.Path("file")), older);
@@ -327,7 +330,7 @@ TEST(Strays, ThatCannotBeRemovedDoNotEndSaving) {
 }
 
 // What others do between two steps.
-class DisturbedSteps : public FileSteps {
+class DisturbedSteps : public FileOperations {
   public:
     explicit DisturbedSteps(const Folder& folder) : folder_(folder) {}
     enum { BeforeLock, BeforeRename, Replace } moment = BeforeLock;
@@ -336,10 +339,10 @@ class DisturbedSteps : public FileSteps {
         if (moment == BeforeLock && ++locks == 1) {
             RemoveStrays(folder_.Bytes("."));
         }
-        return FileSteps::Lock(file);
+        return FileOperations::Lock(file);
     }
     int Close(int file) override {
-        const int result = FileSteps::Close(file);
+        const int result = FileOperations::Close(file);
         if (moment == BeforeRename) {
             RemoveStrays(folder_.Bytes("."));
         } else if (moment == Replace) {
@@ -363,7 +366,7 @@ TEST(WriteWholeFile, IsNotDisturbedByOthersThatRemoveStrays) {
     EXPECT_TRUE(WriteWholeFile(folder.Path("target"), newer, steps).ok);
     EXPECT_EQ(Contents(folder.Path("target")), newer);
     steps.moment = DisturbedSteps::Replace;
-    EXPECT_EQ(ToldReason(WriteWholeFile(folder.Path("target"), older, steps).reason),
+    EXPECT_EQ(ErrorText(WriteWholeFile(folder.Path("target"), older, steps).reason),
               QStringLiteral("No such file or directory (while renaming)"));
     EXPECT_EQ(Contents(folder.Path("target")), newer);
 }

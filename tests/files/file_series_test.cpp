@@ -27,14 +27,14 @@ struct Log {
     int count = 0;
 };
 
-class LoggingSteps : public FileSteps {
+class LoggingSteps : public FileOperations {
   public:
     explicit LoggingSteps(Log& log) : log_(log) {}
     int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return Does(u'r') ? FileSteps::Rename(name, newName) : -1;
+        return Does(u'r') ? FileOperations::Rename(name, newName) : -1;
     }
     int SyncFolder(const QByteArray& folder) override {
-        return Does(QChar::fromLatin1(folder.back())) ? FileSteps::SyncFolder(folder) : -1;
+        return Does(QChar::fromLatin1(folder.back())) ? FileOperations::SyncFolder(folder) : -1;
     }
 
   private:
@@ -80,7 +80,7 @@ TEST_F(Series, TellsAtTheEndOfTheFirstFolderWhoseNamesMayNotLast) {
     EXPECT_TRUE(Write("a/0") && Write("a/1") && Write("b/0"));
     const WriteResult end = series_.Finish();
     EXPECT_FALSE(end.ok);
-    EXPECT_EQ(ToldReason(end.reason),
+    EXPECT_EQ(ErrorText(end.reason),
               Path("a") + QStringLiteral(": Input/output error (while syncing the folder)"));
     EXPECT_EQ(Contents(Path("a/1")), "newer");
     EXPECT_TRUE(series_.Finish().ok);  // told once

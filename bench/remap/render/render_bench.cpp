@@ -17,7 +17,8 @@
 namespace varnel {
 namespace {
 
-using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
+                          RenderContext&);
 
 ImageRecord FisheyeRecord(bool moved) {
     ImageRecord record;
@@ -66,12 +67,12 @@ void Draw(benchmark::State& state, Renderer renderer, Projection projection, boo
     (kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap : bitmaps.FullSourceBitmap) =
         Texture(size);
     ThreadRunner runner(workers);
-    RenderDesk desk{bitmaps, [] { return true; }, &runner};
+    RenderContext context{bitmaps, [] { return true; }, &runner};
     SilentProgress silent;
     ImageRecord record = FisheyeRecord(moved);
     for (auto _ : state) {
         record.OutputAOV = record.OutputAOV == 90.0F ? 91.0F : 90.0F;  // new settings each time
-        renderer(projection, record, kind, silent, desk);
+        renderer(projection, record, kind, silent, context);
     }
     state.SetItemsProcessed(state.iterations() * size.width * size.height);
 }
@@ -84,18 +85,18 @@ void Register(const std::string& name, Renderer renderer, Projection projection,
         ->UseRealTime();
 }
 
-using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderDesk&);
+using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderContext&);
 
 void Stretch(benchmark::State& state, Stretcher stretcher, PixelSize size, int workers) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = Texture(size);
     ThreadRunner runner(workers);
-    RenderDesk desk{.bitmaps = bitmaps, .runner = &runner};
+    RenderContext context{.bitmaps = bitmaps, .runner = &runner};
     SilentProgress silent;
     StretchCurve curve{0.4, 0.1};
     for (auto _ : state) {
         curve.strength = -curve.strength;  // new settings each time, widened and narrowed
-        stretcher(curve, SizeKind::Large, silent, desk);
+        stretcher(curve, SizeKind::Large, silent, context);
     }
 }
 

@@ -20,7 +20,8 @@ inline constexpr int blockRows = 16;
 // preview is told of each line before it is drawn and may be read another way from then on: it is
 // drawn at once as far as it goes, and anew from where the choice changes.
 template <class Draw, class Progress>
-void DrawLines(const RenderRun& run, LineRange lines, const Draw& draw, const Progress& progress) {
+void DrawLines(const RenderSession& run, LineRange lines, const Draw& draw,
+               const Progress& progress) {
     if (run.Kind() == SizeKind::Thumbnails) {
         bool drawnNearest = false;
         for (int n = 0; n < lines.Count(); ++n) {

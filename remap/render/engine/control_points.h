@@ -16,7 +16,7 @@
 namespace varnel {
 
 // The nodes of a run of count pixels that starts at the map position (x, y).
-struct NodeLine {
+struct ControlPointLine {
     int x = 0, y = 0;
     int count = 0;
     int step = largestNodeStep;
@@ -31,7 +31,7 @@ inline int NodeStepFor(PixelSize picture) {
 
 // Fills in the nodes; the vectors are reused.
 template <class Nodes>
-void WorkOutNodes(const Nodes& nodes, NodeLine& line) {
+void WorkOutNodes(const Nodes& nodes, ControlPointLine& line) {
     const int segments = (line.count + line.step - 1) / line.step;
     const auto size = static_cast<std::size_t>(segments + 1 + 2 * nodesAround);
     line.u.resize(size);
@@ -48,7 +48,7 @@ void WorkOutNodes(const Nodes& nodes, NodeLine& line) {
 template <PixelMap Map>
 struct ExactLine {
     const Map& map;
-    const NodeLine& line;
+    const ControlPointLine& line;
 
     static RGBQUAD Colour(const void* context, const NodeSpan& span, const SpanImage& image,
                           int n) {

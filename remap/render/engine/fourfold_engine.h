@@ -14,10 +14,10 @@
 namespace varnel {
 
 template <PixelMap Map, class Nodes>
-class QuarterEngine : public RowDrawing {
+class FourfoldEngine : public RowRenderer {
   public:
-    QuarterEngine(const RenderSurface& surface, const Map& map, const Nodes& nodes,
-                  const CentreAndExtents& centre)
+    FourfoldEngine(const RenderSurface& surface, const Map& map, const Nodes& nodes,
+                   const CentreAndExtents& centre)
         : surface_(surface),
           map_(map),
           nodes_(nodes),
@@ -32,7 +32,7 @@ class QuarterEngine : public RowDrawing {
     // Columns x to x + count - 1 and their mirror images, all rows.
     void Draw(int x, int count) const {
         DrawBlocks(surface_, rows_, blockRows, [&](int from, int to) {
-            NodeLine line = LineOf(x, count);
+            ControlPointLine line = LineOf(x, count);
             for (int y = from; y <= to; ++y) {
                 line.y = -y;
                 DrawLine(line, {0, target_.height});
@@ -41,7 +41,7 @@ class QuarterEngine : public RowDrawing {
     }
     // One row, all columns. Nodes lie where the batches of columns have them, too.
     void DrawRow(std::int32_t row) override {
-        NodeLine line = LineOf(columns_.first, columns_.Count());
+        ControlPointLine line = LineOf(columns_.first, columns_.Count());
         line.y = -std::abs(row - centre_.cy);
         DrawLine(line, {row, row + 1});
     }
@@ -56,15 +56,15 @@ class QuarterEngine : public RowDrawing {
         return WorthARun({-centre.left, 0}, {-shown.last, -shown.first}, width);
     }
 
-    NodeLine LineOf(int x, int count) const {
-        NodeLine line;
+    ControlPointLine LineOf(int x, int count) const {
+        ControlPointLine line;
         line.x = x;
         line.count = count;
         line.step = NodeStepFor(surface_.Size());
         return line;
     }
     // As far as its mirror images are among the rows.
-    void DrawLine(NodeLine& line, RowRange rows) const {
+    void DrawLine(ControlPointLine& line, RowRange rows) const {
         WorkOutNodes(nodes_, line);
         std::array<SpanImage, 4> images;
         std::size_t count = 0;
@@ -106,7 +106,7 @@ class QuarterEngine : public RowDrawing {
 
 // The whole picture.
 template <class Engine, class Progress>
-void DrawQuarters(const RenderRun& run, const Engine& engine, const Progress& progress) {
+void DrawQuarters(const RenderSession& run, const Engine& engine, const Progress& progress) {
     DrawLines(
         run, engine.Columns(), [&](int x, int count) { engine.Draw(x, count); }, progress);
 }

@@ -80,7 +80,7 @@ void RotatedEngine::FillTheRest() const {
 
 void RotatedEngine::Draw(int x, int count) const {
     DrawBlocks(surface_, {rows_.First(), rows_.Last()}, blockRows, [&](int from, int to) {
-        NodeLine line = LineOf(x, count);
+        ControlPointLine line = LineOf(x, count);
         std::vector<std::uint8_t> spare;
         for (line.y = from; line.y <= to; ++line.y) {
             if (rows_.Stays(line.y)) {
@@ -96,22 +96,22 @@ void RotatedEngine::DrawRow(std::int32_t row) {
         surface_.CopySourceRow(row);
     }
     if (const std::optional<int> y = rows_.OwnerOf(row)) {
-        NodeLine line = LineOf(columns_.First(), columns_.Last() - columns_.First() + 1);
+        ControlPointLine line = LineOf(columns_.First(), columns_.Last() - columns_.First() + 1);
         std::vector<std::uint8_t> spare;
         line.y = *y;
         DrawLine(line, spare);
     }
 }
 
-NodeLine RotatedEngine::LineOf(int x, int count) const {
-    NodeLine line;
+ControlPointLine RotatedEngine::LineOf(int x, int count) const {
+    ControlPointLine line;
     line.x = x;
     line.count = count;
     line.step = NodeStepFor(surface_.Size());
     return line;
 }
 
-void RotatedEngine::DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const {
+void RotatedEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const {
     WorkOutNodes(nodes_, line);
     const ExactLine<RotatedRectilinearMap> exact{map_, line};
     std::uint8_t* const row = target_.At(0, rows_.Place(line.y));
@@ -141,8 +141,8 @@ void RotatedEngine::DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) c
 }
 
 // Each pixel to its place, but for those that a later one replaces.
-void RotatedEngine::ScatterLine(const NodeLine& line, const std::vector<std::uint8_t>& pixels,
-                                std::uint8_t* row) const {
+void RotatedEngine::ScatterLine(const ControlPointLine& line,
+                                const std::vector<std::uint8_t>& pixels, std::uint8_t* row) const {
     for (std::ptrdiff_t n = 0; n < line.count; ++n) {
         const int x = line.x + static_cast<int>(n);
         if (columns_.Stays(x)) {

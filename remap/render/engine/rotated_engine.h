@@ -58,7 +58,7 @@ class AxisOwners {
     bool contiguous_ = true;
 };
 
-class RotatedEngine : public RowDrawing {
+class RotatedEngine : public RowRenderer {
   public:
     RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
                   const CentreAndExtents& centre);
@@ -73,9 +73,9 @@ class RotatedEngine : public RowDrawing {
     void DrawRow(std::int32_t row) override;
 
   private:
-    NodeLine LineOf(int x, int count) const;
-    void DrawLine(NodeLine& line, std::vector<std::uint8_t>& spare) const;
-    void ScatterLine(const NodeLine& line, const std::vector<std::uint8_t>& pixels,
+    ControlPointLine LineOf(int x, int count) const;
+    void DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const;
+    void ScatterLine(const ControlPointLine& line, const std::vector<std::uint8_t>& pixels,
                      std::uint8_t* row) const;
 
     const RenderSurface& surface_;

@@ -9,8 +9,8 @@
 namespace varnel {
 
 // Black at the four mirror images of a position, column and row counted from the circle centre.
-inline void WriteBlackQuarters(const RenderRun& run, const CircleRows& rows, std::int32_t column,
-                               std::int32_t row) {
+inline void WriteBlackQuarters(const RenderSession& run, const ImageCircleGeometry& rows,
+                               std::int32_t column, std::int32_t row) {
     run.Write(rows.centreX + column, rows.centreY + row, black);
     run.Write(rows.centreX - column, rows.centreY + row, black);
     run.Write(rows.centreX + column, rows.centreY - row, black);

@@ -16,14 +16,15 @@ namespace varnel {
 
 // The reading of the Rectilinear and Equidistance projections. Without interpolation the horizontal
 // offset is rounded by itself before the sum is.
-inline RGBQUAD ReadAt(const RenderRun& run, std::int32_t cx, std::int32_t cy, SourceOffset offset) {
+inline RGBQUAD ReadAt(const RenderSession& run, std::int32_t cx, std::int32_t cy,
+                      SourceOffset offset) {
     return run.Nearest() ? SampleNearest(run.Source(), cx + Round(offset.u), cy + offset.v)
                          : SampleBilinear(run.Source(), cx + offset.u, cy + offset.v);
 }
 
 // Column x (<= 0) of the lower left quarter and its three mirror images, rows -centre.bottom to 0.
 template <PixelMap Map>
-void RenderQuarterColumn(const RenderRun& run, const Map& map, const CentreAndExtents& centre,
+void RenderQuarterColumn(const RenderSession& run, const Map& map, const CentreAndExtents& centre,
                          std::int32_t x) {
     const auto [cx, cy] = std::pair(centre.cx, centre.cy);
     for (std::int32_t y = -centre.bottom; y <= 0; ++y) {

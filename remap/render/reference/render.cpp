@@ -6,16 +6,16 @@
 namespace varnel::reference {
 
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
-            RenderProgress& progress, RenderDesk& desk) {
+            RenderProgress& progress, RenderContext& context) {
     switch (projection) {
         case Projection::Varnel:
-            return reference::RenderVarnel(image, kind, progress, desk);
+            return reference::RenderVarnel(image, kind, progress, context);
         case Projection::Rectilinear:
-            return reference::RenderRectilinear(image, kind, progress, desk);
+            return reference::RenderRectilinear(image, kind, progress, context);
         case Projection::Equidistance:
-            return reference::RenderEquidistance(image, kind, progress, desk);
+            return reference::RenderEquidistance(image, kind, progress, context);
         case Projection::Horizon:
-            return reference::RenderHorizon(image, kind, progress, desk);
+            return reference::RenderHorizon(image, kind, progress, context);
     }
 }
 

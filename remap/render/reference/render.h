@@ -11,17 +11,17 @@ namespace varnel::reference {
 
 // As the functions of the same names in remap/render.h.
 void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderDesk& desk);
+                  RenderContext& context);
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderDesk& desk);
+                       RenderContext& context);
 void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderDesk& desk);
+                              RenderContext& context);
 void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderDesk& desk);
+                        RenderContext& context);
 void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk);
+                   RenderContext& context);
 
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
-            RenderProgress& progress, RenderDesk& desk);
+            RenderProgress& progress, RenderContext& context);
 
 }  // namespace varnel::reference

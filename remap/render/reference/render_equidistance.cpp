@@ -11,8 +11,8 @@
 namespace varnel::reference {
 
 void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+                        RenderContext& context) {
+    RenderSession run(kind, progress, context);
     const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);
     run.Begin(static_cast<float>(centre.left + 1));
     const EquidistanceMap map(EquidistanceViewOf(image, run.Size()));

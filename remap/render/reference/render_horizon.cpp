@@ -17,14 +17,14 @@ namespace varnel::reference {
 
 namespace {
 
-RGBQUAD Read(const RenderRun& run, const CircleRows& rows, SourceOffset offset) {
+RGBQUAD Read(const RenderSession& run, const ImageCircleGeometry& rows, SourceOffset offset) {
     const double y = rows.centreY + offset.v;
     return run.Nearest() ? SampleNearest(run.Source(), rows.centreX + Round(offset.u), y)
                          : SampleLinearX(run.Source(), rows.centreX + offset.u, y);
 }
 
 // The centre row is left out; the remap writes it.
-void BlankRows(const RenderRun& run, const CircleRows& rows) {
+void BlankRows(const RenderSession& run, const ImageCircleGeometry& rows) {
     for (std::int32_t r = 1; r <= rows.lastRow; ++r) {
         for (std::int32_t i = 0; i <= rows.lastColumn; ++i) {
             WriteBlackQuarters(run, rows, i, r);
@@ -32,8 +32,8 @@ void BlankRows(const RenderRun& run, const CircleRows& rows) {
     }
 }
 
-void RenderRadius(const RenderRun& run, const HorizonMap& map, std::int32_t r) {
-    const CircleRows& rows = map.Rows();
+void RenderRadius(const RenderSession& run, const HorizonMap& map, std::int32_t r) {
+    const ImageCircleGeometry& rows = map.Rows();
     for (std::int32_t i = 0; i <= rows.lastColumn; ++i) {
         // Black goes to both sides of the centre row and so over what the negative radii, which
         // come first, wrote there.
@@ -51,10 +51,10 @@ void RenderRadius(const RenderRun& run, const HorizonMap& map, std::int32_t r) {
 }  // namespace
 
 void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+                   RenderContext& context) {
+    RenderSession run(kind, progress, context);
     const HorizonMap map(CircleViewOf(image, run.Size()));
-    const CircleRows& rows = map.Rows();
+    const ImageCircleGeometry& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + 2.0 * rows.upperHalf));
     BlankRows(run, rows);
     for (std::int32_t r = map.FirstRadius(); r <= rows.lastRow; ++r) {

@@ -9,11 +9,11 @@
 namespace varnel::reference {
 
 void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderDesk& desk) {
+                       RenderContext& context) {
     if (CameraMoveOf(image).Moves()) {
-        return reference::RenderRectilinearRotated(image, kind, progress, desk);
+        return reference::RenderRectilinearRotated(image, kind, progress, context);
     }
-    RenderRun run(kind, progress, desk);
+    RenderSession run(kind, progress, context);
     const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);
     run.Begin(static_cast<float>(centre.left + 1));
     const RectilinearMap map(RectilinearViewOf(image, run.Size()));
@@ -24,8 +24,8 @@ void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& 
 }
 
 void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+                              RenderContext& context) {
+    RenderSession run(kind, progress, context);
     const CentreAndExtents centre = ImageCentre(run.Size(), image.OfsetX, image.OfsetY);
     run.Begin(static_cast<float>(centre.left + centre.right + 1));
     const RotatedRectilinearMap map(RectilinearViewOf(image, run.Size()), CameraMoveOf(image));

@@ -10,8 +10,8 @@
 namespace varnel::reference {
 
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+                   RenderContext& context) {
+    RenderSession run(kind, progress, context);
     const PixelSize size = run.Size();
     const double centre = MiddleOf(size.width);
     // Rounded, because a hair below a whole column the right neighbour of the blend would be one

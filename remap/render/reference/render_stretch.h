@@ -10,6 +10,6 @@ namespace varnel::reference {
 
 // As the function of the same name in remap/stretch.h.
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
-                   RenderDesk& desk);
+                   RenderContext& context);
 
 }  // namespace varnel::reference

@@ -16,12 +16,12 @@ namespace varnel::reference {
 
 namespace {
 
-RGBQUAD Read(const RenderRun& run, std::int32_t centreX, double u, std::int32_t row) {
+RGBQUAD Read(const RenderSession& run, std::int32_t centreX, double u, std::int32_t row) {
     return run.Nearest() ? SampleNearest(run.Source(), centreX + Round(u), row)
                          : SampleLinearX(run.Source(), centreX + u, row);
 }
 
-void RenderColumn(const RenderRun& run, const VarnelMap& map, std::int32_t j, std::int32_t r) {
+void RenderColumn(const RenderSession& run, const VarnelMap& map, std::int32_t j, std::int32_t r) {
     const std::int32_t cx = map.Rows().centreX;
     const std::int32_t cy = map.Rows().centreY;
     const double u = map.At(j, r).u;
@@ -34,10 +34,10 @@ void RenderColumn(const RenderRun& run, const VarnelMap& map, std::int32_t j, st
 }  // namespace
 
 void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderDesk& desk) {
-    RenderRun run(kind, progress, desk);
+                  RenderContext& context) {
+    RenderSession run(kind, progress, context);
     const VarnelMap map(CircleViewOf(image, run.Size()));
-    const CircleRows& rows = map.Rows();
+    const ImageCircleGeometry& rows = map.Rows();
     run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
     for (std::int32_t r = 0; r <= rows.lastRow; ++r) {
         run.Advance(static_cast<float>(r));

@@ -8,12 +8,12 @@
 #include "app/start/focus_style.h"
 #include "tests/app/access/every_form.h"
 #include "tests/app/access/form_walk.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
 
-using testing::WindowDesk;
+using testing::TestWindow;
 
 QString Q(const char* text) {
     return QString::fromUtf8(text);
@@ -29,51 +29,51 @@ TEST(Access, EveryFormTellsNamesLabelsOrderAndFocus) {
 
 // The photo of 300 x 200 pixels is shown a pixel to a point.
 TEST(Access, TheToolsOverThePhoto) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {300, 200});
-    desk.Click("OptionRemap_1");
-    desk.window.activateWindow();
-    QWidget* const photo = desk.Find("PicSmallFrom");
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")}, {300, 200});
+    workspace.Click("OptionRemap_1");
+    workspace.window.activateWindow();
+    QWidget* const photo = workspace.Find("PicSmallFrom");
     const auto press = [photo](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         EXPECT_TRUE(photo->hasFocus());
         QTest::keyClick(photo, key, modifiers);
     };
-    desk.Entry("CmdViewCircle")->trigger();
-    const QString before = desk.Label("LabelCircle");
+    workspace.Entry("CmdViewCircle")->trigger();
+    const QString before = workspace.Label("LabelCircle");
     press(Qt::Key_Right, Qt::ControlModifier);
     press(Qt::Key_Up);
     press(Qt::Key_Up);
     // 10 of 300 and 2 of 200 pixels, in thousandths
-    EXPECT_TRUE(desk.Label("LabelCircle").startsWith(Q("Centre 33.3 ‰ right, 10.0 ‰ up, ")))
-        << desk.Label("LabelCircle").toStdString();
+    EXPECT_TRUE(workspace.Label("LabelCircle").startsWith(Q("Centre 33.3 ‰ right, 10.0 ‰ up, ")))
+        << workspace.Label("LabelCircle").toStdString();
     press(Qt::Key_Down, Qt::ShiftModifier);
     press(Qt::Key_Plus);
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Left, Qt::ControlModifier);
-    EXPECT_EQ(desk.Label("LabelCircle"), before);
+    EXPECT_EQ(workspace.Label("LabelCircle"), before);
     press(Qt::Key_Escape);
-    EXPECT_FALSE(desk.Entry("CmdViewCircle")->isChecked());
+    EXPECT_FALSE(workspace.Entry("CmdViewCircle")->isChecked());
 
-    desk.Entry("CmdViewFrame")->trigger();
+    workspace.Entry("CmdViewFrame")->trigger();
     press(Qt::Key_Left);
     press(Qt::Key_Down, Qt::ControlModifier);
     press(Qt::Key_Minus);
-    EXPECT_EQ(desk.Record(1).RotateY, -1.0F);
-    EXPECT_EQ(desk.Record(1).RotateX, 10.0F);
-    EXPECT_EQ(desk.Record(1).OutputAOV, 129.0F);
+    EXPECT_EQ(workspace.Record(1).RotateY, -1.0F);
+    EXPECT_EQ(workspace.Record(1).RotateX, 10.0F);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 129.0F);
     press(Qt::Key_Escape);
-    EXPECT_FALSE(desk.Entry("CmdViewFrame")->isChecked());
+    EXPECT_FALSE(workspace.Entry("CmdViewFrame")->isChecked());
 
     for (int n = 0; n < 4; ++n) {
         press(Qt::Key_Plus);
     }
-    EXPECT_EQ(desk.Label("ZoomText"), Q("400 %"));
-    const QImage shown = desk.Shown("PicSmallFrom");
+    EXPECT_EQ(workspace.Label("ZoomText"), Q("400 %"));
+    const QImage shown = workspace.Shown("PicSmallFrom");
     press(Qt::Key_Right);
-    EXPECT_NE(desk.Shown("PicSmallFrom"), shown);
+    EXPECT_NE(workspace.Shown("PicSmallFrom"), shown);
     press(Qt::Key_Return);
-    EXPECT_FALSE(desk.Find("ZoomText")->isVisible());
+    EXPECT_FALSE(workspace.Find("ZoomText")->isVisible());
 }
 
 TEST(FocusStyle, HintsAndLinksAreReadOnADarkDesktop) {

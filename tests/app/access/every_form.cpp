@@ -14,7 +14,7 @@
 #include "pipeline/dialogs/form_stretch.h"
 #include "state/dialogs/form_setup.h"
 #include "tests/support/settled.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel::testing {
 
@@ -34,66 +34,66 @@ void Show(QWidget& form, const Look& look) {
     look(form);
 }
 
-void ShowMainWindow(WindowDesk& desk, const Look& look, PixelSize photo) {
-    Show(desk.window, look);
-    desk.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, photo);
-    desk.Click("CommandAddToBatchQue");
+void ShowMainWindow(TestWindow& workspace, const Look& look, PixelSize photo) {
+    Show(workspace.window, look);
+    workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, photo);
+    workspace.Click("CommandAddToBatchQue");
     for (const char* const projection : {"OptionRemap_0", "OptionRemap_1", "OptionRemap_2"}) {
-        desk.Click(projection);
-        look(desk.window);
+        workspace.Click(projection);
+        look(workspace.window);
     }
-    desk.Slider("SliderAOVoutput")->setValue(90);
+    workspace.Slider("SliderAOVoutput")->setValue(90);
     for (const char* const entry :
          {"CmdViewMagnification", "CmdViewCircle", "CmdToolsLevel", "CmdEditUndo"}) {
-        desk.Entry(entry)->trigger();
+        workspace.Entry(entry)->trigger();
         EXPECT_TRUE(Settle());
-        look(desk.window);
+        look(workspace.window);
     }
-    QTest::keyClick(desk.Find("PicSmallFrom"), Qt::Key_Right, Qt::ControlModifier);
-    desk.Click("CmdCircleTake");
+    QTest::keyClick(workspace.Find("PicSmallFrom"), Qt::Key_Right, Qt::ControlModifier);
+    workspace.Click("CmdCircleTake");
     GearOffer offer;
     offer.define = true;
-    desk.window.findChild<GearOfferRow*>()->Show(offer, desk.state.Gear);
+    workspace.window.findChild<GearOfferRow*>()->Show(offer, workspace.state.Gear);
     EXPECT_TRUE(Settle());
-    look(desk.window);
+    look(workspace.window);
 }
 
-void ShowGearForms(WindowDesk& desk, const Look& look) {
-    desk.state.Gear(0) = desk.state.Gear(1);
-    AddEditedGear(desk.state.Gear);
-    FormGearList list(desk.state.Gear, desk.store, [](GearTable&) {});
+void ShowGearForms(TestWindow& workspace, const Look& look) {
+    workspace.state.Gear(0) = workspace.state.Gear(1);
+    AddEditedGear(workspace.state.Gear);
+    FormGearList list(workspace.state.Gear, workspace.store, [](GearTable&) {});
     Show(list, look);
-    desk.state.Gear(0) = GearRecord();
-    FormGearEdit empty(desk.state.Gear);
+    workspace.state.Gear(0) = GearRecord();
+    FormGearEdit empty(workspace.state.Gear);
     Show(empty, look);
-    desk.state.Gear(0) = desk.state.Gear(1);
-    FormGearEdit gear(desk.state.Gear);
+    workspace.state.Gear(0) = workspace.state.Gear(1);
+    FormGearEdit gear(workspace.state.Gear);
     Show(gear, look);
 }
 
-void ShowBatch(WindowDesk& desk, const Look& look) {
+void ShowBatch(TestWindow& workspace, const Look& look) {
     BatchChoices choices;
     FormBatch batch(
-        desk.state.BatchQueue, choices, desk.state.settings, Reader(), desk.notices, [](int) {},
-        nullptr, &OneVolume);
+        workspace.state.BatchQueue, choices, workspace.state.settings, Reader(), workspace.notices,
+        [](int) {}, nullptr, &OneVolume);
     Show(batch, look);
     batch.findChild<QAbstractButton*>(QStringLiteral("CmdBatchProcess"))->click();
     EXPECT_TRUE(Settle());
     look(batch);
 }
 
-void ShowToolForms(WindowDesk& desk, const Look& look) {
-    FormMorph morph(desk.state.Images(1), desk.state.bitmaps.PreviewSourceBitmap.get(),
-                    desk.state.BatchQueue, desk.notices, [](int) {});
+void ShowToolForms(TestWindow& workspace, const Look& look) {
+    FormMorph morph(workspace.state.Images(1), workspace.state.bitmaps.PreviewSourceBitmap.get(),
+                    workspace.state.BatchQueue, workspace.notices, [](int) {});
     Show(morph, look);
     morph.findChild<QAbstractButton*>(QStringLiteral("CmdAddMorphToBatch"))->click();
     EXPECT_TRUE(Settle());
     look(morph);
     FormStretch stretch(
-        desk.state.settings, desk.photos, [](const QString&) { return QString(); }, desk.chooser,
-        desk.notices);
+        workspace.state.settings, workspace.photos, [](const QString&) { return QString(); },
+        workspace.chooser, workspace.notices);
     Show(stretch, look);
-    stretch.Open(desk.files.Path(QStringLiteral("a.bmp")));
+    stretch.Open(workspace.files.Path(QStringLiteral("a.bmp")));
     EXPECT_TRUE(Settle());
     look(stretch);
 }
@@ -101,29 +101,29 @@ void ShowToolForms(WindowDesk& desk, const Look& look) {
 }  // namespace
 
 void ShowEveryForm(const Look& look, PixelSize photo) {
-    WindowDesk desk;
-    ShowMainWindow(desk, look, photo);
+    TestWindow workspace;
+    ShowMainWindow(workspace, look, photo);
     FormAbout about;
     Show(about, look);
     // A page without links, which Tab would visit.
-    WriteFile(desk.files.Path(QStringLiteral("page.md")), "# 1");
-    FormGuide guide(desk.files.Path(QStringLiteral("page.md")));
+    WriteFile(workspace.files.Path(QStringLiteral("page.md")), "# 1");
+    FormGuide guide(workspace.files.Path(QStringLiteral("page.md")));
     Show(guide, look);
-    FormSetup setup(desk.state.Gear, desk.state.settings, desk.store);
+    FormSetup setup(workspace.state.Gear, workspace.state.settings, workspace.store);
     Show(setup, look);
     setup.findChild<QAbstractButton*>(QStringLiteral("CommandSaveDefault"))->click();
     EXPECT_TRUE(Settle());
     look(setup);
-    ShowGearForms(desk, look);
-    const QString folder = desk.files.Path({});
+    ShowGearForms(workspace, look);
+    const QString folder = workspace.files.Path({});
     {
         // Gone before the reader is used by others.
-        FormAddImages add(desk.state.Images, desk.store, desk.notices, {folder, folder, &OneVolume},
-                          {Reader(), true});
+        FormAddImages add(workspace.state.Images, workspace.store, workspace.notices,
+                          {folder, folder, &OneVolume}, {Reader(), true});
         Show(add, look);
     }
-    ShowBatch(desk, look);
-    ShowToolForms(desk, look);
+    ShowBatch(workspace, look);
+    ShowToolForms(workspace, look);
 }
 
 }  // namespace varnel::testing

@@ -152,10 +152,10 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
     MemoryStore store;
     const auto reader = NewPictureReader();
     ReadingWait wait;
-    PhotoFeed feed(*reader, 0, wait, true);
+    PrefetchingReader feed(*reader, 0, wait, true);
     BatchSummary summary;
     summary.queued = 3;
-    summary.failures = {{Q("/a/b.bmp"), ToldReason(ReasonCode::FileEmpty)}};
+    summary.failures = {{Q("/a/b.bmp"), ErrorText(ReasonCode::FileEmpty)}};
     summary.notes = {
         {Q("/a/c.bmp"), Joined({ReasonCode::XmpTooLong, ReasonCode::BmpHoldsNoSettings})}};
     const QString texts[] = {
@@ -166,13 +166,13 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
         SummaryText(summary),
         TimeLeftText(100.0, 0.5),
         std::get<QString>(FrameCountFromText(Q("1.5"))),
-        OpenProject(Q(VARNEL_SOURCES "/README.md")).trouble,
+        OpenProject(Q(VARNEL_SOURCES "/README.md")).error,
         StepName(SliderId::Z),
-        ToldReason(ReasonFor(OverflowError(ReasonCode::OverflowOf32Bits, "TranslateX"))),
-        ToldReason(ReasonCode::Cancelled),
-        ToldReason(BatchPortsFor(feed).load(Q("/no/such.jpg")).reason),
-        ToldReason({ReasonCode::SettingsUnreadable, Q("/x/y"), ReasonCode::NotRegular,
-                    ReasonCode::SettingsBeginAfresh}),
+        ErrorText(ReasonFor(OverflowError(ReasonCode::OverflowOf32Bits, "TranslateX"))),
+        ErrorText(ReasonCode::Cancelled),
+        ErrorText(BatchPortsFor(feed).load(Q("/no/such.jpg")).reason),
+        ErrorText({ReasonCode::SettingsUnreadable, Q("/x/y"), ReasonCode::NotRegular,
+                   ReasonCode::SettingsBeginAfresh}),
     };
     for (const QString& text : texts) {
         EXPECT_TRUE(text.contains(u'[')) << text.toStdString();
@@ -186,7 +186,7 @@ QStringList EveryReason() {
          ++n) {
         const auto code = static_cast<ReasonCode>(n);
         const auto places = static_cast<std::size_t>(PlacesIn(code));
-        told.append(ToldReason({code, std::vector<Reason::Argument>(places, Q("x"))}));
+        told.append(ErrorText({code, std::vector<Reason::Argument>(places, Q("x"))}));
     }
     return told;
 }

@@ -15,7 +15,7 @@
 #include <QTextBlock>
 
 #include "app/dialogs/form_guide.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
@@ -53,14 +53,14 @@ QString Plain(QString text) {
 }
 
 // Menu entries as "File, Exit", and the texts of all controls, those of the dialogs included.
-QStringList ShownTexts(testing::WindowDesk& desk) {
+QStringList ShownTexts(testing::TestWindow& workspace) {
     QStringList texts;
-    for (const QMenu* const menu : desk.window.findChildren<QMenu*>()) {
+    for (const QMenu* const menu : workspace.window.findChildren<QMenu*>()) {
         for (const QAction* const entry : menu->actions()) {
             texts.append(Plain(menu->title()) + Q(", ") + Plain(entry->text()));
         }
     }
-    for (const QWidget* const widget : desk.window.findChildren<QWidget*>()) {
+    for (const QWidget* const widget : workspace.window.findChildren<QWidget*>()) {
         for (const char* const property : {"text", "title"}) {
             texts.append(Plain(widget->property(property).toString()));
         }
@@ -76,8 +76,8 @@ QStringList ShownTexts(testing::WindowDesk& desk) {
 }
 
 TEST(Guide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
-    testing::WindowDesk desk;
-    const QStringList shown = ShownTexts(desk);
+    testing::TestWindow workspace;
+    const QStringList shown = ShownTexts(workspace);
     for (const QString& page : Pages()) {
         for (const QString& name : Matches(PageText(page), R"(\*\*([^*]+)\*\*)")) {
             EXPECT_TRUE(shown.contains(QString(name).replace(u'\n', u' ')))
@@ -123,8 +123,8 @@ QStringList ToldKeys(const QStringList& cells) {
 }
 
 TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
-    testing::WindowDesk desk;
-    const QStringList real = RealKeys(desk.window);
+    testing::TestWindow workspace;
+    const QStringList real = RealKeys(workspace.window);
     const QString table = PageText(Q("steering.md")).section(Q("## Keys"), 1);
     EXPECT_EQ(ToldKeys(Matches(table, R"((?m)^\| ([^|]+) \|)")), real);
     QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
@@ -133,19 +133,19 @@ TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
 }
 
 TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {
-    testing::WindowDesk desk;
+    testing::TestWindow workspace;
     for (int times = 0; times < 2; ++times) {
-        desk.Entry("CmdGuide")->trigger();
+        workspace.Entry("CmdGuide")->trigger();
     }
-    const auto forms = desk.window.findChildren<FormGuide*>();
+    const auto forms = workspace.window.findChildren<FormGuide*>();
     ASSERT_EQ(forms.size(), 1);
     EXPECT_TRUE(forms.front()->isVisible());
-    EXPECT_TRUE(desk.notices.texts.isEmpty());
-    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))), QString());
-    QDir(desk.files.Path({})).mkpath(Q("share/varnel/guide"));
-    testing::WriteFile(desk.files.Path(Q("share/varnel/guide/index.md")), "# Here");
-    EXPECT_EQ(GuideStartPage(desk.files.Path(Q("bin"))),
-              QFileInfo(desk.files.Path(Q("share/varnel/guide/index.md"))).absoluteFilePath());
+    EXPECT_TRUE(workspace.notices.texts.isEmpty());
+    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin"))), QString());
+    QDir(workspace.files.Path({})).mkpath(Q("share/varnel/guide"));
+    testing::WriteFile(workspace.files.Path(Q("share/varnel/guide/index.md")), "# Here");
+    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin"))),
+              QFileInfo(workspace.files.Path(Q("share/varnel/guide/index.md"))).absoluteFilePath());
 }
 
 TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {

@@ -4,20 +4,20 @@
 #include <gtest/gtest.h>
 
 #include "app/picture/contact_sheet_box.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
 
 TEST(ContactSheet, OpensWithAKeyAndAdoptsTheTileThatIsClicked) {
-    testing::WindowDesk desk;
-    auto* const sheet = desk.Find<ContactSheetBox>("ContactSheet");
-    desk.Entry("CmdContactSheet")->trigger();
+    testing::TestWindow workspace;
+    auto* const sheet = workspace.Find<ContactSheetBox>("ContactSheet");
+    workspace.Entry("CmdContactSheet")->trigger();
     EXPECT_FALSE(sheet->isVisible());  // no photo, nothing to choose from
-    desk.AddPhotos({QStringLiteral("a"), QStringLiteral("b")}, {300, 200});
-    desk.Record(1).RotateY = 5.0F;
-    desk.Record(1).SettingsApplied = true;
-    desk.Entry("CmdContactSheet")->trigger();
+    workspace.AddPhotos({QStringLiteral("a"), QStringLiteral("b")}, {300, 200});
+    workspace.Record(1).RotateY = 5.0F;
+    workspace.Record(1).SettingsApplied = true;
+    workspace.Entry("CmdContactSheet")->trigger();
     ASSERT_TRUE(sheet->isVisible());
     ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->IsDrawn(); }));
     ASSERT_EQ(sheet->Tiles().size(), 12U);
@@ -28,20 +28,20 @@ TEST(ContactSheet, OpensWithAKeyAndAdoptsTheTileThatIsClicked) {
     constexpr std::size_t rectilinear75 = 4;
     QTest::mouseClick(sheet, Qt::LeftButton, {}, sheet->CellOf(rectilinear75).center());
     EXPECT_FALSE(sheet->isVisible());
-    EXPECT_EQ(desk.Record(1).Projection, 1);
-    EXPECT_EQ(desk.Record(1).EffectRectilinear, 75.0F);
-    EXPECT_EQ(desk.Record(1).RotateY, 5.0F);
-    EXPECT_EQ(desk.Record(2).Projection, 0);
-    EXPECT_EQ(desk.Slider("SliderEffect")->value(), 75);
+    EXPECT_EQ(workspace.Record(1).Projection, 1);
+    EXPECT_EQ(workspace.Record(1).EffectRectilinear, 75.0F);
+    EXPECT_EQ(workspace.Record(1).RotateY, 5.0F);
+    EXPECT_EQ(workspace.Record(2).Projection, 0);
+    EXPECT_EQ(workspace.Slider("SliderEffect")->value(), 75);
 
-    desk.Entry("CmdContactSheet")->trigger();
+    workspace.Entry("CmdContactSheet")->trigger();
     QTest::keyClick(sheet, Qt::Key_Down);
     QTest::keyClick(sheet, Qt::Key_Return);
-    EXPECT_EQ(desk.Record(1).Projection, 2);
-    desk.Entry("CmdContactSheet")->trigger();
+    EXPECT_EQ(workspace.Record(1).Projection, 2);
+    workspace.Entry("CmdContactSheet")->trigger();
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_FALSE(sheet->isVisible());
-    EXPECT_EQ(desk.Record(1).Projection, 2);
+    EXPECT_EQ(workspace.Record(1).Projection, 2);
 }
 
 }  // namespace

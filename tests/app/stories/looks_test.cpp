@@ -11,8 +11,8 @@
 
 #include "tests/support/screenshots.h"
 #include "tests/support/settled.h"
+#include "tests/support/test_window.h"
 #include "tests/support/texts.h"
-#include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
@@ -20,8 +20,8 @@ namespace {
 using testing::KeepPicture;
 using testing::SampleFolder;
 using testing::Settle;
+using testing::TestWindow;
 using testing::Text;
-using testing::WindowDesk;
 
 QString Sample(const char* name) {
     return SampleFolder() + u'/' + Text(name);
@@ -36,38 +36,38 @@ QPalette DarkDesktop() {
 }
 
 // Everything of the side column can be reached: nothing is wider than the column.
-void ExpectNothingCutOff(WindowDesk& desk) {
-    const auto* const scroll = desk.window.findChild<QScrollArea*>();
+void ExpectNothingCutOff(TestWindow& workspace) {
+    const auto* const scroll = workspace.window.findChild<QScrollArea*>();
     EXPECT_LE(scroll->widget()->minimumSizeHint().width(), scroll->viewport()->width());
-    EXPECT_TRUE(desk.window.rect().contains(
-        desk.Find("CommandSaveFreeimage")->mapTo(&desk.window, QPoint(5, 5))));
+    EXPECT_TRUE(workspace.window.rect().contains(
+        workspace.Find("CommandSaveFreeimage")->mapTo(&workspace.window, QPoint(5, 5))));
 }
 
-void Show(WindowDesk& desk, QSize size, const QStringList& files) {
-    desk.window.resize(size);
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&desk.window));
-    desk.window.AddFiles(files);
+void Show(TestWindow& workspace, QSize size, const QStringList& files) {
+    workspace.window.resize(size);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&workspace.window));
+    workspace.window.AddFiles(files);
     if (!files.isEmpty()) {
-        desk.Click("OptionRemap_1");
+        workspace.Click("OptionRemap_1");
     }
     EXPECT_TRUE(Settle());  // the pictures follow the room
-    ExpectNothingCutOff(desk);
+    ExpectNothingCutOff(workspace);
 }
 
 TEST(Looks, SmallAndHugeWindows) {
     for (const auto& [size, name] : {std::pair{QSize(1024, 700), "window-1024x700.png"},
                                      {QSize(3840, 2160), "window-3840x2160.png"},
                                      {QSize(1280, 900), "window.png"}}) {
-        WindowDesk desk;
+        TestWindow workspace;
         if (size.width() > 3000) {
-            desk.state.settings.PreviewWidth = desk.state.settings.PreviewHeight = 1000;
-            desk.window.findChild<QAction*>(Text("CmdSetupSetup"))->trigger();
+            workspace.state.settings.PreviewWidth = workspace.state.settings.PreviewHeight = 1000;
+            workspace.window.findChild<QAction*>(Text("CmdSetupSetup"))->trigger();
         }
-        Show(desk, size, {Sample("sample-circular.jpg"), Sample("sample-fullframe.jpg")});
-        KeepPicture(&desk.window, name);
-        const QRect area = desk.Find("PicSmallFrom")->parentWidget()->rect();
-        EXPECT_TRUE(area.contains(desk.Find("PicSmallFrom")->geometry()));
-        EXPECT_TRUE(area.contains(desk.Find("PicSmallTo")->geometry()));
+        Show(workspace, size, {Sample("sample-circular.jpg"), Sample("sample-fullframe.jpg")});
+        KeepPicture(&workspace.window, name);
+        const QRect area = workspace.Find("PicSmallFrom")->parentWidget()->rect();
+        EXPECT_TRUE(area.contains(workspace.Find("PicSmallFrom")->geometry()));
+        EXPECT_TRUE(area.contains(workspace.Find("PicSmallTo")->geometry()));
     }
 }
 
@@ -76,59 +76,60 @@ TEST(Looks, DarkDesktop) {
     QApplication::setStyle(QStyleFactory::create(Text("Fusion")));
     QApplication::setPalette(DarkDesktop());
     {
-        WindowDesk desk;
-        Show(desk, {1280, 900}, {Sample("sample-circular.jpg")});
-        KeepPicture(&desk.window, "window-dark.png");
-        const QImage shown = desk.Find("ImageList1")->grab().toImage();
+        TestWindow workspace;
+        Show(workspace, {1280, 900}, {Sample("sample-circular.jpg")});
+        KeepPicture(&workspace.window, "window-dark.png");
+        const QImage shown = workspace.Find("ImageList1")->grab().toImage();
         EXPECT_LT(shown.pixelColor(shown.width() / 2, shown.height() - 5).lightness(), 90);
     }
     QApplication::setPalette(before);
 }
 
 TEST(Looks, EmptyPortraitAndError) {
-    WindowDesk desk;
-    Show(desk, {1280, 900}, {});
-    KeepPicture(&desk.window, "window-empty.png");
-    Show(desk, {1280, 900},
-         {Sample("sample-circular-upright.jpg"), desk.files.Text(Text("torn.jpg"))});
-    KeepPicture(&desk.window, "window-portrait.png");
-    desk.ClickLine(1);
-    KeepPicture(&desk.window, "window-error.png");
-    EXPECT_EQ(desk.notices.texts, QStringList{Text("Could not open image")});
+    TestWindow workspace;
+    Show(workspace, {1280, 900}, {});
+    KeepPicture(&workspace.window, "window-empty.png");
+    Show(workspace, {1280, 900},
+         {Sample("sample-circular-upright.jpg"), workspace.files.Text(Text("torn.jpg"))});
+    KeepPicture(&workspace.window, "window-portrait.png");
+    workspace.ClickLine(1);
+    KeepPicture(&workspace.window, "window-error.png");
+    EXPECT_EQ(workspace.notices.texts, QStringList{Text("Could not open image")});
 }
 
 TEST(Looks, FiftyPhotosTwentySelected) {
-    WindowDesk desk;
+    TestWindow workspace;
     QStringList files;
     for (int n = 0; n < 50; ++n) {
         files.append(Sample(n % 2 == 0 ? "sample-circular.jpg" : "sample-fullframe.jpg"));
     }
-    Show(desk, {1280, 900}, files);
-    auto* const list = desk.Find<QListWidget>("ImageList1");
+    Show(workspace, {1280, 900}, files);
+    auto* const list = workspace.Find<QListWidget>("ImageList1");
     for (int n = 0; n < 19; ++n) {
         QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
     }
     EXPECT_EQ(list->selectedItems().size(), 20);
-    KeepPicture(&desk.window, "window-fifty.png");
+    KeepPicture(&workspace.window, "window-fifty.png");
 }
 
 TEST(Looks, TheToolsOverThePictures) {
-    WindowDesk desk;
-    desk.state.settings.PreviewWidth = 600;
-    desk.state.settings.PreviewHeight = 450;
-    Show(desk, {1500, 900}, {Sample("sample-circular.jpg"), Sample("sample-circular-upright.jpg")});
-    const auto look = [&desk](std::initializer_list<const char*> entries, const char* name) {
+    TestWindow workspace;
+    workspace.state.settings.PreviewWidth = 600;
+    workspace.state.settings.PreviewHeight = 450;
+    Show(workspace, {1500, 900},
+         {Sample("sample-circular.jpg"), Sample("sample-circular-upright.jpg")});
+    const auto look = [&workspace](std::initializer_list<const char*> entries, const char* name) {
         for (const char* const entry : entries) {
-            desk.Entry(entry)->trigger();
+            workspace.Entry(entry)->trigger();
         }
         EXPECT_TRUE(Settle());  // tiles and parts are drawn
-        KeepPicture(&desk.window, name);
+        KeepPicture(&workspace.window, name);
     };
     look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");
-    EXPECT_TRUE(desk.Label("LabelNumbers").contains(Text("Area kept")));
+    EXPECT_TRUE(workspace.Label("LabelNumbers").contains(Text("Area kept")));
     look({"CmdViewFrame", "CmdViewMagnification", "CmdViewCircle"}, "tools-circle.png");
     look({"CmdViewCircle", "CmdContactSheet"}, "tools-sheet.png");
-    EXPECT_TRUE(desk.Find("ContactSheet")->isVisible());
+    EXPECT_TRUE(workspace.Find("ContactSheet")->isVisible());
     look({"CmdContactSheet", "CmdViewActual", "CmdViewGrid"}, "tools-zoom.png");
 }
 

@@ -169,8 +169,8 @@ QByteArray Converted(const ImageRecord& image) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = testing::LoadPicture(SourcePath(image)).bitmap;
     SilentProgress silent;
-    RenderDesk desk{bitmaps};
-    Render(ProjectionFromIndex(image.Projection), image, SizeKind::Large, silent, desk);
+    RenderContext workspace{bitmaps};
+    Render(ProjectionFromIndex(image.Projection), image, SizeKind::Large, silent, workspace);
     EXPECT_TRUE(SaveBitmap(FIF_BMP, bitmaps.ResultBitmap.get(), folder.Path(Q("single")), 0));
     return testing::Contents(folder.Path(Q("single")));
 }

@@ -6,28 +6,28 @@
 #include <gtest/gtest.h>
 
 #include "state/editing/frame_solver.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
 
-using testing::WindowDesk;
+using testing::TestWindow;
 
 class FrameOnPhoto : public ::testing::Test {
   protected:
     FrameOnPhoto() {
-        desk.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, photo);
-        desk.Click("OptionRemap_1");
-        box = desk.Find<PictureBox>("PicSmallFrom");
-        desk.Entry("CmdViewFrame")->trigger();
+        workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, photo);
+        workspace.Click("OptionRemap_1");
+        box = workspace.Find<PictureBox>("PicSmallFrom");
+        workspace.Entry("CmdViewFrame")->trigger();
         QApplication::processEvents();
     }
     // Where the frame has a point with these controls.
     QPoint At(const FramePoint& point, const ControlValues& controls) {
-        ImageRecord trial = desk.Record(1);
+        ImageRecord trial = workspace.Record(1);
         StoreControls(controls, trial);
-        const ResultPlaces places(Projection::Rectilinear, trial, photo);
-        const SourcePlace place = *PlaceOf(point, places);
+        const InverseMapping places(Projection::Rectilinear, trial, photo);
+        const SourcePosition place = *PlaceOf(point, places);
         return box->ToWidget().map(QPointF(place.x + 0.5, photo.height - 0.5 - place.y)).toPoint();
     }
     void Drag(QPoint from, QPoint to, bool release = true) {
@@ -50,65 +50,65 @@ class FrameOnPhoto : public ::testing::Test {
     }
 
     static constexpr PixelSize photo{300, 200};
-    WindowDesk desk;
+    TestWindow workspace;
     PictureBox* box = nullptr;
 };
 
 TEST_F(FrameOnPhoto, AHandleMovesTheAngleOfViewAndStoresItWhenLetGo) {
-    const ControlValues before = ValuesFor(desk.Record(1));
-    const ImageRecord other = desk.Record(2);
+    const ControlValues before = ValuesFor(workspace.Record(1));
+    const ImageRecord other = workspace.Record(2);
     ControlValues wanted = before;
     wanted.outputAov = before.outputAov + 40;
     const FramePoint right{1.0, 0.5};
     Drag(At(right, before), At(right, wanted), false);
-    EXPECT_NEAR(desk.Slider("SliderAOVoutput")->value(), wanted.outputAov, 2);
-    EXPECT_EQ(ValuesFor(desk.Record(1)), before);
+    EXPECT_NEAR(workspace.Slider("SliderAOVoutput")->value(), wanted.outputAov, 2);
+    EXPECT_EQ(ValuesFor(workspace.Record(1)), before);
     QTest::mouseRelease(box, Qt::LeftButton, {}, At(right, wanted));
-    EXPECT_NEAR(desk.Record(1).OutputAOV, wanted.outputAov, 2);
-    EXPECT_EQ(desk.Record(2), other);
+    EXPECT_NEAR(workspace.Record(1).OutputAOV, wanted.outputAov, 2);
+    EXPECT_EQ(workspace.Record(2), other);
 }
 
 TEST_F(FrameOnPhoto, ADragInsidePansAndTilts) {
-    const ControlValues before = ValuesFor(desk.Record(1));
+    const ControlValues before = ValuesFor(workspace.Record(1));
     ControlValues wanted = before;
     wanted.rotateX = 15;
     wanted.rotateY = -20;
     Drag(At({}, before), At({}, wanted));
-    EXPECT_NEAR(desk.Record(1).RotateX, 15, 2);
-    EXPECT_NEAR(desk.Record(1).RotateY, -20, 2);
-    EXPECT_EQ(desk.Record(1).OutputAOV, before.outputAov);
+    EXPECT_NEAR(workspace.Record(1).RotateX, 15, 2);
+    EXPECT_NEAR(workspace.Record(1).RotateY, -20, 2);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, before.outputAov);
 }
 
 TEST_F(FrameOnPhoto, TheWheelNarrowsIt) {
-    const float before = desk.Record(1).OutputAOV;
+    const float before = workspace.Record(1).OutputAOV;
     Roll(3);
-    EXPECT_EQ(desk.Record(1).OutputAOV, before - 3);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, before - 3);
     Roll(-1);
-    EXPECT_EQ(desk.Record(1).OutputAOV, before - 2);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, before - 2);
 }
 
 TEST_F(FrameOnPhoto, HiddenOrWithoutTurnsItLeavesTheMouseAlone) {
-    desk.Click("OptionRemap_0");
-    const ImageRecord varnel = desk.Record(1);
+    workspace.Click("OptionRemap_0");
+    const ImageRecord varnel = workspace.Record(1);
     const QPoint middle = box->rect().center();
     Drag(middle, middle + QPoint(30, 10));
-    EXPECT_EQ(desk.Record(1), varnel);
-    desk.Click("OptionRemap_1");
-    desk.Entry("CmdViewFrame")->trigger();
-    const ImageRecord rectilinear = desk.Record(1);
+    EXPECT_EQ(workspace.Record(1), varnel);
+    workspace.Click("OptionRemap_1");
+    workspace.Entry("CmdViewFrame")->trigger();
+    const ImageRecord rectilinear = workspace.Record(1);
     Drag(middle, middle + QPoint(30, 10));
-    EXPECT_EQ(desk.Record(1), rectilinear);
+    EXPECT_EQ(workspace.Record(1), rectilinear);
 }
 
 TEST_F(FrameOnPhoto, NumbersFollowTheControls) {
-    auto* const numbers = desk.Find<QLabel>("LabelNumbers");
+    auto* const numbers = workspace.Find<QLabel>("LabelNumbers");
     EXPECT_FALSE(numbers->isVisible());
-    desk.Entry("CmdViewMagnification")->trigger();
+    workspace.Entry("CmdViewMagnification")->trigger();
     QApplication::processEvents();
     EXPECT_TRUE(numbers->isVisible());
     const QString before = numbers->text();
     EXPECT_TRUE(before.contains(QStringLiteral("300 x 200 pixels"))) << before.toStdString();
-    desk.Press("SliderAOVoutput", Qt::Key_PageUp);
+    workspace.Press("SliderAOVoutput", Qt::Key_PageUp);
     QApplication::processEvents();
     EXPECT_NE(numbers->text(), before);
 }

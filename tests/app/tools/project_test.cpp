@@ -9,18 +9,18 @@
 #include <QMenu>
 
 #include "pipeline/photos/project_file.h"
+#include "tests/support/test_window.h"
 #include "tests/support/texts.h"
-#include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::TestWindow;
 using testing::Text;
-using testing::WindowDesk;
 
 // A window with one adjusted photo, saved as a project.
-struct SavedDesk : WindowDesk {
-    SavedDesk() {
+struct SavedWorkspace : TestWindow {
+    SavedWorkspace() {
         AddPhotos({Text("a.bmp"), Text("b.bmp")});
         Click("OptionRemap_1");
         Slider("SliderY")->setValue(-20);
@@ -32,15 +32,15 @@ struct SavedDesk : WindowDesk {
 };
 
 TEST(Project, ComesBackWithEverySettingAndShowsItsName) {
-    SavedDesk desk;
-    EXPECT_EQ(desk.window.windowTitle(), Text("a.bmp - trip - Varnel"));
-    const ImageRecord saved = desk.Record(1);
-    desk.Slider("SliderY")->setValue(30);
-    desk.Entry("CmdSaveProject")->trigger();  // to the same file
-    desk.Slider("SliderY")->setValue(-20);
-    desk.Entry("CmdSaveProject")->trigger();
-    WindowDesk other;
-    other.window.AddFiles({other.files.Picture(Text("c.bmp"), FIF_BMP), desk.path});
+    SavedWorkspace workspace;
+    EXPECT_EQ(workspace.window.windowTitle(), Text("a.bmp - trip - Varnel"));
+    const ImageRecord saved = workspace.Record(1);
+    workspace.Slider("SliderY")->setValue(30);
+    workspace.Entry("CmdSaveProject")->trigger();  // to the same file
+    workspace.Slider("SliderY")->setValue(-20);
+    workspace.Entry("CmdSaveProject")->trigger();
+    TestWindow other;
+    other.window.AddFiles({other.files.Picture(Text("c.bmp"), FIF_BMP), workspace.path});
     EXPECT_EQ(other.dialogs.opened, QStringList());
     ASSERT_EQ(other.state.Images.UpperBound(), 3);
     EXPECT_EQ(other.Record(1), saved);
@@ -57,95 +57,95 @@ TEST(Project, ComesBackWithEverySettingAndShowsItsName) {
 }
 
 TEST(Project, AsksOnlyWhenTheListWasChangedSinceItWasSaved) {
-    SavedDesk desk;
-    desk.ClickLine(1);  // gets its size and gear: no change
-    desk.dialogs.project = desk.path;
-    desk.Entry("CmdOpenProject")->trigger();
-    EXPECT_TRUE(desk.dialogs.opened.isEmpty());
+    SavedWorkspace workspace;
+    workspace.ClickLine(1);  // gets its size and gear: no change
+    workspace.dialogs.project = workspace.path;
+    workspace.Entry("CmdOpenProject")->trigger();
+    EXPECT_TRUE(workspace.dialogs.opened.isEmpty());
     const struct {
         SaveFirst answer;
         float left;  // what is there afterwards
     } rows[] = {
         {SaveFirst::Cancel, 10.0F}, {SaveFirst::DoNotSave, -20.0F}, {SaveFirst::Save, 10.0F}};
     for (const auto& row : rows) {
-        desk.Slider("SliderY")->setValue(10);
-        desk.dialogs.opened.clear();
-        desk.dialogs.saveFirst = row.answer;
-        desk.window.AddFiles({desk.path});
-        EXPECT_EQ(desk.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
-        EXPECT_EQ(desk.Record(1).RotateY, row.left);
+        workspace.Slider("SliderY")->setValue(10);
+        workspace.dialogs.opened.clear();
+        workspace.dialogs.saveFirst = row.answer;
+        workspace.window.AddFiles({workspace.path});
+        EXPECT_EQ(workspace.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
+        EXPECT_EQ(workspace.Record(1).RotateY, row.left);
     }
-    EXPECT_EQ(OpenProject(desk.path).images(1).RotateY, 10.0F);
+    EXPECT_EQ(OpenProject(workspace.path).images(1).RotateY, 10.0F);
 }
 
 TEST(Project, ADamagedOneChangesNothingAndMissingPhotosAreNamedAndKept) {
-    SavedDesk desk;
-    const ImageRecord before = desk.Record(1);
-    QFile::copy(desk.path, desk.files.Path(Text("keep")));
-    desk.files.Cut(Text("cut.varnel"), desk.path, 60);
-    desk.window.AddFiles({desk.files.Path(Text("cut.varnel"))});
-    ASSERT_EQ(desk.notices.texts.size(), 1);
-    EXPECT_TRUE(desk.notices.texts[0].contains(Text("cut.varnel")));
-    EXPECT_TRUE(desk.notices.details[0].contains(Text("damaged")));
-    EXPECT_EQ(desk.Record(1), before);
-    EXPECT_EQ(desk.window.windowTitle(), Text("a.bmp - trip - Varnel"));
-    QFile::remove(desk.files.Path(Text("a.bmp")));
-    desk.window.AddFiles({desk.path});
-    EXPECT_EQ(desk.notices.details.value(1), desk.files.Path(Text("a.bmp")));
-    EXPECT_EQ(desk.notices.texts.size(), 2);
-    EXPECT_EQ(desk.Record(1), before);
-    EXPECT_EQ(desk.Find<QListWidget>("ImageList1")->currentRow(), 1);
+    SavedWorkspace workspace;
+    const ImageRecord before = workspace.Record(1);
+    QFile::copy(workspace.path, workspace.files.Path(Text("keep")));
+    workspace.files.Cut(Text("cut.varnel"), workspace.path, 60);
+    workspace.window.AddFiles({workspace.files.Path(Text("cut.varnel"))});
+    ASSERT_EQ(workspace.notices.texts.size(), 1);
+    EXPECT_TRUE(workspace.notices.texts[0].contains(Text("cut.varnel")));
+    EXPECT_TRUE(workspace.notices.details[0].contains(Text("damaged")));
+    EXPECT_EQ(workspace.Record(1), before);
+    EXPECT_EQ(workspace.window.windowTitle(), Text("a.bmp - trip - Varnel"));
+    QFile::remove(workspace.files.Path(Text("a.bmp")));
+    workspace.window.AddFiles({workspace.path});
+    EXPECT_EQ(workspace.notices.details.value(1), workspace.files.Path(Text("a.bmp")));
+    EXPECT_EQ(workspace.notices.texts.size(), 2);
+    EXPECT_EQ(workspace.Record(1), before);
+    EXPECT_EQ(workspace.Find<QListWidget>("ImageList1")->currentRow(), 1);
 }
 
-void Adjust(WindowDesk& desk) {
-    desk.Slider("SliderAOVinput")->setValue(99);
+void Adjust(TestWindow& workspace) {
+    workspace.Slider("SliderAOVinput")->setValue(99);
 }
 
 // Work of some kind on two photos of which both were looked at, and what closing asks about.
 struct Work {
     const char* name;
-    std::function<void(WindowDesk&)> act;
+    std::function<void(TestWindow&)> act;
     int photos, queued;
 };
 
 std::vector<Work> Works() {
-    const auto queue = [](WindowDesk& desk) { desk.Click("CommandAddToBatchQue"); };
-    const auto saveFirst = [](WindowDesk& desk) {
-        desk.ClickLine(0);
-        Adjust(desk);
-        desk.chooser.answer = SaveChoice{desk.files.Path(Text("out")), 3};
-        desk.Click("CommandSaveFreeimage");
+    const auto queue = [](TestWindow& workspace) { workspace.Click("CommandAddToBatchQue"); };
+    const auto saveFirst = [](TestWindow& workspace) {
+        workspace.ClickLine(0);
+        Adjust(workspace);
+        workspace.chooser.answer = SaveChoice{workspace.files.Path(Text("out")), 3};
+        workspace.Click("CommandSaveFreeimage");
     };
-    const auto convert = [queue](WindowDesk& desk) {
-        Adjust(desk);
-        queue(desk);
-        desk.dialogs.onBatch = [&](const PictureWritten& written) {
-            written(desk.state.BatchQueue(2), Text("/out/b"));
-            desk.state.BatchQueue.Clear();
+    const auto convert = [queue](TestWindow& workspace) {
+        Adjust(workspace);
+        queue(workspace);
+        workspace.dialogs.onBatch = [&](const PictureWritten& written) {
+            written(workspace.state.BatchQueue(2), Text("/out/b"));
+            workspace.state.BatchQueue.Clear();
         };
-        desk.Click("CmdBatchProcess");
+        workspace.Click("CmdBatchProcess");
     };
-    const auto bothOnce = [](WindowDesk& desk) {
-        desk.Find<QListWidget>("ImageList1")->selectAll();
-        Adjust(desk);
+    const auto bothOnce = [](TestWindow& workspace) {
+        workspace.Find<QListWidget>("ImageList1")->selectAll();
+        Adjust(workspace);
     };
     return {
-        {"looking", [](WindowDesk&) {}, 0, 0},
-        {"a preview", [](WindowDesk& desk) { desk.Click("CmdFreeImage"); }, 0, 0},
+        {"looking", [](TestWindow&) {}, 0, 0},
+        {"a preview", [](TestWindow& workspace) { workspace.Click("CmdFreeImage"); }, 0, 0},
         {"an adjustment", Adjust, 1, 0},
         {"adjustments of both", bothOnce, 2, 0},
-        {"a gear for all", [](WindowDesk& desk) { desk.Click("CmdApplyAll"); }, 0, 0},
+        {"a gear for all", [](TestWindow& workspace) { workspace.Click("CmdApplyAll"); }, 0, 0},
         {"an adjustment taken back",
-         [](WindowDesk& desk) {
-             Adjust(desk);
-             desk.Entry("CmdEditUndo")->trigger();
+         [](TestWindow& workspace) {
+             Adjust(workspace);
+             workspace.Entry("CmdEditUndo")->trigger();
          },
          0, 0},
         {"a saved picture", saveFirst, 0, 0},
         {"a saved picture and more",
-         [saveFirst](WindowDesk& desk) {
-             saveFirst(desk);
-             desk.Slider("SliderAOVinput")->setValue(120);
+         [saveFirst](TestWindow& workspace) {
+             saveFirst(workspace);
+             workspace.Slider("SliderAOVinput")->setValue(120);
          },
          1, 0},
         {"a queue", queue, 0, 2},
@@ -155,32 +155,33 @@ std::vector<Work> Works() {
 
 TEST(Project, ClosingAsksOnceForWorkThatIsInNoFile) {
     for (const Work& work : Works()) {
-        WindowDesk desk;
-        desk.AddPhotos({Text("a[*].bmp"), Text("b.bmp")});
-        desk.ClickLine(1);
-        work.act(desk);
+        TestWindow workspace;
+        workspace.AddPhotos({Text("a[*].bmp"), Text("b.bmp")});
+        workspace.ClickLine(1);
+        work.act(workspace);
         const bool asks = work.photos + work.queued > 0;
-        EXPECT_EQ(desk.window.isWindowModified(), work.photos > 0) << work.name;
-        EXPECT_EQ(desk.window.windowTitle().contains(Text("bmp[*] - Varnel")), work.photos > 0)
-            << desk.window.windowTitle().toStdString();
-        EXPECT_EQ(desk.window.close(), !asks) << work.name;
-        EXPECT_EQ(desk.dialogs.opened.filter(Text("AskToSave")).size(), asks ? 1 : 0) << work.name;
-        EXPECT_EQ(desk.dialogs.unsaved.photos, work.photos) << work.name;
-        EXPECT_EQ(desk.dialogs.unsaved.queued, work.queued) << work.name;
-        desk.dialogs.saveFirst = SaveFirst::DoNotSave;
-        EXPECT_TRUE(!asks || desk.window.close()) << work.name;
+        EXPECT_EQ(workspace.window.isWindowModified(), work.photos > 0) << work.name;
+        EXPECT_EQ(workspace.window.windowTitle().contains(Text("bmp[*] - Varnel")), work.photos > 0)
+            << workspace.window.windowTitle().toStdString();
+        EXPECT_EQ(workspace.window.close(), !asks) << work.name;
+        EXPECT_EQ(workspace.dialogs.opened.filter(Text("AskToSave")).size(), asks ? 1 : 0)
+            << work.name;
+        EXPECT_EQ(workspace.dialogs.unsaved.photos, work.photos) << work.name;
+        EXPECT_EQ(workspace.dialogs.unsaved.queued, work.queued) << work.name;
+        workspace.dialogs.saveFirst = SaveFirst::DoNotSave;
+        EXPECT_TRUE(!asks || workspace.window.close()) << work.name;
     }
 }
 
 TEST(Project, IsNotLostByClosingTheWindow) {
-    SavedDesk desk;
-    desk.Slider("SliderY")->setValue(30);
-    desk.dialogs.saveFirst = SaveFirst::Cancel;
-    EXPECT_FALSE(desk.window.close());
-    EXPECT_EQ(desk.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
-    desk.dialogs.saveFirst = SaveFirst::Save;
-    EXPECT_TRUE(desk.window.close());
-    EXPECT_EQ(OpenProject(desk.path).images(1).RotateY, 30.0F);
+    SavedWorkspace workspace;
+    workspace.Slider("SliderY")->setValue(30);
+    workspace.dialogs.saveFirst = SaveFirst::Cancel;
+    EXPECT_FALSE(workspace.window.close());
+    EXPECT_EQ(workspace.dialogs.opened, QStringList{Text("AskToSave trip.varnel")});
+    workspace.dialogs.saveFirst = SaveFirst::Save;
+    EXPECT_TRUE(workspace.window.close());
+    EXPECT_EQ(OpenProject(workspace.path).images(1).RotateY, 30.0F);
 }
 
 }  // namespace

@@ -11,20 +11,20 @@
 #include <QSettings>
 
 #include "pipeline/photos/project_file.h"
+#include "tests/support/test_window.h"
 #include "tests/support/texts.h"
-#include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::TestWindow;
 using testing::Text;
-using testing::WindowDesk;
 
 class Session : public ::testing::Test {
   protected:
     // A window that keeps its list below the folder of this test.
-    std::unique_ptr<WindowDesk> Window(Restore restore = Restore::Later) const {
-        return std::make_unique<WindowDesk>(nullptr, sessions, restore);
+    std::unique_ptr<TestWindow> Window(Restore restore = Restore::Later) const {
+        return std::make_unique<TestWindow>(nullptr, sessions, restore);
     }
     // The lists that are kept.
     QStringList Kept() const {

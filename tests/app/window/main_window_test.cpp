@@ -8,12 +8,12 @@
 #include <QComboBox>
 #include <QMenuBar>
 
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
 
-using testing::WindowDesk;
+using testing::TestWindow;
 
 QString Q(const char* text) {
     return QString::fromUtf8(text);
@@ -29,9 +29,9 @@ TEST(MainWindow, SlidersHaveTheirRangesAndSteps) {
         {"SliderZ", -40, 40, 0, 10, 10, 10},          {"SliderXtranslate", -40, 40, 0, 5, 1, 10},
         {"SliderYtranslate", -40, 40, 0, 5, 1, 10},   {"SliderAOVinput", 70, 280, 80, 10, 10, 10},
     };
-    WindowDesk desk;
+    TestWindow workspace;
     for (const auto& row : rows) {
-        const QSlider* const slider = desk.Slider(row.name);
+        const QSlider* const slider = workspace.Slider(row.name);
         ASSERT_NE(slider, nullptr);
         EXPECT_EQ(slider->orientation(), Qt::Horizontal);
         EXPECT_EQ(slider->minimum(), row.minimum) << row.name;
@@ -91,9 +91,9 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
         {"PicSmallTo", "QWidget", nullptr},
         {"OptionRemap", "QButtonGroup", nullptr},
     };
-    WindowDesk desk;
+    TestWindow workspace;
     for (const auto& row : rows) {
-        const QObject* const control = desk.window.findChild<QObject*>(Q(row.name));
+        const QObject* const control = workspace.window.findChild<QObject*>(Q(row.name));
         ASSERT_NE(control, nullptr) << row.name;
         EXPECT_TRUE(control->inherits(row.kind)) << row.name;
         if (row.text != nullptr) {
@@ -102,8 +102,8 @@ TEST(MainWindow, EveryControlHasItsKindAndText) {
             EXPECT_EQ(control->property(property).toString(), Q(row.text)) << row.name;
         }
     }
-    EXPECT_FALSE(desk.Entry("CmdFileOpen")->isEnabled());
-    EXPECT_FALSE(desk.Find("CmdBatchProcess")->isVisible());
+    EXPECT_FALSE(workspace.Entry("CmdFileOpen")->isEnabled());
+    EXPECT_FALSE(workspace.Find("CmdBatchProcess")->isVisible());
 }
 
 TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
@@ -116,10 +116,10 @@ TEST(MainWindow, TheMenusHaveTheirEntriesInOrder) {
         {Q("&Tools"), Q("CmdToolsMorph: Morph"), Q("CmdToolsStretch: Stretch")},
         {Q("&About"), Q("CmdAboutAbout: &About")},
     };
-    const WindowDesk desk;
+    const TestWindow workspace;
     // Others may stand between them.
     QStringList shown;
-    for (const QAction* const menu : desk.window.menuBar()->actions()) {
+    for (const QAction* const menu : workspace.window.menuBar()->actions()) {
         shown.append(menu->text());
         for (const QAction* const entry : menu->menu()->actions()) {
             shown.append(entry->objectName() + Q(": ") + entry->text());
@@ -155,226 +155,226 @@ TEST(MainWindow, CaptionsFollowTheSliders) {
         {"SliderAOVinput", 180, "LabelAOVinput", "180° hAOV"},
         {"SliderEffect", 0, "LabelEffect", "0 %"},
     };
-    WindowDesk desk;
+    TestWindow workspace;
     for (const auto& row : rows) {
-        desk.Slider(row.slider)->setValue(row.value);
-        EXPECT_EQ(desk.Label(row.label), Q(row.text)) << row.slider;
+        workspace.Slider(row.slider)->setValue(row.value);
+        EXPECT_EQ(workspace.Label(row.label), Q(row.text)) << row.slider;
     }
 }
 
 TEST(MainWindow, TheProjectionDecidesWhatIsShown) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")});
     const char* const rectilinearOnly[] = {
         "SliderAOVoutput", "LabelAOVoutput",   "LabelAOVoutput2", "SliderX",
         "SliderY",         "SliderZ",          "LabelRotate1",    "LabelRotate2",
         "LabelRotateZ",    "SliderXtranslate", "LabelTranslate1", "LabelTranslateY"};
     for (int k = 0; k < 4; ++k) {
-        desk.Click(qPrintable(QStringLiteral("OptionRemap_%1").arg(k)));
+        workspace.Click(qPrintable(QStringLiteral("OptionRemap_%1").arg(k)));
         for (const char* const name : rectilinearOnly) {
-            EXPECT_EQ(desk.Find(name)->isVisible(), k == 1) << name << k;
+            EXPECT_EQ(workspace.Find(name)->isVisible(), k == 1) << name << k;
         }
-        EXPECT_EQ(desk.Find("SliderEffect")->isVisible(), k < 2);
-        EXPECT_EQ(desk.Find("LabelEffect2")->isVisible(), k < 2);
-        EXPECT_TRUE(desk.Find("SliderAOVinput")->isVisible());
-        EXPECT_EQ(desk.Record(1).Projection, k);
+        EXPECT_EQ(workspace.Find("SliderEffect")->isVisible(), k < 2);
+        EXPECT_EQ(workspace.Find("LabelEffect2")->isVisible(), k < 2);
+        EXPECT_TRUE(workspace.Find("SliderAOVinput")->isVisible());
+        EXPECT_EQ(workspace.Record(1).Projection, k);
     }
 }
 
 TEST(MainWindow, TheFirstStartAsksForAGear) {
-    WindowDesk desk;
-    EXPECT_EQ(desk.prompt.explained,
+    TestWindow workspace;
+    EXPECT_EQ(workspace.prompt.explained,
               QStringList{Q("Please define at least one camera + lens combination ...")});
-    EXPECT_EQ(desk.Find<QComboBox>("GearCombo")->currentText(),
+    EXPECT_EQ(workspace.Find<QComboBox>("GearCombo")->currentText(),
               Q("Canon EOS 5D + Sigma EX 8 mm f:3.5"));
 }
 
 TEST(MainWindow, AddedPhotosShowAndTheFirstGetsItsGear) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("wide.bmp"), Q("wide2.bmp")});
-    EXPECT_EQ(desk.Find<QListWidget>("ImageList1")->currentRow(), 0);
-    EXPECT_EQ(desk.Record(1).Width, 60);
-    EXPECT_TRUE(desk.Record(1).Landscape);
-    EXPECT_EQ(desk.Record(1).OutputAOV, 130.0F);
-    EXPECT_EQ(desk.Record(2).Width, 0);  // not clicked yet
-    EXPECT_TRUE(desk.window.windowTitle().contains(Q("wide.bmp")));
+    TestWindow workspace;
+    workspace.AddPhotos({Q("wide.bmp"), Q("wide2.bmp")});
+    EXPECT_EQ(workspace.Find<QListWidget>("ImageList1")->currentRow(), 0);
+    EXPECT_EQ(workspace.Record(1).Width, 60);
+    EXPECT_TRUE(workspace.Record(1).Landscape);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 130.0F);
+    EXPECT_EQ(workspace.Record(2).Width, 0);  // not clicked yet
+    EXPECT_TRUE(workspace.window.windowTitle().contains(Q("wide.bmp")));
     // The pictures show position colours, not the empty box.
-    EXPECT_GT(desk.Shown("PicSmallFrom").width(), 0);
-    desk.ClickLine(1);
-    EXPECT_EQ(desk.Record(2).Width, 60);
-    EXPECT_TRUE(desk.notices.texts.isEmpty());
+    EXPECT_GT(workspace.Shown("PicSmallFrom").width(), 0);
+    workspace.ClickLine(1);
+    EXPECT_EQ(workspace.Record(2).Width, 60);
+    EXPECT_TRUE(workspace.notices.texts.isEmpty());
 }
 
 TEST(MainWindow, AKeyOnASliderStoresIntoEverySelectedPhoto) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
-    desk.ClickLine(2, Qt::ControlModifier);
-    desk.Click("OptionRemap_1");
-    desk.Press("SliderXtranslate", Qt::Key_Right);
-    EXPECT_EQ(desk.Record(1).TranslateX, 1.0F);
-    EXPECT_EQ(desk.Record(2).TranslateX, 0.0F);
-    EXPECT_EQ(desk.Record(3).TranslateX, 1.0F);
-    EXPECT_EQ(desk.Record(3).Projection, 1);
-    EXPECT_TRUE(desk.Find("SliderXtranslate")->hasFocus());
-    desk.Slider("SliderEffect")->setValue(0);
-    EXPECT_EQ(desk.Record(1).EffectRectilinear, 0.1F);
-    EXPECT_EQ(desk.Record(1).EffectVarnel, 100.0F);
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    workspace.ClickLine(2, Qt::ControlModifier);
+    workspace.Click("OptionRemap_1");
+    workspace.Press("SliderXtranslate", Qt::Key_Right);
+    EXPECT_EQ(workspace.Record(1).TranslateX, 1.0F);
+    EXPECT_EQ(workspace.Record(2).TranslateX, 0.0F);
+    EXPECT_EQ(workspace.Record(3).TranslateX, 1.0F);
+    EXPECT_EQ(workspace.Record(3).Projection, 1);
+    EXPECT_TRUE(workspace.Find("SliderXtranslate")->hasFocus());
+    workspace.Slider("SliderEffect")->setValue(0);
+    EXPECT_EQ(workspace.Record(1).EffectRectilinear, 0.1F);
+    EXPECT_EQ(workspace.Record(1).EffectVarnel, 100.0F);
 }
 
 TEST(MainWindow, WhileControlsAreLoadedNothingIsStored) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    desk.state.loadingControls = true;
-    desk.Slider("SliderAOVinput")->setValue(90);
-    EXPECT_NE(desk.Record(1).InputAOV, 90.0F);
-    EXPECT_EQ(desk.Label("LabelAOVinput"), Q("90° hAOV"));
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")});
+    workspace.state.loadingControls = true;
+    workspace.Slider("SliderAOVinput")->setValue(90);
+    EXPECT_NE(workspace.Record(1).InputAOV, 90.0F);
+    EXPECT_EQ(workspace.Label("LabelAOVinput"), Q("90° hAOV"));
 }
 
 TEST(MainWindow, ADragPreviewsAndOnlyItsEndIsStored) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {300, 200});
-    desk.Click("OptionRemap_1");
-    const QImage before = desk.Shown("PicSmallTo");
-    QSlider* const slider = desk.Slider("SliderY");
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")}, {300, 200});
+    workspace.Click("OptionRemap_1");
+    const QImage before = workspace.Shown("PicSmallTo");
+    QSlider* const slider = workspace.Slider("SliderY");
     slider->setSliderDown(true);
     slider->setValue(20);
     QApplication::processEvents();
-    EXPECT_EQ(desk.Record(1).RotateY, 0.0F);
-    const QImage dragged = desk.Shown("PicSmallTo");
+    EXPECT_EQ(workspace.Record(1).RotateY, 0.0F);
+    const QImage dragged = workspace.Shown("PicSmallTo");
     EXPECT_NE(dragged, before);
     slider->setSliderDown(false);
-    EXPECT_EQ(desk.Record(1).RotateY, 20.0F);
-    EXPECT_EQ(desk.Shown("PicSmallTo"), dragged);
+    EXPECT_EQ(workspace.Record(1).RotateY, 20.0F);
+    EXPECT_EQ(workspace.Shown("PicSmallTo"), dragged);
 }
 
 TEST(MainWindow, WithoutAutoPreviewValuesAreStoredAndNothingIsDrawn) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {300, 200});
-    desk.Click("OptionRemap_1");
-    desk.Click("CheckAutoPreview");
-    const QImage before = desk.Shown("PicSmallTo");
-    desk.Slider("SliderY")->setValue(20);
-    EXPECT_EQ(desk.Record(1).RotateY, 20.0F);
-    EXPECT_EQ(desk.Shown("PicSmallTo"), before);
-    desk.Click("CmdFreeImage");
-    EXPECT_NE(desk.Shown("PicSmallTo"), before);
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")}, {300, 200});
+    workspace.Click("OptionRemap_1");
+    workspace.Click("CheckAutoPreview");
+    const QImage before = workspace.Shown("PicSmallTo");
+    workspace.Slider("SliderY")->setValue(20);
+    EXPECT_EQ(workspace.Record(1).RotateY, 20.0F);
+    EXPECT_EQ(workspace.Shown("PicSmallTo"), before);
+    workspace.Click("CmdFreeImage");
+    EXPECT_NE(workspace.Shown("PicSmallTo"), before);
 }
 
 TEST(MainWindow, ADoubleClickOnAHeadingResetsItsSlider) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    desk.Click("OptionRemap_1");
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")});
+    workspace.Click("OptionRemap_1");
     const std::pair<const char*, const char*> rows[] = {{"LabelRotate2", "SliderX"},
                                                         {"LabelRotate3", "SliderY"},
                                                         {"LabelRotate4", "SliderZ"},
                                                         {"LabelTranslate2", "SliderXtranslate"},
                                                         {"LabelTranslate3", "SliderYtranslate"}};
     for (const auto& [label, slider] : rows) {
-        desk.Slider(slider)->setValue(30);
-        QTest::mouseDClick(desk.Find(label), Qt::LeftButton);
-        EXPECT_EQ(desk.Slider(slider)->value(), 0) << slider;
+        workspace.Slider(slider)->setValue(30);
+        QTest::mouseDClick(workspace.Find(label), Qt::LeftButton);
+        EXPECT_EQ(workspace.Slider(slider)->value(), 0) << slider;
     }
-    const ImageRecord& record = desk.Record(1);
+    const ImageRecord& record = workspace.Record(1);
     EXPECT_EQ(record.RotateX + record.RotateY + record.RotateZ, 0.0F);
     EXPECT_EQ(record.TranslateX + record.TranslateY, 0.0F);
 }
 
 TEST(MainWindow, EachEffectComesBackWithItsProjection) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")});
-    desk.Slider("SliderEffect")->setValue(80);
-    desk.Click("OptionRemap_1");
-    EXPECT_EQ(desk.Slider("SliderEffect")->value(), 100);
-    desk.Slider("SliderEffect")->setValue(30);
-    desk.Click("OptionRemap_3");
-    desk.Click("OptionRemap_0");
-    EXPECT_EQ(desk.Slider("SliderEffect")->value(), 80);
-    EXPECT_EQ(desk.Record(1).EffectRectilinear, 30.0F);
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")});
+    workspace.Slider("SliderEffect")->setValue(80);
+    workspace.Click("OptionRemap_1");
+    EXPECT_EQ(workspace.Slider("SliderEffect")->value(), 100);
+    workspace.Slider("SliderEffect")->setValue(30);
+    workspace.Click("OptionRemap_3");
+    workspace.Click("OptionRemap_0");
+    EXPECT_EQ(workspace.Slider("SliderEffect")->value(), 80);
+    EXPECT_EQ(workspace.Record(1).EffectRectilinear, 30.0F);
 }
 
 TEST(MainWindow, SettingsGoToAllEvenToPhotosNeverClicked) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
-    desk.window.AddFiles({desk.files.Picture(Q("tall.bmp"), FIF_BMP, {40, 60})});
-    desk.Click("OptionRemap_1");
-    desk.Slider("SliderX")->setValue(10);
-    desk.Click("CmdApplyAll2");
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
+    workspace.window.AddFiles({workspace.files.Picture(Q("tall.bmp"), FIF_BMP, {40, 60})});
+    workspace.Click("OptionRemap_1");
+    workspace.Slider("SliderX")->setValue(10);
+    workspace.Click("CmdApplyAll2");
     for (int n = 1; n <= 4; ++n) {
-        EXPECT_EQ(desk.Record(n).RotateX, 10.0F) << n;
-        EXPECT_EQ(desk.Record(n).Projection, 1);
-        EXPECT_EQ(desk.Record(n).Height, n == 4 ? 60 : 40);
-        EXPECT_EQ(desk.Record(n).Landscape, n != 4);
-        EXPECT_EQ(desk.Record(n).SensorWidth, desk.Record(1).SensorWidth);
+        EXPECT_EQ(workspace.Record(n).RotateX, 10.0F) << n;
+        EXPECT_EQ(workspace.Record(n).Projection, 1);
+        EXPECT_EQ(workspace.Record(n).Height, n == 4 ? 60 : 40);
+        EXPECT_EQ(workspace.Record(n).Landscape, n != 4);
+        EXPECT_EQ(workspace.Record(n).SensorWidth, workspace.Record(1).SensorWidth);
     }
 }
 
 TEST(MainWindow, AnotherGearResetsWhatItIsGivenTo) {
-    WindowDesk desk;
-    desk.AddGear(Q("other"), 100.0F);
-    EXPECT_EQ(desk.dialogs.opened, QStringList{Q("FormGearList")});
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
-    desk.Slider("SliderAOVinput")->setValue(200);
-    desk.ClickLine(1);
-    desk.ClickLine(0, Qt::ControlModifier);
-    desk.Press("GearCombo", Qt::Key_Down);
+    TestWindow workspace;
+    workspace.AddGear(Q("other"), 100.0F);
+    EXPECT_EQ(workspace.dialogs.opened, QStringList{Q("FormGearList")});
+    workspace.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    workspace.Slider("SliderAOVinput")->setValue(200);
+    workspace.ClickLine(1);
+    workspace.ClickLine(0, Qt::ControlModifier);
+    workspace.Press("GearCombo", Qt::Key_Down);
     for (const int n : {1, 2}) {
-        EXPECT_EQ(desk.Record(n).GearName, Q("other"));
-        EXPECT_EQ(desk.Record(n).InputAOV, 100.0F);
-        EXPECT_FALSE(desk.Record(n).SettingsApplied);
+        EXPECT_EQ(workspace.Record(n).GearName, Q("other"));
+        EXPECT_EQ(workspace.Record(n).InputAOV, 100.0F);
+        EXPECT_FALSE(workspace.Record(n).SettingsApplied);
     }
     // The same gear again leaves adjustments alone.
-    desk.Slider("SliderAOVinput")->setValue(150);
-    auto* const gears = desk.Find<QComboBox>("GearCombo");
+    workspace.Slider("SliderAOVinput")->setValue(150);
+    auto* const gears = workspace.Find<QComboBox>("GearCombo");
     Q_EMIT gears->activated(gears->currentIndex());
-    EXPECT_EQ(desk.Record(1).InputAOV, 150.0F);
+    EXPECT_EQ(workspace.Record(1).InputAOV, 150.0F);
 }
 
 TEST(MainWindow, AGearForAllReachesEachPhotoByAClick) {
-    WindowDesk desk;
-    desk.AddGear(Q("other"), 100.0F);
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp")});
-    desk.Find<QComboBox>("GearCombo")->setCurrentIndex(1);
-    desk.Slider("SliderAOVinput")->setValue(133);
-    desk.Click("CmdApplyAll");
-    EXPECT_EQ(desk.Record(2).GearName, Q("other"));
-    EXPECT_FALSE(desk.Record(1).SettingsApplied);
-    EXPECT_EQ(desk.Record(1).InputAOV, 133.0F);
-    desk.ClickLine(0);  // current already
-    EXPECT_EQ(desk.Record(1).InputAOV, 100.0F);
-    EXPECT_EQ(desk.Slider("SliderAOVinput")->value(), 100);
+    TestWindow workspace;
+    workspace.AddGear(Q("other"), 100.0F);
+    workspace.AddPhotos({Q("a.bmp"), Q("b.bmp")});
+    workspace.Find<QComboBox>("GearCombo")->setCurrentIndex(1);
+    workspace.Slider("SliderAOVinput")->setValue(133);
+    workspace.Click("CmdApplyAll");
+    EXPECT_EQ(workspace.Record(2).GearName, Q("other"));
+    EXPECT_FALSE(workspace.Record(1).SettingsApplied);
+    EXPECT_EQ(workspace.Record(1).InputAOV, 133.0F);
+    workspace.ClickLine(0);  // current already
+    EXPECT_EQ(workspace.Record(1).InputAOV, 100.0F);
+    EXPECT_EQ(workspace.Slider("SliderAOVinput")->value(), 100);
 }
 
 TEST(MainWindow, RemovingClosesTheGapsAndAnEmptyListEmptiesThePictures) {
-    WindowDesk desk;
-    const QImage empty = desk.Shown("PicSmallTo");
-    desk.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp"), Q("d.bmp")});
-    desk.ClickLine(0);
-    desk.ClickLine(2, Qt::ControlModifier);
-    desk.Click("CmdRemoveImages");
-    ASSERT_EQ(desk.state.Images.UpperBound(), 2);
-    EXPECT_EQ(desk.Record(1).FileName, Q("b.bmp"));
-    EXPECT_EQ(desk.Record(2).FileName, Q("d.bmp"));
-    EXPECT_EQ(desk.Record(1).Width, 60);  // line 0 became current as by a click
-    desk.ClickLine(0);
-    desk.ClickLine(1, Qt::ShiftModifier);
-    desk.Press("ImageList1", Qt::Key_Delete);
-    EXPECT_TRUE(desk.state.Images.Empty());
-    EXPECT_EQ(desk.Shown("PicSmallTo"), empty);
-    EXPECT_FALSE(desk.Find("CommandSaveFreeimage")->isEnabled());
-    EXPECT_FALSE(desk.state.bitmaps.FullSourceBitmap);
+    TestWindow workspace;
+    const QImage empty = workspace.Shown("PicSmallTo");
+    workspace.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp"), Q("d.bmp")});
+    workspace.ClickLine(0);
+    workspace.ClickLine(2, Qt::ControlModifier);
+    workspace.Click("CmdRemoveImages");
+    ASSERT_EQ(workspace.state.Images.UpperBound(), 2);
+    EXPECT_EQ(workspace.Record(1).FileName, Q("b.bmp"));
+    EXPECT_EQ(workspace.Record(2).FileName, Q("d.bmp"));
+    EXPECT_EQ(workspace.Record(1).Width, 60);  // line 0 became current as by a click
+    workspace.ClickLine(0);
+    workspace.ClickLine(1, Qt::ShiftModifier);
+    workspace.Press("ImageList1", Qt::Key_Delete);
+    EXPECT_TRUE(workspace.state.Images.Empty());
+    EXPECT_EQ(workspace.Shown("PicSmallTo"), empty);
+    EXPECT_FALSE(workspace.Find("CommandSaveFreeimage")->isEnabled());
+    EXPECT_FALSE(workspace.state.bitmaps.FullSourceBitmap);
 }
 
 TEST(MainWindow, TheDefaultsChangeThePreviewsSize) {
-    WindowDesk desk;
-    desk.AddPhotos({Q("a.bmp")}, {900, 600});
-    EXPECT_EQ(SizeOf(desk.state.bitmaps.PreviewSourceBitmap.get()).width, 400);
-    desk.dialogs.onDefaults = [&] {
-        desk.state.settings.PreviewWidth = 200;
-        desk.state.settings.PreviewHeight = 200;
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")}, {900, 600});
+    EXPECT_EQ(SizeOf(workspace.state.bitmaps.PreviewSourceBitmap.get()).width, 400);
+    workspace.dialogs.onDefaults = [&] {
+        workspace.state.settings.PreviewWidth = 200;
+        workspace.state.settings.PreviewHeight = 200;
     };
-    desk.Entry("CmdSetupSetup")->trigger();
-    EXPECT_EQ(SizeOf(desk.state.bitmaps.PreviewSourceBitmap.get()).width, 200);
-    EXPECT_EQ(desk.Find("PicSmallTo")->size(), QSize(200, 200));
+    workspace.Entry("CmdSetupSetup")->trigger();
+    EXPECT_EQ(SizeOf(workspace.state.bitmaps.PreviewSourceBitmap.get()).width, 200);
+    EXPECT_EQ(workspace.Find("PicSmallTo")->size(), QSize(200, 200));
 }
 
 }  // namespace

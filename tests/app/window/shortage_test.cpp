@@ -10,8 +10,8 @@
 #include "pipeline/dialogs/form_stretch.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/picture_memory.h"
+#include "tests/support/test_window.h"
 #include "tests/support/texts.h"
-#include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
@@ -38,35 +38,35 @@ int WithEveryLimit(const std::function<void()>& act, const std::function<void(in
 
 class ShortageTest : public ::testing::Test {
   protected:
-    ShortageTest() { desk.AddPhotos({Text("a.bmp"), Text("b.bmp")}, {600, 400}); }
+    ShortageTest() { workspace.AddPhotos({Text("a.bmp"), Text("b.bmp")}, {600, 400}); }
     // Nothing is left busy, and the next deed works.
     void ExpectGoesOn(int pictures) {
         QApplication::processEvents();
         EXPECT_EQ(QApplication::overrideCursor(), nullptr) << pictures;
-        EXPECT_TRUE(desk.Slider("SliderEffect")->isEnabled()) << pictures;
-        desk.ClickLine(pictures % 2);
-        EXPECT_TRUE(desk.state.bitmaps.ResultBitmap) << pictures;
+        EXPECT_TRUE(workspace.Slider("SliderEffect")->isEnabled()) << pictures;
+        workspace.ClickLine(pictures % 2);
+        EXPECT_TRUE(workspace.state.bitmaps.ResultBitmap) << pictures;
     }
-    QString Status() { return desk.Label("StatusText"); }
+    QString Status() { return workspace.Label("StatusText"); }
 
-    testing::WindowDesk desk;
+    testing::TestWindow workspace;
 };
 
 TEST_F(ShortageTest, OfThePreviewIsSaidInTheStatusOrOfAPhotoInABox) {
     const std::pair<const char*, std::function<void()>> deeds[] = {
-        {"a line", [&] { desk.ClickLine(1); }},
-        {"the preview's button", [&] { desk.Click("CmdFreeImage"); }},
+        {"a line", [&] { workspace.ClickLine(1); }},
+        {"the preview's button", [&] { workspace.Click("CmdFreeImage"); }},
         {"a slider",
          [&] {
-             desk.state.bitmaps.ResultBitmap.reset();  // else the next one takes its place
-             desk.Press("SliderAOVinput", Qt::Key_Right);
+             workspace.state.bitmaps.ResultBitmap.reset();  // else the next one takes its place
+             workspace.Press("SliderAOVinput", Qt::Key_Right);
          }},
-        {"the defaults", [&] { desk.Entry("CmdSetupSetup")->trigger(); }},
+        {"the defaults", [&] { workspace.Entry("CmdSetupSetup")->trigger(); }},
     };
     for (const auto& [name, deed] : deeds) {
         const int limits = WithEveryLimit(deed, [&, name = name](int pictures) {
-            EXPECT_TRUE(Status() == noMemory || desk.notices.texts.size() == 1) << name;
-            desk.notices.texts.clear();
+            EXPECT_TRUE(Status() == noMemory || workspace.notices.texts.size() == 1) << name;
+            workspace.notices.texts.clear();
             ExpectGoesOn(pictures);
         });
         EXPECT_GT(limits, 0) << name;
@@ -74,21 +74,21 @@ TEST_F(ShortageTest, OfThePreviewIsSaidInTheStatusOrOfAPhotoInABox) {
 }
 
 TEST_F(ShortageTest, OfTheRoomLeavesNoPreviewUntilThereIsMemoryAgain) {
-    const QSize size = desk.window.size();
+    const QSize size = workspace.window.size();
     {
         const PictureLimit none(0);
-        desk.window.resize(size / 2);
+        workspace.window.resize(size / 2);
         EXPECT_TRUE(QTest::qWaitFor([&] { return Status() == noMemory; }));
-        EXPECT_FALSE(desk.state.bitmaps.PreviewSourceBitmap);
+        EXPECT_FALSE(workspace.state.bitmaps.PreviewSourceBitmap);
     }
-    desk.window.resize(size);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return bool(desk.state.bitmaps.ResultBitmap); }));
+    workspace.window.resize(size);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bool(workspace.state.bitmaps.ResultBitmap); }));
 }
 
 TEST_F(ShortageTest, ClosesTheContactSheetAndIsSaid) {
-    auto* const sheet = desk.Find<ContactSheetBox>("ContactSheet");
+    auto* const sheet = workspace.Find<ContactSheetBox>("ContactSheet");
     const auto open = [&] {
-        desk.Entry("CmdContactSheet")->trigger();
+        workspace.Entry("CmdContactSheet")->trigger();
         EXPECT_TRUE(QTest::qWaitFor([&] { return sheet->IsDrawn() || !sheet->isVisible(); }));
     };
     const int limits = WithEveryLimit(open, [&](int pictures) {
@@ -98,7 +98,7 @@ TEST_F(ShortageTest, ClosesTheContactSheetAndIsSaid) {
     });
     EXPECT_GT(limits, 12);
     const PictureLimit none(0);
-    desk.window.resize(desk.window.size() - QSize(120, 60));
+    workspace.window.resize(workspace.window.size() - QSize(120, 60));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !sheet->isVisible(); }));
     EXPECT_EQ(Status(), noMemory);
 }
@@ -106,10 +106,10 @@ TEST_F(ShortageTest, ClosesTheContactSheetAndIsSaid) {
 TEST_F(ShortageTest, OfTheStretchToolIsToldAndItOpensTheNextPhoto) {
     testing::NotedNotices notices;
     FormStretch form(
-        desk.state.settings, desk.photos, [](const QString&) { return QString(); }, desk.chooser,
-        notices);
+        workspace.state.settings, workspace.photos, [](const QString&) { return QString(); },
+        workspace.chooser, notices);
     form.show();
-    const QString path = desk.files.Path(Text("a.bmp"));
+    const QString path = workspace.files.Path(Text("a.bmp"));
     const auto open = [&] {
         form.Open(path);
         QTest::qWait(20);  // fitting and drawing
@@ -128,9 +128,9 @@ TEST_F(ShortageTest, OfTheMorphStandsInThePicturesPlace) {
     testing::NotedNotices notices;
     std::unique_ptr<FormMorph> form;
     const auto open = [&] {
-        form = std::make_unique<FormMorph>(desk.Record(1),
-                                           desk.state.bitmaps.PreviewSourceBitmap.get(),
-                                           desk.state.BatchQueue, notices, [](int) {});
+        form = std::make_unique<FormMorph>(workspace.Record(1),
+                                           workspace.state.bitmaps.PreviewSourceBitmap.get(),
+                                           workspace.state.BatchQueue, notices, [](int) {});
         form->show();
         QApplication::processEvents();
     };

@@ -7,12 +7,12 @@
 
 #include "app/picture/contact_sheet_box.h"
 #include "tests/app/access/every_form.h"
-#include "tests/support/window_desk.h"
+#include "tests/support/test_window.h"
 
 namespace varnel {
 namespace {
 
-using testing::WindowDesk;
+using testing::TestWindow;
 
 class ThinPhotos : public ::testing::TestWithParam<PixelSize> {};
 
@@ -21,16 +21,16 @@ TEST_P(ThinPhotos, AreShownInEveryForm) {
 }
 
 // Everything that can lie over a picture, in every projection, whole and enlarged.
-void UseEveryTool(WindowDesk& desk) {
+void UseEveryTool(TestWindow& workspace) {
     for (const char* const entry : {"CmdViewFrame", "CmdViewMagnification", "CmdViewGrid",
                                     "CmdViewCross", "CmdViewCircle", "CmdToolsLevel"}) {
-        desk.Entry(entry)->trigger();
+        workspace.Entry(entry)->trigger();
         for (const char* const zoom : {"CmdViewActual", "CmdViewZoomIn", "CmdViewFit"}) {
-            desk.Entry(zoom)->trigger();
+            workspace.Entry(zoom)->trigger();
             QApplication::processEvents();
-            desk.window.grab();
+            workspace.window.grab();
             for (const char* const name : {"PicSmallFrom", "PicSmallTo"}) {
-                QWidget* const picture = desk.Find(name);
+                QWidget* const picture = workspace.Find(name);
                 const QPoint middle = picture->rect().center();
                 QTest::mousePress(picture, Qt::LeftButton, {}, middle);
                 QTest::mouseMove(picture, middle + QPoint(20, 9));
@@ -39,35 +39,35 @@ void UseEveryTool(WindowDesk& desk) {
             }
         }
     }
-    desk.Entry("CmdViewCircle")->trigger();
-    desk.Click("CmdCircleFind");
+    workspace.Entry("CmdViewCircle")->trigger();
+    workspace.Click("CmdCircleFind");
 }
 
 TEST_P(ThinPhotos, CanBeWorkedOnWithEveryTool) {
-    WindowDesk desk([] { return NewPictureReader(); });
-    desk.AddPhotos({QStringLiteral("sound.bmp")});
-    desk.AddPhotos({QStringLiteral("thin.bmp")}, GetParam());
-    auto* const list = desk.Find<QListWidget>("ImageList1");
+    TestWindow workspace([] { return NewPictureReader(); });
+    workspace.AddPhotos({QStringLiteral("sound.bmp")});
+    workspace.AddPhotos({QStringLiteral("thin.bmp")}, GetParam());
+    auto* const list = workspace.Find<QListWidget>("ImageList1");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !list->item(1)->icon().isNull(); }));
     list->grab();
-    desk.ClickLine(1);
+    workspace.ClickLine(1);
     for (const char* const projection :
          {"OptionRemap_0", "OptionRemap_1", "OptionRemap_2", "OptionRemap_3"}) {
-        desk.Click(projection);
-        desk.Slider("SliderAOVoutput")->setValue(100);
+        workspace.Click(projection);
+        workspace.Slider("SliderAOVoutput")->setValue(100);
         // A picture, or the number for which there is none.
-        EXPECT_EQ(desk.Find<PictureBox>("PicSmallTo")->Empty(),
-                  desk.Label("StatusText").startsWith(QStringLiteral("Division by zero: ")))
+        EXPECT_EQ(workspace.Find<PictureBox>("PicSmallTo")->Empty(),
+                  workspace.Label("StatusText").startsWith(QStringLiteral("Division by zero: ")))
             << projection;
-        UseEveryTool(desk);
+        UseEveryTool(workspace);
     }
-    desk.Entry("CmdContactSheet")->trigger();
-    auto* const sheet = desk.Find<ContactSheetBox>("ContactSheet");
+    workspace.Entry("CmdContactSheet")->trigger();
+    auto* const sheet = workspace.Find<ContactSheetBox>("ContactSheet");
     EXPECT_TRUE(QTest::qWaitFor([&] { return sheet->IsDrawn(); }));
     sheet->grab();
-    desk.chooser.answer = SaveChoice{desk.files.Path(QStringLiteral("out")), 4};
-    desk.Click("CommandSaveFreeimage");
-    EXPECT_NE(desk.notices.texts.isEmpty(), desk.Find<PictureBox>("PicSmallTo")->Empty());
+    workspace.chooser.answer = SaveChoice{workspace.files.Path(QStringLiteral("out")), 4};
+    workspace.Click("CommandSaveFreeimage");
+    EXPECT_NE(workspace.notices.texts.isEmpty(), workspace.Find<PictureBox>("PicSmallTo")->Empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ThinPhotos,

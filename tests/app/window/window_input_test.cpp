@@ -7,20 +7,20 @@
 
 #include <QComboBox>
 
+#include "tests/support/test_window.h"
 #include "tests/support/texts.h"
-#include "tests/support/window_desk.h"
 
 namespace varnel {
 namespace {
 
+using testing::TestWindow;
 using testing::Text;
-using testing::WindowDesk;
 
 TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
-    WindowDesk desk;
-    desk.AddPhotos({Text("a.bmp")});
-    QSlider* const slider = desk.Slider("SliderAOVinput");
-    desk.Find("ImageList1")->setFocus();
+    TestWindow workspace;
+    workspace.AddPhotos({Text("a.bmp")});
+    QSlider* const slider = workspace.Slider("SliderAOVinput");
+    workspace.Find("ImageList1")->setFocus();
     const auto roll = [&] {
         QWheelEvent wheel({5, 5}, slider->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -29,7 +29,7 @@ TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
     const int before = slider->value();
     roll();
     EXPECT_EQ(slider->value(), before);
-    auto* const gears = desk.Find<QComboBox>("GearCombo");
+    auto* const gears = workspace.Find<QComboBox>("GearCombo");
     gears->addItem(Text("another"));
     QWheelEvent overGears({5, 5}, gears->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -43,7 +43,7 @@ TEST(MainWindow, AWheelThatPassesOverASliderChangesNothing) {
 // What can be done to the list's selection, on three photos of which the first is current.
 struct Deed {
     const char* name;
-    std::function<void(WindowDesk&, QListWidget&)> act;
+    std::function<void(TestWindow&, QListWidget&)> act;
     int line;  // the current one afterwards
     std::vector<int> selected;
 };
@@ -55,16 +55,16 @@ void MouseOnLine(QListWidget& list, int line, Qt::MouseButton button) {
 
 std::vector<Deed> Deeds() {
     const auto key = [](Qt::Key pressed, Qt::KeyboardModifiers modifiers) {
-        return [=](WindowDesk&, QListWidget& list) { QTest::keyClick(&list, pressed, modifiers); };
+        return [=](TestWindow&, QListWidget& list) { QTest::keyClick(&list, pressed, modifiers); };
     };
     const auto controlClick = [](int line, Qt::MouseButton button = Qt::LeftButton) {
-        return [=](WindowDesk&, QListWidget& list) { MouseOnLine(list, line, button); };
+        return [=](TestWindow&, QListWidget& list) { MouseOnLine(list, line, button); };
     };
     const auto onEmptyPart = [](bool drag) {
-        return [=](WindowDesk& desk, QListWidget& list) {
-            desk.ClickLine(2, Qt::ControlModifier);
-            desk.ClickLine(0, Qt::ControlModifier);
-            desk.ClickLine(0, Qt::ControlModifier);
+        return [=](TestWindow& workspace, QListWidget& list) {
+            workspace.ClickLine(2, Qt::ControlModifier);
+            workspace.ClickLine(0, Qt::ControlModifier);
+            workspace.ClickLine(0, Qt::ControlModifier);
             const QPoint below = list.viewport()->rect().bottomLeft() + QPoint(5, -5);
             QTest::mousePress(list.viewport(), Qt::LeftButton, {}, below);
             if (drag) {
@@ -74,12 +74,12 @@ std::vector<Deed> Deeds() {
         };
     };
     const auto entry = [](const char* name) {
-        return [=](WindowDesk& desk, QListWidget&) { desk.Entry(name)->trigger(); };
+        return [=](TestWindow& workspace, QListWidget&) { workspace.Entry(name)->trigger(); };
     };
     const auto then = [](auto first, auto second) {
-        return [=](WindowDesk& desk, QListWidget& list) {
-            first(desk, list);
-            second(desk, list);
+        return [=](TestWindow& workspace, QListWidget& list) {
+            first(workspace, list);
+            second(workspace, list);
         };
     };
     const auto remove = key(Qt::Key_Delete, {});
@@ -91,8 +91,8 @@ std::vector<Deed> Deeds() {
         {"Ctrl+right click on another", controlClick(1, Qt::RightButton), 1, {0, 1}},
         {"Ctrl+Space", key(Qt::Key_Space, Qt::ControlModifier), 0, {0}},
         {"Ctrl+Down", key(Qt::Key_Down, Qt::ControlModifier), 1, {0, 1}},
-        {"no selection", [](WindowDesk&, QListWidget& list) { list.clearSelection(); }, 0, {0}},
-        {"nothing", [](WindowDesk&, QListWidget& list) { list.selectionModel()->clear(); }, 0, {0}},
+        {"no selection", [](TestWindow&, QListWidget& list) { list.clearSelection(); }, 0, {0}},
+        {"nothing", [](TestWindow&, QListWidget& list) { list.selectionModel()->clear(); }, 0, {0}},
         {"moving", key(Qt::Key_Down, Qt::AltModifier), 1, {1}},
         {"removing", remove, 0, {0}},
         {"taking it back", then(remove, entry("CmdEditUndo")), 1, {1}},
@@ -101,10 +101,10 @@ std::vector<Deed> Deeds() {
 
 TEST(PhotoList, KeepsTheCurrentLineSelectedSoThatTheSlidersReachIt) {
     for (const Deed& deed : Deeds()) {
-        WindowDesk desk;
-        desk.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
-        auto* const list = desk.Find<QListWidget>("ImageList1");
-        deed.act(desk, *list);
+        TestWindow workspace;
+        workspace.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
+        auto* const list = workspace.Find<QListWidget>("ImageList1");
+        deed.act(workspace, *list);
         QApplication::processEvents();
         EXPECT_EQ(list->currentRow(), deed.line) << deed.name;
         std::vector<int> selected;
@@ -114,9 +114,9 @@ TEST(PhotoList, KeepsTheCurrentLineSelectedSoThatTheSlidersReachIt) {
             }
         }
         EXPECT_EQ(selected, deed.selected) << deed.name;
-        desk.Slider("SliderAOVinput")->setValue(99);
-        EXPECT_EQ(desk.Record(deed.line + 1).InputAOV, 99.0F) << deed.name;
-        EXPECT_TRUE(desk.window.windowTitle().startsWith(list->item(deed.line)->text()));
+        workspace.Slider("SliderAOVinput")->setValue(99);
+        EXPECT_EQ(workspace.Record(deed.line + 1).InputAOV, 99.0F) << deed.name;
+        EXPECT_TRUE(workspace.window.windowTitle().startsWith(list->item(deed.line)->text()));
     }
 }
 

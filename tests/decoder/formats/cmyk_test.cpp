@@ -47,7 +47,7 @@ TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
     for (const QByteArray& file :
          {Inked(FIF_JPEG, 100, true), Inked(FIF_TIFF, TIFF_CMYK | TIFF_LZW, true)}) {
         const LoadedPicture picture = testing::Decode(file);
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetICCProfile(picture.bitmap.get())->data, nullptr);
         for (std::size_t n = 0; n < std::size(colours); ++n) {
             const RGBQUAD colour =
@@ -62,7 +62,7 @@ TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
 
 TEST(DecodePicture, InksWithoutAProfileAreTakenByRuleOfThumb) {
     const LoadedPicture picture = testing::Decode(Inked(FIF_JPEG, 100, false));
-    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
     const RGBQUAD cyan = testing::PixelAt(picture.bitmap.get(), 3 * side + side / 2, 5);
     EXPECT_LT(cyan.rgbRed, 20);
     EXPECT_GT(cyan.rgbBlue, 200);

@@ -36,7 +36,7 @@ TEST(SeedFiles, SoundOnesLoadInTheirSizeOrAreRefusedWithAReason) {
             EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << seed.name;
         }
         EXPECT_EQ(picture.reason.isEmpty(), picture.outcome == LoadOutcome::Loaded)
-            << seed.name << ": " << ToldReason(picture.reason).toStdString();
+            << seed.name << ": " << ErrorText(picture.reason).toStdString();
         if (picture.bitmap) {
             EXPECT_EQ(picture.size.width, seed.size.width) << seed.name;
             EXPECT_EQ(picture.size.height, seed.size.height) << seed.name;
@@ -54,16 +54,16 @@ TEST_P(DamagedFiles, GetAnAnswerInTimeAndLeaveTheReaderSound) {
     testing::DamageTrial trial(secondsPerPhoto);
     const QByteArray& good = testing::SeedFiles().front().bytes;
     const LoadedPicture first = trial.Read(good);
-    ASSERT_EQ(first.outcome, LoadOutcome::Loaded) << ToldReason(first.reason).toStdString();
+    ASSERT_EQ(first.outcome, LoadOutcome::Loaded) << ErrorText(first.reason).toStdString();
     for (int i = 0; i < files; ++i) {
         const auto file = testing::MakeDamagedFile(testing::SeedFiles(), 1, GetParam() * files + i);
-        const QString trouble = trial.Try(file);
-        EXPECT_TRUE(trouble.isEmpty())
-            << i << " of " << file.seed.name << ": " << trouble.toStdString();
+        const QString error = trial.Try(file);
+        EXPECT_TRUE(error.isEmpty())
+            << i << " of " << file.seed.name << ": " << error.toStdString();
     }
     std::cout << trial.Tally().Table();
     const LoadedPicture last = trial.Read(good);
-    ASSERT_EQ(last.outcome, LoadOutcome::Loaded) << ToldReason(last.reason).toStdString();
+    ASSERT_EQ(last.outcome, LoadOutcome::Loaded) << ErrorText(last.reason).toStdString();
     EXPECT_TRUE(testing::SamePixels(last.bitmap.get(), first.bitmap.get()));
 }
 
@@ -107,7 +107,7 @@ TEST_P(Bombs, AreRefusedAtOnceAndTakeNoMemory) {
             QElapsedTimer timer;
             timer.start();
             const LoadedPicture picture = ReadPicture(*reader, {path, kind, {60, 60}});
-            const std::string reason = ToldReason(picture.reason).toStdString();
+            const std::string reason = ErrorText(picture.reason).toStdString();
             std::cout << bomb.name << ": " << timer.elapsed() << " ms, " << reason << '\n';
             EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << bomb.name;
             EXPECT_TRUE(!picture.reason.isEmpty() && reason.starts_with(start))

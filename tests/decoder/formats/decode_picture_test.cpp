@@ -71,7 +71,7 @@ TEST(DecodePicture, EveryKindOfBmpComesWithItsPixelsAndResolution) {
         SCOPED_TRACE(::testing::Message() << kind.headerBytes << " bytes, " << kind.depth
                                           << " bits, coding " << kind.coding);
         const LoadedPicture picture = Decode(testing::Bmp(kind, {21, 10}));
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
         for (const auto& [x, y] : {std::pair{0, 0}, {20, 0}, {13, 6}, {20, 9}}) {
             EXPECT_TRUE(PixelAt(picture.bitmap.get(), x, y) == kind.Colour(x, y)) << x << ' ' << y;
@@ -89,12 +89,12 @@ TEST(DecodePicture, DeepGreyIsCutToEightBitsAndFloatGreyStretched) {
     const BitmapHandle floats = OfSamples<float>(FIT_FLOAT, 4, {0, none, 50, 200});
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_PNG}) {
         const LoadedPicture picture = Decode(Saved(format, deep.get()));
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         ExpectColour(picture.bitmap.get(), 0, {0x10, 0x10, 0x10});
         ExpectColour(picture.bitmap.get(), 2, {0xC0, 0xC0, 0xC0});
     }
     const LoadedPicture picture = Decode(Saved(FIF_TIFF, floats.get()));
-    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
     ExpectColour(picture.bitmap.get(), 1, {0, 0, 0});
     ExpectColour(picture.bitmap.get(), 2, {64, 64, 64});
     ExpectColour(picture.bitmap.get(), 3, {255, 255, 255});
@@ -107,7 +107,7 @@ TEST(DecodePicture, FloatColourWithinOneGetsTheScreensCurve) {
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_EXR, FIF_PFM}) {
         const LoadedPicture picture = Decode(Saved(format, light.get()));
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
-            << format << ": " << ToldReason(picture.reason).toStdString();
+            << format << ": " << ErrorText(picture.reason).toStdString();
         ExpectColour(picture.bitmap.get(), 0, {188, 118, 0});
         ExpectColour(picture.bitmap.get(), 1, {255, 0, 188});
         ExpectColour(picture.bitmap.get(), 2, {118, 118, 118});
@@ -129,7 +129,7 @@ TEST(DecodePicture, FloatColourOfAnyScaleIsExposedAndBadSamplesAreSafe) {
         for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_HDR}) {
             const LoadedPicture picture = Decode(Saved(format, bitmap.get()));
             ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
-                << ToldReason(picture.reason).toStdString();
+                << ErrorText(picture.reason).toStdString();
             for (const auto& [x, value] : {std::pair{0, 36}, {1, 112}, {2, 255}}) {
                 EXPECT_NEAR(PixelAt(picture.bitmap.get(), x, 0).rgbGreen, value, 2) << x;
             }
@@ -140,7 +140,7 @@ TEST(DecodePicture, FloatColourOfAnyScaleIsExposedAndBadSamplesAreSafe) {
     const BitmapHandle bad = OfSamples<float>(
         FIT_RGBAF, 3, {none, 1, -endless, 1, endless, endless, endless, none, -1, -1, -1, 1});
     const LoadedPicture picture = Decode(Saved(FIF_TIFF, bad.get()));
-    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
     ExpectColour(picture.bitmap.get(), 1, {255, 255, 255});
     ExpectColour(picture.bitmap.get(), 2, {0, 0, 0});
     EXPECT_EQ(PixelAt(picture.bitmap.get(), 0, 0).rgbRed, 0);
@@ -162,7 +162,7 @@ TEST(DecodePicture, OnlyAProfileOfRgbAndTheResolutionReachTheResult) {
         FreeImage_CreateICCProfile(bitmap.get(), profile.data(), static_cast<long>(profile.size()));
         FreeImage_SetDotsPerMeterX(bitmap.get(), 4000);
         const LoadedPicture picture = Decode(Saved(FIF_TIFF, bitmap.get()));
-        ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
+        ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetICCProfile(picture.bitmap.get())->size,
                   row.kept ? profile.size() : 0)
             << row.colours << ' ' << row.depth;
@@ -202,7 +202,7 @@ TEST(DecodePicture, SoundFilesLoadAndCutOnesNeverPassAsSound) {
     for (const auto& [name, whole, size, loads] : SoundFiles()) {
         const LoadedPicture sound = Decode(whole);
         EXPECT_EQ(sound.outcome, LoadOutcome::Loaded)
-            << name << ": " << ToldReason(sound.reason).toStdString();
+            << name << ": " << ErrorText(sound.reason).toStdString();
         for (int percent = 1; percent < 100; ++percent) {
             const LoadedPicture cut = Decode(whole.left(whole.size() * percent / 100));
             EXPECT_NE(cut.outcome, LoadOutcome::Loaded) << name << " at " << percent;
@@ -249,7 +249,7 @@ TEST(DecodePicture, ASmallOneFitsTheBoxAndIsNeverEnlarged) {
         });
         for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_TIFF}) {
             const LoadedPicture small = Decode(Saved(format, bitmap.get(), 0), ReadKind::Small);
-            ASSERT_TRUE(small.bitmap) << ToldReason(small.reason).toStdString();
+            ASSERT_TRUE(small.bitmap) << ErrorText(small.reason).toStdString();
             EXPECT_EQ(SizeOf(small.bitmap.get()).width, row.expected.width);
             EXPECT_EQ(SizeOf(small.bitmap.get()).height, row.expected.height);
             EXPECT_EQ(small.size.width, row.picture.width);
@@ -280,7 +280,7 @@ TEST(DecodePicture, WhatIsNoPhotoIsRefusedWithItsReason) {
     for (const auto& row : rows) {
         const LoadedPicture picture = Decode(row.contents);
         EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
-        EXPECT_EQ(ToldReason(picture.reason).toStdString(), row.reason);
+        EXPECT_EQ(ErrorText(picture.reason).toStdString(), row.reason);
         EXPECT_FALSE(picture.bitmap);
     }
 }

@@ -114,7 +114,7 @@ TEST(DecodePicture, TurnsEveryTypeOnceAndSaysSo) {
         for (const QByteArray& file : files) {
             SCOPED_TRACE(::testing::Message() << orientation << file.left(4).constData());
             const LoadedPicture picture = Decode(file, {});
-            ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
+            ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
             EXPECT_EQ(Letters(picture.bitmap.get()), shown[orientation - 1]);
             EXPECT_EQ(picture.orientation, orientation);
             EXPECT_EQ(picture.size.height, orientation < 5 ? 2 : 3);

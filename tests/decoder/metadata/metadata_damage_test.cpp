@@ -82,7 +82,7 @@ class MetadataTrial {
         const LoadedPicture picture = Read(kind_.file(blocks));
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
         slowest_ = std::max(slowest_, timer.elapsed());
-        EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        EXPECT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         if (!picture.bitmap) {
             return "lost";
         }
@@ -112,12 +112,12 @@ class MetadataTrial {
         for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_TIFF, FIF_PNG}) {
             const EncodedBitmap file = EncodeBitmap(format, bitmap, 0);
             const LoadedPicture again = Read(file.bytes);
-            EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << ToldReason(again.reason).toStdString();
+            EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << ErrorText(again.reason).toStdString();
             if (again.bitmap) {
                 EXPECT_TRUE(format == FIF_JPEG || PixelBytes(again.bitmap.get()) == sound_)
                     << format;
                 const Reasons notes = MetadataOf(again.bitmap.get()).notes;
-                EXPECT_TRUE(notes.isEmpty()) << format << ToldReason(Joined(notes)).toStdString();
+                EXPECT_TRUE(notes.isEmpty()) << format << ErrorText(Joined(notes)).toStdString();
             }
         }
     }
@@ -261,7 +261,7 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
         timer.start();
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(PixelBytes(picture.bitmap.get()), QByteArray(24, 'p'));
         EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, Reasons{allLost});
     }

@@ -50,7 +50,7 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
     DecoderReader reader({});
     for (int round = 0; round < 3; ++round) {
         const LoadedPicture picture = ReadPicture(reader, {folder.Path(Text("a"))});
-        ASSERT_TRUE(picture.bitmap) << ToldReason(picture.reason).toStdString();
+        ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
         FIBITMAP* const bitmap = picture.bitmap.get();
         EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
         EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
@@ -89,7 +89,7 @@ TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
         }
         const LoadedPicture picture = reader.Take();
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
-            << n << ToldReason(picture.reason).toStdString();
+            << n << ErrorText(picture.reason).toStdString();
         EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), whole.bitmap.get()));
     }
 }
@@ -118,7 +118,7 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
         timer.start();
         const LoadedPicture picture = ReadPicture(reader, {photo});
         EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded);
-        const QString reason = ToldReason(picture.reason);
+        const QString reason = ErrorText(picture.reason);
         EXPECT_TRUE(reason.startsWith(Text(row.reason))) << reason.toStdString();
         EXPECT_LT(timer.elapsed(), 20'000);
     }
@@ -134,7 +134,7 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
     };
     for (const auto& row : dying) {
         DecoderReader reader({.program = Impostor(folder, row.script)});
-        EXPECT_EQ(ToldReason(ReadPicture(reader, {photo}).reason).toStdString(), row.reason);
+        EXPECT_EQ(ErrorText(ReadPicture(reader, {photo}).reason).toStdString(), row.reason);
     }
 }
 
@@ -262,7 +262,7 @@ TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {
 }
 
 // Each row spoils one number of an answer that is believed.
-TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
+TEST(IsConsistent, OnlyAnswersWhoseNumbersAgree) {
     const DecoderRequest request{7, ReadKind::Whole, {}, std::uint64_t{1} << 32, 30};
     DecoderAnswer good;
     good.number = 7;
@@ -270,8 +270,8 @@ TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
     good.pitch = 304;
     good.extrasLength = 20;
     constexpr std::uint64_t length = 304 * 50 + 20;
-    ASSERT_TRUE(Believable(good, request, length));
-    ASSERT_FALSE(Believable(good, request, length - 1));
+    ASSERT_TRUE(IsConsistent(good, request, length));
+    ASSERT_FALSE(IsConsistent(good, request, length - 1));
     const std::function<void(DecoderAnswer&)> spoil[] = {
         [](DecoderAnswer& a) { a.number = 6; },
         [](DecoderAnswer& a) { a.outcome = 3; },
@@ -302,21 +302,21 @@ TEST(Believable, OnlyAnswersWhoseNumbersAgree) {
     for (std::size_t n = 0; n < std::size(spoil); ++n) {
         DecoderAnswer spoilt = good;
         spoil[n](spoilt);
-        EXPECT_FALSE(Believable(spoilt, request, length)) << n;
+        EXPECT_FALSE(IsConsistent(spoilt, request, length)) << n;
     }
     DecoderRequest asStored = request;
     asStored.upright = false;
-    EXPECT_TRUE(Believable(good, asStored, length));
+    EXPECT_TRUE(IsConsistent(good, asStored, length));
     DecoderAnswer turned = good;
     turned.orientation = 8;
-    EXPECT_TRUE(Believable(turned, request, length));
-    EXPECT_FALSE(Believable(turned, asStored, length));
+    EXPECT_TRUE(IsConsistent(turned, request, length));
+    EXPECT_FALSE(IsConsistent(turned, asStored, length));
     DecoderRequest small = request;
     small.kind = ReadKind::Small;
     small.box = {100, 100};
-    EXPECT_FALSE(Believable(good, small, length));
+    EXPECT_FALSE(IsConsistent(good, small, length));
     small.kind = ReadKind::Size;
-    EXPECT_FALSE(Believable(good, small, length));
+    EXPECT_FALSE(IsConsistent(good, small, length));
 }
 
 TEST(ReasonOf, CutsOnlyTextsThatAreTooLong) {

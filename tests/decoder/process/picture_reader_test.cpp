@@ -31,7 +31,7 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
         const QString path = folder.Picture(Text("Küste %1.jpg").arg(format), format);
         const LoadedPicture picture = LoadPicture(path);
-        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ToldReason(picture.reason).toStdString();
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
         EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
         EXPECT_EQ(SizeAt(path).height, 40);
@@ -66,7 +66,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
             const LoadedPicture picture =
                 ReadPicture(testing::Reader(), {folder.Path(Text(name)), kind, {108, 72}});
             EXPECT_EQ(picture.outcome, LoadOutcome::NotLoaded) << name;
-            EXPECT_EQ(ToldReason(picture.reason).toStdString(), reason);
+            EXPECT_EQ(ErrorText(picture.reason).toStdString(), reason);
             EXPECT_FALSE(picture.bitmap);
         }
     }

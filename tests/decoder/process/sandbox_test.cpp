@@ -149,7 +149,7 @@ class Walls : public ::testing::Test {
     void* page_ = mmap(nullptr, 4096, PROT_READ, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     QString path_ = folder_.Path(Text("photo"));
     QByteArray name_ = QFile::encodeName(path_);
-    MemoryFile memoryFile_{1};
+    SharedMemory memoryFile_{1};
     DecoderRequest request_;
 };
 

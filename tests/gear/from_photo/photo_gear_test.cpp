@@ -161,7 +161,7 @@ struct LensCase {
     const char* lens;
 };
 
-PhotoOrigin Origin(const LensCase& c) {
+CameraInfo Origin(const LensCase& c) {
     return {Q(c.make), Q(c.model), Q(c.lensMake), Q(c.lensModel), c.focal, c.fNumber};
 }
 
@@ -230,7 +230,7 @@ TEST(LensesFromExif, NamesTheOneLensThatTookThePhoto) {
 TEST(LensesFromExif, ReachesEveryLens) {
     for (const QString& brand : FillLensBrands()) {
         for (const QString& model : FillLensModels(brand)) {
-            PhotoOrigin origin;
+            CameraInfo origin;
             origin.LensModel = brand + u' ' + model;
             EXPECT_EQ(Name(LensesFromExif(origin, {Q("Canon"), Q("EOS 6D")}).lens),
                       Name({brand, model}));
@@ -238,7 +238,7 @@ TEST(LensesFromExif, ReachesEveryLens) {
     }
 }
 
-PhotoOrigin Taken(const char* make, const char* model, const char* lens = "", float focal = 0) {
+CameraInfo Taken(const char* make, const char* model, const char* lens = "", float focal = 0) {
     return {Q(make), Q(model), {}, Q(lens), focal};
 }
 
@@ -256,19 +256,19 @@ const GearNames nikonSigma{Q("Nikon"), Q("D7100"), Q("Sigma"), Q("EX 4.5 mm f:2.
 const GearNames nikonOwn{Q("Nikon"), Q("D7100"), Q("Nikon"), Q("AF 10.5mm f/2.8G ED DX")};
 const GearNames canonSigma{Q("Canon"), Q("EOS 6D-mkII"), Q("Sigma"), Q("EX 8 mm f:3.5")};
 const GearNames canonPeleng{Q("Canon"), Q("EOS 6D-mkII"), Q("Peleng"), Q("PELENG 8mm f/3.5")};
-const PhotoOrigin nikonPhoto{Q("NIKON CORPORATION"), Q("NIKON D7100"), {}, {}, 5, 22};
-const PhotoOrigin canonPhoto{Q("Canon"), Q("Canon EOS 6D Mark II"), {}, Q("8mm"), 8, 4};
+const CameraInfo nikonPhoto{Q("NIKON CORPORATION"), Q("NIKON D7100"), {}, {}, 5, 22};
+const CameraInfo canonPhoto{Q("Canon"), Q("Canon EOS 6D Mark II"), {}, Q("8mm"), 8, 4};
 
 TEST(GearOfPhoto, TakesTheOneGearThatFitsOrSaysWhyNone) {
-    PhotoOrigin zoom = canonPhoto;
+    CameraInfo zoom = canonPhoto;
     zoom.LensModel = Q("EF24-105mm f/4L IS USM");
-    PhotoOrigin silent = canonPhoto;
+    CameraInfo silent = canonPhoto;
     silent.LensModel.clear();
     silent.FocalLength = 0;
-    PhotoOrigin ordinary = silent;
+    CameraInfo ordinary = silent;
     ordinary.FocalLength = 50;
     const struct {
-        PhotoOrigin origin;
+        CameraInfo origin;
         std::vector<GearNames> gears;
         int gear;
         GearLack lack;
@@ -299,7 +299,7 @@ TEST(GearOfPhoto, TakesTheOneGearThatFitsOrSaysWhyNone) {
 
 TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
     const struct {
-        PhotoOrigin origin;
+        CameraInfo origin;
         GearNames current;
         int gear;
         bool define;
@@ -339,14 +339,14 @@ TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
         const bool told = *c.line != '\0';
         const bool fits = *c.doubt != '\0';
         EXPECT_EQ(offer.line, Q(c.line) + Q(c.doubt));
-        EXPECT_EQ(offer.trouble, told && !fits ? Q("Not this photo's gear") : QString()) << c.line;
+        EXPECT_EQ(offer.error, told && !fits ? Q("Not this photo's gear") : QString()) << c.line;
         EXPECT_EQ(offer.reason.contains(Q("1.00 : 1")), fits) << c.line;
         EXPECT_EQ(offer.gear, c.gear) << c.line;
         EXPECT_EQ(offer.define, c.define) << c.line;
     }
 }
 
-TEST(ShapeTrouble, DoubtsPicturesThatAreNoWholeSensor) {
+TEST(ShapeError, DoubtsPicturesThatAreNoWholeSensor) {
     const struct {
         std::int16_t width, height;
         float sensorWidth, sensorHeight;
@@ -360,7 +360,7 @@ TEST(ShapeTrouble, DoubtsPicturesThatAreNoWholeSensor) {
         image.Height = c.height;
         image.SensorWidth = c.sensorWidth;
         image.SensorHeight = c.sensorHeight;
-        EXPECT_EQ(!ShapeTrouble(image).isEmpty(), c.doubted) << c.width << " x " << c.height;
+        EXPECT_EQ(!ShapeError(image).isEmpty(), c.doubted) << c.width << " x " << c.height;
     }
 }
 

@@ -18,15 +18,15 @@ namespace {
 using testing::FisheyePhoto;
 using testing::Text;
 
-TEST(FolderTrouble, TellsMissingUnwritableAndNoFolder) {
+TEST(FolderError, TellsMissingUnwritableAndNoFolder) {
     const testing::PictureFolder files;
-    EXPECT_EQ(FolderTrouble(files.Path({})), QString());
+    EXPECT_EQ(FolderError(files.Path({})), QString());
     EXPECT_TRUE(QDir(files.Path({})).isEmpty(QDir::Files | QDir::Hidden));
-    EXPECT_EQ(FolderTrouble(Text("/no/such")), Text("The folder /no/such does not exist"));
+    EXPECT_EQ(FolderError(Text("/no/such")), Text("The folder /no/such does not exist"));
     const QString file = files.Text(Text("file"));
-    EXPECT_EQ(FolderTrouble(file), file + Text(" is not a folder"));
+    EXPECT_EQ(FolderError(file), file + Text(" is not a folder"));
 #ifdef Q_OS_LINUX  // where not even root can make a file
-    EXPECT_TRUE(FolderTrouble(Text("/proc"))
+    EXPECT_TRUE(FolderError(Text("/proc"))
                     .startsWith(Text("Nothing can be written into the folder /proc (")));
 #endif
 }

@@ -290,7 +290,7 @@ class RealRun : public ::testing::Test {
         QStringList log;
         Listener listener(log);
         ReadingWait wait;
-        PhotoFeed feed(testing::Reader(), 1, wait);
+        PrefetchingReader feed(testing::Reader(), 1, wait);
         return RunBatch(queue, choices, listener, BatchPortsFor(feed));
     }
     // What a conversion of that entry alone writes.
@@ -299,8 +299,8 @@ class RealRun : public ::testing::Test {
         bitmaps.FullSourceBitmap = testing::LoadPicture(SourcePath(entry)).bitmap;
         TakeSize({SizeOf(bitmaps.FullSourceBitmap.get())}, entry);
         SilentProgress silent;
-        RenderDesk desk{bitmaps};
-        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, desk);
+        RenderContext context{bitmaps};
+        Render(ProjectionFromIndex(entry.Projection), entry, SizeKind::Large, silent, context);
         NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings,
                      BatchPath(entry, choices));
         const QString path = files.Path(Text("single"));

@@ -28,13 +28,13 @@ class Canceller : public RenderProgress {
 TEST(CancellableProgress, EndsAConversionBeforeItsFirstColumnsAreDone) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = testing::PositionPicture({301, 200});
-    RenderDesk desk{bitmaps};
+    RenderContext context{bitmaps};
     CancelFlag cancelled = false;
     Canceller canceller(cancelled);
     CancellableProgress progress(canceller, cancelled);
-    EXPECT_THROW(
-        Render(Projection::Rectilinear, testing::FisheyeRecord(), SizeKind::Large, progress, desk),
-        SavingCancelled);
+    EXPECT_THROW(Render(Projection::Rectilinear, testing::FisheyeRecord(), SizeKind::Large,
+                        progress, context),
+                 SavingCancelled);
     EXPECT_EQ(canceller.pauses, 2);
     EXPECT_EQ(canceller.steps, 0);
     EXPECT_EQ(canceller.ends, 1);

@@ -49,14 +49,14 @@ TEST(TilePicture, IsThePreviewOfItsSettings) {
     image.RotateY = 12.0F;
     Bitmaps bitmaps;
     bitmaps.PreviewSourceBitmap = testing::PositionPicture({90, 60});
-    RenderDesk desk{bitmaps, [] { return true; }};
+    RenderContext context{bitmaps, [] { return true; }};
     SilentProgress progress;
     for (const ContactTile& tile : ContactTiles(image)) {
         const BitmapHandle picture = TilePicture(tile, bitmaps.PreviewSourceBitmap.get(), true);
         ImageRecord adopted = image;
         Adopt(tile, adopted);
         Render(ProjectionFromIndex(adopted.Projection), adopted, SizeKind::Thumbnails, progress,
-               desk);
+               context);
         EXPECT_TRUE(testing::SamePixels(picture.get(), bitmaps.ResultBitmap.get()))
             << tile.title.toStdString();
     }

@@ -74,7 +74,7 @@ TEST(ProjectFile, ComesBackBitByBitWithWhateverLineEnds) {
     for (const char* const end : {"\n", "\r\n", "\r"}) {
         const ReadProject read =
             ProjectFromText("\xEF\xBB\xBF" + QByteArray(text).replace('\n', end), here);
-        ASSERT_EQ(read.trouble, QString());
+        ASSERT_EQ(read.error, QString());
         EXPECT_EQ(read.notes, QStringList());
         EXPECT_EQ(read.missing.size(), 3);
         EXPECT_EQ(read.missing.value(2), Text("/#c.jpg"));
@@ -94,7 +94,7 @@ TEST(ProjectFile, SaysWhatIsWrongWithADamagedOrNewerOne) {
     ASSERT_EQ(ProjectFromText(good, Text("/p")).images.UpperBound(), 1);
     const struct {
         QByteArray part, instead;
-        const char* trouble;
+        const char* error;
     } rows[] = {{"project 1", "project 2", "a newer version of Varnel wrote it"},
                 {"project 1", "project 0", "it is damaged: line 1 cannot be read"},
                 {"Varnel", "Barnel", "it is not a Varnel project"},
@@ -109,16 +109,16 @@ TEST(ProjectFile, SaysWhatIsWrongWithADamagedOrNewerOne) {
     for (const auto& row : rows) {
         const ReadProject read =
             ProjectFromText(QByteArray(good).replace(row.part, row.instead), Text("/p"));
-        EXPECT_EQ(read.trouble, Text(row.trouble));
+        EXPECT_EQ(read.error, Text(row.error));
         EXPECT_TRUE(read.images.Empty());
     }
-    EXPECT_FALSE(OpenProject(Text("/no/such.varnel")).trouble.isEmpty());
+    EXPECT_FALSE(OpenProject(Text("/no/such.varnel")).error.isEmpty());
 }
 
 TEST(ProjectFile, EveryCutIsFoundOut) {
     const QByteArray text = ProjectText(SomePhotos(Text("/p")), Text("/p"));
     for (qsizetype length = 0; length < text.size() - 1; ++length) {
-        EXPECT_NE(ProjectFromText(text.left(length), Text("/p")).trouble, QString()) << length;
+        EXPECT_NE(ProjectFromText(text.left(length), Text("/p")).error, QString()) << length;
     }
 }
 
@@ -128,7 +128,7 @@ TEST(ProjectFile, RefusesHostileValuesAndKeepsTheRest) {
         "RotateY=1e30\nRotateZ=7\nWidth=-4\nHeight=40000\nOrientation=9\nNameSuffix=../x\n"
         "SettingsApplied=perhaps\nLater=kept\n[End]\n",
         Text("/p"));
-    EXPECT_EQ(read.trouble, QString());
+    EXPECT_EQ(read.error, QString());
     EXPECT_EQ(read.notes.size(), 7);
     const ImageRecord& image = read.images(1);
     EXPECT_EQ(image.RotateX, 0.0F);

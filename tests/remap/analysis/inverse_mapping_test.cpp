@@ -80,7 +80,7 @@ class PlacesOf : public ::testing::TestWithParam<Case> {};
 // Bytes of a noisy picture read at the places instead of drawn; positions moved by a shift.
 std::pair<int, int> DifferentAndAll(const Case& given, FIBITMAP* source, FIBITMAP* drawn,
                                     double shift) {
-    const ResultPlaces places(given.projection, given.record, given.size);
+    const InverseMapping places(given.projection, given.record, given.size);
     const bool alongRows =
         given.projection == Projection::Varnel || given.projection == Projection::Horizon;
     std::pair<int, int> count{0, 0};
@@ -106,8 +106,8 @@ TEST_P(PlacesOf, ReadingThereGivesTheConversionByteForByte) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = testing::Noise(given.size);
     SilentProgress progress;
-    RenderDesk desk{bitmaps};
-    reference::Render(given.projection, given.record, SizeKind::Large, progress, desk);
+    RenderContext context{bitmaps};
+    reference::Render(given.projection, given.record, SizeKind::Large, progress, context);
     FIBITMAP* const source = bitmaps.FullSourceBitmap.get();
     FIBITMAP* const drawn = bitmaps.ResultBitmap.get();
     EXPECT_EQ(DifferentAndAll(given, source, drawn, 0.0).first, 0);
@@ -120,7 +120,7 @@ TEST_P(PlacesOf, ReadingThereGivesTheConversionByteForByte) {
 double CountedShare(const Case& given, PixelSize small) {
     constexpr int times = 10;
     const PixelSize large{small.width * times, small.height * times};
-    const ResultPlaces places(given.projection, given.record, large);
+    const InverseMapping places(given.projection, given.record, large);
     const auto index = [&](int x, int y) {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(small.width) +
                static_cast<std::size_t>(x);
@@ -143,7 +143,7 @@ double CountedShare(const Case& given, PixelSize small) {
     int all = 0;
     for (int y = 0; y < small.height; ++y) {
         for (int x = 0; x < small.width; ++x) {
-            const SourcePlace middle{(x + 0.5) * times - 0.5, (y + 0.5) * times - 0.5};
+            const SourcePosition middle{(x + 0.5) * times - 0.5, (y + 0.5) * times - 0.5};
             all += places.InCircle(middle) ? 1 : 0;
             kept += places.InCircle(middle) && met[index(x, y)] ? 1 : 0;
         }
@@ -154,15 +154,15 @@ double CountedShare(const Case& given, PixelSize small) {
 TEST_P(PlacesOf, TheKeptShareIsThatOfTheCountedPixels) {
     const Case& given = GetParam();
     const PixelSize large{given.size.width * 10, given.size.height * 10};
-    const ResultPlaces places(given.projection, given.record, large);
-    const double share = MeasureKept(ResultGrid(places)).share;
+    const InverseMapping places(given.projection, given.record, large);
+    const double share = MeasureCoverage(MappingMesh(places)).share;
     EXPECT_NEAR(share, CountedShare(given, given.size), 0.005);
 }
 
 TEST_P(PlacesOf, TheLargestRectangleIsCleanAndAsLargeAsAnyThatIsFoundByTrying) {
     const Case& given = GetParam();
-    const ResultPlaces places(given.projection, given.record, given.size);
-    const ResultRectangle found = LargestRectangle(ResultGrid(places));
+    const InverseMapping places(given.projection, given.record, given.size);
+    const CleanCrop found = FindCleanCrop(MappingMesh(places));
     const std::vector<int>& columns = places.Columns();
     const std::vector<int>& rows = places.Rows();
     const auto clean = [&](int column, int row) {
@@ -200,7 +200,7 @@ TEST_P(PlacesOf, TheLargestRectangleIsCleanAndAsLargeAsAnyThatIsFoundByTrying) {
 
 TEST_P(PlacesOf, BorderPointsAreThoseThatTheOutermostPixelsRead) {
     const Case& given = GetParam();
-    const ResultPlaces places(given.projection, given.record, given.size);
+    const InverseMapping places(given.projection, given.record, given.size);
     std::set<std::pair<double, double>> rim;
     for (const int row : places.Rows()) {
         for (const int column : places.Columns()) {
@@ -215,30 +215,30 @@ TEST_P(PlacesOf, BorderPointsAreThoseThatTheOutermostPixelsRead) {
     EXPECT_FALSE(curves.empty());
     for (const SourceCurve& curve : curves) {
         EXPECT_GE(curve.size(), 2U);
-        for (const SourcePlace& point : curve) {
+        for (const SourcePosition& point : curve) {
             EXPECT_TRUE(rim.contains({point.x, point.y})) << point.x << ", " << point.y;
         }
     }
 }
 
 // A border that is black in places, or folds over, is no outline.
-TEST(KeptOutline, EnclosesWhatIsKept) {
+TEST(CoverageOutline, EnclosesWhatIsKept) {
     const std::vector<Case> cases = Cases();
     const auto outlineOf = [&](std::string_view name) {
         const Case& given = *std::ranges::find(cases, name, &Case::name);
-        const ResultPlaces places(given.projection, given.record,
-                                  {given.size.width * 10, given.size.height * 10});
-        return KeptOutline(places, MeasureKept(ResultGrid(places)));
+        const InverseMapping places(given.projection, given.record,
+                                    {given.size.width * 10, given.size.height * 10});
+        return CoverageOutline(places, MeasureCoverage(MappingMesh(places)));
     };
     const std::optional<SourceCurve> straight = outlineOf("Straight");
     ASSERT_TRUE(straight);
     double area = 0.0;
     for (std::size_t n = 0; n + 1 < straight->size(); ++n) {
-        const SourcePlace& a = (*straight)[n];
-        const SourcePlace& b = (*straight)[n + 1];
+        const SourcePosition& a = (*straight)[n];
+        const SourcePosition& b = (*straight)[n + 1];
         area += (a.x * b.y - b.x * a.y) / 2.0;
     }
-    const ResultPlaces places(cases[0].projection, cases[0].record, {2410, 1610});
+    const InverseMapping places(cases[0].projection, cases[0].record, {2410, 1610});
     int photo = 0;  // pixels of the circle that the photo has
     for (int y = 0; y < 1610; ++y) {
         for (int x = 0; x < 2410; ++x) {
@@ -258,9 +258,9 @@ INSTANTIATE_TEST_SUITE_P(Projections, PlacesOf, ::testing::ValuesIn(Cases()),
 TEST(MeasureResult, MiddleAndCornersOfAStraightView) {
     ImageRecord record = testing::FisheyeRecord();
     record.Ratio = 50.0F;  // the circle is larger than the frame
-    const ResultPlaces places(Projection::Rectilinear, record, {1000, 667});
-    const ResultGrid grid(places);
-    const ResultNumbers numbers = MeasureResult(grid, MeasureKept(grid));
+    const InverseMapping places(Projection::Rectilinear, record, {1000, 667});
+    const MappingMesh grid(places);
+    const ProjectionMetrics numbers = MeasureResult(grid, MeasureCoverage(grid));
     ASSERT_TRUE(numbers.centreResolution && numbers.cornerStretch);
     EXPECT_NEAR(*numbers.centreResolution, 222.2222 / 500.0 * EffectRatio(90, 100, 0.5F), 1e-4);
     // The pixel beside the corner, (499, 332) from the middle: tan theta = hypot(499, 332) / 500,
@@ -276,9 +276,9 @@ TEST(MeasureResult, MiddleAndCornersOfAStraightView) {
 // A circle of 400 pixels around (500, 500), unrolled onto 1000 columns: half way up to the rim a
 // pixel of the result is 200 x 2 pi / 1000 of the photo's across and the row divisor, 2, along.
 TEST(MeasureResult, AnUnrolledViewIsMeasuredHalfWayToTheRim) {
-    const ResultPlaces places(Projection::Horizon, testing::FisheyeRecord(), {1000, 1000});
-    const ResultGrid grid(places);
-    const ResultNumbers numbers = MeasureResult(grid, MeasureKept(grid));
+    const InverseMapping places(Projection::Horizon, testing::FisheyeRecord(), {1000, 1000});
+    const MappingMesh grid(places);
+    const ProjectionMetrics numbers = MeasureResult(grid, MeasureCoverage(grid));
     EXPECT_TRUE(numbers.halfWay);
     ASSERT_TRUE(numbers.centreResolution);
     EXPECT_NEAR(*numbers.centreResolution, std::sqrt(200.0 * 2.0 * std::numbers::pi / 1000.0 * 2.0),
@@ -292,8 +292,8 @@ TEST(MapMagnification, ClassesAndBlackCells) {
     EXPECT_EQ(ClassOf(1.09), Magnified::AboutSame);
     EXPECT_EQ(ClassOf(1.11), Magnified::Stretched);
     // The circle has a radius of 400 of 1000 pixels: Varnel keeps its rows and draws out the ends.
-    const ResultPlaces places(Projection::Varnel, testing::FisheyeRecord(), {1000, 1000});
-    const ResultGrid grid(places);
+    const InverseMapping places(Projection::Varnel, testing::FisheyeRecord(), {1000, 1000});
+    const MappingMesh grid(places);
     const MagnificationMap map = MapMagnification(grid);
     ASSERT_GT(map.columns, 100);
     EXPECT_EQ(ClassOf(static_cast<double>(map.At(map.columns / 2, map.rows / 2))),

@@ -268,7 +268,7 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
         row.change(metadata);
         const EncodedBitmap file =
             EncodeBitmap(row.format, Photo(metadata).get(), row.format == FIF_TIFF ? TIFF_LZW : 0);
-        EXPECT_EQ(ToldReason(file.note), QStringView(row.note)) << &row - cases;
+        EXPECT_EQ(ErrorText(file.note), QStringView(row.note)) << &row - cases;
         EXPECT_EQ(file.bytes.count("<varnel:A>&lt;&amp;</varnel:A>"), row.hasSettings)
             << &row - cases;
     }

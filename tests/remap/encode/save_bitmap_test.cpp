@@ -25,7 +25,7 @@ TEST(SaveBitmap, EveryTypeReadsBackAndReplacesAnOlderFile) {
         const QString name = folder.filePath(QStringLiteral("ä %1.x").arg(format));
         testing::WriteFile(name, "older");
         const SaveResult saved = SaveBitmap(format, bitmap.get(), name, 0);
-        EXPECT_TRUE(saved.ok) << ToldReason(saved.reason).toStdString();
+        EXPECT_TRUE(saved.ok) << ErrorText(saved.reason).toStdString();
         const QByteArray path = QFile::encodeName(name);
         EXPECT_EQ(FreeImage_GetFileType(path.constData(), 0), format);
         const BitmapHandle read(FreeImage_Load(format, path.constData(), 0));

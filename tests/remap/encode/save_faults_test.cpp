@@ -75,7 +75,7 @@ void Count(const SaveResult& result, const QString& path, const QByteArray& befo
     tally.lost += !result.ok && contents != before ? 1 : 0;
     tally.strays += NamesIn(QFileInfo(path).path()).size() != expected ? 1 : 0;
     tally.withoutReason +=
-        !result.ok && !ToldReason(result.reason).startsWith(QStringView(words)) ? 1 : 0;
+        !result.ok && !ErrorText(result.reason).startsWith(QStringView(words)) ? 1 : 0;
 }
 
 // Sizes from nothing to a byte less than the file; the last ten cut only its end.

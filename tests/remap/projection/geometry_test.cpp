@@ -33,7 +33,7 @@ TEST(Rounding, WhatDoesNotFitIsAnOverflowThatNamesTheValue) {
         CInt(32767.5, "OfsetX");
         FAIL();
     } catch (const RunTimeError& error) {
-        EXPECT_EQ(ToldReason(ReasonFor(error)).toStdString(),
+        EXPECT_EQ(ErrorText(ReasonFor(error)).toStdString(),
                   "Overflow: OfsetX does not fit 16 bits");
     }
     EXPECT_EQ(PixelIndex(3e9), std::nullopt);

@@ -70,7 +70,7 @@ TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
         try {
             const RotatedRectilinearMap map(view, {});
         } catch (const DivisionByZeroError& error) {
-            return ToldReason(ReasonFor(error)).toStdString();
+            return ErrorText(ReasonFor(error)).toStdString();
         }
         return {};
     };

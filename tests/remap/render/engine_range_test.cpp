@@ -43,15 +43,16 @@ ImageRecord Moved(Projection projection, const SliderRowData& row, int value) {
     return record;
 }
 
-using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
+                          RenderContext&);
 
 BitmapHandle Drawn(Renderer renderer, Projection projection, const ImageRecord& record) {
     static const BitmapHandle source = testing::Soft(size);
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = CloneBitmap(source.get());
     SilentProgress silent;
-    RenderDesk desk{bitmaps};
-    renderer(projection, record, SizeKind::Large, silent, desk);
+    RenderContext context{bitmaps};
+    renderer(projection, record, SizeKind::Large, silent, context);
     return std::move(bitmaps.ResultBitmap);
 }
 

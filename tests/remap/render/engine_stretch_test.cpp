@@ -18,15 +18,15 @@ namespace {
 using testing::Compare;
 using testing::Difference;
 
-using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderDesk&);
+using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderContext&);
 
 BitmapHandle Stretched(Stretcher stretcher, const StretchCurve& curve, FIBITMAP* source,
                        BlockRunner* runner = nullptr) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = CloneBitmap(source);
     SilentProgress silent;
-    RenderDesk desk{.bitmaps = bitmaps, .runner = runner};
-    stretcher(curve, SizeKind::Large, silent, desk);
+    RenderContext context{.bitmaps = bitmaps, .runner = runner};
+    stretcher(curve, SizeKind::Large, silent, context);
     return std::move(bitmaps.ResultBitmap);
 }
 

@@ -31,7 +31,8 @@ using testing::Flat;
 using testing::Painter;
 using testing::PhotoLike;
 
-using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
+                          RenderContext&);
 
 struct Case {
     std::string name;
@@ -49,8 +50,8 @@ BitmapHandle Drawn(Renderer renderer, const Case& c, Painter paint, SizeKind kin
     record.Landscape = c.size.width >= c.size.height;
     c.change(record);
     SilentProgress silent;
-    RenderDesk desk{bitmaps, [smooth] { return smooth; }, runner};
-    renderer(c.projection, record, kind, silent, desk);
+    RenderContext context{bitmaps, [smooth] { return smooth; }, runner};
+    renderer(c.projection, record, kind, silent, context);
     return std::move(bitmaps.ResultBitmap);
 }
 
@@ -191,8 +192,8 @@ TEST(Engine, WorkersAndTheirOrderChangeNoByte) {
 }
 
 // Rows in pieces as one looks here and there, the result bitmap of another picture taken again.
-TEST(PartRender, RowsAreThoseOfTheWholePicture) {
-    PartRender part;
+TEST(RegionRenderer, RowsAreThoseOfTheWholePicture) {
+    RegionRenderer part;
     for (const Case& c : Cases()) {
         SCOPED_TRACE(c.name);
         const BitmapHandle whole = Drawn(&Render, c, &PhotoLike, SizeKind::Large, false, nullptr);
@@ -209,9 +210,9 @@ TEST(PartRender, RowsAreThoseOfTheWholePicture) {
     }
 }
 
-TEST(PartRender, DrawsFromTheMiddleAndForgetsWithANewStart) {
+TEST(RegionRenderer, DrawsFromTheMiddleAndForgetsWithANewStart) {
     const BitmapHandle source = PhotoLike({301, 200});
-    PartRender part;
+    RegionRenderer part;
     part.Start(Projection::Horizon, FisheyeRecord(), source.get());
     const RowSpan one = part.DrawSome({40, 60}, std::chrono::microseconds(0));
     EXPECT_EQ(std::pair(one.first, one.last), std::pair(50, 50));
@@ -235,8 +236,8 @@ TEST(Engine, AfterAFailureTheResultIsTheSource) {
         record.Ratio = 0.0F;
         record.SensorWidth = 0.0F;
         SilentProgress silent;
-        RenderDesk desk{bitmaps};
-        EXPECT_THROW(Render(projection, record, SizeKind::Large, silent, desk), RunTimeError);
+        RenderContext context{bitmaps};
+        EXPECT_THROW(Render(projection, record, SizeKind::Large, silent, context), RunTimeError);
         EXPECT_EQ(Compare(bitmaps.ResultBitmap.get(), bitmaps.FullSourceBitmap.get()).largest, 0);
     }
 }

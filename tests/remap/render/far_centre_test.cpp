@@ -25,7 +25,8 @@ using testing::Compare;
 using testing::FisheyeRecord;
 using testing::PhotoLike;
 
-using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&, RenderDesk&);
+using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
+                          RenderContext&);
 using Change = void (*)(ImageRecord&);
 
 class CountedProgress : public RenderProgress {
@@ -52,11 +53,11 @@ struct Drawing {
             SizeKind kind, bool smooth = true) {
         bitmaps.FullSourceBitmap = PhotoLike(size);
         bitmaps.PreviewSourceBitmap = PhotoLike(size);
-        RenderDesk desk{bitmaps, [smooth] { return smooth; }};
+        RenderContext context{bitmaps, [smooth] { return smooth; }};
         try {
-            renderer(projection, record, kind, progress, desk);
+            renderer(projection, record, kind, progress, context);
         } catch (const RunTimeError& thrown) {
-            error = ToldReason(ReasonFor(thrown)).toStdString();
+            error = ErrorText(ReasonFor(thrown)).toStdString();
         }
     }
     FIBITMAP* Result() const { return bitmaps.ResultBitmap.get(); }
@@ -73,7 +74,7 @@ void ExpectTheLoopsPicture(Projection projection, const ImageRecord& record, Pix
         const Drawing wantedNearest(&reference::Render, projection, record, size,
                                     SizeKind::Thumbnails, false);
         EXPECT_EQ(Compare(nearest.Result(), wantedNearest.Result()).largest, 0);
-        PartRender part;
+        RegionRenderer part;
         const BitmapHandle source = PhotoLike(size);
         part.Start(projection, record, source.get());
         part.DrawSome({0, size.height - 1}, std::chrono::seconds(9));
@@ -164,11 +165,11 @@ TEST(Pauses, EndTheConversion) {
             Bitmaps bitmaps;
             bitmaps.FullSourceBitmap = PhotoLike(size);
             ThreadRunner runner(cores);
-            RenderDesk desk{.bitmaps = bitmaps, .runner = &runner};
+            RenderContext context{.bitmaps = bitmaps, .runner = &runner};
             CountedProgress progress;
             // The other thread may be quick enough to leave no second block to this one.
             progress.lastPause = cores == 1 ? 2 : 1;
-            EXPECT_THROW(Render(projection, FisheyeRecord(), SizeKind::Large, progress, desk),
+            EXPECT_THROW(Render(projection, FisheyeRecord(), SizeKind::Large, progress, context),
                          std::bad_alloc);
             EXPECT_EQ(progress.pauses, progress.lastPause);
             EXPECT_EQ(progress.steps, 0);

@@ -37,8 +37,8 @@ struct Scene {
     }
     FIBITMAP* Draw(Projection projection, const ImageRecord& record,
                    SizeKind kind = SizeKind::Large) {
-        RenderDesk desk{bitmaps, [this] { return smooth; }};
-        Render(projection, record, kind, progress, desk);
+        RenderContext context{bitmaps, [this] { return smooth; }};
+        Render(projection, record, kind, progress, context);
         return bitmaps.ResultBitmap.get();
     }
     Bitmaps bitmaps;

@@ -29,8 +29,8 @@ class RecordedProgress : public RenderProgress {
 struct Table {
     explicit Table(BitmapHandle source) { bitmaps.FullSourceBitmap = std::move(source); }
     FIBITMAP* Stretch(const StretchCurve& curve) {
-        RenderDesk desk{bitmaps};
-        RenderStretch(curve, SizeKind::Large, progress, desk);
+        RenderContext context{bitmaps};
+        RenderStretch(curve, SizeKind::Large, progress, context);
         return bitmaps.ResultBitmap.get();
     }
     Bitmaps bitmaps;

@@ -62,8 +62,8 @@ BitmapHandle Convert(Projection projection, const Photo& photo, const Scene& sce
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = TakeFisheye(scene, photo.Shot(samples));
     SilentProgress progress;
-    RenderDesk desk{bitmaps};
-    Render(projection, photo.record, SizeKind::Large, progress, desk);
+    RenderContext context{bitmaps};
+    Render(projection, photo.record, SizeKind::Large, progress, context);
     return std::move(bitmaps.ResultBitmap);
 }
 

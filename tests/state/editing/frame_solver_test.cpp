@@ -22,11 +22,12 @@ ImageRecord RecordFor(Projection projection) {
     return record;
 }
 
-SourcePlace PlaceWith(const ImageRecord& record, const ControlValues& controls,
-                      const FramePoint& point) {
+SourcePosition PlaceWith(const ImageRecord& record, const ControlValues& controls,
+                         const FramePoint& point) {
     ImageRecord changed = record;
     StoreControls(controls, changed);
-    return *PlaceOf(point, ResultPlaces(ProjectionFromIndex(controls.projection), changed, photo));
+    return *PlaceOf(point,
+                    InverseMapping(ProjectionFromIndex(controls.projection), changed, photo));
 }
 
 struct WidthCase {
@@ -47,7 +48,7 @@ TEST(WidthNearest, GivesTheValueThatPutsTheHandleThere) {
         EXPECT_EQ(FrameSlider(given.projection), given.slider);
         ControlValues wanted = setting.controls;
         SetValueOf(given.slider, given.value, wanted);
-        const SourcePlace place = PlaceWith(record, wanted, given.handle);
+        const SourcePosition place = PlaceWith(record, wanted, given.handle);
         EXPECT_EQ(WidthNearest(setting, given.handle, place), given.value);
     }
 }
@@ -74,7 +75,7 @@ TEST(TurnedNearest, FindsTurnsAndEndsAtTheSlidersEnds) {
     const FrameSetting level{record, ValuesFor(record), photo};
     ControlValues wanted = level.controls;
     wanted.rotateY = 40;
-    const SourcePlace end = PlaceWith(record, wanted, {});
+    const SourcePosition end = PlaceWith(record, wanted, {});
     EXPECT_EQ(TurnedNearest(level, {end.x + 15.0, end.y}), wanted);
     // The other projections cannot turn.
     const ImageRecord flat = RecordFor(Projection::Varnel);

@@ -69,7 +69,7 @@ TEST_P(LevelHorizonOf, FindsTiltAndRollWithStrayPoints) {
         points[i * 3].y += 150.0;
     }
     const Levelling level = LevelHorizon(image, GetParam().size, points);
-    EXPECT_EQ(level.trouble, LevelTrouble::None);
+    EXPECT_EQ(level.error, LevelError::None);
     EXPECT_NEAR(level.rotateX, static_cast<double>(truth.RotateX), 0.3);
     EXPECT_NEAR(level.rotateZ, static_cast<double>(truth.RotateZ), 0.3);
 }
@@ -100,20 +100,20 @@ TEST(LevelHorizon, SaysWhatIsWrong) {
     image.RotateX = 0.0F;
     image.RotateZ = 0.0F;
     const Levelling beyond = LevelHorizon(image, wide, steep);
-    EXPECT_EQ(beyond.trouble, LevelTrouble::OutOfReach);
+    EXPECT_EQ(beyond.error, LevelError::OutOfReach);
     EXPECT_NEAR(beyond.beyondX, 12.0, 0.3);
     EXPECT_NEAR(beyond.beyondZ, -3.0, 0.3);
 
     const std::vector<PicturePoint> dot{{1500, 1000}, {1502, 1001}};
-    EXPECT_EQ(LevelHorizon(image, wide, dot).trouble, LevelTrouble::TooShort);
-    EXPECT_EQ(LevelHorizon(image, wide, {}).trouble, LevelTrouble::TooShort);
+    EXPECT_EQ(LevelHorizon(image, wide, dot).error, LevelError::TooShort);
+    EXPECT_EQ(LevelHorizon(image, wide, {}).error, LevelError::TooShort);
     std::vector<PicturePoint> scrawl;
     for (int i = 0; i < 60; ++i) {
         scrawl.push_back({1500 + 400 * std::cos(i), 1000 + 400 * std::sin(i)});
     }
-    EXPECT_EQ(LevelHorizon(image, wide, scrawl).trouble, LevelTrouble::NotStraight);
+    EXPECT_EQ(LevelHorizon(image, wide, scrawl).error, LevelError::NotStraight);
     image.LensMapFactor = 0.0F;
-    EXPECT_EQ(LevelHorizon(image, wide, steep).trouble, LevelTrouble::NoLens);
+    EXPECT_EQ(LevelHorizon(image, wide, steep).error, LevelError::NoLens);
 }
 
 // Sky above a plane through the camera, photographed with an equisolid lens of 16 mm, traced pixel
@@ -146,12 +146,12 @@ TEST(LevelHorizon, TheConvertedHorizonIsLevel) {
         }
     }
     const Levelling level = LevelHorizon(image, size, traced);
-    ASSERT_EQ(level.trouble, LevelTrouble::None);
+    ASSERT_EQ(level.error, LevelError::None);
     image.RotateX = static_cast<float>(level.rotateX);
     image.RotateZ = static_cast<float>(level.rotateZ);
     SilentProgress progress;
-    RenderDesk desk{bitmaps, [] { return true; }};
-    Render(Projection::Rectilinear, image, SizeKind::Large, progress, desk);
+    RenderContext workspace{bitmaps, [] { return true; }};
+    Render(Projection::Rectilinear, image, SizeKind::Large, progress, workspace);
     for (int x = 100; x <= 800; x += 50) {
         EXPECT_LT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 297).rgbGreen, 60) << x;
         EXPECT_GT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 303).rgbGreen, 195) << x;

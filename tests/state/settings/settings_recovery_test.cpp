@@ -62,7 +62,7 @@ GearTable Gears(int count, float ratio) {
 QStringList Told(const Reasons& reasons) {
     QStringList texts;
     for (const Reason& reason : reasons) {
-        texts.append(ToldReason(reason));
+        texts.append(ErrorText(reason));
     }
     return texts;
 }
@@ -365,7 +365,7 @@ TEST_F(SettingsGuard, TellsOfASaveAMomentLater) {
     WriteFile(folder_.filePath(Text("Varnel")), "no folder");
     const auto user = Open();
     NotedNotices notices;
-    TellingStore store(*user, notices);
+    AutosavingStore store(*user, notices);
     store.Save(Text("a"), Text("b"), Text("c"));
     QCoreApplication::processEvents();
     EXPECT_EQ(notices.texts, QStringList());

@@ -127,10 +127,9 @@ TEST_F(UserStoreTest, TellsOnceOfADamagedFileThatCannotBeSetAsideOrReplaced) {
             told = store->Settle();
             told += SaveThrice(*store);
         }
-        ASSERT_EQ(told.size(), 2) << ToldReason(Joined(told)).toStdString();
-        EXPECT_TRUE(told[0].Is(c.aside)) << ToldReason(told[0]).toStdString();
-        EXPECT_TRUE(told[1].Is(ReasonCode::SettingsUnwritable))
-            << ToldReason(told[1]).toStdString();
+        ASSERT_EQ(told.size(), 2) << ErrorText(Joined(told)).toStdString();
+        EXPECT_TRUE(told[0].Is(c.aside)) << ErrorText(told[0]).toStdString();
+        EXPECT_TRUE(told[1].Is(ReasonCode::SettingsUnwritable)) << ErrorText(told[1]).toStdString();
         EXPECT_EQ(Damaged(), c.files);
         Folder().removeRecursively();
     }

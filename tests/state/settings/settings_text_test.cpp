@@ -158,7 +158,7 @@ TEST(ReadSettingsText, SaysWhatIsWrong) {
         {QByteArray("\xFF\xFE[\0s\0]\0\n\0k\0=\0001\0\n\0", 18), "not UTF-8 text"},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(ToldReason(ReadSettingsText(c.bytes).damage), Text(c.damage))
+        EXPECT_EQ(ErrorText(ReadSettingsText(c.bytes).damage), Text(c.damage))
             << c.bytes.toStdString();
     }
     EXPECT_NE(ReadSettingsText(cases[8].bytes).values.Find(Text("s"), Text("k")), nullptr);

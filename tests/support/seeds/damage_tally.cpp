@@ -30,7 +30,7 @@ Verdict VerdictOf(const LoadedPicture& picture) {
 }
 
 // Profile and metadata are written as they came; the pixels matter little here.
-QString WritingTrouble(FIBITMAP* picture) {
+QString WritingError(FIBITMAP* picture) {
     const BitmapHandle small = NewBitmap({8, 8});
     CopyAllButPixels(small.get(), picture);
     for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_TIFF, FIF_PNG}) {
@@ -45,10 +45,10 @@ QString WritingTrouble(FIBITMAP* picture) {
     return {};
 }
 
-QString Trouble(const LoadedPicture& picture) {
+QString Error(const LoadedPicture& picture) {
     if ((picture.outcome == LoadOutcome::Loaded) != picture.reason.isEmpty()) {
         return QStringLiteral("a reason exactly when not all is well: \"%1\"")
-            .arg(ToldReason(picture.reason));
+            .arg(ErrorText(picture.reason));
     }
     if ((picture.outcome != LoadOutcome::NotLoaded) != static_cast<bool>(picture.bitmap)) {
         return QStringLiteral("a picture exactly when one was loaded");
@@ -65,7 +65,7 @@ QString Trouble(const LoadedPicture& picture) {
             .arg(picture.size.width)
             .arg(picture.size.height);
     }
-    return WritingTrouble(picture.bitmap.get());
+    return WritingError(picture.bitmap.get());
 }
 
 }  // namespace
@@ -119,7 +119,7 @@ QString DamageTrial::Try(const DamagedFile& file) {
     tally_.Add(file.seed.Type(), VerdictOf(picture), milliseconds);
     return milliseconds > (secondsPerPhoto_ + 1) * 1000
                ? QStringLiteral("an answer only after %1 ms").arg(milliseconds)
-               : Trouble(picture);
+               : Error(picture);
 }
 
 }  // namespace varnel::testing

@@ -145,11 +145,11 @@ class SlowReader : public PictureReader {
     bool asked_ = false;
 };
 
-class WindowDesk {
+class TestWindow {
   public:
     // The list's small pictures come when there is a reader for them; it is kept against a crash
     // when there is a folder.
-    explicit WindowDesk(const NewSmallReader& newSmallReader = nullptr,
+    explicit TestWindow(const NewSmallReader& newSmallReader = nullptr,
                         const QString& sessionFolder = {}, Restore restore = Restore::Later)
         : window(state, store,
                  {photos, notices, prompt, chooser, dialogs, newSmallReader, {sessionFolder, 20}}) {

@@ -117,53 +117,6 @@
     </message>
 </context>
 <context>
-    <name>Workspace</name>
-    <message>
-        <source>Could not find the photo that a picture was made of</source>
-        <translation>Das Foto, aus dem ein Bild entstand, wurde nicht gefunden</translation>
-    </message>
-    <message>
-        <source>Some settings of a picture could not be used</source>
-        <translation>Einige Einstellungen eines Bildes sind nicht verwendbar</translation>
-    </message>
-    <message>
-        <source>Could not open image</source>
-        <translation>Das Bild konnte nicht geöffnet werden</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels</source>
-        <translation>%1 x %2 Pixel</translation>
-    </message>
-    <message>
-        <source>There is not enough memory.</source>
-        <translation>Der Speicher reicht nicht.</translation>
-    </message>
-    <message>
-        <source>Could not save %1</source>
-        <translation>%1 konnte nicht gespeichert werden</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 gespeichert</translation>
-    </message>
-    <message>
-        <source>Saved %1, %2</source>
-        <translation>%1 gespeichert, %2</translation>
-    </message>
-    <message>
-        <source>%1 of the added images could not be opened</source>
-        <translation>%1 der hinzugefügten Bilder konnten nicht geöffnet werden</translation>
-    </message>
-    <message>
-        <source>There are no photos in a folder</source>
-        <translation>In einem Ordner sind keine Fotos</translation>
-    </message>
-    <message>
-        <source>Only the first %1 photos were added</source>
-        <translation>Nur die ersten %1 Fotos wurden hinzugefügt</translation>
-    </message>
-</context>
-<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -1110,33 +1063,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>OverlayGeometry</name>
-    <message>
-        <source>keeps %1 % of the circle</source>
-        <translation>behält %1 % des Bildkreises</translation>
-    </message>
-    <message>
-        <source>none</source>
-        <translation>keines</translation>
-    </message>
-    <message>
-        <source>%1 x %2 pixels</source>
-        <translation>%1 x %2 Pixel</translation>
-    </message>
-    <message>
-        <source>Half-way resolution %1</source>
-        <translation>Auflösung auf halbem Weg %1</translation>
-    </message>
-    <message>
-        <source>Centre resolution %1</source>
-        <translation>Auflösung Mitte %1</translation>
-    </message>
-    <message>
-        <source>%1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
-        <translation>%1   |   Eckdehnung bis %2   |   Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
-    </message>
-</context>
-<context>
     <name>GearOffer</name>
     <message>
         <source> (cropped?)</source>
@@ -1206,10 +1132,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>SettingsFromPicture</name>
+    <name>ListBadges</name>
     <message>
-        <source>its name is not known</source>
-        <translation>sein Name ist nicht bekannt</translation>
+        <source>adjusted</source>
+        <translation>angepasst</translation>
+    </message>
+    <message>
+        <source>in the batch queue</source>
+        <translation>im Stapel</translation>
     </message>
 </context>
 <context>
@@ -1239,6 +1169,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>OverlayGeometry</name>
+    <message>
+        <source>keeps %1 % of the circle</source>
+        <translation>behält %1 % des Bildkreises</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Half-way resolution %1</source>
+        <translation>Auflösung auf halbem Weg %1</translation>
+    </message>
+    <message>
+        <source>Centre resolution %1</source>
+        <translation>Auflösung Mitte %1</translation>
+    </message>
+    <message>
+        <source>%1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
+        <translation>%1   |   Eckdehnung bis %2   |   Fläche %3 %   |   Größtes Rechteck ohne Schwarz %4</translation>
+    </message>
+</context>
+<context>
     <name>PhotoGear</name>
     <message>
         <source>the photo does not tell what took it</source>
@@ -1263,17 +1220,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>no gear has this camera and this lens</source>
         <translation>keine Ausrüstung hat diese Kamera und dieses Objektiv</translation>
-    </message>
-</context>
-<context>
-    <name>ListBadges</name>
-    <message>
-        <source>adjusted</source>
-        <translation>angepasst</translation>
-    </message>
-    <message>
-        <source>in the batch queue</source>
-        <translation>im Stapel</translation>
     </message>
 </context>
 <context>
@@ -1877,6 +1823,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>SettingsFromPicture</name>
+    <message>
+        <source>its name is not known</source>
+        <translation>sein Name ist nicht bekannt</translation>
+    </message>
+</context>
+<context>
     <name>Shortage</name>
     <message>
         <source>There is not enough memory.</source>
@@ -2165,6 +2118,53 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>Workspace</name>
+    <message>
+        <source>Could not find the photo that a picture was made of</source>
+        <translation>Das Foto, aus dem ein Bild entstand, wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Some settings of a picture could not be used</source>
+        <translation>Einige Einstellungen eines Bildes sind nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>Could not open image</source>
+        <translation>Das Bild konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Speicher reicht nicht.</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved %1, %2</source>
+        <translation>%1 gespeichert, %2</translation>
+    </message>
+    <message>
+        <source>%1 of the added images could not be opened</source>
+        <translation>%1 der hinzugefügten Bilder konnten nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>There are no photos in a folder</source>
+        <translation>In einem Ordner sind keine Fotos</translation>
+    </message>
+    <message>
+        <source>Only the first %1 photos were added</source>
+        <translation>Nur die ersten %1 Fotos wurden hinzugefügt</translation>
+    </message>
+</context>
+<context>
     <name>varnel::AdjustmentPanel</name>
     <message>
         <source>Refine equipment parameters</source>
@@ -2341,6 +2341,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source> (as it is)</source>
         <translation> (wie jetzt)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::EmptyState</name>
+    <message>
+        <source>Drop fisheye photos here</source>
+        <translation type="unfinished">Fisheye-Fotos hierher ziehen</translation>
+    </message>
+    <message>
+        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
+        <translation type="unfinished">oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
     </message>
 </context>
 <context>
@@ -2953,17 +2964,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Contact sheet</source>
         <translation>Kontakt&amp;bogen</translation>
-    </message>
-</context>
-<context>
-    <name>varnel::StartHint</name>
-    <message>
-        <source>Drop fisheye photos here</source>
-        <translation>Fisheye-Fotos hierher ziehen</translation>
-    </message>
-    <message>
-        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation>oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
     </message>
 </context>
 <context>

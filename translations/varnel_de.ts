@@ -2347,11 +2347,11 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <name>varnel::EmptyState</name>
     <message>
         <source>Drop fisheye photos here</source>
-        <translation type="unfinished">Fisheye-Fotos hierher ziehen</translation>
+        <translation>Fisheye-Fotos hierher ziehen</translation>
     </message>
     <message>
         <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation type="unfinished">oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
+        <translation>oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
     </message>
 </context>
 <context>

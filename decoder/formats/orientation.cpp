@@ -5,9 +5,9 @@
 
 #include <QtEndian>
 
-#include "decoder/formats/exif_walk.h"
 #include "decoder/formats/jpeg_frame.h"
 #include "remap/image/exif_orientation.h"
+#include "remap/image/ifd_reader.h"
 
 namespace varnel {
 
@@ -51,10 +51,10 @@ QByteArray ExifChunk(const ChunkKind& kind, const PictureFile& file) {
 
 int OrientationInExif(QByteArrayView block) {
     constexpr QByteArrayView mark("Exif\0\0", 6);
-    constexpr std::uint32_t orientation = 274;
-    const ExifWalk exif(block.startsWith(mark) ? block.sliced(mark.size()) : block);
+    constexpr std::uint16_t orientation = 274;
+    const IfdReader exif(block.startsWith(mark) ? block.sliced(mark.size()) : block);
     const std::uint32_t told =
-        exif.IsSound() ? exif.Value(exif.Find(exif.FirstDirectory(), orientation)) : 0;
+        exif.IsTiff() ? exif.Number(exif.Directory(exif.First()).Find(orientation)) : 0;
     return IsOrientation(told) ? static_cast<int>(told) : 1;
 }
 

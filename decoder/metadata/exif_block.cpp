@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "decoder/formats/exif_walk.h"
+#include "remap/image/ifd_reader.h"
 
 namespace varnel {
 
@@ -130,15 +130,15 @@ QByteArray Placeholder(std::uint32_t length) {
 }
 
 void FindPlaces(ExifBlock& block, const QByteArray& placeholder) {
-    const ExifWalk walk(block.bytes);
-    const std::uint32_t first = walk.FirstDirectory();
-    const std::uint32_t exif = walk.Value(walk.Find(first, ExifDirectory));
-    block.width = walk.LongPlace(walk.Find(exif, PixelXDimension));
-    block.height = walk.LongPlace(walk.Find(exif, PixelYDimension));
+    const IfdReader reader(block.bytes);
+    const Ifd first = reader.Directory(reader.First());
+    const Ifd exif = reader.Directory(reader.Number(first.Find(ExifDirectory)));
+    block.width = reader.LongPlace(exif.Find(PixelXDimension));
+    block.height = reader.LongPlace(exif.Find(PixelYDimension));
     const qsizetype thumbnail =
         placeholder.isEmpty() ? -1 : block.bytes.lastIndexOf(placeholderBegin);
     const std::uint32_t length =
-        walk.LongPlace(walk.Find(walk.NextDirectory(first), ThumbnailLength));
+        reader.LongPlace(reader.Directory(first.next).Find(ThumbnailLength));
     if (thumbnail > 0 && length != 0) {
         block.thumbnail = static_cast<std::uint32_t>(thumbnail);
         block.thumbnailLength = length;
@@ -184,13 +184,11 @@ ExifBlock ShortBlock(Exiv2::ExifData& data, Exiv2::ByteOrder order, bool thumbna
 }
 
 QByteArray EntriesForTiff(const ExifBlock& block) {
-    const ExifWalk walk(block.bytes);
-    const std::uint32_t first = walk.FirstDirectory();
+    const IfdReader reader(block.bytes);
     QByteArray entries;
-    for (std::uint32_t n = 0; n < walk.Count(first); ++n) {
-        const std::int64_t entry = walk.Entry(first, n);
-        if (!IsOfTheOldFile(walk.TagAt(entry)) && walk.TagAt(entry) != PositionOfChroma) {
-            entries += block.bytes.mid(entry, ExifWalk::entryBytes);
+    for (const IfdEntry& entry : reader.Directory(reader.First()).entries) {
+        if (!IsOfTheOldFile(entry.tag) && entry.tag != PositionOfChroma) {
+            entries += block.bytes.mid(entry.place, reader.EntryBytes());
         }
     }
     return entries;

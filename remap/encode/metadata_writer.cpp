@@ -12,6 +12,7 @@
 #include "remap/encode/exif_writer.h"
 #include "remap/encode/png_frame.h"
 #include "remap/encode/xmp_settings.h"
+#include "remap/image/ifd_reader.h"
 
 namespace varnel {
 
@@ -165,18 +166,13 @@ WrittenMetadata Assembly::Tiff() {
 // More than Varnel itself adds to a photo that has nothing: size, orientation, resolution and the
 // name of the program.
 bool Assembly::IsWorthKeeping() const {
-    constexpr std::array<quint16, 7> always{274, 282, 283, 296, 305, 531, 34665};
-    constexpr qsizetype entryLength = 12;
-    for (qsizetype at = 0; at + entryLength <= photo_.tiffEntries.size(); at += entryLength) {
-        const char* const entry = photo_.tiffEntries.constData() + at;
-        const auto tag = photo_.exif.IsBigEndian() ? qFromBigEndian<quint16>(entry)
-                                                   : qFromLittleEndian<quint16>(entry);
-        if (std::ranges::find(always, tag) == always.end()) {
-            return true;
-        }
-    }
+    static constexpr std::array<std::uint16_t, 7> always{274, 282, 283, 296, 305, 531, 34665};
+    const auto isMore = [](const IfdEntry& entry) {
+        return std::ranges::find(always, entry.tag) == always.end();
+    };
     constexpr qsizetype namespacesAlways = 3;  // of the packet, of RDF and of the program's name
-    return !photo_.iptc.isEmpty() || photo_.xmp.count("xmlns:") > namespacesAlways;
+    return std::ranges::any_of(IfdReader(photo_.exif.bytes).Entries(photo_.tiffEntries), isMore) ||
+           !photo_.iptc.isEmpty() || photo_.xmp.count("xmlns:") > namespacesAlways;
 }
 
 // By what is lost: metadata 1, settings 2, colour profile 4.

@@ -9,6 +9,8 @@
 #include <limits>
 #include <utility>
 
+#include "remap/image/ifd_reader.h"
+
 namespace varnel {
 
 namespace {
@@ -20,12 +22,8 @@ constexpr std::uint16_t typeShort = 3;
 constexpr std::uint16_t typeLong = 4;
 constexpr std::uint16_t typeIfd = 13;
 
-// Of a value of each type, BYTE first; 0 for what there is none of.
-constexpr std::uint8_t typeBytes[] = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8, 4};
-
-// Of the numbers that such values are made of.
+// Of the numbers that values of each type are made of: a fraction is two.
 constexpr std::uint8_t numberBytes[] = {0, 1, 1, 2, 4, 4, 1, 1, 2, 4, 4, 4, 8, 4};
-static_assert(std::size(numberBytes) == std::size(typeBytes));
 
 // Tags that say where in the file something is: tiles, free space, a JPEG stream, and the EXIF, GPS
 // and interoperability directories.
@@ -70,22 +68,12 @@ bool Holds(const QByteArray& file, qint64 place, qint64 length) {
     return place >= 0 && length >= 0 && place <= file.size() && length <= file.size() - place;
 }
 
-std::optional<TiffField> ReadField(const QByteArray& file, qint64 place) {
-    TiffField field{NumberAt<quint16>(file, place),
-                    NumberAt<quint16>(file, place + 2),
-                    NumberAt<quint32>(file, place + 4),
-                    {}};
-    if (field.type >= std::size(typeBytes) || typeBytes[field.type] == 0 ||
-        std::ranges::find(places, field.tag) != std::end(places)) {
+std::optional<TiffField> ReadField(const IfdReader& reader, const IfdEntry& entry) {
+    if (!reader.HoldsValues(entry) || std::ranges::find(places, entry.tag) != std::end(places)) {
         return std::nullopt;
     }
-    const qint64 length = qint64{field.count} * typeBytes[field.type];
-    const qint64 from = length <= inlineBytes ? place + 8 : NumberAt<quint32>(file, place + 8);
-    if (!Holds(file, from, length)) {
-        return std::nullopt;
-    }
-    field.value = file.mid(from, length);
-    return field;
+    return TiffField{entry.tag, entry.type, static_cast<std::uint32_t>(entry.count),
+                     reader.Bytes(entry, std::numeric_limits<std::uint32_t>::max())};
 }
 
 bool ReadStrips(const QByteArray& file, TiffDirectory& directory) {
@@ -103,19 +91,16 @@ bool ReadStrips(const QByteArray& file, TiffDirectory& directory) {
     return true;
 }
 
-std::optional<TiffDirectory> ReadDirectory(const QByteArray& file, qint64 place) {
-    if (!Holds(file, place, 2)) {
-        return std::nullopt;
-    }
-    const int count = NumberAt<quint16>(file, place);
-    const qint64 end = place + 2 + count * fieldBytes;
-    if (!Holds(file, place, end + 4 - place) || NumberAt<quint32>(file, end) != 0) {
+std::optional<TiffDirectory> ReadDirectory(const QByteArray& file, std::uint64_t place) {
+    const IfdReader reader(file);
+    const Ifd ifd = reader.Directory(place);
+    if (!ifd.isWhole || ifd.next != 0) {
         return std::nullopt;
     }
     TiffDirectory directory;
-    for (int n = 0; n < count; ++n) {
-        std::optional<TiffField> field = ReadField(file, place + 2 + n * fieldBytes);
-        if (!field || (n > 0 && field->tag <= directory.fields.back().tag)) {
+    for (const IfdEntry& entry : ifd.entries) {
+        std::optional<TiffField> field = ReadField(reader, entry);
+        if (!field || (!directory.fields.empty() && field->tag <= directory.fields.back().tag)) {
             return std::nullopt;
         }
         directory.fields.push_back(std::move(*field));
@@ -162,7 +147,7 @@ std::vector<std::uint32_t> TiffDirectory::Numbers(TiffTag tag) const {
     if (field == nullptr || (field->type != typeShort && field->type != typeLong)) {
         return numbers;
     }
-    const int width = typeBytes[field->type];
+    const std::int64_t width = TiffTypeBytes(field->type);
     for (qint64 at = 0; at < field->value.size(); at += width) {
         numbers.push_back(width == 2 ? NumberAt<quint16>(field->value, at)
                                      : NumberAt<quint32>(field->value, at));
@@ -225,8 +210,7 @@ void AddEntries(TiffDirectory& directory, const QByteArray& entries, const QByte
         }
         const TiffField field{NumberAt<quint16>(entry, 0), NumberAt<quint16>(entry, 2),
                               NumberAt<quint32>(entry, 4), value, true};
-        const qint64 length =
-            field.type < std::size(typeBytes) ? qint64{field.count} * typeBytes[field.type] : 0;
+        const qint64 length = qint64{field.count} * TiffTypeBytes(field.type);
         const bool isHere =
             length <= inlineBytes || Holds(block, NumberAt<quint32>(entry, 8), length);
         if (length == 0 || !isHere) {

@@ -32,8 +32,6 @@ struct ExifBlock {
     std::uint32_t thumbnail = 0;  // a JPEG file
     std::uint32_t thumbnailLength = 0;  // where its length in bytes is
     std::uint32_t thumbnailRoom = 0;    // bytes that it may take, to the block's end at most
-
-    bool IsBigEndian() const { return bytes.startsWith('M'); }
 };
 
 struct PhotoMetadata {

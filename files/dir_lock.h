@@ -1,7 +1,13 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One process at a time among those that change the files of a folder together.
+// One process at a time among those that change the files of a folder together. Throws nothing.
+//
+// The kernel's lock on the folder itself, which ends with the process: a killed process leaves no
+// lock file that others have to judge by its age or by the number of its process. With QLockFile a
+// session whose process number was used again by another run of the program would never be offered,
+// a process killed while it made its lock file keeps the others waiting for 30 s, and of many that
+// wait one may come too late: it pauses longer with each try.
 #pragma once
 
 #include <QString>
@@ -12,17 +18,16 @@
 
 namespace varnel {
 
-// Held until this object goes. The lock is on the folder itself and ends with the process: no lock
-// file is left behind by a killed one, or taken for that of a living one.
+// Held until this object is destroyed.
 class DirLock {
   public:
-    // Waits for others, but not longer than this.
+    // Waits for other processes for at most so many milliseconds; 0 tries once.
     DirLock(const QString& folder, int milliseconds);
     DirLock(const DirLock&) = delete;
     DirLock& operator=(const DirLock&) = delete;
     ~DirLock();
-    // False when another process held it all the time. Where there are no locks, on some network
-    // drives, nobody is kept out: the last writer wins.
+    // False when another process held it all the time. Where locks do not exist, on some network
+    // drives, it is true for each process: the last writer wins.
     bool IsHeld() const { return isHeld_; }
 
   private:

@@ -41,7 +41,7 @@ class MemoryStore : public SettingsStore {
 // The store of this user: the file Varnel/Varnel.conf in the configuration folder, on Linux
 // $XDG_CONFIG_HOME or ~/.config. A section is its group, a key stands as it is. What other
 // processes save meanwhile stays, key by key; the last writer of a key wins. Damage does not lose
-// gears (see settings_guard.h); the moment dates a damaged file's name. Where nothing can be
+// gears (see settings_recovery.h); the moment dates a damaged file's name. Where nothing can be
 // written the values last for this run. Settled when it is closed, too.
 std::unique_ptr<SettingsStore> OpenUserStore(const QDateTime& now);
 std::unique_ptr<SettingsStore> OpenFileStore(const QString& path, const QDateTime& now);

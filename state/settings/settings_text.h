@@ -4,6 +4,13 @@
 // The text of a settings file: sections in brackets, a line "key=text" for each value, comments
 // after semicolons, UTF-8. The same form as QSettings' INI files, which older releases wrote. The
 // first line promises a last one, so that a file that was cut is known from one that was edited.
+// Throws nothing.
+//
+// By hand rather than by QSettings: that forgets the order of the keys and writes them by the
+// alphabet, so that a damaged file would leave no whole gear where this leaves those before the
+// damage. It lets an open quote swallow the lines that follow, does not say which line is wrong,
+// and reads and writes files only, so that each reading would need a temporary one and a disk with
+// room for it. To decode only the values by it takes as many lines as it saves.
 #pragma once
 
 #include <QByteArray>

@@ -4,13 +4,18 @@
 #include "state/settings/settings_store.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
+#include <vector>
 
 #include "base/error_text.h"
 #include "state/settings/general_settings.h"
+#include "state/settings/number_text.h"
 #include "state/settings/setting_names.h"
 #include "tests/support/contents.h"
 #include "tests/support/limits.h"
@@ -87,6 +92,74 @@ TEST_F(UserStoreTest, KeepsTheKeysThatAnotherProcessSavesMeanwhile) {
     const auto third = Open();
     for (const auto& [key, text] : {std::pair("a", "1"), {"b", "2"}, {"c", "2"}, {"d", "1"}}) {
         EXPECT_EQ(third->Get(Text("s"), Text(key), {}), Text(text)) << key;
+    }
+}
+
+TEST_F(UserStoreTest, LosesNoKeyOfManyProcessesThatSaveAtOnce) {
+    constexpr int processes = 6;
+    constexpr int saves = 15;
+    const auto key = [](int process, int n) { return Text("key%1of%2").arg(n).arg(process); };
+    std::vector<pid_t> children;
+    for (int process = 0; process < processes; ++process) {
+        children.push_back(::fork());
+        if (children.back() == 0) {
+            const auto store = Open();
+            bool hasMessage = false;
+            for (int n = 0; n < saves; ++n) {
+                store->Save(Text("s"), key(process, n), Text("x"));
+                hasMessage |= !store->Settle().isEmpty();
+            }
+            ::_exit(hasMessage ? 1 : 0);
+        }
+    }
+    for (const pid_t child : children) {
+        int status = -1;
+        ::waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0) << "a message, or a crash";
+    }
+    const auto store = Open();
+    for (int n = 0; n < processes * saves; ++n) {
+        const QString name = key(n / saves, n % saves);
+        EXPECT_EQ(store->Get(Text("s"), name, {}), Text("x")) << name.toStdString();
+    }
+}
+
+TEST_F(UserStoreTest, ReadsAFileEditedByHandAndKeepsKeysItDoesNotKnow) {
+    const char* const lines[] = {"mine=\"a; b\"",
+                                 "[Gear]",
+                                 "gearratio1=50",
+                                 "NumGear=1",
+                                 "GearRatio1=107,5",
+                                 "GearName1=  Gr\u00F6\u00DFe \"50%\"  ; of mine",
+                                 "DefaultGearName=Gr\u00F6\u00DFe 50%",
+                                 "GearLensModel1=",
+                                 "[Of another program]",
+                                 "%41 key=C:\\\\x, \"; \\\"y\\\" \""};
+    const std::pair<const char*, const char*> values[] = {
+        {"mine", "a; b"},
+        {"Gear/gearratio1", "50"},
+        {"Gear/GearRatio1", "107,5"},
+        {"Gear/GearName1", "Gr\u00F6\u00DFe 50%"},
+        {"Gear/GearLensModel1", ""},
+        {"Of another program/A key", "C:\\x,; \"y\" "},
+        {"setting/FileType", "PNG"}};
+    const QString ratio = setting::ItemKey(setting::GearRatio, 1);
+    for (const auto& [start, end] : {std::pair("", "\n"), {"\xEF\xBB\xBF", "\r\n"}}) {
+        QByteArray file = start;
+        for (const char* const line : lines) {
+            file += QByteArray(line) + end;
+        }
+        Write(file);
+        EXPECT_EQ(ReadFloat(*Open(), setting::Gear, ratio, 0.0F), 107.5F);
+        EXPECT_EQ(Bytes(""), file) << "reading wrote";
+        Open()->Save(Text("setting"), Text("FileType"), Text("PNG"));
+        EXPECT_EQ(ReadFloat(*Open(), setting::Gear, ratio, 0.0F), 107.5F);
+        EXPECT_TRUE(Open()->Settle().isEmpty());
+        const QSettings release1(FilePath(), QSettings::IniFormat);
+        for (const auto& [key, text] : values) {
+            EXPECT_EQ(release1.value(Text(key), Text("(missing)")).toString(), Text(text)) << key;
+        }
+        Folder().removeRecursively();
     }
 }
 

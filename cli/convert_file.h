@@ -9,7 +9,7 @@
 
 #include "cli/choose_gear.h"
 #include "cli/options/options.h"
-#include "cli/taken_names.h"
+#include "pipeline/conversion/taken_names.h"
 #include "files/file_identity.h"
 #include "pipeline/photos/photo_loader.h"
 #include "remap/encode/save_bitmap.h"

@@ -13,7 +13,7 @@
 #include "base/error_text.h"
 #include "base/run_time_error.h"
 #include "base/thread_runner.h"
-#include "pipeline/conversion/batch_targets.h"
+#include "pipeline/conversion/conversion_targets.h"
 #include "pipeline/conversion/lending_steps.h"
 #include "pipeline/conversion/save_worker.h"
 #include "remap/image/photo_metadata.h"

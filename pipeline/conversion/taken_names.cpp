@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/taken_names.h"
+#include "pipeline/conversion/taken_names.h"
 
 #include <QFileInfo>
 

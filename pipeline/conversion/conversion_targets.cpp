@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "pipeline/conversion/batch_targets.h"
+#include "pipeline/conversion/conversion_targets.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -6,14 +6,11 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 
 #include "base/record_array.h"
 #include "pipeline/conversion/batch_summary.h"
+#include "pipeline/conversion/conversion_run.h"
 #include "pipeline/conversion/output_name.h"
-#include "pipeline/conversion/prefetching_reader.h"
-#include "remap/encode/save_bitmap.h"
-#include "remap/render/render.h"
 
 namespace varnel {
 
@@ -43,32 +40,14 @@ class BatchObserver {
     virtual RenderProgress& Progress() = 0;
     // After each photo, also one that failed: handles pending events once and shows the numbers.
     virtual void Done(int done, int queued) = 0;
-    // Asked after Done; true ends the run.
+    // Asked after Done and before a photo is begun; true ends the run.
     virtual bool StopAsked() = 0;
 };
-
-// How photos come in and go out.
-struct BatchPorts {
-    std::function<LoadedPicture(const QString& path)> load;
-    std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
-                             int flags)>
-        save{};  // none: SaveBitmap
-    // Told of the photos that are loaded next, as far ahead as it wishes; where it is there, one
-    // photo is read and another one written (save is called on another thread then) while a third
-    // is converted. Nobody can tell from what the observer hears or from the files.
-    std::function<void(const QString& path)> readAhead{};
-    int aheadAtMost = 1;  // photos
-    // Those that converting and writing share with reading; null: as many as the machine has.
-    ThreadRunner* cores = nullptr;
-};
-
-// Photos from the feed, as far ahead as it has readers.
-BatchPorts BatchPortsFor(PrefetchingReader& feed);
 
 // Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
 // changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
 // the queue is never replaced, and no older file by a conversion of a damaged photo.
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
-                      BatchObserver& observer, const BatchPorts& ports);
+                      BatchObserver& observer, const ConversionPorts& ports);
 
 }  // namespace varnel

@@ -3,56 +3,54 @@
 
 #include "pipeline/conversion/conversion_targets.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
-
-#include "base/error_text.h"
 
 namespace varnel {
 
-namespace {
-
-struct Texts {
-    Q_DECLARE_TR_FUNCTIONS(Batch)
-};
-
-// Frames of a sequence share their photo.
-QStringList PhotosOf(const RecordArray<ImageRecord>& queue) {
-    QStringList paths;
-    for (const ImageRecord& entry : queue) {
-        if (const QString path = SourcePath(entry); paths.isEmpty() || path != paths.last()) {
-            paths.append(path);
-        }
-    }
-    return paths;
-}
-
-}  // namespace
-
-BatchTargets::BatchTargets(const RecordArray<ImageRecord>& queue) : queued_(PhotosOf(queue)) {}
-
-QString BatchTargets::Error(const ImageRecord& entry, const QString& path, const Reason& damage) {
-    if (!QFileInfo::exists(path)) {
+TargetRefusal ConversionTargets::Take(const QString& photo, const QString& target) {
+    if (rules_.repeated == RepeatedName::LaterReplaces) {
         return {};
     }
-    if (SameFile(path, SourcePath(entry))) {
-        return Texts::tr("%1 is the photo itself").arg(path);
-    }
-    if (queued_.Contains(path)) {
-        return Texts::tr("%1 is one of the queued photos").arg(path);
-    }
-    if (!damage.isEmpty() && !halfPictures_.contains(path)) {
-        return Texts::tr("the photo is damaged (%1) and does not replace the older %2")
-            .arg(ErrorText(damage), path);
-    }
-    return {};
+    const QString first = names_.Take(target, photo);
+    return first.isEmpty() ? TargetRefusal() : TargetRefusal{TargetError::IsResultOfRun, first};
 }
 
-void BatchTargets::NoteWritten(const QString& path, bool damaged) {
+bool ConversionTargets::IsSkipped(const QString& target) const {
+    return rules_.existing == ExistingFile::Skipped && QFileInfo::exists(target);
+}
+
+TargetRefusal ConversionTargets::Check(const QString& photo, const QString& target, bool damaged) {
+    const QFileInfo file(target);
+    if (!file.exists()) {
+        return {};
+    }
+    if (file.isDir()) {
+        return {TargetError::IsFolder};
+    }
+    if (SameFile(target, photo)) {
+        return {TargetError::IsThePhoto};
+    }
+    // One that is yet to be converted, say: "varnel *" where an earlier result lies.
+    if (photos_.Contains(target)) {
+        return {TargetError::IsPhotoOfRun};
+    }
+    if (const QString first = written_.value(file.canonicalFilePath());
+        !first.isEmpty() && rules_.repeated == RepeatedName::LaterFails) {
+        return {TargetError::IsResultOfRun, first};  // through a link, say
+    }
+    if (rules_.existing != ExistingFile::Replaced) {
+        return {TargetError::Exists};
+    }
+    return damaged && !halfPictures_.contains(target) ? TargetRefusal{TargetError::DamagedPhoto}
+                                                      : TargetRefusal();
+}
+
+void ConversionTargets::NoteWritten(const QString& photo, const QString& target, bool damaged) {
+    written_.insert(QFileInfo(target).canonicalFilePath(), photo);
     if (damaged) {
-        halfPictures_.insert(path);
+        halfPictures_.insert(target);
     } else {
-        halfPictures_.remove(path);
+        halfPictures_.remove(target);
     }
 }
 

@@ -247,7 +247,7 @@ BatchSummary FormBatch::Run() {
     EventsMeanwhile wait;
     ThreadRunner cores(QThread::idealThreadCount());
     PrefetchingReader feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
-    return RunBatch(queue_, choices_, *progress_, BatchPortsFor(feed));
+    return RunBatch(queue_, choices_, *progress_, PortsFor(feed));
 }
 
 void FormBatch::Stop() {

@@ -170,7 +170,7 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
         StepName(SliderId::Z),
         ErrorText(ReasonFor(OverflowError(ReasonCode::OverflowOf32Bits, "TranslateX"))),
         ErrorText(ReasonCode::Cancelled),
-        ErrorText(BatchPortsFor(feed).load(Q("/no/such.jpg")).reason),
+        ErrorText(PortsFor(feed).load(Q("/no/such.jpg")).reason),
         ErrorText({ReasonCode::SettingsUnreadable, Q("/x/y"), ReasonCode::NotRegular,
                    ReasonCode::SettingsBeginAfresh}),
     };

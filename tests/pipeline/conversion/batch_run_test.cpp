@@ -33,8 +33,11 @@ class Listener : public BatchObserver, public RenderProgress {
     explicit Listener(QStringList& log) : log_(log) {}
     void Naming(const QString& path) override { log_ += Text("name ") + path; }
     RenderProgress& Progress() override { return *this; }
-    void Done(int done, int queued) override { log_ += BatchProgressText(done, queued); }
-    bool StopAsked() override { return --stopAfter == 0; }
+    void Done(int done, int queued) override {
+        log_ += BatchProgressText(done, queued);
+        --stopAfter;
+    }
+    bool StopAsked() override { return stopAfter == 0; }
     void Begin(float /*maximum*/) override { log_ += Text("begin"); }
     void Advance(float /*value*/) override {}
     void End() override { log_ += Text("end"); }
@@ -61,10 +64,9 @@ class FakeRun : public ::testing::Test {
     Listener listener{log};
     RecordArray<ImageRecord> queue;
     BatchChoices choices{Text("/out"), {}, OutputType::Jpeg, 83};
-    BatchPorts ports{[this](const QString& path) { return Load(path); },
-                     [this](FREE_IMAGE_FORMAT format, FIBITMAP*, const QString& path, int flags) {
-                         return Save(format, path, flags);
-                     }};
+    ConversionPorts ports{[this](const QString& path) { return Load(path); },
+                          [this](FREE_IMAGE_FORMAT format, FIBITMAP*, const QString& path,
+                                 int flags) { return Save(format, path, flags); }};
 };
 
 TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
@@ -189,9 +191,12 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
         QString summaries[2];
         QStringList ahead;
         for (const bool overlaps : {false, true}) {
-            BatchPorts both{load, save};
+            ConversionPorts both{load, save};
             if (overlaps) {
-                both.readAhead = [&](const QString& path) { ahead.append(path); };
+                both.readAhead = [&](const QString& path) {
+                    ahead.append(path);
+                    return true;
+                };
                 both.aheadAtMost = 3;
             }
             Listener other(heard[overlaps]);
@@ -291,7 +296,7 @@ class RealRun : public ::testing::Test {
         Listener listener(log);
         ReadingWait wait;
         PrefetchingReader feed(testing::Reader(), 1, wait);
-        return RunBatch(queue, choices, listener, BatchPortsFor(feed));
+        return RunBatch(queue, choices, listener, PortsFor(feed));
     }
     // What a conversion of that entry alone writes.
     QByteArray Single(ImageRecord entry) const {

@@ -1,0 +1,384 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/conversion/conversion_run.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+#include "base/error_reason.h"
+#include "base/thread_runner.h"
+#include "pipeline/conversion/lending_steps.h"
+#include "pipeline/conversion/save_worker.h"
+#include "remap/image/photo_metadata.h"
+#include "remap/image/preview_size.h"
+#include "state/editing/picture_settings.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int betweenEvents = 10;  // ms
+
+// A conversion on its way. The observer hears of it only when the one before it is done.
+struct Turn {
+    Conversion what{};
+    ConversionOutcome outcome{};
+    BitmapHandle result{};
+    QElapsedTimer sinceBegun{};
+    bool announced = false;
+    float maximum = 0.0F;  // of its progress; 0 until it begins
+    bool rendered = false;
+};
+
+class Run : private RenderProgress {
+  public:
+    Run(const ConversionPlan& plan, ConversionTargets& targets, ConversionObserver& observer,
+        const ConversionPorts& ports)
+        : plan_(plan),
+          targets_(targets),
+          observer_(observer),
+          ports_(ports),
+          overlaps_(ports.readAhead),
+          runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
+          series_(LendingSeries(runner_,
+                                ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
+          worker_(overlaps_, &runner_) {}
+
+    ConversionRunEnd Go() {
+        for (photo_ = 0; photo_ < plan_.photos.size() && !Stopped(); ++photo_) {
+            ConvertPhoto();
+        }
+        FinishWriting();
+        return {left_, series_.Finish().reason};
+    }
+
+  private:
+    void ConvertPhoto() {
+        BeginTurn(0, {});
+        LoadedPicture loaded = Load();
+        if (loaded.reason.Is(ReasonCode::Cancelled)) {
+            stopped_ = left_ = true;
+            return;
+        }
+        if (loaded.outcome == LoadOutcome::NotLoaded) {
+            EndPhoto(ConversionEnd::NotRead, loaded.reason);
+            return;
+        }
+        turn_.what.damage = loaded.reason;
+        ConversionRecords records;
+        const Reason error = Attempt([&] { records = plan_.records(photo_, loaded); });
+        if (!error.isEmpty() || records.all.empty()) {
+            EndPhoto(ConversionEnd::NoRecords, error.isEmpty() ? records.error : error);
+            return;
+        }
+        bitmaps_.FullSourceBitmap = std::move(loaded.bitmap);
+        ConvertAll(records.all, loaded.reason);
+        DropSource();
+    }
+
+    void ConvertAll(const std::vector<ImageRecord>& records, const Reason& damage) {
+        for (std::size_t n = 0; n < records.size(); ++n) {
+            if (n > 0) {
+                if (Stopped()) {
+                    return;
+                }
+                BeginTurn(static_cast<qsizetype>(n), damage);
+            }
+            turn_.what.record = records[n];
+            Convert(n + 1 == records.size());
+        }
+    }
+
+    void BeginTurn(qsizetype index, const Reason& damage) {
+        turn_ = Turn{.what = {photo_, index, {}, {}, damage}, .result = std::move(turn_.result)};
+        turn_.sinceBegun.start();
+    }
+
+    void EndPhoto(ConversionEnd end, const Reason& reason) {
+        Fail(end, reason);
+        TellTurn();
+    }
+
+    void Fail(ConversionEnd end, const Reason& reason) {
+        turn_.outcome.end = end;
+        turn_.outcome.reason = reason;
+    }
+
+    bool Failed() const { return turn_.outcome.end != ConversionEnd::Written; }
+
+    // Before something is begun. What is left then is not done.
+    bool Stopped() {
+        stopped_ = stopped_ || observer_.StopAsked();
+        left_ = left_ || stopped_;
+        return stopped_;
+    }
+
+    // Reading.
+
+    LoadedPicture Load() {
+        if (asked_ <= photo_) {
+            FinishWriting();  // it may be what is written, however odd that is
+            asked_ = photo_ + 1;
+        }
+        LoadedPicture loaded = LoadNow();
+        while (overlaps_ && asked_ < plan_.photos.size() && asked_ <= photo_ + ports_.aheadAtMost &&
+               HasRoomAhead(asked_ - photo_, loaded.size) &&
+               ports_.readAhead(plan_.photos[asked_])) {
+            ++asked_;
+        }
+        if (photo_ + 1 == plan_.photos.size() && ports_.allRead) {
+            ports_.allRead();
+        }
+        return loaded;
+    }
+
+    LoadedPicture LoadNow() {
+        LoadedPicture loaded;
+        const Reason error = Attempt([&] { loaded = ports_.load(plan_.photos[photo_]); });
+        return error.isEmpty() ? std::move(loaded) : LoadedPicture::Refused(error);
+    }
+
+    void DropSource() {
+        bitmaps_.FullSourceBitmap.reset();
+        bitmaps_.PreviewSourceBitmap.reset();
+    }
+
+    // Converting.
+
+    void Convert(bool last) {
+        const Reason error = Attempt([this] {
+            ChooseTarget();
+            if (!Failed() && !Dropped()) {
+                RenderTurn();
+            }
+        });
+        if (!error.isEmpty()) {
+            Fail(ConversionEnd::NotConverted, error);
+        }
+        if (last) {
+            DropSource();  // encoding needs room of its own
+        }
+        FinishWriting();
+        if (!Failed()) {
+            CheckTarget();  // what was written meanwhile may be the same file by another name
+        }
+        if (Failed() || Dropped()) {
+            TellTurn();
+        } else {
+            BeginWriting();
+        }
+    }
+
+    void ChooseTarget() {
+        const QString& photo = plan_.photos[photo_];
+        turn_.what.target = plan_.target(photo, turn_.what.record);
+        if (writing_ && MayBeSameFile(writing_->what.target, turn_.what.target)) {
+            FinishWriting();
+        }
+        if (!writing_ && !Dropped()) {
+            Announce();
+        }
+        if (const TargetRefusal taken = targets_.Take(photo, turn_.what.target)) {
+            Refuse(taken);
+        } else if (targets_.IsSkipped(turn_.what.target)) {
+            turn_.outcome.end = ConversionEnd::Skipped;
+        } else {
+            CheckTarget();
+        }
+    }
+
+    void CheckTarget() {
+        if (const TargetRefusal refusal = targets_.Check(plan_.photos[photo_], turn_.what.target,
+                                                         !turn_.what.damage.isEmpty())) {
+            Refuse(refusal);
+        }
+    }
+
+    void Refuse(const TargetRefusal& refusal) {
+        turn_.outcome.end = ConversionEnd::Refused;
+        turn_.outcome.refusal = refusal;
+    }
+
+    void RenderTurn() {
+        FIBITMAP* const full = bitmaps_.FullSourceBitmap.get();
+        if (plan_.preview && !bitmaps_.PreviewSourceBitmap) {
+            bitmaps_.PreviewSourceBitmap =
+                ReducedCopy(full, PreviewSize(SizeOf(full), *plan_.preview, *plan_.preview));
+        }
+        bitmaps_.ResultBitmap = std::move(turn_.result);
+        RenderContext context{bitmaps_, [this] { return plan_.smoothPreview; }, &runner_};
+        const ImageRecord& record = turn_.what.record;
+        Render(ProjectionFromIndex(record.Projection), record,
+               plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, *this, context);
+        turn_.result = std::move(bitmaps_.ResultBitmap);
+        NoteSettings(turn_.result.get(), record, plan_.output.writeSettings,
+                     plan_.output.writeMetadata ? turn_.what.target : QString());
+    }
+
+    // Writing.
+
+    void BeginWriting() {
+        Announce();
+        turn_.outcome.size = SizeOf(turn_.result.get());
+        writing_ = std::move(turn_);
+        turn_.result = std::move(spare_);
+        worker_.Begin([this, bitmap = writing_->result.get(), path = writing_->what.target] {
+            return Save(bitmap, path);
+        });
+        if (!overlaps_) {
+            FinishWriting();
+        }
+    }
+
+    SaveResult Save(FIBITMAP* bitmap, const QString& path) {
+        const OutputChoices& output = plan_.output;
+        const FREE_IMAGE_FORMAT format = FormatOf(output.type);
+        const int flags = SaveFlags(output.type, output.jpegQuality, output.chroma444);
+        if (!output.writeMetadata) {
+            DropMetadata(bitmap);
+        }
+        if (ports_.save) {
+            return ports_.save(format, bitmap, path, flags);
+        }
+        const SaveResult saved =
+            SaveBitmap(format, bitmap, FileInSeries{path, series_}, flags, &runner_);
+        const WriteResult lasts = plan_.namesLastAtEnd ? WriteResult{true, {}} : series_.Finish();
+        return !saved || lasts ? saved : SaveResult{false, lasts.reason};
+    }
+
+    void FinishWriting() {
+        if (!writing_) {
+            return;
+        }
+        if (!worker_.Wait(0)) {
+            const CoreLent lent(runner_);
+            while (!worker_.Wait(betweenEvents)) {
+                observer_.Progress().HandleEvents();
+            }
+        }
+        const SaveResult saved = worker_.Take();
+        Turn written = std::move(*writing_);
+        writing_.reset();
+        spare_ = std::move(written.result);
+        if (saved) {
+            written.outcome.note = saved.note;
+            targets_.NoteWritten(plan_.photos[written.what.photo], written.what.target,
+                                 !written.what.damage.isEmpty());
+        } else {
+            written.outcome.end = ConversionEnd::NotSaved;
+            written.outcome.reason = saved.reason;
+        }
+        End(written);
+    }
+
+    // Telling.
+
+    // What was converted while the one before it was written, and is not to be told any more.
+    bool Dropped() const { return stopped_ && !plan_.finishesBegun; }
+
+    void TellTurn() {
+        FinishWriting();
+        if (Dropped()) {
+            left_ = true;
+            return;
+        }
+        Announce();
+        End(turn_);
+    }
+
+    void End(Turn& turn) {
+        turn.outcome.seconds = static_cast<double>(turn.sinceBegun.elapsed()) / 1000.0;
+        observer_.Ended(turn.what, turn.outcome);
+        stopped_ = stopped_ || (!plan_.finishesBegun && observer_.StopAsked());
+    }
+
+    void Announce() {
+        if (turn_.announced) {
+            return;
+        }
+        turn_.announced = true;
+        observer_.Begun(turn_.what);
+        if (turn_.maximum > 0.0F) {
+            observer_.Progress().Begin(turn_.maximum);
+        }
+        if (turn_.rendered) {
+            observer_.Progress().End();
+        }
+    }
+
+    void HandleEvents() override { observer_.Progress().HandleEvents(); }
+
+    void Begin(float maximum) override {
+        turn_.maximum = maximum;
+        if (turn_.announced) {
+            observer_.Progress().Begin(maximum);
+        }
+    }
+
+    void Advance(float value) override {
+        if (writing_ && worker_.Wait(0)) {
+            FinishWriting();
+        }
+        if (!writing_ && !Dropped()) {
+            Announce();
+        }
+        if (turn_.announced) {
+            observer_.Progress().Advance(value);
+        } else {
+            HandleEvents();
+        }
+    }
+
+    void End() override {
+        turn_.rendered = true;
+        if (turn_.announced) {
+            observer_.Progress().End();
+        }
+    }
+
+    const ConversionPlan& plan_;
+    ConversionTargets& targets_;
+    ConversionObserver& observer_;
+    const ConversionPorts& ports_;
+    const bool overlaps_;
+    std::optional<ThreadRunner> own_;
+    ThreadRunner& runner_;
+    UnfinishedFile unfinished_;  // where no other is given
+    FileSeries series_;
+    qsizetype photo_ = 0;
+    qsizetype asked_ = 0;  // photos that were begun to be read
+    Bitmaps bitmaps_;      // of the photo at hand
+    Turn turn_;
+    std::optional<Turn> writing_;
+    BitmapHandle spare_;
+    bool stopped_ = false;
+    bool left_ = false;  // something was not done because of that
+    SaveWorker worker_;  // last: it ends before what it works with
+};
+
+}  // namespace
+
+ConversionPorts PortsFor(PrefetchingReader& feed) {
+    ConversionPorts ports;
+    ports.load = [&feed](const QString& path) { return feed.Take(path); };
+    ports.cores = feed.Cores();
+    ports.aheadAtMost = feed.Ahead();
+    if (ports.aheadAtMost > 0) {
+        ports.readAhead = [&feed](const QString& path) {
+            const bool isThere = QFileInfo::exists(path);
+            if (isThere) {
+                feed.ReadAhead(path);
+            }
+            return isThere;
+        };
+    }
+    return ports;
+}
+
+ConversionRunEnd RunConversions(const ConversionPlan& plan, ConversionTargets& targets,
+                                ConversionObserver& observer, const ConversionPorts& ports) {
+    return Run(plan, targets, observer, ports).Go();
+}
+
+}  // namespace varnel

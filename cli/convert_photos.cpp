@@ -14,7 +14,7 @@
 #include "base/error_text.h"
 #include "base/run_time_error.h"
 #include "base/thread_runner.h"
-#include "cli/convert_file.h"
+#include "cli/conversion_records.h"
 #include "cli/existing_results.h"
 #include "cli/options/advice.h"
 #include "cli/report/run_reports.h"

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "cli/convert_file.h"
+#include "cli/conversion_records.h"
 #include "cli/report/file_report.h"
 
 namespace varnel {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/convert_file.h"
+#include "cli/conversion_records.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include "base/run_time_error.h"
+#include "cli/report/failure_text.h"
 
 namespace varnel {
 
@@ -16,9 +17,10 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record) {
     return report;
 }
 
-std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, const QString& file) {
-    const bool nameTellsGear = !run.options.outputDir.isEmpty() || run.options.morph;
-    if (!run.gears.forAll && nameTellsGear) {
+std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
+                                        PhotoLoader& photos, const QString& file) {
+    const bool nameTellsGear = !request.options.outputDir.isEmpty() || request.options.morph;
+    if (!request.gears.forAll && nameTellsGear) {
         return {};  // only the photo itself tells what its results are called
     }
     const std::optional<PhotoSize> size = photos.Size(file);
@@ -28,10 +30,10 @@ std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, co
     std::vector<FileReport> results;
     try {
         const ImageRecord start =
-            StartRecord(run, file, *size, run.gears.forAll.value_or(GearRecord()));
-        for (const ImageRecord& record : RecordsFor(run, start)) {
+            StartRecord(request, file, *size, request.gears.forAll.value_or(GearRecord()));
+        for (const ImageRecord& record : RecordsFor(request, start)) {
             results.push_back(ReportOf(file, record));
-            results.back().result = TargetFor(run, file, record).file;
+            results.back().result = TargetFor(request, file, record);
             if (!QFileInfo::exists(results.back().result)) {
                 return {};
             }
@@ -40,8 +42,9 @@ std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, co
         return {};
     }
     for (FileReport& result : results) {
-        result.reason = TakeName(run, file, result.result);
-        result.status = result.reason.isEmpty() ? FileStatus::Skipped : FileStatus::Failed;
+        const TargetRefusal taken = targets.Take(file, result.result);
+        result.reason = RefusalText(request.options, file, taken);
+        result.status = taken ? FileStatus::Failed : FileStatus::Skipped;
     }
     return results;
 }

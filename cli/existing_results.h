@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What an earlier run has done already.
+// What an earlier run has done already. Throws std::bad_alloc only.
 #pragma once
 
 #include <vector>
 
 #include "cli/conversion_records.h"
 #include "cli/report/file_report.h"
+#include "pipeline/conversion/conversion_targets.h"
 
 namespace varnel {
 
@@ -16,7 +17,8 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record);
 
 // All of the photo's results, if under every one's name a file lies already: as skipped ones, or as
 // failed ones where the name is that of an earlier photo's result. Else none. The photo is not
-// decoded, only its size is looked up.
-std::vector<FileReport> ResultsThere(ConversionRun& run, PhotoLoader& photos, const QString& file);
+// decoded, only its size is looked up. Their names are taken.
+std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
+                                        PhotoLoader& photos, const QString& file);
 
 }  // namespace varnel

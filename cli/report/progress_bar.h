@@ -30,6 +30,7 @@ class TerminalBar : public RenderProgress {
     // Before anything else is written to the terminal.
     void Wipe();
 
+    void HandleEvents() override { Refresh(); }
     void Begin(float maximum) override;
     void Advance(float value) override;
     void End() override {}

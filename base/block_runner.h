@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Fork and join: a piece of work cut into blocks that own disjoint pixels of the result.
+// Fork and join: a piece of work cut into blocks that own disjoint pixels of the result. Throws
+// what a block throws.
 #pragma once
 
 #include <functional>
@@ -12,8 +13,8 @@ class BlockRunner {
   public:
     virtual ~BlockRunner() = default;
     // Calls block(n) once for each n from 0 to blocks - 1, in any order and possibly at the same
-    // time, and returns when all are done. What a block throws ends the run: no more blocks are
-    // begun, and it is thrown on once those at work are done.
+    // time, and returns when all are done. An exception of a block ends the run: no more blocks are
+    // begun, and it is rethrown once those at work are done.
     virtual void Run(int blocks, const std::function<void(int)>& block) = 0;
 };
 

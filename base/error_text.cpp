@@ -38,7 +38,7 @@ constexpr Row rows[] = {
     {ReasonCode::DividedByNoNumber,
      QT_TRANSLATE_NOOP("Reasons", "Division by zero: %1 is no number")},
     {ReasonCode::DivisionByZero, QT_TRANSLATE_NOOP("Reasons", "Division by zero: %1")},
-    // what those numbers are called
+    // names of those numbers
     {ReasonCode::OneFrameHasNoSteps,
      QT_TRANSLATE_NOOP("Reasons", "a sequence of one frame has no steps")},
     {ReasonCode::HalfPictureWidth, QT_TRANSLATE_NOOP("Reasons", "half the picture's width")},
@@ -155,7 +155,7 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "damaged: the raw photo cannot be read")},
     {ReasonCode::FileCutShort, QT_TRANSLATE_NOOP("Reasons", "damaged: the file is cut short")},
     {ReasonCode::Damaged, QT_TRANSLATE_NOOP("Reasons", "damaged: %1")},
-    // state: files that are replaced as a whole
+    // files: files that are replaced as a whole
     {ReasonCode::NotRegular, QT_TRANSLATE_NOOP("Reasons", "Not a regular file")},
     {ReasonCode::WhileCreating,
      QT_TRANSLATE_NOOP("Reasons", "%1 (while creating a temporary file)")},
@@ -220,7 +220,7 @@ QString TextOf(ReasonCode code) {
                                        : QCoreApplication::translate("Reasons", EnglishOf(code));
 }
 
-// All at once: what stands for a place may look like another one.
+// In one pass: an argument may itself contain "%1".
 QString Filled(const QString& text, const QStringList& values) {
     QString filled;
     for (qsizetype n = 0; n < text.size(); ++n) {
@@ -251,7 +251,7 @@ QString SystemWords(qint64 error) {
 
 }  // namespace
 
-int PlacesIn(ReasonCode code) {
+int ArgumentCount(ReasonCode code) {
     return static_cast<int>(std::ranges::count(std::string_view(EnglishOf(code)), '%'));
 }
 

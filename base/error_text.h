@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The one place where reasons become text.
+// The one place where reasons become text. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -11,10 +11,10 @@
 namespace varnel {
 
 // In the language whose translation is installed; in English where none is, as in the programs for
-// the console. Words of libraries and of the system stay as they are. Empty when all is well.
+// the console. Texts of libraries and of the system are not translated. Empty for an empty reason.
 QString ErrorText(const Reason& reason);
 
-// How many arguments the text of a code has places for. The code is one that there is.
-int PlacesIn(ReasonCode code);
+// The number of arguments in the text of a code below ReasonCode::Count.
+int ArgumentCount(ReasonCode code);
 
 }  // namespace varnel

@@ -26,7 +26,7 @@ std::shared_ptr<std::byte> LargePages(std::size_t length) {
     if (length < 2 * page) {
         return nullptr;
     }
-    // One page more, so that whole large ones fit from the first place on that they may have.
+    // One page more, so that whole ones fit from the first aligned address on.
     const std::size_t mapped = length + page;
     void* const memory =
         mmap(nullptr, mapped, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Memory for whole pictures.
+// Memory for whole pictures. Throws std::bad_alloc only.
 #pragma once
 
 #include <cstddef>
@@ -9,13 +9,13 @@
 
 namespace varnel {
 
-// That many zero bytes in pages as large as the system gives: with small ones, touching a fresh
-// 24-megapixel bitmap for the first time costs as much time as converting it. Null where there are
-// no such pages to be had, or for less than is worth while.
+// That many zero bytes in pages as large as the system gives: with small ones, the page faults of a
+// fresh 24-megapixel bitmap cost as much time as converting it. Null where the system has no such
+// pages, and for less than two of them.
 std::shared_ptr<std::byte> LargePages(std::size_t length);
 
-// For programs that do many pictures and end: what is freed stays with the process, up to 64 MB,
-// instead of going back to the system and being touched for the first time again with each picture.
+// For programs that convert many pictures and end: freed memory stays with the process, up to 64
+// MB, instead of going back to the system and costing page faults again with each picture.
 void KeepFreedMemory();
 
 }  // namespace varnel

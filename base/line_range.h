@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The columns or rows that a loop covers. A centre far off the picture makes loops of a billion
-// lines, of which only those count that lie on the picture.
+// lines, of which only those count that lie on the picture. Throws nothing.
 #pragma once
 
 #include <algorithm>
@@ -18,7 +18,7 @@ struct LineRange {
     int Count() const { return last - first + 1; }
 };
 
-// Columns or rows that are worked out between two turns of the event queue at full size.
+// Columns or rows that are computed between two turns of the event loop at full size.
 inline constexpr int batchLines = 2048;
 
 // The distances 0 to farthest from the centre at which, to one side or the other, a side of size

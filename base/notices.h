@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Telling the user something that has to be read: a plain modal message with an OK button, or a
-// line on stderr where there is no window.
+// Messages that the user has to read: a plain modal box with an OK button, or a line on stderr
+// where there is no window. Throws nothing.
 #pragma once
 
 #include <QString>

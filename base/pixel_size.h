@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A size in pixels, of a picture or of a box to fit one into.
+// A size in pixels, of a picture or of a box to fit one into. Throws nothing.
 #pragma once
 
 #include <cstdint>

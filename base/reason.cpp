@@ -25,7 +25,7 @@ bool IsErrorNumber(const Reason::Argument& argument) {
     return number != nullptr && *number >= 0 && *number <= std::numeric_limits<int>::max();
 }
 
-// In one line that can stand in a message, whatever a library made of a file's bytes.
+// One line that can stand in a message: a library's text may contain bytes of a damaged file.
 QString Printable(QString text) {
     std::replace_if(
         text.begin(), text.end(), [](QChar character) { return !character.isPrint(); }, u' ');
@@ -115,7 +115,7 @@ bool IsSound(ReasonCode code, const std::vector<Reason::Argument>& arguments) {
         return arguments.size() > 1 && std::ranges::all_of(arguments, &ReasonIn);
     }
     return code < ReasonCode::Count &&
-           arguments.size() == static_cast<std::size_t>(PlacesIn(code)) &&
+           arguments.size() == static_cast<std::size_t>(ArgumentCount(code)) &&
            (code != ReasonCode::SystemError || IsErrorNumber(arguments.front()));
 }
 
@@ -141,7 +141,7 @@ QDataStream& operator<<(QDataStream& out, const Reasons& reasons) {
     return out;
 }
 
-// One after the other: a number that is said to come need not be true.
+// Without reserving memory first: the count in the stream may be wrong.
 QDataStream& operator>>(QDataStream& in, Reasons& reasons) {
     reasons.clear();
     quint32 count = 0;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Why something is not as it should be: a code with its arguments. Programs ask the code; people
-// get the text that ErrorText makes of it (told_reason.h).
+// Why something failed or is not as it should be: a code with its arguments. The program compares
+// codes; the user reads the text that ErrorText makes of them (error_text.h). Throws nothing.
 #pragma once
 
 #include <QDataStream>
@@ -20,14 +20,14 @@ class Reason {
   public:
     struct Argument;
 
-    // All is well.
+    // Empty: no error.
     Reason();
     Reason(const Reason&);
     Reason(Reason&&) noexcept;
     Reason& operator=(const Reason&);
     Reason& operator=(Reason&&) noexcept;
     ~Reason();
-    // With as many arguments as the code's text has places: whole numbers, texts, further reasons.
+    // With as many arguments as the code's text has: whole numbers, texts, further reasons.
     template <class... Arguments>
     Reason(ReasonCode code, Arguments&&... arguments)
         : Reason(code, std::vector<Argument>{Argument(std::forward<Arguments>(arguments))...}) {}
@@ -37,7 +37,7 @@ class Reason {
     const std::vector<Argument>& Arguments() const { return arguments_; }
     bool isEmpty() const { return code_ == ReasonCode::None; }
     bool Is(ReasonCode code) const { return code_ == code; }
-    // Whether it is that error of the system, or comes from it.
+    // Whether this is the given errno value or contains it.
     bool IsBy(int systemError) const;
 
     friend bool operator==(const Reason& one, const Reason& other);
@@ -64,11 +64,11 @@ using Reasons = QList<Reason>;
 // Those that are not empty, as one; empty when there is none.
 Reason Joined(const Reasons& reasons);
 
-// True for a code that there is and arguments such as it takes.
+// True for a code that exists, with the arguments that it takes.
 bool IsSound(ReasonCode code, const std::vector<Reason::Argument>& arguments);
 
-// For what one process tells another. Whatever is read is sound: the stream is corrupt otherwise.
-// Texts come back as one line without characters that cannot be shown.
+// The form in which reasons are sent to another process. What is read is sound, else the stream's
+// status is ReadCorruptData. Texts come back as one line without characters that cannot be shown.
 QDataStream& operator<<(QDataStream& out, const Reason& reason);
 QDataStream& operator>>(QDataStream& in, Reason& reason);
 QDataStream& operator<<(QDataStream& out, const Reasons& reasons);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Everything that can be wrong with a photo, a number, a written file or the settings. What each
-// one says stands in told_reason.cpp, in the same order.
+// Everything that can be wrong with a photo, a number, a written file or the settings. The texts
+// are in error_text.cpp, in the same order. Throws nothing.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,10 @@
 namespace varnel {
 
 enum class ReasonCode : std::uint16_t {
-    None,         // all is well
-    Words,        // somebody else's: of the system, of a library
-    SystemError,  // a number of errno's
-    Added,        // a reason and somebody else's words about it
+    None,         // no error
+    Words,        // a text of the system or of a library
+    SystemError,  // a value of errno
+    Added,        // a reason and a library's text about it
     Of,           // a file or folder and what is wrong with it
     Several,      // reasons one after the other
     // remap: numbers that make no picture. The value that does not fit, or the divisor
@@ -23,7 +23,7 @@ enum class ReasonCode : std::uint16_t {
     DividedByZero,
     DividedByNoNumber,
     DivisionByZero,
-    // what those numbers are called
+    // names of those numbers
     OneFrameHasNoSteps,
     HalfPictureWidth,
     TangentOfHalfAngle,
@@ -100,7 +100,7 @@ enum class ReasonCode : std::uint16_t {
     RawUnreadable,
     FileCutShort,
     Damaged,
-    // state: files that are replaced as a whole
+    // files: files that are replaced as a whole
     NotRegular,
     WhileCreating,
     WhileSettingPermissions,
@@ -129,7 +129,7 @@ enum class ReasonCode : std::uint16_t {
     TextCutShort,
     LineIsNoSetting,
     SettingsEmpty,
-    Count  // of the codes; none itself
+    Count  // of the codes; not a code itself
 };
 
 }  // namespace varnel

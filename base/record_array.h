@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A growable array that counts from 1, as its users and the stored keys do. There is no element 0;
-// an empty array has the upper bound 0.
+// an empty array has the upper bound 0. Throws std::bad_alloc only.
 #pragma once
 
 #include <cassert>

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The roundings that every projection is defined with. Their ties and directions show in the
-// pictures: a position that rounds the other way is another pixel.
+// pictures: a position that rounds the other way is another pixel. CLng, CInt and ToSingle throw
+// OverflowError, the others nothing.
 #pragma once
 
 #include <cmath>
@@ -60,7 +61,7 @@ inline float ToSingle(double x, ValueName name) {
     return single;
 }
 
-// A pixel index for an already rounded position; nothing when it is beyond 32 bits or no number.
+// A pixel index for an already rounded position; empty when it is beyond 32 bits or not a number.
 // Such a position is off every bitmap.
 inline std::optional<std::int32_t> PixelIndex(double whole) {
     if (!(whole >= -2147483648.0 && whole <= 2147483647.0)) {

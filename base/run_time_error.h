@@ -3,8 +3,8 @@
 
 // The errors that a conversion can end with because of its numbers: a whole number that does not
 // fit, a division by zero. They are thrown by the checked functions here and in rounding.h and
-// caught where one picture's conversion is started, never in between. What they say is told by
-// ReasonFor (error_reason.h): the geometry knows no texts.
+// caught where one picture's conversion is started, never in between. ReasonFor (error_reason.h)
+// turns them into reasons with texts, which the geometry does not know.
 #pragma once
 
 #include <exception>
@@ -13,8 +13,8 @@
 
 namespace varnel {
 
-// What a number is called: by the name of a record's field, which outlives every error, or in
-// words, which languages have their own of.
+// The name of a number: that of a record's field, a text that outlives every error, or the code of
+// words that are translated.
 struct ValueName {
     ValueName(const char* itsField) : field(itsField) {}
     ValueName(ReasonCode itsWords) : words(itsWords) {}

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the machine could not give, in words: no exception may pass from a slot into Qt's event
-// loop.
+// Lack of memory or threads as a message: no exception may pass from a slot into Qt's event loop.
 #pragma once
 
 #include <QString>
@@ -13,11 +12,12 @@ namespace varnel {
 
 enum class Scarce { Memory, Threads };
 
-// A sentence in the window's language.
+// A sentence in the window's language. Throws nothing.
 QString ShortageText(Scarce what);
 
-// Does the work. Empty when it could be done, else what was short; what the work had begun is left
-// as its destructors leave it. Other exceptions pass.
+// Does the work. Returns an empty text when it was done, else the message; what the work had begun
+// is left as its destructors leave it. Throws what the work throws, except std::bad_alloc and
+// std::system_error.
 template <class Work>
 QString Shortage(const Work& work) {
     try {

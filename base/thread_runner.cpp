@@ -79,7 +79,7 @@ void ThreadRunner::Run(int blocks, const std::function<void(int)>& block) {
     }
 }
 
-// Where the system gives no more threads, those that are there do the work.
+// Where the system gives no more threads, those that exist do the work.
 void ThreadRunner::StartThreads(int wanted) {
     try {
         while (mayStartMore_ && static_cast<int>(threads_.size()) < wanted) {

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// Runs blocks on several threads without using more cores than were given. Run throws what a block
+// throws, the rest nothing; where the system gives no more threads, those that exist do the work.
 #pragma once
 
 #include <condition_variable>
@@ -14,14 +16,14 @@
 
 namespace varnel {
 
-// A number of cores, and kept threads that run blocks on those that nobody else uses. The threads
-// start on first use and sleep between calls.
+// A number of cores, and kept threads that run blocks on those that are free. The threads start on
+// first use and sleep between calls.
 //
-// The thread that makes it has one of the cores. Whoever else does work at the same time, be it a
-// thread or a process that a thread waits for, takes a core first and gives it back when done, and
-// a thread that waits for another one's work gives its own back meanwhile: then no more threads are
-// busy at any moment than there are cores, and none is idle while there is work. Cores go to who
-// waits for one in the order of asking, and before all blocks.
+// The thread that constructs it holds one of the cores. Any other thread, or a thread that waits
+// for a process, takes a core before it works and gives it back when done, and a thread that waits
+// for another one's work gives its own back meanwhile: then no more threads are busy at any moment
+// than there are cores, and none is idle while there is work. Cores go to waiting threads in the
+// order in which they asked, and to blocks after them.
 class ThreadRunner : public BlockRunner {
   public:
     // 0 takes as many cores as the machine offers.
@@ -31,12 +33,12 @@ class ThreadRunner : public BlockRunner {
     ThreadRunner& operator=(const ThreadRunner&) = delete;
 
     int Cores() const { return cores_; }
-    // Waits until there is one.
+    // Waits until one is free.
     void TakeCore();
     void GiveCore();
 
-    // For a thread that has a core, which works as well. Several may call it at the same time. None
-    // of the blocks runs once this has returned.
+    // To be called by a thread that holds a core; it runs blocks, too. Several threads may call it
+    // at the same time. None of the blocks runs once this has returned.
     void Run(int blocks, const std::function<void(int)>& block) override;
 
   private:
@@ -72,7 +74,7 @@ class ThreadRunner : public BlockRunner {
     bool ending_ = false;
 };
 
-// Has a core as long as this lives.
+// Holds a core for the life of this object.
 class CoreTaken {
   public:
     explicit CoreTaken(ThreadRunner& cores) : cores_(cores) { cores_.TakeCore(); }
@@ -84,7 +86,7 @@ class CoreTaken {
     ThreadRunner& cores_;
 };
 
-// Leaves the thread's core to others as long as this lives.
+// Gives the thread's core to others for the life of this object.
 class CoreLent {
   public:
     explicit CoreLent(ThreadRunner& cores) : cores_(cores) { cores_.GiveCore(); }

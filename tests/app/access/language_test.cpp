@@ -185,8 +185,8 @@ QStringList EveryReason() {
     for (int n = static_cast<int>(ReasonCode::Several) + 1; n < static_cast<int>(ReasonCode::Count);
          ++n) {
         const auto code = static_cast<ReasonCode>(n);
-        const auto places = static_cast<std::size_t>(PlacesIn(code));
-        told.append(ErrorText({code, std::vector<Reason::Argument>(places, Q("x"))}));
+        const auto arguments = static_cast<std::size_t>(ArgumentCount(code));
+        told.append(ErrorText({code, std::vector<Reason::Argument>(arguments, Q("x"))}));
     }
     return told;
 }

@@ -29,7 +29,7 @@ Reason By(int error) {
     return {ReasonCode::SystemError, error};
 }
 
-// What is to be replaced or made: through all links, since renaming would replace a link itself.
+// The file to replace or create, with all links followed: renaming would replace a link itself.
 struct Target {
     QByteArray name;
     std::optional<unsigned> permissions;  // of the older file, if there is one
@@ -41,7 +41,7 @@ QByteArray FolderOf(const QByteArray& name) {
     return slash < 0 ? QByteArray(".") : name.left(std::max<qsizetype>(slash, 1));
 }
 
-// Nothing when the links go round in a ring.
+// Empty when the links form a ring.
 std::optional<QByteArray> FollowLinks(QByteArray name) {
     for (int links = 0; links <= mostLinks; ++links) {
         QByteArray next(PATH_MAX, Qt::Uninitialized);
@@ -68,24 +68,23 @@ Target FindTarget(const QString& path) {
     if (!S_ISREG(older.st_mode)) {
         return {*name, {}, S_ISDIR(older.st_mode) ? By(EISDIR) : ReasonCode::NotRegular};
     }
-    // Renaming asks for no more than the folder's permission; a file that is write-protected is
-    // meant to stay.
+    // Renaming needs the folder's permission only; a write-protected file must not be replaced.
     if (::faccessat(AT_FDCWD, name->constData(), W_OK, AT_EACCESS) != 0) {
         return {*name, {}, By(errno)};
     }
     return {*name, older.st_mode & 0777U, {}};
 }
 
-// The hidden file on its way to the target's name. Goes away with this object if it did not get
-// there.
-class SavingFile {
+// The hidden file until it is renamed to the target. Removed with this object if that failed.
+class TempFile {
   public:
-    SavingFile(const Target& target, FileOperations& steps) : target_(target), steps_(steps) {}
-    SavingFile(const SavingFile&) = delete;
-    SavingFile& operator=(const SavingFile&) = delete;
-    ~SavingFile() {
+    TempFile(const Target& target, FileOperations& operations)
+        : target_(target), operations_(operations) {}
+    TempFile(const TempFile&) = delete;
+    TempFile& operator=(const TempFile&) = delete;
+    ~TempFile() {
         if (!name_.isEmpty()) {
-            steps_.Remove(name_);  // before the lock goes
+            operations_.Remove(name_);  // while it is locked
         }
         Drop(file_);
         Drop(lock_);
@@ -107,11 +106,11 @@ class SavingFile {
 
     bool Create() {
         const QByteArray folder = FolderOf(target_.name);
-        // A photo that only its owner may see is not shown to others while it is written.
+        // A photo that only its owner may read stays so while it is written.
         const unsigned permissions = target_.permissions ? 0600 : 0666;
-        for (int n = 0; n <= fixedSavingNames; ++n) {
-            const QByteArray name = SavingName(folder, n);
-            file_ = steps_.Create(name, permissions);
+        for (int n = 0; n <= fixedTempNames; ++n) {
+            const QByteArray name = TempName(folder, n);
+            file_ = operations_.Create(name, permissions);
             if (file_ == -1 && errno == EEXIST) {
                 continue;
             }
@@ -129,10 +128,10 @@ class SavingFile {
         return Check(-1, ReasonCode::WhileCreating);
     }
 
-    // False when another program took it for a stray file before it was locked. Where there are no
-    // locks no program removes strays, and the file is safe without one.
+    // False when another program removed it as a stray before it was locked. On file systems
+    // without locks no program removes strays, and the file is safe without a lock.
     bool Lock(const QByteArray& name) {
-        lock_ = steps_.Lock(file_);
+        lock_ = operations_.Lock(file_);
         if (lock_ == -1 && errno == EWOULDBLOCK) {
             return false;
         }
@@ -142,11 +141,11 @@ class SavingFile {
     bool WriteAll(QByteArrayView bytes) {
         while (!bytes.isEmpty()) {
             const qint64 length = std::min<qint64>(bytes.size(), largestPiece);
-            const qint64 written = steps_.Write(file_, bytes.data(), length);
+            const qint64 written = operations_.Write(file_, bytes.data(), length);
             if (written == -1 && errno == EINTR) {
                 continue;
             }
-            if (written == 0) {  // would go on like this for ever
+            if (written == 0) {  // would loop for ever
                 errno = EIO;
             }
             if (!Check(written > 0 ? written : -1, ReasonCode::WhileWriting)) {
@@ -157,13 +156,13 @@ class SavingFile {
         return true;
     }
 
-    // File systems that keep no permissions may refuse. Then the file is less open than the older
-    // one was, never more.
+    // File systems without permissions may refuse. Then the file is less open than the older one
+    // was, never more.
     bool KeepPermissions() {
         if (!target_.permissions || (identity_.st_mode & 0777U) == *target_.permissions) {
             return true;
         }
-        const int result = steps_.SetPermissions(file_, *target_.permissions);
+        const int result = operations_.SetPermissions(file_, *target_.permissions);
         const bool unknown = result == -1 && (errno == EPERM || errno == ENOTSUP);
         return unknown || Check(result, ReasonCode::WhileSettingPermissions);
     }
@@ -171,26 +170,26 @@ class SavingFile {
     int Sync() {
         int result = -1;
         do {
-            result = steps_.Sync(file_);
+            result = operations_.Sync(file_);
         } while (result == -1 && errno == EINTR);
         return result;
     }
 
-    // Before renaming, because network drives tell of some failed writes only here.
+    // Before renaming, because network drives report some failed writes only here.
     bool Close() {
-        const int result = steps_.Close(std::exchange(file_, -1));
+        const int result = operations_.Close(std::exchange(file_, -1));
         return (result == -1 && errno == EINTR) || Check(result, ReasonCode::WhileClosing);
     }
 
     bool Rename() {
-        // On network drives with locks of their own a computer may take the files of another one
-        // for strays; that one's half-written file must not come under our name.
+        // On network drives with locks of their own a computer may remove the file of another one
+        // as a stray and use its name; that half-written file must not be renamed to the target.
         if (!IsNamed(identity_, name_)) {
             name_.clear();
             errno = ENOENT;
             return Check(-1, ReasonCode::WhileRenaming);
         }
-        if (!Check(steps_.Rename(name_, target_.name), ReasonCode::WhileRenaming)) {
+        if (!Check(operations_.Rename(name_, target_.name), ReasonCode::WhileRenaming)) {
             return false;
         }
         name_.clear();
@@ -204,7 +203,7 @@ class SavingFile {
     }
 
     const Target& target_;
-    FileOperations& steps_;
+    FileOperations& operations_;
     QByteArray name_;  // empty while there is no hidden file
     struct stat identity_ {};
     int file_ = -1;
@@ -212,35 +211,36 @@ class SavingFile {
     Reason reason_;
 };
 
-// The reason when the names in the folder may not last. Some file systems cannot sync folders, and
-// a folder need not be readable for files to be made there.
-Reason SyncError(const QByteArray& folder, FileOperations& steps) {
-    const bool failed =
-        steps.SyncFolder(folder) == -1 && errno != EINVAL && errno != ENOTSUP && errno != EACCES;
+// The reason why the folder could not be synced. Some file systems cannot sync folders, and files
+// can be created in a folder that cannot be read.
+Reason SyncError(const QByteArray& folder, FileOperations& operations) {
+    const bool failed = operations.SyncFolder(folder) == -1 && errno != EINVAL &&
+                        errno != ENOTSUP && errno != EACCES;
     return failed ? Reason(ReasonCode::WhileSyncingFolder, By(errno)) : Reason();
 }
 
 }  // namespace
 
-WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& steps) {
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& operations) {
     const Target target = FindTarget(path);
     if (!target.error.isEmpty()) {
         return {false, target.error};
     }
     RemoveStrays(FolderOf(target.name));
-    const WriteResult written = SavingFile(target, steps).Write(bytes);
-    const Reason error = written ? SyncError(FolderOf(target.name), steps) : written.reason;
+    const WriteResult written = TempFile(target, operations).Write(bytes);
+    const Reason error = written ? SyncError(FolderOf(target.name), operations) : written.reason;
     return {error.isEmpty(), error};
 }
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
-    FileOperations steps;
-    return WriteWholeFile(path, bytes, steps);
+    FileOperations operations;
+    return WriteWholeFile(path, bytes, operations);
 }
 
 FileSeries::FileSeries() : FileSeries(std::make_unique<FileOperations>()) {}
 
-FileSeries::FileSeries(std::unique_ptr<FileOperations> steps) : steps_(std::move(steps)) {}
+FileSeries::FileSeries(std::unique_ptr<FileOperations> operations)
+    : operations_(std::move(operations)) {}
 
 FileSeries::~FileSeries() {
     Finish();
@@ -256,19 +256,19 @@ WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
         RemoveStrays(folder);
         folder_ = folder;
     }
-    WriteResult written = SavingFile(target, *steps_).Write(bytes);
+    WriteResult written = TempFile(target, *operations_).Write(bytes);
     unsynced_ += written ? 1 : 0;
     if (!written || unsynced_ == mostUnsynced) {
         SyncFolder();
     }
     if (!written) {
-        folder_.clear();  // it may have left a stray of its own
+        folder_.clear();  // a stray may be left in it
     }
     return written;
 }
 
 void FileSeries::SyncFolder() {
-    const Reason error = unsynced_ > 0 ? SyncError(folder_, *steps_) : Reason();
+    const Reason error = unsynced_ > 0 ? SyncError(folder_, *operations_) : Reason();
     unsynced_ = 0;
     if (error_.isEmpty() && !error.isEmpty()) {
         error_ = {ReasonCode::Of, QFile::decodeName(folder_), error};

@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Writing a file so that under its name there is always a whole one: the older or the new.
+// Writing a file so that under its name there is always a whole one: the older or the new. Throws
+// nothing; errors are returned.
+//
+// By hand rather than by QSaveFile: that ignores errors of syncing, does not sync the folder and
+// leaves behind the temporary file of a killed run.
 #pragma once
 
 #include <QByteArrayView>
@@ -14,52 +18,52 @@ namespace varnel {
 
 class FileOperations;
 
-// True when the whole file is in place; otherwise the reason, which IsBy knows the system's error
-// of.
+// True when the whole file is in place; otherwise with the reason, in which Reason::IsBy finds the
+// system's error.
 struct WriteResult {
     bool ok = false;
     Reason reason;
     explicit operator bool() const { return ok; }
 };
 
-// Writes a hidden file beside the target, makes it last on the disk and renames it. An older file
-// keeps its permissions, and where a symbolic link leads to it the link stays. After a failure an
-// older file is as it was, unless only the folder could not be synced: then the new one is in place
-// but may not outlast a power cut. What killed runs left behind in the folder is removed.
+// Writes a hidden file beside the target, syncs it to the disk and renames it. The permissions of
+// an older file are kept, and so is a symbolic link that leads to it. After a failure an older file
+// is as it was, unless only the folder could not be synced: then the new one is in place but may
+// not outlast a power cut. Temporary files that killed runs left in the folder are removed.
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes);
 
 #ifdef Q_OS_UNIX
-WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& steps);
+WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& operations);
 #endif
 
-// Whole files one after the other, most of them in the same folder. Each is made last before it
-// gets its name, but the names of up to mostUnsynced files are made last together, which spares
-// half of what small files cost the system: until then a power cut may take back that they were
-// renamed. The files are whole, the older ones or the new ones, all the same; what a killed program
-// had written stays. What killed runs left behind is removed before the first file in a folder.
+// Whole files one after the other, most of them in the same folder. Each is synced before it gets
+// its name, but the folder is synced once for up to mostUnsynced files, which spares half of what
+// small files cost: until then a power cut may undo the renaming. The files are whole all the same,
+// the older ones or the new ones, and files of a killed program stay. Temporary files that killed
+// runs left are removed before the first file in a folder.
 class FileSeries {
   public:
 #ifdef Q_OS_UNIX
     static constexpr int mostUnsynced = 16;
 
     FileSeries();
-    explicit FileSeries(std::unique_ptr<FileOperations> steps);
+    explicit FileSeries(std::unique_ptr<FileOperations> operations);
     ~FileSeries();
     FileSeries(const FileSeries&) = delete;
     FileSeries& operator=(const FileSeries&) = delete;
 #endif
 
     WriteResult Write(const QString& path, QByteArrayView bytes);
-    // Makes all names last. Otherwise the reason, led by the first folder's name that may not.
+    // Syncs the folder of the last files. A reason names the first folder that could not be synced.
     WriteResult Finish();
 
 #ifdef Q_OS_UNIX
   private:
     void SyncFolder();
 
-    std::unique_ptr<FileOperations> steps_;
-    QByteArray folder_;  // without strays, of the last file; empty before the first
-    int unsynced_ = 0;   // files in it whose names may not last yet
+    std::unique_ptr<FileOperations> operations_;
+    QByteArray folder_;  // of the last file, without strays; empty before the first
+    int unsynced_ = 0;   // files in it that were renamed since it was synced
     Reason error_;
 #endif
 };

@@ -3,11 +3,11 @@
 
 // One process at a time among those that change the files of a folder together. Throws nothing.
 //
-// The kernel's lock on the folder itself, which ends with the process: a killed process leaves no
-// lock file that others have to judge by its age or by the number of its process. With QLockFile a
-// session whose process number was used again by another run of the program would never be offered,
-// a process killed while it made its lock file keeps the others waiting for 30 s, and of many that
-// wait one may come too late: it pauses longer with each try.
+// The kernel's lock on the folder itself, rather than QLockFile: it ends with the process, so that
+// a killed one leaves no lock file that others have to judge by its age or its process number. With
+// QLockFile a session whose process number was used again by another run of the program would never
+// be offered, a process killed while it made its lock file keeps the others waiting for 30 s, and
+// of many that wait one may come too late: it pauses longer after each try.
 #pragma once
 
 #include <QString>

@@ -15,8 +15,8 @@ namespace varnel {
 
 namespace {
 
-// With the lock and the name checked in this order nobody else can rename or remove the file: both
-// are done under the lock only.
+// With the lock and the name checked in this order no other process can rename or remove the file:
+// both are done under the lock only.
 void RemoveStray(const QByteArray& name) {
     struct stat found {};
     if (::lstat(name.constData(), &found) != 0 || !S_ISREG(found.st_mode)) {
@@ -35,8 +35,8 @@ void RemoveStray(const QByteArray& name) {
 
 }  // namespace
 
-QByteArray SavingName(const QByteArray& folder, int n) {
-    const QByteArray ending = n < fixedSavingNames
+QByteArray TempName(const QByteArray& folder, int n) {
+    const QByteArray ending = n < fixedTempNames
                                   ? QByteArray::number(n)
                                   : QByteArray::number(QRandomGenerator::system()->generate64(), 16)
                                         .rightJustified(16, '0');
@@ -44,8 +44,8 @@ QByteArray SavingName(const QByteArray& folder, int n) {
 }
 
 void RemoveStrays(const QByteArray& folder) {
-    for (int n = 0; n < fixedSavingNames; ++n) {
-        RemoveStray(SavingName(folder, n));
+    for (int n = 0; n < fixedTempNames; ++n) {
+        RemoveStray(TempName(folder, n));
     }
 }
 

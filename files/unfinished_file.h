@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The temporary file that a run is writing, for whoever ends the run in the middle of it.
+// The temporary file that a run is writing, to be removed when the run is ended in the middle of
+// it. Throws what the given operations throw.
 #pragma once
 
 #include <QByteArray>
@@ -11,24 +12,24 @@ namespace varnel {
 
 class UnfinishedFile {
   public:
-    // A step that makes the file of that name, -1 when it did not.
-    template <class Step>
-    int Begin(const QByteArray& name, const Step& step) {
+    // Runs the operation that creates the file of that name; it returns -1 on failure.
+    template <class Operation>
+    int Begin(const QByteArray& name, const Operation& operation) {
         const std::lock_guard lock(mutex_);
-        const int result = step();
+        const int result = operation();
         name_ = result == -1 ? name_ : name;
         return result;
     }
-    // A step that takes its name away, -1 when it did not.
-    template <class Step>
-    int End(const Step& step) {
+    // Runs the operation that removes or renames it; it returns -1 on failure.
+    template <class Operation>
+    int End(const Operation& operation) {
         const std::lock_guard lock(mutex_);
-        const int result = step();
+        const int result = operation();
         name_ = result == -1 ? name_ : QByteArray();
         return result;
     }
-    // For the program's last moment: removes the file, and nobody begins or ends one after that. A
-    // disk that does not answer is not waited for.
+    // To be called just before the program ends: removes the file and blocks later calls of Begin
+    // and End. Waits for at most 100 ms for a disk that does not answer. Throws nothing.
     void RemoveForEver();
 
   private:

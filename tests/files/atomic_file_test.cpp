@@ -40,7 +40,7 @@ class Folder {
     QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
     QByteArray Bytes(const char* name) const { return QFile::encodeName(Path(name)); }
     QStringList Names() const { return NamesIn(folder_.path()); }
-    QByteArray Saving(int n) const { return SavingName(Bytes("."), n); }
+    QByteArray Saving(int n) const { return TempName(Bytes("."), n); }
 
   private:
     QTemporaryDir folder_;
@@ -115,9 +115,8 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
         const bool inPlace = result.ok || result.reason.Is(ReasonCode::WhileSyncingFolder);
         EXPECT_EQ(Contents(folder.Path("target")), inPlace ? newer : before) << n;
         EXPECT_NE(result.ok, !result.reason.isEmpty());
-        if (lasting) {  // removing the hidden file has failed as well: the next save does it
-            EXPECT_TRUE(WriteWholeFile(folder.Path("target"), newer).ok);
-        }
+        // Where the hidden file could not be removed either the next save removes it.
+        EXPECT_TRUE(!lasting || WriteWholeFile(folder.Path("target"), newer).ok);
         EXPECT_EQ(folder.Names().join(u' '),
                   inPlace || lasting || !before.isEmpty() ? QStringLiteral("target") : QString());
         if (steps.count < n) {
@@ -329,7 +328,7 @@ TEST(Strays, ThatCannotBeRemovedDoNotEndSaving) {
     EXPECT_EQ(folder.Names().size(), 33);
 }
 
-// What others do between two steps.
+// What other processes do between two operations.
 class DisturbedSteps : public FileOperations {
   public:
     explicit DisturbedSteps(const Folder& folder) : folder_(folder) {}
@@ -378,7 +377,7 @@ TEST(WriteWholeFile, OfManyWritersAtATimeOneFileStaysWhole) {
         const QByteArray contents = Contents(folder.Path("target"));
         return contents.size() >= 70000 && contents.count(contents.front()) == contents.size();
     };
-    std::vector<std::thread> writers;
+    std::vector<std::jthread> writers;
     std::vector<int> written(10, 0);
     for (int i = 0; i < 10; ++i) {
         writers.emplace_back([&, i] {
@@ -391,9 +390,7 @@ TEST(WriteWholeFile, OfManyWritersAtATimeOneFileStaysWhole) {
     for (int i = 0; i < 100; ++i) {
         EXPECT_TRUE(isWhole());
     }
-    for (std::thread& writer : writers) {
-        writer.join();
-    }
+    writers.clear();  // waits for them
     EXPECT_EQ(written, std::vector<int>(10, 20));
     EXPECT_TRUE(isWhole());
     EXPECT_EQ(folder.Names().size(), 1);

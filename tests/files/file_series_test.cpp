@@ -100,7 +100,7 @@ TEST_F(Series, AFailedFileCostsNeitherTheOneBeforeNorTheOneAfter) {
 }
 
 TEST_F(Series, RemovesStraysOnEnteringAFolderAndAfterAFailure) {
-    const QString stray = QFile::decodeName(SavingName(QFile::encodeName(Path("a")), 7));
+    const QString stray = QFile::decodeName(TempName(QFile::encodeName(Path("a")), 7));
     for (const bool failed : {false, true}) {
         WriteFile(stray, "half of");
         log_.failAt = failed ? log_.count + 1 : 0;

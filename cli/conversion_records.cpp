@@ -10,9 +10,9 @@
 #include "cli/like_picture.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/conversion/output_name.h"
-#include "state/editing/gear_assignment.h"
-#include "state/editing/picture_settings.h"
-#include "state/editing/record_fields.h"
+#include "state/adjustments/gear_assignment.h"
+#include "state/adjustments/picture_settings.h"
+#include "state/adjustments/record_fields.h"
 
 namespace varnel {
 

@@ -4,7 +4,7 @@
 // The main window's dialogs as they really are.
 #pragma once
 
-#include "app/workspace/dialogs.h"
+#include "app/view/dialogs.h"
 #include "pipeline/conversion/batch_run.h"
 #include "state/settings/settings_store.h"
 

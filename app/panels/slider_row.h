@@ -9,7 +9,7 @@
 #include <QSpinBox>
 #include <QWidget>
 
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 namespace varnel {
 

@@ -13,7 +13,7 @@
 
 #include "app/picture/frame_overlay.h"
 #include "app/picture/magnification_overlay.h"
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 namespace varnel {
 

@@ -10,7 +10,7 @@
 #include <QShortcut>
 
 #include "app/picture/stroke_overlay.h"
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 #include "state/editing/level_horizon.h"
 
 namespace varnel {

@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 #include "decoder/process/picture_reader.h"
 #include "pipeline/dialogs/idle_previews.h"
 

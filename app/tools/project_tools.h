@@ -6,8 +6,8 @@
 
 #include <QObject>
 
-#include "app/workspace/dialogs.h"
-#include "app/workspace/window_view.h"
+#include "app/view/dialogs.h"
+#include "app/view/window_view.h"
 #include "pipeline/photos/project_file.h"
 #include "state/settings/settings_store.h"
 

@@ -8,7 +8,7 @@
 #include <QObject>
 #include <QProcess>
 
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 namespace varnel {
 

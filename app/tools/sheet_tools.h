@@ -7,7 +7,7 @@
 #include <QObject>
 
 #include "app/picture/contact_sheet_box.h"
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 namespace varnel {
 

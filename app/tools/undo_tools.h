@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QObject>
 
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 namespace varnel {
 

@@ -10,7 +10,7 @@
 
 #include "app/picture/picture_lines.h"
 #include "app/picture/region_scheduler.h"
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 #include "pipeline/photos/picture_zoom.h"
 
 namespace varnel {

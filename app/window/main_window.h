@@ -13,8 +13,8 @@
 #include "app/tools/list_tools.h"
 #include "app/tools/project_tools.h"
 #include "app/tools/session_tools.h"
-#include "app/workspace/dialogs.h"
-#include "app/workspace/window_view.h"
+#include "app/view/dialogs.h"
+#include "app/view/window_view.h"
 #include "app/workspace/workspace.h"
 #include "state/settings/settings_store.h"
 

@@ -12,7 +12,7 @@
 #include "app/window/main_window.h"
 #include "base/rounding.h"
 #include "remap/image/preview_size.h"
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 

@@ -15,7 +15,7 @@
 #include "remap/encode/output_type.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/image/photo_metadata.h"
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 
 namespace varnel {
 

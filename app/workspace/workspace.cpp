@@ -14,7 +14,7 @@
 #include "base/run_time_error.h"
 #include "base/shortage.h"
 #include "remap/image/preview_size.h"
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 

@@ -20,7 +20,7 @@
 #include "pipeline/photos/photo_loader.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/render/render.h"
-#include "state/editing/control_values.h"
+#include "state/adjustments/control_values.h"
 #include "state/editing/history.h"
 #include "state/editing/step_names.h"
 #include "state/editing/working_state.h"

@@ -6,7 +6,7 @@
 
 #include "app/panels/scoped.h"
 #include "app/workspace/workspace.h"
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 #include "state/editing/gear_redefinition.h"
 
 namespace varnel {

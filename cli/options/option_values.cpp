@@ -7,7 +7,7 @@
 
 #include "cli/options/nearest.h"
 #include "pipeline/conversion/morph_sequence.h"
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 
 namespace varnel {
 

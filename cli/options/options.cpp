@@ -10,7 +10,7 @@
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
 #include "pipeline/conversion/morph_sequence.h"
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 
 namespace varnel {
 

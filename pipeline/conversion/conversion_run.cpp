@@ -12,7 +12,7 @@
 #include "pipeline/conversion/save_worker.h"
 #include "remap/image/photo_metadata.h"
 #include "remap/image/preview_size.h"
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 
 namespace varnel {
 

@@ -9,8 +9,8 @@
 
 #include "files/file_identity.h"
 #include "pipeline/photos/add_images.h"
-#include "state/editing/gear_assignment.h"
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/gear_assignment.h"
+#include "state/adjustments/picture_settings.h"
 
 namespace varnel {
 

@@ -17,7 +17,7 @@
 #include "base/thread_runner.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "remap/image/bitmap.h"
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace Ui {
 class FormMorph;

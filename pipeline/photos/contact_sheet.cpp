@@ -8,7 +8,7 @@
 #include <cmath>
 #include <utility>
 
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

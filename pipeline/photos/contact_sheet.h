@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "remap/render/render.h"
-#include "state/editing/control_values.h"
+#include "state/adjustments/control_values.h"
 
 namespace varnel {
 

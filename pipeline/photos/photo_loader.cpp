@@ -5,7 +5,7 @@
 
 #include <QScopeGuard>
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 

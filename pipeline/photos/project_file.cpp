@@ -12,8 +12,8 @@
 #include <array>
 
 #include "pipeline/photos/add_images.h"
-#include "state/editing/picture_settings.h"
-#include "state/editing/record_fields.h"
+#include "state/adjustments/picture_settings.h"
+#include "state/adjustments/record_fields.h"
 #include "state/settings/number_text.h"
 #include "state/settings/setting_names.h"
 

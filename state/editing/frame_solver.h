@@ -2,14 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Steering a conversion by the frame that it cuts out of the photo: which slider a handle moves and
-// which value puts it nearest to where it is wanted. Positions as in remap/analysis/inverse_mapping.h.
+// which value puts it nearest to where it is wanted. Positions as in
+// remap/analysis/inverse_mapping.h.
 #pragma once
 
 #include <optional>
 #include <vector>
 
 #include "remap/analysis/inverse_mapping.h"
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

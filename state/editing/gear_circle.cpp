@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "state/editing/gear_assignment.h"
-#include "state/editing/slider_table.h"
+#include "state/adjustments/gear_assignment.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

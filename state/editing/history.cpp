@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <utility>
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 #include "state/editing/step_names.h"
 
 namespace varnel {

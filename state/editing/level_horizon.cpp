@@ -10,7 +10,7 @@
 #include "base/run_time_error.h"
 #include "remap/projection/level.h"
 #include "remap/projection/record_maps.h"
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

@@ -7,7 +7,7 @@
 #include <QString>
 #include <optional>
 
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 namespace varnel {
 

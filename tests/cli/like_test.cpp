@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "cli/convert.h"
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/texts.h"

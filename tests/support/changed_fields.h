@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 
 namespace varnel::testing {
 

@@ -15,7 +15,7 @@
 
 #include "base/run_time_error.h"
 #include "pipeline/conversion/batch_checks.h"
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"

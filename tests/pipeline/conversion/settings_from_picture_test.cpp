@@ -8,7 +8,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/records.h"

@@ -7,7 +7,7 @@
 
 #include <QDir>
 
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 #include "tests/support/contents.h"
 #include "tests/support/files.h"
 #include "tests/support/records.h"

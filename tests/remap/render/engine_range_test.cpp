@@ -8,7 +8,7 @@
 #include <set>
 
 #include "remap/render/reference/render.h"
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 #include "tests/remap/render/engine_pictures.h"
 #include "tests/support/records.h"
 

@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 namespace {

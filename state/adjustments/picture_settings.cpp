@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +11,7 @@
 #include <array>
 
 #include "remap/image/exif_orientation.h"
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/gear_assignment.h"
 
 #include "remap/image/exif_orientation.h"
 

@@ -5,8 +5,8 @@
 
 #include <limits>
 
-#include "state/editing/control_values.h"
-#include "state/editing/gear_assignment.h"
+#include "state/adjustments/control_values.h"
+#include "state/adjustments/gear_assignment.h"
 #include "tests/support/changed_fields.h"
 
 namespace varnel {

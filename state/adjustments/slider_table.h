@@ -9,7 +9,7 @@
 #include <array>
 #include <optional>
 
-#include "state/editing/control_values.h"
+#include "state/adjustments/control_values.h"
 #include "state/records/projection.h"
 
 namespace varnel {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/picture_settings.h"
+#include "state/adjustments/picture_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <limits>
 #include <random>
 
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 #include "tests/support/records.h"
 #include "tests/support/texts.h"
 

@@ -15,7 +15,7 @@
 #include "app/panels/gear_offer_row.h"
 #include "app/panels/side_panels.h"
 #include "app/picture/picture_area.h"
-#include "app/workspace/window_progress.h"
+#include "app/view/window_progress.h"
 #include "app/workspace/workspace.h"
 
 namespace varnel {

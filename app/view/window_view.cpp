@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/workspace/window_view.h"
+#include "app/view/window_view.h"
 
 #include <QGuiApplication>
 #include <QMenuBar>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/slider_table.h"
+#include "state/adjustments/slider_table.h"
 
 #include <QCoreApplication>
 #include <algorithm>

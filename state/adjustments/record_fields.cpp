@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/record_fields.h"
+#include "state/adjustments/record_fields.h"
 
 #include <QLatin1StringView>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "state/editing/control_values.h"
+#include "state/adjustments/control_values.h"
 
 #include <algorithm>
 #include <limits>

@@ -6,12 +6,12 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 
-#include "app/panels/scoped.h"
 #include "state/editing/list_order.h"
 
 namespace varnel {
@@ -118,7 +118,7 @@ void PhotoList::keyPressEvent(QKeyEvent* event) {
     } else if (alone && event->key() == Qt::Key_Down) {
         Q_EMIT MoveWanted(TargetOneDown(count(), SelectedLines()));
     } else {
-        const varnel::Raised handling(handlingInput_);
+        const QScopedValueRollback handling(handlingInput_, true);
         const QPersistentModelIndex before = currentIndex();
         QListWidget::keyPressEvent(event);
         KeepCurrentSelected(before);
@@ -131,7 +131,7 @@ bool PhotoList::viewportEvent(QEvent* event) {
     if (!event->isPointerEvent()) {
         return QListWidget::viewportEvent(event);
     }
-    const varnel::Raised handling(handlingInput_);
+    const QScopedValueRollback handling(handlingInput_, true);
     const QPersistentModelIndex before = currentIndex();
     const bool used = QListWidget::viewportEvent(event);
     KeepCurrentSelected(before);

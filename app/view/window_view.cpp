@@ -3,11 +3,11 @@
 
 #include "app/view/window_view.h"
 
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QSignalBlocker>
 #include <cmath>
 
+#include "remap/display/hourglass.h"
 #include "remap/image/photo_metadata.h"
 
 namespace varnel {
@@ -121,12 +121,8 @@ void WindowView::ShowRecord(const ImageRecord& image) {
     }
 }
 
-void WindowView::ShowHourglass(bool on) {
-    if (on) {
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QGuiApplication::restoreOverrideCursor();
-    }
+std::shared_ptr<void> WindowView::Hourglass() {
+    return std::make_shared<varnel::Hourglass>();
 }
 
 void WindowView::LetCancel(std::function<void()> cancel) {

@@ -71,7 +71,7 @@ class WindowView : public WorkspaceView {
     // Of the text in the status line: whoever remembers it knows whether theirs still stands there.
     int StatusNumber() const { return statusNumber_; }
     void HandleEvents() override { progress_.HandleEvents(); }
-    void ShowHourglass(bool on) override;
+    std::shared_ptr<void> Hourglass() override;
     void Lock(bool on) override;
     void LetCancel(std::function<void()> cancel) override;
 

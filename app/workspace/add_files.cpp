@@ -4,10 +4,9 @@
 // Files that were dropped: the part of the workspace that looks into them.
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <algorithm>
 
-#include "app/panels/scoped.h"
-#include "app/workspace/hourglass.h"
 #include "app/workspace/workspace.h"
 #include "base/error_text.h"
 #include "pipeline/photos/add_images.h"
@@ -55,8 +54,8 @@ void Workspace::TellBad(const std::vector<BadFile>& bad) {
 void Workspace::ImagesAdded(int before) {
     std::vector<BadFile> bad;
     {
-        const Hourglass hourglass(view_);
-        const Raised busy(busy_);
+        const auto hourglass = view_.Hourglass();
+        const QScopedValueRollback busy(busy_, true);
         PhotoLoader::Together together(photos_);
         for (int n = before + 1; n <= state_.Images.UpperBound(); ++n) {
             const QString path = SourcePath(state_.Images(n));
@@ -82,8 +81,8 @@ void Workspace::AddFiles(const QStringList& paths) {
     DroppedPhotos photos;
     AddedFiles added;
     {
-        const Hourglass hourglass(view_);
-        const Raised busy(busy_);
+        const auto hourglass = view_.Hourglass();
+        const QScopedValueRollback busy(busy_, true);
         PhotoLoader::Together together(photos_);
         photos = PhotosOf(paths, [&] { return together.Continue(); });
         if (photos.givenUp) {

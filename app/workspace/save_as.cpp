@@ -4,9 +4,9 @@
 // Saving the current photo: the part of the workspace that writes files.
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <new>
 
-#include "app/panels/scoped.h"
 #include "app/workspace/workspace.h"
 #include "base/error_reason.h"
 #include "base/error_text.h"
@@ -29,8 +29,8 @@ struct Texts {
 
 SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
                                     const CancelFlag& cancelled) {
-    const Raised saving(saving_);
-    const Raised rendering(rendering_);
+    const QScopedValueRollback saving(saving_, true);
+    const QScopedValueRollback rendering(rendering_, true);
     const OutputType type = TypeOf(choice);
     RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &runner_};
     CancellableProgress progress(view_.Progress(), cancelled);
@@ -76,14 +76,14 @@ void Workspace::SaveAs(FileChooser& chooser) {
     CancelFlag cancelled = false;
     SaveResult saved;
     {
-        const Raised busy(busy_);
+        const QScopedValueRollback busy(busy_, true);
         view_.Lock(true);
         view_.LetCancel([&cancelled] { cancelled = true; });
         view_.HandleEvents();
-        view_.ShowHourglass(true);
+        auto hourglass = view_.Hourglass();
         saved = RenderAndSave(image, *choice, cancelled);
         state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
-        view_.ShowHourglass(false);
+        hourglass.reset();
         view_.LetCancel(nullptr);
         view_.Lock(false);
     }

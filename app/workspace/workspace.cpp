@@ -4,11 +4,10 @@
 #include "app/workspace/workspace.h"
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 #include <new>
 #include <utility>
 
-#include "app/panels/scoped.h"
-#include "app/workspace/hourglass.h"
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "base/run_time_error.h"
@@ -43,7 +42,7 @@ QString Workspace::CurrentPath() {
 }
 
 void Workspace::ShowInControls(const ImageRecord& image) {
-    const Raised loading(state_.loadingControls);
+    const QScopedValueRollback loading(state_.loadingControls, true);
     view_.ShowRecord(image);
 }
 
@@ -87,7 +86,7 @@ void Workspace::ShowLine(int line) {
         return;
     }
     {
-        const Raised busy(busy_);
+        const QScopedValueRollback busy(busy_, true);
         if (LoadAndReduce(line)) {
             Preview();
         } else if (!loadError_.Is(ReasonCode::Cancelled) && Unreadable(CurrentPath()).isEmpty()) {
@@ -98,7 +97,7 @@ void Workspace::ShowLine(int line) {
 }
 
 bool Workspace::LoadAndReduce(int line) {
-    const Hourglass hourglass(view_);
+    const auto hourglass = view_.Hourglass();
     try {
         if (!LoadFull(line)) {
             return false;
@@ -147,8 +146,8 @@ void Workspace::RenderPreview(const ImageRecord& image) {
         return;
     }
     {
-        const Raised rendering(rendering_);
-        const Hourglass hourglass(view_);
+        const QScopedValueRollback rendering(rendering_, true);
+        const auto hourglass = view_.Hourglass();
         RenderThumbnail(image);
     }
     if (std::exchange(drawAgain_, false) && Current() != nullptr) {
@@ -203,8 +202,8 @@ void Workspace::PreviewControls() {
 bool Workspace::PrepareAll() {
     bool prepared = true;
     {
-        const Hourglass hourglass(view_);
-        const Raised busy(busy_);
+        const auto hourglass = view_.Hourglass();
+        const QScopedValueRollback busy(busy_, true);
         const PhotoLoader::Together together(photos_);
         for (int n = 1; prepared && n <= state_.Images.UpperBound(); ++n) {
             Prepare(state_.Images(n));

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -59,7 +60,8 @@ class WorkspaceView {
     virtual void ShowError(const QString& text) = 0;
     virtual void ShowStatus(const QString& text) = 0;
     virtual void HandleEvents() = 0;
-    virtual void ShowHourglass(bool on) = 0;
+    // Shown as long as what it gives lives.
+    virtual std::shared_ptr<void> Hourglass() = 0;
     // While locked nothing on the window can be started and a wish to close it waits.
     virtual void Lock(bool on) = 0;
     // What the user does to cancel what runs; none takes the way to it away again.
@@ -174,7 +176,7 @@ class Workspace {
     void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
     void Absorb();
     void TellSteps();
-    void Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&));
+    void Restore(std::optional<Restored> (History::*step)());
     void ShowRestored(const Restored& restored, const ImageRecord& shown);
     void ShowNewList(int line);
 
@@ -183,7 +185,7 @@ class Workspace {
     Notices& notices_;
     WorkspaceView& view_;
     ThreadRunner runner_;
-    History history_;
+    History history_{state_.Images};
     std::vector<std::function<void()>> whenStepsChanged_;
     std::function<void(const GearChange&)> whenGearRestored_;
     bool busy_ = false;

@@ -4,7 +4,8 @@
 // Which gear a photo has and gets: the part of the workspace that minds the gears. Looking at a
 // photo gives it none but its own, and the default gear when it never had one.
 
-#include "app/panels/scoped.h"
+#include <QScopedValueRollback>
+
 #include "app/workspace/workspace.h"
 #include "state/adjustments/gear_assignment.h"
 #include "state/editing/gear_redefinition.h"
@@ -31,7 +32,7 @@ bool Workspace::KnowSize(ImageRecord& image) {
         return true;
     }
     // Events are handled meanwhile; nothing may change the list under the record.
-    const Raised busy(busy_);
+    const QScopedValueRollback busy(busy_, true);
     if (const std::optional<PhotoSize> size = photos_.Size(SourcePath(image))) {
         TakeSize(*size, image);
     }

@@ -16,6 +16,7 @@
 #include "base/shortage.h"
 #include "pipeline/conversion/output_name.h"
 #include "pipeline/dialogs/slider_binding.h"
+#include "remap/display/hourglass.h"
 #include "remap/display/paint.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/image/photo_metadata.h"
@@ -52,15 +53,6 @@ class BarProgress : public RenderProgress {
   private:
     QProgressBar* bar_;
     QElapsedTimer sincePainted_;
-};
-
-// The hourglass for a while.
-class Hourglass {
-  public:
-    Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
 };
 
 QString LocalFileOf(const QMimeData& dropped) {

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/panels/scoped.h"
 #include "app/workspace/workspace.h"
 #include "state/editing/list_order.h"
 
@@ -39,7 +38,7 @@ void Workspace::TellSteps() {
 }
 
 void Workspace::NoteStep(const QString& name, const StepKey& key, const StepBesides& besides) {
-    history_.Note(name, state_.Images, key, besides);
+    history_.Note(name, key, besides);
     TellSteps();
 }
 
@@ -48,7 +47,7 @@ void Workspace::NoteStep(StepKind kind, const StepBesides& besides) {
 }
 
 void Workspace::Absorb() {
-    history_.Absorb(state_.Images);
+    history_.Absorb();
     TellSteps();
 }
 
@@ -91,13 +90,13 @@ void Workspace::Redo() {
     Restore(&History::Redo);
 }
 
-void Workspace::Restore(std::optional<Restored> (History::*step)(RecordArray<ImageRecord>&)) {
+void Workspace::Restore(std::optional<Restored> (History::*step)()) {
     if (Busy() || state_.loadingControls) {
         return;
     }
     NoteStep(StepKind::Other);
     const ImageRecord shown = Current() != nullptr ? *Current() : ImageRecord();
-    if (const std::optional<Restored> restored = (history_.*step)(state_.Images)) {
+    if (const std::optional<Restored> restored = (history_.*step)()) {
         ShowRestored(*restored, shown);
         TellSteps();
         if (restored->besides.gear && whenGearRestored_) {
@@ -166,7 +165,7 @@ void Workspace::TakeProject(const RecordArray<ImageRecord>& images, int line,
     NoteStep(StepKind::Other);
     state_.Images = images;
     const StepKind kind = project.isEmpty() ? StepKind::RestoreList : StepKind::OpenProject;
-    history_.NoteProject(StepName(kind), state_.Images, project);
+    history_.NoteProject(StepName(kind), project);
     TellSteps();
     ShowNewList(line);
 }

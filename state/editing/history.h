@@ -1,22 +1,25 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What was done to the image list and its records, to be undone and done again. The history is
-// shown the list after each deed and finds out by itself what changed; a step holds the changed
-// stretch of lines before and after, and records that did not change are shared. Lines count from
-// 0.
+// What was done to the image list and its records, to be undone and done again. The history looks
+// at its list after each change and finds out by itself what changed; a step holds the changed
+// stretch of lines before and after, and records that did not change are shared. The order of the
+// steps and the merging of slider moves are the undo stack's. Lines count from 0. Throws nothing
+// but for want of memory.
 #pragma once
 
 #include <QHash>
 #include <QString>
-#include <deque>
 #include <memory>
 #include <optional>
 #include <vector>
 
 #include "base/record_array.h"
 #include "state/editing/gear_circle.h"
+#include "state/editing/list_run.h"
 #include "state/records/image_record.h"
+
+class QUndoStack;
 
 namespace varnel {
 
@@ -40,32 +43,38 @@ struct Restored {
 class History {
   public:
     using Images = RecordArray<ImageRecord>;
-    static constexpr std::size_t mostSteps = 200;
+    static constexpr int mostSteps = 200;
     static constexpr std::size_t mostLines = 500000;  // of all steps together
+
+    // Of this list, which must outlive it.
+    explicit History(Images& images);
+    ~History();
+    History(const History&) = delete;
+    History& operator=(const History&) = delete;
 
     // What changed since the last call becomes a step, if anything did. Steps of one key become one
     // step until the last is sealed. A gear's change is a step by itself.
-    void Note(const QString& name, const Images& images, const StepKey& key = {},
-              const StepBesides& besides = {});
+    void Note(const QString& name, const StepKey& key = {}, const StepBesides& besides = {});
     // The same for a list that came from another project file. It is saved there; a list without
     // a project is saved nowhere.
-    void NoteProject(const QString& name, const Images& images, const QString& project);
-    // Takes what changed since the last call for nobody's deed: a photo's size, the gear that a
-    // photo gets when it is first looked at. Steps that hold such a record hold the new one then.
-    void Absorb(const Images& images);
+    void NoteProject(const QString& name, const QString& project);
+    // Takes what changed since the last call for no step of the user: a photo's size, the gear that
+    // a photo gets when it is first looked at. Steps that hold such a record hold the new one then.
+    void Absorb();
     void Seal() { sealed_ = true; }
 
     // Empty when there is nothing.
-    QString UndoName() const { return done_.empty() ? QString() : done_.back().name; }
-    QString RedoName() const { return undone_.empty() ? QString() : undone_.back().name; }
+    QString UndoName() const;
+    QString RedoName() const;
     // Nothing when there was no step. What is known of the photos' sizes stays.
-    std::optional<Restored> Undo(Images& images);
-    std::optional<Restored> Redo(Images& images);
+    std::optional<Restored> Undo();
+    std::optional<Restored> Redo();
 
     // The project file that the list belongs to; empty for none.
     const QString& Project() const { return project_; }
     // The list as it is stands in the project file.
     void MarkSaved(const QString& project);
+    // False again, too, when a change was taken back by hand.
     bool ChangedSinceSaved() const;
     // A picture of a photo with these settings is in the file; what was there before is not.
     void MarkWritten(const ImageRecord& image, const QString& file);
@@ -74,32 +83,25 @@ class History {
     int UnsavedPhotos() const;
 
   private:
-    using Shared = std::shared_ptr<const ImageRecord>;
-    using Run = std::vector<Shared>;
-    struct Step {
-        QString name;
-        StepKey key;
-        std::size_t first = 0;  // line
-        Run before, after;
-        std::optional<std::pair<QString, QString>> projects;  // before and after
-        StepBesides besides;
-        std::size_t Lines() const { return before.size() + after.size(); }
-    };
+    class Step;
+    struct StepContent;
 
-    static Run SharedWith(const Run& known, const Images& images);
-    static Step Between(const Run& before, const Run& after);
-    bool MovedPhotos(const Run& run) const;
-    void Push(Step step);
-    void Replace(const Run& older, const Run& newer);
-    Restored Apply(const Step& step, const Run& gone, const Run& come, Images& images);
-    void Take(const Restored& restored, Images& images);
+    StepContent& Content(int step) const;
+    bool CanUndo() const;
+    void Push(const QString& name, StepContent content);
+    bool Join(StepContent& last, const StepContent& next);
+    void BoundLines();
+    void Replace(const ListRun& older, const ListRun& newer);
+    Restored Apply(std::size_t first, const ListRun& gone, const ListRun& come);
+    void Take(const Restored& restored);
 
-    Run known_;
-    Run saved_;
-    Run stored_;  // as the photos came, though the controls were stored into them
-    QHash<QString, Shared> written_;  // the record that each written picture was made with
-    std::deque<Step> done_;
-    std::vector<Step> undone_;
+    Images& images_;
+    std::unique_ptr<QUndoStack> stack_;
+    std::optional<Restored> restored_;  // by the step that is being undone or done again
+    ListRun known_;
+    ListRun saved_;
+    ListRun stored_;  // as the photos came, though the controls were stored into them
+    QHash<QString, SharedRecord> written_;  // the record that each written picture was made with
     QString project_;
     bool sealed_ = false;
 };

@@ -41,11 +41,11 @@ std::vector<ImageRecord> All(const Images& images) {
 
 TEST(History, EveryKindOfChangeGoesBackAndForth) {
     Images images = Photos("abc");
-    History history;
-    history.Note(Text("1 add"), images);
+    History history(images);
+    history.Note(Text("1 add"));
     std::vector<std::vector<ImageRecord>> states{{}, All(images)};
     const auto note = [&](const char* name) {
-        history.Note(Text(name), images);
+        history.Note(Text(name));
         states.push_back(All(images));
     };
     images(2).RotateY = 10.0F;
@@ -60,37 +60,37 @@ TEST(History, EveryKindOfChangeGoesBackAndForth) {
     fewer.Append(images(2));
     images = fewer;
     note("5 remove");
-    history.Note(Text("nothing changed"), images);
+    history.Note(Text("nothing changed"));
     for (std::size_t n = states.size() - 1; n-- > 0;) {
         EXPECT_EQ(history.UndoName().front(), QChar::fromLatin1(static_cast<char>('1' + n)));
-        ASSERT_TRUE(history.Undo(images));
+        ASSERT_TRUE(history.Undo());
         EXPECT_EQ(All(images), states[n]) << n;
     }
-    EXPECT_FALSE(history.Undo(images));
+    EXPECT_FALSE(history.Undo());
     for (std::size_t n = 1; n < states.size(); ++n) {
-        ASSERT_TRUE(history.Redo(images));
+        ASSERT_TRUE(history.Redo());
         EXPECT_EQ(All(images), states[n]) << n;
     }
     EXPECT_TRUE(history.RedoName().isEmpty());
-    history.Undo(images);
+    history.Undo();
     images(1).RotateX = 1.0F;
-    history.Note(Text("another way"), images);
+    history.Note(Text("another way"));
     EXPECT_TRUE(history.RedoName().isEmpty());
 }
 
 TEST(History, SaysWhichLinesChangedAndWherePhotosWere) {
     Images images = Photos("abcd");
-    History history;
-    history.Absorb(images);
+    History history(images);
+    history.Absorb();
     history.MarkSaved({});
     images(1).RotateX = images(3).RotateX = 5.0F;
-    history.Note(Text("turn"), images);
-    const auto turned = history.Undo(images);
+    history.Note(Text("turn"));
+    const auto turned = history.Undo();
     EXPECT_EQ(turned->changed, (std::vector<int>{0, 2}));
     EXPECT_FALSE(turned->origin);
     images = Photos("dac");
-    history.Note(Text("list"), images);
-    const auto listed = history.Undo(images);
+    history.Note(Text("list"));
+    const auto listed = history.Undo();
     EXPECT_EQ(Names(images), "abcd");
     EXPECT_EQ(listed->origin, (std::vector<int>{1, -1, 2, 0}));
     EXPECT_FALSE(history.ChangedSinceSaved());
@@ -98,11 +98,11 @@ TEST(History, SaysWhichLinesChangedAndWherePhotosWere) {
 
 TEST(History, MovesOfOneSliderAreOneStepUntilItIsSealed) {
     Images images = Photos("ab");
-    History history;
-    history.Absorb(images);
+    History history(images);
+    history.Absorb();
     const auto move = [&](float degrees, const StepKey& key) {
         images(1).RotateY = degrees;
-        history.Note(Text("move"), images, key);
+        history.Note(Text("move"), key);
     };
     struct {
         StepKey second;
@@ -120,7 +120,7 @@ TEST(History, MovesOfOneSliderAreOneStepUntilItIsSealed) {
             history.Seal();
         }
         move(20.0F, row.second);
-        history.Undo(images);
+        history.Undo();
         EXPECT_EQ(images(1).RotateY, row.back);
     }
     move(0.0F, {});
@@ -132,35 +132,51 @@ TEST(History, MovesOfOneSliderAreOneStepUntilItIsSealed) {
     EXPECT_FALSE(history.ChangedSinceSaved());
 }
 
+TEST(History, AChangeTakenBackByHandIsSaved) {
+    Images images = Photos("ab");
+    History history(images);
+    history.Absorb();
+    history.MarkSaved({});
+    for (const float degrees : {10.0F, 0.0F}) {
+        images(1).RotateY = degrees;
+        history.Note(Text("turn"));
+        EXPECT_EQ(history.ChangedSinceSaved(), degrees != 0.0F);
+    }
+    history.Undo();
+    EXPECT_TRUE(history.ChangedSinceSaved());
+    history.Undo();
+    EXPECT_FALSE(history.ChangedSinceSaved());
+}
+
 // A photo's size and first gear come from looking at it: no step, and no step takes them away.
 TEST(History, WhatLookingAtAPhotoBringsStays) {
     Images images = Photos("ab");
-    History history;
-    history.Note(Text("add"), images);
+    History history(images);
+    history.Note(Text("add"));
     history.MarkSaved({});
     images(1).Width = 60;
     images(1).Height = 40;
     images(1).GearName = Text("gear");
-    history.Absorb(images);
+    history.Absorb();
     EXPECT_FALSE(history.ChangedSinceSaved());
     images(1).RotateX = 10.0F;
     images(1).OfsetX = 2.0F;
-    history.Note(Text("turn"), images);
+    history.Note(Text("turn"));
     // Read again, turned upright now: the centre moved to the top.
     images(1).Width = 40;
     images(1).Height = 60;
     images(1).Orientation = 6;
     images(1).OfsetX = 0.0F;
     images(1).OfsetY = 2.0F;
-    history.Absorb(images);
-    history.Undo(images);
+    history.Absorb();
+    history.Undo();
     EXPECT_EQ(images(1).RotateX, 0.0F);
     EXPECT_EQ(images(1).Width, 40);
     EXPECT_EQ(images(1).Orientation, 6);
-    history.Undo(images);
-    history.Redo(images);
+    history.Undo();
+    history.Redo();
     EXPECT_EQ(images(1).GearName, Text("gear"));
-    history.Redo(images);
+    history.Redo();
     EXPECT_EQ(images(1).OfsetY, 2.0F);
 }
 
@@ -168,15 +184,15 @@ TEST(History, KeepsABoundedNumberOfStepsAndLines) {
     for (const int photos : {1, 20000}) {
         Images images;
         images.Resize(photos);
-        History history;
-        history.Absorb(images);
+        History history(images);
+        history.Absorb();
         const int noted = photos == 1 ? 250 : 20;
         for (int n = 1; n <= noted; ++n) {
             images(1).RotateX = images(photos).RotateY = static_cast<float>(n);
-            history.Note(Text("turn"), images);
+            history.Note(Text("turn"));
         }
         int undone = 0;
-        while (history.Undo(images)) {
+        while (history.Undo()) {
             ++undone;
         }
         EXPECT_EQ(undone, photos == 1 ? 200 : 12);  // 40,000 lines a step
@@ -192,19 +208,18 @@ TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
     table(2).OfsetX = 4.5F;
     const GearRecord after = table(2);
     Images images = Photos("ab");
-    History history;
-    history.Note(Text("add"), images);
-    history.Note(Text("circle"), images, {},
-                 {.onAllLines = true, .gear = GearChange{before, after}});
-    const auto back = history.Undo(images);
+    History history(images);
+    history.Note(Text("add"));
+    history.Note(Text("circle"), {}, {.onAllLines = true, .gear = GearChange{before, after}});
+    const auto back = history.Undo();
     EXPECT_TRUE(back->changed.empty() && back->besides.onAllLines);
     EXPECT_TRUE(ChangeGear(table, *back->besides.gear));
     EXPECT_EQ(table(2), before);
-    const auto again = history.Redo(images);
+    const auto again = history.Redo();
     EXPECT_TRUE(ChangeGear(table, *again->besides.gear));
     EXPECT_EQ(table(2), after);
     table(2).hAOV = 1.0F;  // edited
-    EXPECT_FALSE(ChangeGear(table, *history.Undo(images)->besides.gear));
+    EXPECT_FALSE(ChangeGear(table, *history.Undo()->besides.gear));
     EXPECT_EQ(table(2).OfsetX, 4.5F);
     table.Remove(2);
     EXPECT_FALSE(ChangeGear(table, *back->besides.gear));
@@ -213,36 +228,36 @@ TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
 
 TEST(History, AProjectIsAStepAndTakesItsNameBack) {
     Images images = Photos("ab");
-    History history;
-    history.Note(Text("add"), images);
+    History history(images);
+    history.Note(Text("add"));
     EXPECT_TRUE(history.ChangedSinceSaved());
     images = Photos("c");
-    history.NoteProject(Text("open"), images, Text("/p/x.varnel"));
+    history.NoteProject(Text("open"), Text("/p/x.varnel"));
     EXPECT_FALSE(history.ChangedSinceSaved());
-    history.Undo(images);
+    history.Undo();
     EXPECT_EQ(Names(images), "ab");
     EXPECT_EQ(history.Project(), QString());
     EXPECT_TRUE(history.ChangedSinceSaved());
-    history.Redo(images);
+    history.Redo();
     EXPECT_EQ(history.Project(), Text("/p/x.varnel"));
     EXPECT_FALSE(history.ChangedSinceSaved());
 }
 
 TEST(History, PhotosAreUnsavedWhoseAdjustmentsAreInNoFile) {
     Images images = Photos("aab");
-    History history;
+    History history(images);
     const auto adjust = [&](int n, float turn) {
         images(n).RotateY = turn;
         images(n).SettingsApplied = true;
-        history.Note(Text("adjust"), images);
+        history.Note(Text("adjust"));
         return history.UnsavedPhotos();
     };
-    history.Note(Text("add"), images);
+    history.Note(Text("add"));
     images(3).GearName = Text("gear");
-    history.Note(Text("gear"), images);
+    history.Note(Text("gear"));
     EXPECT_EQ(history.UnsavedPhotos(), 0);
     images(1).SettingsApplied = true;  // and nothing else
-    history.Absorb(images);
+    history.Absorb();
     EXPECT_EQ(history.UnsavedPhotos(), 0);
     EXPECT_EQ(adjust(1, 10.0F), 1);
     EXPECT_EQ(adjust(2, 20.0F), 2);
@@ -251,21 +266,21 @@ TEST(History, PhotosAreUnsavedWhoseAdjustmentsAreInNoFile) {
     history.MarkWritten(images(3), Text("/out/b"));
     EXPECT_EQ(history.UnsavedPhotos(), 1);
     images(1).Width = 300;  // loaded again
-    history.Absorb(images);
+    history.Absorb();
     EXPECT_EQ(history.UnsavedPhotos(), 1);
     EXPECT_EQ(adjust(1, 11.0F), 2);
-    history.Undo(images);
+    history.Undo();
     EXPECT_EQ(history.UnsavedPhotos(), 1);
-    history.Redo(images);
+    history.Redo();
     EXPECT_EQ(adjust(1, 10.0F), 1);  // by hand to what the picture has
     adjust(1, 12.0F);
     history.MarkWritten(images(1), Text("/out/a"));  // in place of the first
     EXPECT_EQ(history.UnsavedPhotos(), 1);
-    history.Undo(images);
+    history.Undo();
     EXPECT_EQ(history.UnsavedPhotos(), 2);
     history.MarkSaved(Text("/p/x.varnel"));
     EXPECT_EQ(history.UnsavedPhotos(), 0);
-    history.Undo(images);
+    history.Undo();
     EXPECT_EQ(history.UnsavedPhotos(), 1);
 }
 

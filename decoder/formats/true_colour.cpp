@@ -3,8 +3,11 @@
 
 #include "decoder/formats/true_colour.h"
 
-#include <QByteArray>
+#include <lcms2.h>
+
+#include <QtEndian>
 #include <cmath>
+#include <memory>
 #include <new>
 
 #include "decoder/formats/tone_map.h"
@@ -63,24 +66,31 @@ BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
     }
 }
 
-// PNG's library looks closely at a profile and refuses to write a picture whose profile is damaged
-// or describes other colours than red, green and blue. So it is asked with a single pixel.
-bool PngTakes(QByteArray profile) {
-    const BitmapHandle pixel(FreeImage_Allocate(1, 1, 24));
-    FreeImage_CreateICCProfile(pixel.get(), profile.data(), static_cast<long>(profile.size()));
-    FIMEMORY* const memory = FreeImage_OpenMemory();
-    const bool taken = FreeImage_SaveToMemory(FIF_PNG, pixel.get(), memory) == TRUE;
-    FreeImage_CloseMemory(memory);
-    return taken;
+struct ProfileCloser {
+    void operator()(void* profile) const { cmsCloseProfile(profile); }
+};
+
+// Of a device's colours, and on the way to the two spaces that profiles connect by.
+bool IsOfDevice(cmsHPROFILE profile) {
+    const cmsProfileClassSignature kind = cmsGetDeviceClass(profile);
+    const cmsColorSpaceSignature connection = cmsGetPCS(profile);
+    return kind != cmsSigAbstractClass && kind != cmsSigLinkClass &&
+           (connection == cmsSigXYZData || connection == cmsSigLabData);
 }
 
 }  // namespace
 
 bool IsProfileForRgb(QByteArrayView profile) {
-    constexpr qsizetype header = 128;      // bytes
-    constexpr qsizetype colourSpace = 16;  // where its four letters are
-    return profile.size() > header && profile.sliced(colourSpace, 4) == QByteArrayView("RGB ") &&
-           PngTakes(profile.toByteArray());
+    constexpr qsizetype tagCount = 128;  // bytes of the header; the first four state the length
+    const auto number = [&](qsizetype at) { return qFromBigEndian<quint32>(profile.data() + at); };
+    if (profile.size() < tagCount + 4 || number(0) != profile.size()) {
+        return false;
+    }
+    const std::unique_ptr<void, ProfileCloser> opened(
+        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
+    // lcms2 passes over tags that lie outside of the profile; who reads our files may not.
+    return opened && cmsGetColorSpace(opened.get()) == cmsSigRgbData && IsOfDevice(opened.get()) &&
+           static_cast<quint32>(cmsGetTagCount(opened.get())) == number(tagCount);
 }
 
 BitmapHandle To24Bits(BitmapHandle bitmap) {

@@ -91,8 +91,8 @@ class CommandRun : public ConversionObserver {
                     [this](const QString& photo, const ImageRecord& record) {
                         return TargetFor(request_, photo, record);
                     },
-                .output = {TypeFor(request_), options.quality.value_or(settings_.JPEGcompression),
-                           options.chroma444.value_or(settings_.JPEGchroma444),
+                .output = {{TypeFor(request_), options.quality.value_or(settings_.JPEGcompression),
+                            options.chroma444.value_or(settings_.JPEGchroma444)},
                            settings_.WriteMetadata && !options.noMetadata,
                            settings_.WriteSettings && !options.noSettings},
                 .preview = options.preview,

@@ -78,8 +78,8 @@ void CheckMetadata(const QByteArray& block) {
     }
     const varnel::BitmapHandle bitmap(FreeImage_Allocate(8, 8, 24));
     varnel::GiveMetadata(taken, bitmap.get());
-    for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_TIFF}) {
-        varnel::EncodeBitmap(format, bitmap.get(), 0);
+    for (const varnel::OutputType type : varnel::allOutputTypes) {
+        varnel::EncodeBitmap(type, bitmap.get());
     }
 }
 

@@ -139,7 +139,7 @@ SaveResult TakeAndSave(const Sample& sample, const Order& order, const QString& 
         const BitmapHandle photo =
             TakeFisheye(order.up ? LookFromBelow : LookAt, ShotFor(sample, order.width));
         SetMetadata(photo.get(), TakenWith(sample));
-        return SaveBitmap(FIF_JPEG, photo.get(), fileName, jpegQuality);
+        return SaveBitmap({OutputType::Jpeg, jpegQuality}, photo.get(), fileName);
     } catch (const std::bad_alloc&) {
         return {false, ReasonCode::NotEnoughMemory};
     }

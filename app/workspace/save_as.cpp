@@ -31,7 +31,6 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
                                     const CancelFlag& cancelled) {
     const QScopedValueRollback saving(saving_, true);
     const QScopedValueRollback rendering(rendering_, true);
-    const OutputType type = TypeOf(choice);
     RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &runner_};
     CancellableProgress progress(view_.Progress(), cancelled);
     try {
@@ -44,10 +43,9 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
         shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
         NoteSettings(result, shown, state_.settings.WriteSettings,
                      state_.settings.WriteMetadata ? choice.name : QString());
-        const int flags =
-            SaveFlags(type, state_.settings.JPEGcompression, state_.settings.JPEGchroma444);
-        return SaveMeanwhile({FormatOf(type), choice.name, flags}, result, runner_,
-                             view_.Progress(), cancelled);
+        const OutputEncoding encoding(TypeOf(choice), state_.settings.JPEGcompression,
+                                      state_.settings.JPEGchroma444);
+        return SaveMeanwhile({encoding, choice.name}, result, runner_, view_.Progress(), cancelled);
     } catch (const SavingCancelled&) {
         return {};
     } catch (const RunTimeError& error) {
@@ -67,7 +65,7 @@ void Workspace::SaveAs(FileChooser& chooser) {
         return;
     }
     const SaveChoice proposal{ProposedName(SourcePath(image), view_.ChosenProjection()),
-                              static_cast<int>(OutputTypeFromText(state_.settings.FileType)) + 1};
+                              FilterIndexOf(OutputTypeFromText(state_.settings.FileType))};
     const std::optional<SaveChoice> choice =
         AskWhereToSave(chooser, notices_, proposal, SourcePath(image));
     if (!choice) {

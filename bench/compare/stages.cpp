@@ -61,7 +61,8 @@ bool Convert(const char* name, Bitmaps& bitmaps, Spent& spent) {
     SilentProgress silent;
     RenderRectilinear(FisheyeRecord(), SizeKind::Large, silent, context);
     const double remapped = Now();
-    const bool encoded = !EncodeBitmap(FIF_JPEG, bitmaps.ResultBitmap.get(), 95).bytes.isEmpty();
+    const bool encoded =
+        !EncodeBitmap({OutputType::Jpeg, 95}, bitmaps.ResultBitmap.get()).bytes.isEmpty();
     spent.decode += decoded - start;
     spent.remap += remapped - decoded;
     spent.encode += Now() - remapped;

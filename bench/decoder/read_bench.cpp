@@ -68,15 +68,14 @@ int main(int argc, char* argv[]) {
     const struct {
         const char* name;
         PixelSize size;
-        FREE_IMAGE_FORMAT format;
-        int flags;
-    } files[] = {{"small.jpg", {300, 200}, FIF_JPEG, 90},
-                 {"24mp.jpg", {6000, 4000}, FIF_JPEG, 90},
-                 {"24mp.tif", {6000, 4000}, FIF_TIFF, TIFF_LZW}};
+        OutputEncoding encoding;
+    } files[] = {{"small.jpg", {300, 200}, {OutputType::Jpeg, 90}},
+                 {"24mp.jpg", {6000, 4000}, {OutputType::Jpeg, 90}},
+                 {"24mp.tif", {6000, 4000}, OutputType::Tiff}};
     for (const auto& file : files) {
         const QString name = QString::fromLatin1(file.name);
         const QString path = folder.filePath(name);
-        if (!SaveBitmap(file.format, bench::Rings(file.size).get(), path, file.flags)) {
+        if (!SaveBitmap(file.encoding, bench::Rings(file.size).get(), path)) {
             return 1;
         }
         Measure(path, name);

@@ -91,7 +91,13 @@ OutputType TypeOf(const QString& text) {
         throw UsageError{
             QStringLiteral("unknown type \"%1\"; use %2").arg(text, ToText(*type).toLower())};
     }
-    throw UsageError{QStringLiteral("unknown type \"%1\"; use tiff, jpeg, bmp or png").arg(text)};
+    QStringList types;
+    for (const OutputType type : allOutputTypes) {
+        types.append(ToText(type).toLower());
+    }
+    const QString last = types.takeLast();
+    throw UsageError{QStringLiteral("unknown type \"%1\"; use %2 or %3")
+                         .arg(text, types.join(QStringLiteral(", ")), last)};
 }
 
 int WholeBetween(const QString& option, const QString& text, int least, int most) {

@@ -3,6 +3,8 @@
 
 #include "cli/options/options.h"
 
+#include <FreeImage.h>
+
 #include <QFileInfo>
 #include <array>
 

@@ -15,6 +15,7 @@
 #include <system_error>
 
 #include "base/run_time_error.h"
+#include "remap/encode/output_format.h"
 
 namespace varnel {
 
@@ -36,38 +37,6 @@ QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue,
         }
     }
     return uses;
-}
-
-// Between two points of a table.
-double Between(double x, double x0, double y0, double x1, double y1) {
-    return y0 + (x - x0) / (x1 - x0) * (y1 - y0);
-}
-
-// By how much colour at full resolution makes a JPEG file larger. Measured with photos of
-// foliage: 1.16 to 1.31 up to quality 95, 1.34 to 1.48 at 100.
-double ChromaFactor(double quality) {
-    return quality <= 95.0 ? 1.2 : Between(quality, 95.0, 1.2, 100.0, 1.45);
-}
-
-// Measured with converted photos of foliage, which need two to four times what indoor ones do.
-double BytesPerPixel(const BatchChoices& choices) {
-    switch (choices.type) {
-        case OutputType::Tiff:
-            return 2.3;
-        case OutputType::Png:
-            return 2.0;
-        case OutputType::Bmp:
-            return 3.0;
-        case OutputType::Jpeg:
-            break;
-    }
-    const double quality = choices.jpegQuality;
-    const double factor = choices.chroma444 ? ChromaFactor(quality) : 1.0;
-    if (quality <= 85.0) {
-        return factor * Between(std::max(quality, 50.0), 50.0, 0.19, 85.0, 0.36);
-    }
-    return factor * (quality <= 95.0 ? Between(quality, 85.0, 0.36, 95.0, 0.61)
-                                     : Between(quality, 95.0, 0.61, 100.0, 1.07));
 }
 
 }  // namespace
@@ -124,7 +93,7 @@ qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& 
     for (const ImageRecord& entry : queue) {
         pixels += static_cast<double>(entry.Width) * entry.Height;
     }
-    return qRound64(pixels * BytesPerPixel(choices));
+    return qRound64(pixels * FormatOf(choices.type).bytesPerPixel(EncodingOf(choices)));
 }
 
 qint64 FreeBytes(const QString& folder) {

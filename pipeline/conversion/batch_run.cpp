@@ -78,8 +78,7 @@ class Batch : public ConversionObserver {
                               const LoadedPicture& picture) { return Records(photo, picture); },
             .target = [this](const QString& /*photo*/,
                              const ImageRecord& entry) { return BatchPath(entry, choices_); },
-            .output = {choices_.type, choices_.jpegQuality, choices_.chroma444,
-                       choices_.writeMetadata, choices_.writeSettings}};
+            .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings}};
         ConversionTargets targets(photos_, {});
         RunConversions(plan, targets, *this, ports);
         return std::move(summary_);

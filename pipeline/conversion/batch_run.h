@@ -25,6 +25,10 @@ struct BatchChoices {
     bool writeSettings = true;  // those that made the picture go into its file
 };
 
+inline OutputEncoding EncodingOf(const BatchChoices& choices) {
+    return {choices.type, choices.jpegQuality, choices.chroma444};
+}
+
 // The full path under which an entry is written. Throws RunTimeError when a number of the record
 // cannot stand in a name.
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices);

@@ -233,16 +233,14 @@ class Run : private RenderProgress {
 
     SaveResult Save(FIBITMAP* bitmap, const QString& path) {
         const OutputChoices& output = plan_.output;
-        const FREE_IMAGE_FORMAT format = FormatOf(output.type);
-        const int flags = SaveFlags(output.type, output.jpegQuality, output.chroma444);
         if (!output.writeMetadata) {
             DropMetadata(bitmap);
         }
         if (ports_.save) {
-            return ports_.save(format, bitmap, path, flags);
+            return ports_.save(output.encoding, bitmap, path);
         }
         const SaveResult saved =
-            SaveBitmap(format, bitmap, FileInSeries{path, series_}, flags, &runner_);
+            SaveBitmap(output.encoding, bitmap, FileInSeries{path, series_}, &runner_);
         const WriteResult lasts = plan_.namesLastAtEnd ? WriteResult{true, {}} : series_.Finish();
         return !saved || lasts ? saved : SaveResult{false, lasts.reason};
     }

@@ -23,9 +23,7 @@ namespace varnel {
 
 // How results are written.
 struct OutputChoices {
-    OutputType type = OutputType::Tiff;
-    int jpegQuality = 100;
-    bool chroma444 = false;     // JPEG has colour at full resolution
+    OutputEncoding encoding;
     bool writeMetadata = true;  // the photo's go into its file
     bool writeSettings = true;  // those that made the picture go into its file
 };
@@ -98,8 +96,7 @@ class ConversionObserver {
 // How photos come in and go out.
 struct ConversionPorts {
     std::function<LoadedPicture(const QString& path)> load;
-    std::function<SaveResult(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path,
-                             int flags)>
+    std::function<SaveResult(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& path)>
         save{};  // none: SaveBitmap
     // Begins to read a photo that is loaded next after those it was given before; false when it had
     // better be read in its turn. Where this is there, one photo is read and another one written

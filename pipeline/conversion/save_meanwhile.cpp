@@ -35,9 +35,9 @@ SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner&
                          RenderProgress& progress, const CancelFlag& cancelled) {
     SaveWorker worker;
     worker.Begin([&] {
-        return SaveBitmap(file.format, bitmap,
+        return SaveBitmap(file.encoding, bitmap,
                           StoppableFile{file.name, [&cancelled] { return cancelled.load(); }},
-                          file.flags, runner);
+                          runner);
     });
     progress.Begin(0.0F);
     do {

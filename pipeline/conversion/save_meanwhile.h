@@ -35,9 +35,8 @@ class CancellableProgress : public RenderProgress {
 };
 
 struct PictureFile {
-    FREE_IMAGE_FORMAT format = FIF_UNKNOWN;
+    OutputEncoding encoding;
     QString name;
-    int flags = 0;  // the library's for the format
 };
 
 // Encodes and writes on another thread; nobody else may use the bitmap or the runner meanwhile.

@@ -9,6 +9,7 @@
 
 #include "files/file_identity.h"
 #include "pipeline/photos/add_images.h"
+#include "remap/encode/output_format.h"
 #include "state/adjustments/gear_assignment.h"
 #include "state/adjustments/picture_settings.h"
 
@@ -94,10 +95,8 @@ void NoteIfBad(const QString& path, PhotoLoader& photos, AddedFiles& added) {
 }  // namespace
 
 bool MayHoldSettings(const QString& path) {
-    static const QStringList endings{QStringLiteral("jpg"), QStringLiteral("jpeg"),
-                                     QStringLiteral("tif"), QStringLiteral("tiff"),
-                                     QStringLiteral("png")};
-    return endings.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+    const std::optional<OutputType> type = OutputTypeByEnding(path);
+    return type && FormatOf(*type).holds.metadata;
 }
 
 QString ShownSource(const ImageRecord& record) {

@@ -17,6 +17,7 @@
 #include "pipeline/dialogs/batch_progress.h"
 #include "pipeline/dialogs/queue_model.h"
 #include "pipeline/dialogs/slider_binding.h"
+#include "remap/encode/output_format.h"
 #include "state/settings/default_choices.h"
 #include "ui_form_batch.h"
 
@@ -187,10 +188,10 @@ void FormBatch::ShowNames() {
 
 void FormBatch::ShowSpace() {
     const BatchChoices choices = Choices();
-    const bool jpeg = choices.type == OutputType::Jpeg;
-    ui_->SliderJPEGcompression->setEnabled(jpeg);
-    ui_->SpinSliderJPEGcompression->setEnabled(jpeg);
-    ui_->HeadingSliderJPEGcompression->setEnabled(jpeg);
+    const bool takesQuality = FormatOf(choices.type).takesQuality;
+    ui_->SliderJPEGcompression->setEnabled(takesQuality);
+    ui_->SpinSliderJPEGcompression->setEnabled(takesQuality);
+    ui_->HeadingSliderJPEGcompression->setEnabled(takesQuality);
     ShowText(ui_->LabelSpace,
              SpaceWarning(ExpectedBytes(queue_, choices), FreeBytes(choices.folder)));
 }

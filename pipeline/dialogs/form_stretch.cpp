@@ -210,7 +210,7 @@ void FormStretch::DrawPreview() {
 
 void FormStretch::Save() {
     const SaveChoice proposal{ProposedName(path_, QStringLiteral("Stretch")),
-                              static_cast<int>(OutputTypeFromText(settings_.FileType)) + 1};
+                              FilterIndexOf(OutputTypeFromText(settings_.FileType))};
     const std::optional<SaveChoice> choice =
         AskWhereToSave(fileChooser_, notices_, proposal, path_);
     if (!choice) {
@@ -236,13 +236,13 @@ SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     } catch (const SavingCancelled&) {
         return {};
     }
-    const OutputType type = TypeOf(choice);
     FIBITMAP* const result = bitmaps_.ResultBitmap.get();
     if (!settings_.WriteMetadata) {
         DropMetadata(result);
     }
-    const int flags = SaveFlags(type, settings_.JPEGcompression, settings_.JPEGchroma444);
-    return SaveMeanwhile({FormatOf(type), choice.name, flags}, result, runner_, bar, cancelled_);
+    const OutputEncoding encoding(TypeOf(choice), settings_.JPEGcompression,
+                                  settings_.JPEGchroma444);
+    return SaveMeanwhile({encoding, choice.name}, result, runner_, bar, cancelled_);
 }
 
 void FormStretch::RenderAndSave(const SaveChoice& choice) {

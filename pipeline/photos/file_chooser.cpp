@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <algorithm>
 
 #include "files/file_identity.h"
 
@@ -19,9 +20,13 @@ struct Texts {
 }  // namespace
 
 OutputType TypeOf(const SaveChoice& choice) {
-    return choice.filterIndex >= 1 && choice.filterIndex <= 4
-               ? static_cast<OutputType>(choice.filterIndex - 1)
-               : OutputType::Tiff;
+    const auto place = static_cast<std::size_t>(choice.filterIndex - 1);
+    return choice.filterIndex >= 1 && place < allOutputTypes.size() ? allOutputTypes[place]
+                                                                    : OutputType::Tiff;
+}
+
+int FilterIndexOf(OutputType type) {
+    return static_cast<int>(std::ranges::find(allOutputTypes, type) - allOutputTypes.begin()) + 1;
 }
 
 std::optional<SaveChoice> AskWhereToSave(FileChooser& chooser, Notices& notices,

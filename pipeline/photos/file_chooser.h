@@ -14,11 +14,12 @@ namespace varnel {
 
 struct SaveChoice {
     QString name;
-    int filterIndex = 1;  // 1 TIFF, 2 JPEG, 3 BMP, 4 PNG
+    int filterIndex = 1;  // of the type in allOutputTypes, from 1 on
 };
 
-// TIFF for an index that is none of the four.
+// TIFF for an index that is none of a type.
 OutputType TypeOf(const SaveChoice& choice);
+int FilterIndexOf(OutputType type);
 
 class FileChooser {
   public:

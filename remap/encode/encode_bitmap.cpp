@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "remap/encode/jpeg_coder.h"
+#include "remap/encode/output_format.h"
 #include "remap/encode/png_coder.h"
 #include "remap/encode/tiff_coder.h"
 
@@ -76,8 +77,10 @@ EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT forma
     return file;
 }
 
-EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
-                     const EncodeOptions& options) {
+}  // namespace
+
+EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                       const EncodeOptions& options) {
     SerialRunner serial;
     try {
         WrittenMetadata metadata;
@@ -104,14 +107,13 @@ EncodedBitmap FileOf(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
     }
 }
 
-}  // namespace
-
-EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap,
                            const EncodeOptions& options) {
     if (bitmap == nullptr) {
         return {{}, ReasonCode::NoPicture};
     }
-    EncodedBitmap whole = FileOf(format, bitmap, flags, options);
+    const auto encode = FormatOf(encoding.type).encode;
+    EncodedBitmap whole = encode(bitmap, encoding, options);
     if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory) ||
         !IsPhoto(bitmap)) {
         return whole;
@@ -126,7 +128,7 @@ EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags
             CopyAllButPixels(less.get(), bitmap);
             FreeImage_DestroyICCProfile(less.get());
         }
-        EncodedBitmap encoded = FileOf(format, less.get(), flags, options);
+        EncodedBitmap encoded = encode(less.get(), encoding, options);
         if (encoded.reason.isEmpty()) {
             encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
             return encoded;

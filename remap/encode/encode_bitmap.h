@@ -6,6 +6,7 @@
 
 #include "base/block_runner.h"
 #include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/output_type.h"
 
 namespace varnel {
 
@@ -14,9 +15,13 @@ struct EncodeOptions {
     qint64 largest = largestFile;   // bytes
 };
 
-// flags are the library's for the format (the quality for JPEG). Metadata or a colour profile that
-// the format's encoder refuses do not cost the picture: it is encoded without.
-EncodedBitmap EncodeBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+// Metadata or a colour profile that the type's encoder refuses do not cost the picture: it is
+// encoded without. Throws what the runner throws.
+EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap,
                            const EncodeOptions& options = {});
+
+// With all that the bitmap has. flags are the library's for the format. Likewise.
+EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+                       const EncodeOptions& options);
 
 }  // namespace varnel

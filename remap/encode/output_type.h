@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The four file types that Varnel writes, in one table: setting text, extension, save-dialog filter
-// and the library's code and flags.
+// The file types that Varnel writes: their texts and endings. What a type can do stands in its row
+// of remap/encode/output_format.h. Throws nothing.
 #pragma once
-
-#include <FreeImage.h>
 
 #include <QString>
 #include <array>
@@ -13,10 +11,26 @@
 
 namespace varnel {
 
+// In the order of the lists.
 enum class OutputType { Tiff, Jpeg, Bmp, Png };
 
 inline constexpr std::array allOutputTypes{OutputType::Tiff, OutputType::Jpeg, OutputType::Bmp,
                                            OutputType::Png};
+
+// A type with the settings that types take; each takes what its row says and leaves the rest.
+struct OutputEncoding {
+    OutputType type = OutputType::Tiff;
+    int quality = usualQuality;  // 1 to 100
+    bool chroma444 = false;      // colour at full resolution
+
+    static constexpr int usualQuality = 75;
+
+    OutputEncoding() = default;
+    // On purpose not explicit: most types need no more than that.
+    OutputEncoding(OutputType its, int itsQuality = usualQuality, bool fullColour = false)
+        : type(its), quality(itsQuality), chroma444(fullColour) {}
+    bool operator==(const OutputEncoding&) const = default;
+};
 
 // "TIFF", "JPEG", "BMP" or "PNG": the setting "FileType".
 QString ToText(OutputType type);
@@ -30,13 +44,9 @@ std::optional<OutputType> OutputTypeByEnding(QStringView fileName);
 QString ExtensionOf(OutputType type);
 // The save dialog's filter text, "Tiff (*.TIF)" and so on.
 QString FilterOf(OutputType type);
-FREE_IMAGE_FORMAT FormatOf(OutputType type);
-// The library's save flags; jpegQuality is 0 to 100, chroma444 keeps colour at full resolution.
-// Both count for JPEG only.
-int SaveFlags(OutputType type, int jpegQuality, bool chroma444);
 
-// The name with the type's extension appended, unless its last four characters are that extension
-// in any case.
+// The name with the type's extension appended, unless its last characters are that extension in any
+// case.
 QString WithExtension(const QString& fileName, OutputType type);
 
 }  // namespace varnel

@@ -87,23 +87,23 @@ WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) 
 
 }  // namespace
 
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
-                      int flags, BlockRunner* runner) {
-    return Written(EncodeBitmap(format, bitmap, flags, {.runner = runner}),
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& fileName,
+                      BlockRunner* runner) {
+    return Written(EncodeBitmap(encoding, bitmap, {.runner = runner}),
                    [&](QByteArrayView bytes) { return WriteWholeFile(fileName, bytes); });
 }
 
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
-                      int flags, BlockRunner* runner) {
-    return Written(EncodeBitmap(format, bitmap, flags, {.runner = runner}),
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const FileInSeries& file,
+                      BlockRunner* runner) {
+    return Written(EncodeBitmap(encoding, bitmap, {.runner = runner}),
                    [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
 }
 
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
-                      int flags, BlockRunner& runner) {
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const StoppableFile& file,
+                      BlockRunner& runner) {
     StoppableRunner stoppable(runner, file.stopped);
     try {
-        return Written(EncodeBitmap(format, bitmap, flags, {.runner = &stoppable}),
+        return Written(EncodeBitmap(encoding, bitmap, {.runner = &stoppable}),
                        [&](QByteArrayView bytes) { return WriteUnlessStopped(file, bytes); });
     } catch (const Stopped&) {
         return {};

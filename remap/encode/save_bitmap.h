@@ -9,6 +9,7 @@
 
 #include "base/block_runner.h"
 #include "files/atomic_file.h"
+#include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 
 namespace varnel {
@@ -23,18 +24,18 @@ struct SaveResult {
 };
 
 // Encodes in memory and replaces the file in one step, because the library itself reports success
-// for cut files on a full disk. flags are the library's for the format (the quality for JPEG). The
-// runner shares the encoding out to the cores where the format allows.
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& fileName,
-                      int flags, BlockRunner* runner = nullptr);
+// for cut files on a full disk. The runner shares the encoding out to the cores where the type
+// allows.
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& fileName,
+                      BlockRunner* runner = nullptr);
 
 // One file of several: true when it is in place, which the series' end makes last.
 struct FileInSeries {
     QString name;
     FileSeries& series;
 };
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const FileInSeries& file,
-                      int flags, BlockRunner* runner = nullptr);
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const FileInSeries& file,
+                      BlockRunner* runner = nullptr);
 
 // A file that may still be given up: asked on any thread and often until the file gets its name.
 // Once stopped says true no file is written and an older one stays as it was.
@@ -42,7 +43,7 @@ struct StoppableFile {
     QString name;
     std::function<bool()> stopped;
 };
-SaveResult SaveBitmap(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const StoppableFile& file,
-                      int flags, BlockRunner& runner);
+SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const StoppableFile& file,
+                      BlockRunner& runner);
 
 }  // namespace varnel

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 
+#include "remap/encode/output_type.h"
 #include "state/settings/default_choices.h"
 #include "ui_form_setup.h"
 
@@ -80,10 +81,10 @@ void FormSetup::FillSizes() {
 
 void FormSetup::FillFile() {
     ui_->ComboFileType->clear();
-    for (const QLatin1StringView text : fileTypeTexts) {
-        ui_->ComboFileType->addItem(text);
+    for (const OutputType type : allOutputTypes) {
+        ui_->ComboFileType->addItem(ToText(type));
     }
-    ui_->ComboFileType->setCurrentIndex(FileTypePosition(settings_.FileType));
+    ui_->ComboFileType->setCurrentText(ToText(OutputTypeFromText(settings_.FileType)));
     ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
     ui_->SliderJPEGcompression->setValue(settings_.JPEGcompression);
     Bind(ui_->SliderJPEGcompression, ui_->SpinSliderJPEGcompression);

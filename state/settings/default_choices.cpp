@@ -9,11 +9,6 @@
 
 namespace varnel {
 
-int FileTypePosition(QStringView fileType) {
-    const auto* const found = std::find(fileTypeTexts.begin(), fileTypeTexts.end(), fileType);
-    return found == fileTypeTexts.end() ? 0 : static_cast<int>(found - fileTypeTexts.begin());
-}
-
 int LanguagePosition(QStringView code) {
     const auto* const found = std::ranges::find_if(
         languages, [&](const Language& language) { return language.code == code; });

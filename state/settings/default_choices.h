@@ -18,14 +18,6 @@ inline constexpr int smallestPreviewSide = 100;  // pixels, as the dialog offers
 inline constexpr int lowestJpegQuality = 1;
 inline constexpr int highestJpegQuality = 100;
 
-// The texts of the setting "FileType" in the order of the dialog's list.
-inline constexpr std::array fileTypeTexts{QLatin1StringView("TIFF"), QLatin1StringView("JPEG"),
-                                          QLatin1StringView("BMP"), QLatin1StringView("PNG")};
-
-// The place of a file type in that list. Meant so: any other text is shown as the first one, and
-// the first run's "JPG" is such a text.
-int FileTypePosition(QStringView fileType);
-
 struct Language {
     QLatin1StringView code;  // the setting "Language"
     QStringView name;        // in that language

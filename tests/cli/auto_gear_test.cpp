@@ -55,7 +55,7 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
     };
     EXPECT_EQ(run({Q("--gear"), Q("auto"), files.Path(Q("table.jpg")), files.Path(Q("zoom.jpg")),
                    files.Path(Q("catalogues.jpg")), files.Path(Q("compact.jpg")),
-                   files.Picture(Q("plain.bmp"), FIF_BMP)}),
+                   files.Picture(Q("plain.bmp"), OutputType::Bmp)}),
               exitSomeFailed);
     EXPECT_EQ(out.str(),
               (files.Path(Q("table.Varnel.BMP\n")) + files.Path(Q("catalogues.Varnel.BMP\n")))

@@ -51,7 +51,7 @@ QString Q(const char* text) {
 }
 
 TEST_F(Convert, WritesEveryProjectionBesideThePhotoAndNamesThem) {
-    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    const QString photo = files_.Picture(Q("IMG.jpg"), OutputType::Jpeg);
     EXPECT_EQ(RunWithGear({Q("--projection"), Q("all"), photo}), exitAllWritten);
     // The first-run type is the text "JPG", which means TIFF.
     const QStringList expected{
@@ -67,7 +67,7 @@ TEST_F(Convert, WritesEveryProjectionBesideThePhotoAndNamesThem) {
 }
 
 TEST_F(Convert, AFolderGetsTheBatchNames) {
-    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    const QString photo = files_.Picture(Q("IMG.jpg"), OutputType::Jpeg);
     QDir(files_.Path({})).mkdir(Q("out"));
     EXPECT_EQ(RunWithGear({Q("--projection=rectilinear"), Q("--output-dir"), files_.Path(Q("out")),
                            Q("--output-aov=95"), Q("--rotate-y=-5"), Q("--type=png"), photo}),
@@ -78,7 +78,7 @@ TEST_F(Convert, AFolderGetsTheBatchNames) {
 }
 
 TEST_F(Convert, ExistingFilesAreKeptUnlessForcedAndThePhotoAlways) {
-    const QString photo = files_.Picture(Q("IMG.bmp"), FIF_BMP);
+    const QString photo = files_.Picture(Q("IMG.bmp"), OutputType::Bmp);
     const QString target = files_.Text(Q("target.bmp"));
     const QByteArray before = Contents(target);
     EXPECT_EQ(RunWithGear({Q("--output"), target, photo}), exitSomeFailed);
@@ -90,7 +90,7 @@ TEST_F(Convert, ExistingFilesAreKeptUnlessForcedAndThePhotoAlways) {
     EXPECT_EQ(RunWithGear({Q("--force"), Q("--output"), photo, photo}), exitSomeFailed);
     EXPECT_EQ(Contents(photo), original);
     // Nor is another photo of the same run replaced, before or after its turn.
-    const QString other = files_.Picture(Q("IMG.Varnel.TIF"), FIF_TIFF);
+    const QString other = files_.Picture(Q("IMG.Varnel.TIF"), OutputType::Tiff);
     const QByteArray untouched = Contents(other);
     for (const QStringList& photos : {QStringList{photo, other}, QStringList{other, photo}}) {
         EXPECT_EQ(RunWithGear(QStringList{Q("--force")} + photos), exitSomeFailed);
@@ -100,7 +100,7 @@ TEST_F(Convert, ExistingFilesAreKeptUnlessForcedAndThePhotoAlways) {
 }
 
 TEST_F(Convert, BadPhotosAreNamedAndTheOthersDone) {
-    const QString good = files_.Picture(Q("good.png"), FIF_PNG);
+    const QString good = files_.Picture(Q("good.png"), OutputType::Png);
     const QString text = files_.Text(Q("text.jpg"));
     EXPECT_EQ(RunWithGear({files_.Path(Q("none.jpg")), text, good}), exitSomeFailed);
     EXPECT_TRUE(ErrorHas("none.jpg: there is no such file"));
@@ -111,11 +111,11 @@ TEST_F(Convert, BadPhotosAreNamedAndTheOthersDone) {
 TEST_F(Convert, ManyJobsDoAndSayWhatOneDoes) {
     QStringList photos;
     for (int n = 0; n < 12; ++n) {
-        photos.append(files_.Picture(Q("%1.png").arg(n), FIF_PNG, {60 + 40 * n, 50}));
+        photos.append(files_.Picture(Q("%1.png").arg(n), OutputType::Png, {60 + 40 * n, 50}));
     }
     photos.insert(3, files_.Text(Q("text.jpg")));
     photos.insert(7, files_.Path(Q("none.jpg")));
-    photos.insert(9, files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), FIF_BMP), 70));
+    photos.insert(9, files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), OutputType::Bmp), 70));
     photos.append(photos.first());  // would be written twice
     std::vector<std::string> said;
     QByteArrayList written;
@@ -141,7 +141,7 @@ TEST_F(Convert, ManyJobsDoAndSayWhatOneDoes) {
 }
 
 TEST_F(Convert, OneFileUnderTwoNamesIsNotWrittenTwice) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG, {900, 600});
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png, {900, 600});
     QString other = photo;
     other.insert(other.lastIndexOf(u'/'), Q("/."));
     for (const char* jobs : {"1", "2"}) {
@@ -153,8 +153,8 @@ TEST_F(Convert, OneFileUnderTwoNamesIsNotWrittenTwice) {
 }
 
 TEST_F(Convert, SkipExistingDoesOnlyWhatIsMissing) {
-    const QStringList photos{files_.Picture(Q("a.png"), FIF_PNG),
-                             files_.Picture(Q("b.png"), FIF_PNG)};
+    const QStringList photos{files_.Picture(Q("a.png"), OutputType::Png),
+                             files_.Picture(Q("b.png"), OutputType::Png)};
     const QString older = files_.Text(Q("a.Varnel.TIF"));
     const QStringList arguments = QStringList{Q("--skip-existing"), Q("--projection"), Q("all")};
     EXPECT_EQ(RunWithGear(arguments + photos), exitAllWritten);
@@ -169,7 +169,7 @@ TEST_F(Convert, SkipExistingDoesOnlyWhatIsMissing) {
 }
 
 TEST_F(Convert, ADamagedPhotoIsToldAndNeverReplacesAFile) {
-    const QString whole = files_.Picture(Q("whole.jpg"), FIF_JPEG, {300, 200});
+    const QString whole = files_.Picture(Q("whole.jpg"), OutputType::Jpeg, {300, 200});
     const QString cut = files_.Cut(Q("cut.jpg"), whole, 60);
     EXPECT_EQ(RunWithGear({cut}), exitSomeFailed);
     EXPECT_TRUE(ErrorHas("cut.jpg: damaged: "));
@@ -180,14 +180,14 @@ TEST_F(Convert, ADamagedPhotoIsToldAndNeverReplacesAFile) {
 }
 
 TEST_F(Convert, AnImpossibleNumberIsNamedAndNothingIsWritten) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png);
     EXPECT_EQ(RunWithGear({Q("--set"), Q("Ratio=0"), photo}), exitSomeFailed);
     EXPECT_TRUE(ErrorHas("IMG.Varnel.TIF: Division by zero: Ratio is 0"));
     EXPECT_EQ(FilesIn({}), QStringList{Q("IMG.png")});
 }
 
 TEST_F(Convert, ANumberThatNoNameCanHoldEndsOnlyItsPhoto) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png);
     EXPECT_EQ(RunWithGear({Q("--projection=rectilinear"), Q("--rotate-y=1e30"), Q("--output-dir"),
                            files_.Path({}), photo}),
               exitSomeFailed);
@@ -198,12 +198,12 @@ TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
     for (const char* folder : {"a", "b", "out"}) {
         QDir(files_.Path({})).mkdir(Q(folder));
     }
-    const QString photo = files_.Picture(Q("a/y.jpg"), FIF_JPEG);
+    const QString photo = files_.Picture(Q("a/y.jpg"), OutputType::Jpeg);
     const struct {
         QString other;
         const char* advice;
-    } pairs[] = {{files_.Picture(Q("a/y.png"), FIF_PNG), "--keep-ending tells them apart"},
-                 {files_.Picture(Q("b/y.jpg"), FIF_JPEG), "into different folders"}};
+    } pairs[] = {{files_.Picture(Q("a/y.png"), OutputType::Png), "--keep-ending tells them apart"},
+                 {files_.Picture(Q("b/y.jpg"), OutputType::Jpeg), "into different folders"}};
     const QString folder = files_.Path(Q("out"));
     const QStringList all{Q("--projection=all"), Q("--output-dir"), folder};
     for (const auto& [other, advice] : pairs) {
@@ -239,12 +239,13 @@ TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
     // As on a card that does not tell small from capital letters.
     QFile::link(folder + Q("/y.Varnel.TIF"), folder + Q("/Y.Varnel.TIF"));
     EXPECT_EQ(RunWithGear({Q("--skip-existing"), Q("--output-dir"), folder, photo,
-                           files_.Picture(Q("a/Y.png"), FIF_PNG)}),
+                           files_.Picture(Q("a/Y.png"), OutputType::Png)}),
               exitSomeFailed);
     EXPECT_TRUE(ErrorHas("/a/Y.png was not converted, "));
     // No photo has no results.
-    EXPECT_EQ(RunWithGear({files_.Text(Q("b/z.aae")), files_.Picture(Q("b/z.png"), FIF_PNG)}),
-              exitSomeFailed);
+    EXPECT_EQ(
+        RunWithGear({files_.Text(Q("b/z.aae")), files_.Picture(Q("b/z.png"), OutputType::Png)}),
+        exitSomeFailed);
     EXPECT_EQ(Lines(), QStringList{files_.Path(Q("b/z.Varnel.TIF"))});
     // All of one photo's results under one name.
     EXPECT_EQ(RunWithGear({Q("--projection=all"), Q("--skip-existing"), Q("--set=Projection=1"),
@@ -254,7 +255,7 @@ TEST_F(Convert, TwoPhotosWithOneResultNameLoseNothing) {
 }
 
 TEST_F(Convert, WithoutAGearItSaysHowToGiveOne) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png);
     EXPECT_EQ(Run({photo}), exitUsage);
     EXPECT_TRUE(ErrorHas("no gear is defined; give --camera BRAND/MODEL with --lens BRAND/MODEL"));
     EXPECT_EQ(Run({Q("--gear"), Q("mine"), photo}), exitUsage);
@@ -281,7 +282,7 @@ TEST_F(Convert, StoredGearsServeByNameAndByDefault) {
     EXPECT_EQ(Run({Q("--list-gears")}), exitAllWritten);
     EXPECT_EQ(Lines(), (QStringList{Q("one"), Q("two")}));
 
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png);
     const auto picture = [&](const QStringList& options, const char* name) {
         EXPECT_EQ(Run(options + QStringList{Q("--output"), files_.Path(Q(name)), photo}),
                   exitAllWritten)
@@ -296,7 +297,7 @@ TEST_F(Convert, StoredGearsServeByNameAndByDefault) {
 }
 
 TEST_F(Convert, APreviewHasItsSizeAndFollowsAntialiasing) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG, {300, 200});
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png, {300, 200});
     const auto preview = [&](const QStringList& options, const char* name) {
         EXPECT_EQ(RunWithGear(options + QStringList{Q("--preview=60x60"), Q("--output"),
                                                     files_.Path(Q(name)), photo}),
@@ -311,7 +312,7 @@ TEST_F(Convert, APreviewHasItsSizeAndFollowsAntialiasing) {
 }
 
 TEST_F(Convert, AMorphWritesTheFramesThatSingleConversionsWouldGive) {
-    const QString photo = files_.Picture(Q("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("IMG.png"), OutputType::Png);
     const QStringList rectilinear{Q("--type"),      Q("bmp"),          Q("--projection"),
                                   Q("rectilinear"), Q("--output-aov"), Q("95")};
     EXPECT_EQ(RunWithGear(rectilinear + QStringList{Q("--morph"), Q("3"), Q("--from"),
@@ -347,7 +348,7 @@ TEST_F(Convert, AMorphWritesTheFramesThatSingleConversionsWouldGive) {
 }
 
 TEST_F(Convert, OptionsOverrideTheSettingsForColourAndMetadata) {
-    const QString photo = files_.Picture(Q("IMG.jpg"), FIF_JPEG);
+    const QString photo = files_.Picture(Q("IMG.jpg"), OutputType::Jpeg);
     testing::WriteFile(photo, testing::Described(Contents(photo)));
     const struct {
         const char *full, *metadata;  // the settings

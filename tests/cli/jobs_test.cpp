@@ -67,7 +67,7 @@ TEST(Jobs, NoMoreThreadsAreBusyThanCoresMayBeUsed) {
     const testing::PictureFolder files;
     QStringList photos;
     for (int n = 0; n < 10; ++n) {
-        photos.append(files.Picture(Text("%1.jpg").arg(n), FIF_JPEG, {3000, 2000}));
+        photos.append(files.Picture(Text("%1.jpg").arg(n), OutputType::Jpeg, {3000, 2000}));
     }
     for (const int jobs : {1, 2, 3}) {
         int least = 100;

@@ -43,8 +43,8 @@ class Like : public ::testing::Test {
 };
 
 TEST_F(Like, APictureBringsItsSettingsToItsOwnPhotoAndToOthers) {
-    files_.Picture(Text("a.png"), FIF_PNG);
-    files_.Picture(Text("b.png"), FIF_PNG);
+    files_.Picture(Text("a.png"), OutputType::Png);
+    files_.Picture(Text("b.png"), OutputType::Png);
     ASSERT_EQ(
         Run(gear_ + Text("--projection rectilinear --output-aov 95.7 --rotate-y -7.3 --effect "
                          "33.3 --set OfsetX=1.1 --output @r.JPG @a.png")),
@@ -77,7 +77,7 @@ TEST_F(Like, APictureBringsItsSettingsToItsOwnPhotoAndToOthers) {
 }
 
 TEST_F(Like, TheCentreIsTurnedAndTheFolderToldOnlyBesideTheMetadata) {
-    files_.Picture(Text("a.png"), FIF_PNG);
+    files_.Picture(Text("a.png"), OutputType::Png);
     Run(gear_ + Text("--rotate-z 270 --translate-x 150 --set OfsetX=3 --set OfsetY=-5 "
                      "--set Orientation=6 --output @r.JPG @a.png"));
     EXPECT_EQ(Run(Text("--like @r.JPG --no-metadata --output @s.JPG @a.png")), exitAllWritten);
@@ -91,7 +91,7 @@ TEST_F(Like, TheCentreIsTurnedAndTheFolderToldOnlyBesideTheMetadata) {
 }
 
 TEST_F(Like, FramesOfASequenceHoldTheirOwnSettings) {
-    files_.Picture(Text("a.png"), FIF_PNG);
+    files_.Picture(Text("a.png"), OutputType::Png);
     Run(gear_ + Text("--projection rectilinear --output @r.JPG @a.png"));
     EXPECT_EQ(
         Run(Text("--like @r.JPG --type png --morph 2 --from EffectRectilinear=20 --output-dir @ "
@@ -115,7 +115,7 @@ TEST_F(Like, FramesOfASequenceHoldTheirOwnSettings) {
 }
 
 TEST_F(Like, APictureThatDoesNotServeIsRefusedWithTheReason) {
-    files_.Picture(Text("a.png"), FIF_PNG);
+    files_.Picture(Text("a.png"), OutputType::Png);
     Run(gear_ + Text("--no-settings --output @bare.JPG @a.png"));
     Run(gear_ + Text("--output @r.JPG @a.png"));
     QFile::rename(files_.Path(Text("a.png")), files_.Path(Text("moved.png")));
@@ -135,7 +135,7 @@ TEST_F(Like, APictureThatDoesNotServeIsRefusedWithTheReason) {
 
 TEST_F(Like, WhatEveryFileIsWithoutIsSaidOnce) {
     for (const char* const name : {"a.png", "b.png", "c.png"}) {
-        files_.Picture(Text(name), FIF_PNG);
+        files_.Picture(Text(name), OutputType::Png);
     }
     Run(gear_ + Text("--type bmp --output-dir @ @a.png @b.png @c.png"));
     const std::string note = "BMP files hold no settings\n";
@@ -144,7 +144,7 @@ TEST_F(Like, WhatEveryFileIsWithoutIsSaidOnce) {
 }
 
 TEST_F(Like, HostileSettingsNeverReachTheConversion) {
-    const QString photo = files_.Picture(Text("a.png"), FIF_PNG);
+    const QString photo = files_.Picture(Text("a.png"), OutputType::Png);
     Run(gear_ + Text("--output @r.JPG @a.png"));
     PictureSettings settings = SettingsIn("r.JPG");
     settings[Text("EffectVarnel")] = Text("0");
@@ -152,7 +152,7 @@ TEST_F(Like, HostileSettingsNeverReachTheConversion) {
     settings[Text("Source")] = Text("../a.png");
     const BitmapHandle bitmap = testing::PositionPicture({6, 4});
     SetSettings(bitmap.get(), settings);
-    SaveBitmap(FIF_JPEG, bitmap.get(), files_.Path(Text("evil.jpg")), 0);
+    SaveBitmap(OutputType::Jpeg, bitmap.get(), files_.Path(Text("evil.jpg")));
     EXPECT_EQ(Run(Text("--like @evil.jpg")), exitUsage);
     EXPECT_TRUE(ErrorHas("evil.jpg: does not say which photo it was made of"));
     EXPECT_NE(Run(Text("--like @evil.jpg --output @e.tif @a.png")), exitUsage);

@@ -188,14 +188,14 @@ void ExpectSame(const Fields& photo, const Fields& result) {
 TEST_F(Metadata, OfEveryKindSurvivesInEveryType) {
     constexpr const char* photos[] = {"little.jpg", "big.jpg", "photo.png", "photo.tif"};
     const QByteArray jpeg =
-        testing::Contents(files_.Picture(Text("plain.jpg"), FIF_JPEG, {300, 200}));
+        testing::Contents(files_.Picture(Text("plain.jpg"), OutputType::Jpeg, {300, 200}));
     for (const bool canon : {true, false}) {
         WriteFile(
             Path(Text(photos[canon ? 0 : 1])),
             QByteArray(jpeg).insert(2, testing::JpegSegment(0xE1, testing::ExifBlock(canon))));
     }
-    files_.Picture(Text(photos[2]), FIF_PNG, {300, 200});
-    files_.Picture(Text(photos[3]), FIF_TIFF, {300, 200});
+    files_.Picture(Text(photos[2]), OutputType::Png, {300, 200});
+    files_.Picture(Text(photos[3]), OutputType::Tiff, {300, 200});
     WriteFile(Path(Text("rgb.icc")), testing::RgbProfile());
     const QStringList quietly{Text("-q"), Text("-q"), Text("-overwrite_original"), Text("-n")};
     ExifTool(quietly + told +
@@ -238,7 +238,7 @@ TEST_F(Metadata, OfEveryKindSurvivesInEveryType) {
 }
 
 TEST_F(Metadata, AreLeftOutOnRequestAndAGreyProfileAlways) {
-    const QByteArray jpeg = testing::Contents(files_.Picture(Text("plain.jpg"), FIF_JPEG));
+    const QByteArray jpeg = testing::Contents(files_.Picture(Text("plain.jpg"), OutputType::Jpeg));
     const auto profile = [](const QByteArray& bytes) {
         return testing::JpegSegment(0xE2, QByteArray("ICC_PROFILE\0\1\1", 14) + bytes);
     };

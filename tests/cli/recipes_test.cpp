@@ -22,7 +22,7 @@ class Recipes : public ::testing::Test {
     Recipes() {
         QByteArray list;
         for (int n = 0; n < 23; ++n) {
-            list += files_.Picture(Text("photo %1.jpg").arg(n), FIF_JPEG).toUtf8() + '\n';
+            list += files_.Picture(Text("photo %1.jpg").arg(n), OutputType::Jpeg).toUtf8() + '\n';
         }
         testing::WriteFile(files_.Path(Text("photos.txt")), list);
         Run(Text("array-job"), {{"SLURM_ARRAY_TASK_ID", "0"}, {"COUNT", "1"}}, Text("at once"));
@@ -86,7 +86,7 @@ TEST_F(Recipes, ParallelJobsMakeTheSame) {
 TEST_F(Recipes, PhotosThatWouldHaveOneResultAreRefusedBeforeAnyIsConverted) {
     testing::WriteFile(files_.Path(Text("photos.txt")),
                        (files_.Path(Text("photo 1.jpg")) + u'\n' +
-                        files_.Picture(Text("photo 1.png"), FIF_PNG) + u'\n')
+                        files_.Picture(Text("photo 1.png"), OutputType::Png) + u'\n')
                            .toUtf8());
     const bool hasParallel = !QStandardPaths::findExecutable(Text("parallel")).isEmpty();
     for (const char* recipe : {"array-job", "parallel-job"}) {

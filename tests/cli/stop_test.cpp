@@ -30,7 +30,7 @@ class Stop : public ::testing::Test {
   protected:
     Stop() {
         for (int n = 0; n < 6; ++n) {
-            photos_.append(files_.Picture(Q("%1.bmp").arg(n), FIF_BMP, {700, 500}));
+            photos_.append(files_.Picture(Q("%1.bmp").arg(n), OutputType::Bmp, {700, 500}));
         }
     }
     // As a terminal starts it: with its decoders in a process group of its own.
@@ -115,7 +115,7 @@ TEST_F(Stop, LeavesWholeFilesOnlyAndCanBeGoneOnWith) {
 }
 
 TEST_F(Stop, ASecondSignalEndsItAtOnceAndLeavesNothingBehind) {
-    photos_ = QStringList{files_.Picture(Q("large.bmp"), FIF_BMP, {6000, 4000})};
+    photos_ = QStringList{files_.Picture(Q("large.bmp"), OutputType::Bmp, {6000, 4000})};
     const qint64 whole = qint64{6000} * 4000 * 3;
     qint64 fastest = 1'000'000;
     for (int n = 0; n < 4; ++n) {

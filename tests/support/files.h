@@ -18,9 +18,9 @@ class PictureFolder {
   public:
     QString Path(const QString& name) const { return folder_.filePath(name); }
     // A 24-bit position picture; returns its path.
-    QString Picture(const QString& name, FREE_IMAGE_FORMAT format,
+    QString Picture(const QString& name, const OutputEncoding& encoding,
                     PixelSize size = {60, 40}) const {
-        SaveBitmap(format, PositionPicture(size).get(), Path(name), 0);
+        SaveBitmap(encoding, PositionPicture(size).get(), Path(name));
         return Path(name);
     }
     // The first part of a picture file, percent of its length.

@@ -188,7 +188,7 @@ class TestWindow {
     void AddPhotos(const QStringList& names, PixelSize size = {60, 40}) {
         QStringList paths;
         for (const QString& name : names) {
-            paths.append(files.Picture(name, FIF_BMP, size));
+            paths.append(files.Picture(name, OutputType::Bmp, size));
         }
         window.AddFiles(paths);
     }

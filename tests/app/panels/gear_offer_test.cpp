@@ -26,7 +26,7 @@ class GearOfferRowTest : public ::testing::Test {
         workspace_.window.AddFiles(
             {TakenByNikon(workspace_.files, Text("a.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
              TakenByNikon(workspace_.files, Text("b.jpg"), "NIKON D7100", "10.5 mm f/2.8"),
-             workspace_.files.Picture(Text("c.bmp"), FIF_BMP)});
+             workspace_.files.Picture(Text("c.bmp"), OutputType::Bmp)});
         workspace_.dialogs.onDefine = [this](const GearRecord& known) {
             TakeKnown(known, workspace_.state.Gear(0));
             workspace_.state.Gear(0).GearName = Text("Cut & dried");

@@ -55,7 +55,7 @@ class ConsoleStart : public ::testing::Test {
         store_.Save(setting::General, setting::FileType, QString::fromLatin1(type));
     }
     QString Photo(const char* name) const {
-        return files_.Picture(QString::fromUtf8(name), FIF_BMP);
+        return files_.Picture(QString::fromUtf8(name), OutputType::Bmp);
     }
     std::string Line(const char* name) const {
         return files_.Path(QString::fromUtf8(name)).toStdString() + "\n";

@@ -106,8 +106,8 @@ void RunTheBatch(QDialog* dialog) {
 
 TEST(Keyboard, FromTheFirstStartToABatch) {
     const testing::PictureFolder folder;
-    folder.Picture(Q("a.png"), FIF_PNG, {300, 200});
-    folder.Picture(Q("b.png"), FIF_PNG, {300, 200});
+    folder.Picture(Q("a.png"), OutputType::Png, {300, 200});
+    folder.Picture(Q("b.png"), OutputType::Png, {300, 200});
     WorkingState state;
     MemoryStore store;
     store.Save(setting::LastUsed, setting::LastDrive, Q("/"));

@@ -56,7 +56,7 @@ class Program : public ::testing::Test {
 };
 
 TEST_F(Program, VarnelConvertsItsArgumentsWithoutADisplay) {
-    const QString photo = files_.Picture(Text("Küste.png"), FIF_PNG);
+    const QString photo = files_.Picture(Text("Küste.png"), OutputType::Png);
     EXPECT_EQ(Run(VARNEL_PROGRAM, {photo}), 2);
     EXPECT_TRUE(err_.contains(Text("Please define at least one camera + lens combination ...")));
     DefineGear();
@@ -75,7 +75,7 @@ TEST_F(Program, VarnelConvertsItsArgumentsWithoutADisplay) {
 }
 
 TEST_F(Program, VarnelConvertTakesItsGearFromTheUsersStore) {
-    const QString photo = files_.Picture(Text("IMG.tif"), FIF_TIFF);
+    const QString photo = files_.Picture(Text("IMG.tif"), OutputType::Tiff);
     DefineGear();
     EXPECT_EQ(Run(VARNEL_CONVERT_PROGRAM, {Text("--projection=all"), Text("--type=png"), photo}),
               0);
@@ -87,7 +87,7 @@ TEST_F(Program, VarnelConvertTakesItsGearFromTheUsersStore) {
 
 TEST_F(Program, BothSayOnceThatTheSettingsWereDamagedAndUseTheCopy) {
     const QString settings = files_.Path(Text("config/Varnel/Varnel.conf"));
-    const QString photo = files_.Picture(Text("IMG.png"), FIF_PNG);
+    const QString photo = files_.Picture(Text("IMG.png"), OutputType::Png);
     DefineGear();
     const std::pair<const char*, QString> runs[] = {{VARNEL_CONVERT_PROGRAM, Text("--list-gears")},
                                                     {VARNEL_PROGRAM, photo}};

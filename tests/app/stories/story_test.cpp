@@ -171,7 +171,7 @@ QByteArray Converted(const ImageRecord& image) {
     SilentProgress silent;
     RenderContext workspace{bitmaps};
     Render(ProjectionFromIndex(image.Projection), image, SizeKind::Large, silent, workspace);
-    EXPECT_TRUE(SaveBitmap(FIF_BMP, bitmaps.ResultBitmap.get(), folder.Path(Q("single")), 0));
+    EXPECT_TRUE(SaveBitmap(OutputType::Bmp, bitmaps.ResultBitmap.get(), folder.Path(Q("single"))));
     return testing::Contents(folder.Path(Q("single")));
 }
 

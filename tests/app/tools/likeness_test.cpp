@@ -43,7 +43,8 @@ TEST(DroppedLikeness, BringsPhotoGearAndSettingsBackAndSelectsThem) {
             workspace.state.Gear(1).GearRatio = 77.0F;
             workspace.Find<QComboBox>("GearCombo")->setItemText(0, Text("another"));
         }
-        workspace.window.AddFiles({workspace.files.Picture(Text("b.bmp"), FIF_BMP), result});
+        workspace.window.AddFiles(
+            {workspace.files.Picture(Text("b.bmp"), OutputType::Bmp), result});
         auto* const list = workspace.Find<QListWidget>("ImageList1");
         EXPECT_EQ(list->currentRow(), 1);
         EXPECT_EQ(list->selectedItems().value(0)->text(), Text("a.bmp"));

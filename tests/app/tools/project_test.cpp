@@ -40,7 +40,7 @@ TEST(Project, ComesBackWithEverySettingAndShowsItsName) {
     workspace.Slider("SliderY")->setValue(-20);
     workspace.Entry("CmdSaveProject")->trigger();
     TestWindow other;
-    other.window.AddFiles({other.files.Picture(Text("c.bmp"), FIF_BMP), workspace.path});
+    other.window.AddFiles({other.files.Picture(Text("c.bmp"), OutputType::Bmp), workspace.path});
     EXPECT_EQ(other.dialogs.opened, QStringList());
     ASSERT_EQ(other.state.Images.UpperBound(), 3);
     EXPECT_EQ(other.Record(1), saved);

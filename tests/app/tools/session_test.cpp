@@ -44,7 +44,7 @@ class Session : public ::testing::Test {
         const auto window = Window();
         QStringList paths;
         for (const QString& photo : photos) {
-            paths.append(files.Picture(photo, FIF_BMP));
+            paths.append(files.Picture(photo, OutputType::Bmp));
         }
         window->window.AddFiles(paths);
         window->Slider("SliderAOVinput")->setValue(aov);
@@ -100,7 +100,7 @@ class Started {
 };
 
 TEST_F(Session, AListWhoseProgramWasKilledIsOfferedAndThatOfALivingOneIsNot) {
-    const QString photo = files.Picture(Text("a.bmp"), FIF_BMP);
+    const QString photo = files.Picture(Text("a.bmp"), OutputType::Bmp);
     Started first(files, {Text("--open"), photo});
     ASSERT_TRUE(ComesToKeep(1));
     Started second(files, {Text("--open"), photo, photo});

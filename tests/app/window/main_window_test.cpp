@@ -295,7 +295,7 @@ TEST(MainWindow, EachEffectComesBackWithItsProjection) {
 TEST(MainWindow, SettingsGoToAllEvenToPhotosNeverClicked) {
     TestWindow workspace;
     workspace.AddPhotos({Q("a.bmp"), Q("b.bmp"), Q("c.bmp")});
-    workspace.window.AddFiles({workspace.files.Picture(Q("tall.bmp"), FIF_BMP, {40, 60})});
+    workspace.window.AddFiles({workspace.files.Picture(Q("tall.bmp"), OutputType::Bmp, {40, 60})});
     workspace.Click("OptionRemap_1");
     workspace.Slider("SliderX")->setValue(10);
     workspace.Click("CmdApplyAll2");

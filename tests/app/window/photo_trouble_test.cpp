@@ -33,7 +33,7 @@ TEST(MainWindow, AnUnreadablePhotoIsToldAndLeavesNoOldPictureBehind) {
 TEST(MainWindow, BadFilesOfADropOrADialogAreToldInOneBoxAndMarked) {
     TestWindow workspace;
     QDir(workspace.files.Path({})).mkpath(Text("day/evening"));
-    workspace.files.Picture(Text("day/b.bmp"), FIF_BMP);
+    workspace.files.Picture(Text("day/b.bmp"), OutputType::Bmp);
     const QStringList bad{workspace.files.Text(Text("day/a.jpg")),
                           workspace.files.Empty(Text("day/evening/c.TIFF"))};
     const auto expectTold = [&](int first) {
@@ -71,7 +71,7 @@ TEST(MainWindow, BadFilesOfADropOrADialogAreToldInOneBoxAndMarked) {
 TEST(MainWindow, NothingChangesTheListWhileAPhotoIsRead) {
     TestWindow workspace;
     workspace.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp")});
-    const QString late = workspace.files.Picture(Text("late.bmp"), FIF_BMP);
+    const QString late = workspace.files.Picture(Text("late.bmp"), OutputType::Bmp);
     int asked = 0;
     workspace.reader.meanwhile = [&] {
         ++asked;

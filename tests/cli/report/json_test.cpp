@@ -53,13 +53,14 @@ class Json : public ::testing::Test {
 };
 
 TEST_F(Json, TellsOfEveryResultInOrder) {
-    const QString odd = files_.Picture(Q("a \"b\"\n\xC3\xA4\\.png"), FIF_PNG);
-    const QStringList photos{odd,
-                             files_.Path(Q("none.png")),
-                             files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), FIF_BMP), 70),
-                             files_.Picture(Q("there.png"), FIF_PNG),
-                             files_.Picture(Q("there.jpg"), FIF_JPEG),
-                             files_.Picture(Q("last.png"), FIF_PNG)};
+    const QString odd = files_.Picture(Q("a \"b\"\n\xC3\xA4\\.png"), OutputType::Png);
+    const QStringList photos{
+        odd,
+        files_.Path(Q("none.png")),
+        files_.Cut(Q("cut.bmp"), files_.Picture(Q("b.bmp"), OutputType::Bmp), 70),
+        files_.Picture(Q("there.png"), OutputType::Png),
+        files_.Picture(Q("there.jpg"), OutputType::Jpeg),
+        files_.Picture(Q("last.png"), OutputType::Png)};
     const char* const statuses[] = {"converted", "converted", "failed",   "damaged",
                                     "damaged",   "skipped",   "skipped",  "failed",
                                     "failed",    "converted", "converted"};
@@ -113,7 +114,7 @@ TEST_F(Json, ARefusedCommandLinePrintsNothing) {
 }
 
 TEST_F(Json, AStoppedRunDoesNothingMoreAndSaysHowToGoOn) {
-    const QString photo = files_.Picture(Q("a.png"), FIF_PNG);
+    const QString photo = files_.Picture(Q("a.png"), OutputType::Png);
     stop_ = SIGTERM;
     const struct {
         const char *option, *told;

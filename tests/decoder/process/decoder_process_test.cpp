@@ -62,8 +62,8 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
 
 TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
     const PictureFolder folder;
-    folder.Picture(Text("a"), FIF_PNG);
-    folder.Picture(Text("b"), FIF_PNG, {90, 20});
+    folder.Picture(Text("a"), OutputType::Png);
+    folder.Picture(Text("b"), OutputType::Png, {90, 20});
     auto reader = std::make_unique<DecoderReader>(ReaderOptions{});
     const LoadedPicture a = ReadPicture(*reader, {folder.Path(Text("a"))});
     const LoadedPicture b = ReadPicture(*reader, {folder.Path(Text("b"))});
@@ -74,7 +74,7 @@ TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
 
 TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Text("a.jpg"), FIF_JPEG, {900, 600});
+    const QString path = folder.Picture(Text("a.jpg"), OutputType::Jpeg, {900, 600});
     DecoderReader reader({});
     const LoadedPicture whole = ReadPicture(reader, {path});
     ASSERT_TRUE(whole.bitmap);
@@ -104,7 +104,7 @@ QString Impostor(const PictureFolder& folder, const char* script) {
 
 TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
     const PictureFolder folder;
-    const QString photo = folder.Picture(Text("a.png"), FIF_PNG);
+    const QString photo = folder.Picture(Text("a.png"), OutputType::Png);
     const struct {
         QString program;
         const char* reason;
@@ -140,7 +140,7 @@ TEST(DecoderReader, SaysWhatBecameOfADecoderThatDoesNotAnswer) {
 
 TEST(DecoderReader, CanBeCancelledAndGoesOnWithTheNextPhoto) {
     const PictureFolder folder;
-    const QString photo = folder.Picture(Text("a.jpg"), FIF_JPEG, {2000, 1500});
+    const QString photo = folder.Picture(Text("a.jpg"), OutputType::Jpeg, {2000, 1500});
     DecoderReader reader({});
     const LoadedPicture given = ReadPicture(reader, {photo}, [] { return false; });
     EXPECT_TRUE(given.bitmap || given.reason.Is(ReasonCode::Cancelled));
@@ -218,7 +218,7 @@ TEST(DecoderReader, HasNoRightsNoSecretsAndLimitsThatStay) {
     qputenv("VARNEL_SECRET", "a password");
     DecoderReader reader({});
     qunsetenv("VARNEL_SECRET");
-    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), FIF_PNG)}).bitmap);
+    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), OutputType::Png)}).bitmap);
     EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("NoNewPrivs:\t1"));
     const auto has = [&](const char* limit) {
         return QString::fromUtf8(testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId())))
@@ -237,8 +237,10 @@ TEST(DecoderReader, HasNoRightsNoSecretsAndLimitsThatStay) {
 TEST(DecoderReader, AFileThatIsReplacedOrCutMeanwhileGivesOneOrTheOther) {
     const PictureFolder folder;
     const QString path = folder.Path(Text("a.jpg"));
-    const QByteArray one = testing::Contents(folder.Picture(Text("one"), FIF_JPEG, {900, 600}));
-    const QByteArray two = testing::Contents(folder.Picture(Text("two"), FIF_JPEG, {600, 900}));
+    const QByteArray one =
+        testing::Contents(folder.Picture(Text("one"), OutputType::Jpeg, {900, 600}));
+    const QByteArray two =
+        testing::Contents(folder.Picture(Text("two"), OutputType::Jpeg, {600, 900}));
     testing::WriteFile(path, one);
     DecoderReader reader({});
     for (int n = 0; n < 30; ++n) {

@@ -74,7 +74,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
 
 TEST(PictureReader, AFileWithoutPermissionSaysSo) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Text("secret.png"), FIF_PNG);
+    const QString path = folder.Picture(Text("secret.png"), OutputType::Png);
     QFile::setPermissions(path, {});
     QFile::setPermissions(folder.Path({}), QFile::Permissions(0x7755));
     EXPECT_EXIT(
@@ -91,7 +91,7 @@ TEST(PictureReader, AFileWithoutPermissionSaysSo) {
 
 TEST(PhotoLoader, TurnsPhotosAsTheSettingsSayAtThatMomentAndTheirCentreWithThem) {
     const PictureFolder folder;
-    const QString path = folder.Picture(Text("a.png"), FIF_PNG);
+    const QString path = folder.Picture(Text("a.png"), OutputType::Png);
     QByteArray file = testing::Contents(path);
     constexpr qsizetype afterHeader = 33;
     testing::TiffBytes exif(testing::Order::Big);

@@ -52,9 +52,9 @@ class BatchMix : public ::testing::Test {
             queue, choices, quiet,
             {.load = [this](const QString& path) { return Load(path); },
              .save =
-                 [](FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, const QString& path, int flags) {
+                 [](const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& path) {
                      return path.contains(Text("full")) ? FullDisk(bitmap, path)
-                                                        : SaveBitmap(format, bitmap, path, flags);
+                                                        : SaveBitmap(encoding, bitmap, path);
                  }});
         std::map<QString, QByteArray> outputs;
         for (const QString& name : QDir(files.Path(out)).entryList(QDir::Files | QDir::Hidden)) {
@@ -65,7 +65,7 @@ class BatchMix : public ::testing::Test {
     // The file size limit stands for the disk's end.
     static SaveResult FullDisk(FIBITMAP* bitmap, const QString& path) {
         const testing::FileSizeLimit full(1000);
-        return SaveBitmap(FIF_BMP, bitmap, path, 0);
+        return SaveBitmap(OutputType::Bmp, bitmap, path);
     }
     LoadedPicture Load(const QString& path) {
         const bool hangs = path.contains(Text("hang"));
@@ -91,7 +91,7 @@ class BatchMix : public ::testing::Test {
         } else if (kind == Text("pipe")) {
             ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
         } else if (kind == Text("wide")) {
-            files.Picture(Text("in/") + name, FIF_PNG, {32768, 1});
+            files.Picture(Text("in/") + name, OutputType::Png, {32768, 1});
         } else if (kind == Text("bomb")) {
             testing::WriteFile(path,
                                QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000ea600000"
@@ -115,7 +115,7 @@ TEST_F(BatchMix, BadPhotosChangeNothingForTheGoodOnesAndAreAllNamed) {
     QStringList good;
     for (int n = 0; n < goodPhotos; ++n) {
         good.append(Text("good%1.jpg").arg(n, 3, 10, QChar(u'0')));
-        files.Picture(Text("in/") + good.last(), FIF_JPEG, {60 + n, 40});
+        files.Picture(Text("in/") + good.last(), OutputType::Jpeg, {60 + n, 40});
     }
     const auto alone = Run(good, Text("alone"));
     ASSERT_EQ(alone.size(), static_cast<std::size_t>(goodPhotos));
@@ -145,7 +145,7 @@ TEST_F(BatchMix, AKilledRunLeavesWholeFilesAndTheNextOneMakesTheSameSet) {
     QStringList names;
     for (int n = 0; n < 20; ++n) {
         names.append(Text("%1.jpg").arg(n));
-        files.Picture(Text("in/") + names.last(), FIF_JPEG, {300 + n, 200});
+        files.Picture(Text("in/") + names.last(), OutputType::Jpeg, {300 + n, 200});
     }
     const auto whole = Run(names, Text("whole"));
     for (int moment = 1; moment <= 5; ++moment) {

@@ -55,8 +55,8 @@ class FakeRun : public ::testing::Test {
         log += Text("load ") + path;
         return {LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     }
-    SaveResult Save(FREE_IMAGE_FORMAT format, const QString& path, int flags) {
-        log += Text("save %1 as %2 with %3").arg(path).arg(format).arg(flags);
+    SaveResult Save(const OutputEncoding& encoding, const QString& path) {
+        log += Text("save %1 as %2 with %3").arg(path, ToText(encoding.type)).arg(encoding.quality);
         return {true, {}};
     }
 
@@ -65,8 +65,9 @@ class FakeRun : public ::testing::Test {
     RecordArray<ImageRecord> queue;
     BatchChoices choices{Text("/out"), {}, OutputType::Jpeg, 83};
     ConversionPorts ports{[this](const QString& path) { return Load(path); },
-                          [this](FREE_IMAGE_FORMAT format, FIBITMAP*, const QString& path,
-                                 int flags) { return Save(format, path, flags); }};
+                          [this](const OutputEncoding& encoding, FIBITMAP*, const QString& path) {
+                              return Save(encoding, path);
+                          }};
 };
 
 TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
@@ -78,9 +79,9 @@ TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
     const BatchSummary summary = Go();
     EXPECT_EQ(log.join(u'\n'),
               Text("load /in/a.jpg\nname /out/a.Varnel.JPG\nbegin\nend\n"
-                   "save /out/a.Varnel.JPG as 2 with 83\n1 of 2 images\n"
+                   "save /out/a.Varnel.JPG as JPEG with 83\n1 of 2 images\n"
                    "load /in/b.jpg\nname /out/b.flat_Morph0007_hAOV090_LR-5.JPG\nbegin\nend\n"
-                   "save /out/b.flat_Morph0007_hAOV090_LR-5.JPG as 2 with 83\n2 of 2 images"));
+                   "save /out/b.flat_Morph0007_hAOV090_LR-5.JPG as JPEG with 83\n2 of 2 images"));
     EXPECT_EQ(summary.written.size(), 2);
     EXPECT_FALSE(summary.Stopped());
 }
@@ -93,18 +94,19 @@ TEST_F(FakeRun, ChoicesSayWhetherMetadataSettingsAndFullColourAreWritten) {
         return photo;
     };
     QString saved;
-    ports.save = [&saved](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString&, int flags) {
-        saved += Text(" %1:%2:%3")
+    ports.save = [&saved](const OutputEncoding& encoding, FIBITMAP* bitmap, const QString&) {
+        saved += Text(" %1:%2:%3:%4")
                      .arg(FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap))
                      .arg(SettingsOf(bitmap).value(Text("Ratio"), Text("none")))
-                     .arg(flags);
+                     .arg(encoding.quality)
+                     .arg(encoding.chroma444);
         return SaveResult{true, {}};
     };
     Go();
     choices.chroma444 = true;
     choices.writeMetadata = choices.writeSettings = false;
     Go();
-    EXPECT_EQ(saved, Text(" 1:125:83 0:none:65619"));  // 0x10000 + 83
+    EXPECT_EQ(saved, Text(" 1:125:83:0 0:none:83:1"));
 }
 
 TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
@@ -132,7 +134,7 @@ TEST_F(FakeRun, MemoryHoldsOnePhotoHoweverLongTheQueue) {
         return LoadedPicture{LoadOutcome::Loaded, testing::PositionPicture(size), {}};
     };
     // Encoding takes room of its own; the source must have made place for it.
-    ports.save = [&](FREE_IMAGE_FORMAT, FIBITMAP*, const QString&, int) {
+    ports.save = [&](const OutputEncoding&, FIBITMAP*, const QString&) {
         EXPECT_LT(inUse() - atLoad.last(), photo * 3 / 2);
         return SaveResult{true, {}};
     };
@@ -180,7 +182,7 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
                    : LoadedPicture{
                          LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     };
-    const auto save = [](FREE_IMAGE_FORMAT, FIBITMAP* bitmap, const QString& path, int) {
+    const auto save = [](const OutputEncoding&, FIBITMAP* bitmap, const QString& path) {
         const bool fails = path.contains(u'7');
         std::this_thread::sleep_for(std::chrono::milliseconds(path.size() % 3));
         return SaveResult{!fails && SizeOf(bitmap).width == 6,
@@ -231,7 +233,7 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
         }
         return Load(path);
     };
-    ports.save = [](FREE_IMAGE_FORMAT, FIBITMAP*, const QString& path, int) {
+    ports.save = [](const OutputEncoding&, FIBITMAP*, const QString& path) {
         return path.contains(u"disk") ? SaveResult{false, {ReasonCode::Words, Text("disk full")}}
                                       : SaveResult{true, {}};
     };
@@ -309,8 +311,7 @@ class RealRun : public ::testing::Test {
         NoteSettings(bitmaps.ResultBitmap.get(), entry, choices.writeSettings,
                      BatchPath(entry, choices));
         const QString path = files.Path(Text("single"));
-        SaveBitmap(FormatOf(choices.type), bitmaps.ResultBitmap.get(), path,
-                   SaveFlags(choices.type, choices.jpegQuality, choices.chroma444));
+        SaveBitmap(EncodingOf(choices), bitmaps.ResultBitmap.get(), path);
         return testing::Contents(path);
     }
 
@@ -320,9 +321,9 @@ class RealRun : public ::testing::Test {
 };
 
 TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
-    const QString whole = files.Picture(Text("in/a.jpg"), FIF_JPEG, {300, 200});
-    files.Picture(Text("in/b.tif"), FIF_TIFF, {40, 60});
-    files.Picture(Text("in/c.png"), FIF_PNG);
+    const QString whole = files.Picture(Text("in/a.jpg"), OutputType::Jpeg, {300, 200});
+    files.Picture(Text("in/b.tif"), OutputType::Tiff, {40, 60});
+    files.Picture(Text("in/c.png"), OutputType::Png);
     files.Cut(Text("in/cut.jpg"), whole, 60);
     files.Text(Text("in/text.jpg"));
     files.Empty(Text("in/empty.png"));
@@ -355,8 +356,9 @@ TEST_F(RealRun, GoodPhotosAmongBadOnesComeOutAsIfConvertedAlone) {
 }
 
 TEST_F(RealRun, AHalfPictureReplacesOnlyAnotherOfItsOwnRun) {
-    files.Cut(Text("in/cut.jpg"), files.Picture(Text("in/a.jpg"), FIF_JPEG, {300, 200}), 60);
-    files.Picture(Text("in/cut.bmp"), FIF_BMP);
+    files.Cut(Text("in/cut.jpg"), files.Picture(Text("in/a.jpg"), OutputType::Jpeg, {300, 200}),
+              60);
+    files.Picture(Text("in/cut.bmp"), OutputType::Bmp);
     const QString older = files.Text(Text("out/cut.Varnel.PNG"));
     Queue(Text("cut.jpg"));                       // the older file stays
     Queue(Text("cut.jpg"), Projection::Horizon);  // written
@@ -373,9 +375,9 @@ TEST_F(RealRun, AHalfPictureReplacesOnlyAnotherOfItsOwnRun) {
 }
 
 TEST_F(RealRun, NoPhotoOfTheQueueIsReplaced) {
-    files.Picture(Text("in/a.jpg"), FIF_JPEG);
-    files.Picture(Text("in/b.Varnel.PNG"), FIF_PNG);
-    files.Picture(Text("in/b.jpg"), FIF_JPEG);
+    files.Picture(Text("in/a.jpg"), OutputType::Jpeg);
+    files.Picture(Text("in/b.Varnel.PNG"), OutputType::Png);
+    files.Picture(Text("in/b.jpg"), OutputType::Jpeg);
     ASSERT_TRUE(QFile::link(In(Text("a.jpg")), Out(Text("a.Varnel.PNG"))));
     ASSERT_TRUE(QFile::link(In(Text("b.Varnel.PNG")), Out(Text("b.Varnel.PNG"))));
     const QByteArray before =

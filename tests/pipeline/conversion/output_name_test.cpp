@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "remap/encode/output_format.h"
 #include "tests/support/texts.h"
 
 namespace varnel {
@@ -12,26 +13,25 @@ namespace {
 
 using testing::Text;
 
-TEST(OutputType, SettingsTextsEndingsAndCodes) {
+TEST(OutputType, SettingsTextsEndingsAndAbilities) {
     struct {
         OutputType type;
         const char *text, *extension, *filter;
-        FREE_IMAGE_FORMAT format;
-        int flags, flags444;
+        bool metadata, profile, quality;
     } const rows[] = {
-        {OutputType::Tiff, "TIFF", ".TIF", "Tiff (*.TIF)", FIF_TIFF, TIFF_LZW, TIFF_LZW},
-        {OutputType::Jpeg, "JPEG", ".JPG", "Jpeg (*.JPG)", FIF_JPEG, 87, 0x10000 + 87},
-        {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", FIF_BMP, BMP_DEFAULT, BMP_DEFAULT},
-        {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", FIF_PNG, PNG_DEFAULT, PNG_DEFAULT},
+        {OutputType::Tiff, "TIFF", ".TIF", "Tiff (*.TIF)", true, true, false},
+        {OutputType::Jpeg, "JPEG", ".JPG", "Jpeg (*.JPG)", true, true, true},
+        {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", false, false, false},
+        {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", true, true, false},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(ToText(row.type), Text(row.text));
         EXPECT_EQ(OutputTypeFromText(Text(row.text)), row.type);
         EXPECT_EQ(ExtensionOf(row.type), Text(row.extension));
         EXPECT_EQ(FilterOf(row.type), Text(row.filter));
-        EXPECT_EQ(FormatOf(row.type), row.format);
-        EXPECT_EQ(SaveFlags(row.type, 87, false), row.flags);
-        EXPECT_EQ(SaveFlags(row.type, 87, true), row.flags444);
+        EXPECT_EQ(FormatOf(row.type).holds.metadata, row.metadata);
+        EXPECT_EQ(FormatOf(row.type).holds.profile, row.profile);
+        EXPECT_EQ(FormatOf(row.type).takesQuality, row.quality);
     }
     EXPECT_EQ(OutputTypeFromText(u"JPG"), OutputType::Tiff);
     EXPECT_EQ(OutputTypeByEnding(u"a.b.jpeg"), OutputType::Jpeg);

@@ -29,13 +29,13 @@ class Likenesses : public ::testing::Test {
         record.RotateY = -7.3F;
         record.GearName = Text("Gear \"ä\" <写真>");
         record.FurtherSettings = {{Text("Softness"), Text("3")}};
-        files.Picture(Text("photos/a & b.jpg"), FIF_JPEG);
+        files.Picture(Text("photos/a & b.jpg"), OutputType::Jpeg);
     }
     // A picture that was made of the record.
-    QString Result(const char* name, FREE_IMAGE_FORMAT format) {
+    QString Result(const char* name, OutputType type) {
         const BitmapHandle bitmap = testing::PositionPicture({60, 40});
         NoteSettings(bitmap.get(), record, true, files.Path(Text(name)));
-        EXPECT_TRUE(SaveBitmap(format, bitmap.get(), files.Path(Text(name)), 0));
+        EXPECT_TRUE(SaveBitmap(type, bitmap.get(), files.Path(Text(name))));
         return files.Path(Text(name));
     }
     AddedFiles Add(const QStringList& paths) {
@@ -52,12 +52,14 @@ class Likenesses : public ::testing::Test {
 TEST_F(Likenesses, ThePhotoComesWithTheSettingsOfItsPictureFromEveryType) {
     const struct {
         const char* name;
-        FREE_IMAGE_FORMAT format;
-    } cases[] = {{"results/a.JPG", FIF_JPEG}, {"results/a.tif", FIF_TIFF}, {"a.png", FIF_PNG}};
+        OutputType type;
+    } cases[] = {{"results/a.JPG", OutputType::Jpeg},
+                 {"results/a.tif", OutputType::Tiff},
+                 {"a.png", OutputType::Png}};
     record.SettingsApplied = true;
     for (const auto& c : cases) {
-        const QString other = files.Picture(Text("other.jpg"), FIF_JPEG);
-        const AddedFiles added = Add({other, Result(c.name, c.format)});
+        const QString other = files.Picture(Text("other.jpg"), OutputType::Jpeg);
+        const AddedFiles added = Add({other, Result(c.name, c.type)});
         EXPECT_EQ(added.like.keys(), QList<int>{2}) << c.name;
         EXPECT_TRUE(added.missing.isEmpty() && added.notes.isEmpty()) << c.name;
         ImageRecord expected = record;
@@ -69,7 +71,7 @@ TEST_F(Likenesses, ThePhotoComesWithTheSettingsOfItsPictureFromEveryType) {
 }
 
 TEST_F(Likenesses, APhotoThatWasMovedIsFoundBesideThePictureOrMissed) {
-    const QString result = Result("results/r.jpg", FIF_JPEG);
+    const QString result = Result("results/r.jpg", OutputType::Jpeg);
     QFile::rename(SourcePath(record), files.Path(Text("results/a & b.jpg")));
     EXPECT_EQ(Add({result}).like.keys(), QList<int>{1});
     EXPECT_EQ(images(1).Folder, files.Path(Text("results")));
@@ -104,7 +106,7 @@ TEST_F(Likenesses, TheCentreComesAsThePhotoIsTurnedNowAndGapsAreFilled) {
                          {Text("InputAOV"), Text("150")}});
         const BitmapHandle bitmap = testing::PositionPicture({60, 40});
         SetSettings(bitmap.get(), settings);
-        SaveBitmap(FIF_TIFF, bitmap.get(), picture, 0);
+        SaveBitmap(OutputType::Tiff, bitmap.get(), picture);
         ASSERT_EQ(Add({picture}).like.keys(), QList<int>{1});
         const ImageRecord& image = images(1);
         EXPECT_EQ(SourcePath(image), SourcePath(record));
@@ -121,7 +123,7 @@ TEST_F(Likenesses, AfterGivingUpTheOtherFilesAreAddedAsTheyAre) {
       public:
         bool Continue() override { return false; }
     } wait;
-    const QString result = Result("results/r.png", FIF_PNG);
+    const QString result = Result("results/r.png", OutputType::Png);
     PhotoLoader photos(testing::Reader(), &wait);
     const AddedFiles added =
         AppendFilesOrSources(images, {files.Path(Text("c.bmp")), result}, photos);

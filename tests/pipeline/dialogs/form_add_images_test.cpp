@@ -31,7 +31,7 @@ class FormAddImagesTest : public testing::DialogTest<FormAddImages> {
         root.mkpath(Text("A/empty"));
         root.mkpath(Text("B"));
         for (const char* name : {"c.txt", "b.JPG", "a.png"}) {
-            folder.Picture(Text("A/photos/") + Text(name), FIF_PNG);
+            folder.Picture(Text("A/photos/") + Text(name), OutputType::Png);
         }
         folder.Text(Text("B/x.bmp"));
         volumes = {{A(), {}, VolumeKind::Fixed}, {B(), {}, VolumeKind::Removable}};

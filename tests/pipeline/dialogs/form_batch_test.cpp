@@ -46,7 +46,7 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
     void QueuePhotos(int count) {
         for (int n = 1; n <= count; ++n) {
             const QString name = Text("%1.bmp").arg(n, 2, 10, QChar(u'0'));
-            files.Picture(Text("in/") + name, FIF_BMP);
+            files.Picture(Text("in/") + name, OutputType::Bmp);
             Queue(name);
         }
     }

@@ -30,7 +30,7 @@ using testing::Text;
 class FormStretchTest : public ::testing::Test {
   protected:
     FormStretchTest()
-        : photo(files.Picture(Text("IMG.bmp"), FIF_BMP, {200, 101})),
+        : photo(files.Picture(Text("IMG.bmp"), OutputType::Bmp, {200, 101})),
           form(
               settings, photos,
               [this](const QString& folder) {
@@ -119,7 +119,7 @@ TEST_F(FormStretchTest, OpensByButtonAndByDropAndKeepsThePhotoWhenAnotherFails) 
                                         Text(": this is not a picture of a known type")});
     EXPECT_EQ(Label("LabelFile"), Text("IMG.bmp"));
 
-    const QUrl other = QUrl::fromLocalFile(files.Picture(Text("other.png"), FIF_PNG));
+    const QUrl other = QUrl::fromLocalFile(files.Picture(Text("other.png"), OutputType::Png));
     Drop({other, other});
     Drop({QUrl(Text("https://varnel.example/a.jpg"))});
     EXPECT_EQ(Label("LabelFile"), Text("IMG.bmp"));
@@ -178,7 +178,7 @@ TEST_F(FormStretchTest, SaysWhatTheSavedFileDoesNotHold) {
         "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/' dc:source='a'/>"
         "</rdf:RDF></x:xmpmeta>";
     SetMetadata(bitmap.get(), titled);
-    ASSERT_TRUE(SaveBitmap(FIF_TIFF, bitmap.get(), photo, 0));
+    ASSERT_TRUE(SaveBitmap(OutputType::Tiff, bitmap.get(), photo));
     settings.FileType = Text("BMP");
     OpenPhoto();
     testing::Click(form, "CmdSave");
@@ -205,7 +205,7 @@ TEST_F(FormStretchTest, NeverReplacesThePhotoAndSaysWhyAFileCannotBeWritten) {
 }
 
 TEST_F(FormStretchTest, ASaveCanBeCancelledWhileItIsWritten) {
-    photo = files.Picture(Text("large.bmp"), FIF_BMP, {2000, 1500});
+    photo = files.Picture(Text("large.bmp"), OutputType::Bmp, {2000, 1500});
     OpenPhoto();
     chooser.answer = SaveChoice{files.Path(Text("out.png")), 4};
     auto& bar = The<QProgressBar>(form, "BarStretch");

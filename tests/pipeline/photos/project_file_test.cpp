@@ -62,7 +62,7 @@ RecordArray<ImageRecord> SomePhotos(const QString& folder) {
 
 TEST(ProjectFile, ComesBackBitByBitWithWhateverLineEnds) {
     const testing::PictureFolder folder;
-    folder.Picture(Text("a.bmp"), FIF_BMP);
+    folder.Picture(Text("a.bmp"), OutputType::Bmp);
     const QString here = QFileInfo(folder.Path(Text("a.bmp"))).absolutePath();
     const RecordArray<ImageRecord> images = SomePhotos(here);
     const QString path = folder.Path(Text("x.varnel"));

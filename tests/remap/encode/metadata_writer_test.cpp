@@ -117,7 +117,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAJpegFile) {
     for (const Order order : orders) {
         for (const int flags : {90, 90 | JPEG_SUBSAMPLING_444, 90 | JPEG_PROGRESSIVE}) {
             const PhotoMetadata metadata = Metadata(order);
-            const EncodedBitmap file = EncodeBitmap(FIF_JPEG, Photo(metadata).get(), flags);
+            const EncodedBitmap file = EncodeAs(FIF_JPEG, Photo(metadata).get(), flags, {});
             EXPECT_TRUE(file.note.isEmpty());
             EXPECT_EQ(file.bytes.mid(2, 2), "\xff\xe0");
             const auto segments = Segments(file.bytes);
@@ -142,7 +142,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAPngFile) {
         for (const int flags : {PNG_DEFAULT, PNG_Z_BEST_SPEED}) {
             const PhotoMetadata metadata = Metadata(order);
             const BitmapHandle photo = Photo(metadata);
-            const EncodedBitmap file = EncodeBitmap(FIF_PNG, photo.get(), flags);
+            const EncodedBitmap file = EncodeAs(FIF_PNG, photo.get(), flags, {});
             std::multimap<QByteArray, QByteArray> chunks;
             for (qsizetype at = 8; at < file.bytes.size() && !chunks.contains("IDAT");) {
                 const QByteArray type = file.bytes.mid(at + 4, 4);
@@ -177,7 +177,7 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoATiffFile) {
         const PhotoMetadata metadata = Metadata(order);
         const ExifBlock& exif = metadata.exif;
         const BitmapHandle photo = Photo(metadata);
-        const QByteArray file = EncodeBitmap(FIF_TIFF, photo.get(), TIFF_LZW).bytes;
+        const QByteArray file = EncodeBitmap(OutputType::Tiff, photo.get()).bytes;
         EXPECT_EQ(file.first(4), exif.bytes.first(4));
         EXPECT_EQ(NumberAt(file, exif.width, 4, order), 61U);
         EXPECT_EQ(NumberAt(file, exif.height, 4, order), 43U);
@@ -221,26 +221,26 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoATiffFile) {
 TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
     constexpr qsizetype segment = 65533;
     const struct {
-        FREE_IMAGE_FORMAT format;
+        OutputType type;
         void (*change)(PhotoMetadata&);
         const char16_t* note;
         bool hasSettings;
     } cases[] = {
-        {FIF_JPEG, [](PhotoMetadata& photo) { photo.exif.bytes.resize(segment - 6, '\0'); }, u"",
-         true},
-        {FIF_JPEG, [](PhotoMetadata& photo) { photo.exif.bytes.resize(segment - 5, '\0'); },
+        {OutputType::Jpeg, [](PhotoMetadata& photo) { photo.exif.bytes.resize(segment - 6, '\0'); },
+         u"", true},
+        {OutputType::Jpeg, [](PhotoMetadata& photo) { photo.exif.bytes.resize(segment - 5, '\0'); },
          u"written without its EXIF: too long for a JPEG file", true},
-        {FIF_JPEG,
+        {OutputType::Jpeg,
          [](PhotoMetadata& photo) {
              photo.exifForJpeg = photo.exif;
              photo.exif.bytes.resize(segment, '\0');
          },
          u"written without part of its EXIF: too long for a JPEG file", true},
-        {FIF_JPEG, [](PhotoMetadata& photo) { photo.iptc.resize(segment - 14 - 12 - 1, '\0'); },
-         u"", true},
-        {FIF_JPEG, [](PhotoMetadata& photo) { photo.iptc.resize(segment - 14 - 12, '\0'); },
+        {OutputType::Jpeg,
+         [](PhotoMetadata& photo) { photo.iptc.resize(segment - 14 - 12 - 1, '\0'); }, u"", true},
+        {OutputType::Jpeg, [](PhotoMetadata& photo) { photo.iptc.resize(segment - 14 - 12, '\0'); },
          u"written without its IPTC: too long for a JPEG file", true},
-        {FIF_JPEG,
+        {OutputType::Jpeg,
          [](PhotoMetadata& photo) {
              photo.xmp.resize(65400, ' ');
              photo.iptc.resize(segment, '\0');
@@ -248,15 +248,16 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
          u"written without its XMP: too long for a JPEG file; "
          u"written without its IPTC: too long for a JPEG file",
          true},
-        {FIF_PNG, [](PhotoMetadata& photo) { photo.xmp.resize(segment + 1, ' '); }, u"", true},
-        {FIF_TIFF, [](PhotoMetadata& photo) { photo.xmpPlace = 0; },
+        {OutputType::Png, [](PhotoMetadata& photo) { photo.xmp.resize(segment + 1, ' '); }, u"",
+         true},
+        {OutputType::Tiff, [](PhotoMetadata& photo) { photo.xmpPlace = 0; },
          u"written without its settings: the photo's XMP has no place for them", false},
-        {FIF_TIFF, [](PhotoMetadata& photo) { photo = {}; }, u"", true},
-        {FIF_BMP, [](PhotoMetadata&) {}, u"BMP files hold no metadata, settings or colour profile",
-         false},
-        {FIF_BMP, [](PhotoMetadata& photo) { photo = {}; },
+        {OutputType::Tiff, [](PhotoMetadata& photo) { photo = {}; }, u"", true},
+        {OutputType::Bmp, [](PhotoMetadata&) {},
+         u"BMP files hold no metadata, settings or colour profile", false},
+        {OutputType::Bmp, [](PhotoMetadata& photo) { photo = {}; },
          u"BMP files hold no settings or colour profile", false},
-        {FIF_BMP,
+        {OutputType::Bmp,
          [](PhotoMetadata& photo) {  // what every photo gets
              photo.tiffEntries = photo.tiffEntries.mid(24);
              photo.iptc.clear();
@@ -266,8 +267,7 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
     for (const auto& row : cases) {
         PhotoMetadata metadata = Metadata(Order::Big);
         row.change(metadata);
-        const EncodedBitmap file =
-            EncodeBitmap(row.format, Photo(metadata).get(), row.format == FIF_TIFF ? TIFF_LZW : 0);
+        const EncodedBitmap file = EncodeBitmap(row.type, Photo(metadata).get());
         EXPECT_EQ(ErrorText(file.note), QStringView(row.note)) << &row - cases;
         EXPECT_EQ(file.bytes.count("<varnel:A>&lt;&amp;</varnel:A>"), row.hasSettings)
             << &row - cases;
@@ -277,16 +277,16 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
 TEST(EncodeBitmap, ABmpFileThatLosesOnlyItsProfileSaysSoAndOneThatLosesNothingIsSilent) {
     const BitmapHandle photo = Photo({});
     SetSettings(photo.get(), {});
-    EXPECT_EQ(EncodeBitmap(FIF_BMP, photo.get(), 0).note, ReasonCode::BmpHoldsNoProfile);
+    EXPECT_EQ(EncodeBitmap(OutputType::Bmp, photo.get()).note, ReasonCode::BmpHoldsNoProfile);
     FreeImage_DestroyICCProfile(photo.get());
-    EXPECT_TRUE(EncodeBitmap(FIF_BMP, photo.get(), 0).note.isEmpty());
+    EXPECT_TRUE(EncodeBitmap(OutputType::Bmp, photo.get()).note.isEmpty());
 }
 
 TEST(EncodeBitmap, AProfileThatAnEncoderRefusesDoesNotCostTheMetadata) {
     const BitmapHandle photo = Photo(Metadata(Order::Little));
     QByteArray noProfile(200, 'x');
     FreeImage_CreateICCProfile(photo.get(), noProfile.data(), noProfile.size());
-    const EncodedBitmap png = EncodeBitmap(FIF_PNG, photo.get(), 0);
+    const EncodedBitmap png = EncodeBitmap(OutputType::Png, photo.get());
     EXPECT_TRUE(png.note.Is(ReasonCode::WithoutProfile));
     EXPECT_TRUE(png.bytes.startsWith("\x89PNG") && png.bytes.contains("eXIf") &&
                 png.bytes.contains(packetWithSettings));

@@ -21,10 +21,14 @@ namespace {
 TEST(SaveBitmap, EveryTypeReadsBackAndReplacesAnOlderFile) {
     const QTemporaryDir folder;
     const BitmapHandle bitmap = testing::PositionPicture({40, 30});
-    for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
+    const std::pair<OutputType, FREE_IMAGE_FORMAT> types[] = {{OutputType::Tiff, FIF_TIFF},
+                                                              {OutputType::Jpeg, FIF_JPEG},
+                                                              {OutputType::Bmp, FIF_BMP},
+                                                              {OutputType::Png, FIF_PNG}};
+    for (const auto& [type, format] : types) {
         const QString name = folder.filePath(QStringLiteral("ä %1.x").arg(format));
         testing::WriteFile(name, "older");
-        const SaveResult saved = SaveBitmap(format, bitmap.get(), name, 0);
+        const SaveResult saved = SaveBitmap(type, bitmap.get(), name);
         EXPECT_TRUE(saved.ok) << ErrorText(saved.reason).toStdString();
         const QByteArray path = QFile::encodeName(name);
         EXPECT_EQ(FreeImage_GetFileType(path.constData(), 0), format);
@@ -39,10 +43,10 @@ TEST(SaveBitmap, AFailureGivesItsReasonAndLeavesNothingBehind) {
     const QTemporaryDir folder;
     const BitmapHandle bitmap = testing::PositionPicture({4, 3});
     const SaveResult missing =
-        SaveBitmap(FIF_PNG, bitmap.get(), folder.filePath(QStringLiteral("no/such.png")), 0);
+        SaveBitmap(OutputType::Png, bitmap.get(), folder.filePath(QStringLiteral("no/such.png")));
     EXPECT_FALSE(missing.ok);
     EXPECT_FALSE(missing.reason.isEmpty());
-    EXPECT_FALSE(SaveBitmap(FIF_PNG, bitmap.get(), folder.path(), 0).ok);  // a folder
+    EXPECT_FALSE(SaveBitmap(OutputType::Png, bitmap.get(), folder.path()).ok);  // a folder
     EXPECT_TRUE(testing::NamesIn(folder.path()).isEmpty());
 }
 
@@ -51,22 +55,20 @@ TEST(SaveBitmap, AFileThatIsGivenUpLeavesTheOlderOneAsItWas) {
     const QTemporaryDir folder;
     const QString name = folder.filePath(QStringLiteral("a"));
     const BitmapHandle bitmap = testing::Noise({500, 400});
-    const std::pair<FREE_IMAGE_FORMAT, int> types[] = {
-        {FIF_TIFF, TIFF_LZW}, {FIF_JPEG, 90}, {FIF_BMP, 0}, {FIF_PNG, 0}};
     ThreadRunner runner(3);
-    for (const auto& [format, flags] : types) {
+    for (const OutputType type : allOutputTypes) {
         testing::WriteFile(name, "older");
         int before = 0;
         for (bool saved = false; !saved; ++before) {
             std::atomic<int> asked = 0;
             const StoppableFile file{name, [&] { return asked++ == before; }};
-            saved = SaveBitmap(format, bitmap.get(), file, flags, runner).ok;
-            EXPECT_EQ(testing::Contents(name) == "older", !saved) << format << ", " << before;
-            EXPECT_EQ(testing::NamesIn(folder.path()).size(), 1) << format << ", " << before;
+            saved = SaveBitmap(type, bitmap.get(), file, runner).ok;
+            EXPECT_EQ(testing::Contents(name) == "older", !saved) << int(type) << ", " << before;
+            EXPECT_EQ(testing::NamesIn(folder.path()).size(), 1) << int(type) << ", " << before;
             ASSERT_EQ(asked > before, !saved);
         }
-        EXPECT_GE(before, 5) << format;
-        EXPECT_EQ(testing::Contents(name), EncodeBitmap(format, bitmap.get(), flags).bytes);
+        EXPECT_GE(before, 5) << int(type);
+        EXPECT_EQ(testing::Contents(name), EncodeBitmap(type, bitmap.get()).bytes);
     }
 }
 
@@ -108,10 +110,10 @@ TEST(DropMetadata, LeavesNothingButProfileResolutionAndSettings) {
 }
 
 TEST(EncodeBitmap, WhatCannotBeEncodedHasAReason) {
-    EXPECT_FALSE(EncodeBitmap(FIF_PNG, nullptr, 0).reason.isEmpty());
+    EXPECT_FALSE(EncodeBitmap(OutputType::Png, nullptr).reason.isEmpty());
     const BitmapHandle numbers(FreeImage_AllocateT(FIT_DOUBLE, 4, 3, 64, 0, 0, 0));
-    EXPECT_FALSE(EncodeBitmap(FIF_JPEG, numbers.get(), 0).reason.isEmpty());
-    EXPECT_FALSE(EncodeBitmap(FIF_UNKNOWN, numbers.get(), 0).reason.isEmpty());
+    EXPECT_FALSE(EncodeBitmap(OutputType::Jpeg, numbers.get()).reason.isEmpty());
+    EXPECT_FALSE(EncodeBitmap(OutputType::Png, numbers.get()).reason.isEmpty());
 }
 
 }  // namespace

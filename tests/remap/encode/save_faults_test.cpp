@@ -38,19 +38,17 @@ constexpr int page = 4096;  // what a small file system counts in
 
 struct Type {
     const char* name;
-    FREE_IMAGE_FORMAT format;
-    int flags;
+    OutputEncoding encoding;
 };
 
 class SaveFaults : public ::testing::TestWithParam<Type> {
   protected:
     SaveResult Save(const QString& path) const {
-        return SaveBitmap(GetParam().format, picture_.get(), path, GetParam().flags);
+        return SaveBitmap(GetParam().encoding, picture_.get(), path);
     }
     // Noise, so that every type makes a file of many pages.
     const BitmapHandle picture_ = testing::Noise({420, 320});
-    const QByteArray whole_ =
-        EncodeBitmap(GetParam().format, picture_.get(), GetParam().flags).bytes;
+    const QByteArray whole_ = EncodeBitmap(GetParam().encoding, picture_.get()).bytes;
     const QByteArray older_ = QByteArray(3 * page, 'o');
 };
 
@@ -206,9 +204,10 @@ TEST_P(SaveFaults, AKilledProgramLeavesTheOlderOrTheNewFile) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, SaveFaults,
-                         ::testing::Values(Type{"Tiff", FIF_TIFF, TIFF_LZW},
-                                           Type{"Jpeg", FIF_JPEG, 100}, Type{"Bmp", FIF_BMP, 0},
-                                           Type{"Png", FIF_PNG, 0}),
+                         ::testing::Values(Type{"Tiff", OutputType::Tiff},
+                                           Type{"Jpeg", {OutputType::Jpeg, 100}},
+                                           Type{"Bmp", OutputType::Bmp},
+                                           Type{"Png", OutputType::Png}),
                          [](const auto& type) { return std::string(type.param.name); });
 
 }  // namespace

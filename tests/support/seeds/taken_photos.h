@@ -20,7 +20,7 @@ inline QString TakenByNikon(const PictureFolder& folder, const QString& name, co
     const std::uint32_t first = tiff.Directory({{271, Text, {}, text("NIKON CORPORATION")},
                                                 {272, Text, {}, text(model)},
                                                 {0x8769, Long, {exif}}});
-    const QString photo = folder.Picture(name, FIF_JPEG);
+    const QString photo = folder.Picture(name, OutputType::Jpeg);
     const QByteArray block = QByteArray("Exif\0\0", 6) + tiff.Finish(first);
     WriteFile(photo, Contents(photo).insert(2, JpegSegment(0xE1, block)));
     return photo;

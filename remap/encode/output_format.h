@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The table of the file types that Varnel writes. Another type is a row here, its encoder and its
+// tests: settings, dialogs, names and the command line read the table. Throws nothing.
+#pragma once
+
+#include "remap/encode/encode_bitmap.h"
+#include "remap/encode/output_type.h"
+
+namespace varnel {
+
+// What files of a type can hold besides the pixels of a photo.
+struct OutputAbilities {
+    int bitsPerSample = 8;  // at most
+    bool alpha = false;
+    bool metadata = false;  // the photo's, and the settings that made the picture
+    bool profile = false;   // ICC
+};
+
+struct OutputFormat {
+    OutputType type;
+    const char16_t* key;      // the setting's text, and in any case the command line's
+    const char16_t* name;     // in the save dialog
+    const char16_t* ending;   // with its dot, as it is written
+    const char16_t* synonym;  // another ending by which the type is known
+    OutputAbilities holds;
+    bool takesQuality;  // and colour at full resolution
+    // Of a file to be expected. Measured with converted photos of foliage, which need two to four
+    // times what indoor ones do.
+    double (*bytesPerPixel)(const OutputEncoding&);
+    EncodedBitmap (*encode)(FIBITMAP*, const OutputEncoding&, const EncodeOptions&);
+};
+
+const OutputFormat& FormatOf(OutputType type);
+
+}  // namespace varnel

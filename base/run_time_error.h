@@ -16,8 +16,8 @@ namespace varnel {
 // The name of a number: that of a record's field, a text that outlives every error, or the code of
 // words that are translated.
 struct ValueName {
-    ValueName(const char* itsField) : field(itsField) {}
-    ValueName(ReasonCode itsWords) : words(itsWords) {}
+    constexpr ValueName(const char* itsField) : field(itsField) {}
+    constexpr ValueName(ReasonCode itsWords) : words(itsWords) {}
 
     const char* field = "";
     ReasonCode words = ReasonCode::None;

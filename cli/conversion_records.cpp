@@ -10,6 +10,7 @@
 #include "cli/like_picture.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/conversion/output_name.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"
 #include "state/adjustments/picture_settings.h"
 #include "state/adjustments/record_fields.h"

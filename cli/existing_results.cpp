@@ -7,6 +7,7 @@
 
 #include "base/run_time_error.h"
 #include "cli/report/failure_text.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 

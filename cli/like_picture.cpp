@@ -5,6 +5,7 @@
 
 #include "base/error_text.h"
 #include "pipeline/conversion/settings_from_picture.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 

@@ -343,54 +343,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Namenszusätze</translation>
     </message>
     <message>
-        <source>&amp;Varnel</source>
-        <translation>&amp;Varnel</translation>
-    </message>
-    <message>
-        <source>What follows the photo&apos;s own name in the names of Varnel images; empty: the word Varnel</source>
-        <translation>Was in den Namen der Varnel-Bilder auf den Namen des Fotos folgt; leer: das Wort Varnel</translation>
-    </message>
-    <message>
-        <source>Name addition for Varnel</source>
-        <translation>Namenszusatz für Varnel</translation>
-    </message>
-    <message>
-        <source>&amp;Rectilinear</source>
-        <translation>&amp;Rectilinear</translation>
-    </message>
-    <message>
-        <source>What follows the photo&apos;s own name in the names of Rectilinear images; empty: the word Rectilinear</source>
-        <translation>Was in den Namen der Rectilinear-Bilder auf den Namen des Fotos folgt; leer: das Wort Rectilinear</translation>
-    </message>
-    <message>
-        <source>Name addition for Rectilinear</source>
-        <translation>Namenszusatz für Rectilinear</translation>
-    </message>
-    <message>
-        <source>&amp;Equidistance</source>
-        <translation>&amp;Equidistance</translation>
-    </message>
-    <message>
-        <source>What follows the photo&apos;s own name in the names of Equidistance images; empty: the word Equidistance</source>
-        <translation>Was in den Namen der Equidistance-Bilder auf den Namen des Fotos folgt; leer: das Wort Equidistance</translation>
-    </message>
-    <message>
-        <source>Name addition for Equidistance</source>
-        <translation>Namenszusatz für Equidistance</translation>
-    </message>
-    <message>
-        <source>&amp;Horizon</source>
-        <translation>&amp;Horizon</translation>
-    </message>
-    <message>
-        <source>What follows the photo&apos;s own name in the names of Horizon images; empty: the word Horizon</source>
-        <translation>Was in den Namen der Horizon-Bilder auf den Namen des Fotos folgt; leer: das Wort Horizon</translation>
-    </message>
-    <message>
-        <source>Name addition for Horizon</source>
-        <translation>Namenszusatz für Horizon</translation>
-    </message>
-    <message>
         <source>What the first image of the queue will be called</source>
         <translation>Wie das erste Bild des Stapels heißen wird</translation>
     </message>
@@ -1270,6 +1222,25 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>it is too large</source>
         <translation>es ist zu groß</translation>
+    </message>
+</context>
+<context>
+    <name>Projections</name>
+    <message>
+        <source>Stretches every row of the circle sideways to the full width; no row moves up or down</source>
+        <translation>Streckt jede Zeile des Bildkreises seitwärts auf die volle Breite; keine Zeile rückt nach oben oder unten</translation>
+    </message>
+    <message>
+        <source>Straight lines of the scene come out straight</source>
+        <translation>Gerade Linien der Szene bleiben gerade</translation>
+    </message>
+    <message>
+        <source>A fisheye in which equal angles take equal room</source>
+        <translation>Ein Fisheye, in dem gleiche Winkel gleich viel Platz haben</translation>
+    </message>
+    <message>
+        <source>Unrolls a circle shot straight up or down into a panorama</source>
+        <translation>Rollt einen senkrecht nach oben oder unten aufgenommenen Kreis zum Panorama ab</translation>
     </message>
 </context>
 <context>
@@ -2175,18 +2146,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Umwandeln</translation>
     </message>
     <message>
-        <source>Straight lines of the scene come out straight</source>
-        <translation>Gerade Linien der Szene bleiben gerade</translation>
-    </message>
-    <message>
-        <source>A fisheye in which equal angles take equal room</source>
-        <translation>Ein Fisheye, in dem gleiche Winkel gleich viel Platz haben</translation>
-    </message>
-    <message>
-        <source>Unrolls a circle shot straight up or down into a panorama</source>
-        <translation>Rollt einen senkrecht nach oben oder unten aufgenommenen Kreis zum Panorama ab</translation>
-    </message>
-    <message>
         <source>Apply to all</source>
         <translation>Für alle</translation>
     </message>
@@ -2217,10 +2176,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Draws the preview now</source>
         <translation>Zeichnet die Vorschau jetzt</translation>
-    </message>
-    <message>
-        <source>Stretches every row of the circle sideways to the full width; no row moves up or down</source>
-        <translation>Streckt jede Zeile des Bildkreises seitwärts auf die volle Breite; keine Zeile rückt nach oben oder unten</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2390,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 </context>
 <context>
     <name>varnel::FormBatch</name>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %1</source>
+        <translation>Was in den Namen der %1-Bilder auf den Namen des Fotos folgt; leer: das Wort %1</translation>
+    </message>
+    <message>
+        <source>Name addition for %1</source>
+        <translation>Namenszusatz für %1</translation>
+    </message>
     <message>
         <source>1 queued image</source>
         <translation>1 Bild im Stapel</translation>

@@ -7,6 +7,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 AdjustmentPanel::AdjustmentPanel(QWidget* parent)
@@ -26,36 +28,29 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent)
     remapColumn->addWidget(MakePreviewChoices(remap));
     AddRow(remapColumn, SliderId::AovOutput);
     AddRow(remapColumn, SliderId::Effect);
-    AddGroupLabel(remapColumn, "LabelRotate1", GroupName(SliderId::X));
+    AddGroupLabel(remapColumn, "LabelRotate1", SliderId::X);
     AddRow(remapColumn, SliderId::X);
     AddRow(remapColumn, SliderId::Y);
     AddRow(remapColumn, SliderId::Z);
-    AddGroupLabel(remapColumn, "LabelTranslate1", GroupName(SliderId::XTranslate));
+    AddGroupLabel(remapColumn, "LabelTranslate1", SliderId::XTranslate);
     AddRow(remapColumn, SliderId::XTranslate);
     AddRow(remapColumn, SliderId::YTranslate);
     AddRow(equipmentColumn, SliderId::AovInput);
 
     column->addWidget(remap);
     column->addWidget(equipment);
-    ShowFor(Projection::Varnel);
+    ShowFor(AllProjections().front());
 }
 
 QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
-    static const std::array tips{
-        QT_TR_NOOP(
-            "Stretches every row of the circle sideways to the full width; no row moves up or "
-            "down"),
-        QT_TR_NOOP("Straight lines of the scene come out straight"),
-        QT_TR_NOOP("A fisheye in which equal angles take equal room"),
-        QT_TR_NOOP("Unrolls a circle shot straight up or down into a panorama")};
     auto* const box = new QWidget(remap);
     auto* const grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         const int index = static_cast<int>(projection);
         auto* const button = new QRadioButton(ToText(projection), box);
         button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
-        button->setToolTip(tr(tips[static_cast<std::size_t>(index)]));
+        button->setToolTip(TipOf(projection));
         projections_->addButton(button, index);
         grid->addWidget(button, index / 2, index % 2);
     }
@@ -66,7 +61,7 @@ QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     // The gear has a button of the same text.
     applyToAll_->setAccessibleName(
         QStringLiteral("%1: %2").arg(remap->title(), applyToAll_->text()));
-    grid->addWidget(applyToAll_, 0, 2, 2, 1);
+    grid->addWidget(applyToAll_, 0, 2, grid->rowCount(), 1);
     return box;
 }
 
@@ -101,14 +96,14 @@ void AdjustmentPanel::AddRow(QLayout* layout, SliderId id) {
     }
 }
 
-void AdjustmentPanel::AddGroupLabel(QLayout* layout, const char* name, const QString& text) {
-    auto* const label = new QLabel(text, this);
+void AdjustmentPanel::AddGroupLabel(QLayout* layout, const char* name, SliderId first) {
+    auto* const label = new QLabel(GroupName(first), this);
     label->setObjectName(QString::fromLatin1(name));
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
     layout->addWidget(label);
-    groupLabels_.push_back(label);
+    groupLabels_.emplace_back(label, first);
 }
 
 SliderRow* AdjustmentPanel::Row(SliderId id) const {
@@ -150,10 +145,11 @@ void AdjustmentPanel::ShowEffect(int percent) {
 
 void AdjustmentPanel::ShowFor(Projection projection) {
     for (SliderRow* const row : rows_) {
+        row->SetRange(RangeOf(row->Data().id, projection));
         row->SetShown(ShownWith(row->Data(), projection));
     }
-    for (QLabel* const label : groupLabels_) {
-        label->setVisible(projection == Projection::Rectilinear);
+    for (const auto& [label, first] : groupLabels_) {
+        label->setVisible(ShownWith(SliderRowOf(first), projection));
     }
 }
 

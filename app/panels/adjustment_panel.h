@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "app/panels/slider_row.h"
@@ -40,7 +41,7 @@ class AdjustmentPanel : public QWidget {
     QWidget* MakeProjections(QGroupBox* remap);
     QWidget* MakePreviewChoices(QWidget* parent);
     void AddRow(QLayout* layout, SliderId id);
-    void AddGroupLabel(QLayout* layout, const char* name, const QString& text);
+    void AddGroupLabel(QLayout* layout, const char* name, SliderId first);
 
     QButtonGroup* projections_;
     QCheckBox* autoPreview_ = nullptr;
@@ -48,7 +49,8 @@ class AdjustmentPanel : public QWidget {
     QPushButton* preview_ = nullptr;
     QPushButton* applyToAll_ = nullptr;
     std::array<SliderRow*, 8> rows_{};
-    std::vector<QLabel*> groupLabels_;  // headings of the rotation and shift sliders
+    // Headings of the rotation and shift sliders, each with its first slider.
+    std::vector<std::pair<QLabel*, SliderId>> groupLabels_;
 };
 
 }  // namespace varnel

@@ -81,6 +81,16 @@ void SliderRow::Show(int value) {
     silent_ = false;
 }
 
+void SliderRow::SetRange(const ControlRange& range) {
+    if (slider_->minimum() == range.minimum && slider_->maximum() == range.maximum) {
+        return;
+    }
+    silent_ = true;
+    slider_->setRange(range.minimum, range.maximum);
+    spinBox_->setRange(range.minimum, range.maximum);
+    silent_ = false;
+}
+
 void SliderRow::SetShown(bool shown) {
     for (QWidget* const control : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         control->setVisible(shown);

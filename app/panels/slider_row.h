@@ -23,6 +23,8 @@ class SliderRow : public QWidget {
     int Value() const { return slider_->value(); }
     // Sets slider, spin box and caption without a word to anybody.
     void Show(int value);
+    // Quiet as Show; a value outside moves to the nearest end.
+    void SetRange(const ControlRange& range);
     // Shows or hides the row and each of its controls.
     void SetShown(bool shown);
 

@@ -6,6 +6,8 @@
 #include <QPolygonF>
 #include <cmath>
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 namespace {

@@ -7,6 +7,7 @@
 
 #include "app/panels/menu_entry.h"
 #include "base/run_time_error.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 

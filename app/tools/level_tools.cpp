@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 namespace {
@@ -24,17 +26,13 @@ QString Hint() {
         "Escape leaves.");
 }
 
-const SliderRowData& RowOf(SliderId id) {
-    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
-}
-
 int Whole(double degrees) {
     return static_cast<int>(std::lround(degrees));
 }
 
 QString BeyondText(SliderId id, double value, double beyond) {
     return Texts::tr("it takes %1, %2° more than the slider has")
-        .arg(SliderCaption(RowOf(id), Whole(value)))
+        .arg(SliderCaption(SliderRowOf(id), Whole(value)))
         .arg(std::fabs(beyond), 0, 'f', 0);
 }
 
@@ -68,7 +66,7 @@ QString LevelText(const Levelling& level) {
     for (const auto& [id, angle] :
          {std::pair(SliderId::X, level.rotateX), std::pair(SliderId::Z, level.rotateZ)}) {
         if (Whole(angle) != 0) {
-            turns.append(SliderCaption(RowOf(id), Whole(angle)));
+            turns.append(SliderCaption(SliderRowOf(id), Whole(angle)));
         }
     }
     return turns.isEmpty() ? Texts::tr("The horizon is level already.")
@@ -96,7 +94,7 @@ LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView
 }
 
 void LevelTools::OnToggled(bool on) {
-    if (on && view_.ChosenProjection() != Projection::Rectilinear) {
+    if (on && !InfoOf(view_.ChosenProjection()).levels) {
         view_.ShowStatus(
             tr("Only Rectilinear can be levelled; the others do not turn the camera."));
         Leave();
@@ -121,7 +119,7 @@ void LevelTools::Level() {
     if (image == nullptr || photo == nullptr || workspace_.Busy() || view_.Locked()) {
         return;
     }
-    if (view_.ChosenProjection() != Projection::Rectilinear) {
+    if (!InfoOf(view_.ChosenProjection()).levels) {
         view_.ShowStatus(
             tr("Only Rectilinear can be levelled; the others do not turn the camera."));
         return;

@@ -12,6 +12,7 @@
 #include "app/window/main_window.h"
 #include "base/rounding.h"
 #include "remap/image/preview_size.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
@@ -58,7 +59,7 @@ void MDIForm1::ConnectControls() {
         });
     };
     shortcut(QKeySequence(Qt::Key_F5), [this] { parts_.adjustments->PreviewButton()->click(); });
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         const int index = static_cast<int>(projection);
         shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)),
                  [this, index] { parts_.adjustments->Projections()->button(index)->click(); });

@@ -72,7 +72,7 @@ QString HelpText() {
             if (row.value != nullptr) {
                 name += QStringLiteral(" <%1>").arg(OptionText(row.value));
             }
-            text += Wrapped(OptionText(row.help), name);
+            text += Wrapped(HelpOf(row), name);
         }
     }
     return text + OptionText(foot);

@@ -3,6 +3,8 @@
 
 #include "cli/options/option_list.h"
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 namespace {
@@ -26,8 +28,7 @@ constexpr std::array gearRows{
 };
 
 constexpr std::array viewRows{
-    OptionRow{u"projection", u"NAME",
-              u"varnel, rectilinear, equidistance, horizon or all; default: varnel."},
+    OptionRow{u"projection", u"NAME", u"%1 or all; default: varnel."},
     OptionRow{u"output-aov", u"D", u"Angle of view of the output, degrees (rectilinear)."},
     OptionRow{u"input-aov", u"D", u"Angle of view of the lens, degrees (equidistance)."},
     OptionRow{u"effect", u"P", u"Strength of the projection, percent (0.1 to 100)."},
@@ -97,6 +98,18 @@ constexpr std::array numberOptions{
 };
 
 }  // namespace
+
+QString ProjectionNames() {
+    QStringList names;
+    for (const Projection projection : AllProjections()) {
+        names.append(ToText(projection).toLower());
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+QString HelpOf(const OptionRow& row) {
+    return OptionText(row.help).replace(QStringLiteral("%1"), ProjectionNames());
+}
 
 std::span<const OptionGroup> OptionGroups() {
     return groups;

@@ -15,7 +15,7 @@ namespace varnel {
 struct OptionRow {
     const char16_t* name;
     const char16_t* value;  // what is to be given; null: the option takes nothing
-    const char16_t* help;
+    const char16_t* help;   // see HelpOf
 };
 
 struct OptionGroup {
@@ -24,6 +24,11 @@ struct OptionGroup {
 };
 
 std::span<const OptionGroup> OptionGroups();
+
+// "varnel, rectilinear, ...".
+QString ProjectionNames();
+// The help with the projections' names in the place of "%1".
+QString HelpOf(const OptionRow& row);
 
 // Without its dashes; null when there is none.
 const OptionRow* FindOption(QStringView name);

@@ -6,7 +6,9 @@
 #include <cmath>
 
 #include "cli/options/nearest.h"
+#include "cli/options/option_list.h"
 #include "pipeline/conversion/morph_sequence.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
 
 namespace varnel {
@@ -45,14 +47,13 @@ float NumberOf(const QString& option, const QString& text) {
 
 std::vector<Projection> ProjectionsOf(const QString& text) {
     if (text.compare(u"all", Qt::CaseInsensitive) == 0) {
-        return {allProjections.begin(), allProjections.end()};
+        return AllProjections();
     }
     if (const auto projection = ProjectionFromText(text)) {
         return {*projection};
     }
-    throw UsageError{QStringLiteral("unknown projection \"%1\"; use varnel, rectilinear, "
-                                    "equidistance, horizon or all")
-                         .arg(text)};
+    throw UsageError{
+        QStringLiteral("unknown projection \"%1\"; use %2 or all").arg(text, ProjectionNames())};
 }
 
 CatalogueName CatalogueNameOf(const QString& option, const QString& text) {

@@ -12,6 +12,7 @@
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
 #include "pipeline/conversion/morph_sequence.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
 
 namespace varnel {

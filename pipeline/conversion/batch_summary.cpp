@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "base/error_text.h"
+#include "remap/projection/projection_info.h"
 #include "state/records/projection.h"
 
 namespace varnel {

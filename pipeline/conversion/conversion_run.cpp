@@ -12,6 +12,7 @@
 #include "pipeline/conversion/save_worker.h"
 #include "remap/image/photo_metadata.h"
 #include "remap/image/preview_size.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/picture_settings.h"
 
 namespace varnel {

@@ -9,6 +9,7 @@
 #include <array>
 
 #include "base/run_time_error.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 

@@ -4,6 +4,7 @@
 #include "pipeline/conversion/output_name.h"
 
 #include "base/rounding.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 
@@ -13,19 +14,13 @@ QString Whole(float value, ValueName name) {
     return QString::number(CLng(static_cast<double>(value), name));
 }
 
-// The last three characters of "00" and the number.
-QString Padded(float value, ValueName name) {
-    return (QStringLiteral("00") + Whole(value, name)).right(3);
-}
-
-QString EffectTag(float effect) {
-    return effect == 100.0F ? QString()
-                            : QStringLiteral("_Eff") + Padded(effect, ReasonCode::Effect);
-}
-
-QString TurnTag(const char16_t* tag, float degrees) {
-    return degrees == 0.0F ? QString()
-                           : QString::fromUtf16(tag) + Whole(degrees, ReasonCode::RotationAngle);
+QString TagText(const NameTag& tag, float value) {
+    if (value == tag.silent) {
+        return {};
+    }
+    const QString number = Whole(value, tag.name);
+    return QString::fromUtf16(tag.text) +
+           (tag.digits == 0 ? number : (QString(tag.digits - 1, u'0') + number).right(tag.digits));
 }
 
 // Of a name or of a path, whose folders stay as they are.
@@ -49,23 +44,16 @@ QString ProposedName(const QString& sourcePath, Projection projection) {
 }
 
 QString NameAdditions::For(Projection projection) const {
-    const QString& text = texts[static_cast<std::size_t>(projection)];
-    return text.isEmpty() ? ToText(projection) : text;
+    const auto text = texts.find(projection);
+    return text == texts.end() || text->second.isEmpty() ? ToText(projection) : text->second;
 }
 
 QString SettingsTags(const ImageRecord& image) {
-    switch (ProjectionFromIndex(image.Projection)) {
-        case Projection::Varnel:
-            return EffectTag(image.EffectVarnel);
-        case Projection::Rectilinear:
-            return QStringLiteral("_hAOV") + Padded(image.OutputAOV, "OutputAOV") +
-                   EffectTag(image.EffectRectilinear) + TurnTag(u"_LR", image.RotateY) +
-                   TurnTag(u"_UD", image.RotateX) + TurnTag(u"_Zr", image.RotateZ);
-        case Projection::Equidistance:
-        case Projection::Horizon:
-            break;
+    QString tags;
+    for (const NameTag& tag : InfoOf(ProjectionFromIndex(image.Projection)).tags) {
+        tags += TagText(tag, image.*tag.field);
     }
-    return {};
+    return tags;
 }
 
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,

@@ -5,7 +5,7 @@
 #pragma once
 
 #include <QString>
-#include <array>
+#include <map>
 
 #include "remap/encode/output_type.h"
 #include "state/records/image_record.h"
@@ -25,15 +25,16 @@ QString ProposedName(const QString& sourcePath, const QString& addition,
 // With the projection's name.
 QString ProposedName(const QString& sourcePath, Projection projection);
 
-// What the batch adds to a name for each projection; an empty text means the projection's own name.
+// What the batch adds to a name for each projection; none or an empty text means the projection's
+// own name.
 struct NameAdditions {
-    std::array<QString, allProjections.size()> texts;
+    std::map<Projection, QString> texts;
     QString For(Projection projection) const;
 };
 
-// The tags that tell the settings of a batch entry, "_hAOV095_Eff080_LR-5" for example; empty for
-// Equidistance and Horizon. Numbers are rounded, ties to even; angle of view and effect are padded
-// to three digits.
+// The tags that tell the settings of a batch entry, "_hAOV095_Eff080_LR-5" for example; empty for a
+// projection without any. Numbers are rounded, ties to even; angle of view and effect are padded to
+// three digits. Throws OverflowError.
 QString SettingsTags(const ImageRecord& image);
 
 // The full path of a batch entry's file in a folder: file name with its ending treated so,

@@ -6,10 +6,11 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QRegularExpressionValidator>
 #include <QScopeGuard>
 #include <QThread>
-#include <array>
 
 #include "base/run_time_error.h"
 #include "base/shortage.h"
@@ -18,18 +19,13 @@
 #include "pipeline/dialogs/queue_model.h"
 #include "pipeline/dialogs/slider_binding.h"
 #include "remap/encode/output_format.h"
+#include "remap/projection/projection_info.h"
 #include "state/settings/default_choices.h"
 #include "ui_form_batch.h"
 
 namespace varnel {
 
 namespace {
-
-// In the order of the projections.
-std::array<QLineEdit*, allProjections.size()> AdditionsOf(const Ui::FormBatch& ui) {
-    return {ui.TextFileadditionVarnel, ui.TextFileadditionRectilinear,
-            ui.TextFileadditionEquidistance, ui.TextFileadditionHorizon};
-}
 
 // Its room stays, so that nothing moves when it appears.
 void KeepRoomOf(QWidget* widget) {
@@ -103,16 +99,42 @@ void FormBatch::FillChoices() {
     ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
     ui_->SliderJPEGcompression->setValue(first ? settings_.JPEGcompression : choices_.jpegQuality);
     Bind(*ui_->SliderJPEGcompression, *ui_->SpinSliderJPEGcompression);
-    const auto boxes = AdditionsOf(*ui_);
+    AddNameAdditions();
+}
+
+// A row for each projection, above the example.
+void FormBatch::AddNameAdditions() {
     // A folder in an addition would send the file elsewhere; the rest has no place in the names of
     // memory cards.
     auto* const plain = new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral(R"([^/\\:*?"<>|]*)")), this);
-    for (std::size_t n = 0; n < boxes.size(); ++n) {
-        boxes[n]->setPlaceholderText(ToText(allProjections[n]));
-        boxes[n]->setText(choices_.additions.texts[n]);
-        boxes[n]->setValidator(plain);
+    QGridLayout& grid = *ui_->LayoutAdditions;
+    grid.removeWidget(ui_->LabelExample);
+    QWidget* before = ui_->SpinSliderJPEGcompression;
+    int gridRow = 0;
+    for (const Projection projection : AllProjections()) {
+        const QString name = ToText(projection);
+        auto* const box = new QLineEdit(ui_->FrameAdditions);
+        box->setObjectName(QStringLiteral("TextFileaddition") + name);
+        box->setToolTip(tr("What follows the photo's own name in the names of %1 images; empty: "
+                           "the word %1")
+                            .arg(name));
+        box->setAccessibleName(tr("Name addition for %1").arg(name));
+        box->setMinimumWidth(120);
+        box->setPlaceholderText(name);
+        box->setText(choices_.additions.texts[projection]);
+        box->setValidator(plain);
+        auto* const heading = new QLabel(u'&' + name, ui_->FrameAdditions);
+        heading->setObjectName(QStringLiteral("Heading") + box->objectName());
+        heading->setBuddy(box);
+        grid.addWidget(heading, gridRow, 0);
+        grid.addWidget(box, gridRow++, 1);
+        setTabOrder(before, box);
+        before = box;
+        additions_[projection] = box;
     }
+    grid.addWidget(ui_->LabelExample, gridRow, 0, 1, 2);
+    setTabOrder(before, ui_->CmdStop);
 }
 
 void FormBatch::ConnectControls() {
@@ -121,7 +143,7 @@ void FormBatch::ConnectControls() {
         connect(ui_->ComboFileType, &QComboBox::currentIndexChanged, this, show);
     }
     connect(ui_->SliderJPEGcompression, &QSlider::valueChanged, this, &FormBatch::ShowSpace);
-    for (QLineEdit* const box : AdditionsOf(*ui_)) {
+    for (const auto& [projection, box] : additions_) {
         connect(box, &QLineEdit::textChanged, this, &FormBatch::ShowNames);
     }
     ui_->Drive2->installEventFilter(this);
@@ -157,9 +179,8 @@ BatchChoices FormBatch::Choices() const {
                          settings_.JPEGchroma444,
                          settings_.WriteMetadata,
                          settings_.WriteSettings};
-    const auto boxes = AdditionsOf(*ui_);
-    for (std::size_t n = 0; n < boxes.size(); ++n) {
-        choices.additions.texts[n] = boxes[n]->text();
+    for (const auto& [projection, box] : additions_) {
+        choices.additions.texts[projection] = box->text();
     }
     return choices;
 }

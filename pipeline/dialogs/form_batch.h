@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <functional>
+#include <map>
 #include <memory>
 
 #include "pipeline/conversion/batch_run.h"
@@ -16,6 +17,8 @@
 namespace Ui {
 class FormBatch;
 }
+
+class QLineEdit;
 
 namespace varnel {
 
@@ -48,6 +51,7 @@ class FormBatch : public QDialog {
 
   private:
     void FillChoices();
+    void AddNameAdditions();
     void ConnectControls();
     QString StartFolder() const;
     BatchChoices Choices() const;
@@ -74,6 +78,7 @@ class FormBatch : public QDialog {
     std::unique_ptr<QueueModel> lines_;
     std::unique_ptr<FolderChooser> place_;
     std::unique_ptr<BatchProgress> progress_;
+    std::map<Projection, QLineEdit*> additions_;
 };
 
 }  // namespace varnel

@@ -44,10 +44,6 @@ constexpr std::array pairs{
     Pair{SliderId::YTranslate, &MorphValues::TranslateY},
 };
 
-const SliderRowData& DataOf(SliderId id) {
-    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
-}
-
 // As on the main window, but here the shifts read in degrees while they are 0, too.
 QString MorphCaption(const SliderRowData& facts, int value) {
     return value == 0 && facts.zero != nullptr ? QStringLiteral("0°") : SliderCaption(facts, value);
@@ -58,18 +54,18 @@ QString Translated(const char* text) {
 }
 
 // Where a slider stands for a value, rounded as on the main window.
-int PlaceOf(const SliderRowData& facts, float value) {
+int PlaceOf(const SliderRowData& facts, const ControlRange& range, float value) {
     const double number = std::isnan(value) ? 0.0 : static_cast<double>(value);
-    return CLng(std::clamp<double>(number, facts.minimum, facts.maximum), facts.slider);
+    return CLng(std::clamp<double>(number, range.minimum, range.maximum), facts.slider);
 }
 
 QString HeadingName(const SliderRowData& facts) {
     return QStringLiteral("Heading") + QLatin1StringView(facts.slider);
 }
 
-QSlider* MakeSlider(const SliderRowData& facts, QWidget* parent) {
+QSlider* MakeSlider(const SliderRowData& facts, const ControlRange& range, QWidget* parent) {
     auto* const slider = new QSlider(Qt::Horizontal, parent);
-    slider->setRange(facts.minimum, facts.maximum);
+    slider->setRange(range.minimum, range.maximum);
     slider->setSingleStep(facts.smallChange);
     slider->setPageStep(facts.largeChange);
     slider->setTickInterval(facts.tickInterval);
@@ -129,7 +125,7 @@ void FormMorph::BuildPairs() {
         if (pair.id == SliderId::X || pair.id == SliderId::XTranslate) {
             AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
         }
-        AddPair(DataOf(pair.id), pair.value, gridRow++);
+        AddPair(SliderRowOf(pair.id), pair.value, gridRow++);
     }
     QWidget* before = ui_->SliderScrub;
     const auto controls = ui_->FramePairs->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
@@ -159,13 +155,14 @@ void FormMorph::AddPair(const SliderRowData& facts, float MorphValues::*value, i
 QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture picture,
                            float& value) {
     const QString end = picture == First ? QStringLiteral("Start") : QStringLiteral("End");
-    QSlider* const slider = MakeSlider(facts, ui_->FramePairs);
+    const ControlRange range = RangeOf(facts.id, ItsProjection());
+    QSlider* const slider = MakeSlider(facts, range, ui_->FramePairs);
     slider->setObjectName(QLatin1StringView(facts.slider) + end);
     slider->setAccessibleName(
         (picture == First ? tr("%1 at the start") : tr("%1 at the end")).arg(SpokenName(facts)));
     // The sequence keeps what the photo has, fractions and all, until the slider is moved.
     const bool unknown = facts.id == SliderId::Effect && !Reads(ItsProjection(), facts.id);
-    const int shown = unknown ? facts.start : PlaceOf(facts, value);
+    const int shown = unknown ? facts.start : PlaceOf(facts, range, value);
     slider->setValue(shown);
     auto* const spinBox = new QSpinBox(ui_->FramePairs);
     spinBox->setObjectName(QStringLiteral("Spin") + slider->objectName());
@@ -187,7 +184,7 @@ QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture 
 void FormMorph::MarkUnused() {
     bool any = false;
     for (const Pair& pair : pairs) {
-        const SliderRowData& facts = DataOf(pair.id);
+        const SliderRowData& facts = SliderRowOf(pair.id);
         if (!Reads(ItsProjection(), facts.id)) {
             auto* const heading = findChild<QLabel*>(HeadingName(facts));
             heading->setText(heading->text() + QStringLiteral(" *"));

@@ -17,6 +17,7 @@
 #include "base/thread_runner.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "remap/image/bitmap.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/slider_table.h"
 
 namespace Ui {

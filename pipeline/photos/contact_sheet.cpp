@@ -14,40 +14,38 @@ namespace varnel {
 
 namespace {
 
-constexpr std::array<int, strengthsPerProjection> effects{50, 75, 100};        // percent
-constexpr std::array<double, strengthsPerProjection> angles{0.85, 1.0, 1.15};  // times
-
-const SliderRowData& RowOf(SliderId id) {
-    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
+// Whether the projection reads the effect without a slider for it.
+bool HasHiddenEffect(Projection projection) {
+    const ControlUse* const use = UseOf(projection, SliderId::Effect);
+    return use != nullptr && !use->shown;
 }
 
-int Angle(int inputAov, int strength) {
-    const SliderRowData& row = RowOf(SliderId::AovInput);
-    const double angle = inputAov * angles[static_cast<std::size_t>(strength)];
-    return std::clamp(static_cast<int>(std::lround(angle)), row.minimum, row.maximum);
+// The value of the control that the variants differ in.
+int VariantValue(const ControlValues& values, Projection projection, int strength) {
+    const SheetVariants& sheet = InfoOf(projection).sheet;
+    const double given = sheet.values[static_cast<std::size_t>(strength)];
+    const double value = sheet.factors ? ValueOf(sheet.control, values).value_or(0) * given : given;
+    const ControlRange range = RangeOf(sheet.control, projection);
+    return std::clamp(static_cast<int>(std::lround(value)), range.minimum, range.maximum);
 }
 
 ContactTile Tile(const ImageRecord& image, Projection projection, int strength) {
+    const SliderId control = InfoOf(projection).sheet.control;
     ContactTile tile;
     tile.record = image;
     tile.record.Projection = static_cast<std::int16_t>(projection);
     tile.values = ValuesFor(tile.record);
-    QString told;
-    if (projection == Projection::Equidistance) {
-        tile.values.inputAov = Angle(tile.values.inputAov, strength);
-        told = SliderCaption(RowOf(SliderId::AovInput), tile.values.inputAov);
+    const int value = VariantValue(tile.values, projection, strength);
+    if (control == SliderId::Effect && HasHiddenEffect(projection)) {
+        tile.record.*InfoOf(projection).effect = static_cast<float>(value);
     } else {
-        const int effect = effects[static_cast<std::size_t>(strength)];
-        tile.record.EffectVarnel = static_cast<float>(effect);
-        if (projection != Projection::Horizon) {
-            tile.values.effect = effect;
-        }
-        told = SliderCaption(RowOf(SliderId::Effect), effect);
+        SetValueOf(control, value, tile.values);
     }
     ImageRecord adopted = image;
     Adopt(tile, adopted);
     tile.record = adopted;
-    tile.title = ToText(projection) + QStringLiteral(" ") + told;
+    tile.title =
+        ToText(projection) + QStringLiteral(" ") + SliderCaption(SliderRowOf(control), value);
     tile.isCurrent = image.Projection == adopted.Projection &&
                      ValuesFor(image) == ValuesFor(adopted) &&
                      image.EffectVarnel == adopted.EffectVarnel;
@@ -58,7 +56,7 @@ ContactTile Tile(const ImageRecord& image, Projection projection, int strength) 
 
 std::vector<ContactTile> ContactTiles(const ImageRecord& image) {
     std::vector<ContactTile> tiles;
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (int strength = 0; strength < strengthsPerProjection; ++strength) {
             tiles.push_back(Tile(image, projection, strength));
         }
@@ -68,9 +66,9 @@ std::vector<ContactTile> ContactTiles(const ImageRecord& image) {
 
 void Adopt(const ContactTile& tile, ImageRecord& image) {
     StoreControls(tile.values, image);
-    if (ProjectionFromIndex(tile.values.projection) == Projection::Horizon) {
-        // It has no slider for it, but reads the field.
-        image.EffectVarnel = tile.record.EffectVarnel;
+    const Projection projection = ProjectionFromIndex(tile.values.projection);
+    if (HasHiddenEffect(projection)) {
+        image.*InfoOf(projection).effect = tile.record.*InfoOf(projection).effect;
     }
 }
 

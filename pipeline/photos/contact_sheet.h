@@ -7,12 +7,11 @@
 #include <QString>
 #include <vector>
 
+#include "remap/projection/projection_info.h"
 #include "remap/render/render.h"
 #include "state/adjustments/control_values.h"
 
 namespace varnel {
-
-inline constexpr int strengthsPerProjection = 3;
 
 struct ContactTile {
     ControlValues values;    // what the window's controls would show
@@ -21,9 +20,8 @@ struct ContactTile {
     bool isCurrent = false;  // the photo's own settings
 };
 
-// Projection by projection in their own order, gentle first. Varnel, Rectilinear and Horizon by
-// half, three quarters and all of their effect, Equidistance by the input angle of view: 15 % less,
-// as it is, 15 % more, within the slider's range. Everything else is the record's.
+// Projection by projection in their own order, gentle first: as their rows say, within the range of
+// the control. Everything else is the record's.
 std::vector<ContactTile> ContactTiles(const ImageRecord& image);
 
 // Gives the tile's settings to a record, which is applied then.

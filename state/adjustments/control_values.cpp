@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "base/rounding.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 
@@ -14,9 +15,10 @@ namespace {
 
 constexpr float smallestEffect = 0.1F;  // percent; 0 would divide by zero
 
-// The field of the record that the slider of the effect moves; Horizon has no such slider.
+// The field of the record that the main window's slider of the effect moves, if it shows one.
 std::optional<float ImageRecord::*> EffectField(Projection projection) {
-    return projection == Projection::Horizon ? std::nullopt : EffectReadBy(projection);
+    const ControlUse* const use = UseOf(projection, SliderId::Effect);
+    return use != nullptr && use->shown ? EffectReadBy(projection) : std::nullopt;
 }
 
 // Numbers beyond every slider's range end at the range of int; no number counts as 0.

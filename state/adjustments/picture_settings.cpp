@@ -11,6 +11,7 @@
 #include <array>
 
 #include "remap/image/exif_orientation.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
 #include "state/settings/number_text.h"
 

@@ -8,6 +8,7 @@
 #include <limits>
 #include <variant>
 
+#include "remap/projection/projection_info.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {

@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 namespace {
@@ -23,24 +25,24 @@ constexpr std::array<SliderRowData, 8> rows{{
          "Sliders",
          "How wide the converted picture looks: small is a telephoto view, large a wide one"),
      60, 180, 70, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° hAOV"), nullptr, nullptr, false,
-     ShownFor::Rectilinear},
+     ShownFor::Users},
     {SliderId::Effect, "SliderEffect", "LabelEffect", "LabelEffect2",
      QT_TRANSLATE_NOOP("Sliders", "Partial effect"), QT_TRANSLATE_NOOP("Sliders", "100 %"),
      QT_TRANSLATE_NOOP("Sliders",
                        "How much of the conversion is applied: 0 % stays close to the fisheye"),
      0, 100, 100, 10, 1, 5, QT_TRANSLATE_NOOP("Sliders", " %"), nullptr, nullptr, false,
-     ShownFor::WithEffect},
+     ShownFor::Users},
     {SliderId::X, "SliderX", "LabelRotateX", "LabelRotate2",
      QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0° Up/Down"),
      QT_TRANSLATE_NOOP("Sliders", "Tilts the camera. Double-click the name to reset it"), -40, 40,
      0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Down"), QT_TRANSLATE_NOOP("Sliders", "° Up"),
-     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Users,
      QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::Y, "SliderY", "LabelRotateY", "LabelRotate3",
      QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0° Left/Right"),
      QT_TRANSLATE_NOOP("Sliders", "Pans the camera. Double-click the name to reset it"), -40, 40, 0,
      10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° Right"), QT_TRANSLATE_NOOP("Sliders", "° Left"),
-     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Rectilinear,
+     QT_TRANSLATE_NOOP("Sliders", "0°"), true, ShownFor::Users,
      QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::Z, "SliderZ", "LabelRotateZ", "LabelRotate4", QT_TRANSLATE_NOOP("Sliders", "Z-axis"),
      QT_TRANSLATE_NOOP("Sliders", "0° Z"),
@@ -48,20 +50,20 @@ constexpr std::array<SliderRowData, 8> rows{{
          "Sliders", "Levels the picture by rolling the camera. Double-click the name to reset it"),
      -40, 40, 0, 10, 10, 10, QT_TRANSLATE_NOOP("Sliders", "° c.clockwise"),
      QT_TRANSLATE_NOOP("Sliders", "° clockwise"), QT_TRANSLATE_NOOP("Sliders", "0°"), true,
-     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
+     ShownFor::Users, QT_TRANSLATE_NOOP("Sliders", "Rotate camera")},
     {SliderId::XTranslate, "SliderXtranslate", "LabelTranslateX", "LabelTranslate2",
      QT_TRANSLATE_NOOP("Sliders", "Left/Right"), QT_TRANSLATE_NOOP("Sliders", "0% Left/Right"),
      QT_TRANSLATE_NOOP("Sliders", "Shifts the picture sideways. Double-click the name to reset it"),
      -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Right"),
      QT_TRANSLATE_NOOP("Sliders", "% Left"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
-     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
+     ShownFor::Users, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
     {SliderId::YTranslate, "SliderYtranslate", "LabelTranslateY", "LabelTranslate3",
      QT_TRANSLATE_NOOP("Sliders", "Up/Down"), QT_TRANSLATE_NOOP("Sliders", "0% Up/Down"),
      QT_TRANSLATE_NOOP("Sliders",
                        "Shifts the picture up or down. Double-click the name to reset it"),
      -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Up"),
      QT_TRANSLATE_NOOP("Sliders", "% Down"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
-     ShownFor::Rectilinear, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
+     ShownFor::Users, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
 }};
 
 QString Translated(const char* text) {
@@ -75,7 +77,7 @@ const std::array<SliderRowData, 8>& SliderRows() {
 }
 
 QString GroupName(SliderId id) {
-    const char* const group = std::ranges::find(rows, id, &SliderRowData::id)->group;
+    const char* const group = SliderRowOf(id).group;
     return group == nullptr ? QString() : Translated(group);
 }
 
@@ -95,33 +97,23 @@ QString SliderCaption(const SliderRowData& row, int value) {
     return QString::number(value) + Translated(row.positive);
 }
 
+const SliderRowData& SliderRowOf(SliderId id) {
+    return *std::ranges::find(rows, id, &SliderRowData::id);
+}
+
+ControlRange RangeOf(SliderId id, Projection projection) {
+    const SliderRowData& row = SliderRowOf(id);
+    const ControlUse* const use = UseOf(projection, id);
+    return use != nullptr && use->range ? *use->range : ControlRange{row.minimum, row.maximum};
+}
+
 bool ShownWith(const SliderRowData& row, Projection projection) {
-    switch (row.shownFor) {
-        case ShownFor::Always:
-            return true;
-        case ShownFor::WithEffect:
-            return projection == Projection::Varnel || projection == Projection::Rectilinear;
-        case ShownFor::Rectilinear:
-            break;
-    }
-    return projection == Projection::Rectilinear;
+    const ControlUse* const use = UseOf(projection, row.id);
+    return row.shownFor == ShownFor::Always || (use != nullptr && use->shown);
 }
 
 bool Reads(Projection projection, SliderId id) {
-    switch (id) {
-        case SliderId::AovInput:
-            return projection == Projection::Equidistance;
-        case SliderId::Effect:
-            return EffectReadBy(projection).has_value();
-        case SliderId::AovOutput:
-        case SliderId::X:
-        case SliderId::Y:
-        case SliderId::Z:
-        case SliderId::XTranslate:
-        case SliderId::YTranslate:
-            break;
-    }
-    return projection == Projection::Rectilinear;
+    return UseOf(projection, id) != nullptr;
 }
 
 std::optional<int> ValueOf(SliderId id, const ControlValues& values) {

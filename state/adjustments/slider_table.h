@@ -10,24 +10,22 @@
 #include <optional>
 
 #include "state/adjustments/control_values.h"
-#include "state/records/projection.h"
+#include "state/records/slider_id.h"
 
 namespace varnel {
 
-enum class SliderId { AovOutput, Effect, X, Y, Z, XTranslate, YTranslate, AovInput };
-
-// Which projections show a slider.
-enum class ShownFor { Rectilinear, WithEffect, Always };
+// Which projections show a slider: those that use it, or all.
+enum class ShownFor { Users, Always };
 
 struct SliderRowData {
     SliderId id;
     const char* slider;  // object names
     const char* valueLabel;
-    const char* headingLabel;  // null for none
-    const char* heading;       // text of the heading label
-    const char* startCaption;  // text of the value label before the first photo
-    const char* tip;           // tool tip and accessible description
-    int minimum, maximum, start;
+    const char* headingLabel;     // null for none
+    const char* heading;          // text of the heading label
+    const char* startCaption;     // text of the value label before the first photo
+    const char* tip;              // tool tip and accessible description
+    int minimum, maximum, start;  // see RangeOf
     int largeChange, smallChange, tickInterval;
     const char* positive;  // what follows the number in the caption
     const char* negative;  // after the magnitude of a negative number; null: as positive
@@ -48,6 +46,9 @@ QString SpokenName(const SliderRowData& row);
 // The value label's text while the slider stands at value.
 QString SliderCaption(const SliderRowData& row, int value);
 
+const SliderRowData& SliderRowOf(SliderId id);
+// The slider's range, or the projection's own where it has one.
+ControlRange RangeOf(SliderId id, Projection projection);
 bool ShownWith(const SliderRowData& row, Projection projection);
 // Whether the projection reads what the slider stands for. The main window shows the angle of the
 // lens always and the effect of Horizon never.

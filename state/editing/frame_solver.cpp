@@ -13,10 +13,6 @@ namespace varnel {
 
 namespace {
 
-const SliderRowData& RowOf(SliderId id) {
-    return *std::ranges::find(SliderRows(), id, &SliderRowData::id);
-}
-
 // The index of the line; nothing when a border line is black. A translation may leave the outermost
 // line out.
 std::optional<std::size_t> LineAt(double share, const std::vector<int>& shown, int count) {
@@ -46,33 +42,15 @@ double Miss(const FrameSetting& setting, const ControlValues& controls, const Fr
 }  // namespace
 
 std::optional<SliderId> FrameSlider(Projection projection) {
-    switch (projection) {
-        case Projection::Rectilinear:
-            return SliderId::AovOutput;
-        case Projection::Varnel:
-            return SliderId::Effect;
-        case Projection::Equidistance:
-            return SliderId::AovInput;
-        case Projection::Horizon:
-            break;
-    }
-    return std::nullopt;
+    return InfoOf(projection).frame.width;
 }
 
 bool FrameTurns(Projection projection) {
-    return projection == Projection::Rectilinear;
+    return InfoOf(projection).frame.turns;
 }
 
-const std::vector<FramePoint>& FrameHandles(Projection projection) {
-    static const std::vector<FramePoint> around{{0.0, 0.0}, {0.5, 0.0}, {1.0, 0.0}, {1.0, 0.5},
-                                                {1.0, 1.0}, {0.5, 1.0}, {0.0, 1.0}, {0.0, 0.5}};
-    static const std::vector<FramePoint> aside{{0.0, 0.0}, {0.0, 0.25}, {0.0, 0.75}, {0.0, 1.0},
-                                               {1.0, 0.0}, {1.0, 0.25}, {1.0, 0.75}, {1.0, 1.0}};
-    static const std::vector<FramePoint> none;
-    if (!FrameSlider(projection)) {
-        return none;
-    }
-    return projection == Projection::Varnel ? aside : around;
+std::span<const FramePoint> FrameHandles(Projection projection) {
+    return InfoOf(projection).frame.handles;
 }
 
 std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapping& places) {
@@ -86,15 +64,16 @@ std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapp
 
 int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
                  const SourcePosition& wanted) {
-    const auto slider = FrameSlider(ProjectionFromIndex(setting.controls.projection));
+    const Projection projection = ProjectionFromIndex(setting.controls.projection);
+    const auto slider = FrameSlider(projection);
     if (!slider) {
         return 0;
     }
     ControlValues controls = setting.controls;
     int best = ValueOf(*slider, controls).value_or(0);
     double least = Miss(setting, controls, handle, wanted);
-    const SliderRowData& row = RowOf(*slider);
-    for (int value = row.minimum; value <= row.maximum; ++value) {
+    const ControlRange range = RangeOf(*slider, projection);
+    for (int value = range.minimum; value <= range.maximum; ++value) {
         SetValueOf(*slider, value, controls);
         if (const double miss = Miss(setting, controls, handle, wanted); miss < least) {
             least = miss;
@@ -106,12 +85,13 @@ int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
 
 ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& wanted) {
     ControlValues best = setting.controls;
-    if (!FrameTurns(ProjectionFromIndex(best.projection))) {
+    const Projection projection = ProjectionFromIndex(best.projection);
+    if (!FrameTurns(projection)) {
         return best;
     }
     const FramePoint middle;
-    const SliderRowData& tilt = RowOf(SliderId::X);
-    const SliderRowData& pan = RowOf(SliderId::Y);
+    const ControlRange tilt = RangeOf(SliderId::X, projection);
+    const ControlRange pan = RangeOf(SliderId::Y, projection);
     double least = Miss(setting, best, middle, wanted);
     const auto tried = [&](int down, int right) {
         ControlValues controls = best;

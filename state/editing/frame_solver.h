@@ -7,27 +7,21 @@
 #pragma once
 
 #include <optional>
-#include <vector>
+#include <span>
 
 #include "remap/analysis/inverse_mapping.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/slider_table.h"
 
 namespace varnel {
 
-// The slider that makes the frame wider; Horizon has none.
+// The slider that makes the frame wider; nothing for a projection without one.
 std::optional<SliderId> FrameSlider(Projection projection);
 // The frame can be panned and tilted.
 bool FrameTurns(Projection projection);
 
-// A point of the result by its share of the way from the left and from the bottom.
-struct FramePoint {
-    double across = 0.5;
-    double up = 0.5;
-};
-
-// Points of the border that the slider moves: the corners, and of the sides the middles, or for
-// Varnel, which leaves its middle lines alone, the quarters.
-const std::vector<FramePoint>& FrameHandles(Projection projection);
+// Points of the border that the slider moves.
+std::span<const FramePoint> FrameHandles(Projection projection);
 // Where the photo is read for the point; nothing where the border is black.
 std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapping& places);
 

@@ -21,8 +21,8 @@ float AngleFor(const GearRecord& gear, const ImageRecord& image) {
 float SliderAngle(float angle) {
     ImageRecord image;
     image.InputAOV = angle;
-    const auto* const row = std::ranges::find(SliderRows(), SliderId::AovInput, &SliderRowData::id);
-    return static_cast<float>(std::clamp(ValuesFor(image).inputAov, row->minimum, row->maximum));
+    const SliderRowData& row = SliderRowOf(SliderId::AovInput);
+    return static_cast<float>(std::clamp(ValuesFor(image).inputAov, row.minimum, row.maximum));
 }
 
 bool HasNumbersOf(const GearRecord& gear, const ImageRecord& image) {

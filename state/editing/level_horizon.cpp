@@ -3,12 +3,12 @@
 
 #include "state/editing/level_horizon.h"
 
-#include <algorithm>
 #include <numbers>
 #include <vector>
 
 #include "base/run_time_error.h"
 #include "remap/projection/level.h"
+#include "remap/projection/projection_info.h"
 #include "remap/projection/record_maps.h"
 #include "state/adjustments/slider_table.h"
 
@@ -21,13 +21,12 @@ constexpr double shortest = 5.0 * degree;
 constexpr double farthestOff = 3.0 * degree;  // a hand follows an edge far better
 
 // How far a value is beyond what its slider can be set to, whole numbers as it holds.
-double Beyond(SliderId id, double value) {
-    const auto& rows = SliderRows();
-    const auto row = std::ranges::find(rows, id, &SliderRowData::id);
+double Beyond(SliderId id, const ImageRecord& image, double value) {
+    const ControlRange range = RangeOf(id, ProjectionFromIndex(image.Projection));
     constexpr double rounding = 0.5;
-    const bool above = value > row->maximum + rounding;
-    const bool below = value < row->minimum - rounding;
-    return above ? value - row->maximum : below ? value - row->minimum : 0.0;
+    const bool above = value > range.maximum + rounding;
+    const bool below = value < range.minimum - rounding;
+    return above ? value - range.maximum : below ? value - range.minimum : 0.0;
 }
 
 std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
@@ -57,8 +56,8 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
     const LevelTurn turn = TurnForHorizon(fit->normal, image.EffectRectilinear, present);
     level.rotateX = turn.x;
     level.rotateZ = turn.z;
-    level.beyondX = Beyond(SliderId::X, turn.x);
-    level.beyondZ = Beyond(SliderId::Z, turn.z);
+    level.beyondX = Beyond(SliderId::X, image, turn.x);
+    level.beyondZ = Beyond(SliderId::Z, image, turn.z);
     if (level.beyondX != 0.0 || level.beyondZ != 0.0) {
         level.error = LevelError::OutOfReach;
     }

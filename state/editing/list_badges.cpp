@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel {
 
 namespace {

@@ -8,7 +8,6 @@
 #include <QMap>
 #include <QString>
 #include <cstdint>
-#include <optional>
 
 #include "base/bool16.h"
 #include "state/records/projection.h"
@@ -59,9 +58,6 @@ struct ImageRecord {
 
     bool operator==(const ImageRecord&) const = default;
 };
-
-// The effect that a projection reads; nothing for Equidistance. Horizon reads that of Varnel, too.
-std::optional<float ImageRecord::*> EffectReadBy(Projection projection);
 
 // Folder and file name joined by "/".
 QString SourcePath(const ImageRecord& image);

@@ -10,6 +10,7 @@
 
 #include "base/thread_runner.h"
 #include "bench/remap/render/peer_remap.h"
+#include "remap/projection/projection_info.h"
 #include "remap/projection/record_maps.h"
 #include "remap/render/reference/render.h"
 #include "remap/render/reference/render_stretch.h"
@@ -134,7 +135,7 @@ void RegisterPeer(PixelSize /*size*/) {}
 void RegisterAll() {
     RegisterPeer(Megapixels(24.0));
     const PixelSize full = Megapixels(24.0);
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         const std::string name = ToText(projection).toStdString();
         Register("reference/24MP/" + name, &reference::Render, projection, false, full,
                  SizeKind::Large, 1);

@@ -15,6 +15,7 @@
 #include <QTextBlock>
 
 #include "app/dialogs/form_guide.h"
+#include "remap/projection/projection_info.h"
 #include "tests/support/test_window.h"
 
 namespace varnel {
@@ -130,6 +131,16 @@ TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
     QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
     manual = manual.section(Q(".SH KEYS"), 1).section(Q(".SH OPTIONS"), 0, 0).remove(u'\\');
     EXPECT_EQ(ToldKeys(Matches(manual, R"((?m)^\.B (.+)$)")), real);
+}
+
+TEST(Guide, AndTheManualPageTellOfEveryProjection) {
+    const QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel-convert.1.in"));
+    for (const Projection projection : AllProjections()) {
+        const QString name = ToText(projection);
+        EXPECT_TRUE(PageText(Q("projections.md")).contains(Q("\n## ") + name + u'\n'))
+            << qPrintable(name);
+        EXPECT_TRUE(manual.contains(Q("\n.IP ") + name.toLower())) << qPrintable(name);
+    }
 }
 
 TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {

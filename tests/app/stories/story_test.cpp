@@ -25,6 +25,7 @@
 #include "app/dialogs/real_dialogs.h"
 #include "app/window/main_window.h"
 #include "remap/encode/output_type.h"
+#include "remap/projection/projection_info.h"
 #include "remap/render/render.h"
 #include "state/settings/setting_names.h"
 #include "tests/support/answers.h"

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 
 #include "cli/options/help_text.h"
+#include "remap/projection/projection_info.h"
 #include "tests/support/files.h"
 
 namespace varnel {

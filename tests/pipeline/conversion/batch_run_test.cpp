@@ -15,6 +15,7 @@
 
 #include "base/run_time_error.h"
 #include "pipeline/conversion/batch_checks.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/picture_settings.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
@@ -75,7 +76,7 @@ TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
     queue.Append(FisheyePhoto(Text("/in"), Text("b.jpg"), Projection::Rectilinear));
     queue(2).RotateY = -5.0F;
     queue(2).NameSuffix = Text("Morph0007");
-    choices.additions.texts[1] = Text("flat");
+    choices.additions.texts[Projection::Rectilinear] = Text("flat");
     const BatchSummary summary = Go();
     EXPECT_EQ(log.join(u'\n'),
               Text("load /in/a.jpg\nname /out/a.Varnel.JPG\nbegin\nend\n"

@@ -132,7 +132,7 @@ TEST(BatchName, TagsTellTheSettings) {
 
 TEST(BatchName, AnAdditionReplacesTheProjectionsName) {
     NameAdditions additions;
-    additions.texts[0] = Text("wide");
+    additions.texts[Projection::Varnel] = Text("wide");
     ImageRecord image;
     image.FileName = Text("IMG.jpg");
     image.EffectVarnel = 100.0F;

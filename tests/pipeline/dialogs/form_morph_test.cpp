@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
+#include "remap/projection/projection_info.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/records.h"

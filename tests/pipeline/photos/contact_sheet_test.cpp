@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "remap/projection/projection_info.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/records.h"
 #include "tests/support/texts.h"

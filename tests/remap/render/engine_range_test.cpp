@@ -7,6 +7,7 @@
 
 #include <set>
 
+#include "remap/projection/projection_info.h"
 #include "remap/render/reference/render.h"
 #include "state/adjustments/slider_table.h"
 #include "tests/remap/render/engine_pictures.h"
@@ -65,7 +66,7 @@ void ExpectClose(Projection projection, const ImageRecord& record) {
 }
 
 TEST(EngineRange, TheWindowsSlidersFromEndToEnd) {
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (const SliderRowData& row : SliderRows()) {
             if (!Reads(projection, row.id)) {
                 continue;
@@ -82,7 +83,7 @@ TEST(EngineRange, TheWindowsSlidersFromEndToEnd) {
 // What else settings, sequences and options can say: the gear's sliders, and less than a step.
 TEST(EngineRange, GearsAndFractions) {
     using enum Projection;
-    const std::vector<Projection> all(allProjections.begin(), allProjections.end());
+    const std::vector<Projection> all = AllProjections();
     const struct {
         const char* name;
         float ImageRecord::*field;

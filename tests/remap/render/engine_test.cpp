@@ -15,6 +15,7 @@
 
 #include "base/run_time_error.h"
 #include "base/thread_runner.h"
+#include "remap/projection/projection_info.h"
 #include "remap/render/reference/render.h"
 #include "remap/render/region_renderer.h"
 #include "tests/remap/render/engine_pictures.h"
@@ -62,7 +63,7 @@ std::vector<Case> Cases() {
                                                        {"upright", {200, 301}},
                                                        {"tiny", {7, 5}},
                                                        {"full", {1400, 900}}};
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (const auto& [name, size] : sizes) {
             cases.push_back({ToText(projection).toStdString() + " " + name, projection, size});
         }
@@ -228,7 +229,7 @@ TEST(RegionRenderer, DrawsFromTheMiddleAndForgetsWithANewStart) {
 }
 
 TEST(Engine, AfterAFailureTheResultIsTheSource) {
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         Bitmaps bitmaps;
         bitmaps.FullSourceBitmap = PhotoLike({301, 200});
         bitmaps.ResultBitmap = Flat({301, 200});

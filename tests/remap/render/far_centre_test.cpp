@@ -13,6 +13,7 @@
 #include "base/line_range.h"
 #include "base/run_time_error.h"
 #include "base/thread_runner.h"
+#include "remap/projection/projection_info.h"
 #include "remap/render/reference/render.h"
 #include "remap/render/region_renderer.h"
 #include "tests/remap/render/engine_pictures.h"
@@ -98,7 +99,7 @@ TEST(FarCentre, TheLoopsPicture) {
         {"huge circle", [](ImageRecord& r) { r.Ratio = 1e-30F; }},
     };
     for (const PixelSize size : {PixelSize{7, 5}, PixelSize{1, 1}, PixelSize{1, 3}}) {
-        for (const Projection projection : allProjections) {
+        for (const Projection projection : AllProjections()) {
             for (const auto& [name, change] : changes) {
                 SCOPED_TRACE(ToText(projection).toStdString() + " " + name + " " +
                              std::to_string(size.width));
@@ -119,7 +120,7 @@ TEST(FarCentre, OfAPhotoIsFoundAtOnce) {
     const BitmapHandle row = testing::Painted(size, [&](int x, int y) {
         return y == 100 ? testing::PixelAt(source.get(), x, y) : RGBQUAD{};
     });
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (const float offset : {1e9F, -1e9F}) {
             for (const SizeKind kind : {SizeKind::Large, SizeKind::Thumbnails}) {
                 SCOPED_TRACE(ToText(projection).toStdString());
@@ -148,7 +149,7 @@ TEST(FarCentre, OfAPhotoIsFoundAtOnce) {
 TEST(Pauses, AreNeverFarApart) {
     constexpr PixelSize size{2100, 1000};
     constexpr long pixels = 16L * batchLines * 4;  // at most, from one to the next
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (const float turn : {0.0F, 20.0F}) {
             ImageRecord record = FisheyeRecord();
             record.RotateX = turn;
@@ -160,7 +161,7 @@ TEST(Pauses, AreNeverFarApart) {
 
 TEST(Pauses, EndTheConversion) {
     constexpr PixelSize size{301, 200};
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         for (const int cores : {1, 2}) {
             Bitmaps bitmaps;
             bitmaps.FullSourceBitmap = PhotoLike(size);

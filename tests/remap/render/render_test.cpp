@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "remap/projection/projection_info.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/records.h"
 
@@ -78,7 +79,7 @@ TEST(Render, ProgressCountsColumnsOrRowsAndEndsOnce) {
 }
 
 TEST(Render, ResultKeepsSizeMetadataAndColourProfile) {
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         Scene scene({41, 30});
         FIBITMAP* const source = scene.bitmaps.FullSourceBitmap.get();
         FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, source, "Comment", "kept");
@@ -95,7 +96,7 @@ TEST(Render, ImpossibleNumbersEndWithAnErrorAndTheBarIsTakenAway) {
     ImageRecord record = FisheyeRecord();
     record.SensorWidth = 0.0F;
     record.Ratio = 0.0F;
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         Scene scene({41, 30});
         EXPECT_THROW(scene.Draw(projection, record), RunTimeError) << int(projection);
         EXPECT_EQ(scene.progress.ends, scene.progress.maximum_ < 0.0F ? 0 : 1);
@@ -106,7 +107,7 @@ TEST(Render, ImpossibleNumbersEndWithAnErrorAndTheBarIsTakenAway) {
 }
 
 TEST(Render, PreviewsAreReadNearestUntilSmoothedAndFullSizeIsAlwaysInterpolated) {
-    for (const Projection projection : allProjections) {
+    for (const Projection projection : AllProjections()) {
         // Interpolation makes greys of a black and white checkerboard.
         const auto board = [](int x, int y) {
             const BYTE level = (x + y) % 2 == 0 ? 255 : 0;

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "remap/projection/projection_info.h"
 #include "tests/support/records.h"
 
 namespace varnel {

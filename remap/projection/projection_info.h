@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Everything that differs from projection to projection, one row each. Windows, names, command
+// line, batch and analysis read the rows; nothing else tells projections apart. Throws nothing.
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "base/run_time_error.h"
+#include "state/records/image_record.h"
+#include "state/records/slider_id.h"
+
+namespace varnel {
+
+// A control whose number the projection reads.
+struct ControlUse {
+    SliderId id = SliderId::Effect;
+    bool shown = true;  // by the main window; the morph dialog has all
+    // Where the projection allows less or more than the control in general.
+    std::optional<ControlRange> range = std::nullopt;
+};
+
+// A point of the result by its share of the way from the left and from the bottom.
+struct FramePoint {
+    double across = 0.5;
+    double up = 0.5;
+};
+
+// How the frame on the photo is moved.
+struct FrameSteering {
+    std::optional<SliderId> width{};        // the control that makes the frame wider
+    bool turns = false;                     // it can be panned and tilted
+    std::span<const FramePoint> handles{};  // points of the border that the width moves
+};
+
+// A part of file names that tells a setting: the text and the field's number, rounded.
+struct NameTag {
+    const char16_t* text = u"";
+    float ImageRecord::*field = nullptr;
+    ValueName name;                              // for errors
+    int digits = 0;                              // the last so many, behind zeros; 0: as it is
+    std::optional<float> silent = std::nullopt;  // the number that is not told
+};
+
+inline constexpr int strengthsPerProjection = 3;
+
+// What the contact sheet shows: a control at three values, or at its own value times three factors.
+struct SheetVariants {
+    SliderId control = SliderId::Effect;
+    bool factors = false;
+    std::array<double, strengthsPerProjection> values{};
+};
+
+struct ProjectionInfo {
+    Projection id = Projection::Varnel;
+    const char16_t* name =
+        u"";               // in file names, on the command line and on screen; never translated
+    const char* tip = "";  // of the option button; context "Projections"
+    std::span<const ControlUse> controls{};
+    // The field of the record that SliderId::Effect stands for; null for none.
+    float ImageRecord::*effect = nullptr;
+    FrameSteering frame{};
+    // The view through a camera that can be turned, in which a level horizon is a straight line.
+    bool levels = false;
+    std::span<const NameTag> tags{};
+    SheetVariants sheet{};
+};
+
+// All rows, in the order of their numbers, which are 0, 1, 2 ...
+std::span<const ProjectionInfo> ProjectionRows();
+// The rows that Varnel ships.
+std::span<const ProjectionInfo> ShippedProjections();
+
+std::vector<Projection> AllProjections();
+const ProjectionInfo& InfoOf(Projection projection);
+
+// The name: "Varnel", "Rectilinear" ...
+QString ToText(Projection projection);
+// Without regard to case; nothing for any other text.
+std::optional<Projection> ProjectionFromText(QStringView text);
+// By its number; every number without a row means Horizon.
+Projection ProjectionFromIndex(int index);
+// The translated tip.
+QString TipOf(Projection projection);
+
+// The use of the control; null when the projection does not read it.
+const ControlUse* UseOf(Projection projection, SliderId id);
+// The effect that a projection reads; nothing when it reads none. Horizon reads that of Varnel,
+// too.
+std::optional<float ImageRecord::*> EffectReadBy(Projection projection);
+
+}  // namespace varnel

@@ -109,15 +109,15 @@ class MetadataTrial {
     }
     // What is left is sound.
     void Write(FIBITMAP* bitmap) {
-        for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_TIFF, FIF_PNG}) {
-            const EncodedBitmap file = EncodeBitmap(format, bitmap, 0);
+        for (const OutputType type : {OutputType::Jpeg, OutputType::Tiff, OutputType::Png}) {
+            const EncodedBitmap file = EncodeBitmap(type, bitmap);
             const LoadedPicture again = Read(file.bytes);
             EXPECT_EQ(again.outcome, LoadOutcome::Loaded) << ErrorText(again.reason).toStdString();
             if (again.bitmap) {
-                EXPECT_TRUE(format == FIF_JPEG || PixelBytes(again.bitmap.get()) == sound_)
-                    << format;
+                EXPECT_TRUE(type == OutputType::Jpeg || PixelBytes(again.bitmap.get()) == sound_)
+                    << ToText(type).toStdString();
                 const Reasons notes = MetadataOf(again.bitmap.get()).notes;
-                EXPECT_TRUE(notes.isEmpty()) << format << ErrorText(Joined(notes)).toStdString();
+                EXPECT_TRUE(notes.isEmpty()) << ToText(type).toStdString() << ErrorText(Joined(notes)).toStdString();
             }
         }
     }

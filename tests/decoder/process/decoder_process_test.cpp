@@ -44,7 +44,7 @@ TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
         "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/"
         "elements/1.1/' dc:source='a lake'/></rdf:RDF>");
     FreeImage_SetDotsPerMeterX(photo.get(), 11811);
-    ASSERT_TRUE(SaveBitmap(FIF_JPEG, photo.get(), folder.Path(Text("a")), 90));
+    ASSERT_TRUE(SaveBitmap({OutputType::Jpeg, 90}, photo.get(), folder.Path(Text("a"))));
     const BitmapHandle direct(FreeImage_Load(
         FIF_JPEG, QFile::encodeName(folder.Path(Text("a"))).constData(), JPEG_ACCURATE));
     DecoderReader reader({});

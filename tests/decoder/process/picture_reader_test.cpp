@@ -28,8 +28,8 @@ PixelSize SizeAt(const QString& path) {
 
 TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
     const PictureFolder folder;
-    for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_JPEG, FIF_BMP, FIF_PNG}) {
-        const QString path = folder.Picture(Text("Küste %1.jpg").arg(format), format);
+    for (const OutputType type : allOutputTypes) {
+        const QString path = folder.Picture(Text("Küste %1.jpg").arg(ToText(type)), type);
         const LoadedPicture picture = LoadPicture(path);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);

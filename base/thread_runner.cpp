@@ -19,7 +19,11 @@ ThreadRunner::~ThreadRunner() {
         ending_ = true;
     }
     wake_.notify_all();
+    taskCame_.notify_all();
     for (std::thread& thread : threads_) {
+        thread.join();
+    }
+    for (std::thread& thread : taskThreads_) {
         thread.join();
     }
 }
@@ -87,6 +91,43 @@ void ThreadRunner::StartThreads(int wanted) {
         }
     } catch (const std::system_error&) {
         mayStartMore_ = false;
+    }
+}
+
+// For one more task; starts one where all have something to do.
+bool ThreadRunner::HasTaskThread() {
+    if (tasks_.size() < idleTaskThreads_) {
+        return true;
+    }
+    try {
+        taskThreads_.emplace_back([this] { WorkOnTasks(); });
+        ++idleTaskThreads_;
+    } catch (const std::system_error&) {
+        return false;
+    }
+    return true;
+}
+
+void ThreadRunner::RunTask(Lock& lock) {
+    --idleTaskThreads_;
+    {
+        std::packaged_task<void()> task = std::move(tasks_.front());
+        tasks_.pop_front();
+        lock.unlock();
+        task();
+    }
+    lock.lock();
+    ++idleTaskThreads_;
+}
+
+void ThreadRunner::WorkOnTasks() {
+    Lock lock(mutex_);
+    while (true) {
+        taskCame_.wait(lock, [this] { return ending_ || !tasks_.empty(); });
+        if (tasks_.empty()) {
+            return;
+        }
+        RunTask(lock);
     }
 }
 

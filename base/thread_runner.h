@@ -1,23 +1,30 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Runs blocks on several threads without using more cores than were given. Run throws what a block
-// throws, the rest nothing; where the system gives no more threads, those that exist do the work.
+// The one pool of threads of a program: runs blocks and tasks without using more cores than were
+// given. Run throws what a block throws, Begin std::bad_alloc, the rest nothing; where the system
+// gives no more threads, those that exist do the work.
 #pragma once
 
 #include <condition_variable>
 #include <deque>
 #include <exception>
+#include <functional>
+#include <future>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "base/block_runner.h"
 
 namespace varnel {
 
-// A number of cores, and kept threads that run blocks on those that are free. The threads start on
-// first use and sleep between calls.
+// Whether a task keeps a core busy, or mostly waits for a disk.
+enum class TaskWeight { Core, Light };
+
+// A number of cores, kept threads that run blocks on those that are free, and kept threads for
+// tasks. The threads start on first use and sleep between calls.
 //
 // The thread that constructs it holds one of the cores. Any other thread, or a thread that waits
 // for a process, takes a core before it works and gives it back when done, and a thread that waits
@@ -28,6 +35,7 @@ class ThreadRunner : public BlockRunner {
   public:
     // 0 takes as many cores as the machine offers.
     explicit ThreadRunner(int cores = 0);
+    // No task may be under way any more that waits for the caller's core.
     ~ThreadRunner() override;
     ThreadRunner(const ThreadRunner&) = delete;
     ThreadRunner& operator=(const ThreadRunner&) = delete;
@@ -36,6 +44,28 @@ class ThreadRunner : public BlockRunner {
     // Waits until one is free.
     void TakeCore();
     void GiveCore();
+
+    // Begins the task on another thread, which holds a core meanwhile unless the task is a light
+    // one. A caller that holds a core gives it back while it waits for the task's future. False
+    // when the system gives no thread; the task is then as it was.
+    template <class Result>
+    bool Begin(std::packaged_task<Result()>& task, TaskWeight weight = TaskWeight::Core) {
+        const std::lock_guard lock(mutex_);
+        if (!HasTaskThread()) {
+            return false;
+        }
+        tasks_.emplace_back([this, weight, own = std::move(task)]() mutable {
+            if (weight == TaskWeight::Core) {
+                TakeCore();
+                own();
+                GiveCore();
+            } else {
+                own();
+            }
+        });
+        taskCame_.notify_one();
+        return true;
+    }
 
     // To be called by a thread that holds a core; it runs blocks, too. Several threads may call it
     // at the same time. None of the blocks runs once this has returned.
@@ -57,7 +87,10 @@ class ThreadRunner : public BlockRunner {
     };
 
     void StartThreads(int wanted);
+    bool HasTaskThread();
     void Work();
+    void WorkOnTasks();
+    void RunTask(Lock& lock);
     void RunBlock(Fork& fork, Lock& lock);
     Fork* NextFork() const;
     void Take(Lock& lock);
@@ -71,6 +104,10 @@ class ThreadRunner : public BlockRunner {
     std::vector<Fork*> forks_;      // in the order in which they were begun
     std::deque<Waiting*> waiting_;  // for a core; then none is free
     int free_ = 0;                  // cores
+    std::vector<std::thread> taskThreads_;
+    std::deque<std::packaged_task<void()>> tasks_;  // not begun yet
+    std::size_t idleTaskThreads_ = 0;               // those that no task has begun on
+    std::condition_variable taskCame_;
     bool ending_ = false;
 };
 

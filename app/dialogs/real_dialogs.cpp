@@ -91,16 +91,16 @@ void RealDialogs::ChangeDefaults(QWidget* parent) {
 
 void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
                                QWidget* parent) {
-    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, reader_, notices_,
-                   queueChanged, parent);
+    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, {reader_, state_.pool},
+                   notices_, queueChanged, parent);
     QObject::connect(&form, &FormBatch::Written, parent, written);
     form.exec();
 }
 
 void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChanged,
                         QWidget* parent) {
-    FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, notices_,
-                   queueChanged, parent);
+    FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, state_.pool,
+                   notices_, queueChanged, parent);
     form.exec();
 }
 
@@ -110,7 +110,8 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
                                ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
                                : folder);
     };
-    FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, notices_, parent);
+    FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, state_.pool, notices_,
+                     parent);
     if (!photo.isEmpty()) {
         // Once the dialog is up: while the photo is read nothing may happen on the window below.
         QTimer::singleShot(0, &form, [&form, photo] { form.Open(photo); });

@@ -12,14 +12,15 @@
 
 namespace varnel {
 
-SessionTools::SessionTools(ProjectTools& projects, Workspace& workspace, const WorkingState& state,
+SessionTools::SessionTools(ProjectTools& projects, Workspace& workspace, WorkingState& state,
                            const WindowPorts& ports, QObject* parent)
     : QObject(parent),
       projects_(projects),
       workspace_(workspace),
       state_(state),
       ports_(ports),
-      ended_(ports.sessions.folder.isEmpty()) {
+      ended_(ports.sessions.folder.isEmpty()),
+      worker_(&state.pool, TaskWeight::Light) {
     timer_.setSingleShot(true);
     timer_.setInterval(ports_.sessions.pause);
     connect(&timer_, &QTimer::timeout, this, &SessionTools::Write);

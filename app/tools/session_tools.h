@@ -19,7 +19,7 @@ class SessionTools : public QObject {
     Q_OBJECT
   public:
     // Without a folder in the ports nothing is kept or offered.
-    SessionTools(ProjectTools& projects, Workspace& workspace, const WorkingState& state,
+    SessionTools(ProjectTools& projects, Workspace& workspace, WorkingState& state,
                  const WindowPorts& ports, QObject* parent);
 
     void OfferLost();

@@ -31,7 +31,7 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
                                     const CancelFlag& cancelled) {
     const QScopedValueRollback saving(saving_, true);
     const QScopedValueRollback rendering(rendering_, true);
-    RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &runner_};
+    RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &state_.pool};
     CancellableProgress progress(view_.Progress(), cancelled);
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Large, progress, workspace);
@@ -45,7 +45,8 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
                      state_.settings.WriteMetadata ? choice.name : QString());
         const OutputEncoding encoding(TypeOf(choice), state_.settings.JPEGcompression,
                                       state_.settings.JPEGchroma444);
-        return SaveMeanwhile({encoding, choice.name}, result, runner_, view_.Progress(), cancelled);
+        return SaveMeanwhile({encoding, choice.name}, result, state_.pool, view_.Progress(),
+                             cancelled);
     } catch (const SavingCancelled&) {
         return {};
     } catch (const RunTimeError& error) {

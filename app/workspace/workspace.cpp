@@ -157,7 +157,7 @@ void Workspace::RenderPreview(const ImageRecord& image) {
 }
 
 void Workspace::RenderThumbnail(const ImageRecord& image) {
-    RenderContext workspace{state_.bitmaps, [this] { return view_.Antialiased(); }, &runner_};
+    RenderContext workspace{state_.bitmaps, [this] { return view_.Antialiased(); }, &state_.pool};
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(), workspace);
         view_.NoteDrawn(image);

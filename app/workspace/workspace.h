@@ -184,7 +184,6 @@ class Workspace {
     PhotoLoader& photos_;
     Notices& notices_;
     WorkspaceView& view_;
-    ThreadRunner runner_;
     History history_{state_.Images};
     std::vector<std::function<void()>> whenStepsChanged_;
     std::function<void(const GearChange&)> whenGearRestored_;

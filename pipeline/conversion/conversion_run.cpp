@@ -44,7 +44,7 @@ class Run : private RenderProgress {
           runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
           series_(LendingSeries(runner_,
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
-          worker_(overlaps_, &runner_) {}
+          worker_(overlaps_ ? &runner_ : nullptr) {}
 
     ConversionRunEnd Go() {
         for (photo_ = 0; photo_ < plan_.photos.size() && !Stopped(); ++photo_) {

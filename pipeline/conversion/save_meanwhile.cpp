@@ -31,18 +31,21 @@ void CancellableProgress::EndIfCancelled() const {
     }
 }
 
-SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner& runner,
+SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, ThreadRunner& pool,
                          RenderProgress& progress, const CancelFlag& cancelled) {
-    SaveWorker worker;
+    SaveWorker worker(&pool);
     worker.Begin([&] {
         return SaveBitmap(file.encoding, bitmap,
                           StoppableFile{file.name, [&cancelled] { return cancelled.load(); }},
-                          runner);
+                          pool);
     });
     progress.Begin(0.0F);
-    do {
-        progress.HandleEvents();
-    } while (!worker.Wait(betweenEvents));
+    {
+        const CoreLent lent(pool);
+        do {
+            progress.HandleEvents();
+        } while (!worker.Wait(betweenEvents));
+    }
     progress.End();
     return worker.Take();
 }

@@ -6,6 +6,7 @@
 
 #include <atomic>
 
+#include "base/thread_runner.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/render/render.h"
 
@@ -39,10 +40,11 @@ struct PictureFile {
     QString name;
 };
 
-// Encodes and writes on another thread; nobody else may use the bitmap or the runner meanwhile.
-// Until it is done the progress, begun with a maximum of 0 because nobody knows how far it is,
-// handles events. Cancelled before the file has its name, no file is written.
-SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, BlockRunner& runner,
+// Encodes and writes on another thread of the pool, of which the caller holds a core; the bitmap
+// may not be used meanwhile. Until it is done the progress, begun with a maximum of 0 because it is
+// not known how far it is, handles events. Cancelled before the file has its name, no file is
+// written.
+SaveResult SaveMeanwhile(const PictureFile& file, FIBITMAP* bitmap, ThreadRunner& pool,
                          RenderProgress& progress, const CancelFlag& cancelled);
 // What is told of a picture that was cancelled.
 QString CancelledText();

@@ -2,99 +2,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "pipeline/conversion/save_worker.h"
-#include "base/error_reason.h"
 
 #include <chrono>
-#include <exception>
-#include <system_error>
 #include <utility>
+
+#include "base/error_reason.h"
 
 namespace varnel {
 
-namespace {
-
-SaveResult Done(const SaveWorker::Job& job) {
-    try {
-        return job();
-    } catch (const std::exception& error) {
-        return {false, ReasonFor(error)};
-    }
-}
-
-}  // namespace
-
 SaveWorker::~SaveWorker() {
-    {
-        const std::lock_guard lock(mutex_);
-        ending_ = true;
+    if (pool_ != nullptr && result_.valid()) {
+        const CoreLent lent(*pool_);
+        result_.wait();
     }
-    wake_.notify_one();
-    if (thread_.joinable()) {
-        thread_.join();
-    }
-}
-
-bool SaveWorker::StartThread() {
-    if (!onThread_) {
-        return false;
-    }
-    if (!thread_.joinable()) {
-        try {
-            thread_ = std::thread([this] { Work(); });
-        } catch (const std::system_error&) {
-            return false;
-        }
-    }
-    return true;
 }
 
 void SaveWorker::Begin(Job job) {
-    if (!StartThread()) {
-        result_ = Done(job);
-        return;
+    std::packaged_task<SaveResult()> task(std::move(job));
+    result_ = task.get_future();
+    if (pool_ == nullptr || !pool_->Begin(task, weight_)) {
+        task();
     }
-    {
-        const std::lock_guard lock(mutex_);
-        job_ = std::move(job);
-    }
-    wake_.notify_one();
 }
 
-bool SaveWorker::Wait(int milliseconds) {
-    std::unique_lock lock(mutex_);
-    return done_.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                          [this] { return result_.has_value(); });
+bool SaveWorker::Wait(int milliseconds) const {
+    return result_.wait_for(std::chrono::milliseconds(milliseconds)) == std::future_status::ready;
 }
 
 SaveResult SaveWorker::Take() {
-    const std::lock_guard lock(mutex_);
-    SaveResult result = std::move(*result_);
-    result_.reset();
-    return result;
-}
-
-SaveResult SaveWorker::DoneWithCore(const Job& job) {
-    if (cores_ == nullptr) {
-        return Done(job);
-    }
-    const CoreTaken core(*cores_);
-    return Done(job);
-}
-
-void SaveWorker::Work() {
-    std::unique_lock lock(mutex_);
-    while (true) {
-        wake_.wait(lock, [this] { return ending_ || job_; });
-        if (!job_) {
-            return;
-        }
-        const Job job = std::exchange(job_, nullptr);
-        lock.unlock();
-        SaveResult result = DoneWithCore(job);
-        lock.lock();
-        result_ = std::move(result);
-        done_.notify_all();
-    }
+    SaveResult result;
+    const Reason error = Attempt([&] { result = result_.get(); });
+    return error.isEmpty() ? result : SaveResult{false, error};
 }
 
 }  // namespace varnel

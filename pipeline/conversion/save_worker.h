@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A thread that writes one picture while the next is converted.
+// Writing one file while the caller does something else. Throws std::bad_alloc only.
 #pragma once
 
-#include <condition_variable>
 #include <functional>
-#include <mutex>
-#include <optional>
-#include <thread>
+#include <future>
 
 #include "base/thread_runner.h"
 #include "remap/encode/save_bitmap.h"
@@ -17,13 +14,13 @@ namespace varnel {
 
 class SaveWorker {
   public:
-    // Whatever it throws becomes the reason.
+    // What it throws becomes the reason.
     using Job = std::function<SaveResult()>;
 
-    // Without a thread of its own it does its work when it is told to begin. The thread takes one
-    // of the cores while it works.
-    explicit SaveWorker(bool onThread = true, ThreadRunner* cores = nullptr)
-        : onThread_(onThread), cores_(cores) {}
+    // Without a pool each job is done where it is begun. The pool outlives the worker, whose owner
+    // holds one of the cores.
+    explicit SaveWorker(ThreadRunner* pool, TaskWeight weight = TaskWeight::Core)
+        : pool_(pool), weight_(weight) {}
     // Waits for what is under way.
     ~SaveWorker();
     SaveWorker(const SaveWorker&) = delete;
@@ -31,24 +28,15 @@ class SaveWorker {
 
     // Nothing else may be under way. Where the system gives no thread, the job is done at once.
     void Begin(Job job);
-    // Waits this many milliseconds at most; true when the result can be taken.
-    bool Wait(int milliseconds);
+    // Whether the result can be taken; waits for it this many milliseconds at most. The caller's
+    // core is given back meanwhile only if the caller sees to it.
+    bool Wait(int milliseconds) const;
     SaveResult Take();
 
   private:
-    bool StartThread();
-    SaveResult DoneWithCore(const Job& job);
-    void Work();
-
-    const bool onThread_;
-    ThreadRunner* const cores_;
-    std::mutex mutex_;
-    std::condition_variable wake_;
-    std::condition_variable done_;
-    Job job_;
-    std::optional<SaveResult> result_;
-    bool ending_ = false;
-    std::thread thread_;
+    ThreadRunner* const pool_;
+    const TaskWeight weight_;
+    std::future<SaveResult> result_;
 };
 
 }  // namespace varnel

@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 #include <QScopeGuard>
-#include <QThread>
 
 #include "base/run_time_error.h"
 #include "base/shortage.h"
@@ -59,7 +58,7 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
 }  // namespace
 
 FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-                     const GeneralSettings& settings, PictureReader& reader, Notices& notices,
+                     const GeneralSettings& settings, BatchWorkers workers, Notices& notices,
                      std::function<void(int)> queueChanged, QWidget* parent,
                      const FolderChooser::Volumes& volumes)
     : QDialog(parent),
@@ -67,7 +66,7 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
       queue_(queue),
       choices_(choices),
       settings_(settings),
-      reader_(reader),
+      workers_(workers),
       notices_(notices),
       queueChanged_(std::move(queueChanged)),
       lines_(std::make_unique<QueueModel>(queue)) {
@@ -267,9 +266,12 @@ BatchSummary FormBatch::Run() {
         progress_->Stop();
     });
     EventsMeanwhile wait;
-    ThreadRunner cores(QThread::idealThreadCount());
-    PrefetchingReader feed(reader_, MoreReaders(cores.Cores()), wait, settings_.AutoOrient, &cores);
-    return RunBatch(queue_, choices_, *progress_, PortsFor(feed));
+    ThreadRunner& pool = workers_.pool;
+    PrefetchingReader feed(workers_.reader, MoreReaders(pool.Cores()), wait, settings_.AutoOrient,
+                           &pool);
+    ConversionPorts ports = PortsFor(feed);
+    ports.cores = &pool;
+    return RunBatch(queue_, choices_, *progress_, ports);
 }
 
 void FormBatch::Stop() {

@@ -25,6 +25,12 @@ namespace varnel {
 class BatchProgress;
 class QueueModel;
 
+// What a batch reads and works with.
+struct BatchWorkers {
+    PictureReader& reader;
+    ThreadRunner& pool;
+};
+
 class FormBatch : public QDialog {
     Q_OBJECT
 
@@ -33,7 +39,7 @@ class FormBatch : public QDialog {
     // was chosen, file type and quality come from the settings, and what has no control here always
     // does. queueChanged hears the queue's new length.
     FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-              const GeneralSettings& settings, PictureReader& reader, Notices& notices,
+              const GeneralSettings& settings, BatchWorkers workers, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr,
               const FolderChooser::Volumes& volumes = MountedVolumes);
     ~FormBatch() override;
@@ -72,7 +78,7 @@ class FormBatch : public QDialog {
     RecordArray<ImageRecord>& queue_;
     BatchChoices& choices_;
     const GeneralSettings& settings_;
-    PictureReader& reader_;
+    BatchWorkers workers_;
     Notices& notices_;
     std::function<void(int)> queueChanged_;
     std::unique_ptr<QueueModel> lines_;

@@ -95,7 +95,7 @@ void AddGroupLabel(QGridLayout& grid, int gridRow, const QString& text) {
 }  // namespace
 
 FormMorph::FormMorph(const ImageRecord& image, FIBITMAP* previewSource,
-                     RecordArray<ImageRecord>& queue, Notices& notices,
+                     RecordArray<ImageRecord>& queue, ThreadRunner& pool, Notices& notices,
                      std::function<void(int)> queueChanged, QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormMorph>()),
@@ -103,7 +103,8 @@ FormMorph::FormMorph(const ImageRecord& image, FIBITMAP* previewSource,
       ends_(EndsFrom(image)),
       queue_(queue),
       notices_(notices),
-      queueChanged_(std::move(queueChanged)) {
+      queueChanged_(std::move(queueChanged)),
+      pool_(pool) {
     ui_->setupUi(this);
     BuildPairs();
     MarkUnused();
@@ -282,7 +283,7 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
         return;
     }
     SilentProgress silent;
-    RenderContext context{bitmaps_, [] { return true; }, &runner_};
+    RenderContext context{bitmaps_, [] { return true; }, &pool_};
     QString message;
     try {
         message = Shortage([&] {

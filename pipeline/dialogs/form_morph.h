@@ -33,7 +33,8 @@ class FormMorph : public QDialog {
     // previewSource is the photo at preview size and is copied; null for none. queueChanged hears
     // the queue's upper bound each time that images were added.
     FormMorph(const ImageRecord& image, FIBITMAP* previewSource, RecordArray<ImageRecord>& queue,
-              Notices& notices, std::function<void(int)> queueChanged, QWidget* parent = nullptr);
+              ThreadRunner& pool, Notices& notices, std::function<void(int)> queueChanged,
+              QWidget* parent = nullptr);
     ~FormMorph() override;
 
   private:
@@ -70,7 +71,7 @@ class FormMorph : public QDialog {
     Notices& notices_;
     std::function<void(int)> queueChanged_;
     Bitmaps bitmaps_;
-    ThreadRunner runner_;
+    ThreadRunner& pool_;
     QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
     std::array<bool, 3> pending_{};
     QString noPreview_ = tr("No preview");  // or why there is none

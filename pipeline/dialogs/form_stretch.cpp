@@ -68,15 +68,16 @@ PixelSize PixelsOf(QSize logical, double ratio) {
 }  // namespace
 
 FormStretch::FormStretch(const GeneralSettings& settings, PhotoLoader& photos,
-                         PhotoChooser choosePhoto, FileChooser& fileChooser, Notices& notices,
-                         QWidget* parent)
+                         PhotoChooser choosePhoto, FileChooser& fileChooser, ThreadRunner& pool,
+                         Notices& notices, QWidget* parent)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormStretch>()),
       settings_(settings),
       photos_(photos),
       choosePhoto_(std::move(choosePhoto)),
       fileChooser_(fileChooser),
-      notices_(notices) {
+      notices_(notices),
+      pool_(pool) {
     ui_->setupUi(this);
     ui_->BarStretch->hide();
     ui_->CmdCancelSave->hide();
@@ -201,7 +202,7 @@ void FormStretch::DrawPreview() {
         return;
     }
     SilentProgress silent;
-    RenderContext context{.bitmaps = bitmaps_, .runner = &runner_};
+    RenderContext context{.bitmaps = bitmaps_, .runner = &pool_};
     ShowShortage(Shortage([&] {
         RenderStretch(Curve(), SizeKind::Thumbnails, silent, context);
         ui_->PicStretch->Show(ImageOf(bitmaps_.ResultBitmap.get()));
@@ -230,7 +231,7 @@ void FormStretch::Save() {
 SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     BarProgress bar(ui_->BarStretch);
     CancellableProgress progress(bar, cancelled_);
-    RenderContext context{.bitmaps = bitmaps_, .runner = &runner_};
+    RenderContext context{.bitmaps = bitmaps_, .runner = &pool_};
     try {
         RenderStretch(Curve(), SizeKind::Large, progress, context);
     } catch (const SavingCancelled&) {
@@ -242,7 +243,7 @@ SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     }
     const OutputEncoding encoding(TypeOf(choice), settings_.JPEGcompression,
                                   settings_.JPEGchroma444);
-    return SaveMeanwhile({encoding, choice.name}, result, runner_, bar, cancelled_);
+    return SaveMeanwhile({encoding, choice.name}, result, pool_, bar, cancelled_);
 }
 
 void FormStretch::RenderAndSave(const SaveChoice& choice) {

@@ -32,7 +32,8 @@ class FormStretch : public QDialog {
     using PhotoChooser = std::function<QString(const QString& folder)>;
 
     FormStretch(const GeneralSettings& settings, PhotoLoader& photos, PhotoChooser choosePhoto,
-                FileChooser& fileChooser, Notices& notices, QWidget* parent = nullptr);
+                FileChooser& fileChooser, ThreadRunner& pool, Notices& notices,
+                QWidget* parent = nullptr);
     ~FormStretch() override;
 
     void Open(const QString& path);
@@ -65,7 +66,7 @@ class FormStretch : public QDialog {
     QString path_;
     BitmapHandle screenCopy_;  // the photo at most as large as a screen, for quick resizing
     Bitmaps bitmaps_;
-    ThreadRunner runner_;
+    ThreadRunner& pool_;
     QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
     QTimer fitTimer_{this};
     CancelFlag cancelled_ = false;

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "base/record_array.h"
+#include "base/thread_runner.h"
 #include "remap/image/bitmap.h"
 #include "state/records/gear_record.h"
 #include "state/records/image_record.h"
@@ -18,6 +19,7 @@ struct WorkingState {
     GearTable Gear;
     GeneralSettings settings;
     Bitmaps bitmaps;
+    ThreadRunner pool;  // the window's thread, which holds one of its cores, makes it
     // True while the controls are filled from a record; their handlers do nothing then.
     bool loadingControls = false;
 };

@@ -74,8 +74,8 @@ void ShowGearForms(TestWindow& workspace, const Look& look) {
 void ShowBatch(TestWindow& workspace, const Look& look) {
     BatchChoices choices;
     FormBatch batch(
-        workspace.state.BatchQueue, choices, workspace.state.settings, Reader(), workspace.notices,
-        [](int) {}, nullptr, &OneVolume);
+        workspace.state.BatchQueue, choices, workspace.state.settings,
+        {Reader(), workspace.state.pool}, workspace.notices, [](int) {}, nullptr, &OneVolume);
     Show(batch, look);
     batch.findChild<QAbstractButton*>(QStringLiteral("CmdBatchProcess"))->click();
     EXPECT_TRUE(Settle());
@@ -84,14 +84,15 @@ void ShowBatch(TestWindow& workspace, const Look& look) {
 
 void ShowToolForms(TestWindow& workspace, const Look& look) {
     FormMorph morph(workspace.state.Images(1), workspace.state.bitmaps.PreviewSourceBitmap.get(),
-                    workspace.state.BatchQueue, workspace.notices, [](int) {});
+                    workspace.state.BatchQueue, workspace.state.pool, workspace.notices,
+                    [](int) {});
     Show(morph, look);
     morph.findChild<QAbstractButton*>(QStringLiteral("CmdAddMorphToBatch"))->click();
     EXPECT_TRUE(Settle());
     look(morph);
     FormStretch stretch(
         workspace.state.settings, workspace.photos, [](const QString&) { return QString(); },
-        workspace.chooser, workspace.notices);
+        workspace.chooser, workspace.state.pool, workspace.notices);
     Show(stretch, look);
     stretch.Open(workspace.files.Path(QStringLiteral("a.bmp")));
     EXPECT_TRUE(Settle());

@@ -107,7 +107,7 @@ TEST_F(ShortageTest, OfTheStretchToolIsToldAndItOpensTheNextPhoto) {
     testing::NotedNotices notices;
     FormStretch form(
         workspace.state.settings, workspace.photos, [](const QString&) { return QString(); },
-        workspace.chooser, notices);
+        workspace.chooser, workspace.state.pool, notices);
     form.show();
     const QString path = workspace.files.Path(Text("a.bmp"));
     const auto open = [&] {
@@ -128,9 +128,9 @@ TEST_F(ShortageTest, OfTheMorphStandsInThePicturesPlace) {
     testing::NotedNotices notices;
     std::unique_ptr<FormMorph> form;
     const auto open = [&] {
-        form = std::make_unique<FormMorph>(workspace.Record(1),
-                                           workspace.state.bitmaps.PreviewSourceBitmap.get(),
-                                           workspace.state.BatchQueue, notices, [](int) {});
+        form = std::make_unique<FormMorph>(
+            workspace.Record(1), workspace.state.bitmaps.PreviewSourceBitmap.get(),
+            workspace.state.BatchQueue, workspace.state.pool, notices, [](int) {});
         form->show();
         QApplication::processEvents();
     };

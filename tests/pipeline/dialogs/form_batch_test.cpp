@@ -51,7 +51,8 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
         }
     }
     void Open() {
-        form = std::make_unique<FormBatch>(queue, choices, settings, testing::Reader(), notices,
+        form = std::make_unique<FormBatch>(queue, choices, settings,
+                                           BatchWorkers{testing::Reader(), pool}, notices,
                                            [this](int length) { lengths.append(length); });
         form->show();
     }
@@ -94,6 +95,7 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
     RecordArray<ImageRecord> queue;
     BatchChoices choices;
     GeneralSettings settings;
+    ThreadRunner pool;
     QList<int> lengths;
 };
 

@@ -28,7 +28,7 @@ class FormMorphTest : public testing::DialogTest<FormMorph> {
         image.TranslateY = 3.0F;
     }
     FormMorph& Open() {
-        form = std::make_unique<FormMorph>(image, source.get(), queue, notices,
+        form = std::make_unique<FormMorph>(image, source.get(), queue, pool, notices,
                                            [this](int bound) { bounds.push_back(bound); });
         form->show();
         QApplication::processEvents();
@@ -48,6 +48,7 @@ class FormMorphTest : public testing::DialogTest<FormMorph> {
     ImageRecord image = testing::FisheyeRecord();
     BitmapHandle source;
     RecordArray<ImageRecord> queue;
+    ThreadRunner pool;
     std::vector<int> bounds;
 };
 

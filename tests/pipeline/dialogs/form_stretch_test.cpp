@@ -37,7 +37,7 @@ class FormStretchTest : public ::testing::Test {
                   folders.append(folder);
                   return chosen;
               },
-              chooser, notices) {
+              chooser, pool, notices) {
         form.show();
         QApplication::processEvents();
     }
@@ -70,6 +70,7 @@ class FormStretchTest : public ::testing::Test {
     testing::FakeChooser chooser;
     testing::NotedNotices notices;
     PhotoLoader photos{testing::Reader()};
+    ThreadRunner pool;
     FormStretch form;
 };
 

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the batch and the command line do otherwise; what they have in common is tested through
+// them.
+
+#include "pipeline/conversion/conversion_run.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+
+#include "tests/support/bitmaps.h"
+#include "tests/support/files.h"
+#include "tests/support/records.h"
+#include "tests/support/texts.h"
+
+namespace varnel {
+namespace {
+
+using testing::Text;
+
+// Three photos without files. While a photo is converted the one before it is written for ever,
+// until the run waits for that.
+class ConversionRunTest : public ::testing::Test, public ConversionObserver, public SilentProgress {
+  protected:
+    void Begun(const Conversion& conversion) override {
+        log.append(Text("begun %1").arg(conversion.photo));
+    }
+    RenderProgress& Progress() override { return *this; }
+    void HandleEvents() override {
+        if (ended == 0 && begunToRead == 2) {  // the first is being written, the second rendered
+            stop = stopsMeanwhile;
+            written.set_value();
+            begunToRead = 0;
+        }
+    }
+    void Ended(const Conversion& conversion, const ConversionOutcome& outcome) override {
+        ++ended;
+        log.append(Text(outcome.end == ConversionEnd::Written ? "written %1" : "failed %1")
+                       .arg(conversion.photo));
+    }
+    bool StopAsked() override { return stop; }
+
+    ConversionRunEnd Go() {
+        ConversionTargets targets(plan.photos, {});
+        return RunConversions(plan, targets, *this, ports);
+    }
+
+    QStringList log;
+    std::promise<void> written;
+    bool stopsMeanwhile = false;
+    bool stop = false;
+    int ended = 0;
+    int begunToRead = 0;
+    ThreadRunner cores{3};
+    ConversionPlan plan{
+        .photos = {Text("/in/0"), Text("/in/1"), Text("/in/2")},
+        .records =
+            [this](qsizetype, const LoadedPicture&) {
+                ++begunToRead;
+                return ConversionRecords{{testing::FisheyeRecord()}};
+            },
+        .target = [](const QString& photo, const ImageRecord&) { return photo + Text(".tif"); },
+        .output = {}};
+    ConversionPorts ports{
+        .load =
+            [](const QString&) {
+                return LoadedPicture{
+                    LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
+            },
+        .save =
+            [this](const OutputEncoding&, FIBITMAP*, const QString& path) {
+                if (path.contains(u'0')) {
+                    written.get_future().wait();
+                }
+                return SaveResult{true, {}};
+            },
+        .readAhead = [](const QString&) { return true; },
+        .cores = &cores};
+};
+
+TEST_F(ConversionRunTest, TellsInOrderWhateverIsDoneAtTheSameTime) {
+    EXPECT_FALSE(Go().stopped);
+    EXPECT_EQ(log.join(u' '), Text("begun 0 written 0 begun 1 written 1 begun 2 written 2"));
+}
+
+TEST_F(ConversionRunTest, AskedToStopItDropsWhatWasBegunUnlessToldToFinishIt) {
+    stopsMeanwhile = true;
+    EXPECT_TRUE(Go().stopped);
+    EXPECT_EQ(log.join(u' '), Text("begun 0 written 0"));
+    log.clear();
+    ended = begunToRead = 0;
+    stop = false;
+    written = {};
+    plan.finishesBegun = true;
+    EXPECT_TRUE(Go().stopped);
+    EXPECT_EQ(log.join(u' '), Text("begun 0 written 0 begun 1 written 1"));
+}
+
+TEST_F(ConversionRunTest, NothingIsLeftWhenItIsAskedAfterTheLast) {
+    plan.photos.resize(2);
+    stopsMeanwhile = true;
+    plan.finishesBegun = true;
+    EXPECT_FALSE(Go().stopped);
+    EXPECT_EQ(log.size(), 4);
+}
+
+TEST_F(ConversionRunTest, APhotoThatWasNotReadAheadIsReadWhenTheLastFileIsWritten) {
+    written.set_value();
+    ports.readAhead = [](const QString&) { return false; };
+    int allRead = 0;
+    ports.allRead = [&allRead] { ++allRead; };
+    const auto load = ports.load;
+    ports.load = [&](const QString& path) {
+        log.append(Text("load ") + path.last(1));
+        return load(path);
+    };
+    Go();
+    EXPECT_EQ(log.join(u' '), Text("load 0 begun 0 written 0 load 1 begun 1 written 1 "
+                                   "load 2 begun 2 written 2"));
+    EXPECT_EQ(allRead, 1);
+}
+
+TEST_F(ConversionRunTest, APhotoThatIsGivenUpEndsItUntold) {
+    written.set_value();
+    const auto load = ports.load;
+    ports.load = [&](const QString& path) {
+        return path.contains(u'1') ? LoadedPicture::Refused(ReasonCode::Cancelled) : load(path);
+    };
+    EXPECT_TRUE(Go().stopped);
+    EXPECT_EQ(log.join(u' '), Text("begun 0 written 0"));
+}
+
+TEST(ConversionTargets, RefuseByTheirRules) {
+    const testing::PictureFolder files;
+    const QString photo = files.Text(Text("a"));
+    const QString other = files.Text(Text("b"));
+    const QString older = files.Text(Text("older"));
+    const QString fresh = files.Path(Text("new"));
+    ConversionTargets replacing({photo, other}, {});
+    EXPECT_FALSE(replacing.Take(photo, older) || replacing.Take(other, older));
+    EXPECT_FALSE(replacing.Check(photo, older, false) || replacing.Check(photo, fresh, true));
+    EXPECT_EQ(replacing.Check(photo, older, true).error, TargetError::DamagedPhoto);
+    EXPECT_EQ(replacing.Check(photo, photo, false).error, TargetError::IsThePhoto);
+    EXPECT_EQ(replacing.Check(photo, other, false).error, TargetError::IsPhotoOfRun);
+    EXPECT_EQ(replacing.Check(photo, files.Path({}), false).error, TargetError::IsFolder);
+    replacing.NoteWritten(photo, older, true);
+    EXPECT_FALSE(replacing.Check(other, older, true)) << "another half picture";
+
+    ConversionTargets keeping({photo, other}, {RepeatedName::LaterFails, ExistingFile::Kept});
+    EXPECT_EQ(keeping.Check(photo, older, false).error, TargetError::Exists);
+    EXPECT_FALSE(keeping.IsSkipped(older));
+    EXPECT_FALSE(keeping.Take(photo, older));
+    EXPECT_EQ(keeping.Take(other, older).error, TargetError::IsResultOfRun);
+    EXPECT_EQ(keeping.Take(other, older).photo, photo);
+    keeping.NoteWritten(photo, older, false);
+    EXPECT_EQ(keeping.Check(other, older, false).error, TargetError::IsResultOfRun);
+
+    const ConversionTargets skipping({photo}, {RepeatedName::LaterFails, ExistingFile::Skipped});
+    EXPECT_TRUE(skipping.IsSkipped(older));
+    EXPECT_FALSE(skipping.IsSkipped(fresh));
+}
+
+}  // namespace
+}  // namespace varnel

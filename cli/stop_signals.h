@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Ctrl-C and the termination signal as a request that the work looks at.
+// Ctrl-C and the termination signal as a request that the work looks at. Throws std::bad_alloc
+// only.
 #pragma once
 
 #include <QString>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What to do about a file that failed. Each text follows the reason and begins with "; ", or is
-// empty when the reason says enough.
+// empty when the reason says enough. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

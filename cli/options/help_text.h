@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What varnel-convert --help shows.
+// What varnel-convert --help shows. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Which name somebody may have meant.
+// Which known name a misspelt one may stand for. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The options of varnel-convert by name, in the groups in which --help shows them.
+// The options of varnel-convert by name, in the groups in which --help shows them. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QCommandLineParser>

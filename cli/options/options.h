@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The command line of varnel-convert.
+// The command line of varnel-convert. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a program of the command line says, and how it ends.
+// What a program of the command line says, and how it ends. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What became of one result, and its line of JSON.
+// What became of one result, and its line of JSON. Throws std::bad_alloc only.
 #pragma once
 
 #include <QByteArray>

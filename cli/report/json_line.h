@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// JSON Lines: one object a line.
+// JSON Lines: one object a line. Throws std::bad_alloc only.
 #pragma once
 
 #include <QByteArray>

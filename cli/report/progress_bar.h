@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How far a run is, on a terminal's last line.
+// How far a run is, on a terminal's last line. Throws std::bad_alloc only.
 #pragma once
 
 #include <QElapsedTimer>

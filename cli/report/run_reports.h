@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a run says of its photos and results, for people and for scripts.
+// What a run says of its photos and results, for people and for scripts. Throws std::bad_alloc
+// only.
 #pragma once
 
 #include <QString>

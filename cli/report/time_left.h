@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How long the rest of a run will take.
+// How long the rest of a run will take. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

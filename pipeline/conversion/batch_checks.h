@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What can be told of a batch before it runs.
+// What can be told of a batch before it runs. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Writing files for a run that shares its cores out.
+// Writing files for a run that shares its cores out. Throws std::bad_alloc only.
 #pragma once
 
 #include "base/thread_runner.h"

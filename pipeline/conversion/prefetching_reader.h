@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Photos read ahead by one or more decoders, taken in the order in which they were asked for.
+// Throws std::bad_alloc only.
 #pragma once
 
 #include <deque>
@@ -16,7 +17,7 @@ namespace varnel {
 
 class PrefetchingReader {
   public:
-    // Each reader reads one photo at a time; the first is somebody else's, who does not use it
+    // Each reader reads one photo at a time; the first is the caller's, who does not use it
     // meanwhile. As many more are started as further photos shall be read at once. Upright:
     // turned as their EXIF orientation says. With cores each decoder takes one while it works, and
     // the caller's is lent while it waits.

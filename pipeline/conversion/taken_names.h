@@ -3,6 +3,7 @@
 
 // Whose results the names of one run are. Two photos of one name, or of names that differ in their
 // endings alone, would have one result; what lies on the disk cannot tell of which of them it is.
+// Throws std::bad_alloc only.
 #pragma once
 
 #include <QMultiHash>

@@ -141,7 +141,7 @@ class CommandRun : public ConversionObserver {
     ConversionRecords Records(qsizetype photo, const LoadedPicture& picture) {
         const GearChoice& gears = request_.gears;
         const auto gear =
-            GearFor(gears, gears.forAll ? CameraInfo() : MetadataOf(picture.bitmap.get()).origin);
+            GearFor(gears, gears.forAll ? CameraInfo() : picture.bitmap->metadata.photo.origin);
         if (const auto* const error = std::get_if<QString>(&gear)) {
             return {{}, {ReasonCode::Words, *error}};
         }

@@ -20,7 +20,7 @@ void CheckAnswer(const std::uint8_t* data, std::size_t size) {
     constexpr std::uint64_t length = std::uint64_t{1} << 20;
     if (varnel::IsConsistent(answer, request, length)) {
         const std::uint64_t rows = varnel::RowBytes(answer);
-        if (rows > length || answer.extrasLength > length - rows) {
+        if (rows > length || answer.attributesLength > length - rows) {
             std::abort();
         }
         if (!varnel::ReasonOf(answer)) {
@@ -31,7 +31,8 @@ void CheckAnswer(const std::uint8_t* data, std::size_t size) {
 
 // What a described photo brings.
 const QByteArray& SoundBlock() {
-    static const QByteArray block = varnel::PackExtras(varnel::testing::DescribedPicture().get());
+    static const QByteArray block =
+        varnel::PackAttributes(varnel::LibraryMetadata(varnel::testing::DescribedPicture().get()));
     return block;
 }
 
@@ -58,26 +59,22 @@ QByteArray Damaged(QByteArray block, const std::uint8_t* data, std::size_t size)
     return block;
 }
 
-void CheckExtras(const QByteArray& block) {
-    const varnel::BitmapHandle bitmap(FreeImage_Allocate(1, 1, 24));
-    varnel::TakeExtras(block, bitmap.get());
-    const QByteArray packed = varnel::PackExtras(bitmap.get());
-    const varnel::BitmapHandle again(FreeImage_Allocate(1, 1, 24));
-    varnel::TakeExtras(packed, again.get());
-    if (varnel::PackExtras(again.get()) != packed) {
+void CheckAttributes(const QByteArray& block) {
+    const QByteArray packed = varnel::PackAttributes(varnel::UnpackAttributes(block));
+    if (varnel::PackAttributes(varnel::UnpackAttributes(packed)) != packed) {
         std::abort();
     }
 }
 
 // What is taken can be given to a bitmap and be written.
 void CheckMetadata(const QByteArray& block) {
-    const varnel::FileMetadata taken = varnel::TakeFileMetadata(block);
+    const varnel::FileMetadata taken = varnel::UnpackFileMetadata(block);
     const QByteArray packed = varnel::PackFileMetadata(taken);
-    if (varnel::PackFileMetadata(varnel::TakeFileMetadata(packed)) != packed) {
+    if (varnel::PackFileMetadata(varnel::UnpackFileMetadata(packed)) != packed) {
         std::abort();
     }
-    const varnel::BitmapHandle bitmap(FreeImage_Allocate(8, 8, 24));
-    varnel::GiveMetadata(taken, bitmap.get());
+    const varnel::BitmapHandle bitmap = varnel::NewBitmap({8, 8});
+    varnel::GiveMetadata(taken, *bitmap);
     for (const varnel::OutputType type : varnel::allOutputTypes) {
         varnel::EncodeBitmap(type, bitmap.get());
     }
@@ -88,8 +85,8 @@ void CheckMetadata(const QByteArray& block) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     CheckAnswer(data, size);
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    CheckExtras(bytes);
-    CheckExtras(Damaged(SoundBlock(), data, size));
+    CheckAttributes(bytes);
+    CheckAttributes(Damaged(SoundBlock(), data, size));
     CheckMetadata(bytes);
     CheckMetadata(Damaged(SoundMetadata(), data, size));
     return 0;

@@ -63,9 +63,9 @@ std::uint8_t Byte(double level) {
 }
 
 void StorePixel(std::uint8_t* pixel, const Colour& colour) {
-    pixel[FI_RGBA_BLUE] = Byte(colour.blue);
-    pixel[FI_RGBA_GREEN] = Byte(colour.green);
-    pixel[FI_RGBA_RED] = Byte(colour.red);
+    pixel[0] = Byte(colour.blue);
+    pixel[1] = Byte(colour.green);
+    pixel[2] = Byte(colour.red);
 }
 
 // The sum of four even numbers in [0, 1), set to mean 0 and deviation 1: a bell for the eye.
@@ -77,7 +77,7 @@ double Grain(int x, int y, int channel) {
     return sum * std::numbers::sqrt3;
 }
 
-void AddNoise(FIBITMAP* bitmap, double deviation, int threads) {
+void AddNoise(Bitmap* bitmap, double deviation, int threads) {
     const PixelSize size = SizeOf(bitmap);
     ForEachRow(size.height, threads, [&](int y) {
         const std::span<std::uint8_t> line = ScanLine(bitmap, y);

@@ -138,7 +138,7 @@ SaveResult TakeAndSave(const Sample& sample, const Order& order, const QString& 
     try {
         const BitmapHandle photo =
             TakeFisheye(order.up ? LookFromBelow : LookAt, ShotFor(sample, order.width));
-        SetMetadata(photo.get(), TakenWith(sample));
+        photo->metadata.photo = TakenWith(sample);
         return SaveBitmap({OutputType::Jpeg, jpegQuality}, photo.get(), fileName);
     } catch (const std::bad_alloc&) {
         return {false, ReasonCode::NotEnoughMemory};

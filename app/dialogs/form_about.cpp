@@ -3,7 +3,7 @@
 
 #include "app/dialogs/form_about.h"
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/library_messages.h"
 #include "ui_form_about.h"
 
 namespace varnel {
@@ -11,8 +11,8 @@ namespace varnel {
 FormAbout::FormAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::FormAbout>()) {
     ui_->setupUi(this);
     ui_->LabelRevision->setText(tr("Revision %1").arg(QStringLiteral(VARNEL_VERSION)));
-    ui_->LabelFreeimageVersion->setText(tr("Version %1").arg(LibraryText(FreeImage_GetVersion())));
-    ui_->LabelFreeimageNotice->setText(LibraryText(FreeImage_GetCopyrightMessage()));
+    ui_->LabelFreeimageVersion->setText(tr("Version %1").arg(LibraryVersion()));
+    ui_->LabelFreeimageNotice->setText(LibraryNotice());
     QFont title = ui_->LabelTitle->font();
     title.setPointSizeF(title.pointSizeF() * 1.8);
     title.setBold(true);

@@ -43,7 +43,7 @@ ContactSheetBox::ContactSheetBox(QWidget* parent) : QWidget(parent) {
     connect(&idle_, &QTimer::timeout, this, &ContactSheetBox::DrawNext);
 }
 
-void ContactSheetBox::Open(const ImageRecord& image, FIBITMAP* photo, bool smooth) {
+void ContactSheetBox::Open(const ImageRecord& image, const Bitmap* photo, bool smooth) {
     image_ = image;
     smooth_ = smooth;
     tiles_ = ContactTiles(image);

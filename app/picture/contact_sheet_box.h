@@ -23,7 +23,7 @@ class ContactSheetBox : public QWidget {
     explicit ContactSheetBox(QWidget* parent);
     // Of a record and its photo, which is read before this returns. Closes where there is no memory
     // for the tiles.
-    void Open(const ImageRecord& image, FIBITMAP* photo, bool smooth);
+    void Open(const ImageRecord& image, const Bitmap* photo, bool smooth);
     const std::vector<ContactTile>& Tiles() const { return tiles_; }
     // The picture of a tile; null while it is not drawn yet or when it cannot be.
     const QImage& Picture(std::size_t tile) const { return pictures_.at(tile); }

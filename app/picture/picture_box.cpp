@@ -47,7 +47,7 @@ PictureBox::PictureBox(const QString& hint, QWidget* parent) : QWidget(parent), 
     setMouseTracking(true);  // overlays change the cursor
 }
 
-void PictureBox::Show(FIBITMAP* bitmap, QSize full) {
+void PictureBox::Show(const Bitmap* bitmap, QSize full) {
     // In the screen's own form, so that painting copies and converts nothing.
     image_ = ImageOf(bitmap).convertToFormat(QImage::Format_RGB32);
     picture_ = full.isEmpty() ? image_.size() : full;

@@ -25,7 +25,7 @@ inline constexpr int pictureMargin = 12;  // logical pixels around and between p
 
 // What of a picture is there at full size.
 struct FullPicture {
-    FIBITMAP* bitmap = nullptr;
+    const Bitmap* bitmap = nullptr;
     const RegionRenderer* rows = nullptr;  // those that are there; null when all are
 };
 
@@ -36,7 +36,7 @@ class PictureBox : public QWidget {
     explicit PictureBox(const QString& hint, QWidget* parent = nullptr);
     // Null empties the box. full is the size of the picture that the bitmap is a reduced copy of;
     // without one the bitmap is the picture.
-    void Show(FIBITMAP* bitmap, QSize full = {});
+    void Show(const Bitmap* bitmap, QSize full = {});
     // Whether an empty box says what it is for.
     void SetHintShown(bool shown) {
         hintShown_ = shown;

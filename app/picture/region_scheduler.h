@@ -20,7 +20,7 @@ class RegionScheduler : public QObject {
 
     // What to draw from; null when there is nothing. Asked before each slice; busy() puts it off.
     struct Wish {
-        FIBITMAP* source = nullptr;
+        const Bitmap* source = nullptr;
         Projection projection = Projection::Rectilinear;
         ImageRecord image;
         RowSpan rows;

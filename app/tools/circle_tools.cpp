@@ -105,7 +105,7 @@ void CircleTools::PrepareCurrent() {
 }
 
 PixelSize CircleTools::PhotoSize() const {
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     return photo == nullptr ? PixelSize{} : SizeOf(photo);
 }
 
@@ -172,7 +172,7 @@ bool CircleTools::IsNewToGear(const ImageCircle& circle) {
 }
 
 void CircleTools::Find() {
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (photo == nullptr || workspace_.Current() == nullptr || workspace_.Busy()) {
         return;
     }

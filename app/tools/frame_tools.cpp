@@ -71,7 +71,7 @@ std::optional<ImageRecord> FrameTools::LiveRecord() const {
 }
 
 PixelSize FrameTools::PhotoSize() const {
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     return photo == nullptr ? PixelSize{} : SizeOf(photo);
 }
 

@@ -115,7 +115,7 @@ void LevelTools::OnToggled(bool on) {
 
 void LevelTools::Level() {
     const ImageRecord* const image = workspace_.Current();
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (image == nullptr || photo == nullptr || workspace_.Busy() || view_.Locked()) {
         return;
     }

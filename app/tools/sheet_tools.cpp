@@ -26,7 +26,7 @@ SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Workspace& wo
 }
 
 void SheetTools::Toggle() {
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (box_->isVisible()) {
         box_->hide();
     } else if (photo != nullptr && workspace_.Current() != nullptr && !workspace_.Busy()) {

@@ -29,7 +29,7 @@ class ZoomTools : public QObject {
     void OnResultShown();
     void OnRoomChanged();
 
-    FIBITMAP* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
+    const Bitmap* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
     RegionScheduler::Wish Wish() const;
     RowSpan VisibleRows() const;
     QPointF Middle(const PictureBox* box) const { return QRectF(box->rect()).center(); }

@@ -41,7 +41,7 @@ PixelSize WindowView::PictureRoom() const {
 }
 
 QSize WindowView::FullSize() const {
-    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const full = state_.bitmaps.FullSourceBitmap.get();
     if (full == nullptr) {
         return {};
     }
@@ -92,7 +92,7 @@ void WindowView::ShowTitle(const QString& photo) {
     window_->setWindowModified(unsaved_);
 }
 
-void WindowView::ShowResult(FIBITMAP* bitmap) {
+void WindowView::ShowResult(const Bitmap* bitmap) {
     parts_.pictures->To()->Show(bitmap, FullSize());
     for (const std::function<void()>& then : whenResultShown_) {
         then();
@@ -102,11 +102,11 @@ void WindowView::ShowResult(FIBITMAP* bitmap) {
 void WindowView::ShowOffer() {
     GearOffer offer;
     const int n = CurrentLine() + 1;
-    FIBITMAP* const photo = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (n >= 1 && n <= state_.Images.UpperBound()) {
         const bool asks = state_.settings.OfferGear && photo != nullptr;
-        offer =
-            OfferFor(asks ? MetadataOf(photo).origin : CameraInfo(), state_.Gear, state_.Images(n));
+        offer = OfferFor(asks ? photo->metadata.photo.origin : CameraInfo(), state_.Gear,
+                         state_.Images(n));
     }
     parts_.offer->Show(offer, state_.Gear);
 }

@@ -55,10 +55,10 @@ class WindowView : public WorkspaceView {
     void ShowLines(const RecordArray<ImageRecord>& images, int current,
                    const std::vector<int>& selected) override;
     void ShowRecord(const ImageRecord& image) override;
-    void ShowSource(FIBITMAP* bitmap) override {
+    void ShowSource(const Bitmap* bitmap) override {
         parts_.pictures->From()->Show(bitmap, FullSize());
     }
-    void ShowResult(FIBITMAP* bitmap) override;
+    void ShowResult(const Bitmap* bitmap) override;
     void NoteDrawn(const ImageRecord& image) override { drawn_ = image; }
     void ShowError(const QString& text) override {
         error_ = text;

@@ -136,8 +136,8 @@ void MDIForm1::OnProjection(int index) {
 
 // The pictures are made anew only when the window leaves another room for them.
 void MDIForm1::OnRoomChanged() {
-    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
-    FIBITMAP* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
+    const Bitmap* const full = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
     if (workspace_->Busy()) {
         roomSettled_.start(150);
         return;

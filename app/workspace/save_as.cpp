@@ -35,7 +35,7 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
     CancellableProgress progress(view_.Progress(), cancelled);
     try {
         Render(view_.ChosenProjection(), image, SizeKind::Large, progress, workspace);
-        FIBITMAP* const result = state_.bitmaps.ResultBitmap.get();
+        Bitmap* const result = state_.bitmaps.ResultBitmap.get();
         if (!state_.settings.WriteMetadata) {
             DropMetadata(result);
         }

@@ -114,7 +114,7 @@ bool Workspace::LoadAndReduce(int line) {
 }
 
 void Workspace::Reduce() {
-    FIBITMAP* const full = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const full = state_.bitmaps.FullSourceBitmap.get();
     const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
     state_.bitmaps.PreviewSourceBitmap.reset();
     state_.bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);

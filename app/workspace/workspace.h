@@ -52,8 +52,8 @@ class WorkspaceView {
     virtual void ShowLines(const RecordArray<ImageRecord>& images, int current,
                            const std::vector<int>& selected) = 0;
     virtual void ShowRecord(const ImageRecord& image) = 0;
-    virtual void ShowSource(FIBITMAP* bitmap) = 0;  // null empties the picture
-    virtual void ShowResult(FIBITMAP* bitmap) = 0;
+    virtual void ShowSource(const Bitmap* bitmap) = 0;  // null empties the picture
+    virtual void ShowResult(const Bitmap* bitmap) = 0;
     // The settings that the result to be shown next was made with.
     virtual void NoteDrawn(const ImageRecord& /*image*/) {}
     // What is wrong with the photo; empty when nothing is.

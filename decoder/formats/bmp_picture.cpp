@@ -9,6 +9,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace varnel {
 
@@ -126,7 +127,7 @@ BitmapHandle Copied(const QImage& image) {
 }
 
 // The largest header may name a profile within the file, its place counted from the header.
-void AddProfile(const PictureFile& file, const BmpHeader& header, FIBITMAP* bitmap) {
+void AddProfile(const PictureFile& file, const BmpHeader& header, BitmapMetadata& metadata) {
     constexpr std::int64_t largestHeader = 124;
     constexpr std::uint32_t embedded = 0x4D424544;  // "MBED"
     const QByteArray bytes = file.Read(fileHeaderBytes, largestHeader);
@@ -137,7 +138,7 @@ void AddProfile(const PictureFile& file, const BmpHeader& header, FIBITMAP* bitm
     const std::int64_t size = U32(bytes, 116);
     QByteArray profile = file.Read(fileHeaderBytes + U32(bytes, 112), size);
     if (size > 0 && profile.size() == size) {
-        FreeImage_CreateICCProfile(bitmap, profile.data(), static_cast<long>(size));
+        metadata.colourProfile = std::move(profile);
     }
 }
 
@@ -215,10 +216,10 @@ BitmapHandle LoadBmp(const PictureFile& file, const BmpHeader& header) {
     }
     BitmapHandle bitmap = Copied(image);
     if (header.perMeterX > 0 && header.perMeterY > 0) {
-        FreeImage_SetDotsPerMeterX(bitmap.get(), header.perMeterX);
-        FreeImage_SetDotsPerMeterY(bitmap.get(), header.perMeterY);
+        bitmap->metadata.dotsPerMetreX = static_cast<std::uint32_t>(header.perMeterX);
+        bitmap->metadata.dotsPerMetreY = static_cast<std::uint32_t>(header.perMeterY);
     }
-    AddProfile(file, header, bitmap.get());
+    AddProfile(file, header, bitmap->metadata);
     return bitmap;
 }
 

@@ -6,6 +6,7 @@
 #include <lcms2.h>
 
 #include <memory>
+#include <utility>
 
 namespace varnel {
 
@@ -66,23 +67,20 @@ BitmapHandle FromCmyk(FIBITMAP* cmyk, QByteArrayView profile) {
     return result;
 }
 
-BitmapHandle WithoutInks(BitmapHandle bitmap, FREE_IMAGE_FORMAT format, const PictureFile& file) {
-    const FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap.get());
-    const QByteArrayView bytes(static_cast<const char*>(profile->data),
-                               profile->data == nullptr ? 0 : profile->size);
+BitmapHandle FromInks(FIBITMAP* bitmap, FREE_IMAGE_FORMAT format, const PictureFile& file) {
+    BitmapMetadata metadata = LibraryMetadata(bitmap);
     const int flags = InkFlags(format);
-    if (flags == 0 || !IsProfileForCmyk(bytes)) {
-        return bitmap;
+    if (flags == 0 || !IsProfileForCmyk(metadata.colourProfile)) {
+        return nullptr;
     }
-    const BitmapHandle inks = file.Load(format, flags);
+    const LibraryBitmap inks = file.Load(format, flags);
     BitmapHandle colours = inks && FreeImage_GetColorType(inks.get()) == FIC_CMYK
-                               ? FromCmyk(inks.get(), bytes)
+                               ? FromCmyk(inks.get(), metadata.colourProfile)
                                : nullptr;
-    if (!colours) {
-        return bitmap;
+    if (colours) {
+        metadata.colourProfile.clear();
+        colours->metadata = std::move(metadata);
     }
-    CopyAllButPixels(colours.get(), bitmap.get());
-    FreeImage_DestroyICCProfile(colours.get());
     return colours;
 }
 

@@ -19,8 +19,9 @@ bool IsProfileForCmyk(QByteArrayView profile);
 // std::bad_alloc.
 BitmapHandle FromCmyk(FIBITMAP* cmyk, QByteArrayView profile);
 
-// The picture that the image library made of the file, or, where the file has inks with a profile
-// of theirs, a better one: the library takes inks by rule of thumb. Throws what the library throws.
-BitmapHandle WithoutInks(BitmapHandle bitmap, FREE_IMAGE_FORMAT format, const PictureFile& file);
+// Where the file has inks with a profile of theirs, a better picture than the one that the image
+// library made of it, with the metadata of that: the library takes inks by rule of thumb. Empty for
+// other files. Throws what the library throws.
+BitmapHandle FromInks(FIBITMAP* bitmap, FREE_IMAGE_FORMAT format, const PictureFile& file);
 
 }  // namespace varnel

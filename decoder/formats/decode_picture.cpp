@@ -64,34 +64,24 @@ PixelSize Within(PixelSize picture, PixelSize box) {
     return {scaled(picture.width), scaled(picture.height)};
 }
 
-PixelRows RowsOf(FIBITMAP* bitmap) {
-    return {reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), FreeImage_GetPitch(bitmap)};
+PixelRows RowsOf(Bitmap& bitmap) {
+    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch()};
 }
 
-// For a picture that was turned by the orientation: what belongs to its source besides pixels.
-void DescribeTurned(FIBITMAP* bitmap, FIBITMAP* source, int orientation) {
-    CopyAllButPixels(bitmap, source);
-    if (orientation != 1) {
-        FreeImage_SetThumbnail(bitmap, nullptr);
-    }
+// Those of a picture, for the same turned by the orientation.
+BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
     if (SwapsSides(orientation)) {
-        FreeImage_SetDotsPerMeterX(bitmap, FreeImage_GetDotsPerMeterY(source));
-        FreeImage_SetDotsPerMeterY(bitmap, FreeImage_GetDotsPerMeterX(source));
+        std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
     }
+    return metadata;
 }
 
 BitmapHandle Reduced(BitmapHandle bitmap, PixelSize box) {
-    const PixelSize is = SizeOf(bitmap.get());
+    const PixelSize is = bitmap->Size();
     const PixelSize wanted = Within(is, box);
-    if (is.width != wanted.width || is.height != wanted.height) {
-        bitmap.reset(FreeImage_Rescale(bitmap.get(), wanted.width, wanted.height, FILTER_BOX));
-        if (!bitmap) {
-            throw std::bad_alloc();
-        }
-    }
-    const BitmapHandle nothing(FreeImage_Allocate(1, 1, 24));
-    CopyAllButPixels(bitmap.get(), nothing.get());
-    return bitmap;
+    bitmap->metadata = {};
+    return is.width != wanted.width || is.height != wanted.height ? RescaledByBox(*bitmap, wanted)
+                                                                  : std::move(bitmap);
 }
 
 class Decoding {
@@ -179,7 +169,7 @@ class Decoding {
         if (turn_ != 1) {
             picture.size = Turned(picture.size, turn_);
             if (picture.bitmap) {
-                picture.bitmap = TurnedCopy(picture.bitmap.get());
+                picture.bitmap = TurnedCopy(*picture.bitmap);
             }
         }
         picture.orientation = orientation_;
@@ -187,14 +177,14 @@ class Decoding {
     }
 
     // By what the library has left to be done.
-    BitmapHandle TurnedCopy(FIBITMAP* bitmap) {
-        const PixelSize size = SizeOf(bitmap);
+    BitmapHandle TurnedCopy(Bitmap& bitmap) {
+        const PixelSize size = bitmap.Size();
         BitmapHandle turned = Room(Turned(size, turn_));
         if (!turned) {
             throw std::bad_alloc();
         }
-        TurnRows(size, {0, size.height}, RowsOf(bitmap), turn_, RowsOf(turned.get()));
-        DescribeTurned(turned.get(), bitmap, turn_);
+        TurnRows(size, {0, size.height}, RowsOf(bitmap), turn_, RowsOf(*turned));
+        turned->metadata = TurnedMetadata(std::move(bitmap.metadata), turn_);
         return turned;
     }
 
@@ -244,7 +234,7 @@ class Decoding {
         if (FreeImage_FIFSupportsNoPixels(format_) != TRUE) {
             return std::nullopt;
         }
-        const BitmapHandle header = file_.Load(format_, FIF_LOAD_NOPIXELS);
+        const LibraryBitmap header = file_.Load(format_, FIF_LOAD_NOPIXELS);
         return header ? std::optional(Stated(header.get())) : std::nullopt;
     }
 
@@ -280,7 +270,7 @@ class Decoding {
             picture = Whole();
         }
         if (picture.bitmap && format_ == FIF_RAW) {
-            NoteUnturnedPreview(SizeOf(picture.bitmap.get()));
+            NoteUnturnedPreview(picture.bitmap->Size());
         }
         if (picture.bitmap) {
             picture.bitmap = Reduced(std::move(picture.bitmap), Turned(request_.box, turn_));
@@ -310,15 +300,14 @@ class Decoding {
         }
         const PixelSize size = Pixels(*stated_);
         BitmapHandle bitmap = Room(Turned(size, turn_));
-        if (!bitmap) {
-            return nullptr;
+        std::optional<BitmapMetadata> metadata;
+        if (bitmap) {
+            metadata = ReadJpegPixels(file_.File(), size, RowsOf(*bitmap), turn_);
         }
-        const BitmapHandle metadata =
-            ReadJpegPixels(file_.File(), size, RowsOf(bitmap.get()), turn_);
         if (!metadata) {
             return nullptr;
         }
-        DescribeTurned(bitmap.get(), metadata.get(), turn_);
+        bitmap->metadata = TurnedMetadata(std::move(*metadata), turn_);
         turn_ = 1;
         return bitmap;
     }
@@ -329,18 +318,30 @@ class Decoding {
         }
         const std::optional<BmpHeader> bmp =
             format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
-        BitmapHandle bitmap;
+        LibraryBitmap bitmap;
         if (!bmp || !NeedsBmpReader(*bmp)) {
             bitmap = file_.Load(format_, WholeFlags(format_));
         }
-        if (!bitmap && bmp) {
-            bitmap = LoadBmp(file_, *bmp);
-        }
-        return Judged(std::move(bitmap));
+        return !bitmap && bmp ? Judged(LoadBmp(file_, *bmp)) : Judged(std::move(bitmap));
     }
 
-    // What the library gave, as an answer.
+    // What a reader of ours gave, as an answer.
     LoadedPicture Judged(BitmapHandle bitmap) {
+        if (!bitmap) {
+            return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
+        }
+        const PixelSize size = bitmap->Size();
+        if (const Reason error = Error({size.width, size.height}); !error.isEmpty()) {
+            return LoadedPicture::Refused(error);
+        }
+        if (!IsProfileForRgb(bitmap->metadata.colourProfile)) {
+            bitmap->metadata.colourProfile.clear();
+        }
+        return Answered(std::move(bitmap));
+    }
+
+    // What the library gave, likewise.
+    LoadedPicture Judged(LibraryBitmap bitmap) {
         if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
@@ -353,11 +354,14 @@ class Decoding {
             FreeImage_CreateICCProfile(bitmap.get(), profile.data(),
                                        static_cast<long>(profile.size()));
         }
-        bitmap = To24Bits(WithoutInks(std::move(bitmap), format_, file_));
-        if (!bitmap) {
-            return LoadedPicture::Refused(ReasonCode::NoTrueColour);
-        }
-        const PixelSize size = SizeOf(bitmap.get());
+        BitmapHandle inks = FromInks(bitmap.get(), format_, file_);
+        BitmapHandle colours = inks ? std::move(inks) : To24Bits(std::move(bitmap));
+        return colours ? Answered(std::move(colours))
+                       : LoadedPicture::Refused(ReasonCode::NoTrueColour);
+    }
+
+    LoadedPicture Answered(BitmapHandle bitmap) const {
+        const PixelSize size = bitmap->Size();
         const Reason damage = DamageOf(format_, file_, messages_.Lines());
         return {damage.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged, std::move(bitmap),
                 damage, size};

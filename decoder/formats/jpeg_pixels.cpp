@@ -10,8 +10,9 @@
 #include <cstdint>
 #include <vector>
 
+#include "remap/image/freeimage_bitmap.h"
 #include "remap/image/jpeg_errors.h"
-#include "remap/image/row_pitch.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
@@ -168,13 +169,13 @@ QByteArray TinyPicture(bool isGrey) {
 }
 
 // The library reads metadata out of a JPEG only.
-BitmapHandle WithMetadata(const QByteArray& segments, bool isGrey) {
+std::optional<BitmapMetadata> MetadataIn(const QByteArray& segments, bool isGrey) {
     QByteArray file = QByteArray("\xFF\xD8", 2) + segments + TinyPicture(isGrey);
     FIMEMORY* const memory =
         FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    BitmapHandle bitmap(FreeImage_LoadFromMemory(FIF_JPEG, memory, JPEG_ACCURATE));
+    const LibraryBitmap bitmap(FreeImage_LoadFromMemory(FIF_JPEG, memory, JPEG_ACCURATE));
     FreeImage_CloseMemory(memory);
-    return bitmap;
+    return bitmap ? std::optional(LibraryMetadata(bitmap.get())) : std::nullopt;
 }
 
 bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientation) {
@@ -199,26 +200,27 @@ bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientati
 
 }  // namespace
 
-BitmapHandle ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows, int orientation) {
+std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows,
+                                             int orientation) {
     std::rewind(file);
     JpegDecoder decoder(file);
     if (!decoder.Start(expected)) {
-        return nullptr;
+        return std::nullopt;
     }
     const QByteArray segments = decoder.Metadata();
     const bool warnedEarly = decoder.HasWarned();
     if (!AllRows(decoder, expected, rows, orientation)) {
-        return nullptr;
+        return std::nullopt;
     }
     // In the order of the library's own work.
     if (warnedEarly) {
         FreeImage_OutputMessageProc(FIF_JPEG, "%s", decoder.Warning());
     }
-    BitmapHandle bitmap = WithMetadata(segments, decoder.IsGrey());
+    std::optional<BitmapMetadata> metadata = MetadataIn(segments, decoder.IsGrey());
     if (!warnedEarly && decoder.HasWarned()) {
         FreeImage_OutputMessageProc(FIF_JPEG, "%s", decoder.Warning());
     }
-    return bitmap;
+    return metadata;
 }
 
 }  // namespace varnel

@@ -5,20 +5,21 @@
 #pragma once
 
 #include <cstdio>
+#include <optional>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/bitmap_metadata.h"
 #include "remap/image/exif_orientation.h"
 
 namespace varnel {
 
 // Decodes a JPEG of 8 bits in grey or colour with red, green and blue to rows of 24 bits, turned by
 // the orientation: else the same pixels as the library's, decoded accurately. Its messages come as
-// from the library. The photo's metadata, colour profile and resolution, as the library reads them,
-// come on a picture of 8 x 8 pixels. Its file is the caller's, its position anywhere; the expected
-// size is that of the picture as it is stored. Empty, with any pixels and no message, when the
+// from the library. Returns comments, colour profile and resolution as the library reads them. The
+// file is the caller's, its position anywhere; the expected size is that of the picture as it is
+// stored. Nothing, with any pixels and no message, when the
 // photo is to be left to the library: it is of another kind or size, or an error ends its decoding.
 // Throws std::bad_alloc.
-BitmapHandle ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows,
-                            int orientation = 1);
+std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows,
+                                             int orientation = 1);
 
 }  // namespace varnel

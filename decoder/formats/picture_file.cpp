@@ -78,10 +78,10 @@ FREE_IMAGE_FORMAT PictureFile::Format() const {
                                                                                  : FIF_UNKNOWN;
 }
 
-BitmapHandle PictureFile::Load(FREE_IMAGE_FORMAT format, int flags) const {
+LibraryBitmap PictureFile::Load(FREE_IMAGE_FORMAT format, int flags) const {
     FreeImageIO io = OpenFile();
     std::rewind(file_);
-    return BitmapHandle(FreeImage_LoadFromHandle(format, &io, HandleOf(*this), flags));
+    return LibraryBitmap(FreeImage_LoadFromHandle(format, &io, HandleOf(*this), flags));
 }
 
 }  // namespace varnel

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <vector>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
@@ -28,7 +28,7 @@ class PictureFile {
     // By the contents, never by a name. FIF_UNKNOWN when no reader wants the file.
     FREE_IMAGE_FORMAT Format() const;
     // Empty when the library refuses. May throw whatever its readers throw.
-    BitmapHandle Load(FREE_IMAGE_FORMAT format, int flags) const;
+    LibraryBitmap Load(FREE_IMAGE_FORMAT format, int flags) const;
 
     // For the library: fills the buffer from where the file is.
     unsigned Fill(void* buffer, unsigned size, unsigned count) const;

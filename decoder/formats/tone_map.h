@@ -4,7 +4,7 @@
 // Floating-point colour brought to what a screen shows.
 #pragma once
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 

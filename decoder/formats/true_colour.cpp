@@ -9,6 +9,7 @@
 #include <cmath>
 #include <memory>
 #include <new>
+#include <utility>
 
 #include "decoder/formats/tone_map.h"
 
@@ -34,10 +35,10 @@ void ReplaceNonNumbers(FIBITMAP* bitmap) {
 }
 
 // Grey of other kinds has no direct way to 24 bits.
-BitmapHandle ToGrey8(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
+LibraryBitmap ToGrey8(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
     switch (type) {
         case FIT_UINT16:  // the upper eight bits, as of 16-bit colour
-            return BitmapHandle(FreeImage_ConvertTo8Bits(bitmap));
+            return LibraryBitmap(FreeImage_ConvertTo8Bits(bitmap));
         case FIT_FLOAT:
             ReplaceNonNumbers<float>(bitmap);
             break;
@@ -47,7 +48,12 @@ BitmapHandle ToGrey8(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
         default:
             break;
     }
-    return BitmapHandle(FreeImage_ConvertToStandardType(bitmap, TRUE));
+    return LibraryBitmap(FreeImage_ConvertToStandardType(bitmap, TRUE));
+}
+
+BitmapHandle ConvertedByLibrary(FIBITMAP* bitmap) {
+    LibraryBitmap converted(FreeImage_ConvertTo24Bits(bitmap));
+    return converted ? TakeOver(std::move(converted)) : throw std::bad_alloc();
 }
 
 BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
@@ -55,13 +61,13 @@ BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
         case FIT_BITMAP:
         case FIT_RGB16:
         case FIT_RGBA16:
-            return BitmapHandle(FreeImage_ConvertTo24Bits(bitmap));
+            return ConvertedByLibrary(bitmap);
         case FIT_RGBF:
         case FIT_RGBAF:
             return ToneMapped(bitmap);
         default: {
-            const BitmapHandle grey = ToGrey8(bitmap, type);
-            return BitmapHandle(grey ? FreeImage_ConvertTo24Bits(grey.get()) : nullptr);
+            const LibraryBitmap grey = ToGrey8(bitmap, type);
+            return grey ? ConvertedByLibrary(grey.get()) : throw std::bad_alloc();
         }
     }
 }
@@ -93,35 +99,19 @@ bool IsProfileForRgb(QByteArrayView profile) {
            static_cast<quint32>(cmsGetTagCount(opened.get())) == number(tagCount);
 }
 
-BitmapHandle To24Bits(BitmapHandle bitmap) {
+BitmapHandle To24Bits(LibraryBitmap bitmap) {
     const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.get());
     if (type == FIT_COMPLEX || type == FIT_UNKNOWN) {
         return nullptr;
     }
-    BitmapHandle result;
-    FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap.get());
+    BitmapMetadata metadata = LibraryMetadata(bitmap.get());
     // Tone-mapped colours are no longer those of the profile.
-    const bool keepProfile =
-        !IsFloatColour(type) && IsProfileForRgb({static_cast<const char*>(profile->data),
-                                                 static_cast<qsizetype>(profile->size)});
-    if (type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24) {
-        result = std::move(bitmap);
-        if (!keepProfile) {
-            FreeImage_DestroyICCProfile(result.get());
-        }
-        return result;
+    if (IsFloatColour(type) || !IsProfileForRgb(metadata.colourProfile)) {
+        metadata.colourProfile.clear();
     }
-    result = Converted(bitmap.get(), type);
-    if (!result) {
-        throw std::bad_alloc();
-    }
-    FreeImage_CloneMetadata(result.get(), bitmap.get());
-    FreeImage_SetDotsPerMeterX(result.get(), FreeImage_GetDotsPerMeterX(bitmap.get()));
-    FreeImage_SetDotsPerMeterY(result.get(), FreeImage_GetDotsPerMeterY(bitmap.get()));
-    FreeImage_DestroyICCProfile(result.get());
-    if (keepProfile) {
-        FreeImage_CreateICCProfile(result.get(), profile->data, static_cast<long>(profile->size));
-    }
+    const bool isReady = type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24;
+    BitmapHandle result = isReady ? TakeOver(std::move(bitmap)) : Converted(bitmap.get(), type);
+    result->metadata = std::move(metadata);
     return result;
 }
 

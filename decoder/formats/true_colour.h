@@ -6,13 +6,13 @@
 
 #include <QByteArrayView>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
 // With metadata and resolution, and with the colour profile where it describes red, green and blue
 // as they then are. Empty when the pixels are no picture (complex numbers). Throws std::bad_alloc.
-BitmapHandle To24Bits(BitmapHandle bitmap);
+BitmapHandle To24Bits(LibraryBitmap bitmap);
 
 // Whether an ICC profile is sound and describes red, green and blue.
 bool IsProfileForRgb(QByteArrayView profile);

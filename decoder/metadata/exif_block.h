@@ -7,6 +7,7 @@
 
 #include <exiv2/exif.hpp>
 
+#include "base/pixel_size.h"
 #include "remap/image/photo_metadata.h"
 
 namespace varnel {

@@ -261,10 +261,11 @@ void Prepare() {
 
 MetadataRequest WantedFor(const LoadedPicture& picture) {
     MetadataRequest wanted{picture.size, picture.orientation};
-    if (FIBITMAP* const bitmap = picture.bitmap.get()) {
-        wanted.dotsPerMetreX = FreeImage_GetDotsPerMeterX(bitmap);
-        wanted.dotsPerMetreY = FreeImage_GetDotsPerMeterY(bitmap);
-        wanted.hasProfile = FreeImage_GetICCProfile(bitmap)->data != nullptr;
+    if (picture.bitmap) {
+        const BitmapMetadata& metadata = picture.bitmap->metadata;
+        wanted.dotsPerMetreX = metadata.dotsPerMetreX;
+        wanted.dotsPerMetreY = metadata.dotsPerMetreY;
+        wanted.hasProfile = !metadata.colourProfile.isEmpty();
     }
     return wanted;
 }

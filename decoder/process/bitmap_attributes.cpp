@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A block is a head, then items; an item is its head, its key and its value.
-#include <array>
-#include <cstring>
-#include <optional>
+// All metadata on their way from the decoder: as Qt's data streams, in the order of the members.
+#include <QDataStream>
+#include <QIODevice>
 
 #include "decoder/process/protocol.h"
 
@@ -12,191 +11,104 @@ namespace varnel {
 
 namespace {
 
-struct BlockHead {
-    std::uint32_t dotsPerMetreX = 0;
-    std::uint32_t dotsPerMetreY = 0;
-};
+constexpr qsizetype entryLength = 12;  // bytes of a TIFF directory's entry
 
-constexpr std::uint32_t colourProfile = 0xFFFFFFFF;  // in place of a metadata model
-
-struct ItemHead {
-    std::uint32_t model = 0;
-    std::uint32_t type = 0;   // of a tag's values; for the colour profile its flags
-    std::uint32_t id = 0;     // the tag's number
-    std::uint32_t count = 0;  // of values
-    std::uint32_t keyLength = 0;
-    std::uint32_t valueLength = 0;  // bytes
-};
-
-template <class T>
-void Append(QByteArray& block, const T& value) {
-    block.append(reinterpret_cast<const char*>(&value), sizeof value);
+QDataStream& operator<<(QDataStream& out, const ExifBlock& exif) {
+    return out << exif.bytes << exif.width << exif.height << exif.thumbnail << exif.thumbnailLength
+               << exif.thumbnailRoom;
 }
 
-void AppendItem(QByteArray& block, const ItemHead& head, const char* key, const void* value) {
-    Append(block, head);
-    block.append(key, head.keyLength);
-    block.append(static_cast<const char*>(value), head.valueLength);
+QDataStream& operator>>(QDataStream& in, ExifBlock& exif) {
+    return in >> exif.bytes >> exif.width >> exif.height >> exif.thumbnail >>
+           exif.thumbnailLength >> exif.thumbnailRoom;
 }
 
-void AppendTag(QByteArray& block, FREE_IMAGE_MDMODEL model, FITAG* tag) {
-    const char* const key = FreeImage_GetTagKey(tag);
-    const void* const value = FreeImage_GetTagValue(tag);
-    if (key == nullptr || value == nullptr) {
-        return;
-    }
-    AppendItem(
-        block,
-        {static_cast<std::uint32_t>(model), static_cast<std::uint32_t>(FreeImage_GetTagType(tag)),
-         FreeImage_GetTagID(tag), FreeImage_GetTagCount(tag),
-         static_cast<std::uint32_t>(std::strlen(key)), FreeImage_GetTagLength(tag)},
-        key, value);
+QDataStream& operator<<(QDataStream& out, const CameraInfo& origin) {
+    return out << origin.Make << origin.Model << origin.LensMake << origin.LensModel
+               << origin.FocalLength << origin.FNumber;
 }
 
-void AppendModel(QByteArray& block, FIBITMAP* bitmap, FREE_IMAGE_MDMODEL model) {
-    FITAG* tag = nullptr;
-    FIMETADATA* const search = FreeImage_FindFirstMetadata(model, bitmap, &tag);
-    if (search == nullptr) {
-        return;
-    }
-    do {
-        AppendTag(block, model, tag);
-    } while (FreeImage_FindNextMetadata(search, &tag) == TRUE);
-    FreeImage_FindCloseMetadata(search);
+QDataStream& operator>>(QDataStream& in, CameraInfo& origin) {
+    return in >> origin.Make >> origin.Model >> origin.LensMake >> origin.LensModel >>
+           origin.FocalLength >> origin.FNumber;
 }
 
-// Reads a block from its front; nothing once it is shorter than what is asked of it.
-class BlockReader {
-  public:
-    explicit BlockReader(const QByteArray& block) : rest_(block) {}
-
-    std::optional<QByteArrayView> Bytes(std::uint32_t length) {
-        if (static_cast<std::uint64_t>(rest_.size()) < length) {
-            return std::nullopt;
-        }
-        const QByteArrayView bytes = rest_.first(length);
-        rest_ = rest_.sliced(length);
-        return bytes;
-    }
-
-    template <class T>
-    std::optional<T> Value() {
-        const std::optional<QByteArrayView> bytes = Bytes(sizeof(T));
-        if (!bytes) {
-            return std::nullopt;
-        }
-        T value;
-        std::memcpy(&value, bytes->data(), sizeof value);
-        return value;
-    }
-
-    QByteArrayView Rest() const { return rest_; }
-
-  private:
-    QByteArrayView rest_;
-};
-
-struct TagDeleter {
-    void operator()(FITAG* tag) const { FreeImage_DeleteTag(tag); }
-};
-
-// Bytes of one value, by the tag's type; 0 where there is no such type.
-constexpr std::array<std::uint8_t, FIDT_IFD8 + 1> valueWidths{0, 1, 1, 2, 4, 8, 1, 1, 2, 4,
-                                                              8, 4, 8, 4, 4, 0, 8, 8, 8};
-
-// Whether the library may be given such a tag: it trusts counts.
-bool IsSound(const ItemHead& head) {
-    return head.model == FIMD_COMMENTS && head.type < valueWidths.size() && head.id <= 0xFFFF &&
-           head.keyLength > 0 && valueWidths[head.type] > 0 &&
-           std::uint64_t{valueWidths[head.type]} * head.count == head.valueLength;
+QDataStream& operator<<(QDataStream& out, const PhotoMetadata& photo) {
+    return out << photo.exif << photo.exifForJpeg << photo.tiffEntries << photo.iptc << photo.xmp
+               << photo.xmpPlace << photo.origin << photo.settings << photo.notes;
 }
 
-void TakeTag(const ItemHead& head, const QByteArray& key, QByteArrayView value, FIBITMAP* bitmap) {
-    const std::unique_ptr<FITAG, TagDeleter> tag(FreeImage_CreateTag());
-    // Zero bytes inside would make the library see another key than the one that was sent.
-    if (!tag || key.contains('\0')) {
-        return;
-    }
-    FITAG* const made = tag.get();
-    const bool filled =
-        FreeImage_SetTagKey(made, key.constData()) == TRUE &&
-        FreeImage_SetTagID(made, static_cast<WORD>(head.id)) == TRUE &&
-        FreeImage_SetTagType(made, static_cast<FREE_IMAGE_MDTYPE>(static_cast<int>(head.type))) ==
-            TRUE &&
-        FreeImage_SetTagCount(made, head.count) == TRUE &&
-        FreeImage_SetTagLength(made, head.valueLength) == TRUE &&
-        FreeImage_SetTagValue(made, value.data()) == TRUE;
-    if (filled) {
-        FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(static_cast<int>(head.model)), bitmap,
-                              key.constData(), made);
-    }
+QDataStream& operator>>(QDataStream& in, PhotoMetadata& photo) {
+    return in >> photo.exif >> photo.exifForJpeg >> photo.tiffEntries >> photo.iptc >> photo.xmp >>
+           photo.xmpPlace >> photo.origin >> photo.settings >> photo.notes;
 }
 
-void TakeColourProfile(const ItemHead& head, QByteArrayView value, FIBITMAP* bitmap) {
-    if (value.isEmpty()) {
-        return;
-    }
-    // The library copies the bytes; its parameter only lacks a const.
-    QByteArray copy = value.toByteArray();
-    FIICCPROFILE* const profile =
-        FreeImage_CreateICCProfile(bitmap, copy.data(), static_cast<long>(copy.size()));
-    if (profile != nullptr) {
-        profile->flags = static_cast<WORD>(head.type);
-    }
+bool HasRoom(const ExifBlock& exif, std::uint64_t place, std::uint64_t length) {
+    return place == 0 || place + length <= static_cast<std::uint64_t>(exif.bytes.size());
+}
+
+bool IsSound(const ExifBlock& exif) {
+    constexpr std::uint64_t number = 4;
+    const bool isTiff = exif.bytes.isEmpty() || exif.bytes.startsWith(QByteArrayView("II*\0", 4)) ||
+                        exif.bytes.startsWith(QByteArrayView("MM\0*", 4));
+    return isTiff && HasRoom(exif, exif.width, number) && HasRoom(exif, exif.height, number) &&
+           HasRoom(exif, exif.thumbnailLength, number) &&
+           HasRoom(exif, exif.thumbnail, exif.thumbnailRoom);
+}
+
+bool IsSound(const PhotoMetadata& metadata) {
+    return IsSound(metadata.exif) && IsSound(metadata.exifForJpeg) &&
+           metadata.exifForJpeg.bytes.size() <= longestExifInJpeg &&
+           metadata.tiffEntries.size() % entryLength == 0 &&
+           metadata.xmpPlace <= static_cast<std::uint64_t>(metadata.xmp.size());
+}
+
+// Keywords end at a zero byte once they are written.
+bool IsKeyword(const QByteArray& key) {
+    return !key.isEmpty() && !key.contains('\0');
 }
 
 }  // namespace
 
-QByteArray PackExtras(FIBITMAP* bitmap) {
+QByteArray PackAttributes(const BitmapMetadata& metadata) {
     QByteArray block;
-    Append(block,
-           BlockHead{FreeImage_GetDotsPerMeterX(bitmap), FreeImage_GetDotsPerMeterY(bitmap)});
-    const FIICCPROFILE* const profile = FreeImage_GetICCProfile(bitmap);
-    if (profile->data != nullptr && profile->size > 0) {
-        AppendItem(block, {colourProfile, profile->flags, 0, 0, 0, profile->size}, "",
-                   profile->data);
-    }
-    AppendModel(block, bitmap, FIMD_COMMENTS);
+    QDataStream out(&block, QIODevice::WriteOnly);
+    out << metadata.dotsPerMetreX << metadata.dotsPerMetreY << metadata.colourProfile
+        << metadata.comments;
     return block;
 }
 
-void TakeExtras(const QByteArray& block, FIBITMAP* bitmap) {
-    BlockReader reader(block);
-    const std::optional<BlockHead> blockHead = reader.Value<BlockHead>();
-    if (!blockHead) {
-        return;
+BitmapMetadata UnpackAttributes(const QByteArray& block) {
+    QDataStream in(block);
+    BitmapMetadata metadata;
+    in >> metadata.dotsPerMetreX >> metadata.dotsPerMetreY >> metadata.colourProfile;
+    if (in.status() != QDataStream::Ok) {
+        return {};
     }
-    FreeImage_SetDotsPerMeterX(bitmap, blockHead->dotsPerMetreX);
-    FreeImage_SetDotsPerMeterY(bitmap, blockHead->dotsPerMetreY);
-    while (const std::optional<ItemHead> head = reader.Value<ItemHead>()) {
-        const std::optional<QByteArrayView> key = reader.Bytes(head->keyLength);
-        const std::optional<QByteArrayView> value =
-            key ? reader.Bytes(head->valueLength) : std::nullopt;
-        if (!value) {
-            return;
-        }
-        if (head->model == colourProfile) {
-            TakeColourProfile(*head, *value, bitmap);
-        } else if (IsSound(*head)) {
-            TakeTag(*head, key->toByteArray(), *value, bitmap);
-        }
-    }
+    in >> metadata.comments;
+    metadata.comments.removeIf(
+        [](const std::pair<const QByteArray&, QByteArray&>& one) { return !IsKeyword(one.first); });
+    return metadata;
 }
 
 QByteArray PackFileMetadata(const FileMetadata& metadata) {
     QByteArray block;
-    Append(block, static_cast<std::uint32_t>(metadata.colourProfile.size()));
-    return block + metadata.colourProfile + PackMetadata(metadata.metadata);
+    QDataStream out(&block, QIODevice::WriteOnly);
+    out << metadata.colourProfile << metadata.metadata;
+    return block;
 }
 
-FileMetadata TakeFileMetadata(const QByteArray& block) {
-    BlockReader reader(block);
-    const std::optional<std::uint32_t> length = reader.Value<std::uint32_t>();
-    const std::optional<QByteArrayView> profile = length ? reader.Bytes(*length) : std::nullopt;
-    if (!profile) {
+FileMetadata UnpackFileMetadata(const QByteArray& block) {
+    QDataStream in(block);
+    FileMetadata metadata;
+    in >> metadata.colourProfile;
+    if (in.status() != QDataStream::Ok) {
         return {};
     }
-    return {UnpackMetadata(reader.Rest()), profile->toByteArray()};
+    in >> metadata.metadata;
+    const bool whole = in.status() == QDataStream::Ok && in.atEnd();
+    return whole && IsSound(metadata.metadata) ? metadata
+                                               : FileMetadata{{}, metadata.colourProfile};
 }
 
 }  // namespace varnel

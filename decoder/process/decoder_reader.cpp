@@ -159,14 +159,14 @@ void DecoderReader::FinishWithoutMetadata() {
 }
 
 FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
-    const std::uint64_t place = RowBytes(*first_) + first_->extrasLength;
+    const std::uint64_t place = RowBytes(*first_) + first_->attributesLength;
     const std::byte* const bytes = memory_->Map(place + answer.metadataLength);
     if (bytes == nullptr) {
         return UnreadMetadata();
     }
     FileMetadata taken =
-        TakeFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
-                                    static_cast<qsizetype>(answer.metadataLength)));
+        UnpackFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
+                                      static_cast<qsizetype>(answer.metadataLength)));
     // The decoder always has something to say, if only that Varnel wrote the file.
     const bool isNothing = taken.metadata.IsEmpty() && taken.metadata.notes.isEmpty();
     return isNothing ? UnreadMetadata() : taken;
@@ -247,32 +247,28 @@ LoadedPicture DecoderReader::PictureFrom(const DecoderAnswer& answer,
         picture.facts = metadata.metadata;
     }
     if (picture.bitmap) {
-        GiveMetadata(metadata, picture.bitmap.get());
+        GiveMetadata(metadata, *picture.bitmap);
     }
     return picture;
 }
 
 void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& picture) {
-    const std::uint64_t used = RowBytes(answer) + answer.extrasLength;
+    const std::uint64_t used = RowBytes(answer) + answer.attributesLength;
     std::byte* const bytes = memory_->Map(used);
     if (bytes == nullptr) {
         picture = LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
         return;
     }
     // A copy, so that nobody changes the block while it is read.
-    const QByteArray extras(reinterpret_cast<const char*>(bytes + RowBytes(answer)),
-                            static_cast<qsizetype>(answer.extrasLength));
-    BitmapHandle bitmap = BitmapOver(bytes, answer.bitmap);
-    if (!bitmap) {
-        picture = LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
-        return;
-    }
+    const QByteArray attributes(reinterpret_cast<const char*>(bytes + RowBytes(answer)),
+                                static_cast<qsizetype>(answer.attributesLength));
     auto owner = std::make_shared<PixelOwner>();
     owner->memory = std::move(memory_);
     owner->files = memoryFiles_;
     owner->used = used;
-    picture.bitmap = BitmapHandle(bitmap.release(), BitmapUnloader{std::move(owner)});
-    TakeExtras(extras, picture.bitmap.get());
+    picture.bitmap = std::make_unique<Bitmap>(PixelFormat::Bgr8, answer.bitmap,
+                                              std::shared_ptr<std::byte>(std::move(owner), bytes));
+    picture.bitmap->metadata = UnpackAttributes(attributes);
 }
 
 std::unique_ptr<PictureReader> NewPictureReader(const ReaderOptions& options) {

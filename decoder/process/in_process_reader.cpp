@@ -46,7 +46,7 @@ class InProcessReader : public PictureReader {
         if (request.kind == ReadKind::Facts) {
             answer_.facts = ReadMetadata(file, wanted).metadata;
         } else if (request.kind == ReadKind::Whole && answer_.bitmap) {
-            GiveMetadata(ReadMetadata(file, wanted), answer_.bitmap.get());
+            GiveMetadata(ReadMetadata(file, wanted), *answer_.bitmap);
         }
     }
 

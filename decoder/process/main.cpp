@@ -17,7 +17,7 @@
 #include "decoder/process/decoder_socket.h"
 #include "decoder/process/protocol.h"
 #include "decoder/process/sandbox.h"
-#include "remap/image/row_pitch.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
@@ -87,19 +87,18 @@ class Handover {
     int file_;
 };
 
-// False when there is no memory for rows and extras.
-bool HandOver(FIBITMAP* bitmap, const QByteArray& extras, const DecoderAnswer& answer,
+// False when there is no memory for rows and attributes.
+bool HandOver(const Bitmap& bitmap, const QByteArray& attributes, const DecoderAnswer& answer,
               Handover& handover) {
     std::byte* const rows = handover.Rows(RowBytes(answer));
     if (rows == nullptr) {
         return false;
     }
-    // Both have rows of whole four bytes, bottom row first.
-    if (const BYTE* const bits = FreeImage_GetBits(bitmap);
-        static_cast<const void*>(bits) != rows) {
-        std::memcpy(rows, bits, RowBytes(answer));
+    // Both have rows RowPitch apart, bottom row first.
+    if (static_cast<const void*>(bitmap.Bits()) != rows) {
+        std::memcpy(rows, bitmap.Bits(), RowBytes(answer));
     }
-    return handover.WriteAt(RowBytes(answer), extras);
+    return handover.WriteAt(RowBytes(answer), attributes);
 }
 
 DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& request,
@@ -113,15 +112,16 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     if (!picture.bitmap) {
         return answer;
     }
-    FIBITMAP* const bitmap = picture.bitmap.get();
-    QByteArray extras = request.kind == ReadKind::Whole ? PackExtras(bitmap) : QByteArray();
-    if (static_cast<std::uint64_t>(extras.size()) > longestExtras) {
-        extras.clear();
+    const Bitmap& bitmap = *picture.bitmap;
+    QByteArray attributes =
+        request.kind == ReadKind::Whole ? PackAttributes(bitmap.metadata) : QByteArray();
+    if (static_cast<std::uint64_t>(attributes.size()) > longestBlock) {
+        attributes.clear();
     }
-    answer.bitmap = SizeOf(bitmap);
-    answer.pitch = FreeImage_GetPitch(bitmap);
-    answer.extrasLength = static_cast<std::uint64_t>(extras.size());
-    if (!HandOver(bitmap, extras, answer, handover)) {
+    answer.bitmap = bitmap.Size();
+    answer.pitch = static_cast<std::uint32_t>(bitmap.Pitch());
+    answer.attributesLength = static_cast<std::uint64_t>(attributes.size());
+    if (!HandOver(bitmap, attributes, answer, handover)) {
         answer = DecoderAnswer{.number = request.number,
                                .outcome = static_cast<std::uint32_t>(LoadOutcome::NotLoaded)};
         SetReason(answer, ReasonCode::NotEnoughMemory);
@@ -137,8 +137,8 @@ bool SendMetadata(std::FILE* photo, const DecoderAnswer& first, const MetadataRe
     const QByteArray block = PackFileMetadata(ReadMetadata(photo, wanted));
     DecoderAnswer answer;
     answer.number = first.number;
-    if (static_cast<std::uint64_t>(block.size()) <= longestExtras &&
-        handover.WriteAt(RowBytes(first) + first.extrasLength, block)) {
+    if (static_cast<std::uint64_t>(block.size()) <= longestBlock &&
+        handover.WriteAt(RowBytes(first) + first.attributesLength, block)) {
         answer.metadataLength = static_cast<std::uint64_t>(block.size());
     }
     return SendMessage(decoderSocket, &answer, sizeof answer);

@@ -11,7 +11,7 @@
 
 #include "decoder/request/picture_limits.h"
 #include "remap/image/exif_orientation.h"
-#include "remap/image/row_pitch.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
@@ -48,7 +48,7 @@ bool IsConsistentReason(const DecoderAnswer& answer) {
 // A picture with no more of its own than a reason or a size.
 bool IsConsistentWithoutPixels(const DecoderAnswer& answer, const DecoderRequest& request) {
     if (answer.bitmap.width != 0 || answer.bitmap.height != 0 || answer.pitch != 0 ||
-        answer.extrasLength != 0) {
+        answer.attributesLength != 0) {
         return false;
     }
     const bool refused = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
@@ -71,8 +71,8 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
         return false;
     }
-    return answer.pitch == RowPitch(bitmap.width) && answer.extrasLength <= longestExtras &&
-           RowBytes(answer) + answer.extrasLength <= memoryFileLength;
+    return answer.pitch == RowPitch(bitmap.width) && answer.attributesLength <= longestBlock &&
+           RowBytes(answer) + answer.attributesLength <= memoryFileLength;
 }
 
 }  // namespace
@@ -93,8 +93,8 @@ bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
 
 bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
                           std::uint64_t memoryFileLength) {
-    return answer.number == first.number && answer.metadataLength <= longestExtras &&
-           RowBytes(first) + first.extrasLength + answer.metadataLength <= memoryFileLength;
+    return answer.number == first.number && answer.metadataLength <= longestBlock &&
+           RowBytes(first) + first.attributesLength + answer.metadataLength <= memoryFileLength;
 }
 
 void SetReason(DecoderAnswer& answer, const Reason& reason) {

@@ -37,14 +37,14 @@ inline constexpr std::uint32_t triedForbidden = 0xF0;
 // The memory file holds the rows, bottom row first, then what else belongs to the picture.
 struct DecoderAnswer {
     std::uint32_t number = 0;
-    std::uint32_t outcome = 0;       // as LoadOutcome, or triedForbidden
-    PixelSize size{};                // of the full picture
-    PixelSize bitmap{};              // of the pixels in the memory file, 0 x 0 when there are none
-    std::uint32_t pitch = 0;         // bytes from row to row
-    std::uint64_t extrasLength = 0;  // bytes after the rows
-    std::uint64_t metadataLength = 0;   // bytes after those
-    std::uint32_t metadataFollows = 0;  // not 0: they come with a second answer
-    std::int32_t orientation = 1;       // as in LoadedPicture
+    std::uint32_t outcome = 0;  // as LoadOutcome, or triedForbidden
+    PixelSize size{};           // of the full picture
+    PixelSize bitmap{};         // of the pixels in the memory file, 0 x 0 when there are none
+    std::uint32_t pitch = 0;    // bytes from row to row
+    std::uint64_t attributesLength = 0;  // bytes after the rows
+    std::uint64_t metadataLength = 0;    // bytes after those
+    std::uint32_t metadataFollows = 0;   // not 0: they come with a second answer
+    std::int32_t orientation = 1;        // as in LoadedPicture
     std::uint32_t reasonLength = 0;
     std::array<char, longestReason> reason{};  // its code and arguments as a stream
 };
@@ -69,17 +69,18 @@ bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& firs
 void SetReason(DecoderAnswer& answer, const Reason& reason);
 std::optional<Reason> ReasonOf(const DecoderAnswer& answer);
 
-// Resolution, colour profile and comments as one block of bytes, and back. Taking a block gives
-// back whatever of it is sound and drops the rest; any bytes may be given.
-QByteArray PackExtras(FIBITMAP* bitmap);
-void TakeExtras(const QByteArray& block, FIBITMAP* bitmap);
+// Resolution, colour profile and comments as one block of bytes, and back: what comes with the
+// pixels. Unpacking gives back whatever of a block is sound and drops the rest; any bytes may be
+// given.
+QByteArray PackAttributes(const BitmapMetadata& metadata);
+BitmapMetadata UnpackAttributes(const QByteArray& block);
 
-// The metadata, with a colour profile that the pixels came without, likewise. Metadata without
-// profile and pixels come back from a block that is not sound.
+// What the photo's file says, with a colour profile that the pixels came without, likewise. Empty
+// metadata come back from a block that is not sound.
 QByteArray PackFileMetadata(const FileMetadata& metadata);
-FileMetadata TakeFileMetadata(const QByteArray& block);
+FileMetadata UnpackFileMetadata(const QByteArray& block);
 
 // A block beyond this is not sent; the picture then comes without.
-inline constexpr std::uint64_t longestExtras = std::uint64_t{256} << 20;  // bytes
+inline constexpr std::uint64_t longestBlock = std::uint64_t{256} << 20;  // bytes
 
 }  // namespace varnel

@@ -6,7 +6,7 @@
 
 #include <QByteArray>
 
-#include "remap/image/photo_metadata.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
@@ -18,7 +18,7 @@ struct FileMetadata {
 // Of a file whose metadata were given up: a note that says so.
 FileMetadata UnreadMetadata();
 
-// Gives them to the picture of that file. Throws std::bad_alloc.
-void GiveMetadata(const FileMetadata& metadata, FIBITMAP* bitmap);
+// Gives them to the picture of that file, which keeps a colour profile that it has. Throws nothing.
+void GiveMetadata(const FileMetadata& metadata, Bitmap& bitmap);
 
 }  // namespace varnel

@@ -202,7 +202,7 @@ class Run : private RenderProgress {
     }
 
     void RenderTurn() {
-        FIBITMAP* const full = bitmaps_.FullSourceBitmap.get();
+        const Bitmap* const full = bitmaps_.FullSourceBitmap.get();
         if (plan_.preview && !bitmaps_.PreviewSourceBitmap) {
             bitmaps_.PreviewSourceBitmap =
                 ReducedCopy(full, PreviewSize(SizeOf(full), *plan_.preview, *plan_.preview));
@@ -232,7 +232,7 @@ class Run : private RenderProgress {
         }
     }
 
-    SaveResult Save(FIBITMAP* bitmap, const QString& path) {
+    SaveResult Save(Bitmap* bitmap, const QString& path) {
         const OutputChoices& output = plan_.output;
         if (!output.writeMetadata) {
             DropMetadata(bitmap);

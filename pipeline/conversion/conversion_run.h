@@ -96,7 +96,8 @@ class ConversionObserver {
 // How photos come in and go out.
 struct ConversionPorts {
     std::function<LoadedPicture(const QString& path)> load;
-    std::function<SaveResult(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& path)>
+    std::function<SaveResult(const OutputEncoding& encoding, const Bitmap* bitmap,
+                             const QString& path)>
         save{};  // none: SaveBitmap
     // Begins to read a photo that is loaded next after those it was given before; false when it had
     // better be read in its turn. Where this is there, one photo is read and another one written

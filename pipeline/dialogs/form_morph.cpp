@@ -94,7 +94,7 @@ void AddGroupLabel(QGridLayout& grid, int gridRow, const QString& text) {
 
 }  // namespace
 
-FormMorph::FormMorph(const ImageRecord& image, FIBITMAP* previewSource,
+FormMorph::FormMorph(const ImageRecord& image, const Bitmap* previewSource,
                      RecordArray<ImageRecord>& queue, ThreadRunner& pool, Notices& notices,
                      std::function<void(int)> queueChanged, QWidget* parent)
     : QDialog(parent),
@@ -199,7 +199,7 @@ void FormMorph::MarkUnused() {
     ui_->LabelUnused->setVisible(any);
 }
 
-void FormMorph::SetUpPictures(FIBITMAP* previewSource) {
+void FormMorph::SetUpPictures(const Bitmap* previewSource) {
     for (QLabel* const label : {ui_->PicFirst, ui_->PicBetween, ui_->PicLast}) {
         label->setMinimumSize(pictureBox.width, pictureBox.height);
         label->setWordWrap(true);

@@ -32,9 +32,9 @@ class FormMorph : public QDialog {
   public:
     // previewSource is the photo at preview size and is copied; null for none. queueChanged hears
     // the queue's upper bound each time that images were added.
-    FormMorph(const ImageRecord& image, FIBITMAP* previewSource, RecordArray<ImageRecord>& queue,
-              ThreadRunner& pool, Notices& notices, std::function<void(int)> queueChanged,
-              QWidget* parent = nullptr);
+    FormMorph(const ImageRecord& image, const Bitmap* previewSource,
+              RecordArray<ImageRecord>& queue, ThreadRunner& pool, Notices& notices,
+              std::function<void(int)> queueChanged, QWidget* parent = nullptr);
     ~FormMorph() override;
 
   private:
@@ -50,7 +50,7 @@ class FormMorph : public QDialog {
     // shows.
     QSlider* AddEnd(const SliderRowData& facts, GridPlace place, Picture picture, float& value);
     void MarkUnused();
-    void SetUpPictures(FIBITMAP* previewSource);
+    void SetUpPictures(const Bitmap* previewSource);
     void ConnectControls();
 
     // The number of images when it makes a sequence, else 0.

@@ -237,7 +237,7 @@ SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     } catch (const SavingCancelled&) {
         return {};
     }
-    FIBITMAP* const result = bitmaps_.ResultBitmap.get();
+    Bitmap* const result = bitmaps_.ResultBitmap.get();
     if (!settings_.WriteMetadata) {
         DropMetadata(result);
     }

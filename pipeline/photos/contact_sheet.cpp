@@ -72,7 +72,7 @@ void Adopt(const ContactTile& tile, ImageRecord& image) {
     }
 }
 
-BitmapHandle TilePicture(const ContactTile& tile, FIBITMAP* source, bool smooth) {
+BitmapHandle TilePicture(const ContactTile& tile, const Bitmap* source, bool smooth) {
     Bitmaps bitmaps;
     bitmaps.PreviewSourceBitmap = CloneBitmap(source);
     RenderContext context{bitmaps, [smooth] { return smooth; }};

@@ -28,6 +28,6 @@ std::vector<ContactTile> ContactTiles(const ImageRecord& image);
 void Adopt(const ContactTile& tile, ImageRecord& image);
 
 // The tile as the preview of its settings would show the source at this size. Throws as Render.
-BitmapHandle TilePicture(const ContactTile& tile, FIBITMAP* source, bool smooth);
+BitmapHandle TilePicture(const ContactTile& tile, const Bitmap* source, bool smooth);
 
 }  // namespace varnel

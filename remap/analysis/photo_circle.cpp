@@ -14,7 +14,7 @@ namespace {
 constexpr std::int32_t searchedSide = 1000;
 
 // The brightest channel: a rim may be of one colour, and the dark around it is dark in all.
-GreyPicture GreyOf(FIBITMAP* bitmap) {
+GreyPicture GreyOf(const Bitmap* bitmap) {
     GreyPicture grey{SizeOf(bitmap), {}};
     for (int y = grey.size.height - 1; y >= 0; --y) {
         const auto row = ScanLine(bitmap, y);
@@ -27,7 +27,7 @@ GreyPicture GreyOf(FIBITMAP* bitmap) {
 
 }  // namespace
 
-std::optional<FoundCircle> FindPhotoCircle(FIBITMAP* photo) {
+std::optional<FoundCircle> FindPhotoCircle(const Bitmap* photo) {
     constexpr PixelSize box{searchedSide, searchedSide};
     const PixelSize full = SizeOf(photo);
     const BitmapHandle reduced = ReducedCopy(photo, PreviewSize(full, box, box));

@@ -11,6 +11,6 @@ namespace varnel {
 
 // In pixels of the photo, 24 bits, as circle_finder.h says; looked for on a reduced copy. Throws
 // std::bad_alloc.
-std::optional<FoundCircle> FindPhotoCircle(FIBITMAP* photo);
+std::optional<FoundCircle> FindPhotoCircle(const Bitmap* photo);
 
 }  // namespace varnel

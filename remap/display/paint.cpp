@@ -10,7 +10,7 @@ namespace varnel {
 
 // Row by row: an image over the bitmap's memory, turned over by QImage, may still be over that
 // memory, as one of a single pixel is.
-QImage ImageOf(FIBITMAP* bitmap) {
+QImage ImageOf(const Bitmap* bitmap) {
     if (bitmap == nullptr) {
         return {};
     }
@@ -22,7 +22,7 @@ QImage ImageOf(FIBITMAP* bitmap) {
     return image;
 }
 
-int PaintBitmapToDC(FIBITMAP* bitmap, QPainter& painter, int x, int y) {
+int PaintBitmapToDC(const Bitmap* bitmap, QPainter& painter, int x, int y) {
     const QImage image = ImageOf(bitmap);
     painter.drawImage(QRectF(x, y, image.width(), image.height()), image);
     return image.height();

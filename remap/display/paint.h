@@ -13,10 +13,10 @@ class QPainter;
 namespace varnel {
 
 // A 24-bit bitmap as an image that owns its pixels, the first row on top; empty for no bitmap.
-QImage ImageOf(FIBITMAP* bitmap);
+QImage ImageOf(const Bitmap* bitmap);
 
 // Draws the whole bitmap with its upper left corner at (x, y), one bitmap pixel to one unit of the
 // painter. Returns the number of rows drawn.
-int PaintBitmapToDC(FIBITMAP* bitmap, QPainter& painter, int x, int y);
+int PaintBitmapToDC(const Bitmap* bitmap, QPainter& painter, int x, int y);
 
 }  // namespace varnel

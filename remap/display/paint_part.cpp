@@ -66,8 +66,11 @@ void PaintLine(const std::vector<const std::uint8_t*>& rows, const Axis& columns
 
 }  // namespace
 
-void PaintPart(FIBITMAP* bitmap, const PartPlace& place, QImage& image,
+void PaintPart(const Bitmap* bitmap, const PartPlace& place, QImage& image,
                const std::function<bool(int row)>& has) {
+    if (bitmap == nullptr) {
+        return;
+    }
     const PixelSize size = SizeOf(bitmap);
     const Axis columns(place.corner.x(), place.scale, image.width(), size.width);
     const Axis lines(place.corner.y(), place.scale, image.height(), size.height);

@@ -16,10 +16,10 @@ struct PartPlace {
     double scale = 1.0;  // image pixels to a picture pixel
 };
 
-// Draws what of the picture lies on the image (RGB32) and leaves the rest of it alone. Enlarged
-// pixels are squares, reduced ones a mean. With has, image lines that need a row of the bitmap
-// (from 0 at the bottom) for which it says false are left alone, too.
-void PaintPart(FIBITMAP* bitmap, const PartPlace& place, QImage& image,
+// Draws what of the picture, if there is one, lies on the image (RGB32) and leaves the rest of it
+// alone. Enlarged pixels are squares, reduced ones a mean. With has, image lines that need a row of
+// the bitmap (from 0 at the bottom) for which it says false are left alone, too.
+void PaintPart(const Bitmap* bitmap, const PartPlace& place, QImage& image,
                const std::function<bool(int row)>& has = {});
 
 }  // namespace varnel

@@ -11,13 +11,14 @@
 #include "remap/encode/output_format.h"
 #include "remap/encode/png_coder.h"
 #include "remap/encode/tiff_coder.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
 namespace {
 
 // Nothing where there is none for such a file, or where it leaves the file to the library.
-std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
                                          BlockRunner& runner, const WrittenMetadata& metadata) {
     switch (format) {
         case FIF_JPEG:
@@ -31,13 +32,13 @@ std::optional<QByteArray> FileByOurCoder(FREE_IMAGE_FORMAT format, FIBITMAP* bit
     }
 }
 
-bool IsPhoto(FIBITMAP* bitmap) {
-    return FreeImage_GetBPP(bitmap) == 24 && FreeImage_HasPixels(bitmap) == TRUE;
+bool IsPhoto(const Bitmap* bitmap) {
+    return bitmap->Format() == PixelFormat::Bgr8;
 }
 
-// The same pixels, where they lie. Nothing when there is no memory.
-BitmapHandle WithoutMetadata(FIBITMAP* bitmap) {
-    return BitmapOver(reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap)), SizeOf(bitmap));
+// The same pixels, where they lie.
+Bitmap WithoutMetadata(const Bitmap& bitmap) {
+    return {bitmap.Format(), bitmap.Size(), bitmap.SharedPixels()};
 }
 
 // The library's TIFF files take XMP along, but not what lies at places of its own.
@@ -55,22 +56,13 @@ void PassToTiff(FIBITMAP* bitmap, WrittenMetadata& metadata) {
 }
 
 // The library's file with our metadata in place of its own.
-EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT format, FIBITMAP* bitmap,
-                              int flags, qint64 largest) {
-    const BitmapHandle less = WithoutMetadata(bitmap);
-    if (!less) {
-        return {{}, ReasonCode::NotEnoughMemory};
-    }
-    CopyAllButPixels(less.get(), bitmap);
-    RGBQUAD background{};
-    if (FreeImage_GetBackgroundColor(bitmap, &background) == TRUE) {
-        FreeImage_SetBackgroundColor(less.get(), &background);
-    }
-    RemoveReplaced(less.get(), metadata);
+EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT format,
+                              const Bitmap* bitmap, int flags, qint64 largest) {
+    const LibraryBitmap view = LibraryView(*bitmap);
     if (format == FIF_TIFF) {
-        PassToTiff(less.get(), metadata);
+        PassToTiff(view.get(), metadata);
     }
-    EncodedBitmap file = LibraryFile(format, less.get(), flags, largest - metadata.parts.size());
+    EncodedBitmap file = LibraryFile(format, view.get(), flags, largest - metadata.parts.size());
     if (file.reason.isEmpty() && !InsertParts(format, metadata, file.bytes)) {
         return {{}, ReasonCode::NoPlaceForMetadata};
     }
@@ -79,7 +71,7 @@ EncodedBitmap LibraryFileWith(WrittenMetadata& metadata, FREE_IMAGE_FORMAT forma
 
 }  // namespace
 
-EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
                        const EncodeOptions& options) {
     SerialRunner serial;
     try {
@@ -107,7 +99,7 @@ EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
     }
 }
 
-EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap,
+EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                            const EncodeOptions& options) {
     if (bitmap == nullptr) {
         return {{}, ReasonCode::NoPicture};
@@ -123,12 +115,12 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap,
         ReasonCode note;
     } attempts[] = {{true, ReasonCode::WithoutProfile}, {false, ReasonCode::WithoutMetadata}};
     for (const auto& attempt : attempts) {
-        const BitmapHandle less = WithoutMetadata(bitmap);
-        if (less && attempt.metadata) {
-            CopyAllButPixels(less.get(), bitmap);
-            FreeImage_DestroyICCProfile(less.get());
+        Bitmap less = WithoutMetadata(*bitmap);
+        if (attempt.metadata) {
+            less.metadata = bitmap->metadata;
+            less.metadata.colourProfile.clear();
         }
-        EncodedBitmap encoded = encode(less.get(), encoding, options);
+        EncodedBitmap encoded = encode(&less, encoding, options);
         if (encoded.reason.isEmpty()) {
             encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
             return encoded;

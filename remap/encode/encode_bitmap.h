@@ -17,11 +17,11 @@ struct EncodeOptions {
 
 // Metadata or a colour profile that the type's encoder refuses do not cost the picture: it is
 // encoded without. Throws what the runner throws.
-EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap,
+EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                            const EncodeOptions& options = {});
 
 // With all that the bitmap has. flags are the library's for the format. Likewise.
-EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
+EncodedBitmap EncodeAs(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
                        const EncodeOptions& options);
 
 }  // namespace varnel

@@ -27,7 +27,7 @@ void Put(QByteArray& bytes, std::uint32_t place, qint64 number) {
 }
 
 // The best that takes no more bytes than that; empty when there is none.
-QByteArray ThumbnailFile(FIBITMAP* bitmap, qsizetype room) {
+QByteArray ThumbnailFile(const Bitmap* bitmap, qsizetype room) {
     const BitmapHandle thumbnail = ThumbnailOf(bitmap);
     for (const int quality : {85, 75, 60, 40, 20, 5}) {
         QByteArray file = PlainJpeg(thumbnail.get(), quality);
@@ -44,7 +44,7 @@ void PutThumbnail(QByteArray& bytes, const ExifBlock& block, const QByteArray& t
     std::fill(rest, room + block.thumbnailRoom, '\0');
 }
 
-QByteArray Written(const ExifBlock& block, PixelSize size, FIBITMAP* thumbnailed) {
+QByteArray Written(const ExifBlock& block, PixelSize size, const Bitmap* thumbnailed) {
     QByteArray bytes = block.bytes;
     if (Holds(bytes, block.thumbnail, block.thumbnailRoom)) {
         const QByteArray thumbnail =
@@ -59,7 +59,7 @@ QByteArray Written(const ExifBlock& block, PixelSize size, FIBITMAP* thumbnailed
 
 }  // namespace
 
-QByteArray WrittenExif(const ExifBlock& block, FIBITMAP* bitmap) {
+QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap) {
     return Written(block, SizeOf(bitmap), bitmap);
 }
 

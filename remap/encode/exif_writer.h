@@ -6,14 +6,14 @@
 
 #include <QByteArray>
 
-#include "remap/image/photo_metadata.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
 // With the bitmap's width and height and, where the block has room for one, a thumbnail of it. One
 // that does not fit is left out: its length is 0 then. The bitmap has 24 bits. Throws
 // std::bad_alloc.
-QByteArray WrittenExif(const ExifBlock& block, FIBITMAP* bitmap);
+QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap);
 
 // With width and height, and without a thumbnail.
 QByteArray WrittenExifWithoutThumbnail(const ExifBlock& block, PixelSize size);

@@ -11,7 +11,7 @@
 #include <new>
 #include <utility>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 #include "remap/image/library_messages.h"
 
 namespace varnel {
@@ -150,10 +150,19 @@ EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
     }
 }
 
-BitmapHandle MetadataSample(FIBITMAP* bitmap) {
+EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
+                          qint64 largest) {
+    try {
+        return LibraryFile(format, LibraryView(*bitmap).get(), flags, largest);
+    } catch (const std::bad_alloc&) {
+        return {{}, ReasonCode::NotEnoughMemory};
+    }
+}
+
+BitmapHandle MetadataSample(const Bitmap* bitmap) {
     constexpr PixelSize side{8, 8};
     BitmapHandle sample = NewBitmap(side);
-    CopyAllButPixels(sample.get(), bitmap);
+    sample->metadata = bitmap->metadata;
     return sample;
 }
 

@@ -4,6 +4,8 @@
 // The bytes of a file as the image library makes them.
 #pragma once
 
+#include <FreeImage.h>
+
 #include <QByteArray>
 
 #include "base/reason.h"
@@ -23,11 +25,13 @@ struct EncodedBitmap {
 
 // flags are the library's for the format. The library's own file in memory is not used: from 2 GB
 // on it drops what is written, and the library calls the rest a success.
+EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
+                          qint64 largest = largestFile);
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                           qint64 largest = largestFile);
 
 // A black picture of 8 x 8 pixels with the bitmap's metadata, colour profile and resolution: its
 // library file shows how the library writes them. Throws std::bad_alloc.
-BitmapHandle MetadataSample(FIBITMAP* bitmap);
+BitmapHandle MetadataSample(const Bitmap* bitmap);
 
 }  // namespace varnel

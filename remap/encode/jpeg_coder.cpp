@@ -34,7 +34,7 @@ constexpr unsigned char scanMarker = 0xDA;
 
 // Rows of a bitmap, counted from the top as in a JPEG file.
 struct Band {
-    FIBITMAP* bitmap;
+    const Bitmap* bitmap;
     int first;
     int count;
     bool restarts;  // a marker after each strip
@@ -108,7 +108,7 @@ class BandCoder {
         }
         jpeg_create_compress(&info_);
         info_.dest = &coded_;
-        info_.image_width = FreeImage_GetWidth(band.bitmap);
+        info_.image_width = static_cast<JDIMENSION>(band.bitmap->Size().width);
         info_.image_height = static_cast<JDIMENSION>(band.count);
         info_.in_color_space = JCS_EXT_BGR;
         info_.input_components = 3;
@@ -131,11 +131,11 @@ class BandCoder {
   private:
     void WriteRows(const Band& band) {
         std::array<JSAMPROW, stripHeight> rows;
-        const int top = static_cast<int>(FreeImage_GetHeight(band.bitmap)) - 1 - band.first;
+        const int top = band.bitmap->Size().height - 1 - band.first;
         for (int done = 0; done < band.count;) {
             const int count = std::min(band.count - done, stripHeight);
             for (int i = 0; i < count; ++i) {
-                rows[i] = FreeImage_GetScanLine(band.bitmap, top - done - i);
+                rows[i] = const_cast<JSAMPROW>(band.bitmap->ScanLine(top - done - i).data());
             }
             done += static_cast<int>(
                 jpeg_write_scanlines(&info_, rows.data(), static_cast<JDIMENSION>(count)));
@@ -158,10 +158,9 @@ bool CodeBand(const Band& band, int flags, CodedBytes& coded) {
 
 // The library's file for the same metadata, up to where the tables of this quality begin: the rest
 // has to be what libjpeg makes of the same pixels here.
-std::optional<QByteArray> LibraryHead(FIBITMAP* bitmap, int flags,
+std::optional<QByteArray> LibraryHead(const Bitmap* bitmap, int flags,
                                       const WrittenMetadata& metadata) {
     const BitmapHandle sample = MetadataSample(bitmap);
-    RemoveReplaced(sample.get(), metadata);
     EncodedBitmap file = LibraryFile(FIF_JPEG, sample.get(), flags);
     CodedBytes coded;
     if (!file.reason.isEmpty() ||
@@ -231,14 +230,14 @@ std::optional<QByteArray> Joined(const QByteArray& head, std::vector<CodedBytes>
     return file += endOfImage;
 }
 
-bool IsCodable(FIBITMAP* bitmap, int flags) {
-    const auto isSide = [](unsigned side) { return side > 0 && side <= JPEG_MAX_DIMENSION; };
-    return FreeImage_HasPixels(bitmap) == TRUE && FreeImage_GetImageType(bitmap) == FIT_BITMAP &&
-           FreeImage_GetBPP(bitmap) == 24 && isSide(FreeImage_GetWidth(bitmap)) &&
-           isSide(FreeImage_GetHeight(bitmap)) && QualityIn(flags) >= 0 && QualityIn(flags) <= 100;
+bool IsCodable(const Bitmap* bitmap, int flags) {
+    const auto isSide = [](std::int32_t side) { return side > 0 && side <= JPEG_MAX_DIMENSION; };
+    const auto [width, height] = bitmap->Size();
+    return bitmap->Format() == PixelFormat::Bgr8 && isSide(width) && isSide(height) &&
+           QualityIn(flags) >= 0 && QualityIn(flags) <= 100;
 }
 
-std::vector<Band> BandsOf(FIBITMAP* bitmap) {
+std::vector<Band> BandsOf(const Bitmap* bitmap) {
     const PixelSize size = SizeOf(bitmap);
     if (size.height <= bandHeight ||
         std::int64_t{size.width} * size.height < fewestPixelsForBands) {
@@ -253,7 +252,7 @@ std::vector<Band> BandsOf(FIBITMAP* bitmap) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner,
+std::optional<QByteArray> EncodeJpeg(const Bitmap* bitmap, int flags, BlockRunner& runner,
                                      const WrittenMetadata& metadata) {
     if (!IsCodable(bitmap, flags)) {
         return std::nullopt;
@@ -273,7 +272,7 @@ std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& r
     return failed ? std::nullopt : Joined(*head, coded, SizeOf(bitmap).height);
 }
 
-QByteArray PlainJpeg(FIBITMAP* bitmap, int quality) {
+QByteArray PlainJpeg(const Bitmap* bitmap, int quality) {
     CodedBytes coded;
     return CodeBand({bitmap, 0, SizeOf(bitmap).height, false}, quality, coded)
                ? coded.View().toByteArray()

@@ -18,11 +18,11 @@ namespace varnel {
 // tables and metadata, besides those given. That of a large picture has restart markers and so is a
 // few bytes larger; it does not depend on the runner. Nothing where that cannot be done: the
 // library has to try. Throws std::bad_alloc.
-std::optional<QByteArray> EncodeJpeg(FIBITMAP* bitmap, int flags, BlockRunner& runner,
+std::optional<QByteArray> EncodeJpeg(const Bitmap* bitmap, int flags, BlockRunner& runner,
                                      const WrittenMetadata& metadata = {});
 
 // A JPEG file of a small bitmap of 24 bits with nothing but the picture in it. Throws
 // std::bad_alloc.
-QByteArray PlainJpeg(FIBITMAP* bitmap, int quality);
+QByteArray PlainJpeg(const Bitmap* bitmap, int quality);
 
 }  // namespace varnel

@@ -38,8 +38,8 @@ QByteArray Chunk(const char* type, QByteArrayView data) {
 // What goes into one file; its steps add to the result.
 class Assembly {
   public:
-    explicit Assembly(FIBITMAP* bitmap)
-        : bitmap_(bitmap), photo_(MetadataOf(bitmap)), settings_(SettingsOf(bitmap)) {
+    explicit Assembly(const Bitmap* bitmap)
+        : bitmap_(bitmap), photo_(bitmap->metadata.photo), settings_(bitmap->metadata.settings) {
         constexpr qsizetype tiffHeader = 8;
         if (photo_.exif.bytes.size() < tiffHeader) {
             photo_.exif = {};
@@ -61,7 +61,7 @@ class Assembly {
     QByteArray Packet();
     bool IsWorthKeeping() const;
 
-    FIBITMAP* const bitmap_;
+    const Bitmap* const bitmap_;
     PhotoMetadata photo_;
     const PictureSettings settings_;
     WrittenMetadata result_;
@@ -187,7 +187,7 @@ constexpr std::array lostInBmp{ReasonCode::None,
 
 WrittenMetadata Assembly::Bmp() {
     const std::size_t lost = (IsWorthKeeping() ? 1U : 0U) + (settings_.isEmpty() ? 0U : 2U) +
-                             (FreeImage_GetICCProfile(bitmap_)->size > 0 ? 4U : 0U);
+                             (bitmap_->metadata.colourProfile.isEmpty() ? 0U : 4U);
     WrittenMetadata none;
     if (lost != 0) {
         none.notes += lostInBmp[lost];
@@ -197,7 +197,7 @@ WrittenMetadata Assembly::Bmp() {
 
 }  // namespace
 
-WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap) {
+WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, const Bitmap* bitmap) {
     Assembly assembly(bitmap);
     if (!assembly.IsNeeded() && format != FIF_BMP) {
         return {};
@@ -213,20 +213,6 @@ WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap) {
             return assembly.Bmp();
         default:
             return {};
-    }
-}
-
-void RemoveReplaced(FIBITMAP* bitmap, const WrittenMetadata& metadata) {
-    if (metadata.IsEmpty()) {
-        return;
-    }
-    FreeImage_SetMetadata(FIMD_XMP, bitmap, nullptr, nullptr);
-    if (metadata.isOfPhoto) {
-        for (const auto model : {FIMD_EXIF_MAIN, FIMD_EXIF_EXIF, FIMD_EXIF_GPS, FIMD_EXIF_MAKERNOTE,
-                                 FIMD_EXIF_INTEROP, FIMD_IPTC, FIMD_EXIF_RAW}) {
-            FreeImage_SetMetadata(model, bitmap, nullptr, nullptr);
-        }
-        FreeImage_SetThumbnail(bitmap, nullptr);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <QByteArray>
 
 #include "base/reason.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
@@ -27,11 +28,7 @@ struct WrittenMetadata {
 };
 
 // For a file of this format. The bitmap has 24 bits. Throws std::bad_alloc.
-WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap);
-
-// Takes from the bitmap what the library would write beside the same of ours, and thumbnails of
-// another picture.
-void RemoveReplaced(FIBITMAP* bitmap, const WrittenMetadata& metadata);
+WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, const Bitmap* bitmap);
 
 // Puts the parts into a JPEG or PNG file, of which everything up to the pixels may be missing
 // behind the first segment or chunk. False when that is not where it should be.

@@ -37,12 +37,12 @@ double BytesPerPixel(const OutputEncoding& /*encoding*/) {
 }
 
 template <FREE_IMAGE_FORMAT format, int flags>
-EncodedBitmap Encode(FIBITMAP* bitmap, const OutputEncoding& /*encoding*/,
+EncodedBitmap Encode(const Bitmap* bitmap, const OutputEncoding& /*encoding*/,
                      const EncodeOptions& options) {
     return EncodeAs(format, bitmap, flags, options);
 }
 
-EncodedBitmap EncodeAsJpeg(FIBITMAP* bitmap, const OutputEncoding& encoding,
+EncodedBitmap EncodeAsJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
                            const EncodeOptions& options) {
     const int chroma = encoding.chroma444 ? JPEG_SUBSAMPLING_444 : 0;
     return EncodeAs(FIF_JPEG, bitmap, encoding.quality | chroma, options);

@@ -29,7 +29,7 @@ struct OutputFormat {
     // Of a file to be expected. Measured with converted photos of foliage, which need two to four
     // times what indoor ones do.
     double (*bytesPerPixel)(const OutputEncoding&);
-    EncodedBitmap (*encode)(FIBITMAP*, const OutputEncoding&, const EncodeOptions&);
+    EncodedBitmap (*encode)(const Bitmap*, const OutputEncoding&, const EncodeOptions&);
 };
 
 const OutputFormat& FormatOf(OutputType type);

@@ -51,10 +51,10 @@ struct Band {
 
 class BandCoder {
   public:
-    explicit BandCoder(FIBITMAP* bitmap)
+    explicit BandCoder(const Bitmap* bitmap)
         : bitmap_(bitmap),
           size_(SizeOf(bitmap)),
-          rowBytes_(std::size_t{FreeImage_GetLine(bitmap)}),
+          rowBytes_(bitmap->ScanLine(0).size()),
           bandRows_(RowsIn(bandBytes)),
           bands_((size_.height + bandRows_ - 1) / bandRows_) {}
 
@@ -70,7 +70,7 @@ class BandCoder {
     }
     std::vector<std::uint8_t> Filtered(std::int32_t top, std::int32_t rows) const;
 
-    FIBITMAP* const bitmap_;
+    const Bitmap* const bitmap_;
     const PixelSize size_;
     const std::size_t rowBytes_;
     const std::int32_t bandRows_;
@@ -84,7 +84,7 @@ std::vector<std::uint8_t> BandCoder::Filtered(std::int32_t top, std::int32_t row
     const std::int32_t end = std::min(top + rows, size_.height);
     std::vector<std::uint8_t> filtered;
     filtered.reserve(static_cast<std::size_t>(end - top) * (1 + rowBytes_));
-    PngFilter filter(rowBytes_, top > 0 ? row(top - 1) : std::span<std::uint8_t>());
+    PngFilter filter(rowBytes_, top > 0 ? row(top - 1) : std::span<const std::uint8_t>());
     for (std::int32_t y = top; y < end; ++y) {
         const auto bytes = filter.Next(row(y));
         filtered.insert(filtered.end(), bytes.begin(), bytes.end());
@@ -175,11 +175,8 @@ QByteArray SumChunk(const std::vector<Band>& bands) {
     return chunk;
 }
 
-// Transparency and a background colour are not in the metadata sample.
-bool IsPlainPhoto(FIBITMAP* bitmap) {
-    return FreeImage_GetImageType(bitmap) == FIT_BITMAP && FreeImage_GetBPP(bitmap) == 24 &&
-           FreeImage_HasPixels(bitmap) == TRUE && FreeImage_IsTransparent(bitmap) == FALSE &&
-           FreeImage_HasBackgroundColor(bitmap) == FALSE &&
+bool IsPlainPhoto(const Bitmap* bitmap) {
+    return bitmap != nullptr && bitmap->Format() == PixelFormat::Bgr8 &&
            std::max(SizeOf(bitmap).width, SizeOf(bitmap).height) <= largestSide;
 }
 
@@ -202,13 +199,12 @@ QByteArray Joined(const PngFrame& frame, std::vector<Band>& bands) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner,
+std::optional<QByteArray> EncodePng(const Bitmap* bitmap, BlockRunner& runner,
                                     const WrittenMetadata& metadata) {
     if (!IsPlainPhoto(bitmap)) {
         return std::nullopt;
     }
     const BitmapHandle sample = MetadataSample(bitmap);
-    RemoveReplaced(sample.get(), metadata);
     const EncodedBitmap file = LibraryFile(FIF_PNG, sample.get(), 0);
     std::optional<PngFrame> frame = PngFrameOf(file.bytes, SizeOf(bitmap));
     if (!file.reason.isEmpty() || !frame || !InsertParts(FIF_PNG, metadata, frame->head)) {

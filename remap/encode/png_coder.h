@@ -17,7 +17,7 @@ namespace varnel {
 // with flags 0, and the metadata given; only the pixels are filtered and compressed otherwise. The
 // same bytes whatever the runner. None for a bitmap that is to be left to the library. Throws
 // std::bad_alloc.
-std::optional<QByteArray> EncodePng(FIBITMAP* bitmap, BlockRunner& runner,
+std::optional<QByteArray> EncodePng(const Bitmap* bitmap, BlockRunner& runner,
                                     const WrittenMetadata& metadata = {});
 
 }  // namespace varnel

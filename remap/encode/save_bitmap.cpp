@@ -87,20 +87,20 @@ WriteResult WriteUnlessStopped(const StoppableFile& file, QByteArrayView bytes) 
 
 }  // namespace
 
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& fileName,
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, const QString& fileName,
                       BlockRunner* runner) {
     return Written(EncodeBitmap(encoding, bitmap, {.runner = runner}),
                    [&](QByteArrayView bytes) { return WriteWholeFile(fileName, bytes); });
 }
 
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const FileInSeries& file,
-                      BlockRunner* runner) {
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
+                      const FileInSeries& file, BlockRunner* runner) {
     return Written(EncodeBitmap(encoding, bitmap, {.runner = runner}),
                    [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
 }
 
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const StoppableFile& file,
-                      BlockRunner& runner) {
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
+                      const StoppableFile& file, BlockRunner& runner) {
     StoppableRunner stoppable(runner, file.stopped);
     try {
         return Written(EncodeBitmap(encoding, bitmap, {.runner = &stoppable}),

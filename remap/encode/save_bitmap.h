@@ -26,7 +26,7 @@ struct SaveResult {
 // Encodes in memory and replaces the file in one step, because the library itself reports success
 // for cut files on a full disk. The runner shares the encoding out to the cores where the type
 // allows.
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& fileName,
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, const QString& fileName,
                       BlockRunner* runner = nullptr);
 
 // One file of several: true when it is in place, which the series' end makes last.
@@ -34,8 +34,8 @@ struct FileInSeries {
     QString name;
     FileSeries& series;
 };
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const FileInSeries& file,
-                      BlockRunner* runner = nullptr);
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
+                      const FileInSeries& file, BlockRunner* runner = nullptr);
 
 // A file that may still be given up: asked on any thread and often until the file gets its name.
 // Once stopped says true no file is written and an older one stays as it was.
@@ -43,7 +43,7 @@ struct StoppableFile {
     QString name;
     std::function<bool()> stopped;
 };
-SaveResult SaveBitmap(const OutputEncoding& encoding, FIBITMAP* bitmap, const StoppableFile& file,
-                      BlockRunner& runner);
+SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
+                      const StoppableFile& file, BlockRunner& runner);
 
 }  // namespace varnel

@@ -50,20 +50,20 @@ void Average(const Rows& rows, const std::vector<std::int32_t>& columns, std::ui
         for (const std::uint8_t* const row : rows) {
             for (std::size_t n = 0; n < samples; ++n) {
                 const std::uint8_t* const pixel = row + 3 * std::ptrdiff_t{columns[first + n]};
-                blue += pixel[FI_RGBA_BLUE];
-                green += pixel[FI_RGBA_GREEN];
-                red += pixel[FI_RGBA_RED];
+                blue += pixel[0];
+                green += pixel[1];
+                red += pixel[2];
             }
         }
-        out[FI_RGBA_BLUE] = static_cast<std::uint8_t>(blue / all);
-        out[FI_RGBA_GREEN] = static_cast<std::uint8_t>(green / all);
-        out[FI_RGBA_RED] = static_cast<std::uint8_t>(red / all);
+        out[0] = static_cast<std::uint8_t>(blue / all);
+        out[1] = static_cast<std::uint8_t>(green / all);
+        out[2] = static_cast<std::uint8_t>(red / all);
     }
 }
 
 }  // namespace
 
-BitmapHandle ThumbnailOf(FIBITMAP* bitmap) {
+BitmapHandle ThumbnailOf(const Bitmap* bitmap) {
     const PixelSize size = SizeOf(bitmap);
     BitmapHandle thumbnail = NewBitmap(ThumbnailSize(size));
     const PixelSize small = SizeOf(thumbnail.get());
@@ -73,9 +73,9 @@ BitmapHandle ThumbnailOf(FIBITMAP* bitmap) {
         Rows sampled;
         for (std::int32_t n = 0; n < samples; ++n) {
             sampled[static_cast<std::size_t>(n)] =
-                FreeImage_GetScanLine(bitmap, rows[static_cast<std::size_t>(y * samples + n)]);
+                bitmap->ScanLine(rows[static_cast<std::size_t>(y * samples + n)]).data();
         }
-        Average(sampled, columns, FreeImage_GetScanLine(thumbnail.get(), y));
+        Average(sampled, columns, thumbnail->ScanLine(y).data());
     }
     return thumbnail;
 }

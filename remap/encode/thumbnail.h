@@ -11,6 +11,6 @@ namespace varnel {
 // At most 160 x 120 pixels, 120 x 160 of a picture that stands upright, and never larger than the
 // bitmap, which has 24 bits. Few pixels are looked at: a large picture takes half a millisecond.
 // Throws std::bad_alloc.
-BitmapHandle ThumbnailOf(FIBITMAP* bitmap);
+BitmapHandle ThumbnailOf(const Bitmap* bitmap);
 
 }  // namespace varnel

@@ -31,13 +31,15 @@ constexpr std::size_t bytesAtOnce = 16 * 1024 * 1024;
 
 // The pixels of a bitmap as TIFF has them: from the top row down, red first.
 struct Picture {
-    FIBITMAP* bitmap;
+    const Bitmap* bitmap;
     std::size_t width;
     std::size_t height;
     std::size_t rowsPerStrip;
 
-    explicit Picture(FIBITMAP* source)
-        : bitmap(source), width(FreeImage_GetWidth(source)), height(FreeImage_GetHeight(source)) {
+    explicit Picture(const Bitmap* source)
+        : bitmap(source),
+          width(static_cast<std::size_t>(source->Size().width)),
+          height(static_cast<std::size_t>(source->Size().height)) {
         rowsPerStrip = std::clamp<std::size_t>(stripBytes / RowBytes(), 1, height);
     }
 
@@ -70,8 +72,7 @@ std::span<const std::uint8_t> DifferencesOf(const Picture& picture, std::size_t 
     for (std::size_t n = 0; n < rows; ++n) {
         const std::size_t fromTop = strip * picture.rowsPerStrip + n;
         const auto y = static_cast<int>(picture.height - 1 - fromTop);
-        Difference(FreeImage_GetScanLine(picture.bitmap, y), picture.width,
-                   out + n * picture.RowBytes());
+        Difference(picture.bitmap->ScanLine(y).data(), picture.width, out + n * picture.RowBytes());
     }
     return {out, rows * picture.RowBytes()};
 }
@@ -146,17 +147,16 @@ std::optional<StripTable> EncodeStrips(QByteArray& file, const Picture& picture,
 }
 
 // The library's directory for the bitmap, if it is one for pixels as they are coded here.
-std::optional<TiffDirectory> DirectoryFor(FIBITMAP* bitmap, const WrittenMetadata& metadata) {
+std::optional<TiffDirectory> DirectoryFor(const Bitmap* bitmap) {
     const BitmapHandle sample = MetadataSample(bitmap);
-    RemoveReplaced(sample.get(), metadata);
     std::optional<TiffDirectory> directory =
         ReadTiff(LibraryFile(FIF_TIFF, sample.get(), TIFF_LZW).bytes);
     const struct {
         TiffTag tag;
         std::vector<std::uint32_t> numbers;
     } needed[] = {
-        {TiffTag::ImageWidth, {FreeImage_GetWidth(sample.get())}},
-        {TiffTag::ImageLength, {FreeImage_GetHeight(sample.get())}},
+        {TiffTag::ImageWidth, {static_cast<std::uint32_t>(sample->Size().width)}},
+        {TiffTag::ImageLength, {static_cast<std::uint32_t>(sample->Size().height)}},
         {TiffTag::BitsPerSample, {8, 8, 8}},
         {TiffTag::Compression, {COMPRESSION_LZW}},
         {TiffTag::PhotometricInterpretation, {PHOTOMETRIC_RGB}},
@@ -207,13 +207,12 @@ void AddMetadata(TiffDirectory& directory, const WrittenMetadata& metadata) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner,
+std::optional<QByteArray> EncodeTiffLzw(const Bitmap* bitmap, BlockRunner& runner,
                                         const WrittenMetadata& metadata) {
-    if (FreeImage_GetImageType(bitmap) != FIT_BITMAP || FreeImage_GetBPP(bitmap) != 24 ||
-        FreeImage_HasPixels(bitmap) == FALSE) {
+    if (bitmap->Format() != PixelFormat::Bgr8) {
         return std::nullopt;
     }
-    std::optional<TiffDirectory> directory = DirectoryFor(bitmap, metadata);
+    std::optional<TiffDirectory> directory = DirectoryFor(bitmap);
     if (!directory) {
         return std::nullopt;
     }

@@ -18,7 +18,7 @@ namespace varnel {
 // every other tag as it is there, besides the metadata given. Equal bytes whatever the runner. None
 // for a bitmap other than of 24 bits, for metadata that the library writes in a way unknown here,
 // and for a file of 4 GB or more. Throws std::bad_alloc.
-std::optional<QByteArray> EncodeTiffLzw(FIBITMAP* bitmap, BlockRunner& runner,
+std::optional<QByteArray> EncodeTiffLzw(const Bitmap* bitmap, BlockRunner& runner,
                                         const WrittenMetadata& metadata = {});
 
 }  // namespace varnel

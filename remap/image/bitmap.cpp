@@ -3,70 +3,55 @@
 
 #include "remap/image/bitmap.h"
 
+#include <cstring>
 #include <new>
-#include <utility>
 
 #include "base/huge_pages.h"
-#include "remap/image/row_pitch.h"
 
 namespace varnel {
 
 namespace {
 
-BitmapHandle Owned(FIBITMAP* bitmap) {
-    if (bitmap == nullptr) {
-        throw std::bad_alloc();
+constexpr std::align_val_t alignment{64};  // bytes: a line of the cache
+
+std::size_t BytesFor(PixelSize size, PixelFormat format) {
+    return RowPitch(size.width, format) * static_cast<std::size_t>(size.height);
+}
+
+// Zero bytes. Throws std::bad_alloc.
+std::shared_ptr<std::byte> NewPixels(std::size_t length) {
+    if (auto pages = LargePages(length)) {
+        return pages;
     }
-    return BitmapHandle(bitmap);
+    auto* const bytes = static_cast<std::byte*>(::operator new(length, alignment));
+    std::memset(bytes, 0, length);
+    return {bytes, [](std::byte* pixels) { ::operator delete(pixels, alignment); }};
 }
 
 }  // namespace
 
-BitmapHandle NewBitmap(PixelSize size) {
-    if (auto pages = LargePages(RowPitch(size.width) * static_cast<std::size_t>(size.height))) {
-        BitmapHandle bitmap = BitmapOver(pages.get(), size);
-        bitmap.get_deleter().pixels = std::move(pages);
-        return bitmap ? std::move(bitmap) : throw std::bad_alloc();
-    }
-    return Owned(FreeImage_Allocate(size.width, size.height, 24));
+BitmapHandle NewBitmap(PixelSize size, PixelFormat format) {
+    return std::make_unique<Bitmap>(format, size, NewPixels(BytesFor(size, format)));
 }
 
 BitmapHandle BitmapOver(std::byte* rows, PixelSize size) {
-    return BitmapHandle(rows == nullptr
-                            ? nullptr
-                            : FreeImage_ConvertFromRawBitsEx(
-                                  FALSE, reinterpret_cast<BYTE*>(rows), FIT_BITMAP, size.width,
-                                  size.height, static_cast<int>(RowPitch(size.width)), 24,
-                                  FI_RGBA_RED_MASK, FI_RGBA_GREEN_MASK, FI_RGBA_BLUE_MASK, FALSE));
-}
-
-BitmapHandle CloneBitmap(FIBITMAP* bitmap) {
-    return Owned(FreeImage_Clone(bitmap));
-}
-
-void CopyAllButPixels(FIBITMAP* bitmap, FIBITMAP* source) {
-    for (int model = FIMD_COMMENTS; model <= FIMD_EXIF_RAW; ++model) {
-        FreeImage_SetMetadata(static_cast<FREE_IMAGE_MDMODEL>(model), bitmap, nullptr, nullptr);
+    if (rows == nullptr) {
+        return nullptr;
     }
-    FreeImage_CloneMetadata(bitmap, source);
-    FreeImage_SetDotsPerMeterX(bitmap, FreeImage_GetDotsPerMeterX(source));
-    FreeImage_SetDotsPerMeterY(bitmap, FreeImage_GetDotsPerMeterY(source));
-    FreeImage_SetThumbnail(bitmap, FreeImage_GetThumbnail(source));
-    FreeImage_DestroyICCProfile(bitmap);
-    const FIICCPROFILE* const profile = FreeImage_GetICCProfile(source);
-    if (profile->data != nullptr && profile->size > 0) {
-        FreeImage_CreateICCProfile(bitmap, profile->data, static_cast<long>(profile->size))->flags =
-            profile->flags;
-    }
+    return std::make_unique<Bitmap>(PixelFormat::Bgr8, size,
+                                    std::shared_ptr<std::byte>(std::shared_ptr<void>(), rows));
 }
 
-PixelSize SizeOf(FIBITMAP* bitmap) {
-    return {static_cast<std::int32_t>(FreeImage_GetWidth(bitmap)),
-            static_cast<std::int32_t>(FreeImage_GetHeight(bitmap))};
+BitmapHandle CloneBitmap(const Bitmap* bitmap) {
+    BitmapHandle clone = NewBitmap(bitmap->Size(), bitmap->Format());
+    std::memcpy(clone->Bits(), bitmap->Bits(), BytesFor(bitmap->Size(), bitmap->Format()));
+    clone->metadata = bitmap->metadata;
+    return clone;
 }
 
-std::span<std::uint8_t> ScanLine(FIBITMAP* bitmap, int y) {
-    return {FreeImage_GetScanLine(bitmap, y), FreeImage_GetLine(bitmap)};
+void DropMetadata(Bitmap* bitmap) {
+    bitmap->metadata.comments.clear();
+    bitmap->metadata.photo = {};
 }
 
 }  // namespace varnel

@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Pictures in memory. Rows count from the bottom row upward, columns from the left, as the image
-// library stores them; colours are blue, green, red and one reserved byte.
+// Pictures in memory. Rows count from the bottom row upward, columns from the left; colours are
+// blue, green, red.
 #pragma once
-
-#include <FreeImage.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -13,19 +11,47 @@
 #include <span>
 
 #include "base/pixel_size.h"
+#include "remap/image/bitmap_metadata.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
-struct BitmapUnloader {
-    // What the pixels stand in when the bitmap does not own them itself; let go after the bitmap.
-    std::shared_ptr<void> pixels;
-    void operator()(FIBITMAP* bitmap) {
-        FreeImage_Unload(bitmap);
-        pixels.reset();
+// Pixels and what belongs to them. Several may share their pixels. Throws nothing.
+class Bitmap {
+  public:
+    // Rows RowPitch apart, the bottom one first. The pixels are let go with the last bitmap of
+    // theirs.
+    Bitmap(PixelFormat format, PixelSize size, std::shared_ptr<std::byte> pixels)
+        : format_(format), size_(size), pixels_(std::move(pixels)) {}
+
+    PixelFormat Format() const { return format_; }
+    PixelSize Size() const { return size_; }
+    // Bytes from row to row.
+    std::size_t Pitch() const { return RowPitch(size_.width, format_); }
+    // The first byte of the bottom row.
+    std::uint8_t* Bits() { return reinterpret_cast<std::uint8_t*>(pixels_.get()); }
+    const std::uint8_t* Bits() const {
+        return reinterpret_cast<const std::uint8_t*>(pixels_.get());
     }
+    // Row y, counted from the bottom, without the bytes that fill it up to the next.
+    std::span<std::uint8_t> ScanLine(int y) { return {Bits() + Offset(y), RowBytes()}; }
+    std::span<const std::uint8_t> ScanLine(int y) const { return {Bits() + Offset(y), RowBytes()}; }
+    const std::shared_ptr<std::byte>& SharedPixels() const { return pixels_; }
+
+    BitmapMetadata metadata;
+
+  private:
+    std::size_t Offset(int y) const { return static_cast<std::size_t>(y) * Pitch(); }
+    std::size_t RowBytes() const {
+        return static_cast<std::size_t>(size_.width) * BytesPerPixel(format_);
+    }
+
+    PixelFormat format_;
+    PixelSize size_;
+    std::shared_ptr<std::byte> pixels_;
 };
-// The only owner of a bitmap; unloads it.
-using BitmapHandle = std::unique_ptr<FIBITMAP, BitmapUnloader>;
+
+using BitmapHandle = std::unique_ptr<Bitmap>;
 
 // The three pictures at hand. Each is unloaded before it is replaced.
 struct Bitmaps {
@@ -34,21 +60,28 @@ struct Bitmaps {
     BitmapHandle ResultBitmap;         // the last conversion
 };
 
-// A new black 24-bit bitmap. Throws std::bad_alloc when there is no memory for it.
-BitmapHandle NewBitmap(PixelSize size);
-// A 24-bit bitmap over rows that lie somewhere, bottom row first and as far apart as those of a
-// bitmap of its own; they have to outlive it. Empty without rows or memory.
+// A new black bitmap of 24 bits. Throws std::bad_alloc when there is no memory for it.
+BitmapHandle NewBitmap(PixelSize size, PixelFormat format = PixelFormat::Bgr8);
+// A bitmap of 24 bits over rows that lie somewhere, bottom row first and RowPitch apart; they have
+// to outlive it. Empty without rows. Throws std::bad_alloc.
 BitmapHandle BitmapOver(std::byte* rows, PixelSize size);
-// A copy with pixels, metadata and colour profile. Throws std::bad_alloc.
-BitmapHandle CloneBitmap(FIBITMAP* bitmap);
+// A copy with pixels and metadata. Throws std::bad_alloc.
+BitmapHandle CloneBitmap(const Bitmap* bitmap);
 
-// Gives the bitmap the source's metadata, colour profile, thumbnail and resolution, and takes its
-// own away.
-void CopyAllButPixels(FIBITMAP* bitmap, FIBITMAP* source);
+// Takes away whatever the bitmap has of the photo's metadata; colour profile, resolution and
+// settings stay. Throws nothing.
+void DropMetadata(Bitmap* bitmap);
 
-PixelSize SizeOf(FIBITMAP* bitmap);
+inline PixelSize SizeOf(const Bitmap* bitmap) {
+    return bitmap->Size();
+}
 
-// Row y of a bitmap, counted from the bottom: 3 bytes a pixel for 24 bits.
-std::span<std::uint8_t> ScanLine(FIBITMAP* bitmap, int y);
+// Row y of a bitmap, counted from the bottom.
+inline std::span<std::uint8_t> ScanLine(Bitmap* bitmap, int y) {
+    return bitmap->ScanLine(y);
+}
+inline std::span<const std::uint8_t> ScanLine(const Bitmap* bitmap, int y) {
+    return bitmap->ScanLine(y);
+}
 
 }  // namespace varnel

@@ -18,7 +18,7 @@ inline double LowerWeight(double position) {
 }
 
 template <class Read>
-RGBQUAD BlendLinearX(const Read& read, double x, double y) {
+PixelColor BlendLinearX(const Read& read, double x, double y) {
     if (!std::isfinite(x) || !std::isfinite(y)) {
         return black;
     }
@@ -28,16 +28,16 @@ RGBQUAD BlendLinearX(const Read& read, double x, double y) {
     if (w == 1.0) {
         return read(Round(x), row);
     }
-    const RGBQUAD left = read(Int(x), row);
-    const RGBQUAD right = read(Int(x + 1.0), row);
-    const auto blend = [&](BYTE RGBQUAD::*channel) {
-        return static_cast<BYTE>(Int(left.*channel * w + right.*channel * w2));
+    const PixelColor left = read(Int(x), row);
+    const PixelColor right = read(Int(x + 1.0), row);
+    const auto blend = [&](std::uint8_t PixelColor::*channel) {
+        return static_cast<std::uint8_t>(Int(left.*channel * w + right.*channel * w2));
     };
-    return {blend(&RGBQUAD::rgbBlue), blend(&RGBQUAD::rgbGreen), blend(&RGBQUAD::rgbRed), 0};
+    return {blend(&PixelColor::blue), blend(&PixelColor::green), blend(&PixelColor::red), 0};
 }
 
 template <class Read>
-RGBQUAD BlendBilinear(const Read& read, double x, double y) {
+PixelColor BlendBilinear(const Read& read, double x, double y) {
     if (!std::isfinite(x) || !std::isfinite(y)) {
         return black;
     }
@@ -48,15 +48,15 @@ RGBQUAD BlendBilinear(const Read& read, double x, double y) {
     if (wx == 1.0 && wy == 1.0) {
         return read(Round(x), Round(y));
     }
-    const RGBQUAD a = read(Int(x), Int(y));
-    const RGBQUAD b = read(Int(x + 1.0), Int(y));
-    const RGBQUAD c = read(Int(x), Int(y + 1.0));
-    const RGBQUAD d = read(Int(x + 1.0), Int(y + 1.0));
-    const auto blend = [&](BYTE RGBQUAD::*channel) {
-        return static_cast<BYTE>(Int(a.*channel * wx * wy + b.*channel * wx2 * wy +
-                                     c.*channel * wx * wy2 + d.*channel * wx2 * wy2));
+    const PixelColor a = read(Int(x), Int(y));
+    const PixelColor b = read(Int(x + 1.0), Int(y));
+    const PixelColor c = read(Int(x), Int(y + 1.0));
+    const PixelColor d = read(Int(x + 1.0), Int(y + 1.0));
+    const auto blend = [&](std::uint8_t PixelColor::*channel) {
+        return static_cast<std::uint8_t>(Int(a.*channel * wx * wy + b.*channel * wx2 * wy +
+                                             c.*channel * wx * wy2 + d.*channel * wx2 * wy2));
     };
-    return {blend(&RGBQUAD::rgbBlue), blend(&RGBQUAD::rgbGreen), blend(&RGBQUAD::rgbRed), 0};
+    return {blend(&PixelColor::blue), blend(&PixelColor::green), blend(&PixelColor::red), 0};
 }
 
 }  // namespace varnel

@@ -56,4 +56,12 @@ Reason LibraryMessages::Added(const Reason& reason) const {
     return lines_.isEmpty() ? reason : Reason(ReasonCode::Added, reason, lines_.last());
 }
 
+QString LibraryVersion() {
+    return QString::fromLocal8Bit(FreeImage_GetVersion());
+}
+
+QString LibraryNotice() {
+    return QString::fromLocal8Bit(FreeImage_GetCopyrightMessage());
+}
+
 }  // namespace varnel

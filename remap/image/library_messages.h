@@ -29,4 +29,8 @@ class LibraryMessages {
     QStringList lines_;
 };
 
+// The image library's version and its notice of copyright, for people to read.
+QString LibraryVersion();
+QString LibraryNotice();
+
 }  // namespace varnel

@@ -2,19 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What a photo's file says besides its pixels, made ready by whoever read it for the files that
-// Varnel writes. It travels with the bitmap, so that clones and results have it, too. Nobody who
-// writes a file has to understand the blocks: they are copied whole, and what changes with the
-// picture lies at places that are told here.
+// Varnel writes. It travels with the bitmap, so that clones and results have it, too. Whoever
+// writes a file need not understand the blocks: they are copied whole, and what changes with the
+// picture lies at places that are given here.
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayView>
 #include <QMap>
 #include <QString>
 #include <cstdint>
 
 #include "base/reason.h"
-#include "remap/image/bitmap.h"
 #include "remap/image/camera_info.h"
 
 namespace varnel {
@@ -32,6 +30,8 @@ struct ExifBlock {
     std::uint32_t thumbnail = 0;  // a JPEG file
     std::uint32_t thumbnailLength = 0;  // where its length in bytes is
     std::uint32_t thumbnailRoom = 0;    // bytes that it may take, to the block's end at most
+
+    bool operator==(const ExifBlock&) const = default;
 };
 
 struct PhotoMetadata {
@@ -49,6 +49,7 @@ struct PhotoMetadata {
     PictureSettings settings;  // that made the photo, when Varnel wrote it
     Reasons notes;             // "written without ...": what the photo's file has and why not here
 
+    bool operator==(const PhotoMetadata&) const = default;
     bool IsEmpty() const { return exif.bytes.isEmpty() && iptc.isEmpty() && xmp.isEmpty(); }
 };
 
@@ -58,20 +59,5 @@ inline constexpr qsizetype longestExifInJpeg = 65533 - 6;  // bytes
 // The namespace of the settings and its usual prefix.
 inline constexpr QStringView settingsNamespace = u"http://ns.varnel.example/settings/1.0/";
 inline constexpr QStringView settingsPrefix = u"varnel";
-
-// As one block of bytes, and back. Any bytes may be given: what does not agree with itself comes
-// back empty.
-QByteArray PackMetadata(const PhotoMetadata& metadata);
-PhotoMetadata UnpackMetadata(QByteArrayView block);
-
-// Metadata of a bitmap; empty when it has none. Clones of the bitmap take them along.
-void SetMetadata(FIBITMAP* bitmap, const PhotoMetadata& metadata);
-PhotoMetadata MetadataOf(FIBITMAP* bitmap);
-// Takes away whatever of the photo's metadata the bitmap has, those of the library as well; colour
-// profile, resolution and settings stay.
-void DropMetadata(FIBITMAP* bitmap);
-// Settings that are to be written into the bitmap's file.
-void SetSettings(FIBITMAP* bitmap, const PictureSettings& settings);
-PictureSettings SettingsOf(FIBITMAP* bitmap);
 
 }  // namespace varnel

@@ -1,29 +1,33 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Thin wrappers over the image library's calls for single pixels, metadata and files. Each answers
-// true exactly when the library reports success. Rows count from the bottom row.
+// Thin wrappers for single pixels and metadata. Each answers true exactly when it could do what it
+// was asked. Rows count from the bottom row. Throws nothing unless it says so.
 #pragma once
-
-#include <QString>
 
 #include "remap/image/bitmap.h"
 
 namespace varnel {
 
-// The colour that reads off the source give: all four bytes 0.
-inline constexpr RGBQUAD black{};
+struct PixelColor {
+    std::uint8_t blue = 0;
+    std::uint8_t green = 0;
+    std::uint8_t red = 0;
+    std::uint8_t reserved = 0;
+};
 
-// False when (x, y) lies outside the bitmap; the colour is then left as it was.
-bool GetPixelColor(FIBITMAP* bitmap, std::int32_t x, std::int32_t y, RGBQUAD& colour);
+// The colour that reads off the source give: all four bytes 0.
+inline constexpr PixelColor black{};
+
+// False when (x, y) lies outside the bitmap; the colour is then left as it was, as its fourth byte
+// is in any case.
+bool GetPixelColor(const Bitmap* bitmap, std::int32_t x, std::int32_t y, PixelColor& colour);
 
 // False when (x, y) lies outside the bitmap; nothing is written then.
-bool SetPixelColor(FIBITMAP* bitmap, std::int32_t x, std::int32_t y, const RGBQUAD& colour);
+bool SetPixelColor(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelColor& colour);
 
-// Copies the source's metadata to the destination.
-bool CloneMetadata(FIBITMAP* destination, FIBITMAP* source);
-
-// A library-owned, zero-terminated text; an empty or null pointer gives an empty text.
-QString LibraryText(const char* text);
+// Copies the source's metadata to the destination, all but the colour profile. False when one of
+// them is missing. Throws std::bad_alloc.
+bool CloneMetadata(Bitmap* destination, const Bitmap* source);
 
 }  // namespace varnel

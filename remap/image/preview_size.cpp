@@ -4,9 +4,9 @@
 #include "remap/image/preview_size.h"
 
 #include <algorithm>
-#include <new>
 
 #include "base/rounding.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
@@ -30,12 +30,8 @@ PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room) {
     return {std::max(w, 1), std::max(h, 1)};
 }
 
-BitmapHandle ReducedCopy(FIBITMAP* picture, PixelSize size) {
-    BitmapHandle reduced(FreeImage_Rescale(picture, size.width, size.height, FILTER_BOX));
-    if (!reduced) {
-        throw std::bad_alloc();
-    }
-    return reduced;
+BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size) {
+    return RescaledByBox(*picture, size);
 }
 
 }  // namespace varnel

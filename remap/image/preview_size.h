@@ -14,6 +14,6 @@ namespace varnel {
 PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room);
 
 // The picture reduced to that size with the library's box filter. Throws std::bad_alloc.
-BitmapHandle ReducedCopy(FIBITMAP* picture, PixelSize size);
+BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size);
 
 }  // namespace varnel

@@ -11,9 +11,9 @@ namespace {
 
 // Reads through the library; x and y are whole.
 struct LibraryReader {
-    FIBITMAP* bitmap;
-    RGBQUAD operator()(double x, double y) const {
-        RGBQUAD colour = black;
+    const Bitmap* bitmap;
+    PixelColor operator()(double x, double y) const {
+        PixelColor colour = black;
         const std::optional<std::int32_t> column = PixelIndex(x);
         const std::optional<std::int32_t> row = PixelIndex(y);
         if (column && row) {
@@ -25,15 +25,15 @@ struct LibraryReader {
 
 }  // namespace
 
-RGBQUAD SampleNearest(FIBITMAP* bitmap, double x, double y) {
+PixelColor SampleNearest(const Bitmap* bitmap, double x, double y) {
     return LibraryReader{bitmap}(Round(x), Round(y));
 }
 
-RGBQUAD SampleLinearX(FIBITMAP* bitmap, double x, double y) {
+PixelColor SampleLinearX(const Bitmap* bitmap, double x, double y) {
     return BlendLinearX(LibraryReader{bitmap}, x, y);
 }
 
-RGBQUAD SampleBilinear(FIBITMAP* bitmap, double x, double y) {
+PixelColor SampleBilinear(const Bitmap* bitmap, double x, double y) {
     return BlendBilinear(LibraryReader{bitmap}, x, y);
 }
 

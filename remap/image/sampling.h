@@ -10,14 +10,14 @@
 namespace varnel {
 
 // The pixel nearest to the position, ties to even.
-RGBQUAD SampleNearest(FIBITMAP* bitmap, double x, double y);
+PixelColor SampleNearest(const Bitmap* bitmap, double x, double y);
 
 // Between two neighbours of one row; y is rounded to a whole row.
-RGBQUAD SampleLinearX(FIBITMAP* bitmap, double x, double y);
+PixelColor SampleLinearX(const Bitmap* bitmap, double x, double y);
 
 // Between four neighbours. A neighbour off the bitmap counts as black with its full weight, so that
 // the picture darkens toward its edges. The blend is rounded down; the fourth byte of a blend is 0,
 // a position that is whole in both directions gives its pixel unchanged.
-RGBQUAD SampleBilinear(FIBITMAP* bitmap, double x, double y);
+PixelColor SampleBilinear(const Bitmap* bitmap, double x, double y);
 
 }  // namespace varnel

@@ -7,7 +7,7 @@
 
 namespace varnel {
 
-void RegionRenderer::Start(Projection projection, const ImageRecord& image, FIBITMAP* source) {
+void RegionRenderer::Start(Projection projection, const ImageRecord& image, const Bitmap* source) {
     rows_.reset();
     const PixelSize size = SizeOf(source);
     if (result_ && (SizeOf(result_.get()).width != size.width ||

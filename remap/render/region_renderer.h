@@ -23,7 +23,7 @@ class RegionRenderer {
   public:
     // Forgets what was drawn and begins anew; the bitmap is taken again where it fits. The source
     // has to stay until Drop or the next Start. Throws as the conversion does and is dropped then.
-    void Start(Projection projection, const ImageRecord& image, FIBITMAP* source);
+    void Start(Projection projection, const ImageRecord& image, const Bitmap* source);
     // Forgets what was drawn and keeps the memory.
     void Forget();
     // Forgets all and gives the memory back.
@@ -39,7 +39,7 @@ class RegionRenderer {
                there_[static_cast<std::size_t>(row)];
     }
     // Null when nothing is under way. Rows that are not there hold anything.
-    FIBITMAP* Result() const { return Started() ? result_.get() : nullptr; }
+    const Bitmap* Result() const { return Started() ? result_.get() : nullptr; }
 
   private:
     SerialRunner runner_;

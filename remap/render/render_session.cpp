@@ -12,7 +12,7 @@ namespace varnel {
 namespace {
 
 // A bitmap that will be overwritten is taken again where it fits: its memory is there already.
-void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
+void TakeCanvas(const Bitmap* source, BitmapHandle& result) {
     const PixelSize size = SizeOf(source);
     if (result &&
         (SizeOf(result.get()).width != size.width || SizeOf(result.get()).height != size.height)) {
@@ -21,7 +21,7 @@ void TakeCanvas(FIBITMAP* source, BitmapHandle& result) {
     if (!result) {
         result = NewBitmap(size);
     }
-    CopyAllButPixels(result.get(), source);
+    result->metadata = source->metadata;
 }
 
 }  // namespace

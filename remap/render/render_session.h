@@ -16,11 +16,11 @@ enum class Canvas { CopyOfSource, Anything };
 // What an engine reads from and writes to: two bitmaps of the same size.
 class RenderSurface {
   public:
-    RenderSurface(FIBITMAP* source, FIBITMAP* result, BlockRunner& runner)
+    RenderSurface(const Bitmap* source, Bitmap* result, BlockRunner& runner)
         : source_(source), result_(result), runner_(&runner) {}
 
-    FIBITMAP* Source() const { return source_; }
-    FIBITMAP* Result() const { return result_; }
+    const Bitmap* Source() const { return source_; }
+    Bitmap* Result() const { return result_; }
     BlockRunner& Runner() const { return *runner_; }
     PixelSize Size() const { return SizeOf(source_); }
     // True when what is drawn next is read without interpolation.
@@ -38,8 +38,8 @@ class RenderSurface {
   protected:
     explicit RenderSurface(RenderProgress& progress) : progress_(&progress) {}
     RenderProgress* progress_ = nullptr;
-    FIBITMAP* source_ = nullptr;
-    FIBITMAP* result_ = nullptr;
+    const Bitmap* source_ = nullptr;
+    Bitmap* result_ = nullptr;
     BlockRunner* runner_ = nullptr;
     bool nearest_ = false;
 };
@@ -60,7 +60,7 @@ class RenderSession : public RenderSurface {
     // Shows the value, lets waiting events run and asks anew how to read.
     void Advance(float value);
     // Off the result nothing is written.
-    void Write(std::int32_t x, std::int32_t y, const RGBQUAD& colour) const {
+    void Write(std::int32_t x, std::int32_t y, const PixelColor& colour) const {
         SetPixelColor(result_, x, y, colour);
     }
 

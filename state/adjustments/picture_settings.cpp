@@ -231,14 +231,14 @@ QStringList TakeSettings(const PictureSettings& settings, ImageRecord& image) {
     return notes;
 }
 
-void NoteSettings(FIBITMAP* result, const ImageRecord& image, bool wanted, const QString& file) {
+void NoteSettings(Bitmap* result, const ImageRecord& image, bool wanted, const QString& file) {
     PictureSettings settings = wanted ? SettingsFrom(image) : PictureSettings();
     const QString folder = settings.take(SourceFolder);
     if (!file.isEmpty() && !folder.isEmpty()) {
         const QDir place(QFileInfo(file).absolutePath());
         settings.insert(SourceFolder, QDir::cleanPath(place.relativeFilePath(folder)));
     }
-    SetSettings(result, settings);
+    result->metadata.settings = settings;
 }
 
 QString SourceFolderOf(const ImageRecord& image, const QString& picture) {

@@ -8,7 +8,7 @@
 
 #include <QStringList>
 
-#include "remap/image/photo_metadata.h"
+#include "remap/image/bitmap.h"
 #include "state/records/image_record.h"
 
 namespace varnel {
@@ -27,8 +27,7 @@ QStringList TakeSettings(const PictureSettings& settings, ImageRecord& image);
 // Gives the settings to a result that is about to be written, or takes older ones away. The photo's
 // folder is told as it lies beside the result's file, and not at all when no file is given: nobody
 // else is to learn whose folders these are.
-void NoteSettings(FIBITMAP* result, const ImageRecord& image, bool wanted,
-                  const QString& file = {});
+void NoteSettings(Bitmap* result, const ImageRecord& image, bool wanted, const QString& file = {});
 
 // Where the record's photo lies, when its folder was told by this picture.
 QString SourceFolderOf(const ImageRecord& image, const QString& picture);

@@ -151,7 +151,7 @@ TEST_F(Like, HostileSettingsNeverReachTheConversion) {
     settings[Text("Ratio")] = Text("nan");
     settings[Text("Source")] = Text("../a.png");
     const BitmapHandle bitmap = testing::PositionPicture({6, 4});
-    SetSettings(bitmap.get(), settings);
+    bitmap->metadata.settings = settings;
     SaveBitmap(OutputType::Jpeg, bitmap.get(), files_.Path(Text("evil.jpg")));
     EXPECT_EQ(Run(Text("--like @evil.jpg")), exitUsage);
     EXPECT_TRUE(ErrorHas("evil.jpg: does not say which photo it was made of"));

@@ -126,8 +126,7 @@ class Metadata : public ::testing::Test {
         ASSERT_TRUE(thumbnail.bitmap && picture.bitmap);
         const PixelSize size = thumbnail.size;
         EXPECT_EQ(size.width, 107);
-        const BitmapHandle reduced(
-            FreeImage_Rescale(picture.bitmap.get(), size.width, size.height, FILTER_BOX));
+        const BitmapHandle reduced = RescaledByBox(*picture.bitmap, size);
         double difference = 0;
         for (int y = 0; y < size.height; ++y) {
             const auto one = ScanLine(thumbnail.bitmap.get(), y);

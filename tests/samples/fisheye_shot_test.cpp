@@ -97,12 +97,12 @@ TEST(TakeFisheye, NoiseHasItsDeviationAndNoDirection) {
     int count = 0;
     for (int y = 50; y < 150; ++y) {
         for (int x = 100; x < 200; ++x) {
-            const RGBQUAD pixel = PixelAt(picture.get(), x, y);
-            const double noise = pixel.rgbGreen - 130.0;
+            const PixelColor pixel = PixelAt(picture.get(), x, y);
+            const double noise = pixel.green - 130.0;
             sum += noise;
             squares += noise * noise;
-            besides += noise * (PixelAt(picture.get(), x + 1, y).rgbGreen - 130.0);
-            channels += noise * (pixel.rgbRed - 100.0);
+            besides += noise * (PixelAt(picture.get(), x + 1, y).green - 130.0);
+            channels += noise * (pixel.red - 100.0);
             ++count;
         }
     }
@@ -123,9 +123,9 @@ TEST(TakeView, SamplesSpreadEvenlyOverThePixel) {
     const int expected[] = {0, 0, 100, 0, 50};
     for (const int samples : {1, 2, 4}) {
         const BitmapHandle view = TakeView(scene, {5, 2}, samples, rayAt);
-        EXPECT_EQ(PixelAt(view.get(), 1, 1).rgbRed, 0);
-        EXPECT_EQ(PixelAt(view.get(), 2, 1).rgbRed, expected[samples]) << samples;
-        EXPECT_EQ(PixelAt(view.get(), 3, 1).rgbRed, 200);
+        EXPECT_EQ(PixelAt(view.get(), 1, 1).red, 0);
+        EXPECT_EQ(PixelAt(view.get(), 2, 1).red, expected[samples]) << samples;
+        EXPECT_EQ(PixelAt(view.get(), 3, 1).red, 200);
     }
 }
 

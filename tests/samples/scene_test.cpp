@@ -36,11 +36,11 @@ TEST(LookAt, TheRailAboveTheWindowIsStraightAndLevelInAPinholeView) {
         return Ray{x - 100.0, y - 100.0, 200.0};
     });
     for (int x = 0; x <= 200; ++x) {
-        EXPECT_GT(testing::PixelAt(view.get(), x, 175).rgbRed, 140) << x;
+        EXPECT_GT(testing::PixelAt(view.get(), x, 175).red, 140) << x;
         for (int y = 178; y <= 180; ++y) {
-            EXPECT_LT(testing::PixelAt(view.get(), x, y).rgbRed, 100) << x << " " << y;
+            EXPECT_LT(testing::PixelAt(view.get(), x, y).red, 100) << x << " " << y;
         }
-        EXPECT_GT(testing::PixelAt(view.get(), x, 183).rgbRed, 140) << x;
+        EXPECT_GT(testing::PixelAt(view.get(), x, 183).red, 140) << x;
     }
 }
 

@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 namespace {
@@ -28,7 +28,7 @@ Outcome RunSample(const QStringList& arguments) {
 }
 
 PixelSize SizeOfFile(const QString& fileName) {
-    const BitmapHandle picture(FreeImage_Load(FIF_JPEG, fileName.toLocal8Bit().constData(), 0));
+    const LibraryBitmap picture(FreeImage_Load(FIF_JPEG, fileName.toLocal8Bit().constData(), 0));
     return picture ? SizeOf(picture.get()) : PixelSize{};
 }
 

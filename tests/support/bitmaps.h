@@ -9,13 +9,13 @@
 #include <functional>
 #include <random>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
 #include "remap/image/pixel_access.h"
 
 namespace varnel::testing {
 
 // Every pixel by its column and row.
-inline BitmapHandle Painted(PixelSize size, const std::function<RGBQUAD(int, int)>& colour) {
+inline BitmapHandle Painted(PixelSize size, const std::function<PixelColor(int, int)>& colour) {
     BitmapHandle bitmap = NewBitmap(size);
     for (int y = 0; y < size.height; ++y) {
         for (int x = 0; x < size.width; ++x) {
@@ -29,7 +29,7 @@ inline BitmapHandle Painted(PixelSize size, const std::function<RGBQUAD(int, int
 // red is 7 everywhere and so never black.
 inline BitmapHandle PositionPicture(PixelSize size) {
     return Painted(size, [](int x, int y) {
-        return RGBQUAD{static_cast<BYTE>(x % 256), static_cast<BYTE>(y % 256), 7, 0};
+        return PixelColor{static_cast<BYTE>(x % 256), static_cast<BYTE>(y % 256), 7, 0};
     });
 }
 
@@ -38,7 +38,7 @@ inline BitmapHandle Noise(PixelSize size) {
     std::mt19937 random(7);
     return Painted(size, [&](int, int) {
         const auto level = [&] { return static_cast<BYTE>(random()); };
-        return RGBQUAD{level(), level(), level(), 0};
+        return PixelColor{level(), level(), level(), 0};
     });
 }
 
@@ -57,17 +57,17 @@ inline BitmapHandle Grainy(PixelSize size) {
     return bitmap;
 }
 
-inline RGBQUAD PixelAt(FIBITMAP* bitmap, int x, int y) {
-    RGBQUAD colour{1, 2, 3, 4};
+inline PixelColor PixelAt(const Bitmap* bitmap, int x, int y) {
+    PixelColor colour{1, 2, 3, 4};
     GetPixelColor(bitmap, x, y, colour);
     return colour;
 }
 
-inline bool operator==(const RGBQUAD& a, const RGBQUAD& b) {
-    return a.rgbBlue == b.rgbBlue && a.rgbGreen == b.rgbGreen && a.rgbRed == b.rgbRed;
+inline bool operator==(const PixelColor& a, const PixelColor& b) {
+    return a.blue == b.blue && a.green == b.green && a.red == b.red;
 }
 
-inline bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
+inline bool SamePixels(const Bitmap* one, const Bitmap* other) {
     bool same = one != nullptr && other != nullptr && SizeOf(one).height == SizeOf(other).height;
     for (int y = 0; same && y < SizeOf(one).height; ++y) {
         same = std::ranges::equal(ScanLine(one, y), ScanLine(other, y));
@@ -76,7 +76,7 @@ inline bool SamePixels(FIBITMAP* one, FIBITMAP* other) {
 }
 
 // All rows' bytes, one after the other from the bottom; none of no picture.
-inline QByteArray PixelBytes(FIBITMAP* bitmap) {
+inline QByteArray PixelBytes(const Bitmap* bitmap) {
     QByteArray bytes;
     for (int y = 0; bitmap != nullptr && y < SizeOf(bitmap).height; ++y) {
         const auto row = ScanLine(bitmap, y);
@@ -85,16 +85,28 @@ inline QByteArray PixelBytes(FIBITMAP* bitmap) {
     return bytes;
 }
 
+// A copy of a library's picture, made one of 24 bits.
+inline BitmapHandle In24Bits(FIBITMAP* bitmap) {
+    BitmapHandle copy = TakeOver(LibraryBitmap(FreeImage_ConvertTo24Bits(bitmap)));
+    copy->metadata = LibraryMetadata(bitmap);
+    return copy;
+}
+
+// A copy as the library's.
+inline LibraryBitmap InLibrary(const Bitmap& bitmap) {
+    return LibraryBitmap(FreeImage_Clone(LibraryView(bitmap).get()));
+}
+
 // The picture that a file holds, as the library reads it; none when it refuses.
 inline BitmapHandle FromFile(FREE_IMAGE_FORMAT format, QByteArray file, int flags = 0) {
     FIMEMORY* const memory =
         FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    BitmapHandle bitmap(FreeImage_LoadFromMemory(format, memory, flags));
+    const LibraryBitmap bitmap(FreeImage_LoadFromMemory(format, memory, flags));
     FreeImage_CloseMemory(memory);
-    return bitmap;
+    return bitmap ? In24Bits(bitmap.get()) : nullptr;
 }
 
-inline bool IsBlack(FIBITMAP* bitmap, int x, int y) {
+inline bool IsBlack(const Bitmap* bitmap, int x, int y) {
     return PixelAt(bitmap, x, y) == black;
 }
 

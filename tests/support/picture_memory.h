@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Stands before the image library and answers as it does when there is no memory for a picture.
-// Included once in a test program.
+// Stands before the memory for pictures, that of bitmaps and that of the image library, and answers
+// as when there is none. Included once in a test program.
 #pragma once
 
 #include <FreeImage.h>
 #include <dlfcn.h>
 
 #include <climits>
+#include <cstdlib>
+#include <new>
 
 namespace varnel::testing {
 
@@ -26,10 +28,14 @@ class PictureLimit {
     static bool Reached() { return picturesLeft < 0; }
 };
 
+inline bool TakeOne() {
+    picturesLeft = picturesLeft > 0 ? picturesLeft - 1 : -1;
+    return picturesLeft >= 0;
+}
+
 template <class Function, class... Arguments>
 FIBITMAP* IfLeft(Function /*like*/, const char* name, Arguments... arguments) {
-    if (--picturesLeft < 0) {
-        picturesLeft = -1;
+    if (!TakeOne()) {
         return nullptr;
     }
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name))(arguments...);
@@ -43,14 +49,6 @@ FIBITMAP* DLL_CALLCONV FreeImage_Rescale(FIBITMAP* bitmap, int width, int height
                                          FREE_IMAGE_FILTER filter) {
     return varnel::testing::IfLeft(&FreeImage_Rescale, __func__, bitmap, width, height, filter);
 }
-FIBITMAP* DLL_CALLCONV FreeImage_Allocate(int width, int height, int bits, unsigned red,
-                                          unsigned green, unsigned blue) {
-    return varnel::testing::IfLeft(&FreeImage_Allocate, __func__, width, height, bits, red, green,
-                                   blue);
-}
-FIBITMAP* DLL_CALLCONV FreeImage_Clone(FIBITMAP* bitmap) {
-    return varnel::testing::IfLeft(&FreeImage_Clone, __func__, bitmap);
-}
 FIBITMAP* DLL_CALLCONV FreeImage_ConvertFromRawBitsEx(BOOL copy, BYTE* bits, FREE_IMAGE_TYPE type,
                                                       int width, int height, int pitch,
                                                       unsigned depth, unsigned red, unsigned green,
@@ -58,4 +56,20 @@ FIBITMAP* DLL_CALLCONV FreeImage_ConvertFromRawBitsEx(BOOL copy, BYTE* bits, FRE
     return varnel::testing::IfLeft(&FreeImage_ConvertFromRawBitsEx, __func__, copy, bits, type,
                                    width, height, pitch, depth, red, green, blue, topDown);
 }
+}
+
+// Only the pixels of bitmaps are asked for with an alignment.
+void* operator new(std::size_t length, std::align_val_t alignment) {
+    const auto unit = static_cast<std::size_t>(alignment);
+    void* const memory = varnel::testing::TakeOne()
+                             ? std::aligned_alloc(unit, (length + unit - 1) / unit * unit)
+                             : nullptr;
+    return memory != nullptr ? memory : throw std::bad_alloc();
+}
+void operator delete(void* memory, std::align_val_t /*alignment*/) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*length*/,
+                     std::align_val_t /*alignment*/) noexcept {
+    std::free(memory);
 }

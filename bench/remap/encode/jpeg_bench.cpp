@@ -20,7 +20,7 @@ namespace {
 
 constexpr PixelSize pictureSize{6000, 4000};
 
-FIBITMAP* Rings() {
+const Bitmap* Rings() {
     static const BitmapHandle rings = bench::Rings(pictureSize);
     return rings.get();
 }
@@ -70,8 +70,7 @@ void DecodeDirectly(benchmark::State& state) {
     const BitmapHandle bitmap = NewBitmap(pictureSize);
     for (auto _ : state) {
         if (!ReadJpegPixels(file.get(), pictureSize,
-                            {reinterpret_cast<std::byte*>(FreeImage_GetBits(bitmap.get())),
-                             FreeImage_GetPitch(bitmap.get())})) {
+                            {bitmap->SharedPixels().get(), bitmap->Pitch()})) {
             state.SkipWithError("not decoded");
         }
     }

@@ -15,6 +15,7 @@
 #include "base/thread_runner.h"
 #include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/png_coder.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 namespace {
@@ -42,14 +43,14 @@ double MegabytesOf(const QByteArray& file) {
     return static_cast<double>(file.size()) / 1e6;
 }
 
-void Library(benchmark::State& state, FIBITMAP* photo, double* megabytes) {
+void Library(benchmark::State& state, const Bitmap* photo, double* megabytes) {
     for (auto _ : state) {
         *megabytes = MegabytesOf(LibraryFile(FIF_PNG, photo, 0).bytes);
     }
     state.counters["MB"] = *megabytes;
 }
 
-void Ours(benchmark::State& state, FIBITMAP* photo, const double* libraryMegabytes) {
+void Ours(benchmark::State& state, const Bitmap* photo, const double* libraryMegabytes) {
     ThreadRunner runner(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         const std::optional<QByteArray> file = EncodePng(photo, runner);
@@ -87,8 +88,8 @@ int main(int count, char** words) {
     benchmark::Initialize(&count, words);
     std::vector<varnel::Photo> photos;
     for (int n = 1; n < count; ++n) {
-        photos.push_back({words[n], varnel::BitmapHandle(FreeImage_Load(
-                                        FreeImage_GetFileType(words[n]), words[n]))});
+        photos.push_back({words[n], varnel::TakeOver(varnel::LibraryBitmap(FreeImage_Load(
+                                        FreeImage_GetFileType(words[n]), words[n])))});
         if (!photos.back().bitmap) {
             std::fprintf(stderr, "%s: not loaded\n", words[n]);
             return 1;

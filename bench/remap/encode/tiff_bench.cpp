@@ -13,6 +13,7 @@
 #include "base/thread_runner.h"
 #include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/tiff_coder.h"
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 namespace {
@@ -36,14 +37,14 @@ BitmapHandle Rings(PixelSize size) {
     return bitmap;
 }
 
-void Library(benchmark::State& state, FIBITMAP* photo) {
+void Library(benchmark::State& state, const Bitmap* photo) {
     for (auto _ : state) {
         const EncodedBitmap file = LibraryFile(FIF_TIFF, photo, TIFF_LZW);
         state.counters["MB"] = static_cast<double>(file.bytes.size()) / 1e6;
     }
 }
 
-void Ours(benchmark::State& state, FIBITMAP* photo) {
+void Ours(benchmark::State& state, const Bitmap* photo) {
     ThreadRunner runner(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         const std::optional<QByteArray> file = EncodeTiffLzw(photo, runner);
@@ -55,7 +56,7 @@ void Ours(benchmark::State& state, FIBITMAP* photo) {
     }
 }
 
-void Measure(const std::string& name, FIBITMAP* photo) {
+void Measure(const std::string& name, const Bitmap* photo) {
     const auto set = [](benchmark::internal::Benchmark* timing) {
         timing->Unit(benchmark::kMillisecond)->UseRealTime();
     };
@@ -72,7 +73,8 @@ int main(int count, char** words) {
     benchmark::Initialize(&count, words);
     std::vector<varnel::BitmapHandle> photos;
     for (int n = 1; n < count; ++n) {
-        photos.emplace_back(FreeImage_Load(FreeImage_GetFileType(words[n]), words[n]));
+        photos.push_back(varnel::TakeOver(
+            varnel::LibraryBitmap(FreeImage_Load(FreeImage_GetFileType(words[n]), words[n]))));
         if (!photos.back()) {
             std::fprintf(stderr, "%s: not loaded\n", words[n]);
             return 1;

@@ -50,8 +50,8 @@ struct ExactLine {
     const Map& map;
     const ControlPointLine& line;
 
-    static RGBQUAD Colour(const void* context, const NodeSpan& span, const SpanImage& image,
-                          int n) {
+    static PixelColor Colour(const void* context, const NodeSpan& span, const SpanImage& image,
+                             int n) {
         const auto& self = *static_cast<const ExactLine*>(context);
         const auto [u, v] = self.map.At(self.line.x + n, self.line.y);
         const double column = image.signX * u;
@@ -68,10 +68,10 @@ struct TargetView {
     std::int32_t width = 0;
     std::int32_t height = 0;
 
-    static TargetView Of(FIBITMAP* bitmap) {
+    static TargetView Of(Bitmap* bitmap) {
         const PixelSize size = SizeOf(bitmap);
-        return {FreeImage_GetBits(bitmap), static_cast<std::ptrdiff_t>(FreeImage_GetPitch(bitmap)),
-                size.width, size.height};
+        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
+                size.height};
     }
     std::uint8_t* At(std::int32_t x, std::int32_t y) const {
         return bits + y * pitch + 3 * static_cast<std::ptrdiff_t>(x);

@@ -7,11 +7,10 @@
 
 namespace varnel {
 
-SourceView SourceView::Of(FIBITMAP* bitmap) {
-    assert(FreeImage_GetImageType(bitmap) == FIT_BITMAP && FreeImage_GetBPP(bitmap) == 24);
-    const PixelSize size = SizeOf(bitmap);
-    return {FreeImage_GetBits(bitmap), static_cast<std::ptrdiff_t>(FreeImage_GetPitch(bitmap)),
-            size.width, size.height};
+SourceView SourceView::Of(const Bitmap* bitmap) {
+    assert(bitmap->Format() == PixelFormat::Bgr8);
+    const PixelSize size = bitmap->Size();
+    return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width, size.height};
 }
 
 }  // namespace varnel

@@ -20,10 +20,10 @@ struct SourceView {
     std::int32_t height = 0;
 
     // Of a bitmap of 24 bits; asserts that it is one.
-    static SourceView Of(FIBITMAP* bitmap);
+    static SourceView Of(const Bitmap* bitmap);
 
     // x and y are whole; black off the picture.
-    RGBQUAD operator()(double x, double y) const {
+    PixelColor operator()(double x, double y) const {
         if (!(x >= 0.0 && x < width && y >= 0.0 && y < height)) {
             return black;
         }

@@ -126,8 +126,8 @@ HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int f
 
 // Nearest reads have to be those of the exact positions; where a position is close to the middle
 // between two pixels the exact one decides.
-inline RGBQUAD NearestColour(const NodeSpan& span, const SpanImage& image, const Positions& at,
-                             std::size_t lane, int n) {
+inline PixelColor NearestColour(const NodeSpan& span, const SpanImage& image, const Positions& at,
+                                std::size_t lane, int n) {
     const auto close = [](float part) { return std::fabs(part - 0.5F) < 0.001F; };
     if (close(at.partX[lane]) || close(at.partY[lane])) {
         return span.exact(span.context, span, image, n);
@@ -148,7 +148,7 @@ HWY_NOINLINE void StoreOddLanes(const NodeSpan& span, const SpanImage& image, co
     const bool outside = AllOutside(x.whole, y.whole, span.source);
     for (int n = std::max(first, image.begin); n < std::min(first + lanes, image.end); ++n) {
         const auto lane = static_cast<std::size_t>(n - first);
-        RGBQUAD colour = black;
+        PixelColor colour = black;
         if (span.nearest) {
             colour = NearestColour(span, image, at, lane, n);
         } else if (!outside) {
@@ -267,7 +267,7 @@ HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at
     const bool outside = AllOutside(hn::Load(Ints(), at.column.data() + first),
                                     hn::Load(Ints(), at.row.data() + first), source);
     for (std::size_t n = first; n < end; ++n) {
-        RGBQUAD colour = black;
+        PixelColor colour = black;
         if (!outside) {
             colour =
                 nearest ? source(at.x[n], at.row[n]) : BlendLinearX(source, at.x[n], at.row[n]);

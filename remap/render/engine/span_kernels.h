@@ -48,8 +48,8 @@ struct NodeSpan {
     bool nearest = false;
     // The colour of pixel n of an image, worked out without nodes: where they are not smooth, and
     // where a nearest read is too close to call.
-    RGBQUAD(*exact)
-    (const void* context, const NodeSpan& span, const SpanImage& image, int n) = nullptr;
+    PixelColor (*exact)(const void* context, const NodeSpan& span, const SpanImage& image,
+                        int n) = nullptr;
     const void* context = nullptr;
     std::span<const SpanImage> images;
 };

@@ -42,10 +42,10 @@ struct Positions {
     HWY_ALIGN std::array<float, lanesAtMost> partY;
 };
 
-inline void Put(std::uint8_t* pixel, const RGBQUAD& colour) {
-    pixel[0] = colour.rgbBlue;
-    pixel[1] = colour.rgbGreen;
-    pixel[2] = colour.rgbRed;
+inline void Put(std::uint8_t* pixel, const PixelColor& colour) {
+    pixel[0] = colour.blue;
+    pixel[1] = colour.green;
+    pixel[2] = colour.red;
 }
 
 // Two neighbouring pixels of a row as 8 bytes: blue, green, red, blue, green, red and two more.

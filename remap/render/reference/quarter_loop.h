@@ -16,8 +16,8 @@ namespace varnel {
 
 // The reading of the Rectilinear and Equidistance projections. Without interpolation the horizontal
 // offset is rounded by itself before the sum is.
-inline RGBQUAD ReadAt(const RenderSession& run, std::int32_t cx, std::int32_t cy,
-                      SourceOffset offset) {
+inline PixelColor ReadAt(const RenderSession& run, std::int32_t cx, std::int32_t cy,
+                         SourceOffset offset) {
     return run.Nearest() ? SampleNearest(run.Source(), cx + Round(offset.u), cy + offset.v)
                          : SampleBilinear(run.Source(), cx + offset.u, cy + offset.v);
 }

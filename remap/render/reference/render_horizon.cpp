@@ -17,7 +17,7 @@ namespace varnel::reference {
 
 namespace {
 
-RGBQUAD Read(const RenderSession& run, const ImageCircleGeometry& rows, SourceOffset offset) {
+PixelColor Read(const RenderSession& run, const ImageCircleGeometry& rows, SourceOffset offset) {
     const double y = rows.centreY + offset.v;
     return run.Nearest() ? SampleNearest(run.Source(), rows.centreX + Round(offset.u), y)
                          : SampleLinearX(run.Source(), rows.centreX + offset.u, y);

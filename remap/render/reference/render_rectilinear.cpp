@@ -39,7 +39,7 @@ void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderPro
         const std::int32_t column =
             CLng(static_cast<double>(centre.cx) + x - tx, ReasonCode::OutputColumn);
         for (std::int32_t y = firstY; y <= lastY; ++y) {
-            const RGBQUAD colour = ReadAt(run, centre.cx, centre.cy, map.At(x, y));
+            const PixelColor colour = ReadAt(run, centre.cx, centre.cy, map.At(x, y));
             run.Write(column, CLng(static_cast<double>(centre.cy) + y - ty, ReasonCode::OutputRow),
                       colour);
         }

@@ -16,7 +16,7 @@ namespace varnel::reference {
 
 namespace {
 
-RGBQUAD Read(const RenderSession& run, std::int32_t centreX, double u, std::int32_t row) {
+PixelColor Read(const RenderSession& run, std::int32_t centreX, double u, std::int32_t row) {
     return run.Nearest() ? SampleNearest(run.Source(), centreX + Round(u), row)
                          : SampleLinearX(run.Source(), centreX + u, row);
 }

@@ -349,7 +349,7 @@ TEST_F(Story, TheCurrentPhotoIsStretchedAndSaved) {
     // The photo is 900 x 601 pixels; row 450 is half way from the middle to the top:
     // 1 - 0.4 (1 - cos 45°) = 0.88284.
     const auto greenAt = [](const LoadedPicture& picture, int x) {
-        return static_cast<double>(testing::PixelAt(picture.bitmap.get(), x, 450).rgbGreen);
+        return static_cast<double>(testing::PixelAt(picture.bitmap.get(), x, 450).green);
     };
     EXPECT_NEAR(greenAt(saved, 200), 0.77 * greenAt(photo, 229) + 0.23 * greenAt(photo, 230), 1.5);
     EXPECT_NEAR(greenAt(saved, 600), 0.63 * greenAt(photo, 582) + 0.37 * greenAt(photo, 583), 1.5);

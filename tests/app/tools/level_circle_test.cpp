@@ -67,9 +67,9 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     const QString path = workspace.files.Path(Q("disc.bmp"));
     const BitmapHandle disc = testing::Painted({600, 400}, [](int x, int y) {
         const BYTE grey = std::hypot(x - 305.5, y - 213.5) < 150.0 ? 200 : 3;
-        return RGBQUAD{grey, grey, grey, 0};
+        return PixelColor{grey, grey, grey, 0};
     });
-    ASSERT_TRUE(FreeImage_Save(FIF_BMP, disc.get(), path.toUtf8().constData()));
+    ASSERT_TRUE(SaveBitmap(OutputType::Bmp, disc.get(), path));
     workspace.state.Gear.Resize(2);
     workspace.state.Gear(2).GearName = Q("other");
     workspace.Entry("CmdSetupEquipment")->trigger();

@@ -159,7 +159,7 @@ TEST(PhotoList, LinesMoveWithTheirRecordsByKeysAndByDrag) {
     TestWindow workspace;
     workspace.AddPhotos({Text("a.bmp"), Text("b.bmp"), Text("c.bmp"), Text("d.bmp")});
     workspace.ClickLine(1);
-    FIBITMAP* const photo = workspace.state.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = workspace.state.bitmaps.FullSourceBitmap.get();
     auto* const list = workspace.Find<PhotoList>("ImageList1");
     list->setFocus();
     Keys(workspace, Qt::Key_Down, Qt::AltModifier);

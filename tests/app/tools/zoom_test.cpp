@@ -27,7 +27,7 @@ struct Seen {
     QImage box, picture;
 };
 
-Seen SeenIn(TestWindow& workspace, const char* name, FIBITMAP* picture) {
+Seen SeenIn(TestWindow& workspace, const char* name, const Bitmap* picture) {
     auto* const box = workspace.Find<PictureBox>(name);
     const QPoint corner = box->ToWidget().map(QPointF()).toPoint();
     return {workspace.Shown(name).convertToFormat(QImage::Format_BGR888),
@@ -42,7 +42,7 @@ TEST(Zoom, AtActualSizeBothShowTheFullSizePixels) {
     SilentProgress silent;
     RenderContext whole{bitmaps};
     Render(Projection::Rectilinear, workspace.Record(1), SizeKind::Large, silent, whole);
-    FIBITMAP* const photo = bitmaps.FullSourceBitmap.get();
+    const Bitmap* const photo = bitmaps.FullSourceBitmap.get();
     const Seen from = SeenIn(workspace, "PicSmallFrom", photo);
     const Seen to = SeenIn(workspace, "PicSmallTo", bitmaps.ResultBitmap.get());
     EXPECT_EQ(from.box, from.picture);

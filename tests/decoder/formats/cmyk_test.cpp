@@ -28,7 +28,7 @@ constexpr int side = 16;                 // pixels of each colour
 
 // 16 rows, 16 columns of each colour.
 QByteArray Inked(FREE_IMAGE_FORMAT format, int flags, bool withProfile) {
-    const BitmapHandle bitmap(FreeImage_Allocate(side * std::size(colours), side, 32));
+    const LibraryBitmap bitmap(FreeImage_Allocate(side * std::size(colours), side, 32));
     for (int y = 0; y < side; ++y) {
         BYTE* row = FreeImage_GetScanLine(bitmap.get(), y);
         for (int x = 0; x < side * static_cast<int>(std::size(colours)); ++x) {
@@ -48,11 +48,11 @@ TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
          {Inked(FIF_JPEG, 100, true), Inked(FIF_TIFF, TIFF_CMYK | TIFF_LZW, true)}) {
         const LoadedPicture picture = testing::Decode(file);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
-        EXPECT_EQ(FreeImage_GetICCProfile(picture.bitmap.get())->data, nullptr);
+        EXPECT_TRUE(picture.bitmap->metadata.colourProfile.isEmpty());
         for (std::size_t n = 0; n < std::size(colours); ++n) {
-            const RGBQUAD colour =
+            const PixelColor colour =
                 testing::PixelAt(picture.bitmap.get(), static_cast<int>(n) * side + side / 2, 5);
-            for (const int value : {colour.rgbRed, colour.rgbGreen, colour.rgbBlue}) {
+            for (const int value : {colour.red, colour.green, colour.blue}) {
                 EXPECT_NEAR(value, colours[n].grey, 2)
                     << n << (file.startsWith("\xFF") ? 'j' : 't');
             }
@@ -63,9 +63,9 @@ TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
 TEST(DecodePicture, InksWithoutAProfileAreTakenByRuleOfThumb) {
     const LoadedPicture picture = testing::Decode(Inked(FIF_JPEG, 100, false));
     ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
-    const RGBQUAD cyan = testing::PixelAt(picture.bitmap.get(), 3 * side + side / 2, 5);
-    EXPECT_LT(cyan.rgbRed, 20);
-    EXPECT_GT(cyan.rgbBlue, 200);
+    const PixelColor cyan = testing::PixelAt(picture.bitmap.get(), 3 * side + side / 2, 5);
+    EXPECT_LT(cyan.red, 20);
+    EXPECT_GT(cyan.blue, 200);
 }
 
 }  // namespace

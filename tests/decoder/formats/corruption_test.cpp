@@ -23,9 +23,7 @@ using testing::SeedFile;
 constexpr int secondsPerPhoto = 5;
 
 bool HasProfile(const LoadedPicture& picture) {
-    const FIICCPROFILE* const profile = FreeImage_GetICCProfile(picture.bitmap.get());
-    return QByteArray(static_cast<const char*>(profile->data), profile->size) ==
-           testing::ColourProfile();
+    return picture.bitmap->metadata.colourProfile == testing::ColourProfile();
 }
 
 TEST(SeedFiles, SoundOnesLoadInTheirSizeOrAreRefusedWithAReason) {

@@ -36,7 +36,8 @@ LoadedPicture Decode(const QByteArray& file, ReadKind kind = ReadKind::Whole,
     return testing::Decode(file, {{}, kind, {60, 60}}, memory);
 }
 
-QByteArray Saved(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags = 0) {
+template <class AnyBitmap>
+QByteArray Saved(FREE_IMAGE_FORMAT format, AnyBitmap* bitmap, int flags = 0) {
     const EncodedBitmap file = LibraryFile(format, bitmap, flags);
     EXPECT_FALSE(file.bytes.isEmpty()) << format;
     return file.bytes;
@@ -44,18 +45,18 @@ QByteArray Saved(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags = 0) {
 
 // A picture of this type, every pixel the same number of samples, by sample number.
 template <class Sample>
-BitmapHandle OfSamples(FREE_IMAGE_TYPE type, int width, const std::vector<Sample>& samples) {
-    BitmapHandle bitmap(FreeImage_AllocateT(type, width, 1));
+LibraryBitmap OfSamples(FREE_IMAGE_TYPE type, int width, const std::vector<Sample>& samples) {
+    LibraryBitmap bitmap(FreeImage_AllocateT(type, width, 1));
     std::memcpy(FreeImage_GetScanLine(bitmap.get(), 0), samples.data(),
                 samples.size() * sizeof(Sample));
     return bitmap;
 }
 
-void ExpectColour(FIBITMAP* bitmap, int x, const std::array<int, 3>& redGreenBlue) {
-    const RGBQUAD colour = PixelAt(bitmap, x, 0);
-    EXPECT_NEAR(colour.rgbRed, redGreenBlue[0], 1) << x;
-    EXPECT_NEAR(colour.rgbGreen, redGreenBlue[1], 1) << x;
-    EXPECT_NEAR(colour.rgbBlue, redGreenBlue[2], 1) << x;
+void ExpectColour(const Bitmap* bitmap, int x, const std::array<int, 3>& redGreenBlue) {
+    const PixelColor colour = PixelAt(bitmap, x, 0);
+    EXPECT_NEAR(colour.red, redGreenBlue[0], 1) << x;
+    EXPECT_NEAR(colour.green, redGreenBlue[1], 1) << x;
+    EXPECT_NEAR(colour.blue, redGreenBlue[2], 1) << x;
 }
 
 const BmpKind bmpKinds[] = {
@@ -72,21 +73,21 @@ TEST(DecodePicture, EveryKindOfBmpComesWithItsPixelsAndResolution) {
                                           << " bits, coding " << kind.coding);
         const LoadedPicture picture = Decode(testing::Bmp(kind, {21, 10}));
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
-        EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
+        EXPECT_EQ(picture.bitmap->Format(), PixelFormat::Bgr8);
         for (const auto& [x, y] : {std::pair{0, 0}, {20, 0}, {13, 6}, {20, 9}}) {
             EXPECT_TRUE(PixelAt(picture.bitmap.get(), x, y) == kind.Colour(x, y)) << x << ' ' << y;
         }
         if (kind.headerBytes > 12) {
-            EXPECT_EQ(FreeImage_GetDotsPerMeterX(picture.bitmap.get()), 5000U);
-            EXPECT_EQ(FreeImage_GetDotsPerMeterY(picture.bitmap.get()), 6000U);
+            EXPECT_EQ(picture.bitmap->metadata.dotsPerMetreX, 5000U);
+            EXPECT_EQ(picture.bitmap->metadata.dotsPerMetreY, 6000U);
         }
     }
 }
 
 TEST(DecodePicture, DeepGreyIsCutToEightBitsAndFloatGreyStretched) {
     const float none = std::numeric_limits<float>::quiet_NaN();
-    const BitmapHandle deep = OfSamples<std::uint16_t>(FIT_UINT16, 3, {0x1000, 0x8000, 0xC0FF});
-    const BitmapHandle floats = OfSamples<float>(FIT_FLOAT, 4, {0, none, 50, 200});
+    const LibraryBitmap deep = OfSamples<std::uint16_t>(FIT_UINT16, 3, {0x1000, 0x8000, 0xC0FF});
+    const LibraryBitmap floats = OfSamples<float>(FIT_FLOAT, 4, {0, none, 50, 200});
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_PNG}) {
         const LoadedPicture picture = Decode(Saved(format, deep.get()));
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
@@ -102,7 +103,7 @@ TEST(DecodePicture, DeepGreyIsCutToEightBitsAndFloatGreyStretched) {
 
 TEST(DecodePicture, FloatColourWithinOneGetsTheScreensCurve) {
     // 0.5 and 0.18 of full light are 188 and 118 on an sRGB screen.
-    const BitmapHandle light =
+    const LibraryBitmap light =
         OfSamples<float>(FIT_RGBF, 3, {0.5F, 0.18F, 0, 1, -3, 0.5F, 0.18F, 0.18F, 0.18F});
     for (const FREE_IMAGE_FORMAT format : {FIF_TIFF, FIF_EXR, FIF_PFM}) {
         const LoadedPicture picture = Decode(Saved(format, light.get()));
@@ -122,7 +123,7 @@ TEST(DecodePicture, FloatColourOfAnyScaleIsExposedAndBadSamplesAreSafe) {
         grey.insert(grey.end(), 3, light);
     }
     for (const float scale : {1.0F, 1000.0F}) {
-        BitmapHandle bitmap = OfSamples<float>(FIT_RGBF, 3, grey);
+        LibraryBitmap bitmap = OfSamples<float>(FIT_RGBF, 3, grey);
         for (int i = 0; i < 9; ++i) {
             reinterpret_cast<float*>(FreeImage_GetScanLine(bitmap.get(), 0))[i] *= scale;
         }
@@ -131,19 +132,19 @@ TEST(DecodePicture, FloatColourOfAnyScaleIsExposedAndBadSamplesAreSafe) {
             ASSERT_EQ(picture.outcome, LoadOutcome::Loaded)
                 << ErrorText(picture.reason).toStdString();
             for (const auto& [x, value] : {std::pair{0, 36}, {1, 112}, {2, 255}}) {
-                EXPECT_NEAR(PixelAt(picture.bitmap.get(), x, 0).rgbGreen, value, 2) << x;
+                EXPECT_NEAR(PixelAt(picture.bitmap.get(), x, 0).green, value, 2) << x;
             }
         }
     }
     const float none = std::numeric_limits<float>::quiet_NaN();
     const float endless = std::numeric_limits<float>::infinity();
-    const BitmapHandle bad = OfSamples<float>(
+    const LibraryBitmap bad = OfSamples<float>(
         FIT_RGBAF, 3, {none, 1, -endless, 1, endless, endless, endless, none, -1, -1, -1, 1});
     const LoadedPicture picture = Decode(Saved(FIF_TIFF, bad.get()));
     ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
     ExpectColour(picture.bitmap.get(), 1, {255, 255, 255});
     ExpectColour(picture.bitmap.get(), 2, {0, 0, 0});
-    EXPECT_EQ(PixelAt(picture.bitmap.get(), 0, 0).rgbRed, 0);
+    EXPECT_EQ(PixelAt(picture.bitmap.get(), 0, 0).red, 0);
 }
 
 TEST(DecodePicture, OnlyAProfileOfRgbAndTheResolutionReachTheResult) {
@@ -158,15 +159,14 @@ TEST(DecodePicture, OnlyAProfileOfRgbAndTheResolutionReachTheResult) {
     for (const auto& row : rows) {
         QByteArray profile = testing::ColourProfile();
         profile.replace(16, 4, row.colours);
-        const BitmapHandle bitmap(FreeImage_AllocateT(row.type, 9, 9, row.depth));
+        const LibraryBitmap bitmap(FreeImage_AllocateT(row.type, 9, 9, row.depth));
         FreeImage_CreateICCProfile(bitmap.get(), profile.data(), static_cast<long>(profile.size()));
         FreeImage_SetDotsPerMeterX(bitmap.get(), 4000);
         const LoadedPicture picture = Decode(Saved(FIF_TIFF, bitmap.get()));
         ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
-        EXPECT_EQ(FreeImage_GetICCProfile(picture.bitmap.get())->size,
-                  row.kept ? profile.size() : 0)
+        EXPECT_EQ(picture.bitmap->metadata.colourProfile, row.kept ? profile : QByteArray())
             << row.colours << ' ' << row.depth;
-        EXPECT_NEAR(FreeImage_GetDotsPerMeterX(picture.bitmap.get()), 4000, 20);
+        EXPECT_NEAR(picture.bitmap->metadata.dotsPerMetreX, 4000, 20);
     }
 }
 
@@ -245,7 +245,7 @@ TEST(DecodePicture, ASmallOneFitsTheBoxAndIsNeverEnlarged) {
         {{600, 300}, {60, 30}}, {{300, 600}, {30, 60}}, {{20, 30}, {20, 30}}, {{900, 2}, {60, 1}}};
     for (const auto& row : rows) {
         const BitmapHandle bitmap = testing::Painted(row.picture, [&](int, int y) {
-            return y < row.picture.height / 2 ? RGBQUAD{250, 0, 0, 0} : RGBQUAD{0, 0, 250, 0};
+            return y < row.picture.height / 2 ? PixelColor{250, 0, 0, 0} : PixelColor{0, 0, 250, 0};
         });
         for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_PNG, FIF_TIFF}) {
             const LoadedPicture small = Decode(Saved(format, bitmap.get(), 0), ReadKind::Small);
@@ -253,17 +253,17 @@ TEST(DecodePicture, ASmallOneFitsTheBoxAndIsNeverEnlarged) {
             EXPECT_EQ(SizeOf(small.bitmap.get()).width, row.expected.width);
             EXPECT_EQ(SizeOf(small.bitmap.get()).height, row.expected.height);
             EXPECT_EQ(small.size.width, row.picture.width);
-            EXPECT_EQ(FreeImage_GetMetadataCount(FIMD_EXIF_MAIN, small.bitmap.get()), 0U);
+            EXPECT_EQ(small.bitmap->metadata, BitmapMetadata());
             if (row.expected.height > 2) {
-                EXPECT_GT(PixelAt(small.bitmap.get(), 5, 2).rgbBlue, 200);
-                EXPECT_GT(PixelAt(small.bitmap.get(), 5, row.expected.height - 3).rgbRed, 200);
+                EXPECT_GT(PixelAt(small.bitmap.get(), 5, 2).blue, 200);
+                EXPECT_GT(PixelAt(small.bitmap.get(), 5, row.expected.height - 3).red, 200);
             }
         }
     }
 }
 
 TEST(DecodePicture, WhatIsNoPhotoIsRefusedWithItsReason) {
-    const BitmapHandle waves(FreeImage_AllocateT(FIT_COMPLEX, 8, 8));
+    const LibraryBitmap waves(FreeImage_AllocateT(FIT_COMPLEX, 8, 8));
     QByteArray unreadable = testing::RawPhoto(true, 1);
     unreadable[unreadable.indexOf(QByteArray("\x03\1\3\0", 4)) + 8] = 99;  // the compression
     const struct {

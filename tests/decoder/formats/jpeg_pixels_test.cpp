@@ -13,7 +13,6 @@
 #include "decoder/formats/jpeg_frame.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
-#include "decoder/process/protocol.h"
 #include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/jpeg_coder.h"
 #include "remap/image/library_messages.h"
@@ -27,7 +26,6 @@ namespace {
 // All that becomes of a photo.
 struct Photo {
     BitmapHandle bitmap;
-    QByteArray extras;
     QStringList messages;
     Reason damage;
 
@@ -47,12 +45,11 @@ std::optional<Photo> ByLibrary(QByteArray bytes) {
     const File file = Opened(bytes);
     const PictureFile picture(file.get());
     const LibraryMessages said;
-    Photo photo{picture.Load(FIF_JPEG, JPEG_ACCURATE), {}, {}, {}};
-    if (!photo.bitmap) {
+    LibraryBitmap loaded = picture.Load(FIF_JPEG, JPEG_ACCURATE);
+    if (!loaded) {
         return std::nullopt;
     }
-    photo.bitmap = To24Bits(std::move(photo.bitmap));
-    photo.extras = PackExtras(photo.bitmap.get());
+    Photo photo{To24Bits(std::move(loaded)), {}, {}};
     photo.Finish(picture, said);
     return photo;
 }
@@ -66,16 +63,17 @@ std::optional<Photo> Directly(QByteArray bytes) {
         return std::nullopt;
     }
     const LibraryMessages said;
-    Photo photo{NewBitmap(*size), {}, {}, {}};
-    BitmapHandle metadata =
-        ReadJpegPixels(file.get(), *size,
-                       {reinterpret_cast<std::byte*>(FreeImage_GetBits(photo.bitmap.get())),
-                        FreeImage_GetPitch(photo.bitmap.get())});
+    Photo photo{NewBitmap(*size), {}, {}};
+    std::optional<BitmapMetadata> metadata = ReadJpegPixels(
+        file.get(), *size, {photo.bitmap->SharedPixels().get(), photo.bitmap->Pitch()});
     if (!metadata) {
         EXPECT_TRUE(said.Lines().isEmpty());
         return std::nullopt;
     }
-    photo.extras = PackExtras(To24Bits(std::move(metadata)).get());
+    photo.bitmap->metadata = std::move(*metadata);
+    if (!IsProfileForRgb(photo.bitmap->metadata.colourProfile)) {
+        photo.bitmap->metadata.colourProfile.clear();
+    }
     photo.Finish(picture, said);
     return photo;
 }
@@ -96,7 +94,7 @@ Reason ExpectAsByLibrary(const QByteArray& bytes, Wanted wanted) {
         ADD_FAILURE() << "refused by the library";
         return {};
     }
-    EXPECT_TRUE(photo->extras == expected->extras);
+    EXPECT_TRUE(photo->bitmap->metadata == expected->bitmap->metadata);
     EXPECT_EQ(photo->messages, expected->messages);
     EXPECT_EQ(photo->damage, expected->damage);
     EXPECT_TRUE(testing::SamePixels(photo->bitmap.get(), expected->bitmap.get()));
@@ -106,19 +104,20 @@ Reason ExpectAsByLibrary(const QByteArray& bytes, Wanted wanted) {
 BitmapHandle Picture(PixelSize size) {
     return testing::Painted(size, [](int x, int y) {
         const int grain = (x * x * 31 + y * y * 17 + x * y) % 61;
-        return RGBQUAD{static_cast<BYTE>(x * 4), static_cast<BYTE>(y * 5),
-                       static_cast<BYTE>(100 + grain), 0};
+        return PixelColor{static_cast<BYTE>(x * 4), static_cast<BYTE>(y * 5),
+                          static_cast<BYTE>(100 + grain), 0};
     });
 }
 
-QByteArray Saved(FIBITMAP* bitmap, int flags) {
+template <class AnyBitmap>
+QByteArray Saved(AnyBitmap* bitmap, int flags) {
     return LibraryFile(FIF_JPEG, bitmap, flags).bytes;
 }
 
 TEST(ReadJpegPixels, GivesTheLibrarysPixelsOfEveryKind) {
     for (const PixelSize size : {PixelSize{1, 1}, {17, 33}, {16, 16}, {61, 43}, {300, 5}}) {
         const BitmapHandle bitmap = Picture(size);
-        const BitmapHandle grey(FreeImage_ConvertToGreyscale(bitmap.get()));
+        const LibraryBitmap grey(FreeImage_ConvertToGreyscale(testing::InLibrary(*bitmap).get()));
         for (const int flags : {90, 90 | JPEG_SUBSAMPLING_411, 60 | JPEG_SUBSAMPLING_422,
                                 100 | JPEG_SUBSAMPLING_444, 5 | JPEG_OPTIMIZE}) {
             for (const int more : {0, JPEG_PROGRESSIVE, JPEG_BASELINE}) {
@@ -134,8 +133,9 @@ TEST(ReadJpegPixels, GivesTheLibrarysPixelsOfEveryKind) {
 }
 
 TEST(ReadJpegPixels, GivesTheMetadataThatTheLibraryReads) {
-    const BitmapHandle bitmap = Picture({61, 43});
-    FreeImage_SetThumbnail(bitmap.get(), Picture({20, 10}).get());
+    const BitmapHandle photo = Picture({61, 43});
+    const LibraryBitmap bitmap = testing::InLibrary(*photo);
+    FreeImage_SetThumbnail(bitmap.get(), testing::InLibrary(*Picture({20, 10})).get());
     const QByteArray plain = Saved(bitmap.get(), 90);
     const QByteArray progressive = Saved(bitmap.get(), 90 | JPEG_PROGRESSIVE);
     const QByteArray comment("\xFF\xFE\0\7later", 9);
@@ -144,7 +144,7 @@ TEST(ReadJpegPixels, GivesTheMetadataThatTheLibraryReads) {
     const auto changed = [&](int at, char value) {
         return QByteArray(plain).replace(at, 1, &value, 1);
     };
-    const BitmapHandle grey(FreeImage_ConvertToGreyscale(bitmap.get()));
+    const LibraryBitmap grey(FreeImage_ConvertToGreyscale(bitmap.get()));
     const QByteArray rows[] = {
         plain,
         testing::Described(plain),
@@ -175,7 +175,7 @@ TEST(ReadJpegPixels, TakesRedGreenBlueAndLeavesOtherColoursAndCodings) {
     ExpectAsByLibrary(withAdobe('\0'), Wanted::Read);
     ExpectAsByLibrary(withAdobe('\1'), Wanted::Read);
     ExpectAsByLibrary(withAdobe('\7'), Wanted::Read);  // gives a warning
-    const BitmapHandle inks(FreeImage_ConvertTo32Bits(bitmap.get()));
+    const LibraryBitmap inks(FreeImage_ConvertTo32Bits(testing::InLibrary(*bitmap).get()));
     FreeImage_GetICCProfile(inks.get())->flags |= FIICC_COLOR_IS_CMYK;
     ExpectAsByLibrary(Saved(inks.get(), 90), Wanted::Left);
     QByteArray arithmetic = bare;
@@ -189,11 +189,12 @@ TEST(ReadJpegPixels, TakesRedGreenBlueAndLeavesOtherColoursAndCodings) {
 TEST(ReadJpegPixels, SeesTheDamageThatTheLibrarySees) {
     const BitmapHandle small = Picture({61, 43});
     const BitmapHandle large = Picture({400, 300});
-    const BitmapHandle grey(FreeImage_ConvertToGreyscale(small.get()));
+    const LibraryBitmap grey(FreeImage_ConvertToGreyscale(testing::InLibrary(*small).get()));
     std::vector<QByteArray> files;
-    for (FIBITMAP* const bitmap : {small.get(), large.get(), grey.get()}) {
-        files.push_back(Saved(bitmap, 92));
-        files.push_back(Saved(bitmap, 92 | JPEG_PROGRESSIVE));
+    for (const int flags : {92, 92 | JPEG_PROGRESSIVE}) {
+        files.push_back(Saved(small.get(), flags));
+        files.push_back(Saved(large.get(), flags));
+        files.push_back(Saved(grey.get(), flags));
     }
     int damaged = 0;
     const auto look = [&](const QByteArray& file) {

@@ -30,7 +30,7 @@ QByteArray Exif(int orientation, Order order = Order::Big) {
         {{271, TiffType::Text, {}, QByteArray("Varnel", 7)}, {274, TiffType::Short, {number}}}));
 }
 
-QByteArray Jpeg(FIBITMAP* bitmap, int orientation, int flags) {
+QByteArray Jpeg(const Bitmap* bitmap, int orientation, int flags) {
     const QByteArray mark("Exif\0\0", 6);
     return LibraryFile(FIF_JPEG, bitmap, flags)
         .bytes.insert(2, testing::JpegSegment(0xE1, "http://ns.adobe.com/xap/1.0/") +
@@ -38,12 +38,12 @@ QByteArray Jpeg(FIBITMAP* bitmap, int orientation, int flags) {
 }
 
 // The block behind the pixels, where it may be, too.
-QByteArray Png(FIBITMAP* bitmap, int orientation) {
+QByteArray Png(const Bitmap* bitmap, int orientation) {
     QByteArray file = LibraryFile(FIF_PNG, bitmap, 0).bytes;
     return file.insert(file.size() - 12, testing::PngChunk("eXIf", Exif(orientation)));
 }
 
-QByteArray Webp(FIBITMAP* bitmap, int orientation) {
+QByteArray Webp(const Bitmap* bitmap, int orientation) {
     using testing::Number;
     const QByteArray exif = Exif(orientation, Order::Little);
     const PixelSize size = SizeOf(bitmap);
@@ -55,11 +55,11 @@ QByteArray Webp(FIBITMAP* bitmap, int orientation) {
 }
 
 // Grey in 8 bits a sample; as luminance and colour the library has another way of reading it.
-QByteArray Tiff(FIBITMAP* bitmap, int orientation, bool ycc) {
+QByteArray Tiff(const Bitmap* bitmap, int orientation, bool ycc) {
     QByteArray pixels;
     for (int y = SizeOf(bitmap).height - 1; y >= 0; --y) {
         for (int x = 0; x < SizeOf(bitmap).width; ++x) {
-            const auto grey = static_cast<char>(testing::PixelAt(bitmap, x, y).rgbRed);
+            const auto grey = static_cast<char>(testing::PixelAt(bitmap, x, y).red);
             const char noColour = ycc ? '\x80' : grey;
             const char samples[] = {grey, noColour, noColour};
             pixels.append(samples, 3);
@@ -86,15 +86,15 @@ BitmapHandle Lettered(const std::vector<std::string>& rows) {
     const auto height = static_cast<int>(rows.size());
     return testing::Painted({static_cast<int>(rows[0].size()), height}, [&](int x, int y) {
         const auto grey = static_cast<BYTE>(rows[height - 1 - y][x]);
-        return RGBQUAD{grey, grey, grey, 0};
+        return PixelColor{grey, grey, grey, 0};
     });
 }
 
-std::string Letters(FIBITMAP* bitmap) {
+std::string Letters(const Bitmap* bitmap) {
     std::string letters;
     for (int y = SizeOf(bitmap).height - 1; y >= 0; --y) {
         for (int x = 0; x < SizeOf(bitmap).width; ++x) {
-            letters += static_cast<char>(testing::PixelAt(bitmap, x, y).rgbGreen);
+            letters += static_cast<char>(testing::PixelAt(bitmap, x, y).green);
         }
         letters += y > 0 ? "/" : "";
     }
@@ -105,8 +105,8 @@ TEST(DecodePicture, TurnsEveryTypeOnceAndSaysSo) {
     const char* const shown[] = {"abc/def",  "cba/fed",  "fed/cba",  "def/abc",
                                  "ad/be/cf", "da/eb/fc", "fc/eb/da", "cf/be/ad"};
     const BitmapHandle stored = Lettered({"abc", "def"});
-    FreeImage_SetDotsPerMeterX(stored.get(), 3000);
-    FreeImage_SetDotsPerMeterY(stored.get(), 4000);
+    stored->metadata.dotsPerMetreX = 3000;
+    stored->metadata.dotsPerMetreY = 4000;
     for (int orientation = 1; orientation <= 8; ++orientation) {
         const QByteArray files[] = {Png(stored.get(), orientation), Webp(stored.get(), orientation),
                                     Tiff(stored.get(), orientation, false),
@@ -123,7 +123,7 @@ TEST(DecodePicture, TurnsEveryTypeOnceAndSaysSo) {
             EXPECT_EQ(Letters(asStored.bitmap.get()), shown[0]);
             EXPECT_EQ(asStored.orientation, 1);
         }
-        EXPECT_EQ(FreeImage_GetDotsPerMeterX(Decode(files[0], {}).bitmap.get()),
+        EXPECT_EQ(Decode(files[0], {}).bitmap->metadata.dotsPerMetreX,
                   orientation < 5 ? 3000U : 4000U);
     }
 }
@@ -141,10 +141,12 @@ TEST(DecodePicture, TurnsJpegAsItIsDecoded) {
             const QByteArray file = Jpeg(stored.get(), orientation, flags);
             const LoadedPicture plain = Decode(file, {{}, ReadKind::Whole, {}, false});
             const auto& row = rows[orientation - 1];
+            const LibraryBitmap mirrored = testing::InLibrary(*plain.bitmap);
             if (row.mirrored) {
-                FreeImage_FlipHorizontal(plain.bitmap.get());
+                FreeImage_FlipHorizontal(mirrored.get());
             }
-            const BitmapHandle expected(FreeImage_Rotate(plain.bitmap.get(), row.turned));
+            const BitmapHandle expected =
+                TakeOver(LibraryBitmap(FreeImage_Rotate(mirrored.get(), row.turned)));
             const LoadedPicture picture = Decode(file, {});
             ASSERT_EQ(SizeOf(picture.bitmap.get()).width, SizeOf(expected.get()).width);
             EXPECT_TRUE(testing::SamePixels(picture.bitmap.get(), expected.get()))

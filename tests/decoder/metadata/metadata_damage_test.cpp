@@ -87,7 +87,7 @@ class MetadataTrial {
             return "lost";
         }
         EXPECT_TRUE(PixelBytes(picture.bitmap.get()) == sound_);
-        const Reasons notes = MetadataOf(picture.bitmap.get()).notes;
+        const Reasons notes = picture.bitmap->metadata.photo.notes;
         for (const Reason& note : notes) {
             EXPECT_EQ(notes.count(note), 1);
         }
@@ -108,7 +108,7 @@ class MetadataTrial {
         return ReadPicture(reader_, {.path = path, .upright = false});
     }
     // What is left is sound.
-    void Write(FIBITMAP* bitmap) {
+    void Write(const Bitmap* bitmap) {
         for (const OutputType type : {OutputType::Jpeg, OutputType::Tiff, OutputType::Png}) {
             const EncodedBitmap file = EncodeBitmap(type, bitmap);
             const LoadedPicture again = Read(file.bytes);
@@ -116,8 +116,9 @@ class MetadataTrial {
             if (again.bitmap) {
                 EXPECT_TRUE(type == OutputType::Jpeg || PixelBytes(again.bitmap.get()) == sound_)
                     << ToText(type).toStdString();
-                const Reasons notes = MetadataOf(again.bitmap.get()).notes;
-                EXPECT_TRUE(notes.isEmpty()) << ToText(type).toStdString() << ErrorText(Joined(notes)).toStdString();
+                const Reasons notes = again.bitmap->metadata.photo.notes;
+                EXPECT_TRUE(notes.isEmpty())
+                    << ToText(type).toStdString() << ErrorText(Joined(notes)).toStdString();
             }
         }
     }
@@ -263,7 +264,7 @@ TEST(DecoderReader, LosesNoPixelsToMetadata) {
         EXPECT_LT(timer.elapsed(), mostMilliseconds);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
         EXPECT_EQ(PixelBytes(picture.bitmap.get()), QByteArray(24, 'p'));
-        EXPECT_EQ(MetadataOf(picture.bitmap.get()).notes, Reasons{allLost});
+        EXPECT_EQ(picture.bitmap->metadata.photo.notes, Reasons{allLost});
     }
     testing::WriteFile(photo, orders[0]);
     const LoadedPicture facts = ReadPicture(reader, {.path = photo, .kind = ReadKind::Facts});

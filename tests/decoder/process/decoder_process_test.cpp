@@ -37,26 +37,26 @@ QByteArray ProcessStatus(pid_t id) {
 TEST(DecoderReader, PixelsAndMetadataComeAcrossAndMemoryIsUsedAgain) {
     const PictureFolder folder;
     BitmapHandle photo = testing::PositionPicture({300, 200});
-    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "Küste");
-    FreeImage_SetMetadataKeyValue(
-        FIMD_XMP, photo.get(), "XMLPacket",
+    photo->metadata.comments["Comment"] = "Küste";
+    photo->metadata.photo.xmp =
         "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
         "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/"
-        "elements/1.1/' dc:source='a lake'/></rdf:RDF>");
-    FreeImage_SetDotsPerMeterX(photo.get(), 11811);
+        "elements/1.1/' dc:source='a lake'/></rdf:RDF>";
+    photo->metadata.dotsPerMetreX = 11811;
     ASSERT_TRUE(SaveBitmap({OutputType::Jpeg, 90}, photo.get(), folder.Path(Text("a"))));
-    const BitmapHandle direct(FreeImage_Load(
-        FIF_JPEG, QFile::encodeName(folder.Path(Text("a"))).constData(), JPEG_ACCURATE));
+    const BitmapHandle direct = TakeOver(LibraryBitmap(FreeImage_Load(
+        FIF_JPEG, QFile::encodeName(folder.Path(Text("a"))).constData(), JPEG_ACCURATE)));
     DecoderReader reader({});
     for (int round = 0; round < 3; ++round) {
         const LoadedPicture picture = ReadPicture(reader, {folder.Path(Text("a"))});
         ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
-        FIBITMAP* const bitmap = picture.bitmap.get();
+        const Bitmap* const bitmap = picture.bitmap.get();
         EXPECT_TRUE(testing::SamePixels(bitmap, direct.get()));
-        EXPECT_EQ(PackExtras(bitmap), PackExtras(direct.get()));
-        EXPECT_EQ(FreeImage_GetDotsPerMeterX(bitmap), 11811U);
-        EXPECT_TRUE(MetadataOf(bitmap).xmp.contains("a lake"));
-        EXPECT_TRUE(MetadataOf(bitmap).notes.isEmpty());
+        EXPECT_EQ(PackAttributes(bitmap->metadata), PackAttributes(direct->metadata));
+        EXPECT_EQ(bitmap->metadata.comments.value("Comment"), "Küste");
+        EXPECT_EQ(bitmap->metadata.dotsPerMetreX, 11811U);
+        EXPECT_TRUE(bitmap->metadata.photo.xmp.contains("a lake"));
+        EXPECT_TRUE(bitmap->metadata.photo.notes.isEmpty());
     }
 }
 
@@ -68,8 +68,8 @@ TEST(DecoderReader, PicturesStayWhenTheReaderIsGone) {
     const LoadedPicture a = ReadPicture(*reader, {folder.Path(Text("a"))});
     const LoadedPicture b = ReadPicture(*reader, {folder.Path(Text("b"))});
     reader.reset();
-    EXPECT_EQ(testing::PixelAt(a.bitmap.get(), 50, 30).rgbBlue, 50);
-    EXPECT_EQ(testing::PixelAt(b.bitmap.get(), 80, 10).rgbBlue, 80);
+    EXPECT_EQ(testing::PixelAt(a.bitmap.get(), 50, 30).blue, 50);
+    EXPECT_EQ(testing::PixelAt(b.bitmap.get(), 80, 10).blue, 80);
 }
 
 TEST(DecoderReader, KilledAtRandomMomentsItIsReplacedAndThePhotoComes) {
@@ -270,7 +270,7 @@ TEST(IsConsistent, OnlyAnswersWhoseNumbersAgree) {
     good.number = 7;
     good.size = good.bitmap = {101, 50};
     good.pitch = 304;
-    good.extrasLength = 20;
+    good.attributesLength = 20;
     constexpr std::uint64_t length = 304 * 50 + 20;
     ASSERT_TRUE(IsConsistent(good, request, length));
     ASSERT_FALSE(IsConsistent(good, request, length - 1));
@@ -289,8 +289,8 @@ TEST(IsConsistent, OnlyAnswersWhoseNumbersAgree) {
         },
         [](DecoderAnswer& a) { a.pitch = 303; },
         [](DecoderAnswer& a) { a.pitch = 0x80000130; },
-        [](DecoderAnswer& a) { a.extrasLength = 21; },
-        [](DecoderAnswer& a) { a.extrasLength = ~std::uint64_t{0} - 15'000; },
+        [](DecoderAnswer& a) { a.attributesLength = 21; },
+        [](DecoderAnswer& a) { a.attributesLength = ~std::uint64_t{0} - 15'000; },
         [](DecoderAnswer& a) { a.orientation = 0; },
         [](DecoderAnswer& a) { a.orientation = 9; },
         [](DecoderAnswer& a) { a.reasonLength = longestReason + 1; },
@@ -332,25 +332,28 @@ TEST(ReasonOf, CutsOnlyTextsThatAreTooLong) {
     }
 }
 
-TEST(TakeExtras, GivesWhatIsSoundOfAnyBytes) {
-    BitmapHandle photo = testing::PositionPicture({4, 4});
-    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.get(), "Comment", "text");
-    FreeImage_SetMetadataKeyValue(FIMD_EXIF_MAIN, photo.get(), "Make", "maker");
-    const QByteArray block = PackExtras(photo.get());
+TEST(UnpackAttributes, GivesWhatIsSoundOfAnyBytes) {
+    const BitmapMetadata sound{.dotsPerMetreX = 5000,
+                               .dotsPerMetreY = 6000,
+                               .colourProfile = QByteArray(500, 'p'),
+                               .comments = {{"Comment", "text"}, {"Title", "a lake"}},
+                               .photo = {},
+                               .settings = {}};
+    const QByteArray block = PackAttributes(sound);
+    EXPECT_EQ(UnpackAttributes(block), sound);
     for (qsizetype length = 0; length < block.size(); ++length) {
-        const BitmapHandle cut = testing::PositionPicture({4, 4});
-        TakeExtras(block.left(length), cut.get());
-        EXPECT_LT(FreeImage_GetMetadataCount(FIMD_COMMENTS, cut.get()) +
-                      FreeImage_GetMetadataCount(FIMD_EXIF_MAIN, cut.get()),
-                  2U);
+        const BitmapMetadata cut = UnpackAttributes(block.left(length));
+        EXPECT_LT(cut.comments.size(), 2);
+        EXPECT_TRUE(cut.colourProfile.isEmpty() || cut.colourProfile == sound.colourProfile);
     }
     for (qsizetype place = 8; place < block.size(); ++place) {  // after the resolution
         for (const char value : {'\0', '\x7F', '\xFF'}) {
             QByteArray spoilt = block;
             spoilt[place] = value;
-            const BitmapHandle taken = testing::PositionPicture({4, 4});
-            TakeExtras(spoilt, taken.get());
-            EXPECT_LE(PackExtras(taken.get()).size(), block.size());
+            const BitmapMetadata taken = UnpackAttributes(spoilt);
+            EXPECT_LE(PackAttributes(taken).size(), block.size());
+            EXPECT_FALSE(std::ranges::any_of(
+                taken.comments.keys(), [](const QByteArray& key) { return key.contains('\0'); }));
         }
     }
 }

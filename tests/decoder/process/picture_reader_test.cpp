@@ -32,13 +32,13 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
         const QString path = folder.Picture(Text("Küste %1.jpg").arg(ToText(type)), type);
         const LoadedPicture picture = LoadPicture(path);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
-        EXPECT_EQ(FreeImage_GetBPP(picture.bitmap.get()), 24U);
+        EXPECT_EQ(picture.bitmap->Format(), PixelFormat::Bgr8);
         EXPECT_EQ(SizeOf(picture.bitmap.get()).width, 60);
         EXPECT_EQ(SizeAt(path).height, 40);
         const LoadedPicture small =
             ReadPicture(testing::Reader(), {path, ReadKind::Small, {30, 10}});
         EXPECT_EQ(SizeOf(small.bitmap.get()).width, 15);
-        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).rgbGreen, 25, 4);
+        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).green, 25, 4);
     }
 }
 
@@ -47,7 +47,7 @@ TEST(PictureReader, WhatIsNoPictureIsRefusedWithItsReason) {
     ASSERT_EQ(mkfifo(QFile::encodeName(folder.Path(Text("pipe.jpg"))).constData(), 0600), 0);
     QFile::link(folder.Path(Text("gone")), folder.Path(Text("link.jpg")));
     QFile::link(folder.Path(Text("loop.jpg")), folder.Path(Text("loop.jpg")));
-    const BitmapHandle wide(FreeImage_Allocate(32768, 1, 8));
+    const LibraryBitmap wide(FreeImage_Allocate(32768, 1, 8));
     FreeImage_Save(FIF_PNG, wide.get(),
                    QFile::encodeName(folder.Path(Text("wide.png"))).constData());
     folder.Text(Text("text.jpg"));

@@ -52,7 +52,7 @@ class BatchMix : public ::testing::Test {
             queue, choices, quiet,
             {.load = [this](const QString& path) { return Load(path); },
              .save =
-                 [](const OutputEncoding& encoding, FIBITMAP* bitmap, const QString& path) {
+                 [](const OutputEncoding& encoding, const Bitmap* bitmap, const QString& path) {
                      return path.contains(Text("full")) ? FullDisk(bitmap, path)
                                                         : SaveBitmap(encoding, bitmap, path);
                  }});
@@ -63,7 +63,7 @@ class BatchMix : public ::testing::Test {
         return outputs;
     }
     // The file size limit stands for the disk's end.
-    static SaveResult FullDisk(FIBITMAP* bitmap, const QString& path) {
+    static SaveResult FullDisk(const Bitmap* bitmap, const QString& path) {
         const testing::FileSizeLimit full(1000);
         return SaveBitmap(OutputType::Bmp, bitmap, path);
     }

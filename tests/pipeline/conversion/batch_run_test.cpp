@@ -66,9 +66,8 @@ class FakeRun : public ::testing::Test {
     RecordArray<ImageRecord> queue;
     BatchChoices choices{Text("/out"), {}, OutputType::Jpeg, 83};
     ConversionPorts ports{[this](const QString& path) { return Load(path); },
-                          [this](const OutputEncoding& encoding, FIBITMAP*, const QString& path) {
-                              return Save(encoding, path);
-                          }};
+                          [this](const OutputEncoding& encoding, const Bitmap*,
+                                 const QString& path) { return Save(encoding, path); }};
 };
 
 TEST_F(FakeRun, TakesEachEntryFromLoadingToSavingBeforeTheNext) {
@@ -91,14 +90,14 @@ TEST_F(FakeRun, ChoicesSayWhetherMetadataSettingsAndFullColourAreWritten) {
     queue.Append(FisheyePhoto(Text("/in"), Text("a.jpg")));
     ports.load = [](const QString&) {
         LoadedPicture photo{LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
-        FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, photo.bitmap.get(), "Comment", "a street");
+        photo.bitmap->metadata.comments["Comment"] = "a street";
         return photo;
     };
     QString saved;
-    ports.save = [&saved](const OutputEncoding& encoding, FIBITMAP* bitmap, const QString&) {
+    ports.save = [&saved](const OutputEncoding& encoding, const Bitmap* bitmap, const QString&) {
         saved += Text(" %1:%2:%3:%4")
-                     .arg(FreeImage_GetMetadataCount(FIMD_COMMENTS, bitmap))
-                     .arg(SettingsOf(bitmap).value(Text("Ratio"), Text("none")))
+                     .arg(bitmap->metadata.comments.size())
+                     .arg(bitmap->metadata.settings.value(Text("Ratio"), Text("none")))
                      .arg(encoding.quality)
                      .arg(encoding.chroma444);
         return SaveResult{true, {}};
@@ -135,7 +134,7 @@ TEST_F(FakeRun, MemoryHoldsOnePhotoHoweverLongTheQueue) {
         return LoadedPicture{LoadOutcome::Loaded, testing::PositionPicture(size), {}};
     };
     // Encoding takes room of its own; the source must have made place for it.
-    ports.save = [&](const OutputEncoding&, FIBITMAP*, const QString&) {
+    ports.save = [&](const OutputEncoding&, const Bitmap*, const QString&) {
         EXPECT_LT(inUse() - atLoad.last(), photo * 3 / 2);
         return SaveResult{true, {}};
     };
@@ -183,7 +182,7 @@ TEST_F(FakeRun, OverlappingWorkIsHeardAsIfOneCameAfterTheOther) {
                    : LoadedPicture{
                          LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
     };
-    const auto save = [](const OutputEncoding&, FIBITMAP* bitmap, const QString& path) {
+    const auto save = [](const OutputEncoding&, const Bitmap* bitmap, const QString& path) {
         const bool fails = path.contains(u'7');
         std::this_thread::sleep_for(std::chrono::milliseconds(path.size() % 3));
         return SaveResult{!fails && SizeOf(bitmap).width == 6,
@@ -234,7 +233,7 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
         }
         return Load(path);
     };
-    ports.save = [](const OutputEncoding&, FIBITMAP*, const QString& path) {
+    ports.save = [](const OutputEncoding&, const Bitmap*, const QString& path) {
         return path.contains(u"disk") ? SaveResult{false, {ReasonCode::Words, Text("disk full")}}
                                       : SaveResult{true, {}};
     };

@@ -70,7 +70,7 @@ class ConversionRunTest : public ::testing::Test, public ConversionObserver, pub
                     LoadOutcome::Loaded, testing::PositionPicture({6, 9}), {}, {6, 9}};
             },
         .save =
-            [this](const OutputEncoding&, FIBITMAP*, const QString& path) {
+            [this](const OutputEncoding&, const Bitmap*, const QString& path) {
                 if (path.contains(u'0')) {
                     written.get_future().wait();
                 }

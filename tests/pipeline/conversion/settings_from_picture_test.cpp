@@ -105,7 +105,7 @@ TEST_F(Likenesses, TheCentreComesAsThePhotoIsTurnedNowAndGapsAreFilled) {
                          {Text("OfsetY"), Text("-5")},
                          {Text("InputAOV"), Text("150")}});
         const BitmapHandle bitmap = testing::PositionPicture({60, 40});
-        SetSettings(bitmap.get(), settings);
+        bitmap->metadata.settings = settings;
         SaveBitmap(OutputType::Tiff, bitmap.get(), picture);
         ASSERT_EQ(Add({picture}).like.keys(), QList<int>{1});
         const ImageRecord& image = images(1);

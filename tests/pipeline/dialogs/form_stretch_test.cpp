@@ -158,15 +158,15 @@ TEST_F(FormStretchTest, SavesTheStretchedPhotoUnderTheChosenName) {
     EXPECT_EQ(SizeOf(result.get()).width, 200);
     // Columns count from 0 in blue: the middle row as it was, the top row all of the two in the
     // middle, 99 and 100, whose blend rounds down.
-    EXPECT_TRUE((testing::PixelAt(result.get(), 10, 50) == RGBQUAD{10, 50, 7, 0}));
-    EXPECT_TRUE((testing::PixelAt(result.get(), 10, 100) == RGBQUAD{99, 100, 7, 0}));
+    EXPECT_TRUE((testing::PixelAt(result.get(), 10, 50) == PixelColor{10, 50, 7, 0}));
+    EXPECT_TRUE((testing::PixelAt(result.get(), 10, 100) == PixelColor{99, 100, 7, 0}));
     EXPECT_TRUE(CanSave());
 
     The<QSlider>(form, "SliderStrength").setValue(0);
     testing::Click(form, "CmdSave");  // there already; not to be replaced
     EXPECT_EQ(chooser.asked, QStringList{saved});
     EXPECT_TRUE((testing::PixelAt(testing::LoadPicture(saved).bitmap.get(), 10, 100) ==
-                 RGBQUAD{99, 100, 7, 0}));
+                 PixelColor{99, 100, 7, 0}));
     EXPECT_TRUE(notices.told.isEmpty());
 }
 
@@ -178,7 +178,7 @@ TEST_F(FormStretchTest, SaysWhatTheSavedFileDoesNotHold) {
         "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'>"
         "<rdf:Description rdf:about='' xmlns:dc='http://purl.org/dc/elements/1.1/' dc:source='a'/>"
         "</rdf:RDF></x:xmpmeta>";
-    SetMetadata(bitmap.get(), titled);
+    bitmap->metadata.photo = titled;
     ASSERT_TRUE(SaveBitmap(OutputType::Tiff, bitmap.get(), photo));
     settings.FileType = Text("BMP");
     OpenPhoto();

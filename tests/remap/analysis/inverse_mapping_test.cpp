@@ -78,7 +78,7 @@ void PrintTo(const Case& given, std::ostream* out) {
 class PlacesOf : public ::testing::TestWithParam<Case> {};
 
 // Bytes of a noisy picture read at the places instead of drawn; positions moved by a shift.
-std::pair<int, int> DifferentAndAll(const Case& given, FIBITMAP* source, FIBITMAP* drawn,
+std::pair<int, int> DifferentAndAll(const Case& given, const Bitmap* source, const Bitmap* drawn,
                                     double shift) {
     const InverseMapping places(given.projection, given.record, given.size);
     const bool alongRows =
@@ -86,7 +86,7 @@ std::pair<int, int> DifferentAndAll(const Case& given, FIBITMAP* source, FIBITMA
     std::pair<int, int> count{0, 0};
     for (int row = 0; row < given.size.height; ++row) {
         for (int column = 0; column < given.size.width; ++column) {
-            RGBQUAD expected = black;
+            PixelColor expected = black;
             if (const auto place = places.ReadAt(column, row)) {
                 expected = alongRows ? SampleLinearX(source, place->x + shift, place->y)
                                      : SampleBilinear(source, place->x + shift, place->y);
@@ -108,8 +108,8 @@ TEST_P(PlacesOf, ReadingThereGivesTheConversionByteForByte) {
     SilentProgress progress;
     RenderContext context{bitmaps};
     reference::Render(given.projection, given.record, SizeKind::Large, progress, context);
-    FIBITMAP* const source = bitmaps.FullSourceBitmap.get();
-    FIBITMAP* const drawn = bitmaps.ResultBitmap.get();
+    const Bitmap* const source = bitmaps.FullSourceBitmap.get();
+    const Bitmap* const drawn = bitmaps.ResultBitmap.get();
     EXPECT_EQ(DifferentAndAll(given, source, drawn, 0.0).first, 0);
     // A thousandth of a pixel would show.
     const auto [different, all] = DifferentAndAll(given, source, drawn, 0.001);

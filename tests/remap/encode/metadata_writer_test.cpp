@@ -69,9 +69,9 @@ PhotoMetadata Metadata(Order order) {
 
 // 61 x 43 pixels with metadata of the library's, too.
 BitmapHandle Photo(const PhotoMetadata& metadata) {
-    BitmapHandle photo = testing::DescribedPicture();
-    SetMetadata(photo.get(), metadata);
-    SetSettings(photo.get(), {{QStringLiteral("A"), QStringLiteral("<\1&")}});
+    BitmapHandle photo = testing::In24Bits(testing::DescribedPicture().get());
+    photo->metadata.photo = metadata;
+    photo->metadata.settings = {{QStringLiteral("A"), QStringLiteral("<\1&")}};
     return photo;
 }
 
@@ -276,16 +276,15 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
 
 TEST(EncodeBitmap, ABmpFileThatLosesOnlyItsProfileSaysSoAndOneThatLosesNothingIsSilent) {
     const BitmapHandle photo = Photo({});
-    SetSettings(photo.get(), {});
+    photo->metadata.settings = {};
     EXPECT_EQ(EncodeBitmap(OutputType::Bmp, photo.get()).note, ReasonCode::BmpHoldsNoProfile);
-    FreeImage_DestroyICCProfile(photo.get());
+    photo->metadata.colourProfile.clear();
     EXPECT_TRUE(EncodeBitmap(OutputType::Bmp, photo.get()).note.isEmpty());
 }
 
 TEST(EncodeBitmap, AProfileThatAnEncoderRefusesDoesNotCostTheMetadata) {
     const BitmapHandle photo = Photo(Metadata(Order::Little));
-    QByteArray noProfile(200, 'x');
-    FreeImage_CreateICCProfile(photo.get(), noProfile.data(), noProfile.size());
+    photo->metadata.colourProfile = QByteArray(200, 'x');
     const EncodedBitmap png = EncodeBitmap(OutputType::Png, photo.get());
     EXPECT_TRUE(png.note.Is(ReasonCode::WithoutProfile));
     EXPECT_TRUE(png.bytes.startsWith("\x89PNG") && png.bytes.contains("eXIf") &&
@@ -314,15 +313,15 @@ TEST(ThumbnailOf, FitsItsBoxAndAveragesThePicture) {
     }
     // Columns and rows of 3 pixels each become one pixel: every pixel counts.
     const BitmapHandle picture = testing::Painted({480, 360}, [](int x, int y) {
-        return RGBQUAD{static_cast<BYTE>(x % 3 * 60 + x / 3), static_cast<BYTE>(y / 3),
-                       static_cast<BYTE>(y % 3 == 2 ? 90 : 0), 0};
+        return PixelColor{static_cast<BYTE>(x % 3 * 60 + x / 3), static_cast<BYTE>(y / 3),
+                          static_cast<BYTE>(y % 3 == 2 ? 90 : 0), 0};
     });
     const BitmapHandle thumbnail = ThumbnailOf(picture.get());
     for (const auto& [x, y] : {std::pair{0, 0}, {7, 100}, {120, 119}}) {
-        const RGBQUAD colour = testing::PixelAt(thumbnail.get(), x, y);
-        EXPECT_EQ(int{colour.rgbBlue}, 60 + x);
-        EXPECT_EQ(int{colour.rgbGreen}, y);
-        EXPECT_EQ(int{colour.rgbRed}, 30);
+        const PixelColor colour = testing::PixelAt(thumbnail.get(), x, y);
+        EXPECT_EQ(int{colour.blue}, 60 + x);
+        EXPECT_EQ(int{colour.green}, y);
+        EXPECT_EQ(int{colour.red}, 30);
     }
 }
 

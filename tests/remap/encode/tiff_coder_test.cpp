@@ -52,7 +52,11 @@ Bytes Decoded(const Bytes& codes, std::size_t length) {
                                                 static_cast<qsizetype>(codes.size()));
     SetDirectory(file, AppendDirectory(file, directory).value());
     const BitmapHandle row = testing::FromFile(FIF_TIFF, file);
-    return row ? Bytes(ScanLine(row.get(), 0).begin(), ScanLine(row.get(), 0).end()) : Bytes();
+    Bytes decoded;
+    for (std::size_t x = 0; row && x < row->ScanLine(0).size(); x += 3) {
+        decoded.push_back(row->ScanLine(0)[x]);
+    }
+    return decoded;
 }
 
 // Runs of up to a length of bytes of so many levels.
@@ -150,7 +154,7 @@ std::vector<QByteArray> Tags(const TiffDirectory& directory) {
     return tags;
 }
 
-void ExpectLikeTheLibrarys(FIBITMAP* bitmap) {
+void ExpectLikeTheLibrarys(const Bitmap* bitmap) {
     testing::ShuffledRunner runner(7);
     const std::optional<QByteArray> file = EncodeTiffLzw(bitmap, runner);
     const QByteArray expected = LibraryFile(FIF_TIFF, bitmap, TIFF_LZW).bytes;
@@ -171,8 +175,6 @@ void ExpectLikeTheLibrarys(FIBITMAP* bitmap) {
     ASSERT_TRUE(picture);
     EXPECT_EQ(SizeOf(picture.get()).width, SizeOf(bitmap).width);
     EXPECT_EQ(testing::PixelBytes(picture.get()), testing::PixelBytes(bitmap));
-    EXPECT_EQ(testing::PixelBytes(FreeImage_GetThumbnail(picture.get())),
-              testing::PixelBytes(FreeImage_GetThumbnail(bitmap)));
 }
 
 TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
@@ -190,13 +192,12 @@ TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
 }
 
 TEST(EncodeTiffLzw, TakesEveryTagAlong) {
-    const BitmapHandle photo = testing::DescribedPicture();
-    FreeImage_SetDotsPerMeterX(photo.get(), 11811);
-    FreeImage_SetDotsPerMeterY(photo.get(), 5906);
-    ASSERT_EQ(ReadTiff(LibraryFile(FIF_TIFF, photo.get(), TIFF_LZW).bytes)->smaller.size(), 1U);
+    const BitmapHandle photo = testing::In24Bits(testing::DescribedPicture().get());
+    photo->metadata.dotsPerMetreX = 11811;
+    photo->metadata.dotsPerMetreY = 5906;
     ExpectLikeTheLibrarys(photo.get());
     const BitmapHandle large = testing::Grainy({800, 600});
-    CopyAllButPixels(large.get(), photo.get());
+    large->metadata = photo->metadata;
     ExpectLikeTheLibrarys(large.get());
 }
 
@@ -208,16 +209,6 @@ TEST(EncodeTiffLzw, DoesNotDependOnTheRunner) {
     const std::optional<QByteArray> file = EncodeTiffLzw(photo.get(), serial);
     EXPECT_EQ(file, EncodeTiffLzw(photo.get(), threads));
     EXPECT_EQ(file, EncodeTiffLzw(photo.get(), shuffled));
-}
-
-TEST(EncodeTiffLzw, LeavesToTheLibraryWhatItDoesNotKnow) {
-    SerialRunner runner;
-    const BitmapHandle others[] = {BitmapHandle(FreeImage_Allocate(9, 9, 8)),
-                                   BitmapHandle(FreeImage_Allocate(9, 9, 32)),
-                                   BitmapHandle(FreeImage_AllocateT(FIT_RGB16, 9, 9))};
-    for (const BitmapHandle& other : others) {
-        EXPECT_EQ(EncodeTiffLzw(other.get(), runner), std::nullopt);
-    }
 }
 
 TEST(ReadTiff, TakesNoFileThatIsCutOrPointsElsewhere) {

@@ -33,11 +33,11 @@ TEST(PreviewSize, FitsBoxAndRoomAndNeverEnlarges) {
 TEST(ReducedCopy, AveragesItsPixels) {
     const BitmapHandle board = testing::Painted({40, 40}, [](int x, int y) {
         const BYTE level = (x + y) % 2 == 0 ? 200 : 100;
-        return RGBQUAD{level, level, level, 0};
+        return PixelColor{level, level, level, 0};
     });
     const BitmapHandle small = ReducedCopy(board.get(), {10, 10});
     EXPECT_EQ(SizeOf(small.get()).width, 10);
-    EXPECT_NEAR(testing::PixelAt(small.get(), 5, 5).rgbGreen, 150, 2);
+    EXPECT_NEAR(testing::PixelAt(small.get(), 5, 5).green, 150, 2);
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace {
 using testing::Painted;
 using testing::operator==;
 
-RGBQUAD Grey(int level) {
+PixelColor Grey(int level) {
     const auto byte = static_cast<BYTE>(level);
     return {byte, byte, byte, 0};
 }
@@ -27,51 +27,51 @@ BitmapHandle Edge() {
 
 TEST(PixelAccess, OffTheBitmapNothingIsReadOrWritten) {
     const BitmapHandle bitmap = Edge();
-    RGBQUAD colour{9, 8, 7, 6};
+    PixelColor colour{9, 8, 7, 6};
     for (const auto& [x, y] : {std::pair{8, 0}, {0, 8}, {-1, 0}, {0, -1}}) {
         EXPECT_FALSE(GetPixelColor(bitmap.get(), x, y, colour));
         EXPECT_FALSE(SetPixelColor(bitmap.get(), x, y, colour));
     }
-    EXPECT_EQ(colour.rgbBlue, 9);
+    EXPECT_EQ(colour.blue, 9);
     EXPECT_TRUE(GetPixelColor(bitmap.get(), 7, 7, colour));
-    EXPECT_EQ(colour.rgbBlue, 255);
+    EXPECT_EQ(colour.blue, 255);
 }
 
 TEST(SampleNearest, TiesGoToEven) {
     const BitmapHandle bitmap = Edge();
-    EXPECT_EQ(SampleNearest(bitmap.get(), 3.5, 0.0).rgbRed, 255);
-    EXPECT_EQ(SampleNearest(bitmap.get(), 2.5, 0.0).rgbRed, 0);
-    EXPECT_EQ(SampleNearest(bitmap.get(), 0.0, 2.5).rgbRed, 0);
-    EXPECT_EQ(SampleNearest(bitmap.get(), 7.6, 0.0).rgbRed, 0);
+    EXPECT_EQ(SampleNearest(bitmap.get(), 3.5, 0.0).red, 255);
+    EXPECT_EQ(SampleNearest(bitmap.get(), 2.5, 0.0).red, 0);
+    EXPECT_EQ(SampleNearest(bitmap.get(), 0.0, 2.5).red, 0);
+    EXPECT_EQ(SampleNearest(bitmap.get(), 7.6, 0.0).red, 0);
 }
 
 TEST(SampleLinearX, BlendsTwoNeighboursAndRoundsDown) {
     const BitmapHandle bitmap = Edge();
-    EXPECT_EQ(SampleLinearX(bitmap.get(), 3.25, 0.0).rgbGreen, 63);
-    EXPECT_EQ(SampleLinearX(bitmap.get(), 3.25, 3.4).rgbGreen, 255);  // whole row 3
-    EXPECT_EQ(SampleLinearX(bitmap.get(), 4.0, 0.0).rgbGreen, 255);
-    EXPECT_EQ(SampleLinearX(bitmap.get(), 7.5, 0.0).rgbGreen, 127);  // right of the edge: black
-    EXPECT_EQ(SampleLinearX(bitmap.get(), -0.5, 3.0).rgbGreen, 127);
+    EXPECT_EQ(SampleLinearX(bitmap.get(), 3.25, 0.0).green, 63);
+    EXPECT_EQ(SampleLinearX(bitmap.get(), 3.25, 3.4).green, 255);  // whole row 3
+    EXPECT_EQ(SampleLinearX(bitmap.get(), 4.0, 0.0).green, 255);
+    EXPECT_EQ(SampleLinearX(bitmap.get(), 7.5, 0.0).green, 127);  // right of the edge: black
+    EXPECT_EQ(SampleLinearX(bitmap.get(), -0.5, 3.0).green, 127);
 }
 
 TEST(SampleBilinear, WholePositionsGiveThePixelItself) {
     const BitmapHandle bitmap = testing::PositionPicture({20, 30});
-    const RGBQUAD colour = SampleBilinear(bitmap.get(), 10.0, 20.0);
-    EXPECT_TRUE((colour == RGBQUAD{10, 20, 7, 0}));
+    const PixelColor colour = SampleBilinear(bitmap.get(), 10.0, 20.0);
+    EXPECT_TRUE((colour == PixelColor{10, 20, 7, 0}));
 }
 
 TEST(SampleBilinear, WeighsFourNeighbours) {
     const BitmapHandle bitmap =
         Painted({2, 2}, [](int x, int y) { return Grey(100 * x + 50 * y); });
-    EXPECT_EQ(SampleBilinear(bitmap.get(), 0.25, 0.5).rgbBlue, 50);
-    EXPECT_EQ(SampleBilinear(bitmap.get(), 0.99, 0.0).rgbBlue, 99);
+    EXPECT_EQ(SampleBilinear(bitmap.get(), 0.25, 0.5).blue, 50);
+    EXPECT_EQ(SampleBilinear(bitmap.get(), 0.99, 0.0).blue, 99);
 }
 
 TEST(SampleBilinear, DarkensTowardTheEdge) {
     const BitmapHandle bitmap = Painted({4, 8}, [](int, int) { return Grey(255); });
-    EXPECT_EQ(SampleBilinear(bitmap.get(), -0.5, 5.5).rgbRed, 127);
-    EXPECT_EQ(SampleBilinear(bitmap.get(), 3.5, 7.5).rgbRed, 63);
-    EXPECT_EQ(SampleBilinear(bitmap.get(), -1.0, 5.5).rgbRed, 0);
+    EXPECT_EQ(SampleBilinear(bitmap.get(), -0.5, 5.5).red, 127);
+    EXPECT_EQ(SampleBilinear(bitmap.get(), 3.5, 7.5).red, 63);
+    EXPECT_EQ(SampleBilinear(bitmap.get(), -1.0, 5.5).red, 0);
 }
 
 TEST(Sampling, PositionsBeyondWholeNumbersAreBlack) {

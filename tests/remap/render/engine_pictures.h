@@ -29,14 +29,14 @@ inline BitmapHandle PhotoLike(PixelSize size) {
             const auto level = [&](double base) {
                 return static_cast<BYTE>(std::clamp(base + wave + edge + grain, 0.0, 255.0));
             };
-            return RGBQUAD{level(110.0), level(130.0), level(90.0), 0};
+            return PixelColor{level(110.0), level(130.0), level(90.0), 0};
         });
     }
     return CloneBitmap(picture.get());
 }
 
 inline BitmapHandle Flat(PixelSize size) {
-    return Painted(size, [](int, int) { return RGBQUAD{200, 200, 200, 0}; });
+    return Painted(size, [](int, int) { return PixelColor{200, 200, 200, 0}; });
 }
 
 // Soft tones, one level up and down from pixel to pixel: what is rounded the wrong way shows. No
@@ -47,7 +47,7 @@ inline BitmapHandle Soft(PixelSize size) {
             const long even = 2 * std::lround(base + 25.0 * std::sin((x + 0.6 * y) * bend));
             return static_cast<BYTE>(even + (x + y) % 2);
         };
-        return RGBQUAD{level(85.0, 0.03), level(65.0, 0.02), level(45.0, 0.05), 0};
+        return PixelColor{level(85.0, 0.03), level(65.0, 0.02), level(45.0, 0.05), 0};
     });
 }
 
@@ -56,7 +56,7 @@ struct Difference {
     double share = 0.0;  // of all channel values
 };
 
-inline Difference Compare(FIBITMAP* a, FIBITMAP* b) {
+inline Difference Compare(const Bitmap* a, const Bitmap* b) {
     Difference difference;
     const PixelSize size = SizeOf(a);
     EXPECT_EQ(size.width, SizeOf(b).width);

@@ -20,7 +20,7 @@ using testing::Difference;
 
 using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderContext&);
 
-BitmapHandle Stretched(Stretcher stretcher, const StretchCurve& curve, FIBITMAP* source,
+BitmapHandle Stretched(Stretcher stretcher, const StretchCurve& curve, const Bitmap* source,
                        BlockRunner* runner = nullptr) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = CloneBitmap(source);
@@ -30,7 +30,7 @@ BitmapHandle Stretched(Stretcher stretcher, const StretchCurve& curve, FIBITMAP*
     return std::move(bitmaps.ResultBitmap);
 }
 
-void ExpectClose(const StretchCurve& curve, FIBITMAP* source, double share) {
+void ExpectClose(const StretchCurve& curve, const Bitmap* source, double share) {
     SCOPED_TRACE(::testing::Message()
                  << curve.strength << " " << curve.middle << " " << SizeOf(source).width);
     const Difference difference =

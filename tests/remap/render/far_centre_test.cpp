@@ -61,7 +61,7 @@ struct Drawing {
             error = ErrorText(ReasonFor(thrown)).toStdString();
         }
     }
-    FIBITMAP* Result() const { return bitmaps.ResultBitmap.get(); }
+    const Bitmap* Result() const { return bitmaps.ResultBitmap.get(); }
 };
 
 void ExpectTheLoopsPicture(Projection projection, const ImageRecord& record, PixelSize size) {
@@ -116,9 +116,9 @@ TEST(FarCentre, TheLoopsPicture) {
 TEST(FarCentre, OfAPhotoIsFoundAtOnce) {
     constexpr PixelSize size{301, 200};
     const BitmapHandle source = PhotoLike(size);
-    const BitmapHandle black = testing::Painted(size, [](int, int) { return RGBQUAD{}; });
+    const BitmapHandle black = testing::Painted(size, [](int, int) { return PixelColor{}; });
     const BitmapHandle row = testing::Painted(size, [&](int x, int y) {
-        return y == 100 ? testing::PixelAt(source.get(), x, y) : RGBQUAD{};
+        return y == 100 ? testing::PixelAt(source.get(), x, y) : PixelColor{};
     });
     for (const Projection projection : AllProjections()) {
         for (const float offset : {1e9F, -1e9F}) {
@@ -131,7 +131,8 @@ TEST(FarCentre, OfAPhotoIsFoundAtOnce) {
                                            ? "Overflow: the progress value does not fit 16 bits"
                                            : "");
                 if (drawn.error.empty()) {
-                    FIBITMAP* const wanted = (projection == Projection::Varnel ? row : black).get();
+                    const Bitmap* const wanted =
+                        (projection == Projection::Varnel ? row : black).get();
                     EXPECT_EQ(Compare(drawn.Result(), wanted).largest, 0);
                     EXPECT_LE(drawn.progress.steps, batchLines + size.width);
                 }

@@ -36,8 +36,8 @@ struct Scene {
         bitmaps.FullSourceBitmap = testing::PositionPicture(size);
         bitmaps.PreviewSourceBitmap = testing::PositionPicture(size);
     }
-    FIBITMAP* Draw(Projection projection, const ImageRecord& record,
-                   SizeKind kind = SizeKind::Large) {
+    const Bitmap* Draw(Projection projection, const ImageRecord& record,
+                       SizeKind kind = SizeKind::Large) {
         RenderContext context{bitmaps, [this] { return smooth; }};
         Render(projection, record, kind, progress, context);
         return bitmaps.ResultBitmap.get();
@@ -81,14 +81,12 @@ TEST(Render, ProgressCountsColumnsOrRowsAndEndsOnce) {
 TEST(Render, ResultKeepsSizeMetadataAndColourProfile) {
     for (const Projection projection : AllProjections()) {
         Scene scene({41, 30});
-        FIBITMAP* const source = scene.bitmaps.FullSourceBitmap.get();
-        FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, source, "Comment", "kept");
-        char profile[] = "profile";
-        FreeImage_CreateICCProfile(source, profile, sizeof profile);
-        FIBITMAP* const result = scene.Draw(projection, FisheyeRecord());
+        BitmapMetadata& metadata = scene.bitmaps.FullSourceBitmap->metadata;
+        metadata.comments["Comment"] = "kept";
+        metadata.colourProfile = "profile";
+        const Bitmap* const result = scene.Draw(projection, FisheyeRecord());
         EXPECT_EQ(SizeOf(result).width, 41);
-        EXPECT_EQ(FreeImage_GetMetadataCount(FIMD_COMMENTS, result), 1U);
-        EXPECT_EQ(FreeImage_GetICCProfile(result)->size, sizeof profile);
+        EXPECT_EQ(result->metadata, metadata);
     }
 }
 
@@ -111,17 +109,17 @@ TEST(Render, PreviewsAreReadNearestUntilSmoothedAndFullSizeIsAlwaysInterpolated)
         // Interpolation makes greys of a black and white checkerboard.
         const auto board = [](int x, int y) {
             const BYTE level = (x + y) % 2 == 0 ? 255 : 0;
-            return RGBQUAD{level, level, level, 0};
+            return PixelColor{level, level, level, 0};
         };
         Scene scene({81, 60});
         scene.bitmaps.FullSourceBitmap = testing::Painted({81, 60}, board);
         scene.bitmaps.PreviewSourceBitmap = testing::Painted({81, 60}, board);
         const auto blends = [&](SizeKind kind) {
-            FIBITMAP* const result = scene.Draw(projection, FisheyeRecord(), kind);
+            const Bitmap* const result = scene.Draw(projection, FisheyeRecord(), kind);
             int between = 0;
             for (int y = 0; y < 60; ++y) {
                 for (int x = 0; x < 81; ++x) {
-                    const int red = PixelAt(result, x, y).rgbRed;
+                    const int red = PixelAt(result, x, y).red;
                     between += red != 0 && red != 255 ? 1 : 0;
                 }
             }
@@ -141,42 +139,42 @@ TEST(RenderRectilinear, AHalfPixelShiftLeavesEverySecondColumnAsItWas) {
     Scene scene({25, 20});
     ImageRecord record = FisheyeRecord();
     record.TranslateX = 2.0F;
-    FIBITMAP* const result = scene.Draw(Projection::Rectilinear, record);
-    FIBITMAP* const source = scene.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const result = scene.Draw(Projection::Rectilinear, record);
+    const Bitmap* const source = scene.bitmaps.FullSourceBitmap.get();
     for (int x = 1; x < 25; x += 2) {
         EXPECT_TRUE(PixelAt(result, x, 3) == PixelAt(source, x, 3)) << x;
     }
     // Column 12 is written from rays at -1 and, last, at -0.5 + 0 (x = 0): left of the centre.
-    EXPECT_EQ(PixelAt(result, 12, 10).rgbBlue, 11);
+    EXPECT_EQ(PixelAt(result, 12, 10).blue, 11);
 }
 
 TEST(RenderVarnel, CentreColumnStaysRowsBeyondTheCircleAreBlackAndTheEdgeRowIsMirrored) {
     Scene scene({100, 120});
     ImageRecord record = FisheyeRecord();
     record.Ratio = 125.0F;  // R = 40
-    FIBITMAP* const result = scene.Draw(Projection::Varnel, record);
+    const Bitmap* const result = scene.Draw(Projection::Varnel, record);
     for (int y = 20; y <= 100; ++y) {
-        EXPECT_EQ(PixelAt(result, 50, y).rgbGreen, y);
-        EXPECT_EQ(PixelAt(result, 50, y).rgbBlue, 50);
+        EXPECT_EQ(PixelAt(result, 50, y).green, y);
+        EXPECT_EQ(PixelAt(result, 50, y).blue, 50);
     }
     EXPECT_TRUE(IsBlack(result, 50, 101));
     EXPECT_TRUE(IsBlack(result, 10, 19));
     // Row 24 above the centre: chord 32, so output column +40 shows source column +32.
-    EXPECT_NEAR(PixelAt(result, 90, 84).rgbBlue, 82, 1);
-    EXPECT_NEAR(PixelAt(result, 10, 36).rgbBlue, 18, 1);
-    EXPECT_EQ(PixelAt(result, 60, 100).rgbBlue, 40);  // mirrored
+    EXPECT_NEAR(PixelAt(result, 90, 84).blue, 82, 1);
+    EXPECT_NEAR(PixelAt(result, 10, 36).blue, 18, 1);
+    EXPECT_EQ(PixelAt(result, 60, 100).blue, 40);  // mirrored
 }
 
 TEST(RenderHorizon, CirclesBecomeRowsAndTheLaterBlackWins) {
     Scene scene({120, 80});
     ImageRecord record = FisheyeRecord();
     record.Ratio = 200.0F;  // R = 30, row divisor 1
-    FIBITMAP* const result = scene.Draw(Projection::Horizon, record);
+    const Bitmap* const result = scene.Draw(Projection::Horizon, record);
     EXPECT_TRUE(PixelAt(result, 7, 40) == PixelAt(result, 60, 40));  // row of the centre
-    EXPECT_EQ(PixelAt(result, 60, 30).rgbGreen, 30);                 // centre column: itself
-    EXPECT_NEAR(PixelAt(result, 90, 20).rgbBlue, 80, 1);             // radius 20, to the right
-    EXPECT_NEAR(PixelAt(result, 30, 20).rgbBlue, 40, 1);
-    EXPECT_NEAR(PixelAt(result, 90, 60).rgbBlue, 40, 1);  // the opposite side
+    EXPECT_EQ(PixelAt(result, 60, 30).green, 30);                    // centre column: itself
+    EXPECT_NEAR(PixelAt(result, 90, 20).blue, 80, 1);                // radius 20, to the right
+    EXPECT_NEAR(PixelAt(result, 30, 20).blue, 40, 1);
+    EXPECT_NEAR(PixelAt(result, 90, 60).blue, 40, 1);  // the opposite side
     for (int x = 0; x < 120; ++x) {
         EXPECT_TRUE(IsBlack(result, x, 71)) << x;  // written by radius -31 first
         EXPECT_TRUE(IsBlack(result, x, 9)) << x;

@@ -28,7 +28,7 @@ class RecordedProgress : public RenderProgress {
 
 struct Table {
     explicit Table(BitmapHandle source) { bitmaps.FullSourceBitmap = std::move(source); }
-    FIBITMAP* Stretch(const StretchCurve& curve) {
+    const Bitmap* Stretch(const StretchCurve& curve) {
         RenderContext context{bitmaps};
         RenderStretch(curve, SizeKind::Large, progress, context);
         return bitmaps.ResultBitmap.get();
@@ -38,10 +38,10 @@ struct Table {
 };
 
 // The blue of row y, in which the column stands.
-std::vector<int> Blues(FIBITMAP* bitmap, int y) {
+std::vector<int> Blues(const Bitmap* bitmap, int y) {
     std::vector<int> blues;
     for (int x = 0; x < SizeOf(bitmap).width; ++x) {
-        blues.push_back(PixelAt(bitmap, x, y).rgbBlue);
+        blues.push_back(PixelAt(bitmap, x, y).blue);
     }
     return blues;
 }
@@ -80,20 +80,20 @@ TEST(StretchCurve, HeightsRunFromTheBottomRowToTheTopRow) {
 TEST(RenderStretch, WithoutStrengthEveryByteStays) {
     for (const PixelSize size : {PixelSize{7, 5}, {8, 6}, {1, 1}}) {
         Table table(testing::PositionPicture(size));
-        FIBITMAP* const result = table.Stretch({0.0, 0.4});
+        const Bitmap* const result = table.Stretch({0.0, 0.4});
         EXPECT_TRUE(testing::SamePixels(result, table.bitmaps.FullSourceBitmap.get()));
     }
 }
 
 TEST(RenderStretch, RowsReadTheColumnsThatTheFactorSays) {
     Table table(Painted({5, 3}, [](int x, int y) {
-        return RGBQUAD{static_cast<BYTE>(10 + 20 * x), static_cast<BYTE>(y), 7, 0};
+        return PixelColor{static_cast<BYTE>(10 + 20 * x), static_cast<BYTE>(y), 7, 0};
     }));
-    FIBITMAP* result = table.Stretch({0.5, 0.0});  // factor 0.5 at bottom and top
+    const Bitmap* result = table.Stretch({0.5, 0.0});  // factor 0.5 at bottom and top
     EXPECT_EQ(Blues(result, 2), (std::vector{30, 40, 50, 60, 70}));
     EXPECT_EQ(Blues(result, 1), (std::vector{10, 30, 50, 70, 90}));
     EXPECT_EQ(Blues(result, 0), (std::vector{30, 40, 50, 60, 70}));
-    EXPECT_EQ(PixelAt(result, 1, 2).rgbGreen, 2);
+    EXPECT_EQ(PixelAt(result, 1, 2).green, 2);
 
     result = table.Stretch({-1.0, 0.0});  // factor 2: columns -2, 0, 2, 4, 6
     EXPECT_EQ(Blues(result, 2), (std::vector{0, 10, 50, 90, 0}));
@@ -112,34 +112,31 @@ TEST(RenderStretch, MirroringThePictureMirrorsTheResult) {
         return Painted({10, 8}, [=](int x, int y) {
             const int column = mirrorX ? 9 - x : x;
             const int row = mirrorY ? 7 - y : y;
-            return RGBQUAD{static_cast<BYTE>(column * column * 3), static_cast<BYTE>(row * 31), 7,
-                           0};
+            return PixelColor{static_cast<BYTE>(column * column * 3), static_cast<BYTE>(row * 31),
+                              7, 0};
         });
     };
     Table plain(mirrored(false, false)), sideways(mirrored(true, false)),
         over(mirrored(false, true));
-    FIBITMAP* const result = plain.Stretch({0.6, 0.25});
-    FIBITMAP* const resultSideways = sideways.Stretch({0.6, 0.25});
-    FIBITMAP* const resultOver = over.Stretch({0.6, -0.25});
+    const Bitmap* const result = plain.Stretch({0.6, 0.25});
+    const Bitmap* const resultSideways = sideways.Stretch({0.6, 0.25});
+    const Bitmap* const resultOver = over.Stretch({0.6, -0.25});
     for (int y = 0; y < 8; ++y) {
         for (int x = 0; x < 10; ++x) {
             // Blends round down: which neighbour has which weight may cost one step.
-            EXPECT_NEAR(PixelAt(result, x, y).rgbBlue, PixelAt(resultSideways, 9 - x, y).rgbBlue,
-                        1);
-            EXPECT_EQ(PixelAt(result, x, y).rgbBlue, PixelAt(resultOver, x, 7 - y).rgbBlue);
+            EXPECT_NEAR(PixelAt(result, x, y).blue, PixelAt(resultSideways, 9 - x, y).blue, 1);
+            EXPECT_EQ(PixelAt(result, x, y).blue, PixelAt(resultOver, x, 7 - y).blue);
         }
     }
 }
 
 TEST(RenderStretch, KeepsMetadataAndColourProfileAndTellsEveryRow) {
     Table table(testing::PositionPicture({4, 3}));
-    FIBITMAP* const source = table.bitmaps.FullSourceBitmap.get();
-    char profile[] = "a colour profile";
-    FreeImage_CreateICCProfile(source, profile, sizeof profile);
-    FreeImage_SetMetadataKeyValue(FIMD_COMMENTS, source, "Comment", "a street");
-    FIBITMAP* const result = table.Stretch({0.5, 0.0});
-    EXPECT_EQ(FreeImage_GetICCProfile(result)->size, sizeof profile);
-    EXPECT_EQ(FreeImage_GetMetadataCount(FIMD_COMMENTS, result), 1U);
+    BitmapMetadata& metadata = table.bitmaps.FullSourceBitmap->metadata;
+    metadata.colourProfile = "a colour profile";
+    metadata.comments["Comment"] = "a street";
+    const Bitmap* const result = table.Stretch({0.5, 0.0});
+    EXPECT_EQ(result->metadata, metadata);
     EXPECT_EQ(table.progress.values, (std::vector{3.0F, 0.0F, 1.0F, 2.0F}));
     EXPECT_EQ(table.progress.waits, 1);
     EXPECT_EQ(table.progress.ends, 1);

@@ -104,16 +104,16 @@ using TruthAt = std::function<Ray(double x, double y)>;
 
 // Over the whole output; the photos below show all of it. Blends are rounded down, so a level
 // stands for half a level more.
-Errors Compare(FIBITMAP* result, const Photo& photo, const TruthAt& truth) {
+Errors Compare(const Bitmap* result, const Photo& photo, const TruthAt& truth) {
     Errors errors;
     for (int y = 0; y < photo.size.height; ++y) {
         for (int x = 0; x < photo.size.width; ++x) {
-            const RGBQUAD pixel = testing::PixelAt(result, x, y);
+            const PixelColor pixel = testing::PixelAt(result, x, y);
             const Colour expected =
                 LookAtGradients(truth(x - photo.CentreX(), y - photo.CentreY()));
             for (const double error :
-                 {pixel.rgbRed + 0.5 - expected.red, pixel.rgbGreen + 0.5 - expected.green,
-                  pixel.rgbBlue + 0.5 - expected.blue}) {
+                 {pixel.red + 0.5 - expected.red, pixel.green + 0.5 - expected.green,
+                  pixel.blue + 0.5 - expected.blue}) {
                 errors.mean += std::fabs(error) / (3.0 * photo.size.width * photo.size.height);
                 errors.most = std::max(errors.most, std::fabs(error));
             }
@@ -242,7 +242,7 @@ TEST_P(PinholeEdge, AStraightEdgeStaysStraightAndInItsPlace) {
     for (int x = 0; x < photo.size.width; ++x) {
         double brightRows = 0.0;
         for (int y = 0; y < photo.size.height; ++y) {
-            const int level = testing::PixelAt(result.get(), x, y).rgbGreen;
+            const int level = testing::PixelAt(result.get(), x, y).green;
             brightRows += (level - scene.dark) / (scene.bright - scene.dark);
         }
         // The edge is where the direction is across the normal; along a column that grows evenly.

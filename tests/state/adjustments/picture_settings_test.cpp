@@ -163,9 +163,9 @@ TEST(PictureSettings, TellTheFolderOnlyAsItLiesBesideTheFile) {
     for (const auto& c : cases) {
         ImageRecord record = AwkwardRecord();
         record.Folder = Text(c.folder);
-        const BitmapHandle bitmap(FreeImage_Allocate(1, 1, 24));
+        const BitmapHandle bitmap = NewBitmap({1, 1});
         NoteSettings(bitmap.get(), record, true, Text(c.file));
-        const PictureSettings settings = SettingsOf(bitmap.get());
+        const PictureSettings settings = bitmap->metadata.settings;
         EXPECT_EQ(settings.value(Text("SourceFolder"), Text("none")), Text(c.written)) << c.folder;
         ImageRecord back;
         back.Folder = Text("/elsewhere");

@@ -135,7 +135,7 @@ TEST(LevelHorizon, TheConvertedHorizonIsLevel) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = testing::Painted(size, [&](int x, int y) {
         const BYTE grey = isSky(x, y) ? 255 : 0;
-        return RGBQUAD{grey, grey, grey, 0};
+        return PixelColor{grey, grey, grey, 0};
     });
     std::vector<PicturePoint> traced;
     for (int x = 200; x < 700; x += 5) {
@@ -153,8 +153,8 @@ TEST(LevelHorizon, TheConvertedHorizonIsLevel) {
     RenderContext workspace{bitmaps, [] { return true; }};
     Render(Projection::Rectilinear, image, SizeKind::Large, progress, workspace);
     for (int x = 100; x <= 800; x += 50) {
-        EXPECT_LT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 297).rgbGreen, 60) << x;
-        EXPECT_GT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 303).rgbGreen, 195) << x;
+        EXPECT_LT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 297).green, 60) << x;
+        EXPECT_GT(testing::PixelAt(bitmaps.ResultBitmap.get(), x, 303).green, 195) << x;
     }
 }
 

@@ -30,9 +30,10 @@ Verdict VerdictOf(const LoadedPicture& picture) {
 }
 
 // Profile and metadata are written as they came; the pixels matter little here.
-QString WritingError(FIBITMAP* picture) {
-    const BitmapHandle small = NewBitmap({8, 8});
-    CopyAllButPixels(small.get(), picture);
+QString WritingError(const Bitmap* picture) {
+    const BitmapHandle sample = NewBitmap({8, 8});
+    sample->metadata = picture->metadata;
+    const LibraryBitmap small = LibraryView(*sample);
     for (const FREE_IMAGE_FORMAT format : {FIF_JPEG, FIF_TIFF, FIF_PNG}) {
         FIMEMORY* const memory = FreeImage_OpenMemory();
         const bool saved = FreeImage_SaveToMemory(format, small.get(), memory, 0) == TRUE;
@@ -57,7 +58,7 @@ QString Error(const LoadedPicture& picture) {
         return {};
     }
     const auto [width, height] = SizeOf(picture.bitmap.get());
-    if (FreeImage_GetBPP(picture.bitmap.get()) != 24 || width < 1 || height < 1 || width > 32767 ||
+    if (picture.bitmap->Format() != PixelFormat::Bgr8 || width < 1 || height < 1 || width > 32767 ||
         height > 32767 || width != picture.size.width || height != picture.size.height) {
         return QStringLiteral("%1 x %2 pixels where %3 x %4 were said")
             .arg(width)

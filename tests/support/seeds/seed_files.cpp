@@ -75,38 +75,38 @@ constexpr LibraryKind libraryKinds[] = {
 };
 
 // Smooth colours with a grain, so that every code of the compressions comes up.
-BitmapHandle Picture() {
-    return Painted(seedSize, [](int x, int y) {
+LibraryBitmap Picture() {
+    return InLibrary(*Painted(seedSize, [](int x, int y) {
         const int grain = (x * x * 31 + y * y * 17 + x * y) % 23;
-        return RGBQUAD{static_cast<BYTE>(x * 4), static_cast<BYTE>(y * 5),
-                       static_cast<BYTE>(100 + grain), 0};
-    });
+        return PixelColor{static_cast<BYTE>(x * 4), static_cast<BYTE>(y * 5),
+                          static_cast<BYTE>(100 + grain), 0};
+    }));
 }
 
-BitmapHandle Converted(FIBITMAP* picture, const LibraryKind& kind) {
+LibraryBitmap Converted(FIBITMAP* picture, const LibraryKind& kind) {
     if (kind.type == FIT_COMPLEX) {
-        const BitmapHandle grey(FreeImage_ConvertToFloat(picture));
-        return BitmapHandle(FreeImage_ConvertToType(grey.get(), FIT_COMPLEX));
+        const LibraryBitmap grey(FreeImage_ConvertToFloat(picture));
+        return LibraryBitmap(FreeImage_ConvertToType(grey.get(), FIT_COMPLEX));
     }
     if (kind.type == FIT_FLOAT) {
-        return BitmapHandle(FreeImage_ConvertToFloat(picture));
+        return LibraryBitmap(FreeImage_ConvertToFloat(picture));
     }
     if (kind.type != FIT_BITMAP) {
-        return BitmapHandle(FreeImage_ConvertToType(picture, kind.type));
+        return LibraryBitmap(FreeImage_ConvertToType(picture, kind.type));
     }
     switch (kind.bits) {
         case 1:
-            return BitmapHandle(FreeImage_Dither(picture, FID_FS));
+            return LibraryBitmap(FreeImage_Dither(picture, FID_FS));
         case 8:
-            return BitmapHandle(kind.format == FIF_GIF || kind.format == FIF_TARGA
-                                    ? FreeImage_ColorQuantize(picture, FIQ_WUQUANT)
-                                    : FreeImage_ConvertToGreyscale(picture));
+            return LibraryBitmap(kind.format == FIF_GIF || kind.format == FIF_TARGA
+                                     ? FreeImage_ColorQuantize(picture, FIQ_WUQUANT)
+                                     : FreeImage_ConvertToGreyscale(picture));
         case 16:
-            return BitmapHandle(FreeImage_ConvertTo16Bits565(picture));
+            return LibraryBitmap(FreeImage_ConvertTo16Bits565(picture));
         case 32:
-            return BitmapHandle(FreeImage_ConvertTo32Bits(picture));
+            return LibraryBitmap(FreeImage_ConvertTo32Bits(picture));
         default:
-            return CloneBitmap(picture);
+            return LibraryBitmap(FreeImage_Clone(picture));
     }
 }
 
@@ -125,7 +125,7 @@ void SetTag(FIBITMAP* bitmap, FREE_IMAGE_MDMODEL model, const char* key, int num
 
 // Described photos, written by hand and by the library.
 std::vector<SeedFile> DescribedSeeds(FIBITMAP* picture) {
-    const BitmapHandle photo = DescribedPicture();
+    const LibraryBitmap photo = DescribedPicture();
     std::vector<SeedFile> seeds = {
         {"jpeg/described", Described(LibraryFile(FIF_JPEG, picture, 80).bytes, true), seedSize},
         {"jpeg/described-big-endian",
@@ -145,10 +145,10 @@ std::vector<SeedFile> DescribedSeeds(FIBITMAP* picture) {
 }  // namespace
 
 std::vector<SeedFile> LibrarySeeds() {
-    const BitmapHandle picture = Picture();
+    const LibraryBitmap picture = Picture();
     std::vector<SeedFile> seeds = DescribedSeeds(picture.get());
     for (const LibraryKind& kind : libraryKinds) {
-        BitmapHandle bitmap = Converted(picture.get(), kind);
+        LibraryBitmap bitmap = Converted(picture.get(), kind);
         if (kind.format == FIF_ICO) {  // whose sides are multiples of 8
             bitmap.reset(FreeImage_Rescale(bitmap.get(), 32, 32, FILTER_BOX));
         }
@@ -158,8 +158,8 @@ std::vector<SeedFile> LibrarySeeds() {
     return seeds;
 }
 
-BitmapHandle DescribedPicture() {
-    BitmapHandle photo = Picture();
+LibraryBitmap DescribedPicture() {
+    LibraryBitmap photo = Picture();
     SetTag(photo.get(), FIMD_EXIF_RAW, "ExifRaw", 0, FIDT_BYTE, ExifBlock(true));
     SetTag(photo.get(), FIMD_EXIF_MAIN, "Make", 271, FIDT_ASCII, QByteArray("Varnel", 7));
     SetTag(photo.get(), FIMD_IPTC, "Caption-Abstract", 0x0278, FIDT_ASCII, QByteArray("fish", 5));
@@ -167,13 +167,13 @@ BitmapHandle DescribedPicture() {
     SetTag(photo.get(), FIMD_COMMENTS, "Comment", 0, FIDT_ASCII, QByteArray("an eye", 7));
     QByteArray profile = ColourProfile();
     FreeImage_CreateICCProfile(photo.get(), profile.data(), static_cast<long>(profile.size()));
-    const BitmapHandle thumbnail(FreeImage_Rescale(photo.get(), 16, 11, FILTER_BOX));
+    const LibraryBitmap thumbnail(FreeImage_Rescale(photo.get(), 16, 11, FILTER_BOX));
     FreeImage_SetThumbnail(photo.get(), thumbnail.get());
     return photo;
 }
 
 QByteArray ThumbnailJpeg() {
-    const BitmapHandle small(FreeImage_Rescale(Picture().get(), 16, 11, FILTER_BOX));
+    const LibraryBitmap small(FreeImage_Rescale(Picture().get(), 16, 11, FILTER_BOX));
     return LibraryFile(FIF_JPEG, small.get(), 50).bytes;
 }
 

@@ -9,7 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "remap/image/bitmap.h"
+#include "remap/image/freeimage_bitmap.h"
+#include "remap/image/pixel_access.h"
 
 namespace varnel::testing {
 
@@ -50,7 +51,7 @@ struct BmpKind {
     bool lastRowEnds = true;  // run lengths: an end of the row also after the last one
 
     bool HasRuns() const { return coding == 1 || coding == 2; }
-    RGBQUAD Colour(int x, int y) const {
+    PixelColor Colour(int x, int y) const {
         const int column = depth > 8 ? x : x % (1 << depth);
         const int row = depth > 8 ? y : 2 * column;
         return {static_cast<BYTE>(column), static_cast<BYTE>(row), 7, 0};
@@ -70,6 +71,6 @@ QByteArray ThumbnailJpeg();
 
 // The seeds' picture as if it had been read with all that. Really reading it is for the decoder:
 // the library reads beyond its memory even with sound EXIF blocks.
-BitmapHandle DescribedPicture();
+LibraryBitmap DescribedPicture();
 
 }  // namespace varnel::testing

@@ -46,8 +46,8 @@ QByteArray BmpRuns(const BmpKind& kind, int columns) {
     const int pixels = 8 / kind.depth;
     QByteArray row = Numbers({0, 4 * pixels}, 1);
     for (int x = 0; x < columns; x += pixels) {
-        const int first = kind.Colour(x, 0).rgbBlue;
-        const int byte = pixels == 1 ? first : first << 4 | kind.Colour(x + 1, 0).rgbBlue;
+        const int first = kind.Colour(x, 0).blue;
+        const int byte = pixels == 1 ? first : first << 4 | kind.Colour(x + 1, 0).blue;
         row += (x < 4 * pixels ? QByteArray() : Number(std::min(pixels, columns - x), 1)) +
                Number(byte, 1);
     }
@@ -57,15 +57,13 @@ QByteArray BmpRuns(const BmpKind& kind, int columns) {
 QByteArray BmpRow(const BmpKind& kind, int columns, int y) {
     QByteArray row((columns * kind.depth + 31) / 32 * 4, '\0');
     for (int x = 0; x < columns; ++x) {
-        const RGBQUAD c = kind.Colour(x, y);
+        const PixelColor c = kind.Colour(x, y);
         if (kind.depth > 8) {
             const int bytes = kind.depth / 8;
-            row.replace(x * bytes, bytes,
-                        Numbers({c.rgbBlue, c.rgbGreen, c.rgbRed, 0}, 1).first(bytes));
+            row.replace(x * bytes, bytes, Numbers({c.blue, c.green, c.red, 0}, 1).first(bytes));
         } else {
             const int bit = x * kind.depth;
-            row[bit / 8] =
-                static_cast<char>(row[bit / 8] | c.rgbBlue << (8 - kind.depth - bit % 8));
+            row[bit / 8] = static_cast<char>(row[bit / 8] | c.blue << (8 - kind.depth - bit % 8));
         }
     }
     return row;
@@ -151,9 +149,8 @@ QByteArray Bmp(const BmpKind& kind, PixelSize size) {
     const QByteArray pixels = BmpPixels(kind, size);
     QByteArray header = BmpHeader(kind, size, pixels.size());
     for (int i = 0; kind.depth <= 8 && i < 1 << kind.depth; ++i) {
-        const RGBQUAD c = kind.Colour(i, 0);
-        header +=
-            Numbers({c.rgbBlue, c.rgbGreen, c.rgbRed, 0}, 1).first(kind.headerBytes == 12 ? 3 : 4);
+        const PixelColor c = kind.Colour(i, 0);
+        header += Numbers({c.blue, c.green, c.red, 0}, 1).first(kind.headerBytes == 12 ? 3 : 4);
     }
     const qsizetype offset = 14 + header.size();
     return "BM" + Numbers({offset + pixels.size(), 0, offset}, 4) + header + pixels;

@@ -4,10 +4,10 @@
 #include "decoder/formats/jpeg_pixels.h"
 
 #include <QByteArray>
-#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <vector>
 
 #include "remap/image/freeimage_bitmap.h"
@@ -18,7 +18,6 @@ namespace varnel {
 
 namespace {
 
-constexpr QByteArrayView jfif("JFIF\0", 5);
 constexpr int colourProfileMarker = JPEG_APP0 + 2;
 
 // Reads as the image library does. The size of its buffer shows: near the buffer's end libjpeg
@@ -81,7 +80,6 @@ class JpegDecoder {
         jpeg_create_decompress(&info_);
         info_.src = &source_;
         jpeg_save_markers(&info_, JPEG_COM, 0xFFFF);
-        jpeg_save_markers(&info_, JPEG_APP0, 0xFFFF);
         jpeg_save_markers(&info_, colourProfileMarker, 0xFFFF);
         jpeg_read_header(&info_, TRUE);
         if (!IsOrdinary() || info_.image_width != static_cast<JDIMENSION>(expected.width) ||
@@ -115,33 +113,61 @@ class JpegDecoder {
         return true;
     }
 
-    // Comments, resolution and colour profile, as the segments of a file.
-    QByteArray Metadata() const {
-        QByteArray segments;
+    // Comments, resolution and colour profile, as the image library reads them. To be called once
+    // the decoder has started.
+    BitmapMetadata Metadata() {
+        BitmapMetadata metadata;
+        if (const auto perMetre = DotsPerMetre(info_.X_density)) {
+            metadata.dotsPerMetreX = *perMetre;
+            metadata.dotsPerMetreY = *DotsPerMetre(info_.Y_density);
+        }
         for (const jpeg_marker_struct* one = info_.marker_list; one != nullptr; one = one->next) {
-            const QByteArrayView data(reinterpret_cast<const char*>(one->data),
+            if (one->marker == JPEG_COM) {
+                const QByteArray text(reinterpret_cast<const char*>(one->data),
                                       static_cast<qsizetype>(one->data_length));
-            const bool isApp0 = one->marker == JPEG_APP0;
-            if (isApp0 && data.size() < jfif.size()) {  // too short for anything
-                continue;
-            }
-            std::array<char, 4> head{'\xFF', static_cast<char>(one->marker)};
-            qToBigEndian(static_cast<quint16>(data.size() + 2), &head[2]);
-            segments.append(head.data(), head.size());
-            segments += data;
-            if (isApp0 && data.size() > jfif.size() && data.startsWith(jfif)) {
-                // libjpeg has warned of another version already, and nobody else asks.
-                segments[segments.size() - data.size() + jfif.size()] = 1;
+                metadata.comments["Comment"] = text.constData();  // up to a zero byte
             }
         }
-        return segments;
+        JOCTET* profile = nullptr;
+        unsigned length = 0;
+        if (ReadProfile(&profile, &length)) {
+            metadata.colourProfile =
+                QByteArray(reinterpret_cast<const char*>(profile), static_cast<qsizetype>(length));
+        }
+        std::free(profile);
+        return metadata;
     }
 
-    bool IsGrey() const { return info_.num_components == 1; }
     bool HasWarned() const { return *errors_.Warning() != '\0'; }
     const char* Warning() const { return errors_.Warning(); }
 
   private:
+    // Nothing where the file does not tell them.
+    std::optional<std::uint32_t> DotsPerMetre(UINT16 density) const {
+        constexpr UINT8 inches = 1;
+        constexpr UINT8 centimetres = 2;
+        constexpr double metresPerInch = 0.0254;
+        switch (info_.density_unit) {
+            case inches:
+                return static_cast<std::uint32_t>(density / metresPerInch + 0.5);
+            case centimetres:
+                return density * 100U;
+            default:
+                return std::nullopt;
+        }
+    }
+
+    // A profile with pieces missing gives none and is nothing to warn of.
+    bool ReadProfile(JOCTET** profile, unsigned* length) {
+        const auto warn = info_.err->emit_message;
+        info_.err->emit_message = [](j_common_ptr, int) {};
+        if (setjmp(errors_.Back()) == 0) {
+            jpeg_read_icc_profile(&info_, profile, length);
+        }
+        info_.err->emit_message = warn;
+        return *profile != nullptr;
+    }
+
     bool IsOrdinary() const {
         return info_.data_precision == 8 && info_.arith_code == FALSE &&
                (info_.jpeg_color_space == JCS_GRAYSCALE || info_.jpeg_color_space == JCS_YCbCr ||
@@ -152,31 +178,6 @@ class JpegDecoder {
     FileSource source_;
     jpeg_decompress_struct info_{};
 };
-
-// One block of grey or three of colour, all zero: its two codes are single bits.
-QByteArray TinyPicture(bool isGrey) {
-    const auto table = [](char number) {
-        return QByteArray("\xFF\xC4\0\x14", 4) + number + '\1' + QByteArray(16, '\0');
-    };
-    QByteArray file =
-        QByteArray("\xFF\xDB\0\x43\0", 5) + QByteArray(64, '\1') + table('\0') + table('\x10');
-    if (isGrey) {
-        return file.append("\xFF\xC0\0\x0B\x08\0\x08\0\x08\1\1\x11\0", 13)
-            .append("\xFF\xDA\0\x08\1\1\0\0\x3F\0\x3F\xFF\xD9", 13);
-    }
-    return file.append("\xFF\xC0\0\x11\x08\0\x08\0\x08\3\1\x11\0\2\x11\0\3\x11\0", 19)
-        .append("\xFF\xDA\0\x0C\3\1\0\2\0\3\0\0\x3F\0\3\xFF\xD9", 17);
-}
-
-// The library reads metadata out of a JPEG only.
-std::optional<BitmapMetadata> MetadataIn(const QByteArray& segments, bool isGrey) {
-    QByteArray file = QByteArray("\xFF\xD8", 2) + segments + TinyPicture(isGrey);
-    FIMEMORY* const memory =
-        FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
-    const LibraryBitmap bitmap(FreeImage_LoadFromMemory(FIF_JPEG, memory, JPEG_ACCURATE));
-    FreeImage_CloseMemory(memory);
-    return bitmap ? std::optional(LibraryMetadata(bitmap.get())) : std::nullopt;
-}
 
 bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientation) {
     if (orientation == 1) {
@@ -207,17 +208,11 @@ std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected
     if (!decoder.Start(expected)) {
         return std::nullopt;
     }
-    const QByteArray segments = decoder.Metadata();
-    const bool warnedEarly = decoder.HasWarned();
+    BitmapMetadata metadata = decoder.Metadata();
     if (!AllRows(decoder, expected, rows, orientation)) {
         return std::nullopt;
     }
-    // In the order of the library's own work.
-    if (warnedEarly) {
-        FreeImage_OutputMessageProc(FIF_JPEG, "%s", decoder.Warning());
-    }
-    std::optional<BitmapMetadata> metadata = MetadataIn(segments, decoder.IsGrey());
-    if (!warnedEarly && decoder.HasWarned()) {
+    if (decoder.HasWarned()) {
         FreeImage_OutputMessageProc(FIF_JPEG, "%s", decoder.Warning());
     }
     return metadata;

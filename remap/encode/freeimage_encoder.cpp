@@ -11,6 +11,8 @@
 #include <new>
 #include <utility>
 
+#include "remap/encode/memory_file.h"
+#include "remap/encode/metadata_writer.h"
 #include "remap/image/freeimage_bitmap.h"
 #include "remap/image/library_messages.h"
 
@@ -18,82 +20,8 @@ namespace varnel {
 
 namespace {
 
-// The file that the library writes. A write that fails is remembered here, because the encoders go
-// on after one and report success.
-class EncodedFile {
-  public:
-    explicit EncodedFile(qint64 largest) : largest_(largest) {}
-
-    // Nothing may be thrown through the encoders, which are C.
-    bool Write(const void* bytes, qint64 length) {
-        const qint64 end = position_ + length;
-        if (!error_.isEmpty() || !Reach(end)) {
-            return false;
-        }
-        std::memcpy(bytes_.data() + position_, bytes, static_cast<std::size_t>(length));
-        position_ = end;
-        return true;
-    }
-
-    qint64 Read(void* bytes, qint64 length) {
-        const qint64 there = std::min<qint64>(bytes_.size() - position_, length);
-        if (there <= 0) {
-            return 0;
-        }
-        std::memcpy(bytes, bytes_.constData() + position_, static_cast<std::size_t>(there));
-        position_ += there;
-        return there;
-    }
-
-    bool Seek(qint64 offset, int origin) {
-        const qint64 start = origin == SEEK_SET   ? 0
-                             : origin == SEEK_CUR ? position_
-                                                  : bytes_.size();
-        if (start + offset < 0) {
-            return false;
-        }
-        position_ = start + offset;
-        return true;
-    }
-
-    qint64 Position() const { return position_; }
-    const Reason& Error() const { return error_; }
-    QByteArray& Bytes() { return bytes_; }
-
-  private:
-    // Makes the file at least so long; what was never written is zero.
-    bool Reach(qint64 end) {
-        if (end > largest_) {
-            error_ = {ReasonCode::FileTooLarge, largest_};
-            return false;
-        }
-        const qint64 before = bytes_.size();
-        if (end <= before) {
-            return true;
-        }
-        try {
-            if (end > bytes_.capacity()) {
-                bytes_.reserve(std::max(end, std::min(2 * before, largest_)));
-            }
-            bytes_.resize(end);
-        } catch (const std::bad_alloc&) {
-            error_ = ReasonCode::NotEnoughMemory;
-            return false;
-        }
-        if (position_ > before) {
-            std::memset(bytes_.data() + before, 0, static_cast<std::size_t>(position_ - before));
-        }
-        return true;
-    }
-
-    const qint64 largest_;
-    QByteArray bytes_;
-    qint64 position_ = 0;
-    Reason error_;
-};
-
-EncodedFile& FileOf(fi_handle handle) {
-    return *static_cast<EncodedFile*>(handle);
+MemoryFile& FileOf(fi_handle handle) {
+    return *static_cast<MemoryFile*>(handle);
 }
 
 // Sizes and counts come in 32 bits; their product need not fit.
@@ -120,7 +48,7 @@ bool CutByLibrary(const QStringList& messages) {
 }
 
 // The reason why the file is not whole; empty when it is.
-Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFile& file) {
+Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, MemoryFile& file) {
     const LibraryMessages messages;
     FreeImageIO access{ReadItems, WriteItems, SeekTo, TellPosition};
     const bool done = FreeImage_SaveToHandle(format, bitmap, &access, &file, flags) == TRUE;
@@ -137,7 +65,7 @@ Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, EncodedFile
 
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, qint64 largest) {
     try {
-        EncodedFile file(largest);
+        MemoryFile file(largest);
         const Reason reason = Encode(format, bitmap, flags, file);
         return reason.isEmpty() ? EncodedBitmap{std::move(file.Bytes()), {}}
                                 : EncodedBitmap{{}, reason};
@@ -159,11 +87,13 @@ EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int fl
     }
 }
 
-BitmapHandle MetadataSample(const Bitmap* bitmap) {
-    constexpr PixelSize side{8, 8};
-    BitmapHandle sample = NewBitmap(side);
-    sample->metadata = bitmap->metadata;
-    return sample;
+EncodedBitmap EncodeBmp(const Bitmap* bitmap, const OutputEncoding& /*encoding*/,
+                        const EncodeOptions& options) {
+    EncodedBitmap file = LibraryFile(FIF_BMP, bitmap, BMP_DEFAULT, options.largest);
+    if (file.reason.isEmpty()) {
+        file.note = LostInBmp(*bitmap);
+    }
+    return file;
 }
 
 }  // namespace varnel

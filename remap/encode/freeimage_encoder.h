@@ -6,22 +6,11 @@
 
 #include <FreeImage.h>
 
-#include <QByteArray>
-
-#include "base/reason.h"
+#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 
 namespace varnel {
-
-// BMP and TIFF count the bytes of a file in 32 bits.
-inline constexpr qint64 largestFile = 0xFFFFFFFF;
-
-// No bytes and the reason when it could not be done.
-struct EncodedBitmap {
-    QByteArray bytes;
-    Reason reason;
-    Reason note = {};  // what the file is without, and why; empty when it has everything
-};
 
 // flags are the library's for the format. The library's own file in memory is not used: from 2 GB
 // on it drops what is written, and the library calls the rest a success.
@@ -30,8 +19,8 @@ EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int fl
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,
                           qint64 largest = largestFile);
 
-// A black picture of 8 x 8 pixels with the bitmap's metadata, colour profile and resolution: its
-// library file shows how the library writes them. Throws std::bad_alloc.
-BitmapHandle MetadataSample(const Bitmap* bitmap);
+// A BMP file: no other program part writes one. Throws nothing.
+EncodedBitmap EncodeBmp(const Bitmap* bitmap, const OutputEncoding& encoding,
+                        const EncodeOptions& options);
 
 }  // namespace varnel

@@ -6,13 +6,12 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cstdlib>
 #include <new>
 #include <utility>
 #include <vector>
 
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/metadata_writer.h"
 #include "remap/image/jpeg_errors.h"
 
 namespace varnel {
@@ -89,8 +88,45 @@ class CodedBytes : public jpeg_destination_mgr {
     std::size_t capacity_ = 0;
 };
 
-constexpr int QualityIn(int flags) {
-    return flags & ~JPEG_SUBSAMPLING_444;
+// What the file has in front of the picture besides the resolution.
+struct Head {
+    struct Segment {
+        int marker;
+        QByteArray data;
+    };
+    std::vector<Segment> segments{};
+    QByteArray colourProfile{};
+    UINT16 dotsPerInchX = 0;
+    UINT16 dotsPerInchY = 0;
+};
+
+UINT16 DotsPerInch(std::uint32_t dotsPerMetre) {
+    constexpr double metresPerInch = 0.0254;
+    return static_cast<UINT16>(std::clamp(0.5 + metresPerInch * dotsPerMetre, 0.0, double{0xFFFF}));
+}
+
+Head HeadFor(const Bitmap& bitmap, const WrittenMetadata& metadata) {
+    constexpr int exifAndXmp = JPEG_APP0 + 1;
+    constexpr int photoshop = JPEG_APP0 + 13;
+    constexpr qsizetype longestSegment = 65533;  // bytes of data
+    Head head{.colourProfile = bitmap.metadata.colourProfile,
+              .dotsPerInchX = DotsPerInch(bitmap.metadata.dotsPerMetreX),
+              .dotsPerInchY = DotsPerInch(bitmap.metadata.dotsPerMetreY)};
+    const auto add = [&head](int marker, const QByteArray& mark, const QByteArray& data) {
+        if (!data.isEmpty()) {
+            head.segments.push_back({marker, mark + data});
+        }
+    };
+    add(exifAndXmp, QByteArray("Exif\0\0", 6), metadata.exif);
+    add(exifAndXmp, QByteArray("http://ns.adobe.com/xap/1.0/\0", 29), metadata.xmp);
+    if (!metadata.iptc.isEmpty()) {
+        add(photoshop, QByteArray("Photoshop 3.0\0", 14), IptcResource(metadata.iptc));
+    }
+    const QByteArray comment = bitmap.metadata.comments.value("Comment");
+    for (qsizetype at = 0; at < comment.size(); at += longestSegment) {
+        add(JPEG_COM, {}, comment.mid(at, longestSegment));
+    }
+    return head;
 }
 
 // libjpeg's work on one band.
@@ -101,8 +137,9 @@ class BandCoder {
     BandCoder(const BandCoder&) = delete;
     BandCoder& operator=(const BandCoder&) = delete;
 
-    // A whole file, but without JFIF header. Nothing may be destroyed in here: errors jump.
-    bool Code(const Band& band, int flags) {
+    // A whole file; without a head it has no JFIF header either. Nothing may be destroyed in here:
+    // errors jump.
+    bool Code(const Band& band, const OutputEncoding& encoding, const Head* head) {
         if (setjmp(errors_.Back()) != 0) {
             return false;
         }
@@ -113,22 +150,44 @@ class BandCoder {
         info_.in_color_space = JCS_EXT_BGR;
         info_.input_components = 3;
         jpeg_set_defaults(&info_);
-        jpeg_set_quality(&info_, QualityIn(flags) == 0 ? 75 : QualityIn(flags), TRUE);
+        jpeg_set_quality(&info_, encoding.quality, TRUE);
         jpeg_component_info& brightness = info_.comp_info[0];
-        if ((flags & JPEG_SUBSAMPLING_444) != 0) {
+        if (encoding.chroma444) {
             brightness.h_samp_factor = brightness.v_samp_factor = 1;
         }
-        info_.write_JFIF_header = FALSE;
+        info_.write_JFIF_header = head != nullptr ? TRUE : FALSE;
+        if (head != nullptr) {
+            constexpr UINT8 inches = 1;
+            info_.density_unit = inches;
+            info_.X_density = head->dotsPerInchX;
+            info_.Y_density = head->dotsPerInchY;
+        }
         const int strip = stripHeight / (brightness.v_samp_factor * DCTSIZE);  // rows of blocks
         info_.restart_in_rows = band.restarts ? strip : 0;
         jpeg_start_compress(&info_, TRUE);
+        if (head != nullptr) {
+            WriteHead(*head);
+        }
         WriteRows(band);
         jpeg_finish_compress(&info_);
         return true;
     }
     bool IsOutOfMemory() const { return errors_.IsOutOfMemory(); }
+    const char* Error() const { return errors_.Error(); }
 
   private:
+    void WriteHead(const Head& head) {
+        for (const Head::Segment& segment : head.segments) {
+            jpeg_write_marker(&info_, segment.marker,
+                              reinterpret_cast<const JOCTET*>(segment.data.constData()),
+                              static_cast<unsigned>(segment.data.size()));
+        }
+        if (!head.colourProfile.isEmpty()) {
+            jpeg_write_icc_profile(&info_,
+                                   reinterpret_cast<const JOCTET*>(head.colourProfile.constData()),
+                                   static_cast<unsigned>(head.colourProfile.size()));
+        }
+    }
     void WriteRows(const Band& band) {
         std::array<JSAMPROW, stripHeight> rows;
         const int top = band.bitmap->Size().height - 1 - band.first;
@@ -147,34 +206,15 @@ class BandCoder {
     CodedBytes& coded_;
 };
 
-bool CodeBand(const Band& band, int flags, CodedBytes& coded) {
+// The error that ended it; empty when there was none.
+QString CodeBand(const Band& band, const OutputEncoding& encoding, const Head* head,
+                 CodedBytes& coded) {
     BandCoder coder(coded);
-    const bool done = coder.Code(band, flags);
+    const bool done = coder.Code(band, encoding, head);
     if (coder.IsOutOfMemory()) {
         throw std::bad_alloc();
     }
-    return done;
-}
-
-// The library's file for the same metadata, up to where the tables of this quality begin: the rest
-// has to be what libjpeg makes of the same pixels here.
-std::optional<QByteArray> LibraryHead(const Bitmap* bitmap, int flags,
-                                      const WrittenMetadata& metadata) {
-    const BitmapHandle sample = MetadataSample(bitmap);
-    EncodedBitmap file = LibraryFile(FIF_JPEG, sample.get(), flags);
-    CodedBytes coded;
-    if (!file.reason.isEmpty() ||
-        !CodeBand({sample.get(), 0, SizeOf(sample.get()).height, false}, flags, coded)) {
-        return std::nullopt;
-    }
-    const QByteArrayView rest = coded.View().sliced(startOfImage.size());
-    if (!file.bytes.startsWith(startOfImage) || !file.bytes.endsWith(rest) ||
-        file.bytes.size() < startOfImage.size() + rest.size()) {
-        return std::nullopt;
-    }
-    file.bytes.chop(rest.size());
-    return InsertParts(FIF_JPEG, metadata, file.bytes) ? std::optional(std::move(file.bytes))
-                                                       : std::nullopt;
+    return done ? QString() : QString::fromLatin1(coder.Error());
 }
 
 // Where a coded band has what joining it to others needs.
@@ -200,46 +240,40 @@ Places PlacesIn(QByteArrayView coded) {
 }
 
 // The first band's file made as high as the picture, with the scans of the others behind its own.
-// The bands are freed on the way. Nothing when one has no scan.
-std::optional<QByteArray> Joined(const QByteArray& head, std::vector<CodedBytes>& bands,
-                                 int height) {
-    qsizetype most = head.size();
+// The bands are freed on the way. Empty when one has no scan.
+QByteArray Joined(std::vector<CodedBytes>& bands, int height) {
+    qsizetype most = 0;
     for (const CodedBytes& band : bands) {
         most += band.View().size();
     }
     QByteArray file;
     file.reserve(most);
-    file += head;
     for (CodedBytes& band : bands) {
         const bool isFirst = &band == &bands.front();
         const Places places = PlacesIn(band.View());
         if (places.data == 0 || !band.View().endsWith(endOfImage)) {
-            return std::nullopt;
+            return {};
         }
         if (!isFirst) {
             file += lastRestart;
         }
-        const qsizetype begin = isFirst ? startOfImage.size() : places.data;
-        file += band.View().sliced(begin).chopped(endOfImage.size());
+        file += band.View().sliced(isFirst ? 0 : places.data).chopped(endOfImage.size());
         if (isFirst) {
-            qToBigEndian(static_cast<quint16>(height),
-                         file.data() + head.size() + places.height - begin);
+            qToBigEndian(static_cast<quint16>(height), file.data() + places.height);
         }
         band.Free();
     }
     return file += endOfImage;
 }
 
-bool IsCodable(const Bitmap* bitmap, int flags) {
-    const auto isSide = [](std::int32_t side) { return side > 0 && side <= JPEG_MAX_DIMENSION; };
-    const auto [width, height] = bitmap->Size();
-    return bitmap->Format() == PixelFormat::Bgr8 && isSide(width) && isSide(height) &&
-           QualityIn(flags) >= 0 && QualityIn(flags) <= 100;
+// libjpeg refuses higher pictures, and is to say so, but not bands of them.
+bool IsTooHigh(const Bitmap& bitmap) {
+    return bitmap.Size().height > JPEG_MAX_DIMENSION;
 }
 
 std::vector<Band> BandsOf(const Bitmap* bitmap) {
     const PixelSize size = SizeOf(bitmap);
-    if (size.height <= bandHeight ||
+    if (size.height <= bandHeight || IsTooHigh(*bitmap) ||
         std::int64_t{size.width} * size.height < fewestPixelsForBands) {
         return {{bitmap, 0, size.height, false}};
     }
@@ -252,29 +286,31 @@ std::vector<Band> BandsOf(const Bitmap* bitmap) {
 
 }  // namespace
 
-std::optional<QByteArray> EncodeJpeg(const Bitmap* bitmap, int flags, BlockRunner& runner,
-                                     const WrittenMetadata& metadata) {
-    if (!IsCodable(bitmap, flags)) {
-        return std::nullopt;
-    }
-    const std::optional<QByteArray> head = LibraryHead(bitmap, flags, metadata);
-    if (!head) {
-        return std::nullopt;
-    }
+EncodedBitmap EncodeJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
+                         const EncodeOptions& options) {
+    const WrittenMetadata metadata = MetadataForJpeg(*bitmap);
+    const Head head = HeadFor(*bitmap, metadata);
     const std::vector<Band> bands = BandsOf(bitmap);
     std::vector<CodedBytes> coded(bands.size());
-    std::atomic<bool> failed = false;
-    runner.Run(static_cast<int>(bands.size()), [&](int n) {
-        if (!CodeBand(bands[n], flags, coded[n])) {
-            failed = true;
-        }
+    std::vector<QString> errors(bands.size());
+    options.Run(static_cast<int>(bands.size()), [&](int n) {
+        errors[n] = CodeBand(bands[n], encoding, n == 0 ? &head : nullptr, coded[n]);
     });
-    return failed ? std::nullopt : Joined(*head, coded, SizeOf(bitmap).height);
+    const auto error =
+        std::ranges::find_if_not(errors, [](const QString& text) { return text.isEmpty(); });
+    if (error != errors.end()) {
+        return {{}, {ReasonCode::Added, Reason(ReasonCode::CannotBeEncoded), *error}};
+    }
+    QByteArray file = Joined(coded, SizeOf(bitmap).height);
+    return file.isEmpty() ? EncodedBitmap{{}, ReasonCode::CannotBeEncoded}
+                          : EncodedBitmap{std::move(file), {}, Joined(metadata.notes)};
 }
 
 QByteArray PlainJpeg(const Bitmap* bitmap, int quality) {
     CodedBytes coded;
-    return CodeBand({bitmap, 0, SizeOf(bitmap).height, false}, quality, coded)
+    return CodeBand({bitmap, 0, SizeOf(bitmap).height, false}, {OutputType::Jpeg, quality}, nullptr,
+                    coded)
+                   .isEmpty()
                ? coded.View().toByteArray()
                : throw std::bad_alloc();
 }

@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "remap/encode/exif_writer.h"
-#include "remap/encode/png_frame.h"
 #include "remap/encode/xmp_settings.h"
 #include "remap/image/ifd_reader.h"
 
@@ -18,50 +17,37 @@ namespace varnel {
 
 namespace {
 
-constexpr qsizetype longestSegment = 65533;  // bytes of data
+// Bytes, as a segment holds 65533 with what says what it is.
 constexpr qsizetype longestXmpInJpeg = 65502;
-
-QByteArray Segment(char marker, QByteArrayView head, QByteArrayView data) {
-    QByteArray segment("\xFF\0\0\0", 4);
-    segment[1] = marker;
-    qToBigEndian(static_cast<quint16>(2 + head.size() + data.size()), segment.data() + 2);
-    return segment.append(head).append(data);
-}
-
-QByteArray Chunk(const char* type, QByteArrayView data) {
-    QByteArray chunk(pngChunkStart, '\0');
-    chunk.append(data).append(pngChunkEnd, '\0');
-    SealPngChunk(chunk.data(), data.size(), type);
-    return chunk;
-}
+constexpr qsizetype longestIptcInJpeg = 65533 - 14;  // wrapped
 
 // What goes into one file; its steps add to the result.
 class Assembly {
   public:
-    explicit Assembly(const Bitmap* bitmap)
-        : bitmap_(bitmap), photo_(bitmap->metadata.photo), settings_(bitmap->metadata.settings) {
+    explicit Assembly(const Bitmap& bitmap)
+        : bitmap_(bitmap), photo_(bitmap.metadata.photo), settings_(bitmap.metadata.settings) {
         constexpr qsizetype tiffHeader = 8;
         if (photo_.exif.bytes.size() < tiffHeader) {
             photo_.exif = {};
         }
-        result_.isOfPhoto = !photo_.IsEmpty();
         result_.notes = photo_.notes;
     }
 
-    bool IsNeeded() const { return result_.isOfPhoto || !settings_.isEmpty(); }
+    // Whether there is anything to be written.
+    bool IsNeeded() const { return !photo_.IsEmpty() || !settings_.isEmpty(); }
     WrittenMetadata Jpeg();
     WrittenMetadata Png();
     WrittenMetadata Tiff();
-    WrittenMetadata Bmp();
+    Reason LostInBmp() const;
 
   private:
-    void AddExifSegment();
-    void AddXmpSegment();
-    void AddIptcSegment();
+    void AddShortExif();
+    void AddShortXmp();
+    void AddShortIptc();
     QByteArray Packet();
     bool IsWorthKeeping() const;
 
-    const Bitmap* const bitmap_;
+    const Bitmap& bitmap_;
     PhotoMetadata photo_;
     const PictureSettings settings_;
     WrittenMetadata result_;
@@ -76,7 +62,7 @@ QByteArray Assembly::Packet() {
     return photo_.xmp;
 }
 
-void Assembly::AddExifSegment() {
+void Assembly::AddShortExif() {
     const bool isShortened = !photo_.exifForJpeg.bytes.isEmpty();
     const ExifBlock& exif = isShortened ? photo_.exifForJpeg : photo_.exif;
     if (exif.bytes.isEmpty()) {
@@ -89,11 +75,10 @@ void Assembly::AddExifSegment() {
     if (isShortened) {
         result_.notes += ReasonCode::PartOfExifTooLong;
     }
-    result_.parts += Segment('\xE1', QByteArrayView("Exif\0\0", 6), WrittenExif(exif, bitmap_));
+    result_.exif = WrittenExif(exif, &bitmap_);
 }
 
-void Assembly::AddXmpSegment() {
-    constexpr QByteArrayView head("http://ns.adobe.com/xap/1.0/\0", 29);
+void Assembly::AddShortXmp() {
     QByteArray packet = Packet();
     if (packet.size() > longestXmpInJpeg && !photo_.xmp.isEmpty()) {
         result_.notes += ReasonCode::XmpTooLong;
@@ -101,62 +86,37 @@ void Assembly::AddXmpSegment() {
     }
     if (packet.size() > longestXmpInJpeg) {
         result_.notes += ReasonCode::SettingsTooLong;
-    } else if (!packet.isEmpty()) {
-        result_.parts += Segment('\xE1', head, packet);
+    } else {
+        result_.xmp = packet;
     }
 }
 
-void Assembly::AddIptcSegment() {
-    constexpr QByteArrayView head("Photoshop 3.0\0", 14);
-    if (photo_.iptc.isEmpty()) {
-        return;
-    }
-    const QByteArray resource = IptcResource(photo_.iptc);
-    if (head.size() + resource.size() > longestSegment) {
+void Assembly::AddShortIptc() {
+    if (IptcResource(photo_.iptc).size() > longestIptcInJpeg) {
         result_.notes += ReasonCode::IptcTooLong;
     } else {
-        result_.parts += Segment('\xED', head, resource);
+        result_.iptc = photo_.iptc;
     }
 }
 
 WrittenMetadata Assembly::Jpeg() {
-    AddExifSegment();
-    AddXmpSegment();
-    AddIptcSegment();
+    AddShortExif();
+    AddShortXmp();
+    AddShortIptc();
     return std::move(result_);
 }
 
-// IPTC in a chunk of compressed text, as there is none for it: its type, its length and its bytes
-// in hexadecimal digits.
-QByteArray ProfileChunk(const QByteArray& resource) {
-    constexpr qsizetype digitsInLine = 72;
-    QByteArray text = "\niptc\n" + QByteArray::number(resource.size()).rightJustified(8) + '\n';
-    const QByteArray digits = resource.toHex();
-    for (qsizetype at = 0; at < digits.size(); at += digitsInLine) {
-        text += digits.mid(at, digitsInLine) + '\n';
-    }
-    constexpr qsizetype qtLength = 4;  // stands before the stream of zlib
-    return Chunk("zTXt",
-                 QByteArray("Raw profile type iptc\0\0", 23) + qCompress(text).sliced(qtLength));
-}
-
 WrittenMetadata Assembly::Png() {
-    // Keyword, not compressed, no language and no translation.
-    constexpr QByteArrayView keyword("XML:com.adobe.xmp\0\0\0\0\0", 22);
     if (!photo_.exif.bytes.isEmpty()) {
-        result_.parts += Chunk("eXIf", WrittenExif(photo_.exif, bitmap_));
+        result_.exif = WrittenExif(photo_.exif, &bitmap_);
     }
-    if (const QByteArray packet = Packet(); !packet.isEmpty()) {
-        result_.parts += Chunk("iTXt", keyword.toByteArray() + packet);
-    }
-    if (!photo_.iptc.isEmpty()) {
-        result_.parts += ProfileChunk(IptcResource(photo_.iptc));
-    }
+    result_.xmp = Packet();
+    result_.iptc = photo_.iptc;
     return std::move(result_);
 }
 
 WrittenMetadata Assembly::Tiff() {
-    result_.exif = WrittenExifWithoutThumbnail(photo_.exif, SizeOf(bitmap_));
+    result_.exif = WrittenExifWithoutThumbnail(photo_.exif, bitmap_.Size());
     result_.entries = photo_.tiffEntries;
     result_.xmp = Packet();
     result_.iptc = photo_.iptc;
@@ -185,56 +145,31 @@ constexpr std::array lostInBmp{ReasonCode::None,
                                ReasonCode::BmpHoldsNoSettingsOrProfile,
                                ReasonCode::BmpHoldsPixelsOnly};
 
-WrittenMetadata Assembly::Bmp() {
+Reason Assembly::LostInBmp() const {
     const std::size_t lost = (IsWorthKeeping() ? 1U : 0U) + (settings_.isEmpty() ? 0U : 2U) +
-                             (bitmap_->metadata.colourProfile.isEmpty() ? 0U : 4U);
-    WrittenMetadata none;
-    if (lost != 0) {
-        none.notes += lostInBmp[lost];
-    }
-    return none;
+                             (bitmap_.metadata.colourProfile.isEmpty() ? 0U : 4U);
+    return lost == 0 ? Reason() : lostInBmp[lost];
 }
 
 }  // namespace
 
-WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, const Bitmap* bitmap) {
+WrittenMetadata MetadataForJpeg(const Bitmap& bitmap) {
     Assembly assembly(bitmap);
-    if (!assembly.IsNeeded() && format != FIF_BMP) {
-        return {};
-    }
-    switch (format) {
-        case FIF_JPEG:
-            return assembly.Jpeg();
-        case FIF_PNG:
-            return assembly.Png();
-        case FIF_TIFF:
-            return assembly.Tiff();
-        case FIF_BMP:
-            return assembly.Bmp();
-        default:
-            return {};
-    }
+    return assembly.IsNeeded() ? assembly.Jpeg() : WrittenMetadata();
 }
 
-bool InsertParts(FREE_IMAGE_FORMAT format, const WrittenMetadata& metadata, QByteArray& file) {
-    constexpr qsizetype startOfImage = 2;
-    constexpr qsizetype pngHeader = 8 + pngChunkStart + 13 + pngChunkEnd;
-    if (metadata.parts.isEmpty()) {
-        return true;
-    }
-    qsizetype place = pngHeader;
-    if (format == FIF_JPEG) {
-        place = startOfImage;
-        const QByteArrayView jfif = QByteArrayView(file).sliced(std::min(place, file.size()));
-        if (jfif.startsWith("\xFF\xE0") && jfif.size() >= 4) {
-            place += 2 + qFromBigEndian<quint16>(jfif.data() + 2);
-        }
-    }
-    if (place > file.size()) {
-        return false;
-    }
-    file.insert(place, metadata.parts);
-    return true;
+WrittenMetadata MetadataForPng(const Bitmap& bitmap) {
+    Assembly assembly(bitmap);
+    return assembly.IsNeeded() ? assembly.Png() : WrittenMetadata();
+}
+
+WrittenMetadata MetadataForTiff(const Bitmap& bitmap) {
+    Assembly assembly(bitmap);
+    return assembly.IsNeeded() ? assembly.Tiff() : WrittenMetadata();
+}
+
+Reason LostInBmp(const Bitmap& bitmap) {
+    return Assembly(bitmap).LostInBmp();
 }
 
 QByteArray IptcResource(const QByteArray& iptc) {

@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a bitmap's metadata and settings become in a file.
+// What a bitmap's metadata and settings become in a file. Throws std::bad_alloc.
 #pragma once
-
-#include <FreeImage.h>
 
 #include <QByteArray>
 
@@ -13,26 +11,21 @@
 
 namespace varnel {
 
+// Blocks as they are to be written; empty for none.
 struct WrittenMetadata {
-    bool isOfPhoto = false;  // not of the settings alone
-    QByteArray parts;        // segments of a JPEG file, chunks of a PNG file
-    // Of a TIFF file.
-    QByteArray exif;     // what the file begins with; its first directory is not the file's
-    QByteArray entries;  // of that directory, for the file's; their values are in exif
-    QByteArray iptc;
-    QByteArray xmp;
-    Reasons notes;  // what the file is without
-
-    // Then the library is left to write what it knows.
-    bool IsEmpty() const { return !isOfPhoto && parts.isEmpty() && xmp.isEmpty(); }
+    QByteArray exif;     // a TIFF file begins with it; its first directory is not the file's then
+    QByteArray entries;  // of that directory, for a TIFF file's; their values are in exif
+    QByteArray iptc;     // IIM records
+    QByteArray xmp;      // with the settings
+    Reasons notes;       // what the file is without
 };
 
-// For a file of this format. The bitmap has 24 bits. Throws std::bad_alloc.
-WrittenMetadata MetadataFor(FREE_IMAGE_FORMAT format, const Bitmap* bitmap);
-
-// Puts the parts into a JPEG or PNG file, of which everything up to the pixels may be missing
-// behind the first segment or chunk. False when that is not where it should be.
-bool InsertParts(FREE_IMAGE_FORMAT format, const WrittenMetadata& metadata, QByteArray& file);
+// For a file of each type. The bitmap has 24 bits. Throw std::bad_alloc.
+WrittenMetadata MetadataForJpeg(const Bitmap& bitmap);
+WrittenMetadata MetadataForPng(const Bitmap& bitmap);
+WrittenMetadata MetadataForTiff(const Bitmap& bitmap);
+// What a BMP file does not keep of the bitmap; empty when that is nothing.
+Reason LostInBmp(const Bitmap& bitmap);
 
 // The image resource of Photoshop's that holds IPTC.
 QByteArray IptcResource(const QByteArray& iptc);

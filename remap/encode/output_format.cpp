@@ -6,6 +6,11 @@
 #include <algorithm>
 #include <array>
 
+#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/png_coder.h"
+#include "remap/encode/tiff_coder.h"
+
 namespace varnel {
 
 namespace {
@@ -36,18 +41,6 @@ double BytesPerPixel(const OutputEncoding& /*encoding*/) {
     return hundredths / 100.0;
 }
 
-template <FREE_IMAGE_FORMAT format, int flags>
-EncodedBitmap Encode(const Bitmap* bitmap, const OutputEncoding& /*encoding*/,
-                     const EncodeOptions& options) {
-    return EncodeAs(format, bitmap, flags, options);
-}
-
-EncodedBitmap EncodeAsJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
-                           const EncodeOptions& options) {
-    const int chroma = encoding.chroma444 ? JPEG_SUBSAMPLING_444 : 0;
-    return EncodeAs(FIF_JPEG, bitmap, encoding.quality | chroma, options);
-}
-
 constexpr std::array rows{
     OutputFormat{OutputType::Tiff,
                  u"TIFF",
@@ -57,7 +50,7 @@ constexpr std::array rows{
                  {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
                  false,
                  &BytesPerPixel<230>,
-                 &Encode<FIF_TIFF, TIFF_LZW>},
+                 &EncodeTiff},
     OutputFormat{OutputType::Jpeg,
                  u"JPEG",
                  u"Jpeg",
@@ -66,7 +59,7 @@ constexpr std::array rows{
                  {.metadata = true, .profile = true},
                  true,
                  &JpegBytesPerPixel,
-                 &EncodeAsJpeg},
+                 &EncodeJpeg},
     OutputFormat{OutputType::Bmp,
                  u"BMP",
                  u"BMP",
@@ -75,7 +68,7 @@ constexpr std::array rows{
                  {},
                  false,
                  &BytesPerPixel<300>,
-                 &Encode<FIF_BMP, BMP_DEFAULT>},
+                 &EncodeBmp},
     OutputFormat{OutputType::Png,
                  u"PNG",
                  u"PNG",
@@ -84,7 +77,7 @@ constexpr std::array rows{
                  {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
                  false,
                  &BytesPerPixel<200>,
-                 &Encode<FIF_PNG, PNG_DEFAULT>}};
+                 &EncodePng}};
 static_assert(std::ranges::equal(rows, allOutputTypes, {}, &OutputFormat::type));
 
 }  // namespace

@@ -15,16 +15,14 @@
 #include <utility>
 #include <vector>
 
-#include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/png_filter.h"
-#include "remap/encode/png_frame.h"
+#include "remap/encode/png_head.h"
 
 namespace varnel {
 
 namespace {
 
-constexpr std::int64_t bandBytes = 512 * 1024;   // filtered
-constexpr std::int32_t largestSide = 1'000'000;  // libpng's
+constexpr std::int64_t bandBytes = 512 * 1024;  // filtered
 
 // Filtered photos are noise and runs, in which nothing but runs is found in reasonable time.
 struct Method {
@@ -59,7 +57,7 @@ class BandCoder {
           bands_((size_.height + bandRows_ - 1) / bandRows_) {}
 
     int Bands() const { return bands_; }
-    void Choose(BlockRunner& runner);
+    void Choose(const EncodeOptions& options);
     // A band without bytes could not be coded.
     Band Code(int n) const;
 
@@ -124,11 +122,11 @@ bool Deflate(std::vector<std::uint8_t>& bytes, Method method, bool last,
 }
 
 // By pieces of bands all over the picture.
-void BandCoder::Choose(BlockRunner& runner) {
+void BandCoder::Choose(const EncodeOptions& options) {
     const int step = (bands_ + probes - 1) / probes;
     const int pieces = (bands_ + step - 1) / step;
     std::vector<std::pair<std::size_t, std::size_t>> sizes(static_cast<std::size_t>(pieces));
-    runner.Run(pieces, [&](int n) {
+    options.Run(pieces, [&](int n) {
         std::vector<std::uint8_t> piece = Filtered(n * step * bandRows_, RowsIn(probeBytes));
         std::vector<std::uint8_t> byRuns;
         std::vector<std::uint8_t> byMatches;
@@ -175,49 +173,46 @@ QByteArray SumChunk(const std::vector<Band>& bands) {
     return chunk;
 }
 
-bool IsPlainPhoto(const Bitmap* bitmap) {
-    return bitmap != nullptr && bitmap->Format() == PixelFormat::Bgr8 &&
-           std::max(SizeOf(bitmap).width, SizeOf(bitmap).height) <= largestSide;
+QByteArray EndChunk() {
+    QByteArray chunk(pngChunkStart + pngChunkEnd, '\0');
+    SealPngChunk(chunk.data(), 0, "IEND");
+    return chunk;
 }
 
 // Each band is let go once it is in the file.
-QByteArray Joined(const PngFrame& frame, std::vector<Band>& bands) {
-    const QByteArray sum = SumChunk(bands);
-    qsizetype length = frame.head.size() + sum.size() + frame.tail.size();
+QByteArray Joined(const QByteArray& head, std::vector<Band>& bands) {
+    const QByteArray tail = SumChunk(bands) + EndChunk();
+    qsizetype length = head.size() + tail.size();
     for (const Band& band : bands) {
         length += band.chunk.size();
     }
     QByteArray file;
     file.reserve(length);
-    file += frame.head;
+    file += head;
     for (Band& band : bands) {
         file += band.chunk;
         band.chunk = QByteArray();
     }
-    return file += sum + frame.tail;
+    return file += tail;
 }
 
 }  // namespace
 
-std::optional<QByteArray> EncodePng(const Bitmap* bitmap, BlockRunner& runner,
-                                    const WrittenMetadata& metadata) {
-    if (!IsPlainPhoto(bitmap)) {
-        return std::nullopt;
-    }
-    const BitmapHandle sample = MetadataSample(bitmap);
-    const EncodedBitmap file = LibraryFile(FIF_PNG, sample.get(), 0);
-    std::optional<PngFrame> frame = PngFrameOf(file.bytes, SizeOf(bitmap));
-    if (!file.reason.isEmpty() || !frame || !InsertParts(FIF_PNG, metadata, frame->head)) {
-        return std::nullopt;
+EncodedBitmap EncodePng(const Bitmap* bitmap, const OutputEncoding& /*encoding*/,
+                        const EncodeOptions& options) {
+    const WrittenMetadata metadata = MetadataForPng(*bitmap);
+    const PngHead head = PngHeadFor(*bitmap, metadata);
+    if (!head.error.isEmpty()) {
+        return {{}, head.error};
     }
     BandCoder coder(bitmap);
-    coder.Choose(runner);
+    coder.Choose(options);
     std::vector<Band> bands(static_cast<std::size_t>(coder.Bands()));
-    runner.Run(coder.Bands(), [&](int n) { bands[static_cast<std::size_t>(n)] = coder.Code(n); });
+    options.Run(coder.Bands(), [&](int n) { bands[static_cast<std::size_t>(n)] = coder.Code(n); });
     if (std::ranges::any_of(bands, [](const Band& band) { return band.chunk.isEmpty(); })) {
-        return std::nullopt;
+        return {{}, ReasonCode::CannotBeEncoded};
     }
-    return Joined(*frame, bands);
+    return {Joined(head.bytes, bands), {}, Joined(metadata.notes)};
 }
 
 }  // namespace varnel

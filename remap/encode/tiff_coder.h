@@ -4,21 +4,15 @@
 // TIFF files coded on all cores: LZW over the differences of neighbouring pixels, in strips.
 #pragma once
 
-#include <FreeImage.h>
-
-#include <QByteArray>
-#include <optional>
-
-#include "base/block_runner.h"
-#include "remap/encode/metadata_writer.h"
+#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/output_type.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
-// The file that the image library writes with TIFF_LZW, in larger strips: the same pixels, and
-// every other tag as it is there, besides the metadata given. Equal bytes whatever the runner. None
-// for a bitmap other than of 24 bits, for metadata that the library writes in a way unknown here,
-// and for a file of 4 GB or more. Throws std::bad_alloc.
-std::optional<QByteArray> EncodeTiffLzw(const Bitmap* bitmap, BlockRunner& runner,
-                                        const WrittenMetadata& metadata = {});
+// With resolution, colour profile and metadata; a bitmap of 24 bits. The directory is libtiff's.
+// Equal bytes whatever the runner. Throws std::bad_alloc.
+EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
+                         const EncodeOptions& options);
 
 }  // namespace varnel

@@ -30,6 +30,8 @@ class JpegErrors {
     std::jmp_buf& Back() { return back_; }
 
     bool IsOutOfMemory() const { return base_.msg_code == JERR_OUT_OF_MEMORY; }
+    // What the error was that ended the work, empty when there was none.
+    const char* Error() const { return error_.data(); }
     // The first warning, empty when there was none. libjpeg itself drops all further ones.
     const char* Warning() const { return warning_.data(); }
 
@@ -38,7 +40,10 @@ class JpegErrors {
     static JpegErrors& Whole(j_common_ptr info) {
         return *reinterpret_cast<JpegErrors*>(info->err);
     }
-    [[noreturn]] static void GoBack(j_common_ptr info) { std::longjmp(Whole(info).back_, 1); }
+    [[noreturn]] static void GoBack(j_common_ptr info) {
+        info->err->format_message(info, Whole(info).error_.data());
+        std::longjmp(Whole(info).back_, 1);
+    }
     static void Keep(j_common_ptr info) {
         auto& warning = Whole(info).warning_;
         if (warning[0] == '\0') {
@@ -48,6 +53,7 @@ class JpegErrors {
 
     jpeg_error_mgr base_{};
     std::jmp_buf back_{};
+    std::array<char, JMSG_LENGTH_MAX> error_{};
     std::array<char, JMSG_LENGTH_MAX> warning_{};
 };
 

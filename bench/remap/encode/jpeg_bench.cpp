@@ -39,7 +39,7 @@ void EncodeDirectly(benchmark::State& state) {
     ThreadRunner runner(static_cast<int>(state.range(1)));
     qsizetype bytes = 0;
     for (auto _ : state) {
-        bytes = EncodeJpeg(Rings(), quality, runner).value_or(QByteArray()).size();
+        bytes = EncodeJpeg(Rings(), {OutputType::Jpeg, quality}, {.runner = &runner}).bytes.size();
     }
     state.counters["bytes"] = static_cast<double>(bytes);
 }

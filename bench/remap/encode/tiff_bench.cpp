@@ -47,12 +47,8 @@ void Library(benchmark::State& state, const Bitmap* photo) {
 void Ours(benchmark::State& state, const Bitmap* photo) {
     ThreadRunner runner(static_cast<int>(state.range(0)));
     for (auto _ : state) {
-        const std::optional<QByteArray> file = EncodeTiffLzw(photo, runner);
-        if (!file) {
-            state.SkipWithError("not coded");
-            return;
-        }
-        state.counters["MB"] = static_cast<double>(file->size()) / 1e6;
+        const EncodedBitmap file = EncodeTiff(photo, OutputType::Tiff, {.runner = &runner});
+        state.counters["MB"] = static_cast<double>(file.bytes.size()) / 1e6;
     }
 }
 

@@ -36,15 +36,19 @@ std::vector<QByteArray> Segments(const QByteArray& file) {
     return segments;
 }
 
-void ExpectLikeTheLibrarys(const Bitmap* bitmap, int flags) {
+QByteArray ByLibrary(const Bitmap* bitmap, const OutputEncoding& encoding) {
+    const int chroma = encoding.chroma444 ? JPEG_SUBSAMPLING_444 : 0;
+    return LibraryFile(FIF_JPEG, bitmap, encoding.quality | chroma).bytes;
+}
+
+void ExpectLikeTheLibrarys(const Bitmap* bitmap, const OutputEncoding& encoding) {
     testing::ShuffledRunner runner(7);
-    const std::optional<QByteArray> file = EncodeJpeg(bitmap, flags, runner);
-    const QByteArray expected = LibraryFile(FIF_JPEG, bitmap, flags).bytes;
-    ASSERT_TRUE(file);
-    EXPECT_EQ(Segments(*file), Segments(expected));
-    EXPECT_LE(file->size(), expected.size() * 101 / 100);
+    const QByteArray file = EncodeJpeg(bitmap, encoding, {.runner = &runner}).bytes;
+    const QByteArray expected = ByLibrary(bitmap, encoding);
+    EXPECT_EQ(Segments(file), Segments(expected));
+    EXPECT_LE(file.size(), expected.size() * 101 / 100);
     const LibraryMessages messages;  // one comes for a marker that is not where it should be
-    const BitmapHandle picture = FromFile(FIF_JPEG, *file, JPEG_ACCURATE);
+    const BitmapHandle picture = FromFile(FIF_JPEG, file, JPEG_ACCURATE);
     ASSERT_TRUE(picture);
     EXPECT_TRUE(
         testing::SamePixels(picture.get(), FromFile(FIF_JPEG, expected, JPEG_ACCURATE).get()));
@@ -55,13 +59,14 @@ TEST(EncodeJpeg, WritesALargePictureInBandsLikeTheLibrary) {
     const struct {
         PixelSize size;
         int quality;
-    } rows[] = {{{1009, 1000}, 95}, {{1000, 1024}, 75},  {{8001, 129}, 0},
+    } rows[] = {{{1009, 1000}, 95}, {{1000, 1024}, 75},  {{8001, 129}, 75},
                 {{4000, 256}, 50},  {{1600, 1025}, 100}, {{9, 65500}, 90},
                 {{65500, 17}, 90},  {{2047, 1151}, 1},   {{1500, 900}, 30}};
     for (const auto& row : rows) {
         SCOPED_TRACE(::testing::Message() << row.size.width << " x " << row.size.height);
-        for (const int chroma : {0, JPEG_SUBSAMPLING_444}) {
-            ExpectLikeTheLibrarys(Grainy(row.size).get(), row.quality | chroma);
+        for (const bool chroma444 : {false, true}) {
+            ExpectLikeTheLibrarys(Grainy(row.size).get(),
+                                  {OutputType::Jpeg, row.quality, chroma444});
         }
     }
 }
@@ -69,12 +74,12 @@ TEST(EncodeJpeg, WritesALargePictureInBandsLikeTheLibrary) {
 TEST(EncodeJpeg, WritesASmallPictureByteForByteAsTheLibrary) {
     for (const PixelSize size : {PixelSize{1, 1}, {17, 33}, {16, 16}, {15, 127}, {33, 300}}) {
         const BitmapHandle bitmap = Grainy(size);
-        for (int quality = 0; quality <= 100; ++quality) {
-            for (const int flags : {quality, quality | JPEG_SUBSAMPLING_444}) {
-                SerialRunner runner;
-                EXPECT_EQ(EncodeJpeg(bitmap.get(), flags, runner),
-                          LibraryFile(FIF_JPEG, bitmap.get(), flags).bytes)
-                    << size.width << " x " << size.height << ", " << flags;
+        for (int quality = 1; quality <= 100; ++quality) {
+            for (const bool chroma444 : {false, true}) {
+                const OutputEncoding encoding(OutputType::Jpeg, quality, chroma444);
+                EXPECT_EQ(EncodeJpeg(bitmap.get(), encoding, {}).bytes,
+                          ByLibrary(bitmap.get(), encoding))
+                    << size.width << " x " << size.height << ", " << quality << ' ' << chroma444;
             }
         }
     }
@@ -87,9 +92,9 @@ TEST(EncodeJpeg, TakesEveryMetadataSegmentAlong) {
     ASSERT_FALSE(described->metadata.comments.isEmpty());
     large->metadata = described->metadata;
     large->metadata.dotsPerMetreY = 11811;
-    ExpectLikeTheLibrarys(large.get(), 85);
+    ExpectLikeTheLibrarys(large.get(), {OutputType::Jpeg, 85});
     large->metadata.colourProfile = QByteArray(200'000, 'p');  // four segments
-    ExpectLikeTheLibrarys(large.get(), 85);
+    ExpectLikeTheLibrarys(large.get(), {OutputType::Jpeg, 85});
 }
 
 TEST(EncodeJpeg, DoesNotDependOnTheRunner) {
@@ -97,20 +102,20 @@ TEST(EncodeJpeg, DoesNotDependOnTheRunner) {
     SerialRunner serial;
     ThreadRunner threads(3);
     testing::ShuffledRunner shuffled(3);
-    const std::optional<QByteArray> file = EncodeJpeg(bitmap.get(), 90, serial);
-    EXPECT_EQ(file, EncodeJpeg(bitmap.get(), 90, threads));
-    EXPECT_EQ(file, EncodeJpeg(bitmap.get(), 90, shuffled));
+    const auto file = [&](BlockRunner& runner) {
+        return EncodeJpeg(bitmap.get(), {OutputType::Jpeg, 90}, {.runner = &runner}).bytes;
+    };
+    EXPECT_EQ(file(serial), file(threads));
+    EXPECT_EQ(file(serial), file(shuffled));
 }
 
-TEST(EncodeJpeg, LeavesToTheLibraryWhatItDoesNotKnow) {
-    SerialRunner runner;
-    const BitmapHandle bitmap = NewBitmap({8, 8});
-    for (const int flags : {-1, 101, JPEG_QUALITYSUPERB, JPEG_PROGRESSIVE | 90,
-                            JPEG_SUBSAMPLING_422 | 90, JPEG_SUBSAMPLING_444 | 101}) {
-        EXPECT_FALSE(EncodeJpeg(bitmap.get(), flags, runner)) << flags;
+TEST(EncodeJpeg, SaysWhatLibjpegRefuses) {
+    for (const PixelSize size : {PixelSize{65501, 1}, {20, 65501}}) {
+        const BitmapHandle bitmap = NewBitmap(size);
+        const EncodedBitmap file = EncodeJpeg(bitmap.get(), OutputType::Jpeg, {});
+        EXPECT_TRUE(file.bytes.isEmpty());
+        EXPECT_EQ(file.reason, LibraryFile(FIF_JPEG, bitmap.get(), 90).reason);
     }
-    const BitmapHandle wide = NewBitmap({65501, 1});
-    EXPECT_FALSE(EncodeJpeg(wide.get(), 90, runner));
 }
 
 }  // namespace

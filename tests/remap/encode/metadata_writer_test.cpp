@@ -115,9 +115,10 @@ std::multimap<int, QByteArray> Segments(const QByteArray& file) {
 
 TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAJpegFile) {
     for (const Order order : orders) {
-        for (const int flags : {90, 90 | JPEG_SUBSAMPLING_444, 90 | JPEG_PROGRESSIVE}) {
+        for (const bool chroma444 : {false, true}) {
             const PhotoMetadata metadata = Metadata(order);
-            const EncodedBitmap file = EncodeAs(FIF_JPEG, Photo(metadata).get(), flags, {});
+            const EncodedBitmap file =
+                EncodeBitmap({OutputType::Jpeg, 90, chroma444}, Photo(metadata).get());
             EXPECT_TRUE(file.note.isEmpty());
             EXPECT_EQ(file.bytes.mid(2, 2), "\xff\xe0");
             const auto segments = Segments(file.bytes);
@@ -139,35 +140,31 @@ TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAJpegFile) {
 
 TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAPngFile) {
     for (const Order order : orders) {
-        for (const int flags : {PNG_DEFAULT, PNG_Z_BEST_SPEED}) {
-            const PhotoMetadata metadata = Metadata(order);
-            const BitmapHandle photo = Photo(metadata);
-            const EncodedBitmap file = EncodeAs(FIF_PNG, photo.get(), flags, {});
-            std::multimap<QByteArray, QByteArray> chunks;
-            for (qsizetype at = 8; at < file.bytes.size() && !chunks.contains("IDAT");) {
-                const QByteArray type = file.bytes.mid(at + 4, 4);
-                const auto length = NumberAt(file.bytes, at, 4, Order::Big);
-                const QByteArray data = file.bytes.mid(at + 8, length);
-                EXPECT_EQ(file.bytes.mid(at, length + 12),
-                          testing::PngChunk(type.constData(), data));
-                chunks.insert({type, data});
-                at += length + 12;
-            }
-            ASSERT_EQ(chunks.count("eXIf"), 1U);
-            ExpectNewExif(chunks.find("eXIf")->second, metadata, order);
-            EXPECT_EQ(chunks.count("iTXt"), 2U);  // the comment
-            EXPECT_TRUE(std::ranges::count(
-                chunks,
-                std::pair<const QByteArray, QByteArray>(
-                    "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packetWithSettings)));
-            ASSERT_EQ(chunks.count("zTXt"), 1U);
-            const QByteArray text = chunks.find("zTXt")->second;
-            EXPECT_TRUE(text.startsWith(QByteArray("Raw profile type iptc\0\0", 23)));
-            EXPECT_EQ(qUncompress(Number(1000, 4, Order::Big) + text.mid(23)),
-                      "\niptc\n      20\n3842494d04040000000000071c02050001542100\n");
-            EXPECT_TRUE(
-                testing::SamePixels(testing::FromFile(FIF_PNG, file.bytes).get(), photo.get()));
+        const PhotoMetadata metadata = Metadata(order);
+        const BitmapHandle photo = Photo(metadata);
+        const EncodedBitmap file = EncodeBitmap(OutputType::Png, photo.get());
+        std::multimap<QByteArray, QByteArray> chunks;
+        for (qsizetype at = 8; at < file.bytes.size() && !chunks.contains("IDAT");) {
+            const QByteArray type = file.bytes.mid(at + 4, 4);
+            const auto length = NumberAt(file.bytes, at, 4, Order::Big);
+            const QByteArray data = file.bytes.mid(at + 8, length);
+            EXPECT_EQ(file.bytes.mid(at, length + 12), testing::PngChunk(type.constData(), data));
+            chunks.insert({type, data});
+            at += length + 12;
         }
+        ASSERT_EQ(chunks.count("eXIf"), 1U);
+        ExpectNewExif(chunks.find("eXIf")->second, metadata, order);
+        EXPECT_EQ(chunks.count("iTXt"), 2U);  // the comment
+        EXPECT_TRUE(std::ranges::count(
+            chunks,
+            std::pair<const QByteArray, QByteArray>(
+                "iTXt", QByteArray("XML:com.adobe.xmp\0\0\0\0\0", 22) + packetWithSettings)));
+        ASSERT_EQ(chunks.count("zTXt"), 1U);
+        const QByteArray text = chunks.find("zTXt")->second;
+        EXPECT_TRUE(text.startsWith(QByteArray("Raw profile type iptc\0\0", 23)));
+        EXPECT_EQ(qUncompress(Number(1000, 4, Order::Big) + text.mid(23)),
+                  "\niptc\n      20\n3842494d04040000000000071c02050001542100\n");
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, file.bytes).get(), photo.get()));
     }
 }
 

@@ -13,7 +13,6 @@
 #include "base/thread_runner.h"
 #include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/png_filter.h"
-#include "remap/encode/png_frame.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seeds/file_bytes.h"
@@ -72,11 +71,9 @@ TEST(EncodePng, WritesThePixelsInSoundChunksWhateverTheRunner) {
     for (const auto& [size, pixelChunks] : cases) {
         SCOPED_TRACE(::testing::Message() << size.width << " x " << size.height);
         const BitmapHandle bitmap = Mixture(size);
-        SerialRunner serial;
-        const auto file = EncodePng(bitmap.get(), serial);
-        ASSERT_TRUE(file);
-        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, *file).get(), bitmap.get()));
-        const Parts parts = PartsOf(*file);
+        const QByteArray file = EncodePng(bitmap.get(), OutputType::Png, {}).bytes;
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, file).get(), bitmap.get()));
+        const Parts parts = PartsOf(file);
         EXPECT_TRUE(parts.sound);
         EXPECT_EQ(parts.pixelChunks, pixelChunks);
         Bytes filtered(static_cast<std::size_t>(size.height) * (1 + 3 * size.width));
@@ -89,8 +86,8 @@ TEST(EncodePng, WritesThePixelsInSoundChunksWhateverTheRunner) {
         EXPECT_EQ(length, filtered.size());
         testing::ShuffledRunner shuffled(3);
         ThreadRunner threads(3);
-        EXPECT_EQ(EncodePng(bitmap.get(), shuffled), file);
-        EXPECT_EQ(EncodePng(bitmap.get(), threads), file);
+        EXPECT_EQ(EncodePng(bitmap.get(), OutputType::Png, {.runner = &shuffled}).bytes, file);
+        EXPECT_EQ(EncodePng(bitmap.get(), OutputType::Png, {.runner = &threads}).bytes, file);
     }
 }
 
@@ -107,10 +104,8 @@ TEST(EncodePng, WritesTheOtherChunksAsTheLibraryDoes) {
         SCOPED_TRACE(word);
         const BitmapHandle bitmap = Mixture({70, 30});
         bitmap->metadata = metadata;
-        SerialRunner runner;
-        const auto file = EncodePng(bitmap.get(), runner);
-        ASSERT_TRUE(file);
-        const QByteArray others = PartsOf(*file).others;
+        const QByteArray file = EncodePng(bitmap.get(), OutputType::Png, {}).bytes;
+        const QByteArray others = PartsOf(file).others;
         EXPECT_TRUE(others.contains(word));
         EXPECT_EQ(others, PartsOf(LibraryFile(FIF_PNG, bitmap.get(), 0).bytes).others);
     }
@@ -131,57 +126,18 @@ TEST(EncodePng, GrowsTheFileByLessThanATenth) {
             return y < 250 ? black : PixelColor{noise(), noise(), noise(), 0};
         })};
     for (const BitmapHandle& photo : photos) {
-        SerialRunner runner;
-        const auto ours = static_cast<double>(EncodePng(photo.get(), runner).value().size());
+        const auto ours =
+            static_cast<double>(EncodePng(photo.get(), OutputType::Png, {}).bytes.size());
         EXPECT_LT(ours,
                   1.1 * static_cast<double>(LibraryFile(FIF_PNG, photo.get(), 0).bytes.size()));
     }
 }
 
-TEST(EncodePng, LeavesOtherBitmapsToTheLibrary) {
-    const BitmapHandle bitmaps[] = {BitmapHandle(),
-                                    NewBitmap({1'000'001, 1})};  // wider than libpng reads
-    for (const BitmapHandle& bitmap : bitmaps) {
-        SerialRunner runner;
-        EXPECT_FALSE(EncodePng(bitmap.get(), runner)) << &bitmap - bitmaps;
-    }
-}
-
-const QByteArray pngStart = "\x89PNG\r\n\x1a\n";
-
-QByteArray Header(const char* kind) {
-    return PngChunk("IHDR", QByteArray("\0\0\0\x08\0\0\0\x08", 8) + QByteArray(kind, 5));
-}
-
-TEST(PngFrame, IsNoneForAnythingUnexpected) {
-    const QByteArray header = Header("\x08\x02\0\0\0");
-    const QByteArray text = PngChunk("tEXt", "Comment");
-    const QByteArray pixels = PngChunk("IDAT", "12");
-    const QByteArray end = PngChunk("IEND", {});
-    const QByteArray sound = pngStart + header + text + pixels + pixels + text + end;
-    const auto frame = PngFrameOf(sound, {0x10203, 5});
-    ASSERT_TRUE(frame);
-    EXPECT_EQ(frame->tail, text + end);
-    EXPECT_EQ(frame->head,
-              pngStart + PngChunk("IHDR", QByteArray("\0\1\2\3\0\0\0\5\x08\x02\0\0\0", 13)) + text);
-    for (qsizetype length = 0; length < sound.size(); ++length) {
-        EXPECT_FALSE(PngFrameOf(sound.left(length), {5, 5})) << length;
-    }
-    const QByteArray others[] = {
-        sound + '\0',
-        pngStart + text + header + pixels + end,
-        pngStart + header + text + end,
-        pngStart + header + pixels + text + pixels + end,
-        pngStart + header + PngChunk("PLTE", "123") + pixels + end,
-        pngStart + header + header + pixels + end,
-        pngStart + Header("\x10\x02\0\0\0") + pixels + end,
-        pngStart + Header("\x08\x06\0\0\0") + pixels + end,
-        pngStart + Header("\x08\x02\0\0\1") + pixels + end,
-        pngStart + QByteArray("\xff\xff\xff\xf0IHDR", 8) + header + pixels + end,
-    };
-    for (const QByteArray& other : others) {
-        EXPECT_FALSE(PngFrameOf(other, {5, 5})) << other.toHex(' ').toStdString();
-    }
+TEST(EncodePng, SaysWhatLibpngRefuses) {
+    const BitmapHandle wide = NewBitmap({1'000'001, 1});
+    const EncodedBitmap file = EncodePng(wide.get(), OutputType::Png, {});
+    EXPECT_TRUE(file.bytes.isEmpty());
+    EXPECT_EQ(file.reason, LibraryFile(FIF_PNG, wide.get(), 0).reason);
 }
 
 // Pixels from red to blue, as they are thought of, to blue first, as they are stored.

@@ -13,10 +13,11 @@
 #include "base/thread_runner.h"
 #include "remap/encode/freeimage_encoder.h"
 #include "remap/encode/lzw_coder.h"
-#include "remap/encode/tiff_directory.h"
+#include "remap/image/ifd_reader.h"
 #include "remap/image/library_messages.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
+#include "tests/support/seeds/file_bytes.h"
 #include "tests/support/seeds/seed_files.h"
 
 namespace varnel {
@@ -39,18 +40,20 @@ Bytes Coded(LzwEncoder& encoder, const Bytes& first, const Bytes& second, Bytes*
 
 // By the library, as the one row of a grey picture.
 Bytes Decoded(const Bytes& codes, std::size_t length) {
-    const std::pair<int, std::size_t> tags[] = {{256, length}, {257, 1}, {258, 8},
-                                                {259, 5},      {262, 1}, {273, 8},
-                                                {277, 1},      {278, 1}, {279, codes.size()}};
-    TiffDirectory directory;
-    for (const auto& [tag, number] : tags) {
-        directory.fields.push_back({static_cast<std::uint16_t>(tag), 4, 1, {}});
-        directory.SetNumbers(static_cast<TiffTag>(tag),
-                             std::array{static_cast<std::uint32_t>(number)});
-    }
-    QByteArray file = TiffHeader() + QByteArray(reinterpret_cast<const char*>(codes.data()),
-                                                static_cast<qsizetype>(codes.size()));
-    SetDirectory(file, AppendDirectory(file, directory).value());
+    using enum testing::TiffType;
+    testing::TiffBytes tiff(testing::Order::Little);
+    const std::uint32_t place = tiff.Data(QByteArray(reinterpret_cast<const char*>(codes.data()),
+                                                     static_cast<qsizetype>(codes.size())));
+    const auto number = [](std::size_t n) { return static_cast<std::uint32_t>(n); };
+    const QByteArray file = tiff.Finish(tiff.Directory({{256, Long, {number(length)}},
+                                                        {257, Long, {1}},
+                                                        {258, Short, {8}},
+                                                        {259, Short, {5}},
+                                                        {262, Short, {1}},
+                                                        {273, Long, {place}},
+                                                        {277, Short, {1}},
+                                                        {278, Long, {1}},
+                                                        {279, Long, {number(codes.size())}}}));
     const BitmapHandle row = testing::FromFile(FIF_TIFF, file);
     Bytes decoded;
     for (std::size_t x = 0; row && x < row->ScanLine(0).size(); x += 3) {
@@ -140,15 +143,20 @@ TEST(LzwEncoder, WidensAndClearsWhereTiffHasIt) {
     }
 }
 
-// Every tag but where and how long the strips and the thumbnail are.
-std::vector<QByteArray> Tags(const TiffDirectory& directory) {
+// Every tag with type, number and values, but for where and how long the strips are.
+std::vector<QByteArray> Tags(const QByteArray& file) {
+    const IfdReader reader(file);
+    const Ifd directory = reader.Directory(reader.First());
+    EXPECT_TRUE(directory.isWhole);
+    EXPECT_EQ(directory.next, 0U);
+    EXPECT_EQ(reader.First() % 2, 0U);
     std::vector<QByteArray> tags;
-    for (const TiffField& field : directory.fields) {
-        const bool isPlace = std::ranges::count(std::array{273, 278, 279, 330}, field.tag) > 0;
-        tags.push_back(QByteArray::number(field.tag));
+    for (const IfdEntry& entry : directory.entries) {
+        const bool isPlace = std::ranges::count(std::array{273, 278, 279}, entry.tag) > 0;
+        tags.push_back(QByteArray::number(entry.tag));
         if (!isPlace) {
-            tags.back() += ' ' + QByteArray::number(field.type) + ' ' +
-                           QByteArray::number(field.count) + ' ' + field.value;
+            tags.back() += ' ' + QByteArray::number(entry.type) + ' ' +
+                           QByteArray::number(entry.count) + ' ' + reader.Bytes(entry, file.size());
         }
     }
     return tags;
@@ -156,28 +164,18 @@ std::vector<QByteArray> Tags(const TiffDirectory& directory) {
 
 void ExpectLikeTheLibrarys(const Bitmap* bitmap) {
     testing::ShuffledRunner runner(7);
-    const std::optional<QByteArray> file = EncodeTiffLzw(bitmap, runner);
+    const QByteArray file = EncodeTiff(bitmap, OutputType::Tiff, {.runner = &runner}).bytes;
     const QByteArray expected = LibraryFile(FIF_TIFF, bitmap, TIFF_LZW).bytes;
-    ASSERT_TRUE(file);
-    EXPECT_LE(file->size(), expected.size() * 103 / 100);
-    const auto directory = ReadTiff(*file);
-    const auto librarys = ReadTiff(expected);
-    ASSERT_TRUE(directory && librarys);
-    EXPECT_EQ(Tags(*directory), Tags(*librarys));
-    EXPECT_EQ(qFromLittleEndian<quint32>(file->constData() + 4) % 2, 0U);
-    ASSERT_EQ(directory->smaller.size(), librarys->smaller.size());
-    for (std::size_t n = 0; n < librarys->smaller.size(); ++n) {
-        EXPECT_EQ(Tags(directory->smaller[n]), Tags(librarys->smaller[n]));
-        EXPECT_EQ(directory->smaller[n].strips, librarys->smaller[n].strips);
-    }
+    EXPECT_LE(file.size(), expected.size() * 103 / 100);
+    EXPECT_EQ(Tags(file), Tags(expected));
     const LibraryMessages unheard;
-    const BitmapHandle picture = testing::FromFile(FIF_TIFF, *file);
+    const BitmapHandle picture = testing::FromFile(FIF_TIFF, file);
     ASSERT_TRUE(picture);
     EXPECT_EQ(SizeOf(picture.get()).width, SizeOf(bitmap).width);
     EXPECT_EQ(testing::PixelBytes(picture.get()), testing::PixelBytes(bitmap));
 }
 
-TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
+TEST(EncodeTiff, WritesPicturesOfAnySizeLikeTheLibrary) {
     for (const PixelSize size : {PixelSize{1, 1},
                                  {2, 3},
                                  {7, 1},
@@ -191,7 +189,7 @@ TEST(EncodeTiffLzw, WritesPicturesOfAnySizeLikeTheLibrary) {
     }
 }
 
-TEST(EncodeTiffLzw, TakesEveryTagAlong) {
+TEST(EncodeTiff, TakesEveryTagAlong) {
     const BitmapHandle photo = testing::In24Bits(testing::DescribedPicture().get());
     photo->metadata.dotsPerMetreX = 11811;
     photo->metadata.dotsPerMetreY = 5906;
@@ -201,44 +199,59 @@ TEST(EncodeTiffLzw, TakesEveryTagAlong) {
     ExpectLikeTheLibrarys(large.get());
 }
 
-TEST(EncodeTiffLzw, DoesNotDependOnTheRunner) {
+TEST(EncodeTiff, DoesNotDependOnTheRunner) {
     const BitmapHandle photo = testing::Grainy({1200, 1100});
     SerialRunner serial;
     ThreadRunner threads(3);
     testing::ShuffledRunner shuffled(3);
-    const std::optional<QByteArray> file = EncodeTiffLzw(photo.get(), serial);
-    EXPECT_EQ(file, EncodeTiffLzw(photo.get(), threads));
-    EXPECT_EQ(file, EncodeTiffLzw(photo.get(), shuffled));
+    const auto file = [&](BlockRunner& runner) {
+        return EncodeTiff(photo.get(), OutputType::Tiff, {.runner = &runner}).bytes;
+    };
+    EXPECT_EQ(file(serial), file(threads));
+    EXPECT_EQ(file(serial), file(shuffled));
 }
 
-TEST(ReadTiff, TakesNoFileThatIsCutOrPointsElsewhere) {
-    const QByteArray file =
-        LibraryFile(FIF_TIFF, testing::DescribedPicture().get(), TIFF_LZW).bytes;
-    ASSERT_TRUE(ReadTiff(file));
-    for (qsizetype length = 0; length < file.size() - 1; length += length < 300 ? 1 : 7) {
-        EXPECT_FALSE(ReadTiff(file.first(length))) << length;
+// The photo's own entries keep values that libtiff would change: a fraction that is not reduced, a
+// text with a zero byte inside, a type of its own. Those that point elsewhere are left out.
+TEST(EncodeTiff, TakesThePhotosEntriesAsTheyAre) {
+    using enum testing::TiffType;
+    for (const testing::Order order : {testing::Order::Little, testing::Order::Big}) {
+        testing::TiffBytes tiff(order);
+        const std::uint32_t first = tiff.Directory({{256, Short, {9}},
+                                                    {282, Fraction, {600, 2}},
+                                                    {33432, Text, {}, QByteArray("one\0two", 8)},
+                                                    {65000, Long, {7}}});
+        const BitmapHandle photo = testing::Grainy({40, 30});
+        PhotoMetadata& metadata = photo->metadata.photo;
+        metadata.exif.bytes = tiff.Finish(first);
+        metadata.tiffEntries = metadata.exif.bytes.mid(first + 2, 4 * 12);
+        const QByteArray astray = QByteArray(metadata.tiffEntries.sliced(24, 12));
+        metadata.tiffEntries += QByteArray(astray).replace(8, 4, QByteArray(4, '\x7f'));
+        metadata.tiffEntries[4 * 12] = metadata.tiffEntries[4 * 12 + 1] = '\x7d';
+        const QByteArray file = EncodeTiff(photo.get(), OutputType::Tiff, {}).bytes;
+        const IfdReader reader(file);
+        EXPECT_EQ(reader.IsBigEndian(), order == testing::Order::Big);
+        const Ifd directory = reader.Directory(reader.First());
+        EXPECT_TRUE(std::ranges::is_sorted(directory.entries, {}, &IfdEntry::tag));
+        EXPECT_EQ(reader.Number(directory.Find(256)), 40U);
+        EXPECT_EQ(reader.Number(directory.Find(65000)), 7U);
+        ASSERT_NE(directory.Find(33432), nullptr);
+        EXPECT_EQ(reader.Bytes(*directory.Find(33432), 99), QByteArray("one\0two", 8));
+        const QByteArray fraction = reader.Bytes(*directory.Find(282), 8);
+        EXPECT_EQ(fraction, testing::Number(600, 4, order) + testing::Number(2, 4, order));
+        EXPECT_EQ(directory.Find(0x7d7d), nullptr);
+        const LibraryMessages unheard;
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_TIFF, file).get(), photo.get()));
     }
-    int read = 0;
-    for (qsizetype place = 0; place < file.size(); ++place) {
-        QByteArray damaged = file;
-        damaged[place] = static_cast<char>(damaged[place] ^ (1 << place % 8));
-        if (std::optional<TiffDirectory> directory = ReadTiff(damaged)) {
-            QByteArray again = TiffHeader();
-            read += AppendDirectory(again, std::move(*directory)) ? 1 : 0;
-        }
-    }
-    EXPECT_GT(read, 0);
-    constexpr std::pair<std::uint16_t, bool> more[] = {
-        {65000, true}, {322, false}, {324, false}, {34665, false}, {34853, false}};
-    for (const auto& [tag, isKnown] : more) {
-        TiffDirectory directory = *ReadTiff(file);
-        directory.fields.push_back({tag, 4, 1, QByteArray(4, '\0')});
-        std::ranges::sort(directory.fields, {}, &TiffField::tag);
-        directory.SetNumbers(TiffTag::StripOffsets, std::array{8U});
-        directory.SetNumbers(TiffTag::StripByteCounts, std::array{1U});
-        QByteArray again = TiffHeader();
-        SetDirectory(again, AppendDirectory(again, directory).value());
-        EXPECT_EQ(ReadTiff(again).has_value(), isKnown) << tag;
+}
+
+TEST(EncodeTiff, RefusesAFileThatIsTooLarge) {
+    const BitmapHandle photo = testing::Grainy({400, 300});
+    const qint64 whole = EncodeTiff(photo.get(), OutputType::Tiff, {}).bytes.size();
+    for (const qint64 largest : {qint64{0}, qint64{7}, whole / 2, whole - 1}) {
+        const EncodedBitmap file = EncodeTiff(photo.get(), OutputType::Tiff, {.largest = largest});
+        EXPECT_TRUE(file.bytes.isEmpty());
+        EXPECT_EQ(file.reason, Reason(ReasonCode::FileTooLarge, largest));
     }
 }
 

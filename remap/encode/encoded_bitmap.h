@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What encoders are given beside a bitmap, and what they answer.
+#pragma once
+
+#include <QByteArray>
+#include <functional>
+
+#include "base/block_runner.h"
+#include "base/reason.h"
+
+namespace varnel {
+
+// BMP and TIFF count the bytes of a file in 32 bits.
+inline constexpr qint64 largestFile = 0xFFFFFFFF;
+
+struct EncodeOptions {
+    BlockRunner* runner = nullptr;  // none: on the caller's thread alone
+    qint64 largest = largestFile;   // bytes
+
+    void Run(int blocks, const std::function<void(int)>& block) const {
+        SerialRunner serial;
+        (runner != nullptr ? *runner : serial).Run(blocks, block);
+    }
+};
+
+// No bytes and the reason when it could not be done.
+struct EncodedBitmap {
+    QByteArray bytes;
+    Reason reason;
+    Reason note = {};  // what the file is without, and why; empty when it has everything
+};
+
+}  // namespace varnel

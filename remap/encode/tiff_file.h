@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A TIFF file as libtiff writes it, in memory. Its strips come coded: libtiff's own LZW works on
+// one core, and so does everything that goes through its scan lines.
+#pragma once
+
+#include <tiffio.h>
+
+#include <map>
+#include <memory>
+#include <span>
+
+#include "remap/encode/memory_file.h"
+#include "remap/encode/metadata_writer.h"
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+class TiffFile {
+  public:
+    using Entries = std::map<std::uint16_t, QByteArray>;  // of a directory, by tag
+
+    // For a bitmap of 24 bits in strips of LZW over differences. The file begins with the EXIF
+    // block, so that places in it hold. expected is the likely number of bytes of the pixels.
+    // Throws std::bad_alloc.
+    TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest);
+
+    // What the file has beside its strips. To be called first; false as of all others when it
+    // failed.
+    bool Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip);
+    // The next strip.
+    bool Append(std::span<const std::uint8_t> strip);
+    // Writes the directory. Throws std::bad_alloc.
+    bool Finish();
+
+    const Reason& Error() const { return file_.Error(); }
+    QByteArray& Bytes() { return file_.Bytes(); }
+
+  private:
+    bool SetBlock(std::uint32_t tag, const QByteArray& block);
+    QByteArray PhotoshopBlock() const;
+    bool AppendEven(const QByteArray& bytes, quint32& place);
+    bool AppendIptc(Entries& entries);
+
+    struct Closer {
+        void operator()(TIFF* tiff) const { TIFFClose(tiff); }
+    };
+
+    const WrittenMetadata& metadata_;
+    MemoryFile file_;
+    std::unique_ptr<TIFF, Closer> tiff_;
+    std::uint32_t strips_ = 0;
+};
+
+}  // namespace varnel

@@ -4,7 +4,7 @@
 // Turning a bitmap into the bytes of a file, in memory.
 #pragma once
 
-#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 

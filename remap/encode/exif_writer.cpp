@@ -6,7 +6,7 @@
 #include <QtEndian>
 #include <algorithm>
 
-#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/coders/jpeg_coder.h"
 #include "remap/encode/thumbnail.h"
 
 namespace varnel {

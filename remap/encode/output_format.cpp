@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <array>
 
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/jpeg_coder.h"
-#include "remap/encode/png_coder.h"
-#include "remap/encode/tiff_coder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/jpeg_coder.h"
+#include "remap/encode/coders/png_coder.h"
+#include "remap/encode/coders/tiff_coder.h"
 
 namespace varnel {
 

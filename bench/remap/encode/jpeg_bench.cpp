@@ -12,8 +12,8 @@
 #include "bench/pictures.h"
 #include "decoder/formats/jpeg_pixels.h"
 #include "decoder/formats/picture_file.h"
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/jpeg_coder.h"
 
 namespace varnel {
 namespace {

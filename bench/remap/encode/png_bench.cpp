@@ -13,8 +13,8 @@
 #include <vector>
 
 #include "base/thread_runner.h"
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/png_coder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/png_coder.h"
 #include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {

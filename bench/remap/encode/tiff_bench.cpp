@@ -11,8 +11,8 @@
 #include <string>
 
 #include "base/thread_runner.h"
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/tiff_coder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/tiff_coder.h"
 #include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "base/error_text.h"
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/profiles.h"

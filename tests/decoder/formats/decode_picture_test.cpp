@@ -14,7 +14,7 @@
 
 #include "base/error_text.h"
 #include "decoder/formats/truncation.h"
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/bomb_files.h"

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "base/error_text.h"
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/image/exif_orientation.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"

@@ -10,8 +10,8 @@
 
 #include "base/error_text.h"
 #include "base/thread_runner.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/encode/encode_bitmap.h"
-#include "remap/encode/freeimage_encoder.h"
 #include "remap/image/photo_metadata.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/contents.h"

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/file_bytes.h"
 #include "tests/support/seeds/jpeg_files.h"

@@ -4,7 +4,7 @@
 // Writing PNG on all cores.
 #pragma once
 
-#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 

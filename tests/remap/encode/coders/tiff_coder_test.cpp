@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/tiff_coder.h"
+#include "remap/encode/coders/tiff_coder.h"
 
 #include <gtest/gtest.h>
 #include <QtEndian>
@@ -11,8 +11,8 @@
 #include <random>
 
 #include "base/thread_runner.h"
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/lzw_coder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/lzw_coder.h"
 #include "remap/image/ifd_reader.h"
 #include "remap/image/library_messages.h"
 #include "tests/support/bitmaps.h"

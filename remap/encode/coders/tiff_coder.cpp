@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/tiff_coder.h"
+#include "remap/encode/coders/tiff_coder.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "remap/encode/lzw_coder.h"
-#include "remap/encode/tiff_file.h"
+#include "remap/encode/coders/lzw_coder.h"
+#include "remap/encode/coders/tiff_file.h"
 #include "remap/image/library_messages.h"
 
 namespace varnel {

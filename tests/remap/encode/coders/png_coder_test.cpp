@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/png_coder.h"
+#include "remap/encode/coders/png_coder.h"
 
 #include <gtest/gtest.h>
 #include <zlib.h>
@@ -11,8 +11,8 @@
 #include <random>
 
 #include "base/thread_runner.h"
-#include "remap/encode/freeimage_encoder.h"
-#include "remap/encode/png_filter.h"
+#include "remap/encode/coders/freeimage_encoder.h"
+#include "remap/encode/coders/png_filter.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seeds/file_bytes.h"

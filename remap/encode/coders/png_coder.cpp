@@ -5,7 +5,7 @@
 // and summed without its neighbours, so that joining them is appending. Looking back into the band
 // before would save a thousandth of the file.
 
-#include "remap/encode/png_coder.h"
+#include "remap/encode/coders/png_coder.h"
 
 #include <zlib.h>
 #include <QtEndian>
@@ -15,8 +15,8 @@
 #include <utility>
 #include <vector>
 
-#include "remap/encode/png_filter.h"
-#include "remap/encode/png_head.h"
+#include "remap/encode/coders/png_filter.h"
+#include "remap/encode/coders/png_head.h"
 
 namespace varnel {
 

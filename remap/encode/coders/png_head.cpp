@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/png_head.h"
+#include "remap/encode/coders/png_head.h"
 
 #include <png.h>
 #include <zlib.h>
@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
-#include "remap/encode/encoded_bitmap.h"
-#include "remap/encode/memory_file.h"
+#include "remap/encode/coders/encoded_bitmap.h"
+#include "remap/encode/coders/memory_file.h"
 
 namespace varnel {
 

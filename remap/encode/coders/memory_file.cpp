@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/memory_file.h"
+#include "remap/encode/coders/memory_file.h"
 
 #include <algorithm>
 #include <cstdio>

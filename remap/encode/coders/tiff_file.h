@@ -11,7 +11,7 @@
 #include <memory>
 #include <span>
 
-#include "remap/encode/memory_file.h"
+#include "remap/encode/coders/memory_file.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/image/bitmap.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/coders/jpeg_coder.h"
 
 #include <QtEndian>
 #include <algorithm>

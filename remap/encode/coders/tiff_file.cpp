@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/tiff_file.h"
+#include "remap/encode/coders/tiff_file.h"
 
 #include <QtEndian>
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/jpeg_coder.h"
+#include "remap/encode/coders/jpeg_coder.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "base/thread_runner.h"
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/image/library_messages.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"

@@ -6,7 +6,7 @@
 
 #include <FreeImage.h>
 
-#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 

@@ -3,7 +3,7 @@
 
 // The loops here are written for the compiler to vectorise: built with -O3.
 
-#include "remap/encode/png_filter.h"
+#include "remap/encode/coders/png_filter.h"
 
 #include <algorithm>
 #include <cstdlib>

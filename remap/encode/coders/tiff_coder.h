@@ -4,7 +4,7 @@
 // TIFF files coded on all cores: LZW over the differences of neighbouring pixels, in strips.
 #pragma once
 
-#include "remap/encode/encoded_bitmap.h"
+#include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/freeimage_encoder.h"
+#include "remap/encode/coders/freeimage_encoder.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -11,7 +11,7 @@
 #include <new>
 #include <utility>
 
-#include "remap/encode/memory_file.h"
+#include "remap/encode/coders/memory_file.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/image/freeimage_bitmap.h"
 #include "remap/image/library_messages.h"

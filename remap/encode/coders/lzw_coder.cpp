@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/lzw_coder.h"
+#include "remap/encode/coders/lzw_coder.h"
 
 #include <QtEndian>
 #include <algorithm>

@@ -8,7 +8,7 @@
 
 #include "base/rounding.h"
 #include "remap/projection/last_writer.h"
-#include "remap/render/engine/rotated_engine.h"
+#include "remap/render/engine/smooth_engine.h"
 
 namespace varnel {
 

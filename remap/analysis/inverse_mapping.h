@@ -10,9 +10,9 @@
 #include <variant>
 #include <vector>
 
-#include "remap/projection/horizon_map.h"
+#include "remap/projection/maps/horizon_map.h"
 #include "remap/projection/record_maps.h"
-#include "remap/projection/varnel_map.h"
+#include "remap/projection/maps/varnel_map.h"
 
 namespace varnel {
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/line_range.h"
-#include "remap/projection/horizon_map.h"
+#include "remap/projection/maps/horizon_map.h"
 
 namespace varnel {
 

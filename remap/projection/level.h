@@ -9,7 +9,7 @@
 #include <optional>
 #include <span>
 
-#include "remap/projection/rectilinear_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
 
 namespace varnel {
 

@@ -4,9 +4,9 @@
 // From an image record and the size of its bitmap to what the maps are made from.
 #pragma once
 
-#include "remap/projection/equidistance_map.h"
+#include "remap/projection/maps/equidistance_map.h"
 #include "remap/projection/image_circle_geometry.h"
-#include "remap/projection/rectilinear_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
 #include "state/records/image_record.h"
 
 namespace varnel {

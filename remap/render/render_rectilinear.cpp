@@ -4,7 +4,7 @@
 #include "base/rounding.h"
 #include "remap/projection/record_maps.h"
 #include "remap/render/engine/fourfold_engine.h"
-#include "remap/render/engine/rotated_engine.h"
+#include "remap/render/engine/smooth_engine.h"
 #include "remap/render/engine/smooth_maps.h"
 
 namespace varnel {

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "remap/projection/rectilinear_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
 
 namespace varnel::bench {
 

@@ -7,9 +7,9 @@
 
 #include <limits>
 
-#include "remap/projection/equidistance_map.h"
-#include "remap/projection/rectilinear_map.h"
-#include "remap/render/engine/radial_table.h"
+#include "remap/projection/maps/equidistance_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
+#include "remap/projection/maps/radial_table.h"
 #include "remap/render/engine/span_kernels.h"
 
 namespace varnel {

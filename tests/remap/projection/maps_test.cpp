@@ -11,10 +11,10 @@
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "base/run_time_error.h"
-#include "remap/projection/equidistance_map.h"
-#include "remap/projection/horizon_map.h"
-#include "remap/projection/rectilinear_map.h"
-#include "remap/projection/varnel_map.h"
+#include "remap/projection/maps/equidistance_map.h"
+#include "remap/projection/maps/horizon_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
+#include "remap/projection/maps/varnel_map.h"
 
 namespace varnel {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/render/engine/radial_table.h"
+#include "remap/projection/maps/radial_table.h"
 
 namespace varnel {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/render/engine/rotated_engine.h"
+#include "remap/render/engine/smooth_engine.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/projection/rectilinear_map.h"
+#include "remap/projection/maps/rectilinear_map.h"
 
 #include <cmath>
 

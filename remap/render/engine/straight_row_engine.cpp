@@ -6,7 +6,7 @@
 #include <cstring>
 
 #include "remap/projection/record_maps.h"
-#include "remap/projection/varnel_map.h"
+#include "remap/projection/maps/varnel_map.h"
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/control_points.h"
 #include "remap/render/row_renderer.h"

@@ -3,7 +3,7 @@
 
 #include "remap/render/reference/render.h"
 
-#include "remap/projection/horizon_map.h"
+#include "remap/projection/maps/horizon_map.h"
 
 #include <cmath>
 

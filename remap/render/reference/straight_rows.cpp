@@ -8,7 +8,7 @@
 #include "base/rounding.h"
 #include "remap/image/sampling.h"
 #include "remap/projection/record_maps.h"
-#include "remap/projection/varnel_map.h"
+#include "remap/projection/maps/varnel_map.h"
 #include "remap/render/reference/blank.h"
 #include "remap/render/render_session.h"
 

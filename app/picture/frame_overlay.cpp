@@ -54,7 +54,7 @@ void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize pi
     for (const SourceCurve& curve : study->border) {
         QPolygonF line;
         for (const SourcePosition& place : curve) {
-            line.append(toWidget.map(PointOf(place, study->places.Size())));
+            line.append(toWidget.map(PointOf(place, study->places.SourceSize())));
         }
         for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 3.5), QPen(frameYellow, 1.8)}) {
             painter.setPen(pen);
@@ -73,7 +73,7 @@ void FrameOverlay::PaintLoss(QPainter& painter, const QTransform& toWidget,
     }
     // The last cells may reach beyond the picture's right and top edge.
     const SourceCoverage& kept = study.kept;
-    const double height = study.places.Size().height;
+    const double height = study.places.SourceSize().height;
     const QRectF cells(0.0, height - kept.rows * kept.cell, kept.columns * kept.cell,
                        kept.rows * kept.cell);
     painter.drawImage(toWidget.mapRect(cells), LossImage(kept));
@@ -87,7 +87,7 @@ void FrameOverlay::PaintHandles(QPainter& painter, const QTransform& toWidget,
         const auto place = PlaceOf(handle, study.places);
         if (place && study.places.InPicture(*place)) {
             QRectF square(0.0, 0.0, handleSize, handleSize);
-            square.moveCenter(toWidget.map(PointOf(*place, study.places.Size())));
+            square.moveCenter(toWidget.map(PointOf(*place, study.places.SourceSize())));
             painter.drawRect(square);
         }
     }
@@ -102,7 +102,7 @@ std::optional<FramePoint> FrameOverlay::HandleAt(const OverlayGeometry& study,
         if (!place || !study.places.InPicture(*place)) {
             continue;
         }
-        const QPointF way = PointOf(*place, study.places.Size()) - input.point;
+        const QPointF way = PointOf(*place, study.places.SourceSize()) - input.point;
         if (const double distance = std::hypot(way.x(), way.y()); distance <= least) {
             least = distance;
             nearest = handle;
@@ -113,7 +113,7 @@ std::optional<FramePoint> FrameOverlay::HandleAt(const OverlayGeometry& study,
 
 bool FrameOverlay::Inside(const OverlayGeometry& study, const OverlayInput& input) const {
     return FrameTurns(Steered()) &&
-           study.kept.Keeps(PlaceAtPoint(input.point, study.places.Size()));
+           study.kept.Keeps(PlaceAtPoint(input.point, study.places.SourceSize()));
 }
 
 bool FrameOverlay::Press(const OverlayInput& input) {
@@ -129,7 +129,7 @@ bool FrameOverlay::Press(const OverlayInput& input) {
     if (!place) {
         return false;
     }
-    drag_ = Drag{handle, *place, PlaceAtPoint(input.point, study->places.Size()),
+    drag_ = Drag{handle, *place, PlaceAtPoint(input.point, study->places.SourceSize()),
                  port_.Setting().controls};
     return true;
 }

@@ -29,7 +29,7 @@ std::optional<QPainterPath> LossPath(const InverseMapping& places,
     if (!outline) {
         return std::nullopt;
     }
-    const PixelSize size = places.Size();
+    const PixelSize size = places.SourceSize();
     QPainterPath photo;
     photo.addRect(0.0, 0.0, size.width, size.height);
     if (const auto& circle = places.Circle()) {

@@ -59,7 +59,7 @@ bool Convert(const char* name, Bitmaps& bitmaps, Spent& spent) {
     const double decoded = Now();
     RenderContext context{bitmaps};
     SilentProgress silent;
-    RenderRectilinear(FisheyeRecord(), SizeKind::Large, silent, context);
+    Render(Projection::Rectilinear, FisheyeRecord(), SizeKind::Large, silent, context);
     const double remapped = Now();
     const bool encoded =
         !EncodeBitmap({OutputType::Jpeg, 95}, bitmaps.ResultBitmap.get()).bytes.isEmpty();

@@ -12,7 +12,7 @@ namespace {
 
 // A read there takes nothing from beside the photo, or from outside its circle.
 bool Clean(const InverseMapping& places, const std::optional<SourcePosition>& place) {
-    const PixelSize size = places.Size();
+    const PixelSize size = places.SourceSize();
     return place && place->x >= 0.0 && place->x <= size.width - 1.0 && place->y >= 0.0 &&
            place->y <= size.height - 1.0 && places.InCircle(*place);
 }

@@ -6,13 +6,12 @@
 // from the bottom row.
 #pragma once
 
+#include <memory>
 #include <optional>
-#include <variant>
 #include <vector>
 
-#include "remap/projection/maps/horizon_map.h"
+#include "remap/projection/projection_map.h"
 #include "remap/projection/record_maps.h"
-#include "remap/projection/maps/varnel_map.h"
 
 namespace varnel {
 
@@ -33,8 +32,10 @@ std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize siz
 
 class InverseMapping {
   public:
-    // The record's own Projection is not looked at. Throws as the conversion does.
-    InverseMapping(Projection projection, const ImageRecord& image, PixelSize size);
+    // The record's own Projection is not looked at; without a wish the result is as large as the
+    // photo. Throws as the conversion does.
+    InverseMapping(Projection projection, const ImageRecord& image, PixelSize size,
+                   const OutputWish& wish = {});
 
     // Nothing where the result is black or not written and where the position is off the photo.
     std::optional<SourcePosition> At(int column, int row) const;
@@ -52,31 +53,18 @@ class InverseMapping {
     // every other one out.
     const std::vector<int>& Columns() const { return columns_; }
     const std::vector<int>& Rows() const { return rows_; }
-    PixelSize Size() const { return size_; }
+    PixelSize SourceSize() const { return sourceSize_; }
+    PixelSize ResultSize() const { return resultSize_; }
     // Whether the photo's middle is a whole row of the result, around which the rest is unrolled.
-    bool IsUnrolled() const { return std::holds_alternative<HorizonMap>(map_); }
+    bool IsUnrolled() const { return map_->AsCircleRows() != nullptr; }
 
   private:
-    enum class Line { Untouched, Black, Shown };
-    struct Loop {
-        Line line = Line::Untouched;
-        int position = 0;  // what the map is asked for
-    };
-
-    void LayOutQuarters();
-    void LayOutMoved();
-    void LayOutCircle(const ImageCircleGeometry& circle);
-    void LayOutHorizon();
-    SourceOffset OffsetAt(int x, int y) const;
-
-    PixelSize size_;
+    PixelSize sourceSize_;
+    PixelSize resultSize_;
     SourcePosition centre_;
     std::optional<PhotoCircle> circle_;
-    CentreAndExtents extents_;  // of the projections that do not go by circles
-    std::variant<std::monostate, RectilinearMap, RotatedRectilinearMap, EquidistanceMap, VarnelMap,
-                 HorizonMap>
-        map_;
-    std::vector<Loop> columnLoops_, rowLoops_;
+    std::unique_ptr<ProjectionMap> map_;
+    ResultLines lines_;
     std::vector<int> columns_, rows_;
 };
 

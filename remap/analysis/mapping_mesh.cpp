@@ -38,7 +38,7 @@ MappingMesh::MappingMesh(const InverseMapping& places, int columns) : places_(&p
     if (places.Columns().empty() || places.Rows().empty()) {
         return;
     }
-    const PixelSize size = places.Size();
+    const PixelSize size = places.ResultSize();
     columns_ = Spread(places.Columns(), columns);
     rows_ = Spread(places.Rows(), std::max(columns * size.height / std::max(size.width, 1), 16));
     net_.reserve(columns_.size() * rows_.size());

@@ -37,7 +37,7 @@ class BorderWalk {
     BorderWalk(const InverseMapping& places, int steps)
         : places_(places),
           steps_(std::max(steps, 1)),
-          jump_(std::max(places.Size().width, places.Size().height) / 8.0) {}
+          jump_(std::max(places.SourceSize().width, places.SourceSize().height) / 8.0) {}
 
     // Along columns or rows at the indices from to to of the lines that show the photo.
     template <class PixelAt>
@@ -172,9 +172,9 @@ std::vector<SourceCurve> BorderCurves(const InverseMapping& places, int pointsPe
     const std::vector<int>& columns = places.Columns();
     const std::vector<int>& rows = places.Rows();
     const auto left = BorderLine(columns, 0);
-    const auto right = BorderLine(columns, places.Size().width - 1);
+    const auto right = BorderLine(columns, places.ResultSize().width - 1);
     const auto bottom = BorderLine(rows, 0);
-    const auto top = BorderLine(rows, places.Size().height - 1);
+    const auto top = BorderLine(rows, places.ResultSize().height - 1);
     const auto lastColumn = static_cast<std::int64_t>(columns.size()) - 1;
     const auto lastRow = static_cast<std::int64_t>(rows.size()) - 1;
     BorderWalk walk(places, pointsPerSide);
@@ -205,7 +205,7 @@ namespace {
 std::optional<SourceCurve> ClosedLoop(const InverseMapping& places, int pointsPerSide) {
     const std::vector<int>& columns = places.Columns();
     const std::vector<int>& rows = places.Rows();
-    const PixelSize size = places.Size();
+    const PixelSize size = places.ResultSize();
     if (!BorderLine(columns, 0) || !BorderLine(columns, size.width - 1) || !BorderLine(rows, 0) ||
         !BorderLine(rows, size.height - 1)) {
         return std::nullopt;
@@ -293,7 +293,7 @@ bool SourceCoverage::Keeps(const SourcePosition& place) const {
 }
 
 SourceCoverage MeasureCoverage(const MappingMesh& grid, int columns) {
-    const PixelSize size = grid.Places().Size();
+    const PixelSize size = grid.Places().SourceSize();
     SourceCoverage area;
     area.cell = static_cast<double>(std::max(size.width, size.height)) / columns;
     area.columns = static_cast<int>(std::ceil(size.width / area.cell));

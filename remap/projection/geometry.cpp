@@ -76,16 +76,19 @@ void CheckShift(const CentreShift& shift) {
 }
 
 CentreAndExtents ImageCentre(PixelSize source, float offsetX, float offsetY) {
-    const CentreShift shift = ShiftInPixels(source, offsetX, offsetY);
+    return ImageCentre(source, ShiftInPixels(source, offsetX, offsetY));
+}
+
+CentreAndExtents ImageCentre(PixelSize size, const CentreShift& shift) {
     CheckShift(shift);
-    const std::int32_t halfWidth = source.width / 2;
-    const std::int32_t halfHeight = source.height / 2;
+    const std::int32_t halfWidth = size.width / 2;
+    const std::int32_t halfHeight = size.height / 2;
     return {CLng(shift.x + halfWidth, "OfsetX"),
             CLng(shift.y + halfHeight, "OfsetY"),
             CLng(std::fabs(shift.x) + halfWidth, "OfsetX"),
-            CLng(std::fabs(shift.x) + (source.width - halfWidth), "OfsetX"),
+            CLng(std::fabs(shift.x) + (size.width - halfWidth), "OfsetX"),
             CLng(std::fabs(shift.y) + halfHeight, "OfsetY"),
-            CLng(std::fabs(shift.y) + (source.height - halfHeight), "OfsetY")};
+            CLng(std::fabs(shift.y) + (size.height - halfHeight), "OfsetY")};
 }
 
 Rotation RotationAngles(float xDegrees, float yDegrees, float zDegrees, float effectPercent) {

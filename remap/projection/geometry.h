@@ -100,6 +100,7 @@ CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY);
 void CheckShift(const CentreShift& shift);
 
 // Throws as CheckShift.
+CentreAndExtents ImageCentre(PixelSize size, const CentreShift& shift);
 CentreAndExtents ImageCentre(PixelSize source, float offsetX, float offsetY);
 
 // Tilt and pan are scaled by the effect (percent), the roll is not. Arguments in degrees.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Which radius of the Horizon projection an output row shows in the end: its loops write some rows
+// Which radius of unrolled circles an output row shows in the end: its loops write some rows
 // several times.
 #pragma once
 
@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/line_range.h"
-#include "remap/projection/maps/horizon_map.h"
+#include "remap/projection/circle_rows.h"
 
 namespace varnel {
 
@@ -18,16 +18,16 @@ namespace varnel {
 // or beyond the circle black on both sides again.
 class LastWriters {
   public:
-    LastWriters(const HorizonMap& map, std::int32_t height)
+    LastWriters(const CircleRows& map, std::int32_t height)
         : owners_(static_cast<std::size_t>(height), nobody) {
-        const ImageCircleGeometry& rows = map.Rows();
-        const LineRange shown = OnPicture(rows.centreY, height, rows.lastRow);
+        const std::int32_t centre = map.Circle().outputCentre.y;
+        const LineRange shown = OnPicture(centre, height, map.Circle().lastRow);
         for (int r = std::max(shown.first, 1); r <= shown.last; ++r) {
-            Blacken(rows.centreY, r);
+            Blacken(centre, r);
         }
-        for (int r = map.FirstRadius(); r <= rows.lastRow; ++r) {
+        for (int r = map.Radii().first; r <= map.Radii().last; ++r) {
             if (map.Blank(r)) {
-                Blacken(rows.centreY, r);
+                Blacken(centre, r);
             } else {
                 Take(map.OutputRow(r), r);
             }

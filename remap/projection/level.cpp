@@ -170,7 +170,7 @@ double Distance(const LevelTurn& one, const LevelTurn& other) {
 std::optional<Ray> SourceRay(const RectilinearView& view, const SourceOffset& offset) {
     NonZero(static_cast<double>(view.curve.scale), "LensMapScale");
     NonZero(static_cast<double>(view.curve.factor), "LensMapFactor");
-    const double scale = PixelsPerUnit(view.source.width, view.landscape, view.sensor) *
+    const double scale = view.source.PixelsPerMillimetre() *
                          EffectRatio(view.outputAov, view.effect, view.curve.factor);
     const double distance = std::hypot(offset.u, offset.v);
     if (distance == 0.0) {

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Everything that differs from projection to projection, one row each. Windows, names, command
-// line, batch and analysis read the rows; nothing else tells projections apart. Throws nothing.
+// line, batch and analysis read the rows; nothing else tells projections apart. Throws nothing but
+// where said.
 #pragma once
 
 #include <QString>
@@ -13,6 +14,8 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "remap/projection/projection_map.h"
+#include "remap/projection/record_maps.h"
 #include "state/records/image_record.h"
 #include "state/records/slider_id.h"
 
@@ -70,6 +73,10 @@ struct ProjectionInfo {
     bool levels = false;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
+    // The map of a record between a photo and a result. Throws RunTimeError when a number of the
+    // record makes it impossible.
+    std::unique_ptr<ProjectionMap> (*Make)(const ImageRecord& image,
+                                           const Frames& frames) = nullptr;
 };
 
 // All rows, in the order of their numbers, which are 0, 1, 2 ...

@@ -3,6 +3,8 @@
 
 #include <QtGlobal>
 
+#include "remap/projection/maps/horizon_map.h"
+#include "remap/projection/maps/varnel_map.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -42,6 +44,23 @@ constexpr std::array rectilinearTags{
 
 constexpr SheetVariants effectVariants{SliderId::Effect, false, {50.0, 75.0, 100.0}};  // percent
 
+template <class Map>
+std::unique_ptr<ProjectionMap> MakeOfCircle(const ImageRecord& image, const Frames& frames) {
+    return std::make_unique<Map>(CircleViewOf(image, frames));
+}
+
+std::unique_ptr<ProjectionMap> MakeRectilinear(const ImageRecord& image, const Frames& frames) {
+    const RectilinearView view = RectilinearViewOf(image, frames);
+    if (const CameraMove move = CameraMoveOf(image); move.Moves()) {
+        return std::make_unique<RotatedRectilinearMap>(view, move);
+    }
+    return std::make_unique<RectilinearMap>(view);
+}
+
+std::unique_ptr<ProjectionMap> MakeEquidistance(const ImageRecord& image, const Frames& frames) {
+    return std::make_unique<EquidistanceMap>(EquidistanceViewOf(image, frames));
+}
+
 constexpr std::array rows{
     ProjectionInfo{
         .id = Projection::Varnel,
@@ -55,6 +74,7 @@ constexpr std::array rows{
         .frame = {SliderId::Effect, false, aside},
         .tags = varnelTags,
         .sheet = effectVariants,
+        .Make = MakeOfCircle<VarnelMap>,
     },
     ProjectionInfo{
         .id = Projection::Rectilinear,
@@ -66,6 +86,7 @@ constexpr std::array rows{
         .levels = true,
         .tags = rectilinearTags,
         .sheet = effectVariants,
+        .Make = MakeRectilinear,
     },
     ProjectionInfo{
         .id = Projection::Equidistance,
@@ -74,6 +95,7 @@ constexpr std::array rows{
         .controls = inputAngle,
         .frame = {SliderId::AovInput, false, around},
         .sheet = {SliderId::AovInput, true, {0.85, 1.0, 1.15}},
+        .Make = MakeEquidistance,
     },
     ProjectionInfo{
         .id = Projection::Horizon,
@@ -83,6 +105,7 @@ constexpr std::array rows{
         .controls = hiddenEffect,
         .effect = &ImageRecord::EffectVarnel,
         .sheet = effectVariants,
+        .Make = MakeOfCircle<HorizonMap>,
     },
 };
 

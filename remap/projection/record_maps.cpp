@@ -21,8 +21,14 @@ LensCurve CurveOf(const ImageRecord& image) {
 
 }  // namespace
 
-RectilinearView RectilinearViewOf(const ImageRecord& image, PixelSize source) {
-    return {source,         image.Landscape, SensorOf(image),        KindOf(image),
+Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wish) {
+    const SourceFrame photo{source, image.Landscape, SensorOf(image),
+                            ShiftInPixels(source, image.OfsetX, image.OfsetY), image.Ratio};
+    return {photo, wish ? wish(photo) : SameAs(photo)};
+}
+
+RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames) {
+    return {frames.source,  frames.output,   KindOf(image),
             CurveOf(image), image.OutputAOV, image.EffectRectilinear};
 }
 
@@ -30,13 +36,13 @@ CameraMove CameraMoveOf(const ImageRecord& image) {
     return {image.RotateX, image.RotateY, image.RotateZ, image.TranslateX, image.TranslateY};
 }
 
-EquidistanceView EquidistanceViewOf(const ImageRecord& image, PixelSize source) {
-    return {source,         image.Landscape,         SensorOf(image), KindOf(image),
-            CurveOf(image), image.ImageCircleRadius, image.Ratio,     image.InputAOV};
+EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames) {
+    return {frames.source,  frames.output,           KindOf(image),
+            CurveOf(image), image.ImageCircleRadius, image.InputAOV};
 }
 
-CircleView CircleViewOf(const ImageRecord& image, PixelSize source) {
-    return {source, image.Landscape, image.OfsetX, image.OfsetY, image.Ratio, image.EffectVarnel};
+CircleView CircleViewOf(const ImageRecord& image, const Frames& frames) {
+    return {frames.source, frames.output, image.EffectVarnel};
 }
 
 }  // namespace varnel

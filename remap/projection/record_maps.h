@@ -1,19 +1,28 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// From an image record and the size of its bitmap to what the maps are made from.
+// From an image record and its frames to what the maps are made from. Throws nothing but where
+// said.
 #pragma once
 
-#include "remap/projection/maps/equidistance_map.h"
 #include "remap/projection/image_circle_geometry.h"
+#include "remap/projection/maps/equidistance_map.h"
 #include "remap/projection/maps/rectilinear_map.h"
 #include "state/records/image_record.h"
 
 namespace varnel {
 
-RectilinearView RectilinearViewOf(const ImageRecord& image, PixelSize source);
+struct Frames {
+    SourceFrame source;
+    OutputFrame output;
+};
+
+// For a photo of that size; without a wish the result is as large.
+Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wish = {});
+
+RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames);
 CameraMove CameraMoveOf(const ImageRecord& image);
-EquidistanceView EquidistanceViewOf(const ImageRecord& image, PixelSize source);
-CircleView CircleViewOf(const ImageRecord& image, PixelSize source);
+EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames);
+CircleView CircleViewOf(const ImageRecord& image, const Frames& frames);
 
 }  // namespace varnel

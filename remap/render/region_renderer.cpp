@@ -7,9 +7,11 @@
 
 namespace varnel {
 
-void RegionRenderer::Start(Projection projection, const ImageRecord& image, const Bitmap* source) {
+void RegionRenderer::Start(Projection projection, const ImageRecord& image, const Bitmap* source,
+                           const OutputWish& wish) {
     rows_.reset();
-    const PixelSize size = SizeOf(source);
+    const Frames frames = FramesOf(image, SizeOf(source), wish);
+    const PixelSize size = frames.output.size;
     if (result_ && (SizeOf(result_.get()).width != size.width ||
                     SizeOf(result_.get()).height != size.height)) {
         result_.reset();
@@ -20,7 +22,7 @@ void RegionRenderer::Start(Projection projection, const ImageRecord& image, cons
         }
         there_.assign(static_cast<std::size_t>(size.height), false);
         surface_ = std::make_unique<RenderSurface>(source, result_.get(), runner_);
-        rows_ = RowsOf(projection, image, *surface_);
+        rows_ = RowsOf(projection, image, frames, *surface_);
     } catch (...) {
         Drop();
         throw;

@@ -22,8 +22,10 @@ struct RowSpan {
 class RegionRenderer {
   public:
     // Forgets what was drawn and begins anew; the bitmap is taken again where it fits. The source
-    // has to stay until Drop or the next Start. Throws as the conversion does and is dropped then.
-    void Start(Projection projection, const ImageRecord& image, const Bitmap* source);
+    // has to stay until Drop or the next Start. Without a wish the result is as large as the
+    // source. Throws as the conversion does and is dropped then.
+    void Start(Projection projection, const ImageRecord& image, const Bitmap* source,
+               const OutputWish& wish = {});
     // Forgets what was drawn and keeps the memory.
     void Forget();
     // Forgets all and gives the memory back.

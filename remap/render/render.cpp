@@ -3,7 +3,9 @@
 
 #include "remap/render/render.h"
 
-#include "remap/render/row_renderer.h"
+#include "remap/projection/projection_info.h"
+#include "remap/render/engine/batches.h"
+#include "remap/render/engine/engine.h"
 
 namespace varnel {
 
@@ -28,31 +30,36 @@ SizeKind SizeKindFromText(QStringView text) {
 
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderContext& context) {
-    switch (projection) {
-        case Projection::Varnel:
-            return RenderVarnel(image, kind, progress, context);
-        case Projection::Rectilinear:
-            return RenderRectilinear(image, kind, progress, context);
-        case Projection::Equidistance:
-            return RenderEquidistance(image, kind, progress, context);
-        case Projection::Horizon:
-            return RenderHorizon(image, kind, progress, context);
-    }
+    RenderSession run(kind, progress, context, Canvas::Anything, image);
+    const auto map = InfoOf(projection).Make(image, run.PhotoAndResult());
+    run.Begin(map->ProgressMaximum());
+    const auto engine = EngineFor(run, *map);
+    map->ProgressAt(map->LastLine());  // an overflow is better found before the work
+    engine->FillTheRest();
+    DrawLines(
+        run, engine->Lines(), [&](int first, int count) { engine->Draw(first, count); },
+        [&](int line) { run.Advance(map->ProgressAt(line)); });
 }
 
+namespace {
+
+// The rows with the map that they are drawn by.
+class OwningRows : public RowRenderer {
+  public:
+    OwningRows(std::unique_ptr<ProjectionMap> map, const RenderSurface& surface)
+        : map_(std::move(map)), rows_(EngineFor(surface, *map_)) {}
+    void DrawRow(std::int32_t row) override { rows_->DrawRow(row); }
+
+  private:
+    std::unique_ptr<ProjectionMap> map_;
+    std::unique_ptr<RowRenderer> rows_;
+};
+
+}  // namespace
+
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,
-                                    const RenderSurface& surface) {
-    switch (projection) {
-        case Projection::Varnel:
-            return VarnelRows(image, surface);
-        case Projection::Rectilinear:
-            return RectilinearRows(image, surface);
-        case Projection::Equidistance:
-            return EquidistanceRows(image, surface);
-        case Projection::Horizon:
-            break;
-    }
-    return HorizonRows(image, surface);
+                                    const Frames& frames, const RenderSurface& surface) {
+    return std::make_unique<OwningRows>(InfoOf(projection).Make(image, frames), surface);
 }
 
 }  // namespace varnel

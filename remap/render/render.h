@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The four projections: from a source bitmap and an image record to ResultBitmap, which always has
-// the size, metadata and colour profile of its source.
+// The projections: from a source bitmap and an image record to ResultBitmap, which has the
+// metadata, the colour profile and, where nothing else is wished for, the size of its source.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@
 
 #include "base/block_runner.h"
 #include "remap/image/bitmap.h"
-#include "state/records/image_record.h"
+#include "remap/projection/record_maps.h"
 
 namespace varnel {
 
@@ -55,23 +55,13 @@ struct RenderContext {
     // Shares the work of full-size pictures out to the cores; without one it is done on the
     // caller's.
     BlockRunner* runner = nullptr;
+    // The result's frame; without a wish it is as large as the source.
+    OutputWish output{};
 };
 
-// Each replaces ResultBitmap; the record is only read. They throw RunTimeError when a number of the
-// record makes the conversion impossible (the message names it) and std::bad_alloc.
-void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderContext& context);
-// Hands over to RenderRectilinearRotated unless all rotations and translations are exactly 0.
-void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderContext& context);
-void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderContext& context);
-void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderContext& context);
-void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderContext& context);
-
-// The projection by its kind; the record's own Projection is not looked at.
+// Replaces ResultBitmap; the record is only read, its own Projection not looked at. Throws
+// RunTimeError when a number of the record makes the conversion impossible (the message names it)
+// and std::bad_alloc.
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderContext& context);
 

@@ -12,8 +12,7 @@ namespace varnel {
 namespace {
 
 // A bitmap that will be overwritten is taken again where it fits: its memory is there already.
-void TakeCanvas(const Bitmap* source, BitmapHandle& result) {
-    const PixelSize size = SizeOf(source);
+void TakeCanvas(const Bitmap* source, PixelSize size, BitmapHandle& result) {
     if (result &&
         (SizeOf(result.get()).width != size.width || SizeOf(result.get()).height != size.height)) {
         result.reset();
@@ -27,7 +26,7 @@ void TakeCanvas(const Bitmap* source, BitmapHandle& result) {
 }  // namespace
 
 RenderSession::RenderSession(SizeKind kind, RenderProgress& progress, RenderContext& context,
-                             Canvas canvas)
+                             Canvas canvas, const ImageRecord& image)
     : RenderSurface(progress),
       kind_(kind),
       workspace_(context),
@@ -38,33 +37,40 @@ RenderSession::RenderSession(SizeKind kind, RenderProgress& progress, RenderCont
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
                                            : bitmaps.FullSourceBitmap.get();
     assert(source_ != nullptr);
-    if (canvas == Canvas::Anything) {
-        TakeCanvas(source_, bitmaps.ResultBitmap);
-    } else {
+    frames_ = FramesOf(image, SourceSize(), context.output);
+    if (canvas == Canvas::CopyOfSource) {
         bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
-        bitmaps.ResultBitmap = CloneBitmap(source_);
     }
+    TakeCanvas(source_, frames_.output.size, bitmaps.ResultBitmap);
     result_ = bitmaps.ResultBitmap.get();
+    if (canvas == Canvas::CopyOfSource) {
+        FillAll();
+    }
 }
 
-// After a failure the result is the plain copy of the source, whatever was drawn before.
+// After a failure the result is as if nothing had been drawn.
 RenderSession::~RenderSession() {
     if (std::uncaught_exceptions() > exceptionsBefore_ && result_ != nullptr) {
-        CopySource();
+        FillAll();
     }
     if (begun_) {
         progress_->End();
     }
 }
 
-void RenderSurface::CopySource() const {
-    for (std::int32_t row = 0; row < Size().height; ++row) {
-        CopySourceRow(row);
+void RenderSurface::FillAll() const {
+    for (std::int32_t row = 0; row < ResultSize().height; ++row) {
+        FillRow(row);
     }
 }
 
-void RenderSurface::CopySourceRow(std::int32_t row) const {
-    std::ranges::copy(ScanLine(source_, row), ScanLine(result_, row).begin());
+void RenderSurface::FillRow(std::int32_t row) const {
+    const auto target = ScanLine(result_, row);
+    if (SourceSize().width == ResultSize().width && SourceSize().height == ResultSize().height) {
+        std::ranges::copy(ScanLine(source_, row), target.begin());
+    } else {
+        std::ranges::fill(target, std::uint8_t{0});
+    }
 }
 
 void RenderSession::Begin(float maximum) {

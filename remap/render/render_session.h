@@ -10,10 +10,11 @@
 namespace varnel {
 
 // What ResultBitmap holds before the first pixel is written: a copy of the source, so that what is
-// never written keeps its pixels, or anything, where every pixel will be written.
+// never written keeps its pixels (black where the result has another size), or anything, where
+// every pixel will be written.
 enum class Canvas { CopyOfSource, Anything };
 
-// What an engine reads from and writes to: two bitmaps of the same size.
+// What an engine reads from and writes to.
 class RenderSurface {
   public:
     RenderSurface(const Bitmap* source, Bitmap* result, BlockRunner& runner)
@@ -22,12 +23,14 @@ class RenderSurface {
     const Bitmap* Source() const { return source_; }
     Bitmap* Result() const { return result_; }
     BlockRunner& Runner() const { return *runner_; }
-    PixelSize Size() const { return SizeOf(source_); }
+    PixelSize SourceSize() const { return SizeOf(source_); }
+    PixelSize ResultSize() const { return SizeOf(result_); }
     // True when what is drawn next is read without interpolation.
     bool Nearest() const { return nearest_; }
-    // The source's pixels into the result.
-    void CopySource() const;
-    void CopySourceRow(std::int32_t row) const;
+    // What the result has where nothing is written: the source's pixels, or black where the result
+    // has another size.
+    void FillAll() const;
+    void FillRow(std::int32_t row) const;
     // To be called often: gives whoever waits for the conversion a turn. Throws to end it.
     void Pause() const {
         if (progress_ != nullptr) {
@@ -47,14 +50,17 @@ class RenderSurface {
 class RenderSession : public RenderSurface {
   public:
     // Lets waiting events run once, picks the source by the kind, which must be there, and makes
-    // ResultBitmap anew with the source's size, metadata and colour profile.
+    // ResultBitmap anew with the source's metadata and colour profile, in the size that the context
+    // wishes for the record, or the source's. Throws std::bad_alloc.
     RenderSession(SizeKind kind, RenderProgress& progress, RenderContext& context,
-                  Canvas canvas = Canvas::CopyOfSource);
+                  Canvas canvas = Canvas::CopyOfSource, const ImageRecord& image = {});
     ~RenderSession();
     RenderSession(const RenderSession&) = delete;
     RenderSession& operator=(const RenderSession&) = delete;
 
     SizeKind Kind() const { return kind_; }
+    // For the record that the session was made with.
+    const Frames& PhotoAndResult() const { return frames_; }
     // Shows the progress, which is taken away again at the end of the run.
     void Begin(float maximum);
     // Shows the value, lets waiting events run and asks anew how to read.
@@ -66,6 +72,7 @@ class RenderSession : public RenderSurface {
 
   private:
     SizeKind kind_;
+    Frames frames_;
     RenderContext& workspace_;
     SerialRunner serial_;
     int exceptionsBefore_;

@@ -19,14 +19,8 @@ class RowRenderer {
 };
 
 // By the projection's kind; the record's own Projection is not looked at. The surface has to
-// outlive the drawing. They throw as the conversions do.
+// outlive the drawing; its bitmaps have the sizes of the frames. Throws as the conversion does.
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,
-                                    const RenderSurface& surface);
-std::unique_ptr<RowRenderer> VarnelRows(const ImageRecord& image, const RenderSurface& surface);
-std::unique_ptr<RowRenderer> RectilinearRows(const ImageRecord& image,
-                                             const RenderSurface& surface);
-std::unique_ptr<RowRenderer> EquidistanceRows(const ImageRecord& image,
-                                              const RenderSurface& surface);
-std::unique_ptr<RowRenderer> HorizonRows(const ImageRecord& image, const RenderSurface& surface);
+                                    const Frames& frames, const RenderSurface& surface);
 
 }  // namespace varnel

@@ -40,7 +40,7 @@ double HeightOfRow(int y, int rows) {
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
                    RenderContext& context) {
     RenderSession run(kind, progress, context, Canvas::Anything);
-    const int rows = run.Size().height;
+    const int rows = run.SourceSize().height;
     const SourceView source = SourceView::Of(run.Source());
     const TargetView target = TargetView::Of(run.Result());
     const auto draw = [&](int from, int to) {

@@ -54,8 +54,8 @@ std::span<const FramePoint> FrameHandles(Projection projection) {
 }
 
 std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapping& places) {
-    const auto column = LineAt(point.across, places.Columns(), places.Size().width);
-    const auto row = LineAt(point.up, places.Rows(), places.Size().height);
+    const auto column = LineAt(point.across, places.Columns(), places.ResultSize().width);
+    const auto row = LineAt(point.up, places.Rows(), places.ResultSize().height);
     if (!column || !row) {
         return std::nullopt;
     }

@@ -31,7 +31,7 @@ double Beyond(SliderId id, const ImageRecord& image, double value) {
 
 std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
                         std::span<const PicturePoint> traced) {
-    const RectilinearView view = RectilinearViewOf(image, source);
+    const RectilinearView view = RectilinearViewOf(image, FramesOf(image, source));
     std::vector<Ray> rays;
     for (const PicturePoint& point : traced) {
         if (const auto ray = SourceRay(view, OffsetOf(point, source, image))) {

@@ -12,8 +12,8 @@ namespace varnel::bench {
 void PeerRectilinear(const RectilinearView& view, std::uint8_t* source, std::uint8_t* result,
                      int threads) {
     cv::setNumThreads(threads);
-    const int width = view.source.width;
-    const int height = view.source.height;
+    const int width = view.source.size.width;
+    const int height = view.source.size.height;
     cv::Mat mapX(height, width, CV_32FC1);
     cv::Mat mapY(height, width, CV_32FC1);
     const RectilinearRadius radius(view);

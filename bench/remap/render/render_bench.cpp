@@ -113,7 +113,8 @@ void DrawWithPeer(benchmark::State& state, PixelSize size, int threads) {
         static_cast<std::size_t>(size.width) * 3 * static_cast<std::size_t>(size.height);
     std::vector<std::uint8_t> source(bytes, 100);
     std::vector<std::uint8_t> result(bytes);
-    RectilinearView view = RectilinearViewOf(FisheyeRecord(false), size);
+    RectilinearView view =
+        RectilinearViewOf(FisheyeRecord(false), FramesOf(FisheyeRecord(false), size));
     for (auto _ : state) {
         view.outputAov = view.outputAov == 90.0F ? 91.0F : 90.0F;
         bench::PeerRectilinear(view, source.data(), result.data(), threads);

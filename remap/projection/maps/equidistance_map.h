@@ -5,29 +5,30 @@
 // from the optical axis.
 #pragma once
 
-#include "remap/projection/pixel_map.h"
+#include "remap/projection/smooth_map.h"
 
 namespace varnel {
 
 struct EquidistanceView {
-    PixelSize source;
-    bool landscape = true;
-    SensorSize sensor;
+    SourceFrame source;
+    OutputFrame output;
     LensKind kind = LensKind::Sin;
     LensCurve curve;
     float imageCircleRadius = 0.0F;  // millimetres
-    float ratio = 0.0F;              // percent
     float inputAov = 0.0F;           // degrees across the frame
 };
 
-class EquidistanceMap {
+class EquidistanceMap : public SmoothMap {
   public:
-    // Throws RunTimeError when a sensor side, the lens factor or the reference radius is 0.
+    // Throws RunTimeError when the circle is too far away and when a sensor side, the lens factor
+    // or the reference radius is 0.
     explicit EquidistanceMap(const EquidistanceView& view);
-    SourceOffset At(int x, int y) const;
+    SourceOffset At(int x, int y) const override;
+    std::unique_ptr<SmoothNodes> Nodes() const override;
+    bool IsFourfold() const override { return true; }
     // The source's distance from the centre for the output's distance r, both in pixels.
     double SourceRadius(double r) const;
-    // The radius, in pixels, at which the output shows half the frame's angle.
+    // The radius at which a result as large as the photo shows half the frame's angle.
     std::int32_t ReferenceRadius() const { return referenceRadius_; }
     // The frame's angle in radians.
     double FrameAngle() const { return frameAngle_; }
@@ -37,6 +38,7 @@ class EquidistanceMap {
     LensCurve curve_;
     double frameAngle_;
     std::int32_t referenceRadius_;
+    double outputRadius_;  // the same on the result
     double pixelsPerMillimetre_;
 };
 

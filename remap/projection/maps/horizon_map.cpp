@@ -3,45 +3,37 @@
 
 #include "remap/projection/maps/horizon_map.h"
 
-#include <cmath>
-
 #include "base/rounding.h"
 
 namespace varnel {
 
 namespace {
 
-double ColumnAngle(int column, std::int32_t halfWidth) {
-    if (column == 0) {
-        return static_cast<double>(-Pi / 2.0F);
-    }
-    const double pi = static_cast<double>(Pi);
-    return pi * column / NonZero(halfWidth, ReasonCode::HalfPictureWidth) + 1.5 * pi;
+std::int32_t RowDivisorOf(PixelSize photo) {
+    const std::int32_t upperHalf = photo.height - photo.height / 2;
+    return CLng(static_cast<double>(Pi) * upperHalf / photo.width, ReasonCode::RowDivisor);
 }
 
 }  // namespace
 
 HorizonMap::HorizonMap(const CircleView& view)
-    : rows_(MeasureCircle(view)),
-      rowDivisor_(CLng(static_cast<double>(Pi) * rows_.upperHalf / view.source.width,
-                       ReasonCode::RowDivisor)),
-      // With a vertical shift the covered rows are lopsided: the lower bound is |dY| - Hc.
-      firstRadius_(CLng(std::fabs(rows_.shiftY) - rows_.upperHalf, "OfsetY")) {
+    : CircleRows(view),
+      halfWidth_(view.source.size.width / 2 * view.output.scale),
+      rowDivisor_(RowDivisorOf(view.source.size)) {
     NonZero(rowDivisor_, ReasonCode::RowDivisorOfWidePicture);
 }
 
 double HorizonMap::Angle(int column) const {
-    return ColumnAngle(column, rows_.halfWidth);
-}
-
-SourceOffset HorizonMap::At(int column, int radius) const {
-    const double theta = Angle(column);
-    return {radius * std::cos(theta), radius * std::sin(theta)};
+    if (column == 0) {
+        return static_cast<double>(-Pi / 2.0F);
+    }
+    const double pi = static_cast<double>(Pi);
+    return pi * column / NonZero(halfWidth_, ReasonCode::HalfPictureWidth) + 1.5 * pi;
 }
 
 std::int32_t HorizonMap::OutputRow(int radius) const {
     const double step = static_cast<double>(-radius) / rowDivisor_;
-    return CLng(step + rows_.centreY, ReasonCode::OutputRow);
+    return CLng(step + Circle().outputCentre.y, ReasonCode::OutputRow);
 }
 
 }  // namespace varnel

@@ -6,12 +6,13 @@
 #include <cmath>
 
 #include "base/rounding.h"
+#include "remap/projection/maps/map_nodes.h"
 
 namespace varnel {
 
 namespace {
 
-float Shift(float percent, std::int32_t side, ValueName name) {
+float Shift(float percent, double side, ValueName name) {
     return ToSingle(-(static_cast<double>(percent) * side / 100.0), name);
 }
 
@@ -20,8 +21,8 @@ float Shift(float percent, std::int32_t side, ValueName name) {
 RectilinearRadius::RectilinearRadius(const RectilinearView& view)
     : kind_(view.kind),
       curve_(view.curve),
-      scale_(PixelsPerUnit(view.source.width, view.landscape, view.sensor)),
-      halfWidth_(view.source.width / 2),
+      scale_(view.source.PixelsPerMillimetre()),
+      halfWidth_(view.source.size.width / 2 * view.output.scale),
       tanHalfAngle_(0.0),
       tanStep_(0.0) {
     NonZero(static_cast<double>(curve_.factor), "LensMapFactor");
@@ -39,6 +40,15 @@ double RectilinearRadius::At(double r) const {
     return AtAngle(std::fabs(std::atan(r * tanStep_)));
 }
 
+// Not bound to 16 bits as the others are.
+float RectilinearMap::ProgressAt(int column) const {
+    return static_cast<float>(column + Extents().left + 1);
+}
+
+std::unique_ptr<SmoothNodes> RectilinearMap::Nodes() const {
+    return std::make_unique<NodesBy<RectilinearNodes>>(RectilinearNodes(radius_));
+}
+
 SourceOffset RectilinearMap::At(int x, int y) const {
     const double across = x;
     const double up = y;
@@ -51,12 +61,29 @@ SourceOffset RectilinearMap::At(int x, int y) const {
 }
 
 RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move)
-    : radius_(view),
+    : SmoothMap(view.source, view.output),
+      radius_(view),
       rotation_(RotationAngles(move.rotateX, move.rotateY, move.rotateZ, view.effect)),
       focal_(radius_.HalfWidth() /
              std::fabs(NonZero(radius_.TanHalfAngle(), ReasonCode::TangentOfHalfAngle))),
-      shiftX_(Shift(move.translateX, view.source.width, "TranslateX")),
-      shiftY_(Shift(move.translateY, view.source.height, "TranslateY")) {}
+      shiftX_(Shift(move.translateX, view.source.size.width * view.output.scale, "TranslateX")),
+      shiftY_(Shift(move.translateY, view.source.size.height * view.output.scale, "TranslateY")) {}
+
+std::unique_ptr<SmoothNodes> RotatedRectilinearMap::Nodes() const {
+    return std::make_unique<NodesBy<RotatedRectilinearNodes>>(RotatedRectilinearNodes(*this));
+}
+
+LoopAxis RotatedRectilinearMap::ColumnAxis() const {
+    LoopAxis axis = SmoothMap::ColumnAxis();
+    axis.shift = static_cast<double>(shiftX_);
+    return axis;
+}
+
+LoopAxis RotatedRectilinearMap::RowAxis() const {
+    LoopAxis axis = SmoothMap::RowAxis();
+    axis.shift = static_cast<double>(shiftY_);
+    return axis;
+}
 
 SourceOffset RotatedRectilinearMap::At(int x, int y) const {
     const Ray ray = TurnedRay(x, y);

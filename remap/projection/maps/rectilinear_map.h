@@ -5,15 +5,14 @@
 // shifted, which is symmetric about the circle centre in both axes, and the general one.
 #pragma once
 
-#include "remap/projection/pixel_map.h"
+#include "remap/projection/smooth_map.h"
 
 namespace varnel {
 
 // What both maps are made from. Angles in degrees, effect and translation in percent.
 struct RectilinearView {
-    PixelSize source;
-    bool landscape = true;
-    SensorSize sensor;
+    SourceFrame source;
+    OutputFrame output;
     LensKind kind = LensKind::Sin;
     LensCurve curve;
     float outputAov = 0.0F;
@@ -36,7 +35,7 @@ struct CameraMove {
     }
 };
 
-// From a distance on the output plane to a distance on the source, both in pixels.
+// From a distance on the output plane to a distance on the source, both in pixels of their own.
 class RectilinearRadius {
   public:
     // Throws RunTimeError when a sensor side, the width, the factor or the effect makes a
@@ -47,7 +46,7 @@ class RectilinearRadius {
     double AtAngle(double theta) const;
     // The tangent of the viewing angle per output pixel, to eight decimals.
     double TanStep() const { return tanStep_; }
-    // The half width of the output in pixels, rounded down.
+    // The half width in pixels of what spans the output angle of view.
     double HalfWidth() const { return halfWidth_; }
     // tan(B' / 2) for the effective angle B'.
     double TanHalfAngle() const { return tanHalfAngle_; }
@@ -61,24 +60,32 @@ class RectilinearRadius {
     double tanStep_;
 };
 
-class RectilinearMap {
+class RectilinearMap : public SmoothMap {
   public:
-    explicit RectilinearMap(const RectilinearView& view) : radius_(view) {}
-    SourceOffset At(int x, int y) const;
+    // Throws OverflowError and as RectilinearRadius.
+    explicit RectilinearMap(const RectilinearView& view)
+        : SmoothMap(view.source, view.output), radius_(view) {}
+    SourceOffset At(int x, int y) const override;
+    std::unique_ptr<SmoothNodes> Nodes() const override;
+    bool IsFourfold() const override { return true; }
+    float ProgressAt(int column) const override;
     const RectilinearRadius& Radius() const { return radius_; }
 
   private:
     RectilinearRadius radius_;
 };
 
-class RotatedRectilinearMap {
+class RotatedRectilinearMap : public SmoothMap {
   public:
-    // Throws as RectilinearRadius, and when the effective angle of view is 0.
+    // Throws OverflowError and as RectilinearRadius, and when the effective angle of view is 0.
     RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move);
     // x and y are loop values: the ray goes through (x + ShiftX(), y + ShiftY()) and what it finds
     // is written at (x - ShiftX(), y - ShiftY()) from the centre. That the shift counts twice is
     // meant.
-    SourceOffset At(int x, int y) const;
+    SourceOffset At(int x, int y) const override;
+    std::unique_ptr<SmoothNodes> Nodes() const override;
+    LoopAxis ColumnAxis() const override;
+    LoopAxis RowAxis() const override;
     // The shift in pixels, single precision; positive translations give negative shifts.
     float ShiftX() const { return shiftX_; }
     float ShiftY() const { return shiftY_; }

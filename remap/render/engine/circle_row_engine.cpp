@@ -5,26 +5,26 @@
 #include <cstring>
 
 #include "remap/projection/last_writer.h"
-#include "remap/projection/record_maps.h"
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/control_points.h"
-#include "remap/render/row_renderer.h"
+#include "remap/render/engine/engine.h"
 
 namespace varnel {
 
 namespace {
 
-class HorizonEngine : public RowRenderer {
+class CircleRowEngine : public Engine {
   public:
-    HorizonEngine(const RenderSurface& surface, const HorizonMap& map)
+    CircleRowEngine(const RenderSurface& surface, const CircleRows& map)
         : surface_(surface),
           map_(map),
-          owners_(map, surface.Size().height),
-          columns_(Columns(map.Rows(), surface.Size().width)),
+          owners_(map, surface.ResultSize().height),
+          columns_(Columns(map.Circle(), surface.ResultSize().width)),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
 
-    void FillUnownedRows() const {
+    LineRange Lines() const override { return map_.Radii(); }
+    void FillTheRest() override {
         DrawBlocks(surface_, {0, target_.height - 1}, 64, [this](int from, int to) {
             for (std::int32_t row = from; row <= to; ++row) {
                 FillUnownedRow(row);
@@ -40,7 +40,7 @@ class HorizonEngine : public RowRenderer {
 
     // Radii r to r + count - 1. Within a block narrow pieces of neighbouring radii follow each
     // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
-    void Draw(int r, int count) {
+    void Draw(int r, int count) override {
         PrepareColumns(r);
         DrawBlocks(surface_, {r, r + count - 1}, 16,
                    [this](int from, int to) { DrawRadii(from, to); });
@@ -50,19 +50,18 @@ class HorizonEngine : public RowRenderer {
     static constexpr int pieceColumns = 256;
 
     // Those that the picture has, in whole pieces from the centre.
-    static LineRange Columns(const ImageCircleGeometry& rows, std::int32_t width) {
-        const LineRange shown = OnPicture(rows.centreX, width, rows.lastColumn);
+    static LineRange Columns(const ImageCircleGeometry& circle, std::int32_t width) {
+        const LineRange shown = OnPicture(circle.outputCentre.x, width, circle.lastColumn);
         return {shown.first / pieceColumns * pieceColumns, shown.last};
     }
     // False for the row of a radius.
     bool FillUnownedRow(std::int32_t row) const {
-        const std::size_t bytes = static_cast<std::size_t>(target_.width) * 3;
         if (owners_.Black(row)) {
-            std::memset(target_.At(0, row), 0, bytes);
+            std::memset(target_.At(0, row), 0, static_cast<std::size_t>(target_.width) * 3);
             return true;
         }
         if (owners_.Nobody(row)) {
-            std::memcpy(target_.At(0, row), source_.bits + row * source_.pitch, bytes);
+            surface_.FillRow(row);
             return true;
         }
         return false;
@@ -97,14 +96,14 @@ class HorizonEngine : public RowRenderer {
         if (!owners_.Has(row, r)) {
             return;
         }
-        const std::int32_t centre = map_.Rows().centreX;
+        const std::int32_t centre = map_.Circle().outputCentre.x;
         CircleSpan span{source_,
                         0,
                         0,
-                        static_cast<double>(centre),
-                        static_cast<double>(map_.Rows().centreY),
+                        static_cast<double>(map_.Circle().sourceCentre.x),
+                        static_cast<double>(map_.Circle().sourceCentre.y),
                         1.0,
-                        static_cast<double>(r),
+                        map_.SourceRadius(r),
                         cosines_.data(),
                         sines_.data(),
                         surface_.Nearest() ? RowReading::Nearest : RowReading::Vectors};
@@ -122,7 +121,7 @@ class HorizonEngine : public RowRenderer {
     }
 
     const RenderSurface& surface_;
-    HorizonMap map_;
+    const CircleRows& map_;
     LastWriters owners_;
     LineRange columns_;  // distances from the centre
     SourceView source_;
@@ -132,22 +131,8 @@ class HorizonEngine : public RowRenderer {
 
 }  // namespace
 
-void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderContext& context) {
-    RenderSession run(kind, progress, context, Canvas::Anything);
-    const HorizonMap map(CircleViewOf(image, run.Size()));
-    const ImageCircleGeometry& rows = map.Rows();
-    run.Begin(static_cast<float>(std::fabs(rows.shiftY) + 2.0 * rows.upperHalf));
-    HorizonEngine engine(run, map);
-    engine.FillUnownedRows();
-    DrawLines(
-        run, {map.FirstRadius(), rows.lastRow}, [&](int r, int count) { engine.Draw(r, count); },
-        [&](int r) { run.Advance(static_cast<float>(r + rows.upperHalf)); });
-}
-
-std::unique_ptr<RowRenderer> HorizonRows(const ImageRecord& image, const RenderSurface& surface) {
-    return std::make_unique<HorizonEngine>(surface,
-                                           HorizonMap(CircleViewOf(image, surface.Size())));
+std::unique_ptr<Engine> CircleRowEngineFor(const RenderSurface& surface, const CircleRows& map) {
+    return std::make_unique<CircleRowEngine>(surface, map);
 }
 
 }  // namespace varnel

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Runs of output pixels through a radial map: along a row for full-size pictures, along a column
+// Runs of output pixels through a smooth map: along a row for full-size pictures, along a column
 // for previews, which are told of each column.
 #pragma once
 
@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "remap/image/interpolation.h"
-#include "remap/projection/pixel_map.h"
+#include "remap/projection/smooth_map.h"
 #include "remap/render/engine/span_kernels.h"
 
 namespace varnel {
@@ -30,24 +30,17 @@ inline int NodeStepFor(PixelSize picture) {
 }
 
 // Fills in the nodes; the vectors are reused.
-template <class Nodes>
-void WorkOutNodes(const Nodes& nodes, ControlPointLine& line) {
+inline void WorkOutNodes(const SmoothNodes& nodes, ControlPointLine& line) {
     const int segments = (line.count + line.step - 1) / line.step;
     const auto size = static_cast<std::size_t>(segments + 1 + 2 * nodesAround);
     line.u.resize(size);
     line.v.resize(size);
-    for (std::size_t n = 0; n < size; ++n) {
-        const double along = (static_cast<double>(n) - nodesAround) * line.step;
-        const SourceOffset offset = nodes.At(line.x + along, line.y);
-        line.u[n] = offset.u;
-        line.v[n] = offset.v;
-    }
+    nodes.Fill({line.x, line.y, line.step}, line.u, line.v);
 }
 
 // A run's exact colours: by the map itself and the literal blends.
-template <PixelMap Map>
 struct ExactLine {
-    const Map& map;
+    const SmoothMap& map;
     const ControlPointLine& line;
 
     static PixelColor Colour(const void* context, const NodeSpan& span, const SpanImage& image,

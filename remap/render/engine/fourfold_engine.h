@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Four mirror images from one set of nodes: the views that are symmetric about the circle centre.
+// Four mirror images from one set of nodes: the smooth maps that are symmetric about the circle
+// centre.
 #pragma once
 
 #include <array>
@@ -9,28 +10,27 @@
 
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/control_points.h"
-#include "remap/render/row_renderer.h"
+#include "remap/render/engine/engine.h"
 
 namespace varnel {
 
-template <PixelMap Map, class Nodes>
-class FourfoldEngine : public RowRenderer {
+class FourfoldEngine : public Engine {
   public:
-    FourfoldEngine(const RenderSurface& surface, const Map& map, const Nodes& nodes,
-                   const CentreAndExtents& centre)
+    // The map has to outlive the engine.
+    FourfoldEngine(const RenderSurface& surface, const SmoothMap& map)
         : surface_(surface),
           map_(map),
-          nodes_(nodes),
-          centre_(centre),
-          columns_(Columns(centre, surface.Size().width)),
-          rows_(OnPicture(centre.cy, surface.Size().height, centre.bottom)),
+          nodes_(map.Nodes()),
+          centre_(map.Extents()),
+          columns_(Columns(centre_, surface.ResultSize().width)),
+          rows_(OnPicture(centre_.cy, surface.ResultSize().height, centre_.bottom)),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
 
     // Those to be drawn, all <= 0.
-    LineRange Columns() const { return columns_; }
+    LineRange Lines() const override { return columns_; }
     // Columns x to x + count - 1 and their mirror images, all rows.
-    void Draw(int x, int count) const {
+    void Draw(int x, int count) override {
         DrawBlocks(surface_, rows_, blockRows, [&](int from, int to) {
             ControlPointLine line = LineOf(x, count);
             for (int y = from; y <= to; ++y) {
@@ -60,12 +60,12 @@ class FourfoldEngine : public RowRenderer {
         ControlPointLine line;
         line.x = x;
         line.count = count;
-        line.step = NodeStepFor(surface_.Size());
+        line.step = NodeStepFor(surface_.ResultSize());
         return line;
     }
     // As far as its mirror images are among the rows.
     void DrawLine(ControlPointLine& line, RowRange rows) const {
-        WorkOutNodes(nodes_, line);
+        WorkOutNodes(*nodes_, line);
         std::array<SpanImage, 4> images;
         std::size_t count = 0;
         for (const int signY : {1, -1}) {
@@ -80,35 +80,28 @@ class FourfoldEngine : public RowRenderer {
                     signX, signY, {target_.At(x, y), 3 * signX}, clip.begin, clip.end};
             }
         }
-        const ExactLine<Map> exact{map_, line};
+        const ExactLine exact{map_, line};
         SampleNodeSpan({source_,
                         line.u.data(),
                         line.v.data(),
                         line.step,
                         line.count,
-                        centre_.cx,
-                        centre_.cy,
+                        map_.SourceCentre().x,
+                        map_.SourceCentre().y,
                         surface_.Nearest(),
-                        &ExactLine<Map>::Colour,
+                        &ExactLine::Colour,
                         &exact,
                         {images.data(), count}});
     }
 
     const RenderSurface& surface_;
-    Map map_;
-    Nodes nodes_;
+    const SmoothMap& map_;
+    std::unique_ptr<SmoothNodes> nodes_;
     CentreAndExtents centre_;
     LineRange columns_;
     LineRange rows_;  // distances from the centre
     SourceView source_;
     TargetView target_;
 };
-
-// The whole picture.
-template <class Engine, class Progress>
-void DrawQuarters(const RenderSession& run, const Engine& engine, const Progress& progress) {
-    DrawLines(
-        run, engine.Columns(), [&](int x, int count) { engine.Draw(x, count); }, progress);
-}
 
 }  // namespace varnel

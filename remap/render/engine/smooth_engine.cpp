@@ -3,82 +3,34 @@
 
 #include "remap/render/engine/smooth_engine.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstring>
 
-#include "base/rounding.h"
-#include "remap/render/engine/fourfold_engine.h"
+#include "remap/render/engine/batches.h"
 
 namespace varnel {
 
-namespace {
-
-LoopAxis ColumnAxis(const RotatedRectilinearMap& map, const CentreAndExtents& centre) {
-    return {static_cast<double>(map.ShiftX()), centre.cx, centre.left, centre.right, "TranslateX"};
-}
-
-LoopAxis RowAxis(const RotatedRectilinearMap& map, const CentreAndExtents& centre) {
-    return {static_cast<double>(map.ShiftY()), centre.cy, centre.bottom, centre.top, "TranslateY"};
-}
-
-LineRange AllOf(const LoopAxis& axis) {
-    return {CLng(axis.shift - axis.before, axis.shiftName),
-            CLng(axis.shift + axis.after, axis.shiftName)};
-}
-
-// The positions that go to the picture, and some around them.
-LineRange ShownOf(const LoopAxis& axis, std::int32_t size, LineRange all) {
-    const auto within = [all](double n) {
-        return static_cast<int>(std::clamp<double>(n, all.first, all.last));
-    };
-    const double origin = std::floor(axis.shift - axis.centre);
-    return {within(origin - 1.0), within(origin + size + 1.0)};
-}
-
-}  // namespace
-
-AxisOwners::AxisOwners(const LoopAxis& axis, std::int32_t size)
-    : all_(AllOf(axis)),
-      run_(WorthARun(all_, ShownOf(axis, size, all_), size)),
-      owners_(static_cast<std::size_t>(size), none) {
-    for (int n = 0; n < run_.Count(); ++n) {
-        const int position = run_.first + n;
-        places_.push_back(CLng(static_cast<double>(axis.centre) + position - axis.shift,
-                               ReasonCode::OutputPosition));
-        if (places_.back() >= 0 && places_.back() < size) {
-            owners_[static_cast<std::size_t>(places_.back())] = position;
-        }
-    }
-    for (std::size_t n = 1; n < places_.size(); ++n) {
-        contiguous_ = contiguous_ && places_[n] == places_[n - 1] + 1;
-    }
-}
-
-RotatedEngine::RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
-                             const CentreAndExtents& centre)
+SmoothEngine::SmoothEngine(const RenderSurface& surface, const SmoothMap& map)
     : surface_(surface),
       map_(map),
-      nodes_(map_),
-      centre_(centre),
-      columns_(ColumnAxis(map, centre), surface.Size().width),
-      rows_(RowAxis(map, centre), surface.Size().height),
+      nodes_(map.Nodes()),
+      columns_(map.ColumnAxis(), surface.ResultSize().width),
+      rows_(map.RowAxis(), surface.ResultSize().height),
       covers_(columns_.Covers() && rows_.Covers()),
       source_(SourceView::Of(surface.Source())),
       target_(TargetView::Of(surface.Result())) {}
 
-void RotatedEngine::FillTheRest() const {
+void SmoothEngine::FillTheRest() {
     if (covers_) {
         return;
     }
     DrawBlocks(surface_, {0, target_.height - 1}, 64, [this](int from, int to) {
         for (std::int32_t row = from; row <= to; ++row) {
-            surface_.CopySourceRow(row);
+            surface_.FillRow(row);
         }
     });
 }
 
-void RotatedEngine::Draw(int x, int count) const {
+void SmoothEngine::Draw(int x, int count) {
     DrawBlocks(surface_, {rows_.First(), rows_.Last()}, blockRows, [&](int from, int to) {
         ControlPointLine line = LineOf(x, count);
         std::vector<std::uint8_t> spare;
@@ -91,9 +43,9 @@ void RotatedEngine::Draw(int x, int count) const {
 }
 
 // Nodes lie where the batches of columns have them, too.
-void RotatedEngine::DrawRow(std::int32_t row) {
+void SmoothEngine::DrawRow(std::int32_t row) {
     if (!covers_) {
-        surface_.CopySourceRow(row);
+        surface_.FillRow(row);
     }
     if (const std::optional<int> y = rows_.OwnerOf(row)) {
         ControlPointLine line = LineOf(columns_.First(), columns_.Last() - columns_.First() + 1);
@@ -103,17 +55,17 @@ void RotatedEngine::DrawRow(std::int32_t row) {
     }
 }
 
-ControlPointLine RotatedEngine::LineOf(int x, int count) const {
+ControlPointLine SmoothEngine::LineOf(int x, int count) const {
     ControlPointLine line;
     line.x = x;
     line.count = count;
-    line.step = NodeStepFor(surface_.Size());
+    line.step = NodeStepFor(surface_.ResultSize());
     return line;
 }
 
-void RotatedEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const {
-    WorkOutNodes(nodes_, line);
-    const ExactLine<RotatedRectilinearMap> exact{map_, line};
+void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const {
+    WorkOutNodes(*nodes_, line);
+    const ExactLine exact{map_, line};
     std::uint8_t* const row = target_.At(0, rows_.Place(line.y));
     SpanImage image{1, 1, {}, 0, line.count};
     if (columns_.Contiguous()) {
@@ -129,10 +81,10 @@ void RotatedEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& 
                     line.v.data(),
                     line.step,
                     line.count,
-                    centre_.cx,
-                    centre_.cy,
+                    map_.SourceCentre().x,
+                    map_.SourceCentre().y,
                     surface_.Nearest(),
-                    &ExactLine<RotatedRectilinearMap>::Colour,
+                    &ExactLine::Colour,
                     &exact,
                     {&image, 1}});
     if (!columns_.Contiguous()) {
@@ -141,8 +93,8 @@ void RotatedEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& 
 }
 
 // Each pixel to its place, but for those that a later one replaces.
-void RotatedEngine::ScatterLine(const ControlPointLine& line,
-                                const std::vector<std::uint8_t>& pixels, std::uint8_t* row) const {
+void SmoothEngine::ScatterLine(const ControlPointLine& line,
+                               const std::vector<std::uint8_t>& pixels, std::uint8_t* row) const {
     for (std::ptrdiff_t n = 0; n < line.count; ++n) {
         const int x = line.x + static_cast<int>(n);
         if (columns_.Stays(x)) {

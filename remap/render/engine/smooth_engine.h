@@ -1,75 +1,27 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The general straight-line view: every pixel for itself. With a translation that ends on half a
-// pixel two loop positions can meet on one output pixel and others stay unwritten; of two the later
-// one stays.
+// The general engine, for any smooth map: every pixel for itself.
 #pragma once
 
-#include <limits>
-#include <optional>
+#include <memory>
+#include <vector>
 
-#include "base/line_range.h"
+#include "remap/projection/axis_owners.h"
 #include "remap/render/engine/control_points.h"
-#include "remap/render/engine/smooth_maps.h"
-#include "remap/render/row_renderer.h"
+#include "remap/render/engine/engine.h"
 
 namespace varnel {
 
-// One axis of the loops: positions from shift - before to shift + after, which are written at the
-// centre less the shift.
-struct LoopAxis {
-    double shift = 0.0;  // pixels
-    std::int32_t centre = 0;
-    std::int32_t before = 0, after = 0;
-    const char* shiftName = "";  // for errors
-};
-
-// Where the positions of one axis go, and who is the last to write each place.
-class AxisOwners {
+class SmoothEngine : public Engine {
   public:
-    // Places outside 0 to size - 1 are dropped. Throws OverflowError.
-    AxisOwners(const LoopAxis& axis, std::int32_t size);
-    // The whole loop, and what of it is worth a run.
-    LineRange All() const { return all_; }
-    int First() const { return run_.first; }
-    int Last() const { return run_.last; }
-    std::int32_t Place(int n) const { return places_[static_cast<std::size_t>(n - run_.first)]; }
-    // Position n is the one that stays at its place.
-    bool Stays(int n) const {
-        const std::int32_t place = Place(n);
-        return place >= 0 && place < static_cast<std::int32_t>(owners_.size()) &&
-               owners_[static_cast<std::size_t>(place)] == n;
-    }
-    // The position that stays at a place; nothing where none is written.
-    std::optional<int> OwnerOf(std::int32_t place) const {
-        const int owner = owners_[static_cast<std::size_t>(place)];
-        return owner == none ? std::nullopt : std::optional(owner);
-    }
-    // Neighbouring positions go to neighbouring places.
-    bool Contiguous() const { return contiguous_; }
-    bool Covers() const { return std::ranges::find(owners_, none) == owners_.end(); }
+    // The map has to outlive the engine. Throws OverflowError.
+    SmoothEngine(const RenderSurface& surface, const SmoothMap& map);
 
-  private:
-    static constexpr int none = std::numeric_limits<int>::min();
-    LineRange all_, run_;
-    std::vector<std::int32_t> places_;
-    std::vector<int> owners_;
-    bool contiguous_ = true;
-};
-
-class RotatedEngine : public RowRenderer {
-  public:
-    RotatedEngine(const RenderSurface& surface, const RotatedRectilinearMap& map,
-                  const CentreAndExtents& centre);
-    RotatedEngine(const RotatedEngine&) = delete;
-    RotatedEngine& operator=(const RotatedEngine&) = delete;
-
-    const AxisOwners& Columns() const { return columns_; }
-    // The source's pixels to where none is written.
-    void FillTheRest() const;
+    LineRange Lines() const override { return columns_.Run(); }
+    void FillTheRest() override;
     // Positions x to x + count - 1, all rows.
-    void Draw(int x, int count) const;
+    void Draw(int x, int count) override;
     void DrawRow(std::int32_t row) override;
 
   private:
@@ -79,9 +31,8 @@ class RotatedEngine : public RowRenderer {
                      std::uint8_t* row) const;
 
     const RenderSurface& surface_;
-    RotatedRectilinearMap map_;
-    RotatedRectilinearNodes nodes_;
-    CentreAndExtents centre_;
+    const SmoothMap& map_;
+    std::unique_ptr<SmoothNodes> nodes_;
     AxisOwners columns_;
     AxisOwners rows_;
     bool covers_;

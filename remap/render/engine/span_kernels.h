@@ -10,14 +10,10 @@
 #include <cstdint>
 #include <span>
 
+#include "remap/projection/smooth_map.h"
 #include "remap/render/engine/source_view.h"
 
 namespace varnel {
-
-// Pixels of a run between two nodes, at most.
-inline constexpr int largestNodeStep = 64;
-// Nodes before the first and after the last one that a run lies between.
-inline constexpr int nodesAround = 2;
 
 // Where the pixels of a run go: pixel 0 and the step in bytes to the next, 3 or -3.
 struct SpanTarget {

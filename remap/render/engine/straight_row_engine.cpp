@@ -1,46 +1,47 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
-#include "remap/projection/record_maps.h"
-#include "remap/projection/maps/varnel_map.h"
+#include "base/rounding.h"
+#include "remap/projection/straight_rows.h"
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/control_points.h"
-#include "remap/render/row_renderer.h"
+#include "remap/render/engine/engine.h"
 
 namespace varnel {
 
 namespace {
 
-class VarnelEngine : public RowRenderer {
+class StraightRowEngine : public Engine {
   public:
-    VarnelEngine(const RenderSurface& surface, const VarnelMap& map)
+    StraightRowEngine(const RenderSurface& surface, const StraightRows& map)
         : surface_(surface),
           map_(map),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
 
     // The rows r to r + count - 1 above and below the centre.
-    void Draw(int r, int count) const {
+    void Draw(int r, int count) override {
         DrawBlocks(surface_, {r, r + count - 1}, 8, [this](int from, int to) {
             for (int n = from; n <= to; ++n) {
-                DrawLine(n, map_.Rows().centreY + n);
+                DrawLine(n, map_.Circle().outputCentre.y + n);
                 if (n > 0) {
-                    DrawLine(n, map_.Rows().centreY - n);
+                    DrawLine(n, map_.Circle().outputCentre.y - n);
                 }
             }
         });
     }
     // Those to be drawn, all >= 0.
-    LineRange Rows() const {
-        const ImageCircleGeometry& rows = map_.Rows();
-        return WorthARun({0, rows.lastRow}, OnPicture(rows.centreY, target_.height, rows.lastRow),
+    LineRange Lines() const override {
+        const int last = map_.Circle().lastRow;
+        return WorthARun({0, last}, OnPicture(map_.Circle().outputCentre.y, target_.height, last),
                          target_.height);
     }
-    void DrawRow(std::int32_t row) override { DrawLine(std::abs(row - map_.Rows().centreY), row); }
+    void DrawRow(std::int32_t row) override {
+        DrawLine(std::abs(row - map_.Circle().outputCentre.y), row);
+    }
 
   private:
     void DrawLine(int r, std::int32_t row) const {
@@ -53,16 +54,16 @@ class VarnelEngine : public RowRenderer {
         }
         ChordSpan span;
         span.source = source_;
-        span.centreX = map_.Rows().centreX;
+        span.centreX = map_.Circle().sourceCentre.x;
         span.chord = map_.Chord(r);
-        span.radius = static_cast<double>(map_.Rows().radius);
+        span.radius = map_.Radius();
         span.plain = map_.Plain(r);
-        span.row = row;
+        span.row = SourceRow(r, row);
         span.reading =
             surface_.Nearest() ? RowReading::Nearest : ReadingFor(span.chord / span.radius);
         for (const int sign : {1, -1}) {
-            const std::int32_t centre = map_.Rows().centreX;
-            const Clip clip = Clip::Of(centre, sign, map_.Rows().lastColumn + 1, target_.width);
+            const std::int32_t centre = map_.Circle().outputCentre.x;
+            const Clip clip = Clip::Of(centre, sign, map_.Circle().lastColumn + 1, target_.width);
             span.sign = sign;
             span.first = clip.begin;
             span.count = clip.end - clip.begin;
@@ -72,28 +73,25 @@ class VarnelEngine : public RowRenderer {
         }
     }
 
+    // The row of the photo that is nearest to the height of an output row. Throws OverflowError.
+    std::int32_t SourceRow(int r, std::int32_t row) const {
+        const double height = map_.HeightOf(r);
+        return CLng(
+            map_.Circle().sourceCentre.y + (row < map_.Circle().outputCentre.y ? -height : height),
+            ReasonCode::OutputRow);
+    }
+
     const RenderSurface& surface_;
-    VarnelMap map_;
+    const StraightRows& map_;
     SourceView source_;
     TargetView target_;
 };
 
 }  // namespace
 
-void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderContext& context) {
-    RenderSession run(kind, progress, context, Canvas::Anything);
-    const VarnelMap map(CircleViewOf(image, run.Size()));
-    const ImageCircleGeometry& rows = map.Rows();
-    run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
-    const VarnelEngine engine(run, map);
-    DrawLines(
-        run, engine.Rows(), [&](int r, int count) { engine.Draw(r, count); },
-        [&](int r) { run.Advance(static_cast<float>(r)); });
-}
-
-std::unique_ptr<RowRenderer> VarnelRows(const ImageRecord& image, const RenderSurface& surface) {
-    return std::make_unique<VarnelEngine>(surface, VarnelMap(CircleViewOf(image, surface.Size())));
+std::unique_ptr<Engine> StraightRowEngineFor(const RenderSurface& surface,
+                                             const StraightRows& map) {
+    return std::make_unique<StraightRowEngine>(surface, map);
 }
 
 }  // namespace varnel

@@ -9,12 +9,13 @@
 namespace varnel {
 
 // Black at the four mirror images of a position, column and row counted from the circle centre.
-inline void WriteBlackQuarters(const RenderSession& run, const ImageCircleGeometry& rows,
+inline void WriteBlackQuarters(const RenderSession& run, const ImageCircleGeometry& circle,
                                std::int32_t column, std::int32_t row) {
-    run.Write(rows.centreX + column, rows.centreY + row, black);
-    run.Write(rows.centreX - column, rows.centreY + row, black);
-    run.Write(rows.centreX + column, rows.centreY - row, black);
-    run.Write(rows.centreX - column, rows.centreY - row, black);
+    const PixelPosition& centre = circle.outputCentre;
+    run.Write(centre.x + column, centre.y + row, black);
+    run.Write(centre.x - column, centre.y + row, black);
+    run.Write(centre.x + column, centre.y - row, black);
+    run.Write(centre.x - column, centre.y - row, black);
 }
 
 }  // namespace varnel

@@ -3,19 +3,21 @@
 
 #include "remap/render/reference/render.h"
 
+#include "remap/projection/projection_info.h"
+
 namespace varnel::reference {
 
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderContext& context) {
-    switch (projection) {
-        case Projection::Varnel:
-            return reference::RenderVarnel(image, kind, progress, context);
-        case Projection::Rectilinear:
-            return reference::RenderRectilinear(image, kind, progress, context);
-        case Projection::Equidistance:
-            return reference::RenderEquidistance(image, kind, progress, context);
-        case Projection::Horizon:
-            return reference::RenderHorizon(image, kind, progress, context);
+    RenderSession run(kind, progress, context, Canvas::CopyOfSource, image);
+    const auto map = InfoOf(projection).Make(image, run.PhotoAndResult());
+    run.Begin(map->ProgressMaximum());
+    if (const StraightRows* const rows = map->AsStraightRows()) {
+        RenderStraightRows(run, *rows);
+    } else if (const CircleRows* const circles = map->AsCircleRows()) {
+        RenderCircleRows(run, *circles);
+    } else {
+        RenderSmooth(run, *map->AsSmooth());
     }
 }
 

@@ -5,23 +5,20 @@
 // right. Tests and benchmarks measure the engine by them; no program ships them.
 #pragma once
 
-#include "remap/render/render.h"
+#include "remap/projection/circle_rows.h"
+#include "remap/projection/smooth_map.h"
+#include "remap/projection/straight_rows.h"
+#include "remap/render/render_session.h"
 
 namespace varnel::reference {
 
-// As the functions of the same names in remap/render.h.
-void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderContext& context);
-void RenderRectilinear(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                       RenderContext& context);
-void RenderRectilinearRotated(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                              RenderContext& context);
-void RenderEquidistance(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                        RenderContext& context);
-void RenderHorizon(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                   RenderContext& context);
-
+// As the function of the same name in remap/render/render.h.
 void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderContext& context);
+
+// The loops of each kind of map, on a session that was made for it. They throw OverflowError.
+void RenderSmooth(RenderSession& run, const SmoothMap& map);
+void RenderStraightRows(RenderSession& run, const StraightRows& map);
+void RenderCircleRows(RenderSession& run, const CircleRows& map);
 
 }  // namespace varnel::reference

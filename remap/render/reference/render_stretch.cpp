@@ -12,7 +12,7 @@ namespace varnel::reference {
 void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& progress,
                    RenderContext& context) {
     RenderSession run(kind, progress, context);
-    const PixelSize size = run.Size();
+    const PixelSize size = run.SourceSize();
     const double centre = MiddleOf(size.width);
     // Rounded, because a hair below a whole column the right neighbour of the blend would be one
     // too far.

@@ -3,47 +3,39 @@
 
 #include "remap/render/reference/render.h"
 
-#include <cmath>
-
 #include "base/rounding.h"
 #include "remap/image/sampling.h"
-#include "remap/projection/record_maps.h"
-#include "remap/projection/maps/varnel_map.h"
 #include "remap/render/reference/blank.h"
-#include "remap/render/render_session.h"
 
 namespace varnel::reference {
 
 namespace {
 
-PixelColor Read(const RenderSession& run, std::int32_t centreX, double u, std::int32_t row) {
-    return run.Nearest() ? SampleNearest(run.Source(), centreX + Round(u), row)
-                         : SampleLinearX(run.Source(), centreX + u, row);
+PixelColor Read(const RenderSession& run, const PixelPosition& centre, double u, double v) {
+    return run.Nearest() ? SampleNearest(run.Source(), centre.x + Round(u), centre.y + v)
+                         : SampleLinearX(run.Source(), centre.x + u, centre.y + v);
 }
 
-void RenderColumn(const RenderSession& run, const VarnelMap& map, std::int32_t j, std::int32_t r) {
-    const std::int32_t cx = map.Rows().centreX;
-    const std::int32_t cy = map.Rows().centreY;
-    const double u = map.At(j, r).u;
-    run.Write(cx + j, cy + r, Read(run, cx, u, cy + r));
-    run.Write(cx - j, cy + r, Read(run, cx, -u, cy + r));
-    run.Write(cx + j, cy - r, Read(run, cx, u, cy - r));
-    run.Write(cx - j, cy - r, Read(run, cx, -u, cy - r));
+void RenderColumn(const RenderSession& run, const StraightRows& map, std::int32_t j,
+                  std::int32_t r) {
+    const PixelPosition& from = map.Circle().sourceCentre;
+    const PixelPosition& to = map.Circle().outputCentre;
+    const auto [u, v] = map.At(j, r);
+    run.Write(to.x + j, to.y + r, Read(run, from, u, v));
+    run.Write(to.x - j, to.y + r, Read(run, from, -u, v));
+    run.Write(to.x + j, to.y - r, Read(run, from, u, -v));
+    run.Write(to.x - j, to.y - r, Read(run, from, -u, -v));
 }
 
 }  // namespace
 
-void RenderVarnel(const ImageRecord& image, SizeKind kind, RenderProgress& progress,
-                  RenderContext& context) {
-    RenderSession run(kind, progress, context);
-    const VarnelMap map(CircleViewOf(image, run.Size()));
-    const ImageCircleGeometry& rows = map.Rows();
-    run.Begin(static_cast<float>(std::fabs(rows.shiftY) + rows.upperHalf));
-    for (std::int32_t r = 0; r <= rows.lastRow; ++r) {
-        run.Advance(static_cast<float>(r));
-        for (std::int32_t j = 0; j <= rows.lastColumn; ++j) {
+void RenderStraightRows(RenderSession& run, const StraightRows& map) {
+    const ImageCircleGeometry& circle = map.Circle();
+    for (std::int32_t r = 0; r <= circle.lastRow; ++r) {
+        run.Advance(map.ProgressAt(r));
+        for (std::int32_t j = 0; j <= circle.lastColumn; ++j) {
             if (map.Blank(r)) {
-                WriteBlackQuarters(run, rows, j, r);
+                WriteBlackQuarters(run, circle, j, r);
             } else {
                 RenderColumn(run, map, j, r);
             }

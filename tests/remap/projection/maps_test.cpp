@@ -25,7 +25,8 @@ void ExpectNear(const SourceOffset& offset, double u, double v) {
 }
 
 RectilinearView Landscape(float effect = 100.0F) {
-    return {{1000, 800}, true, {36.0F, 24.0F}, LensKind::Sin, {16.0F, 0.5F}, 90.0F, effect};
+    const SourceFrame photo{{1000, 800}, true, {36.0F, 24.0F}};
+    return {photo, SameAs(photo), LensKind::Sin, {16.0F, 0.5F}, 90.0F, effect};
 }
 
 TEST(RectilinearMap, HandWorkedPositions) {
@@ -40,8 +41,9 @@ TEST(RectilinearMap, HandWorkedPositions) {
     ExpectNear(half.At(3, 4), 1.0833422950601235, 1.4444563934134977);
     ExpectNear(half.At(500, 0), 170.0820499273052, 0.0);
 
+    const SourceFrame photo{{800, 1000}, false, {36.0F, 24.0F}};
     const RectilinearMap upright(
-        {{800, 1000}, false, {36.0F, 24.0F}, LensKind::Tan, {26.1F, 3.0F}, 110.0F, 80.0F});
+        {photo, SameAs(photo), LensKind::Tan, {26.1F, 3.0F}, 110.0F, 80.0F});
     ExpectNear(upright.At(-300, -400), -54.84333975671072, -73.12445300894763);
 }
 
@@ -75,7 +77,7 @@ TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
         return {};
     };
     RectilinearView view = Landscape();
-    view.sensor.width = 0.0F;
+    view.source.sensor.width = 0.0F;
     EXPECT_EQ(failure(view), "Division by zero: SensorWidth is 0");
     view = Landscape();
     view.curve.factor = 0.0F;
@@ -83,42 +85,43 @@ TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
     view = Landscape(0.0F);
     EXPECT_NE(failure(view).find("effect"), std::string::npos);
     view = Landscape();
-    view.source = {1, 800};
+    view.source.size = {1, 800};
     EXPECT_NE(failure(view).find("width"), std::string::npos);
 }
 
 TEST(EquidistanceMap, HandWorkedPositionsAndReferenceRadius) {
-    const EquidistanceMap wide(
-        {{1000, 800}, true, {36.0F, 24.0F}, LensKind::Sin, {16.0F, 0.5F}, 11.4F, 157.89F, 180.0F});
+    const SourceFrame photo{{1000, 800}, true, {36.0F, 24.0F}, {}, 157.89F};
+    const EquidistanceMap wide({photo, SameAs(photo), LensKind::Sin, {16.0F, 0.5F}, 11.4F, 180.0F});
     EXPECT_NEAR(wide.FrameAngle(), 4.7123889803850005, 1e-15);
     EXPECT_EQ(wide.ReferenceRadius(), 317);
     ExpectNear(wide.At(-120, 90), -188.10020778208175, 141.07515583656132);
 
-    EquidistanceView upright{{800, 1000},   false, {36.0F, 24.0F}, LensKind::Tan,
-                             {26.1F, 3.0F}, 15.0F, 100.0F,         120.0F};
+    const SourceFrame high{{800, 1000}, false, {36.0F, 24.0F}, {}, 100.0F};
+    EquidistanceView upright{high, SameAs(high), LensKind::Tan, {26.1F, 3.0F}, 15.0F, 120.0F};
     EXPECT_EQ(EquidistanceMap(upright).ReferenceRadius(), 500);
     ExpectNear(EquidistanceMap(upright).At(-120, 90), -73.490381384703, 55.11778603852724);
-    upright.ratio = 100.0001F;
+    upright.source.ratio = 100.0001F;
     EXPECT_EQ(EquidistanceMap(upright).ReferenceRadius(), 417);
 }
 
 TEST(EquidistanceMap, AZeroInItsNumbersIsToldByName) {
-    const EquidistanceView good{{800, 600},    true,  {36.0F, 24.0F}, LensKind::Tan,
-                                {26.1F, 3.0F}, 15.0F, 120.0F,         120.0F};
+    const SourceFrame photo{{800, 600}, true, {36.0F, 24.0F}, {}, 120.0F};
+    const EquidistanceView good{photo, SameAs(photo), LensKind::Tan, {26.1F, 3.0F}, 15.0F, 120.0F};
     const auto fails = [&](auto change) {
         EquidistanceView view = good;
         change(view);
         EXPECT_THROW(EquidistanceMap{view}, DivisionByZeroError);
     };
     EXPECT_NO_THROW(EquidistanceMap{good});
-    fails([](EquidistanceView& view) { view.sensor.width = 0.0F; });
-    fails([](EquidistanceView& view) { view.sensor.height = 0.0F; });
+    fails([](EquidistanceView& view) { view.source.sensor.width = 0.0F; });
+    fails([](EquidistanceView& view) { view.source.sensor.height = 0.0F; });
     fails([](EquidistanceView& view) { view.imageCircleRadius = 0.0F; });
     fails([](EquidistanceView& view) { view.curve.factor = 0.0F; });
 }
 
 CircleView Circle(PixelSize size, float ratio, float effect = 100.0F, bool landscape = true) {
-    return {size, landscape, 0.0F, 0.0F, ratio, effect};
+    const SourceFrame photo{size, landscape, {}, {}, ratio};
+    return {photo, SameAs(photo), effect};
 }
 
 TEST(MeasureCircle, TheCirclesRadiusFollowsRatioEffectAndOrientation) {

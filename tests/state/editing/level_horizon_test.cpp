@@ -44,7 +44,8 @@ ImageRecord RecordOf(const Scene& scene) {
 
 // Where the renderer finds the middle row of the levelled picture, shaken by half a pixel.
 std::vector<PicturePoint> Trace(const ImageRecord& image, PixelSize size) {
-    const RotatedRectilinearMap map(RectilinearViewOf(image, size), CameraMoveOf(image));
+    const RotatedRectilinearMap map(RectilinearViewOf(image, FramesOf(image, size)),
+                                    CameraMoveOf(image));
     const CentreAndExtents centre = ImageCentre(size, image.OfsetX, image.OfsetY);
     std::mt19937 random(7);
     std::normal_distribution<double> noise(0.0, 0.5);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/render/engine/smooth_maps.h"
+#include "remap/projection/maps/map_nodes.h"
 
 #include <algorithm>
 

@@ -1,16 +1,15 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The smooth halves of the radial maps: what the nodes of the engine's runs are worked out with.
-// Each agrees with its exact map to about a millionth of a pixel, or gives no number.
+// The smooth halves of the radial maps, see SmoothNodes.
 #pragma once
 
+#include <cmath>
 #include <limits>
 
 #include "remap/projection/maps/equidistance_map.h"
-#include "remap/projection/maps/rectilinear_map.h"
 #include "remap/projection/maps/radial_table.h"
-#include "remap/render/engine/span_kernels.h"
+#include "remap/projection/maps/rectilinear_map.h"
 
 namespace varnel {
 
@@ -33,7 +32,7 @@ class RectilinearNodes {
     RadialTable table_;  // source radius / sine of the angle, over its cosine
 };
 
-// The turned and shifted view.
+// The turned and shifted view. The map has to outlive it.
 class RotatedRectilinearNodes {
   public:
     explicit RotatedRectilinearNodes(const RotatedRectilinearMap& map)

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/projection/frames.h"
+
+#include "base/rounding.h"
+
+namespace varnel {
+
+PixelPosition SourceFrame::Centre() const {
+    CheckShift(shift);
+    return {CLng(size.width / 2 + shift.x, "OfsetX"), CLng(size.height / 2 + shift.y, "OfsetY")};
+}
+
+// R = 50 * side / ratio * 100 / effect, the side being the width of a landscape frame and the
+// height of an upright one; single precision at the end only.
+float SourceFrame::CircleRadius(float effect) const {
+    const std::int32_t side = landscape ? size.width : size.height;
+    const std::int32_t fiftySides = CLng(50.0 * side, ReasonCode::PictureSide);
+    return ToSingle(fiftySides / NonZero(static_cast<double>(ratio), "Ratio") * 100.0 /
+                        NonZero(static_cast<double>(effect), "EffectVarnel"),
+                    ReasonCode::CircleRadius);
+}
+
+CentreAndExtents OutputFrame::Extents() const {
+    return ImageCentre(size, shift);
+}
+
+OutputFrame SameAs(const SourceFrame& source) {
+    return {source.size, source.shift};
+}
+
+OutputFrame Resized(const SourceFrame& source, PixelSize size) {
+    const double scale = size.width / static_cast<double>(source.size.width);
+    return {size, {Int(source.shift.x * scale), Int(source.shift.y * scale)}, scale};
+}
+
+}  // namespace varnel

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The two pictures between which a map leads. Both know nothing of pixels' colours; what a record
+// says about the photo stands in the one, what is wanted of the result in the other. Rows count
+// from the bottom row. Nothing here throws until it is asked for.
+#pragma once
+
+#include <functional>
+
+#include "remap/projection/geometry.h"
+
+namespace varnel {
+
+struct PixelPosition {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+};
+
+// The photo.
+struct SourceFrame {
+    PixelSize size;
+    bool landscape = true;
+    SensorSize sensor;
+    CentreShift shift{};  // of the image circle's centre from the photo's middle, whole pixels
+    float ratio = 0.0F;   // the sensor's width in percent of the circle's diameter
+
+    // Throws DivisionByZeroError when the side of the sensor that counts is 0.
+    double PixelsPerMillimetre() const { return PixelsPerUnit(size.width, landscape, sensor); }
+    // Of the image circle. Throws OverflowError.
+    PixelPosition Centre() const;
+    // Of the image circle in pixels, or with another effect (percent) of the circle that the Varnel
+    // projection lays out. Throws RunTimeError when ratio or effect is 0 or a value overflows.
+    float CircleRadius(float effect = 100.0F) const;
+};
+
+// The result.
+struct OutputFrame {
+    PixelSize size;
+    CentreShift shift{};  // of the projection's centre from the middle, whole pixels
+    // Pixels for each of those that the projection has where the result is as large as the photo:
+    // it multiplies the pixels per unit of the projection, whatever that is (the tangent of the
+    // angle, the angle itself, a pixel of the photo).
+    double scale = 1.0;
+
+    // The centre and how far loops reach from it. Throws OverflowError.
+    CentreAndExtents Extents() const;
+};
+
+// As large as the photo and with its centre.
+OutputFrame SameAs(const SourceFrame& source);
+// The same view in another size: as wide as given, the centre at the same share of the way.
+OutputFrame Resized(const SourceFrame& source, PixelSize size);
+
+// What is wanted of the result for a photo.
+using OutputWish = std::function<OutputFrame(const SourceFrame&)>;
+
+}  // namespace varnel

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The maps that have no edges: what the general engine draws. A new projection of this kind says
+// where a position is read and what its smooth half is; the rest is here.
+#pragma once
+
+#include <span>
+
+#include "remap/projection/axis_owners.h"
+#include "remap/projection/pixel_map.h"
+#include "remap/projection/projection_map.h"
+
+namespace varnel {
+
+// Pixels of a run between two nodes, at most.
+inline constexpr int largestNodeStep = 64;
+// Nodes before the first and after the last one that a run lies between.
+inline constexpr int nodesAround = 2;
+
+// Nodes of a run that starts at a position: the first lies nodesAround steps before it.
+struct NodeRun {
+    int x = 0, y = 0;
+    int step = largestNodeStep;
+};
+
+// The smooth half of a map, also between whole positions: what nodes are worked out with. Agrees
+// with the map to about a millionth of a pixel, or gives no number, where pixels are worked out one
+// by one.
+class SmoothNodes {
+  public:
+    virtual ~SmoothNodes() = default;
+    // Source offsets into u and v, which are as long as there are nodes. Throws nothing.
+    virtual void Fill(const NodeRun& run, std::span<double> u, std::span<double> v) const = 0;
+};
+
+// By a formula with SourceOffset At(double x, double y).
+template <class Formula>
+class NodesBy : public SmoothNodes {
+  public:
+    explicit NodesBy(Formula formula) : formula_(std::move(formula)) {}
+    void Fill(const NodeRun& run, std::span<double> u, std::span<double> v) const override {
+        for (std::size_t n = 0; n < u.size(); ++n) {
+            const double along = (static_cast<double>(n) - nodesAround) * run.step;
+            const SourceOffset offset = formula_.At(run.x + along, run.y);
+            u[n] = offset.u;
+            v[n] = offset.v;
+        }
+    }
+
+  private:
+    Formula formula_;
+};
+
+class SmoothMap : public ProjectionMap {
+  public:
+    // The offset at a loop position. Throws nothing.
+    virtual SourceOffset At(int x, int y) const = 0;
+    virtual std::unique_ptr<SmoothNodes> Nodes() const = 0;
+    // Whether the four positions (x, y), (-x, y), (x, -y), (-x, -y) read mirror images of one
+    // another, so that one is enough.
+    virtual bool IsFourfold() const { return false; }
+
+    // The loops over columns and rows.
+    virtual LoopAxis ColumnAxis() const;
+    virtual LoopAxis RowAxis() const;
+
+    const PixelPosition& SourceCentre() const { return sourceCentre_; }
+    const OutputFrame& Output() const { return output_; }
+    const CentreAndExtents& Extents() const { return extents_; }  // on the result
+
+    SourceOffset OffsetAt(int x, int y) const override { return At(x, y); }
+    ResultLines Lines() const override;
+    float ProgressMaximum() const override;
+    float ProgressAt(int column) const override;
+    int LastLine() const override;
+    const SmoothMap* AsSmooth() const override { return this; }
+
+  protected:
+    // Throws OverflowError.
+    SmoothMap(const SourceFrame& source, const OutputFrame& output);
+
+  private:
+    PixelPosition sourceCentre_;
+    OutputFrame output_;
+    CentreAndExtents extents_;
+};
+
+}  // namespace varnel

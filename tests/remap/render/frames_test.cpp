@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Results of other sizes than the photo's: the engine against the plain loops, and where they read.
+
+#include <gtest/gtest.h>
+
+#include "remap/analysis/inverse_mapping.h"
+#include "remap/projection/projection_info.h"
+#include "remap/render/reference/render.h"
+#include "remap/render/region_renderer.h"
+#include "tests/remap/render/engine_pictures.h"
+#include "tests/support/records.h"
+
+namespace varnel {
+namespace {
+
+using testing::Compare;
+using testing::FisheyeRecord;
+using testing::PhotoLike;
+
+constexpr PixelSize photo{301, 200};
+
+struct Shape {
+    const char* name;
+    OutputWish wish;
+};
+
+OutputWish InSize(PixelSize size) {
+    return [size](const SourceFrame& source) { return Resized(source, size); };
+}
+
+std::vector<Shape> Shapes() {
+    return {{"half", InSize({150, 100})},
+            {"twice", InSize({602, 400})},
+            {"odd", InSize({211, 170})},
+            {"wider", [](const SourceFrame& source) {
+                 OutputFrame frame = SameAs(source);
+                 frame.size = {400, 150};
+                 frame.shift = {30.0, -12.0};
+                 return frame;
+             }}};
+}
+
+std::vector<ImageRecord> RecordsOf(Projection projection) {
+    std::vector<ImageRecord> records(3, FisheyeRecord());
+    records[1].OfsetX = 33.3F;
+    records[1].OfsetY = -20.0F;
+    records[2].RotateX = 20.0F;
+    records[2].RotateZ = 11.0F;
+    records[2].TranslateX = 3.1F;
+    records[2].EffectVarnel = 40.0F;
+    if (projection == Projection::Horizon) {
+        records[0].EffectVarnel = 250.0F;
+    }
+    return records;
+}
+
+BitmapHandle Drawn(decltype(&Render) renderer, Projection projection, const ImageRecord& record,
+                   const OutputWish& wish) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = PhotoLike(photo);
+    bitmaps.ResultBitmap = testing::Flat(photo);
+    SilentProgress silent;
+    RenderContext context{bitmaps};
+    context.output = wish;
+    renderer(projection, record, SizeKind::Large, silent, context);
+    return std::move(bitmaps.ResultBitmap);
+}
+
+TEST(OutputFrame, TheEngineAndItsRowsAgreeWithThePlainLoopsInOtherSizes) {
+    for (const Projection projection : AllProjections()) {
+        for (const Shape& shape : Shapes()) {
+            for (const ImageRecord& record : RecordsOf(projection)) {
+                SCOPED_TRACE(ToText(projection).toStdString() + " " + shape.name);
+                const BitmapHandle engine = Drawn(&Render, projection, record, shape.wish);
+                const BitmapHandle loops =
+                    Drawn(&reference::Render, projection, record, shape.wish);
+                const PixelSize wanted = shape.wish(FramesOf(record, photo).source).size;
+                ASSERT_EQ(SizeOf(engine.get()).width, wanted.width);
+                ASSERT_EQ(SizeOf(engine.get()).height, wanted.height);
+                const auto difference = Compare(engine.get(), loops.get());
+                EXPECT_LE(difference.largest, 1);
+                EXPECT_LT(difference.share, 0.002);
+                const BitmapHandle source = PhotoLike(photo);
+                RegionRenderer part;
+                part.Start(projection, record, source.get(), shape.wish);
+                part.DrawSome({0, wanted.height - 1}, std::chrono::seconds(9));
+                EXPECT_EQ(Compare(part.Result(), engine.get()).largest, 0);
+            }
+        }
+    }
+}
+
+TEST(OutputFrame, OfThePhotosSizeChangesNoByte) {
+    for (const Projection projection : AllProjections()) {
+        for (const ImageRecord& record : RecordsOf(projection)) {
+            const BitmapHandle same = Drawn(&Render, projection, record, InSize(photo));
+            const BitmapHandle plain = Drawn(&Render, projection, record, {});
+            EXPECT_EQ(Compare(same.get(), plain.get()).largest, 0);
+        }
+    }
+}
+
+TEST(OutputFrame, TwiceTheSizeReadsTheSamePlacesAtTwiceTheDistance) {
+    ImageRecord record = FisheyeRecord();
+    for (const Projection projection : AllProjections()) {
+        SCOPED_TRACE(ToText(projection).toStdString());
+        const InverseMapping once(projection, record, photo);
+        const InverseMapping twice(projection, record, photo, InSize({602, 400}));
+        ASSERT_EQ(twice.ResultSize().width, 602);
+        ASSERT_EQ(twice.SourceSize().width, 301);
+        for (const auto& [x, y] : {std::pair(40, 30), std::pair(-60, 20), std::pair(0, -50)}) {
+            const auto near = once.ReadAt(150 + x, 100 + y);
+            const auto far = twice.ReadAt(301 + 2 * x, 200 + 2 * y);
+            ASSERT_TRUE(near && far);
+            EXPECT_NEAR(near->x, far->x, 0.01);
+            EXPECT_NEAR(near->y, far->y, 0.01);
+        }
+    }
+}
+
+TEST(OutputFrame, WhatNoLoopWritesIsBlackInAnotherSize) {
+    ImageRecord record = FisheyeRecord();
+    record.TranslateY = 0.25F;  // half a pixel: every second row stays unwritten
+    const OutputWish higher = [](const SourceFrame& source) {
+        OutputFrame frame = SameAs(source);
+        frame.size.height = 220;
+        return frame;
+    };
+    const BitmapHandle drawn = Drawn(&Render, Projection::Rectilinear, record, higher);
+    const InverseMapping places(Projection::Rectilinear, record, photo, higher);
+    int untouched = 0;
+    for (int y = 0; y < 220; ++y) {
+        if (places.Untouched(150, y)) {
+            PixelColor colour{1, 1, 1, 0};
+            GetPixelColor(drawn.get(), 150, y, colour);
+            EXPECT_EQ(colour.blue + colour.green + colour.red, 0);
+            ++untouched;
+        }
+    }
+    EXPECT_GT(untouched, 100);
+}
+
+}  // namespace
+}  // namespace varnel

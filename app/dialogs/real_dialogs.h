@@ -6,6 +6,7 @@
 
 #include "app/view/dialogs.h"
 #include "pipeline/conversion/batch_run.h"
+#include "state/editing/working_state.h"
 #include "state/settings/settings_store.h"
 
 namespace varnel {

@@ -115,19 +115,6 @@ SliderRow* AdjustmentPanel::Row(SliderId id) const {
     return nullptr;
 }
 
-ControlValues AdjustmentPanel::Values() const {
-    ControlValues values;
-    values.projection = projections_->checkedId();
-    for (const SliderRow* const row : rows_) {
-        SetValueOf(row->Data().id, row->Value(), values);
-    }
-    return values;
-}
-
-Projection AdjustmentPanel::Chosen() const {
-    return ProjectionFromIndex(projections_->checkedId());
-}
-
 void AdjustmentPanel::Show(const ControlValues& values) {
     const Projection projection = ProjectionFromIndex(values.projection);
     projections_->button(static_cast<int>(projection))->setChecked(true);
@@ -137,10 +124,6 @@ void AdjustmentPanel::Show(const ControlValues& values) {
             row->Show(*value);
         }
     }
-}
-
-void AdjustmentPanel::ShowEffect(int percent) {
-    Row(SliderId::Effect)->Show(percent);
 }
 
 void AdjustmentPanel::ShowFor(Projection projection) {

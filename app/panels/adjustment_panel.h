@@ -21,12 +21,9 @@ class AdjustmentPanel : public QWidget {
   public:
     explicit AdjustmentPanel(QWidget* parent = nullptr);
 
-    ControlValues Values() const;
-    Projection Chosen() const;
     // Checks the projection's button, shows what belongs to it and sets every slider, without
-    // telling anybody.
+    // signals of the rows.
     void Show(const ControlValues& values);
-    void ShowEffect(int percent);
     // Shows the sliders and labels of a projection and hides the others.
     void ShowFor(Projection projection);
     const std::array<SliderRow*, 8>& Rows() const { return rows_; }

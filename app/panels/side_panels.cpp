@@ -59,13 +59,11 @@ bool EquipmentPanel::eventFilter(QObject* watched, QEvent* event) {
     return QGroupBox::eventFilter(watched, event);
 }
 
-void EquipmentPanel::Fill(const GearTable& gears) {
+void EquipmentPanel::Fill(const QStringList& gearNames, int selected) {
     const QSignalBlocker blocker(gears_);
     gears_->clear();
-    for (int n = 1; n <= gears.UpperBound(); ++n) {
-        gears_->addItem(gears(n).GearName);
-    }
-    gears_->setCurrentIndex(gears.Default() - 1);
+    gears_->addItems(gearNames);
+    gears_->setCurrentIndex(selected - 1);
 }
 
 void EquipmentPanel::Show(const QString& gearName) {

@@ -21,8 +21,8 @@ class EquipmentPanel : public QGroupBox {
     Q_OBJECT
   public:
     explicit EquipmentPanel(QWidget* parent = nullptr);
-    // All gear names in table order; the default gear is selected.
-    void Fill(const GearTable& gears);
+    // All gear names in table order; the one of this number, from 1, is selected.
+    void Fill(const QStringList& gearNames, int selected);
     // A photo's gear. A name that is not among them is shown with a mark; none is selected then,
     // and there is none to be applied to all.
     void Show(const QString& gearName);

@@ -106,6 +106,7 @@ void SliderRow::OnValue(int value) {
     if (silent_) {
         return;
     }
+    Q_EMIT Moved(value);
     if (slider_->isSliderDown()) {
         Q_EMIT Dragged();
     } else {

@@ -21,7 +21,7 @@ class SliderRow : public QWidget {
     const SliderRowData& Data() const { return data_; }
     QSlider* Slider() const { return slider_; }
     int Value() const { return slider_->value(); }
-    // Sets slider, spin box and caption without a word to anybody.
+    // Sets slider, spin box and caption without a signal.
     void Show(int value);
     // Quiet as Show; a value outside moves to the nearest end.
     void SetRange(const ControlRange& range);
@@ -29,6 +29,8 @@ class SliderRow : public QWidget {
     void SetShown(bool shown);
 
   Q_SIGNALS:
+    // By the user; comes before what says whether it is final.
+    void Moved(int value);
     // While the thumb is dragged: nothing is final yet.
     void Dragged();
     // The value changed for good: thumb released, key, wheel, click, spin box or program.

@@ -75,12 +75,12 @@ void CircleTools::Connect() {
     connect(bar_, &CircleBar::Agreed, this, &CircleTools::Take);
     connect(bar_, &CircleBar::Declined, this, &CircleTools::Decline);
     // After what these do to the current record.
-    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &CircleTools::Refresh,
+    connect(&workspace_.model.list, &ImageSelection::Chosen, this, &CircleTools::Refresh,
             Qt::QueuedConnection);
     connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
             Qt::QueuedConnection);
-    view_.WhenResultShown([this] { Refresh(); });
-    workspace_.WhenGearRestored([this](const GearChange& change) { RestoreGear(change); });
+    connect(&view_, &WindowView::ResultShown, this, [this] { Refresh(); });
+    connect(&workspace_.model.steps, &ListSteps::GearRestored, this, &CircleTools::RestoreGear);
 }
 
 void CircleTools::OnToggled(bool on) {
@@ -99,8 +99,8 @@ void CircleTools::OnToggled(bool on) {
 
 // A gear that was given to all photos has its say before its circle is shown or changed.
 void CircleTools::PrepareCurrent() {
-    if (workspace_.Current() != nullptr) {
-        workspace_.PreparedCurrent();
+    if (workspace_.model.list.Current() != nullptr) {
+        workspace_.preparation.PreparedCurrent();
     }
 }
 
@@ -110,12 +110,12 @@ PixelSize CircleTools::PhotoSize() const {
 }
 
 std::optional<ImageCircle> CircleTools::Shown() {
-    const ImageRecord* const image = workspace_.Current();
+    const ImageRecord* const image = workspace_.model.list.Current();
     const PixelSize size = PhotoSize();
     if (image == nullptr || size.width == 0) {
         return std::nullopt;
     }
-    if (trial_ && trialPhoto_ == workspace_.CurrentPath()) {
+    if (trial_ && trialPhoto_ == workspace_.model.list.CurrentPath()) {
         return trial_;
     }
     const ImageCircle circle = CircleOf(*image, size);
@@ -123,13 +123,13 @@ std::optional<ImageCircle> CircleTools::Shown() {
 }
 
 int CircleTools::GearNumber() {
-    const ImageRecord* const image = workspace_.Current();
+    const ImageRecord* const image = workspace_.model.list.Current();
     return image == nullptr ? 0 : state_.Gear.Find(image->GearName);
 }
 
 void CircleTools::Try(const ImageCircle& circle) {
     trial_ = circle;
-    trialPhoto_ = workspace_.CurrentPath();
+    trialPhoto_ = workspace_.model.list.CurrentPath();
     asked_.reset();
     Refresh();
 }
@@ -144,27 +144,28 @@ void CircleTools::Refresh() {
     if (!entry_->isChecked()) {
         return;
     }
-    if (trialPhoto_ != workspace_.CurrentPath()) {
+    if (trialPhoto_ != workspace_.model.list.CurrentPath()) {
         trial_.reset();
     }
     parts_.pictures->From()->RedrawOverlays();
-    if (trial_ && asked_ && *asked_ == workspace_.Current()->GearName) {
+    if (trial_ && asked_ && *asked_ == workspace_.model.list.Current()->GearName) {
         return;  // a new preview does not answer the question
     }
     asked_.reset();
     const std::optional<ImageCircle> circle = Shown();
-    bar_->ShowNumbers(circle
-                          ? NumbersText(GearCircleFor(*circle, *workspace_.Current(), PhotoSize()))
-                          : QString(),
-                      circle.has_value(), circle && IsNewToGear(*circle));
+    bar_->ShowNumbers(
+        circle ? NumbersText(GearCircleFor(*circle, *workspace_.model.list.Current(), PhotoSize()))
+               : QString(),
+        circle.has_value(), circle && IsNewToGear(*circle));
 }
 
 bool CircleTools::IsNewToGear(const ImageCircle& circle) {
     const int n = GearNumber();
-    if (n == 0 || (!trial_ && CircleOf(*workspace_.Current(), PhotoSize()).radius <= 0.0)) {
+    if (n == 0 ||
+        (!trial_ && CircleOf(*workspace_.model.list.Current(), PhotoSize()).radius <= 0.0)) {
         return false;
     }
-    const GearCircle numbers = GearCircleFor(circle, *workspace_.Current(), PhotoSize());
+    const GearCircle numbers = GearCircleFor(circle, *workspace_.model.list.Current(), PhotoSize());
     const GearRecord& gear = state_.Gear(n);
     const auto differ = [](float one, float other) { return std::fabs(one - other) > 0.05F; };
     return differ(numbers.OfsetX, gear.OfsetX) || differ(numbers.OfsetY, gear.OfsetY) ||
@@ -173,7 +174,8 @@ bool CircleTools::IsNewToGear(const ImageCircle& circle) {
 
 void CircleTools::Find() {
     const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (photo == nullptr || workspace_.Current() == nullptr || workspace_.Busy()) {
+    if (photo == nullptr || workspace_.model.list.Current() == nullptr ||
+        workspace_.model.activity.Busy()) {
         return;
     }
     try {
@@ -194,13 +196,13 @@ void CircleTools::Find() {
 void CircleTools::Ask() {
     PrepareCurrent();
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
-        asked_ = workspace_.Current()->GearName;
-        bar_->Ask(
-            tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
-               "keep their "
-               "circle, but for the current one.")
-                .arg(workspace_.Current()->GearName,
-                     NumbersText(GearCircleFor(*circle, *workspace_.Current(), PhotoSize()))));
+        asked_ = workspace_.model.list.Current()->GearName;
+        bar_->Ask(tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
+                     "keep their "
+                     "circle, but for the current one.")
+                      .arg(workspace_.model.list.Current()->GearName,
+                           NumbersText(GearCircleFor(*circle, *workspace_.model.list.Current(),
+                                                     PhotoSize()))));
     }
 }
 
@@ -212,17 +214,17 @@ void CircleTools::Decline() {
 void CircleTools::Take() {
     const int gear = GearNumber();
     const std::optional<ImageCircle> shown = Shown();
-    if (!shown || gear == 0 || workspace_.Busy() || view_.Locked()) {
+    if (!shown || gear == 0 || workspace_.model.activity.Busy() || view_.Locked()) {
         return;
     }
-    const GearCircle circle = GearCircleFor(*shown, *workspace_.Current(), PhotoSize());
+    const GearCircle circle = GearCircleFor(*shown, *workspace_.model.list.Current(), PhotoSize());
     const GearRecord before = state_.Gear(gear);
-    TakeCircle(circle, state_.Gear(gear), state_.Images, view_.CurrentLine() + 1);
+    TakeCircle(circle, state_.Gear(gear), state_.Images, workspace_.model.list.CurrentLine() + 1);
     SaveGear(store_, state_.Gear);
-    workspace_.NoteStep(StepKind::Circle,
-                        {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
+    workspace_.model.steps.Note(
+        StepKind::Circle, {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
     Reset();
-    workspace_.Preview();
+    workspace_.preview.Preview();
     view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back.")
                          .arg(state_.Gear(gear).GearName));
 }

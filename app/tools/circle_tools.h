@@ -12,6 +12,7 @@
 #include "app/picture/circle_overlay.h"
 #include "app/tools/circle_bar.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 #include "state/editing/gear_circle.h"
 #include "state/settings/settings_store.h"
 

@@ -54,18 +54,18 @@ void FrameTools::FollowControls() {
         connect(row->Slider(), &QSlider::valueChanged, this, soon);
     }
     connect(parts_.adjustments->Projections(), &QButtonGroup::idToggled, this, soon);
-    view_.WhenResultShown(soon);
+    connect(&view_, &WindowView::ResultShown, this, soon);
 }
 
 std::optional<ImageRecord> FrameTools::LiveRecord() const {
-    const ImageRecord* const image = workspace_.Current();
+    const ImageRecord* const image = workspace_.model.list.Current();
     if (image == nullptr || state_.bitmaps.FullSourceBitmap == nullptr) {
         return std::nullopt;
     }
     ImageRecord live = *image;
     // Controls hold whole numbers; a record that they only show keeps its own.
-    if (!(view_.Controls() == ValuesFor(*image))) {
-        StoreControls(view_.Controls(), live);
+    if (!(workspace_.model.controls.Values() == ValuesFor(*image))) {
+        StoreControls(workspace_.model.controls.Values(), live);
     }
     return live;
 }
@@ -110,18 +110,18 @@ void FrameTools::Update() {
 }
 
 FrameSetting FrameTools::Setting() const {
-    return {*workspace_.Current(), view_.Controls(), PhotoSize()};
+    return {*workspace_.model.list.Current(), workspace_.model.controls.Values(), PhotoSize()};
 }
 
 bool FrameTools::MayMove() const {
-    return !view_.Locked() && workspace_.Current() != nullptr;
+    return !view_.Locked() && workspace_.model.list.Current() != nullptr;
 }
 
 void FrameTools::Try(const ControlValues& controls) {
     for (SliderRow* const row : parts_.adjustments->Rows()) {
         const std::optional<int> value = ValueOf(row->Data().id, controls);
         if (value && *value != row->Value()) {
-            row->Show(*value);
+            workspace_.model.controls.Set(row->Data().id, *value);
             Q_EMIT row->Dragged();
         }
     }

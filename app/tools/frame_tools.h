@@ -14,6 +14,7 @@
 #include "app/picture/frame_overlay.h"
 #include "app/picture/magnification_overlay.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 
 namespace varnel {
 

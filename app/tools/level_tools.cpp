@@ -87,14 +87,13 @@ LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView
                           tr("&Level the horizon"), {Qt::CTRL | Qt::Key_L});
     entry_->setCheckable(true);
     connect(entry_, &QAction::toggled, this, &LevelTools::OnToggled);
-    connect(parts_.list->List(), &QListWidget::currentRowChanged, this,
-            [this] { stroke_.Clear(); });
+    connect(&workspace_.model.list, &ImageSelection::Chosen, this, [this] { stroke_.Clear(); });
     leave_->setEnabled(false);
     connect(leave_, &QShortcut::activated, this, &LevelTools::Leave);
 }
 
 void LevelTools::OnToggled(bool on) {
-    if (on && !InfoOf(view_.ChosenProjection()).levels) {
+    if (on && !InfoOf(workspace_.model.controls.ChosenProjection()).levels) {
         view_.ShowStatus(
             tr("Only Rectilinear can be levelled; the others do not turn the camera."));
         Leave();
@@ -114,12 +113,13 @@ void LevelTools::OnToggled(bool on) {
 }
 
 void LevelTools::Level() {
-    const ImageRecord* const image = workspace_.Current();
+    const ImageRecord* const image = workspace_.model.list.Current();
     const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (image == nullptr || photo == nullptr || workspace_.Busy() || view_.Locked()) {
+    if (image == nullptr || photo == nullptr || workspace_.model.activity.Busy() ||
+        view_.Locked()) {
         return;
     }
-    if (!InfoOf(view_.ChosenProjection()).levels) {
+    if (!InfoOf(workspace_.model.controls.ChosenProjection()).levels) {
         view_.ShowStatus(
             tr("Only Rectilinear can be levelled; the others do not turn the camera."));
         return;
@@ -138,17 +138,17 @@ void LevelTools::Level() {
 
 // As if both sliders had been moved, but one step to be undone.
 void LevelTools::Store(const Levelling& level) {
-    parts_.adjustments->Row(SliderId::X)->Show(Whole(level.rotateX));
-    parts_.adjustments->Row(SliderId::Z)->Show(Whole(level.rotateZ));
-    for (const int line : view_.SelectedLines()) {
+    workspace_.model.controls.Set(SliderId::X, Whole(level.rotateX));
+    workspace_.model.controls.Set(SliderId::Z, Whole(level.rotateZ));
+    for (const int line : workspace_.model.list.SelectedLines()) {
         ImageRecord& image = state_.Images(line + 1);
         // The others get their gear first, which the workspace minds.
-        if (image.SettingsApplied || line == view_.CurrentLine()) {
-            StoreControls(view_.Controls(), image);
+        if (image.SettingsApplied || line == workspace_.model.list.CurrentLine()) {
+            StoreControls(workspace_.model.controls.Values(), image);
         }
     }
-    workspace_.NoteStep(StepKind::Level);
-    workspace_.StoreControls(true);
+    workspace_.model.steps.Note(StepKind::Level);
+    workspace_.adjustments.StoreControls(true);
 }
 
 }  // namespace varnel

@@ -11,6 +11,7 @@
 
 #include "app/picture/stroke_overlay.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 #include "state/editing/level_horizon.h"
 
 namespace varnel {

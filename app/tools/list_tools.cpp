@@ -37,9 +37,9 @@ ListTools::ListTools(const WindowParts& parts, WindowView& view, Workspace& work
         Refresh();
     });
     connect(qobject_cast<PhotoList*>(&list_), &PhotoList::MoveWanted, this,
-            [this](int target) { workspace_.MoveSelected(target); });
-    workspace_.WhenStepsChanged([this] { Refresh(); });
-    view_.WhenIdle([this] { NoteLoaded(); });
+            [this](int target) { workspace_.list.MoveSelected(target); });
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, [this] { Refresh(); });
+    connect(&workspace_.model.activity, &Activity::Idle, this, [this] { NoteLoaded(); });
     list_.installEventFilter(this);
     list_.viewport()->installEventFilter(this);
 }
@@ -95,8 +95,8 @@ void ListTools::Cancel() {
 
 // What is wrong with the photo on the workspace, now that nothing is read any more.
 void ListTools::NoteLoaded() {
-    const QString path = workspace_.CurrentPath();
-    if (path.isEmpty() || workspace_.LoadError().Is(ReasonCode::Cancelled)) {
+    const QString path = workspace_.model.list.CurrentPath();
+    if (path.isEmpty() || workspace_.photo.LoadError().Is(ReasonCode::Cancelled)) {
         return;
     }
     if (!view_.Error().isEmpty()) {
@@ -121,7 +121,7 @@ void ListTools::ShowMarks() {
         const QString path = SourcePath(image);
         const auto [letters, words] =
             MarksOf(image, queued.contains(path),
-                    errors_.value(path, ErrorText(workspace_.Unreadable(path))));
+                    errors_.value(path, ErrorText(workspace_.photo.Unreadable(path))));
         const QString tip = path + u'\n' + words;
         if (item->toolTip() != tip) {
             item->setData(PhotoList::marksRole, letters);

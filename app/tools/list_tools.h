@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 #include "decoder/process/picture_reader.h"
 #include "pipeline/dialogs/idle_previews.h"
 
@@ -37,7 +38,9 @@ class ListTools : public QObject, private PreviewMaker {
     void Begin(const QString& path) override;
     std::optional<QImage> Take() override;
     void Cancel() override;
-    bool MayBegin() const override { return newReader_ != nullptr && !workspace_.Busy(); }
+    bool MayBegin() const override {
+        return newReader_ != nullptr && !workspace_.model.activity.Busy();
+    }
 
     void NoteLoaded();
     void ShowMarks();

@@ -24,7 +24,7 @@ ProjectTools::ProjectTools(QMainWindow* window, WindowView& view, Workspace& wor
       ports_(ports) {
     auto* const sep = window->findChild<QAction*>(QStringLiteral("Sep2"));
     AddEntries(window->menuBar()->actions().constFirst()->menu(), sep);
-    workspace_.WhenStepsChanged([this] { ShowState(); });
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, [this] { ShowState(); });
     ShowState();
 }
 
@@ -61,9 +61,9 @@ void ProjectTools::FillRecent() {
 }
 
 void ProjectTools::ShowState() {
-    const QString project = workspace_.Steps().Project();
+    const QString project = workspace_.model.steps.Project();
     view_.ShowProject(QFileInfo(project).completeBaseName(),
-                      !ChangedProject().isEmpty() || workspace_.Steps().UnsavedPhotos() > 0);
+                      !ChangedProject().isEmpty() || workspace_.model.steps.UnsavedPhotos() > 0);
     save_->setEnabled(!state_.Images.Empty() || !project.isEmpty());
     saveAs_->setEnabled(save_->isEnabled());
 }
@@ -85,8 +85,9 @@ QStringList ProjectTools::OpenFrom(const QStringList& files) {
 }
 
 QString ProjectTools::StartFolder() const {
-    const QString known = workspace_.Steps().Project().isEmpty() ? RecentProjects(store_).value(0)
-                                                                 : workspace_.Steps().Project();
+    const QString known = workspace_.model.steps.Project().isEmpty()
+                              ? RecentProjects(store_).value(0)
+                              : workspace_.model.steps.Project();
     if (!known.isEmpty()) {
         return QFileInfo(known).absolutePath();
     }
@@ -95,20 +96,20 @@ QString ProjectTools::StartFolder() const {
 
 void ProjectTools::ChooseAndOpen() {
     const QString path =
-        workspace_.Busy() ? QString() : ports_.dialogs.ChooseProject(StartFolder());
+        workspace_.model.activity.Busy() ? QString() : ports_.dialogs.ChooseProject(StartFolder());
     if (!path.isEmpty()) {
         Open(path);
     }
 }
 
 void ProjectTools::Open(const QString& path) {
-    if (workspace_.Busy()) {
+    if (workspace_.model.activity.Busy()) {
         return;
     }
     ReadProject project = OpenProject(path);
-    const bool asks = project.error.isEmpty() && workspace_.Steps().ChangedSinceSaved() &&
-                      (!state_.Images.Empty() || !workspace_.Steps().Project().isEmpty());
-    if (asks && !SavedOrDiscarded({ChangedProject(), workspace_.Steps().UnsavedPhotos()})) {
+    const bool asks = project.error.isEmpty() && workspace_.model.steps.ChangedSinceSaved() &&
+                      (!state_.Images.Empty() || !workspace_.model.steps.Project().isEmpty());
+    if (asks && !SavedOrDiscarded({ChangedProject(), workspace_.model.steps.UnsavedPhotos()})) {
         return;
     }
     if (asks) {
@@ -129,18 +130,18 @@ void ProjectTools::Show(const ReadProject& project, const QString& path) {
         ++line;
     }
     const bool none = project.missing.size() == project.images.UpperBound();
-    workspace_.TakeProject(project.images, none ? 0 : line, path);
+    workspace_.list.TakeProject(project.images, none ? 0 : line, path);
     Tell(tr("Some photos of the project are not where they were"), project.missing);
     Tell(tr("Some settings of the project could not be used"), project.notes);
 }
 
 QString ProjectTools::ChangedProject() const {
-    const History& steps = workspace_.Steps();
+    const ListSteps& steps = workspace_.model.steps;
     return steps.ChangedSinceSaved() ? QFileInfo(steps.Project()).fileName() : QString();
 }
 
 bool ProjectTools::MayClose() {
-    const UnsavedWork work{ChangedProject(), workspace_.Steps().UnsavedPhotos(),
+    const UnsavedWork work{ChangedProject(), workspace_.model.steps.UnsavedPhotos(),
                            state_.BatchQueue.UpperBound()};
     return (work.project.isEmpty() && work.photos == 0 && work.queued == 0) ||
            SavedOrDiscarded(work);
@@ -160,15 +161,15 @@ bool ProjectTools::SavedOrDiscarded(const UnsavedWork& work) {
 }
 
 bool ProjectTools::Save() {
-    const QString& path = workspace_.Steps().Project();
+    const QString& path = workspace_.model.steps.Project();
     return path.isEmpty() ? SaveAs() : SaveTo(QString(path));
 }
 
 bool ProjectTools::SaveAs() {
-    if (workspace_.Busy()) {
+    if (workspace_.model.activity.Busy()) {
         return false;
     }
-    const QString known = workspace_.Steps().Project();
+    const QString known = workspace_.model.steps.Project();
     const QString proposal =
         known.isEmpty() ? QDir(StartFolder()).filePath(tr("photos") + projectEnding.toString())
                         : known;
@@ -177,7 +178,7 @@ bool ProjectTools::SaveAs() {
 }
 
 bool ProjectTools::SaveTo(const QString& path) {
-    if (workspace_.Busy()) {
+    if (workspace_.model.activity.Busy()) {
         return false;
     }
     const WriteResult written = WriteProject(path, state_.Images);
@@ -185,7 +186,7 @@ bool ProjectTools::SaveTo(const QString& path) {
         Tell(tr("Could not save %1").arg(path), {ErrorText(written.reason)});
         return false;
     }
-    workspace_.MarkSaved(path);
+    workspace_.model.steps.MarkSaved(path);
     NoteRecentProject(path, store_);
     view_.ShowStatus(tr("Saved %1").arg(path));
     return true;

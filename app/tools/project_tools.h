@@ -8,6 +8,7 @@
 
 #include "app/view/dialogs.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 #include "pipeline/photos/project_file.h"
 #include "state/settings/settings_store.h"
 

@@ -84,19 +84,20 @@ void SampleTools::OnMade() {
 }
 
 void SampleTools::Add() {
-    if (workspace_.Busy() || view_.Locked() || QApplication::activeModalWidget() != nullptr) {
+    if (workspace_.model.activity.Busy() || view_.Locked() ||
+        QApplication::activeModalWidget() != nullptr) {
         QTimer::singleShot(200, this, &SampleTools::Add);
         return;
     }
-    workspace_.AddFiles({SamplePath()});
+    workspace_.adder.AddFiles({SamplePath()});
     const int last = state_.Images.UpperBound();
-    if (view_.CurrentLine() != last - 1) {
+    if (workspace_.model.list.CurrentLine() != last - 1) {
         parts_.list->List()->setCurrentRow(last - 1);
     }
     for (int gear = 1; gear <= state_.Gear.UpperBound(); ++gear) {
         if (NamesOf(state_.Gear(gear)) == SampleGear()) {
             if (state_.Images(last).GearName != state_.Gear(gear).GearName) {
-                workspace_.UseGear(gear);
+                workspace_.gears.Use(gear);
             }
             return;
         }

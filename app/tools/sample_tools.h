@@ -9,6 +9,7 @@
 #include <QProcess>
 
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 
 namespace varnel {
 

@@ -24,7 +24,7 @@ SessionTools::SessionTools(ProjectTools& projects, Workspace& workspace, Working
     timer_.setSingleShot(true);
     timer_.setInterval(ports_.sessions.pause);
     connect(&timer_, &QTimer::timeout, this, &SessionTools::Write);
-    workspace_.WhenStepsChanged([this] { NoteChange(); });
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, [this] { NoteChange(); });
 }
 
 void SessionTools::NoteChange() {
@@ -42,7 +42,7 @@ void SessionTools::Write() {
     }
     if (writing_) {
         timer_.start();
-    } else if (state_.Images.Empty() || !workspace_.Steps().ChangedSinceSaved()) {
+    } else if (state_.Images.Empty() || !workspace_.model.steps.ChangedSinceSaved()) {
         Forget();
     } else if (!std::ranges::equal(state_.Images, written_)) {
         Begin();
@@ -139,7 +139,7 @@ void SessionTools::TellError() {
     if (error_.isEmpty()) {
         return;
     }
-    if (workspace_.Busy() || QApplication::mouseButtons() != Qt::NoButton ||
+    if (workspace_.model.activity.Busy() || QApplication::mouseButtons() != Qt::NoButton ||
         QApplication::activeModalWidget() != nullptr) {
         timer_.start();
         return;

@@ -18,19 +18,21 @@ SheetTools::SheetTools(const WindowParts& parts, WindowView& view, Workspace& wo
         AddMenuEntry(parts_.viewMenu, "CmdContactSheet", tr("&Contact sheet"), {Qt::Key_F6});
     connect(entry, &QAction::triggered, this, &SheetTools::Toggle);
     connect(box_, &ContactSheetBox::Chosen, this,
-            [this](const ContactTile& tile) { workspace_.AdoptTile(tile); });
+            [this](const ContactTile& tile) { workspace_.adjustments.AdoptTile(tile); });
     connect(box_, &ContactSheetBox::GivenUp, this,
             [this](const QString& shortage) { view_.ShowStatus(shortage); });
     // What the tiles show would no longer hold.
-    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &SheetTools::CloseSheet);
+    connect(&workspace_.model.list, &ImageSelection::Chosen, this, &SheetTools::CloseSheet);
 }
 
 void SheetTools::Toggle() {
     const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
     if (box_->isVisible()) {
         box_->hide();
-    } else if (photo != nullptr && workspace_.Current() != nullptr && !workspace_.Busy()) {
-        box_->Open(workspace_.PreparedCurrent(), photo, view_.Antialiased());
+    } else if (photo != nullptr && workspace_.model.list.Current() != nullptr &&
+               !workspace_.model.activity.Busy()) {
+        box_->Open(workspace_.preparation.PreparedCurrent(), photo,
+                   workspace_.model.controls.Antialiased());
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include "app/picture/contact_sheet_box.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 
 namespace varnel {
 

@@ -32,23 +32,24 @@ UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Workspace
       redo_(AddMenuEntry(parts.editMenu, "CmdEditRedo", {}, RedoKeys())) {
     connect(undo_, &QAction::triggered, this, [this, &view] {
         if (!view.Locked()) {
-            workspace_.Undo();
+            workspace_.list.Undo();
         }
     });
     connect(redo_, &QAction::triggered, this, [this, &view] {
         if (!view.Locked()) {
-            workspace_.Redo();
+            workspace_.list.Redo();
         }
     });
     for (SliderRow* const row : parts.adjustments->Rows()) {
-        connect(row->Slider(), &QSlider::sliderReleased, this, [this] { workspace_.SealStep(); });
+        connect(row->Slider(), &QSlider::sliderReleased, this,
+                [this] { workspace_.model.steps.Seal(); });
         for (auto* const field : row->findChildren<QSpinBox*>()) {
             field->installEventFilter(this);
         }
     }
     // Every press and release of a mouse button, wherever it is, ends the step at hand.
     QApplication::instance()->installEventFilter(this);
-    workspace_.WhenStepsChanged([this] { ShowNames(); });
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, [this] { ShowNames(); });
     ShowNames();
 }
 
@@ -62,13 +63,13 @@ void UndoTools::ShowNames() {
         entry->setEnabled(!step.isEmpty());
         entry->setText(step.isEmpty() ? plain : named.arg(step));
     };
-    show(undo_, tr("&Undo"), tr("&Undo %1"), workspace_.Steps().UndoName());
-    show(redo_, tr("&Redo"), tr("&Redo %1"), workspace_.Steps().RedoName());
+    show(undo_, tr("&Undo"), tr("&Undo %1"), workspace_.model.steps.UndoName());
+    show(redo_, tr("&Redo"), tr("&Redo %1"), workspace_.model.steps.RedoName());
 }
 
 bool UndoTools::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
-        workspace_.SealStep();
+        workspace_.model.steps.Seal();
     } else if (event->type() == QEvent::ShortcutOverride &&
                qobject_cast<QSpinBox*>(watched) != nullptr) {
         // A number's field would keep these keys for its own text, which it has none to go back to.

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 
 namespace varnel {
 

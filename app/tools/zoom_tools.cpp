@@ -29,7 +29,7 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
     shownScale_->setObjectName(QStringLiteral("ZoomText"));
     shownScale_->hide();
     window->statusBar()->addPermanentWidget(shownScale_);
-    feed_.Serve([this] { return Wish(); }, [this] { return workspace_.Busy(); });
+    feed_.Serve([this] { return Wish(); }, [this] { return workspace_.model.activity.Busy(); });
     connect(&feed_, &RegionScheduler::Drawn, to_, &PictureBox::RedrawRows);
     from_->FollowZoom(&zoom_, [this] { return FullPicture{Photo(), nullptr}; });
     to_->FollowZoom(&zoom_, [this] { return FullPicture{feed_.Part().Result(), &feed_.Part()}; });
@@ -150,7 +150,7 @@ RegionScheduler::Wish ZoomTools::Wish() const {
     if (zoom_.Fit() || to_->Empty()) {
         return {};
     }
-    return {Photo(), view_.ChosenProjection(), view_.Drawn(), VisibleRows()};
+    return {Photo(), workspace_.model.controls.ChosenProjection(), view_.Drawn(), VisibleRows()};
 }
 
 RowSpan ZoomTools::VisibleRows() const {

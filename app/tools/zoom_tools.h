@@ -11,6 +11,7 @@
 #include "app/picture/picture_lines.h"
 #include "app/picture/region_scheduler.h"
 #include "app/view/window_view.h"
+#include "app/workspace/workspace.h"
 #include "pipeline/photos/picture_zoom.h"
 
 namespace varnel {

@@ -9,9 +9,11 @@
 #include <functional>
 #include <vector>
 
-#include "app/workspace/workspace.h"
+#include "base/notices.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_store.h"
+#include "pipeline/photos/file_chooser.h"
+#include "pipeline/photos/photo_loader.h"
 
 namespace varnel {
 

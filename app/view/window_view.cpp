@@ -21,9 +21,16 @@ PixelSize DevicePixels(QSize logical, double ratio) {
 
 }  // namespace
 
-WindowView::WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state)
-    : window_(window), parts_(parts), state_(state), progress_(parts.bar) {
-    QObject::connect(parts_.cancel, &QPushButton::clicked, parts_.cancel, [this] {
+WindowView::WindowView(QMainWindow* window, const WindowParts& parts, WorkspaceModel& model)
+    : window_(window), parts_(parts), model_(model), progress_(parts.bar) {
+    FollowList();
+    FollowControls();
+    FollowGears();
+    connect(&model_, &WorkspaceModel::CurrentShown, this, [this] {
+        ShowTitle(model_.list.Current()->FileName);
+        ShowOffer();
+    });
+    connect(parts_.cancel, &QPushButton::clicked, this, [this] {
         parts_.cancel->setEnabled(false);
         if (cancel_) {
             cancel_();
@@ -31,8 +38,47 @@ WindowView::WindowView(QMainWindow* window, const WindowParts& parts, const Work
     });
 }
 
+void WindowView::FollowList() {
+    QListWidget* const list = parts_.list->List();
+    connect(list, &QListWidget::itemSelectionChanged, this,
+            [this] { model_.list.Select(parts_.list->SelectedLines()); });
+    connect(list, &QListWidget::currentRowChanged, &model_.list, &ImageSelection::Choose);
+    connect(&model_.list, &ImageSelection::Refilled, this, &WindowView::FillList);
+    connect(&model_.list, &ImageSelection::Rearranged, this, &WindowView::FillLines);
+}
+
+void WindowView::FollowControls() {
+    AdjustmentPanel* const panel = parts_.adjustments;
+    ControlModel& controls = model_.controls;
+    connect(panel->Projections(), &QButtonGroup::idToggled, this, [&controls](int id, bool on) {
+        if (on) {
+            controls.ChooseProjection(ProjectionFromIndex(id));
+        }
+    });
+    connect(panel->AutoPreview(), &QCheckBox::toggled, &controls, &ControlModel::SetAutoPreview);
+    connect(panel->Antialiased(), &QCheckBox::toggled, &controls, &ControlModel::SetAntialiased);
+    for (SliderRow* const row : panel->Rows()) {
+        connect(row, &SliderRow::Moved, this,
+                [&controls, row](int value) { controls.Set(row->Data().id, value); });
+    }
+    connect(&controls, &ControlModel::ProjectionChosen, panel, &AdjustmentPanel::ShowFor);
+    connect(&controls, &ControlModel::Shown, this,
+            [this, panel] { panel->Show(model_.controls.Values()); });
+    connect(&controls, &ControlModel::SliderSet, this,
+            [panel](SliderId slider, int value) { panel->Row(slider)->Show(value); });
+}
+
+void WindowView::FollowGears() {
+    EquipmentPanel* const panel = parts_.equipment;
+    connect(panel->Gears(), &QComboBox::currentIndexChanged, this,
+            [this](int index) { model_.gears.Choose(index + 1); });
+    connect(&model_.gears, &GearChoice::Refilled, this,
+            [this, panel] { panel->Fill(model_.gears.Names(), model_.gears.Number()); });
+    connect(&model_.gears, &GearChoice::Shown, panel, &EquipmentPanel::Show);
+}
+
 PixelSize WindowView::PreviewBox() const {
-    return DevicePixels({state_.settings.PreviewWidth, state_.settings.PreviewHeight},
+    return DevicePixels({model_.state.settings.PreviewWidth, model_.state.settings.PreviewHeight},
                         window_->devicePixelRatioF());
 }
 
@@ -41,7 +87,7 @@ PixelSize WindowView::PictureRoom() const {
 }
 
 QSize WindowView::FullSize() const {
-    const Bitmap* const full = state_.bitmaps.FullSourceBitmap.get();
+    const Bitmap* const full = model_.state.bitmaps.FullSourceBitmap.get();
     if (full == nullptr) {
         return {};
     }
@@ -49,25 +95,21 @@ QSize WindowView::FullSize() const {
     return {size.width, size.height};
 }
 
-void WindowView::ShowList(const RecordArray<ImageRecord>& images, int line) {
-    parts_.list->Fill(images);
+void WindowView::FillList() {
+    parts_.list->Fill(model_.list.Images());
     {
         const QSignalBlocker blocker(parts_.list->List());
-        parts_.list->List()->setCurrentRow(images.Empty() ? -1 : line);
+        parts_.list->List()->setCurrentRow(model_.list.CurrentLine());
     }
     ShowOffer();
-    if (whenListShown_) {
-        whenListShown_();
-    }
 }
 
-void WindowView::ShowLines(const RecordArray<ImageRecord>& images, int current,
-                           const std::vector<int>& selected) {
-    parts_.list->Fill(images);
+void WindowView::FillLines() {
+    parts_.list->Fill(model_.list.Images());
     QListWidget* const list = parts_.list->List();
     const QSignalBlocker blocker(list);
-    list->setCurrentRow(current);
-    for (const int line : selected) {
+    list->setCurrentRow(model_.list.CurrentLine());
+    for (const int line : model_.list.SelectedLines()) {
         list->item(line)->setSelected(true);
     }
 }
@@ -94,31 +136,18 @@ void WindowView::ShowTitle(const QString& photo) {
 
 void WindowView::ShowResult(const Bitmap* bitmap) {
     parts_.pictures->To()->Show(bitmap, FullSize());
-    for (const std::function<void()>& then : whenResultShown_) {
-        then();
-    }
+    Q_EMIT ResultShown();
 }
 
 void WindowView::ShowOffer() {
     GearOffer offer;
-    const int n = CurrentLine() + 1;
-    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (n >= 1 && n <= state_.Images.UpperBound()) {
-        const bool asks = state_.settings.OfferGear && photo != nullptr;
-        offer = OfferFor(asks ? photo->metadata.photo.origin : CameraInfo(), state_.Gear,
-                         state_.Images(n));
+    const WorkingState& state = model_.state;
+    const Bitmap* const photo = state.bitmaps.FullSourceBitmap.get();
+    if (const ImageRecord* const image = model_.list.Current()) {
+        const bool asks = state.settings.OfferGear && photo != nullptr;
+        offer = OfferFor(asks ? photo->metadata.photo.origin : CameraInfo(), state.Gear, *image);
     }
-    parts_.offer->Show(offer, state_.Gear);
-}
-
-void WindowView::ShowRecord(const ImageRecord& image) {
-    parts_.equipment->Show(image.GearName);
-    parts_.adjustments->Show(ValuesFor(image));
-    const int current = CurrentLine();
-    if (current >= 0 && &image == &state_.Images(current + 1)) {
-        ShowTitle(image.FileName);
-        ShowOffer();
-    }
+    parts_.offer->Show(offer, model_.state.Gear);
 }
 
 std::shared_ptr<void> WindowView::Hourglass() {

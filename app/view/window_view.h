@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window as the workspace sees it.
+// The main window's parts, which follow the workspace and note in its model what the user does with
+// them. Throws nothing.
 #pragma once
 
 #include <QLabel>
@@ -9,14 +10,14 @@
 #include <QMenu>
 #include <QPointer>
 #include <functional>
-#include <vector>
 
 #include "app/panels/adjustment_panel.h"
 #include "app/panels/gear_offer_row.h"
 #include "app/panels/side_panels.h"
 #include "app/picture/picture_area.h"
 #include "app/view/window_progress.h"
-#include "app/workspace/workspace.h"
+#include "app/workspace/workspace_model.h"
+#include "app/workspace/workspace_view.h"
 
 namespace varnel {
 
@@ -35,26 +36,15 @@ struct WindowParts {
     QLabel* status = nullptr;
 };
 
-class WindowView : public WorkspaceView {
+class WindowView : public QObject, public WorkspaceView {
+    Q_OBJECT
   public:
-    WindowView(QMainWindow* window, const WindowParts& parts, const WorkingState& state);
+    WindowView(QMainWindow* window, const WindowParts& parts, WorkspaceModel& model);
 
-    int CurrentLine() const override { return parts_.list->List()->currentRow(); }
-    std::vector<int> SelectedLines() const override { return parts_.list->SelectedLines(); }
-    ControlValues Controls() const override { return parts_.adjustments->Values(); }
-    Projection ChosenProjection() const override { return parts_.adjustments->Chosen(); }
-    int ChosenGear() const override { return parts_.equipment->Gears()->currentIndex() + 1; }
-    QString ChosenGearName() const override { return parts_.equipment->Gears()->currentText(); }
-    bool AutoPreview() const override { return parts_.adjustments->AutoPreview()->isChecked(); }
-    bool Antialiased() const override { return parts_.adjustments->Antialiased()->isChecked(); }
     PixelSize PreviewBox() const override;
     PixelSize PictureRoom() const override;
     RenderProgress& Progress() override { return progress_; }
 
-    void ShowList(const RecordArray<ImageRecord>& images, int line) override;
-    void ShowLines(const RecordArray<ImageRecord>& images, int current,
-                   const std::vector<int>& selected) override;
-    void ShowRecord(const ImageRecord& image) override;
     void ShowSource(const Bitmap* bitmap) override {
         parts_.pictures->From()->Show(bitmap, FullSize());
     }
@@ -75,12 +65,6 @@ class WindowView : public WorkspaceView {
     void Lock(bool on) override;
     void LetCancel(std::function<void()> cancel) override;
 
-    void Idle() override {
-        for (const auto& then : whenIdle_) {
-            then();
-        }
-    }
-
     // What took the current photo, once it is loaded.
     void ShowOffer();
 
@@ -92,21 +76,22 @@ class WindowView : public WorkspaceView {
     // The settings of the result that is shown; the projection is the chosen one.
     const ImageRecord& Drawn() const { return drawn_; }
     bool Locked() const { return locked_; }
-    // Called when the converted picture is another one or gone.
-    void WhenResultShown(std::function<void()> then) {
-        whenResultShown_.push_back(std::move(then));
-    }
-    // Called when a conversion or a load is over.
-    void WhenIdle(std::function<void()> then) { whenIdle_.push_back(std::move(then)); }
-    // Called when the list was refilled and its line 0, if any, made current.
-    void WhenListShown(std::function<void()> then) { whenListShown_ = std::move(then); }
+
+  Q_SIGNALS:
+    // The converted picture is another one or gone.
+    void ResultShown();
 
   private:
+    void FollowList();
+    void FollowControls();
+    void FollowGears();
+    void FillList();
+    void FillLines();
     QSize FullSize() const;  // of the current photo
 
     QMainWindow* window_;
     WindowParts parts_;
-    const WorkingState& state_;
+    WorkspaceModel& model_;
     WindowProgress progress_;
     ImageRecord drawn_;
     bool locked_ = false;
@@ -114,11 +99,8 @@ class WindowView : public WorkspaceView {
     bool unsaved_ = false;
     QString error_;
     int statusNumber_ = 0;
-    std::vector<std::function<void()>> whenResultShown_;
-    std::vector<std::function<void()>> whenIdle_;
     QPointer<QWidget> focusBeforeLock_;
     std::function<void()> cancel_;
-    std::function<void()> whenListShown_;
 };
 
 }  // namespace varnel

@@ -35,7 +35,7 @@
 namespace varnel {
 
 MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts& ports)
-    : state_(state), store_(store), ports_(ports) {
+    : state_(state), store_(store), ports_(ports), model_(state) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QStringLiteral("Varnel"));
     setAcceptDrops(true);
@@ -51,8 +51,9 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
     setCentralWidget(splitter_);
     BuildStatus();
     BuildMenus();
-    view_ = std::make_unique<WindowView>(this, parts_, state_);
-    workspace_ = std::make_unique<Workspace>(state_, ports_.photos, ports_.notices, *view_);
+    view_ = std::make_unique<WindowView>(this, parts_, model_);
+    workspace_ =
+        std::make_unique<Workspace>(model_, WorkspacePorts{ports_.photos, ports_.notices, *view_});
     new UndoTools(parts_, *view_, *workspace_, this);
     AddRemoveEntry();
     list_ = new ListTools(parts_, *view_, *workspace_, state_, ports_.newSmallReader, this);
@@ -186,7 +187,7 @@ void MDIForm1::Activate() {
         Q_EMIT QuitWanted();
         return;
     }
-    parts_.equipment->Fill(state_.Gear);
+    model_.gears.Refill();
     if (filesAtStart_.isEmpty()) {  // other work comes first
         sessions_->OfferLost();
     }
@@ -215,7 +216,7 @@ void MDIForm1::Quit() {
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {
-    if (workspace_->Busy()) {
+    if (model_.activity.Busy()) {
         closeWanted_ = true;
         event->ignore();
         return;
@@ -230,7 +231,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
 }
 
 void MDIForm1::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls() && !workspace_->Busy()) {
+    if (event->mimeData()->hasUrls() && !model_.activity.Busy()) {
         event->acceptProposedAction();
     }
 }
@@ -242,7 +243,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
             files.append(url.toLocalFile());
         }
     }
-    if (workspace_->Busy() || files.isEmpty()) {
+    if (model_.activity.Busy() || files.isEmpty()) {
         event->ignore();
         return;
     }
@@ -251,7 +252,7 @@ void MDIForm1::dropEvent(QDropEvent* event) {
 }
 
 void MDIForm1::AddFiles(const QStringList& files) {
-    workspace_->AddFiles(projects_->OpenFrom(files));
+    workspace_->adder.AddFiles(projects_->OpenFrom(files));
 }
 
 void MDIForm1::RestoreLayout() {

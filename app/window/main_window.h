@@ -62,7 +62,7 @@ class MDIForm1 : public QMainWindow {
     void OnSliderReset(SliderRow* row);
     void OnProjection(int index);
     void OnRoomChanged();
-    void OnListShown();
+    void OnRefilled();
     void PickPoint(QPoint position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
 
     void AddImages();
@@ -91,6 +91,7 @@ class MDIForm1 : public QMainWindow {
     QAction* morph_ = nullptr;
     QAction* saveImage_ = nullptr;
     QAction* removeImages_ = nullptr;
+    WorkspaceModel model_;
     std::unique_ptr<WindowView> view_;
     std::unique_ptr<Workspace> workspace_;
     ProjectTools* projects_ = nullptr;

@@ -23,28 +23,28 @@ void MDIForm1::ConnectControls() {
     };
     click(parts_.list->Add(), [this] { AddImages(); });
     click(parts_.list->Remove(), [this] { RemoveImages(); });
-    click(parts_.equipment->ApplyToAll(), [this] { workspace_->ApplyGear(); });
-    click(parts_.adjustments->ApplyToAll(), [this] { workspace_->ApplySettings(); });
-    click(parts_.adjustments->PreviewButton(), [this] { workspace_->PreviewNow(); });
-    click(parts_.adjustments->AutoPreview(), [this] { workspace_->Preview(); });
-    click(parts_.adjustments->Antialiased(), [this] { workspace_->Preview(); });
+    click(parts_.equipment->ApplyToAll(), [this] { workspace_->gears.ApplyToAll(); });
+    click(parts_.adjustments->ApplyToAll(), [this] { workspace_->adjustments.ApplyToAll(); });
+    click(parts_.adjustments->PreviewButton(), [this] { workspace_->adjustments.PreviewNow(); });
+    click(parts_.adjustments->AutoPreview(), [this] { workspace_->preview.Preview(); });
+    click(parts_.adjustments->Antialiased(), [this] { workspace_->preview.Preview(); });
     click(parts_.save->SaveAs(), [this] { SaveAs(); });
     click(parts_.save->AddToQueue(), [this] { QueueAll(); });
     click(parts_.save->ProcessQueue(), [this] { ProcessBatch(); });
     click(parts_.offer->Button(), [this] { TakeOffer(); });
     connect(parts_.equipment->Gears(), &QComboBox::activated, this,
-            [this] { workspace_->ChooseGear(); });
+            [this] { workspace_->gears.GiveChosen(); });
     connect(parts_.adjustments->Projections(), &QButtonGroup::idClicked, this,
             &MDIForm1::OnProjection);
-    connect(parts_.list->List(), &QListWidget::currentRowChanged, this, &MDIForm1::OnLine);
+    connect(&model_.list, &ImageSelection::Chosen, this, &MDIForm1::OnLine);
     connect(parts_.list->List(), &QListWidget::itemClicked, this, &MDIForm1::OnLineClicked);
     connect(parts_.pictures->From(), &PictureBox::Released, this, &MDIForm1::PickPoint);
     connect(parts_.pictures, &PictureArea::RoomChanged, this, [this] { roomSettled_.start(150); });
     roomSettled_.setSingleShot(true);
     connect(&roomSettled_, &QTimer::timeout, this, &MDIForm1::OnRoomChanged);
-    view_->WhenListShown([this] { OnListShown(); });
-    view_->WhenIdle([this] {
-        if (!workspace_->Busy() && std::exchange(closeWanted_, false)) {
+    connect(&model_.list, &ImageSelection::Refilled, this, &MDIForm1::OnRefilled);
+    connect(&model_.activity, &Activity::Idle, this, [this] {
+        if (!model_.activity.Busy() && std::exchange(closeWanted_, false)) {
             QTimer::singleShot(0, this, &QWidget::close);
         }
     });
@@ -75,7 +75,8 @@ void MDIForm1::TakeTyped() {
 
 void MDIForm1::ConnectSliders() {
     livePreview_.setSingleShot(true);
-    connect(&livePreview_, &QTimer::timeout, this, [this] { workspace_->PreviewControls(); });
+    connect(&livePreview_, &QTimer::timeout, this,
+            [this] { workspace_->preview.PreviewControls(); });
     for (SliderRow* const row : parts_.adjustments->Rows()) {
         connect(row, &SliderRow::Dragged, &livePreview_, [this] { livePreview_.start(0); });
         connect(row, &SliderRow::Changed, this, [this, row] { OnSliderChanged(row); });
@@ -85,13 +86,13 @@ void MDIForm1::ConnectSliders() {
 
 void MDIForm1::OnLine(int line) {
     changedByPress_ = QGuiApplication::mouseButtons() != Qt::NoButton;
-    workspace_->ShowLine(line);
+    workspace_->photo.ShowLine(line);
 }
 
 // A click on the line that is current already loads its photo again.
 void MDIForm1::OnLineClicked() {
     if (!std::exchange(changedByPress_, false)) {
-        workspace_->ShowLine(parts_.list->List()->currentRow());
+        workspace_->photo.ShowLine(model_.list.CurrentLine());
     }
 }
 
@@ -106,7 +107,7 @@ void MDIForm1::OnSliderChanged(SliderRow* row) {
         row->Slider()->setEnabled(false);
         const auto enable = qScopeGuard([row] { row->Slider()->setEnabled(true); });
         view_->HandleEvents();
-        workspace_->StoreControls(true);
+        workspace_->adjustments.StoreControls(true);
     }
     if (focused != nullptr) {
         focused->setFocus();
@@ -117,28 +118,19 @@ void MDIForm1::OnSliderReset(SliderRow* row) {
     if (view_->Locked()) {
         return;
     }
-    row->Show(0);
+    model_.controls.Set(row->Data().id, 0);
     OnSliderChanged(row);
 }
 
 void MDIForm1::OnProjection(int index) {
-    const Projection projection = ProjectionFromIndex(index);
-    parts_.adjustments->ShowFor(projection);
-    if (const ImageRecord* const image = workspace_->Current()) {
-        ImageRecord shown = *image;
-        shown.Projection = static_cast<std::int16_t>(projection);
-        if (const std::optional<int> effect = ValuesFor(shown).effect) {
-            parts_.adjustments->ShowEffect(*effect);
-        }
-    }
-    workspace_->StoreControls(true);
+    workspace_->adjustments.ChooseProjection(ProjectionFromIndex(index));
 }
 
 // The pictures are made anew only when the window leaves another room for them.
 void MDIForm1::OnRoomChanged() {
     const Bitmap* const full = state_.bitmaps.FullSourceBitmap.get();
     const Bitmap* const reduced = state_.bitmaps.PreviewSourceBitmap.get();
-    if (workspace_->Busy()) {
+    if (model_.activity.Busy()) {
         roomSettled_.start(150);
         return;
     }
@@ -149,18 +141,15 @@ void MDIForm1::OnRoomChanged() {
     // There may have been no memory for the one before.
     if ((reduced == nullptr || wanted.width != SizeOf(reduced).width ||
          wanted.height != SizeOf(reduced).height) &&
-        workspace_->RebuildThumbnail()) {
-        workspace_->Preview();
+        workspace_->photo.RebuildThumbnail()) {
+        workspace_->preview.Preview();
     }
 }
 
-void MDIForm1::OnListShown() {
+void MDIForm1::OnRefilled() {
     UpdateEnabled();
     if (state_.Images.Empty()) {
         view_->ShowTitle({});
-        ShowGears();
-    } else {
-        workspace_->ShowLine(view_->CurrentLine());
     }
 }
 
@@ -171,18 +160,18 @@ void MDIForm1::PickPoint(QPoint /*position*/, Qt::MouseButton /*button*/,
 void MDIForm1::AddImages() {
     const int before = state_.Images.UpperBound();
     if (ports_.dialogs.AddImages(this)) {
-        workspace_->ImagesAdded(before);
+        workspace_->adder.ImagesAdded(before);
     }
 }
 
 void MDIForm1::RemoveImages() {
-    workspace_->RemoveSelected();
+    workspace_->list.RemoveSelected();
 }
 
 void MDIForm1::ManageGears() {
     const std::vector<GearChange> changes = ports_.dialogs.ManageGears(this);
     ShowGears();
-    workspace_->FollowGears(changes, [this](const QString& gear, int photos) {
+    workspace_->gears.Follow(changes, [this](const QString& gear, int photos) {
         return ports_.dialogs.GiveNewNumbers(gear, photos);
     });
 }
@@ -190,26 +179,23 @@ void MDIForm1::ManageGears() {
 void MDIForm1::TakeOffer() {
     const GearOffer offer = parts_.offer->Offer();
     if (offer.gear > 0) {
-        workspace_->UseGear(offer.gear);
+        workspace_->gears.Use(offer.gear);
         return;
     }
-    const GearRecord known = offer.lost ? GearOf(*workspace_->Current()) : GearNamed(offer.names);
-    if (workspace_->Busy() || !ports_.dialogs.DefineGear(known, this)) {
+    const GearRecord known = offer.lost ? GearOf(*model_.list.Current()) : GearNamed(offer.names);
+    if (model_.activity.Busy() || !ports_.dialogs.DefineGear(known, this)) {
         return;
     }
     ShowGears();
     if (offer.lost) {
-        workspace_->NameGear(state_.Gear(state_.Gear.UpperBound()).GearName);
+        workspace_->gears.NameCurrent(state_.Gear(state_.Gear.UpperBound()).GearName);
     } else if (const int gear = parts_.offer->Offer().gear; gear > 0) {
-        workspace_->UseGear(gear);
+        workspace_->gears.Use(gear);
     }
 }
 
 void MDIForm1::ShowGears() {
-    parts_.equipment->Fill(state_.Gear);
-    if (const ImageRecord* const image = workspace_->Current()) {
-        parts_.equipment->Show(image->GearName);
-    }
+    workspace_->gears.Refill();
     view_->ShowOffer();
 }
 
@@ -217,8 +203,8 @@ void MDIForm1::ChangeDefaults() {
     ports_.dialogs.ChangeDefaults(this);
     parts_.pictures->SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
     view_->ShowOffer();
-    if (workspace_->RebuildThumbnail()) {
-        workspace_->Preview();
+    if (workspace_->photo.RebuildThumbnail()) {
+        workspace_->preview.Preview();
     }
 }
 
@@ -228,11 +214,11 @@ void MDIForm1::ShowAbout() {
 
 void MDIForm1::SaveAs() {
     TakeTyped();
-    workspace_->SaveAs(ports_.fileChooser);
+    workspace_->saver.SaveAs(ports_.fileChooser);
 }
 
 void MDIForm1::QueueAll() {
-    ShowsQueue()(workspace_->AddToBatchQueue());
+    ShowsQueue()(workspace_->list.AddToBatchQueue());
 }
 
 QueueChanged MDIForm1::ShowsQueue() {
@@ -246,17 +232,17 @@ void MDIForm1::ProcessBatch() {
     ports_.dialogs.ProcessBatch(
         ShowsQueue(),
         [this](const ImageRecord& entry, const QString& file) {
-            workspace_->MarkWritten(entry, file);
+            model_.steps.MarkWritten(entry, file);
         },
         this);
 }
 
 void MDIForm1::Morph() {
-    ports_.dialogs.Morph(workspace_->PreparedCurrent(), ShowsQueue(), this);
+    ports_.dialogs.Morph(workspace_->preparation.PreparedCurrent(), ShowsQueue(), this);
 }
 
 void MDIForm1::Stretch() {
-    ports_.dialogs.Stretch(workspace_->CurrentPath(), this);
+    ports_.dialogs.Stretch(model_.list.CurrentPath(), this);
 }
 
 void MDIForm1::UpdateEnabled() {

@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Steps back and forth, and the list as a whole: the part of the workspace that minds the history.
+#include "app/workspace/list_commands.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "app/workspace/workspace.h"
 #include "state/editing/list_order.h"
 
 namespace varnel {
@@ -31,89 +30,35 @@ std::vector<int> LinesNow(const std::vector<int>& origin, const std::vector<int>
 
 }  // namespace
 
-void Workspace::TellSteps() {
-    for (const auto& then : whenStepsChanged_) {
-        then();
-    }
+void ListCommands::Undo() {
+    Restore(&ListSteps::Undo);
 }
 
-void Workspace::NoteStep(const QString& name, const StepKey& key, const StepBesides& besides) {
-    history_.Note(name, key, besides);
-    TellSteps();
+void ListCommands::Redo() {
+    Restore(&ListSteps::Redo);
 }
 
-void Workspace::NoteStep(StepKind kind, const StepBesides& besides) {
-    NoteStep(StepName(kind), {}, besides);
-}
-
-void Workspace::Absorb() {
-    history_.Absorb();
-    TellSteps();
-}
-
-void Workspace::MarkSaved(const QString& project) {
-    NoteStep(StepKind::Other);
-    history_.MarkSaved(project);
-    TellSteps();
-}
-
-void Workspace::MarkWritten(const ImageRecord& image, const QString& file) {
-    history_.MarkWritten(image, file);
-    TellSteps();
-}
-
-// What only rounds the numbers to what the controls show is no step.
-void Workspace::NoteStored(const std::vector<int>& lines,
-                           const std::vector<ControlValues>& before) {
-    for (std::size_t n = 0; n < lines.size(); ++n) {
-        const ControlValues after = ValuesFor(state_.Images(lines[n] + 1));
-        if (after == before[n]) {
-            continue;
-        }
-        const ControlStep step = StepBetween(before[n], after);
-        StepKey key;
-        if (step.slider) {
-            key = lines;
-            key.insert(key.begin(), static_cast<int>(*step.slider));
-        }
-        NoteStep(step.name, key);
+void ListCommands::Restore(std::optional<Restored> (ListSteps::*step)()) {
+    if (model_.activity.Busy() || model_.state.loadingControls) {
         return;
     }
-    Absorb();
-}
-
-void Workspace::Undo() {
-    Restore(&History::Undo);
-}
-
-void Workspace::Redo() {
-    Restore(&History::Redo);
-}
-
-void Workspace::Restore(std::optional<Restored> (History::*step)()) {
-    if (Busy() || state_.loadingControls) {
-        return;
-    }
-    NoteStep(StepKind::Other);
-    const ImageRecord shown = Current() != nullptr ? *Current() : ImageRecord();
-    if (const std::optional<Restored> restored = (history_.*step)()) {
+    model_.steps.Note(StepKind::Other);
+    const ImageRecord* const current = model_.list.Current();
+    const ImageRecord shown = current != nullptr ? *current : ImageRecord();
+    if (const std::optional<Restored> restored = (model_.steps.*step)()) {
         ShowRestored(*restored, shown);
-        TellSteps();
-        if (restored->besides.gear && whenGearRestored_) {
-            whenGearRestored_(*restored->besides.gear);
-        }
+        model_.steps.NotifyRestored(*restored);
     }
 }
 
-void Workspace::ShowRestored(const Restored& restored, const ImageRecord& shown) {
-    const int count = state_.Images.UpperBound();
-    const int before = view_.CurrentLine();
+void ListCommands::ShowRestored(const Restored& restored, const ImageRecord& shown) {
+    const int count = model_.list.Images().UpperBound();
+    const int before = model_.list.CurrentLine();
     int current = before;
     if (restored.origin) {
         current = LineNow(*restored.origin, before);
         if (current >= 0) {
-            view_.ShowLines(state_.Images, current,
-                            LinesNow(*restored.origin, view_.SelectedLines()));
+            model_.list.Rearrange(current, LinesNow(*restored.origin, model_.list.SelectedLines()));
         }
     } else if (!restored.besides.onAllLines && !restored.changed.empty() &&
                std::ranges::find(restored.changed, before) == restored.changed.end()) {
@@ -124,49 +69,74 @@ void Workspace::ShowRestored(const Restored& restored, const ImageRecord& shown)
     } else if (current < 0) {
         ShowNewList(restored.changed.empty() ? std::clamp(before, 0, count - 1)
                                              : restored.changed.front());
-    } else if (!(*Current() == shown)) {
-        ShowInControls(*Current());
-        Preview();
+    } else if (!(*model_.list.Current() == shown)) {
+        model_.ShowInControls(*model_.list.Current());
+        preview_.Preview();
     }
 }
 
-void Workspace::ShowNewList(int line) {
-    if (state_.Images.Empty()) {
-        state_.bitmaps = {};
-        view_.ShowSource(nullptr);
-        view_.ShowResult(nullptr);
-        view_.ShowStatus({});
-        view_.ShowError({});
+void ListCommands::ShowNewList(int line) {
+    if (model_.list.Images().Empty()) {
+        model_.state.bitmaps = {};
+        ports_.view.ShowSource(nullptr);
+        ports_.view.ShowResult(nullptr);
+        ports_.view.ShowStatus({});
+        ports_.view.ShowError({});
     }
-    view_.ShowList(state_.Images, line);
+    photo_.ShowList(line);
 }
 
-void Workspace::MoveSelected(int target) {
-    if (Busy()) {
+void ListCommands::RemoveSelected() {
+    RecordArray<ImageRecord> kept;
+    const std::vector<int> removed = model_.list.SelectedLines();
+    std::size_t next = 0;
+    for (int line = 0; line < model_.list.Images().UpperBound(); ++line) {
+        if (next < removed.size() && removed[next] == line) {
+            ++next;
+        } else {
+            kept.Append(std::move(model_.list.OnLine(line)));
+        }
+    }
+    model_.list.Images() = std::move(kept);
+    model_.steps.Note(StepKind::Remove);
+    ShowNewList(0);
+}
+
+void ListCommands::MoveSelected(int target) {
+    if (model_.activity.Busy()) {
         return;
     }
-    const std::vector<int> selected = view_.SelectedLines();
-    const std::vector<int> order = OrderAfterMove(state_.Images.UpperBound(), selected, target);
+    const std::vector<int> selected = model_.list.SelectedLines();
+    const std::vector<int> order =
+        OrderAfterMove(model_.list.Images().UpperBound(), selected, target);
     if (std::ranges::is_sorted(order)) {
         return;
     }
-    const int current = view_.CurrentLine();
+    const int current = model_.list.CurrentLine();
     RecordArray<ImageRecord> moved;
     for (const int line : order) {
-        moved.Append(std::move(state_.Images(line + 1)));
+        moved.Append(std::move(model_.list.OnLine(line)));
     }
-    state_.Images = std::move(moved);
-    view_.ShowLines(state_.Images, LineNow(order, current), LinesNow(order, selected));
-    NoteStep(StepKind::Reorder);
+    model_.list.Images() = std::move(moved);
+    model_.list.Rearrange(LineNow(order, current), LinesNow(order, selected));
+    model_.steps.Note(StepKind::Reorder);
 }
 
-void Workspace::TakeProject(const RecordArray<ImageRecord>& images, int line,
-                            const QString& project) {
-    NoteStep(StepKind::Other);
-    state_.Images = images;
-    const StepKind kind = project.isEmpty() ? StepKind::RestoreList : StepKind::OpenProject;
-    history_.NoteProject(StepName(kind), project);
-    TellSteps();
+int ListCommands::AddToBatchQueue() {
+    RecordArray<ImageRecord>& queue = model_.state.BatchQueue;
+    if (preparation_.PrepareAll()) {
+        for (const ImageRecord& image : model_.list.Images()) {
+            queue.Append(image);
+        }
+    }
+    return queue.UpperBound();
+}
+
+void ListCommands::TakeProject(const RecordArray<ImageRecord>& images, int line,
+                               const QString& project) {
+    model_.steps.Note(StepKind::Other);
+    model_.list.Images() = images;
+    model_.steps.NoteProject(project);
     ShowNewList(line);
 }
 

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Saving the current photo: the part of the workspace that writes files.
+#include "app/workspace/photo_saver.h"
 
 #include <QCoreApplication>
-#include <QScopedValueRollback>
 #include <new>
 
-#include "app/workspace/workspace.h"
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "base/run_time_error.h"
@@ -27,26 +25,26 @@ struct Texts {
 
 }  // namespace
 
-SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
-                                    const CancelFlag& cancelled) {
-    const QScopedValueRollback saving(saving_, true);
-    const QScopedValueRollback rendering(rendering_, true);
-    RenderContext workspace{.bitmaps = state_.bitmaps, .runner = &state_.pool};
-    CancellableProgress progress(view_.Progress(), cancelled);
+SaveResult PhotoSaver::RenderAndSave(const ImageRecord& image, const SaveChoice& choice,
+                                     const CancelFlag& cancelled) {
+    const auto saving = model_.activity.Save();
+    const auto rendering = model_.activity.Render();
+    RenderContext context{.bitmaps = model_.state.bitmaps, .runner = &model_.state.pool};
+    CancellableProgress progress(ports_.view.Progress(), cancelled);
     try {
-        Render(view_.ChosenProjection(), image, SizeKind::Large, progress, workspace);
-        Bitmap* const result = state_.bitmaps.ResultBitmap.get();
-        if (!state_.settings.WriteMetadata) {
+        Render(model_.controls.ChosenProjection(), image, SizeKind::Large, progress, context);
+        Bitmap* const result = model_.state.bitmaps.ResultBitmap.get();
+        if (!model_.state.settings.WriteMetadata) {
             DropMetadata(result);
         }
         ImageRecord shown = image;
-        shown.Projection = static_cast<std::int16_t>(view_.ChosenProjection());
-        NoteSettings(result, shown, state_.settings.WriteSettings,
-                     state_.settings.WriteMetadata ? choice.name : QString());
-        const OutputEncoding encoding(TypeOf(choice), state_.settings.JPEGcompression,
-                                      state_.settings.JPEGchroma444);
-        return SaveMeanwhile({encoding, choice.name}, result, state_.pool, view_.Progress(),
-                             cancelled);
+        shown.Projection = static_cast<std::int16_t>(model_.controls.ChosenProjection());
+        NoteSettings(result, shown, model_.state.settings.WriteSettings,
+                     model_.state.settings.WriteMetadata ? choice.name : QString());
+        const OutputEncoding encoding(TypeOf(choice), model_.state.settings.JPEGcompression,
+                                      model_.state.settings.JPEGchroma444);
+        return SaveMeanwhile({encoding, choice.name}, result, model_.state.pool,
+                             ports_.view.Progress(), cancelled);
     } catch (const SavingCancelled&) {
         return {};
     } catch (const RunTimeError& error) {
@@ -56,54 +54,57 @@ SaveResult Workspace::RenderAndSave(const ImageRecord& image, const SaveChoice& 
     }
 }
 
-void Workspace::SaveAs(FileChooser& chooser) {
-    if (Busy() || Current() == nullptr) {
+SaveResult PhotoSaver::SaveLocked(const ImageRecord& image, const SaveChoice& choice,
+                                  CancelFlag& cancelled) {
+    const auto busy = model_.activity.Occupy();
+    ports_.view.Lock(true);
+    ports_.view.LetCancel([&cancelled] { cancelled = true; });
+    ports_.view.HandleEvents();
+    auto hourglass = ports_.view.Hourglass();
+    SaveResult saved = RenderAndSave(image, choice, cancelled);
+    model_.state.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
+    hourglass.reset();
+    ports_.view.LetCancel(nullptr);
+    ports_.view.Lock(false);
+    return saved;
+}
+
+void PhotoSaver::SaveAs(FileChooser& chooser) {
+    if (model_.activity.Busy() || model_.list.Current() == nullptr) {
         return;
     }
-    const ImageRecord image = PreparedCurrent();
-    if (!state_.bitmaps.FullSourceBitmap) {
-        TellNotOpened(image);
+    const ImageRecord image = preparation_.PreparedCurrent();
+    if (!model_.state.bitmaps.FullSourceBitmap) {
+        photo_.ReportNotOpened(image);
         return;
     }
-    const SaveChoice proposal{ProposedName(SourcePath(image), view_.ChosenProjection()),
-                              FilterIndexOf(OutputTypeFromText(state_.settings.FileType))};
+    const SaveChoice proposal{ProposedName(SourcePath(image), model_.controls.ChosenProjection()),
+                              FilterIndexOf(OutputTypeFromText(model_.state.settings.FileType))};
     const std::optional<SaveChoice> choice =
-        AskWhereToSave(chooser, notices_, proposal, SourcePath(image));
+        AskWhereToSave(chooser, ports_.notices, proposal, SourcePath(image));
     if (!choice) {
         return;
     }
     CancelFlag cancelled = false;
-    SaveResult saved;
-    {
-        const QScopedValueRollback busy(busy_, true);
-        view_.Lock(true);
-        view_.LetCancel([&cancelled] { cancelled = true; });
-        view_.HandleEvents();
-        auto hourglass = view_.Hourglass();
-        saved = RenderAndSave(image, *choice, cancelled);
-        state_.bitmaps.ResultBitmap.reset();  // full size: too much to keep for nothing
-        hourglass.reset();
-        view_.LetCancel(nullptr);
-        view_.Lock(false);
-    }
+    const SaveResult saved = SaveLocked(image, *choice, cancelled);
     if (!saved && cancelled) {
-        view_.ShowStatus(CancelledText());
+        ports_.view.ShowStatus(CancelledText());
     } else {
-        TellSaved(saved, choice->name);
+        Report(saved, choice->name);
     }
     if (saved) {
-        MarkWritten(image, choice->name);
+        model_.steps.MarkWritten(image, choice->name);
     }
-    view_.Idle();
+    Q_EMIT model_.activity.Idle();
 }
 
-void Workspace::TellSaved(const SaveResult& saved, const QString& name) {
+void PhotoSaver::Report(const SaveResult& saved, const QString& name) {
     if (!saved) {
-        notices_.Tell(Texts::tr("Could not save %1").arg(name), ErrorText(saved.reason));
+        ports_.notices.Tell(Texts::tr("Could not save %1").arg(name), ErrorText(saved.reason));
     } else if (saved.note.isEmpty()) {
-        view_.ShowStatus(Texts::tr("Saved %1").arg(name));
+        ports_.view.ShowStatus(Texts::tr("Saved %1").arg(name));
     } else {
-        view_.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ErrorText(saved.note)));
+        ports_.view.ShowStatus(Texts::tr("Saved %1, %2").arg(name, ErrorText(saved.note)));
     }
 }
 

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The steps done to the image list, by their names; who changes records notes the step here before
+// anything is loaded or drawn. Throws nothing but for want of memory.
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "app/workspace/image_selection.h"
+#include "state/adjustments/control_values.h"
+#include "state/editing/history.h"
+#include "state/editing/step_names.h"
+
+namespace varnel {
+
+class ListSteps : public QObject {
+    Q_OBJECT
+  public:
+    explicit ListSteps(const ImageSelection& list) : list_(list), history_(list.Images()) {}
+
+    // Makes what was changed in the records a step that can be undone; nothing changed, no step.
+    void Note(StepKind kind, const StepBesides& besides = {});
+    // The same for controls that were stored into the lines, which showed these values before.
+    void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
+    // For the list of a project file; without one it was kept against a crash.
+    void NoteProject(const QString& project);
+    // What changed is no step of the user.
+    void Absorb();
+    void Seal() { history_.Seal(); }  // what follows is another step
+    // The list as it is stands in the project file.
+    void MarkSaved(const QString& project);
+    // A picture of a photo with these settings is in the file.
+    void MarkWritten(const ImageRecord& image, const QString& file);
+
+    // Nothing when there is no step. Whoever calls it shows what it did and then says so.
+    std::optional<Restored> Undo() { return history_.Undo(); }
+    std::optional<Restored> Redo() { return history_.Redo(); }
+    void NotifyRestored(const Restored& restored);
+
+    QString UndoName() const { return history_.UndoName(); }
+    QString RedoName() const { return history_.RedoName(); }
+    const QString& Project() const { return history_.Project(); }
+    bool ChangedSinceSaved() const { return history_.ChangedSinceSaved(); }
+    int UnsavedPhotos() const { return history_.UnsavedPhotos(); }
+
+  Q_SIGNALS:
+    void Changed();
+    // What a step that is undone or done again shall do to a gear.
+    void GearRestored(const varnel::GearChange& change);
+
+  private:
+    const ImageSelection& list_;
+    History history_;
+};
+
+}  // namespace varnel

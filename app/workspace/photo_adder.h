@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Photos that come to the list. Throws nothing but for want of memory.
+#pragma once
+
+#include <QStringList>
+
+#include "app/workspace/current_photo.h"
+
+namespace varnel {
+
+class PhotoAdder {
+  public:
+    PhotoAdder(WorkspaceModel& model, const WorkspacePorts& ports, CurrentPhoto& photo)
+        : model_(model), ports_(ports), photo_(photo) {}
+
+    // Those behind that many are new.
+    void ImagesAdded(int before);
+    // Dropped files and folders. For a picture that Varnel made of a photo, that photo with the
+    // settings that made the picture; the first such one becomes current.
+    void AddFiles(const QStringList& paths);
+
+  private:
+    void Report(const std::vector<BadFile>& bad);
+
+    WorkspaceModel& model_;
+    WorkspacePorts ports_;
+    CurrentPhoto& photo_;
+};
+
+}  // namespace varnel

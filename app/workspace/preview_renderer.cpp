@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/workspace/preview_renderer.h"
+
+#include <new>
+#include <utility>
+
+#include "base/error_reason.h"
+#include "base/error_text.h"
+#include "base/run_time_error.h"
+#include "base/shortage.h"
+#include "remap/image/preview_size.h"
+
+namespace varnel {
+
+void PreviewRenderer::Reduce() {
+    Bitmaps& bitmaps = model_.state.bitmaps;
+    const Bitmap* const full = bitmaps.FullSourceBitmap.get();
+    const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
+    bitmaps.PreviewSourceBitmap.reset();
+    bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
+    view_.ShowSource(bitmaps.PreviewSourceBitmap.get());
+}
+
+// A preview that is asked for while one is drawn is drawn after it, with what is current then: a
+// second one inside the first would take the result away under it.
+void PreviewRenderer::Draw(const ImageRecord& image) {
+    if (!model_.state.bitmaps.PreviewSourceBitmap) {
+        return;
+    }
+    if (model_.activity.Rendering()) {
+        drawAgain_ = !model_.activity.Saving();
+        return;
+    }
+    {
+        const auto rendering = model_.activity.Render();
+        const auto hourglass = view_.Hourglass();
+        DrawNow(image);
+    }
+    const ImageRecord* const current = model_.list.Current();
+    if (std::exchange(drawAgain_, false) && current != nullptr) {
+        Draw(*current);
+    }
+    Q_EMIT model_.activity.Idle();
+}
+
+void PreviewRenderer::DrawNow(const ImageRecord& image) {
+    Bitmaps& bitmaps = model_.state.bitmaps;
+    RenderContext context{bitmaps, [this] { return model_.controls.Antialiased(); },
+                          &model_.state.pool};
+    try {
+        Render(model_.controls.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(),
+               context);
+        view_.NoteDrawn(image);
+        view_.ShowResult(bitmaps.ResultBitmap.get());
+    } catch (const RunTimeError& error) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(ErrorText(ReasonFor(error)));
+    } catch (const std::bad_alloc&) {
+        view_.ShowResult(nullptr);
+        view_.ShowStatus(ShortageText(Scarce::Memory));
+    }
+}
+
+void PreviewRenderer::Preview() {
+    model_.steps.Note(StepKind::Other);  // whatever has no name
+    const ImageRecord* const image = model_.list.Current();
+    if (image != nullptr && model_.controls.AutoPreview()) {
+        Draw(*image);
+    }
+}
+
+void PreviewRenderer::PreviewControls() {
+    if (model_.activity.Busy() || model_.list.Current() == nullptr ||
+        !model_.controls.AutoPreview()) {
+        return;
+    }
+    ImageRecord trial = *model_.list.Current();
+    StoreControls(model_.controls.Values(), trial);
+    Draw(trial);
+}
+
+}  // namespace varnel

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The photographer's workspace as it stands: what the window shows and follows. It knows no widget.
+#pragma once
+
+#include "app/workspace/activity.h"
+#include "app/workspace/control_model.h"
+#include "app/workspace/gear_choice.h"
+#include "app/workspace/image_selection.h"
+#include "app/workspace/list_steps.h"
+#include "state/editing/working_state.h"
+
+namespace varnel {
+
+class WorkspaceModel : public QObject {
+    Q_OBJECT
+  public:
+    explicit WorkspaceModel(WorkingState& theState)
+        : state(theState), list(state.Images), gears(state.Gear), steps(list) {}
+
+    // The record's gear and values in selector and controls.
+    void ShowInControls(const ImageRecord& image);
+
+    WorkingState& state;
+    ImageSelection list;
+    ControlModel controls;
+    GearChoice gears;
+    ListSteps steps;
+    Activity activity;
+
+  Q_SIGNALS:
+    // The current photo's record is in the controls.
+    void CurrentShown();
+};
+
+}  // namespace varnel

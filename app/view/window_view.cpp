@@ -72,9 +72,9 @@ void WindowView::FollowGears() {
     EquipmentPanel* const panel = parts_.equipment;
     connect(panel->Gears(), &QComboBox::currentIndexChanged, this,
             [this](int index) { model_.gears.Choose(index + 1); });
-    connect(&model_.gears, &GearChoice::Refilled, this,
+    connect(&model_.gears, &GearModel::Refilled, this,
             [this, panel] { panel->Fill(model_.gears.Names(), model_.gears.Number()); });
-    connect(&model_.gears, &GearChoice::Shown, panel, &EquipmentPanel::Show);
+    connect(&model_.gears, &GearModel::Shown, panel, &EquipmentPanel::Show);
 }
 
 PixelSize WindowView::PreviewBox() const {

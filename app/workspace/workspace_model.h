@@ -6,7 +6,7 @@
 
 #include "app/workspace/activity.h"
 #include "app/workspace/control_model.h"
-#include "app/workspace/gear_choice.h"
+#include "app/workspace/gear_model.h"
 #include "app/workspace/image_selection.h"
 #include "app/workspace/list_steps.h"
 #include "state/editing/working_state.h"
@@ -25,7 +25,7 @@ class WorkspaceModel : public QObject {
     WorkingState& state;
     ImageSelection list;
     ControlModel controls;
-    GearChoice gears;
+    GearModel gears;
     ListSteps steps;
     Activity activity;
 

@@ -12,10 +12,10 @@
 
 namespace varnel {
 
-class GearChoice : public QObject {
+class GearModel : public QObject {
     Q_OBJECT
   public:
-    explicit GearChoice(const GearTable& gears) : gears_(gears) {}
+    explicit GearModel(const GearTable& gears) : gears_(gears) {}
 
     int Number() const { return number_; }
     QString Name() const { return names_.value(number_ - 1); }  // empty for none

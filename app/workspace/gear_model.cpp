@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/workspace/gear_choice.h"
+#include "app/workspace/gear_model.h"
 
 namespace varnel {
 
-void GearChoice::Refill() {
+void GearModel::Refill() {
     names_.clear();
     for (int n = 1; n <= gears_.UpperBound(); ++n) {
         names_.append(gears_(n).GearName);
@@ -14,7 +14,7 @@ void GearChoice::Refill() {
     Q_EMIT Refilled();
 }
 
-void GearChoice::Show(const QString& gearName) {
+void GearModel::Show(const QString& gearName) {
     number_ = static_cast<int>(names_.indexOf(gearName)) + 1;
     Q_EMIT Shown(gearName);
 }

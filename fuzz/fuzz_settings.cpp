@@ -19,6 +19,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     varnel::HoldsGear(reading.values);
     varnel::GearDamage(reading.values);
-    varnel::MendGears(reading.values);
+    varnel::RepairGears(reading.values);
     return 0;
 }

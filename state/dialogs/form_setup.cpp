@@ -60,7 +60,7 @@ void FormSetup::FillGears() {
     for (int n = 1; n <= gear_.UpperBound(); ++n) {
         ui_->GearCombo->addItem(gear_(n).GearName);
     }
-    // A default gear that is not in the table gives way to the first one.
+    // Instead of a default gear that is not in the table the first one is chosen.
     ui_->GearCombo->setCurrentIndex(std::max(gear_.Find(gear_.DefaultGearName) - 1, 0));
 }
 

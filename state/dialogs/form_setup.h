@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The defaults dialog: default gear, preview size, what is done with opened photos and how files
-// are written, for this run or for good.
+// are written, for this run or for good. Throws nothing.
 #pragma once
 
 #include <QDialog>
@@ -28,7 +28,7 @@ class FormSetup : public QDialog {
               QWidget* parent = nullptr);
     ~FormSetup() override;
 
-    // Takes the controls' values over for this run.
+    // Uses the controls' values for this run.
     void SetMyDefaults();
 
   protected:

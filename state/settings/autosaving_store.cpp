@@ -8,8 +8,8 @@ namespace varnel {
 
 namespace {
 
-// ms; also long enough for a window that saves while it closes to end the program first: a box that
-// came up in between would be closed with it, unread.
+// ms; long enough for a window that saves while it closes to end the program first: a message box
+// shown in between would be closed with it, unread.
 constexpr int settleDelay = 200;
 
 }  // namespace

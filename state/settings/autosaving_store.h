@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Telling the user what became of the settings.
+// Shows the user the messages of the settings store, and settles it by itself. Throws nothing.
 #pragma once
 
 #include <QTimer>
@@ -11,11 +11,11 @@
 
 namespace varnel {
 
-// Settles the store and tells what there is to tell.
+// Settles the store and shows its messages, if any.
 void TellOf(SettingsStore& store, Notices& notices);
 
-// Another store, settled a moment after something was saved. Its errors are told then, above
-// whichever window saved.
+// Wraps another store and settles it a moment after something was saved. Its messages are shown
+// then, above the window that saved.
 class AutosavingStore : public SettingsStore {
   public:
     AutosavingStore(SettingsStore& store, Notices& notices);

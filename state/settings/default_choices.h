@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the user may choose as defaults, and how the choice is kept.
+// What the user may choose as defaults, and how the choice is kept. Throws nothing.
 #pragma once
 
 #include <QLatin1StringView>
@@ -28,7 +28,7 @@ struct Language {
 inline constexpr std::array languages{Language{QLatin1StringView("en"), u"English"},
                                       Language{QLatin1StringView("de"), u"Deutsch"}};
 
-// The place of a language in that list; any other text means the first one.
+// The index of a language in that list; any other text means the first one.
 int LanguagePosition(QStringView code);
 
 // Writes the default gear and the general settings, in this order: gear, width, height, file type,

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the user chose for every photo: the preview's size and the form of the written files.
+// What the user chose for every photo: the preview's size and the form of the written files. Throws
+// nothing.
 #pragma once
 
 #include <QString>
@@ -20,7 +21,7 @@ struct GeneralSettings {
     std::int16_t JPEGcompression = 100;        // quality, percent
     bool JPEGchroma444 = false;                // colour at full resolution
     bool AutoOrient = true;                    // photos are turned upright as their EXIF says
-    bool OfferGear = true;                     // the gear that a photo's EXIF tells is offered
+    bool OfferGear = true;                     // the gear that a photo's EXIF names is offered
     bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
     bool WriteSettings = true;                 // the settings go into the result
     QString Language = QStringLiteral("en");   // of the window, as code

@@ -12,7 +12,7 @@ namespace varnel {
 namespace {
 
 // The text in ASCII: decimal digits of any script, the Arabic decimal comma and the minus sign
-// become their plain forms; whatever else is not ASCII becomes a character that no number has.
+// become their plain forms; any other character that is not ASCII becomes one that no number has.
 QByteArray PlainText(const QString& text) {
     QByteArray plain;
     for (const char32_t character : text.trimmed().toUcs4()) {

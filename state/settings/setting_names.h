@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The names under which settings are kept. They stay as they are for good: settings of older
-// releases are found by them ("Ofset" with one f, "setting" beside "Settings").
+// The names under which settings are kept. They must not change: settings of older releases are
+// found by them ("Ofset" with one f, "setting" beside "Settings"). Throws nothing.
 #pragma once
 
 #include <QLatin1StringView>
@@ -35,7 +35,7 @@ inline constexpr QLatin1StringView OldCameraModel("CameraModel");
 inline constexpr QLatin1StringView OldLensBrand("LensBrand");
 inline constexpr QLatin1StringView OldLensModel("LensModel");
 
-// Where pictures were last looked for.
+// The folder of the add-images dialog.
 inline constexpr QLatin1StringView LastDrive("LastDrive");
 inline constexpr QLatin1StringView LastPath("LastPath");
 

@@ -29,8 +29,7 @@ std::optional<int> CountedGears(const SettingsValues& values) {
     return count == nullptr ? std::nullopt : WholeFromText(*count);
 }
 
-// A part of a gear, or what tells of all gears, that stands in another section: theirs lost its
-// title.
+// A key of a gear, or one about all gears, in another section: the title of theirs is lost.
 bool IsStrayGear(const SettingsValues::Name& name) {
     constexpr QLatin1StringView parts[] = {
         setting::NumGear,         setting::DefaultGearName,     setting::GearName,
@@ -70,7 +69,7 @@ FileBytes ReadFile(const QString& path) {
     if (!info.exists()) {
         return {};
     }
-    if (!info.isFile()) {  // a pipe would be waited for
+    if (!info.isFile()) {  // reading a pipe would block
         return {true, {}, ReasonCode::NotRegular};
     }
     QFile file(path);
@@ -87,7 +86,7 @@ bool Holds(const QString& path, const QByteArray& bytes) {
     return file.exists && file.reason.isEmpty() && file.bytes == bytes;
 }
 
-// A name that is free, or under which an earlier try has put the bytes already.
+// A free name, or one under which an earlier attempt has already written the bytes.
 QString NameFor(const QString& path, const QByteArray& bytes, const QDateTime& now) {
     const QString dated =
         path + QStringLiteral(".damaged-") + now.toString(QStringLiteral("yyyy-MM-ddTHH-mm-ss"));
@@ -98,7 +97,7 @@ QString NameFor(const QString& path, const QByteArray& bytes, const QDateTime& n
     return name;
 }
 
-// Puts the file's bytes under a dated name.
+// Writes the file's bytes under a dated name.
 void SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now,
               RescuedSettings& rescued) {
     const QString name = NameFor(path, bytes, now);
@@ -113,7 +112,7 @@ void SetAside(const QString& path, const QByteArray& bytes, const QDateTime& now
     }
 }
 
-// No bytes, no file.
+// Removes the file if there are no bytes.
 void Replace(const QString& path, const QByteArray& bytes) {
     if (bytes.isEmpty()) {
         QFile::remove(path);
@@ -122,8 +121,8 @@ void Replace(const QString& path, const QByteArray& bytes) {
     }
 }
 
-Reason WhatIsUsed(bool copyServes, const SettingsValues& values) {
-    return copyServes       ? ReasonCode::CopyIsUsed
+Reason WhatIsUsed(bool copyIsUsable, const SettingsValues& values) {
+    return copyIsUsable     ? ReasonCode::CopyIsUsed
            : values.Empty() ? ReasonCode::SettingsBeginAfresh
                             : ReasonCode::RestIsUsed;
 }
@@ -160,7 +159,7 @@ Reason GearDamage(const SettingsValues& values) {
     return isLost ? ReasonCode::DefaultGearMissing : ReasonCode::None;
 }
 
-void MendGears(SettingsValues& values) {
+void RepairGears(SettingsValues& values) {
     for (const auto& [name, text] : values.InOrder()) {
         if (IsStrayGear(name)) {
             values.Remove(name.first, name.second);
@@ -169,7 +168,7 @@ void MendGears(SettingsValues& values) {
     }
     const int last = LastGear(values);
     if (last == 0) {
-        // A first run: whatever is left of it, there is no gear to find.
+        // As on a first run: no gear is left.
         values.Remove(setting::Gear, setting::NumGear);
         values.Remove(setting::Gear, setting::DefaultGearName);
         return;
@@ -188,7 +187,7 @@ void MendGears(SettingsValues& values) {
     }
 }
 
-SettingsFile LookAtSettings(const QString& path) {
+SettingsFile ReadSettingsFile(const QString& path) {
     SettingsFile file;
     const FileBytes copy = ReadFile(CopyOf(path));
     file.copyBytes = copy.bytes;
@@ -207,8 +206,8 @@ SettingsFile LookAtSettings(const QString& path) {
     file.bytes = own.bytes;
     if (file.exists && file.canBeRead) {
         file.reading = read(file.bytes);
-        // The last lines are gone, though it may have ended anywhere: a file of an older release.
-        if (file.reading.damage.isEmpty() && file.CopyServes() &&
+        // A file of an older release, without a last line of its own, that lost its last lines.
+        if (file.reading.damage.isEmpty() && file.CopyIsUsable() &&
             file.bytes.size() < file.copyBytes.size() && file.copyBytes.startsWith(file.bytes)) {
             file.reading.damage = ReasonCode::TextCutShort;
         }
@@ -228,17 +227,17 @@ Reason WriteSettingsFile(const QString& path, const QByteArray& bytes) {
 RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
                                const SettingsValues& known, bool mayWrite, const QDateTime& now) {
     RescuedSettings rescued;
-    const bool byCopy = file.CopyServes();
+    const bool byCopy = file.CopyIsUsable();
     rescued.values = byCopy ? file.copy.values : known;
     if (!file.canBeRead) {
         rescued.mustStay = file.reason;
-        rescued.told = {ReasonCode::SettingsUnreadable, path, file.reason,
-                        WhatIsUsed(byCopy, rescued.values)};
+        rescued.message = {ReasonCode::SettingsUnreadable, path, file.reason,
+                           WhatIsUsed(byCopy, rescued.values)};
         return rescued;
     }
     if (!byCopy && !HoldsGear(known)) {
         rescued.values = file.reading.values;
-        MendGears(rescued.values);
+        RepairGears(rescued.values);
     }
     if (mayWrite) {
         SetAside(path, file.bytes, now, rescued);
@@ -247,13 +246,14 @@ RescuedSettings RescueSettings(const QString& path, const SettingsFile& file,
                               : rescued.values.Empty() ? QByteArray()
                                                        : SettingsText(rescued.values);
     if (!rescued.aside.isEmpty()) {
-        Replace(path, better);  // when that fails, so will the next save, and that one tells
+        Replace(path, better);  // if that fails, so will the next save, which has a message
     }
     const Reason& damage = file.reading.damage;
     const Reason used = WhatIsUsed(byCopy, rescued.values);
-    rescued.told = rescued.aside.isEmpty() ? Reason(ReasonCode::SettingsDamaged, path, damage, used)
-                                           : Reason(ReasonCode::SettingsDamagedAndKept, path,
-                                                    damage, used, rescued.aside);
+    rescued.message =
+        rescued.aside.isEmpty()
+            ? Reason(ReasonCode::SettingsDamaged, path, damage, used)
+            : Reason(ReasonCode::SettingsDamagedAndKept, path, damage, used, rescued.aside);
     return rescued;
 }
 

@@ -21,11 +21,11 @@ constexpr int longestWait = 5000;  // ms for another process to finish writing
 class FileStore : public SettingsStore {
   public:
     FileStore(QString path, QDateTime now) : path_(std::move(path)), now_(std::move(now)) {
-        SettingsFile file = LookAtSettings(path_);
+        SettingsFile file = ReadSettingsFile(path_);
         if (!file.IsWhole() || !file.CopyIsFresh()) {
             const DirLock lock(Folder(), longestWait);
-            file = LookAtSettings(path_);  // another process may have mended it
-            values_ = Take(file, lock.IsHeld()).values;
+            file = ReadSettingsFile(path_);  // another process may have repaired it
+            values_ = Recover(file, lock.IsHeld()).values;
         } else {
             values_ = file.reading.values;
         }
@@ -47,28 +47,28 @@ class FileStore : public SettingsStore {
 
     Reasons Settle() override {
         Write();
-        return std::exchange(toTell_, {});
+        return std::exchange(messages_, {});
     }
 
   private:
     QString Folder() const { return QFileInfo(path_).path(); }
 
-    // The file's values after whatever has to be done about its damage and its copy.
-    RescuedSettings Take(const SettingsFile& file, bool isLocked) {
+    // The file's values after damage was repaired and the copy renewed, where necessary.
+    RescuedSettings Recover(const SettingsFile& file, bool isLocked) {
         if (!file.IsWhole()) {
             RescuedSettings rescued = RescueSettings(path_, file, values_, isLocked, now_);
-            // Each save comes here again while the file cannot be set aside or replaced.
-            if (!toldAside_.contains(rescued.aside)) {
-                toldAside_.append(rescued.aside);
-                toTell_.append(rescued.told);
+            // Each save gets here again while the file cannot be set aside or replaced.
+            if (!reportedAside_.contains(rescued.aside)) {
+                reportedAside_.append(rescued.aside);
+                messages_.append(rescued.message);
             }
             return rescued;
         }
         if (isLocked && !file.CopyIsFresh()) {
-            // Without a fresh copy nothing is lost yet, so a failure is not told.
+            // Without a fresh copy nothing is lost yet, so there is no message about a failure.
             WriteSettingsFile(CopyOf(path_), file.bytes);
         }
-        // A file that went away during the run is made again from what is known.
+        // A file that was deleted during the run is made again from the known values.
         return {file.exists ? file.reading.values : values_, {}, {}, {}};
     }
 
@@ -77,12 +77,12 @@ class FileStore : public SettingsStore {
             return;
         }
         const Reason reason = TryToWrite();
-        if (!reason.isEmpty() && !std::exchange(isToldUnwritable_, true)) {
-            toTell_.append({ReasonCode::SettingsUnwritable, path_, reason});
+        if (!reason.isEmpty() && !std::exchange(isUnwritableReported_, true)) {
+            messages_.append({ReasonCode::SettingsUnwritable, path_, reason});
         }
     }
 
-    // The reason when it fails; what was changed is then tried again the next time.
+    // The reason if it fails; the changes are then written by the next call that succeeds.
     Reason TryToWrite() {
         if (!QDir().mkpath(Folder())) {
             return ReasonCode::FolderNotMade;
@@ -91,11 +91,11 @@ class FileStore : public SettingsStore {
         if (!lock.IsHeld()) {
             return ReasonCode::SettingsLocked;
         }
-        const SettingsFile file = LookAtSettings(path_);
+        const SettingsFile file = ReadSettingsFile(path_);
         if (!file.canBeRead) {
-            return file.reason;  // and what cannot be read is not replaced
+            return file.reason;  // a file that cannot be read is not replaced
         }
-        RescuedSettings taken = Take(file, true);
+        RescuedSettings taken = Recover(file, true);
         if (!taken.mustStay.isEmpty()) {
             return taken.mustStay;
         }
@@ -120,9 +120,9 @@ class FileStore : public SettingsStore {
     QDateTime now_;
     SettingsValues values_;
     SettingsValues changed_;  // not yet written
-    Reasons toTell_;
-    QStringList toldAside_;  // of these damaged files; the empty name: of one not set aside
-    bool isToldUnwritable_ = false;
+    Reasons messages_;
+    QStringList reportedAside_;  // names of damaged files that have a message; empty: not set aside
+    bool isUnwritableReported_ = false;
 };
 
 }  // namespace

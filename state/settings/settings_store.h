@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Where settings are kept between runs: texts under a section and a key of the application Varnel.
+// Throws nothing; errors are returned by Settle.
 #pragma once
 
 #include <QDateTime>
@@ -22,8 +23,8 @@ class SettingsStore {
     virtual QString Get(const QString& section, const QString& key,
                         const QString& fallback) const = 0;
     virtual void Save(const QString& section, const QString& key, const QString& value) = 0;
-    // Makes what was saved last beyond this run, and returns what the user has to be told about the
-    // store since the last call: each event once.
+    // Writes what was saved to the disk, and returns the messages for the user since the last call,
+    // each event once.
     virtual Reasons Settle() { return {}; }
 };
 
@@ -39,10 +40,10 @@ class MemoryStore : public SettingsStore {
 };
 
 // The store of this user: the file Varnel/Varnel.conf in the configuration folder, on Linux
-// $XDG_CONFIG_HOME or ~/.config. A section is its group, a key stands as it is. What other
-// processes save meanwhile stays, key by key; the last writer of a key wins. Damage does not lose
-// gears (see settings_recovery.h); the moment dates a damaged file's name. Where nothing can be
-// written the values last for this run. Settled when it is closed, too.
+// $XDG_CONFIG_HOME or ~/.config. A section of the store is a section of the file, with the same
+// keys. What other processes save meanwhile is kept, key by key; the last writer of a key wins.
+// Damage does not lose gears (see settings_recovery.h); now dates a damaged file's name. Where
+// nothing can be written the values last for this run. The destructor settles, too.
 std::unique_ptr<SettingsStore> OpenUserStore(const QDateTime& now);
 std::unique_ptr<SettingsStore> OpenFileStore(const QString& path, const QDateTime& now);
 

@@ -17,7 +17,7 @@ namespace {
 constexpr QStringView firstLine =
     u"; Varnel's settings, down to the line that says: end of settings";
 constexpr QStringView lastLine = u"; end of settings";
-constexpr QStringView unnamed = u"General";  // what QSettings calls the section without a name
+constexpr QStringView unnamed = u"General";  // QSettings' title of the section without a name
 
 bool IsPlain(QChar character) {
     return character.unicode() < 128 &&
@@ -104,7 +104,7 @@ QString EscapedText(const QString& value) {
     return quoted ? u'"' + text + u'"' : text;
 }
 
-// The character that a backslash stands for together with what follows it; moves past it.
+// The character of an escape sequence; at is behind the backslash and moves behind the sequence.
 QChar Escaped(QStringView text, qsizetype& at) {
     static constexpr QStringView letters = u"abfnrtv";
     static constexpr char codes[] = "\a\b\f\n\r\t\v";
@@ -129,13 +129,13 @@ void DropTrailingSpaces(QString& text, qsizetype from) {
     }
 }
 
-// Nothing when a quote is left open. Spaces around what is not quoted do not count, nor does a
-// comment; a comma without quotes stays a comma.
+// Empty when a quote is left open. Spaces around unquoted text and comments are dropped; an
+// unquoted comma, which makes a list for QSettings, is a part of the text.
 std::optional<QString> PlainText(QStringView text) {
     QString value;
-    qsizetype kept = 0;  // what was quoted or coded keeps its spaces
+    qsizetype kept = 0;  // quoted or escaped text keeps its spaces
     bool quoted = false;
-    bool begun = false;  // spaces before the text do not count
+    bool begun = false;  // spaces before the text are dropped
     for (qsizetype at = 0; at < text.size();) {
         const QChar character = text[at++];
         if (character == u';' && !quoted) {
@@ -164,7 +164,7 @@ std::optional<QString> PlainText(QStringView text) {
     return value.startsWith(u"@@") ? value.sliced(1) : value;
 }
 
-// A section without its closing bracket still says which one it is.
+// A title without its closing bracket still names its section.
 bool ReadSection(QStringView line, QString& section) {
     const qsizetype end = line.indexOf(u']');
     const QStringView name = Trimmed(line.sliced(1, (end < 0 ? line.size() : end) - 1));
@@ -216,10 +216,10 @@ const QString* SettingsValues::Find(const QString& section, const QString& key) 
 }
 
 void SettingsValues::Set(const QString& section, const QString& key, const QString& text) {
-    const auto [place, isNew] = values_.try_emplace({section, key});
-    place->second.text = text;
+    const auto [entry, isNew] = values_.try_emplace({section, key});
+    entry->second.text = text;
     if (isNew) {
-        place->second.position = nextPosition_++;
+        entry->second.position = nextPosition_++;
     }
 }
 
@@ -230,10 +230,10 @@ void SettingsValues::Merge(const SettingsValues& newer) {
 }
 
 std::vector<std::pair<SettingsValues::Name, QString>> SettingsValues::InOrder() const {
-    std::map<QString, std::size_t> sections;  // where each one begins
+    std::map<QString, std::size_t> sections;  // the lowest position in each
     for (const auto& [name, held] : values_) {
-        const auto place = sections.try_emplace(name.first, held.position).first;
-        place->second = std::min(place->second, held.position);
+        const auto section = sections.try_emplace(name.first, held.position).first;
+        section->second = std::min(section->second, held.position);
     }
     std::vector<std::tuple<std::size_t, std::size_t, const Name*>> order;
     for (const auto& [name, held] : values_) {

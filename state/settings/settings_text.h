@@ -24,18 +24,19 @@
 
 namespace varnel {
 
-// Texts by section and key. They keep the order in which they were first set: a damaged file is
-// read up to the damage, so the parts of one gear had better stand together.
+// Texts by section and key, in the order in which they were first set: a damaged file is read up to
+// the damage, so the keys of one gear have to stand together.
 class SettingsValues {
   public:
     using Name = std::pair<QString, QString>;  // section, key
     bool Empty() const { return values_.empty(); }
-    // Null when there is none.
+    // Null when the key does not exist.
     const QString* Find(const QString& section, const QString& key) const;
     void Set(const QString& section, const QString& key, const QString& text);
     void Remove(const QString& section, const QString& key) { values_.erase({section, key}); }
+    // Sets all values of the other.
     void Merge(const SettingsValues& newer);
-    // Section after section.
+    // Section by section.
     std::vector<std::pair<Name, QString>> InOrder() const;
 
   private:
@@ -52,7 +53,10 @@ struct SettingsReading {
     Reason damage;          // empty when the file is whole
 };
 
+// Of a key that occurs twice the last value counts. An unquoted comma is a part of the value, as in
+// a number that was typed by hand (107,5), while QSettings would read a list of two.
 SettingsReading ReadSettingsText(const QByteArray& bytes);
+// The whole file, in UTF-8.
 QByteArray SettingsText(const SettingsValues& values);
 
 }  // namespace varnel

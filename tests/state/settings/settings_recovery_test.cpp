@@ -33,13 +33,13 @@ using testing::WriteFile;
 
 constexpr int gearCount = 50;
 
-class NobodyToAsk : public GearPrompt {
+class NoPrompt : public GearPrompt {
   public:
     void Explain(const QString& /*text*/) override {}
     bool DefineGear(GearTable& /*table*/) override { return false; }
 };
 
-class NotedNotices : public Notices {
+class RecordedNotices : public Notices {
   public:
     void Tell(const QString& text, const QString& /*detail*/) override { texts.append(text); }
     QStringList texts;
@@ -59,7 +59,7 @@ GearTable Gears(int count, float ratio) {
     return table;
 }
 
-QStringList Told(const Reasons& reasons) {
+QStringList Texts(const Reasons& reasons) {
     QStringList texts;
     for (const Reason& reason : reasons) {
         texts.append(ErrorText(reason));
@@ -67,7 +67,7 @@ QStringList Told(const Reasons& reasons) {
     return texts;
 }
 
-class SettingsGuard : public ::testing::Test {
+class SettingsRecovery : public ::testing::Test {
   protected:
     std::unique_ptr<SettingsStore> Open() const { return OpenFileStore(path_, moment_); }
     void Save(int count, float ratio) const {
@@ -76,12 +76,12 @@ class SettingsGuard : public ::testing::Test {
         SaveGear(*store, table);
         EXPECT_TRUE(store->Settle().isEmpty());
     }
-    // Opens the settings anew; told_ then holds what the user is told.
+    // Opens the settings anew; messages_ then holds the messages for the user.
     GearTable Load() {
         const auto store = Open();
-        told_ = Told(store->Settle());
+        messages_ = Texts(store->Settle());
         GearTable table;
-        NobodyToAsk prompt;
+        NoPrompt prompt;
         LoadGear(*store, table, prompt);
         return table;
     }
@@ -104,7 +104,7 @@ class SettingsGuard : public ::testing::Test {
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(Text("Varnel/Varnel.conf"));
     QDateTime moment_{QDate(2026, 11, 21), QTime(10, 15, 30)};
-    QStringList told_;
+    QStringList messages_;
 };
 
 struct Damage {
@@ -160,7 +160,7 @@ const Damage damages[] = {
      [](QByteArray bytes) { return bytes.replace("DefaultGearName=", "Default="); }, 50},
 };
 
-TEST_F(SettingsGuard, LosesNoGearAndSaysSoWhateverTheDamage) {
+TEST_F(SettingsRecovery, LosesNoGearAndSaysSoWhateverTheDamage) {
     for (const Damage& damage : damages) {
         SCOPED_TRACE(damage.name);
         Save(gearCount, 80.25F);
@@ -172,20 +172,20 @@ TEST_F(SettingsGuard, LosesNoGearAndSaysSoWhateverTheDamage) {
         EXPECT_EQ(Good(table, 80.25F), gearCount);
         EXPECT_EQ(table.UpperBound(), gearCount);
         EXPECT_EQ(table.DefaultGearName, Gears(gearCount, 0).DefaultGearName);
-        ASSERT_EQ(told_.size(), 1);
-        EXPECT_TRUE(told_[0].startsWith(path_ + Text(": the settings were damaged (")))
-            << told_[0].toStdString();
+        ASSERT_EQ(messages_.size(), 1);
+        EXPECT_TRUE(messages_[0].startsWith(path_ + Text(": the settings were damaged (")))
+            << messages_[0].toStdString();
         ASSERT_EQ(Damaged(), QStringList(Text("Varnel.conf.damaged-2026-11-21T10-15-30")));
         EXPECT_EQ(Contents(path_ + Text(".damaged-2026-11-21T10-15-30")), spoiled);
         EXPECT_EQ(Contents(path_), whole);
         EXPECT_EQ(Contents(CopyOf(path_)), whole);
         EXPECT_EQ(Good(Load(), 80.25F), gearCount);
-        EXPECT_EQ(told_, QStringList()) << "said twice";
+        EXPECT_EQ(messages_, QStringList()) << "said twice";
         QDir(QFileInfo(path_).path()).removeRecursively();
     }
 }
 
-TEST_F(SettingsGuard, SavesWhatCanBeReadWithoutACopy) {
+TEST_F(SettingsRecovery, SavesWhatCanBeReadWithoutACopy) {
     for (const Damage& damage : damages) {
         SCOPED_TRACE(damage.name);
         Save(gearCount, 80.25F);
@@ -194,20 +194,20 @@ TEST_F(SettingsGuard, SavesWhatCanBeReadWithoutACopy) {
         WriteFile(path_, spoiled);
         const GearTable table = Load();
         EXPECT_GE(Good(table, 80.25F), damage.goodWithoutCopy);
-        ASSERT_EQ(told_.size(), 1);
-        EXPECT_TRUE(told_[0].contains(Text("without a copy"))) << told_[0].toStdString();
+        ASSERT_EQ(messages_.size(), 1);
+        EXPECT_TRUE(messages_[0].contains(Text("without a copy"))) << messages_[0].toStdString();
         ASSERT_EQ(Damaged().size(), 1);
         EXPECT_EQ(Contents(folder_.filePath(Text("Varnel/")) + Damaged()[0]), spoiled);
         for (int n = 1; n <= table.UpperBound(); ++n) {
             EXPECT_NE(table(n).GearName, QString()) << n;
         }
         EXPECT_EQ(Load().UpperBound(), table.UpperBound());
-        EXPECT_EQ(told_, QStringList()) << "said twice";
+        EXPECT_EQ(messages_, QStringList()) << "said twice";
         QDir(QFileInfo(path_).path()).removeRecursively();
     }
 }
 
-TEST_F(SettingsGuard, KnowsACutFileOfAnOlderReleaseByItsCopy) {
+TEST_F(SettingsRecovery, KnowsACutFileOfAnOlderReleaseByItsCopy) {
     {
         QSettings older(path_, QSettings::IniFormat);
         older.setValue(Text("Gear/DefaultGearName"), Text("mine"));
@@ -217,16 +217,16 @@ TEST_F(SettingsGuard, KnowsACutFileOfAnOlderReleaseByItsCopy) {
     }
     const QByteArray whole = Contents(path_);
     EXPECT_EQ(Load().UpperBound(), 1);
-    EXPECT_EQ(told_, QStringList());
+    EXPECT_EQ(messages_, QStringList());
     EXPECT_EQ(Contents(path_), whole) << "reading wrote";
     EXPECT_EQ(Contents(CopyOf(path_)), whole);
     WriteFile(path_, whole.first(whole.indexOf("\n[setting]")));
     EXPECT_EQ(Load().UpperBound(), 1);
-    EXPECT_EQ(told_.size(), 1);
+    EXPECT_EQ(messages_.size(), 1);
     EXPECT_EQ(Contents(path_), whole);
 }
 
-TEST_F(SettingsGuard, NeitherReplacesAnotherDamagedFileNorAGoodCopy) {
+TEST_F(SettingsRecovery, NeitherReplacesAnotherDamagedFileNorAGoodCopy) {
     Save(gearCount, 80.25F);
     const QByteArray whole = Contents(path_);
     for (const char* const spoiled : {"one", "two", "three"}) {
@@ -245,19 +245,19 @@ TEST_F(SettingsGuard, NeitherReplacesAnotherDamagedFileNorAGoodCopy) {
     EXPECT_EQ(Open()->Get(Text("setting"), Text("FileType"), {}), Text("PNG"));
 }
 
-TEST_F(SettingsGuard, TakesAMissingFileForAFirstRunAndLeavesTheCopy) {
+TEST_F(SettingsRecovery, TakesAMissingFileForAFirstRunAndLeavesTheCopy) {
     Save(2, 80.25F);
     const QByteArray copy = Contents(CopyOf(path_));
     QFile::remove(path_);
     EXPECT_EQ(Load().UpperBound(), 0);
-    EXPECT_EQ(told_, QStringList());
+    EXPECT_EQ(messages_, QStringList());
     Open()->Save(Text("Window"), Text("Geometry"), Text("x"));
     EXPECT_EQ(Contents(CopyOf(path_)), copy);
     Save(1, 90.0F);
     EXPECT_EQ(Contents(CopyOf(path_)), Contents(path_));
 }
 
-TEST_F(SettingsGuard, WritesNoFileAndNoCopyToReadThem) {
+TEST_F(SettingsRecovery, WritesNoFileAndNoCopyToReadThem) {
     Save(2, 80.25F);
     const QDateTime before(QDate(2020, 1, 1), QTime(0, 0));
     for (const QString& name : {path_, CopyOf(path_)}) {
@@ -281,7 +281,7 @@ pid_t Forked(const std::function<int()>& work) {
     return child;
 }
 
-TEST_F(SettingsGuard, IsReadableAtWhateverMomentASavingRunIsKilled) {
+TEST_F(SettingsRecovery, IsReadableAtWhateverMomentASavingRunIsKilled) {
     Save(gearCount, 50.0F);
     for (int moment = 0; moment < 20; ++moment) {
         const pid_t child = Forked([this] {
@@ -297,13 +297,13 @@ TEST_F(SettingsGuard, IsReadableAtWhateverMomentASavingRunIsKilled) {
         ASSERT_TRUE(WIFSIGNALED(status));
         const GearTable table = Load();
         EXPECT_EQ(std::max(Good(table, 50.0F), Good(table, 80.25F)), gearCount) << moment;
-        EXPECT_EQ(told_, QStringList()) << moment;
+        EXPECT_EQ(messages_, QStringList()) << moment;
     }
     Save(gearCount, 60.0F);  // clears away what the killed ones left
     EXPECT_EQ(QDir(QFileInfo(path_).path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
-TEST_F(SettingsGuard, IsMendedAndToldByOneOfManyThatStartAtOnce) {
+TEST_F(SettingsRecovery, IsMendedAndToldByOneOfManyThatStartAtOnce) {
     Save(gearCount, 80.25F);
     for (int round = 0; round < 4; ++round) {
         WriteFile(path_, Contents(path_).first(1000 + round));
@@ -311,21 +311,21 @@ TEST_F(SettingsGuard, IsMendedAndToldByOneOfManyThatStartAtOnce) {
         for (int n = 0; n < 4; ++n) {
             children.push_back(Forked([this] {
                 const GearTable table = Load();
-                return Good(table, 80.25F) == gearCount ? static_cast<int>(told_.size()) : 100;
+                return Good(table, 80.25F) == gearCount ? static_cast<int>(messages_.size()) : 100;
             }));
         }
-        int told = 0;
+        int messages = 0;
         for (const pid_t child : children) {
             int status = 0;
             ::waitpid(child, &status, 0);
-            told += WEXITSTATUS(status);
+            messages += WEXITSTATUS(status);
         }
-        EXPECT_EQ(told, 1);
+        EXPECT_EQ(messages, 1);
         EXPECT_EQ(Damaged().size(), round + 1);
     }
 }
 
-TEST_F(SettingsGuard, SaysOnceThatNothingCanBeWrittenAndKeepsTheValuesForTheRun) {
+TEST_F(SettingsRecovery, SaysOnceThatNothingCanBeWrittenAndKeepsTheValuesForTheRun) {
     WriteFile(folder_.filePath(Text("file")), "x");
     QDir(folder_.path()).mkpath(Text("folder/Varnel.conf"));
     for (const char* const place : {"file/Varnel/Varnel.conf", "folder/Varnel.conf"}) {
@@ -335,17 +335,17 @@ TEST_F(SettingsGuard, SaysOnceThatNothingCanBeWrittenAndKeepsTheValuesForTheRun)
         EXPECT_EQ(store->Settle().size(), isThere ? 1 : 0) << place;  // cannot be read
         for (const char* const value : {"one", "two"}) {
             store->Save(Text("setting"), Text("FileType"), Text(value));
-            const QStringList told = Told(store->Settle());
+            const QStringList messages = Texts(store->Settle());
             EXPECT_EQ(store->Get(Text("setting"), Text("FileType"), {}), Text(value));
-            ASSERT_EQ(told.size(), value[0] == 'o' ? 1 : 0) << place;
-            EXPECT_TRUE(told.isEmpty() ||
-                        told[0].startsWith(path_ + Text(": the settings cannot be written (")))
-                << told[0].toStdString();
+            ASSERT_EQ(messages.size(), value[0] == 'o' ? 1 : 0) << place;
+            EXPECT_TRUE(messages.isEmpty() ||
+                        messages[0].startsWith(path_ + Text(": the settings cannot be written (")))
+                << messages[0].toStdString();
         }
     }
 }
 
-TEST_F(SettingsGuard, UsesTheCopyWhereNothingCanBeSetAside) {
+TEST_F(SettingsRecovery, UsesTheCopyWhereNothingCanBeSetAside) {
     if (::geteuid() == 0) {
         GTEST_SKIP() << "everything can be written";
     }
@@ -354,17 +354,17 @@ TEST_F(SettingsGuard, UsesTheCopyWhereNothingCanBeSetAside) {
     const QString folder = QFileInfo(path_).path();
     QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     EXPECT_EQ(Good(Load(), 80.25F), gearCount);
-    EXPECT_TRUE(told_.value(0).contains(Text("could not be set aside")));
+    EXPECT_TRUE(messages_.value(0).contains(Text("could not be set aside")));
     QFile::setPermissions(folder,
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
-TEST_F(SettingsGuard, TellsOfASaveAMomentLater) {
+TEST_F(SettingsRecovery, TellsOfASaveAMomentLater) {
     int argumentCount = 0;
     QCoreApplication application(argumentCount, nullptr);
     WriteFile(folder_.filePath(Text("Varnel")), "no folder");
     const auto user = Open();
-    NotedNotices notices;
+    RecordedNotices notices;
     AutosavingStore store(*user, notices);
     store.Save(Text("a"), Text("b"), Text("c"));
     QCoreApplication::processEvents();

@@ -35,15 +35,15 @@ class UserStoreTest : public ::testing::Test {
     QString FilePath() const { return folder_.filePath(QStringLiteral("Varnel/Varnel.conf")); }
     // With a gear, as whoever begins afresh is asked for one.
     static Reasons SaveThrice(SettingsStore& store) {
-        Reasons told;
+        Reasons messages;
         for (const char* const value : {"1", "2", "3"}) {
             store.Save(setting::Gear, setting::DefaultGearName, Text("mine"));
             store.Save(setting::Gear, setting::ItemKey(setting::GearName, 1), Text("mine"));
             store.Save(setting::Gear, setting::NumGear, Text("1"));
             store.Save(Text("s"), Text("a"), Text(value));
-            told += store.Settle();
+            messages += store.Settle();
         }
-        return told;
+        return messages;
     }
     void Write(const QByteArray& bytes) const {
         Folder().mkpath(Text("."));
@@ -193,16 +193,17 @@ TEST_F(UserStoreTest, TellsOnceOfADamagedFileThatCannotBeSetAsideOrReplaced) {
         SaveThrice(*Open());
         Open()->Save(Text("s"), Text("long"), QString(c.savedSize, u'x'));
         Write(QByteArray(c.damagedSize, 'x'));
-        Reasons told;
+        Reasons messages;
         {
             const testing::FileSizeLimit full(8000);
             const auto store = Open();
-            told = store->Settle();
-            told += SaveThrice(*store);
+            messages = store->Settle();
+            messages += SaveThrice(*store);
         }
-        ASSERT_EQ(told.size(), 2) << ErrorText(Joined(told)).toStdString();
-        EXPECT_TRUE(told[0].Is(c.aside)) << ErrorText(told[0]).toStdString();
-        EXPECT_TRUE(told[1].Is(ReasonCode::SettingsUnwritable)) << ErrorText(told[1]).toStdString();
+        ASSERT_EQ(messages.size(), 2) << ErrorText(Joined(messages)).toStdString();
+        EXPECT_TRUE(messages[0].Is(c.aside)) << ErrorText(messages[0]).toStdString();
+        EXPECT_TRUE(messages[1].Is(ReasonCode::SettingsUnwritable))
+            << ErrorText(messages[1]).toStdString();
         EXPECT_EQ(Damaged(), c.files);
         Folder().removeRecursively();
     }

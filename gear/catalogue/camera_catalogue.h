@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The cameras that Varnel knows, with their sensors in landscape orientation.
+// The cameras that Varnel knows, with their sensors in landscape orientation. Throws nothing.
 #pragma once
 
 #include <QString>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What the camera and the lens catalogue have in common: rows of one brand stand together, in the
-// order of a list of brands with their counts. The checks run at compile time.
+// order of a list of brands with their counts. The checks run at compile time. Throws nothing.
 #pragma once
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Fills a gear from its camera's and its lens's names.
+// Fills a gear from its camera's and its lens's names. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -22,8 +22,8 @@ struct GearNames {
 GearNames NamesOf(const GearRecord& gear);
 GearRecord GearNamed(const GearNames& names);  // without a number
 
-// What the gear editor's sliders stand for: a moved one for its whole number, one that was not
-// moved for the gear's own number. A gear that the user adjusted takes these values in place of the
+// The values of the gear editor's sliders: a slider that was moved gives its whole number, any
+// other the gear's own number. A gear that the user adjusted gets these values instead of the
 // catalogue's.
 struct EditorSliders {
     float ratio = 0.0F;   // percent
@@ -33,12 +33,12 @@ struct EditorSliders {
 
 // Writes the names, the catalogue's numbers and the angles of view and the ratio that follow from
 // them. A camera or lens that is not in its catalogue leaves its numbers as they are; an angle
-// whose numbers are still zero stays, too.
+// whose numbers are still zero is left, too.
 void FillGearFromCatalogue(const GearNames& names, GearRecord& gear,
                            const EditorSliders& sliders = {});
 
-// Whether the gear's circle (ratio and offsets) or its horizontal angle is another than the
-// catalogue's, by more than a number changes that is stored as text.
+// Whether the gear's circle (ratio and offsets) or its horizontal angle differs from the
+// catalogue's by more than storing a number as text changes it.
 bool HasOwnCircle(const GearRecord& gear);
 bool HasOwnAngle(const GearRecord& gear);
 
@@ -46,7 +46,7 @@ bool HasOwnAngle(const GearRecord& gear);
 QString BuiltGearName(const GearNames& names);
 
 // The name with " 2" added whenever a gear of the table, visited once in order, has the name as it
-// then stands. A clash of the longer name with an earlier gear is not looked for.
+// then stands. Whether an earlier gear has the longer name is not checked.
 QString UniqueGearName(const GearTable& table, QString name);
 
 }  // namespace varnel

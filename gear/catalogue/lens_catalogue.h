@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The fisheye lenses that Varnel knows, each with the curve that tells where a ray lands.
+// The fisheye lenses that Varnel knows, each with the curve that maps the angle of a ray to its
+// distance from the centre. Throws nothing.
 #pragma once
 
 #include <QString>

@@ -15,7 +15,7 @@ namespace varnel {
 
 namespace {
 
-// Fills a combo box and leaves it open what is chosen.
+// Fills a combo box and leaves nothing chosen.
 void Offer(QComboBox* combo, const QStringList& texts) {
     const QSignalBlocker quiet(combo);
     combo->clear();
@@ -92,7 +92,7 @@ bool FormGearEdit::eventFilter(QObject* watched, QEvent* event) {
         }
         return false;
     }
-    // A turn of the wheel over a control that nobody looks at must not change the gear.
+    // A turn of the wheel over a control without the focus must not change the gear.
     const auto* control = qobject_cast<QWidget*>(watched);
     if (event->type() == QEvent::Wheel && control != nullptr && !control->hasFocus()) {
         event->ignore();

@@ -3,7 +3,7 @@
 
 // The gear editor: defines the scratch gear, element 0 of the table, from a camera and a lens. A
 // scratch gear that has a name is redefined, else a new one is made. After the dialog has closed an
-// empty name means that nothing was defined.
+// empty name means that nothing was defined. Throws nothing.
 #pragma once
 
 #include <QDialog>
@@ -32,7 +32,8 @@ class FormGearEdit : public QDialog {
     explicit FormGearEdit(GearTable& table, QWidget* parent = nullptr);
     ~FormGearEdit() override;
 
-    // Begins a new gear with what is known of it; names that are in no catalogue are left open.
+    // Starts a new gear with the known names and numbers; names that are in no catalogue are left
+    // open.
     void Propose(const GearRecord& known);
     void reject() override;
 
@@ -72,7 +73,7 @@ class FormGearEdit : public QDialog {
 
     std::unique_ptr<Ui::FormGearEdit> ui_;
     GearTable& table_;
-    GearRecord opened_;  // the gear as it came
+    GearRecord opened_;  // the gear when the dialog was opened
     std::vector<Adjuster> adjusters_;
     QString prompt_;
     bool isNew_ = true;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The list of gears: add, redefine, delete. OK writes the table to the store; every other way out
-// of the dialog leaves the table as it was.
+// of the dialog leaves the table as it was. Throws nothing.
 #pragma once
 
 #include <QDialog>

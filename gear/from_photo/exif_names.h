@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How cameras spell themselves and their lenses in EXIF where that is not the catalogues' way.
-// Words are in capitals; everything else stands as it is in the file.
+// How cameras spell themselves and their lenses in EXIF where that differs from the catalogues.
+// Words are in capitals; everything else is spelled as in the file. Throws nothing.
 #pragma once
 
 #include <span>
@@ -10,14 +10,14 @@
 
 namespace varnel {
 
-// A maker's EXIF name begins with the words. One maker may have cameras under two brands.
+// A maker's EXIF name starts with the words. One maker may have cameras under two brands.
 struct MakeName {
     std::u16string_view words;
     std::u16string_view brand;
 };
 std::span<const MakeName> MakeNames();
 
-// What a maker puts before or after the model's own name, in EXIF or in the catalogue.
+// What a maker adds before or after the model's own name, in EXIF or in the catalogue.
 struct MakerAffix {
     std::u16string_view brand;
     std::u16string_view before;
@@ -33,7 +33,7 @@ struct CameraAlias {
 };
 std::span<const CameraAlias> CameraAliases();
 
-// A word of a lens's name that tells its maker.
+// A word of a lens's name that identifies its maker.
 struct LensWord {
     std::u16string_view word;
     std::u16string_view brand;
@@ -42,7 +42,8 @@ std::span<const LensWord> LensWords();
 // Words that any maker's lens may have in its name.
 std::span<const std::u16string_view> CommonLensWords();
 
-// Lenses that never tell a camera their focal length; an empty model stands for all of the brand.
+// Lenses that never report their focal length to a camera; an empty model stands for all of the
+// brand.
 struct SilentLens {
     std::u16string_view brand;
     std::u16string_view model;

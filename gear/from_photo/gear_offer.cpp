@@ -17,8 +17,8 @@ bool HasCameraOf(const GearNames& one, const GearNames& other) {
     return one.cameraBrand == other.cameraBrand && one.cameraModel == other.cameraModel;
 }
 
-// Whether the record's gear is told apart from the photo's by the camera's name alone: the camera
-// matters by the size of its sensor.
+// Whether the record's gear differs from the photo's in the camera's name alone: of the camera only
+// the size of its sensor matters.
 bool ServesAsWell(const GearNames& photo, const ImageRecord& image) {
     constexpr float tolerance = 0.01F;
     const auto near = [](float a, float b) { return std::fabs(a - b) <= tolerance * b; };
@@ -59,7 +59,7 @@ GearOffer OfferOfPhoto(const CameraInfo& origin, const GearTable& table, const I
         offer.gear = NamesOf(table(photo.gear)) == current ? 0 : photo.gear;
     } else if (photo.lack == GearLack::DefinedGear) {
         offer.define = !(photo.names == current);
-    } else if (photo.lack == GearLack::ToldLens) {
+    } else if (photo.lack == GearLack::DefiniteLens) {
         offer.define = !HasCameraOf(photo.names, current);
     }
     const bool otherCamera =

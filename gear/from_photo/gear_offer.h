@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the main window says about the gear that took the current photo, and what it offers.
+// What the main window says about the gear that took the current photo, and what it offers. Throws
+// nothing.
 #pragma once
 
 #include <QString>
@@ -12,20 +13,20 @@
 namespace varnel {
 
 struct GearOffer {
-    QString line;         // empty: nothing is known
+    QString line;         // empty when the gear is not known
     int gear = 0;         // of the table, to be used; 0 for none
     bool define = false;  // a gear may be defined from the names
-    bool lost = false;    // it is the record's own, which the table does not have
+    bool lost = false;    // names are the record's gear, which the table does not have
     GearNames names;
-    QString reason;  // why it is offered, or why nothing is
+    QString reason;  // why the gear is offered, or why none is
     QString error;   // the gear in use does not fit the photo; empty when it may
 
     bool operator==(const GearOffer&) const = default;
 };
 
 // A photo that has its gear already, or one with the same camera and lens, gets no offer, unless
-// that gear is not in the table: it may be defined then, whatever the photo tells. The record tells
-// its gear and, when that gear took the photo, whether the picture was cropped.
+// that gear is not in the table: it may be defined then, whatever gear took the photo. From the
+// record come its gear and, when that gear took the photo, whether the picture was cropped.
 GearOffer OfferFor(const CameraInfo& origin, const GearTable& table, const ImageRecord& image);
 
 // Why the gear's numbers may not fit the record's picture, though it took the photo: the picture

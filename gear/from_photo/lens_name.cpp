@@ -35,7 +35,7 @@ LensName ParseLensName(const QString& text) {
     static const QRegularExpression focal =
         Pattern(uR"((\d+(?:\.\d+)?)(?:\s*(?:mm)?\s*-\s*(\d+(?:\.\d+)?))?\s*mm)");
     static const QRegularExpression aperture = Pattern(uR"((?:\bf\s*[/:]?\s*|1:)(\d+(?:\.\d+)?))");
-    // Some makers part focal length and aperture by a slash only.
+    // Some makers separate focal length and aperture by a slash only.
     static const QRegularExpression slashed =
         Pattern(uR"((\d+(?:\.\d+)?)(?:-(\d+(?:\.\d+)?))?/f(\d+(?:\.\d+)?))");
     LensName name;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The catalogue's name of the camera that took a photo.
+// The catalogue's name of the camera that took a photo. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -17,11 +17,11 @@ struct CatalogueEntry {
     bool IsKnown() const { return !model.isEmpty(); }
 };
 
-// For the names of maker and model as EXIF spells them. A model that begins with its maker's name
-// needs no maker.
+// The entry for maker and model as spelled in EXIF; empty when the catalogue has none. A model that
+// starts with its maker's name needs no maker.
 CatalogueEntry CameraFromExif(const QString& make, const QString& model);
 
-// What the spellings of one camera have in common.
+// A form that is equal for all spellings of one camera.
 QString CameraNormalForm(const QString& brand, const QString& model);
 
 }  // namespace varnel

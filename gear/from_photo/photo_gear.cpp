@@ -22,9 +22,9 @@ QString CameraText(const CameraInfo& origin) {
 }
 
 QString LensText(const CameraInfo& origin, const PhotoLenses& lenses) {
-    const QString told = origin.LensModel.simplified();
-    if (lenses.isNamed && !told.isEmpty()) {
-        return told;
+    const QString name = origin.LensModel.simplified();
+    if (lenses.isNamed && !name.isEmpty()) {
+        return name;
     }
     if (lenses.lens.IsKnown()) {
         return lenses.lens.brand + u' ' + lenses.lens.model;
@@ -42,7 +42,7 @@ CatalogueEntry LensOf(const GearRecord& gear) {
     return {gear.LensBrand, gear.LensModel};
 }
 
-// Gears of the camera whose lens may have been on it.
+// Gears of the camera with a lens that may have taken the photo.
 std::vector<int> FittingGears(const CatalogueEntry& camera, const PhotoLenses& lenses,
                               const GearTable& table) {
     std::vector<int> gears;
@@ -71,7 +71,7 @@ void FindGear(const CatalogueEntry& camera, const PhotoLenses& lenses, const Gea
         found.lack = GearLack::DefinedGear;
     } else {
         found.lack =
-            lenses.isNamed && lenses.fitting.empty() ? GearLack::KnownLens : GearLack::ToldLens;
+            lenses.isNamed && lenses.fitting.empty() ? GearLack::KnownLens : GearLack::DefiniteLens;
     }
 }
 
@@ -89,7 +89,7 @@ QString ReasonFor(GearLack lack, const QString& camera, const QString& lens) {
             return Texts::tr("the camera %1 is not in the catalogue").arg(camera);
         case GearLack::KnownLens:
             return Texts::tr("the lens %1 is not in the catalogue").arg(lens);
-        case GearLack::ToldLens:
+        case GearLack::DefiniteLens:
             return Texts::tr("the photo does not tell well enough which lens took it");
         case GearLack::OneGear:
             return Texts::tr("the photo does not tell which gear of its camera took it");

@@ -62,21 +62,21 @@ bool Near(float one, float other) {
     return std::abs(one - other) < nameTolerance;
 }
 
-// What the exposure says speaks against the lens.
+// Whether aperture and focal length of the exposure are possible with the lens.
 bool ExposureFits(const KnownLens& lens, const CameraInfo& origin, const CatalogueEntry& camera) {
     if (origin.FNumber > 0.0F && origin.FNumber < lens.name.aperture * (1.0F - apertureTolerance)) {
         return false;
     }
-    const float told = origin.FocalLength;
+    const float reported = origin.FocalLength;
     const float focal = lens.FocalLength();
-    if (told <= 0.0F || focal == 0.0F) {
+    if (reported <= 0.0F || focal == 0.0F) {
         return true;
     }
     if (lens.name.IsZoom()) {
-        return std::abs(told - focal) <= 0.5F;
+        return std::abs(reported - focal) <= 0.5F;
     }
-    return std::abs(told - focal) <= focal * focalTolerance ||
-           (camera.brand == u"Nikon" && told == shortestOfNikon && focal < shortestOfNikon);
+    return std::abs(reported - focal) <= focal * focalTolerance ||
+           (camera.brand == u"Nikon" && reported == shortestOfNikon && focal < shortestOfNikon);
 }
 
 QStringList MakersIn(const QStringList& words) {
@@ -97,36 +97,36 @@ bool HasOnlyCommonWords(const QStringList& words) {
     });
 }
 
-// "----" and "0.0 mm f/0.0" stand for a lens that told nothing.
-bool TellsLens(const QString& text) {
+// "----" and "0.0 mm f/0.0" stand for a lens that reported nothing.
+bool NamesLens(const QString& text) {
     static const QRegularExpression blank(
         QStringLiteral("^[^A-Za-z1-9]*$|^(?:DT )?0(?:\\.0)?\\s*mm\\b|^(?:unknown|none|n/a)\\b"),
         QRegularExpression::CaseInsensitiveOption);
     return !blank.match(text.simplified()).hasMatch();
 }
 
-// What a photo's file says of its lens.
-struct ToldLens {
+// The lens as named in a photo's EXIF.
+struct ExifLens {
     LensName name;
-    QStringList makers;    // empty when none is told
+    QStringList makers;    // empty when none is named
     bool unknown = false;  // some lens that is none of the catalogue's
 };
 
-ToldLens ToldBy(const CameraInfo& origin) {
-    ToldLens told{ParseLensName(origin.LensModel), {}};
-    told.makers = MakersIn(told.name.words);
-    if (told.makers.isEmpty() && TellsLens(origin.LensMake)) {
-        told.makers = MakersIn(ParseLensName(origin.LensMake).words);
-        told.unknown = told.makers.isEmpty();
+ExifLens ExifLensOf(const CameraInfo& origin) {
+    ExifLens exif{ParseLensName(origin.LensModel), {}};
+    exif.makers = MakersIn(exif.name.words);
+    if (exif.makers.isEmpty() && NamesLens(origin.LensMake)) {
+        exif.makers = MakersIn(ParseLensName(origin.LensMake).words);
+        exif.unknown = exif.makers.isEmpty();
     }
-    if (told.makers.isEmpty() && !HasOnlyCommonWords(told.name.words)) {
-        told.unknown = true;
+    if (exif.makers.isEmpty() && !HasOnlyCommonWords(exif.name.words)) {
+        exif.unknown = true;
     }
     // Sony's lenses for mirrorless cameras: its 16 mm there is no fisheye.
-    const QString first = told.name.words.value(0);
-    told.unknown = told.unknown || first == u"E" || first == u"FE";
-    told.unknown = told.unknown || told.name.shortest == 0.0F;
-    return told;
+    const QString first = exif.name.words.value(0);
+    exif.unknown = exif.unknown || first == u"E" || first == u"FE";
+    exif.unknown = exif.unknown || exif.name.shortest == 0.0F;
+    return exif;
 }
 
 // The Pentax zoom is Tokina's with another name on it.
@@ -135,11 +135,11 @@ bool IsBy(const KnownLens& lens, const QStringList& makers) {
            (lens.entry.brand == u"Tokina" && makers.contains(u"Pentax"));
 }
 
-bool NameFits(const KnownLens& lens, const ToldLens& told) {
-    const LensName& name = told.name;
+bool NameFits(const KnownLens& lens, const ExifLens& exif) {
+    const LensName& name = exif.name;
     const bool apertureFits = name.aperture == 0.0F || lens.name.aperture == 0.0F ||
                               Near(name.aperture, lens.name.aperture);
-    return !told.unknown && IsBy(lens, told.makers) && apertureFits &&
+    return !exif.unknown && IsBy(lens, exif.makers) && apertureFits &&
            Near(name.shortest, lens.name.shortest) && Near(name.longest, lens.name.longest);
 }
 
@@ -193,20 +193,20 @@ PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camer
         return {{camera}, camera, true};  // built in: both catalogues have it under one name
     }
     PhotoLenses found;
-    found.isNamed = TellsLens(origin.LensModel);
-    const ToldLens told = ToldBy(origin);
+    found.isNamed = NamesLens(origin.LensModel);
+    const ExifLens exif = ExifLensOf(origin);
     std::vector<KnownLens> fitting;
     for (const KnownLens& lens : AllLenses()) {
         if (found.isNamed && IsCatalogueName(lens, origin.LensModel)) {
             return {{lens.entry}, lens.entry, true};
         }
-        if (ExposureFits(lens, origin, camera) && (!found.isNamed || NameFits(lens, told))) {
+        if (ExposureFits(lens, origin, camera) && (!found.isNamed || NameFits(lens, exif))) {
             fitting.push_back(lens);
             found.fitting.push_back(lens.entry);
         }
     }
     if (found.isNamed || origin.FocalLength > 0.0F) {
-        found.lens = OnlyOne(fitting, camera, !told.makers.isEmpty(), found.isNamed);
+        found.lens = OnlyOne(fitting, camera, !exif.makers.isEmpty(), found.isNamed);
     }
     return found;
 }

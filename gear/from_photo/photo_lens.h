@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The catalogue's lenses that may have taken a photo.
+// The catalogue's lenses that may have taken a photo. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -13,14 +13,14 @@
 namespace varnel {
 
 struct PhotoLenses {
-    std::vector<CatalogueEntry> fitting;  // all that the photo's file does not speak against
-    CatalogueEntry lens;                  // the one that it must have been, if that can be told
-    bool isNamed = false;                 // the file tells a lens
+    std::vector<CatalogueEntry> fitting;  // all that the photo's EXIF does not rule out
+    CatalogueEntry lens;                  // the only possible one, if it can be identified
+    bool isNamed = false;                 // the EXIF names a lens
 };
 
-// A lens without a name is found by its focal length only where one lens of the camera's maker, or
-// else of those who make lenses for every camera, has it; zoom lenses are not found so, because
-// what they share with ordinary lenses is most of their range.
+// A lens without a name is identified by its focal length only where exactly one lens of the
+// camera's maker, or else of the makers for every camera, has it; zoom lenses are not, because they
+// share most of their range with ordinary lenses.
 PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camera);
 
 }  // namespace varnel

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What the gear editor does to the scratch gear, element 0 of the table, and the ranges of its
-// sliders. Sliders hold whole numbers: degrees, percent, thousandths.
+// sliders. Sliders hold whole numbers: degrees, percent, thousandths. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -23,14 +23,14 @@ inline constexpr SliderRange hAovRange{10, 280};
 inline constexpr SliderRange ratioRange{10, 400};
 inline constexpr SliderRange ofsetRange{-200, 200};
 
-// The range, made just wide enough for the value.
+// The range, widened just enough to hold the value.
 SliderRange Widened(SliderRange range, int value);
 
 // The nearest whole number, ties to even; what is stored may be any number.
 int SliderPosition(float value);
 
-// Gives one of the gear's numbers a value of the user's. An angle counts both ways, as it does when
-// it is read back from the store.
+// Sets one of the gear's numbers to the user's value; the horizontal angle sets the vertical one,
+// too, as it does when it is read back from the store.
 void SetNumber(float GearRecord::*number, int value, GearRecord& gear);
 
 // What the user has entered when the gear is confirmed.
@@ -43,12 +43,12 @@ struct GearEntry {
 // An adjusted gear keeps the numbers that it has, any other gets the catalogue's.
 void DefineEditedGear(GearTable& table, const GearEntry& entry);
 
-// Writes into the gear what is known of one that is to be defined: its names, its own ratio with
-// the offsets, and its own angle; 0 for what is not known. An angle that a slider rounded is the
+// Writes the known values of a gear that is to be defined into the gear: its names, its own ratio
+// with the offsets, and its own angle; 0 for unknown ones. An angle that a slider rounded is the
 // catalogue's.
 void TakeKnown(const GearRecord& known, GearRecord& gear);
 
-// The catalogue's numbers count again: no adjustment, no offset of the image circle.
+// Restores the catalogue's numbers: no adjustment, no offset of the image circle.
 void DropAdjustments(GearRecord& gear);
 
 }  // namespace varnel

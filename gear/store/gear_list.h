@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What the gear list does to the table. The editor's result is in element 0; n is the number of a
-// gear that the table has.
+// gear that the table has. Throws nothing.
 #pragma once
 
 #include <vector>
@@ -11,7 +11,7 @@
 
 namespace varnel {
 
-// The first gear that has the default's name.
+// Whether gear n is the first one that has the default's name.
 bool IsDefaultGear(const GearTable& table, int n);
 
 // Appends the editor's gear and returns its number.
@@ -20,21 +20,21 @@ int AddEditedGear(GearTable& table);
 // Puts the editor's gear in place of gear n. The default gear stays the default under a new name.
 void ReplaceWithEditedGear(GearTable& table, int n);
 
-// One gear has to stay.
+// Whether more than one gear is left.
 bool MayDeleteGear(const GearTable& table);
 
-// Removes gear n; the default passes to the gear that comes first then.
+// Removes gear n; if it was the default, the first gear of the rest becomes the default.
 void DeleteGear(GearTable& table, int n);
 
-// Which gear of the table is which of the gears that were there when the list was opened.
+// Maps the gears of the table to those that it held when the list was opened.
 class GearOrigins {
   public:
     explicit GearOrigins(const GearTable& table);
     void NoteAdded() { origins_.push_back(0); }
     void NoteDeleted(int n) { origins_.erase(origins_.begin() + n); }
     const GearTable& Before() const { return before_; }
-    // The gears that are other ones now, under the same name or another. Of several that had one
-    // name only the first, which that name means.
+    // The gears that have changed, under the same name or another. Of several that had one name
+    // only the first, to which that name refers.
     std::vector<GearChange> Redefined(const GearTable& now) const;
 
   private:

@@ -15,9 +15,9 @@ namespace varnel {
 
 namespace {
 
-// What a stored number may be and still give a picture; the editor's sliders span less. Anything
-// else comes from damage or from a slip of the hand, and the catalogue's number stays: the remap
-// divides by the ratio and by the angle.
+// The stored numbers that give a picture; the editor's sliders span less. Any other number comes
+// from damage or a typing error, and the catalogue's is used: the remap divides by the ratio and by
+// the angle.
 struct UsableRange {
     float least;
     float most;
@@ -61,14 +61,17 @@ void ReadAdjustments(const SettingsStore& store, int n, GearRecord& gear) {
     read(setting::GearRatio, usableRatio, gear.GearRatio);
     gear.LensFieldAngle = 180.0F;
     read(setting::HorizontalAov, usableAov, gear.hAOV);
-    // Meant so: the vertical angle is written but never read back, the horizontal one serves twice.
+    // Intended: the vertical angle is written but never read back, the horizontal one is used for
+    // both.
     read(setting::HorizontalAov, usableAov, gear.vAOV);
 }
 
-// Settings of older releases do not tell; then other numbers than the catalogue's are the user's.
+// Settings of older releases have no such key; then numbers other than the catalogue's are the
+// user's.
 bool ReadSetByHand(const SettingsStore& store, int n, const GearRecord& gear) {
-    const QString told = store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
-    return told == u"1" || (told != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
+    const QString stored =
+        store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
+    return stored == u"1" || (stored != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
 }
 
 void ReadGear(const SettingsStore& store, int n, GearRecord& gear) {

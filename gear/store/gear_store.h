@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The gear table in the settings store.
+// The gear table in the settings store. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -11,10 +11,10 @@
 
 namespace varnel {
 
-// What is said while there is no gear at all.
+// The message while there is no gear at all.
 QString NoGearText();
 
-// What loading asks of the user while there is no gear at all.
+// How loading asks the user for a gear while there is none at all.
 class GearPrompt {
   public:
     virtual ~GearPrompt() = default;
@@ -32,8 +32,8 @@ enum class GearLoad { Loaded, QuitWanted };
 // one. After QuitWanted the table holds no gear and nothing was saved.
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt);
 
-// Writes the table; a single gear becomes the default one. Keys of gears that are gone stay in the
-// store, beyond the stored number.
+// Writes the table; a single gear becomes the default one. Keys of deleted gears stay in the store,
+// beyond the stored number.
 void SaveGear(SettingsStore& store, GearTable& table);
 
 }  // namespace varnel

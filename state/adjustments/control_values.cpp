@@ -21,7 +21,7 @@ std::optional<float ImageRecord::*> EffectField(Projection projection) {
     return use != nullptr && use->shown ? EffectReadBy(projection) : std::nullopt;
 }
 
-// Numbers beyond every slider's range end at the range of int; no number counts as 0.
+// Numbers beyond every slider's range are limited to the range of int; not-a-number becomes 0.
 int WholeNumber(float value) {
     using Limits = std::numeric_limits<int>;
     const double rounded = std::isnan(value) ? 0.0 : Round(static_cast<double>(value));

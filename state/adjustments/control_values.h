@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the main window's controls show of a record, in whole numbers as sliders hold them.
+// What the main window's controls show of a record, in whole numbers as sliders hold them. Throws
+// nothing.
 #pragma once
 
 #include <optional>
@@ -14,7 +15,7 @@ struct ControlValues {
     int projection = 0;         // index of the OptionRemap button
     int inputAov = 0;           // degrees
     int outputAov = 0;          // degrees
-    std::optional<int> effect;  // percent; nothing for the projections without a slider for it
+    std::optional<int> effect;  // percent; empty for the projections without a slider for it
     int rotateX = 0;            // degrees
     int rotateY = 0;
     int rotateZ = 0;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How gears reach photos, and how one photo's settings reach all others.
+// How gears are assigned to photos, and one photo's settings to all others. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -12,7 +12,7 @@
 
 namespace varnel {
 
-// What a gear brings: percent, and degrees for an angle of view of the photo.
+// Defaults of a gear: percent, and degrees for an angle of view of the photo.
 inline constexpr float usualEffect = 100.0F;
 float UsualOutputAov(float inputAov);
 
@@ -25,8 +25,8 @@ void CopyGear(const GearRecord& gear, ImageRecord& image);
 // settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
 
-// The gear that gave the record its numbers, as far as they tell it: its angle of view only from a
-// landscape record, and as it was refined there.
+// The gear that gave the record its numbers, as far as it follows from them: its angle of view only
+// from a landscape record, and as it was refined there.
 GearRecord GearOf(const ImageRecord& image);
 
 // False for a record that may name a gear, but was never given one's numbers.

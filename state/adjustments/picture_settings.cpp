@@ -96,7 +96,7 @@ bool IsFileName(const QString& text) {
            text != QStringLiteral(".") && text != QStringLiteral("..");
 }
 
-// A folder that was given from where the program stood means nothing later.
+// A folder relative to the current one means nothing later.
 QString WrittenFolder(const QString& folder) {
     if (folder.isEmpty()) {
         return QStringLiteral("/");

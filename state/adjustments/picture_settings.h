@@ -3,7 +3,7 @@
 
 // The settings that made a picture as names and values: how they stand in the pictures that Varnel
 // writes, and how a record gets them back. Numbers have a decimal point whatever the locale and
-// come back bit by bit.
+// come back bit by bit. Throws nothing.
 #pragma once
 
 #include <QStringList>
@@ -24,15 +24,15 @@ PictureSettings SettingsFrom(const ImageRecord& image);
 // controls or a sensible command line could have given are taken. A folder may be a relative one.
 QStringList TakeSettings(const PictureSettings& settings, ImageRecord& image);
 
-// Gives the settings to a result that is about to be written, or takes older ones away. The photo's
-// folder is told as it lies beside the result's file, and not at all when no file is given: nobody
-// else is to learn whose folders these are.
+// Attaches the settings to a result that is about to be written, or removes older ones. The photo's
+// folder is written relative to the result's file, and not at all when no file is given: folder
+// names are private.
 void NoteSettings(Bitmap* result, const ImageRecord& image, bool wanted, const QString& file = {});
 
-// Where the record's photo lies, when its folder was told by this picture.
+// The folder of the record's photo; a relative one starts at this picture's folder.
 QString SourceFolderOf(const ImageRecord& image, const QString& picture);
 
-// A setting for the eye: it may be long and hold anything.
+// A setting to be shown in a message: shortened, without control characters.
 QString Shown(const QString& setting, qsizetype longest = 40);
 
 }  // namespace varnel

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The fields of an image record by their names, for the command line.
+// The fields of an image record by their names, for the command line. Throws nothing.
 #pragma once
 
 #include <QString>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The eight sliders of the main window in one table: names, ranges, captions and the control value
-// that each one holds.
+// that each one holds. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -40,7 +40,7 @@ const std::array<SliderRowData, 8>& SliderRows();
 
 // Empty for none.
 QString GroupName(SliderId id);
-// What tells it from all others: the heading, behind the group's name if there is one.
+// A name that no other slider has: the heading, after the group's name if there is one.
 QString SpokenName(const SliderRowData& row);
 
 // The value label's text while the slider stands at value.

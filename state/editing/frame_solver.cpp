@@ -23,7 +23,7 @@ std::optional<std::size_t> LineAt(double share, const std::vector<int>& shown, i
     return static_cast<std::size_t>(std::round(share * static_cast<double>(shown.size() - 1)));
 }
 
-// How far from the wanted place the point is with these controls.
+// How far from the wanted position the point is with these controls.
 double Miss(const FrameSetting& setting, const ControlValues& controls, const FramePoint& point,
             const SourcePosition& wanted) {
     ImageRecord trial = setting.image;

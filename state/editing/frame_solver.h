@@ -17,7 +17,7 @@ namespace varnel {
 
 // The slider that makes the frame wider; nothing for a projection without one.
 std::optional<SliderId> FrameSlider(Projection projection);
-// The frame can be panned and tilted.
+// Whether the frame can be panned and tilted.
 bool FrameTurns(Projection projection);
 
 // Points of the border that the slider moves.
@@ -36,7 +36,8 @@ struct FrameSetting {
 // such slider.
 int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
                  const SourcePosition& wanted);
-// The controls with the turns that bring the middle of the frame nearest to the wanted place.
+// The controls with the turns that bring the middle of the frame nearest to the wanted position.
+// Throws nothing: numbers without a conversion are passed over, as in WidthNearest.
 ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& wanted);
 
 }  // namespace varnel

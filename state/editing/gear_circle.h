@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Between a gear's image circle and the circle on a photo as it is shown.
+// Between a gear's image circle and the circle on a photo as it is shown. Throws nothing.
 #pragma once
 
 #include "base/record_array.h"
@@ -11,7 +11,7 @@
 
 namespace varnel {
 
-// What a gear says of its circle: offsets in thousandths of width and height of a picture stored in
+// The circle of a gear: offsets in thousandths of width and height of a picture stored in
 // landscape, the ratio in percent.
 struct GearCircle {
     float OfsetX = 0.0F;
@@ -34,9 +34,8 @@ GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, Pi
 int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
                int current);
 
-// What a step did to a gear of the table, or what undoing it shall do. False, and nothing is
-// changed, when the table's gear of that name is another one than it was: it was deleted or edited
-// since.
+// Replaces change.from in the table by change.to. False, and nothing is changed, when the table's
+// gear of that name is not change.from: it was deleted or edited since.
 bool ChangeGear(GearTable& table, const GearChange& change);
 
 }  // namespace varnel

@@ -33,7 +33,7 @@ bool HasNumbersOf(const GearRecord& gear, const ImageRecord& image) {
 bool BringsNewNumbers(const GearChange& change) {
     GearRecord same = change.from;
     same.GearName = change.to.GearName;
-    // What no photo takes over.
+    // Not copied to photos.
     same.LensDataVersion = change.to.LensDataVersion;
     same.LensFieldAngle = change.to.LensFieldAngle;
     same.UserAdjusted = change.to.UserAdjusted;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What becomes of the photos of a gear that was redefined.
+// What happens to the photos of a gear that was redefined. Throws nothing.
 #pragma once
 
 #include <QString>

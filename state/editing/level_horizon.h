@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// From a horizon traced on the photo as shot to the record's tilt and roll.
+// From a horizon traced on the photo as shot to the record's tilt and roll. LevelHorizon throws
+// nothing, OffsetOf as ImageCentre.
 #pragma once
 
 #include <span>
@@ -23,7 +24,7 @@ SourceOffset OffsetOf(const PicturePoint& point, PixelSize source, const ImageRe
 enum class LevelError {
     None,
     NoLens,       // the record's numbers make no lens
-    TooShort,     // to tell a direction
+    TooShort,     // to determine a direction
     NotStraight,  // no horizon is bent like this through this lens
     OutOfReach    // beyond a slider's range
 };

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the image list shows of a photo beside its name, as letters and in words.
+// What the image list shows of a photo beside its name, as letters and in words. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -18,7 +18,7 @@ struct ListBadges {
     bool operator==(const ListBadges&) const = default;
 };
 
-// The error is empty when all is well.
+// The error is empty when there is none.
 ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error);
 
 }  // namespace varnel

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the steps that can be undone are called, in one table: the texts follow "Undo" and "Redo".
+// The names of the steps that can be undone, in one table: the texts follow "Undo" and "Redo".
+// Throws nothing.
 #pragma once
 
 #include <QString>
@@ -40,7 +41,7 @@ struct ControlStep {
     std::optional<SliderId> slider;  // when one slider alone was moved
 };
 
-// What was done when the controls of a photo went from one state to the other.
+// The step that changed the controls of a photo from one state to the other.
 ControlStep StepBetween(const ControlValues& before, const ControlValues& after);
 
 }  // namespace varnel

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Everything the program holds while it runs. Made once by its start-up and passed in parts.
+// Everything the program holds while it runs. Made once by its start-up and passed in parts. Throws
+// nothing.
 #pragma once
 
 #include "base/record_array.h"

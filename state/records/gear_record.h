@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One camera + lens combination, and the table of them.
+// One camera + lens combination, and the table of them. Throws nothing but std::out_of_range by
+// GearTable for a number beyond the table.
 #pragma once
 
 #include <QString>
@@ -49,7 +50,7 @@ struct GearChange {
 };
 
 // The gears are elements 1 to UpperBound(); element 0 is the editor's scratch slot and always
-// there.
+// exists.
 class GearTable {
   public:
     GearTable() : gears_(1) {}
@@ -57,7 +58,7 @@ class GearTable {
     // 0 <= n <= UpperBound().
     GearRecord& operator()(int n) { return gears_.at(static_cast<std::size_t>(n)); }
     const GearRecord& operator()(int n) const { return gears_.at(static_cast<std::size_t>(n)); }
-    // Keeps what is there; new gears are empty.
+    // Keeps the existing gears; new ones are empty.
     void Resize(int upperBound) { gears_.resize(static_cast<std::size_t>(upperBound) + 1); }
     void Remove(int n) { gears_.erase(gears_.begin() + n); }
     // The number of the first gear of that name, 0 when there is none.

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Everything that Varnel knows of one photo: where it is, which gear took it and how it is to be
-// converted. A record owns copies of the gear's numbers; the projections read nothing else.
+// converted. A record owns copies of the gear's numbers; the projections read nothing else. Throws
+// nothing.
 #pragma once
 
 #include <QMap>

@@ -31,7 +31,7 @@ void CancellableProgress::EndIfCancelled() const {
     }
 }
 
-SaveResult SaveMeanwhile(const PictureFile& file, const Bitmap* bitmap, ThreadRunner& pool,
+SaveResult SaveMeanwhile(const FileToSave& file, const Bitmap* bitmap, ThreadRunner& pool,
                          RenderProgress& progress, const CancelFlag& cancelled) {
     SaveWorker worker(&pool);
     worker.Begin([&] {

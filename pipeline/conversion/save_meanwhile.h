@@ -35,7 +35,7 @@ class CancellableProgress : public RenderProgress {
     const CancelFlag& cancelled_;
 };
 
-struct PictureFile {
+struct FileToSave {
     OutputEncoding encoding;
     QString name;
 };
@@ -44,7 +44,7 @@ struct PictureFile {
 // may not be used meanwhile. Until it is done the progress, begun with a maximum of 0 because it is
 // not known how far it is, handles events. Cancelled before the file has its name, no file is
 // written.
-SaveResult SaveMeanwhile(const PictureFile& file, const Bitmap* bitmap, ThreadRunner& pool,
+SaveResult SaveMeanwhile(const FileToSave& file, const Bitmap* bitmap, ThreadRunner& pool,
                          RenderProgress& progress, const CancelFlag& cancelled);
 // What is told of a picture that was cancelled.
 QString CancelledText();

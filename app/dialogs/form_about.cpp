@@ -3,7 +3,7 @@
 
 #include "app/dialogs/form_about.h"
 
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 #include "ui_form_about.h"
 
 namespace varnel {

@@ -3,8 +3,6 @@
 
 #include "cli/options/options.h"
 
-#include <FreeImage.h>
-
 #include <QFileInfo>
 #include <array>
 
@@ -12,6 +10,7 @@
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
 #include "pipeline/conversion/morph_sequence.h"
+#include "remap/image/image_library.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
 
@@ -204,8 +203,7 @@ void CheckMorph(const Options& options) {
 // Another type's contents under a picture's name would mislead; names that tell nothing may hold
 // any.
 bool IsOtherPictureName(const QString& name) {
-    return !OutputTypeByEnding(name) &&
-           FreeImage_GetFIFFromFilename(name.toUtf8().constData()) != FIF_UNKNOWN;
+    return !OutputTypeByEnding(name) && IsPictureName(name);
 }
 
 void CheckTogether(const Options& options) {

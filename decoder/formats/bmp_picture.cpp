@@ -118,9 +118,9 @@ BitmapHandle Copied(const QImage& image) {
             reinterpret_cast<const QRgb*>(image.constScanLine(image.height() - 1 - y));
         std::uint8_t* to = ScanLine(bitmap.get(), y).data();
         for (int x = 0; x < image.width(); ++x, to += 3) {
-            to[FI_RGBA_RED] = static_cast<std::uint8_t>(qRed(from[x]));
-            to[FI_RGBA_GREEN] = static_cast<std::uint8_t>(qGreen(from[x]));
-            to[FI_RGBA_BLUE] = static_cast<std::uint8_t>(qBlue(from[x]));
+            to[0] = static_cast<std::uint8_t>(qBlue(from[x]));
+            to[1] = static_cast<std::uint8_t>(qGreen(from[x]));
+            to[2] = static_cast<std::uint8_t>(qRed(from[x]));
         }
     }
     return bitmap;

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "decoder/formats/picture_file.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 

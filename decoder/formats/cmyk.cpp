@@ -21,20 +21,6 @@ struct TransformDeleter {
     void operator()(void* transform) const { cmsDeleteTransform(transform); }
 };
 
-// Has the library leave inks as they are; 0 where it cannot.
-int InkFlags(FREE_IMAGE_FORMAT format) {
-    switch (format) {
-        case FIF_JPEG:
-            return JPEG_CMYK | JPEG_ACCURATE;
-        case FIF_TIFF:
-            return TIFF_CMYK;
-        case FIF_PSD:
-            return PSD_CMYK;
-        default:
-            return 0;
-    }
-}
-
 }  // namespace
 
 bool IsProfileForCmyk(QByteArrayView profile) {
@@ -43,43 +29,38 @@ bool IsProfileForCmyk(QByteArrayView profile) {
     return profile.size() > header && profile.sliced(colourSpace, 4) == QByteArrayView("CMYK");
 }
 
-BitmapHandle FromCmyk(FIBITMAP* cmyk, QByteArrayView profile) {
+BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile) {
     const Profile inks(
         cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
     const Profile screen(cmsCreate_sRGBProfile());
-    if (!inks || !screen || cmsGetColorSpace(inks.get()) != cmsSigCmykData ||
-        (FreeImage_GetBPP(cmyk) != 32 && FreeImage_GetBPP(cmyk) != 64)) {
+    if (!inks || !screen || cmsGetColorSpace(inks.get()) != cmsSigCmykData) {
         return nullptr;
     }
-    const cmsUInt32Number depth = FreeImage_GetBPP(cmyk) == 32 ? TYPE_CMYK_8 : TYPE_CMYK_16;
+    const cmsUInt32Number depth = cmyk.bytesPerSample == 1 ? TYPE_CMYK_8 : TYPE_CMYK_16;
     const std::unique_ptr<void, TransformDeleter> transform(
         cmsCreateTransform(inks.get(), depth, screen.get(), TYPE_BGR_8,
                            INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION));
     if (!transform) {
         return nullptr;
     }
-    const PixelSize size = SizeOf(cmyk);
-    BitmapHandle result = NewBitmap(size);
-    for (int y = 0; y < size.height; ++y) {
-        cmsDoTransform(transform.get(), FreeImage_GetScanLine(cmyk, y),
-                       ScanLine(result.get(), y).data(), static_cast<cmsUInt32Number>(size.width));
+    BitmapHandle result = NewBitmap(cmyk.size);
+    for (int y = 0; y < cmyk.size.height; ++y) {
+        cmsDoTransform(transform.get(), cmyk.Row(y), ScanLine(result.get(), y).data(),
+                       static_cast<cmsUInt32Number>(cmyk.size.width));
     }
     return result;
 }
 
-BitmapHandle FromInks(FIBITMAP* bitmap, FREE_IMAGE_FORMAT format, const PictureFile& file) {
-    BitmapMetadata metadata = LibraryMetadata(bitmap);
-    const int flags = InkFlags(format);
-    if (flags == 0 || !IsProfileForCmyk(metadata.colourProfile)) {
+BitmapHandle FromInks(const LibraryReader& reader, const BitmapMetadata& metadata) {
+    if (!IsProfileForCmyk(metadata.colourProfile)) {
         return nullptr;
     }
-    const LibraryBitmap inks = file.Load(format, flags);
-    BitmapHandle colours = inks && FreeImage_GetColorType(inks.get()) == FIC_CMYK
-                               ? FromCmyk(inks.get(), metadata.colourProfile)
-                               : nullptr;
+    const LibraryPicture picture = reader.WithInks();
+    const std::optional<SampleRows> inks = picture.Inks();
+    BitmapHandle colours = inks ? FromCmyk(*inks, metadata.colourProfile) : nullptr;
     if (colours) {
-        metadata.colourProfile.clear();
-        colours->metadata = std::move(metadata);
+        colours->metadata = metadata;
+        colours->metadata.colourProfile.clear();
     }
     return colours;
 }

@@ -14,12 +14,14 @@
 #include "decoder/formats/header_size.h"
 #include "decoder/formats/jpeg_frame.h"
 #include "decoder/formats/jpeg_pixels.h"
+#include "decoder/formats/library_reader.h"
 #include "decoder/formats/orientation.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/tiff_structure.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
 #include "decoder/request/picture_limits.h"
+#include "remap/image/image_library.h"
 #include "remap/image/library_messages.h"
 
 namespace varnel {
@@ -28,27 +30,6 @@ namespace {
 
 // Beyond that, decoding a whole picture takes more than about a second.
 constexpr std::int64_t mostPixelsForSmall = 60'000'000;
-
-int WholeFlags(FREE_IMAGE_FORMAT format) {
-    switch (format) {
-        case FIF_JPEG:  // NOLINT(bugprone-branch-clone): one number, two meanings
-            return JPEG_ACCURATE;
-        case FIF_RAW:
-            return RAW_DISPLAY;  // linear data would come out far too dark
-        default:
-            return 0;
-    }
-}
-
-// Sides as a file states them, which may be anything.
-struct StatedSize {
-    std::int64_t width = 0;
-    std::int64_t height = 0;
-};
-
-StatedSize Stated(FIBITMAP* bitmap) {
-    return {FreeImage_GetWidth(bitmap), FreeImage_GetHeight(bitmap)};
-}
 
 PixelSize Pixels(const StatedSize& stated) {
     return {static_cast<std::int32_t>(stated.width), static_cast<std::int32_t>(stated.height)};
@@ -88,18 +69,23 @@ class Decoding {
   public:
     Decoding(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
              const RowsFor& rowsFor, const LibraryMessages& messages)
-        : file_(file), request_(request), memory_(memory), rowsFor_(rowsFor), messages_(messages) {}
+        : file_(file),
+          reader_(file_),
+          format_(reader_.Format()),
+          request_(request),
+          memory_(memory),
+          rowsFor_(rowsFor),
+          messages_(messages) {}
 
     LoadedPicture Answer() {
-        format_ = file_.Format();
-        if (format_ == FIF_UNKNOWN) {
+        if (format_ == InputFormat::Unknown) {
             return LoadedPicture::Refused(ReasonCode::NoKnownType);
         }
-        if (format_ == FIF_TIFF || format_ == FIF_RAW) {
+        if (format_ == InputFormat::Tiff || format_ == InputFormat::Raw) {
             tiff_ = TiffFactsOf(file_);
         }
         HideMetadata();
-        if (format_ == FIF_TIFF && tiff_ && tiff_->isDng) {
+        if (format_ == InputFormat::Tiff && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(ReasonCode::RawUnreadable);
         }
@@ -132,8 +118,8 @@ class Decoding {
     void NoteOrientation() {
         orientation_ = request_.upright ? OrientationOf(format_, file_, tiff_) : 1;
         // The library develops raw files upright, whatever is asked.
-        turn_ = format_ == FIF_RAW ? 1 : orientation_;
-        if (format_ == FIF_TIFF && tiff_ && tiff_->orientation != 1) {
+        turn_ = format_ == InputFormat::Raw ? 1 : orientation_;
+        if (format_ == InputFormat::Tiff && tiff_ && tiff_->orientation != 1) {
             // It does a part of some turns with some kinds of TIFF, so it must not know.
             file_.Replace(tiff_->orientationPlace, 1);
         }
@@ -162,7 +148,7 @@ class Decoding {
         if (picture.outcome == LoadOutcome::NotLoaded) {
             return picture;
         }
-        if (format_ == FIF_RAW && picture.size.width > 0 &&
+        if (format_ == InputFormat::Raw && picture.size.width > 0 &&
             HasSwappedSides(picture.size) == !SwapsSides(orientation_)) {
             orientation_ = 1;  // it was developed by something else than that
         }
@@ -196,14 +182,15 @@ class Decoding {
 
     // Metadata are read later and by others: in the library they are where most crashes are.
     void HideMetadata() {
-        if (format_ == FIF_JPEG) {
+        if (format_ == InputFormat::Jpeg) {
             constexpr char unused = '\xEF';
             for (const std::int64_t place : JpegMetadataMarkers(file_)) {
                 file_.Replace(place, unused);
             }
         } else if (tiff_) {
             HideTags(tiff_->deadlyTags);
-            if (format_ == FIF_TIFF) {  // raw files tell there how they are to be developed
+            if (format_ ==
+                InputFormat::Tiff) {  // raw files tell there how they are to be developed
                 HideTags(tiff_->metadataTags);
             }
         }
@@ -222,25 +209,21 @@ class Decoding {
 
     // Without reading pixels, where the type allows.
     std::optional<StatedSize> ReadHeaderSize() const {
-        if (format_ == FIF_JPEG) {
+        if (format_ == InputFormat::Jpeg) {
             const std::optional<PixelSize> size = JpegSize(file_);
             return size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
         }
         const std::optional<BmpHeader> bmp =
-            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
+            format_ == InputFormat::Bmp ? ReadBmpHeader(file_) : std::nullopt;
         if (bmp) {
             return StatedSize{bmp->width, bmp->height};
         }
-        if (FreeImage_FIFSupportsNoPixels(format_) != TRUE) {
-            return std::nullopt;
-        }
-        const LibraryBitmap header = file_.Load(format_, FIF_LOAD_NOPIXELS);
-        return header ? std::optional(Stated(header.get())) : std::nullopt;
+        return reader_.HeaderSize();
     }
 
     LoadedPicture OnlySize() {
         std::optional<StatedSize> size = stated_;
-        if (size && format_ == FIF_RAW) {
+        if (size && format_ == InputFormat::Raw) {
             // The library states the sensor's way up and knows no odd pixels before developing.
             const bool known = tiff_ && tiff_->isDng && tiff_->isEven;
             if (!known) {
@@ -269,7 +252,7 @@ class Decoding {
             }
             picture = Whole();
         }
-        if (picture.bitmap && format_ == FIF_RAW) {
+        if (picture.bitmap && format_ == InputFormat::Raw) {
             NoteUnturnedPreview(picture.bitmap->Size());
         }
         if (picture.bitmap) {
@@ -279,23 +262,19 @@ class Decoding {
     }
     // Empty where the type has no short way.
     LoadedPicture Quick() {
-        int flags = RAW_PREVIEW;
-        if (format_ == FIF_JPEG) {
-            // The upper half of the flags is the size that is wanted at least.
-            const int side = std::clamp(std::max(request_.box.width, request_.box.height), 1,
-                                        static_cast<int>(largestSide));
-            flags = side << 16 | JPEG_FAST;
-        } else if (format_ != FIF_RAW) {
+        if (format_ != InputFormat::Jpeg && format_ != InputFormat::Raw) {
             return {};
         }
-        LoadedPicture picture = Judged(file_.Load(format_, flags));
-        picture.size = format_ == FIF_JPEG && stated_ ? Pixels(*stated_) : PixelSize{};
+        const int side = std::clamp(std::max(request_.box.width, request_.box.height), 1,
+                                    static_cast<int>(largestSide));
+        LoadedPicture picture = Judged(reader_.Preview(side));
+        picture.size = format_ == InputFormat::Jpeg && stated_ ? Pixels(*stated_) : PixelSize{};
         return picture;
     }
 
     // Past the library, which takes half as long again; empty where it has to do it.
     BitmapHandle DirectJpeg() {
-        if (format_ != FIF_JPEG || !stated_ || request_.kind != ReadKind::Whole) {
+        if (format_ != InputFormat::Jpeg || !stated_ || request_.kind != ReadKind::Whole) {
             return nullptr;
         }
         const PixelSize size = Pixels(*stated_);
@@ -317,12 +296,12 @@ class Decoding {
             return Judged(std::move(bitmap));
         }
         const std::optional<BmpHeader> bmp =
-            format_ == FIF_BMP ? ReadBmpHeader(file_) : std::nullopt;
-        LibraryBitmap bitmap;
+            format_ == InputFormat::Bmp ? ReadBmpHeader(file_) : std::nullopt;
+        LibraryPicture picture(nullptr);
         if (!bmp || !NeedsBmpReader(*bmp)) {
-            bitmap = file_.Load(format_, WholeFlags(format_));
+            picture = reader_.Whole();
         }
-        return !bitmap && bmp ? Judged(LoadBmp(file_, *bmp)) : Judged(std::move(bitmap));
+        return !picture.Exists() && bmp ? Judged(LoadBmp(file_, *bmp)) : Judged(std::move(picture));
     }
 
     // What a reader of ours gave, as an answer.
@@ -341,21 +320,22 @@ class Decoding {
     }
 
     // What the library gave, likewise.
-    LoadedPicture Judged(LibraryBitmap bitmap) {
-        if (!bitmap || FreeImage_HasPixels(bitmap.get()) != TRUE) {
+    LoadedPicture Judged(LibraryPicture picture) {
+        if (!picture.HasPixels()) {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
-        if (const Reason error = Error(Stated(bitmap.get())); !error.isEmpty()) {
+        if (const Reason error = Error(picture.Size()); !error.isEmpty()) {
             return LoadedPicture::Refused(error);
         }
-        if (format_ == FIF_TIFF && tiff_ && !tiff_->colourProfile.isEmpty()) {
+        BitmapMetadata metadata = picture.Metadata();
+        if (format_ == InputFormat::Tiff && tiff_ && !tiff_->colourProfile.isEmpty()) {
             // The library looks at its own only after it has given back the memory.
-            QByteArray& profile = tiff_->colourProfile;
-            FreeImage_CreateICCProfile(bitmap.get(), profile.data(),
-                                       static_cast<long>(profile.size()));
+            metadata.colourProfile = tiff_->colourProfile;
         }
-        BitmapHandle inks = FromInks(bitmap.get(), format_, file_);
-        BitmapHandle colours = inks ? std::move(inks) : To24Bits(std::move(bitmap));
+        BitmapHandle colours = FromInks(reader_, metadata);
+        if (!colours) {
+            colours = To24Bits(std::move(picture), std::move(metadata));
+        }
         return colours ? Answered(std::move(colours))
                        : LoadedPicture::Refused(ReasonCode::NoTrueColour);
     }
@@ -368,11 +348,12 @@ class Decoding {
     }
 
     PictureFile file_;
+    LibraryReader reader_;
+    InputFormat format_;
     const ReadRequest& request_;
     std::uint64_t memory_;
     const RowsFor& rowsFor_;
     const LibraryMessages& messages_;
-    FREE_IMAGE_FORMAT format_ = FIF_UNKNOWN;
     std::optional<TiffStructure> tiff_;
     std::optional<StatedSize> stated_;
     int orientation_ = 1;  // to be undone

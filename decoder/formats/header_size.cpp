@@ -11,7 +11,7 @@ namespace {
 
 // Two numbers of that many bytes, so far behind the mark.
 struct SizePlace {
-    FREE_IMAGE_FORMAT format;
+    InputFormat format;
     QByteArrayView mark;  // empty: the file's beginning
     int after;
     int bytes;
@@ -19,11 +19,11 @@ struct SizePlace {
     bool heightFirst;
 };
 
-constexpr SizePlace sizePlaces[] = {{FIF_IFF, "BMHD", 8, 2, true, false},
-                                    {FIF_SGI, "", 6, 2, true, false},
-                                    {FIF_DDS, "", 12, 4, false, true},
-                                    {FIF_JP2, "ihdr", 4, 4, true, true},
-                                    {FIF_J2K, "", 8, 4, true, false}};
+constexpr SizePlace sizePlaces[] = {{InputFormat::Iff, "BMHD", 8, 2, true, false},
+                                    {InputFormat::Sgi, "", 6, 2, true, false},
+                                    {InputFormat::Dds, "", 12, 4, false, true},
+                                    {InputFormat::Jp2, "ihdr", 4, 4, true, true},
+                                    {InputFormat::J2k, "", 8, 4, true, false}};
 
 std::int64_t Number(const char* bytes, int count, bool bigEndian) {
     if (count == 2) {
@@ -66,8 +66,8 @@ std::optional<HeaderSize> GifSize(const PictureFile& file) {
 
 }  // namespace
 
-std::optional<HeaderSize> HeaderSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file) {
-    if (format == FIF_GIF) {
+std::optional<HeaderSize> HeaderSizeOf(InputFormat format, const PictureFile& file) {
+    if (format == InputFormat::Gif) {
         return GifSize(file);
     }
     for (const SizePlace& place : sizePlaces) {

@@ -7,6 +7,7 @@
 
 #include <optional>
 
+#include "decoder/formats/input_format.h"
 #include "decoder/formats/picture_file.h"
 
 namespace varnel {
@@ -18,6 +19,6 @@ struct HeaderSize {
 
 // GIF, IFF, SGI, DDS and JPEG 2000; nothing for other types or without a header. Good for refusing
 // only: the picture that comes may be a few pixels smaller.
-std::optional<HeaderSize> HeaderSizeOf(FREE_IMAGE_FORMAT format, const PictureFile& file);
+std::optional<HeaderSize> HeaderSizeOf(InputFormat format, const PictureFile& file);
 
 }  // namespace varnel

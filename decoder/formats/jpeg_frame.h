@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "base/pixel_size.h"
 #include "decoder/formats/picture_file.h"
 
 namespace varnel {

@@ -10,8 +10,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "remap/image/freeimage_bitmap.h"
 #include "remap/image/jpeg_errors.h"
+#include "remap/image/library_messages.h"
 #include "remap/image/pixel_format.h"
 
 namespace varnel {
@@ -213,7 +213,7 @@ std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected
         return std::nullopt;
     }
     if (decoder.HasWarned()) {
-        FreeImage_OutputMessageProc(FIF_JPEG, "%s", decoder.Warning());
+        AddLibraryMessage(QString::fromLocal8Bit(decoder.Warning()));
     }
     return metadata;
 }

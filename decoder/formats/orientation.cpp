@@ -58,17 +58,17 @@ int OrientationInExif(QByteArrayView block) {
     return IsOrientation(told) ? static_cast<int>(told) : 1;
 }
 
-int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
+int OrientationOf(InputFormat format, const PictureFile& file,
                   const std::optional<TiffStructure>& tiff) {
     switch (format) {
-        case FIF_JPEG:
+        case InputFormat::Jpeg:
             return OrientationInExif(JpegExif(file));
-        case FIF_PNG:
+        case InputFormat::Png:
             return OrientationInExif(ExifChunk(pngChunks, file));
-        case FIF_WEBP:
+        case InputFormat::WebP:
             return OrientationInExif(ExifChunk(webpChunks, file));
-        case FIF_TIFF:
-        case FIF_RAW:
+        case InputFormat::Tiff:
+        case InputFormat::Raw:
             return tiff ? tiff->orientation : 1;
         default:
             return 1;

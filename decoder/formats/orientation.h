@@ -7,6 +7,7 @@
 #include <QByteArrayView>
 #include <optional>
 
+#include "decoder/formats/input_format.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/tiff_structure.h"
 
@@ -18,7 +19,7 @@ int OrientationInExif(QByteArrayView block);
 
 // Of a JPEG, PNG, WebP or TIFF file, or of a raw file that is built like a TIFF (for which the
 // facts are); else 1.
-int OrientationOf(FREE_IMAGE_FORMAT format, const PictureFile& file,
+int OrientationOf(InputFormat format, const PictureFile& file,
                   const std::optional<TiffStructure>& tiff);
 
 }  // namespace varnel

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A photo's open file, read by place. Nothing here opens a file: the process that decodes may not.
+// Reading throws std::bad_alloc.
 #pragma once
 
 #include <QByteArray>
 #include <cstdint>
 #include <cstdio>
 #include <vector>
-
-#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
@@ -24,11 +23,6 @@ class PictureFile {
 
     // From now on the library reads that byte there, whatever the file holds.
     void Replace(std::int64_t place, char byte) { replaced_.push_back({place, byte}); }
-
-    // By the contents, never by a name. FIF_UNKNOWN when no reader wants the file.
-    FREE_IMAGE_FORMAT Format() const;
-    // Empty when the library refuses. May throw whatever its readers throw.
-    LibraryBitmap Load(FREE_IMAGE_FORMAT format, int flags) const;
 
     // For the library: fills the buffer from where the file is.
     unsigned Fill(void* buffer, unsigned size, unsigned count) const;

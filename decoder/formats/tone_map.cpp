@@ -29,9 +29,8 @@ float Sane(float sample) {
 // One row of three or four floats a pixel.
 class FloatRow {
   public:
-    FloatRow(FIBITMAP* bitmap, int y)
-        : samples_(reinterpret_cast<const float*>(FreeImage_GetScanLine(bitmap, y))),
-          step_(FreeImage_GetImageType(bitmap) == FIT_RGBAF ? 4 : 3) {}
+    FloatRow(const SampleRows& light, int y)
+        : samples_(reinterpret_cast<const float*>(light.Row(y))), step_(light.samplesPerPixel) {}
 
     Light At(int x) const {
         const float* const sample = samples_ + static_cast<std::ptrdiff_t>(x) * step_;
@@ -46,11 +45,10 @@ class FloatRow {
 // How many pixels there are of each luminance, in steps of a 64th of an exposure stop.
 class LuminanceCount {
   public:
-    explicit LuminanceCount(FIBITMAP* bitmap) : bins_(bins) {
-        const PixelSize size = SizeOf(bitmap);
-        for (int y = 0; y < size.height; ++y) {
-            const FloatRow row(bitmap, y);
-            for (int x = 0; x < size.width; ++x) {
+    explicit LuminanceCount(const SampleRows& light) : bins_(bins) {
+        for (int y = 0; y < light.size.height; ++y) {
+            const FloatRow row(light, y);
+            for (int x = 0; x < light.size.width; ++x) {
                 Add(row.At(x).Luminance());
             }
         }
@@ -137,20 +135,20 @@ class ScreenCurve {
 
 }  // namespace
 
-BitmapHandle ToneMapped(FIBITMAP* bitmap) {
-    const PixelSize size = SizeOf(bitmap);
+BitmapHandle ToneMapped(const SampleRows& rows) {
+    const PixelSize size = rows.size;
     BitmapHandle result = NewBitmap(size);
-    const Exposure exposure{LuminanceCount(bitmap)};
+    const Exposure exposure{LuminanceCount(rows)};
     const ScreenCurve curve;
     for (int y = 0; y < size.height; ++y) {
-        const FloatRow row(bitmap, y);
+        const FloatRow row(rows, y);
         std::uint8_t* to = ScanLine(result.get(), y).data();
         for (int x = 0; x < size.width; ++x, to += 3) {
             const Light light = row.At(x);
             const float factor = exposure.Factor(light.Luminance());
-            to[FI_RGBA_RED] = curve(light.red * factor);
-            to[FI_RGBA_GREEN] = curve(light.green * factor);
-            to[FI_RGBA_BLUE] = curve(light.blue * factor);
+            to[0] = curve(light.blue * factor);
+            to[1] = curve(light.green * factor);
+            to[2] = curve(light.red * factor);
         }
     }
     return result;

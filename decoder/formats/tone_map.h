@@ -4,7 +4,8 @@
 // Floating-point colour brought to what a screen shows.
 #pragma once
 
-#include "remap/image/freeimage_bitmap.h"
+#include "decoder/formats/sample_rows.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
@@ -15,6 +16,6 @@ namespace varnel {
 // and J. Ferwerda, "Photographic tone reproduction for digital images", 2002, equation 4, with the
 // brightest thousandth as white.
 // Throws std::bad_alloc.
-BitmapHandle ToneMapped(FIBITMAP* bitmap);
+BitmapHandle ToneMapped(const SampleRows& rows);
 
 }  // namespace varnel

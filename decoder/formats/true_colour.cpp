@@ -6,9 +6,8 @@
 #include <lcms2.h>
 
 #include <QtEndian>
-#include <cmath>
 #include <memory>
-#include <new>
+#include <optional>
 #include <utility>
 
 #include "decoder/formats/tone_map.h"
@@ -16,61 +15,6 @@
 namespace varnel {
 
 namespace {
-
-bool IsFloatColour(FREE_IMAGE_TYPE type) {
-    return type == FIT_RGBF || type == FIT_RGBAF;
-}
-
-// The standard conversion stretches darkest to brightest over black to white; a sample that is no
-// number would spoil that.
-template <class Sample>
-void ReplaceNonNumbers(FIBITMAP* bitmap) {
-    for (unsigned y = 0; y < FreeImage_GetHeight(bitmap); ++y) {
-        auto* const row =
-            reinterpret_cast<Sample*>(FreeImage_GetScanLine(bitmap, static_cast<int>(y)));
-        for (unsigned x = 0; x < FreeImage_GetWidth(bitmap); ++x) {
-            row[x] = std::isfinite(row[x]) ? row[x] : Sample{0};
-        }
-    }
-}
-
-// Grey of other kinds has no direct way to 24 bits.
-LibraryBitmap ToGrey8(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
-    switch (type) {
-        case FIT_UINT16:  // the upper eight bits, as of 16-bit colour
-            return LibraryBitmap(FreeImage_ConvertTo8Bits(bitmap));
-        case FIT_FLOAT:
-            ReplaceNonNumbers<float>(bitmap);
-            break;
-        case FIT_DOUBLE:
-            ReplaceNonNumbers<double>(bitmap);
-            break;
-        default:
-            break;
-    }
-    return LibraryBitmap(FreeImage_ConvertToStandardType(bitmap, TRUE));
-}
-
-BitmapHandle ConvertedByLibrary(FIBITMAP* bitmap) {
-    LibraryBitmap converted(FreeImage_ConvertTo24Bits(bitmap));
-    return converted ? TakeOver(std::move(converted)) : throw std::bad_alloc();
-}
-
-BitmapHandle Converted(FIBITMAP* bitmap, FREE_IMAGE_TYPE type) {
-    switch (type) {
-        case FIT_BITMAP:
-        case FIT_RGB16:
-        case FIT_RGBA16:
-            return ConvertedByLibrary(bitmap);
-        case FIT_RGBF:
-        case FIT_RGBAF:
-            return ToneMapped(bitmap);
-        default: {
-            const LibraryBitmap grey = ToGrey8(bitmap, type);
-            return grey ? ConvertedByLibrary(grey.get()) : throw std::bad_alloc();
-        }
-    }
-}
 
 struct ProfileCloser {
     void operator()(void* profile) const { cmsCloseProfile(profile); }
@@ -99,19 +43,16 @@ bool IsProfileForRgb(QByteArrayView profile) {
            static_cast<quint32>(cmsGetTagCount(opened.get())) == number(tagCount);
 }
 
-BitmapHandle To24Bits(LibraryBitmap bitmap) {
-    const FREE_IMAGE_TYPE type = FreeImage_GetImageType(bitmap.get());
-    if (type == FIT_COMPLEX || type == FIT_UNKNOWN) {
-        return nullptr;
-    }
-    BitmapMetadata metadata = LibraryMetadata(bitmap.get());
+BitmapHandle To24Bits(LibraryPicture picture, BitmapMetadata metadata) {
+    const std::optional<SampleRows> light = picture.FloatColours();
     // Tone-mapped colours are no longer those of the profile.
-    if (IsFloatColour(type) || !IsProfileForRgb(metadata.colourProfile)) {
+    if (light || !IsProfileForRgb(metadata.colourProfile)) {
         metadata.colourProfile.clear();
     }
-    const bool isReady = type == FIT_BITMAP && FreeImage_GetBPP(bitmap.get()) == 24;
-    BitmapHandle result = isReady ? TakeOver(std::move(bitmap)) : Converted(bitmap.get(), type);
-    result->metadata = std::move(metadata);
+    BitmapHandle result = light ? ToneMapped(*light) : picture.To24Bits();
+    if (result) {
+        result->metadata = std::move(metadata);
+    }
     return result;
 }
 

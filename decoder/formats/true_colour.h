@@ -6,15 +6,15 @@
 
 #include <QByteArrayView>
 
-#include "remap/image/freeimage_bitmap.h"
+#include "decoder/formats/library_reader.h"
 
 namespace varnel {
 
-// With metadata and resolution, and with the colour profile where it describes red, green and blue
-// as they then are. Empty when the pixels are no picture (complex numbers). Throws std::bad_alloc.
-BitmapHandle To24Bits(LibraryBitmap bitmap);
+// With the metadata, and with the colour profile where it describes red, green and blue as they
+// then are. Empty when the pixels are no picture (complex numbers). Throws std::bad_alloc.
+BitmapHandle To24Bits(LibraryPicture picture, BitmapMetadata metadata);
 
-// Whether an ICC profile is sound and describes red, green and blue.
+// Whether an ICC profile is sound and describes red, green and blue. Throws nothing.
 bool IsProfileForRgb(QByteArrayView profile);
 
 }  // namespace varnel

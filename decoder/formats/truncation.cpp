@@ -29,21 +29,21 @@ constexpr std::array damageMessages{
     u"Incompatible type for", u"unexpected end", u"Decoding failed", u"truncated"};
 
 // Cut files that come as a picture without a message, or with one that means nothing.
-bool IsCut(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages) {
+bool IsCut(InputFormat format, const PictureFile& file, const QStringList& messages) {
     switch (format) {
-        case FIF_BMP: {
+        case InputFormat::Bmp: {
             const std::optional<BmpHeader> header = ReadBmpHeader(file);
             return header && BmpIsCut(file, *header);
         }
-        case FIF_JPEG:
+        case InputFormat::Jpeg:
             // The library says only the first thing that it meets, which may be a harmless one.
             return !messages.isEmpty() && JpegIsCut(file);
-        case FIF_TIFF:
-        case FIF_RAW: {
+        case InputFormat::Tiff:
+        case InputFormat::Raw: {
             const std::optional<TiffStructure> facts = TiffFactsOf(file);
             // Raw files keep their pixels behind the metadata and often only the maker's note tells
             // where.
-            return facts && (facts->isCut || (format == FIF_RAW && facts->isMetadataCut));
+            return facts && (facts->isCut || (format == InputFormat::Raw && facts->isMetadataCut));
         }
         default:
             return false;
@@ -58,7 +58,7 @@ bool MeansDamage(const QString& message) {
     });
 }
 
-Reason DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages) {
+Reason DamageOf(InputFormat format, const PictureFile& file, const QStringList& messages) {
     const auto message = std::ranges::find_if(messages, MeansDamage);
     if (message != messages.end()) {
         return {ReasonCode::Damaged, *message};

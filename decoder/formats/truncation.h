@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include "base/reason.h"
+#include "decoder/formats/input_format.h"
 #include "decoder/formats/picture_file.h"
 
 namespace varnel {
@@ -18,6 +19,6 @@ bool MeansDamage(const QString& message);
 
 // What is wrong with a picture that was loaded from this file with these library messages; empty
 // when nothing is.
-Reason DamageOf(FREE_IMAGE_FORMAT format, const PictureFile& file, const QStringList& messages);
+Reason DamageOf(InputFormat format, const PictureFile& file, const QStringList& messages);
 
 }  // namespace varnel

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/library_reader.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/metadata/exif_block.h"
@@ -197,7 +198,8 @@ class Reading {
     bool PixelsAreUpright() const {
         const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
         return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
-               told->toLong() == request_.orientation || PictureFile(file_).Format() == FIF_RAW;
+               told->toLong() == request_.orientation ||
+               LibraryReader(PictureFile(file_)).Format() == InputFormat::Raw;
     }
 
     ExifWishes Wishes(bool upright) const {

@@ -28,8 +28,4 @@ BitmapMetadata LibraryMetadata(FIBITMAP* bitmap);
 // Takes over a picture of 24 bits with that; its pixels stay where they are. Throws std::bad_alloc.
 BitmapHandle TakeOver(LibraryBitmap bitmap);
 
-// The bitmap reduced or enlarged to that size with the library's box filter, with its metadata.
-// Throws std::bad_alloc.
-BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size);
-
 }  // namespace varnel

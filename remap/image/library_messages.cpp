@@ -3,13 +3,14 @@
 
 #include "remap/image/library_messages.h"
 
-#include <FreeImage.h>
 #include <tiffio.h>
 
 #include <array>
 #include <cassert>
 #include <cstdarg>
 #include <cstdio>
+
+#include "remap/image/image_library.h"
 
 namespace varnel {
 
@@ -22,20 +23,10 @@ QStringList*& Collector() {
     return collector;
 }
 
-void Keep(const QString& message) {
-    if (Collector() != nullptr) {
-        Collector()->append(message.trimmed());
-    }
-}
-
-void KeepFromFreeImage(FREE_IMAGE_FORMAT /*format*/, const char* message) {
-    Keep(QString::fromLocal8Bit(message));
-}
-
 void KeepFromTiff(const char* /*module*/, const char* format, va_list arguments) {
     std::array<char, 512> text{};
     std::vsnprintf(text.data(), text.size(), format, arguments);
-    Keep(QString::fromLocal8Bit(text.data()));
+    AddLibraryMessage(QString::fromLocal8Bit(text.data()));
 }
 
 }  // namespace
@@ -43,7 +34,7 @@ void KeepFromTiff(const char* /*module*/, const char* format, va_list arguments)
 LibraryMessages::LibraryMessages() {
     assert(Collector() == nullptr);
     Collector() = &lines_;
-    FreeImage_SetOutputMessage(&KeepFromFreeImage);
+    SendLibraryMessagesTo(&AddLibraryMessage);
     TIFFSetErrorHandler(&KeepFromTiff);
     TIFFSetWarningHandler(nullptr);
 }
@@ -56,12 +47,10 @@ Reason LibraryMessages::Added(const Reason& reason) const {
     return lines_.isEmpty() ? reason : Reason(ReasonCode::Added, reason, lines_.last());
 }
 
-QString LibraryVersion() {
-    return QString::fromLocal8Bit(FreeImage_GetVersion());
-}
-
-QString LibraryNotice() {
-    return QString::fromLocal8Bit(FreeImage_GetCopyrightMessage());
+void AddLibraryMessage(const QString& message) {
+    if (Collector() != nullptr) {
+        Collector()->append(message.trimmed());
+    }
 }
 
 }  // namespace varnel

@@ -29,8 +29,7 @@ class LibraryMessages {
     QStringList lines_;
 };
 
-// The image library's version and its notice of copyright, for people to read.
-QString LibraryVersion();
-QString LibraryNotice();
+// Hands a message to the collector of this thread, if there is one, as a library would.
+void AddLibraryMessage(const QString& message);
 
 }  // namespace varnel

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "base/rounding.h"
-#include "remap/image/freeimage_bitmap.h"
+#include "remap/image/image_library.h"
 
 namespace varnel {
 

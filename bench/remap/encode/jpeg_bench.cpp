@@ -11,6 +11,7 @@
 #include "base/thread_runner.h"
 #include "bench/pictures.h"
 #include "decoder/formats/jpeg_pixels.h"
+#include "decoder/formats/library_reader.h"
 #include "decoder/formats/picture_file.h"
 #include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/encode/coders/jpeg_coder.h"
@@ -59,7 +60,7 @@ void DecodeByLibrary(benchmark::State& state) {
     const File file = Opened(photo);
     const PictureFile picture(file.get());
     for (auto _ : state) {
-        benchmark::DoNotOptimize(picture.Load(FIF_JPEG, JPEG_ACCURATE).get());
+        benchmark::DoNotOptimize(LibraryReader(picture).Whole().Exists());
     }
 }
 

@@ -31,7 +31,7 @@ struct Photo {
 
     void Finish(const PictureFile& file, const LibraryMessages& said) {
         messages = said.Lines();
-        damage = DamageOf(FIF_JPEG, file, messages);
+        damage = DamageOf(InputFormat::Jpeg, file, messages);
     }
 };
 
@@ -45,11 +45,12 @@ std::optional<Photo> ByLibrary(QByteArray bytes) {
     const File file = Opened(bytes);
     const PictureFile picture(file.get());
     const LibraryMessages said;
-    LibraryBitmap loaded = picture.Load(FIF_JPEG, JPEG_ACCURATE);
-    if (!loaded) {
+    LibraryPicture loaded = LibraryReader(picture).Whole();
+    if (!loaded.Exists()) {
         return std::nullopt;
     }
-    Photo photo{To24Bits(std::move(loaded)), {}, {}};
+    BitmapMetadata metadata = loaded.Metadata();
+    Photo photo{To24Bits(std::move(loaded), std::move(metadata)), {}, {}};
     photo.Finish(picture, said);
     return photo;
 }

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/image/freeimage_bitmap.h"
+#include "remap/image/image_library.h"
 
 #include <new>
 #include <utility>
+
+#include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
 
@@ -22,6 +24,12 @@ void AddComment(FITAG* tag, BitmapMetadata& metadata) {
         !IsMetadataInText(key)) {
         metadata.comments.insert(key, text);
     }
+}
+
+void (*listener)(const QString&) = nullptr;
+
+void PassOn(FREE_IMAGE_FORMAT /*format*/, const char* message) {
+    listener(QString::fromLocal8Bit(message));
 }
 
 }  // namespace
@@ -98,6 +106,23 @@ BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size) {
     BitmapHandle result = TakeOver(std::move(scaled));
     result->metadata = bitmap.metadata;
     return result;
+}
+
+void SendLibraryMessagesTo(void (*function)(const QString& message)) {
+    listener = function;
+    FreeImage_SetOutputMessage(&PassOn);
+}
+
+bool IsPictureName(const QString& name) {
+    return FreeImage_GetFIFFromFilename(name.toUtf8().constData()) != FIF_UNKNOWN;
+}
+
+QString LibraryVersion() {
+    return QString::fromLocal8Bit(FreeImage_GetVersion());
+}
+
+QString LibraryNotice() {
+    return QString::fromLocal8Bit(FreeImage_GetCopyrightMessage());
 }
 
 }  // namespace varnel

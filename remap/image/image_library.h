@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the image library does beside reading and writing files. Throws std::bad_alloc.
+#pragma once
+
+#include <QString>
+
+#include "remap/image/bitmap.h"
+
+namespace varnel {
+
+// The bitmap reduced or enlarged to that size in pixels with the library's box filter, with its
+// metadata.
+BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size);
+
+// From now on the function gets, in the thread that works, each message of the library's.
+void SendLibraryMessagesTo(void (*function)(const QString& message));
+
+// Whether the name ends like that of a type that the library knows.
+bool IsPictureName(const QString& name);
+
+// The library's version and its notice of copyright, for people to read.
+QString LibraryVersion();
+QString LibraryNotice();
+
+}  // namespace varnel

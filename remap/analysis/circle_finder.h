@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Finds the image circle of a fisheye photo: the rim between the picture and the dark around it.
-// Points are in pixels from the top left corner, y down; the first pixel's middle is at 0.5.
+// Points are in pixels from the top left corner, y down; the first pixel's middle is at 0.5. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <cstdint>

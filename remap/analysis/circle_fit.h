@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Circles through points and near them. Points as in circle_finder.h.
+// Circles through points and near them. Points as in circle_finder.h. Fitted throws std::bad_alloc,
+// the rest nothing.
 #pragma once
 
 #include <cmath>
@@ -15,11 +16,12 @@ namespace varnel {
 
 // A place on the rim, to a fraction of a pixel.
 struct RimPoint {
-    double angle = 0.0;
+    double angle = 0.0;  // around the centre, radians
     double x = 0.0;
     double y = 0.0;
 };
 
+// Pixels from the circle, positive outside.
 inline double Residual(const RimPoint& point, const ImageCircle& circle) {
     return Length(point.x - circle.x, point.y - circle.y) - circle.radius;
 }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The part of the converted picture that can be cut out without any black in it.
+// The part of the converted picture that can be cut out without any black in it. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include "remap/analysis/mapping_mesh.h"

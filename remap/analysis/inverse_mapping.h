@@ -27,7 +27,8 @@ struct PhotoCircle {
     bool Holds(const SourcePosition& place) const;
 };
 
-// The image circle by the record's offsets and ratio; nothing when the ratio is 0 or below.
+// The image circle by the record's offsets and ratio; nothing when the ratio is 0 or below. Throws
+// RunTimeError when a value overflows.
 std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize size);
 
 class InverseMapping {

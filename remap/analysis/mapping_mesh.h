@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A net of pixels of the converted picture with their places on the photo, close enough to measure
-// areas and shapes by.
+// areas and shapes by. The constructor throws std::bad_alloc, the rest nothing.
 #pragma once
 
 #include "remap/analysis/inverse_mapping.h"
@@ -15,7 +15,7 @@ struct GridCell {
 
 class MappingMesh {
   public:
-    // About so many columns; the rows are as far apart.
+    // About so many columns; the rows are as far apart. The mapping has to outlive the net.
     explicit MappingMesh(const InverseMapping& places, int columns = 128);
 
     const InverseMapping& Places() const { return *places_; }

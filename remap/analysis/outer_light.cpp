@@ -180,7 +180,7 @@ bool IsAllRound(const std::vector<RimPoint>& light, const ImageCircle& circle, c
 }
 
 // The circle through three corners that, with light all round, bounds the light best. Of many
-// corners every so manieth will do.
+// corners only every n-th is tried.
 std::optional<ImageCircle> Bound(const std::vector<RimPoint>& light, const Grey& grey) {
     constexpr std::size_t enough = 60;
     const std::vector<RimPoint> hull = Hull(light);

@@ -3,7 +3,7 @@
 
 // The second way to the image circle, for photos whose rim shows no step because the scene is dark
 // there (night, forest): all light is inside the circle, and where some of it reaches the rim, or
-// glints on the edge of the lens, the rim bounds it in a smooth line.
+// glints on the edge of the lens, the rim bounds it in a smooth line. Throws std::bad_alloc only.
 #pragma once
 
 #include "remap/analysis/rough_circle.h"

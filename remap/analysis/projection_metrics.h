@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a conversion does to the photo's pixels, in numbers.
+// What a conversion does to the photo's pixels, in numbers. Throws std::bad_alloc only.
 #pragma once
 
 #include "remap/analysis/clean_crop.h"

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // What both steps of the search for the image circle share. Points as in circle_finder.h.
+// FindRoughCircle throws std::bad_alloc, the rest nothing.
 #pragma once
 
 #include <algorithm>
@@ -11,12 +12,12 @@
 
 namespace varnel {
 
-// Quicker than std::hypot, which minds numbers that do not occur here.
+// Quicker than std::hypot, which provides for numbers that do not occur here.
 inline double Length(double x, double y) {
     return std::sqrt(x * x + y * y);
 }
 
-// Asks a grey picture, which has to outlive it and to be two pixels wide and high at least.
+// Reads a grey picture, which has to outlive it and to be two pixels wide and high at least.
 class Grey {
   public:
     explicit Grey(const GreyPicture& picture) : picture_(picture) {}

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The converted picture seen on the photo: its border as curves and what of the image circle it
-// keeps. Positions as in inverse_mapping.h.
+// keeps. Positions as in inverse_mapping.h. Throws std::bad_alloc only.
 #pragma once
 
 #include <cstdint>
@@ -42,7 +42,7 @@ struct SourceCoverage {
 SourceCoverage MeasureCoverage(const MappingMesh& grid, int columns = 400);
 
 // The closed border of what is kept, also where it runs off the photo; what it does not enclose is
-// lost. Nothing when no single outline tells that: a border that is black in places or folds over.
+// lost. Nothing when no single outline shows that: a border that is black in places or folds over.
 std::optional<SourceCurve> CoverageOutline(const InverseMapping& places, const SourceCoverage& kept,
                                            int pointsPerSide = 160);
 

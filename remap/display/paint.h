@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Bitmaps on the screen.
+// Bitmaps on the screen. Throws nothing.
 #pragma once
 
 #include <QImage>
@@ -12,7 +12,8 @@ class QPainter;
 
 namespace varnel {
 
-// A 24-bit bitmap as an image that owns its pixels, the first row on top; empty for no bitmap.
+// A 24-bit bitmap as an image that owns its pixels, the top row first; empty for no bitmap and
+// where memory lacks.
 QImage ImageOf(const Bitmap* bitmap);
 
 // Draws the whole bitmap with its upper left corner at (x, y), one bitmap pixel to one unit of the

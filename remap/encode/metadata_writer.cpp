@@ -17,7 +17,7 @@ namespace varnel {
 
 namespace {
 
-// Bytes, as a segment holds 65533 with what says what it is.
+// Bytes: a segment holds 65533, the name of its contents included.
 constexpr qsizetype longestXmpInJpeg = 65502;
 constexpr qsizetype longestIptcInJpeg = 65533 - 14;  // wrapped
 

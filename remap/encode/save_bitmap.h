@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Writing a bitmap to a file.
+// Writing a bitmap to a file. Throws what the runner throws and what the function throws that stops
+// it; other errors, lack of memory included, are returned.
 #pragma once
 
 #include <QString>
@@ -38,7 +39,7 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner = nullptr);
 
 // A file that may still be given up: asked on any thread and often until the file gets its name.
-// Once stopped says true no file is written and an older one stays as it was.
+// Once stopped returns true no file is written and an older one stays as it was.
 struct StoppableFile {
     QString name;
     std::function<bool()> stopped;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The settings that made a picture, as XMP.
+// The settings that made a picture, as XMP. Throws std::bad_alloc only.
 #pragma once
 
 #include <QByteArray>
@@ -15,7 +15,7 @@ namespace varnel {
 QByteArray SettingsPacket(const PictureSettings& settings);
 
 // The photo's packet with the settings; one of its own when the photo has none. None where the
-// packet has no place for them.
+// packet has no room for them.
 std::optional<QByteArray> PacketWithSettings(const PhotoMetadata& photo,
                                              const PictureSettings& settings);
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What belongs to a picture in memory besides its pixels.
+// What belongs to a picture in memory besides its pixels. Throws nothing.
 #pragma once
 
 #include <QByteArray>

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Pictures turned upright, pixel by pixel. Orientations are those of EXIF, told as what has to be
+// Pictures turned upright, pixel by pixel. Orientations are those of EXIF, named by what has to be
 // done to the picture as it is stored: 1 nothing, 2 mirrored left to right, 3 turned by 180
 // degrees, 4 mirrored top to bottom, 5 mirrored at the diagonal from the top left, 6 turned 90
 // degrees clockwise, 7 mirrored at the other diagonal, 8 turned 90 degrees counter-clockwise.
+// Throws nothing.
 #pragma once
 
 #include <cstddef>
@@ -40,7 +41,8 @@ struct RowBand {
     std::int32_t count = 0;
 };
 
-// Puts a band of a picture of that size to where its pixels belong in the turned picture.
+// Puts a band of a picture of that size to where its pixels belong in the turned picture, whose
+// rows have to be there already, apart from the source. The orientation is 1 to 8.
 void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, PixelRows turned);
 
 }  // namespace varnel

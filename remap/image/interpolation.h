@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The interpolating reads, once for everybody: written over a reader, read(x, y) -> colour, that
-// gives black off the bitmap. x and y are whole then, but may be anything a double can hold.
+// The interpolating reads, in one place: written over a reader, read(x, y) -> colour, that gives
+// black off the bitmap. x and y are whole then, but may be anything a double can hold. What they
+// return is described in sampling.h. Throws what the reader throws.
 #pragma once
 
 #include <cmath>

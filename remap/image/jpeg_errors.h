@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// libjpeg reports an error through a call that must not return. Whoever calls it sets the way back
-// with setjmp in a function that has nothing to destroy, and keeps libjpeg's structs outside of it.
+// libjpeg reports an error through a call that must not return. The caller of libjpeg sets the way
+// back with setjmp in a function that has nothing to destroy, and keeps libjpeg's structs outside
+// of it. Throws nothing.
 #pragma once
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the image libraries say while they work on one file. Without this libtiff alone would print
-// dozens of lines on stderr for ordinary photographs.
+// The messages that the image libraries give while they work on one file. Without this libtiff
+// alone would print dozens of lines on stderr for ordinary photographs. Throws nothing.
 #pragma once
 
 #include <QString>

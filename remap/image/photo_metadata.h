@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a photo's file says besides its pixels, made ready by whoever read it for the files that
-// Varnel writes. It travels with the bitmap, so that clones and results have it, too. Whoever
-// writes a file need not understand the blocks: they are copied whole, and what changes with the
-// picture lies at places that are given here.
+// What a photo's file says besides its pixels, made ready by its reader for the files that Varnel
+// writes. It travels with the bitmap, so that clones and results have it, too. A writer of files
+// need not understand the blocks: they are copied whole, and what changes with the picture lies at
+// places that are given here. Throws nothing.
 #pragma once
 
 #include <QByteArray>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Thin wrappers for single pixels and metadata. Each answers true exactly when it could do what it
-// was asked. Rows count from the bottom row. Throws nothing unless it says so.
+// Thin wrappers for single pixels and metadata. Each returns true exactly when it did what it was
+// asked to do. Rows count from the bottom row. Throws nothing unless it says so.
 #pragma once
 
 #include "remap/image/bitmap.h"

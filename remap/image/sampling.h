@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Reading a source picture at fractional positions. x counts columns, y rows from the bottom, both
-// in pixels; a position off the bitmap, beyond 32 bits or no number reads black.
+// in pixels; a position off the bitmap, beyond 32 bits or no number reads black. Throws nothing.
 #pragma once
 
 #include "remap/image/pixel_access.h"

@@ -28,7 +28,7 @@ struct LoopAxis {
     LineRange All() const;
 };
 
-// Where the positions of one axis go, and who is the last to write each place.
+// Where the positions of one axis go, and which is the last to write each place.
 class AxisOwners {
   public:
     // Places outside 0 to size - 1 are dropped. Throws OverflowError.

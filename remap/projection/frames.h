@@ -3,7 +3,7 @@
 
 // The two pictures between which a map leads. Both know nothing of pixels' colours; what a record
 // says about the photo stands in the one, what is wanted of the result in the other. Rows count
-// from the bottom row. Nothing here throws until it is asked for.
+// from the bottom row. Throws nothing but where said.
 #pragma once
 
 #include <functional>

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Which radius of unrolled circles an output row shows in the end: its loops write some rows
-// several times.
+// several times. Rows count from the bottom row. The constructor throws std::bad_alloc and
+// OverflowError, the rest nothing.
 #pragma once
 
 #include <limits>
@@ -33,10 +34,12 @@ class LastWriters {
             }
         }
     }
+    // Rows off the result have no radius; the other questions take rows 0 to height - 1 only.
     bool Has(std::int32_t row, int r) const { return Exists(row) && At(row) == r; }
     bool Black(std::int32_t row) const { return At(row) == black_; }
+    // True for a row that no loop writes.
     bool Nobody(std::int32_t row) const { return At(row) == nobody; }
-    // The radius of a row that is neither black nor nobody's.
+    // The radius of a row that is neither black nor unwritten.
     int Radius(std::int32_t row) const { return At(row); }
 
   private:

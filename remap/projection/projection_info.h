@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Everything that differs from projection to projection, one row each. Windows, names, command
-// line, batch and analysis read the rows; nothing else tells projections apart. Throws nothing but
-// where said.
+// line, batch and analysis read the rows; nothing else distinguishes projections. Throws nothing
+// but where said.
 #pragma once
 
 #include <QString>
@@ -42,13 +42,13 @@ struct FrameSteering {
     std::span<const FramePoint> handles{};  // points of the border that the width moves
 };
 
-// A part of file names that tells a setting: the text and the field's number, rounded.
+// A part of file names that states a setting: the text and the field's number, rounded.
 struct NameTag {
     const char16_t* text = u"";
     float ImageRecord::*field = nullptr;
     ValueName name;                              // for errors
     int digits = 0;                              // the last so many, behind zeros; 0: as it is
-    std::optional<float> silent = std::nullopt;  // the number that is not told
+    std::optional<float> silent = std::nullopt;  // the number that is left out
 };
 
 inline constexpr int strengthsPerProjection = 3;

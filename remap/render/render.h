@@ -21,8 +21,8 @@ QString ToText(SizeKind kind);
 // "Thumbnails" and "Batch" by their text; every other text means Large.
 SizeKind SizeKindFromText(QStringView text);
 
-// Hears how far a conversion is. Calls come on the caller's thread only. What one throws ends the
-// conversion and reaches the caller.
+// Is notified of how far a conversion is. Calls come on the caller's thread only. What one throws
+// ends the conversion and reaches the caller.
 class RenderProgress {
   public:
     virtual ~RenderProgress() = default;

@@ -31,7 +31,7 @@ class RenderSurface {
     // has another size.
     void FillAll() const;
     void FillRow(std::int32_t row) const;
-    // To be called often: gives whoever waits for the conversion a turn. Throws to end it.
+    // To be called often: lets the conversion's caller handle events, who throws to end it.
     void Pause() const {
         if (progress_ != nullptr) {
             progress_->Pause();

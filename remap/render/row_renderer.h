@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The conversions one output row at a time, for who needs some rows only and not all at once.
+// The conversions one output row at a time, for callers that need some rows only and not all at
+// once.
 #pragma once
 
 #include <memory>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What encoders are given beside a bitmap, and what they answer.
+// What encoders are given beside a bitmap, and what they return. Run throws what a block throws,
+// the rest nothing.
 #pragma once
 
 #include <QByteArray>

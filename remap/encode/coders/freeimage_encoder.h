@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The bytes of a file as the image library makes them.
+// The bytes of a file as the image library makes them. Throws nothing.
 #pragma once
 
 #include <FreeImage.h>
@@ -12,8 +12,9 @@
 
 namespace varnel {
 
-// flags are the library's for the format. The library's own file in memory is not used: from 2 GB
-// on it drops what is written, and the library calls the rest a success.
+// flags are the library's for the format, largest the most bytes that the file may have; errors are
+// returned. The library's own file in memory is not used: from 2 GB on it drops what is written,
+// and the library calls the rest a success.
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int flags,
                           qint64 largest = largestFile);
 EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags,

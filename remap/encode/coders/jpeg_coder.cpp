@@ -266,7 +266,7 @@ QByteArray Joined(std::vector<CodedBytes>& bands, int height) {
     return file += endOfImage;
 }
 
-// libjpeg refuses higher pictures, and is to say so, but not bands of them.
+// libjpeg refuses higher pictures, and is to report that, but not bands of them.
 bool IsTooHigh(const Bitmap& bitmap) {
     return bitmap.Size().height > JPEG_MAX_DIMENSION;
 }

@@ -26,9 +26,9 @@ constexpr int tableBits = 16;
 
 // An entry of the table is a string's code, its last byte, and the generation that it belongs to:
 // taking the next generation clears the table. The slot is the code of the string without its last
-// byte, scrambled by that byte, so that slot and byte together say which string it is. A newer
-// string takes the slot of an older one: forgetting a string costs a little size and is never
-// wrong, since a code always means to the reader what was stored with it.
+// byte, scrambled by that byte, so that slot and byte together identify the string. A newer string
+// takes the slot of an older one: forgetting a string costs a little size and is never wrong, since
+// a code always means to the reader what was stored with it.
 struct LzwEncoder::Stream {
     std::array<std::uint32_t, std::size_t{1} << tableBits> table{};
     std::array<std::uint16_t, codesPerTable> codes;  // since the table was cleared
@@ -117,7 +117,7 @@ struct LzwEncoder::Cursor {
     }
 };
 
-// No branch on whether the string is known: nobody can foretell that, and a wrong guess costs more
+// No branch on whether the string is known: that cannot be predicted, and a wrong guess costs more
 // than all the rest. The arithmetic keeps the compiler from making one.
 inline void LzwEncoder::Step(Stream& stream, Cursor& cursor) {
     const std::uint32_t byte = *cursor.next++;

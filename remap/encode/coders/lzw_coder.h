@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // TIFF's LZW: codes of 9 to 12 bits, high bits first. A strip begins with the code that clears the
-// table; the width grows one code early, as TIFF 6.0 has it.
+// table; the width grows one code early, as TIFF 6.0 has it. The constructor throws std::bad_alloc,
+// the rest nothing.
 #pragma once
 
 #include <cstddef>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The row filters of PNG for 24-bit pictures. Rows here come from the top downward.
+// The row filters of PNG for 24-bit pictures. Rows here come from the top downward. The constructor
+// throws std::bad_alloc, the rest nothing.
 #pragma once
 
 #include <cstddef>
@@ -15,10 +16,12 @@ namespace varnel {
 // sum of absolute differences, as libpng does.
 class PngFilter {
   public:
-    // above: the row above the first one, blue, green, red; empty at the top of the picture.
+    // rowBytes: three for each pixel. above: the row above the first one, blue, green, red; empty
+    // at the top of the picture.
     PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above);
 
-    // The filter's number and the filtered row in the order red, green, blue: until the next call.
+    // Takes a row of rowBytes bytes. Returns the filter's number and the filtered row in the order
+    // red, green, blue, which hold until the next call.
     std::span<const std::uint8_t> Next(std::span<const std::uint8_t> row);
 
   private:

@@ -78,8 +78,8 @@ void AddEntries(Entries& entries, const WrittenMetadata& metadata) {
 }
 
 // libtiff keeps fractions as floating-point numbers and ends texts at their first zero byte, so the
-// photo's entries are not given to it but copied as they are into a directory in its one's place.
-// They hold, because their values lie in the block that the file begins with.
+// photo's entries are not given to it but copied as they are into a directory that takes the place
+// of its own. They hold, because their values lie in the block that the file begins with.
 QByteArray DirectoryOf(const Entries& entries, bool bigEndian) {
     QByteArray bytes;
     Append(bytes, static_cast<quint16>(entries.size()), bigEndian);

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The smooth halves of the radial maps, see SmoothNodes.
+// The smooth halves of the radial maps, see SmoothNodes. Positions (x, y) are loop positions in
+// pixels of the result, y upward; offsets are in pixels of the photo and no numbers where the map
+// is not smooth. The constructors throw std::bad_alloc, the rest nothing.
 #pragma once
 
 #include <cmath>

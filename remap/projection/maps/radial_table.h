@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A smooth function of one number as pieces of cubics. The lens formulas cost too much to be worked
-// out for every node of a picture, and along a suitable argument they have no corners.
+// out for every node of a picture, and along a suitable argument they have no corners. The
+// constructor throws std::bad_alloc and what the function throws, the rest nothing.
 #pragma once
 
 #include <cmath>

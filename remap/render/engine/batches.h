@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The loops over columns, rows or radii that the projections share.
+// The loops over columns, rows or radii that the projections share. Throws what the functions throw
+// that are passed, and what the surface's Pause throws.
 #pragma once
 
 #include <algorithm>
@@ -16,9 +17,9 @@ namespace varnel {
 inline constexpr int blockRows = 16;
 
 // Calls draw(first, count) for columns or rows, until all of the range are done, and progress(n)
-// for each of them. At full size a batch is drawn before its progress is told. A
-// preview is told of each line before it is drawn and may be read another way from then on: it is
-// drawn at once as far as it goes, and anew from where the choice changes.
+// for each of them. At full size a batch is drawn before its progress is reported. For a preview
+// each line is reported before it is drawn, and the picture may be read another way from then on:
+// it is drawn at once as far as it goes, and anew from where the choice changes.
 template <class Draw, class Progress>
 void DrawLines(const RenderSession& run, LineRange lines, const Draw& draw,
                const Progress& progress) {

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Runs of output pixels through a smooth map: along a row for full-size pictures, along a column
-// for previews, which are told of each column.
+// for previews, which report progress at each column. WorkOutNodes throws std::bad_alloc, the rest
+// nothing.
 #pragma once
 
 #include <algorithm>

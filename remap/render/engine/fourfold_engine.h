@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Four mirror images from one set of nodes: the smooth maps that are symmetric about the circle
-// centre.
+// centre. Throws std::bad_alloc, and from Draw what the surface's Pause throws.
 #pragma once
 
 #include <array>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A 24-bit source picture as raw rows, checked once when the view is made. Rows count from the
-// bottom.
+// bottom. Throws nothing.
 #pragma once
 
 #include <cstddef>

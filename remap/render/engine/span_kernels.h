@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The inner loops of the engine: runs of neighbouring output pixels from the source. Their vector
-// code is in span_kernels.cpp alone and chooses the instruction set when it runs.
+// code is in span_kernels.cpp alone and chooses the instruction set when it runs. Positions are in
+// pixels of the source, rows counted from the bottom row. Throws nothing.
 #pragma once
 
 #include <cmath>
@@ -82,8 +83,7 @@ struct ChordSpan {
 void SampleChordSpan(const ChordSpan& span, SpanTarget target);
 
 // A run of columns of the Horizon projection: the one with the angle i reads centreX + sign *
-// radius
-// * cosines[i] in the row nearest to centreY + radius * sines[i].
+// radius * cosines[i] in the row nearest to centreY + radius * sines[i].
 struct CircleSpan {
     SourceView source;
     int first = 0;

@@ -4,6 +4,7 @@
 // Vectors of pixels for span_kernels.cpp, which includes this once for each instruction set. Blends
 // are linear interpolations in single precision, which leave flat areas exactly flat; they differ
 // from the double-precision blends by one level in fewer than one of a thousand channels (tested).
+// Throws nothing.
 
 #if defined(VARNEL_VECTOR_PIXELS_INL) == defined(HWY_TARGET_TOGGLE)
 #ifdef VARNEL_VECTOR_PIXELS_INL

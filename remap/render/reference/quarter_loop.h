@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Four output pixels from one position: the maps that are symmetric about the circle centre.
+// Four output pixels from one position: the maps that are symmetric about the circle centre. Throws
+// nothing.
 #pragma once
 
 #include "base/rounding.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Windows and OS/2 bitmap files. The image library refuses the newer headers and many run-length
-// coded pictures, and loads cut ones without a word.
+// coded pictures, and loads cut ones without an error. Throws std::bad_alloc only.
 #pragma once
 
 #include <optional>

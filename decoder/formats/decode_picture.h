@@ -34,7 +34,7 @@ using RowsFor = std::function<std::byte*(PixelSize size)>;
 // developed for display, floating-point colour is tone-mapped.
 // Small: a JPEG is decoded at a fraction of its size, of a raw file the camera's own preview is
 // taken; other pictures are decoded whole unless that would take long. The answer's size is 0 x 0
-// when the file does not tell it.
+// when the file does not state it.
 // Where it can, a whole photo is decoded right into the rows that it asks for, and the bitmap
 // stands there; else the bitmap has memory of its own.
 LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The size that a file claims, for the types whose headers the library does not read alone: it
-// would take the memory for all pixels first.
+// would take the memory for all pixels first. Sizes are in pixels. Throws std::bad_alloc only.
 #pragma once
 
 #include <optional>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The frame of a JPEG file: its segments, not its pixels.
+// The frame of a JPEG file: its segments, not its pixels. Places are bytes from the start of the
+// file. Throws std::bad_alloc only.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +25,8 @@ QByteArray JpegExif(const PictureFile& file);
 // stand.
 std::vector<std::int64_t> JpegMetadataMarkers(const PictureFile& file);
 
-// Everything in front of the pixels with EXIF blocks under a marker that nobody reads; empty for
-// other files.
+// Everything in front of the pixels with EXIF blocks under a marker that no library reads; empty
+// for other files.
 QByteArray HeaderWithoutExif(const PictureFile& file);
 
 // True when the file stops before the picture's end marker.

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Directories of TIFF files and of the raw files that are built like them, looked at without the
-// library: where they say that their data lies, against where the file ends.
+// library: where their data lies by their own numbers, against where the file ends. Places are
+// bytes from the start of the file. Throws std::bad_alloc only.
 #pragma once
 
 #include <cstdint>
@@ -15,12 +16,12 @@ namespace varnel {
 
 struct TiffStructure {
     bool isCut = false;          // a directory, a value or pixel data lies beyond the file's end
-    bool isMetadataCut = false;  // that is so of what tells about the photo
+    bool isMetadataCut = false;  // that is so of the metadata
     bool isDng = false;          // a raw photo; as a plain TIFF it would show a thumbnail
     int orientation = 1;         // of the first directory, as EXIF counts
     std::int64_t orientationPlace = 0;  // of its lowest byte; 0 when there is none
     // Lowest bytes of the numbers of tags that the library must not see.
-    std::vector<std::int64_t> deadlyTags{};    // takes it down: it turns round four times the bytes
+    std::vector<std::int64_t> deadlyTags{};    // crashes it: it swaps four times the bytes
     std::vector<std::int64_t> metadataTags{};  // is read by others, and later
     bool isEven = true;                        // its pixels are square and in rows and columns
     QByteArray colourProfile;                  // of the first directory

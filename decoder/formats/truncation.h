@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Telling a damaged photo from a sound one: the libraries load cut files without an error.
+// Distinguishing a damaged photo from a sound one: the libraries load cut files without an error.
+// Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

@@ -16,7 +16,7 @@ struct ExifWishes {
     PixelSize size{};
     bool upright = true;  // orientation 1 is written
     Exiv2::ByteOrder byteOrder = Exiv2::littleEndian;
-    // Where the photo does not tell them itself.
+    // Where the photo does not state them itself.
     double dotsPerInchX = 72.0;
     double dotsPerInchY = 72.0;
     bool isSrgb = true;

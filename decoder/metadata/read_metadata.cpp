@@ -48,7 +48,7 @@ class FileBytes {
     qint64 length_ = 0;
 };
 
-// The kinds of metadata that the library gave up on: it tells of that in its messages only.
+// The kinds of metadata that the library gave up on: it reports that in its messages only.
 QStringList& GivenUp() {
     thread_local QStringList kinds;
     return kinds;

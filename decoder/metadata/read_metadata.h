@@ -16,7 +16,7 @@ namespace varnel {
 struct MetadataRequest {
     PixelSize size{};     // of the picture as it was loaded, pixels; 0 x 0 when it was not
     int orientation = 1;  // that was undone on loading, as EXIF counts
-    // Of the picture as it was loaded, where the file's EXIF does not tell it.
+    // Of the picture as it was loaded, where the file's EXIF does not state it.
     double dotsPerMetreX = 0.0;  // 0 for not known
     double dotsPerMetreY = 0.0;
     bool hasProfile = false;
@@ -25,7 +25,7 @@ struct MetadataRequest {
 // For a picture as it was loaded.
 MetadataRequest WantedFor(const LoadedPicture& picture);
 
-// Reads the open file (position anywhere). What is broken is left out and said in the notes; never
+// Reads the open file (position anywhere). What is broken is left out and named in the notes; never
 // throws.
 FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request);
 

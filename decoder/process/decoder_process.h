@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The decoder's process as its parent sees it.
+// The decoder's process as its parent sees it. Throws nothing; errors are returned.
 #pragma once
 
 #include <sys/types.h>
@@ -25,7 +25,8 @@ class DecoderProcess {
     pid_t Id() const { return id_; }
     // Why it could not be started; empty when it was. It ends with the thread that started it.
     Reason Start();
-    // False when it is gone.
+    // The request with the descriptors of the photo and the memory file, which stay the caller's.
+    // False when the process is gone.
     bool Send(const DecoderRequest& request, int photo, int memory);
 
     enum class Heard { Nothing, Answer, PeerClosed };

@@ -167,7 +167,7 @@ FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
     FileMetadata taken =
         UnpackFileMetadata(QByteArray(reinterpret_cast<const char*>(bytes + place),
                                       static_cast<qsizetype>(answer.metadataLength)));
-    // The decoder always has something to say, if only that Varnel wrote the file.
+    // The decoder always reports something, if only that Varnel wrote the file.
     const bool isNothing = taken.metadata.IsEmpty() && taken.metadata.notes.isEmpty();
     return isNothing ? UnreadMetadata() : taken;
 }
@@ -259,7 +259,7 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
         picture = LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
         return;
     }
-    // A copy, so that nobody changes the block while it is read.
+    // A copy, so that the decoder cannot change the block while it is read.
     const QByteArray attributes(reinterpret_cast<const char*>(bytes + RowBytes(answer)),
                                 static_cast<qsizetype>(answer.attributesLength));
     auto owner = std::make_shared<PixelOwner>();

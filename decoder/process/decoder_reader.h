@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The reader that decodes in a process of its own.
+// The reader that decodes in a process of its own. Throws as said in picture_reader.h.
 #pragma once
 
 #include <QDeadlineTimer>

@@ -67,7 +67,7 @@ bool ReceiveMessage(int socket, void* message, std::size_t length,
     msghdr head{};
     head.msg_iov = &part;
     head.msg_iovlen = 1;
-    // Without a place for descriptors the system does not let any in.
+    // Without room for descriptors the system does not let any in.
     if (descriptors != nullptr) {
         head.msg_control = control.bytes.data();
         head.msg_controllen = control.bytes.size();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A file descriptor with an owner.
+// A file descriptor with an owner. Throws nothing.
 #pragma once
 
 #include <unistd.h>
@@ -27,7 +27,7 @@ class Descriptor {
 
     int Get() const { return number_; }
     explicit operator bool() const { return number_ >= 0; }
-    // Gives it to somebody else who will close it.
+    // Hands it to another owner, who will close it; -1 when there is none.
     int Release() { return std::exchange(number_, -1); }
 
   private:

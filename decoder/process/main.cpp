@@ -129,8 +129,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     return answer;
 }
 
-// The pixels are the parent's already: should the metadata be this process's death, they are not
-// lost.
+// The pixels are the parent's already: should the metadata end this process, they are not lost.
 bool SendMetadata(std::FILE* photo, const DecoderAnswer& first, const MetadataRequest& wanted,
                   Handover& handover) {
     LimitMetadata(PictureFile(photo).Length());
@@ -195,7 +194,7 @@ extern "C" const char* __asan_default_options() {
 
 int main() {
     varnel::KeepFreedMemory();
-    // Told by name the zone is read once; else the C library looks at the file for every time of
+    // Given by name the zone is read once; else the C library looks at the file for every time of
     // day, and takes another zone when it may not.
     setenv("TZ", ":/etc/localtime", 0);
     varnel::PrepareDecoding();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Opening a photo before any library sees it.
+// Opening a photo before any library sees it. Throws nothing; errors are returned.
 #pragma once
 
 #include <QString>

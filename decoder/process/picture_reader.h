@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Reading photos: the one way by which any picture enters Varnel.
+// Reading photos: the one way by which any picture enters Varnel. Throws std::bad_alloc, and what
+// the caller's function throws.
 #pragma once
 
 #include <functional>
@@ -19,7 +20,7 @@ class PictureReader {
     // Starts on a photo. Nothing else may be under way.
     virtual void Begin(const ReadRequest& request) = 0;
     // Waits this many milliseconds at most; true when the answer can be taken. That is so at the
-    // latest when the time limit is over: then the answer says so.
+    // latest when the time limit is over: then that is the reason in the answer.
     virtual bool Wait(int milliseconds) = 0;
     // The answer; ends what Begin began.
     virtual LoadedPicture Take() = 0;
@@ -36,7 +37,7 @@ using KeepReading = std::function<bool()>;
 LoadedPicture ReadPicture(PictureReader& reader, const ReadRequest& request,
                           const KeepReading& keepReading = {});
 
-// What a reader may be told; the defaults are the programs' own.
+// The options of a reader; the defaults are the programs' own.
 struct ReaderOptions {
     QString program = {};      // the decoder's path; empty: the one beside this program
     int secondsPerPhoto = 30;  // the longest that a photo may take

@@ -38,7 +38,7 @@ Reason WithTextsCut(const Reason& reason, qsizetype longest) {
     return {reason.Code(), std::move(arguments)};
 }
 
-// All is well without a reason only. What the user does is not the decoder's to say.
+// All is well without a reason only. That the user cancelled is not for the decoder to report.
 bool IsConsistentReason(const DecoderAnswer& answer) {
     const std::optional<Reason> reason = ReasonOf(answer);
     const bool allWell = answer.outcome == static_cast<std::uint32_t>(LoadOutcome::Loaded);

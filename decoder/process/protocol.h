@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a program and its decoder process say to each other: one message of fixed size each way over
-// a socket that keeps messages apart. With the request come two file descriptors, the photo and a
-// memory file for the picture, in this order. Both ends are built together, so structs go as they
-// are.
+// The messages between a program and its decoder process: one of fixed size each way over a socket
+// that keeps messages apart. With the request come two file descriptors, the photo and a memory
+// file for the picture, in this order. Both ends are built together, so structs go as they are.
+// Throws std::bad_alloc only.
 #pragma once
 
 #include <QByteArray>
@@ -31,7 +31,7 @@ struct DecoderRequest {
 inline constexpr std::size_t longestReason = 2000;  // bytes
 
 // In place of an outcome: the decoder tried a system call that is forbidden to it, of that number,
-// and is dead. Whoever says so is not asked again.
+// and is dead. A decoder that sends this is not asked again.
 inline constexpr std::uint32_t triedForbidden = 0xF0;
 
 // The memory file holds the rows, bottom row first, then what else belongs to the picture.
@@ -54,9 +54,9 @@ inline std::uint64_t RowBytes(const DecoderAnswer& answer) {
     return std::uint64_t{answer.pitch} * static_cast<std::uint32_t>(answer.bitmap.height);
 }
 
-// Nothing in an answer is believed unseen: a decoder may be out of its mind after a hostile photo.
-// True when the answer belongs to the request, its numbers agree with one another and the memory
-// file is long enough for what it is said to hold.
+// Nothing in an answer is believed unchecked: a hostile photo may have made the decoder send
+// anything. True when the answer belongs to the request, its numbers agree with one another and the
+// memory file is long enough for what it has to hold.
 bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
                   std::uint64_t memoryFileLength);
 

@@ -74,7 +74,7 @@ void Limit(__rlimit_resource what, std::uint64_t soft, std::uint64_t hard) {
     setrlimit(what, &limit);
 }
 
-// The file in which the system tells how much memory the process has; stays open.
+// The file in which the system states how much memory the process has; stays open.
 int MemoryStatus() {
     static const int file = open("/proc/self/statm", O_RDONLY | O_CLOEXEC);
     return file;
@@ -114,8 +114,8 @@ void Confine() {
 
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds) {
     // The library's picture in its own depth, the picture handed over and a little for the rest. In
-    // the end metadata may need a little more; that much is final, because the parent says the same
-    // for each photo.
+    // the end metadata may need a little more; that much is final, because the parent sends the
+    // same for each photo.
     constexpr std::uint64_t rest = std::uint64_t{1} << 30;
     const std::uint64_t most = memory / 4 * 3 + rest;
     if (!sanitized) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the decoder's process may still do once it listens.
+// What the decoder's process may still do once it listens. Throws nothing.
 #pragma once
 
 #include <cstdint>
@@ -29,8 +29,8 @@ void Confine();
 // the system.
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds);
 
-// Not much more memory than the process has now, and this much for the photo's file: what a photo
-// tells besides its pixels never needs it.
+// Not much more memory than the process has now, and this much for the photo's file: what a photo's
+// file has besides its pixels never needs it.
 void LimitMetadata(std::uint64_t fileLength);
 
 }  // namespace varnel

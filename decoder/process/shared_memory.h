@@ -18,7 +18,7 @@ namespace varnel {
 // mapped once stays readable whatever the decoder does.
 class SharedMemory {
   public:
-    // Throws std::bad_alloc. The name tells memory files of one reader apart.
+    // Throws std::bad_alloc. The name distinguishes the memory files of one reader.
     explicit SharedMemory(std::uint32_t name);
     ~SharedMemory();
     SharedMemory(const SharedMemory&) = delete;

@@ -34,7 +34,7 @@ constexpr int allowed[] = {
     SCMP_SYS(futex), SCMP_SYS(set_robust_list), SCMP_SYS(rseq), SCMP_SYS(sched_yield),
     SCMP_SYS(sched_getaffinity), SCMP_SYS(gettid), SCMP_SYS(exit), SCMP_SYS(exit_group),
     SCMP_SYS(rt_sigprocmask), SCMP_SYS(restart_syscall),
-    // time, chance and itself
+    // time, random numbers and the process itself
     SCMP_SYS(clock_gettime), SCMP_SYS(clock_nanosleep), SCMP_SYS(nanosleep), SCMP_SYS(gettimeofday),
     SCMP_SYS(time), SCMP_SYS(getrandom), SCMP_SYS(getpid), SCMP_SYS(getuid), SCMP_SYS(getrusage),
     SCMP_SYS(sysinfo)};
@@ -45,7 +45,7 @@ constexpr struct {
     int error;
 } refused[] = {
     // Files by their names: character sets, processors, the terminal for a last message. The calls
-    // for an open file's state take a name, too, and all who ask can do without.
+    // for an open file's state take a name, too, and all callers can do without.
     {SCMP_SYS(open), EACCES},
     {SCMP_SYS(openat), EACCES},
     {SCMP_SYS(access), EACCES},
@@ -75,7 +75,7 @@ constexpr scmp_arg_cmp Is(unsigned argument, scmp_datum_t value) {
     return {argument, SCMP_CMP_EQ, value, 0};
 }
 
-// Tells the parent which call it was, and dies.
+// Reports to the parent which call it was, and ends the process.
 void TellAndDie(int signal, siginfo_t* about, void* /*context*/) {
     DecoderAnswer last;
     last.outcome = triedForbidden;
@@ -88,7 +88,7 @@ void TellAndDie(int signal, siginfo_t* about, void* /*context*/) {
 
 // Once: should hostile code find a way out of the handler, or another thread call at the same time,
 // the next forbidden call is met by the system, which ends the process. The same when the signal is
-// blocked. Nobody can set another handler any more.
+// blocked. No other handler can be set any more.
 void TellOfForbiddenCalls() {
     struct sigaction action {};
     action.sa_sigaction = &TellAndDie;

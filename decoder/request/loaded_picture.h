@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What comes of reading a photo.
+// What comes of reading a photo. Throws nothing.
 #pragma once
 
 #include "base/reason.h"
@@ -22,7 +22,7 @@ struct LoadedPicture {
     Reason reason;        // what is wrong; empty when all is well
     PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
     PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
-    int orientation = 1;       // that the file tells and that was undone, as EXIF counts
+    int orientation = 1;       // that the file states and that was undone, as EXIF counts
 
     static LoadedPicture Refused(const Reason& reason) {
         return {LoadOutcome::NotLoaded, nullptr, reason, {}};

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How large a picture may be; asked before its pixels take memory and again after decoding.
+// How large a picture may be; asked before its pixels take memory and again after decoding. Throws
+// nothing.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What may be asked of a photo's file.
+// What may be asked of a photo's file. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -14,7 +14,7 @@ namespace varnel {
 enum class ReadKind : std::uint32_t {
     Whole,  // every pixel, with metadata and colour profile
     Size,   // only the size of the full picture
-    Facts,  // only what the file says besides its pixels; the size is 0 x 0
+    Facts,  // only what the file has besides its pixels; the size is 0 x 0
     Small   // a quick small picture for looking through a folder, without metadata
 };
 

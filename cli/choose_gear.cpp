@@ -17,7 +17,7 @@ namespace varnel {
 
 namespace {
 
-// The command line asks nobody: a store without gears stays without.
+// The command line asks no questions: a store without gears stays without.
 class NobodyToAsk : public GearPrompt {
   public:
     void Explain(const QString& /*text*/) override {}

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The gear that varnel-convert works with.
+// The gear that varnel-convert works with. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>
@@ -16,7 +16,7 @@
 
 namespace varnel {
 
-// The gears of the store; an empty table when there are none. Nobody is asked to define one.
+// The gears of the store; an empty table when there are none. The user is not asked to define one.
 GearTable StoredGears(SettingsStore& store);
 
 QStringList NamesOfGears(const GearTable& table);

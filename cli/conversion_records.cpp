@@ -108,7 +108,7 @@ QString TargetFor(const ConvertRequest& request, const QString& path, const Imag
     if (!options.outputDir.isEmpty()) {
         return BatchName(record, options.outputDir, {}, type, ending);
     }
-    if (options.morph) {  // the frames have nothing but their batch names to tell them apart
+    if (options.morph) {  // only their batch names distinguish the frames
         return QDir::cleanPath(BatchName(record, QFileInfo(path).path(), {}, type, ending));
     }
     return ProposedName(path, ToText(ProjectionFromIndex(record.Projection)), ending) +

@@ -15,7 +15,7 @@ namespace varnel {
 
 namespace {
 
-// Told before a photo is read; empty when the folder to write to is there.
+// Reported before a photo is read; empty when the folder to write to is there.
 QString MissingFolder(const Options& options) {
     const QString folder =
         options.output.isEmpty() ? options.outputDir : QFileInfo(options.output).path();

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// varnel-convert without its process: what the program does with its arguments.
+// varnel-convert without its process: what the program does with its arguments. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QStringList>

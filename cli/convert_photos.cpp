@@ -119,7 +119,7 @@ class CommandRun : public ConversionObserver {
         return ports;
     }
 
-    // Without those of which every result lies there already, if the options say so.
+    // Without those of which every result exists already, if the options say so.
     QStringList FilesToDo() {
         if (!request_.options.skipExisting) {
             return request_.options.files;

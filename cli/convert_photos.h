@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The photos of one command, one after the other.
+// The photos of one command, one after the other. Throws std::bad_alloc only.
 #pragma once
 
 #include "cli/choose_gear.h"
@@ -12,7 +12,7 @@
 namespace varnel {
 
 // Converts every photo that the options name. The name of each written file goes to out; a photo
-// that fails is told on err and the others are done. Returns the exit code.
+// that fails is reported on err and the others are done. Returns the exit code.
 int ConvertPhotos(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                   const Console& console);
 

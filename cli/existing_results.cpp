@@ -22,11 +22,11 @@ std::vector<FileReport> ExistingResults(const ConvertRequest& request, Conversio
                                         PhotoLoader& photos, const QString& file) {
     const bool nameTellsGear = !request.options.outputDir.isEmpty() || request.options.morph;
     if (!request.gears.forAll && nameTellsGear) {
-        return {};  // only the photo itself tells what its results are called
+        return {};  // only the photo itself decides what its results are called
     }
     const std::optional<PhotoSize> size = photos.Size(file);
     if (!size) {
-        return {};  // its error is told in its turn
+        return {};  // its error is reported in its turn
     }
     std::vector<FileReport> results;
     try {

@@ -15,8 +15,8 @@ namespace varnel {
 // Photo, projection and gear of a conversion.
 FileReport ReportOf(const QString& photo, const ImageRecord& record);
 
-// All of the photo's results, if under every one's name a file lies already: as skipped ones, or as
-// failed ones where the name is that of an earlier photo's result. Else none. The photo is not
+// All of the photo's results, if under every one's name a file exists already: as skipped ones, or
+// as failed ones where the name is that of an earlier photo's result. Else none. The photo is not
 // decoded, only its size is looked up. Their names are taken.
 std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
                                         PhotoLoader& photos, const QString& file);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The lists that varnel-convert prints.
+// The lists that varnel-convert prints. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

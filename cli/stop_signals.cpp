@@ -19,7 +19,7 @@ StopSignals::StopSignals(UnfinishedFile& unfinished) : unfinished_(unfinished) {
             sigaddset(&signals_, signal);
         }
     }
-    // For all threads that are made from now on, so that only the waiting one hears them.
+    // For all threads that are made from now on, so that only the waiting one receives them.
     pthread_sigmask(SIG_BLOCK, &signals_, &before_);
     if (sigismember(&signals_, SIGTERM) == 1 || sigismember(&signals_, SIGINT) == 1) {
         StartWaiting();

@@ -28,7 +28,7 @@ int WholeBetween(const QString& option, const QString& text, int least, int most
 // Whether JPEG keeps colour at full resolution.
 bool IsChroma444(const QString& text);
 // The parts of FIELD=VALUE for --set; tried on an empty record, so that a wrong field or value is
-// told before any photo is read.
+// reported before any photo is read.
 std::pair<QString, QString> FieldOf(const QString& text);
 int FrameCountOf(const QString& text);
 std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts);

@@ -200,8 +200,8 @@ void CheckMorph(const Options& options) {
     }
 }
 
-// Another type's contents under a picture's name would mislead; names that tell nothing may hold
-// any.
+// Another type's contents under a picture's name would mislead; names that stand for no type may
+// hold any.
 bool IsOtherPictureName(const QString& name) {
     return !OutputTypeByEnding(name) && IsPictureName(name);
 }

@@ -38,7 +38,7 @@ struct Options {
     std::vector<Projection> projections{Projection::Varnel};
     bool projectionGiven = false;
     QString like;                           // a picture that holds settings
-    std::optional<ImageRecord> likeRecord;  // what it says, once it was read
+    std::optional<ImageRecord> likeRecord;  // what it holds, once it was read
     QString gear;
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
@@ -62,7 +62,7 @@ struct Options {
     std::optional<int> jobs;  // cores to use; none: all
     bool quiet = false;
     bool advises = true;  // errors name the options that help; off for a program without them
-    bool json = false;    // what is told of each result goes to out as JSON, all else to err
+    bool json = false;    // what is reported of each result goes to out as JSON, all else to err
 };
 
 // The options, or one line that says what is wrong with the command line. The first argument is the

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a program of the command line says, and how it ends. Throws std::bad_alloc only.
+// What a program of the command line prints, and how it ends. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>
@@ -48,14 +48,14 @@ class ConsoleNotices : public Notices {
     const Console& console_;
 };
 
-// Complains about what the command line asks for; returns exitUsage.
+// Reports an error in what the command line asks for; returns exitUsage.
 int Refuse(const Console& console, const QString& text);
 
 // The text on out; returns exitAllWritten.
 int Show(const Console& console, const QString& text);
 
-// File names are UTF-8 wherever Varnel runs. Under a C locale Qt would switch by itself, but say so
-// on stderr each time. To be called first in main.
+// File names are UTF-8 wherever Varnel runs. Under a C locale Qt would switch by itself, but report
+// it on stderr each time. To be called first in main.
 void UseUtf8Locale();
 
 }  // namespace varnel

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What a run says of its photos and results, for people and for scripts. Throws std::bad_alloc
+// What a run reports of its photos and results, for people and for scripts. Throws std::bad_alloc
 // only.
 #pragma once
 
@@ -17,7 +17,7 @@
 
 namespace varnel {
 
-// To be told in the photos' order. People get the names of written files on out and all else on
+// To be called in the photos' order. People get the names of written files on out and all else on
 // err; with the option for JSON each report is a line of it on out and no names are written there.
 class RunReports {
   public:
@@ -28,14 +28,14 @@ class RunReports {
     bool AllWell() const { return allWell_; }
 
     void Written(const FileReport& report);
-    // Of results that lie there already only scripts hear.
+    // Of results that exist already, for scripts only.
     void Skipped(const FileReport& report);
     // Of the result, or of the photo when there is none.
     void Failed(const FileReport& report);
     // Something is wrong with the photo, which is converted all the same.
     void Damaged(const QString& photo, const QString& reason);
     void Say(const QString& text);
-    // The same may be true of many files: told in full for the first one only.
+    // The same may be true of many files: reported in full for the first one only.
     void Note(const QString& file, const Reason& note);
     // How many more files each note was about.
     void Finish();

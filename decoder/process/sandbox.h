@@ -29,8 +29,8 @@ void Confine();
 // the system.
 void LimitNextPhoto(std::uint64_t memory, std::uint32_t seconds);
 
-// Not much more memory than the process has now, and this much for the photo's file: what a photo's
-// file has besides its pixels never needs it.
+// Not much more memory than the process has now, and fileLength bytes more for the photo's file:
+// what a photo's file has besides its pixels never needs it.
 void LimitMetadata(std::uint64_t fileLength);
 
 }  // namespace varnel

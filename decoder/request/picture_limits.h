@@ -15,7 +15,7 @@ namespace varnel {
 // The most that a side may have: records keep sides in 16 bits.
 inline constexpr std::int64_t largestSide = 32767;
 
-// The machine's memory, bytes.
+// The machine's memory, bytes; 4 GB where the system does not report it.
 std::uint64_t MachineMemory();
 
 // Why a picture of this many pixels is refused on a machine with this memory in bytes; empty when

@@ -23,12 +23,14 @@ struct ProjectionMetrics {
     CleanCrop rectangle;
 };
 
+// The coverage has to be that of the same grid.
 ProjectionMetrics MeasureResult(const MappingMesh& grid, const SourceCoverage& kept);
 
 // By how much a line grows from the photo to the result.
 enum class Magnified : std::uint8_t { Nothing, Shrunk, AboutSame, Stretched };
 inline constexpr double aboutSame = 1.1;  // up to a tenth either way
 
+// By the values of a magnification map; 0, less and no number mean Nothing.
 Magnified ClassOf(double magnification);
 
 // The cells of the grid, row by row from the bottom.
@@ -43,6 +45,7 @@ struct MagnificationMap {
     }
 };
 
+// Empty for a grid of fewer than two columns or rows.
 MagnificationMap MapMagnification(const MappingMesh& grid);
 
 }  // namespace varnel

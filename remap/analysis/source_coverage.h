@@ -39,6 +39,7 @@ struct SourceCoverage {
     bool Keeps(const SourcePosition& place) const;
 };
 
+// columns: cells along the photo's longer side, at least 1.
 SourceCoverage MeasureCoverage(const MappingMesh& grid, int columns = 400);
 
 // The closed border of what is kept, also where it runs off the photo; what it does not enclose is

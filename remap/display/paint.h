@@ -17,7 +17,7 @@ namespace varnel {
 QImage ImageOf(const Bitmap* bitmap);
 
 // Draws the whole bitmap with its upper left corner at (x, y), one bitmap pixel to one unit of the
-// painter. Returns the number of rows drawn.
+// painter. Returns the number of rows drawn, 0 for no bitmap.
 int PaintBitmapToDC(const Bitmap* bitmap, QPainter& painter, int x, int y);
 
 }  // namespace varnel

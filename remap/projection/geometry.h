@@ -48,7 +48,7 @@ struct SourceOffset {
     double v = 0.0;
 };
 
-// What a map answers for a direction that no source pixel shows; reads there give black.
+// What a map returns for a direction that no source pixel shows; reads there give black.
 SourceOffset NowhereOnSource();
 
 // The centre of the image circle in bitmap coordinates, and how far the loops must reach from it.

@@ -25,7 +25,7 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Batch)
 };
 
-// An entry without a name fails in the run and is told there.
+// An entry without a name fails in the run and is reported there.
 QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue,
                                 const BatchChoices& choices) {
     QHash<QString, int> uses;

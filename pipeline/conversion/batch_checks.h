@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What can be told of a batch before it runs. Throws std::bad_alloc only.
+// What can be checked of a batch before it runs. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>
@@ -22,13 +22,15 @@ int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& cho
 // The two numbers in words; empty when both are 0.
 QString NamesText(int colliding, int existing);
 
-// The space that the run may need, as for photos full of fine detail.
+// The bytes that the run may need, as for photos full of fine detail. Entries whose size is not
+// known count nothing.
 qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
 
-// The free space where the folder is; -1 when the system does not tell.
+// The free bytes where the folder is; -1 when the system does not report them.
 qint64 FreeBytes(const QString& folder);
 
-// A warning when there is less free than expected; an unknown amount warns nobody.
+// A warning when there is less free than expected; empty when there is enough or the free amount is
+// unknown.
 QString SpaceWarning(qint64 expectedBytes, qint64 freeBytes);
 
 }  // namespace varnel

@@ -33,7 +33,7 @@ inline OutputEncoding EncodingOf(const BatchChoices& choices) {
 // cannot stand in a name.
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices);
 
-// Hears how a run goes; all calls come on the caller's thread.
+// Is notified how a run goes; all calls come on the caller's thread.
 class BatchObserver {
   public:
     virtual ~BatchObserver() = default;
@@ -50,7 +50,8 @@ class BatchObserver {
 
 // Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
 // changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
-// the queue is never replaced, and no older file by a conversion of a damaged photo.
+// the queue is never replaced, and no older file by a conversion of a damaged photo. Throws
+// std::bad_alloc and what the observer throws.
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
                       BatchObserver& observer, const ConversionPorts& ports);
 

@@ -49,7 +49,7 @@ QString Section(const List& list, const QString& one, const QString& many) {
     return text;
 }
 
-// What is said of several files stands once, with the first of them.
+// What applies to several files is written once, with the first of them.
 QString NotesSection(const std::vector<BatchNote>& notes) {
     std::vector<BatchNote> lines;
     std::vector<qsizetype> counts;

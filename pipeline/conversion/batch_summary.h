@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What came of a batch run, and the texts that tell of the batch. Throws std::bad_alloc only.
+// What came of a batch run, and the texts that describe the batch. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>

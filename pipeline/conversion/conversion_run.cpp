@@ -21,7 +21,7 @@ namespace {
 
 constexpr int betweenEvents = 10;  // ms
 
-// A conversion on its way. The observer hears of it only when the one before it is done.
+// A conversion on its way. The observer is notified of it only when the one before it is done.
 struct Turn {
     Conversion what{};
     ConversionOutcome outcome{};
@@ -158,7 +158,7 @@ class Run : private RenderProgress {
             Fail(ConversionEnd::NotConverted, error);
         }
         if (last) {
-            DropSource();  // encoding needs room of its own
+            DropSource();  // encoding needs memory of its own
         }
         FinishWriting();
         if (!Failed()) {
@@ -271,9 +271,9 @@ class Run : private RenderProgress {
         End(written);
     }
 
-    // Telling.
+    // Reporting.
 
-    // What was converted while the one before it was written, and is not to be told any more.
+    // What was converted while the one before it was written, and is not to be reported any more.
     bool Dropped() const { return stopped_ && !plan_.finishesBegun; }
 
     void TellTurn() {

@@ -44,8 +44,8 @@ struct ConversionPlan {
     OutputChoices output;
     std::optional<PixelSize> preview{};  // at most this size in pixels; none: the photo's own
     bool smoothPreview = false;
-    // When the observer asks to stop, what was begun and not told yet is finished all the same, or
-    // else dropped as if it had not been begun.
+    // When the observer asks to stop, what was begun and not reported yet is finished all the same,
+    // or else dropped as if it had not been begun.
     bool finishesBegun = false;
     // The names of the files are made last on the disk at the end of the run, not each by itself.
     bool namesLastAtEnd = false;
@@ -62,7 +62,7 @@ struct Conversion {
 
 enum class ConversionEnd {
     Written,
-    Skipped,       // a file is there, and the rules leave it alone
+    Skipped,       // a file exists, and the rules leave it alone
     NotRead,       // the photo; there is one of these for all its records
     NoRecords,     // likewise
     Refused,       // the target
@@ -79,8 +79,8 @@ struct ConversionOutcome {
     double seconds = 0.0;   // by the clock, since it was begun
 };
 
-// Hears how a run goes, on the caller's thread and as if each conversion were done before the next
-// one begins. What it throws ends the conversion at hand or the run.
+// Is notified how a run goes, on the caller's thread and as if each conversion were done before the
+// next one begins. What it throws ends the conversion at hand or the run.
 class ConversionObserver {
   public:
     virtual ~ConversionObserver() = default;
@@ -101,8 +101,8 @@ struct ConversionPorts {
         save{};  // none: SaveBitmap
     // Begins to read a photo that is loaded next after those it was given before; false when it had
     // better be read in its turn. Where this is there, one photo is read and another one written
-    // (save is called on another thread then) while a third is converted. Neither what the observer
-    // hears nor the files show it.
+    // (save is called on another thread then) while a third is converted. Neither the calls of the
+    // observer nor the files show it.
     std::function<bool(const QString& path)> readAhead{};
     int aheadAtMost = 1;              // photos
     std::function<void()> allRead{};  // no photo is loaded after this
@@ -120,8 +120,9 @@ struct ConversionRunEnd {
     Reason lasting;        // why the names of written files may not last; empty when they do
 };
 
-// Converts and writes all photos of the plan. What fails is told to the observer and the run goes
-// on. The targets are asked for each result, and told what was written.
+// Converts and writes all photos of the plan. What fails is reported to the observer and the run
+// goes on. The targets are asked for each result, and notified of what was written. Throws
+// std::bad_alloc and what the observer throws.
 ConversionRunEnd RunConversions(const ConversionPlan& plan, ConversionTargets& targets,
                                 ConversionObserver& observer, const ConversionPorts& ports);
 

@@ -30,7 +30,7 @@ TargetRefusal ConversionTargets::Check(const QString& photo, const QString& targ
     if (SameFile(target, photo)) {
         return {TargetError::IsThePhoto};
     }
-    // One that is yet to be converted, say: "varnel *" where an earlier result lies.
+    // One that is yet to be converted, say: "varnel *" where an earlier result exists.
     if (photos_.Contains(target)) {
         return {TargetError::IsPhotoOfRun};
     }

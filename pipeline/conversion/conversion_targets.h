@@ -49,10 +49,10 @@ class ConversionTargets {
     ConversionTargets(const QStringList& photos, TargetRules rules)
         : photos_(photos), rules_(rules) {}
 
-    // Takes the name for a result of the photo, whether that is going to be written, lies there
-    // already or fails. Refused where the rules give a name once only and it is taken.
+    // Takes the name for a result of the photo, whether that is going to be written, exists already
+    // or fails. Refused where the rules give a name once only and it is taken.
     TargetRefusal Take(const QString& photo, const QString& target);
-    // Whether a file of that name is there that the rules leave alone without an error.
+    // Whether a file of that name exists that the rules leave alone without an error.
     bool IsSkipped(const QString& target) const;
     // Whether a conversion of that photo may be written there now.
     TargetRefusal Check(const QString& photo, const QString& target, bool damaged);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Morph sequences: copies of a photo's record whose settings move evenly from a start to an end.
+// Throws nothing but what MorphFrame and AddMorph say.
 #pragma once
 
 #include <QString>
@@ -43,7 +44,7 @@ MorphEnds EndsFrom(const ImageRecord& image);
 // whichever the projection reads. Null for every other name.
 float* MorphValue(MorphValues& values, Projection projection, const QString& field);
 
-// The names that MorphValue knows, over all projections, in the record's order.
+// The names that MorphValue takes, over all projections, in the record's order.
 QStringList MorphFields();
 
 // Frame i of a sequence of N, 1 <= i <= N. NameSuffix is "Morph" and the last four digits of i. The

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The names of written files.
+// The names of written files. Throws nothing but OverflowError by SettingsTags and BatchName.
 #pragma once
 
 #include <QString>
@@ -15,7 +15,7 @@ namespace varnel {
 // What becomes of the ending of the photo's own name. Cut are the last three characters, so that
 // the dot of an extension stays: "IMG.jpg" gives "IMG.", "IMG.tiff" gives "IMG.t"; names of one or
 // two characters are left whole, as cutting them would lead out of the folder. Kept gives
-// "IMG.jpg.", which tells IMG.jpg and IMG.png apart.
+// "IMG.jpg.", which keeps IMG.jpg and IMG.png apart.
 enum class PhotoEnding { Cut, Kept };
 
 // The name that a single save proposes: the source path with its ending treated so, followed by the
@@ -32,13 +32,13 @@ struct NameAdditions {
     QString For(Projection projection) const;
 };
 
-// The tags that tell the settings of a batch entry, "_hAOV095_Eff080_LR-5" for example; empty for a
+// The tags for the settings of a batch entry, "_hAOV095_Eff080_LR-5" for example; empty for a
 // projection without any. Numbers are rounded, ties to even; angle of view and effect are padded to
-// three digits. Throws OverflowError.
+// three digits. Throws OverflowError, naming the setting, for a number beyond 32 bits.
 QString SettingsTags(const ImageRecord& image);
 
 // The full path of a batch entry's file in a folder: file name with its ending treated so,
-// addition, "_" and suffix if there is one, tags, extension.
+// addition, "_" and suffix if there is one, tags, extension. Throws as SettingsTags.
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
                   OutputType type, PhotoEnding ending = PhotoEnding::Cut);
 

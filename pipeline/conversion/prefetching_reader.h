@@ -36,7 +36,7 @@ class PrefetchingReader {
     // How many photos may be read ahead at once; none where that would only keep the caller
     // waiting.
     int Ahead() const { return first_.IsApart() ? static_cast<int>(1 + more_.size()) : 0; }
-    // Those that the decoders take theirs of; null when there are none.
+    // The cores that the decoders share; null when there are none.
     ThreadRunner* Cores() const { return cores_; }
 
   private:

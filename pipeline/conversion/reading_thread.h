@@ -14,8 +14,8 @@
 namespace varnel {
 
 // A reader on one of the pool's threads, which waits for a core, lets the decoder begin, and has
-// the core until the picture is there, whatever the caller does meanwhile. Where the system gives
-// no thread the decoder is asked directly. To be called with a core.
+// the core until the picture is read, whatever the caller does meanwhile. Where the system gives no
+// thread the decoder is asked directly. To be called with a core.
 class ReadingThread : public PictureReader {
   public:
     // The reader is the caller's, who does not use it meanwhile; with a null pointer one is started

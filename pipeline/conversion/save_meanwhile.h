@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Saving a picture while the window that saves it goes on painting and can cancel it.
+// Saving a picture while the window that saves it goes on painting and can cancel it. Throws
+// std::bad_alloc, and SavingCancelled where it says so.
 #pragma once
 
 #include <atomic>
@@ -17,7 +18,8 @@ using CancelFlag = std::atomic<bool>;
 // Thrown through a conversion once it is cancelled.
 struct SavingCancelled {};
 
-// Tells another progress, until the flag is raised: then the conversion ends by SavingCancelled.
+// Passes every call on to another progress, until the flag is raised: then Advance and Pause throw
+// SavingCancelled, which ends the conversion.
 class CancellableProgress : public RenderProgress {
   public:
     CancellableProgress(RenderProgress& told, const CancelFlag& cancelled)
@@ -46,7 +48,7 @@ struct FileToSave {
 // written.
 SaveResult SaveMeanwhile(const FileToSave& file, const Bitmap* bitmap, ThreadRunner& pool,
                          RenderProgress& progress, const CancelFlag& cancelled);
-// What is told of a picture that was cancelled.
+// The message for a picture that was cancelled.
 QString CancelledText();
 
 }  // namespace varnel

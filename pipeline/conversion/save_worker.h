@@ -28,8 +28,8 @@ class SaveWorker {
 
     // Nothing else may be under way. Where the system gives no thread, the job is done at once.
     void Begin(Job job);
-    // Whether the result can be taken; waits for it this many milliseconds at most. The caller's
-    // core is given back meanwhile only if the caller sees to it.
+    // Whether the result can be taken; waits for it this many milliseconds at most. The caller
+    // keeps its core meanwhile unless it lends it (CoreLent).
     bool Wait(int milliseconds) const;
     SaveResult Take();
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Pictures that Varnel wrote, taken for the photo and the settings that made them.
+// Pictures that Varnel wrote, taken for the photo and the settings that made them. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QMap>
@@ -18,13 +19,14 @@ bool MayHoldSettings(const QString& path);
 
 struct SettingsFromPicture {
     // Leads to the source photo where that was found. Its orientation is the one that the centre
-    // offsets are meant for; 0 when that was not told.
+    // offsets are meant for; 0 when that is not known.
     ImageRecord record;
     bool sourceFound = false;
     QStringList notes;  // settings that were refused
 };
 
-// The path of the photo as it can be told.
+// The path of the photo for messages: cut after 300 characters, with "?" for those that cannot be
+// printed.
 QString ShownSource(const ImageRecord& record);
 
 // What made the picture; nothing when it holds no settings. The source photo is looked for where it
@@ -47,7 +49,7 @@ struct AddedFiles {
 };
 
 // As AppendFiles does, but for a picture that holds settings its source photo with these settings
-// comes, if it is there. Reads no pixels, but notes which files are no pictures; when the user
+// is appended, if it exists. Reads no pixels, but notes which files are no pictures; when the user
 // gives up waiting, no further file is looked into.
 AddedFiles AppendFilesOrSources(RecordArray<ImageRecord>& images, const QStringList& paths,
                                 PhotoLoader& photos);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Whose results the names of one run are. Two photos of one name, or of names that differ in their
-// endings alone, would have one result; what lies on the disk cannot tell of which of them it is.
-// Throws std::bad_alloc only.
+// endings alone, would have one result; from the file on the disk it cannot be seen of which of
+// them it is. Throws std::bad_alloc only.
 #pragma once
 
 #include <QMultiHash>
@@ -13,8 +13,9 @@ namespace varnel {
 
 class TakenNames {
   public:
-    // The photo that took the name before; empty when it was free: now it is this photo's. Names
-    // that differ in small and capital letters are one only where the file that is there says so.
+    // The photo that took the name before; empty when it was free: then it is this photo's from now
+    // on. Names that differ in small and capital letters are one only where both lead to the same
+    // existing file.
     QString Take(const QString& result, const QString& photo);
 
   private:

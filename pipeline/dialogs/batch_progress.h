@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A batch run in the batch dialog's bars and labels. While the run lasts all input is handled, so
-// whatever must not be used meanwhile has to be disabled.
+// the caller disables what must not be used until it ends. Throws nothing.
 #pragma once
 
 #include <QElapsedTimer>

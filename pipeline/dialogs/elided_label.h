@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A label for paths: what does not fit is left out in the middle when it is painted, so that drive
-// and file name stay and a long path does not widen the window.
+// and file name stay and a long path does not widen the window. Throws nothing.
 #pragma once
 
 #include <QLabel>

@@ -31,8 +31,8 @@ void FolderChooser::SetUpTree() {
     tree_.installEventFilter(this);
     connect(tree_.selectionModel(), &QItemSelectionModel::currentChanged, this,
             &FolderChooser::OnFolder);
-    // The folders above the shown one arrive later and push it down. They are put in their places
-    // by a timer of the model's own, so this waits a little longer.
+    // The folders above the shown one arrive later and push it down. They are sorted in by a timer
+    // of the model's own, so this waits a little longer.
     arrived_.setSingleShot(true);
     arrived_.setInterval(30);
     connect(&folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
@@ -130,10 +130,10 @@ void FolderChooser::OnNameRefused(const QModelIndex& index, const QString& name,
 }
 
 bool FolderChooser::eventFilter(QObject* watched, QEvent* event) {
-    // Enter opens or closes the folder; it must not set off the dialog's button under somebody who
-    // is still on the way to a folder. The one that ends the naming of a folder comes here, too: to
-    // open the folder then would have it listed under its first name, and what the model is told of
-    // a folder that is gone it takes for the whole tree.
+    // Enter opens or closes the folder; it must not set off the dialog's button while the user is
+    // still on the way to a folder. The one that ends the naming of a folder comes here, too: to
+    // open the folder then would have it listed under its first name, and what is reported to the
+    // model of a folder that is gone it takes for the whole tree.
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {

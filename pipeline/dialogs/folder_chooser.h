@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Choosing a folder with a list of drives and a tree of folders that belong together: the dialogs'
-// own widgets, tied to each other.
+// own widgets, tied to each other. Throws std::bad_alloc only.
 #pragma once
 
 #include <QComboBox>
@@ -25,12 +25,13 @@ class FolderChooser : public QObject {
 
     FolderChooser(QComboBox& drives, QTreeView& tree, Notices& notices, Volumes volumes);
 
-    // Goes to the folder; one that does not exist is left alone.
+    // Goes to the folder; one that does not exist is ignored.
     void Show(const QString& folder);
     // Puts the drive of that name (see DriveName) in front without going there.
     void PutDriveInFront(const QString& name);
-    // Makes a new folder in the shown one, goes there and lets the user give it a name; a name that
-    // it cannot have is told and asked for again. False when none can be made.
+    // Makes a new folder in the shown one, goes there and lets the user give it a name; for a name
+    // that it cannot have a message is shown and the name asked for again. False when none can be
+    // made.
     bool MakeFolder(const QString& proposedName);
 
     // Absolute, with "/"; empty before the first Show.

@@ -12,7 +12,7 @@ namespace {
 
 constexpr qsizetype longestName = 255;  // bytes, NAME_MAX of all common file systems
 
-// Why no folder in that place can have the name; empty when it can.
+// Why a folder in the given one cannot have the name; empty when it can.
 QString WhyNot(const QDir& place, const QString& name) {
     if (name.contains(u'/')) {
         return FolderModel::tr("A name cannot hold a slash.");

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The folders of a tree. A new name that a folder cannot have is refused with a reason here; the
-// model below would put up a box of its own.
+// model below would put up a box of its own. Throws nothing.
 #pragma once
 
 #include <QFileSystemModel>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The dialog in which photos are chosen for the image list: drive, folder, files with small
-// pictures.
+// pictures. Throws std::bad_alloc only.
 #pragma once
 
 #include <QDialog>
@@ -20,7 +20,7 @@ class FormAddImages;
 
 namespace varnel {
 
-// The places of this computer that the dialog knows.
+// The folders and volumes of this computer that the dialog offers.
 struct PhotoPlaces {
     QString homeFolder;
     QString picturesFolder;

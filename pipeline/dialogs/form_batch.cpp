@@ -26,7 +26,7 @@ namespace varnel {
 
 namespace {
 
-// Its room stays, so that nothing moves when it appears.
+// Its space stays reserved, so that nothing moves when it appears.
 void KeepRoomOf(QWidget* widget) {
     QSizePolicy policy = widget->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
@@ -51,7 +51,7 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
     try {
         return queue.Empty() ? QString() : QFileInfo(BatchPath(queue(1), choices)).fileName();
     } catch (const RunTimeError&) {
-        return {};  // the run will tell
+        return {};  // the run reports it
     }
 }
 
@@ -103,7 +103,7 @@ void FormBatch::FillChoices() {
 
 // A row for each projection, above the example.
 void FormBatch::AddNameAdditions() {
-    // A folder in an addition would send the file elsewhere; the rest has no place in the names of
+    // A folder in an addition would send the file elsewhere; the rest is not allowed in names on
     // memory cards.
     auto* const plain = new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral(R"([^/\\:*?"<>|]*)")), this);

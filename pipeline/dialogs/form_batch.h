@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The batch dialog: where and how the queued photos are to be written, and the run itself.
+// The batch dialog: where and how the queued photos are to be written, and the run itself. Throws
+// std::bad_alloc only; what a run is short of becomes a message.
 #pragma once
 
 #include <QDialog>
@@ -37,7 +38,7 @@ class FormBatch : public QDialog {
   public:
     // The choices are taken over when the dialog closes and when a run starts; as long as no folder
     // was chosen, file type and quality come from the settings, and what has no control here always
-    // does. queueChanged hears the queue's new length.
+    // does. queueChanged is called with the queue's new length.
     FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
               const GeneralSettings& settings, BatchWorkers workers, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr,

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The morph dialog: a numbered sequence between two settings of one photo goes into the batch
-// queue, its first and last picture and one between in view.
+// queue, its first and last picture and one between in view. Throws nothing; what the pictures or
+// the sequence are short of becomes a message.
 #pragma once
 
 #include <QDialog>
@@ -30,8 +31,8 @@ class FormMorph : public QDialog {
     Q_OBJECT
 
   public:
-    // previewSource is the photo at preview size and is copied; null for none. queueChanged hears
-    // the queue's upper bound each time that images were added.
+    // previewSource is the photo at preview size and is copied; null for none. queueChanged is
+    // called with the queue's upper bound each time that images were added.
     FormMorph(const ImageRecord& image, const Bitmap* previewSource,
               RecordArray<ImageRecord>& queue, ThreadRunner& pool, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr);
@@ -46,8 +47,8 @@ class FormMorph : public QDialog {
 
     void BuildPairs();
     void AddPair(const SliderRowData& facts, float MorphValues::*value, int gridRow);
-    // Slider, spin box and label from that place on, for the value that the first or last picture
-    // shows.
+    // Slider, spin box and label from that cell of the grid on, for the value that the first or
+    // last picture shows.
     QSlider* AddEnd(const SliderRowData& facts, GridPlace place, Picture picture, float& value);
     void MarkUnused();
     void SetUpPictures(const Bitmap* previewSource);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The stretch dialog: opens a photo, widens or narrows its rows by a curve with the result in view,
-// and saves it at full size.
+// and saves it at full size. Throws nothing; what it is short of becomes a message.
 #pragma once
 
 #include <QDialog>
@@ -28,7 +28,7 @@ class FormStretch : public QDialog {
     Q_OBJECT
 
   public:
-    // The path of a photo to open, looked for in the folder first; empty when cancelled.
+    // Asks for the path of a photo to open, beginning in the folder; empty when cancelled.
     using PhotoChooser = std::function<QString(const QString& folder)>;
 
     FormStretch(const GeneralSettings& settings, PhotoLoader& photos, PhotoChooser choosePhoto,
@@ -36,6 +36,8 @@ class FormStretch : public QDialog {
                 QWidget* parent = nullptr);
     ~FormStretch() override;
 
+    // Shows a message when the photo cannot be read. Ignored while a photo is read or a picture
+    // saved.
     void Open(const QString& path);
     // While a picture is saved the dialog closes at its end.
     void reject() override;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Gives the lines of a file list their small pictures while nothing else happens: one after the
-// other, only of lines that can be seen, and none begun right after the user did something.
+// other, only of lines that can be seen, and none begun right after the user did something. Throws
+// what the maker of the pictures throws.
 #pragma once
 
 #include <QAbstractScrollArea>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The batch queue as a list for a view. It reads the records themselves and keeps nothing.
+// The batch queue as a list for a view. It reads the records themselves and keeps nothing. Throws
+// nothing.
 #pragma once
 
 #include <QAbstractListModel>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the sliders of the dialogs have in common.
+// What the sliders of the dialogs have in common. Throws nothing.
 #pragma once
 
 #include <QSlider>

@@ -13,13 +13,13 @@ namespace {
 
 constexpr int margin = 12;              // logical pixels around the picture and the curve
 constexpr int curveWidth = 150;         // of the curve's panel
-constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint what one sees
+constexpr QColor surround(96, 96, 96);  // neutral, so that it does not tint the view
 constexpr QColor panelColour(84, 84, 84);
 constexpr QColor gridColour(112, 112, 112);
 constexpr QColor textColour(225, 225, 225);
 constexpr QColor curveColour(255, 176, 64);
 
-// At the bottom of the place; legible also where the curve runs through.
+// At the bottom of the rectangle; legible also where the curve runs through.
 void PaintWord(QPainter& painter, const QRectF& place, Qt::AlignmentFlag side,
                const QString& word) {
     const int where = side | Qt::AlignBottom;

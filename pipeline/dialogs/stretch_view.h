@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A picture with the curve of its stretch beside it, row for row.
+// A picture with the curve of its stretch beside it, row for row. Throws nothing.
 #pragma once
 
 #include <QImage>
@@ -16,10 +16,10 @@ class StretchView : public QWidget {
 
   public:
     explicit StretchView(QWidget* parent = nullptr);
-    // One picture pixel to a pixel of the screen; an empty one shows the hint.
+    // One picture pixel to a pixel of the screen; an empty one shows a hint.
     void Show(const QImage& picture);
     void Show(const StretchCurve& curve);
-    // For the picture, logical pixels.
+    // The space for the picture, logical pixels.
     QSize Room() const;
     QSize sizeHint() const override { return {760, 420}; }
     QSize minimumSizeHint() const override { return {420, 200}; }

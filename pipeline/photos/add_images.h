@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Photos on their way into the image list: where to look for them, which files to show, and the
-// records that they become. Inside the program folders are separated by "/".
+// records that they become. Inside the program folders are separated by "/". Throws std::bad_alloc
+// only.
 #pragma once
 
 #include <QString>
@@ -16,7 +17,7 @@
 
 namespace varnel {
 
-// The endings that the dialog names, then the others of the same types.
+// The endings that the dialog lists, then the others of the same types.
 inline constexpr QStringView photoPatterns =
     u"*.jpg;*.tif;*.png;*.bmp;*.dng;*.jpeg;*.jpe;*.jif;*.jfif;*.tiff;*.dib";
 inline constexpr QStringView anyPattern = u"*.*";  // every file, with a dot in its name or without
@@ -25,7 +26,7 @@ inline constexpr QStringView anyPattern = u"*.*";  // every file, with a dot in 
 // files are left out.
 QStringList FilesIn(const QString& folder, QStringView patterns);
 
-inline constexpr int mostDropped = 10000;  // photos of folders that are taken at once
+inline constexpr int mostDropped = 10000;  // photos of folders that are added at once
 
 struct DroppedPhotos {
     QStringList files;    // absolute
@@ -34,9 +35,9 @@ struct DroppedPhotos {
     bool givenUp = false;
 };
 
-// The files as they are and, for each folder, its own photos, then those of its sub-folders, in the
-// order in which people count: "2" before "10". What is hidden and links to folders are left out.
-// Asks between folders whether to go on.
+// The files as they are and, for each folder, its own photos, then those of its sub-folders, in
+// natural order: "2" before "10". What is hidden and links to folders are left out. Asks goesOn
+// between folders whether to go on, and throws what that throws.
 DroppedPhotos PhotosOf(const QStringList& dropped, const std::function<bool()>& goesOn);
 
 struct StartPlace {

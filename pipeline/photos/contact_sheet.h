@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One photo in every projection and three strengths, to choose from by eye.
+// One photo in every projection and three strengths, to choose from by eye. Throws std::bad_alloc,
+// TilePicture as Render.
 #pragma once
 
 #include <QString>

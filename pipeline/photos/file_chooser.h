@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Asking where a picture is to be saved.
+// Asking where a picture is to be saved. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -30,9 +30,9 @@ class FileChooser {
     virtual bool AgreesToReplace(const QString& name) = 0;
 };
 
-// Asks for the place of a picture that was made from a photo. The answer's name has the extension
-// of its type; it is never the photo itself, which is told, and an existing file only when the user
-// agrees. Nothing when there is no such answer.
+// Asks for the path of a picture that was made from a photo. The answer's name has the extension of
+// its type; it is never the photo itself, for which a message is shown, and an existing file only
+// when the user agrees. Nothing when there is no such answer.
 std::optional<SaveChoice> AskWhereToSave(FileChooser& chooser, Notices& notices,
                                          const SaveChoice& proposal, const QString& photo);
 

@@ -41,7 +41,7 @@ bool IsRemovable(const QString& device, const QString& blockDevices) {
     if (disk.isEmpty()) {
         return false;
     }
-    // Built-in card readers do not count as removable, but tell that there is an SD card.
+    // Built-in card readers do not count as removable, but report that there is an SD card.
     return FirstLine(folder.filePath(disk + QStringLiteral("/removable"))) == "1" ||
            FirstLine(folder.filePath(disk + QStringLiteral("/device/type"))) == "SD";
 }
@@ -57,7 +57,7 @@ std::vector<Volume> MountedVolumes() {
         }
     }
 #ifndef Q_OS_WIN
-    // In a container nothing may be mounted at the root, and it is there all the same.
+    // In a container nothing may be mounted at the root, and it exists all the same.
     const auto isRoot = [](const Volume& volume) { return volume.path == QStringLiteral("/"); };
     if (std::none_of(volumes.begin(), volumes.end(), isRoot)) {
         volumes.push_back({QStringLiteral("/"), {}, VolumeKind::Fixed, true});

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Photos for the window, the batch and the command line: reading one and waiting for it.
+// Photos for the window, the batch and the command line: reading one and waiting for it. Throws
+// std::bad_alloc only; errors are returned.
 #pragma once
 
 #include <QString>
@@ -14,7 +15,7 @@
 
 namespace varnel {
 
-// What happens meanwhile.
+// What happens while a photo is read. Calls come on the caller's thread.
 class ReadingWait {
   public:
     virtual ~ReadingWait() = default;
@@ -25,10 +26,10 @@ class ReadingWait {
     virtual void End() {}
 };
 
-// What a photo's file says.
+// What a photo's file holds beside its pixels.
 struct PhotoFacts {
     PhotoMetadata metadata;
-    Reason error;  // why nothing can be told; empty when all is well
+    Reason error;  // why the file cannot be read; empty when all is well
 };
 
 // Of the full picture as it is shown.
@@ -51,22 +52,23 @@ class PhotoLoader {
         ~Together() { loader_.EndWait(); }
         Together(const Together&) = delete;
         Together& operator=(const Together&) = delete;
-        // Between two quick ones: lets the wait have its turn. False when it was given up.
+        // Between two quick ones: calls the wait once. False when it was given up.
         bool Continue() { return loader_.Continue(); }
 
       private:
         PhotoLoader& loader_;
     };
-    // Whether the last wait was given up.
+    // Whether the user gave up the last wait.
     bool GivenUp() const { return givenUp_; }
 
     // The full picture. Not loaded while another one is read: events are handled meanwhile.
     LoadedPicture Load(const QString& path);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PhotoSize> Size(const QString& path);
-    // Why there is no picture in the file, as far as its beginning tells; empty when there is one.
+    // Why there is no picture in the file, as far as its beginning shows; empty when there is one,
+    // and when the wait was given up.
     Reason Error(const QString& path);
-    // What the file says beside its pixels.
+    // What the file holds beside its pixels.
     PhotoFacts Facts(const QString& path);
 
   private:

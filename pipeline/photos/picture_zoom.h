@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Which part of a picture is seen, and how large. Picture points are in pixels from its top left
-// corner, view points in device pixels from the view's, both with y down.
+// corner, view points in device pixels from the view's, both with y down. Throws nothing.
 #pragma once
 
 #include <QPoint>

@@ -149,7 +149,7 @@ class Reader {
         return false;
     }
     bool FailHere() { return Fail(Texts::tr("it is damaged: line %1 cannot be read").arg(next_)); }
-    // The next line that says something; false at the end.
+    // The next line that is neither empty nor a comment (#); false at the end.
     bool Next() {
         while (next_ < lines_.size()) {
             line_ = lines_[next_++];

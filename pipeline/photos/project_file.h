@@ -4,7 +4,8 @@
 // The image list with all settings as a text file: UTF-8, a first line with the version, the number
 // of photos, then one block a photo with its fields by name, and a last line that shows that
 // nothing was cut off. What a field would have anyway is not written. Folders are relative to the
-// project file's where a part of the way is common.
+// project file's where a part of the way is common. Throws std::bad_alloc only; errors are
+// returned.
 #pragma once
 
 #include <QByteArray>
@@ -27,11 +28,11 @@ QString ProjectName(const QString& path);
 struct ReadProject {
     QString error;  // why the file cannot be read; then all else is empty
     RecordArray<ImageRecord> images;
-    QStringList missing;  // photos that are not where the project says; their records are there
+    QStringList missing;  // photos that do not exist where the project says; kept in images
     QStringList notes;    // settings that were refused, each with its photo
 };
 
-// The folder is the project file's own, absolute.
+// To and from the text of the file, UTF-8. The folder is the project file's own, absolute.
 QByteArray ProjectText(const RecordArray<ImageRecord>& images, const QString& folder);
 ReadProject ProjectFromText(const QByteArray& text, const QString& folder);
 

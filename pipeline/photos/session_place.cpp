@@ -15,7 +15,7 @@ namespace varnel {
 
 namespace {
 
-constexpr int lockPatience = 500;  // ms, while another program looks whose place it is
+constexpr int lockPatience = 500;  // ms, while another program looks which one owns the folder
 
 QString ListIn(const QString& place) {
     return place + QStringLiteral("/list") + projectEnding.toString();

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Where a window keeps its image list against a crash: a folder for each window, with the list as
-// a project file in it. The folder is locked as long as its owner lives, and no longer.
+// Where a window keeps its image list against a crash: a folder for each window, with the list as a
+// project file in it. The folder is locked as long as its owner lives, and no longer. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QDateTime>
@@ -14,8 +15,9 @@
 
 namespace varnel {
 
-// The folder for such places: $XDG_STATE_HOME/varnel/sessions, which is in ~/.local/state unless
-// the variable says otherwise; elsewhere than on Unix where the platform keeps a program's data.
+// The folder in which the folders of the windows are: $XDG_STATE_HOME/varnel/sessions, which is in
+// ~/.local/state unless the variable says otherwise; elsewhere than on Unix where the platform
+// keeps a program's data.
 QString UserSessionFolder();
 
 class SessionPlace {
@@ -26,13 +28,14 @@ class SessionPlace {
     // this program is their owner.
     static std::vector<std::unique_ptr<SessionPlace>> Abandoned(const QString& folder);
 
-    // The project file, whether it is there or not.
+    // The full path of the project file, which need not exist.
     QString File() const;
+    // When the project file was written; invalid while there is none.
     QDateTime Written() const;
-    // Removes the place with its list.
+    // Removes the folder with its list.
     void Clear();
-    // Moves the list beside the places, where nobody looks for it, and removes the place. The new
-    // path; empty when it cannot be moved.
+    // Moves the list out of the folder, beside it, where Abandoned does not look, and removes the
+    // folder. Returns the new path; empty when it cannot be moved.
     QString SetAside();
 
   private:

@@ -89,7 +89,7 @@ QString DriveName(const QString& volumePath) {
 
 QString VolumeLabel(const Volume& volume) {
     const QString drive = DriveName(volume.path);
-    // A card is mounted in a folder of its own name; once is enough.
+    // A card is mounted in a folder of its own name, which is shown once.
     const QString name = drive.endsWith(volume.name) ? QString() : u' ' + volume.name;
     return QStringLiteral("%1%2 (%3)").arg(drive, name, ToText(volume.kind));
 }

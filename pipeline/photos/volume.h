@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The drives that photos can come from. A volume's path is where it is mounted ("/",
-// "/media/card"), or the root of its drive letter ("C:/").
+// "/media/card"), or the root of its drive letter ("C:/"). Throws nothing.
 #pragma once
 
 #include <QString>
@@ -22,7 +22,7 @@ struct Volume {
     bool ready = true;  // false for a drive without a medium
 };
 
-// What the system tells of a mount.
+// What the system reports of a mount.
 struct Mount {
     QString path;
     QString device;          // "/dev/sdb1", "server:/export", "//server/share"
@@ -38,7 +38,7 @@ VolumeKind KindOfDriveType(unsigned driveType);
 // False for what the system mounts for itself: memory, boot files, program images.
 bool MayHoldPhotos(const Mount& mount);
 
-// The volume as it is stored and spoken of: the letter and colon of a drive letter, else the path.
+// The volume as it is stored and shown: the letter and colon of a drive letter, else the path.
 QString DriveName(const QString& volumePath);
 
 // How the volume is listed: drive, label and kind.
@@ -47,7 +47,7 @@ QString VolumeLabel(const Volume& volume);
 // The message for a volume that cannot be entered.
 QString VolumeMissingText(const QString& volumePath);
 
-// The place in the list of the innermost volume that holds the folder; -1 when none does.
+// The index of the innermost volume that holds the folder; -1 when none does.
 int VolumeHolding(const QString& folder, const std::vector<Volume>& volumes);
 
 }  // namespace varnel

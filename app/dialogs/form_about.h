@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The about box: the program's version and that of the image library.
+// The about box: the program's version and that of the image library. Throws nothing.
 #pragma once
 
 #include <QDialog>

@@ -25,7 +25,7 @@ constexpr char16_t shippedPage[] = u"../share/varnel/guide/index.md";
 
 constexpr int margin = 24;
 
-// Markdown knows no colours: commands stand on a ground of their own, lines apart from one another.
+// Markdown knows no colours: commands get a background colour, lines more space between them.
 void SetOff(QTextDocument& page, const QColor& ground) {
     QTextCursor cursor(&page);
     for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
@@ -103,7 +103,7 @@ void FormGuide::PrepareText() {
     text_->setAccessibleName(tr("Page of the guide"));
     // Pictures are made to fit before the length of the page is known.
     text_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    // Said on the ways back and forward, too, which do not go through doSetSource.
+    // Emitted for back and forward, too, which do not go through doSetSource.
     connect(text_, &QTextBrowser::sourceChanged, text_, [this] {
         text_->document()->setDocumentMargin(margin);
         SetOff(*text_->document(), text_->palette().color(QPalette::AlternateBase));

@@ -3,7 +3,7 @@
 
 // The user guide in a window of its own that may stay open beside the work. Its pages are Markdown
 // files with pictures, links from page to page included; they are installed with the program and
-// nothing of them comes from a network.
+// nothing of them comes from a network. Throws nothing.
 #pragma once
 
 #include <QDialog>

@@ -57,16 +57,16 @@ QStringList Filters() {
     return filters;
 }
 
-// Another file type must not touch the name that stands in the box: the widget would take all that
-// follows the last dot for an extension and replace it.
+// Another file type must not change the name in the box: the widget would take all that follows the
+// last dot for an extension and replace it.
 void KeepNameAcrossFilters(QFileDialog& dialog) {
     auto* const edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (edit == nullptr ||
         dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo")) == nullptr) {
-        return;  // the platform's own dialog leaves the name alone
+        return;  // the platform's own dialog does not change the name
     }
     auto* const types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    // The name as it stood while the present filter was chosen.
+    // The name as it was while the present filter was chosen.
     edit->setProperty("ownName", edit->text());
     edit->setProperty("ownFilter", types->currentIndex());
     QObject::connect(edit, &QLineEdit::textChanged, edit, [edit, types](const QString& name) {
@@ -117,7 +117,7 @@ std::optional<SaveChoice> SaveFileDialog::ChooseSave(const SaveChoice& proposal)
     const QStringList filters = Filters();
     SaveDialog dialog(QObject::tr("Save image as ..."), QFileInfo(proposal.name).absoluteFilePath(),
                       filters, proposal.filterIndex - 1);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked once the extension is known
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked when the extension is known
     KeepNameAcrossFilters(dialog);
     const QString name = dialog.Choose();
     if (name.isEmpty()) {

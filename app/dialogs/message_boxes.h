@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The ports of the main window, answered with real windows.
+// The ports of the main window, answered with real windows. Throws nothing but for want of memory.
 #pragma once
 
 #include <QWidget>
@@ -12,15 +12,15 @@
 
 namespace varnel {
 
-// Plain modal message boxes with an OK button, above whatever window is active. What has to be told
-// is that something went wrong; the rest is for information.
+// Plain modal message boxes with an OK button, above whatever window is active. Tell is for errors,
+// Inform for information.
 class MessageBoxes : public Notices {
   public:
     static void Inform(const QString& text);
     void Tell(const QString& text, const QString& detail) override;
 };
 
-// Asks for the first gear with the gear editor. Only the shortcut that quits the program leads out
+// Asks for the first gear with the gear editor. Only the shortcut that quits the program ends it
 // without one.
 class FirstGearPrompt : public GearPrompt {
   public:

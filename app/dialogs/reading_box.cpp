@@ -10,7 +10,7 @@ namespace varnel {
 
 namespace {
 
-constexpr qint64 patience = 700;  // milliseconds; most photos are there by then
+constexpr qint64 patience = 700;  // milliseconds; most photos are read by then
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Waiting for a photo on the screen: a moment without input, then a box that can be cancelled.
+// Throws nothing.
 #pragma once
 
 #include <QElapsedTimer>

@@ -39,7 +39,7 @@ bool RealDialogs::AddImages(QWidget* parent) {
     const PhotoPlaces places{QDir::homePath(),
                              QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                              &MountedVolumes};
-    // Of its own, so that a slow small picture never stands in a photo's way.
+    // A separate reader, so that a slow small picture never delays a photo.
     const auto reader = NewPictureReader({.secondsPerPhoto = 10});
     FormAddImages form(state_.Images, store_, notices_, places,
                        {*reader, state_.settings.AutoOrient}, parent);

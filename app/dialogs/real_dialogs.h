@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window's dialogs as they really are.
+// The main window's dialogs, shown on the screen. Throws std::bad_alloc only.
 #pragma once
 
 #include "app/view/dialogs.h"

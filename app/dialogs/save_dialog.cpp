@@ -57,7 +57,7 @@ void SaveDialog::accept() {
         return;
     }
     quoted_ = file.absoluteFilePath();
-    // The nearer one would look at what it takes for the name.
+    // QFileDialog's own would check what it takes for the name.
     QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
 }
 

@@ -1,21 +1,21 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The platform's dialog for saving, with names taken as they stand in it.
+// The platform's dialog for saving, with names taken as they are typed. Throws nothing.
 #pragma once
 
 #include <QFileDialog>
 
 namespace varnel {
 
-// The widget that stands in where a platform has no dialog of its own takes double quotes for
-// marks around several names and would save quo"te.TIF as te.TIF.
+// The widget that Qt shows where a platform has no dialog of its own takes double quotes for marks
+// around several names and would save quo"te.TIF as te.TIF.
 class SaveDialog : public QFileDialog {
   public:
     // Proposes a full path and one of the filters.
     SaveDialog(const QString& title, const QString& proposal, const QStringList& filters,
                int filter = 0);
-    // Asks; the full path, or nothing when it was cancelled.
+    // Shows the dialog; the full path, or an empty text when it was cancelled.
     QString Choose();
 
     // Whether the file of that name may be replaced.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The frames "Remap" and "Refine equipment parameters": projection, sliders and preview choices.
+// Throws nothing.
 #pragma once
 
 #include <QButtonGroup>

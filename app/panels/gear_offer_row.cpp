@@ -11,7 +11,7 @@ namespace varnel {
 
 namespace {
 
-// Ends in dots where it has too little room, instead of widening the window.
+// Ends in dots where it has too little space, instead of widening the window.
 class ShortenedLabel : public QLabel {
   public:
     using QLabel::QLabel;

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The line of the status bar that says what took the current photo, with a button while the photo
-// has another gear, and a warning when that gear cannot have taken it. Always as high as with the
-// button, so that the pictures keep their room.
+// The line of the status bar with the gear that took the current photo, with a button while the
+// photo has another gear, and a warning when that gear cannot have taken it. Always as high as with
+// the button, so that the pictures keep their size. Throws nothing.
 #pragma once
 
 #include <QLabel>

@@ -10,7 +10,8 @@
 
 namespace varnel {
 
-// A new entry of that object name, in front of another one or at the end. The menu owns it.
+// A new entry of that object name, in front of another one or at the end. The menu owns it. Throws
+// nothing.
 inline QAction* AddMenuEntry(QMenu* menu, const char* name, const QString& text,
                              const QList<QKeySequence>& keys = {}, QAction* before = nullptr) {
     auto* const entry = new QAction(text, menu);

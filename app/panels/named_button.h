@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A button of a form that is built by hand.
+// A button of a form that is built by hand. Throws nothing.
 #pragma once
 
 #include <QPushButton>

@@ -55,7 +55,7 @@ class LineDelegate : public QStyledItemDelegate {
   protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
         QStyledItemDelegate::initStyleOption(option, index);
-        // The names stand in one column, whether the pictures are there yet or not.
+        // The names form one column, whether the pictures are made yet or not.
         option->features |= QStyleOptionViewItem::HasDecoration;
         option->decorationSize = pictureSize;
         const auto marks = index.data(PhotoList::marksRole).toString().size();
@@ -125,7 +125,7 @@ void PhotoList::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// The view makes a line current and selects it in two steps; only after both is it seen what is
+// The view makes a line current and selects it in two steps; only after both can it be seen what is
 // missing.
 bool PhotoList::viewportEvent(QEvent* event) {
     if (!event->isPointerEvent()) {
@@ -148,7 +148,7 @@ void PhotoList::currentChanged(const QModelIndex& current, const QModelIndex& pr
     KeepLater();
 }
 
-// For what neither the mouse nor a key does, a screen reader for one.
+// For changes by neither mouse nor key, a screen reader for example.
 void PhotoList::KeepLater() {
     QTimer::singleShot(0, this, [this] {
         if (!handlingInput_) {
@@ -175,8 +175,8 @@ void PhotoList::KeepCurrentSelected(const QModelIndex& before) {
     selectionModel()->setCurrentIndex(model()->index(nearest, 0), QItemSelectionModel::NoUpdate);
 }
 
-// The records move first and the lines follow them; were the drop taken, the view would take its
-// own lines away.
+// The records move first and the lines follow them; if the drop were accepted, the view would
+// remove lines itself.
 void PhotoList::dropEvent(QDropEvent* event) {
     const QPoint position = event->position().toPoint();
     int target = count();

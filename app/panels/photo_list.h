@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The list box of the photos: small pictures, marks at the right end of each line, and lines that
-// can be dragged, or moved with Alt and the arrow keys. It moves nothing itself. While there are
-// lines, one is current and selected, whatever is clicked: else the sliders would move and reach
-// nothing, or another photo than the one that is shown.
+// can be dragged, or moved with Alt and the arrow keys. It moves nothing itself: MoveWanted asks
+// for it. While there are lines, one is current and selected, whatever is clicked: else the sliders
+// would move and reach nothing, or another photo than the one that is shown. Throws nothing.
 #pragma once
 
 #include <QListWidget>
@@ -20,7 +20,8 @@ class PhotoList : public QListWidget {
     explicit PhotoList(QWidget* parent = nullptr);
 
   Q_SIGNALS:
-    // The selected lines shall stand before the target's; the count puts them last.
+    // The selected lines shall be moved before the target line, which counts from 0; the number of
+    // lines puts them last.
     void MoveWanted(int target);
 
   protected:

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The frames of the side column around the remap controls: equipment, image list, saving.
+// The frames of the side column around the remap controls: equipment, image list, saving. Throws
+// nothing but for want of memory.
 #pragma once
 
 #include <QComboBox>

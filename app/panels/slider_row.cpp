@@ -77,7 +77,7 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
 void SliderRow::Show(int value) {
     silent_ = true;
     slider_->setValue(value);
-    OnValue(slider_->value());  // also when the slider stood there already: the caption is new
+    OnValue(slider_->value());  // also when the slider had that value already: the caption is new
     silent_ = false;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A slider with its heading, its value label and a spin box for exact values.
+// A slider with its heading, its value label and a spin box for exact values. Throws nothing.
 #pragma once
 
 #include <QLabel>
@@ -29,7 +29,7 @@ class SliderRow : public QWidget {
     void SetShown(bool shown);
 
   Q_SIGNALS:
-    // By the user; comes before what says whether it is final.
+    // By the user; comes before the signal that it is final or not.
     void Moved(int value);
     // While the thumb is dragged: nothing is final yet.
     void Dragged();

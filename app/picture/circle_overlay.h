@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The image circle over the photo as shot, to be seen and to be moved by its centre or its rim.
+// Throws what the given functions throw.
 #pragma once
 
 #include <functional>
@@ -13,7 +14,8 @@ namespace varnel {
 
 class CircleOverlay : public PictureOverlay {
   public:
-    // shown gives the circle to draw, if any; moved hears of every place it is dragged to.
+    // shown gives the circle to draw, if any; moved is called with each circle that it is dragged
+    // to.
     CircleOverlay(std::function<std::optional<ImageCircle>()> shown,
                   std::function<void(const ImageCircle&)> moved)
         : shown_(std::move(shown)), moved_(std::move(moved)) {}

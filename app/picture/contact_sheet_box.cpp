@@ -234,7 +234,7 @@ void ContactSheetBox::hideEvent(QHideEvent* /*event*/) {
     }
 }
 
-// Whoever goes on to another control has other settings in mind.
+// With the focus in another control other settings may follow: the sheet closes.
 void ContactSheetBox::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
         hide();

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The contact sheet over the two pictures: the current photo in every projection and three
-// strengths.
+// strengths. Throws nothing but for want of memory for the settings of the tiles; a lack of it for
+// pictures is reported by GivenUp.
 #pragma once
 
 #include <QImage>
@@ -16,7 +17,7 @@
 
 namespace varnel {
 
-// Lies over its parent and fills it. The tiles are drawn one by one while the window is idle.
+// Is shown over its parent and fills it. The tiles are drawn one by one while the window is idle.
 class ContactSheetBox : public QWidget {
     Q_OBJECT
   public:
@@ -28,13 +29,13 @@ class ContactSheetBox : public QWidget {
     // The picture of a tile; null while it is not drawn yet or when it cannot be.
     const QImage& Picture(std::size_t tile) const { return pictures_.at(tile); }
     bool IsDrawn() const { return next_ == tiles_.size(); }
-    // Where a tile lies, logical pixels.
+    // The rectangle of a tile, logical pixels of this widget.
     QRect CellOf(std::size_t tile) const;
 
   Q_SIGNALS:
     // A tile was chosen; the sheet is closed then.
     void Chosen(const ContactTile& tile);
-    // Something was short; the sheet is closed then.
+    // There was not enough memory or threads; the sheet is closed then.
     void GivenUp(const QString& shortage);
 
   protected:

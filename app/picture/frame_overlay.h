@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The converted picture's border on the photo as shot, to be seen and to be moved.
+// The converted picture's border on the photo as shot, to be seen and to be moved. Throws what its
+// port throws.
 #pragma once
 
 #include <functional>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Over the converted picture: where the photo is shrunk and where it is stretched.
+// Over the converted picture: where the photo is shrunk and where it is stretched. Throws what the
+// given function throws.
 #pragma once
 
 #include <functional>
@@ -13,7 +14,7 @@ namespace varnel {
 
 class MagnificationOverlay : public PictureOverlay {
   public:
-    // Null when there is nothing to show.
+    // study returns null when there is nothing to show.
     explicit MagnificationOverlay(std::function<const OverlayGeometry*()> study)
         : study_(std::move(study)) {}
 

@@ -16,7 +16,7 @@
 namespace varnel {
 
 struct OverlayGeometry {
-    // Throws as InverseMapping.
+    // Throws as InverseMapping; all else here throws nothing.
     OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size);
     OverlayGeometry(const OverlayGeometry&) = delete;
     OverlayGeometry& operator=(const OverlayGeometry&) = delete;
@@ -31,18 +31,20 @@ struct OverlayGeometry {
 // The part of a picture that is in sight, for what is written over it.
 QRectF VisiblePart(const QPainter& painter, const QRectF& picture);
 
-// Between places, whose rows count from the bottom, and the points of overlays.
+// Between positions on the photo, whose rows count from the bottom row, and the points of overlays,
+// from the top left corner with y down. The size is the photo's, in pixels.
 QPointF PointOf(const SourcePosition& place, PixelSize size);
 SourcePosition PlaceAtPoint(const QPointF& point, PixelSize size);
 
 // What is lost, a pixel for each of the cells, top row first.
 QImage LossImage(const SourceCoverage& kept);
 inline constexpr QColor lossShade(0, 0, 0, 150);
-// Blue where the photo is shrunk, orange where it is stretched, stronger the more.
+// Blue where the photo is shrunk, orange where it is stretched, stronger the more. A pixel for each
+// of the cells, top row first.
 QImage MagnificationImage(const MagnificationMap& map);
 QColor ColourOf(Magnified magnified);
 
-// "keeps 63 % of the circle"
+// "keeps 63 % of the circle", for a share from 0 to 1.
 QString KeptText(double share);
 // The four numbers in one line.
 QString NumbersText(const ProjectionMetrics& numbers);

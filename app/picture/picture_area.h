@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The two pictures of the main window: the photo as shot and the converted one.
+// The two pictures of the main window: the photo as shot and the converted one. Throws nothing.
 #pragma once
 
 #include <QLabel>
@@ -11,7 +11,7 @@
 namespace varnel {
 
 // Both boxes on neutral grey, side by side in a wide area and stacked in a high one, each of the
-// wanted size where there is room.
+// wanted size where there is space.
 class PictureArea : public QWidget {
     Q_OBJECT
   public:
@@ -22,7 +22,7 @@ class PictureArea : public QWidget {
     void ShowError(const QString& text);
     // Logical pixels.
     void SetWanted(QSize size);
-    // Boxes as large as there is room, whatever was wanted: for pictures shown in part.
+    // Boxes as large as the area allows, whatever size was wanted: for pictures shown in part.
     void SetRoomy(bool roomy);
     QSize Room() const;  // for one picture
     QSize minimumSizeHint() const override { return {220, 220}; }

@@ -230,7 +230,8 @@ bool PictureBox::OverlaysTake(const OverlayInput& input) {
     return true;
 }
 
-// The tools come first; without one that wants them, arrows and plus and minus move what is seen.
+// The tools come first; without one that uses them, arrows and plus and minus move the visible
+// part.
 void PictureBox::keyPressEvent(QKeyEvent* event) {
     OverlayKey key = KeyOf(*event);
     key.pixel = Empty() ? 0.0 : ToWidget().inverted().m11();

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// One of the two pictures of the main window, whole or in part.
+// One of the two pictures of the main window, whole or in part. Throws nothing but what its
+// overlays and the given function throw.
 #pragma once
 
 #include <QColor>
@@ -19,14 +20,14 @@
 
 namespace varnel {
 
-// Around pictures: neutral, so that it does not tint what one sees.
+// Around pictures: neutral, so that it does not tint the view.
 inline constexpr QColor pictureSurround(96, 96, 96);
 inline constexpr int pictureMargin = 12;  // logical pixels around and between pictures
 
-// What of a picture is there at full size.
+// What of a picture is drawn at full size.
 struct FullPicture {
     const Bitmap* bitmap = nullptr;
-    const RegionRenderer* rows = nullptr;  // those that are there; null when all are
+    const RegionRenderer* rows = nullptr;  // those that are drawn; null when all are
 };
 
 // Shows one bitmap in its middle, a bitmap pixel to a pixel of the screen, or a hint without one.
@@ -37,28 +38,28 @@ class PictureBox : public QWidget {
     // Null empties the box. full is the size of the picture that the bitmap is a reduced copy of;
     // without one the bitmap is the picture.
     void Show(const Bitmap* bitmap, QSize full = {});
-    // Whether an empty box says what it is for.
+    // Whether an empty box shows its hint.
     void SetHintShown(bool shown) {
         hintShown_ = shown;
         update();
     }
     bool Empty() const { return image_.isNull(); }
 
-    // Shows the part that the zoom says, until it fits, from the full-size picture; what is not
-    // there of it is the enlarged bitmap. The zoom has to stay.
+    // Shows the part that the zoom selects, until it fits, from the full-size picture; what is not
+    // drawn of it is the enlarged bitmap. The zoom has to exist as long as the box is painted.
     void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full);
     // Shows the other box's picture instead, if any.
     void StandIn(const PictureBox* other);
     // In device pixels, as a zoom has it.
     QSize View() const;
     QPointF ViewPoint(QPointF point) const;  // from a point of this widget
-    // Of some rows of the full-size picture, from 0 at the bottom, new pixels are there.
+    // Of some rows of the full-size picture, from 0 at the bottom, new pixels are drawn.
     void RedrawRows(RowSpan rows);
     // While held, any drag of the left button moves the picture.
     void HoldPan(bool held);
 
     QSize Picture() const { return picture_; }
-    // Where the whole picture lies, logical pixels of this widget.
+    // The rectangle of the whole picture, logical pixels of this widget.
     QRectF PictureRect() const;
     // From points of the picture, (0, 0) being its top left corner, to points of this widget.
     QTransform ToWidget() const;

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Lines over a picture to compare edges with: a grid of squares and a cross in the middle.
+// Lines over a picture to compare edges with: a grid of squares and a cross in the middle. Throws
+// nothing.
 #pragma once
 
 #include "app/picture/picture_overlay.h"

@@ -3,7 +3,7 @@
 
 // Something drawn over a picture of the main window that may also take the mouse: a grid, a frame,
 // a circle. Points are in pixels of the full picture from its top left corner, x to the right, y
-// down; the middle of the first pixel is (0.5, 0.5).
+// down; the middle of the first pixel is (0.5, 0.5). Throws nothing of its own.
 #pragma once
 
 #include <QCursor>

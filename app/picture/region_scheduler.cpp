@@ -54,7 +54,7 @@ bool RegionScheduler::Begin(const Wish& wish) {
     try {
         part_.Start(wish.projection, wish.image, wish.source);
     } catch (const RunTimeError&) {
-        failed_ = true;  // the preview's attempt has told why
+        failed_ = true;  // the preview's attempt has reported why
     } catch (const std::bad_alloc&) {
         failed_ = true;
     }

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Draws the visible part of the converted picture at full size, a slice in each turn of the event
-// queue, so that nothing has to wait for it.
+// queue, so that nothing has to wait for it. Throws what the given functions throw; without memory
+// nothing is drawn.
 #pragma once
 
 #include <QObject>
@@ -27,11 +28,11 @@ class RegionScheduler : public QObject {
     };
     void Serve(std::function<Wish()> wish, std::function<bool()> busy);
 
-    // Draws what is missing by and by.
+    // Draws what is missing, slice by slice.
     void Wake();
     // The settings may have changed: what was drawn with others is forgotten.
     void Renew();
-    // Forgets all; also needed before a source goes.
+    // Forgets all; also needed before a source is freed.
     void Drop();
     const RegionRenderer& Part() const { return part_; }
 

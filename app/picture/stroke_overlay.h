@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A line traced by hand over a picture: drawn in one drag, or point by point with a click each and
-// ended with a second click on the last one.
+// ended with a second click on the last one. Throws what the given functions throw.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@ namespace varnel {
 
 class StrokeOverlay : public PictureOverlay {
   public:
-    // changed asks for a redraw, finished says that the line is complete.
+    // changed is called when a redraw is needed, finished when the line is complete.
     StrokeOverlay(std::function<void()> changed, std::function<void()> finished)
         : changed_(std::move(changed)), finished_(std::move(finished)) {}
 

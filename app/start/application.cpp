@@ -18,7 +18,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return handled;
 }
 
-// Not at once: the event may have been one of painting, above which no box can stand.
+// Not at once: the event may have been one of painting, above which no box can be shown.
 void Application::TellLater(const QString& shortage) {
     if (telling_ || notices_ == nullptr) {
         return;
@@ -35,7 +35,7 @@ void Application::TellLater(const QString& shortage) {
             Qt::QueuedConnection);
         telling_ = true;
     } catch (const std::bad_alloc&) {
-        // the next event that fails tells it
+        // the next event that fails reports it
     }
 }
 

@@ -9,14 +9,16 @@
 
 namespace varnel {
 
-// The last place before Qt's event loop: an event that could not be handled for want of memory or
-// threads is told, once for all that come until the user has read it, and the program goes on.
-// Slots that make pictures mind their own shortages and say them where they are seen.
+// The last handler of errors before Qt's event loop: of an event that could not be handled for want
+// of memory or threads a message is shown, one for all that come until the user has read it, and
+// the program goes on. Slots that make pictures handle their own shortages and report them where
+// they are seen. Throws nothing but what handlers of events throw beside std::bad_alloc and
+// std::system_error.
 class Application : public QApplication {
     Q_OBJECT
   public:
     using QApplication::QApplication;
-    // Null: nobody is told.
+    // Where the message goes. Null: no message is shown.
     void TellTo(Notices* notices) { notices_ = notices; }
     bool notify(QObject* receiver, QEvent* event) override;
 

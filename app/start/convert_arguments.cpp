@@ -26,7 +26,7 @@ int ConvertArguments(const QStringList& files, SettingsStore& store, QDate today
     }
     Options options;
     options.files = files;
-    options.force = true;  // who names the files on the command line means it
+    options.force = true;  // files named on the command line are meant
     options.advises = false;
     return ConvertPhotos(options, {*gear, {}}, settings, console);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The conversion of "varnel FILE...", which needs no display.
+// The conversion of "varnel FILE...", which needs no display. Throws std::bad_alloc only.
 #pragma once
 
 #include <QDate>

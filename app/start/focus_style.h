@@ -4,7 +4,7 @@
 // The desktop's own style, with a frame around what has the keyboard where that style shows
 // nothing: a dialog's default button, which looks the same with and without it, and lists. The
 // hints in empty fields and the guide's links can be read on dark desktops, too: some of those
-// leave them black and blue.
+// leave them black and blue. Throws nothing.
 #pragma once
 
 #include <QProxyStyle>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The update reminder: once in each month that the release grows older, from its seventh on.
+// The update reminder: once in each month that the release grows older, from its seventh on. Throws
+// nothing.
 #pragma once
 
 #include <QDate>
@@ -17,7 +18,7 @@ struct Release {
     QString downloadAddress;  // of newer ones; may be empty
 };
 
-// The one that this program is, as the build says.
+// The release of this program, as the build defines it.
 Release ThisRelease();
 
 // The text to show, if any. Keeps the age in months in the store, so that one call in each new

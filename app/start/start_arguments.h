@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the command line of varnel asks for.
+// What the command line of varnel requests. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -20,7 +20,8 @@ struct StartRequest {
 };
 
 // The first argument is the program's name. Without more the window opens, with --open it opens
-// with the files; files alone are converted. The text, one line, says what is wrong.
+// with the files; files alone are converted. The text, one line, is the message for a wrong command
+// line.
 std::variant<StartRequest, QString> ParseStartArguments(const QStringList& arguments);
 
 QString StartHelpText();

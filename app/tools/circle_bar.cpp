@@ -16,7 +16,7 @@ CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
            "height, and the circle's diameter in percent of the photo's longer side"));
     text_->setWordWrap(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the rest is the pictures'
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the pictures get the rest
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(9, 4, 9, 4);
     row->addWidget(text_, 1);
@@ -58,7 +58,7 @@ void CircleBar::Ask(const QString& question) {
     agree_->setFocus();
 }
 
-// The buttons themselves only mind the space bar.
+// The buttons themselves only handle the space bar.
 void CircleBar::keyPressEvent(QKeyEvent* event) {
     const bool asked = agree_->isVisible();
     if (asked && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The bar below the pictures while the image circle is shown: the numbers that fit it, and a
-// question in their place before the gear is changed.
+// The bar below the pictures while the image circle is shown: the numbers that fit it, and, instead
+// of them, a question before the gear is changed. Throws nothing.
 #pragma once
 
 #include <QLabel>

@@ -41,7 +41,7 @@ QString NumbersText(const GearCircle& circle) {
         .arg(place, Number(ratio > 0.0 ? 10000.0 / ratio : 0.0));
 }
 
-// Where to begin when the gear tells no circle.
+// Where to begin when the gear defines no circle.
 ImageCircle Inscribed(PixelSize picture) {
     return {picture.width / 2.0, picture.height / 2.0,
             std::min(picture.width, picture.height) / 2.0};
@@ -97,7 +97,8 @@ void CircleTools::OnToggled(bool on) {
     Reset();
 }
 
-// A gear that was given to all photos has its say before its circle is shown or changed.
+// A gear that was given to all photos is applied to the photo before its circle is shown or
+// changed.
 void CircleTools::PrepareCurrent() {
     if (workspace_.model.list.Current() != nullptr) {
         workspace_.preparation.PreparedCurrent();

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The View menu's entry "Image circle": while it is checked, the gear's circle is drawn on the
-// photo as shot, can be moved and found there, and be taken into the gear.
+// photo as shot, can be moved and found there, and be taken into the gear. Throws nothing but for
+// want of memory.
 #pragma once
 
 #include <QAction>
@@ -49,7 +50,7 @@ class CircleTools : public QObject {
     WorkingState& state_;
     SettingsStore& store_;
     CircleOverlay overlay_;
-    QString found_;  // what the status says of the circle that was looked for
+    QString found_;  // what the status shows of the last search for the circle
     CircleBar* bar_;
     QAction* entry_;
     std::optional<ImageCircle> trial_;

@@ -3,6 +3,7 @@
 
 // What to do first, over the two pictures while the list is empty and there is a gear: where photos
 // are dropped and one line on what follows. It is lit while something is dragged over the window.
+// Throws nothing.
 #pragma once
 
 #include <QLabel>
@@ -27,7 +28,7 @@ class EmptyState : public QWidget {
     void Light(bool lit);
 
     WindowParts parts_;
-    QTimer look_{this};  // fires when the list is filled and the gears are there
+    QTimer look_{this};  // fires when the list is filled and the gears are loaded
     bool lit_ = false;
 };
 

@@ -90,7 +90,7 @@ const OverlayGeometry* FrameTools::Fresh() {
             study_ = std::make_unique<OverlayGeometry>(ProjectionFromIndex(live->Projection), *live,
                                                        size);
         } catch (const RunTimeError&) {
-            // The preview says what is wrong.
+            // The preview reports what is wrong.
         }
     }
     return study_.get();

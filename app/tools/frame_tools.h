@@ -3,6 +3,7 @@
 
 // The View menu's entries "Frame on the photo" and "Magnification map" with what they show: the
 // frame over the photo as shot, the map over the converted picture and the numbers below both.
+// Throws nothing but for want of memory.
 #pragma once
 
 #include <QAction>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The About menu's entry "User guide".
+// The About menu's entry "User guide". Throws nothing.
 #pragma once
 
 #include <QMainWindow>

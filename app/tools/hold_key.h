@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Keys that do something for as long as they are held, wherever in a window the keyboard is.
+// Keys that do something for as long as they are held, wherever in a window the keyboard is. Throws
+// nothing.
 #pragma once
 
 #include <QObject>

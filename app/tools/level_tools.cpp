@@ -142,7 +142,7 @@ void LevelTools::Store(const Levelling& level) {
     workspace_.model.controls.Set(SliderId::Z, Whole(level.rotateZ));
     for (const int line : workspace_.model.list.SelectedLines()) {
         ImageRecord& image = state_.Images(line + 1);
-        // The others get their gear first, which the workspace minds.
+        // The others get their gear first, from the workspace.
         if (image.SettingsApplied || line == workspace_.model.list.CurrentLine()) {
             StoreControls(workspace_.model.controls.Values(), image);
         }

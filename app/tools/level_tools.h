@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The Tools menu's entry "Level the horizon": while it is checked, a line traced along the horizon
-// on the photo as shot sets tilt and roll.
+// on the photo as shot sets tilt and roll. Throws nothing but for want of memory.
 #pragma once
 
 #include <QAction>
@@ -16,7 +16,7 @@
 
 namespace varnel {
 
-// What became of it, in a sentence for the status line.
+// The result in a sentence for the status line.
 QString LevelText(const Levelling& level);
 
 class LevelTools : public QObject {

@@ -14,7 +14,7 @@ namespace varnel {
 
 namespace {
 
-constexpr int afterInput = 400;           // ms that the photo that is clicked has for itself
+constexpr int afterInput = 400;           // ms for the photo that was clicked alone
 constexpr qsizetype mostPictures = 5000;  // are kept: about 25 MB
 
 }  // namespace

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the image list shows beside the names, and the moving of its lines.
+// What the image list shows beside the names, and the moving of its lines. Throws nothing but for
+// want of memory.
 #pragma once
 
 #include <QHash>
@@ -16,14 +17,14 @@
 
 namespace varnel {
 
-// A reader of its own for the small pictures, so that they never stand in a photo's way; made when
-// it is first needed.
+// Makes a separate reader for the small pictures, so that they never delay a photo; called when it
+// is first needed.
 using NewSmallReader = std::function<std::unique_ptr<PictureReader>()>;
 
 class ListTools : public QObject, private PreviewMaker {
     Q_OBJECT
   public:
-    // Without a way to a reader there are no small pictures.
+    // Without newReader there are no small pictures.
     ListTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
               const WorkingState& state, NewSmallReader newReader, QObject* parent);
     ~ListTools() override;

@@ -20,7 +20,7 @@ PictureKeys::PictureKeys(QWidget* window, const WindowParts& parts)
     for (PictureBox* const box : {photo, parts.pictures->To()}) {
         connect(box, &PictureBox::LeaveWanted, this, &PictureKeys::Leave);
     }
-    // The status line stands below what the tools put below the pictures.
+    // The status line is below what the tools put below the pictures.
     QWidget::setTabOrder(window->findChild<QWidget*>(QStringLiteral("CmdCircleDecline")),
                          parts.offer->Button());
 }

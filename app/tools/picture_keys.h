@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The tools over the photo by keyboard: a tool that is switched on gets it, Escape switches the
-// tool off again.
+// tool off again. Throws nothing.
 #pragma once
 
 #include <QAction>

@@ -124,7 +124,7 @@ void ProjectTools::Open(const QString& path) {
 }
 
 void ProjectTools::Show(const ReadProject& project, const QString& path) {
-    int line = 0;  // a photo that is there is shown first
+    int line = 0;  // a photo whose file exists is shown first
     while (line < project.images.UpperBound() - 1 &&
            project.missing.contains(SourcePath(project.images(line + 1)))) {
         ++line;
@@ -147,7 +147,7 @@ bool ProjectTools::MayClose() {
            SavedOrDiscarded(work);
 }
 
-// Nothing is lost that nobody was asked about.
+// Nothing is lost that the user was not asked about.
 bool ProjectTools::SavedOrDiscarded(const UnsavedWork& work) {
     switch (ports_.dialogs.AskToSave(work)) {
         case SaveFirst::Save:

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Project files: their entries in the File menu, and everything that opens or saves one.
+// Project files: their entries in the File menu, and everything that opens or saves one. Throws
+// nothing but for want of memory.
 #pragma once
 
 #include <QObject>
@@ -23,10 +24,11 @@ class ProjectTools : public QObject {
     // Opens the first project file among them; returns the other files that are none.
     QStringList OpenFrom(const QStringList& files);
     void Open(const QString& path);
-    // Puts the list of a project in the place of the present one. The path is the project file's;
-    // empty where it is none of the user's.
+    // Replaces the present list by that of a project. The path is the project file's; empty where
+    // the list was kept against a crash.
     void Show(const ReadProject& project, const QString& path);
-    // Asks once whether work that closing would lose is to be saved; false to stay.
+    // Asks once whether work that closing would lose is to be saved; false when the window shall
+    // stay.
     bool MayClose();
 
   private:

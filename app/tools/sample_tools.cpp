@@ -21,7 +21,7 @@ QString SampleName() {
     return QStringLiteral("sample-circular.jpg");
 }
 
-// Where its owner finds it, because results are first proposed beside their photos.
+// Where the user finds it, because results are first proposed beside their photos.
 QString SamplePath() {
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     return QDir(pictures).filePath(QStringLiteral("Varnel/") + SampleName());

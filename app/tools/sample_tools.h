@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The File menu's last entry: the sample photo, to try Varnel without one of one's own. It is made
-// on first use by the program beside this one, into the folder Varnel of the user's pictures.
+// The File menu's last entry: the sample photo, to try Varnel without a photo. It is made on first
+// use by the program beside this one, into the folder Varnel of the user's pictures. Throws nothing
+// but for want of memory.
 #pragma once
 
 #include <QObject>

@@ -87,7 +87,7 @@ void SessionTools::End() {
     Forget();
 }
 
-// One list is opened; those that nobody has decided on are offered the next time.
+// One list is opened; those not decided on yet are offered the next time.
 void SessionTools::OfferLost() {
     if (ended_) {
         return;
@@ -128,7 +128,7 @@ void SessionTools::TellDamaged(SessionPlace& place, const QString& error) {
         QStringLiteral("%1: %2").arg(aside.isEmpty() ? file : aside, error));
 }
 
-// Only the first is told.
+// Only the first is shown.
 void SessionTools::NoteError(const QString& reason) {
     if (!std::exchange(failed_, true)) {
         error_ = reason;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Keeps the image list against a crash: while there is work that no project holds it is written
-// every few seconds, and a list whose window is gone is offered by the next one.
+// every few seconds, and a list whose window is gone is offered by the next one. Throws nothing but
+// for want of memory.
 #pragma once
 
 #include <QObject>
@@ -23,7 +24,7 @@ class SessionTools : public QObject {
                  const WindowPorts& ports, QObject* parent);
 
     void OfferLost();
-    // The user ends the program and knows what is saved: nothing is kept.
+    // The user ends the program and was asked about unsaved work: nothing is kept.
     void End();
 
   private:
@@ -42,11 +43,11 @@ class SessionTools : public QObject {
     WindowPorts ports_;
     QTimer timer_;
     std::unique_ptr<SessionPlace> place_;
-    RecordArray<ImageRecord> written_;  // the list that is there, or on its way there
+    RecordArray<ImageRecord> written_;  // the list in the file, or being written into it
     bool writing_ = false;
     bool ended_ = false;
     bool failed_ = false;
-    QString error_;  // to be told as soon as the user does nothing else
+    QString error_;  // to be shown as soon as the user does nothing else
     SaveWorker worker_;
 };
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The contact sheet's entry in the View menu and what choosing a tile does.
+// The contact sheet's entry in the View menu and what choosing a tile does. Throws nothing but for
+// want of memory.
 #pragma once
 
 #include <QObject>

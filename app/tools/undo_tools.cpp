@@ -72,7 +72,8 @@ bool UndoTools::eventFilter(QObject* watched, QEvent* event) {
         workspace_.model.steps.Seal();
     } else if (event->type() == QEvent::ShortcutOverride &&
                qobject_cast<QSpinBox*>(watched) != nullptr) {
-        // A number's field would keep these keys for its own text, which it has none to go back to.
+        // A number's field would keep these keys for its own text, which has no steps to go back
+        // to.
         const auto* const key = static_cast<QKeyEvent*>(event);
         const QKeySequence pressed(key->keyCombination());
         if (UndoKeys().contains(pressed) || RedoKeys().contains(pressed)) {

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// "Undo" and "Redo" in the Edit menu, with the names of their steps.
+// "Undo" and "Redo" in the Edit menu, with the names of their steps. Throws nothing but for want of
+// memory.
 #pragma once
 
 #include <QAction>

@@ -127,7 +127,7 @@ void ZoomTools::OnSourceShown() {
     to_->update();  // it may stand in for the other
 }
 
-// An emptied box is also told before another photo is loaded.
+// An emptied box is also reported before another photo is loaded.
 void ZoomTools::OnResultShown() {
     if (to_->Empty()) {
         feed_.Drop();

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Zoom, pan, before and after, grid and cross: one zoom for both pictures, with its entries in the
-// View menu, its keys and the part of the converted picture that is drawn for it.
+// View menu, its keys and the part of the converted picture that is drawn for it. Throws nothing
+// but for want of memory.
 #pragma once
 
 #include <QLabel>

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The modal windows that the main window can open, as a port: tests answer for them.
+// The modal windows that the main window can open, as a port: tests answer instead of them. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QDateTime>
@@ -17,13 +18,13 @@
 
 namespace varnel {
 
-// Hears the batch queue's new length.
+// Called with the batch queue's new length.
 using QueueChanged = std::function<void(int)>;
 
-// Hears which entry of the queue was written into which file.
+// Called with an entry of the queue and the file that it was written into.
 using PictureWritten = std::function<void(const ImageRecord&, const QString&)>;
 
-// What is lost when the window closes, or another list takes the place of the present one.
+// What is lost when the window closes, or another list replaces the present one.
 struct UnsavedWork {
     QString project;  // file name of the project that was changed; empty: none
     int photos = 0;   // with adjustments that are in no project and in no picture
@@ -70,7 +71,7 @@ class Dialogs {
     virtual QString ChooseProjectName(const QString& proposal) = 0;
 };
 
-// Everything through which the main window speaks to the user besides itself.
+// Everything besides itself through which the main window communicates with the user.
 struct WindowPorts {
     PhotoLoader& photos;
     Notices& notices;

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A conversion's progress in a progress bar, and the turn that it gives to waiting events.
+// A conversion's progress in a progress bar, and the turn that it gives to waiting events. Throws
+// nothing.
 #pragma once
 
 #include <QElapsedTimer>

@@ -129,7 +129,7 @@ void WindowView::ShowTitle(const QString& photo) {
         part.replace(place, place + place);
     }
     parts.first() += unsaved_ ? place : QString();
-    window_->setWindowModified(false);  // before its place may go
+    window_->setWindowModified(false);  // before its placeholder may be removed
     window_->setWindowTitle(parts.join(QStringLiteral(" - ")));
     window_->setWindowModified(unsaved_);
 }

@@ -58,7 +58,8 @@ class WindowView : public QObject, public WorkspaceView {
         ++statusNumber_;
         parts_.status->setText(text);
     }
-    // Of the text in the status line: whoever remembers it knows whether theirs still stands there.
+    // Of the text in the status line: a caller that remembers it can find out whether its text is
+    // still shown.
     int StatusNumber() const { return statusNumber_; }
     void HandleEvents() override { progress_.HandleEvents(); }
     std::shared_ptr<void> Hourglass() override;

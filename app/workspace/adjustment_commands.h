@@ -24,7 +24,7 @@ class AdjustmentCommands {
     void StoreControls(bool withPreview);
     // The current photo's own effect comes with the projection.
     void ChooseProjection(Projection projection);
-    // Previews whatever automatic preview says, after storing the controls.
+    // Previews even if automatic preview is off, after storing the controls.
     void PreviewNow();
     void AdoptTile(const ContactTile& tile);  // of the contact sheet
     void ApplyToAll();                        // the current photo's settings

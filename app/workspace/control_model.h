@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the controls of the adjustments stand on: the projection, the sliders within its ranges
-// and the choices of the preview. The window's controls follow it and note here what the user does
-// with them. Throws nothing.
+// The values of the adjustment controls: the projection, the sliders within its ranges and the
+// choices of the preview. The window's controls follow it and note here what the user does with
+// them. Throws nothing.
 #pragma once
 
 #include <QObject>
@@ -18,7 +18,7 @@ class ControlModel : public QObject {
   public:
     ControlModel();
 
-    // With an effect for every projection: the one that its slider stands on, shown or not.
+    // With an effect for every projection: the one that its slider is set to, shown or not.
     const ControlValues& Values() const { return values_; }
     Projection ChosenProjection() const { return ProjectionFromIndex(values_.projection); }
     bool AutoPreview() const { return autoPreview_; }

@@ -24,7 +24,7 @@ class CurrentPhoto {
     // The list is another one; the line, if there is any, becomes current.
     void ShowList(int line);
     // The photo at preview size, into the source picture. False when there is none, or no memory
-    // for it, which the status says.
+    // for it, which the status reports.
     bool RebuildThumbnail();
 
     // Why its photo is not there; empty when it is.

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The steps done to the image list, by their names; who changes records notes the step here before
-// anything is loaded or drawn. Throws nothing but for want of memory.
+// The steps done to the image list, by their names; the code that changes records notes the step
+// here before anything is loaded or drawn. Throws nothing but for want of memory.
 #pragma once
 
 #include <QObject>
@@ -20,7 +20,8 @@ class ListSteps : public QObject {
   public:
     explicit ListSteps(const ImageSelection& list) : list_(list), history_(list.Images()) {}
 
-    // Makes what was changed in the records a step that can be undone; nothing changed, no step.
+    // Makes what was changed in the records a step that can be undone; no step where nothing
+    // changed.
     void Note(StepKind kind, const StepBesides& besides = {});
     // The same for controls that were stored into the lines, which showed these values before.
     void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
@@ -29,12 +30,13 @@ class ListSteps : public QObject {
     // What changed is no step of the user.
     void Absorb();
     void Seal() { history_.Seal(); }  // what follows is another step
-    // The list as it is stands in the project file.
+    // The list as it is was written into the project file.
     void MarkSaved(const QString& project);
     // A picture of a photo with these settings is in the file.
     void MarkWritten(const ImageRecord& image, const QString& file);
 
-    // Nothing when there is no step. Whoever calls it shows what it did and then says so.
+    // Nothing when there is no step. The caller shows what was restored and then calls
+    // NotifyRestored.
     std::optional<Restored> Undo() { return history_.Undo(); }
     std::optional<Restored> Redo() { return history_.Redo(); }
     void NotifyRestored(const Restored& restored);
@@ -47,7 +49,7 @@ class ListSteps : public QObject {
 
   Q_SIGNALS:
     void Changed();
-    // What a step that is undone or done again shall do to a gear.
+    // The gear change that the step undone or done again asks for.
     void GearRestored(const varnel::GearChange& change);
 
   private:

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Photos that come to the list. Throws nothing but for want of memory.
+// Adds photos to the list. Throws nothing but for want of memory.
 #pragma once
 
 #include <QStringList>
@@ -15,7 +15,7 @@ class PhotoAdder {
     PhotoAdder(WorkspaceModel& model, const WorkspacePorts& ports, CurrentPhoto& photo)
         : model_(model), ports_(ports), photo_(photo) {}
 
-    // Those behind that many are new.
+    // The records after the first ones, so many as there were before, are new.
     void ImagesAdded(int before);
     // Dropped files and folders. For a picture that Varnel made of a photo, that photo with the
     // settings that made the picture; the first such one becomes current.

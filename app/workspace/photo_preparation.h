@@ -15,13 +15,13 @@ class PhotoPreparation {
     PhotoPreparation(WorkspaceModel& model, const WorkspacePorts& ports, PreviewRenderer& preview)
         : model_(model), ports_(ports), preview_(preview) {}
 
-    // What a click gives a record: its size and, if they are still due, its gear's numbers.
+    // What a click sets in a record: its size and, if they are still due, its gear's numbers.
     void Prepare(ImageRecord& image);
     // False when the user gave it up.
     bool PrepareAll();
     // The current image's record, which must be there, with all that a queued record has.
     const ImageRecord& PreparedCurrent();
-    // Takes the photo's size from its file unless it is known. False when the user gave it up.
+    // Takes the photo's size from its file unless it is known. False when the user gave up waiting.
     bool KnowSize(ImageRecord& image);
     void GiveOwnGear(ImageRecord& image);
 

@@ -17,7 +17,7 @@ class PhotoSaver {
                CurrentPhoto& photo)
         : model_(model), ports_(ports), preparation_(preparation), photo_(photo) {}
 
-    // Converts the current photo at full size and writes it where the chooser says.
+    // Converts the current photo at full size and writes it to the path that the chooser returns.
     void SaveAs(FileChooser& chooser);
 
   private:

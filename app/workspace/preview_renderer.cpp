@@ -24,7 +24,7 @@ void PreviewRenderer::Reduce() {
 }
 
 // A preview that is asked for while one is drawn is drawn after it, with what is current then: a
-// second one inside the first would take the result away under it.
+// second one inside the first would free the result that the first still draws.
 void PreviewRenderer::Draw(const ImageRecord& image) {
     if (!model_.state.bitmaps.PreviewSourceBitmap) {
         return;
@@ -64,7 +64,7 @@ void PreviewRenderer::DrawNow(const ImageRecord& image) {
 }
 
 void PreviewRenderer::Preview() {
-    model_.steps.Note(StepKind::Other);  // whatever has no name
+    model_.steps.Note(StepKind::Other);  // a change without a name of its own
     const ImageRecord* const image = model_.list.Current();
     if (image != nullptr && model_.controls.AutoPreview()) {
         Draw(*image);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The pictures of the current photo at preview size. Rendering does not throw: what is wrong stands
-// in the status.
+// The pictures of the current photo at preview size. Rendering does not throw: the status reports
+// what is wrong.
 #pragma once
 
 #include "app/workspace/workspace_model.h"
@@ -18,7 +18,7 @@ class PreviewRenderer {
     void Reduce();
     // Draws the current photo's preview, if automatic preview is on.
     void Preview();
-    // Draws what the controls say without storing anything: while a slider is dragged.
+    // Draws with the values of the controls without storing anything: while a slider is dragged.
     void PreviewControls();
     void Draw(const ImageRecord& image);
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The photographer's workspace: its model and all that can be done on it. It knows no widget.
+// The photographer's workspace: its model and all that can be done on it. It uses no widget. Throws
+// nothing but for want of memory.
 #pragma once
 
 #include "app/workspace/adjustment_commands.h"

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The photographer's workspace as it stands: what the window shows and follows. It knows no widget.
+// The photographer's workspace as it stands: what the window shows and follows. It uses no widget.
+// Throws nothing but for want of memory.
 #pragma once
 
 #include "app/workspace/activity.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the workspace shows besides its model, and through what it speaks.
+// What the workspace shows besides its model, and the ports for its messages. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -20,7 +20,7 @@ class WorkspaceView {
   public:
     virtual ~WorkspaceView() = default;
     virtual PixelSize PreviewBox() const = 0;   // the settings' preview size on this screen
-    virtual PixelSize PictureRoom() const = 0;  // the room that there is for one picture
+    virtual PixelSize PictureRoom() const = 0;  // the space for one picture
     virtual RenderProgress& Progress() = 0;
 
     virtual void ShowSource(const Bitmap* bitmap) = 0;  // null empties the picture
@@ -31,11 +31,11 @@ class WorkspaceView {
     virtual void ShowError(const QString& text) = 0;
     virtual void ShowStatus(const QString& text) = 0;
     virtual void HandleEvents() = 0;
-    // Shown as long as what it gives lives.
+    // Shown as long as the returned object lives.
     virtual std::shared_ptr<void> Hourglass() = 0;
-    // While locked nothing on the window can be started and a wish to close it waits.
+    // While locked nothing on the window can be started and closing it waits.
     virtual void Lock(bool on) = 0;
-    // What the user does to cancel what runs; none takes the way to it away again.
+    // Lets the user cancel what runs, by calling this function; an empty one ends that.
     virtual void LetCancel(std::function<void()> cancel) = 0;
 };
 

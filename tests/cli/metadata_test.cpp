@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "cli/convert.h"
+#include "remap/image/image_library.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/seeds/jpeg_files.h"

@@ -1440,10 +1440,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>das Bild konnte nicht kodiert werden</translation>
     </message>
     <message>
-        <source>the metadata have no place in the file</source>
-        <translation>für die Metadaten ist in der Datei kein Platz</translation>
-    </message>
-    <message>
         <source>the file would be larger than %1 bytes</source>
         <translation>die Datei würde größer als %1 Bytes</translation>
     </message>
@@ -1470,10 +1466,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>written without its settings: the photo&apos;s XMP has no place for them</source>
         <translation>ohne die Einstellungen geschrieben: im XMP des Fotos ist kein Platz für sie</translation>
-    </message>
-    <message>
-        <source>written without its %1: not in a TIFF file of this kind</source>
-        <translation>ohne %1 geschrieben: nicht in einer TIFF-Datei dieser Art</translation>
     </message>
     <message>
         <source>written without its metadata: it cannot be read</source>

@@ -195,6 +195,27 @@ constexpr Row rows[] = {
     {ReasonCode::TextCutShort, QT_TRANSLATE_NOOP("Reasons", "cut short")},
     {ReasonCode::LineIsNoSetting, QT_TRANSLATE_NOOP("Reasons", "line %1 is no setting")},
     {ReasonCode::SettingsEmpty, QT_TRANSLATE_NOOP("Reasons", "empty")},
+    // lenses that are curves and their files
+    {ReasonCode::LensTurnsBack,
+     QT_TRANSLATE_NOOP("Reasons", "the lens's curve turns back at %1 degrees")},
+    {ReasonCode::LensCurveUnsound,
+     QT_TRANSLATE_NOOP("Reasons", "the lens's curve is not made of 16 usable points")},
+    {ReasonCode::DoesNotRise, QT_TRANSLATE_NOOP("Reasons", "%1 does not rise from point to point")},
+    {ReasonCode::LensCurve, QT_TRANSLATE_NOOP("Reasons", "the lens's curve")},
+    {ReasonCode::LargerThanMegabytes, QT_TRANSLATE_NOOP("Reasons", "larger than %1 MB")},
+    {ReasonCode::NoLensFile, QT_TRANSLATE_NOOP("Reasons", "this is no lens file of a known kind")},
+    {ReasonCode::NoFisheye, QT_TRANSLATE_NOOP("Reasons", "there is no fisheye lens in it")},
+    {ReasonCode::NewerVersion,
+     QT_TRANSLATE_NOOP("Reasons", "made by a newer version of the program")},
+    {ReasonCode::AtLine, QT_TRANSLATE_NOOP("Reasons", "line %1: %2")},
+    {ReasonCode::KeyMissing, QT_TRANSLATE_NOOP("Reasons", "\"%1\" is missing")},
+    {ReasonCode::KeyUnusable,
+     QT_TRANSLATE_NOOP("Reasons", "\"%1\" has a value that cannot be used")},
+    {ReasonCode::ModelUnknown, QT_TRANSLATE_NOOP("Reasons", "the lens model \"%1\" is not known")},
+    {ReasonCode::LensNameTaken,
+     QT_TRANSLATE_NOOP("Reasons", "there is already a lens of this name")},
+    {ReasonCode::LensNameUnusable, QT_TRANSLATE_NOOP("Reasons", "a lens needs a name")},
+    {ReasonCode::NoSuchLens, QT_TRANSLATE_NOOP("Reasons", "there is no lens of this name")},
 };
 
 constexpr bool StandByTheirCodes() {

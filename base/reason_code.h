@@ -127,6 +127,22 @@ enum class ReasonCode : std::uint16_t {
     TextCutShort,
     LineIsNoSetting,
     SettingsEmpty,
+    // lenses that are curves and their files
+    LensTurnsBack,
+    LensCurveUnsound,
+    DoesNotRise,
+    LensCurve,
+    LargerThanMegabytes,
+    NoLensFile,
+    NoFisheye,
+    NewerVersion,
+    AtLine,
+    KeyMissing,
+    KeyUnusable,
+    ModelUnknown,
+    LensNameTaken,
+    LensNameUnusable,
+    NoSuchLens,
     Count  // of the codes; not a code itself
 };
 

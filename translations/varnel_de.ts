@@ -1747,6 +1747,66 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>another photo is being read</source>
         <translation>es wird gerade ein anderes Foto gelesen</translation>
     </message>
+    <message>
+        <source>the lens&apos;s curve turns back at %1 degrees</source>
+        <translation>die Kurve des Objektivs kehrt bei %1 Grad um</translation>
+    </message>
+    <message>
+        <source>the lens&apos;s curve is not made of 16 usable points</source>
+        <translation>die Kurve des Objektivs besteht nicht aus 16 brauchbaren Punkten</translation>
+    </message>
+    <message>
+        <source>%1 does not rise from point to point</source>
+        <translation>%1 steigt nicht von Punkt zu Punkt</translation>
+    </message>
+    <message>
+        <source>the lens&apos;s curve</source>
+        <translation>die Kurve des Objektivs</translation>
+    </message>
+    <message>
+        <source>larger than %1 MB</source>
+        <translation>größer als %1 MB</translation>
+    </message>
+    <message>
+        <source>this is no lens file of a known kind</source>
+        <translation>dies ist keine Objektivdatei einer bekannten Art</translation>
+    </message>
+    <message>
+        <source>there is no fisheye lens in it</source>
+        <translation>darin steht kein Fischaugen-Objektiv</translation>
+    </message>
+    <message>
+        <source>made by a newer version of the program</source>
+        <translation>von einer neueren Version des Programms gemacht</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is missing</source>
+        <translation>„%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a value that cannot be used</source>
+        <translation>„%1“ hat einen unbrauchbaren Wert</translation>
+    </message>
+    <message>
+        <source>the lens model &quot;%1&quot; is not known</source>
+        <translation>das Objektivmodell „%1“ ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>there is already a lens of this name</source>
+        <translation>es gibt schon ein Objektiv dieses Namens</translation>
+    </message>
+    <message>
+        <source>a lens needs a name</source>
+        <translation>ein Objektiv braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>there is no lens of this name</source>
+        <translation>es gibt kein Objektiv dieses Namens</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

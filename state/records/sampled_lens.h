@@ -64,6 +64,9 @@ struct SampledLens {
     // is the limit of the field.
     std::array<LensKnot, lensKnots> knots{};
     std::optional<LensCentre> centre;
+    // On pictures of the centre's size, where it is known: of a curve in circle radii this is the
+    // circle's radius in pixels.
+    std::optional<double> pixelsPerUnit;
     std::optional<ColourShift> red, blue;
     LensOrigin origin;
 

@@ -5,36 +5,16 @@
 // them. Throws nothing.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
-#include <QMenu>
 #include <QPointer>
 #include <functional>
 
-#include "app/panels/adjustment_panel.h"
-#include "app/panels/gear_offer_row.h"
-#include "app/panels/side_panels.h"
-#include "app/picture/picture_area.h"
+#include "app/view/window_parts.h"
 #include "app/view/window_progress.h"
 #include "app/workspace/workspace_model.h"
 #include "app/workspace/workspace_view.h"
 
 namespace varnel {
-
-struct WindowParts {
-    AdjustmentPanel* adjustments = nullptr;
-    EquipmentPanel* equipment = nullptr;
-    ImageListPanel* list = nullptr;
-    SavePanel* save = nullptr;
-    GearOfferRow* offer = nullptr;
-    PictureArea* pictures = nullptr;
-    QWidget* column = nullptr;  // the whole side column
-    QMenu* editMenu = nullptr;
-    QMenu* viewMenu = nullptr;
-    QProgressBar* bar = nullptr;
-    QPushButton* cancel = nullptr;  // beside the bar
-    QLabel* status = nullptr;
-};
 
 class WindowView : public QObject, public WorkspaceView {
     Q_OBJECT

@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "app/tools/list_tools.h"
+#include "app/tools/column/list_tools.h"
 #include "app/tools/project_tools.h"
 #include "app/tools/session_tools.h"
 #include "app/view/dialogs.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/tools/list_tools.h"
+#include "app/tools/column/list_tools.h"
 
 #include <QSet>
 

@@ -2141,6 +2141,73 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>WindowParts</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;OpenOld</source>
+        <translation>&amp;Öffnen (alt)</translation>
+    </message>
+    <message>
+        <source>Open image(s)</source>
+        <translation>Bild(er) öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Setup</source>
+        <translation>&amp;Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Manage equipment</source>
+        <translation>&amp;Ausrüstung verwalten</translation>
+    </message>
+    <message>
+        <source>&amp;Defaults</source>
+        <translation>&amp;Vorgaben</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Morph</source>
+        <translation>Morph</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Info</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ends the saving without a file</source>
+        <translation>Beendet das Speichern ohne Datei</translation>
+    </message>
+</context>
+<context>
     <name>Workspace</name>
     <message>
         <source>Could not find the photo that a picture was made of</source>
@@ -2766,73 +2833,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
         <translation>Nur Rectilinear lässt sich ausrichten; die anderen drehen die Kamera nicht.</translation>
-    </message>
-</context>
-<context>
-    <name>varnel::MDIForm1</name>
-    <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;OpenOld</source>
-        <translation>&amp;Öffnen (alt)</translation>
-    </message>
-    <message>
-        <source>Open image(s)</source>
-        <translation>Bild(er) öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Exit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Setup</source>
-        <translation>&amp;Einstellungen</translation>
-    </message>
-    <message>
-        <source>&amp;Manage equipment</source>
-        <translation>&amp;Ausrüstung verwalten</translation>
-    </message>
-    <message>
-        <source>&amp;Defaults</source>
-        <translation>&amp;Vorgaben</translation>
-    </message>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>&amp;Werkzeuge</translation>
-    </message>
-    <message>
-        <source>Morph</source>
-        <translation>Morph</translation>
-    </message>
-    <message>
-        <source>Stretch</source>
-        <translation>Strecken</translation>
-    </message>
-    <message>
-        <source>&amp;About</source>
-        <translation>&amp;Info</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Ends the saving without a file</source>
-        <translation>Beendet das Speichern ohne Datei</translation>
     </message>
 </context>
 <context>

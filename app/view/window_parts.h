@@ -1,13 +1,16 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the main window is made of. Throws nothing.
+// What the main window is made of, and the making of it. Throws nothing but for want of memory.
 #pragma once
 
+#include <QAction>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSplitter>
 
 #include "app/panels/adjustment_panel.h"
 #include "app/panels/gear_offer_row.h"
@@ -16,6 +19,18 @@
 
 namespace varnel {
 
+// The entries that the menus begin with, unconnected; the tools connect them and add their own.
+struct MenuEntries {
+    QAction* openImages = nullptr;
+    QAction* saveImage = nullptr;
+    QAction* exit = nullptr;
+    QAction* manageGears = nullptr;
+    QAction* defaults = nullptr;
+    QAction* morph = nullptr;
+    QAction* stretch = nullptr;
+    QAction* about = nullptr;
+};
+
 struct WindowParts {
     AdjustmentPanel* adjustments = nullptr;
     EquipmentPanel* equipment = nullptr;
@@ -23,12 +38,18 @@ struct WindowParts {
     SavePanel* save = nullptr;
     GearOfferRow* offer = nullptr;
     PictureArea* pictures = nullptr;
-    QWidget* column = nullptr;  // the whole side column
+    QSplitter* splitter = nullptr;  // between the side column and the pictures
+    QWidget* column = nullptr;      // the whole side column
     QMenu* editMenu = nullptr;
     QMenu* viewMenu = nullptr;
+    MenuEntries entries;
     QProgressBar* bar = nullptr;
     QPushButton* cancel = nullptr;  // beside the bar
     QLabel* status = nullptr;
 };
+
+// Fills the window, its status bar and its menu bar; the Edit and the View menu stay empty. The
+// window owns all parts.
+WindowParts MakeParts(QMainWindow* window);
 
 }  // namespace varnel

@@ -1,20 +1,17 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window: its parts, its menus, and one line for each thing that can happen on it.
+// The main window: what it is made of, and how it opens, closes and takes files that are dropped on
+// it. What can be done on it is in the tools. Throws nothing but for want of memory.
 #pragma once
 
 #include <QMainWindow>
-#include <QMenu>
-#include <QSplitter>
-#include <QTimer>
-#include <memory>
 
-#include "app/tools/column/list_tools.h"
 #include "app/tools/project_tools.h"
 #include "app/tools/session_tools.h"
 #include "app/view/dialogs.h"
 #include "app/view/window_view.h"
+#include "app/window/window_layout.h"
 #include "app/workspace/workspace.h"
 #include "state/settings/settings_store.h"
 
@@ -44,65 +41,24 @@ class MDIForm1 : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
-    void BuildSide(QWidget* side);
-    void BuildPictures(QWidget* right);
-    void BuildStatus();
-    void BuildMenus();
-    QAction* AddEntry(QMenu* menu, const char* name, const QString& text,
-                      const QKeySequence& shortcut, void (MDIForm1::*handler)());
-    void AddRemoveEntry();
-    void ConnectControls();
-    void TakeTyped();
-    void ConnectSliders();
-
+    void MakeTools();
+    void ConnectEntries();
     void Activate();
-    void OnLine(int line);
-    void OnLineClicked();
-    void OnSliderChanged(SliderRow* row);
-    void OnSliderReset(SliderRow* row);
-    void OnProjection(int index);
-    void OnRoomChanged();
-    void OnRefilled();
-    void PickPoint(QPoint position, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
-
-    void AddImages();
-    void ManageGears();
-    void TakeOffer();
-    void ShowGears();
-    void ChangeDefaults();
-    void ShowAbout();
-    void Quit();
-    void SaveAs();
-    void QueueAll();
-    void ProcessBatch();
-    void Morph();
-    void Stretch();
-    QueueChanged ShowsQueue();
-    void RemoveImages();
-    void UpdateEnabled();
-    void RestoreLayout();
-    void SaveLayout();
+    void CloseWhenIdle();
 
     WorkingState& state_;
     SettingsStore& store_;
     WindowPorts ports_;
     WindowParts parts_;
-    QSplitter* splitter_ = nullptr;
-    QAction* morph_ = nullptr;
-    QAction* saveImage_ = nullptr;
-    QAction* removeImages_ = nullptr;
+    WindowLayout layout_;
     WorkspaceModel model_;
-    std::unique_ptr<WindowView> view_;
-    std::unique_ptr<Workspace> workspace_;
+    WindowView view_;
+    Workspace workspace_;
     ProjectTools* projects_ = nullptr;
     SessionTools* sessions_ = nullptr;
-    ListTools* list_ = nullptr;
-    QTimer livePreview_{this};  // fires when the input at hand is handled: many moves, one preview
-    QTimer roomSettled_{this};
     QStringList filesAtStart_;
     bool started_ = false;
     bool closeWanted_ = false;
-    bool changedByPress_ = false;  // the current line, by the mouse button that is down
 };
 
 }  // namespace varnel

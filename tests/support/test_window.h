@@ -13,6 +13,7 @@
 #include <QTest>
 #include <vector>
 
+#include "app/tools/column/list_tools.h"
 #include "app/window/main_window.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "tests/support/chooser.h"

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/window/window_layout.h"
+
+namespace varnel {
+
+void WindowLayout::Restore() {
+    const auto stored = [this](const char* key) {
+        return QByteArray::fromBase64(
+            store_.Get(QStringLiteral("Window"), QString::fromLatin1(key), {}).toLatin1());
+    };
+    window_.restoreGeometry(stored("Geometry"));
+    splitter_.restoreState(stored("Splitter"));
+}
+
+void WindowLayout::Save() {
+    const auto keep = [this](const char* key, const QByteArray& value) {
+        store_.Save(QStringLiteral("Window"), QString::fromLatin1(key),
+                    QString::fromLatin1(value.toBase64()));
+    };
+    keep("Geometry", window_.saveGeometry());
+    keep("Splitter", splitter_.saveState());
+}
+
+}  // namespace varnel

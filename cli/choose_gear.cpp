@@ -12,6 +12,7 @@
 #include "gear/catalogue/lens_catalogue.h"
 #include "gear/from_photo/photo_gear.h"
 #include "gear/store/gear_store.h"
+#include "state/adjustments/frame_reading.h"
 
 namespace varnel {
 
@@ -98,8 +99,8 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
         return FromCatalogues(*options.camera, *options.lens);
     }
     GearTable table = StoredGears(store);
-    if (options.gear == QStringLiteral("auto")) {
-        return GearChoice{std::nullopt, std::move(table)};
+    if (IsAutomatic(options.gear)) {
+        return GearChoice{std::nullopt, std::move(table), options.gear == guessGear};
     }
     const std::optional<GearRecord> byDefault = DefaultGear(table);
     if (!byDefault) {
@@ -117,9 +118,10 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
     return GearChoice{table(n), {}};
 }
 
-std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const CameraInfo& origin) {
+std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choice,
+                                                         const CameraInfo& origin) {
     if (choice.forAll) {
-        return *choice.forAll;
+        return choice.forAll;
     }
     const PhotoGear found = GearOfPhoto(origin, choice.table);
     if (found.gear > 0) {
@@ -127,6 +129,9 @@ std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const Camera
     }
     if (found.IsWhole()) {
         return BuiltGear(found.names);
+    }
+    if (choice.guesses && !NamesPlainLens(origin)) {
+        return std::nullopt;
     }
     return QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")
         .arg(found.said);

@@ -28,6 +28,7 @@ std::optional<GearRecord> DefaultGear(const GearTable& table);
 struct GearChoice {
     std::optional<GearRecord> forAll;  // without it each photo gets its own
     GearTable table;                   // to find that in
+    bool guesses = false;              // a typical fisheye stands in for what is not known
 };
 
 // From the catalogues when a camera and a lens are given, each photo's own for the name "auto",
@@ -36,7 +37,9 @@ struct GearChoice {
 std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsStore& store);
 
 // A photo's own gear is that of the table that took it, else one made of the catalogues' camera and
-// lens. Otherwise the reason why there is none.
-std::variant<GearRecord, QString> GearFor(const GearChoice& choice, const CameraInfo& origin);
+// lens. Otherwise nothing when the choice is to guess and the file names no lens that is none to
+// guess for, or else the reason why there is none.
+std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choice,
+                                                         const CameraInfo& origin);
 
 }  // namespace varnel

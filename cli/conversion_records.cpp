@@ -8,8 +8,10 @@
 #include <algorithm>
 
 #include "cli/like_picture.h"
+#include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/conversion/output_name.h"
+#include "remap/analysis/photo_circle.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"
 #include "state/adjustments/picture_settings.h"
@@ -31,40 +33,99 @@ MorphEnds EndsFor(const Options& options, const ImageRecord& record) {
     return ends;
 }
 
-// A gear that is named replaces that of --like; output angle and effects stay the picture's.
-void GiveGear(const Options& options, const GearRecord& gear, ImageRecord& record) {
-    if (!options.likeRecord) {
-        AssignGear(gear, record);
-        return;
-    }
-    ImageRecord like = *options.likeRecord;
-    TurnCentre(like, record.Orientation);
-    CopySettings(like, record);
-    if (NamesGear(options)) {
-        record.SettingsApplied = false;
-        AssignGear(gear, record);
-        record.OutputAOV = like.OutputAOV;
-        record.EffectVarnel = like.EffectVarnel;
-        record.EffectRectilinear = like.EffectRectilinear;
+// Of --like output angle and effects stay the picture's when a gear replaces its gear.
+void KeepOfLike(const Options& options, ImageRecord& record) {
+    if (const auto& like = options.likeRecord) {
+        record.OutputAOV = like->OutputAOV;
+        record.EffectVarnel = like->EffectVarnel;
+        record.EffectRectilinear = like->EffectRectilinear;
     }
 }
 
-}  // namespace
+void GiveGear(const Options& options, const GearRecord& gear, ImageRecord& record) {
+    if (options.likeRecord) {
+        ImageRecord like = *options.likeRecord;
+        TurnCentre(like, record.Orientation);
+        CopySettings(like, record);
+        if (!NamesGear(options)) {
+            return;
+        }
+        record.SettingsApplied = false;
+    }
+    AssignGear(gear, record);
+    KeepOfLike(options, record);
+}
 
-ImageRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
-                        const GearRecord& gear) {
-    ImageRecord record;
-    const QFileInfo file(path);
-    record.FileName = file.fileName();
-    record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
-    TakeSize(size, record);
-    GiveGear(request.options, gear, record);
-    for (const Adjustment& adjustment : request.options.adjustments) {
+void Adjust(const Options& options, ImageRecord& record) {
+    for (const Adjustment& adjustment : options.adjustments) {
         const bool effect = adjustment.field.startsWith(QStringLiteral("Effect"));
         const float value = effect ? std::max(adjustment.value, 0.1F) : adjustment.value;
         SetField(record, adjustment.field, QString::number(static_cast<double>(value), 'g', 9));
     }
-    return record;
+}
+
+QStringList NotesOn(const FrameReading& reading) {
+    if (reading.source == GearSource::Guess) {
+        return {
+            reading.doubts.centre
+                ? QStringLiteral("no gear is known for it and no sure image circle was found; a "
+                                 "typical fisheye, 180 degrees across, is assumed")
+                : QStringLiteral("no gear is known for it; a typical fisheye, 180 degrees "
+                                 "across its image circle, is assumed")};
+    }
+    if (reading.source == GearSource::Circle) {
+        return {(reading.cropped ? QStringLiteral("cropped or reduced; scale and centre are taken "
+                                                  "from its image circle")
+                                 : QStringLiteral("its image circle is not where the gear says and "
+                                                  "is taken from the photo")) +
+                QStringLiteral(" (--circle off: from the gear)")};
+    }
+    return reading.cropped ? QStringList{QStringLiteral(
+                                 "cropped, and no image circle was found; the largest piece of the "
+                                 "sensor of its shape is assumed (--circle off: the whole)")}
+                           : QStringList();
+}
+
+FrameReading ReadFound(const std::optional<GearRecord>& gear, const Bitmap* photo,
+                       ImageRecord& record) {
+    const auto found = photo == nullptr ? std::nullopt : FindPhotoCircle(photo);
+    return gear ? ReadFrame(found, record)
+                : GuessFrame(photo->metadata.photo.origin, found, record);
+}
+
+}  // namespace
+
+StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
+                          const std::optional<GearRecord>& gear, const Bitmap* photo) {
+    const Options& options = request.options;
+    StartedRecord started;
+    ImageRecord& record = started.record;
+    FrameReading& reading = started.reading;
+    const QFileInfo file(path);
+    record.FileName = file.fileName();
+    record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
+    TakeSize(size, record);
+    GiveGear(options, gear.value_or(GearRecord()), record);
+    if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
+        reading = ReadFound(gear, photo, record);
+        started.notes = NotesOn(reading);
+        if (reading.source != GearSource::Exif || reading.cropped) {
+            KeepOfLike(options, record);
+        }
+    } else if (!request.gears.forAll) {
+        started.notes = {ShapeError(record)};
+        started.notes.removeAll(QString());
+    }
+    if (options.circle == CircleUse::Given) {
+        TakeCircle(options.givenCircle, record);
+        KeepOfLike(options, record);
+        reading.doubts.scale = reading.doubts.centre = false;
+    }
+    if (request.gears.forAll && reading.source == GearSource::Exif) {
+        reading.source = GearSource::Given;
+    }
+    Adjust(options, record);
+    return started;
 }
 
 std::vector<ImageRecord> RecordsFor(const ConvertRequest& request, const ImageRecord& start) {

@@ -5,11 +5,13 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "cli/choose_gear.h"
 #include "cli/options/options.h"
 #include "pipeline/photos/photo_loader.h"
+#include "state/adjustments/frame_reading.h"
 #include "state/settings/general_settings.h"
 
 namespace varnel {
@@ -21,10 +23,16 @@ struct ConvertRequest {
     const GeneralSettings& settings;
 };
 
-// The record of a photo with its size known: gear, then the options' adjustments. Throws
-// std::bad_alloc only.
-ImageRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
-                        const GearRecord& gear);
+// The record of a photo with its size known, with its gear, and for --gear guess with the file's
+// camera; the circle on the photo acts on it as the options say. The photo may be null: no circle
+// is looked for then. Throws std::bad_alloc only.
+struct StartedRecord {
+    ImageRecord record;
+    FrameReading reading;
+    QStringList notes{};  // for people: what of the record does not come from its gear
+};
+StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
+                          const std::optional<GearRecord>& gear, const Bitmap* photo);
 
 // Every record that a photo is converted with, at least one: its projections, or the frames of its
 // sequence. The fields that --set names have the last word. Throws as MorphFrame.

@@ -15,7 +15,6 @@
 #include "cli/existing_results.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"
-#include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/conversion_run.h"
 #include "remap/image/photo_metadata.h"
 
@@ -77,6 +76,12 @@ class CommandRun : public ConversionObserver {
     }
 
   private:
+    // What is known of a photo's numbers.
+    struct Started {
+        FrameReading reading;
+        QStringList notes;
+    };
+
     static GeneralSettings With(const Options& options, GeneralSettings settings) {
         settings.AutoOrient = settings.AutoOrient && !options.noAutoOrient;
         return settings;
@@ -145,13 +150,11 @@ class CommandRun : public ConversionObserver {
         if (const auto* const error = std::get_if<QString>(&gear)) {
             return {{}, {ReasonCode::Words, *error}};
         }
-        const ImageRecord start =
+        const StartedRecord start =
             StartRecord(request_, files_[photo], {picture.size, picture.orientation},
-                        std::get<GearRecord>(gear));
-        if (const QString doubt = gears.forAll ? QString() : ShapeError(start); !doubt.isEmpty()) {
-            doubts_.insert(photo, {doubt});
-        }
-        return {RecordsFor(request_, start)};
+                        std::get<std::optional<GearRecord>>(gear), picture.bitmap.get());
+        started_.insert(photo, {start.reading, start.notes});
+        return {RecordsFor(request_, start.record)};
     }
 
     void Begun(const Conversion& conversion) override {
@@ -163,8 +166,8 @@ class CommandRun : public ConversionObserver {
         if (!conversion.damage.isEmpty()) {
             reports_.Damaged(photo, ErrorText(conversion.damage));
         }
-        for (const QString& doubt : doubts_.value(conversion.photo)) {
-            reports_.Say(photo + QStringLiteral(": ") + doubt);
+        for (const QString& note : started_.value(conversion.photo).notes) {
+            reports_.Say(photo + QStringLiteral(": ") + note);
         }
     }
 
@@ -181,7 +184,10 @@ class CommandRun : public ConversionObserver {
         }
         FileReport report = ReportOf(photo, conversion.record);
         report.result = conversion.target;
-        report.notes = doubts_.value(conversion.photo);
+        const Started started = started_.value(conversion.photo);
+        report.gearSource = ToText(started.reading.source);
+        report.uncertain = started.reading.doubts.Names();
+        report.notes = started.notes;
         if (outcome.end == ConversionEnd::Written) {
             TellWritten(report, conversion, outcome);
         } else if (outcome.end == ConversionEnd::Skipped) {
@@ -252,7 +258,7 @@ class CommandRun : public ConversionObserver {
     ConversionTargets targets_;
     QStringList files_;
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number
-    QHash<qsizetype, QStringList> doubts_;                  // about the gear, by the photo's number
+    QHash<qsizetype, Started> started_;                     // by the photo's number
     qsizetype written_ = 0;
 };
 

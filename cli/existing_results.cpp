@@ -31,7 +31,8 @@ std::vector<FileReport> ExistingResults(const ConvertRequest& request, Conversio
     std::vector<FileReport> results;
     try {
         const ImageRecord start =
-            StartRecord(request, file, *size, request.gears.forAll.value_or(GearRecord()));
+            StartRecord(request, file, *size, request.gears.forAll.value_or(GearRecord()), nullptr)
+                .record;
         for (const ImageRecord& record : RecordsFor(request, start)) {
             results.push_back(ReportOf(file, record));
             results.back().result = TargetFor(request, file, record);

@@ -18,8 +18,11 @@ constexpr std::array photoRows{
 
 constexpr std::array gearRows{
     OptionRow{u"gear", u"NAME",
-              u"A gear of the settings, or auto: what each photo's EXIF tells; default: the "
-              u"default gear."},
+              u"A gear of the settings (default: the default gear); auto: by the EXIF; guess: "
+              u"that, or a typical fisheye."},
+    OptionRow{u"circle", u"C",
+              u"The image circle: auto (found; default with --gear auto, guess), off (the gear's) "
+              u"or X,Y,R in pixels."},
     OptionRow{u"camera", u"BRAND/MODEL", u"A camera of the catalogue, with --lens."},
     OptionRow{u"lens", u"BRAND/MODEL", u"A lens of the catalogue, with --camera."},
     OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},

@@ -68,6 +68,29 @@ CatalogueName CatalogueNameOf(const QString& option, const QString& text) {
     return {text.left(slash), text.mid(slash + 1)};
 }
 
+std::pair<CircleUse, ImageCircle> CircleOfOption(const QString& text) {
+    if (text == u"auto") {
+        return {CircleUse::Found, {}};
+    }
+    if (text == u"off") {
+        return {CircleUse::Off, {}};
+    }
+    constexpr double farthest = 1e6;  // pixels
+    const QStringList parts = text.split(u',');
+    std::array<double, 3> numbers{};
+    bool good = parts.size() == 3;
+    for (std::size_t n = 0; good && n < numbers.size(); ++n) {
+        numbers[n] = parts[static_cast<qsizetype>(n)].toDouble(&good);
+        good = good && std::fabs(numbers[n]) <= farthest;
+    }
+    if (!good || numbers[2] < 1.0) {
+        throw UsageError{QStringLiteral("--circle needs auto, off or X,Y,R in pixels, not \"%1\"; "
+                                        "for example --circle 800,800,744")
+                             .arg(text)};
+    }
+    return {CircleUse::Given, {numbers[0], numbers[1], numbers[2]}};
+}
+
 PixelSize PreviewBoxOf(const QString& text) {
     constexpr int longest = 32767;
     const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);

@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 #include <array>
+#include <tuple>
 
 #include "cli/options/nearest.h"
 #include "cli/options/option_list.h"
@@ -111,6 +112,13 @@ void TakeNumbers(const QCommandLineParser& parser, Options& options) {
     }
 }
 
+void TakeCircle(const QCommandLineParser& parser, Options& options) {
+    options.circle = IsAutomatic(options.gear) ? CircleUse::Found : CircleUse::Off;
+    if (const QString option = QStringLiteral("circle"); parser.isSet(option)) {
+        std::tie(options.circle, options.givenCircle) = CircleOfOption(parser.value(option));
+    }
+}
+
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
@@ -121,6 +129,7 @@ Options Take(const QCommandLineParser& parser) {
     options.projectionGiven = parser.isSet(QStringLiteral("projection"));
     options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
     options.gear = parser.value(QStringLiteral("gear"));
+    TakeCircle(parser, options);
     TakeIfSet(parser, u"camera", options.camera,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
     TakeIfSet(parser, u"lens", options.lens,
@@ -251,6 +260,10 @@ void CheckTogether(const Options& options) {
 }
 
 }  // namespace
+
+bool IsAutomatic(const QString& gear) {
+    return gear == autoGear || gear == guessGear;
+}
 
 std::variant<Options, QString> ParseOptions(const QStringList& arguments) {
     QCommandLineParser parser;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/pixel_size.h"
+#include "remap/analysis/circle_finder.h"
 #include "remap/encode/output_type.h"
 #include "state/records/image_record.h"
 #include "state/records/projection.h"
@@ -32,6 +33,14 @@ struct Adjustment {
     float value = 0.0F;
 };
 
+// The image circle on the photos: left to the gear, looked for, or given.
+enum class CircleUse { Off, Found, Given };
+
+// Names of --gear that stand for a gear of each photo's own.
+bool IsAutomatic(const QString& gear);
+inline constexpr QLatin1StringView autoGear("auto");
+inline constexpr QLatin1StringView guessGear("guess");
+
 struct Options {
     Command command = Command::Convert;
     QStringList files;  // for the lists: the brand, if one was given
@@ -40,6 +49,8 @@ struct Options {
     QString like;                           // a picture that holds settings
     std::optional<ImageRecord> likeRecord;  // what it holds, once it was read
     QString gear;
+    CircleUse circle = CircleUse::Off;  // on by default where each photo gets a gear of its own
+    ImageCircle givenCircle;
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
     std::vector<Adjustment> adjustments;

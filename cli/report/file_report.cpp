@@ -41,6 +41,8 @@ QByteArray ToJson(const FileReport& report) {
         {u"reason", KnownText(report.reason)},
         {u"projection", KnownText(report.projection)},
         {u"gear", KnownText(report.gear)},
+        {u"gear_source", KnownText(report.gearSource)},
+        {u"uncertain", QJsonArray::fromStringList(report.uncertain)},
         {u"width", written ? report.size.width : QJsonValue()},
         {u"height", written ? report.size.height : QJsonValue()},
         {u"bytes", written ? report.bytes : QJsonValue()},

@@ -21,9 +21,11 @@ struct FileReport {
     QString reason = {};  // why it failed, what is damaged
     QString projection = {};
     QString gear = {};
-    PixelSize size{};      // of the result, pixels; 0 x 0 when there is none
-    qint64 bytes = -1;     // of the result; negative when there is none
-    double seconds = 0.0;  // by the clock
+    QString gearSource = {};     // where its numbers come from
+    QStringList uncertain = {};  // what of them is not certain
+    PixelSize size{};            // of the result, pixels; 0 x 0 when there is none
+    qint64 bytes = -1;           // of the result; negative when there is none
+    double seconds = 0.0;        // by the clock
     QStringList notes = {};
 };
 

@@ -65,19 +65,6 @@ double AngleOfView(LensKind kind, const GearRecord& gear, float sensorSide) {
                                  : factor * 360.0 * std::atan(relative) / pi;
 }
 
-void ComputeAngles(GearRecord& gear) {
-    if (gear.ImageCircleRadius != 0.0F) {
-        gear.GearRatio = static_cast<float>(50.0 * static_cast<double>(gear.SensorWidth) /
-                                            static_cast<double>(gear.ImageCircleRadius));
-    }
-    if (gear.LensMapScale != 0.0F && gear.LensMapFactor != 0.0F) {
-        const LensKind kind =
-            CatalogueMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString());
-        gear.hAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorWidth));
-        gear.vAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorHeight));
-    }
-}
-
 GearRecord CatalogueGear(const GearNames& names) {
     GearRecord gear;
     FillGearFromCatalogue(names, gear);
@@ -106,11 +93,24 @@ void FillGearFromCatalogue(const GearNames& names, GearRecord& gear, const Edito
     gear.LensDataVersion = 0;
     FillCamera(gear);
     FillLens(gear);
-    ComputeAngles(gear);
+    FillAngles(gear);
     if (gear.UserAdjusted) {
         gear.GearRatio = sliders.ratio;
         gear.OfsetX = sliders.xOfset;
         gear.OfsetY = sliders.yOfset;
+    }
+}
+
+void FillAngles(GearRecord& gear) {
+    if (gear.ImageCircleRadius != 0.0F) {
+        gear.GearRatio = static_cast<float>(50.0 * static_cast<double>(gear.SensorWidth) /
+                                            static_cast<double>(gear.ImageCircleRadius));
+    }
+    if (gear.LensMapScale != 0.0F && gear.LensMapFactor != 0.0F) {
+        const LensKind kind =
+            CatalogueMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString());
+        gear.hAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorWidth));
+        gear.vAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorHeight));
     }
 }
 

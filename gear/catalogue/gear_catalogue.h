@@ -37,6 +37,10 @@ struct EditorSliders {
 void FillGearFromCatalogue(const GearNames& names, GearRecord& gear,
                            const EditorSliders& sliders = {});
 
+// The angles of view and the ratio that follow from the gear's other numbers; what their zeros
+// leave open stays.
+void FillAngles(GearRecord& gear);
+
 // Whether the gear's circle (ratio and offsets) or its horizontal angle differs from the
 // catalogue's by more than storing a number as text changes it.
 bool HasOwnCircle(const GearRecord& gear);

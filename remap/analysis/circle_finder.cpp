@@ -129,7 +129,7 @@ bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
 }
 
 // Where the rim shows as a step from light to dark.
-std::optional<ImageCircle> CircleByRim(const GreyPicture& picture) {
+std::optional<FoundCircle> CircleByRim(const GreyPicture& picture) {
     constexpr double leastShare = 0.4;
     constexpr std::size_t leastPoints = 40;
     const GreyPicture half = Halved(picture);
@@ -141,6 +141,7 @@ std::optional<ImageCircle> CircleByRim(const GreyPicture& picture) {
     const GreyPicture seen = Seen(picture);
     // Of the step of a soft rim a third is within the few pixels that are compared there.
     const double leastStep = rough.leastStep / 3.0;
+    double error = 0.0;
     for (const double reach : {0.025, 0.015, 0.01, 0.008}) {
         const std::vector<RimPoint> rim =
             Rim(Grey(seen), circle, std::max(reach * circle.radius, 3.0), leastStep);
@@ -150,10 +151,13 @@ std::optional<ImageCircle> CircleByRim(const GreyPicture& picture) {
         for (int step = 0; step < 10; ++step) {
             circle = Fitted(rim, circle);
         }
+        error = FitError(rim, circle);
     }
     const Grey grey(picture);
-    return MayBe(circle, grey) && IsDarkOutside(grey, circle) ? std::optional(circle)
-                                                              : std::nullopt;
+    if (!MayBe(circle, grey) || !IsDarkOutside(grey, circle)) {
+        return std::nullopt;
+    }
+    return FoundCircle{circle, error};
 }
 
 }  // namespace
@@ -164,10 +168,12 @@ std::optional<FoundCircle> FindImageCircle(const GreyPicture& picture) {
         return std::nullopt;
     }
     if (const auto circle = CircleByRim(picture)) {
-        return FoundCircle{*circle, false};
+        return circle;
     }
+    constexpr double roughly = 0.03;  // of the radius
     const auto circle = CircleAroundLight(Grey(picture));
-    return circle ? std::optional(FoundCircle{*circle, true}) : std::nullopt;
+    return circle ? std::optional(FoundCircle{*circle, roughly * circle->radius, true})
+                  : std::nullopt;
 }
 
 }  // namespace varnel

@@ -27,6 +27,7 @@ struct ImageCircle {
 };
 
 struct FoundCircle : ImageCircle {
+    double error = 0.0;  // of centre and radius, pixels; about one standard deviation
     bool rough = false;  // the scene is dark at the rim: it was found from the light inside alone
 };
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace varnel {
 
@@ -51,6 +52,25 @@ ImageCircle Fitted(const std::vector<RimPoint>& rim, const ImageCircle& circle) 
     }
     return {circle.x + sums[0][3] / sums[0][0], circle.y + sums[1][3] / sums[1][1],
             circle.radius + sums[2][3] / sums[2][2]};
+}
+
+double FitError(const std::vector<RimPoint>& rim, const ImageCircle& circle) {
+    constexpr std::size_t sides = 8;
+    double sum = 0.0;
+    for (std::size_t side = 0; side < sides; ++side) {
+        std::vector<RimPoint> rest;
+        std::ranges::copy_if(rim, std::back_inserter(rest), [&](const RimPoint& point) {
+            return SideOf(std::cos(point.angle), std::sin(point.angle), sides) != side;
+        });
+        ImageCircle without = circle;
+        for (int step = 0; step < 4; ++step) {
+            without = Fitted(rest, without);
+        }
+        const double moved = std::max(Length(without.x - circle.x, without.y - circle.y),
+                                      std::fabs(without.radius - circle.radius));
+        sum += moved * moved;
+    }
+    return std::sqrt(sum * (sides - 1) / sides);
 }
 
 }  // namespace varnel

@@ -53,4 +53,9 @@ std::optional<ImageCircle> Through(const Point& a, const Point& b, const Point& 
 // One weighted Gauss-Newton step toward the circle of least distances; far points do not count.
 ImageCircle Fitted(const std::vector<RimPoint>& rim, const ImageCircle& circle);
 
+// About one standard deviation of centre and radius of a circle that was fitted to the rim, pixels:
+// by how much they change when an eighth of the directions is left out, so that a rim of which only
+// a part is on the picture counts as what it is.
+double FitError(const std::vector<RimPoint>& rim, const ImageCircle& circle);
+
 }  // namespace varnel

@@ -38,8 +38,9 @@ std::optional<FoundCircle> FindPhotoCircle(const Bitmap* photo) {
     }
     const double across = static_cast<double>(full.width) / size.width;
     const double down = static_cast<double>(full.height) / size.height;
-    return FoundCircle{{found->x * across, found->y * down,
-                        found->radius * (full.width >= full.height ? across : down)},
+    const double scale = full.width >= full.height ? across : down;
+    return FoundCircle{{found->x * across, found->y * down, found->radius * scale},
+                       found->error * scale,
                        found->rough};
 }
 

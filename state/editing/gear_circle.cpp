@@ -22,13 +22,6 @@ double FiftySides(PixelSize picture) {
 
 }  // namespace
 
-ImageCircle CircleOf(const ImageRecord& image, PixelSize picture) {
-    const double ratio = static_cast<double>(image.Ratio);
-    return {picture.width * (0.5 + static_cast<double>(image.OfsetX) / 1000.0),
-            picture.height * (0.5 + static_cast<double>(image.OfsetY) / 1000.0),
-            ratio > 0.0 ? FiftySides(picture) / ratio : 0.0};
-}
-
 GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture) {
     const CentreOffset centre = GearCentre({Tenths(1000.0 * (circle.x / picture.width - 0.5)),
                                             Tenths(1000.0 * (circle.y / picture.height - 0.5))},

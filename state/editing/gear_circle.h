@@ -6,6 +6,7 @@
 
 #include "base/record_array.h"
 #include "remap/analysis/circle_finder.h"
+#include "state/adjustments/frame_reading.h"
 #include "state/records/gear_record.h"
 #include "state/records/image_record.h"
 
@@ -20,10 +21,6 @@ struct GearCircle {
 
     bool operator==(const GearCircle&) const = default;
 };
-
-// Where the record's numbers put the circle on its picture of that size. The radius is 0 without a
-// ratio.
-ImageCircle CircleOf(const ImageRecord& image, PixelSize picture);
 
 // The numbers with which a gear puts the circle there, to a tenth.
 GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture);

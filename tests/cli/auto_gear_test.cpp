@@ -78,5 +78,36 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
     EXPECT_NE(byTable, byCatalogues);
 }
 
+TEST(GuessedGear, LeavesNoPhotoOutButThoseOfOtherLenses) {
+    testing::PictureFolder files;
+    testing::TakenByNikon(files, Q("zoom.jpg"), "NIKON D50", "24.0-70.0 mm f/2.8");
+    testing::TakenByNikon(files, Q("known.jpg"), "NIKON D50", "10.5 mm f/2.8");
+    const QString plain = files.Picture(Q("plain.bmp"), OutputType::Bmp);
+    MemoryStore store;
+    std::ostringstream out, err;
+    const auto run = [&](QStringList arguments) {
+        out.str({});
+        arguments = QStringList{Q("varnel-convert"), Q("--type=bmp"), Q("--force")} + arguments;
+        return RunConvert(arguments, store, {out, err, false});
+    };
+    EXPECT_EQ(run({Q("--gear=guess"), Q("--json"), files.Path(Q("zoom.jpg")),
+                   files.Path(Q("known.jpg")), plain}),
+              exitSomeFailed);
+    const QByteArrayList lines = QByteArray::fromStdString(out.str()).trimmed().split('\n');
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_TRUE(lines[0].contains(R"("status":"failed")"));
+    EXPECT_TRUE(lines[1].contains(R"("gear_source":"exif","uncertain":[])")) << lines[1].data();
+    EXPECT_TRUE(lines[2].contains(R"j("gear":"Typical fisheye (guess)","gear_source":"guess",)j"
+                                  R"("uncertain":["scale","centre","curve"])"))
+        << lines[2].data();
+    const QString result = files.Path(Q("plain.Varnel.BMP"));
+    const QByteArray guessed = Contents(result);
+    EXPECT_EQ(run({Q("--gear=guess"), Q("--circle=30,20,18"), plain}), exitAllWritten);
+    EXPECT_NE(Contents(result), guessed);
+    for (const char* circle : {"", "1,2", "1,2,x", "1,2,0", "nan,2,3", "inf,2,3", "on"}) {
+        EXPECT_EQ(run({Q("--circle"), Q(circle), plain}), exitUsage) << circle;
+    }
+}
+
 }  // namespace
 }  // namespace varnel

@@ -40,7 +40,7 @@ class Json : public ::testing::Test {
                 QJsonParseError error;
                 objects.append(QJsonDocument::fromJson(line, &error).object());
                 EXPECT_EQ(error.error, QJsonParseError::NoError) << line.toStdString();
-                EXPECT_EQ(objects.last().size(), 11) << line.toStdString();
+                EXPECT_EQ(objects.last().size(), 13) << line.toStdString();
             }
         }
         return objects;
@@ -84,6 +84,7 @@ TEST_F(Json, TellsOfEveryResultInOrder) {
         EXPECT_EQ(lines[0][u"height"].toInt(), 40);
         EXPECT_EQ(lines[0][u"projection"].toString(), Q("varnel"));
         EXPECT_EQ(lines[0][u"gear"].toString(), Q("Canon EOS 5D + Sigma EX 8 mm f:3.5"));
+        EXPECT_EQ(lines[0][u"gear_source"].toString(), Q("given"));
         EXPECT_EQ(QFileInfo(lines[1][u"result"].toString()).size(), lines[1][u"bytes"].toInt());
         EXPECT_EQ(lines[2][u"reason"].toString(), Q("there is no such file"));
         EXPECT_TRUE(lines[2][u"result"].isNull() && lines[2][u"bytes"].isNull());

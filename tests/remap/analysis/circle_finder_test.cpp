@@ -62,6 +62,8 @@ TEST_P(CircleFinder, IsRightWithinThreeThousandthsOfTheWidth) {
     EXPECT_NEAR(found->x, shot.circle.x, tolerance);
     EXPECT_NEAR(found->y, shot.circle.y, tolerance);
     EXPECT_NEAR(found->radius, shot.circle.radius, tolerance);
+    EXPECT_LT(std::fabs(found->radius - shot.circle.radius), 4.0 * found->error + 0.3);
+    EXPECT_LT(found->error, 0.01 * shot.circle.radius);
 }
 
 INSTANTIATE_TEST_SUITE_P(

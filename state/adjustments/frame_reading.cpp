@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "state/adjustments/frame_reading.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/from_photo/gear_offer.h"
+#include "gear/from_photo/lens_name.h"
+#include "gear/from_photo/photo_camera.h"
+#include "gear/from_photo/photo_lens.h"
+#include "state/adjustments/gear_assignment.h"
+
+namespace varnel {
+
+namespace {
+
+double LongerSide(const ImageRecord& image) {
+    return std::max(image.Width, image.Height);
+}
+
+PixelSize SizeOf(const ImageRecord& image) {
+    return {image.Width, image.Height};
+}
+
+// The angles of view of the piece of sensor that the record has now.
+void RenewAngles(ImageRecord& image) {
+    GearRecord gear = GearOf(image);
+    gear.SensorWidth = image.SensorWidth;
+    gear.SensorHeight = image.SensorHeight;
+    gear.ImageCircleRadius = image.ImageCircleRadius;
+    gear.LensMapScale = image.LensMapScale;
+    gear.LensMapFactor = image.LensMapFactor;
+    FillAngles(gear);
+    image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
+    image.OutputAOV = UsualOutputAov(image.InputAOV);
+}
+
+void TakePiece(double millimetresPerPixel, ImageRecord& image) {
+    const auto [shorter, longer] = std::minmax(image.Width, image.Height);
+    image.SensorWidth = static_cast<float>(longer * millimetresPerPixel);
+    image.SensorHeight = static_cast<float>(shorter * millimetresPerPixel);
+    RenewAngles(image);
+}
+
+// The largest piece of the sensor that has the picture's shape, in its middle.
+void TakeLargestPiece(ImageRecord& image) {
+    const auto [shorter, longer] = std::minmax(image.Width, image.Height);
+    const double perPixel = std::min(static_cast<double>(image.SensorWidth) / longer,
+                                     static_cast<double>(image.SensorHeight) / shorter);
+    TakePiece(perPixel, image);
+    if (image.ImageCircleRadius > 0.0F) {
+        image.Ratio = 50.0F * image.SensorWidth / image.ImageCircleRadius;
+    }
+}
+
+bool IsOff(const FoundCircle& found, const ImageCircle& expected) {
+    const double off = std::max(std::fabs(found.radius - expected.radius),
+                                std::hypot(found.x - expected.x, found.y - expected.y));
+    return off > 0.01 * expected.radius && off > 3.0 * found.error;
+}
+
+bool NamesFisheye(const LensName& name) {
+    return std::ranges::any_of(name.words, [](const QString& word) {
+        return word.contains(u"FISH") || word == u"CIRCULAR" || word == u"FE";
+    });
+}
+
+GearRecord GuessedGear(const CameraInfo& origin, double radius, const ImageRecord& image) {
+    constexpr float usualLongerSide = 36.0F;  // millimetres; any would do: only angles are assumed
+    GearRecord gear;
+    const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
+    if (camera.IsKnown()) {
+        FillGearFromCatalogue({camera.brand, camera.model, {}, {}}, gear);
+    } else {
+        gear.CameraBrand = origin.Make;
+        gear.CameraModel = origin.Model;
+    }
+    gear.GearName = GuessedGearName();
+    gear.SensorWidth = gear.SensorWidth > 0.0F ? gear.SensorWidth : usualLongerSide;
+    const auto [shorter, longer] = std::minmax(image.Width, image.Height);
+    gear.SensorHeight = gear.SensorWidth * shorter / longer;
+    const double millimetres = radius * static_cast<double>(gear.SensorWidth) / longer;
+    gear.ImageCircleRadius = static_cast<float>(millimetres);
+    gear.LensFieldAngle = 180.0F;
+    // r = 2 f sin(theta / 2), with the circle at 90 degrees.
+    gear.LensMapScale = static_cast<float>(millimetres * std::numbers::sqrt2);
+    gear.LensMapFactor = 0.5F;
+    FillAngles(gear);
+    return gear;
+}
+
+}  // namespace
+
+QString ToText(GearSource source) {
+    constexpr const char16_t* texts[] = {u"given", u"exif", u"circle", u"measured", u"guess"};
+    return QString::fromUtf16(texts[static_cast<std::size_t>(source)]);
+}
+
+QStringList Doubts::Names() const {
+    QStringList names;
+    for (const auto& [doubted, name] :
+         {std::pair{scale, u"scale"}, {centre, u"centre"}, {curve, u"curve"}}) {
+        if (doubted) {
+            names.append(QString::fromUtf16(name));
+        }
+    }
+    return names;
+}
+
+ImageCircle CircleOf(const ImageRecord& image, PixelSize picture) {
+    const double ratio = static_cast<double>(image.Ratio);
+    return {picture.width * (0.5 + static_cast<double>(image.OfsetX) / 1000.0),
+            picture.height * (0.5 + static_cast<double>(image.OfsetY) / 1000.0),
+            ratio > 0.0 ? 50.0 * std::max(picture.width, picture.height) / ratio : 0.0};
+}
+
+void TakeCircle(const ImageCircle& circle, ImageRecord& image) {
+    image.OfsetX = static_cast<float>(1000.0 * (circle.x / image.Width - 0.5));
+    image.OfsetY = static_cast<float>(1000.0 * (circle.y / image.Height - 0.5));
+    image.Ratio = static_cast<float>(50.0 * LongerSide(image) / circle.radius);
+    if (image.ImageCircleRadius > 0.0F) {
+        TakePiece(static_cast<double>(image.ImageCircleRadius) / circle.radius, image);
+    }
+}
+
+FrameReading ReadFrame(const std::optional<FoundCircle>& found, ImageRecord& image) {
+    FrameReading reading;
+    reading.cropped = !ShapeError(image).isEmpty();
+    if (found &&
+        (reading.cropped || (!found->rough && IsOff(*found, CircleOf(image, SizeOf(image)))))) {
+        TakeCircle(*found, image);
+        reading.source = GearSource::Circle;
+        reading.doubts.scale = reading.doubts.centre =
+            found->rough || found->error > 0.01 * found->radius;
+    } else if (reading.cropped) {
+        TakeLargestPiece(image);
+        reading.doubts.scale = reading.doubts.centre = true;
+    }
+    return reading;
+}
+
+QString GuessedGearName() {
+    return QStringLiteral("Typical fisheye (guess)");
+}
+
+FrameReading GuessFrame(const CameraInfo& origin, const std::optional<FoundCircle>& found,
+                        ImageRecord& image) {
+    const ImageCircle around{image.Width / 2.0, image.Height / 2.0,
+                             std::hypot(image.Width, image.Height) / 2.0};
+    const ImageCircle& circle = found ? *found : around;
+    AssignGear(GuessedGear(origin, circle.radius, image), image);
+    TakeCircle(circle, image);
+    const bool uncertain = !found || found->rough;
+    return {GearSource::Guess, {.scale = uncertain, .centre = uncertain, .curve = true}};
+}
+
+bool NamesPlainLens(const CameraInfo& origin) {
+    const LensName name = ParseLensName(origin.LensModel);
+    return name.shortest > 0.0F && !NamesFisheye(name) &&
+           LensesFromExif(origin, CameraFromExif(origin.Make, origin.Model)).fitting.empty();
+}
+
+}  // namespace varnel

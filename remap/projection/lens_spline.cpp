@@ -21,13 +21,16 @@ Reason TurnsBackAt(double angle) {
     return {ReasonCode::LensTurnsBack, QString::number(angle * 180.0 / std::numbers::pi, 'f', 1)};
 }
 
-// The slopes of the spline with a continuous second derivative: that is 0 at the axis, where the
-// curve of a lens is odd, and the last two pieces are one cubic.
+// The slopes of the spline with a continuous second derivative whose first two pieces are one
+// cubic, and its last two. At the axis the formulas of other programs need not be odd.
 Values SmoothSlopes(const Values& width, const Values& secant) {
     Values diagonal{}, above{}, right{};
-    diagonal[0] = 2.0;
-    above[0] = 1.0;
-    right[0] = 3.0 * secant[0];
+    const double starts = width[0] + width[1];
+    diagonal[0] = width[1];
+    above[0] = starts;
+    right[0] =
+        (width[0] * width[0] * secant[1] + (2.0 * starts + width[0]) * width[1] * secant[0]) /
+        starts;
     const double ends = width[last - 2] + width[last - 1];
     for (std::size_t n = 1; n <= last; ++n) {
         double below = width[n - 1];
@@ -70,14 +73,16 @@ void Flatten(Values& slopes, const Values& secant) {
     }
 }
 
-// Evenly spaced (crowding 0) up to as the sine, densest at the rim (crowding 1), where the curves
-// of lenses bend most.
-LensKnots KnotsOf(const std::function<double(double)>& radiusOfAngle, double limit,
-                  double crowding) {
+// Evenly spaced, or denser at the rim, where the curves of lenses bend most, and at the axis; each
+// crowding from 0 to 1.
+LensKnots KnotsOf(const std::function<double(double)>& radiusOfAngle, double limit, double atRim,
+                  double atAxis) {
     LensKnots knots{};
     for (std::size_t n = 1; n <= last; ++n) {
         const double even = static_cast<double>(n) / static_cast<double>(last);
-        const double share = even + crowding * (std::sin(even * std::numbers::pi / 2.0) - even);
+        const double turn = even * std::numbers::pi / 2.0;
+        const double share = even + atRim * (std::sin(turn) - even) +
+                             atAxis * (std::sin(turn) * std::sin(turn) - even);
         knots[n] = {limit * share, radiusOfAngle(limit * share)};
     }
     return knots;
@@ -138,8 +143,11 @@ SampledCurve SampledFrom(const std::function<double(double)>& radiusOfAngle, dou
         return curve;
     }
     double least = std::numeric_limits<double>::infinity();
-    for (int tenths = 0; tenths <= 10; ++tenths) {
-        const LensKnots knots = KnotsOf(radiusOfAngle, limit, tenths / 10.0);
+    // Together at most 1, so that the angles rise.
+    for (int pair = 0; pair < 36; ++pair) {
+        const double atRim = pair % 6 / 5.0;
+        const double atAxis = pair / 6 / 5.0 * (1.0 - atRim);
+        const LensKnots knots = KnotsOf(radiusOfAngle, limit, atRim, atAxis);
         const Reason reason = CurveError(knots);
         const double error = reason.isEmpty() ? LargestError(knots, radiusOfAngle) : 1e300;
         if (error < least) {

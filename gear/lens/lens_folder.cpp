@@ -73,7 +73,7 @@ QString LensFolder::FreeName(const QString& name) const {
     };
     QString free = name;
     for (int n = 2; taken(free); ++n) {
-        free = QStringLiteral("%1 (%2)").arg(name.left(longestLensName - 10)).arg(n);
+        free = QStringLiteral("%1 (%2)").arg(name.left(longestLensName - 10), QString::number(n));
     }
     return free;
 }
@@ -82,7 +82,7 @@ QString LensFolder::FreePath(const QString& name) const {
     const QString start = QDir(folder_).filePath(SafeFileName(name));
     QString path = start + QStringLiteral(".json");
     for (int n = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++n) {
-        path = QStringLiteral("%1-%2.json").arg(start).arg(n);
+        path = QStringLiteral("%1-%2.json").arg(start, QString::number(n));
     }
     return path;
 }

@@ -53,9 +53,7 @@ Calibration ReadCalibration(XmlReading& xml) {
         if (name == u"FisheyeModel" && other == 0) {
             calibration.isFisheye = true;
             fisheye = depth;
-        } else if ((name.endsWith(u"Model") && depth > item + 1 && xml.Attributes().empty() &&
-                    name != u"Model") ||
-                   name == u"AlternateLensIDs") {
+        } else if ((name.endsWith(u"Model") && name != u"Model") || name == u"AlternateLensIDs") {
             other = other == 0 ? depth : other;
         }
         if (other > 0) {

@@ -226,8 +226,10 @@ void AddEntry(const Entry& entry, bool nameIsTaken, ImportedLenses& imported) {
     }
     for (const Terms& terms : entry.distortions) {
         const bool several = entry.distortions.size() > 1;
-        AddLens(entry, terms,
-                several ? QStringLiteral("%1, %2 mm").arg(name).arg(terms.focal) : name, imported);
+        AddLens(
+            entry, terms,
+            several ? QStringLiteral("%1, %2 mm").arg(name, QString::number(terms.focal)) : name,
+            imported);
     }
 }
 

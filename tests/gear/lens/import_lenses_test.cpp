@@ -137,6 +137,16 @@ std::vector<Row> Rows() {
          "</stCamera:ChromaticRedGreenModel></rdf:Description></stCamera:FisheyeModel>"
          "</rdf:Description></rdf:li></rdf:Seq></rdf:Description></rdf:RDF></x:xmpmeta>",
          "Acme 8", [](double a) { return 0.36 * 24.0 * OddPowers(a, -0.02, -0.003); }, 1.0, 80.0},
+        {"LCP of elements",
+         "<rdf:RDF xmlns:rdf=\"r\" xmlns:s=\"s\"><rdf:li rdf:parseType=\"Resource\">"
+         "<s:AlternateLensIDs><rdf:Seq><rdf:li>7</rdf:li></rdf:Seq></s:AlternateLensIDs>"
+         "<s:Model>Body</s:Model><s:Lens>Acme 9</s:Lens><s:ImageWidth>4000</s:ImageWidth>"
+         "<s:ImageLength>6000</s:ImageLength><s:FisheyeModel rdf:parseType=\"Resource\">"
+         "<s:FocalLengthX>0.36</s:FocalLengthX><s:RadialDistortParam1>0.02</s:RadialDistortParam1>"
+         "<s:ChromaticGreenModel rdf:parseType=\"Resource\"><s:FocalLengthX>1</s:FocalLengthX>"
+         "</s:ChromaticGreenModel><s:RadialDistortParam2>0.001</s:RadialDistortParam2>"
+         "</s:FisheyeModel></rdf:li></rdf:RDF>",
+         "Acme 9", [](double a) { return 0.36 * 6000.0 * OddPowers(a, 0.02, 0.001); }, 0.0, 80.0},
     };
 }
 

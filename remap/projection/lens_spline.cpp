@@ -152,7 +152,7 @@ SampledCurve SampledFrom(const std::function<double(double)>& radiusOfAngle, dou
         const double error = reason.isEmpty() ? LargestError(knots, radiusOfAngle) : 1e300;
         if (error < least) {
             least = error;
-            curve = {knots, reason};
+            curve = {knots, error, reason};
         }
     }
     return curve;

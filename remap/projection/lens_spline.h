@@ -22,7 +22,8 @@ Reason CurveError(const LensKnots& knots);
 
 struct SampledCurve {
     LensKnots knots{};
-    Reason reason;  // where it is not empty, the knots are of no use
+    double error = 0.0;  // the largest between the knots, in the unit of the radii
+    Reason reason;       // where it is not empty, the knots are of no use
 };
 
 // Sixteen knots of a curve from 0 to the limit of its field (0 < limit <= pi). They stand so that

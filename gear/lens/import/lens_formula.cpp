@@ -13,6 +13,9 @@ namespace varnel {
 
 namespace {
 
+// Of the radius at the limit of the field: 0.05 px at 24 megapixels.
+constexpr double largestError = 2e-5;
+
 // The angle at which the curve reaches a radius; the widest where it does not, or turns back
 // before.
 double AngleOf(const LensFormula& formula, double radius) {
@@ -53,17 +56,21 @@ Reason FillKnots(const LensFormula& formula, SampledLens& lens) {
     const bool enough = turn > 0.0 && formula.radius(turn) >= needed * formula.shorterSide;
     const SampledCurve curve = SampledFrom(formula.radius, enough ? turn : limit);
     lens.knots = curve.knots;
-    return curve.reason;
+    const bool exact = curve.error <= largestError * curve.knots.back().radius;
+    return curve.reason.isEmpty() && !exact ? ReasonCode::LensCurveUnsound : curve.reason;
 }
 
 Reason FillKnotsFromPixels(const LensFormula& formula, SampledLens& lens) {
     const Reason reason = FillKnots(formula, lens);
+    if (!reason.isEmpty()) {
+        return reason;
+    }
     lens.unit = SampledLens::Unit::CircleRadii;
     lens.pixelsPerUnit = lens.knots.back().radius;
     for (LensKnot& knot : lens.knots) {
         knot.radius /= *lens.pixelsPerUnit;
     }
-    return reason;
+    return {};
 }
 
 void MeasurePicture(const LensCentre& centre, LensFormula& formula) {

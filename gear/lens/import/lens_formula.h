@@ -34,7 +34,8 @@ struct ImportedLenses {
 
 // Fills in the knots: up to the corner or the widest angle; where the formula turns back before, up
 // to there. A formula that turns back within three quarters of the shorter side describes no
-// picture: the reason is the angle. Radii are taken as millimetres.
+// picture: the reason is the angle. One that bends too much for sixteen knots is refused too. Radii
+// are taken as millimetres.
 Reason FillKnots(const LensFormula& formula, SampledLens& lens);
 
 // The same for pixels of a picture of the centre's size, which the lens has: the unit becomes the

@@ -208,6 +208,9 @@ TEST(ImportLenses, EndsTheFieldWhereTheFormulaTurnsBackOrRefusesIt) {
     file.replace("-0.15, 0, 0, 0", "-1.0, 0, 0, 0");
     EXPECT_EQ(ErrorText(ImportLensesFrom(file, Text("a.yml")).reason).toStdString(),
               "a: the lens's curve turns back at 33.1 degrees");
+    file.replace("-1.0, 0, 0, 0", "0, 0, 0, 1e4");
+    EXPECT_EQ(ErrorText(ImportLensesFrom(file, Text("a.yml")).reason).toStdString(),
+              "a: the lens's curve is not made of 16 usable points");
 }
 
 TEST(ImportLenses, NamesWhatIsWrong) {

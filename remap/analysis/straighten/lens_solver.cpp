@@ -77,8 +77,8 @@ class Solving {
         solved.heldOutBefore = loss_.Noise() * std::sqrt(before);
         solved.heldOutAfter = loss_.Noise() * std::sqrt(std::min(best->heldOut, before));
         solved.lens = solved.improved ? best->model.At(best->fit.parameters) : guess_;
-        Sort(solved.lens, solved, true);
         Judge(*best, solved);
+        Sort(solved.lens, solved, true);
         return solved;
     }
 

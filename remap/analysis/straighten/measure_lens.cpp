@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/analysis/straighten/measure_lens.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "remap/analysis/photo_circle.h"
+#include "remap/analysis/straighten/edge_finder.h"
+#include "remap/projection/lens_spline.h"
+
+namespace varnel {
+
+namespace {
+
+// The lens may be wrong by this much of an edge's length while edges are looked for, first by the
+// guess and then by what was solved with it.
+constexpr double guessSlack = 0.003;
+constexpr double solvedSlack = 0.0005;
+
+EdgePoint CentreOf(PixelSize size, const std::optional<ImageCircle>& circle) {
+    return circle ? EdgePoint{circle->x, size.height - circle->y}
+                  : EdgePoint{size.width / 2.0, size.height / 2.0};
+}
+
+double RimOf(PixelSize size, const std::optional<ImageCircle>& circle) {
+    return circle ? circle->radius : 0.5 * std::hypot(size.width, size.height);
+}
+
+class Measuring {
+  public:
+    Measuring(const std::vector<MeasuredPhoto>& photos, const MeasureOptions& options)
+        : photos_(photos), options_(options), size_(photos.front().bitmap->Size()) {}
+
+    Measurement Run() {
+        FindCircle();
+        const LensView guess = options_.guess ? *options_.guess : TypicalFisheye(size_, circle_);
+        measured_.edges = options_.edges.empty() ? Edges(guess, guessSlack) : options_.edges;
+        if (measured_.edges.size() < leastEdges) {
+            measured_.error = MeasureError::TooFewEdges;
+            return std::move(measured_);
+        }
+        const LensConstraints known = Known(guess);
+        measured_.solved = SolveLens(measured_.edges, guess, known);
+        if (options_.edges.empty() && measured_.solved->improved) {
+            std::vector<EdgeTrace> again = Edges(measured_.solved->lens, solvedSlack);
+            if (again.size() >= leastEdges) {
+                measured_.edges = std::move(again);
+                measured_.solved = SolveLens(measured_.edges, guess, known);
+            }
+        }
+        Store(known.reach);
+        return std::move(measured_);
+    }
+
+  private:
+    void FindCircle() {
+        circle_ = options_.circle;
+        if (!circle_) {
+            measured_.circle = FindPhotoCircle(photos_.front().bitmap);
+            circle_ = measured_.circle;
+        }
+    }
+
+    std::vector<EdgeTrace> Edges(const LensView& lens, double slack) const {
+        std::vector<EdgeTrace> all;
+        for (std::size_t n = 0; n < photos_.size(); ++n) {
+            const EdgeSearch search{circle_ ? 0.97 * circle_->radius : 0.0, slack};
+            for (EdgeTrace& edge : FindEdges(*photos_[n].bitmap, lens, search)) {
+                edge.photo = static_cast<int>(n);
+                all.push_back(std::move(edge));
+            }
+        }
+        std::ranges::stable_sort(all, std::greater(), Span);
+        return all;
+    }
+
+    LensConstraints Known(const LensView& guess) const {
+        LensConstraints known;
+        known.reach = circle_ ? circle_->radius
+                              : RimOf(size_, {}) + Distance(guess.centre, CentreOf(size_, {}));
+        known.centreDeviation =
+            circle_ ? 0.005 * circle_->radius : 0.005 * std::max(size_.width, size_.height);
+        if (circle_ && options_.circleAtNinety) {
+            known.ninetyRadius = circle_->radius;
+        }
+        if (options_.focalMillimetres && options_.pixelsPerMillimetre) {
+            known.focalPixels = *options_.focalMillimetres * *options_.pixelsPerMillimetre;
+        }
+        return known;
+    }
+
+    void Store(double reach) {
+        const LensView& view = measured_.solved->lens;
+        const bool inMillimetres = options_.pixelsPerMillimetre.has_value();
+        measured_.pixelsPerUnit =
+            inMillimetres ? *options_.pixelsPerMillimetre : RimOf(size_, circle_);
+        SampledLens lens = ToSampledLens(view, reach, measured_.pixelsPerUnit, size_);
+        lens.name = options_.lensName;
+        lens.unit = inMillimetres ? SampledLens::Unit::Millimetres : SampledLens::Unit::CircleRadii;
+        lens.origin.kind = LensOrigin::Kind::Measured;
+        lens.origin.date = options_.date;
+        lens.origin.residual = measured_.solved->heldOutAfter;
+        for (const MeasuredPhoto& photo : photos_) {
+            lens.origin.photos.append(photo.name);
+        }
+        measured_.lens = std::move(lens);
+        StoreColour();
+    }
+
+    // From the first photo whose edges tell.
+    void StoreColour() {
+        for (std::size_t n = 0; n < photos_.size() && options_.colour && !measured_.colour; ++n) {
+            std::vector<EdgeTrace> own = measured_.edges;
+            std::erase_if(own,
+                          [n](const EdgeTrace& edge) { return edge.photo != static_cast<int>(n); });
+            measured_.colour = EstimateColour(*photos_[n].bitmap, own, measured_.solved->lens);
+        }
+        if (measured_.colour) {
+            const auto inUnits = [this](const ColourShift& shift) {
+                const double unit = measured_.pixelsPerUnit;
+                return ColourShift{shift.first / unit, shift.third / unit, shift.fifth / unit};
+            };
+            measured_.lens.red = inUnits(measured_.colour->red.shift);
+            measured_.lens.blue = inUnits(measured_.colour->blue.shift);
+        }
+    }
+
+    const std::vector<MeasuredPhoto>& photos_;
+    const MeasureOptions& options_;
+    const PixelSize size_;
+    std::optional<ImageCircle> circle_;
+    Measurement measured_;
+};
+
+}  // namespace
+
+LensView TypicalFisheye(PixelSize size, const std::optional<ImageCircle>& circle) {
+    const auto scale = static_cast<float>(std::numbers::sqrt2 * RimOf(size, circle));
+    return ViewOfFormula(LensKind::Sin, {scale, 0.5F}, 1.0, CentreOf(size, circle));
+}
+
+SampledLens ToSampledLens(const LensView& view, double reach, double pixelsPerUnit,
+                          PixelSize size) {
+    const double limit = std::clamp(view.curve.At(reach).angle, 0.1, 3.1);
+    SampledLens lens;
+    lens.knots =
+        SampledFrom([&](double angle) { return view.curve.Radius(angle) / pixelsPerUnit; }, limit)
+            .knots;
+    lens.centre = LensCentre{view.centre.x, view.centre.y, size};
+    return lens;
+}
+
+Measurement MeasureLens(const std::vector<MeasuredPhoto>& photos, const MeasureOptions& options) {
+    Measurement refused;
+    refused.error = MeasureError::NoPhoto;
+    if (photos.empty()) {
+        return refused;
+    }
+    const PixelSize size = photos.front().bitmap->Size();
+    refused.error = MeasureError::SizesDiffer;
+    for (const MeasuredPhoto& photo : photos) {
+        if (photo.bitmap->Size().width != size.width ||
+            photo.bitmap->Size().height != size.height) {
+            return refused;
+        }
+    }
+    return Measuring(photos, options).Run();
+}
+
+}  // namespace varnel

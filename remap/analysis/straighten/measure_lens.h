@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A lens measured from photos that it took. Throws std::bad_alloc, and RunTimeError for a guess
+// whose knots are no curve.
+#pragma once
+
+#include <QDate>
+#include <optional>
+
+#include "remap/analysis/circle_finder.h"
+#include "remap/analysis/straighten/colour_estimate.h"
+#include "remap/analysis/straighten/lens_solver.h"
+
+namespace varnel {
+
+struct MeasuredPhoto {
+    const Bitmap* bitmap = nullptr;  // 24 bits
+    QString name;
+};
+
+struct MeasureOptions {
+    QString lensName;
+    QDate date;
+    std::optional<LensView> guess = {};  // none: a typical fisheye, 180 degrees across the circle
+                                         // or, without a circle, the diagonal
+    std::optional<ImageCircle> circle = {};  // as circle_finder.h has it; none: it is looked for
+    bool circleAtNinety = false;             // the circle is known to lie at 90 degrees
+    std::optional<double> pixelsPerMillimetre = {};  // on the sensor; none: radii of the circle
+    std::optional<double> focalMillimetres = {};     // needs pixelsPerMillimetre
+    std::vector<EdgeTrace> edges = {};               // none: they are found
+    bool colour = false;                             // estimate the colour shifts as well
+};
+
+enum class MeasureError { None, NoPhoto, SizesDiffer, TooFewEdges };
+
+struct Measurement {
+    MeasureError error = MeasureError::None;  // but for None the rest is of no use
+    SampledLens lens;
+    double pixelsPerUnit = 0.0;  // of the lens's radii on the photos
+    std::optional<FoundCircle> circle;
+    std::vector<EdgeTrace> edges;  // in the order of the results
+    std::optional<SolvedLens> solved;
+    std::optional<ColourEstimates> colour;  // in pixels
+};
+
+// Up to four photos of one size, held alike, of one lens at one setting.
+Measurement MeasureLens(const std::vector<MeasuredPhoto>& photos, const MeasureOptions& options);
+
+// The lens of a result. Its unit is the millimetre, where there are pixels per millimetre;
+// otherwise pixelsPerUnit is the radius of the circle.
+SampledLens ToSampledLens(const LensView& view, double reach, double pixelsPerUnit, PixelSize size);
+
+// A typical fisheye for a photo: see MeasureOptions.
+LensView TypicalFisheye(PixelSize size, const std::optional<ImageCircle>& circle);
+
+}  // namespace varnel

@@ -99,6 +99,9 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
         return FromCatalogues(*options.camera, *options.lens);
     }
     GearTable table = StoredGears(store);
+    if (HasOnlyLens(options)) {
+        return GearChoice{std::nullopt, std::move(table), true, true};
+    }
     if (IsAutomatic(options.gear)) {
         return GearChoice{std::nullopt, std::move(table), options.gear == guessGear};
     }
@@ -130,7 +133,7 @@ std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choic
     if (found.IsWhole()) {
         return BuiltGear(found.names);
     }
-    if (choice.guesses && !NamesPlainLens(origin)) {
+    if (choice.anyLens || (choice.guesses && !NamesPlainLens(origin))) {
         return std::nullopt;
     }
     return QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")

@@ -29,6 +29,7 @@ struct GearChoice {
     std::optional<GearRecord> forAll;  // without it each photo gets its own
     GearTable table;                   // to find that in
     bool guesses = false;              // a typical fisheye stands in for what is not known
+    bool anyLens = false;              // the lens is given apart: only cameras count
 };
 
 // From the catalogues when a camera and a lens are given, each photo's own for the name "auto",

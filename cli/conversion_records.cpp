@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "cli/like_picture.h"
+#include "gear/catalogue/gear_catalogue.h"
 #include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/conversion/output_name.h"
@@ -93,6 +94,17 @@ FrameReading ReadFound(const std::optional<GearRecord>& gear, const Bitmap* phot
                 : GuessFrame(photo->metadata.photo.origin, found, record);
 }
 
+// The gear with the lens of its own; of a photo whose camera is not known the longer side is 36 mm,
+// as for a guess.
+GearRecord WithCurve(const LensReference& curve, const std::optional<GearRecord>& known,
+                     const Bitmap* photo, const ImageRecord& record) {
+    const CameraInfo origin = photo == nullptr ? CameraInfo() : photo->metadata.photo.origin;
+    GearRecord gear = known ? *known : CameraGear(origin, record);
+    GiveLens(curve, gear);
+    gear.GearName = BuiltGearName(NamesOf(gear)).trimmed();
+    return gear;
+}
+
 }  // namespace
 
 StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
@@ -105,8 +117,18 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
     record.FileName = file.fileName();
     record.Folder = file.path() == QStringLiteral("/") ? QString() : file.path();
     TakeSize(size, record);
-    GiveGear(options, gear.value_or(GearRecord()), record);
-    if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
+    GiveGear(
+        options,
+        options.curve ? WithCurve(options.curve, gear, photo, record) : gear.value_or(GearRecord()),
+        record);
+    if (options.curve) {
+        if (!TakeLensScale(record) && options.circle == CircleUse::Found && photo != nullptr &&
+            !ShapeError(record).isEmpty()) {
+            reading = ReadFrame(FindPhotoCircle(photo), record);
+            started.notes = NotesOn(reading);
+        }
+        reading.source = GearSource::Measured;
+    } else if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
         reading = ReadFound(gear, photo, record);
         started.notes = NotesOn(reading);
         if (reading.source != GearSource::Exif || reading.cropped) {

@@ -5,11 +5,13 @@
 
 #include <QFileInfo>
 
+#include "base/error_text.h"
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
 #include "cli/options/help_text.h"
+#include "gear/lens/lens_file.h"
 
 namespace varnel {
 
@@ -27,6 +29,19 @@ QString MissingFolder(const Options& options) {
                : QStringLiteral("%1: there is no such folder; make it first").arg(folder);
 }
 
+// Empty, or why the lens cannot be used.
+QString TakeLensFile(Options& options) {
+    if (options.lensFile.isEmpty()) {
+        return {};
+    }
+    LensReading reading = ReadLensFile(options.lensFile);
+    if (!reading.lens) {
+        return ErrorText(reading.reason);
+    }
+    options.curve = std::make_shared<const SampledLens>(*std::move(reading.lens));
+    return {};
+}
+
 int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const QString missing = MissingFolder(options); !missing.isEmpty()) {
         return Refuse(console, missing);
@@ -37,6 +52,9 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     }
     for (const QString& note : std::get<QStringList>(notes)) {
         Complain(console, note);
+    }
+    if (const QString error = TakeLensFile(options); !error.isEmpty()) {
+        return Refuse(console, error);
     }
     const auto gears = options.likeRecord && !NamesGear(options) ? GearChoice{GearRecord(), {}}
                                                                  : ChooseGear(options, store);

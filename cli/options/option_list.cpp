@@ -25,6 +25,8 @@ constexpr std::array gearRows{
               u"or X,Y,R in pixels."},
     OptionRow{u"camera", u"BRAND/MODEL", u"A camera of the catalogue, with --lens."},
     OptionRow{u"lens", u"BRAND/MODEL", u"A lens of the catalogue, with --camera."},
+    OptionRow{u"lens-file", u"FILE",
+              u"A lens of its own curve, as JSON, in the place of the gear's lens."},
     OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},
     OptionRow{u"list-cameras", nullptr, u"List the cameras (of a brand) as BRAND/MODEL."},
     OptionRow{u"list-lenses", nullptr, u"List the lenses (of a brand) as BRAND/MODEL."},

@@ -113,7 +113,8 @@ void TakeNumbers(const QCommandLineParser& parser, Options& options) {
 }
 
 void TakeCircle(const QCommandLineParser& parser, Options& options) {
-    options.circle = IsAutomatic(options.gear) ? CircleUse::Found : CircleUse::Off;
+    const bool byPhoto = IsAutomatic(options.gear) || HasOnlyLens(options);
+    options.circle = byPhoto ? CircleUse::Found : CircleUse::Off;
     if (const QString option = QStringLiteral("circle"); parser.isSet(option)) {
         std::tie(options.circle, options.givenCircle) = CircleOfOption(parser.value(option));
     }
@@ -129,11 +130,12 @@ Options Take(const QCommandLineParser& parser) {
     options.projectionGiven = parser.isSet(QStringLiteral("projection"));
     options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
     options.gear = parser.value(QStringLiteral("gear"));
-    TakeCircle(parser, options);
+    options.lensFile = parser.value(QStringLiteral("lens-file"));
     TakeIfSet(parser, u"camera", options.camera,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
     TakeIfSet(parser, u"lens", options.lens,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("lens"), text); });
+    TakeCircle(parser, options);
     TakeNumbers(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
         options.fields.push_back(FieldOf(text));
@@ -260,6 +262,10 @@ void CheckTogether(const Options& options) {
 }
 
 }  // namespace
+
+bool HasOnlyLens(const Options& options) {
+    return !options.lensFile.isEmpty() && options.gear.isEmpty() && !options.camera;
+}
 
 bool IsAutomatic(const QString& gear) {
     return gear == autoGear || gear == guessGear;

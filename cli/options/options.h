@@ -51,6 +51,8 @@ struct Options {
     QString gear;
     CircleUse circle = CircleUse::Off;  // on by default where each photo gets a gear of its own
     ImageCircle givenCircle;
+    QString lensFile;     // a lens as JSON
+    LensReference curve;  // what it holds, once it was read
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
     std::vector<Adjustment> adjustments;
@@ -75,6 +77,9 @@ struct Options {
     bool advises = true;  // errors name the options that help; off for a program without them
     bool json = false;    // what is reported of each result goes to out as JSON, all else to err
 };
+
+// A lens from a file, and no gear for its camera.
+bool HasOnlyLens(const Options& options);
 
 // The options, or one line that says what is wrong with the command line. The first argument is the
 // program's name. Numbers have a decimal point whatever the locale.

@@ -3,6 +3,7 @@
 
 #include "gear/catalogue/gear_catalogue.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/rounding.h"
@@ -58,6 +59,11 @@ double AngleOfView(LensKind kind, const GearRecord& gear, float sensorSide) {
     const double radius = static_cast<double>(gear.ImageCircleRadius);
     const double side = static_cast<double>(sensorSide);
     const double halfExtent = 2.0 * radius < side ? radius : side / 2.0;
+    if (gear.Lens) {
+        const bool inMillimetres = gear.Lens->unit == SampledLens::Unit::Millimetres;
+        const double unit = inMillimetres ? 1.0 : radius;
+        return 360.0 * LensSpline(*gear.Lens).AngleAt(halfExtent / unit) / static_cast<double>(Pi);
+    }
     const double relative = halfExtent / static_cast<double>(gear.LensMapScale);
     const double factor = static_cast<double>(gear.LensMapFactor);
     const double pi = static_cast<double>(Pi);
@@ -106,12 +112,27 @@ void FillAngles(GearRecord& gear) {
         gear.GearRatio = static_cast<float>(50.0 * static_cast<double>(gear.SensorWidth) /
                                             static_cast<double>(gear.ImageCircleRadius));
     }
-    if (gear.LensMapScale != 0.0F && gear.LensMapFactor != 0.0F) {
+    if (gear.Lens || (gear.LensMapScale != 0.0F && gear.LensMapFactor != 0.0F)) {
         const LensKind kind =
             CatalogueMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString());
         gear.hAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorWidth));
         gear.vAOV = static_cast<float>(AngleOfView(kind, gear, gear.SensorHeight));
     }
+}
+
+void GiveLens(const LensReference& lens, GearRecord& gear) {
+    gear.LensBrand = ownLensBrand;
+    gear.LensModel = lens->name;
+    gear.Lens = lens;
+    gear.LensMapScale = 0.0F;
+    gear.LensMapFactor = 0.0F;
+    gear.LensShift = 0.0F;
+    gear.LensFieldAngle = static_cast<float>(360.0 * lens->FieldLimit() / static_cast<double>(Pi));
+    if (lens->unit == SampledLens::Unit::Millimetres) {
+        const double rim = std::min(lens->FieldLimit(), static_cast<double>(Pi) / 2.0);
+        gear.ImageCircleRadius = static_cast<float>(LensSpline(*lens).RadiusAt(rim));
+    }
+    FillAngles(gear);
 }
 
 bool HasOwnCircle(const GearRecord& gear) {

@@ -4,6 +4,7 @@
 // Fills a gear from its camera's and its lens's names. Throws nothing.
 #pragma once
 
+#include <QLatin1StringView>
 #include <QString>
 
 #include "state/records/gear_record.h"
@@ -40,6 +41,13 @@ void FillGearFromCatalogue(const GearNames& names, GearRecord& gear,
 // The angles of view and the ratio that follow from the gear's other numbers; what their zeros
 // leave open stays.
 void FillAngles(GearRecord& gear);
+
+// The brand under which lenses of one's own are listed.
+inline constexpr QLatin1StringView ownLensBrand("My lenses");
+// Puts a sampled lens, which must be there, in the place of the gear's lens: its image circle ends
+// at 90 degrees or at the limit of its field; a lens in units of the circle keeps the gear's
+// circle. Throws RunTimeError for a curve that LensSpline does not take.
+void GiveLens(const LensReference& lens, GearRecord& gear);
 
 // Whether the gear's circle (ratio and offsets) or its horizontal angle differs from the
 // catalogue's by more than storing a number as text changes it.

@@ -24,6 +24,8 @@ struct SourceFrame {
     SensorSize sensor;
     CentreShift shift{};  // of the image circle's centre from the photo's middle, whole pixels
     float ratio = 0.0F;   // the sensor's width in percent of the circle's diameter
+    // Of a pixel: where a sampled lens has its optical axis beside that centre, y upward.
+    CentreShift fraction{};
 
     // Throws DivisionByZeroError when the side of the sensor that counts is 0.
     double PixelsPerMillimetre() const { return PixelsPerUnit(size.width, landscape, sensor); }

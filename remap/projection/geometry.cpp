@@ -31,8 +31,35 @@ LensKind LensMappingKind(std::string_view lensBrand, std::string_view lensModel)
 double LensRadius(LensKind kind, double theta, const LensCurve& curve) {
     const double scale = static_cast<double>(curve.scale);
     const double factor = static_cast<double>(curve.factor);
-    return kind == LensKind::Sin ? scale * std::sin(theta * factor)
-                                 : scale * std::tan(theta / factor);
+    switch (kind) {
+        case LensKind::Sin:
+            return scale * std::sin(theta * factor);
+        case LensKind::Tan:
+            return scale * std::tan(theta / factor);
+        case LensKind::Sampled:
+            break;
+    }
+    return scale * curve.spline->RadiusAt(theta);
+}
+
+double LensAngle(LensKind kind, double radius, const LensCurve& curve) {
+    const double scale = static_cast<double>(curve.scale);
+    const double factor = static_cast<double>(curve.factor);
+    switch (kind) {
+        case LensKind::Sin:
+            return std::asin(radius / scale) / factor;
+        case LensKind::Tan:
+            return std::atan(radius / scale) * factor;
+        case LensKind::Sampled:
+            break;
+    }
+    return curve.spline->AngleAt(radius / scale);
+}
+
+void CheckLensFactor(LensKind kind, const LensCurve& curve) {
+    if (kind != LensKind::Sampled) {
+        NonZero(static_cast<double>(curve.factor), "LensMapFactor");
+    }
 }
 
 double PixelsPerUnit(std::int32_t sourceWidth, bool landscape, const SensorSize& sensor) {
@@ -58,6 +85,18 @@ double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor
     const float effective = EffectiveAngle(Radians(outputAovDegrees), effectPercent);
     const double partial = std::sin(factor * static_cast<double>(effective) / 2.0);
     return std::sin(full) / NonZero(partial, ReasonCode::SineOfHalfAngle);
+}
+
+double EffectRatio(float outputAovDegrees, float effectPercent, LensKind kind,
+                   const LensCurve& curve) {
+    if (kind != LensKind::Sampled) {
+        return EffectRatio(outputAovDegrees, effectPercent, curve.factor);
+    }
+    const double full = static_cast<double>(Radians(outputAovDegrees)) / 2.0;
+    const double partial =
+        static_cast<double>(EffectiveAngle(Radians(outputAovDegrees), effectPercent)) / 2.0;
+    return LensRadius(kind, full, curve) /
+           NonZero(LensRadius(kind, partial, curve), ReasonCode::SineOfHalfAngle);
 }
 
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {

@@ -7,21 +7,25 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 #include "base/pixel_size.h"
+#include "remap/projection/lens_spline.h"
 
 namespace varnel {
 
 // Sin: r = scale * sin(theta * factor). Tan: r = scale * tan(theta / factor). The factor multiplies
-// in one and divides in the other; the catalogue's figures are made for that.
-enum class LensKind { Sin, Tan };
+// in one and divides in the other; the catalogue's figures are made for that. Sampled: scale times
+// what the spline says.
+enum class LensKind { Sin, Tan, Sampled };
 
 std::string_view ToText(LensKind kind);
 
 struct LensCurve {
-    float scale = 0.0F;   // millimetres
+    float scale = 0.0F;   // millimetres; of a sampled lens, for each of its unit
     float factor = 0.0F;  // no unit
+    std::shared_ptr<const LensSpline> spline{};  // of a sampled lens
 };
 
 struct SensorSize {
@@ -77,6 +81,10 @@ LensKind CatalogueMappingKind(std::string_view lensBrand, std::string_view lensM
 
 // Distance from the image-circle centre on the sensor, millimetres, of a ray at theta >= 0.
 double LensRadius(LensKind kind, double theta, const LensCurve& curve);
+// The inverse, radians; not a number where a two-number lens shows no such radius.
+double LensAngle(LensKind kind, double radius, const LensCurve& curve);
+// Throws DivisionByZeroError when the factor of a two-number lens is 0.
+void CheckLensFactor(LensKind kind, const LensCurve& curve);
 
 // Source pixels per millimetre on the sensor. The width of an upright frame lies along the sensor's
 // height. Throws DivisionByZeroError when that side of the sensor is 0.
@@ -92,6 +100,9 @@ float EffectiveAngle(float outputAov, float effectPercent);
 // numerator takes the angle in degrees, the denominator the effective angle in radians. Throws
 // DivisionByZeroError when the denominator's sine is 0.
 double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor);
+// The same for a lens: of a sampled one the ratio of the radii at half the two angles.
+double EffectRatio(float outputAovDegrees, float effectPercent, LensKind kind,
+                   const LensCurve& curve);
 
 // Offsets in thousandths of width and height, rounded down to whole pixels.
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY);

@@ -31,14 +31,6 @@ Ray Unit(const Ray& ray) {
     return {ray.x / length, ray.y / length, ray.z / length};
 }
 
-// The angle from the optical axis that a lens shows at a radius in its own unit.
-double LensAngle(LensKind kind, double radius, const LensCurve& curve) {
-    const double scale = static_cast<double>(curve.scale);
-    const double factor = static_cast<double>(curve.factor);
-    return kind == LensKind::Sin ? std::asin(radius / scale) / factor
-                                 : std::atan(radius / scale) * factor;
-}
-
 double MedianDistance(std::span<const Ray> rays, const Ray& normal, std::vector<double>& room) {
     room.clear();
     for (const Ray& ray : rays) {
@@ -171,7 +163,7 @@ std::optional<Ray> SourceRay(const RectilinearView& view, const SourceOffset& of
     NonZero(static_cast<double>(view.curve.scale), "LensMapScale");
     NonZero(static_cast<double>(view.curve.factor), "LensMapFactor");
     const double scale = view.source.PixelsPerMillimetre() *
-                         EffectRatio(view.outputAov, view.effect, view.curve.factor);
+                         EffectRatio(view.outputAov, view.effect, view.kind, view.curve);
     const double distance = std::hypot(offset.u, offset.v);
     if (distance == 0.0) {
         return Ray{0.0, 0.0, 1.0};

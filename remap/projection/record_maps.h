@@ -17,7 +17,12 @@ struct Frames {
     OutputFrame output;
 };
 
-// For a photo of that size; without a wish the result is as large.
+// Whether the lens states its optical axis for pictures of that shape (within 1 %).
+bool HasCentreFor(const SampledLens& lens, PixelSize picture);
+
+// For a photo of that size. The axis of a sampled lens that states it for such pictures is moved by
+// the record's offsets; it is not rounded to whole pixels, nor are they. Without a wish the result
+// is as large.
 Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wish = {});
 
 RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames);

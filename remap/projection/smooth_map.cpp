@@ -32,7 +32,10 @@ std::vector<ResultLine> AllLines(std::int32_t centre, std::int32_t size) {
 }  // namespace
 
 SmoothMap::SmoothMap(const SourceFrame& source, const OutputFrame& output)
-    : sourceCentre_(source.Centre()), output_(output), extents_(output.Extents()) {}
+    : sourceCentre_(source.Centre()),
+      fraction_(source.fraction),
+      output_(output),
+      extents_(output.Extents()) {}
 
 LoopAxis SmoothMap::ColumnAxis() const {
     return {0.0, extents_.cx, extents_.left, extents_.right, "TranslateX"};

@@ -52,6 +52,18 @@ class NodesBy : public SmoothNodes {
     Formula formula_;
 };
 
+// A formula whose offsets are all moved by the same.
+template <class Formula>
+struct MovedFormula {
+    Formula formula;
+    CentreShift move;
+
+    SourceOffset At(double x, double y) const {
+        const SourceOffset offset = formula.At(x, y);
+        return {offset.u + move.x, offset.v + move.y};
+    }
+};
+
 class SmoothMap : public ProjectionMap {
   public:
     // The offset at a loop position. Throws nothing.
@@ -80,8 +92,25 @@ class SmoothMap : public ProjectionMap {
     // Throws OverflowError.
     SmoothMap(const SourceFrame& source, const OutputFrame& output);
 
+    // Whether the optical axis goes through the middle of a pixel.
+    bool IsAxisWhole() const { return fraction_.x == 0.0 && fraction_.y == 0.0; }
+    // An offset from the optical axis as one from the source's centre pixel.
+    SourceOffset FromAxis(const SourceOffset& offset) const {
+        return {offset.u + fraction_.x, offset.v + fraction_.y};
+    }
+    // The nodes of a formula of offsets from the axis.
+    template <class Formula>
+    std::unique_ptr<SmoothNodes> NodesFromAxis(const Formula& formula) const {
+        if (IsAxisWhole()) {
+            return std::make_unique<NodesBy<Formula>>(formula);
+        }
+        return std::make_unique<NodesBy<MovedFormula<Formula>>>(
+            MovedFormula<Formula>{formula, fraction_});
+    }
+
   private:
     PixelPosition sourceCentre_;
+    CentreShift fraction_;
     OutputFrame output_;
     CentreAndExtents extents_;
 };

@@ -12,6 +12,7 @@
 #include "gear/from_photo/lens_name.h"
 #include "gear/from_photo/photo_camera.h"
 #include "gear/from_photo/photo_lens.h"
+#include "remap/projection/record_maps.h"
 #include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
@@ -46,12 +47,15 @@ void TakePiece(double millimetresPerPixel, ImageRecord& image) {
     RenewAngles(image);
 }
 
-// The largest piece of the sensor that has the picture's shape, in its middle.
-void TakeLargestPiece(ImageRecord& image) {
+// Millimetres per pixel of the largest piece of the sensor that has the picture's shape.
+double LargestPiece(const ImageRecord& image) {
     const auto [shorter, longer] = std::minmax(image.Width, image.Height);
-    const double perPixel = std::min(static_cast<double>(image.SensorWidth) / longer,
-                                     static_cast<double>(image.SensorHeight) / shorter);
-    TakePiece(perPixel, image);
+    return std::min(static_cast<double>(image.SensorWidth) / longer,
+                    static_cast<double>(image.SensorHeight) / shorter);
+}
+
+void TakeLargestPiece(ImageRecord& image) {
+    TakePiece(LargestPiece(image), image);
     if (image.ImageCircleRadius > 0.0F) {
         image.Ratio = 50.0F * image.SensorWidth / image.ImageCircleRadius;
     }
@@ -70,20 +74,9 @@ bool NamesFisheye(const LensName& name) {
 }
 
 GearRecord GuessedGear(const CameraInfo& origin, double radius, const ImageRecord& image) {
-    constexpr float usualLongerSide = 36.0F;  // millimetres; any would do: only angles are assumed
-    GearRecord gear;
-    const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
-    if (camera.IsKnown()) {
-        FillGearFromCatalogue({camera.brand, camera.model, {}, {}}, gear);
-    } else {
-        gear.CameraBrand = origin.Make;
-        gear.CameraModel = origin.Model;
-    }
+    GearRecord gear = CameraGear(origin, image);
     gear.GearName = GuessedGearName();
-    gear.SensorWidth = gear.SensorWidth > 0.0F ? gear.SensorWidth : usualLongerSide;
-    const auto [shorter, longer] = std::minmax(image.Width, image.Height);
-    gear.SensorHeight = gear.SensorWidth * shorter / longer;
-    const double millimetres = radius * static_cast<double>(gear.SensorWidth) / longer;
+    const double millimetres = radius * static_cast<double>(gear.SensorWidth) / LongerSide(image);
     gear.ImageCircleRadius = static_cast<float>(millimetres);
     gear.LensFieldAngle = 180.0F;
     // r = 2 f sin(theta / 2), with the circle at 90 degrees.
@@ -123,7 +116,12 @@ void TakeCircle(const ImageCircle& circle, ImageRecord& image) {
     image.OfsetY = static_cast<float>(1000.0 * (circle.y / image.Height - 0.5));
     image.Ratio = static_cast<float>(50.0 * LongerSide(image) / circle.radius);
     if (image.ImageCircleRadius > 0.0F) {
-        TakePiece(static_cast<double>(image.ImageCircleRadius) / circle.radius, image);
+        // Nominal circles are some percent too large or small, and no piece is larger than the
+        // sensor: what is nearly as large as it can be is that large.
+        constexpr double nearly = 0.95;
+        const double largest = LargestPiece(image);
+        const double byCircle = static_cast<double>(image.ImageCircleRadius) / circle.radius;
+        TakePiece(largest > 0.0 && byCircle > nearly * largest ? largest : byCircle, image);
     }
 }
 
@@ -141,6 +139,37 @@ FrameReading ReadFrame(const std::optional<FoundCircle>& found, ImageRecord& ima
         reading.doubts.scale = reading.doubts.centre = true;
     }
     return reading;
+}
+
+bool TakeLensScale(ImageRecord& image) {
+    const PixelSize size = SizeOf(image);
+    if (!image.Lens || !image.Lens->pixelsPerUnit || !HasCentreFor(*image.Lens, size)) {
+        return false;
+    }
+    const bool inMillimetres = image.Lens->unit == SampledLens::Unit::Millimetres;
+    const double unit = inMillimetres ? 1.0 : static_cast<double>(image.ImageCircleRadius);
+    const double reduced = static_cast<double>(image.Lens->centre->size.width) / size.width;
+    TakePiece(unit / *image.Lens->pixelsPerUnit * reduced, image);
+    if (image.ImageCircleRadius > 0.0F) {
+        image.Ratio = 50.0F * image.SensorWidth / image.ImageCircleRadius;
+    }
+    return true;
+}
+
+GearRecord CameraGear(const CameraInfo& origin, const ImageRecord& image) {
+    constexpr float usualLongerSide = 36.0F;  // millimetres
+    GearRecord gear;
+    const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
+    if (camera.IsKnown()) {
+        FillGearFromCatalogue({camera.brand, camera.model, {}, {}}, gear);
+    } else {
+        gear.CameraBrand = origin.Make;
+        gear.CameraModel = origin.Model;
+    }
+    gear.SensorWidth = gear.SensorWidth > 0.0F ? gear.SensorWidth : usualLongerSide;
+    const auto [shorter, longer] = std::minmax(image.Width, image.Height);
+    gear.SensorHeight = gear.SensorWidth * shorter / longer;
+    return gear;
 }
 
 QString GuessedGearName() {

@@ -45,7 +45,7 @@ ImageCircle CircleOf(const ImageRecord& image, PixelSize picture);
 
 // Puts the circle there, which is measured on the record's picture: OfsetX, OfsetY, Ratio, and,
 // where the record knows its lens's circle in millimetres, the sensor's sides as the piece of it
-// that the picture shows.
+// that the picture shows, which is not larger than the sensor.
 void TakeCircle(const ImageCircle& circle, ImageRecord& image);
 
 // Lets the circle that was found on the picture act on a record that has its gear's numbers and no
@@ -54,6 +54,14 @@ void TakeCircle(const ImageCircle& circle, ImageRecord& image);
 // On a whole picture the circle counts if it is off the gear's by more than one percent of the
 // radius and three times its error.
 FrameReading ReadFrame(const std::optional<FoundCircle>& found, ImageRecord& image);
+
+// Where the record's sampled lens states its scale for pictures of that shape, the sensor's sides
+// are made to agree with it. True when they were.
+bool TakeLensScale(ImageRecord& image);
+
+// A gear without a lens: the camera that the file names, with its sensor's longer side where the
+// catalogue knows it, else 36 mm; the shorter side follows the record's picture.
+GearRecord CameraGear(const CameraInfo& origin, const ImageRecord& image);
 
 // The name of the gear that stands in for an unknown lens: "Typical fisheye (guess)".
 QString GuessedGearName();

@@ -77,6 +77,7 @@ void CopyGear(const GearRecord& gear, ImageRecord& image) {
     image.Ratio = gear.GearRatio;
     image.LensMapScale = gear.LensMapScale;
     image.LensMapFactor = gear.LensMapFactor;
+    image.Lens = gear.Lens;
     SetCentre(ShownCentre({gear.OfsetX, gear.OfsetY}, image), image);
 }
 
@@ -102,6 +103,7 @@ GearRecord GearOf(const ImageRecord& image) {
     const CentreOffset centre = GearCentre({image.OfsetX, image.OfsetY}, image);
     gear.OfsetX = centre.x;
     gear.OfsetY = centre.y;
+    gear.Lens = image.Lens;
     gear.GearRatio = image.Ratio;
     gear.hAOV = image.Landscape ? image.InputAOV : 0.0F;
     return gear;

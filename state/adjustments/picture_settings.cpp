@@ -6,10 +6,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QLatin1StringView>
 #include <algorithm>
 #include <array>
+#include <memory>
 
+#include "gear/lens/lens_file.h"
 #include "remap/image/exif_orientation.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
@@ -27,6 +30,9 @@ constexpr QLatin1StringView ProjectionName("Projection");
 constexpr QLatin1StringView Orientation("Orientation");
 constexpr QLatin1StringView NameSuffix("NameSuffix");
 
+constexpr QLatin1StringView Lens("LensCurve");  // a sampled lens, as in its file
+
+constexpr qsizetype longestLens = 10000;
 constexpr qsizetype longestName = 64;
 constexpr qsizetype longestText = 1000;
 constexpr qsizetype mostFurther = 100;  // settings of later versions
@@ -111,6 +117,11 @@ QString RecordedFolder(QString folder) {
     return folder;
 }
 
+// One line of JSON.
+QString LensText(const SampledLens& lens) {
+    return QString::fromUtf8(QJsonDocument(LensToJson(lens)).toJson(QJsonDocument::Compact));
+}
+
 enum class Taking { Taken, NotUsable, OutOfRange, Unknown };
 
 Taking TakeText(const QString& name, const QString& value, ImageRecord& image) {
@@ -140,6 +151,18 @@ Taking TakeNumber(const NumberField& field, const QString& value, ImageRecord& i
     return Taking::Taken;
 }
 
+Taking TakeLens(const QString& value, ImageRecord& image) {
+    if (value.size() > longestLens) {
+        return Taking::NotUsable;
+    }
+    std::optional<SampledLens> lens = LensFromBytes(value.toUtf8()).lens;
+    if (!lens) {
+        return Taking::NotUsable;
+    }
+    image.Lens = std::make_shared<const SampledLens>(*std::move(lens));
+    return Taking::Taken;
+}
+
 Taking TakeFurther(const QString& name, const QString& value, ImageRecord& image) {
     if (!IsSettingName(name) || !IsPlainText(value) ||
         image.FurtherSettings.size() >= mostFurther) {
@@ -161,6 +184,9 @@ Taking Take(const QString& name, const QString& value, ImageRecord& image) {
         const std::optional<Projection> projection = ProjectionFromText(value);
         image.Projection = projection ? static_cast<std::int16_t>(*projection) : image.Projection;
         return projection ? Taking::Taken : Taking::NotUsable;
+    }
+    if (name == Lens) {
+        return TakeLens(value, image);
     }
     if (name == Orientation) {
         const std::optional<int> number = WholeFromText(value);
@@ -210,6 +236,9 @@ PictureSettings SettingsFrom(const ImageRecord& image) {
         settings.insert(name, FieldText(image, name));
     }
     settings.removeIf([](const auto& setting) { return !IsPlainText(setting.value()); });
+    if (image.Lens) {
+        settings.insert(Lens, LensText(*image.Lens));
+    }
     for (const NumberField& field : numberFields) {
         const QString text = FieldText(image, field.name);
         if (FloatFromPointText(text)) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/bool16.h"
+#include "state/records/sampled_lens.h"
 
 namespace varnel {
 
@@ -39,6 +40,7 @@ struct GearRecord {
     float OfsetX = 0.0F;
     float OfsetY = 0.0F;
     float GearRatio = 0.0F;
+    LensReference Lens;      // takes the place of the lens's two numbers where it is there
     bool SetByHand = false;  // angle, ratio or offsets are the user's, not the catalogue's
 
     bool operator==(const GearRecord&) const = default;

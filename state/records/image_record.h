@@ -12,6 +12,7 @@
 
 #include "base/bool16.h"
 #include "state/records/projection.h"
+#include "state/records/sampled_lens.h"
 
 namespace varnel {
 
@@ -53,6 +54,9 @@ struct ImageRecord {
     QString FileName;                // with extension
     QString NameSuffix;              // tells the frames of a morph sequence apart
     std::int16_t Orientation = 1;    // EXIF orientation that was undone on loading
+
+    // Takes the place of the lens's two numbers where it is there.
+    LensReference Lens;
 
     // Settings of later versions, as they were found in a picture: written back as they are.
     QMap<QString, QString> FurtherSettings;

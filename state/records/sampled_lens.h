@@ -11,6 +11,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "base/pixel_size.h"
 
@@ -75,5 +76,21 @@ struct SampledLens {
 };
 
 using SampledLensPointer = std::shared_ptr<const SampledLens>;
+
+// The lens of a record, or none: shared, and compared by what it is.
+class LensReference {
+  public:
+    LensReference() = default;
+    LensReference(SampledLensPointer lens) : lens_(std::move(lens)) {}  // NOLINT: on purpose
+    explicit operator bool() const { return lens_ != nullptr; }
+    const SampledLens& operator*() const { return *lens_; }
+    const SampledLens* operator->() const { return lens_.get(); }
+    bool operator==(const LensReference& other) const {
+        return lens_ == other.lens_ || (lens_ && other.lens_ && *lens_ == *other.lens_);
+    }
+
+  private:
+    SampledLensPointer lens_;
+};
 
 }  // namespace varnel

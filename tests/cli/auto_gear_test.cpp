@@ -9,7 +9,10 @@
 
 #include "cli/convert.h"
 #include "gear/catalogue/gear_catalogue.h"
+#include "gear/lens/lens_file.h"
 #include "gear/store/gear_store.h"
+#include "tests/support/lenses.h"
+#include "tests/support/records.h"
 #include "tests/support/seeds/taken_photos.h"
 
 namespace varnel {
@@ -107,6 +110,39 @@ TEST(GuessedGear, LeavesNoPhotoOutButThoseOfOtherLenses) {
     for (const char* circle : {"", "1,2", "1,2,x", "1,2,0", "nan,2,3", "inf,2,3", "on"}) {
         EXPECT_EQ(run({Q("--circle"), Q(circle), plain}), exitUsage) << circle;
     }
+}
+
+TEST(LensFile, TakesThePlaceOfTheGearsLensAndIsKeptInThePicture) {
+    testing::PictureFolder files;
+    const QString plain = files.Picture(Q("plain.bmp"), OutputType::Bmp);
+    ImageRecord record = testing::FisheyeRecord();
+    const QString lens = files.Path(Q("lens.json"));
+    ASSERT_TRUE(WriteLensFile(lens, testing::SampledLensOf(record)).reason.isEmpty());
+    MemoryStore store;
+    std::ostringstream out, err;
+    const auto run = [&](QStringList arguments) {
+        out.str({});
+        err.str({});
+        arguments = QStringList{Q("varnel-convert"), Q("--force"), Q("--projection=rectilinear"),
+                                Q("--json")} +
+                    arguments;
+        return RunConvert(arguments, store, {out, err, false});
+    };
+    const QString png = files.Path(Q("plain.Rectilinear.PNG"));
+    EXPECT_EQ(run({Q("--lens-file"), lens, Q("--type=png"), plain}), exitAllWritten);
+    EXPECT_NE(out.str().find(R"("gear_source":"measured")"), std::string::npos) << out.str();
+    const QByteArray first = Contents(png);
+    EXPECT_EQ(run({Q("--gear=guess"), Q("--type=png"), plain}), exitAllWritten);
+    EXPECT_NE(Contents(png), first);
+    // As that picture was made, without the file of the lens.
+    testing::WriteFile(files.Path(Q("like.png")), first);
+    QFile::remove(lens);
+    EXPECT_EQ(run({Q("--like"), files.Path(Q("like.png")), Q("--type=png"), plain}),
+              exitAllWritten);
+    EXPECT_EQ(Contents(png), first);
+    EXPECT_EQ(run({Q("--lens-file"), lens, plain}), exitUsage);
+    EXPECT_NE(err.str().find("lens.json"), std::string::npos) << err.str();
+    EXPECT_EQ(run({Q("--lens-file"), plain, plain}), exitUsage);
 }
 
 }  // namespace

@@ -70,16 +70,16 @@ std::unique_ptr<SmoothNodes> EquidistanceMap::Nodes() const {
     const EquidistanceNodes nodes(*this, isFar ? std::max(offPicture - margin, 0) : 0,
                                   std::hypot(centre.left + largestNodeStep * nodesAround,
                                              centre.bottom + largestNodeStep * nodesAround));
-    return std::make_unique<NodesBy<EquidistanceNodes>>(nodes);
+    return NodesFromAxis(nodes);
 }
 
 SourceOffset EquidistanceMap::At(int x, int y) const {
     const double r = std::sqrt(std::pow(y, 2) + std::pow(x, 2));
     if (r == 0.0) {
-        return {};
+        return FromAxis({});
     }
     const double rho = SourceRadius(r);
-    return {x * rho / r, y * rho / r};
+    return FromAxis({x * rho / r, y * rho / r});
 }
 
 }  // namespace varnel

@@ -25,8 +25,8 @@ RectilinearRadius::RectilinearRadius(const RectilinearView& view)
       halfWidth_(view.source.size.width / 2 * view.output.scale),
       tanHalfAngle_(0.0),
       tanStep_(0.0) {
-    NonZero(static_cast<double>(curve_.factor), "LensMapFactor");
-    scale_ *= EffectRatio(view.outputAov, view.effect, curve_.factor);
+    CheckLensFactor(kind_, curve_);
+    scale_ *= EffectRatio(view.outputAov, view.effect, kind_, curve_);
     const float angle = EffectiveAngle(Radians(view.outputAov), view.effect);
     tanHalfAngle_ = std::tan(static_cast<double>(angle) / 2.0);
     tanStep_ = Round8(tanHalfAngle_ / NonZero(halfWidth_, ReasonCode::HalfPictureWidth));
@@ -46,7 +46,7 @@ float RectilinearMap::ProgressAt(int column) const {
 }
 
 std::unique_ptr<SmoothNodes> RectilinearMap::Nodes() const {
-    return std::make_unique<NodesBy<RectilinearNodes>>(RectilinearNodes(radius_));
+    return NodesFromAxis(RectilinearNodes(radius_));
 }
 
 SourceOffset RectilinearMap::At(int x, int y) const {
@@ -54,10 +54,10 @@ SourceOffset RectilinearMap::At(int x, int y) const {
     const double up = y;
     const double r = std::sqrt(across * across + up * up);
     if (r == 0.0) {
-        return {};
+        return FromAxis({});
     }
     const double rho = radius_.At(r);
-    return {across * rho / r, up * rho / r};
+    return FromAxis({across * rho / r, up * rho / r});
 }
 
 RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move)
@@ -70,7 +70,7 @@ RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const 
       shiftY_(Shift(move.translateY, view.source.size.height * view.output.scale, "TranslateY")) {}
 
 std::unique_ptr<SmoothNodes> RotatedRectilinearMap::Nodes() const {
-    return std::make_unique<NodesBy<RotatedRectilinearNodes>>(RotatedRectilinearNodes(*this));
+    return NodesFromAxis(RotatedRectilinearNodes(*this));
 }
 
 LoopAxis RotatedRectilinearMap::ColumnAxis() const {
@@ -95,7 +95,7 @@ SourceOffset RotatedRectilinearMap::At(int x, int y) const {
     const double planeX = focal_ * (sign * ray.x) / ray.z;
     const double planeY = focal_ * (sign * ray.y) / ray.z;
     const double r = std::sqrt(planeX * planeX + planeY * planeY);
-    return r == 0.0 ? SourceOffset{} : PolarOffset(planeX, planeY, radius_.At(r));
+    return FromAxis(r == 0.0 ? SourceOffset{} : PolarOffset(planeX, planeY, radius_.At(r)));
 }
 
 }  // namespace varnel

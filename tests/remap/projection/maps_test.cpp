@@ -15,6 +15,9 @@
 #include "remap/projection/maps/horizon_map.h"
 #include "remap/projection/maps/rectilinear_map.h"
 #include "remap/projection/maps/varnel_map.h"
+#include "remap/projection/projection_info.h"
+#include "tests/support/lenses.h"
+#include "tests/support/records.h"
 
 namespace varnel {
 namespace {
@@ -65,6 +68,37 @@ TEST(RotatedRectilinearMap, ARayStraightSidewaysFindsNothingAndABackwardOneKeeps
     EXPECT_GT(map.At(499, 10).u, 0.0);
     const SourceOffset nowhere = NowhereOnSource();
     EXPECT_TRUE(std::isinf(nowhere.u) && std::isinf(nowhere.v));
+}
+
+TEST(SampledLens, DrawsAsItsFormulaAndAroundItsAxis) {
+    constexpr PixelSize size{6000, 4000};
+    ImageRecord formula = testing::FisheyeRecord();
+    formula.RotateX = 10.0F;
+    formula.EffectRectilinear = 80.0F;
+    ImageRecord sampled = formula;
+    sampled.Lens = std::make_shared<const SampledLens>(testing::SampledLensOf(formula));
+    ImageRecord moved = sampled;
+    moved.Lens = testing::OffCentreLensOf(formula, size);
+    for (const Projection projection : {Projection::Rectilinear, Projection::Equidistance}) {
+        const auto map = [&](const ImageRecord& record) {
+            return InfoOf(projection).Make(record, FramesOf(record, size));
+        };
+        for (const auto& [x, y] : {std::pair{0, 0}, {1, 0}, {-700, 900}, {1300, -900}}) {
+            const SourceOffset expected = map(formula)->OffsetAt(x, y);
+            const SourceOffset offset = map(sampled)->OffsetAt(x, y);
+            EXPECT_NEAR(offset.u, expected.u, 0.3) << "the effect is by the sine form there";
+            EXPECT_NEAR(offset.v, expected.v, 0.3);
+            const SourceOffset around = map(moved)->OffsetAt(x, y);
+            EXPECT_NEAR(around.u, offset.u + 0.3, 1e-9);
+            EXPECT_NEAR(around.v, offset.v + 0.4, 1e-9);
+        }
+    }
+    EXPECT_EQ(FramesOf(moved, size).source.shift.x, 7.0);
+    EXPECT_EQ(FramesOf(moved, size).source.shift.y, -4.0);
+    moved.OfsetX = 0.25F;  // 1.5 pixels
+    EXPECT_NEAR(FramesOf(moved, size).source.fraction.x, -0.2, 1e-6);
+    EXPECT_EQ(FramesOf(moved, size).source.shift.x, 9.0);
+    EXPECT_EQ(FramesOf(moved, {4000, 4000}).source.shift.x, 1.0) << "a picture of another shape";
 }
 
 TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {

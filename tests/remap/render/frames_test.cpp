@@ -10,6 +10,7 @@
 #include "remap/render/reference/render.h"
 #include "remap/render/region_renderer.h"
 #include "tests/remap/render/engine_pictures.h"
+#include "tests/support/lenses.h"
 #include "tests/support/records.h"
 
 namespace varnel {
@@ -43,13 +44,17 @@ std::vector<Shape> Shapes() {
 }
 
 std::vector<ImageRecord> RecordsOf(Projection projection) {
-    std::vector<ImageRecord> records(3, FisheyeRecord());
+    std::vector<ImageRecord> records(5, FisheyeRecord());
     records[1].OfsetX = 33.3F;
     records[1].OfsetY = -20.0F;
     records[2].RotateX = 20.0F;
     records[2].RotateZ = 11.0F;
     records[2].TranslateX = 3.1F;
     records[2].EffectVarnel = 40.0F;
+    records[3].Lens = testing::OffCentreLensOf(records[3], photo);
+    records[4].Lens = records[3].Lens;
+    records[4].RotateY = -15.0F;
+    records[4].OfsetX = 12.3F;
     if (projection == Projection::Horizon) {
         records[0].EffectVarnel = 250.0F;
     }

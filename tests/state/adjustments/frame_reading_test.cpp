@@ -49,6 +49,15 @@ const struct {
                24.0F,
                24.0F,
                107.53F},
+              {"square out of the middle",
+               1000,
+               1000,
+               FoundCircle{{500, 500, 744}, 1},
+               GearSource::Circle,
+               {},
+               15.0F,
+               15.0F,
+               67.2F},
               {"upright piece",
                1600,
                2000,
@@ -142,6 +151,10 @@ TEST(ReadFrame, TakesTheCircleWhereThePictureIsNotTheWholeSensor) {
             EXPECT_EQ(image, before);
         }
     }
+    ImageRecord nominal = Photo(1600, 1600);
+    nominal.ImageCircleRadius = 12.0F;
+    ReadFrame(FoundCircle{{800, 800, 744}, 1}, nominal);
+    EXPECT_NEAR(nominal.SensorWidth, 24.0, 0.01) << "no piece is larger than the sensor";
     ImageRecord square = Photo(1600, 1600);
     ReadFrame(FoundCircle{{800, 800, 744}, 1}, square);
     EXPECT_NEAR(square.InputAOV, 180.0, 0.2) << "of the piece, which has the whole circle";

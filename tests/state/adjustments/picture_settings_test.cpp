@@ -11,6 +11,7 @@
 #include <random>
 
 #include "state/adjustments/record_fields.h"
+#include "tests/support/lenses.h"
 #include "tests/support/records.h"
 #include "tests/support/texts.h"
 
@@ -48,6 +49,7 @@ ImageRecord AwkwardRecord() {
     record.FileName = Text("100% <fish>.tar.jpg");
     record.NameSuffix = Text("Morph0007");
     record.Orientation = 6;
+    record.Lens = testing::OffCentreLensOf(record, {6000, 4000});
     record.FurtherSettings = {{Text("Softness"), Text("12,5 %")}, {Text("Empty"), Text("")}};
     return record;
 }

@@ -12,6 +12,7 @@
 
 #include "app/panels/named_button.h"
 #include "app/panels/photo_list.h"
+#include "state/dialogs/wheel_guard.h"
 
 namespace varnel {
 
@@ -36,6 +37,7 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     gears_->setMinimumContentsLength(16);
     gears_->setFocusPolicy(Qt::StrongFocus);
     gears_->installEventFilter(this);
+    new WheelGuard(gears_);
     applyToAll_ = NamedButton("CmdApplyAll", tr("Apply to all"),
                               tr("Every photo in the list was taken with this gear"), this);
     applyToAll_->setAccessibleName(QStringLiteral("%1: %2").arg(title(), applyToAll_->text()));
@@ -46,13 +48,7 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
     grid->setColumnStretch(0, 1);
 }
 
-// A wheel that passes over the selector on its way down the column must not change the photos'
-// gear.
 bool EquipmentPanel::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == gears_ && event->type() == QEvent::Wheel && !gears_->hasFocus()) {
-        event->ignore();
-        return true;
-    }
     if (watched == gears_ && event->type() == QEvent::Resize) {
         ShowMark();
     }

@@ -8,6 +8,8 @@
 #include <QGridLayout>
 #include <QMouseEvent>
 
+#include "state/dialogs/wheel_guard.h"
+
 namespace varnel {
 
 namespace {
@@ -36,14 +38,14 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
     slider_->setFocusPolicy(Qt::StrongFocus);
     slider_->setToolTip(tip);
     slider_->setAccessibleDescription(tip);
-    slider_->installEventFilter(this);
+    new WheelGuard(slider_);
     spinBox_->setObjectName(QStringLiteral("Spin") + name);
     spinBox_->setRange(facts.minimum, facts.maximum);
     spinBox_->setValue(facts.start);
     spinBox_->setKeyboardTracking(false);
     spinBox_->setFocusPolicy(Qt::StrongFocus);
     spinBox_->setToolTip(tip);
-    spinBox_->installEventFilter(this);
+    new WheelGuard(spinBox_);
     valueLabel_->setObjectName(QString::fromLatin1(facts.valueLabel));
     valueLabel_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
@@ -124,12 +126,6 @@ bool SliderRow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == heading_ && event->type() == QEvent::MouseButtonDblClick && data_.resets &&
         heading_->isEnabled() && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
         Q_EMIT ResetWanted();
-        return true;
-    }
-    // A wheel that passes over a slider on its way down the column must not change the photo.
-    if (event->type() == QEvent::Wheel && watched != heading_ &&
-        !static_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();
         return true;
     }
     return QWidget::eventFilter(watched, event);

@@ -9,6 +9,7 @@
 
 #include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
+#include "state/dialogs/wheel_guard.h"
 #include "ui_form_gear_edit.h"
 
 namespace varnel {
@@ -92,12 +93,6 @@ bool FormGearEdit::eventFilter(QObject* watched, QEvent* event) {
         }
         return false;
     }
-    // A turn of the wheel over a control without the focus must not change the gear.
-    const auto* control = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Wheel && control != nullptr && !control->hasFocus()) {
-        event->ignore();
-        return true;
-    }
     return QDialog::eventFilter(watched, event);
 }
 
@@ -116,7 +111,7 @@ void FormGearEdit::ConnectNameText() {
 
 void FormGearEdit::ConnectChoice() {
     for (QComboBox* combo : findChildren<QComboBox*>()) {
-        combo->installEventFilter(this);
+        new WheelGuard(combo);
     }
     connect(ui_->CameraBrandCombo, &QComboBox::currentTextChanged, this, [this](const QString& b) {
         Offer(ui_->CameraCombo, FillCameraModels(b));
@@ -132,8 +127,8 @@ void FormGearEdit::ConnectChoice() {
 
 void FormGearEdit::ConnectAdjusters() {
     for (const Adjuster& adjuster : adjusters_) {
-        adjuster.slider->installEventFilter(this);
-        adjuster.spin->installEventFilter(this);
+        new WheelGuard(adjuster.slider);
+        new WheelGuard(adjuster.spin);
         connect(adjuster.spin, &QSpinBox::valueChanged, adjuster.slider, &QSlider::setValue);
         connect(adjuster.slider, &QSlider::valueChanged, this, [this, &adjuster](int value) {
             Follow(adjuster, value);

@@ -19,6 +19,7 @@
 #include "pipeline/dialogs/slider_binding.h"
 #include "remap/encode/output_format.h"
 #include "remap/projection/projection_info.h"
+#include "state/dialogs/wheel_guard.h"
 #include "state/settings/default_choices.h"
 #include "ui_form_batch.h"
 
@@ -145,8 +146,8 @@ void FormBatch::ConnectControls() {
     for (const auto& [projection, box] : additions_) {
         connect(box, &QLineEdit::textChanged, this, &FormBatch::ShowNames);
     }
-    ui_->Drive2->installEventFilter(this);
-    ui_->ComboFileType->installEventFilter(this);
+    new WheelGuard(ui_->Drive2);
+    new WheelGuard(ui_->ComboFileType);
     connect(ui_->CmdNewFolder, &QPushButton::clicked, this, &FormBatch::MakeFolder);
     connect(ui_->CmdBatchProcess, &QPushButton::clicked, this, &FormBatch::Process);
     connect(ui_->CmdStop, &QPushButton::clicked, this, &FormBatch::Stop);
@@ -304,15 +305,6 @@ void FormBatch::reject() {
 void FormBatch::done(int result) {
     choices_ = Choices();
     QDialog::done(result);
-}
-
-bool FormBatch::eventFilter(QObject* watched, QEvent* event) {
-    // The wheel only moves what was chosen before, not what happens to lie under the pointer.
-    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace varnel

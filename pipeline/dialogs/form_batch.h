@@ -53,9 +53,6 @@ class FormBatch : public QDialog {
     // After a run, for each entry of the queue that was written, with its file.
     void Written(const ImageRecord& entry, const QString& path);
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void FillChoices();
     void AddNameAdditions();

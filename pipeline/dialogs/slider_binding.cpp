@@ -4,28 +4,13 @@
 #include "pipeline/dialogs/slider_binding.h"
 
 #include <QEvent>
+#include <initializer_list>
+
+#include "state/dialogs/wheel_guard.h"
 
 namespace varnel {
 
 namespace {
-
-// Keeps the wheel from controls without the focus.
-class WheelGuard : public QObject {
-  public:
-    explicit WheelGuard(QWidget* control) : QObject(control) {
-        control->setFocusPolicy(Qt::StrongFocus);
-        control->installEventFilter(this);
-    }
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-            event->ignore();
-            return true;
-        }
-        return false;
-    }
-};
 
 class DoubleClickReset : public QObject {
   public:
@@ -58,8 +43,10 @@ void Bind(QSlider& slider, QSpinBox& spinBox) {
     spinBox.setAccessibleName(slider.accessibleName());
     QObject::connect(&slider, &QSlider::valueChanged, &spinBox, &QSpinBox::setValue);
     QObject::connect(&spinBox, &QSpinBox::valueChanged, &slider, &QSlider::setValue);
-    new WheelGuard(&slider);
-    new WheelGuard(&spinBox);
+    for (QWidget* const control : std::initializer_list<QWidget*>{&slider, &spinBox}) {
+        control->setFocusPolicy(Qt::StrongFocus);
+        new WheelGuard(control);
+    }
 }
 
 void ResetByDoubleClick(QWidget& label, const QList<QSlider*>& sliders) {

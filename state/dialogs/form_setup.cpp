@@ -3,11 +3,11 @@
 
 #include "state/dialogs/form_setup.h"
 
-#include <QEvent>
 #include <algorithm>
 #include <array>
 
 #include "remap/encode/output_type.h"
+#include "state/dialogs/wheel_guard.h"
 #include "state/settings/default_choices.h"
 #include "ui_form_setup.h"
 
@@ -106,11 +106,11 @@ void FormSetup::FillLanguages() {
 void FormSetup::ConnectControls() {
     const auto forget = [this] { ui_->LabelSaved->clear(); };
     for (QSlider* const slider : findChildren<QSlider*>()) {
-        slider->installEventFilter(this);
+        new WheelGuard(slider);
         connect(slider, &QSlider::valueChanged, this, forget);
     }
     for (QComboBox* const combo : findChildren<QComboBox*>()) {
-        combo->installEventFilter(this);
+        new WheelGuard(combo);
         connect(combo, &QComboBox::currentIndexChanged, this, forget);
     }
     for (const Check& check : ChecksOf(*ui_)) {
@@ -140,15 +140,6 @@ void FormSetup::SaveAsDefault() {
     SetMyDefaults();
     SaveDefaults(store_, gear_.DefaultGearName, settings_);
     ui_->LabelSaved->setText(tr("Saved"));
-}
-
-bool FormSetup::eventFilter(QObject* watched, QEvent* event) {
-    // The wheel only moves what was chosen before, not what happens to lie under the pointer.
-    if (event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QDialog::eventFilter(watched, event);
 }
 
 }  // namespace varnel

@@ -31,9 +31,6 @@ class FormSetup : public QDialog {
     // Uses the controls' values for this run.
     void SetMyDefaults();
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void FillGears();
     void FillSizes();

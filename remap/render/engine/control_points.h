@@ -53,6 +53,20 @@ struct ExactLine {
         return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
                             : BlendBilinear(span.source, span.centreX + column, row);
     }
+    // The run of all its pixels into the images; for as long as this and they live.
+    NodeSpan Span(const SourceView& source, bool nearest, std::span<const SpanImage> images) const {
+        return {source,
+                line.u.data(),
+                line.v.data(),
+                line.step,
+                line.count,
+                map.SourceCentre().x,
+                map.SourceCentre().y,
+                nearest,
+                &ExactLine::Colour,
+                this,
+                images};
+    }
 };
 
 // The picture that runs are written into.

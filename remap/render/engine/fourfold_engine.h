@@ -81,17 +81,7 @@ class FourfoldEngine : public Engine {
             }
         }
         const ExactLine exact{map_, line};
-        SampleNodeSpan({source_,
-                        line.u.data(),
-                        line.v.data(),
-                        line.step,
-                        line.count,
-                        map_.SourceCentre().x,
-                        map_.SourceCentre().y,
-                        surface_.Nearest(),
-                        &ExactLine::Colour,
-                        &exact,
-                        {images.data(), count}});
+        SampleNodeSpan(exact.Span(source_, surface_.Nearest(), {images.data(), count}));
     }
 
     const RenderSurface& surface_;

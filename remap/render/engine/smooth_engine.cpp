@@ -76,17 +76,7 @@ void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& s
         spare.resize(static_cast<std::size_t>(line.count) * 3);
         image.target = {spare.data(), 3};
     }
-    SampleNodeSpan({source_,
-                    line.u.data(),
-                    line.v.data(),
-                    line.step,
-                    line.count,
-                    map_.SourceCentre().x,
-                    map_.SourceCentre().y,
-                    surface_.Nearest(),
-                    &ExactLine::Colour,
-                    &exact,
-                    {&image, 1}});
+    SampleNodeSpan(exact.Span(source_, surface_.Nearest(), {&image, 1}));
     if (!columns_.Contiguous()) {
         ScatterLine(line, spare, row);
     }

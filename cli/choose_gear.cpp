@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "cli/options/nearest.h"
+#include "cli/own_lenses.h"
 #include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
@@ -58,9 +59,18 @@ GearRecord BuiltGear(const GearNames& names) {
 }
 
 std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
-                                                 const CatalogueName& lens) {
+                                                 const CatalogueName& lens,
+                                                 const SettingsStore& store) {
     if (const QStringList models = FillCameraModels(camera.brand); !models.contains(camera.model)) {
         return Unknown(QStringLiteral("camera"), camera, FillCameraBrands(), models);
+    }
+    if (const LensReference own =
+            lens.brand == ownLensBrand ? OwnLens(store, lens.model) : LensReference()) {
+        GearRecord gear;
+        FillGearFromCatalogue({camera.brand, camera.model, {}, {}}, gear);
+        GiveLens(own, gear);
+        gear.GearName = BuiltGearName(NamesOf(gear));
+        return GearChoice{gear, {}};
     }
     if (const QStringList models = FillLensModels(lens.brand); !models.contains(lens.model)) {
         return Unknown(QStringLiteral("lens"), lens, FillLensBrands(), models);
@@ -96,7 +106,7 @@ std::optional<GearRecord> DefaultGear(const GearTable& table) {
 
 std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsStore& store) {
     if (options.camera && options.lens) {
-        return FromCatalogues(*options.camera, *options.lens);
+        return FromCatalogues(*options.camera, *options.lens, store);
     }
     GearTable table = StoredGears(store);
     if (HasOnlyLens(options)) {

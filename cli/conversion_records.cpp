@@ -121,13 +121,14 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
         options,
         options.curve ? WithCurve(options.curve, gear, photo, record) : gear.value_or(GearRecord()),
         record);
-    if (options.curve) {
-        if (!TakeLensScale(record) && options.circle == CircleUse::Found && photo != nullptr &&
+    if (record.Lens && (!options.likeRecord || NamesGear(options))) {
+        const bool placed = TakeLensScale(record);
+        if (!placed && options.circle == CircleUse::Found && photo != nullptr &&
             !ShapeError(record).isEmpty()) {
             reading = ReadFrame(FindPhotoCircle(photo), record);
             started.notes = NotesOn(reading);
         }
-        reading.source = GearSource::Measured;
+        reading.source = options.curve ? GearSource::Measured : reading.source;
     } else if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
         reading = ReadFound(gear, photo, record);
         started.notes = NotesOn(reading);

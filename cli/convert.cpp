@@ -5,13 +5,12 @@
 
 #include <QFileInfo>
 
-#include "base/error_text.h"
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
 #include "cli/options/help_text.h"
-#include "gear/lens/lens_file.h"
+#include "cli/own_lenses.h"
 
 namespace varnel {
 
@@ -27,19 +26,6 @@ QString MissingFolder(const Options& options) {
     return QFileInfo::exists(folder)
                ? QStringLiteral("%1: this is no folder; name one").arg(folder)
                : QStringLiteral("%1: there is no such folder; make it first").arg(folder);
-}
-
-// Empty, or why the lens cannot be used.
-QString TakeLensFile(Options& options) {
-    if (options.lensFile.isEmpty()) {
-        return {};
-    }
-    LensReading reading = ReadLensFile(options.lensFile);
-    if (!reading.lens) {
-        return ErrorText(reading.reason);
-    }
-    options.curve = std::make_shared<const SampledLens>(*std::move(reading.lens));
-    return {};
 }
 
 int Convert(Options options, SettingsStore& store, const Console& console) {
@@ -78,11 +64,13 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
         case Command::ListCameras:
         case Command::ListLenses:
         case Command::ListGears:
+        case Command::ImportLens:
             break;
         case Command::Convert:
             return Convert(options, store, console);
     }
-    const auto list = ListFor(options, store);
+    const auto list = options.command == Command::ImportLens ? ImportOwnLenses(options, store)
+                                                             : ListFor(options, store);
     if (const auto* error = std::get_if<QString>(&list)) {
         return Refuse(console, *error);
     }

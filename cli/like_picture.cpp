@@ -66,7 +66,7 @@ std::variant<QStringList, QString> TakeLike(Options& options) {
 }
 
 bool NamesGear(const Options& options) {
-    return !options.gear.isEmpty() || options.camera;
+    return !options.gear.isEmpty() || options.camera || !options.lensFile.isEmpty();
 }
 
 }  // namespace varnel

@@ -5,8 +5,10 @@
 
 #include "cli/choose_gear.h"
 #include "cli/options/nearest.h"
+#include "cli/own_lenses.h"
 #include "cli/report/json_line.h"
 #include "gear/catalogue/camera_catalogue.h"
+#include "gear/catalogue/gear_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
 
 namespace varnel {
@@ -39,6 +41,15 @@ std::variant<QStringList, QString> CatalogueList(const Options& options, const Q
     return lines;
 }
 
+// Those of one's own too, if there are any.
+QStringList LensBrands(const SettingsStore& store) {
+    QStringList brands = FillLensBrands();
+    if (!OwnLensModels(store).isEmpty()) {
+        brands.append(ownLensBrand);
+    }
+    return brands;
+}
+
 QString GearLine(const GearRecord& gear, bool isDefault) {
     return QString::fromUtf8(JsonLine({{u"gear", gear.GearName},
                                        {u"default", isDefault},
@@ -68,7 +79,9 @@ std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore
         case Command::ListCameras:
             return CatalogueList(options, FillCameraBrands(), &FillCameraModels);
         case Command::ListLenses:
-            return CatalogueList(options, FillLensBrands(), &FillLensModels);
+            return CatalogueList(options, LensBrands(store), [&](const QString& brand) {
+                return brand == ownLensBrand ? OwnLensModels(store) : FillLensModels(brand);
+            });
         default:
             return GearList(store, options.json);
     }

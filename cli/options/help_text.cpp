@@ -16,6 +16,7 @@ constexpr char16_t head[] =
     uR"(Usage: varnel-convert [OPTIONS] PHOTO...
        varnel-convert --like PICTURE [OPTIONS] [PHOTO...]
        varnel-convert --list-gears
+       varnel-convert --import-lens FILE
        varnel-convert --list-cameras [BRAND]
        varnel-convert --list-lenses [BRAND]
 

@@ -26,7 +26,10 @@ constexpr std::array gearRows{
     OptionRow{u"camera", u"BRAND/MODEL", u"A camera of the catalogue, with --lens."},
     OptionRow{u"lens", u"BRAND/MODEL", u"A lens of the catalogue, with --camera."},
     OptionRow{u"lens-file", u"FILE",
-              u"A lens of its own curve, as JSON, in the place of the gear's lens."},
+              u"A lens with a curve of its own in the place of the gear's: Varnel's JSON, or a "
+              u"calibration."},
+    OptionRow{u"import-lens", u"FILE",
+              u"Take over the lenses of a calibration or lens database as \"My lenses/...\"."},
     OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},
     OptionRow{u"list-cameras", nullptr, u"List the cameras (of a brand) as BRAND/MODEL."},
     OptionRow{u"list-lenses", nullptr, u"List the lenses (of a brand) as BRAND/MODEL."},

@@ -81,6 +81,7 @@ Command CommandOf(const QCommandLineParser& parser) {
         std::pair{u"list-cameras", Command::ListCameras},
         std::pair{u"list-lenses", Command::ListLenses},
         std::pair{u"list-gears", Command::ListGears},
+        std::pair{u"import-lens", Command::ImportLens},
     };
     for (const auto& [name, command] : commands) {
         if (parser.isSet(OptionText(name))) {
@@ -130,7 +131,9 @@ Options Take(const QCommandLineParser& parser) {
     options.projectionGiven = parser.isSet(QStringLiteral("projection"));
     options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
     options.gear = parser.value(QStringLiteral("gear"));
-    options.lensFile = parser.value(QStringLiteral("lens-file"));
+    options.lensFile =
+        parser.value(options.command == Command::ImportLens ? QStringLiteral("import-lens")
+                                                            : QStringLiteral("lens-file"));
     TakeIfSet(parser, u"camera", options.camera,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("camera"), text); });
     TakeIfSet(parser, u"lens", options.lens,

@@ -19,7 +19,7 @@
 
 namespace varnel {
 
-enum class Command { Convert, ListCameras, ListLenses, ListGears, Help, Version };
+enum class Command { Convert, ListCameras, ListLenses, ListGears, ImportLens, Help, Version };
 
 // The part before the first slash and the rest of BRAND/MODEL.
 struct CatalogueName {
@@ -51,7 +51,7 @@ struct Options {
     QString gear;
     CircleUse circle = CircleUse::Off;  // on by default where each photo gets a gear of its own
     ImageCircle givenCircle;
-    QString lensFile;     // a lens as JSON
+    QString lensFile;     // a lens, or of --import-lens, where they are
     LensReference curve;  // what it holds, once it was read
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;

@@ -131,6 +131,12 @@ void GiveLens(const LensReference& lens, GearRecord& gear) {
     if (lens->unit == SampledLens::Unit::Millimetres) {
         const double rim = std::min(lens->FieldLimit(), static_cast<double>(Pi) / 2.0);
         gear.ImageCircleRadius = static_cast<float>(LensSpline(*lens).RadiusAt(rim));
+    } else if (lens->centre && lens->pixelsPerUnit) {
+        gear.ImageCircleRadius =
+            static_cast<float>(*lens->pixelsPerUnit * static_cast<double>(gear.SensorWidth) /
+                               std::max(lens->centre->size.width, lens->centre->size.height));
+    } else if (gear.ImageCircleRadius == 0.0F) {
+        gear.ImageCircleRadius = gear.SensorHeight / 2.0F;
     }
     FillAngles(gear);
 }

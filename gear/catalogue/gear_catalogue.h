@@ -45,8 +45,9 @@ void FillAngles(GearRecord& gear);
 // The brand under which lenses of one's own are listed.
 inline constexpr QLatin1StringView ownLensBrand("My lenses");
 // Puts a sampled lens, which must be there, in the place of the gear's lens: its image circle ends
-// at 90 degrees or at the limit of its field; a lens in units of the circle keeps the gear's
-// circle. Throws RunTimeError for a curve that LensSpline does not take.
+// at 90 degrees or at the limit of its field; a lens in units of the circle says how large that is
+// on the gear's sensor, or else has the gear's circle, or one as high as the sensor. Throws
+// RunTimeError for a curve that LensSpline does not take.
 void GiveLens(const LensReference& lens, GearRecord& gear);
 
 // Whether the gear's circle (ratio and offsets) or its horizontal angle differs from the

@@ -21,6 +21,7 @@ class AutosavingStore : public SettingsStore {
     AutosavingStore(SettingsStore& store, Notices& notices);
     QString Get(const QString& section, const QString& key, const QString& fallback) const override;
     void Save(const QString& section, const QString& key, const QString& value) override;
+    QString Path() const override { return store_.Path(); }
     Reasons Settle() override;
 
   private:

@@ -45,6 +45,8 @@ class FileStore : public SettingsStore {
         changed_.Set(section, key, value);
     }
 
+    QString Path() const override { return path_; }
+
     Reasons Settle() override {
         Write();
         return std::exchange(messages_, {});

@@ -23,6 +23,8 @@ class SettingsStore {
     virtual QString Get(const QString& section, const QString& key,
                         const QString& fallback) const = 0;
     virtual void Save(const QString& section, const QString& key, const QString& value) = 0;
+    // The file's full name; empty for a store that has none.
+    virtual QString Path() const { return {}; }
     // Writes what was saved to the disk, and returns the messages for the user since the last call,
     // each event once.
     virtual Reasons Settle() { return {}; }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <sstream>
 
 #include "cli/convert.h"
@@ -143,6 +144,33 @@ TEST(LensFile, TakesThePlaceOfTheGearsLensAndIsKeptInThePicture) {
     EXPECT_EQ(run({Q("--lens-file"), lens, plain}), exitUsage);
     EXPECT_NE(err.str().find("lens.json"), std::string::npos) << err.str();
     EXPECT_EQ(run({Q("--lens-file"), plain, plain}), exitUsage);
+    EXPECT_EQ(run({Q("--import-lens"), lens}), exitUsage) << "the store has no folder";
+}
+
+TEST(OwnLenses, AreImportedListedAndUsedByName) {
+    testing::PictureFolder files;
+    const QString plain = files.Picture(Q("plain.bmp"), OutputType::Bmp);
+    const QString lens = files.Path(Q("lens.json"));
+    SampledLens sampled = testing::SampledLensOf(testing::FisheyeRecord());
+    sampled.name = Q("8 mm");
+    ASSERT_TRUE(WriteLensFile(lens, sampled).reason.isEmpty());
+    const auto store =
+        OpenFileStore(files.Path(Q("settings/Varnel.conf")), QDateTime::currentDateTime());
+    std::ostringstream out, err;
+    const auto run = [&](const QStringList& arguments) {
+        out.str({});
+        return RunConvert(QStringList{Q("varnel-convert")} + arguments, *store, {out, err, false});
+    };
+    EXPECT_EQ(run({Q("--list-lenses"), Q("My lenses")}), exitUsage);
+    EXPECT_EQ(run({Q("--import-lens"), lens}), exitAllWritten) << err.str();
+    EXPECT_EQ(out.str(), "My lenses/8 mm\n");
+    EXPECT_EQ(run({Q("--import-lens"), lens}), exitAllWritten);
+    EXPECT_EQ(run({Q("--list-lenses"), Q("My lenses")}), exitAllWritten);
+    EXPECT_EQ(out.str(), "My lenses/8 mm\nMy lenses/8 mm (2)\n");
+    EXPECT_EQ(run({Q("--camera=Canon/EOS 5D"), Q("--lens=My lenses/8 mm"), Q("--json"), plain}),
+              exitAllWritten);
+    EXPECT_NE(out.str().find(R"("gear":"Canon EOS 5D + My lenses 8 mm")"), std::string::npos);
+    EXPECT_EQ(run({Q("--camera=Canon/EOS 5D"), Q("--lens=My lenses/9 mm"), plain}), exitUsage);
 }
 
 }  // namespace

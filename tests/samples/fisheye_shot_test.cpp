@@ -14,8 +14,8 @@ namespace {
 
 using testing::PixelAt;
 
-constexpr LensCurve sinCurve{16.0F, 0.5F};
-constexpr LensCurve tanCurve{26.1F, 3.0F};
+const LensCurve sinCurve{16.0F, 0.5F};
+const LensCurve tanCurve{26.1F, 3.0F};
 
 FisheyeShot ShotOf(LensKind kind, LensCurve curve) {
     FisheyeShot shot;

@@ -9,6 +9,7 @@
 #include "cli/convert_photos.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
+#include "cli/measure_command.h"
 #include "cli/options/help_text.h"
 #include "cli/own_lenses.h"
 
@@ -61,6 +62,8 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
             return Show(console, HelpText());
         case Command::Version:
             return Show(console, QStringLiteral("varnel-convert " VARNEL_VERSION "\n"));
+        case Command::MeasureLens:
+            return RunMeasureLens(options, store, console);
         case Command::ListCameras:
         case Command::ListLenses:
         case Command::ListGears:

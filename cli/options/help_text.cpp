@@ -15,6 +15,7 @@ constexpr qsizetype lastColumn = 80;
 constexpr char16_t head[] =
     uR"(Usage: varnel-convert [OPTIONS] PHOTO...
        varnel-convert --like PICTURE [OPTIONS] [PHOTO...]
+       varnel-convert --measure-lens FILE [--focal MM] PHOTO...
        varnel-convert --list-gears
        varnel-convert --import-lens FILE
        varnel-convert --list-cameras [BRAND]

@@ -91,6 +91,16 @@ std::pair<CircleUse, ImageCircle> CircleOfOption(const QString& text) {
     return {CircleUse::Given, {numbers[0], numbers[1], numbers[2]}};
 }
 
+double FocalLengthOf(const QString& text) {
+    const auto focal = static_cast<double>(NumberOf(QStringLiteral("focal"), text));
+    if (!(focal >= 0.5 && focal <= 100.0)) {
+        throw UsageError{
+            QStringLiteral("--focal needs a fisheye's focal length, 0.5 to 100 mm, not \"%1\"")
+                .arg(text)};
+    }
+    return focal;
+}
+
 PixelSize PreviewBoxOf(const QString& text) {
     constexpr int longest = 32767;
     const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);

@@ -22,6 +22,8 @@ std::vector<Projection> ProjectionsOf(const QString& text);
 CatalogueName CatalogueNameOf(const QString& option, const QString& text);
 // auto, off, or X,Y,R in pixels of the photo from its top left corner.
 std::pair<CircleUse, ImageCircle> CircleOfOption(const QString& text);
+// Millimetres.
+double FocalLengthOf(const QString& text);
 PixelSize PreviewBoxOf(const QString& text);
 OutputType TypeOf(const QString& text);
 // Numbers have a decimal point whatever the locale.

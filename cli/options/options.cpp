@@ -82,6 +82,7 @@ Command CommandOf(const QCommandLineParser& parser) {
         std::pair{u"list-lenses", Command::ListLenses},
         std::pair{u"list-gears", Command::ListGears},
         std::pair{u"import-lens", Command::ImportLens},
+        std::pair{u"measure-lens", Command::MeasureLens},
     };
     for (const auto& [name, command] : commands) {
         if (parser.isSet(OptionText(name))) {
@@ -139,6 +140,9 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"lens", options.lens,
               [](const QString& text) { return CatalogueNameOf(QStringLiteral("lens"), text); });
     TakeCircle(parser, options);
+    options.measureLens =
+        FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("measure-lens")));
+    TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
         options.fields.push_back(FieldOf(text));
@@ -220,7 +224,20 @@ bool IsOtherPictureName(const QString& name) {
     return !OutputTypeByEnding(name) && IsPictureName(name);
 }
 
+void CheckMeasuring(const Options& options) {
+    constexpr qsizetype mostPhotos = 4;
+    const bool measures = options.command == Command::MeasureLens;
+    if (options.focal && !measures) {
+        throw UsageError{QStringLiteral("--focal goes with --measure-lens; leave it out")};
+    }
+    if (measures && (options.files.isEmpty() || options.files.size() > mostPhotos)) {
+        throw UsageError{QStringLiteral("--measure-lens takes one to four photos, not %1")
+                             .arg(options.files.size())};
+    }
+}
+
 void CheckTogether(const Options& options) {
+    CheckMeasuring(options);
     if (options.command != Command::Convert) {
         return;
     }

@@ -19,7 +19,16 @@
 
 namespace varnel {
 
-enum class Command { Convert, ListCameras, ListLenses, ListGears, ImportLens, Help, Version };
+enum class Command {
+    Convert,
+    MeasureLens,
+    ListCameras,
+    ListLenses,
+    ListGears,
+    ImportLens,
+    Help,
+    Version
+};
 
 // The part before the first slash and the rest of BRAND/MODEL.
 struct CatalogueName {
@@ -55,6 +64,8 @@ struct Options {
     LensReference curve;  // what it holds, once it was read
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
+    QString measureLens;          // the file to write a measured lens to
+    std::optional<double> focal;  // of that lens, millimetres
     std::vector<Adjustment> adjustments;
     std::vector<std::pair<QString, QString>> fields;  // of --set
     std::optional<int> morph;                         // frames of a sequence, at least 2

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A lens measured by the command line.
+
+#include <gtest/gtest.h>
+
+#include <QFileInfo>
+#include <sstream>
+
+#include "cli/convert.h"
+#include "gear/lens/lens_file.h"
+#include "samples/fisheye_shot.h"
+#include "tests/support/files.h"
+
+namespace varnel {
+namespace {
+
+QString Q(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+class MeasureCommand : public ::testing::Test {
+  protected:
+    int Run(const QStringList& arguments) {
+        out_.str({});
+        err_.str({});
+        return RunConvert(QStringList{Q("varnel-convert"), Q("--measure-lens"), lens_} + arguments,
+                          store_, {out_, err_, false});
+    }
+    bool ErrorHas(const char* text) const { return err_.str().find(text) != std::string::npos; }
+
+    testing::PictureFolder files_;
+    MemoryStore store_;
+    std::ostringstream out_, err_;
+    const QString lens_ = files_.Path(Q("mine.json"));
+};
+
+TEST_F(MeasureCommand, WritesTheLensOfAPhoto) {
+    FisheyeShot shot;
+    shot.size = {1200, 1200};
+    shot.pixelsPerMillimetre = 50.0;
+    shot.centreX = shot.centreY = 600.0;
+    shot.circleRadius = 11.0;
+    shot.curve = {14.0F, 0.6F};  // not the typical one
+    shot.samples = 2;
+    const BitmapHandle picture = TakeFisheye(LookAt, shot);
+    const QString photo = files_.Path(Q("room.png"));
+    SaveBitmap(OutputType::Png, picture.get(), photo);
+    EXPECT_EQ(Run({photo}), exitAllWritten) << err_.str();
+    EXPECT_NE(out_.str().find("angles are not fixed"), std::string::npos);
+    const LensReading read = ReadLensFile(lens_);
+    ASSERT_TRUE(read.lens);
+    EXPECT_EQ(read.lens->name, Q("mine"));
+    EXPECT_EQ(read.lens->origin.photos, QStringList{Q("room.png")});
+    ASSERT_TRUE(read.lens->centre);
+    EXPECT_NEAR(read.lens->centre->x, 600.5, 2.0);
+    EXPECT_EQ(Run({photo}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("--force"));
+    EXPECT_EQ(Run({Q("--focal=8"), Q("--force"), photo}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("size of the sensor"));
+}
+
+TEST_F(MeasureCommand, WritesNothingWhenSomethingIsWrong) {
+    const QString plain = files_.Picture(Q("plain.bmp"), OutputType::Bmp);
+    EXPECT_EQ(Run({plain}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("too few straight edges")) << err_.str();
+    EXPECT_EQ(Run({files_.Path(Q("none.jpg"))}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("none.jpg"));
+    EXPECT_EQ(Run({}), exitUsage);
+    EXPECT_EQ(Run({Q("--focal=0"), plain}), exitUsage);
+    EXPECT_FALSE(QFileInfo::exists(lens_));
+}
+
+}  // namespace
+}  // namespace varnel

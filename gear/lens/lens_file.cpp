@@ -126,7 +126,7 @@ LensOrigin OriginFrom(Fields fields, const QJsonArray& photos) {
         fields.Require(key, origin.date.isValid());
     }
     fields.Require(QStringLiteral("photos"), photos.size() <= mostPhotos);
-    for (const QJsonValue& photo : photos) {
+    for (const auto& photo : photos) {
         fields.Require(QStringLiteral("photos"), photo.isString());
         origin.photos.append(photo.toString());
     }

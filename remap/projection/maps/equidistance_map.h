@@ -30,6 +30,7 @@ class EquidistanceMap : public SmoothMap {
     double SourceRadius(double r) const;
     // The radius at which a result as large as the photo shows half the frame's angle.
     std::int32_t ReferenceRadius() const { return referenceRadius_; }
+    LensKind Kind() const { return kind_; }
     // The frame's angle in radians.
     double FrameAngle() const { return frameAngle_; }
 

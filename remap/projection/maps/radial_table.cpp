@@ -5,20 +5,14 @@
 
 namespace varnel {
 
-namespace {
-
-constexpr int pieceCount = 128;
-
-}  // namespace
-
 RadialTable::RadialTable(double low, double high, double tolerance,
-                         const std::function<double(double)>& function)
-    : low_(low), perUnit_(pieceCount / (high - low)) {
+                         const std::function<double(double)>& function, int pieces)
+    : low_(low), perUnit_(pieces / (high - low)) {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     const auto value = [&](double place) { return function(low + place / perUnit_); };
-    pieces_.reserve(pieceCount);
+    pieces_.reserve(static_cast<std::size_t>(pieces));
     double first = value(0.0);
-    for (int n = 0; n < pieceCount; ++n) {
+    for (int n = 0; n < pieces; ++n) {
         // The cubic through both ends and two points between; checked in the middle.
         const double p1 = value(n + 1.0 / 3.0);
         const double p2 = value(n + 2.0 / 3.0);

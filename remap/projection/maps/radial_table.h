@@ -18,7 +18,7 @@ class RadialTable {
     // Between low and high (low < high). A piece that misses the function by more than the
     // tolerance is left out.
     RadialTable(double low, double high, double tolerance,
-                const std::function<double(double)>& function);
+                const std::function<double(double)>& function, int pieces = 128);
 
     // Not a number outside of the range and on pieces that were left out.
     double At(double argument) const {

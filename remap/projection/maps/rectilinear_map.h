@@ -44,6 +44,7 @@ class RectilinearRadius {
     double At(double r) const;
     // The same by the ray's angle from the optical axis, radians, not negative.
     double AtAngle(double theta) const;
+    LensKind Kind() const { return kind_; }
     // The tangent of the viewing angle per output pixel, to eight decimals.
     double TanStep() const { return tanStep_; }
     // The half width in pixels of what spans the output angle of view.

@@ -206,7 +206,7 @@ LibraryPicture LibraryReader::WithInks() const {
     switch (format_) {
         case InputFormat::Jpeg:
             return Load(JPEG_CMYK | JPEG_ACCURATE);
-        case InputFormat::Tiff:
+        case InputFormat::Tiff:  // NOLINT(bugprone-branch-clone): one number, two meanings
             return Load(TIFF_CMYK);
         case InputFormat::Psd:
             return Load(PSD_CMYK);

@@ -33,7 +33,7 @@ Values SmoothSlopes(const Values& width, const Values& secant) {
         starts;
     const double ends = width[last - 2] + width[last - 1];
     for (std::size_t n = 1; n <= last; ++n) {
-        double below = width[n - 1];
+        double below = ends;
         if (n < last) {
             // Multiplied by both widths.
             below = width[n];
@@ -41,7 +41,6 @@ Values SmoothSlopes(const Values& width, const Values& secant) {
             above[n] = width[n - 1];
             right[n] = 3.0 * (width[n] * secant[n - 1] + width[n - 1] * secant[n]);
         } else {
-            below = ends;
             diagonal[n] = width[last - 2];
             right[n] = (width[last - 1] * width[last - 1] * secant[last - 2] +
                         (2.0 * ends + width[last - 1]) * width[last - 2] * secant[last - 1]) /

@@ -46,7 +46,7 @@ Numbers NumbersIn(const QJsonValue& value) {
     const QJsonArray array = value.isObject()
                                  ? value.toObject().value(QStringLiteral("data")).toArray()
                                  : value.toArray();
-    for (const QJsonValue& item : array) {
+    for (const auto& item : array) {
         const Numbers inner = item.isDouble() ? Numbers{item.toDouble()}
                               : item.isArray() && !item.toArray().at(0).isArray() ? NumbersIn(item)
                                                                                   : Numbers();
@@ -71,10 +71,10 @@ Reason Take(const QJsonObject& object, const QString& path, const QStringList& k
 
 Reason TakeMatrix(const QJsonObject& object, const QString& path, Calibration& calibration) {
     Numbers matrix;
-    const Reason reason = Take(object, path,
-                               {QStringLiteral("camera_matrix"), QStringLiteral("cameraMatrix"),
-                                QStringLiteral("Camera_Matrix"), QStringLiteral("K")},
-                               9, matrix);
+    Reason reason = Take(object, path,
+                         {QStringLiteral("camera_matrix"), QStringLiteral("cameraMatrix"),
+                          QStringLiteral("Camera_Matrix"), QStringLiteral("K")},
+                         9, matrix);
     if (reason.isEmpty()) {
         calibration.focal = {matrix[0], matrix[4]};
         calibration.centre = {matrix[2], matrix[5]};

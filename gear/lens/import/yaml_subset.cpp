@@ -167,7 +167,7 @@ class Reader {
     QJsonValue Brackets(QString text, int depth) {
         flow_ = std::move(text);
         place_ = 0;
-        const QJsonValue value = Flow(depth + 1);
+        QJsonValue value = Flow(depth + 1);
         if (!Failed() && !flow_.mid(place_).trimmed().isEmpty()) {
             Fail();
         }

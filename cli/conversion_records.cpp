@@ -87,11 +87,10 @@ QStringList NotesOn(const FrameReading& reading) {
                            : QStringList();
 }
 
-FrameReading ReadFound(const std::optional<GearRecord>& gear, const Bitmap* photo,
+FrameReading ReadFound(const std::optional<GearRecord>& gear, const Bitmap& photo,
                        ImageRecord& record) {
-    const auto found = photo == nullptr ? std::nullopt : FindPhotoCircle(photo);
-    return gear ? ReadFrame(found, record)
-                : GuessFrame(photo->metadata.photo.origin, found, record);
+    const auto found = FindPhotoCircle(&photo);
+    return gear ? ReadFrame(found, record) : GuessFrame(photo.metadata.photo.origin, found, record);
 }
 
 // The gear with the lens of its own; of a photo whose camera is not known the longer side is 36 mm,
@@ -130,7 +129,7 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
         }
         reading.source = options.curve ? GearSource::Measured : reading.source;
     } else if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
-        reading = ReadFound(gear, photo, record);
+        reading = ReadFound(gear, *photo, record);
         started.notes = NotesOn(reading);
         if (reading.source != GearSource::Exif || reading.cropped) {
             KeepOfLike(options, record);

@@ -92,7 +92,7 @@ class TiffWalk {
         std::uint64_t place;
         bool isOfMetadata;  // EXIF; only whether it is whole is of interest
 
-        auto operator<=>(const Waiting&) const = default;
+        auto operator<=>(const Waiting&) const = default;  // NOLINT(modernize-use-nullptr)
     };
 
     void NoteCut(bool isOfMetadata) { (isOfMetadata ? facts_.isMetadataCut : facts_.isCut) = true; }

@@ -102,7 +102,7 @@ Reason MakeLens(const Calibration& calibration, SampledLens& lens) {
     const double k1 = NumberAt(model, "RadialDistortParam1", 0.0);
     const double k2 = NumberAt(model, "RadialDistortParam2", 0.0);
     formula.radius = [=](double a) { return pixels * a * (1.0 + a * a * (k1 + a * a * k2)); };
-    const Reason reason = FillKnotsFromPixels(formula, lens);
+    Reason reason = FillKnotsFromPixels(formula, lens);
     if (factor > 0.01 && reason.isEmpty()) {
         const double perMillimetre = std::hypot(width, height) * factor / fullFrameDiagonal;
         lens.unit = SampledLens::Unit::Millimetres;

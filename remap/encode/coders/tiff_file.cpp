@@ -6,6 +6,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iterator>
 #include <map>
 
@@ -92,7 +93,7 @@ QByteArray DirectoryOf(const Entries& entries, bool bigEndian) {
 
 double DotsPerInch(std::uint32_t dotsPerMetre) {
     constexpr double metresPerInch = 0.0254;
-    return static_cast<std::uint32_t>(0.5 + metresPerInch * dotsPerMetre);
+    return std::floor(0.5 + metresPerInch * dotsPerMetre);
 }
 
 }  // namespace

@@ -185,7 +185,10 @@ class EdgeSearching {
             gap = std::min(
                 {gap, Distance(end, other.points.front()), Distance(end, other.points.back())});
         }
-        return Dot(piece.normal, other.normal) > 0.9 && gap < 0.5 * (piece.length + other.length) &&
+        // Where the brighter side changes, as along a chessboard, the ends all but touch.
+        const double alike = Dot(piece.normal, other.normal);
+        const double farthest = alike > 0.0 ? 0.5 * (piece.length + other.length) : 8.0 * block_;
+        return std::fabs(alike) > 0.9 && gap < farthest &&
                OffPlane(piece.normal, other.points.front()) < tolerance &&
                OffPlane(piece.normal, other.points.back()) < tolerance;
     }

@@ -126,16 +126,22 @@ std::vector<EdgePoint> Smooth(const std::vector<EdgePoint>& points) {
 std::vector<EdgePoint> SnappedToEdge(const Bitmap& photo, const std::vector<EdgePoint>& points,
                                      double reach) {
     const std::vector<Crossing> crossings = CrossingsOf(points);
-    double sense = 0.0;
+    std::vector<double> slopes;
     for (const Crossing& crossing : crossings) {
-        const std::vector<double> slopes = Slopes(photo, Channel::Green, crossing, 1.0, 1.0);
-        sense += slopes[0] + slopes[1] + slopes[2];
+        const std::vector<double> near = Slopes(photo, Channel::Green, crossing, 1.0, 1.0);
+        slopes.push_back(near[0] + near[1] + near[2]);
     }
     std::vector<EdgePoint> snapped;
-    for (const Crossing& crossing : crossings) {
-        if (const auto step =
-                SteepestStep(photo, Channel::Green, crossing, reach, sense < 0.0 ? -1.0 : 1.0)) {
-            snapped.push_back(crossing.At(step->offset));
+    for (std::size_t n = 0; n < crossings.size(); ++n) {
+        // The brighter side may change along the edge, but not from point to point.
+        constexpr std::size_t beside = 4;
+        double sense = 0.0;
+        for (std::size_t k = n - std::min(n, beside); k <= n + beside && k < slopes.size(); ++k) {
+            sense += slopes[k];
+        }
+        if (const auto step = SteepestStep(photo, Channel::Green, crossings[n], reach,
+                                           sense < 0.0 ? -1.0 : 1.0)) {
+            snapped.push_back(crossings[n].At(step->offset));
         }
     }
     return Smooth(snapped);

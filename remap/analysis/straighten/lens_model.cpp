@@ -42,7 +42,7 @@ double Held(double value, double low, double high) {
 
 }  // namespace
 
-double LensModel::Form(double slope, double factor, double angle) const {
+double LensModel::TwoNumbers(double slope, double factor, double angle) const {
     if (form_ == CurveForm::Guess) {
         return slope * guess_->curve.Radius(angle) * (1.0 + factor * angle * angle);
     }
@@ -63,7 +63,7 @@ LensModel::LensModel(CurveForm form, int terms, const LensView& guess, const Len
         Numbers rows;
         for (double share = 0.1; share < 1.05; share += 0.1) {
             const double angle = share * std::min(limit_, 1.5);
-            rows.push_back(Form(start * std::exp(numbers[0]), numbers[1], angle) / start -
+            rows.push_back(TwoNumbers(start * std::exp(numbers[0]), numbers[1], angle) / start -
                            guess.curve.Radius(angle) / start);
         }
         return rows;
@@ -83,7 +83,7 @@ LensView LensModel::At(const Numbers& parameters) const {
         const double share = angle / unitAngle;
         const double square = share * share;
         double power = unit * share * square;
-        double sum = Form(slope, factor, angle);
+        double sum = TwoNumbers(slope, factor, angle);
         for (std::size_t n = 4; n < Parameters(); ++n) {
             power *= square;
             sum += power * parameters[n];

@@ -32,12 +32,13 @@ class LensModel {
 
     std::size_t Parameters() const { return 4 + static_cast<std::size_t>(terms_); }
     int Terms() const { return terms_; }
+    CurveForm Form() const { return form_; }
     LensView At(const Numbers& parameters) const;
     // Residuals, in deviations, of what is known beside the edges; curves that turn back cost.
     Numbers Priors(const Numbers& parameters, const LensView& lens) const;
 
   private:
-    double Form(double slope, double factor, double angle) const;
+    double TwoNumbers(double slope, double factor, double angle) const;
 
     CurveForm form_;
     int terms_;

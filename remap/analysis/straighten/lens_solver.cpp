@@ -4,6 +4,7 @@
 #include "remap/analysis/straighten/lens_solver.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -21,7 +22,7 @@ namespace {
 
 constexpr int mostTerms = 3;
 // What a further term has to take from the held-out loss, in deviations squared.
-constexpr double leastGain = 6.0;
+constexpr double leastGain = 1.0;
 // The scale of angles counts as known when it is so within this.
 constexpr double fixedScale = 0.025;
 constexpr double degree = std::numbers::pi / 180.0;
@@ -116,7 +117,8 @@ class Solving {
                 best = one;
             }
         }
-        loss_ = EdgeLoss(Fitted(LensModel(best, mostTerms, guess_, known_), used_, guess_).heldOut);
+        const Candidate rich = Fitted(LensModel(best, mostTerms, guess_, known_), used_, guess_);
+        loss_ = EdgeLoss(rich.heldOut, WeightOf(used_, rich.model.At(rich.fit.parameters)));
         std::optional<Candidate> chosen;
         for (int terms = 0; terms <= mostTerms; ++terms) {
             LensModel model(best, terms, guess_, known_);
@@ -173,6 +175,25 @@ class Solving {
         return points;
     }
 
+    // The fit with all terms.
+    LensView Richest(const Candidate& best) const {
+        const LensModel model(best.model.Form(), mostTerms, guess_, known_);
+        return model.At(FitModel(model, used_, loss_, best.fit.parameters).parameters);
+    }
+
+    // The bend between fits to halves of the edges, every so many of them in turn; what is wrong
+    // with edges in ways that no model knows shows there.
+    double BetweenHalves(const Candidate& best, std::size_t turn) const {
+        std::array<std::vector<EdgePoints>, 2> halves;
+        for (std::size_t n = 0; n < used_.size(); ++n) {
+            halves[n / turn % 2].push_back(used_[n]);
+        }
+        const auto fitted = [&](const std::vector<EdgePoints>& half) {
+            return best.model.At(FitModel(best.model, half, loss_, best.fit.parameters).parameters);
+        };
+        return ViewBend(fitted(halves[0]), fitted(halves[1]));
+    }
+
     // How sure the result is, and the scale of angles.
     void Judge(const Candidate& best, SolvedLens& solved) const {
         const LensView fitted = best.model.At(best.fit.parameters);
@@ -187,6 +208,10 @@ class Solving {
             solved.expectedBend = std::max(solved.expectedBend, Median(bends));
             angle = std::max(angle, Median(angles));
         }
+        // Another number of terms would fit about as well: so the curve is no surer than this.
+        solved.expectedBend =
+            std::max({solved.expectedBend, ViewBend(Richest(best), fitted),
+                      0.5 * BetweenHalves(best, 1), 0.5 * BetweenHalves(best, 2)});
         const AngleScale scale =
             FindAngleScale(solved.lens, edges_, loss_.Noise(), known_.focalPixels);
         solved.anglesFixed = scale.deviation < fixedScale;

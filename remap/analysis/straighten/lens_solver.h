@@ -25,7 +25,7 @@ struct SolvedLens {
     // Of edges that were not used for the fit that they judge, far points damped; pixels.
     double heldOutBefore = 0.0;  // with the guess
     double heldOutAfter = 0.0;
-    double expectedBend = 0.0;  // as ViewBend: the median of what the edges allow
+    double expectedBend = 0.0;  // as ViewBend: what the edges allow, and halves of them
     // The expected error of angles up to 55 degrees from the axis, degrees.
     double angleErrorDegrees = 0.0;
     // Whether tagged edges or the focal length tell the scale of angles; otherwise it is the

@@ -4,6 +4,7 @@
 #include "remap/analysis/straighten/measure_lens.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -16,9 +17,8 @@ namespace varnel {
 namespace {
 
 // The lens may be wrong by this much of an edge's length while edges are looked for, first by the
-// guess and then by what was solved with it.
-constexpr double guessSlack = 0.003;
-constexpr double solvedSlack = 0.0005;
+// guess and then by what was solved so far.
+constexpr std::array slacks{0.003, 0.0015, 0.0005};
 
 EdgePoint CentreOf(PixelSize size, const std::optional<ImageCircle>& circle) {
     return circle ? EdgePoint{circle->x, size.height - circle->y}
@@ -37,19 +37,15 @@ class Measuring {
     Measurement Run() {
         FindCircle();
         const LensView guess = options_.guess ? *options_.guess : TypicalFisheye(size_, circle_);
-        measured_.edges = options_.edges.empty() ? Edges(guess, guessSlack) : options_.edges;
+        measured_.edges = options_.edges.empty() ? Edges(guess, slacks[0]) : options_.edges;
         if (measured_.edges.size() < leastEdges) {
             measured_.error = MeasureError::TooFewEdges;
             return std::move(measured_);
         }
         const LensConstraints known = Known(guess);
         measured_.solved = SolveLens(measured_.edges, guess, known);
-        if (options_.edges.empty() && measured_.solved->improved) {
-            std::vector<EdgeTrace> again = Edges(measured_.solved->lens, solvedSlack);
-            if (again.size() >= leastEdges) {
-                measured_.edges = std::move(again);
-                measured_.solved = SolveLens(measured_.edges, guess, known);
-            }
+        for (std::size_t n = 1; n < slacks.size() && options_.edges.empty(); ++n) {
+            LookAgain(slacks[n], guess, known);
         }
         Store(known.reach);
         return std::move(measured_);
@@ -75,6 +71,17 @@ class Measuring {
         }
         std::ranges::stable_sort(all, std::greater(), Span);
         return all;
+    }
+
+    void LookAgain(double slack, const LensView& guess, const LensConstraints& known) {
+        if (!measured_.solved->improved) {
+            return;
+        }
+        std::vector<EdgeTrace> again = Edges(measured_.solved->lens, slack);
+        if (again.size() >= leastEdges) {
+            measured_.edges = std::move(again);
+            measured_.solved = SolveLens(measured_.edges, guess, known);
+        }
     }
 
     LensConstraints Known(const LensView& guess) const {

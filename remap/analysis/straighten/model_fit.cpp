@@ -43,7 +43,8 @@ void EdgeLoss::Add(const LensView& lens, const EdgePoints& edge, Numbers& rows) 
     constexpr double width = 2.385;
     for (const double residual : FitGreatCircle(lens, edge).residuals) {
         const double share = residual / (noise_ * width);
-        rows.push_back(std::copysign(width * std::sqrt(std::log1p(share * share)), share));
+        rows.push_back(
+            std::copysign(weight_ * width * std::sqrt(std::log1p(share * share)), share));
     }
 }
 
@@ -60,6 +61,23 @@ double NoiseOf(const std::vector<EdgePoints>& edges, const LensView& lens) {
     const auto middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
     std::ranges::nth_element(sizes, middle);
     return std::max(1.4826 * *middle, 0.03);
+}
+
+double WeightOf(const std::vector<EdgePoints>& edges, const LensView& lens) {
+    constexpr double far = 4.0;  // times the noise: says nothing of the others
+    const double limit = far * NoiseOf(edges, lens);
+    double products = 0.0, squares = 1e-12;
+    for (const EdgePoints& edge : edges) {
+        const Numbers residuals = FitGreatCircle(lens, edge).residuals;
+        for (std::size_t n = 1; n < residuals.size(); ++n) {
+            const double one = std::clamp(residuals[n - 1], -limit, limit);
+            const double next = std::clamp(residuals[n], -limit, limit);
+            products += one * next;
+            squares += 0.5 * (one * one + next * next);
+        }
+    }
+    const double alike = std::clamp(products / squares, 0.0, 0.9);
+    return std::sqrt((1.0 - alike) / (1.0 + alike));
 }
 
 LeastSquaresFit FitModel(const LensModel& model, const std::vector<EdgePoints>& edges,

@@ -19,17 +19,23 @@ std::vector<EdgePoints> Condensed(const std::vector<EdgeTrace>& edges);
 // Residuals of edges with a robust loss, in units of the noise (pixels).
 class EdgeLoss {
   public:
-    explicit EdgeLoss(double noise) : noise_(noise) {}
+    // Weight: the share of a point's deviation that counts, below 1 where neighbours err together.
+    explicit EdgeLoss(double noise, double weight = 1.0) : noise_(noise), weight_(weight) {}
     // Appends a row for each point.
     void Add(const LensView& lens, const EdgePoints& edge, Numbers& rows) const;
-    double Noise() const { return noise_; }
+    // The deviation of a point that would err by itself and say as much, pixels.
+    double Noise() const { return noise_ / weight_; }
 
   private:
     double noise_;
+    double weight_;
 };
 
 // The typical size of the points' residuals, as a deviation, pixels.
 double NoiseOf(const std::vector<EdgePoints>& edges, const LensView& lens);
+
+// The weight of a loss, by how alike the residuals of neighbouring points are.
+double WeightOf(const std::vector<EdgePoints>& edges, const LensView& lens);
 
 LeastSquaresFit FitModel(const LensModel& model, const std::vector<EdgePoints>& edges,
                          const EdgeLoss& loss, Numbers start);

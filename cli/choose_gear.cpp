@@ -20,7 +20,7 @@ namespace varnel {
 namespace {
 
 // The command line asks no questions: a store without gears stays without.
-class NobodyToAsk : public GearPrompt {
+class SilentPrompt : public GearPrompt {
   public:
     void Explain(const QString& /*text*/) override {}
     bool DefineGear(GearTable& /*table*/) override { return false; }
@@ -82,8 +82,8 @@ std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
 
 GearTable StoredGears(SettingsStore& store) {
     GearTable table;
-    NobodyToAsk nobody;
-    if (LoadGear(store, table, nobody) != GearLoad::Loaded) {
+    SilentPrompt silent;
+    if (LoadGear(store, table, silent) != GearLoad::Loaded) {
         table.Resize(0);
     }
     return table;

@@ -63,13 +63,13 @@ class CommandRun : public ConversionObserver {
         files_ = FilesToDo();
         reports_.Bar().Start(files_.size() * RecordsOfEach(request_.options));
         const ConversionRunEnd end = RunConversions(Plan(), targets_, *this, Ports());
-        TellSkipped(files_.size());
+        ReportSkipped(files_.size());
         reports_.Finish();
         if (!end.lasting.isEmpty()) {
             reports_.Say(ErrorText(end.lasting));
         }
         if (const int signal = console_.StopSignal(); signal != 0 && end.stopped) {
-            TellStopped();
+            ReportStopped();
             return exitStopped + signal;
         }
         return reports_.AllWell() && end.lasting.isEmpty() ? exitAllWritten : exitSomeFailed;
@@ -162,7 +162,7 @@ class CommandRun : public ConversionObserver {
             return;
         }
         const QString& photo = files_[conversion.photo];
-        TellSkipped(conversion.photo);
+        ReportSkipped(conversion.photo);
         if (!conversion.damage.isEmpty()) {
             reports_.Damaged(photo, ErrorText(conversion.damage));
         }
@@ -178,7 +178,7 @@ class CommandRun : public ConversionObserver {
     void Ended(const Conversion& conversion, const ConversionOutcome& outcome) override {
         const QString& photo = files_[conversion.photo];
         if (outcome.end == ConversionEnd::NotRead || outcome.end == ConversionEnd::NoRecords) {
-            TellFailed({.photo = photo}, conversion, outcome);
+            ReportFailed({.photo = photo}, conversion, outcome);
             reports_.Bar().Done(RecordsOfEach(request_.options));
             return;
         }
@@ -189,18 +189,18 @@ class CommandRun : public ConversionObserver {
         report.uncertain = started.reading.doubts.Names();
         report.notes = started.notes;
         if (outcome.end == ConversionEnd::Written) {
-            TellWritten(report, conversion, outcome);
+            ReportWritten(report, conversion, outcome);
         } else if (outcome.end == ConversionEnd::Skipped) {
             report.status = FileStatus::Skipped;
             reports_.Skipped(report);
         } else {
-            TellFailed(report, conversion, outcome);
+            ReportFailed(report, conversion, outcome);
         }
         reports_.Bar().Done(1);
     }
 
-    void TellWritten(FileReport& report, const Conversion& conversion,
-                     const ConversionOutcome& outcome) {
+    void ReportWritten(FileReport& report, const Conversion& conversion,
+                       const ConversionOutcome& outcome) {
         report.status = conversion.damage.isEmpty() ? FileStatus::Converted : FileStatus::Damaged;
         report.reason = ErrorText(conversion.damage);
         report.size = outcome.size;
@@ -214,8 +214,8 @@ class CommandRun : public ConversionObserver {
         reports_.Written(report);
     }
 
-    void TellFailed(FileReport report, const Conversion& conversion,
-                    const ConversionOutcome& outcome) {
+    void ReportFailed(FileReport report, const Conversion& conversion,
+                      const ConversionOutcome& outcome) {
         report.status = FileStatus::Failed;
         report.reason = FailureText(request_.options, report.photo, conversion, outcome);
         report.seconds = outcome.seconds;
@@ -223,7 +223,7 @@ class CommandRun : public ConversionObserver {
     }
 
     // Those that come before the file of that number.
-    void TellSkipped(qsizetype n) {
+    void ReportSkipped(qsizetype n) {
         for (const FileReport& report : skipped_[n]) {
             if (report.status == FileStatus::Failed) {
                 reports_.Failed(report);
@@ -233,7 +233,7 @@ class CommandRun : public ConversionObserver {
         }
     }
 
-    void TellStopped() {
+    void ReportStopped() {
         const QString rest =
             request_.options.skipExisting ? QStringLiteral("the same command does the rest")
             : request_.options.force

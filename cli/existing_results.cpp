@@ -20,8 +20,8 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record) {
 
 std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
                                         PhotoLoader& photos, const QString& file) {
-    const bool nameTellsGear = !request.options.outputDir.isEmpty() || request.options.morph;
-    if (!request.gears.forAll && nameTellsGear) {
+    const bool nameHasGear = !request.options.outputDir.isEmpty() || request.options.morph;
+    if (!request.gears.forAll && nameHasGear) {
         return {};  // only the photo itself decides what its results are called
     }
     const std::optional<PhotoSize> size = photos.Size(file);

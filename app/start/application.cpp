@@ -13,13 +13,13 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     bool handled = false;
     const QString shortage = Shortage([&] { handled = QApplication::notify(receiver, event); });
     if (!shortage.isEmpty()) {
-        TellLater(shortage);
+        ShowLater(shortage);
     }
     return handled;
 }
 
 // Not at once: the event may have been one of painting, above which no box can be shown.
-void Application::TellLater(const QString& shortage) {
+void Application::ShowLater(const QString& shortage) {
     if (telling_ || notices_ == nullptr) {
         return;
     }

@@ -19,11 +19,11 @@ class Application : public QApplication {
   public:
     using QApplication::QApplication;
     // Where the message goes. Null: no message is shown.
-    void TellTo(Notices* notices) { notices_ = notices; }
+    void ShowTo(Notices* notices) { notices_ = notices; }
     bool notify(QObject* receiver, QEvent* event) override;
 
   private:
-    void TellLater(const QString& shortage);
+    void ShowLater(const QString& shortage);
 
     Notices* notices_ = nullptr;
     bool telling_ = false;

@@ -38,7 +38,7 @@ QStringList Absolute(const QStringList& files) {
 
 int RunWindow(Application& application, const QStringList& files, SettingsStore& userStore) {
     MessageBoxes notices;
-    application.TellTo(&notices);
+    application.ShowTo(&notices);
     TellOf(userStore, notices);
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
@@ -66,7 +66,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     window.OpenAtStart(Absolute(files));
     window.show();
     const int exitCode = QApplication::exec();
-    application.TellTo(nullptr);
+    application.ShowTo(nullptr);
     TellOf(store, notices);  // the window's layout is saved last
     return exitCode;
 }

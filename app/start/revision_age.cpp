@@ -13,7 +13,7 @@ namespace varnel {
 
 namespace {
 
-constexpr int firstAgeToTell = 7;  // months
+constexpr int firstAgeToShow = 7;  // months
 
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(RevisionAge)
@@ -41,7 +41,7 @@ Release ThisRelease() {
 std::optional<QString> CheckRevisionAge(SettingsStore& store, QDate today, const Release& release) {
     const int age =
         (today.year() - release.date.year()) * 12 + (today.month() - release.date.month());
-    const bool tell = age >= firstAgeToTell;
+    const bool tell = age >= firstAgeToShow;
     if (tell && age <= ReadWhole(store, setting::Revision, setting::RevisionAge, 0)) {
         return std::nullopt;
     }

@@ -47,7 +47,7 @@ void SessionTools::Write() {
     } else if (!std::ranges::equal(state_.Images, written_)) {
         Begin();
     }
-    TellError();
+    ShowError();
 }
 
 // A copy of the list is written on another thread; its texts are shared.
@@ -103,7 +103,7 @@ void SessionTools::OfferLost() {
 bool SessionTools::Take(std::unique_ptr<SessionPlace> place) {
     const ReadProject list = OpenProject(place->File());
     if (!list.error.isEmpty()) {
-        TellDamaged(*place, list.error);
+        ShowDamaged(*place, list.error);
         return true;
     }
     switch (ports_.dialogs.AskToRestore({place->Written(), list.images.UpperBound()})) {
@@ -120,7 +120,7 @@ bool SessionTools::Take(std::unique_ptr<SessionPlace> place) {
     return false;
 }
 
-void SessionTools::TellDamaged(SessionPlace& place, const QString& error) {
+void SessionTools::ShowDamaged(SessionPlace& place, const QString& error) {
     const QString file = place.File();
     const QString aside = place.SetAside();
     ports_.notices.Tell(
@@ -135,7 +135,7 @@ void SessionTools::NoteError(const QString& reason) {
     }
 }
 
-void SessionTools::TellError() {
+void SessionTools::ShowError() {
     if (error_.isEmpty()) {
         return;
     }

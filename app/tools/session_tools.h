@@ -33,9 +33,9 @@ class SessionTools : public QObject {
     void Begin();
     void Forget();
     bool Take(std::unique_ptr<SessionPlace> place);
-    void TellDamaged(SessionPlace& place, const QString& error);
+    void ShowDamaged(SessionPlace& place, const QString& error);
     void NoteError(const QString& reason);
-    void TellError();
+    void ShowError();
 
     ProjectTools& projects_;
     Workspace& workspace_;

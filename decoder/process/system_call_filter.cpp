@@ -76,7 +76,7 @@ constexpr scmp_arg_cmp Is(unsigned argument, scmp_datum_t value) {
 }
 
 // Reports to the parent which call it was, and ends the process.
-void TellAndDie(int signal, siginfo_t* about, void* /*context*/) {
+void ReportAndDie(int signal, siginfo_t* about, void* /*context*/) {
     DecoderAnswer last;
     last.outcome = triedForbidden;
     last.number = static_cast<std::uint32_t>(about->si_syscall);
@@ -89,9 +89,9 @@ void TellAndDie(int signal, siginfo_t* about, void* /*context*/) {
 // Once: should hostile code find a way out of the handler, or another thread call at the same time,
 // the next forbidden call is met by the system, which ends the process. The same when the signal is
 // blocked. No other handler can be set any more.
-void TellOfForbiddenCalls() {
+void ReportForbiddenCalls() {
     struct sigaction action {};
-    action.sa_sigaction = &TellAndDie;
+    action.sa_sigaction = &ReportAndDie;
     action.sa_flags = SA_SIGINFO | SA_RESETHAND | SA_NODEFER;
     sigaction(SIGSYS, &action, nullptr);
 }
@@ -167,7 +167,7 @@ bool FilterSystemCalls() {
         filter.Refuse(row.call, row.error);
     }
     AddFormsOfCalls(filter);
-    TellOfForbiddenCalls();
+    ReportForbiddenCalls();
     return filter.Load();
 }
 

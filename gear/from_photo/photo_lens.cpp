@@ -167,7 +167,7 @@ bool IsMadeForAll(const KnownLens& lens) {
 }
 
 CatalogueEntry OnlyOne(const std::vector<KnownLens>& lenses, const CatalogueEntry& camera,
-                       bool makerTold, bool named) {
+                       bool makerStated, bool named) {
     std::vector<KnownLens> own;
     std::vector<KnownLens> others;
     const QString ownBrand = OwnLensBrand(camera);
@@ -177,7 +177,7 @@ CatalogueEntry OnlyOne(const std::vector<KnownLens>& lenses, const CatalogueEntr
         }
         if (lens.entry.brand == ownBrand) {
             own.push_back(lens);
-        } else if (makerTold || IsMadeForAll(lens)) {
+        } else if (makerStated || IsMadeForAll(lens)) {
             others.push_back(lens);
         }
     }

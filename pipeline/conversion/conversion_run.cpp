@@ -98,7 +98,7 @@ class Run : private RenderProgress {
 
     void EndPhoto(ConversionEnd end, const Reason& reason) {
         Fail(end, reason);
-        TellTurn();
+        ReportTurn();
     }
 
     void Fail(ConversionEnd end, const Reason& reason) {
@@ -165,7 +165,7 @@ class Run : private RenderProgress {
             CheckTarget();  // what was written meanwhile may be the same file by another name
         }
         if (Failed() || Dropped()) {
-            TellTurn();
+            ReportTurn();
         } else {
             BeginWriting();
         }
@@ -276,7 +276,7 @@ class Run : private RenderProgress {
     // What was converted while the one before it was written, and is not to be reported any more.
     bool Dropped() const { return stopped_ && !plan_.finishesBegun; }
 
-    void TellTurn() {
+    void ReportTurn() {
         FinishWriting();
         if (Dropped()) {
             left_ = true;

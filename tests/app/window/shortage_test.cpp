@@ -154,7 +154,7 @@ TEST(Application, TellsOnceWhatWasShortAndGoesOn) {
     auto* const application = qobject_cast<Application*>(qApp);
     ASSERT_NE(application, nullptr);
     testing::NotedNotices notices;
-    application->TellTo(&notices);
+    application->ShowTo(&notices);
     Greedy greedy;
     const std::pair<void (*)(), const char*> lacks[] = {
         {[] { throw std::bad_alloc(); }, "There is not enough memory.|"},
@@ -171,7 +171,7 @@ TEST(Application, TellsOnceWhatWasShortAndGoesOn) {
         ASSERT_EQ(notices.told.size(), 1);
         EXPECT_TRUE(notices.told.takeFirst().startsWith(Text(told)));
     }
-    application->TellTo(nullptr);
+    application->ShowTo(nullptr);
 }
 
 }  // namespace

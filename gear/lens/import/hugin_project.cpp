@@ -22,7 +22,7 @@ constexpr std::size_t mostPhotos = 2000;
 struct Photo {
     qint64 line = 0;
     std::array<double, 128> numbers{};
-    double operator[](char letter) const { return numbers[static_cast<std::size_t>(letter)]; }
+    double operator[](char letter) const { return numbers[static_cast<unsigned char>(letter)]; }
 };
 
 // At words like w6000, f3 or a=0; names in quotes may hold spaces and end the reading.
@@ -45,7 +45,7 @@ Reason ReadPhoto(const QByteArray& line, const std::vector<Photo>& earlier, Phot
         if (!good || !(std::abs(number) <= 1e6)) {
             return {ReasonCode::KeyUnusable, QString::fromLatin1(word.left(1))};
         }
-        photo.numbers[static_cast<std::size_t>(word[0])] = number;
+        photo.numbers[static_cast<unsigned char>(word[0])] = number;
     }
     return {};
 }

@@ -55,6 +55,8 @@ TEST_F(MeasureCommand, WritesTheLensOfAPhoto) {
     EXPECT_EQ(read.lens->origin.photos, QStringList{Q("room.png")});
     ASSERT_TRUE(read.lens->centre);
     EXPECT_NEAR(read.lens->centre->x, 600.5, 2.0);
+    ASSERT_TRUE(read.lens->pixelsPerUnit);
+    EXPECT_NEAR(*read.lens->pixelsPerUnit, 550.0, 6.0) << "the circle's radius";
     EXPECT_EQ(Run({photo}), exitSomeFailed);
     EXPECT_TRUE(ErrorHas("--force"));
     EXPECT_EQ(Run({Q("--focal=8"), Q("--force"), photo}), exitSomeFailed);

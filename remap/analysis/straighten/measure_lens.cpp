@@ -157,6 +157,7 @@ SampledLens ToSampledLens(const LensView& view, double reach, double pixelsPerUn
         SampledFrom([&](double angle) { return view.curve.Radius(angle) / pixelsPerUnit; }, limit)
             .knots;
     lens.centre = LensCentre{view.centre.x, view.centre.y, size};
+    lens.pixelsPerUnit = pixelsPerUnit;
     return lens;
 }
 

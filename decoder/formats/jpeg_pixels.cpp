@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <vector>
@@ -149,7 +150,7 @@ class JpegDecoder {
         constexpr double metresPerInch = 0.0254;
         switch (info_.density_unit) {
             case inches:
-                return static_cast<std::uint32_t>(density / metresPerInch + 0.5);
+                return static_cast<std::uint32_t>(std::lround(density / metresPerInch));
             case centimetres:
                 return density * 100U;
             default:

@@ -63,7 +63,7 @@ QString FailureText(const Options& options, const QString& photo, const Conversi
     const auto advice = [&options](const QString& text) {
         return options.advises ? text : QString();
     };
-    const QString reason = ErrorText(outcome.reason);
+    QString reason = ErrorText(outcome.reason);
     switch (outcome.end) {
         case ConversionEnd::NotRead:
             return reason + PhotoAdvice(photo);

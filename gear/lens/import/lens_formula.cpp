@@ -61,7 +61,7 @@ Reason FillKnots(const LensFormula& formula, SampledLens& lens) {
 }
 
 Reason FillKnotsFromPixels(const LensFormula& formula, SampledLens& lens) {
-    const Reason reason = FillKnots(formula, lens);
+    Reason reason = FillKnots(formula, lens);
     if (!reason.isEmpty()) {
         return reason;
     }

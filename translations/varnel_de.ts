@@ -2319,12 +2319,12 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Kreis der Ausrüstung</translation>
     </message>
     <message>
-        <source>Shows the circle that the gear has at present</source>
-        <translation>Zeigt den Kreis, den die Ausrüstung zurzeit hat</translation>
+        <source>Gives this photo the circle that the gear has at present</source>
+        <translation>Gibt diesem Foto den Kreis, den die Ausrüstung zurzeit hat</translation>
     </message>
     <message>
-        <source>Take into the gear...</source>
-        <translation>In die Ausrüstung übernehmen...</translation>
+        <source>Keep for the gear...</source>
+        <translation>Für die Ausrüstung behalten...</translation>
     </message>
     <message>
         <source>Makes this circle the one of the gear</source>

@@ -59,6 +59,7 @@ bool CircleOverlay::Press(const OverlayInput& input) {
         const ImageCircle circle = *shown_();
         grip_ = CentreOf(circle) - input.point;
         gripRadius_ = circle.radius - DistanceOf(input.point, circle);
+        onHeld_();
     }
     return held_ != Part::None;
 }
@@ -79,6 +80,7 @@ void CircleOverlay::Move(const OverlayInput& input) {
 
 void CircleOverlay::Release(const OverlayInput& /*input*/) {
     held_ = Part::None;
+    onHeld_();
 }
 
 bool CircleOverlay::Key(const OverlayKey& key) {

@@ -15,10 +15,10 @@ namespace varnel {
 class CircleOverlay : public PictureOverlay {
   public:
     // shown gives the circle to draw, if any; moved is called with each circle that it is dragged
-    // to.
+    // to; held as a drag begins and as it ends.
     CircleOverlay(std::function<std::optional<ImageCircle>()> shown,
-                  std::function<void(const ImageCircle&)> moved)
-        : shown_(std::move(shown)), moved_(std::move(moved)) {}
+                  std::function<void(const ImageCircle&)> moved, std::function<void()> held)
+        : shown_(std::move(shown)), moved_(std::move(moved)), onHeld_(std::move(held)) {}
 
     void Paint(QPainter& painter, const QTransform& toWidget, QSize picture) override;
     bool Press(const OverlayInput& input) override;
@@ -34,6 +34,7 @@ class CircleOverlay : public PictureOverlay {
 
     std::function<std::optional<ImageCircle>()> shown_;
     std::function<void(const ImageCircle&)> moved_;
+    std::function<void()> onHeld_;
     Part held_ = Part::None;
     QPointF grip_;             // from the mouse to the centre
     double gripRadius_ = 0.0;  // from the mouse's distance to the radius

@@ -23,10 +23,10 @@ CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this))
     find_ = AddButton("CmdCircleFind", tr("Find circle"),
                       tr("Looks for the rim of the image circle on this photo"),
                       &CircleBar::FindWanted);
-    reset_ =
-        AddButton("CmdCircleReset", tr("Gear's circle"),
-                  tr("Shows the circle that the gear has at present"), &CircleBar::ResetWanted);
-    take_ = AddButton("CmdCircleTake", tr("Take into the gear..."),
+    reset_ = AddButton("CmdCircleReset", tr("Gear's circle"),
+                       tr("Gives this photo the circle that the gear has at present"),
+                       &CircleBar::ResetWanted);
+    take_ = AddButton("CmdCircleTake", tr("Keep for the gear..."),
                       tr("Makes this circle the one of the gear"), &CircleBar::TakeWanted);
     agree_ = AddButton("CmdCircleAgree", tr("Change the gear"), {}, &CircleBar::Agreed);
     decline_ = AddButton("CmdCircleDecline", tr("Cancel"), {}, &CircleBar::Declined);

@@ -13,6 +13,7 @@
 #include "base/shortage.h"
 #include "gear/store/gear_store.h"
 #include "remap/analysis/photo_circle.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 
@@ -57,7 +58,11 @@ CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowVi
       workspace_(workspace),
       state_(state),
       store_(store),
-      overlay_([this] { return Shown(); }, [this](const ImageCircle& circle) { Try(circle); }),
+      overlay_([this] { return Shown(); },
+               [this](const ImageCircle& circle) {
+                   Put(circle, {circleKey, workspace_.model.list.CurrentLine()});
+               },
+               [this] { workspace_.model.steps.Seal(); }),
       bar_(new CircleBar(parts.pictures->parentWidget())),
       entry_(AddMenuEntry(parts.viewMenu, "CmdViewCircle", tr("&Image circle"),
                           {Qt::CTRL | Qt::Key_I})) {
@@ -75,9 +80,11 @@ void CircleTools::Connect() {
     connect(bar_, &CircleBar::Agreed, this, &CircleTools::Take);
     connect(bar_, &CircleBar::Declined, this, &CircleTools::Decline);
     // After what these do to the current record.
-    connect(&workspace_.model.list, &ImageSelection::Chosen, this, &CircleTools::Refresh,
+    connect(&workspace_.model.list, &ImageSelection::Chosen, this, &CircleTools::Decline,
             Qt::QueuedConnection);
     connect(parts_.equipment->Gears(), &QComboBox::activated, this, &CircleTools::Refresh,
+            Qt::QueuedConnection);
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, &CircleTools::Refresh,
             Qt::QueuedConnection);
     connect(&view_, &WindowView::ResultShown, this, [this] { Refresh(); });
     connect(&workspace_.model.steps, &ListSteps::GearRestored, this, &CircleTools::RestoreGear);
@@ -94,7 +101,7 @@ void CircleTools::OnToggled(bool on) {
     if (!on && parts_.status->text() == found_) {
         view_.ShowStatus({});
     }
-    Reset();
+    Decline();
 }
 
 // A gear that was given to all photos is applied to the photo before its circle is shown or
@@ -116,9 +123,6 @@ std::optional<ImageCircle> CircleTools::Shown() {
     if (image == nullptr || size.width == 0) {
         return std::nullopt;
     }
-    if (trial_ && trialPhoto_ == workspace_.model.list.CurrentPath()) {
-        return trial_;
-    }
     const ImageCircle circle = CircleOf(*image, size);
     return circle.radius > 0.0 ? circle : Inscribed(size);
 }
@@ -128,42 +132,68 @@ int CircleTools::GearNumber() {
     return image == nullptr ? 0 : state_.Gear.Find(image->GearName);
 }
 
-void CircleTools::Try(const ImageCircle& circle) {
-    trial_ = circle;
-    trialPhoto_ = workspace_.model.list.CurrentPath();
-    asked_.reset();
+GearRecord CircleTools::CurrentGear() {
+    if (const int n = GearNumber(); n != 0) {
+        return state_.Gear(n);
+    }
+    const ImageRecord& image = *workspace_.model.list.Current();
+    const QString photo = SourcePath(image) + u'\n' + image.GearName;
+    if (unlistedPhoto_ != photo) {
+        unlistedPhoto_ = photo;
+        unlisted_ = GearOf(image);
+        unlisted_.SensorWidth = image.SensorWidth;
+        unlisted_.SensorHeight = image.SensorHeight;
+        unlisted_.hAOV = unlisted_.vAOV = image.InputAOV;
+    }
+    return unlisted_;
+}
+
+bool CircleTools::Put(const ImageCircle& circle, const StepKey& key) {
+    return Change([&](ImageRecord& image) { PutCircle(circle, CurrentGear(), image); }, key);
+}
+
+bool CircleTools::Change(const std::function<void(ImageRecord&)>& change, const StepKey& key) {
+    if (PhotoSize().width == 0 || workspace_.model.list.Current() == nullptr ||
+        workspace_.model.activity.Busy() || view_.Locked()) {
+        return false;
+    }
+    PrepareCurrent();
+    ImageRecord& image = *workspace_.model.list.Current();
+    change(image);
+    workspace_.model.steps.Note(StepKind::Circle, {}, key);
+    workspace_.model.ShowInControls(image);
+    asked_.clear();
     Refresh();
+    workspace_.preview.Preview();
+    return true;
 }
 
 void CircleTools::Reset() {
-    trial_.reset();
-    asked_.reset();
-    Refresh();
+    if (const int n = GearNumber(); n != 0) {
+        Change([&](ImageRecord& image) { ResetCircle(state_.Gear(n), image); }, {});
+    }
 }
 
 void CircleTools::Refresh() {
     if (!entry_->isChecked()) {
         return;
     }
-    if (trialPhoto_ != workspace_.model.list.CurrentPath()) {
-        trial_.reset();
-    }
     parts_.pictures->From()->RedrawOverlays();
-    if (trial_ && asked_ && *asked_ == workspace_.model.list.Current()->GearName) {
+    const std::optional<ImageCircle> circle = Shown();
+    const bool isNew = circle && IsNewToGear(*circle);
+    if (isNew && asked_ == Question(*circle)) {
         return;  // a new preview does not answer the question
     }
-    asked_.reset();
-    const std::optional<ImageCircle> circle = Shown();
+    asked_.clear();
     bar_->ShowNumbers(
         circle ? NumbersText(GearCircleFor(*circle, *workspace_.model.list.Current(), PhotoSize()))
                : QString(),
-        circle.has_value(), circle && IsNewToGear(*circle));
+        circle.has_value(), isNew);
 }
 
 bool CircleTools::IsNewToGear(const ImageCircle& circle) {
     const int n = GearNumber();
-    if (n == 0 ||
-        (!trial_ && CircleOf(*workspace_.model.list.Current(), PhotoSize()).radius <= 0.0)) {
+    if (n == 0 || CircleOf(*workspace_.model.list.Current(), PhotoSize()).radius <= 0.0) {
         return false;
     }
     const GearCircle numbers = GearCircleFor(circle, *workspace_.model.list.Current(), PhotoSize());
@@ -181,7 +211,9 @@ void CircleTools::Find() {
     }
     try {
         if (const std::optional<FoundCircle> found = FindPhotoCircle(photo)) {
-            Try(*found);
+            if (!Put(*found)) {
+                return;
+            }
             found_ = found->rough ? tr("A rough image circle, from the light inside: it is dark at "
                                        "the rim. Drag the rim where it is not right.")
                                   : tr("Image circle found.");
@@ -197,18 +229,21 @@ void CircleTools::Find() {
 void CircleTools::Ask() {
     PrepareCurrent();
     if (const auto circle = Shown(); circle && IsNewToGear(*circle)) {
-        asked_ = workspace_.model.list.Current()->GearName;
-        bar_->Ask(tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already "
-                     "keep their "
-                     "circle, but for the current one.")
-                      .arg(workspace_.model.list.Current()->GearName,
-                           NumbersText(GearCircleFor(*circle, *workspace_.model.list.Current(),
-                                                     PhotoSize()))));
+        asked_ = Question(*circle);
+        bar_->Ask(asked_);
     }
 }
 
+QString CircleTools::Question(const ImageCircle& circle) {
+    const ImageRecord& image = *workspace_.model.list.Current();
+    return tr("Change the circle of the gear \"%1\"? %2. Photos that are adjusted already keep "
+              "their "
+              "circle, but for the current one.")
+        .arg(image.GearName, NumbersText(GearCircleFor(circle, image, PhotoSize())));
+}
+
 void CircleTools::Decline() {
-    asked_.reset();
+    asked_.clear();
     Refresh();
 }
 
@@ -224,7 +259,7 @@ void CircleTools::Take() {
     SaveGear(store_, state_.Gear);
     workspace_.model.steps.Note(
         StepKind::Circle, {.onAllLines = true, .gear = GearChange{before, state_.Gear(gear)}});
-    Reset();
+    Decline();
     workspace_.preview.Preview();
     view_.ShowStatus(tr("The gear \"%1\" has the circle now; undo takes it back.")
                          .arg(state_.Gear(gear).GearName));

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The View menu's entry "Image circle": while it is checked, the gear's circle is drawn on the
-// photo as shot, can be moved and found there, and be taken into the gear. Throws nothing but for
-// want of memory.
+// The View menu's entry "Image circle": while it is checked, the image circle is drawn on the
+// photo as shot, can be moved and found there, which acts on this photo at once, and be kept for
+// the gear. Throws nothing but for want of memory.
 #pragma once
 
 #include <QAction>
 #include <QObject>
+#include <functional>
 #include <optional>
 
 #include "app/picture/circle_overlay.h"
@@ -29,13 +30,17 @@ class CircleTools : public QObject {
     void Connect();
     void OnToggled(bool on);
     void PrepareCurrent();
-    // The one on trial, or else the one that the current record's numbers make; nothing without a
-    // photo.
+    // The one that the current record's numbers make; nothing without a photo.
     std::optional<ImageCircle> Shown();
     PixelSize PhotoSize() const;
     bool IsNewToGear(const ImageCircle& circle);
     int GearNumber();  // of the current photo; 0 for none
-    void Try(const ImageCircle& circle);
+    // With the whole sensor of the current photo.
+    GearRecord CurrentGear();
+    QString Question(const ImageCircle& circle);
+    // As a step of its own unless it has a key. False when nothing may be changed now.
+    bool Put(const ImageCircle& circle, const StepKey& key = {});
+    bool Change(const std::function<void(ImageRecord&)>& change, const StepKey& key);
     void Refresh();
     void Find();
     void Reset();
@@ -53,9 +58,9 @@ class CircleTools : public QObject {
     QString found_;  // what the status shows of the last search for the circle
     CircleBar* bar_;
     QAction* entry_;
-    std::optional<ImageCircle> trial_;
-    QString trialPhoto_;
-    std::optional<QString> asked_;  // whether this gear shall have the one on trial
+    QString asked_;          // the question that the bar shows; empty for none
+    GearRecord unlisted_;    // of the photo whose gear is not in the table, as it was first met
+    QString unlistedPhoto_;  // that photo and its gear
 };
 
 }  // namespace varnel

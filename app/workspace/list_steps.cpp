@@ -5,8 +5,8 @@
 
 namespace varnel {
 
-void ListSteps::Note(StepKind kind, const StepBesides& besides) {
-    history_.Note(StepName(kind), {}, besides);
+void ListSteps::Note(StepKind kind, const StepBesides& besides, const StepKey& key) {
+    history_.Note(StepName(kind), key, besides);
     Q_EMIT Changed();
 }
 

@@ -21,8 +21,8 @@ class ListSteps : public QObject {
     explicit ListSteps(const ImageSelection& list) : list_(list), history_(list.Images()) {}
 
     // Makes what was changed in the records a step that can be undone; no step where nothing
-    // changed.
-    void Note(StepKind kind, const StepBesides& besides = {});
+    // changed. Steps of one key become one step.
+    void Note(StepKind kind, const StepBesides& besides = {}, const StepKey& key = {});
     // The same for controls that were stored into the lines, which showed these values before.
     void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
     // For the list of a project file; without one it was kept against a crash.

@@ -20,6 +20,52 @@ double FiftySides(PixelSize picture) {
     return 50.0 * std::max(picture.width, picture.height);
 }
 
+float AngleFor(const GearRecord& gear, const ImageRecord& image) {
+    return image.Landscape ? gear.hAOV : gear.vAOV;
+}
+
+void GiveSensor(const GearRecord& gear, ImageRecord& image) {
+    image.SensorWidth = gear.SensorWidth;
+    image.SensorHeight = gear.SensorHeight;
+}
+
+void GiveCentre(const GearRecord& gear, ImageRecord& image) {
+    const CentreOffset shown = ShownCentre({gear.OfsetX, gear.OfsetY}, image);
+    image.OfsetX = shown.x;
+    image.OfsetY = shown.y;
+}
+
+// With the angle of view of the piece; a whole sensor has the gear's, which may be set by hand.
+void TakeWithAngle(const ImageCircle& circle, const GearRecord& gear, ImageRecord& image) {
+    constexpr float nearly = 0.99F;
+    GiveSensor(gear, image);
+    TakeCircle(circle, image);
+    if (image.SensorWidth >= nearly * gear.SensorWidth &&
+        image.SensorHeight >= nearly * gear.SensorHeight) {
+        image.InputAOV = AngleFor(gear, image);
+    }
+}
+
+// Gives the record the angles back that were moved by hand before: those that are not what gear or
+// circle brought, but for the whole numbers that a slider stores.
+void KeepMovedAngles(const ImageRecord& before, const GearRecord& gear, ImageRecord& image) {
+    ImageRecord usual = before;
+    const ImageCircle circle = CircleOf(before, {before.Width, before.Height});
+    if (circle.radius > 0.0) {
+        TakeWithAngle(circle, gear, usual);
+    }
+    const auto isUsual = [&before](float angle) {
+        constexpr float rounding = 0.5F;
+        return std::fabs(before.InputAOV - angle) <= rounding;
+    };
+    if (!isUsual(usual.InputAOV) && !isUsual(AngleFor(gear, before))) {
+        image.InputAOV = before.InputAOV;
+    }
+    image.OutputAOV = before.OutputAOV == UsualOutputAov(before.InputAOV)
+                          ? UsualOutputAov(image.InputAOV)
+                          : before.OutputAOV;
+}
+
 }  // namespace
 
 GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture) {
@@ -27,6 +73,23 @@ GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, Pi
                                             Tenths(1000.0 * (circle.y / picture.height - 0.5))},
                                            image);
     return {centre.x, centre.y, Tenths(FiftySides(picture) / circle.radius)};
+}
+
+void PutCircle(const ImageCircle& circle, const GearRecord& gear, ImageRecord& image) {
+    const ImageRecord before = image;
+    TakeWithAngle(circle, gear, image);
+    KeepMovedAngles(before, gear, image);
+    image.SettingsApplied = true;
+}
+
+void ResetCircle(const GearRecord& gear, ImageRecord& image) {
+    const ImageRecord before = image;
+    GiveSensor(gear, image);
+    GiveCentre(gear, image);
+    image.Ratio = gear.GearRatio;
+    image.InputAOV = AngleFor(gear, image);
+    KeepMovedAngles(before, gear, image);
+    image.SettingsApplied = true;
 }
 
 int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
@@ -42,9 +105,7 @@ int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageReco
         if (n != current && (image.GearName != gear.GearName || image.SettingsApplied)) {
             continue;
         }
-        const CentreOffset shown = ShownCentre({gear.OfsetX, gear.OfsetY}, image);
-        image.OfsetX = shown.x;
-        image.OfsetY = shown.y;
+        GiveCentre(gear, image);
         image.Ratio = gear.GearRatio;
         ++taken;
     }

@@ -25,6 +25,13 @@ struct GearCircle {
 // The numbers with which a gear puts the circle there, to a tenth.
 GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture);
 
+// Puts the circle there, which is measured on the record's picture and has a radius, as an
+// adjustment of that photo alone: its numbers, and the piece of the gear's sensor that the picture
+// shows. The angles of view follow unless they were moved by hand.
+void PutCircle(const ImageCircle& circle, const GearRecord& gear, ImageRecord& image);
+// The gear's circle and its whole sensor again, likewise.
+void ResetCircle(const GearRecord& gear, ImageRecord& image);
+
 // Makes it the gear's circle and that of all its photos that are not adjusted yet, and in any case
 // that of image number current, which keeps its other settings. The gear then counts as adjusted.
 // Returns how many photos got it.

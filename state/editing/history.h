@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "base/record_array.h"
+#include "state/adjustments/slider_table.h"
 #include "state/editing/gear_circle.h"
 #include "state/editing/list_run.h"
 #include "state/records/image_record.h"
@@ -23,8 +24,10 @@ class QUndoStack;
 
 namespace varnel {
 
-// Moves of one slider over the same lines: the slider's number, then the lines. Empty: by itself.
+// Moves of one slider, or of the circle, over the same lines: the slider's number, or circleKey,
+// then the lines. Empty: by itself.
 using StepKey = std::vector<int>;
+inline constexpr int circleKey = static_cast<int>(SliderId::AovInput) + 1;  // no slider's
 
 // What a step did besides changing lines.
 struct StepBesides {

@@ -62,7 +62,7 @@ TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     EXPECT_EQ(workspace.Record(1).RotateZ, 0.0F);
 }
 
-TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
+TEST(CircleTools, WhatIsFoundAndDraggedActsAtOnceAndIsKeptForTheGear) {
     TestWindow workspace;
     const QString path = workspace.files.Path(Q("disc.bmp"));
     const BitmapHandle disc = testing::Painted({600, 400}, [](int x, int y) {
@@ -78,8 +78,30 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     const GearRecord before = workspace.state.Gear(1);
     workspace.Click("CmdCircleFind");
     EXPECT_EQ(workspace.Label("LabelCircle"), Q("Centre 10.0 ‰ right, 35.0 ‰ up, diameter 50.0 %"));
-    EXPECT_EQ(workspace.state.Gear(1), before);
+    EXPECT_NEAR(static_cast<double>(workspace.Record(1).OfsetY), -35.0, 0.5);
+    EXPECT_EQ(workspace.Record(1).SensorWidth, before.SensorWidth);
+    EXPECT_TRUE(workspace.Record(1).SettingsApplied);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 130.0F);
+    const ImageRecord found = workspace.Record(1);
+    const QImage preview = workspace.Shown("PicSmallTo");
     Drag(workspace, {306.0, 186.0}, {306.0, 206.0});
+    EXPECT_NE(workspace.Shown("PicSmallTo"), preview);
+    const ImageRecord dragged = workspace.Record(1);
+    Drag(workspace, {306.0, 206.0}, {316.0, 206.0});
+    EXPECT_NE(workspace.Record(1), dragged);
+    workspace.Entry("CmdEditUndo")->trigger();  // one step for each drag
+    EXPECT_EQ(workspace.Record(1), dragged);
+    workspace.Click("CmdCircleReset");
+    EXPECT_EQ(workspace.Record(1).OfsetY, before.OfsetY);
+    EXPECT_EQ(workspace.Record(1).Ratio, before.GearRatio);
+    EXPECT_FALSE(workspace.Find<QPushButton>("CmdCircleReset")->isEnabled());
+    workspace.Entry("CmdEditUndo")->trigger();
+    EXPECT_EQ(workspace.Record(1), dragged);
+    workspace.Entry("CmdEditUndo")->trigger();
+    EXPECT_EQ(workspace.Record(1), found);
+    workspace.Entry("CmdEditRedo")->trigger();
+    EXPECT_EQ(workspace.Record(1), dragged);
+    EXPECT_EQ(workspace.state.Gear(1), before);
     workspace.Click("CmdCircleTake");
     Key(workspace, Qt::Key_Escape);
     EXPECT_TRUE(workspace.Find("CmdCircleTake")->isVisible());
@@ -87,8 +109,9 @@ TEST(CircleTools, WhatIsFoundAndDraggedGoesIntoTheGear) {
     workspace.Press("GearCombo", Qt::Key_Down);
     QApplication::processEvents();
     EXPECT_TRUE(workspace.Find("CmdCircleTake")->isVisible());  // it was not asked for this gear
-    workspace.Press("GearCombo", Qt::Key_Up);
+    workspace.Entry("CmdEditUndo")->trigger();
     QApplication::processEvents();
+    EXPECT_EQ(workspace.Record(1), dragged);
     workspace.Click("CmdCircleTake");
     EXPECT_EQ(workspace.state.Gear(1), before);
     Key(workspace, Qt::Key_Return);

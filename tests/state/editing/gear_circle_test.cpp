@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "state/adjustments/gear_assignment.h"
@@ -58,6 +59,46 @@ TEST(GearCircleFor, RoundsToTenthsWithoutANegativeZero) {
         GearCircleFor({1499.999, 1004.68, 800.0}, Photo({3000, 2000}, 1), {3000, 2000});
     EXPECT_EQ(circle, (GearCircle{0.0F, 2.3F, 187.5F}));
     EXPECT_FALSE(std::signbit(circle.OfsetX));
+}
+
+// 36 x 24 mm; the picture is cut to a square and reduced.
+TEST(PutCircle, TakesThePieceOfTheSensorWhicheverWasThereBefore) {
+    GearRecord gear = Gear("A");
+    gear.SensorWidth = 36.0F;
+    gear.SensorHeight = 24.0F;
+    gear.ImageCircleRadius = 11.16F;
+    gear.LensMapScale = 15.78F;
+    gear.LensMapFactor = 0.5F;
+    gear.hAOV = 170.0F;
+    ImageRecord image = Photo({1600, 1600}, 1);
+    AssignGear(gear, image);
+    const ImageRecord before = image;
+    struct {
+        double radius;
+        float side, ratio, angle;
+    } const rows[] = {{744.0, 24.0F, 107.53F, 180.04F},
+                      {1488.0, 12.0F, 53.76F, 89.4F},
+                      {744.0, 24.0F, 107.53F, 180.04F}};
+    for (const auto& row : rows) {
+        PutCircle({798.0, 812.0, row.radius}, gear, image);
+        EXPECT_NEAR(image.SensorWidth, row.side, 0.01F);
+        EXPECT_EQ(image.SensorHeight, image.SensorWidth);
+        EXPECT_NEAR(image.Ratio, row.ratio, 0.01F);
+        EXPECT_NEAR(image.OfsetY, 7.5F, 0.001F);
+        EXPECT_TRUE(image.SettingsApplied);
+        EXPECT_NEAR(image.InputAOV, row.angle, 0.1F);  // the piece's
+        EXPECT_EQ(image.OutputAOV, std::min(image.InputAOV, 130.0F));
+    }
+    image.InputAOV = 150.0F;  // both by hand
+    image.OutputAOV = 90.0F;
+    PutCircle({798.0, 812.0, 1000.0}, gear, image);
+    EXPECT_EQ(image.InputAOV, 150.0F);
+    EXPECT_EQ(image.OutputAOV, 90.0F);
+    image.InputAOV = before.InputAOV;
+    image.OutputAOV = before.OutputAOV;
+    ResetCircle(gear, image);
+    image.SettingsApplied = false;
+    EXPECT_EQ(image, before);
 }
 
 TEST(TakeCircle, ReachesTheCurrentPhotoAndUnadjustedOnesOfTheGear) {

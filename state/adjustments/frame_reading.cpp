@@ -27,6 +27,20 @@ PixelSize SizeOf(const ImageRecord& image) {
     return {image.Width, image.Height};
 }
 
+struct Share {
+    double across = 0.5;
+    double down = 0.5;
+};
+
+// Where on a picture of that size offsets of 0 mean: its middle, or the axis that its lens states.
+Share AxisOf(const ImageRecord& image, PixelSize picture) {
+    if (!image.Lens || !HasCentreFor(*image.Lens, picture)) {
+        return {};
+    }
+    const LensCentre& centre = *image.Lens->centre;
+    return {centre.x / centre.size.width, 1.0 - centre.y / centre.size.height};
+}
+
 // The angles of view of the piece of sensor that the record has now.
 void RenewAngles(ImageRecord& image) {
     GearRecord gear = GearOf(image);
@@ -106,14 +120,16 @@ QStringList Doubts::Names() const {
 
 ImageCircle CircleOf(const ImageRecord& image, PixelSize picture) {
     const double ratio = static_cast<double>(image.Ratio);
-    return {picture.width * (0.5 + static_cast<double>(image.OfsetX) / 1000.0),
-            picture.height * (0.5 + static_cast<double>(image.OfsetY) / 1000.0),
+    const Share axis = AxisOf(image, picture);
+    return {picture.width * (axis.across + static_cast<double>(image.OfsetX) / 1000.0),
+            picture.height * (axis.down + static_cast<double>(image.OfsetY) / 1000.0),
             ratio > 0.0 ? 50.0 * std::max(picture.width, picture.height) / ratio : 0.0};
 }
 
 void TakeCircle(const ImageCircle& circle, ImageRecord& image) {
-    image.OfsetX = static_cast<float>(1000.0 * (circle.x / image.Width - 0.5));
-    image.OfsetY = static_cast<float>(1000.0 * (circle.y / image.Height - 0.5));
+    const Share axis = AxisOf(image, SizeOf(image));
+    image.OfsetX = static_cast<float>(1000.0 * (circle.x / image.Width - axis.across));
+    image.OfsetY = static_cast<float>(1000.0 * (circle.y / image.Height - axis.down));
     image.Ratio = static_cast<float>(50.0 * LongerSide(image) / circle.radius);
     if (image.ImageCircleRadius > 0.0F) {
         // Nominal circles are some percent too large or small, and no piece is larger than the

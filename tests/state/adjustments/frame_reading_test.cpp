@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <numbers>
 
 #include "gear/catalogue/gear_catalogue.h"
 #include "remap/projection/geometry.h"
 #include "state/adjustments/gear_assignment.h"
+#include "tests/support/lenses.h"
 
 namespace varnel {
 namespace {
@@ -155,6 +157,16 @@ TEST(ReadFrame, TakesTheCircleWhereThePictureIsNotTheWholeSensor) {
     nominal.ImageCircleRadius = 12.0F;
     ReadFrame(FoundCircle{{800, 800, 744}, 1}, nominal);
     EXPECT_NEAR(nominal.SensorWidth, 24.0, 0.01) << "no piece is larger than the sensor";
+    ImageRecord placed = Photo(3000, 2000);
+    SampledLens lens = testing::SampledLensOf(placed);
+    lens.centre = {1510.0, 995.0, {6000, 4000}};
+    placed.Lens = std::make_shared<const SampledLens>(lens);
+    placed.OfsetX = 0.0F;
+    EXPECT_NEAR(CircleOf(placed, {3000, 2000}).x, 755.0, 0.01) << "the lens states its axis";
+    EXPECT_NEAR(CircleOf(placed, {3000, 2000}).y, 1502.5, 0.01);
+    TakeCircle({760.0, 1500.0, 900.0}, placed);
+    EXPECT_NEAR(CircleOf(placed, {3000, 2000}).x, 760.0, 0.01);
+    EXPECT_NEAR(CircleOf(placed, {3000, 2000}).y, 1500.0, 0.01);
     ImageRecord square = Photo(1600, 1600);
     ReadFrame(FoundCircle{{800, 800, 744}, 1}, square);
     EXPECT_NEAR(square.InputAOV, 180.0, 0.2) << "of the piece, which has the whole circle";

@@ -35,8 +35,7 @@ void ImageSelection::Rearrange(int current, std::vector<int> selected) {
     selected_ = std::move(selected);
     selected_.push_back(current);
     std::ranges::sort(selected_);
-    const auto doubled = std::ranges::unique(selected_);
-    selected_.erase(doubled.begin(), doubled.end());
+    selected_.erase(std::unique(selected_.begin(), selected_.end()), selected_.end());
     Q_EMIT Rearranged();
 }
 

@@ -9,6 +9,8 @@
 #include <numbers>
 #include <vector>
 
+#include "remap/projection/rays.h"
+
 #include "base/rounding.h"
 
 namespace varnel {
@@ -17,19 +19,6 @@ namespace {
 
 constexpr double degree = std::numbers::pi / 180.0;
 constexpr std::size_t triedRays = 48;  // their pairs are the planes that are tried
-
-double Dot(const Ray& a, const Ray& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
-Ray Cross(const Ray& a, const Ray& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-Ray Unit(const Ray& ray) {
-    const double length = std::sqrt(Dot(ray, ray));
-    return {ray.x / length, ray.y / length, ray.z / length};
-}
 
 double MedianDistance(std::span<const Ray> rays, const Ray& normal, std::vector<double>& room) {
     room.clear();

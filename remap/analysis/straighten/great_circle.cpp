@@ -36,19 +36,6 @@ struct MovingRay {
 
 }  // namespace
 
-double Dot(const Ray& a, const Ray& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
-Ray Cross(const Ray& a, const Ray& b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-
-Ray Unit(const Ray& ray) {
-    const double length = std::sqrt(Dot(ray, ray));
-    return length > 0.0 ? Ray{ray.x / length, ray.y / length, ray.z / length} : Ray{0.0, 0.0, 1.0};
-}
-
 void Scatter::Add(const Ray& ray, double weight) {
     xx += weight * ray.x * ray.x;
     xy += weight * ray.x * ray.y;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "remap/analysis/straighten/lens_view.h"
+#include "remap/projection/rays.h"
 
 namespace varnel {
 
@@ -17,11 +18,6 @@ struct CircleFit {
     std::vector<double> residuals;  // of each point across the edge, pixels
     double rms = 0.0;               // pixels
 };
-
-double Dot(const Ray& a, const Ray& b);
-Ray Cross(const Ray& a, const Ray& b);
-// Length 1; the z axis for a ray of no length.
-Ray Unit(const Ray& ray);
 
 // Sums of the products of the rays' components, each ray with its weight: xx, xy, xz, yy, yz, zz.
 struct Scatter {

@@ -27,6 +27,18 @@ struct Start {
     QString error;
 };
 
+// The record's lens as it draws on a photo.
+LensView KnownView(const ImageRecord& record, double pixelsPerMillimetre, const EdgePoint& centre) {
+    if (record.Lens) {
+        const bool inMillimetres = record.Lens->unit == SampledLens::Unit::Millimetres;
+        const double unit = inMillimetres ? 1.0 : static_cast<double>(record.ImageCircleRadius);
+        return ViewOfLens(*record.Lens, unit * pixelsPerMillimetre, centre);
+    }
+    return ViewOfFormula(
+        LensMappingKind(record.LensBrand.toStdString(), record.LensModel.toStdString()),
+        {record.LensMapScale, record.LensMapFactor}, pixelsPerMillimetre, centre);
+}
+
 MeasureOptions OptionsFrom(const Options& options, const StartedRecord& started, PixelSize size) {
     const ImageRecord& record = started.record;
     MeasureOptions measure;
@@ -41,10 +53,8 @@ MeasureOptions OptionsFrom(const Options& options, const StartedRecord& started,
             size.width, record.Landscape,
             {std::max(record.SensorWidth, 0.1F), std::max(record.SensorHeight, 0.1F)});
         const ImageCircle circle = CircleOf(record, size);
-        measure.guess = ViewOfFormula(
-            LensMappingKind(record.LensBrand.toStdString(), record.LensModel.toStdString()),
-            {record.LensMapScale, record.LensMapFactor}, *measure.pixelsPerMillimetre,
-            {circle.x, size.height - circle.y});
+        measure.guess =
+            KnownView(record, *measure.pixelsPerMillimetre, {circle.x, size.height - circle.y});
     }
     measure.focalMillimetres = options.focal;
     return measure;

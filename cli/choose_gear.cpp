@@ -12,8 +12,8 @@
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
 #include "gear/from_photo/photo_gear.h"
+#include "gear/from_photo/photo_lens.h"
 #include "gear/store/gear_store.h"
-#include "state/adjustments/frame_reading.h"
 
 namespace varnel {
 

@@ -186,6 +186,12 @@ CatalogueEntry OnlyOne(const std::vector<KnownLens>& lenses, const CatalogueEntr
                                                                         : CatalogueEntry();
 }
 
+bool NamesFisheye(const LensName& name) {
+    return std::ranges::any_of(name.words, [](const QString& word) {
+        return word.contains(u"FISH") || word == u"CIRCULAR" || word == u"FE";
+    });
+}
+
 }  // namespace
 
 PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camera) {
@@ -209,6 +215,12 @@ PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camer
         found.lens = OnlyOne(fitting, camera, !exif.makers.isEmpty(), found.isNamed);
     }
     return found;
+}
+
+bool NamesPlainLens(const CameraInfo& origin) {
+    const LensName name = ParseLensName(origin.LensModel);
+    return name.shortest > 0.0F && !NamesFisheye(name) &&
+           LensesFromExif(origin, CameraFromExif(origin.Make, origin.Model)).fitting.empty();
 }
 
 }  // namespace varnel

@@ -23,4 +23,8 @@ struct PhotoLenses {
 // share most of their range with ordinary lenses.
 PhotoLenses LensesFromExif(const CameraInfo& origin, const CatalogueEntry& camera);
 
+// Whether the file names a lens that neither calls itself a fisheye nor may be one of the
+// catalogue.
+bool NamesPlainLens(const CameraInfo& origin);
+
 }  // namespace varnel

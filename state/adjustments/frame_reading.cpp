@@ -9,9 +9,7 @@
 
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/from_photo/gear_offer.h"
-#include "gear/from_photo/lens_name.h"
 #include "gear/from_photo/photo_camera.h"
-#include "gear/from_photo/photo_lens.h"
 #include "remap/projection/record_maps.h"
 #include "state/adjustments/gear_assignment.h"
 
@@ -79,12 +77,6 @@ bool IsOff(const FoundCircle& found, const ImageCircle& expected) {
     const double off = std::max(std::fabs(found.radius - expected.radius),
                                 std::hypot(found.x - expected.x, found.y - expected.y));
     return off > 0.01 * expected.radius && off > 3.0 * found.error;
-}
-
-bool NamesFisheye(const LensName& name) {
-    return std::ranges::any_of(name.words, [](const QString& word) {
-        return word.contains(u"FISH") || word == u"CIRCULAR" || word == u"FE";
-    });
 }
 
 GearRecord GuessedGear(const CameraInfo& origin, double radius, const ImageRecord& image) {
@@ -201,12 +193,6 @@ FrameReading GuessFrame(const CameraInfo& origin, const std::optional<FoundCircl
     TakeCircle(circle, image);
     const bool uncertain = !found || found->rough;
     return {GearSource::Guess, {.scale = uncertain, .centre = uncertain, .curve = true}};
-}
-
-bool NamesPlainLens(const CameraInfo& origin) {
-    const LensName name = ParseLensName(origin.LensModel);
-    return name.shortest > 0.0F && !NamesFisheye(name) &&
-           LensesFromExif(origin, CameraFromExif(origin.Make, origin.Model)).fitting.empty();
 }
 
 }  // namespace varnel

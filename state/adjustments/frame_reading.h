@@ -71,8 +71,4 @@ QString GuessedGearName();
 FrameReading GuessFrame(const CameraInfo& origin, const std::optional<FoundCircle>& found,
                         ImageRecord& image);
 
-// Whether the file names a lens that neither calls itself a fisheye nor may be one of the
-// catalogue.
-bool NamesPlainLens(const CameraInfo& origin);
-
 }  // namespace varnel

@@ -364,5 +364,26 @@ TEST(ShapeError, DoubtsPicturesThatAreNoWholeSensor) {
     }
 }
 
+TEST(NamesPlainLens, IsForLensesThatAreKnownNotToBeFisheyes) {
+    const struct {
+        const char16_t* lens;
+        bool plain;
+    } rows[] = {{u"EF24-105mm f/4L IS USM", true},
+                {u"iPhone back camera 4.2mm f/1.8", true},
+                {u"7.5mm f/2.8 Fisheye", false},
+                {u"EF8-15mm f/4L FISHEYE USM", false},
+                {u"10.5 mm f/2.8", false},
+                {u"", false},
+                {u"----", false},
+                {u"0.0 mm f/0.0", false}};
+    for (const auto& row : rows) {
+        CameraInfo origin;
+        origin.Make = QStringLiteral("NIKON CORPORATION");
+        origin.Model = QStringLiteral("NIKON D9999");
+        origin.LensModel = QString::fromUtf16(row.lens);
+        EXPECT_EQ(NamesPlainLens(origin), row.plain) << origin.LensModel.toStdString();
+    }
+}
+
 }  // namespace
 }  // namespace varnel

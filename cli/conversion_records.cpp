@@ -87,9 +87,12 @@ QStringList NotesOn(const FrameReading& reading) {
                            : QStringList();
 }
 
-FrameReading ReadFound(const std::optional<GearRecord>& gear, const Bitmap& photo,
-                       ImageRecord& record) {
-    const auto found = FindPhotoCircle(&photo);
+// A guess is made around the circle that was given, if one was.
+FrameReading ReadFound(const Options& options, const std::optional<GearRecord>& gear,
+                       const Bitmap& photo, ImageRecord& record) {
+    const auto found = options.circle == CircleUse::Given
+                           ? std::optional(FoundCircle{options.givenCircle})
+                           : FindPhotoCircle(&photo);
     return gear ? ReadFrame(found, record) : GuessFrame(photo.metadata.photo.origin, found, record);
 }
 
@@ -129,7 +132,7 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
         }
         reading.source = options.curve ? GearSource::Measured : reading.source;
     } else if (photo != nullptr && (!gear || options.circle == CircleUse::Found)) {
-        reading = ReadFound(gear, *photo, record);
+        reading = ReadFound(options, gear, *photo, record);
         started.notes = NotesOn(reading);
         if (reading.source != GearSource::Exif || reading.cropped) {
             KeepOfLike(options, record);

@@ -108,6 +108,13 @@ TEST(GuessedGear, LeavesNoPhotoOutButThoseOfOtherLenses) {
     const QByteArray guessed = Contents(result);
     EXPECT_EQ(run({Q("--gear=guess"), Q("--circle=30,20,18"), plain}), exitAllWritten);
     EXPECT_NE(Contents(result), guessed);
+    const auto straight = [&](const char* circle) {
+        EXPECT_EQ(run({Q("--gear=guess"), Q("--projection=rectilinear"), Q("--circle"), Q(circle),
+                       plain}),
+                  exitAllWritten);
+        return Contents(files.Path(Q("plain.Rectilinear.BMP")));
+    };
+    EXPECT_NE(straight("30,20,18"), straight("30,20,9")) << "the guess is made around it";
     for (const char* circle : {"", "1,2", "1,2,x", "1,2,0", "nan,2,3", "inf,2,3", "on"}) {
         EXPECT_EQ(run({Q("--circle"), Q(circle), plain}), exitUsage) << circle;
     }

@@ -358,5 +358,35 @@ TEST(UnpackAttributes, GivesWhatIsSoundOfAnyBytes) {
     }
 }
 
+TEST(UnpackFileMetadata, GivesWhatIsSoundOfAnyBytes) {
+    FileMetadata file;
+    file.colourProfile = QByteArray(30, 'p');
+    PhotoMetadata& photo = file.metadata;
+    photo.exif = {QByteArray("II*\0", 4) + QByteArray(56, 'e'), 8, 20, 32, 44, 10};
+    photo.exifForJpeg = {QByteArray("MM\0*", 4) + QByteArray(36, 'j'), 8, 20, 0, 0, 0};
+    photo.tiffEntries = QByteArray(24, 't');
+    photo.iptc = "captions";
+    photo.xmp = "<x:xmpmeta/>";
+    photo.xmpPlace = 5;
+    photo.origin.Make = Text("Nikon");
+    photo.settings = {{Text("Projection"), Text("Horizon")}};
+    const QByteArray block = PackFileMetadata(file);
+    EXPECT_EQ(UnpackFileMetadata(block).metadata, photo);
+    for (qsizetype length = 0; length < block.size(); ++length) {
+        EXPECT_TRUE(UnpackFileMetadata(block.left(length)).metadata.IsEmpty()) << length;
+    }
+    for (qsizetype place = 0; place < block.size(); ++place) {
+        for (const char value : {'\0', '\x7F', '\xFF'}) {
+            QByteArray spoilt = block;
+            spoilt[place] = value;
+            const PhotoMetadata taken = UnpackFileMetadata(spoilt).metadata;
+            const qsizetype bytes = taken.exif.bytes.size();
+            EXPECT_LE(qsizetype{taken.exif.thumbnail} + taken.exif.thumbnailRoom, bytes) << place;
+            EXPECT_TRUE(bytes == 0 || taken.exif.bytes.startsWith("II*")) << place;
+            EXPECT_LE(taken.xmpPlace, taken.xmp.size()) << place;
+        }
+    }
+}
+
 }  // namespace
 }  // namespace varnel

@@ -115,6 +115,22 @@ TEST_P(IfdReaderOrder, KnowsWhatIsCut) {
     }
 }
 
+TEST_P(IfdReaderOrder, StaysWithinTheBlockWhateverBitIsWrong) {
+    const QByteArray whole = Block(GetParam());
+    for (qsizetype bit = 0; bit < 8 * whole.size(); ++bit) {
+        QByteArray block = whole;
+        block[bit / 8] = static_cast<char>(block[bit / 8] ^ (1 << (bit % 8)));
+        const IfdReader reader(block);
+        const Ifd first = reader.IsTiff() ? reader.Directory(reader.First()) : Ifd();
+        for (const IfdEntry& entry : first.entries) {
+            EXPECT_LE(reader.Numbers(entry, 9).size(), 9U) << bit;
+            EXPECT_LE(reader.Bytes(entry, 9).size(), 9) << bit;
+            EXPECT_TRUE(!reader.HoldsValues(entry) || reader.Holds(entry.valuePlace, 1)) << bit;
+        }
+        reader.Directory(first.next);
+    }
+}
+
 TEST(IfdReader, ReadsTheVariantWithLongOffsets) {
     const QByteArray file = QByteArray::fromHex(
         "49492b00080000001000000000000000"

@@ -75,7 +75,7 @@ void CheckMetadata(const QByteArray& block) {
     }
     const varnel::BitmapHandle bitmap = varnel::NewBitmap({8, 8});
     varnel::GiveMetadata(taken, *bitmap);
-    for (const varnel::OutputType type : varnel::allOutputTypes) {
+    for (const varnel::OutputType type : varnel::AllOutputTypes()) {
         varnel::EncodeBitmap(type, bitmap.get());
     }
 }

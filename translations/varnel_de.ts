@@ -1484,32 +1484,32 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>ohne Metadaten geschrieben: %1</translation>
     </message>
     <message>
-        <source>BMP files hold no metadata</source>
-        <translation>BMP-Dateien enthalten keine Metadaten</translation>
+        <source>%1 files hold no metadata</source>
+        <translation>%1-Dateien enthalten keine Metadaten</translation>
     </message>
     <message>
-        <source>BMP files hold no settings</source>
-        <translation>BMP-Dateien enthalten keine Einstellungen</translation>
+        <source>%1 files hold no settings</source>
+        <translation>%1-Dateien enthalten keine Einstellungen</translation>
     </message>
     <message>
-        <source>BMP files hold no colour profile</source>
-        <translation>BMP-Dateien enthalten kein Farbprofil</translation>
+        <source>%1 files hold no colour profile</source>
+        <translation>%1-Dateien enthalten kein Farbprofil</translation>
     </message>
     <message>
-        <source>BMP files hold no metadata or settings</source>
-        <translation>BMP-Dateien enthalten weder Metadaten noch Einstellungen</translation>
+        <source>%1 files hold no metadata or settings</source>
+        <translation>%1-Dateien enthalten weder Metadaten noch Einstellungen</translation>
     </message>
     <message>
-        <source>BMP files hold no metadata or colour profile</source>
-        <translation>BMP-Dateien enthalten weder Metadaten noch Farbprofil</translation>
+        <source>%1 files hold no metadata or colour profile</source>
+        <translation>%1-Dateien enthalten weder Metadaten noch Farbprofil</translation>
     </message>
     <message>
-        <source>BMP files hold no settings or colour profile</source>
-        <translation>BMP-Dateien enthalten weder Einstellungen noch Farbprofil</translation>
+        <source>%1 files hold no settings or colour profile</source>
+        <translation>%1-Dateien enthalten weder Einstellungen noch Farbprofil</translation>
     </message>
     <message>
-        <source>BMP files hold no metadata, settings or colour profile</source>
-        <translation>BMP-Dateien enthalten weder Metadaten noch Einstellungen noch Farbprofil</translation>
+        <source>%1 files hold no metadata, settings or colour profile</source>
+        <translation>%1-Dateien enthalten weder Metadaten noch Einstellungen noch Farbprofil</translation>
     </message>
     <message>
         <source>there is no such file</source>

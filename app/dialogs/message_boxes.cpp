@@ -51,7 +51,7 @@ void Widen(QMessageBox& box) {
 
 QStringList Filters() {
     QStringList filters;
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         filters.append(FilterOf(type));
     }
     return filters;

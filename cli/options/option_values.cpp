@@ -126,7 +126,7 @@ OutputType TypeOf(const QString& text) {
             QStringLiteral("unknown type \"%1\"; use %2").arg(text, ToText(*type).toLower())};
     }
     QStringList types;
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         types.append(ToText(type).toLower());
     }
     const QString last = types.takeLast();

@@ -91,7 +91,7 @@ FormBatch::~FormBatch() = default;
 
 void FormBatch::FillChoices() {
     const bool first = choices_.folder.isEmpty();
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         ui_->ComboFileType->addItem(ToText(type));
     }
     ui_->ComboFileType->setCurrentText(

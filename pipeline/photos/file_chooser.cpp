@@ -21,12 +21,13 @@ struct Texts {
 
 OutputType TypeOf(const SaveChoice& choice) {
     const auto place = static_cast<std::size_t>(choice.filterIndex - 1);
-    return choice.filterIndex >= 1 && place < allOutputTypes.size() ? allOutputTypes[place]
-                                                                    : OutputType::Tiff;
+    const auto types = AllOutputTypes();
+    return choice.filterIndex >= 1 && place < types.size() ? types[place] : OutputType::Tiff;
 }
 
 int FilterIndexOf(OutputType type) {
-    return static_cast<int>(std::ranges::find(allOutputTypes, type) - allOutputTypes.begin()) + 1;
+    const auto types = AllOutputTypes();
+    return static_cast<int>(std::ranges::find(types, type) - types.begin()) + 1;
 }
 
 std::optional<SaveChoice> AskWhereToSave(FileChooser& chooser, Notices& notices,

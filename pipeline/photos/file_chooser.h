@@ -14,7 +14,7 @@ namespace varnel {
 
 struct SaveChoice {
     QString name;
-    int filterIndex = 1;  // of the type in allOutputTypes, from 1 on
+    int filterIndex = 1;  // of the type in AllOutputTypes(), from 1 on
 };
 
 // TIFF for an index that is none of a type.

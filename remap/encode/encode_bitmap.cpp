@@ -5,6 +5,7 @@
 
 #include <new>
 
+#include "remap/encode/metadata_writer.h"
 #include "remap/encode/output_format.h"
 
 namespace varnel {
@@ -23,6 +24,9 @@ EncodedBitmap Encoded(const OutputEncoding& encoding, const Bitmap& bitmap,
         EncodedBitmap file = FormatOf(encoding.type).encode(&bitmap, encoding, options);
         if (file.bytes.size() > options.largest) {
             return {{}, {ReasonCode::FileTooLarge, options.largest}};
+        }
+        if (file.reason.isEmpty()) {
+            file.note = Joined({file.note, LostIn(encoding.type, bitmap)});
         }
         return file;
     } catch (const std::bad_alloc&) {

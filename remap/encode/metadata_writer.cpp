@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "remap/encode/exif_writer.h"
+#include "remap/encode/output_format.h"
 #include "remap/encode/xmp_settings.h"
 #include "remap/image/ifd_reader.h"
 
@@ -38,7 +39,7 @@ class Assembly {
     WrittenMetadata Jpeg();
     WrittenMetadata Png();
     WrittenMetadata Tiff();
-    Reason LostInBmp() const;
+    Reason LostIn(OutputType type) const;
 
   private:
     void AddShortExif();
@@ -136,19 +137,22 @@ bool Assembly::IsWorthKeeping() const {
 }
 
 // By what is lost: metadata 1, settings 2, colour profile 4.
-constexpr std::array lostInBmp{ReasonCode::None,
-                               ReasonCode::BmpHoldsNoMetadata,
-                               ReasonCode::BmpHoldsNoSettings,
-                               ReasonCode::BmpHoldsNoMetadataOrSettings,
-                               ReasonCode::BmpHoldsNoProfile,
-                               ReasonCode::BmpHoldsNoMetadataOrProfile,
-                               ReasonCode::BmpHoldsNoSettingsOrProfile,
-                               ReasonCode::BmpHoldsPixelsOnly};
+constexpr std::array lostCodes{ReasonCode::None,
+                               ReasonCode::TypeHoldsNoMetadata,
+                               ReasonCode::TypeHoldsNoSettings,
+                               ReasonCode::TypeHoldsNoMetadataOrSettings,
+                               ReasonCode::TypeHoldsNoProfile,
+                               ReasonCode::TypeHoldsNoMetadataOrProfile,
+                               ReasonCode::TypeHoldsNoSettingsOrProfile,
+                               ReasonCode::TypeHoldsPixelsOnly};
 
-Reason Assembly::LostInBmp() const {
-    const std::size_t lost = (IsWorthKeeping() ? 1U : 0U) + (settings_.isEmpty() ? 0U : 2U) +
-                             (bitmap_.metadata.colourProfile.isEmpty() ? 0U : 4U);
-    return lost == 0 ? Reason() : lostInBmp[lost];
+Reason Assembly::LostIn(OutputType type) const {
+    const OutputAbilities& holds = FormatOf(type).holds;
+    const std::size_t lost =
+        (!holds.metadata && IsWorthKeeping() ? 1U : 0U) +
+        (!holds.metadata && !settings_.isEmpty() ? 2U : 0U) +
+        (!holds.profile && !bitmap_.metadata.colourProfile.isEmpty() ? 4U : 0U);
+    return lost == 0 ? Reason() : Reason(lostCodes[lost], ToText(type));
 }
 
 }  // namespace
@@ -168,8 +172,8 @@ WrittenMetadata MetadataForTiff(const Bitmap& bitmap) {
     return assembly.IsNeeded() ? assembly.Tiff() : WrittenMetadata();
 }
 
-Reason LostInBmp(const Bitmap& bitmap) {
-    return Assembly(bitmap).LostInBmp();
+Reason LostIn(OutputType type, const Bitmap& bitmap) {
+    return Assembly(bitmap).LostIn(type);
 }
 
 QByteArray IptcResource(const QByteArray& iptc) {

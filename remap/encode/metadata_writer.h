@@ -7,6 +7,7 @@
 #include <QByteArray>
 
 #include "base/reason.h"
+#include "remap/encode/output_type.h"
 #include "remap/image/bitmap.h"
 
 namespace varnel {
@@ -20,12 +21,13 @@ struct WrittenMetadata {
     Reasons notes;       // what the file is without
 };
 
-// For a file of each type. The bitmap has 24 bits. Throw std::bad_alloc.
+// For a file of each type. Throw std::bad_alloc.
 WrittenMetadata MetadataForJpeg(const Bitmap& bitmap);
 WrittenMetadata MetadataForPng(const Bitmap& bitmap);
 WrittenMetadata MetadataForTiff(const Bitmap& bitmap);
-// What a BMP file does not keep of the bitmap; empty when that is nothing.
-Reason LostInBmp(const Bitmap& bitmap);
+// What the bitmap has and a file of the type cannot hold, by the type's row; empty when that is
+// nothing. Throws std::bad_alloc.
+Reason LostIn(OutputType type, const Bitmap& bitmap);
 
 // The image resource of Photoshop's that holds IPTC.
 QByteArray IptcResource(const QByteArray& iptc);

@@ -6,12 +6,10 @@
 #include <algorithm>
 #include <array>
 
-#include "remap/encode/coders/freeimage_encoder.h"
-#include "remap/encode/coders/jpeg_coder.h"
-#include "remap/encode/coders/png_coder.h"
-#include "remap/encode/coders/tiff_coder.h"
-
 namespace varnel {
+
+// The coders, each in its file under coders/.
+EncodeFunction EncodeTiff, EncodeJpeg, EncodeBmp, EncodePng;
 
 namespace {
 
@@ -42,8 +40,7 @@ double BytesPerPixel(const OutputEncoding& /*encoding*/) {
 }
 
 constexpr std::array rows{
-    OutputFormat{OutputType::Tiff,
-                 u"TIFF",
+    OutputFormat{u"TIFF",
                  u"Tiff",
                  u".TIF",
                  u".TIFF",
@@ -51,8 +48,7 @@ constexpr std::array rows{
                  false,
                  &BytesPerPixel<230>,
                  &EncodeTiff},
-    OutputFormat{OutputType::Jpeg,
-                 u"JPEG",
+    OutputFormat{u"JPEG",
                  u"Jpeg",
                  u".JPG",
                  u".JPEG",
@@ -60,17 +56,8 @@ constexpr std::array rows{
                  true,
                  &JpegBytesPerPixel,
                  &EncodeJpeg},
-    OutputFormat{OutputType::Bmp,
-                 u"BMP",
-                 u"BMP",
-                 u".BMP",
-                 u".BMP",
-                 {},
-                 false,
-                 &BytesPerPixel<300>,
-                 &EncodeBmp},
-    OutputFormat{OutputType::Png,
-                 u"PNG",
+    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &BytesPerPixel<300>, &EncodeBmp},
+    OutputFormat{u"PNG",
                  u"PNG",
                  u".PNG",
                  u".PNG",
@@ -78,9 +65,21 @@ constexpr std::array rows{
                  false,
                  &BytesPerPixel<200>,
                  &EncodePng}};
-static_assert(std::ranges::equal(rows, allOutputTypes, {}, &OutputFormat::type));
+
+// Of places that are the table's, one after the other.
+constexpr auto types = [] {
+    std::array<OutputType, rows.size()> all{};
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        all[place] = static_cast<OutputType>(place);
+    }
+    return all;
+}();
 
 }  // namespace
+
+std::span<const OutputType> AllOutputTypes() {
+    return types;
+}
 
 const OutputFormat& FormatOf(OutputType type) {
     return rows[static_cast<std::size_t>(type)];

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The table of the file types that Varnel writes. Another type is a row here, its encoder and its
-// tests: settings, dialogs, names and the command line read the table. Throws nothing.
+// The table of the file types that Varnel writes. Another type is a row in output_format.cpp, its
+// coder and its tests: settings, dialogs, names and the command line read the table. Throws
+// nothing.
 #pragma once
 
 #include "remap/encode/encode_bitmap.h"
@@ -19,7 +20,6 @@ struct OutputAbilities {
 };
 
 struct OutputFormat {
-    OutputType type;
     const char16_t* key;      // the setting's text, and in any case the command line's
     const char16_t* name;     // in the save dialog
     const char16_t* ending;   // with its dot, as it is written
@@ -29,7 +29,7 @@ struct OutputFormat {
     // Of a file to be expected. Measured with converted photos of foliage, which need two to four
     // times what indoor ones do.
     double (*bytesPerPixel)(const OutputEncoding&);
-    EncodedBitmap (*encode)(const Bitmap*, const OutputEncoding&, const EncodeOptions&);
+    EncodeFunction* encode;
 };
 
 const OutputFormat& FormatOf(OutputType type);

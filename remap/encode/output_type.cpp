@@ -13,9 +13,10 @@ namespace {
 
 template <class Holds>
 std::optional<OutputType> FirstOf(const Holds& holds) {
-    const auto* const found = std::ranges::find_if(
-        allOutputTypes, [&](OutputType type) { return holds(FormatOf(type)); });
-    return found == allOutputTypes.end() ? std::nullopt : std::optional(*found);
+    const std::span<const OutputType> all = AllOutputTypes();
+    const auto found =
+        std::ranges::find_if(all, [&](OutputType type) { return holds(FormatOf(type)); });
+    return found == all.end() ? std::nullopt : std::optional(*found);
 }
 
 }  // namespace

@@ -6,16 +6,17 @@
 #pragma once
 
 #include <QString>
-#include <array>
+#include <cstdint>
 #include <optional>
+#include <span>
 
 namespace varnel {
 
-// In the order of the lists.
-enum class OutputType { Tiff, Jpeg, Bmp, Png };
+// The place of a type's row in the table. Those that code and tests name; the table may have more.
+enum class OutputType : std::uint8_t { Tiff, Jpeg, Bmp, Png };
 
-inline constexpr std::array allOutputTypes{OutputType::Tiff, OutputType::Jpeg, OutputType::Bmp,
-                                           OutputType::Png};
+// Those of the table, in the order of the lists.
+std::span<const OutputType> AllOutputTypes();
 
 // A type with the settings that types take; each takes what its row says and leaves the rest.
 struct OutputEncoding {

@@ -81,7 +81,7 @@ void FormSetup::FillSizes() {
 
 void FormSetup::FillFile() {
     ui_->ComboFileType->clear();
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         ui_->ComboFileType->addItem(ToText(type));
     }
     ui_->ComboFileType->setCurrentText(ToText(OutputTypeFromText(settings_.FileType)));

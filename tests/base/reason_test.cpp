@@ -47,7 +47,7 @@ TEST(Reason, IsToldWithItsArgumentsWhateverTheyLookLike) {
         {{ReasonCode::Added, ReasonCode::CannotBeDecoded, Text("Bogus marker")},
          "the picture cannot be decoded (Bogus marker)"},
         {{ReasonCode::Of, Text("/a"), diskFull}, "/a: No space left on device (while writing)"},
-        {Joined({ReasonCode::XmpTooLong, {}, ReasonCode::BmpHoldsNoProfile}),
+        {Joined({ReasonCode::XmpTooLong, {}, {ReasonCode::TypeHoldsNoProfile, Text("BMP")}}),
          "written without its XMP: too long for a JPEG file; BMP files hold no colour profile"},
         {Joined({{}, ReasonCode::FileEmpty}), "the file is empty"},
         {Joined({}), ""}};

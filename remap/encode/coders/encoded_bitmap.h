@@ -10,6 +10,8 @@
 
 #include "base/block_runner.h"
 #include "base/reason.h"
+#include "remap/encode/output_type.h"
+#include "remap/image/bitmap.h"
 
 namespace varnel {
 
@@ -32,5 +34,8 @@ struct EncodedBitmap {
     Reason reason;
     Reason note = {};  // what the file is without, and why; empty when it has everything
 };
+
+// A coder: the file of a picture with the settings that the type takes.
+using EncodeFunction = EncodedBitmap(const Bitmap*, const OutputEncoding&, const EncodeOptions&);
 
 }  // namespace varnel

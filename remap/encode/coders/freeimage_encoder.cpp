@@ -12,7 +12,6 @@
 #include <utility>
 
 #include "remap/encode/coders/memory_file.h"
-#include "remap/encode/metadata_writer.h"
 #include "remap/image/freeimage_bitmap.h"
 #include "remap/image/library_messages.h"
 
@@ -89,11 +88,7 @@ EncodedBitmap LibraryFile(FREE_IMAGE_FORMAT format, const Bitmap* bitmap, int fl
 
 EncodedBitmap EncodeBmp(const Bitmap* bitmap, const OutputEncoding& /*encoding*/,
                         const EncodeOptions& options) {
-    EncodedBitmap file = LibraryFile(FIF_BMP, bitmap, BMP_DEFAULT, options.largest);
-    if (file.reason.isEmpty()) {
-        file.note = LostInBmp(*bitmap);
-    }
-    return file;
+    return LibraryFile(FIF_BMP, bitmap, BMP_DEFAULT, options.largest);
 }
 
 }  // namespace varnel

@@ -156,8 +156,8 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
     BatchSummary summary;
     summary.queued = 3;
     summary.failures = {{Q("/a/b.bmp"), ErrorText(ReasonCode::FileEmpty)}};
-    summary.notes = {
-        {Q("/a/c.bmp"), Joined({ReasonCode::XmpTooLong, ReasonCode::BmpHoldsNoSettings})}};
+    summary.notes = {{Q("/a/c.bmp"), Joined({ReasonCode::XmpTooLong,
+                                             {ReasonCode::TypeHoldsNoSettings, Q("BMP")}})}};
     const QString texts[] = {
         *CheckRevisionAge(store, QDate(2100, 1, 1)),
         NoGearText(),

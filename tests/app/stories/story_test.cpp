@@ -272,7 +272,7 @@ TEST_F(Story, FromTheFirstStartToSavedPictures) {
     EXPECT_EQ(image->OutputAOV, 110.0F);
     EXPECT_EQ(image->RotateY, 10.0F);
     EXPECT_EQ(image->RotateX, -10.0F);
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         const QString name = SampleFolder() + Q("/saved.Rectilinear") + ExtensionOf(type);
         const Answers answers({SaveUnder(name, type, "sample-circular.Rectilinear")});
         Click("CommandSaveFreeimage");

@@ -28,7 +28,7 @@ PixelSize SizeAt(const QString& path) {
 
 TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
     const PictureFolder folder;
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         const QString path = folder.Picture(Text("Küste %1.jpg").arg(ToText(type)), type);
         const LoadedPicture picture = LoadPicture(path);
         ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();

@@ -271,7 +271,7 @@ TEST(SummaryText, WhatSeveralFilesAreWithoutStandsOnceWithTheFirst) {
     summary.folder = Text("/out");
     summary.queued = summary.done = 4;
     summary.notes = {{Text("50%1"), ReasonCode::IptcTooLong},
-                     {Text("b"), ReasonCode::BmpHoldsNoMetadata},
+                     {Text("b"), {ReasonCode::TypeHoldsNoMetadata, Text("BMP")}},
                      {Text("c"), ReasonCode::IptcTooLong},
                      {Text("d"), ReasonCode::IptcTooLong}};
     EXPECT_EQ(SummaryText(summary),

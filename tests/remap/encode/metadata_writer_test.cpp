@@ -274,7 +274,8 @@ TEST(EncodeBitmap, SaysWhatAFileCannotHold) {
 TEST(EncodeBitmap, ABmpFileThatLosesOnlyItsProfileSaysSoAndOneThatLosesNothingIsSilent) {
     const BitmapHandle photo = Photo({});
     photo->metadata.settings = {};
-    EXPECT_EQ(EncodeBitmap(OutputType::Bmp, photo.get()).note, ReasonCode::BmpHoldsNoProfile);
+    EXPECT_EQ(EncodeBitmap(OutputType::Bmp, photo.get()).note,
+              Reason(ReasonCode::TypeHoldsNoProfile, QStringLiteral("BMP")));
     photo->metadata.colourProfile.clear();
     EXPECT_TRUE(EncodeBitmap(OutputType::Bmp, photo.get()).note.isEmpty());
 }

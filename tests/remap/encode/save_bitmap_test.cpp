@@ -58,7 +58,7 @@ TEST(SaveBitmap, AFileThatIsGivenUpLeavesTheOlderOneAsItWas) {
     const QString name = folder.filePath(QStringLiteral("a"));
     const BitmapHandle bitmap = testing::Noise({500, 400});
     ThreadRunner runner(3);
-    for (const OutputType type : allOutputTypes) {
+    for (const OutputType type : AllOutputTypes()) {
         testing::WriteFile(name, "older");
         int before = 0;
         for (bool saved = false; !saved; ++before) {

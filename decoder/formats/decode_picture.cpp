@@ -46,7 +46,7 @@ PixelSize Within(PixelSize picture, PixelSize box) {
 }
 
 PixelRows RowsOf(Bitmap& bitmap) {
-    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch()};
+    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
 }
 
 // Those of a picture, for the same turned by the orientation.
@@ -165,7 +165,7 @@ class Decoding {
     // By what the library has left to be done.
     BitmapHandle TurnedCopy(Bitmap& bitmap) {
         const PixelSize size = bitmap.Size();
-        BitmapHandle turned = Room(Turned(size, turn_));
+        BitmapHandle turned = Room(Turned(size, turn_), bitmap.Format());
         if (!turned) {
             throw std::bad_alloc();
         }
@@ -175,9 +175,10 @@ class Decoding {
     }
 
     // Where the picture is wanted, if it is.
-    BitmapHandle Room(PixelSize size) const {
-        return rowsFor_ && request_.kind == ReadKind::Whole ? BitmapOver(rowsFor_(size), size)
-                                                            : NewBitmap(size);
+    BitmapHandle Room(PixelSize size, PixelFormat format = PixelFormat::Bgr8) const {
+        return rowsFor_ && request_.kind == ReadKind::Whole
+                   ? BitmapOver(rowsFor_(size, format), size, format)
+                   : NewBitmap(size, format);
     }
 
     // Metadata are read later and by others: in the library they are where most crashes are.

@@ -24,7 +24,7 @@ using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 // Memory for the rows of a picture of this size, bottom row first, as far apart as in a bitmap of
 // 24 bits; null when there is none.
-using RowsFor = std::function<std::byte*(PixelSize size)>;
+using RowsFor = std::function<std::byte*(PixelSize size, PixelFormat format)>;
 
 // Reads the photo from an open regular file (position anywhere; the request's path is not looked
 // at). The type is taken from the contents, the size is looked up before any pixel is read and

@@ -266,8 +266,9 @@ void DecoderReader::TakePixels(const DecoderAnswer& answer, LoadedPicture& pictu
     owner->memory = std::move(memory_);
     owner->files = memoryFiles_;
     owner->used = used;
-    picture.bitmap = std::make_unique<Bitmap>(PixelFormat::Bgr8, answer.bitmap,
-                                              std::shared_ptr<std::byte>(std::move(owner), bytes));
+    picture.bitmap =
+        std::make_unique<Bitmap>(static_cast<PixelFormat>(answer.format), answer.bitmap,
+                                 std::shared_ptr<std::byte>(std::move(owner), bytes));
     picture.bitmap->metadata = UnpackAttributes(attributes);
 }
 

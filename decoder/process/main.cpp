@@ -119,6 +119,7 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
         attributes.clear();
     }
     answer.bitmap = bitmap.Size();
+    answer.format = static_cast<std::uint32_t>(bitmap.Format());
     answer.pitch = static_cast<std::uint32_t>(bitmap.Pitch());
     answer.attributesLength = static_cast<std::uint64_t>(attributes.size());
     if (!HandOver(bitmap, attributes, answer, handover)) {
@@ -147,11 +148,11 @@ LoadedPicture Decoded(std::FILE* photo, const DecoderRequest& request, Handover&
     if (request.kind == ReadKind::Facts) {
         return {LoadOutcome::Loaded, nullptr, {}, {}};
     }
-    return DecodePicture(
-        photo, {{}, request.kind, request.box, request.upright}, request.memory,
-        [&handover](PixelSize size) {
-            return handover.Rows(RowPitch(size.width) * static_cast<std::size_t>(size.height));
-        });
+    return DecodePicture(photo, {{}, request.kind, request.box, request.upright}, request.memory,
+                         [&handover](PixelSize size, PixelFormat format) {
+                             return handover.Rows(RowPitch(size.width, format) *
+                                                  static_cast<std::size_t>(size.height));
+                         });
 }
 
 // One photo; false when the parent is gone.

@@ -60,7 +60,11 @@ bool IsConsistentWithoutPixels(const DecoderAnswer& answer, const DecoderRequest
 bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
                       std::uint64_t memoryFileLength) {
     const PixelSize bitmap = answer.bitmap;
-    if (!SizeError(bitmap.width, bitmap.height, request.memory).isEmpty()) {
+    if (answer.format > static_cast<std::uint32_t>(lastPixelFormat)) {
+        return false;
+    }
+    const auto format = static_cast<PixelFormat>(answer.format);
+    if (!SizeError(bitmap.width, bitmap.height, request.memory, format).isEmpty()) {
         return false;
     }
     if (request.kind == ReadKind::Small &&
@@ -71,7 +75,8 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
         return false;
     }
-    return answer.pitch == RowPitch(bitmap.width) && answer.attributesLength <= longestBlock &&
+    return answer.pitch == RowPitch(bitmap.width, format) &&
+           answer.attributesLength <= longestBlock &&
            RowBytes(answer) + answer.attributesLength <= memoryFileLength;
 }
 

@@ -40,6 +40,7 @@ struct DecoderAnswer {
     std::uint32_t outcome = 0;  // as LoadOutcome, or triedForbidden
     PixelSize size{};           // of the full picture
     PixelSize bitmap{};         // of the pixels in the memory file, 0 x 0 when there are none
+    std::uint32_t format = 0;   // a PixelFormat
     std::uint32_t pitch = 0;    // bytes from row to row
     std::uint64_t attributesLength = 0;  // bytes after the rows
     std::uint64_t metadataLength = 0;    // bytes after those

@@ -23,7 +23,8 @@ std::uint64_t MachineMemory() {
     return unknown;
 }
 
-Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory) {
+Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory,
+                 PixelFormat format) {
     if (width <= 0 || height <= 0) {
         return ReasonCode::NoPixels;
     }
@@ -31,8 +32,9 @@ Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory) 
         return {ReasonCode::SideTooLong, width, height, largestSide};
     }
     constexpr std::uint64_t bitmaps = 3;  // source, result, one copy
-    const std::uint64_t needed =
-        static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) * 3 * bitmaps;
+    const std::uint64_t needed = static_cast<std::uint64_t>(width) *
+                                 static_cast<std::uint64_t>(height) * BytesPerPixel(format) *
+                                 bitmaps;
     if (needed > memory / 4 * 3) {
         return {ReasonCode::TooManyPixels, width, height};
     }

@@ -9,6 +9,7 @@
 
 #include "base/pixel_size.h"
 #include "base/reason.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
@@ -19,7 +20,8 @@ inline constexpr std::int64_t largestSide = 32767;
 std::uint64_t MachineMemory();
 
 // Why a picture of this many pixels is refused on a machine with this memory in bytes; empty when
-// it is not. Source, result and one copy at 24 bits may take three quarters of the memory.
-Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory);
+// it is not. Source, result and one copy may take three quarters of the memory.
+Reason SizeError(std::int64_t width, std::int64_t height, std::uint64_t memory,
+                 PixelFormat format = PixelFormat::Bgr8);
 
 }  // namespace varnel

@@ -124,8 +124,7 @@ class Run : private RenderProgress {
         }
         LoadedPicture loaded = LoadNow();
         while (overlaps_ && asked_ < plan_.photos.size() && asked_ <= photo_ + ports_.aheadAtMost &&
-               HasRoomAhead(asked_ - photo_, loaded.size) &&
-               ports_.readAhead(plan_.photos[asked_])) {
+               HasRoomAhead(asked_ - photo_, loaded) && ports_.readAhead(plan_.photos[asked_])) {
             ++asked_;
         }
         if (photo_ + 1 == plan_.photos.size() && ports_.allRead) {

@@ -95,9 +95,10 @@ LoadedPicture PrefetchingReader::WaitFor(const UnderWay& photo) {
     return photo.reader->Take();
 }
 
-bool HasRoomAhead(qsizetype photos, PixelSize last) {
+bool HasRoomAhead(qsizetype photos, const LoadedPicture& last) {
     constexpr std::int64_t atWork = 4;  // source, two results, one of them encoded
-    const std::int64_t bytes = std::int64_t{last.width} * last.height * 3;
+    const PixelFormat format = last.bitmap ? last.bitmap->Format() : PixelFormat::Bgr8;
+    const std::int64_t bytes = std::int64_t{last.size.width} * last.size.height * PixelStep(format);
     return static_cast<std::uint64_t>((photos + atWork) * bytes) <= MachineMemory() / 4 * 3;
 }
 

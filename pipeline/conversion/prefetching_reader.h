@@ -60,7 +60,7 @@ class PrefetchingReader {
 
 // Whether so many photos like the last one may be read ahead: together with those at work they have
 // to fit into three quarters of the machine's memory.
-bool HasRoomAhead(qsizetype photos, PixelSize last);
+bool HasRoomAhead(qsizetype photos, const LoadedPicture& last);
 
 // How many decoders beside the first are worth while for a run that may use this many cores.
 int MoreReaders(int cores);

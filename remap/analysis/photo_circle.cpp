@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "remap/image/pixel_access.h"
 #include "remap/image/preview_size.h"
 
 namespace varnel {
@@ -17,9 +18,10 @@ constexpr std::int32_t searchedSide = 1000;
 GreyPicture GreyOf(const Bitmap* bitmap) {
     GreyPicture grey{SizeOf(bitmap), {}};
     for (int y = grey.size.height - 1; y >= 0; --y) {
-        const auto row = ScanLine(bitmap, y);
-        for (std::size_t x = 0; x < static_cast<std::size_t>(grey.size.width); ++x) {
-            grey.values.push_back(std::max({row[3 * x], row[3 * x + 1], row[3 * x + 2]}));
+        const std::uint8_t* pixel = bitmap->ScanLine(y).data();
+        for (int x = 0; x < grey.size.width; ++x, pixel += PixelStep(bitmap->Format())) {
+            const PixelColor colour = ColourAt(pixel, bitmap->Format());
+            grey.values.push_back(std::max({colour.blue, colour.green, colour.red}));
         }
     }
     return grey;

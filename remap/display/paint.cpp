@@ -4,7 +4,8 @@
 #include "remap/display/paint.h"
 
 #include <QPainter>
-#include <algorithm>
+
+#include "remap/image/pixel_access.h"
 
 namespace varnel {
 
@@ -17,7 +18,7 @@ QImage ImageOf(const Bitmap* bitmap) {
     const PixelSize size = SizeOf(bitmap);
     QImage image(size.width, size.height, QImage::Format_BGR888);
     for (int y = 0; y < image.height(); ++y) {
-        std::ranges::copy(ScanLine(bitmap, size.height - 1 - y), image.scanLine(y));
+        CopyForScreen(bitmap, size.height - 1 - y, image.scanLine(y));
     }
     return image;
 }

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <vector>
 
+#include "remap/image/pixel_access.h"
+
 namespace varnel {
 
 namespace {
@@ -37,13 +39,14 @@ struct Axis {
     }
 };
 
-void PaintLine(const std::vector<const std::uint8_t*>& rows, const Axis& columns, QRgb* out) {
+void PaintLine(const std::vector<const std::uint8_t*>& rows, PixelFormat format,
+               const Axis& columns, QRgb* out) {
     const auto count = static_cast<int>(rows.size());
     const int* column = columns.samples.data();
     if (count == 1) {
         for (int x = columns.first; x < columns.end; ++x) {
-            const std::uint8_t* const pixel = rows[0] + 3 * static_cast<std::ptrdiff_t>(*column++);
-            out[x] = qRgb(pixel[2], pixel[1], pixel[0]);
+            const PixelColor pixel = ColourAt(rows[0] + *column++ * PixelStep(format), format);
+            out[x] = qRgb(pixel.red, pixel.green, pixel.blue);
         }
         return;
     }
@@ -54,10 +57,10 @@ void PaintLine(const std::vector<const std::uint8_t*>& rows, const Axis& columns
         int red = all / 2;
         for (const std::uint8_t* const row : rows) {
             for (int k = 0; k < count; ++k) {
-                const std::uint8_t* const pixel = row + 3 * static_cast<std::ptrdiff_t>(column[k]);
-                blue += pixel[0];
-                green += pixel[1];
-                red += pixel[2];
+                const PixelColor pixel = ColourAt(row + column[k] * PixelStep(format), format);
+                blue += pixel.blue;
+                green += pixel.green;
+                red += pixel.red;
             }
         }
         out[x] = qRgb(red / all, green / all, blue / all);
@@ -85,7 +88,7 @@ void PaintPart(const Bitmap* bitmap, const PartPlace& place, QImage& image,
             rows[k] = ScanLine(bitmap, row).data();
         }
         if (there) {
-            PaintLine(rows, columns, reinterpret_cast<QRgb*>(image.scanLine(y)));
+            PaintLine(rows, bitmap->Format(), columns, reinterpret_cast<QRgb*>(image.scanLine(y)));
         }
     }
 }

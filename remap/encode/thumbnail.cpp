@@ -8,6 +8,8 @@
 #include <cmath>
 #include <vector>
 
+#include "remap/image/pixel_access.h"
+
 namespace varnel {
 
 namespace {
@@ -41,7 +43,8 @@ std::vector<std::int32_t> PlacesOf(std::int32_t thumbnailSide, std::int32_t side
 using Rows = std::array<const std::uint8_t*, samples>;
 
 // One row of the thumbnail.
-void Average(const Rows& rows, const std::vector<std::int32_t>& columns, std::uint8_t* out) {
+void Average(const Rows& rows, PixelFormat format, const std::vector<std::int32_t>& columns,
+             std::uint8_t* out) {
     constexpr unsigned all = samples * samples;
     for (std::size_t first = 0; first < columns.size(); first += samples, out += 3) {
         unsigned blue = all / 2;
@@ -49,10 +52,11 @@ void Average(const Rows& rows, const std::vector<std::int32_t>& columns, std::ui
         unsigned red = all / 2;
         for (const std::uint8_t* const row : rows) {
             for (std::size_t n = 0; n < samples; ++n) {
-                const std::uint8_t* const pixel = row + 3 * std::ptrdiff_t{columns[first + n]};
-                blue += pixel[0];
-                green += pixel[1];
-                red += pixel[2];
+                const PixelColor pixel =
+                    ColourAt(row + columns[first + n] * PixelStep(format), format);
+                blue += pixel.blue;
+                green += pixel.green;
+                red += pixel.red;
             }
         }
         out[0] = static_cast<std::uint8_t>(blue / all);
@@ -75,7 +79,7 @@ BitmapHandle ThumbnailOf(const Bitmap* bitmap) {
             sampled[static_cast<std::size_t>(n)] =
                 bitmap->ScanLine(rows[static_cast<std::size_t>(y * samples + n)]).data();
         }
-        Average(sampled, columns, thumbnail->ScanLine(y).data());
+        Average(sampled, bitmap->Format(), columns, thumbnail->ScanLine(y).data());
     }
     return thumbnail;
 }

@@ -34,11 +34,11 @@ BitmapHandle NewBitmap(PixelSize size, PixelFormat format) {
     return std::make_unique<Bitmap>(format, size, NewPixels(BytesFor(size, format)));
 }
 
-BitmapHandle BitmapOver(std::byte* rows, PixelSize size) {
+BitmapHandle BitmapOver(std::byte* rows, PixelSize size, PixelFormat format) {
     if (rows == nullptr) {
         return nullptr;
     }
-    return std::make_unique<Bitmap>(PixelFormat::Bgr8, size,
+    return std::make_unique<Bitmap>(format, size,
                                     std::shared_ptr<std::byte>(std::shared_ptr<void>(), rows));
 }
 

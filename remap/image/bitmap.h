@@ -60,11 +60,11 @@ struct Bitmaps {
     BitmapHandle ResultBitmap;         // the last conversion
 };
 
-// A new black bitmap of 24 bits. Throws std::bad_alloc when there is no memory for it.
+// A new black bitmap. Throws std::bad_alloc when there is no memory for it.
 BitmapHandle NewBitmap(PixelSize size, PixelFormat format = PixelFormat::Bgr8);
-// A bitmap of 24 bits over rows that lie somewhere, bottom row first and RowPitch apart; they have
+// A bitmap over rows that lie somewhere, bottom row first and RowPitch apart; they have
 // to outlive it. Empty without rows. Throws std::bad_alloc.
-BitmapHandle BitmapOver(std::byte* rows, PixelSize size);
+BitmapHandle BitmapOver(std::byte* rows, PixelSize size, PixelFormat format = PixelFormat::Bgr8);
 // A copy with pixels and metadata. Throws std::bad_alloc.
 BitmapHandle CloneBitmap(const Bitmap* bitmap);
 

@@ -11,7 +11,6 @@ namespace varnel {
 
 namespace {
 
-constexpr std::ptrdiff_t pixelBytes = 3;
 constexpr std::int32_t tileSide = 64;  // pixels
 
 // Where the stored picture's pixels go: the one at the left end of the bottom row, and how far
@@ -23,6 +22,7 @@ struct Places {
 };
 
 Places PlacesFor(PixelSize size, int orientation, PixelRows turned) {
+    const std::ptrdiff_t pixelBytes = PixelStep(turned.format);
     const auto pitch = static_cast<std::ptrdiff_t>(turned.pitch);
     // The ways that the stored picture's columns and rows, counted from left and bottom, take.
     const bool columnsBackward = orientation == 2 || orientation == 3 ||  //
@@ -43,6 +43,7 @@ Places PlacesFor(PixelSize size, int orientation, PixelRows turned) {
     return places;
 }
 
+template <std::ptrdiff_t pixelBytes>
 void CopyRow(const std::byte* from, std::byte* to, std::ptrdiff_t step, std::int32_t count) {
     if (step == pixelBytes) {
         std::memcpy(to, from, static_cast<std::size_t>(count) * pixelBytes);
@@ -57,6 +58,7 @@ void CopyRow(const std::byte* from, std::byte* to, std::ptrdiff_t step, std::int
 
 // A part of a band, for rows that become columns: rows of a bitmap may lie so far apart that they
 // drive each other out of the cache.
+template <std::ptrdiff_t pixelBytes>
 class Tile {
   public:
     void Take(PixelRows source, std::int32_t x, std::int32_t row, std::int32_t columns,
@@ -91,9 +93,8 @@ class Tile {
     std::int32_t rows_ = 0;
 };
 
-}  // namespace
-
-void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, PixelRows turned) {
+template <std::ptrdiff_t pixelBytes>
+void Turn(PixelSize size, RowBand band, PixelRows source, int orientation, PixelRows turned) {
     const Places places = PlacesFor(size, orientation, turned);
     const auto pitch = static_cast<std::ptrdiff_t>(source.pitch);
     const auto placeOf = [&](std::int32_t x, std::int32_t row) {
@@ -101,11 +102,12 @@ void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, P
     };
     if (!SwapsSides(orientation)) {
         for (std::int32_t row = 0; row < band.count; ++row) {
-            CopyRow(source.bottom + row * pitch, placeOf(0, row), places.perColumn, size.width);
+            CopyRow<pixelBytes>(source.bottom + row * pitch, placeOf(0, row), places.perColumn,
+                                size.width);
         }
         return;
     }
-    Tile tile;
+    Tile<pixelBytes> tile;
     for (std::int32_t row = 0; row < band.count; row += tileSide) {
         const std::int32_t rows = std::min(tileSide, band.count - row);
         for (std::int32_t left = 0; left < size.width; left += tileSide) {
@@ -116,6 +118,14 @@ void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, P
             }
         }
     }
+}
+
+}  // namespace
+
+void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, PixelRows turned) {
+    WithBytesPerPixel(turned.format, [&](auto pixelBytes) {
+        Turn<pixelBytes>(size, band, source, orientation, turned);
+    });
 }
 
 }  // namespace varnel

@@ -11,6 +11,7 @@
 #include <cstddef>
 
 #include "base/pixel_size.h"
+#include "remap/image/pixel_format.h"
 
 namespace varnel {
 
@@ -28,10 +29,11 @@ constexpr PixelSize Turned(PixelSize size, int orientation) {
     return SwapsSides(orientation) ? PixelSize{size.height, size.width} : size;
 }
 
-// Rows of 24 bits, bottom row first.
+// Rows of pixels, bottom row first.
 struct PixelRows {
     std::byte* bottom = nullptr;
     std::size_t pitch = 0;  // bytes from row to row
+    PixelFormat format = PixelFormat::Bgr8;
 };
 
 // Some of a picture's rows: the first of them (in source.bottom) is that row of the picture,
@@ -42,7 +44,8 @@ struct RowBand {
 };
 
 // Puts a band of a picture of that size to where its pixels belong in the turned picture, whose
-// rows have to be there already, apart from the source. The orientation is 1 to 8.
+// rows have to be there already in the same format, apart from the source. The orientation is 1
+// to 8.
 void TurnRows(PixelSize size, RowBand band, PixelRows source, int orientation, PixelRows turned);
 
 }  // namespace varnel

@@ -3,20 +3,19 @@
 
 #include "remap/image/pixel_access.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace varnel {
 
 namespace {
 
-// Where the pixel is in the bytes of the bitmap; none outside and in other formats.
+// Where the pixel is in the bytes of the bitmap; none outside.
 std::ptrdiff_t PlaceOf(const Bitmap& bitmap, std::int32_t x, std::int32_t y) {
     const auto [width, height] = bitmap.Size();
     const bool inside = x >= 0 && x < width && y >= 0 && y < height;
-    if (!inside || bitmap.Format() != PixelFormat::Bgr8) {
-        return -1;
-    }
-    return y * static_cast<std::ptrdiff_t>(bitmap.Pitch()) + 3 * std::ptrdiff_t{x};
+    return inside ? y * static_cast<std::ptrdiff_t>(bitmap.Pitch()) + x * PixelStep(bitmap.Format())
+                  : -1;
 }
 
 }  // namespace
@@ -26,10 +25,9 @@ bool GetPixelColor(const Bitmap* bitmap, std::int32_t x, std::int32_t y, PixelCo
     if (place < 0) {
         return false;
     }
-    const std::uint8_t* const pixel = bitmap->Bits() + place;
-    colour.blue = pixel[0];
-    colour.green = pixel[1];
-    colour.red = pixel[2];
+    const std::uint8_t reserved = colour.reserved;
+    colour = ColourAt(bitmap->Bits() + place, bitmap->Format());
+    colour.reserved = reserved;
     return true;
 }
 
@@ -38,11 +36,20 @@ bool SetPixelColor(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelCo
     if (place < 0) {
         return false;
     }
-    std::uint8_t* const pixel = bitmap->Bits() + place;
-    pixel[0] = colour.blue;
-    pixel[1] = colour.green;
-    pixel[2] = colour.red;
+    PutColour(bitmap->Bits() + place, colour, bitmap->Format());
     return true;
+}
+
+void CopyForScreen(const Bitmap* bitmap, int y, std::uint8_t* out) {
+    const auto row = bitmap->ScanLine(y);
+    if (bitmap->Format() == PixelFormat::Bgr8) {
+        std::ranges::copy(row, out);
+        return;
+    }
+    const std::uint8_t* pixel = row.data();
+    for (int x = 0; x < bitmap->Size().width; ++x, pixel += PixelStep(bitmap->Format()), out += 3) {
+        PutColour(out, ColourAt(pixel, bitmap->Format()), PixelFormat::Bgr8);
+    }
 }
 
 bool CloneMetadata(Bitmap* destination, const Bitmap* source) {

@@ -1,17 +1,21 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the pixels of a picture are made of, and how far apart its rows lie. Throws nothing.
+// What the pixels of a picture are made of, and how far apart they and its rows lie. Another format
+// is an entry here, its way to and from a colour in pixel_access.h, and what reads and codes it;
+// all else goes by the numbers of this file. Throws nothing.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 namespace varnel {
 
 enum class PixelFormat : std::uint8_t {
     Bgr8,  // blue, green, red: 8 bits each, for the screen
 };
+inline constexpr PixelFormat lastPixelFormat = PixelFormat::Bgr8;
 
 constexpr std::size_t BytesPerPixel(PixelFormat format) {
     switch (format) {
@@ -19,6 +23,29 @@ constexpr std::size_t BytesPerPixel(PixelFormat format) {
             break;
     }
     return 3;
+}
+
+constexpr int BitsPerSample(PixelFormat format) {
+    switch (format) {
+        case PixelFormat::Bgr8:
+            break;
+    }
+    return 8;
+}
+
+// From a pixel to its right neighbour, in bytes.
+constexpr std::ptrdiff_t PixelStep(PixelFormat format) {
+    return static_cast<std::ptrdiff_t>(BytesPerPixel(format));
+}
+
+// Calls the function with BytesPerPixel as a constant of the compiler, for inner loops.
+template <class Function>
+void WithBytesPerPixel(PixelFormat format, const Function& function) {
+    switch (format) {
+        case PixelFormat::Bgr8:
+            function(std::integral_constant<std::ptrdiff_t, 3>());
+            break;
+    }
 }
 
 // Bytes from row to row; whole groups of four, as the image library has them.

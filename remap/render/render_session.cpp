@@ -13,12 +13,12 @@ namespace {
 
 // A bitmap that will be overwritten is taken again where it fits: its memory is there already.
 void TakeCanvas(const Bitmap* source, PixelSize size, BitmapHandle& result) {
-    if (result &&
-        (SizeOf(result.get()).width != size.width || SizeOf(result.get()).height != size.height)) {
+    if (result && (result->Size().width != size.width || result->Size().height != size.height ||
+                   result->Format() != source->Format())) {
         result.reset();
     }
     if (!result) {
-        result = NewBitmap(size);
+        result = NewBitmap(size, source->Format());
     }
     result->metadata = source->metadata;
 }

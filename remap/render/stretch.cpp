@@ -16,14 +16,15 @@ namespace varnel {
 namespace {
 
 // One row of the source to the same row of the result.
-void DrawRow(const SourceView& source, std::uint8_t* target, std::int32_t row, double factor) {
+void DrawRow(const SourceView& source, const TargetView& target, std::int32_t row, double factor) {
     if (factor == 1.0) {
-        std::copy_n(source.bits + row * source.pitch, 3 * static_cast<std::size_t>(source.width),
-                    target);
+        std::copy_n(source.bits + row * source.pitch,
+                    static_cast<std::size_t>(source.width) * BytesPerPixel(source.format),
+                    target.At(0, row));
         return;
     }
     const RowReading reading = ReadingFor(factor);
-    SampleStretchSpan({source, MiddleOf(source.width), factor, row, reading}, {target, 3});
+    SampleStretchSpan({source, MiddleOf(source.width), factor, row, reading}, target.From(0, row));
 }
 
 }  // namespace
@@ -45,7 +46,7 @@ void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& pro
     const TargetView target = TargetView::Of(run.Result());
     const auto draw = [&](int from, int to) {
         for (int y = from; y <= to; ++y) {
-            DrawRow(source, target.At(0, y), y, curve.FactorAt(HeightOfRow(y, rows)));
+            DrawRow(source, target, y, curve.FactorAt(HeightOfRow(y, rows)));
         }
     };
     run.Begin(static_cast<float>(rows));

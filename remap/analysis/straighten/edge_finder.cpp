@@ -10,6 +10,7 @@
 #include "remap/analysis/straighten/edge_tracer.h"
 #include "remap/analysis/straighten/great_circle.h"
 #include "remap/analysis/straighten/least_squares.h"
+#include "remap/image/pixel_access.h"
 
 namespace varnel {
 
@@ -26,13 +27,16 @@ LevelMap ReducedGreen(const Bitmap& photo, int block) {
     const PixelSize full = photo.Size();
     LevelMap map{{full.width / block, full.height / block}, {}};
     const std::size_t width = static_cast<std::size_t>(map.size.width);
+    const std::ptrdiff_t step = PixelStep(photo.Format());
     map.values.assign(width * static_cast<std::size_t>(map.size.height), 0.0F);
     for (int y = 0; y < map.size.height * block; ++y) {
-        const std::span<const std::uint8_t> line = photo.ScanLine(y);
+        const std::uint8_t* const line = photo.ScanLine(y).data();
         float* const row = &map.values[static_cast<std::size_t>(y / block) * width];
         for (std::size_t x = 0; x < width * static_cast<std::size_t>(block); ++x) {
             row[x / static_cast<std::size_t>(block)] +=
-                static_cast<float>(line[3 * x + 1]) / static_cast<float>(block * block);
+                static_cast<float>(
+                    ColourAt(line + static_cast<std::ptrdiff_t>(x) * step, photo.Format()).green) /
+                static_cast<float>(block * block);
         }
     }
     return map;

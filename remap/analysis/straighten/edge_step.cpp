@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include "remap/image/pixel_access.h"
+
 namespace varnel {
 
 namespace {
@@ -14,6 +16,11 @@ namespace {
 constexpr double smoothing = 1.0;    // deviation, pixels
 constexpr double kernelReach = 2.5;  // pixels
 constexpr double leastSlope = 1.5;   // levels per pixel
+
+std::uint8_t PixelColor::*MemberOf(Channel channel) {
+    constexpr std::array members{&PixelColor::blue, &PixelColor::green, &PixelColor::red};
+    return members[static_cast<std::size_t>(channel)];
+}
 
 // Between pixels linearly; the border goes on outside.
 double LevelAt(const Bitmap& photo, Channel channel, const EdgePoint& place) {
@@ -25,8 +32,9 @@ double LevelAt(const Bitmap& photo, Channel channel, const EdgePoint& place) {
     const auto at = [&](int right, int up) {
         const int line = std::min(row + up, size.height - 1);
         const int pixel = std::min(column + right, size.width - 1);
-        return static_cast<double>(
-            photo.ScanLine(line)[static_cast<std::size_t>(3 * pixel + static_cast<int>(channel))]);
+        const std::uint8_t* const level =
+            photo.ScanLine(line).data() + pixel * PixelStep(photo.Format());
+        return static_cast<double>(ColourAt(level, photo.Format()).*MemberOf(channel));
     };
     const double across = x - column;
     const double up = y - row;

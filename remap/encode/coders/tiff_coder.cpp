@@ -41,7 +41,7 @@ struct Picture {
         rowsPerStrip = std::clamp<std::size_t>(stripBytes / RowBytes(), 1, height);
     }
 
-    std::size_t RowBytes() const { return 3 * width; }
+    std::size_t RowBytes() const { return width * BytesPerPixel(bitmap->Format()); }
     std::size_t Strips() const { return (height + rowsPerStrip - 1) / rowsPerStrip; }
     std::size_t RowsIn(std::size_t strip) const {
         return std::min(rowsPerStrip, height - strip * rowsPerStrip);

@@ -120,20 +120,21 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
     const struct {
         std::uint32_t tag;
         std::uint32_t number;
-    } numbers[] = {{TIFFTAG_SUBFILETYPE, 0},
-                   {TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(bitmap.Size().width)},
-                   {TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(bitmap.Size().height)},
-                   {TIFFTAG_BITSPERSAMPLE, 8},
-                   {TIFFTAG_COMPRESSION, COMPRESSION_LZW},
-                   {TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB},
-                   {TIFFTAG_FILLORDER, FILLORDER_MSB2LSB},
-                   {TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT},
-                   {TIFFTAG_SAMPLESPERPIXEL, 3},
-                   {TIFFTAG_ROWSPERSTRIP, rowsPerStrip},
-                   {TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG},
-                   {TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH},
-                   {TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL},
-                   {TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT}};
+    } numbers[] = {
+        {TIFFTAG_SUBFILETYPE, 0},
+        {TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(bitmap.Size().width)},
+        {TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(bitmap.Size().height)},
+        {TIFFTAG_BITSPERSAMPLE, static_cast<std::uint32_t>(BitsPerSample(bitmap.Format()))},
+        {TIFFTAG_COMPRESSION, COMPRESSION_LZW},
+        {TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB},
+        {TIFFTAG_FILLORDER, FILLORDER_MSB2LSB},
+        {TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT},
+        {TIFFTAG_SAMPLESPERPIXEL, 3},
+        {TIFFTAG_ROWSPERSTRIP, rowsPerStrip},
+        {TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG},
+        {TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH},
+        {TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL},
+        {TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT}};
     const auto set = [tiff](const auto& row) {
         return TIFFSetField(tiff, row.tag, row.number) == 1;
     };

@@ -21,7 +21,7 @@ class TiffFile {
   public:
     using Entries = std::map<std::uint16_t, QByteArray>;  // of a directory, by tag
 
-    // For a bitmap of 24 bits in strips of LZW over differences. The file begins with the EXIF
+    // For a bitmap in strips of LZW over differences. The file begins with the EXIF
     // block, so that places in it hold. expected is the likely number of bytes of the pixels.
     // Throws std::bad_alloc.
     TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
-#include <cstring>
 
 #include "remap/projection/last_writer.h"
 #include "remap/render/engine/batches.h"
@@ -57,7 +56,7 @@ class CircleRowEngine : public Engine {
     // False for the row of a radius.
     bool FillUnownedRow(std::int32_t row) const {
         if (owners_.Black(row)) {
-            std::memset(target_.At(0, row), 0, static_cast<std::size_t>(target_.width) * 3);
+            target_.Blacken(row);
             return true;
         }
         if (owners_.Nobody(row)) {
@@ -115,7 +114,7 @@ class CircleRowEngine : public Engine {
                 span.sign = sign;
                 span.first = begin - columns_.first;
                 span.count = clip.end - begin;
-                SampleCircleSpan(span, {target_.At(centre + sign * begin, row), 3 * sign});
+                SampleCircleSpan(span, target_.From(centre + sign * begin, row, sign));
             }
         }
     }

@@ -69,23 +69,6 @@ struct ExactLine {
     }
 };
 
-// The picture that runs are written into.
-struct TargetView {
-    std::uint8_t* bits = nullptr;
-    std::ptrdiff_t pitch = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-
-    static TargetView Of(Bitmap* bitmap) {
-        const PixelSize size = SizeOf(bitmap);
-        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
-                size.height};
-    }
-    std::uint8_t* At(std::int32_t x, std::int32_t y) const {
-        return bits + y * pitch + 3 * static_cast<std::ptrdiff_t>(x);
-    }
-};
-
 // The part of a run of count pixels from x on, one further each time in direction step (1 or -1),
 // that lies within 0 and size - 1: pixels begin to end - 1.
 struct Clip {

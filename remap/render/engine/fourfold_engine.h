@@ -76,8 +76,7 @@ class FourfoldEngine : public Engine {
             for (const int signX : {1, -1}) {
                 const std::int32_t x = centre_.cx + signX * line.x;
                 const Clip clip = Clip::Of(x, signX, line.count, target_.width);
-                images[count++] = {
-                    signX, signY, {target_.At(x, y), 3 * signX}, clip.begin, clip.end};
+                images[count++] = {signX, signY, target_.From(x, y, signX), clip.begin, clip.end};
             }
         }
         const ExactLine exact{map_, line};

@@ -66,15 +66,15 @@ ControlPointLine SmoothEngine::LineOf(int x, int count) const {
 void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const {
     WorkOutNodes(*nodes_, line);
     const ExactLine exact{map_, line};
-    std::uint8_t* const row = target_.At(0, rows_.Place(line.y));
+    const std::int32_t row = rows_.Place(line.y);
     SpanImage image{1, 1, {}, 0, line.count};
     if (columns_.Contiguous()) {
         const std::int32_t place = columns_.Place(line.x);
         const Clip clip = Clip::Of(place, 1, line.count, target_.width);
-        image = {1, 1, {row + 3 * static_cast<std::ptrdiff_t>(place), 3}, clip.begin, clip.end};
+        image = {1, 1, target_.From(place, row), clip.begin, clip.end};
     } else {
-        spare.resize(static_cast<std::size_t>(line.count) * 3);
-        image.target = {spare.data(), 3};
+        spare.resize(static_cast<std::size_t>(line.count) * BytesPerPixel(target_.format));
+        image.target = {spare.data(), PixelStep(target_.format), target_.format};
     }
     SampleNodeSpan(exact.Span(source_, surface_.Nearest(), {&image, 1}));
     if (!columns_.Contiguous()) {
@@ -84,12 +84,13 @@ void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& s
 
 // Each pixel to its place, but for those that a later one replaces.
 void SmoothEngine::ScatterLine(const ControlPointLine& line,
-                               const std::vector<std::uint8_t>& pixels, std::uint8_t* row) const {
-    for (std::ptrdiff_t n = 0; n < line.count; ++n) {
-        const int x = line.x + static_cast<int>(n);
+                               const std::vector<std::uint8_t>& pixels, std::int32_t row) const {
+    const std::size_t pixelBytes = BytesPerPixel(target_.format);
+    for (int n = 0; n < line.count; ++n) {
+        const int x = line.x + n;
         if (columns_.Stays(x)) {
-            std::memcpy(row + 3 * static_cast<std::ptrdiff_t>(columns_.Place(x)),
-                        pixels.data() + 3 * n, 3);
+            std::memcpy(target_.At(columns_.Place(x), row),
+                        pixels.data() + static_cast<std::size_t>(n) * pixelBytes, pixelBytes);
         }
     }
 }

@@ -28,7 +28,7 @@ class SmoothEngine : public Engine {
     ControlPointLine LineOf(int x, int count) const;
     void DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const;
     void ScatterLine(const ControlPointLine& line, const std::vector<std::uint8_t>& pixels,
-                     std::uint8_t* row) const;
+                     std::int32_t row) const;
 
     const RenderSurface& surface_;
     const SmoothMap& map_;

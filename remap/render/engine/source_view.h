@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A 24-bit source picture as raw rows, checked once when the view is made. Rows count from the
-// bottom. Throws nothing.
+// Source and result as raw rows: the only views that the engines have of pixels. Rows count from
+// the bottom. Throws nothing.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "remap/image/bitmap.h"
 #include "remap/image/pixel_access.h"
@@ -18,18 +19,58 @@ struct SourceView {
     std::ptrdiff_t pitch = 0;            // bytes from row to row
     std::int32_t width = 0;
     std::int32_t height = 0;
+    PixelFormat format = PixelFormat::Bgr8;
 
-    // Of a bitmap of 24 bits; asserts that it is one.
-    static SourceView Of(const Bitmap* bitmap);
+    static SourceView Of(const Bitmap* bitmap) {
+        const PixelSize size = bitmap->Size();
+        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
+                size.height, bitmap->Format()};
+    }
 
     // x and y are whole; black off the picture.
     PixelColor operator()(double x, double y) const {
         if (!(x >= 0.0 && x < width && y >= 0.0 && y < height)) {
             return black;
         }
-        const std::uint8_t* const pixel =
-            bits + static_cast<std::ptrdiff_t>(y) * pitch + 3 * static_cast<std::ptrdiff_t>(x);
-        return {pixel[0], pixel[1], pixel[2], 0};
+        return ColourAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
+                            static_cast<std::ptrdiff_t>(x) * PixelStep(format),
+                        format);
+    }
+};
+
+// Where the pixels of a run go: pixel 0 and the step in bytes to the next, to the left where it is
+// negative.
+struct SpanTarget {
+    std::uint8_t* first = nullptr;
+    std::ptrdiff_t stride = 0;
+    PixelFormat format = PixelFormat::Bgr8;
+
+    std::uint8_t* At(std::ptrdiff_t n) const { return first + n * stride; }
+    void Put(std::ptrdiff_t n, const PixelColor& colour) const { PutColour(At(n), colour, format); }
+};
+
+// The picture that runs are written into, of the source's format.
+struct TargetView {
+    std::uint8_t* bits = nullptr;
+    std::ptrdiff_t pitch = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    PixelFormat format = PixelFormat::Bgr8;
+
+    static TargetView Of(Bitmap* bitmap) {
+        const PixelSize size = bitmap->Size();
+        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
+                size.height, bitmap->Format()};
+    }
+    std::uint8_t* At(std::int32_t x, std::int32_t y) const {
+        return bits + y * pitch + x * PixelStep(format);
+    }
+    // From (x, y) on to the right or, with direction -1, to the left.
+    SpanTarget From(std::int32_t x, std::int32_t y, int direction = 1) const {
+        return {At(x, y), direction * PixelStep(format), format};
+    }
+    void Blacken(std::int32_t y) const {
+        std::memset(At(0, y), 0, static_cast<std::size_t>(width) * BytesPerPixel(format));
     }
 };
 

@@ -120,7 +120,7 @@ inline void StoreInside(const SourceView source, VecI x, VecI y, VecF partX, Vec
 // Pixels of an image worked out one by one.
 HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int first, int end) {
     for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
-        Put(image.target.first + n * image.target.stride, span.exact(span.context, span, image, n));
+        image.target.Put(n, span.exact(span.context, span, image, n));
     }
 }
 
@@ -155,7 +155,7 @@ HWY_NOINLINE void StoreOddLanes(const NodeSpan& span, const SpanImage& image, co
             colour = BlendBilinear(span.source, at.x[lane] + static_cast<double>(at.partX[lane]),
                                    at.y[lane] + static_cast<double>(at.partY[lane]));
         }
-        Put(image.target.first + n * image.target.stride, colour);
+        image.target.Put(n, colour);
     }
 }
 
@@ -170,7 +170,7 @@ inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 
     const Quintic v(span.v + n, steps);
     const int first = n * span.step;
     const SourceView source = span.source;
-    const bool plain = !span.nearest && FitsOffsets(source);
+    const bool plain = !span.nearest && TakesVectors(source);
     const int lanes = static_cast<int>(hn::Lanes(Floats()));
     for (int k = 0; k < span.step && first + k < span.count; k += lanes) {
         const VecF t = hn::Iota(Floats(), static_cast<float>(k));
@@ -184,8 +184,8 @@ inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 
             const int pixel = first + k;
             if (plain && pixel >= image.begin && pixel + lanes <= image.end &&
                 AllInside(x.whole, y.whole, source)) {
-                StoreInside(source, x.whole, y.whole, x.part, y.part,
-                            image.target.first + pixel * image.target.stride, image.target.stride);
+                StoreInside(source, x.whole, y.whole, x.part, y.part, image.target.At(pixel),
+                            image.target.stride);
             } else {
                 StoreOddLanes(span, image, x, y, pixel, lanes);
             }
@@ -262,8 +262,8 @@ inline bool Plain(VecI column, VecI row, VecF part, const SourceView source) {
 
 // Lanes first to end - 1 one by one.
 HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at, bool nearest,
-                                std::size_t first, std::size_t end, std::uint8_t* out,
-                                std::ptrdiff_t stride) {
+                                std::size_t first, std::size_t end, const SpanTarget& target,
+                                int done) {
     const bool outside = AllOutside(hn::Load(Ints(), at.column.data() + first),
                                     hn::Load(Ints(), at.row.data() + first), source);
     for (std::size_t n = first; n < end; ++n) {
@@ -272,22 +272,22 @@ HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at
             colour =
                 nearest ? source(at.x[n], at.row[n]) : BlendLinearX(source, at.x[n], at.row[n]);
         }
-        Put(out + static_cast<std::ptrdiff_t>(n) * stride, colour);
+        target.Put(done + static_cast<std::ptrdiff_t>(n), colour);
     }
 }
 
 inline void StoreRowPixels(const SourceView source, const RowPositions& at, RowReading reading,
-                           int count, std::uint8_t* out, std::ptrdiff_t stride) {
+                           int count, const SpanTarget& target, int done) {
     const std::size_t lanes = hn::Lanes(Floats());
     const bool nearest = reading == RowReading::Nearest;
-    const bool fits = reading == RowReading::Vectors && FitsOffsets(source);
+    const bool fits = reading == RowReading::Vectors && TakesVectors(source);
     for (std::size_t n = 0; n < static_cast<std::size_t>(count); n += lanes) {
         const VecI column = hn::Load(Ints(), at.column.data() + n);
         const VecI row = hn::Load(Ints(), at.row.data() + n);
         const VecF part = hn::Load(Floats(), at.part.data() + n);
         const std::size_t end = std::min(n + lanes, static_cast<std::size_t>(count));
         if (!fits || end - n < lanes || !Plain(column, row, part, source)) {
-            StoreRowLanes(source, at, nearest, n, end, out, stride);
+            StoreRowLanes(source, at, nearest, n, end, target, done);
             continue;
         }
         HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
@@ -297,7 +297,7 @@ inline void StoreRowPixels(const SourceView source, const RowPositions& at, RowR
             std::memcpy(&pairs[lane], source.bits + offsets[lane], 8);
         }
         StoreColours(BetweenPair(LoadPairs(pairs.data()), part),
-                     out + static_cast<std::ptrdiff_t>(n) * stride, stride,
+                     target.At(done + static_cast<std::ptrdiff_t>(n)), target.stride,
                      static_cast<int>(lanes));
     }
 }
@@ -317,7 +317,7 @@ void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
                         at);
         }
         StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target.first + done * target.stride, target.stride);
+                       target, done);
     }
 }
 
@@ -338,7 +338,7 @@ void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
                       hn::Rebind<std::int32_t, Doubles>(), at.row.data() + n);
         }
         StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target.first + done * target.stride, target.stride);
+                       target, done);
     }
 }
 
@@ -356,8 +356,7 @@ void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
             TakeColumns(hn::Div(whole, decimals), n, at);
         }
         StoreRowPixels(span.source, at, span.reading,
-                       std::min(lanesAtMost, span.source.width - done),
-                       target.first + done * target.stride, target.stride);
+                       std::min(lanesAtMost, span.source.width - done), target, done);
     }
 }
 

@@ -16,12 +16,6 @@
 
 namespace varnel {
 
-// Where the pixels of a run go: pixel 0 and the step in bytes to the next, 3 or -3.
-struct SpanTarget {
-    std::uint8_t* first = nullptr;
-    std::ptrdiff_t stride = 3;
-};
-
 // One of the mirror images that a run is written as: pixels begin to end - 1, read at the centre
 // plus signX * u and signY * v.
 struct SpanImage {

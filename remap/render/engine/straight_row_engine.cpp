@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cstdlib>
-#include <cstring>
 
 #include "base/rounding.h"
 #include "remap/projection/straight_rows.h"
@@ -49,7 +48,7 @@ class StraightRowEngine : public Engine {
             return;
         }
         if (map_.Blank(r)) {
-            std::memset(target_.At(0, row), 0, static_cast<std::size_t>(target_.width) * 3);
+            target_.Blacken(row);
             return;
         }
         ChordSpan span;
@@ -68,7 +67,7 @@ class StraightRowEngine : public Engine {
             span.first = clip.begin;
             span.count = clip.end - clip.begin;
             if (span.count > 0) {
-                SampleChordSpan(span, {target_.At(centre + sign * clip.begin, row), 3 * sign});
+                SampleChordSpan(span, target_.From(centre + sign * clip.begin, row, sign));
             }
         }
     }

@@ -43,12 +43,6 @@ struct Positions {
     HWY_ALIGN std::array<float, lanesAtMost> partY;
 };
 
-inline void Put(std::uint8_t* pixel, const PixelColor& colour) {
-    pixel[0] = colour.blue;
-    pixel[1] = colour.green;
-    pixel[2] = colour.red;
-}
-
 // Two neighbouring pixels of a row as 8 bytes: blue, green, red, blue, green, red and two more.
 struct Pair {
     VecW low, high;
@@ -104,6 +98,7 @@ inline void StorePacked(VecI pixels, std::uint8_t* out, bool backward) {
 
 #endif
 
+// The pixels of a vector, from there on to the right or, with a negative stride, to the left.
 inline void StoreColours(const Colours& colours, std::uint8_t* out, std::ptrdiff_t stride,
                          int count) {
     const Ints ints;
@@ -144,8 +139,10 @@ inline VecI Offsets(VecI x, VecI y, std::ptrdiff_t pitch) {
     return hn::Add(hn::Mul(y, hn::Set(ints, static_cast<std::int32_t>(pitch))), columns);
 }
 
-inline bool FitsOffsets(const SourceView& source) {
-    return source.pitch * source.height <= std::numeric_limits<std::int32_t>::max();
+// Whether the vector code of this file can read the source; single pixels can be read in any case.
+inline bool TakesVectors(const SourceView& source) {
+    return source.format == PixelFormat::Bgr8 &&
+           source.pitch * source.height <= std::numeric_limits<std::int32_t>::max();
 }
 
 }  // namespace HWY_NAMESPACE

@@ -19,6 +19,14 @@ struct PixelColor {
 // The colour that reads off the source give: all four bytes 0.
 inline constexpr PixelColor black{};
 
+enum class Channel { Blue, Green, Red };
+
+constexpr std::uint8_t PixelColor::*MemberOf(Channel channel) {
+    return channel == Channel::Blue    ? &PixelColor::blue
+           : channel == Channel::Green ? &PixelColor::green
+                                       : &PixelColor::red;
+}
+
 // The colour of the pixel that begins there.
 inline PixelColor ColourAt(const std::uint8_t* pixel, PixelFormat format) {
     switch (format) {

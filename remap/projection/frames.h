@@ -26,6 +26,7 @@ struct SourceFrame {
     float ratio = 0.0F;   // the sensor's width in percent of the circle's diameter
     // Of a pixel: where a sampled lens has its optical axis beside that centre, y upward.
     CentreShift fraction{};
+    LensColour colour = LensColour::Green;  // whose rays are followed
 
     // Throws DivisionByZeroError when the side of the sensor that counts is 0.
     double PixelsPerMillimetre() const { return PixelsPerUnit(size.width, landscape, sensor); }

@@ -39,7 +39,8 @@ double LensRadius(LensKind kind, double theta, const LensCurve& curve) {
         case LensKind::Sampled:
             break;
     }
-    return scale * curve.spline->RadiusAt(theta);
+    const double shift = curve.shift.At(std::min(theta, curve.spline->FieldLimit()));
+    return scale * (curve.spline->RadiusAt(theta) + shift);
 }
 
 double LensAngle(LensKind kind, double radius, const LensCurve& curve) {
@@ -95,8 +96,8 @@ double EffectRatio(float outputAovDegrees, float effectPercent, LensKind kind,
     const double full = static_cast<double>(Radians(outputAovDegrees)) / 2.0;
     const double partial =
         static_cast<double>(EffectiveAngle(Radians(outputAovDegrees), effectPercent)) / 2.0;
-    return LensRadius(kind, full, curve) /
-           NonZero(LensRadius(kind, partial, curve), ReasonCode::SineOfHalfAngle);
+    const LensSpline& spline = *curve.spline;
+    return spline.RadiusAt(full) / NonZero(spline.RadiusAt(partial), ReasonCode::SineOfHalfAngle);
 }
 
 CentreShift ShiftInPixels(PixelSize source, float offsetX, float offsetY) {

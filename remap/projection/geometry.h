@@ -26,6 +26,7 @@ struct LensCurve {
     float scale = 0.0F;   // millimetres; of a sampled lens, for each of its unit
     float factor = 0.0F;  // no unit
     std::shared_ptr<const LensSpline> spline{};  // of a sampled lens
+    ColourShift shift{};                         // of its colour; as at the limit beyond the field
 };
 
 struct SensorSize {
@@ -100,7 +101,8 @@ float EffectiveAngle(float outputAov, float effectPercent);
 // numerator takes the angle in degrees, the denominator the effective angle in radians. Throws
 // DivisionByZeroError when the denominator's sine is 0.
 double EffectRatio(float outputAovDegrees, float effectPercent, float lensFactor);
-// The same for a lens: of a sampled one the ratio of the radii at half the two angles.
+// The same for a lens: of a sampled one the ratio of the radii at half the two angles, one for all
+// colours.
 double EffectRatio(float outputAovDegrees, float effectPercent, LensKind kind,
                    const LensCurve& curve);
 

@@ -20,13 +20,14 @@ SensorSize SensorOf(const ImageRecord& image) {
     return {image.SensorWidth, image.SensorHeight};
 }
 
-LensCurve CurveOf(const ImageRecord& image) {
+LensCurve CurveOf(const ImageRecord& image, LensColour colour) {
     if (!image.Lens) {
         return {image.LensMapScale, image.LensMapFactor};
     }
     const bool inMillimetres = image.Lens->unit == SampledLens::Unit::Millimetres;
     return {inMillimetres ? 1.0F : image.ImageCircleRadius, 0.0F,
-            std::make_shared<const LensSpline>(*image.Lens)};
+            std::make_shared<const LensSpline>(*image.Lens),
+            image.Lens->ShiftOf(colour).value_or(ColourShift())};
 }
 
 // Where the optical axis of a sampled lens is: not rounded to whole pixels.
@@ -66,8 +67,9 @@ Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wi
 }
 
 RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames) {
-    return {frames.source,  frames.output,   KindOf(image),
-            CurveOf(image), image.OutputAOV, image.EffectRectilinear};
+    return {frames.source,   frames.output,
+            KindOf(image),   CurveOf(image, frames.source.colour),
+            image.OutputAOV, image.EffectRectilinear};
 }
 
 CameraMove CameraMoveOf(const ImageRecord& image) {
@@ -75,8 +77,9 @@ CameraMove CameraMoveOf(const ImageRecord& image) {
 }
 
 EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames) {
-    return {frames.source,  frames.output,           KindOf(image),
-            CurveOf(image), image.ImageCircleRadius, image.InputAOV};
+    return {frames.source,           frames.output,
+            KindOf(image),           CurveOf(image, frames.source.colour),
+            image.ImageCircleRadius, image.InputAOV};
 }
 
 CircleView CircleViewOf(const ImageRecord& image, const Frames& frames) {

@@ -4,6 +4,8 @@
 // One run of a projection: its source, its result and its progress. Shared by the four renderers.
 #pragma once
 
+#include <optional>
+
 #include "remap/image/pixel_access.h"
 #include "remap/render/render.h"
 
@@ -67,8 +69,14 @@ class RenderSession : public RenderSurface {
     void Advance(float value);
     // Off the result nothing is written.
     void Write(std::int32_t x, std::int32_t y, const PixelColor& colour) const {
-        SetPixelColor(result_, x, y, colour);
+        PixelColor written = colour;
+        if (only_ && GetPixelColor(result_, x, y, written)) {
+            written.*MemberOf(*only_) = colour.*MemberOf(*only_);
+        }
+        SetPixelColor(result_, x, y, written);
     }
+    // What is written from now on: a channel, or all.
+    void WriteOnly(std::optional<Channel> only) { only_ = only; }
 
   private:
     SizeKind kind_;
@@ -77,6 +85,7 @@ class RenderSession : public RenderSurface {
     SerialRunner serial_;
     int exceptionsBefore_;
     bool begun_ = false;
+    std::optional<Channel> only_;
 };
 
 }  // namespace varnel

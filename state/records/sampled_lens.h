@@ -31,8 +31,16 @@ struct ColourShift {
     double first = 0.0;
     double third = 0.0;
     double fifth = 0.0;
+
+    double At(double angle) const {
+        const double square = angle * angle;
+        return angle * (first + square * (third + square * fifth));
+    }
     bool operator==(const ColourShift&) const = default;
 };
+
+// The colours that a lens may put at different radii.
+enum class LensColour { Green, Red, Blue };
 
 // The optical axis on pictures of one size, in pixels from the left and from the bottom edge; the
 // middle of the first pixel is at 0.5.
@@ -72,6 +80,10 @@ struct SampledLens {
     LensOrigin origin;
 
     double FieldLimit() const { return knots.back().angle; }
+    // What is added for a colour; none where the lens says nothing of it.
+    std::optional<ColourShift> ShiftOf(LensColour colour) const {
+        return colour == LensColour::Red ? red : colour == LensColour::Blue ? blue : std::nullopt;
+    }
     bool operator==(const SampledLens&) const = default;
 };
 

@@ -7,8 +7,6 @@
 #include <array>
 #include <cmath>
 
-#include "remap/image/pixel_access.h"
-
 namespace varnel {
 
 namespace {
@@ -16,11 +14,6 @@ namespace {
 constexpr double smoothing = 1.0;    // deviation, pixels
 constexpr double kernelReach = 2.5;  // pixels
 constexpr double leastSlope = 1.5;   // levels per pixel
-
-std::uint8_t PixelColor::*MemberOf(Channel channel) {
-    constexpr std::array members{&PixelColor::blue, &PixelColor::green, &PixelColor::red};
-    return members[static_cast<std::size_t>(channel)];
-}
 
 // Between pixels linearly; the border goes on outside.
 double LevelAt(const Bitmap& photo, Channel channel, const EdgePoint& place) {

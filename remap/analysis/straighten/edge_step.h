@@ -9,11 +9,9 @@
 #include <vector>
 
 #include "remap/analysis/straighten/edge_trace.h"
-#include "remap/image/bitmap.h"
+#include "remap/image/pixel_access.h"
 
 namespace varnel {
-
-enum class Channel { Blue, Green, Red };
 
 // A line across an edge: through a place, along a direction of length 1.
 struct Crossing {

@@ -8,11 +8,12 @@
 
 namespace varnel {
 
-std::unique_ptr<Engine> SmoothEngineFor(const RenderSurface& surface, const SmoothMap& map) {
+std::unique_ptr<Engine> SmoothEngineFor(const RenderSurface& surface, const SmoothMap& map,
+                                        std::optional<Channel> only) {
     if (map.IsFourfold()) {
-        return std::make_unique<FourfoldEngine>(surface, map);
+        return std::make_unique<FourfoldEngine>(surface, map, only);
     }
-    return std::make_unique<SmoothEngine>(surface, map);
+    return std::make_unique<SmoothEngine>(surface, map, only);
 }
 
 std::unique_ptr<Engine> EngineFor(const RenderSurface& surface, const ProjectionMap& map) {

@@ -5,8 +5,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "base/line_range.h"
+#include "remap/image/pixel_access.h"
 #include "remap/projection/projection_map.h"
 #include "remap/render/row_renderer.h"
 
@@ -26,8 +28,9 @@ class Engine : public RowRenderer {
     virtual void Draw(int first, int count) = 0;
 };
 
-// Both have to outlive the engine. Throws OverflowError.
-std::unique_ptr<Engine> SmoothEngineFor(const RenderSurface& surface, const SmoothMap& map);
+// Both have to outlive the engine. With a channel nothing else is written. Throws OverflowError.
+std::unique_ptr<Engine> SmoothEngineFor(const RenderSurface& surface, const SmoothMap& map,
+                                        std::optional<Channel> only = {});
 std::unique_ptr<Engine> StraightRowEngineFor(const RenderSurface& surface, const StraightRows& map);
 std::unique_ptr<Engine> CircleRowEngineFor(const RenderSurface& surface, const CircleRows& map);
 std::unique_ptr<Engine> EngineFor(const RenderSurface& surface, const ProjectionMap& map);

@@ -16,8 +16,9 @@ namespace varnel {
 
 class FourfoldEngine : public Engine {
   public:
-    // The map has to outlive the engine.
-    FourfoldEngine(const RenderSurface& surface, const SmoothMap& map)
+    // The map has to outlive the engine. With a channel nothing else is written.
+    FourfoldEngine(const RenderSurface& surface, const SmoothMap& map,
+                   std::optional<Channel> only = {})
         : surface_(surface),
           map_(map),
           nodes_(map.Nodes()),
@@ -25,7 +26,7 @@ class FourfoldEngine : public Engine {
           columns_(Columns(centre_, surface.ResultSize().width)),
           rows_(OnPicture(centre_.cy, surface.ResultSize().height, centre_.bottom)),
           source_(SourceView::Of(surface.Source())),
-          target_(TargetView::Of(surface.Result())) {}
+          target_(TargetView::Of(surface.Result(), only)) {}
 
     // Those to be drawn, all <= 0.
     LineRange Lines() const override { return columns_; }

@@ -9,7 +9,8 @@
 
 namespace varnel {
 
-SmoothEngine::SmoothEngine(const RenderSurface& surface, const SmoothMap& map)
+SmoothEngine::SmoothEngine(const RenderSurface& surface, const SmoothMap& map,
+                           std::optional<Channel> only)
     : surface_(surface),
       map_(map),
       nodes_(map.Nodes()),
@@ -17,7 +18,7 @@ SmoothEngine::SmoothEngine(const RenderSurface& surface, const SmoothMap& map)
       rows_(map.RowAxis(), surface.ResultSize().height),
       covers_(columns_.Covers() && rows_.Covers()),
       source_(SourceView::Of(surface.Source())),
-      target_(TargetView::Of(surface.Result())) {}
+      target_(TargetView::Of(surface.Result(), only)) {}
 
 void SmoothEngine::FillTheRest() {
     if (covers_) {
@@ -44,7 +45,7 @@ void SmoothEngine::Draw(int x, int count) {
 
 // Nodes lie where the batches of columns have them, too.
 void SmoothEngine::DrawRow(std::int32_t row) {
-    if (!covers_) {
+    if (!covers_ && !target_.only) {
         surface_.FillRow(row);
     }
     if (const std::optional<int> y = rows_.OwnerOf(row)) {
@@ -74,7 +75,7 @@ void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& s
         image = {1, 1, target_.From(place, row), clip.begin, clip.end};
     } else {
         spare.resize(static_cast<std::size_t>(line.count) * BytesPerPixel(target_.format));
-        image.target = {spare.data(), PixelStep(target_.format), target_.format};
+        image.target = {spare.data(), PixelStep(target_.format), target_.format, {}};
     }
     SampleNodeSpan(exact.Span(source_, surface_.Nearest(), {&image, 1}));
     if (!columns_.Contiguous()) {
@@ -89,8 +90,14 @@ void SmoothEngine::ScatterLine(const ControlPointLine& line,
     for (int n = 0; n < line.count; ++n) {
         const int x = line.x + n;
         if (columns_.Stays(x)) {
-            std::memcpy(target_.At(columns_.Place(x), row),
-                        pixels.data() + static_cast<std::size_t>(n) * pixelBytes, pixelBytes);
+            const std::uint8_t* const pixel =
+                pixels.data() + static_cast<std::size_t>(n) * pixelBytes;
+            const SpanTarget place = target_.From(columns_.Place(x), row);
+            if (target_.only) {
+                place.Put(0, ColourAt(pixel, target_.format));
+            } else {
+                std::memcpy(place.first, pixel, pixelBytes);
+            }
         }
     }
 }

@@ -15,8 +15,10 @@ namespace varnel {
 
 class SmoothEngine : public Engine {
   public:
-    // The map has to outlive the engine. Throws OverflowError.
-    SmoothEngine(const RenderSurface& surface, const SmoothMap& map);
+    // The map has to outlive the engine. With a channel nothing else is written. Throws
+    // OverflowError.
+    SmoothEngine(const RenderSurface& surface, const SmoothMap& map,
+                 std::optional<Channel> only = {});
 
     LineRange Lines() const override { return columns_.Run(); }
     void FillTheRest() override;

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 #include "remap/image/bitmap.h"
 #include "remap/image/pixel_access.h"
@@ -44,9 +45,18 @@ struct SpanTarget {
     std::uint8_t* first = nullptr;
     std::ptrdiff_t stride = 0;
     PixelFormat format = PixelFormat::Bgr8;
+    std::optional<Channel> only{};  // the one that is written; none: all
 
     std::uint8_t* At(std::ptrdiff_t n) const { return first + n * stride; }
-    void Put(std::ptrdiff_t n, const PixelColor& colour) const { PutColour(At(n), colour, format); }
+    void Put(std::ptrdiff_t n, const PixelColor& colour) const {
+        if (!only) {
+            PutColour(At(n), colour, format);
+            return;
+        }
+        PixelColor mixed = ColourAt(At(n), format);
+        mixed.*MemberOf(*only) = colour.*MemberOf(*only);
+        PutColour(At(n), mixed, format);
+    }
 };
 
 // The picture that runs are written into, of the source's format.
@@ -56,18 +66,20 @@ struct TargetView {
     std::int32_t width = 0;
     std::int32_t height = 0;
     PixelFormat format = PixelFormat::Bgr8;
+    std::optional<Channel> only{};
 
-    static TargetView Of(Bitmap* bitmap) {
+    static TargetView Of(Bitmap* bitmap, std::optional<Channel> only = {}) {
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
-                size.height, bitmap->Format()};
+        return {bitmap->Bits(),   static_cast<std::ptrdiff_t>(bitmap->Pitch()),
+                size.width,       size.height,
+                bitmap->Format(), only};
     }
     std::uint8_t* At(std::int32_t x, std::int32_t y) const {
         return bits + y * pitch + x * PixelStep(format);
     }
     // From (x, y) on to the right or, with direction -1, to the left.
     SpanTarget From(std::int32_t x, std::int32_t y, int direction = 1) const {
-        return {At(x, y), direction * PixelStep(format), format};
+        return {At(x, y), direction * PixelStep(format), format, only};
     }
     void Blacken(std::int32_t y) const {
         std::memset(At(0, y), 0, static_cast<std::size_t>(width) * BytesPerPixel(format));

@@ -98,23 +98,32 @@ inline bool Lost(const double* p) {
     return lost(p[2]) && lost(p[3]);
 }
 
-inline void StoreInside(const SourceView source, VecI x, VecI y, VecF partX, VecF partY,
-                        std::uint8_t* out, std::ptrdiff_t stride) {
+// The target's pixels from the n-th on.
+inline void StoreInside(const SourceView source, const Coordinate& x, const Coordinate& y,
+                        const SpanTarget& target, int n) {
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
     HWY_ALIGN std::array<std::uint64_t, lanesAtMost> below;
     HWY_ALIGN std::array<std::uint64_t, lanesAtMost> above;
-    hn::Store(Offsets(x, y, source.pitch), Ints(), offsets.data());
+    hn::Store(Offsets(x.whole, y.whole, source.pitch), Ints(), offsets.data());
     const std::size_t lanes = hn::Lanes(Floats());
-    for (std::size_t n = 0; n < lanes; ++n) {
-        const std::uint8_t* const pixel = source.bits + offsets[n];
-        std::memcpy(&below[n], pixel, 8);
-        std::memcpy(&above[n], pixel + source.pitch, 8);
+    for (std::size_t lane = 0; lane < lanes; ++lane) {
+        const std::uint8_t* const pixel = source.bits + offsets[lane];
+        std::memcpy(&below[lane], pixel, 8);
+        std::memcpy(&above[lane], pixel + source.pitch, 8);
     }
-    const Colours lower = BetweenPair(LoadPairs(below.data()), partX);
-    const Colours upper = BetweenPair(LoadPairs(above.data()), partX);
-    StoreColours({Between(lower.blue, upper.blue, partY), Between(lower.green, upper.green, partY),
-                  Between(lower.red, upper.red, partY)},
-                 out, stride, static_cast<int>(lanes));
+    const Pair lowerPair = LoadPairs(below.data());
+    const Pair upperPair = LoadPairs(above.data());
+    if (target.only) {
+        const VecF level = Between(BetweenPair(lowerPair, x.part, *target.only),
+                                   BetweenPair(upperPair, x.part, *target.only), y.part);
+        StoreChannel(level, *target.only, target.At(n), target.stride);
+        return;
+    }
+    const Colours lower = BetweenPair(lowerPair, x.part);
+    const Colours upper = BetweenPair(upperPair, x.part);
+    StoreColours({Between(lower.blue, upper.blue, y.part),
+                  Between(lower.green, upper.green, y.part), Between(lower.red, upper.red, y.part)},
+                 target.At(n), target.stride, static_cast<int>(lanes));
 }
 
 // Pixels of an image worked out one by one.
@@ -184,8 +193,7 @@ inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 
             const int pixel = first + k;
             if (plain && pixel >= image.begin && pixel + lanes <= image.end &&
                 AllInside(x.whole, y.whole, source)) {
-                StoreInside(source, x.whole, y.whole, x.part, y.part, image.target.At(pixel),
-                            image.target.stride);
+                StoreInside(source, x, y, image.target, pixel);
             } else {
                 StoreOddLanes(span, image, x, y, pixel, lanes);
             }

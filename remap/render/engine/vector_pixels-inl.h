@@ -65,14 +65,25 @@ inline VecF Between(VecF a, VecF b, VecF part) {
     return hn::MulAdd(hn::Sub(b, a), part, a);
 }
 
+inline VecF BetweenPair(const Pair& pair, VecF part, Channel channel) {
+    switch (channel) {
+        case Channel::Blue:
+            return Between(Byte<0>(pair.low), Byte<24>(pair.low), part);
+        case Channel::Green:
+            return Between(Byte<8>(pair.low), Byte<0>(pair.high), part);
+        case Channel::Red:
+            break;
+    }
+    return Between(Byte<16>(pair.low), Byte<8>(pair.high), part);
+}
+
 struct Colours {
     VecF blue, green, red;
 };
 
 inline Colours BetweenPair(const Pair& pair, VecF part) {
-    return {Between(Byte<0>(pair.low), Byte<24>(pair.low), part),
-            Between(Byte<8>(pair.low), Byte<0>(pair.high), part),
-            Between(Byte<16>(pair.low), Byte<8>(pair.high), part)};
+    return {BetweenPair(pair, part, Channel::Blue), BetweenPair(pair, part, Channel::Green),
+            BetweenPair(pair, part, Channel::Red)};
 }
 
 #if HWY_TARGET != HWY_SCALAR
@@ -116,6 +127,16 @@ inline void StoreColours(const Colours& colours, std::uint8_t* out, std::ptrdiff
     hn::Store(whole, ints, pixels.data());
     for (int n = 0; n < count; ++n) {
         std::memcpy(out + n * stride, &pixels[static_cast<std::size_t>(n)], 3);
+    }
+}
+
+// One channel of a whole vector of pixels, the others left as they are.
+inline void StoreChannel(VecF levels, Channel channel, std::uint8_t* out, std::ptrdiff_t stride) {
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> bytes;
+    hn::Store(hn::ConvertTo(Ints(), levels), Ints(), bytes.data());
+    out += static_cast<std::ptrdiff_t>(channel);
+    for (std::size_t n = 0; n < hn::Lanes(Ints()); ++n, out += stride) {
+        *out = static_cast<std::uint8_t>(bytes[n]);
     }
 }
 

@@ -101,6 +101,31 @@ TEST(SampledLens, DrawsAsItsFormulaAndAroundItsAxis) {
     EXPECT_EQ(FramesOf(moved, {4000, 4000}).source.shift.x, 1.0) << "a picture of another shape";
 }
 
+TEST(SampledLens, PutsEachColourAtItsRadius) {
+    constexpr PixelSize size{6000, 4000};
+    ImageRecord record = testing::FisheyeRecord();
+    record.EffectRectilinear = 80.0F;
+    SampledLens lens = testing::SampledLensOf(record);
+    lens.red = {0.0, 0.02, 0.01};
+    record.Lens = std::make_shared<const SampledLens>(lens);
+    Frames frames = FramesOf(record, size);
+    const auto radius = [&](Projection projection, LensColour colour, int x) {
+        frames.source.colour = colour;
+        return InfoOf(projection).Make(record, frames)->OffsetAt(x, 0).u;
+    };
+    for (const Projection projection : {Projection::Rectilinear, Projection::Equidistance}) {
+        EXPECT_EQ(radius(projection, LensColour::Blue, 900),
+                  radius(projection, LensColour::Green, 900));
+    }
+    // The angle from the green radius: pixels for each millimetre times that of the lens.
+    const EquidistanceMap map(EquidistanceViewOf(record, frames));
+    const double angle = 900 * map.FrameAngle() / map.ReferenceRadius() / 2.0;
+    const double perMillimetre = size.width / static_cast<double>(record.SensorWidth);
+    EXPECT_NEAR(radius(Projection::Equidistance, LensColour::Red, 900) -
+                    radius(Projection::Equidistance, LensColour::Green, 900),
+                perMillimetre * lens.red->At(angle), 1e-9);
+}
+
 TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
     const auto failure = [](RectilinearView view) -> std::string {
         try {

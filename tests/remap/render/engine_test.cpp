@@ -19,6 +19,7 @@
 #include "remap/render/reference/render.h"
 #include "remap/render/region_renderer.h"
 #include "tests/remap/render/engine_pictures.h"
+#include "tests/support/lenses.h"
 #include "tests/support/records.h"
 #include "tests/support/runners.h"
 
@@ -54,6 +55,25 @@ BitmapHandle Drawn(Renderer renderer, const Case& c, Painter paint, SizeKind kin
     RenderContext context{bitmaps, [smooth] { return smooth; }, runner};
     renderer(c.projection, record, kind, silent, context);
     return std::move(bitmaps.ResultBitmap);
+}
+
+void AddFringes(std::vector<Case>& cases) {
+    // Fringes of up to 3 pixels; as whole and as fractional axis, which have engines of their own.
+    const auto fringed = [](bool offCentre) {
+        return [offCentre](ImageRecord& r) {
+            SampledLens lens =
+                offCentre ? *testing::OffCentreLensOf(r, {301, 200}) : testing::SampledLensOf(r);
+            lens.red = {0.1, 0.2, -0.05};
+            lens.blue = {-0.2, 0.0, 0.1};
+            r.Lens = std::make_shared<const SampledLens>(lens);
+            r.RotateX = offCentre ? 12.0F : 0.0F;
+            r.TranslateY = offCentre ? 7.7F : 0.0F;
+        };
+    };
+    for (const Projection projection : AllProjections()) {
+        cases.push_back({"fringes", projection, {301, 200}, fringed(false)});
+        cases.push_back({"fringes around an axis", projection, {301, 200}, fringed(true)});
+    }
 }
 
 std::vector<Case> Cases() {
@@ -114,6 +134,7 @@ std::vector<Case> Cases() {
         cases.push_back({"Tan lens", projection, {301, 200}, tan(3.0F)});
         cases.push_back({"Tan lens past its pole", projection, {301, 200}, tan(0.5F)});
     }
+    AddFringes(cases);
     const auto turned = [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F; };
     cases.push_back({"large", Projection::Rectilinear, {2100, 900}});
     cases.push_back({"large turned", Projection::Rectilinear, {4100, 1000}, turned});

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/render/engine/projection_engine.h"
+
+#include <utility>
+
+namespace varnel {
+
+// Projections that know no lens curve have no smooth map.
+ProjectionMaps::ProjectionMaps(Projection projection, const ImageRecord& image,
+                               const Frames& frames) {
+    entries.push_back({InfoOf(projection).Make(image, frames), {}});
+    if (!image.Lens || Green().AsSmooth() == nullptr) {
+        return;
+    }
+    for (const auto& [colour, channel] :
+         {std::pair(LensColour::Red, Channel::Red), std::pair(LensColour::Blue, Channel::Blue)}) {
+        if (image.Lens->ShiftOf(colour)) {
+            Frames its = frames;
+            its.source.colour = colour;
+            entries.push_back({InfoOf(projection).Make(image, its), channel});
+        }
+    }
+}
+
+ProjectionEngine::ProjectionEngine(const RenderSurface& surface, ProjectionMaps maps)
+    : maps_(std::move(maps)) {
+    for (const auto& [map, only] : maps_.entries) {
+        engines_.push_back(only ? SmoothEngineFor(surface, *map->AsSmooth(), only)
+                                : EngineFor(surface, *map));
+    }
+}
+
+void ProjectionEngine::Draw(int first, int count) {
+    for (const auto& engine : engines_) {
+        engine->Draw(first, count);
+    }
+}
+
+void ProjectionEngine::DrawRow(std::int32_t row) {
+    for (const auto& engine : engines_) {
+        engine->DrawRow(row);
+    }
+}
+
+}  // namespace varnel

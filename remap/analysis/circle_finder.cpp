@@ -102,9 +102,11 @@ std::vector<RimPoint> Rim(const Grey& grey, const ImageCircle& circle, double re
     return rim;
 }
 
-// Whether three quarters of what lies outside are less than half as bright as the rim. A picture
-// that shows next to nothing outside has no rim either.
+// Whether three quarters of what lies outside are less than half as bright as the rim, and a
+// quarter is black or nearly so: stray light leaves some of the dark, a wall around a window does
+// not. A picture that shows next to nothing outside has no rim either.
 bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
+    constexpr double black = 12.0;
     long rim = 0;
     long rimCount = 0;
     std::vector<int> outside;
@@ -123,9 +125,54 @@ bool IsDarkOutside(const Grey& grey, const ImageCircle& circle) {
     if (static_cast<double>(outside.size()) < 0.005 * pixels || rimCount == 0) {
         return false;
     }
-    const auto most = outside.begin() + static_cast<std::ptrdiff_t>(outside.size() * 3 / 4);
-    std::ranges::nth_element(outside, most);
-    return *most < 0.5 * static_cast<double>(rim) / static_cast<double>(rimCount);
+    const auto levelBelow = [&outside](std::size_t quarters) {
+        const auto place =
+            outside.begin() + static_cast<std::ptrdiff_t>(outside.size() * quarters / 4);
+        std::ranges::nth_element(outside, place);
+        return static_cast<double>(*place);
+    };
+    const double bright = static_cast<double>(rim) / static_cast<double>(rimCount);
+    return levelBelow(3) < 0.5 * bright && levelBelow(1) < std::max(black, 0.12 * bright);
+}
+
+// At a share of the radius, of what the picture shows there.
+struct RingLight {
+    double mean = 0.0;
+    double deviation = 0.0;
+};
+
+RingLight LightAt(const Grey& grey, const ImageCircle& circle, double share) {
+    constexpr int angles = 720;
+    double sum = 0.0;
+    double squares = 0.0;
+    int count = 0;
+    for (int i = 0; i < angles; ++i) {
+        const double angle = 2.0 * i * std::numbers::pi / angles;
+        const double x = circle.x + share * circle.radius * std::cos(angle);
+        const double y = circle.y + share * circle.radius * std::sin(angle);
+        if (grey.Has(x, y)) {
+            const double level = grey.At(x, y);
+            sum += level;
+            squares += level * level;
+            ++count;
+        }
+    }
+    const double mean = sum / std::max(count, 1);
+    return {mean, std::sqrt(std::max(squares / std::max(count, 1) - mean * mean, 0.0))};
+}
+
+// Whether the light ends there: a spotlight or the halo of a lamp fades away slowly. Lenses end
+// within two hundredths of the radius, though it may be much darker at the rim than farther in.
+bool EndsAt(const Grey& grey, const ImageCircle& circle) {
+    const double step = LightAt(grey, circle, 0.975).mean - LightAt(grey, circle, 1.025).mean;
+    const double all = LightAt(grey, circle, 0.9).mean - LightAt(grey, circle, 1.1).mean;
+    return step > 0.4 * all;
+}
+
+// Light between leaves, as no lamp has around itself.
+bool IsPatchy(const Grey& grey, const ImageCircle& circle) {
+    const RingLight light = LightAt(grey, circle, 0.9);
+    return light.deviation > 0.6 * light.mean;
 }
 
 // Where the rim shows as a step from light to dark.
@@ -153,8 +200,11 @@ std::optional<FoundCircle> CircleByRim(const GreyPicture& picture) {
         }
         error = FitError(rim, circle);
     }
+    // The steepest place of a soft rim, for which a lens that darkens toward it makes no lesser one
+    // than the place of half the light, is off by that: measured on drawn rims.
+    error = std::hypot(error, 0.0012 * circle.radius);
     const Grey grey(picture);
-    if (!MayBe(circle, grey) || !IsDarkOutside(grey, circle)) {
+    if (!MayBe(circle, grey) || !IsDarkOutside(grey, circle) || !EndsAt(grey, circle)) {
         return std::nullopt;
     }
     return FoundCircle{circle, error};
@@ -172,8 +222,11 @@ std::optional<FoundCircle> FindImageCircle(const GreyPicture& picture) {
     }
     constexpr double roughly = 0.03;  // of the radius
     const auto circle = CircleAroundLight(Grey(picture));
-    return circle ? std::optional(FoundCircle{*circle, roughly * circle->radius, true})
-                  : std::nullopt;
+    const Grey grey(picture);
+    if (!circle || !(EndsAt(grey, *circle) || IsPatchy(grey, *circle))) {
+        return std::nullopt;
+    }
+    return FoundCircle{*circle, roughly * circle->radius, true};
 }
 
 }  // namespace varnel

@@ -70,7 +70,7 @@ class SmoothMap : public ProjectionMap {
     virtual SourceOffset At(int x, int y) const = 0;
     virtual std::unique_ptr<SmoothNodes> Nodes() const = 0;
     // Whether the four positions (x, y), (-x, y), (x, -y), (-x, -y) read mirror images of one
-    // another, so that one is enough.
+    // another around the optical axis, so that one is enough.
     virtual bool IsFourfold() const { return false; }
 
     // The loops over columns and rows.
@@ -78,6 +78,9 @@ class SmoothMap : public ProjectionMap {
     virtual LoopAxis RowAxis() const;
 
     const PixelPosition& SourceCentre() const { return sourceCentre_; }
+    // What an offset's mirror image has more than the negative offset: twice the axis's way from
+    // the middle of that pixel.
+    CentreShift MirrorShift() const { return {2.0 * fraction_.x, 2.0 * fraction_.y}; }
     const OutputFrame& Output() const { return output_; }
     const CentreAndExtents& Extents() const { return extents_; }  // on the result
 

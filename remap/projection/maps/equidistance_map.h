@@ -25,7 +25,7 @@ class EquidistanceMap : public SmoothMap {
     explicit EquidistanceMap(const EquidistanceView& view);
     SourceOffset At(int x, int y) const override;
     std::unique_ptr<SmoothNodes> Nodes() const override;
-    bool IsFourfold() const override { return IsAxisWhole(); }
+    bool IsFourfold() const override { return true; }
     // The source's distance from the centre for the output's distance r, both in pixels.
     double SourceRadius(double r) const;
     // The radius at which a result as large as the photo shows half the frame's angle.

@@ -68,7 +68,7 @@ class RectilinearMap : public SmoothMap {
         : SmoothMap(view.source, view.output), radius_(view) {}
     SourceOffset At(int x, int y) const override;
     std::unique_ptr<SmoothNodes> Nodes() const override;
-    bool IsFourfold() const override { return IsAxisWhole(); }
+    bool IsFourfold() const override { return true; }
     float ProgressAt(int column) const override;
     const RectilinearRadius& Radius() const { return radius_; }
 

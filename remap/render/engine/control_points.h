@@ -48,8 +48,8 @@ struct ExactLine {
                              int n) {
         const auto& self = *static_cast<const ExactLine*>(context);
         const auto [u, v] = self.map.At(self.line.x + n, self.line.y);
-        const double column = image.signX * u;
-        const double row = span.centreY + image.signY * v;
+        const double column = image.signX > 0 ? u : span.mirrorX - u;
+        const double row = span.centreY + (image.signY > 0 ? v : span.mirrorY - v);
         return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
                             : BlendBilinear(span.source, span.centreX + column, row);
     }
@@ -62,6 +62,8 @@ struct ExactLine {
                 line.count,
                 map.SourceCentre().x,
                 map.SourceCentre().y,
+                map.MirrorShift().x,
+                map.MirrorShift().y,
                 nearest,
                 &ExactLine::Colour,
                 this,

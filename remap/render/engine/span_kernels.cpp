@@ -56,24 +56,6 @@ struct Quintic {
     }
 };
 
-// A coordinate of a vector of pixels: the whole one of the lower neighbour and what is left, for an
-// offset and for its mirror image.
-struct Coordinate {
-    VecI whole;
-    VecF part;
-};
-
-inline Coordinate Upward(VecF offset, std::int32_t base) {
-    const VecF floor = hn::Floor(offset);
-    return {hn::Add(hn::ConvertTo(Ints(), floor), hn::Set(Ints(), base)), hn::Sub(offset, floor)};
-}
-
-inline Coordinate Mirrored(VecF offset, std::int32_t base) {
-    const VecF ceiling = hn::Ceil(offset);
-    return {hn::Sub(hn::Set(Ints(), base), hn::ConvertTo(Ints(), ceiling)),
-            hn::Sub(ceiling, offset)};
-}
-
 // Whether the polynomial between p[2] and p[3] can stand for the map that has these nodes. A cubic
 // would miss a smooth map by 0.0234 times the fourth difference; the two degrees more leave of that
 // a few hundredths. At a corner of the map the difference is large. False for numbers that are
@@ -181,15 +163,17 @@ inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 
     const SourceView source = span.source;
     const bool plain = !span.nearest && TakesVectors(source);
     const int lanes = static_cast<int>(hn::Lanes(Floats()));
+    const VecF shiftX = hn::Set(Floats(), static_cast<float>(span.mirrorX));
+    const VecF shiftY = hn::Set(Floats(), static_cast<float>(span.mirrorY));
     for (int k = 0; k < span.step && first + k < span.count; k += lanes) {
         const VecF t = hn::Iota(Floats(), static_cast<float>(k));
         const VecF offsetX = u.At(t);
         const VecF offsetY = v.At(t);
         for (const SpanImage& image : span.images) {
             const Coordinate x = image.signX > 0 ? Upward(offsetX, span.centreX + u.base)
-                                                 : Mirrored(offsetX, span.centreX - u.base);
+                                                 : Mirrored(offsetX, span.centreX - u.base, shiftX);
             const Coordinate y = image.signY > 0 ? Upward(offsetY, span.centreY + v.base)
-                                                 : Mirrored(offsetY, span.centreY - v.base);
+                                                 : Mirrored(offsetY, span.centreY - v.base, shiftY);
             const int pixel = first + k;
             if (plain && pixel >= image.begin && pixel + lanes <= image.end &&
                 AllInside(x.whole, y.whole, source)) {

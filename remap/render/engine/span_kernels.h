@@ -17,7 +17,7 @@
 namespace varnel {
 
 // One of the mirror images that a run is written as: pixels begin to end - 1, read at the centre
-// plus signX * u and signY * v.
+// plus u and v, or with a negative sign minus them plus the run's mirrorX and mirrorY.
 struct SpanImage {
     int signX = 1;
     int signY = 1;
@@ -36,6 +36,7 @@ struct NodeSpan {
     int step = largestNodeStep;
     int count = 0;  // pixels
     std::int32_t centreX = 0, centreY = 0;
+    double mirrorX = 0.0, mirrorY = 0.0;
     bool nearest = false;
     // The colour of pixel n of an image, worked out without nodes: where they are not smooth, and
     // where a nearest read is too close to call.

@@ -43,6 +43,26 @@ struct Positions {
     HWY_ALIGN std::array<float, lanesAtMost> partY;
 };
 
+// A coordinate of a vector of pixels: the whole one of the lower neighbour and what is left, for an
+// offset and for its mirror image.
+struct Coordinate {
+    VecI whole;
+    VecF part;
+};
+
+inline Coordinate Upward(VecF offset, std::int32_t base) {
+    const VecF floor = hn::Floor(offset);
+    return {hn::Add(hn::ConvertTo(Ints(), floor), hn::Set(Ints(), base)), hn::Sub(offset, floor)};
+}
+
+// At the base minus the offset, plus the shift.
+inline Coordinate Mirrored(VecF offset, std::int32_t base, VecF shift) {
+    offset = hn::Sub(offset, shift);
+    const VecF ceiling = hn::Ceil(offset);
+    return {hn::Sub(hn::Set(Ints(), base), hn::ConvertTo(Ints(), ceiling)),
+            hn::Sub(ceiling, offset)};
+}
+
 // Two neighbouring pixels of a row as 8 bytes: blue, green, red, blue, green, red and two more.
 struct Pair {
     VecW low, high;

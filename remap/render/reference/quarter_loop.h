@@ -28,10 +28,12 @@ inline void RenderQuarterColumn(const RenderSession& run, const SmoothMap& map, 
     const std::int32_t cy = map.Extents().cy;
     for (std::int32_t y = -map.Extents().bottom; y <= 0; ++y) {
         const auto [u, v] = map.At(x, y);
+        const double left = map.MirrorShift().x - u;
+        const double below = map.MirrorShift().y - v;
         run.Write(cx + x, cy + y, ReadAt(run, from, {u, v}));
-        run.Write(cx - x, cy + y, ReadAt(run, from, {-u, v}));
-        run.Write(cx + x, cy - y, ReadAt(run, from, {u, -v}));
-        run.Write(cx - x, cy - y, ReadAt(run, from, {-u, -v}));
+        run.Write(cx - x, cy + y, ReadAt(run, from, {left, v}));
+        run.Write(cx + x, cy - y, ReadAt(run, from, {u, below}));
+        run.Write(cx - x, cy - y, ReadAt(run, from, {left, below}));
     }
 }
 

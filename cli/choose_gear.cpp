@@ -51,13 +51,6 @@ QString Unknown(const QString& kind, const CatalogueName& name, const QStringLis
                       near, list.arg(knownBrand ? Quoted(name.brand) + u' ' : QString()));
 }
 
-GearRecord BuiltGear(const GearNames& names) {
-    GearRecord gear;
-    FillGearFromCatalogue(names, gear, {});
-    gear.GearName = BuiltGearName(names);
-    return gear;
-}
-
 std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
                                                  const CatalogueName& lens,
                                                  const SettingsStore& store) {
@@ -137,11 +130,8 @@ std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choic
         return choice.forAll;
     }
     const PhotoGear found = GearOfPhoto(origin, choice.table);
-    if (found.gear > 0) {
-        return choice.table(found.gear);
-    }
-    if (found.IsWhole()) {
-        return BuiltGear(found.names);
+    if (std::optional<GearRecord> gear = CertainGear(found, choice.table)) {
+        return gear;
     }
     if (choice.anyLens || (choice.guesses && !NamesPlainLens(origin))) {
         return std::nullopt;

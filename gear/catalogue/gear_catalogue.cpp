@@ -156,6 +156,13 @@ QString BuiltGearName(const GearNames& names) {
            u' ' + names.lensModel;
 }
 
+GearRecord BuiltGear(const GearNames& names) {
+    GearRecord gear;
+    FillGearFromCatalogue(names, gear);
+    gear.GearName = BuiltGearName(names);
+    return gear;
+}
+
 QString UniqueGearName(const GearTable& table, QString name) {
     for (int n = 1; n <= table.UpperBound(); ++n) {
         if (table(n).GearName == name) {

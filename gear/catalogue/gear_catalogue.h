@@ -57,6 +57,8 @@ bool HasOwnAngle(const GearRecord& gear);
 
 // "Canon EOS 5D + Samyang 8 mm f/3.5"
 QString BuiltGearName(const GearNames& names);
+// The catalogue's gear of these names, named so.
+GearRecord BuiltGear(const GearNames& names);
 
 // The name with " 2" added whenever a gear of the table, visited once in order, has the name as it
 // then stands. Whether an earlier gear has the longer name is not checked.

@@ -122,4 +122,24 @@ PhotoGear GearOfPhoto(const CameraInfo& origin, const GearTable& table) {
     return found;
 }
 
+std::optional<GearRecord> CertainGear(const PhotoGear& found, const GearTable& table) {
+    if (found.gear > 0) {
+        return table(found.gear);
+    }
+    return found.IsWhole() ? std::optional(BuiltGear(found.names)) : std::nullopt;
+}
+
+bool SpeaksFor(const CameraInfo& origin, const GearRecord& gear) {
+    const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
+    const PhotoLenses lenses = LensesFromExif(origin, camera);
+    const CatalogueEntry lens = LensOf(gear);
+    if (!origin.IsKnown() || !camera.IsKnown()) {
+        return lens.IsKnown() && lens == lenses.lens;
+    }
+    return camera == CameraOf(gear) &&
+           (lenses.lens.IsKnown()
+                ? lens == lenses.lens
+                : std::ranges::find(lenses.fitting, lens) != lenses.fitting.end());
+}
+
 }  // namespace varnel

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "gear/catalogue/gear_catalogue.h"
 #include "remap/image/camera_info.h"
@@ -36,5 +37,12 @@ struct PhotoGear {
 // A gear of the table fits when its camera and its lens are the photo's. If the lens cannot be
 // identified, the only gear of the camera with a possible lens fits.
 PhotoGear GearOfPhoto(const CameraInfo& origin, const GearTable& table);
+
+// What took the photo, if that is certain: the gear of the table, else the catalogue's.
+std::optional<GearRecord> CertainGear(const PhotoGear& found, const GearTable& table);
+
+// Whether the file speaks for the gear: its camera, and a lens that is not ruled out; of a camera
+// that the catalogue does not have, the very lens.
+bool SpeaksFor(const CameraInfo& origin, const GearRecord& gear);
 
 }  // namespace varnel

@@ -28,10 +28,11 @@ struct Check {
     bool GeneralSettings::*flag;
 };
 
-std::array<Check, 5> ChecksOf(const Ui::FormSetup& ui) {
+std::array<Check, 6> ChecksOf(const Ui::FormSetup& ui) {
     return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
              {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},
              {ui.OfferGearCheck, &GeneralSettings::OfferGear},
+             {ui.TakeGearCheck, &GeneralSettings::TakeGear},
              {ui.WriteMetadataCheck, &GeneralSettings::WriteMetadata},
              {ui.WriteSettingsCheck, &GeneralSettings::WriteSettings}}};
 }

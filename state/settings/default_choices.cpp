@@ -31,6 +31,7 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
     saveFlag(setting::JpegChroma444, settings.JPEGchroma444);
     saveFlag(setting::AutoOrient, settings.AutoOrient);
     saveFlag(setting::OfferGear, settings.OfferGear);
+    saveFlag(setting::TakeGear, settings.TakeGear);
     saveFlag(setting::WriteMetadata, settings.WriteMetadata);
     saveFlag(setting::WriteSettings, settings.WriteSettings);
     save(setting::Language, settings.Language);

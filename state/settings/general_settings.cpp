@@ -40,6 +40,7 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
     read(settings.JPEGchroma444, setting::JpegChroma444);
     read(settings.AutoOrient, setting::AutoOrient);
     read(settings.OfferGear, setting::OfferGear);
+    read(settings.TakeGear, setting::TakeGear);
     read(settings.WriteMetadata, setting::WriteMetadata);
     read(settings.WriteSettings, setting::WriteSettings);
     settings.Language = store.Get(setting::General, setting::Language, settings.Language);

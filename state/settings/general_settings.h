@@ -25,6 +25,7 @@ struct GeneralSettings {
     bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
     bool WriteSettings = true;                 // the settings go into the result
     QString Language = QStringLiteral("en");   // of the window, as code
+    bool TakeGear = true;  // added photos get the gear that their EXIF names, or a guess
 
     bool operator==(const GeneralSettings&) const = default;
 };

@@ -164,7 +164,7 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
               Text("Gear/DefaultGearName=Gear 1\nsetting/PreviewWidth=1000\n"
                    "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
                    "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
-                   "setting/AutoOrient=1\nsetting/OfferGear=1\n"
+                   "setting/AutoOrient=1\nsetting/OfferGear=1\nsetting/TakeGear=1\n"
                    "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/Language=en"));
     EXPECT_EQ(Label("LabelSaved"), Text("Saved"));
     Choose("ComboFileType", 0);
@@ -184,6 +184,8 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
                  &GeneralSettings::AutoOrient, true},
                 {"OfferGearCheck", "Offer the gear that a photo tells", "OfferGear",
                  &GeneralSettings::OfferGear, true},
+                {"TakeGearCheck", "Give added photos their own gear", "TakeGear",
+                 &GeneralSettings::TakeGear, true},
                 {"WriteMetadataCheck", "Keep the photo's metadata", "WriteMetadata",
                  &GeneralSettings::WriteMetadata, true},
                 {"WriteSettingsCheck", "Write the settings into the picture", "WriteSettings",

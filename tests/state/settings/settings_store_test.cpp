@@ -235,6 +235,8 @@ TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
         {"AutoOrient", "", {400, 300, Text("JPG"), 100, false, true}},
         {"OfferGear", "0", {400, 300, Text("JPG"), 100, false, true, false}},
         {"OfferGear", "no", {400, 300, Text("JPG"), 100, false, true, true}},
+        {"TakeGear", "0", {.TakeGear = false}},
+        {"TakeGear", "2", {}},
         {"WriteMetadata", "0", {400, 300, Text("JPG"), 100, false, true, true, false}},
         {"WriteMetadata", "-1", {400, 300, Text("JPG"), 100, false, true, true, true}},
         {"WriteSettings", "0", {400, 300, Text("JPG"), 100, false, true, true, true, false}},

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include "remap/projection/projection_info.h"
+#include "state/editing/read_gear.h"
 
 namespace varnel {
 
@@ -25,6 +26,10 @@ ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error) 
     if (image.SettingsApplied) {
         letters += u'A';
         words.append(Texts::tr("adjusted"));
+    }
+    if (IsGuessed(image)) {
+        letters += u'?';
+        words.append(Texts::tr("the gear is a guess"));
     }
     if (queued) {
         letters += u'Q';

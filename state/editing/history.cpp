@@ -6,7 +6,6 @@
 #include <QMultiHash>
 #include <QUndoStack>
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
 #include "state/adjustments/gear_assignment.h"
@@ -26,6 +25,16 @@ void KeepSize(const ImageRecord& now, ImageRecord& restored) {
     restored.Height = now.Height;
     restored.Landscape = now.Landscape;
     restored.Orientation = now.Orientation;
+}
+
+template <class Records>
+void ReplaceIn(Records& records,
+               const std::unordered_map<const ImageRecord*, SharedRecord>& instead) {
+    for (SharedRecord& record : records) {
+        if (const auto found = instead.find(record.get()); found != instead.end()) {
+            record = found->second;
+        }
+    }
 }
 
 }  // namespace
@@ -68,6 +77,7 @@ class History::Step : public QUndoCommand {
         Restored restored =
             history_.Apply(content_->change.first, content_->change.after, content_->change.before);
         restored.besides = content_->besides;
+        restored.undone = true;
         if (restored.besides.gear) {
             std::swap(restored.besides.gear->from, restored.besides.gear->to);
         }
@@ -162,11 +172,48 @@ void History::Absorb() {
         Note(StepName(StepKind::Other));
         return;
     }
-    Replace(ListRun(known_), now);
+    Replace(Replaced(known_, now), 0);
 }
 
-void History::Replace(const ListRun& older, const ListRun& newer) {
-    std::unordered_map<const ImageRecord*, SharedRecord> instead;
+void History::NoteLate(const QString& name, const StepKey& key, const StepBesides& besides) {
+    const ListRun now = SharedWith(known_, images_);
+    const std::optional<int> since = StepsSince(key);
+    if (!since || now.size() != known_.size() || !SamePhotos(now, known_)) {
+        Note(name, key, besides);
+        return;
+    }
+    const int step = stack_->index() - 1 - *since;
+    const Replacements instead = Replaced(known_, now);
+    Content(step).change = ChangeWith(instead, step);
+    std::vector<GearRecord>& gears = Content(step).besides.newGears;
+    gears.insert(gears.end(), besides.newGears.begin(), besides.newGears.end());
+    Replace(instead, step + 1);
+}
+
+std::optional<int> History::StepsSince(const StepKey& key) const {
+    for (int step = stack_->index() - 1; step >= 0; --step) {
+        if (Content(step).key == key) {
+            return stack_->index() - 1 - step;
+        }
+    }
+    return std::nullopt;
+}
+
+// What the step changes when it makes these of the records that it left.
+RunChange History::ChangeWith(const Replacements& instead, int step) const {
+    ListRun after = known_;
+    for (int later = stack_->index() - 1; later > step; --later) {
+        const RunChange& change = Content(later).change;
+        after = Spliced(after, change.first, change.after.size(), change.before);
+    }
+    const RunChange& change = Content(step).change;
+    const ListRun before = Spliced(after, change.first, change.after.size(), change.before);
+    ReplaceIn(after, instead);
+    return ChangeBetween(before, after);
+}
+
+History::Replacements History::Replaced(const ListRun& older, const ListRun& newer) {
+    Replacements instead;
     for (std::size_t n = 0; n < older.size(); ++n) {
         if (older[n] != newer[n]) {
             instead.emplace(older[n].get(), newer[n]);
@@ -175,23 +222,22 @@ void History::Replace(const ListRun& older, const ListRun& newer) {
             }
         }
     }
+    return instead;
+}
+
+void History::Replace(const Replacements& instead, int firstStep) {
     if (instead.empty()) {
         return;
     }
-    const auto replaceIn = [&instead](auto& records) {
-        for (SharedRecord& record : records) {
-            if (const auto found = instead.find(record.get()); found != instead.end()) {
-                record = found->second;
-            }
-        }
-    };
-    replaceIn(known_);
-    replaceIn(saved_);
-    replaceIn(stored_);
-    replaceIn(written_);
-    for (int step = 0; step < stack_->count(); ++step) {
-        replaceIn(Content(step).change.before);
-        replaceIn(Content(step).change.after);
+    ReplaceIn(known_, instead);
+    if (firstStep == 0) {
+        ReplaceIn(saved_, instead);
+        ReplaceIn(written_, instead);
+    }
+    ReplaceIn(stored_, instead);
+    for (int step = firstStep; step < stack_->count(); ++step) {
+        ReplaceIn(Content(step).change.before, instead);
+        ReplaceIn(Content(step).change.after, instead);
     }
 }
 

@@ -12,6 +12,7 @@
 #include <QString>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "base/record_array.h"
@@ -28,11 +29,14 @@ namespace varnel {
 // then the lines. Empty: by itself.
 using StepKey = std::vector<int>;
 inline constexpr int circleKey = static_cast<int>(SliderId::AovInput) + 1;  // no slider's
+// The gears of photos that were added together: this and the number of the addition.
+inline constexpr int photoGearKey = circleKey + 1;
 
 // What a step did besides changing lines.
 struct StepBesides {
     bool onAllLines = false;  // also those that were so already
     std::optional<GearChange> gear;
+    std::vector<GearRecord> newGears = {};  // that came into the table
 };
 
 // What an undone step did to the list.
@@ -40,7 +44,8 @@ struct Restored {
     std::vector<int> changed;  // lines that are new or other than before
     // When photos came, went or moved: the line on which each line's photo was, -1 for none.
     std::optional<std::vector<int>> origin;
-    StepBesides besides;  // the gear's change is still to be done
+    StepBesides besides;  // the gear's change is still to be done, and that of the table
+    bool undone = false;  // the new gears go; otherwise they come again
 };
 
 class History {
@@ -58,6 +63,12 @@ class History {
     // What changed since the last call becomes a step, if anything did. Steps of one key become one
     // step until the last is sealed. A gear's change is a step by itself.
     void Note(const QString& name, const StepKey& key = {}, const StepBesides& besides = {});
+    // The same for what belongs to the step of that key, though others may have followed, which
+    // changed other photos: it is undone with it. Without such a step that can be undone it becomes
+    // one.
+    void NoteLate(const QString& name, const StepKey& key, const StepBesides& besides);
+    // How many steps can be undone before the one of that key; nothing when there is none.
+    std::optional<int> StepsSince(const StepKey& key) const;
     // The same for a list that came from another project file. It is saved there; a list without
     // a project is saved nowhere.
     void NoteProject(const QString& name, const QString& project);
@@ -94,7 +105,11 @@ class History {
     void Push(const QString& name, StepContent content);
     bool Join(StepContent& last, const StepContent& next);
     void BoundLines();
-    void Replace(const ListRun& older, const ListRun& newer);
+    using Replacements = std::unordered_map<const ImageRecord*, SharedRecord>;
+    Replacements Replaced(const ListRun& older, const ListRun& newer);
+    // In the lists and in the steps from that one on.
+    void Replace(const Replacements& instead, int firstStep);
+    RunChange ChangeWith(const Replacements& instead, int step) const;
     Restored Apply(std::size_t first, const ListRun& gone, const ListRun& come);
     void Take(const Restored& restored);
 

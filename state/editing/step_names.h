@@ -26,6 +26,7 @@ enum class StepKind {
     Level,
     Frame,
     Circle,
+    PhotoGears,  // of photos that were added
     ContactSheet,
     OpenProject,
     RestoreList,

@@ -226,6 +226,42 @@ TEST(History, AGearsChangeIsAStepThatLeavesAnotherGearAlone) {
     EXPECT_EQ(history.UndoName(), Text("add"));
 }
 
+TEST(History, WhatComesLateIsUndoneWithItsStep) {
+    const StepKey key{photoGearKey, 1};
+    Images images = Photos("abc");
+    History history(images);
+    history.Note(Text("add"));
+    const auto give = [&](int n, const char* gear) {
+        images(n).GearName = Text(gear);
+        GearRecord record;
+        record.GearName = Text(gear);
+        history.NoteLate(Text("gears"), key, {.gear = {}, .newGears = {record}});
+    };
+    give(2, "B");
+    images(1).RotateX = 10.0F;
+    history.Note(Text("turn"));
+    images.Append(Photos("d")(1));
+    history.Note(Text("add more"));
+    give(3, "C");
+    EXPECT_EQ(history.StepsSince(key), 2);
+    EXPECT_EQ(history.UndoName(), Text("add more"));
+    const std::vector<ImageRecord> all = All(images);
+    history.Undo();
+    history.Undo();
+    EXPECT_EQ(images(1).RotateX, 0.0F);
+    EXPECT_EQ(images(2).GearName + images(3).GearName, Text("BC"));
+    EXPECT_EQ(history.StepsSince(key), 0);
+    const auto undone = history.Undo();
+    EXPECT_TRUE(undone->undone);
+    EXPECT_EQ(undone->besides.newGears.size(), 2U);
+    EXPECT_EQ(All(images), All(Photos("abc")));
+    EXPECT_FALSE(history.StepsSince(key).has_value());
+    EXPECT_FALSE(history.Redo()->undone);
+    history.Redo();
+    history.Redo();
+    EXPECT_EQ(All(images), all);
+}
+
 TEST(History, AProjectIsAStepAndTakesItsNameBack) {
     Images images = Photos("ab");
     History history(images);

@@ -60,7 +60,8 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      fileChooser,
                      dialogs,
                      [] { return NewPictureReader({.secondsPerPhoto = 10}); },
-                     {UserSessionFolder()}});
+                     {UserSessionFolder()},
+                     [] { return NewPictureReader(); }});
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     window.OpenAtStart(Absolute(files));

@@ -85,6 +85,8 @@ struct WindowPorts {
         QString folder = {};
         int pause = 3000;  // ms from a change until it is kept
     } sessions = {};
+    // Makes what reads added photos for their gear; without it they get the default gear.
+    std::function<std::unique_ptr<PictureReader>()> newGearReader = nullptr;
 };
 
 }  // namespace varnel

@@ -9,6 +9,7 @@
 
 #include "remap/display/hourglass.h"
 #include "remap/image/photo_metadata.h"
+#include "state/editing/read_gear.h"
 
 namespace varnel {
 
@@ -145,7 +146,11 @@ void WindowView::ShowOffer() {
     const Bitmap* const photo = state.bitmaps.FullSourceBitmap.get();
     if (const ImageRecord* const image = model_.list.Current()) {
         const bool asks = state.settings.OfferGear && photo != nullptr;
-        offer = OfferFor(asks ? photo->metadata.photo.origin : CameraInfo(), state.Gear, *image);
+        ImageRecord asked = *image;
+        if (IsGuessed(asked)) {
+            asked.GearName.clear();  // no gear that the table has lost
+        }
+        offer = OfferFor(asks ? photo->metadata.photo.origin : CameraInfo(), state.Gear, asked);
     }
     parts_.offer->Show(offer, model_.state.Gear);
 }

@@ -20,6 +20,7 @@
 #include "app/tools/column/save_tools.h"
 #include "app/tools/empty_state.h"
 #include "app/tools/frame_tools.h"
+#include "app/tools/gear/photo_gear_tools.h"
 #include "app/tools/guide_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
@@ -28,6 +29,9 @@
 #include "app/tools/sheet_tools.h"
 #include "app/tools/undo_tools.h"
 #include "app/tools/zoom_tools.h"
+#include "gear/from_photo/photo_gear.h"
+#include "pipeline/photos/add_images.h"
+#include "state/settings/setting_names.h"
 
 namespace varnel {
 
@@ -74,6 +78,7 @@ void MDIForm1::MakeTools() {
     new GuideTools(this, ports_.notices);
     new AdjustmentTools(this, parts_, view_, workspace_, state_);
     new PhotoTools(this, parts_, workspace_, state_, ports_.dialogs);
+    new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new SaveTools(this, parts_, workspace_, *list, state_, ports_);
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
@@ -93,7 +98,26 @@ void MDIForm1::ConnectEntries() {
     connect(&model_.activity, &Activity::Idle, this, &MDIForm1::CloseWhenIdle);
 }
 
+// Without any gear the first one that the given photos name is taken, and nothing is asked.
+void MDIForm1::ProposeFirstGear() {
+    constexpr qsizetype most = 100;  // files, which are looked into for a few milliseconds each
+    if (!store_.Get(setting::Gear, setting::DefaultGearName, {}).isEmpty()) {
+        return;
+    }
+    const auto busy = model_.activity.Occupy();
+    PhotoLoader::Together together(ports_.photos);
+    const auto goesOn = [&together] { return together.Continue(); };
+    for (const QString& file : PhotosOf(filesAtStart_, goesOn).files.mid(0, most)) {
+        const CameraInfo origin = ports_.photos.Facts(file).metadata.origin;
+        if (const auto gear = CertainGear(GearOfPhoto(origin, {}), {})) {
+            state_.Gear(0) = *gear;
+            return;
+        }
+    }
+}
+
 void MDIForm1::Activate() {
+    ProposeFirstGear();
     if (LoadGear(store_, state_.Gear, ports_.gearPrompt) != GearLoad::Loaded) {
         Q_EMIT QuitWanted();
         return;

@@ -10,6 +10,12 @@ void ListSteps::Note(StepKind kind, const StepBesides& besides, const StepKey& k
     Q_EMIT Changed();
 }
 
+void ListSteps::NoteGears(int addition, const std::vector<GearRecord>& newGears) {
+    history_.NoteLate(StepName(StepKind::PhotoGears), {photoGearKey, addition},
+                      {.onAllLines = true, .gear = {}, .newGears = newGears});
+    Q_EMIT Changed();
+}
+
 // What only rounds the numbers to what the controls show is no step.
 void ListSteps::NoteStored(const std::vector<int>& lines,
                            const std::vector<ControlValues>& before) {
@@ -57,6 +63,9 @@ void ListSteps::NotifyRestored(const Restored& restored) {
     Q_EMIT Changed();
     if (restored.besides.gear) {
         Q_EMIT GearRestored(*restored.besides.gear);
+    }
+    if (!restored.besides.newGears.empty()) {
+        Q_EMIT NewGearsRestored(restored.besides.newGears, restored.undone);
     }
 }
 

@@ -23,6 +23,12 @@ class ListSteps : public QObject {
     // Makes what was changed in the records a step that can be undone; no step where nothing
     // changed. Steps of one key become one step.
     void Note(StepKind kind, const StepBesides& besides = {}, const StepKey& key = {});
+    // The same for gears that photos got some time after they were added, by that number.
+    void NoteGears(int addition, const std::vector<GearRecord>& newGears);
+    // How many steps followed that one; nothing when it cannot be undone.
+    std::optional<int> StepsSinceGears(int addition) const {
+        return history_.StepsSince({photoGearKey, addition});
+    }
     // The same for controls that were stored into the lines, which showed these values before.
     void NoteStored(const std::vector<int>& lines, const std::vector<ControlValues>& before);
     // For the list of a project file; without one it was kept against a crash.
@@ -51,6 +57,8 @@ class ListSteps : public QObject {
     void Changed();
     // The gear change that the step undone or done again asks for.
     void GearRestored(const varnel::GearChange& change);
+    // The new gears of that step; they go when it was undone.
+    void NewGearsRestored(const std::vector<varnel::GearRecord>& gears, bool undone);
 
   private:
     const ImageSelection& list_;

@@ -62,6 +62,20 @@ void PhotoAdder::ImagesAdded(int before) {
     photo_.NoteUnreadable(bad);
     photo_.ShowList(0);
     Report(bad);
+    TellAdded(before, bad, {});
+}
+
+void PhotoAdder::TellAdded(int before, const std::vector<BadFile>& bad,
+                           const QMap<int, QString>& like) {
+    QStringList paths;
+    for (int n = before + 1; n <= model_.list.Images().UpperBound(); ++n) {
+        const QString path = SourcePath(model_.list.Images()(n));
+        if (!like.contains(n - before) &&
+            std::ranges::find(bad, path, &BadFile::path) == bad.end()) {
+            paths.append(path);
+        }
+    }
+    Q_EMIT model_.PhotosAdded(paths);
 }
 
 void PhotoAdder::AddFiles(const QStringList& paths) {
@@ -105,6 +119,7 @@ void PhotoAdder::AddFiles(const QStringList& paths) {
     }
     ReportLines(ports_.notices, Texts::tr("Some settings of a picture could not be used"),
                 added.notes);
+    TellAdded(before, added.bad, added.like);
 }
 
 }  // namespace varnel

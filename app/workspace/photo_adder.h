@@ -23,6 +23,8 @@ class PhotoAdder {
 
   private:
     void Report(const std::vector<BadFile>& bad);
+    // Of the records after the first ones those that can be read and have no settings.
+    void TellAdded(int before, const std::vector<BadFile>& bad, const QMap<int, QString>& like);
 
     WorkspaceModel& model_;
     WorkspacePorts ports_;

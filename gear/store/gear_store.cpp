@@ -133,7 +133,9 @@ QString NoGearText() {
 }
 
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
+    const GearRecord proposed = table(0);
     table = GearTable();
+    table(0) = proposed;
     table.DefaultGearName = store.Get(setting::Gear, setting::DefaultGearName, QString());
     if (table.DefaultGearName.isEmpty()) {
         const GearNames oldNames = ReadOldNames(store);

@@ -28,8 +28,9 @@ class GearPrompt {
 enum class GearLoad { Loaded, QuitWanted };
 
 // Fills the table from the store. Settings of an older release, which knew one gear only, are taken
-// over and saved in the present form; without any gear the user is asked for one until there is
-// one. After QuitWanted the table holds no gear and nothing was saved.
+// over and saved in the present form; without any gear element 0 of the table becomes the first one
+// if it has a name, else the user is asked for one until there is one. After QuitWanted the table
+// holds no gear and nothing was saved.
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt);
 
 // Writes the table; a single gear becomes the default one. Keys of deleted gears stay in the store,

@@ -146,15 +146,30 @@ class SlowReader : public PictureReader {
     bool asked_ = false;
 };
 
+// How the window starts, where a test wants it otherwise.
+struct TestStart {
+    NewSmallReader newGearReader = nullptr;  // added photos keep the default gear without it
+    QStringList files = {};
+};
+
 class TestWindow {
   public:
     // The list's small pictures come when there is a reader for them; it is kept against a crash
     // when there is a folder.
     explicit TestWindow(const NewSmallReader& newSmallReader = nullptr,
-                        const QString& sessionFolder = {}, Restore restore = Restore::Later)
+                        const QString& sessionFolder = {}, Restore restore = Restore::Later,
+                        const TestStart& start = {})
         : window(state, store,
-                 {photos, notices, prompt, chooser, dialogs, newSmallReader, {sessionFolder, 20}}) {
+                 {photos,
+                  notices,
+                  prompt,
+                  chooser,
+                  dialogs,
+                  newSmallReader,
+                  {sessionFolder, 20},
+                  start.newGearReader}) {
         dialogs.restore = restore;
+        window.OpenAtStart(start.files);
         window.resize(1200, 900);
         window.show();
         QApplication::processEvents();

@@ -10,9 +10,8 @@
 
 namespace varnel::testing {
 
-// A JPEG position picture by a Nikon with a lens of that name; returns its path.
-inline QString TakenByNikon(const PictureFolder& folder, const QString& name, const char* model,
-                            const char* lens) {
+// Writes into the JPEG that a Nikon with a lens of that name took it; returns its path.
+inline QString SignedByNikon(const QString& photo, const char* model, const char* lens) {
     using enum TiffType;
     const auto text = [](const char* of) { return QByteArray(of) + '\0'; };
     TiffBytes tiff(Order::Little);
@@ -20,10 +19,15 @@ inline QString TakenByNikon(const PictureFolder& folder, const QString& name, co
     const std::uint32_t first = tiff.Directory({{271, Text, {}, text("NIKON CORPORATION")},
                                                 {272, Text, {}, text(model)},
                                                 {0x8769, Long, {exif}}});
-    const QString photo = folder.Picture(name, OutputType::Jpeg);
     const QByteArray block = QByteArray("Exif\0\0", 6) + tiff.Finish(first);
     WriteFile(photo, Contents(photo).insert(2, JpegSegment(0xE1, block)));
     return photo;
+}
+
+// A JPEG position picture by a Nikon with a lens of that name; returns its path.
+inline QString TakenByNikon(const PictureFolder& folder, const QString& name, const char* model,
+                            const char* lens) {
+    return SignedByNikon(folder.Picture(name, OutputType::Jpeg), model, lens);
 }
 
 }  // namespace varnel::testing

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The lines above the pictures: what added photos got, and what is not certain about the current
+// photo's gear, with what can be done about it. A line that says nothing is not there. Throws
+// nothing.
+#pragma once
+
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QStringList>
+#include <QWidget>
+
+namespace varnel {
+
+// One line: a text that wraps, and the buttons behind it.
+class GearLine : public QWidget {
+    Q_OBJECT
+  public:
+    GearLine(const char* name, const char* label, QWidget* parent);
+    QPushButton* AddButton(const char* name, const QString& text, const QString& tip);
+    // An empty text hides the line.
+    void Show(const QString& text);
+
+  private:
+    QLabel* text_;
+};
+
+class GivenBar : public GearLine {
+    Q_OBJECT
+  public:
+    explicit GivenBar(QWidget* parent);
+    // So many photos got their own gear; 0 hides the line.
+    void ShowGiven(int photos);
+
+  Q_SIGNALS:
+    void UndoWanted();
+    void Closed();
+};
+
+// What the line about the current photo's gear shows; texts are of the buttons, empty for none.
+struct GearDoubt {
+    QString text;
+    QStringList gears;  // to choose from
+    bool mayDefine = false;
+    QString otherFrame;
+    QString same;
+
+    bool operator==(const GearDoubt&) const = default;
+};
+
+class GearBar : public GearLine {
+    Q_OBJECT
+  public:
+    explicit GearBar(QWidget* parent);
+    void ShowDoubt(const GearDoubt& doubt);
+
+  Q_SIGNALS:
+    void GearChosen(int number);  // of the gears to choose from, from 0
+    void DefineWanted();
+    void OtherFrameWanted();
+    void SameWanted();
+
+  private:
+    void FillMenu(const GearDoubt& doubt);
+
+    GearDoubt shown_;
+    QPushButton* choose_;
+    QPushButton* other_;
+    QPushButton* same_;
+    QMenu* menu_;
+};
+
+}  // namespace varnel

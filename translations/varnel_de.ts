@@ -926,6 +926,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Leave everything as it was</source>
         <translation>Alles lassen, wie es war</translation>
     </message>
+    <message>
+        <source>Give added photos their own gear</source>
+        <translation>Hinzugefügten Fotos ihre eigene Ausrüstung geben</translation>
+    </message>
+    <message>
+        <source>Photos that are added get the gear that they tell, or a typical fisheye as a guess; otherwise the default gear, and their own is only offered</source>
+        <translation>Hinzugefügte Fotos bekommen die Ausrüstung, die sie verraten, oder ein typisches Fischauge als Annahme; sonst die übliche Ausrüstung, und ihre eigene wird nur angeboten</translation>
+    </message>
 </context>
 <context>
     <name>FormStretch</name>
@@ -1093,6 +1101,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>in the batch queue</source>
         <translation>im Stapel</translation>
     </message>
+    <message>
+        <source>the gear is a guess</source>
+        <translation>die Ausrüstung ist angenommen</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -1172,6 +1184,49 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>no gear has this camera and this lens</source>
         <translation>keine Ausrüstung hat diese Kamera und dieses Objektiv</translation>
+    </message>
+</context>
+<context>
+    <name>PhotoGearTools</name>
+    <message>
+        <source>%1 x %2 mm</source>
+        <translation>%1 x %2 mm</translation>
+    </message>
+    <message>
+        <source>The gear of this photo is a guess.</source>
+        <translation>Die Ausrüstung dieses Fotos ist angenommen.</translation>
+    </message>
+    <message>
+        <source>The gear of this photo is a guess: %1.</source>
+        <translation>Die Ausrüstung dieses Fotos ist angenommen: %1.</translation>
+    </message>
+    <message>
+        <source>A typical fisheye is assumed, 180 degrees across the diagonal.</source>
+        <translation>Es gilt ein typisches Fischauge, 180 Grad über die Diagonale.</translation>
+    </message>
+    <message>
+        <source>A typical fisheye is assumed, 180 degrees across the image circle, which is not found exactly.</source>
+        <translation>Es gilt ein typisches Fischauge, 180 Grad über den Bildkreis, der nicht genau gefunden ist.</translation>
+    </message>
+    <message>
+        <source>A typical fisheye is assumed, 180 degrees across the image circle.</source>
+        <translation>Es gilt ein typisches Fischauge, 180 Grad über den Bildkreis.</translation>
+    </message>
+    <message>
+        <source>The image circle is not where the gear says; the photo&apos;s own is used.</source>
+        <translation>Der Bildkreis liegt nicht da, wo die Ausrüstung ihn angibt; es gilt der des Fotos.</translation>
+    </message>
+    <message>
+        <source>Cropped, and no image circle was found: the largest piece of the sensor of this shape is assumed, %1.</source>
+        <translation>Beschnitten, und es wurde kein Bildkreis gefunden: Angenommen ist das größte Stück des Sensors mit diesem Seitenverhältnis, %1.</translation>
+    </message>
+    <message>
+        <source>Cropped: it shows about %1 of the sensor by its image circle, which is not found exactly.</source>
+        <translation>Beschnitten: Nach dem Bildkreis, der nicht genau gefunden ist, zeigt es etwa %1 des Sensors.</translation>
+    </message>
+    <message>
+        <source>Cropped: it shows %1 of the sensor by its image circle.</source>
+        <translation>Beschnitten: Nach dem Bildkreis zeigt es %1 des Sensors.</translation>
     </message>
 </context>
 <context>
@@ -2116,6 +2171,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>open the list again</source>
         <translation>Liste wieder öffnen</translation>
     </message>
+    <message>
+        <source>gears of the photos</source>
+        <translation>Ausrüstungen der Fotos</translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2756,6 +2815,29 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::GearBar</name>
+    <message>
+        <source>Choose the gear</source>
+        <translation>Ausrüstung wählen</translation>
+    </message>
+    <message>
+        <source>Gives this photo another gear</source>
+        <translation>Gibt diesem Foto eine andere Ausrüstung</translation>
+    </message>
+    <message>
+        <source>Sees this photo in the other way</source>
+        <translation>Nimmt dieses Foto auf die andere Art</translation>
+    </message>
+    <message>
+        <source>Gives the gear of this photo to all others of the same camera, lens and size</source>
+        <translation>Gibt die Ausrüstung dieses Fotos allen anderen mit derselben Kamera, demselben Objektiv und derselben Größe</translation>
+    </message>
+    <message>
+        <source>Define this gear...</source>
+        <translation>Diese Ausrüstung festlegen...</translation>
+    </message>
+</context>
+<context>
     <name>varnel::GearOfferRow</name>
     <message>
         <source>Use %1</source>
@@ -2780,6 +2862,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Puts the gear that this photo was adjusted with into the list; the photo stays as it is</source>
         <translation>Nimmt die Ausrüstung, mit der dieses Foto angepasst wurde, in die Liste auf; das Foto bleibt, wie es ist</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::GivenBar</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes these gears back</source>
+        <translation>Nimmt diese Ausrüstungen zurück</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Blendet diese Zeile aus</translation>
+    </message>
+    <message>
+        <source>1 photo got its own gear.</source>
+        <translation>1 Foto hat seine eigene Ausrüstung bekommen.</translation>
+    </message>
+    <message>
+        <source>%1 photos got their own gear.</source>
+        <translation>%1 Fotos haben ihre eigene Ausrüstung bekommen.</translation>
     </message>
 </context>
 <context>
@@ -2833,6 +2942,45 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
         <translation>Nur Rectilinear lässt sich ausrichten; die anderen drehen die Kamera nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::PhotoGearTools</name>
+    <message>
+        <source>This photo was taken with %1, which is no fisheye: it keeps the gear %2.</source>
+        <translation>Dieses Foto wurde mit %1 aufgenommen, das kein Fischauge ist: Es behält die Ausrüstung %2.</translation>
+    </message>
+    <message>
+        <source>Same for all photos like this (%1)</source>
+        <translation>Ebenso für alle solchen Fotos (%1)</translation>
+    </message>
+    <message>
+        <source>There are photos of the same camera and lens with another gear.</source>
+        <translation>Es gibt Fotos mit derselben Kamera und demselben Objektiv, die eine andere Ausrüstung haben.</translation>
+    </message>
+    <message>
+        <source>Take the whole sensor</source>
+        <translation>Ganzen Sensor nehmen</translation>
+    </message>
+    <message>
+        <source>Take the gear&apos;s circle</source>
+        <translation>Kreis der Ausrüstung nehmen</translation>
+    </message>
+    <message>
+        <source>The photo is taken for the whole sensor, though it has another shape.</source>
+        <translation>Das Foto gilt als der ganze Sensor, obwohl es ein anderes Seitenverhältnis hat.</translation>
+    </message>
+    <message>
+        <source>The gear&apos;s image circle is used, though the photo&apos;s is elsewhere.</source>
+        <translation>Es gilt der Bildkreis der Ausrüstung, obwohl der des Fotos woanders liegt.</translation>
+    </message>
+    <message>
+        <source>Take a piece of the sensor</source>
+        <translation>Stück des Sensors nehmen</translation>
+    </message>
+    <message>
+        <source>Take the photo&apos;s circle</source>
+        <translation>Kreis des Fotos nehmen</translation>
     </message>
 </context>
 <context>

@@ -177,13 +177,14 @@ void History::Absorb() {
 
 void History::NoteLate(const QString& name, const StepKey& key, const StepBesides& besides) {
     const ListRun now = SharedWith(known_, images_);
+    const bool isSame = now.size() == known_.size() && SamePhotos(now, known_);
+    const Replacements instead = isSame ? Replaced(known_, now) : Replacements();
     const std::optional<int> since = StepsSince(key);
-    if (!since || now.size() != known_.size() || !SamePhotos(now, known_)) {
+    if (!since || !isSame) {
         Note(name, key, besides);
         return;
     }
     const int step = stack_->index() - 1 - *since;
-    const Replacements instead = Replaced(known_, now);
     Content(step).change = ChangeWith(instead, step);
     std::vector<GearRecord>& gears = Content(step).besides.newGears;
     gears.insert(gears.end(), besides.newGears.begin(), besides.newGears.end());

@@ -65,7 +65,7 @@ class History {
     void Note(const QString& name, const StepKey& key = {}, const StepBesides& besides = {});
     // The same for what belongs to the step of that key, though others may have followed, which
     // changed other photos: it is undone with it. Without such a step that can be undone it becomes
-    // one.
+    // one. Records that count as adjusted by it were not adjusted by hand.
     void NoteLate(const QString& name, const StepKey& key, const StepBesides& besides);
     // How many steps can be undone before the one of that key; nothing when there is none.
     std::optional<int> StepsSince(const StepKey& key) const;

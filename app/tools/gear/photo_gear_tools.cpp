@@ -31,7 +31,7 @@ QString GuessText(const PhotoGear& found, const std::optional<FoundCircle>& circ
                               : Texts::tr("The gear of this photo is a guess: %1.").arg(found.said);
     const QString assumed =
         !circle ? Texts::tr("A typical fisheye is assumed, 180 degrees across the diagonal.")
-        : circle->rough
+        : circle->rough || circle->error > 0.01 * circle->radius
             ? Texts::tr(
                   "A typical fisheye is assumed, 180 degrees across the image circle, which "
                   "is not found exactly.")
@@ -82,7 +82,11 @@ PhotoGearTools::PhotoGearTools(QMainWindow* window, const WindowParts& parts, Wi
     connect(&gears_, &PhotoGears::Changed, this, soon);
     connect(&workspace_.model.list, &ImageSelection::Refilled, this, soon);
     connect(&workspace_.model, &WorkspaceModel::PhotosAdded, this, [this] { closed_ = false; });
-    connect(given_, &GivenBar::UndoWanted, this, [this] { workspace_.list.Undo(); });
+    connect(given_, &GivenBar::UndoWanted, this, [this] {
+        if (!view_.Locked()) {
+            workspace_.list.Undo();
+        }
+    });
     connect(given_, &GivenBar::Closed, this, [this] {
         closed_ = true;
         Refresh();

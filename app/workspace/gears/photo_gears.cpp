@@ -22,7 +22,8 @@ bool AreAlike(const SurveyedPhoto& one, const SurveyedPhoto& other) {
         return std::minmax({photo.size.pixels.width, photo.size.pixels.height});
     };
     return one.origin.Make == other.origin.Make && one.origin.Model == other.origin.Model &&
-           one.origin.LensModel == other.origin.LensModel && sides(one) == sides(other);
+           one.origin.LensModel == other.origin.LensModel &&
+           one.origin.FocalLength == other.origin.FocalLength && sides(one) == sides(other);
 }
 
 // The gear that gave a record its numbers when the table does not have it: a guess.

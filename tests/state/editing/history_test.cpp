@@ -233,6 +233,7 @@ TEST(History, WhatComesLateIsUndoneWithItsStep) {
     history.Note(Text("add"));
     const auto give = [&](int n, const char* gear) {
         images(n).GearName = Text(gear);
+        images(n).SettingsApplied = true;
         GearRecord record;
         record.GearName = Text(gear);
         history.NoteLate(Text("gears"), key, {.gear = {}, .newGears = {record}});
@@ -244,6 +245,7 @@ TEST(History, WhatComesLateIsUndoneWithItsStep) {
     history.Note(Text("add more"));
     give(3, "C");
     EXPECT_EQ(history.StepsSince(key), 2);
+    EXPECT_EQ(history.UnsavedPhotos(), 0);
     EXPECT_EQ(history.UndoName(), Text("add more"));
     const std::vector<ImageRecord> all = All(images);
     history.Undo();

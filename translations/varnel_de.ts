@@ -2836,6 +2836,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Define this gear...</source>
         <translation>Diese Ausrüstung festlegen...</translation>
     </message>
+    <message>
+        <source>Same for all photos like this</source>
+        <translation>Ebenso für alle solchen Fotos</translation>
+    </message>
 </context>
 <context>
     <name>varnel::GearOfferRow</name>
@@ -2951,14 +2955,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Dieses Foto wurde mit %1 aufgenommen, das kein Fischauge ist: Es behält die Ausrüstung %2.</translation>
     </message>
     <message>
-        <source>Same for all photos like this (%1)</source>
-        <translation>Ebenso für alle solchen Fotos (%1)</translation>
-    </message>
-    <message>
-        <source>There are photos of the same camera and lens with another gear.</source>
-        <translation>Es gibt Fotos mit derselben Kamera und demselben Objektiv, die eine andere Ausrüstung haben.</translation>
-    </message>
-    <message>
         <source>Take the whole sensor</source>
         <translation>Ganzen Sensor nehmen</translation>
     </message>
@@ -2981,6 +2977,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Take the photo&apos;s circle</source>
         <translation>Kreis des Fotos nehmen</translation>
+    </message>
+    <message>
+        <source>Photos of the same camera, lens and size with another gear: %1</source>
+        <translation>Fotos mit derselben Kamera, demselben Objektiv und derselben Größe, aber anderer Ausrüstung: %1</translation>
     </message>
 </context>
 <context>

@@ -61,7 +61,7 @@ GearBar::GearBar(QWidget* parent)
       choose_(
           AddButton("CmdDoubtGear", tr("Choose the gear"), tr("Gives this photo another gear"))),
       other_(AddButton("CmdDoubtFrame", {}, tr("Sees this photo in the other way"))),
-      same_(AddButton("CmdDoubtSame", {},
+      same_(AddButton("CmdDoubtSame", tr("Same for all photos like this"),
                       tr("Gives the gear of this photo to all others of the same camera, lens and "
                          "size"))),
       menu_(new QMenu(choose_)) {
@@ -78,10 +78,9 @@ void GearBar::ShowDoubt(const GearDoubt& doubt) {
     shown_ = doubt;
     FillMenu(doubt);
     choose_->setVisible(!menu_->isEmpty());
-    for (const auto& [button, text] : {std::pair(other_, doubt.otherFrame), {same_, doubt.same}}) {
-        button->setText(text);
-        button->setVisible(!text.isEmpty());
-    }
+    other_->setText(doubt.otherFrame);
+    other_->setVisible(!doubt.otherFrame.isEmpty());
+    same_->setVisible(doubt.maySame);
     Show(doubt.text);
 }
 

@@ -39,13 +39,13 @@ class GivenBar : public GearLine {
     void Closed();
 };
 
-// What the line about the current photo's gear shows; texts are of the buttons, empty for none.
+// What the line about the current photo's gear shows.
 struct GearDoubt {
     QString text;
     QStringList gears;  // to choose from
     bool mayDefine = false;
-    QString otherFrame;
-    QString same;
+    QString otherFrame;    // text of the button; empty for none
+    bool maySame = false;  // for all photos like this one
 
     bool operator==(const GearDoubt&) const = default;
 };

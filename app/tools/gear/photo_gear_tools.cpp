@@ -120,9 +120,10 @@ GearDoubt PhotoGearTools::DoubtOfCurrent() {
         AddFrame(gears_.CurrentFrame(), doubt);
     }
     if (const std::size_t alike = gears_.Alike().size(); alike > 0) {
-        doubt.same = tr("Same for all photos like this (%1)").arg(alike + 1);
+        doubt.maySame = true;
         if (doubt.text.isEmpty()) {
-            doubt.text = tr("There are photos of the same camera and lens with another gear.");
+            doubt.text =
+                tr("Photos of the same camera, lens and size with another gear: %1").arg(alike);
         }
     }
     return doubt;

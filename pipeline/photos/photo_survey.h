@@ -32,7 +32,7 @@ std::optional<SurveyedPhoto> Survey(PictureReader& reader, const QString& path, 
 // Surveys one photo at a time on one of the pool's threads.
 class PhotoSurvey {
   public:
-    // The reader is made on that thread when the first photo is read, and kept.
+    // The reader is made on that thread when it is needed, and kept.
     PhotoSurvey(std::function<std::unique_ptr<PictureReader>()> newReader, ThreadRunner& pool)
         : newReader_(std::move(newReader)), pool_(pool) {}
     ~PhotoSurvey() { Cancel(); }
@@ -45,6 +45,8 @@ class PhotoSurvey {
     // Whether the answer can be taken; does not wait.
     bool IsDone() const;
     std::optional<SurveyedPhoto> Take();
+    // Ends the reader while nothing is under way; the next photo gets another one.
+    void Rest() { reader_.reset(); }
     // Gives up what is under way and waits until it has ended.
     void Cancel();
 

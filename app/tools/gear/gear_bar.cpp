@@ -85,6 +85,7 @@ void GearBar::ShowDoubt(const GearDoubt& doubt) {
 }
 
 void GearBar::FillMenu(const GearDoubt& doubt) {
+    menu_->close();  // what it offers is no longer so
     menu_->clear();
     for (int n = 0; n < doubt.gears.size(); ++n) {
         QAction* const entry = menu_->addAction(Plain(doubt.gears[n]));

@@ -125,6 +125,7 @@ void PhotoGears::GoOn() {
     }
     if (!survey_.IsUnderWay() && wanted_.empty() && read_.empty()) {
         timer_.stop();
+        survey_.Rest();
     }
 }
 

@@ -5,7 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <QPushButton>
+#include <QThread>
+#include <atomic>
 #include <cmath>
 
 #include "remap/encode/save_bitmap.h"
@@ -38,6 +41,30 @@ QString Circular(const testing::PictureFolder& files, const char* name) {
     return path;
 }
 
+// Lets photos whose name begins with "late" wait.
+class LateReader : public PictureReader {
+  public:
+    explicit LateReader(const std::atomic<bool>& mayRead) : mayRead_(mayRead) {}
+    void Begin(const ReadRequest& request) override {
+        late_ = QFileInfo(request.path).fileName().startsWith(Text("late"));
+        reader_->Begin(request);
+    }
+    bool Wait(int milliseconds) override {
+        if (late_ && !mayRead_) {
+            QThread::msleep(1);
+            return false;
+        }
+        return reader_->Wait(milliseconds);
+    }
+    LoadedPicture Take() override { return reader_->Take(); }
+    void Cancel() override { reader_->Cancel(); }
+
+  private:
+    const std::atomic<bool>& mayRead_;
+    std::unique_ptr<PictureReader> reader_ = NewPictureReader();
+    bool late_ = false;
+};
+
 class PhotoGearTest : public ::testing::Test {
   protected:
     void Add(const QStringList& files) {
@@ -59,7 +86,11 @@ class PhotoGearTest : public ::testing::Test {
     }
     QString Gear(int n) { return window_.Record(n).GearName; }
 
-    TestWindow window_{nullptr, {}, Restore::Later, {[] { return NewPictureReader(); }, {}}};
+    std::atomic<bool> mayReadLate_ = true;
+    TestWindow window_{nullptr,
+                       {},
+                       Restore::Later,
+                       {[this] { return std::make_unique<LateReader>(mayReadLate_); }, {}}};
     int added_ = 0;
     const QString sigma_ = Text("Nikon D7100 + Sigma EX 4.5 mm f:2.8");
 };
@@ -139,6 +170,38 @@ TEST_F(PhotoGearTest, AGuessOffersGearsForThePhotoAndForThoseLikeIt) {
     EXPECT_TRUE(IsGuessed(window_.Record(1)));
 }
 
+// Several lenses of the catalogue have the name that the file gives.
+TEST_F(PhotoGearTest, AGuessOffersWhatTheCatalogueHasForThePhoto) {
+    Add({Named("a.jpg", "8.0 mm f/3.5")});
+    ASSERT_TRUE(WaitForLast());
+    ASSERT_TRUE(Shows("BarGearDoubt"));
+    QAction* const offered = window_.Entry("CmdDoubtGear2");
+    ASSERT_NE(offered, nullptr);
+    const QString name = offered->text();
+    EXPECT_TRUE(name.startsWith(Text("Nikon D7100 + ")));
+    offered->trigger();
+    EXPECT_EQ(Gear(1), name);
+    EXPECT_EQ(window_.state.Gear.UpperBound(), 2);
+    window_.Entry("CmdEditUndo")->trigger();
+    EXPECT_TRUE(IsGuessed(window_.Record(1)));
+    EXPECT_EQ(window_.state.Gear.UpperBound(), 1);
+    window_.Entry("CmdEditRedo")->trigger();
+    EXPECT_EQ(window_.state.Gear.Find(name), 2);
+
+    window_.Entry("CmdEditUndo")->trigger();
+    ASSERT_TRUE(Shows("BarGearDoubt"));
+    window_.dialogs.onDefine = [this](const GearRecord& known) {
+        EXPECT_EQ(known.CameraModel, Text("D7100"));
+        GearRecord gear = window_.state.Gear(1);
+        gear.GearName = Text("Own");
+        window_.state.Gear.Resize(2);
+        window_.state.Gear(2) = gear;
+        return true;
+    };
+    window_.Entry("CmdDoubtDefine")->trigger();
+    EXPECT_EQ(Gear(1), Text("Own"));
+}
+
 TEST_F(PhotoGearTest, ACropIsSeenInTheOtherWayAndBack) {
     Add({SignedByNikon(Circular(window_.files, "crop.jpg"), "NIKON D7100", "4.5mm f/2.8")});
     ASSERT_TRUE(WaitForLast());
@@ -154,8 +217,36 @@ TEST_F(PhotoGearTest, ACropIsSeenInTheOtherWayAndBack) {
     EXPECT_NE(window_.Record(1), piece);
 }
 
+TEST_F(PhotoGearTest, WhatIsReadLateBelongsToItsStepOrGoesWithIt) {
+    const QString byDefault = window_.state.Gear.DefaultGearName;
+    mayReadLate_ = false;
+    Add({Named("a.jpg"), Named("late.jpg"), Named("late zoom.jpg", "24.0-105.0 mm f/4.0")});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Gear(1) == sigma_; }, 20'000));
+    window_.ClickLine(2);
+    window_.Slider("SliderAOVinput")->setValue(150);
+    const QString slider = window_.Entry("CmdEditUndo")->text();
+    EXPECT_FALSE(Shows("BarGearsGiven")) << "another step followed";
+    mayReadLate_ = true;
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Gear(2) == sigma_; }, 20'000));
+    EXPECT_EQ(window_.Entry("CmdEditUndo")->text(), slider);
+    window_.Entry("CmdEditUndo")->trigger();
+    EXPECT_EQ(Gear(2), sigma_);
+    ASSERT_TRUE(Shows("BarGearsGiven"));
+    window_.Click("CmdGearsGivenUndo");
+    EXPECT_EQ(Gear(1) + Gear(2), byDefault + byDefault);
+
+    mayReadLate_ = false;
+    Add({Named("c.jpg"), Named("late.jpg")});
+    ASSERT_TRUE(QTest::qWaitFor([this] { return Gear(4) == sigma_; }, 20'000));
+    window_.Entry("CmdEditUndo")->trigger();
+    mayReadLate_ = true;
+    QTest::qWait(300);
+    EXPECT_FALSE(Gear(5) == sigma_) << "the rest of what was undone";
+}
+
 TEST_F(PhotoGearTest, TheWindowMayBeClosedWhilePhotosAreRead) {
-    Add({Named("a.jpg"), Named("b.jpg")});
+    mayReadLate_ = false;
+    Add({Named("late.jpg"), Named("b.jpg")});
     QTest::qWait(30);
 }
 

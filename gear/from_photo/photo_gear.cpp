@@ -136,6 +136,9 @@ bool SpeaksFor(const CameraInfo& origin, const GearRecord& gear) {
     if (!origin.IsKnown() || !camera.IsKnown()) {
         return lens.IsKnown() && lens == lenses.lens;
     }
+    if (gear.Lens) {  // the user's own, whose name no file has
+        return camera == CameraOf(gear) && !lenses.lens.IsKnown();
+    }
     return camera == CameraOf(gear) &&
            (lenses.lens.IsKnown()
                 ? lens == lenses.lens

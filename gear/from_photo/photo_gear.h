@@ -41,8 +41,8 @@ PhotoGear GearOfPhoto(const CameraInfo& origin, const GearTable& table);
 // What took the photo, if that is certain: the gear of the table, else the catalogue's.
 std::optional<GearRecord> CertainGear(const PhotoGear& found, const GearTable& table);
 
-// Whether the file speaks for the gear: its camera, and a lens that is not ruled out; of a camera
-// that the catalogue does not have, the very lens.
+// Whether the file speaks for the gear: its camera, and a lens that is not ruled out, such as a
+// lens of one's own; of a camera that the catalogue does not have, the very lens.
 bool SpeaksFor(const CameraInfo& origin, const GearRecord& gear);
 
 }  // namespace varnel

@@ -72,6 +72,16 @@ TEST(ReadGear, IsTheFilesOrAGuessOrWhatThePhotoHas) {
     }
 }
 
+TEST(ReadGear, NoGuessTakesThePlaceOfALensOfOnesOwn) {
+    GearTable table = TableOf(nikon);
+    table(1).Lens = std::make_shared<const SampledLens>();
+    std::vector<GearRecord> newGears;
+    ImageRecord image = Added(600, 400);
+    EXPECT_EQ(GiveReadGear({Nikon("6.1 mm f/3.5 Fisheye")}, table, newGears, image),
+              ReadGear::Same);
+    EXPECT_EQ(GiveReadGear({}, table, newGears, image), ReadGear::Guess);
+}
+
 TEST(ReadGear, OnlyWhatNobodyChangedIsUntouched) {
     const GearTable table = TableOf(canon);
     ImageRecord image = Added(600, 400);

@@ -127,7 +127,7 @@ TEST(SampledLens, PutsEachColourAtItsRadius) {
 }
 
 TEST(RectilinearMap, AZeroInItsNumbersIsToldByName) {
-    const auto failure = [](RectilinearView view) -> std::string {
+    const auto failure = [](const RectilinearView& view) -> std::string {
         try {
             const RotatedRectilinearMap map(view, {});
         } catch (const DivisionByZeroError& error) {

@@ -123,6 +123,7 @@ void MDIForm1::Activate() {
         return;
     }
     model_.gears.Refill();
+    view_.ShowStatus(LackingLensText(state_.Gear));
     if (filesAtStart_.isEmpty()) {  // other work comes first
         sessions_->OfferLost();
     }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "base/rounding.h"
 #include "gear/catalogue/camera_catalogue.h"
@@ -22,7 +23,7 @@ void WriteNames(const GearNames& names, GearRecord& gear) {
     gear.LensModel = names.lensModel;
 }
 
-void FillCamera(GearRecord& gear) {
+void FillCatalogueCamera(GearRecord& gear) {
     const std::optional<CameraRow> camera = FindCamera(gear.CameraBrand, gear.CameraModel);
     if (!camera) {
         return;
@@ -40,7 +41,7 @@ void FillCamera(GearRecord& gear) {
     }
 }
 
-void FillLens(GearRecord& gear) {
+void FillCatalogueLens(GearRecord& gear) {
     const std::optional<LensRow> lens = FindLens(gear.LensBrand, gear.LensModel);
     if (!lens) {
         return;
@@ -51,6 +52,69 @@ void FillLens(GearRecord& gear) {
     gear.LensFieldAngle = lens->fieldAngle;
     gear.LensMapScale = lens->mapScale;
     gear.LensMapFactor = lens->mapFactor;
+}
+
+// Equisolid, r = 2 f sin(theta / 2), with its circle at 90 degrees.
+void FillTypicalLens(bool fillsPicture, GearRecord& gear) {
+    const float radius = fillsPicture ? std::hypot(gear.SensorWidth, gear.SensorHeight) / 2.0F
+                                      : gear.SensorHeight / 2.0F;
+    gear.ImageCircleRadius = radius;
+    gear.LensShift = 0.0F;
+    gear.LensFieldAngle = 180.0F;
+    gear.LensMapScale = radius * std::numbers::sqrt2_v<float>;
+    gear.LensMapFactor = 0.5F;
+}
+
+// All but the angles that follow from the curve.
+void FillCurve(GearRecord& gear) {
+    const SampledLens& lens = *gear.Lens;
+    gear.LensMapScale = 0.0F;
+    gear.LensMapFactor = 0.0F;
+    gear.LensShift = 0.0F;
+    gear.LensFieldAngle = static_cast<float>(360.0 * lens.FieldLimit() / static_cast<double>(Pi));
+    if (lens.unit == SampledLens::Unit::Millimetres) {
+        const double rim = std::min(lens.FieldLimit(), static_cast<double>(Pi) / 2.0);
+        gear.ImageCircleRadius = static_cast<float>(LensSpline(lens).RadiusAt(rim));
+    } else if (lens.centre && lens.pixelsPerUnit) {
+        gear.ImageCircleRadius =
+            static_cast<float>(*lens.pixelsPerUnit * static_cast<double>(gear.SensorWidth) /
+                               std::max(lens.centre->size.width, lens.centre->size.height));
+    } else if (gear.ImageCircleRadius == 0.0F) {
+        gear.ImageCircleRadius = gear.SensorHeight / 2.0F;
+    }
+}
+
+void FillCamera(GearRecord& gear) {
+    FillCatalogueCamera(gear);
+    if (gear.Own.HasSensor()) {
+        gear.SensorWidth = gear.Own.SensorWidth;
+        gear.SensorHeight = gear.Own.SensorHeight;
+    }
+}
+
+void FillLens(GearRecord& gear) {
+    const bool isTypical = gear.LensBrand == typicalLensBrand;
+    const bool isListed = isTypical || FindLens(gear.LensBrand, gear.LensModel);
+    if (isListed || (gear.Lens && gear.Lens->name != gear.LensModel)) {
+        gear.Lens = {};
+    }
+    if (gear.Lens) {
+        gear.ImageCircleRadius = 0.0F;
+        FillCurve(gear);
+        return;
+    }
+    if (LacksLens(gear)) {
+        gear.LensMapScale = 0.0F;
+        gear.LensMapFactor = 0.0F;
+    }
+    if (isTypical) {
+        FillTypicalLens(gear.LensModel == typicalLensModels[1], gear);
+    }
+    FillCatalogueLens(gear);
+    if (gear.Own.HasLens()) {
+        gear.LensMapScale = gear.Own.LensMapScale;
+        gear.LensMapFactor = gear.Own.LensMapFactor;
+    }
 }
 
 // Twice the angle, in degrees, of the ray that lands at half the extent of the picture along one
@@ -71,10 +135,13 @@ double AngleOfView(LensKind kind, const GearRecord& gear, float sensorSide) {
                                  : factor * 360.0 * std::atan(relative) / pi;
 }
 
-GearRecord CatalogueGear(const GearNames& names) {
-    GearRecord gear;
-    FillGearFromCatalogue(names, gear);
-    return gear;
+// The same gear without what was moved by hand.
+GearRecord CatalogueGear(const GearRecord& gear) {
+    GearRecord usual;
+    usual.Lens = gear.Lens;
+    usual.Own = gear.Own;
+    FillGearFromCatalogue(NamesOf(gear), usual);
+    return usual;
 }
 
 bool Differ(float one, float other) {
@@ -124,31 +191,22 @@ void GiveLens(const LensReference& lens, GearRecord& gear) {
     gear.LensBrand = ownLensBrand;
     gear.LensModel = lens->name;
     gear.Lens = lens;
-    gear.LensMapScale = 0.0F;
-    gear.LensMapFactor = 0.0F;
-    gear.LensShift = 0.0F;
-    gear.LensFieldAngle = static_cast<float>(360.0 * lens->FieldLimit() / static_cast<double>(Pi));
-    if (lens->unit == SampledLens::Unit::Millimetres) {
-        const double rim = std::min(lens->FieldLimit(), static_cast<double>(Pi) / 2.0);
-        gear.ImageCircleRadius = static_cast<float>(LensSpline(*lens).RadiusAt(rim));
-    } else if (lens->centre && lens->pixelsPerUnit) {
-        gear.ImageCircleRadius =
-            static_cast<float>(*lens->pixelsPerUnit * static_cast<double>(gear.SensorWidth) /
-                               std::max(lens->centre->size.width, lens->centre->size.height));
-    } else if (gear.ImageCircleRadius == 0.0F) {
-        gear.ImageCircleRadius = gear.SensorHeight / 2.0F;
-    }
+    FillCurve(gear);
     FillAngles(gear);
 }
 
+bool LacksLens(const GearRecord& gear) {
+    return gear.LensBrand == ownLensBrand && !gear.Lens;
+}
+
 bool HasOwnCircle(const GearRecord& gear) {
-    const GearRecord catalogue = CatalogueGear(NamesOf(gear));
+    const GearRecord catalogue = CatalogueGear(gear);
     return Differ(gear.GearRatio, catalogue.GearRatio) || Differ(gear.OfsetX, catalogue.OfsetX) ||
            Differ(gear.OfsetY, catalogue.OfsetY);
 }
 
 bool HasOwnAngle(const GearRecord& gear) {
-    return Differ(gear.hAOV, CatalogueGear(NamesOf(gear)).hAOV);
+    return Differ(gear.hAOV, CatalogueGear(gear).hAOV);
 }
 
 QString BuiltGearName(const GearNames& names) {

@@ -34,7 +34,8 @@ struct EditorSliders {
 
 // Writes the names, the catalogue's numbers and the angles of view and the ratio that follow from
 // them. A camera or lens that is not in its catalogue leaves its numbers as they are; an angle
-// whose numbers are still zero is left, too.
+// whose numbers are still zero is left, too. Numbers that the gear has of its own take the place of
+// the catalogue's. A sampled lens stays where it has the lens's name and no catalogue has it.
 void FillGearFromCatalogue(const GearNames& names, GearRecord& gear,
                            const EditorSliders& sliders = {});
 
@@ -44,6 +45,16 @@ void FillAngles(GearRecord& gear);
 
 // The brand under which lenses of one's own are listed.
 inline constexpr QLatin1StringView ownLensBrand("My lenses");
+// Whether the gear names such a lens, but its file was not there.
+bool LacksLens(const GearRecord& gear);
+
+// What stands in for a lens that nobody lists: equisolid, 180 degrees across a circle that is as
+// high as the sensor, or that goes through its corners. Kept in settings.
+inline constexpr QLatin1StringView typicalLensBrand("Typical fisheye");
+inline constexpr QLatin1StringView typicalLensModels[] = {
+    QLatin1StringView("Whole circle in the photo"),
+    QLatin1StringView("Photo filled to its corners")};
+
 // Puts a sampled lens, which must be there, in the place of the gear's lens: its image circle ends
 // at 90 degrees or at the limit of its field; a lens in units of the circle says how large that is
 // on the gear's sensor, or else has the gear's circle, or one as high as the sensor. Throws

@@ -85,6 +85,10 @@ GearOffer OfferFor(const CameraInfo& origin, const GearTable& table, const Image
         offer.gear = 0;
         offer.names = current;
     }
+    if (image.LensBrand == ownLensBrand && !image.Lens) {
+        offer.error = Text(QT_TRANSLATE_NOOP("GearOffer", "The lens \"%1\" is not there"))
+                          .arg(image.LensModel);
+    }
     return offer;
 }
 

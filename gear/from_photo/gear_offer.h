@@ -19,7 +19,7 @@ struct GearOffer {
     bool lost = false;    // names are the record's gear, which the table does not have
     GearNames names;
     QString reason;  // why the gear is offered, or why none is
-    QString error;   // the gear in use does not fit the photo; empty when it may
+    QString error;   // the gear in use does not fit the photo, or lacks its lens; else empty
 
     bool operator==(const GearOffer&) const = default;
 };

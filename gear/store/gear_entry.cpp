@@ -27,13 +27,24 @@ int SliderPosition(float value) {
     return static_cast<int>(std::clamp(Round(static_cast<double>(value)), -farthest, farthest));
 }
 
-void SetNumber(float GearRecord::*number, int value, GearRecord& gear) {
+void SetNumber(float GearRecord::*number, double value, GearRecord& gear) {
     gear.UserAdjusted = true;
     gear.SetByHand = true;
     gear.*number = static_cast<float>(value);
     if (number == &GearRecord::hAOV) {
         gear.vAOV = gear.hAOV;
     }
+}
+
+void SetLensNumbers(float scale, float factor, GearRecord& gear) {
+    gear.UserAdjusted = true;
+    gear.SetByHand = true;
+    gear.Own.LensMapScale = gear.LensMapScale = scale;
+    gear.Own.LensMapFactor = gear.LensMapFactor = factor;
+    GearRecord filled = gear;
+    FillGearFromCatalogue(NamesOf(gear), filled);
+    gear.hAOV = filled.hAOV;
+    gear.vAOV = filled.vAOV;
 }
 
 void DefineEditedGear(GearTable& table, const GearEntry& entry) {
@@ -50,6 +61,7 @@ void DefineEditedGear(GearTable& table, const GearEntry& entry) {
 }
 
 void TakeKnown(const GearRecord& known, GearRecord& gear) {
+    gear.Lens = known.Lens;
     FillGearFromCatalogue(NamesOf(known), gear);
     if (known.GearRatio > 0.0F) {
         gear.GearRatio = known.GearRatio;
@@ -67,6 +79,7 @@ void TakeKnown(const GearRecord& known, GearRecord& gear) {
 void DropAdjustments(GearRecord& gear) {
     gear.UserAdjusted = false;
     gear.SetByHand = false;
+    gear.Own = {};
     gear.OfsetX = 0.0F;
     gear.OfsetY = 0.0F;
 }

@@ -31,7 +31,10 @@ int SliderPosition(float value);
 
 // Sets one of the gear's numbers to the user's value; the horizontal angle sets the vertical one,
 // too, as it does when it is read back from the store.
-void SetNumber(float GearRecord::*number, int value, GearRecord& gear);
+void SetNumber(float GearRecord::*number, double value, GearRecord& gear);
+
+// Gives a gear of a two-number lens A (millimetres) and B of its own; its angles follow.
+void SetLensNumbers(float scale, float factor, GearRecord& gear);
 
 // What the user has entered when the gear is confirmed.
 struct GearEntry {

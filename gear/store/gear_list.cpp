@@ -5,6 +5,8 @@
 
 #include <numeric>
 
+#include "gear/catalogue/gear_catalogue.h"
+
 namespace varnel {
 
 bool IsDefaultGear(const GearTable& table, int n) {
@@ -33,6 +35,19 @@ void DeleteGear(GearTable& table, int n) {
         table.DefaultGearName = table(n == 1 ? 2 : 1).GearName;
     }
     table.Remove(n);
+}
+
+void RenameLens(GearTable& table, const QString& name, const LensReference& renamed) {
+    for (int n = 0; n <= table.UpperBound(); ++n) {
+        if (table(n).LensBrand == ownLensBrand && table(n).LensModel == name) {
+            table(n).LensModel = renamed->name;
+            table(n).Lens = renamed;
+        }
+    }
+}
+
+void GearOrigins::RenameLens(const QString& name, const LensReference& renamed) {
+    varnel::RenameLens(before_, name, renamed);
 }
 
 GearOrigins::GearOrigins(const GearTable& table)

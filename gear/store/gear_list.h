@@ -26,6 +26,9 @@ bool MayDeleteGear(const GearTable& table);
 // Removes gear n; if it was the default, the first gear of the rest becomes the default.
 void DeleteGear(GearTable& table, int n);
 
+// Lets the gears that have a lens of the user's own follow it under its new name.
+void RenameLens(GearTable& table, const QString& name, const LensReference& renamed);
+
 // Maps the gears of the table to those that it held when the list was opened.
 class GearOrigins {
   public:
@@ -33,6 +36,8 @@ class GearOrigins {
     void NoteAdded() { origins_.push_back(0); }
     void NoteDeleted(int n) { origins_.erase(origins_.begin() + n); }
     const GearTable& Before() const { return before_; }
+    // What cancelling does not undo.
+    void RenameLens(const QString& name, const LensReference& renamed);
     // The gears that have changed, under the same name or another. Of several that had one name
     // only the first, to which that name refers.
     std::vector<GearChange> Redefined(const GearTable& now) const;

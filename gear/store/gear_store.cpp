@@ -6,8 +6,11 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <limits>
+#include <optional>
+#include <utility>
 
 #include "gear/catalogue/gear_catalogue.h"
+#include "gear/lens/lens_folder.h"
 #include "state/settings/number_text.h"
 #include "state/settings/setting_names.h"
 
@@ -26,6 +29,7 @@ struct UsableRange {
 constexpr UsableRange usableOfset{-1000.0F, 1000.0F};  // thousandths: one picture's width or height
 constexpr UsableRange usableRatio{1.0F, 1000.0F};      // percent of the image circle's diameter
 constexpr UsableRange usableAov{1.0F, 360.0F};         // degrees
+constexpr UsableRange usableOwn{1e-3F, 1e3F};          // millimetres, or no unit
 
 int ReadGearCount(const SettingsStore& store) {
     const int count = ReadWhole(store, setting::Gear, setting::NumGear, 1);
@@ -66,21 +70,75 @@ void ReadAdjustments(const SettingsStore& store, int n, GearRecord& gear) {
     read(setting::HorizontalAov, usableAov, gear.vAOV);
 }
 
-// Settings of older releases have no such key; then numbers other than the catalogue's are the
-// user's.
-bool ReadSetByHand(const SettingsStore& store, int n, const GearRecord& gear) {
-    const QString stored =
-        store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
-    return stored == u"1" || (stored != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
+constexpr QStringView withOwnNumbers = u"2";  // of the key GearSetByHand
+
+QString StoredSetByHand(const SettingsStore& store, int n) {
+    return store.Get(setting::Gear, setting::ItemKey(setting::GearSetByHand, n), {});
 }
 
-void ReadGear(const SettingsStore& store, int n, GearRecord& gear) {
+// Settings of older releases have no such key; then numbers other than the catalogue's are the
+// user's.
+bool ReadSetByHand(const QString& stored, const GearRecord& gear) {
+    return stored == u"1" || stored == withOwnNumbers ||
+           (stored != u"0" && (HasOwnCircle(gear) || HasOwnAngle(gear)));
+}
+
+using OwnNumber = std::pair<QLatin1StringView, float OwnNumbers::*>;
+constexpr OwnNumber ownNumbers[] = {{setting::GearSensorWidth, &OwnNumbers::SensorWidth},
+                                    {setting::GearSensorHeight, &OwnNumbers::SensorHeight},
+                                    {setting::GearLensScale, &OwnNumbers::LensMapScale},
+                                    {setting::GearLensFactor, &OwnNumbers::LensMapFactor}};
+
+// The other numbers were stored with these.
+void ReadOwnNumbers(const SettingsStore& store, int n, GearRecord& gear) {
+    for (const auto& [name, number] : ownNumbers) {
+        const float stored = ReadFloat(store, setting::Gear, setting::ItemKey(name, n), 0.0F);
+        gear.Own.*number = usableOwn.Holds(stored) ? stored : 0.0F;
+    }
+    GearRecord filled = gear;
+    FillGearFromCatalogue(NamesOf(gear), filled);
+    gear.SensorWidth = filled.SensorWidth;
+    gear.SensorHeight = filled.SensorHeight;
+    gear.LensMapScale = filled.LensMapScale;
+    gear.LensMapFactor = filled.LensMapFactor;
+}
+
+// The user's own lenses by name, read once one is asked for.
+class OwnLenses {
+  public:
+    explicit OwnLenses(const SettingsStore& store) : store_(store) {}
+    LensReference Find(const QString& name) {
+        if (!listing_) {
+            listing_ = store_.Path().isEmpty() ? LensFolder::Listing()
+                                               : LensFolder::Beside(store_.Path()).List();
+        }
+        for (const LensFolder::Entry& entry : listing_->entries) {
+            if (entry.lens->name == name) {
+                return entry.lens;
+            }
+        }
+        return {};
+    }
+
+  private:
+    const SettingsStore& store_;
+    std::optional<LensFolder::Listing> listing_;
+};
+
+void ReadGear(const SettingsStore& store, OwnLenses& lenses, int n, GearRecord& gear) {
     ReadNames(store, n, gear);
+    if (gear.LensBrand == ownLensBrand) {
+        gear.Lens = lenses.Find(gear.LensModel);
+    }
     FillGearFromCatalogue(NamesOf(gear), gear);
     // Adjustments that were made to older catalogue data are dropped.
     if (ReadVersion(store, n) >= gear.LensDataVersion) {
         ReadAdjustments(store, n, gear);
-        gear.SetByHand = ReadSetByHand(store, n, gear);
+        const QString setByHand = StoredSetByHand(store, n);
+        gear.SetByHand = ReadSetByHand(setByHand, gear);
+        if (setByHand == withOwnNumbers) {
+            ReadOwnNumbers(store, n, gear);
+        }
     }
     // Of every gear that was stored, also of one that the user never touched.
     gear.UserAdjusted = true;
@@ -147,10 +205,25 @@ GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt) {
         return GearLoad::Loaded;
     }
     table.Resize(ReadGearCount(store));
+    OwnLenses lenses(store);
     for (int n = 1; n <= table.UpperBound(); ++n) {
-        ReadGear(store, n, table(n));
+        ReadGear(store, lenses, n, table(n));
     }
     return GearLoad::Loaded;
+}
+
+QString LackingLensText(const GearTable& table) {
+    QStringList lines;
+    for (int n = 1; n <= table.UpperBound(); ++n) {
+        if (LacksLens(table(n))) {
+            lines.append(QCoreApplication::translate(
+                             "GearStore",
+                             "The gear \"%1\" needs the lens \"%2\" of \"My lenses\", which is "
+                             "not there.")
+                             .arg(table(n).GearName, table(n).LensModel));
+        }
+    }
+    return lines.join(u' ');
 }
 
 void SaveGear(SettingsStore& store, GearTable& table) {
@@ -175,7 +248,25 @@ void SaveGear(SettingsStore& store, GearTable& table) {
         save(setting::GearRatio, FloatText(gear.GearRatio));
         save(setting::HorizontalAov, FloatText(gear.hAOV));
         save(setting::VerticalAov, FloatText(gear.vAOV));
-        save(setting::GearSetByHand, QString::number(gear.SetByHand ? 1 : 0));
+        if (gear.Own == OwnNumbers()) {
+            save(setting::GearSetByHand, QString::number(gear.SetByHand ? 1 : 0));
+            continue;
+        }
+        save(setting::GearSetByHand, withOwnNumbers.toString());
+        for (const auto& [key, number] : ownNumbers) {
+            save(key, FloatText(gear.Own.*number));
+        }
+    }
+}
+
+void RenameStoredLens(SettingsStore& store, const QString& name, const QString& newName) {
+    for (int n = 1; n <= ReadGearCount(store); ++n) {
+        const auto get = [&](QLatin1StringView key) {
+            return store.Get(setting::Gear, setting::ItemKey(key, n), {});
+        };
+        if (get(setting::GearLensBrand) == ownLensBrand && get(setting::GearLensModel) == name) {
+            store.Save(setting::Gear, setting::ItemKey(setting::GearLensModel, n), newName);
+        }
     }
 }
 

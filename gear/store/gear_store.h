@@ -27,14 +27,21 @@ class GearPrompt {
 
 enum class GearLoad { Loaded, QuitWanted };
 
-// Fills the table from the store. Settings of an older release, which knew one gear only, are taken
-// over and saved in the present form; without any gear element 0 of the table becomes the first one
-// if it has a name, else the user is asked for one until there is one. After QuitWanted the table
-// holds no gear and nothing was saved.
+// Fills the table from the store. Lenses of the user's own come from the folder beside it; a gear
+// whose lens is not there keeps its name (LackingLensText). Settings of an older release, which
+// knew one gear only, are taken over and saved in the present form; without any gear element 0 of
+// the table becomes the first one if it has a name, else the user is asked for one until there is
+// one. After QuitWanted the table holds no gear and nothing was saved.
 GearLoad LoadGear(SettingsStore& store, GearTable& table, GearPrompt& prompt);
 
 // Writes the table; a single gear becomes the default one. Keys of deleted gears stay in the store,
 // beyond the stored number.
 void SaveGear(SettingsStore& store, GearTable& table);
+
+// Names the gears whose lens is not there, in one line; empty when there are none.
+QString LackingLensText(const GearTable& table);
+
+// Lets the stored gears follow a lens of the user's own to its new name; nothing else is written.
+void RenameStoredLens(SettingsStore& store, const QString& name, const QString& newName);
 
 }  // namespace varnel

@@ -14,6 +14,19 @@
 
 namespace varnel {
 
+// What a gear has instead of its catalogues' numbers; 0 where it has theirs. The sides are those of
+// the piece of sensor that its photos show.
+struct OwnNumbers {
+    float SensorWidth = 0.0F;
+    float SensorHeight = 0.0F;
+    float LensMapScale = 0.0F;
+    float LensMapFactor = 0.0F;
+
+    bool HasSensor() const { return SensorWidth > 0.0F && SensorHeight > 0.0F; }
+    bool HasLens() const { return LensMapScale > 0.0F && LensMapFactor > 0.0F; }
+    bool operator==(const OwnNumbers&) const = default;
+};
+
 // Lengths in millimetres, angles in degrees, offsets in thousandths of the picture's width and
 // height, the ratio in percent.
 struct GearRecord {
@@ -42,6 +55,7 @@ struct GearRecord {
     float GearRatio = 0.0F;
     LensReference Lens;      // takes the place of the lens's two numbers where it is there
     bool SetByHand = false;  // angle, ratio or offsets are the user's, not the catalogue's
+    OwnNumbers Own;
 
     bool operator==(const GearRecord&) const = default;
 };

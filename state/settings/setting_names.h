@@ -57,7 +57,13 @@ inline constexpr QLatin1StringView GearOfsetY("GearOfsetY");
 inline constexpr QLatin1StringView GearRatio("GearRatio");
 inline constexpr QLatin1StringView HorizontalAov("hAOV");
 inline constexpr QLatin1StringView VerticalAov("vAOV");
-inline constexpr QLatin1StringView GearSetByHand("GearSetByHand");  // 1 or 0; since 1.1
+// 1 or 0, or 2 for a gear that has the four numbers below; since 1.1. The lens of a gear with the
+// brand "My lenses" is the file in lenses/ that has the model as its name.
+inline constexpr QLatin1StringView GearSetByHand("GearSetByHand");
+inline constexpr QLatin1StringView GearSensorWidth("GearSensorWidth");  // 0: the camera's
+inline constexpr QLatin1StringView GearSensorHeight("GearSensorHeight");
+inline constexpr QLatin1StringView GearLensScale("GearLensScale");  // 0: the lens's
+inline constexpr QLatin1StringView GearLensFactor("GearLensFactor");
 
 // A project file, followed by its number: 1 is the latest.
 inline constexpr QLatin1StringView Project("Project");

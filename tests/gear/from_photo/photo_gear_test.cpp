@@ -346,6 +346,13 @@ TEST(OfferFor, OffersOnlyWhatThePhotoDoesNotHaveYet) {
     }
 }
 
+TEST(OfferFor, TellsOfAnOwnLensThatIsNotThere) {
+    ImageRecord image;
+    image.LensBrand = ownLensBrand;
+    image.LensModel = QStringLiteral("gone");
+    EXPECT_EQ(OfferFor({}, {}, image).error, u"The lens \"gone\" is not there");
+}
+
 TEST(ShapeError, DoubtsPicturesThatAreNoWholeSensor) {
     const struct {
         std::int16_t width, height;

@@ -216,6 +216,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "there is already a lens of this name")},
     {ReasonCode::LensNameUnusable, QT_TRANSLATE_NOOP("Reasons", "a lens needs a name")},
     {ReasonCode::NoSuchLens, QT_TRANSLATE_NOOP("Reasons", "there is no lens of this name")},
+    {ReasonCode::NoLensEnding,
+     QT_TRANSLATE_NOOP("Reasons", "lenses are written to files that end in .json, .yaml or .xml")},
 };
 
 constexpr bool StandByTheirCodes() {

@@ -143,6 +143,7 @@ enum class ReasonCode : std::uint16_t {
     LensNameTaken,
     LensNameUnusable,
     NoSuchLens,
+    NoLensEnding,
     Count  // of the codes; not a code itself
 };
 

@@ -27,6 +27,14 @@ struct LensPicture {
 // What the lens itself knows; nothing where it does not say how many pixels its unit has.
 std::optional<LensPicture> PictureOf(const SampledLens& lens);
 
+// The same, helped by what is known of the camera: the sides of its sensor in millimetres, or 0.
+// For lensfun, which counts in millimetres, a picture of any size will do.
+std::optional<LensPicture> PictureFor(const SampledLens& lens, LensFormat format,
+                                      double sensorWidth, double sensorHeight);
+
+// .json, .yaml or .yml, .xml; nothing for any other ending.
+std::optional<LensFormat> LensFormatOf(const QString& path);
+
 struct LensExport {
     QByteArray bytes;
     // Between the curve and the fit up to the limit of the field, in the picture's pixels.
@@ -39,6 +47,11 @@ struct LensExport {
 // pixels per millimetre too. The lens is one that LensSpline takes.
 LensExport ExportLens(const SampledLens& lens, LensFormat format,
                       const std::optional<LensPicture>& picture);
+
+// Writes it to the file, whose ending tells the format. The sensor's sides as above. A reason names
+// the file; an older one is replaced as a whole.
+LensExport ExportLensTo(const QString& path, const SampledLens& lens, double sensorWidth,
+                        double sensorHeight);
 
 // r = f (a + k1 a^3 + k2 a^5 + k3 a^7 + k4 a^9), least squares.
 LensExport OpenCvExport(const SampledLens& lens, const LensPicture& picture);

@@ -75,4 +75,20 @@ ImportedLenses ImportLenses(const QString& path) {
     return imported;
 }
 
+TakenLenses TakeLenses(const QString& path, const LensFolder& folder) {
+    const ImportedLenses imported = ImportLenses(path);
+    TakenLenses taken{{}, imported.reason};
+    for (SampledLens lens : imported.lenses) {
+        lens.name = folder.FreeName(lens.name);
+        if (const Reason error = folder.Add(lens); !error.isEmpty()) {
+            for (const QString& name : taken.names) {
+                folder.Delete(name);
+            }
+            return {{}, error};
+        }
+        taken.names.append(lens.name);
+    }
+    return taken;
+}
+
 }  // namespace varnel

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "gear/lens/import/lens_formula.h"
+#include "gear/lens/lens_folder.h"
 
 namespace varnel {
 
@@ -17,5 +18,13 @@ ImportedLenses ImportLenses(const QString& path);
 
 // The same of what is read already; the name is for the lens and its origin.
 ImportedLenses ImportLensesFrom(const QByteArray& bytes, const QString& fileName);
+
+struct TakenLenses {
+    QStringList names;  // under which they are in the folder now
+    // Why there are none, or which of the file's lenses were left out and why.
+    Reason reason;
+};
+// Adds all lenses of a file to the folder, or none where one cannot be written.
+TakenLenses TakeLenses(const QString& path, const LensFolder& folder);
 
 }  // namespace varnel

@@ -283,11 +283,14 @@ QStringList LensfunFolders() {
     return folders;
 }
 
-QList<SampledLens> LensfunFisheyes(const QStringList& folders) {
+QList<SampledLens> LensfunFisheyes(const QStringList& folders, const std::atomic<bool>* stopped) {
     std::map<QString, SampledLens> byName;
     for (const QString& folder : folders) {
         for (const QFileInfo& file :
              QDir(folder).entryInfoList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name)) {
+            if (stopped != nullptr && *stopped) {
+                return {};
+            }
             const FileReading reading = ReadSmallFile(file.filePath(), largestForeignFile);
             for (const SampledLens& lens : LensfunLenses(reading.bytes, file.fileName()).lenses) {
                 byName.try_emplace(lens.name, lens);

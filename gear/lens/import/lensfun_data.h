@@ -17,6 +17,7 @@
 
 #include <QByteArray>
 #include <QStringList>
+#include <atomic>
 
 #include "gear/lens/import/lens_formula.h"
 
@@ -26,11 +27,15 @@ namespace varnel {
 // Lenses of the same name are told apart by the crop factor. The file's name stands in the origin.
 ImportedLenses LensfunLenses(const QByteArray& xml, const QString& fileName);
 
+// The brand under which they are listed.
+inline constexpr QLatin1StringView lensfunBrand("lensfun");
+
 // Where lensfun keeps its data: the user's folder, updates, the package's. Those that exist.
 QStringList LensfunFolders();
 
 // The fisheyes of all files in the folders, by name; what cannot be read is left out. Of the same
-// lens in several folders the first one counts.
-QList<SampledLens> LensfunFisheyes(const QStringList& folders);
+// lens in several folders the first one counts. Nothing once the flag is set.
+QList<SampledLens> LensfunFisheyes(const QStringList& folders,
+                                   const std::atomic<bool>* stopped = nullptr);
 
 }  // namespace varnel

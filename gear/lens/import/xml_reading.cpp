@@ -19,6 +19,10 @@ bool XmlReading::Step() {
     while (pending_ || !xml_.atEnd()) {
         const auto token = pending_ ? xml_.tokenType() : xml_.readNext();
         pending_ = false;
+        if (token == QXmlStreamReader::DTD && !xml_.entityDeclarations().isEmpty()) {
+            Require(QStringLiteral("<!ENTITY"), false);
+            return false;
+        }
         if (token == QXmlStreamReader::StartElement) {
             ++depth_;
             return true;

@@ -51,19 +51,29 @@ QString Unknown(const QString& kind, const CatalogueName& name, const QStringLis
                       near, list.arg(knownBrand ? Quoted(name.brand) + u' ' : QString()));
 }
 
+QString Lacking(const GearRecord& gear) {
+    return QStringLiteral(
+               "the gear \"%1\" needs the lens \"%2/%3\", whose file is not there; take it over "
+               "again with --import-lens, or give --lens-file FILE")
+        .arg(gear.GearName, gear.LensBrand, gear.LensModel);
+}
+
 std::variant<GearChoice, QString> FromCatalogues(const CatalogueName& camera,
                                                  const CatalogueName& lens,
                                                  const SettingsStore& store) {
     if (const QStringList models = FillCameraModels(camera.brand); !models.contains(camera.model)) {
         return Unknown(QStringLiteral("camera"), camera, FillCameraBrands(), models);
     }
-    if (const LensReference own =
-            lens.brand == ownLensBrand ? OwnLens(store, lens.model) : LensReference()) {
+    if (const LensReference curve = CurveOf(store, lens)) {
         GearRecord gear;
         FillGearFromCatalogue({camera.brand, camera.model, {}, {}}, gear);
-        GiveLens(own, gear);
+        GiveLens(curve, gear);
+        gear.LensBrand = lens.brand;
         gear.GearName = BuiltGearName(NamesOf(gear));
         return GearChoice{gear, {}};
+    }
+    if (IsCurveBrand(lens.brand)) {
+        return Unknown(QStringLiteral("lens"), lens, {lens.brand}, CurveModels(store, lens.brand));
     }
     if (const QStringList models = FillLensModels(lens.brand); !models.contains(lens.model)) {
         return Unknown(QStringLiteral("lens"), lens, FillLensBrands(), models);
@@ -112,14 +122,14 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
     if (!byDefault) {
         return QStringLiteral("no gear is defined; ") + HowToGiveOne();
     }
-    if (options.gear.isEmpty()) {
-        return GearChoice{byDefault, {}};
-    }
-    const int n = table.Find(options.gear);
+    const int n = table.Find(options.gear.isEmpty() ? byDefault->GearName : options.gear);
     if (n == 0) {
         return AskIfMeant(QStringLiteral("there is no gear \"%1\"").arg(options.gear),
                           Nearest(options.gear, NamesOfGears(table)),
                           QStringLiteral("--list-gears lists yours; or ") + HowToGiveOne());
+    }
+    if (LacksLens(table(n))) {
+        return Lacking(table(n));
     }
     return GearChoice{table(n), {}};
 }
@@ -130,6 +140,9 @@ std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choic
         return choice.forAll;
     }
     const PhotoGear found = GearOfPhoto(origin, choice.table);
+    if (found.gear > 0 && LacksLens(choice.table(found.gear))) {
+        return Lacking(choice.table(found.gear));
+    }
     if (std::optional<GearRecord> gear = CertainGear(found, choice.table)) {
         return gear;
     }

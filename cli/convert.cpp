@@ -68,12 +68,14 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
         case Command::ListLenses:
         case Command::ListGears:
         case Command::ImportLens:
+        case Command::ExportLens:
             break;
         case Command::Convert:
             return Convert(options, store, console);
     }
-    const auto list = options.command == Command::ImportLens ? ImportOwnLenses(options, store)
-                                                             : ListFor(options, store);
+    const auto list = options.command == Command::ImportLens   ? ImportOwnLenses(options, store)
+                      : options.command == Command::ExportLens ? ExportOwnLens(options, store)
+                                                               : ListFor(options, store);
     if (const auto* error = std::get_if<QString>(&list)) {
         return Refuse(console, *error);
     }

@@ -10,6 +10,7 @@
 #include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
+#include "gear/lens/import/lensfun_data.h"
 
 namespace varnel {
 
@@ -41,11 +42,14 @@ std::variant<QStringList, QString> CatalogueList(const Options& options, const Q
     return lines;
 }
 
-// Those of one's own too, if there are any.
-QStringList LensBrands(const SettingsStore& store) {
+// Those of one's own too, if there are any, and lensfun's where they are asked for by name.
+QStringList LensBrands(const Options& options, const SettingsStore& store) {
     QStringList brands = FillLensBrands();
-    if (!OwnLensModels(store).isEmpty()) {
+    if (!CurveModels(store, ownLensBrand).isEmpty()) {
         brands.append(ownLensBrand);
+    }
+    if (options.files.value(0) == lensfunBrand) {
+        brands.append(lensfunBrand);
     }
     return brands;
 }
@@ -79,8 +83,8 @@ std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore
         case Command::ListCameras:
             return CatalogueList(options, FillCameraBrands(), &FillCameraModels);
         case Command::ListLenses:
-            return CatalogueList(options, LensBrands(store), [&](const QString& brand) {
-                return brand == ownLensBrand ? OwnLensModels(store) : FillLensModels(brand);
+            return CatalogueList(options, LensBrands(options, store), [&](const QString& brand) {
+                return IsCurveBrand(brand) ? CurveModels(store, brand) : FillLensModels(brand);
             });
         default:
             return GearList(store, options.json);

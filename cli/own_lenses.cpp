@@ -3,13 +3,18 @@
 
 #include "cli/own_lenses.h"
 
+#include <QFileInfo>
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "base/error_text.h"
 #include "cli/report/json_line.h"
+#include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/gear_catalogue.h"
+#include "gear/lens/export/export_lens.h"
 #include "gear/lens/import/import_lenses.h"
+#include "gear/lens/import/lensfun_data.h"
 #include "gear/lens/lens_folder.h"
 
 namespace varnel {
@@ -61,25 +66,64 @@ std::variant<QStringList, QString> ImportOwnLenses(const Options& options, Setti
     if (store.Path().isEmpty()) {
         return QStringLiteral("these settings have no folder for lenses");
     }
-    const LensFolder folder = LensFolder::Beside(store.Path());
-    const ImportedLenses imported = ImportLenses(options.lensFile);
-    if (imported.lenses.isEmpty()) {
-        return ErrorText(imported.reason);
+    const TakenLenses taken = TakeLenses(options.lensFile, LensFolder::Beside(store.Path()));
+    if (taken.names.isEmpty()) {
+        return ErrorText(taken.reason);
     }
     QStringList lines;
-    for (SampledLens lens : imported.lenses) {
-        lens.name = folder.FreeName(lens.name);
-        if (const Reason error = folder.Add(lens); !error.isEmpty()) {
-            return ErrorText(error);
-        }
-        lines.append(LensLine(lens.name, options.json));
+    for (const QString& name : taken.names) {
+        lines.append(LensLine(name, options.json));
     }
     return lines;
 }
 
-QStringList OwnLensModels(const SettingsStore& store) {
+std::variant<QStringList, QString> ExportOwnLens(const Options& options,
+                                                 const SettingsStore& store) {
+    Options given = options;
+    if (const QString error = TakeLensFile(given); !error.isEmpty()) {
+        return error;
+    }
+    const LensReference lens = given.curve ? given.curve : CurveOf(store, *options.lens);
+    if (!lens) {
+        return QStringLiteral(
+                   "there is no lens \"%1/%2\" with a curve; --list-lenses \"%3\" lists "
+                   "yours")
+            .arg(options.lens->brand, options.lens->model, ownLensBrand);
+    }
+    if (QFileInfo::exists(options.exportLens) && !options.force) {
+        return options.exportLens + QStringLiteral(": the file exists; --force replaces it");
+    }
+    const std::optional<CameraRow> camera =
+        options.camera ? FindCamera(options.camera->brand, options.camera->model) : std::nullopt;
+    if (options.camera && !camera) {
+        return QStringLiteral("unknown camera \"%1/%2\"; --list-cameras shows all")
+            .arg(options.camera->brand, options.camera->model);
+    }
+    const auto [width, height] =
+        camera ? std::pair<double, double>(camera->sensorWidth, camera->sensorHeight)
+               : std::pair(0.0, 0.0);
+    const LensExport exported = ExportLensTo(options.exportLens, *lens, width, height);
+    if (!exported.reason.isEmpty()) {
+        return ErrorText(exported.reason);
+    }
+    return QStringList{
+        options.json ? QString::fromUtf8(JsonLine({{u"lens_file", options.exportLens},
+                                                   {u"largest_error_px", exported.largestError},
+                                                   {u"mean_error_px", exported.meanError}}))
+                     : options.exportLens};
+}
+
+bool IsCurveBrand(const QString& brand) {
+    return brand == ownLensBrand || brand == lensfunBrand;
+}
+
+QStringList CurveModels(const SettingsStore& store, const QString& brand) {
     QStringList names;
-    if (!store.Path().isEmpty()) {
+    if (brand == lensfunBrand) {
+        for (const SampledLens& lens : LensfunFisheyes(LensfunFolders())) {
+            names.append(lens.name);
+        }
+    } else if (!store.Path().isEmpty()) {
         for (const LensFolder::Entry& entry : LensFolder::Beside(store.Path()).List().entries) {
             names.append(entry.lens->name);
         }
@@ -87,9 +131,18 @@ QStringList OwnLensModels(const SettingsStore& store) {
     return names;
 }
 
-LensReference OwnLens(const SettingsStore& store, const QString& model) {
-    return store.Path().isEmpty() ? LensReference()
-                                  : LensReference(LensFolder::Beside(store.Path()).Find(model));
+LensReference CurveOf(const SettingsStore& store, const CatalogueName& lens) {
+    if (lens.brand == ownLensBrand && !store.Path().isEmpty()) {
+        return LensFolder::Beside(store.Path()).Find(lens.model);
+    }
+    if (lens.brand == lensfunBrand) {
+        for (const SampledLens& fisheye : LensfunFisheyes(LensfunFolders())) {
+            if (fisheye.name == lens.model) {
+                return std::make_shared<const SampledLens>(fisheye);
+            }
+        }
+    }
+    return {};
 }
 
 }  // namespace varnel

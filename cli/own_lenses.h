@@ -22,10 +22,15 @@ QString TakeLensFile(Options& options);
 // why there is none.
 std::variant<QStringList, QString> ImportOwnLenses(const Options& options, SettingsStore& store);
 
-// The models under the brand "My lenses".
-QStringList OwnLensModels(const SettingsStore& store);
+// Writes the lens that --lens or --lens-file names; a line that names the file, or one that says
+// why there is none.
+std::variant<QStringList, QString> ExportOwnLens(const Options& options,
+                                                 const SettingsStore& store);
 
-// None for a name that they do not have.
-LensReference OwnLens(const SettingsStore& store, const QString& model);
+// Brands whose lenses are curves: "My lenses" and "lensfun", whose data are read when asked for.
+bool IsCurveBrand(const QString& brand);
+QStringList CurveModels(const SettingsStore& store, const QString& brand);
+// None for a name that the brand does not have.
+LensReference CurveOf(const SettingsStore& store, const CatalogueName& lens);
 
 }  // namespace varnel

@@ -18,6 +18,7 @@ constexpr char16_t head[] =
        varnel-convert --measure-lens FILE [--focal MM] PHOTO...
        varnel-convert --list-gears
        varnel-convert --import-lens FILE
+       varnel-convert --export-lens FILE --lens BRAND/MODEL
        varnel-convert --list-cameras [BRAND]
        varnel-convert --list-lenses [BRAND]
 

@@ -30,6 +30,9 @@ constexpr std::array gearRows{
               u"calibration."},
     OptionRow{u"import-lens", u"FILE",
               u"Take over the lenses of a calibration or lens database as \"My lenses/...\"."},
+    OptionRow{u"export-lens", u"FILE",
+              u"Write the lens of --lens or --lens-file for other programs: .json, .yaml (OpenCV), "
+              u".xml (lensfun)."},
     OptionRow{u"measure-lens", u"FILE",
               u"Measure the lens from straight edges in one to four photos and write it to FILE."},
     OptionRow{u"focal", u"MM", u"The focal length of the measured lens; fixes its angles."},

@@ -82,6 +82,7 @@ Command CommandOf(const QCommandLineParser& parser) {
         std::pair{u"list-lenses", Command::ListLenses},
         std::pair{u"list-gears", Command::ListGears},
         std::pair{u"import-lens", Command::ImportLens},
+        std::pair{u"export-lens", Command::ExportLens},
         std::pair{u"measure-lens", Command::MeasureLens},
     };
     for (const auto& [name, command] : commands) {
@@ -142,6 +143,8 @@ Options Take(const QCommandLineParser& parser) {
     TakeCircle(parser, options);
     options.measureLens =
         FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("measure-lens")));
+    options.exportLens =
+        FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("export-lens")));
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
@@ -236,8 +239,17 @@ void CheckMeasuring(const Options& options) {
     }
 }
 
+void CheckExporting(const Options& options) {
+    if (options.command == Command::ExportLens &&
+        options.lens.has_value() == !options.lensFile.isEmpty()) {
+        throw UsageError{QStringLiteral(
+            "--export-lens needs the lens; give --lens \"My lenses/NAME\" or --lens-file FILE")};
+    }
+}
+
 void CheckTogether(const Options& options) {
     CheckMeasuring(options);
+    CheckExporting(options);
     if (options.command != Command::Convert) {
         return;
     }

@@ -26,6 +26,7 @@ enum class Command {
     ListLenses,
     ListGears,
     ImportLens,
+    ExportLens,
     Help,
     Version
 };
@@ -62,6 +63,7 @@ struct Options {
     ImageCircle givenCircle;
     QString lensFile;     // a lens, or of --import-lens, where they are
     LensReference curve;  // what it holds, once it was read
+    QString exportLens;   // the file to write a lens to
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
     QString measureLens;          // the file to write a measured lens to

@@ -11,6 +11,7 @@
 #include "cli/convert.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/lens/lens_file.h"
+#include "gear/lens/lens_folder.h"
 #include "gear/store/gear_store.h"
 #include "tests/support/lenses.h"
 #include "tests/support/records.h"
@@ -178,6 +179,83 @@ TEST(OwnLenses, AreImportedListedAndUsedByName) {
               exitAllWritten);
     EXPECT_NE(out.str().find(R"("gear":"Canon EOS 5D + My lenses 8 mm")"), std::string::npos);
     EXPECT_EQ(run({Q("--camera=Canon/EOS 5D"), Q("--lens=My lenses/9 mm"), plain}), exitUsage);
+}
+
+TEST(OwnLenses, AreExportedByTheEndingOfTheFile) {
+    testing::PictureFolder files;
+    SampledLens sampled = testing::SampledLensOf(testing::FisheyeRecord());
+    sampled.name = Q("8 mm");
+    sampled.unit = SampledLens::Unit::Millimetres;
+    const auto store =
+        OpenFileStore(files.Path(Q("settings/Varnel.conf")), QDateTime::currentDateTime());
+    ASSERT_TRUE(LensFolder::Beside(store->Path()).Add(sampled).isEmpty());
+    std::ostringstream out, err;
+    const auto run = [&](const char* file, const QStringList& arguments) {
+        out.str({});
+        err.str({});
+        return RunConvert(
+            QStringList{Q("varnel-convert"), Q("--export-lens"), files.Path(Q(file))} + arguments,
+            *store, {out, err, false});
+    };
+    const QString lens = Q("--lens=My lenses/8 mm"), camera = Q("--camera=Canon/EOS 5D");
+    const struct {
+        const char* file;
+        QStringList arguments;
+        int exitCode;
+        const char* told;
+    } cases[] = {
+        {"a.json", {lens}, exitAllWritten, ""},
+        {"a.json", {lens}, exitUsage, "a.json: the file exists"},
+        {"a.xml", {lens}, exitUsage, "\"px_per_unit\" is missing"},
+        {"a.xml", {lens, camera, Q("--json")}, exitAllWritten, ""},
+        {"b.json", {Q("--lens-file"), files.Path(Q("a.xml"))}, exitAllWritten, ""},
+        {"a.txt", {lens}, exitUsage, "a.txt: lenses are written to files that end in"},
+        {"c.json", {Q("--lens=My lenses/9 mm")}, exitUsage, "there is no lens \"My lenses/9 mm\""},
+        {"c.json", {Q("--lens=Sigma/EX 8 mm f:3.5")}, exitUsage, "there is no lens"},
+        {"c.json", {}, exitUsage, "--export-lens needs the lens"},
+        {"c.json", {lens, Q("--camera=Canon/EOS")}, exitUsage, "unknown camera"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(run(c.file, c.arguments), c.exitCode) << c.file << err.str();
+        EXPECT_NE(err.str().find(c.told), std::string::npos) << err.str();
+    }
+    EXPECT_FALSE(QFile::exists(files.Path(Q("c.json"))));
+    EXPECT_TRUE(Contents(files.Path(Q("a.json"))) == LensBytes(sampled));
+    EXPECT_TRUE(Contents(files.Path(Q("a.xml"))).contains("<lensdatabase"));
+}
+
+TEST(OwnLenses, GiveAGearOfTheSettingsItsCurve) {
+    testing::PictureFolder files;
+    const QString plain = files.Picture(Q("plain.bmp"), OutputType::Bmp);
+    SampledLens sampled = testing::SampledLensOf(testing::FisheyeRecord());
+    sampled.name = Q("8 mm");
+    const auto store =
+        OpenFileStore(files.Path(Q("settings/Varnel.conf")), QDateTime::currentDateTime());
+    const LensFolder folder = LensFolder::Beside(store->Path());
+    ASSERT_TRUE(folder.Add(sampled).isEmpty());
+    GearTable gears;
+    gears.Resize(1);
+    FillGearFromCatalogue({Q("Canon"), Q("EOS 5D"), {}, {}}, gears(1));
+    GiveLens(std::make_shared<const SampledLens>(sampled), gears(1));
+    gears(1).GearName = Q("mine");
+    SaveGear(*store, gears);
+    std::ostringstream out, err;
+    const auto run = [&](const QStringList& arguments) {
+        return RunConvert(QStringList{Q("varnel-convert"), Q("--force"), Q("--type=bmp"),
+                                      Q("--projection=rectilinear"), plain} +
+                              arguments,
+                          *store, {out, err, false});
+    };
+    const QString result = files.Path(Q("plain.Rectilinear.BMP"));
+    ASSERT_EQ(run({Q("--gear=mine")}), exitAllWritten) << err.str();
+    const QByteArray byGear = Contents(result);
+    ASSERT_EQ(run({Q("--camera=Canon/EOS 5D"), Q("--lens=My lenses/8 mm")}), exitAllWritten);
+    EXPECT_EQ(Contents(result), byGear);
+    ASSERT_TRUE(folder.Delete(Q("8 mm")).isEmpty());
+    EXPECT_EQ(run({Q("--gear=mine")}), exitUsage);
+    EXPECT_NE(err.str().find("the gear \"mine\" needs the lens \"My lenses/8 mm\""),
+              std::string::npos)
+        << err.str();
 }
 
 }  // namespace

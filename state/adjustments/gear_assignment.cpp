@@ -3,7 +3,11 @@
 
 #include "state/adjustments/gear_assignment.h"
 
+#include <cmath>
+#include <utility>
+
 #include "remap/image/exif_orientation.h"
+#include "state/adjustments/frame_reading.h"
 
 namespace varnel {
 
@@ -26,6 +30,17 @@ int Inverse(int orientation) {
 void SetCentre(const CentreOffset& centre, ImageRecord& image) {
     image.OfsetX = centre.x;
     image.OfsetY = centre.y;
+}
+
+// A lens that states its scale for pictures of this shape knows better than the camera which piece
+// of the sensor they show.
+void TakePieceOfLens(ImageRecord& image) {
+    constexpr float rounding = 0.01F;
+    ImageRecord placed = image;
+    if (image.Lens && TakeLensScale(placed) &&
+        std::fabs(placed.SensorWidth - image.SensorWidth) > rounding * image.SensorWidth) {
+        image = std::move(placed);
+    }
 }
 
 }  // namespace
@@ -90,6 +105,7 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     CopyGear(gear, image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = UsualOutputAov(image.InputAOV);
+    TakePieceOfLens(image);
     return true;
 }
 

@@ -21,8 +21,9 @@ void CopyGear(const GearRecord& gear, ImageRecord& image);
 
 // Copies the gear's names and numbers and resets angles of view and effects to the gear's defaults;
 // rotation and translation stay. The gear's centre is meant for a picture stored in landscape: for
-// one stored upright its offsets change places, and then they turn with the picture. A record whose
-// settings were applied is left alone: false.
+// one stored upright its offsets change places, and then they turn with the picture. Where the
+// gear's sampled lens states another scale for pictures of that shape, the sensor's sides are those
+// of the piece that they show. A record whose settings were applied is left alone: false.
 bool AssignGear(const GearRecord& gear, ImageRecord& image);
 
 // The gear that gave the record its numbers, as far as it follows from them: its angle of view only

@@ -204,5 +204,25 @@ TEST(GuessFrame, SpansTheCircleOrElseTheDiagonal) {
     }
 }
 
+// 62 pixels a millimetre on squares of 1600 pixels, which show 25.8 x 25.8 mm.
+TEST(AssignGear, ALensThatStatesItsScaleSaysWhichPieceIsShown) {
+    SampledLens lens = testing::SampledLensOf(Photo(3000, 2000));
+    lens.centre = LensCentre{800.0, 800.0, {1600, 1600}};
+    lens.pixelsPerUnit = 62.0;
+    GearRecord gear;
+    gear.SensorWidth = 36.0F;
+    gear.SensorHeight = 24.0F;
+    GiveLens(std::make_shared<const SampledLens>(lens), gear);
+    gear.hAOV = 150.0F;  // by hand
+    ImageRecord square = Photo(800, 800);
+    AssignGear(gear, square);
+    EXPECT_NEAR(square.SensorWidth, 1600.0F / 62.0F, 1e-3F);
+    EXPECT_NEAR(square.SensorHeight, 1600.0F / 62.0F, 1e-3F);
+    ImageRecord whole = Photo(3000, 2000);
+    AssignGear(gear, whole);
+    EXPECT_EQ(whole.SensorWidth, 36.0F);
+    EXPECT_EQ(whole.InputAOV, 150.0F);
+}
+
 }  // namespace
 }  // namespace varnel

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/from_photo/gear_offer.h"
 #include "gear/from_photo/photo_camera.h"
@@ -59,11 +60,14 @@ void TakePiece(double millimetresPerPixel, ImageRecord& image) {
     RenewAngles(image);
 }
 
-// Millimetres per pixel of the largest piece of the sensor that has the picture's shape.
+// Millimetres per pixel of the largest piece of the sensor that has the picture's shape. Of a gear
+// that keeps a piece of its own the camera's sensor is larger than the record says.
 double LargestPiece(const ImageRecord& image) {
     const auto [shorter, longer] = std::minmax(image.Width, image.Height);
-    return std::min(static_cast<double>(image.SensorWidth) / longer,
-                    static_cast<double>(image.SensorHeight) / shorter);
+    const auto camera = FindCamera(image.CameraBrand, image.CameraModel);
+    const float width = std::max(image.SensorWidth, camera ? camera->sensorWidth : 0.0F);
+    const float height = std::max(image.SensorHeight, camera ? camera->sensorHeight : 0.0F);
+    return std::min(static_cast<double>(width) / longer, static_cast<double>(height) / shorter);
 }
 
 void TakeLargestPiece(ImageRecord& image) {

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/from_photo/gear_offer.h"
 #include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
@@ -66,6 +68,28 @@ void KeepMovedAngles(const ImageRecord& before, const GearRecord& gear, ImageRec
                           : before.OutputAOV;
 }
 
+void KeepPiece(const ImageRecord& image, GearRecord& gear) {
+    constexpr float nearly = 0.99F;
+    const bool isPiece = image.SensorWidth < nearly * gear.SensorWidth ||
+                         image.SensorHeight < nearly * gear.SensorHeight;
+    if (!isPiece || image.SensorWidth <= 0.0F || image.SensorHeight <= 0.0F) {
+        return;
+    }
+    gear.Own.SensorWidth = gear.SensorWidth = image.SensorWidth;
+    gear.Own.SensorHeight = gear.SensorHeight = image.SensorHeight;
+    GearRecord usual = gear;
+    FillAngles(usual);
+    gear.hAOV = usual.hAOV;
+    gear.vAOV = usual.vAOV;
+}
+
+// Whether the picture shows the gear's piece of the sensor, as far as its shape tells.
+bool ShowsPiece(const GearRecord& gear, const ImageRecord& image) {
+    ImageRecord shown = image;
+    GiveSensor(gear, shown);
+    return !gear.Own.HasSensor() || ShapeError(shown).isEmpty();
+}
+
 }  // namespace
 
 GearCircle GearCircleFor(const ImageCircle& circle, const ImageRecord& image, PixelSize picture) {
@@ -99,11 +123,18 @@ int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageReco
     gear.OfsetX = circle.OfsetX;
     gear.OfsetY = circle.OfsetY;
     gear.GearRatio = circle.GearRatio;
+    KeepPiece(images(current), gear);
     int taken = 0;
     for (int n = 1; n <= images.UpperBound(); ++n) {
         ImageRecord& image = images(n);
-        if (n != current && (image.GearName != gear.GearName || image.SettingsApplied)) {
+        if (n != current && (image.GearName != gear.GearName || image.SettingsApplied ||
+                             !ShowsPiece(gear, image))) {
             continue;
+        }
+        if (n != current && gear.Own.HasSensor()) {
+            GiveSensor(gear, image);
+            image.InputAOV = AngleFor(gear, image);
+            image.OutputAOV = UsualOutputAov(image.InputAOV);
         }
         GiveCentre(gear, image);
         image.Ratio = gear.GearRatio;

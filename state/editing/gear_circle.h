@@ -34,6 +34,8 @@ void ResetCircle(const GearRecord& gear, ImageRecord& image);
 
 // Makes it the gear's circle and that of all its photos that are not adjusted yet, and in any case
 // that of image number current, which keeps its other settings. The gear then counts as adjusted.
+// Where that image shows a piece of the sensor only, the circle's numbers are made for pictures of
+// that piece: the gear keeps the piece as its own, and photos of another shape are left alone.
 // Returns how many photos got it.
 int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageRecord>& images,
                int current);

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "gear/catalogue/gear_catalogue.h"
 #include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
@@ -122,6 +123,37 @@ TEST(TakeCircle, ReachesTheCurrentPhotoAndUnadjustedOnesOfTheGear) {
     }
     EXPECT_EQ(images(2).Ratio, 160.0F);
     EXPECT_EQ(images(4).Ratio, 160.0F);
+}
+
+TEST(TakeCircle, KeepsThePieceOfTheSensorForPicturesOfItsShape) {
+    GearRecord gear = Gear("A");
+    FillGearFromCatalogue({QStringLiteral("Canon"), QStringLiteral("EOS 5D"),
+                           QStringLiteral("Sigma"), QStringLiteral("EX 8 mm f:3.5")},
+                          gear);
+    RecordArray<ImageRecord> images;
+    for (const PixelSize size : {PixelSize{1600, 1600}, {1600, 1600}, {3000, 2000}}) {
+        images.Append(Photo(size, 1));
+        AssignGear(gear, images(images.UpperBound()));
+    }
+    const float wholeWidth = gear.SensorWidth;
+    const ImageCircle circle{800.0, 800.0, 744.0};
+    PutCircle(circle, gear, images(1));
+    EXPECT_EQ(TakeCircle(GearCircleFor(circle, images(1), {1600, 1600}), gear, images, 1), 2);
+    EXPECT_LT(gear.SensorWidth, 0.7F * wholeWidth);
+    EXPECT_EQ(gear.Own.SensorWidth, images(1).SensorWidth);
+    EXPECT_EQ(images(2).SensorWidth, images(1).SensorWidth);
+    EXPECT_EQ(images(2).Ratio, gear.GearRatio);
+    EXPECT_EQ(images(2).InputAOV, gear.hAOV);
+    EXPECT_EQ(images(3).SensorWidth, wholeWidth) << "of another shape";
+    // A new photo of that shape needs no circle, and a whole one has the camera's sensor again.
+    ImageRecord next = Photo({800, 800}, 1), whole = Photo({3000, 2000}, 1);
+    AssignGear(gear, next);
+    EXPECT_FALSE(ReadFrame(std::nullopt, next).cropped);
+    EXPECT_EQ(next.SensorWidth, images(1).SensorWidth);
+    AssignGear(gear, whole);
+    const double radius = static_cast<double>(gear.ImageCircleRadius / wholeWidth) * 3000.0;
+    ReadFrame(FoundCircle{{1500.0, 1000.0, radius}, 1.0}, whole);
+    EXPECT_NEAR(whole.SensorWidth, wholeWidth, 0.01F);
 }
 
 }  // namespace

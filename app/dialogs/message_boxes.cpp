@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -106,7 +107,7 @@ void FirstGearPrompt::Explain(const QString& text) {
 
 bool FirstGearPrompt::DefineGear(GearTable& table) {
     if (!quitWanted_) {
-        FormGearEdit editor(table, QApplication::activeWindow());
+        FormGearEdit editor(table, ports_, QApplication::activeWindow());
         QuitFrom(editor, quitWanted_);
         editor.exec();
     }
@@ -136,6 +137,34 @@ QString ChoosePhoto(const QString& folder) {
                                         folder,
                                         QObject::tr("Photos (%1)").arg(photos) +
                                             QStringLiteral(";;") + QObject::tr("All files (*)"));
+}
+
+QString ChooseLensFile() {
+    return QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), QObject::tr("Import lenses"), QDir::homePath(),
+        QObject::tr("Lens files (%1)")
+                .arg(QStringLiteral("*.json *.xml *.yaml *.yml *.pto *.lcp")) +
+            QStringLiteral(";;") + QObject::tr("All files (*)"));
+}
+
+QString ChooseLensExport(const QString& lens) {
+    QString name = lens;
+    const QString proposal =
+        QDir::home().filePath(name.replace(u'/', u'_') + QStringLiteral(".json"));
+    const QStringList endings{QStringLiteral(".json"), QStringLiteral(".yaml"),
+                              QStringLiteral(".xml")};
+    const QStringList filters{QObject::tr("Varnel's lens file (%1)").arg(u'*' + endings[0]),
+                              QObject::tr("Calibration for OpenCV (%1)").arg(u'*' + endings[1]),
+                              QObject::tr("Entry for lensfun (%1)").arg(u'*' + endings[2])};
+    SaveDialog dialog(QObject::tr("Export the lens"), proposal, filters);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
+        QString path = dialog.selectedFiles().value(0);
+        for (const QString& ending : endings) {
+            path.chop(path.endsWith(ending) ? ending.size() : 0);
+        }
+        dialog.selectFile(QFileInfo(path).fileName() + endings.value(filters.indexOf(filter)));
+    });
+    return dialog.Choose();
 }
 
 }  // namespace varnel

@@ -8,6 +8,7 @@
 
 #include "app/workspace/workspace.h"
 #include "base/notices.h"
+#include "gear/dialogs/gear_editor_ports.h"
 #include "gear/store/gear_store.h"
 
 namespace varnel {
@@ -26,8 +27,11 @@ class FirstGearPrompt : public GearPrompt {
   public:
     void Explain(const QString& text) override;
     bool DefineGear(GearTable& table) override;
+    // What the editor works with from now on.
+    void Use(const GearEditorPorts& ports) { ports_ = ports; }
 
   private:
+    GearEditorPorts ports_;
     bool quitWanted_ = false;
 };
 
@@ -40,5 +44,8 @@ class SaveFileDialog : public FileChooser {
 
 // The path of a photo, asked for with the platform's file dialog; empty when cancelled.
 QString ChoosePhoto(const QString& folder);
+// The path of a file of lenses to import, and of one to export a lens of that name to.
+QString ChooseLensFile();
+QString ChooseLensExport(const QString& lens);
 
 }  // namespace varnel

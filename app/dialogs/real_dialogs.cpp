@@ -15,6 +15,7 @@
 #include "app/dialogs/save_dialog.h"
 #include "gear/dialogs/form_gear_edit.h"
 #include "gear/dialogs/form_gear_list.h"
+#include "gear/lens/import/lensfun_data.h"
 #include "gear/store/gear_list.h"
 #include "pipeline/dialogs/form_add_images.h"
 #include "pipeline/dialogs/form_batch.h"
@@ -46,14 +47,36 @@ bool RealDialogs::AddImages(QWidget* parent) {
     return form.exec() == QDialog::Accepted;
 }
 
+QString RealDialogs::LastFolder() const {
+    return store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath());
+}
+
+GearEditorPorts RealDialogs::EditorPorts() {
+    const ImageRecord* const image = currentImage_ ? currentImage_() : nullptr;
+    return {.store = &store_,
+            .lensfun = LensfunFolders(),
+            .chooseLensFile = &ChooseLensFile,
+            .chooseExportFile = &ChooseLensExport,
+            .choosePhoto = [this] { return ChoosePhoto(LastFolder()); },
+            .photos = &photos_,
+            .photo = state_.bitmaps.PreviewSourceBitmap.get(),
+            .image = image};
+}
+
 std::vector<GearChange> RealDialogs::ManageGears(QWidget* parent) {
+    FormGearList* list = nullptr;
+    GearEditorPorts ports = EditorPorts();
+    ports.renamed = [&list](const QString& name, const LensReference& renamed) {
+        list->FollowLens(name, renamed);
+    };
     FormGearList form(
         state_.Gear, store_,
-        [](GearTable& gears) {
-            FormGearEdit editor(gears, QApplication::activeWindow());
+        [&ports](GearTable& gears) {
+            FormGearEdit editor(gears, ports, QApplication::activeWindow());
             editor.exec();
         },
         parent);
+    list = &form;
     return form.exec() == QDialog::Accepted ? form.Redefined() : std::vector<GearChange>();
 }
 
@@ -73,7 +96,7 @@ bool RealDialogs::GiveNewNumbers(const QString& gear, int photos) {
 
 bool RealDialogs::DefineGear(const GearRecord& known, QWidget* parent) {
     state_.Gear(0) = GearRecord();
-    FormGearEdit form(state_.Gear, parent);
+    FormGearEdit form(state_.Gear, EditorPorts(), parent);
     form.Propose(known);
     form.exec();
     if (state_.Gear(0).GearName.isEmpty()) {
@@ -106,9 +129,7 @@ void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChang
 
 void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
     const auto choosePhoto = [this](const QString& folder) {
-        return ChoosePhoto(folder.isEmpty()
-                               ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
-                               : folder);
+        return ChoosePhoto(folder.isEmpty() ? LastFolder() : folder);
     };
     FormStretch form(state_.settings, photos_, choosePhoto, fileChooser_, state_.pool, notices_,
                      parent);

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "app/view/dialogs.h"
+#include "gear/dialogs/gear_editor_ports.h"
 #include "pipeline/conversion/batch_run.h"
 #include "state/editing/working_state.h"
 #include "state/settings/settings_store.h"
@@ -37,13 +38,23 @@ class RealDialogs : public Dialogs {
     QString ChooseProject(const QString& folder) override;
     QString ChooseProjectName(const QString& proposal) override;
 
+    // What every gear editor works with.
+    GearEditorPorts EditorPorts();
+    // How they get to know the current photo's record; null for none.
+    void Use(std::function<const ImageRecord*()> currentImage) {
+        currentImage_ = std::move(currentImage);
+    }
+
   private:
+    QString LastFolder() const;
+
     WorkingState& state_;
     SettingsStore& store_;
     PictureReader& reader_;
     PhotoLoader& photos_;  // the same reader, with the window's way of waiting
     Notices& notices_;
     FileChooser& fileChooser_;
+    std::function<const ImageRecord*()> currentImage_;
     BatchChoices batchChoices_;  // the last ones, for the run of the program
 };
 

@@ -53,6 +53,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     ReadingBox wait;
     PhotoLoader photos(*reader, &wait, &state.settings);
     RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
+    gearPrompt.Use(dialogs.EditorPorts());
     MDIForm1 window(state, store,
                     {photos,
                      notices,
@@ -62,6 +63,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      [] { return NewPictureReader({.secondsPerPhoto = 10}); },
                      {UserSessionFolder()},
                      [] { return NewPictureReader(); }});
+    dialogs.Use([&window] { return window.CurrentImage(); });
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     window.OpenAtStart(Absolute(files));

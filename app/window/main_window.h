@@ -26,6 +26,7 @@ class MDIForm1 : public QMainWindow {
     // Added to the list when the gears are there: files named at the start.
     void OpenAtStart(const QStringList& files) { filesAtStart_ = files; }
     void AddFiles(const QStringList& files);
+    const ImageRecord* CurrentImage() const { return model_.list.Current(); }  // null for none
 
   Q_SIGNALS:
     // The gears are loaded and the window is ready for use.

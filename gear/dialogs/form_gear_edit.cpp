@@ -3,12 +3,16 @@
 
 #include "gear/dialogs/form_gear_edit.h"
 
+#include <QDragEnterEvent>
 #include <QEvent>
-#include <QScopedValueRollback>
+#include <QMimeData>
 #include <QSignalBlocker>
+#include <QUrl>
 
+#include "base/error_text.h"
 #include "gear/catalogue/camera_catalogue.h"
-#include "gear/catalogue/lens_catalogue.h"
+#include "gear/from_photo/photo_gear.h"
+#include "gear/lens/import/lensfun_data.h"
 #include "state/dialogs/wheel_guard.h"
 #include "ui_form_gear_edit.h"
 
@@ -37,23 +41,20 @@ bool MayEdit(QEvent::Type type) {
 
 }  // namespace
 
-FormGearEdit::FormGearEdit(GearTable& table, QWidget* parent)
-    : QDialog(parent), ui_(std::make_unique<Ui::FormGearEdit>()), table_(table) {
+FormGearEdit::FormGearEdit(GearTable& table, const GearEditorPorts& ports, QWidget* parent)
+    : QDialog(parent),
+      ui_(std::make_unique<Ui::FormGearEdit>()),
+      table_(table),
+      ports_(ports),
+      choice_(ports.store) {
     ui_->setupUi(this);
     prompt_ = ui_->GearNameText->text();
-    adjusters_ = {
-        {&GearRecord::hAOV, ui_->SliderhAOV, ui_->SpinhAOV, ui_->LabelhAOV, tr(" \u00b0"),
-         hAovRange},
-        {&GearRecord::GearRatio, ui_->SliderRatio, ui_->SpinRatio, ui_->LabelRatio, tr(" %"),
-         ratioRange},
-        {&GearRecord::OfsetX, ui_->SliderXofset, ui_->SpinXofset, ui_->LabelXofset,
-         tr(" \u2030 hor."), ofsetRange},
-        {&GearRecord::OfsetY, ui_->SliderYofset, ui_->SpinYofset, ui_->LabelYofset,
-         tr(" \u2030 vert."), ofsetRange},
-    };
     ConnectNameText();
     ConnectChoice();
-    ConnectAdjusters();
+    adjusters_ = new GearAdjusters(*ui_, table_, this);
+    connect(adjusters_, &GearAdjusters::Moved, this, &FormGearEdit::ShowState);
+    ConnectLenses();
+    SetUpResult();
     connect(ui_->CmdCatalogue, &QPushButton::clicked, this, &FormGearEdit::UseCatalogue);
     connect(ui_->CmdAdd, &QPushButton::clicked, this, &FormGearEdit::Confirm);
     connect(ui_->CmdCancel, &QPushButton::clicked, this, &FormGearEdit::reject);
@@ -63,6 +64,8 @@ FormGearEdit::FormGearEdit(GearTable& table, QWidget* parent)
 FormGearEdit::~FormGearEdit() = default;
 
 void FormGearEdit::Propose(const GearRecord& known) {
+    choice_.Remember(known);
+    OfferLenses();
     if (!known.GearName.isEmpty()) {
         ui_->GearNameText->setText(known.GearName);
     }
@@ -96,6 +99,15 @@ bool FormGearEdit::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
+// Lines of text that come and go need more height than the layout asks for by itself.
+bool FormGearEdit::event(QEvent* event) {
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest) {
+        resize(size().expandedTo({0, layout()->totalHeightForWidth(width())}));
+    }
+    return handled;
+}
+
 void FormGearEdit::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
@@ -118,27 +130,11 @@ void FormGearEdit::ConnectChoice() {
         ShowState();
     });
     connect(ui_->LensBrandCombo, &QComboBox::currentTextChanged, this, [this](const QString& b) {
-        Offer(ui_->LensCombo, FillLensModels(b));
+        Offer(ui_->LensCombo, choice_.Models(b));
         ShowState();
     });
     connect(ui_->CameraCombo, &QComboBox::currentIndexChanged, this, &FormGearEdit::Choose);
     connect(ui_->LensCombo, &QComboBox::currentIndexChanged, this, &FormGearEdit::Choose);
-}
-
-void FormGearEdit::ConnectAdjusters() {
-    for (const Adjuster& adjuster : adjusters_) {
-        new WheelGuard(adjuster.slider);
-        new WheelGuard(adjuster.spin);
-        connect(adjuster.spin, &QSpinBox::valueChanged, adjuster.slider, &QSlider::setValue);
-        connect(adjuster.slider, &QSlider::valueChanged, this, [this, &adjuster](int value) {
-            Follow(adjuster, value);
-            TakeAdjustment(adjuster, value);
-        });
-        // Wide enough for every value, so that nothing moves while a slider is dragged.
-        const QString widest = QStringLiteral("-200") + adjuster.unit;
-        adjuster.label->setMinimumWidth(fontMetrics().horizontalAdvance(widest));
-        Follow(adjuster, adjuster.slider->value());
-    }
 }
 
 void FormGearEdit::Open() {
@@ -148,7 +144,8 @@ void FormGearEdit::Open() {
                           : tr("Redefine camera + lens combination"));
     ui_->CmdAdd->setText(isNew_ ? tr("Add") : tr("Update"));
     Offer(ui_->CameraBrandCombo, FillCameraBrands());
-    Offer(ui_->LensBrandCombo, FillLensBrands());
+    choice_.Remember(table_(0));
+    OfferLenses();
     if (isNew_) {
         ui_->CameraBrandCombo->setFocus();  // a name is optional
     } else {
@@ -164,7 +161,7 @@ void FormGearEdit::SelectNames(const GearNames& names) {
     Offer(ui_->CameraCombo, FillCameraModels(ui_->CameraBrandCombo->currentText()));
     Select(ui_->CameraCombo, names.cameraModel);
     Select(ui_->LensBrandCombo, names.lensBrand);
-    Offer(ui_->LensCombo, FillLensModels(ui_->LensBrandCombo->currentText()));
+    Offer(ui_->LensCombo, choice_.Models(ui_->LensBrandCombo->currentText()));
     Select(ui_->LensCombo, names.lensModel);
 }
 
@@ -175,6 +172,8 @@ void FormGearEdit::Choose() {
         table_(0) = opened_;
     } else {
         DropAdjustments(table_(0));
+        const GearNames names = ChosenNames();
+        table_(0).Lens = choice_.Curve(names.lensBrand, names.lensModel);
     }
     Refresh();
     ShowState();
@@ -187,31 +186,150 @@ void FormGearEdit::Refresh() {
     if (!BothChosen()) {
         return;  // there are no angles yet
     }
-    for (const Adjuster& adjuster : adjusters_) {
-        ShowNumber(adjuster);
+    adjusters_->Show();
+    ui_->LabelLensOrigin->setText(LacksLens(table_(0)) ? tr("The file of this lens is not there.")
+                                  : table_(0).Lens     ? OriginText(*table_(0).Lens)
+                                                       : QString());
+}
+
+void FormGearEdit::ConnectLenses() {
+    ownLenses_ = new OwnLensTools(
+        {ui_->CmdLens, ui_->LabelLensLine, ui_->LensNameText, ui_->CmdLensName, ui_->CmdLensUndo},
+        ports_, choice_, table_, this);
+    connect(ownLenses_, &OwnLensTools::Renamed, this, &FormGearEdit::OnLensRenamed);
+    connect(ownLenses_, &OwnLensTools::Changed, this, &FormGearEdit::OnLensesChanged);
+    setAcceptDrops(choice_.Folder().has_value());
+    ui_->CmdTypical->setVisible(choice_.Folder().has_value());
+    connect(ui_->CmdTypical, &QPushButton::clicked, this,
+            [this] { ChooseLens(typicalLensBrand, typicalLensModels[0]); });
+    if (choice_.Folder() && !ports_.lensfun.isEmpty()) {
+        lensfun_.Start([folders = ports_.lensfun](
+                           const auto& stopped) { return LensfunFisheyes(folders, &stopped); },
+                       [this](const QList<SampledLens>& lenses) {
+                           choice_.SetLensfun(lenses);
+                           OfferLenses();
+                       });
     }
 }
 
-void FormGearEdit::ShowNumber(const Adjuster& adjuster) {
-    const QScopedValueRollback<bool> loading(loading_, true);
-    const int position = SliderPosition(table_(0).*adjuster.number);
-    const SliderRange range = Widened(adjuster.range, position);
-    adjuster.spin->setRange(range.minimum, range.maximum);
-    adjuster.slider->setRange(range.minimum, range.maximum);
-    adjuster.slider->setValue(position);
+// What was chosen stays chosen.
+void FormGearEdit::OfferLenses() {
+    const GearNames chosen = ChosenNames();
+    Offer(ui_->LensBrandCombo, choice_.Brands());
+    Select(ui_->LensBrandCombo, chosen.lensBrand);
+    Offer(ui_->LensCombo, choice_.Models(ui_->LensBrandCombo->currentText()));
+    Select(ui_->LensCombo, chosen.lensModel);
 }
 
-void FormGearEdit::Follow(const Adjuster& adjuster, int value) {
-    adjuster.label->setText(QString::number(value) + adjuster.unit);
-    adjuster.spin->setValue(value);
-}
-
-void FormGearEdit::TakeAdjustment(const Adjuster& adjuster, int value) {
-    if (loading_) {
+void FormGearEdit::OnLensesChanged(const QString& name) {
+    if (!name.isEmpty()) {
+        ChooseLens(ownLensBrand, name);
         return;
     }
-    SetNumber(adjuster.number, value, table_(0));
-    ShowState();
+    OfferLenses();
+    Choose();
+}
+
+void FormGearEdit::OnLensRenamed(const QString& name, const LensReference& renamed) {
+    if (opened_.LensBrand == ownLensBrand && opened_.LensModel == name) {
+        opened_.LensModel = renamed->name;
+        opened_.Lens = renamed;
+    }
+    if (ports_.renamed) {
+        ports_.renamed(name, renamed);
+    }
+}
+
+void FormGearEdit::ChooseLens(const QString& brand, const QString& model) {
+    Offer(ui_->LensBrandCombo, choice_.Brands());
+    Select(ui_->LensBrandCombo, brand);
+    Offer(ui_->LensCombo, choice_.Models(brand));
+    Select(ui_->LensCombo, model);
+    Choose();
+}
+
+bool FormGearEdit::KeepLens() {
+    const Reason reason = choice_.Keep(table_(0));
+    if (!reason.isEmpty()) {
+        ownLenses_->ShowLine(tr("The lens could not be kept: %1").arg(ErrorText(reason)));
+    }
+    return reason.isEmpty();
+}
+
+void FormGearEdit::SetUpResult() {
+    ui_->CmdFromPhoto->setVisible(ports_.photos != nullptr && ports_.choosePhoto);
+    connect(ui_->CmdFromPhoto, &QPushButton::clicked, this, &FormGearEdit::ReadPhoto);
+    ui_->FrameResult->setVisible(ports_.store != nullptr);
+    if (ports_.store == nullptr) {
+        return;
+    }
+    result_ = new GearResult(ui_->PicResult, ui_->ResultCombo);
+    if (ports_.photo != nullptr && ports_.image != nullptr) {
+        result_->SetPhoto(*ports_.photo, *ports_.image);
+    }
+}
+
+void FormGearEdit::ShowResult() {
+    if (result_ == nullptr) {
+        return;
+    }
+    ui_->LabelResult->setText(result_->HasPhoto() ? tr("Of the photo")
+                                                  : tr("Of a drawn room, seen by this lens"));
+    if (BothChosen() && !LacksLens(table_(0))) {
+        result_->Show(table_(0));
+    } else {
+        result_->Clear();
+    }
+}
+
+void FormGearEdit::ReadPhoto() {
+    const QString path = ports_.choosePhoto();
+    if (path.isEmpty()) {
+        return;
+    }
+    const LoadedPicture photo = ports_.photos->Load(path);
+    if (!isVisible() || ports_.photos->GivenUp()) {
+        return;
+    }
+    if (photo.outcome != LoadOutcome::Loaded) {
+        ownLenses_->ShowLine(path + QStringLiteral(": ") + ErrorText(photo.reason));
+        return;
+    }
+    if (result_ != nullptr) {
+        ImageRecord image;
+        image.Orientation = static_cast<std::int16_t>(photo.orientation);
+        result_->SetPhoto(*photo.bitmap, image);
+    }
+    TakeOrigin(photo.bitmap->metadata.photo.origin);
+}
+
+// What the photo does not tell stays as it was chosen.
+void FormGearEdit::TakeOrigin(const CameraInfo& origin) {
+    const PhotoGear found = GearOfPhoto(origin, GearTable());
+    GearNames names = ChosenNames();
+    if (!found.names.cameraModel.isEmpty()) {
+        names.cameraBrand = found.names.cameraBrand;
+        names.cameraModel = found.names.cameraModel;
+    }
+    if (!found.names.lensModel.isEmpty()) {
+        names.lensBrand = found.names.lensBrand;
+        names.lensModel = found.names.lensModel;
+    }
+    SelectNames(names);
+    Choose();
+    ownLenses_->ShowLine(found.IsWhole() ? tr("Taken with %1.").arg(found.takenWith) : found.said);
+}
+
+void FormGearEdit::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.constFirst().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void FormGearEdit::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    ownLenses_->Import(event->mimeData()->urls().constFirst().toLocalFile());
 }
 
 void FormGearEdit::UseCatalogue() {
@@ -222,12 +340,21 @@ void FormGearEdit::UseCatalogue() {
 }
 
 void FormGearEdit::Confirm() {
+    if (!KeepLens()) {
+        return;
+    }
+    GearNames names = ChosenNames();
+    if (table_(0).Lens) {
+        names.lensBrand = table_(0).LensBrand;
+        names.lensModel = table_(0).LensModel;
+    }
     const QString typed = NameIsPrompt() ? QString() : ui_->GearNameText->text();
-    DefineEditedGear(table_, {typed, ChosenNames(), isNew_});
+    DefineEditedGear(table_, {typed, names, isNew_});
     accept();
 }
 
 void FormGearEdit::ShowState() {
+    ShowResult();
     const bool chosen = BothChosen();
     const bool adjusted = table_(0).SetByHand;
     ui_->CmdAdd->setEnabled(chosen);
@@ -235,6 +362,8 @@ void FormGearEdit::ShowState() {
     ui_->CmdCatalogue->setEnabled(chosen && adjusted);
     if (!chosen) {
         ui_->LabelAdjusted->setText(tr("Choose a camera and a lens first."));
+    } else if (table_(0).Own.HasLens()) {
+        ui_->LabelAdjusted->setText(tr("The numbers of the lens are set by hand."));
     } else if (adjusted && HasOwnAngle(table_(0)) && !HasOwnCircle(table_(0))) {
         ui_->LabelAdjusted->setText(tr("The angle of view is set by hand."));
     } else if (adjusted) {

@@ -3,21 +3,22 @@
 
 // The gear editor: defines the scratch gear, element 0 of the table, from a camera and a lens. A
 // scratch gear that has a name is redefined, else a new one is made. After the dialog has closed an
-// empty name means that nothing was defined. Throws nothing.
+// empty name means that nothing was defined. A lens with a curve that is not one of the user's own
+// becomes one when the gear is confirmed. Throws nothing but for want of memory.
 #pragma once
 
 #include <QDialog>
 #include <QString>
 #include <memory>
-#include <vector>
 
+#include "gear/dialogs/background_work.h"
+#include "gear/dialogs/gear_adjusters.h"
+#include "gear/dialogs/gear_editor_ports.h"
+#include "gear/dialogs/gear_result.h"
+#include "gear/dialogs/lens_choice.h"
+#include "gear/dialogs/own_lens_tools.h"
 #include "gear/store/gear_entry.h"
 #include "state/records/gear_record.h"
-
-class QComboBox;
-class QLabel;
-class QSlider;
-class QSpinBox;
 
 namespace Ui {
 class FormGearEdit;
@@ -29,7 +30,8 @@ class FormGearEdit : public QDialog {
     Q_OBJECT
 
   public:
-    explicit FormGearEdit(GearTable& table, QWidget* parent = nullptr);
+    explicit FormGearEdit(GearTable& table, const GearEditorPorts& ports = {},
+                          QWidget* parent = nullptr);
     ~FormGearEdit() override;
 
     // Starts a new gear with the known names and numbers; names that are in no catalogue are left
@@ -39,30 +41,28 @@ class FormGearEdit : public QDialog {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
-    // One of the gear's numbers: its slider, the same as a whole number, its label and the range
-    // that it has for most gears.
-    struct Adjuster {
-        float GearRecord::*number;
-        QSlider* slider;
-        QSpinBox* spin;
-        QLabel* label;
-        QString unit;
-        SliderRange range;
-    };
-
     void ConnectChoice();
-    void ConnectAdjusters();
     void ConnectNameText();
     void Open();
     void SelectNames(const GearNames& names);
     void Choose();
     void Refresh();
-    void ShowNumber(const Adjuster& adjuster);
-    void Follow(const Adjuster& adjuster, int value);
-    void TakeAdjustment(const Adjuster& adjuster, int value);
+    void ConnectLenses();
+    void OfferLenses();
+    void OnLensesChanged(const QString& name);
+    void OnLensRenamed(const QString& name, const LensReference& renamed);
+    void ChooseLens(const QString& brand, const QString& model);
+    bool KeepLens();
+    void SetUpResult();
+    void ShowResult();
+    void ReadPhoto();
+    void TakeOrigin(const CameraInfo& origin);
     void UseCatalogue();
     void Confirm();
     void ShowState();
@@ -73,11 +73,15 @@ class FormGearEdit : public QDialog {
 
     std::unique_ptr<Ui::FormGearEdit> ui_;
     GearTable& table_;
+    GearEditorPorts ports_;
+    LensChoice choice_;
+    OwnLensTools* ownLenses_ = nullptr;
+    GearResult* result_ = nullptr;
     GearRecord opened_;  // the gear when the dialog was opened
-    std::vector<Adjuster> adjusters_;
+    GearAdjusters* adjusters_ = nullptr;
     QString prompt_;
     bool isNew_ = true;
-    bool loading_ = false;  // the program moves the controls, not the user
+    BackgroundWork<QList<SampledLens>> lensfun_{this};
 };
 
 }  // namespace varnel

@@ -31,6 +31,10 @@ class FormGearList : public QDialog {
     // Since the dialog was opened.
     std::vector<GearChange> Redefined() const { return origins_.Redefined(table_); }
     void reject() override;
+    // Of the gears that cancelling brings back, too.
+    void FollowLens(const QString& name, const LensReference& renamed) {
+        origins_.RenameLens(name, renamed);
+    }
 
   private:
     void AddNew();

@@ -3,6 +3,8 @@
 
 #include "tests/app/access/every_form.h"
 
+#include <QDateTime>
+
 #include "app/dialogs/form_about.h"
 #include "app/dialogs/form_guide.h"
 #include "gear/dialogs/form_gear_edit.h"
@@ -64,10 +66,14 @@ void ShowGearForms(TestWindow& workspace, const Look& look) {
     FormGearList list(workspace.state.Gear, workspace.store, [](GearTable&) {});
     Show(list, look);
     workspace.state.Gear(0) = GearRecord();
-    FormGearEdit empty(workspace.state.Gear);
+    const auto store = OpenFileStore(workspace.files.Path(QStringLiteral("conf/V.conf")),
+                                     QDateTime::currentDateTime());
+    const GearEditorPorts ports{
+        .store = store.get(), .choosePhoto = [] { return QString(); }, .photos = &workspace.photos};
+    FormGearEdit empty(workspace.state.Gear, ports);
     Show(empty, look);
     workspace.state.Gear(0) = workspace.state.Gear(1);
-    FormGearEdit gear(workspace.state.Gear);
+    FormGearEdit gear(workspace.state.Gear, ports);
     Show(gear, look);
 }
 

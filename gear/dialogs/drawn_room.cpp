@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "gear/dialogs/drawn_room.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "gear/catalogue/gear_catalogue.h"
+#include "gear/store/gear_entry.h"
+#include "remap/projection/geometry.h"
+
+namespace varnel {
+
+namespace {
+
+using Colour = std::array<std::uint8_t, 3>;  // blue, green, red
+
+struct Optics {
+    LensKind kind = LensKind::Sin;
+    LensCurve curve;
+    double circle = 0.0;  // millimetres; nothing beyond
+};
+
+Optics OpticsOf(const GearRecord& gear) {
+    if (gear.Lens) {
+        const bool inMillimetres = gear.Lens->unit == SampledLens::Unit::Millimetres;
+        const auto spline = std::make_shared<const LensSpline>(*gear.Lens);
+        const float scale = inMillimetres ? 1.0F : gear.ImageCircleRadius;
+        return {LensKind::Sampled,
+                {scale, 0.0F, spline},
+                static_cast<double>(scale) * spline->RadiusAt(gear.Lens->FieldLimit())};
+    }
+    return {LensMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString()),
+            {gear.LensMapScale, gear.LensMapFactor},
+            static_cast<double>(gear.ImageCircleRadius)};
+}
+
+// Where the ray leaves a box with the camera in it: tiles with joints, each wall in its shade.
+Colour WallAt(const Ray& ray) {
+    constexpr std::array half{2.2, 1.4, 2.8};  // metres across, up, ahead
+    const std::array direction{ray.x, ray.y, ray.z};
+    std::size_t wall = 0;
+    double reach = 1e9;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double along = std::fabs(direction[axis]);
+        if (along * reach > half[axis]) {
+            reach = half[axis] / along;
+            wall = axis;
+        }
+    }
+    constexpr double tile = 0.7;
+    constexpr double joint = 0.05;
+    bool isJoint = false;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double place = direction[axis] * reach / tile + 0.5;
+        isJoint = isJoint || (axis != wall && place - std::floor(place) < joint / tile);
+    }
+    constexpr std::array<Colour, 3> walls{{{190, 205, 220}, {150, 175, 190}, {225, 230, 235}}};
+    return isJoint ? Colour{60, 60, 60} : walls[wall];
+}
+
+}  // namespace
+
+BitmapHandle DrawnRoom(const GearRecord& edited, PixelSize box) {
+    GearRecord gear = edited;
+    DropAdjustments(gear);
+    FillGearFromCatalogue(NamesOf(gear), gear);
+    if (!(gear.SensorWidth > 0.0F && gear.SensorHeight > 0.0F)) {
+        return NewBitmap(box);
+    }
+    const double scale = std::min(box.width / static_cast<double>(gear.SensorWidth),
+                                  box.height / static_cast<double>(gear.SensorHeight));
+    const PixelSize size{
+        std::max(1, static_cast<int>(static_cast<double>(gear.SensorWidth) * scale)),
+        std::max(1, static_cast<int>(static_cast<double>(gear.SensorHeight) * scale))};
+    const Optics optics = OpticsOf(gear);
+    BitmapHandle room = NewBitmap(size);
+    for (int y = 0; y < size.height; ++y) {
+        const auto row = room->ScanLine(y);
+        for (int x = 0; x < size.width; ++x) {
+            const double right = (x - size.width / 2) / scale;
+            const double up = (y - size.height / 2) / scale;
+            const double radius = std::hypot(right, up);
+            const double angle = LensAngle(optics.kind, radius, optics.curve);
+            if (radius > optics.circle || std::isnan(angle)) {
+                continue;
+            }
+            const double across = radius > 0.0 ? std::sin(angle) / radius : 0.0;
+            const Colour colour = WallAt({right * across, up * across, std::cos(angle)});
+            std::ranges::copy(colour, row.begin() + 3 * x);
+        }
+    }
+    return room;
+}
+
+}  // namespace varnel

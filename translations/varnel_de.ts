@@ -613,6 +613,106 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Close without a change</source>
         <translation>Schließen, ohne etwas zu ändern</translation>
     </message>
+    <message>
+        <source>Read &amp;from a photo ...</source>
+        <translation>Aus einem &amp;Foto lesen ...</translation>
+    </message>
+    <message>
+        <source>Take the camera and the lens that the EXIF of a photo names</source>
+        <translation>Nimmt Kamera und Objektiv, die die EXIF-Daten eines Fotos nennen</translation>
+    </message>
+    <message>
+        <source>Not listed: a t&amp;ypical fisheye</source>
+        <translation>Fehlt: &amp;typisches Fischauge</translation>
+    </message>
+    <message>
+        <source>A fisheye of 180 degrees stands in for a lens that is not listed; measure it later from a photo</source>
+        <translation>Ein Fischauge mit 180 Grad vertritt ein Objektiv, das nicht in der Liste steht; vermessen lässt es sich später an einem Foto</translation>
+    </message>
+    <message>
+        <source>My len&amp;ses</source>
+        <translation>Meine Objekti&amp;ve</translation>
+    </message>
+    <message>
+        <source>Import a calibrated lens; rename, export or delete one of your own. Files may be dropped here, too.</source>
+        <translation>Ein kalibriertes Objektiv importieren; ein eigenes umbenennen, exportieren oder löschen. Dateien lassen sich auch hierher ziehen.</translation>
+    </message>
+    <message>
+        <source>New name of the lens</source>
+        <translation>Neuer Name des Objektivs</translation>
+    </message>
+    <message>
+        <source>The name under which the lens is listed; gears that have it follow</source>
+        <translation>Der Name, unter dem das Objektiv in der Liste steht; Ausrüstungen mit ihm folgen</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Give the lens this name now</source>
+        <translation>Dem Objektiv jetzt diesen Namen geben</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Take the deleted lens back</source>
+        <translation>Das gelöschte Objektiv zurückholen</translation>
+    </message>
+    <message>
+        <source>How far the optical axis lies from where the lens or the middle of the photo puts it, in thousandths of its width</source>
+        <translation>Wie weit die optische Achse von ihrem Ort nach dem Objektiv oder von der Bildmitte liegt, in Tausendsteln der Bildbreite</translation>
+    </message>
+    <message>
+        <source>Horizontal offset of the optical axis in thousandths, exact value</source>
+        <translation>Waagerechter Versatz der optischen Achse in Tausendsteln, genauer Wert</translation>
+    </message>
+    <message>
+        <source>How far the optical axis lies from where the lens or the middle of the photo puts it, in thousandths of its height</source>
+        <translation>Wie weit die optische Achse von ihrem Ort nach dem Objektiv oder von der Bildmitte liegt, in Tausendsteln der Bildhöhe</translation>
+    </message>
+    <message>
+        <source>Vertical offset of the optical axis in thousandths, exact value</source>
+        <translation>Senkrechter Versatz der optischen Achse in Tausendsteln, genauer Wert</translation>
+    </message>
+    <message>
+        <source>Curve of the &amp;lens, A (mm) and B</source>
+        <translation>K&amp;urve des Objektivs, A (mm) und B</translation>
+    </message>
+    <message>
+        <source>The first of the two numbers of the lens: how far from the centre rays land</source>
+        <translation>Die erste der beiden Zahlen des Objektivs: wie weit von der Mitte Strahlen auftreffen</translation>
+    </message>
+    <message>
+        <source>A of the lens in millimetres</source>
+        <translation>A des Objektivs in Millimetern</translation>
+    </message>
+    <message>
+        <source>The second of the two numbers of the lens: how much it squeezes towards the rim</source>
+        <translation>Die zweite der beiden Zahlen des Objektivs: wie sehr es zum Rand hin staucht</translation>
+    </message>
+    <message>
+        <source>B of the lens</source>
+        <translation>B des Objektivs</translation>
+    </message>
+    <message>
+        <source>Small result</source>
+        <translation>Kleines Ergebnis</translation>
+    </message>
+    <message>
+        <source>What these numbers make of a photo</source>
+        <translation>Was diese Zahlen aus einem Foto machen</translation>
+    </message>
+    <message>
+        <source>The projection of the small result: Rectilinear shows whether lines are straight, Varnel and Horizon where the circle lies</source>
+        <translation>Die Projektion des kleinen Ergebnisses: Rectilinear zeigt, ob Linien gerade sind, Varnel und Horizon, wo der Kreis liegt</translation>
+    </message>
+    <message>
+        <source>Projection of the small result</source>
+        <translation>Projektion des kleinen Ergebnisses</translation>
+    </message>
 </context>
 <context>
     <name>FormGearList</name>
@@ -1044,12 +1144,39 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source> (camera not in the list)</source>
         <translation> (Kamera nicht in der Liste)</translation>
     </message>
+    <message>
+        <source>The lens &quot;%1&quot; is not there</source>
+        <translation>Das Objektiv „%1“ fehlt</translation>
+    </message>
 </context>
 <context>
     <name>GearStore</name>
     <message>
         <source>Please define at least one camera + lens combination ...</source>
         <translation>Bitte legen Sie mindestens eine Kombination aus Kamera und Objektiv fest ...</translation>
+    </message>
+    <message>
+        <source>The gear &quot;%1&quot; needs the lens &quot;%2&quot; of &quot;My lenses&quot;, which is not there.</source>
+        <translation>Die Ausrüstung „%1“ braucht das Objektiv „%2“ unter „My lenses“, das fehlt.</translation>
+    </message>
+</context>
+<context>
+    <name>LensChoice</name>
+    <message>
+        <source>Measured on %1</source>
+        <translation>Gemessen am %1</translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation>Gemessen</translation>
+    </message>
+    <message>
+        <source> from %1</source>
+        <translation> an %1</translation>
+    </message>
+    <message>
+        <source>; its edges are straight to %1 px</source>
+        <translation>; seine Kanten sind auf %1 px gerade</translation>
     </message>
 </context>
 <context>
@@ -1363,6 +1490,30 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Photos in the list: %1. &quot;No&quot; removes it for good.</source>
         <translation>Fotos in der Liste: %1. „Nein“ löscht sie endgültig.</translation>
+    </message>
+    <message>
+        <source>Import lenses</source>
+        <translation>Objektive importieren</translation>
+    </message>
+    <message>
+        <source>Lens files (%1)</source>
+        <translation>Objektivdateien (%1)</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s lens file (%1)</source>
+        <translation>Objektivdatei von Varnel (%1)</translation>
+    </message>
+    <message>
+        <source>Calibration for OpenCV (%1)</source>
+        <translation>Kalibrierung für OpenCV (%1)</translation>
+    </message>
+    <message>
+        <source>Entry for lensfun (%1)</source>
+        <translation>Eintrag für lensfun (%1)</translation>
+    </message>
+    <message>
+        <source>Export the lens</source>
+        <translation>Objektiv exportieren</translation>
     </message>
 </context>
 <context>
@@ -1861,6 +2012,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>there is no lens of this name</source>
         <translation>es gibt kein Objektiv dieses Namens</translation>
+    </message>
+    <message>
+        <source>lenses are written to files that end in .json, .yaml or .xml</source>
+        <translation>Objektive werden in Dateien geschrieben, die auf .json, .yaml oder .xml enden</translation>
     </message>
 </context>
 <context>
@@ -2655,6 +2810,30 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>The angle of view is set by hand.</source>
         <translation>Der Bildwinkel ist von Hand eingestellt.</translation>
     </message>
+    <message>
+        <source>The file of this lens is not there.</source>
+        <translation>Die Datei dieses Objektivs fehlt.</translation>
+    </message>
+    <message>
+        <source>The lens could not be kept: %1</source>
+        <translation>Das Objektiv konnte nicht aufgehoben werden: %1</translation>
+    </message>
+    <message>
+        <source>Of the photo</source>
+        <translation>Vom Foto</translation>
+    </message>
+    <message>
+        <source>Of a drawn room, seen by this lens</source>
+        <translation>Von einem gezeichneten Raum, gesehen von diesem Objektiv</translation>
+    </message>
+    <message>
+        <source>Taken with %1.</source>
+        <translation>Aufgenommen mit %1.</translation>
+    </message>
+    <message>
+        <source>The numbers of the lens are set by hand.</source>
+        <translation>Die Zahlen des Objektivs sind von Hand eingestellt.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormGearList</name>
@@ -2946,6 +3125,69 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
         <translation>Nur Rectilinear lässt sich ausrichten; die anderen drehen die Kamera nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::OwnLensTools</name>
+    <message>
+        <source>&amp;Import ...</source>
+        <translation>&amp;Importieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Rename ...</source>
+        <translation>&amp;Umbenennen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Export ...</source>
+        <translation>&amp;Exportieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1</source>
+        <translation>Nichts wurde geändert: %1</translation>
+    </message>
+    <message>
+        <source>Reading %1 ...</source>
+        <translation>%1 wird gelesen ...</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one of your lenses now.</source>
+        <translation>„%1“ gehört jetzt zu Ihren Objektiven.</translation>
+    </message>
+    <message>
+        <source>%1 lenses are among yours now.</source>
+        <translation>%1 Objektive gehören jetzt zu Ihren.</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>New name of the lens:</source>
+        <translation>Neuer Name des Objektivs:</translation>
+    </message>
+    <message>
+        <source>Not exported: %1</source>
+        <translation>Nicht exportiert: %1</translation>
+    </message>
+    <message>
+        <source>Written to %1; its formula is off the curve by at most %2 px.</source>
+        <translation>In %1 geschrieben; die Formel weicht höchstens %2 px von der Kurve ab.</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>In %1 geschrieben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was deleted.</source>
+        <translation>„%1“ wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was deleted; gears that need it: %2.</source>
+        <translation>„%1“ wurde gelöscht; Ausrüstungen, die es brauchen: %2.</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "cli/like_picture.h"
+#include "cli/straighten_photo.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/morph_sequence.h"
@@ -145,6 +146,10 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
         TakeCircle(options.givenCircle, record);
         KeepOfLike(options, record);
         reading.doubts.scale = reading.doubts.centre = false;
+    }
+    if (options.straighten && photo != nullptr) {
+        Straighten(request, *photo, started);
+        KeepOfLike(options, record);
     }
     if (request.gears.forAll && reading.source == GearSource::Exif) {
         reading.source = GearSource::Given;

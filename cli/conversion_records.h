@@ -11,6 +11,7 @@
 #include "cli/choose_gear.h"
 #include "cli/options/options.h"
 #include "pipeline/photos/photo_loader.h"
+#include "remap/analysis/straighten/stop_check.h"
 #include "state/adjustments/frame_reading.h"
 #include "state/settings/general_settings.h"
 
@@ -21,11 +22,12 @@ struct ConvertRequest {
     const Options& options;
     const GearChoice& gears;
     const GeneralSettings& settings;
+    StopCheck stop = {};  // of measuring
 };
 
 // The record of a photo with its size known, with its gear, and for --gear guess with the file's
-// camera; the circle on the photo acts on it as the options say. The photo may be null: no circle
-// is looked for then. Throws std::bad_alloc only.
+// camera; the circle and, with --straighten, the edges on the photo act on it as the options say.
+// The photo may be null: neither is looked for then. Throws std::bad_alloc only.
 struct StartedRecord {
     ImageRecord record;
     FrameReading reading;

@@ -48,7 +48,8 @@ class CommandRun : public ConversionObserver {
     CommandRun(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
                const Console& console)
         : settings_(With(options, settings)),
-          request_{options, gears, settings_},
+          request_{options, gears, settings_,
+                   StopCheck([&console] { return console.StopSignal() != 0; })},
           runner_(options.jobs.value_or(QThread::idealThreadCount())),
           console_(console),
           reports_(options, console),

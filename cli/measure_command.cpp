@@ -3,15 +3,14 @@
 
 #include "cli/measure_command.h"
 
-#include <QDate>
 #include <QFileInfo>
 #include <algorithm>
 
 #include "base/error_text.h"
-#include "cli/conversion_records.h"
+#include "cli/own_lenses.h"
 #include "cli/report/json_line.h"
+#include "cli/straighten_photo.h"
 #include "gear/lens/lens_file.h"
-#include "remap/analysis/straighten/measure_lens.h"
 
 namespace varnel {
 
@@ -27,42 +26,10 @@ struct Start {
     QString error;
 };
 
-// The record's lens as it draws on a photo.
-LensView KnownView(const ImageRecord& record, double pixelsPerMillimetre, const EdgePoint& centre) {
-    if (record.Lens) {
-        const bool inMillimetres = record.Lens->unit == SampledLens::Unit::Millimetres;
-        const double unit = inMillimetres ? 1.0 : static_cast<double>(record.ImageCircleRadius);
-        return ViewOfLens(*record.Lens, unit * pixelsPerMillimetre, centre);
-    }
-    return ViewOfFormula(
-        LensMappingKind(record.LensBrand.toStdString(), record.LensModel.toStdString()),
-        {record.LensMapScale, record.LensMapFactor}, pixelsPerMillimetre, centre);
-}
-
-MeasureOptions OptionsFrom(const Options& options, const StartedRecord& started, PixelSize size) {
-    const ImageRecord& record = started.record;
-    MeasureOptions measure;
-    measure.lensName = QFileInfo(options.measureLens).completeBaseName();
-    measure.date = QDate::currentDate();
-    measure.colour = true;
-    if (options.circle == CircleUse::Given) {
-        measure.circle = options.givenCircle;
-    }
-    if (started.reading.source != GearSource::Guess) {
-        measure.pixelsPerMillimetre = PixelsPerUnit(
-            size.width, record.Landscape,
-            {std::max(record.SensorWidth, 0.1F), std::max(record.SensorHeight, 0.1F)});
-        const ImageCircle circle = CircleOf(record, size);
-        measure.guess =
-            KnownView(record, *measure.pixelsPerMillimetre, {circle.x, size.height - circle.y});
-    }
-    measure.focalMillimetres = options.focal;
-    return measure;
-}
-
 Start StartFor(const Options& given, SettingsStore& store, const LoadedPicture& photo) {
     Options options = given;
-    if (options.gear.isEmpty() && !options.camera) {
+    options.straighten = false;
+    if (options.gear.isEmpty() && !options.camera && options.lensFile.isEmpty()) {
         options.gear = guessGear;
     }
     if (options.circle == CircleUse::Off) {
@@ -81,7 +48,9 @@ Start StartFor(const Options& given, SettingsStore& store, const LoadedPicture& 
     const StartedRecord started = StartRecord(
         {options, choice, settings}, options.files.front(), {photo.size, photo.orientation},
         std::get<std::optional<GearRecord>>(gear), photo.bitmap.get());
-    MeasureOptions measure = OptionsFrom(options, started, photo.size);
+    MeasureOptions measure = MeasureOptionsFor(options, started, photo.size);
+    measure.lensName = QFileInfo(options.measureLens).completeBaseName();
+    measure.colour = true;
     if (measure.focalMillimetres && !measure.pixelsPerMillimetre) {
         return {{},
                 QStringLiteral("--focal is of no use without the size of the sensor, which is not "
@@ -98,6 +67,7 @@ QString ErrorOf(const Measurement& measured) {
                        : QStringLiteral(
                              "the edges tell of no better lens than the one that is "
                              "known; nothing is written");
+        case MeasureError::Stopped:
         case MeasureError::NoPhoto:
             return QStringLiteral("no photo was read; nothing is written");
         case MeasureError::SizesDiffer:
@@ -186,6 +156,9 @@ int Measure(const std::vector<LoadedPicture>& pictures, const Options& options,
                           QFileInfo(options.files[static_cast<qsizetype>(n)]).fileName()});
     }
     const Measurement measured = MeasureLens(photos, measure);
+    if (measured.error == MeasureError::Stopped) {
+        return exitStopped + console.StopSignal();
+    }
     if (measured.solved && !options.quiet) {
         Show(console,
              options.json ? DescribedAsJson(measured, options) : Described(measured, options));
@@ -203,7 +176,11 @@ int Measure(const std::vector<LoadedPicture>& pictures, const Options& options,
 
 }  // namespace
 
-int RunMeasureLens(const Options& options, SettingsStore& store, const Console& console) {
+int RunMeasureLens(const Options& given, SettingsStore& store, const Console& console) {
+    Options options = given;
+    if (const QString error = TakeLensFile(options); !error.isEmpty()) {
+        return Fail(console, error);
+    }
     if (QFileInfo::exists(options.measureLens) && !options.force) {
         return Fail(console,
                     options.measureLens + QStringLiteral(": the file exists; --force replaces it"));
@@ -221,10 +198,11 @@ int RunMeasureLens(const Options& options, SettingsStore& store, const Console& 
             return Fail(console, file + QStringLiteral(": ") + ErrorText(pictures.back().reason));
         }
     }
-    const Start start = StartFor(options, store, pictures.front());
+    Start start = StartFor(options, store, pictures.front());
     if (!start.error.isEmpty()) {
         return Fail(console, options.files.front() + QStringLiteral(": ") + start.error);
     }
+    start.options.stop = StopCheck([&console] { return console.StopSignal() != 0; });
     return Measure(pictures, options, start.options, console);
 }
 

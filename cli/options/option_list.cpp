@@ -35,6 +35,8 @@ constexpr std::array gearRows{
               u".xml (lensfun)."},
     OptionRow{u"measure-lens", u"FILE",
               u"Measure the lens from straight edges in one to four photos and write it to FILE."},
+    OptionRow{u"straighten", nullptr,
+              u"Measure each photo's lens from straight edges on the photo, where they tell it."},
     OptionRow{u"focal", u"MM", u"The focal length of the measured lens; fixes its angles."},
     OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},
     OptionRow{u"list-cameras", nullptr, u"List the cameras (of a brand) as BRAND/MODEL."},

@@ -145,6 +145,7 @@ Options Take(const QCommandLineParser& parser) {
         FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("measure-lens")));
     options.exportLens =
         FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("export-lens")));
+    options.straighten = parser.isSet(QStringLiteral("straighten"));
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
@@ -230,8 +231,9 @@ bool IsOtherPictureName(const QString& name) {
 void CheckMeasuring(const Options& options) {
     constexpr qsizetype mostPhotos = 4;
     const bool measures = options.command == Command::MeasureLens;
-    if (options.focal && !measures) {
-        throw UsageError{QStringLiteral("--focal goes with --measure-lens; leave it out")};
+    if (options.focal && !measures && !options.straighten) {
+        throw UsageError{
+            QStringLiteral("--focal goes with --measure-lens and --straighten; leave it out")};
     }
     if (measures && (options.files.isEmpty() || options.files.size() > mostPhotos)) {
         throw UsageError{QStringLiteral("--measure-lens takes one to four photos, not %1")

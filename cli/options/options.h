@@ -67,7 +67,8 @@ struct Options {
     std::optional<CatalogueName> camera;
     std::optional<CatalogueName> lens;
     QString measureLens;          // the file to write a measured lens to
-    std::optional<double> focal;  // of that lens, millimetres
+    bool straighten = false;      // each photo's lens is measured from the photo
+    std::optional<double> focal;  // of the measured lens, millimetres
     std::vector<Adjustment> adjustments;
     std::vector<std::pair<QString, QString>> fields;  // of --set
     std::optional<int> morph;                         // frames of a sequence, at least 2

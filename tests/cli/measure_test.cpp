@@ -20,6 +20,21 @@ QString Q(const char* text) {
     return QString::fromUtf8(text);
 }
 
+// The sample room, 1200 pixels wide, through a lens that is not the typical one.
+QString RoomPhoto(const testing::PictureFolder& files) {
+    FisheyeShot shot;
+    shot.size = {1200, 1200};
+    shot.pixelsPerMillimetre = 50.0;
+    shot.centreX = shot.centreY = 600.0;
+    shot.circleRadius = 11.0;
+    shot.curve = {14.0F, 0.6F};
+    shot.samples = 2;
+    const BitmapHandle picture = TakeFisheye(LookAt, shot);
+    const QString photo = files.Path(Q("room.png"));
+    SaveBitmap(OutputType::Png, picture.get(), photo);
+    return photo;
+}
+
 class MeasureCommand : public ::testing::Test {
   protected:
     int Run(const QStringList& arguments) {
@@ -30,6 +45,8 @@ class MeasureCommand : public ::testing::Test {
     }
     bool ErrorHas(const char* text) const { return err_.str().find(text) != std::string::npos; }
 
+    bool OutHas(const char* text) const { return out_.str().find(text) != std::string::npos; }
+
     testing::PictureFolder files_;
     MemoryStore store_;
     std::ostringstream out_, err_;
@@ -37,16 +54,7 @@ class MeasureCommand : public ::testing::Test {
 };
 
 TEST_F(MeasureCommand, WritesTheLensOfAPhoto) {
-    FisheyeShot shot;
-    shot.size = {1200, 1200};
-    shot.pixelsPerMillimetre = 50.0;
-    shot.centreX = shot.centreY = 600.0;
-    shot.circleRadius = 11.0;
-    shot.curve = {14.0F, 0.6F};  // not the typical one
-    shot.samples = 2;
-    const BitmapHandle picture = TakeFisheye(LookAt, shot);
-    const QString photo = files_.Path(Q("room.png"));
-    SaveBitmap(OutputType::Png, picture.get(), photo);
+    const QString photo = RoomPhoto(files_);
     EXPECT_EQ(Run({photo}), exitAllWritten) << err_.str();
     EXPECT_NE(out_.str().find("angles are not fixed"), std::string::npos);
     const LensReading read = ReadLensFile(lens_);
@@ -61,6 +69,35 @@ TEST_F(MeasureCommand, WritesTheLensOfAPhoto) {
     EXPECT_TRUE(ErrorHas("--force"));
     EXPECT_EQ(Run({Q("--focal=8"), Q("--force"), photo}), exitSomeFailed);
     EXPECT_TRUE(ErrorHas("size of the sensor"));
+    // It is as good as can be told, as is said of it when it is the start.
+    EXPECT_EQ(Run({Q("--lens-file"), lens_, Q("--force"), photo}), exitSomeFailed);
+    EXPECT_TRUE(ErrorHas("no better lens")) << err_.str();
+    EXPECT_EQ(Run({Q("--lens-file"), photo, Q("--force"), photo}), exitSomeFailed);
+    std::atomic<int> stop = 15;
+    EXPECT_EQ(RunConvert({Q("varnel-convert"), Q("--measure-lens"), lens_, Q("--force"), photo},
+                         store_, {.out = out_, .err = err_, .bar = false, .stop = &stop}),
+              exitStopped + 15);
+}
+
+TEST_F(MeasureCommand, StraightensThePhotosThatTellOfTheirLens) {
+    const QString photo = RoomPhoto(files_);
+    const auto convert = [&](const QStringList& arguments) {
+        out_.str({});
+        err_.str({});
+        return RunConvert(QStringList{Q("varnel-convert"), Q("--json"), Q("--straighten"),
+                                      Q("--force"), Q("--type=bmp")} +
+                              arguments,
+                          store_, {out_, err_, false});
+    };
+    EXPECT_EQ(convert({Q("--gear=guess"), photo}), exitAllWritten) << err_.str();
+    EXPECT_TRUE(OutHas("\"gear_source\":\"measured\"")) << out_.str();
+    EXPECT_TRUE(OutHas("My lenses measured from room.png"));
+    EXPECT_TRUE(OutHas("\"uncertain\":[]"));
+    EXPECT_TRUE(ErrorHas("expected bend"));
+    const QString plain = files_.Picture(Q("plain.bmp"), OutputType::Bmp);
+    EXPECT_EQ(convert({Q("--gear=guess"), plain}), exitAllWritten);
+    EXPECT_TRUE(OutHas("\"gear_source\":\"guess\""));
+    EXPECT_TRUE(ErrorHas("too few straight edges"));
 }
 
 TEST_F(MeasureCommand, WritesNothingWhenSomethingIsWrong) {

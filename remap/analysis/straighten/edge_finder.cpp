@@ -89,6 +89,7 @@ class EdgeSearching {
             for (EdgePoint& point : chain) {
                 point = {point.x * block_, point.y * block_};
             }
+            search_.stop();
             Cut(chain);
         }
         std::ranges::stable_sort(pieces_, std::greater(), &Piece::length);
@@ -154,6 +155,7 @@ class EdgeSearching {
 
     void Merge() {
         for (std::size_t n = 0; n < pieces_.size(); ++n) {
+            search_.stop();
             for (bool grown = true; grown && !pieces_[n].points.empty();) {
                 grown = false;
                 for (std::size_t other = n + 1; other < pieces_.size(); ++other) {
@@ -216,6 +218,7 @@ class EdgeSearching {
         const double least = leastSpan * std::hypot(size.width, size.height);
         std::vector<EdgeTrace> edges;
         for (const Piece& piece : pieces_) {
+            search_.stop();
             if (edges.size() == search_.most || piece.length < least) {
                 break;
             }

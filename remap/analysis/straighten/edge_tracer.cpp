@@ -148,12 +148,12 @@ std::vector<EdgePoint> SnappedToEdge(const Bitmap& photo, const std::vector<Edge
 }
 
 EdgeTrace TraceEdge(const Bitmap& photo, const EdgePoint& from, const EdgePoint& to,
-                    const LensView& lens) {
+                    const LensView& lens, double slack) {
     const std::vector<EdgePoint> places = Between(lens, from, to);
     if (places.empty()) {
         return {};
     }
-    const double slack = std::max(6.0, photo.Size().width / 600.0);
+    slack = std::clamp(slack, std::max(6.0, photo.Size().width / 600.0), 60.0);
     const double bow = std::clamp(0.03 * Distance(from, to), 2.0, 80.0);
     const std::vector<Crossing> crossings = CrossingsOf(places);
     const std::vector<std::vector<double>> slopes = SlopesNear(photo, crossings, slack, bow);

@@ -52,8 +52,15 @@ Candidate Fitted(LensModel model, const std::vector<EdgePoints>& edges, const Le
 
 class Solving {
   public:
-    Solving(const std::vector<EdgeTrace>& edges, const LensView& guess, LensConstraints known)
-        : edges_(edges), all_(Condensed(edges)), guess_(guess), known_(known), loss_(1.0) {
+    Solving(const std::vector<EdgeTrace>& edges, const LensView& guess, LensConstraints known,
+            const SolveOptions& options)
+        : edges_(edges),
+          all_(Condensed(edges)),
+          guess_(guess),
+          present_(options.present != nullptr ? *options.present : guess),
+          stop_(options.stop),
+          known_(known),
+          loss_(1.0) {
         for (const EdgePoints& edge : all_) {
             for (const EdgePoint& point : edge) {
                 known_.reach = std::max(known_.reach, Distance(point, guess.centre));
@@ -62,8 +69,8 @@ class Solving {
     }
 
     SolvedLens Run() {
-        SolvedLens solved{guess_, false, 0, {}, 0.0, 0.0, 0.0, 0.0, false};
-        Sort(guess_, solved, false);
+        SolvedLens solved{present_, false, 0, {}, 0.0, 0.0, 0.0, 0.0, false};
+        Sort(present_, solved, false);
         if (used_.size() < leastEdges) {
             return solved;
         }
@@ -72,12 +79,12 @@ class Solving {
         if (used_.size() >= leastEdges) {
             best = Best();
         }
-        const double before = MeanLoss(guess_, used_, loss_);
+        const double before = MeanLoss(present_, used_, loss_);
         solved.improved = best->heldOut < before;
         solved.terms = solved.improved ? best->model.Terms() : 0;
         solved.heldOutBefore = loss_.Noise() * std::sqrt(before);
         solved.heldOutAfter = loss_.Noise() * std::sqrt(std::min(best->heldOut, before));
-        solved.lens = solved.improved ? best->model.At(best->fit.parameters) : guess_;
+        solved.lens = solved.improved ? best->model.At(best->fit.parameters) : present_;
         Judge(*best, solved);
         Sort(solved.lens, solved, true);
         return solved;
@@ -111,6 +118,7 @@ class Solving {
         std::optional<Candidate> form;
         CurveForm best = CurveForm::Guess;
         for (const CurveForm one : {CurveForm::Guess, CurveForm::Sin, CurveForm::Tan}) {
+            stop_();
             Candidate fitted = Fitted(LensModel(one, 0, guess_, known_), used_, guess_);
             if (!form || fitted.heldOut < form->heldOut) {
                 form = std::move(fitted);
@@ -121,6 +129,7 @@ class Solving {
         loss_ = EdgeLoss(rich.heldOut, WeightOf(used_, rich.model.At(rich.fit.parameters)));
         std::optional<Candidate> chosen;
         for (int terms = 0; terms <= mostTerms; ++terms) {
+            stop_();
             LensModel model(best, terms, guess_, known_);
             LeastSquaresFit fit = FitModel(model, used_, loss_,
                                            chosen ? chosen->fit.parameters : form->fit.parameters);
@@ -189,6 +198,7 @@ class Solving {
             halves[n / turn % 2].push_back(used_[n]);
         }
         const auto fitted = [&](const std::vector<EdgePoints>& half) {
+            stop_();
             return best.model.At(FitModel(best.model, half, loss_, best.fit.parameters).parameters);
         };
         return ViewBend(fitted(halves[0]), fitted(halves[1]));
@@ -244,6 +254,8 @@ class Solving {
     std::vector<EdgePoints> all_;
     std::vector<EdgePoints> used_;
     const LensView& guess_;
+    const LensView& present_;
+    const StopCheck& stop_;
     LensConstraints known_;
     EdgeLoss loss_;
 };
@@ -251,8 +263,8 @@ class Solving {
 }  // namespace
 
 SolvedLens SolveLens(const std::vector<EdgeTrace>& edges, const LensView& guess,
-                     const LensConstraints& known) {
-    return Solving(edges, guess, known).Run();
+                     const LensConstraints& known, const SolveOptions& options) {
+    return Solving(edges, guess, known, options).Run();
 }
 
 }  // namespace varnel

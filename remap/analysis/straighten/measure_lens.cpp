@@ -10,6 +10,7 @@
 
 #include "remap/analysis/photo_circle.h"
 #include "remap/analysis/straighten/edge_finder.h"
+#include "remap/analysis/straighten/model_fit.h"
 #include "remap/projection/lens_spline.h"
 
 namespace varnel {
@@ -36,16 +37,15 @@ class Measuring {
 
     Measurement Run() {
         FindCircle();
-        const LensView guess = options_.guess ? *options_.guess : TypicalFisheye(size_, circle_);
-        measured_.edges = options_.edges.empty() ? Edges(guess, slacks[0]) : options_.edges;
+        Begin();
         if (measured_.edges.size() < leastEdges) {
             measured_.error = MeasureError::TooFewEdges;
             return std::move(measured_);
         }
-        const LensConstraints known = Known(guess);
-        measured_.solved = SolveLens(measured_.edges, guess, known);
+        const LensConstraints known = Known(*measured_.start);
+        Solve(known);
         for (std::size_t n = 1; n < slacks.size() && options_.edges.empty(); ++n) {
-            LookAgain(slacks[n], guess, known);
+            LookAgain(slacks[n], known);
         }
         Store(known.reach);
         return std::move(measured_);
@@ -54,16 +54,57 @@ class Measuring {
   private:
     void FindCircle() {
         circle_ = options_.circle;
+        options_.stop();
         if (!circle_) {
             measured_.circle = FindPhotoCircle(photos_.front().bitmap);
             circle_ = measured_.circle;
         }
     }
 
+    // The start is what explains the edges better, or what longer edges are found by.
+    void Begin() {
+        const LensView typical = TypicalFisheye(size_, circle_);
+        measured_.start = options_.present ? *options_.present : typical;
+        measured_.edges =
+            options_.edges.empty() ? Edges(*measured_.start, slacks[0]) : options_.edges;
+        if (!options_.present) {
+            return;
+        }
+        bool better = false;
+        if (options_.edges.empty()) {
+            std::vector<EdgeTrace> others = Edges(typical, slacks[0]);
+            better = TotalSpan(others) > 1.1 * TotalSpan(measured_.edges);
+            if (better) {
+                measured_.edges = std::move(others);
+            }
+        } else {
+            const auto condensed = Condensed(options_.edges);
+            better = NoiseOf(condensed, typical) < 0.8 * NoiseOf(condensed, *measured_.start);
+        }
+        if (better) {
+            measured_.start = typical;
+        }
+    }
+
+    static double TotalSpan(const std::vector<EdgeTrace>& edges) {
+        double total = 0.0;
+        for (const EdgeTrace& edge : edges) {
+            total += Span(edge);
+        }
+        return total;
+    }
+
+    void Solve(const LensConstraints& known) {
+        const LensView* const present = options_.present ? &*options_.present : nullptr;
+        measured_.solved =
+            SolveLens(measured_.edges, *measured_.start, known, {present, options_.stop});
+    }
+
     std::vector<EdgeTrace> Edges(const LensView& lens, double slack) const {
         std::vector<EdgeTrace> all;
         for (std::size_t n = 0; n < photos_.size(); ++n) {
-            const EdgeSearch search{circle_ ? 0.97 * circle_->radius : 0.0, slack};
+            const EdgeSearch search{
+                .reach = ReachOf(circle_), .slack = slack, .stop = options_.stop};
             for (EdgeTrace& edge : FindEdges(*photos_[n].bitmap, lens, search)) {
                 edge.photo = static_cast<int>(n);
                 all.push_back(std::move(edge));
@@ -73,14 +114,14 @@ class Measuring {
         return all;
     }
 
-    void LookAgain(double slack, const LensView& guess, const LensConstraints& known) {
+    void LookAgain(double slack, const LensConstraints& known) {
         if (!measured_.solved->improved) {
             return;
         }
         std::vector<EdgeTrace> again = Edges(measured_.solved->lens, slack);
         if (again.size() >= leastEdges) {
             measured_.edges = std::move(again);
-            measured_.solved = SolveLens(measured_.edges, guess, known);
+            Solve(known);
         }
     }
 
@@ -144,6 +185,10 @@ class Measuring {
 
 }  // namespace
 
+double ReachOf(const std::optional<ImageCircle>& circle) {
+    return circle ? 0.97 * circle->radius : 0.0;
+}
+
 LensView TypicalFisheye(PixelSize size, const std::optional<ImageCircle>& circle) {
     const auto scale = static_cast<float>(std::numbers::sqrt2 * RimOf(size, circle));
     return ViewOfFormula(LensKind::Sin, {scale, 0.5F}, 1.0, CentreOf(size, circle));
@@ -175,7 +220,12 @@ Measurement MeasureLens(const std::vector<MeasuredPhoto>& photos, const MeasureO
             return refused;
         }
     }
-    return Measuring(photos, options).Run();
+    try {
+        return Measuring(photos, options).Run();
+    } catch (const MeasuringStopped&) {
+        refused.error = MeasureError::Stopped;
+        return refused;
+    }
 }
 
 }  // namespace varnel

@@ -22,24 +22,27 @@ struct MeasuredPhoto {
 struct MeasureOptions {
     QString lensName;
     QDate date;
-    std::optional<LensView> guess = {};  // none: a typical fisheye, 180 degrees across the circle
-                                         // or, without a circle, the diagonal
+    // What is measured has to be better than it; none: than a typical fisheye, 180 degrees across
+    // the circle or, without a circle, the diagonal. Both are tried as the start.
+    std::optional<LensView> present = {};
     std::optional<ImageCircle> circle = {};  // as circle_finder.h has it; none: it is looked for
     bool circleAtNinety = false;             // the circle is known to lie at 90 degrees
     std::optional<double> pixelsPerMillimetre = {};  // on the sensor; none: radii of the circle
     std::optional<double> focalMillimetres = {};     // needs pixelsPerMillimetre
     std::vector<EdgeTrace> edges = {};               // none: they are found
     bool colour = false;                             // estimate the colour shifts as well
+    StopCheck stop = {};
 };
 
-enum class MeasureError { None, NoPhoto, SizesDiffer, TooFewEdges };
+enum class MeasureError { None, NoPhoto, SizesDiffer, TooFewEdges, Stopped };
 
 struct Measurement {
-    MeasureError error = MeasureError::None;  // but for None the rest is of no use
+    MeasureError error = MeasureError::None;  // but for None and TooFewEdges the rest is of no use
+    std::optional<LensView> start;            // what it began with
     SampledLens lens;
-    double pixelsPerUnit = 0.0;  // of the lens's radii on the photos
-    std::optional<FoundCircle> circle;
-    std::vector<EdgeTrace> edges;  // in the order of the results
+    double pixelsPerUnit = 0.0;         // of the lens's radii on the photos
+    std::optional<FoundCircle> circle;  // when it was looked for
+    std::vector<EdgeTrace> edges;       // in the order of the results
     std::optional<SolvedLens> solved;
     std::optional<ColourEstimates> colour;  // in pixels
 };
@@ -50,6 +53,9 @@ Measurement MeasureLens(const std::vector<MeasuredPhoto>& photos, const MeasureO
 // The lens of a result. Its unit is the millimetre, where there are pixels per millimetre;
 // otherwise pixelsPerUnit is the radius of the circle.
 SampledLens ToSampledLens(const LensView& view, double reach, double pixelsPerUnit, PixelSize size);
+
+// How far from the axis edges are looked for, as EdgeSearch has it. Throws nothing.
+double ReachOf(const std::optional<ImageCircle>& circle);
 
 // A typical fisheye for a photo: see MeasureOptions.
 LensView TypicalFisheye(PixelSize size, const std::optional<ImageCircle>& circle);

@@ -104,6 +104,44 @@ std::vector<std::vector<double>> SlopesNear(const Bitmap& photo,
     return all;
 }
 
+// The great circle near most of the points: a way may change from one edge to another beside it.
+Ray MostHeld(const LensView& lens, const std::vector<EdgePoint>& points) {
+    constexpr std::size_t tries = 15;  // of each end
+    constexpr double most = 1.2;       // pixels off
+    std::vector<Ray> rays;
+    std::vector<double> slopes;
+    for (const EdgePoint& point : points) {
+        rays.push_back(lens.RayAt(point));
+        slopes.push_back(lens.curve.At(Distance(point, lens.centre)).slope);
+    }
+    Ray best;
+    int bestHeld = -1;
+    for (std::size_t n = 0; n < tries * tries; ++n) {
+        const std::size_t from = n / tries * points.size() / (2 * tries);
+        const std::size_t to = points.size() - 1 - n % tries * points.size() / (2 * tries);
+        const Ray normal = Unit(Cross(rays[from], rays[to]));
+        int held = 0;
+        for (std::size_t k = 0; k < rays.size(); ++k) {
+            held += std::fabs(Dot(normal, rays[k])) < most * slopes[k] ? 1 : 0;
+        }
+        best = held > bestHeld ? normal : best;
+        bestHeld = std::max(held, bestHeld);
+    }
+    return best;
+}
+
+// Places along the one great circle near most of the points, from the first to the last of them.
+std::vector<EdgePoint> OnOneCircle(const LensView& lens, const std::vector<EdgePoint>& points) {
+    const Ray normal = MostHeld(lens, points);
+    const auto onto = [&](const EdgePoint& point) {
+        const Ray ray = lens.RayAt(point);
+        const double off = Dot(normal, ray);
+        return lens.PlaceOf(
+            {ray.x - off * normal.x, ray.y - off * normal.y, ray.z - off * normal.z});
+    };
+    return Between(lens, onto(points.front()), onto(points.back()));
+}
+
 // Without those that lie off the line of their neighbours.
 std::vector<EdgePoint> Smooth(const std::vector<EdgePoint>& points) {
     constexpr double most = 1.0;  // pixels
@@ -148,13 +186,13 @@ std::vector<EdgePoint> SnappedToEdge(const Bitmap& photo, const std::vector<Edge
 }
 
 EdgeTrace TraceEdge(const Bitmap& photo, const EdgePoint& from, const EdgePoint& to,
-                    const LensView& lens, double slack) {
+                    const LensView& lens, const TraceSearch& search) {
     const std::vector<EdgePoint> places = Between(lens, from, to);
     if (places.empty()) {
         return {};
     }
-    slack = std::clamp(slack, std::max(6.0, photo.Size().width / 600.0), 60.0);
-    const double bow = std::clamp(0.03 * Distance(from, to), 2.0, 80.0);
+    const double slack = std::clamp(search.slack, std::max(6.0, photo.Size().width / 600.0), 60.0);
+    const double bow = std::clamp(search.bow * Distance(from, to), 2.0, 80.0);
     const std::vector<Crossing> crossings = CrossingsOf(places);
     const std::vector<std::vector<double>> slopes = SlopesNear(photo, crossings, slack, bow);
     const Way brighter = BestWay(slopes, 1.0);
@@ -164,7 +202,8 @@ EdgeTrace TraceEdge(const Bitmap& photo, const EdgePoint& from, const EdgePoint&
     for (std::size_t n = 0; n < crossings.size(); ++n) {
         near.push_back(crossings[n].At(way.offsets[n]));
     }
-    return {SnappedToEdge(photo, near, 2.0)};
+    const bool solved = search.bow < 0.005;
+    return {SnappedToEdge(photo, solved ? OnOneCircle(lens, near) : near, 2.0)};
 }
 
 }  // namespace varnel

@@ -9,12 +9,17 @@
 
 namespace varnel {
 
-// Points on the strongest edge near the great circle between two places near its ends. The lens may
-// be a rough guess: half way the edge may be off by some percent of its length; the places by the
-// slack, pixels, of which some are allowed always. Fewer than ten points when there is no edge. The
-// photo has 24 bits.
+struct TraceSearch {
+    double slack = 0.0;  // how far the places may be off, pixels; some are allowed always
+    double bow = 0.03;   // how far half way the edge may be off its great circle, of its length:
+                         // that of a rough guess of the lens. Below half a percent
+                         // only points on one great circle are taken
+};
+
+// Points on the strongest edge near the great circle between two places near its ends. Fewer than
+// ten points when there is no edge. The photo has 24 bits.
 EdgeTrace TraceEdge(const Bitmap& photo, const EdgePoint& from, const EdgePoint& to,
-                    const LensView& lens, double slack = 0.0);
+                    const LensView& lens, const TraceSearch& search = {});
 
 // The points moved onto the edge that they lie beside within the reach (pixels), across the line
 // through their neighbours; those that find none, or another one, are left out.

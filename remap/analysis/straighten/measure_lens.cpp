@@ -55,7 +55,7 @@ class Measuring {
     void FindCircle() {
         circle_ = options_.circle;
         options_.stop();
-        if (!circle_) {
+        if (!circle_ && options_.findCircle) {
             measured_.circle = FindPhotoCircle(photos_.front().bitmap);
             circle_ = measured_.circle;
         }

@@ -25,8 +25,9 @@ struct MeasureOptions {
     // What is measured has to be better than it; none: than a typical fisheye, 180 degrees across
     // the circle or, without a circle, the diagonal. Both are tried as the start.
     std::optional<LensView> present = {};
-    std::optional<ImageCircle> circle = {};  // as circle_finder.h has it; none: it is looked for
-    bool circleAtNinety = false;             // the circle is known to lie at 90 degrees
+    std::optional<ImageCircle> circle = {};          // as circle_finder.h has it
+    bool findCircle = true;                          // looks for it where it is not given
+    bool circleAtNinety = false;                     // the circle is known to lie at 90 degrees
     std::optional<double> pixelsPerMillimetre = {};  // on the sensor; none: radii of the circle
     std::optional<double> focalMillimetres = {};     // needs pixelsPerMillimetre
     std::vector<EdgeTrace> edges = {};               // none: they are found

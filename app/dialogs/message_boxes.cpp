@@ -81,6 +81,12 @@ void KeepNameAcrossFilters(QFileDialog& dialog) {
     });
 }
 
+QString PhotoFilters() {
+    const QString photos = photoPatterns.toString().replace(u';', u' ');
+    return QObject::tr("Photos (%1)").arg(photos) + QStringLiteral(";;") +
+           QObject::tr("All files (*)");
+}
+
 }  // namespace
 
 void MessageBoxes::Inform(const QString& text) {
@@ -132,11 +138,13 @@ bool SaveFileDialog::AgreesToReplace(const QString& name) {
 }
 
 QString ChoosePhoto(const QString& folder) {
-    const QString photos = photoPatterns.toString().replace(u';', u' ');
     return QFileDialog::getOpenFileName(QApplication::activeWindow(), QObject::tr("Open image"),
-                                        folder,
-                                        QObject::tr("Photos (%1)").arg(photos) +
-                                            QStringLiteral(";;") + QObject::tr("All files (*)"));
+                                        folder, PhotoFilters());
+}
+
+QStringList ChoosePhotos(const QString& folder) {
+    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), QObject::tr("Open image"),
+                                         folder, PhotoFilters());
 }
 
 QString ChooseLensFile() {

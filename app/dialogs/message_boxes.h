@@ -4,6 +4,7 @@
 // The ports of the main window, answered with real windows. Throws nothing but for want of memory.
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 #include "app/workspace/workspace.h"
@@ -44,6 +45,7 @@ class SaveFileDialog : public FileChooser {
 
 // The path of a photo, asked for with the platform's file dialog; empty when cancelled.
 QString ChoosePhoto(const QString& folder);
+QStringList ChoosePhotos(const QString& folder);
 // The path of a file of lenses to import, and of one to export a lens of that name to.
 QString ChooseLensFile();
 QString ChooseLensExport(const QString& lens);

@@ -13,6 +13,7 @@
 #include "app/dialogs/form_about.h"
 #include "app/dialogs/message_boxes.h"
 #include "app/dialogs/save_dialog.h"
+#include "app/straighten/form_straighten.h"
 #include "gear/dialogs/form_gear_edit.h"
 #include "gear/dialogs/form_gear_list.h"
 #include "gear/lens/import/lensfun_data.h"
@@ -138,6 +139,21 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
         QTimer::singleShot(0, &form, [&form, photo] { form.Open(photo); });
     }
     form.exec();
+}
+
+std::optional<MeasuredLensUse> RealDialogs::Straighten(std::optional<PhotoToMeasure> photo,
+                                                       QWidget* parent) {
+    const auto choosePhotos = [this](const QString& folder) {
+        return ChoosePhotos(folder.isEmpty()
+                                ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
+                                : folder);
+    };
+    FormStraighten form(
+        {photos_, choosePhotos, state_.pool,
+         store_.Path().isEmpty() ? LensFolder({}) : LensFolder::Beside(store_.Path())},
+        std::move(photo), parent);
+    form.exec();
+    return form.Use();
 }
 
 void RealDialogs::ShowAbout(QWidget* parent) {

@@ -32,6 +32,8 @@ class RealDialogs : public Dialogs {
     void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
                QWidget* parent) override;
     void Stretch(const QString& photo, QWidget* parent) override;
+    std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
+                                              QWidget* parent) override;
     void ShowAbout(QWidget* parent) override;
     SaveFirst AskToSave(const UnsavedWork& work) override;
     Restore AskToRestore(const LostList& list) override;

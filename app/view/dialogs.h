@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "base/notices.h"
@@ -43,6 +44,19 @@ struct LostList {
 // What is to be done with it: open it, remove it, or ask again at the next start.
 enum class Restore { Yes, No, Later };
 
+// A photo whose lens is to be measured. The bitmap may share its pixels with another one.
+struct PhotoToMeasure {
+    QString path;
+    BitmapHandle bitmap;
+    ImageRecord record;  // with its gear; a guess says so by its name
+};
+
+// What to do with a lens that was measured.
+struct MeasuredLensUse {
+    LensReference lens;   // never none
+    bool forAll = false;  // all photos of the same camera and lens, not the current one alone
+};
+
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
@@ -63,6 +77,10 @@ class Dialogs {
                        QWidget* parent) = 0;
     // Begins with the photo under the path; empty for none.
     virtual void Stretch(const QString& photo, QWidget* parent) = 0;
+    // Begins with the photo, whose record can be given the lens, or without one. Nothing when no
+    // photo of the list is to have a lens.
+    virtual std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
+                                                      QWidget* parent) = 0;
     virtual void ShowAbout(QWidget* parent) = 0;
     virtual SaveFirst AskToSave(const UnsavedWork& work) = 0;
     virtual Restore AskToRestore(const LostList& list) = 0;

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "app/picture/first_size.h"
+#include "app/straighten/straighten_tools.h"
 #include "app/tools/circle_tools.h"
 #include "app/tools/column/adjustment_tools.h"
 #include "app/tools/column/gear_tools.h"
@@ -71,6 +72,7 @@ void MDIForm1::MakeTools() {
     new SheetTools(parts_, view_, workspace_, state_, this);
     new FrameTools(parts_, view_, workspace_, state_, this);
     new LevelTools(this, parts_, view_, workspace_, state_);
+    new StraightenTools(this, view_, workspace_, state_, ports_);
     new CircleTools(this, parts_, view_, workspace_, state_, store_);
     new PictureKeys(this, parts_);
     new EmptyState(this, parts_);

@@ -55,6 +55,9 @@ GearOffer OfferOfPhoto(const CameraInfo& origin, const GearTable& table, const I
     offer.line = Text(QT_TRANSLATE_NOOP("GearOffer", "Taken with %1")).arg(photo.takenWith);
     offer.reason = photo.said;
     offer.names = photo.names;
+    if (image.Lens) {  // chosen or measured: no camera names such a lens
+        return offer;
+    }
     if (photo.gear > 0) {
         offer.gear = NamesOf(table(photo.gear)) == current ? 0 : photo.gear;
     } else if (photo.lack == GearLack::DefinedGear) {

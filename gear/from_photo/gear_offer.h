@@ -25,7 +25,8 @@ struct GearOffer {
 };
 
 // A photo that has its gear already, or one with the same camera and lens, gets no offer, unless
-// that gear is not in the table: it may be defined then, whatever gear took the photo. From the
+// that gear is not in the table: it may be defined then, whatever gear took the photo. Nor does one
+// whose lens has a curve of its own. From the
 // record come its gear and, when that gear took the photo, whether the picture was cropped.
 GearOffer OfferFor(const CameraInfo& origin, const GearTable& table, const ImageRecord& image);
 

@@ -27,6 +27,7 @@ enum class StepKind {
     Frame,
     Circle,
     PhotoGears,  // of photos that were added
+    Straighten,
     ContactSheet,
     OpenProject,
     RestoreList,

@@ -95,6 +95,11 @@ class FakeDialogs : public Dialogs {
         opened.append(QStringLiteral("FormStretch"));
         stretched.append(photo);
     }
+    std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
+                                              QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormStraighten"));
+        return onStraighten ? onStraighten(std::move(photo)) : std::nullopt;
+    }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
     SaveFirst AskToSave(const UnsavedWork& work) override {
         opened.append(QStringLiteral("AskToSave ") + work.project);
@@ -115,6 +120,7 @@ class FakeDialogs : public Dialogs {
     bool givesNewNumbers = true;
     std::function<bool(const GearRecord&)> onDefine;
     std::function<void()> onDefaults;
+    std::function<std::optional<MeasuredLensUse>(std::optional<PhotoToMeasure>)> onStraighten;
     std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
     std::function<void(const PictureWritten&)> onBatch;
     UnsavedWork unsaved;

@@ -7,6 +7,7 @@
 
 #include "app/dialogs/form_about.h"
 #include "app/dialogs/form_guide.h"
+#include "app/straighten/form_straighten.h"
 #include "gear/dialogs/form_gear_edit.h"
 #include "gear/dialogs/form_gear_list.h"
 #include "gear/store/gear_list.h"
@@ -103,6 +104,13 @@ void ShowToolForms(TestWindow& workspace, const Look& look) {
     stretch.Open(workspace.files.Path(QStringLiteral("a.bmp")));
     EXPECT_TRUE(Settle());
     look(stretch);
+    FormStraighten straighten(
+        {workspace.photos, [](const QString&) { return QStringList(); }, workspace.state.pool,
+         LensFolder(workspace.files.Path(QStringLiteral("lenses")))},
+        PhotoToMeasure{QStringLiteral("a.bmp"),
+                       CloneBitmap(workspace.state.bitmaps.FullSourceBitmap.get()),
+                       workspace.state.Images(1)});
+    Show(straighten, look);
 }
 
 }  // namespace

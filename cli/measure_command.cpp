@@ -11,6 +11,7 @@
 #include "cli/report/json_line.h"
 #include "cli/straighten_photo.h"
 #include "gear/lens/lens_file.h"
+#include "pipeline/photos/jpeg_colour.h"
 
 namespace varnel {
 
@@ -50,7 +51,6 @@ Start StartFor(const Options& given, SettingsStore& store, const LoadedPicture& 
         std::get<std::optional<GearRecord>>(gear), photo.bitmap.get());
     MeasureOptions measure = MeasureOptionsFor(options, started, photo.size);
     measure.lensName = QFileInfo(options.measureLens).completeBaseName();
-    measure.colour = true;
     if (measure.focalMillimetres && !measure.pixelsPerMillimetre) {
         return {{},
                 QStringLiteral("--focal is of no use without the size of the sensor, which is not "
@@ -106,10 +106,14 @@ QString Described(const Measurement& measured, const Options& options) {
     if (measured.colour) {
         text +=
             QStringLiteral(
-                "colour at the outermost edges: red %1 +- %2 px, blue %3 +- %4 px against green "
-                "(too small by up to 0.5 px from JPEG files with halved colour)\n")
+                "colour at the outermost edges: red %1 +- %2 px, blue %3 +- %4 px against "
+                "green%5\n")
                 .arg(Figure(measured.colour->red.atRim), Figure(measured.colour->red.deviation),
-                     Figure(measured.colour->blue.atRim), Figure(measured.colour->blue.deviation));
+                     Figure(measured.colour->blue.atRim), Figure(measured.colour->blue.deviation),
+                     std::ranges::any_of(options.files, HasHalvedColour)
+                         ? QStringLiteral(" (too small by up to 0.5 px: the JPEG file has "
+                                          "colours at half its resolution)")
+                         : QString());
     }
     return text;
 }

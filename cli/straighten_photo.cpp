@@ -46,6 +46,7 @@ MeasureOptions MeasureOptionsFor(const Options& options, const StartedRecord& st
         }
     }
     measure.focalMillimetres = options.focal;
+    measure.colour = options.fringes;
     return measure;
 }
 

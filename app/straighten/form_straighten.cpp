@@ -15,6 +15,7 @@
 #include "base/error_text.h"
 #include "base/run_time_error.h"
 #include "base/shortage.h"
+#include "pipeline/photos/jpeg_colour.h"
 #include "remap/display/hourglass.h"
 #include "remap/render/render.h"
 #include "state/adjustments/frame_reading.h"
@@ -57,7 +58,8 @@ FormStraighten::FormStraighten(Ports ports, std::optional<PhotoToMeasure> photo,
     ConnectButtons();
     if (photo) {
         ui_->ComboPhotos->addItem(QFileInfo(photo->path).fileName());
-        model_.Add({Shared(*photo->bitmap), photo->path, photo->record});
+        model_.Add(
+            {Shared(*photo->bitmap), photo->path, photo->record, HasHalvedColour(photo->path)});
         ui_->EditName->setText(ports_.lenses.FreeName(LensName()));
     }
     ShowPhoto();
@@ -153,7 +155,7 @@ QString FormStraighten::Added(const QString& path) {
                (shortage.isEmpty() ? ErrorText(loaded.reason) : shortage);
     }
     const bool first = model_.Photos().empty();
-    if (!model_.Add({Shared(*loaded.bitmap), path, RecordFor(loaded)})) {
+    if (!model_.Add({Shared(*loaded.bitmap), path, RecordFor(loaded), HasHalvedColour(path)})) {
         return model_.Photos().size() == StraightenModel::mostPhotos
                    ? tr("%1: four photos are the most").arg(name)
                    : tr("%1: it is not as large as the first photo, or held otherwise").arg(name);

@@ -41,6 +41,7 @@ class StraightenModel : public QObject {
         std::shared_ptr<const Bitmap> bitmap;
         QString path;
         ImageRecord record;
+        bool halvedColour = false;  // as HasHalvedColour
     };
 
     StraightenModel(ThreadRunner& pool, QObject* parent);

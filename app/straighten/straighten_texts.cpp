@@ -43,10 +43,16 @@ QString AnglesText(const StraightenModel& model) {
                       "Angles are not fixed: tag edges that are upright, level or run away."));
 }
 
-QString ColourText(const ColourEstimates& colour) {
-    return Texts::tr("Colour at the outermost edges: red off by %1 ± %2 pixels, blue by %3 ± %4.")
-        .arg(Number(colour.red.atRim, 2), Number(colour.red.deviation, 2),
-             Number(colour.blue.atRim, 2), Number(colour.blue.deviation, 2));
+QString ColourText(const ColourEstimates& colour, bool halved) {
+    const QString text =
+        Texts::tr("Colour at the outermost edges: red off by %1 ± %2 pixels, blue by %3 ± %4.")
+            .arg(Number(colour.red.atRim, 2), Number(colour.red.deviation, 2),
+                 Number(colour.blue.atRim, 2), Number(colour.blue.deviation, 2));
+    return halved ? text + u' ' +
+                        Texts::tr(
+                            "This is too small by up to half a pixel: the JPEG file has "
+                            "colours at half its resolution.")
+                  : text;
 }
 
 }  // namespace
@@ -71,7 +77,9 @@ QString FiguresText(const StraightenModel& model) {
                      .arg(Number(result.solved->expectedBend, 1)));
     lines.append(AnglesText(model));
     if (result.colour) {
-        lines.append(ColourText(*result.colour));
+        lines.append(
+            ColourText(*result.colour,
+                       std::ranges::any_of(model.Photos(), &StraightenModel::Photo::halvedColour)));
     } else if (model.Known().colour) {
         lines.append(Texts::tr("The edges do not tell of colour fringes."));
     }

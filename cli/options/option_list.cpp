@@ -38,6 +38,8 @@ constexpr std::array gearRows{
     OptionRow{u"straighten", nullptr,
               u"Measure each photo's lens from straight edges on the photo, where they tell it."},
     OptionRow{u"focal", u"MM", u"The focal length of the measured lens; fixes its angles."},
+    OptionRow{u"fringes", nullptr,
+              u"Measure the lens's colour fringes as well, and take them out."},
     OptionRow{u"list-gears", nullptr, u"List the gears of the settings."},
     OptionRow{u"list-cameras", nullptr, u"List the cameras (of a brand) as BRAND/MODEL."},
     OptionRow{u"list-lenses", nullptr, u"List the lenses (of a brand) as BRAND/MODEL."},

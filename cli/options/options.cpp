@@ -146,6 +146,7 @@ Options Take(const QCommandLineParser& parser) {
     options.exportLens =
         FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("export-lens")));
     options.straighten = parser.isSet(QStringLiteral("straighten"));
+    options.fringes = parser.isSet(QStringLiteral("fringes"));
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
@@ -231,9 +232,10 @@ bool IsOtherPictureName(const QString& name) {
 void CheckMeasuring(const Options& options) {
     constexpr qsizetype mostPhotos = 4;
     const bool measures = options.command == Command::MeasureLens;
-    if (options.focal && !measures && !options.straighten) {
+    if ((options.focal || options.fringes) && !measures && !options.straighten) {
         throw UsageError{
-            QStringLiteral("--focal goes with --measure-lens and --straighten; leave it out")};
+            QStringLiteral("--%1 goes with --measure-lens or --straighten; leave it out")
+                .arg(options.focal ? QStringLiteral("focal") : QStringLiteral("fringes"))};
     }
     if (measures && (options.files.isEmpty() || options.files.size() > mostPhotos)) {
         throw UsageError{QStringLiteral("--measure-lens takes one to four photos, not %1")

@@ -68,6 +68,7 @@ struct Options {
     std::optional<CatalogueName> lens;
     QString measureLens;          // the file to write a measured lens to
     bool straighten = false;      // each photo's lens is measured from the photo
+    bool fringes = false;         // measures colour fringes as well
     std::optional<double> focal;  // of the measured lens, millimetres
     std::vector<Adjustment> adjustments;
     std::vector<std::pair<QString, QString>> fields;  // of --set

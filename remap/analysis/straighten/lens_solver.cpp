@@ -27,9 +27,13 @@ constexpr double leastGain = 1.0;
 constexpr double fixedScale = 0.025;
 constexpr double degree = std::numbers::pi / 180.0;
 
-double Median(Numbers values) {
+// What is stated holds in about as many cases of a hundred.
+constexpr std::size_t statedPercent = 90;
+constexpr double halvesFactor = 0.85;  // half of their difference, made as sure
+
+double Stated(Numbers values) {
     std::ranges::sort(values);
-    return values[values.size() / 2];
+    return values[values.size() * statedPercent / 100];
 }
 
 struct Candidate {
@@ -190,8 +194,19 @@ class Solving {
         return model.At(FitModel(model, used_, loss_, best.fit.parameters).parameters);
     }
 
-    // The bend between fits to halves of the edges, every so many of them in turn; what is wrong
-    // with edges in ways that no model knows shows there.
+    // The bend between fits to halves of the edges, root mean square over some ways to halve them;
+    // what is wrong with edges in ways that no model knows shows there.
+    double BetweenHalves(const Candidate& best) const {
+        double squares = 0.0;
+        constexpr std::array<std::size_t, 4> turns{1, 2, 3, 5};
+        for (const std::size_t turn : turns) {
+            const double bend = BetweenHalves(best, turn);
+            squares += bend * bend / turns.size();
+        }
+        return std::sqrt(squares);
+    }
+
+    // Every so many of them in turn.
     double BetweenHalves(const Candidate& best, std::size_t turn) const {
         std::array<std::vector<EdgePoints>, 2> halves;
         for (std::size_t n = 0; n < used_.size(); ++n) {
@@ -215,13 +230,12 @@ class Solving {
                 bends.push_back(ViewBend(moved, fitted));
                 angles.push_back(AngleDifference(moved, fitted));
             }
-            solved.expectedBend = std::max(solved.expectedBend, Median(bends));
-            angle = std::max(angle, Median(angles));
+            solved.expectedBend = std::max(solved.expectedBend, Stated(bends));
+            angle = std::max(angle, Stated(angles));
         }
         // Another number of terms would fit about as well: so the curve is no surer than this.
-        solved.expectedBend =
-            std::max({solved.expectedBend, ViewBend(Richest(best), fitted),
-                      0.5 * BetweenHalves(best, 1), 0.5 * BetweenHalves(best, 2)});
+        solved.expectedBend = std::max({solved.expectedBend, ViewBend(Richest(best), fitted),
+                                        halvesFactor * BetweenHalves(best)});
         const AngleScale scale =
             FindAngleScale(solved.lens, edges_, loss_.Noise(), known_.focalPixels);
         solved.anglesFixed = scale.deviation < fixedScale;

@@ -23,6 +23,7 @@ struct RoomShot {
     double circle = 0.0;  // radius of what is lit, pixels; 0: the whole frame
     int edges = 8;
     double noise = 0.3;  // pixels
+    double bow = 0.0;    // how far things are bent themselves, pixels: one deviation
     int photo = 0;
 };
 
@@ -35,12 +36,21 @@ inline std::array<Ray, 3> HeldCamera(std::mt19937& random) {
     return {right, Cross(forward, right), forward};
 }
 
-// The longest third of the edges that there are, as one would choose them; 600 pixels or more, of
-// 150 points. Tagged by the room's axes.
+inline bool Shows(const RoomShot& shot, const LensView& lens, const Ray& ray) {
+    const EdgePoint place = lens.PlaceOf(ray);
+    const double out = Distance(place, lens.centre);
+    return (shot.circle == 0.0 || out < 0.97 * shot.circle) && place.x > 0.0 &&
+           place.x < shot.size.width && place.y > 0.0 && place.y < shot.size.height &&
+           std::hypot(ray.x, ray.y) > 0.0 && std::atan2(std::hypot(ray.x, ray.y), ray.z) < 1.6;
+}
+
+// The longest third of the edges that there are, as one would choose them; 600 pixels or more, with
+// a point every three pixels as the tracer sets them. Tagged by the room's axes.
 inline std::vector<EdgeTrace> TraceRoom(const LensView& lens, const RoomShot& shot,
                                         std::mt19937& random) {
     constexpr Ray half{2.3, 1.4, 2.8};
-    constexpr int points = 150;
+    constexpr int samples = 2400;
+    constexpr double spacing = 3.0;
     const std::array<Ray, 3> camera = HeldCamera(random);
     std::uniform_real_distribution<double> any(-1.0, 1.0);
     std::normal_distribution<double> noise(0.0, shot.noise);
@@ -54,20 +64,23 @@ inline std::vector<EdgeTrace> TraceRoom(const LensView& lens, const RoomShot& sh
         to[static_cast<std::size_t>(axis)] = any(random);
         constexpr std::array<EdgeTag, 3> tags{EdgeTag::Level, EdgeTag::Upright, EdgeTag::Away};
         EdgeTrace edge{{}, tags[static_cast<std::size_t>(axis)], shot.photo};
-        for (int n = 0; n < points; ++n) {
-            const double share = n / (points - 1.0);
+        const double bow = shot.bow * noise(random) / shot.noise;
+        EdgePoint last{-spacing, -spacing};
+        bool whole = true;
+        for (int n = 0; n < samples && whole; ++n) {
+            const double share = n / (samples - 1.0);
             const auto mix = [&](std::size_t k) { return from[k] + share * (to[k] - from[k]); };
             const Ray ray = Turned({half.x * mix(0), half.y * mix(1), half.z * mix(2)}, camera);
             const EdgePoint place = lens.PlaceOf(ray);
-            const double out = Distance(place, lens.centre);
-            if ((shot.circle == 0.0 || out < 0.97 * shot.circle) && place.x > 0.0 &&
-                place.x < shot.size.width && place.y > 0.0 && place.y < shot.size.height &&
-                std::hypot(ray.x, ray.y) > 0.0 &&
-                std::atan2(std::hypot(ray.x, ray.y), ray.z) < 1.6) {
-                edge.points.push_back({place.x + noise(random), place.y + noise(random)});
+            whole = Shows(shot, lens, ray);
+            if (whole && Distance(place, last) >= spacing) {
+                const double off = bow * 4.0 * share * (1.0 - share);
+                edge.points.push_back(
+                    {place.x + off + noise(random), place.y + off + noise(random)});
+                last = place;
             }
         }
-        if (edge.points.size() == points && Span(edge) > 600.0) {
+        if (whole && Span(edge) > 600.0) {
             edges.push_back(std::move(edge));
         }
     }

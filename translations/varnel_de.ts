@@ -1036,6 +1036,245 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>FormStraighten</name>
+    <message>
+        <source>Straighten</source>
+        <translation>Geraderichten</translation>
+    </message>
+    <message>
+        <source>Coloured edges count as straight. Click one that is bent to take it away; click near both ends of another one to add it. Ctrl and the wheel zoom.</source>
+        <translation>Farbige Kanten gelten als gerade. Klicken Sie eine an, die gebogen ist, um sie wegzunehmen; klicken Sie nahe an beide Enden einer anderen, um sie hinzuzufügen. Strg und das Rad vergrößern.</translation>
+    </message>
+    <message>
+        <source>The photo that is shown; all of them are measured together</source>
+        <translation>Das gezeigte Foto; gemessen wird aus allen zusammen</translation>
+    </message>
+    <message>
+        <source>Photo that is shown</source>
+        <translation>Gezeigtes Foto</translation>
+    </message>
+    <message>
+        <source>&amp;Add photos...</source>
+        <translation>&amp;Fotos hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Adds photos of the same size, camera and lens, four at most: they make the result surer</source>
+        <translation>Fügt Fotos derselben Größe, Kamera und desselben Objektivs hinzu, höchstens vier: sie machen das Ergebnis sicherer</translation>
+    </message>
+    <message>
+        <source>Add photos of the same lens</source>
+        <translation>Fotos desselben Objektivs hinzufügen</translation>
+    </message>
+    <message>
+        <source>The edges, the longest first: how far each is off straight with the measured lens</source>
+        <translation>Die Kanten, die längste zuerst: wie weit jede mit dem gemessenen Objektiv von gerade abweicht</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Kanten</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Off straight</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>&amp;Upright</source>
+        <translation>A&amp;ufrecht</translation>
+    </message>
+    <message>
+        <source>The chosen edge is upright in space</source>
+        <translation>Die gewählte Kante steht im Raum aufrecht</translation>
+    </message>
+    <message>
+        <source>Le&amp;vel</source>
+        <translation>&amp;Waagrecht</translation>
+    </message>
+    <message>
+        <source>The chosen edge is level and crosses the view; all of one photo are parallel</source>
+        <translation>Die gewählte Kante liegt waagrecht quer zum Blick; alle eines Fotos sind parallel</translation>
+    </message>
+    <message>
+        <source>&amp;Runs away</source>
+        <translation>&amp;Läuft weg</translation>
+    </message>
+    <message>
+        <source>The chosen edge is level and runs away from the camera, at right angles to those that are level</source>
+        <translation>Die gewählte Kante liegt waagrecht und läuft von der Kamera weg, im rechten Winkel zu den waagrechten</translation>
+    </message>
+    <message>
+        <source>&amp;No direction</source>
+        <translation>Keine &amp;Richtung</translation>
+    </message>
+    <message>
+        <source>Nothing is known of the chosen edge but that it is straight</source>
+        <translation>Von der gewählten Kante ist nur bekannt, dass sie gerade ist</translation>
+    </message>
+    <message>
+        <source>&amp;Take away</source>
+        <translation>Weg&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>Takes the chosen edge out of the measuring, or brings it back</source>
+        <translation>Nimmt die gewählte Kante aus der Messung oder holt sie zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Focal length</source>
+        <translation>&amp;Brennweite</translation>
+    </message>
+    <message>
+        <source>Of the lens, to some 2 percent; it fixes the scale of angles, which edges alone do not tell</source>
+        <translation>Des Objektivs, auf etwa 2 Prozent; sie legt den Maßstab der Winkel fest, den Kanten allein nicht verraten</translation>
+    </message>
+    <message>
+        <source>Focal length, millimetres</source>
+        <translation>Brennweite in Millimetern</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Circle at &amp;90°</source>
+        <translation>Kreis bei &amp;90°</translation>
+    </message>
+    <message>
+        <source>The rim of the image circle is known to be at 90 degrees from the axis</source>
+        <translation>Der Rand des Bildkreises liegt bekanntlich 90 Grad von der Achse</translation>
+    </message>
+    <message>
+        <source>Estimate &amp;colour fringes</source>
+        <translation>Farb&amp;säume schätzen</translation>
+    </message>
+    <message>
+        <source>Measures from the same edges how far red and blue are off green, and takes it out</source>
+        <translation>Misst an denselben Kanten, wie weit Rot und Blau neben Grün liegen, und gleicht es aus</translation>
+    </message>
+    <message>
+        <source>What the edges tell</source>
+        <translation>Was die Kanten verraten</translation>
+    </message>
+    <message>
+        <source>Na&amp;me of the lens</source>
+        <translation>Na&amp;me des Objektivs</translation>
+    </message>
+    <message>
+        <source>What the measured lens is called</source>
+        <translation>Wie das gemessene Objektiv heißt</translation>
+    </message>
+    <message>
+        <source>Name of the lens</source>
+        <translation>Name des Objektivs</translation>
+    </message>
+    <message>
+        <source>&amp;Save as my lens</source>
+        <translation>Als mein Ob&amp;jektiv speichern</translation>
+    </message>
+    <message>
+        <source>Keeps the measured lens under this name, for any camera, under the brand &quot;My lenses&quot;</source>
+        <translation>Behält das gemessene Objektiv unter diesem Namen, für jede Kamera, unter der Marke „My lenses“</translation>
+    </message>
+    <message>
+        <source>Use for all photos of this camera and &amp;lens</source>
+        <translation>Für alle Fotos dieser &amp;Kamera und dieses Objektivs</translation>
+    </message>
+    <message>
+        <source>Gives the measured lens to all photos of the list that were taken with this camera and lens</source>
+        <translation>Gibt das gemessene Objektiv allen Fotos der Liste, die mit dieser Kamera und diesem Objektiv aufgenommen wurden</translation>
+    </message>
+    <message>
+        <source>Use for this ph&amp;oto</source>
+        <translation>Für &amp;dieses Foto</translation>
+    </message>
+    <message>
+        <source>Gives the measured lens to the current photo</source>
+        <translation>Gibt das gemessene Objektiv dem aktuellen Foto</translation>
+    </message>
+    <message>
+        <source>State of the measuring</source>
+        <translation>Stand der Messung</translation>
+    </message>
+    <message>
+        <source>The edges are measured</source>
+        <translation>Die Kanten werden gemessen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Ends the measuring; nothing is changed</source>
+        <translation>Beendet die Messung; nichts wird geändert</translation>
+    </message>
+    <message>
+        <source>%1 of %2 edges are used. Edges held out of the measuring are off straight by %3 pixels with the present numbers, by %4 with the measured lens.</source>
+        <translation>%1 von %2 Kanten zählen. Kanten, die nicht in die Messung eingingen, weichen mit den jetzigen Zahlen um %3 Pixel von gerade ab, mit dem gemessenen Objektiv um %4.</translation>
+    </message>
+    <message>
+        <source>Expected error of angles: %1°.</source>
+        <translation>Zu erwartender Fehler der Winkel: %1°.</translation>
+    </message>
+    <message>
+        <source>Angles are not fixed: tag edges, or give the focal length.</source>
+        <translation>Die Winkel liegen nicht fest: geben Sie Kanten eine Richtung, oder nennen Sie die Brennweite.</translation>
+    </message>
+    <message>
+        <source>Angles are not fixed: tag edges that are upright, level or run away.</source>
+        <translation>Die Winkel liegen nicht fest: bezeichnen Sie Kanten, die aufrecht oder waagrecht sind oder weglaufen.</translation>
+    </message>
+    <message>
+        <source>Colour at the outermost edges: red off by %1 ± %2 pixels, blue by %3 ± %4.</source>
+        <translation>Farbe an den äußersten Kanten: Rot um %1 ± %2 Pixel daneben, Blau um %3 ± %4.</translation>
+    </message>
+    <message>
+        <source>This is too small by up to half a pixel: the JPEG file has colours at half its resolution.</source>
+        <translation>Das ist bis zu einem halben Pixel zu wenig: die JPEG-Datei hat Farben in halber Auflösung.</translation>
+    </message>
+    <message>
+        <source>Too few straight edges: %1 are needed at least, more are better. Click near both ends of edges to add them.</source>
+        <translation>Zu wenige gerade Kanten: mindestens %1 sind nötig, mehr sind besser. Klicken Sie nahe an beide Enden von Kanten, um sie hinzuzufügen.</translation>
+    </message>
+    <message>
+        <source>The present numbers do as well or better: they stay.</source>
+        <translation>Die jetzigen Zahlen sind ebenso gut oder besser: sie bleiben.</translation>
+    </message>
+    <message>
+        <source>Expected bend: %1 pixels, in a view 110° across with 24 megapixels.</source>
+        <translation>Zu erwartende Biegung: %1 Pixel, in einer 110° breiten Ansicht mit 24 Megapixeln.</translation>
+    </message>
+    <message>
+        <source>The edges do not tell of colour fringes.</source>
+        <translation>Die Kanten verraten nichts über Farbsäume.</translation>
+    </message>
+    <message>
+        <source>upright</source>
+        <translation>aufrecht</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>waagrecht</translation>
+    </message>
+    <message>
+        <source>runs away</source>
+        <translation>läuft weg</translation>
+    </message>
+</context>
+<context>
     <name>FormStretch</name>
     <message>
         <source>Stretch</source>
@@ -2330,6 +2569,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>gears of the photos</source>
         <translation>Ausrüstungen der Fotos</translation>
     </message>
+    <message>
+        <source>straighten</source>
+        <translation>Geraderichten</translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2632,6 +2875,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::EdgeView</name>
+    <message>
+        <source>Add a photo with many straight edges, out to the rim.</source>
+        <translation>Fügen Sie ein Foto mit vielen geraden Kanten bis zum Rand hinzu.</translation>
+    </message>
+    <message>
+        <source>The photo with its edges</source>
+        <translation>Das Foto mit seinen Kanten</translation>
+    </message>
+</context>
+<context>
     <name>varnel::EmptyState</name>
     <message>
         <source>Drop fisheye photos here</source>
@@ -2925,6 +3179,65 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Saved</source>
         <translation>Gespeichert</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormStraighten</name>
+    <message>
+        <source>The photo made straight</source>
+        <translation>Das geradegerichtete Foto</translation>
+    </message>
+    <message>
+        <source>No edge was found between these two places; click nearer to its ends.</source>
+        <translation>Zwischen diesen beiden Stellen wurde keine Kante gefunden; klicken Sie näher an ihre Enden.</translation>
+    </message>
+    <message>
+        <source>%1: four photos are the most</source>
+        <translation>%1: mehr als vier Fotos geht nicht</translation>
+    </message>
+    <message>
+        <source>%1: it is not as large as the first photo, or held otherwise</source>
+        <translation>%1: es ist nicht so groß wie das erste Foto oder anders gehalten</translation>
+    </message>
+    <message>
+        <source>%1, measured</source>
+        <translation>%1, gemessen</translation>
+    </message>
+    <message>
+        <source>Now click near the other end of the edge.</source>
+        <translation>Klicken Sie nun nahe an das andere Ende der Kante.</translation>
+    </message>
+    <message>
+        <source>Looking for straight edges...</source>
+        <translation>Gerade Kanten werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Measuring...</source>
+        <translation>Es wird gemessen...</translation>
+    </message>
+    <message>
+        <source>taken away</source>
+        <translation>weggenommen</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>%1 px, not used</source>
+        <translation>%1 px, zählt nicht</translation>
+    </message>
+    <message>
+        <source>&amp;Bring back</source>
+        <translation>Zurückhole&amp;n</translation>
+    </message>
+    <message>
+        <source>&amp;Take away</source>
+        <translation>Weg&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is now among your lenses.</source>
+        <translation>„%1“ ist nun unter Ihren Objektiven.</translation>
     </message>
 </context>
 <context>
@@ -3369,6 +3682,29 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Contact sheet</source>
         <translation>Kontakt&amp;bogen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::StraightenTools</name>
+    <message>
+        <source>St&amp;raighten...</source>
+        <translation>&amp;Geraderichten...</translation>
+    </message>
+    <message>
+        <source>Measure a &amp;lens...</source>
+        <translation>Objektiv &amp;messen...</translation>
+    </message>
+    <message>
+        <source>Open a photo first.</source>
+        <translation>Öffnen Sie zuerst ein Foto.</translation>
+    </message>
+    <message>
+        <source>The photo has the measured lens; undo takes it back.</source>
+        <translation>Das Foto hat das gemessene Objektiv; Rückgängig nimmt es zurück.</translation>
+    </message>
+    <message>
+        <source>%1 photos have the measured lens; undo takes it back.</source>
+        <translation>%1 Fotos haben das gemessene Objektiv; Rückgängig nimmt es zurück.</translation>
     </message>
 </context>
 <context>

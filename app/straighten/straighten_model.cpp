@@ -9,18 +9,14 @@
 #include <chrono>
 #include <system_error>
 
-#include "state/adjustments/frame_reading.h"
 #include "state/adjustments/measured_lens.h"
+#include "state/editing/read_gear.h"
 
 namespace varnel {
 
 namespace {
 
 constexpr int betweenLooks = 20;  // ms
-
-bool IsGuess(const ImageRecord& record) {
-    return record.GearName == GuessedGearName();
-}
 
 }  // namespace
 
@@ -112,7 +108,7 @@ MeasureOptions StraightenModel::OptionsNow() const {
     const ImageRecord& record = photos_.front().record;
     MeasureOptions options;
     options.date = QDate::currentDate();
-    const auto known = IsGuess(record) ? std::nullopt : KnownLensOf(record);
+    const auto known = IsGuessed(record) ? std::nullopt : KnownLensOf(record);
     if (known) {
         options.present = known->view;
         if (!record.Lens || record.Lens->unit == SampledLens::Unit::Millimetres) {

@@ -54,9 +54,9 @@ void StraightenTools::Straighten() {
 
 void StraightenTools::Use(const MeasuredLensUse& use) {
     const int given = commands_.Use(use.lens, use.forAll);
-    view_.ShowStatus(use.forAll
-                         ? tr("%n photo(s) have the measured lens; undo takes it back.", {}, given)
-                         : tr("The photo has the measured lens; undo takes it back."));
+    view_.ShowStatus(given == 1
+                         ? tr("The photo has the measured lens; undo takes it back.")
+                         : tr("%1 photos have the measured lens; undo takes it back.").arg(given));
 }
 
 }  // namespace varnel

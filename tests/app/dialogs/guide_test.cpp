@@ -175,10 +175,10 @@ TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
         QTest::keyClick(wanted, Qt::Key_Return);
     };
     find("orthographic");
-    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    EXPECT_EQ(page(), Q("measure-by-tape.md"));
     EXPECT_EQ(text->textCursor().selectedText(), Q("orthographic"));
     find("no such word anywhere");
-    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    EXPECT_EQ(page(), Q("measure-by-tape.md"));
     const double margin = text->document()->documentMargin();
     click("CmdGuideBack");
     EXPECT_EQ(page(), Q("index.md"));
@@ -189,7 +189,7 @@ TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {
     text->moveCursor(QTextCursor::Start);
     text->setFocus();
     QTest::keyClick(text, Qt::Key_Return);
-    EXPECT_EQ(page(), Q("unlisted-lens.md"));
+    EXPECT_EQ(page(), Q("measure-by-tape.md"));
     click("CmdGuideContents");
     EXPECT_EQ(page(), Q("index.md"));
     find("Magnification map");

@@ -71,7 +71,9 @@ void PutLens(const LensReference& lens, ImageRecord& image) {
     const bool usualAngle = image.OutputAOV == UsualOutputAov(image.InputAOV);
     const float outputAngle = image.OutputAOV;
     const GearRecord gear = WithLens(lens, image);
-    image.GearName = BuiltGearName(NamesOf(gear)).trimmed();
+    image.GearName = gear.CameraBrand.isEmpty() && gear.CameraModel.isEmpty()
+                         ? gear.LensBrand + u' ' + gear.LensModel
+                         : BuiltGearName(NamesOf(gear)).trimmed();
     image.LensBrand = gear.LensBrand;
     image.LensModel = gear.LensModel;
     image.Lens = gear.Lens;

@@ -60,6 +60,13 @@ TEST(MeasuredLens, DrawsOnItsPhotoAsItWasMeasured) {
     }
 }
 
+TEST(MeasuredLens, NamesTheGearWithoutACameraToo) {
+    ImageRecord image = Taken(3000, 2000);
+    image.CameraBrand = image.CameraModel = QString();
+    PutLens(Measured(SampledLens::Unit::CircleRadii), image);
+    EXPECT_EQ(image.GearName, QStringLiteral("My lenses mine"));
+}
+
 TEST(MeasuredLens, TurnsWithThePicture) {
     const LensReference lens = Measured(SampledLens::Unit::Millimetres);
     // Turned clockwise, what was 1511.3 from the left is as far from the top.

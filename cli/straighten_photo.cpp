@@ -62,7 +62,8 @@ void Straighten(const ConvertRequest& request, const Bitmap& photo, StartedRecor
     if (measured.error == MeasureError::None && measured.solved->improved) {
         PutLens(std::make_shared<const SampledLens>(measured.lens), started.record);
         started.reading.source = GearSource::Measured;
-        started.reading.doubts.centre = started.reading.doubts.curve = false;
+        started.reading.doubts.centre = false;
+        started.reading.doubts.curve = !measured.solved->anglesFixed;
     }
 }
 

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
@@ -71,6 +72,8 @@ void DefineGear(QDialog* dialog) {
     Choose(dialog, "CameraCombo", "EOS 5D");
     Choose(dialog, "LensBrandCombo", "Sigma");
     Choose(dialog, "LensCombo", "EX 8 mm f:3.5");
+    auto* const result = Find<QLabel>(dialog, "PicResult");
+    EXPECT_TRUE(QTest::qWaitFor([result] { return !result->pixmap().isNull(); }));
     KeepPicture(dialog, "gear-editor.png");
     QTest::mouseClick(Find<QPushButton>(dialog, "CmdAdd"), Qt::LeftButton);
 }
@@ -184,6 +187,7 @@ class Story : public ::testing::Test {
     }
     void Move(const char* slider, Qt::Key key, int times) { Page(&window_, slider, key, times); }
     void DefineTheFirstGear() {
+        prompt_.Use(dialogs_.EditorPorts());
         const Answers answers({&PressOk, &DefineGear});
         window_.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
@@ -225,7 +229,9 @@ class Story : public ::testing::Test {
 
     testing::PictureFolder folder_;
     WorkingState state_;
-    MemoryStore store_;
+    const std::unique_ptr<SettingsStore> file_ =
+        OpenFileStore(folder_.Path(Q("conf/V.conf")), QDateTime::currentDateTime());
+    SettingsStore& store_ = *file_;
     MessageBoxes notices_;
     FirstGearPrompt prompt_;
     SaveFileDialog chooser_;

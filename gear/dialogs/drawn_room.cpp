@@ -61,6 +61,36 @@ Colour WallAt(const Ray& ray) {
     return isJoint ? Colour{60, 60, 60} : walls[wall];
 }
 
+// What a place on the sensor sees, millimetres from the axis; black beyond the circle.
+Colour SeenAt(const Optics& optics, double right, double up) {
+    const double radius = std::hypot(right, up);
+    const double angle = LensAngle(optics.kind, radius, optics.curve);
+    if (radius > optics.circle || std::isnan(angle)) {
+        return {};
+    }
+    const double across = radius > 0.0 ? std::sin(angle) / radius : 0.0;
+    return WallAt({right * across, up * across, std::cos(angle)});
+}
+
+// The mean over a pixel whose lower left corner is there: thin joints would look ragged, and so
+// bent, from one place alone.
+Colour PixelAt(const Optics& optics, double right, double up, double side) {
+    constexpr int samples = 3;  // each way
+    std::array<int, 3> sums{};
+    for (int n = 0; n < samples * samples; ++n) {
+        const Colour colour = SeenAt(optics, right + (n % samples + 0.5) / samples * side,
+                                     up + (n / samples + 0.5) / samples * side);
+        for (std::size_t channel = 0; channel < colour.size(); ++channel) {
+            sums.at(channel) += colour.at(channel);
+        }
+    }
+    Colour mean{};
+    std::ranges::transform(sums, mean.begin(), [](int sum) {
+        return static_cast<std::uint8_t>(sum / (samples * samples));
+    });
+    return mean;
+}
+
 }  // namespace
 
 BitmapHandle DrawnRoom(const GearRecord& edited, PixelSize box) {
@@ -80,15 +110,8 @@ BitmapHandle DrawnRoom(const GearRecord& edited, PixelSize box) {
     for (int y = 0; y < size.height; ++y) {
         const auto row = room->ScanLine(y);
         for (int x = 0; x < size.width; ++x) {
-            const double right = (x - size.width / 2) / scale;
-            const double up = (y - size.height / 2) / scale;
-            const double radius = std::hypot(right, up);
-            const double angle = LensAngle(optics.kind, radius, optics.curve);
-            if (radius > optics.circle || std::isnan(angle)) {
-                continue;
-            }
-            const double across = radius > 0.0 ? std::sin(angle) / radius : 0.0;
-            const Colour colour = WallAt({right * across, up * across, std::cos(angle)});
+            const Colour colour = PixelAt(optics, (x - size.width / 2 - 0.5) / scale,
+                                          (y - size.height / 2 - 0.5) / scale, 1.0 / scale);
             std::ranges::copy(colour, row.begin() + 3 * x);
         }
     }

@@ -42,13 +42,7 @@ Share AxisOf(const ImageRecord& image, PixelSize picture) {
 
 // The angles of view of the piece of sensor that the record has now.
 void RenewAngles(ImageRecord& image) {
-    GearRecord gear = GearOf(image);
-    gear.SensorWidth = image.SensorWidth;
-    gear.SensorHeight = image.SensorHeight;
-    gear.ImageCircleRadius = image.ImageCircleRadius;
-    gear.LensMapScale = image.LensMapScale;
-    gear.LensMapFactor = image.LensMapFactor;
-    FillAngles(gear);
+    const GearRecord gear = WholeGearOf(image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
     image.OutputAOV = UsualOutputAov(image.InputAOV);
 }
@@ -97,6 +91,18 @@ GearRecord GuessedGear(const CameraInfo& origin, double radius, const ImageRecor
 }
 
 }  // namespace
+
+GearRecord WholeGearOf(const ImageRecord& image) {
+    GearRecord gear = GearOf(image);
+    gear.SensorWidth = image.SensorWidth;
+    gear.SensorHeight = image.SensorHeight;
+    gear.ImageCircleRadius = image.ImageCircleRadius;
+    gear.LensMapScale = image.LensMapScale;
+    gear.LensMapFactor = image.LensMapFactor;
+    FillAngles(gear);
+    gear.GearRatio = image.Ratio;
+    return gear;
+}
 
 QString ToText(GearSource source) {
     constexpr const char16_t* texts[] = {u"given", u"exif", u"circle", u"measured", u"guess"};

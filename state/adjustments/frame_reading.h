@@ -43,6 +43,9 @@ struct FrameReading {
 // ratio.
 ImageCircle CircleOf(const ImageRecord& image, PixelSize picture);
 
+// The gear that has all of the record's numbers, its angles of view from these.
+GearRecord WholeGearOf(const ImageRecord& image);
+
 // Puts the circle there, which is measured on the record's picture: OfsetX, OfsetY, Ratio, and,
 // where the record knows its lens's circle in millimetres, the sensor's sides as the piece of it
 // that the picture shows, which is not larger than the sensor.

@@ -26,19 +26,6 @@ bool AreAlike(const SurveyedPhoto& one, const SurveyedPhoto& other) {
            one.origin.FocalLength == other.origin.FocalLength && sides(one) == sides(other);
 }
 
-// The gear that gave a record its numbers when the table does not have it: a guess.
-GearRecord WholeGearOf(const ImageRecord& image) {
-    GearRecord gear = GearOf(image);
-    gear.SensorWidth = image.SensorWidth;
-    gear.SensorHeight = image.SensorHeight;
-    gear.ImageCircleRadius = image.ImageCircleRadius;
-    gear.LensMapScale = image.LensMapScale;
-    gear.LensMapFactor = image.LensMapFactor;
-    FillAngles(gear);
-    gear.GearRatio = image.Ratio;
-    return gear;
-}
-
 bool HasSizeOf(const SurveyedPhoto& photo, const ImageRecord& image) {
     return photo.size.pixels.width == image.Width && photo.size.pixels.height == image.Height;
 }
@@ -282,6 +269,7 @@ std::vector<int> PhotoGears::Alike() const {
 GearRecord PhotoGears::GearOfCurrent() const {
     const ImageRecord& image = *model_.list.Current();
     const int gear = model_.state.Gear.Find(image.GearName);
+    // A guess is not in the table.
     return gear > 0 ? model_.state.Gear(gear) : WholeGearOf(image);
 }
 

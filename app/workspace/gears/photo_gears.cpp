@@ -50,8 +50,10 @@ std::vector<GearOption> GearOptionsFor(const CameraInfo& origin, const GearTable
     for (int n = 1; n <= table.UpperBound(); ++n) {
         options.push_back({n, NamesOf(table(n))});
     }
-    std::ranges::stable_partition(
-        options, [&](const GearOption& option) { return SpeaksFor(origin, table(option.gear)); });
+    // Not that of std::ranges, which a clang of some age cannot use.
+    std::stable_partition(options.begin(), options.end(), [&](const GearOption& option) {
+        return SpeaksFor(origin, table(option.gear));
+    });
     constexpr std::size_t few = 8;
     const CatalogueEntry camera = CameraFromExif(origin.Make, origin.Model);
     const PhotoLenses lenses = LensesFromExif(origin, camera);

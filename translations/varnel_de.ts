@@ -1074,22 +1074,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Kanten</translation>
     </message>
     <message>
-        <source>Photo</source>
-        <translation>Foto</translation>
-    </message>
-    <message>
-        <source>Length</source>
-        <translation>Länge</translation>
-    </message>
-    <message>
-        <source>Off straight</source>
-        <translation>Abweichung</translation>
-    </message>
-    <message>
-        <source>Direction</source>
-        <translation>Richtung</translation>
-    </message>
-    <message>
         <source>&amp;Upright</source>
         <translation>A&amp;ufrecht</translation>
     </message>
@@ -3183,6 +3167,22 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 </context>
 <context>
     <name>varnel::FormStraighten</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Off straight</source>
+        <translation>Abweichung</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
     <message>
         <source>The photo made straight</source>
         <translation>Das geradegerichtete Foto</translation>

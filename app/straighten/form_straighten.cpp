@@ -93,6 +93,9 @@ void FormStraighten::SetUpPictures() {
 }
 
 void FormStraighten::SetUpControls() {
+    ui_->EdgeTable->setColumnCount(4);
+    ui_->EdgeTable->setHorizontalHeaderLabels(
+        {tr("Photo"), tr("Length"), tr("Off straight"), tr("Direction")});
     ui_->EdgeTable->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui_->EdgeTable->verticalHeader()->hide();
     ui_->EdgeTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

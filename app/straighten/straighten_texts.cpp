@@ -31,7 +31,7 @@ QString EdgesText(const SolvedLens& solved) {
 
 QString AnglesText(const StraightenModel& model) {
     const SolvedLens& solved = *model.Result()->solved;
-    const QString error =
+    QString error =
         Texts::tr("Expected error of angles: %1°.").arg(Number(solved.angleErrorDegrees, 1));
     if (solved.anglesFixed) {
         return error;

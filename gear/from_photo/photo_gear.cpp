@@ -22,7 +22,7 @@ QString CameraText(const CameraInfo& origin) {
 }
 
 QString LensText(const CameraInfo& origin, const PhotoLenses& lenses) {
-    const QString name = origin.LensModel.simplified();
+    QString name = origin.LensModel.simplified();
     if (lenses.isNamed && !name.isEmpty()) {
         return name;
     }

@@ -30,7 +30,7 @@ QString RoomPhoto(const testing::PictureFolder& files) {
     shot.curve = {14.0F, 0.6F};
     shot.samples = 2;
     const BitmapHandle picture = TakeFisheye(LookAt, shot);
-    const QString photo = files.Path(Q("room.png"));
+    QString photo = files.Path(Q("room.png"));
     SaveBitmap(OutputType::Png, picture.get(), photo);
     return photo;
 }

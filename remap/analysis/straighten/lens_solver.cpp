@@ -51,7 +51,7 @@ Candidate Fitted(LensModel model, const std::vector<EdgePoints>& edges, const Le
         fit = FitModel(model, edges, EdgeLoss(noise), fit.parameters);
         noise = NoiseOf(edges, model.At(fit.parameters));
     }
-    return {std::move(model), std::move(fit), noise};
+    return {model, std::move(fit), noise};
 }
 
 class Solving {
@@ -139,7 +139,7 @@ class Solving {
                                            chosen ? chosen->fit.parameters : form->fit.parameters);
             const double heldOut = HeldOutLoss(model, used_, loss_, fit.parameters);
             if (!chosen || heldOut < chosen->heldOut - leastGain / static_cast<double>(Points())) {
-                chosen = Candidate{std::move(model), std::move(fit), heldOut};
+                chosen = Candidate{model, std::move(fit), heldOut};
             }
         }
         return *chosen;
@@ -249,7 +249,8 @@ class Solving {
     static double AngleDifference(const LensView& a, const LensView& b) {
         Numbers differences;
         double product = 0.0, square = 0.0;
-        for (double angle = 5.0 * degree; angle < 56.0 * degree; angle += 5.0 * degree) {
+        for (int n = 1; n <= 11; ++n) {
+            const double angle = 5.0 * n * degree;
             const double difference = a.curve.At(b.curve.Radius(angle)).angle - angle;
             product += difference * std::sin(2.0 * angle);
             square += std::sin(2.0 * angle) * std::sin(2.0 * angle);

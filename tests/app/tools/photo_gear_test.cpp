@@ -28,7 +28,7 @@ using testing::Text;
 
 // The image circle on black, in the middle.
 QString Circular(const testing::PictureFolder& files, const char* name) {
-    const QString path = files.Path(Text(name));
+    QString path = files.Path(Text(name));
     SaveBitmap(OutputType::Jpeg,
                testing::Painted({400, 400},
                                 [](int x, int y) {

@@ -100,7 +100,8 @@ void Solve(const Case& shots, const Drawn& drawn, std::mt19937& random, Outcome&
     outcome.bends.push_back(ViewBend(truth, solved.lens));
     outcome.soundlyStated += outcome.bends.back() < 2.5 * solved.expectedBend ? 1 : 0;
     double worst = 0.0;
-    for (double angle = 0.05; angle < 0.97; angle += 0.05) {
+    for (int n = 1; n <= 19; ++n) {
+        const double angle = 0.05 * n;
         worst = std::max(worst,
                          std::fabs(solved.lens.curve.At(truth.curve.Radius(angle)).angle - angle));
     }

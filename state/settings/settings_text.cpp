@@ -82,6 +82,14 @@ QString PlainName(QStringView text) {
     return name;
 }
 
+// Half of a character of 32 bits, which UTF-8 cannot hold.
+bool IsHalfCharacter(const QString& text, qsizetype at) {
+    const QChar character = text[at];
+    return (character.isHighSurrogate() &&
+            !(at + 1 < text.size() && text[at + 1].isLowSurrogate())) ||
+           (character.isLowSurrogate() && !(at > 0 && text[at - 1].isHighSurrogate()));
+}
+
 QString EscapedText(const QString& value) {
     QString text = value.startsWith(u'@') ? QStringLiteral("@") : QString();
     const bool quoted = value.startsWith(u' ') || value.endsWith(u' ') ||
@@ -89,8 +97,10 @@ QString EscapedText(const QString& value) {
                             return QStringView(u";,=\"\t").contains(character);
                         });
     bool afterCode = false;  // a hexadecimal digit would count as a part of the code before it
-    for (const QChar character : value) {
-        const bool needsCode = IsControl(character) || (afterCode && IsHexDigit(character));
+    for (qsizetype at = 0; at < value.size(); ++at) {
+        const QChar character = value[at];
+        const bool needsCode = IsControl(character) || IsHalfCharacter(value, at) ||
+                               (afterCode && IsHexDigit(character));
         if (needsCode) {
             text += QStringLiteral("\\x%1").arg(character.unicode(), 0, 16);
         } else if (character == u'"' || character == u'\\') {

@@ -83,6 +83,18 @@ TEST(SettingsText, KeepsTheOrderInWhichThingsWereSet) {
     EXPECT_EQ(SettingsText(ReadSettingsText(text).values), text);
 }
 
+// As a file in UTF-16 may have them.
+TEST(SettingsText, KeepsHalvesOfCharacters) {
+    SettingsValues values;
+    for (const QString& text : {QString(QChar(0xDFFF)), QString(QChar(0xD801)) + u'a',
+                                QStringLiteral("\U0001F4F7") + QChar(0xDC00)}) {
+        values.Set(QStringLiteral("s"), QStringLiteral("k"), text);
+        const SettingsReading again = ReadSettingsText(SettingsText(values));
+        EXPECT_TRUE(again.damage.isEmpty());
+        EXPECT_EQ(again.values.InOrder(), values.InOrder());
+    }
+}
+
 TEST(ReadSettingsText, TakesLinesAsTypedByHand) {
     const std::pair<const char*, const char*> cases[] = {
         // and the value of the key k

@@ -101,8 +101,8 @@ QString Described(const Measurement& measured, const Options& options) {
             .arg(solved.terms)
             .arg(Figure(solved.expectedBend, 1), Figure(solved.angleErrorDegrees, 1),
                  solved.anglesFixed ? QString()
-                 : options.focal    ? QStringLiteral("; angles are not fixed")
-                                 : QStringLiteral("; angles are not fixed, --focal MM fixes them"));
+                 : options.focal    ? QStringLiteral("; angles not fixed")
+                                    : QStringLiteral("; angles not fixed, --focal MM fixes them"));
     if (measured.colour) {
         text +=
             QStringLiteral(

@@ -20,7 +20,7 @@ QString NoteOn(const Measurement& measured) {
                ? QStringLiteral("its lens is measured from %1 edges; expected bend %2 px%3")
                      .arg(std::ranges::count(solved.edges, true, &EdgeResult::used))
                      .arg(solved.expectedBend, 0, 'f', 1)
-                     .arg(solved.anglesFixed ? QString() : QStringLiteral(", angles are not fixed"))
+                     .arg(solved.anglesFixed ? QString() : QStringLiteral(", angles not fixed"))
                : QStringLiteral("not straightened: its edges tell of no better lens");
 }
 
@@ -40,10 +40,7 @@ MeasureOptions MeasureOptionsFor(const Options& options, const StartedRecord& st
         started.reading.source == GearSource::Guess ? std::nullopt : KnownLensOf(record);
     if (known) {
         measure.present = known->view;
-        // A curve in radii of the circle says nothing of millimetres.
-        if (!record.Lens || record.Lens->unit == SampledLens::Unit::Millimetres) {
-            measure.pixelsPerMillimetre = known->pixelsPerMillimetre;
-        }
+        measure.pixelsPerMillimetre = known->pixelsPerMillimetre;
     }
     measure.focalMillimetres = options.focal;
     measure.colour = options.fringes;

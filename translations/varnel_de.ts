@@ -1166,8 +1166,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Name des Objektivs</translation>
     </message>
     <message>
-        <source>&amp;Save as my lens</source>
-        <translation>Als mein Ob&amp;jektiv speichern</translation>
+        <source>&amp;Save as my lens ...</source>
+        <translation>Als mein Ob&amp;jektiv speichern ...</translation>
     </message>
     <message>
         <source>Keeps the measured lens under this name, for any camera, under the brand &quot;My lenses&quot;</source>
@@ -1214,11 +1214,11 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Zu erwartender Fehler der Winkel: %1°.</translation>
     </message>
     <message>
-        <source>Angles are not fixed: tag edges, or give the focal length.</source>
+        <source>Angles not fixed: tag edges, or give the focal length.</source>
         <translation>Die Winkel liegen nicht fest: geben Sie Kanten eine Richtung, oder nennen Sie die Brennweite.</translation>
     </message>
     <message>
-        <source>Angles are not fixed: tag edges that are upright, level or run away.</source>
+        <source>Angles not fixed: tag edges that are upright, level or run away.</source>
         <translation>Die Winkel liegen nicht fest: bezeichnen Sie Kanten, die aufrecht oder waagrecht sind oder weglaufen.</translation>
     </message>
     <message>
@@ -2764,8 +2764,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Gibt diesem Foto den Kreis, den die Ausrüstung zurzeit hat</translation>
     </message>
     <message>
-        <source>Keep for the gear...</source>
-        <translation>Für die Ausrüstung behalten...</translation>
+        <source>Keep for the gear ...</source>
+        <translation>Für die Ausrüstung behalten ...</translation>
     </message>
     <message>
         <source>Makes this circle the one of the gear</source>
@@ -3379,12 +3379,12 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Blendet diese Zeile aus</translation>
     </message>
     <message>
-        <source>1 photo got its own gear.</source>
-        <translation>1 Foto hat seine eigene Ausrüstung bekommen.</translation>
+        <source>1 photo got its own gear</source>
+        <translation>1 Foto hat seine eigene Ausrüstung bekommen</translation>
     </message>
     <message>
-        <source>%1 photos got their own gear.</source>
-        <translation>%1 Fotos haben ihre eigene Ausrüstung bekommen.</translation>
+        <source>%1 photos got their own gear</source>
+        <translation>%1 Fotos haben ihre eigene Ausrüstung bekommen</translation>
     </message>
 </context>
 <context>

@@ -144,9 +144,7 @@ void RealDialogs::Stretch(const QString& photo, QWidget* parent) {
 std::optional<MeasuredLensUse> RealDialogs::Straighten(std::optional<PhotoToMeasure> photo,
                                                        QWidget* parent) {
     const auto choosePhotos = [this](const QString& folder) {
-        return ChoosePhotos(folder.isEmpty()
-                                ? store_.Get(setting::LastUsed, setting::LastPath, QDir::homePath())
-                                : folder);
+        return ChoosePhotos(folder.isEmpty() ? LastFolder() : folder);
     };
     FormStraighten form(
         {photos_, choosePhotos, state_.pool,

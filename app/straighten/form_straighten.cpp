@@ -27,13 +27,6 @@ namespace {
 
 constexpr float shownAngle = 110.0F;  // degrees across the straightened view
 
-// Shares the pixels.
-std::shared_ptr<const Bitmap> Shared(const Bitmap& bitmap) {
-    auto shared = std::make_shared<Bitmap>(bitmap.Format(), bitmap.Size(), bitmap.SharedPixels());
-    shared->metadata.photo.origin = bitmap.metadata.photo.origin;
-    return shared;
-}
-
 // A photo that is in no list: a guess.
 ImageRecord RecordFor(const LoadedPicture& photo) {
     ImageRecord record;
@@ -58,8 +51,7 @@ FormStraighten::FormStraighten(Ports ports, std::optional<PhotoToMeasure> photo,
     ConnectButtons();
     if (photo) {
         ui_->ComboPhotos->addItem(QFileInfo(photo->path).fileName());
-        model_.Add(
-            {Shared(*photo->bitmap), photo->path, photo->record, HasHalvedColour(photo->path)});
+        model_.Add({photo->bitmap, photo->path, photo->record, HasHalvedColour(photo->path)});
         ui_->EditName->setText(ports_.lenses.FreeName(LensName()));
     }
     ShowPhoto();
@@ -158,7 +150,8 @@ QString FormStraighten::Added(const QString& path) {
                (shortage.isEmpty() ? ErrorText(loaded.reason) : shortage);
     }
     const bool first = model_.Photos().empty();
-    if (!model_.Add({Shared(*loaded.bitmap), path, RecordFor(loaded), HasHalvedColour(path)})) {
+    const ImageRecord record = RecordFor(loaded);
+    if (!model_.Add({std::move(loaded.bitmap), path, record, HasHalvedColour(path)})) {
         return model_.Photos().size() == StraightenModel::mostPhotos
                    ? tr("%1: four photos are the most").arg(name)
                    : tr("%1: it is not as large as the first photo, or held otherwise").arg(name);

@@ -111,9 +111,7 @@ MeasureOptions StraightenModel::OptionsNow() const {
     const auto known = IsGuessed(record) ? std::nullopt : KnownLensOf(record);
     if (known) {
         options.present = known->view;
-        if (!record.Lens || record.Lens->unit == SampledLens::Unit::Millimetres) {
-            options.pixelsPerMillimetre = known->pixelsPerMillimetre;
-        }
+        options.pixelsPerMillimetre = known->pixelsPerMillimetre;
     }
     options.circle = circle_;
     options.findCircle = !result_;

@@ -38,9 +38,8 @@ QString AnglesText(const StraightenModel& model) {
     }
     return error + u' ' +
            (model.KnowsSensor()
-                ? Texts::tr("Angles are not fixed: tag edges, or give the focal length.")
-                : Texts::tr(
-                      "Angles are not fixed: tag edges that are upright, level or run away."));
+                ? Texts::tr("Angles not fixed: tag edges, or give the focal length.")
+                : Texts::tr("Angles not fixed: tag edges that are upright, level or run away."));
 }
 
 QString ColourText(const ColourEstimates& colour, bool halved) {

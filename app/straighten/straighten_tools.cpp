@@ -44,7 +44,7 @@ void StraightenTools::Straighten() {
         return;
     }
     const ImageRecord& record = workspace_.preparation.PreparedCurrent();
-    auto shared = std::make_unique<Bitmap>(photo->Format(), photo->Size(), photo->SharedPixels());
+    auto shared = std::make_shared<Bitmap>(photo->Format(), photo->Size(), photo->SharedPixels());
     shared->metadata.photo.origin = photo->metadata.photo.origin;
     if (const auto use = dialogs_.Straighten(
             PhotoToMeasure{SourcePath(record), std::move(shared), record}, window_)) {

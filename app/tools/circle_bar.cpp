@@ -3,49 +3,36 @@
 
 #include "app/tools/circle_bar.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 
 namespace varnel {
 
-CircleBar::CircleBar(QWidget* parent) : QWidget(parent), text_(new QLabel(this)) {
-    setObjectName(QStringLiteral("BarCircle"));
-    text_->setObjectName(QStringLiteral("LabelCircle"));
-    text_->setToolTip(
+CircleBar::CircleBar(QWidget* parent) : LineBar("BarCircle", "LabelCircle", parent) {
+    Text().setToolTip(
         tr("How far the circle's middle is from the photo's, in thousandths of its width and "
            "height, and the circle's diameter in percent of the photo's longer side"));
-    text_->setWordWrap(true);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the pictures get the rest
-    auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(9, 4, 9, 4);
-    row->addWidget(text_, 1);
-    find_ = AddButton("CmdCircleFind", tr("Find circle"),
-                      tr("Looks for the rim of the image circle on this photo"),
-                      &CircleBar::FindWanted);
-    reset_ = AddButton("CmdCircleReset", tr("Gear's circle"),
-                       tr("Gives this photo the circle that the gear has at present"),
-                       &CircleBar::ResetWanted);
-    take_ = AddButton("CmdCircleTake", tr("Keep for the gear..."),
-                      tr("Makes this circle the one of the gear"), &CircleBar::TakeWanted);
-    agree_ = AddButton("CmdCircleAgree", tr("Change the gear"), {}, &CircleBar::Agreed);
-    decline_ = AddButton("CmdCircleDecline", tr("Cancel"), {}, &CircleBar::Declined);
+    find_ = Add("CmdCircleFind", tr("Find circle"),
+                tr("Looks for the rim of the image circle on this photo"), &CircleBar::FindWanted);
+    reset_ = Add("CmdCircleReset", tr("Gear's circle"),
+                 tr("Gives this photo the circle that the gear has at present"),
+                 &CircleBar::ResetWanted);
+    take_ = Add("CmdCircleTake", tr("Keep for the gear ..."),
+                tr("Makes this circle the one of the gear"), &CircleBar::TakeWanted);
+    agree_ = Add("CmdCircleAgree", tr("Change the gear"), {}, &CircleBar::Agreed);
+    decline_ = Add("CmdCircleDecline", tr("Cancel"), {}, &CircleBar::Declined);
     decline_->setAccessibleName(QStringLiteral("%1: %2").arg(agree_->text(), decline_->text()));
     ShowQuestion(false);
 }
 
-QPushButton* CircleBar::AddButton(const char* name, const QString& text, const QString& tip,
-                                  void (CircleBar::*signal)()) {
-    auto* const button = new QPushButton(text, this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(tip);
-    layout()->addWidget(button);
+QPushButton* CircleBar::Add(const char* name, const QString& text, const QString& tip,
+                            void (CircleBar::*signal)()) {
+    QPushButton* const button = AddButton(name, text, tip);
     connect(button, &QPushButton::clicked, this, signal);
     return button;
 }
 
 void CircleBar::ShowNumbers(const QString& text, bool mayFind, bool mayTake) {
-    text_->setText(text);
+    Text().setText(text);
     find_->setEnabled(mayFind);
     reset_->setEnabled(mayTake);
     take_->setEnabled(mayTake);
@@ -53,7 +40,7 @@ void CircleBar::ShowNumbers(const QString& text, bool mayFind, bool mayTake) {
 }
 
 void CircleBar::Ask(const QString& question) {
-    text_->setText(question);
+    Text().setText(question);
     ShowQuestion(true);
     agree_->setFocus();
 }

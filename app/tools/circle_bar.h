@@ -5,13 +5,11 @@
 // of them, a question before the gear is changed. Throws nothing.
 #pragma once
 
-#include <QLabel>
-#include <QPushButton>
-#include <QWidget>
+#include "app/panels/line_bar.h"
 
 namespace varnel {
 
-class CircleBar : public QWidget {
+class CircleBar : public LineBar {
     Q_OBJECT
   public:
     explicit CircleBar(QWidget* parent);
@@ -30,11 +28,10 @@ class CircleBar : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    QPushButton* AddButton(const char* name, const QString& text, const QString& tip,
-                           void (CircleBar::*signal)());
+    QPushButton* Add(const char* name, const QString& text, const QString& tip,
+                     void (CircleBar::*signal)());
     void ShowQuestion(bool asked);
 
-    QLabel* text_;
     QPushButton* find_;
     QPushButton* reset_;
     QPushButton* take_;

@@ -67,7 +67,6 @@ CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowVi
       entry_(AddMenuEntry(parts.viewMenu, "CmdViewCircle", tr("&Image circle"),
                           {Qt::CTRL | Qt::Key_I})) {
     entry_->setCheckable(true);
-    bar_->hide();
     parts_.pictures->parentWidget()->layout()->addWidget(bar_);
     Connect();
 }

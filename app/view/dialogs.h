@@ -47,7 +47,7 @@ enum class Restore { Yes, No, Later };
 // A photo whose lens is to be measured. The bitmap may share its pixels with another one.
 struct PhotoToMeasure {
     QString path;
-    BitmapHandle bitmap;
+    std::shared_ptr<const Bitmap> bitmap;
     ImageRecord record;  // with its gear; a guess says so by its name
 };
 

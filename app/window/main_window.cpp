@@ -30,9 +30,7 @@
 #include "app/tools/sheet_tools.h"
 #include "app/tools/undo_tools.h"
 #include "app/tools/zoom_tools.h"
-#include "gear/from_photo/photo_gear.h"
-#include "pipeline/photos/add_images.h"
-#include "state/settings/setting_names.h"
+#include "app/workspace/gears/first_gear.h"
 
 namespace varnel {
 
@@ -100,26 +98,8 @@ void MDIForm1::ConnectEntries() {
     connect(&model_.activity, &Activity::Idle, this, &MDIForm1::CloseWhenIdle);
 }
 
-// Without any gear the first one that the given photos name is taken, and nothing is asked.
-void MDIForm1::ProposeFirstGear() {
-    constexpr qsizetype most = 100;  // files, which are looked into for a few milliseconds each
-    if (!store_.Get(setting::Gear, setting::DefaultGearName, {}).isEmpty()) {
-        return;
-    }
-    const auto busy = model_.activity.Occupy();
-    PhotoLoader::Together together(ports_.photos);
-    const auto goesOn = [&together] { return together.Continue(); };
-    for (const QString& file : PhotosOf(filesAtStart_, goesOn).files.mid(0, most)) {
-        const CameraInfo origin = ports_.photos.Facts(file).metadata.origin;
-        if (const auto gear = CertainGear(GearOfPhoto(origin, {}), {})) {
-            state_.Gear(0) = *gear;
-            return;
-        }
-    }
-}
-
 void MDIForm1::Activate() {
-    ProposeFirstGear();
+    ProposeFirstGear(filesAtStart_, {store_, ports_.photos, model_.activity}, state_.Gear);
     if (LoadGear(store_, state_.Gear, ports_.gearPrompt) != GearLoad::Loaded) {
         Q_EMIT QuitWanted();
         return;

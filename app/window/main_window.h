@@ -45,7 +45,6 @@ class MDIForm1 : public QMainWindow {
     void MakeTools();
     void ConnectEntries();
     void Activate();
-    void ProposeFirstGear();
     void CloseWhenIdle();
 
     WorkingState& state_;

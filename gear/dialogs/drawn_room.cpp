@@ -9,7 +9,8 @@
 
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_entry.h"
-#include "remap/projection/geometry.h"
+#include "remap/projection/record_maps.h"
+#include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
 
@@ -24,17 +25,14 @@ struct Optics {
 };
 
 Optics OpticsOf(const GearRecord& gear) {
-    if (gear.Lens) {
-        const bool inMillimetres = gear.Lens->unit == SampledLens::Unit::Millimetres;
-        const auto spline = std::make_shared<const LensSpline>(*gear.Lens);
-        const float scale = inMillimetres ? 1.0F : gear.ImageCircleRadius;
-        return {LensKind::Sampled,
-                {scale, 0.0F, spline},
-                static_cast<double>(scale) * spline->RadiusAt(gear.Lens->FieldLimit())};
+    ImageRecord image;
+    AssignGear(gear, image);
+    Optics optics{LensKindOf(image), LensCurveOf(image),
+                  static_cast<double>(image.ImageCircleRadius)};
+    if (image.Lens) {
+        optics.circle = LensRadius(optics.kind, image.Lens->FieldLimit(), optics.curve);
     }
-    return {LensMappingKind(gear.LensBrand.toStdString(), gear.LensModel.toStdString()),
-            {gear.LensMapScale, gear.LensMapFactor},
-            static_cast<double>(gear.ImageCircleRadius)};
+    return optics;
 }
 
 // Where the ray leaves a box with the camera in it: tiles with joints, each wall in its shade.

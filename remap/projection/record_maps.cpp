@@ -10,24 +10,8 @@ namespace varnel {
 
 namespace {
 
-LensKind KindOf(const ImageRecord& image) {
-    return image.Lens
-               ? LensKind::Sampled
-               : LensMappingKind(image.LensBrand.toStdString(), image.LensModel.toStdString());
-}
-
 SensorSize SensorOf(const ImageRecord& image) {
     return {image.SensorWidth, image.SensorHeight};
-}
-
-LensCurve CurveOf(const ImageRecord& image, LensColour colour) {
-    if (!image.Lens) {
-        return {image.LensMapScale, image.LensMapFactor};
-    }
-    const bool inMillimetres = image.Lens->unit == SampledLens::Unit::Millimetres;
-    return {inMillimetres ? 1.0F : image.ImageCircleRadius, 0.0F,
-            std::make_shared<const LensSpline>(*image.Lens),
-            image.Lens->ShiftOf(colour).value_or(ColourShift())};
 }
 
 // Where the optical axis of a sampled lens is: not rounded to whole pixels.
@@ -46,6 +30,22 @@ void PlaceAxis(const ImageRecord& image, SourceFrame& photo) {
 }
 
 }  // namespace
+
+LensKind LensKindOf(const ImageRecord& image) {
+    return image.Lens
+               ? LensKind::Sampled
+               : LensMappingKind(image.LensBrand.toStdString(), image.LensModel.toStdString());
+}
+
+LensCurve LensCurveOf(const ImageRecord& image, LensColour colour) {
+    if (!image.Lens) {
+        return {image.LensMapScale, image.LensMapFactor};
+    }
+    const bool inMillimetres = image.Lens->unit == SampledLens::Unit::Millimetres;
+    return {inMillimetres ? 1.0F : image.ImageCircleRadius, 0.0F,
+            std::make_shared<const LensSpline>(*image.Lens),
+            image.Lens->ShiftOf(colour).value_or(ColourShift())};
+}
 
 bool HasCentreFor(const SampledLens& lens, PixelSize picture) {
     constexpr double tolerance = 0.01;
@@ -67,9 +67,9 @@ Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wi
 }
 
 RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames) {
-    return {frames.source,   frames.output,
-            KindOf(image),   CurveOf(image, frames.source.colour),
-            image.OutputAOV, image.EffectRectilinear};
+    return {frames.source,     frames.output,
+            LensKindOf(image), LensCurveOf(image, frames.source.colour),
+            image.OutputAOV,   image.EffectRectilinear};
 }
 
 CameraMove CameraMoveOf(const ImageRecord& image) {
@@ -78,7 +78,7 @@ CameraMove CameraMoveOf(const ImageRecord& image) {
 
 EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames) {
     return {frames.source,           frames.output,
-            KindOf(image),           CurveOf(image, frames.source.colour),
+            LensKindOf(image),       LensCurveOf(image, frames.source.colour),
             image.ImageCircleRadius, image.InputAOV};
 }
 

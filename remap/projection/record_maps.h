@@ -25,6 +25,11 @@ bool HasCentreFor(const SampledLens& lens, PixelSize picture);
 // is as large.
 Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wish = {});
 
+// The record's lens for the maps; a sampled one's curve is in millimetres for each of its unit. An
+// image circle's radius of 0 makes nothing of a curve in radii. Throws std::bad_alloc.
+LensKind LensKindOf(const ImageRecord& image);
+LensCurve LensCurveOf(const ImageRecord& image, LensColour colour = LensColour::Green);
+
 RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames);
 CameraMove CameraMoveOf(const ImageRecord& image);
 EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames);

@@ -21,19 +21,18 @@ PixelSize SizeOf(const ImageRecord& image) {
 }
 
 LensView ViewOf(const ImageRecord& image, double pixelsPerMillimetre, const EdgePoint& centre) {
-    if (image.Lens) {
-        const bool inMillimetres = image.Lens->unit == SampledLens::Unit::Millimetres;
-        const double unit = inMillimetres ? 1.0 : static_cast<double>(image.ImageCircleRadius);
-        return ViewOfLens(*image.Lens, unit * pixelsPerMillimetre, centre);
-    }
-    return ViewOfFormula(
-        LensMappingKind(image.LensBrand.toStdString(), image.LensModel.toStdString()),
-        {image.LensMapScale, image.LensMapFactor}, pixelsPerMillimetre, centre);
+    const LensCurve curve = LensCurveOf(image);
+    return image.Lens ? ViewOfLens(*image.Lens,
+                                   static_cast<double>(curve.scale) * pixelsPerMillimetre, centre)
+                      : ViewOfFormula(LensKindOf(image), curve, pixelsPerMillimetre, centre);
+}
+
+bool IsInMillimetres(const ImageRecord& image) {
+    return !image.Lens || image.Lens->unit == SampledLens::Unit::Millimetres;
 }
 
 bool HasLens(const ImageRecord& image) {
-    const bool curve = image.Lens ? image.Lens->unit == SampledLens::Unit::Millimetres ||
-                                        image.ImageCircleRadius > 0.0F
+    const bool curve = image.Lens ? IsInMillimetres(image) || image.ImageCircleRadius > 0.0F
                                   : image.LensMapScale > 0.0F && image.LensMapFactor > 0.0F;
     return curve && image.SensorWidth > 0.0F && image.SensorHeight > 0.0F && image.Width > 0 &&
            image.Height > 0;
@@ -61,7 +60,8 @@ std::optional<KnownLens> KnownLensOf(const ImageRecord& image) {
         PixelsPerUnit(image.Width, image.Landscape, {image.SensorWidth, image.SensorHeight});
     const ImageCircle circle = CircleOf(image, SizeOf(image));
     try {
-        return KnownLens{ViewOf(image, scale, {circle.x, image.Height - circle.y}), scale};
+        return KnownLens{ViewOf(image, scale, {circle.x, image.Height - circle.y}),
+                         IsInMillimetres(image) ? std::optional(scale) : std::nullopt};
     } catch (const RunTimeError&) {
         return std::nullopt;
     }

@@ -14,7 +14,8 @@ namespace varnel {
 // What a record says of its lens as it draws on the record's picture.
 struct KnownLens {
     LensView view;
-    double pixelsPerMillimetre = 0.0;  // on the sensor
+    // On the sensor; nothing for a curve in radii of the circle, which says nothing of millimetres.
+    std::optional<double> pixelsPerMillimetre;
 };
 
 // Nothing when the record's numbers make no lens or its picture's size is not known.

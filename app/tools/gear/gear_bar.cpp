@@ -3,8 +3,6 @@
 
 #include "app/tools/gear/gear_bar.h"
 
-#include <QHBoxLayout>
-
 namespace varnel {
 
 namespace {
@@ -16,30 +14,8 @@ QString Plain(QString text) {
 
 }  // namespace
 
-GearLine::GearLine(const char* name, const char* label, QWidget* parent)
-    : QWidget(parent), text_(new QLabel(this)) {
-    setObjectName(QString::fromLatin1(name));
-    text_->setObjectName(QString::fromLatin1(label));
-    text_->setTextFormat(Qt::PlainText);
-    text_->setWordWrap(true);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);  // the pictures get the rest
-    auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(9, 4, 9, 4);
-    row->addWidget(text_, 1);
-    hide();
-}
-
-QPushButton* GearLine::AddButton(const char* name, const QString& text, const QString& tip) {
-    auto* const button = new QPushButton(text, this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(tip);
-    layout()->addWidget(button);
-    return button;
-}
-
 void GearLine::Show(const QString& text) {
-    text_->setText(text);
+    Text().setText(text);
     setVisible(!text.isEmpty());
 }
 
@@ -52,8 +28,8 @@ GivenBar::GivenBar(QWidget* parent) : GearLine("BarGearsGiven", "LabelGearsGiven
 
 void GivenBar::ShowGiven(int photos) {
     Show(photos == 0   ? QString()
-         : photos == 1 ? tr("1 photo got its own gear.")
-                       : tr("%1 photos got their own gear.").arg(photos));
+         : photos == 1 ? tr("1 photo got its own gear")
+                       : tr("%1 photos got their own gear").arg(photos));
 }
 
 GearBar::GearBar(QWidget* parent)

@@ -6,25 +6,19 @@
 // nothing.
 #pragma once
 
-#include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QStringList>
-#include <QWidget>
+
+#include "app/panels/line_bar.h"
 
 namespace varnel {
 
-// One line: a text that wraps, and the buttons behind it.
-class GearLine : public QWidget {
+class GearLine : public LineBar {
     Q_OBJECT
   public:
-    GearLine(const char* name, const char* label, QWidget* parent);
-    QPushButton* AddButton(const char* name, const QString& text, const QString& tip);
+    using LineBar::LineBar;
     // An empty text hides the line.
     void Show(const QString& text);
-
-  private:
-    QLabel* text_;
 };
 
 class GivenBar : public GearLine {

@@ -100,7 +100,7 @@ TEST_F(Straightening, MeasuresTheLensAndFollowsTheEdges) {
               static_cast<int>(form->Model().Edges().size()));
     ASSERT_TRUE(form->Model().HasLens());
     EXPECT_TRUE(FiguresHave("Expected bend"));
-    EXPECT_TRUE(FiguresHave("Angles are not fixed"));
+    EXPECT_TRUE(FiguresHave("Angles not fixed"));
     // What is shown beside it is what was measured.
     const auto known = KnownLensOf(form->Model().Straightened(0));
     ASSERT_TRUE(known);
@@ -145,7 +145,7 @@ TEST_F(Straightening, TagsFixTheAngles) {
         }
     }
     ASSERT_TRUE(Measured());
-    EXPECT_FALSE(FiguresHave("Angles are not fixed"));
+    EXPECT_FALSE(FiguresHave("Angles not fixed"));
     const LensView& lens = form->Model().Result()->solved->lens;
     EXPECT_NEAR(lens.curve.At(truth.curve.Radius(0.9)).angle, 0.9, 0.01);
 }

@@ -111,7 +111,7 @@ TEST_F(PhotoGearTest, AddedPhotosGetTheirOwnGearAsOneStep) {
     EXPECT_EQ(window_.state.Gear.UpperBound(), 2) << "a guess is no gear of the table";
     EXPECT_EQ(window_.store.Get(Text("Gear"), Text("GearName2"), {}), sigma_);
     ASSERT_TRUE(Shows("BarGearsGiven"));
-    EXPECT_EQ(window_.Label("LabelGearsGiven"), Text("2 photos got their own gear."));
+    EXPECT_EQ(window_.Label("LabelGearsGiven"), Text("2 photos got their own gear"));
     EXPECT_EQ(window_.Find<QComboBox>("GearCombo")->currentText(), sigma_);
 
     window_.ClickLine(2);
@@ -207,7 +207,7 @@ TEST_F(PhotoGearTest, ACropIsSeenInTheOtherWayAndBack) {
     ASSERT_TRUE(WaitForLast());
     ASSERT_TRUE(Shows("CmdDoubtFrame"));
     const ImageRecord piece = window_.Record(1);
-    EXPECT_EQ(window_.Label("LabelGearsGiven"), Text("1 photo got its own gear."));
+    EXPECT_EQ(window_.Label("LabelGearsGiven"), Text("1 photo got its own gear"));
     window_.Click("CmdDoubtFrame");
     EXPECT_EQ(window_.Record(1).SensorWidth, window_.state.Gear(2).SensorWidth);
     ASSERT_TRUE(Shows("CmdDoubtFrame"));

@@ -79,9 +79,11 @@ class EdgeSearching {
         : photo_(photo),
           lens_(lens),
           search_(search),
-          block_(std::max(
-              1, static_cast<int>(std::lround(std::max(photo.Size().width, photo.Size().height) /
-                                              static_cast<double>(searchedSide))))) {}
+          // A photo that is thinner than a block would be reduced to nothing.
+          block_(std::clamp(
+              static_cast<int>(std::lround(std::max(photo.Size().width, photo.Size().height) /
+                                           static_cast<double>(searchedSide))),
+              1, std::min(photo.Size().width, photo.Size().height))) {}
 
     std::vector<EdgeTrace> Run() {
         for (std::vector<EdgePoint>& chain :

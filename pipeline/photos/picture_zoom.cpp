@@ -30,15 +30,24 @@ void PictureZoom::SetPicture(QSize picture) {
 
 void PictureZoom::SetView(QSize view) {
     view_ = view.expandedTo({1, 1});
-    if (scale_ && *scale_ <= FitScale() + hair) {
+    if (scale_ && IsBelowFit(*scale_)) {
         ShowAll();
     }
     Clamp();
 }
 
 double PictureZoom::FitScale() const {
-    return std::min({static_cast<double>(view_.width()) / picture_.width(),
-                     static_cast<double>(view_.height()) / picture_.height(), 1.0});
+    return std::min(static_cast<double>(view_.width()) / picture_.width(),
+                    static_cast<double>(view_.height()) / picture_.height());
+}
+
+double PictureZoom::Largest() const {
+    return std::max(stops.back(), FitScale());
+}
+
+bool PictureZoom::IsBelowFit(double scale) const {
+    const double fit = FitScale();
+    return std::fabs(scale - fit) <= hair || scale < std::min(fit, 1.0) - hair;
 }
 
 QPoint PictureZoom::Corner() const {
@@ -58,10 +67,10 @@ void PictureZoom::ShowAll() {
 }
 
 void PictureZoom::Show(double scale, QPointF picturePoint, QPointF viewPoint) {
-    if (scale <= FitScale() + hair) {
+    if (IsBelowFit(scale)) {
         return ShowAll();
     }
-    scale_ = std::min(scale, stops.back());
+    scale_ = std::min(scale, Largest());
     centre_ = picturePoint + (Middle() - viewPoint) / *scale_;
     Clamp();
 }

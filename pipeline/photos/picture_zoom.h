@@ -19,7 +19,7 @@ class PictureZoom {
     void SetPicture(QSize picture);
     void SetView(QSize view);
 
-    // The whole picture, never enlarged.
+    // The whole picture, as large as the view allows.
     bool Fit() const { return !scale_; }
     // Device pixels to a picture pixel.
     double Scale() const { return scale_.value_or(FitScale()); }
@@ -34,7 +34,8 @@ class PictureZoom {
 
     void ShowAll();
     // The picture point comes to the view point, as far as the picture's edges stay outside the
-    // view. A scale not above the whole picture's shows that.
+    // view. A scale not above the whole picture's shows that, unless the whole one is enlarged:
+    // then there are all from 1 on.
     void Show(double scale, QPointF picturePoint, QPointF viewPoint);
     void Pan(QPointF by);  // device pixels that the picture moves
 
@@ -42,8 +43,11 @@ class PictureZoom {
     double Stepped(int steps) const;
     // The scale times the factor; on the way past 1 it stops there.
     double Scaled(double factor) const;
+    // The largest there is.
+    double Largest() const;
 
   private:
+    bool IsBelowFit(double scale) const;
     QPointF Middle() const { return {view_.width() / 2.0, view_.height() / 2.0}; }
     void Clamp();
 

@@ -30,6 +30,16 @@ PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room) {
     return {std::max(w, 1), std::max(h, 1)};
 }
 
+PixelSize FittedSize(PixelSize picture, PixelSize room) {
+    std::int32_t w = std::max(room.width, 1);
+    std::int32_t h = Scaled(w, picture.height, picture.width);
+    if (h > room.height) {
+        h = room.height;
+        w = Scaled(h, picture.width, picture.height);
+    }
+    return {std::max(w, 1), std::max(h, 1)};
+}
+
 BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size) {
     return RescaledByBox(*picture, size);
 }

@@ -13,6 +13,10 @@ namespace varnel {
 // picture itself and at least 1 x 1. All in pixels.
 PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room);
 
+// The largest size with the picture's proportions within the room, also one larger than the
+// picture; at least 1 x 1.
+PixelSize FittedSize(PixelSize picture, PixelSize room);
+
 // The picture reduced to that size with the library's box filter. Throws std::bad_alloc.
 BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size);
 

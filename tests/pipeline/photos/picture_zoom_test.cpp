@@ -74,18 +74,23 @@ TEST(PictureZoom, StepsStopAtRoundScalesAndPassOneOnlyFromThere) {
     EXPECT_TRUE(zoom.Fit());
 }
 
-TEST(PictureZoom, AnotherSizeIsShownWholeAndSmallPicturesAreNotEnlarged) {
+TEST(PictureZoom, AnotherSizeIsShownWholeAndSmallPicturesFillTheView) {
     PictureZoom zoom = Zoom();
     zoom.Show(1.0, {}, {});
     zoom.SetPicture({6000, 4000});
     EXPECT_FALSE(zoom.Fit());
     zoom.SetPicture({300, 200});
     EXPECT_TRUE(zoom.Fit());
-    EXPECT_DOUBLE_EQ(zoom.Scale(), 1.0);
+    EXPECT_DOUBLE_EQ(zoom.Scale(), 3.0);
     zoom.Show(2.0, {}, {});
     EXPECT_EQ(zoom.Corner(), QPoint(151, 100));
     zoom.SetView({5000, 5000});
     EXPECT_FALSE(zoom.Fit());
+    zoom.Show(1.0, {}, {});
+    EXPECT_DOUBLE_EQ(zoom.Scale(), 1.0);
+    zoom.Show(0.9, {}, {});
+    EXPECT_TRUE(zoom.Fit());
+    EXPECT_DOUBLE_EQ(zoom.Largest(), zoom.FitScale());
 }
 
 }  // namespace

@@ -2647,6 +2647,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Ends the saving without a file</source>
         <translation>Beendet das Speichern ohne Datei</translation>
     </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -3430,6 +3434,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::InsetFrame</name>
+    <message>
+        <source>The photo as shot: drag the bar to move it, the corner to resize it</source>
+        <translation>Das Foto, wie es aufgenommen wurde: am Balken verschieben, an der Ecke die Größe ändern</translation>
+    </message>
+</context>
+<context>
     <name>varnel::LevelTools</name>
     <message>
         <source>&amp;Level the horizon</source>
@@ -3746,6 +3757,48 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::ViewTools</name>
+    <message>
+        <source>S&amp;plit</source>
+        <translation>Nebeneinan&amp;der</translation>
+    </message>
+    <message>
+        <source>Photo and result side by side</source>
+        <translation>Foto und Ergebnis nebeneinander</translation>
+    </message>
+    <message>
+        <source>Res&amp;ult</source>
+        <translation>&amp;Ergebnis</translation>
+    </message>
+    <message>
+        <source>The result as large as possible, with the photo as a small picture on it</source>
+        <translation>Das Ergebnis so groß wie möglich, mit dem Foto als kleinem Bild darauf</translation>
+    </message>
+    <message>
+        <source>P&amp;hoto</source>
+        <translation>&amp;Foto</translation>
+    </message>
+    <message>
+        <source>The photo as shot as large as possible</source>
+        <translation>Das Foto, wie es aufgenommen wurde, so groß wie möglich</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ZoomBar</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>How large the pictures are shown, from the whole picture on</source>
+        <translation>Wie groß die Bilder gezeigt werden, vom ganzen Bild an</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ZoomTools</name>
     <message>
         <source>Fi&amp;t</source>
@@ -3774,10 +3827,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Before instead of after	B</source>
         <translation>V&amp;orher statt nachher	B</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 </TS>

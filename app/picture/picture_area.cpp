@@ -17,6 +17,7 @@ PictureArea::PictureArea(QWidget* parent)
     : QWidget(parent),
       from_(new PictureBox(tr("Add photos with \"Add image(s)\" or drop them here."), this)),
       to_(new PictureBox(tr("The converted picture appears here."), this)),
+      frame_(new InsetFrame(this)),
       error_(new QLabel(this)) {
     from_->setObjectName(QStringLiteral("PicSmallFrom"));
     from_->setAccessibleName(tr("Photo as shot"));
@@ -37,6 +38,16 @@ PictureArea::PictureArea(QWidget* parent)
     warning.setColor(QPalette::WindowText, Qt::black);
     error_->setPalette(warning);
     error_->hide();
+    frame_->hide();
+    connect(frame_, &InsetFrame::Wanted, this, [this](const QRect& place) {
+        SetInset({place.x() / (1.0 * width()), place.y() / (1.0 * height()),
+                  place.width() / (1.0 * width()), place.height() / (1.0 * height())});
+    });
+    connect(from_, &PictureBox::Shown, this, [this] {
+        if (view_ == PictureView::Result) {
+            Place();
+        }
+    });
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, pictureSurround);
@@ -56,33 +67,69 @@ void PictureArea::PlaceError() {
     error_->setGeometry(photo.left(), photo.bottom() + 1 - height, photo.width(), height);
 }
 
-void PictureArea::SetWanted(QSize size) {
-    wanted_ = size;
-    Place();
+void PictureArea::SetView(PictureView view) {
+    if (view != view_) {
+        view_ = view;
+        Place();
+        Q_EMIT RoomChanged();
+    }
 }
 
-void PictureArea::SetRoomy(bool roomy) {
-    roomy_ = roomy;
-    Place();
+void PictureArea::SetInset(const QRectF& inset) {
+    inset_ = inset;
+    if (view_ == PictureView::Result) {
+        Place();
+        Q_EMIT RoomChanged();
+    }
 }
 
 QSize PictureArea::Room() const {
-    const int acrossPictures = SideBySide() ? 2 : 1;
-    const int downPictures = SideBySide() ? 1 : 2;
+    const bool split = view_ == PictureView::Split;
+    const int acrossPictures = split && SideBySide() ? 2 : 1;
+    const int downPictures = split && !SideBySide() ? 2 : 1;
     return {(width() - pictureMargin * (acrossPictures + 1)) / acrossPictures,
             (height() - pictureMargin * (downPictures + 1)) / downPictures};
 }
 
 void PictureArea::Place() {
-    const QSize room = Room().expandedTo({1, 1});
-    const QSize box = roomy_ ? room : wanted_.boundedTo(room);
-    const QSize step = SideBySide() ? QSize(box.width() + pictureMargin, 0)
-                                    : QSize(0, box.height() + pictureMargin);
-    const QSize both = box + step;
-    const QPoint corner((width() - both.width()) / 2, (height() - both.height()) / 2);
-    from_->setGeometry(QRect(corner, box));
-    to_->setGeometry(QRect(corner + QPoint(step.width(), step.height()), box));
+    frame_->setVisible(view_ == PictureView::Result);
+    to_->setVisible(view_ != PictureView::Photo);
+    const QRect whole(QPoint(pictureMargin, pictureMargin), Room().expandedTo({1, 1}));
+    switch (view_) {
+        case PictureView::Split:
+            PlaceSplit();
+            break;
+        case PictureView::Result:
+            to_->setGeometry(whole);
+            PlaceInset();
+            break;
+        case PictureView::Photo:
+            from_->setGeometry(whole);
+            break;
+    }
     PlaceError();
+}
+
+void PictureArea::PlaceSplit() {
+    const QSize box = Room().expandedTo({1, 1});
+    const QPoint corner(pictureMargin, pictureMargin);
+    const QPoint step = SideBySide() ? QPoint(box.width() + pictureMargin, 0)
+                                     : QPoint(0, box.height() + pictureMargin);
+    from_->setGeometry(QRect(corner, box));
+    to_->setGeometry(QRect(corner + step, box));
+}
+
+// Of the photo's shape; wherever it was put, it stays on the area.
+void PictureArea::PlaceInset() {
+    const QSize wanted(qRound(inset_.width() * width()), qRound(inset_.height() * height()));
+    const QSize size = InsetFrame::FittedTo(from_->Picture(), wanted.boundedTo(this->size()));
+    const QPoint corner(std::clamp(qRound(inset_.x() * width()), 0, width() - size.width()),
+                        std::clamp(qRound(inset_.y() * height()), 0, height() - size.height()));
+    frame_->setGeometry(QRect(corner, size));
+    from_->setGeometry(frame_->Inside());
+    frame_->raise();
+    from_->raise();
+    error_->raise();
 }
 
 void PictureArea::resizeEvent(QResizeEvent* /*event*/) {

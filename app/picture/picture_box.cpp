@@ -12,6 +12,7 @@
 
 #include "remap/display/paint.h"
 #include "remap/display/paint_part.h"
+#include "remap/image/preview_size.h"
 
 namespace varnel {
 
@@ -50,12 +51,33 @@ PictureBox::PictureBox(const QString& hint, QWidget* parent) : QWidget(parent), 
 void PictureBox::Show(const Bitmap* bitmap, QSize full) {
     // In the screen's own form, so that painting copies and converts nothing.
     image_ = ImageOf(bitmap).convertToFormat(QImage::Format_RGB32);
+    sharp_.clear();
     picture_ = full.isEmpty() ? image_.size() : full;
     // Not by a click: the keyboard stays with the list or the slider that is worked with.
     setFocusPolicy(image_.isNull() ? Qt::NoFocus : Qt::TabFocus);
-    image_.setDevicePixelRatio(devicePixelRatioF());
     update();
     Q_EMIT Shown();
+}
+
+void PictureBox::ShowSharp(std::vector<QImage> images) {
+    sharp_ = std::move(images);
+    update();
+}
+
+// Rounded as the working bitmap's size is, which needs no scaling then.
+QSize PictureBox::FitSizeIn(const PictureBox& box) const {
+    const QSize view = box.View();
+    if (picture_.isEmpty() || view.isEmpty()) {
+        return {};
+    }
+    const PixelSize fit =
+        FittedSize({picture_.width(), picture_.height()}, {view.width(), view.height()});
+    return {fit.width, fit.height};
+}
+
+const QImage* PictureBox::SharpFor(QSize size) const {
+    const auto found = std::ranges::find(sharp_, size, &QImage::size);
+    return found == sharp_.end() ? nullptr : &*found;
 }
 
 void PictureBox::FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full) {
@@ -90,11 +112,16 @@ QRectF PictureBox::PictureRect() const {
         return {(zoom_->Corner() - GridOffset()) / ratio,
                 QSizeF(picture_) * zoom_->Scale() / ratio};
     }
-    const QSizeF size = Source().image_.deviceIndependentSize();
-    // Whole device pixels, or the picture would be blurred on a scaled screen.
-    const double x = std::floor((width() - size.width()) / 2.0 * ratio) / ratio;
-    const double y = std::floor((height() - size.height()) / 2.0 * ratio) / ratio;
-    return {QPointF(x, y), size};
+    const QRectF fit = FitRect();
+    return {(fit.topLeft() - GridOffset()) / ratio, fit.size() / ratio};
+}
+
+// Whole device pixels, or the picture would be blurred on a scaled screen.
+QRectF PictureBox::FitRect() const {
+    const QSize view = View();
+    const QSize size = FitSize();
+    // NOLINTNEXTLINE(bugprone-integer-division): whole pixels are meant
+    return {QPointF((view.width() - size.width()) / 2, (view.height() - size.height()) / 2), size};
 }
 
 void PictureBox::RedrawRows(RowSpan rows) {
@@ -154,7 +181,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
             PaintZoomed(painter, region);
         }
     } else {
-        painter.drawImage(PictureRect().topLeft(), image);
+        PaintWhole(painter);
     }
     const QTransform toWidget = ToWidget();
     for (PictureOverlay* const overlay : overlays_) {
@@ -174,6 +201,17 @@ void PictureBox::PaintFocus(QPainter& painter) const {
     painter.drawRect(QRectF(rect()).adjusted(2.0, 2.0, -2.0, -2.0));
     painter.setPen(QPen(QColor(255, 255, 255), 1.5));
     painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+}
+
+// The draft is enlarged until there is the picture in this size.
+void PictureBox::PaintWhole(QPainter& painter) const {
+    const QRectF place = PictureRect();
+    const QImage* const sharp = Source().SharpFor(FitSize());
+    const QImage& image = sharp != nullptr ? *sharp : Source().image_;
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != FitSize());
+    painter.drawImage(place, image);
+    painter.restore();
 }
 
 // In pixels of the screen, so that at a scale of 1 none is touched by another.

@@ -30,7 +30,7 @@ struct FullPicture {
     const RegionRenderer* rows = nullptr;  // those that are drawn; null when all are
 };
 
-// Shows one bitmap in its middle, a bitmap pixel to a pixel of the screen, or a hint without one.
+// Shows one bitmap as large as the box allows, or a hint without one.
 class PictureBox : public QWidget {
     Q_OBJECT
   public:
@@ -38,6 +38,12 @@ class PictureBox : public QWidget {
     // Null empties the box. full is the size of the picture that the bitmap is a reduced copy of;
     // without one the bitmap is the picture.
     void Show(const Bitmap* bitmap, QSize full = {});
+    // The same picture made for the sizes that it is shown in, until another is shown.
+    void ShowSharp(std::vector<QImage> images);
+    // The whole picture here, device pixels; empty without one.
+    QSize FitSize() const { return FitSizeIn(*this); }
+    QSize FitSizeIn(const PictureBox& box) const;  // where that one shows this picture
+    bool IsWhole() const { return zoom_ == nullptr || zoom_->Fit(); }
     // Whether an empty box shows its hint.
     void SetHintShown(bool shown) {
         hintShown_ = shown;
@@ -100,14 +106,18 @@ class PictureBox : public QWidget {
     bool OverlaysTake(const OverlayInput& input);
     bool UseKey(const OverlayKey& key);
     void PaintFocus(QPainter& painter) const;
-    bool Zoomed() const { return zoom_ != nullptr && !zoom_->Fit(); }
+    bool Zoomed() const { return !IsWhole(); }
     const PictureBox& Source() const { return standIn_ != nullptr ? *standIn_ : *this; }
     QPointF GridOffset() const;
+    QRectF FitRect() const;
+    const QImage* SharpFor(QSize size) const;
+    void PaintWhole(QPainter& painter) const;
     void PaintZoomed(QPainter& painter, const QRect& region) const;
 
     QString hint_;
     bool hintShown_ = true;
     QImage image_;
+    std::vector<QImage> sharp_;
     QSize picture_;
     std::vector<PictureOverlay*> overlays_;
     PictureOverlay* holder_ = nullptr;  // the overlay that has the mouse

@@ -8,10 +8,12 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "app/panels/menu_entry.h"
 #include "app/panels/named_button.h"
+#include "pipeline/dialogs/elided_label.h"
 
 namespace varnel {
 
@@ -52,10 +54,24 @@ void MakeSide(QWidget* side, WindowParts& parts) {
 }
 
 void MakePictures(QWidget* right, WindowParts& parts) {
+    parts.header = new QWidget(right);
+    parts.header->setObjectName(QStringLiteral("PictureHeader"));
+    parts.header->setAccessibleName(Texts::tr("View"));
+    auto* const row = new QHBoxLayout(parts.header);
+    row->setContentsMargins(pictureMargin, 3, pictureMargin, 3);
+    row->setSpacing(2);
+    row->setAlignment(Qt::AlignLeft);
+    for (QToolButton*& button : parts.views) {  // before the pictures, for the order of the Tab key
+        button = new QToolButton(parts.header);
+        button->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(button);
+    }
     parts.pictures = new PictureArea(right);
     auto* const layout = new QVBoxLayout(right);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(parts.pictures);
+    layout->setSpacing(0);
+    layout->addWidget(parts.header);
+    layout->addWidget(parts.pictures, 1);
 }
 
 void MakeCentre(QMainWindow* window, WindowParts& parts) {
@@ -72,7 +88,7 @@ void MakeCentre(QMainWindow* window, WindowParts& parts) {
 }
 
 void MakeStatus(QMainWindow* window, WindowParts& parts) {
-    parts.status = new QLabel(window);
+    parts.status = new ElidedLabel(window);  // whatever length a reason has
     parts.status->setObjectName(QStringLiteral("StatusText"));
     parts.status->setTextInteractionFlags(Qt::TextSelectableByMouse);
     parts.bar = new QProgressBar(window);

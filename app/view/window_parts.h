@@ -11,6 +11,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
+#include <QToolButton>
+#include <array>
 
 #include "app/panels/adjustment_panel.h"
 #include "app/panels/gear_offer_row.h"
@@ -38,8 +40,10 @@ struct WindowParts {
     SavePanel* save = nullptr;
     GearOfferRow* offer = nullptr;
     PictureArea* pictures = nullptr;
-    QSplitter* splitter = nullptr;  // between the side column and the pictures
-    QWidget* column = nullptr;      // the whole side column
+    QWidget* header = nullptr;            // a row above the pictures, with a horizontal layout
+    std::array<QToolButton*, 3> views{};  // in it, one for each PictureView
+    QSplitter* splitter = nullptr;        // between the side column and the pictures
+    QWidget* column = nullptr;            // the whole side column
     QMenu* editMenu = nullptr;
     QMenu* viewMenu = nullptr;
     MenuEntries entries;

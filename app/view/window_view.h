@@ -37,6 +37,7 @@ class WindowView : public QObject, public WorkspaceView {
     void ShowStatus(const QString& text) override {
         ++statusNumber_;
         parts_.status->setText(text);
+        parts_.status->setToolTip(text);  // it may not fit
     }
     // Of the text in the status line: a caller that remembers it can find out whether its text is
     // still shown.
@@ -54,7 +55,7 @@ class WindowView : public QObject, public WorkspaceView {
     void ShowProject(const QString& name, bool unsaved);
     void ShowTitle(const QString& photo);
 
-    // The settings of the result that is shown; the projection is the chosen one.
+    // The settings of the result that is shown.
     const ImageRecord& Drawn() const { return drawn_; }
     bool Locked() const { return locked_; }
 

@@ -25,11 +25,12 @@
 #include "app/tools/guide_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
-#include "app/tools/picture_size_tools.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
 #include "app/tools/undo_tools.h"
-#include "app/tools/zoom_tools.h"
+#include "app/tools/view/picture_size_tools.h"
+#include "app/tools/view/view_tools.h"
+#include "app/tools/view/zoom_tools.h"
 #include "app/workspace/gears/first_gear.h"
 
 namespace varnel {
@@ -65,6 +66,7 @@ void MDIForm1::MakeTools() {
         new ListTools(parts_, view_, workspace_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, view_, workspace_, state_, store_, ports_);
     sessions_ = new SessionTools(*projects_, workspace_, state_, ports_, this);
+    views_ = new ViewTools(this, parts_, store_);
     new ZoomTools(this, parts_, view_, workspace_, state_);
     parts_.viewMenu->addSeparator();
     new SheetTools(parts_, view_, workspace_, state_, this);
@@ -141,6 +143,7 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
     }
     sessions_->End();
     layout_.Save();
+    views_->Save();
     QMainWindow::closeEvent(event);
 }
 

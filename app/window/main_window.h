@@ -9,6 +9,7 @@
 
 #include "app/tools/project_tools.h"
 #include "app/tools/session_tools.h"
+#include "app/tools/view/view_tools.h"
 #include "app/view/dialogs.h"
 #include "app/view/window_view.h"
 #include "app/window/window_layout.h"
@@ -56,6 +57,7 @@ class MDIForm1 : public QMainWindow {
     WindowView view_;
     Workspace workspace_;
     ProjectTools* projects_ = nullptr;
+    ViewTools* views_ = nullptr;
     SessionTools* sessions_ = nullptr;
     QStringList filesAtStart_;
     bool started_ = false;

@@ -49,10 +49,12 @@ void PreviewRenderer::DrawNow(const ImageRecord& image) {
     Bitmaps& bitmaps = model_.state.bitmaps;
     RenderContext context{bitmaps, [this] { return model_.controls.Antialiased(); },
                           &model_.state.pool};
+    const Projection projection = model_.controls.ChosenProjection();
     try {
-        Render(model_.controls.ChosenProjection(), image, SizeKind::Thumbnails, view_.Progress(),
-               context);
-        view_.NoteDrawn(image);
+        Render(projection, image, SizeKind::Thumbnails, view_.Progress(), context);
+        ImageRecord drawn = image;
+        drawn.Projection = static_cast<std::int16_t>(projection);
+        view_.NoteDrawn(drawn);
         view_.ShowResult(bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {
         view_.ShowResult(nullptr);

@@ -25,7 +25,7 @@ class WorkspaceView {
 
     virtual void ShowSource(const Bitmap* bitmap) = 0;  // null empties the picture
     virtual void ShowResult(const Bitmap* bitmap) = 0;
-    // The settings that the result to be shown next was made with.
+    // The settings that the result to be shown next was made with, its projection included.
     virtual void NoteDrawn(const ImageRecord& /*image*/) {}
     // What is wrong with the photo; empty when nothing is.
     virtual void ShowError(const QString& text) = 0;

@@ -57,7 +57,7 @@ TEST(Zoom, AtActualSizeBothShowTheFullSizePixels) {
 
     const QPoint middle = workspace.Find("PicSmallTo")->rect().center();
     QTest::mouseDClick(workspace.Find("PicSmallTo"), Qt::LeftButton, {}, middle);
-    EXPECT_TRUE(workspace.Find("ZoomText")->isHidden());
+    EXPECT_TRUE(workspace.Find<PictureBox>("PicSmallTo")->IsWhole());
 }
 
 }  // namespace

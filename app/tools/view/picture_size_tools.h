@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The size of the two pictures: it follows the space that the window leaves for them, and the
-// settings, which the Setup menu's entry "Defaults" changes. Throws nothing but for want of memory.
+// The size of the two working bitmaps: it follows the space that the window leaves for the
+// pictures, and the settings, which the Setup menu's entry "Defaults" changes. And the sharp
+// pictures that take the drafts' place. Throws nothing but for want of memory.
 #pragma once
 
 #include <QMainWindow>
 #include <QTimer>
 
+#include "app/picture/screen_pictures.h"
 #include "app/view/dialogs.h"
 #include "app/view/window_view.h"
 #include "app/workspace/workspace.h"
@@ -18,10 +20,9 @@ class PictureSizeTools : public QObject {
     Q_OBJECT
   public:
     PictureSizeTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                     Workspace& workspace, const WorkingState& state, Dialogs& dialogs);
+                     Workspace& workspace, WorkingState& state, Dialogs& dialogs);
 
   private:
-    void TakeWanted();
     void OnRoomChanged();
     void ChangeDefaults();
     void Redraw();
@@ -32,6 +33,7 @@ class PictureSizeTools : public QObject {
     Workspace& workspace_;
     const WorkingState& state_;
     Dialogs& dialogs_;
+    ScreenPictures sharp_;
     QTimer roomSettled_{this};
 };
 

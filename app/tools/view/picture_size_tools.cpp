@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/tools/picture_size_tools.h"
+#include "app/tools/view/picture_size_tools.h"
 
 #include "remap/image/preview_size.h"
 
@@ -14,25 +14,25 @@ constexpr int afterChange = 150;  // ms without another change of the window's s
 }  // namespace
 
 PictureSizeTools::PictureSizeTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                                   Workspace& workspace, const WorkingState& state,
-                                   Dialogs& dialogs)
+                                   Workspace& workspace, WorkingState& state, Dialogs& dialogs)
     : QObject(window),
       window_(window),
       pictures_(*parts.pictures),
       view_(view),
       workspace_(workspace),
       state_(state),
-      dialogs_(dialogs) {
+      dialogs_(dialogs),
+      sharp_(*parts.pictures, state.pool, this) {
     roomSettled_.setSingleShot(true);
     roomSettled_.setInterval(afterChange);
     connect(&pictures_, &PictureArea::RoomChanged, &roomSettled_, qOverload<>(&QTimer::start));
     connect(&roomSettled_, &QTimer::timeout, this, &PictureSizeTools::OnRoomChanged);
     connect(parts.entries.defaults, &QAction::triggered, this, &PictureSizeTools::ChangeDefaults);
-    TakeWanted();
-}
-
-void PictureSizeTools::TakeWanted() {
-    pictures_.SetWanted({state_.settings.PreviewWidth, state_.settings.PreviewHeight});
+    sharp_.Serve(
+        [this] {
+            return ScreenPictures::Wish{state_.bitmaps.FullSourceBitmap.get(), view_.Drawn()};
+        },
+        [this] { return workspace_.model.activity.Busy(); });
 }
 
 // The pictures are made anew only when the window leaves another room for them.
@@ -56,7 +56,6 @@ void PictureSizeTools::OnRoomChanged() {
 
 void PictureSizeTools::ChangeDefaults() {
     dialogs_.ChangeDefaults(window_);
-    TakeWanted();
     view_.ShowOffer();
     Redraw();
 }

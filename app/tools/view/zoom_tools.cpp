@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/tools/zoom_tools.h"
+#include "app/tools/view/zoom_tools.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -11,6 +11,7 @@
 
 #include "app/panels/menu_entry.h"
 #include "app/tools/hold_key.h"
+#include "remap/projection/projection_info.h"
 
 namespace varnel {
 
@@ -24,15 +25,10 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
       state_(state),
       from_(parts.pictures->From()),
       to_(parts.pictures->To()),
-      feed_(nullptr),
-      shownScale_(new QLabel(window)) {
-    shownScale_->setObjectName(QStringLiteral("ZoomText"));
-    shownScale_->hide();
-    window->statusBar()->addPermanentWidget(shownScale_);
+      feed_(nullptr) {
     feed_.Serve([this] { return Wish(); }, [this] { return workspace_.model.activity.Busy(); });
     connect(&feed_, &RegionScheduler::Drawn, to_, &PictureBox::RedrawRows);
-    from_->FollowZoom(&zoom_, [this] { return FullPicture{Photo(), nullptr}; });
-    to_->FollowZoom(&zoom_, [this] { return FullPicture{feed_.Part().Result(), &feed_.Part()}; });
+    FollowZoom();
     for (PictureBox* const box : {from_, to_}) {
         box->AddOverlay(&lines_);
         ConnectBox(box);
@@ -41,7 +37,21 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
     connect(to_, &PictureBox::Shown, this, &ZoomTools::OnResultShown);
     connect(parts.pictures, &PictureArea::RoomChanged, this, &ZoomTools::OnRoomChanged);
     AddEntries();
+    AddChoices();
     AddKeys();
+    ShowZoom();
+}
+
+// The photo as an inset is shown whole.
+void ZoomTools::FollowZoom() {
+    from_->FollowZoom(Follows(from_) ? &zoom_ : nullptr, [this] {
+        return FullPicture{Photo(), nullptr};
+    });
+    to_->FollowZoom(&zoom_, [this] { return FullPicture{feed_.Part().Result(), &feed_.Part()}; });
+}
+
+bool ZoomTools::Follows(const PictureBox* box) const {
+    return box == to_ || parts_.pictures->View() != PictureView::Result;
 }
 
 void ZoomTools::AddEntries() {
@@ -49,17 +59,27 @@ void ZoomTools::AddEntries() {
                             const QList<QKeySequence>& shortcuts, auto handler) {
         QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text, shortcuts);
         connect(entry, &QAction::triggered, this, handler);
+        return entry;
     };
-    const auto step = [this](int steps) { ZoomTo(from_, Middle(from_), zoom_.Stepped(steps)); };
-    add("CmdViewFit", tr("Fi&t"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { ShowAll(); });
-    add("CmdViewActual", tr("&100 %"), {QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_0)},
-        [this] { ZoomTo(from_, Middle(from_), 1.0); });
+    const auto step = [this](int steps) { ZoomMiddle(zoom_.Stepped(steps)); };
+    QAction* const fit =
+        add("CmdViewFit", tr("Fi&t"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { ShowAll(); });
+    QAction* const actual = add("CmdViewActual", tr("&100 %"),
+                                {QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_0),
+                                 QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_1)},
+                                [this] { ZoomMiddle(1.0); });
     add("CmdViewZoomIn", tr("Zoom i&n"),
         {QKeySequence(Qt::CTRL | Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Equal)},
         [step] { step(1); });
     add("CmdViewZoomOut", tr("Zoom &out"), {QKeySequence(Qt::CTRL | Qt::Key_Minus)},
         [step] { step(-1); });
+    bar_ = new ZoomBar(fit, actual, window_);
+    connect(bar_, &ZoomBar::Wanted, this, &ZoomTools::ZoomMiddle);
+    window_->statusBar()->addPermanentWidget(bar_);
     parts_.viewMenu->addSeparator();
+}
+
+void ZoomTools::AddChoices() {
     const auto addChoice = [this](const char* name, const QString& text, auto handler) {
         QAction* const entry = AddMenuEntry(parts_.viewMenu, name, text);
         entry->setCheckable(true);
@@ -123,6 +143,8 @@ void ZoomTools::OnSourceShown() {
     zoom_.SetPicture(from_->Picture());
     if (zoom_.Fit() != fitted) {
         ShowAll();
+    } else {
+        bar_->Show(zoom_);
     }
     to_->update();  // it may stand in for the other
 }
@@ -138,19 +160,21 @@ void ZoomTools::OnResultShown() {
 
 void ZoomTools::OnRoomChanged() {
     const bool fitted = zoom_.Fit();
-    zoom_.SetView(from_->View());
+    FollowZoom();
+    zoom_.SetView(Main()->View());
     if (zoom_.Fit() != fitted) {
         ShowAll();
-    } else if (!fitted) {
+    } else {
         ShowZoom();
     }
 }
 
 RegionScheduler::Wish ZoomTools::Wish() const {
-    if (zoom_.Fit() || to_->Empty()) {
+    if (zoom_.Fit() || to_->Empty() || to_->isHidden()) {
         return {};
     }
-    return {Photo(), workspace_.model.controls.ChosenProjection(), view_.Drawn(), VisibleRows()};
+    const ImageRecord& drawn = view_.Drawn();
+    return {Photo(), ProjectionFromIndex(drawn.Projection), drawn, VisibleRows()};
 }
 
 RowSpan ZoomTools::VisibleRows() const {
@@ -161,19 +185,20 @@ RowSpan ZoomTools::VisibleRows() const {
 }
 
 void ZoomTools::ZoomTo(const PictureBox* box, QPointF point, double scale) {
-    if (from_->Empty()) {
+    if (from_->Empty() || !Follows(box)) {
         return;
     }
-    const QPointF picturePoint = box->ToWidget().inverted().map(point);
-    const QPointF onScreen = box->mapToGlobal(point);
-    parts_.pictures->SetRoomy(true);
-    zoom_.SetView(from_->View());
-    zoom_.Show(scale, picturePoint, box->ViewPoint(box->mapFromGlobal(onScreen)));
+    zoom_.SetView(Main()->View());
+    zoom_.Show(scale, box->ToWidget().inverted().map(point), box->ViewPoint(point));
     if (zoom_.Fit()) {
         ShowAll();
     } else {
         ShowZoom();
     }
+}
+
+void ZoomTools::ZoomMiddle(double scale) {
+    ZoomTo(Main(), QRectF(Main()->rect()).center(), scale);
 }
 
 void ZoomTools::Toggle(const PictureBox* box, QPointF point) {
@@ -183,13 +208,11 @@ void ZoomTools::Toggle(const PictureBox* box, QPointF point) {
 void ZoomTools::ShowAll() {
     zoom_.ShowAll();
     feed_.Drop();
-    parts_.pictures->SetRoomy(false);
     ShowZoom();
 }
 
 void ZoomTools::ShowZoom() {
-    shownScale_->setVisible(!zoom_.Fit());
-    shownScale_->setText(tr("%1 %").arg(std::lround(zoom_.Scale() * 100.0)));
+    bar_->Show(zoom_);
     from_->update();
     to_->update();
     if (!zoom_.Fit()) {

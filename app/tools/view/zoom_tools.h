@@ -11,6 +11,7 @@
 
 #include "app/picture/picture_lines.h"
 #include "app/picture/region_scheduler.h"
+#include "app/tools/view/zoom_bar.h"
 #include "app/view/window_view.h"
 #include "app/workspace/workspace.h"
 #include "pipeline/photos/picture_zoom.h"
@@ -25,18 +26,22 @@ class ZoomTools : public QObject {
 
   private:
     void AddEntries();
+    void AddChoices();
     void AddKeys();
     void ConnectBox(PictureBox* box);
     void OnSourceShown();
     void OnResultShown();
     void OnRoomChanged();
+    void FollowZoom();
 
     const Bitmap* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
     RegionScheduler::Wish Wish() const;
     RowSpan VisibleRows() const;
-    QPointF Middle(const PictureBox* box) const { return QRectF(box->rect()).center(); }
+    PictureBox* Main() const { return parts_.pictures->Main(); }
+    bool Follows(const PictureBox* box) const;
     // Makes the scale so, the point of the box's picture staying where it is on the screen.
     void ZoomTo(const PictureBox* box, QPointF point, double scale);
+    void ZoomMiddle(double scale);
     void Toggle(const PictureBox* box, QPointF point);
     void ShowAll();
     void ShowZoom();
@@ -52,7 +57,7 @@ class ZoomTools : public QObject {
     PictureZoom zoom_;
     RegionScheduler feed_;
     PictureLines lines_;
-    QLabel* shownScale_;
+    ZoomBar* bar_ = nullptr;
 };
 
 }  // namespace varnel

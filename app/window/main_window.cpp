@@ -43,7 +43,8 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
       layout_(*this, *parts_.splitter, store),
       model_(state),
       view_(this, parts_, model_),
-      workspace_(model_, WorkspacePorts{ports_.photos, ports_.notices, view_}) {
+      shelf_(ports_.newSmallReader, state.settings),
+      workspace_(model_, WorkspacePorts{ports_.photos, ports_.notices, view_, &shelf_}) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QStringLiteral("Varnel"));
     setAcceptDrops(true);

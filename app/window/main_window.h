@@ -55,6 +55,7 @@ class MDIForm1 : public QMainWindow {
     WindowLayout layout_;
     WorkspaceModel model_;
     WindowView view_;
+    PhotoShelf shelf_;
     Workspace workspace_;
     ProjectTools* projects_ = nullptr;
     ViewTools* views_ = nullptr;

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <new>
+#include <optional>
+#include <utility>
 
 #include "base/error_text.h"
 #include "base/shortage.h"
@@ -25,6 +27,40 @@ void CurrentPhoto::ReportNotOpened(const ImageRecord& image) {
                         QStringLiteral("%1: %2").arg(SourcePath(image), ErrorText(loadError_)));
 }
 
+LoadedPicture CurrentPhoto::Load(const QString& path) {
+    std::optional<LoadedPicture> ready;
+    if (ports_.shelf != nullptr) {
+        ready = ports_.shelf->Take(path);
+    }
+    return ready ? std::move(*ready) : ports_.photos.Load(path);
+}
+
+// The photo that is left may be looked at again soon.
+void CurrentPhoto::PutAway() {
+    BitmapHandle photo = std::move(model_.state.bitmaps.FullSourceBitmap);
+    if (ports_.shelf != nullptr && photo && !shownPath_.isEmpty()) {
+        shown_.bitmap = std::move(photo);
+        ports_.shelf->Put(shownPath_, std::move(shown_));
+    }
+    shownPath_.clear();
+    shown_ = {};
+}
+
+// The next photo on the way comes first.
+void CurrentPhoto::ReadNeighbours(int line) {
+    const int way = line < lastLine_ ? -1 : 1;
+    lastLine_ = line;
+    QStringList paths;
+    for (const int neighbour : {line + way, line - way}) {
+        if (neighbour >= 0 && neighbour < model_.list.Images().UpperBound()) {
+            paths.append(SourcePath(model_.list.OnLine(neighbour)));
+        }
+    }
+    if (ports_.shelf != nullptr) {
+        ports_.shelf->ReadAhead(paths);
+    }
+}
+
 bool CurrentPhoto::LoadFull(int line) {
     model_.steps.Note(StepKind::Other);
     model_.steps.Seal();  // what comes now is no step of the user
@@ -32,10 +68,10 @@ bool CurrentPhoto::LoadFull(int line) {
     Bitmaps& bitmaps = model_.state.bitmaps;
     bitmaps.ResultBitmap.reset();
     bitmaps.PreviewSourceBitmap.reset();
-    bitmaps.FullSourceBitmap.reset();
+    PutAway();
     ports_.view.ShowResult(nullptr);  // never another photo's
     ports_.view.ShowError({});
-    LoadedPicture loaded = ports_.photos.Load(SourcePath(image));
+    LoadedPicture loaded = Load(SourcePath(image));
     loadError_ = loaded.bitmap ? Reason() : loaded.reason;
     if (!loaded.reason.isEmpty()) {
         ports_.view.ShowError(
@@ -49,7 +85,9 @@ bool CurrentPhoto::LoadFull(int line) {
     }
     unreadable_.remove(SourcePath(image));
     bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
-    TakeSize({SizeOf(bitmaps.FullSourceBitmap.get()), loaded.orientation}, image);
+    shownPath_ = SourcePath(image);
+    shown_ = std::move(loaded);
+    TakeSize({SizeOf(bitmaps.FullSourceBitmap.get()), shown_.orientation}, image);
     preparation_.GiveOwnGear(image);
     model_.steps.Absorb();
     model_.ShowInControls(image);
@@ -69,6 +107,7 @@ void CurrentPhoto::ShowLine(int line) {
                    Unreadable(model_.list.CurrentPath()).isEmpty()) {
             ReportNotOpened(model_.list.OnLine(line));
         }
+        ReadNeighbours(line);
     }
     Q_EMIT model_.activity.Idle();
 }

@@ -39,6 +39,9 @@ class CurrentPhoto {
 
   private:
     bool LoadFull(int line);
+    LoadedPicture Load(const QString& path);
+    void ReadNeighbours(int line);
+    void PutAway();
     bool LoadAndReduce(int line);
 
     WorkspaceModel& model_;
@@ -46,6 +49,9 @@ class CurrentPhoto {
     PhotoPreparation& preparation_;
     PreviewRenderer& preview_;
     QHash<QString, Reason> unreadable_;
+    QString shownPath_;    // of the photo at hand
+    LoadedPicture shown_;  // what came with it, without the picture itself
+    int lastLine_ = 0;
     Reason loadError_;
 };
 

@@ -11,6 +11,7 @@
 #include "base/notices.h"
 #include "base/pixel_size.h"
 #include "pipeline/photos/photo_loader.h"
+#include "pipeline/photos/photo_shelf.h"
 #include "remap/render/render.h"
 
 namespace varnel {
@@ -43,6 +44,7 @@ struct WorkspacePorts {
     PhotoLoader& photos;
     Notices& notices;
     WorkspaceView& view;
+    PhotoShelf* shelf = nullptr;  // null: every photo is read when its line becomes current
 };
 
 }  // namespace varnel

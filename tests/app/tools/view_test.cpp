@@ -147,5 +147,22 @@ TEST(Views, TheSliderInTheStatusLineZoomsThePicturesTogether) {
     EXPECT_EQ(zoom->value(), 0);
 }
 
+TEST(Walking, NeighboursAreThereBeforeTheyAreLookedAt) {
+    TestWindow workspace([] { return NewPictureReader(); });
+    workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp"), QStringLiteral("c.bmp")}, {300, 200});
+    const auto reads = [&workspace](int line) {
+        bool read = false;
+        workspace.reader.meanwhile = [&read] { read = true; };
+        workspace.ClickLine(line);
+        workspace.reader.meanwhile = nullptr;
+        EXPECT_FALSE(workspace.Find<PictureBox>("PicSmallTo")->Empty());
+        return read;
+    };
+    EXPECT_TRUE(reads(2));  // it was no neighbour
+    QTest::qWait(500);
+    EXPECT_FALSE(reads(1));
+    EXPECT_FALSE(reads(2));  // it was left just now
+}
+
 }  // namespace
 }  // namespace varnel

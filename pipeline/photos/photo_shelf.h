@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Decoded photos for a list that is walked through: those that were left just now, and the
+// neighbours of the current one, which a decoder of its own reads ahead while nothing is wanted.
+// Four at most, which together hold no more than an eighth of the machine's memory. Throws std::bad_alloc only.
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "decoder/process/picture_reader.h"
+#include "state/settings/general_settings.h"
+
+namespace varnel {
+
+class PhotoShelf : public QObject {
+    Q_OBJECT
+  public:
+    using NewReader = std::function<std::unique_ptr<PictureReader>()>;
+    // Without a maker of readers nothing is kept nor read ahead.
+    PhotoShelf(NewReader newReader, const GeneralSettings& settings);
+    ~PhotoShelf() override;
+    PhotoShelf(const PhotoShelf&) = delete;
+    PhotoShelf& operator=(const PhotoShelf&) = delete;
+
+    // Takes the photo off, if it is there and its file and the settings are as when it was read.
+    std::optional<LoadedPicture> Take(const QString& path);
+    // Keeps it, in the place of those that were put there first.
+    void Put(const QString& path, LoadedPicture picture);
+    bool Has(const QString& path) const;
+    // Reads these ahead soon, the first one first; another call takes their place.
+    void ReadAhead(QStringList paths);
+
+  private:
+    // What a decoded photo depends on.
+    struct Stamp {
+        QString path;
+        QDateTime changed;
+        qint64 bytes = 0;
+        bool upright = true;
+
+        bool operator==(const Stamp& other) const = default;
+    };
+    struct Kept {
+        Stamp stamp;
+        LoadedPicture picture;
+    };
+    Stamp StampOf(const QString& path) const;
+    void GoOn();
+    void BeginNext();
+    void GiveUp();
+    void PutStamped(Kept kept);
+
+    NewReader newReader_;
+    const GeneralSettings& settings_;
+    std::unique_ptr<PictureReader> reader_;
+    std::deque<Kept> kept_;  // the one put last is the last
+    QStringList wanted_;
+    std::optional<Stamp> underWay_;
+    QTimer timer_{this};
+};
+
+}  // namespace varnel

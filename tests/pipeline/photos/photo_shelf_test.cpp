@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Walking through the list: neighbours are read ahead, and what was left is not read again.
+
+#include "pipeline/photos/photo_shelf.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "tests/support/files.h"
+#include "tests/support/loading.h"
+#include "tests/support/texts.h"
+
+namespace varnel {
+namespace {
+
+using testing::Text;
+
+class PhotoShelfTest : public ::testing::Test {
+  protected:
+    QString Photo(const char* name, PixelSize size = {30, 20}) {
+        return files.Picture(Text(name), OutputType::Bmp, size);
+    }
+    bool ReadsAhead(const QString& path) {
+        return QTest::qWaitFor([&] { return shelf.Has(path); });
+    }
+
+    testing::PictureFolder files;
+    GeneralSettings settings;
+    PhotoShelf shelf{[] { return NewPictureReader(); }, settings};
+};
+
+TEST_F(PhotoShelfTest, NeighboursAreReadAheadTheFirstOneFirst) {
+    const QString next = Photo("next.bmp");
+    const QString before = Photo("before.bmp", {20, 30});
+    shelf.ReadAhead({next, files.Path(Text("missing.bmp")), before});
+    ASSERT_TRUE(ReadsAhead(before));
+    ASSERT_TRUE(shelf.Has(next));
+    const std::optional<LoadedPicture> taken = shelf.Take(before);
+    ASSERT_TRUE(taken && taken->bitmap);
+    EXPECT_EQ(taken->bitmap->Size().height, 30);
+    EXPECT_FALSE(shelf.Take(before));
+}
+
+TEST_F(PhotoShelfTest, AChangedFileOrSettingIsReadAnew) {
+    const QString path = Photo("a.bmp");
+    shelf.ReadAhead({path});
+    ASSERT_TRUE(ReadsAhead(path));
+    settings.AutoOrient = !settings.AutoOrient;
+    EXPECT_FALSE(shelf.Has(path));
+    settings.AutoOrient = !settings.AutoOrient;
+    EXPECT_TRUE(shelf.Has(path));
+    Photo("a.bmp", {31, 20});
+    EXPECT_FALSE(shelf.Take(path));
+}
+
+TEST_F(PhotoShelfTest, HoldsFourAndThoseThatWerePutLast) {
+    std::vector<QString> paths;
+    for (const char* const name : {"1.bmp", "2.bmp", "3.bmp", "4.bmp", "5.bmp"}) {
+        paths.push_back(Photo(name));
+        shelf.Put(paths.back(), {LoadOutcome::Loaded, NewBitmap({3, 2}), {}, {3, 2}});
+    }
+    EXPECT_FALSE(shelf.Has(paths.front()));
+    for (std::size_t n = 1; n < paths.size(); ++n) {
+        EXPECT_TRUE(shelf.Has(paths[n])) << n;
+    }
+}
+
+}  // namespace
+}  // namespace varnel

@@ -32,6 +32,7 @@
 #include "app/tools/view/view_tools.h"
 #include "app/tools/view/zoom_tools.h"
 #include "app/workspace/gears/first_gear.h"
+#include "remap/image/preview_size.h"
 
 namespace varnel {
 
@@ -43,7 +44,10 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
       layout_(*this, *parts_.splitter, store),
       model_(state),
       view_(this, parts_, model_),
-      shelf_(ports_.newSmallReader, state.settings),
+      shelf_(ports_.newSmallReader, state.settings,
+             [this](PixelSize photo) {
+                 return PreviewSize(photo, view_.PreviewBox(), view_.PictureRoom());
+             }),
       workspace_(model_, WorkspacePorts{ports_.photos, ports_.notices, view_, &shelf_}) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QStringLiteral("Varnel"));

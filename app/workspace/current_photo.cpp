@@ -27,20 +27,21 @@ void CurrentPhoto::ReportNotOpened(const ImageRecord& image) {
                         QStringLiteral("%1: %2").arg(SourcePath(image), ErrorText(loadError_)));
 }
 
-LoadedPicture CurrentPhoto::Load(const QString& path) {
-    std::optional<LoadedPicture> ready;
+ShelvedPhoto CurrentPhoto::Load(const QString& path) {
+    std::optional<ShelvedPhoto> ready;
     if (ports_.shelf != nullptr) {
         ready = ports_.shelf->Take(path);
     }
-    return ready ? std::move(*ready) : ports_.photos.Load(path);
+    return ready ? std::move(*ready) : ShelvedPhoto{ports_.photos.Load(path), nullptr};
 }
 
 // The photo that is left may be looked at again soon.
 void CurrentPhoto::PutAway() {
     BitmapHandle photo = std::move(model_.state.bitmaps.FullSourceBitmap);
+    BitmapHandle reduced = std::move(model_.state.bitmaps.PreviewSourceBitmap);
     if (ports_.shelf != nullptr && photo && !shownPath_.isEmpty()) {
         shown_.bitmap = std::move(photo);
-        ports_.shelf->Put(shownPath_, std::move(shown_));
+        ports_.shelf->Put(shownPath_, {std::move(shown_), std::move(reduced)});
     }
     shownPath_.clear();
     shown_ = {};
@@ -67,11 +68,10 @@ bool CurrentPhoto::LoadFull(int line) {
     ImageRecord& image = model_.list.OnLine(line);
     Bitmaps& bitmaps = model_.state.bitmaps;
     bitmaps.ResultBitmap.reset();
-    bitmaps.PreviewSourceBitmap.reset();
     PutAway();
     ports_.view.ShowResult(nullptr);  // never another photo's
     ports_.view.ShowError({});
-    LoadedPicture loaded = Load(SourcePath(image));
+    auto [loaded, reduced] = Load(SourcePath(image));
     loadError_ = loaded.bitmap ? Reason() : loaded.reason;
     if (!loaded.reason.isEmpty()) {
         ports_.view.ShowError(
@@ -85,6 +85,7 @@ bool CurrentPhoto::LoadFull(int line) {
     }
     unreadable_.remove(SourcePath(image));
     bitmaps.FullSourceBitmap = std::move(loaded.bitmap);
+    bitmaps.PreviewSourceBitmap = std::move(reduced);
     shownPath_ = SourcePath(image);
     shown_ = std::move(loaded);
     TakeSize({SizeOf(bitmaps.FullSourceBitmap.get()), shown_.orientation}, image);

@@ -39,7 +39,7 @@ class CurrentPhoto {
 
   private:
     bool LoadFull(int line);
-    LoadedPicture Load(const QString& path);
+    ShelvedPhoto Load(const QString& path);
     void ReadNeighbours(int line);
     void PutAway();
     bool LoadAndReduce(int line);

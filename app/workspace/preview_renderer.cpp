@@ -14,12 +14,17 @@
 
 namespace varnel {
 
+// The photo at hand may have come with it.
 void PreviewRenderer::Reduce() {
     Bitmaps& bitmaps = model_.state.bitmaps;
     const Bitmap* const full = bitmaps.FullSourceBitmap.get();
     const PixelSize size = PreviewSize(SizeOf(full), view_.PreviewBox(), view_.PictureRoom());
-    bitmaps.PreviewSourceBitmap.reset();
-    bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
+    const Bitmap* const ready = bitmaps.PreviewSourceBitmap.get();
+    if (ready == nullptr || ready->Size().width != size.width ||
+        ready->Size().height != size.height) {
+        bitmaps.PreviewSourceBitmap.reset();
+        bitmaps.PreviewSourceBitmap = ReducedCopy(full, size);
+    }
     view_.ShowSource(bitmaps.PreviewSourceBitmap.get());
 }
 

@@ -5,9 +5,12 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <chrono>
+#include <new>
 #include <utility>
 
 #include "decoder/request/picture_limits.h"
+#include "remap/image/preview_size.h"
 
 namespace varnel {
 
@@ -25,8 +28,11 @@ std::uint64_t BytesOf(const LoadedPicture& picture) {
 
 }  // namespace
 
-PhotoShelf::PhotoShelf(NewReader newReader, const GeneralSettings& settings)
-    : newReader_(std::move(newReader)), settings_(settings) {
+PhotoShelf::PhotoShelf(NewReader newReader, const GeneralSettings& settings,
+                       SizeOfPreview sizeOfPreview)
+    : newReader_(std::move(newReader)),
+      settings_(settings),
+      sizeOfPreview_(std::move(sizeOfPreview)) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &PhotoShelf::GoOn);
 }
@@ -45,9 +51,12 @@ bool PhotoShelf::Has(const QString& path) const {
     return std::ranges::any_of(kept_, [&](const Kept& kept) { return kept.stamp == stamp; });
 }
 
-std::optional<LoadedPicture> PhotoShelf::Take(const QString& path) {
+std::optional<ShelvedPhoto> PhotoShelf::Take(const QString& path) {
     timer_.stop();
     GiveUp();
+    if (reducing_ && reducing_->kept.stamp.path == path) {
+        Collect();
+    }
     const auto found =
         std::ranges::find(kept_, path, [](const Kept& kept) { return kept.stamp.path; });
     if (found == kept_.end()) {
@@ -58,27 +67,55 @@ std::optional<LoadedPicture> PhotoShelf::Take(const QString& path) {
     if (!(kept.stamp == StampOf(path))) {
         return {};
     }
-    return std::move(kept.picture);
+    return std::move(kept.photo);
 }
 
-void PhotoShelf::Put(const QString& path, LoadedPicture picture) {
+void PhotoShelf::Put(const QString& path, ShelvedPhoto photo) {
     if (newReader_) {
-        PutStamped({StampOf(path), std::move(picture)});
+        PutStamped({StampOf(path), std::move(photo)});
     }
+}
+
+void PhotoShelf::Reduce(Kept kept) {
+    const Bitmap* const photo = kept.photo.picture.bitmap.get();
+    if (photo == nullptr) {
+        return;
+    }
+    const PixelSize size = sizeOfPreview_(photo->Size());
+    reducing_ = Reducing{std::move(kept), std::async(std::launch::async, [photo, size] {
+                             return ReducedCopy(photo, size);
+                         })};
+}
+
+bool PhotoShelf::IsReducing() const {
+    return reducing_ &&
+           reducing_->reduced.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
+}
+
+void PhotoShelf::Collect() {
+    Reducing done = std::move(*reducing_);
+    reducing_.reset();
+    try {
+        done.kept.photo.reduced = done.reduced.get();
+    } catch (const std::bad_alloc&) {
+        return;  // there is no memory to spare
+    }
+    PutStamped(std::move(done.kept));
 }
 
 void PhotoShelf::PutStamped(Kept kept) {
-    if (!kept.picture.bitmap) {
+    if (!kept.photo.picture.bitmap) {
         return;
     }
     std::erase_if(kept_, [&](const Kept& old) { return old.stamp.path == kept.stamp.path; });
-    std::uint64_t bytes = BytesOf(kept.picture);
+    std::uint64_t bytes = BytesOf(kept.photo.picture);
     kept_.push_back(std::move(kept));
     // From the last one on, as long as there is room.
     auto first = std::prev(kept_.end());
     const std::uint64_t most = MachineMemory() / shareOfMemory;
-    while (first != kept_.begin() && std::distance(first, kept_.end()) < mostKept && bytes + BytesOf(std::prev(first)->picture) <= most) {
-        bytes += BytesOf((--first)->picture);
+    while (first != kept_.begin() && std::distance(first, kept_.end()) < mostKept &&
+           bytes + BytesOf(std::prev(first)->photo.picture) <= most) {
+        bytes += BytesOf((--first)->photo.picture);
     }
     kept_.erase(kept_.begin(), bytes <= most ? first : kept_.end());
 }
@@ -92,12 +129,17 @@ void PhotoShelf::ReadAhead(QStringList paths) {
 }
 
 void PhotoShelf::GoOn() {
+    if (IsReducing() || (underWay_ && !reader_->Wait(0))) {
+        timer_.start(betweenLooks);
+        return;
+    }
+    if (reducing_) {
+        Collect();
+    }
     if (underWay_) {
-        if (!reader_->Wait(0)) {
-            timer_.start(betweenLooks);
-            return;
-        }
-        PutStamped({*std::exchange(underWay_, {}), reader_->Take()});
+        Reduce({*std::exchange(underWay_, {}), {reader_->Take(), nullptr}});
+        timer_.start(betweenLooks);
+        return;
     }
     BeginNext();
 }

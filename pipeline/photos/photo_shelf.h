@@ -3,7 +3,8 @@
 
 // Decoded photos for a list that is walked through: those that were left just now, and the
 // neighbours of the current one, which a decoder of its own reads ahead while nothing is wanted.
-// Four at most, which together hold no more than an eighth of the machine's memory. Throws std::bad_alloc only.
+// Four at most, which together hold no more than an eighth of the machine's memory. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QDateTime>
@@ -11,6 +12,7 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <future>
 #include <memory>
 #include <optional>
 
@@ -19,20 +21,27 @@
 
 namespace varnel {
 
+struct ShelvedPhoto {
+    LoadedPicture picture;
+    BitmapHandle reduced;  // to the preview's size as it was then; may lack
+};
+
 class PhotoShelf : public QObject {
     Q_OBJECT
   public:
     using NewReader = std::function<std::unique_ptr<PictureReader>()>;
+    // The preview's size for a photo of that size.
+    using SizeOfPreview = std::function<PixelSize(PixelSize photo)>;
     // Without a maker of readers nothing is kept nor read ahead.
-    PhotoShelf(NewReader newReader, const GeneralSettings& settings);
+    PhotoShelf(NewReader newReader, const GeneralSettings& settings, SizeOfPreview sizeOfPreview);
     ~PhotoShelf() override;
     PhotoShelf(const PhotoShelf&) = delete;
     PhotoShelf& operator=(const PhotoShelf&) = delete;
 
     // Takes the photo off, if it is there and its file and the settings are as when it was read.
-    std::optional<LoadedPicture> Take(const QString& path);
+    std::optional<ShelvedPhoto> Take(const QString& path);
     // Keeps it, in the place of those that were put there first.
-    void Put(const QString& path, LoadedPicture picture);
+    void Put(const QString& path, ShelvedPhoto photo);
     bool Has(const QString& path) const;
     // Reads these ahead soon, the first one first; another call takes their place.
     void ReadAhead(QStringList paths);
@@ -49,20 +58,30 @@ class PhotoShelf : public QObject {
     };
     struct Kept {
         Stamp stamp;
-        LoadedPicture picture;
+        ShelvedPhoto photo;
+    };
+    // A photo that is being reduced, on a thread of its own.
+    struct Reducing {
+        Kept kept;
+        std::future<BitmapHandle> reduced;
     };
     Stamp StampOf(const QString& path) const;
     void GoOn();
     void BeginNext();
     void GiveUp();
+    void Reduce(Kept kept);
+    bool IsReducing() const;
+    void Collect();
     void PutStamped(Kept kept);
 
     NewReader newReader_;
     const GeneralSettings& settings_;
+    SizeOfPreview sizeOfPreview_;
     std::unique_ptr<PictureReader> reader_;
     std::deque<Kept> kept_;  // the one put last is the last
     QStringList wanted_;
     std::optional<Stamp> underWay_;
+    std::optional<Reducing> reducing_;
     QTimer timer_{this};
 };
 

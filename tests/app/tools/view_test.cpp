@@ -149,7 +149,8 @@ TEST(Views, TheSliderInTheStatusLineZoomsThePicturesTogether) {
 
 TEST(Walking, NeighboursAreThereBeforeTheyAreLookedAt) {
     TestWindow workspace([] { return NewPictureReader(); });
-    workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp"), QStringLiteral("c.bmp")}, {300, 200});
+    workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp"), QStringLiteral("c.bmp")},
+                        {300, 200});
     const auto reads = [&workspace](int line) {
         bool read = false;
         workspace.reader.meanwhile = [&read] { read = true; };

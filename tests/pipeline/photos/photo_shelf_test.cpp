@@ -29,7 +29,10 @@ class PhotoShelfTest : public ::testing::Test {
 
     testing::PictureFolder files;
     GeneralSettings settings;
-    PhotoShelf shelf{[] { return NewPictureReader(); }, settings};
+    PhotoShelf shelf{[] { return NewPictureReader(); }, settings,
+                     [](PixelSize /*photo*/) {
+                         return PixelSize{6, 4};
+                     }};
 };
 
 TEST_F(PhotoShelfTest, NeighboursAreReadAheadTheFirstOneFirst) {
@@ -38,9 +41,10 @@ TEST_F(PhotoShelfTest, NeighboursAreReadAheadTheFirstOneFirst) {
     shelf.ReadAhead({next, files.Path(Text("missing.bmp")), before});
     ASSERT_TRUE(ReadsAhead(before));
     ASSERT_TRUE(shelf.Has(next));
-    const std::optional<LoadedPicture> taken = shelf.Take(before);
-    ASSERT_TRUE(taken && taken->bitmap);
-    EXPECT_EQ(taken->bitmap->Size().height, 30);
+    const std::optional<ShelvedPhoto> taken = shelf.Take(before);
+    ASSERT_TRUE(taken && taken->picture.bitmap && taken->reduced);
+    EXPECT_EQ(taken->picture.bitmap->Size().height, 30);
+    EXPECT_EQ(taken->reduced->Size().height, 4);
     EXPECT_FALSE(shelf.Take(before));
 }
 
@@ -60,7 +64,7 @@ TEST_F(PhotoShelfTest, HoldsFourAndThoseThatWerePutLast) {
     std::vector<QString> paths;
     for (const char* const name : {"1.bmp", "2.bmp", "3.bmp", "4.bmp", "5.bmp"}) {
         paths.push_back(Photo(name));
-        shelf.Put(paths.back(), {LoadOutcome::Loaded, NewBitmap({3, 2}), {}, {3, 2}});
+        shelf.Put(paths.back(), {{LoadOutcome::Loaded, NewBitmap({3, 2}), {}, {3, 2}}, nullptr});
     }
     EXPECT_FALSE(shelf.Has(paths.front()));
     for (std::size_t n = 1; n < paths.size(); ++n) {

@@ -25,8 +25,9 @@ struct Language {
 
 // The languages of the window in the order of the dialog's list. The first one is what stands in
 // the sources.
-inline constexpr std::array languages{Language{QLatin1StringView("en"), u"English"},
-                                      Language{QLatin1StringView("de"), u"Deutsch"}};
+inline constexpr std::array languages{
+    Language{QLatin1StringView("en"), u"English"}, Language{QLatin1StringView("de"), u"Deutsch"},
+    Language{QLatin1StringView("es"), u"Español"}, Language{QLatin1StringView("fr"), u"Français"}};
 
 // The index of a language in that list; any other text means the first one.
 int LanguagePosition(QStringView code);

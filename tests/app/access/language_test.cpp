@@ -33,6 +33,7 @@
 #include "pipeline/dialogs/elided_label.h"
 #include "pipeline/photos/project_file.h"
 #include "state/editing/step_names.h"
+#include "state/settings/default_choices.h"
 #include "state/settings/settings_store.h"
 #include "tests/app/access/every_form.h"
 #include "tests/app/access/form_walk.h"
@@ -191,16 +192,42 @@ QStringList EveryReason() {
     return told;
 }
 
-TEST(German, HasWordsForEveryReason) {
+struct InLanguage {
+    const char* code;
+    const char* defaults;  // the title of the dialog
+    const char* cancel;    // the toolkit's own
+};
+
+constexpr InLanguage walked[] = {{"de", "Vorgaben", "Abbrechen"},
+                                 {"es", "Valores predeterminados", "Cancelar"},
+                                 {"fr", "Valeurs par défaut", "Annuler"}};
+
+void PrintTo(const InLanguage& language, std::ostream* stream) {
+    *stream << language.code;
+}
+
+class EachLanguage : public ::testing::TestWithParam<InLanguage> {};
+
+INSTANTIATE_TEST_SUITE_P(Windows, EachLanguage, ::testing::ValuesIn(walked),
+                         [](const auto& language) { return std::string(language.param.code); });
+
+TEST(Languages, OfTheDefaultsIsWalked) {
+    ASSERT_EQ(std::size(walked), languages.size() - 1);
+    for (std::size_t n = 0; n < std::size(walked); ++n) {
+        EXPECT_EQ(languages[n + 1].code, Q(walked[n].code));
+    }
+}
+
+TEST_P(EachLanguage, HasWordsForEveryReason) {
     const QStringList english = EveryReason();
-    const WindowLanguage german(*qApp, Q("de"));
+    const WindowLanguage language(*qApp, Q(GetParam().code));
     const QStringList told = EveryReason();
     for (qsizetype n = 0; n < told.size(); ++n) {
         EXPECT_NE(told[n], english[n]) << english[n].toStdString();
     }
 }
 
-TEST(German, KeepsPlaceholdersAndLettersToPress) {
+TEST_P(EachLanguage, KeepsPlaceholdersAndLettersToPress) {
     static const QRegularExpression special(Q("%[1-9]"));
     const auto placeholders = [](const QString& text) {
         QStringList all;
@@ -213,39 +240,40 @@ TEST(German, KeepsPlaceholdersAndLettersToPress) {
     const auto hasLetter = [](const QString& text) {
         return !QKeySequence::mnemonic(text).isEmpty();
     };
-    const auto translations = ReadTranslations(Q(VARNEL_SOURCES "/translations/varnel_de.ts"));
+    const auto translations =
+        ReadTranslations(Q(VARNEL_SOURCES "/translations/varnel_%1.ts").arg(Q(GetParam().code)));
     EXPECT_GT(translations.size(), 600);
-    for (const auto& [source, german] : translations.asKeyValueRange()) {
-        EXPECT_FALSE(german.isEmpty()) << source.text.toStdString();
-        EXPECT_EQ(placeholders(source.text), placeholders(german)) << german.toStdString();
-        EXPECT_EQ(hasLetter(source.text), hasLetter(german)) << german.toStdString();
-        EXPECT_EQ(source.text.startsWith(u' '), german.startsWith(u' ')) << german.toStdString();
-        EXPECT_EQ(source.text.endsWith(u' '), german.endsWith(u' ')) << german.toStdString();
+    for (const auto& [source, told] : translations.asKeyValueRange()) {
+        EXPECT_FALSE(told.isEmpty()) << source.text.toStdString();
+        EXPECT_EQ(placeholders(source.text), placeholders(told)) << told.toStdString();
+        EXPECT_EQ(hasLetter(source.text), hasLetter(told)) << told.toStdString();
+        EXPECT_EQ(source.text.startsWith(u' '), told.startsWith(u' ')) << told.toStdString();
+        EXPECT_EQ(source.text.endsWith(u' '), told.endsWith(u' ')) << told.toStdString();
     }
 }
 
-TEST(German, FitsTheFormsAndHasALetterForEachControl) {
+TEST_P(EachLanguage, FitsTheFormsAndHasALetterForEachControl) {
     QApplication::setStyle(new FocusStyle);
-    const WindowLanguage german(*QCoreApplication::instance(), Q("de"));
+    const WindowLanguage language(*qApp, Q(GetParam().code));
     QStringList faults;
-    bool isGerman = false;
+    bool isTranslated = false;
     ShowEveryForm([&](QWidget& form) {
         faults += CutIn(form) + testing::FaultsOf(form);
-        isGerman = isGerman || form.windowTitle() == Q("Vorgaben");
+        isTranslated = isTranslated || form.windowTitle() == Q(GetParam().defaults);
     });
     ExpectNone(faults);
-    EXPECT_TRUE(isGerman);
+    EXPECT_TRUE(isTranslated);
 }
 
-TEST(German, HasTheStandardButtons) {
+TEST_P(EachLanguage, HasTheStandardButtons) {
     const auto cancel = [] {
         const QMessageBox box(QMessageBox::Question, {}, {},
                               QMessageBox::Save | QMessageBox::Cancel);
         return box.button(QMessageBox::Cancel)->text();
     };
     EXPECT_EQ(cancel(), Q("Cancel"));
-    const WindowLanguage german(*QCoreApplication::instance(), Q("de"));
-    EXPECT_EQ(cancel(), Q("Abbrechen"));
+    const WindowLanguage language(*qApp, Q(GetParam().code));
+    EXPECT_EQ(cancel(), Q(GetParam().cancel));
 }
 
 }  // namespace

@@ -65,11 +65,12 @@ QString PseudoLanguage::translate(const char* context, const char* text, const c
 }
 
 QString Unmarked(const QString& text) {
-    static const QRegularExpression names(QStringLiteral(
-        "Varnel|Rectilinear|Equidistance|Horizon|TIFF?|JPEG|BMP|PNG|FreeImage|Morph|English|Deutsch"
-        "|OfsetX|OfsetY|GearRatio|Canon|EOS|\\d+D|Sigma|EX|mm|f:|DejaVu"
-        "|https://\\S+|(?:[\\w.-]*/)+[\\w.-]*|\\w+\\.(?:bmp|tif|TIF|JPG)"
-        "|(?:Ctrl|Alt|Shift)\\+|\\bF\\d|\\tB$|<[^>]*>"));
+    static const QRegularExpression names(
+        QStringLiteral("Varnel|Rectilinear|Equidistance|Horizon|TIFF?|JPEG|BMP|PNG|FreeImage|Morph"
+                       "|English|Deutsch|Español|Français|OfsetX|OfsetY|GearRatio|Canon|EOS"
+                       "|\\d+D|Sigma|EX|mm|f:|DejaVu"
+                       "|https://\\S+|(?:[\\w.-]*/)+[\\w.-]*|\\w+\\.(?:bmp|tif|TIF|JPG)"
+                       "|(?:Ctrl|Alt|Shift)\\+|\\bF\\d|\\tB$|<[^>]*>"));
     QString outside;
     int depth = 0;
     for (const QChar c : text) {

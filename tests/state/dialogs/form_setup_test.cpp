@@ -217,7 +217,8 @@ TEST_F(FormSetupTest, OffersLanguagesByTheirOwnNamesAndStartsWithEnglish) {
     const struct {
         const char* stored;
         const char* shown;
-    } cases[] = {{"en", "English"}, {"de", "Deutsch"}, {"DE", "English"}, {"", "English"}};
+    } cases[] = {{"en", "English"},  {"de", "Deutsch"}, {"es", "Español"},
+                 {"fr", "Français"}, {"DE", "English"}, {"", "English"}};
     for (const auto& c : cases) {
         settings.Language = Text(c.stored);
         Open();

@@ -3088,7 +3088,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <name>varnel::FormGuide</name>
     <message>
         <source>Varnel user guide</source>
-        <translation>Varnel-Handbuch (englisch)</translation>
+        <translation>Varnel-Handbuch</translation>
     </message>
     <message>
         <source>&amp;Contents</source>
@@ -3395,7 +3395,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <name>varnel::GuideTools</name>
     <message>
         <source>User &amp;guide</source>
-        <translation>&amp;Handbuch (englisch)</translation>
+        <translation>&amp;Handbuch</translation>
     </message>
     <message>
         <source>The user guide is not installed</source>

@@ -21,7 +21,7 @@ namespace varnel {
 namespace {
 
 // Beside bin, where the installation and the build both have it.
-constexpr char16_t shippedPage[] = u"../share/varnel/guide/index.md";
+constexpr char16_t shippedPages[] = u"../share/varnel/guide/";
 
 constexpr int margin = 24;
 
@@ -44,10 +44,16 @@ void SetOff(QTextDocument& page, const QColor& ground) {
 
 }  // namespace
 
-QString GuideStartPage(const QString& programFolder) {
-    const QString page =
-        QDir::cleanPath(QDir(programFolder).absoluteFilePath(QString::fromUtf16(shippedPage)));
-    return QFile::exists(page) ? page : QString();
+QString GuideStartPage(const QString& programFolder, const QString& language) {
+    const QDir pages(
+        QDir::cleanPath(QDir(programFolder).absoluteFilePath(QString::fromUtf16(shippedPages))));
+    for (const QString& page :
+         {language + QStringLiteral("/index.md"), QStringLiteral("index.md")}) {
+        if (pages.exists(page)) {
+            return pages.filePath(page);
+        }
+    }
+    return {};
 }
 
 QVariant GuideText::loadResource(int type, const QUrl& name) {

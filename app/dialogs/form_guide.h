@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The user guide in a window of its own that may stay open beside the work. Its pages are Markdown
-// files with pictures, links from page to page included; they are installed with the program and
-// nothing of them comes from a network. Throws nothing.
+// files with pictures, links from page to page included, those of another language in a folder of
+// its code; they are installed with the program and nothing of them comes from a network. Throws
+// nothing.
 #pragma once
 
 #include <QDialog>
@@ -13,8 +14,9 @@
 
 namespace varnel {
 
-// The first page, as a program in that folder finds it; empty when there is none.
-QString GuideStartPage(const QString& programFolder);
+// The first page, as a program in that folder finds it: in the language of that code, or else in
+// English; empty when there is none.
+QString GuideStartPage(const QString& programFolder, const QString& language);
 
 // Shows pictures no wider than itself.
 class GuideText : public QTextBrowser {

@@ -6,11 +6,15 @@
 #include <QCoreApplication>
 
 #include "app/panels/menu_entry.h"
+#include "state/settings/default_choices.h"
 
 namespace varnel {
 
-GuideTools::GuideTools(QMainWindow* window, Notices& notices)
-    : QObject(window), window_(window), notices_(notices) {
+GuideTools::GuideTools(QMainWindow* window, Notices& notices, const QString& language)
+    : QObject(window),
+      window_(window),
+      notices_(notices),
+      language_(languages[LanguagePosition(language)].code) {
     auto* const about = window->findChild<QAction*>(QStringLiteral("CmdAboutAbout"));
     QAction* const entry = AddMenuEntry(qobject_cast<QMenu*>(about->parent()), "CmdGuide",
                                         tr("User &guide"), {QKeySequence::HelpContents});
@@ -19,7 +23,7 @@ GuideTools::GuideTools(QMainWindow* window, Notices& notices)
 
 void GuideTools::Show() {
     const QString folder = QCoreApplication::applicationDirPath();
-    const QString page = GuideStartPage(folder);
+    const QString page = GuideStartPage(folder, language_);
     if (page.isEmpty()) {
         notices_.Tell(tr("The user guide is not installed"),
                       tr("It belongs into the folder share/varnel/guide beside %1.").arg(folder));

@@ -15,13 +15,15 @@ namespace varnel {
 class GuideTools : public QObject {
     Q_OBJECT
   public:
-    GuideTools(QMainWindow* window, Notices& notices);
+    // In the language of that setting, as long as the window lives.
+    GuideTools(QMainWindow* window, Notices& notices, const QString& language);
 
   private:
     void Show();
 
     QMainWindow* window_;
     Notices& notices_;
+    QString language_;
     QPointer<FormGuide> form_;
 };
 

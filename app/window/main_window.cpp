@@ -82,7 +82,7 @@ void MDIForm1::MakeTools() {
     new PictureKeys(this, parts_);
     new EmptyState(this, parts_);
     new SampleTools(this, parts_, view_, workspace_, state_);
-    new GuideTools(this, ports_.notices);
+    new GuideTools(this, ports_.notices, state_.settings.Language);
     new AdjustmentTools(this, parts_, view_, workspace_, state_);
     new PhotoTools(this, parts_, workspace_, state_, ports_.dialogs);
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);

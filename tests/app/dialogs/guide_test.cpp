@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The user guide's window, and that the controls which the guide names are there.
+// The user guide's window, and that the controls which the guide names are there, in its language.
 
 #include <gtest/gtest.h>
 
@@ -15,8 +15,10 @@
 #include <QTextBlock>
 
 #include "app/dialogs/form_guide.h"
+#include "app/tools/guide_tools.h"
 #include "remap/projection/projection_info.h"
 #include "tests/support/test_window.h"
+#include "translations/window_language.h"
 
 namespace varnel {
 namespace {
@@ -25,20 +27,20 @@ QString Q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-QString StartPage() {
-    return GuideStartPage(QCoreApplication::applicationDirPath());
+QString StartPage(const char* language = "en") {
+    return GuideStartPage(QCoreApplication::applicationDirPath(), Q(language));
 }
 
-QStringList Pages() {
-    return QDir(QFileInfo(StartPage()).path()).entryList({Q("*.md")}, QDir::Files);
+QStringList Pages(const char* language = "en") {
+    return QFileInfo(StartPage(language)).dir().entryList({Q("*.md")}, QDir::Files);
 }
 
 QString TextOf(const QString& path) {
     return QString::fromUtf8(testing::Contents(path));
 }
 
-QString PageText(const QString& page) {
-    return TextOf(QFileInfo(StartPage()).dir().filePath(page));
+QString PageText(const QString& page, const char* language = "en") {
+    return TextOf(QFileInfo(StartPage(language)).dir().filePath(page));
 }
 
 QStringList Matches(const QString& text, const char* pattern) {
@@ -68,19 +70,34 @@ QStringList ShownTexts(testing::TestWindow& workspace) {
     }
     QDirIterator forms(Q(VARNEL_TREE), {Q("*.ui")}, QDir::Files, QDirIterator::Subdirectories);
     while (forms.hasNext()) {
-        for (QString text : Matches(TextOf(forms.next()),
-                                    R"re(name="(?:text|title)">\s*<string[^>]*>([^<]+)<)re")) {
-            texts.append(Plain(text.replace(Q("&amp;"), Q("&"))));
+        const QString form = TextOf(forms.next());
+        const QByteArray context = Matches(form, "<class>(.*)</class>").value(0).toUtf8();
+        for (QString text :
+             Matches(form, R"re(name="(?:text|title)">\s*<string[^>]*>([^<]+)<)re")) {
+            text.replace(Q("&amp;"), Q("&"));
+            texts.append(Plain(QCoreApplication::translate(context, text.toUtf8())));
         }
     }
     return texts;
 }
 
-TEST(Guide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
+class EachGuide : public ::testing::TestWithParam<const char*> {
+  public:
+    static QString Page(const QString& page) { return PageText(page, GetParam()); }
+
+  private:
+    WindowLanguage language_{*qApp, Q(GetParam())};
+};
+
+INSTANTIATE_TEST_SUITE_P(Guides, EachGuide, ::testing::Values("en", "de"),
+                         [](const auto& language) { return std::string(language.param); });
+
+TEST_P(EachGuide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
     testing::TestWindow workspace;
     const QStringList shown = ShownTexts(workspace);
-    for (const QString& page : Pages()) {
-        for (const QString& name : Matches(PageText(page), R"(\*\*([^*]+)\*\*)")) {
+    EXPECT_EQ(Pages(GetParam()), Pages());
+    for (const QString& page : Pages(GetParam())) {
+        for (const QString& name : Matches(Page(page), R"(\*\*([^*]+)\*\*)")) {
             EXPECT_TRUE(shown.contains(QString(name).replace(u'\n', u' ')))
                 << qPrintable(page) << ": " << qPrintable(name);
         }
@@ -123,21 +140,35 @@ QStringList ToldKeys(const QStringList& cells) {
     return keys;
 }
 
-TEST(Guide, AndTheManualPageTellEveryKeyOfTheWindowAndNoOther) {
-    testing::TestWindow workspace;
-    const QStringList real = RealKeys(workspace.window);
-    const QString table = PageText(Q("steering.md")).section(Q("## Keys"), 1);
-    EXPECT_EQ(ToldKeys(Matches(table, R"((?m)^\| ([^|]+) \|)")), real);
-    QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
-    manual = manual.section(Q(".SH KEYS"), 1).section(Q(".SH OPTIONS"), 0, 0).remove(u'\\');
-    EXPECT_EQ(ToldKeys(Matches(manual, R"((?m)^\.B (.+)$)")), real);
+// As they stand on an English keyboard.
+QStringList InEnglish(QStringList cells) {
+    for (const auto& [other, english] :
+         {std::pair{"Strg", "Ctrl"}, {"Umschalt", "Shift"}, {"Entf", "Del"}, {" bis ", " to "}}) {
+        cells.replaceInStrings(Q(other), Q(english));
+    }
+    return cells;
 }
 
-TEST(Guide, AndTheManualPageTellOfEveryProjection) {
+TEST_P(EachGuide, TellsEveryKeyOfTheWindowAndNoOther) {
+    testing::TestWindow workspace;
+    const QString table =
+        Page(Q("steering.md")).section(QRegularExpression(Q("## (Keys|Tasten)")), 1);
+    EXPECT_EQ(ToldKeys(InEnglish(Matches(table, R"((?m)^\| ([^|]+) \|)"))),
+              RealKeys(workspace.window));
+}
+
+TEST(ManualPage, TellsEveryKeyOfTheWindowAndNoOther) {
+    testing::TestWindow workspace;
+    QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel.1.in"));
+    manual = manual.section(Q(".SH KEYS"), 1).section(Q(".SH OPTIONS"), 0, 0).remove(u'\\');
+    EXPECT_EQ(ToldKeys(Matches(manual, R"((?m)^\.B (.+)$)")), RealKeys(workspace.window));
+}
+
+TEST_P(EachGuide, AndTheManualPageTellOfEveryProjection) {
     const QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel-convert.1.in"));
     for (const Projection projection : AllProjections()) {
         const QString name = ToText(projection);
-        EXPECT_TRUE(PageText(Q("projections.md")).contains(Q("\n## ") + name + u'\n'))
+        EXPECT_TRUE(Page(Q("projections.md")).contains(Q("\n## ") + name + u'\n'))
             << qPrintable(name);
         EXPECT_TRUE(manual.contains(Q("\n.IP ") + name.toLower())) << qPrintable(name);
     }
@@ -152,11 +183,34 @@ TEST(Guide, OpensFromTheAboutMenuOnceAndTellsWhereItIsMissing) {
     ASSERT_EQ(forms.size(), 1);
     EXPECT_TRUE(forms.front()->isVisible());
     EXPECT_TRUE(workspace.notices.texts.isEmpty());
-    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin"))), QString());
+    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin")), Q("de")), QString());
     QDir(workspace.files.Path({})).mkpath(Q("share/varnel/guide"));
     testing::WriteFile(workspace.files.Path(Q("share/varnel/guide/index.md")), "# Here");
-    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin"))),
+    EXPECT_EQ(GuideStartPage(workspace.files.Path(Q("bin")), Q("de")),
               QFileInfo(workspace.files.Path(Q("share/varnel/guide/index.md"))).absoluteFilePath());
+}
+
+TEST(Guide, IsInTheLanguageOfTheWindowWhereItIsTranslated) {
+    const struct {
+        const char* language;
+        const char* page;
+        const char* picture;  // seen from the page
+    } cases[] = {{"de", "/guide/de/index.md", "../pictures/window.jpg"},
+                 {"fr", "/guide/index.md", "pictures/window.jpg"},
+                 {"../guide/de", "/guide/index.md", "pictures/window.jpg"}};
+    for (const auto& c : cases) {
+        QMainWindow window;
+        QMenu* const about = window.menuBar()->addMenu(Q("About"));
+        about->addAction(Q("About"))->setObjectName(Q("CmdAboutAbout"));
+        testing::FakeNotices notices;
+        new GuideTools(&window, notices, Q(c.language));
+        window.findChild<QAction*>(Q("CmdGuide"))->trigger();
+        auto* const text = window.findChild<GuideText*>();
+        ASSERT_NE(text, nullptr) << c.language;
+        EXPECT_TRUE(text->source().path().endsWith(Q(c.page))) << c.language;
+        const QVariant picture = text->loadResource(QTextDocument::ImageResource, Q(c.picture));
+        EXPECT_FALSE(picture.value<QImage>().isNull()) << c.language;
+    }
 }
 
 TEST(Guide, GoesBackAndForwardScalesPicturesAndFindsOnOtherPages) {

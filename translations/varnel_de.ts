@@ -1083,11 +1083,11 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Le&amp;vel</source>
-        <translation>&amp;Waagrecht</translation>
+        <translation>&amp;Waagerecht</translation>
     </message>
     <message>
         <source>The chosen edge is level and crosses the view; all of one photo are parallel</source>
-        <translation>Die gewählte Kante liegt waagrecht quer zum Blick; alle eines Fotos sind parallel</translation>
+        <translation>Die gewählte Kante liegt waagerecht quer zum Blick; alle eines Fotos sind parallel</translation>
     </message>
     <message>
         <source>&amp;Runs away</source>
@@ -1095,7 +1095,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>The chosen edge is level and runs away from the camera, at right angles to those that are level</source>
-        <translation>Die gewählte Kante liegt waagrecht und läuft von der Kamera weg, im rechten Winkel zu den waagrechten</translation>
+        <translation>Die gewählte Kante liegt waagerecht und läuft von der Kamera weg, im rechten Winkel zu den waagerechten</translation>
     </message>
     <message>
         <source>&amp;No direction</source>
@@ -1219,7 +1219,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Angles not fixed: tag edges that are upright, level or run away.</source>
-        <translation>Die Winkel liegen nicht fest: bezeichnen Sie Kanten, die aufrecht oder waagrecht sind oder weglaufen.</translation>
+        <translation>Die Winkel liegen nicht fest: bezeichnen Sie Kanten, die aufrecht oder waagerecht sind oder weglaufen.</translation>
     </message>
     <message>
         <source>Colour at the outermost edges: red off by %1 ± %2 pixels, blue by %3 ± %4.</source>
@@ -1251,7 +1251,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>level</source>
-        <translation>waagrecht</translation>
+        <translation>waagerecht</translation>
     </message>
     <message>
         <source>runs away</source>

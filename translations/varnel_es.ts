@@ -1506,7 +1506,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>%1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
-        <translation>%1   |   Estiramiento máximo en esquinas %2   |   Área conservada %3 %   |   Mayor rectángulo sin negro %4</translation>
+        <translation>%1   |   Esquinas estiradas %2   |   Área %3 %   |   Mayor rectángulo sin negro %4</translation>
     </message>
 </context>
 <context>
@@ -3719,11 +3719,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>wider</source>
-        <translation>más ancho</translation>
+        <translation>ancho</translation>
     </message>
     <message>
         <source>narrower</source>
-        <translation>más estrecho</translation>
+        <translation>estrecho</translation>
     </message>
 </context>
 <context>

@@ -1506,7 +1506,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>%1   |   Worst corner stretch %2   |   Area kept %3 %   |   Largest rectangle without black %4</source>
-        <translation>%1   |   Étirement maximal des coins %2   |   Surface gardée %3&#xa0;%   |   Plus grand rectangle sans noir %4</translation>
+        <translation>%1   |   Coins étirés %2   |   Surface %3&#xa0;%   |   Plus grand rectangle sans noir %4</translation>
     </message>
 </context>
 <context>

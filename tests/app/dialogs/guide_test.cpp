@@ -195,7 +195,7 @@ TEST(Guide, IsInTheLanguageOfTheWindowWhereItIsTranslated) {
         const char* language;
         const char* page;
         const char* picture;  // seen from the page
-    } cases[] = {{"de", "/guide/de/index.md", "../pictures/window.jpg"},
+    } cases[] = {{"de", "/guide/de/index.md", "../pictures/scene-varnel.jpg"},
                  {"fr", "/guide/index.md", "pictures/window.jpg"},
                  {"../guide/de", "/guide/index.md", "pictures/window.jpg"}};
     for (const auto& c : cases) {

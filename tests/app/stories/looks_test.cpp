@@ -94,7 +94,8 @@ TEST(Looks, EmptyPortraitAndError) {
     KeepPicture(&workspace.window, "window-portrait.png");
     workspace.ClickLine(1);
     KeepPicture(&workspace.window, "window-error.png");
-    EXPECT_EQ(workspace.notices.texts, QStringList{Text("Could not open image")});
+    EXPECT_EQ(workspace.notices.texts,
+              QStringList{QCoreApplication::translate("Workspace", "Could not open image")});
 }
 
 TEST(Looks, FiftyPhotosTwentySelected) {
@@ -126,7 +127,7 @@ TEST(Looks, TheToolsOverThePictures) {
         KeepPicture(&workspace.window, name);
     };
     look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");
-    EXPECT_TRUE(workspace.Label("LabelNumbers").contains(Text("Area kept")));
+    EXPECT_TRUE(workspace.Label("LabelNumbers").contains(Text(" %   |   ")));
     look({"CmdViewFrame", "CmdViewMagnification", "CmdViewCircle"}, "tools-circle.png");
     look({"CmdViewCircle", "CmdContactSheet"}, "tools-sheet.png");
     EXPECT_TRUE(workspace.Find("ContactSheet")->isVisible());

@@ -24,6 +24,7 @@
 
 #include "app/dialogs/message_boxes.h"
 #include "app/dialogs/real_dialogs.h"
+#include "app/panels/side_panels.h"
 #include "app/window/main_window.h"
 #include "remap/encode/output_type.h"
 #include "remap/projection/projection_info.h"
@@ -207,7 +208,7 @@ class Story : public ::testing::Test {
     // Opens a menu with the mouse and takes an entry with the keyboard.
     void TakeFromMenu(const char* menu, int entry) {
         for (QAction* const action : window_.menuBar()->actions()) {
-            if (action->text() == Q(menu)) {
+            if (action->text() == QCoreApplication::translate("WindowParts", menu)) {
                 QTest::mouseClick(window_.menuBar(), Qt::LeftButton, {},
                                   window_.menuBar()->actionGeometry(action).center());
                 for (int n = 0; n < entry; ++n) {
@@ -294,14 +295,14 @@ TEST_F(Story, ABatchOfTwoPhotosWithSettingsOfTheirOwn) {
     Click("OptionRemap_1");
     Move("SliderY", Qt::Key_PageUp, 1);
     Click("CommandAddToBatchQue");
-    EXPECT_EQ(SaveCaption(), Q("Save / batch process 2"));
+    EXPECT_EQ(SaveCaption(), SavePanel::tr("Save / batch process ") + u'2');
     Move("SliderY", Qt::Key_PageUp, 2);  // does not reach the queue
     const RecordArray<ImageRecord> queued = state_.BatchQueue;
     {
         const Answers answers({RunBatchInto("batch")});
         Click("CmdBatchProcess");
     }
-    EXPECT_EQ(SaveCaption(), Q("Save"));
+    EXPECT_EQ(SaveCaption(), SavePanel::tr("Save"));
     const char* const names[] = {"sample-circular-upright.Varnel.BMP",
                                  "sample-circular.Rectilinear_hAOV130_LR10.BMP"};
     EXPECT_EQ(Written(), (QStringList{Q(names[0]), Q(names[1])}));
@@ -320,7 +321,7 @@ TEST_F(Story, AMorphOfThreeFramesGoesThroughTheBatch) {
         const Answers answers({&MorphOverThreeFrames});
         TakeFromMenu("&Tools", 1);
     }
-    EXPECT_EQ(SaveCaption(), Q("Save / batch process 3"));
+    EXPECT_EQ(SaveCaption(), SavePanel::tr("Save / batch process ") + u'3');
     {
         const Answers answers({RunBatchInto("batch-morph")});
         Click("CmdBatchProcess");

@@ -2647,6 +2647,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Ends the saving without a file</source>
         <translation>Termina el guardado sin archivo</translation>
     </message>
+    <message>
+        <source>View</source>
+        <translation>Vista</translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -3430,6 +3434,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::InsetFrame</name>
+    <message>
+        <source>The photo as shot: drag the bar to move it, the corner to resize it</source>
+        <translation>La foto original: arrastre la barra para moverla, la esquina para cambiar su tamaño</translation>
+    </message>
+</context>
+<context>
     <name>varnel::LevelTools</name>
     <message>
         <source>&amp;Level the horizon</source>
@@ -3746,6 +3757,48 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::ViewTools</name>
+    <message>
+        <source>S&amp;plit</source>
+        <translation>&amp;Dos imágenes</translation>
+    </message>
+    <message>
+        <source>Photo and result side by side</source>
+        <translation>Foto y resultado lado a lado</translation>
+    </message>
+    <message>
+        <source>Res&amp;ult</source>
+        <translation>Res&amp;ultado</translation>
+    </message>
+    <message>
+        <source>The result as large as possible, with the photo as a small picture on it</source>
+        <translation>El resultado tan grande como sea posible, con la foto en pequeño encima</translation>
+    </message>
+    <message>
+        <source>P&amp;hoto</source>
+        <translation>F&amp;oto</translation>
+    </message>
+    <message>
+        <source>The photo as shot as large as possible</source>
+        <translation>La foto original tan grande como sea posible</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ZoomBar</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Ampliación</translation>
+    </message>
+    <message>
+        <source>How large the pictures are shown, from the whole picture on</source>
+        <translation>A qué tamaño se muestran las imágenes, desde la imagen entera</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ZoomTools</name>
     <message>
         <source>Fi&amp;t</source>
@@ -3774,10 +3827,6 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>&amp;Before instead of after	B</source>
         <translation>A&amp;ntes en lugar de después	B</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1 %</translation>
     </message>
 </context>
 </TS>

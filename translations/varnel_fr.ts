@@ -2647,6 +2647,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Ends the saving without a file</source>
         <translation>Arrête l’enregistrement sans fichier</translation>
     </message>
+    <message>
+        <source>View</source>
+        <translation>Vue</translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -3430,6 +3434,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::InsetFrame</name>
+    <message>
+        <source>The photo as shot: drag the bar to move it, the corner to resize it</source>
+        <translation>La photo d’origine&#xa0;: tirez la barre pour la déplacer, le coin pour changer sa taille</translation>
+    </message>
+</context>
+<context>
     <name>varnel::LevelTools</name>
     <message>
         <source>&amp;Level the horizon</source>
@@ -3746,6 +3757,48 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::ViewTools</name>
+    <message>
+        <source>S&amp;plit</source>
+        <translation>&amp;Deux images</translation>
+    </message>
+    <message>
+        <source>Photo and result side by side</source>
+        <translation>Photo et résultat côte à côte</translation>
+    </message>
+    <message>
+        <source>Res&amp;ult</source>
+        <translation>Rés&amp;ultat</translation>
+    </message>
+    <message>
+        <source>The result as large as possible, with the photo as a small picture on it</source>
+        <translation>Le résultat aussi grand que possible, avec la photo en petit dessus</translation>
+    </message>
+    <message>
+        <source>P&amp;hoto</source>
+        <translation>Ph&amp;oto</translation>
+    </message>
+    <message>
+        <source>The photo as shot as large as possible</source>
+        <translation>La photo d’origine aussi grande que possible</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ZoomBar</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>How large the pictures are shown, from the whole picture on</source>
+        <translation>À quelle taille les images sont affichées, à partir de l’image entière</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ZoomTools</name>
     <message>
         <source>Fi&amp;t</source>
@@ -3774,10 +3827,6 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>&amp;Before instead of after	B</source>
         <translation>&amp;Avant au lieu d’après	B</translation>
-    </message>
-    <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 </TS>

@@ -142,8 +142,12 @@ QStringList ToldKeys(const QStringList& cells) {
 
 // As they stand on an English keyboard.
 QStringList InEnglish(QStringList cells) {
-    for (const auto& [other, english] :
-         {std::pair{"Strg", "Ctrl"}, {"Umschalt", "Shift"}, {"Entf", "Del"}, {" bis ", " to "}}) {
+    for (const auto& [other, english] : {std::pair{"Strg", "Ctrl"},
+                                         {"Umschalt", "Shift"},
+                                         {"Entf", "Del"},
+                                         {"Bild auf", "PgUp"},
+                                         {"Bild ab", "PgDown"},
+                                         {" bis ", " to "}}) {
         cells.replaceInStrings(Q(other), Q(english));
     }
     return cells;

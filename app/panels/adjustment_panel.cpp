@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "app/panels/spacing.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -15,37 +16,54 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent)
     : QWidget(parent), projections_(new QButtonGroup(this)) {
     projections_->setObjectName(QStringLiteral("OptionRemap"));
     auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins({});
+    column->setSpacing(groupGap);
+    column->addWidget(MakeRemap());
+    folds_ = {MakeTranspose(), MakeRefine(), MakePreview()};
+    for (FoldGroup* const fold : folds_) {
+        column->addWidget(fold);
+    }
+    ShowFor(AllProjections().front());
+}
 
-    auto* const equipment = new QGroupBox(tr("Refine equipment parameters"), this);
-    equipment->setObjectName(QStringLiteral("Frame1"));
-    auto* const equipmentColumn = new QVBoxLayout(equipment);
-
+QGroupBox* AdjustmentPanel::MakeRemap() {
     auto* const remap = new QGroupBox(tr("Remap"), this);
     remap->setObjectName(QStringLiteral("FrameRemap"));
-    auto* const remapColumn = new QVBoxLayout(remap);
-    remapColumn->addWidget(MakeProjections(remap));
-    remapColumn->addWidget(MakePreviewChoices(remap));
-    AddRow(remapColumn, SliderId::AovOutput);
-    AddRow(remapColumn, SliderId::Effect);
-    AddGroupLabel(remapColumn, "LabelRotate1", SliderId::X);
-    AddRow(remapColumn, SliderId::X);
-    AddRow(remapColumn, SliderId::Y);
-    AddRow(remapColumn, SliderId::Z);
-    AddGroupLabel(remapColumn, "LabelTranslate1", SliderId::XTranslate);
-    AddRow(remapColumn, SliderId::XTranslate);
-    AddRow(remapColumn, SliderId::YTranslate);
-    AddRow(equipmentColumn, SliderId::AovInput);
+    auto* const column = new QVBoxLayout(remap);
+    column->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+    column->setSpacing(rowGap);
+    column->addWidget(MakeProjections(remap));
+    AddRow(column, SliderId::AovOutput);
+    AddRow(column, SliderId::Effect);
+    QLabel* const rotate = MakeGroupLabel("LabelRotate1", SliderId::X);
+    column->addWidget(rotate);
+    groups_.emplace_back(rotate, SliderId::X);
+    AddRow(column, SliderId::X);
+    AddRow(column, SliderId::Y);
+    AddRow(column, SliderId::Z);
+    return remap;
+}
 
-    column->addWidget(remap);
-    column->addWidget(equipment);
-    ShowFor(AllProjections().front());
+FoldGroup* AdjustmentPanel::MakeTranspose() {
+    auto* const group = new FoldGroup("FrameTranslate", GroupName(SliderId::XTranslate), this);
+    group->SetLabel(MakeGroupLabel("LabelTranslate1", SliderId::XTranslate));
+    groups_.emplace_back(group, SliderId::XTranslate);
+    AddRow(group->Column(), SliderId::XTranslate);
+    AddRow(group->Column(), SliderId::YTranslate);
+    return group;
+}
+
+FoldGroup* AdjustmentPanel::MakeRefine() {
+    auto* const group = new FoldGroup("Frame1", tr("Refine equipment parameters"), this);
+    AddRow(group->Column(), SliderId::AovInput);
+    return group;
 }
 
 QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     auto* const box = new QWidget(remap);
     auto* const grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setContentsMargins({});
+    grid->setSpacing(rowGap);
     for (const Projection projection : AllProjections()) {
         const int index = static_cast<int>(projection);
         auto* const button = new QRadioButton(ToText(projection), box);
@@ -65,25 +83,26 @@ QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     return box;
 }
 
-QWidget* AdjustmentPanel::MakePreviewChoices(QWidget* parent) {
-    auto* const box = new QWidget(parent);
-    auto* const grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    autoPreview_ = new QCheckBox(tr("Auto preview"), box);
+FoldGroup* AdjustmentPanel::MakePreview() {
+    auto* const group = new FoldGroup("FramePreview", tr("Preview"), this);
+    auto* const grid = new QGridLayout;
+    grid->setSpacing(rowGap);
+    group->Column()->addLayout(grid);
+    autoPreview_ = new QCheckBox(tr("Auto preview"), group->Body());
     autoPreview_->setObjectName(QStringLiteral("CheckAutoPreview"));
     autoPreview_->setToolTip(tr("Redraws the preview after every change"));
     autoPreview_->setChecked(true);
-    antialiased_ = new QCheckBox(tr("Antialiased"), box);
+    antialiased_ = new QCheckBox(tr("Antialiased"), group->Body());
     antialiased_->setObjectName(QStringLiteral("CheckAntialiased"));
     antialiased_->setToolTip(tr("Smooths the preview; saved pictures are always smooth"));
     antialiased_->setChecked(true);
-    preview_ = new QPushButton(tr("Preview"), box);
+    preview_ = new QPushButton(tr("Preview"), group->Body());
     preview_->setObjectName(QStringLiteral("CmdFreeImage"));
     preview_->setToolTip(tr("Draws the preview now"));
     grid->addWidget(autoPreview_, 0, 0);
     grid->addWidget(antialiased_, 1, 0);
     grid->addWidget(preview_, 0, 1, 2, 1, Qt::AlignRight);
-    return box;
+    return group;
 }
 
 void AdjustmentPanel::AddRow(QLayout* layout, SliderId id) {
@@ -96,14 +115,10 @@ void AdjustmentPanel::AddRow(QLayout* layout, SliderId id) {
     }
 }
 
-void AdjustmentPanel::AddGroupLabel(QLayout* layout, const char* name, SliderId first) {
+QLabel* AdjustmentPanel::MakeGroupLabel(const char* name, SliderId first) {
     auto* const label = new QLabel(GroupName(first), this);
     label->setObjectName(QString::fromLatin1(name));
-    QFont bold = label->font();
-    bold.setBold(true);
-    label->setFont(bold);
-    layout->addWidget(label);
-    groupLabels_.emplace_back(label, first);
+    return label;
 }
 
 SliderRow* AdjustmentPanel::Row(SliderId id) const {
@@ -131,8 +146,8 @@ void AdjustmentPanel::ShowFor(Projection projection) {
         row->SetRange(RangeOf(row->Data().id, projection));
         row->SetShown(ShownWith(row->Data(), projection));
     }
-    for (const auto& [label, first] : groupLabels_) {
-        label->setVisible(ShownWith(SliderRowOf(first), projection));
+    for (const auto& [group, first] : groups_) {
+        group->setVisible(ShownWith(SliderRowOf(first), projection));
     }
 }
 

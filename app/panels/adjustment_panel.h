@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The frames "Remap" and "Refine equipment parameters": projection, sliders and preview choices.
+// The frame "Remap" and the groups below it that fold: projection, sliders and preview choices.
 // Throws nothing.
 #pragma once
 
@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/panels/fold_group.h"
 #include "app/panels/slider_row.h"
 
 namespace varnel {
@@ -34,12 +35,16 @@ class AdjustmentPanel : public QWidget {
     QPushButton* PreviewButton() const { return preview_; }
     QPushButton* ApplyToAll() const { return applyToAll_; }
     QButtonGroup* Projections() const { return projections_; }
+    const std::array<FoldGroup*, 3>& Folds() const { return folds_; }
 
   private:
+    QGroupBox* MakeRemap();
+    FoldGroup* MakeTranspose();
+    FoldGroup* MakeRefine();
+    FoldGroup* MakePreview();
     QWidget* MakeProjections(QGroupBox* remap);
-    QWidget* MakePreviewChoices(QWidget* parent);
     void AddRow(QLayout* layout, SliderId id);
-    void AddGroupLabel(QLayout* layout, const char* name, SliderId first);
+    QLabel* MakeGroupLabel(const char* name, SliderId first);
 
     QButtonGroup* projections_;
     QCheckBox* autoPreview_ = nullptr;
@@ -47,8 +52,9 @@ class AdjustmentPanel : public QWidget {
     QPushButton* preview_ = nullptr;
     QPushButton* applyToAll_ = nullptr;
     std::array<SliderRow*, 8> rows_{};
-    // Headings of the rotation and shift sliders, each with its first slider.
-    std::vector<std::pair<QLabel*, SliderId>> groupLabels_;
+    std::array<FoldGroup*, 3> folds_{};
+    // What stands around the rotation and shift sliders, each with its first slider.
+    std::vector<std::pair<QWidget*, SliderId>> groups_;
 };
 
 }  // namespace varnel

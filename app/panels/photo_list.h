@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The list box of the photos: small pictures, marks at the right end of each line, and lines that
-// can be dragged, or moved with Alt and the arrow keys. It moves nothing itself: MoveWanted asks
-// for it. While there are lines, one is current and selected, whatever is clicked: else the sliders
-// would move and reach nothing, or another photo than the one that is shown. Throws nothing.
+// The list of the photos, a filmstrip or lines below one another: small pictures, marks on the
+// picture or at the end of the line, and photos that can be dragged, or moved with Alt and the
+// arrow keys. It moves nothing itself: MoveWanted asks for it. While there are lines, one is
+// current and selected, whatever is clicked: else the sliders would move and reach nothing, or
+// another photo than the one that is shown. Throws nothing.
 #pragma once
 
 #include <QListWidget>
@@ -18,6 +19,11 @@ class PhotoList : public QListWidget {
     static constexpr int marksRole = Qt::UserRole + 2;  // letters, one mark each
 
     explicit PhotoList(QWidget* parent = nullptr);
+    // Pictures with their names below, from left to right, or lines.
+    void SetStrip(bool strip);
+    bool Strip() const { return flow() == LeftToRight; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
     // The selected lines shall be moved before the target line, which counts from 0; the number of
@@ -26,6 +32,8 @@ class PhotoList : public QListWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     bool viewportEvent(QEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
@@ -33,6 +41,7 @@ class PhotoList : public QListWidget {
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
+    int StripHeight() const;
     std::vector<int> SelectedLines() const;
     void KeepLater();
     void KeepCurrentSelected(const QModelIndex& before);

@@ -6,12 +6,13 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QStyleOptionComboBox>
 #include <algorithm>
 
 #include "app/panels/named_button.h"
-#include "app/panels/photo_list.h"
+#include "app/panels/spacing.h"
 #include "state/dialogs/wheel_guard.h"
 
 namespace varnel {
@@ -42,6 +43,8 @@ EquipmentPanel::EquipmentPanel(QWidget* parent)
                               tr("Every photo in the list was taken with this gear"), this);
     applyToAll_->setAccessibleName(QStringLiteral("%1: %2").arg(title(), applyToAll_->text()));
     auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+    grid->setSpacing(rowGap);
     grid->addWidget(label, 0, 0, 1, 2);
     grid->addWidget(gears_, 1, 0);
     grid->addWidget(applyToAll_, 1, 1);
@@ -91,20 +94,72 @@ void EquipmentPanel::ShowMark() {
 }
 
 ImageListPanel::ImageListPanel(QWidget* parent)
-    : QGroupBox(tr("Image list"), parent), list_(new PhotoList(this)) {
+    : QGroupBox(tr("Image list"), parent),
+      list_(new PhotoList(this)),
+      both_(new QBoxLayout(QBoxLayout::TopToBottom, this)),
+      buttons_(new QBoxLayout(QBoxLayout::LeftToRight)) {
     setObjectName(QStringLiteral("Frame4"));
     list_->setObjectName(QStringLiteral("ImageList1"));
     list_->setAccessibleName(tr("Image list"));
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    list_->setMinimumHeight(110);
     list_->setToolTip(tr("Click a photo to work on it; select several to adjust them together"));
     add_ = NamedButton("Command1", tr("Add image(s)"), tr("Adds photos to the list"), this);
     remove_ = NamedButton("CmdRemoveImages", tr("Remove image(s)"),
                           tr("Takes the selected photos off the list; the files stay"), this);
-    auto* const grid = new QGridLayout(this);
-    grid->addWidget(list_, 0, 0, 1, 2);
-    grid->addWidget(add_, 1, 0);
-    grid->addWidget(remove_, 1, 1);
+    buttons_->addWidget(add_);
+    buttons_->addWidget(remove_);
+    SetStrip(true);
+}
+
+void ImageListPanel::SetStrip(bool strip) {
+    strip_ = strip;
+    list_->SetStrip(strip);
+    both_->removeWidget(list_);
+    both_->removeItem(buttons_);
+    both_->setSpacing(rowGap);
+    both_->setDirection(strip ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    buttons_->setDirection(strip ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (strip) {
+        both_->addLayout(buttons_);
+        both_->addWidget(list_, 1);
+        both_->setContentsMargins(groupMargin, 0, 0, 0);
+        buttons_->setContentsMargins(0, fontMetrics().height() + rowGap, 0, 0);
+        DropMargins();
+    } else {
+        both_->addWidget(list_, 1);
+        both_->addLayout(buttons_);
+        both_->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+        buttons_->setContentsMargins({});
+        QEvent style(QEvent::StyleChange);
+        QGroupBox::changeEvent(&style);
+    }
+}
+
+void ImageListPanel::DropMargins() {
+    if (strip_) {
+        setContentsMargins({});
+    }
+}
+
+void ImageListPanel::paintEvent(QPaintEvent* event) {
+    if (!strip_) {
+        QGroupBox::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect().adjusted(groupMargin, 0, 0, 0),
+                          Qt::AlignLeft | Qt::AlignTop, palette(), isEnabled(), title(),
+                          QPalette::WindowText);
+}
+
+// Of the strip, the group box would keep the room for a title above the list.
+void ImageListPanel::resizeEvent(QResizeEvent* event) {
+    strip_ ? QWidget::resizeEvent(event) : QGroupBox::resizeEvent(event);
+}
+
+void ImageListPanel::changeEvent(QEvent* event) {
+    QGroupBox::changeEvent(event);
+    DropMargins();
 }
 
 void ImageListPanel::Fill(const RecordArray<ImageRecord>& images) {
@@ -136,6 +191,8 @@ SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
     processQueue_ = NamedButton("CmdBatchProcess", tr("Process batch que"),
                                 tr("Converts and saves everything that is queued"), this);
     auto* const grid = new QGridLayout(this);
+    grid->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+    grid->setSpacing(rowGap);
     grid->addWidget(saveAs_, 0, 0, 1, 2);
     grid->addWidget(addToQueue_, 1, 0);
     grid->addWidget(processQueue_, 1, 1);

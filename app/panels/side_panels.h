@@ -1,16 +1,17 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The frames of the side column around the remap controls: equipment, image list, saving. Throws
-// nothing but for want of memory.
+// The frames around the remap controls: equipment, image list, saving. Throws nothing but for want
+// of memory.
 #pragma once
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <vector>
 
+#include "app/panels/photo_list.h"
 #include "base/record_array.h"
 #include "state/records/gear_record.h"
 #include "state/records/image_record.h"
@@ -48,15 +49,28 @@ class ImageListPanel : public QGroupBox {
     Q_OBJECT
   public:
     explicit ImageListPanel(QWidget* parent = nullptr);
+    // A filmstrip, or a list from top to bottom.
+    void SetStrip(bool strip);
     // One line for each record; none is current afterwards.
     void Fill(const RecordArray<ImageRecord>& images);
     std::vector<int> SelectedLines() const;  // in list order, from 0
-    QListWidget* List() const { return list_; }
+    PhotoList* List() const { return list_; }
     QPushButton* Add() const { return add_; }
     QPushButton* Remove() const { return remove_; }
 
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
   private:
-    QListWidget* list_;
+    // Of the filmstrip, which is too low for a frame.
+    void DropMargins();
+
+    PhotoList* list_;
+    QBoxLayout* both_;     // list and buttons
+    QBoxLayout* buttons_;  // the space of the title and both buttons
+    bool strip_ = false;
     QPushButton* add_;
     QPushButton* remove_;
 };

@@ -13,6 +13,7 @@
 
 #include "app/panels/menu_entry.h"
 #include "app/panels/named_button.h"
+#include "app/panels/spacing.h"
 #include "pipeline/dialogs/elided_label.h"
 
 namespace varnel {
@@ -29,12 +30,12 @@ void MakeSide(QWidget* side, WindowParts& parts) {
     auto* const scroll = new QScrollArea(side);
     auto* const controls = new QWidget(scroll);
     scroll->setFocusPolicy(Qt::NoFocus);
-    parts.list = new ImageListPanel(controls);  // first, for the order of the Tab key
     parts.equipment = new EquipmentPanel(controls);
     parts.adjustments = new AdjustmentPanel(controls);
     parts.save = new SavePanel(side);
     auto* const inner = new QVBoxLayout(controls);
-    inner->addWidget(parts.list);
+    inner->setContentsMargins(columnMargin, groupGap, columnMargin, 0);
+    inner->setSpacing(groupGap);
     inner->addWidget(parts.equipment);
     inner->addWidget(parts.adjustments);
     inner->addStretch();
@@ -43,16 +44,19 @@ void MakeSide(QWidget* side, WindowParts& parts) {
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setMinimumWidth(controls->minimumSizeHint().width() +
-                            scroll->verticalScrollBar()->sizeHint().width() + 4);
+                            scroll->verticalScrollBar()->sizeHint().width());
     auto* const layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 6);
+    layout->setContentsMargins(0, 0, 0, groupGap);
+    layout->setSpacing(groupGap);
     layout->addWidget(scroll, 1);
-    auto* const margins = new QHBoxLayout;
-    margins->setContentsMargins(9, 0, 9, 0);
+    auto* const margins = new QVBoxLayout;
+    margins->setContentsMargins(columnMargin, 0, columnMargin, 0);
+    margins->setSpacing(groupGap);
     margins->addWidget(parts.save);
     layout->addLayout(margins);
 }
 
+// The pictures between the row above them and the lines that tools put below them.
 void MakePictures(QWidget* right, WindowParts& parts) {
     parts.header = new QWidget(right);
     parts.header->setObjectName(QStringLiteral("PictureHeader"));
@@ -68,7 +72,7 @@ void MakePictures(QWidget* right, WindowParts& parts) {
     }
     parts.pictures = new PictureArea(right);
     auto* const layout = new QVBoxLayout(right);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(parts.header);
     layout->addWidget(parts.pictures, 1);
@@ -78,10 +82,12 @@ void MakeCentre(QMainWindow* window, WindowParts& parts) {
     parts.splitter = new QSplitter(window);
     auto* const side = new QWidget(parts.splitter);
     MakeSide(side, parts);
-    auto* const right = new QWidget(parts.splitter);
+    parts.strip = new QSplitter(Qt::Vertical, parts.splitter);
+    auto* const right = new QWidget(parts.strip);
     MakePictures(right, parts);
-    parts.splitter->addWidget(side);
-    parts.splitter->addWidget(right);
+    parts.list = new ImageListPanel(parts.strip);
+    parts.strip->setStretchFactor(0, 1);
+    parts.strip->setChildrenCollapsible(false);
     parts.splitter->setStretchFactor(1, 1);
     parts.splitter->setCollapsible(0, false);
     window->setCentralWidget(parts.splitter);
@@ -136,10 +142,24 @@ void MakeMenus(QMenuBar* bar, WindowParts& parts) {
 
 WindowParts MakeParts(QMainWindow* window) {
     WindowParts parts;
+    parts.tools = window->addToolBar(Texts::tr("Toolbar"));
+    parts.tools->setObjectName(QStringLiteral("ToolBarMain"));
     MakeCentre(window, parts);
     MakeStatus(window, parts);
     MakeMenus(window->menuBar(), parts);
     return parts;
+}
+
+void PlaceList(const WindowParts& parts, bool inColumn) {
+    parts.list->SetStrip(!inColumn);
+    if (inColumn) {
+        auto* const column = qobject_cast<QBoxLayout*>(parts.column->layout());
+        auto* const margins = qobject_cast<QBoxLayout*>(column->itemAt(1)->layout());
+        margins->insertWidget(0, parts.list);
+    } else {
+        parts.strip->addWidget(parts.list);
+    }
+    parts.list->show();
 }
 
 }  // namespace varnel

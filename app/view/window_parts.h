@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
+#include <QToolBar>
 #include <QToolButton>
 #include <array>
 
@@ -43,7 +44,9 @@ struct WindowParts {
     QWidget* header = nullptr;            // a row above the pictures, with a horizontal layout
     std::array<QToolButton*, 3> views{};  // in it, one for each PictureView
     QSplitter* splitter = nullptr;        // between the side column and the pictures
+    QSplitter* strip = nullptr;           // between the pictures and the filmstrip
     QWidget* column = nullptr;            // the whole side column
+    QToolBar* tools = nullptr;
     QMenu* editMenu = nullptr;
     QMenu* viewMenu = nullptr;
     MenuEntries entries;
@@ -55,5 +58,8 @@ struct WindowParts {
 // Fills the window, its status bar and its menu bar; the Edit and the View menu stay empty. The
 // window owns all parts.
 WindowParts MakeParts(QMainWindow* window);
+
+// The image list in the side column, or as a filmstrip below the pictures.
+void PlaceList(const WindowParts& parts, bool inColumn);
 
 }  // namespace varnel

@@ -171,7 +171,10 @@ void WindowView::Lock(bool on) {
         focusBeforeLock_ = window_->focusWidget();
     }
     progress_.LetInputThrough(on);
-    parts_.column->setEnabled(!on);
+    for (QWidget* const part :
+         std::initializer_list<QWidget*>{parts_.column, parts_.list, parts_.tools}) {
+        part->setEnabled(!on);
+    }
     parts_.offer->setEnabled(!on);
     window_->menuBar()->setEnabled(!on);
     for (QAction* const action : window_->findChildren<QAction*>()) {

@@ -8,7 +8,6 @@
 #include <QMimeData>
 #include <QTimer>
 #include <QUrl>
-#include <algorithm>
 #include <utility>
 
 #include "app/picture/first_size.h"
@@ -23,6 +22,8 @@
 #include "app/tools/frame_tools.h"
 #include "app/tools/gear/photo_gear_tools.h"
 #include "app/tools/guide_tools.h"
+#include "app/tools/layout/layout_tools.h"
+#include "app/tools/layout/toolbar_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
 #include "app/tools/sample_tools.h"
@@ -41,7 +42,7 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
       store_(store),
       ports_(ports),
       parts_(MakeParts(this)),
-      layout_(*this, *parts_.splitter, store),
+      layout_(*this, parts_, store),
       model_(state),
       view_(this, parts_, model_),
       shelf_(ports_.newSmallReader, state.settings,
@@ -89,6 +90,8 @@ void MDIForm1::MakeTools() {
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new SaveTools(this, parts_, workspace_, *list, state_, ports_);
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
+    new ToolbarTools(this, parts_, store_);
+    new LayoutTools(parts_, store_, this);
 }
 
 void MDIForm1::ConnectEntries() {
@@ -127,13 +130,6 @@ void MDIForm1::showEvent(QShowEvent* event) {
         // After the window is on the screen, so that the first questions stand above it.
         QTimer::singleShot(0, this, &MDIForm1::Activate);
     }
-}
-
-// The list's height follows the window alone, so that nothing jumps under the mouse when another
-// projection shows or hides its sliders.
-void MDIForm1::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    parts_.list->List()->setFixedHeight(std::clamp(height() / 5, 110, 420));
 }
 
 void MDIForm1::closeEvent(QCloseEvent* event) {

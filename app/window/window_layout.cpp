@@ -11,7 +11,9 @@ void WindowLayout::Restore() {
             store_.Get(QStringLiteral("Window"), QString::fromLatin1(key), {}).toLatin1());
     };
     window_.restoreGeometry(stored("Geometry"));
-    splitter_.restoreState(stored("Splitter"));
+    window_.restoreState(stored("State"));
+    parts_.splitter->restoreState(stored("Columns"));
+    parts_.strip->restoreState(stored("Strip"));
 }
 
 void WindowLayout::Save() {
@@ -20,7 +22,9 @@ void WindowLayout::Save() {
                     QString::fromLatin1(value.toBase64()));
     };
     keep("Geometry", window_.saveGeometry());
-    keep("Splitter", splitter_.saveState());
+    keep("State", window_.saveState());
+    keep("Columns", parts_.splitter->saveState());
+    keep("Strip", parts_.strip->saveState());
 }
 
 }  // namespace varnel

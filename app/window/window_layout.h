@@ -1,20 +1,21 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Where the main window was and how its width was divided, kept in the settings. Throws nothing.
+// Where the main window was, how it was divided and what of its toolbar was shown, kept in the
+// settings. Throws nothing.
 #pragma once
 
 #include <QMainWindow>
-#include <QSplitter>
 
+#include "app/view/window_parts.h"
 #include "state/settings/settings_store.h"
 
 namespace varnel {
 
 class WindowLayout {
   public:
-    WindowLayout(QMainWindow& window, QSplitter& splitter, SettingsStore& store)
-        : window_(window), splitter_(splitter), store_(store) {}
+    WindowLayout(QMainWindow& window, const WindowParts& parts, SettingsStore& store)
+        : window_(window), parts_(parts), store_(store) {}
 
     // As it was saved last; without that everything stays as it is.
     void Restore();
@@ -22,7 +23,7 @@ class WindowLayout {
 
   private:
     QMainWindow& window_;
-    QSplitter& splitter_;
+    const WindowParts& parts_;
     SettingsStore& store_;
 };
 

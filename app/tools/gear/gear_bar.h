@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The lines above the pictures: what added photos got, and what is not certain about the current
+// The lines below the pictures: what added photos got, and what is not certain about the current
 // photo's gear, with what can be done about it. A line that says nothing is not there. Throws
 // nothing.
 #pragma once

@@ -4,7 +4,7 @@
 #include "app/tools/gear/photo_gear_tools.h"
 
 #include <QApplication>
-#include <QBoxLayout>
+#include <QLayout>
 #include <QLocale>
 
 #include "gear/from_photo/photo_gear.h"
@@ -73,9 +73,9 @@ PhotoGearTools::PhotoGearTools(QMainWindow* window, const WindowParts& parts, Wi
              }),
       given_(new GivenBar(parts.pictures->parentWidget())),
       bar_(new GearBar(parts.pictures->parentWidget())) {
-    auto* const column = qobject_cast<QBoxLayout*>(parts.pictures->parentWidget()->layout());
-    column->insertWidget(0, given_);
-    column->insertWidget(1, bar_);
+    QLayout* const column = parts.pictures->parentWidget()->layout();
+    column->addWidget(given_);
+    column->addWidget(bar_);
     refresh_.setSingleShot(true);
     connect(&refresh_, &QTimer::timeout, this, &PhotoGearTools::Refresh);
     const auto soon = [this] { refresh_.start(0); };

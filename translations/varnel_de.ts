@@ -1405,10 +1405,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>LevelTools</name>
     <message>
-        <source>Draw along the horizon on the photo as shot, or click points and then the last one again. Escape leaves.</source>
-        <translation>Ziehen Sie auf dem Originalfoto am Horizont entlang, oder klicken Sie Punkte an und den letzten noch einmal. Esc beendet.</translation>
-    </message>
-    <message>
         <source>it takes %1, %2° more than the slider has</source>
         <translation>nötig sind %1, %2° mehr, als der Regler hat</translation>
     </message>
@@ -2557,6 +2553,61 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>straighten</source>
         <translation>Geraderichten</translation>
     </message>
+    <message>
+        <source>reset photo</source>
+        <translation>Foto zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarTools</name>
+    <message>
+        <source>Add image(s)</source>
+        <translation>Bild(er) hinzufügen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Bildkreis</translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Geraderichten</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation>Kontaktbogen</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern</translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2651,6 +2702,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>View</source>
         <translation>Ansicht</translation>
     </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -2740,6 +2795,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Draws the preview now</source>
         <translation>Zeichnet die Vorschau jetzt</translation>
+    </message>
+    <message>
+        <source>Reset photo</source>
+        <translation>Foto zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Gives all sliders of this photo the values of its gear again</source>
+        <translation>Gibt allen Reglern dieses Fotos wieder die Werte seiner Ausrüstung</translation>
     </message>
 </context>
 <context>
@@ -2880,8 +2943,24 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Fisheye-Fotos hierher ziehen</translation>
     </message>
     <message>
-        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation>oder Datei, Bild(er) öffnen wählen; danach unter „Umwandeln“ eine Projektion wählen.</translation>
+        <source>Each gets the gear that took it; then choose what the result shall be under &quot;Remap&quot;.</source>
+        <translation>Jedes bekommt die Ausrüstung, die es aufnahm; dann unter „Umwandeln“ wählen, was das Ergebnis sein soll.</translation>
+    </message>
+    <message>
+        <source>Choose photos...</source>
+        <translation>Fotos wählen ...</translation>
+    </message>
+    <message>
+        <source>Adds photos to the list</source>
+        <translation>Nimmt Fotos in die Liste auf</translation>
+    </message>
+    <message>
+        <source>Try the sample photo</source>
+        <translation>Mit dem Beispielfoto ausprobieren</translation>
+    </message>
+    <message>
+        <source>Opens a photo that is drawn by this program</source>
+        <translation>Öffnet ein Foto, das dieses Programm zeichnet</translation>
     </message>
 </context>
 <context>
@@ -2913,6 +2992,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 (not in the list)</source>
         <translation>%1 (nicht in der Liste)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FoldGroup</name>
+    <message>
+        <source>Shows what is in this group</source>
+        <translation>Zeigt, was in dieser Gruppe ist</translation>
+    </message>
+    <message>
+        <source>Hides what is in this group</source>
+        <translation>Verbirgt, was in dieser Gruppe ist</translation>
     </message>
 </context>
 <context>
@@ -3407,6 +3497,21 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::HintTools</name>
+    <message>
+        <source>Draw along the horizon on the photo, or click points and then the last one again; Escape leaves</source>
+        <translation>Auf dem Foto am Horizont entlangziehen, oder Punkte anklicken und den letzten noch einmal; Escape beendet</translation>
+    </message>
+    <message>
+        <source>Drag the circle&apos;s rim or its middle on the photo; Escape leaves</source>
+        <translation>Auf dem Foto den Rand des Kreises oder seine Mitte ziehen; Escape beendet</translation>
+    </message>
+    <message>
+        <source>drag: turn   wheel: angle   Shift+drag: roll</source>
+        <translation>Ziehen: drehen   Rad: Bildwinkel   Umschalt+Ziehen: rollen</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ImageListPanel</name>
     <message>
         <source>Image list</source>
@@ -3438,6 +3543,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>The photo as shot: drag the bar to move it, the corner to resize it</source>
         <translation>Das Foto, wie es aufgenommen wurde: am Balken verschieben, an der Ecke die Größe ändern</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::LayoutTools</name>
+    <message>
+        <source>Image list in the left col&amp;umn</source>
+        <translation>Bilderliste in der linken &amp;Spalte</translation>
     </message>
 </context>
 <context>
@@ -3620,6 +3732,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::ResetDot</name>
+    <message>
+        <source>Reset: %1</source>
+        <translation>Zurücksetzen: %1</translation>
+    </message>
+    <message>
+        <source>Not the usual value; a click resets it</source>
+        <translation>Nicht der übliche Wert; ein Klick setzt ihn zurück</translation>
+    </message>
+</context>
+<context>
     <name>varnel::SampleTools</name>
     <message>
         <source>Open the sa&amp;mple</source>
@@ -3735,6 +3858,36 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>narrower</source>
         <translation>schmaler</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ThemeTools</name>
+    <message>
+        <source>T&amp;heme</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>As the &amp;system</source>
+        <translation>Wie das &amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ToolbarTools</name>
+    <message>
+        <source>Too&amp;lbar</source>
+        <translation>&amp;Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt under the icons</source>
+        <translation>Te&amp;xt unter den Symbolen</translation>
     </message>
 </context>
 <context>

@@ -34,12 +34,15 @@ QColor ColourFor(QIcon::Mode mode) {
 
 class OutlineEngine : public QIconEngine {
   public:
-    explicit OutlineEngine(QByteArray outline) : outline_(std::move(outline)) {}
+    // Without a colour in that of the texts.
+    OutlineEngine(QByteArray outline, const QColor& colour)
+        : outline_(std::move(outline)), colour_(colour) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                QIcon::State /*state*/) override {
+        const QColor colour = colour_.isValid() ? colour_ : ColourFor(mode);
         QByteArray tinted = outline_;
-        tinted.replace("currentColor", ColourFor(mode).name().toLatin1());
+        tinted.replace("currentColor", colour.name().toLatin1());
         QSvgRenderer(tinted).render(painter, rect);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -54,14 +57,20 @@ class OutlineEngine : public QIconEngine {
 
   private:
     QByteArray outline_;
+    QColor colour_;
 };
 
 }  // namespace
 
 QIcon ToolIcon(const char* name) {
+    return ToolIcon(name, {});
+}
+
+QIcon ToolIcon(const char* name, const QColor& colour) {
     LoadIcons();
     QFile file(QStringLiteral(":/varnel/icons/%1.svg").arg(QString::fromLatin1(name)));
-    return QIcon(new OutlineEngine(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray()));
+    return QIcon(
+        new OutlineEngine(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(), colour));
 }
 
 }  // namespace varnel

@@ -11,5 +11,7 @@ namespace varnel {
 
 // name: of a file in app/icons, without its ending. An unknown one gives an icon without a picture.
 QIcon ToolIcon(const char* name);
+// In that colour, whatever the theme is.
+QIcon ToolIcon(const char* name, const QColor& colour);
 
 }  // namespace varnel

@@ -3,10 +3,13 @@
 
 #include "app/panels/adjustment_panel.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "app/panels/named_button.h"
 #include "app/panels/spacing.h"
 #include "remap/projection/projection_info.h"
 
@@ -23,6 +26,7 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent)
     for (FoldGroup* const fold : folds_) {
         column->addWidget(fold);
     }
+    AlignNumbers();
     ShowFor(AllProjections().front());
 }
 
@@ -79,7 +83,11 @@ QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     // The gear has a button of the same text.
     applyToAll_->setAccessibleName(
         QStringLiteral("%1: %2").arg(remap->title(), applyToAll_->text()));
-    grid->addWidget(applyToAll_, 0, 2, grid->rowCount(), 1);
+    resetPhoto_ =
+        NamedButton("CmdResetPhoto", tr("Reset photo"),
+                    tr("Gives all sliders of this photo the values of its gear again"), box);
+    grid->addWidget(applyToAll_, 0, 2);
+    grid->addWidget(resetPhoto_, 1, 2);
     return box;
 }
 
@@ -111,7 +119,30 @@ void AdjustmentPanel::AddRow(QLayout* layout, SliderId id) {
         if (table[n].id == id) {
             rows_[n] = new SliderRow(table[n], this);
             layout->addWidget(rows_[n]);
+            AddDot(*rows_[n]);
         }
+    }
+}
+
+// Behind the number, half way between its two lines.
+void AdjustmentPanel::AddDot(SliderRow& row) {
+    const SliderRowData& facts = row.Data();
+    const QString heading = QCoreApplication::translate("Sliders", facts.startCaption);
+    auto* const dot = new ResetDot(QString::fromLatin1(facts.slider),
+                                   facts.heading == nullptr ? heading : SpokenName(facts), &row);
+    auto* const grid = qobject_cast<QGridLayout*>(row.layout());
+    grid->addWidget(dot, 0, grid->columnCount(), 2, 1, Qt::AlignCenter);
+    dots_[static_cast<std::size_t>(facts.id)] = dot;
+}
+
+// One column, whatever the ranges are.
+void AdjustmentPanel::AlignNumbers() {
+    int widest = 0;
+    for (const QAbstractSpinBox* const number : findChildren<QAbstractSpinBox*>()) {
+        widest = std::max(widest, number->sizeHint().width());
+    }
+    for (QAbstractSpinBox* const number : findChildren<QAbstractSpinBox*>()) {
+        number->setMinimumWidth(widest);
     }
 }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "app/panels/fold_group.h"
+#include "app/panels/reset_dot.h"
 #include "app/panels/slider_row.h"
 
 namespace varnel {
@@ -30,10 +31,12 @@ class AdjustmentPanel : public QWidget {
     void ShowFor(Projection projection);
     const std::array<SliderRow*, 8>& Rows() const { return rows_; }
     SliderRow* Row(SliderId id) const;
+    ResetDot* Dot(SliderId id) const { return dots_[static_cast<std::size_t>(id)]; }
     QCheckBox* AutoPreview() const { return autoPreview_; }
     QCheckBox* Antialiased() const { return antialiased_; }
     QPushButton* PreviewButton() const { return preview_; }
     QPushButton* ApplyToAll() const { return applyToAll_; }
+    QPushButton* ResetPhoto() const { return resetPhoto_; }
     QButtonGroup* Projections() const { return projections_; }
     const std::array<FoldGroup*, 3>& Folds() const { return folds_; }
 
@@ -44,6 +47,8 @@ class AdjustmentPanel : public QWidget {
     FoldGroup* MakePreview();
     QWidget* MakeProjections(QGroupBox* remap);
     void AddRow(QLayout* layout, SliderId id);
+    void AddDot(SliderRow& row);
+    void AlignNumbers();
     QLabel* MakeGroupLabel(const char* name, SliderId first);
 
     QButtonGroup* projections_;
@@ -51,7 +56,9 @@ class AdjustmentPanel : public QWidget {
     QCheckBox* antialiased_ = nullptr;
     QPushButton* preview_ = nullptr;
     QPushButton* applyToAll_ = nullptr;
+    QPushButton* resetPhoto_ = nullptr;
     std::array<SliderRow*, 8> rows_{};
+    std::array<ResetDot*, 8> dots_{};  // by the sliders' numbers
     std::array<FoldGroup*, 3> folds_{};
     // What stands around the rotation and shift sliders, each with its first slider.
     std::vector<std::pair<QWidget*, SliderId>> groups_;

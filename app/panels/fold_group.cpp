@@ -43,7 +43,7 @@ FoldGroup::FoldGroup(const char* name, const QString& title, QWidget* parent)
     header_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     header_->setIconSize({10, 10});
     column_ = new QVBoxLayout(body_);
-    column_->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+    column_->setContentsMargins(foldMargin, 0, foldMargin, rowGap);
     column_->setSpacing(rowGap);
     auto* const both = new QVBoxLayout(this);
     both->setContentsMargins({});

@@ -49,6 +49,27 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
     }
 }
 
+// Their edge is darker than the window, which shows nothing in dark colours.
+void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const QPalette& colours = option->palette;
+    const bool round = element == PE_IndicatorRadioButton;
+    if ((round || element == PE_IndicatorCheckBox) &&
+        colours.color(QPalette::Window).lightness() < dark) {
+        QColor edge = colours.color(QPalette::WindowText);
+        edge.setAlpha(110);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(edge);
+        painter->setBrush(Qt::NoBrush);
+        const QRectF place = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        const double corner = round ? place.width() / 2.0 : 2.0;
+        painter->drawRoundedRect(place, corner, corner);
+        painter->restore();
+    }
+}
+
 // A text that has too little room ends in dots.
 void FocusStyle::DrawShortened(const QStyleOptionComboBox& combo, QPainter* painter,
                                const QWidget* widget) const {

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The desktop's own style, with a frame around what has the keyboard where that style shows
-// nothing: a dialog's default button, which looks the same with and without it, and lists. The
-// hints in empty fields and the guide's links can be read on dark desktops, too: some of those
-// leave them black and blue. Throws nothing.
+// A style with a frame around what has the keyboard where that style shows nothing: a dialog's
+// default button, which looks the same with and without it, and lists. The hints in empty fields
+// and the guide's links can be read in dark colours, too. Throws nothing.
 #pragma once
 
 #include <QProxyStyle>
@@ -17,6 +16,8 @@ class FocusStyle : public QProxyStyle {
     using QProxyStyle::QProxyStyle;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 

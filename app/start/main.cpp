@@ -18,6 +18,7 @@
 #include "app/start/focus_style.h"
 #include "app/start/plain_texts.h"
 #include "app/start/revision_age.h"
+#include "app/tools/layout/theme_tools.h"
 #include "app/window/main_window.h"
 #include "cli/report/console.h"
 #include "state/settings/autosaving_store.h"
@@ -47,6 +48,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     }
     TellOf(userStore, notices);
     AutosavingStore store(userStore, notices);
+    ThemeKeeper theme(StoredTheme(store));
     WorkingState state;
     state.settings = LoadSettings(store);
     const auto reader = NewPictureReader();
@@ -62,7 +64,8 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      dialogs,
                      [] { return NewPictureReader({.secondsPerPhoto = 10}); },
                      {UserSessionFolder()},
-                     [] { return NewPictureReader(); }});
+                     [] { return NewPictureReader(); },
+                     &theme});
     dialogs.Use([&window] { return window.CurrentImage(); });
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);
@@ -86,7 +89,7 @@ int main(int argc, char* argv[]) {
         return *exitCode;
     }
     Application application(argc, argv);
-    QApplication::setStyle(new FocusStyle);
+    QApplication::setStyle(new FocusStyle(QStringLiteral("Fusion")));
     QApplication::setApplicationName(QStringLiteral("varnel"));
     QApplication::setApplicationDisplayName({});
     // As the package installs both.

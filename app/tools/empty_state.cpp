@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "app/looks/tool_icon.h"
+#include "app/panels/named_button.h"
 #include "app/picture/picture_box.h"
 
 namespace varnel {
@@ -17,35 +19,61 @@ constexpr QColor litSurround(112, 112, 112);
 constexpr QColor textColour(235, 235, 235);
 constexpr QColor frameColour(170, 170, 170);
 constexpr int margin = 24;  // logical pixels around the frame and within
+constexpr int pictureSide = 72;
 
 }  // namespace
 
-EmptyState::EmptyState(QWidget* window, const WindowParts& parts)
-    : QWidget(parts.pictures), parts_(parts) {
+EmptyState::EmptyState(QMainWindow* window, const WindowParts& parts)
+    : QWidget(parts.pictures),
+      window_(window),
+      parts_(parts),
+      column_(new QVBoxLayout(this)),
+      picture_(ToolIcon("add", textColour)) {
     setObjectName(QStringLiteral("EmptyState"));
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(2 * margin, 2 * margin, 2 * margin, 2 * margin);
-    column->addStretch();
+    column_->setContentsMargins(2 * margin, 2 * margin + pictureSide, 2 * margin, 2 * margin);
+    column_->setSpacing(margin / 2);
+    column_->addStretch();
     QLabel* const where = AddLabel("LabelDrop", tr("Drop fisheye photos here"));
     QFont large = where->font();
     large.setPointSizeF(large.pointSizeF() * 1.8);
     where->setFont(large);
     AddLabel("LabelNext",
-             tr("or choose File, Open image(s); then choose a projection under \"Remap\"."));
-    column->addStretch();
+             tr("Each gets the gear that took it; then choose what the result shall be "
+                "under \"Remap\"."));
+    AddButtons();
+    column_->addStretch();
     hide();
     parts.pictures->installEventFilter(this);
     window->installEventFilter(this);
     look_.setSingleShot(true);
     connect(&look_, &QTimer::timeout, this, [this] {
-        setVisible(parts_.list->List()->count() == 0 && parts_.equipment->Gears()->count() > 0);
+        setVisible(parts_.list->List()->count() == 0);
+        raise();
     });
-    for (const QAbstractItemModel* const lines :
-         {parts.list->List()->model(), parts.equipment->Gears()->model()}) {
-        const auto soon = [this] { look_.start(0); };
-        connect(lines, &QAbstractItemModel::rowsInserted, this, soon);
-        connect(lines, &QAbstractItemModel::modelReset, this, soon);
-    }
+    const QAbstractItemModel* const lines = parts.list->List()->model();
+    const auto soon = [this] { look_.start(0); };
+    connect(lines, &QAbstractItemModel::rowsInserted, this, soon);
+    connect(lines, &QAbstractItemModel::modelReset, this, soon);
+    soon();
+}
+
+// They do what the entries of the menu do, one of which is made later.
+void EmptyState::AddButtons() {
+    auto* const row = new QHBoxLayout;
+    row->addStretch();
+    const auto add = [this, row](QPushButton* button, const char* entry) {
+        row->addWidget(button);
+        connect(button, &QPushButton::clicked, this, [this, entry] {
+            window_->findChild<QAction*>(QString::fromLatin1(entry))->trigger();
+        });
+    };
+    add(NamedButton("CmdEmptyAdd", tr("Choose photos..."), tr("Adds photos to the list"), this),
+        "CmdFileOpenFreeImage");
+    add(NamedButton("CmdEmptySample", tr("Try the sample photo"),
+                    tr("Opens a photo that is drawn by this program"), this),
+        "CmdOpenSample");
+    row->addStretch();
+    column_->addLayout(row);
 }
 
 QLabel* EmptyState::AddLabel(const char* name, const QString& text) {
@@ -56,7 +84,7 @@ QLabel* EmptyState::AddLabel(const char* name, const QString& text) {
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, textColour);
     label->setPalette(colours);
-    layout()->addWidget(label);
+    column_->addWidget(label);
     return label;
 }
 
@@ -67,6 +95,10 @@ void EmptyState::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(lit_ ? textColour : frameColour, lit_ ? 3.0 : 2.0, Qt::DashLine));
     painter.setBrush(lit_ ? litSurround : pictureSurround);
     painter.drawRoundedRect(rect().adjusted(margin, margin, -margin, -margin), 12.0, 12.0);
+    const QRect texts = column_->itemAt(1)->geometry();
+    picture_.paint(&painter,
+                   QRect(texts.center().x() - pictureSide / 2,
+                         texts.top() - pictureSide - margin / 2, pictureSide, pictureSide));
 }
 
 void EmptyState::Light(bool lit) {

@@ -20,12 +20,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(LevelTools)
 };
 
-QString Hint() {
-    return Texts::tr(
-        "Draw along the horizon on the photo as shot, or click points and then the last one again. "
-        "Escape leaves.");
-}
-
 int Whole(double degrees) {
     return static_cast<int>(std::lround(degrees));
 }
@@ -104,10 +98,6 @@ void LevelTools::OnToggled(bool on) {
     photo->RemoveOverlay(&stroke_);
     if (on) {
         photo->AddOverlay(&stroke_);
-        view_.ShowStatus(Hint());
-        hintNumber_ = view_.StatusNumber();
-    } else if (view_.StatusNumber() == hintNumber_) {
-        view_.ShowStatus({});
     }
     leave_->setEnabled(on);
 }

@@ -37,7 +37,6 @@ class LevelTools : public QObject {
     WorkingState& state_;
     QShortcut* leave_;
     StrokeOverlay stroke_;
-    int hintNumber_ = 0;  // of the hint in the status line
     QAction* entry_;
 };
 

@@ -3,6 +3,8 @@
 
 #include "app/tools/picture_keys.h"
 
+#include <QKeyEvent>
+
 namespace varnel {
 
 PictureKeys::PictureKeys(QWidget* window, const WindowParts& parts)
@@ -20,9 +22,18 @@ PictureKeys::PictureKeys(QWidget* window, const WindowParts& parts)
     for (PictureBox* const box : {photo, parts.pictures->To()}) {
         connect(box, &PictureBox::LeaveWanted, this, &PictureKeys::Leave);
     }
-    // The status line is below what the tools put below the pictures.
-    QWidget::setTabOrder(window->findChild<QWidget*>(QStringLiteral("CmdCircleDecline")),
-                         parts.offer->Button());
+    window->installEventFilter(this);
+}
+
+// What nothing in the window wanted comes to the window itself.
+bool PictureKeys::eventFilter(QObject* watched, QEvent* event) {
+    QAction* const circle = tools_.front();
+    if (event->type() == QEvent::KeyPress && circle->isChecked() &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        circle->setChecked(false);
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 // The one that answers the arrow keys first.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The tools over the photo by keyboard: a tool that is switched on gets it, Escape switches the
-// tool off again. Throws nothing.
+// tool off again, the image circle from wherever in the window the keyboard is. Throws nothing.
 #pragma once
 
 #include <QAction>
@@ -18,6 +18,9 @@ class PictureKeys : public QObject {
   public:
     // After the tools have their menu entries.
     PictureKeys(QWidget* window, const WindowParts& parts);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void Leave();

@@ -11,6 +11,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/looks/theme.h"
 #include "base/notices.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_store.h"
@@ -105,6 +106,8 @@ struct WindowPorts {
     } sessions = {};
     // Makes what reads added photos for their gear; without it they get the default gear.
     std::function<std::unique_ptr<PictureReader>()> newGearReader = nullptr;
+    // Of the application; without one its colours cannot be chosen.
+    ThemeKeeper* theme = nullptr;
 };
 
 }  // namespace varnel

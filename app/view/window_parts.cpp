@@ -62,14 +62,17 @@ void MakePictures(QWidget* right, WindowParts& parts) {
     parts.header->setObjectName(QStringLiteral("PictureHeader"));
     parts.header->setAccessibleName(Texts::tr("View"));
     auto* const row = new QHBoxLayout(parts.header);
-    row->setContentsMargins(pictureMargin, 3, pictureMargin, 3);
-    row->setSpacing(2);
-    row->setAlignment(Qt::AlignLeft);
+    row->setContentsMargins(columnMargin, rowGap, columnMargin, rowGap);
+    row->setSpacing(rowGap);
     for (QToolButton*& button : parts.views) {  // before the pictures, for the order of the Tab key
         button = new QToolButton(parts.header);
         button->setFocusPolicy(Qt::TabFocus);
         row->addWidget(button);
     }
+    parts.hint = new ElidedLabel(parts.header);
+    parts.hint->setObjectName(QStringLiteral("LabelHint"));
+    parts.hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    row->addWidget(parts.hint, 1);
     parts.pictures = new PictureArea(right);
     auto* const layout = new QVBoxLayout(right);
     layout->setContentsMargins({});

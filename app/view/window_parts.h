@@ -43,6 +43,7 @@ struct WindowParts {
     PictureArea* pictures = nullptr;
     QWidget* header = nullptr;            // a row above the pictures, with a horizontal layout
     std::array<QToolButton*, 3> views{};  // in it, one for each PictureView
+    QLabel* hint = nullptr;               // at its right end
     QSplitter* splitter = nullptr;        // between the side column and the pictures
     QSplitter* strip = nullptr;           // between the pictures and the filmstrip
     QWidget* column = nullptr;            // the whole side column

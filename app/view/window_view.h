@@ -35,13 +35,9 @@ class WindowView : public QObject, public WorkspaceView {
         parts_.pictures->ShowError(text);
     }
     void ShowStatus(const QString& text) override {
-        ++statusNumber_;
         parts_.status->setText(text);
         parts_.status->setToolTip(text);  // it may not fit
     }
-    // Of the text in the status line: a caller that remembers it can find out whether its text is
-    // still shown.
-    int StatusNumber() const { return statusNumber_; }
     void HandleEvents() override { progress_.HandleEvents(); }
     std::shared_ptr<void> Hourglass() override;
     void Lock(bool on) override;
@@ -80,7 +76,6 @@ class WindowView : public QObject, public WorkspaceView {
     QString photo_, project_;  // of the title
     bool unsaved_ = false;
     QString error_;
-    int statusNumber_ = 0;
     QPointer<QWidget> focusBeforeLock_;
     std::function<void()> cancel_;
 };

@@ -17,12 +17,15 @@
 #include "app/tools/column/gear_tools.h"
 #include "app/tools/column/list_tools.h"
 #include "app/tools/column/photo_tools.h"
+#include "app/tools/column/reset_tools.h"
 #include "app/tools/column/save_tools.h"
 #include "app/tools/empty_state.h"
 #include "app/tools/frame_tools.h"
 #include "app/tools/gear/photo_gear_tools.h"
 #include "app/tools/guide_tools.h"
+#include "app/tools/layout/hint_tools.h"
 #include "app/tools/layout/layout_tools.h"
+#include "app/tools/layout/theme_tools.h"
 #include "app/tools/layout/toolbar_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
@@ -86,12 +89,17 @@ void MDIForm1::MakeTools() {
     new GuideTools(this, ports_.notices, state_.settings.Language);
     new AdjustmentTools(this, parts_, view_, workspace_, state_);
     new PhotoTools(this, parts_, workspace_, state_, ports_.dialogs);
+    new ResetTools(parts_, view_, workspace_, this);
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new SaveTools(this, parts_, workspace_, *list, state_, ports_);
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
+    new HintTools(this, parts_, model_);
     new ToolbarTools(this, parts_, store_);
-    new LayoutTools(parts_, store_, this);
+    new LayoutTools(this, parts_, store_);
+    if (ports_.theme != nullptr) {
+        new ThemeTools(*parts_.viewMenu, store_, *ports_.theme, this);
+    }
 }
 
 void MDIForm1::ConnectEntries() {

@@ -28,6 +28,7 @@ enum class StepKind {
     Circle,
     PhotoGears,  // of photos that were added
     Straighten,
+    Reset,  // a photo to what its gear gives
     ContactSheet,
     OpenProject,
     RestoreList,

@@ -15,19 +15,23 @@ QString Section() {
 
 }  // namespace
 
+void KeepChoice(QAction& entry, const char* key, bool first, SettingsStore& store) {
+    const QString kept = QString::fromLatin1(key);
+    const QString yes = QStringLiteral("1");
+    const QString no = QStringLiteral("0");
+    entry.setCheckable(true);
+    entry.setChecked(store.Get(Section(), kept, first ? yes : no) == yes);
+    QObject::connect(&entry, &QAction::toggled, &entry, [kept, yes, no, &store](bool on) {
+        store.Save(Section(), kept, on ? yes : no);
+    });
+}
+
 QAction* AddKeptChoice(QMenu& menu, const KeptChoice& choice, SettingsStore& store,
                        const std::function<void(bool)>& apply) {
     QAction* const entry = AddMenuEntry(&menu, choice.name, choice.text);
-    const QString key = QString::fromLatin1(choice.key);
-    const QString yes = QStringLiteral("1");
-    const QString no = QStringLiteral("0");
-    entry->setCheckable(true);
-    entry->setChecked(store.Get(Section(), key, choice.first ? yes : no) == yes);
+    KeepChoice(*entry, choice.key, choice.first, store);
     apply(entry->isChecked());
-    QObject::connect(entry, &QAction::toggled, &menu, [key, yes, no, &store, apply](bool on) {
-        store.Save(Section(), key, on ? yes : no);
-        apply(on);
-    });
+    QObject::connect(entry, &QAction::toggled, &menu, apply);
     return entry;
 }
 

@@ -19,6 +19,9 @@ struct KeptChoice {
     bool first = false;  // as long as nothing was chosen
 };
 
+// The same for an entry that exists and does by itself what it stands for.
+void KeepChoice(QAction& entry, const char* key, bool first, SettingsStore& store);
+
 // A new entry at the menu's end, as it was left; apply is called with that at once, and with each
 // choice.
 QAction* AddKeptChoice(QMenu& menu, const KeptChoice& choice, SettingsStore& store,

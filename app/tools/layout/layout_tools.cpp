@@ -13,14 +13,52 @@ QString Section() {
     return QStringLiteral("Window");
 }
 
+void Chain(const QWidgetList& order) {
+    for (qsizetype n = 1; n < order.size(); ++n) {
+        QWidget::setTabOrder(order[n - 1], order[n]);
+    }
+}
+
 }  // namespace
 
-LayoutTools::LayoutTools(const WindowParts& parts, SettingsStore& store, QObject* parent)
-    : QObject(parent), parts_(parts), store_(store) {
+LayoutTools::LayoutTools(QMainWindow* window, const WindowParts& parts, SettingsStore& store)
+    : QObject(window), window_(window), parts_(parts), store_(store) {
     AddKeptChoice(*parts_.viewMenu,
                   {"CmdViewListLeft", tr("Image list in the left col&umn"), "ListLeft"}, store_,
-                  [this](bool on) { PlaceList(parts_, on); });
+                  [this](bool on) {
+                      PlaceList(parts_, on);
+                      OrderTabs(on);
+                  });
+    KeepChoice(*window_->findChild<QAction*>(QStringLiteral("CmdViewFrame")), "Frame", true,
+               store_);
     KeepFolds();
+    parts_.list->List()->setFocus();
+}
+
+// As they are seen: the lines below the pictures, then the filmstrip, then the status line; the
+// list of the column before what saves.
+void LayoutTools::OrderTabs(bool inColumn) const {
+    const QStringList below{
+        QStringLiteral("CmdCircleDecline"),   QStringLiteral("CmdGearsGivenUndo"),
+        QStringLiteral("CmdGearsGivenClose"), QStringLiteral("CmdDoubtGear"),
+        QStringLiteral("CmdDoubtFrame"),      QStringLiteral("CmdDoubtSame")};
+    QWidgetList order;
+    for (const QString& name : below) {
+        order.append(window_->findChild<QWidget*>(name));
+    }
+    Chain({parts_.views.back(), parts_.pictures->From(), parts_.pictures->To(),
+           window_->findChild<QWidget*>(QStringLiteral("CmdEmptyAdd")),
+           window_->findChild<QWidget*>(QStringLiteral("CmdEmptySample"))});
+    const ImageListPanel& list = *parts_.list;
+    if (inColumn) {
+        order.append(parts_.offer->Button());
+        QWidgetList column{parts_.adjustments->PreviewButton(), list.List(), list.Add(),
+                           list.Remove(), parts_.save->SaveAs()};
+        Chain(column);
+    } else {
+        order += {list.Add(), list.Remove(), list.List(), parts_.offer->Button()};
+    }
+    Chain(order);
 }
 
 // What is seldom used is folded until it is opened.

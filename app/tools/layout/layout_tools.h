@@ -5,6 +5,7 @@
 // settings. Throws nothing but for want of memory.
 #pragma once
 
+#include <QMainWindow>
 #include <QObject>
 
 #include "app/view/window_parts.h"
@@ -15,11 +16,14 @@ namespace varnel {
 class LayoutTools : public QObject {
     Q_OBJECT
   public:
-    LayoutTools(const WindowParts& parts, SettingsStore& store, QObject* parent);
+    // After all others, whose controls it puts in the order of the Tab key.
+    LayoutTools(QMainWindow* window, const WindowParts& parts, SettingsStore& store);
 
   private:
     void KeepFolds();
+    void OrderTabs(bool inColumn) const;
 
+    QMainWindow* window_;
     WindowParts parts_;
     SettingsStore& store_;
 };

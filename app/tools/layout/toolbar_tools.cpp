@@ -3,6 +3,7 @@
 
 #include "app/tools/layout/toolbar_tools.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <array>
 
@@ -67,7 +68,7 @@ void ToolbarTools::AddTools(const QMainWindow& window) {
         auto* const entry = window.findChild<QAction*>(QString::fromLatin1(tool.entry));
         entry->setIcon(ToolIcon(tool.icon));
         entry->setIconVisibleInMenu(false);
-        entry->setIconText(tr(tool.text));
+        entry->setIconText(QCoreApplication::translate("ToolbarTools", tool.text));
         ShowTip(*entry);
         connect(entry, &QAction::changed, this, [entry] { ShowTip(*entry); });
         if (tool.beginsGroup) {

@@ -56,7 +56,7 @@ TEST(Access, TheToolsOverThePhoto) {
     press(Qt::Key_Escape);
     EXPECT_FALSE(workspace.Entry("CmdViewCircle")->isChecked());
 
-    workspace.Entry("CmdViewFrame")->trigger();
+    ASSERT_TRUE(workspace.Entry("CmdViewFrame")->isChecked());
     press(Qt::Key_Left);
     press(Qt::Key_Down, Qt::ControlModifier);
     press(Qt::Key_Minus);

@@ -126,7 +126,7 @@ TEST(Looks, TheToolsOverThePictures) {
         EXPECT_TRUE(Settle());  // tiles and parts are drawn
         KeepPicture(&workspace.window, name);
     };
-    look({"CmdViewFrame", "CmdViewMagnification"}, "tools-frame.png");
+    look({"CmdViewMagnification"}, "tools-frame.png");
     EXPECT_TRUE(workspace.Label("LabelNumbers").contains(Text(" %   |   ")));
     look({"CmdViewFrame", "CmdViewMagnification", "CmdViewCircle"}, "tools-circle.png");
     look({"CmdViewCircle", "CmdContactSheet"}, "tools-sheet.png");

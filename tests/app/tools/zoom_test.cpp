@@ -18,6 +18,7 @@ using testing::TestWindow;
 void ShowActualSize(TestWindow& workspace) {
     workspace.AddPhotos({QStringLiteral("photo.bmp")}, {1500, 1000});
     workspace.Click("OptionRemap_1");
+    workspace.Entry("CmdViewFrame")->setChecked(false);
     workspace.Entry("CmdViewActual")->trigger();
     EXPECT_TRUE(testing::Settle());
 }

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/layout/theme_tools.h"
+
+#include <QActionGroup>
+
+#include "app/panels/menu_entry.h"
+
+namespace varnel {
+
+namespace {
+
+QString Section() {
+    return QStringLiteral("Window");
+}
+
+QString Key() {
+    return QStringLiteral("Theme");
+}
+
+}  // namespace
+
+Theme StoredTheme(SettingsStore& store) {
+    return ThemeFromText(store.Get(Section(), Key(), {}));
+}
+
+ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper& keeper, QObject* parent)
+    : QObject(parent), store_(store), keeper_(keeper) {
+    QMenu* const themes = menu.addMenu(tr("T&heme"));
+    themes->setObjectName(QStringLiteral("MenuTheme"));
+    themes->menuAction()->setObjectName(QStringLiteral("CmdViewTheme"));
+    auto* const group = new QActionGroup(themes);
+    const auto add = [&](const char* name, const QString& text, Theme theme) {
+        QAction* const entry = AddMenuEntry(themes, name, text);
+        entry->setCheckable(true);
+        entry->setChecked(theme == keeper_.Chosen());
+        group->addAction(entry);
+        connect(entry, &QAction::triggered, this, [this, theme] { Choose(theme); });
+    };
+    add("CmdThemeSystem", tr("As the &system"), Theme::System);
+    add("CmdThemeLight", tr("&Light"), Theme::Light);
+    add("CmdThemeDark", tr("&Dark"), Theme::Dark);
+}
+
+void ThemeTools::Choose(Theme theme) {
+    keeper_.Choose(theme);
+    store_.Save(Section(), Key(), ToText(theme));
+}
+
+}  // namespace varnel

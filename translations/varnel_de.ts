@@ -3548,7 +3548,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>varnel::LayoutTools</name>
     <message>
-        <source>Image list in the left col&amp;umn</source>
+        <source>Image li&amp;st in the left column</source>
         <translation>Bilderliste in der linken &amp;Spalte</translation>
     </message>
 </context>
@@ -3863,8 +3863,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>varnel::ThemeTools</name>
     <message>
-        <source>T&amp;heme</source>
-        <translation>&amp;Farben</translation>
+        <source>Them&amp;e</source>
+        <translation>F&amp;arben</translation>
     </message>
     <message>
         <source>As the &amp;system</source>

@@ -24,7 +24,7 @@ void Chain(const QWidgetList& order) {
 LayoutTools::LayoutTools(QMainWindow* window, const WindowParts& parts, SettingsStore& store)
     : QObject(window), window_(window), parts_(parts), store_(store) {
     AddKeptChoice(*parts_.viewMenu,
-                  {"CmdViewListLeft", tr("Image list in the left col&umn"), "ListLeft"}, store_,
+                  {"CmdViewListLeft", tr("Image li&st in the left column"), "ListLeft"}, store_,
                   [this](bool on) {
                       PlaceList(parts_, on);
                       OrderTabs(on);
@@ -46,8 +46,7 @@ void LayoutTools::OrderTabs(bool inColumn) const {
     for (const QString& name : below) {
         order.append(window_->findChild<QWidget*>(name));
     }
-    Chain({parts_.views.back(), parts_.pictures->From(), parts_.pictures->To(),
-           window_->findChild<QWidget*>(QStringLiteral("CmdEmptyAdd")),
+    Chain({parts_.views.back(), window_->findChild<QWidget*>(QStringLiteral("CmdEmptyAdd")),
            window_->findChild<QWidget*>(QStringLiteral("CmdEmptySample"))});
     const ImageListPanel& list = *parts_.list;
     if (inColumn) {

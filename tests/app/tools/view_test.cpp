@@ -55,6 +55,7 @@ TEST(Views, AtRestThePicturesAreAsSharpAsTheFilesReduced) {
     TestWindow workspace;
     workspace.AddPhotos({QStringLiteral("photo.bmp")}, {2400, 1600});
     workspace.Click("CheckAntialiased");  // governs the draft alone
+    workspace.Entry("CmdViewFrame")->setChecked(false);
     for (const char* const view : {"CmdViewSplit", "CmdViewResult"}) {
         workspace.Entry(view)->trigger();
         for (const Projection projection : {Projection::Varnel, Projection::Rectilinear}) {

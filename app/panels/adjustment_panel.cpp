@@ -166,7 +166,7 @@ void AdjustmentPanel::Show(const ControlValues& values) {
     projections_->button(static_cast<int>(projection))->setChecked(true);
     ShowFor(projection);
     for (SliderRow* const row : rows_) {
-        if (const std::optional<int> value = ValueOf(row->Data().id, values)) {
+        if (const std::optional<double> value = ValueOf(row->Data().id, values)) {
             row->Show(*value);
         }
     }
@@ -174,7 +174,7 @@ void AdjustmentPanel::Show(const ControlValues& values) {
 
 void AdjustmentPanel::ShowFor(Projection projection) {
     for (SliderRow* const row : rows_) {
-        row->SetRange(RangeOf(row->Data().id, projection));
+        row->SetRange(RangeOf(row->Data().id, projection), ReachOf(row->Data().id, projection));
         row->SetShown(ShownWith(row->Data(), projection));
     }
     for (const auto& [group, first] : groups_) {

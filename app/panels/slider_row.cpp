@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QMouseEvent>
+#include <QSignalBlocker>
+#include <algorithm>
 
 #include "state/dialogs/wheel_guard.h"
 
@@ -25,7 +27,8 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
       data_(facts),
       valueLabel_(new QLabel(Translated(facts.startCaption), this)),
       slider_(new QSlider(Qt::Horizontal, this)),
-      spinBox_(new QSpinBox(this)) {
+      spinBox_(new DecimalBox(this)),
+      value_(facts.start) {
     const QString name = QString::fromLatin1(facts.slider);
     const QString tip = Translated(facts.tip);
     slider_->setObjectName(name);
@@ -70,27 +73,31 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
     grid->addWidget(slider_, 1, 0, 1, 2);
     grid->setColumnStretch(0, 1);
 
-    connect(slider_, &QSlider::valueChanged, this, &SliderRow::OnValue);
+    connect(slider_, &QSlider::valueChanged, this, &SliderRow::OnSlider);
     connect(slider_, &QSlider::sliderPressed, this, [this] { valueBeforeDrag_ = Value(); });
     connect(slider_, &QSlider::sliderReleased, this, &SliderRow::OnReleased);
-    connect(spinBox_, &QSpinBox::valueChanged, slider_, &QSlider::setValue);
+    connect(spinBox_, &QDoubleSpinBox::valueChanged, this, &SliderRow::OnTyped);
 }
 
-void SliderRow::Show(int value) {
+void SliderRow::Show(double value) {
     silent_ = true;
-    slider_->setValue(value);
-    OnValue(slider_->value());  // also when the slider had that value already: the caption is new
+    slider_->setValue(WholeNumber(value));
     silent_ = false;
+    value_ = value;
+    ShowText();
 }
 
-void SliderRow::SetRange(const ControlRange& range) {
+void SliderRow::SetRange(const ControlRange& range, const ControlRange& reach) {
+    const QSignalBlocker blocker(spinBox_);
+    spinBox_->setRange(reach.minimum, reach.maximum);
     if (slider_->minimum() == range.minimum && slider_->maximum() == range.maximum) {
         return;
     }
+    const double value = std::clamp<double>(value_, reach.minimum, reach.maximum);
     silent_ = true;
     slider_->setRange(range.minimum, range.maximum);
-    spinBox_->setRange(range.minimum, range.maximum);
     silent_ = false;
+    Show(value);
 }
 
 void SliderRow::SetShown(bool shown) {
@@ -100,15 +107,27 @@ void SliderRow::SetShown(bool shown) {
     setVisible(shown);
 }
 
-void SliderRow::OnValue(int value) {
-    valueLabel_->setText(SliderCaption(data_, value));
-    const bool wasBlocked = spinBox_->blockSignals(true);
-    spinBox_->setValue(value);
-    spinBox_->blockSignals(wasBlocked);
-    if (silent_) {
-        return;
+void SliderRow::OnSlider(int value) {
+    if (!silent_) {
+        value_ = value;
+        ShowText();
+        Report();
     }
-    Q_EMIT Moved(value);
+}
+
+void SliderRow::OnTyped(double value) {
+    Show(value);
+    Report();
+}
+
+void SliderRow::ShowText() {
+    valueLabel_->setText(SliderCaption(data_, value_));
+    const QSignalBlocker blocker(spinBox_);
+    spinBox_->setValue(value_);
+}
+
+void SliderRow::Report() {
+    Q_EMIT Moved(value_);
     if (slider_->isSliderDown()) {
         Q_EMIT Dragged();
     } else {

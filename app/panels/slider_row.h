@@ -1,14 +1,15 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A slider with its heading, its value label and a spin box for exact values. Throws nothing.
+// A slider with its heading, its value label and a spin box for exact values. The slider holds
+// whole numbers within its range; label and spin box show the value itself. Throws nothing.
 #pragma once
 
 #include <QLabel>
 #include <QSlider>
-#include <QSpinBox>
 #include <QWidget>
 
+#include "app/panels/decimal_box.h"
 #include "state/adjustments/slider_table.h"
 
 namespace varnel {
@@ -20,17 +21,17 @@ class SliderRow : public QWidget {
 
     const SliderRowData& Data() const { return data_; }
     QSlider* Slider() const { return slider_; }
-    int Value() const { return slider_->value(); }
+    double Value() const { return value_; }
     // Sets slider, spin box and caption without a signal.
-    void Show(int value);
-    // Quiet as Show; a value outside moves to the nearest end.
-    void SetRange(const ControlRange& range);
+    void Show(double value);
+    // Of the slider, and of what is typed. Quiet as Show: what is outside moves to the nearest end.
+    void SetRange(const ControlRange& range, const ControlRange& reach);
     // Shows or hides the row and each of its controls.
     void SetShown(bool shown);
 
   Q_SIGNALS:
     // By the user; comes before the signal that it is final or not.
-    void Moved(int value);
+    void Moved(double value);
     // While the thumb is dragged: nothing is final yet.
     void Dragged();
     // The value changed for good: thumb released, key, wheel, click, spin box or program.
@@ -42,15 +43,19 @@ class SliderRow : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void OnValue(int value);
+    void OnSlider(int value);
+    void OnTyped(double value);
+    void ShowText();
+    void Report();
     void OnReleased();
 
     const SliderRowData& data_;
     QLabel* heading_ = nullptr;
     QLabel* valueLabel_;
     QSlider* slider_;
-    QSpinBox* spinBox_;
-    int valueBeforeDrag_ = 0;
+    DecimalBox* spinBox_;
+    double value_ = 0.0;
+    double valueBeforeDrag_ = 0.0;
     bool silent_ = false;
 };
 

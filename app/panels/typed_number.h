@@ -4,12 +4,12 @@
 // What is still being typed into a number's field of a window counts. Throws nothing.
 #pragma once
 
-#include <QSpinBox>
+#include <QAbstractSpinBox>
 
 namespace varnel {
 
 inline void TakeTyped(const QWidget& window) {
-    if (auto* const number = qobject_cast<QSpinBox*>(window.focusWidget())) {
+    if (auto* const number = qobject_cast<QAbstractSpinBox*>(window.focusWidget())) {
         number->interpretText();
     }
 }

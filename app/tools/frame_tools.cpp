@@ -63,10 +63,7 @@ std::optional<ImageRecord> FrameTools::LiveRecord() const {
         return std::nullopt;
     }
     ImageRecord live = *image;
-    // Controls hold whole numbers; a record that they only show keeps its own.
-    if (!(workspace_.model.controls.Values() == ValuesFor(*image))) {
-        StoreControls(workspace_.model.controls.Values(), live);
-    }
+    workspace_.model.controls.StoreInto(live);
     return live;
 }
 
@@ -119,9 +116,10 @@ bool FrameTools::MayMove() const {
 
 void FrameTools::Try(const ControlValues& controls) {
     for (SliderRow* const row : parts_.adjustments->Rows()) {
-        const std::optional<int> value = ValueOf(row->Data().id, controls);
-        if (value && *value != row->Value()) {
-            workspace_.model.controls.Set(row->Data().id, *value);
+        const SliderId id = row->Data().id;
+        const std::optional<double> value = ValueOf(id, controls);
+        if (value && value != ValueOf(id, workspace_.model.controls.Values())) {
+            workspace_.model.controls.Set(id, *value);
             Q_EMIT row->Dragged();
         }
     }

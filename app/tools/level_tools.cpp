@@ -134,7 +134,7 @@ void LevelTools::Store(const Levelling& level) {
         ImageRecord& image = state_.Images(line + 1);
         // The others get their gear first, from the workspace.
         if (image.SettingsApplied || line == workspace_.model.list.CurrentLine()) {
-            StoreControls(workspace_.model.controls.Values(), image);
+            workspace_.model.controls.StoreInto(image);
         }
     }
     workspace_.model.steps.Note(StepKind::Level);

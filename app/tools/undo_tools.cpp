@@ -43,7 +43,7 @@ UndoTools::UndoTools(const WindowParts& parts, const WindowView& view, Workspace
     for (SliderRow* const row : parts.adjustments->Rows()) {
         connect(row->Slider(), &QSlider::sliderReleased, this,
                 [this] { workspace_.model.steps.Seal(); });
-        for (auto* const field : row->findChildren<QSpinBox*>()) {
+        for (auto* const field : row->findChildren<QAbstractSpinBox*>()) {
             field->installEventFilter(this);
         }
     }
@@ -71,7 +71,7 @@ bool UndoTools::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
         workspace_.model.steps.Seal();
     } else if (event->type() == QEvent::ShortcutOverride &&
-               qobject_cast<QSpinBox*>(watched) != nullptr) {
+               qobject_cast<QAbstractSpinBox*>(watched) != nullptr) {
         // A number's field would keep these keys for its own text, which has no steps to go back
         // to.
         const auto* const key = static_cast<QKeyEvent*>(event);

@@ -60,13 +60,13 @@ void WindowView::FollowControls() {
     connect(panel->Antialiased(), &QCheckBox::toggled, &controls, &ControlModel::SetAntialiased);
     for (SliderRow* const row : panel->Rows()) {
         connect(row, &SliderRow::Moved, this,
-                [&controls, row](int value) { controls.Set(row->Data().id, value); });
+                [&controls, row](double value) { controls.Set(row->Data().id, value); });
     }
     connect(&controls, &ControlModel::ProjectionChosen, panel, &AdjustmentPanel::ShowFor);
     connect(&controls, &ControlModel::Shown, this,
             [this, panel] { panel->Show(model_.controls.Values()); });
     connect(&controls, &ControlModel::SliderSet, this,
-            [panel](SliderId slider, int value) { panel->Row(slider)->Show(value); });
+            [panel](SliderId slider, double value) { panel->Row(slider)->Show(value); });
 }
 
 void WindowView::FollowGears() {

@@ -11,7 +11,6 @@ void AdjustmentCommands::StoreControls(bool withPreview) {
     if (model_.state.loadingControls || model_.activity.Saving()) {
         return;
     }
-    const ControlValues values = model_.controls.Values();
     const std::vector<int> lines = model_.list.SelectedLines();
     std::vector<ControlValues> before;
     for (const int line : lines) {
@@ -21,8 +20,9 @@ void AdjustmentCommands::StoreControls(bool withPreview) {
     }
     model_.steps.Absorb();
     for (const int line : lines) {
-        varnel::StoreControls(values, model_.list.OnLine(line));
+        model_.controls.StoreInto(model_.list.OnLine(line));
     }
+    model_.controls.NoteStored();
     model_.steps.NoteStored(lines, before);
     ports_.view.HandleEvents();
     if (withPreview) {
@@ -35,8 +35,8 @@ void AdjustmentCommands::ChooseProjection(Projection projection) {
     if (const ImageRecord* const image = model_.list.Current()) {
         ImageRecord shown = *image;
         shown.Projection = static_cast<std::int16_t>(projection);
-        if (const std::optional<int> effect = ValuesFor(shown).effect) {
-            model_.controls.Set(SliderId::Effect, *effect);
+        if (const std::optional<double> effect = ValuesFor(shown).effect) {
+            model_.controls.Fill(SliderId::Effect, *effect);
         }
     }
     StoreControls(true);

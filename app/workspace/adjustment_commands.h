@@ -20,7 +20,8 @@ class AdjustmentCommands {
           photo_(photo),
           preview_(preview) {}
 
-    // Stores the controls into the selected records, lets waiting events run once and previews.
+    // Stores the changed controls into the selected records, lets waiting events run once and
+    // previews.
     void StoreControls(bool withPreview);
     // The current photo's own effect comes with the projection.
     void ChooseProjection(Projection projection);

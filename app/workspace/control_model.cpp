@@ -11,24 +11,33 @@ ControlModel::ControlModel() {
     for (const SliderRowData& row : SliderRows()) {
         SetValueOf(row.id, row.start, values_);
     }
+    filled_ = values_;
 }
 
-void ControlModel::Take(SliderId slider, int value) {
-    const ControlRange range = RangeOf(slider, ChosenProjection());
-    SetValueOf(slider, std::clamp(value, range.minimum, range.maximum), values_);
+void ControlModel::Take(SliderId slider, double value) {
+    const ControlRange reach = ReachOf(slider, ChosenProjection());
+    const auto single = static_cast<float>(std::clamp<double>(value, reach.minimum, reach.maximum));
+    SetValueOf(slider, static_cast<double>(single), values_);
 }
 
 void ControlModel::Show(const ControlValues& values) {
     ChooseProjection(ProjectionFromIndex(values.projection));
     for (const SliderRowData& row : SliderRows()) {
-        if (const std::optional<int> value = ValueOf(row.id, values)) {
-            Take(row.id, *value);
+        if (const std::optional<double> value = ValueOf(row.id, values)) {
+            SetValueOf(row.id, *value, values_);
         }
     }
+    filled_ = values_;
     Q_EMIT Shown();
 }
 
-void ControlModel::Set(SliderId slider, int value) {
+void ControlModel::Fill(SliderId slider, double value) {
+    SetValueOf(slider, value, values_);
+    SetValueOf(slider, value, filled_);
+    Q_EMIT SliderSet(slider, value);
+}
+
+void ControlModel::Set(SliderId slider, double value) {
     Take(slider, value);
     Q_EMIT SliderSet(slider, *ValueOf(slider, values_));
 }
@@ -39,7 +48,10 @@ void ControlModel::ChooseProjection(Projection projection) {
     }
     values_.projection = static_cast<int>(projection);
     for (const SliderRowData& row : SliderRows()) {
-        Take(row.id, *ValueOf(row.id, values_));
+        const ControlUse* const use = UseOf(projection, row.id);
+        if (use != nullptr && use->range) {
+            Take(row.id, *ValueOf(row.id, values_));
+        }
     }
     Q_EMIT ProjectionChosen(projection);
 }

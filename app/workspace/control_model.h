@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The values of the adjustment controls: the projection, the sliders within its ranges and the
-// choices of the preview. The window's controls follow it and note here what the user does with
-// them. Throws nothing.
+// The values of the adjustment controls: the projection, the numbers of the sliders and the choices
+// of the preview. The window's controls follow it and note here what the user does with them. A
+// number that no one changed is the record's own, with its fraction and beyond the slider's ends.
+// Throws nothing.
 #pragma once
 
 #include <QObject>
@@ -26,8 +27,15 @@ class ControlModel : public QObject {
 
     // A record's values; without an effect among them its slider stays.
     void Show(const ControlValues& values);
-    void Set(SliderId slider, int value);
-    // Its ranges hold from then on.
+    // The same for one of them.
+    void Fill(SliderId slider, double value);
+    // By the user; within the control's reach, in single precision as a record has it.
+    void Set(SliderId slider, double value);
+    // Writes what was changed since the controls were filled.
+    void StoreInto(ImageRecord& image) const { StoreChanged(values_, filled_, image); }
+    // The controls show what is in the records.
+    void NoteStored() { filled_ = values_; }
+    // Its own ranges hold from then on.
     void ChooseProjection(Projection projection);
     void SetAutoPreview(bool on) { autoPreview_ = on; }
     void SetAntialiased(bool on) { antialiased_ = on; }
@@ -35,12 +43,13 @@ class ControlModel : public QObject {
   Q_SIGNALS:
     void Shown();
     void ProjectionChosen(varnel::Projection projection);
-    void SliderSet(varnel::SliderId slider, int value);
+    void SliderSet(varnel::SliderId slider, double value);
 
   private:
-    void Take(SliderId slider, int value);
+    void Take(SliderId slider, double value);
 
     ControlValues values_;
+    ControlValues filled_;  // what the controls showed before anything was changed
     bool autoPreview_ = true;
     bool antialiased_ = true;
 };

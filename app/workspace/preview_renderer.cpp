@@ -84,7 +84,7 @@ void PreviewRenderer::PreviewControls() {
         return;
     }
     ImageRecord trial = *model_.list.Current();
-    StoreControls(model_.controls.Values(), trial);
+    model_.controls.StoreInto(trial);
     Draw(trial);
 }
 

@@ -47,7 +47,7 @@ ContactTile Tile(const ImageRecord& image, Projection projection, int strength) 
     tile.title =
         ToText(projection) + QStringLiteral(" ") + SliderCaption(SliderRowOf(control), value);
     tile.isCurrent = image.Projection == adopted.Projection &&
-                     ValuesFor(image) == ValuesFor(adopted) &&
+                     Whole(ValuesFor(image)) == Whole(ValuesFor(adopted)) &&
                      image.EffectVarnel == adopted.EffectVarnel;
     return tile;
 }

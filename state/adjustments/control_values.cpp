@@ -4,6 +4,8 @@
 #include "state/adjustments/control_values.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <limits>
 
 #include "base/rounding.h"
@@ -21,47 +23,82 @@ std::optional<float ImageRecord::*> EffectField(Projection projection) {
     return use != nullptr && use->shown ? EffectReadBy(projection) : std::nullopt;
 }
 
-// Numbers beyond every slider's range are limited to the range of int; not-a-number becomes 0.
-int WholeNumber(float value) {
-    using Limits = std::numeric_limits<int>;
-    const double rounded = std::isnan(value) ? 0.0 : Round(static_cast<double>(value));
-    return static_cast<int>(std::clamp<double>(rounded, Limits::min(), Limits::max()));
+double NumberOf(float value) {
+    return std::isnan(value) ? 0.0 : static_cast<double>(value);
+}
+
+double EffectNumber(float value) {
+    return value == smallestEffect ? 0.0 : NumberOf(value);
+}
+
+// The controls that are always there, with the fields that they stand for.
+struct NumberField {
+    double ControlValues::*control;
+    float ImageRecord::*field;
+};
+constexpr std::array numberFields{
+    NumberField{&ControlValues::inputAov, &ImageRecord::InputAOV},
+    NumberField{&ControlValues::outputAov, &ImageRecord::OutputAOV},
+    NumberField{&ControlValues::rotateX, &ImageRecord::RotateX},
+    NumberField{&ControlValues::rotateY, &ImageRecord::RotateY},
+    NumberField{&ControlValues::rotateZ, &ImageRecord::RotateZ},
+    NumberField{&ControlValues::translateX, &ImageRecord::TranslateX},
+    NumberField{&ControlValues::translateY, &ImageRecord::TranslateY}};
+
+// What differs from the values that were there before; without them, all.
+void Store(const ControlValues& values, const ControlValues* before, ImageRecord& image) {
+    const Projection projection = ProjectionFromIndex(values.projection);
+    image.Projection = static_cast<std::int16_t>(projection);
+    for (const auto& [control, field] : numberFields) {
+        if (before == nullptr || values.*control != before->*control) {
+            image.*field = static_cast<float>(values.*control);
+        }
+    }
+    const auto effect = EffectField(projection);
+    if (effect && values.effect && (before == nullptr || values.effect != before->effect)) {
+        image.** effect = std::max(static_cast<float>(*values.effect), smallestEffect);
+    }
+    image.SettingsApplied = true;
 }
 
 }  // namespace
+
+int WholeNumber(double value) {
+    using Limits = std::numeric_limits<int>;
+    const double rounded = std::isnan(value) ? 0.0 : Round(value);
+    return static_cast<int>(std::clamp<double>(rounded, Limits::min(), Limits::max()));
+}
+
+ControlValues Whole(const ControlValues& values) {
+    ControlValues whole = values;
+    for (const NumberField& number : numberFields) {
+        whole.*number.control = WholeNumber(values.*number.control);
+    }
+    if (values.effect) {
+        whole.effect = WholeNumber(*values.effect);
+    }
+    return whole;
+}
 
 ControlValues ValuesFor(const ImageRecord& image) {
     const Projection projection = ProjectionFromIndex(image.Projection);
     ControlValues values;
     values.projection = static_cast<int>(projection);
-    values.inputAov = WholeNumber(image.InputAOV);
-    values.outputAov = WholeNumber(image.OutputAOV);
-    values.rotateX = WholeNumber(image.RotateX);
-    values.rotateY = WholeNumber(image.RotateY);
-    values.rotateZ = WholeNumber(image.RotateZ);
-    values.translateX = WholeNumber(image.TranslateX);
-    values.translateY = WholeNumber(image.TranslateY);
+    for (const auto& [control, field] : numberFields) {
+        values.*control = NumberOf(image.*field);
+    }
     if (const auto effect = EffectField(projection)) {
-        values.effect = WholeNumber(image.**effect);
+        values.effect = EffectNumber(image.**effect);
     }
     return values;
 }
 
 void StoreControls(const ControlValues& values, ImageRecord& image) {
-    const Projection projection = ProjectionFromIndex(values.projection);
-    image.Projection = static_cast<std::int16_t>(projection);
-    image.InputAOV = static_cast<float>(values.inputAov);
-    image.OutputAOV = static_cast<float>(values.outputAov);
-    image.RotateX = static_cast<float>(values.rotateX);
-    image.RotateY = static_cast<float>(values.rotateY);
-    image.RotateZ = static_cast<float>(values.rotateZ);
-    image.TranslateX = static_cast<float>(values.translateX);
-    image.TranslateY = static_cast<float>(values.translateY);
-    const auto effect = EffectField(projection);
-    if (effect && values.effect) {
-        image.** effect = std::max(static_cast<float>(*values.effect), smallestEffect);
-    }
-    image.SettingsApplied = true;
+    Store(values, nullptr, image);
+}
+
+void StoreChanged(const ControlValues& values, const ControlValues& filled, ImageRecord& image) {
+    Store(values, &filled, image);
 }
 
 }  // namespace varnel

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What the main window's controls show of a record, in whole numbers as sliders hold them. Throws
+// What the main window's controls show of a record. The numbers are the record's own, with their
+// fractions and beyond the sliders' ends; the sliders themselves hold whole numbers. Throws
 // nothing.
 #pragma once
 
@@ -12,24 +13,32 @@
 namespace varnel {
 
 struct ControlValues {
-    int projection = 0;         // index of the OptionRemap button
-    int inputAov = 0;           // degrees
-    int outputAov = 0;          // degrees
-    std::optional<int> effect;  // percent; empty for the projections without a slider for it
-    int rotateX = 0;            // degrees
-    int rotateY = 0;
-    int rotateZ = 0;
-    int translateX = 0;  // percent
-    int translateY = 0;
+    int projection = 0;            // index of the OptionRemap button
+    double inputAov = 0.0;         // degrees
+    double outputAov = 0.0;        // degrees
+    std::optional<double> effect;  // percent; empty for the projections without a slider for it
+    double rotateX = 0.0;          // degrees
+    double rotateY = 0.0;
+    double rotateZ = 0.0;
+    double translateX = 0.0;  // percent
+    double translateY = 0.0;
 
     bool operator==(const ControlValues&) const = default;
 };
 
-// Rounded to the nearest whole number, ties to even.
+// Not-a-number becomes 0, and so does the smallest effect, which stands for none.
 ControlValues ValuesFor(const ImageRecord& image);
+
+// Where a slider stands for a number: rounded to the nearest whole one, ties to even, within the
+// range of int.
+int WholeNumber(double value);
+ControlValues Whole(const ControlValues& values);
 
 // Writes the controls into the record and marks it as applied. The effect goes only to the chosen
 // projection's field, and never below 0.1.
 void StoreControls(const ControlValues& values, ImageRecord& image);
+// The same for the projection and for those controls alone whose value is another one than they
+// were filled with; what the others show stays in the record as it is.
+void StoreChanged(const ControlValues& values, const ControlValues& filled, ImageRecord& image);
 
 }  // namespace varnel

@@ -4,13 +4,18 @@
 #include "state/adjustments/slider_table.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <algorithm>
+#include <cmath>
 
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
 
 namespace {
+
+constexpr ControlRange fullTurn{-180, 180};  // degrees
+constexpr int narrowestOutput = 20;          // degrees
 
 constexpr std::array<SliderRowData, 8> rows{{
     {SliderId::AovInput, "SliderAOVinput", "LabelAOVinput", nullptr, nullptr,
@@ -70,6 +75,11 @@ QString Translated(const char* text) {
     return QCoreApplication::translate("Sliders", text);
 }
 
+QString NumberText(double tenths) {
+    return tenths == std::round(tenths) ? QString::number(tenths, 'f', 0)
+                                        : QLocale().toString(tenths, 'f', 1);
+}
+
 }  // namespace
 
 const std::array<SliderRowData, 8>& SliderRows() {
@@ -87,14 +97,15 @@ QString SpokenName(const SliderRowData& row) {
                                 : QStringLiteral("%1: %2").arg(Translated(row.group), heading);
 }
 
-QString SliderCaption(const SliderRowData& row, int value) {
-    if (value == 0 && row.zero != nullptr) {
+QString SliderCaption(const SliderRowData& row, double value) {
+    const double tenths = std::round(value * 10.0) / 10.0;
+    if (tenths == 0.0 && row.zero != nullptr) {
         return Translated(row.zero);
     }
-    if (value < 0 && row.negative != nullptr) {
-        return QString::number(-value) + Translated(row.negative);
+    if (tenths < 0.0 && row.negative != nullptr) {
+        return NumberText(-tenths) + Translated(row.negative);
     }
-    return QString::number(value) + Translated(row.positive);
+    return NumberText(tenths) + Translated(row.positive);
 }
 
 const SliderRowData& SliderRowOf(SliderId id) {
@@ -107,6 +118,23 @@ ControlRange RangeOf(SliderId id, Projection projection) {
     return use != nullptr && use->range ? *use->range : ControlRange{row.minimum, row.maximum};
 }
 
+ControlRange ReachOf(SliderId id, Projection projection) {
+    const ControlUse* const use = UseOf(projection, id);
+    if (use != nullptr && use->range) {
+        return *use->range;
+    }
+    switch (id) {
+        case SliderId::X:
+        case SliderId::Y:
+        case SliderId::Z:
+            return fullTurn;
+        case SliderId::AovOutput:
+            return {narrowestOutput, SliderRowOf(id).maximum};
+        default:
+            return RangeOf(id, projection);
+    }
+}
+
 bool ShownWith(const SliderRowData& row, Projection projection) {
     const ControlUse* const use = UseOf(projection, row.id);
     return row.shownFor == ShownFor::Always || (use != nullptr && use->shown);
@@ -116,7 +144,7 @@ bool Reads(Projection projection, SliderId id) {
     return UseOf(projection, id) != nullptr;
 }
 
-std::optional<int> ValueOf(SliderId id, const ControlValues& values) {
+std::optional<double> ValueOf(SliderId id, const ControlValues& values) {
     switch (id) {
         case SliderId::AovInput:
             return values.inputAov;
@@ -138,7 +166,7 @@ std::optional<int> ValueOf(SliderId id, const ControlValues& values) {
     return values.translateY;
 }
 
-void SetValueOf(SliderId id, int value, ControlValues& values) {
+void SetValueOf(SliderId id, double value, ControlValues& values) {
     switch (id) {
         case SliderId::AovInput:
             values.inputAov = value;

@@ -43,19 +43,21 @@ QString GroupName(SliderId id);
 // A name that no other slider has: the heading, after the group's name if there is one.
 QString SpokenName(const SliderRowData& row);
 
-// The value label's text while the slider stands at value.
-QString SliderCaption(const SliderRowData& row, int value);
+// The value label's text for a value; one that is not whole has one decimal.
+QString SliderCaption(const SliderRowData& row, double value);
 
 const SliderRowData& SliderRowOf(SliderId id);
 // The slider's range, or the projection's own where it has one.
 ControlRange RangeOf(SliderId id, Projection projection);
+// How far the control goes by keyboard and on the picture: at least as far as the slider.
+ControlRange ReachOf(SliderId id, Projection projection);
 bool ShownWith(const SliderRowData& row, Projection projection);
 // Whether the projection reads what the slider stands for. The main window shows the angle of the
 // lens always and the effect of Horizon never.
 bool Reads(Projection projection, SliderId id);
 
 // The slider's value among the control values; nothing for the effect when there is none.
-std::optional<int> ValueOf(SliderId id, const ControlValues& values);
-void SetValueOf(SliderId id, int value, ControlValues& values);
+std::optional<double> ValueOf(SliderId id, const ControlValues& values);
+void SetValueOf(SliderId id, double value, ControlValues& values);
 
 }  // namespace varnel

@@ -62,15 +62,15 @@ std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapp
     return places.ReadAt(places.Columns()[*column], places.Rows()[*row]);
 }
 
-int WidthNearest(const FrameSetting& setting, const FramePoint& handle,
+double WidthNearest(const FrameSetting& setting, const FramePoint& handle,
                  const SourcePosition& wanted) {
     const Projection projection = ProjectionFromIndex(setting.controls.projection);
     const auto slider = FrameSlider(projection);
     if (!slider) {
-        return 0;
+        return 0.0;
     }
     ControlValues controls = setting.controls;
-    int best = ValueOf(*slider, controls).value_or(0);
+    double best = ValueOf(*slider, controls).value_or(0.0);
     double least = Miss(setting, controls, handle, wanted);
     const ControlRange range = RangeOf(*slider, projection);
     for (int value = range.minimum; value <= range.maximum; ++value) {
@@ -90,13 +90,13 @@ ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& w
         return best;
     }
     const FramePoint middle;
-    const ControlRange tilt = RangeOf(SliderId::X, projection);
-    const ControlRange pan = RangeOf(SliderId::Y, projection);
+    const ControlRange tilt = ReachOf(SliderId::X, projection);
+    const ControlRange pan = ReachOf(SliderId::Y, projection);
     double least = Miss(setting, best, middle, wanted);
     const auto tried = [&](int down, int right) {
         ControlValues controls = best;
-        controls.rotateX = std::clamp(best.rotateX + down, tilt.minimum, tilt.maximum);
-        controls.rotateY = std::clamp(best.rotateY + right, pan.minimum, pan.maximum);
+        controls.rotateX = std::clamp<double>(best.rotateX + down, tilt.minimum, tilt.maximum);
+        controls.rotateY = std::clamp<double>(best.rotateY + right, pan.minimum, pan.maximum);
         const double miss = Miss(setting, controls, middle, wanted);
         const bool nearer = miss < least;
         if (nearer) {

@@ -22,7 +22,8 @@ float SliderAngle(float angle) {
     ImageRecord image;
     image.InputAOV = angle;
     const SliderRowData& row = SliderRowOf(SliderId::AovInput);
-    return static_cast<float>(std::clamp(ValuesFor(image).inputAov, row.minimum, row.maximum));
+    return static_cast<float>(
+        std::clamp(WholeNumber(ValuesFor(image).inputAov), row.minimum, row.maximum));
 }
 
 bool HasNumbersOf(const GearRecord& gear, const ImageRecord& image) {

@@ -124,18 +124,26 @@ TEST_F(WorkspaceTest, CurrentAndSelectedLinesMoveWithTheirPhotos) {
     EXPECT_TRUE(model.list.CurrentPath().isEmpty());
 }
 
-TEST(ControlModel, StaysWithinTheSlidersAndKeepsAnEffectThatIsNotShown) {
+TEST(ControlModel, HoldsARecordsOwnNumbersAndStoresOnlyWhatWasChanged) {
     ControlModel controls;
     EXPECT_EQ(controls.Values().outputAov, 70);
     ControlValues values = controls.Values();
     values.projection = static_cast<int>(Projection::Horizon);
-    values.rotateX = -500;
+    values.rotateX = -97.25;
     values.effect.reset();
     controls.Set(SliderId::Effect, 60);
     controls.Show(values);
     EXPECT_EQ(controls.Values().effect, 60);
-    EXPECT_EQ(controls.Values().rotateX, -40);
+    EXPECT_EQ(controls.Values().rotateX, -97.25);
     EXPECT_EQ(controls.ChosenProjection(), Projection::Horizon);
+    controls.Set(SliderId::Y, 500);
+    controls.Set(SliderId::Z, 0.25);
+    ImageRecord other;
+    other.RotateX = 3.5F;
+    controls.StoreInto(other);
+    EXPECT_EQ(other.RotateX, 3.5F);
+    EXPECT_EQ(other.RotateY, 180.0F);
+    EXPECT_EQ(other.RotateZ, 0.25F);
 }
 
 }  // namespace

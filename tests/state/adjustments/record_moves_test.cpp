@@ -155,7 +155,7 @@ TEST(ApplySettingsToAll, CopiesAllButSizeFileAndSuffixAndKeepsOffsetsUnturned) {
     EXPECT_EQ(images(2), source);
 }
 
-TEST(ValuesFor, RoundsToTheNearestWholeNumberTiesToEven) {
+TEST(ValuesFor, AreTheRecordsOwnAndRoundToWholeOnesTiesToEven) {
     ImageRecord image;
     image.InputAOV = 181.75F;
     image.OutputAOV = 130.5F;
@@ -167,9 +167,11 @@ TEST(ValuesFor, RoundsToTheNearestWholeNumberTiesToEven) {
     image.EffectVarnel = 0.1F;
     image.EffectRectilinear = 62.5F;
     using Limits = std::numeric_limits<int>;
-    EXPECT_EQ(ValuesFor(image), (ControlValues{0, 182, 130, 0, -2, 4, 0, Limits::max(), 0}));
+    EXPECT_EQ(Whole(ValuesFor(image)),
+              (ControlValues{0, 182, 130, 0, -2, 4, 0, double{Limits::max()}, 0}));
     image.Projection = 1;
-    EXPECT_EQ(ValuesFor(image).effect, 62);
+    EXPECT_EQ(ValuesFor(image).effect, 62.5);
+    EXPECT_EQ(Whole(ValuesFor(image)).effect, 62);
     for (const std::int16_t index : std::initializer_list<std::int16_t>{2, 3}) {
         image.Projection = index;
         EXPECT_EQ(ValuesFor(image).projection, index);
@@ -200,6 +202,21 @@ TEST(StoreControls, WritesEveryControlButOnlyTheChosenEffect) {
             row.changedProjection + std::string("SettingsApplied=True InputAOV=170 OutputAOV=90 ") +
                 row.changedEffect + "RotateX=-1 RotateY=2 RotateZ=-3 TranslateX=4 TranslateY=-5");
     }
+}
+
+TEST(StoreControls, LeavesNumbersThatWereNotChangedAsTheyAre) {
+    ImageRecord image = SomeImage(true);
+    image.Projection = 1;
+    image.InputAOV = 181.75F;
+    image.RotateX = 97.25F;
+    image.EffectRectilinear = 62.5F;
+    image.TranslateX = std::numeric_limits<float>::quiet_NaN();
+    const ControlValues filled = ValuesFor(image);
+    ControlValues values = filled;
+    values.rotateY = 7.0;
+    ImageRecord stored = image;
+    StoreChanged(values, filled, stored);
+    EXPECT_EQ(Changed(image, stored), "SettingsApplied=True RotateY=7");
 }
 
 }  // namespace

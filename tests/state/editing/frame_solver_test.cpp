@@ -61,23 +61,17 @@ TEST(WidthNearest, StaysWithinTheSlidersRange) {
     EXPECT_FALSE(FrameSlider(Projection::Horizon));
 }
 
-TEST(TurnedNearest, FindsTurnsAndEndsAtTheSlidersEnds) {
+TEST(TurnedNearest, FindsTurnsAlsoBeyondTheSliders) {
     ImageRecord record = RecordFor(Projection::Rectilinear);
     record.RotateZ = 25.0F;
     const FrameSetting setting{record, ValuesFor(record), photo};
-    for (const auto& [down, right] : {std::pair{-17, 29}, {40, -3}, {0, 0}}) {
+    for (const auto& [down, right] : {std::pair{-17, 29}, {40, -3}, {-10, 55}, {0, 0}}) {
         ControlValues wanted = setting.controls;
         wanted.rotateX = down;
         wanted.rotateY = right;
         EXPECT_EQ(TurnedNearest(setting, PlaceWith(record, wanted, {})), wanted)
             << down << ", " << right;
     }
-    record.RotateZ = 0.0F;
-    const FrameSetting level{record, ValuesFor(record), photo};
-    ControlValues wanted = level.controls;
-    wanted.rotateY = 40;
-    const SourcePosition end = PlaceWith(record, wanted, {});
-    EXPECT_EQ(TurnedNearest(level, {end.x + 15.0, end.y}), wanted);
     // The other projections cannot turn.
     const ImageRecord flat = RecordFor(Projection::Varnel);
     EXPECT_EQ(TurnedNearest({flat, ValuesFor(flat), photo}, {10.0, 10.0}), ValuesFor(flat));

@@ -324,7 +324,7 @@ TEST(History, PhotosAreUnsavedWhoseAdjustmentsAreInNoFile) {
 
 TEST(StepBetween, NamesTheSliderThatMoved) {
     const struct {
-        int ControlValues::*value;
+        double ControlValues::*value;
         const char* name;
     } rows[] = {{&ControlValues::rotateX, "rotate up/down"},
                 {&ControlValues::rotateY, "rotate left/right"},
@@ -332,19 +332,19 @@ TEST(StepBetween, NamesTheSliderThatMoved) {
                 {&ControlValues::translateX, "transpose left/right"},
                 {&ControlValues::translateY, "transpose up/down"},
                 {&ControlValues::inputAov, "input hAOV"},
-                {&ControlValues::outputAov, "output AOV"},
-                {&ControlValues::projection, "projection"}};
+                {&ControlValues::outputAov, "output AOV"}};
     const ControlValues before;
     ControlValues all;
     for (const auto& row : rows) {
         ControlValues after;
         after.*row.value = all.*row.value = 1;
         EXPECT_EQ(StepBetween(before, after).name, Text(row.name));
-        EXPECT_EQ(StepBetween(before, after).slider.has_value(),
-                  row.value != &ControlValues::projection);
+        EXPECT_TRUE(StepBetween(before, after).slider.has_value());
     }
-    all.projection = 0;
     EXPECT_EQ(StepBetween(before, all).name, Text("adjustments"));
+    all.projection = 1;
+    EXPECT_EQ(StepBetween(before, all).name, Text("projection"));
+    EXPECT_FALSE(StepBetween(before, all).slider.has_value());
 }
 
 TEST(ListOrder, ChosenLinesMoveTogether) {

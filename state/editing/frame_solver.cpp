@@ -63,7 +63,7 @@ std::optional<SourcePosition> PlaceOf(const FramePoint& point, const InverseMapp
 }
 
 double WidthNearest(const FrameSetting& setting, const FramePoint& handle,
-                 const SourcePosition& wanted) {
+                    const SourcePosition& wanted) {
     const Projection projection = ProjectionFromIndex(setting.controls.projection);
     const auto slider = FrameSlider(projection);
     if (!slider) {

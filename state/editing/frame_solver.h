@@ -35,7 +35,7 @@ struct FrameSetting {
 // A whole number within the slider's range; the value at hand when no other is nearer or the
 // projection has no such slider.
 double WidthNearest(const FrameSetting& setting, const FramePoint& handle,
-                 const SourcePosition& wanted);
+                    const SourcePosition& wanted);
 // The controls with the turns that bring the middle of the frame nearest to the wanted position.
 // Throws nothing: numbers without a conversion are passed over, as in WidthNearest.
 ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& wanted);

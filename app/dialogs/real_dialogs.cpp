@@ -4,11 +4,14 @@
 #include "app/dialogs/real_dialogs.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QUrl>
 
 #include "app/dialogs/form_about.h"
 #include "app/dialogs/message_boxes.h"
@@ -152,6 +155,10 @@ std::optional<MeasuredLensUse> RealDialogs::Straighten(std::optional<PhotoToMeas
         std::move(photo), parent);
     form.exec();
     return form.Use();
+}
+
+void RealDialogs::ShowInFolder(const QString& file) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(file).absolutePath()));
 }
 
 void RealDialogs::ShowAbout(QWidget* parent) {

@@ -244,8 +244,12 @@ void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
 
 OverlayInput PictureBox::InputAt(const QSinglePointEvent& event) const {
     const QTransform toPicture = ToWidget().inverted();
-    return {toPicture.map(event.position()), hitReach * toPicture.m11(), event.buttons(),
-            event.modifiers()};
+    return {toPicture.map(event.position()),
+            hitReach * toPicture.m11(),
+            event.buttons(),
+            event.modifiers(),
+            toPicture.m11(),
+            event.type() == QEvent::MouseButtonDblClick};
 }
 
 void PictureBox::ShowCursorFor(const OverlayInput& input) {

@@ -56,6 +56,7 @@ class PictureBox : public QWidget {
     void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full);
     // Shows the other box's picture instead, if any.
     void StandIn(const PictureBox* other);
+    bool StoodInFor() const { return standIn_ != nullptr; }
     // In device pixels, as a zoom has it.
     QSize View() const;
     QPointF ViewPoint(QPointF point) const;  // from a point of this widget

@@ -20,6 +20,8 @@ struct OverlayInput {
     double reach = 0.0;  // picture pixels that still count as a hit
     Qt::MouseButtons buttons;
     Qt::KeyboardModifiers modifiers;
+    double pixel = 0.0;    // picture pixels to a point of the screen
+    bool doubled = false;  // the second press of a double-click
 };
 
 struct OverlayKey {

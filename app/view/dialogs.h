@@ -82,6 +82,8 @@ class Dialogs {
     // photo of the list is to have a lens.
     virtual std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
                                                       QWidget* parent) = 0;
+    // Shows the file among the others of its folder, in the system's file manager.
+    virtual void ShowInFolder(const QString& file) = 0;
     virtual void ShowAbout(QWidget* parent) = 0;
     virtual SaveFirst AskToSave(const UnsavedWork& work) = 0;
     virtual Restore AskToRestore(const LostList& list) = 0;

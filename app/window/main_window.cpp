@@ -31,6 +31,9 @@
 #include "app/tools/picture_keys.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
+#include "app/tools/steer/picture_menus.h"
+#include "app/tools/steer/steer_tools.h"
+#include "app/tools/steer/walk_tools.h"
 #include "app/tools/undo_tools.h"
 #include "app/tools/view/picture_size_tools.h"
 #include "app/tools/view/view_tools.h"
@@ -77,6 +80,8 @@ void MDIForm1::MakeTools() {
     sessions_ = new SessionTools(*projects_, workspace_, state_, ports_, this);
     views_ = new ViewTools(this, parts_, store_);
     new ZoomTools(this, parts_, view_, workspace_, state_);
+    new SteerTools(parts_, view_, workspace_, this);
+    new WalkTools(parts_, view_, this);
     parts_.viewMenu->addSeparator();
     new SheetTools(parts_, view_, workspace_, state_, this);
     new FrameTools(parts_, view_, workspace_, state_, this);
@@ -84,6 +89,7 @@ void MDIForm1::MakeTools() {
     new StraightenTools(this, view_, workspace_, state_, ports_);
     new CircleTools(this, parts_, view_, workspace_, state_, store_);
     new PictureKeys(this, parts_);
+    new PictureMenus(this, parts_, view_, model_.list, ports_.dialogs);
     new EmptyState(this, parts_);
     new SampleTools(this, parts_, view_, workspace_, state_);
     new GuideTools(this, ports_.notices, state_.settings.Language);

@@ -30,6 +30,18 @@ void AdjustmentCommands::StoreControls(bool withPreview) {
     }
 }
 
+void AdjustmentCommands::StoreSteered(StepKind kind, const StepKey& key) {
+    ImageRecord* const image = model_.list.Current();
+    if (image == nullptr || model_.state.loadingControls || model_.activity.Saving()) {
+        return;
+    }
+    preparation_.Prepare(*image);
+    model_.steps.Absorb();
+    model_.controls.StoreInto(*image);
+    model_.controls.NoteStored();
+    model_.steps.Note(kind, {}, key);
+}
+
 void AdjustmentCommands::ChooseProjection(Projection projection) {
     model_.controls.ChooseProjection(projection);
     if (const ImageRecord* const image = model_.list.Current()) {

@@ -23,6 +23,9 @@ class AdjustmentCommands {
     // Stores the changed controls into the selected records, lets waiting events run once and
     // previews.
     void StoreControls(bool withPreview);
+    // Stores the changed controls into the current record alone, as a step of that kind, and draws
+    // nothing. Steps of one key become one step.
+    void StoreSteered(StepKind kind, const StepKey& key);
     // The current photo's own effect comes with the projection.
     void ChooseProjection(Projection projection);
     // Previews even if automatic preview is off, after storing the controls.

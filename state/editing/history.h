@@ -31,6 +31,8 @@ using StepKey = std::vector<int>;
 inline constexpr int circleKey = static_cast<int>(SliderId::AovInput) + 1;  // no slider's
 // The gears of photos that were added together: this and the number of the addition.
 inline constexpr int photoGearKey = circleKey + 1;
+// A burst of turns of the wheel or of keys on the result: this, the kind of the step and the line.
+inline constexpr int steerKey = photoGearKey + 1;
 
 // What a step did besides changing lines.
 struct StepBesides {

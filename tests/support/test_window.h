@@ -100,6 +100,7 @@ class FakeDialogs : public Dialogs {
         opened.append(QStringLiteral("FormStraighten"));
         return onStraighten ? onStraighten(std::move(photo)) : std::nullopt;
     }
+    void ShowInFolder(const QString& file) override { shownInFolder.append(file); }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
     SaveFirst AskToSave(const UnsavedWork& work) override {
         opened.append(QStringLiteral("AskToSave ") + work.project);
@@ -113,6 +114,7 @@ class FakeDialogs : public Dialogs {
     QString ChooseProject(const QString& /*folder*/) override { return project; }
     QString ChooseProjectName(const QString& /*proposal*/) override { return project; }
     QStringList opened;
+    QStringList shownInFolder;
     SaveFirst saveFirst = SaveFirst::Cancel;
     QString project;  // the path that is chosen
     std::function<bool()> onAdd;

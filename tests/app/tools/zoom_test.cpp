@@ -56,8 +56,8 @@ TEST(Zoom, AtActualSizeBothShowTheFullSizePixels) {
     QTest::keyRelease(workspace.Find("OptionRemap_1"), Qt::Key_B);
     EXPECT_EQ(SeenIn(workspace, "PicSmallTo", photo).box, to.box);
 
-    const QPoint middle = workspace.Find("PicSmallTo")->rect().center();
-    QTest::mouseDClick(workspace.Find("PicSmallTo"), Qt::LeftButton, {}, middle);
+    const QPoint middle = workspace.Find("PicSmallFrom")->rect().center();
+    QTest::mouseDClick(workspace.Find("PicSmallFrom"), Qt::LeftButton, {}, middle);
     EXPECT_TRUE(workspace.Find<PictureBox>("PicSmallTo")->IsWhole());
 }
 

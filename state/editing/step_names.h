@@ -30,7 +30,7 @@ enum class StepKind {
     Straighten,
     Reset,  // a photo to what its gear gives
     ContactSheet,
-    Turn,         // the camera, by hand on the result
+    Turn,  // the camera, by hand on the result
     Roll,
     AngleOfView,
     Centre,  // a point of the result

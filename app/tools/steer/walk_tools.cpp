@@ -14,7 +14,7 @@ WalkTools::WalkTools(const WindowParts& parts, const WindowView& view, QObject* 
     parts.viewMenu->addSeparator();
     QAction* const before = AddMenuEntry(parts.viewMenu, "CmdViewPrevious", tr("Pre&vious photo"),
                                          {QKeySequence(Qt::Key_PageUp)});
-    QAction* const next = AddMenuEntry(parts.viewMenu, "CmdViewNext", tr("Ne&xt photo"),
+    QAction* const next = AddMenuEntry(parts.viewMenu, "CmdViewNext", tr("N&ext photo"),
                                        {QKeySequence(Qt::Key_PageDown)});
     connect(before, &QAction::triggered, this, [this] { Walk(-1); });
     connect(next, &QAction::triggered, this, [this] { Walk(1); });

@@ -18,6 +18,10 @@ DecimalBox::DecimalBox(QWidget* parent) : QDoubleSpinBox(parent) {
     setGroupSeparatorShown(false);
 }
 
+QSize DecimalBox::Widened(QSize size) const {
+    return {size.width() + fontMetrics().horizontalAdvance(QStringLiteral(".8")), size.height()};
+}
+
 QString DecimalBox::textFromValue(double value) const {
     QLocale plain = locale();
     plain.setNumberOptions(QLocale::OmitGroupSeparator);

@@ -14,10 +14,17 @@ class DecimalBox : public QDoubleSpinBox {
   public:
     explicit DecimalBox(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override { return Widened(QDoubleSpinBox::sizeHint()); }
+    QSize minimumSizeHint() const override { return Widened(QDoubleSpinBox::minimumSizeHint()); }
+
   protected:
     QString textFromValue(double value) const override;
     double valueFromText(const QString& text) const override;
     QValidator::State validate(QString& text, int& position) const override;
+
+  private:
+    // The ends of the range are whole, what is between them may not be.
+    QSize Widened(QSize size) const;
 };
 
 }  // namespace varnel

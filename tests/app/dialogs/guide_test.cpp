@@ -124,7 +124,8 @@ QStringList RealKeys(const QWidget& window) {
 
 // Those of one cell after the other: "Ctrl+O, Del", "Ctrl+1 to Ctrl+4". Others are no shortcuts.
 QStringList ToldKeys(const QStringList& cells) {
-    static const QRegularExpression isKey(Q(R"(^((Ctrl|Alt|Shift)\+)+\S$|^F\d+$|^Del$)"));
+    static const QRegularExpression isKey(
+        Q(R"(^((Ctrl|Alt|Shift)\+)+\S$|^F\d+$|^Del$|^PgUp$|^PgDown$)"));
     static const QRegularExpression range(Q(R"(^(.*)(\d) to .*(\d)$)"));
     QStringList keys;
     for (const QString& cell : cells) {

@@ -108,7 +108,7 @@ TEST_F(FrameOnPhoto, NumbersFollowTheControls) {
     EXPECT_TRUE(numbers->isVisible());
     const QString before = numbers->text();
     EXPECT_TRUE(before.contains(QStringLiteral("300 x 200 pixels"))) << before.toStdString();
-    workspace.Press("SliderAOVoutput", Qt::Key_PageUp);
+    workspace.Press("SliderAOVoutput", Qt::Key_Right);
     QApplication::processEvents();
     EXPECT_NE(numbers->text(), before);
 }

@@ -12,7 +12,7 @@
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/morph_sequence.h"
-#include "pipeline/conversion/output_name.h"
+#include "pipeline/output/output_name.h"
 #include "remap/analysis/photo_circle.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"

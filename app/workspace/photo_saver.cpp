@@ -9,7 +9,7 @@
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "base/run_time_error.h"
-#include "pipeline/conversion/output_name.h"
+#include "pipeline/output/output_name.h"
 #include "remap/encode/output_type.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/image/photo_metadata.h"

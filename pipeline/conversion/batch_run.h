@@ -10,7 +10,7 @@
 #include "base/record_array.h"
 #include "pipeline/conversion/batch_summary.h"
 #include "pipeline/conversion/conversion_run.h"
-#include "pipeline/conversion/output_name.h"
+#include "pipeline/output/output_name.h"
 
 namespace varnel {
 

@@ -13,7 +13,7 @@
 
 #include "app/dialogs/message_boxes.h"
 #include "app/dialogs/real_dialogs.h"
-#include "pipeline/conversion/output_name.h"
+#include "pipeline/output/output_name.h"
 #include "pipeline/photos/project_file.h"
 #include "tests/support/answers.h"
 #include "tests/support/files.h"

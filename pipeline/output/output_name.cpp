@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "pipeline/conversion/output_name.h"
+#include "pipeline/output/output_name.h"
 
 #include "base/rounding.h"
 #include "remap/projection/projection_info.h"

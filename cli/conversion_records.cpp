@@ -189,18 +189,21 @@ OutputType TypeFor(const ConvertRequest& request) {
                               .value_or(OutputTypeFromText(request.settings.FileType));
 }
 
-QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record) {
+QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record,
+                  const NameFacts& facts) {
     const Options& options = request.options;
     if (!options.output.isEmpty()) {
         return options.output;
     }
     const OutputType type = TypeFor(request);
     const PhotoEnding ending = options.keepEnding ? PhotoEnding::Kept : PhotoEnding::Cut;
+    const bool named = !options.namePattern.isEmpty();
+    const NameRules rules{named ? options.namePattern : QString(usualPattern), {}, ending};
     if (!options.outputDir.isEmpty()) {
-        return BatchName(record, options.outputDir, {}, type, ending);
+        return PathByPattern(record, options.outputDir, rules, type, facts);
     }
-    if (options.morph) {  // only their batch names distinguish the frames
-        return QDir::cleanPath(BatchName(record, QFileInfo(path).path(), {}, type, ending));
+    if (options.morph || named) {  // only their batch names distinguish the frames
+        return QDir::cleanPath(PathByPattern(record, QFileInfo(path).path(), rules, type, facts));
     }
     return ProposedName(path, ToText(ProjectionFromIndex(record.Projection)), ending) +
            ExtensionOf(type);

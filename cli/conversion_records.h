@@ -10,6 +10,7 @@
 
 #include "cli/choose_gear.h"
 #include "cli/options/options.h"
+#include "pipeline/output/name_pattern.h"
 #include "pipeline/photos/photo_loader.h"
 #include "remap/analysis/straighten/stop_check.h"
 #include "state/adjustments/frame_reading.h"
@@ -48,6 +49,7 @@ OutputType TypeFor(const ConvertRequest& request);
 
 // Where a conversion goes; the path is the photo's. Throws RunTimeError when a number of the record
 // cannot stand in a name.
-QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record);
+QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record,
+                  const NameFacts& facts = {});
 
 }  // namespace varnel

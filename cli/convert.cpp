@@ -12,6 +12,7 @@
 #include "cli/measure_command.h"
 #include "cli/options/help_text.h"
 #include "cli/own_lenses.h"
+#include "cli/take_preset.h"
 
 namespace varnel {
 
@@ -33,6 +34,10 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const QString missing = MissingFolder(options); !missing.isEmpty()) {
         return Refuse(console, missing);
     }
+    GeneralSettings settings = LoadSettings(store);
+    if (const QString error = TakePreset(store, options, settings); !error.isEmpty()) {
+        return Refuse(console, error);
+    }
     const auto notes = TakeLike(options);
     if (const auto* error = std::get_if<QString>(&notes)) {
         return Refuse(console, *error);
@@ -48,7 +53,7 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const auto* error = std::get_if<QString>(&gears)) {
         return Refuse(console, *error);
     }
-    return ConvertPhotos(options, std::get<GearChoice>(gears), LoadSettings(store), console);
+    return ConvertPhotos(options, std::get<GearChoice>(gears), settings, console);
 }
 
 int Run(const QStringList& arguments, SettingsStore& store, const Console& console) {
@@ -67,6 +72,7 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
         case Command::ListCameras:
         case Command::ListLenses:
         case Command::ListGears:
+        case Command::ListPresets:
         case Command::ImportLens:
         case Command::ExportLens:
             break;

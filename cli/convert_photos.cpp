@@ -16,7 +16,7 @@
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"
 #include "pipeline/conversion/conversion_run.h"
-#include "remap/image/photo_metadata.h"
+#include "remap/image/photo_date.h"
 
 namespace varnel {
 
@@ -94,8 +94,11 @@ class CommandRun : public ConversionObserver {
                 .records = [this](qsizetype photo,
                                   const LoadedPicture& picture) { return Records(photo, picture); },
                 .target =
-                    [this](const QString& photo, const ImageRecord& record) {
-                        return TargetFor(request_, photo, record);
+                    [this](const Conversion& conversion) {
+                        return TargetFor(
+                            request_, files_[conversion.photo], conversion.record,
+                            {ResultNumber(numbers_[conversion.photo], conversion.index), Results(),
+                             days_.value(conversion.photo)});
                     },
                 .output = {{TypeFor(request_), options.quality.value_or(settings_.JPEGcompression),
                             options.chroma444.value_or(settings_.JPEGchroma444)},
@@ -125,18 +128,28 @@ class CommandRun : public ConversionObserver {
         return ports;
     }
 
+    // Of all results of the command, those that exist already included.
+    int Results() const {
+        return static_cast<int>(request_.options.files.size() * RecordsOfEach(request_.options));
+    }
+
+    int ResultNumber(qsizetype file, qsizetype index) const {
+        return static_cast<int>(file * RecordsOfEach(request_.options) + index) + 1;
+    }
+
     // Without those of which every result exists already, if the options say so.
     QStringList FilesToDo() {
-        if (!request_.options.skipExisting) {
-            return request_.options.files;
-        }
         QStringList files;
         PhotoLoader photos(*reader_, &wait_, &settings_);
-        for (const QString& file : request_.options.files) {
-            const auto results = StopAsked() ? std::vector<FileReport>()
-                                             : ExistingResults(request_, targets_, photos, file);
+        for (qsizetype n = 0; n < request_.options.files.size(); ++n) {
+            const QString& file = request_.options.files[n];
+            const bool asks = request_.options.skipExisting && !StopAsked();
+            const auto results = asks ? ExistingResults(request_, targets_, photos,
+                                                        {file, ResultNumber(n, 0), Results()})
+                                      : std::vector<FileReport>();
             if (results.empty()) {
                 files.append(file);
+                numbers_.append(n);
             }
             auto& skipped = skipped_[files.size()];
             skipped.insert(skipped.end(), results.begin(), results.end());
@@ -145,6 +158,9 @@ class CommandRun : public ConversionObserver {
     }
 
     ConversionRecords Records(qsizetype photo, const LoadedPicture& picture) {
+        if (NamesDay(request_.options.namePattern)) {
+            days_.insert(photo, PhotoDate(picture.bitmap->metadata.photo, files_[photo]));
+        }
         const GearChoice& gears = request_.gears;
         const auto gear =
             GearFor(gears, gears.forAll ? CameraInfo() : picture.bitmap->metadata.photo.origin);
@@ -258,6 +274,8 @@ class CommandRun : public ConversionObserver {
     std::optional<PrefetchingReader> feed_;
     ConversionTargets targets_;
     QStringList files_;
+    QList<qsizetype> numbers_;      // of these files among those of the command
+    QHash<qsizetype, QDate> days_;  // on which they were taken
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number
     QHash<qsizetype, Started> started_;                     // by the photo's number
     qsizetype written_ = 0;

@@ -7,6 +7,7 @@
 
 #include "base/run_time_error.h"
 #include "cli/report/failure_text.h"
+#include "remap/image/photo_date.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -19,14 +20,21 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record) {
 }
 
 std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
-                                        PhotoLoader& photos, const QString& file) {
-    const bool nameHasGear = !request.options.outputDir.isEmpty() || request.options.morph;
+                                        PhotoLoader& photos, const FileOfCommand& what) {
+    const QString& file = what.path;
+    const Options& options = request.options;
+    const bool nameHasGear =
+        !options.outputDir.isEmpty() || options.morph || !options.namePattern.isEmpty();
     if (!request.gears.forAll && nameHasGear) {
         return {};  // only the photo itself decides what its results are called
     }
     const std::optional<PhotoSize> size = photos.Size(file);
     if (!size) {
         return {};  // its error is reported in its turn
+    }
+    NameFacts facts{what.firstResult, what.results, {}};
+    if (NamesDay(options.namePattern)) {
+        facts.day = PhotoDate(photos.Facts(file).metadata, file);
     }
     std::vector<FileReport> results;
     try {
@@ -35,7 +43,8 @@ std::vector<FileReport> ExistingResults(const ConvertRequest& request, Conversio
                 .record;
         for (const ImageRecord& record : RecordsFor(request, start)) {
             results.push_back(ReportOf(file, record));
-            results.back().result = TargetFor(request, file, record);
+            results.back().result = TargetFor(request, file, record, facts);
+            ++facts.number;
             if (!QFileInfo::exists(results.back().result)) {
                 return {};
             }
@@ -45,7 +54,7 @@ std::vector<FileReport> ExistingResults(const ConvertRequest& request, Conversio
     }
     for (FileReport& result : results) {
         const TargetRefusal taken = targets.Take(file, result.result);
-        result.reason = RefusalText(request.options, file, taken);
+        result.reason = RefusalText(options, file, taken);
         result.status = taken ? FileStatus::Failed : FileStatus::Skipped;
     }
     return results;

@@ -18,7 +18,12 @@ FileReport ReportOf(const QString& photo, const ImageRecord& record);
 // All of the photo's results, if under every one's name a file exists already: as skipped ones, or
 // as failed ones where the name is that of an earlier photo's result. Else none. The photo is not
 // decoded, only its size is looked up. Their names are taken.
+struct FileOfCommand {
+    QString path;
+    int firstResult = 1;  // the number of its first result among those of the command
+    int results = 1;      // of the command
+};
 std::vector<FileReport> ExistingResults(const ConvertRequest& request, ConversionTargets& targets,
-                                        PhotoLoader& photos, const QString& file);
+                                        PhotoLoader& photos, const FileOfCommand& file);
 
 }  // namespace varnel

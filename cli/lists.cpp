@@ -11,6 +11,7 @@
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
 #include "gear/lens/import/lensfun_data.h"
+#include "state/adjustments/presets.h"
 
 namespace varnel {
 
@@ -76,6 +77,14 @@ std::variant<QStringList, QString> GearList(SettingsStore& store, bool json) {
     return lines;
 }
 
+QStringList PresetList(const SettingsStore& store, bool json) {
+    QStringList lines = NamesOf(AllPresets(store));
+    for (QString& line : lines) {
+        line = json ? QString::fromUtf8(JsonLine({{u"preset", line}})) : line;
+    }
+    return lines;
+}
+
 }  // namespace
 
 std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore& store) {
@@ -86,6 +95,8 @@ std::variant<QStringList, QString> ListFor(const Options& options, SettingsStore
             return CatalogueList(options, LensBrands(options, store), [&](const QString& brand) {
                 return IsCurveBrand(brand) ? CurveModels(store, brand) : FillLensModels(brand);
             });
+        case Command::ListPresets:
+            return PresetList(store, options.json);
         default:
             return GearList(store, options.json);
     }

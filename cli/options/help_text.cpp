@@ -16,7 +16,7 @@ constexpr char16_t head[] =
     uR"(Usage: varnel-convert [OPTIONS] PHOTO...
        varnel-convert --like PICTURE [OPTIONS] [PHOTO...]
        varnel-convert --measure-lens FILE [--focal MM] PHOTO...
-       varnel-convert --list-gears
+       varnel-convert --list-gears | --list-presets
        varnel-convert --import-lens FILE
        varnel-convert --export-lens FILE --lens BRAND/MODEL
        varnel-convert --list-cameras [BRAND]

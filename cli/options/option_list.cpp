@@ -46,7 +46,10 @@ constexpr std::array gearRows{
 };
 
 constexpr std::array viewRows{
+    OptionRow{u"preset", u"NAME",
+              u"A preset, built in or your own (real estate, group photo ...); other options win."},
     OptionRow{u"projection", u"NAME", u"%1 or all; default: varnel."},
+    OptionRow{u"list-presets", nullptr, u"List the presets."},
     OptionRow{u"output-aov", u"D", u"Angle of view of the output, degrees (rectilinear)."},
     OptionRow{u"input-aov", u"D", u"Angle of view of the lens, degrees (equidistance)."},
     OptionRow{u"effect", u"P", u"Strength of the projection, percent (0.1 to 100)."},
@@ -69,6 +72,8 @@ constexpr std::array outputRows{
     OptionRow{u"output", u"FILE", u"The file to write, for one photo and one projection."},
     OptionRow{u"output-dir", u"DIR",
               u"The folder to write to, under names that tell the settings."},
+    OptionRow{u"name", u"PATTERN",
+              u"Names of the results of {name} {ending} {projection} {tags} {suffix} {n} {date}."},
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
     OptionRow{u"type", u"TYPE",

@@ -8,6 +8,7 @@
 #include "cli/options/nearest.h"
 #include "cli/options/option_list.h"
 #include "pipeline/conversion/morph_sequence.h"
+#include "pipeline/output/name_pattern.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/record_fields.h"
 
@@ -99,6 +100,13 @@ double FocalLengthOf(const QString& text) {
                 .arg(text)};
     }
     return focal;
+}
+
+QString PatternOf(const QString& text) {
+    if (const QString error = PatternError(text); !error.isEmpty()) {
+        throw UsageError{QStringLiteral("--name: ") + error};
+    }
+    return text;
 }
 
 PixelSize PreviewBoxOf(const QString& text) {

@@ -24,6 +24,8 @@ CatalogueName CatalogueNameOf(const QString& option, const QString& text);
 std::pair<CircleUse, ImageCircle> CircleOfOption(const QString& text);
 // Millimetres.
 double FocalLengthOf(const QString& text);
+// A pattern of names, as PatternError has them.
+QString PatternOf(const QString& text);
 PixelSize PreviewBoxOf(const QString& text);
 OutputType TypeOf(const QString& text);
 // Numbers have a decimal point whatever the locale.

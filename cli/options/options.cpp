@@ -81,6 +81,7 @@ Command CommandOf(const QCommandLineParser& parser) {
         std::pair{u"list-cameras", Command::ListCameras},
         std::pair{u"list-lenses", Command::ListLenses},
         std::pair{u"list-gears", Command::ListGears},
+        std::pair{u"list-presets", Command::ListPresets},
         std::pair{u"import-lens", Command::ImportLens},
         std::pair{u"export-lens", Command::ExportLens},
         std::pair{u"measure-lens", Command::MeasureLens},
@@ -131,6 +132,7 @@ Options Take(const QCommandLineParser& parser) {
     }
     TakeIfSet(parser, u"projection", options.projections, &ProjectionsOf);
     options.projectionGiven = parser.isSet(QStringLiteral("projection"));
+    options.preset = parser.value(QStringLiteral("preset"));
     options.like = FileNameOf(QStringLiteral("like"), parser.value(QStringLiteral("like")));
     options.gear = parser.value(QStringLiteral("gear"));
     options.lensFile =
@@ -160,6 +162,7 @@ Options Take(const QCommandLineParser& parser) {
     options.output = FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("output")));
     options.outputDir = parser.value(QStringLiteral("output-dir"));
     options.keepEnding = parser.isSet(QStringLiteral("keep-ending"));
+    TakeIfSet(parser, u"name", options.namePattern, &PatternOf);
     TakeIfSet(parser, u"type", options.type, &TypeOf);
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);
@@ -218,7 +221,7 @@ void CheckMorph(const Options& options) {
         throw UsageError{QStringLiteral(
             "--morph names its files itself; use --output-dir DIR instead of --output")};
     }
-    if (options.like.isEmpty() || options.projectionGiven) {
+    if ((options.like.isEmpty() && options.preset.isEmpty()) || options.projectionGiven) {
         CheckMorphEnds(options);
     }
 }
@@ -283,6 +286,10 @@ void CheckTogether(const Options& options) {
     if (!options.output.isEmpty() && options.keepEnding) {
         throw UsageError{
             QStringLiteral("--output is the whole name of the file; leave --keep-ending out")};
+    }
+    if (!options.output.isEmpty() && !options.namePattern.isEmpty()) {
+        throw UsageError{
+            QStringLiteral("--output is the whole name of the file; leave --name out")};
     }
     if (!options.type && IsOtherPictureName(options.output)) {
         throw UsageError{

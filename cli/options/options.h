@@ -25,6 +25,7 @@ enum class Command {
     ListCameras,
     ListLenses,
     ListGears,
+    ListPresets,
     ImportLens,
     ExportLens,
     Help,
@@ -56,6 +57,7 @@ struct Options {
     QStringList files;  // for the lists: the brand, if one was given
     std::vector<Projection> projections{Projection::Varnel};
     bool projectionGiven = false;
+    QString preset;                         // its name, built in or the user's
     QString like;                           // a picture that holds settings
     std::optional<ImageRecord> likeRecord;  // what it holds, once it was read
     QString gear;
@@ -79,6 +81,7 @@ struct Options {
     QString output;
     QString outputDir;
     bool keepEnding = false;
+    QString namePattern;  // of the results; empty: the usual names
     std::optional<OutputType> type;
     std::optional<int> quality;
     std::optional<bool> chroma444;

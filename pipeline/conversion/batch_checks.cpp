@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QHash>
 #include <QLocale>
+#include <QSet>
 #include <QStringList>
 #include <QTemporaryFile>
 #include <algorithm>
@@ -26,12 +27,12 @@ struct Texts {
 };
 
 // An entry without a name fails in the run and is reported there.
-QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue,
-                                const BatchChoices& choices) {
+QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                                const PhotoDays& days) {
     QHash<QString, int> uses;
-    for (const ImageRecord& entry : queue) {
+    for (int entry = 1; entry <= queue.UpperBound(); ++entry) {
         try {
-            ++uses[BatchPath(entry, choices)];
+            ++uses[BatchPath(queue(entry), choices, FactsOf(queue, entry, choices, days))];
         } catch (const RunTimeError&) {
             continue;
         }
@@ -58,14 +59,34 @@ QString FolderError(const QString& folder) {
     return {};
 }
 
-int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
-    const QHash<QString, int> uses = UsesOfNames(queue, choices);
+QString FoldersError(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    if (!choices.nextToPhoto) {
+        return FolderError(choices.folder);
+    }
+    QSet<QString> folders;
+    for (const ImageRecord& entry : queue) {
+        const QString folder = BatchFolder(entry, choices);
+        if (folders.contains(folder)) {
+            continue;
+        }
+        folders.insert(folder);
+        if (const QString error = FolderError(folder); !error.isEmpty()) {
+            return error;
+        }
+    }
+    return {};
+}
+
+int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                   const PhotoDays& days) {
+    const QHash<QString, int> uses = UsesOfNames(queue, choices, days);
     return static_cast<int>(
         std::count_if(uses.begin(), uses.end(), [](int count) { return count > 1; }));
 }
 
-int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
-    const QStringList names = UsesOfNames(queue, choices).keys();
+int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                  const PhotoDays& days) {
+    const QStringList names = UsesOfNames(queue, choices, days).keys();
     return static_cast<int>(std::count_if(
         names.begin(), names.end(), [](const QString& name) { return QFileInfo::exists(name); }));
 }
@@ -88,12 +109,16 @@ QString NamesText(int colliding, int existing) {
     return sentences.join(u' ');
 }
 
-qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+double PixelsOf(const RecordArray<ImageRecord>& queue) {
     double pixels = 0.0;
     for (const ImageRecord& entry : queue) {
         pixels += static_cast<double>(entry.Width) * entry.Height;
     }
-    return qRound64(pixels * FormatOf(choices.type).bytesPerPixel(EncodingOf(choices)));
+    return pixels;
+}
+
+qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    return qRound64(PixelsOf(queue) * FormatOf(choices.type).bytesPerPixel(EncodingOf(choices)));
 }
 
 qint64 FreeBytes(const QString& folder) {

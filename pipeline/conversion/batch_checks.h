@@ -13,14 +13,22 @@ namespace varnel {
 // Why nothing can be written into the folder; empty when files can be made there.
 QString FolderError(const QString& folder);
 
-// How many names more than one entry would be written under.
-int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
+// The same for all folders that the entries go into.
+QString FoldersError(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
 
-// How many files of those names are in the folder already.
-int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
+// How many names more than one entry would be written under.
+int CollidingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                   const PhotoDays& days = {});
+
+// How many files of those names are there already.
+int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                  const PhotoDays& days = {});
 
 // The two numbers in words; empty when both are 0.
 QString NamesText(int colliding, int existing);
+
+// Of all entries whose size is known.
+double PixelsOf(const RecordArray<ImageRecord>& queue);
 
 // The bytes that the run may need, as for photos full of fine detail. Entries whose size is not
 // known count nothing.

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "base/error_text.h"
+#include "remap/image/photo_date.h"
 
 namespace varnel {
 
@@ -67,7 +68,7 @@ class Batch : public ConversionObserver {
             }
         }
         firstEntries_.append(queue_.UpperBound() + 1);
-        summary_.folder = choices_.folder;
+        summary_.folder = choices_.nextToPhoto ? QString() : choices_.folder;
         summary_.queued = queue_.UpperBound();
     }
 
@@ -76,8 +77,7 @@ class Batch : public ConversionObserver {
             .photos = photos_,
             .records = [this](qsizetype photo,
                               const LoadedPicture& picture) { return Records(photo, picture); },
-            .target = [this](const QString& /*photo*/,
-                             const ImageRecord& entry) { return BatchPath(entry, choices_); },
+            .target = [this](const Conversion& conversion) { return Target(conversion); },
             .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings}};
         ConversionTargets targets(photos_, {});
         RunConversions(plan, targets, *this, ports);
@@ -85,7 +85,19 @@ class Batch : public ConversionObserver {
     }
 
   private:
+    int EntryOf(const Conversion& conversion) const {
+        return firstEntries_[conversion.photo] + static_cast<int>(conversion.index);
+    }
+
+    QString Target(const Conversion& conversion) const {
+        return BatchPath(conversion.record, choices_,
+                         FactsOf(queue_, EntryOf(conversion), choices_, days_));
+    }
+
     ConversionRecords Records(qsizetype photo, const LoadedPicture& picture) {
+        if (NamesDay(choices_.pattern)) {
+            days_.insert(photos_[photo], PhotoDate(picture.bitmap->metadata.photo, photos_[photo]));
+        }
         ConversionRecords records;
         for (int entry = firstEntries_[photo]; entry < firstEntries_[photo + 1]; ++entry) {
             TakeSize({SizeOf(picture.bitmap.get()), picture.orientation}, queue_(entry));
@@ -140,8 +152,7 @@ class Batch : public ConversionObserver {
             summary_.replaced.append(path);
         }
         summary_.written.append(path);
-        summary_.entries.append(firstEntries_[conversion.photo] +
-                                static_cast<int>(conversion.index));
+        summary_.entries.append(EntryOf(conversion));
         if (!conversion.damage.isEmpty()) {
             summary_.damaged.push_back({photos_[conversion.photo], ErrorText(conversion.damage)});
         }
@@ -157,13 +168,33 @@ class Batch : public ConversionObserver {
     BatchObserver& observer_;
     QStringList photos_;
     QList<int> firstEntries_;  // of each photo, and one past the last
+    PhotoDays days_;
     BatchSummary summary_;
 };
 
 }  // namespace
 
-QString BatchPath(const ImageRecord& entry, const BatchChoices& choices) {
-    return BatchName(entry, choices.folder, choices.additions, choices.type);
+QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices) {
+    return !choices.nextToPhoto     ? choices.folder
+           : entry.Folder.isEmpty() ? QStringLiteral("/")
+                                    : entry.Folder;
+}
+
+QString BatchPath(const ImageRecord& entry, const BatchChoices& choices, const NameFacts& facts) {
+    return PathByPattern(entry, BatchFolder(entry, choices),
+                         {PatternOf(choices), choices.additions, PhotoEnding::Cut}, choices.type,
+                         facts);
+}
+
+NameFacts FactsOf(const RecordArray<ImageRecord>& queue, int entry, const BatchChoices& choices,
+                  const PhotoDays& days) {
+    NameFacts facts{entry, queue.UpperBound(), {}};
+    if (NamesDay(choices.pattern)) {
+        const QString path = SourcePath(queue(entry));
+        const auto day = days.constFind(path);
+        facts.day = day != days.constEnd() ? *day : PhotoDate({}, path);
+    }
+    return facts;
 }
 
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,

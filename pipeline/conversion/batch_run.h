@@ -5,12 +5,14 @@
 // into one folder. However long the queue is, only the photos at work are in memory.
 #pragma once
 
+#include <QDate>
+#include <QHash>
 #include <QString>
 
 #include "base/record_array.h"
 #include "pipeline/conversion/batch_summary.h"
 #include "pipeline/conversion/conversion_run.h"
-#include "pipeline/output/output_name.h"
+#include "pipeline/output/name_pattern.h"
 
 namespace varnel {
 
@@ -23,15 +25,32 @@ struct BatchChoices {
     bool chroma444 = false;     // JPEG has colour at full resolution
     bool writeMetadata = true;  // the photo's go into its file
     bool writeSettings = true;  // those that made the picture go into its file
+    QString pattern = {};       // of the names; empty: the usual one
+    bool nextToPhoto = false;   // each file goes into its photo's folder instead
 };
 
 inline OutputEncoding EncodingOf(const BatchChoices& choices) {
     return {choices.type, choices.jpegQuality, choices.chroma444};
 }
 
+inline QString PatternOf(const BatchChoices& choices) {
+    return choices.pattern.isEmpty() ? QString(usualPattern) : choices.pattern;
+}
+
+// Where an entry's file goes.
+QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices);
+
 // The full path under which an entry is written. Throws RunTimeError when a number of the record
 // cannot stand in a name.
-QString BatchPath(const ImageRecord& entry, const BatchChoices& choices);
+QString BatchPath(const ImageRecord& entry, const BatchChoices& choices,
+                  const NameFacts& facts = {});
+
+// The days on which photos were taken, by their paths.
+using PhotoDays = QHash<QString, QDate>;
+// What the names of the queue's entry of that number need; a photo whose day is not known yet
+// counts by its file.
+NameFacts FactsOf(const RecordArray<ImageRecord>& queue, int entry, const BatchChoices& choices,
+                  const PhotoDays& days);
 
 // Is notified how a run goes; all calls come on the caller's thread.
 class BatchObserver {

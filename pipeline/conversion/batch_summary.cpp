@@ -88,10 +88,13 @@ QString About(const QString& one, const QString& many, double number) {
 }  // namespace
 
 QString SummaryText(const BatchSummary& summary) {
-    QString text = Texts::tr("%1 of %2 images written into %3")
-                       .arg(summary.written.size())
-                       .arg(summary.queued)
-                       .arg(QDir::toNativeSeparators(summary.folder));
+    const QString where = summary.folder.isEmpty()
+                              ? Texts::tr("%1 of %2 images written next to their photos")
+                              : Texts::tr("%1 of %2 images written into %3");
+    QString text = where.arg(summary.written.size()).arg(summary.queued);
+    if (!summary.folder.isEmpty()) {
+        text = text.arg(QDir::toNativeSeparators(summary.folder));
+    }
     text += u'\n';
     if (summary.Stopped()) {
         text += Texts::tr("Stopped after %1").arg(BatchProgressText(summary.done, summary.queued)) +

@@ -24,7 +24,7 @@ struct BatchNote {
 };
 
 struct BatchSummary {
-    QString folder;
+    QString folder;  // empty: next to their photos
     int queued = 0;
     int done = 0;         // written or failed
     QStringList written;  // one path for each photo written, in order

@@ -172,7 +172,7 @@ class Run : private RenderProgress {
 
     void ChooseTarget() {
         const QString& photo = plan_.photos[photo_];
-        turn_.what.target = plan_.target(photo, turn_.what.record);
+        turn_.what.target = plan_.target(turn_.what);
         if (writing_ && MayBeSameFile(writing_->what.target, turn_.what.target)) {
             FinishWriting();
         }

@@ -34,13 +34,22 @@ struct ConversionRecords {
     Reason error{};
 };
 
+// One result: a photo and one of its records.
+struct Conversion {
+    qsizetype photo = 0;  // its number in the plan
+    qsizetype index = 0;  // the number of the record among the photo's
+    ImageRecord record;   // empty when the photo gave none
+    QString target;       // empty when it is not known
+    Reason damage;        // of the photo; empty when it is sound
+};
+
 struct ConversionPlan {
     QStringList photos;  // in the order in which they are converted
     // Asked once for each photo, given by its number, when it was read.
     std::function<ConversionRecords(qsizetype photo, const LoadedPicture& picture)> records;
-    // The full path of a result. Throws RunTimeError when a number of the record cannot stand in a
-    // name.
-    std::function<QString(const QString& photo, const ImageRecord&)> target;
+    // The full path of a result, asked after its photo's records. Throws RunTimeError when a number
+    // of the record cannot stand in a name.
+    std::function<QString(const Conversion& conversion)> target;
     OutputChoices output;
     std::optional<PixelSize> preview{};  // at most this size in pixels; none: the photo's own
     bool smoothPreview = false;
@@ -49,15 +58,6 @@ struct ConversionPlan {
     bool finishesBegun = false;
     // The names of the files are made last on the disk at the end of the run, not each by itself.
     bool namesLastAtEnd = false;
-};
-
-// One result: a photo and one of its records.
-struct Conversion {
-    qsizetype photo = 0;  // its number in the plan
-    qsizetype index = 0;  // the number of the record among the photo's
-    ImageRecord record;   // empty when the photo gave none
-    QString target;       // empty when it is not known
-    Reason damage;        // of the photo; empty when it is sound
 };
 
 enum class ConversionEnd {

@@ -4,6 +4,7 @@
 #include "pipeline/output/output_name.h"
 
 #include "base/rounding.h"
+#include "pipeline/output/name_pattern.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -58,13 +59,7 @@ QString SettingsTags(const ImageRecord& image) {
 
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
                   OutputType type, PhotoEnding ending) {
-    const QString place = folder.endsWith(u'/') ? folder : folder + u'/';
-    QString name = place + Stem(image.FileName, ending);
-    name += additions.For(ProjectionFromIndex(image.Projection));
-    if (!image.NameSuffix.isEmpty()) {
-        name += u'_' + image.NameSuffix;
-    }
-    return name + SettingsTags(image) + ExtensionOf(type);
+    return PathByPattern(image, folder, {usualPattern, additions, ending}, type, {});
 }
 
 }  // namespace varnel

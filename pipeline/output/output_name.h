@@ -37,8 +37,8 @@ struct NameAdditions {
 // three digits. Throws OverflowError, naming the setting, for a number beyond 32 bits.
 QString SettingsTags(const ImageRecord& image);
 
-// The full path of a batch entry's file in a folder: file name with its ending treated so,
-// addition, "_" and suffix if there is one, tags, extension. Throws as SettingsTags.
+// The full path of a batch entry's file in a folder by the usual pattern: file name with its ending
+// treated so, addition, "_" and suffix if there is one, tags, extension. Throws as SettingsTags.
 QString BatchName(const ImageRecord& image, const QString& folder, const NameAdditions& additions,
                   OutputType type, PhotoEnding ending = PhotoEnding::Cut);
 

@@ -25,7 +25,8 @@ struct GeneralSettings {
     bool WriteMetadata = true;                 // the photo's EXIF, IPTC and XMP go into the result
     bool WriteSettings = true;                 // the settings go into the result
     QString Language = QStringLiteral("en");   // of the window, as code
-    bool TakeGear = true;  // added photos get the gear that their EXIF names, or a guess
+    bool TakeGear = true;      // added photos get the gear that their EXIF names, or a guess
+    QString NamePattern = {};  // of written files, for this run; empty: the usual names
 
     bool operator==(const GeneralSettings&) const = default;
 };

@@ -16,6 +16,7 @@ inline constexpr QLatin1StringView LastUsed("Settings");
 inline constexpr QLatin1StringView Gear("Gear");
 inline constexpr QLatin1StringView Revision("Revision");
 inline constexpr QLatin1StringView Projects("Projects");
+inline constexpr QLatin1StringView Presets("Presets");  // since 1.1
 
 // General settings.
 inline constexpr QLatin1StringView PreviewWidth("PreviewWidth");
@@ -67,6 +68,10 @@ inline constexpr QLatin1StringView GearLensFactor("GearLensFactor");
 
 // A project file, followed by its number: 1 is the latest.
 inline constexpr QLatin1StringView Project("Project");
+
+// The user's presets: how many, and one each as JSON, followed by its number.
+inline constexpr QLatin1StringView NumPreset("NumPreset");
+inline constexpr QLatin1StringView Preset("Preset");
 
 // The update reminder.
 inline constexpr QLatin1StringView RevisionAge("RevisionAge");

@@ -61,7 +61,7 @@ class ConversionRunTest : public ::testing::Test, public ConversionObserver, pub
                 ++begunToRead;
                 return ConversionRecords{{testing::FisheyeRecord()}};
             },
-        .target = [](const QString& photo, const ImageRecord&) { return photo + Text(".tif"); },
+        .target = [this](const Conversion& what) { return plan.photos[what.photo] + Text(".tif"); },
         .output = {}};
     ConversionPorts ports{
         .load =

@@ -81,6 +81,10 @@ void KeepNameAcrossFilters(QFileDialog& dialog) {
     });
 }
 
+QString PresetFilter() {
+    return QObject::tr("Varnel's presets (%1)").arg(QStringLiteral("*.json"));
+}
+
 QString PhotoFilters() {
     const QString photos = photoPatterns.toString().replace(u';', u' ');
     return QObject::tr("Photos (%1)").arg(photos) + QStringLiteral(";;") +
@@ -125,12 +129,21 @@ std::optional<SaveChoice> SaveFileDialog::ChooseSave(const SaveChoice& proposal)
     SaveDialog dialog(QObject::tr("Save image as ..."), QFileInfo(proposal.name).absoluteFilePath(),
                       filters, proposal.filterIndex - 1);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);  // asked when the extension is known
+    OutputPanel panel;
+    if (proposal.output) {
+        dialog.Add(panel, *proposal.output);
+    }
     KeepNameAcrossFilters(dialog);
     const QString name = dialog.Choose();
     if (name.isEmpty()) {
         return std::nullopt;
     }
-    return SaveChoice{name, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1};
+    SaveChoice choice{name, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())) + 1,
+                      proposal.output};
+    if (choice.output) {
+        choice.output->wish = panel.Wish();
+    }
+    return choice;
 }
 
 bool SaveFileDialog::AgreesToReplace(const QString& name) {
@@ -172,6 +185,19 @@ QString ChooseLensExport(const QString& lens) {
         }
         dialog.selectFile(QFileInfo(path).fileName() + endings.value(filters.indexOf(filter)));
     });
+    return dialog.Choose();
+}
+
+QString ChoosePresetImport() {
+    return QFileDialog::getOpenFileName(
+        QApplication::activeWindow(), QObject::tr("Import presets"), QDir::homePath(),
+        PresetFilter() + QStringLiteral(";;") + QObject::tr("All files (*)"));
+}
+
+QString ChoosePresetExport() {
+    SaveDialog dialog(QObject::tr("Export presets"),
+                      QDir::home().filePath(QStringLiteral("presets.json")), {PresetFilter()});
+    dialog.setDefaultSuffix(QStringLiteral("json"));
     return dialog.Choose();
 }
 

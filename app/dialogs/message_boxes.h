@@ -49,5 +49,8 @@ QStringList ChoosePhotos(const QString& folder);
 // The path of a file of lenses to import, and of one to export a lens of that name to.
 QString ChooseLensFile();
 QString ChooseLensExport(const QString& lens);
+// The path of a file of presets to import, and of one to export them to.
+QString ChoosePresetImport();
+QString ChoosePresetExport();
 
 }  // namespace varnel

@@ -27,6 +27,8 @@
 #include "pipeline/dialogs/form_stretch.h"
 #include "pipeline/photos/mounted_volumes.h"
 #include "pipeline/photos/project_file.h"
+#include "state/dialogs/form_presets.h"
+#include "state/dialogs/form_save_preset.h"
 #include "state/dialogs/form_setup.h"
 #include "state/settings/setting_names.h"
 
@@ -155,6 +157,16 @@ std::optional<MeasuredLensUse> RealDialogs::Straighten(std::optional<PhotoToMeas
         std::move(photo), parent);
     form.exec();
     return form.Use();
+}
+
+void RealDialogs::SavePreset(const ImageRecord& image, QWidget* parent) {
+    FormSavePreset form(image, state_.settings, store_, parent);
+    form.exec();
+}
+
+void RealDialogs::ManagePresets(QWidget* parent) {
+    FormPresets form(store_, {&ChoosePresetImport, &ChoosePresetExport}, parent);
+    form.exec();
 }
 
 void RealDialogs::ShowInFolder(const QString& file) {

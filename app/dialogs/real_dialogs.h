@@ -34,6 +34,8 @@ class RealDialogs : public Dialogs {
     void Stretch(const QString& photo, QWidget* parent) override;
     std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
                                               QWidget* parent) override;
+    void SavePreset(const ImageRecord& image, QWidget* parent) override;
+    void ManagePresets(QWidget* parent) override;
     void ShowInFolder(const QString& file) override;
     void ShowAbout(QWidget* parent) override;
     SaveFirst AskToSave(const UnsavedWork& work) override;

@@ -4,8 +4,13 @@
 #include "app/dialogs/save_dialog.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <algorithm>
+#include <utility>
+
+#include "remap/encode/output_format.h"
 
 namespace varnel {
 
@@ -16,6 +21,58 @@ SaveDialog::SaveDialog(const QString& title, const QString& proposal, const QStr
     setNameFilters(filters);
     selectNameFilter(filters.value(filter));  // first: it changes the ending of the name
     selectFile(QFileInfo(proposal).fileName());
+}
+
+void SaveDialog::Add(OutputPanel& panel, const SaveOffer& offer) {
+    setOption(DontUseNativeDialog);
+    auto* const grid = qobject_cast<QGridLayout*>(layout());
+    if (grid == nullptr) {
+        return;
+    }
+    panel.HideType();
+    panel.Show(offer.wish, offer.pattern);
+    grid->addWidget(&panel, grid->rowCount(), 0, 1, grid->columnCount());
+    connect(this, &QFileDialog::filterSelected, &panel, [this, &panel](const QString& filter) {
+        panel.SetType(AllOutputTypes()[static_cast<std::size_t>(nameFilters().indexOf(filter))]);
+    });
+    FollowPattern(panel, offer);
+    FollowFolder(panel, offer.photoFolder);
+    resize(std::max(width(), 720), height() + panel.sizeHint().height());
+}
+
+// Another pattern makes another name in place of the one that was typed.
+void SaveDialog::FollowPattern(OutputPanel& panel, const SaveOffer& offer) {
+    const auto show = [&panel, offer] {
+        const SaveWish wish = panel.Wish();
+        const OutputType type = wish.encoding.type;
+        panel.ShowExample(WithExtension(offer.nameBy(wish.pattern), type));
+        panel.ShowSize(UsualSizeText(UsualBytes(offer.pixels, wish.encoding)));
+    };
+    connect(&panel, &OutputPanel::WishChanged, this,
+            [this, &panel, offer, show, last = offer.wish.pattern]() mutable {
+                show();
+                const QString pattern = panel.Wish().pattern;
+                auto* const edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                if (edit != nullptr && std::exchange(last, pattern) != pattern) {
+                    edit->setText(offer.nameBy(pattern));
+                }
+            });
+    show();
+}
+
+void SaveDialog::FollowFolder(OutputPanel& panel, const QString& photoFolder) {
+    const auto show = [this, &panel, photoFolder] {
+        panel.SetNextToPhoto(directory() == QDir(photoFolder));
+    };
+    connect(this, &QFileDialog::directoryEntered, &panel, show);
+    connect(&panel, &OutputPanel::NextToPhotoToggled, this, [this, photoFolder](bool on) {
+        if (on && directory() != QDir(photoFolder)) {
+            const QString name = TypedName();
+            setDirectory(photoFolder);
+            findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+        }
+    });
+    show();
 }
 
 QString SaveDialog::Choose() {

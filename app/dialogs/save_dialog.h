@@ -6,6 +6,8 @@
 
 #include <QFileDialog>
 
+#include "pipeline/dialogs/output_panel.h"
+
 namespace varnel {
 
 // The widget that Qt shows where a platform has no dialog of its own takes double quotes for marks
@@ -15,6 +17,9 @@ class SaveDialog : public QFileDialog {
     // Proposes a full path and one of the filters.
     SaveDialog(const QString& title, const QString& proposal, const QStringList& filters,
                int filter = 0);
+    // The panel stands below the files, its pattern makes the name, and the type is that of the
+    // filter. Only the widgets of Qt have room for it.
+    void Add(OutputPanel& panel, const SaveOffer& offer);
     // Shows the dialog; the full path, or an empty text when it was cancelled.
     QString Choose();
 
@@ -26,6 +31,8 @@ class SaveDialog : public QFileDialog {
 
   private:
     QString TypedName() const;
+    void FollowPattern(OutputPanel& panel, const SaveOffer& offer);
+    void FollowFolder(OutputPanel& panel, const QString& photoFolder);
 
     QString quoted_;  // the path that was accepted, if it has quotes
 };

@@ -82,6 +82,9 @@ class Dialogs {
     // photo of the list is to have a lens.
     virtual std::optional<MeasuredLensUse> Straighten(std::optional<PhotoToMeasure> photo,
                                                       QWidget* parent) = 0;
+    // Offers to save the photo's settings as a preset of the user.
+    virtual void SavePreset(const ImageRecord& image, QWidget* parent) = 0;
+    virtual void ManagePresets(QWidget* parent) = 0;
     // Shows the file among the others of its folder, in the system's file manager.
     virtual void ShowInFolder(const QString& file) = 0;
     virtual void ShowAbout(QWidget* parent) = 0;

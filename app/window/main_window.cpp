@@ -29,6 +29,7 @@
 #include "app/tools/layout/toolbar_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
+#include "app/tools/presets/preset_tools.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
 #include "app/tools/steer/picture_menus.h"
@@ -78,6 +79,7 @@ void MDIForm1::MakeTools() {
         new ListTools(parts_, view_, workspace_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, view_, workspace_, state_, store_, ports_);
     sessions_ = new SessionTools(*projects_, workspace_, state_, ports_, this);
+    new PresetTools(this, parts_, view_, workspace_, store_, ports_.dialogs);
     views_ = new ViewTools(this, parts_, store_);
     new ZoomTools(this, parts_, view_, workspace_, state_);
     new SteerTools(parts_, view_, workspace_, this);

@@ -4,15 +4,16 @@
 #include "app/workspace/photo_saver.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <new>
 
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "base/run_time_error.h"
-#include "pipeline/output/output_name.h"
+#include "pipeline/output/name_pattern.h"
 #include "remap/encode/output_type.h"
 #include "remap/encode/save_bitmap.h"
-#include "remap/image/photo_metadata.h"
+#include "remap/image/photo_date.h"
 #include "state/adjustments/picture_settings.h"
 
 namespace varnel {
@@ -22,6 +23,9 @@ namespace {
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Workspace)
 };
+
+// A picture that is saved by itself tells no settings in its name.
+constexpr QLatin1StringView savePattern("{name}.{projection}");
 
 }  // namespace
 
@@ -69,6 +73,22 @@ SaveResult PhotoSaver::SaveLocked(const ImageRecord& image, const SaveChoice& ch
     return saved;
 }
 
+SaveChoice PhotoSaver::Proposal(const ImageRecord& image) const {
+    const GeneralSettings& settings = model_.state.settings;
+    ImageRecord shown = image;
+    shown.Projection = static_cast<std::int16_t>(model_.controls.ChosenProjection());
+    const NameFacts facts{
+        1, 1, PhotoDate(model_.state.bitmaps.FullSourceBitmap->metadata.photo, SourcePath(image))};
+    SaveOffer offer{WishOf(settings), static_cast<double>(image.Width) * image.Height, savePattern,
+                    QFileInfo(SourcePath(image)).path(), [shown, facts](const QString& pattern) {
+                        return NameByPattern(
+                            shown, {pattern.isEmpty() ? QString(savePattern) : pattern}, facts);
+                    }};
+    const QString folder = image.Folder + u'/';
+    return {folder + offer.nameBy(settings.NamePattern),
+            FilterIndexOf(OutputTypeFromText(settings.FileType)), std::move(offer)};
+}
+
 void PhotoSaver::SaveAs(FileChooser& chooser) {
     if (model_.activity.Busy() || model_.list.Current() == nullptr) {
         return;
@@ -78,12 +98,13 @@ void PhotoSaver::SaveAs(FileChooser& chooser) {
         photo_.ReportNotOpened(image);
         return;
     }
-    const SaveChoice proposal{ProposedName(SourcePath(image), model_.controls.ChosenProjection()),
-                              FilterIndexOf(OutputTypeFromText(model_.state.settings.FileType))};
     const std::optional<SaveChoice> choice =
-        AskWhereToSave(chooser, ports_.notices, proposal, SourcePath(image));
+        AskWhereToSave(chooser, ports_.notices, Proposal(image), SourcePath(image));
     if (!choice) {
         return;
+    }
+    if (choice->output) {
+        TakeWish(choice->output->wish, model_.state.settings);
     }
     CancelFlag cancelled = false;
     const SaveResult saved = SaveLocked(image, *choice, cancelled);
@@ -94,6 +115,7 @@ void PhotoSaver::SaveAs(FileChooser& chooser) {
     }
     if (saved) {
         model_.steps.MarkWritten(image, choice->name);
+        Q_EMIT model_.PictureSaved(choice->name);
     }
     Q_EMIT model_.activity.Idle();
 }

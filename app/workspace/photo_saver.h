@@ -25,6 +25,7 @@ class PhotoSaver {
                              const CancelFlag& cancelled);
     SaveResult SaveLocked(const ImageRecord& image, const SaveChoice& choice,
                           CancelFlag& cancelled);
+    SaveChoice Proposal(const ImageRecord& image) const;
     void Report(const SaveResult& saved, const QString& name);
 
     WorkspaceModel& model_;

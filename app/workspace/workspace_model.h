@@ -33,6 +33,8 @@ class WorkspaceModel : public QObject {
   Q_SIGNALS:
     // The current photo's record is in the controls.
     void CurrentShown();
+    // In a file of that name.
+    void PictureSaved(const QString& path);
     // By the user, without settings of their own.
     void PhotosAdded(const QStringList& paths);
 };

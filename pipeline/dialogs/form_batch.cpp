@@ -16,11 +16,8 @@
 #include "pipeline/conversion/batch_checks.h"
 #include "pipeline/dialogs/batch_progress.h"
 #include "pipeline/dialogs/queue_model.h"
-#include "pipeline/dialogs/slider_binding.h"
-#include "remap/encode/output_format.h"
 #include "remap/projection/projection_info.h"
 #include "state/dialogs/wheel_guard.h"
-#include "state/settings/default_choices.h"
 #include "ui_form_batch.h"
 
 namespace varnel {
@@ -50,7 +47,10 @@ class EventsMeanwhile : public ReadingWait {
 
 QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
     try {
-        return queue.Empty() ? QString() : QFileInfo(BatchPath(queue(1), choices)).fileName();
+        return queue.Empty()
+                   ? QString()
+                   : QFileInfo(BatchPath(queue(1), choices, FactsOf(queue, 1, choices, {})))
+                         .fileName();
     } catch (const RunTimeError&) {
         return {};  // the run reports it
     }
@@ -59,7 +59,7 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
 }  // namespace
 
 FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-                     const GeneralSettings& settings, BatchWorkers workers, Notices& notices,
+                     GeneralSettings& settings, BatchWorkers workers, Notices& notices,
                      std::function<void(int)> queueChanged, QWidget* parent,
                      const FolderChooser::Volumes& volumes)
     : QDialog(parent),
@@ -90,15 +90,13 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
 FormBatch::~FormBatch() = default;
 
 void FormBatch::FillChoices() {
-    const bool first = choices_.folder.isEmpty();
-    for (const OutputType type : AllOutputTypes()) {
-        ui_->ComboFileType->addItem(ToText(type));
+    SaveWish wish = WishOf(settings_);
+    if (!choices_.folder.isEmpty()) {
+        wish.encoding.type = choices_.type;
+        wish.encoding.quality = choices_.jpegQuality;
     }
-    ui_->ComboFileType->setCurrentText(
-        ToText(first ? OutputTypeFromText(settings_.FileType) : choices_.type));
-    ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
-    ui_->SliderJPEGcompression->setValue(first ? settings_.JPEGcompression : choices_.jpegQuality);
-    Bind(*ui_->SliderJPEGcompression, *ui_->SpinSliderJPEGcompression);
+    ui_->PanelOutput->Show(wish, usualPattern);
+    ui_->PanelOutput->SetNextToPhoto(choices_.nextToPhoto);
     AddNameAdditions();
 }
 
@@ -109,8 +107,11 @@ void FormBatch::AddNameAdditions() {
     auto* const plain = new QRegularExpressionValidator(
         QRegularExpression(QStringLiteral(R"([^/\\:*?"<>|]*)")), this);
     QGridLayout& grid = *ui_->LayoutAdditions;
-    grid.removeWidget(ui_->LabelExample);
-    QWidget* before = ui_->SpinSliderJPEGcompression;
+    QWidget* before = ui_->Dir2;
+    for (QWidget* const control : ui_->PanelOutput->TabOrder()) {
+        setTabOrder(before, control);
+        before = control;
+    }
     int gridRow = 0;
     for (const Projection projection : AllProjections()) {
         const QString name = ToText(projection);
@@ -133,21 +134,19 @@ void FormBatch::AddNameAdditions() {
         before = box;
         additions_[projection] = box;
     }
-    grid.addWidget(ui_->LabelExample, gridRow, 0, 1, 2);
     setTabOrder(before, ui_->CmdStop);
 }
 
 void FormBatch::ConnectControls() {
     for (const auto show : {&FormBatch::ShowNames, &FormBatch::ShowSpace}) {
         connect(place_.get(), &FolderChooser::FolderChanged, this, show);
-        connect(ui_->ComboFileType, &QComboBox::currentIndexChanged, this, show);
+        connect(ui_->PanelOutput, &OutputPanel::WishChanged, this, show);
+        connect(ui_->PanelOutput, &OutputPanel::NextToPhotoToggled, this, show);
     }
-    connect(ui_->SliderJPEGcompression, &QSlider::valueChanged, this, &FormBatch::ShowSpace);
     for (const auto& [projection, box] : additions_) {
         connect(box, &QLineEdit::textChanged, this, &FormBatch::ShowNames);
     }
     new WheelGuard(ui_->Drive2);
-    new WheelGuard(ui_->ComboFileType);
     connect(ui_->CmdNewFolder, &QPushButton::clicked, this, &FormBatch::MakeFolder);
     connect(ui_->CmdBatchProcess, &QPushButton::clicked, this, &FormBatch::Process);
     connect(ui_->CmdStop, &QPushButton::clicked, this, &FormBatch::Stop);
@@ -172,13 +171,16 @@ QString FormBatch::StartFolder() const {
 }
 
 BatchChoices FormBatch::Choices() const {
+    const SaveWish wish = ui_->PanelOutput->Wish();
     BatchChoices choices{place_->Folder(),
                          {},
-                         OutputTypeFromText(ui_->ComboFileType->currentText()),
-                         ui_->SliderJPEGcompression->value(),
-                         settings_.JPEGchroma444,
-                         settings_.WriteMetadata,
-                         settings_.WriteSettings};
+                         wish.encoding.type,
+                         wish.encoding.quality,
+                         wish.encoding.chroma444,
+                         wish.writeMetadata,
+                         settings_.WriteSettings,
+                         wish.pattern,
+                         ui_->PanelOutput->NextToPhoto()};
     for (const auto& [projection, box] : additions_) {
         choices.additions.texts[projection] = box->text();
     }
@@ -190,7 +192,6 @@ void FormBatch::ShowQueue() {
     lines_->Reset();
     ui_->HeadingListQueue->setText(queued == 1 ? tr("1 queued image")
                                                : tr("%1 queued images").arg(queued));
-    ui_->CmdBatchProcess->setEnabled(queued > 0);
     ui_->CmdClearBatchQue->setEnabled(queued > 0);
     ui_->LabelProgress->setText(BatchProgressText(0, queued));
     ShowNames();
@@ -200,19 +201,20 @@ void FormBatch::ShowQueue() {
 // What the run will do to the folder.
 void FormBatch::ShowNames() {
     const BatchChoices choices = Choices();
+    ui_->FrameFolder->setEnabled(!choices.nextToPhoto);
     ui_->LabelFolder->setText(QDir::toNativeSeparators(choices.folder));
     ui_->LabelFolder->setToolTip(ui_->LabelFolder->text());
-    ui_->LabelExample->setText(ExampleName(queue_, choices));
+    ui_->PanelOutput->ShowExample(ExampleName(queue_, choices));
+    ui_->CmdBatchProcess->setEnabled(!queue_.Empty() && ui_->PanelOutput->PatternError().isEmpty());
     ShowText(ui_->LabelNames,
              NamesText(CollidingNames(queue_, choices), ExistingNames(queue_, choices)));
 }
 
 void FormBatch::ShowSpace() {
     const BatchChoices choices = Choices();
-    const bool takesQuality = FormatOf(choices.type).takesQuality;
-    ui_->SliderJPEGcompression->setEnabled(takesQuality);
-    ui_->SpinSliderJPEGcompression->setEnabled(takesQuality);
-    ui_->HeadingSliderJPEGcompression->setEnabled(takesQuality);
+    const qint64 usual = UsualBytes(PixelsOf(queue_), EncodingOf(choices));
+    ui_->PanelOutput->ShowSize(usual == 0 ? QString()
+                                          : tr("All images: %1").arg(UsualSizeText(usual)));
     ShowText(ui_->LabelSpace,
              SpaceWarning(ExpectedBytes(queue_, choices), FreeBytes(choices.folder)));
 }
@@ -242,7 +244,8 @@ void FormBatch::ShowSummary(const BatchSummary& summary) {
 
 void FormBatch::Process() {
     choices_ = Choices();
-    if (const QString error = FolderError(choices_.folder); !error.isEmpty()) {
+    TakeWish(ui_->PanelOutput->Wish(), settings_);
+    if (const QString error = FoldersError(queue_, choices_); !error.isEmpty()) {
         notices_.Tell(error, tr("Choose another folder."));
         return;
     }
@@ -304,6 +307,7 @@ void FormBatch::reject() {
 
 void FormBatch::done(int result) {
     choices_ = Choices();
+    TakeWish(ui_->PanelOutput->Wish(), settings_);
     QDialog::done(result);
 }
 

@@ -36,13 +36,13 @@ class FormBatch : public QDialog {
     Q_OBJECT
 
   public:
-    // The choices are taken over when the dialog closes and when a run starts; as long as no folder
-    // was chosen, file type and quality come from the settings, and what has no control here always
-    // does. queueChanged is called with the queue's new length.
-    FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-              const GeneralSettings& settings, BatchWorkers workers, Notices& notices,
-              std::function<void(int)> queueChanged, QWidget* parent = nullptr,
-              const FolderChooser::Volumes& volumes = MountedVolumes);
+    // The choices are taken over when the dialog closes and when a run starts, and so are quality,
+    // colour, metadata and pattern of names into the settings, from which they come; as long as no
+    // folder was chosen, the file type does, too. queueChanged is called with the queue's new
+    // length.
+    FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices, GeneralSettings& settings,
+              BatchWorkers workers, Notices& notices, std::function<void(int)> queueChanged,
+              QWidget* parent = nullptr, const FolderChooser::Volumes& volumes = MountedVolumes);
     ~FormBatch() override;
 
     // Escape and the window's close button; during a run they count as Stop.
@@ -75,7 +75,7 @@ class FormBatch : public QDialog {
     std::unique_ptr<Ui::FormBatch> ui_;
     RecordArray<ImageRecord>& queue_;
     BatchChoices& choices_;
-    const GeneralSettings& settings_;
+    GeneralSettings& settings_;
     BatchWorkers workers_;
     Notices& notices_;
     std::function<void(int)> queueChanged_;

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "base/notices.h"
+#include "pipeline/output/save_wish.h"
 #include "remap/encode/output_type.h"
 
 namespace varnel {
@@ -15,6 +16,8 @@ namespace varnel {
 struct SaveChoice {
     QString name;
     int filterIndex = 1;  // of the type in AllOutputTypes(), from 1 on
+    // How it is written, where that can be chosen, too; its type is that of the filter.
+    std::optional<SaveOffer> output = {};
 };
 
 // TIFF for an index that is none of a type.

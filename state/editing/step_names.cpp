@@ -31,6 +31,8 @@ constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
                            QT_TRANSLATE_NOOP("Steps", "roll of the camera"),
                            QT_TRANSLATE_NOOP("Steps", "angle of view"),
                            QT_TRANSLATE_NOOP("Steps", "centring"),
+                           QT_TRANSLATE_NOOP("Steps", "paste settings"),
+                           QT_TRANSLATE_NOOP("Steps", "preset"),
                            QT_TRANSLATE_NOOP("Steps", "open project"),
                            QT_TRANSLATE_NOOP("Steps", "open the list again"),
                            QT_TRANSLATE_NOOP("Steps", "change")};

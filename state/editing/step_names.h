@@ -34,6 +34,8 @@ enum class StepKind {
     Roll,
     AngleOfView,
     Centre,  // a point of the result
+    PasteSettings,
+    Preset,
     OpenProject,
     RestoreList,
     Other

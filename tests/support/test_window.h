@@ -100,6 +100,12 @@ class FakeDialogs : public Dialogs {
         opened.append(QStringLiteral("FormStraighten"));
         return onStraighten ? onStraighten(std::move(photo)) : std::nullopt;
     }
+    void SavePreset(const ImageRecord& image, QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormSavePreset ") + image.FileName);
+    }
+    void ManagePresets(QWidget* /*parent*/) override {
+        opened.append(QStringLiteral("FormPresets"));
+    }
     void ShowInFolder(const QString& file) override { shownInFolder.append(file); }
     void ShowAbout(QWidget* /*parent*/) override { opened.append(QStringLiteral("FormAbout")); }
     SaveFirst AskToSave(const UnsavedWork& work) override {

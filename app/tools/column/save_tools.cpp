@@ -3,6 +3,9 @@
 
 #include "app/tools/column/save_tools.h"
 
+#include <QStatusBar>
+
+#include "app/panels/named_button.h"
 #include "app/panels/typed_number.h"
 
 namespace varnel {
@@ -17,7 +20,16 @@ SaveTools::SaveTools(QMainWindow* window, const WindowParts& parts, Workspace& w
       state_(state),
       ports_(ports),
       saveImage_(parts.entries.saveImage),
-      morph_(parts.entries.morph) {
+      morph_(parts.entries.morph),
+      showInFolder_(NamedButton("CmdShowInFolder", tr("Show in folder"),
+                                tr("Shows the saved picture in the file manager"), window)) {
+    showInFolder_->setFlat(true);
+    window->statusBar()->insertWidget(1, showInFolder_);
+    showInFolder_->hide();
+    connect(showInFolder_, &QAbstractButton::clicked, this,
+            [this] { ports_.dialogs.ShowInFolder(saved_); });
+    connect(&workspace_.model, &WorkspaceModel::PictureSaved, this, &SaveTools::ShowSaved);
+    connect(&workspace_.model.list, &ImageSelection::Chosen, showInFolder_, &QWidget::hide);
     connect(saveImage_, &QAction::triggered, this, &SaveTools::SaveAs);
     connect(morph_, &QAction::triggered, this, &SaveTools::Morph);
     connect(panel_.SaveAs(), &QAbstractButton::clicked, this, &SaveTools::SaveAs);
@@ -54,6 +66,11 @@ QueueChanged SaveTools::ShowsQueue() {
         panel_.ShowQueue(length);
         list_.Refresh();
     };
+}
+
+void SaveTools::ShowSaved(const QString& path) {
+    saved_ = path;
+    showInFolder_->show();
 }
 
 void SaveTools::UpdateEnabled() {

@@ -28,6 +28,7 @@ class SaveTools : public QObject {
     void ProcessBatch();
     void Morph();
     QueueChanged ShowsQueue();
+    void ShowSaved(const QString& path);
     void UpdateEnabled();
 
     QMainWindow* window_;
@@ -38,6 +39,8 @@ class SaveTools : public QObject {
     WindowPorts ports_;
     QAction* saveImage_;
     QAction* morph_;
+    QPushButton* showInFolder_;  // in the status bar
+    QString saved_;
 };
 
 }  // namespace varnel

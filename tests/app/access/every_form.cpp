@@ -15,6 +15,8 @@
 #include "pipeline/dialogs/form_batch.h"
 #include "pipeline/dialogs/form_morph.h"
 #include "pipeline/dialogs/form_stretch.h"
+#include "state/dialogs/form_presets.h"
+#include "state/dialogs/form_save_preset.h"
 #include "state/dialogs/form_setup.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
@@ -78,6 +80,18 @@ void ShowGearForms(TestWindow& workspace, const Look& look) {
     Show(gear, look);
 }
 
+void ShowPresetForms(TestWindow& workspace, const Look& look) {
+    FormSavePreset save(workspace.state.Images(1), workspace.state.settings, workspace.store);
+    Show(save, look);
+    SaveOwnPresets(workspace.store,
+                   {{QStringLiteral("1"), {{QStringLiteral("RotateX"), QStringLiteral("1")}}}});
+    FormPresets presets(workspace.store, {});
+    Show(presets, look);
+    presets.findChild<QAbstractButton*>(QStringLiteral("CmdDelete"))->click();
+    EXPECT_TRUE(Settle());
+    look(presets);
+}
+
 void ShowBatch(TestWindow& workspace, const Look& look) {
     BatchChoices choices;
     FormBatch batch(
@@ -130,6 +144,7 @@ void ShowEveryForm(const Look& look, PixelSize photo) {
     EXPECT_TRUE(Settle());
     look(setup);
     ShowGearForms(workspace, look);
+    ShowPresetForms(workspace, look);
     const QString folder = workspace.files.Path({});
     {
         // Gone before the reader is used by others.

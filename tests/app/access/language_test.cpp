@@ -86,7 +86,9 @@ QStringList UnmarkedIn(QWidget& form) {
     objects.append(&form);
     for (const QObject* const object : objects) {
         // The notice is the image library's own, as its licence wants it.
+        // Tokens are the same in every language.
         if (object->objectName() == Q("LabelFreeimageNotice") ||
+            object->objectName() == Q("TextNamePattern") ||
             object->objectName().startsWith(Q("qt_"))) {
             continue;
         }

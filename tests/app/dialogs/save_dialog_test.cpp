@@ -5,10 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDir>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSlider>
 #include <QTest>
 
 #include "app/dialogs/message_boxes.h"
@@ -63,6 +66,41 @@ TEST(SaveDialog, ProposesAndGivesTheNameAsItStands) {
         const Answers answers({Accept(typed)});
         EXPECT_EQ(chooser.ChooseSave({folder.Path(Text("p")), 1})->name, expected);
     }
+}
+
+TEST(SaveDialog, ThePanelMakesNameExampleAndSize) {
+    const testing::PictureFolder folder;
+    SaveFileDialog chooser;
+    SaveOffer offer;
+    offer.wish.encoding = {OutputType::Jpeg, 90};
+    offer.pixels = 24e6;
+    offer.pattern = Text("{name}");
+    offer.photoFolder = folder.Path(Text("sub"));
+    offer.nameBy = [](const QString& pattern) {
+        return pattern.isEmpty() ? Text("usual") : pattern + Text("!");
+    };
+    const Answers answers({[&](QDialog* dialog) {
+        const auto label = [dialog](const char* name) {
+            return dialog->findChild<QLabel*>(Text(name))->text();
+        };
+        auto* const edit = dialog->findChild<QLineEdit*>(Text("fileNameEdit"));
+        auto* const pattern = dialog->findChild<QLineEdit*>(Text("TextNamePattern"));
+        EXPECT_EQ(label("LabelExample"), Text("usual.JPG"));
+        EXPECT_EQ(label("LabelExpectedSize"), Text("about 2.6 MB"));
+        EXPECT_FALSE(dialog->findChild<QComboBox*>(Text("ComboFileType"))->isVisible());
+        edit->setText(Text("by hand"));
+        dialog->findChild<QSlider*>(Text("SliderJPEGcompression"))->setValue(75);
+        EXPECT_EQ(edit->text(), Text("by hand"));
+        pattern->setText(Text("{n}"));
+        EXPECT_EQ(edit->text(), Text("{n}!"));
+        EXPECT_EQ(label("LabelExample"), Text("{n}!.JPG"));
+        QTest::keyClick(edit, Qt::Key_Return);
+    }});
+    const auto choice = chooser.ChooseSave({folder.Path(Text("usual")), 2, offer});
+    ASSERT_TRUE(choice && choice->output);
+    EXPECT_EQ(choice->name, folder.Path(Text("{n}!")));
+    EXPECT_EQ(choice->output->wish.encoding.quality, 75);
+    EXPECT_EQ(choice->output->wish.pattern, Text("{n}"));
 }
 
 TEST(MessageBoxes, WarnAndAreWideEnoughToRead) {

@@ -276,6 +276,33 @@ TEST_F(FormBatchTest, TellsCollisionsAndMissingSpaceBeforeTheRun) {
         Label("LabelSpace").startsWith(Text("The images may need up to 322.1 TB, but only ")));
 }
 
+TEST_F(FormBatchTest, NamesFollowThePatternAndFilesMayLieNextToTheirPhotos) {
+    QueuePhotos(2);
+    queue(1).Width = 600;
+    queue(1).Height = 400;
+    Open();
+    auto& pattern = The<QLineEdit>("TextNamePattern");
+    EXPECT_EQ(pattern.text(), Text("{name}.{projection}{suffix}{tags}"));
+    EXPECT_EQ(Label("LabelExample"), Text("01.Equidistance.BMP"));
+    EXPECT_EQ(Label("LabelExpectedSize"), Text("All images: about 720 kB"));
+    pattern.clear();
+    QTest::keyClicks(&pattern, Text("a/{n}-{nam"));  // the slash is not taken
+    EXPECT_TRUE(Label("LabelExample").contains(Text("no token {nam")));
+    EXPECT_FALSE(The<QPushButton>("CmdBatchProcess").isEnabled());
+    QTest::keyClicks(&pattern, Text("e}"));
+    EXPECT_EQ(Label("LabelExample"), Text("a1-01.BMP"));
+    Click("NextToPhotoCheck");
+    EXPECT_FALSE(The<QTreeView>("Dir2").isEnabled());
+    Click("CmdBatchProcess");
+    EXPECT_TRUE(OutNames().isEmpty());
+    EXPECT_EQ(QDir(files.Path(Text("in"))).entryList(QDir::Files).join(u' '),
+              Text("01.bmp 02.bmp a1-01.BMP a2-02.BMP"));
+    EXPECT_EQ(settings.NamePattern, Text("a{n}-{name}"));
+    EXPECT_TRUE(The<QPlainTextEdit>("TextSummary")
+                    .toPlainText()
+                    .startsWith(Text("2 of 2 images written next to their photos")));
+}
+
 TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     QueuePhotos(1);
     Open();
@@ -286,7 +313,7 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     EXPECT_EQ(form->result(), QDialog::Rejected);
     EXPECT_TRUE(choices.writeMetadata && !choices.chroma444);
     settings.FileType = Text("PNG");
-    settings.JPEGchroma444 = true;  // has no control here
+    settings.JPEGchroma444 = true;
     settings.WriteMetadata = false;
     Open();
     EXPECT_EQ(Label("LabelFolder"), Out());

@@ -115,6 +115,10 @@
         <source>the photo is damaged (%1) and does not replace the older %2</source>
         <translation>das Foto ist beschädigt (%1) und ersetzt die ältere Datei %2 nicht</translation>
     </message>
+    <message>
+        <source>%1 of %2 images written next to their photos</source>
+        <translation>%1 von %2 Bildern neben ihre Fotos geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>FormAbout</name>
@@ -315,40 +319,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Gespeicherte Fotos</translation>
     </message>
     <message>
-        <source>File &amp;type</source>
-        <translation>Datei&amp;typ</translation>
-    </message>
-    <message>
-        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
-        <translation>TIFF und PNG behalten jede Einzelheit, JPEG macht kleine Dateien</translation>
-    </message>
-    <message>
-        <source>File type of the images</source>
-        <translation>Dateityp der Bilder</translation>
-    </message>
-    <message>
-        <source>JPEG &amp;quality</source>
-        <translation>JPEG-&amp;Qualität</translation>
-    </message>
-    <message>
-        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
-        <translation>100 behält die meisten Einzelheiten, niedrigere Werte machen kleinere JPEG-Dateien</translation>
-    </message>
-    <message>
-        <source>JPEG quality, 1 to 100</source>
-        <translation>JPEG-Qualität, 1 bis 100</translation>
-    </message>
-    <message>
         <source>Name additions</source>
         <translation>Namenszusätze</translation>
-    </message>
-    <message>
-        <source>What the first image of the queue will be called</source>
-        <translation>Wie das erste Bild des Stapels heißen wird</translation>
-    </message>
-    <message>
-        <source>Name of the first image</source>
-        <translation>Name des ersten Bildes</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
@@ -850,6 +822,148 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Zurück zu den Fotos; was hinzugefügt wurde, bleibt im Stapel</translation>
+    </message>
+</context>
+<context>
+    <name>FormPresets</name>
+    <message>
+        <source>Manage presets</source>
+        <translation>Voreinstellungen verwalten</translation>
+    </message>
+    <message>
+        <source>Your own presets; double-click one to rename it</source>
+        <translation>Ihre eigenen Voreinstellungen; ein Doppelklick benennt eine um</translation>
+    </message>
+    <message>
+        <source>Your presets</source>
+        <translation>Ihre Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Give the selected preset another name (F2)</source>
+        <translation>Der gewählten Voreinstellung einen anderen Namen geben (F2)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the selected preset (Del); it can be brought back</source>
+        <translation>Die gewählte Voreinstellung löschen (Entf); sie lässt sich zurückholen</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren ...</translation>
+    </message>
+    <message>
+        <source>Add the presets of a file</source>
+        <translation>Die Voreinstellungen einer Datei hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren ...</translation>
+    </message>
+    <message>
+        <source>Write all your presets into a file</source>
+        <translation>Alle Ihre Voreinstellungen in eine Datei schreiben</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Changes are saved already</source>
+        <translation>Änderungen sind bereits gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Bring the deleted preset back</source>
+        <translation>Die gelöschte Voreinstellung zurückholen</translation>
+    </message>
+</context>
+<context>
+    <name>FormSavePreset</name>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Under this name the preset stands in the Edit menu, and for varnel-convert --preset</source>
+        <translation>Unter diesem Namen steht die Voreinstellung im Menü Bearbeiten und für varnel-convert --preset</translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation>Name der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>What the preset sets; gear and circle stay each photo&apos;s own:</source>
+        <translation>Was die Voreinstellung setzt; Ausrüstung und Bildkreis behält jedes Foto:</translation>
+    </message>
+    <message>
+        <source>&amp;Projection and its effect</source>
+        <translation>&amp;Projektion und ihre Wirkung</translation>
+    </message>
+    <message>
+        <source>The projection, and how strong it is</source>
+        <translation>Die Projektion und wie stark sie wirkt</translation>
+    </message>
+    <message>
+        <source>Output &amp;angle</source>
+        <translation>&amp;Bildwinkel der Ausgabe</translation>
+    </message>
+    <message>
+        <source>The angle of view of the result</source>
+        <translation>Der Bildwinkel des Ergebnisses</translation>
+    </message>
+    <message>
+        <source>&amp;Rotation of the camera</source>
+        <translation>&amp;Drehung der Kamera</translation>
+    </message>
+    <message>
+        <source>All three rotations, also where they are 0</source>
+        <translation>Alle drei Drehungen, auch wo sie 0 sind</translation>
+    </message>
+    <message>
+        <source>&amp;Shift of the image</source>
+        <translation>&amp;Verschiebung des Bildes</translation>
+    </message>
+    <message>
+        <source>Both shifts, also where they are 0</source>
+        <translation>Beide Verschiebungen, auch wo sie 0 sind</translation>
+    </message>
+    <message>
+        <source>&amp;Output</source>
+        <translation>Aus&amp;gabe</translation>
+    </message>
+    <message>
+        <source>File type, quality, colour, metadata and names of saved photos</source>
+        <translation>Dateityp, Qualität, Farbe, Metadaten und Namen gespeicherter Fotos</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save the preset</source>
+        <translation>Die Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Close without a preset (Esc)</source>
+        <translation>Ohne Voreinstellung schließen (Esc)</translation>
     </message>
 </context>
 <context>
@@ -1479,6 +1593,92 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>NamePattern</name>
+    <message>
+        <source>a name needs at least one token or letter</source>
+        <translation>ein Name braucht mindestens einen Platzhalter oder Buchstaben</translation>
+    </message>
+    <message>
+        <source>a name cannot hold / or \</source>
+        <translation>ein Name kann weder / noch \ enthalten</translation>
+    </message>
+    <message>
+        <source>there is no token %1; there are %2</source>
+        <translation>es gibt keinen Platzhalter %1; es gibt %2</translation>
+    </message>
+</context>
+<context>
+    <name>OutputPanel</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>Datei&amp;typ</translation>
+    </message>
+    <message>
+        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
+        <translation>TIFF und PNG behalten jede Einzelheit, JPEG macht kleine Dateien</translation>
+    </message>
+    <message>
+        <source>File type of the images</source>
+        <translation>Dateityp der Bilder</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality</source>
+        <translation>JPEG-&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
+        <translation>100 behält die meisten Einzelheiten, niedrigere Werte machen kleinere JPEG-Dateien</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 100</source>
+        <translation>JPEG-Qualität, 1 bis 100</translation>
+    </message>
+    <message>
+        <source>Full colour resolution (4:4:4)</source>
+        <translation>Volle Farbauflösung (4:4:4)</translation>
+    </message>
+    <message>
+        <source>Fine coloured detail stays sharp in JPEG files, which become larger</source>
+        <translation>Feine farbige Einzelheiten bleiben in JPEG-Dateien scharf, die dabei größer werden</translation>
+    </message>
+    <message>
+        <source>Keep the photo&apos;s metadata</source>
+        <translation>Metadaten des Fotos behalten</translation>
+    </message>
+    <message>
+        <source>Camera, lens, date, place, captions and keywords (EXIF, IPTC, XMP) go into the saved file; the colour profile always does</source>
+        <translation>Kamera, Objektiv, Datum, Ort, Bildtexte und Stichwörter (EXIF, IPTC, XMP) kommen in die gespeicherte Datei; das Farbprofil immer</translation>
+    </message>
+    <message>
+        <source>Na&amp;mes</source>
+        <translation>Na&amp;men</translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Muster der Namen</translation>
+    </message>
+    <message>
+        <source>Name of the first image</source>
+        <translation>Name des ersten Bildes</translation>
+    </message>
+    <message>
+        <source>What photos usually need; fine detail takes up to four times as much</source>
+        <translation>Was Fotos üblicherweise brauchen; feine Einzelheiten brauchen bis zum Vierfachen</translation>
+    </message>
+    <message>
+        <source>Size to expect</source>
+        <translation>Zu erwartende Größe</translation>
+    </message>
+    <message>
+        <source>Save next to the photo</source>
+        <translation>Neben dem Foto speichern</translation>
+    </message>
+    <message>
+        <source>Each file goes into the folder of its photo</source>
+        <translation>Jede Datei kommt in den Ordner ihres Fotos</translation>
+    </message>
+</context>
+<context>
     <name>OverlayGeometry</name>
     <message>
         <source>keeps %1 % of the circle</source>
@@ -1588,6 +1788,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>the setting &quot;%1&quot; cannot be kept</source>
         <translation>die Einstellung „%1“ kann nicht behalten werden</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>Real estate</source>
+        <translation>Immobilie</translation>
+    </message>
+    <message>
+        <source>Group photo</source>
+        <translation>Gruppenfoto</translation>
+    </message>
+    <message>
+        <source>Whole circle</source>
+        <translation>Ganzer Kreis</translation>
+    </message>
+    <message>
+        <source>Horizon strip</source>
+        <translation>Horizontstreifen</translation>
+    </message>
+    <message>
+        <source>A preset needs a name of 1 to %1 letters.</source>
+        <translation>Eine Voreinstellung braucht einen Namen von 1 bis %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation>Es gibt schon eine Voreinstellung „%1“.</translation>
     </message>
 </context>
 <context>
@@ -1733,6 +1960,18 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Export the lens</source>
         <translation>Objektiv exportieren</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s presets (%1)</source>
+        <translation>Voreinstellungen von Varnel (%1)</translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation>Voreinstellungen importieren</translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation>Voreinstellungen exportieren</translation>
     </message>
 </context>
 <context>
@@ -2275,6 +2514,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>SaveWish</name>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
+</context>
+<context>
     <name>SettingsFromPicture</name>
     <message>
         <source>its name is not known</source>
@@ -2556,6 +2802,30 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>reset photo</source>
         <translation>Foto zurücksetzen</translation>
+    </message>
+    <message>
+        <source>turn of the camera</source>
+        <translation>Drehen der Kamera</translation>
+    </message>
+    <message>
+        <source>roll of the camera</source>
+        <translation>Rollen der Kamera</translation>
+    </message>
+    <message>
+        <source>angle of view</source>
+        <translation>Bildwinkel</translation>
+    </message>
+    <message>
+        <source>centring</source>
+        <translation>Zentrieren</translation>
+    </message>
+    <message>
+        <source>paste settings</source>
+        <translation>Einstellungen einfügen</translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation>Voreinstellung</translation>
     </message>
 </context>
 <context>
@@ -3091,6 +3361,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>No folder can be made in %1</source>
         <translation>In %1 kann kein Ordner angelegt werden</translation>
     </message>
+    <message>
+        <source>All images: %1</source>
+        <translation>Alle Bilder: %1</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormGearEdit</name>
@@ -3246,6 +3520,52 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 Bilder hinzugefügt, %2 im Stapel</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormPresets</name>
+    <message>
+        <source>No presets of your own yet: &quot;Save as preset...&quot; in the Edit menu makes one of the photo at hand.</source>
+        <translation>Noch keine eigenen Voreinstellungen: „Als Voreinstellung speichern ...“ im Menü Bearbeiten macht eine aus dem aktuellen Foto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is deleted.</source>
+        <translation>„%1“ ist gelöscht.</translation>
+    </message>
+    <message>
+        <source>%1 holds no presets.</source>
+        <translation>%1 enthält keine Voreinstellungen.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 lässt sich nicht lesen: %2</translation>
+    </message>
+    <message>
+        <source>1 preset was added.</source>
+        <translation>1 Voreinstellung wurde hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>%1 presets were added.</source>
+        <translation>%1 Voreinstellungen wurden hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 lässt sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormSavePreset</name>
+    <message>
+        <source>Choose what the preset sets.</source>
+        <translation>Wählen Sie, was die Voreinstellung setzt.</translation>
+    </message>
+    <message>
+        <source>It replaces your preset of this name.</source>
+        <translation>Sie ersetzt Ihre Voreinstellung dieses Namens.</translation>
     </message>
 </context>
 <context>
@@ -3564,6 +3884,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::OutputPanel</name>
+    <message>
+        <source>What the files are called. Tokens: %1</source>
+        <translation>Wie die Dateien heißen. Platzhalter: %1</translation>
+    </message>
+</context>
+<context>
     <name>varnel::OwnLensTools</name>
     <message>
         <source>&amp;Import ...</source>
@@ -3685,6 +4012,48 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::PictureMenus</name>
+    <message>
+        <source>&amp;Show in folder</source>
+        <translation>Im &amp;Ordner zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::PresetTools</name>
+    <message>
+        <source>&amp;Copy settings</source>
+        <translation>Einstellungen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste settings</source>
+        <translation>Einstellungen &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Pr&amp;esets</source>
+        <translation>&amp;Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset...</source>
+        <translation>Als Voreinstellung &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Manage presets...</source>
+        <translation>Voreinstellungen &amp;verwalten ...</translation>
+    </message>
+    <message>
+        <source>The photo&apos;s settings are on the clipboard</source>
+        <translation>Die Einstellungen des Fotos sind in der Zwischenablage</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no settings of a photo</source>
+        <translation>Die Zwischenablage enthält keine Einstellungen eines Fotos</translation>
+    </message>
+    <message>
+        <source>Saving follows the preset &quot;%1&quot; from now on</source>
+        <translation>Das Speichern folgt von nun an der Voreinstellung „%1“</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ProjectTools</name>
     <message>
         <source>Open project...</source>
@@ -3794,6 +4163,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Save / batch process </source>
         <translation>Speichern / Stapel </translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SaveTools</name>
+    <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Shows the saved picture in the file manager</source>
+        <translation>Zeigt das gespeicherte Bild in der Dateiverwaltung</translation>
     </message>
 </context>
 <context>
@@ -3934,6 +4314,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>The photo as shot as large as possible</source>
         <translation>Das Foto, wie es aufgenommen wurde, so groß wie möglich</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::WalkTools</name>
+    <message>
+        <source>Pre&amp;vious photo</source>
+        <translation>Vor&amp;heriges Foto</translation>
+    </message>
+    <message>
+        <source>N&amp;ext photo</source>
+        <translation>Nä&amp;chstes Foto</translation>
     </message>
 </context>
 <context>

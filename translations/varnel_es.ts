@@ -115,6 +115,10 @@
         <source>the photo is damaged (%1) and does not replace the older %2</source>
         <translation>la foto está dañada (%1) y no reemplaza a %2, más antiguo</translation>
     </message>
+    <message>
+        <source>%1 of %2 images written next to their photos</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FormAbout</name>
@@ -315,40 +319,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>Fotos guardadas</translation>
     </message>
     <message>
-        <source>File &amp;type</source>
-        <translation>&amp;Tipo de archivo</translation>
-    </message>
-    <message>
-        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
-        <translation>TIFF y PNG conservan cada detalle, JPEG da archivos pequeños</translation>
-    </message>
-    <message>
-        <source>File type of the images</source>
-        <translation>Tipo de archivo de las imágenes</translation>
-    </message>
-    <message>
-        <source>JPEG &amp;quality</source>
-        <translation>&amp;Calidad JPEG</translation>
-    </message>
-    <message>
-        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
-        <translation>100 conserva el máximo detalle, los valores más bajos dan archivos JPEG más pequeños</translation>
-    </message>
-    <message>
-        <source>JPEG quality, 1 to 100</source>
-        <translation>Calidad JPEG, de 1 a 100</translation>
-    </message>
-    <message>
         <source>Name additions</source>
         <translation>Añadidos al nombre</translation>
-    </message>
-    <message>
-        <source>What the first image of the queue will be called</source>
-        <translation>Cómo se llamará la primera imagen de la cola</translation>
-    </message>
-    <message>
-        <source>Name of the first image</source>
-        <translation>Nombre de la primera imagen</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
@@ -850,6 +822,148 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Volver a las fotos; lo que se añadió se queda en la cola</translation>
+    </message>
+</context>
+<context>
+    <name>FormPresets</name>
+    <message>
+        <source>Manage presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own presets; double-click one to rename it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the selected preset another name (F2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>E&amp;liminar</translation>
+    </message>
+    <message>
+        <source>Delete the selected preset (Del); it can be brought back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the presets of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write all your presets into a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Changes are saved already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>Bring the deleted preset back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FormSavePreset</name>
+    <message>
+        <source>Save as preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nombre</translation>
+    </message>
+    <message>
+        <source>Under this name the preset stands in the Edit menu, and for varnel-convert --preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the preset sets; gear and circle stay each photo&apos;s own:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Projection and its effect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection, and how strong it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Output &amp;angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The angle of view of the result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rotation of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All three rotations, also where they are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Shift of the image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both shifts, also where they are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File type, quality, colour, metadata and names of saved photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Close without a preset (Esc)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1519,6 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
 <context>
     <name>LevelTools</name>
     <message>
-        <source>Draw along the horizon on the photo as shot, or click points and then the last one again. Escape leaves.</source>
-        <translation>Trace a lo largo del horizonte en la foto original, o haga clic en varios puntos y otra vez en el último. Esc sale.</translation>
-    </message>
-    <message>
         <source>it takes %1, %2° more than the slider has</source>
         <translation>hacen falta %1, %2° más de lo que tiene el control</translation>
     </message>
@@ -1480,6 +1590,92 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>%1 is out of range: a sequence has at most %2 frames.</source>
         <translation>%1 está fuera de los límites: una secuencia tiene como máximo %2 imágenes.</translation>
+    </message>
+</context>
+<context>
+    <name>NamePattern</name>
+    <message>
+        <source>a name needs at least one token or letter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a name cannot hold / or \</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no token %1; there are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OutputPanel</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>&amp;Tipo de archivo</translation>
+    </message>
+    <message>
+        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
+        <translation>TIFF y PNG conservan cada detalle, JPEG da archivos pequeños</translation>
+    </message>
+    <message>
+        <source>File type of the images</source>
+        <translation>Tipo de archivo de las imágenes</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality</source>
+        <translation>&amp;Calidad JPEG</translation>
+    </message>
+    <message>
+        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
+        <translation>100 conserva el máximo detalle, los valores más bajos dan archivos JPEG más pequeños</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 100</source>
+        <translation>Calidad JPEG, de 1 a 100</translation>
+    </message>
+    <message>
+        <source>Full colour resolution (4:4:4)</source>
+        <translation>Resolución de color completa (4:4:4)</translation>
+    </message>
+    <message>
+        <source>Fine coloured detail stays sharp in JPEG files, which become larger</source>
+        <translation>El detalle fino en color queda nítido en los archivos JPEG, que se hacen más grandes</translation>
+    </message>
+    <message>
+        <source>Keep the photo&apos;s metadata</source>
+        <translation>Conservar los metadatos de la foto</translation>
+    </message>
+    <message>
+        <source>Camera, lens, date, place, captions and keywords (EXIF, IPTC, XMP) go into the saved file; the colour profile always does</source>
+        <translation>Cámara, objetivo, fecha, lugar, leyendas y palabras clave (EXIF, IPTC, XMP) pasan al archivo guardado; el perfil de color siempre</translation>
+    </message>
+    <message>
+        <source>Na&amp;mes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the first image</source>
+        <translation>Nombre de la primera imagen</translation>
+    </message>
+    <message>
+        <source>What photos usually need; fine detail takes up to four times as much</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size to expect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save next to the photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each file goes into the folder of its photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1788,33 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>the setting &quot;%1&quot; cannot be kept</source>
         <translation>el ajuste «%1» no se puede conservar</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>Real estate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizon strip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset needs a name of 1 to %1 letters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1737,6 +1960,18 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Export the lens</source>
         <translation>Exportar el objetivo</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s presets (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2279,6 +2514,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>SaveWish</name>
+    <message>
+        <source>about %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsFromPicture</name>
     <message>
         <source>its name is not known</source>
@@ -2557,6 +2799,85 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>straighten</source>
         <translation>enderezar</translation>
     </message>
+    <message>
+        <source>reset photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>turn of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>angle of view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paste settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarTools</name>
+    <message>
+        <source>Add image(s)</source>
+        <translation>Añadir imágenes</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Enderezar</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2651,6 +2972,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>View</source>
         <translation>Vista</translation>
     </message>
+    <message>
+        <source>Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -2740,6 +3065,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Draws the preview now</source>
         <translation>Dibuja ahora la vista previa</translation>
+    </message>
+    <message>
+        <source>Reset photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives all sliders of this photo the values of its gear again</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2880,8 +3213,24 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>Suelte aquí fotos de ojo de pez</translation>
     </message>
     <message>
-        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation>o elija Archivo, Abrir imágenes; después una proyección en «Convertir».</translation>
+        <source>Each gets the gear that took it; then choose what the result shall be under &quot;Remap&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose photos...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds photos to the list</source>
+        <translation>Añade fotos a la lista</translation>
+    </message>
+    <message>
+        <source>Try the sample photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a photo that is drawn by this program</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2913,6 +3262,17 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>%1 (not in the list)</source>
         <translation>%1 (fuera de la lista)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FoldGroup</name>
+    <message>
+        <source>Shows what is in this group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides what is in this group</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3000,6 +3360,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>No folder can be made in %1</source>
         <translation>No se puede crear ninguna carpeta en %1</translation>
+    </message>
+    <message>
+        <source>All images: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3156,6 +3520,52 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 imágenes añadidas, %2 en la cola</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormPresets</name>
+    <message>
+        <source>No presets of your own yet: &quot;Save as preset...&quot; in the Edit menu makes one of the photo at hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no presets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 preset was added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 presets were added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 guardado</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormSavePreset</name>
+    <message>
+        <source>Choose what the preset sets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It replaces your preset of this name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3407,6 +3817,21 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::HintTools</name>
+    <message>
+        <source>Draw along the horizon on the photo, or click points and then the last one again; Escape leaves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the circle&apos;s rim or its middle on the photo; Escape leaves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drag: turn   wheel: angle   Shift+drag: roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::ImageListPanel</name>
     <message>
         <source>Image list</source>
@@ -3441,6 +3866,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::LayoutTools</name>
+    <message>
+        <source>Image li&amp;st in the left column</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::LevelTools</name>
     <message>
         <source>&amp;Level the horizon</source>
@@ -3449,6 +3881,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
         <translation>Solo Rectilinear se puede nivelar; las demás no giran la cámara.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::OutputPanel</name>
+    <message>
+        <source>What the files are called. Tokens: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3573,6 +4012,48 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::PictureMenus</name>
+    <message>
+        <source>&amp;Show in folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::PresetTools</name>
+    <message>
+        <source>&amp;Copy settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;esets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Manage presets...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo&apos;s settings are on the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard holds no settings of a photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving follows the preset &quot;%1&quot; from now on</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::ProjectTools</name>
     <message>
         <source>Open project...</source>
@@ -3617,6 +4098,17 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>... and %1 more</source>
         <translation>... y %1 más</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetDot</name>
+    <message>
+        <source>Reset: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not the usual value; a click resets it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3671,6 +4163,17 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Save / batch process </source>
         <translation>Guardar / procesar la cola </translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SaveTools</name>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the saved picture in the file manager</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3738,6 +4241,36 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::ThemeTools</name>
+    <message>
+        <source>Them&amp;e</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the &amp;system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ToolbarTools</name>
+    <message>
+        <source>Too&amp;lbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Te&amp;xt under the icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::UndoTools</name>
     <message>
         <source>&amp;Undo</source>
@@ -3781,6 +4314,17 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>The photo as shot as large as possible</source>
         <translation>La foto original tan grande como sea posible</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::WalkTools</name>
+    <message>
+        <source>Pre&amp;vious photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;ext photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,10 @@
         <source>the photo is damaged (%1) and does not replace the older %2</source>
         <translation>la photo est endommagée (%1) et ne remplace pas %2, plus ancien</translation>
     </message>
+    <message>
+        <source>%1 of %2 images written next to their photos</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FormAbout</name>
@@ -315,40 +319,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>Photos enregistrées</translation>
     </message>
     <message>
-        <source>File &amp;type</source>
-        <translation>&amp;Type de fichier</translation>
-    </message>
-    <message>
-        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
-        <translation>TIFF et PNG gardent chaque détail, JPEG donne de petits fichiers</translation>
-    </message>
-    <message>
-        <source>File type of the images</source>
-        <translation>Type de fichier des images</translation>
-    </message>
-    <message>
-        <source>JPEG &amp;quality</source>
-        <translation>&amp;Qualité JPEG</translation>
-    </message>
-    <message>
-        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
-        <translation>100 garde le plus de détails, des valeurs plus basses donnent des fichiers JPEG plus petits</translation>
-    </message>
-    <message>
-        <source>JPEG quality, 1 to 100</source>
-        <translation>Qualité JPEG, de 1 à 100</translation>
-    </message>
-    <message>
         <source>Name additions</source>
         <translation>Ajouts aux noms</translation>
-    </message>
-    <message>
-        <source>What the first image of the queue will be called</source>
-        <translation>Comment s’appellera la première image de la file</translation>
-    </message>
-    <message>
-        <source>Name of the first image</source>
-        <translation>Nom de la première image</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
@@ -850,6 +822,148 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Retour aux photos&#x202f;; ce qui a été ajouté reste dans la file</translation>
+    </message>
+</context>
+<context>
+    <name>FormPresets</name>
+    <message>
+        <source>Manage presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own presets; double-click one to rename it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give the selected preset another name (F2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete the selected preset (Del); it can be brought back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the presets of a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write all your presets into a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Changes are saved already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Bring the deleted preset back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FormSavePreset</name>
+    <message>
+        <source>Save as preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Nom</translation>
+    </message>
+    <message>
+        <source>Under this name the preset stands in the Edit menu, and for varnel-convert --preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the preset sets; gear and circle stay each photo&apos;s own:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Projection and its effect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The projection, and how strong it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Output &amp;angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The angle of view of the result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Rotation of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All three rotations, also where they are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Shift of the image</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both shifts, also where they are 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File type, quality, colour, metadata and names of saved photos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save the preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Close without a preset (Esc)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1519,6 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
 <context>
     <name>LevelTools</name>
     <message>
-        <source>Draw along the horizon on the photo as shot, or click points and then the last one again. Escape leaves.</source>
-        <translation>Tracez le long de l’horizon sur la photo d’origine, ou cliquez sur des points, puis de nouveau sur le dernier. Échap quitte.</translation>
-    </message>
-    <message>
         <source>it takes %1, %2° more than the slider has</source>
         <translation>il faut %1, %2° de plus que n’offre le curseur</translation>
     </message>
@@ -1480,6 +1590,92 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>%1 is out of range: a sequence has at most %2 frames.</source>
         <translation>%1 est hors limites&#xa0;: une séquence a au plus %2 images.</translation>
+    </message>
+</context>
+<context>
+    <name>NamePattern</name>
+    <message>
+        <source>a name needs at least one token or letter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a name cannot hold / or \</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no token %1; there are %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>OutputPanel</name>
+    <message>
+        <source>File &amp;type</source>
+        <translation>&amp;Type de fichier</translation>
+    </message>
+    <message>
+        <source>TIFF and PNG keep every detail, JPEG makes small files</source>
+        <translation>TIFF et PNG gardent chaque détail, JPEG donne de petits fichiers</translation>
+    </message>
+    <message>
+        <source>File type of the images</source>
+        <translation>Type de fichier des images</translation>
+    </message>
+    <message>
+        <source>JPEG &amp;quality</source>
+        <translation>&amp;Qualité JPEG</translation>
+    </message>
+    <message>
+        <source>100 keeps the most detail, lower values make smaller JPEG files</source>
+        <translation>100 garde le plus de détails, des valeurs plus basses donnent des fichiers JPEG plus petits</translation>
+    </message>
+    <message>
+        <source>JPEG quality, 1 to 100</source>
+        <translation>Qualité JPEG, de 1 à 100</translation>
+    </message>
+    <message>
+        <source>Full colour resolution (4:4:4)</source>
+        <translation>Pleine résolution des couleurs (4:4:4)</translation>
+    </message>
+    <message>
+        <source>Fine coloured detail stays sharp in JPEG files, which become larger</source>
+        <translation>Les fins détails colorés restent nets dans les fichiers JPEG, qui deviennent plus gros</translation>
+    </message>
+    <message>
+        <source>Keep the photo&apos;s metadata</source>
+        <translation>Garder les métadonnées de la photo</translation>
+    </message>
+    <message>
+        <source>Camera, lens, date, place, captions and keywords (EXIF, IPTC, XMP) go into the saved file; the colour profile always does</source>
+        <translation>Appareil, objectif, date, lieu, légendes et mots-clés (EXIF, IPTC, XMP) vont dans le fichier enregistré&#x202f;; le profil de couleur toujours</translation>
+    </message>
+    <message>
+        <source>Na&amp;mes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the first image</source>
+        <translation>Nom de la première image</translation>
+    </message>
+    <message>
+        <source>What photos usually need; fine detail takes up to four times as much</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size to expect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save next to the photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each file goes into the folder of its photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1592,6 +1788,33 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>the setting &quot;%1&quot; cannot be kept</source>
         <translation>le réglage «&#xa0;%1&#xa0;» ne peut pas être gardé</translation>
+    </message>
+</context>
+<context>
+    <name>Presets</name>
+    <message>
+        <source>Real estate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizon strip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset needs a name of 1 to %1 letters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a preset &quot;%1&quot; already.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1737,6 +1960,18 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Export the lens</source>
         <translation>Exporter l’objectif</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s presets (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export presets</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2279,6 +2514,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>SaveWish</name>
+    <message>
+        <source>about %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsFromPicture</name>
     <message>
         <source>its name is not known</source>
@@ -2557,6 +2799,85 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>straighten</source>
         <translation>redressement</translation>
     </message>
+    <message>
+        <source>reset photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>turn of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roll of the camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>angle of view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>paste settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarTools</name>
+    <message>
+        <source>Add image(s)</source>
+        <translation>Ajouter des images</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Redresser</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Volume</name>
@@ -2651,6 +2972,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>View</source>
         <translation>Vue</translation>
     </message>
+    <message>
+        <source>Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
@@ -2740,6 +3065,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Draws the preview now</source>
         <translation>Dessine l’aperçu maintenant</translation>
+    </message>
+    <message>
+        <source>Reset photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives all sliders of this photo the values of its gear again</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2880,8 +3213,24 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>Déposez ici des photos fisheye</translation>
     </message>
     <message>
-        <source>or choose File, Open image(s); then choose a projection under &quot;Remap&quot;.</source>
-        <translation>ou choisissez Fichier, Ouvrir des images&#x202f;; puis une projection sous «&#xa0;Convertir&#xa0;».</translation>
+        <source>Each gets the gear that took it; then choose what the result shall be under &quot;Remap&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose photos...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds photos to the list</source>
+        <translation>Ajoute des photos à la liste</translation>
+    </message>
+    <message>
+        <source>Try the sample photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a photo that is drawn by this program</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2913,6 +3262,17 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>%1 (not in the list)</source>
         <translation>%1 (hors liste)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FoldGroup</name>
+    <message>
+        <source>Shows what is in this group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides what is in this group</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3000,6 +3360,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>No folder can be made in %1</source>
         <translation>Impossible de créer un dossier dans %1</translation>
+    </message>
+    <message>
+        <source>All images: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3156,6 +3520,52 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 images ajoutées, %2 dans la file d’attente</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormPresets</name>
+    <message>
+        <source>No presets of your own yet: &quot;Save as preset...&quot; in the Edit menu makes one of the photo at hand.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 holds no presets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 preset was added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 presets were added.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FormSavePreset</name>
+    <message>
+        <source>Choose what the preset sets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It replaces your preset of this name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3407,6 +3817,21 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::HintTools</name>
+    <message>
+        <source>Draw along the horizon on the photo, or click points and then the last one again; Escape leaves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the circle&apos;s rim or its middle on the photo; Escape leaves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drag: turn   wheel: angle   Shift+drag: roll</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::ImageListPanel</name>
     <message>
         <source>Image list</source>
@@ -3441,6 +3866,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::LayoutTools</name>
+    <message>
+        <source>Image li&amp;st in the left column</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::LevelTools</name>
     <message>
         <source>&amp;Level the horizon</source>
@@ -3449,6 +3881,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
         <translation>Seule Rectilinear peut être mise de niveau&#x202f;; les autres ne tournent pas l’appareil.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::OutputPanel</name>
+    <message>
+        <source>What the files are called. Tokens: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3573,6 +4012,48 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::PictureMenus</name>
+    <message>
+        <source>&amp;Show in folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::PresetTools</name>
+    <message>
+        <source>&amp;Copy settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;esets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Manage presets...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The photo&apos;s settings are on the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard holds no settings of a photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving follows the preset &quot;%1&quot; from now on</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::ProjectTools</name>
     <message>
         <source>Open project...</source>
@@ -3617,6 +4098,17 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>... and %1 more</source>
         <translation>... et %1 autres</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetDot</name>
+    <message>
+        <source>Reset: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not the usual value; a click resets it</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3671,6 +4163,17 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Save / batch process </source>
         <translation>Enregistrer / file d’attente </translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SaveTools</name>
+    <message>
+        <source>Show in folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the saved picture in the file manager</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3738,6 +4241,36 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::ThemeTools</name>
+    <message>
+        <source>Them&amp;e</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the &amp;system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ToolbarTools</name>
+    <message>
+        <source>Too&amp;lbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Te&amp;xt under the icons</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>varnel::UndoTools</name>
     <message>
         <source>&amp;Undo</source>
@@ -3781,6 +4314,17 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>The photo as shot as large as possible</source>
         <translation>La photo d’origine aussi grande que possible</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::WalkTools</name>
+    <message>
+        <source>Pre&amp;vious photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>N&amp;ext photo</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -24,10 +24,10 @@ constexpr PixelSize photo{301, 200};
 
 struct Shape {
     const char* name;
-    SaveWish wish;
+    OutputWish wish;
 };
 
-SaveWish InSize(PixelSize size) {
+OutputWish InSize(PixelSize size) {
     return [size](const SourceFrame& source) { return Resized(source, size); };
 }
 
@@ -62,7 +62,7 @@ std::vector<ImageRecord> RecordsOf(Projection projection) {
 }
 
 BitmapHandle Drawn(decltype(&Render) renderer, Projection projection, const ImageRecord& record,
-                   const SaveWish& wish) {
+                   const OutputWish& wish) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = PhotoLike(photo);
     bitmaps.ResultBitmap = testing::Flat(photo);
@@ -128,7 +128,7 @@ TEST(OutputFrame, TwiceTheSizeReadsTheSamePlacesAtTwiceTheDistance) {
 TEST(OutputFrame, WhatNoLoopWritesIsBlackInAnotherSize) {
     ImageRecord record = FisheyeRecord();
     record.TranslateY = 0.25F;  // half a pixel: every second row stays unwritten
-    const SaveWish higher = [](const SourceFrame& source) {
+    const OutputWish higher = [](const SourceFrame& source) {
         OutputFrame frame = SameAs(source);
         frame.size.height = 220;
         return frame;

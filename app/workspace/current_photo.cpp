@@ -142,6 +142,7 @@ bool CurrentPhoto::RebuildThumbnail() {
     if (!model_.state.bitmaps.FullSourceBitmap) {
         return false;
     }
+    model_.state.bitmaps.PreviewSourceBitmap.reset();
     const QString shortage = Shortage([this] { preview_.Reduce(); });
     if (!shortage.isEmpty()) {
         loadError_ = {ReasonCode::Words, shortage};

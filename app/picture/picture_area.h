@@ -32,6 +32,9 @@ class PictureArea : public QWidget {
     QRectF Inset() const { return inset_; }
     void SetInset(const QRectF& inset);
 
+    // The pictures have to be made anew as after another size.
+    void Refresh() { Q_EMIT RoomChanged(); }
+
     QSize Room() const;  // for the main picture, logical pixels
     QSize minimumSizeHint() const override { return {220, 220}; }
 

@@ -61,6 +61,15 @@ void PictureBox::Show(const Bitmap* bitmap, QSize full) {
 
 void PictureBox::ShowSharp(std::vector<QImage> images) {
     sharp_ = std::move(images);
+    for (QImage& image : sharp_) {
+        colour_.Apply(image);
+    }
+    update();
+}
+
+void PictureBox::SetColour(const ScreenColour& colour) {
+    colour_ = colour;
+    sharp_.clear();
     update();
 }
 
@@ -207,11 +216,23 @@ void PictureBox::PaintFocus(QPainter& painter) const {
 void PictureBox::PaintWhole(QPainter& painter) const {
     const QRectF place = PictureRect();
     const QImage* const sharp = Source().SharpFor(FitSize());
-    const QImage& image = sharp != nullptr ? *sharp : Source().image_;
+    QImage image = sharp != nullptr ? *sharp : Source().image_;
+    if (sharp == nullptr) {
+        colour_.Apply(image);
+    }
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != FitSize());
     painter.drawImage(place, image);
     painter.restore();
+}
+
+// What is around the picture stays as it is.
+void PictureBox::ToScreenColours(QImage& part, const QRect& picture) const {
+    colour_.Apply(part);
+    QPainter around(&part);
+    for (const QRect& rect : QRegion(part.rect()).subtracted(picture)) {
+        around.fillRect(rect, pictureSurround);
+    }
 }
 
 // In pixels of the screen, so that at a scale of 1 none is touched by another.
@@ -235,6 +256,7 @@ void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
     } else if (full.bitmap != nullptr) {
         PaintPart(full.bitmap, place, part);
     }
+    ToScreenColours(part, QRectF(place.corner, QSizeF(picture_) * place.scale).toAlignedRect());
     painter.save();
     painter.setWorldTransform(QTransform::fromTranslate(-grid.x() / ratio, -grid.y() / ratio)
                                   .scale(1 / ratio, 1 / ratio));

@@ -16,6 +16,7 @@
 
 #include "app/picture/picture_overlay.h"
 #include "pipeline/photos/picture_zoom.h"
+#include "remap/display/screen_colour.h"
 #include "remap/render/region_renderer.h"
 
 namespace varnel {
@@ -40,6 +41,8 @@ class PictureBox : public QWidget {
     void Show(const Bitmap* bitmap, QSize full = {});
     // The same picture made for the sizes that it is shown in, until another is shown.
     void ShowSharp(std::vector<QImage> images);
+    // From the picture's colours to the screen's; the sharp pictures have to come again.
+    void SetColour(const ScreenColour& colour);
     // The whole picture here, device pixels; empty without one.
     QSize FitSize() const { return FitSizeIn(*this); }
     QSize FitSizeIn(const PictureBox& box) const;  // where that one shows this picture
@@ -113,12 +116,14 @@ class PictureBox : public QWidget {
     QRectF FitRect() const;
     const QImage* SharpFor(QSize size) const;
     void PaintWhole(QPainter& painter) const;
+    void ToScreenColours(QImage& part, const QRect& picture) const;
     void PaintZoomed(QPainter& painter, const QRect& region) const;
 
     QString hint_;
     bool hintShown_ = true;
     QImage image_;
-    std::vector<QImage> sharp_;
+    std::vector<QImage> sharp_;  // in the screen's colours
+    ScreenColour colour_;
     QSize picture_;
     std::vector<PictureOverlay*> overlays_;
     PictureOverlay* holder_ = nullptr;  // the overlay that has the mouse

@@ -13,6 +13,7 @@
 #include "app/dialogs/message_boxes.h"
 #include "app/dialogs/reading_box.h"
 #include "app/dialogs/real_dialogs.h"
+#include "app/dialogs/screen_profile.h"
 #include "app/start/application.h"
 #include "app/start/console_start.h"
 #include "app/start/focus_style.h"
@@ -65,7 +66,8 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      [] { return NewPictureReader({.secondsPerPhoto = 10}); },
                      {UserSessionFolder()},
                      [] { return NewPictureReader(); },
-                     &theme});
+                     &theme,
+                     &ScreenProfile});
     dialogs.Use([&window] { return window.CurrentImage(); });
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);

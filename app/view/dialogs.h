@@ -113,6 +113,8 @@ struct WindowPorts {
     std::function<std::unique_ptr<PictureReader>()> newGearReader = nullptr;
     // Of the application; without one its colours cannot be chosen.
     ThemeKeeper* theme = nullptr;
+    // The screen's colour profile, empty for sRGB; without it that is taken.
+    std::function<QByteArray()> screenProfile = nullptr;
 };
 
 }  // namespace varnel

@@ -36,6 +36,7 @@
 #include "app/tools/steer/steer_tools.h"
 #include "app/tools/steer/walk_tools.h"
 #include "app/tools/undo_tools.h"
+#include "app/tools/view/colour_tools.h"
 #include "app/tools/view/picture_size_tools.h"
 #include "app/tools/view/view_tools.h"
 #include "app/tools/view/zoom_tools.h"
@@ -82,6 +83,7 @@ void MDIForm1::MakeTools() {
     new PresetTools(this, parts_, view_, workspace_, store_, ports_.dialogs);
     views_ = new ViewTools(this, parts_, store_);
     new ZoomTools(this, parts_, view_, workspace_, state_);
+    new ColourTools(this, parts_, model_, store_, ports_.screenProfile);
     new SteerTools(parts_, view_, workspace_, this);
     new WalkTools(parts_, view_, this);
     parts_.viewMenu->addSeparator();

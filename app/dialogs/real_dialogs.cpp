@@ -118,11 +118,10 @@ void RealDialogs::ChangeDefaults(QWidget* parent) {
     form.exec();
 }
 
-void RealDialogs::ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
-                               QWidget* parent) {
-    FormBatch form(state_.BatchQueue, batchChoices_, state_.settings, {reader_, state_.pool},
-                   notices_, queueChanged, parent);
-    QObject::connect(&form, &FormBatch::Written, parent, written);
+void RealDialogs::ProcessBatch(BatchJob& job, const QueueChanged& queueChanged, QWidget* parent) {
+    FormBatch form(state_.BatchQueue, job, state_.settings, notices_, queueChanged, parent);
+    QObject::connect(&form, &FormBatch::ShowInFolderWanted, parent,
+                     [this](const QString& file) { ShowInFolder(file); });
     form.exec();
 }
 

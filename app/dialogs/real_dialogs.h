@@ -6,7 +6,6 @@
 
 #include "app/view/dialogs.h"
 #include "gear/dialogs/gear_editor_ports.h"
-#include "pipeline/conversion/batch_run.h"
 #include "state/editing/working_state.h"
 #include "state/settings/settings_store.h"
 
@@ -27,8 +26,7 @@ class RealDialogs : public Dialogs {
     bool GiveNewNumbers(const QString& gear, int photos) override;
     bool DefineGear(const GearRecord& known, QWidget* parent) override;
     void ChangeDefaults(QWidget* parent) override;
-    void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
-                      QWidget* parent) override;
+    void ProcessBatch(BatchJob& job, const QueueChanged& queueChanged, QWidget* parent) override;
     void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
                QWidget* parent) override;
     void Stretch(const QString& photo, QWidget* parent) override;
@@ -60,7 +58,6 @@ class RealDialogs : public Dialogs {
     Notices& notices_;
     FileChooser& fileChooser_;
     std::function<const ImageRecord*()> currentImage_;
-    BatchChoices batchChoices_;  // the last ones, for the run of the program
 };
 
 }  // namespace varnel

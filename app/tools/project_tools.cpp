@@ -140,9 +140,9 @@ QString ProjectTools::ChangedProject() const {
     return steps.ChangedSinceSaved() ? QFileInfo(steps.Project()).fileName() : QString();
 }
 
-bool ProjectTools::MayClose() {
+bool ProjectTools::MayClose(int converting) {
     const UnsavedWork work{ChangedProject(), workspace_.model.steps.UnsavedPhotos(),
-                           state_.BatchQueue.UpperBound()};
+                           state_.BatchQueue.UpperBound() + converting};
     return (work.project.isEmpty() && work.photos == 0 && work.queued == 0) ||
            SavedOrDiscarded(work);
 }

@@ -29,7 +29,7 @@ class ProjectTools : public QObject {
     void Show(const ReadProject& project, const QString& path);
     // Asks once whether work that closing would lose is to be saved; false when the window shall
     // stay.
-    bool MayClose();
+    bool MayClose(int converting = 0);
 
   private:
     void AddEntries(QMenu* menu, QAction* before);

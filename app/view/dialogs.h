@@ -15,6 +15,7 @@
 #include "base/notices.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_store.h"
+#include "pipeline/conversion/batch_job.h"
 #include "pipeline/photos/file_chooser.h"
 #include "pipeline/photos/photo_loader.h"
 
@@ -22,9 +23,6 @@ namespace varnel {
 
 // Called with the batch queue's new length.
 using QueueChanged = std::function<void(int)>;
-
-// Called with an entry of the queue and the file that it was written into.
-using PictureWritten = std::function<void(const ImageRecord&, const QString&)>;
 
 // What is lost when the window closes, or another list replaces the present one.
 struct UnsavedWork {
@@ -71,8 +69,8 @@ class Dialogs {
     // was added to the table.
     virtual bool DefineGear(const GearRecord& known, QWidget* parent) = 0;
     virtual void ChangeDefaults(QWidget* parent) = 0;
-    virtual void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
-                              QWidget* parent) = 0;
+    // The queue's entries go to the job when its run begins; shows the run under way, if one is.
+    virtual void ProcessBatch(BatchJob& job, const QueueChanged& queueChanged, QWidget* parent) = 0;
     // For a photo that is prepared as for the queue.
     virtual void Morph(const ImageRecord& image, const QueueChanged& queueChanged,
                        QWidget* parent) = 0;

@@ -29,6 +29,7 @@
 #include "app/tools/layout/toolbar_tools.h"
 #include "app/tools/level_tools.h"
 #include "app/tools/picture_keys.h"
+#include "app/tools/presets/batch_tools.h"
 #include "app/tools/presets/preset_tools.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
@@ -80,7 +81,7 @@ void MDIForm1::MakeTools() {
         new ListTools(parts_, view_, workspace_, state_, ports_.newSmallReader, this);
     projects_ = new ProjectTools(this, view_, workspace_, state_, store_, ports_);
     sessions_ = new SessionTools(*projects_, workspace_, state_, ports_, this);
-    new PresetTools(this, parts_, view_, workspace_, store_, ports_.dialogs);
+    new PresetTools(this, parts_, view_, workspace_, store_, ports_.dialogs, batch_);
     views_ = new ViewTools(this, parts_, store_);
     new ZoomTools(this, parts_, view_, workspace_, state_);
     new ColourTools(this, parts_, model_, store_, ports_.screenProfile);
@@ -102,7 +103,8 @@ void MDIForm1::MakeTools() {
     new ResetTools(parts_, view_, workspace_, this);
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
-    new SaveTools(this, parts_, workspace_, *list, state_, ports_);
+    new SaveTools(this, parts_, workspace_, *list, ports_, batch_);
+    new BatchTools(this, parts_, view_, batch_);
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new HintTools(this, parts_, model_);
     new ToolbarTools(this, parts_, store_);
@@ -124,6 +126,11 @@ void MDIForm1::ConnectEntries() {
         }
     });
     connect(&model_.activity, &Activity::Idle, this, &MDIForm1::CloseWhenIdle);
+    connect(&batch_, &BatchJob::Ended, this, [this] {
+        if (closeAgreed_) {
+            QTimer::singleShot(0, this, &QWidget::close);
+        }
+    });
 }
 
 void MDIForm1::Activate() {
@@ -156,7 +163,14 @@ void MDIForm1::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    if (!projects_->MayClose()) {
+    if (!closeAgreed_ && !projects_->MayClose(batch_.Left())) {
+        event->ignore();
+        return;
+    }
+    if (batch_.IsRunning()) {  // its image at hand is finished first
+        closeAgreed_ = true;
+        setEnabled(false);
+        batch_.Stop();
         event->ignore();
         return;
     }

@@ -56,12 +56,14 @@ class MDIForm1 : public QMainWindow {
     WindowView view_;
     PhotoShelf shelf_;
     Workspace workspace_;
+    BatchJob batch_;
     ProjectTools* projects_ = nullptr;
     ViewTools* views_ = nullptr;
     SessionTools* sessions_ = nullptr;
     QStringList filesAtStart_;
     bool started_ = false;
     bool closeWanted_ = false;
+    bool closeAgreed_ = false;  // as soon as the batch has finished its image at hand
 };
 
 }  // namespace varnel

@@ -132,6 +132,7 @@ class Batch : public ConversionObserver {
     void FailAll(qsizetype photo, const QString& error) {
         for (int entry = firstEntries_[photo]; entry < firstEntries_[photo + 1]; ++entry) {
             summary_.failures.push_back({photos_[photo], error});
+            observer_.EntryEnded(entry, false, error);
             NoteDone();
             if (StopAsked()) {
                 return;
@@ -141,6 +142,7 @@ class Batch : public ConversionObserver {
 
     void NoteFailure(const Conversion& conversion, const QString& error) {
         summary_.failures.push_back({photos_[conversion.photo], error});
+        observer_.EntryEnded(EntryOf(conversion), false, error);
     }
 
     void NoteWritten(const Conversion& conversion, const Reason& note) {
@@ -153,6 +155,7 @@ class Batch : public ConversionObserver {
         }
         summary_.written.append(path);
         summary_.entries.append(EntryOf(conversion));
+        observer_.EntryEnded(EntryOf(conversion), true, path);
         if (!conversion.damage.isEmpty()) {
             summary_.damaged.push_back({photos_[conversion.photo], ErrorText(conversion.damage)});
         }

@@ -61,6 +61,8 @@ class BatchObserver {
     virtual void Naming(const QString& path) = 0;
     // How far the photo at hand is.
     virtual RenderProgress& Progress() = 0;
+    // An entry, by its number, was written to that path, or failed for that reason. Before Done.
+    virtual void EntryEnded(int /*entry*/, bool /*written*/, const QString& /*text*/) {}
     // After each photo, also one that failed: handles pending events once and shows the numbers.
     virtual void Done(int done, int queued) = 0;
     // Asked after Done and before a photo is begun; true ends the run.

@@ -10,75 +10,65 @@ namespace varnel {
 
 namespace {
 
-constexpr qint64 paintInterval = 30;  // milliseconds; faster bars only cost time
-constexpr int runSteps = 1000;        // of the whole run's bar
+constexpr int paintInterval = 30;  // milliseconds; faster bars only cost time
+constexpr int steps = 1000;        // of each bar
 
 }  // namespace
 
-void BatchProgress::Start(int queued) {
-    running_ = true;
-    queued_ = queued;
-    done_ = 0;
-    sinceStart_.start();
-    widgets_.runBar->setRange(0, runSteps);
-    widgets_.imageBar->setValue(0);
-    widgets_.name->clear();
-    widgets_.count->setText(BatchProgressText(0, queued));
-    ShowRun(0.0);
+BatchProgress::BatchProgress(const BatchJob& job, const BatchProgressWidgets& widgets,
+                             QObject* parent)
+    : QObject(parent), job_(job), widgets_(widgets) {
+    timer_.setInterval(paintInterval);
+    connect(&timer_, &QTimer::timeout, this, &BatchProgress::ShowRun);
+    connect(&job, &BatchJob::Started, this, &BatchProgress::Begin);
+    connect(&job, &BatchJob::Named, this, &BatchProgress::ShowName);
+    connect(&job, &BatchJob::ImageDone, this, &BatchProgress::ShowDone);
+    connect(&job, &BatchJob::Ended, this, [this] {
+        timer_.stop();
+        ShowRun();
+    });
+    if (job.IsRunning()) {
+        Begin();
+        ShowName(job.Name());
+    }
 }
 
-void BatchProgress::Naming(const QString& path) {
+void BatchProgress::Begin() {
+    widgets_.runBar->setRange(0, steps);
+    widgets_.imageBar->setRange(0, steps);
+    widgets_.name->clear();
+    widgets_.count->setText(BatchProgressText(job_.Done(), job_.Entries().UpperBound()));
+    ShowRun();
+    timer_.start();
+}
+
+void BatchProgress::ShowName(const QString& path) {
     widgets_.name->setText(QDir::toNativeSeparators(path));
     widgets_.name->setToolTip(widgets_.name->text());
     HandleEvents();
 }
 
-void BatchProgress::Done(int done, int queued) {
-    done_ = done;
+void BatchProgress::ShowDone(int done, int queued) {
     HandleEvents();
     widgets_.count->setText(BatchProgressText(done, queued));
-    ShowRun(static_cast<double>(done));
+    ShowRun();
 }
 
-void BatchProgress::HandleEvents() {
-    QCoreApplication::processEvents();
-}
-
-void BatchProgress::Begin(float maximum) {
-    maximum_ = maximum;
-    widgets_.imageBar->setRange(0, static_cast<int>(maximum));
-    widgets_.imageBar->setValue(0);
-    sincePainted_.start();
-    sincePaused_.start();
-}
-
-void BatchProgress::Advance(float value) {
-    if (sincePainted_.elapsed() >= paintInterval) {
-        sincePainted_.restart();
-        widgets_.imageBar->setValue(static_cast<int>(value));
-        ShowRun(done_ + static_cast<double>(value / maximum_));
-    }
-    HandleEvents();
-}
-
-void BatchProgress::Pause() {
-    if (sincePaused_.elapsed() >= paintInterval) {
-        HandleEvents();
-        sincePaused_.start();
+// The run waits meanwhile, so that a stop counts for the image that is shown.
+void BatchProgress::HandleEvents() const {
+    if (widgets_.name->isVisible()) {
+        QCoreApplication::processEvents();
     }
 }
 
-void BatchProgress::End() {
-    widgets_.imageBar->setValue(widgets_.imageBar->maximum());
-}
-
-void BatchProgress::ShowRun(double done) {
-    const double part = queued_ == 0 ? 0.0 : done / queued_;
-    widgets_.runBar->setValue(static_cast<int>(part * runSteps));
-    widgets_.timeLeft->setText(
-        TimeLeftText(static_cast<double>(sinceStart_.elapsed()) / 1000.0, part));
-    const int row = static_cast<int>(done);
-    if (row < queued_ && widgets_.queue->currentIndex().row() != row) {
+void BatchProgress::ShowRun() {
+    const int queued = job_.Entries().UpperBound();
+    const double part = queued == 0 ? 0.0 : (job_.Done() + job_.PartDone()) / queued;
+    widgets_.imageBar->setValue(static_cast<int>(job_.PartDone() * steps));
+    widgets_.runBar->setValue(static_cast<int>(part * steps));
+    widgets_.timeLeft->setText(job_.IsRunning() ? TimeLeftText(job_.Seconds(), part) : QString());
+    const int row = job_.Done();
+    if (job_.IsRunning() && row < queued && widgets_.queue->currentIndex().row() != row) {
         widgets_.queue->setCurrentIndex(widgets_.queue->model()->index(row, 0));
     }
 }

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A batch run in the batch dialog's bars and labels. While the run lasts all input is handled, so
-// the caller disables what must not be used until it ends. Throws nothing.
+// A batch run in the batch dialog's bars and labels, for as long as the dialog is open. Throws
+// nothing.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QListView>
 #include <QProgressBar>
+#include <QTimer>
 
-#include "pipeline/conversion/batch_run.h"
+#include "pipeline/conversion/batch_job.h"
 
 namespace varnel {
 
@@ -23,36 +23,21 @@ struct BatchProgressWidgets {
     QLabel* timeLeft;
 };
 
-class BatchProgress : public BatchObserver, public RenderProgress {
+class BatchProgress : public QObject {
+    Q_OBJECT
   public:
-    explicit BatchProgress(const BatchProgressWidgets& widgets) : widgets_(widgets) {}
-    // Raises and lowers the running flag.
-    void Start(int queued);
-    void Stop() { running_ = false; }
-    bool Running() const { return running_; }
-
-    void Naming(const QString& path) override;
-    RenderProgress& Progress() override { return *this; }
-    void Done(int done, int queued) override;
-    bool StopAsked() override { return !running_; }
-
-    void HandleEvents() override;
-    void Begin(float maximum) override;
-    void Advance(float value) override;
-    void Pause() override;
-    void End() override;
+    BatchProgress(const BatchJob& job, const BatchProgressWidgets& widgets, QObject* parent);
 
   private:
-    void ShowRun(double done);
+    void Begin();
+    void ShowName(const QString& path);
+    void ShowDone(int done, int queued);
+    void ShowRun();
+    void HandleEvents() const;
 
+    const BatchJob& job_;
     BatchProgressWidgets widgets_;
-    int queued_ = 0;
-    int done_ = 0;
-    float maximum_ = 1.0F;  // of the photo at hand
-    QElapsedTimer sinceStart_;
-    QElapsedTimer sincePainted_;
-    QElapsedTimer sincePaused_;
-    bool running_ = false;
+    QTimer timer_;
 };
 
 }  // namespace varnel

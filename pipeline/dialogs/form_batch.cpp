@@ -4,18 +4,19 @@
 #include "pipeline/dialogs/form_batch.h"
 
 #include <QClipboard>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
-#include <QScopeGuard>
+#include <utility>
 
 #include "base/run_time_error.h"
-#include "base/shortage.h"
 #include "pipeline/conversion/batch_checks.h"
 #include "pipeline/dialogs/batch_progress.h"
 #include "pipeline/dialogs/queue_model.h"
+#include "pipeline/dialogs/queue_pictures.h"
 #include "remap/projection/projection_info.h"
 #include "state/dialogs/wheel_guard.h"
 #include "ui_form_batch.h"
@@ -36,21 +37,11 @@ void ShowText(QLabel* label, const QString& text) {
     label->setVisible(!text.isEmpty());
 }
 
-// Stop stays at hand while a photo is read; the photo itself is finished first.
-class EventsMeanwhile : public ReadingWait {
-  public:
-    bool Continue() override {
-        QCoreApplication::processEvents();
-        return true;
-    }
-};
-
-QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
+                    const NameFacts& facts) {
     try {
-        return queue.Empty()
-                   ? QString()
-                   : QFileInfo(BatchPath(queue(1), choices, FactsOf(queue, 1, choices, {})))
-                         .fileName();
+        return queue.Empty() ? QString()
+                             : QFileInfo(BatchPath(queue(1), choices, facts)).fileName();
     } catch (const RunTimeError&) {
         return {};  // the run reports it
     }
@@ -58,45 +49,48 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
 
 }  // namespace
 
-FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchChoices& choices,
-                     GeneralSettings& settings, BatchWorkers workers, Notices& notices,
-                     std::function<void(int)> queueChanged, QWidget* parent,
+FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job, GeneralSettings& settings,
+                     Notices& notices, std::function<void(int)> queueChanged, QWidget* parent,
                      const FolderChooser::Volumes& volumes)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormBatch>()),
       queue_(queue),
-      choices_(choices),
+      job_(job),
       settings_(settings),
-      workers_(workers),
       notices_(notices),
       queueChanged_(std::move(queueChanged)),
-      lines_(std::make_unique<QueueModel>(queue)) {
+      lines_(std::make_unique<QueueModel>(queue, job)) {
     ui_->setupUi(this);
     KeepRoomOf(ui_->CmdStop);
+    KeepRoomOf(ui_->CmdPause);
+    KeepRoomOf(ui_->CmdBackground);
     KeepRoomOf(ui_->CmdCancel);
+    lines_->ShowRun(job_.IsRunning());
     ui_->ListQueue->setModel(lines_.get());
+    pictures_ = std::make_unique<QueuePictures>(*lines_, *ui_->ListQueue, job_.ReaderMaker(),
+                                                settings_.AutoOrient);
     place_ = std::make_unique<FolderChooser>(*ui_->Drive2, *ui_->Dir2, notices, volumes);
-    progress_ = std::make_unique<BatchProgress>(
-        BatchProgressWidgets{ui_->ListQueue, ui_->LabelImage, ui_->ProgressImage,
-                             ui_->LabelProgress, ui_->ProgressRun, ui_->LabelTimeLeft});
     FillChoices();
     ConnectControls();
+    ConnectRun();
     place_->Show(StartFolder());
-    ShowRunning(false);
     ShowQueue();
-    ui_->CmdBatchProcess->setFocus();
+    ShowRunning(job_.IsRunning());
+    if (!job_.IsRunning()) {
+        ui_->CmdBatchProcess->setFocus();
+    }
 }
 
 FormBatch::~FormBatch() = default;
 
 void FormBatch::FillChoices() {
     SaveWish wish = WishOf(settings_);
-    if (!choices_.folder.isEmpty()) {
-        wish.encoding.type = choices_.type;
-        wish.encoding.quality = choices_.jpegQuality;
+    if (!job_.choices.folder.isEmpty()) {
+        wish.encoding.type = job_.choices.type;
+        wish.encoding.quality = job_.choices.jpegQuality;
     }
     ui_->PanelOutput->Show(wish, usualPattern);
-    ui_->PanelOutput->SetNextToPhoto(choices_.nextToPhoto);
+    ui_->PanelOutput->SetNextToPhoto(job_.choices.nextToPhoto);
     AddNameAdditions();
 }
 
@@ -123,7 +117,7 @@ void FormBatch::AddNameAdditions() {
         box->setAccessibleName(tr("Name addition for %1").arg(name));
         box->setMinimumWidth(120);
         box->setPlaceholderText(name);
-        box->setText(choices_.additions.texts[projection]);
+        box->setText(job_.choices.additions.texts[projection]);
         box->setValidator(plain);
         auto* const heading = new QLabel(u'&' + name, ui_->FrameAdditions);
         heading->setObjectName(QStringLiteral("Heading") + box->objectName());
@@ -149,16 +143,32 @@ void FormBatch::ConnectControls() {
     new WheelGuard(ui_->Drive2);
     connect(ui_->CmdNewFolder, &QPushButton::clicked, this, &FormBatch::MakeFolder);
     connect(ui_->CmdBatchProcess, &QPushButton::clicked, this, &FormBatch::Process);
-    connect(ui_->CmdStop, &QPushButton::clicked, this, &FormBatch::Stop);
+    connect(ui_->CmdShowInFolder, &QPushButton::clicked, this,
+            [this] { Q_EMIT ShowInFolderWanted(job_.Summary().written.value(0)); });
     connect(ui_->CmdClearBatchQue, &QPushButton::clicked, this, &FormBatch::ClearQueue);
     connect(ui_->CmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ui_->CmdCopy, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(ui_->TextSummary->toPlainText()); });
 }
 
+void FormBatch::ConnectRun() {
+    new BatchProgress(job_,
+                      {ui_->ListQueue, ui_->LabelImage, ui_->ProgressImage, ui_->LabelProgress,
+                       ui_->ProgressRun, ui_->LabelTimeLeft},
+                      this);
+    connect(ui_->CmdStop, &QPushButton::clicked, &job_, &BatchJob::Stop);
+    connect(ui_->CmdPause, &QPushButton::clicked, &job_, [this] { job_.Pause(!job_.IsPaused()); });
+    connect(ui_->CmdBackground, &QPushButton::clicked, this, [this] { done(Rejected); });
+    connect(&job_, &BatchJob::Stopping, this,
+            [this] { ui_->CmdStop->setText(tr("Wait this image")); });
+    connect(&job_, &BatchJob::PauseChanged, this, &FormBatch::ShowPaused);
+    connect(&job_, &BatchJob::Ended, this, &FormBatch::ShowEnd);
+    connect(pictures_.get(), &QueuePictures::DayFound, this, &FormBatch::ShowNames);
+}
+
 // The last one used; at first where the photos are.
 QString FormBatch::StartFolder() const {
-    QStringList wishes{choices_.folder};
+    QStringList wishes{job_.choices.folder};
     if (!queue_.Empty()) {
         wishes.append(queue_(1).Folder + u'/');
     }
@@ -187,13 +197,20 @@ BatchChoices FormBatch::Choices() const {
     return choices;
 }
 
+// Of the first entry, whose name is the example.
+NameFacts FormBatch::FirstFacts(const BatchChoices& choices) const {
+    return queue_.Empty() ? NameFacts() : FactsOf(queue_, 1, choices, pictures_->Days());
+}
+
 void FormBatch::ShowQueue() {
-    const int queued = queue_.UpperBound();
+    const int lines = lines_->rowCount();
     lines_->Reset();
-    ui_->HeadingListQueue->setText(queued == 1 ? tr("1 queued image")
-                                               : tr("%1 queued images").arg(queued));
-    ui_->CmdClearBatchQue->setEnabled(queued > 0);
-    ui_->LabelProgress->setText(BatchProgressText(0, queued));
+    ui_->HeadingListQueue->setText(lines == 1 ? tr("1 queued image")
+                                              : tr("%1 queued images").arg(lines));
+    ui_->CmdClearBatchQue->setEnabled(!queue_.Empty());
+    if (!lines_->ShowsRun()) {
+        ui_->LabelProgress->setText(BatchProgressText(0, lines));
+    }
     ShowNames();
     ShowSpace();
 }
@@ -201,13 +218,20 @@ void FormBatch::ShowQueue() {
 // What the run will do to the folder.
 void FormBatch::ShowNames() {
     const BatchChoices choices = Choices();
+    if (NamesDay(choices.pattern)) {
+        QStringList paths;
+        for (const ImageRecord& entry : queue_) {
+            paths.append(SourcePath(entry));
+        }
+        pictures_->WantDays(paths);
+    }
     ui_->FrameFolder->setEnabled(!choices.nextToPhoto);
     ui_->LabelFolder->setText(QDir::toNativeSeparators(choices.folder));
     ui_->LabelFolder->setToolTip(ui_->LabelFolder->text());
-    ui_->PanelOutput->ShowExample(ExampleName(queue_, choices));
+    ui_->PanelOutput->ShowExample(ExampleName(queue_, choices, FirstFacts(choices)));
     ui_->CmdBatchProcess->setEnabled(!queue_.Empty() && ui_->PanelOutput->PatternError().isEmpty());
-    ShowText(ui_->LabelNames,
-             NamesText(CollidingNames(queue_, choices), ExistingNames(queue_, choices)));
+    ShowText(ui_->LabelNames, NamesText(CollidingNames(queue_, choices, pictures_->Days()),
+                                        ExistingNames(queue_, choices, pictures_->Days())));
 }
 
 void FormBatch::ShowSpace() {
@@ -224,16 +248,34 @@ void FormBatch::ShowRunning(bool running) {
     ui_->CmdClearBatchQue->setVisible(!running);
     ui_->CmdBatchProcess->setVisible(!running);
     ui_->CmdStop->setVisible(running);
-    ui_->CmdStop->setText(tr("Stop"));
+    ui_->CmdPause->setVisible(running);
+    ui_->CmdBackground->setVisible(running);
+    ui_->CmdStop->setText(job_.IsStopping() ? tr("Wait this image") : tr("Stop"));
     ui_->StackPages->setEnabled(!running);
-    setCursor(running ? Qt::BusyCursor : Qt::ArrowCursor);
+    ShowPaused(job_.IsPaused());
     if (running) {
         ui_->CmdStop->setFocus();
     }
 }
 
+void FormBatch::ShowPaused(bool paused) {
+    ui_->CmdPause->setText(paused ? tr("Go on") : tr("Pause"));
+    setCursor(job_.IsRunning() && !paused ? Qt::BusyCursor : Qt::ArrowCursor);
+}
+
+void FormBatch::ShowEnd() {
+    ShowRunning(false);
+    ShowQueue();
+    if (job_.Shortage().isEmpty()) {
+        ShowSummary(job_.Summary());
+    } else {
+        notices_.Tell(job_.Shortage(), QString());
+    }
+}
+
 void FormBatch::ShowSummary(const BatchSummary& summary) {
     ui_->TextSummary->setPlainText(SummaryText(summary));
+    ui_->CmdShowInFolder->setEnabled(!summary.written.isEmpty());
     ui_->StackPages->setCurrentWidget(ui_->PageSummary);
     ui_->LabelProgress->setText(BatchProgressText(summary.done, summary.queued));
     ui_->LabelTimeLeft->clear();
@@ -242,45 +284,22 @@ void FormBatch::ShowSummary(const BatchSummary& summary) {
     ui_->CmdCancel->setFocus();
 }
 
+// Returns when the run has ended, or when the dialog was closed and the run goes on.
 void FormBatch::Process() {
-    choices_ = Choices();
+    job_.choices = Choices();
     TakeWish(ui_->PanelOutput->Wish(), settings_);
-    if (const QString error = FoldersError(queue_, choices_); !error.isEmpty()) {
+    if (const QString error = FoldersError(queue_, job_.choices); !error.isEmpty()) {
         notices_.Tell(error, tr("Choose another folder."));
         return;
     }
-    BatchSummary summary;
-    const QString shortage = Shortage([&] { summary = Run(); });
-    if (!shortage.isEmpty()) {
-        notices_.Tell(shortage, QString());
-        return;
-    }
-    for (qsizetype n = 0; n < summary.written.size(); ++n) {
-        Q_EMIT Written(queue_(summary.entries[n]), summary.written[n]);
-    }
-    ClearQueue();
-    ShowSummary(summary);
-}
-
-BatchSummary FormBatch::Run() {
-    progress_->Start(queue_.UpperBound());
+    QEventLoop wait;
+    connect(this, &QDialog::finished, &wait, &QEventLoop::quit);
+    connect(&job_, &BatchJob::Ended, &wait, &QEventLoop::quit);
+    job_.Start(std::exchange(queue_, {}), job_.choices, settings_.AutoOrient);
+    lines_->ShowRun(true);
+    queueChanged_(0);
     ShowRunning(true);
-    const auto atEnd = qScopeGuard([this] {
-        ShowRunning(false);
-        progress_->Stop();
-    });
-    EventsMeanwhile wait;
-    ThreadRunner& pool = workers_.pool;
-    PrefetchingReader feed(workers_.reader, MoreReaders(pool.Cores()), wait, settings_.AutoOrient,
-                           &pool);
-    ConversionPorts ports = PortsFor(feed);
-    ports.cores = &pool;
-    return RunBatch(queue_, choices_, *progress_, ports);
-}
-
-void FormBatch::Stop() {
-    ui_->CmdStop->setText(tr("Wait this image"));
-    progress_->Stop();
+    wait.exec();
 }
 
 void FormBatch::ClearQueue() {
@@ -298,15 +317,15 @@ void FormBatch::MakeFolder() {
 }
 
 void FormBatch::reject() {
-    if (ui_->CmdStop->isVisibleTo(this)) {
-        Stop();
+    if (job_.IsRunning()) {
+        job_.Stop();
     } else {
         QDialog::reject();
     }
 }
 
 void FormBatch::done(int result) {
-    choices_ = Choices();
+    job_.choices = Choices();
     TakeWish(ui_->PanelOutput->Wish(), settings_);
     QDialog::done(result);
 }

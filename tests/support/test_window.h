@@ -73,11 +73,11 @@ class FakeDialogs : public Dialogs {
             onDefaults();
         }
     }
-    void ProcessBatch(const QueueChanged& queueChanged, const PictureWritten& written,
+    void ProcessBatch(BatchJob& job, const QueueChanged& queueChanged,
                       QWidget* /*parent*/) override {
         opened.append(QStringLiteral("FormBatch"));
         if (onBatch) {
-            onBatch(written);
+            onBatch(job);
         }
         if (onQueue) {
             onQueue(queueChanged);
@@ -130,7 +130,7 @@ class FakeDialogs : public Dialogs {
     std::function<void()> onDefaults;
     std::function<std::optional<MeasuredLensUse>(std::optional<PhotoToMeasure>)> onStraighten;
     std::function<void(const QueueChanged&)> onQueue;  // of the batch and the morph dialog
-    std::function<void(const PictureWritten&)> onBatch;
+    std::function<void(BatchJob&)> onBatch;
     UnsavedWork unsaved;
     std::vector<LostList> lost;
     Restore restore = Restore::Later;

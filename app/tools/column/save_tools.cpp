@@ -11,14 +11,14 @@
 namespace varnel {
 
 SaveTools::SaveTools(QMainWindow* window, const WindowParts& parts, Workspace& workspace,
-                     ListTools& list, const WorkingState& state, const WindowPorts& ports)
+                     ListTools& list, const WindowPorts& ports, BatchJob& job)
     : QObject(window),
       window_(window),
       panel_(*parts.save),
       workspace_(workspace),
       list_(list),
-      state_(state),
       ports_(ports),
+      job_(job),
       saveImage_(parts.entries.saveImage),
       morph_(parts.entries.morph),
       showInFolder_(NamedButton("CmdShowInFolder", tr("Show in folder"),
@@ -36,6 +36,14 @@ SaveTools::SaveTools(QMainWindow* window, const WindowParts& parts, Workspace& w
     connect(panel_.AddToQueue(), &QAbstractButton::clicked, this, &SaveTools::QueueAll);
     connect(panel_.ProcessQueue(), &QAbstractButton::clicked, this, &SaveTools::ProcessBatch);
     connect(&workspace_.model.list, &ImageSelection::Refilled, this, &SaveTools::UpdateEnabled);
+    connect(&job_, &BatchJob::Written, this, [this](const ImageRecord& entry, const QString& file) {
+        workspace_.model.steps.MarkWritten(entry, file);
+    });
+    connect(&job_, &BatchJob::Ended, this, [this] {
+        if (!job_.Summary().written.isEmpty()) {
+            ShowSaved(job_.Summary().written.last());
+        }
+    });
     UpdateEnabled();
 }
 
@@ -49,12 +57,7 @@ void SaveTools::QueueAll() {
 }
 
 void SaveTools::ProcessBatch() {
-    ports_.dialogs.ProcessBatch(
-        ShowsQueue(),
-        [this](const ImageRecord& entry, const QString& file) {
-            workspace_.model.steps.MarkWritten(entry, file);
-        },
-        window_);
+    ports_.dialogs.ProcessBatch(job_, ShowsQueue(), window_);
 }
 
 void SaveTools::Morph() {
@@ -74,7 +77,7 @@ void SaveTools::ShowSaved(const QString& path) {
 }
 
 void SaveTools::UpdateEnabled() {
-    const bool photos = !state_.Images.Empty();
+    const bool photos = !workspace_.model.state.Images.Empty();
     panel_.SaveAs()->setEnabled(photos);
     panel_.AddToQueue()->setEnabled(photos);
     saveImage_->setEnabled(photos);

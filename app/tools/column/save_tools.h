@@ -20,7 +20,7 @@ class SaveTools : public QObject {
   public:
     // The list marks the photos that are in the queue.
     SaveTools(QMainWindow* window, const WindowParts& parts, Workspace& workspace, ListTools& list,
-              const WorkingState& state, const WindowPorts& ports);
+              const WindowPorts& ports, BatchJob& job);
 
   private:
     void SaveAs();
@@ -35,8 +35,8 @@ class SaveTools : public QObject {
     SavePanel& panel_;
     Workspace& workspace_;
     ListTools& list_;
-    const WorkingState& state_;
     WindowPorts ports_;
+    BatchJob& job_;
     QAction* saveImage_;
     QAction* morph_;
     QPushButton* showInFolder_;  // in the status bar

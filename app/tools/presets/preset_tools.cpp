@@ -12,13 +12,15 @@
 namespace varnel {
 
 PresetTools::PresetTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                         Workspace& workspace, SettingsStore& store, Dialogs& dialogs)
+                         Workspace& workspace, SettingsStore& store, Dialogs& dialogs,
+                         BatchJob& batch)
     : QObject(window),
       window_(window),
       view_(view),
       workspace_(workspace),
       store_(store),
       dialogs_(dialogs),
+      batch_(batch),
       commands_(workspace) {
     AddEntries(parts.editMenu);
     connect(&workspace_.model.list, &ImageSelection::Refilled, this, &PresetTools::UpdateEnabled);
@@ -90,6 +92,9 @@ void PresetTools::Paste() {
 void PresetTools::Apply(const Preset& preset) {
     TakeTyped(*window_);
     if (commands_.Apply(preset)) {
+        const SaveWish wish = WishOf(workspace_.model.state.settings);
+        batch_.choices.type = wish.encoding.type;
+        batch_.choices.jpegQuality = wish.encoding.quality;
         view_.ShowStatus(
             tr("Saving follows the preset \"%1\" from now on").arg(ShownPresetName(preset.name)));
     }

@@ -18,7 +18,7 @@ class PresetTools : public QObject {
     Q_OBJECT
   public:
     PresetTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                Workspace& workspace, SettingsStore& store, Dialogs& dialogs);
+                Workspace& workspace, SettingsStore& store, Dialogs& dialogs, BatchJob& batch);
 
   private:
     void AddEntries(QMenu* edit);
@@ -34,6 +34,7 @@ class PresetTools : public QObject {
     Workspace& workspace_;
     SettingsStore& store_;
     Dialogs& dialogs_;
+    BatchJob& batch_;
     PresetCommands commands_;
     QAction* copy_ = nullptr;
     QAction* paste_ = nullptr;

@@ -93,10 +93,10 @@ void ShowPresetForms(TestWindow& workspace, const Look& look) {
 }
 
 void ShowBatch(TestWindow& workspace, const Look& look) {
-    BatchChoices choices;
+    BatchJob job;
     FormBatch batch(
-        workspace.state.BatchQueue, choices, workspace.state.settings,
-        {Reader(), workspace.state.pool}, workspace.notices, [](int) {}, nullptr, &OneVolume);
+        workspace.state.BatchQueue, job, workspace.state.settings, workspace.notices, [](int) {},
+        nullptr, &OneVolume);
     Show(batch, look);
     batch.findChild<QAbstractButton*>(QStringLiteral("CmdBatchProcess"))->click();
     EXPECT_TRUE(Settle());

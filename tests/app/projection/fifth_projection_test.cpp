@@ -165,14 +165,12 @@ TEST(FifthProjection, HasABoxForItsNameInTheBatchDialogAndIsWritten) {
     queue.Append(SlantRecord());
     queue(1).Folder = QDir::cleanPath(files.Path({}));
     queue(1).FileName = Q("IMG.bmp");
-    BatchChoices choices;
-    choices.folder = queue(1).Folder;
-    choices.type = OutputType::Bmp;
+    BatchJob job;
+    job.choices.folder = queue(1).Folder;
+    job.choices.type = OutputType::Bmp;
     GeneralSettings settings;
     testing::FakeNotices notices;
-    ThreadRunner pool;
-    FormBatch form(queue, choices, settings, BatchWorkers{testing::Reader(), pool}, notices,
-                   [](int) {});
+    FormBatch form(queue, job, settings, notices, [](int) {});
     form.show();
     auto* const box = form.findChild<QLineEdit*>(Q("TextFileadditionSlant"));
     ASSERT_NE(box, nullptr);

@@ -119,8 +119,8 @@ std::vector<Work> Works() {
     const auto convert = [queue](TestWindow& workspace) {
         Adjust(workspace);
         queue(workspace);
-        workspace.dialogs.onBatch = [&](const PictureWritten& written) {
-            written(workspace.state.BatchQueue(2), Text("/out/b"));
+        workspace.dialogs.onBatch = [&](BatchJob& job) {
+            Q_EMIT job.Written(workspace.state.BatchQueue(2), Text("/out/b"));
             workspace.state.BatchQueue.Clear();
         };
         workspace.Click("CmdBatchProcess");

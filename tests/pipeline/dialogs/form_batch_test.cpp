@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QListView>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -51,8 +53,7 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
         }
     }
     void Open() {
-        form = std::make_unique<FormBatch>(queue, choices, settings,
-                                           BatchWorkers{testing::Reader(), pool}, notices,
+        form = std::make_unique<FormBatch>(queue, job, settings, notices,
                                            [this](int length) { lengths.append(length); });
         form->show();
     }
@@ -81,7 +82,7 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, form.get(), [&] {
             if (!acted && Label("LabelProgress").startsWith(Text("%1 of ").arg(done)) &&
-                The<QPushButton>("CmdStop").isVisible() && !Label("LabelImage").isEmpty()) {
+                job.IsRunning() && job.ProgressOf(done + 1).state == EntryState::Working) {
                 acted = true;
                 action();
             }
@@ -93,9 +94,9 @@ class FormBatchTest : public testing::DialogTest<FormBatch> {
 
     testing::PictureFolder files;
     RecordArray<ImageRecord> queue;
-    BatchChoices choices;
+    BatchJob job;
+    BatchChoices& choices = job.choices;
     GeneralSettings settings;
-    ThreadRunner pool;
     QList<int> lengths;
 };
 
@@ -168,15 +169,76 @@ TEST_F(FormBatchTest, DuringARunOnlyStopCanBeUsed) {
         EXPECT_EQ(Buttons(), Text("CmdStop"));
         EXPECT_EQ(Label("LabelImage"), Out() + Text("/02.Equidistance.BMP"));
         EXPECT_EQ(The<QListView>("ListQueue").currentIndex().row(), 1);
+        QStringList usable;
         for (const QWidget* const widget : form->findChildren<QWidget*>()) {
             if (widget->isVisible() && widget->isEnabled() &&
                 widget->focusPolicy() != Qt::NoFocus) {
-                EXPECT_EQ(widget->objectName(), Text("CmdStop"));
+                usable.append(widget->objectName());
             }
         }
+        EXPECT_EQ(usable.join(u' '), Text("ListQueue CmdBackground CmdPause CmdStop"));
+        const QAbstractItemModel& lines = *The<QListView>("ListQueue").model();
+        EXPECT_TRUE(
+            lines.index(0, 0).data().toString().endsWith(Text("\nwritten: 01.Equidistance.BMP")));
+        EXPECT_TRUE(lines.index(1, 0).data().toString().endsWith(Text("\nbeing converted")));
         Type("TextFileadditionEquidistance", "late");
     });
     EXPECT_EQ(OutNames().join(u' '), Text("01.Equidistance.BMP 02.Equidistance.BMP"));
+}
+
+TEST_F(FormBatchTest, APausedRunWaitsAndGoesOnWhereItWas) {
+    QueuePhotos(6);
+    Open();
+    RunAnd(2, [this] {
+        Click("CmdPause");
+        EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Go on"));
+        QTimer::singleShot(400, form.get(), [this] {
+            EXPECT_LE(job.Done(), 3) << "six such images take a fraction of that";
+            EXPECT_TRUE(job.IsRunning());
+            Click("CmdPause");
+        });
+    });
+    EXPECT_EQ(OutNames().size(), 6);
+    EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Pause"));
+}
+
+TEST_F(FormBatchTest, TheRunGoesOnWithoutTheDialogAndTakesItsEntriesAlong) {
+    QueuePhotos(8);
+    Open();
+    RunAnd(1, [this] {
+        EXPECT_TRUE(queue.Empty());
+        EXPECT_EQ(lengths, QList<int>{0});
+        job.Pause(true);
+        Click("CmdBackground");
+    });
+    EXPECT_FALSE(form->isVisible());
+    ASSERT_TRUE(job.IsRunning());
+    queue.Append(
+        testing::FisheyePhoto(files.Path(Text("in")), Text("01.bmp"), Projection::Horizon));
+    Open();
+    EXPECT_EQ(Buttons(), Text("CmdStop"));
+    EXPECT_EQ(The<QListView>("ListQueue").model()->rowCount(), 8);
+    EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Go on"));
+    Click("CmdPause");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !job.IsRunning(); }));
+    EXPECT_EQ(OutNames().size(), 8);
+    EXPECT_EQ(queue.UpperBound(), 1) << "what was added meanwhile stays queued";
+    EXPECT_TRUE(The<QPlainTextEdit>("TextSummary").isVisible());
+    Click("CmdBatchProcess");
+    EXPECT_EQ(OutNames().size(), 9);
+}
+
+TEST_F(FormBatchTest, LinesHaveSmallPicturesAndNamesTheDayOfTheirPhoto) {
+    QueuePhotos(2);
+    Open();
+    const QAbstractItemModel& lines = *The<QListView>("ListQueue").model();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return !lines.index(1, 0).data(Qt::DecorationRole).value<QPixmap>().isNull(); }));
+    The<QLineEdit>("TextNamePattern").setText(Text("{date}"));
+    const QString today =
+        QFileInfo(SourcePath(queue(1))).lastModified().date().toString(Qt::ISODate);
+    EXPECT_EQ(Label("LabelExample"), today + Text(".BMP"));
+    EXPECT_TRUE(Label("LabelNames").startsWith(Text("1 name collides")));
 }
 
 TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
@@ -212,11 +274,10 @@ TEST_F(FormBatchTest, TheSummaryCanBeReadAndCopied) {
     const ImageRecord photo = queue(2);
     Open();
     QStringList written;
-    QObject::connect(form.get(), &FormBatch::Written,
-                     [&](const ImageRecord& entry, const QString& path) {
-                         EXPECT_EQ(entry.FileName, photo.FileName);
-                         written.append(path);
-                     });
+    QObject::connect(&job, &BatchJob::Written, [&](const ImageRecord& entry, const QString& path) {
+        EXPECT_EQ(entry.FileName, photo.FileName);
+        written.append(path);
+    });
     Click("CmdBatchProcess");
     EXPECT_EQ(written, QStringList{Out() + Text("/01.Equidistance.BMP")});
     const auto& text = The<QPlainTextEdit>("TextSummary");

@@ -410,6 +410,38 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Back to the main window; the queue stays as it is</source>
         <translation>Zurück zum Hauptfenster; der Stapel bleibt, wie er ist</translation>
     </message>
+    <message>
+        <source>Show in &amp;folder</source>
+        <translation>Im &amp;Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Show the written images in the file manager</source>
+        <translation>Die geschriebenen Bilder in der Dateiverwaltung zeigen</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Go on editing</source>
+        <translation>&amp;Weiter bearbeiten</translation>
+    </message>
+    <message>
+        <source>Back to the main window; the run goes on meanwhile</source>
+        <translation>Zurück zum Hauptfenster; der Lauf geht inzwischen weiter</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Weiter bearbeiten</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Hold the run where it is, and let it go on</source>
+        <translation>Den Lauf anhalten und weiterlaufen lassen</translation>
+    </message>
 </context>
 <context>
     <name>FormGearEdit</name>
@@ -3083,6 +3115,49 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::BatchTools</name>
+    <message>
+        <source>Progress of the batch</source>
+        <translation>Fortschritt des Stapels</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Holds the batch where it is, and lets it go on</source>
+        <translation>Hält den Stapel an und lässt ihn weiterlaufen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Finishes the batch&apos;s image at hand and leaves out the others</source>
+        <translation>Beendet das Bild in Arbeit und lässt die anderen aus</translation>
+    </message>
+    <message>
+        <source>Batch: finishing the image at hand</source>
+        <translation>Stapel: das Bild in Arbeit wird beendet</translation>
+    </message>
+    <message>
+        <source>Batch: %1</source>
+        <translation>Stapel: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written</source>
+        <translation>Stapel: %1 Bilder geschrieben</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written, %2 failed</source>
+        <translation>Stapel: %1 Bilder geschrieben, %2 fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>varnel::CircleBar</name>
     <message>
         <source>Find circle</source>
@@ -3364,6 +3439,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>All images: %1</source>
         <translation>Alle Bilder: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>
@@ -4109,6 +4192,29 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Not the usual value; a click resets it</source>
         <translation>Nicht der übliche Wert; ein Klick setzt ihn zurück</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::QueueModel</name>
+    <message>
+        <source>being converted</source>
+        <translation>wird umgewandelt</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>wartet</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
     </message>
 </context>
 <context>

@@ -49,8 +49,9 @@ QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& c
 
 }  // namespace
 
-FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job, GeneralSettings& settings,
-                     Notices& notices, std::function<void(int)> queueChanged, QWidget* parent,
+FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job,
+                     const GeneralSettings& settings, Notices& notices,
+                     std::function<void(int)> queueChanged, QWidget* parent,
                      const FolderChooser::Volumes& volumes)
     : QDialog(parent),
       ui_(std::make_unique<Ui::FormBatch>()),
@@ -84,11 +85,10 @@ FormBatch::FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job, GeneralSett
 FormBatch::~FormBatch() = default;
 
 void FormBatch::FillChoices() {
-    SaveWish wish = WishOf(settings_);
-    if (!job_.choices.folder.isEmpty()) {
-        wish.encoding.type = job_.choices.type;
-        wish.encoding.quality = job_.choices.jpegQuality;
-    }
+    const BatchChoices& last = job_.choices;
+    const SaveWish wish = last.folder.isEmpty()
+                              ? WishOf(settings_)
+                              : SaveWish{EncodingOf(last), last.writeMetadata, last.pattern};
     ui_->PanelOutput->Show(wish, usualPattern);
     ui_->PanelOutput->SetNextToPhoto(job_.choices.nextToPhoto);
     AddNameAdditions();
@@ -287,7 +287,6 @@ void FormBatch::ShowSummary(const BatchSummary& summary) {
 // Returns when the run has ended, or when the dialog was closed and the run goes on.
 void FormBatch::Process() {
     job_.choices = Choices();
-    TakeWish(ui_->PanelOutput->Wish(), settings_);
     if (const QString error = FoldersError(queue_, job_.choices); !error.isEmpty()) {
         notices_.Tell(error, tr("Choose another folder."));
         return;
@@ -326,7 +325,6 @@ void FormBatch::reject() {
 
 void FormBatch::done(int result) {
     job_.choices = Choices();
-    TakeWish(ui_->PanelOutput->Wish(), settings_);
     QDialog::done(result);
 }
 

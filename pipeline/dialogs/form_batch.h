@@ -32,11 +32,10 @@ class FormBatch : public QDialog {
 
   public:
     // A run takes its entries out of the queue. While one is under way the dialog shows that. The
-    // job's choices are taken over when the dialog closes and when a run starts, and so are
-    // quality, colour, metadata and pattern of names into the settings, from which they come; as
-    // long as no folder was chosen, the file type does, too. queueChanged is called with the
-    // queue's new length.
-    FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job, GeneralSettings& settings,
+    // job's choices are taken over when the dialog closes and when a run starts; as long as no
+    // folder was chosen, they come from the settings. queueChanged is called with the queue's new
+    // length.
+    FormBatch(RecordArray<ImageRecord>& queue, BatchJob& job, const GeneralSettings& settings,
               Notices& notices, std::function<void(int)> queueChanged, QWidget* parent = nullptr,
               const FolderChooser::Volumes& volumes = MountedVolumes);
     ~FormBatch() override;
@@ -74,7 +73,7 @@ class FormBatch : public QDialog {
     std::unique_ptr<Ui::FormBatch> ui_;
     RecordArray<ImageRecord>& queue_;
     BatchJob& job_;
-    GeneralSettings& settings_;
+    const GeneralSettings& settings_;
     Notices& notices_;
     std::function<void(int)> queueChanged_;
     std::unique_ptr<QueueModel> lines_;

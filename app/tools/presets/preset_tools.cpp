@@ -8,8 +8,28 @@
 
 #include "app/panels/menu_entry.h"
 #include "app/panels/typed_number.h"
+#include "pipeline/output/preset_output.h"
+#include "pipeline/output/save_wish.h"
 
 namespace varnel {
+
+namespace {
+
+// What the preset does not name stays as the batch has it.
+void TakeOutput(const PictureSettings& preset, BatchChoices& batch) {
+    GeneralSettings settings;
+    settings.FileType = ToText(batch.type);
+    TakeWish({EncodingOf(batch), batch.writeMetadata, batch.pattern}, settings);
+    varnel::TakeOutput(preset, settings);
+    const SaveWish wish = WishOf(settings);
+    batch.type = wish.encoding.type;
+    batch.jpegQuality = wish.encoding.quality;
+    batch.chroma444 = wish.encoding.chroma444;
+    batch.writeMetadata = wish.writeMetadata;
+    batch.pattern = wish.pattern;
+}
+
+}  // namespace
 
 PresetTools::PresetTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
                          Workspace& workspace, SettingsStore& store, Dialogs& dialogs,
@@ -92,9 +112,7 @@ void PresetTools::Paste() {
 void PresetTools::Apply(const Preset& preset) {
     TakeTyped(*window_);
     if (commands_.Apply(preset)) {
-        const SaveWish wish = WishOf(workspace_.model.state.settings);
-        batch_.choices.type = wish.encoding.type;
-        batch_.choices.jpegQuality = wish.encoding.quality;
+        TakeOutput(preset.settings, batch_.choices);
         view_.ShowStatus(
             tr("Saving follows the preset \"%1\" from now on").arg(ShownPresetName(preset.name)));
     }

@@ -92,7 +92,13 @@ TEST(PresetMenu, AppliesBuiltInAndOwnPresetsAndOpensTheDialogs) {
     EXPECT_EQ(workspace.dialogs.shownInFolder, QStringList{workspace.files.Path(Text("r.PNG"))});
     PresetEntry(workspace, "&Save as preset...")->trigger();
     PresetEntry(workspace, "&Manage presets...")->trigger();
-    EXPECT_EQ(workspace.dialogs.opened.join(u','), Text("FormSavePreset a.bmp,FormPresets"));
+    workspace.dialogs.onBatch = [](BatchJob& job) {
+        EXPECT_EQ(job.choices.type, OutputType::Png);
+        EXPECT_TRUE(job.choices.pattern.isEmpty());
+    };
+    workspace.Click("CmdBatchProcess");
+    EXPECT_EQ(workspace.dialogs.opened.join(u','),
+              Text("FormSavePreset a.bmp,FormPresets,FormBatch"));
 }
 
 }  // namespace

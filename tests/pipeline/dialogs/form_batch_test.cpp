@@ -3,102 +3,19 @@
 
 #include "pipeline/dialogs/form_batch.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QListView>
-#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QSlider>
 #include <QSpinBox>
-#include <QTimer>
-#include <QTreeView>
 
-#include "tests/support/dialogs.h"
-#include "tests/support/files.h"
-#include "tests/support/loading.h"
-#include "tests/support/records.h"
+#include "tests/pipeline/dialogs/batch_dialog.h"
 #include "tests/support/settled.h"
-#include "tests/support/texts.h"
 
 namespace varnel {
 namespace {
 
+using testing::FormBatchTest;
 using testing::Text;
-
-// A queue of photos in "in", written into "out".
-class FormBatchTest : public testing::DialogTest<FormBatch> {
-  protected:
-    FormBatchTest() {
-        QDir(files.Path({})).mkdir(Text("in"));
-        QDir(files.Path({})).mkdir(Text("out"));
-        choices.folder = Out();
-        choices.type = OutputType::Bmp;
-    }
-    QString Out() const { return QDir::cleanPath(files.Path(Text("out"))); }
-    QStringList OutNames() const { return QDir(Out()).entryList(QDir::Files, QDir::Name); }
-    void Queue(const QString& name, Projection projection = Projection::Equidistance) {
-        queue.Append(testing::FisheyePhoto(files.Path(Text("in")), name, projection));
-    }
-    // Good photos named 01.bmp and so on.
-    void QueuePhotos(int count) {
-        for (int n = 1; n <= count; ++n) {
-            const QString name = Text("%1.bmp").arg(n, 2, 10, QChar(u'0'));
-            files.Picture(Text("in/") + name, OutputType::Bmp);
-            Queue(name);
-        }
-    }
-    void Open() {
-        form = std::make_unique<FormBatch>(queue, job, settings, notices,
-                                           [this](int length) { lengths.append(length); });
-        form->show();
-    }
-    void Type(const char* box, const char* text) const {
-        QTest::keyClicks(&The<QLineEdit>(box), Text(text));
-    }
-    // The box in which a folder is being named.
-    static QLineEdit* InEditor() {
-        auto* const box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        return box != nullptr && qobject_cast<QTreeView*>(box->parent()->parent()) ? box : nullptr;
-    }
-    // Which of the four buttons can be seen.
-    QString Buttons() const {
-        QStringList names;
-        for (const char* name : {"CmdBatchProcess", "CmdStop", "CmdCancel", "CmdClearBatchQue"}) {
-            if (The<QPushButton>(name).isVisible()) {
-                names.append(Text(name));
-            }
-        }
-        return names.join(u' ');
-    }
-    // Clicks the start button and does that while the image after done others is in work.
-    template <class Action>
-    void RunAnd(int done, Action action) {
-        bool acted = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, form.get(), [&] {
-            if (!acted && Label("LabelProgress").startsWith(Text("%1 of ").arg(done)) &&
-                job.IsRunning() && job.ProgressOf(done + 1).state == EntryState::Working) {
-                acted = true;
-                action();
-            }
-        });
-        timer.start(0);
-        Click("CmdBatchProcess");
-        EXPECT_TRUE(acted);
-    }
-
-    testing::PictureFolder files;
-    RecordArray<ImageRecord> queue;
-    BatchJob job;
-    BatchChoices& choices = job.choices;
-    GeneralSettings settings;
-    QList<int> lengths;
-};
 
 TEST_F(FormBatchTest, HasItsControlsAndTheSettingsAtFirst) {
     QueuePhotos(2);
@@ -184,61 +101,6 @@ TEST_F(FormBatchTest, DuringARunOnlyStopCanBeUsed) {
         Type("TextFileadditionEquidistance", "late");
     });
     EXPECT_EQ(OutNames().join(u' '), Text("01.Equidistance.BMP 02.Equidistance.BMP"));
-}
-
-TEST_F(FormBatchTest, APausedRunWaitsAndGoesOnWhereItWas) {
-    QueuePhotos(6);
-    Open();
-    RunAnd(2, [this] {
-        Click("CmdPause");
-        EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Go on"));
-        QTimer::singleShot(400, form.get(), [this] {
-            EXPECT_LE(job.Done(), 3) << "six such images take a fraction of that";
-            EXPECT_TRUE(job.IsRunning());
-            Click("CmdPause");
-        });
-    });
-    EXPECT_EQ(OutNames().size(), 6);
-    EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Pause"));
-}
-
-TEST_F(FormBatchTest, TheRunGoesOnWithoutTheDialogAndTakesItsEntriesAlong) {
-    QueuePhotos(8);
-    Open();
-    RunAnd(1, [this] {
-        EXPECT_TRUE(queue.Empty());
-        EXPECT_EQ(lengths, QList<int>{0});
-        job.Pause(true);
-        Click("CmdBackground");
-    });
-    EXPECT_FALSE(form->isVisible());
-    ASSERT_TRUE(job.IsRunning());
-    queue.Append(
-        testing::FisheyePhoto(files.Path(Text("in")), Text("01.bmp"), Projection::Horizon));
-    Open();
-    EXPECT_EQ(Buttons(), Text("CmdStop"));
-    EXPECT_EQ(The<QListView>("ListQueue").model()->rowCount(), 8);
-    EXPECT_EQ(The<QPushButton>("CmdPause").text(), Text("Go on"));
-    Click("CmdPause");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !job.IsRunning(); }));
-    EXPECT_EQ(OutNames().size(), 8);
-    EXPECT_EQ(queue.UpperBound(), 1) << "what was added meanwhile stays queued";
-    EXPECT_TRUE(The<QPlainTextEdit>("TextSummary").isVisible());
-    Click("CmdBatchProcess");
-    EXPECT_EQ(OutNames().size(), 9);
-}
-
-TEST_F(FormBatchTest, LinesHaveSmallPicturesAndNamesTheDayOfTheirPhoto) {
-    QueuePhotos(2);
-    Open();
-    const QAbstractItemModel& lines = *The<QListView>("ListQueue").model();
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return !lines.index(1, 0).data(Qt::DecorationRole).value<QPixmap>().isNull(); }));
-    The<QLineEdit>("TextNamePattern").setText(Text("{date}"));
-    const QString today =
-        QFileInfo(SourcePath(queue(1))).lastModified().date().toString(Qt::ISODate);
-    EXPECT_EQ(Label("LabelExample"), today + Text(".BMP"));
-    EXPECT_TRUE(Label("LabelNames").startsWith(Text("1 name collides")));
 }
 
 TEST_F(FormBatchTest, StopEscapeAndCloseFinishTheImageAtHand) {
@@ -337,52 +199,28 @@ TEST_F(FormBatchTest, TellsCollisionsAndMissingSpaceBeforeTheRun) {
         Label("LabelSpace").startsWith(Text("The images may need up to 322.1 TB, but only ")));
 }
 
-TEST_F(FormBatchTest, NamesFollowThePatternAndFilesMayLieNextToTheirPhotos) {
-    QueuePhotos(2);
-    queue(1).Width = 600;
-    queue(1).Height = 400;
-    Open();
-    auto& pattern = The<QLineEdit>("TextNamePattern");
-    EXPECT_EQ(pattern.text(), Text("{name}.{projection}{suffix}{tags}"));
-    EXPECT_EQ(Label("LabelExample"), Text("01.Equidistance.BMP"));
-    EXPECT_EQ(Label("LabelExpectedSize"), Text("All images: about 720 kB"));
-    pattern.clear();
-    QTest::keyClicks(&pattern, Text("a/{n}-{nam"));  // the slash is not taken
-    EXPECT_TRUE(Label("LabelExample").contains(Text("no token {nam")));
-    EXPECT_FALSE(The<QPushButton>("CmdBatchProcess").isEnabled());
-    QTest::keyClicks(&pattern, Text("e}"));
-    EXPECT_EQ(Label("LabelExample"), Text("a1-01.BMP"));
-    Click("NextToPhotoCheck");
-    EXPECT_FALSE(The<QTreeView>("Dir2").isEnabled());
-    Click("CmdBatchProcess");
-    EXPECT_TRUE(OutNames().isEmpty());
-    EXPECT_EQ(QDir(files.Path(Text("in"))).entryList(QDir::Files).join(u' '),
-              Text("01.bmp 02.bmp a1-01.BMP a2-02.BMP"));
-    EXPECT_EQ(settings.NamePattern, Text("a{n}-{name}"));
-    EXPECT_TRUE(The<QPlainTextEdit>("TextSummary")
-                    .toPlainText()
-                    .startsWith(Text("2 of 2 images written next to their photos")));
-}
-
 TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     QueuePhotos(1);
     Open();
     Type("TextFileadditionHorizon", "sky");
     The<QComboBox>("ComboFileType").setCurrentIndex(1);
     The<QSlider>("SliderJPEGcompression").setValue(61);
+    Click("Chroma444Check");
+    Click("WriteMetadataCheck");
+    The<QLineEdit>("TextNamePattern").setText(Text("{n}"));
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_EQ(form->result(), QDialog::Rejected);
-    EXPECT_TRUE(choices.writeMetadata && !choices.chroma444);
+    EXPECT_TRUE(!choices.writeMetadata && choices.chroma444);
     settings.FileType = Text("PNG");
-    settings.JPEGchroma444 = true;
-    settings.WriteMetadata = false;
     Open();
     EXPECT_EQ(Label("LabelFolder"), Out());
     EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("JPEG"));
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 61);
     EXPECT_EQ(The<QLineEdit>("TextFileadditionHorizon").text(), Text("sky"));
+    EXPECT_EQ(The<QLineEdit>("TextNamePattern").text(), Text("{n}"));
     form->reject();
     EXPECT_TRUE(choices.chroma444 && !choices.writeMetadata);
+    EXPECT_EQ(choices.pattern, Text("{n}"));
     EXPECT_EQ(queue.UpperBound(), 1);
 }
 

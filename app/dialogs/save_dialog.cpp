@@ -65,12 +65,13 @@ void SaveDialog::FollowFolder(OutputPanel& panel, const QString& photoFolder) {
         panel.SetNextToPhoto(directory() == QDir(photoFolder));
     };
     connect(this, &QFileDialog::directoryEntered, &panel, show);
-    connect(&panel, &OutputPanel::NextToPhotoToggled, this, [this, photoFolder](bool on) {
+    connect(&panel, &OutputPanel::NextToPhotoToggled, this, [this, photoFolder, show](bool on) {
         if (on && directory() != QDir(photoFolder)) {
             const QString name = TypedName();
             setDirectory(photoFolder);
             findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
         }
+        show();  // another folder is chosen above
     });
     show();
 }

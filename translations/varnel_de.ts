@@ -4184,17 +4184,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
-    <name>varnel::ResetDot</name>
-    <message>
-        <source>Reset: %1</source>
-        <translation>Zurücksetzen: %1</translation>
-    </message>
-    <message>
-        <source>Not the usual value; a click resets it</source>
-        <translation>Nicht der übliche Wert; ein Klick setzt ihn zurück</translation>
-    </message>
-</context>
-<context>
     <name>varnel::QueueModel</name>
     <message>
         <source>being converted</source>
@@ -4215,6 +4204,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>left out</source>
         <translation>ausgelassen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetDot</name>
+    <message>
+        <source>Reset: %1</source>
+        <translation>Zurücksetzen: %1</translation>
+    </message>
+    <message>
+        <source>Not the usual value; a click resets it</source>
+        <translation>Nicht der übliche Wert; ein Klick setzt ihn zurück</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,9 @@
 
 #include "pipeline/conversion/batch_job.h"
 
+#ifdef __linux__
 #include <sys/resource.h>
+#endif
 
 #include <chrono>
 #include <future>

@@ -3954,6 +3954,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Image li&amp;st in the left column</source>
         <translation>Bilderliste in der linken &amp;Spalte</translation>
     </message>
+    <message>
+        <source>Results &amp;as pictures in the list</source>
+        <translation>Ergebnisse als Bi&amp;lder in der Liste</translation>
+    </message>
 </context>
 <context>
     <name>varnel::LevelTools</name>

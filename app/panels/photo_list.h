@@ -17,6 +17,8 @@ class PhotoList : public QListWidget {
   public:
     static constexpr int pathRole = Qt::UserRole + 1;   // the photo's path
     static constexpr int marksRole = Qt::UserRole + 2;  // letters, one mark each
+    // What its picture is made from; the same text means the same picture.
+    static constexpr int pictureRole = Qt::UserRole + 3;
 
     explicit PhotoList(QWidget* parent = nullptr);
     // Pictures with their names below, from left to right, or lines.

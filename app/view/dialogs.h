@@ -109,7 +109,7 @@ struct WindowPorts {
     } sessions = {};
     // Makes what reads added photos for their gear; without it they get the default gear.
     std::function<std::unique_ptr<PictureReader>()> newGearReader = nullptr;
-    // Of the application; without one its colours cannot be chosen.
+    // Of the application; without one its colours stay as they are.
     ThemeKeeper* theme = nullptr;
     // The screen's colour profile, empty for sRGB; without it that is taken.
     std::function<QByteArray()> screenProfile = nullptr;

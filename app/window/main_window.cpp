@@ -108,10 +108,8 @@ void MDIForm1::MakeTools() {
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new HintTools(this, parts_, model_);
     new ToolbarTools(this, parts_, store_);
-    new LayoutTools(this, parts_, store_);
-    if (ports_.theme != nullptr) {
-        new ThemeTools(*parts_.viewMenu, store_, *ports_.theme, this);
-    }
+    new LayoutTools(this, parts_, store_, list->Pictures());
+    new ThemeTools(*parts_.viewMenu, store_, ports_.theme, this);
 }
 
 void MDIForm1::ConnectEntries() {

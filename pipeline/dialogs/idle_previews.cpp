@@ -20,11 +20,13 @@ constexpr int whileMaking = 10;         // ms between looks at the picture under
 IdlePreviews::IdlePreviews(QListWidget& list, PreviewMaker& maker, int keyRole)
     : list_(list), maker_(maker), keyRole_(keyRole) {
     connect(&timer_, &QTimer::timeout, this, &IdlePreviews::GoOn);
-    connect(list_.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
-        if (list_.isVisible()) {
-            timer_.start(pause);
-        }
-    });
+    for (const QScrollBar* const bar : {list_.verticalScrollBar(), list_.horizontalScrollBar()}) {
+        connect(bar, &QScrollBar::valueChanged, this, [this] {
+            if (list_.isVisible()) {
+                timer_.start(pause);
+            }
+        });
+    }
     GiveWayTo(list_);
 }
 
@@ -73,6 +75,10 @@ void IdlePreviews::MarkDone(QListWidgetItem& item) {
     item.setData(doneRole, true);
 }
 
+void IdlePreviews::MarkStale(QListWidgetItem& item) {
+    item.setData(doneRole, false);
+}
+
 QList<QListWidgetItem*> IdlePreviews::LinesUnderWay() const {
     QList<QListWidgetItem*> lines;
     for (int row = 0; row < list_.count(); ++row) {
@@ -85,13 +91,18 @@ QList<QListWidgetItem*> IdlePreviews::LinesUnderWay() const {
 
 QListWidgetItem* IdlePreviews::NextItem() const {
     const QRect seen = list_.viewport()->rect();
+    QListWidgetItem* beyond = nullptr;
     for (int row = 0; row < list_.count(); ++row) {
         QListWidgetItem* const item = list_.item(row);
-        if (!item->data(doneRole).toBool() && list_.visualItemRect(item).intersects(seen)) {
+        if (item->data(doneRole).toBool()) {
+            continue;
+        }
+        if (list_.visualItemRect(item).intersects(seen)) {
             return item;
         }
+        beyond = beyond == nullptr ? item : beyond;
     }
-    return nullptr;
+    return beyondSight_ ? beyond : nullptr;
 }
 
 void IdlePreviews::GoOn() {

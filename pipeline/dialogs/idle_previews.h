@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Gives the lines of a file list their small pictures while nothing else happens: one after the
-// other, only of lines that can be seen, and none begun right after the user did something. Throws
-// what the maker of the pictures throws.
+// other, first or only of lines that can be seen, and none begun right after the user did
+// something. Throws what the maker of the pictures throws.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -37,8 +37,11 @@ class IdlePreviews : public QObject {
     // Also after the list was filled anew.
     void Start();
     void Stop();
-    // The line has its picture already.
+    // The line has its picture already, or the one that it has is no longer right.
     static void MarkDone(QListWidgetItem& item);
+    static void MarkStale(QListWidgetItem& item);
+    // Whether lines that cannot be seen get theirs, too, after the others.
+    void GoBeyondSight(bool on) { beyondSight_ = on; }
     // Input there makes the pictures wait, as input to the list itself does.
     void GiveWayTo(QAbstractScrollArea& area);
 
@@ -54,6 +57,7 @@ class IdlePreviews : public QObject {
     QListWidget& list_;
     PreviewMaker& maker_;
     int keyRole_;
+    bool beyondSight_ = false;
     QString underWay_;  // the key of the line whose picture is being made
     QTimer timer_{this};
 };

@@ -5,92 +5,31 @@
 
 #include <QSet>
 
-#include "app/panels/photo_list.h"
 #include "base/error_text.h"
-#include "remap/display/paint.h"
 #include "state/editing/list_badges.h"
 
 namespace varnel {
 
-namespace {
-
-constexpr int afterInput = 400;           // ms for the photo that was clicked alone
-constexpr qsizetype mostPictures = 5000;  // are kept: about 25 MB
-
-}  // namespace
-
 ListTools::ListTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
-                     const WorkingState& state, NewSmallReader newReader, QObject* parent)
+                     WorkingState& state, const NewSmallReader& newReader, QObject* parent)
     : QObject(parent),
       list_(*parts.list->List()),
       view_(view),
       workspace_(workspace),
       state_(state),
-      newReader_(std::move(newReader)),
-      previews_(list_, *this, PhotoList::pathRole) {
+      pictures_(list_, workspace, state, newReader) {
     refresh_.setSingleShot(true);
-    resume_.setSingleShot(true);
     connect(&refresh_, &QTimer::timeout, this, &ListTools::ShowMarks);
-    connect(&resume_, &QTimer::timeout, this, [this] { previews_.Start(); });
-    connect(list_.model(), &QAbstractItemModel::rowsInserted, this, [this] {
-        refilled_ = true;
-        Refresh();
-    });
-    connect(qobject_cast<PhotoList*>(&list_), &PhotoList::MoveWanted, this,
+    connect(list_.model(), &QAbstractItemModel::rowsInserted, this, [this] { Refresh(); });
+    connect(&list_, &PhotoList::MoveWanted, this,
             [this](int target) { workspace_.list.MoveSelected(target); });
     connect(&workspace_.model.steps, &ListSteps::Changed, this, [this] { Refresh(); });
     connect(&workspace_.model.activity, &Activity::Idle, this, [this] { NoteLoaded(); });
-    list_.installEventFilter(this);
-    list_.viewport()->installEventFilter(this);
-}
-
-ListTools::~ListTools() {
-    ListTools::Cancel();
-}
-
-bool ListTools::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) {
-        previews_.Stop();
-        resume_.start(afterInput);
-    }
-    return QObject::eventFilter(watched, event);
-}
-
-void ListTools::Begin(const QString& path) {
-    if (!reader_) {
-        reader_ = newReader_();
-    }
-    underWay_ = path;
-    const QSize box = list_.iconSize() * list_.devicePixelRatioF();
-    reader_->Begin(
-        {path, ReadKind::Small, {box.width(), box.height()}, state_.settings.AutoOrient});
-}
-
-std::optional<QImage> ListTools::Take() {
-    if (!reader_->Wait(0)) {
-        return std::nullopt;
-    }
-    const LoadedPicture picture = reader_->Take();
-    if (!picture.reason.isEmpty()) {
-        errors_.insert(underWay_, ErrorText(picture.reason));
-        Refresh();
-    }
-    if (picture.outcome == LoadOutcome::NotLoaded) {
-        return QImage();
-    }
-    QImage image = ImageOf(picture.bitmap.get());
-    image.setDevicePixelRatio(list_.devicePixelRatioF());
-    if (pictures_.size() >= mostPictures) {
-        pictures_.clear();
-    }
-    pictures_.insert(underWay_, QPixmap::fromImage(image));
-    return image;
-}
-
-void ListTools::Cancel() {
-    if (reader_) {
-        reader_->Cancel();
-    }
+    connect(&pictures_, &ListPictures::PhotoRead, this,
+            [this](const QString& path, const Reason& reason) {
+                errors_.insert(path, ErrorText(reason));
+                Refresh();
+            });
 }
 
 // What is wrong with the photo on the workspace, now that nothing is read any more.
@@ -129,24 +68,7 @@ void ListTools::ShowMarks() {
             item->setData(Qt::AccessibleTextRole, image.FileName + QStringLiteral(", ") + words);
         }
     }
-    if (std::exchange(refilled_, false)) {
-        ShowPictures();
-    }
-}
-
-void ListTools::ShowPictures() {
-    for (int line = 0; line < list_.count(); ++line) {
-        QListWidgetItem* const item = list_.item(line);
-        const auto known = pictures_.constFind(item->data(PhotoList::pathRole).toString());
-        if (known != pictures_.constEnd()) {
-            item->setIcon(*known);
-            IdlePreviews::MarkDone(*item);
-        }
-    }
-    if (newReader_ != nullptr) {
-        previews_.Stop();
-        resume_.start(afterInput);
-    }
+    pictures_.Follow();
 }
 
 }  // namespace varnel

@@ -21,7 +21,8 @@ void Chain(const QWidgetList& order) {
 
 }  // namespace
 
-LayoutTools::LayoutTools(QMainWindow* window, const WindowParts& parts, SettingsStore& store)
+LayoutTools::LayoutTools(QMainWindow* window, const WindowParts& parts, SettingsStore& store,
+                         ListPictures& pictures)
     : QObject(window), window_(window), parts_(parts), store_(store) {
     AddKeptChoice(*parts_.viewMenu,
                   {"CmdViewListLeft", tr("Image li&st in the left column"), "ListLeft"}, store_,
@@ -29,6 +30,10 @@ LayoutTools::LayoutTools(QMainWindow* window, const WindowParts& parts, Settings
                       PlaceList(parts_, on);
                       OrderTabs(on);
                   });
+    AddKeptChoice(
+        *parts_.viewMenu,
+        {"CmdViewListResults", tr("Results &as pictures in the list"), "ListResults", true}, store_,
+        [&pictures](bool on) { pictures.ShowResults(on); });
     KeepChoice(*window_->findChild<QAction*>(QStringLiteral("CmdViewFrame")), "Frame", true,
                store_);
     KeepFolds();

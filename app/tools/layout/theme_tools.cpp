@@ -25,16 +25,17 @@ Theme StoredTheme(SettingsStore& store) {
     return ThemeFromText(store.Get(Section(), Key(), {}));
 }
 
-ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper& keeper, QObject* parent)
+ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper* keeper, QObject* parent)
     : QObject(parent), store_(store), keeper_(keeper) {
     QMenu* const themes = menu.addMenu(tr("Them&e"));
     themes->setObjectName(QStringLiteral("MenuTheme"));
     themes->menuAction()->setObjectName(QStringLiteral("CmdViewTheme"));
     auto* const group = new QActionGroup(themes);
+    const Theme chosen = StoredTheme(store_);
     const auto add = [&](const char* name, const QString& text, Theme theme) {
         QAction* const entry = AddMenuEntry(themes, name, text);
         entry->setCheckable(true);
-        entry->setChecked(theme == keeper_.Chosen());
+        entry->setChecked(theme == chosen);
         group->addAction(entry);
         connect(entry, &QAction::triggered, this, [this, theme] { Choose(theme); });
     };
@@ -44,7 +45,9 @@ ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper& keeper, Q
 }
 
 void ThemeTools::Choose(Theme theme) {
-    keeper_.Choose(theme);
+    if (keeper_ != nullptr) {
+        keeper_->Choose(theme);
+    }
     store_.Save(Section(), Key(), ToText(theme));
 }
 

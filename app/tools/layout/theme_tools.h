@@ -19,13 +19,14 @@ Theme StoredTheme(SettingsStore& store);
 class ThemeTools : public QObject {
     Q_OBJECT
   public:
-    ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper& keeper, QObject* parent);
+    // Without a keeper the choice holds from the next start on.
+    ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper* keeper, QObject* parent);
 
   private:
     void Choose(Theme theme);
 
     SettingsStore& store_;
-    ThemeKeeper& keeper_;
+    ThemeKeeper* keeper_;
 };
 
 }  // namespace varnel

@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QThread>
 #include <atomic>
 #include <cmath>
@@ -260,6 +261,34 @@ TEST(FirstPhotoGear, TheFirstPhotoThatIsGivenSparesTheQuestion) {
     EXPECT_EQ(window.state.Images.UpperBound(), 2);
     TestWindow asked(nullptr, {}, Restore::Later, {nullptr, {plain}});
     EXPECT_EQ(asked.prompt.explained.size(), 1);
+}
+
+// With known gear: no question, no list, a projection and a name are all that is chosen.
+TEST(FirstStart, LeadsToASavedStraightPictureInThreeClicks) {
+    const testing::PictureFolder files;
+    const QString photo = TakenByNikon(files, Text("first.jpg"), "NIKON D7100", "4.5mm f/2.8");
+    TestWindow window(nullptr, {}, Restore::Later, {[] { return NewPictureReader(); }, {photo}});
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return window.state.Images.UpperBound() == 1 && window.state.bitmaps.FullSourceBitmap &&
+               window.Record(1).GearName == Text("Nikon D7100 + Sigma EX 4.5 mm f:2.8");
+    }));
+    EXPECT_TRUE(window.prompt.explained.isEmpty());
+    int clicks = 0;
+    const auto click = [&](const char* name) {
+        QWidget* const widget = window.Find(name);
+        EXPECT_EQ(widget->visibleRegion().boundingRect(), widget->rect()) << name;
+        const bool round = qobject_cast<QRadioButton*>(widget) != nullptr;
+        QTest::mouseClick(widget, Qt::LeftButton, {},
+                          round ? QPoint(8, widget->height() / 2) : widget->rect().center());
+        ++clicks;
+    };
+    click("OptionRemap_1");
+    window.chooser.answer = SaveChoice{files.Path(Text("straight.tif")), OutputType::Tiff};
+    click("ToolCmdFileSaveImage");
+    ++clicks;  // "Save" in the dialog, which proposes a name
+    EXPECT_LE(clicks, 6);
+    EXPECT_TRUE(QFileInfo::exists(files.Path(Text("straight.tif"))));
+    EXPECT_EQ(ProjectionFromIndex(window.Record(1).Projection), Projection::Rectilinear);
 }
 
 }  // namespace

@@ -3100,7 +3100,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Reset photo</source>
-        <translation>Foto zurücksetzen</translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Gives all sliders of this photo the values of its gear again</source>
@@ -4219,6 +4219,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Not the usual value; a click resets it</source>
         <translation>Nicht der übliche Wert; ein Klick setzt ihn zurück</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetTools</name>
+    <message>
+        <source>Reset photo</source>
+        <translation>Foto zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -49,11 +49,17 @@ void FocusStyle::drawControl(ControlElement element, const QStyleOption* option,
     }
 }
 
-// Their edge is darker than the window, which shows nothing in dark colours.
+// A tool that is on is seen in both themes; the edge of boxes and of round buttons, which is darker
+// than the window, in dark colours, too.
 void FocusStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const QPalette& colours = option->palette;
+    if (element == PE_PanelButtonTool && option->state.testFlag(State_On)) {
+        QColor pressed = colours.color(QPalette::Highlight);
+        pressed.setAlpha(90);
+        painter->fillRect(option->rect.adjusted(1, 1, -1, -1), pressed);
+    }
     const bool round = element == PE_IndicatorRadioButton;
     if ((round || element == PE_IndicatorCheckBox) &&
         colours.color(QPalette::Window).lightness() < dark) {

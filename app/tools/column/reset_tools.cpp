@@ -13,7 +13,7 @@ ResetTools::ResetTools(const WindowParts& parts, const WindowView& view, Workspa
                        QObject* parent)
     : QObject(parent), view_(view), commands_(workspace), panel_(*parts.adjustments) {
     parts.editMenu->addSeparator();
-    entry_ = AddMenuEntry(parts.editMenu, "CmdEditResetPhoto", panel_.ResetPhoto()->text());
+    entry_ = AddMenuEntry(parts.editMenu, "CmdEditResetPhoto", tr("Reset photo"));
     const auto reset = [this] {
         if (!view_.Locked()) {
             commands_.ResetPhoto();

@@ -283,7 +283,8 @@ TEST(FirstStart, LeadsToASavedStraightPictureInThreeClicks) {
         ++clicks;
     };
     click("OptionRemap_1");
-    window.chooser.answer = SaveChoice{files.Path(Text("straight.tif")), OutputType::Tiff};
+    window.chooser.answer =
+        SaveChoice{files.Path(Text("straight.tif")), FilterIndexOf(OutputType::Tiff)};
     click("ToolCmdFileSaveImage");
     ++clicks;  // "Save" in the dialog, which proposes a name
     EXPECT_LE(clicks, 6);

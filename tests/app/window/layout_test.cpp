@@ -13,6 +13,7 @@
 #include "app/panels/fold_group.h"
 #include "app/panels/photo_list.h"
 #include "app/panels/reset_dot.h"
+#include "decoder/process/picture_reader.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
 #include "tests/support/texts.h"
@@ -98,6 +99,37 @@ TEST(Layout, TheListIsAFilmstripOrStandsInTheColumn) {
               workspace.Find("PicSmallFrom")->mapTo(&workspace.window, QPoint()).x());
     QTest::keyClick(list, Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(names(), Text("a.bmpb.bmpc.bmp"));
+}
+
+// Also of photos that the strip is too short for.
+TEST(Layout, SmallPicturesShowTheResultsOrThePhotos) {
+    TestWindow workspace([] { return NewPictureReader(); });
+    QStringList names;
+    for (int n = 0; n < 30; ++n) {
+        names.append(Text("%1.bmp").arg(n));
+    }
+    workspace.AddPhotos(names, {300, 200});
+    workspace.ClickLine(1);
+    auto* const list = workspace.Find<PhotoList>("ImageList1");
+    const auto picture = [list](int line) {
+        return list->item(line)->icon().pixmap(list->iconSize()).toImage();
+    };
+    const auto changesFrom = [&picture](const QImage& before, int line) {
+        return QTest::qWaitFor([&] { return picture(line) != before; }, 20'000);
+    };
+    ASSERT_TRUE(changesFrom({}, 29));
+    const QImage photo = picture(29);  // it has no gear yet
+    const QImage result = picture(1);
+    EXPECT_NE(result, photo);
+    workspace.Click("OptionRemap_1");
+    EXPECT_TRUE(changesFrom(result, 1));
+    const QImage rectilinear = picture(1);
+    workspace.Entry("CmdEditUndo")->trigger();
+    EXPECT_TRUE(changesFrom(rectilinear, 1));
+    EXPECT_EQ(picture(1), result);
+    workspace.Entry("CmdViewListResults")->trigger();
+    EXPECT_TRUE(changesFrom(result, 1));
+    EXPECT_EQ(picture(1), photo);
 }
 
 TEST(Layout, ADotMarksAndResetsWhatIsNotUsual) {

@@ -121,6 +121,17 @@
     </message>
 </context>
 <context>
+    <name>DividerOverlay</name>
+    <message>
+        <source>before</source>
+        <translation>vorher</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>nachher</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -3271,6 +3282,13 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::DividerTools</name>
+    <message>
+        <source>Before an&amp;d after, divided</source>
+        <translation>Vorher u&amp;nd nachher, geteilt</translation>
+    </message>
+</context>
+<context>
     <name>varnel::EdgeView</name>
     <message>
         <source>Add a photo with many straight edges, out to the rim.</source>
@@ -4096,6 +4114,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Plus and minus zoom, arrow keys move what is seen. While the image circle or the frame is shown on the photo, they change that.</source>
         <translation>Plus und Minus ändern die Vergrößerung, Pfeiltasten den Ausschnitt. Solange auf dem Foto der Bildkreis oder der Rahmen zu sehen ist, ändern sie diesen.</translation>
+    </message>
+    <message>
+        <source>Plus and minus zoom, arrow keys move what is seen. In Rectilinear they turn the camera by a degree, with Alt by a tenth.</source>
+        <translation>Plus und Minus ändern die Vergrößerung, Pfeiltasten den Ausschnitt. In Rectilinear drehen sie die Kamera um ein Grad, mit Alt um ein Zehntel.</translation>
     </message>
 </context>
 <context>

@@ -19,7 +19,7 @@ DecimalBox::DecimalBox(QWidget* parent) : QDoubleSpinBox(parent) {
 }
 
 QSize DecimalBox::Widened(QSize size) const {
-    return {size.width() + fontMetrics().horizontalAdvance(QStringLiteral(".8")), size.height()};
+    return {size.width() + fontMetrics().horizontalAdvance(QStringLiteral(".88")), size.height()};
 }
 
 QString DecimalBox::textFromValue(double value) const {

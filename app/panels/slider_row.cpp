@@ -43,6 +43,8 @@ SliderRow::SliderRow(const SliderRowData& facts, QWidget* parent)
     slider_->setAccessibleDescription(tip);
     new WheelGuard(slider_);
     spinBox_->setObjectName(QStringLiteral("Spin") + name);
+    spinBox_->setRange(-180, 280);  // the widest of all, so that they are of one width
+    spinBox_->setFixedWidth(spinBox_->sizeHint().width());
     spinBox_->setRange(facts.minimum, facts.maximum);
     spinBox_->setValue(facts.start);
     spinBox_->setKeyboardTracking(false);

@@ -23,11 +23,12 @@ PictureArea::PictureArea(QWidget* parent)
     from_->setAccessibleName(tr("Photo as shot"));
     to_->setObjectName(QStringLiteral("PicSmallTo"));
     to_->setAccessibleName(tr("Converted picture"));
-    for (PictureBox* const box : {from_, to_}) {
-        box->setAccessibleDescription(
-            tr("Plus and minus zoom, arrow keys move what is seen. While the image circle or the "
-               "frame is shown on the photo, they change that."));
-    }
+    from_->setAccessibleDescription(
+        tr("Plus and minus zoom, arrow keys move what is seen. While the image circle or the "
+           "frame is shown on the photo, they change that."));
+    to_->setAccessibleDescription(
+        tr("Plus and minus zoom, arrow keys move what is seen. In Rectilinear they turn the camera "
+           "by a degree, with Alt by a tenth."));
     error_->setObjectName(QStringLiteral("LabelError"));
     error_->setWordWrap(true);
     error_->setMargin(6);

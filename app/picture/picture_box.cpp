@@ -99,6 +99,12 @@ void PictureBox::StandIn(const PictureBox* other) {
     update();
 }
 
+QRectF PictureBox::DividedPart() const {
+    QRectF part = SeenPart();
+    part.setWidth(before_ != nullptr ? std::round(part.width() * divided_) : 0.0);
+    return part;
+}
+
 QSize PictureBox::View() const {
     const QSizeF size = QSizeF(this->size()) * devicePixelRatioF();
     return {static_cast<int>(size.width()), static_cast<int>(size.height())};
@@ -185,13 +191,8 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         return;
     }
     painter.fillRect(rect(), pictureSurround);
-    if (Zoomed()) {
-        for (const QRect& region : event->region()) {
-            PaintZoomed(painter, region);
-        }
-    } else {
-        PaintWhole(painter);
-    }
+    PaintPicture(painter, event->region());
+    PaintDivided(painter, event->region());
     const QTransform toWidget = ToWidget();
     for (PictureOverlay* const overlay : overlays_) {
         painter.save();
@@ -201,6 +202,29 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     if (hasFocus()) {
         PaintFocus(painter);
     }
+}
+
+void PictureBox::PaintPicture(QPainter& painter, const QRegion& region) const {
+    if (!Zoomed()) {
+        PaintWhole(painter);
+        return;
+    }
+    for (const QRect& part : region) {
+        PaintZoomed(painter, part);
+    }
+}
+
+void PictureBox::PaintDivided(QPainter& painter, const QRegion& region) {
+    const QRect part = DividedPart().toAlignedRect();
+    if (part.isEmpty() || standIn_ != nullptr || before_->image_.isNull()) {
+        return;
+    }
+    painter.save();
+    painter.setClipRect(part);
+    standIn_ = before_;
+    PaintPicture(painter, region & part);
+    standIn_ = nullptr;
+    painter.restore();
 }
 
 // Dark beside light, to be seen on any picture.

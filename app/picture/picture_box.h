@@ -60,6 +60,16 @@ class PictureBox : public QWidget {
     // Shows the other box's picture instead, if any.
     void StandIn(const PictureBox* other);
     bool StoodInFor() const { return standIn_ != nullptr; }
+    // The other box's picture left of a line, at that share of what is seen of this one from the
+    // left; null for no line.
+    void Divide(const PictureBox* before, double share) {
+        before_ = before;
+        divided_ = share;
+        update();
+    }
+    // What is seen of the picture, and what of that is left of the line; points of this widget.
+    QRectF SeenPart() const { return PictureRect() & QRectF(rect()); }
+    QRectF DividedPart() const;
     // In device pixels, as a zoom has it.
     QSize View() const;
     QPointF ViewPoint(QPointF point) const;  // from a point of this widget
@@ -115,6 +125,8 @@ class PictureBox : public QWidget {
     QPointF GridOffset() const;
     QRectF FitRect() const;
     const QImage* SharpFor(QSize size) const;
+    void PaintPicture(QPainter& painter, const QRegion& region) const;
+    void PaintDivided(QPainter& painter, const QRegion& region);
     void PaintWhole(QPainter& painter) const;
     void ToScreenColours(QImage& part, const QRect& picture) const;
     void PaintZoomed(QPainter& painter, const QRect& region) const;
@@ -130,6 +142,8 @@ class PictureBox : public QWidget {
     const PictureZoom* zoom_ = nullptr;
     std::function<FullPicture()> full_;
     const PictureBox* standIn_ = nullptr;
+    const PictureBox* before_ = nullptr;  // left of the line
+    double divided_ = 0.5;
     std::optional<QPointF> dragFrom_;  // device pixels, while the picture is dragged
     bool panHeld_ = false;
 };

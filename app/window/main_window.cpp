@@ -33,6 +33,7 @@
 #include "app/tools/presets/preset_tools.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
+#include "app/tools/steer/divider_tools.h"
 #include "app/tools/steer/picture_menus.h"
 #include "app/tools/steer/steer_tools.h"
 #include "app/tools/steer/walk_tools.h"
@@ -86,7 +87,8 @@ void MDIForm1::MakeTools() {
     new ZoomTools(this, parts_, view_, workspace_, state_);
     new ColourTools(this, parts_, model_, store_, ports_.screenProfile);
     new SteerTools(parts_, view_, workspace_, this);
-    new WalkTools(parts_, view_, this);
+    new DividerTools(parts_, this);
+    new WalkTools(parts_, view_, model_.activity, this);
     parts_.viewMenu->addSeparator();
     new SheetTools(parts_, view_, workspace_, state_, this);
     new FrameTools(parts_, view_, workspace_, state_, this);

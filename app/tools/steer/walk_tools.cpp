@@ -9,8 +9,9 @@
 
 namespace varnel {
 
-WalkTools::WalkTools(const WindowParts& parts, const WindowView& view, QObject* parent)
-    : QObject(parent), list_(*parts.list->List()), view_(view) {
+WalkTools::WalkTools(const WindowParts& parts, const WindowView& view, const Activity& activity,
+                     QObject* parent)
+    : QObject(parent), list_(*parts.list->List()), view_(view), activity_(activity) {
     parts.viewMenu->addSeparator();
     QAction* const before = AddMenuEntry(parts.viewMenu, "CmdViewPrevious", tr("Pre&vious photo"),
                                          {QKeySequence(Qt::Key_PageUp)});
@@ -22,7 +23,7 @@ WalkTools::WalkTools(const WindowParts& parts, const WindowView& view, QObject* 
 
 void WalkTools::Walk(int lines) {
     const int line = list_.currentRow() + lines;
-    if (!view_.Locked() && list_.isEnabled() && line >= 0 && line < list_.count()) {
+    if (!view_.Locked() && !activity_.Busy() && line >= 0 && line < list_.count()) {
         list_.setCurrentRow(line);
     }
 }

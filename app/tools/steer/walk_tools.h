@@ -8,19 +8,22 @@
 #include <QObject>
 
 #include "app/view/window_view.h"
+#include "app/workspace/activity.h"
 
 namespace varnel {
 
 class WalkTools : public QObject {
     Q_OBJECT
   public:
-    WalkTools(const WindowParts& parts, const WindowView& view, QObject* parent);
+    WalkTools(const WindowParts& parts, const WindowView& view, const Activity& activity,
+              QObject* parent);
 
   private:
     void Walk(int lines);
 
     QListWidget& list_;
     const WindowView& view_;
+    const Activity& activity_;
 };
 
 }  // namespace varnel

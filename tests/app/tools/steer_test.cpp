@@ -8,6 +8,7 @@
 #include <QContextMenuEvent>
 #include <QDoubleSpinBox>
 #include <QMenu>
+#include <QRadioButton>
 #include <QWheelEvent>
 #include <cmath>
 
@@ -173,6 +174,28 @@ TEST_F(SteerResult, ProjectionsThatDoNotTurnLeaveTheMouseAlone) {
     Roll(At(0.5, 0.5), 2);
     workspace.Press("PicSmallTo", Qt::Key_Left);
     EXPECT_EQ(workspace.Record(1), varnel);
+}
+
+TEST_F(SteerResult, TheDividerShowsThePhotoOnItsLeftAndIsDragged) {
+    const QImage after = workspace.Shown("PicSmallTo");
+    workspace.Find<QRadioButton>("OptionRemap_1")->setFocus();
+    QTest::keyPress(workspace.Find("OptionRemap_1"), Qt::Key_B);
+    const QImage before = workspace.Shown("PicSmallTo");
+    QTest::keyRelease(workspace.Find("OptionRemap_1"), Qt::Key_B);
+    workspace.Entry("CmdViewDivider")->trigger();
+    const ImageRecord record = workspace.Record(1);
+    Drag(At(0.5, 0.2), At(0.7, 0.2));
+    EXPECT_EQ(workspace.Record(1), record);
+    const QImage divided = workspace.Shown("PicSmallTo");
+    const QRect left(At(0.05, 0.6), At(0.65, 0.9));
+    const QRect right(At(0.75, 0.6), At(0.95, 0.9));
+    EXPECT_EQ(divided.copy(left), before.copy(left));
+    EXPECT_EQ(divided.copy(right), after.copy(right));
+    EXPECT_NE(before.copy(right), after.copy(right));
+    workspace.Press("PicSmallTo", Qt::Key_Right);  // turns, the line stays
+    EXPECT_EQ(workspace.Record(1).RotateY, 1.0F);
+    workspace.Entry("CmdViewDivider")->trigger();
+    EXPECT_TRUE(box->DividedPart().isEmpty());
 }
 
 TEST_F(SteerResult, TheContextMenuHasWhatBelongsToThePhoto) {

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/tools/steer/divider_overlay.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <cmath>
+
+namespace varnel {
+
+namespace {
+
+constexpr double edge = 0.02;      // the line stays that share off the picture's sides
+constexpr double keyStep = 0.05;   // of the width, with an arrow key
+constexpr double knobSize = 18.0;  // logical pixels
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(DividerOverlay)
+};
+
+void PaintLabel(QPainter& painter, const QPointF& top, bool toTheLeft, const QString& text) {
+    QRectF place = QRectF(painter.fontMetrics().boundingRect(text)).adjusted(-6, -3, 6, 3);
+    place.moveTopLeft(top + QPointF(toTheLeft ? -place.width() - 8.0 : 8.0, 8.0));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 170));
+    painter.drawRoundedRect(place, 4.0, 4.0);
+    painter.setPen(Qt::white);
+    painter.drawText(place, Qt::AlignCenter, text);
+}
+
+}  // namespace
+
+void DividerOverlay::Show(bool on) {
+    shown_ = on;
+    box_.Divide(on ? &before_ : nullptr, share_);
+}
+
+void DividerOverlay::MoveTo(double share) {
+    share_ = std::clamp(share, edge, 1.0 - edge);
+    box_.Divide(&before_, share_);
+}
+
+void DividerOverlay::Paint(QPainter& painter, const QTransform& /*toWidget*/, QSize /*picture*/) {
+    const QRectF before = box_.DividedPart();
+    if (!shown_ || before.isEmpty() || box_.StoodInFor()) {
+        return;
+    }
+    const QPointF top = before.topRight();
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintLabel(painter, top, true, Texts::tr("before"));
+    PaintLabel(painter, top, false, Texts::tr("after"));
+    for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 3.5), QPen(Qt::white, 1.6)}) {
+        painter.setPen(pen);
+        painter.drawLine(top, before.bottomRight());
+    }
+    QRectF knob(0.0, 0.0, knobSize, knobSize);
+    knob.moveCenter({top.x(), before.center().y()});
+    painter.setPen(QPen(Qt::black, 1.0));
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(knob);
+    painter.drawText(knob, Qt::AlignCenter, QStringLiteral("\u2194"));
+}
+
+bool DividerOverlay::IsAt(const OverlayInput& input) const {
+    if (!shown_ || box_.StoodInFor()) {
+        return false;
+    }
+    const double x = box_.ToWidget().map(input.point).x();
+    return std::fabs(x - box_.DividedPart().right()) * input.pixel <= input.reach;
+}
+
+bool DividerOverlay::Press(const OverlayInput& input) {
+    return input.buttons == Qt::LeftButton && input.modifiers == Qt::NoModifier && IsAt(input);
+}
+
+void DividerOverlay::Move(const OverlayInput& input) {
+    const QRectF seen = box_.SeenPart();
+    if (!seen.isEmpty()) {
+        MoveTo((box_.ToWidget().map(input.point).x() - seen.left()) / seen.width());
+    }
+}
+
+bool DividerOverlay::Key(const OverlayKey& key) {
+    if (!shown_ || key.modifiers != Qt::ControlModifier || key.arrow.x() == 0) {
+        return false;
+    }
+    MoveTo(share_ + key.arrow.x() * keyStep);
+    return true;
+}
+
+std::optional<QCursor> DividerOverlay::CursorAt(const OverlayInput& input) const {
+    return IsAt(input) ? std::optional(QCursor(Qt::SplitHCursor)) : std::nullopt;
+}
+
+}  // namespace varnel

@@ -130,8 +130,9 @@ void FrameTools::Store(SliderId slider) {
 }
 
 void FrameTools::Step(SliderId slider, int by) {
-    QSlider* const moved = parts_.adjustments->Row(slider)->Slider();
-    moved->setValue(moved->value() + by);
+    ControlModel& controls = workspace_.model.controls;
+    controls.Set(slider, WholeNumber(ValueOf(slider, controls.Values()).value_or(0.0)) + by);
+    Q_EMIT parts_.adjustments->Row(slider)->Changed();
 }
 
 }  // namespace varnel

@@ -72,7 +72,7 @@ double WidthNearest(const FrameSetting& setting, const FramePoint& handle,
     ControlValues controls = setting.controls;
     double best = ValueOf(*slider, controls).value_or(0.0);
     double least = Miss(setting, controls, handle, wanted);
-    const ControlRange range = RangeOf(*slider, projection);
+    const ControlRange range = ReachOf(*slider, projection);
     for (int value = range.minimum; value <= range.maximum; ++value) {
         SetValueOf(*slider, value, controls);
         if (const double miss = Miss(setting, controls, handle, wanted); miss < least) {

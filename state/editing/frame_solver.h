@@ -32,7 +32,7 @@ struct FrameSetting {
     PixelSize size;
 };
 
-// A whole number within the slider's range; the value at hand when no other is nearer or the
+// A whole number within the control's reach; the value at hand when no other is nearer or the
 // projection has no such slider.
 double WidthNearest(const FrameSetting& setting, const FramePoint& handle,
                     const SourcePosition& wanted);

@@ -105,7 +105,7 @@ std::optional<Turn> StepFrom(Aim& aim, const Turn& turn, const SourcePosition& m
 
 // The step, or a part of it that brings the place nearer; false when none does.
 bool Approach(Aim& aim, const Turn& step, Turn& turn, SourcePosition& miss) {
-    constexpr int mostHalvings = 8;
+    constexpr int mostHalvings = 5;
     double share = 1.0;
     for (int n = 0; n < mostHalvings; ++n) {
         const Turn tried = aim.Within({turn.x + share * step.x, turn.y + share * step.y});
@@ -150,7 +150,7 @@ std::optional<SourcePosition> PlaceUnder(const Steered& steered, const SourcePos
 
 ImageRecord TurnedTo(const Steered& steered, const SourcePosition& point,
                      const SourcePosition& place) {
-    constexpr int mostSteps = 24;
+    constexpr int mostSteps = 14;
     Aim aim(steered, point, place);
     Turn turn = aim.Start();
     std::optional<SourcePosition> miss = aim.Miss(turn);

@@ -54,10 +54,10 @@ TEST(WidthNearest, GivesTheValueThatPutsTheHandleThere) {
     }
 }
 
-TEST(WidthNearest, StaysWithinTheSlidersRange) {
+TEST(WidthNearest, StaysWithinTheReach) {
     const ImageRecord record = RecordFor(Projection::Rectilinear);
     const FrameSetting setting{record, ValuesFor(record), photo};
-    EXPECT_EQ(WidthNearest(setting, {0.0, 0.5}, {300.0, 200.0}), 60);
+    EXPECT_EQ(WidthNearest(setting, {0.0, 0.5}, {300.0, 200.0}), 20);
     EXPECT_FALSE(FrameSlider(Projection::Horizon));
 }
 

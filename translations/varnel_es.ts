@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>%1 of %2 images written next to their photos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 imágenes escritas junto a sus fotos</translation>
     </message>
 </context>
 <context>
@@ -828,23 +828,23 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>FormPresets</name>
     <message>
         <source>Manage presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestionar preajustes</translation>
     </message>
     <message>
         <source>Your own presets; double-click one to rename it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus preajustes; un doble clic cambia el nombre de uno</translation>
     </message>
     <message>
         <source>Your presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus preajustes</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renombrar</translation>
     </message>
     <message>
         <source>Give the selected preset another name (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dar otro nombre al preajuste seleccionado (F2)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -852,23 +852,23 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Delete the selected preset (Del); it can be brought back</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el preajuste seleccionado (Supr); se puede recuperar</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar...</translation>
     </message>
     <message>
         <source>Add the presets of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir los preajustes de un archivo</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar...</translation>
     </message>
     <message>
         <source>Write all your presets into a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir todos sus preajustes en un archivo</translation>
     </message>
     <message>
         <source>Close</source>
@@ -876,7 +876,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Changes are saved already</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios ya están guardados</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -884,14 +884,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Bring the deleted preset back</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar el preajuste eliminado</translation>
     </message>
 </context>
 <context>
     <name>FormSavePreset</name>
     <message>
         <source>Save as preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como preajuste</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -899,55 +899,55 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Under this name the preset stands in the Edit menu, and for varnel-convert --preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Con este nombre figura el preajuste en el menú Editar, y para varnel-convert --preset</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del preajuste</translation>
     </message>
     <message>
         <source>What the preset sets; gear and circle stay each photo&apos;s own:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que fija el preajuste; equipo y círculo siguen siendo los de cada foto:</translation>
     </message>
     <message>
         <source>&amp;Projection and its effect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proyección y su efecto</translation>
     </message>
     <message>
         <source>The projection, and how strong it is</source>
-        <translation type="unfinished"></translation>
+        <translation>La proyección y su intensidad</translation>
     </message>
     <message>
         <source>Output &amp;angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Án&amp;gulo de salida</translation>
     </message>
     <message>
         <source>The angle of view of the result</source>
-        <translation type="unfinished"></translation>
+        <translation>El ángulo de visión del resultado</translation>
     </message>
     <message>
         <source>&amp;Rotation of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Gi&amp;ro de la cámara</translation>
     </message>
     <message>
         <source>All three rotations, also where they are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tres giros, también los que son 0</translation>
     </message>
     <message>
         <source>&amp;Shift of the image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desplazamiento de la imagen</translation>
     </message>
     <message>
         <source>Both shifts, also where they are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambos desplazamientos, también si son 0</translation>
     </message>
     <message>
         <source>&amp;Output</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salida</translation>
     </message>
     <message>
         <source>File type, quality, colour, metadata and names of saved photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de archivo, calidad, color, metadatos y nombres de las fotos guardadas</translation>
     </message>
     <message>
         <source>Save</source>
@@ -955,7 +955,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Save the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el preajuste</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -963,7 +963,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Close without a preset (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar sin preajuste (Esc)</translation>
     </message>
 </context>
 <context>
@@ -1596,15 +1596,15 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>NamePattern</name>
     <message>
         <source>a name needs at least one token or letter</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre necesita al menos un comodín o una letra</translation>
     </message>
     <message>
         <source>a name cannot hold / or \</source>
-        <translation type="unfinished"></translation>
+        <translation>un nombre no puede contener / ni \</translation>
     </message>
     <message>
         <source>there is no token %1; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay comodín %1; hay %2</translation>
     </message>
 </context>
 <context>
@@ -1651,11 +1651,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Na&amp;mes</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;mbres</translation>
     </message>
     <message>
         <source>Pattern of the names</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrón de los nombres</translation>
     </message>
     <message>
         <source>Name of the first image</source>
@@ -1663,19 +1663,19 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>What photos usually need; fine detail takes up to four times as much</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que suelen necesitar las fotos; el detalle fino ocupa hasta cuatro veces más</translation>
     </message>
     <message>
         <source>Size to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño esperado</translation>
     </message>
     <message>
         <source>Save next to the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Junto a la foto</translation>
     </message>
     <message>
         <source>Each file goes into the folder of its photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada archivo va a la carpeta de su foto</translation>
     </message>
 </context>
 <context>
@@ -1794,27 +1794,27 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>Presets</name>
     <message>
         <source>Real estate</source>
-        <translation type="unfinished"></translation>
+        <translation>Inmobiliaria</translation>
     </message>
     <message>
         <source>Group photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto de grupo</translation>
     </message>
     <message>
         <source>Whole circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Círculo entero</translation>
     </message>
     <message>
         <source>Horizon strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Franja de horizonte</translation>
     </message>
     <message>
         <source>A preset needs a name of 1 to %1 letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preajuste necesita un nombre de 1 a %1 letras.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un preajuste «%1».</translation>
     </message>
 </context>
 <context>
@@ -1963,15 +1963,15 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Varnel&apos;s presets (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes de Varnel (%1)</translation>
     </message>
     <message>
         <source>Import presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar preajustes</translation>
     </message>
     <message>
         <source>Export presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar preajustes</translation>
     </message>
 </context>
 <context>
@@ -2517,7 +2517,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>SaveWish</name>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>unos %1</translation>
     </message>
 </context>
 <context>
@@ -2801,38 +2801,38 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>reset photo</source>
-        <translation type="unfinished"></translation>
+        <translation>foto restablecida</translation>
     </message>
     <message>
         <source>turn of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>giro de la cámara</translation>
     </message>
     <message>
         <source>roll of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>rotación de la cámara</translation>
     </message>
     <message>
         <source>angle of view</source>
-        <translation type="unfinished"></translation>
+        <translation>ángulo de visión</translation>
     </message>
     <message>
         <source>centring</source>
-        <translation type="unfinished"></translation>
+        <translation>centrado</translation>
     </message>
     <message>
         <source>paste settings</source>
-        <translation type="unfinished"></translation>
+        <translation>pegar ajustes</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>preajuste</translation>
     </message>
 </context>
 <context>
     <name>ToolbarTools</name>
     <message>
         <source>Add image(s)</source>
-        <translation>Añadir imágenes</translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -2840,19 +2840,19 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Marco</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivelar</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Círculo</translation>
     </message>
     <message>
         <source>Straighten</source>
@@ -2860,23 +2860,23 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrícula</translation>
     </message>
     <message>
         <source>Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
@@ -2974,7 +2974,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de herramientas</translation>
     </message>
 </context>
 <context>
@@ -3068,11 +3068,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Reset photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Gives all sliders of this photo the values of its gear again</source>
-        <translation type="unfinished"></translation>
+        <translation>Devuelve a todos los controles de esta foto los valores de su equipo</translation>
     </message>
 </context>
 <context>
@@ -3214,11 +3214,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Each gets the gear that took it; then choose what the result shall be under &quot;Remap&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada una recibe el equipo con el que se hizo; elija después el resultado que quiere en «Convertir».</translation>
     </message>
     <message>
         <source>Choose photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir fotos...</translation>
     </message>
     <message>
         <source>Adds photos to the list</source>
@@ -3226,11 +3226,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Try the sample photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Probar la foto de ejemplo</translation>
     </message>
     <message>
         <source>Opens a photo that is drawn by this program</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre una foto dibujada por este programa</translation>
     </message>
 </context>
 <context>
@@ -3268,11 +3268,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que hay en este grupo</translation>
     </message>
     <message>
         <source>Hides what is in this group</source>
-        <translation type="unfinished"></translation>
+        <translation>Oculta lo que hay en este grupo</translation>
     </message>
 </context>
 <context>
@@ -3363,7 +3363,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>All images: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las imágenes: %1</translation>
     </message>
 </context>
 <context>
@@ -3526,27 +3526,27 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::FormPresets</name>
     <message>
         <source>No presets of your own yet: &quot;Save as preset...&quot; in the Edit menu makes one of the photo at hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no tiene preajustes propios: «Guardar como preajuste...» del menú Editar hace uno de la foto actual.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» se ha eliminado.</translation>
     </message>
     <message>
         <source>%1 holds no presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no contiene preajustes.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede leer: %2</translation>
     </message>
     <message>
         <source>1 preset was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió 1 preajuste.</translation>
     </message>
     <message>
         <source>%1 presets were added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadieron %1 preajustes.</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -3554,18 +3554,18 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede escribir: %2</translation>
     </message>
 </context>
 <context>
     <name>varnel::FormSavePreset</name>
     <message>
         <source>Choose what the preset sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija lo que fija el preajuste.</translation>
     </message>
     <message>
         <source>It replaces your preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplaza su preajuste con este nombre.</translation>
     </message>
 </context>
 <context>
@@ -3820,15 +3820,15 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::HintTools</name>
     <message>
         <source>Draw along the horizon on the photo, or click points and then the last one again; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace a lo largo del horizonte en la foto, o haga clic en varios puntos y otra vez en el último; Esc sale</translation>
     </message>
     <message>
         <source>Drag the circle&apos;s rim or its middle on the photo; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre el borde del círculo o su centro en la foto; Esc sale</translation>
     </message>
     <message>
         <source>drag: turn   wheel: angle   Shift+drag: roll</source>
-        <translation type="unfinished"></translation>
+        <translation>arrastrar: girar   rueda: ángulo   Mayús+arrastrar: rotar</translation>
     </message>
 </context>
 <context>
@@ -3869,7 +3869,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::LayoutTools</name>
     <message>
         <source>Image li&amp;st in the left column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lista de imágenes en la columna izquierda</translation>
     </message>
 </context>
 <context>
@@ -3887,7 +3887,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::OutputPanel</name>
     <message>
         <source>What the files are called. Tokens: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se llaman los archivos. Comodines: %1</translation>
     </message>
 </context>
 <context>
@@ -4015,42 +4015,42 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::PictureMenus</name>
     <message>
         <source>&amp;Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar en la carpeta</translation>
     </message>
 </context>
 <context>
     <name>varnel::PresetTools</name>
     <message>
         <source>&amp;Copy settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar ajustes</translation>
     </message>
     <message>
         <source>&amp;Paste settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar ajustes</translation>
     </message>
     <message>
         <source>Pr&amp;esets</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;eajustes</translation>
     </message>
     <message>
         <source>&amp;Save as preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como preajuste...</translation>
     </message>
     <message>
         <source>&amp;Manage presets...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ges&amp;tionar preajustes...</translation>
     </message>
     <message>
         <source>The photo&apos;s settings are on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes de la foto están en el portapapeles</translation>
     </message>
     <message>
         <source>The clipboard holds no settings of a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>El portapapeles no contiene ajustes de una foto</translation>
     </message>
     <message>
         <source>Saving follows the preset &quot;%1&quot; from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde ahora se guarda según el preajuste «%1»</translation>
     </message>
 </context>
 <context>
@@ -4104,11 +4104,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::ResetDot</name>
     <message>
         <source>Reset: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer: %1</translation>
     </message>
     <message>
         <source>Not the usual value; a click resets it</source>
-        <translation type="unfinished"></translation>
+        <translation>No es el valor habitual; un clic lo restablece</translation>
     </message>
 </context>
 <context>
@@ -4169,11 +4169,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::SaveTools</name>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en la carpeta</translation>
     </message>
     <message>
         <source>Shows the saved picture in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la imagen guardada en el gestor de archivos</translation>
     </message>
 </context>
 <context>
@@ -4244,30 +4244,30 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::ThemeTools</name>
     <message>
         <source>Them&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ema</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el &amp;sistema</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Claro</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oscuro</translation>
     </message>
 </context>
 <context>
     <name>varnel::ToolbarTools</name>
     <message>
         <source>Too&amp;lbar</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barra de herramientas</translation>
     </message>
     <message>
         <source>Te&amp;xt under the icons</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xto bajo los iconos</translation>
     </message>
 </context>
 <context>
@@ -4320,11 +4320,11 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::WalkTools</name>
     <message>
         <source>Pre&amp;vious photo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Foto anterior</translation>
     </message>
     <message>
         <source>N&amp;ext photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto si&amp;guiente</translation>
     </message>
 </context>
 <context>

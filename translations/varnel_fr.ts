@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>%1 of %2 images written next to their photos</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 images sur %2 écrites à côté de leurs photos</translation>
     </message>
 </context>
 <context>
@@ -828,23 +828,23 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>FormPresets</name>
     <message>
         <source>Manage presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Gérer les préréglages</translation>
     </message>
     <message>
         <source>Your own presets; double-click one to rename it</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos préréglages&#x202f;; un double-clic en renomme un</translation>
     </message>
     <message>
         <source>Your presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos préréglages</translation>
     </message>
     <message>
         <source>&amp;Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer</translation>
     </message>
     <message>
         <source>Give the selected preset another name (F2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Donner un autre nom au préréglage sélectionné (F2)</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
@@ -852,23 +852,23 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Delete the selected preset (Del); it can be brought back</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le préréglage sélectionné (Suppr)&#x202f;; on peut le reprendre</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer...</translation>
     </message>
     <message>
         <source>Add the presets of a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les préréglages d’un fichier</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter...</translation>
     </message>
     <message>
         <source>Write all your presets into a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire tous vos préréglages dans un fichier</translation>
     </message>
     <message>
         <source>Close</source>
@@ -876,7 +876,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Changes are saved already</source>
-        <translation type="unfinished"></translation>
+        <translation>Les changements sont déjà enregistrés</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -884,14 +884,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Bring the deleted preset back</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre le préréglage supprimé</translation>
     </message>
 </context>
 <context>
     <name>FormSavePreset</name>
     <message>
         <source>Save as preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme préréglage</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -899,55 +899,55 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Under this name the preset stands in the Edit menu, and for varnel-convert --preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Le préréglage porte ce nom dans le menu Édition, et pour varnel-convert --preset</translation>
     </message>
     <message>
         <source>Name of the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du préréglage</translation>
     </message>
     <message>
         <source>What the preset sets; gear and circle stay each photo&apos;s own:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que fixe le préréglage&#x202f;; équipement et cercle restent ceux de chaque photo&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Projection and its effect</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Projection et son effet</translation>
     </message>
     <message>
         <source>The projection, and how strong it is</source>
-        <translation type="unfinished"></translation>
+        <translation>La projection et sa force</translation>
     </message>
     <message>
         <source>Output &amp;angle</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Angle de sortie</translation>
     </message>
     <message>
         <source>The angle of view of the result</source>
-        <translation type="unfinished"></translation>
+        <translation>L’angle de champ du résultat</translation>
     </message>
     <message>
         <source>&amp;Rotation of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rotation de l’appareil</translation>
     </message>
     <message>
         <source>All three rotations, also where they are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Les trois rotations, même celles à 0</translation>
     </message>
     <message>
         <source>&amp;Shift of the image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Décalage de l’image</translation>
     </message>
     <message>
         <source>Both shifts, also where they are 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux décalages, même à 0</translation>
     </message>
     <message>
         <source>&amp;Output</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sortie</translation>
     </message>
     <message>
         <source>File type, quality, colour, metadata and names of saved photos</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de fichier, qualité, couleur, métadonnées et noms des photos enregistrées</translation>
     </message>
     <message>
         <source>Save</source>
@@ -955,7 +955,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Save the preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le préréglage</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -963,7 +963,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Close without a preset (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer sans préréglage (Échap)</translation>
     </message>
 </context>
 <context>
@@ -1596,15 +1596,15 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>NamePattern</name>
     <message>
         <source>a name needs at least one token or letter</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom demande au moins un jeton ou une lettre</translation>
     </message>
     <message>
         <source>a name cannot hold / or \</source>
-        <translation type="unfinished"></translation>
+        <translation>un nom ne peut contenir ni / ni \</translation>
     </message>
     <message>
         <source>there is no token %1; there are %2</source>
-        <translation type="unfinished"></translation>
+        <translation>le jeton %1 n’existe pas&#x202f;; il y a %2</translation>
     </message>
 </context>
 <context>
@@ -1651,11 +1651,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Na&amp;mes</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;ms</translation>
     </message>
     <message>
         <source>Pattern of the names</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle des noms</translation>
     </message>
     <message>
         <source>Name of the first image</source>
@@ -1663,19 +1663,19 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>What photos usually need; fine detail takes up to four times as much</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que demandent d’habitude les photos&#x202f;; les fins détails prennent jusqu’à quatre fois plus</translation>
     </message>
     <message>
         <source>Size to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille à prévoir</translation>
     </message>
     <message>
         <source>Save next to the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>À côté de la photo</translation>
     </message>
     <message>
         <source>Each file goes into the folder of its photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque fichier va dans le dossier de sa photo</translation>
     </message>
 </context>
 <context>
@@ -1794,27 +1794,27 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>Presets</name>
     <message>
         <source>Real estate</source>
-        <translation type="unfinished"></translation>
+        <translation>Immobilier</translation>
     </message>
     <message>
         <source>Group photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo de groupe</translation>
     </message>
     <message>
         <source>Whole circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cercle entier</translation>
     </message>
     <message>
         <source>Horizon strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Bande d’horizon</translation>
     </message>
     <message>
         <source>A preset needs a name of 1 to %1 letters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage a besoin d’un nom de 1 à %1 lettres.</translation>
     </message>
     <message>
         <source>There is a preset &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà un préréglage «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1963,15 +1963,15 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Varnel&apos;s presets (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages de Varnel (%1)</translation>
     </message>
     <message>
         <source>Import presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des préréglages</translation>
     </message>
     <message>
         <source>Export presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter les préréglages</translation>
     </message>
 </context>
 <context>
@@ -2517,7 +2517,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>SaveWish</name>
     <message>
         <source>about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>environ %1</translation>
     </message>
 </context>
 <context>
@@ -2801,58 +2801,58 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>reset photo</source>
-        <translation type="unfinished"></translation>
+        <translation>photo réinitialisée</translation>
     </message>
     <message>
         <source>turn of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>rotation de l’appareil</translation>
     </message>
     <message>
         <source>roll of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>roulis de l’appareil</translation>
     </message>
     <message>
         <source>angle of view</source>
-        <translation type="unfinished"></translation>
+        <translation>angle de champ</translation>
     </message>
     <message>
         <source>centring</source>
-        <translation type="unfinished"></translation>
+        <translation>centrage</translation>
     </message>
     <message>
         <source>paste settings</source>
-        <translation type="unfinished"></translation>
+        <translation>coller les réglages</translation>
     </message>
     <message>
         <source>preset</source>
-        <translation type="unfinished"></translation>
+        <translation>préréglage</translation>
     </message>
 </context>
 <context>
     <name>ToolbarTools</name>
     <message>
         <source>Add image(s)</source>
-        <translation>Ajouter des images</translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Rétablir</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cercle</translation>
     </message>
     <message>
         <source>Straighten</source>
@@ -2860,23 +2860,23 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Grid</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille</translation>
     </message>
     <message>
         <source>Map</source>
-        <translation type="unfinished"></translation>
+        <translation>Carte</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Avant</translation>
     </message>
     <message>
         <source>Sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Planche</translation>
     </message>
     <message>
         <source>Save as</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
@@ -2974,7 +2974,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’outils</translation>
     </message>
 </context>
 <context>
@@ -3068,11 +3068,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Reset photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Gives all sliders of this photo the values of its gear again</source>
-        <translation type="unfinished"></translation>
+        <translation>Redonne à tous les curseurs de cette photo les valeurs de son équipement</translation>
     </message>
 </context>
 <context>
@@ -3214,11 +3214,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Each gets the gear that took it; then choose what the result shall be under &quot;Remap&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chacune reçoit l’équipement qui l’a prise&#x202f;; choisissez ensuite le résultat voulu sous «&#xa0;Convertir&#xa0;».</translation>
     </message>
     <message>
         <source>Choose photos...</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir des photos...</translation>
     </message>
     <message>
         <source>Adds photos to the list</source>
@@ -3226,11 +3226,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Try the sample photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer la photo d’exemple</translation>
     </message>
     <message>
         <source>Opens a photo that is drawn by this program</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvre une photo dessinée par ce programme</translation>
     </message>
 </context>
 <context>
@@ -3268,11 +3268,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le contenu de ce groupe</translation>
     </message>
     <message>
         <source>Hides what is in this group</source>
-        <translation type="unfinished"></translation>
+        <translation>Masque le contenu de ce groupe</translation>
     </message>
 </context>
 <context>
@@ -3363,7 +3363,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>All images: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les images&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3526,27 +3526,27 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::FormPresets</name>
     <message>
         <source>No presets of your own yet: &quot;Save as preset...&quot; in the Edit menu makes one of the photo at hand.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore de préréglages à vous&#xa0;: «&#xa0;Enregistrer comme préréglage...&#xa0;» du menu Édition en fait un de la photo actuelle.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est supprimé.</translation>
     </message>
     <message>
         <source>%1 holds no presets.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne contient pas de préréglages.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est illisible&#xa0;: %2</translation>
     </message>
     <message>
         <source>1 preset was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 préréglage a été ajouté.</translation>
     </message>
     <message>
         <source>%1 presets were added.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 préréglages ont été ajoutés.</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -3554,18 +3554,18 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>%1 cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>varnel::FormSavePreset</name>
     <message>
         <source>Choose what the preset sets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ce que fixe le préréglage.</translation>
     </message>
     <message>
         <source>It replaces your preset of this name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il remplace votre préréglage de ce nom.</translation>
     </message>
 </context>
 <context>
@@ -3820,15 +3820,15 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::HintTools</name>
     <message>
         <source>Draw along the horizon on the photo, or click points and then the last one again; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracez le long de l’horizon sur la photo, ou cliquez sur des points, puis de nouveau sur le dernier&#x202f;; Échap quitte</translation>
     </message>
     <message>
         <source>Drag the circle&apos;s rim or its middle on the photo; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirez le bord du cercle ou son centre sur la photo&#x202f;; Échap quitte</translation>
     </message>
     <message>
         <source>drag: turn   wheel: angle   Shift+drag: roll</source>
-        <translation type="unfinished"></translation>
+        <translation>glisser&#xa0;: tourner   molette&#xa0;: angle   Maj+glisser&#xa0;: roulis</translation>
     </message>
 </context>
 <context>
@@ -3869,7 +3869,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::LayoutTools</name>
     <message>
         <source>Image li&amp;st in the left column</source>
-        <translation type="unfinished"></translation>
+        <translation>Li&amp;ste d’images dans la colonne de gauche</translation>
     </message>
 </context>
 <context>
@@ -3887,7 +3887,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::OutputPanel</name>
     <message>
         <source>What the files are called. Tokens: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment s’appellent les fichiers. Jetons&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -4015,42 +4015,42 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::PictureMenus</name>
     <message>
         <source>&amp;Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer dans le dossier</translation>
     </message>
 </context>
 <context>
     <name>varnel::PresetTools</name>
     <message>
         <source>&amp;Copy settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier les réglages</translation>
     </message>
     <message>
         <source>&amp;Paste settings</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller les réglages</translation>
     </message>
     <message>
         <source>Pr&amp;esets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préréglages</translation>
     </message>
     <message>
         <source>&amp;Save as preset...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer comme préréglage...</translation>
     </message>
     <message>
         <source>&amp;Manage presets...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gérer les préréglages...</translation>
     </message>
     <message>
         <source>The photo&apos;s settings are on the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages de la photo sont dans le presse-papiers</translation>
     </message>
     <message>
         <source>The clipboard holds no settings of a photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Le presse-papiers ne contient pas de réglages d’une photo</translation>
     </message>
     <message>
         <source>Saving follows the preset &quot;%1&quot; from now on</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement suit désormais le préréglage «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -4104,11 +4104,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::ResetDot</name>
     <message>
         <source>Reset: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not the usual value; a click resets it</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas la valeur habituelle&#x202f;; un clic la rétablit</translation>
     </message>
 </context>
 <context>
@@ -4169,11 +4169,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::SaveTools</name>
     <message>
         <source>Show in folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer dans le dossier</translation>
     </message>
     <message>
         <source>Shows the saved picture in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre l’image enregistrée dans le gestionnaire de fichiers</translation>
     </message>
 </context>
 <context>
@@ -4244,30 +4244,30 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::ThemeTools</name>
     <message>
         <source>Them&amp;e</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;hème</translation>
     </message>
     <message>
         <source>As the &amp;system</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le &amp;système</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Clair</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Som&amp;bre</translation>
     </message>
 </context>
 <context>
     <name>varnel::ToolbarTools</name>
     <message>
         <source>Too&amp;lbar</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barre d’outils</translation>
     </message>
     <message>
         <source>Te&amp;xt under the icons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Texte sous les icônes</translation>
     </message>
 </context>
 <context>
@@ -4320,11 +4320,11 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::WalkTools</name>
     <message>
         <source>Pre&amp;vious photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo précéde&amp;nte</translation>
     </message>
     <message>
         <source>N&amp;ext photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo suivant&amp;e</translation>
     </message>
 </context>
 <context>
@@ -4358,7 +4358,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation>Zoom a&amp;rrière</translation>
+        <translation>&amp;Zoom arrière</translation>
     </message>
     <message>
         <source>&amp;Grid</source>

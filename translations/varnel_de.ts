@@ -4382,8 +4382,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>varnel::ThemeTools</name>
     <message>
-        <source>Them&amp;e</source>
-        <translation>F&amp;arben</translation>
+        <source>Theme</source>
+        <translation>Farben</translation>
     </message>
     <message>
         <source>As the &amp;system</source>

@@ -135,7 +135,8 @@ void AdjustmentPanel::AddDot(SliderRow& row) {
     dots_[static_cast<std::size_t>(facts.id)] = dot;
 }
 
-// One column, whatever the ranges are.
+// One column, whatever the ranges are; and room for every caption, so that nothing is pushed out of
+// sight while a slider moves.
 void AdjustmentPanel::AlignNumbers() {
     int widest = 0;
     for (const QAbstractSpinBox* const number : findChildren<QAbstractSpinBox*>()) {
@@ -143,6 +144,14 @@ void AdjustmentPanel::AlignNumbers() {
     }
     for (QAbstractSpinBox* const number : findChildren<QAbstractSpinBox*>()) {
         number->setMinimumWidth(widest);
+    }
+    for (const SliderRow* const row : rows_) {
+        const SliderRowData& facts = row->Data();
+        auto* const caption = row->findChild<QLabel*>(QString::fromLatin1(facts.valueLabel));
+        for (const double end : {facts.minimum + 0.1, facts.maximum - 0.1}) {
+            const int room = caption->fontMetrics().horizontalAdvance(SliderCaption(facts, end));
+            caption->setMinimumWidth(std::max(caption->minimumWidth(), room));
+        }
     }
 }
 

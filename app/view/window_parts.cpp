@@ -4,12 +4,14 @@
 #include "app/view/window_parts.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/panels/menu_entry.h"
 #include "app/panels/named_button.h"
@@ -24,10 +26,26 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(WindowParts)
 };
 
+// Never narrower than what is in it: a projection may bring wider sliders.
+class ColumnArea : public QScrollArea {
+  public:
+    using QScrollArea::QScrollArea;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+            const int needed =
+                widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+            setMinimumWidth(std::max(minimumWidth(), needed));
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
+
 // The controls scroll where the window is low; what saves stays in sight.
 void MakeSide(QWidget* side, WindowParts& parts) {
     parts.column = side;
-    auto* const scroll = new QScrollArea(side);
+    auto* const scroll = new ColumnArea(side);
     auto* const controls = new QWidget(scroll);
     scroll->setFocusPolicy(Qt::NoFocus);
     parts.equipment = new EquipmentPanel(controls);

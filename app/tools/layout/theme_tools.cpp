@@ -27,7 +27,7 @@ Theme StoredTheme(SettingsStore& store) {
 
 ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper* keeper, QObject* parent)
     : QObject(parent), store_(store), keeper_(keeper) {
-    QMenu* const themes = menu.addMenu(tr("Them&e"));
+    QMenu* const themes = menu.addMenu(tr("Theme"));
     themes->setObjectName(QStringLiteral("MenuTheme"));
     themes->menuAction()->setObjectName(QStringLiteral("CmdViewTheme"));
     auto* const group = new QActionGroup(themes);

@@ -4243,10 +4243,6 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
 <context>
     <name>varnel::ThemeTools</name>
     <message>
-        <source>Them&amp;e</source>
-        <translation>T&amp;ema</translation>
-    </message>
-    <message>
         <source>As the &amp;system</source>
         <translation>Como el &amp;sistema</translation>
     </message>
@@ -4257,6 +4253,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
     </message>
 </context>
 <context>

@@ -4243,10 +4243,6 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
 <context>
     <name>varnel::ThemeTools</name>
     <message>
-        <source>Them&amp;e</source>
-        <translation>T&amp;hème</translation>
-    </message>
-    <message>
         <source>As the &amp;system</source>
         <translation>Comme le &amp;système</translation>
     </message>
@@ -4257,6 +4253,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>&amp;Dark</source>
         <translation>Som&amp;bre</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
     </message>
 </context>
 <context>

@@ -3267,6 +3267,17 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::ColourTools</name>
+    <message>
+        <source>Displa&amp;y colours</source>
+        <translation>Bildschirmf&amp;arben</translation>
+    </message>
+    <message>
+        <source>Histogram and clipping mar&amp;ks</source>
+        <translation>His&amp;togramm mit Beschnittmarken</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ContactSheetBox</name>
     <message>
         <source>Contact sheet</source>

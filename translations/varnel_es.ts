@@ -121,6 +121,17 @@
     </message>
 </context>
 <context>
+    <name>DividerOverlay</name>
+    <message>
+        <source>before</source>
+        <translation>antes</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>después</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -409,6 +420,38 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Back to the main window; the queue stays as it is</source>
         <translation>Volver a la ventana principal; la cola se queda como está</translation>
+    </message>
+    <message>
+        <source>Show in &amp;folder</source>
+        <translation>Mo&amp;strar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Show the written images in the file manager</source>
+        <translation>Mostrar las imágenes escritas en el gestor de archivos</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>&amp;Go on editing</source>
+        <translation>Se&amp;guir editando</translation>
+    </message>
+    <message>
+        <source>Back to the main window; the run goes on meanwhile</source>
+        <translation>Volver a la ventana principal; el proceso sigue entretanto</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Seguir editando</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Hold the run where it is, and let it go on</source>
+        <translation>Detener el proceso donde está, y dejar que siga</translation>
     </message>
 </context>
 <context>
@@ -3083,6 +3126,49 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::BatchTools</name>
+    <message>
+        <source>Progress of the batch</source>
+        <translation>Progreso de la cola</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Holds the batch where it is, and lets it go on</source>
+        <translation>Detiene la cola donde está, y deja que siga</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Finishes the batch&apos;s image at hand and leaves out the others</source>
+        <translation>Termina la imagen en curso y deja las demás</translation>
+    </message>
+    <message>
+        <source>Batch: finishing the image at hand</source>
+        <translation>Cola: terminando la imagen en curso</translation>
+    </message>
+    <message>
+        <source>Batch: %1</source>
+        <translation>Cola: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written</source>
+        <translation>Cola: %1 imágenes escritas</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written, %2 failed</source>
+        <translation>Cola: %1 imágenes escritas, %2 fallidas</translation>
+    </message>
+</context>
+<context>
     <name>varnel::CircleBar</name>
     <message>
         <source>Find circle</source>
@@ -3181,6 +3267,17 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::ColourTools</name>
+    <message>
+        <source>Displa&amp;y colours</source>
+        <translation>Color&amp;es de la pantalla</translation>
+    </message>
+    <message>
+        <source>Histogram and clipping mar&amp;ks</source>
+        <translation>&amp;Histograma y marcas de recorte</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ContactSheetBox</name>
     <message>
         <source>Contact sheet</source>
@@ -3193,6 +3290,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source> (as it is)</source>
         <translation> (tal como está)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::DividerTools</name>
+    <message>
+        <source>Before an&amp;d after, divided</source>
+        <translation>Antes y después, di&amp;vididos</translation>
     </message>
 </context>
 <context>
@@ -3364,6 +3468,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>All images: %1</source>
         <translation>Todas las imágenes: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
     </message>
 </context>
 <context>
@@ -3871,6 +3983,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Image li&amp;st in the left column</source>
         <translation>&amp;Lista de imágenes en la columna izquierda</translation>
     </message>
+    <message>
+        <source>Results &amp;as pictures in the list</source>
+        <translation>Re&amp;sultados como imágenes en la lista</translation>
+    </message>
 </context>
 <context>
     <name>varnel::LevelTools</name>
@@ -4010,6 +4126,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Plus and minus zoom, arrow keys move what is seen. While the image circle or the frame is shown on the photo, they change that.</source>
         <translation>Más y menos amplían y reducen, las flechas desplazan lo que se ve. Mientras el círculo de imagen o el marco se muestre en la foto, cambian este.</translation>
     </message>
+    <message>
+        <source>Plus and minus zoom, arrow keys move what is seen. In Rectilinear they turn the camera by a degree, with Alt by a tenth.</source>
+        <translation>Más y menos amplían y reducen, las flechas desplazan lo que se ve. En Rectilinear giran la cámara un grado, con Alt una décima.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::PictureMenus</name>
@@ -4101,6 +4221,29 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::QueueModel</name>
+    <message>
+        <source>being converted</source>
+        <translation>en conversión</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>escrita: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>falló: %1</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en espera</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitida</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ResetDot</name>
     <message>
         <source>Reset: %1</source>
@@ -4109,6 +4252,13 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Not the usual value; a click resets it</source>
         <translation>No es el valor habitual; un clic lo restablece</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetTools</name>
+    <message>
+        <source>Reset photo</source>
+        <translation>Restablecer</translation>
     </message>
 </context>
 <context>

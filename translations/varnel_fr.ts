@@ -121,6 +121,17 @@
     </message>
 </context>
 <context>
+    <name>DividerOverlay</name>
+    <message>
+        <source>before</source>
+        <translation>avant</translation>
+    </message>
+    <message>
+        <source>after</source>
+        <translation>après</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -409,6 +420,38 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Back to the main window; the queue stays as it is</source>
         <translation>Retour à la fenêtre principale&#x202f;; la file d’attente reste telle quelle</translation>
+    </message>
+    <message>
+        <source>Show in &amp;folder</source>
+        <translation>Montrer dans le &amp;dossier</translation>
+    </message>
+    <message>
+        <source>Show the written images in the file manager</source>
+        <translation>Montrer les images écrites dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Montrer dans le dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Go on editing</source>
+        <translation>Contin&amp;uer l’édition</translation>
+    </message>
+    <message>
+        <source>Back to the main window; the run goes on meanwhile</source>
+        <translation>Retour à la fenêtre principale&#x202f;; le traitement continue pendant ce temps</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Continuer l’édition</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Hold the run where it is, and let it go on</source>
+        <translation>Suspendre le traitement, et le laisser reprendre</translation>
     </message>
 </context>
 <context>
@@ -3083,6 +3126,49 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::BatchTools</name>
+    <message>
+        <source>Progress of the batch</source>
+        <translation>Progression de la file d’attente</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Holds the batch where it is, and lets it go on</source>
+        <translation>Suspend la file d’attente, et la laisse reprendre</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Finishes the batch&apos;s image at hand and leaves out the others</source>
+        <translation>Termine l’image en cours et laisse les autres</translation>
+    </message>
+    <message>
+        <source>Batch: finishing the image at hand</source>
+        <translation>File d’attente&#xa0;: dernière image en cours</translation>
+    </message>
+    <message>
+        <source>Batch: %1</source>
+        <translation>File d’attente&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written</source>
+        <translation>File d’attente&#xa0;: %1 images écrites</translation>
+    </message>
+    <message>
+        <source>Batch: %1 images written, %2 failed</source>
+        <translation>File d’attente&#xa0;: %1 images écrites, %2 échecs</translation>
+    </message>
+</context>
+<context>
     <name>varnel::CircleBar</name>
     <message>
         <source>Find circle</source>
@@ -3181,6 +3267,17 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::ColourTools</name>
+    <message>
+        <source>Displa&amp;y colours</source>
+        <translation>Affichage colorimétri&amp;que</translation>
+    </message>
+    <message>
+        <source>Histogram and clipping mar&amp;ks</source>
+        <translation>Niveau&amp;x et marques d’écrêtage</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ContactSheetBox</name>
     <message>
         <source>Contact sheet</source>
@@ -3193,6 +3290,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source> (as it is)</source>
         <translation> (telle quelle)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::DividerTools</name>
+    <message>
+        <source>Before an&amp;d after, divided</source>
+        <translation>Avant et après &amp;face à face</translation>
     </message>
 </context>
 <context>
@@ -3364,6 +3468,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>All images: %1</source>
         <translation>Toutes les images&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Go on</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
     </message>
 </context>
 <context>
@@ -3871,6 +3983,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Image li&amp;st in the left column</source>
         <translation>Li&amp;ste d’images dans la colonne de gauche</translation>
     </message>
+    <message>
+        <source>Results &amp;as pictures in the list</source>
+        <translation>&amp;Résultats en vignettes dans la liste</translation>
+    </message>
 </context>
 <context>
     <name>varnel::LevelTools</name>
@@ -4010,6 +4126,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Plus and minus zoom, arrow keys move what is seen. While the image circle or the frame is shown on the photo, they change that.</source>
         <translation>Plus et moins zooment, les flèches déplacent ce qui est visible. Tant que le cercle image ou le cadre est affiché sur la photo, elles modifient celui-ci.</translation>
     </message>
+    <message>
+        <source>Plus and minus zoom, arrow keys move what is seen. In Rectilinear they turn the camera by a degree, with Alt by a tenth.</source>
+        <translation>Plus et moins zooment, les flèches déplacent ce qui est visible. En Rectilinear, elles tournent l’appareil d’un degré, avec Alt d’un dixième.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::PictureMenus</name>
@@ -4101,6 +4221,29 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::QueueModel</name>
+    <message>
+        <source>being converted</source>
+        <translation>conversion en cours</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>écrite&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>échec&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>waiting</source>
+        <translation>en attente</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>laissée</translation>
+    </message>
+</context>
+<context>
     <name>varnel::ResetDot</name>
     <message>
         <source>Reset: %1</source>
@@ -4109,6 +4252,13 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Not the usual value; a click resets it</source>
         <translation>Pas la valeur habituelle&#x202f;; un clic la rétablit</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ResetTools</name>
+    <message>
+        <source>Reset photo</source>
+        <translation>Réinitialiser</translation>
     </message>
 </context>
 <context>

@@ -48,9 +48,10 @@ std::optional<QPainterPath> LossPath(const InverseMapping& places,
 
 }  // namespace
 
-OverlayGeometry::OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size)
+OverlayGeometry::OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size,
+                                 int columns)
     : places(projection, image, size),
-      grid(places),
+      grid(places, columns),
       border(BorderCurves(places)),
       kept(MeasureCoverage(grid)),
       loss(LossPath(places, CoverageOutline(places, kept))) {}

@@ -16,8 +16,9 @@
 namespace varnel {
 
 struct OverlayGeometry {
-    // Throws as InverseMapping; all else here throws nothing.
-    OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size);
+    // The net has about so many columns. Throws as InverseMapping; all else here throws nothing.
+    OverlayGeometry(Projection projection, const ImageRecord& image, PixelSize size,
+                    int columns = 128);
     OverlayGeometry(const OverlayGeometry&) = delete;
     OverlayGeometry& operator=(const OverlayGeometry&) = delete;
 

@@ -4,12 +4,19 @@
 #include "app/tools/frame_tools.h"
 
 #include <QBoxLayout>
+#include <chrono>
 
 #include "app/panels/menu_entry.h"
 #include "base/run_time_error.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
+
+namespace {
+
+constexpr std::chrono::milliseconds untilRest{150};
+
+}  // namespace
 
 FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Workspace& workspace,
                        const WorkingState& state, QObject* parent)
@@ -36,6 +43,8 @@ FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Workspace& wo
     }
     parts_.pictures->From()->AddOverlay(&frameOverlay_);
     parts_.pictures->To()->AddOverlay(&map_);
+    refine_.setSingleShot(true);
+    connect(&refine_, &QTimer::timeout, this, &FrameTools::Update);
     FollowControls();
 }
 
@@ -72,23 +81,30 @@ PixelSize FrameTools::PhotoSize() const {
     return photo == nullptr ? PixelSize{} : SizeOf(photo);
 }
 
+// While a hand moves, each frame has a few milliseconds: a coarse net does until it rests.
 const OverlayGeometry* FrameTools::Fresh() {
     const std::optional<ImageRecord> live = LiveRecord();
     const PixelSize size = PhotoSize();
+    const bool inMotion = sinceStudy_.isValid() && !sinceStudy_.hasExpired(untilRest.count());
     if (live == studied_ && size.width == studiedSize_.width &&
-        size.height == studiedSize_.height) {
+        size.height == studiedSize_.height && (inMotion || !coarse_)) {
         return study_.get();
     }
+    coarse_ = inMotion;
+    sinceStudy_.start();
     studied_ = live;
     studiedSize_ = size;
     study_.reset();
     if (live) {
         try {
             study_ = std::make_unique<OverlayGeometry>(ProjectionFromIndex(live->Projection), *live,
-                                                       size);
+                                                       size, inMotion ? 48 : 128);
         } catch (const RunTimeError&) {
             // The preview reports what is wrong.
         }
+    }
+    if (coarse_) {
+        refine_.start(untilRest + std::chrono::milliseconds(10));
     }
     return study_.get();
 }

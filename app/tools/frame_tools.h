@@ -7,6 +7,7 @@
 #pragma once
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 #include <memory>
@@ -56,6 +57,9 @@ class FrameTools : public QObject, private FramePort {
     std::optional<ImageRecord> studied_;
     PixelSize studiedSize_;
     std::unique_ptr<OverlayGeometry> study_;
+    bool coarse_ = false;  // it was made while a hand moved
+    QElapsedTimer sinceStudy_;
+    QTimer refine_{this};
 };
 
 }  // namespace varnel

@@ -21,8 +21,8 @@ ColourTools::ColourTools(QMainWindow* window, const WindowParts& parts, const Wo
       model_(model),
       store_(store),
       screenProfile_(std::move(screenProfile)) {
-    colours_ = AddChoice("CmdViewColours", tr("Screen colour&s"), true);
-    histogram_ = AddChoice("CmdViewHistogram", tr("H&istogram"), false);
+    colours_ = AddChoice("CmdViewColours", tr("Displa&y colours"), true);
+    histogram_ = AddChoice("CmdViewHistogram", tr("Histogram and clipping mar&ks"), false);
     connect(colours_, &QAction::toggled, this, [this] {
         TakeColours();
         pictures_.Refresh();

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The View menu's "Screen colours", which shows pictures through their profile and the screen's,
-// and "Histogram", the levels of the result. Both are remembered. Throws nothing but for want of
-// memory.
+// The View menu's "Display colours", which shows pictures through their profile and the screen's,
+// and "Histogram and clipping marks", the levels of the result. Both are remembered. Throws nothing
+// but for want of memory.
 #pragma once
 
 #include <QMainWindow>

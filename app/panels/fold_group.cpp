@@ -79,9 +79,7 @@ void FoldGroup::Fold(bool folded) {
 void FoldGroup::paintEvent(QPaintEvent* /*event*/) {}
 
 // The group box would keep room for a title of its own.
-void FoldGroup::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-}
+void FoldGroup::resizeEvent(QResizeEvent* /*event*/) {}
 
 bool FoldGroup::eventFilter(QObject* watched, QEvent* event) {
     if (watched == label_ && event->type() == QEvent::MouseButtonRelease) {

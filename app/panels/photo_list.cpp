@@ -212,7 +212,7 @@ QModelIndex PhotoList::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     }
     const int page = std::max(viewport()->width() / (stripPicture.width() + 2 * margin), 1);
     const int row = currentIndex().isValid() ? currentIndex().row() : -1;
-    int target = row;
+    int target = 0;
     switch (action) {
         case MoveUp:
         case MoveLeft:
@@ -231,7 +231,6 @@ QModelIndex PhotoList::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
             target = row + page;
             break;
         case MoveHome:
-            target = 0;
             break;
         case MoveEnd:
             target = count() - 1;

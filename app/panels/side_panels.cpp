@@ -154,7 +154,9 @@ void ImageListPanel::paintEvent(QPaintEvent* event) {
 
 // Of the strip, the group box would keep the room for a title above the list.
 void ImageListPanel::resizeEvent(QResizeEvent* event) {
-    strip_ ? QWidget::resizeEvent(event) : QGroupBox::resizeEvent(event);
+    if (!strip_) {
+        QGroupBox::resizeEvent(event);
+    }
 }
 
 void ImageListPanel::changeEvent(QEvent* event) {

@@ -4,7 +4,9 @@
 #include "app/picture/stroke_overlay.h"
 
 #include <QLineF>
+#include <QPainter>
 #include <QPolygonF>
+#include <algorithm>
 
 namespace varnel {
 
@@ -13,6 +15,8 @@ namespace {
 constexpr QColor strokeColour(255, 140, 40);
 constexpr double dotSize = 3.0;  // logical pixels
 constexpr std::size_t mostDots = 24;
+constexpr double crossArm = 9.0;  // logical pixels
+constexpr double crossStep = 5.0;
 
 double Distance(QPointF one, QPointF other) {
     return QLineF(one, other).length();
@@ -22,6 +26,7 @@ double Distance(QPointF one, QPointF other) {
 
 void StrokeOverlay::Clear() {
     points_.clear();
+    cross_.reset();
     complete_ = drawn_ = ending_ = false;
     changed_();
 }
@@ -34,7 +39,8 @@ void StrokeOverlay::Finish() {
     }
 }
 
-void StrokeOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize /*picture*/) {
+void StrokeOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize picture) {
+    picture_ = picture;
     QPolygonF line;
     for (const QPointF point : points_) {
         line.append(toWidget.map(point));
@@ -49,6 +55,19 @@ void StrokeOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize /
         for (const QPointF point : line) {
             painter.drawEllipse(point, dotSize, dotSize);
         }
+    }
+    PaintCross(painter, toWidget);
+}
+
+void StrokeOverlay::PaintCross(QPainter& painter, const QTransform& toWidget) const {
+    if (!cross_) {
+        return;
+    }
+    const QPointF middle = toWidget.map(*cross_);
+    for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 4.0), QPen(Qt::white, 1.5)}) {
+        painter.setPen(pen);
+        painter.drawLine(middle - QPointF(crossArm, 0.0), middle + QPointF(crossArm, 0.0));
+        painter.drawLine(middle - QPointF(0.0, crossArm), middle + QPointF(0.0, crossArm));
     }
 }
 
@@ -80,6 +99,42 @@ void StrokeOverlay::Move(const OverlayInput& input) {
 void StrokeOverlay::Release(const OverlayInput& /*input*/) {
     if (drawn_ || ending_) {
         Finish();
+    }
+}
+
+bool StrokeOverlay::Key(const OverlayKey& key) {
+    if (!key.arrow.isNull()) {
+        MoveCross(key);
+    } else if ((key.key == Qt::Key_Return || key.key == Qt::Key_Enter) && cross_) {
+        SetAtCross(key.pixel);
+    } else if (key.key == Qt::Key_Backspace && !points_.empty() && !complete_) {
+        points_.pop_back();
+    } else {
+        return false;
+    }
+    changed_();
+    return true;
+}
+
+// From the middle of the picture on; with Shift by one pixel of the screen.
+void StrokeOverlay::MoveCross(const OverlayKey& key) {
+    const bool fine = key.modifiers.testFlag(Qt::ShiftModifier);
+    const double step = key.pixel * (fine ? 1.0 : crossStep * key.Times());
+    const QPointF from = cross_.value_or(QRectF(QPointF(), QSizeF(picture_)).center());
+    cross_ = {std::clamp(from.x() + key.arrow.x() * step, 0.0, picture_.width() * 1.0),
+              std::clamp(from.y() + key.arrow.y() * step, 0.0, picture_.height() * 1.0)};
+}
+
+void StrokeOverlay::SetAtCross(double pixel) {
+    const QPointF point = *cross_;
+    if (complete_) {
+        Clear();
+        cross_ = point;
+    }
+    if (!points_.empty() && Distance(points_.back(), point) < pixel) {
+        Finish();
+    } else {
+        points_.push_back(point);
     }
 }
 

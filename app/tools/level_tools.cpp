@@ -98,6 +98,9 @@ void LevelTools::OnToggled(bool on) {
     photo->RemoveOverlay(&stroke_);
     if (on) {
         photo->AddOverlay(&stroke_);
+        if (!photo->Empty()) {
+            photo->setFocus();  // for the arrow keys
+        }
     }
     leave_->setEnabled(on);
 }

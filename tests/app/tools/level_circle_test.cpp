@@ -37,6 +37,34 @@ void Key(TestWindow& workspace, Qt::Key key) {
     QTest::keyClick(workspace.window.focusWidget(), key);
 }
 
+TEST(LevelTools, TheHorizonCanBeTracedByKeyboard) {
+    TestWindow workspace;
+    workspace.AddPhotos({Q("a.bmp")}, {400, 300});
+    workspace.Click("OptionRemap_1");
+    workspace.Entry("CmdViewActual")->trigger();
+    workspace.window.activateWindow();
+    workspace.Entry("CmdToolsLevel")->trigger();
+    workspace.Shown("PicSmallFrom");
+    const auto press = [&](Qt::Key key, int times, Qt::KeyboardModifiers modifiers = {}) {
+        for (int n = 0; n < times; ++n) {
+            QTest::keyClick(workspace.Find("PicSmallFrom"), key, modifiers);
+        }
+    };
+    press(Qt::Key_Left, 2, Qt::ControlModifier);  // from the middle to (100, 150)
+    press(Qt::Key_Down, 3);
+    press(Qt::Key_Down, 3, Qt::ShiftModifier);
+    press(Qt::Key_Return, 1);  // at (100, 168)
+    press(Qt::Key_Right, 1, Qt::ControlModifier);
+    press(Qt::Key_Return, 1);
+    press(Qt::Key_Backspace, 1);  // not there
+    press(Qt::Key_Right, 3, Qt::ControlModifier);
+    press(Qt::Key_Up, 7);
+    press(Qt::Key_Up, 1, Qt::ShiftModifier);
+    press(Qt::Key_Return, 2);  // at (300, 132)
+    EXPECT_EQ(workspace.Record(1).RotateZ, 10.0F);
+    EXPECT_FALSE(workspace.Entry("CmdToolsLevel")->isChecked());
+}
+
 TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     TestWindow workspace;
     workspace.AddPhotos({Q("a.bmp")}, {400, 300});

@@ -70,7 +70,7 @@ QString FoldersError(const RecordArray<ImageRecord>& queue, const BatchChoices& 
             continue;
         }
         folders.insert(folder);
-        if (const QString error = FolderError(folder); !error.isEmpty()) {
+        if (QString error = FolderError(folder); !error.isEmpty()) {
             return error;
         }
     }

@@ -52,7 +52,7 @@ QVariant QueueModel::data(const QModelIndex& index, int role) const {
 
 // The state stands below the photo's name.
 QString QueueModel::Line(int entry) const {
-    const QString line = QueueLine(Entries()(entry));
+    QString line = QueueLine(Entries()(entry));
     if (!showsRun_) {
         return line;
     }
@@ -79,7 +79,7 @@ void QueueModel::ShowChange(int first, int last) {
 
 QString QueueModel::NextWithoutPicture() const {
     for (const ImageRecord& entry : Entries()) {
-        if (const QString path = SourcePath(entry); !pictures_.contains(path)) {
+        if (QString path = SourcePath(entry); !pictures_.contains(path)) {
             return path;
         }
     }

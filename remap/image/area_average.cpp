@@ -77,19 +77,23 @@ class Averaging {
         for (const Cover& column : columns_) {
             const float* from = &sums[static_cast<std::size_t>(column.first) * samples];
             for (std::size_t sample = 0; sample < samples; ++sample, ++from) {
-                *out++ = static_cast<std::uint8_t>(Mean(column, from, samples) + 0.5F);
+                *out++ = static_cast<std::uint8_t>(HalfAboveMean(column, from, samples));
             }
         }
     }
 
-    static float Mean(const Cover& column, const float* from, std::size_t samples) {
+    // What is cut off of it is the mean rounded.
+    static float HalfAboveMean(const Cover& column, const float* from, std::size_t samples) {
+        if (column.last == column.first) {
+            return *from + 0.5F;
+        }
         float between = 0.0F;
         const float* at = from;
         for (int n = column.first + 1; n < column.last; ++n) {
             between += *(at += samples);
         }
-        const float ends = *from * column.firstShare + at[samples] * column.lastShare;
-        return column.last > column.first ? ends + between * column.share : *from;
+        return *from * column.firstShare + between * column.share + at[samples] * column.lastShare +
+               0.5F;
     }
 
     const Bitmap& source_;

@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The main window at 1920 x 1080 with a photo of 24 megapixels: from an event to the painted frame,
-// and from the last change to the sharp picture. Run with QT_QPA_PLATFORM=offscreen.
+// The main window at 1920 x 1080 with a photo of 24 megapixels: from an event to the painted frame.
+// Run with QT_QPA_PLATFORM=offscreen.
 
 #include <benchmark/benchmark.h>
 
-#include <QElapsedTimer>
-
-#include "app/picture/screen_pictures.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
 
@@ -65,31 +62,7 @@ void Drag(benchmark::State& state, const char* view) {
     testing::Settle();
 }
 
-// From the last change to the sharp picture, the wait for rest included.
-void Rest(benchmark::State& state, const char* view) {
-    TestWindow& workspace = Window(view);
-    auto* const sharp = workspace.window.findChild<ScreenPictures*>();
-    int step = 0;
-    for (auto _ : state) {
-        bool done = false;
-        const auto connection =
-            QObject::connect(sharp, &ScreenPictures::Finished, [&done] { done = true; });
-        workspace.Slider("SliderX")->setValue(++step % 40);
-        QElapsedTimer time;
-        time.start();
-        while (!done) {
-            QCoreApplication::processEvents();
-        }
-        QCoreApplication::processEvents();
-        state.SetIterationTime(static_cast<double>(time.nsecsElapsed()) * 1e-9);
-        QObject::disconnect(connection);
-    }
-}
-
 BENCHMARK_CAPTURE(Drag, split, "CmdViewSplit")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Drag, result, "CmdViewResult")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Rest, split, "CmdViewSplit")->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK_CAPTURE(Rest, result, "CmdViewResult")->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
 }  // namespace varnel

@@ -22,8 +22,14 @@ float SourceFrame::CircleRadius(float effect) const {
                     ReasonCode::CircleRadius);
 }
 
+CentreShift OutputFrame::ShiftOnResult() const {
+    const PixelSize frame = Whole();
+    return {shift.x + frame.width / 2 - corner.x - size.width / 2,
+            shift.y + frame.height / 2 - corner.y - size.height / 2};
+}
+
 CentreAndExtents OutputFrame::Extents() const {
-    return ImageCentre(size, shift);
+    return ImageCentre(size, ShiftOnResult());
 }
 
 OutputFrame SameAs(const SourceFrame& source) {

@@ -37,15 +37,24 @@ struct SourceFrame {
     float CircleRadius(float effect = 100.0F) const;
 };
 
-// The result.
+// The result, which may be cut out of a larger frame.
 struct OutputFrame {
     PixelSize size;
-    CentreShift shift{};  // of the projection's centre from the middle, whole pixels
+    CentreShift shift{};  // of the projection's centre from the middle of the frame, whole pixels
     // Pixels for each of those that the projection has where the result is as large as the photo:
     // it multiplies the pixels per unit of the projection, whatever that is (the tangent of the
     // angle, the angle itself, a pixel of the photo).
     double scale = 1.0;
+    // The frame before the crop, none where nothing is cut, and where the result's lower left pixel
+    // is in it.
+    PixelSize whole{};
+    PixelPosition corner{};
 
+    PixelSize Whole() const { return whole.width > 0 ? whole : size; }
+    // With the projection's centre in the frame's middle.
+    OutputFrame Centred() const { return {size, {}, scale, whole, corner}; }
+    // Of the projection's centre from the middle of the result.
+    CentreShift ShiftOnResult() const;
     // The centre and how far loops reach from it. Throws OverflowError.
     CentreAndExtents Extents() const;
 };

@@ -9,8 +9,12 @@
 #include <QMap>
 #include <QString>
 #include <cstdint>
+#include <vector>
 
 #include "base/bool16.h"
+#include "state/records/camera_pose.h"
+#include "state/records/face_ellipse.h"
+#include "state/records/outside_fill.h"
 #include "state/records/projection.h"
 #include "state/records/sampled_lens.h"
 
@@ -54,6 +58,27 @@ struct ImageRecord {
     QString FileName;                // with extension
     QString NameSuffix;              // tells the frames of a morph sequence apart
     std::int16_t Orientation = 1;    // EXIF orientation that was undone on loading
+
+    // The result's size in pixels, after the crop; 0: as the photo, or by the shape from the other.
+    std::int32_t OutputWidth = 0;
+    std::int32_t OutputHeight = 0;
+    // What is cut out of the frame, in parts of 1 of it; without width and height all of it.
+    float CropLeft = 0.0F;
+    float CropTop = 0.0F;
+    float CropWidth = 0.0F;
+    float CropHeight = 0.0F;
+    OutsideFill Outside;
+
+    float PaniniD = 1.0F;              // 0 (rectilinear) to 1 (cylindrical stereographic)
+    float PaniniSqueeze = 0.0F;        // percent to which lines across are kept straight
+    float UnrollStart = 0.0F;          // azimuth of the left border, degrees
+    std::int16_t UnrollDirection = 1;  // 1 clockwise as seen, -1 the other way
+    float UnrollFrom = 0.0F;           // angles from the axis, degrees
+    float UnrollTo = 90.0F;
+    Bool16 Marks;  // N, E, S, W and angles on an unrolled result
+    CameraPose Pose = CameraPose::Level;
+    Bool16 Tunnel;                   // a little planet that looks the other way
+    std::vector<FaceEllipse> Faces;  // parts that keep their shape in the straight view
 
     // Takes the place of the lens's two numbers where it is there.
     LensReference Lens;

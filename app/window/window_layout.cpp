@@ -3,12 +3,14 @@
 
 #include "app/window/window_layout.h"
 
+#include "state/settings/setting_names.h"
+
 namespace varnel {
 
 void WindowLayout::Restore() {
     const auto stored = [this](const char* key) {
         return QByteArray::fromBase64(
-            store_.Get(QStringLiteral("Window"), QString::fromLatin1(key), {}).toLatin1());
+            store_.Get(setting::Window, QString::fromLatin1(key), {}).toLatin1());
     };
     window_.restoreGeometry(stored("Geometry"));
     window_.restoreState(stored("State"));
@@ -18,7 +20,7 @@ void WindowLayout::Restore() {
 
 void WindowLayout::Save() {
     const auto keep = [this](const char* key, const QByteArray& value) {
-        store_.Save(QStringLiteral("Window"), QString::fromLatin1(key),
+        store_.Save(setting::Window, QString::fromLatin1(key),
                     QString::fromLatin1(value.toBase64()));
     };
     keep("Geometry", window_.saveGeometry());

@@ -16,6 +16,7 @@ inline constexpr QLatin1StringView LastUsed("Settings");
 inline constexpr QLatin1StringView Gear("Gear");
 inline constexpr QLatin1StringView Revision("Revision");
 inline constexpr QLatin1StringView Projects("Projects");
+inline constexpr QLatin1StringView Window("Window");    // the main window's layout and choices
 inline constexpr QLatin1StringView Presets("Presets");  // since 1.1
 
 // General settings.

@@ -4,25 +4,18 @@
 #include "app/tools/layout/kept_choice.h"
 
 #include "app/panels/menu_entry.h"
+#include "state/settings/setting_names.h"
 
 namespace varnel {
-
-namespace {
-
-QString Section() {
-    return QStringLiteral("Window");
-}
-
-}  // namespace
 
 void KeepChoice(QAction& entry, const char* key, bool first, SettingsStore& store) {
     const QString kept = QString::fromLatin1(key);
     const QString yes = QStringLiteral("1");
     const QString no = QStringLiteral("0");
     entry.setCheckable(true);
-    entry.setChecked(store.Get(Section(), kept, first ? yes : no) == yes);
+    entry.setChecked(store.Get(setting::Window, kept, first ? yes : no) == yes);
     QObject::connect(&entry, &QAction::toggled, &entry, [kept, yes, no, &store](bool on) {
-        store.Save(Section(), kept, on ? yes : no);
+        store.Save(setting::Window, kept, on ? yes : no);
     });
 }
 

@@ -4,14 +4,11 @@
 #include "app/tools/layout/layout_tools.h"
 
 #include "app/tools/layout/kept_choice.h"
+#include "state/settings/setting_names.h"
 
 namespace varnel {
 
 namespace {
-
-QString Section() {
-    return QStringLiteral("Window");
-}
 
 void Chain(const QWidgetList& order) {
     for (qsizetype n = 1; n < order.size(); ++n) {
@@ -72,9 +69,9 @@ void LayoutTools::KeepFolds() {
         const bool rare = fold->objectName() == QStringLiteral("FramePreview");
         const QString yes = QStringLiteral("1");
         const QString no = QStringLiteral("0");
-        fold->SetFolded(store_.Get(Section(), key, rare ? yes : no) == yes);
+        fold->SetFolded(store_.Get(setting::Window, key, rare ? yes : no) == yes);
         connect(fold, &FoldGroup::FoldedChanged, this, [this, key, yes, no](bool folded) {
-            store_.Save(Section(), key, folded ? yes : no);
+            store_.Save(setting::Window, key, folded ? yes : no);
         });
     }
 }

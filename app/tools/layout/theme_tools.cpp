@@ -6,14 +6,11 @@
 #include <QActionGroup>
 
 #include "app/panels/menu_entry.h"
+#include "state/settings/setting_names.h"
 
 namespace varnel {
 
 namespace {
-
-QString Section() {
-    return QStringLiteral("Window");
-}
 
 QString Key() {
     return QStringLiteral("Theme");
@@ -22,7 +19,7 @@ QString Key() {
 }  // namespace
 
 Theme StoredTheme(SettingsStore& store) {
-    return ThemeFromText(store.Get(Section(), Key(), {}));
+    return ThemeFromText(store.Get(setting::Window, Key(), {}));
 }
 
 ThemeTools::ThemeTools(QMenu& menu, SettingsStore& store, ThemeKeeper* keeper, QObject* parent)
@@ -48,7 +45,7 @@ void ThemeTools::Choose(Theme theme) {
     if (keeper_ != nullptr) {
         keeper_->Choose(theme);
     }
-    store_.Save(Section(), Key(), ToText(theme));
+    store_.Save(setting::Window, Key(), ToText(theme));
 }
 
 }  // namespace varnel

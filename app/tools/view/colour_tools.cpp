@@ -4,25 +4,21 @@
 #include "app/tools/view/colour_tools.h"
 
 #include "app/panels/menu_entry.h"
+#include "app/tools/layout/kept_choice.h"
 
 namespace varnel {
-
-namespace {
-
-constexpr QLatin1StringView section("Window");
-
-}  // namespace
 
 ColourTools::ColourTools(QMainWindow* window, const WindowParts& parts, const WorkspaceModel& model,
                          SettingsStore& store, ScreenProfile screenProfile)
     : QObject(window),
       pictures_(*parts.pictures),
-      menu_(*parts.viewMenu),
       model_(model),
-      store_(store),
       screenProfile_(std::move(screenProfile)) {
-    colours_ = AddChoice("CmdViewColours", tr("Displa&y colours"), true);
-    histogram_ = AddChoice("CmdViewHistogram", tr("Histogram and clipping mar&ks"), false);
+    colours_ = AddMenuEntry(parts.viewMenu, "CmdViewColours", tr("Displa&y colours"));
+    KeepChoice(*colours_, "Colours", true, store);
+    histogram_ =
+        AddMenuEntry(parts.viewMenu, "CmdViewHistogram", tr("Histogram and clipping mar&ks"));
+    KeepChoice(*histogram_, "Histogram", false, store);
     connect(colours_, &QAction::toggled, this, [this] {
         TakeColours();
         pictures_.Refresh();
@@ -31,17 +27,6 @@ ColourTools::ColourTools(QMainWindow* window, const WindowParts& parts, const Wo
     connect(pictures_.From(), &PictureBox::Shown, this, &ColourTools::TakeColours);
     connect(pictures_.To(), &PictureBox::Shown, this, &ColourTools::TakeLevels);
     ShowHistogram(histogram_->isChecked());
-}
-
-QAction* ColourTools::AddChoice(const char* name, const QString& text, bool usual) {
-    const QString key = QString::fromLatin1(name).mid(7);
-    QAction* const entry = AddMenuEntry(&menu_, name, text);
-    entry->setCheckable(true);
-    entry->setChecked(store_.Get(section, key, QString::number(usual ? 1 : 0)) !=
-                      QStringLiteral("0"));
-    connect(entry, &QAction::toggled, this,
-            [this, key](bool on) { store_.Save(section, key, QString::number(on ? 1 : 0)); });
-    return entry;
 }
 
 void ColourTools::TakeColours() {

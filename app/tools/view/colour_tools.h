@@ -25,15 +25,12 @@ class ColourTools : public QObject {
                 SettingsStore& store, ScreenProfile screenProfile);
 
   private:
-    QAction* AddChoice(const char* name, const QString& text, bool usual);
     void TakeColours();
     void TakeLevels();
     void ShowHistogram(bool on);
 
     PictureArea& pictures_;
-    QMenu& menu_;
     const WorkspaceModel& model_;
-    SettingsStore& store_;
     ScreenProfile screenProfile_;
     HistogramOverlay overlay_;
     QAction* colours_ = nullptr;

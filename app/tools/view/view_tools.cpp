@@ -7,12 +7,12 @@
 #include <vector>
 
 #include "app/panels/menu_entry.h"
+#include "state/settings/setting_names.h"
 
 namespace varnel {
 
 namespace {
 
-constexpr QLatin1StringView section("Window");
 constexpr QLatin1StringView viewKey("PictureView");
 constexpr QLatin1StringView insetKey("Inset");
 
@@ -82,18 +82,18 @@ void ViewTools::Choose(PictureView view) {
 }
 
 void ViewTools::Restore() {
-    const int view = store_.Get(section, viewKey, {}).toInt();
+    const int view = store_.Get(setting::Window, viewKey, {}).toInt();
     if (view > 0 && view < choices_.actions().size()) {
         Choose(static_cast<PictureView>(view));
     }
-    if (const auto inset = InsetFrom(store_.Get(section, insetKey, {}))) {
+    if (const auto inset = InsetFrom(store_.Get(setting::Window, insetKey, {}))) {
         pictures_.SetInset(*inset);
     }
 }
 
 void ViewTools::Save() {
-    store_.Save(section, viewKey, QString::number(static_cast<int>(pictures_.View())));
-    store_.Save(section, insetKey, TextOf(pictures_.Inset()));
+    store_.Save(setting::Window, viewKey, QString::number(static_cast<int>(pictures_.View())));
+    store_.Save(setting::Window, insetKey, TextOf(pictures_.Inset()));
 }
 
 }  // namespace varnel

@@ -25,17 +25,6 @@ Qt::CursorShape ShapeFor(const FramePoint& handle) {
     return (handle.across == handle.up) ? Qt::SizeBDiagCursor : Qt::SizeFDiagCursor;
 }
 
-void PaintLabel(QPainter& painter, const QRectF& picture, const QString& text) {
-    const QRectF box =
-        QRectF(painter.fontMetrics().boundingRect(text)).adjusted(-6.0, -3.0, 6.0, 3.0);
-    const QRectF place(picture.topLeft() + QPointF(8.0, 8.0), box.size());
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 170));
-    painter.drawRoundedRect(place, 4.0, 4.0);
-    painter.setPen(Qt::white);
-    painter.drawText(place, Qt::AlignCenter, text);
-}
-
 }  // namespace
 
 Projection FrameOverlay::Steered() const {
@@ -62,7 +51,7 @@ void FrameOverlay::Paint(QPainter& painter, const QTransform& toWidget, QSize pi
         }
     }
     PaintHandles(painter, toWidget, *study);
-    PaintLabel(painter, VisiblePart(painter, whole), KeptText(study->kept.share));
+    PaintLabel(painter, VisiblePart(painter, whole).topLeft(), KeptText(study->kept.share));
 }
 
 void FrameOverlay::PaintLoss(QPainter& painter, const QTransform& toWidget,

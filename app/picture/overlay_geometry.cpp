@@ -61,6 +61,17 @@ QRectF VisiblePart(const QPainter& painter, const QRectF& picture) {
     return painter.hasClipping() ? seen & painter.clipBoundingRect() : seen;
 }
 
+void PaintLabel(QPainter& painter, const QPointF& corner, const QString& text, bool toTheLeft) {
+    constexpr double away = 8.0;  // logical pixels
+    QRectF place = QRectF(painter.fontMetrics().boundingRect(text)).adjusted(-6.0, -3.0, 6.0, 3.0);
+    place.moveTopLeft(corner + QPointF(toTheLeft ? -place.width() - away : away, away));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 170));
+    painter.drawRoundedRect(place, 4.0, 4.0);
+    painter.setPen(Qt::white);
+    painter.drawText(place, Qt::AlignCenter, text);
+}
+
 QPointF PointOf(const SourcePosition& place, PixelSize size) {
     return {place.x + 0.5, size.height - 0.5 - place.y};
 }

@@ -32,6 +32,10 @@ struct OverlayGeometry {
 // The part of a picture that is in sight, for what is written over it.
 QRectF VisiblePart(const QPainter& painter, const QRectF& picture);
 
+// Writes a text on a dark ground, below the corner and to the right of it, or to its left.
+void PaintLabel(QPainter& painter, const QPointF& corner, const QString& text,
+                bool toTheLeft = false);
+
 // Between positions on the photo, whose rows count from the bottom row, and the points of overlays,
 // from the top left corner with y down. The size is the photo's, in pixels.
 QPointF PointOf(const SourcePosition& place, PixelSize size);

@@ -3,6 +3,8 @@
 
 #include "app/tools/steer/divider_overlay.h"
 
+#include "app/picture/overlay_geometry.h"
+
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
@@ -18,16 +20,6 @@ constexpr double knobSize = 18.0;  // logical pixels
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(DividerOverlay)
 };
-
-void PaintLabel(QPainter& painter, const QPointF& top, bool toTheLeft, const QString& text) {
-    QRectF place = QRectF(painter.fontMetrics().boundingRect(text)).adjusted(-6, -3, 6, 3);
-    place.moveTopLeft(top + QPointF(toTheLeft ? -place.width() - 8.0 : 8.0, 8.0));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 170));
-    painter.drawRoundedRect(place, 4.0, 4.0);
-    painter.setPen(Qt::white);
-    painter.drawText(place, Qt::AlignCenter, text);
-}
 
 }  // namespace
 
@@ -48,8 +40,8 @@ void DividerOverlay::Paint(QPainter& painter, const QTransform& /*toWidget*/, QS
     }
     const QPointF top = before.topRight();
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintLabel(painter, top, true, Texts::tr("before"));
-    PaintLabel(painter, top, false, Texts::tr("after"));
+    PaintLabel(painter, top, Texts::tr("before"), true);
+    PaintLabel(painter, top, Texts::tr("after"));
     for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 3.5), QPen(Qt::white, 1.6)}) {
         painter.setPen(pen);
         painter.drawLine(top, before.bottomRight());

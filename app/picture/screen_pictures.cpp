@@ -155,10 +155,17 @@ const Bitmap& ScreenPictures::SourceFor(const Wish& wish) {
     return *reduced_;
 }
 
+// A result that is smaller than it is shown is interpolated: means would be squares.
 void ScreenPictures::Finish() {
     resultDone_ = true;
+    const Bitmap& result = *part_.Result();
     std::vector<QImage> images;
-    images.push_back(Averaged(*part_.Result(), ShownPlace(image_, plan_, shown_), shown_, runner_));
+    images.push_back(plan_.drawn.width < shown_.width
+                         ? ImageOf(&result)
+                               .scaled(shown_.width, shown_.height, Qt::IgnoreAspectRatio,
+                                       Qt::SmoothTransformation)
+                               .convertToFormat(QImage::Format_RGB32)
+                         : Averaged(result, ShownPlace(image_, plan_, shown_), shown_, runner_));
     part_.Forget();
     pictures_.To()->ShowSharp(std::move(images));
     Q_EMIT Finished();

@@ -15,6 +15,7 @@ namespace varnel {
 namespace {
 
 using testing::TestWindow;
+using testing::operator==;
 
 PictureBox& Box(TestWindow& workspace, const char* name) {
     return *workspace.Find<PictureBox>(name);
@@ -70,6 +71,26 @@ TEST(Views, AtRestThePicturesAreAsSharpAsTheFilesReduced) {
         const Bitmap& full = *workspace.state.bitmaps.FullSourceBitmap;
         EXPECT_GT(testing::Likeness(*photo, *ReducedTo(full, photo->Size())), 45.0) << view;
     }
+}
+
+// At rest a small photo's result is not made of squares.
+TEST(Views, SmallPicturesAreInterpolated) {
+    TestWindow workspace;
+    const QString path = workspace.files.Path(QStringLiteral("noise.bmp"));
+    SaveBitmap(OutputType::Bmp, testing::Noise({60, 40}).get(), path);
+    workspace.window.AddFiles({path});
+    workspace.Click("CheckAntialiased");
+    workspace.Click("OptionRemap_0");
+    ASSERT_TRUE(testing::Settle());
+    const BitmapHandle seen = SeenIn(workspace, "PicSmallTo");
+    const PixelSize size = seen->Size();
+    const int y = size.height / 2;
+    int same = 0;
+    for (int x = size.width / 4; x < size.width * 3 / 4; ++x) {
+        same +=
+            testing::PixelAt(seen.get(), x, y) == testing::PixelAt(seen.get(), x + 1, y) ? 1 : 0;
+    }
+    EXPECT_LT(same, size.width / 8);  // of half as many; a pixel of the photo is some seven wide
 }
 
 TEST(Views, WaitForThePreviewButtonWithoutAutomaticPreview) {

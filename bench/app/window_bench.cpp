@@ -70,6 +70,29 @@ void Drag(benchmark::State& state, const char* view) {
     testing::Settle();
 }
 
+// The grabbed point of the result follows the pointer: each move to the painted draft.
+void Grab(benchmark::State& state) {
+    TestWindow& workspace = Window("CmdViewResult");
+    QWidget* const box = workspace.Find("PicSmallTo");
+    PaintWatch watch(box);
+    const QPoint middle = box->rect().center();
+    const auto send = [&](QEvent::Type type, const QPointF& at) {
+        QMouseEvent event(type, at, box->mapToGlobal(at),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, {});
+        QApplication::sendEvent(box, &event);
+    };
+    send(QEvent::MouseButtonPress, middle);
+    int steps = 0;
+    for (auto _ : state) {
+        ++steps;
+        send(QEvent::MouseMove, middle + QPointF(5.0 * (steps % 40), 3.0 * (steps % 30)));
+        watch.Wait();
+    }
+    send(QEvent::MouseButtonRelease, middle);
+    testing::Settle();
+}
+
 // From the last change to the sharp picture, the wait for rest included.
 void Rest(benchmark::State& state, const char* view) {
     TestWindow& workspace = Window(view);
@@ -90,10 +113,32 @@ void Rest(benchmark::State& state, const char* view) {
     }
 }
 
+// To a neighbour of the photo that is shown, until its draft is painted. Only where a decoder reads
+// beside the window.
+void Walk(benchmark::State& state) {
+    TestWindow workspace([] { return NewPictureReader(); });
+    workspace.window.resize(1918, 1040);
+    workspace.AddPhotos({QStringLiteral("a.bmp"), QStringLiteral("b.bmp")}, {6000, 4000});
+    if (!NewPictureReader()->IsApart()) {
+        state.SkipWithError("photos are not read beside the window here");
+    }
+    PaintWatch watch(workspace.Find("PicSmallTo"));
+    int line = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QTest::qWait(2500);  // the neighbour is read
+        state.ResumeTiming();
+        workspace.ClickLine(line = 1 - line);
+        watch.Wait();
+    }
+}
+
 BENCHMARK_CAPTURE(Drag, split, "CmdViewSplit")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Drag, result, "CmdViewResult")->Unit(benchmark::kMillisecond);
+BENCHMARK(Grab)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Rest, split, "CmdViewSplit")->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK_CAPTURE(Rest, result, "CmdViewResult")->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(Walk)->Unit(benchmark::kMillisecond)->Iterations(6);
 
 }  // namespace
 }  // namespace varnel

@@ -14,7 +14,7 @@ namespace varnel {
 
 FileReport ReportOf(const QString& photo, const ImageRecord& record) {
     FileReport report{.photo = photo};
-    report.projection = ToText(ProjectionFromIndex(record.Projection)).toLower();
+    report.projection = KeyOf(ProjectionFromIndex(record.Projection)).toLower();
     report.gear = record.GearName;
     return report;
 }

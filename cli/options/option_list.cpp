@@ -125,7 +125,7 @@ constexpr std::array numberOptions{
 QString ProjectionNames() {
     QStringList names;
     for (const Projection projection : AllProjections()) {
-        names.append(ToText(projection).toLower());
+        names.append(KeyOf(projection).toLower());
     }
     return names.join(QStringLiteral(", "));
 }

@@ -48,7 +48,7 @@ float NumberOf(const QString& option, const QString& text) {
 
 std::vector<Projection> ProjectionsOf(const QString& text) {
     if (text.compare(u"all", Qt::CaseInsensitive) == 0) {
-        return AllProjections();
+        return BasicProjections();
     }
     if (const auto projection = ProjectionFromText(text)) {
         return {*projection};

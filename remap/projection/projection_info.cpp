@@ -16,6 +16,16 @@ std::vector<Projection> AllProjections() {
     return all;
 }
 
+std::vector<Projection> BasicProjections() {
+    std::vector<Projection> basic;
+    for (const ProjectionInfo& row : ProjectionRows()) {
+        if (row.basic) {
+            basic.push_back(row.id);
+        }
+    }
+    return basic;
+}
+
 const ProjectionInfo& InfoOf(Projection projection) {
     return ProjectionRows()[static_cast<std::size_t>(projection)];
 }
@@ -24,9 +34,18 @@ QString ToText(Projection projection) {
     return QString::fromUtf16(InfoOf(projection).name);
 }
 
+QString KeyOf(Projection projection) {
+    return QString::fromUtf16(InfoOf(projection).key);
+}
+
+QString TitleOf(Projection projection) {
+    return QCoreApplication::translate("Projections", InfoOf(projection).title);
+}
+
 std::optional<Projection> ProjectionFromText(QStringView text) {
     for (const ProjectionInfo& row : ProjectionRows()) {
-        if (text.compare(QStringView(row.name), Qt::CaseInsensitive) == 0) {
+        if (text.compare(QStringView(row.key), Qt::CaseInsensitive) == 0 ||
+            text.compare(QStringView(row.name), Qt::CaseInsensitive) == 0) {
             return row.id;
         }
     }
@@ -48,6 +67,14 @@ const ControlUse* UseOf(Projection projection, SliderId id) {
     const auto controls = InfoOf(projection).controls;
     const auto use = std::ranges::find(controls, id, &ControlUse::id);
     return use == controls.end() ? nullptr : &*use;
+}
+
+std::optional<float> CutAngleOf(Projection projection, const ImageRecord& image) {
+    const auto widest = InfoOf(projection).Widest;
+    if (widest == nullptr || !(image.OutputAOV > widest(image))) {
+        return std::nullopt;
+    }
+    return widest(image);
 }
 
 std::optional<float ImageRecord::*> EffectReadBy(Projection projection) {

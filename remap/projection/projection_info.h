@@ -62,9 +62,12 @@ struct SheetVariants {
 
 struct ProjectionInfo {
     Projection id = Projection::Varnel;
-    const char16_t* name =
-        u"";               // in file names, on the command line and on screen; never translated
-    const char* tip = "";  // of the option button; context "Projections"
+    const char16_t* key = u"";   // in settings and, in small letters, on the command line
+    const char16_t* name = u"";  // in file names; never translated
+    const char* title = "";      // on screen; context "Projections"
+    const char* tip = "";        // of what chooses it; context "Projections"
+    // One of the first four, which have a button each and are what "all" means.
+    bool basic = false;
     std::span<const ControlUse> controls{};
     // The field of the record that SliderId::Effect stands for; null for none.
     float ImageRecord::*effect = nullptr;
@@ -73,6 +76,8 @@ struct ProjectionInfo {
     bool levels = false;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
+    // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.
+    float (*Widest)(const ImageRecord& image) = nullptr;
     // The map of a record between a photo and a result. Throws RunTimeError when a number of the
     // record makes it impossible.
     std::unique_ptr<ProjectionMap> (*Make)(const ImageRecord& image,
@@ -85,11 +90,16 @@ std::span<const ProjectionInfo> ProjectionRows();
 std::span<const ProjectionInfo> ShippedProjections();
 
 std::vector<Projection> AllProjections();
+std::vector<Projection> BasicProjections();
 const ProjectionInfo& InfoOf(Projection projection);
 
-// The name: "Varnel", "Rectilinear" ...
+// The name in file names: "Varnel", "FisheyeEquidistant" ...
 QString ToText(Projection projection);
-// Without regard to case; nothing for any other text.
+// "Varnel", "fisheye-equidistant" ...
+QString KeyOf(Projection projection);
+// The translated title: "Varnel", "Fisheye, equidistant" ...
+QString TitleOf(Projection projection);
+// By key or name, without regard to case; nothing for any other text.
 std::optional<Projection> ProjectionFromText(QStringView text);
 // By its number; every number without a row means Horizon.
 Projection ProjectionFromIndex(int index);
@@ -98,6 +108,9 @@ QString TipOf(Projection projection);
 
 // The use of the control; null when the projection does not read it.
 const ControlUse* UseOf(Projection projection, SliderId id);
+// The output angle of view that a conversion shows, degrees, where the record asks for more than
+// the projection has; nothing where it gets what it asks for.
+std::optional<float> CutAngleOf(Projection projection, const ImageRecord& image);
 // The effect that a projection reads; nothing when it reads none. Horizon reads that of Varnel,
 // too.
 std::optional<float ImageRecord::*> EffectReadBy(Projection projection);

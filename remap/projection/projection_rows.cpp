@@ -6,6 +6,7 @@
 #include "remap/projection/maps/horizon_map.h"
 #include "remap/projection/maps/varnel_map.h"
 #include "remap/projection/projection_info.h"
+#include "remap/projection/sphere_records.h"
 
 namespace varnel {
 
@@ -18,6 +19,20 @@ constexpr std::array rectilinearControls{
 constexpr std::array effectOnly{ControlUse{SliderId::Effect}};
 constexpr std::array hiddenEffect{ControlUse{SliderId::Effect, false}};
 constexpr std::array inputAngle{ControlUse{SliderId::AovInput}};
+
+constexpr ControlRange halfTurns{-180, 180};
+
+// The angle of view of the output up to so many degrees, and turns all round.
+template <int widest>
+constexpr std::array sphereControls{ControlUse{SliderId::AovOutput, true, ControlRange{10, widest}},
+                                    ControlUse{SliderId::X, true, halfTurns},
+                                    ControlUse{SliderId::Y, true, halfTurns},
+                                    ControlUse{SliderId::Z, true, halfTurns}};
+template <int widest>
+constexpr std::array partialSphereControls{
+    ControlUse{SliderId::AovOutput, true, ControlRange{10, widest}}, ControlUse{SliderId::Effect},
+    ControlUse{SliderId::X, true, halfTurns}, ControlUse{SliderId::Y, true, halfTurns},
+    ControlUse{SliderId::Z, true, halfTurns}};
 
 // The corners and the middles of the sides.
 constexpr std::array around{FramePoint{0.0, 0.0}, FramePoint{0.5, 0.0}, FramePoint{1.0, 0.0},
@@ -42,6 +57,11 @@ constexpr std::array rectilinearTags{
     EffectTag(&ImageRecord::EffectRectilinear), TurnTag(u"_LR", &ImageRecord::RotateY),
     TurnTag(u"_UD", &ImageRecord::RotateX), TurnTag(u"_Zr", &ImageRecord::RotateZ)};
 
+constexpr std::array sphereTags{NameTag{u"_hAOV", &ImageRecord::OutputAOV, "OutputAOV", 3},
+                                TurnTag(u"_LR", &ImageRecord::RotateY),
+                                TurnTag(u"_UD", &ImageRecord::RotateX),
+                                TurnTag(u"_Zr", &ImageRecord::RotateZ)};
+
 constexpr SheetVariants effectVariants{SliderId::Effect, false, {50.0, 75.0, 100.0}};  // percent
 
 template <class Map>
@@ -61,14 +81,32 @@ std::unique_ptr<ProjectionMap> MakeEquidistance(const ImageRecord& image, const 
     return std::make_unique<EquidistanceMap>(EquidistanceViewOf(image, frames));
 }
 
+template <NewPlane plane, auto widest, bool partial = false, bool planet = false>
+std::unique_ptr<ProjectionMap> MakeSphere(const ImageRecord& image, const Frames& frames) {
+    return MakeOnSphere({widest, plane, partial, planet}, image, frames);
+}
+
+template <PlanePointer (*plane)(const PlaneFit& fit)>
+PlanePointer Plain(const ImageRecord& /*image*/, const PlaneFit& fit) {
+    return plane(fit);
+}
+
+// At three angles of view, degrees.
+constexpr SheetVariants Angles(double narrow, double middle, double wide) {
+    return {SliderId::AovOutput, false, {narrow, middle, wide}};
+}
+
 constexpr std::array rows{
     ProjectionInfo{
         .id = Projection::Varnel,
+        .key = u"Varnel",
         .name = u"Varnel",
+        .title = "Varnel",
         .tip = QT_TRANSLATE_NOOP(
             "Projections",
             "Stretches every row of the circle sideways to the full width; no row moves up or "
             "down"),
+        .basic = true,
         .controls = effectOnly,
         .effect = &ImageRecord::EffectVarnel,
         .frame = {SliderId::Effect, false, aside},
@@ -78,8 +116,11 @@ constexpr std::array rows{
     },
     ProjectionInfo{
         .id = Projection::Rectilinear,
+        .key = u"Rectilinear",
         .name = u"Rectilinear",
+        .title = "Rectilinear",
         .tip = QT_TRANSLATE_NOOP("Projections", "Straight lines of the scene come out straight"),
+        .basic = true,
         .controls = rectilinearControls,
         .effect = &ImageRecord::EffectRectilinear,
         .frame = {SliderId::AovOutput, true, around},
@@ -90,8 +131,11 @@ constexpr std::array rows{
     },
     ProjectionInfo{
         .id = Projection::Equidistance,
+        .key = u"Equidistance",
         .name = u"Equidistance",
+        .title = "Equidistance",
         .tip = QT_TRANSLATE_NOOP("Projections", "A fisheye in which equal angles take equal room"),
+        .basic = true,
         .controls = inputAngle,
         .frame = {SliderId::AovInput, false, around},
         .sheet = {SliderId::AovInput, true, {0.85, 1.0, 1.15}},
@@ -99,13 +143,168 @@ constexpr std::array rows{
     },
     ProjectionInfo{
         .id = Projection::Horizon,
+        .key = u"Horizon",
         .name = u"Horizon",
+        .title = "Horizon",
         .tip = QT_TRANSLATE_NOOP("Projections",
                                  "Unrolls a circle shot straight up or down into a panorama"),
+        .basic = true,
         .controls = hiddenEffect,
         .effect = &ImageRecord::EffectVarnel,
         .sheet = effectVariants,
         .Make = MakeOfCircle<HorizonMap>,
+    },
+    ProjectionInfo{
+        .id = Projection::Stereographic,
+        .key = u"stereographic",
+        .name = u"Stereographic",
+        .title = QT_TRANSLATE_NOOP("Projections", "Stereographic"),
+        .tip = QT_TRANSLATE_NOOP(
+            "Projections", "Small shapes stay true however wide the view; straight lines bow"),
+        .controls = partialSphereControls<340>,
+        .effect = &ImageRecord::EffectRectilinear,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = rectilinearTags,
+        .sheet = effectVariants,
+        .Widest = WidestOf<340>,
+        .Make = MakeSphere<Plain<StereographicPlane>, WidestOf<340>, true>,
+    },
+    ProjectionInfo{
+        .id = Projection::Panini,
+        .key = u"panini",
+        .name = u"Panini",
+        .title = QT_TRANSLATE_NOOP("Projections", "Panini"),
+        .tip = QT_TRANSLATE_NOOP(
+            "Projections",
+            "Wide rooms and streets: uprights and lines toward the middle stay straight"),
+        .controls = partialSphereControls<320>,
+        .effect = &ImageRecord::EffectRectilinear,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = rectilinearTags,
+        .sheet = effectVariants,
+        .Widest = WidestPanini,
+        .Make = MakeSphere<PaniniPlaneOf, WidestPanini, true>,
+    },
+    ProjectionInfo{
+        .id = Projection::Cylindrical,
+        .key = u"cylindrical",
+        .name = u"Cylindrical",
+        .title = QT_TRANSLATE_NOOP("Projections", "Cylindrical"),
+        .tip = QT_TRANSLATE_NOOP("Projections",
+                                 "A panorama around an upright cylinder: uprights stay straight"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 180.0, 240.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<Plain<CylindricalPlane>, WidestOf<360>>,
+    },
+    ProjectionInfo{
+        .id = Projection::Mercator,
+        .key = u"mercator",
+        .name = u"Mercator",
+        .title = QT_TRANSLATE_NOOP("Projections", "Mercator"),
+        .tip = QT_TRANSLATE_NOOP(
+            "Projections",
+            "A panorama that keeps small shapes true, taller than it would be around a cylinder"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 180.0, 240.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<Plain<MercatorPlane>, WidestOf<360>>,
+    },
+    ProjectionInfo{
+        .id = Projection::Equirectangular,
+        .key = u"equirectangular",
+        .name = u"Equirectangular",
+        .title = QT_TRANSLATE_NOOP("Projections", "Equirectangular"),
+        .tip = QT_TRANSLATE_NOOP("Projections",
+                                 "Even angles across and up: what 360 degree viewers take"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 180.0, 360.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<Plain<EquirectangularPlane>, WidestOf<360>>,
+    },
+    ProjectionInfo{
+        .id = Projection::FisheyeEquidistant,
+        .key = u"fisheye-equidistant",
+        .name = u"FisheyeEquidistant",
+        .title = QT_TRANSLATE_NOOP("Projections", "Fisheye, equidistant"),
+        .tip = QT_TRANSLATE_NOOP(
+            "Projections",
+            "A fisheye in which the distance from the middle is the angle, whatever the sensor"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 150.0, 180.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<Plain<EquidistantPlane>, WidestOf<360>>,
+    },
+    ProjectionInfo{
+        .id = Projection::FisheyeEquisolid,
+        .key = u"fisheye-equisolid",
+        .name = u"FisheyeEquisolid",
+        .title = QT_TRANSLATE_NOOP("Projections", "Fisheye, equisolid"),
+        .tip = QT_TRANSLATE_NOOP("Projections",
+                                 "A fisheye in which equal parts of the view take equal areas"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 150.0, 180.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<Plain<EquisolidPlane>, WidestOf<360>>,
+    },
+    ProjectionInfo{
+        .id = Projection::Orthographic,
+        .key = u"orthographic",
+        .name = u"Orthographic",
+        .title = QT_TRANSLATE_NOOP("Projections", "Orthographic"),
+        .tip =
+            QT_TRANSLATE_NOOP("Projections", "The half in front as on a globe seen from far away"),
+        .controls = sphereControls<180>,
+        .frame = {SliderId::AovOutput, true, around},
+        .levels = true,
+        .tags = sphereTags,
+        .sheet = Angles(120.0, 150.0, 180.0),
+        .Widest = WidestOf<180>,
+        .Make = MakeSphere<Plain<OrthographicPlane>, WidestOf<180>>,
+    },
+    ProjectionInfo{
+        .id = Projection::LittlePlanet,
+        .key = u"little-planet",
+        .name = u"LittlePlanet",
+        .title = QT_TRANSLATE_NOOP("Projections", "Little planet"),
+        .tip = QT_TRANSLATE_NOOP("Projections", "The ground as a small planet, the sky around it"),
+        .controls = sphereControls<340>,
+        .frame = {SliderId::AovOutput, true, around},
+        .tags = sphereTags,
+        .sheet = Angles(220.0, 270.0, 320.0),
+        .Widest = WidestOf<340>,
+        .Make = MakeSphere<Plain<StereographicPlane>, WidestOf<340>, false, true>,
+    },
+    ProjectionInfo{
+        .id = Projection::Unrolled,
+        .key = u"unrolled",
+        .name = u"Unrolled",
+        .title = QT_TRANSLATE_NOOP("Projections", "Unrolled"),
+        .tip = QT_TRANSLATE_NOOP("Projections",
+                                 "Directions around the axis become columns, angles from it rows"),
+        .controls = sphereControls<360>,
+        .frame = {SliderId::AovOutput, true, around},
+        .tags = sphereTags,
+        .sheet = Angles(90.0, 180.0, 360.0),
+        .Widest = WidestOf<360>,
+        .Make = MakeSphere<UnrolledPlaneOf, WidestOf<360>>,
     },
 };
 

@@ -22,6 +22,18 @@ inline constexpr int nodesAround = 2;
 struct NodeRun {
     int x = 0, y = 0;
     int step = largestNodeStep;
+
+    double PlaceOf(std::size_t node) const {
+        return x + (static_cast<double>(node) - nodesAround) * step;
+    }
+};
+
+// What nodes hold, all as long as there are nodes.
+struct NodeValues {
+    std::span<double> u, v;  // source offsets
+    // How far within what the map shows, smooth and without a unit; below 0 it shows nothing,
+    // whatever u and v are. Only of maps that have an edge.
+    std::span<double> inside{};
 };
 
 // The smooth half of a map, also between whole positions: what nodes are worked out with. Agrees
@@ -30,8 +42,9 @@ struct NodeRun {
 class SmoothNodes {
   public:
     virtual ~SmoothNodes() = default;
-    // Source offsets into u and v, which are as long as there are nodes. Throws nothing.
-    virtual void Fill(const NodeRun& run, std::span<double> u, std::span<double> v) const = 0;
+    virtual void Fill(const NodeRun& run, const NodeValues& into) const = 0;
+    // Whether it shows nothing anywhere, where the map itself is nowhere on the source.
+    virtual bool HasEdge() const { return false; }
 };
 
 // By a formula with SourceOffset At(double x, double y).
@@ -39,12 +52,11 @@ template <class Formula>
 class NodesBy : public SmoothNodes {
   public:
     explicit NodesBy(Formula formula) : formula_(std::move(formula)) {}
-    void Fill(const NodeRun& run, std::span<double> u, std::span<double> v) const override {
-        for (std::size_t n = 0; n < u.size(); ++n) {
-            const double along = (static_cast<double>(n) - nodesAround) * run.step;
-            const SourceOffset offset = formula_.At(run.x + along, run.y);
-            u[n] = offset.u;
-            v[n] = offset.v;
+    void Fill(const NodeRun& run, const NodeValues& into) const override {
+        for (std::size_t n = 0; n < into.u.size(); ++n) {
+            const SourceOffset offset = formula_.At(run.PlaceOf(n), run.y);
+            into.u[n] = offset.u;
+            into.v[n] = offset.v;
         }
     }
 
@@ -101,6 +113,7 @@ class SmoothMap : public ProjectionMap {
     SourceOffset FromAxis(const SourceOffset& offset) const {
         return {offset.u + fraction_.x, offset.v + fraction_.y};
     }
+    const CentreShift& AxisFraction() const { return fraction_; }
     // The nodes of a formula of offsets from the axis.
     template <class Formula>
     std::unique_ptr<SmoothNodes> NodesFromAxis(const Formula& formula) const {

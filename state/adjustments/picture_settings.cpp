@@ -231,7 +231,7 @@ PictureSettings SettingsFrom(const ImageRecord& image) {
     settings.insert(Source, image.FileName);
     settings.insert(SourceFolder, WrittenFolder(image.Folder));
     settings.insert(Orientation, QString::number(image.Orientation));
-    settings.insert(ProjectionName, ToText(ProjectionFromIndex(image.Projection)));
+    settings.insert(ProjectionName, KeyOf(ProjectionFromIndex(image.Projection)));
     for (const QLatin1StringView name : textFields) {
         settings.insert(name, FieldText(image, name));
     }

@@ -21,7 +21,8 @@ struct ControlPointLine {
     int x = 0, y = 0;
     int count = 0;
     int step = largestNodeStep;
-    std::vector<double> u, v;
+    std::vector<double> u{}, v{};
+    std::vector<double> inside{};  // empty for a map without an edge
 };
 
 // The smaller the picture the stronger its lines bend from pixel to pixel.
@@ -30,19 +31,24 @@ inline int NodeStepFor(PixelSize picture) {
     return longest < 2000 ? 16 : longest < 4000 ? 32 : largestNodeStep;
 }
 
+// Where nodes that far apart do not do.
+inline constexpr int closeNodeStep = 8;
+
 // Fills in the nodes; the vectors are reused.
 inline void WorkOutNodes(const SmoothNodes& nodes, ControlPointLine& line) {
     const int segments = (line.count + line.step - 1) / line.step;
     const auto size = static_cast<std::size_t>(segments + 1 + 2 * nodesAround);
     line.u.resize(size);
     line.v.resize(size);
-    nodes.Fill({line.x, line.y, line.step}, line.u, line.v);
+    line.inside.resize(nodes.HasEdge() ? size : 0);
+    nodes.Fill({line.x, line.y, line.step}, {line.u, line.v, line.inside});
 }
 
 // A run's exact colours: by the map itself and the literal blends.
 struct ExactLine {
     const SmoothMap& map;
     const ControlPointLine& line;
+    const SmoothNodes& nodes;
 
     static PixelColor Colour(const void* context, const NodeSpan& span, const SpanImage& image,
                              int n) {
@@ -53,11 +59,28 @@ struct ExactLine {
         return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
                             : BlendBilinear(span.source, span.centreX + column, row);
     }
+    // Nodes every few pixels: at an edge and where the map bends.
+    static void Closer(const void* context, const NodeSpan& span, int first, int end) {
+        const auto& self = *static_cast<const ExactLine*>(context);
+        ControlPointLine part{self.line.x + first, self.line.y, end - first, closeNodeStep};
+        WorkOutNodes(self.nodes, part);
+        const ExactLine exact{self.map, part, self.nodes};
+        for (const SpanImage& image : span.images) {
+            SpanImage its = image;
+            its.target.first = image.target.At(first);
+            its.begin = image.begin - first;
+            its.end = std::min(image.end - first, part.count);
+            NodeSpan close = exact.Span(span.source, span.nearest, {&its, 1});
+            close.closer = nullptr;
+            SampleNodeSpan(close);
+        }
+    }
     // The run of all its pixels into the images; for as long as this and they live.
     NodeSpan Span(const SourceView& source, bool nearest, std::span<const SpanImage> images) const {
         return {source,
                 line.u.data(),
                 line.v.data(),
+                line.inside.empty() ? nullptr : line.inside.data(),
                 line.step,
                 line.count,
                 map.SourceCentre().x,
@@ -66,6 +89,7 @@ struct ExactLine {
                 map.MirrorShift().y,
                 nearest,
                 &ExactLine::Colour,
+                line.inside.empty() ? nullptr : &ExactLine::Closer,
                 this,
                 images};
     }

@@ -80,7 +80,7 @@ class FourfoldEngine : public Engine {
                 images[count++] = {signX, signY, target_.From(x, y, signX), clip.begin, clip.end};
             }
         }
-        const ExactLine exact{map_, line};
+        const ExactLine exact{map_, line, *nodes_};
         SampleNodeSpan(exact.Span(source_, surface_.Nearest(), {images.data(), count}));
     }
 

@@ -66,7 +66,7 @@ ControlPointLine SmoothEngine::LineOf(int x, int count) const {
 
 void SmoothEngine::DrawLine(ControlPointLine& line, std::vector<std::uint8_t>& spare) const {
     WorkOutNodes(*nodes_, line);
-    const ExactLine exact{map_, line};
+    const ExactLine exact{map_, line, *nodes_};
     const std::int32_t row = rows_.Place(line.y);
     SpanImage image{1, 1, {}, 0, line.count};
     if (columns_.Contiguous()) {

@@ -80,6 +80,20 @@ inline bool Lost(const double* p) {
     return lost(p[2]) && lost(p[3]);
 }
 
+enum class Shown { All, None, Part };
+
+// What is shown between w[2] and w[3], see NodeValues: what bends less than it is away from 0 does
+// not reach 0 in between.
+inline Shown ShownBetween(const double* w) {
+    constexpr double rounding = 1e-7;
+    const double bend = rounding + std::max(std::fabs(w[1] - 2.0 * w[2] + w[3]),
+                                            std::fabs(w[2] - 2.0 * w[3] + w[4]));
+    if (std::min(w[2], w[3]) > bend) {
+        return Shown::All;
+    }
+    return std::max(w[2], w[3]) < -bend ? Shown::None : Shown::Part;
+}
+
 // The target's pixels from the n-th on.
 inline void StoreInside(const SourceView source, const Coordinate& x, const Coordinate& y,
                         const SpanTarget& target, int n) {
@@ -112,6 +126,25 @@ inline void StoreInside(const SourceView source, const Coordinate& x, const Coor
 HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int first, int end) {
     for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
         image.target.Put(n, span.exact(span.context, span, image, n));
+    }
+}
+
+// Pixels between two nodes that the nodes cannot stand for.
+HWY_NOINLINE void StoreOtherwise(const NodeSpan& span, int first, int end) {
+    if (span.closer != nullptr) {
+        span.closer(span.context, span, first, end);
+        return;
+    }
+    for (const SpanImage& image : span.images) {
+        StoreExact(span, image, first, end);
+    }
+}
+
+HWY_NOINLINE void StoreBlack(const NodeSpan& span, int first, int end) {
+    for (const SpanImage& image : span.images) {
+        for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
+            image.target.Put(n, black);
+        }
     }
 }
 
@@ -193,13 +226,16 @@ void NodeSpanImpl(const NodeSpan& span) {
         step = power;
     }
     for (int n = 0; n * span.step < span.count; ++n) {
+        const int first = n * span.step;
+        const int end = std::min(first + span.step, span.count);
+        const Shown shown = span.inside == nullptr ? Shown::All : ShownBetween(span.inside + n);
         const bool exact = Lost(span.u + n) || Lost(span.v + n);
-        if (!exact && Smooth(span.u + n) && Smooth(span.v + n)) {
+        if (shown == Shown::None) {
+            StoreBlack(span, first, end);
+        } else if (shown == Shown::All && !exact && Smooth(span.u + n) && Smooth(span.v + n)) {
             SampleSegment(span, n, steps);
-            continue;
-        }
-        for (const SpanImage& image : span.images) {
-            StoreExact(span, image, n * span.step, std::min((n + 1) * span.step, span.count));
+        } else {
+            StoreOtherwise(span, first, end);
         }
     }
 }

@@ -33,6 +33,7 @@ struct NodeSpan {
     const double* u =
         nullptr;  // nodesAround before the first pixel's node, then one every step pixels
     const double* v = nullptr;
+    const double* inside = nullptr;  // see NodeValues; null: shown everywhere
     int step = largestNodeStep;
     int count = 0;  // pixels
     std::int32_t centreX = 0, centreY = 0;
@@ -42,6 +43,8 @@ struct NodeSpan {
     // where a nearest read is too close to call.
     PixelColor (*exact)(const void* context, const NodeSpan& span, const SpanImage& image,
                         int n) = nullptr;
+    // Takes pixels first to end - 1 by closer nodes; null: they are worked out without nodes.
+    void (*closer)(const void* context, const NodeSpan& span, int first, int end) = nullptr;
     const void* context = nullptr;
     std::span<const SpanImage> images;
 };

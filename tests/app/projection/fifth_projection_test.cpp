@@ -26,7 +26,7 @@ namespace varnel {
 
 namespace {
 
-constexpr Projection slant{4};
+constexpr Projection slant{14};
 
 // A picture that leans; how far follows the output angle of view.
 class SlantMap : public SmoothMap {
@@ -58,7 +58,9 @@ constexpr std::array slantTags{NameTag{u"_lean", &ImageRecord::OutputAOV, "Outpu
 
 constexpr ProjectionInfo slantRow{
     .id = slant,
+    .key = u"Slant",
     .name = u"Slant",
+    .title = "Slant",
     .tip = "Leans",
     .controls = slantControls,
     .frame = {SliderId::AovOutput, false, slantHandles},
@@ -90,18 +92,18 @@ QString Q(const char* text) {
 
 ImageRecord SlantRecord() {
     ImageRecord record = FisheyeRecord();
-    record.Projection = 4;
+    record.Projection = 14;
     record.OutputAOV = 41.3F;
     record.FileName = Q("IMG.jpg");
     return record;
 }
 
 TEST(FifthProjection, HasANameANumberAndTags) {
-    EXPECT_EQ(ShippedProjections().size(), 4U);
+    EXPECT_EQ(ShippedProjections().size(), 14U);
     EXPECT_EQ(AllProjections().back(), slant);
     EXPECT_EQ(ProjectionFromText(u"slant"), slant);
-    EXPECT_EQ(ProjectionFromIndex(4), slant);
-    EXPECT_EQ(ProjectionFromIndex(5), Projection::Horizon);
+    EXPECT_EQ(ProjectionFromIndex(14), slant);
+    EXPECT_EQ(ProjectionFromIndex(15), Projection::Horizon);
     EXPECT_EQ(BatchName(SlantRecord(), Q("/o"), {}, OutputType::Jpeg),
               Q("/o/IMG.Slant_lean41.JPG"));
 }
@@ -135,9 +137,9 @@ TEST(FifthProjection, IsDrawnAndMeasuredByWhatDrawsAndMeasuresAll) {
 
 TEST(FifthProjection, IsOnTheContactSheetAndInSequences) {
     const std::vector<ContactTile> tiles = ContactTiles(SlantRecord());
-    ASSERT_EQ(tiles.size(), 15U);
-    EXPECT_EQ(tiles[13].title, Q("Slant 50° hAOV"));
-    EXPECT_EQ(tiles[13].record.OutputAOV, 50.0F);
+    ASSERT_EQ(tiles.size(), 45U);
+    EXPECT_EQ(tiles[43].title, Q("Slant 50° hAOV"));
+    EXPECT_EQ(tiles[43].record.OutputAOV, 50.0F);
     MorphEnds ends = EndsFrom(SlantRecord());
     ends.start.OutputAOV = 40.0F;
     ends.end.OutputAOV = 60.0F;
@@ -147,9 +149,9 @@ TEST(FifthProjection, IsOnTheContactSheetAndInSequences) {
 TEST(FifthProjection, IsAnOptionOfTheWindowWithItsControls) {
     testing::TestWindow workspace;
     workspace.AddPhotos({Q("a.bmp")});
-    EXPECT_EQ(workspace.Find<QAbstractButton>("OptionRemap_4")->text(), Q("Slant"));
-    workspace.Click("OptionRemap_4");
-    EXPECT_EQ(workspace.Record(1).Projection, 4);
+    EXPECT_EQ(workspace.Find<QAbstractButton>("OptionRemap_14")->text(), Q("Slant"));
+    workspace.Click("OptionRemap_14");
+    EXPECT_EQ(workspace.Record(1).Projection, 14);
     EXPECT_TRUE(workspace.Slider("SliderAOVoutput")->isVisible());
     EXPECT_EQ(workspace.Slider("SliderAOVoutput")->maximum(), 90);
     EXPECT_FALSE(workspace.Slider("SliderX")->isVisible());
@@ -194,9 +196,9 @@ TEST(FifthProjection, IsTakenByTheCommandLine) {
         << err.str();
     EXPECT_TRUE(QFile::exists(files.Path(Q("IMG.Slant.TIF"))));
     run({Q("--help")});
-    EXPECT_NE(out.str().find("horizon, slant or"), std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("unrolled, slant or"), std::string::npos) << out.str();
     run({Q("--projection"), Q("round"), photo});
-    EXPECT_NE(err.str().find("horizon, slant or all"), std::string::npos) << err.str();
+    EXPECT_NE(err.str().find("unrolled, slant or all"), std::string::npos) << err.str();
 }
 
 }  // namespace

@@ -209,4 +209,15 @@ QString TargetFor(const ConvertRequest& request, const QString& path, const Imag
            ExtensionOf(type);
 }
 
+QString CutNote(const ImageRecord& record) {
+    const Projection projection = ProjectionFromIndex(record.Projection);
+    const std::optional<float> cut = CutAngleOf(projection, record);
+    return cut ? QStringLiteral(
+                     "the output angle of view is cut to %1 degrees, the widest that %2 "
+                     "has")
+                     .arg(static_cast<double>(*cut))
+                     .arg(KeyOf(projection))
+               : QString();
+}
+
 }  // namespace varnel

@@ -52,4 +52,7 @@ OutputType TypeFor(const ConvertRequest& request);
 QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record,
                   const NameFacts& facts = {});
 
+// That the record asks for more than its projection can show; empty where it does not.
+QString CutNote(const ImageRecord& record);
+
 }  // namespace varnel

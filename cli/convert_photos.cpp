@@ -228,6 +228,10 @@ class CommandRun : public ConversionObserver {
         }
         ++written_;
         reports_.Note(report.result, outcome.note);
+        if (const QString cut = CutNote(conversion.record); !cut.isEmpty()) {
+            report.notes.append(cut);
+            reports_.Note(report.result, {ReasonCode::Words, cut});
+        }
         reports_.Written(report);
     }
 

@@ -4,6 +4,7 @@
 #include "cli/take_preset.h"
 
 #include "cli/options/nearest.h"
+#include "cli/options/option_list.h"
 #include "pipeline/output/preset_output.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/adjustment_set.h"
@@ -30,6 +31,12 @@ void TakeNumbers(const PictureSettings& settings, Options& options) {
         const std::optional<float> number = FloatFromPointText(text);
         if (number && AdjustmentNames().contains(field)) {
             numbers.push_back({field, *number});
+        }
+    }
+    for (const WordOption& option : WordOptions()) {
+        const QString field = OptionText(option.field);
+        if (const auto word = settings.constFind(field); word != settings.constEnd()) {
+            options.fields.emplace(options.fields.begin(), field, *word);
         }
     }
     options.adjustments.insert(options.adjustments.begin(), numbers.begin(), numbers.end());

@@ -48,9 +48,11 @@ constexpr std::array gearRows{
 constexpr std::array viewRows{
     OptionRow{u"preset", u"NAME",
               u"A preset, built in or your own (real estate, group photo ...); other options win."},
-    OptionRow{u"projection", u"NAME", u"%1 or all; default: varnel."},
+    OptionRow{u"projection", u"NAMES",
+              u"%1 or all (the first four); several with commas between; default: varnel."},
     OptionRow{u"list-presets", nullptr, u"List the presets."},
-    OptionRow{u"output-aov", u"D", u"Angle of view of the output, degrees (rectilinear)."},
+    OptionRow{u"output-aov", u"D",
+              u"Angle of view of the output, degrees (not of varnel, equidistance, horizon)."},
     OptionRow{u"input-aov", u"D", u"Angle of view of the lens, degrees (equidistance)."},
     OptionRow{u"effect", u"P", u"Strength of the projection, percent (0.1 to 100)."},
     OptionRow{u"rotate-x", u"D", u"Tilt of the camera, degrees; positive looks down."},
@@ -58,6 +60,18 @@ constexpr std::array viewRows{
     OptionRow{u"rotate-z", u"D", u"Roll of the camera, degrees; positive is counter-clockwise."},
     OptionRow{u"translate-x", u"P", u"Shift of the picture, percent; positive is right."},
     OptionRow{u"translate-y", u"P", u"Shift of the picture, percent; positive is up."},
+    OptionRow{u"panini-d", u"D", u"0 to 1: from rectilinear to wide (panini; default: 1)."},
+    OptionRow{u"panini-squeeze", u"P", u"Straightens lines across, percent (panini)."},
+    OptionRow{u"unroll-start", u"D",
+              u"Azimuth of the left border, degrees clockwise from the top (unrolled)."},
+    OptionRow{u"unroll-direction", u"N", u"1: clockwise as seen, -1: the other way (unrolled)."},
+    OptionRow{u"unroll-from", u"D",
+              u"Angle from the axis at the bottom, degrees (unrolled; default: 0)."},
+    OptionRow{u"unroll-to", u"D",
+              u"Angle from the axis at the top, degrees (unrolled; default: 90)."},
+    OptionRow{u"camera-pose", u"POSE",
+              u"How the camera was held: level, up or down (little-planet; default: level)."},
+    OptionRow{u"tunnel", nullptr, u"Look the other way, at the sky (little-planet)."},
     OptionRow{u"set", u"FIELD=VALUE",
               u"Any field of the image record, after all the rest; may be repeated."},
 };
@@ -118,16 +132,31 @@ constexpr std::array numberOptions{
     NumberOption{u"rotate-z", {u"RotateZ", nullptr}},
     NumberOption{u"translate-x", {u"TranslateX", nullptr}},
     NumberOption{u"translate-y", {u"TranslateY", nullptr}},
+    NumberOption{u"panini-d", {u"PaniniD", nullptr}, {{0.0F, 1.0F}}},
+    NumberOption{u"panini-squeeze", {u"PaniniSqueeze", nullptr}, {{0.0F, 100.0F}}},
+    NumberOption{u"unroll-start", {u"UnrollStart", nullptr}},
+    NumberOption{u"unroll-from", {u"UnrollFrom", nullptr}, {{0.0F, 180.0F}}},
+    NumberOption{u"unroll-to", {u"UnrollTo", nullptr}, {{0.0F, 180.0F}}},
+};
+
+constexpr std::array wordOptions{
+    WordOption{u"unroll-direction", u"UnrollDirection", u"1 or -1"},
+    WordOption{u"camera-pose", u"Pose", u"level, up or down"},
+    WordOption{u"tunnel", u"Tunnel", u""},
 };
 
 }  // namespace
 
-QString ProjectionNames() {
-    QStringList names;
+QStringList ProjectionKeys() {
+    QStringList keys;
     for (const Projection projection : AllProjections()) {
-        names.append(KeyOf(projection).toLower());
+        keys.append(KeyOf(projection).toLower());
     }
-    return names.join(QStringLiteral(", "));
+    return keys;
+}
+
+QString ProjectionNames() {
+    return ProjectionKeys().join(QStringLiteral(", "));
 }
 
 QString HelpOf(const OptionRow& row) {
@@ -157,6 +186,10 @@ QStringList OptionNames() {
         }
     }
     return names;
+}
+
+std::span<const WordOption> WordOptions() {
+    return wordOptions;
 }
 
 std::span<const NumberOption> NumberOptions() {

@@ -9,7 +9,9 @@
 #include <QString>
 #include <QStringList>
 #include <array>
+#include <optional>
 #include <span>
+#include <utility>
 
 namespace varnel {
 
@@ -26,6 +28,8 @@ struct OptionGroup {
 
 std::span<const OptionGroup> OptionGroups();
 
+// On the command line.
+QStringList ProjectionKeys();
 // "varnel, rectilinear, ...".
 QString ProjectionNames();
 // The help with the projections' names in the place of "%1".
@@ -41,7 +45,17 @@ QStringList OptionNames();
 struct NumberOption {
     const char16_t* name;
     std::array<const char16_t*, 2> fields;
+    std::optional<std::pair<float, float>> range{};  // the least and the most; none: any number
 };
+
+// Options that set a word of the record, as --set does.
+struct WordOption {
+    const char16_t* name;
+    const char16_t* field;
+    const char16_t* words;  // what is taken, for errors; empty: the option alone means True
+};
+
+std::span<const WordOption> WordOptions();
 
 std::span<const NumberOption> NumberOptions();
 

@@ -3,6 +3,7 @@
 
 #include "cli/options/option_values.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "cli/options/nearest.h"
@@ -27,6 +28,19 @@ std::pair<QString, QString> PartsOf(const QString& option, const QString& text) 
     return {text.left(equals), text.mid(equals + 1)};
 }
 
+std::vector<Projection> ProjectionsNamed(const QString& text) {
+    const QString all = QStringLiteral("all");
+    if (text.compare(all, Qt::CaseInsensitive) == 0) {
+        return BasicProjections();
+    }
+    if (const auto projection = ProjectionFromText(text)) {
+        return {*projection};
+    }
+    throw UsageError{AskIfMeant(QStringLiteral("unknown projection \"%1\"").arg(text),
+                                Nearest(text, ProjectionKeys() << all),
+                                QStringLiteral("use %1 or all").arg(ProjectionNames()))};
+}
+
 QString Joined(const QStringList& names) {
     return names.join(QStringLiteral(", "));
 }
@@ -47,14 +61,15 @@ float NumberOf(const QString& option, const QString& text) {
 }
 
 std::vector<Projection> ProjectionsOf(const QString& text) {
-    if (text.compare(u"all", Qt::CaseInsensitive) == 0) {
-        return BasicProjections();
+    std::vector<Projection> projections;
+    for (const QString& part : text.split(u',')) {
+        for (const Projection projection : ProjectionsNamed(part.trimmed())) {
+            if (std::ranges::find(projections, projection) == projections.end()) {
+                projections.push_back(projection);
+            }
+        }
     }
-    if (const auto projection = ProjectionFromText(text)) {
-        return {*projection};
-    }
-    throw UsageError{
-        QStringLiteral("unknown projection \"%1\"; use %2 or all").arg(text, ProjectionNames())};
+    return projections;
 }
 
 CatalogueName CatalogueNameOf(const QString& option, const QString& text) {

@@ -18,6 +18,7 @@ struct UsageError {
     QString text;
 };
 
+// Names with commas between, each projection once; "all" stands for the first four.
 std::vector<Projection> ProjectionsOf(const QString& text);
 CatalogueName CatalogueNameOf(const QString& option, const QString& text);
 // auto, off, or X,Y,R in pixels of the photo from its top left corner.

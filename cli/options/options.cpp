@@ -101,6 +101,16 @@ void TakeIfSet(const QCommandLineParser& parser, const char16_t* name, Value& va
     }
 }
 
+void CheckRange(const NumberOption& option, const QString& text, float value) {
+    if (option.range && !(value >= option.range->first && value <= option.range->second)) {
+        throw UsageError{QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
+                             .arg(OptionText(option.name))
+                             .arg(static_cast<double>(option.range->first))
+                             .arg(static_cast<double>(option.range->second))
+                             .arg(text)};
+    }
+}
+
 void TakeNumbers(const QCommandLineParser& parser, Options& options) {
     for (const NumberOption& option : NumberOptions()) {
         const QString name = OptionText(option.name);
@@ -108,11 +118,29 @@ void TakeNumbers(const QCommandLineParser& parser, Options& options) {
             continue;
         }
         const float value = NumberOf(name, parser.value(name));
+        CheckRange(option, parser.value(name), value);
         for (const char16_t* field : option.fields) {
             if (field != nullptr) {
                 options.adjustments.push_back({OptionText(field), value});
             }
         }
+    }
+}
+
+// In front of what --set gives, which has the last word.
+void TakeWords(const QCommandLineParser& parser, Options& options) {
+    for (const WordOption& option : WordOptions()) {
+        const QString name = OptionText(option.name);
+        if (!parser.isSet(name)) {
+            continue;
+        }
+        const QString words = OptionText(option.words);
+        const QString value = words.isEmpty() ? QStringLiteral("True") : parser.value(name);
+        ImageRecord probe;
+        if (SetField(probe, OptionText(option.field), value) != FieldResult::Ok) {
+            throw UsageError{QStringLiteral("--%1 needs %2, not \"%3\"").arg(name, words, value)};
+        }
+        options.fields.emplace_back(OptionText(option.field), value);
     }
 }
 
@@ -151,6 +179,7 @@ Options Take(const QCommandLineParser& parser) {
     options.fringes = parser.isSet(QStringLiteral("fringes"));
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
+    TakeWords(parser, options);
     for (const QString& text : parser.values(QStringLiteral("set"))) {
         options.fields.push_back(FieldOf(text));
     }

@@ -9,17 +9,22 @@
 #include <array>
 
 #include "state/adjustments/picture_settings.h"
+#include "state/adjustments/record_fields.h"
 
 namespace varnel {
 
 namespace {
 
 constexpr std::array names{
-    QLatin1StringView("Projection"),   QLatin1StringView("OutputAOV"),
-    QLatin1StringView("EffectVarnel"), QLatin1StringView("EffectRectilinear"),
-    QLatin1StringView("RotateX"),      QLatin1StringView("RotateY"),
-    QLatin1StringView("RotateZ"),      QLatin1StringView("TranslateX"),
-    QLatin1StringView("TranslateY"),
+    QLatin1StringView("Projection"),      QLatin1StringView("OutputAOV"),
+    QLatin1StringView("EffectVarnel"),    QLatin1StringView("EffectRectilinear"),
+    QLatin1StringView("RotateX"),         QLatin1StringView("RotateY"),
+    QLatin1StringView("RotateZ"),         QLatin1StringView("TranslateX"),
+    QLatin1StringView("TranslateY"),      QLatin1StringView("PaniniD"),
+    QLatin1StringView("PaniniSqueeze"),   QLatin1StringView("UnrollStart"),
+    QLatin1StringView("UnrollDirection"), QLatin1StringView("UnrollFrom"),
+    QLatin1StringView("UnrollTo"),        QLatin1StringView("Pose"),
+    QLatin1StringView("Tunnel"),
 };
 
 constexpr QLatin1StringView textKey("VarnelAdjustments");
@@ -42,7 +47,14 @@ QStringList AdjustmentNames() {
 }
 
 PictureSettings AdjustmentsOf(const ImageRecord& image) {
-    return Chosen(SettingsFrom(image));
+    PictureSettings adjustments = Chosen(SettingsFrom(image));
+    for (const QLatin1StringView name : names) {
+        if (!adjustments.contains(name) &&
+            IsOfNewRecord(image, name)) {  // it was not written, and has to undo what is there
+            adjustments.insert(name, FieldText(image, name));
+        }
+    }
+    return adjustments;
 }
 
 bool GiveAdjustments(const PictureSettings& settings, ImageRecord& image) {

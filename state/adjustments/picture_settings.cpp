@@ -49,6 +49,7 @@ struct NumberField {
     QLatin1StringView name;
     float least;
     float most;
+    bool sparse = false;  // written only where it is not what a new record has
 };
 
 constexpr std::array numberFields{
@@ -73,6 +74,18 @@ constexpr std::array numberFields{
     NumberField{QLatin1StringView("RotateZ"), -3600.0F, 3600.0F},
     NumberField{QLatin1StringView("TranslateX"), -1000.0F, 1000.0F},
     NumberField{QLatin1StringView("TranslateY"), -1000.0F, 1000.0F},
+    NumberField{QLatin1StringView("PaniniD"), 0.0F, 1.0F, true},
+    NumberField{QLatin1StringView("PaniniSqueeze"), 0.0F, 100.0F, true},
+    NumberField{QLatin1StringView("UnrollStart"), -3600.0F, 3600.0F, true},
+    NumberField{QLatin1StringView("UnrollDirection"), -1.0F, 1.0F, true},
+    NumberField{QLatin1StringView("UnrollFrom"), 0.0F, 180.0F, true},
+    NumberField{QLatin1StringView("UnrollTo"), 0.0F, 180.0F, true},
+};
+
+// Words, written like sparse numbers.
+constexpr std::array wordFields{
+    QLatin1StringView("Pose"),
+    QLatin1StringView("Tunnel"),
 };
 
 struct Texts {
@@ -139,6 +152,10 @@ Taking TakeText(const QString& name, const QString& value, ImageRecord& image) {
     return Taking::Taken;
 }
 
+Taking TakeByField(const QString& name, const QString& value, ImageRecord& image) {
+    return SetField(image, name, value) == FieldResult::Ok ? Taking::Taken : Taking::NotUsable;
+}
+
 Taking TakeNumber(const NumberField& field, const QString& value, ImageRecord& image) {
     const std::optional<float> number = FloatFromPointText(value);
     if (!number) {
@@ -147,8 +164,7 @@ Taking TakeNumber(const NumberField& field, const QString& value, ImageRecord& i
     if (*number < field.least || *number > field.most) {
         return Taking::OutOfRange;
     }
-    SetField(image, field.name, value);
-    return Taking::Taken;
+    return TakeByField(field.name, value, image);
 }
 
 Taking TakeLens(const QString& value, ImageRecord& image) {
@@ -179,6 +195,9 @@ Taking Take(const QString& name, const QString& value, ImageRecord& image) {
     const auto isNamed = [&name](const auto& field) { return field == name; };
     if (name == Source || name == SourceFolder || std::ranges::any_of(textFields, isNamed)) {
         return TakeText(name, value, image);
+    }
+    if (std::ranges::any_of(wordFields, isNamed)) {
+        return TakeByField(name, value, image);
     }
     if (name == ProjectionName) {
         const std::optional<Projection> projection = ProjectionFromText(value);
@@ -215,6 +234,10 @@ QString NoteOf(Taking taking, const QString& name, const QString& value) {
 
 }  // namespace
 
+bool IsOfNewRecord(const ImageRecord& image, const QString& field) {
+    return FieldText(image, field) == FieldText(ImageRecord(), field);
+}
+
 QString Shown(const QString& setting, qsizetype longest) {
     QList<uint> letters = setting.toUcs4();
     std::ranges::replace_if(
@@ -241,8 +264,13 @@ PictureSettings SettingsFrom(const ImageRecord& image) {
     }
     for (const NumberField& field : numberFields) {
         const QString text = FieldText(image, field.name);
-        if (FloatFromPointText(text)) {
+        if (FloatFromPointText(text) && !(field.sparse && IsOfNewRecord(image, field.name))) {
             settings.insert(field.name, text);
+        }
+    }
+    for (const QLatin1StringView name : wordFields) {
+        if (!IsOfNewRecord(image, name)) {
+            settings.insert(name, FieldText(image, name));
         }
     }
     return settings;

@@ -14,9 +14,12 @@
 namespace varnel {
 
 // The photo, how it was turned, its gear and every adjustment; what a record knows of its photo's
-// size is left out.
+// size is left out, and so are the numbers of single projections where nobody changed them.
 // What cannot be written (a number that is none, a name with control characters) is missing.
 PictureSettings SettingsFrom(const ImageRecord& image);
+
+// Whether a field is what a new record has.
+bool IsOfNewRecord(const ImageRecord& image, const QString& field);
 
 // Takes what can be used into the record and marks it as applied; missing and unusable settings
 // leave what the record has. Names of later versions are kept in FurtherSettings. Each line of the

@@ -15,8 +15,9 @@ namespace varnel {
 
 namespace {
 
-using FieldPointer = std::variant<std::int16_t ImageRecord::*, Bool16 ImageRecord::*,
-                                  float ImageRecord::*, QString ImageRecord::*>;
+using FieldPointer =
+    std::variant<std::int16_t ImageRecord::*, Bool16 ImageRecord::*, float ImageRecord::*,
+                 QString ImageRecord::*, CameraPose ImageRecord::*>;
 
 struct Field {
     QLatin1StringView name;
@@ -63,9 +64,21 @@ constexpr std::array fields{
     VARNEL_FIELD(FileName),
     VARNEL_FIELD(NameSuffix),
     VARNEL_FIELD(Orientation),
+    VARNEL_FIELD(PaniniD),
+    VARNEL_FIELD(PaniniSqueeze),
+    VARNEL_FIELD(UnrollStart),
+    VARNEL_FIELD(UnrollDirection),
+    VARNEL_FIELD(UnrollFrom),
+    VARNEL_FIELD(UnrollTo),
+    VARNEL_FIELD(Pose),
+    VARNEL_FIELD(Tunnel),
 };
 #undef VARNEL_FIELD
-static_assert(fields.size() == 35);
+static_assert(fields.size() == 43);
+
+constexpr std::array poses{std::pair{QLatin1StringView("level"), CameraPose::Level},
+                           std::pair{QLatin1StringView("up"), CameraPose::Up},
+                           std::pair{QLatin1StringView("down"), CameraPose::Down}};
 
 std::optional<std::int16_t> Parse(const QString& text, std::int16_t /*kind*/) {
     using Limits = std::numeric_limits<std::int16_t>;
@@ -98,6 +111,15 @@ std::optional<QString> Parse(const QString& text, const QString& /*kind*/) {
     return text;
 }
 
+std::optional<CameraPose> Parse(const QString& text, CameraPose /*kind*/) {
+    for (const auto& [name, pose] : poses) {
+        if (text.compare(name, Qt::CaseInsensitive) == 0) {
+            return pose;
+        }
+    }
+    return std::nullopt;
+}
+
 QString TextOf(std::int16_t value) {
     return QString::number(value);
 }
@@ -113,6 +135,24 @@ QString TextOf(float value) {
 
 QString TextOf(const QString& value) {
     return value;
+}
+
+QString TextOf(CameraPose value) {
+    for (const auto& [name, pose] : poses) {
+        if (pose == value) {
+            return name;
+        }
+    }
+    return poses.front().first;
+}
+
+FieldResult SetDirection(ImageRecord& image, const QString& text) {
+    const std::optional<int> direction = WholeFromText(text);
+    if (direction != 1 && direction != -1) {
+        return FieldResult::BadValue;
+    }
+    image.UnrollDirection = static_cast<std::int16_t>(*direction);
+    return FieldResult::Ok;
 }
 
 template <class Value>
@@ -137,6 +177,9 @@ FieldResult SetField(ImageRecord& image, const QString& field, const QString& va
                 image.Projection = static_cast<std::int16_t>(*projection);
                 return FieldResult::Ok;
             }
+        }
+        if (known.pointer == FieldPointer(&ImageRecord::UnrollDirection)) {
+            return SetDirection(image, value);
         }
         return std::visit([&](auto pointer) { return SetValue(image.*pointer, value); },
                           known.pointer);

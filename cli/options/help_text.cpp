@@ -75,9 +75,14 @@ QString HelpText() {
             if (row.value != nullptr) {
                 name += QStringLiteral(" <%1>").arg(OptionText(row.value));
             }
-            text += Wrapped(HelpOf(row), name);
+            text += Wrapped(OptionText(row.help), name);
         }
     }
+    text += QStringLiteral("\nProjections:\n");
+    for (const QString& key : ProjectionKeys()) {
+        text += QStringLiteral("  ") + key + u'\n';
+    }
+    text += QStringLiteral("  all                      The first four.\n");
     return text + OptionText(foot);
 }
 

@@ -49,7 +49,7 @@ constexpr std::array viewRows{
     OptionRow{u"preset", u"NAME",
               u"A preset, built in or your own (real estate, group photo ...); other options win."},
     OptionRow{u"projection", u"NAMES",
-              u"%1 or all (the first four); several with commas between; default: varnel."},
+              u"The projections, see below, with commas between; default: varnel."},
     OptionRow{u"list-presets", nullptr, u"List the presets."},
     OptionRow{u"output-aov", u"D",
               u"Angle of view of the output, degrees (not of varnel, equidistance, horizon)."},
@@ -157,10 +157,6 @@ QStringList ProjectionKeys() {
 
 QString ProjectionNames() {
     return ProjectionKeys().join(QStringLiteral(", "));
-}
-
-QString HelpOf(const OptionRow& row) {
-    return OptionText(row.help).replace(QStringLiteral("%1"), ProjectionNames());
 }
 
 std::span<const OptionGroup> OptionGroups() {

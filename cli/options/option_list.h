@@ -18,7 +18,7 @@ namespace varnel {
 struct OptionRow {
     const char16_t* name;
     const char16_t* value;  // what is to be given; null: the option takes nothing
-    const char16_t* help;   // see HelpOf
+    const char16_t* help;
 };
 
 struct OptionGroup {
@@ -32,9 +32,6 @@ std::span<const OptionGroup> OptionGroups();
 QStringList ProjectionKeys();
 // "varnel, rectilinear, ...".
 QString ProjectionNames();
-// The help with the projections' names in the place of "%1".
-QString HelpOf(const OptionRow& row);
-
 // Without its dashes; null when there is none.
 const OptionRow* FindOption(QStringView name);
 

@@ -196,7 +196,7 @@ TEST(FifthProjection, IsTakenByTheCommandLine) {
         << err.str();
     EXPECT_TRUE(QFile::exists(files.Path(Q("IMG.Slant.TIF"))));
     run({Q("--help")});
-    EXPECT_NE(out.str().find("unrolled, slant or"), std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("unrolled\n  slant\n  all "), std::string::npos) << out.str();
     run({Q("--projection"), Q("round"), photo});
     EXPECT_NE(err.str().find("unrolled, slant or all"), std::string::npos) << err.str();
 }

@@ -9,6 +9,7 @@
 
 #include "cli/options/help_text.h"
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/record_fields.h"
 #include "tests/support/files.h"
 
 namespace varnel {
@@ -79,9 +80,15 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p -force a", "did you mean \"--force\"?"},
         {"p --force=1 a", "--force takes no value; leave =1 out"},
         {"p --output --type png a", "--output needs a value; give --output FILE"},
-        {"p a --projection", "--projection needs a value; give --projection NAME"},
+        {"p a --projection", "--projection needs a value; give --projection NAMES"},
         {"p --projection flat a",
-         "\"flat\"; use varnel, rectilinear, equidistance, horizon or all"},
+         "\"flat\"; use varnel, rectilinear, equidistance, horizon, stereographic, "},
+        {"p --projection varnel,panin a", "projection \"panin\"; did you mean \"panini\"? use "},
+        {"p --projection varnel, a", "unknown projection \"\"; use "},
+        {"p --panini-d 1.5 a", "--panini-d needs a number from 0 to 1, not \"1.5\""},
+        {"p --unroll-to 200 a", "--unroll-to needs a number from 0 to 180, not \"200\""},
+        {"p --unroll-direction 0 a", "--unroll-direction needs 1 or -1, not \"0\""},
+        {"p --camera-pose x a", "--camera-pose needs level, up or down, not \"x\""},
         {"p -", "-: photos do not come from standard input"},
         {"p --like - a", "--like -: photos do not come from"},
         {"p --output - a", "--output -: results do not go to standard output"},
@@ -131,6 +138,23 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         EXPECT_TRUE(told.contains(QString::fromUtf8(row.told)) && !told.contains(u'\n'))
             << row.line << ": " << told.toStdString();
     }
+}
+
+TEST(ParseOptions, NumbersOfSingleProjectionsAndListsOfThem) {
+    const Options options = std::get<Options>(
+        Parse("p --projection little-planet,Panini,all,panini --panini-d 0.5 --camera-pose up "
+              "--tunnel --unroll-direction -1 --set Pose=down a"));
+    using enum Projection;
+    EXPECT_EQ(options.projections,
+              (std::vector{LittlePlanet, Panini, Varnel, Rectilinear, Equidistance, Horizon}));
+    EXPECT_EQ(options.adjustments.at(0).field, QStringLiteral("PaniniD"));
+    ImageRecord record;
+    for (const auto& [field, value] : options.fields) {
+        SetField(record, field, value);
+    }
+    EXPECT_EQ(record.Pose, CameraPose::Down);
+    EXPECT_TRUE(record.Tunnel);
+    EXPECT_EQ(record.UnrollDirection, -1);
 }
 
 TEST(ParseOptions, DashesInTheirPlacesAreNoMistake) {

@@ -113,7 +113,13 @@ TEST(BatchName, TagsTellTheSettings) {
          .expected = "/o/IMG.Varnel_Morph0001_Eff080.TIF"},
         {.projection = 2, .effect = 80.0F, .expected = "/o/IMG.Equidistance.TIF"},
         {.projection = 3, .x = 5.0F, .expected = "/o/IMG.Horizon.TIF"},
-        {.projection = 9, .expected = "/o/IMG.Horizon.TIF"},
+        {.projection = 14, .expected = "/o/IMG.Horizon.TIF"},
+        {.projection = 4, .effect = 80.0F, .expected = "/o/IMG.Stereographic_hAOV095_Eff080.TIF"},
+        {.projection = 9,
+         .outputAov = 180.0F,
+         .effect = 80.0F,
+         .x = 90.0F,
+         .expected = "/o/IMG.FisheyeEquidistant_hAOV180_UD90.TIF"},
     };
     for (const Entry& row : rows) {
         ImageRecord image;

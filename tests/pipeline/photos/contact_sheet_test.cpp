@@ -21,7 +21,7 @@ TEST(ContactTiles, AreTheProjectionsInThreeStrengthsAndKeepTheRest) {
     image.InputAOV = 265.0F;
     image.RotateX = -7.0F;
     const std::vector<ContactTile> tiles = ContactTiles(image);
-    ASSERT_EQ(tiles.size(), 12U);
+    ASSERT_EQ(tiles.size(), 42U);
     const struct {
         std::size_t tile;
         const char* title;
@@ -32,7 +32,9 @@ TEST(ContactTiles, AreTheProjectionsInThreeStrengthsAndKeepTheRest) {
                  {5, "Rectilinear 100 %", 90, 100, 265},
                  {6, "Equidistance 225° hAOV", 90, 75, 225},
                  {8, "Equidistance 280° hAOV", 90, 75, 280},  // the slider's end
-                 {9, "Horizon 50 %", 50, 75, 265}};
+                 {9, "Horizon 50 %", 50, 75, 265},
+                 {14, "Stereographic 100 %", 90, 100, 265},
+                 {26, "Equirectangular 360° hAOV", 90, 75, 265}};
     for (const auto& c : cases) {
         const ContactTile& tile = tiles[c.tile];
         EXPECT_EQ(tile.title, QString::fromUtf8(c.title));

@@ -10,6 +10,7 @@
 #include <limits>
 #include <random>
 
+#include "state/adjustments/adjustment_set.h"
 #include "state/adjustments/record_fields.h"
 #include "tests/support/lenses.h"
 #include "tests/support/records.h"
@@ -49,6 +50,14 @@ ImageRecord AwkwardRecord() {
     record.FileName = Text("100% <fish>.tar.jpg");
     record.NameSuffix = Text("Morph0007");
     record.Orientation = 6;
+    record.PaniniD = 0.3F;
+    record.PaniniSqueeze = 12.3F;
+    record.UnrollStart = -90.1F;
+    record.UnrollDirection = -1;
+    record.UnrollFrom = 0.1F;
+    record.UnrollTo = 179.9F;
+    record.Pose = CameraPose::Up;
+    record.Tunnel = true;
     record.Lens = testing::OffCentreLensOf(record, {6000, 4000});
     record.FurtherSettings = {{Text("Softness"), Text("12,5 %")}, {Text("Empty"), Text("")}};
     return record;
@@ -98,6 +107,23 @@ TEST(PictureSettings, HoldEveryFieldButThePhotosOwn) {
     EXPECT_EQ(settings[Text("OfsetX")], Text("-2.70000005"));
 }
 
+TEST(PictureSettings, NumbersOfSingleProjectionsAreWrittenWhereTheyAreChanged) {
+    ImageRecord record = testing::FisheyePhoto(Text("/p"), Text("a.jpg"));
+    record.Landscape = false;
+    record.SettingsApplied = true;
+    record.Projection = static_cast<std::int16_t>(Projection::FisheyeEquidistant);
+    EXPECT_FALSE(SettingsFrom(record).contains(Text("UnrollTo")));
+    EXPECT_FALSE(SettingsFrom(record).contains(Text("Pose")));
+    EXPECT_EQ(SettingsFrom(record)[Text("Projection")], Text("fisheye-equidistant"));
+    ExpectBack(record);
+    // Copied, they undo what is there.
+    ImageRecord changed = AwkwardRecord();
+    EXPECT_TRUE(GiveAdjustments(AdjustmentsOf(record), changed));
+    EXPECT_EQ(changed.UnrollTo, 90.0F);
+    EXPECT_EQ(changed.Pose, CameraPose::Level);
+    EXPECT_EQ(changed.Projection, 9);
+}
+
 TEST(PictureSettings, WhatCannotBeWrittenIsMissing) {
     ImageRecord record = AwkwardRecord();
     record.FileName = Text("two\nlines.jpg");
@@ -123,7 +149,12 @@ TEST(PictureSettings, UnusableOnesLeaveTheRecordAndAreTold) {
         {"Ratio", {Text("-1")}},
         {"LensMapScale", {Text("1e30")}},
         {"SensorWidth", {Text("0x10")}},
-        {"Projection", {Text("Stereographic"), Text("1")}},
+        {"Projection", {Text("Conic"), Text("1")}},
+        {"PaniniD", {Text("-0.1"), Text("1.1")}},
+        {"UnrollDirection", {Text("0"), Text("0.5"), Text("2")}},
+        {"UnrollTo", {Text("181")}},
+        {"Pose", {Text("sideways"), {}}},
+        {"Tunnel", {Text("2")}},
         {"Orientation", {Text("0"), Text("9"), Text("6.0")}},
         {"Source", {Text("../../etc/passwd"), Text(".."), {}}},
         {"NameSuffix", {Text("/../x")}},

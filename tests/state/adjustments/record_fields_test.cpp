@@ -18,7 +18,8 @@ TEST(FieldNames, ListsAllFieldsInTheRecordsOrder) {
             "CameraData1 CameraData2 LensBrand LensModel ImageCircleRadius LensShift "
             "LensData3 LensMapScale LensMapFactor Projection SettingsApplied OfsetX OfsetY "
             "Ratio InputAOV OutputAOV EffectVarnel EffectRectilinear RotateX RotateY RotateZ "
-            "TranslateX TranslateY Folder FileName NameSuffix Orientation"));
+            "TranslateX TranslateY Folder FileName NameSuffix Orientation PaniniD PaniniSqueeze "
+            "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel"));
 }
 
 // A field whose row points at another member would set two names to one place.
@@ -26,8 +27,8 @@ TEST(SetField, ReachesADifferentMemberByEveryName) {
     std::vector<ImageRecord> seen{ImageRecord()};
     for (const QString& name : FieldNames()) {
         ImageRecord image;
-        EXPECT_EQ(SetField(image, name, QStringLiteral("-1")), FieldResult::Ok)
-            << name.toStdString();
+        const QString value = name == u"Pose" ? QStringLiteral("up") : QStringLiteral("-1");
+        EXPECT_EQ(SetField(image, name, value), FieldResult::Ok) << name.toStdString();
         EXPECT_EQ(std::count(seen.begin(), seen.end(), image), 0) << name.toStdString();
         seen.push_back(image);
     }
@@ -53,6 +54,12 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
         {"Width", "-32769", BadValue},
         {"Width", "1.5", BadValue},
         {"Width", "", BadValue},
+        {"UnrollDirection", "1", Ok, "1"},
+        {"UnrollDirection", "0", BadValue},
+        {"Pose", "Down", Ok, "down"},
+        {"Pose", "1", BadValue},
+        {"Projection", "fisheye-EQUISOLID", Ok, "10"},
+        {"Projection", "LittlePlanet", Ok, "12"},
         {"Landscape", "True", Ok, "True"},
         {"Landscape", "true", Ok, "True"},
         {"Landscape", "1", Ok, "True"},

@@ -148,7 +148,7 @@ TEST(CentredOn, PutsThePointIntoTheMiddle) {
 
 TEST(Steering, GoesByWhatTheProjectionReads) {
     for (const Projection projection : AllProjections()) {
-        const bool turns = projection == Projection::Rectilinear;
+        const bool turns = projection == Projection::Rectilinear || !InfoOf(projection).basic;
         EXPECT_EQ(CanTurn(projection), turns);
         EXPECT_EQ(CanRoll(projection), turns);
         EXPECT_EQ(CanWiden(projection), turns);

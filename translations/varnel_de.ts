@@ -1913,6 +1913,86 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Unrolls a circle shot straight up or down into a panorama</source>
         <translation>Rollt einen senkrecht nach oben oder unten aufgenommenen Kreis zum Panorama ab</translation>
     </message>
+    <message>
+        <source>Stereographic</source>
+        <translation>Stereografisch</translation>
+    </message>
+    <message>
+        <source>Small shapes stay true however wide the view; straight lines bow</source>
+        <translation>Kleine Formen bleiben treu, wie weit der Blick auch ist; gerade Linien biegen sich</translation>
+    </message>
+    <message>
+        <source>Panini</source>
+        <translation>Panini</translation>
+    </message>
+    <message>
+        <source>Wide rooms and streets: uprights and lines toward the middle stay straight</source>
+        <translation>Weite Räume und Straßen: Senkrechte und Linien zur Mitte hin bleiben gerade</translation>
+    </message>
+    <message>
+        <source>Cylindrical</source>
+        <translation>Zylindrisch</translation>
+    </message>
+    <message>
+        <source>A panorama around an upright cylinder: uprights stay straight</source>
+        <translation>Ein Panorama auf einem stehenden Zylinder: Senkrechte bleiben gerade</translation>
+    </message>
+    <message>
+        <source>Mercator</source>
+        <translation>Mercator</translation>
+    </message>
+    <message>
+        <source>Equirectangular</source>
+        <translation>Rektangulär</translation>
+    </message>
+    <message>
+        <source>Even angles across and up: what 360 degree viewers take</source>
+        <translation>Gleiche Winkel quer und hoch: was 360-Grad-Betrachter nehmen</translation>
+    </message>
+    <message>
+        <source>Fisheye, equidistant</source>
+        <translation>Fischauge, äquidistant</translation>
+    </message>
+    <message>
+        <source>A fisheye in which the distance from the middle is the angle, whatever the sensor</source>
+        <translation>Ein Fischauge, bei dem der Abstand von der Mitte der Winkel ist, gleich welcher Sensor</translation>
+    </message>
+    <message>
+        <source>Fisheye, equisolid</source>
+        <translation>Fischauge, flächentreu</translation>
+    </message>
+    <message>
+        <source>A fisheye in which equal parts of the view take equal areas</source>
+        <translation>Ein Fischauge, bei dem gleiche Teile des Blicks gleiche Flächen einnehmen</translation>
+    </message>
+    <message>
+        <source>Orthographic</source>
+        <translation>Orthografisch</translation>
+    </message>
+    <message>
+        <source>The half in front as on a globe seen from far away</source>
+        <translation>Die vordere Hälfte wie auf einem Globus aus der Ferne</translation>
+    </message>
+    <message>
+        <source>Little planet</source>
+        <translation>Kleiner Planet</translation>
+    </message>
+    <message>
+        <source>The ground as a small planet, the sky around it</source>
+        <translation>Der Boden als kleiner Planet, der Himmel darum herum</translation>
+    </message>
+    <message>
+        <source>Unrolled</source>
+        <translation>Abgerollt</translation>
+    </message>
+    <message>
+        <source>Directions around the axis become columns, angles from it rows</source>
+        <translation>Richtungen um die Achse werden Spalten, Winkel von ihr Zeilen</translation>
+    </message>
+    <message>
+        <source>A panorama that keeps small shapes true, less tall than around a cylinder</source>
+        <translation>Ein Panorama, das kleine Formen treu lässt, weniger hoch als auf einem Zylinder</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

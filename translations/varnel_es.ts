@@ -1913,6 +1913,86 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Unrolls a circle shot straight up or down into a panorama</source>
         <translation>Desenrolla en panorama un círculo tomado recto hacia arriba o hacia abajo</translation>
     </message>
+    <message>
+        <source>Stereographic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small shapes stay true however wide the view; straight lines bow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panini</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wide rooms and streets: uprights and lines toward the middle stay straight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cylindrical</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A panorama around an upright cylinder: uprights stay straight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mercator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Equirectangular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even angles across and up: what 360 degree viewers take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fisheye, equidistant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fisheye in which the distance from the middle is the angle, whatever the sensor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fisheye, equisolid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fisheye in which equal parts of the view take equal areas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orthographic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The half in front as on a globe seen from far away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Little planet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The ground as a small planet, the sky around it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unrolled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Directions around the axis become columns, angles from it rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A panorama that keeps small shapes true, less tall than around a cylinder</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>

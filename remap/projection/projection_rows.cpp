@@ -209,7 +209,7 @@ constexpr std::array rows{
         .title = QT_TRANSLATE_NOOP("Projections", "Mercator"),
         .tip = QT_TRANSLATE_NOOP(
             "Projections",
-            "A panorama that keeps small shapes true, taller than it would be around a cylinder"),
+            "A panorama that keeps small shapes true, less tall than around a cylinder"),
         .controls = sphereControls<360>,
         .frame = {SliderId::AovOutput, true, around},
         .levels = true,

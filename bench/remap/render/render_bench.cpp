@@ -21,7 +21,13 @@ namespace {
 using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
                           RenderContext&);
 
-ImageRecord FisheyeRecord(bool moved) {
+// How the photo is looked at: turned and shifted or not, and how wide, degrees.
+struct View {
+    bool moved = false;
+    float outputAov = 90.0F;
+};
+
+ImageRecord FisheyeRecord(const View& view) {
     ImageRecord record;
     record.Landscape = true;
     record.SensorWidth = 36.0F;
@@ -31,10 +37,10 @@ ImageRecord FisheyeRecord(bool moved) {
     record.ImageCircleRadius = 21.63F;
     record.Ratio = 83.2F;
     record.InputAOV = 147.0F;
-    record.OutputAOV = 90.0F;
+    record.OutputAOV = view.outputAov;
     record.EffectVarnel = 100.0F;
     record.EffectRectilinear = 100.0F;
-    if (moved) {
+    if (view.moved) {
         record.RotateX = 10.0F;
         record.RotateY = -20.0F;
         record.RotateZ = 5.0F;
@@ -62,7 +68,7 @@ PixelSize Megapixels(double millions) {
             static_cast<std::int32_t>(std::lround(height))};
 }
 
-void Draw(benchmark::State& state, Renderer renderer, Projection projection, bool moved,
+void Draw(benchmark::State& state, Renderer renderer, Projection projection, const View& view,
           PixelSize size, SizeKind kind, int workers) {
     Bitmaps bitmaps;
     (kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap : bitmaps.FullSourceBitmap) =
@@ -70,17 +76,18 @@ void Draw(benchmark::State& state, Renderer renderer, Projection projection, boo
     ThreadRunner runner(workers);
     RenderContext context{bitmaps, [] { return true; }, &runner};
     SilentProgress silent;
-    ImageRecord record = FisheyeRecord(moved);
+    ImageRecord record = FisheyeRecord(view);
     for (auto _ : state) {
-        record.OutputAOV = record.OutputAOV == 90.0F ? 91.0F : 90.0F;  // new settings each time
+        // new settings each time
+        record.OutputAOV += record.OutputAOV == view.outputAov ? -1.0F : 1.0F;
         renderer(projection, record, kind, silent, context);
     }
     state.SetItemsProcessed(state.iterations() * size.width * size.height);
 }
 
-void Register(const std::string& name, Renderer renderer, Projection projection, bool moved,
+void Register(const std::string& name, Renderer renderer, Projection projection, const View& view,
               PixelSize size, SizeKind kind, int workers) {
-    benchmark::RegisterBenchmark(name.c_str(), &Draw, renderer, projection, moved, size, kind,
+    benchmark::RegisterBenchmark(name.c_str(), &Draw, renderer, projection, view, size, kind,
                                  workers)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
@@ -113,8 +120,7 @@ void DrawWithPeer(benchmark::State& state, PixelSize size, int threads) {
         static_cast<std::size_t>(size.width) * 3 * static_cast<std::size_t>(size.height);
     std::vector<std::uint8_t> source(bytes, 100);
     std::vector<std::uint8_t> result(bytes);
-    RectilinearView view =
-        RectilinearViewOf(FisheyeRecord(false), FramesOf(FisheyeRecord(false), size));
+    RectilinearView view = RectilinearViewOf(FisheyeRecord({}), FramesOf(FisheyeRecord({}), size));
     for (auto _ : state) {
         view.outputAov = view.outputAov == 90.0F ? 91.0F : 90.0F;
         bench::PeerRectilinear(view, source.data(), result.data(), threads);
@@ -133,22 +139,37 @@ void RegisterPeer(PixelSize size) {
 void RegisterPeer(PixelSize /*size*/) {}
 #endif
 
+// All that can be turned, and the widest view of each.
+void RegisterTurned(PixelSize size) {
+    for (const int cores : {1, 2}) {
+        const std::string start =
+            "engine/24MP/" + std::to_string(cores) + (cores == 1 ? " core/" : " cores/");
+        for (const Projection projection : AllProjections()) {
+            const ProjectionInfo& row = InfoOf(projection);
+            const std::string name = start + ToText(projection).toStdString();
+            if (row.frame.turns) {
+                Register(name + " turned", &Render, projection, {true}, size, SizeKind::Large,
+                         cores);
+            }
+            if (row.Widest != nullptr) {
+                Register(name + " widest", &Render, projection,
+                         {true, row.Widest(FisheyeRecord({}))}, size, SizeKind::Large, cores);
+            }
+        }
+    }
+}
+
 void RegisterAll() {
     RegisterPeer(Megapixels(24.0));
     const PixelSize full = Megapixels(24.0);
     for (const Projection projection : AllProjections()) {
         const std::string name = ToText(projection).toStdString();
-        Register("reference/24MP/" + name, &reference::Render, projection, false, full,
+        Register("reference/24MP/" + name, &reference::Render, projection, {}, full,
                  SizeKind::Large, 1);
-        Register("engine/24MP/1 core/" + name, &Render, projection, false, full, SizeKind::Large,
-                 1);
-        Register("engine/24MP/2 cores/" + name, &Render, projection, false, full, SizeKind::Large,
-                 2);
+        Register("engine/24MP/1 core/" + name, &Render, projection, {}, full, SizeKind::Large, 1);
+        Register("engine/24MP/2 cores/" + name, &Render, projection, {}, full, SizeKind::Large, 2);
     }
-    Register("engine/24MP/1 core/Rectilinear turned", &Render, Projection::Rectilinear, true, full,
-             SizeKind::Large, 1);
-    Register("engine/24MP/2 cores/Rectilinear turned", &Render, Projection::Rectilinear, true, full,
-             SizeKind::Large, 2);
+    RegisterTurned(full);
     RegisterStretch("reference/24MP/Stretch", &reference::RenderStretch, full, 1);
     RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);
     RegisterStretch("engine/24MP/2 cores/Stretch", &RenderStretch, full, 2);
@@ -157,14 +178,14 @@ void RegisterAll() {
         for (const bool moved : {false, true}) {
             const std::string view = moved ? " turned" : "";
             Register("reference/preview/" + size + view, &reference::Render,
-                     Projection::Rectilinear, moved, box, SizeKind::Thumbnails, 1);
-            Register("engine/preview/" + size + view, &Render, Projection::Rectilinear, moved, box,
-                     SizeKind::Thumbnails, 1);
+                     Projection::Rectilinear, {moved}, box, SizeKind::Thumbnails, 1);
+            Register("engine/preview/" + size + view, &Render, Projection::Rectilinear, {moved},
+                     box, SizeKind::Thumbnails, 1);
         }
     }
     for (const double millions : {6.0, 12.0, 24.0, 48.0, 96.0}) {
         Register("engine/size/" + std::to_string(static_cast<int>(millions)) + "MP", &Render,
-                 Projection::Rectilinear, false, Megapixels(millions), SizeKind::Large, 1);
+                 Projection::Rectilinear, {}, Megapixels(millions), SizeKind::Large, 1);
     }
 }
 

@@ -127,7 +127,7 @@ LensField::LensField(const SphereView& view)
 }
 
 SourceOffset LensField::At(const Ray& ray) const {
-    const double aside = std::hypot(ray.x, ray.y);
+    const double aside = std::sqrt(ray.x * ray.x + ray.y * ray.y);
     if (!(ray.z >= leastCosine_) || (aside == 0.0 && ray.z < 0.0)) {
         return NowhereOnSource();
     }

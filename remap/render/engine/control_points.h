@@ -31,8 +31,8 @@ inline int NodeStepFor(PixelSize picture) {
     return longest < 2000 ? 16 : longest < 4000 ? 32 : largestNodeStep;
 }
 
-// Where nodes that far apart do not do.
-inline constexpr int closeNodeStep = 8;
+// Closer than that it is no longer worth the while.
+inline constexpr int closestNodeStep = 8;
 
 // Fills in the nodes; the vectors are reused.
 inline void WorkOutNodes(const SmoothNodes& nodes, ControlPointLine& line) {
@@ -59,10 +59,11 @@ struct ExactLine {
         return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
                             : BlendBilinear(span.source, span.centreX + column, row);
     }
-    // Nodes every few pixels: at an edge and where the map bends.
+    // Nodes less far apart: at an edge and where the map bends.
     static void Closer(const void* context, const NodeSpan& span, int first, int end) {
         const auto& self = *static_cast<const ExactLine*>(context);
-        ControlPointLine part{self.line.x + first, self.line.y, end - first, closeNodeStep};
+        ControlPointLine part{self.line.x + first, self.line.y, end - first,
+                              std::max(span.step / 4, closestNodeStep)};
         WorkOutNodes(self.nodes, part);
         const ExactLine exact{self.map, part, self.nodes};
         for (const SpanImage& image : span.images) {
@@ -71,7 +72,6 @@ struct ExactLine {
             its.begin = image.begin - first;
             its.end = std::min(image.end - first, part.count);
             NodeSpan close = exact.Span(span.source, span.nearest, {&its, 1});
-            close.closer = nullptr;
             SampleNodeSpan(close);
         }
     }
@@ -89,7 +89,7 @@ struct ExactLine {
                 map.MirrorShift().y,
                 nearest,
                 &ExactLine::Colour,
-                line.inside.empty() ? nullptr : &ExactLine::Closer,
+                line.inside.empty() || line.step <= closestNodeStep ? nullptr : &ExactLine::Closer,
                 this,
                 images};
     }

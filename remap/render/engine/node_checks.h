@@ -12,13 +12,12 @@ namespace varnel {
 
 // Whether the polynomial between p[2] and p[3] can stand for the map that has these nodes. A cubic
 // would miss a smooth map by 0.0234 times the fourth difference; the two degrees more leave of that
-// a few hundredths. At a corner of the map the difference is large. False for numbers that are
-// none.
-inline bool Smooth(const double* p) {
+// a few hundredths. At a corner of the map the difference is large: beyond the limit. False for
+// numbers that are none.
+inline bool Smooth(const double* p, double limit) {
     const double third0 = p[3] - p[0] - 3.0 * (p[2] - p[1]);
     const double third1 = p[4] - p[1] - 3.0 * (p[3] - p[2]);
     const double third2 = p[5] - p[2] - 3.0 * (p[4] - p[3]);
-    constexpr double limit = 0.05;
     return std::fabs(third1 - third0) < limit && std::fabs(third2 - third1) < limit &&
            std::fabs(p[2]) < 1e6 && std::fabs(p[3]) < 1e6;
 }

@@ -92,9 +92,9 @@ HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int f
     }
 }
 
-// Pixels between two nodes that the nodes cannot stand for.
+// Pixels that the nodes around them cannot stand for.
 HWY_NOINLINE void StoreOtherwise(const NodeSpan& span, int first, int end) {
-    if (span.closer != nullptr) {
+    if (first < end && span.closer != nullptr) {
         span.closer(span.context, span, first, end);
         return;
     }
@@ -188,19 +188,28 @@ void NodeSpanImpl(const NodeSpan& span) {
         power /= span.step;
         step = power;
     }
+    // Maps with an edge take closer nodes where they bend more.
+    const double limit = span.inside == nullptr ? 0.05 : 0.2;
+    int left = 0;  // the first of the pixels before the n-th node that are still to be taken
     for (int n = 0; n * span.step < span.count; ++n) {
         const int first = n * span.step;
         const int end = std::min(first + span.step, span.count);
         const Shown shown = span.inside == nullptr ? Shown::All : ShownBetween(span.inside + n);
         const bool exact = Lost(span.u + n) || Lost(span.v + n);
-        if (shown == Shown::None) {
-            StoreBlack(span, first, end);
-        } else if (shown == Shown::All && !exact && Smooth(span.u + n) && Smooth(span.v + n)) {
+        const bool smooth =
+            shown == Shown::All && !exact && Smooth(span.u + n, limit) && Smooth(span.v + n, limit);
+        if (!smooth && shown != Shown::None) {
+            continue;
+        }
+        StoreOtherwise(span, left, first);
+        left = end;
+        if (smooth) {
             SampleSegment(span, n, steps);
         } else {
-            StoreOtherwise(span, first, end);
+            StoreBlack(span, first, end);
         }
     }
+    StoreOtherwise(span, left, span.count);
 }
 
 // ---- runs within rows ----

@@ -76,6 +76,35 @@ void AddFringes(std::vector<Case>& cases) {
     }
 }
 
+// Edges of the circle, of the lens and of the planes, poles and the seam behind the camera.
+void AddSpheres(std::vector<Case>& cases) {
+    for (const Projection projection : AllProjections()) {
+        if (InfoOf(projection).Widest == nullptr) {
+            continue;
+        }
+        const std::string name = ToText(projection).toStdString();
+        // Not the whole turn: a lens of the same formula would have every blend on a whole level.
+        const auto widest = [](ImageRecord& r) { r.OutputAOV = 353.7F; };
+        const auto behind = [](ImageRecord& r) {
+            r.OutputAOV = 200.0F, r.RotateX = 70.0F, r.RotateY = -150.0F, r.RotateZ = 30.0F;
+        };
+        const auto tangent = [](ImageRecord& r) {
+            r.LensBrand = QStringLiteral("Samyang"), r.LensMapScale = 12.0F, r.Ratio = 0.0F;
+            r.LensMapFactor = 1.5F, r.OutputAOV = 250.0F;
+        };
+        cases.push_back({name + " widest", projection, {301, 200}, widest});
+        cases.push_back({name + " widest, large", projection, {4200, 160}, widest});
+        cases.push_back({name + " behind", projection, {301, 200}, behind});
+        cases.push_back({name + " tangent", projection, {301, 200}, tangent});
+    }
+    const auto partly = [](ImageRecord& r) {
+        r.EffectRectilinear = 40.0F, r.PaniniD = 0.4F, r.PaniniSqueeze = 70.0F;
+        r.OutputAOV = 200.0F, r.RotateY = 30.0F;
+    };
+    cases.push_back({"Stereographic partly", Projection::Stereographic, {301, 200}, partly});
+    cases.push_back({"Panini partly", Projection::Panini, {301, 200}, partly});
+}
+
 std::vector<Case> Cases() {
     std::vector<Case> cases;
     const std::pair<const char*, PixelSize> sizes[] = {{"odd", {301, 201}},
@@ -135,6 +164,7 @@ std::vector<Case> Cases() {
         cases.push_back({"Tan lens past its pole", projection, {301, 200}, tan(0.5F)});
     }
     AddFringes(cases);
+    AddSpheres(cases);
     const auto turned = [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F; };
     cases.push_back({"large", Projection::Rectilinear, {2100, 900}});
     cases.push_back({"large turned", Projection::Rectilinear, {4100, 1000}, turned});

@@ -113,7 +113,8 @@ std::optional<QString> Parse(const QString& text, const QString& /*kind*/) {
 
 std::optional<CameraPose> Parse(const QString& text, CameraPose /*kind*/) {
     for (const auto& [name, pose] : poses) {
-        if (text.compare(name, Qt::CaseInsensitive) == 0) {
+        if (text.compare(name, Qt::CaseInsensitive) == 0 ||
+            text == QString::number(static_cast<int>(pose))) {
             return pose;
         }
     }

@@ -170,12 +170,14 @@ TEST(ManualPage, TellsEveryKeyOfTheWindowAndNoOther) {
 }
 
 TEST_P(EachGuide, AndTheManualPageTellOfEveryProjection) {
-    const QString manual = TextOf(Q(VARNEL_TREE "/packaging/man/varnel-convert.1.in"));
+    const QString manual =
+        TextOf(Q(VARNEL_TREE "/packaging/man/varnel-convert.1.in")).remove(u'\\');
     for (const Projection projection : AllProjections()) {
-        const QString name = ToText(projection);
-        EXPECT_TRUE(Page(Q("projections.md")).contains(Q("\n## ") + name + u'\n'))
-            << qPrintable(name);
-        EXPECT_TRUE(manual.contains(Q("\n.IP ") + name.toLower())) << qPrintable(name);
+        const QString title = TitleOf(projection);
+        EXPECT_TRUE(Page(Q("projections.md")).contains(Q("\n## ") + title + u'\n'))
+            << qPrintable(title);
+        const QString key = KeyOf(projection).toLower();
+        EXPECT_TRUE(manual.contains(Q("\n.IP ") + key)) << qPrintable(key);
     }
 }
 

@@ -59,12 +59,12 @@ class SphereNodes : public SmoothNodes {
         : map_(map),
           table_(
               std::cos(std::min(std::acos(map.Lens().LeastCosine()) + beyond, pi - 0.01)), 1.0,
-              isSampled() ? 1e-5 : 1e-6,
+              IsSampled() ? 1e-5 : 1e-6,
               [&map](double cosine) {
                   const double angle = std::max(std::acos(std::min(cosine, 1.0)), 1e-9);
                   return map.Lens().RadiusAt(angle) / std::sin(angle);
               },
-              isSampled() ? 1024 : 256) {}
+              IsSampled() ? 1024 : 256) {}
 
     bool HasEdge() const override { return true; }
     void Fill(const NodeRun& run, const NodeValues& into) const override {
@@ -82,7 +82,7 @@ class SphereNodes : public SmoothNodes {
   private:
     // Nodes outside of what is shown serve those inside.
     static constexpr double beyond = 0.3;  // radians
-    bool isSampled() const { return map_.Lens().Kind() == LensKind::Sampled; }
+    bool IsSampled() const { return map_.Lens().Kind() == LensKind::Sampled; }
 
     const SphereMap& map_;
     RadialTable table_;  // radius / sine of the angle, over its cosine
@@ -143,6 +143,11 @@ SphereMap::SphereMap(const SphereView& view, PlanePointer plane)
       lens_(view),
       plane_(std::move(plane)),
       turn_(view.turn, view.pose) {}
+
+// Not bound to 16 bits: results may be as wide as those go.
+float SphereMap::ProgressAt(int column) const {
+    return static_cast<float>(column + Extents().left + 1);
+}
 
 SourceOffset SphereMap::At(int x, int y) const {
     const auto [ray, inside] = PointAt(x, y);

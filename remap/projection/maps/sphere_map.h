@@ -77,6 +77,7 @@ class SphereMap : public SmoothMap {
     SphereMap(const SphereView& view, PlanePointer plane);
     SourceOffset At(int x, int y) const override;
     std::unique_ptr<SmoothNodes> Nodes() const override;
+    float ProgressAt(int column) const override;
 
     // The photo's direction at a position, also between whole ones; see SpherePlane.
     SpherePlane::Point PointAt(double x, double y) const {

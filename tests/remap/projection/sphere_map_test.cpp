@@ -352,6 +352,13 @@ TEST(SphereMap, APartialEffectTendsToThePhotoItself) {
     EXPECT_NEAR(at.v, edge * -60 / 120, 0.01);
 }
 
+TEST(SphereMap, IsAsWideAsResultsGo) {
+    const auto wish = [](const SourceFrame& source) { return Resized(source, {32767, 20}); };
+    const auto map = MapOf(Projection::Equirectangular, RecordOf(360.0F), photo, wish);
+    EXPECT_EQ(map->ProgressAt(map->LastLine()), map->ProgressMaximum());
+    EXPECT_EQ(map->Lines().columns.size(), 32767U);
+}
+
 TEST(SphereMap, StandsInTheMiddleOfAWholeThatIsCut) {
     const ImageRecord record = RecordOf(150.0F);
     const auto map = MapOf(Projection::Mercator, record);

@@ -25,6 +25,19 @@ std::optional<PhotoCircle> PhotoCircleOf(const ImageRecord& image, PixelSize siz
                        static_cast<double>(photo.CircleRadius())};
 }
 
+namespace {
+
+// Those before first and from end on.
+void Blacken(std::vector<ResultLine>& lines, std::int32_t first, std::int32_t end) {
+    for (std::size_t n = 0; n < lines.size(); ++n) {
+        if (static_cast<std::int32_t>(n) < first || static_cast<std::int32_t>(n) >= end) {
+            lines[n] = {ResultLine::Kind::Black, 0};
+        }
+    }
+}
+
+}  // namespace
+
 InverseMapping::InverseMapping(Projection projection, const ImageRecord& image, PixelSize size,
                                const OutputWish& wish)
     : sourceSize_(size), circle_(PhotoCircleOf(image, size)) {
@@ -34,6 +47,9 @@ InverseMapping::InverseMapping(Projection projection, const ImageRecord& image, 
     resultSize_ = frames.output.size;
     map_ = InfoOf(projection).Make(image, frames);
     lines_ = map_->Lines();
+    const PixelWindow window = map_->Shown();
+    Blacken(lines_.columns, window.left, window.right);
+    Blacken(lines_.rows, window.bottom, window.top);
     const auto list = [](const std::vector<ResultLine>& lines, std::vector<int>& shown) {
         for (std::size_t n = 0; n < lines.size(); ++n) {
             if (lines[n].kind == ResultLine::Kind::Shown) {

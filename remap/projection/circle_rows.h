@@ -36,6 +36,7 @@ class CircleRows : public ProjectionMap {
 
     SourceOffset OffsetAt(int x, int radius) const override;
     ResultLines Lines() const override;
+    PixelWindow Shown() const override { return circle_.shown; }
     float ProgressMaximum() const override;
     float ProgressAt(int radius) const override;
     int LastLine() const override { return circle_.lastRow; }

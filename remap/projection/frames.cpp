@@ -7,6 +7,14 @@
 
 namespace varnel {
 
+namespace {
+
+CentreShift Scaled(const CentreShift& shift, double scale) {
+    return {Int(shift.x * scale), Int(shift.y * scale)};
+}
+
+}  // namespace
+
 PixelPosition SourceFrame::Centre() const {
     CheckShift(shift);
     return {CLng(size.width / 2 + shift.x, "OfsetX"), CLng(size.height / 2 + shift.y, "OfsetY")};
@@ -20,6 +28,26 @@ float SourceFrame::CircleRadius(float effect) const {
     return ToSingle(fiftySides / NonZero(static_cast<double>(ratio), "Ratio") * 100.0 /
                         NonZero(static_cast<double>(effect), "EffectVarnel"),
                     ReasonCode::CircleRadius);
+}
+
+OutputFrame OutputFrame::Fitted(const SourceFrame& source) const {
+    if (inner.width == 0) {
+        return *this;
+    }
+    const double fit = inner.height == Whole().height
+                           ? inner.height / static_cast<double>(source.size.height)
+                           : inner.width / static_cast<double>(source.size.width);
+    return {size, Scaled(source.shift, fit), fit, whole, corner, inner};
+}
+
+PixelWindow OutputFrame::InnerOnResult() const {
+    if (inner.width == 0) {
+        return {};
+    }
+    const PixelSize frame = Whole();
+    const std::int32_t left = frame.width / 2 - inner.width / 2 - corner.x;
+    const std::int32_t bottom = frame.height / 2 - inner.height / 2 - corner.y;
+    return {left, bottom, left + inner.width, bottom + inner.height};
 }
 
 CentreShift OutputFrame::ShiftOnResult() const {
@@ -38,7 +66,7 @@ OutputFrame SameAs(const SourceFrame& source) {
 
 OutputFrame Resized(const SourceFrame& source, PixelSize size) {
     const double scale = size.width / static_cast<double>(source.size.width);
-    return {size, {Int(source.shift.x * scale), Int(source.shift.y * scale)}, scale};
+    return {size, Scaled(source.shift, scale), scale};
 }
 
 }  // namespace varnel

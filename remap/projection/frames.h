@@ -7,6 +7,7 @@
 #pragma once
 
 #include <functional>
+#include <limits>
 
 #include "remap/projection/geometry.h"
 
@@ -37,6 +38,21 @@ struct SourceFrame {
     float CircleRadius(float effect = 100.0F) const;
 };
 
+// The part of a result in columns left to right - 1 and rows bottom to top - 1, without bounds
+// where none are given.
+struct PixelWindow {
+    std::int32_t left = 0;
+    std::int32_t bottom = 0;
+    std::int32_t right = std::numeric_limits<std::int32_t>::max();
+    std::int32_t top = std::numeric_limits<std::int32_t>::max();
+
+    bool HoldsRow(std::int32_t row) const { return row >= bottom && row < top; }
+    bool HoldsColumn(std::int32_t column) const { return column >= left && column < right; }
+    bool Covers(PixelSize size) const {
+        return left <= 0 && bottom <= 0 && right >= size.width && top >= size.height;
+    }
+};
+
 // The result, which may be cut out of a larger frame.
 struct OutputFrame {
     PixelSize size;
@@ -49,10 +65,20 @@ struct OutputFrame {
     // is in it.
     PixelSize whole{};
     PixelPosition corner{};
+    // The largest frame of the photo's shape that fits into a frame of another shape, none where
+    // that is all of it. It lies in the middle.
+    PixelSize inner{};
 
     PixelSize Whole() const { return whole.width > 0 ? whole : size; }
     // With the projection's centre in the frame's middle.
     OutputFrame Centred() const { return {size, {}, scale, whole, corner}; }
+    // Whether it is what the projections are specified for: no other size and nothing cut.
+    bool IsSpecified() const { return scale == 1.0 && whole.width == 0; }
+    PixelSize Inner() const { return inner.width > 0 ? inner : Whole(); }
+    // For projections that are specified on the photo's frame: the inner frame's scale and centre.
+    OutputFrame Fitted(const SourceFrame& source) const;
+    // What the inner frame has of the result.
+    PixelWindow InnerOnResult() const;
     // Of the projection's centre from the middle of the result.
     CentreShift ShiftOnResult() const;
     // The centre and how far loops reach from it. Throws OverflowError.

@@ -10,11 +10,15 @@ ImageCircleGeometry MeasureCircle(const CircleView& view) {
     circle.source = view.source.size;
     circle.output = view.output.size;
     circle.sourceCentre = view.source.Centre();
-    const CentreAndExtents extents = view.output.Extents();
-    circle.outputCentre = {extents.cx, extents.cy};
+    // The loops are those of the frame that is specified, however much of it is cut away.
+    const PixelSize inner = view.output.Inner();
+    const CentreAndExtents extents = ImageCentre(inner, view.output.shift);
+    const CentreAndExtents onResult = view.output.Extents();
+    circle.outputCentre = {onResult.cx, onResult.cy};
+    circle.shown = view.output.InnerOnResult();
     circle.scale = view.output.scale;
     circle.outputShiftY = view.output.shift.y;
-    circle.outputUpperHalf = view.output.size.height - view.output.size.height / 2;
+    circle.outputUpperHalf = inner.height - inner.height / 2;
     circle.radius = view.source.CircleRadius(view.effect);
     circle.lastColumn = extents.left;
     circle.lastRow = extents.top;

@@ -22,10 +22,11 @@ struct ImageCircleGeometry {
     PixelPosition sourceCentre;
     PixelPosition outputCentre;
     double scale = 1.0;                // of the result
+    PixelWindow shown;                 // of the result
     double outputShiftY = 0.0;         // whole pixels
-    std::int32_t outputUpperHalf = 0;  // height - height / 2
+    std::int32_t outputUpperHalf = 0;  // height - height / 2 of the frame before it is cut
     float radius = 0.0F;  // R on the photo; single precision, compared and divided as double
-    std::int32_t lastColumn = 0;  // columns to each side of the centre on the result
+    std::int32_t lastColumn = 0;  // columns to each side of the centre on that frame
     std::int32_t lastRow = 0;     // rows to each side of it
 };
 

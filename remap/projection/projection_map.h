@@ -44,6 +44,10 @@ class ProjectionMap {
     virtual float ProgressAt(int line) const = 0;
     virtual int LastLine() const = 0;
 
+    // What of the result it is for; the rest is black. Only maps that are specified on the photo's
+    // frame leave a rest.
+    virtual PixelWindow Shown() const { return {}; }
+
     // How it is drawn: exactly one of these is not null.
     virtual const SmoothMap* AsSmooth() const { return nullptr; }
     virtual const StraightRows* AsStraightRows() const { return nullptr; }

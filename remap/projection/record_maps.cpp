@@ -3,6 +3,7 @@
 
 #include "remap/projection/record_maps.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -29,7 +30,79 @@ void PlaceAxis(const ImageRecord& image, SourceFrame& photo) {
     photo.fraction = {x - whole.x, y - whole.y};
 }
 
+std::int32_t Rounded(double size) {
+    return std::max(static_cast<std::int32_t>(std::lround(size)), 1);
+}
+
+// A part of a side: where it begins and how much of it there is, of 1.
+struct Part {
+    double start = 0.0;
+    double length = 1.0;
+};
+
+Part PartOf(float start, float length) {
+    if (!(length > 0.0F)) {
+        return {};
+    }
+    const double kept = std::clamp<double>(length, leastCrop, 1.0);
+    return {std::clamp<double>(start, 0.0, 1.0 - kept), kept};
+}
+
+// The frame before the crop, whose part has that size.
+std::int32_t WholeOf(const Part& part, std::int32_t size) {
+    return std::max(Rounded(size / part.length), size);
+}
+
+std::int32_t CornerOf(const Part& part, std::int32_t whole, std::int32_t size) {
+    return std::clamp(static_cast<std::int32_t>(std::lround(part.start * whole)), 0, whole - size);
+}
+
+// The largest of the photo's shape that fits into a frame; none where a frame has that shape but
+// for roundings.
+PixelSize InnerOf(PixelSize photo, PixelSize frame) {
+    const double across = static_cast<double>(frame.width) / photo.width;
+    const double up = static_cast<double>(frame.height) / photo.height;
+    if (std::fabs(photo.height * across - frame.height) <= 1.0) {
+        return {};
+    }
+    return across < up ? PixelSize{frame.width, Rounded(photo.height * across)}
+                       : PixelSize{Rounded(photo.width * up), frame.height};
+}
+
 }  // namespace
+
+bool IsCropped(const ImageRecord& image) {
+    return image.CropWidth > 0.0F || image.CropHeight > 0.0F;
+}
+
+PixelSize ResultSizeOf(const ImageRecord& image, PixelSize photo) {
+    const Part across = PartOf(image.CropLeft, image.CropWidth);
+    const Part down = PartOf(image.CropTop, image.CropHeight);
+    const double width = photo.width * across.length;
+    const double height = photo.height * down.length;
+    if (image.OutputWidth > 0) {
+        const double scaled = height * image.OutputWidth / width;
+        return {image.OutputWidth, image.OutputHeight > 0 ? image.OutputHeight : Rounded(scaled)};
+    }
+    return image.OutputHeight > 0
+               ? PixelSize{Rounded(width * image.OutputHeight / height), image.OutputHeight}
+               : PixelSize{Rounded(width), Rounded(height)};
+}
+
+OutputFrame OutputFrameOf(const ImageRecord& image, const SourceFrame& photo, PixelSize result) {
+    const Part across = PartOf(image.CropLeft, image.CropWidth);
+    const Part down = PartOf(image.CropTop, image.CropHeight);
+    const PixelSize whole{WholeOf(across, result.width), WholeOf(down, result.height)};
+    OutputFrame frame = Resized(photo, whole);
+    frame.size = result;
+    frame.inner = InnerOf(photo.size, whole);
+    if (IsCropped(image) || frame.inner.width > 0) {
+        frame.whole = whole;
+        frame.corner = {CornerOf(across, whole.width, result.width),
+                        whole.height - result.height - CornerOf(down, whole.height, result.height)};
+    }
+    return frame;
+}
 
 LensKind LensKindOf(const ImageRecord& image) {
     return image.Lens
@@ -63,7 +136,7 @@ Frames FramesOf(const ImageRecord& image, PixelSize source, const OutputWish& wi
     if (image.Lens) {
         PlaceAxis(image, photo);
     }
-    return {photo, wish ? wish(photo) : SameAs(photo)};
+    return {photo, wish ? wish(photo) : OutputFrameOf(image, photo, ResultSizeOf(image, source))};
 }
 
 RectilinearView RectilinearViewOf(const ImageRecord& image, const Frames& frames) {
@@ -77,13 +150,13 @@ CameraMove CameraMoveOf(const ImageRecord& image) {
 }
 
 EquidistanceView EquidistanceViewOf(const ImageRecord& image, const Frames& frames) {
-    return {frames.source,           frames.output,
+    return {frames.source,           frames.output.Fitted(frames.source),
             LensKindOf(image),       LensCurveOf(image, frames.source.colour),
             image.ImageCircleRadius, image.InputAOV};
 }
 
 CircleView CircleViewOf(const ImageRecord& image, const Frames& frames) {
-    return {frames.source, frames.output, image.EffectVarnel};
+    return {frames.source, frames.output.Fitted(frames.source), image.EffectVarnel};
 }
 
 }  // namespace varnel

@@ -58,9 +58,11 @@ float SmoothMap::ProgressMaximum() const {
     return static_cast<float>(extents_.left + (IsFourfold() ? 0 : extents_.right) + 1);
 }
 
-// 16 bits, so that frames of some 65,000 columns end with an overflow.
+// 16 bits on the photo's own frame, so that some 65,000 columns end with an overflow there.
 float SmoothMap::ProgressAt(int column) const {
-    return CInt(column + (extents_.left + 1.0) - ColumnAxis().shift, ReasonCode::ProgressValue);
+    const double value = column + (extents_.left + 1.0) - ColumnAxis().shift;
+    return output_.IsSpecified() ? CInt(value, ReasonCode::ProgressValue)
+                                 : static_cast<float>(value);
 }
 
 int SmoothMap::LastLine() const {

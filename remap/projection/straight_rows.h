@@ -33,6 +33,7 @@ class StraightRows : public ProjectionMap {
 
     SourceOffset OffsetAt(int x, int y) const override;
     ResultLines Lines() const override;
+    PixelWindow Shown() const override { return circle_.shown; }
     float ProgressMaximum() const override;
     float ProgressAt(int row) const override { return static_cast<float>(row); }
     int LastLine() const override { return circle_.lastRow; }

@@ -21,7 +21,7 @@ void RegionRenderer::Start(Projection projection, const ImageRecord& image, cons
             result_ = NewBitmap(size);
         }
         there_.assign(static_cast<std::size_t>(size.height), false);
-        surface_ = std::make_unique<RenderSurface>(source, result_.get(), runner_);
+        surface_ = std::make_unique<RenderSurface>(source, result_.get(), frames.output, runner_);
         rows_ = RowsOf(projection, image, frames, *surface_);
     } catch (...) {
         Drop();

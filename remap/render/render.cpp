@@ -41,6 +41,7 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
     DrawLines(
         run, engine.Lines(), [&](int first, int count) { engine.Draw(first, count); },
         [&](int line) { run.Advance(map.ProgressAt(line)); });
+    engine.BlackenTheRest();
 }
 
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,

@@ -7,6 +7,8 @@
 #include <cassert>
 #include <exception>
 
+#include "remap/image/preview_size.h"
+
 namespace varnel {
 
 namespace {
@@ -23,6 +25,17 @@ void TakeCanvas(const Bitmap* source, PixelSize size, BitmapHandle& result) {
     result->metadata = source->metadata;
 }
 
+// A preview's source is smaller than the photo, and so is its result, whatever the record's size.
+OutputWish WishFor(SizeKind kind, const ImageRecord& image, const RenderContext& context) {
+    if (context.output || kind != SizeKind::Thumbnails) {
+        return context.output;
+    }
+    return [&image](const SourceFrame& photo) {
+        const PixelSize result = ResultSizeOf(image, photo.size);
+        return OutputFrameOf(image, photo, FittedSize(result, photo.size));
+    };
+}
+
 }  // namespace
 
 RenderSession::RenderSession(SizeKind kind, RenderProgress& progress, RenderContext& context,
@@ -37,7 +50,8 @@ RenderSession::RenderSession(SizeKind kind, RenderProgress& progress, RenderCont
     source_ = kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap.get()
                                            : bitmaps.FullSourceBitmap.get();
     assert(source_ != nullptr);
-    frames_ = FramesOf(image, SourceSize(), context.output);
+    frames_ = FramesOf(image, SourceSize(), WishFor(kind, image, context));
+    keepsSource_ = IsOwnFrame(source_, frames_.output);
     if (canvas == Canvas::CopyOfSource) {
         bitmaps.ResultBitmap.reset();  // first, so that no third bitmap is ever alive
     }
@@ -66,10 +80,30 @@ void RenderSurface::FillAll() const {
 
 void RenderSurface::FillRow(std::int32_t row) const {
     const auto target = ScanLine(result_, row);
-    if (SourceSize().width == ResultSize().width && SourceSize().height == ResultSize().height) {
+    if (keepsSource_) {
         std::ranges::copy(ScanLine(source_, row), target.begin());
     } else {
         std::ranges::fill(target, std::uint8_t{0});
+    }
+}
+
+void RenderSurface::BlackenBeside(const PixelWindow& window, std::int32_t row) const {
+    const PixelSize size = ResultSize();
+    const std::int32_t left = window.HoldsRow(row) ? std::clamp(window.left, 0, size.width) : 0;
+    const std::int32_t right =
+        window.HoldsRow(row) ? std::clamp(window.right, left, size.width) : left;
+    const auto pixels = ScanLine(result_, row);
+    const std::size_t step = BytesPerPixel(result_->Format());
+    std::ranges::fill(pixels.first(static_cast<std::size_t>(left) * step), std::uint8_t{0});
+    std::ranges::fill(pixels.subspan(static_cast<std::size_t>(right) * step), std::uint8_t{0});
+}
+
+void RenderSurface::BlackenBeside(const PixelWindow& window) const {
+    if (window.Covers(ResultSize())) {
+        return;
+    }
+    for (std::int32_t row = 0; row < ResultSize().height; ++row) {
+        BlackenBeside(window, row);
     }
 }
 

@@ -12,15 +12,20 @@
 namespace varnel {
 
 // What ResultBitmap holds before the first pixel is written: a copy of the source, so that what is
-// never written keeps its pixels (black where the result has another size), or anything, where
+// never written keeps its pixels (black where the result has another frame), or anything, where
 // every pixel will be written.
 enum class Canvas { CopyOfSource, Anything };
 
 // What an engine reads from and writes to.
 class RenderSurface {
   public:
-    RenderSurface(const Bitmap* source, Bitmap* result, BlockRunner& runner)
-        : source_(source), result_(result), runner_(&runner) {}
+    // The frame is the result's, for the source.
+    RenderSurface(const Bitmap* source, Bitmap* result, const OutputFrame& frame,
+                  BlockRunner& runner)
+        : source_(source),
+          result_(result),
+          runner_(&runner),
+          keepsSource_(IsOwnFrame(source, frame)) {}
 
     const Bitmap* Source() const { return source_; }
     Bitmap* Result() const { return result_; }
@@ -30,9 +35,12 @@ class RenderSurface {
     // True when what is drawn next is read without interpolation.
     bool Nearest() const { return nearest_; }
     // What the result has where nothing is written: the source's pixels, or black where the result
-    // has another size.
+    // has another frame.
     void FillAll() const;
     void FillRow(std::int32_t row) const;
+    // Black on what of a row, or of all rows, lies beside the window.
+    void BlackenBeside(const PixelWindow& window, std::int32_t row) const;
+    void BlackenBeside(const PixelWindow& window) const;
     // To be called often: lets the conversion's caller handle events, who throws to end it.
     void Pause() const {
         if (progress_ != nullptr) {
@@ -42,11 +50,16 @@ class RenderSurface {
 
   protected:
     explicit RenderSurface(RenderProgress& progress) : progress_(&progress) {}
+    static bool IsOwnFrame(const Bitmap* source, const OutputFrame& frame) {
+        return frame.IsSpecified() && frame.size.width == SizeOf(source).width &&
+               frame.size.height == SizeOf(source).height;
+    }
     RenderProgress* progress_ = nullptr;
     const Bitmap* source_ = nullptr;
     Bitmap* result_ = nullptr;
     BlockRunner* runner_ = nullptr;
     bool nearest_ = false;
+    bool keepsSource_ = false;
 };
 
 class RenderSession : public RenderSurface {

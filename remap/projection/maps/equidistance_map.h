@@ -26,6 +26,7 @@ class EquidistanceMap : public SmoothMap {
     SourceOffset At(int x, int y) const override;
     std::unique_ptr<SmoothNodes> Nodes() const override;
     bool IsFourfold() const override { return true; }
+    PixelWindow Shown() const override { return Output().InnerOnResult(); }
     // The source's distance from the centre for the output's distance r, both in pixels.
     double SourceRadius(double r) const;
     // The radius at which a result as large as the photo shows half the frame's angle.

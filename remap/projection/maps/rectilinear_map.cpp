@@ -12,8 +12,14 @@ namespace varnel {
 
 namespace {
 
-float Shift(float percent, double side, ValueName name) {
-    return ToSingle(-(static_cast<double>(percent) * side / 100.0), name);
+// Percent of the frame before it is cut. On half a pixel two positions would be written to one
+// pixel and none to its neighbour, which is meant on the photo's own frame only.
+float Shift(float percent, const OutputFrame& frame, std::int32_t PixelSize::*side,
+            ValueName name) {
+    const double pixels = -(static_cast<double>(percent) * (frame.Whole().*side) / 100.0);
+    const bool isTie = !frame.IsSpecified() && pixels - Int(pixels) == 0.5;
+    constexpr double aside = 1.0 / 256.0;
+    return ToSingle(isTie ? pixels + aside : pixels, name);
 }
 
 }  // namespace
@@ -66,8 +72,8 @@ RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const 
       rotation_(RotationAngles(move.rotateX, move.rotateY, move.rotateZ, view.effect)),
       focal_(radius_.HalfWidth() /
              std::fabs(NonZero(radius_.TanHalfAngle(), ReasonCode::TangentOfHalfAngle))),
-      shiftX_(Shift(move.translateX, view.source.size.width * view.output.scale, "TranslateX")),
-      shiftY_(Shift(move.translateY, view.source.size.height * view.output.scale, "TranslateY")) {}
+      shiftX_(Shift(move.translateX, view.output, &PixelSize::width, "TranslateX")),
+      shiftY_(Shift(move.translateY, view.output, &PixelSize::height, "TranslateY")) {}
 
 std::unique_ptr<SmoothNodes> RotatedRectilinearMap::Nodes() const {
     return NodesFromAxis(RotatedRectilinearNodes(*this));

@@ -25,7 +25,7 @@ ProjectionMaps::ProjectionMaps(Projection projection, const ImageRecord& image,
 }
 
 ProjectionEngine::ProjectionEngine(const RenderSurface& surface, ProjectionMaps maps)
-    : maps_(std::move(maps)) {
+    : surface_(surface), maps_(std::move(maps)) {
     for (const auto& [map, only] : maps_.entries) {
         engines_.push_back(only ? SmoothEngineFor(surface, *map->AsSmooth(), only)
                                 : EngineFor(surface, *map));
@@ -42,6 +42,7 @@ void ProjectionEngine::DrawRow(std::int32_t row) {
     for (const auto& engine : engines_) {
         engine->DrawRow(row);
     }
+    surface_.BlackenBeside(maps_.Green().Shown(), row);
 }
 
 }  // namespace varnel

@@ -36,8 +36,11 @@ class ProjectionEngine : public Engine {
     void FillTheRest() override { engines_.front()->FillTheRest(); }
     void Draw(int first, int count) override;
     void DrawRow(std::int32_t row) override;
+    // Once all lines are drawn: what of the result the maps are not for.
+    void BlackenTheRest() const { surface_.BlackenBeside(maps_.Green().Shown()); }
 
   private:
+    const RenderSurface& surface_;
     const ProjectionMaps maps_;
     std::vector<std::unique_ptr<Engine>> engines_;
 };

@@ -22,6 +22,7 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderSmooth(run, *map->AsSmooth());
         }
     }
+    run.BlackenBeside(maps.Green().Shown());
 }
 
 }  // namespace varnel::reference

@@ -127,16 +127,16 @@ TEST(OutputFrame, TwiceTheSizeReadsTheSamePlacesAtTwiceTheDistance) {
 
 TEST(OutputFrame, WhatNoLoopWritesIsBlackInAnotherSize) {
     ImageRecord record = FisheyeRecord();
-    record.TranslateY = 0.25F;  // half a pixel: every second row stays unwritten
+    record.TranslateY = 0.25F;  // one and a half pixels: every second row stays unwritten
     const OutputWish higher = [](const SourceFrame& source) {
         OutputFrame frame = SameAs(source);
-        frame.size.height = 220;
+        frame.size.height = 600;
         return frame;
     };
     const BitmapHandle drawn = Drawn(&Render, Projection::Rectilinear, record, higher);
     const InverseMapping places(Projection::Rectilinear, record, photo, higher);
     int untouched = 0;
-    for (int y = 0; y < 220; ++y) {
+    for (int y = 0; y < 600; ++y) {
         if (places.Untouched(150, y)) {
             PixelColor colour{1, 1, 1, 0};
             GetPixelColor(drawn.get(), 150, y, colour);
@@ -145,6 +145,90 @@ TEST(OutputFrame, WhatNoLoopWritesIsBlackInAnotherSize) {
         }
     }
     EXPECT_GT(untouched, 100);
+}
+
+ImageRecord Cropped(ImageRecord record, const PixelSize& size = {}) {
+    record.OutputWidth = size.width;
+    record.OutputHeight = size.height;
+    record.CropLeft = 0.1F;
+    record.CropTop = 0.3F;
+    record.CropWidth = 0.6F;
+    record.CropHeight = 0.5F;
+    return record;
+}
+
+TEST(OutputFrame, OfARecordHasTheSizeAfterTheCrop) {
+    const struct {
+        PixelSize size;
+        bool cropped;
+        PixelSize result;
+        PixelSize whole;
+    } cases[] = {{{0, 0}, false, photo, photo},
+                 {{602, 0}, false, {602, 400}, {602, 400}},
+                 {{0, 100}, false, {151, 100}, {151, 100}},
+                 {{90, 200}, false, {90, 200}, {90, 200}},
+                 {{0, 0}, true, {181, 100}, {302, 200}},
+                 {{300, 0}, true, {300, 166}, {500, 332}},
+                 {{300, 50}, true, {300, 50}, {500, 100}}};
+    for (const auto& c : cases) {
+        ImageRecord record = c.cropped ? Cropped(FisheyeRecord(), c.size) : FisheyeRecord();
+        record.OutputWidth = c.size.width;
+        record.OutputHeight = c.size.height;
+        const OutputFrame frame = FramesOf(record, photo).output;
+        EXPECT_EQ(frame.size.width, c.result.width);
+        EXPECT_EQ(frame.size.height, c.result.height);
+        EXPECT_EQ(frame.Whole().width, c.whole.width);
+        EXPECT_EQ(frame.Whole().height, c.whole.height);
+    }
+}
+
+TEST(OutputFrame, ACropIsWhatTheWholeFrameHasThere) {
+    for (const Projection projection : AllProjections()) {
+        for (const ImageRecord& record : RecordsOf(projection)) {
+            for (const PixelSize& size : {PixelSize{0, 0}, PixelSize{120, 0}, PixelSize{90, 110}}) {
+                SCOPED_TRACE(ToText(projection).toStdString() + std::to_string(size.width));
+                const ImageRecord cropped = Cropped(record, size);
+                const OutputFrame frame = FramesOf(cropped, photo).output;
+                OutputFrame whole = frame;
+                whole.size = frame.Whole();
+                whole.corner = {};
+                const BitmapHandle part = Drawn(&Render, projection, cropped, {});
+                const BitmapHandle all =
+                    Drawn(&Render, projection, record, [&](const SourceFrame&) { return whole; });
+                const BitmapHandle loops = Drawn(&reference::Render, projection, cropped, {});
+                EXPECT_LE(Compare(part.get(), loops.get()).largest, 1);
+                BitmapHandle cut = testing::Flat(frame.size);
+                for (int row = 0; row < frame.size.height; ++row) {
+                    const auto line = ScanLine(all.get(), row + frame.corner.y);
+                    std::copy_n(line.data() + 3 * frame.corner.x, 3 * frame.size.width,
+                                ScanLine(cut.get(), row).data());
+                }
+                EXPECT_LE(Compare(part.get(), cut.get()).largest, 1);
+            }
+        }
+    }
+}
+
+TEST(OutputFrame, OfAnotherShapeHoldsTheSpecifiedOneInItsMiddle) {
+    for (const Projection projection :
+         {Projection::Varnel, Projection::Equidistance, Projection::Horizon}) {
+        ImageRecord record = FisheyeRecord();
+        record.OfsetX = 20.0F;
+        const BitmapHandle own = Drawn(&Render, projection, record, {});
+        record.OutputWidth = photo.width;
+        record.OutputHeight = photo.height + 60;
+        const BitmapHandle higher = Drawn(&Render, projection, record, {});
+        const InverseMapping places(projection, record, photo);
+        for (int y = 0; y < photo.height + 60; ++y) {
+            const auto line = ScanLine(higher.get(), y);
+            if (y < 30 || y >= photo.height + 30) {
+                EXPECT_EQ(std::ranges::count(line, 0), std::ssize(line)) << y;
+                EXPECT_FALSE(places.ReadAt(100, y));
+            } else {
+                EXPECT_TRUE(std::ranges::equal(line, ScanLine(own.get(), y - 30))) << y;
+            }
+        }
+    }
 }
 
 }  // namespace

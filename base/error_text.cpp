@@ -105,6 +105,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no settings or colour profile")},
     {ReasonCode::TypeHoldsPixelsOnly,
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no metadata, settings or colour profile")},
+    {ReasonCode::TypeHoldsNoTransparency,
+     QT_TRANSLATE_NOOP("Reasons", "%1 files cannot be transparent; what would be is black")},
     // decoder
     {ReasonCode::NoSuchFile, QT_TRANSLATE_NOOP("Reasons", "there is no such file")},
     {ReasonCode::LinkLeadsNowhere, QT_TRANSLATE_NOOP("Reasons", "the link leads nowhere")},

@@ -60,7 +60,7 @@ bool IsConsistentWithoutPixels(const DecoderAnswer& answer, const DecoderRequest
 bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
                       std::uint64_t memoryFileLength) {
     const PixelSize bitmap = answer.bitmap;
-    if (answer.format > static_cast<std::uint32_t>(lastPixelFormat)) {
+    if (answer.format > static_cast<std::uint32_t>(lastPhotoFormat)) {
         return false;
     }
     const auto format = static_cast<PixelFormat>(answer.format);

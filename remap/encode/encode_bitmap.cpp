@@ -34,6 +34,37 @@ EncodedBitmap Encoded(const OutputEncoding& encoding, const Bitmap& bitmap,
     }
 }
 
+// Black where the bitmap is transparent.
+BitmapHandle Opaque(const Bitmap& bitmap) {
+    BitmapHandle opaque = NewBitmap(bitmap.Size());
+    opaque->metadata = bitmap.metadata;
+    for (std::int32_t y = 0; y < bitmap.Size().height; ++y) {
+        const std::uint8_t* from = bitmap.ScanLine(y).data();
+        std::uint8_t* to = opaque->ScanLine(y).data();
+        for (std::int32_t x = 0; x < bitmap.Size().width; ++x, from += 4, to += 3) {
+            for (int n = 0; n < 3; ++n) {
+                to[n] = static_cast<std::uint8_t>((from[n] * from[3] + 127) / 255);
+            }
+        }
+    }
+    return opaque;
+}
+
+EncodedBitmap EncodedOpaque(const OutputEncoding& encoding, const Bitmap& bitmap,
+                            const EncodeOptions& options) {
+    try {
+        const BitmapHandle opaque = Opaque(bitmap);
+        EncodedBitmap file = EncodeBitmap(encoding, opaque.get(), options);
+        if (file.reason.isEmpty()) {
+            const Reason lost(ReasonCode::TypeHoldsNoTransparency, ToText(encoding.type));
+            file.note = Joined({lost, file.note});
+        }
+        return file;
+    } catch (const std::bad_alloc&) {
+        return {{}, ReasonCode::NotEnoughMemory};
+    }
+}
+
 }  // namespace
 
 EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
@@ -41,8 +72,8 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     if (bitmap == nullptr) {
         return {{}, ReasonCode::NoPicture};
     }
-    if (bitmap->Format() != PixelFormat::Bgr8) {
-        return {{}, ReasonCode::CannotBeEncoded};
+    if (HasAlpha(bitmap->Format()) && !FormatOf(encoding.type).holds.alpha) {
+        return EncodedOpaque(encoding, *bitmap, options);
     }
     EncodedBitmap whole = Encoded(encoding, *bitmap, options);
     if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory)) {

@@ -31,12 +31,17 @@ constexpr std::uint8_t PixelColor::*MemberOf(Channel channel) {
 inline PixelColor ColourAt(const std::uint8_t* pixel, PixelFormat format) {
     switch (format) {
         case PixelFormat::Bgr8:
+        case PixelFormat::Bgra8:
             break;
     }
     return {pixel[0], pixel[1], pixel[2], 0};
 }
+// The fourth byte is the alpha of formats that have it.
 inline void PutColour(std::uint8_t* pixel, const PixelColor& colour, PixelFormat format) {
     switch (format) {
+        case PixelFormat::Bgra8:
+            pixel[3] = colour.reserved;
+            break;
         case PixelFormat::Bgr8:
             break;
     }

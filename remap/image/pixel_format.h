@@ -13,21 +13,29 @@
 namespace varnel {
 
 enum class PixelFormat : std::uint8_t {
-    Bgr8,  // blue, green, red: 8 bits each, for the screen
+    Bgr8,   // blue, green, red: 8 bits each, for the screen
+    Bgra8,  // and alpha, by which the colours are not multiplied: of results that are written
 };
-inline constexpr PixelFormat lastPixelFormat = PixelFormat::Bgr8;
+inline constexpr PixelFormat lastPhotoFormat = PixelFormat::Bgr8;  // of those that photos have
 
 constexpr std::size_t BytesPerPixel(PixelFormat format) {
     switch (format) {
+        case PixelFormat::Bgra8:
+            return 4;
         case PixelFormat::Bgr8:
             break;
     }
     return 3;
 }
 
+constexpr bool HasAlpha(PixelFormat format) {
+    return format == PixelFormat::Bgra8;
+}
+
 constexpr int BitsPerSample(PixelFormat format) {
     switch (format) {
         case PixelFormat::Bgr8:
+        case PixelFormat::Bgra8:
             break;
     }
     return 8;
@@ -44,6 +52,9 @@ void WithBytesPerPixel(PixelFormat format, const Function& function) {
     switch (format) {
         case PixelFormat::Bgr8:
             function(std::integral_constant<std::ptrdiff_t, 3>());
+            break;
+        case PixelFormat::Bgra8:
+            function(std::integral_constant<std::ptrdiff_t, 4>());
             break;
     }
 }

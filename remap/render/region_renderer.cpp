@@ -4,6 +4,9 @@
 #include "remap/render/region_renderer.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "remap/render/outside.h"
 
 namespace varnel {
 
@@ -23,6 +26,10 @@ void RegionRenderer::Start(Projection projection, const ImageRecord& image, cons
         there_.assign(static_cast<std::size_t>(size.height), false);
         surface_ = std::make_unique<RenderSurface>(source, result_.get(), frames.output, runner_);
         rows_ = RowsOf(projection, image, frames, *surface_);
+        if (image.Outside.kind != OutsideFill::Kind::Black) {
+            rows_ = RowsWithOutside(std::move(rows_), image.Outside,
+                                    CoverageRows(projection, image, frames), *surface_);
+        }
     } catch (...) {
         Drop();
         throw;

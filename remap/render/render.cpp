@@ -7,6 +7,7 @@
 
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/projection_engine.h"
+#include "remap/render/outside.h"
 
 namespace varnel {
 
@@ -42,6 +43,7 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
         run, engine.Lines(), [&](int first, int count) { engine.Draw(first, count); },
         [&](int line) { run.Advance(map.ProgressAt(line)); });
     engine.BlackenTheRest();
+    FillOutside(projection, image, run, context.keepsTransparency);
 }
 
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,

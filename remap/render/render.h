@@ -57,6 +57,9 @@ struct RenderContext {
     BlockRunner* runner = nullptr;
     // The result's frame; without a wish it is as large as the source.
     OutputWish output{};
+    // Whether a result that is transparent outside the photo has an alpha channel (Bgra8), as files
+    // may have it. Otherwise a checkerboard is drawn in its place.
+    bool keepsTransparency = false;
 };
 
 // Replaces ResultBitmap; the record is only read, its own Projection not looked at. Throws

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cassert>
 #include <exception>
+#include <utility>
 
 #include "remap/image/preview_size.h"
 
@@ -105,6 +106,12 @@ void RenderSurface::BlackenBeside(const PixelWindow& window) const {
     for (std::int32_t row = 0; row < ResultSize().height; ++row) {
         BlackenBeside(window, row);
     }
+}
+
+void RenderSession::Replace(BitmapHandle result) {
+    result->metadata = std::move(result_->metadata);
+    workspace_.bitmaps.ResultBitmap = std::move(result);
+    result_ = workspace_.bitmaps.ResultBitmap.get();
 }
 
 void RenderSession::Begin(float maximum) {

@@ -76,6 +76,8 @@ class RenderSession : public RenderSurface {
     SizeKind Kind() const { return kind_; }
     // For the record that the session was made with.
     const Frames& PhotoAndResult() const { return frames_; }
+    // Another bitmap in the place of ResultBitmap; it gets its metadata.
+    void Replace(BitmapHandle result);
     // Shows the progress, which is taken away again at the end of the run.
     void Begin(float maximum);
     // Shows the value, lets waiting events run and asks anew how to read.

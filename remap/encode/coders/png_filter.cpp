@@ -6,14 +6,13 @@
 #include "remap/encode/coders/png_filter.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <limits>
 
 namespace varnel {
 
 namespace {
-
-constexpr std::size_t pixelBytes = 3;
 
 // What each filter predicts from the bytes to the left, above, and above to the left.
 struct Nothing {
@@ -46,7 +45,7 @@ struct Paeth {
 
 // row and above point after a black pixel. Returns the sum of absolute differences: of rows of up
 // to 33 million bytes.
-template <class Prediction>
+template <class Prediction, std::size_t pixelBytes>
 std::uint32_t Filter(const std::uint8_t* row, const std::uint8_t* above, std::size_t bytes,
                      std::uint8_t* __restrict filtered) {
     std::uint32_t sum = 0;
@@ -62,13 +61,30 @@ std::uint32_t Filter(const std::uint8_t* row, const std::uint8_t* above, std::si
 }
 
 // In the order of their numbers in the file.
-constexpr decltype(&Filter<Nothing>) filters[] = {&Filter<Nothing>, &Filter<Left>, &Filter<Above>,
-                                                  &Filter<Average>, &Filter<Paeth>};
+template <std::size_t pixelBytes>
+constexpr std::array filters{&Filter<Nothing, pixelBytes>, &Filter<Left, pixelBytes>,
+                             &Filter<Above, pixelBytes>, &Filter<Average, pixelBytes>,
+                             &Filter<Paeth, pixelBytes>};
+
+// With red in front.
+template <std::size_t pixelBytes>
+void TakeRed(std::span<const std::uint8_t> row, std::uint8_t* to) {
+    for (std::size_t i = 0; i < row.size(); i += pixelBytes) {
+        to[i] = row[i + 2];
+        to[i + 1] = row[i + 1];
+        to[i + 2] = row[i];
+        if constexpr (pixelBytes == 4) {
+            to[i + 3] = row[i + 3];
+        }
+    }
+}
 
 }  // namespace
 
-PngFilter::PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above)
-    : row_(pixelBytes + rowBytes),
+PngFilter::PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above,
+                     std::size_t pixelBytes)
+    : pixelBytes_(pixelBytes),
+      row_(pixelBytes + rowBytes),
       above_(pixelBytes + rowBytes),
       candidate_(1 + rowBytes),
       best_(1 + rowBytes) {
@@ -82,9 +98,9 @@ std::span<const std::uint8_t> PngFilter::Next(std::span<const std::uint8_t> row)
     Take(row);
     std::uint32_t smallest = std::numeric_limits<std::uint32_t>::max();
     std::uint8_t number = 0;
-    for (const auto filter : filters) {
+    for (const auto filter : pixelBytes_ == 4 ? filters<4> : filters<3>) {
         candidate_[0] = number++;
-        const std::uint32_t sum = filter(row_.data() + pixelBytes, above_.data() + pixelBytes,
+        const std::uint32_t sum = filter(row_.data() + pixelBytes_, above_.data() + pixelBytes_,
                                          row.size(), candidate_.data() + 1);
         if (sum < smallest) {
             smallest = sum;
@@ -95,11 +111,11 @@ std::span<const std::uint8_t> PngFilter::Next(std::span<const std::uint8_t> row)
 }
 
 void PngFilter::Take(std::span<const std::uint8_t> row) {
-    std::uint8_t* const to = row_.data() + pixelBytes;
-    for (std::size_t i = 0; i < row.size(); i += pixelBytes) {
-        to[i] = row[i + 2];
-        to[i + 1] = row[i + 1];
-        to[i + 2] = row[i];
+    std::uint8_t* const to = row_.data() + pixelBytes_;
+    if (pixelBytes_ == 4) {
+        TakeRed<4>(row, to);
+    } else {
+        TakeRed<3>(row, to);
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The row filters of PNG for 24-bit pictures. Rows here come from the top downward. The constructor
+// The row filters of PNG for pictures of 24 and 32 bits. Rows here come from the top downward. The constructor
 // throws std::bad_alloc, the rest nothing.
 #pragma once
 
@@ -16,9 +16,10 @@ namespace varnel {
 // sum of absolute differences, as libpng does.
 class PngFilter {
   public:
-    // rowBytes: three for each pixel. above: the row above the first one, blue, green, red; empty
-    // at the top of the picture.
-    PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above);
+    // pixelBytes: 3 or, with alpha, 4. rowBytes: so many for each pixel. above: the row above the
+    // first one, blue, green, red; empty at the top of the picture.
+    PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above,
+              std::size_t pixelBytes = 3);
 
     // Takes a row of rowBytes bytes. Returns the filter's number and the filtered row in the order
     // red, green, blue, which hold until the next call.
@@ -27,6 +28,7 @@ class PngFilter {
   private:
     void Take(std::span<const std::uint8_t> row);
 
+    std::size_t pixelBytes_;
     std::vector<std::uint8_t> row_;        // after a black pixel, in the file's order of colours
     std::vector<std::uint8_t> above_;      // likewise
     std::vector<std::uint8_t> candidate_;  // the filter's number first

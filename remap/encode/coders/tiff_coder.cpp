@@ -49,9 +49,14 @@ struct Picture {
 };
 
 // Each pixel of a row less the one before it.
+template <int pixelBytes>
 void Difference(const std::uint8_t* row, std::size_t width, std::uint8_t* out) {
-    std::uint8_t before[3] = {};
-    for (std::size_t x = 0; x < width; ++x, row += 3, out += 3) {
+    std::uint8_t before[pixelBytes] = {};
+    for (std::size_t x = 0; x < width; ++x, row += pixelBytes, out += pixelBytes) {
+        if constexpr (pixelBytes == 4) {
+            out[3] = static_cast<std::uint8_t>(row[3] - before[3]);
+            before[3] = row[3];
+        }
         const std::uint8_t red = row[2];
         const std::uint8_t green = row[1];
         const std::uint8_t blue = row[0];
@@ -66,11 +71,13 @@ void Difference(const std::uint8_t* row, std::size_t width, std::uint8_t* out) {
 
 std::span<const std::uint8_t> DifferencesOf(const Picture& picture, std::size_t strip,
                                             std::uint8_t* out) {
+    const auto difference =
+        HasAlpha(picture.bitmap->Format()) ? &Difference<4> : &Difference<3>;
     const std::size_t rows = picture.RowsIn(strip);
     for (std::size_t n = 0; n < rows; ++n) {
         const std::size_t fromTop = strip * picture.rowsPerStrip + n;
         const auto y = static_cast<int>(picture.height - 1 - fromTop);
-        Difference(picture.bitmap->ScanLine(y).data(), picture.width, out + n * picture.RowBytes());
+        difference(picture.bitmap->ScanLine(y).data(), picture.width, out + n * picture.RowBytes());
     }
     return {out, rows * picture.RowBytes()};
 }

@@ -10,7 +10,8 @@
 
 namespace varnel {
 
-// With resolution, colour profile and metadata; a bitmap of 24 bits. The directory is libtiff's.
+// With resolution, colour profile and metadata; a bitmap of 24 bits, or of
+// 32 with alpha. The directory is libtiff's.
 // Equal bytes whatever the runner. Throws std::bad_alloc.
 EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options);

@@ -129,7 +129,7 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
         {TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB},
         {TIFFTAG_FILLORDER, FILLORDER_MSB2LSB},
         {TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT},
-        {TIFFTAG_SAMPLESPERPIXEL, 3},
+        {TIFFTAG_SAMPLESPERPIXEL, static_cast<std::uint32_t>(BytesPerPixel(bitmap.Format()))},
         {TIFFTAG_ROWSPERSTRIP, rowsPerStrip},
         {TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG},
         {TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH},
@@ -138,7 +138,7 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
     const auto set = [tiff](const auto& row) {
         return TIFFSetField(tiff, row.tag, row.number) == 1;
     };
-    return std::ranges::all_of(numbers, set) &&
+    return std::ranges::all_of(numbers, set) && SetAlpha(HasAlpha(bitmap.Format())) &&
            TIFFSetField(tiff, TIFFTAG_XRESOLUTION, DotsPerInch(bitmap.metadata.dotsPerMetreX)) ==
                1 &&
            TIFFSetField(tiff, TIFFTAG_YRESOLUTION, DotsPerInch(bitmap.metadata.dotsPerMetreY)) ==
@@ -154,6 +154,12 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
 QByteArray TiffFile::PhotoshopBlock() const {
     const bool isBigEndian = metadata_.exif.startsWith('M');
     return isBigEndian && !metadata_.iptc.isEmpty() ? IptcResource(metadata_.iptc) : QByteArray();
+}
+
+// Not multiplied into the colours.
+bool TiffFile::SetAlpha(bool isThere) {
+    const std::uint16_t alpha = EXTRASAMPLE_UNASSALPHA;
+    return !isThere || TIFFSetField(tiff_.get(), TIFFTAG_EXTRASAMPLES, 1, &alpha) == 1;
 }
 
 bool TiffFile::SetBlock(std::uint32_t tag, const QByteArray& block) {

@@ -38,6 +38,7 @@ class TiffFile {
     QByteArray& Bytes() { return file_.Bytes(); }
 
   private:
+    bool SetAlpha(bool isThere);
     bool SetBlock(std::uint32_t tag, const QByteArray& block);
     QByteArray PhotoshopBlock() const;
     bool AppendEven(const QByteArray& bytes, quint32& place);

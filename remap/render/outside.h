@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What of a result shows nothing of the photo, be it beside the photo or beside its image circle,
+// and what stands there. Rows count from the bottom row. Constructors and drawing throw what maps
+// throw and std::bad_alloc.
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "base/line_range.h"
+#include "remap/render/engine/projection_engine.h"
+
+namespace varnel {
+
+// The engine's own picture of a photo that is white: how much of the photo each pixel of the result
+// shows.
+class CoverageRows {
+  public:
+    CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames);
+    // As wide as the result, of its rows first to last: in blue how much of the photo's image
+    // circle a pixel shows, in green how much of the photo, 0 to 255. May be called by several
+    // threads at once.
+    BitmapHandle Rows(LineRange rows) const;
+
+    // What is drawn at once where all rows are.
+    static constexpr int bandRows = 128;
+
+  private:
+    Projection projection_;
+    ImageRecord image_;
+    Frames frames_;
+    BitmapHandle white_;
+};
+
+// Whether a coverage is that of a pixel wholly within; blends of white are rounded down.
+inline bool IsInside(std::uint8_t coverage) {
+    return coverage >= 254;
+}
+
+// Fills what a result shows nothing in, as the record says: a colour, or with transparency kept an
+// alpha channel, or else a checkerboard in its place. Nothing for black.
+void FillOutside(Projection projection, const ImageRecord& image, RenderSession& run,
+                 bool keepsTransparency);
+
+// The rows of another renderer of the same surface with their outside filled; a checkerboard stands
+// for what is transparent.
+std::unique_ptr<RowRenderer> RowsWithOutside(std::unique_ptr<RowRenderer> rows,
+                                             const OutsideFill& fill, CoverageRows coverage,
+                                             const RenderSurface& surface);
+
+}  // namespace varnel

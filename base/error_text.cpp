@@ -107,6 +107,12 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no metadata, settings or colour profile")},
     {ReasonCode::TypeHoldsNoTransparency,
      QT_TRANSLATE_NOOP("Reasons", "%1 files cannot be transparent; what would be is black")},
+    {ReasonCode::CentreReduced,
+     QT_TRANSLATE_NOOP("Reasons",
+                       "the centre cannot keep the photo's resolution (%3): %1 x %2 pixels")},
+    {ReasonCode::NoCleanCrop,
+     QT_TRANSLATE_NOOP("Reasons", "there is no part without anything outside the photo")},
+    {ReasonCode::CropBeyondFrame, QT_TRANSLATE_NOOP("Reasons", "the crop runs beyond the frame")},
     // decoder
     {ReasonCode::NoSuchFile, QT_TRANSLATE_NOOP("Reasons", "there is no such file")},
     {ReasonCode::LinkLeadsNowhere, QT_TRANSLATE_NOOP("Reasons", "the link leads nowhere")},

@@ -69,6 +69,9 @@ enum class ReasonCode : std::uint16_t {
     TypeHoldsNoSettingsOrProfile,
     TypeHoldsPixelsOnly,
     TypeHoldsNoTransparency,
+    CentreReduced,
+    NoCleanCrop,
+    CropBeyondFrame,
     // decoder
     NoSuchFile,
     LinkLeadsNowhere,

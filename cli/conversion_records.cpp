@@ -108,6 +108,19 @@ GearRecord WithCurve(const LensReference& curve, const std::optional<GearRecord>
     return gear;
 }
 
+// The record itself, or the frames of its sequence.
+std::vector<ImageRecord> OfProjection(const Options& options, const ImageRecord& record) {
+    if (!options.morph) {
+        return {record};
+    }
+    std::vector<ImageRecord> frames;
+    const MorphEnds ends = EndsFor(options, record);
+    for (int i = 1; i <= *options.morph; ++i) {
+        frames.push_back(MorphFrame(record, ends, i, *options.morph));
+    }
+    return frames;
+}
+
 }  // namespace
 
 StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
@@ -158,22 +171,23 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
     return started;
 }
 
-std::vector<ImageRecord> RecordsFor(const ConvertRequest& request, const ImageRecord& start) {
-    std::vector<ImageRecord> records;
+PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
+                        BlockRunner& runner) {
+    PhotoRecords records;
     for (const Projection projection : request.options.projections) {
         ImageRecord record = start;
         record.Projection = static_cast<std::int16_t>(projection);
         for (const auto& [field, value] : request.options.fields) {
             SetField(record, field, value);
         }
-        if (!request.options.morph) {
-            records.push_back(record);
-            continue;
+        std::vector<ImageRecord> own = OfProjection(request.options, record);
+        const FrameOutcome frame = GiveFrame(request.options.frame, own, runner);
+        const Reason error = frame.error.isEmpty() ? FrameError(own.front()) : frame.error;
+        if (!error.isEmpty()) {
+            return {{}, error};
         }
-        const MorphEnds ends = EndsFor(request.options, record);
-        for (int i = 1; i <= *request.options.morph; ++i) {
-            records.push_back(MorphFrame(record, ends, i, *request.options.morph));
-        }
+        records.notes.append(frame.note);
+        records.all.insert(records.all.end(), own.begin(), own.end());
     }
     return records;
 }

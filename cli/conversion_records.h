@@ -38,8 +38,15 @@ StartedRecord StartRecord(const ConvertRequest& request, const QString& path, co
                           const std::optional<GearRecord>& gear, const Bitmap* photo);
 
 // Every record that a photo is converted with, at least one: its projections, or the frames of its
-// sequence. The fields that --set names have the last word. Throws as MorphFrame.
-std::vector<ImageRecord> RecordsFor(const ConvertRequest& request, const ImageRecord& start);
+// sequence, with the frame that the options give them. The fields that --set names have the last
+// word. Throws as MorphFrame and as maps do.
+struct PhotoRecords {
+    std::vector<ImageRecord> all{};
+    Reason error{};   // why there are none
+    Reasons notes{};  // what was done differently
+};
+PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
+                        BlockRunner& runner);
 
 // How many these are. Throws nothing.
 qsizetype RecordsOfEach(const Options& options);

@@ -8,6 +8,7 @@
 #include <QThread>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "base/error_text.h"
 #include "base/thread_runner.h"
@@ -170,8 +171,13 @@ class CommandRun : public ConversionObserver {
         const StartedRecord start =
             StartRecord(request_, files_[photo], {picture.size, picture.orientation},
                         std::get<std::optional<GearRecord>>(gear), picture.bitmap.get());
-        started_.insert(photo, {start.reading, start.notes});
-        return {RecordsFor(request_, start.record)};
+        PhotoRecords records = RecordsFor(request_, start.record, runner_);
+        Started& started = started_[photo] = {start.reading, start.notes};
+        for (const Reason& note : records.notes) {
+            started.notes.append(ErrorText(note));
+        }
+        started.notes.removeAll(QString());
+        return {std::move(records.all), records.error};
     }
 
     void Begun(const Conversion& conversion) override {

@@ -41,7 +41,12 @@ std::vector<FileReport> ExistingResults(const ConvertRequest& request, Conversio
         const ImageRecord start =
             StartRecord(request, file, *size, request.gears.forAll.value_or(GearRecord()), nullptr)
                 .record;
-        for (const ImageRecord& record : RecordsFor(request, start)) {
+        SerialRunner runner;
+        const PhotoRecords records = RecordsFor(request, start, runner);
+        if (!records.error.isEmpty()) {
+            return {};  // it is reported in its turn
+        }
+        for (const ImageRecord& record : records.all) {
             results.push_back(ReportOf(file, record));
             results.back().result = TargetFor(request, file, record, facts);
             ++facts.number;

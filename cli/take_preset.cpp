@@ -8,6 +8,7 @@
 #include "pipeline/output/preset_output.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/adjustment_set.h"
+#include "state/adjustments/outside_text.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {
@@ -54,6 +55,9 @@ QString TakePreset(const SettingsStore& store, Options& options, GeneralSettings
         return UnknownPreset(options.preset, presets);
     }
     TakeNumbers(preset->settings, options);
+    if (!options.frame.outside) {
+        options.frame.outside = OutsideFromText(preset->settings.value(QStringLiteral("Outside")));
+    }
     TakeOutput(preset->settings, settings);
     if (options.namePattern.isEmpty() && options.output.isEmpty()) {
         options.namePattern = settings.NamePattern;

@@ -2598,6 +2598,22 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>lenses are written to files that end in .json, .yaml or .xml</source>
         <translation>Objektive werden in Dateien geschrieben, die auf .json, .yaml oder .xml enden</translation>
     </message>
+    <message>
+        <source>%1 files cannot be transparent; what would be is black</source>
+        <translation>%1-Dateien können nicht durchsichtig sein; was es wäre, ist schwarz</translation>
+    </message>
+    <message>
+        <source>the centre cannot keep the photo&apos;s resolution (%3): %1 x %2 pixels</source>
+        <translation>die Mitte kann die Auflösung des Fotos nicht behalten (%3): %1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>there is no part without anything outside the photo</source>
+        <translation>es gibt keinen Teil ohne etwas neben dem Foto</translation>
+    </message>
+    <message>
+        <source>the crop runs beyond the frame</source>
+        <translation>der Ausschnitt reicht über den Rahmen hinaus</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -2598,6 +2598,22 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>lenses are written to files that end in .json, .yaml or .xml</source>
         <translation>les objectifs s’écrivent dans des fichiers en .json, .yaml ou .xml</translation>
     </message>
+    <message>
+        <source>%1 files cannot be transparent; what would be is black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the centre cannot keep the photo&apos;s resolution (%3): %1 x %2 pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no part without anything outside the photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the crop runs beyond the frame</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

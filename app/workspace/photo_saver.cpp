@@ -33,7 +33,8 @@ SaveResult PhotoSaver::RenderAndSave(const ImageRecord& image, const SaveChoice&
                                      const CancelFlag& cancelled) {
     const auto saving = model_.activity.Save();
     const auto rendering = model_.activity.Render();
-    RenderContext context{.bitmaps = model_.state.bitmaps, .runner = &model_.state.pool};
+    RenderContext context{
+        .bitmaps = model_.state.bitmaps, .runner = &model_.state.pool, .keepsTransparency = true};
     CancellableProgress progress(ports_.view.Progress(), cancelled);
     try {
         Render(model_.controls.ChosenProjection(), image, SizeKind::Large, progress, context);

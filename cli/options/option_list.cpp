@@ -72,6 +72,16 @@ constexpr std::array viewRows{
     OptionRow{u"camera-pose", u"POSE",
               u"How the camera was held: level, up or down (little-planet; default: level)."},
     OptionRow{u"tunnel", nullptr, u"Look the other way, at the sky (little-planet)."},
+    OptionRow{u"size", u"S",
+              u"Of the result, after the crop: WxH or W in pixels, or centre: the middle keeps the "
+              u"photo's resolution."},
+    OptionRow{u"aspect", u"W:H", u"The shape of the frame; default: the photo's."},
+    OptionRow{u"crop", u"C",
+              u"clean or clean:W:H: the largest part without anything outside the photo; or "
+              u"X,Y,W,H of the frame, from its upper left, in parts of 1 or percent."},
+    OptionRow{u"outside", u"O",
+              u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
+              u"#rrggbb."},
     OptionRow{u"set", u"FIELD=VALUE",
               u"Any field of the image record, after all the rest; may be repeated."},
 };

@@ -7,6 +7,7 @@
 #include <array>
 #include <tuple>
 
+#include "cli/options/frame_options.h"
 #include "cli/options/nearest.h"
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
@@ -152,6 +153,18 @@ void TakeCircle(const QCommandLineParser& parser, Options& options) {
     }
 }
 
+void TakeFrame(const QCommandLineParser& parser, FrameWish& frame) {
+    if (const QString size = QStringLiteral("size"); parser.isSet(size)) {
+        TakeSize(parser.value(size), frame);
+    }
+    if (const QString crop = QStringLiteral("crop"); parser.isSet(crop)) {
+        TakeCrop(parser.value(crop), frame);
+    }
+    TakeIfSet(parser, u"aspect", frame.aspect, &AspectOf);
+    TakeIfSet(parser, u"outside", frame.outside, &OutsideOf);
+    CheckTogether(frame);
+}
+
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
@@ -186,6 +199,7 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"morph", options.morph, &FrameCountOf);
     options.from = MorphEndOf(QStringLiteral("from"), parser.values(QStringLiteral("from")));
     options.to = MorphEndOf(QStringLiteral("to"), parser.values(QStringLiteral("to")));
+    TakeFrame(parser, options.frame);
     TakeIfSet(parser, u"preview", options.preview, &PreviewBoxOf);
     options.antialiased = parser.isSet(QStringLiteral("antialiased"));
     options.output = FileNameOf(QStringLiteral("output"), parser.value(QStringLiteral("output")));

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/pixel_size.h"
+#include "pipeline/output/frame_wish.h"
 #include "remap/analysis/circle_finder.h"
 #include "remap/encode/output_type.h"
 #include "state/records/image_record.h"
@@ -76,6 +77,7 @@ struct Options {
     std::vector<std::pair<QString, QString>> fields;  // of --set
     std::optional<int> morph;                         // frames of a sequence, at least 2
     std::vector<Adjustment> from, to;                 // its ends where they are not the photo's own
+    FrameWish frame;  // size, shape and crop of the results and what stands outside the photo
     std::optional<PixelSize> preview;
     bool antialiased = false;
     QString output;

@@ -54,6 +54,13 @@ QString SettingsTags(const ImageRecord& image) {
     for (const NameTag& tag : InfoOf(ProjectionFromIndex(image.Projection)).tags) {
         tags += TagText(tag, image.*tag.field);
     }
+    if (image.OutputWidth > 0 || image.OutputHeight > 0) {
+        const PixelSize size = ResultSizeOf(image, {image.Width, image.Height});
+        tags += QStringLiteral("_%1x%2").arg(size.width).arg(size.height);
+    }
+    if (IsCropped(image)) {
+        tags += QStringLiteral("_crop");
+    }
     return tags;
 }
 

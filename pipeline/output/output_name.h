@@ -34,7 +34,8 @@ struct NameAdditions {
 
 // The tags for the settings of a batch entry, "_hAOV095_Eff080_LR-5" for example; empty for a
 // projection without any. Numbers are rounded, ties to even; angle of view and effect are padded to
-// three digits. Throws OverflowError, naming the setting, for a number beyond 32 bits.
+// three digits. A size and a crop of its own come last: "_4000x3000_crop". Throws OverflowError,
+// naming the setting, for a number beyond 32 bits.
 QString SettingsTags(const ImageRecord& image);
 
 // The full path of a batch entry's file in a folder by the usual pattern: file name with its ending

@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <array>
 
+#include "remap/projection/projection_info.h"
+#include "remap/render/outside.h"
+
 namespace varnel {
 
 namespace {
@@ -159,7 +162,118 @@ std::int64_t IndexOf(const std::vector<int>& lines, int line) {
     return std::ranges::lower_bound(lines, line) - lines.begin();
 }
 
+// The largest rectangle of pixels that are clean, row by row from the bottom: for each column how
+// many rows are clean down from here, then the widest stretch for each height.
+class CleanSearch {
+  public:
+    CleanSearch(int width, std::optional<double> shape)
+        : shape_(shape), heights_(static_cast<std::size_t>(width) + 1) {}
+
+    void Take(std::span<const std::uint8_t> clean) {
+        for (std::size_t x = 0; x < clean.size(); ++x) {
+            heights_[x] = clean[x] != 0 ? heights_[x] + 1 : 0;
+        }
+        steps_.clear();
+        for (int x = 0; x < static_cast<int>(heights_.size()); ++x) {
+            const int height = heights_[static_cast<std::size_t>(x)];
+            int from = x;
+            while (!steps_.empty() && steps_.back().height >= height) {
+                Offer(steps_.back(), x);
+                from = steps_.back().from;
+                steps_.pop_back();
+            }
+            if (height > 0) {
+                steps_.push_back({from, height});
+            }
+        }
+        ++row_;
+    }
+    const CleanCrop& Best() const { return best_; }
+
+  private:
+    struct Step {
+        int from;
+        int height;
+    };
+
+    // In the middle of a rectangle that is larger than its shape allows.
+    void Offer(const Step& step, int end) {
+        CleanCrop crop{step.from, row_ - step.height + 1, end - step.from, step.height};
+        if (shape_) {
+            const int width = std::min(crop.width, static_cast<int>(crop.height * *shape_));
+            const int height = std::min(crop.height, static_cast<int>(crop.width / *shape_));
+            crop = {crop.left + (crop.width - width) / 2, crop.bottom + (crop.height - height) / 2,
+                    width, height};
+        }
+        const std::int64_t pixels = std::int64_t{crop.width} * crop.height;
+        if (pixels > most_) {
+            most_ = pixels;
+            best_ = crop;
+        }
+    }
+
+    std::optional<double> shape_;
+    std::vector<int> heights_;  // and a last one of 0
+    std::vector<Step> steps_;
+    int row_ = 0;
+    std::int64_t most_ = 0;
+    CleanCrop best_;
+};
+
+std::vector<CoverageRows> CoveragesOf(const CleanCropWish& wish) {
+    const OutputWish whole = [&wish](const SourceFrame& photo) {
+        return OutputFrameOf({}, photo, wish.frame);
+    };
+    std::vector<CoverageRows> coverages;
+    for (const ImageRecord& record : wish.records) {
+        coverages.emplace_back(ProjectionFromIndex(record.Projection), record,
+                               FramesOf(record, wish.photo, whole));
+    }
+    return coverages;
+}
+
+// Leaves what is clean in the coverage's rows, too.
+void KeepClean(const CoverageRows& coverage, LineRange rows, std::span<std::uint8_t> clean) {
+    const BitmapHandle band = coverage.Rows(rows);
+    const auto width = static_cast<std::size_t>(SizeOf(band.get()).width);
+    for (int row = 0; row < rows.Count(); ++row) {
+        const auto pixels = ScanLine(band.get(), row);
+        const auto line = clean.subspan(static_cast<std::size_t>(row) * width, width);
+        for (std::size_t x = 0; x < width; ++x) {
+            line[x] = line[x] != 0 && IsInside(pixels[3 * x]) ? 1 : 0;
+        }
+    }
+}
+
 }  // namespace
+
+CleanCrop ExactCleanCrop(const CleanCropWish& wish, BlockRunner& runner) {
+    constexpr int bandsAtOnce = 8;
+    constexpr int rowsAtOnce = bandsAtOnce * CoverageRows::bandRows;
+    const std::vector<CoverageRows> coverages = CoveragesOf(wish);
+    const auto width = static_cast<std::size_t>(wish.frame.width);
+    CleanSearch search(wish.frame.width, wish.shape);
+    std::vector<std::uint8_t> clean;
+    for (int first = 0; first < wish.frame.height; first += rowsAtOnce) {
+        const int count = std::min(rowsAtOnce, wish.frame.height - first);
+        clean.assign(static_cast<std::size_t>(count) * width, 1);
+        const int bands = (count + CoverageRows::bandRows - 1) / CoverageRows::bandRows;
+        runner.Run(bands, [&](int band) {
+            const int from = band * CoverageRows::bandRows;
+            const int end = std::min(from + CoverageRows::bandRows, count);
+            const auto rows =
+                std::span(clean).subspan(static_cast<std::size_t>(from) * width,
+                                         static_cast<std::size_t>(end - from) * width);
+            for (const CoverageRows& coverage : coverages) {
+                KeepClean(coverage, {first + from, first + end - 1}, rows);
+            }
+        });
+        for (int row = 0; row < count; ++row) {
+            search.Take(std::span(clean).subspan(static_cast<std::size_t>(row) * width, width));
+        }
+    }
+    return search.Best();
+}
 
 CleanCrop FindCleanCrop(const MappingMesh& grid) {
     const std::optional<Bounds> found = GridSearch(grid).Best();

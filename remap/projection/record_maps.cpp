@@ -30,8 +30,11 @@ void PlaceAxis(const ImageRecord& image, SourceFrame& photo) {
     photo.fraction = {x - whole.x, y - whole.y};
 }
 
+// At least 1; also of a photo whose size is not known.
 std::int32_t Rounded(double size) {
-    return std::max(static_cast<std::int32_t>(std::lround(size)), 1);
+    constexpr double most = 1e9;
+    return std::isfinite(size) ? static_cast<std::int32_t>(std::lround(std::clamp(size, 1.0, most)))
+                               : 1;
 }
 
 // A part of a side: where it begins and how much of it there is, of 1.

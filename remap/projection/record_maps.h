@@ -20,6 +20,8 @@ struct Frames {
 // Whether the lens states its optical axis for pictures of that shape (within 1 %).
 bool HasCentreFor(const SampledLens& lens, PixelSize picture);
 
+// Of a result, pixels.
+inline constexpr std::int32_t largestResultSide = 32767;
 // Parts of a side that can be cut out: at least so much of 1.
 inline constexpr double leastCrop = 0.001;
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // How a photo is converted, apart from what took it: projection, angle of view of the output,
-// effects, rotations and shifts, as names and values. Never among them: gear, circle's centre,
-// numbers of the lens. Throws nothing.
+// effects, rotations and shifts, size, crop and what stands outside the photo, as names and values.
+// Never among them: gear, circle's centre, numbers of the lens. Throws nothing.
 #pragma once
 
 #include <QString>

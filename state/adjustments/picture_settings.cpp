@@ -80,12 +80,19 @@ constexpr std::array numberFields{
     NumberField{QLatin1StringView("UnrollDirection"), -1.0F, 1.0F, true},
     NumberField{QLatin1StringView("UnrollFrom"), 0.0F, 180.0F, true},
     NumberField{QLatin1StringView("UnrollTo"), 0.0F, 180.0F, true},
+    NumberField{QLatin1StringView("OutputWidth"), 0.0F, largestResultSide, true},
+    NumberField{QLatin1StringView("OutputHeight"), 0.0F, largestResultSide, true},
+    NumberField{QLatin1StringView("CropLeft"), 0.0F, 1.0F, true},
+    NumberField{QLatin1StringView("CropTop"), 0.0F, 1.0F, true},
+    NumberField{QLatin1StringView("CropWidth"), 0.0F, 1.0F, true},
+    NumberField{QLatin1StringView("CropHeight"), 0.0F, 1.0F, true},
 };
 
 // Words, written like sparse numbers.
 constexpr std::array wordFields{
     QLatin1StringView("Pose"),
     QLatin1StringView("Tunnel"),
+    QLatin1StringView("Outside"),
 };
 
 struct Texts {

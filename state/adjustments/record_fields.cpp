@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/outside_text.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {
@@ -16,17 +17,23 @@ namespace varnel {
 namespace {
 
 using FieldPointer =
-    std::variant<std::int16_t ImageRecord::*, Bool16 ImageRecord::*, float ImageRecord::*,
-                 QString ImageRecord::*, CameraPose ImageRecord::*>;
+    std::variant<std::int16_t ImageRecord::*, std::int32_t ImageRecord::*, Bool16 ImageRecord::*,
+                 float ImageRecord::*, QString ImageRecord::*, CameraPose ImageRecord::*,
+                 OutsideFill ImageRecord::*>;
 
 struct Field {
     QLatin1StringView name;
     FieldPointer pointer;
+    bool isPart = false;  // of 1
 };
 
 #define VARNEL_FIELD(name)                           \
     Field {                                          \
         QLatin1StringView(#name), &ImageRecord::name \
+    }
+#define VARNEL_PART(name)                                  \
+    Field {                                                \
+        QLatin1StringView(#name), &ImageRecord::name, true \
     }
 constexpr std::array fields{
     VARNEL_FIELD(Width),
@@ -72,9 +79,17 @@ constexpr std::array fields{
     VARNEL_FIELD(UnrollTo),
     VARNEL_FIELD(Pose),
     VARNEL_FIELD(Tunnel),
+    VARNEL_FIELD(OutputWidth),
+    VARNEL_FIELD(OutputHeight),
+    VARNEL_PART(CropLeft),
+    VARNEL_PART(CropTop),
+    VARNEL_PART(CropWidth),
+    VARNEL_PART(CropHeight),
+    VARNEL_FIELD(Outside),
 };
 #undef VARNEL_FIELD
-static_assert(fields.size() == 43);
+#undef VARNEL_PART
+static_assert(fields.size() == 50);
 
 constexpr std::array poses{std::pair{QLatin1StringView("level"), CameraPose::Level},
                            std::pair{QLatin1StringView("up"), CameraPose::Up},
@@ -87,6 +102,12 @@ std::optional<std::int16_t> Parse(const QString& text, std::int16_t /*kind*/) {
         return std::nullopt;
     }
     return static_cast<std::int16_t>(*whole);
+}
+
+// The sides of a result, pixels.
+std::optional<std::int32_t> Parse(const QString& text, std::int32_t /*kind*/) {
+    const std::optional<int> whole = WholeFromText(text);
+    return whole && *whole >= 0 && *whole <= largestResultSide ? whole : std::nullopt;
 }
 
 std::optional<Bool16> Parse(const QString& text, Bool16 /*kind*/) {
@@ -119,6 +140,18 @@ std::optional<CameraPose> Parse(const QString& text, CameraPose /*kind*/) {
         }
     }
     return std::nullopt;
+}
+
+std::optional<OutsideFill> Parse(const QString& text, const OutsideFill& /*kind*/) {
+    return OutsideFromText(text);
+}
+
+QString TextOf(const OutsideFill& value) {
+    return ToText(value);
+}
+
+QString TextOf(std::int32_t value) {
+    return QString::number(value);
 }
 
 QString TextOf(std::int16_t value) {
@@ -166,6 +199,11 @@ FieldResult SetValue(Value& target, const QString& text) {
     return FieldResult::Ok;
 }
 
+bool IsPart(const QString& text) {
+    const std::optional<float> number = FloatFromPointText(text);
+    return number && *number >= 0.0F && *number <= 1.0F;
+}
+
 }  // namespace
 
 FieldResult SetField(ImageRecord& image, const QString& field, const QString& value) {
@@ -181,6 +219,9 @@ FieldResult SetField(ImageRecord& image, const QString& field, const QString& va
         }
         if (known.pointer == FieldPointer(&ImageRecord::UnrollDirection)) {
             return SetDirection(image, value);
+        }
+        if (known.isPart && !IsPart(value)) {
+            return FieldResult::BadValue;
         }
         return std::visit([&](auto pointer) { return SetValue(image.*pointer, value); },
                           known.pointer);

@@ -77,8 +77,8 @@ constexpr std::array viewRows{
               u"photo's resolution."},
     OptionRow{u"aspect", u"W:H", u"The shape of the frame; default: the photo's."},
     OptionRow{u"crop", u"C",
-              u"clean or clean:W:H: the largest part without anything outside the photo; or "
-              u"X,Y,W,H of the frame, from its upper left, in parts of 1 or percent."},
+              u"clean or clean:W:H: the largest part without outside; or X,Y,W,H in parts of 1 "
+              u"or %."},
     OptionRow{u"outside", u"O",
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},

@@ -54,7 +54,8 @@ BitmapHandle WhitePhoto(const SourceFrame& photo) {
 
 // Of a lens that sees colours at different places that of green stands for all.
 ImageRecord InOneColour(ImageRecord image) {
-    if (image.Lens && (image.Lens->ShiftOf(LensColour::Red) || image.Lens->ShiftOf(LensColour::Blue))) {
+    if (image.Lens &&
+        (image.Lens->ShiftOf(LensColour::Red) || image.Lens->ShiftOf(LensColour::Blue))) {
         SampledLens lens = *image.Lens;
         lens.red.reset();
         lens.blue.reset();
@@ -117,7 +118,8 @@ void TakeAlpha(const OutsideRow& row, std::uint8_t* out) {
     for (std::int32_t x = 0; x < row.width; ++x, out += 4) {
         const std::uint8_t* const coverage = row.coverage + 3 * x;
         const std::uint8_t shown = IsInside(coverage[0]) ? white : coverage[0];
-        PixelColor colour = shown == 0 ? black : WithoutBlack(row.pixels + 3 * x, coverage[1]);
+        const std::uint8_t share = shown == white ? white : coverage[1];
+        PixelColor colour = shown == 0 ? black : WithoutBlack(row.pixels + 3 * x, share);
         colour.reserved = shown;
         PutColour(out, colour, PixelFormat::Bgra8);
     }
@@ -140,18 +142,15 @@ class FilledRows : public RowRenderer {
   public:
     FilledRows(std::unique_ptr<RowRenderer> rows, const OutsideFill& fill, CoverageRows coverage,
                const RenderSurface& surface)
-        : rows_(std::move(rows)),
-          fill_(fill),
-          coverage_(std::move(coverage)),
-          surface_(surface) {}
+        : rows_(std::move(rows)), fill_(fill), coverage_(std::move(coverage)), surface_(surface) {}
 
     void DrawRow(std::int32_t row) override {
         rows_->DrawRow(row);
         const int first = row / bandRows * bandRows;
-        varnel::FillRow({ScanLine(surface_.Result(), row).data(),
-                         ScanLine(Band(first), row - first).data(), surface_.ResultSize().width,
-                         row},
-                        fill_);
+        varnel::FillRow(
+            {ScanLine(surface_.Result(), row).data(), ScanLine(Band(first), row - first).data(),
+             surface_.ResultSize().width, row},
+            fill_);
     }
 
   private:

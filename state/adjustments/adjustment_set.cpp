@@ -24,11 +24,10 @@ constexpr std::array names{
     QLatin1StringView("PaniniSqueeze"),   QLatin1StringView("UnrollStart"),
     QLatin1StringView("UnrollDirection"), QLatin1StringView("UnrollFrom"),
     QLatin1StringView("UnrollTo"),        QLatin1StringView("Pose"),
-    QLatin1StringView("Tunnel"),
-    QLatin1StringView("OutputWidth"),     QLatin1StringView("OutputHeight"),
-    QLatin1StringView("CropLeft"),        QLatin1StringView("CropTop"),
-    QLatin1StringView("CropWidth"),       QLatin1StringView("CropHeight"),
-    QLatin1StringView("Outside"),
+    QLatin1StringView("Tunnel"),          QLatin1StringView("OutputWidth"),
+    QLatin1StringView("OutputHeight"),    QLatin1StringView("CropLeft"),
+    QLatin1StringView("CropTop"),         QLatin1StringView("CropWidth"),
+    QLatin1StringView("CropHeight"),      QLatin1StringView("Outside"),
 };
 
 constexpr QLatin1StringView textKey("VarnelAdjustments");

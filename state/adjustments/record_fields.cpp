@@ -71,6 +71,13 @@ constexpr std::array fields{
     VARNEL_FIELD(FileName),
     VARNEL_FIELD(NameSuffix),
     VARNEL_FIELD(Orientation),
+    VARNEL_FIELD(OutputWidth),
+    VARNEL_FIELD(OutputHeight),
+    VARNEL_PART(CropLeft),
+    VARNEL_PART(CropTop),
+    VARNEL_PART(CropWidth),
+    VARNEL_PART(CropHeight),
+    VARNEL_FIELD(Outside),
     VARNEL_FIELD(PaniniD),
     VARNEL_FIELD(PaniniSqueeze),
     VARNEL_FIELD(UnrollStart),
@@ -79,13 +86,6 @@ constexpr std::array fields{
     VARNEL_FIELD(UnrollTo),
     VARNEL_FIELD(Pose),
     VARNEL_FIELD(Tunnel),
-    VARNEL_FIELD(OutputWidth),
-    VARNEL_FIELD(OutputHeight),
-    VARNEL_PART(CropLeft),
-    VARNEL_PART(CropTop),
-    VARNEL_PART(CropWidth),
-    VARNEL_PART(CropHeight),
-    VARNEL_FIELD(Outside),
 };
 #undef VARNEL_FIELD
 #undef VARNEL_PART

@@ -50,6 +50,13 @@ ImageRecord AwkwardRecord() {
     record.FileName = Text("100% <fish>.tar.jpg");
     record.NameSuffix = Text("Morph0007");
     record.Orientation = 6;
+    record.OutputWidth = 32767;
+    record.OutputHeight = 1;
+    record.CropLeft = 1.0F / 3.0F;
+    record.CropTop = 0.1F;
+    record.CropWidth = 0.6F;
+    record.CropHeight = 1e-3F;
+    record.Outside = {OutsideFill::Kind::Colour, 1, 0, 255};
     record.PaniniD = 0.3F;
     record.PaniniSqueeze = 12.3F;
     record.UnrollStart = -90.1F;
@@ -88,6 +95,15 @@ TEST(PictureSettings, ARecordComesBackAsItWasInEveryLocale) {
         record.OfsetX = angle(random) * 1e-3F;
         record.InputAOV = 180.5F + angle(random) * 0.99F;
         ExpectBack(record);
+    }
+}
+
+// What is as in a new record leaves pictures as they always were.
+TEST(PictureSettings, StateAFrameOnlyWhereThereIsOne) {
+    const PictureSettings settings = SettingsFrom(testing::FisheyeRecord());
+    for (const char* name : {"OutputWidth", "OutputHeight", "CropLeft", "CropTop", "CropWidth",
+                             "CropHeight", "Outside"}) {
+        EXPECT_FALSE(settings.contains(Text(name))) << name;
     }
 }
 

@@ -18,7 +18,8 @@ TEST(FieldNames, ListsAllFieldsInTheRecordsOrder) {
             "CameraData1 CameraData2 LensBrand LensModel ImageCircleRadius LensShift "
             "LensData3 LensMapScale LensMapFactor Projection SettingsApplied OfsetX OfsetY "
             "Ratio InputAOV OutputAOV EffectVarnel EffectRectilinear RotateX RotateY RotateZ "
-            "TranslateX TranslateY Folder FileName NameSuffix Orientation PaniniD PaniniSqueeze "
+            "TranslateX TranslateY Folder FileName NameSuffix Orientation OutputWidth OutputHeight "
+            "CropLeft CropTop CropWidth CropHeight Outside PaniniD PaniniSqueeze "
             "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel"));
 }
 
@@ -27,7 +28,12 @@ TEST(SetField, ReachesADifferentMemberByEveryName) {
     std::vector<ImageRecord> seen{ImageRecord()};
     for (const QString& name : FieldNames()) {
         ImageRecord image;
-        const QString value = name == u"Pose" ? QStringLiteral("up") : QStringLiteral("-1");
+        const bool isFrame =
+            name.startsWith(u"Crop") || name == u"OutputWidth" || name == u"OutputHeight";
+        const QString value = name == u"Outside" ? QStringLiteral("#010203")
+                              : name == u"Pose"  ? QStringLiteral("up")
+                              : isFrame          ? QStringLiteral("1")
+                                                 : QStringLiteral("-1");
         EXPECT_EQ(SetField(image, name, value), FieldResult::Ok) << name.toStdString();
         EXPECT_EQ(std::count(seen.begin(), seen.end(), image), 0) << name.toStdString();
         seen.push_back(image);
@@ -50,6 +56,15 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
         const char* stored = "";
     } cases[] = {
         {"Width", "32767", Ok, "32767"},
+        {"OutputWidth", "32767", Ok, "32767"},
+        {"OutputWidth", "32768", BadValue},
+        {"OutputHeight", "-1", BadValue},
+        {"CropLeft", "0.25", Ok, "0.25"},
+        {"CropWidth", "1.01", BadValue},
+        {"Outside", "Transparent", Ok, "transparent"},
+        {"Outside", "#0aFF10", Ok, "#0aff10"},
+        {"Outside", "#12345g", BadValue},
+        {"Outside", "white", BadValue},
         {"Width", "32768", BadValue},
         {"Width", "-32769", BadValue},
         {"Width", "1.5", BadValue},

@@ -19,6 +19,51 @@
 namespace varnel {
 namespace {
 
+// Large enough for several strips and bands.
+BitmapHandle HalfTransparent() {
+    BitmapHandle bitmap = NewBitmap({701, 400}, PixelFormat::Bgra8);
+    std::uint32_t state = 1;
+    for (int y = 0; y < 400; ++y) {
+        for (std::uint8_t& byte : ScanLine(bitmap.get(), y)) {
+            state = state * 1664525U + 1013904223U;
+            byte = static_cast<std::uint8_t>(y % 2 == 0 ? state >> 24U : y);
+        }
+    }
+    return bitmap;
+}
+
+TEST(EncodeBitmap, KeepsAlphaWhereTheTypeHoldsItAndElseSaysSo) {
+    const BitmapHandle bitmap = HalfTransparent();
+    ThreadRunner runner(2);
+    for (const auto& [type, format] :
+         {std::pair(OutputType::Tiff, FIF_TIFF), std::pair(OutputType::Png, FIF_PNG)}) {
+        EncodedBitmap file = EncodeBitmap(type, bitmap.get(), {.runner = &runner});
+        ASSERT_TRUE(file.reason.isEmpty() && file.note.isEmpty());
+        FIMEMORY* const memory = FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.bytes.data()),
+                                                      static_cast<DWORD>(file.bytes.size()));
+        const LibraryBitmap read(FreeImage_LoadFromMemory(format, memory, 0));
+        FreeImage_CloseMemory(memory);
+        ASSERT_TRUE(read);
+        ASSERT_EQ(FreeImage_GetBPP(read.get()), 32U);
+        for (int y = 0; y < 400; ++y) {
+            ASSERT_TRUE(
+                std::ranges::equal(std::span(FreeImage_GetScanLine(read.get(), y), 4U * 701U),
+                                   ScanLine(bitmap.get(), y)))
+                << y;
+        }
+    }
+    for (const OutputType type : {OutputType::Jpeg, OutputType::Bmp}) {
+        const EncodedBitmap file = EncodeBitmap(type, bitmap.get());
+        EXPECT_TRUE(file.reason.isEmpty());
+        EXPECT_TRUE(file.note.Is(ReasonCode::TypeHoldsNoTransparency));
+    }
+    // A colour of which half is seen over black.
+    const auto line = ScanLine(bitmap.get(), 129);
+    const QByteArray bmp = EncodeBitmap(OutputType::Bmp, bitmap.get()).bytes;
+    EXPECT_NEAR(testing::PixelAt(testing::FromFile(FIF_BMP, bmp).get(), 5, 129).green,
+                line[21] * line[23] / 255.0, 0.51);
+}
+
 TEST(SaveBitmap, EveryTypeReadsBackAndReplacesAnOlderFile) {
     const QTemporaryDir folder;
     const BitmapHandle bitmap = testing::PositionPicture({40, 30});

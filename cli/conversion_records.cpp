@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <span>
 
 #include "cli/like_picture.h"
 #include "cli/straighten_photo.h"
@@ -121,6 +122,32 @@ std::vector<ImageRecord> OfProjection(const Options& options, const ImageRecord&
     return frames;
 }
 
+// Gives a search up between two blocks when the command is stopped.
+class StoppableBlocks : public BlockRunner {
+  public:
+    StoppableBlocks(BlockRunner& runner, const StopCheck& stop) : runner_(runner), stop_(stop) {}
+    void Run(int blocks, const std::function<void(int)>& block) override {
+        runner_.Run(blocks, [&](int n) {
+            stop_();
+            block(n);
+        });
+    }
+
+  private:
+    BlockRunner& runner_;
+    const StopCheck& stop_;
+};
+
+FrameOutcome FrameOf(const ConvertRequest& request, std::span<ImageRecord> records,
+                     BlockRunner& runner) {
+    StoppableBlocks blocks(runner, request.stop);
+    try {
+        return GiveFrame(request.options.frame, records, blocks);
+    } catch (const MeasuringStopped&) {
+        return {ReasonCode::Cancelled};
+    }
+}
+
 }  // namespace
 
 StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
@@ -181,7 +208,7 @@ PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
             SetField(record, field, value);
         }
         std::vector<ImageRecord> own = OfProjection(request.options, record);
-        const FrameOutcome frame = GiveFrame(request.options.frame, own, runner);
+        const FrameOutcome frame = FrameOf(request, own, runner);
         const Reason error = frame.error.isEmpty() ? FrameError(own.front()) : frame.error;
         if (!error.isEmpty()) {
             return {{}, error};

@@ -226,8 +226,12 @@ std::vector<CoverageRows> CoveragesOf(const CleanCropWish& wish) {
     };
     std::vector<CoverageRows> coverages;
     for (const ImageRecord& record : wish.records) {
-        coverages.emplace_back(ProjectionFromIndex(record.Projection), record,
-                               FramesOf(record, wish.photo, whole));
+        const Frames frames = FramesOf(record, wish.photo, whole);
+        if (coverages.empty()) {
+            coverages.emplace_back(ProjectionFromIndex(record.Projection), record, frames);
+        } else {
+            coverages.emplace_back(record, frames, coverages.front());
+        }
     }
     return coverages;
 }

@@ -185,6 +185,13 @@ CoverageRows::CoverageRows(Projection projection, const ImageRecord& image, cons
       frames_(frames),
       white_(WhitePhoto(frames.source)) {}
 
+CoverageRows::CoverageRows(const ImageRecord& image, const Frames& frames,
+                           const CoverageRows& other)
+    : projection_(ProjectionFromIndex(image.Projection)),
+      image_(InOneColour(image)),
+      frames_(frames),
+      white_(other.white_) {}
+
 // A crop of the result.
 BitmapHandle CoverageRows::Rows(LineRange rows) const {
     Frames band = frames_;

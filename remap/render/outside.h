@@ -19,6 +19,8 @@ namespace varnel {
 class CoverageRows {
   public:
     CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames);
+    // Of another record of the same photo with the same circle, whose white picture serves both.
+    CoverageRows(const ImageRecord& image, const Frames& frames, const CoverageRows& other);
     // As wide as the result, of its rows first to last: in blue how much of the photo's image
     // circle a pixel shows, in green how much of the photo, 0 to 255. May be called by several
     // threads at once.
@@ -31,7 +33,7 @@ class CoverageRows {
     Projection projection_;
     ImageRecord image_;
     Frames frames_;
-    BitmapHandle white_;
+    std::shared_ptr<const Bitmap> white_;
 };
 
 // Whether a coverage is that of a pixel wholly within; blends of white are rounded down.

@@ -69,10 +69,45 @@ TEST(ParseOptions, AMorphHasItsEnds) {
         Parse("p --morph 2 --set Projection=1 --to EffectRectilinear=5 a")));
 }
 
+struct WrongLine {
+    const char *line, *told;
+};
+
+void ExpectTold(const WrongLine& row) {
+    const auto parsed = Parse(row.line);
+    ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << row.line;
+    const QString told = std::get<QString>(parsed);
+    EXPECT_TRUE(told.contains(QString::fromUtf8(row.told)) && !told.contains(u'\n'))
+        << row.line << ": " << told.toStdString();
+}
+
+TEST(ParseOptions, AWrongFrameIsToldInOneLineWithWhatHelps) {
+    const WrongLine rows[] = {
+        {"p --size 0 a", "--size needs WIDTHxHEIGHT, WIDTH or centre, 1 to 32767"},
+        {"p --size -5 a", "not \"-5\""},
+        {"p --size 40000x3 a", "1 to 32767"},
+        {"p --size 4x3x2 a", "for example --size 4000x3000"},
+        {"p --aspect 16 a", "for example --aspect 16:9"},
+        {"p --aspect 1:0 a", "--aspect needs W:H"},
+        {"p --crop 1,2,3 a", "--crop needs clean"},
+        {"p --crop 0.5,0,0.6,1 a", "runs beyond the frame"},
+        {"p --crop 0,0,0,1 a", "--crop needs clean"},
+        {"p --crop 0,0,nan,1 a", "--crop needs clean"},
+        {"p --crop clean:9 a", "for example --crop clean:16:9"},
+        {"p --outside blue a", "--outside needs black, transparent or #rrggbb"},
+        {"p --outside #12345 a", "--outside needs"},
+        {"p --aspect 4:3 --crop clean:1:1 a", "give one of the two"},
+        {"p --aspect 4:3 --size 40x30 a", "leave --aspect out"},
+        {"p --crop clean:1:1 --size 40x30 a", "the width alone"},
+        {"p --set OutputWidth=40000 a", "no value for the field OutputWidth"},
+        {"p --set CropLeft=1.5 a", "no value for the field CropLeft"}};
+    for (const WrongLine& row : rows) {
+        ExpectTold(row);
+    }
+}
+
 TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
-    const struct {
-        const char *line, *told;
-    } rows[] = {
+    const WrongLine rows[] = {
         {"p", "no photo given; give the names"},
         {"p --nonsense a", "unknown option \"--nonsense\"; --help"},
         {"p --projektion=varnel a", "\"--projektion\"; did you mean \"--projection\"?"},
@@ -107,24 +142,6 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --preview 400 a", "for example --preview 800x600"},
         {"p --preview 0x3 a", "WIDTHxHEIGHT"},
         {"p --preview 4x3x2 a", "WIDTHxHEIGHT"},
-        {"p --size 0 a", "--size needs WIDTHxHEIGHT, WIDTH or centre, 1 to 32767"},
-        {"p --size -5 a", "not \"-5\""},
-        {"p --size 40000x3 a", "1 to 32767"},
-        {"p --size 4x3x2 a", "for example --size 4000x3000"},
-        {"p --aspect 16 a", "for example --aspect 16:9"},
-        {"p --aspect 1:0 a", "--aspect needs W:H"},
-        {"p --crop 1,2,3 a", "--crop needs clean"},
-        {"p --crop 0.5,0,0.6,1 a", "runs beyond the frame"},
-        {"p --crop 0,0,0,1 a", "--crop needs clean"},
-        {"p --crop 0,0,nan,1 a", "--crop needs clean"},
-        {"p --crop clean:9 a", "for example --crop clean:16:9"},
-        {"p --outside blue a", "--outside needs black, transparent or #rrggbb"},
-        {"p --outside #12345 a", "--outside needs"},
-        {"p --aspect 4:3 --crop clean:1:1 a", "give one of the two"},
-        {"p --aspect 4:3 --size 40x30 a", "leave --aspect out"},
-        {"p --crop clean:1:1 --size 40x30 a", "the width alone"},
-        {"p --set OutputWidth=40000 a", "no value for the field OutputWidth"},
-        {"p --set CropLeft=1.5 a", "no value for the field CropLeft"},
         {"p --camera Canon --lens A/B a", "not \"Canon\"; --list-cameras"},
         {"p --lens A/ --camera A/B a", "not \"A/\"; --list-lenses"},
         {"p --camera Canon/EOS a", "give --lens BRAND/MODEL too"},
@@ -149,12 +166,8 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --morph 2 --from RotateX=far a", "--from needs a number"},
         {"p --morph 2 --from InputAOV=90 a", "cannot move \"InputAOV\"; it can move OutputAOV, "},
         {"p --morph 2 --to EffectRectilinear=5 a", "choose another --projection"}};
-    for (const auto& row : rows) {
-        const auto parsed = Parse(row.line);
-        ASSERT_TRUE(std::holds_alternative<QString>(parsed)) << row.line;
-        const QString told = std::get<QString>(parsed);
-        EXPECT_TRUE(told.contains(QString::fromUtf8(row.told)) && !told.contains(u'\n'))
-            << row.line << ": " << told.toStdString();
+    for (const WrongLine& row : rows) {
+        ExpectTold(row);
     }
 }
 

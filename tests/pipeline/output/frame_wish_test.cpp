@@ -101,10 +101,10 @@ TEST(GiveFrame, ACleanPartComesOutInTheSizeWantedAndHoldsNothingFromOutside) {
             const OutputFrame frame = FramesOf(given.records.front(), photo).output;
             SerialRunner runner;
             const double shape = static_cast<double>(result.width) / result.height;
-            const CleanCrop crop = ExactCleanCrop(
-                {given.records, photo, frame.Whole(),
-                 wish.size.height > 0 ? std::optional(shape) : wish.clean->shape},
-                runner);
+            const CleanCrop crop =
+                ExactCleanCrop({given.records, photo, frame.Whole(),
+                                wish.size.height > 0 ? std::optional(shape) : wish.clean->shape},
+                               runner);
             EXPECT_GE(crop.width * crop.height, result.width * result.height);
             EXPECT_LE(crop.width * crop.height, 1.1 * result.width * result.height);
         }

@@ -53,6 +53,12 @@ void SetCrop(const CropParts& parts, ImageRecord& image) {
     image.CropHeight = static_cast<float>(parts.height);
 }
 
+CropParts CropOf(const ImageRecord& image) {
+    const auto partOr1 = [](float part) { return part > 0.0F ? static_cast<double>(part) : 1.0; };
+    return {static_cast<double>(image.CropLeft), static_cast<double>(image.CropTop),
+            partOr1(image.CropWidth), partOr1(image.CropHeight)};
+}
+
 void SetSize(PixelSize size, ImageRecord& image) {
     image.OutputWidth = size.width;
     image.OutputHeight = size.height;
@@ -77,8 +83,7 @@ class FrameGiver {
         if (size_.width == 0 && size_.height == 0 && !wish.centre && !wish.aspect) {
             size_ = {first.OutputWidth, first.OutputHeight};
         }
-        crop_ = wish.crop.value_or(CropParts{first.CropLeft, first.CropTop,
-                                             PartOr1(first.CropWidth), PartOr1(first.CropHeight)});
+        crop_ = wish.crop.value_or(CropOf(first));
     }
 
     FrameOutcome Give() {
@@ -87,8 +92,6 @@ class FrameGiver {
     }
 
   private:
-    static double PartOr1(float part) { return part > 0.0F ? static_cast<double>(part) : 1.0; }
-
     // Before the crop, where no size is given.
     PixelSize Frame() const {
         const PixelSize frame{photo_.width,
@@ -112,10 +115,9 @@ class FrameGiver {
         }
         const bool hasSize = size_.width > 0 || size_.height > 0 || wish_.centre || wish_.aspect;
         for (ImageRecord& record : records_) {
-            SetCrop(wish_.crop ? crop_
-                               : CropParts{record.CropLeft, record.CropTop, record.CropWidth,
-                                           record.CropHeight},
-                    record);
+            if (wish_.crop) {
+                SetCrop(crop_, record);
+            }
             SetSize(hasSize ? result : PixelSize{}, record);
         }
         return {};

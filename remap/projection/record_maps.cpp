@@ -47,8 +47,8 @@ Part PartOf(float start, float length) {
     if (!(length > 0.0F)) {
         return {};
     }
-    const double kept = std::clamp<double>(length, leastCrop, 1.0);
-    return {std::clamp<double>(start, 0.0, 1.0 - kept), kept};
+    const double kept = std::clamp(static_cast<double>(length), leastCrop, 1.0);
+    return {std::clamp(static_cast<double>(start), 0.0, 1.0 - kept), kept};
 }
 
 // The frame before the crop, whose part has that size.

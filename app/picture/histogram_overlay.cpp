@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "remap/image/pixel_access.h"
+#include "remap/render/outside.h"
 
 namespace varnel {
 
@@ -37,7 +38,7 @@ void PaintMark(QPainter& painter, QPointF corner, double way, const QColor& colo
 
 }  // namespace
 
-Histogram Histogram::Of(const Bitmap& picture) {
+Histogram Histogram::Of(const Bitmap& picture, const OutsideFill& outside) {
     Histogram found;
     for (int y = 0; y < picture.Size().height; ++y) {
         const std::uint8_t* pixel = picture.ScanLine(y).data();
@@ -45,7 +46,8 @@ Histogram Histogram::Of(const Bitmap& picture) {
             const PixelColor colour = ColourAt(pixel, picture.Format());
             const std::array<std::uint8_t, 3> levels{colour.blue, colour.green, colour.red};
             const auto [least, most] = std::ranges::minmax(levels);
-            if (most == 0) {
+            const PixelColor none = OutsideColour(outside, x, y);
+            if (colour.blue == none.blue && colour.green == none.green && colour.red == none.red) {
                 continue;
             }
             ++found.pixels;

@@ -9,17 +9,18 @@
 
 #include "app/picture/picture_overlay.h"
 #include "remap/image/bitmap.h"
+#include "state/records/outside_fill.h"
 
 namespace varnel {
 
-// Pixels that are all black are none of the photo and do not count.
+// Pixels that are what stands outside are none of the photo and do not count.
 struct Histogram {
     std::array<std::array<int, 256>, 3> counts{};  // of blue, green and red
     int pixels = 0;
     int cutDark = 0;   // pixels with a channel at 0
     int cutLight = 0;  // and at 255
 
-    static Histogram Of(const Bitmap& picture);
+    static Histogram Of(const Bitmap& picture, const OutsideFill& outside = {});
     // Shares of a thousandth and more are marked.
     bool IsDarkCut() const { return cutDark * 1000LL >= pixels && cutDark > 0; }
     bool IsLightCut() const { return cutLight * 1000LL >= pixels && cutLight > 0; }

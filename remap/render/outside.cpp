@@ -75,15 +75,6 @@ std::uint8_t Mixed(std::uint8_t over, std::uint8_t under, std::uint8_t share) {
     return static_cast<std::uint8_t>((over * share + under * (255 - share) + 127) / 255);
 }
 
-PixelColor ColourUnder(const OutsideFill& fill, std::int32_t x, std::int32_t y) {
-    if (fill.kind != OutsideFill::Kind::Transparent) {
-        return {fill.blue, fill.green, fill.red, 0};
-    }
-    constexpr std::int32_t square = 8;  // pixels
-    const std::uint8_t grey = (x / square + y / square) % 2 == 0 ? 204 : 153;
-    return {grey, grey, grey, 0};
-}
-
 PixelColor WithoutBlack(const std::uint8_t* pixel, std::uint8_t share) {
     return {Unmixed(pixel[0], share), Unmixed(pixel[1], share), Unmixed(pixel[2], share), 0};
 }
@@ -105,7 +96,7 @@ void FillRow(const OutsideRow& row, const OutsideFill& fill) {
         }
         std::uint8_t* const pixel = row.pixels + 3 * x;
         const PixelColor over = WithoutBlack(pixel, coverage[1]);
-        const PixelColor under = ColourUnder(fill, x, row.y);
+        const PixelColor under = OutsideColour(fill, x, row.y);
         PutColour(pixel,
                   {Mixed(over.blue, under.blue, shown), Mixed(over.green, under.green, shown),
                    Mixed(over.red, under.red, shown), 0},
@@ -178,6 +169,15 @@ class FilledRows : public RowRenderer {
 };
 
 }  // namespace
+
+PixelColor OutsideColour(const OutsideFill& fill, std::int32_t x, std::int32_t y) {
+    if (fill.kind != OutsideFill::Kind::Transparent) {
+        return {fill.blue, fill.green, fill.red, 0};
+    }
+    constexpr std::int32_t square = 8;  // pixels
+    const std::uint8_t grey = (x / square + y / square) % 2 == 0 ? 204 : 153;
+    return {grey, grey, grey, 0};
+}
 
 CoverageRows::CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames)
     : projection_(projection),

@@ -41,6 +41,9 @@ inline bool IsInside(std::uint8_t coverage) {
     return coverage >= 254;
 }
 
+// What stands outside at a pixel of a result without an alpha channel.
+PixelColor OutsideColour(const OutsideFill& fill, std::int32_t x, std::int32_t y);
+
 // Fills what a result shows nothing in, as the record says: a colour, or with transparency kept an
 // alpha channel, or else a checkerboard in its place. Nothing for black.
 void FillOutside(Projection projection, const ImageRecord& image, RenderSession& run,

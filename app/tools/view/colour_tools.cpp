@@ -42,8 +42,10 @@ void ColourTools::TakeColours() {
 
 void ColourTools::TakeLevels() {
     const Bitmap* const result = model_.state.bitmaps.ResultBitmap.get();
-    if (histogram_->isChecked() && result != nullptr && !pictures_.To()->Empty()) {
-        overlay_.Show(Histogram::Of(*result));
+    const ImageRecord* const image = model_.list.Current();
+    if (histogram_->isChecked() && result != nullptr && image != nullptr &&
+        !pictures_.To()->Empty()) {
+        overlay_.Show(Histogram::Of(*result, image->Outside));
     }
 }
 

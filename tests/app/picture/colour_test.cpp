@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "app/picture/histogram_overlay.h"
+#include "remap/render/outside.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/profiles.h"
 #include "tests/support/settled.h"
@@ -61,6 +62,18 @@ TEST(Histogram, CountsThePhotosPixelsAndWhatIsCutOff) {
     EXPECT_EQ(found.counts[1][90], 900);
     EXPECT_TRUE(found.IsLightCut());
     EXPECT_FALSE(found.IsDarkCut());
+}
+
+TEST(Histogram, LeavesOutWhatStandsOutside) {
+    using Kind = OutsideFill::Kind;
+    for (const OutsideFill& outside :
+         {OutsideFill{}, OutsideFill{Kind::Transparent}, OutsideFill{Kind::Colour, 200, 0, 255}}) {
+        const BitmapHandle picture = testing::Painted({40, 30}, [&outside](int x, int y) {
+            return y < 10 ? OutsideColour(outside, x, y) : PixelColor{90, 90, 90, 0};
+        });
+        EXPECT_EQ(Histogram::Of(*picture, outside).pixels, 800);
+        EXPECT_EQ(Histogram::Of(*picture, outside).counts[0][90], 800);
+    }
 }
 
 TEST(Histogram, LiesOverTheResultWhileItIsChosen) {

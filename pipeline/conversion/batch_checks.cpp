@@ -112,7 +112,8 @@ QString NamesText(int colliding, int existing) {
 double PixelsOf(const RecordArray<ImageRecord>& queue) {
     double pixels = 0.0;
     for (const ImageRecord& entry : queue) {
-        pixels += static_cast<double>(entry.Width) * entry.Height;
+        const PixelSize size = ResultSizeOf(entry, {entry.Width, entry.Height});
+        pixels += static_cast<double>(size.width) * size.height;
     }
     return pixels;
 }

@@ -37,7 +37,8 @@ void PaintLabel(QPainter& painter, const QPointF& corner, const QString& text,
                 bool toTheLeft = false);
 
 // Between positions on the photo, whose rows count from the bottom row, and the points of overlays,
-// from the top left corner with y down. The size is the photo's, in pixels.
+// from the top left corner with y down. The size is the photo's, in pixels; the same for the
+// result.
 QPointF PointOf(const SourcePosition& place, PixelSize size);
 SourcePosition PlaceAtPoint(const QPointF& point, PixelSize size);
 

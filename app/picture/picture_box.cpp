@@ -86,8 +86,10 @@ const QImage* PictureBox::SharpFor(QSize size) const {
     return found == sharp_.end() ? nullptr : &*found;
 }
 
-void PictureBox::FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full) {
+void PictureBox::FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full,
+                            const PictureZoom* standInZoom) {
     zoom_ = zoom;
+    standInZoom_ = standInZoom;
     full_ = std::move(full);
 }
 
@@ -121,8 +123,8 @@ QPointF PictureBox::ViewPoint(QPointF point) const {
 QRectF PictureBox::PictureRect() const {
     const double ratio = devicePixelRatioF();
     if (Zoomed()) {
-        return {(zoom_->Corner() - GridOffset()) / ratio,
-                QSizeF(picture_) * zoom_->Scale() / ratio};
+        return {(Zoom()->Corner() - GridOffset()) / ratio,
+                QSizeF(Source().picture_) * Zoom()->Scale() / ratio};
     }
     const QRectF fit = FitRect();
     return {(fit.topLeft() - GridOffset()) / ratio, fit.size() / ratio};
@@ -131,13 +133,13 @@ QRectF PictureBox::PictureRect() const {
 // Whole device pixels, or the picture would be blurred on a scaled screen.
 QRectF PictureBox::FitRect() const {
     const QSize view = View();
-    const QSize size = FitSize();
+    const QSize size = Source().FitSizeIn(*this);
     // NOLINTNEXTLINE(bugprone-integer-division): whole pixels are meant
     return {QPointF((view.width() - size.width()) / 2, (view.height() - size.height()) / 2), size};
 }
 
 void PictureBox::RedrawRows(RowSpan rows) {
-    if (!Zoomed() || rows.last < rows.first) {
+    if (!Zoomed() || rows.last < rows.first || StoodInFor()) {
         return;
     }
     const int height = picture_.height();
@@ -155,12 +157,13 @@ void PictureBox::HoldPan(bool held) {
 }
 
 QTransform PictureBox::ToWidget() const {
-    if (picture_.isEmpty()) {
+    const QSize picture = Source().picture_;
+    if (picture.isEmpty()) {
         return {};
     }
     const QRectF place = PictureRect();
     return QTransform::fromTranslate(place.x(), place.y())
-        .scale(place.width() / picture_.width(), place.height() / picture_.height());
+        .scale(place.width() / picture.width(), place.height() / picture.height());
 }
 
 void PictureBox::AddOverlay(PictureOverlay* overlay) {

@@ -46,7 +46,7 @@ class PictureBox : public QWidget {
     // The whole picture here, device pixels; empty without one.
     QSize FitSize() const { return FitSizeIn(*this); }
     QSize FitSizeIn(const PictureBox& box) const;  // where that one shows this picture
-    bool IsWhole() const { return zoom_ == nullptr || zoom_->Fit(); }
+    bool IsWhole() const { return Zoom() == nullptr || Zoom()->Fit(); }
     // Whether an empty box shows its hint.
     void SetHintShown(bool shown) {
         hintShown_ = shown;
@@ -55,8 +55,10 @@ class PictureBox : public QWidget {
     bool Empty() const { return image_.isNull(); }
 
     // Shows the part that the zoom selects, until it fits, from the full-size picture; what is not
-    // drawn of it is the enlarged bitmap. The zoom has to exist as long as the box is painted.
-    void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full);
+    // drawn of it is the enlarged bitmap. Another box's picture in this one's place has a zoom of
+    // its own. Zooms have to exist as long as the box is painted.
+    void FollowZoom(const PictureZoom* zoom, std::function<FullPicture()> full,
+                    const PictureZoom* standInZoom = nullptr);
     // Shows the other box's picture instead, if any.
     void StandIn(const PictureBox* other);
     bool StoodInFor() const { return standIn_ != nullptr; }
@@ -79,7 +81,7 @@ class PictureBox : public QWidget {
     void HoldPan(bool held);
 
     QSize Picture() const { return picture_; }
-    // The rectangle of the whole picture, logical pixels of this widget.
+    // The rectangle of the whole picture that is shown here, logical pixels of this widget.
     QRectF PictureRect() const;
     // From points of the picture, (0, 0) being its top left corner, to points of this widget.
     QTransform ToWidget() const;
@@ -122,6 +124,7 @@ class PictureBox : public QWidget {
     void PaintFocus(QPainter& painter) const;
     bool Zoomed() const { return !IsWhole(); }
     const PictureBox& Source() const { return standIn_ != nullptr ? *standIn_ : *this; }
+    const PictureZoom* Zoom() const { return standIn_ != nullptr ? standInZoom_ : zoom_; }
     QPointF GridOffset() const;
     QRectF FitRect() const;
     const QImage* SharpFor(QSize size) const;
@@ -140,6 +143,7 @@ class PictureBox : public QWidget {
     std::vector<PictureOverlay*> overlays_;
     PictureOverlay* holder_ = nullptr;  // the overlay that has the mouse
     const PictureZoom* zoom_ = nullptr;
+    const PictureZoom* standInZoom_ = nullptr;
     std::function<FullPicture()> full_;
     const PictureBox* standIn_ = nullptr;
     const PictureBox* before_ = nullptr;  // left of the line

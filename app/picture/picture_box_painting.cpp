@@ -33,7 +33,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     const QTransform toWidget = ToWidget();
     for (PictureOverlay* const overlay : overlays_) {
         painter.save();
-        overlay->Paint(painter, toWidget, picture_);
+        overlay->Paint(painter, toWidget, Source().picture_);
         painter.restore();
     }
     if (hasFocus()) {
@@ -51,13 +51,16 @@ void PictureBox::PaintPicture(QPainter& painter, const QRegion& region) const {
     }
 }
 
+// All that is left of the line: the photo may have another shape.
 void PictureBox::PaintDivided(QPainter& painter, const QRegion& region) {
-    const QRect part = DividedPart().toAlignedRect();
-    if (part.isEmpty() || standIn_ != nullptr || before_->image_.isNull()) {
+    const QRect divided = DividedPart().toAlignedRect();
+    if (divided.isEmpty() || standIn_ != nullptr || before_->image_.isNull()) {
         return;
     }
+    const QRect part(0, 0, divided.right() + 1, height());
     painter.save();
     painter.setClipRect(part);
+    painter.fillRect(part, pictureSurround);
     standIn_ = before_;
     PaintPicture(painter, region & part);
     standIn_ = nullptr;
@@ -76,13 +79,14 @@ void PictureBox::PaintFocus(QPainter& painter) const {
 // The draft is enlarged until there is the picture in this size.
 void PictureBox::PaintWhole(QPainter& painter) const {
     const QRectF place = PictureRect();
-    const QImage* const sharp = Source().SharpFor(FitSize());
+    const QSize fit = Source().FitSizeIn(*this);
+    const QImage* const sharp = Source().SharpFor(fit);
     QImage image = sharp != nullptr ? *sharp : Source().image_;
     if (sharp == nullptr) {
         colour_.Apply(image);
     }
     painter.save();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != FitSize());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != fit);
     painter.drawImage(place, image);
     painter.restore();
 }
@@ -105,19 +109,20 @@ void PictureBox::PaintZoomed(QPainter& painter, const QRect& region) const {
             .toAlignedRect();
     QImage part(device.size(), QImage::Format_RGB32);
     part.fill(pictureSurround);
-    const PartPlace place{zoom_->Corner() - device.topLeft(), zoom_->Scale()};
+    const PartPlace place{Zoom()->Corner() - device.topLeft(), Zoom()->Scale()};
+    const QRectF whole(place.corner, QSizeF(Source().picture_) * place.scale);
     const FullPicture full = Source().full_ ? Source().full_() : FullPicture{};
     if (full.bitmap == nullptr || full.rows != nullptr) {
         QPainter under(&part);
         under.setRenderHint(QPainter::SmoothPixmapTransform);
-        under.drawImage(QRectF(place.corner, QSizeF(picture_) * place.scale), Source().image_);
+        under.drawImage(whole, Source().image_);
     }
     if (full.rows != nullptr) {
         PaintPart(full.bitmap, place, part, [&full](int row) { return full.rows->Has(row); });
     } else if (full.bitmap != nullptr) {
         PaintPart(full.bitmap, place, part);
     }
-    ToScreenColours(part, QRectF(place.corner, QSizeF(picture_) * place.scale).toAlignedRect());
+    ToScreenColours(part, whole.toAlignedRect());
     painter.save();
     painter.setWorldTransform(QTransform::fromTranslate(-grid.x() / ratio, -grid.y() / ratio)
                                   .scale(1 / ratio, 1 / ratio));

@@ -135,8 +135,9 @@ bool ScreenPictures::MakeResult(const Wish& wish) {
 void ScreenPictures::Begin(const Wish& wish) {
     image_ = wish.image;
     shown_ = SizeOf(pictures_.To()->FitSize());
-    plan_ = ScreenPlanFor(wish.photo->Size(), shown_);
-    part_.Start(ProjectionFromIndex(image_.Projection), image_, &SourceFor(wish), DrawnWish(plan_));
+    plan_ = ScreenPlanFor(image_, wish.photo->Size(), shown_);
+    part_.Start(ProjectionFromIndex(image_.Projection), image_, &SourceFor(wish),
+                DrawnWish(image_, plan_));
 }
 
 const Bitmap& ScreenPictures::SourceFor(const Wish& wish) {

@@ -18,6 +18,7 @@
 #include "pipeline/photos/jpeg_colour.h"
 #include "remap/display/hourglass.h"
 #include "remap/render/render.h"
+#include "remap/render/result_size.h"
 #include "state/adjustments/frame_reading.h"
 #include "ui_form_straighten.h"
 
@@ -239,7 +240,7 @@ void FormStraighten::DrawStraight() {
     if (edges_->Reduced() == nullptr) {
         return;
     }
-    ImageRecord record = model_.Straightened(edges_->Photo());
+    ImageRecord record = ShapedAsPhoto(model_.Straightened(edges_->Photo()));
     record.OutputAOV = shownAngle;
     record.EffectRectilinear = 100.0F;
     SilentProgress silent;

@@ -9,6 +9,7 @@
 
 #include "remap/display/hourglass.h"
 #include "remap/image/photo_metadata.h"
+#include "remap/projection/record_maps.h"
 #include "state/editing/read_gear.h"
 
 namespace varnel {
@@ -135,8 +136,18 @@ void WindowView::ShowTitle(const QString& photo) {
     window_->setWindowModified(unsaved_);
 }
 
+// Of what is drawn, at full size.
+QSize WindowView::ResultSize() const {
+    const QSize photo = FullSize();
+    if (photo.isEmpty()) {
+        return photo;
+    }
+    const PixelSize size = ResultSizeOf(drawn_, {photo.width(), photo.height()});
+    return {size.width, size.height};
+}
+
 void WindowView::ShowResult(const Bitmap* bitmap) {
-    parts_.pictures->To()->Show(bitmap, FullSize());
+    parts_.pictures->To()->Show(bitmap, bitmap == nullptr ? FullSize() : ResultSize());
     Q_EMIT ResultShown();
 }
 

@@ -66,6 +66,7 @@ class WindowView : public QObject, public WorkspaceView {
     void FillList();
     void FillLines();
     QSize FullSize() const;  // of the current photo
+    QSize ResultSize() const;
 
     QMainWindow* window_;
     WindowParts parts_;

@@ -80,7 +80,8 @@ SaveChoice PhotoSaver::Proposal(const ImageRecord& image) const {
     shown.Projection = static_cast<std::int16_t>(model_.controls.ChosenProjection());
     const NameFacts facts{
         1, 1, PhotoDate(model_.state.bitmaps.FullSourceBitmap->metadata.photo, SourcePath(image))};
-    SaveOffer offer{WishOf(settings), static_cast<double>(image.Width) * image.Height, savePattern,
+    const PixelSize size = ResultSizeOf(shown, {image.Width, image.Height});
+    SaveOffer offer{WishOf(settings), static_cast<double>(size.width) * size.height, savePattern,
                     QFileInfo(SourcePath(image)).path(), [shown, facts](const QString& pattern) {
                         return NameByPattern(
                             shown, {pattern.isEmpty() ? QString(savePattern) : pattern}, facts);

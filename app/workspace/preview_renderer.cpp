@@ -11,6 +11,7 @@
 #include "base/run_time_error.h"
 #include "base/shortage.h"
 #include "remap/image/preview_size.h"
+#include "remap/render/result_size.h"
 
 namespace varnel {
 
@@ -50,15 +51,31 @@ void PreviewRenderer::Draw(const ImageRecord& image) {
     Q_EMIT model_.activity.Idle();
 }
 
+// As large as the reduced photo where the result is as large as the photo.
+PixelSize PreviewRenderer::SizeFor(const ImageRecord& image) const {
+    const PixelSize full = FullSize();
+    const PixelSize result = ResultSizeOf(image, full);
+    return result.width == full.width && result.height == full.height
+               ? model_.state.bitmaps.PreviewSourceBitmap->Size()
+               : PreviewSize(result, view_.PreviewBox(), view_.PictureRoom());
+}
+
+PixelSize PreviewRenderer::FullSize() const {
+    const Bitmaps& bitmaps = model_.state.bitmaps;
+    const auto& photo =
+        bitmaps.FullSourceBitmap ? bitmaps.FullSourceBitmap : bitmaps.PreviewSourceBitmap;
+    return photo->Size();
+}
+
 void PreviewRenderer::DrawNow(const ImageRecord& image) {
     Bitmaps& bitmaps = model_.state.bitmaps;
-    RenderContext context{bitmaps, [this] { return model_.controls.Antialiased(); },
-                          &model_.state.pool};
     const Projection projection = model_.controls.ChosenProjection();
     try {
-        Render(projection, image, SizeKind::Thumbnails, view_.Progress(), context);
-        ImageRecord drawn = image;
+        ImageRecord drawn = model_.showsWholeFrame ? WithoutCrop(image, FullSize()) : image;
         drawn.Projection = static_cast<std::int16_t>(projection);
+        RenderContext context{bitmaps, [this] { return model_.controls.Antialiased(); },
+                              &model_.state.pool, AtSize(drawn, SizeFor(drawn))};
+        Render(projection, drawn, SizeKind::Thumbnails, view_.Progress(), context);
         view_.NoteDrawn(drawn);
         view_.ShowResult(bitmaps.ResultBitmap.get());
     } catch (const RunTimeError& error) {

@@ -23,6 +23,8 @@ class PreviewRenderer {
     void Draw(const ImageRecord& image);
 
   private:
+    PixelSize SizeFor(const ImageRecord& image) const;  // of the draft
+    PixelSize FullSize() const;                         // of the photo
     void DrawNow(const ImageRecord& image);
 
     WorkspaceModel& model_;

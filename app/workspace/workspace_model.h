@@ -29,6 +29,7 @@ class WorkspaceModel : public QObject {
     GearModel gears;
     ListSteps steps;
     Activity activity;
+    bool showsWholeFrame = false;  // the result before its crop, which is being chosen
 
   Q_SIGNALS:
     // The current photo's record is in the controls.

@@ -80,6 +80,12 @@ void PictureZoom::Pan(QPointF by) {
     Clamp();
 }
 
+void PictureZoom::ShowLike(const PictureZoom& other) {
+    const QPointF point(other.centre_.x() / other.picture_.width() * picture_.width(),
+                        other.centre_.y() / other.picture_.height() * picture_.height());
+    Show(other.Scale(), picture_ == other.picture_ ? other.centre_ : point, Middle());
+}
+
 double PictureZoom::Stepped(int steps) const {
     double scale = Scale();
     for (; steps > 0; --steps) {

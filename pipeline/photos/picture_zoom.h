@@ -38,6 +38,8 @@ class PictureZoom {
     // then there are all from 1 on.
     void Show(double scale, QPointF picturePoint, QPointF viewPoint);
     void Pan(QPointF by);  // device pixels that the picture moves
+    // At the same scale and the same share of the way, however large the pictures are.
+    void ShowLike(const PictureZoom& other);
 
     // The scale that many steps of the menu further.
     double Stepped(int steps) const;

@@ -11,8 +11,8 @@ namespace varnel {
 
 class PointMapping {
   public:
-    // For a result as large as the photo; the record's own Projection is not looked at. Throws as
-    // the conversion does.
+    // For the result as it is saved; the size is the photo's. The record's own Projection is not
+    // looked at. Throws as the conversion does.
     PointMapping(Projection projection, const ImageRecord& image, PixelSize size);
 
     // The position that is read for a point of the result, also one off the photo; at the middles

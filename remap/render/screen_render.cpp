@@ -6,6 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "remap/projection/projection_info.h"
+#include "remap/render/result_size.h"
+
 namespace varnel {
 
 namespace {
@@ -36,15 +39,22 @@ Place AxisOf(const SourceFrame& frame) {
     return {centre.x + frame.fraction.x, centre.y + frame.fraction.y};
 }
 
-Place CentreOf(const OutputFrame& frame) {
-    return {frame.size.width / 2 + frame.shift.x, frame.size.height / 2 + frame.shift.y};
+// The first four projections follow the photo's centre, the others have the frame's middle.
+Place CentreOf(const ImageRecord& image, const Frames& frames) {
+    const bool follows = InfoOf(ProjectionFromIndex(image.Projection)).basic;
+    const OutputFrame frame = follows ? frames.output : frames.output.Centred();
+    const CentreShift shift = frame.ShiftOnResult();
+    return {frame.size.width / 2 + shift.x, frame.size.height / 2 + shift.y};
 }
 
 }  // namespace
 
-ScreenPlan ScreenPlanFor(PixelSize photo, PixelSize shown) {
-    const PixelSize drawn = SizedTo(photo, shown.width * drawnPerShown);
-    return {photo, SizedTo(photo, drawn.width * sourcePerDrawn), drawn};
+// The photo's pixels go by those of the whole frame: a crop is as sharp as what it is cut from.
+ScreenPlan ScreenPlanFor(const ImageRecord& image, PixelSize photo, PixelSize shown) {
+    const PixelSize result = ResultSizeOf(image, photo);
+    const PixelSize drawn = SizedTo(result, shown.width * drawnPerShown);
+    const PixelSize whole = FramesOf(image, photo, AtSize(image, drawn)).output.Whole();
+    return {photo, result, SizedTo(photo, whole.width * sourcePerDrawn), drawn};
 }
 
 AreaPlace ReducedPlace(const ImageRecord& image, const ScreenPlan& plan) {
@@ -57,19 +67,19 @@ AreaPlace ReducedPlace(const ImageRecord& image, const ScreenPlan& plan) {
     return {axis(from.x, to.x), axis(from.y, to.y)};
 }
 
-OutputWish DrawnWish(const ScreenPlan& plan) {
-    return [drawn = plan.drawn](const SourceFrame& source) { return Resized(source, drawn); };
+OutputWish DrawnWish(const ImageRecord& image, const ScreenPlan& plan) {
+    return AtSize(image, plan.drawn);
 }
 
 AreaPlace ShownPlace(const ImageRecord& image, const ScreenPlan& plan, PixelSize shown) {
-    const double scale = static_cast<double>(plan.drawn.width) / plan.photo.width;
-    const Place whole = CentreOf(FramesOf(image, plan.photo).output);
-    const Place drawn = CentreOf(FramesOf(image, plan.source, DrawnWish(plan)).output);
+    const double scale = static_cast<double>(plan.drawn.width) / plan.result.width;
+    const Place whole = CentreOf(image, FramesOf(image, plan.photo));
+    const Place drawn = CentreOf(image, FramesOf(image, plan.source, DrawnWish(image, plan)));
     const auto axis = [scale](double centre, double drawnCentre, double step) {
         return AreaAxis{drawnCentre + 0.5 - (centre + 0.5) * scale, step * scale};
     };
-    return {axis(whole.x, drawn.x, static_cast<double>(plan.photo.width) / shown.width),
-            axis(whole.y, drawn.y, static_cast<double>(plan.photo.height) / shown.height)};
+    return {axis(whole.x, drawn.x, static_cast<double>(plan.result.width) / shown.width),
+            axis(whole.y, drawn.y, static_cast<double>(plan.result.height) / shown.height)};
 }
 
 }  // namespace varnel

@@ -206,7 +206,8 @@ ImageRecord WidenedAt(const Steered& steered, const SourcePosition& point, doubl
 
 ImageRecord CentredOn(const Steered& steered, const SourcePosition& point) {
     const auto place = PlaceUnder(steered, point);
-    const SourcePosition middle{(steered.size.width - 1) / 2.0, (steered.size.height - 1) / 2.0};
+    const PixelSize result = steered.ResultSize();
+    const SourcePosition middle{(result.width - 1) / 2.0, (result.height - 1) / 2.0};
     return place ? TurnedTo(steered, middle, *place) : steered.image;
 }
 

@@ -3,9 +3,9 @@
 
 // Steering a conversion by its result: the turns of the camera and the angle of view with which a
 // place of the photo comes under a point of the result, found through the map itself. Points of the
-// result and places on the photo are positions as in remap/analysis/inverse_mapping.h; results are
-// as large as the photo. Throws nothing: with numbers that make no conversion, or where nothing
-// brings the place nearer, the record stays as it is.
+// result and places on the photo are positions as in remap/analysis/inverse_mapping.h. Throws
+// nothing: with numbers that make no conversion, or where nothing brings the place nearer, the
+// record stays as it is.
 #pragma once
 
 #include <optional>
@@ -28,6 +28,8 @@ bool CanWiden(Projection projection);  // the output's angle of view
 struct Steered {
     ImageRecord image;
     PixelSize size;
+
+    PixelSize ResultSize() const { return ResultSizeOf(image, size); }
 };
 
 // The place of the photo that the result shows at the point; nothing where it shows none.

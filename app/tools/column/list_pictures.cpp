@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <chrono>
+#include <numeric>
 
 #include "base/run_time_error.h"
 #include "remap/display/paint.h"
@@ -22,7 +23,20 @@ constexpr qsizetype mostBytes = 64 << 20;  // of pictures, and of sources
 
 // What of a record its result depends on.
 std::size_t HashOf(const ImageRecord& image) {
-    return qHashMulti(0, image.Projection, image.SensorWidth, image.SensorHeight,
+    const OutsideFill& outside = image.Outside;
+    const std::size_t shape = qHashMulti(
+        0, image.OutputWidth, image.OutputHeight, image.CropLeft, image.CropTop, image.CropWidth,
+        image.CropHeight, static_cast<int>(outside.kind), outside.red, outside.green, outside.blue);
+    const std::size_t further =
+        qHashMulti(shape, image.PaniniD, image.PaniniSqueeze, image.UnrollStart,
+                   image.UnrollDirection, image.UnrollFrom, image.UnrollTo, image.Marks ? 1 : 0,
+                   static_cast<int>(image.Pose), image.Tunnel ? 1 : 0);
+    const std::size_t all = std::accumulate(image.Faces.begin(), image.Faces.end(), further,
+                                            [](std::size_t hash, const FaceEllipse& face) {
+                                                return qHashMulti(hash, face.x, face.y, face.width,
+                                                                  face.height, face.angle);
+                                            });
+    return qHashMulti(all, image.Projection, image.SensorWidth, image.SensorHeight,
                       image.ImageCircleRadius, image.LensMapScale, image.LensMapFactor,
                       image.OfsetX, image.OfsetY, image.Ratio, image.InputAOV, image.OutputAOV,
                       image.EffectVarnel, image.EffectRectilinear, image.RotateX, image.RotateY,

@@ -38,7 +38,7 @@ bool SteerOverlay::Press(const OverlayInput& input) {
         return false;
     }
     const Steered now = port_.Now();
-    const SourcePosition point = PlaceAtPoint(input.point, now.size);
+    const SourcePosition point = PlaceAtPoint(input.point, now.ResultSize());
     const auto place = PlaceUnder(now, point);
     if (!place || (rolls && !CanRoll(ProjectionOf(now)))) {
         return false;
@@ -62,7 +62,7 @@ void SteerOverlay::Move(const OverlayInput& input) {
     }
     drag_->moved = true;
     const Steered now = port_.Now();
-    const SourcePosition point = PlaceAtPoint(input.point, now.size);
+    const SourcePosition point = PlaceAtPoint(input.point, now.ResultSize());
     port_.Try(drag_->rolls ? RolledTo(now, point, drag_->place)
                            : TurnedTo(now, point, drag_->place));
 }
@@ -83,7 +83,7 @@ bool SteerOverlay::Wheel(const OverlayInput& input, double steps) {
         return false;
     }
     if (!drag_ && steps != 0.0) {
-        port_.Step(WidenedAt(now, PlaceAtPoint(input.point, now.size), steps),
+        port_.Step(WidenedAt(now, PlaceAtPoint(input.point, now.ResultSize()), steps),
                    StepKind::AngleOfView);
     }
     return true;

@@ -32,7 +32,8 @@ bool SteerTools::MaySteer() const {
     const WorkspaceModel& model = workspace_.model;
     return !view_.Locked() && !model.activity.Busy() && !model.state.loadingControls &&
            model.list.Current() != nullptr && model.state.bitmaps.FullSourceBitmap != nullptr &&
-           !to_->StoodInFor() && CanTurn(model.controls.ChosenProjection());
+           !to_->StoodInFor() && !model.showsWholeFrame &&
+           CanTurn(model.controls.ChosenProjection());
 }
 
 Steered SteerTools::Now() const {

@@ -44,10 +44,15 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
 
 // The photo as an inset is shown whole.
 void ZoomTools::FollowZoom() {
-    from_->FollowZoom(Follows(from_) ? &zoom_ : nullptr, [this] {
+    from_->FollowZoom(Follows(from_) ? &zooms_.photo : nullptr, [this] {
         return FullPicture{Photo(), nullptr};
     });
-    to_->FollowZoom(&zoom_, [this] { return FullPicture{feed_.Part().Result(), &feed_.Part()}; });
+    to_->FollowZoom(
+        &zooms_.result,
+        [this] {
+            return FullPicture{feed_.Part().Result(), &feed_.Part()};
+        },
+        &zooms_.photo);
 }
 
 bool ZoomTools::Follows(const PictureBox* box) const {
@@ -61,7 +66,7 @@ void ZoomTools::AddEntries() {
         connect(entry, &QAction::triggered, this, handler);
         return entry;
     };
-    const auto step = [this](int steps) { ZoomMiddle(zoom_.Stepped(steps)); };
+    const auto step = [this](int steps) { ZoomMiddle(ZoomOf(Main()).Stepped(steps)); };
     QAction* const fit =
         add("CmdViewFit", tr("Fi&t"), {QKeySequence(Qt::CTRL | Qt::Key_0)}, [this] { ShowAll(); });
     QAction* const actual = add("CmdViewActual", tr("&100 %"),
@@ -115,7 +120,7 @@ void ZoomTools::AddKeys() {
     });
     connect(before, &HoldKey::Held, this, [this](bool on) { ShowBefore(on); });
     auto* const pan = new HoldKey(Qt::Key_Space, window_,
-                                  [this, overPictures] { return !zoom_.Fit() && overPictures(); });
+                                  [this, overPictures] { return !AllShown() && overPictures(); });
     connect(pan, &HoldKey::Held, this, [this](bool on) {
         from_->HoldPan(on);
         to_->HoldPan(on);
@@ -124,12 +129,12 @@ void ZoomTools::AddKeys() {
 
 void ZoomTools::ConnectBox(PictureBox* box) {
     connect(box, &PictureBox::ZoomWanted, this, [this, box](QPointF point, double steps) {
-        ZoomTo(box, point, zoom_.Scaled(std::exp2(steps / 2.0)));
+        ZoomTo(box, point, ZoomOf(box).Scaled(std::exp2(steps / 2.0)));
     });
     connect(box, &PictureBox::ToggleWanted, this,
             [this, box](QPointF point) { Toggle(box, point); });
-    connect(box, &PictureBox::Dragged, this, [this](QPointF by) {
-        zoom_.Pan(by);
+    connect(box, &PictureBox::Dragged, this, [this, box](QPointF by) {
+        zooms_.Change(ZoomOf(box), [by](PictureZoom& zoom) { zoom.Pan(by); });
         ShowZoom();
     });
 }
@@ -139,38 +144,54 @@ void ZoomTools::OnSourceShown() {
         feed_.Drop();
         return;
     }
-    const bool fitted = zoom_.Fit();
-    zoom_.SetPicture(from_->Picture());
-    if (zoom_.Fit() != fitted) {
+    if (to_->Empty()) {  // until there is one it counts as large as the photo
+        SetPicture(zooms_.result, from_->Picture());
+    }
+    SetPicture(zooms_.photo, from_->Picture());
+    to_->update();  // it may stand in for the other
+}
+
+// One of another size is shown whole, and the other with it.
+void ZoomTools::SetPicture(PictureZoom& zoom, QSize picture) {
+    const bool fitted = zoom.Fit();
+    zoom.SetPicture(picture);
+    if (zoom.Fit() != fitted) {
         ShowAll();
     } else {
-        bar_->Show(zoom_);
+        bar_->Show(ZoomOf(Main()));
     }
-    to_->update();  // it may stand in for the other
 }
 
 // An emptied box is also reported before another photo is loaded.
 void ZoomTools::OnResultShown() {
     if (to_->Empty()) {
         feed_.Drop();
-    } else if (!zoom_.Fit()) {
+        return;
+    }
+    SetPicture(zooms_.result, to_->Picture());
+    if (!zooms_.result.Fit()) {
         feed_.Renew();
     }
 }
 
 void ZoomTools::OnRoomChanged() {
-    const bool fitted = zoom_.Fit();
+    const bool fitted = AllShown();
     FollowZoom();
-    zoom_.SetView(Main()->View());
-    if (zoom_.Fit() != fitted) {
+    SetView();
+    if (AllShown() != fitted) {
         ShowAll();
     } else {
         ShowZoom();
     }
 }
 
+void ZoomTools::SetView() {
+    zooms_.photo.SetView(Main()->View());
+    zooms_.result.SetView(Main()->View());
+}
+
 RegionScheduler::Wish ZoomTools::Wish() const {
-    if (zoom_.Fit() || to_->Empty() || to_->isHidden()) {
+    if (zooms_.result.Fit() || to_->Empty() || to_->isHidden()) {
         return {};
     }
     const ImageRecord& drawn = view_.Drawn();
@@ -178,8 +199,8 @@ RegionScheduler::Wish ZoomTools::Wish() const {
 }
 
 RowSpan ZoomTools::VisibleRows() const {
-    const QRectF seen = zoom_.Visible();
-    const int height = from_->Picture().height();
+    const QRectF seen = zooms_.result.Visible();
+    const int height = to_->Picture().height();
     return {height - static_cast<int>(std::ceil(seen.bottom())),
             height - 1 - static_cast<int>(std::floor(seen.top()))};
 }
@@ -188,13 +209,11 @@ void ZoomTools::ZoomTo(const PictureBox* box, QPointF point, double scale) {
     if (from_->Empty() || !Follows(box)) {
         return;
     }
-    zoom_.SetView(Main()->View());
-    zoom_.Show(scale, box->ToWidget().inverted().map(point), box->ViewPoint(point));
-    if (zoom_.Fit()) {
-        ShowAll();
-    } else {
-        ShowZoom();
-    }
+    SetView();
+    const QPointF place = box->ToWidget().inverted().map(point);
+    zooms_.Change(ZoomOf(box),
+                  [&](PictureZoom& zoom) { zoom.Show(scale, place, box->ViewPoint(point)); });
+    ShowZoom();
 }
 
 void ZoomTools::ZoomMiddle(double scale) {
@@ -202,20 +221,21 @@ void ZoomTools::ZoomMiddle(double scale) {
 }
 
 void ZoomTools::Toggle(const PictureBox* box, QPointF point) {
-    ZoomTo(box, point, zoom_.Fit() ? 1.0 : 0.0);
+    ZoomTo(box, point, ZoomOf(box).Fit() ? 1.0 : 0.0);
 }
 
 void ZoomTools::ShowAll() {
-    zoom_.ShowAll();
-    feed_.Drop();
+    zooms_.ShowAll();
     ShowZoom();
 }
 
 void ZoomTools::ShowZoom() {
-    bar_->Show(zoom_);
+    bar_->Show(ZoomOf(Main()));
     from_->update();
     to_->update();
-    if (!zoom_.Fit()) {
+    if (zooms_.result.Fit()) {
+        feed_.Drop();
+    } else {
         feed_.Wake();
     }
 }

@@ -14,7 +14,7 @@
 #include "app/tools/view/zoom_bar.h"
 #include "app/view/window_view.h"
 #include "app/workspace/workspace.h"
-#include "pipeline/photos/picture_zoom.h"
+#include "pipeline/photos/zoom_pair.h"
 
 namespace varnel {
 
@@ -33,12 +33,18 @@ class ZoomTools : public QObject {
     void OnResultShown();
     void OnRoomChanged();
     void FollowZoom();
+    void SetPicture(PictureZoom& zoom, QSize picture);
+    void SetView();
+    bool AllShown() const { return zooms_.photo.Fit() && zooms_.result.Fit(); }
 
     const Bitmap* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
     RegionScheduler::Wish Wish() const;
     RowSpan VisibleRows() const;
     PictureBox* Main() const { return parts_.pictures->Main(); }
     bool Follows(const PictureBox* box) const;
+    PictureZoom& ZoomOf(const PictureBox* box) {
+        return box == to_ && !to_->StoodInFor() ? zooms_.result : zooms_.photo;
+    }
     // Makes the scale so, the point of the box's picture staying where it is on the screen.
     void ZoomTo(const PictureBox* box, QPointF point, double scale);
     void ZoomMiddle(double scale);
@@ -54,7 +60,7 @@ class ZoomTools : public QObject {
     const WorkingState& state_;
     PictureBox* from_;
     PictureBox* to_;
-    PictureZoom zoom_;
+    ZoomPair zooms_;
     RegionScheduler feed_;
     PictureLines lines_;
     ZoomBar* bar_ = nullptr;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "pipeline/photos/picture_zoom.h"
+#include "pipeline/photos/zoom_pair.h"
 
 #include <gtest/gtest.h>
 
@@ -91,6 +91,26 @@ TEST(PictureZoom, AnotherSizeIsShownWholeAndSmallPicturesFillTheView) {
     zoom.Show(0.9, {}, {});
     EXPECT_TRUE(zoom.Fit());
     EXPECT_DOUBLE_EQ(zoom.Largest(), zoom.FitScale());
+}
+
+TEST(ZoomPair, BothShowTheSameShareAtOneScale) {
+    ZoomPair zooms;
+    for (PictureZoom* const zoom : {&zooms.photo, &zooms.result}) {
+        zoom->SetView({300, 200});
+    }
+    zooms.photo.SetPicture({6000, 4000});
+    zooms.result.SetPicture({2000, 8000});
+    zooms.Change(zooms.result, [](PictureZoom& zoom) { zoom.Show(0.5, {500, 6000}, {150, 100}); });
+    EXPECT_EQ(zooms.photo.Centre(), QPointF(1500, 3000));
+    EXPECT_DOUBLE_EQ(zooms.photo.Scale(), 0.5);
+    zooms.Change(zooms.photo, [](PictureZoom& zoom) { zoom.Pan({-600, 0}); });
+    EXPECT_EQ(zooms.result.Centre(), QPointF(900, 6000));
+    // The one is larger than its view at this scale, the other is not.
+    zooms.Change(zooms.result, [](PictureZoom& zoom) { zoom.Show(0.04, {}, {}); });
+    EXPECT_FALSE(zooms.result.Fit());
+    EXPECT_TRUE(zooms.photo.Fit());
+    zooms.ShowAll();
+    EXPECT_TRUE(zooms.result.Fit());
 }
 
 }  // namespace

@@ -33,17 +33,19 @@ struct Case {
     Projection projection;
     PixelSize photo;
     float rotateX, rotateY, offset;
+    PixelSize size{};  // of the result; 0: as the photo
+    float crop = 0.0F;
 };
 
 BitmapHandle OnScreen(const Case& c, const ImageRecord& image, const Bitmap& photo,
                       PixelSize shown) {
     SerialRunner serial;
-    const ScreenPlan plan = ScreenPlanFor(photo.Size(), shown);
+    const ScreenPlan plan = ScreenPlanFor(image, photo.Size(), shown);
     EXPECT_TRUE(plan.Reduces());
     const BitmapHandle reduced = NewBitmap(plan.source);
     AverageAreas(photo, ReducedPlace(image, plan), *reduced, serial);
     RegionRenderer rows;
-    rows.Start(c.projection, image, reduced.get(), DrawnWish(plan));
+    rows.Start(c.projection, image, reduced.get(), DrawnWish(image, plan));
     rows.DrawSome({0, plan.drawn.height - 1}, std::chrono::hours(1));
     BitmapHandle picture = NewBitmap(shown);
     AverageAreas(*rows.Result(), ShownPlace(image, plan, shown), *picture, serial);
@@ -58,17 +60,28 @@ TEST(ScreenRender, IsAsSharpAsTheSavedPictureReduced) {
         {Projection::Varnel, {1500, 1000}, 0.0F, 0.0F, 9.0F},
         {Projection::Equidistance, {1500, 1000}, 0.0F, 0.0F, 0.0F},
         {Projection::Horizon, {1500, 1000}, 0.0F, 0.0F, 0.0F},
+        {Projection::Rectilinear, {1500, 1000}, 20.0F, -15.0F, 13.0F, {2000, 900}},
+        {Projection::Rectilinear, {1500, 1000}, 5.0F, 8.0F, -7.0F, {}, 0.7F},
+        {Projection::Varnel, {1500, 1000}, 0.0F, 0.0F, 9.0F, {900, 900}},
+        {Projection::Varnel, {1500, 1000}, 0.0F, 0.0F, 9.0F, {1800, 1200}, 0.75F},
+        {Projection::Stereographic, {1500, 1000}, 0.0F, 30.0F, 9.0F, {1400, 1400}, 0.75F},
     };
     for (const Case& c : cases) {
         ImageRecord image = testing::FisheyeRecord();
         image.Landscape = c.photo.width >= c.photo.height;
+        image.Projection = static_cast<std::int16_t>(c.projection);
         image.RotateX = c.rotateX;
         image.RotateY = c.rotateY;
         image.OfsetX = image.OfsetY = c.offset;
+        image.OutputWidth = c.size.width;
+        image.OutputHeight = c.size.height;
+        image.CropLeft = image.CropTop = c.crop / 7.0F;
+        image.CropWidth = image.CropHeight = c.crop;
         Bitmaps bitmaps;
         bitmaps.FullSourceBitmap = Textured(c.photo);
         const Bitmap& photo = *bitmaps.FullSourceBitmap;
-        const PixelSize shown{c.photo.width / 4, c.photo.height / 4};
+        const PixelSize result = ResultSizeOf(image, c.photo);
+        const PixelSize shown{result.width / 4, result.height / 4};
         const BitmapHandle seen = OnScreen(c, image, photo, shown);
         SilentProgress silent;
         RenderContext context{bitmaps};
@@ -77,11 +90,12 @@ TEST(ScreenRender, IsAsSharpAsTheSavedPictureReduced) {
         const BitmapHandle saved = NewBitmap(shown);
         AverageAreas(
             *bitmaps.ResultBitmap,
-            {{0.0, 1.0 * c.photo.width / shown.width}, {0.0, 1.0 * c.photo.height / shown.height}},
+            {{0.0, 1.0 * result.width / shown.width}, {0.0, 1.0 * result.height / shown.height}},
             *saved, serial);
         // Photos reach more: such texture is rare. Half a pixel of the screen aside gives 25 dB.
         EXPECT_GT(testing::Likeness(*seen, *saved), 35.0)
-            << static_cast<int>(c.projection) << " " << c.offset;
+            << static_cast<int>(c.projection) << " " << c.offset << " " << c.size.width << " "
+            << c.crop;
     }
 }
 

@@ -8,32 +8,13 @@
 #include <cmath>
 
 #include "cli/options/option_values.h"
+#include "pipeline/output/frame_text.h"
 #include "remap/projection/record_maps.h"
 #include "state/adjustments/outside_text.h"
 
 namespace varnel {
 
 namespace {
-
-std::optional<int> SideOf(const QString& text) {
-    bool isWhole = false;
-    const int side = text.toInt(&isWhole);
-    return isWhole && side >= 1 && side <= largestResultSide ? std::optional(side) : std::nullopt;
-}
-
-// Width by height, between 1:100 and 100:1.
-std::optional<double> ShapeOf(const QString& text) {
-    constexpr double most = 100.0;
-    const QStringList sides = text.split(u':');
-    bool hasWidth = false;
-    bool hasHeight = false;
-    const double width = sides.value(0).toDouble(&hasWidth);
-    const double height = sides.value(1).toDouble(&hasHeight);
-    const double shape = width / height;
-    const bool isGood = sides.size() == 2 && hasWidth && hasHeight && width > 0.0 && height > 0.0 &&
-                        shape >= 1.0 / most && shape <= most;
-    return isGood ? std::optional(shape) : std::nullopt;
-}
 
 // A number, or one with % behind it as a hundredth; not a number for any other text.
 double PartOf(QString text) {
@@ -71,24 +52,16 @@ CropParts PartsOf(const QString& text) {
 }  // namespace
 
 void TakeSize(const QString& text, FrameWish& wish) {
-    if (text == u"centre" || text == u"center") {
-        wish.centre = true;
-        return;
-    }
-    const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
-    const std::optional<int> width = SideOf(sides.value(0));
-    const std::optional<int> height = SideOf(sides.value(1));
-    if (!width || sides.size() > 2 || (sides.size() == 2 && !height)) {
+    if (!TakeSizeText(text, wish)) {
         throw UsageError{QStringLiteral("--size needs WIDTHxHEIGHT, WIDTH or centre, 1 to %1 "
                                         "pixels a side, not \"%2\"; for example --size 4000x3000")
                              .arg(largestResultSide)
                              .arg(text)};
     }
-    wish.size = {*width, height.value_or(0)};
 }
 
 double AspectOf(const QString& text) {
-    if (const auto shape = ShapeOf(text)) {
+    if (const auto shape = ShapeFromText(text)) {
         return *shape;
     }
     throw UsageError{
@@ -104,7 +77,7 @@ void TakeCrop(const QString& text, FrameWish& wish) {
         wish.crop = PartsOf(text);
         return;
     }
-    const std::optional<double> shape = ShapeOf(text.section(u':', 1));
+    const std::optional<double> shape = ShapeFromText(text.section(u':', 1));
     if (!shape) {
         throw UsageError{
             QStringLiteral("--crop clean:W:H needs a shape, not \"%1\"; for example --crop "

@@ -13,6 +13,7 @@
 
 #include "app/panels/named_button.h"
 #include "app/panels/spacing.h"
+#include "pipeline/dialogs/elided_label.h"
 #include "state/dialogs/wheel_guard.h"
 
 namespace varnel {
@@ -195,9 +196,13 @@ SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
     grid->setSpacing(rowGap);
-    grid->addWidget(saveAs_, 0, 0, 1, 2);
-    grid->addWidget(addToQueue_, 1, 0);
-    grid->addWidget(processQueue_, 1, 1);
+    size_ = new ElidedLabel(this);
+    size_->setObjectName(QStringLiteral("LabelSaveSize"));
+    size_->setToolTip(tr("What the saved picture usually takes in the file type of the defaults"));
+    grid->addWidget(size_, 0, 0, 1, 2);
+    grid->addWidget(saveAs_, 1, 0, 1, 2);
+    grid->addWidget(addToQueue_, 2, 0);
+    grid->addWidget(processQueue_, 2, 1);
     ShowQueue(0);
     processQueue_->hide();
 }

@@ -8,6 +8,7 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPushButton>
 #include <vector>
 
@@ -82,6 +83,8 @@ class SavePanel : public QGroupBox {
     explicit SavePanel(QWidget* parent = nullptr);
     // 0 shows the plain caption; the button that opens the batch appears with the first entry.
     void ShowQueue(int length);
+    // Of the current result: "6000 x 4000 pixels, about 9 MB"; empty without one.
+    void ShowSize(const QString& size) { size_->setText(size); }
     QPushButton* SaveAs() const { return saveAs_; }
     QPushButton* AddToQueue() const { return addToQueue_; }
     QPushButton* ProcessQueue() const { return processQueue_; }
@@ -90,6 +93,7 @@ class SavePanel : public QGroupBox {
     QPushButton* saveAs_;
     QPushButton* addToQueue_;
     QPushButton* processQueue_;
+    QLabel* size_;
 };
 
 }  // namespace varnel

@@ -26,7 +26,10 @@ FrameTools::FrameTools(const WindowParts& parts, WindowView& view, Workspace& wo
       workspace_(workspace),
       state_(state),
       frameOverlay_(*this),
-      map_([this] { return magnification_->isChecked() ? Fresh() : nullptr; }),
+      map_([this] {
+          return magnification_->isChecked() && !workspace_.model.showsWholeFrame ? Fresh()
+                                                                                  : nullptr;
+      }),
       frame_(AddEntry("CmdViewFrame", tr("&Frame on the photo"), Qt::CTRL | Qt::Key_F)),
       magnification_(
           AddEntry("CmdViewMagnification", tr("&Magnification map"), Qt::CTRL | Qt::Key_M)),
@@ -64,6 +67,7 @@ void FrameTools::FollowControls() {
     }
     connect(parts_.adjustments->Projections(), &QButtonGroup::idToggled, this, soon);
     connect(&view_, &WindowView::ResultShown, this, soon);
+    connect(&workspace_.model.steps, &ListSteps::Changed, this, soon);  // a crop shows no result
 }
 
 std::optional<ImageRecord> FrameTools::LiveRecord() const {

@@ -50,12 +50,14 @@ void MakeSide(QWidget* side, WindowParts& parts) {
     scroll->setFocusPolicy(Qt::NoFocus);
     parts.equipment = new EquipmentPanel(controls);
     parts.adjustments = new AdjustmentPanel(controls);
+    parts.size = new SizePanel(controls);
     parts.save = new SavePanel(side);
     auto* const inner = new QVBoxLayout(controls);
     inner->setContentsMargins(columnMargin, groupGap, columnMargin, 0);
     inner->setSpacing(groupGap);
     inner->addWidget(parts.equipment);
     inner->addWidget(parts.adjustments);
+    inner->addWidget(parts.size);
     inner->addStretch();
     scroll->setWidget(controls);
     scroll->setWidgetResizable(true);

@@ -18,6 +18,7 @@
 #include "app/panels/adjustment_panel.h"
 #include "app/panels/gear_offer_row.h"
 #include "app/panels/side_panels.h"
+#include "app/panels/size_panel.h"
 #include "app/picture/picture_area.h"
 
 namespace varnel {
@@ -38,6 +39,7 @@ struct WindowParts {
     AdjustmentPanel* adjustments = nullptr;
     EquipmentPanel* equipment = nullptr;
     ImageListPanel* list = nullptr;
+    SizePanel* size = nullptr;
     SavePanel* save = nullptr;
     GearOfferRow* offer = nullptr;
     PictureArea* pictures = nullptr;

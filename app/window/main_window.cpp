@@ -19,6 +19,8 @@
 #include "app/tools/column/photo_tools.h"
 #include "app/tools/column/reset_tools.h"
 #include "app/tools/column/save_tools.h"
+#include "app/tools/column/size_tools.h"
+#include "app/tools/crop/crop_tools.h"
 #include "app/tools/empty_state.h"
 #include "app/tools/frame_tools.h"
 #include "app/tools/gear/photo_gear_tools.h"
@@ -93,6 +95,7 @@ void MDIForm1::MakeTools() {
     new SheetTools(parts_, view_, workspace_, state_, this);
     new FrameTools(parts_, view_, workspace_, state_, this);
     new LevelTools(this, parts_, view_, workspace_, state_);
+    new CropTools(this, parts_, view_, workspace_);
     new StraightenTools(this, view_, workspace_, state_, ports_);
     new CircleTools(this, parts_, view_, workspace_, state_, store_);
     new PictureKeys(this, parts_);
@@ -105,6 +108,7 @@ void MDIForm1::MakeTools() {
     new ResetTools(parts_, view_, workspace_, this);
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
+    new SizeTools(this, parts_, view_, workspace_);
     new SaveTools(this, parts_, workspace_, *list, ports_, batch_);
     new BatchTools(this, parts_, view_, batch_);
     new PictureSizeTools(this, parts_, view_, workspace_, state_, ports_.dialogs);

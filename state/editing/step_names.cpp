@@ -35,6 +35,9 @@ constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
                            QT_TRANSLATE_NOOP("Steps", "preset"),
                            QT_TRANSLATE_NOOP("Steps", "open project"),
                            QT_TRANSLATE_NOOP("Steps", "open the list again"),
+                           QT_TRANSLATE_NOOP("Steps", "size"),
+                           QT_TRANSLATE_NOOP("Steps", "crop"),
+                           QT_TRANSLATE_NOOP("Steps", "outside"),
                            QT_TRANSLATE_NOOP("Steps", "change")};
 static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);
 

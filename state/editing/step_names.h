@@ -38,6 +38,9 @@ enum class StepKind {
     Preset,
     OpenProject,
     RestoreList,
+    Size,
+    Crop,
+    Outside,
     Other
 };
 

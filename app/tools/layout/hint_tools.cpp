@@ -12,12 +12,14 @@ HintTools::HintTools(QMainWindow* window, const WindowParts& parts, const Worksp
       parts_(parts),
       model_(model),
       level_(window->findChild<QAction*>(QStringLiteral("CmdToolsLevel"))),
-      circle_(window->findChild<QAction*>(QStringLiteral("CmdViewCircle"))) {
+      circle_(window->findChild<QAction*>(QStringLiteral("CmdViewCircle"))),
+      crop_(window->findChild<QAction*>(QStringLiteral("CmdToolsCrop"))) {
     refresh_.setSingleShot(true);
     connect(&refresh_, &QTimer::timeout, this, &HintTools::Refresh);
     const auto soon = [this] { refresh_.start(0); };
     connect(level_, &QAction::toggled, this, soon);
     connect(circle_, &QAction::toggled, this, soon);
+    connect(crop_, &QAction::toggled, this, soon);
     connect(&model_.controls, &ControlModel::ProjectionChosen, this, soon);
     connect(&model_.controls, &ControlModel::Shown, this, soon);
     connect(&model_.list, &ImageSelection::Refilled, this, soon);
@@ -37,6 +39,9 @@ QString HintTools::Hint() const {
     }
     if (circle_->isChecked()) {
         return tr("Drag the circle's rim or its middle on the photo; Escape leaves");
+    }
+    if (crop_->isChecked()) {
+        return tr("Drag the crop, its sides or its corners on the result; Escape leaves");
     }
     const bool turns = Reads(model_.controls.ChosenProjection(), SliderId::Y);
     return turns && model_.list.Current() != nullptr

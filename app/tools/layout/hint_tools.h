@@ -29,6 +29,7 @@ class HintTools : public QObject {
     const WorkspaceModel& model_;
     QAction* level_;
     QAction* circle_;
+    QAction* crop_;
     QTimer refresh_{this};  // fires when the input at hand is handled
 };
 

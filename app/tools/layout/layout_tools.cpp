@@ -3,6 +3,8 @@
 
 #include "app/tools/layout/layout_tools.h"
 
+#include <vector>
+
 #include "app/tools/layout/kept_choice.h"
 #include "state/settings/setting_names.h"
 
@@ -64,9 +66,13 @@ void LayoutTools::OrderTabs(bool inColumn) const {
 
 // What is seldom used is folded until it is opened.
 void LayoutTools::KeepFolds() {
-    for (FoldGroup* const fold : parts_.adjustments->Folds()) {
+    std::vector<FoldGroup*> folds(parts_.adjustments->Folds().begin(),
+                                  parts_.adjustments->Folds().end());
+    folds.push_back(parts_.size);
+    for (FoldGroup* const fold : folds) {
         const QString key = QStringLiteral("Folded") + fold->objectName();
-        const bool rare = fold->objectName() == QStringLiteral("FramePreview");
+        const bool rare =
+            fold == parts_.size || fold->objectName() == QStringLiteral("FramePreview");
         const QString yes = QStringLiteral("1");
         const QString no = QStringLiteral("0");
         fold->SetFolded(store_.Get(setting::Window, key, rare ? yes : no) == yes);

@@ -2966,6 +2966,18 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>preset</source>
         <translation>Voreinstellung</translation>
     </message>
+    <message>
+        <source>size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>crop</source>
+        <translation>Zuschnitt</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>Außerhalb</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3386,6 +3398,72 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source> (as it is)</source>
         <translation> (wie jetzt)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CropBar</name>
+    <message>
+        <source>Drag the corners, the sides or the crop itself; arrow keys move it, with Shift they widen it, plus and minus do on all sides</source>
+        <translation>Ziehen Sie an den Ecken, den Seiten oder am Zuschnitt selbst; die Pfeiltasten verschieben ihn, mit Umschalt machen sie ihn breiter, Plus und Minus nach allen Seiten</translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation>Sauber</translation>
+    </message>
+    <message>
+        <source>The largest part in which the photo is everywhere</source>
+        <translation>Der größte Teil, in dem überall das Foto ist</translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation>Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>Cuts nothing off</source>
+        <translation>Schneidet nichts ab</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Shows the result as it is saved</source>
+        <translation>Zeigt das Ergebnis, wie es gespeichert wird</translation>
+    </message>
+    <message>
+        <source>Shape of the crop</source>
+        <translation>Form des Zuschnitts</translation>
+    </message>
+    <message>
+        <source>Width and height of the crop</source>
+        <translation>Breite und Höhe des Zuschnitts</translation>
+    </message>
+    <message>
+        <source>Any shape</source>
+        <translation>Jede Form</translation>
+    </message>
+    <message>
+        <source>As the frame</source>
+        <translation>Wie das Bild</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CropTools</name>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>&amp;Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Looking for the largest clean crop ...</source>
+        <translation>Der größte saubere Zuschnitt wird gesucht ...</translation>
+    </message>
+    <message>
+        <source>No part of the result is without outside.</source>
+        <translation>Kein Teil des Ergebnisses ist ohne Außerhalb.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 of %3 x %4 pixels</source>
+        <translation>%1 x %2 von %3 x %4 Pixeln</translation>
     </message>
 </context>
 <context>
@@ -4038,6 +4116,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>drag: turn   wheel: angle   Shift+drag: roll</source>
         <translation>Ziehen: drehen   Rad: Bildwinkel   Umschalt+Ziehen: rollen</translation>
     </message>
+    <message>
+        <source>Drag the crop, its sides or its corners on the result; Escape leaves</source>
+        <translation>Ziehen Sie am Zuschnitt, an seinen Seiten oder Ecken auf dem Ergebnis; Esc verlässt ihn</translation>
+    </message>
 </context>
 <context>
     <name>varnel::ImageListPanel</name>
@@ -4410,6 +4492,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Save / batch process </source>
         <translation>Speichern / Stapel </translation>
     </message>
+    <message>
+        <source>What the saved picture usually takes in the file type of the defaults</source>
+        <translation>Was das gespeicherte Bild im Dateityp der Voreinstellungen gewöhnlich braucht</translation>
+    </message>
 </context>
 <context>
     <name>varnel::SaveTools</name>
@@ -4442,6 +4528,80 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Contact sheet</source>
         <translation>Kontakt&amp;bogen</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SizePanel</name>
+    <message>
+        <source>Size and crop</source>
+        <translation>Größe und Zuschnitt</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>As large as the photo, or another size or shape: type a width (4000), both sides (4000x3000) or a shape (16:9)</source>
+        <translation>So groß wie das Foto, oder eine andere Größe oder Form: Tippen Sie eine Breite (4000), beide Seiten (4000x3000) oder eine Form (16:9)</translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation>Wie das Foto</translation>
+    </message>
+    <message>
+        <source>Square, 1:1</source>
+        <translation>Quadrat, 1:1</translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation>Außerhalb</translation>
+    </message>
+    <message>
+        <source>What the result has where the photo shows nothing; type a colour as #rrggbb. Transparent needs PNG or TIFF.</source>
+        <translation>Was das Ergebnis hat, wo das Foto nichts zeigt; tippen Sie eine Farbe als #rrggbb. Durchsichtig braucht PNG oder TIFF.</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Durchsichtig</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Crop ...</source>
+        <translation>Zuschneiden ...</translation>
+    </message>
+    <message>
+        <source>Shows all of the result and what is cut out of it</source>
+        <translation>Zeigt das ganze Ergebnis und was daraus geschnitten wird</translation>
+    </message>
+    <message>
+        <source>As sharp as the photo&apos;s middle</source>
+        <translation>So scharf wie die Mitte des Fotos</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SizeTools</name>
+    <message>
+        <source>No size: %1. A width (4000), both sides (4000x3000) and a shape (16:9) are.</source>
+        <translation>Keine Größe: %1. Eine Breite (4000), beide Seiten (4000x3000) und eine Form (16:9) sind welche.</translation>
+    </message>
+    <message>
+        <source>No colour: %1. One like #ff8000 is.</source>
+        <translation>Keine Farbe: %1. Eine wie #ff8000 ist eine.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 as %4</source>
+        <translation>%1 x %2 Pixel, %3 als %4</translation>
     </message>
 </context>
 <context>

@@ -2966,6 +2966,18 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>preset</source>
         <translation>préréglage</translation>
     </message>
+    <message>
+        <source>size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3386,6 +3398,72 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source> (as it is)</source>
         <translation> (telle quelle)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CropBar</name>
+    <message>
+        <source>Drag the corners, the sides or the crop itself; arrow keys move it, with Shift they widen it, plus and minus do on all sides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The largest part in which the photo is everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cuts nothing off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the result as it is saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shape of the crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width and height of the crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Any shape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::CropTools</name>
+    <message>
+        <source>&amp;Crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for the largest clean crop ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No part of the result is without outside.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 x %2 of %3 x %4 pixels</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4038,6 +4116,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>drag: turn   wheel: angle   Shift+drag: roll</source>
         <translation>glisser&#xa0;: tourner   molette&#xa0;: angle   Maj+glisser&#xa0;: roulis</translation>
     </message>
+    <message>
+        <source>Drag the crop, its sides or its corners on the result; Escape leaves</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>varnel::ImageListPanel</name>
@@ -4410,6 +4492,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Save / batch process </source>
         <translation>Enregistrer / file d’attente </translation>
     </message>
+    <message>
+        <source>What the saved picture usually takes in the file type of the defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>varnel::SaveTools</name>
@@ -4442,6 +4528,80 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>&amp;Contact sheet</source>
         <translation>&amp;Planche-contact</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SizePanel</name>
+    <message>
+        <source>Size and crop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As large as the photo, or another size or shape: type a width (4000), both sides (4000x3000) or a shape (16:9)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the photo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square, 1:1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the result has where the photo shows nothing; type a colour as #rrggbb. Transparent needs PNG or TIFF.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crop ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all of the result and what is cut out of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As sharp as the photo&apos;s middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>varnel::SizeTools</name>
+    <message>
+        <source>No size: %1. A width (4000), both sides (4000x3000) and a shape (16:9) are.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No colour: %1. One like #ff8000 is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3 as %4</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -6,7 +6,7 @@
 // and std::bad_alloc; the rest throws nothing.
 #pragma once
 
-#include <array>
+#include <memory>
 
 #include "remap/projection/maps/sphere_map.h"
 #include "remap/projection/record_maps.h"

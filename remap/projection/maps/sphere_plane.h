@@ -5,7 +5,6 @@
 // the direction that it shows. Throws std::bad_alloc only.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 
 #include "remap/projection/geometry.h"

@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -15,9 +14,7 @@
 
 namespace varnel {
 
-AdjustmentPanel::AdjustmentPanel(QWidget* parent)
-    : QWidget(parent), projections_(new QButtonGroup(this)) {
-    projections_->setObjectName(QStringLiteral("OptionRemap"));
+AdjustmentPanel::AdjustmentPanel(QWidget* parent) : QWidget(parent) {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(groupGap);
@@ -37,8 +34,13 @@ QGroupBox* AdjustmentPanel::MakeRemap() {
     column->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
     column->setSpacing(rowGap);
     column->addWidget(MakeProjections(remap));
-    AddRow(column, SliderId::AovOutput);
-    AddRow(column, SliderId::Effect);
+    choices_ = new ChoiceLine(remap);
+    column->addWidget(choices_);
+    for (const SliderId id :
+         {SliderId::AovOutput, SliderId::Effect, SliderId::PaniniD, SliderId::PaniniSqueeze,
+          SliderId::UnrollStart, SliderId::UnrollFrom, SliderId::UnrollTo}) {
+        AddRow(column, id);
+    }
     QLabel* const rotate = MakeGroupLabel("LabelRotate1", SliderId::X);
     column->addWidget(rotate);
     groups_.emplace_back(rotate, SliderId::X);
@@ -68,15 +70,7 @@ QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
     auto* const grid = new QGridLayout(box);
     grid->setContentsMargins({});
     grid->setSpacing(rowGap);
-    for (const Projection projection : AllProjections()) {
-        const int index = static_cast<int>(projection);
-        auto* const button = new QRadioButton(ToText(projection), box);
-        button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
-        button->setToolTip(TipOf(projection));
-        projections_->addButton(button, index);
-        grid->addWidget(button, index / 2, index % 2);
-    }
-    projections_->button(0)->setChecked(true);
+    projections_ = new ProjectionChooser(grid, box);
     applyToAll_ = new QPushButton(tr("Apply to all"), box);
     applyToAll_->setObjectName(QStringLiteral("CmdApplyAll2"));
     applyToAll_->setToolTip(tr("Gives every photo in the list these settings and this gear"));
@@ -148,9 +142,13 @@ void AdjustmentPanel::AlignNumbers() {
     for (const SliderRow* const row : rows_) {
         const SliderRowData& facts = row->Data();
         auto* const caption = row->findChild<QLabel*>(QString::fromLatin1(facts.valueLabel));
-        for (const double end : {facts.minimum + 0.1, facts.maximum - 0.1}) {
-            const int room = caption->fontMetrics().horizontalAdvance(SliderCaption(facts, end));
-            caption->setMinimumWidth(std::max(caption->minimumWidth(), room));
+        for (const Projection projection : AllProjections()) {
+            const ControlRange range = RangeOf(facts.id, projection);
+            for (const double end : {range.minimum + 0.1, range.maximum - 0.1}) {
+                const int room =
+                    caption->fontMetrics().horizontalAdvance(SliderCaption(facts, end));
+                caption->setMinimumWidth(std::max(caption->minimumWidth(), room));
+            }
         }
     }
 }
@@ -172,8 +170,8 @@ SliderRow* AdjustmentPanel::Row(SliderId id) const {
 
 void AdjustmentPanel::Show(const ControlValues& values) {
     const Projection projection = ProjectionFromIndex(values.projection);
-    projections_->button(static_cast<int>(projection))->setChecked(true);
     ShowFor(projection);
+    choices_->Show(values);
     for (SliderRow* const row : rows_) {
         if (const std::optional<double> value = ValueOf(row->Data().id, values)) {
             row->Show(*value);
@@ -182,6 +180,8 @@ void AdjustmentPanel::Show(const ControlValues& values) {
 }
 
 void AdjustmentPanel::ShowFor(Projection projection) {
+    projections_->Show(projection);
+    choices_->ShowFor(projection);
     for (SliderRow* const row : rows_) {
         row->SetRange(RangeOf(row->Data().id, projection), ReachOf(row->Data().id, projection));
         row->SetShown(ShownWith(row->Data(), projection));

@@ -5,7 +5,6 @@
 // Throws nothing.
 #pragma once
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
@@ -13,7 +12,9 @@
 #include <utility>
 #include <vector>
 
+#include "app/panels/choice_line.h"
 #include "app/panels/fold_group.h"
+#include "app/panels/projection_chooser.h"
 #include "app/panels/reset_dot.h"
 #include "app/panels/slider_row.h"
 
@@ -27,9 +28,9 @@ class AdjustmentPanel : public QWidget {
     // Checks the projection's button, shows what belongs to it and sets every slider, without
     // signals of the rows.
     void Show(const ControlValues& values);
-    // Shows the sliders and labels of a projection and hides the others.
+    // Shows the sliders, labels and choices of a projection and hides the others.
     void ShowFor(Projection projection);
-    const std::array<SliderRow*, 8>& Rows() const { return rows_; }
+    const std::array<SliderRow*, sliderCount>& Rows() const { return rows_; }
     SliderRow* Row(SliderId id) const;
     ResetDot* Dot(SliderId id) const { return dots_[static_cast<std::size_t>(id)]; }
     QCheckBox* AutoPreview() const { return autoPreview_; }
@@ -37,7 +38,8 @@ class AdjustmentPanel : public QWidget {
     QPushButton* PreviewButton() const { return preview_; }
     QPushButton* ApplyToAll() const { return applyToAll_; }
     QPushButton* ResetPhoto() const { return resetPhoto_; }
-    QButtonGroup* Projections() const { return projections_; }
+    ProjectionChooser* Projections() const { return projections_; }
+    ChoiceLine* Choices() const { return choices_; }
     const std::array<FoldGroup*, 3>& Folds() const { return folds_; }
 
   private:
@@ -51,14 +53,15 @@ class AdjustmentPanel : public QWidget {
     void AlignNumbers();
     QLabel* MakeGroupLabel(const char* name, SliderId first);
 
-    QButtonGroup* projections_;
+    ProjectionChooser* projections_ = nullptr;
+    ChoiceLine* choices_ = nullptr;
     QCheckBox* autoPreview_ = nullptr;
     QCheckBox* antialiased_ = nullptr;
     QPushButton* preview_ = nullptr;
     QPushButton* applyToAll_ = nullptr;
     QPushButton* resetPhoto_ = nullptr;
-    std::array<SliderRow*, 8> rows_{};
-    std::array<ResetDot*, 8> dots_{};  // by the sliders' numbers
+    std::array<SliderRow*, sliderCount> rows_{};
+    std::array<ResetDot*, sliderCount> dots_{};  // by the sliders' numbers
     std::array<FoldGroup*, 3> folds_{};
     // What stands around the rotation and shift sliders, each with its first slider.
     std::vector<std::pair<QWidget*, SliderId>> groups_;

@@ -19,9 +19,9 @@ namespace varnel {
 
 namespace {
 
-constexpr int columns = strengthsPerProjection;
-constexpr int margin = 8;  // logical pixels around and between the tiles
-constexpr int gap = 4;     // between a tile and its title
+constexpr int mostBeside = 4;  // projections in a row
+constexpr int margin = 8;      // logical pixels around and between the tiles
+constexpr int gap = 4;         // between a tile and its title
 constexpr QColor surround(72, 72, 72);
 constexpr QColor emptyTile(84, 84, 84);
 constexpr QColor markedFrame(255, 255, 255);
@@ -80,7 +80,8 @@ void ContactSheetBox::Drop() {
 
 void ContactSheetBox::Restart() {
     setGeometry(parentWidget()->rect());
-    const QSize room = CellSize() - QSize(0, fontMetrics().height() + gap);
+    columns_ = Columns();
+    const QSize room = CellSize(columns_) - QSize(0, fontMetrics().height() + gap);
     const auto side = [this](int logical) {
         return std::max(static_cast<int>(logical * devicePixelRatioF()), 1);
     };
@@ -116,17 +117,35 @@ void ContactSheetBox::Draw(std::size_t tile) {
     }
 }
 
-QSize ContactSheetBox::CellSize() const {
-    const int rows = static_cast<int>(tiles_.size()) / columns;
+QSize ContactSheetBox::CellSize(int columns) const {
+    const int rows = (static_cast<int>(tiles_.size()) + columns - 1) / columns;
     return {(width() - margin * (columns + 1)) / columns,
             rows == 0 ? 0 : (height() - margin * (rows + 1)) / rows};
 }
 
+// As many projections beside one another as make the pictures largest.
+int ContactSheetBox::Columns() const {
+    const PixelSize photo = photo_ == nullptr ? PixelSize{3, 2} : SizeOf(photo_.get());
+    int best = strengthsPerProjection;
+    double largest = 0.0;
+    for (int beside = 1; beside <= mostBeside; ++beside) {
+        const QSize cell = CellSize(beside * strengthsPerProjection);
+        const double across = static_cast<double>(cell.width()) / photo.width;
+        const double down =
+            static_cast<double>(cell.height() - fontMetrics().height() - gap) / photo.height;
+        if (const double size = std::min(across, down); size > largest) {
+            largest = size;
+            best = beside * strengthsPerProjection;
+        }
+    }
+    return best;
+}
+
 QRect ContactSheetBox::CellOf(std::size_t tile) const {
     const int n = static_cast<int>(tile);
-    const QSize cell = CellSize();
-    return {QPoint(margin + n % columns * (cell.width() + margin),
-                   margin + n / columns * (cell.height() + margin)),
+    const QSize cell = CellSize(columns_);
+    return {QPoint(margin + n % columns_ * (cell.width() + margin),
+                   margin + n / columns_ * (cell.height() + margin)),
             cell};
 }
 
@@ -163,7 +182,8 @@ void ContactSheetBox::PaintTile(QPainter& painter, std::size_t tile) const {
     }
     painter.setPen(tiles_[tile].isCurrent ? currentFrame : titleText);
     painter.drawText(QRect(cell.left(), cell.bottom() - line + 1, cell.width(), line),
-                     Qt::AlignCenter, title);
+                     Qt::AlignCenter,
+                     fontMetrics().elidedText(title, Qt::ElideMiddle, cell.width()));
 }
 
 void ContactSheetBox::paintEvent(QPaintEvent* /*event*/) {
@@ -206,9 +226,9 @@ void ContactSheetBox::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Right:
             return MoveTo(marked_ + 1);
         case Qt::Key_Up:
-            return MoveTo(marked_ - columns);
+            return MoveTo(marked_ - columns_);
         case Qt::Key_Down:
-            return MoveTo(marked_ + columns);
+            return MoveTo(marked_ + columns_);
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:

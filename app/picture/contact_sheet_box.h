@@ -48,7 +48,8 @@ class ContactSheetBox : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    QSize CellSize() const;
+    QSize CellSize(int columns) const;
+    int Columns() const;
     int TileAt(QPoint position) const;  // -1 for none
     void DrawNext();
     void Draw(std::size_t tile);
@@ -66,6 +67,7 @@ class ContactSheetBox : public QWidget {
     std::vector<ContactTile> tiles_;
     std::vector<QImage> pictures_;
     std::size_t next_ = 0;
+    int columns_ = strengthsPerProjection;
     int marked_ = 0;
     QPointer<QWidget> focusBefore_;
     QTimer idle_{this};

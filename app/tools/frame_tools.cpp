@@ -65,7 +65,9 @@ void FrameTools::FollowControls() {
     for (SliderRow* const row : parts_.adjustments->Rows()) {
         connect(row->Slider(), &QSlider::valueChanged, this, soon);
     }
-    connect(parts_.adjustments->Projections(), &QButtonGroup::idToggled, this, soon);
+    connect(&workspace_.model.controls, &ControlModel::ProjectionChosen, this, soon);
+    connect(&workspace_.model.controls, &ControlModel::ChoiceMade, this, soon);
+    connect(&workspace_.model.controls, &ControlModel::Shown, this, soon);
     connect(&view_, &WindowView::ResultShown, this, soon);
     connect(&workspace_.model.steps, &ListSteps::Changed, this, soon);  // a crop shows no result
 }

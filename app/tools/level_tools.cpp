@@ -86,10 +86,19 @@ LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView
     connect(leave_, &QShortcut::activated, this, &LevelTools::Leave);
 }
 
-void LevelTools::OnToggled(bool on) {
-    if (on && !InfoOf(workspace_.model.controls.ChosenProjection()).levels) {
+// Tells why not.
+bool LevelTools::MayLevel() {
+    const Projection projection = workspace_.model.controls.ChosenProjection();
+    const bool may = InfoOf(projection).levels;
+    if (!may) {
         view_.ShowStatus(
-            tr("Only Rectilinear can be levelled; the others do not turn the camera."));
+            tr("%1 cannot be levelled: it does not turn the camera.").arg(ToText(projection)));
+    }
+    return may;
+}
+
+void LevelTools::OnToggled(bool on) {
+    if (on && !MayLevel()) {
         Leave();
         return;
     }
@@ -112,9 +121,7 @@ void LevelTools::Level() {
         view_.Locked()) {
         return;
     }
-    if (!InfoOf(workspace_.model.controls.ChosenProjection()).levels) {
-        view_.ShowStatus(
-            tr("Only Rectilinear can be levelled; the others do not turn the camera."));
+    if (!MayLevel()) {
         return;
     }
     std::vector<PicturePoint> traced;

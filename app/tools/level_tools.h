@@ -26,6 +26,7 @@ class LevelTools : public QObject {
                Workspace& workspace, WorkingState& state);
 
   private:
+    bool MayLevel();
     void OnToggled(bool on);
     void Leave() { entry_->setChecked(false); }
     void Level();

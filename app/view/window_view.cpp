@@ -52,11 +52,6 @@ void WindowView::FollowList() {
 void WindowView::FollowControls() {
     AdjustmentPanel* const panel = parts_.adjustments;
     ControlModel& controls = model_.controls;
-    connect(panel->Projections(), &QButtonGroup::idToggled, this, [&controls](int id, bool on) {
-        if (on) {
-            controls.ChooseProjection(ProjectionFromIndex(id));
-        }
-    });
     connect(panel->AutoPreview(), &QCheckBox::toggled, &controls, &ControlModel::SetAutoPreview);
     connect(panel->Antialiased(), &QCheckBox::toggled, &controls, &ControlModel::SetAntialiased);
     for (SliderRow* const row : panel->Rows()) {
@@ -66,6 +61,9 @@ void WindowView::FollowControls() {
     connect(&controls, &ControlModel::ProjectionChosen, panel, &AdjustmentPanel::ShowFor);
     connect(&controls, &ControlModel::Shown, this,
             [this, panel] { panel->Show(model_.controls.Values()); });
+    connect(panel->Choices(), &ChoiceLine::Chosen, &controls, &ControlModel::Choose);
+    connect(&controls, &ControlModel::ChoiceMade, panel->Choices(),
+            qOverload<ChoiceId, int>(&ChoiceLine::Show));
     connect(&controls, &ControlModel::SliderSet, this,
             [panel](SliderId slider, double value) { panel->Row(slider)->Show(value); });
 }

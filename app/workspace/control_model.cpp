@@ -11,13 +11,8 @@ ControlModel::ControlModel() {
     for (const SliderRowData& row : SliderRows()) {
         SetValueOf(row.id, row.start, values_);
     }
+    values_.choices = ValuesFor(ImageRecord()).choices;
     filled_ = values_;
-}
-
-void ControlModel::Take(SliderId slider, double value) {
-    const ControlRange reach = ReachOf(slider, ChosenProjection());
-    const auto single = static_cast<float>(std::clamp<double>(value, reach.minimum, reach.maximum));
-    SetValueOf(slider, static_cast<double>(single), values_);
 }
 
 void ControlModel::Show(const ControlValues& values) {
@@ -27,6 +22,7 @@ void ControlModel::Show(const ControlValues& values) {
             SetValueOf(row.id, *value, values_);
         }
     }
+    values_.choices = values.choices;
     filled_ = values_;
     Q_EMIT Shown();
 }
@@ -38,22 +34,29 @@ void ControlModel::Fill(SliderId slider, double value) {
 }
 
 void ControlModel::Set(SliderId slider, double value) {
-    Take(slider, value);
+    const ControlRange reach = ReachOf(slider, ChosenProjection());
+    const auto single = static_cast<float>(std::clamp<double>(value, reach.minimum, reach.maximum));
+    SetValueOf(slider, static_cast<double>(single), values_);
     Q_EMIT SliderSet(slider, *ValueOf(slider, values_));
+}
+
+void ControlModel::Choose(ChoiceId choice, int value) {
+    values_.Choose(choice, value);
+    Q_EMIT ChoiceMade(choice, value);
 }
 
 void ControlModel::ChooseProjection(Projection projection) {
     if (projection == ChosenProjection()) {
         return;
     }
-    values_.projection = static_cast<int>(projection);
+    const ControlValues before = values_;
+    FitTo(projection, values_);
+    Q_EMIT ProjectionChosen(projection);
     for (const SliderRowData& row : SliderRows()) {
-        const ControlUse* const use = UseOf(projection, row.id);
-        if (use != nullptr && use->range) {
-            Take(row.id, *ValueOf(row.id, values_));
+        if (const auto value = ValueOf(row.id, values_); value != ValueOf(row.id, before)) {
+            Q_EMIT SliderSet(row.id, *value);
         }
     }
-    Q_EMIT ProjectionChosen(projection);
 }
 
 }  // namespace varnel

@@ -31,11 +31,12 @@ class ControlModel : public QObject {
     void Fill(SliderId slider, double value);
     // By the user; within the control's reach, in single precision as a record has it.
     void Set(SliderId slider, double value);
+    void Choose(ChoiceId choice, int value);
     // Writes what was changed since the controls were filled.
     void StoreInto(ImageRecord& image) const { StoreChanged(values_, filled_, image); }
     // The controls show what is in the records.
     void NoteStored() { filled_ = values_; }
-    // Its own ranges hold from then on.
+    // Its own ranges hold from then on; what it cannot show gives way.
     void ChooseProjection(Projection projection);
     void SetAutoPreview(bool on) { autoPreview_ = on; }
     void SetAntialiased(bool on) { antialiased_ = on; }
@@ -44,10 +45,9 @@ class ControlModel : public QObject {
     void Shown();
     void ProjectionChosen(varnel::Projection projection);
     void SliderSet(varnel::SliderId slider, double value);
+    void ChoiceMade(varnel::ChoiceId choice, int value);
 
   private:
-    void Take(SliderId slider, double value);
-
     ControlValues values_;
     ControlValues filled_;  // what the controls showed before anything was changed
     bool autoPreview_ = true;

@@ -24,18 +24,28 @@ struct MovedField {
     std::optional<float> floor = std::nullopt;
 };
 
+#define VARNEL_MOVED(name)                                               \
+    MovedField {                                                         \
+        QLatin1StringView(#name), &ImageRecord::name, &MorphValues::name \
+    }
 constexpr std::array movedFields{
-    MovedField{QLatin1StringView("OutputAOV"), &ImageRecord::OutputAOV, &MorphValues::OutputAOV},
+    VARNEL_MOVED(OutputAOV),
     MovedField{QLatin1StringView("EffectVarnel"), &ImageRecord::EffectVarnel, &MorphValues::effect,
                0.01F},
     MovedField{QLatin1StringView("EffectRectilinear"), &ImageRecord::EffectRectilinear,
                &MorphValues::effect, 0.1F},
-    MovedField{QLatin1StringView("RotateX"), &ImageRecord::RotateX, &MorphValues::RotateX},
-    MovedField{QLatin1StringView("RotateY"), &ImageRecord::RotateY, &MorphValues::RotateY},
-    MovedField{QLatin1StringView("RotateZ"), &ImageRecord::RotateZ, &MorphValues::RotateZ},
-    MovedField{QLatin1StringView("TranslateX"), &ImageRecord::TranslateX, &MorphValues::TranslateX},
-    MovedField{QLatin1StringView("TranslateY"), &ImageRecord::TranslateY, &MorphValues::TranslateY},
+    VARNEL_MOVED(RotateX),
+    VARNEL_MOVED(RotateY),
+    VARNEL_MOVED(RotateZ),
+    VARNEL_MOVED(TranslateX),
+    VARNEL_MOVED(TranslateY),
+    VARNEL_MOVED(PaniniD),
+    VARNEL_MOVED(PaniniSqueeze),
+    VARNEL_MOVED(UnrollStart),
+    VARNEL_MOVED(UnrollFrom),
+    VARNEL_MOVED(UnrollTo),
 };
+#undef VARNEL_MOVED
 
 // Of the two effects that which the projection reads, and all else.
 bool Moves(const MovedField& moved, Projection projection) {

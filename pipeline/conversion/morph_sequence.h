@@ -26,6 +26,11 @@ struct MorphValues {
     float RotateZ = 0.0F;
     float TranslateX = 0.0F;
     float TranslateY = 0.0F;
+    float PaniniD = 1.0F;
+    float PaniniSqueeze = 0.0F;
+    float UnrollStart = 0.0F;
+    float UnrollFrom = 0.0F;
+    float UnrollTo = 90.0F;
 
     bool operator==(const MorphValues&) const = default;
 };

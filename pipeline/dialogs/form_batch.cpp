@@ -37,6 +37,12 @@ void ShowText(QLabel* label, const QString& text) {
     label->setVisible(!text.isEmpty());
 }
 
+// The rows scroll where there are many.
+int RoomForRows(int height, int rows) {
+    constexpr int mostShown = 5;
+    return rows <= mostShown ? height : height * mostShown / rows;
+}
+
 QString ExampleName(const RecordArray<ImageRecord>& queue, const BatchChoices& choices,
                     const NameFacts& facts) {
     try {
@@ -109,7 +115,7 @@ void FormBatch::AddNameAdditions() {
     int gridRow = 0;
     for (const Projection projection : AllProjections()) {
         const QString name = ToText(projection);
-        auto* const box = new QLineEdit(ui_->FrameAdditions);
+        auto* const box = new QLineEdit(ui_->AdditionRows);
         box->setObjectName(QStringLiteral("TextFileaddition") + name);
         box->setToolTip(tr("What follows the photo's own name in the names of %1 images; empty: "
                            "the word %1")
@@ -119,7 +125,7 @@ void FormBatch::AddNameAdditions() {
         box->setPlaceholderText(name);
         box->setText(job_.choices.additions.texts[projection]);
         box->setValidator(plain);
-        auto* const heading = new QLabel(u'&' + name, ui_->FrameAdditions);
+        auto* const heading = new QLabel(u'&' + name, ui_->AdditionRows);
         heading->setObjectName(QStringLiteral("Heading") + box->objectName());
         heading->setBuddy(box);
         grid.addWidget(heading, gridRow, 0);
@@ -129,6 +135,8 @@ void FormBatch::AddNameAdditions() {
         additions_[projection] = box;
     }
     setTabOrder(before, ui_->CmdStop);
+    ui_->ScrollAdditions->setFixedHeight(
+        RoomForRows(ui_->AdditionRows->sizeHint().height(), gridRow));
 }
 
 void FormBatch::ConnectControls() {

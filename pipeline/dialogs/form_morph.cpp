@@ -42,7 +42,22 @@ constexpr std::array pairs{
     Pair{SliderId::Z, &MorphValues::RotateZ},
     Pair{SliderId::XTranslate, &MorphValues::TranslateX},
     Pair{SliderId::YTranslate, &MorphValues::TranslateY},
+    Pair{SliderId::PaniniD, &MorphValues::PaniniD},
+    Pair{SliderId::PaniniSqueeze, &MorphValues::PaniniSqueeze},
+    Pair{SliderId::UnrollStart, &MorphValues::UnrollStart},
+    Pair{SliderId::UnrollFrom, &MorphValues::UnrollFrom},
+    Pair{SliderId::UnrollTo, &MorphValues::UnrollTo},
 };
+
+// What most projections read is there for all, marked where it has no use.
+bool HasPair(Projection projection, SliderId id) {
+    return id < SliderId::PaniniD || Reads(projection, id);
+}
+
+float FactorOf(SliderId id) {
+    const ControlField* const field = FieldOf(id);
+    return field == nullptr ? 1.0F : static_cast<float>(field->factor);
+}
 
 // As on the main window, but here the shifts read in degrees while they are 0, too.
 QString MorphCaption(const SliderRowData& facts, int value) {
@@ -118,11 +133,14 @@ FormMorph::~FormMorph() = default;
 
 void FormMorph::BuildPairs() {
     // The captions change their length while sliders move; the columns must not.
-    const int widest = fontMetrics().horizontalAdvance(QStringLiteral("40° c.clockwise"));
+    const int widest = fontMetrics().horizontalAdvance(QStringLiteral("180° c.clockwise"));
     ui_->LayoutPairs->setColumnMinimumWidth(3, widest);
     ui_->LayoutPairs->setColumnMinimumWidth(7, widest);
     int gridRow = 1;  // below "Start" and "End"
     for (const Pair& pair : pairs) {
+        if (!HasPair(ItsProjection(), pair.id)) {
+            continue;
+        }
         if (pair.id == SliderId::X || pair.id == SliderId::XTranslate) {
             AddGroupLabel(*ui_->LayoutPairs, gridRow++, GroupName(pair.id));
         }
@@ -163,7 +181,8 @@ QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture 
         (picture == First ? tr("%1 at the start") : tr("%1 at the end")).arg(SpokenName(facts)));
     // The sequence keeps what the photo has, fractions and all, until the slider is moved.
     const bool unknown = facts.id == SliderId::Effect && !Reads(ItsProjection(), facts.id);
-    const int shown = unknown ? facts.start : PlaceOf(facts, range, value);
+    const float factor = FactorOf(facts.id);
+    const int shown = unknown ? facts.start : PlaceOf(facts, range, value * factor);
     slider->setValue(shown);
     auto* const spinBox = new QSpinBox(ui_->FramePairs);
     spinBox->setObjectName(QStringLiteral("Spin") + slider->objectName());
@@ -173,12 +192,13 @@ QSlider* FormMorph::AddEnd(const SliderRowData& facts, GridPlace place, Picture 
     ui_->LayoutPairs->addWidget(slider, place.row, place.column);
     ui_->LayoutPairs->addWidget(spinBox, place.row, place.column + 1);
     ui_->LayoutPairs->addWidget(label, place.row, place.column + 2);
-    connect(slider, &QSlider::valueChanged, this, [this, label, picture, &facts, &value](int now) {
-        value = static_cast<float>(now);
-        label->setText(MorphCaption(facts, now));
-        DrawLater(picture);
-        DrawLater(Between);
-    });
+    connect(slider, &QSlider::valueChanged, this,
+            [this, label, picture, factor, &facts, &value](int now) {
+                value = static_cast<float>(now) / factor;
+                label->setText(MorphCaption(facts, now));
+                DrawLater(picture);
+                DrawLater(Between);
+            });
     return slider;
 }
 
@@ -186,7 +206,7 @@ void FormMorph::MarkUnused() {
     bool any = false;
     for (const Pair& pair : pairs) {
         const SliderRowData& facts = SliderRowOf(pair.id);
-        if (!Reads(ItsProjection(), facts.id)) {
+        if (HasPair(ItsProjection(), facts.id) && !Reads(ItsProjection(), facts.id)) {
             auto* const heading = findChild<QLabel*>(HeadingName(facts));
             heading->setText(heading->text() + QStringLiteral(" *"));
             heading->setForegroundRole(QPalette::PlaceholderText);

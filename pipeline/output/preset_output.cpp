@@ -3,10 +3,15 @@
 
 #include "pipeline/output/preset_output.h"
 
+#include <algorithm>
+#include <array>
+
 #include "pipeline/output/name_pattern.h"
 #include "remap/encode/output_type.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/adjustment_set.h"
+#include "state/adjustments/choice_table.h"
+#include "state/adjustments/control_values.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {
@@ -22,22 +27,37 @@ void TakeFlag(const PictureSettings& settings, QLatin1StringView name, bool& fla
     flag = number ? *number != 0 : flag;
 }
 
+bool IsAPartOfItsOwn(SliderId id) {
+    constexpr std::array ids{SliderId::AovOutput, SliderId::X,          SliderId::Y,
+                             SliderId::Z,         SliderId::XTranslate, SliderId::YTranslate,
+                             SliderId::Effect};
+    return std::ranges::find(ids, id) != ids.end();
+}
+
+// The projection and all that no other would read.
+QStringList ProjectionNames(Projection projection) {
+    QStringList names{QStringLiteral("Projection")};
+    const ControlUse* const effect = UseOf(projection, SliderId::Effect);
+    if (effect != nullptr && effect->shown) {
+        names.append(InfoOf(projection).effect == &ImageRecord::EffectVarnel
+                         ? QStringLiteral("EffectVarnel")
+                         : QStringLiteral("EffectRectilinear"));
+    }
+    for (const ControlUse& use : InfoOf(projection).controls) {
+        if (!IsAPartOfItsOwn(use.id)) {
+            names.append(QString::fromLatin1(FieldOf(use.id)->name));
+        }
+    }
+    for (const ChoiceId choice : InfoOf(projection).choices) {
+        names.append(QString::fromLatin1(ChoiceRowOf(choice).field));
+    }
+    return names;
+}
+
 QStringList NamesOf(PresetPart part, const ImageRecord& image) {
     switch (part) {
-        case PresetPart::Projection: {
-            QStringList names{QStringLiteral("Projection")};
-            switch (ProjectionFromIndex(image.Projection)) {
-                case Projection::Varnel:
-                    names.append(QStringLiteral("EffectVarnel"));
-                    break;
-                case Projection::Rectilinear:
-                    names.append(QStringLiteral("EffectRectilinear"));
-                    break;
-                default:
-                    break;
-            }
-            return names;
-        }
+        case PresetPart::Projection:
+            return ProjectionNames(ProjectionFromIndex(image.Projection));
         case PresetPart::OutputAov:
             return {QStringLiteral("OutputAOV")};
         case PresetPart::Rotation:
@@ -91,7 +111,9 @@ PictureSettings PresetSettings(const PresetParts& parts, const ImageRecord& imag
     PictureSettings settings;
     for (const PresetPart part : parts) {
         for (const QString& name : NamesOf(part, image)) {
-            settings.insert(name, all.value(name));
+            if (const auto value = all.constFind(name); value != all.constEnd()) {
+                settings.insert(name, *value);
+            }
         }
         if (part == PresetPart::Output) {
             settings.insert(OutputOf(general));

@@ -35,6 +35,7 @@ ContactTile Tile(const ImageRecord& image, Projection projection, int strength) 
     tile.record = image;
     tile.record.Projection = static_cast<std::int16_t>(projection);
     tile.values = ValuesFor(tile.record);
+    FitTo(projection, tile.values);
     const int value = VariantValue(tile.values, projection, strength);
     if (control == SliderId::Effect && HasHiddenEffect(projection)) {
         tile.record.*InfoOf(projection).effect = static_cast<float>(value);

@@ -77,6 +77,10 @@ std::optional<float> CutAngleOf(Projection projection, const ImageRecord& image)
     return widest(image);
 }
 
+bool ReadsChoice(Projection projection, ChoiceId id) {
+    return std::ranges::find(InfoOf(projection).choices, id) != InfoOf(projection).choices.end();
+}
+
 std::optional<float ImageRecord::*> EffectReadBy(Projection projection) {
     float ImageRecord::*const effect = InfoOf(projection).effect;
     return effect == nullptr ? std::nullopt : std::optional(effect);

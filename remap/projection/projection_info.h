@@ -16,6 +16,7 @@
 #include "base/run_time_error.h"
 #include "remap/projection/projection_map.h"
 #include "remap/projection/record_maps.h"
+#include "state/records/choice_id.h"
 #include "state/records/image_record.h"
 #include "state/records/slider_id.h"
 
@@ -27,6 +28,8 @@ struct ControlUse {
     bool shown = true;  // by the main window; the morph dialog has all
     // Where the projection allows less or more than the control in general.
     std::optional<ControlRange> range = std::nullopt;
+    // What a number that makes no picture becomes when the projection is chosen.
+    std::optional<int> fallback = std::nullopt;
 };
 
 // A point of the result by its share of the way from the left and from the bottom.
@@ -35,11 +38,15 @@ struct FramePoint {
     double up = 0.5;
 };
 
-// How the frame on the photo is moved.
+// What a step of the wheel on the result multiplies, so that all looks nearer by the same.
+enum class Widening { HalfTangent, Angle };
+
+// How the frame on the photo and the result itself are moved.
 struct FrameSteering {
     std::optional<SliderId> width{};        // the control that makes the frame wider
     bool turns = false;                     // it can be panned and tilted
     std::span<const FramePoint> handles{};  // points of the border that the width moves
+    Widening wheel = Widening::HalfTangent;
 };
 
 // A part of file names that states a setting: the text and the field's number, rounded.
@@ -69,6 +76,7 @@ struct ProjectionInfo {
     // One of the first four, which have a button each and are what "all" means.
     bool basic = false;
     std::span<const ControlUse> controls{};
+    std::span<const ChoiceId> choices{};
     // The field of the record that SliderId::Effect stands for; null for none.
     float ImageRecord::*effect = nullptr;
     FrameSteering frame{};
@@ -111,6 +119,7 @@ const ControlUse* UseOf(Projection projection, SliderId id);
 // The output angle of view that a conversion shows, degrees, where the record asks for more than
 // the projection has; nothing where it gets what it asks for.
 std::optional<float> CutAngleOf(Projection projection, const ImageRecord& image);
+bool ReadsChoice(Projection projection, ChoiceId id);
 // The effect that a projection reads; nothing when it reads none. Horizon reads that of Varnel,
 // too.
 std::optional<float ImageRecord::*> EffectReadBy(Projection projection);

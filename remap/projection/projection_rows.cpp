@@ -12,10 +12,13 @@ namespace varnel {
 
 namespace {
 
-constexpr std::array rectilinearControls{
-    ControlUse{SliderId::AovOutput}, ControlUse{SliderId::Effect}, ControlUse{SliderId::X},
-    ControlUse{SliderId::Y},         ControlUse{SliderId::Z},      ControlUse{SliderId::XTranslate},
-    ControlUse{SliderId::YTranslate}};
+constexpr std::array rectilinearControls{ControlUse{SliderId::AovOutput, true, std::nullopt, 120},
+                                         ControlUse{SliderId::Effect},
+                                         ControlUse{SliderId::X},
+                                         ControlUse{SliderId::Y},
+                                         ControlUse{SliderId::Z},
+                                         ControlUse{SliderId::XTranslate},
+                                         ControlUse{SliderId::YTranslate}};
 constexpr std::array effectOnly{ControlUse{SliderId::Effect}};
 constexpr std::array hiddenEffect{ControlUse{SliderId::Effect, false}};
 constexpr std::array inputAngle{ControlUse{SliderId::AovInput}};

@@ -10,6 +10,7 @@
 
 #include "base/rounding.h"
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/choice_table.h"
 
 namespace varnel {
 
@@ -31,27 +32,43 @@ double EffectNumber(float value) {
     return value == smallestEffect ? 0.0 : NumberOf(value);
 }
 
-// The controls that are always there, with the fields that they stand for.
-struct NumberField {
-    double ControlValues::*control;
-    float ImageRecord::*field;
+#define VARNEL_FIELD(id, control, name)                                  \
+    ControlField {                                                       \
+        SliderId::id, &ControlValues::control, &ImageRecord::name, #name \
+    }
+#define VARNEL_PERCENT(id, control, name)                                       \
+    ControlField {                                                              \
+        SliderId::id, &ControlValues::control, &ImageRecord::name, #name, 100.0 \
+    }
+constexpr std::array controlFields{
+    VARNEL_FIELD(AovInput, inputAov, InputAOV),
+    VARNEL_FIELD(AovOutput, outputAov, OutputAOV),
+    VARNEL_FIELD(X, rotateX, RotateX),
+    VARNEL_FIELD(Y, rotateY, RotateY),
+    VARNEL_FIELD(Z, rotateZ, RotateZ),
+    VARNEL_FIELD(XTranslate, translateX, TranslateX),
+    VARNEL_FIELD(YTranslate, translateY, TranslateY),
+    VARNEL_PERCENT(PaniniD, paniniD, PaniniD),
+    VARNEL_FIELD(PaniniSqueeze, paniniSqueeze, PaniniSqueeze),
+    VARNEL_FIELD(UnrollStart, unrollStart, UnrollStart),
+    VARNEL_FIELD(UnrollFrom, unrollFrom, UnrollFrom),
+    VARNEL_FIELD(UnrollTo, unrollTo, UnrollTo),
 };
-constexpr std::array numberFields{
-    NumberField{&ControlValues::inputAov, &ImageRecord::InputAOV},
-    NumberField{&ControlValues::outputAov, &ImageRecord::OutputAOV},
-    NumberField{&ControlValues::rotateX, &ImageRecord::RotateX},
-    NumberField{&ControlValues::rotateY, &ImageRecord::RotateY},
-    NumberField{&ControlValues::rotateZ, &ImageRecord::RotateZ},
-    NumberField{&ControlValues::translateX, &ImageRecord::TranslateX},
-    NumberField{&ControlValues::translateY, &ImageRecord::TranslateY}};
+#undef VARNEL_FIELD
+#undef VARNEL_PERCENT
 
 // What differs from the values that were there before; without them, all.
 void Store(const ControlValues& values, const ControlValues* before, ImageRecord& image) {
     const Projection projection = ProjectionFromIndex(values.projection);
     image.Projection = static_cast<std::int16_t>(projection);
-    for (const auto& [control, field] : numberFields) {
-        if (before == nullptr || values.*control != before->*control) {
-            image.*field = static_cast<float>(values.*control);
+    for (const ControlField& field : controlFields) {
+        if (before == nullptr || values.*field.control != before->*field.control) {
+            image.*field.field = static_cast<float>(values.*field.control / field.factor);
+        }
+    }
+    for (const ChoiceRowData& row : ChoiceRows()) {
+        if (before == nullptr || values.Choice(row.id) != before->Choice(row.id)) {
+            row.Give(values.Choice(row.id), image);
         }
     }
     const auto effect = EffectField(projection);
@@ -63,6 +80,15 @@ void Store(const ControlValues& values, const ControlValues* before, ImageRecord
 
 }  // namespace
 
+std::span<const ControlField> ControlFields() {
+    return controlFields;
+}
+
+const ControlField* FieldOf(SliderId id) {
+    const auto* const field = std::ranges::find(controlFields, id, &ControlField::id);
+    return field == controlFields.end() ? nullptr : field;
+}
+
 int WholeNumber(double value) {
     using Limits = std::numeric_limits<int>;
     const double rounded = std::isnan(value) ? 0.0 : Round(value);
@@ -71,8 +97,8 @@ int WholeNumber(double value) {
 
 ControlValues Whole(const ControlValues& values) {
     ControlValues whole = values;
-    for (const NumberField& number : numberFields) {
-        whole.*number.control = WholeNumber(values.*number.control);
+    for (const ControlField& field : controlFields) {
+        whole.*field.control = WholeNumber(values.*field.control);
     }
     if (values.effect) {
         whole.effect = WholeNumber(*values.effect);
@@ -84,8 +110,11 @@ ControlValues ValuesFor(const ImageRecord& image) {
     const Projection projection = ProjectionFromIndex(image.Projection);
     ControlValues values;
     values.projection = static_cast<int>(projection);
-    for (const auto& [control, field] : numberFields) {
-        values.*control = NumberOf(image.*field);
+    for (const ControlField& field : controlFields) {
+        values.*field.control = NumberOf(image.*field.field) * field.factor;
+    }
+    for (const ChoiceRowData& row : ChoiceRows()) {
+        values.Choose(row.id, row.Of(image));
     }
     if (const auto effect = EffectField(projection)) {
         values.effect = EffectNumber(image.**effect);

@@ -6,9 +6,13 @@
 // nothing.
 #pragma once
 
+#include <array>
 #include <optional>
+#include <span>
 
+#include "state/records/choice_id.h"
 #include "state/records/image_record.h"
+#include "state/records/slider_id.h"
 
 namespace varnel {
 
@@ -22,9 +26,30 @@ struct ControlValues {
     double rotateZ = 0.0;
     double translateX = 0.0;  // percent
     double translateY = 0.0;
+    double paniniD = 100.0;  // percent
+    double paniniSqueeze = 0.0;
+    double unrollStart = 0.0;  // degrees
+    double unrollFrom = 0.0;
+    double unrollTo = 90.0;
+    std::array<int, choiceCount> choices{};  // see choice_table.h
 
     bool operator==(const ControlValues&) const = default;
+    int Choice(ChoiceId id) const { return choices[static_cast<std::size_t>(id)]; }
+    void Choose(ChoiceId id, int value) { choices[static_cast<std::size_t>(id)] = value; }
 };
+
+// A control with a field of its own: all but the effect, whose field the projection tells.
+struct ControlField {
+    SliderId id;
+    double ControlValues::*control;
+    float ImageRecord::*field;
+    const char* name;     // of the field
+    double factor = 1.0;  // the control's number for each of the field's
+};
+
+std::span<const ControlField> ControlFields();
+// Null for the effect.
+const ControlField* FieldOf(SliderId id);
 
 // Not-a-number becomes 0, and so does the smallest effect, which stands for none.
 ControlValues ValuesFor(const ImageRecord& image);

@@ -17,7 +17,7 @@ namespace {
 constexpr ControlRange fullTurn{-180, 180};  // degrees
 constexpr int narrowestOutput = 20;          // degrees
 
-constexpr std::array<SliderRowData, 8> rows{{
+constexpr std::array<SliderRowData, sliderCount> rows{{
     {SliderId::AovInput, "SliderAOVinput", "LabelAOVinput", nullptr, nullptr,
      QT_TRANSLATE_NOOP("Sliders", "Input hAOV"),
      QT_TRANSLATE_NOOP("Sliders",
@@ -69,6 +69,34 @@ constexpr std::array<SliderRowData, 8> rows{{
      -40, 40, 0, 5, 1, 10, QT_TRANSLATE_NOOP("Sliders", "% Up"),
      QT_TRANSLATE_NOOP("Sliders", "% Down"), QT_TRANSLATE_NOOP("Sliders", "0%"), true,
      ShownFor::Users, QT_TRANSLATE_NOOP("Sliders", "Transpose image")},
+    {SliderId::PaniniD, "SliderPaniniD", "LabelPaniniD", "LabelPaniniD2",
+     QT_TRANSLATE_NOOP("Sliders", "Distance of the eye"), QT_TRANSLATE_NOOP("Sliders", "100 %"),
+     QT_TRANSLATE_NOOP("Sliders",
+                       "0 % is the straight-line view; 100 % keeps wide views calm at the sides"),
+     0, 100, 100, 10, 1, 10, QT_TRANSLATE_NOOP("Sliders", " %"), nullptr, nullptr, false,
+     ShownFor::Users},
+    {SliderId::PaniniSqueeze, "SliderPaniniSqueeze", "LabelPaniniSqueeze", "LabelPaniniSqueeze2",
+     QT_TRANSLATE_NOOP("Sliders", "Vertical squeeze"), QT_TRANSLATE_NOOP("Sliders", "0 %"),
+     QT_TRANSLATE_NOOP("Sliders",
+                       "How far level lines above and below the middle are kept straight"),
+     0, 100, 0, 10, 1, 10, QT_TRANSLATE_NOOP("Sliders", " %"), nullptr, nullptr, false,
+     ShownFor::Users},
+    {SliderId::UnrollStart, "SliderUnrollStart", "LabelUnrollStart", "LabelUnrollStart2",
+     QT_TRANSLATE_NOOP("Sliders", "Left edge"), QT_TRANSLATE_NOOP("Sliders", "0°"),
+     QT_TRANSLATE_NOOP(
+         "Sliders",
+         "The direction on the photo that the picture's left edge shows. Double-click "
+         "the name to reset it"),
+     -180, 180, 0, 10, 1, 15, QT_TRANSLATE_NOOP("Sliders", "°"), nullptr, nullptr, true,
+     ShownFor::Users},
+    {SliderId::UnrollFrom, "SliderUnrollFrom", "LabelUnrollFrom", "LabelUnrollFrom2",
+     QT_TRANSLATE_NOOP("Sliders", "From angle"), QT_TRANSLATE_NOOP("Sliders", "0°"),
+     QT_TRANSLATE_NOOP("Sliders", "The angle from the lens's axis at one edge of the picture"), 0,
+     180, 0, 10, 1, 10, QT_TRANSLATE_NOOP("Sliders", "°"), nullptr, nullptr, true, ShownFor::Users},
+    {SliderId::UnrollTo, "SliderUnrollTo", "LabelUnrollTo", "LabelUnrollTo2",
+     QT_TRANSLATE_NOOP("Sliders", "To angle"), QT_TRANSLATE_NOOP("Sliders", "90°"),
+     QT_TRANSLATE_NOOP("Sliders", "The angle from the lens's axis at the other edge"), 0, 180, 90,
+     10, 1, 10, QT_TRANSLATE_NOOP("Sliders", "°"), nullptr, nullptr, false, ShownFor::Users},
 }};
 
 QString Translated(const char* text) {
@@ -82,7 +110,7 @@ QString NumberText(double tenths) {
 
 }  // namespace
 
-const std::array<SliderRowData, 8>& SliderRows() {
+const std::array<SliderRowData, sliderCount>& SliderRows() {
     return rows;
 }
 
@@ -144,53 +172,41 @@ bool Reads(Projection projection, SliderId id) {
     return UseOf(projection, id) != nullptr;
 }
 
-std::optional<double> ValueOf(SliderId id, const ControlValues& values) {
-    switch (id) {
-        case SliderId::AovInput:
-            return values.inputAov;
-        case SliderId::AovOutput:
-            return values.outputAov;
-        case SliderId::Effect:
-            return values.effect;
-        case SliderId::X:
-            return values.rotateX;
-        case SliderId::Y:
-            return values.rotateY;
-        case SliderId::Z:
-            return values.rotateZ;
-        case SliderId::XTranslate:
-            return values.translateX;
-        case SliderId::YTranslate:
-            break;
+double WithinReach(SliderId id, Projection projection, double value) {
+    constexpr double wholeTurn = 360.0;
+    const ControlRange reach = ReachOf(id, projection);
+    const bool round = reach.minimum == fullTurn.minimum && reach.maximum == fullTurn.maximum;
+    // A partial effect shortens the turns: half a turn to the left is not one to the right.
+    if (round && !Reads(projection, SliderId::Effect) && std::fabs(value) > fullTurn.maximum) {
+        return std::remainder(value, wholeTurn);
     }
-    return values.translateY;
+    return std::clamp<double>(value, reach.minimum, reach.maximum);
+}
+
+// Without a range of its own a projection keeps what a record was given by other ways.
+void FitTo(Projection projection, ControlValues& values) {
+    values.projection = static_cast<int>(projection);
+    for (const ControlUse& use : InfoOf(projection).controls) {
+        const std::optional<double> value = ValueOf(use.id, values);
+        const ControlRange reach = ReachOf(use.id, projection);
+        if (value && (*value < reach.minimum || *value > reach.maximum)) {
+            const double nearest = std::clamp<double>(*value, reach.minimum, reach.maximum);
+            const double kept = use.range ? nearest : *value;
+            SetValueOf(use.id, use.fallback ? *use.fallback : kept, values);
+        }
+    }
+}
+
+std::optional<double> ValueOf(SliderId id, const ControlValues& values) {
+    const ControlField* const field = FieldOf(id);
+    return field == nullptr ? values.effect : std::optional(values.*field->control);
 }
 
 void SetValueOf(SliderId id, double value, ControlValues& values) {
-    switch (id) {
-        case SliderId::AovInput:
-            values.inputAov = value;
-            return;
-        case SliderId::AovOutput:
-            values.outputAov = value;
-            return;
-        case SliderId::Effect:
-            values.effect = value;
-            return;
-        case SliderId::X:
-            values.rotateX = value;
-            return;
-        case SliderId::Y:
-            values.rotateY = value;
-            return;
-        case SliderId::Z:
-            values.rotateZ = value;
-            return;
-        case SliderId::XTranslate:
-            values.translateX = value;
-            return;
-        case SliderId::YTranslate:
-            values.translateY = value;
+    if (const ControlField* const field = FieldOf(id)) {
+        values.*field->control = value;
+    } else {
+        values.effect = value;
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The eight sliders of the main window in one table: names, ranges, captions and the control value
+// The sliders of the main window in one table: names, ranges, captions and the control value
 // that each one holds. Throws nothing.
 #pragma once
 
@@ -35,8 +35,7 @@ struct SliderRowData {
     const char* group = nullptr;  // the title above it and its neighbours; null for none
 };
 
-// In the order in which the window shows them.
-const std::array<SliderRowData, 8>& SliderRows();
+const std::array<SliderRowData, sliderCount>& SliderRows();
 
 // Empty for none.
 QString GroupName(SliderId id);
@@ -55,6 +54,12 @@ bool ShownWith(const SliderRowData& row, Projection projection);
 // Whether the projection reads what the slider stands for. The main window shows the angle of the
 // lens always and the effect of Horizon never.
 bool Reads(Projection projection, SliderId id);
+
+// A number within the control's reach: the nearest one, or where the camera can be turned all round
+// the same direction.
+double WithinReach(SliderId id, Projection projection, double value);
+// What a projection that is chosen makes of the values: those that it cannot show give way.
+void FitTo(Projection projection, ControlValues& values);
 
 // The slider's value among the control values; nothing for the effect when there is none.
 std::optional<double> ValueOf(SliderId id, const ControlValues& values);

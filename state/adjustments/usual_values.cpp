@@ -6,6 +6,8 @@
 #include <cmath>
 
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/choice_table.h"
+#include "state/adjustments/control_values.h"
 #include "state/adjustments/frame_reading.h"
 #include "state/adjustments/gear_assignment.h"
 
@@ -13,26 +15,10 @@ namespace varnel {
 
 namespace {
 
-float ImageRecord::*FieldOf(SliderId slider, Projection projection) {
-    switch (slider) {
-        case SliderId::AovInput:
-            return &ImageRecord::InputAOV;
-        case SliderId::AovOutput:
-            return &ImageRecord::OutputAOV;
-        case SliderId::Effect:
-            return EffectReadBy(projection).value_or(&ImageRecord::EffectVarnel);
-        case SliderId::X:
-            return &ImageRecord::RotateX;
-        case SliderId::Y:
-            return &ImageRecord::RotateY;
-        case SliderId::Z:
-            return &ImageRecord::RotateZ;
-        case SliderId::XTranslate:
-            return &ImageRecord::TranslateX;
-        case SliderId::YTranslate:
-            break;
-    }
-    return &ImageRecord::TranslateY;
+float ImageRecord::*PlaceOf(SliderId slider, Projection projection) {
+    const ControlField* const field = FieldOf(slider);
+    return field != nullptr ? field->field
+                            : EffectReadBy(projection).value_or(&ImageRecord::EffectVarnel);
 }
 
 bool HasNumbersOf(const GearRecord& gear, const ImageRecord& image) {
@@ -59,20 +45,29 @@ ImageRecord UsualRecord(const ImageRecord& image, const GearTable& gears) {
     usual.EffectRectilinear = usualEffect;
     usual.RotateX = usual.RotateY = usual.RotateZ = 0.0F;
     usual.TranslateX = usual.TranslateY = 0.0F;
+    for (const SliderId id : {SliderId::PaniniD, SliderId::PaniniSqueeze, SliderId::UnrollStart,
+                              SliderId::UnrollFrom, SliderId::UnrollTo}) {
+        usual.*FieldOf(id)->field = ImageRecord().*FieldOf(id)->field;
+    }
+    for (const ChoiceRowData& row : ChoiceRows()) {
+        row.Give(row.Of(ImageRecord()), usual);
+    }
     return usual;
 }
 
 bool IsUnusual(SliderId slider, const ImageRecord& image, const ImageRecord& usual) {
     constexpr float least = 0.05F;  // half of what can be typed
-    const auto field = FieldOf(slider, ProjectionFromIndex(image.Projection));
-    const float value = image.*field;
-    return std::fabs(value - usual.*field) > least &&
-           std::fabs(value - std::round(usual.*field)) > least;
+    const auto place = PlaceOf(slider, ProjectionFromIndex(image.Projection));
+    const ControlField* const field = FieldOf(slider);
+    const auto factor = static_cast<float>(field == nullptr ? 1.0 : field->factor);
+    const float value = image.*place * factor;
+    const float expected = usual.*place * factor;
+    return std::fabs(value - expected) > least && std::fabs(value - std::round(expected)) > least;
 }
 
 void TakeUsual(SliderId slider, const ImageRecord& usual, ImageRecord& image) {
-    const auto field = FieldOf(slider, ProjectionFromIndex(image.Projection));
-    image.*field = usual.*field;
+    const auto place = PlaceOf(slider, ProjectionFromIndex(image.Projection));
+    image.*place = usual.*place;
 }
 
 }  // namespace varnel

@@ -4,6 +4,7 @@
 #include "state/dialogs/form_save_preset.h"
 
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/slider_table.h"
 #include "ui_form_save_preset.h"
 
 namespace varnel {
@@ -39,12 +40,14 @@ std::vector<FormSavePreset::PartBox> FormSavePreset::Boxes() const {
 
 // What the photo shows.
 void FormSavePreset::Propose() {
-    const bool turns = ProjectionFromIndex(image_.Projection) == Projection::Rectilinear;
+    const Projection projection = ProjectionFromIndex(image_.Projection);
     ui_->CheckProjection->setChecked(true);
-    ui_->CheckOutputAov->setChecked(turns);
+    ui_->CheckOutputAov->setChecked(Reads(projection, SliderId::AovOutput));
     ui_->CheckRotation->setChecked(
-        turns && (image_.RotateX != 0.0F || image_.RotateY != 0.0F || image_.RotateZ != 0.0F));
-    ui_->CheckShift->setChecked(turns && (image_.TranslateX != 0.0F || image_.TranslateY != 0.0F));
+        Reads(projection, SliderId::X) &&
+        (image_.RotateX != 0.0F || image_.RotateY != 0.0F || image_.RotateZ != 0.0F));
+    ui_->CheckShift->setChecked(Reads(projection, SliderId::XTranslate) &&
+                                (image_.TranslateX != 0.0F || image_.TranslateY != 0.0F));
 }
 
 PresetParts FormSavePreset::Parts() const {

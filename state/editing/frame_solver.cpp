@@ -90,13 +90,11 @@ ControlValues TurnedNearest(const FrameSetting& setting, const SourcePosition& w
         return best;
     }
     const FramePoint middle;
-    const ControlRange tilt = ReachOf(SliderId::X, projection);
-    const ControlRange pan = ReachOf(SliderId::Y, projection);
     double least = Miss(setting, best, middle, wanted);
     const auto tried = [&](int down, int right) {
         ControlValues controls = best;
-        controls.rotateX = std::clamp<double>(best.rotateX + down, tilt.minimum, tilt.maximum);
-        controls.rotateY = std::clamp<double>(best.rotateY + right, pan.minimum, pan.maximum);
+        controls.rotateX = WithinReach(SliderId::X, projection, best.rotateX + down);
+        controls.rotateY = WithinReach(SliderId::Y, projection, best.rotateY + right);
         const double miss = Miss(setting, controls, middle, wanted);
         const bool nearer = miss < least;
         if (nearer) {

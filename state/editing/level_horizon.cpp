@@ -29,9 +29,17 @@ double Beyond(SliderId id, const ImageRecord& image, double value) {
     return above ? value - range.maximum : below ? value - range.minimum : 0.0;
 }
 
+// Without an effect the turns and the rays are the whole ones.
+float EffectOf(const ImageRecord& image) {
+    constexpr float whole = 100.0F;
+    const auto effect = EffectReadBy(ProjectionFromIndex(image.Projection));
+    return effect ? image.**effect : whole;
+}
+
 std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
                         std::span<const PicturePoint> traced) {
-    const RectilinearView view = RectilinearViewOf(image, FramesOf(image, source));
+    RectilinearView view = RectilinearViewOf(image, FramesOf(image, source));
+    view.effect = EffectOf(image);
     std::vector<Ray> rays;
     for (const PicturePoint& point : traced) {
         if (const auto ray = SourceRay(view, OffsetOf(point, source, image))) {
@@ -53,7 +61,7 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
         return level;
     }
     const LevelTurn present{static_cast<double>(image.RotateX), static_cast<double>(image.RotateZ)};
-    const LevelTurn turn = TurnForHorizon(fit->normal, image.EffectRectilinear, present);
+    const LevelTurn turn = TurnForHorizon(fit->normal, EffectOf(image), present);
     level.rotateX = turn.x;
     level.rotateZ = turn.z;
     level.beyondX = Beyond(SliderId::X, image, turn.x);

@@ -19,7 +19,7 @@ constexpr double degree = std::numbers::pi / 180.0;
 constexpr double exact = 0.02;         // pixels of the photo
 constexpr double probe = 0.02;         // degrees from one record to the next, for a derivative
 constexpr double largestStep = 15.0;   // degrees; farther on the map is another one
-constexpr double perWheelStep = 1.05;  // of the tangent of half the angle of view
+constexpr double perWheelStep = 1.05;  // what looks nearer or farther
 
 struct Turn {
     double x = 0.0;
@@ -39,19 +39,18 @@ std::optional<PointMapping> MappingOf(const Steered& steered) {
 class Aim {
   public:
     Aim(const Steered& steered, const SourcePosition& point, const SourcePosition& place)
-        : trial_(steered), point_(point), place_(place) {
-        const Projection projection = ProjectionFromIndex(steered.image.Projection);
-        tilt_ = ReachOf(SliderId::X, projection);
-        pan_ = ReachOf(SliderId::Y, projection);
-    }
+        : trial_(steered),
+          point_(point),
+          place_(place),
+          projection_(ProjectionFromIndex(steered.image.Projection)) {}
 
     Turn Start() const {
         return {static_cast<double>(trial_.image.RotateX),
                 static_cast<double>(trial_.image.RotateY)};
     }
     Turn Within(const Turn& turn) const {
-        return {std::clamp<double>(turn.x, tilt_.minimum, tilt_.maximum),
-                std::clamp<double>(turn.y, pan_.minimum, pan_.maximum)};
+        return {WithinReach(SliderId::X, projection_, turn.x),
+                WithinReach(SliderId::Y, projection_, turn.y)};
     }
     std::optional<SourcePosition> Miss(const Turn& turn) {
         Set(turn);
@@ -74,7 +73,7 @@ class Aim {
 
     Steered trial_;
     SourcePosition point_, place_;
-    ControlRange tilt_, pan_;
+    Projection projection_;
 };
 
 double Length(const SourcePosition& way) {
@@ -127,6 +126,18 @@ double Direction(const SourcePosition& axis, const SourcePosition& place) {
 
 double WithinHalfTurn(double degrees) {
     return std::remainder(degrees, 360.0);
+}
+
+// The angle of view that many steps of the wheel nearer.
+double Nearer(Projection projection, double angle, double steps) {
+    const double share = std::pow(perWheelStep, -steps);
+    if (InfoOf(projection).frame.wheel == Widening::Angle) {
+        const ControlRange reach = ReachOf(SliderId::AovOutput, projection);
+        return std::clamp<double>(angle * share, reach.minimum, reach.maximum);
+    }
+    const double known = std::clamp(angle, narrowestView, widestView);
+    const double half = std::atan(std::tan(known / 2.0 * degree) * share) / degree;
+    return std::clamp(2.0 * half, narrowestView, widestView);
 }
 
 }  // namespace
@@ -186,22 +197,18 @@ ImageRecord RolledTo(const Steered& steered, const SourcePosition& point,
     if (!std::isfinite(angle)) {
         return steered.image;
     }
-    const ControlRange reach = ReachOf(SliderId::Z, ProjectionFromIndex(steered.image.Projection));
-    rolled.image.RotateZ =
-        static_cast<float>(std::clamp<double>(WithinHalfTurn(angle), reach.minimum, reach.maximum));
+    rolled.image.RotateZ = static_cast<float>(WithinReach(
+        SliderId::Z, ProjectionFromIndex(steered.image.Projection), WithinHalfTurn(angle)));
     return rolled.image;
 }
 
 ImageRecord WidenedAt(const Steered& steered, const SourcePosition& point, double steps) {
     const auto place = PlaceUnder(steered, point);
     Steered widened = steered;
-    const double angle =
-        std::clamp(static_cast<double>(steered.image.OutputAOV), narrowestView, widestView);
-    const double half =
-        std::atan(std::tan(angle / 2.0 * degree) * std::pow(perWheelStep, -steps)) / degree;
-    widened.image.OutputAOV = static_cast<float>(std::clamp(2.0 * half, narrowestView, widestView));
-    const bool turns = CanTurn(ProjectionFromIndex(steered.image.Projection));
-    return place && turns ? TurnedTo(widened, point, *place) : widened.image;
+    const Projection projection = ProjectionFromIndex(steered.image.Projection);
+    widened.image.OutputAOV =
+        static_cast<float>(Nearer(projection, static_cast<double>(steered.image.OutputAOV), steps));
+    return place && CanTurn(projection) ? TurnedTo(widened, point, *place) : widened.image;
 }
 
 ImageRecord CentredOn(const Steered& steered, const SourcePosition& point) {

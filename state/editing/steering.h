@@ -15,7 +15,8 @@
 
 namespace varnel {
 
-// The narrowest and the widest view that can be steered to, degrees.
+// The narrowest and the widest straight-line view that can be steered to, degrees; others go as
+// far as their control.
 inline constexpr double narrowestView = 20.0;
 inline constexpr double widestView = 170.0;
 

@@ -49,8 +49,19 @@ constexpr std::array sliderNames{QT_TRANSLATE_NOOP("Steps", "output AOV"),
                                  QT_TRANSLATE_NOOP("Steps", "rotate Z-axis"),
                                  QT_TRANSLATE_NOOP("Steps", "transpose left/right"),
                                  QT_TRANSLATE_NOOP("Steps", "transpose up/down"),
-                                 QT_TRANSLATE_NOOP("Steps", "input hAOV")};
-static_assert(sliderNames.size() == static_cast<std::size_t>(SliderId::AovInput) + 1);
+                                 QT_TRANSLATE_NOOP("Steps", "input hAOV"),
+                                 QT_TRANSLATE_NOOP("Steps", "distance of the eye"),
+                                 QT_TRANSLATE_NOOP("Steps", "vertical squeeze"),
+                                 QT_TRANSLATE_NOOP("Steps", "start of unrolling"),
+                                 QT_TRANSLATE_NOOP("Steps", "first angle of unrolling"),
+                                 QT_TRANSLATE_NOOP("Steps", "last angle of unrolling")};
+static_assert(sliderNames.size() == sliderCount);
+
+// The same for the choices.
+constexpr std::array choiceNames{
+    QT_TRANSLATE_NOOP("Steps", "direction of unrolling"), QT_TRANSLATE_NOOP("Steps", "marks"),
+    QT_TRANSLATE_NOOP("Steps", "pose of the camera"), QT_TRANSLATE_NOOP("Steps", "tunnel")};
+static_assert(choiceNames.size() == choiceCount);
 
 QString Translated(const char* text) {
     return QCoreApplication::translate("Steps", text);
@@ -71,15 +82,23 @@ ControlStep StepBetween(const ControlValues& before, const ControlValues& after)
         return {StepName(StepKind::Projection), std::nullopt};
     }
     std::optional<SliderId> moved;
+    int changes = 0;
+    QString name = StepName(StepKind::Adjustments);
     for (const SliderRowData& row : SliderRows()) {
         if (ValueOf(row.id, before) != ValueOf(row.id, after)) {
-            if (moved) {
-                return {StepName(StepKind::Adjustments), std::nullopt};
-            }
             moved = row.id;
+            name = StepName(row.id);
+            ++changes;
         }
     }
-    return {moved ? StepName(*moved) : StepName(StepKind::Adjustments), moved};
+    for (std::size_t choice = 0; choice < choiceCount; ++choice) {
+        if (before.choices[choice] != after.choices[choice]) {
+            name = Translated(choiceNames[choice]);
+            ++changes;
+        }
+    }
+    return changes > 1 ? ControlStep{StepName(StepKind::Adjustments), std::nullopt}
+                       : ControlStep{name, moved};
 }
 
 }  // namespace varnel

@@ -4,10 +4,28 @@
 // The controls that adjust a record.
 #pragma once
 
+#include <cstddef>
+
 namespace varnel {
 
 // Each stands for one field of the record; Effect for the one that the projection reads.
-enum class SliderId { AovOutput, Effect, X, Y, Z, XTranslate, YTranslate, AovInput };
+enum class SliderId {
+    AovOutput,
+    Effect,
+    X,
+    Y,
+    Z,
+    XTranslate,
+    YTranslate,
+    AovInput,
+    PaniniD,
+    PaniniSqueeze,
+    UnrollStart,
+    UnrollFrom,
+    UnrollTo
+};
+
+inline constexpr std::size_t sliderCount = static_cast<std::size_t>(SliderId::UnrollTo) + 1;
 
 // Whole numbers, both ends included.
 struct ControlRange {

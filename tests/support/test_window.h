@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QSlider>
@@ -199,6 +200,18 @@ class TestWindow {
     void Click(const char* name) {
         auto* const button = Find<QAbstractButton>(name);
         button->click();
+    }
+    // By its button, or by the list of those without one.
+    void ChooseProjection(Projection projection) {
+        const int index = static_cast<int>(projection);
+        if (auto* const own =
+                window.findChild<QAbstractButton*>(QStringLiteral("OptionRemap_%1").arg(index))) {
+            own->click();
+            return;
+        }
+        auto* const list = Find<QComboBox>("ProjectionCombo");
+        list->setCurrentIndex(list->findData(index));
+        Q_EMIT list->activated(list->currentIndex());
     }
     QAction* Entry(const char* name) {
         return window.findChild<QAction*>(QString::fromLatin1(name));

@@ -7,7 +7,6 @@
 #include <QShortcut>
 
 #include "app/panels/typed_number.h"
-#include "remap/projection/projection_info.h"
 
 namespace varnel {
 
@@ -35,9 +34,10 @@ void AdjustmentTools::ConnectButtons() {
     click(panel_.PreviewButton(), [this] { workspace_.adjustments.PreviewNow(); });
     click(panel_.AutoPreview(), [this] { workspace_.preview.Preview(); });
     click(panel_.Antialiased(), [this] { workspace_.preview.Preview(); });
-    connect(panel_.Projections(), &QButtonGroup::idClicked, this, [this](int index) {
-        workspace_.adjustments.ChooseProjection(ProjectionFromIndex(index));
-    });
+    connect(panel_.Projections(), &ProjectionChooser::Chosen, this,
+            [this](Projection projection) { workspace_.adjustments.ChooseProjection(projection); });
+    connect(panel_.Choices(), &ChoiceLine::Chosen, this,
+            [this] { workspace_.adjustments.StoreControls(true); });
 }
 
 void AdjustmentTools::ConnectSliders() {
@@ -62,10 +62,10 @@ void AdjustmentTools::AddKeys() {
         });
     };
     shortcut(QKeySequence(Qt::Key_F5), panel_.PreviewButton());
-    for (const Projection projection : AllProjections()) {
-        const int index = static_cast<int>(projection);
-        shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)),
-                 panel_.Projections()->button(index));
+    const QButtonGroup* const projections = panel_.Projections()->Buttons();
+    for (QAbstractButton* const button : projections->buttons()) {
+        shortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + projections->id(button))),
+                 button);
     }
 }
 
@@ -100,6 +100,7 @@ void AdjustmentTools::UpdateEnabled() {
     for (SliderRow* const row : panel_.Rows()) {
         row->setEnabled(photos);
     }
+    panel_.Choices()->setEnabled(photos);
     panel_.ApplyToAll()->setEnabled(photos);
     panel_.PreviewButton()->setEnabled(photos);
 }

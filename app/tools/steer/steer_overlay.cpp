@@ -22,9 +22,7 @@ Projection ProjectionOf(const Steered& steered) {
 
 // Another turn within the control's reach; tenths stay tenths however many are added.
 float Turned(SliderId id, Projection projection, float angle, double by) {
-    const ControlRange reach = ReachOf(id, projection);
-    const double turned =
-        std::clamp<double>(static_cast<double>(angle) + by, reach.minimum, reach.maximum);
+    const double turned = WithinReach(id, projection, static_cast<double>(angle) + by);
     const double tenths = std::round(turned * 10.0) / 10.0;
     return static_cast<float>(std::fabs(turned - tenths) < 1e-4 ? tenths : turned);
 }

@@ -70,7 +70,7 @@ TEST(LevelTools, AStrokeAlongTheHorizonTurnsTheCamera) {
     workspace.AddPhotos({Q("a.bmp")}, {400, 300});
     workspace.Entry("CmdToolsLevel")->trigger();
     EXPECT_FALSE(workspace.Entry("CmdToolsLevel")->isChecked());
-    EXPECT_TRUE(workspace.Label("StatusText").contains(Q("Rectilinear")));
+    EXPECT_TRUE(workspace.Label("StatusText").contains(Q("Varnel")));
     workspace.Click("OptionRemap_1");
     workspace.Entry("CmdToolsLevel")->trigger();
     // Through the middle, upward to the right by 10 degrees.

@@ -35,10 +35,13 @@ TEST(Layout, AllSlidersShowOnALowScreenInBothLanguages) {
         TestWindow workspace;
         workspace.window.resize(1366, 700);  // less the frame and the desktop's bar
         workspace.AddPhotos({Text("a.bmp")});
-        workspace.Click("OptionRemap_1");
-        EXPECT_TRUE(testing::Settle());
-        for (const SliderRowData& row : SliderRows()) {
-            EXPECT_TRUE(IsInSight(*workspace.Slider(row.slider))) << language << row.slider;
+        for (const Projection projection : AllProjections()) {
+            workspace.ChooseProjection(projection);
+            EXPECT_TRUE(testing::Settle());
+            for (const SliderRowData& row : SliderRows()) {
+                EXPECT_EQ(IsInSight(*workspace.Slider(row.slider)), ShownWith(row, projection))
+                    << language << ToText(projection).toStdString() << row.slider;
+            }
         }
         EXPECT_TRUE(IsInSight(*workspace.Find("CommandSaveFreeimage"))) << language;
         EXPECT_TRUE(IsInSight(*workspace.Find("ImageList1"))) << language;

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/panels/projection_chooser.h"
+
+#include "remap/projection/projection_info.h"
+#include "state/dialogs/wheel_guard.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int ownButtons = 4;  // projections with a button; more would push the sliders off
+
+}  // namespace
+
+ProjectionChooser::ProjectionChooser(QGridLayout* grid, QWidget* parent)
+    : QObject(parent),
+      buttons_(new QButtonGroup(parent)),
+      more_(new QRadioButton(tr("More"), parent)),
+      list_(new QComboBox(parent)) {
+    buttons_->setObjectName(QStringLiteral("OptionRemap"));
+    AddButtons(grid, parent);
+    AddMore(grid);
+    buttons_->button(0)->setChecked(true);
+    connect(buttons_, &QButtonGroup::idClicked, this, [this](int id) {
+        Q_EMIT Chosen(id < ownButtons ? ProjectionFromIndex(id) : FromList());
+    });
+    connect(list_, &QComboBox::activated, this, [this] {
+        more_->setChecked(true);
+        Q_EMIT Chosen(FromList());
+    });
+}
+
+void ProjectionChooser::AddButtons(QGridLayout* grid, QWidget* parent) {
+    for (int index = 0; index < ownButtons; ++index) {
+        const Projection projection = ProjectionFromIndex(index);
+        auto* const button = new QRadioButton(ToText(projection), parent);
+        button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
+        button->setToolTip(TipOf(projection));
+        buttons_->addButton(button, index);
+        grid->addWidget(button, index / 2, index % 2);
+    }
+}
+
+void ProjectionChooser::AddMore(QGridLayout* grid) {
+    for (const Projection projection : AllProjections()) {
+        if (const int index = static_cast<int>(projection); index >= ownButtons) {
+            list_->addItem(ToText(projection), index);
+            list_->setItemData(list_->count() - 1, TipOf(projection), Qt::ToolTipRole);
+        }
+    }
+    more_->setObjectName(QStringLiteral("OptionRemapMore"));
+    more_->setToolTip(tr("The projections of the list beside it"));
+    buttons_->addButton(more_, ownButtons);
+    list_->setObjectName(QStringLiteral("ProjectionCombo"));
+    list_->setAccessibleName(tr("More projections"));
+    list_->setMaxVisibleItems(list_->count());
+    list_->setFocusPolicy(Qt::StrongFocus);
+    new WheelGuard(list_);
+    connect(list_, &QComboBox::currentIndexChanged, this,
+            [this] { list_->setToolTip(TipOf(FromList())); });
+    list_->setToolTip(TipOf(FromList()));
+    grid->addWidget(more_, 2, 0);
+    grid->addWidget(list_, 2, 1, 1, 2);
+    more_->setVisible(list_->count() > 0);
+    list_->setVisible(list_->count() > 0);
+}
+
+Projection ProjectionChooser::FromList() const {
+    return ProjectionFromIndex(list_->currentData().toInt());
+}
+
+void ProjectionChooser::Show(Projection projection) {
+    const int index = static_cast<int>(projection);
+    if (index >= ownButtons) {
+        list_->setCurrentIndex(list_->findData(index));
+    }
+    buttons_->button(index < ownButtons ? index : ownButtons)->setChecked(true);
+}
+
+}  // namespace varnel

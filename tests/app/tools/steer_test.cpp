@@ -66,6 +66,31 @@ void ExpectNear(const SourcePosition& a, const SourcePosition& b) {
     EXPECT_LT(std::hypot(a.x - b.x, a.y - b.y), 0.3);
 }
 
+TEST_F(SteerResult, FollowsTheHandInEveryProjectionThatTurns) {
+    for (const Projection projection : AllProjections()) {
+        if (!CanTurn(projection)) {
+            continue;
+        }
+        SCOPED_TRACE(qPrintable(ToText(projection)));
+        workspace.ChooseProjection(projection);
+        workspace.Slider("SliderAOVoutput")->setValue(120);
+        testing::Settle();
+        const ImageRecord before = workspace.Record(1);
+        const QPoint from = At(0.6, 0.45);
+        const QPoint to = At(0.5, 0.35);
+        const SourcePosition grabbed = Place(from);
+        Drag(from, to);
+        ExpectNear(Place(to), grabbed);
+        const SourcePosition kept = Place(from);
+        Roll(from, 1);
+        ExpectNear(Place(from), kept);
+        EXPECT_LT(workspace.Record(1).OutputAOV, 120.0F);
+        workspace.Entry("CmdEditUndo")->trigger();
+        workspace.Entry("CmdEditUndo")->trigger();
+        EXPECT_EQ(workspace.Record(1), before);
+    }
+}
+
 TEST_F(SteerResult, ADragTakesTheGrabbedPlaceAlongAsOneStepOfTheCurrentPhoto) {
     workspace.ClickLine(1, Qt::ControlModifier);
     workspace.ClickLine(0, Qt::ControlModifier);  // out of the selection and

@@ -155,5 +155,19 @@ TEST(Steering, GoesByWhatTheProjectionReads) {
     }
 }
 
+// A view all round has no end to the left or right.
+TEST(Steering, GoesOnBehindTheCamera) {
+    EXPECT_EQ(WithinReach(SliderId::Y, Projection::Equirectangular, 190.0), -170.0);
+    EXPECT_EQ(WithinReach(SliderId::Y, Projection::Equirectangular, -180.0), -180.0);
+    EXPECT_EQ(WithinReach(SliderId::Y, Projection::Rectilinear, 190.0), 180.0);
+    EXPECT_EQ(WithinReach(SliderId::Y, Projection::Varnel, 190.0), 180.0);
+    EXPECT_EQ(WithinReach(SliderId::AovOutput, Projection::Orthographic, 190.0), 180.0);
+    Steered steered = SteeredBy(cases[0]);
+    steered.image.Projection = static_cast<std::int16_t>(Projection::Equirectangular);
+    steered.image.OutputAOV = 350.0F;
+    EXPECT_EQ(WidenedAt(steered, {300, 200}, -1.0).OutputAOV, 360.0F);
+    EXPECT_NEAR(WidenedAt(steered, {300, 200}, 1.0).OutputAOV, 350.0 / 1.05, 1e-3);
+}
+
 }  // namespace
 }  // namespace varnel

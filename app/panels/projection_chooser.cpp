@@ -10,7 +10,11 @@ namespace varnel {
 
 namespace {
 
-constexpr int ownButtons = 4;  // projections with a button; more would push the sliders off
+constexpr int moreId = 4;  // of the button for all without one of their own
+
+bool HasButton(Projection projection) {
+    return InfoOf(projection).basic;
+}
 
 }  // namespace
 
@@ -23,9 +27,8 @@ ProjectionChooser::ProjectionChooser(QGridLayout* grid, QWidget* parent)
     AddButtons(grid, parent);
     AddMore(grid);
     buttons_->button(0)->setChecked(true);
-    connect(buttons_, &QButtonGroup::idClicked, this, [this](int id) {
-        Q_EMIT Chosen(id < ownButtons ? ProjectionFromIndex(id) : FromList());
-    });
+    connect(buttons_, &QButtonGroup::idClicked, this,
+            [this](int id) { Q_EMIT Chosen(id == moreId ? FromList() : ProjectionFromIndex(id)); });
     connect(list_, &QComboBox::activated, this, [this] {
         more_->setChecked(true);
         Q_EMIT Chosen(FromList());
@@ -33,9 +36,12 @@ ProjectionChooser::ProjectionChooser(QGridLayout* grid, QWidget* parent)
 }
 
 void ProjectionChooser::AddButtons(QGridLayout* grid, QWidget* parent) {
-    for (int index = 0; index < ownButtons; ++index) {
-        const Projection projection = ProjectionFromIndex(index);
-        auto* const button = new QRadioButton(ToText(projection), parent);
+    for (const Projection projection : AllProjections()) {
+        if (!HasButton(projection)) {
+            continue;
+        }
+        const int index = static_cast<int>(projection);
+        auto* const button = new QRadioButton(TitleOf(projection), parent);
         button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
         button->setToolTip(TipOf(projection));
         buttons_->addButton(button, index);
@@ -45,14 +51,14 @@ void ProjectionChooser::AddButtons(QGridLayout* grid, QWidget* parent) {
 
 void ProjectionChooser::AddMore(QGridLayout* grid) {
     for (const Projection projection : AllProjections()) {
-        if (const int index = static_cast<int>(projection); index >= ownButtons) {
-            list_->addItem(ToText(projection), index);
+        if (!HasButton(projection)) {
+            list_->addItem(TitleOf(projection), static_cast<int>(projection));
             list_->setItemData(list_->count() - 1, TipOf(projection), Qt::ToolTipRole);
         }
     }
     more_->setObjectName(QStringLiteral("OptionRemapMore"));
     more_->setToolTip(tr("The projections of the list beside it"));
-    buttons_->addButton(more_, ownButtons);
+    buttons_->addButton(more_, moreId);
     list_->setObjectName(QStringLiteral("ProjectionCombo"));
     list_->setAccessibleName(tr("More projections"));
     list_->setMaxVisibleItems(list_->count());
@@ -63,8 +69,6 @@ void ProjectionChooser::AddMore(QGridLayout* grid) {
     list_->setToolTip(TipOf(FromList()));
     grid->addWidget(more_, 2, 0);
     grid->addWidget(list_, 2, 1, 1, 2);
-    more_->setVisible(list_->count() > 0);
-    list_->setVisible(list_->count() > 0);
 }
 
 Projection ProjectionChooser::FromList() const {
@@ -73,10 +77,10 @@ Projection ProjectionChooser::FromList() const {
 
 void ProjectionChooser::Show(Projection projection) {
     const int index = static_cast<int>(projection);
-    if (index >= ownButtons) {
+    if (!HasButton(projection)) {
         list_->setCurrentIndex(list_->findData(index));
     }
-    buttons_->button(index < ownButtons ? index : ownButtons)->setChecked(true);
+    buttons_->button(HasButton(projection) ? index : moreId)->setChecked(true);
 }
 
 }  // namespace varnel

@@ -89,10 +89,10 @@ LevelTools::LevelTools(QMainWindow* window, const WindowParts& parts, WindowView
 // Tells why not.
 bool LevelTools::MayLevel() {
     const Projection projection = workspace_.model.controls.ChosenProjection();
-    const bool may = InfoOf(projection).levels;
+    const bool may = InfoOf(projection).levels != LevelKind::None;
     if (!may) {
         view_.ShowStatus(
-            tr("%1 cannot be levelled: it does not turn the camera.").arg(ToText(projection)));
+            tr("%1 cannot be levelled: it does not turn the camera.").arg(TitleOf(projection)));
     }
     return may;
 }
@@ -140,6 +140,9 @@ void LevelTools::Level() {
 void LevelTools::Store(const Levelling& level) {
     workspace_.model.controls.Set(SliderId::X, Whole(level.rotateX));
     workspace_.model.controls.Set(SliderId::Z, Whole(level.rotateZ));
+    if (level.unpanned) {
+        workspace_.model.controls.Set(SliderId::Y, 0);
+    }
     for (const int line : workspace_.model.list.SelectedLines()) {
         ImageRecord& image = state_.Images(line + 1);
         // The others get their gear first, from the workspace.

@@ -86,9 +86,9 @@ GearResult::GearResult(QLabel* label, QComboBox* projections)
     : QObject(label), label_(label), projections_(projections) {
     label_->setFixedSize(shownSize.width, shownSize.height);
     for (const Projection projection : AllProjections()) {
-        projections->addItem(ToText(projection), static_cast<int>(projection));
+        projections->addItem(TitleOf(projection), static_cast<int>(projection));
     }
-    projections->setCurrentText(ToText(Projection::Rectilinear));
+    projections->setCurrentText(TitleOf(Projection::Rectilinear));
     connect(projections, &QComboBox::currentIndexChanged, this, [this] {
         if (shown_) {
             Show(GearRecord(*shown_));

@@ -137,7 +137,7 @@ QString QueueLine(const ImageRecord& entry) {
     if (suffix.startsWith(frame)) {
         suffix.insert(frame.size(), u' ');
     }
-    const QString projection = ToText(ProjectionFromIndex(entry.Projection));
+    const QString projection = TitleOf(ProjectionFromIndex(entry.Projection));
     return QStringLiteral("%1 (%2)").arg(
         entry.FileName, suffix.isEmpty() ? projection : projection + QStringLiteral(", ") + suffix);
 }

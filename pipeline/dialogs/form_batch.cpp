@@ -115,17 +115,18 @@ void FormBatch::AddNameAdditions() {
     int gridRow = 0;
     for (const Projection projection : AllProjections()) {
         const QString name = ToText(projection);
+        const QString title = TitleOf(projection);
         auto* const box = new QLineEdit(ui_->AdditionRows);
         box->setObjectName(QStringLiteral("TextFileaddition") + name);
         box->setToolTip(tr("What follows the photo's own name in the names of %1 images; empty: "
-                           "the word %1")
-                            .arg(name));
-        box->setAccessibleName(tr("Name addition for %1").arg(name));
+                           "the word %2")
+                            .arg(title, name));
+        box->setAccessibleName(tr("Name addition for %1").arg(title));
         box->setMinimumWidth(120);
         box->setPlaceholderText(name);
         box->setText(job_.choices.additions.texts[projection]);
         box->setValidator(plain);
-        auto* const heading = new QLabel(u'&' + name, ui_->AdditionRows);
+        auto* const heading = new QLabel(u'&' + title, ui_->AdditionRows);
         heading->setObjectName(QStringLiteral("Heading") + box->objectName());
         heading->setBuddy(box);
         grid.addWidget(heading, gridRow, 0);

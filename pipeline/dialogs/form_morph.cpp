@@ -214,7 +214,7 @@ void FormMorph::MarkUnused() {
         }
     }
     ui_->LabelUnused->setText(
-        tr("* The projection %1 does not use this.").arg(ToText(ItsProjection())));
+        tr("* The projection %1 does not use this.").arg(TitleOf(ItsProjection())));
     ui_->LabelUnused->setForegroundRole(QPalette::PlaceholderText);
     ui_->LabelUnused->setVisible(any);
 }

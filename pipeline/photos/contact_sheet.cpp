@@ -46,7 +46,7 @@ ContactTile Tile(const ImageRecord& image, Projection projection, int strength) 
     Adopt(tile, adopted);
     tile.record = adopted;
     tile.title =
-        ToText(projection) + QStringLiteral(" ") + SliderCaption(SliderRowOf(control), value);
+        TitleOf(projection) + QStringLiteral(" ") + SliderCaption(SliderRowOf(control), value);
     tile.isCurrent = image.Projection == adopted.Projection &&
                      Whole(ValuesFor(image)) == Whole(ValuesFor(adopted)) &&
                      image.EffectVarnel == adopted.EffectVarnel;

@@ -188,4 +188,20 @@ LevelTurn TurnForHorizon(const Ray& normal, float effectPercent, const LevelTurn
     return Distance(upright, present) <= Distance(over, present) ? upright : over;
 }
 
+// Not panned, RayRotation takes the view's axis to (sinZ sinX, -cosZ sinX, cosX).
+LevelTurn TurnForPole(const Ray& normal, const LevelTurn& present) {
+    const double x = present.x * degree;
+    const double z = present.z * degree;
+    const Ray axis{std::sin(z) * std::sin(x), -std::cos(z) * std::sin(x), std::cos(x)};
+    const double side = Dot(axis, normal) < 0.0 ? -1.0 : 1.0;
+    const Ray pole{side * normal.x, side * normal.y, side * normal.z};
+    const double tilt = std::acos(std::clamp(pole.z, -1.0, 1.0)) / degree;
+    const double across = std::hypot(pole.x, pole.y);
+    constexpr double unfelt = 1e-9;  // along the axis every roll is as good
+    const double roll = across < unfelt ? present.z : std::atan2(pole.x, -pole.y) / degree;
+    const LevelTurn down{tilt, roll};
+    const LevelTurn up{-tilt, std::remainder(roll + 180.0, 360.0)};
+    return Distance(down, present) <= Distance(up, present) ? down : up;
+}
+
 }  // namespace varnel

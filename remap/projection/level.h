@@ -37,5 +37,8 @@ struct LevelTurn {
 // Of the two solutions, which show the horizon upright and upside down, the one that is nearer to
 // the present turns. The turn to the left or right keeps a horizon level and has no part in it.
 LevelTurn TurnForHorizon(const Ray& normal, float effectPercent, const LevelTurn& present);
+// For a view along the vertical, not panned: which of its two directions and of the two ways there
+// is the nearer one.
+LevelTurn TurnForPole(const Ray& normal, const LevelTurn& present);
 
 }  // namespace varnel

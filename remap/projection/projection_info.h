@@ -67,6 +67,10 @@ struct SheetVariants {
     std::array<double, strengthsPerProjection> values{};
 };
 
+// Where a horizon belongs: level through the middle of a view that can be turned, or round about a
+// view straight down or up.
+enum class LevelKind { None, Horizon, Pole };
+
 struct ProjectionInfo {
     Projection id = Projection::Varnel;
     const char16_t* key = u"";   // in settings and, in small letters, on the command line
@@ -80,8 +84,9 @@ struct ProjectionInfo {
     // The field of the record that SliderId::Effect stands for; null for none.
     float ImageRecord::*effect = nullptr;
     FrameSteering frame{};
-    // The view through a camera that can be turned, in which a level horizon is a straight line.
-    bool levels = false;
+    LevelKind levels = LevelKind::None;
+    // How far the view looks down before the camera is turned, degrees. Null: not at all.
+    float (*Stand)(const ImageRecord& image) = nullptr;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
     // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.

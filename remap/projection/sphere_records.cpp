@@ -17,7 +17,8 @@ double PaniniDOf(const ImageRecord& image) {
     return std::clamp(static_cast<double>(image.PaniniD), 0.0, 1.0);
 }
 
-// The tilt from the photo's axis to straight down, degrees.
+}  // namespace
+
 float TiltOfPlanet(const ImageRecord& image) {
     const float up = image.Tunnel ? 180.0F : 0.0F;
     switch (image.Pose) {
@@ -30,8 +31,6 @@ float TiltOfPlanet(const ImageRecord& image) {
     }
     return 90.0F - up;
 }
-
-}  // namespace
 
 float WidestPanini(const ImageRecord& image) {
     const double end = 2.0 * std::acos(-PaniniDOf(image)) / degree - 2.0;

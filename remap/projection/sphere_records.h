@@ -18,6 +18,8 @@ template <int degrees>
 float WidestOf(const ImageRecord& /*image*/) {
     return static_cast<float>(degrees);
 }
+// From the photo's axis to straight down, or for a tunnel up, by how the camera was held; degrees.
+float TiltOfPlanet(const ImageRecord& image);
 // By its d: below the angle at which the plane ends.
 float WidestPanini(const ImageRecord& image);
 

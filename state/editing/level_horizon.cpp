@@ -49,6 +49,14 @@ std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
     return rays;
 }
 
+// As the camera's stand sees a direction of the photo.
+Ray OnStand(const Ray& ray, const ImageRecord& image) {
+    const auto stand = InfoOf(ProjectionFromIndex(image.Projection)).Stand;
+    const double tilt = stand == nullptr ? 0.0 : static_cast<double>(stand(image)) * degree;
+    return {ray.x, std::cos(tilt) * ray.y + std::sin(tilt) * ray.z,
+            std::cos(tilt) * ray.z - std::sin(tilt) * ray.y};
+}
+
 Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
     Levelling level;
     const std::optional<HorizonFit> fit = FitHorizon(rays);
@@ -61,7 +69,9 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
         return level;
     }
     const LevelTurn present{static_cast<double>(image.RotateX), static_cast<double>(image.RotateZ)};
-    const LevelTurn turn = TurnForHorizon(fit->normal, EffectOf(image), present);
+    level.unpanned = InfoOf(ProjectionFromIndex(image.Projection)).levels == LevelKind::Pole;
+    const LevelTurn turn = level.unpanned ? TurnForPole(OnStand(fit->normal, image), present)
+                                          : TurnForHorizon(fit->normal, EffectOf(image), present);
     level.rotateX = turn.x;
     level.rotateZ = turn.z;
     level.beyondX = Beyond(SliderId::X, image, turn.x);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// From a horizon traced on the photo as shot to the record's tilt and roll. LevelHorizon throws
-// nothing, OffsetOf as ImageCentre.
+// From a horizon traced on the photo as shot to the record's tilt and roll, as its projection shows
+// a horizon. LevelHorizon throws nothing, OffsetOf as ImageCentre.
 #pragma once
 
 #include <span>
@@ -35,6 +35,7 @@ struct Levelling {
     double rotateZ = 0.0;
     double beyondX = 0.0;  // degrees past the slider's end, signed; 0 within
     double beyondZ = 0.0;
+    bool unpanned = false;  // the pan has to go, too
 };
 
 Levelling LevelHorizon(const ImageRecord& image, PixelSize source,

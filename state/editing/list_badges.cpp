@@ -20,7 +20,7 @@ struct Texts {
 }  // namespace
 
 ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error) {
-    const QString projection = ToText(ProjectionFromIndex(image.Projection));
+    const QString projection = TitleOf(ProjectionFromIndex(image.Projection));
     QString letters = projection.left(1);
     QStringList words{projection};
     if (image.SettingsApplied) {

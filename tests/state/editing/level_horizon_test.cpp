@@ -6,9 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <random>
 #include <vector>
 
+#include "remap/analysis/point_mapping.h"
+#include "remap/projection/projection_info.h"
 #include "remap/projection/record_maps.h"
 #include "remap/render/render.h"
 #include "state/records/projection.h"
@@ -85,6 +88,61 @@ INSTANTIATE_TEST_SUITE_P(
         Scene{"Tangent", wide, "GoPro", 29.0F, 2.0F, 100.0F, 20.0F, 10.0F, -11.0F},
         Scene{"Upright", {2000, 3000}, "Sigma", 16.0F, 0.5F, 100.0F, -8.0F, 0.0F, 6.0F}),
     [](const auto& scene) { return scene.param.name; });
+
+// Where a view shows the horizon: its middle row, or for a planet the ring at 90 degrees.
+std::vector<PicturePoint> TraceOnView(const ImageRecord& image, PixelSize size) {
+    const Projection projection = ProjectionFromIndex(image.Projection);
+    const PointMapping map(projection, image, size);
+    const InverseMapping photo(projection, image, size);
+    const double half = size.width / 2;
+    std::vector<PicturePoint> points;
+    for (double way = -1.0; way < 1.0; way += 0.01) {
+        const double turn = way * std::numbers::pi;
+        const bool planet = projection == Projection::LittlePlanet;
+        const auto place =
+            planet
+                ? map.At({half * (1.0 + std::cos(turn)), size.height / 2 + half * std::sin(turn)})
+                : map.At({half * (1.0 + way), size.height / 2.0});
+        if (place && photo.InPicture(*place)) {
+            points.push_back({place->x + 0.5, size.height - 0.5 - place->y});
+        }
+    }
+    return points;
+}
+
+TEST(LevelHorizon, PutsItWhereEveryViewHasIt) {
+    const struct {
+        Projection projection;
+        CameraPose pose;
+        float tilt, pan, roll;
+    } views[] = {{Projection::Stereographic, CameraPose::Level, 12, 0, -5},
+                 {Projection::Cylindrical, CameraPose::Level, -20, 30, 11},
+                 {Projection::Equirectangular, CameraPose::Level, 9, -15, 4},
+                 {Projection::LittlePlanet, CameraPose::Level, 14, 0, 23},
+                 {Projection::LittlePlanet, CameraPose::Down, 11, 0, 40},
+                 {Projection::Unrolled, CameraPose::Level, 8, 0, 30}};
+    for (const auto& view : views) {
+        ImageRecord image = testing::FisheyeRecord();
+        image.Projection = static_cast<std::int16_t>(view.projection);
+        image.OutputAOV = view.projection == Projection::Unrolled ? 360.0F : 180.0F;
+        image.UnrollFrom = 60.0F;
+        image.UnrollTo = 120.0F;
+        image.Pose = view.pose;
+        image.RotateX = view.tilt;
+        image.RotateY = view.pan;
+        image.RotateZ = view.roll;
+        const std::vector<PicturePoint> points = TraceOnView(image, wide);
+        image.RotateX = 0.0F;
+        image.RotateZ = 0.0F;
+        const Levelling level = LevelHorizon(image, wide, points);
+        SCOPED_TRACE(qPrintable(ToText(view.projection)));
+        EXPECT_EQ(level.error, LevelError::None);
+        EXPECT_NEAR(level.rotateX, static_cast<double>(view.tilt), 0.3);
+        EXPECT_NEAR(level.rotateZ, static_cast<double>(view.roll), 0.3);
+        EXPECT_EQ(level.unpanned, view.projection == Projection::LittlePlanet ||
+                                      view.projection == Projection::Unrolled);
+    }
+}
 
 TEST(LevelHorizon, TakesTheSolutionNearestToThePresent) {
     ImageRecord image = RecordOf({"", wide, "Sigma", 16.0F, 0.5F, 100.0F, 12.0F, 0.0F, -4.0F});

@@ -85,7 +85,7 @@ struct ProjectionInfo {
     float ImageRecord::*effect = nullptr;
     FrameSteering frame{};
     LevelKind levels = LevelKind::None;
-    // How far the view looks down before the camera is turned, degrees. Null: not at all.
+    // How far the view looks down within the camera that is turned, degrees. Null: not at all.
     float (*Stand)(const ImageRecord& image) = nullptr;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};

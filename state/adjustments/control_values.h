@@ -31,7 +31,7 @@ struct ControlValues {
     double unrollStart = 0.0;  // degrees
     double unrollFrom = 0.0;
     double unrollTo = 90.0;
-    std::array<int, choiceCount> choices{};  // see choice_table.h
+    std::array<int, choiceCount> choices{1};  // by ChoiceId, see choice_table.h
 
     bool operator==(const ControlValues&) const = default;
     int Choice(ChoiceId id) const { return choices[static_cast<std::size_t>(id)]; }

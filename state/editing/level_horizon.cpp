@@ -3,6 +3,7 @@
 
 #include "state/editing/level_horizon.h"
 
+#include <cmath>
 #include <numbers>
 #include <vector>
 
@@ -49,12 +50,12 @@ std::vector<Ray> RaysOf(const ImageRecord& image, PixelSize source,
     return rays;
 }
 
-// As the camera's stand sees a direction of the photo.
-Ray OnStand(const Ray& ray, const ImageRecord& image) {
-    const auto stand = InfoOf(ProjectionFromIndex(image.Projection)).Stand;
-    const double tilt = stand == nullptr ? 0.0 : static_cast<double>(stand(image)) * degree;
-    return {ray.x, std::cos(tilt) * ray.y + std::sin(tilt) * ray.z,
-            std::cos(tilt) * ray.z - std::sin(tilt) * ray.y};
+// Of a view straight down or up from a camera that was level, the camera itself is levelled.
+bool TurnsToPole(const ImageRecord& image) {
+    constexpr float quarterTurn = 90.0F;
+    const ProjectionInfo& row = InfoOf(ProjectionFromIndex(image.Projection));
+    const float stand = row.Stand == nullptr ? 0.0F : row.Stand(image);
+    return row.levels == LevelKind::Pole && std::fabs(stand) != quarterTurn;
 }
 
 Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
@@ -69,8 +70,8 @@ Levelling LevelRays(const ImageRecord& image, std::span<const Ray> rays) {
         return level;
     }
     const LevelTurn present{static_cast<double>(image.RotateX), static_cast<double>(image.RotateZ)};
-    level.unpanned = InfoOf(ProjectionFromIndex(image.Projection)).levels == LevelKind::Pole;
-    const LevelTurn turn = level.unpanned ? TurnForPole(OnStand(fit->normal, image), present)
+    level.unpanned = TurnsToPole(image);
+    const LevelTurn turn = level.unpanned ? TurnForPole(fit->normal, present)
                                           : TurnForHorizon(fit->normal, EffectOf(image), present);
     level.rotateX = turn.x;
     level.rotateZ = turn.z;

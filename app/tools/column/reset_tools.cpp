@@ -43,8 +43,10 @@ void ResetTools::Refresh() {
     for (const SliderRow* const row : rows) {
         panel_.Dot(row->Data().id)->setEnabled(commands_.IsUnusual(row->Data().id));
     }
-    const bool any = std::ranges::any_of(
-        rows, [this](const SliderRow* row) { return commands_.IsUnusual(row->Data().id); });
+    const bool any =
+        commands_.HasUnusualChoice() || std::ranges::any_of(rows, [this](const SliderRow* row) {
+            return commands_.IsUnusual(row->Data().id);
+        });
     entry_->setEnabled(any);
     panel_.ResetPhoto()->setEnabled(any);
 }

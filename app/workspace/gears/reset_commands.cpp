@@ -3,6 +3,10 @@
 
 #include "app/workspace/gears/reset_commands.h"
 
+#include <algorithm>
+
+#include "remap/projection/projection_info.h"
+#include "state/adjustments/choice_table.h"
 #include "state/adjustments/gear_assignment.h"
 #include "state/adjustments/usual_values.h"
 
@@ -16,6 +20,16 @@ bool ResetCommands::IsUnusual(SliderId slider) const {
     const ImageRecord* const image = workspace_.model.list.Current();
     return image != nullptr && HasGearNumbers(*image) &&
            varnel::IsUnusual(slider, *image, UsualRecord(*image, workspace_.model.state.Gear));
+}
+
+bool ResetCommands::HasUnusualChoice() const {
+    const ImageRecord* const image = workspace_.model.list.Current();
+    const auto isUnusual = [image](ChoiceId choice) {
+        const ChoiceRowData& row = ChoiceRowOf(choice);
+        return row.Of(*image) != row.Of(ImageRecord());
+    };
+    return image != nullptr &&
+           std::ranges::any_of(ChoicesOf(ProjectionFromIndex(image->Projection)), isUnusual);
 }
 
 void ResetCommands::Reset(SliderId slider) {

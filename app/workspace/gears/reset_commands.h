@@ -15,6 +15,8 @@ class ResetCommands {
 
     // Of the current photo; false without one.
     bool IsUnusual(SliderId slider) const;
+    // Any of the choices of its projection.
+    bool HasUnusualChoice() const;
     void Reset(SliderId slider);
     void ResetPhoto();
 

@@ -20,7 +20,7 @@ TEST(ContactSheet, OpensWithAKeyAndAdoptsTheTileThatIsClicked) {
     workspace.Entry("CmdContactSheet")->trigger();
     ASSERT_TRUE(sheet->isVisible());
     ASSERT_TRUE(QTest::qWaitFor([&] { return sheet->IsDrawn(); }));
-    ASSERT_EQ(sheet->Tiles().size(), 12U);
+    ASSERT_EQ(sheet->Tiles().size(), AllProjections().size() * strengthsPerProjection);
     for (std::size_t tile = 0; tile < sheet->Tiles().size(); ++tile) {
         EXPECT_FALSE(sheet->Picture(tile).isNull()) << tile;
         EXPECT_TRUE(sheet->rect().contains(sheet->CellOf(tile))) << tile;
@@ -37,11 +37,17 @@ TEST(ContactSheet, OpensWithAKeyAndAdoptsTheTileThatIsClicked) {
     workspace.Entry("CmdContactSheet")->trigger();
     QTest::keyClick(sheet, Qt::Key_Down);
     QTest::keyClick(sheet, Qt::Key_Return);
-    EXPECT_EQ(workspace.Record(1).Projection, 2);
+    std::size_t below = rectilinear75 + 1;
+    while (sheet->CellOf(below).left() != sheet->CellOf(rectilinear75).left()) {
+        ++below;
+    }
+    EXPECT_GT(sheet->CellOf(below).top(), sheet->CellOf(rectilinear75).top());
+    const ImageRecord chosen = workspace.Record(1);
+    EXPECT_EQ(chosen.Projection, static_cast<int>(below) / strengthsPerProjection);
     workspace.Entry("CmdContactSheet")->trigger();
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_FALSE(sheet->isVisible());
-    EXPECT_EQ(workspace.Record(1).Projection, 2);
+    EXPECT_EQ(workspace.Record(1), chosen);
 }
 
 }  // namespace

@@ -74,7 +74,6 @@ TEST_F(MoreProjections, AreChosenFromTheListAndUndone) {
 TEST_F(MoreProjections, HaveSlidersThatStoreAndReset) {
     for (const Projection projection : Further()) {
         workspace.ChooseProjection(projection);
-        workspace.Click("CmdResetPhoto");
         const ImageRecord usual = workspace.Record(1);
         for (const SliderRowData& row : SliderRows()) {
             QSlider* const slider = workspace.Slider(row.slider);
@@ -89,10 +88,15 @@ TEST_F(MoreProjections, HaveSlidersThatStoreAndReset) {
             EXPECT_FLOAT_EQ(workspace.Record(1).*field->field,
                             static_cast<float>(value / field->factor))
                 << row.slider;
-            EXPECT_TRUE(testing::Settle());
-            workspace.Click(qPrintable(QStringLiteral("Dot") + QLatin1StringView(row.slider)));
-            EXPECT_EQ(workspace.Record(1), usual) << row.slider;
+            if (row.id >= SliderId::PaniniD) {
+                EXPECT_TRUE(testing::Settle());
+                workspace.Click(qPrintable(QStringLiteral("Dot") + QLatin1StringView(row.slider)));
+                EXPECT_EQ(workspace.Record(1).*field->field, usual.*field->field) << row.slider;
+            }
         }
+        EXPECT_TRUE(testing::Settle());
+        workspace.Click("CmdResetPhoto");
+        EXPECT_EQ(workspace.Record(1), usual);
     }
 }
 

@@ -33,6 +33,7 @@ struct Scene {
 ImageRecord RecordOf(const Scene& scene) {
     ImageRecord image = testing::FisheyeRecord();
     image.Landscape = scene.size.width >= scene.size.height;
+    image.Projection = static_cast<std::int16_t>(Projection::Rectilinear);
     image.LensBrand = QString::fromLatin1(scene.brand);
     image.LensMapScale = scene.scale;
     image.LensMapFactor = scene.factor;
@@ -118,7 +119,7 @@ TEST(LevelHorizon, PutsItWhereEveryViewHasIt) {
     } views[] = {{Projection::Stereographic, CameraPose::Level, 12, 0, -5},
                  {Projection::Cylindrical, CameraPose::Level, -20, 30, 11},
                  {Projection::Equirectangular, CameraPose::Level, 9, -15, 4},
-                 {Projection::LittlePlanet, CameraPose::Level, 14, 0, 23},
+                 {Projection::LittlePlanet, CameraPose::Level, 14, 25, 23},
                  {Projection::LittlePlanet, CameraPose::Down, 11, 0, 40},
                  {Projection::Unrolled, CameraPose::Level, 8, 0, 30}};
     for (const auto& view : views) {
@@ -139,8 +140,8 @@ TEST(LevelHorizon, PutsItWhereEveryViewHasIt) {
         EXPECT_EQ(level.error, LevelError::None);
         EXPECT_NEAR(level.rotateX, static_cast<double>(view.tilt), 0.3);
         EXPECT_NEAR(level.rotateZ, static_cast<double>(view.roll), 0.3);
-        EXPECT_EQ(level.unpanned, view.projection == Projection::LittlePlanet ||
-                                      view.projection == Projection::Unrolled);
+        EXPECT_EQ(level.unpanned,
+                  view.pose == CameraPose::Down || view.projection == Projection::Unrolled);
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include <cmath>
 
+#include "state/adjustments/slider_table.h"
 #include "tests/support/records.h"
 
 namespace varnel {

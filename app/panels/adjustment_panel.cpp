@@ -5,11 +5,13 @@
 
 #include <QCoreApplication>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "app/panels/named_button.h"
 #include "app/panels/spacing.h"
+#include "app/panels/title_corner.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -28,12 +30,19 @@ AdjustmentPanel::AdjustmentPanel(QWidget* parent) : QWidget(parent) {
 }
 
 QGroupBox* AdjustmentPanel::MakeRemap() {
-    auto* const remap = new QGroupBox(tr("Remap"), this);
+    auto* const remap = new TitleCornerBox(tr("Remap"), this);
     remap->setObjectName(QStringLiteral("FrameRemap"));
+    QWidget* const whole = MakeWholePhoto(remap);
+    remap->SetCorner(whole);
     auto* const column = new QVBoxLayout(remap);
-    column->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
+    column->setContentsMargins(groupMargin, rowGap, groupMargin, rowGap);
     column->setSpacing(rowGap);
-    column->addWidget(MakeProjections(remap));
+    auto* const projections = new QWidget(remap);
+    auto* const grid = new QGridLayout(projections);
+    grid->setContentsMargins({});
+    grid->setSpacing(rowGap);
+    projections_ = new ProjectionChooser(grid, projections);
+    column->addWidget(projections);
     choices_ = new ChoiceLine(remap);
     column->addWidget(choices_);
     for (const SliderId id :
@@ -65,23 +74,24 @@ FoldGroup* AdjustmentPanel::MakeRefine() {
     return group;
 }
 
-QWidget* AdjustmentPanel::MakeProjections(QGroupBox* remap) {
+QWidget* AdjustmentPanel::MakeWholePhoto(QGroupBox* remap) {
     auto* const box = new QWidget(remap);
-    auto* const grid = new QGridLayout(box);
-    grid->setContentsMargins({});
-    grid->setSpacing(rowGap);
-    projections_ = new ProjectionChooser(grid, box);
-    applyToAll_ = new QPushButton(tr("Apply to all"), box);
-    applyToAll_->setObjectName(QStringLiteral("CmdApplyAll2"));
-    applyToAll_->setToolTip(tr("Gives every photo in the list these settings and this gear"));
+    auto* const line = new QHBoxLayout(box);
+    line->setContentsMargins({});
+    line->setSpacing(rowGap);
+    applyToAll_ =
+        NamedButton("CmdApplyAll2", tr("Apply to all"),
+                    tr("Gives every photo in the list these settings and this gear"), box);
     // The gear has a button of the same text.
     applyToAll_->setAccessibleName(
         QStringLiteral("%1: %2").arg(remap->title(), applyToAll_->text()));
     resetPhoto_ =
         NamedButton("CmdResetPhoto", tr("Reset photo"),
                     tr("Gives all sliders of this photo the values of its gear again"), box);
-    grid->addWidget(applyToAll_, 0, 2);
-    grid->addWidget(resetPhoto_, 1, 2);
+    for (QPushButton* const button : {applyToAll_, resetPhoto_}) {
+        button->setFixedHeight(fontMetrics().height() + rowGap);  // about the title's
+        line->addWidget(button);
+    }
     return box;
 }
 

@@ -47,7 +47,7 @@ class AdjustmentPanel : public QWidget {
     FoldGroup* MakeTranspose();
     FoldGroup* MakeRefine();
     FoldGroup* MakePreview();
-    QWidget* MakeProjections(QGroupBox* remap);
+    QWidget* MakeWholePhoto(QGroupBox* remap);
     void AddRow(QLayout* layout, SliderId id);
     void AddDot(SliderRow& row);
     void AlignNumbers();

@@ -10,6 +10,7 @@ namespace varnel {
 
 namespace {
 
+constexpr int columns = 3;
 constexpr int moreId = 4;  // of the button for all without one of their own
 
 bool HasButton(Projection projection) {
@@ -19,13 +20,10 @@ bool HasButton(Projection projection) {
 }  // namespace
 
 ProjectionChooser::ProjectionChooser(QGridLayout* grid, QWidget* parent)
-    : QObject(parent),
-      buttons_(new QButtonGroup(parent)),
-      more_(new QRadioButton(tr("More"), parent)),
-      list_(new QComboBox(parent)) {
+    : QObject(parent), buttons_(new QButtonGroup(parent)) {
     buttons_->setObjectName(QStringLiteral("OptionRemap"));
     AddButtons(grid, parent);
-    AddMore(grid);
+    AddMore(grid, parent);
     buttons_->button(0)->setChecked(true);
     connect(buttons_, &QButtonGroup::idClicked, this,
             [this](int id) { Q_EMIT Chosen(id == moreId ? FromList() : ProjectionFromIndex(id)); });
@@ -45,11 +43,13 @@ void ProjectionChooser::AddButtons(QGridLayout* grid, QWidget* parent) {
         button->setObjectName(QStringLiteral("OptionRemap_%1").arg(index));
         button->setToolTip(TipOf(projection));
         buttons_->addButton(button, index);
-        grid->addWidget(button, index / 2, index % 2);
+        grid->addWidget(button, index / columns, index % columns);
     }
 }
 
-void ProjectionChooser::AddMore(QGridLayout* grid) {
+void ProjectionChooser::AddMore(QGridLayout* grid, QWidget* parent) {
+    more_ = new QRadioButton(tr("More"), parent);
+    list_ = new QComboBox(parent);
     for (const Projection projection : AllProjections()) {
         if (!HasButton(projection)) {
             list_->addItem(TitleOf(projection), static_cast<int>(projection));
@@ -67,8 +67,11 @@ void ProjectionChooser::AddMore(QGridLayout* grid) {
     connect(list_, &QComboBox::currentIndexChanged, this,
             [this] { list_->setToolTip(TipOf(FromList())); });
     list_->setToolTip(TipOf(FromList()));
-    grid->addWidget(more_, 2, 0);
-    grid->addWidget(list_, 2, 1, 1, 2);
+    list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list_->setMinimumContentsLength(14);
+    grid->addWidget(more_, moreId / columns, moreId % columns);
+    grid->addWidget(list_, moreId / columns, moreId % columns + 1);
+    grid->setColumnStretch(columns - 1, 1);
 }
 
 Projection ProjectionChooser::FromList() const {

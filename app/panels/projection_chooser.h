@@ -17,7 +17,7 @@ namespace varnel {
 class ProjectionChooser : public QObject {
     Q_OBJECT
   public:
-    // Fills the grid's first two columns, and a line below them that is as wide as the grid.
+    // Fills the grid, two lines.
     ProjectionChooser(QGridLayout* grid, QWidget* parent);
 
     // Without a signal.
@@ -31,12 +31,12 @@ class ProjectionChooser : public QObject {
 
   private:
     void AddButtons(QGridLayout* grid, QWidget* parent);
-    void AddMore(QGridLayout* grid);
+    void AddMore(QGridLayout* grid, QWidget* parent);
     Projection FromList() const;
 
     QButtonGroup* buttons_;
-    QRadioButton* more_;
-    QComboBox* list_;
+    QRadioButton* more_ = nullptr;
+    QComboBox* list_ = nullptr;
 };
 
 }  // namespace varnel

@@ -98,8 +98,16 @@ void SliderRow::SetRange(const ControlRange& range, const ControlRange& reach) {
     const double value = std::clamp<double>(value_, reach.minimum, reach.maximum);
     silent_ = true;
     slider_->setRange(range.minimum, range.maximum);
+    slider_->setTickInterval(TickInterval(range));
     silent_ = false;
     Show(value);
+}
+
+// Wide ranges have no more ticks than can be told apart.
+int SliderRow::TickInterval(const ControlRange& range) const {
+    constexpr int mostTicks = 24;
+    const int ticks = (range.maximum - range.minimum) / data_.tickInterval;
+    return data_.tickInterval * (ticks / (mostTicks + 1) + 1);
 }
 
 void SliderRow::SetShown(bool shown) {

@@ -46,6 +46,7 @@ class SliderRow : public QWidget {
     void OnSlider(int value);
     void OnTyped(double value);
     void ShowText();
+    int TickInterval(const ControlRange& range) const;
     void Report();
     void OnReleased();
 

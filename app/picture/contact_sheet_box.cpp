@@ -117,10 +117,15 @@ void ContactSheetBox::Draw(std::size_t tile) {
     }
 }
 
+// Where projections stand beside one another, their names stand above their pictures.
+int ContactSheetBox::HeadingHeight(int columns) const {
+    return columns > strengthsPerProjection ? fontMetrics().height() : 0;
+}
+
 QSize ContactSheetBox::CellSize(int columns) const {
     const int rows = (static_cast<int>(tiles_.size()) + columns - 1) / columns;
     return {(width() - margin * (columns + 1)) / columns,
-            rows == 0 ? 0 : (height() - margin * (rows + 1)) / rows};
+            rows == 0 ? 0 : (height() - margin * (rows + 1)) / rows - HeadingHeight(columns)};
 }
 
 // As many projections beside one another as make the pictures largest.
@@ -144,8 +149,9 @@ int ContactSheetBox::Columns() const {
 QRect ContactSheetBox::CellOf(std::size_t tile) const {
     const int n = static_cast<int>(tile);
     const QSize cell = CellSize(columns_);
+    const int heading = HeadingHeight(columns_);
     return {QPoint(margin + n % columns_ * (cell.width() + margin),
-                   margin + n / columns_ * (cell.height() + margin)),
+                   margin + heading + n / columns_ * (cell.height() + heading + margin)),
             cell};
 }
 
@@ -176,14 +182,27 @@ void ContactSheetBox::PaintTile(QPainter& painter, std::size_t tile) const {
         painter.setPen(QPen(marked ? markedFrame : currentFrame, 2));
         painter.drawRect(place.toRect().adjusted(-2, -2, 1, 1));
     }
-    QString title = tiles_[tile].title;
+    PaintTitle(painter, tile);
+}
+
+void ContactSheetBox::PaintTitle(QPainter& painter, std::size_t tile) const {
+    const QRect cell = CellOf(tile);
+    const int line = fontMetrics().height();
+    const bool grouped = HeadingHeight(columns_) > 0;
+    if (grouped && tile % strengthsPerProjection == 0) {
+        painter.setPen(titleText);
+        const int across = strengthsPerProjection * (cell.width() + margin) - margin;
+        painter.drawText(QRect(cell.left(), cell.top() - line, across, line), Qt::AlignCenter,
+                         tiles_[tile].projection);
+    }
+    QString title = grouped ? tiles_[tile].strength : tiles_[tile].title;
     if (tiles_[tile].isCurrent) {
         title += tr(" (as it is)");
     }
     painter.setPen(tiles_[tile].isCurrent ? currentFrame : titleText);
     painter.drawText(QRect(cell.left(), cell.bottom() - line + 1, cell.width(), line),
                      Qt::AlignCenter,
-                     fontMetrics().elidedText(title, Qt::ElideMiddle, cell.width()));
+                     fontMetrics().elidedText(title, Qt::ElideRight, cell.width()));
 }
 
 void ContactSheetBox::paintEvent(QPaintEvent* /*event*/) {

@@ -48,7 +48,9 @@ class ContactSheetBox : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    int HeadingHeight(int columns) const;
     QSize CellSize(int columns) const;
+    void PaintTitle(QPainter& painter, std::size_t tile) const;
     int Columns() const;
     int TileAt(QPoint position) const;  // -1 for none
     void DrawNext();

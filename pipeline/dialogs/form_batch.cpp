@@ -37,6 +37,11 @@ void ShowText(QLabel* label, const QString& text) {
     label->setVisible(!text.isEmpty());
 }
 
+// There are not letters enough for all.
+QString MarkedTitle(Projection projection) {
+    return InfoOf(projection).basic ? u'&' + TitleOf(projection) : TitleOf(projection);
+}
+
 // The rows scroll where there are many.
 int RoomForRows(int height, int rows) {
     constexpr int mostShown = 5;
@@ -126,7 +131,7 @@ void FormBatch::AddNameAdditions() {
         box->setPlaceholderText(name);
         box->setText(job_.choices.additions.texts[projection]);
         box->setValidator(plain);
-        auto* const heading = new QLabel(u'&' + title, ui_->AdditionRows);
+        auto* const heading = new QLabel(MarkedTitle(projection), ui_->AdditionRows);
         heading->setObjectName(QStringLiteral("Heading") + box->objectName());
         heading->setBuddy(box);
         grid.addWidget(heading, gridRow, 0);

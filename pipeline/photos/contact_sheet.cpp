@@ -45,8 +45,9 @@ ContactTile Tile(const ImageRecord& image, Projection projection, int strength) 
     ImageRecord adopted = image;
     Adopt(tile, adopted);
     tile.record = adopted;
-    tile.title =
-        TitleOf(projection) + QStringLiteral(" ") + SliderCaption(SliderRowOf(control), value);
+    tile.projection = TitleOf(projection);
+    tile.strength = SliderCaption(SliderRowOf(control), value);
+    tile.title = tile.projection + QStringLiteral(" ") + tile.strength;
     tile.isCurrent = image.Projection == adopted.Projection &&
                      Whole(ValuesFor(image)) == Whole(ValuesFor(adopted)) &&
                      image.EffectVarnel == adopted.EffectVarnel;

@@ -17,6 +17,8 @@ namespace varnel {
 struct ContactTile {
     ControlValues values;    // what the window's controls would show
     ImageRecord record;      // what adopting the tile makes of the photo's record
+    QString projection;      // "Rectilinear"
+    QString strength;        // "75 %"
     QString title;           // "Rectilinear 75 %"
     bool isCurrent = false;  // the photo's own settings
 };

@@ -66,7 +66,9 @@ QString PseudoLanguage::translate(const char* context, const char* text, const c
 
 QString Unmarked(const QString& text) {
     static const QRegularExpression names(
-        QStringLiteral("Varnel|Rectilinear|Equidistance|Horizon|TIFF?|JPEG|BMP|PNG|FreeImage|Morph"
+        QStringLiteral("Varnel|Rectilinear|Equidistance|Horizon|Stereographic|Panini|Cylindrical"
+                       "|Mercator|Equirectangular|Fisheye|Equidistant|Equisolid|Orthographic"
+                       "|LittlePlanet|Unrolled|TIFF?|JPEG|BMP|PNG|FreeImage|Morph"
                        "|English|Deutsch|Español|Français|OfsetX|OfsetY|GearRatio|Canon|EOS"
                        "|\\d+D|Sigma|EX|mm|f:|DejaVu"
                        "|https://\\S+|(?:[\\w.-]*/)+[\\w.-]*|\\w+\\.(?:bmp|tif|TIF|JPG)"

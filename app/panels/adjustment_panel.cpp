@@ -35,7 +35,7 @@ QGroupBox* AdjustmentPanel::MakeRemap() {
     QWidget* const whole = MakeWholePhoto(remap);
     remap->SetCorner(whole);
     auto* const column = new QVBoxLayout(remap);
-    column->setContentsMargins(groupMargin, rowGap, groupMargin, rowGap);
+    column->setContentsMargins(groupMargin, 0, groupMargin, rowGap);
     column->setSpacing(rowGap);
     auto* const projections = new QWidget(remap);
     auto* const grid = new QGridLayout(projections);

@@ -196,7 +196,7 @@ void ContactSheetBox::PaintTitle(QPainter& painter, std::size_t tile) const {
                          tiles_[tile].projection);
     }
     QString title = grouped ? tiles_[tile].strength : tiles_[tile].title;
-    if (tiles_[tile].isCurrent) {
+    if (tiles_[tile].isCurrent && !grouped) {  // its colour says it as well
         title += tr(" (as it is)");
     }
     painter.setPen(tiles_[tile].isCurrent ? currentFrame : titleText);

@@ -93,8 +93,8 @@ std::unique_ptr<ProjectionMap> MakeOfCircle(const ImageRecord& image, const Fram
 
 std::unique_ptr<ProjectionMap> MakeRectilinear(const ImageRecord& image, const Frames& frames) {
     const RectilinearView view = RectilinearViewOf(image, frames);
-    if (const CameraMove move = CameraMoveOf(image); move.Moves()) {
-        return std::make_unique<RotatedRectilinearMap>(view, move);
+    if (const CameraMove move = CameraMoveOf(image); move.Moves() || !image.Faces.empty()) {
+        return std::make_unique<RotatedRectilinearMap>(view, move, image.Faces);
     }
     return std::make_unique<RectilinearMap>(view);
 }

@@ -4,6 +4,10 @@
 #include "remap/projection/maps/rectilinear_map.h"
 
 #include <cmath>
+#include <limits>
+#include <numbers>
+#include <utility>
+#include <vector>
 
 #include "base/rounding.h"
 #include "remap/projection/maps/map_nodes.h"
@@ -21,6 +25,25 @@ float Shift(float percent, const OutputFrame& frame, std::int32_t PixelSize::*si
     constexpr double aside = 1.0 / 256.0;
     return ToSingle(isTie ? pixels + aside : pixels, name);
 }
+
+// The nodes of a view with faces: none where these are so small that nodes would step over them.
+class FaceNodes : public SmoothNodes {
+  public:
+    FaceNodes(const RotatedRectilinearMap& map, std::unique_ptr<SmoothNodes> nodes)
+        : map_(map), nodes_(std::move(nodes)) {}
+    void Fill(const NodeRun& run, const NodeValues& values) const override {
+        nodes_->Fill(run, values);
+        for (std::size_t n = 0; n < values.u.size(); ++n) {
+            if (map_.Faces().IsFine(map_.PlaceOf(run.PlaceOf(n), run.y), run.step / map_.Focal())) {
+                values.u[n] = values.v[n] = std::numeric_limits<double>::quiet_NaN();
+            }
+        }
+    }
+
+  private:
+    const RotatedRectilinearMap& map_;
+    std::unique_ptr<SmoothNodes> nodes_;
+};
 
 }  // namespace
 
@@ -66,17 +89,41 @@ SourceOffset RectilinearMap::At(int x, int y) const {
     return FromAxis({across * rho / r, up * rho / r});
 }
 
-RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move)
+RotatedRectilinearMap::RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move,
+                                             std::span<const FaceEllipse> faces)
     : SmoothMap(view.source, view.output),
       radius_(view),
       rotation_(RotationAngles(move.rotateX, move.rotateY, move.rotateZ, view.effect)),
       focal_(radius_.HalfWidth() /
              std::fabs(NonZero(radius_.TanHalfAngle(), ReasonCode::TangentOfHalfAngle))),
       shiftX_(Shift(move.translateX, view.output, &PixelSize::width, "TranslateX")),
-      shiftY_(Shift(move.translateY, view.output, &PixelSize::height, "TranslateY")) {}
+      shiftY_(Shift(move.translateY, view.output, &PixelSize::height, "TranslateY")) {
+    std::vector<PlaneEllipse> ellipses;
+    for (const FaceEllipse& face : faces) {
+        ellipses.push_back(OnPlane(face));
+    }
+    faces_ = FaceWarps(ellipses);
+}
+
+// A place of the frame is half a pixel off from the middle of the pixel that begins there; a
+// position is written a shift away from the column that its ray goes through, see ShiftX.
+PlaneEllipse RotatedRectilinearMap::OnPlane(const FaceEllipse& face) const {
+    const PixelSize frame = Output().Whole();
+    const PixelPosition corner = Output().corner;
+    const double x = face.x * frame.width - 0.5 - corner.x - Extents().cx;
+    const double y = (1.0 - face.y) * frame.height - 0.5 - corner.y - Extents().cy;
+    const double angle = face.angle * std::numbers::pi / 180.0;
+    return {{(x + 2.0 * static_cast<double>(shiftX_)) / focal_,
+             (y + 2.0 * static_cast<double>(shiftY_)) / focal_},
+            face.width * frame.width / 2.0 / focal_,
+            face.height * frame.height / 2.0 / focal_,
+            std::cos(angle),
+            std::sin(angle)};
+}
 
 std::unique_ptr<SmoothNodes> RotatedRectilinearMap::Nodes() const {
-    return NodesFromAxis(RotatedRectilinearNodes(*this));
+    std::unique_ptr<SmoothNodes> nodes = NodesFromAxis(RotatedRectilinearNodes(*this));
+    return faces_.Empty() ? std::move(nodes) : std::make_unique<FaceNodes>(*this, std::move(nodes));
 }
 
 LoopAxis RotatedRectilinearMap::ColumnAxis() const {

@@ -5,7 +5,11 @@
 // shifted, which is symmetric about the circle centre in both axes, and the general one.
 #pragma once
 
+#include <span>
+
+#include "remap/projection/maps/face_warp.h"
 #include "remap/projection/smooth_map.h"
+#include "state/records/face_ellipse.h"
 
 namespace varnel {
 
@@ -79,7 +83,9 @@ class RectilinearMap : public SmoothMap {
 class RotatedRectilinearMap : public SmoothMap {
   public:
     // Throws OverflowError and as RectilinearRadius, and when the effective angle of view is 0.
-    RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move);
+    // Faces keep their shape before the camera turns: they are places on the result.
+    RotatedRectilinearMap(const RectilinearView& view, const CameraMove& move,
+                          std::span<const FaceEllipse> faces = {});
     // x and y are loop values: the ray goes through (x + ShiftX(), y + ShiftY()) and what it finds
     // is written at (x - ShiftX(), y - ShiftY()) from the centre. That the shift counts twice is
     // meant.
@@ -95,16 +101,30 @@ class RotatedRectilinearMap : public SmoothMap {
     double Focal() const { return focal_; }
     // The turned ray of a loop position; its z is along the optical axis.
     Ray TurnedRay(double x, double y) const {
-        return rotation_.Turn(
-            {x + static_cast<double>(shiftX_), y + static_cast<double>(shiftY_), focal_});
+        const Ray straight{x + static_cast<double>(shiftX_), y + static_cast<double>(shiftY_),
+                           focal_};
+        return rotation_.Turn(faces_.Empty() ? straight : Softened(straight));
     }
+    // The point of the plane that a loop position's ray goes through, without the faces.
+    PlanePoint PlaceOf(double x, double y) const {
+        return {(x + static_cast<double>(shiftX_)) / focal_,
+                (y + static_cast<double>(shiftY_)) / focal_};
+    }
+    const FaceWarps& Faces() const { return faces_; }
 
   private:
+    Ray Softened(const Ray& straight) const {
+        const PlanePoint place = faces_.At({straight.x / focal_, straight.y / focal_});
+        return {place.x * focal_, place.y * focal_, focal_};
+    }
+    PlaneEllipse OnPlane(const FaceEllipse& face) const;
+
     RectilinearRadius radius_;
     RayRotation rotation_;
     double focal_;
     float shiftX_;
     float shiftY_;
+    FaceWarps faces_;
 };
 
 static_assert(PixelMap<RectilinearMap> && PixelMap<RotatedRectilinearMap>);

@@ -82,6 +82,9 @@ constexpr std::array viewRows{
     OptionRow{u"outside", u"O",
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},
+    OptionRow{u"faces", u"X,Y,W,H[,A]",
+              u"Parts that keep their shape (rectilinear): ellipses in parts of 1 of the result, "
+              u"turned by A degrees; semicolons between several."},
     OptionRow{u"set", u"FIELD=VALUE",
               u"Any field of the image record, after all the rest; may be repeated."},
 };

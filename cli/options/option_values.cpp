@@ -11,6 +11,7 @@
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/output/name_pattern.h"
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/face_text.h"
 #include "state/adjustments/record_fields.h"
 
 namespace varnel {
@@ -193,6 +194,16 @@ std::pair<QString, QString> FieldOf(const QString& text) {
             break;
     }
     return {field, value};
+}
+
+QString FacesOf(const QString& text) {
+    if (text.isEmpty() || !FacesFromText(text)) {
+        throw UsageError{
+            QStringLiteral("--faces needs X,Y,WIDTH,HEIGHT in parts of 1, not \"%1\"; for example "
+                           "--faces 0.85,0.4,0.15,0.3 or two with a semicolon between them")
+                .arg(text)};
+    }
+    return text;
 }
 
 int FrameCountOf(const QString& text) {

@@ -37,6 +37,8 @@ bool IsChroma444(const QString& text);
 // The parts of FIELD=VALUE for --set; tried on an empty record, so that a wrong field or value is
 // reported before any photo is read.
 std::pair<QString, QString> FieldOf(const QString& text);
+// Ellipses as --set Faces= takes them, at least one.
+QString FacesOf(const QString& text);
 int FrameCountOf(const QString& text);
 std::vector<Adjustment> MorphEndOf(const QString& option, const QStringList& texts);
 // A photo (without an option's name) or a file to write: not standard input or output.

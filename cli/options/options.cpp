@@ -193,6 +193,10 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     TakeWords(parser, options);
+    if (const QString faces = QStringLiteral("faces"); parser.isSet(faces)) {
+        options.fields.emplace_back(QStringLiteral("Faces"),
+                                    FacesOf(parser.values(faces).join(u';')));
+    }
     for (const QString& text : parser.values(QStringLiteral("set"))) {
         options.fields.push_back(FieldOf(text));
     }

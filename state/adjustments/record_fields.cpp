@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/face_text.h"
 #include "state/adjustments/outside_text.h"
 #include "state/settings/number_text.h"
 
@@ -18,8 +19,8 @@ namespace {
 
 using FieldPointer =
     std::variant<std::int16_t ImageRecord::*, std::int32_t ImageRecord::*, Bool16 ImageRecord::*,
-                 float ImageRecord::*, QString ImageRecord::*, CameraPose ImageRecord::*,
-                 OutsideFill ImageRecord::*>;
+                 float ImageRecord::*, QString ImageRecord::*, OutsideFill ImageRecord::*,
+                 CameraPose ImageRecord::*, std::vector<FaceEllipse> ImageRecord::*>;
 
 struct Field {
     QLatin1StringView name;
@@ -86,10 +87,12 @@ constexpr std::array fields{
     VARNEL_FIELD(UnrollTo),
     VARNEL_FIELD(Pose),
     VARNEL_FIELD(Tunnel),
+    VARNEL_FIELD(Marks),
+    VARNEL_FIELD(Faces),
 };
 #undef VARNEL_FIELD
 #undef VARNEL_PART
-static_assert(fields.size() == 50);
+static_assert(fields.size() == 52);
 
 constexpr std::array poses{std::pair{QLatin1StringView("level"), CameraPose::Level},
                            std::pair{QLatin1StringView("up"), CameraPose::Up},
@@ -154,6 +157,11 @@ QString TextOf(std::int32_t value) {
     return QString::number(value);
 }
 
+std::optional<std::vector<FaceEllipse>> Parse(const QString& text,
+                                              const std::vector<FaceEllipse>& /*kind*/) {
+    return FacesFromText(text);
+}
+
 QString TextOf(std::int16_t value) {
     return QString::number(value);
 }
@@ -169,6 +177,10 @@ QString TextOf(float value) {
 
 QString TextOf(const QString& value) {
     return value;
+}
+
+QString TextOf(const std::vector<FaceEllipse>& value) {
+    return TextOfFaces(value);
 }
 
 QString TextOf(CameraPose value) {

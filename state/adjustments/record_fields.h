@@ -14,8 +14,8 @@ namespace varnel {
 enum class FieldResult { Ok, UnknownField, BadValue };
 
 // Numbers have a decimal point whatever the locale; a flag is True, False, 0, 1 or -1; Projection
-// also takes the projections' keys, Pose is level, up or down, or 0 to 2. Names are exact. The
-// record only changes when the result is Ok.
+// also takes the projections' keys, Pose is level, up or down, or 0 to 2, Faces are as in
+// face_text.h. Names are exact. The record only changes when the result is Ok.
 FieldResult SetField(ImageRecord& image, const QString& field, const QString& value);
 
 // The field's value as SetField takes it back, numbers bit by bit; empty for any other name.

@@ -20,7 +20,7 @@ TEST(FieldNames, ListsAllFieldsInTheRecordsOrder) {
             "Ratio InputAOV OutputAOV EffectVarnel EffectRectilinear RotateX RotateY RotateZ "
             "TranslateX TranslateY Folder FileName NameSuffix Orientation OutputWidth OutputHeight "
             "CropLeft CropTop CropWidth CropHeight Outside PaniniD PaniniSqueeze "
-            "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel"));
+            "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel Marks Faces"));
 }
 
 // A field whose row points at another member would set two names to one place.
@@ -32,6 +32,7 @@ TEST(SetField, ReachesADifferentMemberByEveryName) {
             name.startsWith(u"Crop") || name == u"OutputWidth" || name == u"OutputHeight";
         const QString value = name == u"Outside" ? QStringLiteral("#010203")
                               : name == u"Pose"  ? QStringLiteral("up")
+                              : name == u"Faces" ? QStringLiteral("0.5,0.5,0.1,0.1")
                               : isFrame          ? QStringLiteral("1")
                                                  : QStringLiteral("-1");
         EXPECT_EQ(SetField(image, name, value), FieldResult::Ok) << name.toStdString();
@@ -97,6 +98,16 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
         {"Projection", "2", Ok, "2"},
         {"Projection", "Round", BadValue},
         {"Projection", "70000", BadValue},
+        {"Faces", "0.85,0.4,0.15,0.3", Ok, "0.85,0.4,0.15,0.3,0"},
+        {"Faces", "0.85,0.4,0.15,0.3,-10;0.1,0.2,1e-3,4,0", Ok,
+         "0.85,0.4,0.15,0.3,-10;0.1,0.2,0.001,4,0"},
+        {"Faces", "", Ok, ""},
+        {"Faces", "0.85,0.4,0.15", BadValue},
+        {"Faces", "0.85,0.4,0.15,0.3,0,0", BadValue},
+        {"Faces", "0.85,0.4,0,0.3", BadValue},
+        {"Faces", "0.85,0.4,0.15,nan", BadValue},
+        {"Faces", "5,0.4,0.15,0.3", BadValue},
+        {"Faces", "0.85,0.4,0.15,0.3;", BadValue},
         {"GearName", "", Ok},
         {"ofsetX", "1", UnknownField},
         {"OffsetX", "1", UnknownField},

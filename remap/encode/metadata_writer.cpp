@@ -26,7 +26,7 @@ constexpr qsizetype longestIptcInJpeg = 65533 - 14;  // wrapped
 class Assembly {
   public:
     explicit Assembly(const Bitmap& bitmap)
-        : bitmap_(bitmap), photo_(bitmap.metadata.photo), settings_(bitmap.metadata.settings) {
+        : bitmap_(bitmap), photo_(bitmap.metadata.photo), own_(bitmap.metadata) {
         constexpr qsizetype tiffHeader = 8;
         if (photo_.exif.bytes.size() < tiffHeader) {
             photo_.exif = {};
@@ -35,7 +35,7 @@ class Assembly {
     }
 
     // Whether there is anything to be written.
-    bool IsNeeded() const { return !photo_.IsEmpty() || !settings_.isEmpty(); }
+    bool IsNeeded() const { return !photo_.IsEmpty() || HasOwnXmp(own_); }
     WrittenMetadata Jpeg();
     WrittenMetadata Png();
     WrittenMetadata Tiff();
@@ -50,13 +50,13 @@ class Assembly {
 
     const Bitmap& bitmap_;
     PhotoMetadata photo_;
-    const PictureSettings settings_;
+    const BitmapMetadata& own_;
     WrittenMetadata result_;
 };
 
 // With the settings, if they can be had; empty when there is nothing to be written.
 QByteArray Assembly::Packet() {
-    if (auto packet = PacketWithSettings(photo_, settings_)) {
+    if (auto packet = PacketWithOwn(own_)) {
         return std::move(*packet);
     }
     result_.notes += ReasonCode::NoPlaceForSettings;
@@ -83,7 +83,7 @@ void Assembly::AddShortXmp() {
     QByteArray packet = Packet();
     if (packet.size() > longestXmpInJpeg && !photo_.xmp.isEmpty()) {
         result_.notes += ReasonCode::XmpTooLong;
-        packet = settings_.isEmpty() ? QByteArray() : SettingsPacket(settings_);
+        packet = HasOwnXmp(own_) ? OwnPacket(own_) : QByteArray();
     }
     if (packet.size() > longestXmpInJpeg) {
         result_.notes += ReasonCode::SettingsTooLong;
@@ -149,8 +149,8 @@ constexpr std::array lostCodes{ReasonCode::None,
 Reason Assembly::LostIn(OutputType type) const {
     const OutputAbilities& holds = FormatOf(type).holds;
     const std::size_t lost =
-        (!holds.metadata && IsWorthKeeping() ? 1U : 0U) +
-        (!holds.metadata && !settings_.isEmpty() ? 2U : 0U) +
+        (!holds.metadata && (IsWorthKeeping() || own_.panorama) ? 1U : 0U) +
+        (!holds.metadata && !own_.settings.isEmpty() ? 2U : 0U) +
         (!holds.profile && !bitmap_.metadata.colourProfile.isEmpty() ? 4U : 0U);
     return lost == 0 ? Reason() : Reason(lostCodes[lost], ToText(type));
 }

@@ -3,8 +3,7 @@
 
 #include "remap/encode/xmp_settings.h"
 
-#include <algorithm>
-#include <utility>
+#include <QLatin1StringView>
 
 namespace varnel {
 
@@ -35,24 +34,65 @@ QByteArray DescriptionOf(const PictureSettings& settings) {
     return (text + QStringLiteral("</rdf:Description>\n")).toUtf8();
 }
 
-}  // namespace
-
-QByteArray SettingsPacket(const PictureSettings& settings) {
-    return packetStart + DescriptionOf(settings) + packetEnd;
+QByteArray DescriptionOf(const PanoramaInfo& panorama) {
+    QString text = QStringLiteral(
+        "<rdf:Description rdf:about=\"\" "
+        "xmlns:GPano=\"http://ns.google.com/photos/1.0/panorama/\">\n");
+    const auto add = [&text](const char* name, const QString& value) {
+        text += QStringLiteral("<GPano:%1>%2</GPano:%1>\n").arg(QLatin1StringView(name), value);
+    };
+    const auto addNumber = [&add](const char* name, int value) {
+        add(name, QString::number(value));
+    };
+    add("UsePanoramaViewer", QStringLiteral("True"));
+    add("ProjectionType", panorama.layout == PanoramaLayout::Cylindrical
+                              ? QStringLiteral("cylindrical")
+                              : QStringLiteral("equirectangular"));
+    addNumber("FullPanoWidthPixels", panorama.fullWidth);
+    addNumber("FullPanoHeightPixels", panorama.fullHeight);
+    addNumber("CroppedAreaLeftPixels", panorama.left);
+    addNumber("CroppedAreaTopPixels", panorama.top);
+    addNumber("CroppedAreaImageWidthPixels", panorama.width);
+    addNumber("CroppedAreaImageHeightPixels", panorama.height);
+    if (panorama.heading) {
+        add("PoseHeadingDegrees", QString::number(*panorama.heading, 'f', 2));
+    }
+    return (text + QStringLiteral("</rdf:Description>\n")).toUtf8();
 }
 
-std::optional<QByteArray> PacketWithSettings(const PhotoMetadata& photo,
-                                             const PictureSettings& settings) {
-    if (settings.isEmpty()) {
+QByteArray DescriptionsOf(const BitmapMetadata& picture) {
+    QByteArray all;
+    if (!picture.settings.isEmpty()) {
+        all += DescriptionOf(picture.settings);
+    }
+    if (picture.panorama) {
+        all += DescriptionOf(*picture.panorama);
+    }
+    return all;
+}
+
+}  // namespace
+
+bool HasOwnXmp(const BitmapMetadata& picture) {
+    return !picture.settings.isEmpty() || picture.panorama;
+}
+
+QByteArray OwnPacket(const BitmapMetadata& picture) {
+    return packetStart + DescriptionsOf(picture) + packetEnd;
+}
+
+std::optional<QByteArray> PacketWithOwn(const BitmapMetadata& picture) {
+    const PhotoMetadata& photo = picture.photo;
+    if (!HasOwnXmp(picture)) {
         return photo.xmp;
     }
     if (photo.xmp.isEmpty()) {
-        return SettingsPacket(settings);
+        return OwnPacket(picture);
     }
     if (photo.xmpPlace == 0 || photo.xmpPlace > static_cast<std::uint64_t>(photo.xmp.size())) {
         return std::nullopt;
     }
-    return QByteArray(photo.xmp).insert(photo.xmpPlace, DescriptionOf(settings));
+    return QByteArray(photo.xmp).insert(photo.xmpPlace, DescriptionsOf(picture));
 }
 
 }  // namespace varnel

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "base/run_time_error.h"
+#include "remap/image/panorama_info.h"
 #include "remap/projection/projection_map.h"
 #include "remap/projection/record_maps.h"
 #include "state/records/choice_id.h"
@@ -91,6 +92,8 @@ struct ProjectionInfo {
     SheetVariants sheet{};
     // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.
     float (*Widest)(const ImageRecord& image) = nullptr;
+    // As what 360 degree viewers take it.
+    PanoramaLayout panorama = PanoramaLayout::None;
     // The map of a record between a photo and a result. Throws RunTimeError when a number of the
     // record makes it impossible.
     std::unique_ptr<ProjectionMap> (*Make)(const ImageRecord& image,

@@ -8,6 +8,7 @@
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/projection_engine.h"
 #include "remap/render/outside.h"
+#include "remap/render/panorama.h"
 
 namespace varnel {
 
@@ -44,6 +45,9 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
         [&](int line) { run.Advance(map.ProgressAt(line)); });
     engine.BlackenTheRest();
     FillOutside(projection, image, run, context.keepsTransparency);
+    BitmapMetadata& metadata = run.Result()->metadata;
+    metadata.panorama =
+        PanoramaOfResult(projection, image, run.PhotoAndResult().output, metadata.photo);
 }
 
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,

@@ -113,6 +113,25 @@ std::multimap<int, QByteArray> Segments(const QByteArray& file) {
     return segments;
 }
 
+TEST(EncodeBitmap, SaysWhatThePictureCoversOfTheSphere) {
+    BitmapHandle photo = testing::In24Bits(testing::DescribedPicture().get());
+    photo->metadata.panorama =
+        PanoramaInfo{PanoramaLayout::Equirectangular, 122, 61, 30, 9, 61, 43, 271.255};
+    for (const OutputType type : {OutputType::Jpeg, OutputType::Png, OutputType::Tiff}) {
+        const QByteArray file = EncodeBitmap({type, 90, false}, photo.get()).bytes;
+        for (const char* part :
+             {"<GPano:ProjectionType>equirectangular</GPano:ProjectionType>",
+              "<GPano:FullPanoWidthPixels>122<", "<GPano:FullPanoHeightPixels>61<",
+              "<GPano:CroppedAreaLeftPixels>30<", "<GPano:CroppedAreaTopPixels>9<",
+              "<GPano:CroppedAreaImageWidthPixels>61<", "<GPano:CroppedAreaImageHeightPixels>43<",
+              "<GPano:PoseHeadingDegrees>271.2"}) {
+            EXPECT_EQ(file.count(part), 1) << part;
+        }
+    }
+    const EncodedBitmap bmp = EncodeBitmap({OutputType::Bmp, 90, false}, photo.get());
+    EXPECT_FALSE(bmp.note.isEmpty());
+}
+
 TEST(EncodeBitmap, PutsEachKindOfMetadataOnceIntoAJpegFile) {
     for (const Order order : orders) {
         for (const bool chroma444 : {false, true}) {

@@ -90,10 +90,10 @@ struct ProjectionInfo {
     float (*Stand)(const ImageRecord& image) = nullptr;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
-    // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.
-    float (*Widest)(const ImageRecord& image) = nullptr;
     // As what 360 degree viewers take it.
     PanoramaLayout panorama = PanoramaLayout::None;
+    // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.
+    float (*Widest)(const ImageRecord& image) = nullptr;
     // The map of a record between a photo and a result. Throws RunTimeError when a number of the
     // record makes it impossible.
     std::unique_ptr<ProjectionMap> (*Make)(const ImageRecord& image,

@@ -12,6 +12,7 @@
 #include "cli/measure_command.h"
 #include "cli/options/help_text.h"
 #include "cli/own_lenses.h"
+#include "cli/stitch_photos.h"
 #include "cli/take_preset.h"
 
 namespace varnel {
@@ -28,6 +29,17 @@ QString MissingFolder(const Options& options) {
     return QFileInfo::exists(folder)
                ? QStringLiteral("%1: this is no folder; name one").arg(folder)
                : QStringLiteral("%1: there is no such folder; make it first").arg(folder);
+}
+
+// Cameras with two lenses are in no catalogue.
+void GuessForStitching(Options& options) {
+    if (options.command != Command::Stitch) {
+        return;
+    }
+    if (!NamesGear(options) && !HasOnlyLens(options)) {
+        options.gear = guessGear;
+        options.circle = options.circle == CircleUse::Off ? CircleUse::Found : options.circle;
+    }
 }
 
 int Convert(Options options, SettingsStore& store, const Console& console) {
@@ -48,12 +60,14 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const QString error = TakeLensFile(options); !error.isEmpty()) {
         return Refuse(console, error);
     }
+    GuessForStitching(options);
     const auto gears = options.likeRecord && !NamesGear(options) ? GearChoice{GearRecord(), {}}
                                                                  : ChooseGear(options, store);
     if (const auto* error = std::get_if<QString>(&gears)) {
         return Refuse(console, *error);
     }
-    return ConvertPhotos(options, std::get<GearChoice>(gears), settings, console);
+    return (options.command == Command::Stitch ? StitchPhotos : ConvertPhotos)(
+        options, std::get<GearChoice>(gears), settings, console);
 }
 
 int Run(const QStringList& arguments, SettingsStore& store, const Console& console) {
@@ -77,6 +91,7 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
         case Command::ExportLens:
             break;
         case Command::Convert:
+        case Command::Stitch:
             return Convert(options, store, console);
     }
     const auto list = options.command == Command::ImportLens   ? ImportOwnLenses(options, store)

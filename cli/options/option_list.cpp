@@ -12,6 +12,9 @@ namespace {
 constexpr std::array photoRows{
     OptionRow{u"like", u"PICTURE",
               u"As that picture of Varnel's was made; other options win. Without PHOTO: its own."},
+    OptionRow{u"stitch", nullptr,
+              u"Two opposite circles, in one photo or two, as one equirectangular picture; "
+              u"--input-aov is the angle across each (default 190)."},
     OptionRow{u"no-auto-orient", nullptr,
               u"Take photos as they are stored, whatever their EXIF says."},
 };

@@ -86,6 +86,7 @@ Command CommandOf(const QCommandLineParser& parser) {
         std::pair{u"import-lens", Command::ImportLens},
         std::pair{u"export-lens", Command::ExportLens},
         std::pair{u"measure-lens", Command::MeasureLens},
+        std::pair{u"stitch", Command::Stitch},
     };
     for (const auto& [name, command] : commands) {
         if (parser.isSet(OptionText(name))) {
@@ -293,6 +294,31 @@ void CheckMeasuring(const Options& options) {
     }
 }
 
+void CheckStitching(const Options& options) {
+    if (options.command != Command::Stitch) {
+        return;
+    }
+    constexpr qsizetype mostPhotos = 2;
+    if (options.files.isEmpty() || options.files.size() > mostPhotos) {
+        throw UsageError{
+            QStringLiteral("--stitch takes one photo with two circles or two photos, not %1")
+                .arg(options.files.size())};
+    }
+    const std::array others{
+        std::pair{u"projection", options.projectionGiven},
+        std::pair{u"like", !options.like.isEmpty()},
+        std::pair{u"morph", options.morph.has_value()},
+        std::pair{u"preview", options.preview.has_value()},
+        std::pair{u"straighten", options.straighten},
+    };
+    for (const auto& [name, given] : others) {
+        if (given) {
+            throw UsageError{QStringLiteral("--%1 does not go with --stitch; leave it out")
+                                 .arg(OptionText(name))};
+        }
+    }
+}
+
 void CheckExporting(const Options& options) {
     if (options.command == Command::ExportLens &&
         options.lens.has_value() == !options.lensFile.isEmpty()) {
@@ -304,7 +330,9 @@ void CheckExporting(const Options& options) {
 void CheckTogether(const Options& options) {
     CheckMeasuring(options);
     CheckExporting(options);
-    if (options.command != Command::Convert) {
+    CheckStitching(options);
+    const bool stitches = options.command == Command::Stitch;
+    if (options.command != Command::Convert && !stitches) {
         return;
     }
     if (options.files.isEmpty() && options.like.isEmpty()) {
@@ -325,7 +353,8 @@ void CheckTogether(const Options& options) {
         throw UsageError{
             QStringLiteral("--output and --output-dir exclude each other; give one of the two")};
     }
-    if (!options.output.isEmpty() && (options.files.size() > 1 || options.projections.size() > 1)) {
+    if (!options.output.isEmpty() &&
+        ((options.files.size() > 1 && !stitches) || options.projections.size() > 1)) {
         throw UsageError{
             QStringLiteral("--output takes one photo and one projection; use "
                            "--output-dir for more")};
@@ -370,6 +399,9 @@ std::variant<Options, QString> ParseOptions(const QStringList& arguments) {
         }
         Options options = Take(parser);
         CheckTogether(options);
+        if (options.command == Command::Stitch) {
+            options.projections = {Projection::Equirectangular};
+        }
         return options;
     } catch (const UsageError& error) {
         return error.text;

@@ -22,6 +22,7 @@ namespace varnel {
 
 enum class Command {
     Convert,
+    Stitch,
     MeasureLens,
     ListCameras,
     ListLenses,

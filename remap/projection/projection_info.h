@@ -90,6 +90,8 @@ struct ProjectionInfo {
     float (*Stand)(const ImageRecord& image) = nullptr;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
+    // Columns are azimuths around the axis and rows angles from it, which marks can name.
+    bool azimuths = false;
     // As what 360 degree viewers take it.
     PanoramaLayout panorama = PanoramaLayout::None;
     // The largest output angle of view of a record, degrees: a larger one is cut to it. Null: none.

@@ -332,6 +332,7 @@ constexpr std::array rows{
         .levels = LevelKind::Pole,
         .tags = sphereTags,
         .sheet = Angles(90.0, 180.0, 360.0),
+        .azimuths = true,
         .Widest = WidestOf<360>,
         .Make = MakeSphere<UnrolledPlaneOf, WidestOf<360>>,
     },

@@ -8,9 +8,36 @@
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/projection_engine.h"
 #include "remap/render/outside.h"
+#include "remap/render/marks.h"
 #include "remap/render/panorama.h"
 
 namespace varnel {
+
+namespace {
+
+// Rows with marks on them.
+class MarkedRows : public RowRenderer {
+  public:
+    MarkedRows(std::unique_ptr<RowRenderer> rows, Marks marks, Bitmap& result)
+        : rows_(std::move(rows)), marks_(std::move(marks)), result_(result) {}
+    void DrawRow(std::int32_t row) override {
+        rows_->DrawRow(row);
+        marks_.DrawRow(result_, row);
+    }
+
+  private:
+    std::unique_ptr<RowRenderer> rows_;
+    Marks marks_;
+    Bitmap& result_;
+};
+
+void DrawMarks(const Marks& marks, Bitmap& result) {
+    for (std::int32_t row = 0; !marks.Empty() && row < result.Size().height; ++row) {
+        marks.DrawRow(result, row);
+    }
+}
+
+}  // namespace
 
 QString ToText(SizeKind kind) {
     switch (kind) {
@@ -45,6 +72,7 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
         [&](int line) { run.Advance(map.ProgressAt(line)); });
     engine.BlackenTheRest();
     FillOutside(projection, image, run, context.keepsTransparency);
+    DrawMarks(Marks(projection, image, run.PhotoAndResult().output), *run.Result());
     BitmapMetadata& metadata = run.Result()->metadata;
     metadata.panorama =
         PanoramaOfResult(projection, image, run.PhotoAndResult().output, metadata.photo);
@@ -52,7 +80,13 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
 
 std::unique_ptr<RowRenderer> RowsOf(Projection projection, const ImageRecord& image,
                                     const Frames& frames, const RenderSurface& surface) {
-    return std::make_unique<ProjectionEngine>(surface, ProjectionMaps(projection, image, frames));
+    auto engine =
+        std::make_unique<ProjectionEngine>(surface, ProjectionMaps(projection, image, frames));
+    Marks marks(projection, image, frames.output);
+    if (marks.Empty()) {
+        return engine;
+    }
+    return std::make_unique<MarkedRows>(std::move(engine), std::move(marks), *surface.Result());
 }
 
 }  // namespace varnel

@@ -85,6 +85,7 @@ constexpr std::array viewRows{
     OptionRow{u"outside", u"O",
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},
+    OptionRow{u"marks", nullptr, u"Draw N, E, S, W and angles onto the result (unrolled)."},
     OptionRow{u"faces", u"X,Y,W,H[,A]",
               u"Parts that keep their shape (rectilinear): ellipses in parts of 1 of the result, "
               u"turned by A degrees; semicolons between several."},

@@ -9,6 +9,7 @@
 
 #include "cli/options/frame_options.h"
 #include "cli/options/nearest.h"
+#include "cli/options/option_checks.h"
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
 #include "pipeline/conversion/morph_sequence.h"
@@ -166,6 +167,20 @@ void TakeFrame(const QCommandLineParser& parser, FrameWish& frame) {
     CheckTogether(frame);
 }
 
+// --set has the last word.
+void TakeFields(const QCommandLineParser& parser, Options& options) {
+    if (const QString faces = QStringLiteral("faces"); parser.isSet(faces)) {
+        options.fields.emplace_back(QStringLiteral("Faces"),
+                                    FacesOf(parser.values(faces).join(u';')));
+    }
+    if (parser.isSet(QStringLiteral("marks"))) {
+        options.fields.emplace_back(QStringLiteral("Marks"), QStringLiteral("True"));
+    }
+    for (const QString& text : parser.values(QStringLiteral("set"))) {
+        options.fields.push_back(FieldOf(text));
+    }
+}
+
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
@@ -194,13 +209,7 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"focal", options.focal, &FocalLengthOf);
     TakeNumbers(parser, options);
     TakeWords(parser, options);
-    if (const QString faces = QStringLiteral("faces"); parser.isSet(faces)) {
-        options.fields.emplace_back(QStringLiteral("Faces"),
-                                    FacesOf(parser.values(faces).join(u';')));
-    }
-    for (const QString& text : parser.values(QStringLiteral("set"))) {
-        options.fields.push_back(FieldOf(text));
-    }
+    TakeFields(parser, options);
     TakeIfSet(parser, u"morph", options.morph, &FrameCountOf);
     options.from = MorphEndOf(QStringLiteral("from"), parser.values(QStringLiteral("from")));
     options.to = MorphEndOf(QStringLiteral("to"), parser.values(QStringLiteral("to")));
@@ -280,57 +289,8 @@ bool IsOtherPictureName(const QString& name) {
     return !OutputTypeByEnding(name) && IsPictureName(name);
 }
 
-void CheckMeasuring(const Options& options) {
-    constexpr qsizetype mostPhotos = 4;
-    const bool measures = options.command == Command::MeasureLens;
-    if ((options.focal || options.fringes) && !measures && !options.straighten) {
-        throw UsageError{
-            QStringLiteral("--%1 goes with --measure-lens or --straighten; leave it out")
-                .arg(options.focal ? QStringLiteral("focal") : QStringLiteral("fringes"))};
-    }
-    if (measures && (options.files.isEmpty() || options.files.size() > mostPhotos)) {
-        throw UsageError{QStringLiteral("--measure-lens takes one to four photos, not %1")
-                             .arg(options.files.size())};
-    }
-}
-
-void CheckStitching(const Options& options) {
-    if (options.command != Command::Stitch) {
-        return;
-    }
-    constexpr qsizetype mostPhotos = 2;
-    if (options.files.isEmpty() || options.files.size() > mostPhotos) {
-        throw UsageError{
-            QStringLiteral("--stitch takes one photo with two circles or two photos, not %1")
-                .arg(options.files.size())};
-    }
-    const std::array others{
-        std::pair{u"projection", options.projectionGiven},
-        std::pair{u"like", !options.like.isEmpty()},
-        std::pair{u"morph", options.morph.has_value()},
-        std::pair{u"preview", options.preview.has_value()},
-        std::pair{u"straighten", options.straighten},
-    };
-    for (const auto& [name, given] : others) {
-        if (given) {
-            throw UsageError{QStringLiteral("--%1 does not go with --stitch; leave it out")
-                                 .arg(OptionText(name))};
-        }
-    }
-}
-
-void CheckExporting(const Options& options) {
-    if (options.command == Command::ExportLens &&
-        options.lens.has_value() == !options.lensFile.isEmpty()) {
-        throw UsageError{QStringLiteral(
-            "--export-lens needs the lens; give --lens \"My lenses/NAME\" or --lens-file FILE")};
-    }
-}
-
 void CheckTogether(const Options& options) {
-    CheckMeasuring(options);
-    CheckExporting(options);
-    CheckStitching(options);
+    CheckCommand(options);
     const bool stitches = options.command == Command::Stitch;
     if (options.command != Command::Convert && !stitches) {
         return;

@@ -32,8 +32,6 @@ constexpr QLatin1StringView NameSuffix("NameSuffix");
 
 constexpr QLatin1StringView Lens("LensCurve");  // a sampled lens, as in its file
 
-constexpr QLatin1StringView Faces("Faces");
-
 constexpr qsizetype longestLens = 10000;
 constexpr qsizetype longestName = 64;
 constexpr qsizetype longestText = 1000;
@@ -95,6 +93,8 @@ constexpr std::array wordFields{
     QLatin1StringView("Pose"),
     QLatin1StringView("Tunnel"),
     QLatin1StringView("Outside"),
+    QLatin1StringView("Marks"),
+    QLatin1StringView("Faces"),
 };
 
 struct Texts {
@@ -188,10 +188,6 @@ Taking TakeLens(const QString& value, ImageRecord& image) {
     return Taking::Taken;
 }
 
-Taking TakeByField(const QString& name, const QString& value, ImageRecord& image) {
-    return SetField(image, name, value) == FieldResult::Ok ? Taking::Taken : Taking::NotUsable;
-}
-
 Taking TakeFurther(const QString& name, const QString& value, ImageRecord& image) {
     if (!IsSettingName(name) || !IsPlainText(value) ||
         image.FurtherSettings.size() >= mostFurther) {
@@ -219,9 +215,6 @@ Taking Take(const QString& name, const QString& value, ImageRecord& image) {
     }
     if (name == Lens) {
         return TakeLens(value, image);
-    }
-    if (name == Faces) {
-        return TakeByField(name, value, image);
     }
     if (name == Orientation) {
         const std::optional<int> number = WholeFromText(value);
@@ -277,9 +270,6 @@ PictureSettings SettingsFrom(const ImageRecord& image) {
     settings.removeIf([](const auto& setting) { return !IsPlainText(setting.value()); });
     if (image.Lens) {
         settings.insert(Lens, LensText(*image.Lens));
-    }
-    if (!image.Faces.empty()) {
-        settings.insert(Faces, FieldText(image, Faces));
     }
     for (const NumberField& field : numberFields) {
         const QString text = FieldText(image, field.name);

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "cli/options/option_checks.h"
+
+#include <array>
+#include <utility>
+
+#include "cli/options/option_list.h"
+#include "cli/options/option_values.h"
+
+namespace varnel {
+
+namespace {
+
+void CheckMeasuring(const Options& options) {
+    constexpr qsizetype mostPhotos = 4;
+    const bool measures = options.command == Command::MeasureLens;
+    if ((options.focal || options.fringes) && !measures && !options.straighten) {
+        throw UsageError{
+            QStringLiteral("--%1 goes with --measure-lens or --straighten; leave it out")
+                .arg(options.focal ? QStringLiteral("focal") : QStringLiteral("fringes"))};
+    }
+    if (measures && (options.files.isEmpty() || options.files.size() > mostPhotos)) {
+        throw UsageError{QStringLiteral("--measure-lens takes one to four photos, not %1")
+                             .arg(options.files.size())};
+    }
+}
+
+void CheckStitching(const Options& options) {
+    if (options.command != Command::Stitch) {
+        return;
+    }
+    constexpr qsizetype mostPhotos = 2;
+    if (options.files.isEmpty() || options.files.size() > mostPhotos) {
+        throw UsageError{
+            QStringLiteral("--stitch takes one photo with two circles or two photos, not %1")
+                .arg(options.files.size())};
+    }
+    const std::array others{
+        std::pair{u"projection", options.projectionGiven},
+        std::pair{u"like", !options.like.isEmpty()},
+        std::pair{u"morph", options.morph.has_value()},
+        std::pair{u"preview", options.preview.has_value()},
+        std::pair{u"straighten", options.straighten},
+    };
+    for (const auto& [name, given] : others) {
+        if (given) {
+            throw UsageError{QStringLiteral("--%1 does not go with --stitch; leave it out")
+                                 .arg(OptionText(name))};
+        }
+    }
+}
+
+void CheckExporting(const Options& options) {
+    if (options.command == Command::ExportLens &&
+        options.lens.has_value() == !options.lensFile.isEmpty()) {
+        throw UsageError{QStringLiteral(
+            "--export-lens needs the lens; give --lens \"My lenses/NAME\" or --lens-file FILE")};
+    }
+}
+
+}  // namespace
+
+void CheckCommand(const Options& options) {
+    CheckMeasuring(options);
+    CheckExporting(options);
+    CheckStitching(options);
+}
+
+}  // namespace varnel

@@ -65,6 +65,7 @@ ImageRecord AwkwardRecord() {
     record.UnrollTo = 179.9F;
     record.Pose = CameraPose::Up;
     record.Tunnel = true;
+    record.Marks = true;
     record.Lens = testing::OffCentreLensOf(record, {6000, 4000});
     record.Faces = {{0.1 + 0.2, 0.4, 1.0 / 3.0, 0.2, -12.5}, {1.2, -0.1, 0.05, 0.1, 0.0}};
     record.FurtherSettings = {{Text("Softness"), Text("12,5 %")}, {Text("Empty"), Text("")}};

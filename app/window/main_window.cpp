@@ -22,6 +22,7 @@
 #include "app/tools/column/size_tools.h"
 #include "app/tools/crop/crop_tools.h"
 #include "app/tools/empty_state.h"
+#include "app/tools/faces/face_tools.h"
 #include "app/tools/frame_tools.h"
 #include "app/tools/gear/photo_gear_tools.h"
 #include "app/tools/guide_tools.h"
@@ -96,6 +97,7 @@ void MDIForm1::MakeTools() {
     new FrameTools(parts_, view_, workspace_, state_, this);
     new LevelTools(this, parts_, view_, workspace_, state_);
     new CropTools(this, parts_, view_, workspace_);
+    new FaceTools(this, parts_, view_, workspace_, state_);
     new StraightenTools(this, view_, workspace_, state_, ports_);
     new CircleTools(this, parts_, view_, workspace_, state_, store_);
     new PictureKeys(this, parts_);

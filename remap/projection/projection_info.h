@@ -90,6 +90,8 @@ struct ProjectionInfo {
     float (*Stand)(const ImageRecord& image) = nullptr;
     std::span<const NameTag> tags{};
     SheetVariants sheet{};
+    // Faces may keep their shape in it.
+    bool faces = false;
     // Columns are azimuths around the axis and rows angles from it, which marks can name.
     bool azimuths = false;
     // As what 360 degree viewers take it.

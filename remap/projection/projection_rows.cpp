@@ -149,6 +149,7 @@ constexpr std::array rows{
         .levels = LevelKind::Horizon,
         .tags = rectilinearTags,
         .sheet = effectVariants,
+        .faces = true,
         .Make = MakeRectilinear,
     },
     ProjectionInfo{

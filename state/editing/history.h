@@ -33,6 +33,7 @@ inline constexpr int circleKey = static_cast<int>(SliderId::AovInput) + 1;  // n
 inline constexpr int photoGearKey = circleKey + 1;
 // A burst of turns of the wheel or of keys on the result: this, the kind of the step and the line.
 inline constexpr int steerKey = photoGearKey + 1;
+inline constexpr int facesKey = steerKey + 1;  // this and the line
 
 // What a step did besides changing lines.
 struct StepBesides {

@@ -26,6 +26,7 @@ enum class StepKind {
     Level,
     Frame,
     Circle,
+    Faces,
     PhotoGears,  // of photos that were added
     Straighten,
     Reset,  // a photo to what its gear gives

@@ -207,7 +207,7 @@ class StitchRun {
             report_.notes.append(note);
             reports_.Say(report_.photo + QStringLiteral(": ") + note);
         }
-        const std::int32_t wanted = front.record.OutputWidth / 4 * 4;
+        const std::int32_t wanted = options_.frame.size.width / 4 * 4;
         return {wanted > 0 ? wanted : NaturalWidth(front.record, front.photo->Size()),
                 std::clamp(field - 180.0, narrowestBlend, widestBlend)};
     }

@@ -43,12 +43,21 @@ void CheckStitching(const Options& options) {
         std::pair{u"morph", options.morph.has_value()},
         std::pair{u"preview", options.preview.has_value()},
         std::pair{u"straighten", options.straighten},
+        std::pair{u"aspect", options.frame.aspect.has_value()},
+        std::pair{u"crop", options.frame.crop || options.frame.clean},
+        std::pair{u"outside", options.frame.outside.has_value()},
     };
     for (const auto& [name, given] : others) {
         if (given) {
             throw UsageError{QStringLiteral("--%1 does not go with --stitch; leave it out")
                                  .arg(OptionText(name))};
         }
+    }
+    if (options.frame.size.height > 0 &&
+        options.frame.size.width != 2 * options.frame.size.height) {
+        throw UsageError{
+            QStringLiteral("--size: --stitch gives pictures twice as wide as high; "
+                           "give the width alone")};
     }
 }
 

@@ -76,6 +76,7 @@ ImageRecord TurnedBack(const ImageRecord& front, ImageRecord back) {
 BitmapHandle Drawn(StitchHalf half, const StitchPlan& plan, RenderProgress& progress,
                    BlockRunner* runner) {
     half.record.OutputAOV = 360.0F;
+    half.record.Outside = {};
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = std::move(half.photo);
     RenderContext context{bitmaps};

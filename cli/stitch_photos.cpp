@@ -159,6 +159,7 @@ class StitchRun {
             return false;
         }
         Options own = options_;
+        own.frame = {};  // the whole's, not a half's
         if (options_.circle == CircleUse::Found) {
             own.circle = CircleUse::Given;
             own.givenCircle = CircleOn(*half.photo);
@@ -170,7 +171,12 @@ class StitchRun {
         if (!known && !started.record.Lens) {
             GiveEvenLens(AngleAcross(options_), started.record);
         }
-        half.record = RecordsFor(request, started.record).front();
+        PhotoRecords records = RecordsFor(request, started.record, runner_);
+        if (records.all.empty()) {
+            Fail(ErrorText(records.error));
+            return false;
+        }
+        half.record = std::move(records.all.front());
         report_.gear = half.record.GearName;
         report_.gearSource = ToText(started.reading.source);
         report_.uncertain = started.reading.doubts.Names();

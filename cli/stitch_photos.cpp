@@ -177,6 +177,7 @@ class StitchRun {
             return false;
         }
         half.record = std::move(records.all.front());
+        half.record.OutputAOV = 360.0F;  // also in its name
         report_.gear = half.record.GearName;
         report_.gearSource = ToText(started.reading.source);
         report_.uncertain = started.reading.doubts.Names();

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -104,6 +105,9 @@ TEST_F(Stitching, TwoCirclesOfOnePhotoOrOfTwoMakeTheSphere) {
     // 150 px for 100 degrees: 540 px around, in steps of four.
     ExpectSphere(one, 540);
     EXPECT_TRUE(testing::Contents(one).contains("<GPano:FullPanoWidthPixels>540<"));
+    EXPECT_EQ(Run({Q("--output-dir"), files_.Path({}), Q("--type"), Q("png"), both}),
+              exitAllWritten);
+    EXPECT_TRUE(QFile::exists(files_.Path(Q("both.Equirectangular_hAOV360.PNG"))));
     EXPECT_EQ(Run({Q("--output"), one, both}), exitSomeFailed);
     EXPECT_NE(err_.str().find("the file exists"), std::string::npos);
 }

@@ -121,6 +121,61 @@
     </message>
 </context>
 <context>
+    <name>Choices</name>
+    <message>
+        <source>Clockwise</source>
+        <translation>Im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>Upward</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Downward</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Which way round the photo the unrolled picture goes from left to right</source>
+        <translation>In welcher Richtung das abgerollte Bild von links nach rechts um das Foto geht</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation>Marken</translation>
+    </message>
+    <message>
+        <source>Draws N, E, S and W and the angles into the unrolled picture</source>
+        <translation>Zeichnet N, E, S und W und die Winkel in das abgerollte Bild</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>How the camera was held when the photo was taken</source>
+        <translation>Wie die Kamera bei der Aufnahme gehalten wurde</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Looks the other way: the sky in the middle, the ground around it</source>
+        <translation>Blickt in die andere Richtung: der Himmel in der Mitte, der Boden darum herum</translation>
+    </message>
+</context>
+<context>
     <name>DividerOverlay</name>
     <message>
         <source>before</source>
@@ -2827,6 +2882,58 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Transpose image</source>
         <translation>Bild verschieben</translation>
     </message>
+    <message>
+        <source>Distance of the eye</source>
+        <translation>Abstand des Auges</translation>
+    </message>
+    <message>
+        <source>0 % is the straight-line view; 100 % keeps wide views calm at the sides</source>
+        <translation>0 % ist die geradlinige Sicht; 100 % hält weite Blicke an den Seiten ruhig</translation>
+    </message>
+    <message>
+        <source>Vertical squeeze</source>
+        <translation>Senkrecht stauchen</translation>
+    </message>
+    <message>
+        <source>0 %</source>
+        <translation>0 %</translation>
+    </message>
+    <message>
+        <source>How far level lines above and below the middle are kept straight</source>
+        <translation>Wie weit waagerechte Linien über und unter der Mitte gerade gehalten werden</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>The direction on the photo that the picture&apos;s left edge shows. Double-click the name to reset it</source>
+        <translation>Die Richtung auf dem Foto, die der linke Rand des Bildes zeigt. Ein Doppelklick auf den Namen setzt sie zurück</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>From angle</source>
+        <translation>Von Winkel</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at one edge of the picture</source>
+        <translation>Der Winkel von der Achse des Objektivs an einem Rand des Bildes</translation>
+    </message>
+    <message>
+        <source>To angle</source>
+        <translation>Bis Winkel</translation>
+    </message>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at the other edge</source>
+        <translation>Der Winkel von der Achse des Objektivs am anderen Rand</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -2977,6 +3084,46 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>outside</source>
         <translation>Außerhalb</translation>
+    </message>
+    <message>
+        <source>soften faces</source>
+        <translation>Gesichter schonen</translation>
+    </message>
+    <message>
+        <source>distance of the eye</source>
+        <translation>Abstand des Auges</translation>
+    </message>
+    <message>
+        <source>vertical squeeze</source>
+        <translation>senkrechtes Stauchen</translation>
+    </message>
+    <message>
+        <source>start of unrolling</source>
+        <translation>Beginn des Abrollens</translation>
+    </message>
+    <message>
+        <source>first angle of unrolling</source>
+        <translation>erster Winkel des Abrollens</translation>
+    </message>
+    <message>
+        <source>last angle of unrolling</source>
+        <translation>letzter Winkel des Abrollens</translation>
+    </message>
+    <message>
+        <source>direction of unrolling</source>
+        <translation>Richtung des Abrollens</translation>
+    </message>
+    <message>
+        <source>marks</source>
+        <translation>Marken</translation>
+    </message>
+    <message>
+        <source>pose of the camera</source>
+        <translation>Haltung der Kamera</translation>
+    </message>
+    <message>
+        <source>tunnel</source>
+        <translation>Tunnel</translation>
     </message>
 </context>
 <context>
@@ -3543,6 +3690,56 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::FaceBar</name>
+    <message>
+        <source>By keyboard: Insert makes an ellipse, Space goes to the next one, arrows move it, with Shift they size it, [ and ] turn it, Delete takes it away</source>
+        <translation>Mit der Tastatur: Einfg macht eine Ellipse, die Leertaste geht zur nächsten, Pfeile verschieben sie, mit Umschalt ändern sie ihre Größe, [ und ] drehen sie, Entf nimmt sie weg</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Takes the chosen ellipse away</source>
+        <translation>Nimmt die gewählte Ellipse weg</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Alle entfernen</translation>
+    </message>
+    <message>
+        <source>Takes all ellipses away</source>
+        <translation>Nimmt alle Ellipsen weg</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Hides the ellipses</source>
+        <translation>Blendet die Ellipsen aus</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse around each face on the result; it keeps its shape.</source>
+        <translation>Ziehen Sie auf dem Ergebnis um jedes Gesicht eine Ellipse; es behält seine Form.</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse to move it, its rim to size it, its knob to turn it; a drag beside them draws another one.</source>
+        <translation>Ziehen Sie eine Ellipse, um sie zu verschieben, ihren Rand, um ihre Größe zu ändern, ihren Knopf, um sie zu drehen; daneben gezogen entsteht eine weitere.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FaceTools</name>
+    <message>
+        <source>Soften &amp;faces</source>
+        <translation>Gesichter &amp;schonen</translation>
+    </message>
+    <message>
+        <source>Only Rectilinear draws faces out; the others have none to soften.</source>
+        <translation>Nur Rectilinear zieht Gesichter in die Länge; die anderen haben keine zu schonen.</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -3604,10 +3801,6 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>varnel::FormBatch</name>
     <message>
-        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %1</source>
-        <translation>Was in den Namen der %1-Bilder auf den Namen des Fotos folgt; leer: das Wort %1</translation>
-    </message>
-    <message>
         <source>Name addition for %1</source>
         <translation>Namenszusatz für %1</translation>
     </message>
@@ -3650,6 +3843,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %2</source>
+        <translation>Was in den Namen der %1-Bilder auf den Namen des Fotos folgt; leer: das Wort %2</translation>
     </message>
 </context>
 <context>
@@ -4173,8 +4370,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>&amp;Horizont ausrichten</translation>
     </message>
     <message>
-        <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
-        <translation>Nur Rectilinear lässt sich ausrichten; die anderen drehen die Kamera nicht.</translation>
+        <source>%1 cannot be levelled: it does not turn the camera.</source>
+        <translation>%1 lässt sich nicht ausrichten: Diese Projektion dreht die Kamera nicht.</translation>
     </message>
 </context>
 <context>
@@ -4396,6 +4593,21 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>... and %1 more</source>
         <translation>... und %1 weitere</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::ProjectionChooser</name>
+    <message>
+        <source>More</source>
+        <translation>Weitere</translation>
+    </message>
+    <message>
+        <source>The projections of the list beside it</source>
+        <translation>Die Projektionen der Liste daneben</translation>
+    </message>
+    <message>
+        <source>More projections</source>
+        <translation>Weitere Projektionen</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,61 @@
     </message>
 </context>
 <context>
+    <name>Choices</name>
+    <message>
+        <source>Clockwise</source>
+        <translation>En sentido horario</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>En sentido contrario</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivelar</translation>
+    </message>
+    <message>
+        <source>Upward</source>
+        <translation>Hacia arriba</translation>
+    </message>
+    <message>
+        <source>Downward</source>
+        <translation>Hacia abajo</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Which way round the photo the unrolled picture goes from left to right</source>
+        <translation>En qué sentido la imagen desenrollada da la vuelta a la foto, de izquierda a derecha</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation>Marcas</translation>
+    </message>
+    <message>
+        <source>Draws N, E, S and W and the angles into the unrolled picture</source>
+        <translation>Dibuja N, E, S, W y los ángulos en la imagen desenrollada</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>How the camera was held when the photo was taken</source>
+        <translation>Cómo se sujetaba la cámara al tomar la foto</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Túnel</translation>
+    </message>
+    <message>
+        <source>Looks the other way: the sky in the middle, the ground around it</source>
+        <translation>Mira hacia el otro lado: el cielo en el centro, el suelo alrededor</translation>
+    </message>
+</context>
+<context>
     <name>DividerOverlay</name>
     <message>
         <source>before</source>
@@ -1915,83 +1970,83 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Estereográfica</translation>
     </message>
     <message>
         <source>Small shapes stay true however wide the view; straight lines bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Las formas pequeñas se conservan por amplia que sea la vista; las rectas se curvan</translation>
     </message>
     <message>
         <source>Panini</source>
-        <translation type="unfinished"></translation>
+        <translation>Panini</translation>
     </message>
     <message>
         <source>Wide rooms and streets: uprights and lines toward the middle stay straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Salas y calles amplias: las verticales y las líneas hacia el centro siguen rectas</translation>
     </message>
     <message>
         <source>Cylindrical</source>
-        <translation type="unfinished"></translation>
+        <translation>Cilíndrica</translation>
     </message>
     <message>
         <source>A panorama around an upright cylinder: uprights stay straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Un panorama sobre un cilindro vertical: las verticales siguen rectas</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator</translation>
     </message>
     <message>
         <source>Equirectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Equirrectangular</translation>
     </message>
     <message>
         <source>Even angles across and up: what 360 degree viewers take</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulos uniformes a lo ancho y a lo alto: lo que toman los visores de 360 grados</translation>
     </message>
     <message>
         <source>Fisheye, equidistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Ojo de pez equidistante</translation>
     </message>
     <message>
         <source>A fisheye in which the distance from the middle is the angle, whatever the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ojo de pez en el que la distancia al centro es el ángulo, sea cual sea el sensor</translation>
     </message>
     <message>
         <source>Fisheye, equisolid</source>
-        <translation type="unfinished"></translation>
+        <translation>Ojo de pez equisólido</translation>
     </message>
     <message>
         <source>A fisheye in which equal parts of the view take equal areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ojo de pez en el que partes iguales de la vista ocupan áreas iguales</translation>
     </message>
     <message>
         <source>Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortográfica</translation>
     </message>
     <message>
         <source>The half in front as on a globe seen from far away</source>
-        <translation type="unfinished"></translation>
+        <translation>La mitad de delante, como en un globo visto de lejos</translation>
     </message>
     <message>
         <source>Little planet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pequeño planeta</translation>
     </message>
     <message>
         <source>The ground as a small planet, the sky around it</source>
-        <translation type="unfinished"></translation>
+        <translation>El suelo como un pequeño planeta, el cielo alrededor</translation>
     </message>
     <message>
         <source>Unrolled</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenrollada</translation>
     </message>
     <message>
         <source>Directions around the axis become columns, angles from it rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Las direcciones alrededor del eje pasan a ser columnas; los ángulos desde él, filas</translation>
     </message>
     <message>
         <source>A panorama that keeps small shapes true, less tall than around a cylinder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un panorama que conserva las formas pequeñas, menos alto que sobre un cilindro</translation>
     </message>
 </context>
 <context>
@@ -2600,19 +2655,19 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>%1 files cannot be transparent; what would be is black</source>
-        <translation type="unfinished"></translation>
+        <translation>los archivos %1 no pueden ser transparentes; lo que lo sería queda negro</translation>
     </message>
     <message>
         <source>the centre cannot keep the photo&apos;s resolution (%3): %1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>el centro no puede conservar la resolución de la foto (%3): %1 x %2 píxeles</translation>
     </message>
     <message>
         <source>there is no part without anything outside the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna parte sin nada fuera de la foto</translation>
     </message>
     <message>
         <source>the crop runs beyond the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>el recorte se sale del marco</translation>
     </message>
 </context>
 <context>
@@ -2827,6 +2882,58 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Transpose image</source>
         <translation>Desplazar la imagen</translation>
     </message>
+    <message>
+        <source>Distance of the eye</source>
+        <translation>Distancia del ojo</translation>
+    </message>
+    <message>
+        <source>0 % is the straight-line view; 100 % keeps wide views calm at the sides</source>
+        <translation>0 % es la vista rectilínea; 100 % mantiene tranquilos los lados de vistas amplias</translation>
+    </message>
+    <message>
+        <source>Vertical squeeze</source>
+        <translation>Compresión vertical</translation>
+    </message>
+    <message>
+        <source>0 %</source>
+        <translation>0 %</translation>
+    </message>
+    <message>
+        <source>How far level lines above and below the middle are kept straight</source>
+        <translation>Hasta qué punto siguen rectas las líneas horizontales por encima y por debajo del centro</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>The direction on the photo that the picture&apos;s left edge shows. Double-click the name to reset it</source>
+        <translation>La dirección en la foto que muestra el borde izquierdo de la imagen. Haga doble clic en el nombre para restablecerla</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>From angle</source>
+        <translation>Desde el ángulo</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at one edge of the picture</source>
+        <translation>El ángulo desde el eje del objetivo en un borde de la imagen</translation>
+    </message>
+    <message>
+        <source>To angle</source>
+        <translation>Hasta el ángulo</translation>
+    </message>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at the other edge</source>
+        <translation>El ángulo desde el eje del objetivo en el otro borde</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -2968,15 +3075,55 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>size</source>
-        <translation type="unfinished"></translation>
+        <translation>tamaño</translation>
     </message>
     <message>
         <source>crop</source>
-        <translation type="unfinished"></translation>
+        <translation>recorte</translation>
     </message>
     <message>
         <source>outside</source>
-        <translation type="unfinished"></translation>
+        <translation>exterior</translation>
+    </message>
+    <message>
+        <source>soften faces</source>
+        <translation>suavizar rostros</translation>
+    </message>
+    <message>
+        <source>distance of the eye</source>
+        <translation>distancia del ojo</translation>
+    </message>
+    <message>
+        <source>vertical squeeze</source>
+        <translation>compresión vertical</translation>
+    </message>
+    <message>
+        <source>start of unrolling</source>
+        <translation>inicio del desenrollado</translation>
+    </message>
+    <message>
+        <source>first angle of unrolling</source>
+        <translation>primer ángulo del desenrollado</translation>
+    </message>
+    <message>
+        <source>last angle of unrolling</source>
+        <translation>último ángulo del desenrollado</translation>
+    </message>
+    <message>
+        <source>direction of unrolling</source>
+        <translation>sentido del desenrollado</translation>
+    </message>
+    <message>
+        <source>marks</source>
+        <translation>marcas</translation>
+    </message>
+    <message>
+        <source>pose of the camera</source>
+        <translation>posición de la cámara</translation>
+    </message>
+    <message>
+        <source>tunnel</source>
+        <translation>túnel</translation>
     </message>
 </context>
 <context>
@@ -3404,66 +3551,66 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::CropBar</name>
     <message>
         <source>Drag the corners, the sides or the crop itself; arrow keys move it, with Shift they widen it, plus and minus do on all sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre las esquinas, los lados o el recorte; las flechas lo mueven, con Mayús lo ensanchan, más y menos lo hacen por todos los lados</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpio</translation>
     </message>
     <message>
         <source>The largest part in which the photo is everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayor parte en la que la foto está en todas partes</translation>
     </message>
     <message>
         <source>Whole frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Marco entero</translation>
     </message>
     <message>
         <source>Cuts nothing off</source>
-        <translation type="unfinished"></translation>
+        <translation>No recorta nada</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo</translation>
     </message>
     <message>
         <source>Shows the result as it is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra el resultado tal como se guarda</translation>
     </message>
     <message>
         <source>Shape of the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma del recorte</translation>
     </message>
     <message>
         <source>Width and height of the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho y alto del recorte</translation>
     </message>
     <message>
         <source>Any shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma libre</translation>
     </message>
     <message>
         <source>As the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el marco</translation>
     </message>
 </context>
 <context>
     <name>varnel::CropTools</name>
     <message>
         <source>&amp;Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;cortar</translation>
     </message>
     <message>
         <source>Looking for the largest clean crop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando el mayor recorte limpio...</translation>
     </message>
     <message>
         <source>No part of the result is without outside.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna parte del resultado está libre de exterior.</translation>
     </message>
     <message>
         <source>%1 x %2 of %3 x %4 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 de %3 x %4 píxeles</translation>
     </message>
 </context>
 <context>
@@ -3543,6 +3690,56 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::FaceBar</name>
+    <message>
+        <source>By keyboard: Insert makes an ellipse, Space goes to the next one, arrows move it, with Shift they size it, [ and ] turn it, Delete takes it away</source>
+        <translation>Con el teclado: Insertar crea una elipse, Espacio pasa a la siguiente, las flechas la mueven, con Mayús cambian su tamaño, [ y ] la giran, Supr la quita</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Takes the chosen ellipse away</source>
+        <translation>Quita la elipse elegida</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Quitar todas</translation>
+    </message>
+    <message>
+        <source>Takes all ellipses away</source>
+        <translation>Quita todas las elipses</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+    <message>
+        <source>Hides the ellipses</source>
+        <translation>Oculta las elipses</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse around each face on the result; it keeps its shape.</source>
+        <translation>Trace una elipse alrededor de cada rostro en el resultado; conserva su forma.</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse to move it, its rim to size it, its knob to turn it; a drag beside them draws another one.</source>
+        <translation>Arrastre una elipse para moverla, su borde para cambiar su tamaño, su botón para girarla; al arrastrar fuera se dibuja otra.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FaceTools</name>
+    <message>
+        <source>Soften &amp;faces</source>
+        <translation>Suavizar &amp;rostros</translation>
+    </message>
+    <message>
+        <source>Only Rectilinear draws faces out; the others have none to soften.</source>
+        <translation>Solo Rectilinear estira los rostros; las demás no tienen nada que suavizar.</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -3604,10 +3801,6 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
 <context>
     <name>varnel::FormBatch</name>
     <message>
-        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %1</source>
-        <translation>Lo que sigue al nombre propio de la foto en los nombres de las imágenes %1; vacío: la palabra %1</translation>
-    </message>
-    <message>
         <source>Name addition for %1</source>
         <translation>Añadido al nombre para %1</translation>
     </message>
@@ -3650,6 +3843,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Pause</source>
         <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %2</source>
+        <translation>Lo que sigue al nombre de la foto en los nombres de imágenes %1; vacío: la palabra %2</translation>
     </message>
 </context>
 <context>
@@ -4118,7 +4315,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>Drag the crop, its sides or its corners on the result; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastre el recorte, sus lados o sus esquinas en el resultado; Esc sale</translation>
     </message>
 </context>
 <context>
@@ -4173,8 +4370,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>&amp;Nivelar el horizonte</translation>
     </message>
     <message>
-        <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
-        <translation>Solo Rectilinear se puede nivelar; las demás no giran la cámara.</translation>
+        <source>%1 cannot be levelled: it does not turn the camera.</source>
+        <translation>%1 no se puede nivelar: no gira la cámara.</translation>
     </message>
 </context>
 <context>
@@ -4399,6 +4596,21 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::ProjectionChooser</name>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>The projections of the list beside it</source>
+        <translation>Las proyecciones de la lista de al lado</translation>
+    </message>
+    <message>
+        <source>More projections</source>
+        <translation>Más proyecciones</translation>
+    </message>
+</context>
+<context>
     <name>varnel::QueueModel</name>
     <message>
         <source>being converted</source>
@@ -4494,7 +4706,7 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
     <message>
         <source>What the saved picture usually takes in the file type of the defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que suele ocupar la imagen guardada en el tipo de archivo predeterminado</translation>
     </message>
 </context>
 <context>
@@ -4534,74 +4746,74 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <name>varnel::SizePanel</name>
     <message>
         <source>Size and crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño y recorte</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>As large as the photo, or another size or shape: type a width (4000), both sides (4000x3000) or a shape (16:9)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan grande como la foto, u otro tamaño o forma: escriba un ancho (4000), ambos lados (4000x3000) o una forma (16:9)</translation>
     </message>
     <message>
         <source>As the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Como la foto</translation>
     </message>
     <message>
         <source>Square, 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadrado, 1:1</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Exterior</translation>
     </message>
     <message>
         <source>What the result has where the photo shows nothing; type a colour as #rrggbb. Transparent needs PNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que tiene el resultado donde la foto no muestra nada; escriba un color como #rrggbb. Transparente requiere PNG o TIFF.</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Negro</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparente</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Crop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar...</translation>
     </message>
     <message>
         <source>Shows all of the result and what is cut out of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra todo el resultado y lo que se recorta de él</translation>
     </message>
     <message>
         <source>As sharp as the photo&apos;s middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Tan nítido como el centro de la foto</translation>
     </message>
 </context>
 <context>
     <name>varnel::SizeTools</name>
     <message>
         <source>No size: %1. A width (4000), both sides (4000x3000) and a shape (16:9) are.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un tamaño: %1. Un ancho (4000), ambos lados (4000x3000) y una forma (16:9) lo son.</translation>
     </message>
     <message>
         <source>No colour: %1. One like #ff8000 is.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un color: %1. Uno como #ff8000 lo es.</translation>
     </message>
     <message>
         <source>%1 x %2 pixels, %3 as %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 píxeles, %3 como %4</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,61 @@
     </message>
 </context>
 <context>
+    <name>Choices</name>
+    <message>
+        <source>Clockwise</source>
+        <translation>Dans le sens horaire</translation>
+    </message>
+    <message>
+        <source>Counter-clockwise</source>
+        <translation>Dans le sens inverse</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message>
+        <source>Upward</source>
+        <translation>Vers le haut</translation>
+    </message>
+    <message>
+        <source>Downward</source>
+        <translation>Vers le bas</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>Which way round the photo the unrolled picture goes from left to right</source>
+        <translation>Dans quel sens l’image déroulée fait le tour de la photo, de gauche à droite</translation>
+    </message>
+    <message>
+        <source>Marks</source>
+        <translation>Repères</translation>
+    </message>
+    <message>
+        <source>Draws N, E, S and W and the angles into the unrolled picture</source>
+        <translation>Dessine N, E, S, W et les angles dans l’image déroulée</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>How the camera was held when the photo was taken</source>
+        <translation>Comment l’appareil était tenu à la prise de vue</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Looks the other way: the sky in the middle, the ground around it</source>
+        <translation>Regarde de l’autre côté : le ciel au milieu, le sol autour</translation>
+    </message>
+</context>
+<context>
     <name>DividerOverlay</name>
     <message>
         <source>before</source>
@@ -1915,83 +1970,83 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Stereographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréographique</translation>
     </message>
     <message>
         <source>Small shapes stay true however wide the view; straight lines bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Les petites formes restent justes, si large que soit la vue&#x202f;; les droites se courbent</translation>
     </message>
     <message>
         <source>Panini</source>
-        <translation type="unfinished"></translation>
+        <translation>Panini</translation>
     </message>
     <message>
         <source>Wide rooms and streets: uprights and lines toward the middle stay straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Pièces et rues larges : les verticales et les lignes vers le milieu restent droites</translation>
     </message>
     <message>
         <source>Cylindrical</source>
-        <translation type="unfinished"></translation>
+        <translation>Cylindrique</translation>
     </message>
     <message>
         <source>A panorama around an upright cylinder: uprights stay straight</source>
-        <translation type="unfinished"></translation>
+        <translation>Un panorama sur un cylindre vertical : les verticales restent droites</translation>
     </message>
     <message>
         <source>Mercator</source>
-        <translation type="unfinished"></translation>
+        <translation>Mercator</translation>
     </message>
     <message>
         <source>Equirectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Équirectangulaire</translation>
     </message>
     <message>
         <source>Even angles across and up: what 360 degree viewers take</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles réguliers en largeur et en hauteur : ce que prennent les visionneuses à 360 degrés</translation>
     </message>
     <message>
         <source>Fisheye, equidistant</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisheye équidistant</translation>
     </message>
     <message>
         <source>A fisheye in which the distance from the middle is the angle, whatever the sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fisheye où la distance au milieu est l’angle, quel que soit le capteur</translation>
     </message>
     <message>
         <source>Fisheye, equisolid</source>
-        <translation type="unfinished"></translation>
+        <translation>Fisheye équisolide</translation>
     </message>
     <message>
         <source>A fisheye in which equal parts of the view take equal areas</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fisheye où des parts égales de la vue prennent des aires égales</translation>
     </message>
     <message>
         <source>Orthographic</source>
-        <translation type="unfinished"></translation>
+        <translation>Orthographique</translation>
     </message>
     <message>
         <source>The half in front as on a globe seen from far away</source>
-        <translation type="unfinished"></translation>
+        <translation>La moitié devant, comme sur un globe vu de loin</translation>
     </message>
     <message>
         <source>Little planet</source>
-        <translation type="unfinished"></translation>
+        <translation>Petite planète</translation>
     </message>
     <message>
         <source>The ground as a small planet, the sky around it</source>
-        <translation type="unfinished"></translation>
+        <translation>Le sol en petite planète, le ciel autour</translation>
     </message>
     <message>
         <source>Unrolled</source>
-        <translation type="unfinished"></translation>
+        <translation>Déroulé</translation>
     </message>
     <message>
         <source>Directions around the axis become columns, angles from it rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Les directions autour de l’axe deviennent des colonnes, les angles depuis l’axe des lignes</translation>
     </message>
     <message>
         <source>A panorama that keeps small shapes true, less tall than around a cylinder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un panorama où les petites formes restent justes, moins haut que sur un cylindre</translation>
     </message>
 </context>
 <context>
@@ -2600,19 +2655,19 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>%1 files cannot be transparent; what would be is black</source>
-        <translation type="unfinished"></translation>
+        <translation>les fichiers %1 ne peuvent pas être transparents&#x202f;; ce qui le serait est noir</translation>
     </message>
     <message>
         <source>the centre cannot keep the photo&apos;s resolution (%3): %1 x %2 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>le centre ne peut pas garder la résolution de la photo (%3) : %1 x %2 pixels</translation>
     </message>
     <message>
         <source>there is no part without anything outside the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune partie n’est sans rien hors de la photo</translation>
     </message>
     <message>
         <source>the crop runs beyond the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>le recadrage dépasse le cadre</translation>
     </message>
 </context>
 <context>
@@ -2827,6 +2882,58 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Transpose image</source>
         <translation>Décaler l’image</translation>
     </message>
+    <message>
+        <source>Distance of the eye</source>
+        <translation>Distance de l’œil</translation>
+    </message>
+    <message>
+        <source>0 % is the straight-line view; 100 % keeps wide views calm at the sides</source>
+        <translation>0 % est la vue rectiligne&#x202f;; 100 % garde les vues larges calmes sur les côtés</translation>
+    </message>
+    <message>
+        <source>Vertical squeeze</source>
+        <translation>Compression verticale</translation>
+    </message>
+    <message>
+        <source>0 %</source>
+        <translation>0 %</translation>
+    </message>
+    <message>
+        <source>How far level lines above and below the middle are kept straight</source>
+        <translation>À quel point les lignes horizontales au-dessus et au-dessous du milieu restent droites</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>The direction on the photo that the picture&apos;s left edge shows. Double-click the name to reset it</source>
+        <translation>La direction sur la photo que montre le bord gauche de l’image. Double-cliquez sur le nom pour la réinitialiser</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>From angle</source>
+        <translation>De l’angle</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at one edge of the picture</source>
+        <translation>L’angle depuis l’axe de l’objectif à un bord de l’image</translation>
+    </message>
+    <message>
+        <source>To angle</source>
+        <translation>À l’angle</translation>
+    </message>
+    <message>
+        <source>90°</source>
+        <translation>90°</translation>
+    </message>
+    <message>
+        <source>The angle from the lens&apos;s axis at the other edge</source>
+        <translation>L’angle depuis l’axe de l’objectif à l’autre bord</translation>
+    </message>
 </context>
 <context>
     <name>Steps</name>
@@ -2968,15 +3075,55 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>size</source>
-        <translation type="unfinished"></translation>
+        <translation>taille</translation>
     </message>
     <message>
         <source>crop</source>
-        <translation type="unfinished"></translation>
+        <translation>recadrage</translation>
     </message>
     <message>
         <source>outside</source>
-        <translation type="unfinished"></translation>
+        <translation>extérieur</translation>
+    </message>
+    <message>
+        <source>soften faces</source>
+        <translation>adoucir les visages</translation>
+    </message>
+    <message>
+        <source>distance of the eye</source>
+        <translation>distance de l’œil</translation>
+    </message>
+    <message>
+        <source>vertical squeeze</source>
+        <translation>compression verticale</translation>
+    </message>
+    <message>
+        <source>start of unrolling</source>
+        <translation>début du déroulement</translation>
+    </message>
+    <message>
+        <source>first angle of unrolling</source>
+        <translation>premier angle du déroulement</translation>
+    </message>
+    <message>
+        <source>last angle of unrolling</source>
+        <translation>dernier angle du déroulement</translation>
+    </message>
+    <message>
+        <source>direction of unrolling</source>
+        <translation>sens du déroulement</translation>
+    </message>
+    <message>
+        <source>marks</source>
+        <translation>repères</translation>
+    </message>
+    <message>
+        <source>pose of the camera</source>
+        <translation>pose de l’appareil</translation>
+    </message>
+    <message>
+        <source>tunnel</source>
+        <translation>tunnel</translation>
     </message>
 </context>
 <context>
@@ -3404,66 +3551,66 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::CropBar</name>
     <message>
         <source>Drag the corners, the sides or the crop itself; arrow keys move it, with Shift they widen it, plus and minus do on all sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirez les coins, les côtés ou le recadrage lui-même&#x202f;; les flèches le déplacent, avec Maj elles l’élargissent, plus et moins le font de tous côtés</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Net</translation>
     </message>
     <message>
         <source>The largest part in which the photo is everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus grande partie où la photo est partout</translation>
     </message>
     <message>
         <source>Whole frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre entier</translation>
     </message>
     <message>
         <source>Cuts nothing off</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne coupe rien</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Shows the result as it is saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre le résultat tel qu’il est enregistré</translation>
     </message>
     <message>
         <source>Shape of the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme du recadrage</translation>
     </message>
     <message>
         <source>Width and height of the crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur et hauteur du recadrage</translation>
     </message>
     <message>
         <source>Any shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Forme libre</translation>
     </message>
     <message>
         <source>As the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le cadre</translation>
     </message>
 </context>
 <context>
     <name>varnel::CropTools</name>
     <message>
         <source>&amp;Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;cadrer</translation>
     </message>
     <message>
         <source>Looking for the largest clean crop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche du plus grand recadrage net...</translation>
     </message>
     <message>
         <source>No part of the result is without outside.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune partie du résultat n’est sans extérieur.</translation>
     </message>
     <message>
         <source>%1 x %2 of %3 x %4 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 de %3 x %4 pixels</translation>
     </message>
 </context>
 <context>
@@ -3543,6 +3690,56 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::FaceBar</name>
+    <message>
+        <source>By keyboard: Insert makes an ellipse, Space goes to the next one, arrows move it, with Shift they size it, [ and ] turn it, Delete takes it away</source>
+        <translation>Au clavier : Inser crée une ellipse, Espace passe à la suivante, les flèches la déplacent, avec Maj elles la redimensionnent, [ et ] la tournent, Suppr l’enlève</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Takes the chosen ellipse away</source>
+        <translation>Enlève l’ellipse choisie</translation>
+    </message>
+    <message>
+        <source>Remove all</source>
+        <translation>Tout retirer</translation>
+    </message>
+    <message>
+        <source>Takes all ellipses away</source>
+        <translation>Enlève toutes les ellipses</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Hides the ellipses</source>
+        <translation>Cache les ellipses</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse around each face on the result; it keeps its shape.</source>
+        <translation>Tirez une ellipse autour de chaque visage sur le résultat&#x202f;; il garde sa forme.</translation>
+    </message>
+    <message>
+        <source>Drag an ellipse to move it, its rim to size it, its knob to turn it; a drag beside them draws another one.</source>
+        <translation>Tirez une ellipse pour la déplacer, son bord pour la redimensionner, son bouton pour la tourner&#x202f;; tirer à côté en dessine une autre.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FaceTools</name>
+    <message>
+        <source>Soften &amp;faces</source>
+        <translation>Adoucir les &amp;visages</translation>
+    </message>
+    <message>
+        <source>Only Rectilinear draws faces out; the others have none to soften.</source>
+        <translation>Seule Rectilinear étire les visages&#x202f;; les autres n’en ont pas à adoucir.</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -3604,10 +3801,6 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
 <context>
     <name>varnel::FormBatch</name>
     <message>
-        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %1</source>
-        <translation>Ce qui suit le nom propre de la photo dans les noms des images %1&#x202f;; vide&#xa0;: le mot %1</translation>
-    </message>
-    <message>
         <source>Name addition for %1</source>
         <translation>Ajout au nom pour %1</translation>
     </message>
@@ -3650,6 +3843,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Pause</source>
         <translation>Pause</translation>
+    </message>
+    <message>
+        <source>What follows the photo&apos;s own name in the names of %1 images; empty: the word %2</source>
+        <translation>Ce qui suit le nom de la photo dans les noms des images %1&#x202f;; vide : le mot %2</translation>
     </message>
 </context>
 <context>
@@ -4118,7 +4315,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>Drag the crop, its sides or its corners on the result; Escape leaves</source>
-        <translation type="unfinished"></translation>
+        <translation>Tirez le recadrage, ses côtés ou ses coins sur le résultat&#x202f;; Échap quitte</translation>
     </message>
 </context>
 <context>
@@ -4173,8 +4370,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>Mettre l’&amp;horizon de niveau</translation>
     </message>
     <message>
-        <source>Only Rectilinear can be levelled; the others do not turn the camera.</source>
-        <translation>Seule Rectilinear peut être mise de niveau&#x202f;; les autres ne tournent pas l’appareil.</translation>
+        <source>%1 cannot be levelled: it does not turn the camera.</source>
+        <translation>%1 ne peut pas être mis de niveau : l’appareil n’y tourne pas.</translation>
     </message>
 </context>
 <context>
@@ -4399,6 +4596,21 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::ProjectionChooser</name>
+    <message>
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>The projections of the list beside it</source>
+        <translation>Les projections de la liste à côté</translation>
+    </message>
+    <message>
+        <source>More projections</source>
+        <translation>Autres projections</translation>
+    </message>
+</context>
+<context>
     <name>varnel::QueueModel</name>
     <message>
         <source>being converted</source>
@@ -4494,7 +4706,7 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
     <message>
         <source>What the saved picture usually takes in the file type of the defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que prend d’habitude l’image enregistrée dans le type de fichier par défaut</translation>
     </message>
 </context>
 <context>
@@ -4534,74 +4746,74 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <name>varnel::SizePanel</name>
     <message>
         <source>Size and crop</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille et recadrage</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>As large as the photo, or another size or shape: type a width (4000), both sides (4000x3000) or a shape (16:9)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi grand que la photo, ou une autre taille ou forme : tapez une largeur (4000), les deux côtés (4000x3000) ou une forme (16:9)</translation>
     </message>
     <message>
         <source>As the photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme la photo</translation>
     </message>
     <message>
         <source>Square, 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Carré, 1:1</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Extérieur</translation>
     </message>
     <message>
         <source>What the result has where the photo shows nothing; type a colour as #rrggbb. Transparent needs PNG or TIFF.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’a le résultat là où la photo ne montre rien&#x202f;; tapez une couleur sous la forme #rrggbb. Transparent demande PNG ou TIFF.</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparent</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanc</translation>
     </message>
     <message>
         <source>Grey</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris</translation>
     </message>
     <message>
         <source>Crop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recadrer...</translation>
     </message>
     <message>
         <source>Shows all of the result and what is cut out of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre tout le résultat et ce qui en est découpé</translation>
     </message>
     <message>
         <source>As sharp as the photo&apos;s middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi net que le milieu de la photo</translation>
     </message>
 </context>
 <context>
     <name>varnel::SizeTools</name>
     <message>
         <source>No size: %1. A width (4000), both sides (4000x3000) and a shape (16:9) are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas une taille : %1. Une largeur (4000), les deux côtés (4000x3000) et une forme (16:9) en sont.</translation>
     </message>
     <message>
         <source>No colour: %1. One like #ff8000 is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas une couleur : %1. #ff8000 par exemple en est une.</translation>
     </message>
     <message>
         <source>%1 x %2 pixels, %3 as %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 pixels, %3 en %4</translation>
     </message>
 </context>
 <context>

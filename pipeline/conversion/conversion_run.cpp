@@ -207,11 +207,7 @@ class Run : private RenderProgress {
                 ReducedCopy(full, PreviewSize(SizeOf(full), *plan_.preview, *plan_.preview));
         }
         bitmaps_.ResultBitmap = std::move(turn_.result);
-        RenderContext context{bitmaps_,
-                              [this] { return plan_.smoothPreview; },
-                              &runner_,
-                              {},
-                              true};
+        RenderContext context{bitmaps_, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
         const ImageRecord& record = turn_.what.record;
         Render(ProjectionFromIndex(record.Projection), record,
                plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, *this, context);

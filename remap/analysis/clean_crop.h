@@ -21,10 +21,10 @@ struct CleanCrop {
     int height = 0;
 };
 
-// Of conversions of one photo with one circle, all of one size: the largest upright rectangle of a frame of that size
-// in which every pixel of each of them lies within the photo and its circle; with a shape (width by
-// height) the largest of that shape. Looks at every pixel. The records' own sizes and crops do not
-// count. Empty when there is none. Throws as the conversion does.
+// Of conversions of one photo with one circle, all of one size: the largest upright rectangle of a
+// frame of that size in which every pixel of each of them lies within the photo and its circle;
+// with a shape (width by height) the largest of that shape. Looks at every pixel. The records' own
+// sizes and crops do not count. Empty when there is none. Throws as the conversion does.
 struct CleanCropWish {
     std::span<const ImageRecord> records;
     PixelSize photo;

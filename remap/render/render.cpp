@@ -7,8 +7,8 @@
 
 #include "remap/render/engine/batches.h"
 #include "remap/render/engine/projection_engine.h"
-#include "remap/render/outside.h"
 #include "remap/render/marks.h"
+#include "remap/render/outside.h"
 #include "remap/render/panorama.h"
 
 namespace varnel {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The row filters of PNG for pictures of 24 and 32 bits. Rows here come from the top downward. The constructor
-// throws std::bad_alloc, the rest nothing.
+// The row filters of PNG for pictures of 24 and 32 bits. Rows here come from the top downward. The
+// constructor throws std::bad_alloc, the rest nothing.
 #pragma once
 
 #include <cstddef>

@@ -84,8 +84,8 @@ class HeadWriter {
         png_set_write_fn(png_, &file, &WriteTo, nullptr);
         png_set_IHDR(png_, info_, static_cast<png_uint_32>(bitmap.Size().width),
                      static_cast<png_uint_32>(bitmap.Size().height), BitsPerSample(bitmap.Format()),
-                     HasAlpha(bitmap.Format()) ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
-                     PNG_FILTER_TYPE_DEFAULT);
+                     HasAlpha(bitmap.Format()) ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB,
+                     PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
         const BitmapMetadata& metadata = bitmap.metadata;
         if (metadata.dotsPerMetreX > 0 && metadata.dotsPerMetreY > 0) {
             png_set_pHYs(png_, info_, metadata.dotsPerMetreX, metadata.dotsPerMetreY,

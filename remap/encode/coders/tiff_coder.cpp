@@ -71,8 +71,7 @@ void Difference(const std::uint8_t* row, std::size_t width, std::uint8_t* out) {
 
 std::span<const std::uint8_t> DifferencesOf(const Picture& picture, std::size_t strip,
                                             std::uint8_t* out) {
-    const auto difference =
-        HasAlpha(picture.bitmap->Format()) ? &Difference<4> : &Difference<3>;
+    const auto difference = HasAlpha(picture.bitmap->Format()) ? &Difference<4> : &Difference<3>;
     const std::size_t rows = picture.RowsIn(strip);
     for (std::size_t n = 0; n < rows; ++n) {
         const std::size_t fromTop = strip * picture.rowsPerStrip + n;

@@ -130,7 +130,9 @@ TEST(MorphValue, KnowsTheEffectThatTheProjectionReadsOnly) {
     EXPECT_EQ(MorphValue(values, Projection::Equidistance, Text("EffectVarnel")), nullptr);
     EXPECT_EQ(MorphValue(values, Projection::Horizon, Text("TranslateX")), &values.TranslateX);
     EXPECT_EQ(MorphValue(values, Projection::Varnel, Text("InputAOV")), nullptr);
-    EXPECT_EQ(MorphFields().size(), 8);
+    EXPECT_EQ(MorphValue(values, Projection::Panini, Text("PaniniD")), &values.PaniniD);
+    EXPECT_EQ(MorphValue(values, Projection::Panini, Text("EffectRectilinear")), &values.effect);
+    EXPECT_EQ(MorphFields().size(), 13);
 }
 
 TEST(FrameCountFromText, TakesWholeNumbersOfSixteenBits) {

@@ -37,16 +37,16 @@ struct Pair {
 constexpr std::array pairs{
     Pair{SliderId::AovOutput, &MorphValues::OutputAOV},
     Pair{SliderId::Effect, &MorphValues::effect},
-    Pair{SliderId::X, &MorphValues::RotateX},
-    Pair{SliderId::Y, &MorphValues::RotateY},
-    Pair{SliderId::Z, &MorphValues::RotateZ},
-    Pair{SliderId::XTranslate, &MorphValues::TranslateX},
-    Pair{SliderId::YTranslate, &MorphValues::TranslateY},
     Pair{SliderId::PaniniD, &MorphValues::PaniniD},
     Pair{SliderId::PaniniSqueeze, &MorphValues::PaniniSqueeze},
     Pair{SliderId::UnrollStart, &MorphValues::UnrollStart},
     Pair{SliderId::UnrollFrom, &MorphValues::UnrollFrom},
     Pair{SliderId::UnrollTo, &MorphValues::UnrollTo},
+    Pair{SliderId::X, &MorphValues::RotateX},
+    Pair{SliderId::Y, &MorphValues::RotateY},
+    Pair{SliderId::Z, &MorphValues::RotateZ},
+    Pair{SliderId::XTranslate, &MorphValues::TranslateX},
+    Pair{SliderId::YTranslate, &MorphValues::TranslateY},
 };
 
 // What most projections read is there for all, marked where it has no use.

@@ -46,7 +46,7 @@ TEST(FaceTools, AreForProjectionsThatDrawFacesOut) {
     EXPECT_TRUE(workspace.Label("StatusText").contains(Q("Rectilinear")));
 }
 
-TEST(FaceTools, AnEllipseIsDrawnMovedSizedTurnedAndUndone) {
+TEST(FaceTools, AnEllipseIsDrawnMovedSizedAndUndone) {
     TestWindow workspace;
     Begin(workspace);
     const QImage straight = workspace.Shown("PicSmallTo");

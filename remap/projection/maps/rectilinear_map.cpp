@@ -3,6 +3,7 @@
 
 #include "remap/projection/maps/rectilinear_map.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -33,12 +34,16 @@ class FaceNodes : public SmoothNodes {
         : map_(map), nodes_(std::move(nodes)) {}
     void Fill(const NodeRun& run, const NodeValues& values) const override {
         nodes_->Fill(run, values);
+        std::ranges::fill(values.inside, 1.0);
         for (std::size_t n = 0; n < values.u.size(); ++n) {
             if (map_.Faces().IsFine(map_.PlaceOf(run.PlaceOf(n), run.y), run.step / map_.Focal())) {
                 values.u[n] = values.v[n] = std::numeric_limits<double>::quiet_NaN();
             }
         }
     }
+
+    // There is none; but maps with an edge get closer nodes where they bend, as faces do.
+    bool HasEdge() const override { return true; }
 
   private:
     const RotatedRectilinearMap& map_;

@@ -98,16 +98,6 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
         {"Projection", "2", Ok, "2"},
         {"Projection", "Round", BadValue},
         {"Projection", "70000", BadValue},
-        {"Faces", "0.85,0.4,0.15,0.3", Ok, "0.85,0.4,0.15,0.3,0"},
-        {"Faces", "0.85,0.4,0.15,0.3,-10;0.1,0.2,1e-3,4,0", Ok,
-         "0.85,0.4,0.15,0.3,-10;0.1,0.2,0.001,4,0"},
-        {"Faces", "", Ok, ""},
-        {"Faces", "0.85,0.4,0.15", BadValue},
-        {"Faces", "0.85,0.4,0.15,0.3,0,0", BadValue},
-        {"Faces", "0.85,0.4,0,0.3", BadValue},
-        {"Faces", "0.85,0.4,0.15,nan", BadValue},
-        {"Faces", "5,0.4,0.15,0.3", BadValue},
-        {"Faces", "0.85,0.4,0.15,0.3;", BadValue},
         {"GearName", "", Ok},
         {"ofsetX", "1", UnknownField},
         {"OffsetX", "1", UnknownField},
@@ -131,6 +121,31 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
     ImageRecord image;  // a flag is 16 bits wide, and all of them are set
     SetField(image, QStringLiteral("Landscape"), QStringLiteral("1"));
     EXPECT_EQ(image.Landscape.Value(), -1);
+}
+
+TEST(SetField, TakesFacesAsText) {
+    const struct {
+        const char* value;
+        const char* stored;  // null for one that is refused
+    } cases[] = {
+        {"0.85,0.4,0.15,0.3", "0.85,0.4,0.15,0.3,0"},
+        {"0.85,0.4,0.15,0.3,-10;0.1,0.2,1e-3,4,0", "0.85,0.4,0.15,0.3,-10;0.1,0.2,0.001,4,0"},
+        {"", ""},
+        {"0.85,0.4,0.15", nullptr},
+        {"0.85,0.4,0.15,0.3,0,0", nullptr},
+        {"0.85,0.4,0,0.3", nullptr},
+        {"0.85,0.4,0.15,nan", nullptr},
+        {"5,0.4,0.15,0.3", nullptr},
+        {"0.85,0.4,0.15,0.3;", nullptr},
+    };
+    for (const auto& c : cases) {
+        ImageRecord image;
+        const FieldResult result =
+            SetField(image, QStringLiteral("Faces"), QString::fromLatin1(c.value));
+        EXPECT_EQ(result, c.stored == nullptr ? FieldResult::BadValue : FieldResult::Ok) << c.value;
+        EXPECT_EQ(FieldText(image, QStringLiteral("Faces")), QLatin1StringView(c.stored))
+            << c.value;
+    }
 }
 
 }  // namespace

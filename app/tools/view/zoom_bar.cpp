@@ -61,6 +61,12 @@ void ZoomBar::Show(const PictureZoom& zoom) {
     text_->setText(tr("%1 %").arg(std::lround(zoom.Scale() * 100.0)));
 }
 
+void ZoomBar::ShowNothing() {
+    const QSignalBlocker blocker(slider_);
+    slider_->setValue(0);
+    text_->clear();
+}
+
 void ZoomBar::OnSlider(int position) {
     Q_EMIT Wanted(fit_ * std::pow(largest_ / fit_, static_cast<double>(position) / steps));
 }

@@ -19,6 +19,7 @@ class ZoomBar : public QWidget {
     // The buttons do what the entries do.
     ZoomBar(QAction* fit, QAction* actual, QWidget* parent);
     void Show(const PictureZoom& zoom);
+    void ShowNothing();  // where there is no picture
 
   Q_SIGNALS:
     // Device pixels to a picture pixel.

@@ -142,6 +142,7 @@ void ZoomTools::ConnectBox(PictureBox* box) {
 void ZoomTools::OnSourceShown() {
     if (Photo() == nullptr) {
         feed_.Drop();
+        ShowScale();
         return;
     }
     if (to_->Empty()) {  // until there is one it counts as large as the photo
@@ -158,7 +159,7 @@ void ZoomTools::SetPicture(PictureZoom& zoom, QSize picture) {
     if (zoom.Fit() != fitted) {
         ShowAll();
     } else {
-        bar_->Show(ZoomOf(Main()));
+        ShowScale();
     }
 }
 
@@ -229,8 +230,16 @@ void ZoomTools::ShowAll() {
     ShowZoom();
 }
 
+void ZoomTools::ShowScale() {
+    if (Photo() == nullptr) {
+        bar_->ShowNothing();
+    } else {
+        bar_->Show(ZoomOf(Main()));
+    }
+}
+
 void ZoomTools::ShowZoom() {
-    bar_->Show(ZoomOf(Main()));
+    ShowScale();
     from_->update();
     to_->update();
     if (zooms_.result.Fit()) {

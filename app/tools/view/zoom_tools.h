@@ -50,6 +50,7 @@ class ZoomTools : public QObject {
     void ZoomMiddle(double scale);
     void Toggle(const PictureBox* box, QPointF point);
     void ShowAll();
+    void ShowScale();
     void ShowZoom();
     void ShowBefore(bool on);
 

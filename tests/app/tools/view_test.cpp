@@ -153,6 +153,7 @@ TEST(Views, FillTheRoomAndAreRemembered) {
 
 TEST(Views, TheSliderInTheStatusLineZoomsThePicturesTogether) {
     TestWindow workspace;
+    EXPECT_EQ(workspace.Label("ZoomText"), QString());
     workspace.AddPhotos({QStringLiteral("photo.bmp")}, {2400, 1600});
     QSlider* const zoom = workspace.Slider("ZoomSlider");
     EXPECT_EQ(zoom->value(), 0);

@@ -12,9 +12,9 @@ namespace {
 constexpr std::array photoRows{
     OptionRow{u"like", u"PICTURE",
               u"As that picture of Varnel's was made; other options win. Without PHOTO: its own."},
-    OptionRow{u"stitch", nullptr,
-              u"Two opposite circles, in one photo or two, as one equirectangular picture; "
-              u"--input-aov is the angle across each (default 190)."},
+    OptionRow{
+        u"stitch", nullptr,
+        u"Two opposite circles, in one photo or two, as one sphere; --input-aov: across each."},
     OptionRow{u"no-auto-orient", nullptr,
               u"Take photos as they are stored, whatever their EXIF says."},
 };
@@ -86,9 +86,9 @@ constexpr std::array viewRows{
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},
     OptionRow{u"marks", nullptr, u"Draw N, E, S, W and angles onto the result (unrolled)."},
-    OptionRow{u"faces", u"X,Y,W,H[,A]",
-              u"Parts that keep their shape (rectilinear): ellipses in parts of 1 of the result, "
-              u"turned by A degrees; semicolons between several."},
+    OptionRow{
+        u"faces", u"X,Y,W,H[,A]",
+        u"Ellipses that keep their shape (rectilinear), in parts of 1; A degrees; by semicolons."},
     OptionRow{u"set", u"FIELD=VALUE",
               u"Any field of the image record, after all the rest; may be repeated."},
 };

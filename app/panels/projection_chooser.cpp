@@ -68,7 +68,7 @@ void ProjectionChooser::AddMore(QGridLayout* grid, QWidget* parent) {
             [this] { list_->setToolTip(TipOf(FromList())); });
     list_->setToolTip(TipOf(FromList()));
     list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list_->setMinimumContentsLength(15);
+    list_->setMinimumContentsLength(11);
     grid->addWidget(more_, moreId / columns, moreId % columns);
     grid->addWidget(list_, moreId / columns, moreId % columns + 1);
     grid->setColumnStretch(columns - 1, 1);

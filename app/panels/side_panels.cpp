@@ -185,7 +185,7 @@ std::vector<int> ImageListPanel::SelectedLines() const {
     return lines;
 }
 
-SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
+SavePanel::SavePanel(QWidget* parent) : TitleCornerBox(QString(), parent) {
     setObjectName(QStringLiteral("FrameSave"));
     saveAs_ = NamedButton("CommandSaveFreeimage", tr("Save image as ..."),
                           tr("Converts the current photo at full size and saves it"), this);
@@ -199,10 +199,10 @@ SavePanel::SavePanel(QWidget* parent) : QGroupBox(parent) {
     size_ = new ElidedLabel(this);
     size_->setObjectName(QStringLiteral("LabelSaveSize"));
     size_->setToolTip(tr("What the saved picture usually takes in the file type of the defaults"));
-    grid->addWidget(size_, 0, 0, 1, 2);
-    grid->addWidget(saveAs_, 1, 0, 1, 2);
-    grid->addWidget(addToQueue_, 2, 0);
-    grid->addWidget(processQueue_, 2, 1);
+    grid->addWidget(saveAs_, 0, 0, 1, 2);
+    grid->addWidget(addToQueue_, 1, 0);
+    grid->addWidget(processQueue_, 1, 1);
+    SetCorner(size_);
     ShowQueue(0);
     processQueue_->hide();
 }
@@ -212,6 +212,12 @@ void SavePanel::ShowQueue(int length) {
     if (length > 0) {
         processQueue_->show();
     }
+    Place();
+}
+
+void SavePanel::ShowSize(const QString& size) {
+    size_->setText(size);
+    Place();
 }
 
 }  // namespace varnel

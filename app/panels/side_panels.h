@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "app/panels/photo_list.h"
+#include "app/panels/title_corner.h"
 #include "base/record_array.h"
 #include "state/records/gear_record.h"
 #include "state/records/image_record.h"
@@ -77,14 +78,14 @@ class ImageListPanel : public QGroupBox {
 };
 
 // "Save", later "Save / batch process " and the length of the queue.
-class SavePanel : public QGroupBox {
+class SavePanel : public TitleCornerBox {
     Q_OBJECT
   public:
     explicit SavePanel(QWidget* parent = nullptr);
     // 0 shows the plain caption; the button that opens the batch appears with the first entry.
     void ShowQueue(int length);
     // Of the current result: "6000 x 4000 pixels, about 9 MB"; empty without one.
-    void ShowSize(const QString& size) { size_->setText(size); }
+    void ShowSize(const QString& size);
     QPushButton* SaveAs() const { return saveAs_; }
     QPushButton* AddToQueue() const { return addToQueue_; }
     QPushButton* ProcessQueue() const { return processQueue_; }

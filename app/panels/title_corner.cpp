@@ -3,6 +3,8 @@
 
 #include "app/panels/title_corner.h"
 
+#include <algorithm>
+
 #include "app/panels/spacing.h"
 
 namespace varnel {
@@ -18,9 +20,11 @@ void TitleCornerBox::Place() {
     if (corner_ == nullptr) {
         return;
     }
+    const int beside = fontMetrics().horizontalAdvance(title()) + 2 * groupMargin;
+    setMinimumWidth(beside + corner_->minimumSizeHint().width());
     const QSize size = corner_->sizeHint();
-    setMinimumWidth(fontMetrics().horizontalAdvance(title()) + size.width() + 2 * groupMargin);
-    corner_->setGeometry(width() - size.width() - groupMargin, 0, size.width(), size.height());
+    const int across = std::clamp(width() - beside, 0, size.width());
+    corner_->setGeometry(width() - across - groupMargin, 0, across, size.height());
 }
 
 void TitleCornerBox::resizeEvent(QResizeEvent* event) {

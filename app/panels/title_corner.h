@@ -12,16 +12,17 @@ class TitleCornerBox : public QGroupBox {
     Q_OBJECT
   public:
     TitleCornerBox(const QString& title, QWidget* parent);
-    // At the right end of the title's line, and as high as that needs.
+    // At the right end of the title's line, and as high as that needs; one that can be narrower is
+    // where there is less room.
     void SetCorner(QWidget* corner);
 
   protected:
+    // After the title or what is in the corner has changed.
+    void Place();
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
-    void Place();
-
     QWidget* corner_ = nullptr;
 };
 

@@ -219,6 +219,12 @@ PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
     return records;
 }
 
+TargetRules RulesOf(const Options& options) {
+    return {RepeatedName::LaterFails, options.force          ? ExistingFile::Replaced
+                                      : options.skipExisting ? ExistingFile::Skipped
+                                                             : ExistingFile::Kept};
+}
+
 qsizetype RecordsOfEach(const Options& options) {
     return options.morph.value_or(static_cast<int>(options.projections.size()));
 }

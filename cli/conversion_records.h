@@ -10,6 +10,7 @@
 
 #include "cli/choose_gear.h"
 #include "cli/options/options.h"
+#include "pipeline/conversion/conversion_targets.h"
 #include "pipeline/output/name_pattern.h"
 #include "pipeline/photos/photo_loader.h"
 #include "remap/analysis/straighten/stop_check.h"
@@ -47,6 +48,9 @@ struct PhotoRecords {
 };
 PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
                         BlockRunner& runner);
+
+// What becomes of files that lie there. Throws nothing.
+TargetRules RulesOf(const Options& options);
 
 // How many these are. Throws nothing.
 qsizetype RecordsOfEach(const Options& options);

@@ -37,12 +37,6 @@ class SignalWait : public ReadingWait {
     const Console& console_;
 };
 
-TargetRules RulesOf(const Options& options) {
-    return {RepeatedName::LaterFails, options.force          ? ExistingFile::Replaced
-                                      : options.skipExisting ? ExistingFile::Skipped
-                                                             : ExistingFile::Kept};
-}
-
 // The run of one command, as the console shows it.
 class CommandRun : public ConversionObserver {
   public:

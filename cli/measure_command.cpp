@@ -10,6 +10,7 @@
 #include "cli/own_lenses.h"
 #include "cli/report/json_line.h"
 #include "cli/straighten_photo.h"
+#include "cli/until_stopped.h"
 #include "gear/lens/lens_file.h"
 #include "pipeline/photos/jpeg_colour.h"
 
@@ -141,16 +142,6 @@ int Fail(const Console& console, const QString& text) {
     Complain(console, text);
     return exitSomeFailed;
 }
-
-// While photos are read a signal gives up.
-class UntilStopped : public ReadingWait {
-  public:
-    explicit UntilStopped(const Console& console) : console_(console) {}
-    bool Continue() override { return console_.StopSignal() == 0; }
-
-  private:
-    const Console& console_;
-};
 
 int Measure(const std::vector<LoadedPicture>& pictures, const Options& options,
             const MeasureOptions& measure, const Console& console) {

@@ -16,6 +16,7 @@
 #include "cli/conversion_records.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"
+#include "cli/until_stopped.h"
 #include "pipeline/conversion/conversion_targets.h"
 #include "remap/analysis/photo_circle.h"
 #include "remap/encode/save_bitmap.h"
@@ -30,16 +31,6 @@ constexpr double degree = std::numbers::pi / 180.0;
 constexpr double usualAngle = 190.0;  // degrees across the circles of such cameras
 constexpr double widestBlend = 4.0;   // degrees
 constexpr double narrowestBlend = 0.1;
-
-// While photos are read a signal gives up.
-class UntilStopped : public ReadingWait {
-  public:
-    explicit UntilStopped(const Console& console) : console_(console) {}
-    bool Continue() override { return console_.StopSignal() == 0; }
-
-  private:
-    const Console& console_;
-};
 
 double AngleAcross(const Options& options) {
     double angle = usualAngle;
@@ -187,10 +178,7 @@ class StitchRun {
     bool ChooseTarget(const ImageRecord& record) {
         const ConvertRequest request{options_, gears_, settings_};
         report_.result = TargetFor(request, report_.photo, record);
-        ConversionTargets targets(options_.files, {RepeatedName::LaterFails,
-                                                   options_.force          ? ExistingFile::Replaced
-                                                   : options_.skipExisting ? ExistingFile::Skipped
-                                                                           : ExistingFile::Kept});
+        ConversionTargets targets(options_.files, RulesOf(options_));
         if (targets.IsSkipped(report_.result)) {
             report_.status = FileStatus::Skipped;
             reports_.Skipped(report_);

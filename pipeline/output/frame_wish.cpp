@@ -110,7 +110,7 @@ class FrameGiver {
         } else if (size_.height > 0) {
             result = {Whole(width / height * size_.height), size_.height};
         }
-        if (const Reason error = Limit(result); !error.isEmpty()) {
+        if (Reason error = Limit(result); !error.isEmpty()) {
             return error;
         }
         const bool hasSize = size_.width > 0 || size_.height > 0 || wish_.centre || wish_.aspect;
@@ -125,7 +125,7 @@ class FrameGiver {
 
     // Cuts what the centre asks for; anything else has to fit.
     Reason Limit(PixelSize& result) {
-        const Reason error = LimitOf(result);
+        Reason error = LimitOf(result);
         if (error.isEmpty() || !wish_.centre) {
             return error;
         }
@@ -149,7 +149,7 @@ class FrameGiver {
         CleanCrop crop = Search(frame);
         for (int n = 0; n < mostTries && crop.width > 0 && !Fits(crop); ++n) {
             PixelSize wanted = Wanted(crop);
-            if (const Reason error = Limit(wanted); !error.isEmpty()) {
+            if (Reason error = Limit(wanted); !error.isEmpty()) {
                 return error;
             }
             const double factor = std::max(wanted.width / static_cast<double>(crop.width),

@@ -201,19 +201,30 @@ void FaceOverlay::MakeAtMiddle() {
 }
 
 bool FaceOverlay::Key(const OverlayKey& key) {
+    bool isUsed = true;
     if (key.key == Qt::Key_Insert) {
         MakeAtMiddle();
-    } else if (!HasChosen()) {
-        return false;
-    } else if (key.key == Qt::Key_Space) {
-        chosen_ = (chosen_ + 1) % port_.Faces().size();
-    } else if (key.key == Qt::Key_Delete || key.key == Qt::Key_Backspace) {
-        RemoveChosen();
-    } else if (!ChangeByKey(key)) {
-        return false;
+    } else if (HasChosen()) {
+        isUsed = KeyForChosen(key);
+    } else {
+        isUsed = false;
     }
-    port_.Redraw();
-    return true;
+    if (isUsed) {
+        port_.Redraw();
+    }
+    return isUsed;
+}
+
+bool FaceOverlay::KeyForChosen(const OverlayKey& key) {
+    if (key.key == Qt::Key_Space) {
+        chosen_ = (chosen_ + 1) % port_.Faces().size();
+        return true;
+    }
+    if (key.key == Qt::Key_Delete || key.key == Qt::Key_Backspace) {
+        RemoveChosen();
+        return true;
+    }
+    return ChangeByKey(key);
 }
 
 bool FaceOverlay::ChangeByKey(const OverlayKey& key) {

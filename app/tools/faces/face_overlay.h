@@ -51,6 +51,7 @@ class FaceOverlay : public PictureOverlay {
     Hit HitAt(const OverlayInput& input) const;
     void PaintFace(QPainter& painter, const QTransform& toWidget, std::size_t n) const;
     void MakeAtMiddle();
+    bool KeyForChosen(const OverlayKey& key);
     bool ChangeByKey(const OverlayKey& key);
     void PutFace(const PictureEllipse& face);
 

@@ -16,14 +16,24 @@ void TitleCornerBox::SetCorner(QWidget* corner) {
     Place();
 }
 
+// What the title takes of its line.
+int TitleCornerBox::Beside() const {
+    return fontMetrics().horizontalAdvance(title()) + 2 * groupMargin;
+}
+
+QSize TitleCornerBox::minimumSizeHint() const {
+    const QSize whole = QGroupBox::minimumSizeHint();
+    const int line = corner_ == nullptr ? 0 : Beside() + corner_->minimumSizeHint().width();
+    return {std::max(whole.width(), line), whole.height()};
+}
+
 void TitleCornerBox::Place() {
     if (corner_ == nullptr) {
         return;
     }
-    const int beside = fontMetrics().horizontalAdvance(title()) + 2 * groupMargin;
-    setMinimumWidth(beside + corner_->minimumSizeHint().width());
     const QSize size = corner_->sizeHint();
-    const int across = std::clamp(width() - beside, 0, size.width());
+    const int across = std::clamp(width() - Beside(), 0, size.width());
+    updateGeometry();
     corner_->setGeometry(width() - across - groupMargin, 0, across, size.height());
 }
 

@@ -15,6 +15,7 @@ class TitleCornerBox : public QGroupBox {
     // At the right end of the title's line, and as high as that needs; one that can be narrower is
     // where there is less room.
     void SetCorner(QWidget* corner);
+    QSize minimumSizeHint() const override;
 
   protected:
     // After the title or what is in the corner has changed.
@@ -23,6 +24,8 @@ class TitleCornerBox : public QGroupBox {
     void changeEvent(QEvent* event) override;
 
   private:
+    int Beside() const;
+
     QWidget* corner_ = nullptr;
 };
 

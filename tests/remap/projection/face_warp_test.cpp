@@ -134,8 +134,8 @@ TEST(FaceWarps, EachKeepsItsShapeBesideAnother) {
     const FaceWarps both(ellipses);
     ASSERT_EQ(both.Each().size(), 2U);
     for (const FaceWarp& warp : both.Each()) {
-        for (double direction = 0.0; direction < 6.0; direction += 0.5) {
-            const PlanePoint point = warp.Ellipse().PointAt(0.99, direction);
+        for (int n = 0; n < 12; ++n) {
+            const PlanePoint point = warp.Ellipse().PointAt(0.99, 0.5 * n);
             EXPECT_EQ(both.At(point).x, warp.At(point).x);
             EXPECT_EQ(both.At(point).y, warp.At(point).y);
         }

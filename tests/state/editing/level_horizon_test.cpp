@@ -97,7 +97,8 @@ std::vector<PicturePoint> TraceOnView(const ImageRecord& image, PixelSize size) 
     const InverseMapping photo(projection, image, size);
     const double half = size.width / 2;
     std::vector<PicturePoint> points;
-    for (double way = -1.0; way < 1.0; way += 0.01) {
+    for (int n = -100; n < 100; ++n) {
+        const double way = n / 100.0;
         const double turn = way * std::numbers::pi;
         const bool planet = projection == Projection::LittlePlanet;
         const auto place =

@@ -5,6 +5,7 @@
 
 #include <QLayout>
 #include <QMenu>
+#include <utility>
 
 #include "app/panels/menu_entry.h"
 #include "base/run_time_error.h"
@@ -19,6 +20,7 @@ FaceTools::FaceTools(QMainWindow* window, const WindowParts& parts, WindowView& 
       view_(view),
       workspace_(workspace),
       state_(state),
+      commands_(workspace),
       overlay_(*this),
       bar_(new FaceBar(parts.pictures->parentWidget())) {
     QAction* const neighbour = window->findChild<QAction*>(QStringLiteral("CmdToolsStretch"));
@@ -91,16 +93,12 @@ void FaceTools::Put(const std::vector<PictureEllipse>& faces) {
     if (!frame || !MayPut()) {
         return;
     }
-    workspace_.preparation.PreparedCurrent();
-    ImageRecord& image = *workspace_.model.list.Current();
-    image.Faces.clear();
+    std::vector<FaceEllipse> placed;
     for (const PictureEllipse& face : faces) {
-        image.Faces.push_back(OnFrame(face, *frame));
+        placed.push_back(OnFrame(face, *frame));
     }
-    image.SettingsApplied = true;
-    workspace_.model.steps.Note(StepKind::Faces, {},
-                                {facesKey, workspace_.model.list.CurrentLine()});
-    workspace_.preview.Preview();
+    commands_.SoftenFacesOfCurrent(std::move(placed),
+                                   {facesKey, workspace_.model.list.CurrentLine()});
     Refresh();
 }
 

@@ -11,6 +11,7 @@
 #include "app/tools/faces/face_bar.h"
 #include "app/tools/faces/face_overlay.h"
 #include "app/view/window_view.h"
+#include "app/workspace/shape/shape_commands.h"
 #include "app/workspace/workspace.h"
 
 namespace varnel {
@@ -41,6 +42,7 @@ class FaceTools : public QObject, private FacePort {
     WindowView& view_;
     Workspace& workspace_;
     WorkingState& state_;
+    ShapeCommands commands_;
     FaceOverlay overlay_;
     FaceBar* bar_;
     QAction* entry_;

@@ -4,6 +4,7 @@
 #include "app/workspace/shape/shape_commands.h"
 
 #include <cmath>
+#include <utility>
 
 #include "remap/render/result_size.h"
 
@@ -95,6 +96,18 @@ void ShapeCommands::CropCurrent(const QRectF& crop, const StepKey& key) {
     if (!model.showsWholeFrame || !(before == WithoutCrop(image, photo))) {
         workspace_.preview.Preview();
     }
+}
+
+void ShapeCommands::SoftenFacesOfCurrent(std::vector<FaceEllipse> faces, const StepKey& key) {
+    if (!MayChange()) {
+        return;
+    }
+    workspace_.preparation.PreparedCurrent();
+    ImageRecord& image = *workspace_.model.list.Current();
+    image.Faces = std::move(faces);
+    image.SettingsApplied = true;
+    workspace_.model.steps.Note(StepKind::Faces, {}, key);
+    workspace_.preview.Preview();
 }
 
 void ShapeCommands::ShowWholeFrame(bool on) {

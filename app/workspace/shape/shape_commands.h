@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How large the results of the selected photos are, what they have outside, and what is cut out of
-// the current one. Each change is one step. Throws nothing but for want of memory.
+// How large the results of the selected photos are, what they have outside, what is cut out of the
+// current one and which parts of it keep their shape. Each change is one step. Throws nothing but
+// for want of memory.
 #pragma once
 
 #include <QRectF>
 #include <functional>
+#include <vector>
 
 #include "app/workspace/workspace.h"
 #include "pipeline/output/frame_wish.h"
@@ -29,6 +31,7 @@ class ShapeCommands {
     Reason SizeSelected(const FrameWish& wish);
     // Steps of one key become one step.
     void CropCurrent(const QRectF& crop, const StepKey& key = {});
+    void SoftenFacesOfCurrent(std::vector<FaceEllipse> faces, const StepKey& key = {});
     // Shows the current result before its crop, or as it is.
     void ShowWholeFrame(bool on);
 

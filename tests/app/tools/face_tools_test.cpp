@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/picture_drag.h"
 #include "tests/support/test_window.h"
 
 namespace varnel {
@@ -18,16 +19,7 @@ QString Q(const char* text) {
 
 // With the mouse, between points of the result.
 void Drag(TestWindow& workspace, QPointF from, QPointF to) {
-    auto* const box = workspace.Find<PictureBox>("PicSmallTo");
-    const auto at = [&](QPointF point) { return box->ToWidget().map(point).toPoint(); };
-    QTest::mousePress(box, Qt::LeftButton, {}, at(from));
-    for (int part = 1; part <= 5; ++part) {
-        const QPoint place = at(from + (to - from) * part / 5.0);
-        QMouseEvent move(QEvent::MouseMove, place, box->mapToGlobal(place), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box, &move);
-    }
-    QTest::mouseRelease(box, Qt::LeftButton, {}, at(to));
+    testing::DragOnPicture(workspace.Find<PictureBox>("PicSmallTo"), from, to);
 }
 
 // At its own size, with the tool at hand.

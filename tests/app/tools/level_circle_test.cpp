@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "tests/support/bitmaps.h"
+#include "tests/support/picture_drag.h"
 #include "tests/support/test_window.h"
 
 namespace varnel {
@@ -21,16 +22,7 @@ QString Q(const char* text) {
 
 // With the mouse, between points of the picture.
 void Drag(TestWindow& workspace, QPointF from, QPointF to) {
-    auto* const box = workspace.Find<PictureBox>("PicSmallFrom");
-    const auto at = [&](QPointF point) { return box->ToWidget().map(point).toPoint(); };
-    QTest::mousePress(box, Qt::LeftButton, {}, at(from));
-    for (int part = 1; part <= 10; ++part) {
-        QMouseEvent move(QEvent::MouseMove, at(from + (to - from) * part / 10.0),
-                         box->mapToGlobal(at(from + (to - from) * part / 10.0)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box, &move);
-    }
-    QTest::mouseRelease(box, Qt::LeftButton, {}, at(to));
+    testing::DragOnPicture(workspace.Find<PictureBox>("PicSmallFrom"), from, to);
 }
 
 void Key(TestWindow& workspace, Qt::Key key) {

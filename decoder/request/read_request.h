@@ -18,11 +18,18 @@ enum class ReadKind : std::uint32_t {
     Small   // a quick small picture for looking through a folder, without metadata
 };
 
+// The samples that a whole photo comes with.
+enum class ReadDepth : std::uint32_t {
+    Eight,  // 8 bits, whatever the file has
+    Own     // those of the file: 8 bits, 16 or floating point, and alpha where it has some
+};
+
 struct ReadRequest {
     QString path;
     ReadKind kind = ReadKind::Whole;
     PixelSize box{};      // Small: the picture fits it; never enlarged
     bool upright = true;  // turned as its EXIF orientation says; raw files are at any rate
+    ReadDepth depth = ReadDepth::Eight;
 };
 
 }  // namespace varnel

@@ -5,6 +5,9 @@
 // asked to do. Rows count from the bottom row. Throws nothing unless it says so.
 #pragma once
 
+#include <cstring>
+#include <limits>
+
 #include "remap/image/bitmap.h"
 
 namespace varnel {
@@ -27,27 +30,73 @@ constexpr std::uint8_t PixelColor::*MemberOf(Channel channel) {
                                        : &PixelColor::red;
 }
 
-// The colour of the pixel that begins there.
-inline PixelColor ColourAt(const std::uint8_t* pixel, PixelFormat format) {
-    switch (format) {
-        case PixelFormat::Bgr8:
-        case PixelFormat::Bgra8:
+// Between samples of 8 bits and those of a format; a sample of one range stands for the same part
+// of the other, rounded. Floating-point samples beyond 0 to 1 become 0 and 255, no number 0.
+constexpr std::uint8_t ByteOf(std::uint8_t sample) {
+    return sample;
+}
+constexpr std::uint8_t ByteOf(std::uint16_t sample) {
+    return static_cast<std::uint8_t>((sample + 128U) / 257U);
+}
+constexpr std::uint8_t ByteOf(float sample) {
+    return !(sample > 0.0F) ? std::uint8_t{0}
+           : sample >= 1.0F ? std::uint8_t{255}
+                            : static_cast<std::uint8_t>(sample * 255.0F + 0.5F);
+}
+template <class Sample>
+constexpr Sample FromByte(std::uint8_t value) {
+    if constexpr (std::is_same_v<Sample, float>) {
+        return static_cast<float>(value) / 255.0F;
+    } else {
+        return static_cast<Sample>(value * (std::numeric_limits<Sample>::max() / 255U));
+    }
+}
+
+// Calls the function with a sample of the kind that a format has, 0, for inner loops.
+template <class Function>
+decltype(auto) WithSample(SampleKind kind, const Function& function) {
+    switch (kind) {
+        case SampleKind::Word:
+            return function(std::uint16_t{});
+        case SampleKind::Float:
+            return function(float{});
+        case SampleKind::Byte:
             break;
     }
-    return {pixel[0], pixel[1], pixel[2], 0};
+    return function(std::uint8_t{});
+}
+
+// A sample of the pixel that begins there: 0 blue, 1 green, 2 red, 3 alpha.
+template <class Sample>
+Sample SampleAt(const std::uint8_t* pixel, std::size_t place) {
+    Sample sample;
+    std::memcpy(&sample, pixel + place * sizeof(Sample), sizeof(Sample));
+    return sample;
+}
+template <class Sample>
+void PutSample(std::uint8_t* pixel, std::size_t place, Sample sample) {
+    std::memcpy(pixel + place * sizeof(Sample), &sample, sizeof(Sample));
+}
+
+// The colour of the pixel that begins there, in 8 bits.
+inline PixelColor ColourAt(const std::uint8_t* pixel, PixelFormat format) {
+    return WithSample(SampleKindOf(format), [&](auto kind) -> PixelColor {
+        using Sample = decltype(kind);
+        return {ByteOf(SampleAt<Sample>(pixel, 0)), ByteOf(SampleAt<Sample>(pixel, 1)),
+                ByteOf(SampleAt<Sample>(pixel, 2)), 0};
+    });
 }
 // The fourth byte is the alpha of formats that have it.
 inline void PutColour(std::uint8_t* pixel, const PixelColor& colour, PixelFormat format) {
-    switch (format) {
-        case PixelFormat::Bgra8:
-            pixel[3] = colour.reserved;
-            break;
-        case PixelFormat::Bgr8:
-            break;
-    }
-    pixel[0] = colour.blue;
-    pixel[1] = colour.green;
-    pixel[2] = colour.red;
+    WithSample(SampleKindOf(format), [&](auto kind) {
+        using Sample = decltype(kind);
+        PutSample(pixel, 0, FromByte<Sample>(colour.blue));
+        PutSample(pixel, 1, FromByte<Sample>(colour.green));
+        PutSample(pixel, 2, FromByte<Sample>(colour.red));
+        if (HasAlpha(format)) {
+            PutSample(pixel, 3, FromByte<Sample>(colour.reserved));
+        }
+    });
 }
 
 // False when (x, y) lies outside the bitmap; the colour is then left as it was, as its fourth byte

@@ -12,33 +12,62 @@
 
 namespace varnel {
 
+// Alpha is a share of the picture's own range; the colours are not multiplied by it. Samples of 16
+// bits and floating-point ones lie in memory as the machine has them.
 enum class PixelFormat : std::uint8_t {
-    Bgr8,   // blue, green, red: 8 bits each, for the screen
-    Bgra8,  // and alpha, by which the colours are not multiplied: of results that are written
+    Bgr8,   // blue, green, red: 0 to 255 each, for the screen
+    Bgra8,  // and alpha
+    Bgr16,  // 0 to 65535
+    Bgra16,
+    BgrFloat,  // single precision, black 0 and white 1; brighter than white is kept
+    BgraFloat,
 };
-inline constexpr PixelFormat lastPhotoFormat = PixelFormat::Bgr8;  // of those that photos have
+inline constexpr PixelFormat lastPhotoFormat = PixelFormat::BgraFloat;  // of those that photos have
 
-constexpr std::size_t BytesPerPixel(PixelFormat format) {
+enum class SampleKind : std::uint8_t { Byte, Word, Float };
+
+constexpr SampleKind SampleKindOf(PixelFormat format) {
     switch (format) {
-        case PixelFormat::Bgra8:
-            return 4;
+        case PixelFormat::Bgr16:
+        case PixelFormat::Bgra16:
+            return SampleKind::Word;
+        case PixelFormat::BgrFloat:
+        case PixelFormat::BgraFloat:
+            return SampleKind::Float;
         case PixelFormat::Bgr8:
+        case PixelFormat::Bgra8:
             break;
     }
-    return 3;
+    return SampleKind::Byte;
 }
 
 constexpr bool HasAlpha(PixelFormat format) {
-    return format == PixelFormat::Bgra8;
+    return format == PixelFormat::Bgra8 || format == PixelFormat::Bgra16 ||
+           format == PixelFormat::BgraFloat;
 }
 
-constexpr int BitsPerSample(PixelFormat format) {
-    switch (format) {
-        case PixelFormat::Bgr8:
-        case PixelFormat::Bgra8:
+constexpr PixelFormat PixelFormatOf(SampleKind samples, bool alpha) {
+    switch (samples) {
+        case SampleKind::Word:
+            return alpha ? PixelFormat::Bgra16 : PixelFormat::Bgr16;
+        case SampleKind::Float:
+            return alpha ? PixelFormat::BgraFloat : PixelFormat::BgrFloat;
+        case SampleKind::Byte:
             break;
     }
-    return 8;
+    return alpha ? PixelFormat::Bgra8 : PixelFormat::Bgr8;
+}
+
+constexpr int BitsPerSample(SampleKind samples) {
+    return samples == SampleKind::Byte ? 8 : samples == SampleKind::Word ? 16 : 32;
+}
+constexpr int BitsPerSample(PixelFormat format) {
+    return BitsPerSample(SampleKindOf(format));
+}
+
+constexpr std::size_t BytesPerPixel(PixelFormat format) {
+    const std::size_t samples = HasAlpha(format) ? 4 : 3;
+    return samples * static_cast<std::size_t>(BitsPerSample(format) / 8);
 }
 
 // From a pixel to its right neighbour, in bytes.
@@ -51,11 +80,17 @@ template <class Function>
 void WithBytesPerPixel(PixelFormat format, const Function& function) {
     switch (format) {
         case PixelFormat::Bgr8:
-            function(std::integral_constant<std::ptrdiff_t, 3>());
-            break;
+            return function(std::integral_constant<std::ptrdiff_t, 3>());
         case PixelFormat::Bgra8:
-            function(std::integral_constant<std::ptrdiff_t, 4>());
-            break;
+            return function(std::integral_constant<std::ptrdiff_t, 4>());
+        case PixelFormat::Bgr16:
+            return function(std::integral_constant<std::ptrdiff_t, 6>());
+        case PixelFormat::Bgra16:
+            return function(std::integral_constant<std::ptrdiff_t, 8>());
+        case PixelFormat::BgrFloat:
+            return function(std::integral_constant<std::ptrdiff_t, 12>());
+        case PixelFormat::BgraFloat:
+            return function(std::integral_constant<std::ptrdiff_t, 16>());
     }
 }
 

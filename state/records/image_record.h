@@ -17,6 +17,7 @@
 #include "state/records/outside_fill.h"
 #include "state/records/projection.h"
 #include "state/records/sampled_lens.h"
+#include "state/records/sampling_kind.h"
 
 namespace varnel {
 
@@ -79,6 +80,7 @@ struct ImageRecord {
     CameraPose Pose = CameraPose::Level;
     Bool16 Tunnel;                   // a little planet that looks the other way
     std::vector<FaceEllipse> Faces;  // parts that keep their shape in the straight view
+    SamplingKind Sampling = SamplingKind::Classic;
 
     // Takes the place of the lens's two numbers where it is there.
     LensReference Lens;

@@ -138,6 +138,15 @@ class StoppableBlocks : public BlockRunner {
     const StopCheck& stop_;
 };
 
+void ChooseProjection(const Options& options, Projection projection, ImageRecord& record) {
+    const float angle = record.OutputAOV;
+    TakeProjection(projection, record);
+    const bool given = std::ranges::any_of(options.adjustments, [](const Adjustment& adjustment) {
+        return adjustment.field == QStringLiteral("OutputAOV");
+    });
+    record.OutputAOV = given ? angle : record.OutputAOV;
+}
+
 FrameOutcome FrameOf(const ConvertRequest& request, std::span<ImageRecord> records,
                      BlockRunner& runner) {
     StoppableBlocks blocks(runner, request.stop);
@@ -203,7 +212,7 @@ PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
     PhotoRecords records;
     for (const Projection projection : request.options.projections) {
         ImageRecord record = start;
-        record.Projection = static_cast<std::int16_t>(projection);
+        ChooseProjection(request.options, projection, record);
         for (const auto& [field, value] : request.options.fields) {
             SetField(record, field, value);
         }

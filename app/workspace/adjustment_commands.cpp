@@ -46,7 +46,10 @@ void AdjustmentCommands::ChooseProjection(Projection projection) {
     model_.controls.ChooseProjection(projection);
     if (const ImageRecord* const image = model_.list.Current()) {
         ImageRecord shown = *image;
-        shown.Projection = static_cast<std::int16_t>(projection);
+        TakeProjection(projection, shown);
+        if (shown.OutputAOV != image->OutputAOV) {
+            model_.controls.Set(SliderId::AovOutput, static_cast<double>(shown.OutputAOV));
+        }
         if (const std::optional<double> effect = ValuesFor(shown).effect) {
             model_.controls.Fill(SliderId::Effect, *effect);
         }

@@ -48,7 +48,7 @@ void FillGaps(ImageRecord& record) {
     constexpr float usualFisheye = 180.0F;
     record.InputAOV = record.InputAOV > 0.0F ? record.InputAOV : usualFisheye;
     if (record.OutputAOV <= 0.0F) {
-        record.OutputAOV = UsualOutputAov(record.InputAOV);
+        record.OutputAOV = UsualOutputAov(record);
     }
 }
 

@@ -31,6 +31,8 @@ struct ControlUse {
     std::optional<ControlRange> range = std::nullopt;
     // What a number that makes no picture becomes when the projection is chosen.
     std::optional<int> fallback = std::nullopt;
+    // What it starts with; nothing: as the gear gives it.
+    std::optional<int> usual = std::nullopt;
 };
 
 // A point of the result by its share of the way from the left and from the bottom.

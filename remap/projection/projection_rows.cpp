@@ -25,32 +25,33 @@ constexpr std::array inputAngle{ControlUse{SliderId::AovInput}};
 
 constexpr ControlRange halfTurns{-180, 180};
 
-// The angle of view of the output up to so many degrees, and turns all round.
-template <int widest>
-constexpr std::array sphereControls{ControlUse{SliderId::AovOutput, true, ControlRange{10, widest}},
-                                    ControlUse{SliderId::X, true, halfTurns},
-                                    ControlUse{SliderId::Y, true, halfTurns},
-                                    ControlUse{SliderId::Z, true, halfTurns}};
-template <int widest>
-constexpr std::array partialSphereControls{
-    ControlUse{SliderId::AovOutput, true, ControlRange{10, widest}}, ControlUse{SliderId::Effect},
-    ControlUse{SliderId::X, true, halfTurns}, ControlUse{SliderId::Y, true, halfTurns},
-    ControlUse{SliderId::Z, true, halfTurns}};
+// The angle of view of the output up to so many degrees.
+constexpr ControlUse AngleTo(int widest, std::optional<int> usual = {}) {
+    return {SliderId::AovOutput, true, ControlRange{10, widest}, std::nullopt, usual};
+}
+constexpr ControlUse turnX{SliderId::X, true, halfTurns};
+constexpr ControlUse turnY{SliderId::Y, true, halfTurns};
+constexpr ControlUse turnZ{SliderId::Z, true, halfTurns};
 
-constexpr std::array paniniControls{ControlUse{SliderId::AovOutput, true, ControlRange{10, 320}},
+template <int widest>
+constexpr std::array sphereControls{AngleTo(widest), turnX, turnY, turnZ};
+constexpr std::array stereographicControls{AngleTo(340), ControlUse{SliderId::Effect}, turnX, turnY,
+                                           turnZ};
+constexpr std::array paniniControls{AngleTo(320),
                                     ControlUse{SliderId::Effect},
                                     ControlUse{SliderId::PaniniD},
                                     ControlUse{SliderId::PaniniSqueeze},
-                                    ControlUse{SliderId::X, true, halfTurns},
-                                    ControlUse{SliderId::Y, true, halfTurns},
-                                    ControlUse{SliderId::Z, true, halfTurns}};
-constexpr std::array unrolledControls{ControlUse{SliderId::AovOutput, true, ControlRange{10, 360}},
+                                    turnX,
+                                    turnY,
+                                    turnZ};
+constexpr std::array planetControls{AngleTo(340, 270), turnX, turnY, turnZ};
+constexpr std::array unrolledControls{AngleTo(360, 360),
                                       ControlUse{SliderId::UnrollStart},
                                       ControlUse{SliderId::UnrollFrom},
                                       ControlUse{SliderId::UnrollTo},
-                                      ControlUse{SliderId::X, true, halfTurns},
-                                      ControlUse{SliderId::Y, true, halfTurns},
-                                      ControlUse{SliderId::Z, true, halfTurns}};
+                                      turnX,
+                                      turnY,
+                                      turnZ};
 constexpr std::array planetChoices{ChoiceId::Pose, ChoiceId::Tunnel};
 constexpr std::array unrolledChoices{ChoiceId::UnrollDirection, ChoiceId::Marks};
 
@@ -62,8 +63,6 @@ constexpr std::array around{FramePoint{0.0, 0.0}, FramePoint{0.5, 0.0}, FramePoi
 constexpr std::array aside{FramePoint{0.0, 0.0},  FramePoint{0.0, 0.25}, FramePoint{0.0, 0.75},
                            FramePoint{0.0, 1.0},  FramePoint{1.0, 0.0},  FramePoint{1.0, 0.25},
                            FramePoint{1.0, 0.75}, FramePoint{1.0, 1.0}};
-
-constexpr FrameSteering sphereFrame{SliderId::AovOutput, true, around, Widening::Angle};
 
 constexpr NameTag EffectTag(float ImageRecord::*effect) {
     return {u"_Eff", effect, ReasonCode::Effect, 3, 100.0F};
@@ -103,14 +102,44 @@ std::unique_ptr<ProjectionMap> MakeEquidistance(const ImageRecord& image, const 
     return std::make_unique<EquidistanceMap>(EquidistanceViewOf(image, frames));
 }
 
-template <NewPlane plane, auto widest, bool partial = false, bool planet = false>
-std::unique_ptr<ProjectionMap> MakeSphere(const ImageRecord& image, const Frames& frames) {
-    return MakeOnSphere({widest, plane, partial, planet}, image, frames);
-}
-
 template <PlanePointer (*plane)(const PlaneFit& fit)>
 PlanePointer Plain(const ImageRecord& /*image*/, const PlaneFit& fit) {
     return plane(fit);
+}
+
+enum class SphereKind {
+    Whole,
+    Partial,  // by the effect of the straight view
+    Planet    // looks down, or up, by how the camera was held
+};
+
+template <NewPlane plane, auto widest, SphereKind kind>
+std::unique_ptr<ProjectionMap> MakeSphere(const ImageRecord& image, const Frames& frames) {
+    return MakeOnSphere({widest, plane, kind == SphereKind::Partial, kind == SphereKind::Planet},
+                        image, frames);
+}
+
+// A projection of the sphere: what such rows have alike beside what each says of itself.
+template <NewPlane plane, auto widest, SphereKind kind = SphereKind::Whole>
+constexpr ProjectionInfo OnSphere(ProjectionInfo row) {
+    row.frame = {SliderId::AovOutput, true, around, Widening::Angle};
+    row.tags = sphereTags;
+    if (kind == SphereKind::Partial) {
+        row.effect = &ImageRecord::EffectRectilinear;
+        row.tags = rectilinearTags;
+        row.sheet = effectVariants;
+    }
+    row.levels = kind == SphereKind::Planet || row.azimuths ? LevelKind::Pole : LevelKind::Horizon;
+    row.Widest = widest;
+    row.Make = MakeSphere<plane, widest, kind>;
+    return row;
+}
+
+// The same for the widest angle of all its pictures, degrees.
+template <PlanePointer (*plane)(const PlaneFit& fit), int widest>
+constexpr ProjectionInfo OnSphereTo(ProjectionInfo row) {
+    row.controls = sphereControls<widest>;
+    return OnSphere<Plain<plane>, WidestOf<widest>>(row);
 }
 
 // At three angles of view, degrees.
@@ -177,23 +206,16 @@ constexpr std::array rows{
         .sheet = effectVariants,
         .Make = MakeOfCircle<HorizonMap>,
     },
-    ProjectionInfo{
+    OnSphere<Plain<StereographicPlane>, WidestOf<340>, SphereKind::Partial>({
         .id = Projection::Stereographic,
         .key = u"stereographic",
         .name = u"Stereographic",
         .title = QT_TRANSLATE_NOOP("Projections", "Stereographic"),
         .tip = QT_TRANSLATE_NOOP(
             "Projections", "Small shapes stay true however wide the view; straight lines bow"),
-        .controls = partialSphereControls<340>,
-        .effect = &ImageRecord::EffectRectilinear,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = rectilinearTags,
-        .sheet = effectVariants,
-        .Widest = WidestOf<340>,
-        .Make = MakeSphere<Plain<StereographicPlane>, WidestOf<340>, true>,
-    },
-    ProjectionInfo{
+        .controls = stereographicControls,
+    }),
+    OnSphere<PaniniPlaneOf, WidestPanini, SphereKind::Partial>({
         .id = Projection::Panini,
         .key = u"panini",
         .name = u"Panini",
@@ -202,31 +224,18 @@ constexpr std::array rows{
             "Projections",
             "Wide rooms and streets: uprights and lines toward the middle stay straight"),
         .controls = paniniControls,
-        .effect = &ImageRecord::EffectRectilinear,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = rectilinearTags,
-        .sheet = effectVariants,
-        .Widest = WidestPanini,
-        .Make = MakeSphere<PaniniPlaneOf, WidestPanini, true>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<CylindricalPlane, 360>({
         .id = Projection::Cylindrical,
         .key = u"cylindrical",
         .name = u"Cylindrical",
         .title = QT_TRANSLATE_NOOP("Projections", "Cylindrical"),
         .tip = QT_TRANSLATE_NOOP("Projections",
                                  "A panorama around an upright cylinder: uprights stay straight"),
-        .controls = sphereControls<360>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 180.0, 240.0),
         .panorama = PanoramaLayout::Cylindrical,
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<Plain<CylindricalPlane>, WidestOf<360>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<MercatorPlane, 360>({
         .id = Projection::Mercator,
         .key = u"mercator",
         .name = u"Mercator",
@@ -234,31 +243,19 @@ constexpr std::array rows{
         .tip = QT_TRANSLATE_NOOP(
             "Projections",
             "A panorama that keeps small shapes true, less tall than around a cylinder"),
-        .controls = sphereControls<360>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 180.0, 240.0),
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<Plain<MercatorPlane>, WidestOf<360>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<EquirectangularPlane, 360>({
         .id = Projection::Equirectangular,
         .key = u"equirectangular",
         .name = u"Equirectangular",
         .title = QT_TRANSLATE_NOOP("Projections", "Equirectangular"),
         .tip = QT_TRANSLATE_NOOP("Projections",
                                  "Even angles across and up: what 360 degree viewers take"),
-        .controls = sphereControls<360>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 180.0, 360.0),
         .panorama = PanoramaLayout::Equirectangular,
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<Plain<EquirectangularPlane>, WidestOf<360>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<EquidistantPlane, 360>({
         .id = Projection::FisheyeEquidistant,
         .key = u"fisheye-equidistant",
         .name = u"FisheyeEquidistant",
@@ -266,61 +263,38 @@ constexpr std::array rows{
         .tip = QT_TRANSLATE_NOOP(
             "Projections",
             "A fisheye in which the distance from the middle is the angle, whatever the sensor"),
-        .controls = sphereControls<360>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 150.0, 180.0),
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<Plain<EquidistantPlane>, WidestOf<360>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<EquisolidPlane, 360>({
         .id = Projection::FisheyeEquisolid,
         .key = u"fisheye-equisolid",
         .name = u"FisheyeEquisolid",
         .title = QT_TRANSLATE_NOOP("Projections", "Fisheye, equisolid"),
         .tip = QT_TRANSLATE_NOOP("Projections",
                                  "A fisheye in which equal parts of the view take equal areas"),
-        .controls = sphereControls<360>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 150.0, 180.0),
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<Plain<EquisolidPlane>, WidestOf<360>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphereTo<OrthographicPlane, 180>({
         .id = Projection::Orthographic,
         .key = u"orthographic",
         .name = u"Orthographic",
         .title = QT_TRANSLATE_NOOP("Projections", "Orthographic"),
         .tip =
             QT_TRANSLATE_NOOP("Projections", "The half in front as on a globe seen from far away"),
-        .controls = sphereControls<180>,
-        .frame = sphereFrame,
-        .levels = LevelKind::Horizon,
-        .tags = sphereTags,
         .sheet = Angles(120.0, 150.0, 180.0),
-        .Widest = WidestOf<180>,
-        .Make = MakeSphere<Plain<OrthographicPlane>, WidestOf<180>>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphere<Plain<StereographicPlane>, WidestOf<340>, SphereKind::Planet>({
         .id = Projection::LittlePlanet,
         .key = u"little-planet",
         .name = u"LittlePlanet",
         .title = QT_TRANSLATE_NOOP("Projections", "Little planet"),
         .tip = QT_TRANSLATE_NOOP("Projections", "The ground as a small planet, the sky around it"),
-        .controls = sphereControls<340>,
+        .controls = planetControls,
         .choices = planetChoices,
-        .frame = sphereFrame,
-        .levels = LevelKind::Pole,
         .Stand = TiltOfPlanet,
-        .tags = sphereTags,
         .sheet = Angles(220.0, 270.0, 320.0),
-        .Widest = WidestOf<340>,
-        .Make = MakeSphere<Plain<StereographicPlane>, WidestOf<340>, false, true>,
-    },
-    ProjectionInfo{
+    }),
+    OnSphere<UnrolledPlaneOf, WidestOf<360>>({
         .id = Projection::Unrolled,
         .key = u"unrolled",
         .name = u"Unrolled",
@@ -329,14 +303,9 @@ constexpr std::array rows{
                                  "Directions around the axis become columns, angles from it rows"),
         .controls = unrolledControls,
         .choices = unrolledChoices,
-        .frame = sphereFrame,
-        .levels = LevelKind::Pole,
-        .tags = sphereTags,
         .sheet = Angles(90.0, 180.0, 360.0),
         .azimuths = true,
-        .Widest = WidestOf<360>,
-        .Make = MakeSphere<UnrolledPlaneOf, WidestOf<360>>,
-    },
+    }),
 };
 
 }  // namespace

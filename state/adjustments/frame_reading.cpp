@@ -44,7 +44,7 @@ Share AxisOf(const ImageRecord& image, PixelSize picture) {
 void RenewAngles(ImageRecord& image) {
     const GearRecord gear = WholeGearOf(image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
-    image.OutputAOV = UsualOutputAov(image.InputAOV);
+    image.OutputAOV = UsualOutputAov(image);
 }
 
 void TakePiece(double millimetresPerPixel, ImageRecord& image) {

@@ -3,10 +3,12 @@
 
 #include "state/adjustments/gear_assignment.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "remap/image/exif_orientation.h"
+#include "remap/projection/projection_info.h"
 #include "state/adjustments/frame_reading.h"
 
 namespace varnel {
@@ -71,9 +73,17 @@ void TurnCentre(ImageRecord& image, int orientation) {
     }
 }
 
-float UsualOutputAov(float inputAov) {
+float UsualOutputAov(const ImageRecord& image) {
     constexpr float widest = 130.0F;
-    return inputAov > widest ? widest : inputAov;
+    const ControlUse* const use = UseOf(ProjectionFromIndex(image.Projection), SliderId::AovOutput);
+    return use != nullptr && use->usual ? static_cast<float>(*use->usual)
+                                        : std::min(image.InputAOV, widest);
+}
+
+void TakeProjection(Projection projection, ImageRecord& image) {
+    const bool usual = image.OutputAOV == UsualOutputAov(image);
+    image.Projection = static_cast<std::int16_t>(projection);
+    image.OutputAOV = usual ? UsualOutputAov(image) : image.OutputAOV;
 }
 
 void CopyGear(const GearRecord& gear, ImageRecord& image) {
@@ -104,7 +114,7 @@ bool AssignGear(const GearRecord& gear, ImageRecord& image) {
     image.EffectRectilinear = usualEffect;
     CopyGear(gear, image);
     image.InputAOV = image.Landscape ? gear.hAOV : gear.vAOV;
-    image.OutputAOV = UsualOutputAov(image.InputAOV);
+    image.OutputAOV = UsualOutputAov(image);
     TakePieceOfLens(image);
     return true;
 }

@@ -12,9 +12,14 @@
 
 namespace varnel {
 
-// Defaults of a gear: percent, and degrees for an angle of view of the photo.
+// Defaults of a gear: percent, and degrees by the photo's angle of view and its projection, some of
+// which show much more than a usual photo has.
 inline constexpr float usualEffect = 100.0F;
-float UsualOutputAov(float inputAov);
+float UsualOutputAov(const ImageRecord& image);
+
+// Gives the record the projection, and where it has the usual output angle of view that of the
+// projection.
+void TakeProjection(Projection projection, ImageRecord& image);
 
 // Copies the gear's names and numbers but for its angles of view. No adjustment is touched.
 void CopyGear(const GearRecord& gear, ImageRecord& image);

@@ -68,7 +68,7 @@ std::optional<KnownLens> KnownLensOf(const ImageRecord& image) {
 }
 
 void PutLens(const LensReference& lens, ImageRecord& image) {
-    const bool usualAngle = image.OutputAOV == UsualOutputAov(image.InputAOV);
+    const bool usualAngle = image.OutputAOV == UsualOutputAov(image);
     const float outputAngle = image.OutputAOV;
     const GearRecord gear = WithLens(lens, image);
     image.GearName = gear.CameraBrand.isEmpty() && gear.CameraModel.isEmpty()
@@ -87,7 +87,7 @@ void PutLens(const LensReference& lens, ImageRecord& image) {
         image.OfsetX = image.OfsetY = 0.0F;
     }
     TakeLensScale(image);
-    image.OutputAOV = usualAngle ? UsualOutputAov(image.InputAOV) : outputAngle;
+    image.OutputAOV = usualAngle ? UsualOutputAov(image) : outputAngle;
     image.SettingsApplied = true;
 }
 

@@ -40,7 +40,7 @@ float UsualInputAov(const ImageRecord& image, const GearTable& gears) {
 ImageRecord UsualRecord(const ImageRecord& image, const GearTable& gears) {
     ImageRecord usual = image;
     usual.InputAOV = UsualInputAov(image, gears);
-    usual.OutputAOV = UsualOutputAov(usual.InputAOV);
+    usual.OutputAOV = UsualOutputAov(usual);
     usual.EffectVarnel = usualEffect;
     usual.EffectRectilinear = usualEffect;
     usual.RotateX = usual.RotateY = usual.RotateZ = 0.0F;

@@ -63,9 +63,8 @@ void KeepMovedAngles(const ImageRecord& before, const GearRecord& gear, ImageRec
     if (!isUsual(usual.InputAOV) && !isUsual(AngleFor(gear, before))) {
         image.InputAOV = before.InputAOV;
     }
-    image.OutputAOV = before.OutputAOV == UsualOutputAov(before.InputAOV)
-                          ? UsualOutputAov(image.InputAOV)
-                          : before.OutputAOV;
+    image.OutputAOV =
+        before.OutputAOV == UsualOutputAov(before) ? UsualOutputAov(image) : before.OutputAOV;
 }
 
 void KeepPiece(const ImageRecord& image, GearRecord& gear) {
@@ -134,7 +133,7 @@ int TakeCircle(const GearCircle& circle, GearRecord& gear, RecordArray<ImageReco
         if (n != current && gear.Own.HasSensor()) {
             GiveSensor(gear, image);
             image.InputAOV = AngleFor(gear, image);
-            image.OutputAOV = UsualOutputAov(image.InputAOV);
+            image.OutputAOV = UsualOutputAov(image);
         }
         GiveCentre(gear, image);
         image.Ratio = gear.GearRatio;

@@ -64,9 +64,9 @@ ImageRecord WithFrameOf(const ImageRecord& frame, ImageRecord image) {
     image.OfsetX = frame.OfsetX;
     image.OfsetY = frame.OfsetY;
     image.Ratio = frame.Ratio;
-    const bool usual = image.OutputAOV == UsualOutputAov(image.InputAOV);
+    const bool usual = image.OutputAOV == UsualOutputAov(image);
     image.InputAOV = frame.InputAOV;
-    image.OutputAOV = usual ? frame.OutputAOV : image.OutputAOV;
+    image.OutputAOV = usual ? UsualOutputAov(image) : image.OutputAOV;
     image.SettingsApplied = true;
     return image;
 }

@@ -126,6 +126,19 @@ TEST_F(MoreProjections, HaveChoicesThatAreStoredUndoneAndReset) {
     EXPECT_EQ(seen, choiceCount);
 }
 
+TEST_F(MoreProjections, StartAsWideAsTheyAreMeantToBeUnlessAnAngleWasSet) {
+    const float ofGear = workspace.Record(1).OutputAOV;
+    workspace.ChooseProjection(Projection::LittlePlanet);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 270.0F);
+    workspace.ChooseProjection(Projection::Unrolled);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 360.0F);
+    workspace.Click("OptionRemap_1");
+    EXPECT_EQ(workspace.Record(1).OutputAOV, ofGear);
+    workspace.Slider("SliderAOVoutput")->setValue(77);
+    workspace.ChooseProjection(Projection::LittlePlanet);
+    EXPECT_EQ(workspace.Record(1).OutputAOV, 77.0F);
+}
+
 TEST_F(MoreProjections, AnAngleThatHasNoPictureElsewhereGivesWay) {
     workspace.ChooseProjection(Projection::Equirectangular);
     workspace.Slider("SliderAOVoutput")->setValue(360);

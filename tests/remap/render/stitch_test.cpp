@@ -57,6 +57,31 @@ BitmapHandle Stitched(const Scene& front, const Scene& back, const ImageRecord& 
                   silent);
 }
 
+// Half the width of the blend, and how far beside it what only one photo shows is looked at,
+// pixels.
+constexpr int halfBlend = 3;
+constexpr int besideBlend = 10;
+
+// How much brighter than the scene a piece of a row is, on average.
+double Excess(const Bitmap* result, const Scene& scene, int first, int y) {
+    double sum = 0.0;
+    for (int x = first; x < first + besideBlend; ++x) {
+        sum += testing::PixelAt(result, x, y).green - scene(SphereRay(x, y)).green;
+    }
+    return sum / besideBlend;
+}
+
+// On both sides of the seams of a camera held level, a quarter of the way to the left and right.
+void ExpectToMeet(const Bitmap* result, const Scene& scene) {
+    for (const int seam : {width / 4, 3 * width / 4}) {
+        for (int y = width / 16; y < 7 * width / 16; ++y) {
+            const double left = Excess(result, scene, seam - halfBlend - besideBlend, y);
+            const double right = Excess(result, scene, seam + halfBlend + 1, y);
+            EXPECT_NEAR(left, right, 1.0) << seam << " " << y;
+        }
+    }
+}
+
 // Rounded source levels and blends rounded down half a level each.
 void ExpectScene(const Bitmap* result, const Scene& scene, double factor = 1.0) {
     ASSERT_EQ(SizeOf(result).height, width / 2);
@@ -76,6 +101,7 @@ void ExpectScene(const Bitmap* result, const Scene& scene, double factor = 1.0) 
 TEST(Stitch, TwoCirclesMakeTheSphere) {
     const BitmapHandle result = Stitched(LookAtGradients, LookAtGradients, CircleRecord());
     ExpectScene(result.get(), LookAtGradients);
+    ExpectToMeet(result.get(), LookAtGradients);
     EXPECT_TRUE(result->metadata.panorama);
 }
 
@@ -95,8 +121,13 @@ TEST(Stitch, ColoursMeetAtTheSeam) {
         const Colour colour = LookAtGradients(ray);
         return Colour{colour.red * 0.9, colour.green * 0.9, colour.blue * 0.9};
     };
-    ExpectScene(Stitched(LookAtGradients, darker, CircleRecord()).get(), LookAtGradients,
-                std::sqrt(0.9));
+    const BitmapHandle result = Stitched(LookAtGradients, darker, CircleRecord());
+    ExpectScene(result.get(), LookAtGradients, std::sqrt(0.9));
+    ExpectToMeet(result.get(), [](const Ray& ray) {
+        const Colour colour = LookAtGradients(ray);
+        const double factor = std::sqrt(0.9);
+        return Colour{colour.red * factor, colour.green * factor, colour.blue * factor};
+    });
 }
 
 // Along a row the level is halfway between dark and bright.

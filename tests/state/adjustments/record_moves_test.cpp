@@ -219,5 +219,27 @@ TEST(StoreControls, LeavesNumbersThatWereNotChangedAsTheyAre) {
     EXPECT_EQ(Changed(image, stored), "SettingsApplied=True RotateY=7");
 }
 
+TEST(TakeProjection, GivesTheUsualAngleOfTheProjectionInThePlaceOfTheUsualOneOnly) {
+    ImageRecord image = SomeImage(true);
+    image.InputAOV = 170.0F;
+    image.OutputAOV = UsualOutputAov(image);
+    EXPECT_EQ(image.OutputAOV, 130.0F);
+    const struct {
+        Projection projection;
+        float angle;
+    } rows[] = {{Projection::Mercator, 130.0F},
+                {Projection::LittlePlanet, 270.0F},
+                {Projection::Unrolled, 360.0F},
+                {Projection::Rectilinear, 130.0F}};
+    for (const auto& row : rows) {
+        TakeProjection(row.projection, image);
+        EXPECT_EQ(image.Projection, static_cast<int>(row.projection));
+        EXPECT_EQ(image.OutputAOV, row.angle);
+    }
+    image.OutputAOV = 100.0F;
+    TakeProjection(Projection::LittlePlanet, image);
+    EXPECT_EQ(image.OutputAOV, 100.0F);
+}
+
 }  // namespace
 }  // namespace varnel

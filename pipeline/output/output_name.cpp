@@ -51,8 +51,11 @@ QString NameAdditions::For(Projection projection) const {
 
 QString SettingsTags(const ImageRecord& image) {
     QString tags;
-    for (const NameTag& tag : InfoOf(ProjectionFromIndex(image.Projection)).tags) {
-        tags += TagText(tag, image.*tag.field);
+    const Projection projection = ProjectionFromIndex(image.Projection);
+    ImageRecord shown = image;
+    shown.OutputAOV = CutAngleOf(projection, image).value_or(image.OutputAOV);
+    for (const NameTag& tag : InfoOf(projection).tags) {
+        tags += TagText(tag, shown.*tag.field);
     }
     if (image.OutputWidth > 0 || image.OutputHeight > 0) {
         const PixelSize size = ResultSizeOf(image, {image.Width, image.Height});

@@ -115,6 +115,8 @@ TEST(BatchName, TagsTellTheSettings) {
         {.projection = 3, .x = 5.0F, .expected = "/o/IMG.Horizon.TIF"},
         {.projection = 14, .expected = "/o/IMG.Horizon.TIF"},
         {.projection = 4, .effect = 80.0F, .expected = "/o/IMG.Stereographic_hAOV095_Eff080.TIF"},
+        // As wide as it is, not as was asked for.
+        {.projection = 11, .outputAov = 250.0F, .expected = "/o/IMG.Orthographic_hAOV180.TIF"},
         {.projection = 9,
          .outputAov = 180.0F,
          .effect = 80.0F,

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/byte_coding.h"
 #include "remap/render/outside.h"
 
 namespace varnel {
@@ -40,10 +40,11 @@ void PaintMark(QPainter& painter, QPointF corner, double way, const QColor& colo
 
 Histogram Histogram::Of(const Bitmap& picture, const OutsideFill& outside) {
     Histogram found;
+    const ByteCoding coding(picture);
     for (int y = 0; y < picture.Size().height; ++y) {
         const std::uint8_t* pixel = picture.ScanLine(y).data();
         for (int x = 0; x < picture.Size().width; ++x, pixel += PixelStep(picture.Format())) {
-            const PixelColor colour = ColourAt(pixel, picture.Format());
+            const PixelColor colour = coding.ColourAt(pixel);
             const std::array<std::uint8_t, 3> levels{colour.blue, colour.green, colour.red};
             const auto [least, most] = std::ranges::minmax(levels);
             const PixelColor none = OutsideColour(outside, x, y);

@@ -23,7 +23,7 @@ PixelSize SizeOf(QSize size) {
 
 QImage Averaged(const Bitmap& picture, const AreaPlace& place, PixelSize size,
                 BlockRunner& runner) {
-    const BitmapHandle shown = NewBitmap(size, picture.Format());
+    const BitmapHandle shown = NewBitmap(size);
     AverageAreas(picture, place, *shown, runner);
     return ImageOf(shown.get()).convertToFormat(QImage::Format_RGB32);
 }
@@ -148,7 +148,7 @@ const Bitmap& ScreenPictures::SourceFor(const Wish& wish) {
     const AreaPlace place = ReducedPlace(image_, plan_);
     if (!reduced_ || reduced_->Size().width != plan_.source.width || !(reducedPlace_ == place)) {
         reduced_.reset();
-        BitmapHandle reduced = NewBitmap(plan_.source, wish.photo->Format());
+        BitmapHandle reduced = NewBitmap(plan_.source);
         AverageAreas(*wish.photo, place, *reduced, runner_);
         reduced_ = std::move(reduced);
         reducedPlace_ = place;

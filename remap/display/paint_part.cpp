@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/byte_coding.h"
 
 namespace varnel {
 
@@ -39,13 +39,15 @@ struct Axis {
     }
 };
 
-void PaintLine(const std::vector<const std::uint8_t*>& rows, PixelFormat format,
+void PaintLine(const std::vector<const std::uint8_t*>& rows, const Bitmap& bitmap,
                const Axis& columns, QRgb* out) {
+    const ByteCoding coding(bitmap);
+    const std::ptrdiff_t step = PixelStep(bitmap.Format());
     const auto count = static_cast<int>(rows.size());
     const int* column = columns.samples.data();
     if (count == 1) {
         for (int x = columns.first; x < columns.end; ++x) {
-            const PixelColor pixel = ColourAt(rows[0] + *column++ * PixelStep(format), format);
+            const PixelColor pixel = coding.ColourAt(rows[0] + *column++ * step);
             out[x] = qRgb(pixel.red, pixel.green, pixel.blue);
         }
         return;
@@ -57,7 +59,7 @@ void PaintLine(const std::vector<const std::uint8_t*>& rows, PixelFormat format,
         int red = all / 2;
         for (const std::uint8_t* const row : rows) {
             for (int k = 0; k < count; ++k) {
-                const PixelColor pixel = ColourAt(row + column[k] * PixelStep(format), format);
+                const PixelColor pixel = coding.ColourAt(row + column[k] * step);
                 blue += pixel.blue;
                 green += pixel.green;
                 red += pixel.red;
@@ -88,7 +90,7 @@ void PaintPart(const Bitmap* bitmap, const PartPlace& place, QImage& image,
             rows[k] = ScanLine(bitmap, row).data();
         }
         if (there) {
-            PaintLine(rows, bitmap->Format(), columns, reinterpret_cast<QRgb*>(image.scanLine(y)));
+            PaintLine(rows, *bitmap, columns, reinterpret_cast<QRgb*>(image.scanLine(y)));
         }
     }
 }

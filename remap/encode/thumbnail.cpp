@@ -8,7 +8,7 @@
 #include <cmath>
 #include <vector>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/byte_coding.h"
 
 namespace varnel {
 
@@ -43,17 +43,18 @@ std::vector<std::int32_t> PlacesOf(std::int32_t thumbnailSide, std::int32_t side
 using Rows = std::array<const std::uint8_t*, samples>;
 
 // One row of the thumbnail.
-void Average(const Rows& rows, PixelFormat format, const std::vector<std::int32_t>& columns,
+void Average(const Rows& rows, const Bitmap& bitmap, const std::vector<std::int32_t>& columns,
              std::uint8_t* out) {
     constexpr unsigned all = samples * samples;
+    const ByteCoding coding(bitmap);
+    const std::ptrdiff_t step = PixelStep(bitmap.Format());
     for (std::size_t first = 0; first < columns.size(); first += samples, out += 3) {
         unsigned blue = all / 2;
         unsigned green = all / 2;
         unsigned red = all / 2;
         for (const std::uint8_t* const row : rows) {
             for (std::size_t n = 0; n < samples; ++n) {
-                const PixelColor pixel =
-                    ColourAt(row + columns[first + n] * PixelStep(format), format);
+                const PixelColor pixel = coding.ColourAt(row + columns[first + n] * step);
                 blue += pixel.blue;
                 green += pixel.green;
                 red += pixel.red;
@@ -79,7 +80,7 @@ BitmapHandle ThumbnailOf(const Bitmap* bitmap) {
             sampled[static_cast<std::size_t>(n)] =
                 bitmap->ScanLine(rows[static_cast<std::size_t>(y * samples + n)]).data();
         }
-        Average(sampled, bitmap->Format(), columns, thumbnail->ScanLine(y).data());
+        Average(sampled, *bitmap, columns, thumbnail->ScanLine(y).data());
     }
     return thumbnail;
 }

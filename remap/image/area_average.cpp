@@ -7,7 +7,7 @@
 #include <cmath>
 #include <vector>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/byte_coding.h"
 
 namespace varnel {
 
@@ -42,11 +42,35 @@ Cover CoverOf(const AreaAxis& axis, int n, int size) {
 }
 
 // Adds a row's samples to the sums, each in the share. The whole inner loop is the compiler's.
+template <class Sample>
 void AddRow(const std::uint8_t* row, float share, std::vector<float>& sums) {
     const std::size_t count = sums.size();
     float* const out = sums.data();
     for (std::size_t n = 0; n < count; ++n) {
-        out[n] += share * static_cast<float>(row[n]);
+        out[n] += share * static_cast<float>(SampleAt<Sample>(row, n));
+    }
+}
+
+// The mean of a sample's column; the samples of a pixel are that many.
+float MeanOf(const Cover& column, const float* from, std::size_t samples) {
+    if (column.last == column.first) {
+        return *from;
+    }
+    float between = 0.0F;
+    const float* at = from;
+    for (int n = column.first + 1; n < column.last; ++n) {
+        between += *(at += samples);
+    }
+    return *from * column.firstShare + between * column.share + at[samples] * column.lastShare;
+}
+
+// What is cut off of it is the mean rounded.
+template <class Sample>
+Sample RoundedTo(float mean) {
+    if constexpr (std::is_same_v<Sample, float>) {
+        return mean;
+    } else {
+        return static_cast<Sample>(mean + 0.5F);
     }
 }
 
@@ -60,40 +84,46 @@ class Averaging {
     }
 
     void DrawRows(int first, int end) const {
-        std::vector<float> sums(source_.ScanLine(0).size());
-        for (int y = first; y < end; ++y) {
-            std::ranges::fill(sums, 0.0F);
-            const Cover rows = CoverOf(place_.up, y, source_.Size().height);
-            for (int row = rows.first; row <= rows.last; ++row) {
-                AddRow(source_.ScanLine(row).data(), rows.ShareOf(row), sums);
+        WithSample(SampleKindOf(source_.Format()), [&](auto kind) {
+            using Sample = decltype(kind);
+            std::vector<float> sums(source_.ScanLine(0).size() / sizeof(Sample));
+            for (int y = first; y < end; ++y) {
+                std::ranges::fill(sums, 0.0F);
+                const Cover rows = CoverOf(place_.up, y, source_.Size().height);
+                for (int row = rows.first; row <= rows.last; ++row) {
+                    AddRow<Sample>(source_.ScanLine(row).data(), rows.ShareOf(row), sums);
+                }
+                FillRow<Sample>(sums, target_.ScanLine(y).data());
             }
-            FillRow(sums, target_.ScanLine(y).data());
-        }
+        });
     }
 
   private:
+    // To samples of the source's kind or bytes.
+    template <class Sample>
     void FillRow(const std::vector<float>& sums, std::uint8_t* out) const {
-        const std::size_t samples = BytesPerPixel(source_.Format());
+        if (target_.Format() == source_.Format()) {
+            FillRow<Sample>(sums, out, SampleCount(source_),
+                            [](float mean) { return RoundedTo<Sample>(mean); });
+        } else {
+            const ByteCoding coding(source_);
+            FillRow<std::uint8_t>(sums, out, 3, [&](float mean) { return coding.ByteOf(mean); });
+        }
+    }
+    // The first samples of each pixel, as many as are wanted.
+    template <class Sample, class Code>
+    void FillRow(const std::vector<float>& sums, std::uint8_t* out, std::size_t wanted,
+                 const Code& code) const {
+        const std::size_t samples = SampleCount(source_);
         for (const Cover& column : columns_) {
-            const float* from = &sums[static_cast<std::size_t>(column.first) * samples];
-            for (std::size_t sample = 0; sample < samples; ++sample, ++from) {
-                *out++ = static_cast<std::uint8_t>(HalfAboveMean(column, from, samples));
+            const float* const from = &sums[static_cast<std::size_t>(column.first) * samples];
+            for (std::size_t n = 0; n < wanted; ++n, out += sizeof(Sample)) {
+                PutSample<Sample>(out, 0, code(MeanOf(column, from + n, samples)));
             }
         }
     }
-
-    // What is cut off of it is the mean rounded.
-    static float HalfAboveMean(const Cover& column, const float* from, std::size_t samples) {
-        if (column.last == column.first) {
-            return *from + 0.5F;
-        }
-        float between = 0.0F;
-        const float* at = from;
-        for (int n = column.first + 1; n < column.last; ++n) {
-            between += *(at += samples);
-        }
-        return *from * column.firstShare + between * column.share + at[samples] * column.lastShare +
-               0.5F;
+    static std::size_t SampleCount(const Bitmap& bitmap) {
+        return HasAlpha(bitmap.Format()) ? 4 : 3;
     }
 
     const Bitmap& source_;

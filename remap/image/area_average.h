@@ -26,7 +26,8 @@ struct AreaPlace {
     bool operator==(const AreaPlace& other) const = default;
 };
 
-// Fills the target, whose format is the source's. Throws std::bad_alloc.
+// Fills the target, whose format is the source's or Bgr8, as the source's samples are seen on a
+// screen. Alpha is averaged beside the colours. Throws std::bad_alloc.
 void AverageAreas(const Bitmap& source, const AreaPlace& place, Bitmap& target,
                   BlockRunner& runner);
 

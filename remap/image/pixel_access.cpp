@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "remap/image/levels/byte_coding.h"
+
 namespace varnel {
 
 namespace {
@@ -19,6 +21,19 @@ std::ptrdiff_t PlaceOf(const Bitmap& bitmap, std::int32_t x, std::int32_t y) {
 }
 
 }  // namespace
+
+PixelLevels GetLevels(const Bitmap* bitmap, std::int32_t x, std::int32_t y) {
+    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
+    return place < 0 ? noLight : LevelsAt(bitmap->Bits() + place, bitmap->Format());
+}
+
+void SetLevels(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelLevels& levels,
+               std::optional<Channel> only) {
+    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
+    if (place >= 0) {
+        PutLevels(bitmap->Bits() + place, levels, bitmap->Format(), only);
+    }
+}
 
 bool GetPixelColor(const Bitmap* bitmap, std::int32_t x, std::int32_t y, PixelColor& colour) {
     const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
@@ -47,8 +62,9 @@ void CopyForScreen(const Bitmap* bitmap, int y, std::uint8_t* out) {
         return;
     }
     const std::uint8_t* pixel = row.data();
+    const ByteCoding coding(*bitmap);
     for (int x = 0; x < bitmap->Size().width; ++x, pixel += PixelStep(bitmap->Format()), out += 3) {
-        PutColour(out, ColourAt(pixel, bitmap->Format()), PixelFormat::Bgr8);
+        PutColour(out, coding.ColourAt(pixel), PixelFormat::Bgr8);
     }
 }
 

@@ -106,7 +106,8 @@ bool GetPixelColor(const Bitmap* bitmap, std::int32_t x, std::int32_t y, PixelCo
 // False when (x, y) lies outside the bitmap; nothing is written then.
 bool SetPixelColor(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelColor& colour);
 
-// Row y of the bitmap as Bgr8, three bytes a pixel; there has to be room for a whole row.
+// Row y of the bitmap as Bgr8 for the screen, three bytes a pixel; there has to be room for a whole
+// row.
 void CopyForScreen(const Bitmap* bitmap, int y, std::uint8_t* out);
 
 // Copies the source's metadata to the destination, all but the colour profile. False when one of

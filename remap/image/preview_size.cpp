@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/rounding.h"
+#include "remap/image/area_average.h"
 #include "remap/image/image_library.h"
 
 namespace varnel {
@@ -41,7 +42,20 @@ PixelSize FittedSize(PixelSize picture, PixelSize room) {
 }
 
 BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size) {
-    return RescaledByBox(*picture, size);
+    if (picture->Format() == PixelFormat::Bgr8) {
+        return RescaledByBox(*picture, size);
+    }
+    const auto axis = [](std::int32_t from, std::int32_t to) {
+        return AreaAxis{0.0, static_cast<double>(from) / to};
+    };
+    BitmapHandle reduced = NewBitmap(size);
+    SerialRunner runner;
+    AverageAreas(
+        *picture,
+        {axis(picture->Size().width, size.width), axis(picture->Size().height, size.height)},
+        *reduced, runner);
+    reduced->metadata = picture->metadata;
+    return reduced;
 }
 
 }  // namespace varnel

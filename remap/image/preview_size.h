@@ -17,7 +17,8 @@ PixelSize PreviewSize(PixelSize picture, PixelSize box, PixelSize room);
 // picture; at least 1 x 1.
 PixelSize FittedSize(PixelSize picture, PixelSize room);
 
-// The picture reduced to that size with the library's box filter. Throws std::bad_alloc.
+// The picture reduced to that size in 8 bits without alpha, as it is seen on a screen: each pixel
+// the mean of its area. Throws std::bad_alloc.
 BitmapHandle ReducedCopy(const Bitmap* picture, PixelSize size);
 
 }  // namespace varnel

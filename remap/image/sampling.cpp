@@ -3,6 +3,8 @@
 
 #include "remap/image/sampling.h"
 
+#include <array>
+
 #include "remap/image/interpolation.h"
 
 namespace varnel {
@@ -12,29 +14,31 @@ namespace {
 // Reads through the library; x and y are whole.
 struct LibraryReader {
     const Bitmap* bitmap;
-    PixelColor operator()(double x, double y) const {
-        PixelColor colour = black;
+    PixelLevels operator()(double x, double y) const {
         const std::optional<std::int32_t> column = PixelIndex(x);
         const std::optional<std::int32_t> row = PixelIndex(y);
-        if (column && row) {
-            GetPixelColor(bitmap, *column, *row, colour);
-        }
-        return colour;
+        return column && row ? GetLevels(bitmap, *column, *row) : noLight;
     }
 };
 
+PixelLevels Rounded(const PixelLevels& blend, PixelFormat format) {
+    std::array<std::uint8_t, BytesPerPixel(PixelFormat::BgraFloat)> pixel{};
+    PutLevels(pixel.data(), blend, format);
+    return LevelsAt(pixel.data(), format);
+}
+
 }  // namespace
 
-PixelColor SampleNearest(const Bitmap* bitmap, double x, double y) {
+PixelLevels SampleNearest(const Bitmap* bitmap, double x, double y) {
     return LibraryReader{bitmap}(Round(x), Round(y));
 }
 
-PixelColor SampleLinearX(const Bitmap* bitmap, double x, double y) {
-    return BlendLinearX(LibraryReader{bitmap}, x, y);
+PixelLevels SampleLinearX(const Bitmap* bitmap, double x, double y) {
+    return Rounded(BlendLinearX(LibraryReader{bitmap}, x, y), bitmap->Format());
 }
 
-PixelColor SampleBilinear(const Bitmap* bitmap, double x, double y) {
-    return BlendBilinear(LibraryReader{bitmap}, x, y);
+PixelLevels SampleBilinear(const Bitmap* bitmap, double x, double y) {
+    return Rounded(BlendBilinear(LibraryReader{bitmap}, x, y), bitmap->Format());
 }
 
 }  // namespace varnel

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/pixel_levels.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -63,6 +63,28 @@ double Share(double distance, double halfWidth) {
 std::uint8_t Mixed(std::uint8_t level, double light, double border) {
     const double dark = level * (1.0 - 0.75 * border);
     return static_cast<std::uint8_t>(std::lround(dark * (1.0 - light) + 255.0 * light));
+}
+
+// The same for other formats; what is transparent lies under the mark.
+PixelLevels Mixed(const PixelLevels& levels, const PixelLevels& white, double light,
+                  double border) {
+    const double share = (1.0 - 0.75 * border) * (1.0 - light);
+    const auto mixed = [&](double PixelLevels::*level) {
+        return levels.*level * share + white.*level * light;
+    };
+    return {mixed(&PixelLevels::blue), mixed(&PixelLevels::green), mixed(&PixelLevels::red),
+            1.0 - share * (1.0 - levels.alpha)};
+}
+
+void MarkPixel(std::uint8_t* pixel, PixelFormat format, double light, double border) {
+    if (format != PixelFormat::Bgr8) {
+        const PixelLevels white = LevelsOf({255, 255, 255, 255}, format);
+        PutLevels(pixel, Mixed(LevelsAt(pixel, format), white, light, border), format);
+        return;
+    }
+    for (std::size_t n = 0; n < 3; ++n) {
+        pixel[n] = Mixed(pixel[n], light, border);
+    }
 }
 
 }  // namespace
@@ -179,17 +201,13 @@ void Marks::DrawRow(Bitmap& result, std::int32_t row) const {
             distance = std::min(distance, stroke.DistanceFrom(x, row));
         }
     }
+    std::uint8_t* const pixels = result.ScanLine(row).data();
     for (std::int32_t x = 0; x < width; ++x) {
         const double distance = nearest[static_cast<std::size_t>(x)];
-        PixelColor colour;
-        if (distance > reach || !GetPixelColor(&result, x, row, colour)) {
-            continue;
+        if (distance <= reach) {
+            MarkPixel(pixels + x * PixelStep(result.Format()), result.Format(),
+                      Share(distance, halfWidth_), Share(distance, halfWidth_ * 2.2));
         }
-        const double light = Share(distance, halfWidth_);
-        const double border = Share(distance, halfWidth_ * 2.2);
-        SetPixelColor(&result, x, row,
-                      {Mixed(colour.blue, light, border), Mixed(colour.green, light, border),
-                       Mixed(colour.red, light, border), colour.reserved});
     }
 }
 

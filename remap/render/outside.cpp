@@ -8,12 +8,11 @@
 #include <utility>
 
 #include "remap/render/engine/batches.h"
+#include "remap/render/outside_rows.h"
 
 namespace varnel {
 
 namespace {
-
-constexpr std::uint8_t white = 255;
 
 // The columns of a row that lie in the photo's image circle; all of them without a circle.
 struct CircleColumns {
@@ -39,14 +38,18 @@ struct CircleColumns {
     }
 };
 
-BitmapHandle WhitePhoto(const SourceFrame& photo) {
-    BitmapHandle bitmap = NewBitmap(photo.size);
+BitmapHandle WhitePhoto(const SourceFrame& photo, SampleKind samples) {
+    constexpr PixelColor inCircle{255, 255, 0, 0};
+    constexpr PixelColor beside{0, 255, 0, 0};
+    const PixelFormat format = PixelFormatOf(samples, false);
+    BitmapHandle bitmap = NewBitmap(photo.size, format);
     for (std::int32_t row = 0; row < photo.size.height; ++row) {
         const CircleColumns circle = CircleColumns::Of(photo, row);
         std::uint8_t* pixel = ScanLine(bitmap.get(), row).data();
-        for (std::int32_t column = 0; column < photo.size.width; ++column, pixel += 3) {
+        for (std::int32_t column = 0; column < photo.size.width; ++column) {
             const bool isShown = column >= circle.first && column < circle.end;
-            PutColour(pixel, {isShown ? white : std::uint8_t{0}, white, 0, 0}, PixelFormat::Bgr8);
+            PutColour(pixel, isShown ? inCircle : beside, format);
+            pixel += PixelStep(format);
         }
     }
     return bitmap;
@@ -64,58 +67,6 @@ ImageRecord InOneColour(ImageRecord image) {
     return image;
 }
 
-// A colour that black from beside the photo was mixed into, as it would be without.
-std::uint8_t Unmixed(std::uint8_t value, std::uint8_t share) {
-    return share == white || share == 0
-               ? value
-               : static_cast<std::uint8_t>(std::min(255, (value * 255 + share / 2) / share));
-}
-
-std::uint8_t Mixed(std::uint8_t over, std::uint8_t under, std::uint8_t share) {
-    return static_cast<std::uint8_t>((over * share + under * (255 - share) + 127) / 255);
-}
-
-PixelColor WithoutBlack(const std::uint8_t* pixel, std::uint8_t share) {
-    return {Unmixed(pixel[0], share), Unmixed(pixel[1], share), Unmixed(pixel[2], share), 0};
-}
-
-// A row of the result, its coverage and where it is.
-struct OutsideRow {
-    std::uint8_t* pixels;
-    const std::uint8_t* coverage;
-    std::int32_t width;
-    std::int32_t y;
-};
-
-void FillRow(const OutsideRow& row, const OutsideFill& fill) {
-    for (std::int32_t x = 0; x < row.width; ++x) {
-        const std::uint8_t* const coverage = row.coverage + 3 * x;
-        const std::uint8_t shown = coverage[0];
-        if (IsInside(shown)) {
-            continue;
-        }
-        std::uint8_t* const pixel = row.pixels + 3 * x;
-        const PixelColor over = WithoutBlack(pixel, coverage[1]);
-        const PixelColor under = OutsideColour(fill, x, row.y);
-        PutColour(pixel,
-                  {Mixed(over.blue, under.blue, shown), Mixed(over.green, under.green, shown),
-                   Mixed(over.red, under.red, shown), 0},
-                  PixelFormat::Bgr8);
-    }
-}
-
-// To a row with alpha, which is not multiplied into the colours.
-void TakeAlpha(const OutsideRow& row, std::uint8_t* out) {
-    for (std::int32_t x = 0; x < row.width; ++x, out += 4) {
-        const std::uint8_t* const coverage = row.coverage + 3 * x;
-        const std::uint8_t shown = IsInside(coverage[0]) ? white : coverage[0];
-        const std::uint8_t share = shown == white ? white : coverage[1];
-        PixelColor colour = shown == 0 ? black : WithoutBlack(row.pixels + 3 * x, share);
-        colour.reserved = shown;
-        PutColour(out, colour, PixelFormat::Bgra8);
-    }
-}
-
 // Calls fill for each row of the result.
 template <class Fill>
 void ForEachRow(const RenderSurface& run, const CoverageRows& coverage, const Fill& fill) {
@@ -123,8 +74,7 @@ void ForEachRow(const RenderSurface& run, const CoverageRows& coverage, const Fi
     DrawBlocks(run, {0, size.height - 1}, CoverageRows::bandRows, [&](int from, int to) {
         const BitmapHandle band = coverage.Rows({from, to});
         for (int y = from; y <= to; ++y) {
-            fill(OutsideRow{ScanLine(run.Result(), y).data(), ScanLine(band.get(), y - from).data(),
-                            size.width, y});
+            fill(OutsideRow(*run.Result(), y, *band, y - from));
         }
     });
 }
@@ -138,10 +88,7 @@ class FilledRows : public RowRenderer {
     void DrawRow(std::int32_t row) override {
         rows_->DrawRow(row);
         const int first = row / bandRows * bandRows;
-        varnel::FillRow(
-            {ScanLine(surface_.Result(), row).data(), ScanLine(Band(first), row - first).data(),
-             surface_.ResultSize().width, row},
-            fill_);
+        OutsideRow(*surface_.Result(), row, *Band(first), row - first).Fill(fill_);
     }
 
   private:
@@ -179,11 +126,12 @@ PixelColor OutsideColour(const OutsideFill& fill, std::int32_t x, std::int32_t y
     return {grey, grey, grey, 0};
 }
 
-CoverageRows::CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames)
+CoverageRows::CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames,
+                           SampleKind samples)
     : projection_(projection),
       image_(InOneColour(image)),
       frames_(frames),
-      white_(WhitePhoto(frames.source)) {}
+      white_(WhitePhoto(frames.source, samples)) {}
 
 CoverageRows::CoverageRows(const ImageRecord& image, const Frames& frames,
                            const CoverageRows& other)
@@ -198,7 +146,7 @@ BitmapHandle CoverageRows::Rows(LineRange rows) const {
     band.output.whole = frames_.output.Whole();
     band.output.corner.y += rows.first;
     band.output.size.height = rows.Count();
-    BitmapHandle drawn = NewBitmap(band.output.size);
+    BitmapHandle drawn = NewBitmap(band.output.size, white_->Format());
     SerialRunner runner;
     const RenderSurface surface(white_.get(), drawn.get(), band.output, runner);
     const auto renderer = RowsOf(projection_, image_, band, surface);
@@ -213,15 +161,19 @@ void FillOutside(Projection projection, const ImageRecord& image, RenderSession&
     if (image.Outside.kind == OutsideFill::Kind::Black) {
         return;
     }
-    const CoverageRows coverage(projection, image, run.PhotoAndResult());
+    const CoverageRows coverage(projection, image, run.PhotoAndResult(),
+                                CoverageFor(run.Result()->Format()));
     if (!keepsTransparency || image.Outside.kind != OutsideFill::Kind::Transparent) {
-        ForEachRow(run, coverage, [&](const OutsideRow& row) { FillRow(row, image.Outside); });
+        ForEachRow(run, coverage, [&](const OutsideRow& row) { row.Fill(image.Outside); });
         return;
     }
-    BitmapHandle withAlpha = NewBitmap(run.ResultSize(), PixelFormat::Bgra8);
-    ForEachRow(run, coverage, [&](const OutsideRow& row) {
-        TakeAlpha(row, ScanLine(withAlpha.get(), row.y).data());
-    });
+    const PixelFormat format = run.Result()->Format();
+    if (HasAlpha(format)) {
+        ForEachRow(run, coverage, [&](const OutsideRow& row) { row.TakeAlpha(*run.Result()); });
+        return;
+    }
+    BitmapHandle withAlpha = NewBitmap(run.ResultSize(), PixelFormatOf(SampleKindOf(format), true));
+    ForEachRow(run, coverage, [&](const OutsideRow& row) { row.TakeAlpha(*withAlpha); });
     run.Replace(std::move(withAlpha));
 }
 

@@ -18,12 +18,13 @@ namespace varnel {
 // shows.
 class CoverageRows {
   public:
-    CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames);
+    CoverageRows(Projection projection, const ImageRecord& image, const Frames& frames,
+                 SampleKind samples = SampleKind::Byte);
     // Of another record of the same photo with the same circle, whose white picture serves both.
     CoverageRows(const ImageRecord& image, const Frames& frames, const CoverageRows& other);
-    // As wide as the result, of its rows first to last: in blue how much of the photo's image
-    // circle a pixel shows, in green how much of the photo, 0 to 255. May be called by several
-    // threads at once.
+    // As wide as the result, of its rows first to last, without alpha: in blue how much of the
+    // photo's image circle a pixel shows, in green how much of the photo, from black to white. May
+    // be called by several threads at once.
     BitmapHandle Rows(LineRange rows) const;
 
     // What is drawn at once where all rows are.
@@ -36,7 +37,7 @@ class CoverageRows {
     std::shared_ptr<const Bitmap> white_;
 };
 
-// Whether a coverage is that of a pixel wholly within; blends of white are rounded down.
+// Whether a coverage of 8 bits is that of a pixel wholly within; blends of white are rounded down.
 inline bool IsInside(std::uint8_t coverage) {
     return coverage >= 254;
 }
@@ -45,7 +46,8 @@ inline bool IsInside(std::uint8_t coverage) {
 PixelColor OutsideColour(const OutsideFill& fill, std::int32_t x, std::int32_t y);
 
 // Fills what a result shows nothing in, as the record says: a colour, or with transparency kept an
-// alpha channel, or else a checkerboard in its place. Nothing for black.
+// alpha channel, or else a checkerboard in its place. Nothing for black: the outside of a photo
+// with alpha is transparent then.
 void FillOutside(Projection projection, const ImageRecord& image, RenderSession& run,
                  bool keepsTransparency);
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "remap/render/outside.h"
+#include "remap/render/outside_rows.h"
 
 namespace varnel {
 
@@ -15,20 +16,23 @@ void RegionRenderer::Start(Projection projection, const ImageRecord& image, cons
     rows_.reset();
     const Frames frames = FramesOf(image, SizeOf(source), wish);
     const PixelSize size = frames.output.size;
-    if (result_ && (SizeOf(result_.get()).width != size.width ||
-                    SizeOf(result_.get()).height != size.height)) {
+    if (result_ &&
+        (SizeOf(result_.get()).width != size.width || SizeOf(result_.get()).height != size.height ||
+         result_->Format() != source->Format())) {
         result_.reset();
     }
     try {
         if (!result_) {
-            result_ = NewBitmap(size);
+            result_ = NewBitmap(size, source->Format());
         }
+        result_->metadata.colourProfile = source->metadata.colourProfile;
         there_.assign(static_cast<std::size_t>(size.height), false);
         surface_ = std::make_unique<RenderSurface>(source, result_.get(), frames.output, runner_);
         rows_ = RowsOf(projection, image, frames, *surface_);
         if (image.Outside.kind != OutsideFill::Kind::Black) {
-            rows_ = RowsWithOutside(std::move(rows_), image.Outside,
-                                    CoverageRows(projection, image, frames), *surface_);
+            rows_ = RowsWithOutside(
+                std::move(rows_), image.Outside,
+                CoverageRows(projection, image, frames, CoverageFor(result_->Format())), *surface_);
         }
     } catch (...) {
         Drop();

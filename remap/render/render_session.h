@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/pixel_levels.h"
 #include "remap/render/render.h"
 
 namespace varnel {
@@ -83,12 +83,8 @@ class RenderSession : public RenderSurface {
     // Shows the value, lets waiting events run and asks anew how to read.
     void Advance(float value);
     // Off the result nothing is written.
-    void Write(std::int32_t x, std::int32_t y, const PixelColor& colour) const {
-        PixelColor written = colour;
-        if (only_ && GetPixelColor(result_, x, y, written)) {
-            written.*MemberOf(*only_) = colour.*MemberOf(*only_);
-        }
-        SetPixelColor(result_, x, y, written);
+    void Write(std::int32_t x, std::int32_t y, const PixelLevels& levels) const {
+        SetLevels(result_, x, y, levels, only_);
     }
     // What is written from now on: a channel, or all.
     void WriteOnly(std::optional<Channel> only) { only_ = only; }

@@ -10,7 +10,7 @@
 #include "remap/analysis/straighten/edge_tracer.h"
 #include "remap/analysis/straighten/great_circle.h"
 #include "remap/analysis/straighten/least_squares.h"
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/byte_coding.h"
 
 namespace varnel {
 
@@ -28,6 +28,7 @@ LevelMap ReducedGreen(const Bitmap& photo, int block) {
     LevelMap map{{full.width / block, full.height / block}, {}};
     const std::size_t width = static_cast<std::size_t>(map.size.width);
     const std::ptrdiff_t step = PixelStep(photo.Format());
+    const ByteCoding coding(photo);
     map.values.assign(width * static_cast<std::size_t>(map.size.height), 0.0F);
     for (int y = 0; y < map.size.height * block; ++y) {
         const std::uint8_t* const line = photo.ScanLine(y).data();
@@ -35,7 +36,7 @@ LevelMap ReducedGreen(const Bitmap& photo, int block) {
         for (std::size_t x = 0; x < width * static_cast<std::size_t>(block); ++x) {
             row[x / static_cast<std::size_t>(block)] +=
                 static_cast<float>(
-                    ColourAt(line + static_cast<std::ptrdiff_t>(x) * step, photo.Format()).green) /
+                    coding.ColourAt(line + static_cast<std::ptrdiff_t>(x) * step).green) /
                 static_cast<float>(block * block);
         }
     }

@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include "remap/image/levels/byte_coding.h"
+
 namespace varnel {
 
 namespace {
@@ -22,12 +24,13 @@ double LevelAt(const Bitmap& photo, Channel channel, const EdgePoint& place) {
     const double y = std::clamp(place.y - 0.5, 0.0, size.height - 1.001);
     const int column = static_cast<int>(x);
     const int row = static_cast<int>(y);
+    const ByteCoding coding(photo);
     const auto at = [&](int right, int up) {
         const int line = std::min(row + up, size.height - 1);
         const int pixel = std::min(column + right, size.width - 1);
         const std::uint8_t* const level =
             photo.ScanLine(line).data() + pixel * PixelStep(photo.Format());
-        return static_cast<double>(ColourAt(level, photo.Format()).*MemberOf(channel));
+        return static_cast<double>(coding.ColourAt(level).*MemberOf(channel));
     };
     const double across = x - column;
     const double up = y - row;

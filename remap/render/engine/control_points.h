@@ -25,10 +25,12 @@ struct ControlPointLine {
     std::vector<double> inside{};  // empty for a map without an edge
 };
 
-// The smaller the picture the stronger its lines bend from pixel to pixel.
-inline int NodeStepFor(PixelSize picture) {
+// The smaller the picture the stronger its lines bend from pixel to pixel. Samples that are finer
+// than bytes take finer positions, too.
+inline int NodeStepFor(PixelSize picture, PixelFormat format = PixelFormat::Bgr8) {
     const int longest = std::max(picture.width, picture.height);
-    return longest < 2000 ? 16 : longest < 4000 ? 32 : largestNodeStep;
+    const int step = longest < 2000 ? 16 : longest < 4000 ? 32 : largestNodeStep;
+    return SampleKindOf(format) == SampleKind::Byte ? step : step / 2;
 }
 
 // Closer than that it is no longer worth the while.
@@ -50,8 +52,8 @@ struct ExactLine {
     const ControlPointLine& line;
     const SmoothNodes& nodes;
 
-    static PixelColor Colour(const void* context, const NodeSpan& span, const SpanImage& image,
-                             int n) {
+    static PixelLevels Colour(const void* context, const NodeSpan& span, const SpanImage& image,
+                              int n) {
         const auto& self = *static_cast<const ExactLine*>(context);
         const auto [u, v] = self.map.At(self.line.x + n, self.line.y);
         const double column = image.signX > 0 ? u : span.mirrorX - u;

@@ -61,7 +61,7 @@ class FourfoldEngine : public Engine {
         ControlPointLine line;
         line.x = x;
         line.count = count;
-        line.step = NodeStepFor(surface_.ResultSize());
+        line.step = NodeStepFor(surface_.ResultSize(), target_.format);
         return line;
     }
     // As far as its mirror images are among the rows.

@@ -60,7 +60,7 @@ ControlPointLine SmoothEngine::LineOf(int x, int count) const {
     ControlPointLine line;
     line.x = x;
     line.count = count;
-    line.step = NodeStepFor(surface_.ResultSize());
+    line.step = NodeStepFor(surface_.ResultSize(), target_.format);
     return line;
 }
 
@@ -94,7 +94,7 @@ void SmoothEngine::ScatterLine(const ControlPointLine& line,
                 pixels.data() + static_cast<std::size_t>(n) * pixelBytes;
             const SpanTarget place = target_.From(columns_.Place(x), row);
             if (target_.only) {
-                place.Put(0, ColourAt(pixel, target_.format));
+                place.Put(0, LevelsAt(pixel, target_.format));
             } else {
                 std::memcpy(place.first, pixel, pixelBytes);
             }

@@ -11,7 +11,7 @@
 #include <optional>
 
 #include "remap/image/bitmap.h"
-#include "remap/image/pixel_access.h"
+#include "remap/image/levels/pixel_levels.h"
 
 namespace varnel {
 
@@ -28,12 +28,12 @@ struct SourceView {
                 size.height, bitmap->Format()};
     }
 
-    // x and y are whole; black off the picture.
-    PixelColor operator()(double x, double y) const {
+    // x and y are whole; no light off the picture.
+    PixelLevels operator()(double x, double y) const {
         if (!(x >= 0.0 && x < width && y >= 0.0 && y < height)) {
-            return black;
+            return noLight;
         }
-        return ColourAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
+        return LevelsAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
                             static_cast<std::ptrdiff_t>(x) * PixelStep(format),
                         format);
     }
@@ -48,14 +48,10 @@ struct SpanTarget {
     std::optional<Channel> only{};  // the one that is written; none: all
 
     std::uint8_t* At(std::ptrdiff_t n) const { return first + n * stride; }
-    void Put(std::ptrdiff_t n, const PixelColor& colour) const {
-        if (!only) {
-            PutColour(At(n), colour, format);
-            return;
-        }
-        PixelColor mixed = ColourAt(At(n), format);
-        mixed.*MemberOf(*only) = colour.*MemberOf(*only);
-        PutColour(At(n), mixed, format);
+    // The same from its pixel n on.
+    SpanTarget Further(std::ptrdiff_t n) const { return {At(n), stride, format, only}; }
+    void Put(std::ptrdiff_t n, const PixelLevels& levels) const {
+        PutLevels(At(n), levels, format, only);
     }
 };
 

@@ -16,6 +16,7 @@
 #include <limits>
 
 #include "remap/image/interpolation.h"
+#include "remap/render/engine/blends-inl.h"
 #include "remap/render/engine/node_checks.h"
 #include "remap/render/engine/span_kernels.h"
 #include "remap/render/engine/vector_pixels-inl.h"
@@ -57,34 +58,6 @@ struct Quintic {
     }
 };
 
-// The target's pixels from the n-th on.
-inline void StoreInside(const SourceView source, const Coordinate& x, const Coordinate& y,
-                        const SpanTarget& target, int n) {
-    HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
-    HWY_ALIGN std::array<std::uint64_t, lanesAtMost> below;
-    HWY_ALIGN std::array<std::uint64_t, lanesAtMost> above;
-    hn::Store(Offsets(x.whole, y.whole, source.pitch), Ints(), offsets.data());
-    const std::size_t lanes = hn::Lanes(Floats());
-    for (std::size_t lane = 0; lane < lanes; ++lane) {
-        const std::uint8_t* const pixel = source.bits + offsets[lane];
-        std::memcpy(&below[lane], pixel, 8);
-        std::memcpy(&above[lane], pixel + source.pitch, 8);
-    }
-    const Pair lowerPair = LoadPairs(below.data());
-    const Pair upperPair = LoadPairs(above.data());
-    if (target.only) {
-        const VecF level = Between(BetweenPair(lowerPair, x.part, *target.only),
-                                   BetweenPair(upperPair, x.part, *target.only), y.part);
-        StoreChannel(level, *target.only, target.At(n), target.stride);
-        return;
-    }
-    const Colours lower = BetweenPair(lowerPair, x.part);
-    const Colours upper = BetweenPair(upperPair, x.part);
-    StoreColours({Between(lower.blue, upper.blue, y.part),
-                  Between(lower.green, upper.green, y.part), Between(lower.red, upper.red, y.part)},
-                 target.At(n), target.stride, static_cast<int>(lanes));
-}
-
 // Pixels of an image worked out one by one.
 HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int first, int end) {
     for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
@@ -106,15 +79,15 @@ HWY_NOINLINE void StoreOtherwise(const NodeSpan& span, int first, int end) {
 HWY_NOINLINE void StoreBlack(const NodeSpan& span, int first, int end) {
     for (const SpanImage& image : span.images) {
         for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
-            image.target.Put(n, black);
+            image.target.Put(n, noLight);
         }
     }
 }
 
 // Nearest reads have to be those of the exact positions; where a position is close to the middle
 // between two pixels the exact one decides.
-inline PixelColor NearestColour(const NodeSpan& span, const SpanImage& image, const Positions& at,
-                                std::size_t lane, int n) {
+inline PixelLevels NearestColour(const NodeSpan& span, const SpanImage& image, const Positions& at,
+                                 std::size_t lane, int n) {
     const auto close = [](float part) { return std::fabs(part - 0.5F) < 0.001F; };
     if (close(at.partX[lane]) || close(at.partY[lane])) {
         return span.exact(span.context, span, image, n);
@@ -135,7 +108,7 @@ HWY_NOINLINE void StoreOddLanes(const NodeSpan& span, const SpanImage& image, co
     const bool outside = AllOutside(x.whole, y.whole, span.source);
     for (int n = std::max(first, image.begin); n < std::min(first + lanes, image.end); ++n) {
         const auto lane = static_cast<std::size_t>(n - first);
-        PixelColor colour = black;
+        PixelLevels colour = noLight;
         if (span.nearest) {
             colour = NearestColour(span, image, at, lane, n);
         } else if (!outside) {
@@ -152,7 +125,8 @@ inline bool AllInside(VecI x, VecI y, const SourceView source) {
 }
 
 // One node to the next, in all images.
-inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 5>& steps) {
+template <class Blend>
+void SampleSegment(const NodeSpan& span, int n, const std::array<double, 5>& steps) {
     const Quintic u(span.u + n, steps);
     const Quintic v(span.v + n, steps);
     const int first = n * span.step;
@@ -173,12 +147,18 @@ inline void SampleSegment(const NodeSpan& span, int n, const std::array<double, 
             const int pixel = first + k;
             if (plain && pixel >= image.begin && pixel + lanes <= image.end &&
                 AllInside(x.whole, y.whole, source)) {
-                StoreInside(source, x, y, image.target, pixel);
+                Blend::StoreInside(source, x, y, image.target, pixel);
             } else {
                 StoreOddLanes(span, image, x, y, pixel, lanes);
             }
         }
     }
+}
+
+// The nodes of samples that are finer than bytes lie half as far apart, so that the fourth
+// differences of the same map are a sixteenth.
+double FinerBy(PixelFormat format) {
+    return SampleKindOf(format) == SampleKind::Byte ? 1.0 : 1.0 / 16.0;
 }
 
 void NodeSpanImpl(const NodeSpan& span) {
@@ -189,7 +169,7 @@ void NodeSpanImpl(const NodeSpan& span) {
         step = power;
     }
     // Maps with an edge take closer nodes where they bend more.
-    const double limit = span.inside == nullptr ? 0.05 : 0.2;
+    const double limit = (span.inside == nullptr ? 0.05 : 0.2) * FinerBy(span.source.format);
     int left = 0;  // the first of the pixels before the n-th node that are still to be taken
     for (int n = 0; n * span.step < span.count; ++n) {
         const int first = n * span.step;
@@ -204,7 +184,8 @@ void NodeSpanImpl(const NodeSpan& span) {
         StoreOtherwise(span, left, first);
         left = end;
         if (smooth) {
-            SampleSegment(span, n, steps);
+            WithBlend(span.source.format,
+                      [&](auto blend) { SampleSegment<decltype(blend)>(span, n, steps); });
         } else {
             StoreBlack(span, first, end);
         }
@@ -255,51 +236,57 @@ inline bool Plain(VecI column, VecI row, VecF part, const SourceView source) {
     const auto apart =
         hn::And(hn::Gt(part, hn::Set(floats, least)), hn::Lt(part, hn::Set(floats, most)));
     const auto clear = hn::Or(hn::Eq(part, hn::Zero(floats)), apart);
-    return hn::AllTrue(floats, clear) &&
+    const bool roundsDown = source.format == PixelFormat::Bgr8;
+    return (!roundsDown || hn::AllTrue(floats, clear)) &&
            hn::AllTrue(Ints(), hn::And(Within(column, 0, source.width - 3),
                                        Within(row, 0, source.height - 1)));
 }
 
-// Lanes first to end - 1 one by one.
+struct LaneRange {
+    std::size_t first, end;
+};
+
+// One by one.
 HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at, bool nearest,
-                                std::size_t first, std::size_t end, const SpanTarget& target,
-                                int done) {
-    const bool outside = AllOutside(hn::Load(Ints(), at.column.data() + first),
-                                    hn::Load(Ints(), at.row.data() + first), source);
-    for (std::size_t n = first; n < end; ++n) {
-        PixelColor colour = black;
+                                LaneRange range, const SpanTarget& target) {
+    const bool outside = AllOutside(hn::Load(Ints(), at.column.data() + range.first),
+                                    hn::Load(Ints(), at.row.data() + range.first), source);
+    for (std::size_t n = range.first; n < range.end; ++n) {
+        PixelLevels colour = noLight;
         if (!outside) {
             colour =
                 nearest ? source(at.x[n], at.row[n]) : BlendLinearX(source, at.x[n], at.row[n]);
         }
-        target.Put(done + static_cast<std::ptrdiff_t>(n), colour);
+        target.Put(static_cast<std::ptrdiff_t>(n), colour);
     }
 }
 
-inline void StoreRowPixels(const SourceView source, const RowPositions& at, RowReading reading,
-                           int count, const SpanTarget& target, int done) {
+// The first pixels of the target, up to eight. Only what is rounded down needs them one by one.
+template <class Blend>
+void StoreRowPixels(const SourceView& source, const RowPositions& at, RowReading reading, int count,
+                    const SpanTarget& target) {
     const std::size_t lanes = hn::Lanes(Floats());
+    const bool oneByOne = reading == RowReading::Pixels && source.format == PixelFormat::Bgr8;
     const bool nearest = reading == RowReading::Nearest;
-    const bool fits = reading == RowReading::Vectors && TakesVectors(source);
+    const bool fits = !nearest && !oneByOne && TakesVectors(source);
     for (std::size_t n = 0; n < static_cast<std::size_t>(count); n += lanes) {
-        const VecI column = hn::Load(Ints(), at.column.data() + n);
+        const Coordinate column{hn::Load(Ints(), at.column.data() + n),
+                                hn::Load(Floats(), at.part.data() + n)};
         const VecI row = hn::Load(Ints(), at.row.data() + n);
-        const VecF part = hn::Load(Floats(), at.part.data() + n);
         const std::size_t end = std::min(n + lanes, static_cast<std::size_t>(count));
-        if (!fits || end - n < lanes || !Plain(column, row, part, source)) {
-            StoreRowLanes(source, at, nearest, n, end, target, done);
-            continue;
+        if (!fits || end - n < lanes || !Plain(column.whole, row, column.part, source)) {
+            StoreRowLanes(source, at, nearest, {n, end}, target);
+        } else {
+            Blend::StoreBetween(source, column, row, target, static_cast<std::ptrdiff_t>(n));
         }
-        HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
-        HWY_ALIGN std::array<std::uint64_t, lanesAtMost> pairs;
-        hn::Store(Offsets(column, row, source.pitch), Ints(), offsets.data());
-        for (std::size_t lane = 0; lane < lanes; ++lane) {
-            std::memcpy(&pairs[lane], source.bits + offsets[lane], 8);
-        }
-        StoreColours(BetweenPair(LoadPairs(pairs.data()), part),
-                     target.At(done + static_cast<std::ptrdiff_t>(n)), target.stride,
-                     static_cast<int>(lanes));
     }
+}
+
+inline void StoreRowPixels(const SourceView& source, const RowPositions& at, RowReading reading,
+                           int count, const SpanTarget& target) {
+    WithBlend(source.format, [&](auto blend) {
+        StoreRowPixels<decltype(blend)>(source, at, reading, count, target);
+    });
 }
 
 void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
@@ -317,7 +304,7 @@ void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
                         at);
         }
         StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target, done);
+                       target.Further(done));
     }
 }
 
@@ -338,7 +325,7 @@ void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
                       hn::Rebind<std::int32_t, Doubles>(), at.row.data() + n);
         }
         StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target, done);
+                       target.Further(done));
     }
 }
 
@@ -356,7 +343,7 @@ void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
             TakeColumns(hn::Div(whole, decimals), n, at);
         }
         StoreRowPixels(span.source, at, span.reading,
-                       std::min(lanesAtMost, span.source.width - done), target, done);
+                       std::min(lanesAtMost, span.source.width - done), target.Further(done));
     }
 }
 

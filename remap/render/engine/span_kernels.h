@@ -41,8 +41,8 @@ struct NodeSpan {
     bool nearest = false;
     // The colour of pixel n of an image, worked out without nodes: where they are not smooth, and
     // where a nearest read is too close to call.
-    PixelColor (*exact)(const void* context, const NodeSpan& span, const SpanImage& image,
-                        int n) = nullptr;
+    PixelLevels (*exact)(const void* context, const NodeSpan& span, const SpanImage& image,
+                         int n) = nullptr;
     // Takes pixels first to end - 1 by closer nodes; null: they are worked out without nodes.
     void (*closer)(const void* context, const NodeSpan& span, int first, int end) = nullptr;
     const void* context = nullptr;

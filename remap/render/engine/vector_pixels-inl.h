@@ -81,7 +81,8 @@ inline VecF Byte(VecW word) {
     return hn::ConvertTo(Floats(), hn::BitCast(Ints(), byte));
 }
 
-inline VecF Between(VecF a, VecF b, VecF part) {
+template <class Vector>
+Vector Between(Vector a, Vector b, Vector part) {
     return hn::MulAdd(hn::Sub(b, a), part, a);
 }
 
@@ -173,17 +174,20 @@ inline bool AllOutside(VecI x, VecI y, const SourceView& source) {
     return hn::AllFalse(Ints(), touching);
 }
 
-// Bytes from the first pixel of the picture; it has to be smaller than 2 GB.
-inline VecI Offsets(VecI x, VecI y, std::ptrdiff_t pitch) {
+// Samples from the first pixel of a picture of three or four to a pixel, pitch from row to row.
+template <int samples>
+VecI Offsets(VecI x, VecI y, std::ptrdiff_t pitch) {
     const Ints ints;
-    const VecI columns = hn::Add(x, hn::Add(x, x));
+    const VecI columns = samples == 4 ? hn::ShiftLeft<2>(x) : hn::Add(x, hn::Add(x, x));
     return hn::Add(hn::Mul(y, hn::Set(ints, static_cast<std::int32_t>(pitch))), columns);
 }
 
-// Whether the vector code of this file can read the source; single pixels can be read in any case.
+// Whether the vector code can read the source: up to 2^31 samples, where a vector is a single
+// number only bytes. Single pixels can be read in any case.
 inline bool TakesVectors(const SourceView& source) {
-    return source.format == PixelFormat::Bgr8 &&
-           source.pitch * source.height <= std::numeric_limits<std::int32_t>::max();
+    const std::ptrdiff_t sampleBytes = BitsPerSample(source.format) / 8;
+    return (HWY_TARGET != HWY_SCALAR || source.format == PixelFormat::Bgr8) &&
+           source.pitch / sampleBytes * source.height <= std::numeric_limits<std::int32_t>::max();
 }
 
 }  // namespace HWY_NAMESPACE

@@ -14,10 +14,10 @@ namespace varnel {
 inline void WriteBlackQuarters(const RenderSession& run, const ImageCircleGeometry& circle,
                                std::int32_t column, std::int32_t row) {
     const PixelPosition& centre = circle.outputCentre;
-    run.Write(centre.x + column, centre.y + row, black);
-    run.Write(centre.x - column, centre.y + row, black);
-    run.Write(centre.x + column, centre.y - row, black);
-    run.Write(centre.x - column, centre.y - row, black);
+    run.Write(centre.x + column, centre.y + row, noLight);
+    run.Write(centre.x - column, centre.y + row, noLight);
+    run.Write(centre.x + column, centre.y - row, noLight);
+    run.Write(centre.x - column, centre.y - row, noLight);
 }
 
 }  // namespace varnel

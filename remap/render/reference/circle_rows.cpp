@@ -11,7 +11,7 @@ namespace varnel::reference {
 
 namespace {
 
-PixelColor Read(const RenderSession& run, const PixelPosition& centre, SourceOffset offset) {
+PixelLevels Read(const RenderSession& run, const PixelPosition& centre, SourceOffset offset) {
     const double y = centre.y + offset.v;
     return run.Nearest() ? SampleNearest(run.Source(), centre.x + Round(offset.u), y)
                          : SampleLinearX(run.Source(), centre.x + offset.u, y);

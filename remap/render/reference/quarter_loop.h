@@ -14,8 +14,8 @@ namespace varnel {
 
 // The reading of smooth maps. Without interpolation the horizontal offset is rounded by itself
 // before the sum is.
-inline PixelColor ReadAt(const RenderSession& run, const PixelPosition& centre,
-                         SourceOffset offset) {
+inline PixelLevels ReadAt(const RenderSession& run, const PixelPosition& centre,
+                          SourceOffset offset) {
     return run.Nearest()
                ? SampleNearest(run.Source(), centre.x + Round(offset.u), centre.y + offset.v)
                : SampleBilinear(run.Source(), centre.x + offset.u, centre.y + offset.v);

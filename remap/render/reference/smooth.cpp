@@ -34,7 +34,7 @@ void RenderSmooth(RenderSession& run, const SmoothMap& map) {
         const std::int32_t column =
             CLng(static_cast<double>(centre.cx) + x - tx, ReasonCode::OutputColumn);
         for (std::int32_t y = firstY; y <= lastY; ++y) {
-            const PixelColor colour = ReadAt(run, map.SourceCentre(), map.At(x, y));
+            const PixelLevels colour = ReadAt(run, map.SourceCentre(), map.At(x, y));
             run.Write(column, CLng(static_cast<double>(centre.cy) + y - ty, ReasonCode::OutputRow),
                       colour);
         }

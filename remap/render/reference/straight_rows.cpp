@@ -11,7 +11,7 @@ namespace varnel::reference {
 
 namespace {
 
-PixelColor Read(const RenderSession& run, const PixelPosition& centre, double u, double v) {
+PixelLevels Read(const RenderSession& run, const PixelPosition& centre, double u, double v) {
     return run.Nearest() ? SampleNearest(run.Source(), centre.x + Round(u), centre.y + v)
                          : SampleLinearX(run.Source(), centre.x + u, centre.y + v);
 }

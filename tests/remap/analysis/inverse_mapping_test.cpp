@@ -86,15 +86,15 @@ std::pair<int, int> DifferentAndAll(const Case& given, const Bitmap* source, con
     std::pair<int, int> count{0, 0};
     for (int row = 0; row < given.size.height; ++row) {
         for (int column = 0; column < given.size.width; ++column) {
-            PixelColor expected = black;
+            PixelLevels expected = noLight;
             if (const auto place = places.ReadAt(column, row)) {
                 expected = alongRows ? SampleLinearX(source, place->x + shift, place->y)
                                      : SampleBilinear(source, place->x + shift, place->y);
                 EXPECT_EQ(places.At(column, row).has_value(), places.InPicture(*place));
             } else if (places.Untouched(column, row)) {
-                expected = testing::PixelAt(source, column, row);
+                expected = GetLevels(source, column, row);
             }
-            count.first += expected == testing::PixelAt(drawn, column, row) ? 0 : 1;
+            count.first += expected == GetLevels(drawn, column, row) ? 0 : 1;
             ++count.second;
         }
     }

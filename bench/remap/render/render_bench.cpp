@@ -21,10 +21,12 @@ namespace {
 using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
                           RenderContext&);
 
-// How the photo is looked at: turned and shifted or not, and how wide, degrees.
+// How the photo is looked at: turned and shifted or not, and how wide, degrees. And what it is made
+// of.
 struct View {
     bool moved = false;
     float outputAov = 90.0F;
+    PixelFormat format = PixelFormat::Bgr8;
 };
 
 ImageRecord FisheyeRecord(const View& view) {
@@ -49,13 +51,17 @@ ImageRecord FisheyeRecord(const View& view) {
     return record;
 }
 
-BitmapHandle Texture(PixelSize size) {
-    BitmapHandle bitmap = NewBitmap(size);
+BitmapHandle Texture(PixelSize size, PixelFormat format = PixelFormat::Bgr8) {
+    BitmapHandle bitmap = NewBitmap(size, format);
     unsigned grain = 1;
+    const auto level = [&](int y) {
+        grain = grain * 1664525U + 1013904223U;
+        return static_cast<std::uint8_t>(120 + (grain >> 27) + ((y / 40) % 2) * 60);
+    };
     for (int y = 0; y < size.height; ++y) {
-        for (std::uint8_t& byte : ScanLine(bitmap.get(), y)) {
-            grain = grain * 1664525U + 1013904223U;
-            byte = static_cast<std::uint8_t>(120 + (grain >> 27) + ((y / 40) % 2) * 60);
+        std::uint8_t* pixel = ScanLine(bitmap.get(), y).data();
+        for (int x = 0; x < size.width; ++x, pixel += PixelStep(format)) {
+            PutColour(pixel, {level(y), level(y), level(y), 255}, format);
         }
     }
     return bitmap;
@@ -72,7 +78,7 @@ void Draw(benchmark::State& state, Renderer renderer, Projection projection, con
           PixelSize size, SizeKind kind, int workers) {
     Bitmaps bitmaps;
     (kind == SizeKind::Thumbnails ? bitmaps.PreviewSourceBitmap : bitmaps.FullSourceBitmap) =
-        Texture(size);
+        Texture(size, view.format);
     ThreadRunner runner(workers);
     RenderContext context{bitmaps, [] { return true; }, &runner};
     SilentProgress silent;
@@ -159,7 +165,30 @@ void RegisterTurned(PixelSize size) {
     }
 }
 
+// The same photo in all depths, for each kind of map and of engine.
+void RegisterDepths(PixelSize size) {
+    const struct {
+        const char* name;
+        PixelFormat format;
+    } depths[] = {{"8", PixelFormat::Bgr8},
+                  {"16", PixelFormat::Bgr16},
+                  {"16 alpha", PixelFormat::Bgra16},
+                  {"float", PixelFormat::BgrFloat}};
+    for (const Projection projection :
+         {Projection::Rectilinear, Projection::Varnel, Projection::Horizon}) {
+        for (const bool moved : {false, true}) {
+            for (const auto& [depth, format] : depths) {
+                const std::string name = "depth/24MP/" + ToText(projection).toStdString() +
+                                         (moved ? " turned/" : "/") + depth;
+                Register(name, &Render, projection, {moved, 90.0F, format}, size, SizeKind::Large,
+                         1);
+            }
+        }
+    }
+}
+
 void RegisterAll() {
+    RegisterDepths(Megapixels(24.0));
     RegisterPeer(Megapixels(24.0));
     const PixelSize full = Megapixels(24.0);
     for (const Projection projection : AllProjections()) {

@@ -7,8 +7,11 @@
 #include <array>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <numbers>
 #include <vector>
+
+#include "remap/image/levels/byte_coding.h"
 
 namespace varnel {
 
@@ -91,17 +94,38 @@ BitmapHandle Drawn(StitchHalf half, const StitchPlan& plan, RenderProgress& prog
     return std::move(bitmaps.ResultBitmap);
 }
 
+// White in the unit of a bitmap's samples.
+double WhiteOf(const Bitmap& bitmap) {
+    return WithSample(SampleKindOf(bitmap.Format()),
+                      [](auto kind) { return whiteOf<decltype(kind)>; });
+}
+
+constexpr std::array<double PixelLevels::*, channels> colours{
+    &PixelLevels::blue, &PixelLevels::green, &PixelLevels::red};
+
 // The front's brightness by the back's, by what both show: neither dark nor cut at the top.
-struct SeamSums {
-    std::array<double, channels> front{}, back{};
+class SeamSums {
+  public:
+    SeamSums(const Bitmap& front, const Bitmap& back)
+        : front_(front.Format()),
+          back_(back.Format()),
+          frontCoding_(front),
+          backCoding_(back),
+          unit_(WhiteOf(back) / WhiteOf(front)) {}
 
     void Add(const std::uint8_t* one, const std::uint8_t* other) {
         constexpr int least = 8;
         constexpr int most = 247;
+        const PixelColor frontColour = frontCoding_.ColourAt(one);
+        const PixelColor backColour = backCoding_.ColourAt(other);
+        const PixelLevels front = LevelsAt(one, front_);
+        const PixelLevels back = LevelsAt(other, back_);
         for (std::size_t c = 0; c < channels; ++c) {
-            if (std::min(one[c], other[c]) >= least && std::max(one[c], other[c]) <= most) {
-                front[c] += one[c];
-                back[c] += other[c];
+            const auto colour = MemberOf(static_cast<Channel>(c));
+            const auto [low, high] = std::minmax(frontColour.*colour, backColour.*colour);
+            if (low >= least && high <= most) {
+                frontSums_[c] += front.*colours[c];
+                backSums_[c] += back.*colours[c];
             }
         }
     }
@@ -110,65 +134,109 @@ struct SeamSums {
         constexpr double noise = 0.002;  // smaller differences are left alone
         Gains gains;
         for (std::size_t c = 0; c < channels; ++c) {
-            const double gain = back[c] > 0.0 ? front[c] / back[c] : 1.0;
+            const double gain = backSums_[c] > 0.0 ? frontSums_[c] / backSums_[c] * unit_ : 1.0;
             gains[c] =
                 std::fabs(gain - 1.0) < noise ? 1.0 : std::clamp(gain, 1.0 / largest, largest);
         }
         return gains;
     }
+
+  private:
+    PixelFormat front_, back_;
+    ByteCoding frontCoding_, backCoding_;
+    double unit_;  // the back's white by the front's
+    std::array<double, channels> frontSums_{}, backSums_{};
 };
 
 Gains Compare(const Bitmap& front, const Bitmap& back, const Seam& seam) {
-    SeamSums sums;
+    SeamSums sums(front, back);
     std::vector<double> shares;
     for (std::int32_t row = 0; row < front.Size().height; ++row) {
         seam.Fill(row, shares);
-        const std::uint8_t* const one = front.ScanLine(row).data();
-        const std::uint8_t* const other = back.ScanLine(row).data();
-        for (std::size_t n = 0; n < shares.size(); ++n) {
-            if (shares[n] > 0.0 && shares[n] < 1.0) {
-                sums.Add(one + n * channels, other + n * channels);
+        const std::uint8_t* one = front.ScanLine(row).data();
+        const std::uint8_t* other = back.ScanLine(row).data();
+        for (const double share : shares) {
+            if (share > 0.0 && share < 1.0) {
+                sums.Add(one, other);
             }
+            one += PixelStep(front.Format());
+            other += PixelStep(back.Format());
         }
     }
     return sums.FrontByBack();
 }
 
-using Levels = std::array<std::array<double, 256>, channels>;
-
-// Halfway to the other photo: by the root of the gain.
-Levels LevelsBy(const Gains& gains, double power) {
-    Levels levels;
-    for (std::size_t c = 0; c < channels; ++c) {
-        const double factor = std::pow(gains[c], power);
-        for (std::size_t level = 0; level < 256; ++level) {
-            levels[c][level] = std::min(static_cast<double>(level) * factor, 255.0);
+// How the levels of one of the photos are brought to meet the other's: halfway, by the root of the
+// gain. What is brighter than white becomes white, but for floating-point samples.
+class Brightening {
+  public:
+    // In the unit of a result with that white.
+    Brightening(const Bitmap& photo, const Gains& gains, double power, double white)
+        : format_(photo.Format()),
+          most_(SampleKindOf(photo.Format()) == SampleKind::Float
+                    ? std::numeric_limits<double>::infinity()
+                    : white) {
+        for (std::size_t c = 0; c < channels; ++c) {
+            factors_[c] = std::pow(gains[c], power) * (white / WhiteOf(photo));
         }
     }
-    return levels;
-}
+    PixelLevels At(const std::uint8_t* pixel) const {
+        PixelLevels levels = LevelsAt(pixel, format_);
+        for (std::size_t c = 0; c < channels; ++c) {
+            levels.*colours[c] = std::min(levels.*colours[c] * factors_[c], most_);
+        }
+        levels.alpha = HasAlpha(format_) ? levels.alpha : 1.0;
+        return levels;
+    }
 
-struct Blend {
-    const Bitmap& back;
-    const Seam& seam;
-    Levels frontLevels, backLevels;
+  private:
+    PixelFormat format_;
+    double most_;
+    Gains factors_{};
+};
+
+class Blend {
+  public:
+    Blend(const Bitmap& front, const Bitmap& back, const Seam& seam, const Gains& gains)
+        : back_(back),
+          seam_(seam),
+          ofFront_(front, gains, -0.5, WhiteOf(front)),
+          ofBack_(back, gains, 0.5, WhiteOf(front)) {}
 
     // Into the front's row.
     void Row(Bitmap& front, std::int32_t row) const {
         std::vector<double> shares;
-        seam.Fill(row, shares);
+        seam_.Fill(row, shares);
         std::uint8_t* pixel = front.ScanLine(row).data();
-        const std::uint8_t* other = back.ScanLine(row).data();
+        const std::uint8_t* other = back_.ScanLine(row).data();
         for (const double share : shares) {
-            for (std::size_t c = 0; c < channels; ++c) {
-                const double level =
-                    share * frontLevels[c][pixel[c]] + (1.0 - share) * backLevels[c][other[c]];
-                pixel[c] = static_cast<std::uint8_t>(std::lround(level));
-            }
-            pixel += channels;
-            other += channels;
+            Put(Mixed(ofFront_.At(pixel), ofBack_.At(other), share), front.Format(), pixel);
+            pixel += PixelStep(front.Format());
+            other += PixelStep(back_.Format());
         }
     }
+
+  private:
+    static PixelLevels Mixed(const PixelLevels& front, const PixelLevels& back, double share) {
+        const auto mixed = [&](double PixelLevels::*level) {
+            return share * front.*level + (1.0 - share) * back.*level;
+        };
+        return {mixed(&PixelLevels::blue), mixed(&PixelLevels::green), mixed(&PixelLevels::red),
+                mixed(&PixelLevels::alpha)};
+    }
+    // All formats are rounded to the nearest here.
+    static void Put(PixelLevels levels, PixelFormat format, std::uint8_t* pixel) {
+        if (format == PixelFormat::Bgr8) {
+            for (const auto colour : colours) {
+                levels.*colour = std::round(levels.*colour);
+            }
+        }
+        PutLevels(pixel, levels, format);
+    }
+
+    const Bitmap& back_;
+    const Seam& seam_;
+    Brightening ofFront_, ofBack_;
 };
 
 void CopyPiece(const Bitmap& from, PixelPosition corner, Bitmap& to) {
@@ -212,7 +280,7 @@ BitmapHandle Stitch(StitchHalf front, StitchHalf back, const StitchPlan& plan,
     BitmapHandle result = Drawn(std::move(front), plan, progress, runner);
     const BitmapHandle other = Drawn(std::move(back), plan, progress, runner);
     const Gains gains = Compare(*result, *other, seam);
-    const Blend blend{*other, seam, LevelsBy(gains, -0.5), LevelsBy(gains, 0.5)};
+    const Blend blend(*result, *other, seam, gains);
     SerialRunner serial;
     (runner != nullptr ? *runner : serial).Run(result->Size().height, [&](int row) {
         blend.Row(*result, row);

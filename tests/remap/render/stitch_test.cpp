@@ -115,6 +115,40 @@ TEST(Stitch, TheFrontTurnsBoth) {
                 [&turn](const Ray& ray) { return LookAtGradients(turn.Turn(ray)); });
 }
 
+BitmapHandle In16Bits(const Bitmap& bytes, bool alpha) {
+    BitmapHandle deep = NewBitmap(bytes.Size(), alpha ? PixelFormat::Bgra16 : PixelFormat::Bgr16);
+    for (int y = 0; y < bytes.Size().height; ++y) {
+        for (int x = 0; x < bytes.Size().width; ++x) {
+            PixelColor colour = testing::PixelAt(&bytes, x, y);
+            colour.reserved = 255;
+            SetPixelColor(deep.get(), x, y, colour);
+        }
+    }
+    return deep;
+}
+
+// With a back photo of bytes, too: the result is as deep as the front. Bytes are rounded down.
+TEST(Stitch, DeepPhotosMakeTheSameSphere) {
+    const BitmapHandle front = Circle(LookAtGradients, false);
+    const BitmapHandle back = Circle(LookAtGradients, true);
+    const BitmapHandle bytes = Stitched(LookAtGradients, LookAtGradients, CircleRecord());
+    SilentProgress silent;
+    for (const bool backIsDeep : {true, false}) {
+        for (const bool alpha : {false, true}) {
+            const BitmapHandle result = Stitch(
+                {In16Bits(*front, alpha), CircleRecord()},
+                {backIsDeep ? In16Bits(*back, false) : CloneBitmap(back.get()), CircleRecord()},
+                {width, 4.0}, silent);
+            ASSERT_EQ(SampleKindOf(result->Format()), SampleKind::Word);
+            for (int n = 0; n < width * width / 2; ++n) {
+                const PixelColor deep = testing::PixelAt(result.get(), n % width, n / width);
+                const PixelColor shallow = testing::PixelAt(bytes.get(), n % width, n / width);
+                ASSERT_NEAR(deep.green, shallow.green, 1) << n % width << " " << n / width;
+            }
+        }
+    }
+}
+
 // The back one is darker by a tenth: both meet in the middle, the front's level times the root.
 TEST(Stitch, ColoursMeetAtTheSeam) {
     const Scene darker = [](const Ray& ray) {

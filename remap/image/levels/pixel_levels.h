@@ -34,6 +34,20 @@ inline constexpr double whiteOf = std::is_same_v<Sample, float>
                                       ? 1.0
                                       : static_cast<double>(std::numeric_limits<Sample>::max());
 
+// Infinite light, as floating-point pictures may hold, counts as that much: differences of it have
+// to be numbers.
+inline constexpr float mostLight = 1e30F;
+
+template <class Sample>
+double LevelOf(const std::uint8_t* pixel, std::size_t place) {
+    const auto sample = SampleAt<Sample>(pixel, place);
+    if constexpr (std::is_same_v<Sample, float>) {
+        return static_cast<double>(std::min(sample, mostLight));
+    } else {
+        return static_cast<double>(sample);
+    }
+}
+
 // A level as the format's sample. Blends of Bgr8 are rounded down, others of whole numbers to the
 // nearest one.
 template <class Sample>
@@ -50,13 +64,12 @@ Sample SampleOf(double level, PixelFormat format) {
 inline PixelLevels LevelsAt(const std::uint8_t* pixel, PixelFormat format) {
     return WithSample(SampleKindOf(format), [&](auto kind) -> PixelLevels {
         using Sample = decltype(kind);
-        const PixelLevels straight{static_cast<double>(SampleAt<Sample>(pixel, 0)),
-                                   static_cast<double>(SampleAt<Sample>(pixel, 1)),
-                                   static_cast<double>(SampleAt<Sample>(pixel, 2)), 0.0};
+        const PixelLevels straight{LevelOf<Sample>(pixel, 0), LevelOf<Sample>(pixel, 1),
+                                   LevelOf<Sample>(pixel, 2), 0.0};
         if (!HasAlpha(format)) {
             return straight;
         }
-        const double alpha = static_cast<double>(SampleAt<Sample>(pixel, 3)) / whiteOf<Sample>;
+        const double alpha = LevelOf<Sample>(pixel, 3) / whiteOf<Sample>;
         return {alpha * straight.blue, alpha * straight.green, alpha * straight.red, alpha};
     });
 }

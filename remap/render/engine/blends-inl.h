@@ -138,7 +138,7 @@ struct PixelBlend {
     }
     static VecFour Levels(const Sample* pixel) {
         if constexpr (std::is_same_v<Sample, float>) {
-            return hn::LoadU(Four(), pixel);
+            return hn::Min(hn::LoadU(Four(), pixel), hn::Set(Four(), mostLight));
         } else {
             const auto narrow = hn::LoadU(hn::Rebind<Sample, Four>(), pixel);
             return hn::ConvertTo(Four(), hn::PromoteTo(FourInts(), narrow));

@@ -137,6 +137,25 @@ TEST(EngineDepths, LargePhotosAreAsClose) {
     }
 }
 
+// As of a sun: what is between it and the dark is bright, and nothing is no number.
+TEST(EngineDepths, InfiniteLightLeavesNumbers) {
+    const BitmapHandle photo = Deepened(*testing::PhotoLike({301, 200}), PixelFormat::BgrFloat);
+    for (int n = 0; n < 400; ++n) {
+        const float infinite = std::numeric_limits<float>::infinity();
+        PutSample(photo->ScanLine(90 + n / 20).data() + (140 + n % 20) * 12, 1, infinite);
+    }
+    for (const Case& c : Cases()) {
+        const BitmapHandle drawn = Drawn(&Render, c, *photo);
+        const BitmapHandle exact = Drawn(&reference::Render, c, *photo);
+        for (int n = 0; n < 301 * 200; ++n) {
+            const double green = GetLevels(drawn.get(), n % 301, n / 301).green;
+            ASSERT_TRUE(std::isfinite(green)) << c.name;
+            ASSERT_EQ(green > 1e20, GetLevels(exact.get(), n % 301, n / 301).green > 1e20);
+        }
+        EXPECT_GT(GetLevels(drawn.get(), 150, 100).green, 1e20);
+    }
+}
+
 // All 65,536 levels through a view that changes nothing: straight lines as straight lines.
 TEST(EngineDepths, ARampOf16BitsComesBackValueForValue) {
     constexpr int side = 256;

@@ -16,7 +16,8 @@ namespace {
 void CheckAnswer(const std::uint8_t* data, std::size_t size) {
     varnel::DecoderAnswer answer;
     std::memcpy(&answer, data, std::min(size, sizeof answer));
-    const varnel::DecoderRequest request{.number = answer.number, .memory = std::uint64_t{4} << 30};
+    const varnel::DecoderRequest request{
+        .number = answer.number, .memory = std::uint64_t{4} << 30, .depth = varnel::ReadDepth::Own};
     constexpr std::uint64_t length = std::uint64_t{1} << 20;
     if (varnel::IsConsistent(answer, request, length)) {
         const std::uint64_t rows = varnel::RowBytes(answer);

@@ -94,8 +94,9 @@ class Decoding {
             return LoadedPicture::Refused(error);
         }
         NoteOrientation();
-        stated_ = ReadHeaderSize();
-        if (const Reason error = stated_ ? Error(*stated_) : Reason(); !error.isEmpty()) {
+        ReadHeader();
+        if (const Reason error = stated_ ? Error(*stated_, statedFormat_) : Reason();
+            !error.isEmpty()) {
             return LoadedPicture::Refused(error);
         }
         return Upright(AsAsked());
@@ -204,22 +205,34 @@ class Decoding {
         }
     }
 
-    Reason Error(const StatedSize& size) const {
-        return SizeError(size.width, size.height, memory_);
+    // Only whole pictures are wanted as they are; BMP files have anything in place of alpha.
+    bool WantsOwnFormat() const {
+        return request_.depth == ReadDepth::Own && request_.kind == ReadKind::Whole &&
+               format_ != InputFormat::Bmp;
+    }
+
+    Reason Error(const StatedSize& size, PixelFormat format = PixelFormat::Bgr8) const {
+        return SizeError(size.width, size.height, memory_, format);
     }
 
     // Without reading pixels, where the type allows.
-    std::optional<StatedSize> ReadHeaderSize() const {
+    void ReadHeader() {
         if (format_ == InputFormat::Jpeg) {
             const std::optional<PixelSize> size = JpegSize(file_);
-            return size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
+            stated_ = size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
+            return;
         }
         const std::optional<BmpHeader> bmp =
             format_ == InputFormat::Bmp ? ReadBmpHeader(file_) : std::nullopt;
         if (bmp) {
-            return StatedSize{bmp->width, bmp->height};
+            stated_ = StatedSize{bmp->width, bmp->height};
+            return;
         }
-        return reader_.HeaderSize();
+        const LibraryPicture header = reader_.Header();
+        if (header.Exists()) {
+            stated_ = header.Size();
+            statedFormat_ = WantsOwnFormat() ? header.OwnFormat() : PixelFormat::Bgr8;
+        }
     }
 
     LoadedPicture OnlySize() {
@@ -311,7 +324,8 @@ class Decoding {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
         const PixelSize size = bitmap->Size();
-        if (const Reason error = Error({size.width, size.height}); !error.isEmpty()) {
+        if (const Reason error = Error({size.width, size.height}, bitmap->Format());
+            !error.isEmpty()) {
             return LoadedPicture::Refused(error);
         }
         if (!IsProfileForRgb(bitmap->metadata.colourProfile)) {
@@ -325,7 +339,8 @@ class Decoding {
         if (!picture.HasPixels()) {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
-        if (const Reason error = Error(picture.Size()); !error.isEmpty()) {
+        const PixelFormat format = WantsOwnFormat() ? picture.OwnFormat() : PixelFormat::Bgr8;
+        if (const Reason error = Error(picture.Size(), format); !error.isEmpty()) {
             return LoadedPicture::Refused(error);
         }
         BitmapMetadata metadata = picture.Metadata();
@@ -335,7 +350,8 @@ class Decoding {
         }
         BitmapHandle colours = FromInks(reader_, metadata);
         if (!colours) {
-            colours = To24Bits(std::move(picture), std::move(metadata));
+            colours = WantsOwnFormat() ? InOwnFormat(std::move(picture), std::move(metadata))
+                                       : To24Bits(std::move(picture), std::move(metadata));
         }
         return colours ? Answered(std::move(colours))
                        : LoadedPicture::Refused(ReasonCode::NoTrueColour);
@@ -357,8 +373,9 @@ class Decoding {
     const LibraryMessages& messages_;
     std::optional<TiffStructure> tiff_;
     std::optional<StatedSize> stated_;
-    int orientation_ = 1;  // to be undone
-    int turn_ = 1;         // the part of it that is still to be done
+    PixelFormat statedFormat_ = PixelFormat::Bgr8;  // that the picture will have
+    int orientation_ = 1;                           // to be undone
+    int turn_ = 1;                                  // the part of it that is still to be done
 };
 
 }  // namespace

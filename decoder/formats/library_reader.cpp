@@ -10,6 +10,7 @@
 #include <new>
 #include <utility>
 
+#include "decoder/formats/readers/library_samples.h"
 #include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
@@ -173,6 +174,19 @@ BitmapHandle LibraryPicture::To24Bits() {
     return result;
 }
 
+BitmapHandle LibraryPicture::InOwnFormat() {
+    BitmapHandle own = bitmap_ ? OwnSamples(BitmapOf(bitmap_)) : nullptr;
+    if (!own) {
+        return To24Bits();
+    }
+    bitmap_.reset();
+    return own;
+}
+
+PixelFormat LibraryPicture::OwnFormat() const {
+    return FormatOfSamples(BitmapOf(bitmap_));
+}
+
 LibraryReader::LibraryReader(const PictureFile& file)
     : file_(file), type_(TypeOf(file)), format_(FormatOf(type_)) {}
 
@@ -183,12 +197,10 @@ LibraryPicture LibraryReader::Load(int flags) const {
         static_cast<FREE_IMAGE_FORMAT>(type_), &io, HandleOf(file_), flags)));
 }
 
-std::optional<StatedSize> LibraryReader::HeaderSize() const {
-    if (FreeImage_FIFSupportsNoPixels(static_cast<FREE_IMAGE_FORMAT>(type_)) != TRUE) {
-        return std::nullopt;
-    }
-    const LibraryPicture header = Load(FIF_LOAD_NOPIXELS);
-    return header.Exists() ? std::optional(header.Size()) : std::nullopt;
+LibraryPicture LibraryReader::Header() const {
+    const bool isApart =
+        FreeImage_FIFSupportsNoPixels(static_cast<FREE_IMAGE_FORMAT>(type_)) == TRUE;
+    return isApart ? Load(FIF_LOAD_NOPIXELS) : LibraryPicture(nullptr);
 }
 
 LibraryPicture LibraryReader::Whole() const {

@@ -41,6 +41,12 @@ class LibraryPicture {
     // In 24 bits, without metadata; the picture is gone then. Empty when the pixels are no picture
     // (complex numbers). Throws std::bad_alloc.
     BitmapHandle To24Bits();
+    // What keeps the picture's own samples; of a header it may have more than the pixels will.
+    PixelFormat OwnFormat() const;
+    // Likewise in its own format. What has no format of its own comes in 24 bits, and alpha that is
+    // 0 everywhere counts as none. Floating-point samples that are no number become 0, infinite
+    // ones 1e9.
+    BitmapHandle InOwnFormat();
 
   private:
     std::shared_ptr<void> bitmap_;
@@ -53,8 +59,8 @@ class LibraryReader {
     explicit LibraryReader(const PictureFile& file);
 
     InputFormat Format() const { return format_; }
-    // Without decoding pixels; nothing where the type does not allow that.
-    std::optional<StatedSize> HeaderSize() const;
+    // Without its pixels; none where the type does not allow that.
+    LibraryPicture Header() const;
     LibraryPicture Whole() const;
     // With its inks as they are; none for types without inks.
     LibraryPicture WithInks() const;

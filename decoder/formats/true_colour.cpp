@@ -56,4 +56,15 @@ BitmapHandle To24Bits(LibraryPicture picture, BitmapMetadata metadata) {
     return result;
 }
 
+BitmapHandle InOwnFormat(LibraryPicture picture, BitmapMetadata metadata) {
+    if (!IsProfileForRgb(metadata.colourProfile)) {
+        metadata.colourProfile.clear();
+    }
+    BitmapHandle result = picture.InOwnFormat();
+    if (result) {
+        result->metadata = std::move(metadata);
+    }
+    return result;
+}
+
 }  // namespace varnel

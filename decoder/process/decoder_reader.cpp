@@ -85,7 +85,8 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 options_.memory,
                 static_cast<std::uint32_t>(options_.secondsPerPhoto),
                 memory_->Name(),
-                request.upright};
+                request.upright,
+                request.depth};
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     first_.reset();

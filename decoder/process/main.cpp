@@ -148,8 +148,8 @@ LoadedPicture Decoded(std::FILE* photo, const DecoderRequest& request, Handover&
     if (request.kind == ReadKind::Facts) {
         return {LoadOutcome::Loaded, nullptr, {}, {}};
     }
-    return DecodePicture(photo, {{}, request.kind, request.box, request.upright}, request.memory,
-                         [&handover](PixelSize size, PixelFormat format) {
+    return DecodePicture(photo, {{}, request.kind, request.box, request.upright, request.depth},
+                         request.memory, [&handover](PixelSize size, PixelFormat format) {
                              return handover.Rows(RowPitch(size.width, format) *
                                                   static_cast<std::size_t>(size.height));
                          });

@@ -64,6 +64,10 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         return false;
     }
     const auto format = static_cast<PixelFormat>(answer.format);
+    const bool isWhole = request.kind == ReadKind::Whole;
+    if (format != PixelFormat::Bgr8 && !(isWhole && request.depth == ReadDepth::Own)) {
+        return false;
+    }
     if (!SizeError(bitmap.width, bitmap.height, request.memory, format).isEmpty()) {
         return false;
     }
@@ -71,8 +75,7 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         (bitmap.width > request.box.width || bitmap.height > request.box.height)) {
         return false;
     }
-    if (request.kind == ReadKind::Whole &&
-        (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
+    if (isWhole && (answer.size.width != bitmap.width || answer.size.height != bitmap.height)) {
         return false;
     }
     return answer.pitch == RowPitch(bitmap.width, format) &&

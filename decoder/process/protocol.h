@@ -26,6 +26,7 @@ struct DecoderRequest {
     std::uint32_t seconds = 0;     // of processor time that it may take, about
     std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
     bool upright = true;
+    ReadDepth depth = ReadDepth::Eight;
 };
 
 inline constexpr std::size_t longestReason = 2000;  // bytes

@@ -18,7 +18,7 @@ enum class LoadOutcome {
 
 struct LoadedPicture {
     LoadOutcome outcome = LoadOutcome::NotLoaded;
-    BitmapHandle bitmap;  // 24 bits a pixel; empty when not loaded or when only the size was asked
+    BitmapHandle bitmap;  // as deep as asked; empty when not loaded or when only the size was asked
     Reason reason;        // what is wrong; empty when all is well
     PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
     PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it

@@ -4,7 +4,6 @@
 #include "decoder/formats/decode_picture.h"
 
 #include <algorithm>
-#include <cmath>
 #include <exception>
 #include <new>
 #include <utility>
@@ -17,11 +16,13 @@
 #include "decoder/formats/library_reader.h"
 #include "decoder/formats/orientation.h"
 #include "decoder/formats/picture_file.h"
+#include "decoder/formats/readers/direct_reader.h"
+#include "decoder/formats/readers/hidden_tags.h"
+#include "decoder/formats/readers/lesser_picture.h"
 #include "decoder/formats/tiff_structure.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
 #include "decoder/request/picture_limits.h"
-#include "remap/image/image_library.h"
 #include "remap/image/library_messages.h"
 
 namespace varnel {
@@ -35,16 +36,6 @@ PixelSize Pixels(const StatedSize& stated) {
     return {static_cast<std::int32_t>(stated.width), static_cast<std::int32_t>(stated.height)};
 }
 
-// The largest size with the picture's proportions within the box, never larger than the picture.
-PixelSize Within(PixelSize picture, PixelSize box) {
-    const double scale = std::min({1.0, static_cast<double>(box.width) / picture.width,
-                                   static_cast<double>(box.height) / picture.height});
-    const auto scaled = [&](std::int32_t side) {
-        return std::max(static_cast<std::int32_t>(std::floor(side * scale + 0.5)), 1);
-    };
-    return {scaled(picture.width), scaled(picture.height)};
-}
-
 PixelRows RowsOf(Bitmap& bitmap) {
     return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
 }
@@ -55,14 +46,6 @@ BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
         std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
     }
     return metadata;
-}
-
-BitmapHandle Reduced(BitmapHandle bitmap, PixelSize box) {
-    const PixelSize is = bitmap->Size();
-    const PixelSize wanted = Within(is, box);
-    bitmap->metadata = {};
-    return is.width != wanted.width || is.height != wanted.height ? RescaledByBox(*bitmap, wanted)
-                                                                  : std::move(bitmap);
 }
 
 class Decoding {
@@ -84,7 +67,7 @@ class Decoding {
         if (format_ == InputFormat::Tiff || format_ == InputFormat::Raw) {
             tiff_ = TiffFactsOf(file_);
         }
-        HideMetadata();
+        HideMetadata(format_, tiff_, file_);
         if (format_ == InputFormat::Tiff && tiff_ && tiff_->isDng) {
             // The plain TIFF reader would give the thumbnail for the photo.
             return LoadedPicture::Refused(ReasonCode::RawUnreadable);
@@ -182,29 +165,6 @@ class Decoding {
                    : NewBitmap(size, format);
     }
 
-    // Metadata are read later and by others: in the library they are where most crashes are.
-    void HideMetadata() {
-        if (format_ == InputFormat::Jpeg) {
-            constexpr char unused = '\xEF';
-            for (const std::int64_t place : JpegMetadataMarkers(file_)) {
-                file_.Replace(place, unused);
-            }
-        } else if (tiff_) {
-            HideTags(tiff_->deadlyTags);
-            if (format_ ==
-                InputFormat::Tiff) {  // raw files tell there how they are to be developed
-                HideTags(tiff_->metadataTags);
-            }
-        }
-    }
-    // The next number means nothing to anybody and keeps the tags in order.
-    void HideTags(const std::vector<std::int64_t>& lowestBytes) {
-        for (const std::int64_t place : lowestBytes) {
-            const QByteArray byte = file_.Read(place, 1);
-            file_.Replace(place, static_cast<char>(byte.isEmpty() ? 0 : byte.front() + 1));
-        }
-    }
-
     // Only whole pictures are wanted as they are; BMP files have anything in place of alpha.
     bool WantsOwnFormat() const {
         return request_.depth == ReadDepth::Own && request_.kind == ReadKind::Whole &&
@@ -228,11 +188,24 @@ class Decoding {
             stated_ = StatedSize{bmp->width, bmp->height};
             return;
         }
+        if (WantsOwnFormat() && OpenDirect()) {
+            return;
+        }
         const LibraryPicture header = reader_.Header();
         if (header.Exists()) {
             stated_ = header.Size();
             statedFormat_ = WantsOwnFormat() ? header.OwnFormat() : PixelFormat::Bgr8;
         }
+    }
+
+    // False where the image library has to read the file.
+    bool OpenDirect() {
+        direct_ = format_ == InputFormat::Tiff ? NewTiffReader(file_) : nullptr;
+        if (direct_) {
+            stated_ = direct_->Size();
+            statedFormat_ = direct_->Format();
+        }
+        return direct_ != nullptr;
     }
 
     LoadedPicture OnlySize() {
@@ -305,7 +278,32 @@ class Decoding {
         return bitmap;
     }
 
+    LoadedPicture ByDirectReader() {
+        if (const Reason error = Error(*stated_, statedFormat_); !error.isEmpty()) {
+            return LoadedPicture::Refused(error);
+        }
+        const PixelSize size = Pixels(*stated_);
+        const bool isInPlace = turn_ == 1 && WantsOwnFormat();
+        BitmapHandle bitmap =
+            isInPlace ? Room(size, statedFormat_) : NewBitmap(size, statedFormat_);
+        if (!bitmap) {
+            throw std::bad_alloc();
+        }
+        std::optional<BitmapMetadata> metadata = direct_->Read(RowsOf(*bitmap));
+        if (!metadata) {
+            return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
+        }
+        bitmap->metadata = std::move(*metadata);
+        if (tiff_ && !tiff_->colourProfile.isEmpty()) {
+            bitmap->metadata.colourProfile = tiff_->colourProfile;
+        }
+        return Judged(WantsOwnFormat() ? std::move(bitmap) : InBytes(std::move(bitmap)));
+    }
+
     LoadedPicture Whole() {
+        if (direct_) {
+            return ByDirectReader();
+        }
         if (BitmapHandle bitmap = DirectJpeg()) {
             return Judged(std::move(bitmap));
         }
@@ -314,6 +312,9 @@ class Decoding {
         LibraryPicture picture(nullptr);
         if (!bmp || !NeedsBmpReader(*bmp)) {
             picture = reader_.Whole();
+        }
+        if (!picture.HasPixels() && OpenDirect() && direct_->IsOnlyWay()) {
+            return ByDirectReader();  // of a depth that the image library does not know
         }
         return !picture.Exists() && bmp ? Judged(LoadBmp(file_, *bmp)) : Judged(std::move(picture));
     }
@@ -372,6 +373,7 @@ class Decoding {
     const RowsFor& rowsFor_;
     const LibraryMessages& messages_;
     std::optional<TiffStructure> tiff_;
+    std::unique_ptr<DirectReader> direct_;
     std::optional<StatedSize> stated_;
     PixelFormat statedFormat_ = PixelFormat::Bgr8;  // that the picture will have
     int orientation_ = 1;                           // to be undone

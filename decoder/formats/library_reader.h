@@ -10,16 +10,11 @@
 
 #include "decoder/formats/input_format.h"
 #include "decoder/formats/picture_file.h"
+#include "decoder/formats/readers/stated_size.h"
 #include "decoder/formats/sample_rows.h"
 #include "remap/image/bitmap.h"
 
 namespace varnel {
-
-// Sides as a file states them, in pixels; they may be anything.
-struct StatedSize {
-    std::int64_t width = 0;
-    std::int64_t height = 0;
-};
 
 // A picture as the library decoded it, of any depth; or none.
 class LibraryPicture {

@@ -209,6 +209,9 @@ TEST(DecodePicture, SoundFilesLoadAndCutOnesNeverPassAsSound) {
             EXPECT_NE(cut.outcome, LoadOutcome::Loaded) << name << " at " << percent;
             EXPECT_EQ(cut.outcome == LoadOutcome::Damaged, cut.bitmap != nullptr);
             EXPECT_FALSE(cut.reason.isEmpty()) << name << " at " << percent;
+            const LoadedPicture own = testing::Decode(whole.left(whole.size() * percent / 100),
+                                                      {.path = {}, .depth = ReadDepth::Own});
+            EXPECT_NE(own.outcome, LoadOutcome::Loaded) << name << " at " << percent;
         }
     }
 }

@@ -12,6 +12,7 @@
 #include "remap/encode/coders/freeimage_encoder.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"
+#include "tests/support/seeds/file_bytes.h"
 #include "tests/support/seeds/seed_files.h"
 
 namespace varnel {
@@ -114,6 +115,82 @@ TEST(OwnDepth, EverySeedComesAndTheShallowOnesAsEver) {
             (seed.Type() == "tiff" || seed.Type() == "png")) {
             EXPECT_EQ(SampleKindOf(format), SampleKind::Word) << seed.name;
         }
+    }
+}
+
+struct TiffRow {
+    const char* name;
+    int bits;
+    int sampleFormat;  // 1 integers, 3 floating point
+    int photometric;   // 0 white is 0, 1 black is 0, 2 colour
+    int samples;
+    QByteArray pixels;  // of a picture of two columns and one row
+    std::vector<double> expected;
+    std::vector<std::uint32_t> extra = {};  // kinds of samples beyond the colours
+};
+
+QByteArray TiffOf(const TiffRow& row) {
+    using enum testing::TiffType;
+    const auto each = [&](int value) { return std::vector<std::uint32_t>(row.samples, value); };
+    const auto number = [](int value) {
+        return std::vector<std::uint32_t>{static_cast<std::uint32_t>(value)};
+    };
+    std::vector<testing::TiffField> fields = {{256, Short, {2}},
+                                              {257, Short, {1}},
+                                              {258, Short, each(row.bits)},
+                                              {262, Short, number(row.photometric)},
+                                              {277, Short, number(row.samples)},
+                                              {339, Short, each(row.sampleFormat)}};
+    if (!row.extra.empty()) {
+        fields.push_back({338, Short, row.extra});
+    }
+    return testing::StripTiff(fields, row.pixels);
+}
+
+TEST(OwnDepth, EveryNumberOfBitsOfATiffKeepsItsPartOfTheRange) {
+    using testing::Numbers;
+    const auto floats = [](const Floats& values) {
+        return QByteArray(reinterpret_cast<const char*>(values.data()),
+                          static_cast<qsizetype>(values.size() * sizeof(float)));
+    };
+    const TiffRow rows[] = {
+        {"10 bits", 10, 1, 1, 1, QByteArray::fromHex("ffe000"), {65535, 32800}},
+        {"12 bits",
+         12,
+         1,
+         2,
+         3,
+         QByteArray::fromHex("000fff800001002003"),
+         {2048.0 * 65535 / 4095, 65535, 0, 48, 32, 16}},
+        {"12 bits, white is 0", 12, 1, 0, 1, QByteArray::fromHex("000fff"), {65535, 0}},
+        {"14 bits", 14, 1, 1, 1, QByteArray::fromHex("fffc0010"), {65535, 4}},
+        {"16 bits, white is 0", 16, 1, 0, 1, Numbers({1, 65535}, 2), {65534, 0}},
+        {"24 bits", 24, 1, 1, 1, Numbers({0xFFFFFF, 0x010000}, 3), {65535, 256}},
+        {"32 bits", 32, 1, 1, 1, Numbers({0xFFFFFFFF, 0x00010000}, 4), {65535, 1}},
+        {"half", 16, 3, 1, 1, Numbers({0x3800, 0xC100}, 2), {0.5, -2.5}},
+        {"half, small and endless", 16, 3, 1, 1, Numbers({0x0001, 0x7C00}, 2), {0x1p-24, 1e9}},
+        {"float alpha", 32, 3, 1, 2, floats({0.25F, 0.5F, 3.0F, 1.0F}), {0.25, 3}, {2}},
+        {"multiplied", 16, 1, 1, 2, Numbers({1000, 32768, 9, 0}, 2), {2000, 9}, {1}},
+        {"unknown fourth", 16, 1, 1, 2, Numbers({1000, 32768, 9, 0}, 2), {1000, 9}, {0}}};
+    for (const TiffRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        const LoadedPicture picture = InOwnDepth(TiffOf(row));
+        ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
+        const PixelFormat format = picture.bitmap->Format();
+        const bool hasAlpha = !row.extra.empty() && row.extra.front() != 0;
+        EXPECT_EQ(
+            format,
+            PixelFormatOf(row.sampleFormat == 3 ? SampleKind::Float : SampleKind::Word, hasAlpha));
+        WithSample(SampleKindOf(format), [&](auto kind) {
+            using Value = decltype(kind);
+            const std::vector<Value> samples = SamplesOf<Value>(picture);
+            const std::size_t step = samples.size() / 2;
+            const std::size_t colours = row.photometric == 2 ? 3 : 1;
+            for (std::size_t n = 0; n < row.expected.size(); ++n) {
+                const std::size_t place = n / colours * step + n % colours;
+                EXPECT_NEAR(static_cast<double>(samples[place]), row.expected[n], 0.5) << n;
+            }
+        });
     }
 }
 

@@ -16,9 +16,11 @@
 #include "decoder/formats/library_reader.h"
 #include "decoder/formats/orientation.h"
 #include "decoder/formats/picture_file.h"
-#include "decoder/formats/readers/direct_reader.h"
+#include "decoder/formats/readers/camera_preview.h"
 #include "decoder/formats/readers/hidden_tags.h"
-#include "decoder/formats/readers/lesser_picture.h"
+#include "decoder/formats/readers/picture_forms.h"
+#include "decoder/formats/readers/raw_reader.h"
+#include "decoder/formats/readers/stated_header.h"
 #include "decoder/formats/tiff_structure.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
@@ -34,18 +36,6 @@ constexpr std::int64_t mostPixelsForSmall = 60'000'000;
 
 PixelSize Pixels(const StatedSize& stated) {
     return {static_cast<std::int32_t>(stated.width), static_cast<std::int32_t>(stated.height)};
-}
-
-PixelRows RowsOf(Bitmap& bitmap) {
-    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
-}
-
-// Those of a picture, for the same turned by the orientation.
-BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
-    if (SwapsSides(orientation)) {
-        std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
-    }
-    return metadata;
 }
 
 class Decoding {
@@ -78,8 +68,10 @@ class Decoding {
         }
         NoteOrientation();
         ReadHeader();
-        if (const Reason error = stated_ ? Error(*stated_, statedFormat_) : Reason();
-            !error.isEmpty()) {
+        if (format_ == InputFormat::Raw && !raw_) {
+            return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
+        }
+        if (const Reason error = StatedError(); !error.isEmpty()) {
             return LoadedPicture::Refused(error);
         }
         return Upright(AsAsked());
@@ -100,41 +92,16 @@ class Decoding {
     }
 
     void NoteOrientation() {
-        orientation_ = request_.upright ? OrientationOf(format_, file_, tiff_) : 1;
-        // The library develops raw files upright, whatever is asked.
-        turn_ = format_ == InputFormat::Raw ? 1 : orientation_;
+        turn_ = orientation_ = request_.upright ? OrientationOf(format_, file_, tiff_) : 1;
         if (format_ == InputFormat::Tiff && tiff_ && tiff_->orientation != 1) {
-            // It does a part of some turns with some kinds of TIFF, so it must not know.
+            // The library does a part of some turns with some kinds of TIFF, so it must not know.
             file_.Replace(tiff_->orientationPlace, 1);
         }
-    }
-
-    // Whether the sides of a raw file's picture have changed places against the sensor's; nothing
-    // when they do not tell.
-    std::optional<bool> HasSwappedSides(PixelSize size) const {
-        if (!stated_ || stated_->width == stated_->height || size.width == size.height) {
-            return std::nullopt;
-        }
-        return (stated_->width > stated_->height) != (size.width > size.height);
-    }
-
-    // The camera's own small picture in a raw file is not turned by the library. What was developed
-    // for want of one is, and has the sensor's size.
-    void NoteUnturnedPreview(PixelSize size) {
-        const std::optional<bool> swapped = HasSwappedSides(size);
-        const bool isUnturned = SwapsSides(orientation_) && swapped
-                                    ? !*swapped
-                                    : stated_ && size.width < stated_->width / 2;
-        turn_ = isUnturned ? orientation_ : 1;
     }
 
     LoadedPicture Upright(LoadedPicture picture) {
         if (picture.outcome == LoadOutcome::NotLoaded) {
             return picture;
-        }
-        if (format_ == InputFormat::Raw && picture.size.width > 0 &&
-            HasSwappedSides(picture.size) == !SwapsSides(orientation_)) {
-            orientation_ = 1;  // it was developed by something else than that
         }
         if (turn_ != 1) {
             picture.size = Turned(picture.size, turn_);
@@ -148,13 +115,11 @@ class Decoding {
 
     // By what the library has left to be done.
     BitmapHandle TurnedCopy(Bitmap& bitmap) {
-        const PixelSize size = bitmap.Size();
-        BitmapHandle turned = Room(Turned(size, turn_), bitmap.Format());
+        BitmapHandle turned = Room(Turned(bitmap.Size(), turn_), bitmap.Format());
         if (!turned) {
             throw std::bad_alloc();
         }
-        TurnRows(size, {0, size.height}, RowsOf(bitmap), turn_, RowsOf(*turned));
-        turned->metadata = TurnedMetadata(std::move(bitmap.metadata), turn_);
+        TurnInto(*turned, std::move(bitmap), turn_);
         return turned;
     }
 
@@ -175,26 +140,13 @@ class Decoding {
         return SizeError(size.width, size.height, memory_, format);
     }
 
-    // Without reading pixels, where the type allows.
     void ReadHeader() {
-        if (format_ == InputFormat::Jpeg) {
-            const std::optional<PixelSize> size = JpegSize(file_);
-            stated_ = size ? std::optional(StatedSize{size->width, size->height}) : std::nullopt;
-            return;
-        }
-        const std::optional<BmpHeader> bmp =
-            format_ == InputFormat::Bmp ? ReadBmpHeader(file_) : std::nullopt;
-        if (bmp) {
-            stated_ = StatedSize{bmp->width, bmp->height};
-            return;
-        }
-        if (WantsOwnFormat() && OpenDirect()) {
-            return;
-        }
-        const LibraryPicture header = reader_.Header();
-        if (header.Exists()) {
-            stated_ = header.Size();
-            statedFormat_ = WantsOwnFormat() ? header.OwnFormat() : PixelFormat::Bgr8;
+        if (format_ == InputFormat::Raw) {
+            OpenRaw(request_.raw);
+        } else if (!WantsOwnFormat() || !OpenDirect()) {
+            const StatedHeader header = HeaderOf(reader_, file_);
+            stated_ = header.size;
+            statedFormat_ = WantsOwnFormat() ? header.format : PixelFormat::Bgr8;
         }
     }
 
@@ -208,19 +160,29 @@ class Decoding {
         return direct_ != nullptr;
     }
 
-    LoadedPicture OnlySize() {
-        std::optional<StatedSize> size = stated_;
-        if (size && format_ == InputFormat::Raw) {
-            // The library states the sensor's way up and knows no odd pixels before developing.
-            const bool known = tiff_ && tiff_->isDng && tiff_->isEven;
-            if (!known) {
-                size.reset();
-            } else if (SwapsSides(tiff_->orientation)) {
-                std::swap(size->width, size->height);
-            }
+    // Developed upright, whatever is asked.
+    void OpenRaw(const RawDevelopment& development) {
+        auto reader = NewRawReader(file_, development,
+                                   WantsOwnFormat() ? SampleKind::Word : SampleKind::Byte);
+        raw_ = reader.get();
+        direct_ = std::move(reader);
+        turn_ = 1;
+        if (raw_ != nullptr) {
+            orientation_ = request_.upright ? raw_->Orientation() : 1;
+            stated_ = direct_->Size();
+            statedFormat_ = direct_->Format();
         }
-        if (size) {
-            return {LoadOutcome::Loaded, nullptr, {}, Pixels(*size)};
+    }
+
+    // Developing takes four words for each pixel beside the picture.
+    Reason StatedError() const {
+        return stated_ ? Error(*stated_, raw_ != nullptr ? PixelFormat::Bgr16 : statedFormat_)
+                       : Reason();
+    }
+
+    LoadedPicture OnlySize() {
+        if (stated_) {
+            return {LoadOutcome::Loaded, nullptr, {}, Pixels(*stated_)};
         }
         LoadedPicture whole = Whole();
         whole.bitmap.reset();
@@ -232,30 +194,54 @@ class Decoding {
     }
 
     LoadedPicture Small() {
-        LoadedPicture picture = Quick();
+        LoadedPicture picture = raw_ != nullptr ? OfCamera() : Quick();
         if (!picture.bitmap) {
             if (stated_ && stated_->width * stated_->height > mostPixelsForSmall) {
                 return LoadedPicture::Refused(ReasonCode::TooLargeForQuickLook);
             }
-            picture = Whole();
-        }
-        if (picture.bitmap && format_ == InputFormat::Raw) {
-            NoteUnturnedPreview(picture.bitmap->Size());
+            picture = raw_ != nullptr ? QuicklyDeveloped() : Whole();
         }
         if (picture.bitmap) {
             picture.bitmap = Reduced(std::move(picture.bitmap), Turned(request_.box, turn_));
         }
         return picture;
     }
+
     // Empty where the type has no short way.
     LoadedPicture Quick() {
-        if (format_ != InputFormat::Jpeg && format_ != InputFormat::Raw) {
+        if (format_ != InputFormat::Jpeg) {
             return {};
         }
-        const int side = std::clamp(std::max(request_.box.width, request_.box.height), 1,
-                                    static_cast<int>(largestSide));
-        LoadedPicture picture = Judged(reader_.Preview(side));
-        picture.size = format_ == InputFormat::Jpeg && stated_ ? Pixels(*stated_) : PixelSize{};
+        LoadedPicture picture = Judged(reader_.Preview(LongerSideOfBox()));
+        picture.size = stated_ ? Pixels(*stated_) : PixelSize{};
+        return picture;
+    }
+
+    std::int32_t LongerSideOfBox() const {
+        return std::clamp(std::max(request_.box.width, request_.box.height), 1,
+                          static_cast<std::int32_t>(largestSide));
+    }
+
+    // The camera's own picture in a raw file; its reader does not turn that.
+    LoadedPicture OfCamera() {
+        BitmapHandle bitmap = PreviewPicture(raw_->Preview(), LongerSideOfBox(), memory_);
+        if (!bitmap) {
+            return {};
+        }
+        const PixelSize full = Pixels(*stated_);
+        const PixelSize size = bitmap->Size();
+        const bool isTurned = SwapsSides(raw_->Orientation()) && size.width != size.height &&
+                              (size.width > size.height) == (full.width > full.height);
+        turn_ = isTurned ? 1 : raw_->Orientation();
+        // The full size is turned back with the picture.
+        return {LoadOutcome::Loaded, std::move(bitmap), {}, Turned(full, turn_)};
+    }
+
+    LoadedPicture QuicklyDeveloped() {
+        const PixelSize full = Pixels(*stated_);
+        OpenRaw({request_.raw.profile, true});
+        LoadedPicture picture = Whole();
+        picture.size = full;
         return picture;
     }
 
@@ -283,9 +269,9 @@ class Decoding {
             return LoadedPicture::Refused(error);
         }
         const PixelSize size = Pixels(*stated_);
-        const bool isInPlace = turn_ == 1 && WantsOwnFormat();
+        const bool isAsWanted = WantsOwnFormat() || statedFormat_ == PixelFormat::Bgr8;
         BitmapHandle bitmap =
-            isInPlace ? Room(size, statedFormat_) : NewBitmap(size, statedFormat_);
+            turn_ == 1 && isAsWanted ? Room(size, statedFormat_) : NewBitmap(size, statedFormat_);
         if (!bitmap) {
             throw std::bad_alloc();
         }
@@ -294,10 +280,10 @@ class Decoding {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
         bitmap->metadata = std::move(*metadata);
-        if (tiff_ && !tiff_->colourProfile.isEmpty()) {
+        if (format_ == InputFormat::Tiff && tiff_) {
             bitmap->metadata.colourProfile = tiff_->colourProfile;
         }
-        return Judged(WantsOwnFormat() ? std::move(bitmap) : InBytes(std::move(bitmap)));
+        return Judged(isAsWanted ? std::move(bitmap) : InBytes(std::move(bitmap)));
     }
 
     LoadedPicture Whole() {
@@ -374,6 +360,7 @@ class Decoding {
     const LibraryMessages& messages_;
     std::optional<TiffStructure> tiff_;
     std::unique_ptr<DirectReader> direct_;
+    RawReader* raw_ = nullptr;  // the same
     std::optional<StatedSize> stated_;
     PixelFormat statedFormat_ = PixelFormat::Bgr8;  // that the picture will have
     int orientation_ = 1;                           // to be undone

@@ -31,8 +31,8 @@ using RowsFor = std::function<std::byte*(PixelSize size, PixelFormat format)>;
 // refused when it is too large for a machine with this memory in bytes. Never throws what the
 // libraries throw: that becomes the reason.
 // Whole: with metadata and colour profile, in 24 bits or, when that is wanted, in the file's own
-// depth. JPEG is decoded accurately, raw files are developed for display, floating-point colour is
-// tone-mapped for 24 bits and kept as it is in its own depth.
+// depth. JPEG is decoded accurately, raw files are developed, floating-point colour is tone-mapped
+// for 24 bits and kept as it is in its own depth.
 // Small: a JPEG is decoded at a fraction of its size, of a raw file the camera's own preview is
 // taken; other pictures are decoded whole unless that would take long. The answer's size is 0 x 0
 // when the file does not state it.

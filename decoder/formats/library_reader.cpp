@@ -204,14 +204,7 @@ LibraryPicture LibraryReader::Header() const {
 }
 
 LibraryPicture LibraryReader::Whole() const {
-    switch (format_) {
-        case InputFormat::Jpeg:  // NOLINT(bugprone-branch-clone): one number, two meanings
-            return Load(JPEG_ACCURATE);
-        case InputFormat::Raw:
-            return Load(RAW_DISPLAY);  // linear data would come out far too dark
-        default:
-            return Load(0);
-    }
+    return Load(format_ == InputFormat::Jpeg ? JPEG_ACCURATE : 0);
 }
 
 LibraryPicture LibraryReader::WithInks() const {
@@ -228,15 +221,9 @@ LibraryPicture LibraryReader::WithInks() const {
 }
 
 LibraryPicture LibraryReader::Preview(int longerSide) const {
-    switch (format_) {
-        case InputFormat::Jpeg:
-            // The upper half of the flags is the size that is wanted at least.
-            return Load(longerSide << 16 | JPEG_FAST);
-        case InputFormat::Raw:
-            return Load(RAW_PREVIEW);
-        default:
-            return LibraryPicture(nullptr);
-    }
+    // The upper half of the flags is the size that is wanted at least.
+    return format_ == InputFormat::Jpeg ? Load(longerSide << 16 | JPEG_FAST)
+                                        : LibraryPicture(nullptr);
 }
 
 }  // namespace varnel

@@ -59,8 +59,8 @@ class LibraryReader {
     LibraryPicture Whole() const;
     // With its inks as they are; none for types without inks.
     LibraryPicture WithInks() const;
-    // Quickly decoded, of at least that many pixels along the longer side where the photo has them:
-    // of JPEG files a reduced one, of raw files the camera's own. None for other types.
+    // Quickly decoded, of at least that many pixels along the longer side where the photo has them.
+    // None for other types than JPEG.
     LibraryPicture Preview(int longerSide) const;
 
   private:

@@ -31,9 +31,7 @@ enum Tag : std::uint16_t {
     ExifDirectory = 34665,
     GpsDirectory = 34853,
     ColourProfile = 34675,
-    DngVersion = 50706,
-    CfaLayout = 50711,
-    DefaultScale = 50718
+    DngVersion = 50706
 };
 
 // A sound file has a handful of directories and some thousand strips at most.
@@ -177,12 +175,6 @@ class TiffWalk {
             }
         }
         facts_.isDng = facts_.isDng || !Values(directory, DngVersion).empty();
-        for (const std::uint64_t layout : Values(directory, CfaLayout)) {
-            facts_.isEven = facts_.isEven && layout == 1;
-        }
-        // Two fractions of eight bytes, across and down.
-        const std::vector<std::uint64_t> scale = Values(directory, DefaultScale);
-        facts_.isEven = facts_.isEven && (scale.size() < 2 || scale[0] == scale[1]);
         if (first) {
             NoteOrientation(directory);
         }

@@ -23,7 +23,6 @@ struct TiffStructure {
     // Lowest bytes of the numbers of tags that the library must not see.
     std::vector<std::int64_t> deadlyTags{};    // crashes it: it swaps four times the bytes
     std::vector<std::int64_t> metadataTags{};  // is read by others, and later
-    bool isEven = true;                        // its pixels are square and in rows and columns
     QByteArray colourProfile;                  // of the first directory
 };
 

@@ -3,7 +3,6 @@
 
 #include "decoder/metadata/read_metadata.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QStringList>
 #include <exception>
@@ -14,6 +13,7 @@
 #include "decoder/formats/jpeg_frame.h"
 #include "decoder/formats/library_reader.h"
 #include "decoder/formats/picture_file.h"
+#include "decoder/formats/readers/file_bytes.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/metadata/exif_block.h"
 #include "decoder/metadata/xmp_packet.h"
@@ -21,32 +21,6 @@
 namespace varnel {
 
 namespace {
-
-// The bytes of an open file, mapped where that can be done.
-class FileBytes {
-  public:
-    explicit FileBytes(std::FILE* file) {
-        if (!file_.open(file, QIODevice::ReadOnly)) {
-            return;
-        }
-        // Not by its name or state, of which the decoder may not ask.
-        length_ = PictureFile(file).Length();
-        bytes_ = file_.map(0, length_);
-        if (bytes_ == nullptr) {
-            read_ = file_.readAll();
-            length_ = read_.size();
-            bytes_ = reinterpret_cast<const uchar*>(read_.constData());
-        }
-    }
-    const Exiv2::byte* Bytes() const { return bytes_; }
-    long Length() const { return static_cast<long>(length_); }
-
-  private:
-    QFile file_;
-    QByteArray read_;
-    const uchar* bytes_ = nullptr;
-    qint64 length_ = 0;
-};
 
 // The kinds of metadata that the library gave up on: it reports that in its messages only.
 QStringList& GivenUp() {
@@ -143,7 +117,8 @@ class Reading {
     }
 
     void Read() {
-        if (bytes_.Bytes() == nullptr || ReadFrom(bytes_.Bytes(), bytes_.Length())) {
+        if (bytes_.Bytes() == nullptr ||
+            ReadFrom(bytes_.Bytes(), static_cast<long>(bytes_.Length()))) {
             return;
         }
         // Broken EXIF must not cost the rest.
@@ -190,7 +165,9 @@ class Reading {
         if (image.iccProfileDefined() && profile->size_ > 0) {
             const QByteArrayView bytes(reinterpret_cast<const char*>(profile->pData_),
                                        static_cast<qsizetype>(profile->size_));
-            result_.colourProfile = IsProfileForRgb(bytes) ? bytes.toByteArray() : QByteArray();
+            // That of a raw file is about the camera's preview.
+            const bool isOfPicture = IsProfileForRgb(bytes) && !IsRaw();
+            result_.colourProfile = isOfPicture ? bytes.toByteArray() : QByteArray();
         }
     }
 
@@ -198,9 +175,9 @@ class Reading {
     bool PixelsAreUpright() const {
         const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
         return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
-               told->toLong() == request_.orientation ||
-               LibraryReader(PictureFile(file_)).Format() == InputFormat::Raw;
+               told->toLong() == request_.orientation || IsRaw();
     }
+    bool IsRaw() const { return LibraryReader(PictureFile(file_)).Format() == InputFormat::Raw; }
 
     ExifWishes Wishes(bool upright) const {
         constexpr double metresPerInch = 0.0254;

@@ -86,7 +86,8 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 static_cast<std::uint32_t>(options_.secondsPerPhoto),
                 memory_->Name(),
                 request.upright,
-                request.depth};
+                request.depth,
+                request.raw};
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     first_.reset();

@@ -148,11 +148,12 @@ LoadedPicture Decoded(std::FILE* photo, const DecoderRequest& request, Handover&
     if (request.kind == ReadKind::Facts) {
         return {LoadOutcome::Loaded, nullptr, {}, {}};
     }
-    return DecodePicture(photo, {{}, request.kind, request.box, request.upright, request.depth},
-                         request.memory, [&handover](PixelSize size, PixelFormat format) {
-                             return handover.Rows(RowPitch(size.width, format) *
-                                                  static_cast<std::size_t>(size.height));
-                         });
+    return DecodePicture(
+        photo, {{}, request.kind, request.box, request.upright, request.depth, request.raw},
+        request.memory, [&handover](PixelSize size, PixelFormat format) {
+            return handover.Rows(RowPitch(size.width, format) *
+                                 static_cast<std::size_t>(size.height));
+        });
 }
 
 // One photo; false when the parent is gone.

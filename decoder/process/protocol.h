@@ -27,6 +27,7 @@ struct DecoderRequest {
     std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
     bool upright = true;
     ReadDepth depth = ReadDepth::Eight;
+    RawDevelopment raw{};
 };
 
 inline constexpr std::size_t longestReason = 2000;  // bytes

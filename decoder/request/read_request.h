@@ -24,12 +24,23 @@ enum class ReadDepth : std::uint32_t {
     Own     // those of the file: 8 bits, 16 or floating point, and alpha where it has some
 };
 
+// The colours that a raw photo is developed into.
+enum class RawProfile : std::uint32_t { Srgb, AdobeRgb, Rec2020 };
+
+struct RawDevelopment {
+    RawProfile profile = RawProfile::Srgb;
+    bool isQuick = false;  // half the size, which takes a quarter of the time
+
+    bool operator==(const RawDevelopment&) const = default;
+};
+
 struct ReadRequest {
     QString path;
     ReadKind kind = ReadKind::Whole;
     PixelSize box{};      // Small: the picture fits it; never enlarged
     bool upright = true;  // turned as its EXIF orientation says; raw files are at any rate
     ReadDepth depth = ReadDepth::Eight;
+    RawDevelopment raw{};
 };
 
 }  // namespace varnel

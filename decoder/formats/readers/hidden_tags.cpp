@@ -25,11 +25,9 @@ void HideMetadata(InputFormat format, const std::optional<TiffStructure>& tiff, 
         for (const std::int64_t place : JpegMetadataMarkers(file)) {
             file.Replace(place, unused);
         }
-    } else if (tiff) {
+    } else if (format == InputFormat::Tiff && tiff) {
         HideTags(tiff->deadlyTags, file);
-        if (format == InputFormat::Tiff) {
-            HideTags(tiff->metadataTags, file);
-        }
+        HideTags(tiff->metadataTags, file);
     }
 }
 

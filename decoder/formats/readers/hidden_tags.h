@@ -13,8 +13,7 @@
 
 namespace varnel {
 
-// From now on those who read the file's pixels do not see its metadata; but those of raw files,
-// which say how they are to be developed.
+// From now on those who read the file's pixels do not see the metadata of a JPEG or TIFF file.
 void HideMetadata(InputFormat format, const std::optional<TiffStructure>& tiff, PictureFile& file);
 
 }  // namespace varnel

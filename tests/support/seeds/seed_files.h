@@ -59,8 +59,9 @@ struct BmpKind {
 };
 QByteArray Bmp(const BmpKind& kind, PixelSize size);
 
-// A raw photo of 64 x 48 pixels: a mosaic or three developed samples, 16 bits each.
-QByteArray RawPhoto(bool mosaic, int orientation);
+// A raw photo of 64 x 48 pixels: a mosaic or three developed samples, 16 bits each, of a pattern if
+// none are given. What is grey has half as much red as green and two thirds as much blue.
+QByteArray RawPhoto(bool mosaic, int orientation, const QByteArray& pixels = {});
 
 // What photos carry: an EXIF block with its mark (place, thumbnail, a maker's note), and others.
 QByteArray ExifBlock(bool canon);

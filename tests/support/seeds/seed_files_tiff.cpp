@@ -98,11 +98,13 @@ struct RawKind {
     int bits;
     bool mosaic;           // false: three developed samples
     bool preview = false;  // the first directory holds a small picture, the raw one hangs below it
+    bool jpeg = false;     // the second directory has a JPEG file of the camera's
 };
 
 constexpr RawKind rawKinds[] = {{"mosaic-12", Order::Little, 12, true},
                                 {"mosaic-16", Order::Little, 16, true},
                                 {"mosaic-16-preview", Order::Big, 16, true, true},
+                                {"mosaic-16-jpeg", Order::Little, 16, true, false, true},
                                 {"linear-16", Order::Little, 16, false}};
 
 std::vector<TiffField> PictureFields(TiffBytes& tiff, PixelSize size, int bits, int samples,
@@ -133,12 +135,23 @@ std::vector<TiffField> CameraFields(std::uint32_t orientation) {
             {50778, Short, {21}}};
 }
 
-QByteArray Raw(const RawKind& kind, std::uint32_t orientation = 1) {
+// A JPEG file as cameras put it into a second directory.
+std::uint32_t JpegDirectory(TiffBytes& tiff) {
+    const QByteArray jpeg = ThumbnailJpeg();
+    const std::uint32_t place = tiff.Data(jpeg);
+    return tiff.Directory({{259, Short, {6}},
+                           {513, Long, {place}},
+                           {514, Long, {static_cast<std::uint32_t>(jpeg.size())}}});
+}
+
+QByteArray Raw(const RawKind& kind, std::uint32_t orientation = 1, QByteArray pixels = {}) {
     TiffBytes tiff(kind.order);
     const int samples = kind.mosaic ? 1 : 3;
+    if (pixels.isEmpty()) {
+        pixels = PatternBytes(rawSize.width * rawSize.height * samples * kind.bits / 8);
+    }
     std::vector<TiffField> raw =
-        PictureFields(tiff, rawSize, kind.bits, samples, kind.mosaic ? 32803 : 34892,
-                      PatternBytes(rawSize.width * rawSize.height * samples * kind.bits / 8));
+        PictureFields(tiff, rawSize, kind.bits, samples, kind.mosaic ? 32803 : 34892, pixels);
     if (kind.mosaic) {
         raw.push_back({33421, Short, {2, 2}});
         raw.push_back({33422, Byte, {0, 1, 1, 2}});
@@ -151,7 +164,7 @@ QByteArray Raw(const RawKind& kind, std::uint32_t orientation = 1) {
         outer.push_back({330, Long, {tiff.Directory(raw)}});
     }
     first.insert(first.end(), outer.begin(), outer.end());
-    return tiff.Finish(tiff.Directory(first));
+    return tiff.Finish(tiff.Directory(first, kind.jpeg ? JpegDirectory(tiff) : 0));
 }
 
 }  // namespace
@@ -174,8 +187,8 @@ std::vector<SeedFile> RawSeeds() {
     return seeds;
 }
 
-QByteArray RawPhoto(bool mosaic, int orientation) {
-    return Raw({"", Order::Little, 16, mosaic}, static_cast<std::uint32_t>(orientation));
+QByteArray RawPhoto(bool mosaic, int orientation, const QByteArray& pixels) {
+    return Raw({"", Order::Little, 16, mosaic}, static_cast<std::uint32_t>(orientation), pixels);
 }
 
 // The maker's note is a directory of its own in the maker's manner: Canon's counts its places from

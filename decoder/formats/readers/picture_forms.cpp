@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "decoder/formats/readers/lesser_picture.h"
+#include "decoder/formats/readers/picture_forms.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,6 +25,22 @@ PixelSize Within(PixelSize picture, PixelSize box) {
 }
 
 }  // namespace
+
+PixelRows RowsOf(Bitmap& bitmap) {
+    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
+}
+
+BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
+    if (SwapsSides(orientation)) {
+        std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
+    }
+    return metadata;
+}
+
+void TurnInto(Bitmap& turned, Bitmap bitmap, int orientation) {
+    TurnRows(bitmap.Size(), {0, bitmap.Size().height}, RowsOf(bitmap), orientation, RowsOf(turned));
+    turned.metadata = TurnedMetadata(std::move(bitmap.metadata), orientation);
+}
 
 BitmapHandle InBytes(BitmapHandle bitmap) {
     BitmapHandle bytes = NewBitmap(bitmap->Size());

@@ -18,6 +18,7 @@
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/readers/camera_preview.h"
 #include "decoder/formats/readers/hidden_tags.h"
+#include "decoder/formats/readers/modern_formats.h"
 #include "decoder/formats/readers/picture_forms.h"
 #include "decoder/formats/readers/raw_reader.h"
 #include "decoder/formats/readers/stated_header.h"
@@ -68,7 +69,7 @@ class Decoding {
         }
         NoteOrientation();
         ReadHeader();
-        if (format_ == InputFormat::Raw && !raw_) {
+        if (ComesUpright(format_) && !direct_) {
             return LoadedPicture::Refused(messages_.Added(ReasonCode::CannotBeDecoded));
         }
         if (const Reason error = StatedError(); !error.isEmpty()) {
@@ -143,6 +144,8 @@ class Decoding {
     void ReadHeader() {
         if (format_ == InputFormat::Raw) {
             OpenRaw(request_.raw);
+        } else if (ComesUpright(format_)) {
+            OpenDirect();
         } else if (!WantsOwnFormat() || !OpenDirect()) {
             const StatedHeader header = HeaderOf(reader_, file_);
             stated_ = header.size;
@@ -150,28 +153,28 @@ class Decoding {
         }
     }
 
-    // False where the image library has to read the file.
-    bool OpenDirect() {
-        direct_ = format_ == InputFormat::Tiff ? NewTiffReader(file_) : nullptr;
+    // By the library of its own type; none: the image library has to read the file.
+    void Take(std::unique_ptr<DirectReader> reader) {
+        direct_ = std::move(reader);
         if (direct_) {
             stated_ = direct_->Size();
             statedFormat_ = direct_->Format();
         }
+        if (direct_ && ComesUpright(format_)) {
+            turn_ = 1;
+            orientation_ = request_.upright ? direct_->Orientation() : 1;
+        }
+    }
+    // False when there is none.
+    bool OpenDirect() {
+        Take(format_ == InputFormat::Tiff ? NewTiffReader(file_) : NewModernReader(format_, file_));
         return direct_ != nullptr;
     }
-
-    // Developed upright, whatever is asked.
     void OpenRaw(const RawDevelopment& development) {
         auto reader = NewRawReader(file_, development,
                                    WantsOwnFormat() ? SampleKind::Word : SampleKind::Byte);
         raw_ = reader.get();
-        direct_ = std::move(reader);
-        turn_ = 1;
-        if (raw_ != nullptr) {
-            orientation_ = request_.upright ? raw_->Orientation() : 1;
-            stated_ = direct_->Size();
-            statedFormat_ = direct_->Format();
-        }
+        Take(std::move(reader));
     }
 
     // Developing takes four words for each pixel beside the picture.
@@ -209,6 +212,9 @@ class Decoding {
 
     // Empty where the type has no short way.
     LoadedPicture Quick() {
+        if (direct_) {
+            return {LoadOutcome::Loaded, direct_->Small(), {}, Pixels(*stated_)};
+        }
         if (format_ != InputFormat::Jpeg) {
             return {};
         }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The types of files that decoding treats in ways of their own.
+// The types of files that decoding treats in ways of their own. Throws nothing.
 #pragma once
 
 namespace varnel {
@@ -11,10 +11,12 @@ enum class InputFormat {
     Bmp,
     Dds,
     Gif,
+    Heif,  // HEIC and AVIF
     Iff,
     J2k,
     Jp2,
     Jpeg,
+    Jxl,
     Png,
     Psd,
     Raw,  // of any camera
@@ -23,5 +25,10 @@ enum class InputFormat {
     WebP,
     Other,
 };
+
+// Types that are read past the image library, by readers that turn the pictures, whatever is asked.
+constexpr bool ComesUpright(InputFormat format) {
+    return format == InputFormat::Raw || format == InputFormat::Heif || format == InputFormat::Jxl;
+}
 
 }  // namespace varnel

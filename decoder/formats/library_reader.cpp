@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "decoder/formats/readers/library_samples.h"
+#include "decoder/formats/readers/modern_formats.h"
 #include "remap/image/freeimage_bitmap.h"
 
 namespace varnel {
@@ -188,7 +189,12 @@ PixelFormat LibraryPicture::OwnFormat() const {
 }
 
 LibraryReader::LibraryReader(const PictureFile& file)
-    : file_(file), type_(TypeOf(file)), format_(FormatOf(type_)) {}
+    : file_(file), type_(FIF_UNKNOWN), format_(ModernFormatOf(file)) {
+    if (format_ == InputFormat::Unknown) {
+        type_ = TypeOf(file);
+        format_ = FormatOf(type_);
+    }
+}
 
 LibraryPicture LibraryReader::Load(int flags) const {
     FreeImageIO io = OpenFile();

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "decoder/formats/decode_picture.h"
+#include "decoder/formats/readers/modern_formats.h"
 #include "decoder/request/picture_limits.h"
 
 namespace varnel {
@@ -31,6 +32,7 @@ QByteArray TinyBmp() {
 }  // namespace
 
 void PrepareDecoding() {
+    PrepareModernReaders();
     tzset();  // raw files' times are worked out with it
     QByteArray tiny = TinyBmp();
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(

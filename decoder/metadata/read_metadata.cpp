@@ -14,6 +14,7 @@
 #include "decoder/formats/library_reader.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/readers/file_bytes.h"
+#include "decoder/formats/readers/modern_formats.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/metadata/exif_block.h"
 #include "decoder/metadata/xmp_packet.h"
@@ -117,6 +118,10 @@ class Reading {
     }
 
     void Read() {
+        if (Format() == InputFormat::Heif) {
+            TakeBlocks(HeifBlocks(PictureFile(file_)));
+            return;
+        }
         if (bytes_.Bytes() == nullptr ||
             ReadFrom(bytes_.Bytes(), static_cast<long>(bytes_.Length()))) {
             return;
@@ -147,6 +152,19 @@ class Reading {
         return whole;
     }
 
+    // The library here does not find them in all files of that type.
+    void TakeBlocks(const MetadataBlocks& blocks) {
+        packet_ = blocks.xmp;
+        if (!packet_.isEmpty()) {
+            Exiv2::XmpParser::decode(xmp_, packet_.toStdString());
+        }
+        if (!blocks.exif.isEmpty()) {
+            order_ = Exiv2::ExifParser::decode(
+                exif_, reinterpret_cast<const Exiv2::byte*>(blocks.exif.constData()),
+                static_cast<std::uint32_t>(blocks.exif.size()));
+        }
+    }
+
     void Take(Exiv2::Image& image) {
         for (const QString& kind : GivenUp()) {
             Note(Unreadable(kind == u"Exif" ? QStringView(u"EXIF") : kind));
@@ -166,18 +184,18 @@ class Reading {
             const QByteArrayView bytes(reinterpret_cast<const char*>(profile->pData_),
                                        static_cast<qsizetype>(profile->size_));
             // That of a raw file is about the camera's preview.
-            const bool isOfPicture = IsProfileForRgb(bytes) && !IsRaw();
+            const bool isOfPicture = IsProfileForRgb(bytes) && Format() != InputFormat::Raw;
             result_.colourProfile = isOfPicture ? bytes.toByteArray() : QByteArray();
         }
     }
 
-    // As they were loaded; raw files are always developed upright.
+    // As they were loaded.
     bool PixelsAreUpright() const {
         const auto told = exif_.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
         return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
-               told->toLong() == request_.orientation || IsRaw();
+               told->toLong() == request_.orientation || ComesUpright(Format());
     }
-    bool IsRaw() const { return LibraryReader(PictureFile(file_)).Format() == InputFormat::Raw; }
+    InputFormat Format() const { return LibraryReader(PictureFile(file_)).Format(); }
 
     ExifWishes Wishes(bool upright) const {
         constexpr double metresPerInch = 0.0254;
@@ -229,6 +247,7 @@ class Reading {
 void Prepare() {
     Exiv2::LogMsg::setLevel(Exiv2::LogMsg::warn);
     Exiv2::LogMsg::setHandler(&Listen);
+    Exiv2::enableBMFF(true);  // JPEG XL and CR3
     RegisterSettingsNamespace();
     Exiv2::ExifData camera;  // looks for the user's own lens names
     camera["Exif.Image.Make"] = "Canon";

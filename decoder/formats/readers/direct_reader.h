@@ -10,7 +10,7 @@
 
 #include "decoder/formats/picture_file.h"
 #include "decoder/formats/readers/stated_size.h"
-#include "remap/image/bitmap_metadata.h"
+#include "remap/image/bitmap.h"
 #include "remap/image/exif_orientation.h"
 
 namespace varnel {
@@ -24,6 +24,11 @@ class DirectReader {
     virtual PixelFormat Format() const = 0;
     // Whether the image library cannot read such a photo at all.
     virtual bool IsOnlyWay() const = 0;
+    // What of the picture's turn the reader undoes, as EXIF counts.
+    virtual int Orientation() const { return 1; }
+    // A small picture that the file has beside, in 24 bits and without metadata; or none. Throws
+    // std::bad_alloc.
+    virtual BitmapHandle Small() { return nullptr; }
     // Fills the rows, which are of that size and format, and returns resolution, colour profile and
     // comments. What is missing or wrong gives a message as of the image library, and stays black.
     // Nothing when no picture came. Throws std::bad_alloc.

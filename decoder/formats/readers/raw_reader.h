@@ -20,8 +20,6 @@ struct CameraPreview {
 // Pictures come upright.
 class RawReader : public DirectReader {
   public:
-    // That it undoes, as EXIF counts.
-    virtual int Orientation() const = 0;
     // The largest one, the way up that the sensor has.
     virtual CameraPreview Preview() = 0;
 };

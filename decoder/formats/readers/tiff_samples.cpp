@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstring>
 
+#include "decoder/formats/readers/part_of_range.h"
 #include "decoder/formats/readers/sane_sample.h"
 
 namespace varnel {
@@ -47,12 +48,6 @@ class BitReader {
     int held_ = 0;
     std::uint64_t reservoir_ = 0;
 };
-
-// The same part of 16 bits, rounded.
-std::uint16_t ToWord(std::uint32_t sample, int bits) {
-    const std::uint64_t most = (std::uint64_t{1} << bits) - 1;
-    return static_cast<std::uint16_t>((std::uint64_t{sample} * 65535 + most / 2) / most);
-}
 
 // libtiff has put samples of whole bytes in the machine's order.
 template <class Sample>

@@ -211,8 +211,8 @@ QByteArray ColourProfile() {
 const std::vector<SeedFile>& SeedFiles() {
     static const std::vector<SeedFile> all = [] {
         std::vector<SeedFile> seeds;
-        for (const auto& part :
-             {LibrarySeeds(), BmpSeeds(), PngSeeds(), OldTypeSeeds(), TiffSeeds(), RawSeeds()}) {
+        for (const auto& part : {LibrarySeeds(), BmpSeeds(), PngSeeds(), OldTypeSeeds(),
+                                 TiffSeeds(), RawSeeds(), ModernSeeds()}) {
             seeds.insert(seeds.end(), part.begin(), part.end());
         }
         return seeds;

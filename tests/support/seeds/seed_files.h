@@ -39,6 +39,7 @@ std::vector<SeedFile> PngSeeds();
 std::vector<SeedFile> OldTypeSeeds();  // GIF and what programs of the 1980s and 1990s left
 std::vector<SeedFile> TiffSeeds();
 std::vector<SeedFile> RawSeeds();
+std::vector<SeedFile> ModernSeeds();  // HEIC, AVIF and JPEG XL
 
 // A Windows or OS/2 bitmap. Its colours have 7 as red; blue is the column; green is the row from
 // the bottom where a pixel has 24 or 32 bits, else twice the column (of few colours, modulo their

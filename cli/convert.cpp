@@ -80,7 +80,8 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
         case Command::Help:
             return Show(console, HelpText());
         case Command::Version:
-            return Show(console, QStringLiteral("varnel-convert " VARNEL_VERSION "\n"));
+            return Show(console,
+                        QStringLiteral("varnel-convert " VARNEL_VERSION "\n" VARNEL_ALSO_READS));
         case Command::MeasureLens:
             return RunMeasureLens(options, store, console);
         case Command::ListCameras:

@@ -17,9 +17,10 @@
 
 namespace varnel {
 
-// The endings that the dialog lists, then the others of the same types.
+// The endings that the dialog lists, then the others of the same types and of cameras and phones.
 inline constexpr QStringView photoPatterns =
-    u"*.jpg;*.tif;*.png;*.bmp;*.dng;*.jpeg;*.jpe;*.jif;*.jfif;*.tiff;*.dib";
+    u"*.jpg;*.tif;*.png;*.bmp;*.dng;*.jpeg;*.jpe;*.jif;*.jfif;*.tiff;*.dib;*.cr2;*.cr3;*.nef;*.arw;"
+    u"*.orf;*.rw2;*.raf;*.pef;*.heic;*.heif;*.avif;*.jxl";
 inline constexpr QStringView anyPattern = u"*.*";  // every file, with a dot in its name or without
 
 // The names of the folder's files that match one of the patterns, sorted; case never counts. Hidden

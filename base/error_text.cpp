@@ -107,6 +107,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no metadata, settings or colour profile")},
     {ReasonCode::TypeHoldsNoTransparency,
      QT_TRANSLATE_NOOP("Reasons", "%1 files cannot be transparent; what would be is black")},
+    {ReasonCode::TypeHoldsFewerBits,
+     QT_TRANSLATE_NOOP("Reasons", "saved with %1 bits: %2 holds no more")},
     {ReasonCode::CentreReduced,
      QT_TRANSLATE_NOOP("Reasons",
                        "the centre cannot keep the photo's resolution (%3): %1 x %2 pixels")},

@@ -69,6 +69,7 @@ enum class ReasonCode : std::uint16_t {
     TypeHoldsNoSettingsOrProfile,
     TypeHoldsPixelsOnly,
     TypeHoldsNoTransparency,
+    TypeHoldsFewerBits,
     CentreReduced,
     NoCleanCrop,
     CropBeyondFrame,

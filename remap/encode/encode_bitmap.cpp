@@ -7,6 +7,7 @@
 
 #include "remap/encode/metadata_writer.h"
 #include "remap/encode/output_format.h"
+#include "remap/encode/sample_depth.h"
 
 namespace varnel {
 
@@ -34,7 +35,8 @@ EncodedBitmap Encoded(const OutputEncoding& encoding, const Bitmap& bitmap,
     }
 }
 
-// Black where the bitmap is transparent.
+// Black where the bitmap, of 8 bits a sample, is transparent: types that cannot be transparent have
+// no more.
 BitmapHandle Opaque(const Bitmap& bitmap) {
     BitmapHandle opaque = NewBitmap(bitmap.Size());
     opaque->metadata = bitmap.metadata;
@@ -50,16 +52,66 @@ BitmapHandle Opaque(const Bitmap& bitmap) {
     return opaque;
 }
 
+EncodedBitmap EncodedAsItIs(const OutputEncoding& encoding, const Bitmap& bitmap,
+                            const EncodeOptions& options);
+
 EncodedBitmap EncodedOpaque(const OutputEncoding& encoding, const Bitmap& bitmap,
                             const EncodeOptions& options) {
     try {
         const BitmapHandle opaque = Opaque(bitmap);
-        EncodedBitmap file = EncodeBitmap(encoding, opaque.get(), options);
+        EncodedBitmap file = EncodedAsItIs(encoding, *opaque, options);
         if (file.reason.isEmpty()) {
             const Reason lost(ReasonCode::TypeHoldsNoTransparency, ToText(encoding.type));
             file.note = Joined({lost, file.note});
         }
         return file;
+    } catch (const std::bad_alloc&) {
+        return {{}, ReasonCode::NotEnoughMemory};
+    }
+}
+
+EncodedBitmap EncodedAsItIs(const OutputEncoding& encoding, const Bitmap& bitmap,
+                            const EncodeOptions& options) {
+    if (HasAlpha(bitmap.Format()) && !FormatOf(encoding.type).holds.alpha) {
+        return EncodedOpaque(encoding, bitmap, options);
+    }
+    EncodedBitmap whole = Encoded(encoding, bitmap, options);
+    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory)) {
+        return whole;
+    }
+    const struct {
+        bool metadata;
+        ReasonCode note;
+    } attempts[] = {{true, ReasonCode::WithoutProfile}, {false, ReasonCode::WithoutMetadata}};
+    for (const auto& attempt : attempts) {
+        Bitmap less = WithoutMetadata(bitmap);
+        if (attempt.metadata) {
+            less.metadata = bitmap.metadata;
+            less.metadata.colourProfile.clear();
+        }
+        EncodedBitmap encoded = Encoded(encoding, less, options);
+        if (encoded.reason.isEmpty()) {
+            encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
+            return encoded;
+        }
+    }
+    return whole;
+}
+
+// Why the file has fewer bits than the picture was wanted with.
+Reason ReducedBits(OutputType type, SampleKind wanted, SampleKind samples) {
+    return wanted == samples ? Reason()
+                             : Reason(ReasonCode::TypeHoldsFewerBits,
+                                      qint64{BitsPerSample(samples)}, ToText(type));
+}
+
+EncodedBitmap EncodedIn(SampleKind samples, const OutputEncoding& encoding, const Bitmap& bitmap,
+                        const EncodeOptions& options) {
+    try {
+        SerialRunner serial;
+        const BitmapHandle other =
+            InSamples(bitmap, samples, options.runner != nullptr ? *options.runner : serial);
+        return EncodedAsItIs(encoding, *other, options);
     } catch (const std::bad_alloc&) {
         return {{}, ReasonCode::NotEnoughMemory};
     }
@@ -72,30 +124,16 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     if (bitmap == nullptr) {
         return {{}, ReasonCode::NoPicture};
     }
-    if (HasAlpha(bitmap->Format()) && !FormatOf(encoding.type).holds.alpha) {
-        return EncodedOpaque(encoding, *bitmap, options);
+    const SampleKind own = SampleKindOf(bitmap->Format());
+    const SampleKind wanted = SamplesFor(encoding.depth, own);
+    const SampleKind samples = SamplesWithin(FormatOf(encoding.type).holds.bitsPerSample, wanted);
+    EncodedBitmap file = samples == own ? EncodedAsItIs(encoding, *bitmap, options)
+                                        : EncodedIn(samples, encoding, *bitmap, options);
+    file.samples = samples;
+    if (file.reason.isEmpty()) {
+        file.note = Joined({ReducedBits(encoding.type, wanted, samples), file.note});
     }
-    EncodedBitmap whole = Encoded(encoding, *bitmap, options);
-    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory)) {
-        return whole;
-    }
-    const struct {
-        bool metadata;
-        ReasonCode note;
-    } attempts[] = {{true, ReasonCode::WithoutProfile}, {false, ReasonCode::WithoutMetadata}};
-    for (const auto& attempt : attempts) {
-        Bitmap less = WithoutMetadata(*bitmap);
-        if (attempt.metadata) {
-            less.metadata = bitmap->metadata;
-            less.metadata.colourProfile.clear();
-        }
-        EncodedBitmap encoded = Encoded(encoding, less, options);
-        if (encoded.reason.isEmpty()) {
-            encoded.note = Joined({{attempt.note, whole.reason}, encoded.note});
-            return encoded;
-        }
-    }
-    return whole;
+    return file;
 }
 
 }  // namespace varnel

@@ -10,6 +10,7 @@
 
 namespace varnel {
 
+// The picture has the samples that the encoding's depth says, as far as the type holds them.
 // Metadata or a colour profile that the type's encoder refuses do not cost the picture: it is
 // encoded without. Throws what the runner throws.
 EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,

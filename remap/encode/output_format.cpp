@@ -44,7 +44,7 @@ constexpr std::array rows{
                  u"Tiff",
                  u".TIF",
                  u".TIFF",
-                 {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
+                 {.bitsPerSample = 32, .alpha = true, .metadata = true, .profile = true},
                  false,
                  &BytesPerPixel<230>,
                  &EncodeTiff},

@@ -13,7 +13,7 @@ namespace varnel {
 
 // What files of a type can hold besides the pixels of a photo.
 struct OutputAbilities {
-    int bitsPerSample = 8;  // at most
+    int bitsPerSample = 8;  // at most; 32 are floating point
     bool alpha = false;
     bool metadata = false;  // the photo's, and the settings that made the picture
     bool profile = false;   // ICC

@@ -10,6 +10,8 @@
 #include <optional>
 #include <span>
 
+#include "remap/encode/output_depth.h"
+
 namespace varnel {
 
 // The place of a type's row in the table. Those that code and tests name; the table may have more.
@@ -23,6 +25,8 @@ struct OutputEncoding {
     OutputType type = OutputType::Tiff;
     int quality = usualQuality;  // 1 to 100
     bool chroma444 = false;      // colour at full resolution
+    OutputDepth depth = OutputDepth::Own;
+    TiffCompression compression = TiffCompression::Usual;  // of TIFF files
 
     static constexpr int usualQuality = 75;
 

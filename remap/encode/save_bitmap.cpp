@@ -20,7 +20,7 @@ SaveResult Written(const EncodedBitmap& encoded, const Write& write) {
     }
     try {
         const WriteResult written = write(encoded.bytes);
-        return {written.ok, written.reason, written ? encoded.note : Reason()};
+        return {written.ok, written.reason, written ? encoded.note : Reason(), encoded.samples};
     } catch (const std::bad_alloc&) {
         return {false, ReasonCode::NotEnoughMemory};
     }

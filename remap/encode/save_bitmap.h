@@ -21,6 +21,7 @@ struct SaveResult {
     bool ok = false;
     Reason reason;
     Reason note = {};  // what of the picture is not in the file, and why; empty when all is
+    SampleKind samples = SampleKind::Byte;  // of the file
     explicit operator bool() const { return ok; }
 };
 

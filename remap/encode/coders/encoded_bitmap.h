@@ -33,6 +33,7 @@ struct EncodedBitmap {
     QByteArray bytes;
     Reason reason;
     Reason note = {};  // what the file is without, and why; empty when it has everything
+    SampleKind samples = SampleKind::Byte;  // in the file
 };
 
 // A coder: the file of a picture with the settings that the type takes.

@@ -83,7 +83,7 @@ std::vector<std::uint8_t> BandCoder::Filtered(std::int32_t top, std::int32_t row
     std::vector<std::uint8_t> filtered;
     filtered.reserve(static_cast<std::size_t>(end - top) * (1 + rowBytes_));
     PngFilter filter(rowBytes_, top > 0 ? row(top - 1) : std::span<const std::uint8_t>(),
-                     BytesPerPixel(bitmap_->Format()));
+                     bitmap_->Format());
     for (std::int32_t y = top; y < end; ++y) {
         const auto bytes = filter.Next(row(y));
         filtered.insert(filtered.end(), bytes.begin(), bytes.end());

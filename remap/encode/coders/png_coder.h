@@ -10,10 +10,10 @@
 
 namespace varnel {
 
-// With resolution, comments, colour profile and metadata; a bitmap of 24 bits, or of
-// 32 with alpha. What stands in front
-// of the pixels is libpng's; the pixels are filtered and compressed here, because libpng does that
-// on one core. The same bytes whatever the runner. Throws std::bad_alloc.
+// With resolution, comments, colour profile and metadata; a bitmap of 8 or
+// 16 bits a sample. What stands in front of the pixels is libpng's; the pixels are filtered and
+// compressed here, because libpng does that on one core. The same bytes whatever the runner. Throws
+// std::bad_alloc.
 EncodedBitmap EncodePng(const Bitmap* bitmap, const OutputEncoding& encoding,
                         const EncodeOptions& options);
 

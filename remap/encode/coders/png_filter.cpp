@@ -5,10 +5,13 @@
 
 #include "remap/encode/coders/png_filter.h"
 
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <limits>
+
+#include "remap/image/pixel_access.h"
 
 namespace varnel {
 
@@ -66,26 +69,40 @@ constexpr std::array filters{&Filter<Nothing, pixelBytes>, &Filter<Left, pixelBy
                              &Filter<Above, pixelBytes>, &Filter<Average, pixelBytes>,
                              &Filter<Paeth, pixelBytes>};
 
-// With red in front.
-template <std::size_t pixelBytes>
+// With red and high bytes in front.
+template <class Sample, std::size_t samples>
 void TakeRed(std::span<const std::uint8_t> row, std::uint8_t* to) {
-    for (std::size_t i = 0; i < row.size(); i += pixelBytes) {
-        to[i] = row[i + 2];
-        to[i + 1] = row[i + 1];
-        to[i + 2] = row[i];
-        if constexpr (pixelBytes == 4) {
-            to[i + 3] = row[i + 3];
+    constexpr std::size_t step = samples * sizeof(Sample);
+    const std::uint8_t* from = row.data();
+    for (std::size_t i = 0; i < row.size(); i += step, from += step, to += step) {
+        for (std::size_t n = 0; n < samples; ++n) {
+            PutSample(to, n, qToBigEndian(SampleAt<Sample>(from, n < 3 ? 2 - n : n)));
         }
+    }
+}
+
+// By the bytes of a pixel.
+using FilterFunction = decltype(&Filter<Nothing, 3>);
+std::span<const FilterFunction> FiltersFor(std::size_t pixelBytes) {
+    switch (pixelBytes) {
+        case 4:
+            return filters<4>;
+        case 6:
+            return filters<6>;
+        case 8:
+            return filters<8>;
+        default:
+            return filters<3>;
     }
 }
 
 }  // namespace
 
-PngFilter::PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above,
-                     std::size_t pixelBytes)
-    : pixelBytes_(pixelBytes),
-      row_(pixelBytes + rowBytes),
-      above_(pixelBytes + rowBytes),
+PngFilter::PngFilter(std::size_t rowBytes, std::span<const std::uint8_t> above, PixelFormat format)
+    : format_(format),
+      pixelBytes_(BytesPerPixel(format)),
+      row_(pixelBytes_ + rowBytes),
+      above_(pixelBytes_ + rowBytes),
       candidate_(1 + rowBytes),
       best_(1 + rowBytes) {
     if (!above.empty()) {
@@ -98,7 +115,7 @@ std::span<const std::uint8_t> PngFilter::Next(std::span<const std::uint8_t> row)
     Take(row);
     std::uint32_t smallest = std::numeric_limits<std::uint32_t>::max();
     std::uint8_t number = 0;
-    for (const auto filter : pixelBytes_ == 4 ? filters<4> : filters<3>) {
+    for (const FilterFunction filter : FiltersFor(pixelBytes_)) {
         candidate_[0] = number++;
         const std::uint32_t sum = filter(row_.data() + pixelBytes_, above_.data() + pixelBytes_,
                                          row.size(), candidate_.data() + 1);
@@ -112,10 +129,15 @@ std::span<const std::uint8_t> PngFilter::Next(std::span<const std::uint8_t> row)
 
 void PngFilter::Take(std::span<const std::uint8_t> row) {
     std::uint8_t* const to = row_.data() + pixelBytes_;
-    if (pixelBytes_ == 4) {
-        TakeRed<4>(row, to);
-    } else {
-        TakeRed<3>(row, to);
+    switch (format_) {
+        case PixelFormat::Bgra8:
+            return TakeRed<std::uint8_t, 4>(row, to);
+        case PixelFormat::Bgr16:
+            return TakeRed<std::uint16_t, 3>(row, to);
+        case PixelFormat::Bgra16:
+            return TakeRed<std::uint16_t, 4>(row, to);
+        default:
+            return TakeRed<std::uint8_t, 3>(row, to);
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// TIFF files coded on all cores: LZW over the differences of neighbouring pixels, in strips.
+// TIFF files coded on all cores, in strips of differences of neighbouring pixels.
 #pragma once
 
 #include "remap/encode/coders/encoded_bitmap.h"
@@ -10,8 +10,8 @@
 
 namespace varnel {
 
-// With resolution, colour profile and metadata; a bitmap of 24 bits, or of
-// 32 with alpha. The directory is libtiff's.
+// With resolution, colour profile and metadata; bitmaps of all formats, coded as the encoding's
+// compression says. The directory is libtiff's.
 // Equal bytes whatever the runner. Throws std::bad_alloc.
 EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options);

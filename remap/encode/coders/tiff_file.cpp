@@ -91,6 +91,25 @@ QByteArray DirectoryOf(const Entries& entries, bool bigEndian) {
     return bytes;
 }
 
+std::uint32_t CompressionTag(TiffCompression compression) {
+    switch (compression) {
+        case TiffCompression::Deflate:
+            return COMPRESSION_ADOBE_DEFLATE;
+        case TiffCompression::Zstd:
+            return COMPRESSION_ZSTD;
+        case TiffCompression::None:
+            return COMPRESSION_NONE;
+        case TiffCompression::Usual:
+        case TiffCompression::Lzw:
+            break;
+    }
+    return COMPRESSION_LZW;
+}
+
+std::uint32_t SampleFormatTag(PixelFormat format) {
+    return SampleKindOf(format) == SampleKind::Float ? SAMPLEFORMAT_IEEEFP : SAMPLEFORMAT_UINT;
+}
+
 double DotsPerInch(std::uint32_t dotsPerMetre) {
     constexpr double metresPerInch = 0.0254;
     return std::floor(0.5 + metresPerInch * dotsPerMetre);
@@ -112,7 +131,7 @@ TiffFile::TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 larg
                                &Length, nullptr, nullptr));
 }
 
-bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
+bool TiffFile::Describe(const Bitmap& bitmap, const TiffLayout& layout) {
     TIFF* const tiff = tiff_.get();
     if (tiff == nullptr) {
         return false;
@@ -125,20 +144,20 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
         {TIFFTAG_IMAGEWIDTH, static_cast<std::uint32_t>(bitmap.Size().width)},
         {TIFFTAG_IMAGELENGTH, static_cast<std::uint32_t>(bitmap.Size().height)},
         {TIFFTAG_BITSPERSAMPLE, static_cast<std::uint32_t>(BitsPerSample(bitmap.Format()))},
-        {TIFFTAG_COMPRESSION, COMPRESSION_LZW},
+        {TIFFTAG_COMPRESSION, CompressionTag(layout.compression)},
         {TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB},
         {TIFFTAG_FILLORDER, FILLORDER_MSB2LSB},
         {TIFFTAG_ORIENTATION, ORIENTATION_TOPLEFT},
-        {TIFFTAG_SAMPLESPERPIXEL, static_cast<std::uint32_t>(BytesPerPixel(bitmap.Format()))},
-        {TIFFTAG_ROWSPERSTRIP, rowsPerStrip},
+        {TIFFTAG_SAMPLESPERPIXEL, HasAlpha(bitmap.Format()) ? 4U : 3U},
+        {TIFFTAG_ROWSPERSTRIP, layout.rowsPerStrip},
         {TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG},
         {TIFFTAG_RESOLUTIONUNIT, RESUNIT_INCH},
-        {TIFFTAG_PREDICTOR, PREDICTOR_HORIZONTAL},
-        {TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_UINT}};
+        {TIFFTAG_SAMPLEFORMAT, SampleFormatTag(bitmap.Format())}};
     const auto set = [tiff](const auto& row) {
         return TIFFSetField(tiff, row.tag, row.number) == 1;
     };
-    return std::ranges::all_of(numbers, set) && SetAlpha(HasAlpha(bitmap.Format())) &&
+    return std::ranges::all_of(numbers, set) && SetPredictor(layout) &&
+           SetAlpha(HasAlpha(bitmap.Format())) &&
            TIFFSetField(tiff, TIFFTAG_XRESOLUTION, DotsPerInch(bitmap.metadata.dotsPerMetreX)) ==
                1 &&
            TIFFSetField(tiff, TIFFTAG_YRESOLUTION, DotsPerInch(bitmap.metadata.dotsPerMetreY)) ==
@@ -154,6 +173,13 @@ bool TiffFile::Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip) {
 QByteArray TiffFile::PhotoshopBlock() const {
     const bool isBigEndian = metadata_.exif.startsWith('M');
     return isBigEndian && !metadata_.iptc.isEmpty() ? IptcResource(metadata_.iptc) : QByteArray();
+}
+
+// Files that are not compressed have no such tag.
+bool TiffFile::SetPredictor(const TiffLayout& layout) {
+    return layout.compression == TiffCompression::None ||
+           TIFFSetField(tiff_.get(), TIFFTAG_PREDICTOR,
+                        static_cast<std::uint32_t>(layout.predictor)) == 1;
 }
 
 // Not multiplied into the colours.

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A TIFF file as libtiff writes it, in memory. Its strips come coded: libtiff's own LZW works on
-// one core, and so does everything that goes through its scan lines.
+// A TIFF file as libtiff writes it, in memory. Its strips come coded: libtiff's own coding works
+// on one core, and so does everything that goes through its scan lines.
 #pragma once
 
 #include <tiffio.h>
@@ -12,23 +12,32 @@
 #include <span>
 
 #include "remap/encode/coders/memory_file.h"
+#include "remap/encode/coders/tiff_rows.h"
 #include "remap/encode/metadata_writer.h"
+#include "remap/encode/output_depth.h"
 #include "remap/image/bitmap.h"
 
 namespace varnel {
+
+// How the pixels lie in a file.
+struct TiffLayout {
+    TiffCompression compression = TiffCompression::Lzw;  // not Usual
+    TiffPredictor predictor = TiffPredictor::Differences;
+    std::uint32_t rowsPerStrip = 1;
+};
 
 class TiffFile {
   public:
     using Entries = std::map<std::uint16_t, QByteArray>;  // of a directory, by tag
 
-    // For a bitmap in strips of LZW over differences. The file begins with the EXIF
-    // block, so that places in it hold. expected is the likely number of bytes of the pixels.
+    // For a bitmap in strips. The file begins with the EXIF block, so that places in it hold, and
+    // has its order of bytes. expected is the likely number of bytes of the pixels.
     // Throws std::bad_alloc.
     TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest);
 
     // What the file has beside its strips. To be called first; false as of all others when it
     // failed.
-    bool Describe(const Bitmap& bitmap, std::uint32_t rowsPerStrip);
+    bool Describe(const Bitmap& bitmap, const TiffLayout& layout);
     // The next strip.
     bool Append(std::span<const std::uint8_t> strip);
     // Writes the directory. Throws std::bad_alloc.
@@ -38,6 +47,7 @@ class TiffFile {
     QByteArray& Bytes() { return file_.Bytes(); }
 
   private:
+    bool SetPredictor(const TiffLayout& layout);
     bool SetAlpha(bool isThere);
     bool SetBlock(std::uint32_t tag, const QByteArray& block);
     QByteArray PhotoshopBlock() const;

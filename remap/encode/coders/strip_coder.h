@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How the strips of a TIFF file are compressed. Constructors throw std::bad_alloc, the rest
+// nothing.
+#pragma once
+
+#include <memory>
+
+#include "remap/encode/coders/lzw_coder.h"
+#include "remap/encode/output_depth.h"
+
+namespace varnel {
+
+// Made for a thread, and used for many strips.
+class StripCoder {
+  public:
+    virtual ~StripCoder() = default;
+    // Of the codes of so many bytes at most, in bytes.
+    virtual std::size_t Room(std::size_t bytes) const = 0;
+    // Two strips at once, with room for their codes; one without bytes gets none. One that could
+    // not be coded has no codes either.
+    virtual void Encode(LzwStrip& first, LzwStrip& second) = 0;
+};
+
+// compression: not Usual.
+std::unique_ptr<StripCoder> NewStripCoder(TiffCompression compression);
+
+}  // namespace varnel

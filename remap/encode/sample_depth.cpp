@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/sample_depth.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "remap/image/pixel_access.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr int rowsPerBlock = 32;
+
+// IEC 61966-2-1, both from 0 to 1.
+float Linear(float coded) {
+    return coded <= 0.04045F ? coded / 12.92F : std::pow((coded + 0.055F) / 1.055F, 2.4F);
+}
+float Coded(float linear) {
+    return linear <= 0.0031308F ? linear * 12.92F : 1.055F * std::pow(linear, 1.0F / 2.4F) - 0.055F;
+}
+
+// No number becomes 0.
+float WithinRange(float sample) {
+    return sample > 0.0F ? std::min(sample, 1.0F) : 0.0F;
+}
+
+template <class Whole>
+constexpr float largest = static_cast<float>(std::numeric_limits<Whole>::max());
+
+template <class Whole>
+Whole Rounded(float sample) {
+    return static_cast<Whole>(sample * largest<Whole> + 0.5F);
+}
+
+// A sample of one kind as one of another.
+class Conversion {
+  public:
+    // linear: floating-point samples are linear light.
+    Conversion(SampleKind from, SampleKind to, bool linear) : linear_(linear) {
+        if (linear && to == SampleKind::Float && from != to) {
+            table_.resize(std::size_t{1} << BitsPerSample(from));
+            const auto top = static_cast<float>(table_.size() - 1);
+            for (std::size_t n = 0; n < table_.size(); ++n) {
+                table_[n] = Linear(static_cast<float>(n) / top);
+            }
+        }
+    }
+
+    // Alpha has no curve.
+    template <class From, class To>
+    To Of(From sample, bool isAlpha) const {
+        if constexpr (std::is_same_v<From, To>) {
+            return sample;
+        } else if constexpr (std::is_same_v<From, float>) {
+            const float within = WithinRange(sample);
+            return Rounded<To>(linear_ && !isAlpha ? Coded(within) : within);
+        } else if constexpr (std::is_same_v<To, float>) {
+            return linear_ && !isAlpha ? table_[sample]
+                                       : static_cast<float>(sample) / largest<From>;
+        } else if constexpr (std::is_same_v<To, std::uint8_t>) {
+            return ByteOf(sample);
+        } else {
+            return FromByte<To>(sample);
+        }
+    }
+
+  private:
+    const bool linear_;
+    std::vector<float> table_;  // of all samples there are
+};
+
+template <class From, class To>
+void ConvertRow(const Conversion& conversion, const Bitmap& from, Bitmap& to, int y) {
+    const std::size_t samples = HasAlpha(from.Format()) ? 4 : 3;
+    const std::uint8_t* in = from.ScanLine(y).data();
+    std::uint8_t* out = to.ScanLine(y).data();
+    for (std::int32_t x = 0; x < from.Size().width; ++x) {
+        for (std::size_t n = 0; n < samples; ++n) {
+            PutSample(out, n, conversion.Of<From, To>(SampleAt<From>(in, n), n == 3));
+        }
+        in += samples * sizeof(From);
+        out += samples * sizeof(To);
+    }
+}
+
+}  // namespace
+
+BitmapHandle InSamples(const Bitmap& bitmap, SampleKind samples, BlockRunner& runner) {
+    const PixelSize size = bitmap.Size();
+    const SampleKind own = SampleKindOf(bitmap.Format());
+    BitmapHandle copy = NewBitmap(size, PixelFormatOf(samples, HasAlpha(bitmap.Format())));
+    copy->metadata = bitmap.metadata;
+    const Conversion conversion(own, samples, bitmap.metadata.colourProfile.isEmpty());
+    runner.Run((size.height + rowsPerBlock - 1) / rowsPerBlock, [&](int block) {
+        const int first = block * rowsPerBlock;
+        for (int y = first; y < std::min(first + rowsPerBlock, size.height); ++y) {
+            WithSample(own, [&](auto from) {
+                WithSample(samples, [&](auto to) {
+                    ConvertRow<decltype(from), decltype(to)>(conversion, bitmap, *copy, y);
+                });
+            });
+        }
+    });
+    return copy;
+}
+
+}  // namespace varnel

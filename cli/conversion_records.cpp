@@ -14,6 +14,7 @@
 #include "gear/from_photo/gear_offer.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "pipeline/output/output_name.h"
+#include "pipeline/output/save_wish.h"
 #include "remap/analysis/photo_circle.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"
@@ -245,6 +246,21 @@ OutputType TypeFor(const ConvertRequest& request) {
                               .value_or(OutputTypeFromText(request.settings.FileType));
 }
 
+bool KeepsDepth(const Options& options, const GeneralSettings& settings) {
+    return options.depth ? *options.depth != OutputDepth::Eight : settings.KeepDepth;
+}
+
+OutputEncoding EncodingFor(const ConvertRequest& request) {
+    const Options& options = request.options;
+    OutputEncoding encoding = EncodingOf(request.settings);
+    encoding.type = TypeFor(request);
+    encoding.quality = options.quality.value_or(encoding.quality);
+    encoding.chroma444 = options.chroma444.value_or(encoding.chroma444);
+    encoding.depth = options.depth.value_or(encoding.depth);
+    encoding.compression = options.compression.value_or(encoding.compression);
+    return encoding;
+}
+
 QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record,
                   const NameFacts& facts) {
     const Options& options = request.options;
@@ -252,7 +268,8 @@ QString TargetFor(const ConvertRequest& request, const QString& path, const Imag
         return options.output;
     }
     const OutputType type = TypeFor(request);
-    const PhotoEnding ending = options.keepEnding ? PhotoEnding::Kept : PhotoEnding::Cut;
+    const bool keepsEnding = options.keepEnding || options.paired.contains(path);
+    const PhotoEnding ending = keepsEnding ? PhotoEnding::Kept : PhotoEnding::Cut;
     const bool named = !options.namePattern.isEmpty();
     const NameRules rules{named ? options.namePattern : QString(usualPattern), {}, ending};
     if (!options.outputDir.isEmpty()) {

@@ -58,6 +58,11 @@ qsizetype RecordsOfEach(const Options& options);
 // The type of all results. Throws nothing.
 OutputType TypeFor(const ConvertRequest& request);
 
+// How all results are written. Throws nothing.
+OutputEncoding EncodingFor(const ConvertRequest& request);
+// Whether photos are read with all the bits that they have. Throws nothing.
+bool KeepsDepth(const Options& options, const GeneralSettings& settings);
+
 // Where a conversion goes; the path is the photo's. Throws RunTimeError when a number of the record
 // cannot stand in a name.
 QString TargetFor(const ConvertRequest& request, const QString& path, const ImageRecord& record,

@@ -11,6 +11,7 @@
 #include "cli/lists.h"
 #include "cli/measure_command.h"
 #include "cli/options/help_text.h"
+#include "cli/options/take_raw_pairs.h"
 #include "cli/own_lenses.h"
 #include "cli/stitch_photos.h"
 #include "cli/take_preset.h"
@@ -61,6 +62,9 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
         return Refuse(console, error);
     }
     GuessForStitching(options);
+    if (const QString note = TakeRawPairs(options); !note.isEmpty()) {
+        Complain(console, note);
+    }
     const auto gears = options.likeRecord && !NamesGear(options) ? GearChoice{GearRecord(), {}}
                                                                  : ChooseGear(options, store);
     if (const auto* error = std::get_if<QString>(&gears)) {

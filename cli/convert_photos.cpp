@@ -50,8 +50,8 @@ class CommandRun : public ConversionObserver {
           reports_(options, console),
           wait_(reports_.Bar(), console),
           reader_(NewPictureReader()),
-          feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_, settings_.AutoOrient,
-                &runner_),
+          feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_,
+                ReadChoicesOf(settings_), &runner_),
           targets_(options.files, RulesOf(options)) {}
 
     // Returns the exit code.
@@ -80,6 +80,7 @@ class CommandRun : public ConversionObserver {
 
     static GeneralSettings With(const Options& options, GeneralSettings settings) {
         settings.AutoOrient = settings.AutoOrient && !options.noAutoOrient;
+        settings.KeepDepth = KeepsDepth(options, settings);
         return settings;
     }
 
@@ -95,9 +96,7 @@ class CommandRun : public ConversionObserver {
                             {ResultNumber(numbers_[conversion.photo], conversion.index), Results(),
                              days_.value(conversion.photo)});
                     },
-                .output = {{TypeFor(request_), options.quality.value_or(settings_.JPEGcompression),
-                            options.chroma444.value_or(settings_.JPEGchroma444)},
-                           settings_.WriteMetadata && !options.noMetadata,
+                .output = {EncodingFor(request_), settings_.WriteMetadata && !options.noMetadata,
                            settings_.WriteSettings && !options.noSettings},
                 .preview = options.preview,
                 .smoothPreview = options.antialiased,
@@ -222,6 +221,7 @@ class CommandRun : public ConversionObserver {
         report.reason = ErrorText(conversion.damage);
         report.size = outcome.size;
         report.bytes = QFileInfo(report.result).size();
+        report.depth = DepthText(outcome.samples);
         report.seconds = outcome.seconds;
         if (!outcome.note.isEmpty()) {
             report.notes.append(ErrorText(outcome.note));

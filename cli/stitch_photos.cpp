@@ -213,16 +213,15 @@ class StitchRun {
         }
         result->metadata.settings.clear();  // no record makes this picture from one photo
         const ConvertRequest request{options_, gears_, settings_};
-        const OutputEncoding encoding{TypeFor(request),
-                                      options_.quality.value_or(settings_.JPEGcompression),
-                                      options_.chroma444.value_or(settings_.JPEGchroma444)};
-        const SaveResult saved = SaveBitmap(encoding, result.get(), report_.result, &runner_);
+        const SaveResult saved =
+            SaveBitmap(EncodingFor(request), result.get(), report_.result, &runner_);
         report_.seconds = static_cast<double>(time_.elapsed()) / 1000.0;
         if (!saved) {
             return Fail(ErrorText(saved.reason));
         }
         report_.size = result->Size();
         report_.bytes = QFileInfo(report_.result).size();
+        report_.depth = DepthText(saved.samples);
         reports_.Note(report_.result, saved.note);
         reports_.Written(report_);
     }

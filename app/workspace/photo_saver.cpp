@@ -46,8 +46,8 @@ SaveResult PhotoSaver::RenderAndSave(const ImageRecord& image, const SaveChoice&
         shown.Projection = static_cast<std::int16_t>(model_.controls.ChosenProjection());
         NoteSettings(result, shown, model_.state.settings.WriteSettings,
                      model_.state.settings.WriteMetadata ? choice.name : QString());
-        const OutputEncoding encoding(TypeOf(choice), model_.state.settings.JPEGcompression,
-                                      model_.state.settings.JPEGchroma444);
+        OutputEncoding encoding = EncodingOf(model_.state.settings);
+        encoding.type = TypeOf(choice);
         return SaveMeanwhile({encoding, choice.name}, result, model_.state.pool,
                              ports_.view.Progress(), cancelled);
     } catch (const SavingCancelled&) {
@@ -81,8 +81,12 @@ SaveChoice PhotoSaver::Proposal(const ImageRecord& image) const {
     const NameFacts facts{
         1, 1, PhotoDate(model_.state.bitmaps.FullSourceBitmap->metadata.photo, SourcePath(image))};
     const PixelSize size = ResultSizeOf(shown, {image.Width, image.Height});
-    SaveOffer offer{WishOf(settings), static_cast<double>(size.width) * size.height, savePattern,
-                    QFileInfo(SourcePath(image)).path(), [shown, facts](const QString& pattern) {
+    SaveOffer offer{WishOf(settings),
+                    static_cast<double>(size.width) * size.height,
+                    savePattern,
+                    QFileInfo(SourcePath(image)).path(),
+                    SampleKindOf(model_.state.bitmaps.FullSourceBitmap->Format()),
+                    [shown, facts](const QString& pattern) {
                         return NameByPattern(
                             shown, {pattern.isEmpty() ? QString(savePattern) : pattern}, facts);
                     }};

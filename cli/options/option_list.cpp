@@ -15,6 +15,9 @@ constexpr std::array photoRows{
     OptionRow{
         u"stitch", nullptr,
         u"Two opposite circles, in one photo or two, as one sphere; --input-aov: across each."},
+    OptionRow{u"raw-jpeg", u"WHICH",
+              u"Of a photo that is given as raw file and as JPEG: raw, jpeg or both (default; both "
+              u"results keep the ending)."},
     OptionRow{u"no-auto-orient", nullptr,
               u"Take photos as they are stored, whatever their EXIF says."},
 };
@@ -113,6 +116,12 @@ constexpr std::array outputRows{
     OptionRow{u"chroma", u"C",
               u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
               u"setting."},
+    OptionRow{u"depth", u"D",
+              u"auto: as deep as the photo, as far as the type goes; 8, 16 or float; default: the "
+              u"setting."},
+    OptionRow{u"tiff", u"C",
+              u"Compression of TIFF: lzw, deflate, zstd, none or auto: lzw for 8 bits, else "
+              u"deflate."},
     OptionRow{u"preview", u"WxH", u"The preview of that size instead of the full picture."},
     OptionRow{u"antialiased", nullptr, u"Interpolate the preview."},
     OptionRow{u"no-metadata", nullptr, u"Leave the photo's EXIF, IPTC and XMP out."},

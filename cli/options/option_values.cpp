@@ -42,6 +42,18 @@ std::vector<Projection> ProjectionsNamed(const QString& text) {
                                 QStringLiteral("use %1 or all").arg(ProjectionNames()))};
 }
 
+// What the text stands for, if it is one of the words.
+template <class Choice>
+Choice OneOf(const QString& option, const QString& text, const std::optional<Choice>& choice,
+             QStringList words) {
+    if (!choice) {
+        const QString last = words.takeLast();
+        throw UsageError{QStringLiteral("--%1 needs %2 or %3, not \"%4\"")
+                             .arg(option, words.join(QStringLiteral(", ")), last, text)};
+    }
+    return *choice;
+}
+
 QString Joined(const QStringList& names) {
     return names.join(QStringLiteral(", "));
 }
@@ -176,6 +188,19 @@ bool IsChroma444(const QString& text) {
         throw UsageError{QStringLiteral("--chroma needs 444 or 420, not \"%1\"").arg(text)};
     }
     return text == u"444";
+}
+
+OutputDepth DepthOf(const QString& text) {
+    return OneOf(QStringLiteral("depth"), text, OutputDepthFromText(text), OutputDepthTexts());
+}
+
+TiffCompression CompressionOf(const QString& text) {
+    return OneOf(QStringLiteral("tiff"), text, TiffCompressionFromText(text),
+                 TiffCompressionTexts());
+}
+
+RawJpeg RawJpegOf(const QString& text) {
+    return OneOf(QStringLiteral("raw-jpeg"), text, RawJpegFromText(text), RawJpegTexts());
 }
 
 std::pair<QString, QString> FieldOf(const QString& text) {

@@ -34,6 +34,9 @@ float NumberOf(const QString& option, const QString& text);
 int WholeBetween(const QString& option, const QString& text, int least, int most);
 // Whether JPEG keeps colour at full resolution.
 bool IsChroma444(const QString& text);
+OutputDepth DepthOf(const QString& text);
+TiffCompression CompressionOf(const QString& text);
+RawJpeg RawJpegOf(const QString& text);
 // The parts of FIELD=VALUE for --set; tried on an empty record, so that a wrong field or value is
 // reported before any photo is read.
 std::pair<QString, QString> FieldOf(const QString& text);

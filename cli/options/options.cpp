@@ -225,6 +225,9 @@ Options Take(const QCommandLineParser& parser) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);
     });
     TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
+    TakeIfSet(parser, u"depth", options.depth, &DepthOf);
+    TakeIfSet(parser, u"tiff", options.compression, &CompressionOf);
+    TakeIfSet(parser, u"raw-jpeg", options.rawJpeg, &RawJpegOf);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
     options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
     options.noSettings = parser.isSet(QStringLiteral("no-settings"));

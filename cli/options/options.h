@@ -4,6 +4,7 @@
 // The command line of varnel-convert. Throws std::bad_alloc only.
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -13,6 +14,7 @@
 
 #include "base/pixel_size.h"
 #include "pipeline/output/frame_wish.h"
+#include "pipeline/photos/raw_pairs.h"
 #include "remap/analysis/circle_finder.h"
 #include "remap/encode/output_type.h"
 #include "state/records/image_record.h"
@@ -88,6 +90,10 @@ struct Options {
     std::optional<OutputType> type;
     std::optional<int> quality;
     std::optional<bool> chroma444;
+    std::optional<OutputDepth> depth;
+    std::optional<TiffCompression> compression;  // of TIFF files
+    RawJpeg rawJpeg = RawJpeg::Both;             // of photos that are there as raw file and as JPEG
+    QSet<QString> paired;                        // files whose results keep the ending for that
     bool noMetadata = false;
     bool noAutoOrient = false;
     bool noSettings = false;

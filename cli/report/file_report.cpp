@@ -45,6 +45,7 @@ QByteArray ToJson(const FileReport& report) {
         {u"uncertain", QJsonArray::fromStringList(report.uncertain)},
         {u"width", written ? report.size.width : QJsonValue()},
         {u"height", written ? report.size.height : QJsonValue()},
+        {u"depth", KnownText(report.depth)},
         {u"bytes", written ? report.bytes : QJsonValue()},
         {u"seconds", std::round(report.seconds * 1000.0) / 1000.0},
         {u"notes", QJsonArray::fromStringList(report.notes)},

@@ -16,6 +16,8 @@
 #include <system_error>
 
 #include "base/run_time_error.h"
+#include "pipeline/output/save_wish.h"
+#include "pipeline/photos/raw_pairs.h"
 #include "remap/encode/output_format.h"
 
 namespace varnel {
@@ -38,6 +40,16 @@ QHash<QString, int> UsesOfNames(const RecordArray<ImageRecord>& queue, const Bat
         }
     }
     return uses;
+}
+
+double PixelsOf(const ImageRecord& entry) {
+    const PixelSize size = ResultSizeOf(entry, {entry.Width, entry.Height});
+    return static_cast<double>(size.width) * size.height;
+}
+
+// Only the photo itself would tell; raw files always have more than 8 bits.
+SampleKind LikelySamples(const QString& name) {
+    return IsRawName(name) ? SampleKind::Word : SampleKind::Byte;
 }
 
 }  // namespace
@@ -109,17 +121,22 @@ QString NamesText(int colliding, int existing) {
     return sentences.join(u' ');
 }
 
-double PixelsOf(const RecordArray<ImageRecord>& queue) {
-    double pixels = 0.0;
+qint64 UsualBytesOf(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
+    qint64 bytes = 0;
     for (const ImageRecord& entry : queue) {
-        const PixelSize size = ResultSizeOf(entry, {entry.Width, entry.Height});
-        pixels += static_cast<double>(size.width) * size.height;
+        bytes += UsualBytes(PixelsOf(entry), EncodingOf(choices), LikelySamples(entry.FileName));
     }
-    return pixels;
+    return bytes;
 }
 
 qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices) {
-    return qRound64(PixelsOf(queue) * FormatOf(choices.type).bytesPerPixel(EncodingOf(choices)));
+    double bytes = 0.0;
+    const OutputEncoding encoding = EncodingOf(choices);
+    for (const ImageRecord& entry : queue) {
+        const SampleKind samples = SamplesOfFile(encoding, LikelySamples(entry.FileName));
+        bytes += PixelsOf(entry) * FormatOf(choices.type).bytesPerPixel(encoding, samples);
+    }
+    return qRound64(bytes);
 }
 
 qint64 FreeBytes(const QString& folder) {

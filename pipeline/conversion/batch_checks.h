@@ -27,11 +27,10 @@ int ExistingNames(const RecordArray<ImageRecord>& queue, const BatchChoices& cho
 // The two numbers in words; empty when both are 0.
 QString NamesText(int colliding, int existing);
 
-// Of all entries whose size is known.
-double PixelsOf(const RecordArray<ImageRecord>& queue);
+// What the files usually have, in bytes. Entries whose size is not known count nothing.
+qint64 UsualBytesOf(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
 
-// The bytes that the run may need, as for photos full of fine detail. Entries whose size is not
-// known count nothing.
+// The bytes that the run may need, as for photos full of fine detail; likewise.
 qint64 ExpectedBytes(const RecordArray<ImageRecord>& queue, const BatchChoices& choices);
 
 // The free bytes where the folder is; -1 when the system does not report them.

@@ -126,7 +126,8 @@ void BatchJob::Work(const BatchChoices& how, bool upright) {
         ThreadRunner pool;
         const std::unique_ptr<PictureReader> reader = newReader_();
         ReadingWait wait;
-        PrefetchingReader feed(*reader, MoreReaders(pool.Cores()), wait, upright, &pool);
+        const ReadDepth depth = how.depth == OutputDepth::Eight ? ReadDepth::Eight : ReadDepth::Own;
+        PrefetchingReader feed(*reader, MoreReaders(pool.Cores()), wait, {upright, depth}, &pool);
         ConversionPorts ports = PortsFor(feed);
         ports.cores = &pool;
         Observer observer(*this);

@@ -27,10 +27,15 @@ struct BatchChoices {
     bool writeSettings = true;  // those that made the picture go into its file
     QString pattern = {};       // of the names; empty: the usual one
     bool nextToPhoto = false;   // each file goes into its photo's folder instead
+    OutputDepth depth = OutputDepth::Own;
+    TiffCompression compression = TiffCompression::Usual;
 };
 
 inline OutputEncoding EncodingOf(const BatchChoices& choices) {
-    return {choices.type, choices.jpegQuality, choices.chroma444};
+    OutputEncoding encoding(choices.type, choices.jpegQuality, choices.chroma444);
+    encoding.depth = choices.depth;
+    encoding.compression = choices.compression;
+    return encoding;
 }
 
 inline QString PatternOf(const BatchChoices& choices) {

@@ -261,6 +261,7 @@ class Run : private RenderProgress {
         spare_ = std::move(written.result);
         if (saved) {
             written.outcome.note = saved.note;
+            written.outcome.samples = saved.samples;
             targets_.NoteWritten(plan_.photos[written.what.photo], written.what.target,
                                  !written.what.damage.isEmpty());
         } else {

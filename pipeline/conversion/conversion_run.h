@@ -76,7 +76,8 @@ struct ConversionOutcome {
     TargetRefusal refusal;  // why the target was refused
     Reason note;            // what of the picture is not in the written file; empty when all is
     PixelSize size;         // of the written picture, pixels
-    double seconds = 0.0;   // by the clock, since it was begun
+    SampleKind samples = SampleKind::Byte;  // of the written picture
+    double seconds = 0.0;                   // by the clock, since it was begun
 };
 
 // Is notified how a run goes, on the caller's thread and as if each conversion were done before the

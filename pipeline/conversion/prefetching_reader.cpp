@@ -17,12 +17,12 @@ constexpr int mostReaders = 4;        // each may hold a whole picture
 }  // namespace
 
 PrefetchingReader::PrefetchingReader(PictureReader& reader, int more, ReadingWait& wait,
-                                     bool upright, ThreadRunner* cores)
+                                     const ReadChoices& choices, ThreadRunner* cores)
     : cores_(reader.IsApart() && cores != nullptr && cores->Cores() > 1 ? cores : nullptr),
       thread_(cores_ == nullptr ? nullptr : std::make_unique<ReadingThread>(&reader, *cores_)),
       first_(thread_ ? *thread_ : reader),
       wait_(wait),
-      upright_(upright) {
+      choices_(choices) {
     for (int n = 0; n < more && reader.IsApart(); ++n) {
         more_.push_back(cores_ == nullptr ? NewPictureReader()
                                           : std::make_unique<ReadingThread>(nullptr, *cores_));
@@ -59,7 +59,7 @@ PictureReader* PrefetchingReader::FreeReader() const {
 void PrefetchingReader::ReadAhead(const QString& path) {
     if (PictureReader* const reader = FreeReader()) {
         underWay_.push_back({path, reader});
-        reader->Begin({path, ReadKind::Whole, {}, upright_});
+        reader->Begin({path, ReadKind::Whole, {}, choices_.upright, choices_.depth});
     }
 }
 

@@ -18,11 +18,10 @@ namespace varnel {
 class PrefetchingReader {
   public:
     // Each reader reads one photo at a time; the first is the caller's, who does not use it
-    // meanwhile. As many more are started as further photos shall be read at once. Upright:
-    // turned as their EXIF orientation says. With cores each decoder takes one while it works, and
-    // the caller's is lent while it waits.
-    PrefetchingReader(PictureReader& reader, int more, ReadingWait& wait, bool upright = true,
-                      ThreadRunner* cores = nullptr);
+    // meanwhile. As many more are started as further photos shall be read at once. With cores each
+    // decoder takes one while it works, and the caller's is lent while it waits.
+    PrefetchingReader(PictureReader& reader, int more, ReadingWait& wait,
+                      const ReadChoices& choices = {}, ThreadRunner* cores = nullptr);
     // Gives up what was read ahead and not taken.
     ~PrefetchingReader();
     PrefetchingReader(const PrefetchingReader&) = delete;
@@ -54,7 +53,7 @@ class PrefetchingReader {
     PictureReader& first_;
     std::vector<std::unique_ptr<PictureReader>> more_;
     ReadingWait& wait_;
-    bool upright_;
+    ReadChoices choices_;
     std::deque<UnderWay> underWay_;
 };
 

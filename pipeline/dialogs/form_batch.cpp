@@ -204,7 +204,9 @@ BatchChoices FormBatch::Choices() const {
                          wish.writeMetadata,
                          settings_.WriteSettings,
                          wish.pattern,
-                         ui_->PanelOutput->NextToPhoto()};
+                         ui_->PanelOutput->NextToPhoto(),
+                         wish.encoding.depth,
+                         wish.encoding.compression};
     for (const auto& [projection, box] : additions_) {
         choices.additions.texts[projection] = box->text();
     }
@@ -250,7 +252,7 @@ void FormBatch::ShowNames() {
 
 void FormBatch::ShowSpace() {
     const BatchChoices choices = Choices();
-    const qint64 usual = UsualBytes(PixelsOf(queue_), EncodingOf(choices));
+    const qint64 usual = UsualBytesOf(queue_, choices);
     ui_->PanelOutput->ShowSize(usual == 0 ? QString()
                                           : tr("All images: %1").arg(UsualSizeText(usual)));
     ShowText(ui_->LabelSpace,

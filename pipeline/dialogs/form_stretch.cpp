@@ -16,6 +16,7 @@
 #include "base/shortage.h"
 #include "pipeline/dialogs/slider_binding.h"
 #include "pipeline/output/output_name.h"
+#include "pipeline/output/save_wish.h"
 #include "remap/display/hourglass.h"
 #include "remap/display/paint.h"
 #include "remap/encode/save_bitmap.h"
@@ -241,8 +242,8 @@ SaveResult FormStretch::Rendered(const SaveChoice& choice) {
     if (!settings_.WriteMetadata) {
         DropMetadata(result);
     }
-    const OutputEncoding encoding(TypeOf(choice), settings_.JPEGcompression,
-                                  settings_.JPEGchroma444);
+    OutputEncoding encoding = EncodingOf(settings_);
+    encoding.type = TypeOf(choice);
     return SaveMeanwhile({encoding, choice.name}, result, pool_, bar, cancelled_);
 }
 

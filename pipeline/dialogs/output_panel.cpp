@@ -42,6 +42,7 @@ OutputPanel::~OutputPanel() = default;
 
 void OutputPanel::Show(const SaveWish& wish, const QString& usual) {
     usualPattern_ = usual;
+    shown_ = wish.encoding;
     SetType(wish.encoding.type);
     ui_->SliderJPEGcompression->setValue(wish.encoding.quality);
     ui_->Chroma444Check->setChecked(wish.encoding.chroma444);
@@ -53,9 +54,11 @@ void OutputPanel::Show(const SaveWish& wish, const QString& usual) {
 
 SaveWish OutputPanel::Wish() const {
     const QString pattern = ui_->TextNamePattern->text().trimmed();
-    return {{OutputTypeFromText(ui_->ComboFileType->currentText()),
-             ui_->SliderJPEGcompression->value(), ui_->Chroma444Check->isChecked()},
-            ui_->WriteMetadataCheck->isChecked(),
+    OutputEncoding encoding = shown_;
+    encoding.type = OutputTypeFromText(ui_->ComboFileType->currentText());
+    encoding.quality = ui_->SliderJPEGcompression->value();
+    encoding.chroma444 = ui_->Chroma444Check->isChecked();
+    return {encoding, ui_->WriteMetadataCheck->isChecked(),
             pattern == usualPattern_ || !PatternError().isEmpty() ? QString() : pattern};
 }
 

@@ -53,6 +53,7 @@ class OutputPanel : public QWidget {
 
     std::unique_ptr<Ui::OutputPanel> ui_;
     QString usualPattern_;
+    OutputEncoding shown_;  // with what there is no control for
 };
 
 }  // namespace varnel

@@ -31,13 +31,22 @@ double UsualPart(const OutputEncoding& encoding) {
     }
 }
 
+// The last bits of deep samples are noise: all photos need nearly as much.
+constexpr double deepPart = 0.9;
+
 }  // namespace
 
+OutputEncoding EncodingOf(const GeneralSettings& settings) {
+    OutputEncoding encoding(OutputTypeFromText(settings.FileType), settings.JPEGcompression,
+                            settings.JPEGchroma444);
+    encoding.depth = settings.KeepDepth ? OutputDepth::Own : OutputDepth::Eight;
+    encoding.compression =
+        TiffCompressionFromText(settings.TiffCompression).value_or(TiffCompression::Usual);
+    return encoding;
+}
+
 SaveWish WishOf(const GeneralSettings& settings) {
-    return {
-        {OutputTypeFromText(settings.FileType), settings.JPEGcompression, settings.JPEGchroma444},
-        settings.WriteMetadata,
-        settings.NamePattern};
+    return {EncodingOf(settings), settings.WriteMetadata, settings.NamePattern};
 }
 
 void TakeWish(const SaveWish& wish, GeneralSettings& settings) {
@@ -47,8 +56,27 @@ void TakeWish(const SaveWish& wish, GeneralSettings& settings) {
     settings.NamePattern = wish.pattern;
 }
 
-qint64 UsualBytes(double pixels, const OutputEncoding& encoding) {
-    return qRound64(pixels * FormatOf(encoding.type).bytesPerPixel(encoding) * UsualPart(encoding));
+SampleKind SamplesOfFile(const OutputEncoding& encoding, SampleKind photo) {
+    return SamplesWithin(FormatOf(encoding.type).holds.bitsPerSample,
+                         SamplesFor(encoding.depth, photo));
+}
+
+qint64 UsualBytes(double pixels, const OutputEncoding& encoding, SampleKind photo) {
+    const SampleKind samples = SamplesOfFile(encoding, photo);
+    const double part = samples == SampleKind::Byte ? UsualPart(encoding) : deepPart;
+    return qRound64(pixels * FormatOf(encoding.type).bytesPerPixel(encoding, samples) * part);
+}
+
+QString DepthText(const OutputEncoding& encoding, SampleKind photo) {
+    switch (SamplesOfFile(encoding, photo)) {
+        case SampleKind::Word:
+            return Texts::tr("16 bits");
+        case SampleKind::Float:
+            return Texts::tr("floating point");
+        case SampleKind::Byte:
+            break;
+    }
+    return Texts::tr("8 bits");
 }
 
 QString UsualSizeText(qint64 bytes) {

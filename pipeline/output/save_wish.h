@@ -22,12 +22,20 @@ struct SaveWish {
     bool operator==(const SaveWish&) const = default;
 };
 
+// How the settings want files, a picture of their type included.
+OutputEncoding EncodingOf(const GeneralSettings& settings);
+
 // The settings' wish, and a wish into the settings; the type of a file that was never chosen stays.
 SaveWish WishOf(const GeneralSettings& settings);
 void TakeWish(const SaveWish& wish, GeneralSettings& settings);
 
-// The bytes that a file of so many pixels usually has.
-qint64 UsualBytes(double pixels, const OutputEncoding& encoding);
+// What a picture of such samples has in a file.
+SampleKind SamplesOfFile(const OutputEncoding& encoding, SampleKind photo);
+// The bytes that a file of so many pixels of such a photo usually has.
+qint64 UsualBytes(double pixels, const OutputEncoding& encoding,
+                  SampleKind photo = SampleKind::Byte);
+// "16 bits": of the file of such a photo.
+QString DepthText(const OutputEncoding& encoding, SampleKind photo);
 // "about 3.2 MB".
 QString UsualSizeText(qint64 bytes);
 
@@ -37,6 +45,7 @@ struct SaveOffer {
     double pixels = 0.0;  // of the picture
     QString pattern;      // that an empty one stands for
     QString photoFolder;
+    SampleKind samples = SampleKind::Byte;  // of the photo
     // The proposed name by a pattern, without folder and extension.
     std::function<QString(const QString& pattern)> nameBy;
 };

@@ -9,6 +9,10 @@
 
 namespace varnel {
 
+ReadChoices ReadChoicesOf(const GeneralSettings& settings) {
+    return {settings.AutoOrient, settings.KeepDepth ? ReadDepth::Own : ReadDepth::Eight};
+}
+
 void PhotoLoader::BeginWait(const QString& path) {
     if (waits_++ == 0) {
         givenUp_ = false;
@@ -34,7 +38,9 @@ LoadedPicture PhotoLoader::Read(ReadRequest request) {
         return LoadedPicture::Refused(ReasonCode::AnotherIsRead);
     }
     reading_ = true;
-    request.upright = settings_ == nullptr || settings_->AutoOrient;
+    const ReadChoices choices = settings_ == nullptr ? ReadChoices() : ReadChoicesOf(*settings_);
+    request.upright = choices.upright;
+    request.depth = choices.depth;
     BeginWait(request.path);
     const auto atEnd = qScopeGuard([this] {
         EndWait();

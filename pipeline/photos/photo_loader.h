@@ -38,9 +38,16 @@ struct PhotoSize {
     int orientation = 1;  // of the picture as it is stored, which was undone
 };
 
+// How photos are read.
+struct ReadChoices {
+    bool upright = true;  // turned as their EXIF orientation says
+    ReadDepth depth = ReadDepth::Eight;
+};
+ReadChoices ReadChoicesOf(const GeneralSettings& settings);
+
 class PhotoLoader {
   public:
-    // Photos are turned upright as the settings say at that moment; without settings, always.
+    // Photos are read as the settings say at that moment; without settings, upright with 8 bits.
     explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr,
                          const GeneralSettings* settings = nullptr)
         : reader_(reader), wait_(wait), settings_(settings) {}

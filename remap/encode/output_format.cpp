@@ -24,7 +24,7 @@ double ChromaFactor(double quality) {
     return quality <= 95.0 ? 1.2 : Between(quality, 95.0, 1.2, 100.0, 1.45);
 }
 
-double JpegBytesPerPixel(const OutputEncoding& encoding) {
+double JpegBytesPerPixel(const OutputEncoding& encoding, SampleKind /*samples*/) {
     const double quality = encoding.quality;
     const double factor = encoding.chroma444 ? ChromaFactor(quality) : 1.0;
     if (quality <= 85.0) {
@@ -34,9 +34,29 @@ double JpegBytesPerPixel(const OutputEncoding& encoding) {
                                      : Between(quality, 95.0, 0.61, 100.0, 1.07));
 }
 
-template <int hundredths>
-double BytesPerPixel(const OutputEncoding& /*encoding*/) {
-    return hundredths / 100.0;
+// Three samples as they are.
+double PlainBytesPerPixel(SampleKind samples) {
+    return static_cast<double>(BytesPerPixel(PixelFormatOf(samples, false)));
+}
+
+// Compressed, deep samples need about what they are; but LZW makes those of 16 bits larger.
+double DeepBytesPerPixel(TiffCompression compression, SampleKind samples) {
+    return PlainBytesPerPixel(samples) * (compression == TiffCompression::Lzw ? 1.3 : 1.0);
+}
+
+double TiffBytesPerPixel(const OutputEncoding& encoding, SampleKind samples) {
+    const TiffCompression compression = CompressionFor(encoding.compression, samples);
+    return compression == TiffCompression::None ? PlainBytesPerPixel(samples)
+           : samples == SampleKind::Byte        ? 2.3
+                                                : DeepBytesPerPixel(compression, samples);
+}
+
+double PngBytesPerPixel(const OutputEncoding& /*encoding*/, SampleKind samples) {
+    return samples == SampleKind::Byte ? 2.0 : PlainBytesPerPixel(samples);
+}
+
+double BmpBytesPerPixel(const OutputEncoding& /*encoding*/, SampleKind samples) {
+    return PlainBytesPerPixel(samples);
 }
 
 constexpr std::array rows{
@@ -46,7 +66,7 @@ constexpr std::array rows{
                  u".TIFF",
                  {.bitsPerSample = 32, .alpha = true, .metadata = true, .profile = true},
                  false,
-                 &BytesPerPixel<230>,
+                 &TiffBytesPerPixel,
                  &EncodeTiff},
     OutputFormat{u"JPEG",
                  u"Jpeg",
@@ -56,14 +76,14 @@ constexpr std::array rows{
                  true,
                  &JpegBytesPerPixel,
                  &EncodeJpeg},
-    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &BytesPerPixel<300>, &EncodeBmp},
+    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &BmpBytesPerPixel, &EncodeBmp},
     OutputFormat{u"PNG",
                  u"PNG",
                  u".PNG",
                  u".PNG",
                  {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
                  false,
-                 &BytesPerPixel<200>,
+                 &PngBytesPerPixel,
                  &EncodePng}};
 
 // Of places that are the table's, one after the other.

@@ -27,8 +27,8 @@ struct OutputFormat {
     OutputAbilities holds;
     bool takesQuality;  // and colour at full resolution
     // Of a file to be expected. Measured with converted photos of foliage, which need two to four
-    // times what indoor ones do.
-    double (*bytesPerPixel)(const OutputEncoding&);
+    // times what indoor ones do. Of such samples, which the type can hold.
+    double (*bytesPerPixel)(const OutputEncoding&, SampleKind);
     EncodeFunction* encode;
 };
 

@@ -34,6 +34,8 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
     saveFlag(setting::TakeGear, settings.TakeGear);
     saveFlag(setting::WriteMetadata, settings.WriteMetadata);
     saveFlag(setting::WriteSettings, settings.WriteSettings);
+    saveFlag(setting::KeepDepth, settings.KeepDepth);
+    save(setting::TiffCompression, settings.TiffCompression);
     save(setting::Language, settings.Language);
 }
 

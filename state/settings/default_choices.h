@@ -33,7 +33,7 @@ inline constexpr std::array languages{
 int LanguagePosition(QStringView code);
 
 // Writes the default gear and the general settings, in this order: gear, width, height, file type,
-// quality, what is on or off, language.
+// quality, what is on or off, the compression of TIFF files, language.
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
                   const GeneralSettings& settings);
 

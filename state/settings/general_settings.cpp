@@ -43,6 +43,9 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
     read(settings.TakeGear, setting::TakeGear);
     read(settings.WriteMetadata, setting::WriteMetadata);
     read(settings.WriteSettings, setting::WriteSettings);
+    read(settings.KeepDepth, setting::KeepDepth);
+    settings.TiffCompression =
+        store.Get(setting::General, setting::TiffCompression, settings.TiffCompression);
     settings.Language = store.Get(setting::General, setting::Language, settings.Language);
     return settings;
 }

@@ -27,6 +27,8 @@ struct GeneralSettings {
     QString Language = QStringLiteral("en");   // of the window, as code
     bool TakeGear = true;      // added photos get the gear that their EXIF names, or a guess
     QString NamePattern = {};  // of written files, for this run; empty: the usual names
+    bool KeepDepth = true;     // photos are read and written with as many bits as they have
+    QString TiffCompression = QStringLiteral("auto");  // a text of remap/encode/output_depth.h
 
     bool operator==(const GeneralSettings&) const = default;
 };

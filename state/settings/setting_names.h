@@ -30,6 +30,8 @@ inline constexpr QLatin1StringView OfferGear("OfferGear");
 inline constexpr QLatin1StringView TakeGear("TakeGear");  // since 1.1
 inline constexpr QLatin1StringView WriteMetadata("WriteMetadata");
 inline constexpr QLatin1StringView WriteSettings("WriteSettings");
+inline constexpr QLatin1StringView KeepDepth("KeepDepth");              // since 1.1
+inline constexpr QLatin1StringView TiffCompression("TiffCompression");  // since 1.1
 inline constexpr QLatin1StringView Language("Language");
 
 // The one gear of an older release, among the general settings.

@@ -60,10 +60,13 @@ QString SizeTools::NumbersOf(const ImageRecord& image) const {
     const PixelSize size = ResultSizeOf(image, {image.Width, image.Height});
     const OutputEncoding encoding = WishOf(workspace_.model.state.settings).encoding;
     const double pixels = static_cast<double>(size.width) * size.height;
-    return tr("%1 x %2 pixels, %3 as %4")
+    const Bitmap* const photo = workspace_.model.state.bitmaps.FullSourceBitmap.get();
+    const SampleKind samples = photo != nullptr ? SampleKindOf(photo->Format()) : SampleKind::Byte;
+    return tr("%1 x %2 pixels, %3 as %4, %5")
         .arg(size.width)
         .arg(size.height)
-        .arg(UsualSizeText(UsualBytes(pixels, encoding)), ToText(encoding.type));
+        .arg(UsualSizeText(UsualBytes(pixels, encoding, samples)), ToText(encoding.type),
+             DepthText(encoding, samples));
 }
 
 }  // namespace varnel

@@ -155,7 +155,7 @@ TEST(PseudoLanguage, MarksWhatIsTold) {
     MemoryStore store;
     const auto reader = NewPictureReader();
     ReadingWait wait;
-    PrefetchingReader feed(*reader, 0, wait, true);
+    PrefetchingReader feed(*reader, 0, wait);
     BatchSummary summary;
     summary.queued = 3;
     summary.failures = {{Q("/a/b.bmp"), ErrorText(ReasonCode::FileEmpty)}};

@@ -46,9 +46,9 @@ void SaveDialog::FollowPattern(OutputPanel& panel, const SaveOffer& offer) {
         const SaveWish wish = panel.Wish();
         const OutputType type = wish.encoding.type;
         panel.ShowExample(WithExtension(offer.nameBy(wish.pattern), type));
-        panel.ShowSize(
-            tr("%1, %2").arg(UsualSizeText(UsualBytes(offer.pixels, wish.encoding, offer.samples)),
-                             DepthText(wish.encoding, offer.samples)));
+        panel.ShowSize(QStringLiteral("%1, %2").arg(
+            UsualSizeText(UsualBytes(offer.pixels, wish.encoding, offer.samples)),
+            DepthText(wish.encoding, offer.samples)));
     };
     connect(&panel, &OutputPanel::WishChanged, this,
             [this, &panel, offer, show, last = offer.wish.pattern]() mutable {

@@ -31,6 +31,7 @@
 #include "app/tools/layout/theme_tools.h"
 #include "app/tools/layout/toolbar_tools.h"
 #include "app/tools/level_tools.h"
+#include "app/tools/pair_tools.h"
 #include "app/tools/picture_keys.h"
 #include "app/tools/presets/batch_tools.h"
 #include "app/tools/presets/preset_tools.h"
@@ -109,6 +110,7 @@ void MDIForm1::MakeTools() {
     new PhotoTools(this, parts_, workspace_, state_, ports_.dialogs);
     new ResetTools(parts_, view_, workspace_, this);
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
+    new PairTools(parts_, view_, workspace_, this);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     new SizeTools(this, parts_, view_, workspace_);
     new SaveTools(this, parts_, workspace_, *list, ports_, batch_);

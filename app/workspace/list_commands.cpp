@@ -87,11 +87,14 @@ void ListCommands::ShowNewList(int line) {
 }
 
 void ListCommands::RemoveSelected() {
+    Remove(model_.list.SelectedLines(), 0);
+}
+
+void ListCommands::Remove(const std::vector<int>& lines, int shown) {
     RecordArray<ImageRecord> kept;
-    const std::vector<int> removed = model_.list.SelectedLines();
     std::size_t next = 0;
     for (int line = 0; line < model_.list.Images().UpperBound(); ++line) {
-        if (next < removed.size() && removed[next] == line) {
+        if (next < lines.size() && lines[next] == line) {
             ++next;
         } else {
             kept.Append(std::move(model_.list.OnLine(line)));
@@ -99,7 +102,7 @@ void ListCommands::RemoveSelected() {
     }
     model_.list.Images() = std::move(kept);
     model_.steps.Note(StepKind::Remove);
-    ShowNewList(0);
+    ShowNewList(shown);
 }
 
 void ListCommands::MoveSelected(int target) {

@@ -20,6 +20,8 @@ class ListCommands {
           preview_(preview) {}
 
     void RemoveSelected();
+    // Lines in their order; what is then on the line shown becomes current.
+    void Remove(const std::vector<int>& lines, int shown);
     // The selected lines together before the target's line; the count puts them last.
     void MoveSelected(int target);
     // Copies the whole list into the batch queue; returns the queue's length.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "remap/encode/output_type.h"
 #include "state/dialogs/wheel_guard.h"
@@ -28,13 +29,14 @@ struct Check {
     bool GeneralSettings::*flag;
 };
 
-std::array<Check, 6> ChecksOf(const Ui::FormSetup& ui) {
+std::array<Check, 7> ChecksOf(const Ui::FormSetup& ui) {
     return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
              {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},
              {ui.OfferGearCheck, &GeneralSettings::OfferGear},
              {ui.TakeGearCheck, &GeneralSettings::TakeGear},
              {ui.WriteMetadataCheck, &GeneralSettings::WriteMetadata},
-             {ui.WriteSettingsCheck, &GeneralSettings::WriteSettings}}};
+             {ui.WriteSettingsCheck, &GeneralSettings::WriteSettings},
+             {ui.KeepDepthCheck, &GeneralSettings::KeepDepth}}};
 }
 
 }  // namespace
@@ -86,6 +88,15 @@ void FormSetup::FillFile() {
         ui_->ComboFileType->addItem(ToText(type));
     }
     ui_->ComboFileType->setCurrentText(ToText(OutputTypeFromText(settings_.FileType)));
+    for (const auto& [compression, text] : {std::pair{TiffCompression::Usual, tr("Automatic")},
+                                            {TiffCompression::Lzw, QStringLiteral("LZW")},
+                                            {TiffCompression::Deflate, QStringLiteral("Deflate")},
+                                            {TiffCompression::Zstd, QStringLiteral("Zstandard")},
+                                            {TiffCompression::None, tr("None")}}) {
+        ui_->ComboTiffCompression->addItem(text, ToText(compression));
+    }
+    ui_->ComboTiffCompression->setCurrentIndex(
+        std::max(0, ui_->ComboTiffCompression->findData(settings_.TiffCompression)));
     ui_->SliderJPEGcompression->setRange(lowestJpegQuality, highestJpegQuality);
     ui_->SliderJPEGcompression->setValue(settings_.JPEGcompression);
     Bind(ui_->SliderJPEGcompression, ui_->SpinSliderJPEGcompression);
@@ -130,6 +141,7 @@ void FormSetup::SetMyDefaults() {
     settings_.PreviewWidth = ui_->SliderPreviewWidth->value();
     settings_.PreviewHeight = ui_->SliderPreviewHeight->value();
     settings_.FileType = ui_->ComboFileType->currentText();
+    settings_.TiffCompression = ui_->ComboTiffCompression->currentData().toString();
     settings_.JPEGcompression = static_cast<std::int16_t>(ui_->SliderJPEGcompression->value());
     for (const auto& [box, flag] : ChecksOf(*ui_)) {
         settings_.*flag = box->isChecked();

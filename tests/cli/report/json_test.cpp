@@ -40,7 +40,7 @@ class Json : public ::testing::Test {
                 QJsonParseError error;
                 objects.append(QJsonDocument::fromJson(line, &error).object());
                 EXPECT_EQ(error.error, QJsonParseError::NoError) << line.toStdString();
-                EXPECT_EQ(objects.last().size(), 13) << line.toStdString();
+                EXPECT_EQ(objects.last().size(), 14) << line.toStdString();
             }
         }
         return objects;
@@ -82,6 +82,8 @@ TEST_F(Json, TellsOfEveryResultInOrder) {
         EXPECT_EQ(lines[0][u"file"].toString(), odd);
         EXPECT_EQ(lines[0][u"width"].toInt(), 60);
         EXPECT_EQ(lines[0][u"height"].toInt(), 40);
+        EXPECT_EQ(lines[0][u"depth"].toString(), Q("8"));
+        EXPECT_TRUE(lines[2][u"depth"].isNull());
         EXPECT_EQ(lines[0][u"projection"].toString(), Q("varnel"));
         EXPECT_EQ(lines[0][u"gear"].toString(), Q("Canon EOS 5D + Sigma EX 8 mm f:3.5"));
         EXPECT_EQ(lines[0][u"gear_source"].toString(), Q("given"));

@@ -165,7 +165,8 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
                    "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
                    "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
                    "setting/AutoOrient=1\nsetting/OfferGear=1\nsetting/TakeGear=1\n"
-                   "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/Language=en"));
+                   "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/KeepDepth=1\n"
+                   "setting/TiffCompression=auto\nsetting/Language=en"));
     EXPECT_EQ(Label("LabelSaved"), Text("Saved"));
     Choose("ComboFileType", 0);
     EXPECT_TRUE(Label("LabelSaved").isEmpty()) << "no longer what was saved";
@@ -189,7 +190,9 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
                 {"WriteMetadataCheck", "Keep the photo's metadata", "WriteMetadata",
                  &GeneralSettings::WriteMetadata, true},
                 {"WriteSettingsCheck", "Write the settings into the picture", "WriteSettings",
-                 &GeneralSettings::WriteSettings, true}};
+                 &GeneralSettings::WriteSettings, true},
+                {"KeepDepthCheck", "Keep the depth of photos", "KeepDepth",
+                 &GeneralSettings::KeepDepth, true}};
     for (const auto& row : rows) {
         settings = {};
         Open();
@@ -211,6 +214,23 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
         Open();
         EXPECT_EQ(The<QCheckBox>(row.name).isChecked(), !row.atFirst) << row.name;
     }
+}
+
+TEST_F(FormSetupTest, OffersTheCompressionsOfTiff) {
+    const struct {
+        const char* stored;
+        const char* shown;
+    } cases[] = {{"auto", "Automatic"}, {"lzw", "LZW"},   {"deflate", "Deflate"},
+                 {"zstd", "Zstandard"}, {"none", "None"}, {"packed", "Automatic"}};
+    for (const auto& c : cases) {
+        settings.TiffCompression = Text(c.stored);
+        Open();
+        EXPECT_EQ(The<QComboBox>("ComboTiffCompression").currentText(), Text(c.shown)) << c.stored;
+    }
+    Choose("ComboTiffCompression", 3);
+    Click("CommandSaveDefault");
+    EXPECT_EQ(settings.TiffCompression, Text("zstd"));
+    EXPECT_TRUE(store.written.contains(Text("setting/TiffCompression=zstd")));
 }
 
 TEST_F(FormSetupTest, OffersLanguagesByTheirOwnNamesAndStartsWithEnglish) {

@@ -16,8 +16,7 @@ constexpr std::array photoRows{
         u"stitch", nullptr,
         u"Two opposite circles, in one photo or two, as one sphere; --input-aov: across each."},
     OptionRow{u"raw-jpeg", u"WHICH",
-              u"Of a photo that is given as raw file and as JPEG: raw, jpeg or both (default; both "
-              u"results keep the ending)."},
+              u"Of photos given as raw file and as JPEG: raw, jpeg or both (default)."},
     OptionRow{u"no-auto-orient", nullptr,
               u"Take photos as they are stored, whatever their EXIF says."},
 };

@@ -3,7 +3,8 @@
 
 // make_inputs FOLDER COUNT
 // Writes photo.jpg, 6000 x 4000 at quality 95 with 4:2:0 colour, about 8 MB as a camera's is:
-// gradients, octaves of texture, hard edges and noise. COUNT pieces of it each of 600 x 400 and of
+// gradients, octaves of texture, hard edges and noise; and photo16.tif, the same with noise in 16
+// bits, deflated. COUNT pieces of it each of 600 x 400 and of
 // 1200 x 800 go into the folders small and middle. The same on every machine but for rounding.
 
 #include <FreeImage.h>
@@ -84,6 +85,27 @@ void Paint(FIBITMAP* photo) {
     }
 }
 
+// Of the levels of a photo of 8 bits, with noise below them.
+bool SaveDeep(FIBITMAP* photo, const std::filesystem::path& file) {
+    FIBITMAP* const deep = FreeImage_AllocateT(FIT_RGB16, width, height, 48);
+    for (int y = 0; y < height; ++y) {
+        const BYTE* from = FreeImage_GetScanLine(photo, y);
+        auto* to = reinterpret_cast<FIRGB16*>(FreeImage_GetScanLine(deep, y));
+        for (int x = 0; x < width; ++x, from += 3, ++to) {
+            const auto below = [&](std::uint32_t kind) {
+                return Hash(static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y), kind) %
+                       256;
+            };
+            to->red = static_cast<WORD>(from[FI_RGBA_RED] * 256U + below(96));
+            to->green = static_cast<WORD>(from[FI_RGBA_GREEN] * 256U + below(97));
+            to->blue = static_cast<WORD>(from[FI_RGBA_BLUE] * 256U + below(98));
+        }
+    }
+    const bool good = FreeImage_Save(FIF_TIFF, deep, file.c_str(), TIFF_ADOBE_DEFLATE) != 0;
+    FreeImage_Unload(deep);
+    return good;
+}
+
 bool Save(FIBITMAP* bitmap, const std::filesystem::path& file) {
     return FreeImage_Save(FIF_JPEG, bitmap, file.c_str(), 95 | JPEG_SUBSAMPLING_420) != 0;
 }
@@ -115,8 +137,8 @@ int main(int argc, char** argv) {
     const int count = std::stoi(argv[2]);
     FIBITMAP* const photo = FreeImage_Allocate(width, height, 24);
     Paint(photo);
-    const bool good = Save(photo, folder / "photo.jpg") &&
-                      Cut(photo, folder / "small", 600, count) &&
-                      Cut(photo, folder / "middle", 1200, count);
+    const bool good =
+        Save(photo, folder / "photo.jpg") && SaveDeep(photo, folder / "photo16.tif") &&
+        Cut(photo, folder / "small", 600, count) && Cut(photo, folder / "middle", 1200, count);
     return good ? 0 : 1;
 }

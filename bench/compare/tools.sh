@@ -2,12 +2,13 @@
 # $work (photo.jpg and the folders ten, small and middle are in it), $bin, $quick and empty lists.
 # shellcheck shell=bash disable=SC2004,SC2034,SC2154
 
-rows=(jpeg tiff png ten small middle)
+rows=(jpeg tiff png deep ten small middle)
 row_title=(
   [jpeg]="JPEG to JPEG 95, one file" [tiff]="JPEG to TIFF LZW, one file" [png]="JPEG to PNG, one file"
+  [deep]="TIFF to TIFF, 16 bits deflated, one file"
   [ten]="Ten files, JPEG to JPEG 95, two cores"
   [small]="Many files of 600 x 400, JPEG to JPEG 95" [middle]="Many files of 1200 x 800, JPEG to JPEG 95")
-row_pieces=([small]=yes [middle]=yes)  # of these no true pictures were made
+row_pieces=([deep]=yes [small]=yes [middle]=yes)  # of these no true pictures were made
 
 # tool ROW NAME NEEDS FILES COMMAND...
 # NEEDS is the program without which there is no such tool, FILES how many it writes. A @@ in COMMAND
@@ -73,6 +74,11 @@ full tool tiff "plain library" "" 1 "$bin/plain_library" "$photo" @@/photo.tif
 tool png Varnel "" 1 "${varnel[@]}" --type png --output @@/photo.png "$photo"
 tool png "plain library" "" 1 "$bin/plain_library" "$photo" @@/photo.png
 opencv png "hand-made map, float" hand float 2 1 png "$photo"
+
+deep=$work/photo16.tif
+tool deep Varnel "" 1 "${varnel[@]}" --tiff deflate --output @@/photo.tif "$deep"
+tool deep "ImageMagick, a copy without any view" convert-im6.q16 1 \
+  convert-im6.q16 "$deep" -compress Zip -define tiff:predictor=2 @@/photo.tif
 
 tool ten "Varnel${jobs:+ ${jobs[*]}}" "" 10 \
   "${varnel[@]}" --type jpeg --quality 95 "${jobs[@]}" --output-dir @@ "${ten[@]}"

@@ -1246,6 +1246,26 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Photos that are added get the gear that they tell, or a typical fisheye as a guess; otherwise the default gear, and their own is only offered</source>
         <translation>Hinzugefügte Fotos bekommen die Ausrüstung, die sie verraten, oder ein typisches Fischauge als Annahme; sonst die übliche Ausrüstung, und ihre eigene wird nur angeboten</translation>
     </message>
+    <message>
+        <source>TIFF c&amp;ompression</source>
+        <translation>TIFF-K&amp;omprimierung</translation>
+    </message>
+    <message>
+        <source>All of them keep every value; automatic is LZW for 8 bits and Deflate for more, which LZW would make larger</source>
+        <translation>Alle behalten jeden Wert; automatisch ist LZW bei 8 Bit und Deflate bei mehr, was LZW größer machen würde</translation>
+    </message>
+    <message>
+        <source>Compression of TIFF files</source>
+        <translation>Komprimierung von TIFF-Dateien</translation>
+    </message>
+    <message>
+        <source>Keep the depth of photos</source>
+        <translation>Tiefe der Fotos behalten</translation>
+    </message>
+    <message>
+        <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
+        <translation>Fotos mit 16 Bit und in Gleitkomma werden als solche gelesen und gespeichert, soweit der Dateityp das kann; sonst hat alles 8 Bit</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -2669,6 +2689,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>the crop runs beyond the frame</source>
         <translation>der Ausschnitt reicht über den Rahmen hinaus</translation>
     </message>
+    <message>
+        <source>saved with %1 bits: %2 holds no more</source>
+        <translation>mit %1 Bit gespeichert: mehr kann %2 nicht</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>
@@ -2712,6 +2736,18 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>about %1</source>
         <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>16 bits</source>
+        <translation>16 Bit</translation>
+    </message>
+    <message>
+        <source>floating point</source>
+        <translation>Gleitkomma</translation>
+    </message>
+    <message>
+        <source>8 bits</source>
+        <translation>8 Bit</translation>
     </message>
 </context>
 <context>
@@ -4061,6 +4097,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Saved</source>
         <translation>Gespeichert</translation>
     </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormStraighten</name>
@@ -4445,6 +4489,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::PairBar</name>
+    <message>
+        <source>Use RAW only</source>
+        <translation>Nur RAW verwenden</translation>
+    </message>
+    <message>
+        <source>Takes the JPEG files of these photos out of the list</source>
+        <translation>Nimmt die JPEG-Dateien dieser Fotos aus der Liste</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Blendet diese Zeile aus</translation>
+    </message>
+    <message>
+        <source>1 photo was added as RAW and as JPEG</source>
+        <translation>1 Foto wurde als RAW und als JPEG hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 photos were added as RAW and as JPEG</source>
+        <translation>%1 Fotos wurden als RAW und als JPEG hinzugefügt</translation>
+    </message>
+</context>
+<context>
     <name>varnel::PhotoGearTools</name>
     <message>
         <source>This photo was taken with %1, which is no fisheye: it keeps the gear %2.</source>
@@ -4812,8 +4883,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Keine Farbe: %1. Eine wie #ff8000 ist eine.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4</source>
-        <translation>%1 x %2 Pixel, %3 als %4</translation>
+        <source>%1 x %2 pixels, %3 as %4, %5</source>
+        <translation>%1 x %2 Pixel, %3 als %4, %5</translation>
     </message>
 </context>
 <context>

@@ -1246,6 +1246,26 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Photos that are added get the gear that they tell, or a typical fisheye as a guess; otherwise the default gear, and their own is only offered</source>
         <translation>Las fotos que se añaden reciben el equipo que indican, o un ojo de pez típico como suposición; si no, el predeterminado, y el suyo solo se ofrece</translation>
     </message>
+    <message>
+        <source>TIFF c&amp;ompression</source>
+        <translation>C&amp;ompresión TIFF</translation>
+    </message>
+    <message>
+        <source>All of them keep every value; automatic is LZW for 8 bits and Deflate for more, which LZW would make larger</source>
+        <translation>Todas conservan cada valor; automática es LZW para 8 bits y Deflate para más, que LZW haría más grande</translation>
+    </message>
+    <message>
+        <source>Compression of TIFF files</source>
+        <translation>Compresión de los archivos TIFF</translation>
+    </message>
+    <message>
+        <source>Keep the depth of photos</source>
+        <translation>Conservar la profundidad de las fotos</translation>
+    </message>
+    <message>
+        <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
+        <translation>Las fotos de 16 bits y de coma flotante se leen y se guardan como tales, hasta donde llega el tipo de archivo; si no, todo tiene 8 bits</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -2669,6 +2689,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>the crop runs beyond the frame</source>
         <translation>el recorte se sale del marco</translation>
     </message>
+    <message>
+        <source>saved with %1 bits: %2 holds no more</source>
+        <translation>guardado con %1 bits: %2 no contiene más</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>
@@ -2712,6 +2736,18 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>about %1</source>
         <translation>unos %1</translation>
+    </message>
+    <message>
+        <source>16 bits</source>
+        <translation>16 bits</translation>
+    </message>
+    <message>
+        <source>floating point</source>
+        <translation>coma flotante</translation>
+    </message>
+    <message>
+        <source>8 bits</source>
+        <translation>8 bits</translation>
     </message>
 </context>
 <context>
@@ -4061,6 +4097,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Saved</source>
         <translation>Guardado</translation>
     </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automática</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormStraighten</name>
@@ -4445,6 +4489,33 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::PairBar</name>
+    <message>
+        <source>Use RAW only</source>
+        <translation>Usar solo RAW</translation>
+    </message>
+    <message>
+        <source>Takes the JPEG files of these photos out of the list</source>
+        <translation>Quita de la lista los archivos JPEG de estas fotos</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Oculta esta línea</translation>
+    </message>
+    <message>
+        <source>1 photo was added as RAW and as JPEG</source>
+        <translation>Se añadió 1 foto como RAW y como JPEG</translation>
+    </message>
+    <message>
+        <source>%1 photos were added as RAW and as JPEG</source>
+        <translation>Se añadieron %1 fotos como RAW y como JPEG</translation>
+    </message>
+</context>
+<context>
     <name>varnel::PhotoGearTools</name>
     <message>
         <source>This photo was taken with %1, which is no fisheye: it keeps the gear %2.</source>
@@ -4812,8 +4883,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>No es un color: %1. Uno como #ff8000 lo es.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4</source>
-        <translation>%1 x %2 píxeles, %3 como %4</translation>
+        <source>%1 x %2 pixels, %3 as %4, %5</source>
+        <translation>%1 x %2 píxeles, %3 como %4, %5</translation>
     </message>
 </context>
 <context>

@@ -1246,6 +1246,26 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Photos that are added get the gear that they tell, or a typical fisheye as a guess; otherwise the default gear, and their own is only offered</source>
         <translation>Les photos ajoutées reçoivent l’équipement qu’elles indiquent, ou un fisheye typique supposé&#x202f;; sinon l’équipement par défaut, et le leur est seulement proposé</translation>
     </message>
+    <message>
+        <source>TIFF c&amp;ompression</source>
+        <translation>C&amp;ompression TIFF</translation>
+    </message>
+    <message>
+        <source>All of them keep every value; automatic is LZW for 8 bits and Deflate for more, which LZW would make larger</source>
+        <translation>Toutes gardent chaque valeur ; automatique est LZW pour 8 bits et Deflate au-delà, que LZW agrandirait</translation>
+    </message>
+    <message>
+        <source>Compression of TIFF files</source>
+        <translation>Compression des fichiers TIFF</translation>
+    </message>
+    <message>
+        <source>Keep the depth of photos</source>
+        <translation>Garder la profondeur des photos</translation>
+    </message>
+    <message>
+        <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
+        <translation>Les photos de 16 bits et en virgule flottante sont lues et enregistrées telles quelles, autant que le type de fichier le permet ; sinon tout a 8 bits</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -2669,6 +2689,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>the crop runs beyond the frame</source>
         <translation>le recadrage dépasse le cadre</translation>
     </message>
+    <message>
+        <source>saved with %1 bits: %2 holds no more</source>
+        <translation>enregistré avec %1 bits : %2 n’en contient pas plus</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>
@@ -2712,6 +2736,18 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>about %1</source>
         <translation>environ %1</translation>
+    </message>
+    <message>
+        <source>16 bits</source>
+        <translation>16 bits</translation>
+    </message>
+    <message>
+        <source>floating point</source>
+        <translation>virgule flottante</translation>
+    </message>
+    <message>
+        <source>8 bits</source>
+        <translation>8 bits</translation>
     </message>
 </context>
 <context>
@@ -4061,6 +4097,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Saved</source>
         <translation>Enregistré</translation>
     </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
 </context>
 <context>
     <name>varnel::FormStraighten</name>
@@ -4445,6 +4489,33 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::PairBar</name>
+    <message>
+        <source>Use RAW only</source>
+        <translation>RAW seulement</translation>
+    </message>
+    <message>
+        <source>Takes the JPEG files of these photos out of the list</source>
+        <translation>Retire de la liste les fichiers JPEG de ces photos</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Hides this line</source>
+        <translation>Masque cette ligne</translation>
+    </message>
+    <message>
+        <source>1 photo was added as RAW and as JPEG</source>
+        <translation>1 photo a été ajoutée en RAW et en JPEG</translation>
+    </message>
+    <message>
+        <source>%1 photos were added as RAW and as JPEG</source>
+        <translation>%1 photos ont été ajoutées en RAW et en JPEG</translation>
+    </message>
+</context>
+<context>
     <name>varnel::PhotoGearTools</name>
     <message>
         <source>This photo was taken with %1, which is no fisheye: it keeps the gear %2.</source>
@@ -4812,8 +4883,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>Pas une couleur : %1. #ff8000 par exemple en est une.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4</source>
-        <translation>%1 x %2 pixels, %3 en %4</translation>
+        <source>%1 x %2 pixels, %3 as %4, %5</source>
+        <translation>%1 x %2 pixels, %3 en %4, %5</translation>
     </message>
 </context>
 <context>

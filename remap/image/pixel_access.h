@@ -5,6 +5,7 @@
 // asked to do. Rows count from the bottom row. Throws nothing unless it says so.
 #pragma once
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 
@@ -38,10 +39,10 @@ constexpr std::uint8_t ByteOf(std::uint8_t sample) {
 constexpr std::uint8_t ByteOf(std::uint16_t sample) {
     return static_cast<std::uint8_t>((sample + 128U) / 257U);
 }
-constexpr std::uint8_t ByteOf(float sample) {
+inline std::uint8_t ByteOf(float sample) {
     return !(sample > 0.0F) ? std::uint8_t{0}
            : sample >= 1.0F ? std::uint8_t{255}
-                            : static_cast<std::uint8_t>(sample * 255.0F + 0.5F);
+                            : static_cast<std::uint8_t>(std::lround(sample * 255.0F));
 }
 template <class Sample>
 constexpr Sample FromByte(std::uint8_t value) {

@@ -18,6 +18,7 @@ class CircleRowEngine : public Engine {
         : surface_(surface),
           map_(map),
           owners_(map, surface.ResultSize().height),
+          pieceColumns_(SampleKindOf(surface.Source()->Format()) == SampleKind::Byte ? 256 : 128),
           columns_(Columns(map.Circle(), surface.ResultSize().width)),
           source_(SourceView::Of(surface.Source())),
           target_(TargetView::Of(surface.Result())) {}
@@ -46,12 +47,10 @@ class CircleRowEngine : public Engine {
     }
 
   private:
-    static constexpr int pieceColumns = 256;
-
     // Those that the picture has, in whole pieces from the centre.
-    static LineRange Columns(const ImageCircleGeometry& circle, std::int32_t width) {
+    LineRange Columns(const ImageCircleGeometry& circle, std::int32_t width) const {
         const LineRange shown = OnPicture(circle.outputCentre.x, width, circle.lastColumn);
-        return {shown.first / pieceColumns * pieceColumns, shown.last};
+        return {shown.first / pieceColumns_ * pieceColumns_, shown.last};
     }
     // False for the row of a radius.
     bool FillUnownedRow(std::int32_t row) const {
@@ -67,8 +66,8 @@ class CircleRowEngine : public Engine {
     }
 
     void DrawRadii(int from, int to) const {
-        for (int first = columns_.first; first <= columns_.last; first += pieceColumns) {
-            const int pieceEnd = std::min(first + pieceColumns, columns_.last + 1);
+        for (int first = columns_.first; first <= columns_.last; first += pieceColumns_) {
+            const int pieceEnd = std::min(first + pieceColumns_, columns_.last + 1);
             for (int n = from; n <= to; ++n) {
                 DrawPiece(n, first, pieceEnd);
             }
@@ -122,6 +121,7 @@ class CircleRowEngine : public Engine {
     const RenderSurface& surface_;
     const CircleRows& map_;
     LastWriters owners_;
+    int pieceColumns_;   // so that what they read stays in the cache
     LineRange columns_;  // distances from the centre
     SourceView source_;
     TargetView target_;

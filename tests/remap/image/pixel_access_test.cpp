@@ -27,6 +27,7 @@ TEST(PixelFormats, BytesGoThroughEveryFormatUnchanged) {
             EXPECT_EQ(read.green, colour.green);
             EXPECT_EQ(read.red, colour.red);
         }
+        bitmap->metadata.colourProfile = "a profile";  // otherwise floats are linear light
         std::array<std::uint8_t, 3 * 256> row{};
         CopyForScreen(bitmap.get(), 1, row.data());
         EXPECT_EQ(row[3 * 200], 200);

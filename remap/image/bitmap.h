@@ -55,8 +55,8 @@ using BitmapHandle = std::unique_ptr<Bitmap>;
 
 // The three pictures at hand. Each is unloaded before it is replaced.
 struct Bitmaps {
-    BitmapHandle FullSourceBitmap;     // the current photo at full size, 24 bits
-    BitmapHandle PreviewSourceBitmap;  // the same at preview size
+    BitmapHandle FullSourceBitmap;     // the current photo at full size
+    BitmapHandle PreviewSourceBitmap;  // the same at preview size, 8 bits
     BitmapHandle ResultBitmap;         // the last conversion
 };
 

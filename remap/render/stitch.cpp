@@ -151,6 +151,8 @@ class SeamSums {
 Gains Compare(const Bitmap& front, const Bitmap& back, const Seam& seam) {
     SeamSums sums(front, back);
     std::vector<double> shares;
+    const std::ptrdiff_t step = PixelStep(front.Format());
+    const std::ptrdiff_t otherStep = PixelStep(back.Format());
     for (std::int32_t row = 0; row < front.Size().height; ++row) {
         seam.Fill(row, shares);
         const std::uint8_t* one = front.ScanLine(row).data();
@@ -159,8 +161,8 @@ Gains Compare(const Bitmap& front, const Bitmap& back, const Seam& seam) {
             if (share > 0.0 && share < 1.0) {
                 sums.Add(one, other);
             }
-            one += PixelStep(front.Format());
-            other += PixelStep(back.Format());
+            one += step;
+            other += otherStep;
         }
     }
     return sums.FrontByBack();
@@ -195,6 +197,44 @@ class Brightening {
     Gains factors_{};
 };
 
+// The levels that the bytes of a photo are brought to, for each colour.
+using ByteLevels = std::array<std::array<double, 256>, channels>;
+
+ByteLevels LevelsBy(const Gains& gains, double power) {
+    ByteLevels levels;
+    for (std::size_t c = 0; c < channels; ++c) {
+        const double factor = std::pow(gains[c], power);
+        for (std::size_t level = 0; level < 256; ++level) {
+            levels[c][level] = std::min(static_cast<double>(level) * factor, 255.0);
+        }
+    }
+    return levels;
+}
+
+// As Blend below for two photos of Bgr8, by tables, which take a third of the time.
+struct ByteBlend {
+    const Bitmap& back;
+    const Seam& seam;
+    ByteLevels frontLevels, backLevels;
+
+    // Into the front's row.
+    void Row(Bitmap& front, std::int32_t row) const {
+        std::vector<double> shares;
+        seam.Fill(row, shares);
+        std::uint8_t* pixel = front.ScanLine(row).data();
+        const std::uint8_t* other = back.ScanLine(row).data();
+        for (const double share : shares) {
+            for (std::size_t c = 0; c < channels; ++c) {
+                const double level =
+                    share * frontLevels[c][pixel[c]] + (1.0 - share) * backLevels[c][other[c]];
+                pixel[c] = static_cast<std::uint8_t>(std::lround(level));
+            }
+            pixel += channels;
+            other += channels;
+        }
+    }
+};
+
 class Blend {
   public:
     Blend(const Bitmap& front, const Bitmap& back, const Seam& seam, const Gains& gains)
@@ -210,14 +250,19 @@ class Blend {
         std::uint8_t* pixel = front.ScanLine(row).data();
         const std::uint8_t* other = back_.ScanLine(row).data();
         for (const double share : shares) {
-            Put(Mixed(ofFront_.At(pixel), ofBack_.At(other), share), front.Format(), pixel);
+            const PixelLevels levels = share >= 1.0   ? ofFront_.At(pixel)
+                                       : share <= 0.0 ? ofBack_.At(other)
+                                                      : Mixed(pixel, other, share);
+            Put(levels, front.Format(), pixel);
             pixel += PixelStep(front.Format());
             other += PixelStep(back_.Format());
         }
     }
 
   private:
-    static PixelLevels Mixed(const PixelLevels& front, const PixelLevels& back, double share) {
+    PixelLevels Mixed(const std::uint8_t* pixel, const std::uint8_t* other, double share) const {
+        const PixelLevels front = ofFront_.At(pixel);
+        const PixelLevels back = ofBack_.At(other);
         const auto mixed = [&](double PixelLevels::*level) {
             return share * front.*level + (1.0 - share) * back.*level;
         };
@@ -280,11 +325,17 @@ BitmapHandle Stitch(StitchHalf front, StitchHalf back, const StitchPlan& plan,
     BitmapHandle result = Drawn(std::move(front), plan, progress, runner);
     const BitmapHandle other = Drawn(std::move(back), plan, progress, runner);
     const Gains gains = Compare(*result, *other, seam);
-    const Blend blend(*result, *other, seam, gains);
-    SerialRunner serial;
-    (runner != nullptr ? *runner : serial).Run(result->Size().height, [&](int row) {
-        blend.Row(*result, row);
-    });
+    const auto blendRows = [&](const auto& blend) {
+        SerialRunner serial;
+        (runner != nullptr ? *runner : serial).Run(result->Size().height, [&](int row) {
+            blend.Row(*result, row);
+        });
+    };
+    if (result->Format() == PixelFormat::Bgr8 && other->Format() == PixelFormat::Bgr8) {
+        blendRows(ByteBlend{*other, seam, LevelsBy(gains, -0.5), LevelsBy(gains, 0.5)});
+    } else {
+        blendRows(Blend(*result, *other, seam, gains));
+    }
     return result;
 }
 

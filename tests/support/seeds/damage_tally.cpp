@@ -46,7 +46,7 @@ QString WritingError(const Bitmap* picture) {
     return {};
 }
 
-QString Error(const LoadedPicture& picture) {
+QString Error(const LoadedPicture& picture, ReadDepth depth) {
     if ((picture.outcome == LoadOutcome::Loaded) != picture.reason.isEmpty()) {
         return QStringLiteral("a reason exactly when not all is well: \"%1\"")
             .arg(ErrorText(picture.reason));
@@ -58,7 +58,8 @@ QString Error(const LoadedPicture& picture) {
         return {};
     }
     const auto [width, height] = SizeOf(picture.bitmap.get());
-    if (picture.bitmap->Format() != PixelFormat::Bgr8 || width < 1 || height < 1 || width > 32767 ||
+    const bool isDeep = picture.bitmap->Format() != PixelFormat::Bgr8;
+    if ((isDeep && depth == ReadDepth::Eight) || width < 1 || height < 1 || width > 32767 ||
         height > 32767 || width != picture.size.width || height != picture.size.height) {
         return QStringLiteral("%1 x %2 pixels where %3 x %4 were said")
             .arg(width)
@@ -66,7 +67,7 @@ QString Error(const LoadedPicture& picture) {
             .arg(picture.size.width)
             .arg(picture.size.height);
     }
-    return WritingError(picture.bitmap.get());
+    return isDeep ? QString() : WritingError(picture.bitmap.get());
 }
 
 }  // namespace
@@ -106,21 +107,23 @@ DamageTrial::DamageTrial(int secondsPerPhoto)
     : secondsPerPhoto_(secondsPerPhoto),
       reader_(NewPictureReader({.program = {}, .secondsPerPhoto = secondsPerPhoto})) {}
 
-LoadedPicture DamageTrial::Read(const QByteArray& file) {
+LoadedPicture DamageTrial::Read(const QByteArray& file, ReadDepth depth) {
     const QString path = folder_.filePath(QStringLiteral("photo"));
     WriteFile(path, file);
-    return ReadPicture(*reader_, {path});
+    return ReadPicture(*reader_, {.path = path, .depth = depth});
 }
 
 QString DamageTrial::Try(const DamagedFile& file) {
     QElapsedTimer timer;
     timer.start();
-    const LoadedPicture picture = Read(file.bytes);
+    isDeep_ = !isDeep_;
+    const ReadDepth depth = isDeep_ ? ReadDepth::Own : ReadDepth::Eight;
+    const LoadedPicture picture = Read(file.bytes, depth);
     const qint64 milliseconds = timer.elapsed();
     tally_.Add(file.seed.Type(), VerdictOf(picture), milliseconds);
     return milliseconds > (secondsPerPhoto_ + 1) * 1000
                ? QStringLiteral("an answer only after %1 ms").arg(milliseconds)
-               : Error(picture);
+               : Error(picture, depth);
 }
 
 }  // namespace varnel::testing

@@ -38,7 +38,7 @@ class DamageTrial {
     // What is wrong with the answer to this file, or with writing the picture that came; empty
     // when it is as it has to be.
     QString Try(const DamagedFile& file);
-    LoadedPicture Read(const QByteArray& file);
+    LoadedPicture Read(const QByteArray& file, ReadDepth depth = ReadDepth::Eight);
     const DamageTally& Tally() const { return tally_; }
 
   private:
@@ -46,6 +46,7 @@ class DamageTrial {
     QTemporaryDir folder_;
     std::unique_ptr<PictureReader> reader_;
     DamageTally tally_;
+    bool isDeep_ = false;  // whether the last file was read in its own depth
 };
 
 }  // namespace varnel::testing

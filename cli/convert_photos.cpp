@@ -51,7 +51,7 @@ class CommandRun : public ConversionObserver {
           wait_(reports_.Bar(), console),
           reader_(NewPictureReader()),
           feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_,
-                ReadChoicesOf(settings_), &runner_),
+                ReadChoicesOf(settings_, options.raw), &runner_),
           targets_(options.files, RulesOf(options)) {}
 
     // Returns the exit code.
@@ -134,7 +134,7 @@ class CommandRun : public ConversionObserver {
     // Without those of which every result exists already, if the options say so.
     QStringList FilesToDo() {
         QStringList files;
-        PhotoLoader photos(*reader_, &wait_, &settings_);
+        PhotoLoader photos(*reader_, &wait_, &settings_, request_.options.raw);
         for (qsizetype n = 0; n < request_.options.files.size(); ++n) {
             const QString& file = request_.options.files[n];
             const bool asks = request_.options.skipExisting && !StopAsked();

@@ -121,7 +121,7 @@ class StitchRun {
     std::vector<StitchHalf> Halves() {
         const std::unique_ptr<PictureReader> reader = NewPictureReader();
         UntilStopped wait(console_);
-        PhotoLoader loader(*reader, &wait, &settings_);
+        PhotoLoader loader(*reader, &wait, &settings_, options_.raw);
         std::vector<StitchHalf> halves;
         for (const QString& file : options_.files) {
             LoadedPicture loaded = loader.Load(file);

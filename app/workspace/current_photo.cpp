@@ -10,6 +10,7 @@
 
 #include "base/error_text.h"
 #include "base/shortage.h"
+#include "pipeline/photos/raw_pairs.h"
 #include "state/adjustments/gear_assignment.h"
 
 namespace varnel {
@@ -27,10 +28,23 @@ void CurrentPhoto::ReportNotOpened(const ImageRecord& image) {
                         QStringLiteral("%1: %2").arg(SourcePath(image), ErrorText(loadError_)));
 }
 
+// Developing a raw photo takes seconds; the camera's own picture is there at once.
+void CurrentPhoto::ShowFirstLook(const QString& path) {
+    if (!IsRawName(path)) {
+        return;
+    }
+    if (const BitmapHandle small = ports_.photos.FirstLook(path, ports_.view.PreviewBox())) {
+        ports_.view.ShowSource(small.get());
+    }
+}
+
 ShelvedPhoto CurrentPhoto::Load(const QString& path) {
     std::optional<ShelvedPhoto> ready;
     if (ports_.shelf != nullptr) {
         ready = ports_.shelf->Take(path);
+    }
+    if (!ready) {
+        ShowFirstLook(path);
     }
     return ready ? std::move(*ready) : ShelvedPhoto{ports_.photos.Load(path), nullptr};
 }

@@ -40,6 +40,7 @@ class CurrentPhoto {
   private:
     bool LoadFull(int line);
     ShelvedPhoto Load(const QString& path);
+    void ShowFirstLook(const QString& path);
     void ReadNeighbours(int line);
     void PutAway();
     bool LoadAndReduce(int line);

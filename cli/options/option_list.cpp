@@ -17,6 +17,10 @@ constexpr std::array photoRows{
         u"Two opposite circles, in one photo or two, as one sphere; --input-aov: across each."},
     OptionRow{u"raw-jpeg", u"WHICH",
               u"Of photos given as raw file and as JPEG: raw, jpeg or both (default)."},
+    OptionRow{u"raw-profile", u"NAME",
+              u"The colours that raw photos are developed into: srgb (default), adobe-rgb or "
+              u"rec2020."},
+    OptionRow{u"raw-quick", nullptr, u"Raw photos at half their size, in a quarter of the time."},
     OptionRow{u"no-auto-orient", nullptr,
               u"Take photos as they are stored, whatever their EXIF says."},
 };

@@ -203,6 +203,14 @@ RawJpeg RawJpegOf(const QString& text) {
     return OneOf(QStringLiteral("raw-jpeg"), text, RawJpegFromText(text), RawJpegTexts());
 }
 
+RawProfile RawProfileOf(const QString& text) {
+    const QStringList words{QStringLiteral("srgb"), QStringLiteral("adobe-rgb"),
+                            QStringLiteral("rec2020")};
+    const qsizetype place = words.indexOf(text.toLower());
+    return OneOf(QStringLiteral("raw-profile"), text,
+                 place < 0 ? std::nullopt : std::optional(static_cast<RawProfile>(place)), words);
+}
+
 std::pair<QString, QString> FieldOf(const QString& text) {
     const auto [field, value] = PartsOf(QStringLiteral("set"), text);
     ImageRecord probe;

@@ -37,6 +37,7 @@ bool IsChroma444(const QString& text);
 OutputDepth DepthOf(const QString& text);
 TiffCompression CompressionOf(const QString& text);
 RawJpeg RawJpegOf(const QString& text);
+RawProfile RawProfileOf(const QString& text);
 // The parts of FIELD=VALUE for --set; tried on an empty record, so that a wrong field or value is
 // reported before any photo is read.
 std::pair<QString, QString> FieldOf(const QString& text);

@@ -181,6 +181,12 @@ void TakeFields(const QCommandLineParser& parser, Options& options) {
     }
 }
 
+void TakeRaw(const QCommandLineParser& parser, Options& options) {
+    TakeIfSet(parser, u"raw-jpeg", options.rawJpeg, &RawJpegOf);
+    TakeIfSet(parser, u"raw-profile", options.raw.profile, &RawProfileOf);
+    options.raw.isQuick = parser.isSet(QStringLiteral("raw-quick"));
+}
+
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
@@ -227,7 +233,7 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
     TakeIfSet(parser, u"depth", options.depth, &DepthOf);
     TakeIfSet(parser, u"tiff", options.compression, &CompressionOf);
-    TakeIfSet(parser, u"raw-jpeg", options.rawJpeg, &RawJpegOf);
+    TakeRaw(parser, options);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
     options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
     options.noSettings = parser.isSet(QStringLiteral("no-settings"));

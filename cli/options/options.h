@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/pixel_size.h"
+#include "decoder/request/read_request.h"
 #include "pipeline/output/frame_wish.h"
 #include "pipeline/photos/raw_pairs.h"
 #include "remap/analysis/circle_finder.h"
@@ -93,7 +94,8 @@ struct Options {
     std::optional<OutputDepth> depth;
     std::optional<TiffCompression> compression;  // of TIFF files
     RawJpeg rawJpeg = RawJpeg::Both;             // of photos that are there as raw file and as JPEG
-    QSet<QString> paired;                        // files whose results keep the ending for that
+    RawDevelopment raw;
+    QSet<QString> paired;  // files whose results keep the ending for that
     bool noMetadata = false;
     bool noAutoOrient = false;
     bool noSettings = false;

@@ -59,7 +59,7 @@ PictureReader* PrefetchingReader::FreeReader() const {
 void PrefetchingReader::ReadAhead(const QString& path) {
     if (PictureReader* const reader = FreeReader()) {
         underWay_.push_back({path, reader});
-        reader->Begin({path, ReadKind::Whole, {}, choices_.upright, choices_.depth});
+        reader->Begin({path, ReadKind::Whole, {}, choices_.upright, choices_.depth, choices_.raw});
     }
 }
 

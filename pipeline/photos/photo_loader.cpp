@@ -9,8 +9,8 @@
 
 namespace varnel {
 
-ReadChoices ReadChoicesOf(const GeneralSettings& settings) {
-    return {settings.AutoOrient, settings.KeepDepth ? ReadDepth::Own : ReadDepth::Eight};
+ReadChoices ReadChoicesOf(const GeneralSettings& settings, const RawDevelopment& raw) {
+    return {settings.AutoOrient, settings.KeepDepth ? ReadDepth::Own : ReadDepth::Eight, raw};
 }
 
 void PhotoLoader::BeginWait(const QString& path) {
@@ -41,6 +41,7 @@ LoadedPicture PhotoLoader::Read(ReadRequest request) {
     const ReadChoices choices = settings_ == nullptr ? ReadChoices() : ReadChoicesOf(*settings_);
     request.upright = choices.upright;
     request.depth = choices.depth;
+    request.raw = raw_;
     BeginWait(request.path);
     const auto atEnd = qScopeGuard([this] {
         EndWait();
@@ -51,6 +52,10 @@ LoadedPicture PhotoLoader::Read(ReadRequest request) {
 
 LoadedPicture PhotoLoader::Load(const QString& path) {
     return Read({path, ReadKind::Whole, {}});
+}
+
+BitmapHandle PhotoLoader::FirstLook(const QString& path, PixelSize box) {
+    return Read({path, ReadKind::Small, box}).bitmap;
 }
 
 std::optional<PhotoSize> PhotoLoader::Size(const QString& path) {

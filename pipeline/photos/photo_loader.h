@@ -42,15 +42,16 @@ struct PhotoSize {
 struct ReadChoices {
     bool upright = true;  // turned as their EXIF orientation says
     ReadDepth depth = ReadDepth::Eight;
+    RawDevelopment raw{};
 };
-ReadChoices ReadChoicesOf(const GeneralSettings& settings);
+ReadChoices ReadChoicesOf(const GeneralSettings& settings, const RawDevelopment& raw = {});
 
 class PhotoLoader {
   public:
     // Photos are read as the settings say at that moment; without settings, upright with 8 bits.
     explicit PhotoLoader(PictureReader& reader, ReadingWait* wait = nullptr,
-                         const GeneralSettings* settings = nullptr)
-        : reader_(reader), wait_(wait), settings_(settings) {}
+                         const GeneralSettings* settings = nullptr, const RawDevelopment& raw = {})
+        : reader_(reader), wait_(wait), settings_(settings), raw_(raw) {}
 
     // Several photos are waited for as for one while this lives.
     class Together {
@@ -70,6 +71,9 @@ class PhotoLoader {
 
     // The full picture. Not loaded while another one is read: events are handled meanwhile.
     LoadedPicture Load(const QString& path);
+    // A small picture of 24 bits that comes quickly, in the box of that many pixels; empty when
+    // there is none.
+    BitmapHandle FirstLook(const QString& path, PixelSize box);
     // Its size, without decoding it where the format allows; nothing when it cannot be read.
     std::optional<PhotoSize> Size(const QString& path);
     // Why there is no picture in the file, as far as its beginning shows; empty when there is one,
@@ -87,6 +91,7 @@ class PhotoLoader {
     PictureReader& reader_;
     ReadingWait* wait_;
     const GeneralSettings* settings_;
+    RawDevelopment raw_;
     int waits_ = 0;
     bool reading_ = false;
     bool givenUp_ = false;

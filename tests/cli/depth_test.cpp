@@ -13,6 +13,7 @@
 #include "cli/convert.h"
 #include "remap/image/ifd_reader.h"
 #include "tests/support/files.h"
+#include "tests/support/seeds/seed_files.h"
 
 namespace varnel {
 namespace {
@@ -39,6 +40,11 @@ class Depth : public ::testing::Test {
             }
         }
         return objects;
+    }
+    bool Has(const QString& file, std::uint16_t tag) const {
+        const QByteArray bytes = testing::Contents(file);
+        const IfdReader reader(bytes);
+        return reader.Directory(reader.First()).Find(tag) != nullptr;
     }
     // Of a TIFF file, by tag.
     std::uint64_t Number(const QString& file, std::uint16_t tag) const {
@@ -126,12 +132,37 @@ TEST_F(Depth, BothFilesOfAPairKeepTheirEndings) {
     }
 }
 
+TEST_F(Depth, RawPhotosAreDevelopedAsAsked) {
+    constexpr std::uint16_t profile = 34675;
+    const QString photo = files_.Path(Q("a.dng"));
+    testing::WriteFile(photo, testing::RawPhoto(true, 1));
+    const struct {
+        const char* options;
+        bool hasProfile;
+        int width;
+    } rows[] = {{"--raw-profile=srgb", false, 64},
+                {"--raw-profile=Rec2020", true, 64},
+                {"--raw-profile=adobe-rgb --raw-quick", true, 32}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.options);
+        const QString result = files_.Path(Q("result.tif"));
+        EXPECT_EQ(Run(Q(row.options).split(u' ') +
+                      QStringList{Q("--force"), Q("--output"), result, photo}),
+                  exitAllWritten)
+            << err_.str();
+        EXPECT_EQ(Lines().at(0)[u"depth"].toString(), Q("16"));
+        EXPECT_EQ(Lines().at(0)[u"width"].toInt(), row.width);
+        EXPECT_EQ(Has(result, profile), row.hasProfile);
+    }
+}
+
 TEST_F(Depth, UnknownWordsAreRefused) {
     const struct {
         const char *option, *said;
     } rows[] = {{"--depth=12", "--depth needs auto, 8, 16 or float, not \"12\""},
                 {"--tiff=zip", "--tiff needs auto, lzw, deflate, zstd or none, not \"zip\""},
-                {"--raw-jpeg=dng", "--raw-jpeg needs raw, jpeg or both, not \"dng\""}};
+                {"--raw-jpeg=dng", "--raw-jpeg needs raw, jpeg or both, not \"dng\""},
+                {"--raw-profile=p3", "--raw-profile needs srgb, adobe-rgb or rec2020"}};
     for (const auto& row : rows) {
         EXPECT_EQ(Run({Q(row.option), Q("a")}), exitUsage);
         EXPECT_NE(err_.str().find(row.said), std::string::npos) << err_.str();

@@ -62,6 +62,9 @@ void Render(Projection projection, const ImageRecord& image, SizeKind kind,
             RenderProgress& progress, RenderContext& context) {
     RenderSession run(kind, progress, context, Canvas::Anything, image);
     ProjectionMaps maps(projection, image, run.PhotoAndResult());
+    if (kind == SizeKind::Thumbnails) {
+        maps.sampling = SamplingKind::Classic;  // drafts are to be there at once
+    }
     const ProjectionMap& map = maps.Green();
     run.Begin(map.ProgressMaximum());
     ProjectionEngine engine(run, std::move(maps));

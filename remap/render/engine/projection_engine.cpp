@@ -5,11 +5,14 @@
 
 #include <utility>
 
+#include "remap/render/engine/fine/fine_engine.h"
+
 namespace varnel {
 
 // Projections that know no lens curve have no smooth map.
 ProjectionMaps::ProjectionMaps(Projection projection, const ImageRecord& image,
-                               const Frames& frames) {
+                               const Frames& frames)
+    : sampling(image.Sampling) {
     entries.push_back({InfoOf(projection).Make(image, frames), {}});
     if (!image.Lens || Green().AsSmooth() == nullptr) {
         return;
@@ -26,6 +29,13 @@ ProjectionMaps::ProjectionMaps(Projection projection, const ImageRecord& image,
 
 ProjectionEngine::ProjectionEngine(const RenderSurface& surface, ProjectionMaps maps)
     : surface_(surface), maps_(std::move(maps)) {
+    if (maps_.sampling == SamplingKind::Fine) {
+        const TransferCurve::Handle curve = TransferCurve::Of(*surface.Source());
+        for (const auto& [map, only] : maps_.entries) {
+            engines_.push_back(std::make_unique<FineEngine>(surface, *map, curve, only));
+        }
+        return;
+    }
     for (const auto& [map, only] : maps_.entries) {
         engines_.push_back(only ? SmoothEngineFor(surface, *map->AsSmooth(), only)
                                 : EngineFor(surface, *map));

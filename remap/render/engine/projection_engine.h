@@ -22,6 +22,7 @@ struct ProjectionMaps {
         std::optional<Channel> only;
     };
     std::vector<Entry> entries;
+    SamplingKind sampling = SamplingKind::Classic;  // as the record wants it
 
     ProjectionMaps(Projection projection, const ImageRecord& image, const Frames& frames);
     const ProjectionMap& Green() const { return *entries.front().map; }

@@ -20,22 +20,15 @@ constexpr int pieceRows = 32;  // about square, as a turned piece spans least of
 // Pixels of the photo that are light at once, at most; for pieces of more than one pixel.
 constexpr std::int64_t mostLight = 1 << 16;
 
-// What the kernels of a pixel reach.
-PixelBox ReachOf(const Places& places, std::size_t n) {
-    const auto across = FineAxis<float>::Of(places.scaleX[n]);
-    const auto up = FineAxis<float>::Of(places.scaleY[n]);
-    return {across.FirstTap(places.x[n]), up.FirstTap(places.y[n]),
-            across.LastTap(places.x[n]) + 1 + sparePixels,
-            up.LastTap(places.y[n]) + 1 + sparePixels};
-}
-
-void Extend(PixelBox& box, const PixelBox& other) {
-    if (box.Area() == 0) {
-        box = other;
-        return;
+// What the kernels of pixels reach.
+PixelBox BoxOf(const FineReach& reach) {
+    if (reach.IsEmpty()) {
+        return {};
     }
-    box = {std::min(box.left, other.left), std::min(box.bottom, other.bottom),
-           std::max(box.right, other.right), std::max(box.top, other.top)};
+    const auto across = FineAxis<float>::Of(reach.scaleX);
+    const auto up = FineAxis<float>::Of(reach.scaleY);
+    return {across.FirstTap(reach.left), up.FirstTap(reach.bottom),
+            across.LastTap(reach.right) + 1 + sparePixels, up.LastTap(reach.top) + 1 + sparePixels};
 }
 
 // From colours that are multiplied by alpha.
@@ -132,18 +125,19 @@ class FineEngine::Workplace {
         colours.resize((placesStep + 1) * lightNumbers);  // whole vectors, see CodeLight
     }
 
+    // Of a row of a piece.
+    FineRun Run(const Piece& piece, int row) const {
+        const std::size_t at = piece.PlaceOf(row);
+        return {&places.x[at],      &places.y[at],     &places.scaleX[at],
+                &places.scaleY[at], &places.share[at], piece.count};
+    }
     // What a piece reads; no area where it shows nothing.
     PixelBox ReachOf(const Piece& piece) const {
-        PixelBox reach;
+        FineReach reach;
         for (int row = 0; row < piece.rows; ++row) {
-            const std::size_t first = piece.PlaceOf(row);
-            for (std::size_t n = first; n < first + static_cast<std::size_t>(piece.count); ++n) {
-                if (places.share[n] > 0.0F) {
-                    Extend(reach, varnel::ReachOf(places, n));
-                }
-            }
+            ExtendReach(Run(piece, row), reach);
         }
-        return reach;
+        return BoxOf(reach);
     }
 
     Places places;
@@ -236,12 +230,8 @@ void FineEngine::DrawPiece(const Piece& piece, Workplace& work) const {
 }
 
 void FineEngine::WriteRow(const Piece& piece, std::int32_t row, Workplace& work) const {
-    const Places& places = work.places;
-    const std::size_t at = piece.PlaceOf(row);
-    SampleLight(work.light,
-                {&places.x[at], &places.y[at], &places.scaleX[at], &places.scaleY[at],
-                 &places.share[at], piece.count},
-                work.colours.data());
+    const FineRun run = work.Run(piece, row);
+    SampleLight(work.light, run, work.colours.data());
     const std::span<float> colours(work.colours);
     const auto pixels = colours.first(static_cast<std::size_t>(piece.count) * lightNumbers);
     const bool alpha = HasAlpha(target_.format);
@@ -249,7 +239,7 @@ void FineEngine::WriteRow(const Piece& piece, std::int32_t row, Workplace& work)
         TakeAlphaOut(pixels);
     }
     CodeLight(*curve_, colours.first((pixels.size() + 7) / 8 * 8));
-    TakeShares(pixels, &places.share[at], alpha);
+    TakeShares(pixels, run.share, alpha);
     if (grid_.IsPlain() && !target_.only && target_.format == PixelFormat::Bgr8) {
         return StoreBytes(pixels, target_.At(grid_.ColumnOf(piece.x), piece.row + row));
     }

@@ -33,6 +33,14 @@ struct CubicKernel {
                 (Real(6) * b + Real(30) * c) / Real(6),
                 (-b - Real(6) * c) / Real(6)};
     }
+    // A share of the way to another one.
+    CubicKernel Toward(const CubicKernel& other, Real share) const {
+        const auto between = [share](Real from, Real to) { return from + (to - from) * share; };
+        return {between(inner0, other.inner0), between(inner2, other.inner2),
+                between(inner3, other.inner3), between(outer0, other.outer0),
+                between(outer1, other.outer1), between(outer2, other.outer2),
+                between(outer3, other.outer3)};
+    }
     Real At(Real distance) const {
         const Real d = std::fabs(distance);
         if (d >= Real(2)) {
@@ -42,6 +50,9 @@ struct CubicKernel {
                            : ((outer3 * d + outer2) * d + outer1) * d + outer0;
     }
 };
+
+template <class Real>
+inline constexpr auto sharpKernel = CubicKernel<Real>::Of(Real(0), Real(0.75F));
 
 template <class Real>
 struct FineAxis {
@@ -55,8 +66,8 @@ struct FineAxis {
     }
     CubicKernel<Real> Kernel() const {
         constexpr Real third = Real(1) / Real(3);
-        constexpr Real sharp = Real(0.75F);
-        return CubicKernel<Real>::Of(third * blur, sharp + (third - sharp) * blur);
+        constexpr auto smooth = CubicKernel<Real>::Of(third, third);
+        return sharpKernel<Real>.Toward(smooth, blur);
     }
     // How far beyond the range of the two nearest neighbours a blend may go, in such ranges.
     Real Slack() const { return blur < Real(1) ? blur / (Real(1) - blur) : Real(1e6F); }

@@ -58,7 +58,7 @@ inline Pixel OuterAt(const CubicKernel<float>& kernel, const Pixel& t) {
 
 // The weights of the four neighbours for parts of 0 to 1, four after the other for each pixel.
 inline void WeighSharp(const float* parts, float* weights) {
-    const auto kernel = CubicKernel<float>::Of(0.0F, 0.75F);
+    constexpr CubicKernel<float> kernel = sharpKernel<float>;
     const Pixel one = Every(1.0F);
     for (std::size_t n = 0; n < pixelsAhead; n += 4) {
         const Pixel part = LoadPixel(parts + n);
@@ -105,6 +105,15 @@ struct Taps {
     int nearest = 0;  // the lower of the two nearest, from the first
     float slack = 0.0F;
     HWY_ALIGN std::array<float, mostTaps> weights;
+
+    // Of an axis that does not shrink.
+    void TakeSharp(std::int32_t whole, const float* sharp) {
+        first = whole - 1;
+        count = 4;
+        nearest = 1;
+        slack = 0.0F;
+        StorePixel(LoadPixel(sharp), weights.data());
+    }
 };
 
 inline Pixel KernelAt(const CubicKernel<float>& kernel, const Pixel& distance) {
@@ -145,13 +154,17 @@ inline void WeighTaps(double position, float scale, Taps& taps) {
 // Where both axes are smooth: nothing can ring much. What is nowhere below black does not get so.
 inline Pixel SmoothColour(const float* corner, std::ptrdiff_t pitch, const Taps& across,
                           const Taps& up) {
+    HWY_ALIGN std::array<float, lightNumbers * mostTaps> spread;
+    for (int n = 0; n < across.count; ++n) {
+        const auto at = static_cast<std::size_t>(n);
+        StorePixel(Every(across.weights[at]), &spread[lightNumbers * at]);
+    }
     Pair sum = Both(0.0F);
     for (int row = 0; row < up.count; ++row) {
         const float* const pixels = corner + row * pitch;
         Pair line = Both(0.0F);
-        for (int n = 0; n < across.count; n += 2) {
-            const float* const weights = across.weights.data() + n;
-            line = line + LoadPair(pixels + 4 * n) * PairOf(weights[0], weights[1]);
+        for (int n = 0; n < 4 * across.count; n += 8) {
+            line = line + LoadPair(pixels + n) * LoadPair(spread.data() + n);
         }
         sum = sum + line * Both(up.weights[static_cast<std::size_t>(row)]);
     }
@@ -194,21 +207,15 @@ inline Pixel MixedColour(const float* corner, std::ptrdiff_t step, const Taps& a
 }
 
 // The axis that shrinks more comes first.
-HWY_NOINLINE void PutWideColour(const LightView& view, const FineRun& run, int n, float* out) {
-    Taps across;
-    Taps up;
-    WeighTaps(run.x[n], run.scaleX[n], across);
-    WeighTaps(run.y[n], run.scaleY[n], up);
+inline Pixel WideColour(const LightView& view, const Taps& across, const Taps& up) {
     const float* const corner =
         view.pixels + (up.first - view.bottom) * view.pitch + 4 * (across.first - view.left);
     constexpr float none = 1e5F;
     if (across.slack > none && up.slack > none) {
-        StorePixel(SmoothColour(corner, view.pitch, across, up), out);
-    } else if (across.slack >= up.slack) {
-        StorePixel(MixedColour(corner, 4, across, view.pitch, up), out);
-    } else {
-        StorePixel(MixedColour(corner, view.pitch, up, 4, across), out);
+        return SmoothColour(corner, view.pitch, across, up);
     }
+    return across.slack >= up.slack ? MixedColour(corner, 4, across, view.pitch, up)
+                                    : MixedColour(corner, view.pitch, up, 4, across);
 }
 
 // ---- runs ----
@@ -218,6 +225,25 @@ inline void PutSharpColour(const LightView& view, const Sharp& sharp, std::size_
                                 4 * (sharp.x[n] - 1 - view.left);
     StorePixel(SharpColour(corner, view.pitch, &sharp.weightsX[4 * n], &sharp.weightsY[4 * n]),
                out);
+}
+
+// The n-th pixel of the run, of which sharp has the k-th.
+HWY_NOINLINE void PutWideColour(const LightView& view, const FineRun& run, int n,
+                                const Sharp& sharp, float* out) {
+    const auto k = static_cast<std::size_t>(n) % pixelsAhead;
+    Taps across;
+    Taps up;
+    if (run.scaleX[n] > 1.0F) {
+        WeighTaps(run.x[n], run.scaleX[n], across);
+    } else {
+        across.TakeSharp(sharp.x[k], &sharp.weightsX[4 * k]);
+    }
+    if (run.scaleY[n] > 1.0F) {
+        WeighTaps(run.y[n], run.scaleY[n], up);
+    } else {
+        up.TakeSharp(sharp.y[k], &sharp.weightsY[4 * k]);
+    }
+    StorePixel(WideColour(view, across, up), out);
 }
 
 void SampleLightImpl(const LightView& view, const FineRun& run, float* out) {
@@ -232,9 +258,40 @@ void SampleLightImpl(const LightView& view, const FineRun& run, float* out) {
         } else if (run.scaleX[n] <= 1.0F && run.scaleY[n] <= 1.0F) {
             PutSharpColour(view, sharp, ahead, out);
         } else {
-            PutWideColour(view, run, n, out);
+            PutWideColour(view, run, n, sharp, out);
         }
     }
+}
+
+void ReachOfImpl(const FineRun& run, FineReach& reach) {
+    const Doubles d;
+    const hn::Rebind<float, Doubles> floats;
+    const auto far = hn::Set(d, std::numeric_limits<double>::infinity());
+    auto left = far;
+    auto bottom = far;
+    auto right = hn::Neg(far);
+    auto top = right;
+    auto scaleX = hn::Zero(floats);
+    auto scaleY = scaleX;
+    for (int n = 0; n < run.count; n += static_cast<int>(hn::Lanes(d))) {
+        const auto share = hn::LoadU(floats, run.share + n);
+        const auto isLeft = hn::Lt(hn::Iota(d, n), hn::Set(d, run.count));
+        const auto shown = hn::And(isLeft, hn::Gt(hn::PromoteTo(d, share), hn::Zero(d)));
+        const auto x = hn::LoadU(d, run.x + n);
+        const auto y = hn::LoadU(d, run.y + n);
+        left = hn::Min(left, hn::IfThenElse(shown, x, far));
+        right = hn::Max(right, hn::IfThenElse(shown, x, hn::Neg(far)));
+        bottom = hn::Min(bottom, hn::IfThenElse(shown, y, far));
+        top = hn::Max(top, hn::IfThenElse(shown, y, hn::Neg(far)));
+        scaleX = hn::Max(scaleX, hn::LoadU(floats, run.scaleX + n));
+        scaleY = hn::Max(scaleY, hn::LoadU(floats, run.scaleY + n));
+    }
+    reach.left = std::min(reach.left, hn::GetLane(hn::MinOfLanes(d, left)));
+    reach.right = std::max(reach.right, hn::GetLane(hn::MaxOfLanes(d, right)));
+    reach.bottom = std::min(reach.bottom, hn::GetLane(hn::MinOfLanes(d, bottom)));
+    reach.top = std::max(reach.top, hn::GetLane(hn::MaxOfLanes(d, top)));
+    reach.scaleX = std::max(reach.scaleX, hn::GetLane(hn::MaxOfLanes(floats, scaleX)));
+    reach.scaleY = std::max(reach.scaleY, hn::GetLane(hn::MaxOfLanes(floats, scaleY)));
 }
 
 void FillPolynomialImpl(const std::array<double, 6>& c, std::span<double> into) {
@@ -306,6 +363,7 @@ HWY_AFTER_NAMESPACE();
 namespace varnel {
 
 HWY_EXPORT(SampleLightImpl);
+HWY_EXPORT(ReachOfImpl);
 HWY_EXPORT(FillPolynomialImpl);
 HWY_EXPORT(CodeLightImpl);
 HWY_EXPORT(StoreBytesImpl);
@@ -313,6 +371,10 @@ HWY_EXPORT(StoreWordsImpl);
 
 void SampleLight(const LightView& view, const FineRun& run, float* out) {
     HWY_DYNAMIC_DISPATCH(SampleLightImpl)(view, run, out);
+}
+
+void ExtendReach(const FineRun& run, FineReach& reach) {
+    HWY_DYNAMIC_DISPATCH(ReachOfImpl)(run, reach);
 }
 
 void FillPolynomial(const std::array<double, 6>& c, std::span<double> into) {

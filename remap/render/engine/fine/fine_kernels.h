@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <span>
 
 #include "remap/image/transfer_curve.h"
@@ -42,6 +43,20 @@ struct FineRun {
     const float* share;  // pixels without one are not read
     int count = 0;
 };
+
+// The outermost positions of the pixels that have a share, and the largest scales; those of pixels
+// that have none may be among them.
+struct FineReach {
+    double left = std::numeric_limits<double>::infinity();
+    double bottom = left;
+    double right = -left;
+    double top = -left;
+    float scaleX = 0.0F;
+    float scaleY = 0.0F;
+
+    bool IsEmpty() const { return right < left; }
+};
+void ExtendReach(const FineRun& run, FineReach& reach);
 
 // By the kernel of fine_kernel.h, four numbers for each pixel; those without a share get zeros.
 void SampleLight(const LightView& view, const FineRun& run, float* out);

@@ -46,8 +46,10 @@ void LightSource::PutRow(const PixelBox& box, const std::uint8_t* row, float* ou
     const std::int32_t first = std::clamp(box.left, 0, photo_.width - 1);
     const std::int32_t end = std::clamp(box.right, first + 1, photo_.width);
     const auto pixelOf = [&](std::int32_t column) { return out + 4 * (column - box.left); };
-    for (std::int32_t x = std::max(first, box.left); x < std::min(end, box.right); ++x) {
-        PutPixel<Sample>(row + x * step, pixelOf(x));
+    const std::uint8_t* pixel = row + std::max(first, box.left) * step;
+    for (std::int32_t x = std::max(first, box.left); x < std::min(end, box.right);
+         ++x, pixel += step) {
+        PutPixel<Sample>(pixel, pixelOf(x));
     }
     for (std::int32_t x = box.left; x < std::min(first, box.right); ++x) {
         PutPixel<Sample>(row + first * step, pixelOf(x));

@@ -68,6 +68,9 @@ std::unique_ptr<PlaceFinder> CircleRowPlaces(const CircleRows& map, PixelSize ph
 // of its pixels.
 inline float ShareOnSide(double position, float scale, std::int32_t side) {
     const double wide = std::max(static_cast<double>(scale), 1e-3);
+    if (std::min(position + 0.5, side - 0.5 - position) >= wide / 2.0) {
+        return 1.0F;
+    }
     const double low = std::clamp((position + 0.5) / wide + 0.5, 0.0, 1.0);
     const double high = std::clamp((side - 0.5 - position) / wide + 0.5, 0.0, 1.0);
     return static_cast<float>(low * high);

@@ -91,6 +91,9 @@ constexpr std::array viewRows{
     OptionRow{u"outside", u"O",
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},
+    OptionRow{u"sampling", u"S",
+              u"classic: a blend of the four nearest pixels (default), or fine: sharper where the "
+              u"view is enlarged, free of moire where it is reduced."},
     OptionRow{u"marks", nullptr, u"Draw N, E, S, W and angles onto the result (unrolled)."},
     OptionRow{
         u"faces", u"X,Y,W,H[,A]",
@@ -172,6 +175,7 @@ constexpr std::array wordOptions{
     WordOption{u"unroll-direction", u"UnrollDirection", u"1 or -1"},
     WordOption{u"camera-pose", u"Pose", u"level, up or down"},
     WordOption{u"tunnel", u"Tunnel", u""},
+    WordOption{u"sampling", u"Sampling", u"classic or fine"},
 };
 
 }  // namespace

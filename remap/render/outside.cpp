@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "remap/render/engine/batches.h"
+#include "remap/render/engine/fine/fine_coverage.h"
 #include "remap/render/outside_rows.h"
 
 namespace varnel {
@@ -146,6 +147,9 @@ BitmapHandle CoverageRows::Rows(LineRange rows) const {
     band.output.whole = frames_.output.Whole();
     band.output.corner.y += rows.first;
     band.output.size.height = rows.Count();
+    if (image_.Sampling == SamplingKind::Fine) {
+        return FineCoverage(projection_, image_, band, white_->Format());
+    }
     BitmapHandle drawn = NewBitmap(band.output.size, white_->Format());
     SerialRunner runner;
     const RenderSurface surface(white_.get(), drawn.get(), band.output, runner);

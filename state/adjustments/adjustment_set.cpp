@@ -28,7 +28,7 @@ constexpr std::array names{
     QLatin1StringView("OutputHeight"),    QLatin1StringView("CropLeft"),
     QLatin1StringView("CropTop"),         QLatin1StringView("CropWidth"),
     QLatin1StringView("CropHeight"),      QLatin1StringView("Outside"),
-    QLatin1StringView("Marks"),
+    QLatin1StringView("Marks"),           QLatin1StringView("Sampling"),
 };
 
 constexpr QLatin1StringView textKey("VarnelAdjustments");

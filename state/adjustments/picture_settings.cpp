@@ -91,7 +91,7 @@ constexpr std::array numberFields{
 // Words, written like sparse numbers.
 constexpr std::array wordFields{
     QLatin1StringView("Pose"),  QLatin1StringView("Tunnel"), QLatin1StringView("Outside"),
-    QLatin1StringView("Marks"), QLatin1StringView("Faces"),
+    QLatin1StringView("Marks"), QLatin1StringView("Faces"),  QLatin1StringView("Sampling"),
 };
 
 struct Texts {

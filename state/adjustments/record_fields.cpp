@@ -11,6 +11,7 @@
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/face_text.h"
 #include "state/adjustments/outside_text.h"
+#include "state/adjustments/sampling_text.h"
 #include "state/settings/number_text.h"
 
 namespace varnel {
@@ -20,7 +21,8 @@ namespace {
 using FieldPointer =
     std::variant<std::int16_t ImageRecord::*, std::int32_t ImageRecord::*, Bool16 ImageRecord::*,
                  float ImageRecord::*, QString ImageRecord::*, OutsideFill ImageRecord::*,
-                 CameraPose ImageRecord::*, std::vector<FaceEllipse> ImageRecord::*>;
+                 CameraPose ImageRecord::*, std::vector<FaceEllipse> ImageRecord::*,
+                 SamplingKind ImageRecord::*>;
 
 struct Field {
     QLatin1StringView name;
@@ -89,10 +91,11 @@ constexpr std::array fields{
     VARNEL_FIELD(Tunnel),
     VARNEL_FIELD(Marks),
     VARNEL_FIELD(Faces),
+    VARNEL_FIELD(Sampling),
 };
 #undef VARNEL_FIELD
 #undef VARNEL_PART
-static_assert(fields.size() == 52);
+static_assert(fields.size() == 53);
 
 constexpr std::array poses{std::pair{QLatin1StringView("level"), CameraPose::Level},
                            std::pair{QLatin1StringView("up"), CameraPose::Up},
@@ -145,6 +148,10 @@ std::optional<CameraPose> Parse(const QString& text, CameraPose /*kind*/) {
     return std::nullopt;
 }
 
+std::optional<SamplingKind> Parse(const QString& text, SamplingKind /*kind*/) {
+    return SamplingFromText(text);
+}
+
 std::optional<OutsideFill> Parse(const QString& text, const OutsideFill& /*kind*/) {
     return OutsideFromText(text);
 }
@@ -181,6 +188,10 @@ QString TextOf(const QString& value) {
 
 QString TextOf(const std::vector<FaceEllipse>& value) {
     return TextOfFaces(value);
+}
+
+QString TextOf(SamplingKind value) {
+    return ToText(value);
 }
 
 QString TextOf(CameraPose value) {

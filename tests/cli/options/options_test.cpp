@@ -124,6 +124,7 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --unroll-to 200 a", "--unroll-to needs a number from 0 to 180, not \"200\""},
         {"p --unroll-direction 0 a", "--unroll-direction needs 1 or -1, not \"0\""},
         {"p --camera-pose x a", "--camera-pose needs level, up or down, not \"x\""},
+        {"p --sampling best a", "--sampling needs classic or fine, not \"best\""},
         {"p -", "-: photos do not come from standard input"},
         {"p --like - a", "--like -: photos do not come from"},
         {"p --output - a", "--output -: results do not go to standard output"},
@@ -174,7 +175,7 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
 TEST(ParseOptions, NumbersOfSingleProjectionsAndListsOfThem) {
     const Options options = std::get<Options>(
         Parse("p --projection little-planet,Panini,all,panini --panini-d 0.5 --camera-pose up "
-              "--tunnel --unroll-direction -1 --set Pose=down a"));
+              "--tunnel --unroll-direction -1 --sampling fine --set Pose=down a"));
     using enum Projection;
     EXPECT_EQ(options.projections,
               (std::vector{LittlePlanet, Panini, Varnel, Rectilinear, Equidistance, Horizon}));
@@ -186,6 +187,7 @@ TEST(ParseOptions, NumbersOfSingleProjectionsAndListsOfThem) {
     EXPECT_EQ(record.Pose, CameraPose::Down);
     EXPECT_TRUE(record.Tunnel);
     EXPECT_EQ(record.UnrollDirection, -1);
+    EXPECT_EQ(record.Sampling, SamplingKind::Fine);
 }
 
 TEST(ParseOptions, DashesInTheirPlacesAreNoMistake) {

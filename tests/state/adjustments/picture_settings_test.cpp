@@ -66,6 +66,7 @@ ImageRecord AwkwardRecord() {
     record.Pose = CameraPose::Up;
     record.Tunnel = true;
     record.Marks = true;
+    record.Sampling = SamplingKind::Fine;
     record.Lens = testing::OffCentreLensOf(record, {6000, 4000});
     record.Faces = {{0.1 + 0.2, 0.4, 1.0 / 3.0, 0.2, -12.5}, {1.2, -0.1, 0.05, 0.1, 0.0}};
     record.FurtherSettings = {{Text("Softness"), Text("12,5 %")}, {Text("Empty"), Text("")}};
@@ -104,7 +105,7 @@ TEST(PictureSettings, ARecordComesBackAsItWasInEveryLocale) {
 TEST(PictureSettings, StateAFrameOnlyWhereThereIsOne) {
     const PictureSettings settings = SettingsFrom(testing::FisheyeRecord());
     for (const char* name : {"OutputWidth", "OutputHeight", "CropLeft", "CropTop", "CropWidth",
-                             "CropHeight", "Outside"}) {
+                             "CropHeight", "Outside", "Sampling"}) {
         EXPECT_FALSE(settings.contains(Text(name))) << name;
     }
 }

@@ -20,7 +20,8 @@ TEST(FieldNames, ListsAllFieldsInTheRecordsOrder) {
             "Ratio InputAOV OutputAOV EffectVarnel EffectRectilinear RotateX RotateY RotateZ "
             "TranslateX TranslateY Folder FileName NameSuffix Orientation OutputWidth OutputHeight "
             "CropLeft CropTop CropWidth CropHeight Outside PaniniD PaniniSqueeze "
-            "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel Marks Faces"));
+            "UnrollStart UnrollDirection UnrollFrom UnrollTo Pose Tunnel Marks Faces "
+            "Sampling"));
 }
 
 // A field whose row points at another member would set two names to one place.
@@ -30,11 +31,12 @@ TEST(SetField, ReachesADifferentMemberByEveryName) {
         ImageRecord image;
         const bool isFrame =
             name.startsWith(u"Crop") || name == u"OutputWidth" || name == u"OutputHeight";
-        const QString value = name == u"Outside" ? QStringLiteral("#010203")
-                              : name == u"Pose"  ? QStringLiteral("up")
-                              : name == u"Faces" ? QStringLiteral("0.5,0.5,0.1,0.1")
-                              : isFrame          ? QStringLiteral("1")
-                                                 : QStringLiteral("-1");
+        const QString value = name == u"Outside"    ? QStringLiteral("#010203")
+                              : name == u"Pose"     ? QStringLiteral("up")
+                              : name == u"Sampling" ? QStringLiteral("fine")
+                              : name == u"Faces"    ? QStringLiteral("0.5,0.5,0.1,0.1")
+                              : isFrame             ? QStringLiteral("1")
+                                                    : QStringLiteral("-1");
         EXPECT_EQ(SetField(image, name, value), FieldResult::Ok) << name.toStdString();
         EXPECT_EQ(std::count(seen.begin(), seen.end(), image), 0) << name.toStdString();
         seen.push_back(image);
@@ -66,6 +68,9 @@ TEST(SetField, TakesValuesByTheFieldsKind) {
         {"Outside", "#0aFF10", Ok, "#0aff10"},
         {"Outside", "#12345g", BadValue},
         {"Outside", "white", BadValue},
+        {"Sampling", "Fine", Ok, "fine"},
+        {"Sampling", "classic", Ok, "classic"},
+        {"Sampling", "1", BadValue},
         {"Width", "32768", BadValue},
         {"Width", "-32769", BadValue},
         {"Width", "1.5", BadValue},

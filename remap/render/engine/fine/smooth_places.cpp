@@ -59,7 +59,10 @@ struct NodeRows {
     // By the nodes around, i from the first of them.
     float Scale(std::vector<double> ControlPointLine::*offset, std::size_t i) const {
         const std::vector<double>& along = row->*offset;
-        return Length((along[i + 1] - along[i - 1]) / (2.0 * row->step),
+        // The fourth-order difference: nodes may be far apart for how the map bends.
+        const double slope =
+            (8.0 * (along[i + 1] - along[i - 1]) - along[i + 2] + along[i - 2]) / 12.0;
+        return Length(slope / row->step,
                       ((above->*offset)[i] - (below->*offset)[i]) / 2.0 * height);
     }
     // Where each pixel is a node.
@@ -208,22 +211,32 @@ class SmoothRows : public PlaceRows {
     }
 
     // Each pixel as a node, and by the map itself where that gives no number.
+    ControlPointLine CloseLine(PixelPosition from, int count) const {
+        ControlPointLine line = Line(from, count, 1);
+        for (std::size_t n = 0; n < line.u.size(); ++n) {
+            if (!std::isfinite(line.u[n]) || !std::isfinite(line.v[n])) {
+                const SourceOffset offset =
+                    finder_.Map().At(from.x + static_cast<int>(n) - nodesAround, from.y);
+                line.u[n] = offset.u;
+                line.v[n] = offset.v;
+            }
+        }
+        return line;
+    }
+
     void FillClosely(const PlaceRun& part, Places& into) const {
-        const ControlPointLine below = Line({part.x, part.y - 1}, part.count, 1);
-        const ControlPointLine row = Line({part.x, part.y}, part.count, 1);
-        const ControlPointLine above = Line({part.x, part.y + 1}, part.count, 1);
+        const ControlPointLine below = CloseLine({part.x, part.y - 1}, part.count);
+        const ControlPointLine row = CloseLine({part.x, part.y}, part.count);
+        const ControlPointLine above = CloseLine({part.x, part.y + 1}, part.count);
         const NodeRows nodes{&below, &row, &above, static_cast<double>(part.height)};
         for (int n = 0; n < part.count; ++n) {
             const auto i = static_cast<std::size_t>(n + nodesAround);
-            const SourceOffset offset = std::isfinite(row.u[i])
-                                            ? SourceOffset{row.u[i], row.v[i]}
-                                            : finder_.Map().At(part.x + n, part.y);
-            PutClose(offset, nodes, i, part.at + static_cast<std::size_t>(n), into);
+            PutClose(nodes, i, part.at + static_cast<std::size_t>(n), into);
         }
     }
 
-    void PutClose(const SourceOffset& offset, const NodeRows& nodes, std::size_t i, std::size_t at,
-                  Places& into) const {
+    void PutClose(const NodeRows& nodes, std::size_t i, std::size_t at, Places& into) const {
+        const SourceOffset offset{nodes.row->u[i], nodes.row->v[i]};
         constexpr double farthest = 1e6;  // what is nowhere on the photo lies beyond that
         into.x[at] = centre_.x + offset.u;
         into.y[at] = centre_.y + offset.v;

@@ -92,8 +92,8 @@ constexpr std::array viewRows{
               u"Beside the photo and its image circle: transparent (PNG, TIFF), black (default) or "
               u"#rrggbb."},
     OptionRow{u"sampling", u"S",
-              u"classic: a blend of the four nearest pixels (default), or fine: sharper where the "
-              u"view is enlarged, free of moire where it is reduced."},
+              u"classic (default), or fine: sharper where the view is enlarged, no moire where "
+              u"reduced."},
     OptionRow{u"marks", nullptr, u"Draw N, E, S, W and angles onto the result (unrolled)."},
     OptionRow{
         u"faces", u"X,Y,W,H[,A]",

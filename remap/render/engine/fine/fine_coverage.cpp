@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <type_traits>
 
 #include "remap/render/engine/fine/fine_engine.h"
 #include "remap/render/engine/projection_engine.h"
@@ -48,32 +47,28 @@ class PhotoCircle {
 };
 
 template <class Sample>
-Sample SampleOf(float share) {
+Sample SampleOfShare(float share) {
     if constexpr (std::is_same_v<Sample, float>) {
         return share;
     } else {
-        return static_cast<Sample>(
-            std::lround(share * static_cast<float>(std::numeric_limits<Sample>::max())));
+        constexpr auto most = static_cast<float>(std::numeric_limits<Sample>::max());
+        return static_cast<Sample>(std::lround(share * most));
     }
 }
 
-void PutShares(float ofCircle, float ofPhoto, PixelFormat format, std::uint8_t* pixel) {
-    WithSample(SampleKindOf(format), [&](auto kind) {
-        using Sample = decltype(kind);
-        PutSample(pixel, 0, SampleOf<Sample>(ofCircle));
-        PutSample(pixel, 1, SampleOf<Sample>(ofPhoto));
-    });
-}
-
 // A row of the result that the map shows.
+template <class Sample>
 void PutRow(const ResultGrid& grid, const Places& places, const PhotoCircle& circle,
-            const SpanTarget& out) {
+            std::uint8_t* out) {
     for (int n = 0; n < grid.Across().Count(); ++n) {
         const std::int32_t column = grid.ColumnOf(grid.Across().first + n);
         const float share = places.share[static_cast<std::size_t>(n)];
         if (column >= 0 && share > 0.0F) {
             const float within = circle.ShareOf(places, static_cast<std::size_t>(n));
-            PutShares(share * within, share, out.format, out.At(column));
+            std::uint8_t* const pixel =
+                out + static_cast<std::ptrdiff_t>(3 * sizeof(Sample)) * column;
+            PutSample(pixel, 0, SampleOfShare<Sample>(share * within));
+            PutSample(pixel, 1, SampleOfShare<Sample>(share));
         }
     }
 }
@@ -100,7 +95,9 @@ BitmapHandle FineCoverage(Projection projection, const ImageRecord& image, const
         finder->RowsOf(grid.Across(), {line.position, line.position})
             ->Fill({grid.Across().first, line.position, grid.Across().Count(), grid.StepAt(row), 0},
                    places);
-        PutRow(grid, places, circle, TargetView::Of(coverage.get()).From(0, row));
+        WithSample(SampleKindOf(format), [&](auto kind) {
+            PutRow<decltype(kind)>(grid, places, circle, coverage->ScanLine(row).data());
+        });
     }
     SerialRunner runner;
     RenderSurface(coverage.get(), coverage.get(), frames.output, runner).BlackenBeside(shown);

@@ -10,7 +10,7 @@
 
 namespace varnel {
 
-// As large as the frames' result, of a format without alpha: blue is the share of the circle, green
+// As large as the frames' result, in a format without alpha: blue is the share of the circle, green
 // that of the photo, from black to white. Without a circle it is all of the photo.
 BitmapHandle FineCoverage(Projection projection, const ImageRecord& image, const Frames& frames,
                           PixelFormat format);

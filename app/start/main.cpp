@@ -44,6 +44,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     TellOf(userStore, notices);
     FirstGearPrompt gearPrompt;
     SaveFileDialog fileChooser;
+    BeginSettings(userStore);  // before it is noted that there are some
     if (const std::optional<QString> reminder = CheckRevisionAge(userStore, QDate::currentDate())) {
         MessageBoxes::Inform(*reminder);
     }

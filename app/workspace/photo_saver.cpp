@@ -113,7 +113,8 @@ void PhotoSaver::SaveAs(FileChooser& chooser) {
         TakeWish(choice->output->wish, model_.state.settings);
     }
     CancelFlag cancelled = false;
-    const SaveResult saved = SaveLocked(image, *choice, cancelled);
+    const SaveResult saved =
+        SaveLocked(AsSaved(image, SamplingOf(model_.state.settings)), *choice, cancelled);
     if (!saved && cancelled) {
         ports_.view.ShowStatus(CancelledText());
     } else {

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "base/error_text.h"
+#include "pipeline/output/save_wish.h"
 #include "remap/image/photo_date.h"
 
 namespace varnel {
@@ -101,7 +102,7 @@ class Batch : public ConversionObserver {
         ConversionRecords records;
         for (int entry = firstEntries_[photo]; entry < firstEntries_[photo + 1]; ++entry) {
             TakeSize({SizeOf(picture.bitmap.get()), picture.orientation}, queue_(entry));
-            records.all.push_back(queue_(entry));
+            records.all.push_back(AsSaved(queue_(entry), choices_.sampling));
         }
         return records;
     }

@@ -29,6 +29,7 @@ struct BatchChoices {
     bool nextToPhoto = false;   // each file goes into its photo's folder instead
     OutputDepth depth = OutputDepth::Own;
     TiffCompression compression = TiffCompression::Usual;
+    SamplingKind sampling = SamplingKind::Classic;
 };
 
 inline OutputEncoding EncodingOf(const BatchChoices& choices) {

@@ -97,9 +97,9 @@ FormBatch::~FormBatch() = default;
 
 void FormBatch::FillChoices() {
     const BatchChoices& last = job_.choices;
-    const SaveWish wish = last.folder.isEmpty()
-                              ? WishOf(settings_)
-                              : SaveWish{EncodingOf(last), last.writeMetadata, last.pattern};
+    const SaveWish wish = last.folder.isEmpty() ? WishOf(settings_)
+                                                : SaveWish{EncodingOf(last), last.writeMetadata,
+                                                           last.pattern, last.sampling};
     ui_->PanelOutput->Show(wish, usualPattern);
     ui_->PanelOutput->SetNextToPhoto(job_.choices.nextToPhoto);
     AddNameAdditions();
@@ -206,7 +206,8 @@ BatchChoices FormBatch::Choices() const {
                          wish.pattern,
                          ui_->PanelOutput->NextToPhoto(),
                          wish.encoding.depth,
-                         wish.encoding.compression};
+                         wish.encoding.compression,
+                         wish.sampling};
     for (const auto& [projection, box] : additions_) {
         choices.additions.texts[projection] = box->text();
     }

@@ -31,6 +31,7 @@ OutputPanel::OutputPanel(QWidget* parent)
     connect(ui_->ComboFileType, &QComboBox::currentIndexChanged, this, &OutputPanel::WishChanged);
     connect(ui_->SliderJPEGcompression, &QSlider::valueChanged, this, &OutputPanel::WishChanged);
     connect(ui_->Chroma444Check, &QCheckBox::toggled, this, &OutputPanel::WishChanged);
+    connect(ui_->FineSamplingCheck, &QCheckBox::toggled, this, &OutputPanel::WishChanged);
     connect(ui_->WriteMetadataCheck, &QCheckBox::toggled, this, &OutputPanel::WishChanged);
     connect(ui_->TextNamePattern, &QLineEdit::textChanged, this, &OutputPanel::WishChanged);
     connect(ui_->NextToPhotoCheck, &QCheckBox::toggled, this, &OutputPanel::NextToPhotoToggled);
@@ -46,6 +47,7 @@ void OutputPanel::Show(const SaveWish& wish, const QString& usual) {
     SetType(wish.encoding.type);
     ui_->SliderJPEGcompression->setValue(wish.encoding.quality);
     ui_->Chroma444Check->setChecked(wish.encoding.chroma444);
+    ui_->FineSamplingCheck->setChecked(wish.sampling == SamplingKind::Fine);
     ui_->WriteMetadataCheck->setChecked(wish.writeMetadata);
     ui_->TextNamePattern->setText(wish.pattern.isEmpty() ? usual : wish.pattern);
     ui_->TextNamePattern->setPlaceholderText(usual);
@@ -59,7 +61,8 @@ SaveWish OutputPanel::Wish() const {
     encoding.quality = ui_->SliderJPEGcompression->value();
     encoding.chroma444 = ui_->Chroma444Check->isChecked();
     return {encoding, ui_->WriteMetadataCheck->isChecked(),
-            pattern == usualPattern_ || !PatternError().isEmpty() ? QString() : pattern};
+            pattern == usualPattern_ || !PatternError().isEmpty() ? QString() : pattern,
+            ui_->FineSamplingCheck->isChecked() ? SamplingKind::Fine : SamplingKind::Classic};
 }
 
 // An empty box means the usual names.
@@ -80,8 +83,8 @@ void OutputPanel::ShowSize(const QString& size) {
 
 QList<QWidget*> OutputPanel::TabOrder() const {
     return {ui_->ComboFileType,   ui_->SliderJPEGcompression, ui_->SpinSliderJPEGcompression,
-            ui_->Chroma444Check,  ui_->WriteMetadataCheck,    ui_->TextNamePattern,
-            ui_->NextToPhotoCheck};
+            ui_->Chroma444Check,  ui_->FineSamplingCheck,     ui_->WriteMetadataCheck,
+            ui_->TextNamePattern, ui_->NextToPhotoCheck};
 }
 
 void OutputPanel::HideType() {

@@ -46,7 +46,15 @@ OutputEncoding EncodingOf(const GeneralSettings& settings) {
 }
 
 SaveWish WishOf(const GeneralSettings& settings) {
-    return {EncodingOf(settings), settings.WriteMetadata, settings.NamePattern};
+    return {EncodingOf(settings), settings.WriteMetadata, settings.NamePattern,
+            SamplingOf(settings)};
+}
+
+ImageRecord AsSaved(ImageRecord image, SamplingKind wished) {
+    if (wished == SamplingKind::Fine) {
+        image.Sampling = wished;
+    }
+    return image;
 }
 
 void TakeWish(const SaveWish& wish, GeneralSettings& settings) {
@@ -54,6 +62,7 @@ void TakeWish(const SaveWish& wish, GeneralSettings& settings) {
     settings.JPEGchroma444 = wish.encoding.chroma444;
     settings.WriteMetadata = wish.writeMetadata;
     settings.NamePattern = wish.pattern;
+    settings.FineSampling = wish.sampling == SamplingKind::Fine;
 }
 
 SampleKind SamplesOfFile(const OutputEncoding& encoding, SampleKind photo) {

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "remap/encode/output_type.h"
+#include "state/records/image_record.h"
 #include "state/settings/general_settings.h"
 
 namespace varnel {
@@ -18,6 +19,7 @@ struct SaveWish {
     OutputEncoding encoding;
     bool writeMetadata = true;  // the photo's go into its file
     QString pattern;            // of names; empty: the usual ones
+    SamplingKind sampling = SamplingKind::Classic;
 
     bool operator==(const SaveWish&) const = default;
 };
@@ -28,6 +30,11 @@ OutputEncoding EncodingOf(const GeneralSettings& settings);
 // The settings' wish, and a wish into the settings; the type of a file that was never chosen stays.
 SaveWish WishOf(const GeneralSettings& settings);
 void TakeWish(const SaveWish& wish, GeneralSettings& settings);
+// A record as the window saves it: by the better of its own sampling and the one that is wished.
+ImageRecord AsSaved(ImageRecord image, SamplingKind wished);
+inline SamplingKind SamplingOf(const GeneralSettings& settings) {
+    return settings.FineSampling ? SamplingKind::Fine : SamplingKind::Classic;
+}
 
 // What a picture of such samples has in a file.
 SampleKind SamplesOfFile(const OutputEncoding& encoding, SampleKind photo);

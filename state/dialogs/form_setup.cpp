@@ -31,6 +31,7 @@ struct Check {
 
 std::array<Check, 7> ChecksOf(const Ui::FormSetup& ui) {
     return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
+             {ui.FineSamplingCheck, &GeneralSettings::FineSampling},
              {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},
              {ui.OfferGearCheck, &GeneralSettings::OfferGear},
              {ui.TakeGearCheck, &GeneralSettings::TakeGear},

@@ -15,6 +15,13 @@ int LanguagePosition(QStringView code) {
     return found == languages.end() ? 0 : static_cast<int>(found - languages.begin());
 }
 
+void BeginSettings(SettingsStore& store) {
+    const bool isNew = store.Get(setting::Revision, setting::RevisionAge, {}).isEmpty();
+    if (isNew && store.Get(setting::General, setting::FineSampling, {}).isEmpty()) {
+        store.Save(setting::General, setting::FineSampling, QStringLiteral("1"));
+    }
+}
+
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
                   const GeneralSettings& settings) {
     store.Save(setting::Gear, setting::DefaultGearName, defaultGearName);
@@ -29,6 +36,7 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
         save(key, QString::number(flag ? 1 : 0));
     };
     saveFlag(setting::JpegChroma444, settings.JPEGchroma444);
+    saveFlag(setting::FineSampling, settings.FineSampling);
     saveFlag(setting::AutoOrient, settings.AutoOrient);
     saveFlag(setting::OfferGear, settings.OfferGear);
     saveFlag(setting::TakeGear, settings.TakeGear);

@@ -32,6 +32,10 @@ inline constexpr std::array languages{
 // The index of a language in that list; any other text means the first one.
 int LanguagePosition(QStringView code);
 
+// Before anything else is done with the settings: a new installation's window saves by the fine
+// sampling, while settings of older releases, which know of none, keep the classic one.
+void BeginSettings(SettingsStore& store);
+
 // Writes the default gear and the general settings, in this order: gear, width, height, file type,
 // quality, what is on or off, the compression of TIFF files, language.
 void SaveDefaults(SettingsStore& store, const QString& defaultGearName,

@@ -38,6 +38,7 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
         flag = ReadFlag(store, key, flag);
     };
     read(settings.JPEGchroma444, setting::JpegChroma444);
+    read(settings.FineSampling, setting::FineSampling);
     read(settings.AutoOrient, setting::AutoOrient);
     read(settings.OfferGear, setting::OfferGear);
     read(settings.TakeGear, setting::TakeGear);

@@ -29,6 +29,7 @@ struct GeneralSettings {
     QString NamePattern = {};  // of written files, for this run; empty: the usual names
     bool KeepDepth = true;     // photos are read and written with as many bits as they have
     QString TiffCompression = QStringLiteral("auto");  // a text of remap/encode/output_depth.h
+    bool FineSampling = false;                         // the window saves by the fine sampling
 
     bool operator==(const GeneralSettings&) const = default;
 };

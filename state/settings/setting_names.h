@@ -25,6 +25,7 @@ inline constexpr QLatin1StringView PreviewHeight("PreviewHeight");
 inline constexpr QLatin1StringView FileType("FileType");
 inline constexpr QLatin1StringView JpegCompression("JPEGcompression");
 inline constexpr QLatin1StringView JpegChroma444("JPEGchroma444");  // this and the next: 1 or 0
+inline constexpr QLatin1StringView FineSampling("FineSampling");    // since 1.1
 inline constexpr QLatin1StringView AutoOrient("AutoOrient");
 inline constexpr QLatin1StringView OfferGear("OfferGear");
 inline constexpr QLatin1StringView TakeGear("TakeGear");  // since 1.1

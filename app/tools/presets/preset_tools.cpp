@@ -19,7 +19,7 @@ namespace {
 void TakeOutput(const PictureSettings& preset, BatchChoices& batch) {
     GeneralSettings settings;
     settings.FileType = ToText(batch.type);
-    TakeWish({EncodingOf(batch), batch.writeMetadata, batch.pattern}, settings);
+    TakeWish({EncodingOf(batch), batch.writeMetadata, batch.pattern, batch.sampling}, settings);
     varnel::TakeOutput(preset, settings);
     const SaveWish wish = WishOf(settings);
     batch.type = wish.encoding.type;

@@ -11,6 +11,7 @@
 
 #include "app/panels/menu_entry.h"
 #include "app/tools/hold_key.h"
+#include "pipeline/output/save_wish.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -196,7 +197,8 @@ RegionScheduler::Wish ZoomTools::Wish() const {
         return {};
     }
     const ImageRecord& drawn = view_.Drawn();
-    return {Photo(), ProjectionFromIndex(drawn.Projection), drawn, VisibleRows()};
+    return {Photo(), ProjectionFromIndex(drawn.Projection),
+            AsSaved(drawn, SamplingOf(state_.settings)), VisibleRows()};
 }
 
 RowSpan ZoomTools::VisibleRows() const {

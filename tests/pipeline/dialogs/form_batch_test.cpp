@@ -207,10 +207,12 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     The<QSlider>("SliderJPEGcompression").setValue(61);
     Click("Chroma444Check");
     Click("WriteMetadataCheck");
+    Click("FineSamplingCheck");
     The<QLineEdit>("TextNamePattern").setText(Text("{n}"));
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_EQ(form->result(), QDialog::Rejected);
     EXPECT_TRUE(!choices.writeMetadata && choices.chroma444);
+    EXPECT_EQ(choices.sampling, SamplingKind::Fine);
     settings.FileType = Text("PNG");
     Open();
     EXPECT_EQ(Label("LabelFolder"), Out());
@@ -220,6 +222,7 @@ TEST_F(FormBatchTest, RemembersTheChoicesHoweverItIsLeft) {
     EXPECT_EQ(The<QLineEdit>("TextNamePattern").text(), Text("{n}"));
     form->reject();
     EXPECT_TRUE(choices.chroma444 && !choices.writeMetadata);
+    EXPECT_EQ(choices.sampling, SamplingKind::Fine);
     EXPECT_EQ(choices.pattern, Text("{n}"));
     EXPECT_EQ(queue.UpperBound(), 1);
 }

@@ -163,7 +163,7 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
     EXPECT_EQ(store.written.join(u'\n'),
               Text("Gear/DefaultGearName=Gear 1\nsetting/PreviewWidth=1000\n"
                    "setting/PreviewHeight=300\nsetting/FileType=JPEG\n"
-                   "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\n"
+                   "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\nsetting/FineSampling=0\n"
                    "setting/AutoOrient=1\nsetting/OfferGear=1\nsetting/TakeGear=1\n"
                    "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/KeepDepth=1\n"
                    "setting/TiffCompression=auto\nsetting/Language=en"));
@@ -181,6 +181,8 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
         bool atFirst;
     } rows[] = {{"Chroma444Check", "Full colour resolution (4:4:4)", "JPEGchroma444",
                  &GeneralSettings::JPEGchroma444, false},
+                {"FineSamplingCheck", "Best quality (fine sampling)", "FineSampling",
+                 &GeneralSettings::FineSampling, false},
                 {"AutoOrientCheck", "Turn photos upright", "AutoOrient",
                  &GeneralSettings::AutoOrient, true},
                 {"OfferGearCheck", "Offer the gear that a photo tells", "OfferGear",

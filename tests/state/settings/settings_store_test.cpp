@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "base/error_text.h"
+#include "state/settings/default_choices.h"
 #include "state/settings/general_settings.h"
 #include "state/settings/number_text.h"
 #include "state/settings/setting_names.h"
@@ -242,6 +243,8 @@ TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
         {"TiffCompression", "zstd", {.TiffCompression = Text("zstd")}},
         {"WriteMetadata", "0", {400, 300, Text("JPG"), 100, false, true, true, false}},
         {"WriteMetadata", "-1", {400, 300, Text("JPG"), 100, false, true, true, true}},
+        {"FineSampling", "1", {.FineSampling = true}},
+        {"FineSampling", "yes", {}},
         {"WriteSettings", "0", {400, 300, Text("JPG"), 100, false, true, true, true, false}},
         {"WriteSettings", "1", {400, 300, Text("JPG"), 100, false, true, true, true, true}},
     };
@@ -251,6 +254,20 @@ TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
         EXPECT_EQ(LoadSettings(store), c.expected) << c.key << '=' << c.text;
         EXPECT_EQ(store.Get(Text("setting"), Text(c.key), {}), Text(c.text)) << "rewritten";
     }
+}
+
+TEST(BeginSettings, OnlyANewInstallationSavesByTheFineSampling) {
+    MemoryStore fresh;
+    BeginSettings(fresh);
+    EXPECT_TRUE(LoadSettings(fresh).FineSampling);
+    MemoryStore older;
+    older.Save(Text("Revision"), Text("RevisionAge"), Text("0"));
+    BeginSettings(older);
+    EXPECT_FALSE(LoadSettings(older).FineSampling);
+    MemoryStore chosen;
+    chosen.Save(Text("setting"), Text("FineSampling"), Text("0"));
+    BeginSettings(chosen);
+    EXPECT_FALSE(LoadSettings(chosen).FineSampling);
 }
 
 }  // namespace

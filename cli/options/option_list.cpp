@@ -116,8 +116,9 @@ constexpr std::array outputRows{
               u"Names of the results of {name} {ending} {projection} {tags} {suffix} {n} {date}."},
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
-    OptionRow{u"type", u"TYPE",
-              u"tiff, jpeg, bmp or png; default: the ending of --output, else the setting."},
+    OptionRow{
+        u"type", u"TYPE",
+        u"tiff, jpeg, bmp, png or exr; default: by the ending of --output, else the setting."},
     OptionRow{u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."},
     OptionRow{u"chroma", u"C",
               u"444: JPEG with colour at full resolution, 420: at half of it; default: the "

@@ -339,7 +339,7 @@ void CheckTogether(const Options& options) {
     if (!options.type && IsOtherPictureName(options.output)) {
         throw UsageError{
             QStringLiteral("--output %1: no pictures of this type are written; end the "
-                           "name in .tif, .jpg, .bmp or .png, or give --type")
+                           "name in .tif, .jpg, .bmp, .png or .exr, or give --type")
                 .arg(options.output)};
     }
     if (options.skipExisting && options.force) {

@@ -66,8 +66,7 @@ void TakeWish(const SaveWish& wish, GeneralSettings& settings) {
 }
 
 SampleKind SamplesOfFile(const OutputEncoding& encoding, SampleKind photo) {
-    return SamplesWithin(FormatOf(encoding.type).holds.bitsPerSample,
-                         SamplesFor(encoding.depth, photo));
+    return SamplesIn(encoding.type, SamplesFor(encoding.depth, photo));
 }
 
 qint64 UsualBytes(double pixels, const OutputEncoding& encoding, SampleKind photo) {

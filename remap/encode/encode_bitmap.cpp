@@ -5,6 +5,7 @@
 
 #include <new>
 
+#include "remap/encode/linear_light.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/encode/output_format.h"
 #include "remap/encode/sample_depth.h"
@@ -100,17 +101,26 @@ EncodedBitmap EncodedAsItIs(const OutputEncoding& encoding, const Bitmap& bitmap
 
 // Why the file has fewer bits than the picture was wanted with.
 Reason ReducedBits(OutputType type, SampleKind wanted, SampleKind samples) {
-    return wanted == samples ? Reason()
-                             : Reason(ReasonCode::TypeHoldsFewerBits,
-                                      qint64{BitsPerSample(samples)}, ToText(type));
+    return BitsPerSample(samples) >= BitsPerSample(wanted)
+               ? Reason()
+               : Reason(ReasonCode::TypeHoldsFewerBits, qint64{BitsPerSample(samples)},
+                        ToText(type));
+}
+
+// Linear light where the type has nothing else.
+bool IsToBeLinear(OutputType type, const Bitmap& bitmap) {
+    return FormatOf(type).holds.leastBits > 16 && !bitmap.metadata.colourProfile.isEmpty();
 }
 
 EncodedBitmap EncodedIn(SampleKind samples, const OutputEncoding& encoding, const Bitmap& bitmap,
                         const EncodeOptions& options) {
     try {
         SerialRunner serial;
-        const BitmapHandle other =
-            InSamples(bitmap, samples, options.runner != nullptr ? *options.runner : serial);
+        BlockRunner& runner = options.runner != nullptr ? *options.runner : serial;
+        BitmapHandle other = InSamples(bitmap, samples, runner);
+        if (IsToBeLinear(encoding.type, bitmap)) {
+            other = InLinearLight(*other, runner);
+        }
         return EncodedAsItIs(encoding, *other, options);
     } catch (const std::bad_alloc&) {
         return {{}, ReasonCode::NotEnoughMemory};
@@ -126,9 +136,10 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     }
     const SampleKind own = SampleKindOf(bitmap->Format());
     const SampleKind wanted = SamplesFor(encoding.depth, own);
-    const SampleKind samples = SamplesWithin(FormatOf(encoding.type).holds.bitsPerSample, wanted);
-    EncodedBitmap file = samples == own ? EncodedAsItIs(encoding, *bitmap, options)
-                                        : EncodedIn(samples, encoding, *bitmap, options);
+    const SampleKind samples = SamplesIn(encoding.type, wanted);
+    const bool isAsItIs = samples == own && !IsToBeLinear(encoding.type, *bitmap);
+    EncodedBitmap file = isAsItIs ? EncodedAsItIs(encoding, *bitmap, options)
+                                  : EncodedIn(samples, encoding, *bitmap, options);
     file.samples = samples;
     if (file.reason.isEmpty()) {
         file.note = Joined({ReducedBits(encoding.type, wanted, samples), file.note});

@@ -9,7 +9,7 @@
 namespace varnel {
 
 // The coders, each in its file under coders/.
-EncodeFunction EncodeTiff, EncodeJpeg, EncodeBmp, EncodePng;
+EncodeFunction EncodeTiff, EncodeJpeg, EncodeBmp, EncodePng, EncodeExr;
 
 namespace {
 
@@ -55,7 +55,7 @@ double PngBytesPerPixel(const OutputEncoding& /*encoding*/, SampleKind samples) 
     return samples == SampleKind::Byte ? 2.0 : PlainBytesPerPixel(samples);
 }
 
-double BmpBytesPerPixel(const OutputEncoding& /*encoding*/, SampleKind samples) {
+double PlainBytesPerPixelOf(const OutputEncoding& /*encoding*/, SampleKind samples) {
     return PlainBytesPerPixel(samples);
 }
 
@@ -76,7 +76,7 @@ constexpr std::array rows{
                  true,
                  &JpegBytesPerPixel,
                  &EncodeJpeg},
-    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &BmpBytesPerPixel, &EncodeBmp},
+    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &PlainBytesPerPixelOf, &EncodeBmp},
     OutputFormat{u"PNG",
                  u"PNG",
                  u".PNG",
@@ -84,7 +84,15 @@ constexpr std::array rows{
                  {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
                  false,
                  &PngBytesPerPixel,
-                 &EncodePng}};
+                 &EncodePng},
+    OutputFormat{u"EXR",
+                 u"OpenEXR",
+                 u".EXR",
+                 u".EXR",
+                 {.bitsPerSample = 32, .leastBits = 32, .alpha = true},
+                 false,
+                 &PlainBytesPerPixelOf,
+                 &EncodeExr}};
 
 // Of places that are the table's, one after the other.
 constexpr auto types = [] {
@@ -103,6 +111,11 @@ std::span<const OutputType> AllOutputTypes() {
 
 const OutputFormat& FormatOf(OutputType type) {
     return rows[static_cast<std::size_t>(type)];
+}
+
+SampleKind SamplesIn(OutputType type, SampleKind wanted) {
+    const OutputAbilities& holds = FormatOf(type).holds;
+    return holds.leastBits > 16 ? SampleKind::Float : SamplesWithin(holds.bitsPerSample, wanted);
 }
 
 }  // namespace varnel

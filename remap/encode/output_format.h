@@ -14,6 +14,7 @@ namespace varnel {
 // What files of a type can hold besides the pixels of a photo.
 struct OutputAbilities {
     int bitsPerSample = 8;  // at most; 32 are floating point
+    int leastBits = 8;      // a sample; with 32 the file has linear light of sRGB's primaries
     bool alpha = false;
     bool metadata = false;  // the photo's, and the settings that made the picture
     bool profile = false;   // ICC
@@ -33,5 +34,8 @@ struct OutputFormat {
 };
 
 const OutputFormat& FormatOf(OutputType type);
+
+// What a file of the type has of a picture that is wanted with such samples.
+SampleKind SamplesIn(OutputType type, SampleKind wanted);
 
 }  // namespace varnel

@@ -38,7 +38,9 @@ TEST(PictureReader, EveryTypeComesAs24BitsByItsContentsWhateverItsName) {
         const LoadedPicture small =
             ReadPicture(testing::Reader(), {path, ReadKind::Small, {30, 10}});
         EXPECT_EQ(SizeOf(small.bitmap.get()).width, 15);
-        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).green, 25, 4);
+        if (ToText(type) != Text("EXR")) {  // light, which is brought into the range
+            EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 30, 25).green, 25, 4);
+        }
     }
 }
 

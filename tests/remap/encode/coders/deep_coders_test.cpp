@@ -10,6 +10,7 @@
 #include <random>
 
 #include "remap/encode/encode_bitmap.h"
+#include "remap/encode/linear_light.h"
 #include "remap/encode/sample_depth.h"
 #include "remap/image/library_messages.h"
 #include "remap/image/pixel_access.h"
@@ -145,6 +146,41 @@ TEST(DeepPng, ComesBackValueForValue) {
             ExpectHolds(FIF_PNG, file.bytes, *bitmap);
         }
     }
+}
+
+TEST(Exr, HoldsLinearLightValueForValue) {
+    const OutputType exr = *OutputTypeByName(u"exr");
+    for (const PixelFormat format : {PixelFormat::BgrFloat, PixelFormat::BgraFloat}) {
+        const BitmapHandle bitmap = Deep({70, 50}, format);
+        const EncodedBitmap file = EncodeBitmap(exr, bitmap.get());
+        EXPECT_TRUE(file.note.isEmpty());
+        ExpectHolds(FIF_EXR, file.bytes, *bitmap);
+    }
+    const EncodedBitmap light = EncodeBitmap(exr, Deep({30, 20}, PixelFormat::Bgr8).get());
+    EXPECT_EQ(light.samples, SampleKind::Float);
+    EXPECT_TRUE(light.note.isEmpty());
+}
+
+// One that cannot be used counts as sRGB's: then it is the light that it is without one.
+TEST(Exr, TakesTheCurveOfTheProfileOut) {
+    SerialRunner runner;
+    const BitmapHandle plain = Deep({30, 20}, PixelFormat::Bgra16);
+    const BitmapHandle described = CloneBitmap(plain.get());
+    described->metadata.colourProfile = testing::ColourProfile();
+    const BitmapHandle light = InSamples(*plain, SampleKind::Float, runner);
+    const BitmapHandle byProfile =
+        InLinearLight(*InSamples(*described, SampleKind::Float, runner), runner);
+    EXPECT_TRUE(byProfile->metadata.colourProfile.isEmpty());
+    double most = 0.0;
+    for (int y = 0; y < 20; ++y) {
+        for (std::size_t n = 0; n < 30 * 4; ++n) {
+            most = std::max(
+                most,
+                std::fabs(static_cast<double>(SampleAt<float>(light->ScanLine(y).data(), n) -
+                                              SampleAt<float>(byProfile->ScanLine(y).data(), n))));
+        }
+    }
+    EXPECT_LT(most, 0.004);
 }
 
 TEST(EncodeBitmap, SaysWhatATypeCannotHold) {

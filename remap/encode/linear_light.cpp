@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "remap/encode/linear_light.h"
+
+#include <lcms2.h>
+
+#include <memory>
+#include <new>
+#include <type_traits>
+
+#include "remap/image/pixel_access.h"
+
+namespace varnel {
+
+namespace {
+
+struct ProfileCloser {
+    void operator()(void* profile) const { cmsCloseProfile(profile); }
+};
+using Profile = std::unique_ptr<void, ProfileCloser>;
+
+struct TransformDeleter {
+    void operator()(void* transform) const { cmsDeleteTransform(transform); }
+};
+using Transform = std::unique_ptr<void, TransformDeleter>;
+
+// IEC 61966-2-1 without its curve.
+Profile LinearProfile() {
+    const cmsCIExyY white{0.3127, 0.3290, 1.0};
+    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.30, 0.60, 1.0}, {0.15, 0.06, 1.0}};
+    cmsToneCurve* const line = cmsBuildGamma(nullptr, 1.0);
+    cmsToneCurve* const lines[3] = {line, line, line};
+    Profile profile(cmsCreateRGBProfile(&white, &primaries, lines));
+    cmsFreeToneCurve(line);
+    return profile;
+}
+
+Transform TransformFrom(const Profile& profile, bool alpha) {
+    const auto format = static_cast<cmsUInt32Number>(alpha ? TYPE_BGRA_FLT : TYPE_BGR_FLT);
+    return Transform(profile
+                         ? cmsCreateTransform(profile.get(), format, LinearProfile().get(), format,
+                                              INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOCACHE)
+                         : nullptr);
+}
+
+// Null when the profile cannot be used.
+Transform TransformFrom(const QByteArray& profile, bool alpha) {
+    return TransformFrom(Profile(cmsOpenProfileFromMem(
+                             profile.constData(), static_cast<cmsUInt32Number>(profile.size()))),
+                         alpha);
+}
+
+}  // namespace
+
+BitmapHandle InLinearLight(const Bitmap& bitmap, BlockRunner& runner) {
+    BitmapHandle linear = CloneBitmap(&bitmap);
+    linear->metadata.colourProfile.clear();
+    const PixelSize size = bitmap.Size();
+    const bool alpha = HasAlpha(bitmap.Format());
+    Transform transform = TransformFrom(bitmap.metadata.colourProfile, alpha);
+    if (!transform) {
+        transform = TransformFrom(Profile(cmsCreate_sRGBProfile()), alpha);
+    }
+    if (!transform) {
+        throw std::bad_alloc();
+    }
+    // The alpha of the copy stays: the transform leaves what is no colour alone.
+    runner.Run(size.height, [&](int y) {
+        cmsDoTransform(transform.get(), bitmap.ScanLine(y).data(), linear->ScanLine(y).data(),
+                       static_cast<cmsUInt32Number>(size.width));
+    });
+    return linear;
+}
+
+}  // namespace varnel

@@ -31,8 +31,8 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Bgr8: the bytes of a vector of pixels side by side.
 struct ByteBlend {
     // The target's pixels from the n-th on.
-    static void StoreInside(const SourceView& source, const Coordinate& x, const Coordinate& y,
-                            const SpanTarget& target, int n) {
+    static HWY_INLINE void StoreInside(const SourceView source, const Coordinate& x,
+                                       const Coordinate& y, const SpanTarget& target, int n) {
         HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> below;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> above;
@@ -59,8 +59,8 @@ struct ByteBlend {
             target.At(n), target.stride, static_cast<int>(lanes));
     }
 
-    static void StoreBetween(const SourceView& source, const Coordinate& x, VecI row,
-                             const SpanTarget& target, std::ptrdiff_t n) {
+    static HWY_INLINE void StoreBetween(const SourceView source, const Coordinate& x, VecI row,
+                                        const SpanTarget& target, std::ptrdiff_t n) {
         HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> pairs;
         hn::Store(Offsets<3>(x.whole, row, source.pitch), Ints(), offsets.data());
@@ -82,8 +82,8 @@ using VecFour = hn::Vec<Four>;
 template <class Sample, bool hasAlpha>
 struct PixelBlend {
     // The target's pixels from the n-th on.
-    static void StoreInside(const SourceView& source, const Coordinate& x, const Coordinate& y,
-                            const SpanTarget& target, int n) {
+    static HWY_INLINE void StoreInside(const SourceView source, const Coordinate& x,
+                                       const Coordinate& y, const SpanTarget& target, int n) {
         const std::ptrdiff_t pitch = Pitch(source);
         HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<float, lanesAtMost> partX;
@@ -102,8 +102,8 @@ struct PixelBlend {
         });
     }
 
-    static void StoreBetween(const SourceView& source, const Coordinate& x, VecI row,
-                             const SpanTarget& target, std::ptrdiff_t n) {
+    static HWY_INLINE void StoreBetween(const SourceView source, const Coordinate& x, VecI row,
+                                        const SpanTarget& target, std::ptrdiff_t n) {
         HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<float, lanesAtMost> part;
         hn::Store(Offsets<samples>(x.whole, row, Pitch(source)), Ints(), offsets.data());

@@ -263,8 +263,8 @@ HWY_NOINLINE void StoreRowLanes(const SourceView& source, const RowPositions& at
 
 // The first pixels of the target, up to eight. Only what is rounded down needs them one by one.
 template <class Blend>
-void StoreRowPixels(const SourceView& source, const RowPositions& at, RowReading reading, int count,
-                    const SpanTarget& target) {
+HWY_INLINE void StoreRowPixels(const SourceView source, const RowPositions& at, RowReading reading,
+                               int count, const SpanTarget& target) {
     const std::size_t lanes = hn::Lanes(Floats());
     const bool oneByOne = reading == RowReading::Pixels && source.format == PixelFormat::Bgr8;
     const bool nearest = reading == RowReading::Nearest;
@@ -282,14 +282,8 @@ void StoreRowPixels(const SourceView& source, const RowPositions& at, RowReading
     }
 }
 
-inline void StoreRowPixels(const SourceView& source, const RowPositions& at, RowReading reading,
-                           int count, const SpanTarget& target) {
-    WithBlend(source.format, [&](auto blend) {
-        StoreRowPixels<decltype(blend)>(source, at, reading, count, target);
-    });
-}
-
-void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
+template <class Blend>
+void DrawChordSpan(const ChordSpan& span, const SpanTarget& target) {
     const Doubles d;
     RowPositions at;
     at.row.fill(span.row);
@@ -303,13 +297,14 @@ void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
             TakeColumns(Column(span.centreX, hn::Mul(hn::Set(d, span.sign), u), span.reading), n,
                         at);
         }
-        StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target.Further(done));
+        StoreRowPixels<Blend>(span.source, at, span.reading,
+                              std::min(lanesAtMost, span.count - done), target.Further(done));
     }
 }
 
 // The tables of cosines and sines have lanesAtMost entries more than columns.
-void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
+template <class Blend>
+void DrawCircleSpan(const CircleSpan& span, const SpanTarget& target) {
     const Doubles d;
     const VecD radius = hn::Set(d, span.radius);
     RowPositions at;
@@ -324,12 +319,13 @@ void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
             hn::Store(hn::DemoteTo(hn::Rebind<std::int32_t, Doubles>(), row),
                       hn::Rebind<std::int32_t, Doubles>(), at.row.data() + n);
         }
-        StoreRowPixels(span.source, at, span.reading, std::min(lanesAtMost, span.count - done),
-                       target.Further(done));
+        StoreRowPixels<Blend>(span.source, at, span.reading,
+                              std::min(lanesAtMost, span.count - done), target.Further(done));
     }
 }
 
-void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
+template <class Blend>
+void DrawStretchSpan(const StretchSpan& span, const SpanTarget& target) {
     const Doubles d;
     const VecD centre = hn::Set(d, span.centre);
     const VecD decimals = hn::Set(d, 1e8);
@@ -342,9 +338,26 @@ void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
             const VecD whole = hn::Round(hn::Mul(hn::Add(centre, away), decimals));
             TakeColumns(hn::Div(whole, decimals), n, at);
         }
-        StoreRowPixels(span.source, at, span.reading,
-                       std::min(lanesAtMost, span.source.width - done), target.Further(done));
+        StoreRowPixels<Blend>(span.source, at, span.reading,
+                              std::min(lanesAtMost, span.source.width - done),
+                              target.Further(done));
     }
+}
+
+// For a span's kind of pixels.
+void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
+    WithBlend(span.source.format,
+              [&](auto blend) { DrawChordSpan<decltype(blend)>(span, target); });
+}
+
+void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
+    WithBlend(span.source.format,
+              [&](auto blend) { DrawCircleSpan<decltype(blend)>(span, target); });
+}
+
+void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
+    WithBlend(span.source.format,
+              [&](auto blend) { DrawStretchSpan<decltype(blend)>(span, target); });
 }
 
 }  // namespace HWY_NAMESPACE

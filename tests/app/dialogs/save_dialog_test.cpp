@@ -74,6 +74,7 @@ TEST(SaveDialog, ThePanelMakesNameExampleAndSize) {
     SaveOffer offer;
     offer.wish.encoding = {OutputType::Jpeg, 90};
     offer.pixels = 24e6;
+    offer.samples = SampleKind::Word;  // more than JPEG holds
     offer.pattern = Text("{name}");
     offer.photoFolder = folder.Path(Text("sub"));
     offer.nameBy = [](const QString& pattern) {
@@ -86,7 +87,7 @@ TEST(SaveDialog, ThePanelMakesNameExampleAndSize) {
         auto* const edit = dialog->findChild<QLineEdit*>(Text("fileNameEdit"));
         auto* const pattern = dialog->findChild<QLineEdit*>(Text("TextNamePattern"));
         EXPECT_EQ(label("LabelExample"), Text("usual.JPG"));
-        EXPECT_EQ(label("LabelExpectedSize"), Text("about 2.6 MB"));
+        EXPECT_EQ(label("LabelExpectedSize"), Text("about 2.6 MB, 8 bits"));
         EXPECT_FALSE(dialog->findChild<QComboBox*>(Text("ComboFileType"))->isVisible());
         edit->setText(Text("by hand"));
         dialog->findChild<QSlider*>(Text("SliderJPEGcompression"))->setValue(75);

@@ -176,13 +176,14 @@ void CompareAll(double patch) {
     constexpr PixelSize square{1000, 1000};
     const double circular = 500.0 / (2.0 * std::sin(pi / 4.0));
     const auto equidistant = [](double r) { return r / 500.0 * pi / 2.0; };
+    const PatchScene patches{patch / circular};
     Compare({"circular",
              Projection::Equidistance,
              &CircularRecord,
              {},
              [](double x, double y) { return std::hypot(x, y) < 496.0 ? 0 : -1; }},
-            *Developed(TakeLight(scene, square, Equisolid(square, circular, 500.0), runner)),
-            TakeLight(scene, square, AroundAxis(square, equidistant, 500.0), runner));
+            *Developed(TakeLight(patches, square, Equisolid(square, circular, 500.0), runner)),
+            TakeLight(patches, square, AroundAxis(square, equidistant, 500.0), runner));
 }
 
 // Processor seconds of the fastest of some runs.

@@ -194,6 +194,13 @@ TEST(OwnDepth, EveryNumberOfBitsOfATiffKeepsItsPartOfTheRange) {
     }
 }
 
+TEST(OwnDepth, DepthsThatTheImageLibraryDoesNotKnowComeInEightBitsToo) {
+    const LoadedPicture picture = testing::Decode(
+        TiffOf({"12 bits", 12, 1, 2, 3, QByteArray::fromHex("000fff800001002003"), {}}));
+    ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();
+    EXPECT_EQ(SamplesOf<std::uint8_t>(picture), (std::vector<std::uint8_t>{128, 255, 0, 0, 0, 0}));
+}
+
 TEST(OwnDepth, PicturesAreMeasuredByTheBytesOfTheirDepth) {
     const QByteArray file = testing::Seed("tiff/lzw-16");
     constexpr std::uint64_t pixels = 61 * 43;

@@ -1266,6 +1266,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
         <translation>Fotos mit 16 Bit und in Gleitkomma werden als solche gelesen und gespeichert, soweit der Dateityp das kann; sonst hat alles 8 Bit</translation>
     </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Beste Qualität (feine Abtastung)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Schärfer, wo die Ansicht das Foto vergrößert, kein Moiré, wo sie es verkleinert, glatte Ränder; dauert um ein Mehrfaches länger</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -1794,6 +1802,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Each file goes into the folder of its photo</source>
         <translation>Jede Datei kommt in den Ordner ihres Fotos</translation>
+    </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Beste Qualität (feine Abtastung)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Schärfer, wo die Ansicht das Foto vergrößert, kein Moiré, wo sie es verkleinert, glatte Ränder; dauert um ein Mehrfaches länger</translation>
     </message>
 </context>
 <context>

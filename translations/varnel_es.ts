@@ -1266,6 +1266,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
         <translation>Las fotos de 16 bits y de coma flotante se leen y se guardan como tales, hasta donde llega el tipo de archivo; si no, todo tiene 8 bits</translation>
     </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Máxima calidad (muestreo fino)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Más nítido donde la vista amplía la foto, sin moaré donde la reduce, bordes suaves; tarda varias veces más</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -1794,6 +1802,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Each file goes into the folder of its photo</source>
         <translation>Cada archivo va a la carpeta de su foto</translation>
+    </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Máxima calidad (muestreo fino)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Más nítido donde la vista amplía la foto, sin moaré donde la reduce, bordes suaves; tarda varias veces más</translation>
     </message>
 </context>
 <context>

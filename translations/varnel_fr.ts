@@ -1266,6 +1266,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Photos of 16 bits and floating point are read and saved as such, as far as the file type goes; otherwise everything has 8 bits</source>
         <translation>Les photos de 16 bits et en virgule flottante sont lues et enregistrées telles quelles, autant que le type de fichier le permet ; sinon tout a 8 bits</translation>
     </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Meilleure qualité (échantillonnage fin)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Plus net là où la vue agrandit la photo, sans moiré là où elle la réduit, bords lisses ; prend plusieurs fois plus de temps</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>
@@ -1794,6 +1802,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Each file goes into the folder of its photo</source>
         <translation>Chaque fichier va dans le dossier de sa photo</translation>
+    </message>
+    <message>
+        <source>Best quality (fine sampling)</source>
+        <translation>Meilleure qualité (échantillonnage fin)</translation>
+    </message>
+    <message>
+        <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
+        <translation>Plus net là où la vue agrandit la photo, sans moiré là où elle la réduit, bords lisses ; prend plusieurs fois plus de temps</translation>
     </message>
 </context>
 <context>

@@ -29,7 +29,7 @@ struct Check {
     bool GeneralSettings::*flag;
 };
 
-std::array<Check, 7> ChecksOf(const Ui::FormSetup& ui) {
+std::array<Check, 8> ChecksOf(const Ui::FormSetup& ui) {
     return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
              {ui.FineSamplingCheck, &GeneralSettings::FineSampling},
              {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int pieceRows = 32;  // about square, as a turned piece spans least of the photo
 // Pixels of the photo that are light at once, at most; for pieces of more than one pixel.
-constexpr std::int64_t mostLight = 1 << 16;
+constexpr std::int64_t largestReach = 1 << 16;
 
 // What the kernels of pixels reach.
 PixelBox BoxOf(const FineReach& reach) {
@@ -217,7 +217,7 @@ void FineEngine::DrawShownRows(std::int32_t first, std::int32_t end, Workplace& 
 
 void FineEngine::DrawPiece(const Piece& piece, Workplace& work) const {
     const PixelBox reach = work.ReachOf(piece);
-    if (reach.Area() > mostLight && (piece.rows > 1 || piece.count > 1)) {
+    if (reach.Area() > largestReach && (piece.rows > 1 || piece.count > 1)) {
         const auto [first, second] = piece.Halves();
         DrawPiece(first, work);
         DrawPiece(second, work);

@@ -123,7 +123,7 @@ void CodeAsRec2020(std::span<std::uint16_t> samples) {
             const auto& row = matrix[colour];
             const float light = row[0] * red + row[1] * green + row[2] * blue;
             samples[n + 2 - colour] =
-                curve[static_cast<std::size_t>(std::clamp(light, 0.0F, 65535.0F) + 0.5F)];
+                curve[static_cast<std::size_t>(std::lround(std::clamp(light, 0.0F, 65535.0F)))];
         }
     }
 }

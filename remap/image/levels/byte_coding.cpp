@@ -3,6 +3,7 @@
 
 #include "remap/image/levels/byte_coding.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -30,7 +31,7 @@ class CodedBytes {
     std::uint8_t Of(float light) const {
         constexpr auto last = static_cast<float>(tableSize - 1);
         const float place = light > 0.0F ? std::min(light, 1.0F) * last : 0.0F;
-        return bytes_[static_cast<std::size_t>(place + 0.5F)];
+        return bytes_[static_cast<std::size_t>(std::lround(place))];
     }
 
   private:

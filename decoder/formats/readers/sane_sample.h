@@ -12,7 +12,7 @@ namespace varnel {
 // What is no number becomes 0; what is infinite, 1e9, which is above any real scene.
 template <class Number>
 float SaneFloat(Number sample) {
-    constexpr Number brightest = 1e9F;
+    constexpr auto brightest = static_cast<Number>(1e9);
     if (std::isfinite(sample)) {
         return static_cast<float>(sample);
     }

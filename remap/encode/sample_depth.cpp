@@ -34,7 +34,8 @@ constexpr float largest = static_cast<float>(std::numeric_limits<Whole>::max());
 
 template <class Whole>
 Whole Rounded(float sample) {
-    return static_cast<Whole>(sample * largest<Whole> + 0.5F);
+    const float above = sample * largest<Whole> + 0.5F;
+    return static_cast<Whole>(above);
 }
 
 // A sample of one kind as one of another.

@@ -64,13 +64,13 @@ float MeanOf(const Cover& column, const float* from, std::size_t samples) {
     return *from * column.firstShare + between * column.share + at[samples] * column.lastShare;
 }
 
-// What is cut off of it is the mean rounded.
 template <class Sample>
 Sample RoundedTo(float mean) {
     if constexpr (std::is_same_v<Sample, float>) {
         return mean;
     } else {
-        return static_cast<Sample>(mean + 0.5F);
+        const float above = mean + 0.5F;  // what is cut off of it is the mean rounded
+        return static_cast<Sample>(above);
     }
 }
 

@@ -167,7 +167,9 @@ class Decoding {
     }
     // False when there is none.
     bool OpenDirect() {
-        Take(format_ == InputFormat::Tiff ? NewTiffReader(file_) : NewModernReader(format_, file_));
+        Take(format_ == InputFormat::Tiff  ? NewTiffReader(file_)
+             : format_ == InputFormat::Png ? NewPngReader(file_)
+                                           : NewModernReader(format_, file_));
         return direct_ != nullptr;
     }
     void OpenRaw(const RawDevelopment& development) {

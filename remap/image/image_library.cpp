@@ -12,11 +12,6 @@ namespace varnel {
 
 namespace {
 
-// Texts of a PNG file in which programs keep EXIF and the like: these are read elsewhere.
-bool IsMetadataInText(const QByteArray& key) {
-    return key.startsWith("Raw profile type") || key.startsWith("XML:");
-}
-
 void AddComment(FITAG* tag, BitmapMetadata& metadata) {
     const QByteArray key = FreeImage_GetTagKey(tag);
     const auto* const text = static_cast<const char*>(FreeImage_GetTagValue(tag));
@@ -33,6 +28,10 @@ void PassOn(FREE_IMAGE_FORMAT /*format*/, const char* message) {
 }
 
 }  // namespace
+
+bool IsMetadataInText(const QByteArray& key) {
+    return key.startsWith("Raw profile type") || key.startsWith("XML:");
+}
 
 PixelSize SizeOf(FIBITMAP* bitmap) {
     return {static_cast<std::int32_t>(FreeImage_GetWidth(bitmap)),

@@ -17,6 +17,10 @@ BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size);
 // From now on the function gets, in the thread that works, each message of the library's.
 void SendLibraryMessagesTo(void (*function)(const QString& message));
 
+// By the keyword, texts of a PNG file in which programs keep EXIF and the like: these are read
+// elsewhere and are no comments.
+bool IsMetadataInText(const QByteArray& key);
+
 // Whether the name ends like that of a type that the library knows.
 bool IsPictureName(const QString& name);
 

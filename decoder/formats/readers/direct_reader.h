@@ -41,4 +41,8 @@ class DirectReader {
 // reader, which needs the messages' collector. Throws std::bad_alloc.
 std::unique_ptr<DirectReader> NewTiffReader(const PictureFile& file);
 
+// Of every kind of PNG, in 8 or 16 bits. Null, after a message, when its header is not sound. The
+// file has to outlive the reader, which needs the messages' collector. Throws std::bad_alloc.
+std::unique_ptr<DirectReader> NewPngReader(const PictureFile& file);
+
 }  // namespace varnel

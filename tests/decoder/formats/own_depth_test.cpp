@@ -66,6 +66,17 @@ TEST(OwnDepth, SixteenBitsComeValueForValue) {
     }
 }
 
+TEST(OwnDepth, APngMayNameAColourThatIsTransparent) {
+    const QByteArray header =
+        testing::Numbers({2, 1}, 4, testing::Order::Big) + testing::Numbers({16, 2, 0, 0, 0}, 1);
+    const QByteArray named = QByteArray::fromHex("000400050006");
+    const QByteArray pixels = QByteArray::fromHex("00000100020003") + named;
+    const LoadedPicture picture = InOwnDepth(
+        "\x89PNG\r\n\x1a\n" + testing::PngChunk("IHDR", header) + testing::PngChunk("tRNS", named) +
+        testing::PngChunk("IDAT", testing::Zlib(pixels)) + testing::PngChunk("IEND", {}));
+    EXPECT_EQ(SamplesOf<std::uint16_t>(picture), (Words{3, 2, 1, 0xFFFF, 6, 5, 4, 0}));
+}
+
 TEST(OwnDepth, FloatingPointComesAsItIsButForWhatIsNoNumber) {
     const float none = std::numeric_limits<float>::quiet_NaN();
     const float endless = std::numeric_limits<float>::infinity();
@@ -114,7 +125,12 @@ TEST(OwnDepth, EverySeedComesAndTheShallowOnesAsEver) {
         } else if (SampleKindOf(format) != SampleKind::Float) {  // which 8 bits are curved from
             ExpectLikeEight(*own.bitmap, *eight.bitmap, seed.name);
         }
-        EXPECT_EQ(own.bitmap->metadata, eight.bitmap->metadata) << seed.name;
+        BitmapMetadata expected = eight.bitmap->metadata;
+        if (seed.name == "png/described") {  // whose profile the image library loses
+            EXPECT_EQ(own.bitmap->metadata.colourProfile.size(), 252);
+            expected.colourProfile = own.bitmap->metadata.colourProfile;
+        }
+        EXPECT_EQ(own.bitmap->metadata, expected) << seed.name;
         if (seed.name.find("-16") != std::string::npos &&
             (seed.Type() == "tiff" || seed.Type() == "png")) {
             EXPECT_EQ(SampleKindOf(format), SampleKind::Word) << seed.name;

@@ -228,6 +228,22 @@ constexpr Row rows[] = {
     {ReasonCode::NoSuchLens, QT_TRANSLATE_NOOP("Reasons", "there is no lens of this name")},
     {ReasonCode::NoLensEnding,
      QT_TRANSLATE_NOOP("Reasons", "lenses are written to files that end in .json, .yaml or .xml")},
+    // films: reading
+    {ReasonCode::NoKnownFilm, QT_TRANSLATE_NOOP("Reasons", "this is not a film of a known type")},
+    {ReasonCode::FilmWithoutPicture,
+     QT_TRANSLATE_NOOP("Reasons", "there is no video stream in the film")},
+    {ReasonCode::FilmWithoutFrames,
+     QT_TRANSLATE_NOOP("Reasons", "there is no picture in the film that can be decoded")},
+    {ReasonCode::FilmEncrypted, QT_TRANSLATE_NOOP("Reasons", "the film is encrypted")},
+    {ReasonCode::FilmCodecUnknown,
+     QT_TRANSLATE_NOOP("Reasons", "the film's codec cannot be decoded: %1")},
+    {ReasonCode::FilmChanges,
+     QT_TRANSLATE_NOOP("Reasons",
+                       "from %1 seconds on the film's pictures have another size or pixel format")},
+    {ReasonCode::FrameLost,
+     QT_TRANSLATE_NOOP("Reasons", "the picture at %1 seconds cannot be decoded")},
+    {ReasonCode::FrameDamaged,
+     QT_TRANSLATE_NOOP("Reasons", "the picture at %1 seconds is damaged")},
 };
 
 constexpr bool StandByTheirCodes() {

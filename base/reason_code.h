@@ -149,6 +149,15 @@ enum class ReasonCode : std::uint16_t {
     LensNameUnusable,
     NoSuchLens,
     NoLensEnding,
+    // films: reading
+    NoKnownFilm,
+    FilmWithoutPicture,
+    FilmWithoutFrames,
+    FilmEncrypted,
+    FilmCodecUnknown,
+    FilmChanges,
+    FrameLost,
+    FrameDamaged,
     Count  // of the codes; not a code itself
 };
 

@@ -2709,6 +2709,38 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>saved with %1 bits: %2 holds no more</source>
         <translation>mit %1 Bit gespeichert: mehr kann %2 nicht</translation>
     </message>
+    <message>
+        <source>this is not a film of a known type</source>
+        <translation>das ist kein Film eines bekannten Typs</translation>
+    </message>
+    <message>
+        <source>there is no video stream in the film</source>
+        <translation>im Film ist keine Videospur</translation>
+    </message>
+    <message>
+        <source>there is no picture in the film that can be decoded</source>
+        <translation>im Film ist kein Bild, das sich dekodieren lässt</translation>
+    </message>
+    <message>
+        <source>the film is encrypted</source>
+        <translation>der Film ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>the film&apos;s codec cannot be decoded: %1</source>
+        <translation>der Codec des Films lässt sich nicht dekodieren: %1</translation>
+    </message>
+    <message>
+        <source>from %1 seconds on the film&apos;s pictures have another size or pixel format</source>
+        <translation>ab %1 Sekunden haben die Bilder des Films eine andere Größe oder ein anderes Pixelformat</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds cannot be decoded</source>
+        <translation>das Bild bei %1 Sekunden lässt sich nicht dekodieren</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds is damaged</source>
+        <translation>das Bild bei %1 Sekunden ist beschädigt</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -2709,6 +2709,38 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>saved with %1 bits: %2 holds no more</source>
         <translation>guardado con %1 bits: %2 no contiene más</translation>
     </message>
+    <message>
+        <source>this is not a film of a known type</source>
+        <translation>no es una película de un tipo conocido</translation>
+    </message>
+    <message>
+        <source>there is no video stream in the film</source>
+        <translation>no hay ninguna pista de vídeo en la película</translation>
+    </message>
+    <message>
+        <source>there is no picture in the film that can be decoded</source>
+        <translation>no hay en la película ninguna imagen que se pueda decodificar</translation>
+    </message>
+    <message>
+        <source>the film is encrypted</source>
+        <translation>la película está cifrada</translation>
+    </message>
+    <message>
+        <source>the film&apos;s codec cannot be decoded: %1</source>
+        <translation>el códec de la película no se puede decodificar: %1</translation>
+    </message>
+    <message>
+        <source>from %1 seconds on the film&apos;s pictures have another size or pixel format</source>
+        <translation>a partir de %1 segundos las imágenes de la película tienen otro tamaño u otro formato de píxel</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds cannot be decoded</source>
+        <translation>la imagen a los %1 segundos no se puede decodificar</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds is damaged</source>
+        <translation>la imagen a los %1 segundos está dañada</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -2709,6 +2709,38 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>saved with %1 bits: %2 holds no more</source>
         <translation>enregistré avec %1 bits : %2 n’en contient pas plus</translation>
     </message>
+    <message>
+        <source>this is not a film of a known type</source>
+        <translation>ce n’est pas un film d’un type connu</translation>
+    </message>
+    <message>
+        <source>there is no video stream in the film</source>
+        <translation>il n’y a pas de piste vidéo dans le film</translation>
+    </message>
+    <message>
+        <source>there is no picture in the film that can be decoded</source>
+        <translation>il n’y a dans le film aucune image qui puisse être décodée</translation>
+    </message>
+    <message>
+        <source>the film is encrypted</source>
+        <translation>le film est chiffré</translation>
+    </message>
+    <message>
+        <source>the film&apos;s codec cannot be decoded: %1</source>
+        <translation>le codec du film ne peut pas être décodé : %1</translation>
+    </message>
+    <message>
+        <source>from %1 seconds on the film&apos;s pictures have another size or pixel format</source>
+        <translation>à partir de %1 secondes, les images du film ont une autre taille ou un autre format de pixel</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds cannot be decoded</source>
+        <translation>l’image à %1 secondes ne peut pas être décodée</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds is damaged</source>
+        <translation>l’image à %1 secondes est endommagée</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

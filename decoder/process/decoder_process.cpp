@@ -10,7 +10,7 @@
 #include <sys/wait.h>
 
 #include <QFile>
-#include <array>
+#include <QFileInfo>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -65,6 +65,12 @@ class SpawnActions {
 
 }  // namespace
 
+QString DecoderProgram(const QString& name) {
+    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
+    const QString beside = folder + u'/' + name;
+    return QFileInfo::exists(beside) ? beside : folder + QStringLiteral("/../lib/varnel/") + name;
+}
+
 Reason DecoderProcess::Start() {
     End();
     std::array<int, 2> ends{};
@@ -83,17 +89,17 @@ Reason DecoderProcess::Start() {
     return {};
 }
 
-bool DecoderProcess::Send(const DecoderRequest& request, int photo, int memory) {
-    return Runs() && SendMessage(socket_.Get(), &request, sizeof request, {photo, memory});
+bool DecoderProcess::Send(const void* message, std::size_t length, std::array<int, 2> descriptors) {
+    return Runs() && SendMessage(socket_.Get(), message, length, descriptors);
 }
 
-DecoderProcess::Heard DecoderProcess::Listen(int milliseconds, DecoderAnswer& answer) {
+DecoderProcess::Heard DecoderProcess::Listen(int milliseconds, void* message, std::size_t length) {
     pollfd wait{socket_.Get(), POLLIN, 0};
     if (poll(&wait, 1, milliseconds) <= 0) {
         return Heard::Nothing;  // also when a signal came between
     }
-    return ReceiveMessage(socket_.Get(), &answer, sizeof answer, nullptr) ? Heard::Answer
-                                                                          : Heard::PeerClosed;
+    return ReceiveMessage(socket_.Get(), message, length, nullptr) ? Heard::Answer
+                                                                   : Heard::PeerClosed;
 }
 
 bool DecoderProcess::IsDead() {

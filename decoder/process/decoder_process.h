@@ -7,12 +7,17 @@
 #include <sys/types.h>
 
 #include <QString>
+#include <array>
+#include <cstddef>
 
 #include "base/reason.h"
 #include "decoder/process/descriptor.h"
 #include "decoder/process/protocol.h"
 
 namespace varnel {
+
+// Where a decoder of that file name is: beside this program, or in the package's folder for such.
+QString DecoderProgram(const QString& name);
 
 class DecoderProcess {
   public:
@@ -27,11 +32,19 @@ class DecoderProcess {
     Reason Start();
     // The request with the descriptors of the photo and the memory file, which stay the caller's.
     // False when the process is gone.
-    bool Send(const DecoderRequest& request, int photo, int memory);
+    bool Send(const DecoderRequest& request, int photo, int memory) {
+        return Send(&request, sizeof request, {photo, memory});
+    }
+    // The same for a message of another protocol, its length in bytes, with descriptors or without.
+    bool Send(const void* message, std::size_t length, std::array<int, 2> descriptors = {-1, -1});
 
     enum class Heard { Nothing, Answer, PeerClosed };
     // Waits this many milliseconds at most.
-    Heard Listen(int milliseconds, DecoderAnswer& answer);
+    Heard Listen(int milliseconds, DecoderAnswer& answer) {
+        return Listen(milliseconds, &answer, sizeof answer);
+    }
+    // The same for a message of just that many bytes.
+    Heard Listen(int milliseconds, void* message, std::size_t length);
 
     // Ends it, if it still lives.
     void End();

@@ -3,8 +3,6 @@
 
 #include "decoder/process/decoder_reader.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
@@ -22,16 +20,9 @@ constexpr std::uint64_t longestSpare = 2;  // times the picture
 // A few milliseconds are usual; the rest of the time limit stays for the others.
 constexpr qint64 mostSecondsForMetadata = 5;
 
-QString BesideThisProgram() {
-    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
-    const QString beside = folder + QStringLiteral("/varnel-decoder");
-    return QFileInfo::exists(beside) ? beside
-                                     : folder + QStringLiteral("/../lib/varnel/varnel-decoder");
-}
-
 ReaderOptions Completed(ReaderOptions options) {
     if (options.program.isEmpty()) {
-        options.program = BesideThisProgram();
+        options.program = DecoderProgram(QStringLiteral("varnel-decoder"));
     }
     if (options.memory == 0) {
         options.memory = MachineMemory();

@@ -82,4 +82,15 @@ bool ReceiveMessage(int socket, void* message, std::size_t length,
     return received == static_cast<ssize_t>(length) && (head.msg_flags & MSG_TRUNC) == 0;
 }
 
+bool HasMessage(int socket) {
+    // By a call that a confined process may make, too.
+    char first = 0;
+    iovec part{&first, 1};
+    msghdr head{};
+    head.msg_iov = &part;
+    head.msg_iovlen = 1;
+    return recvmsg(socket, &head, MSG_PEEK | MSG_DONTWAIT) >= 0 ||
+           (errno != EAGAIN && errno != EINTR);
+}
+
 }  // namespace varnel

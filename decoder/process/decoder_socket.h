@@ -23,4 +23,7 @@ bool SendMessage(int socket, const void* message, std::size_t length,
 bool ReceiveMessage(int socket, void* message, std::size_t length,
                     std::array<Descriptor, 2>* descriptors);
 
+// Whether a message can be received without waiting, or the other end is gone.
+bool HasMessage(int socket);
+
 }  // namespace varnel

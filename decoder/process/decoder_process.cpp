@@ -134,4 +134,20 @@ int DecoderProcess::Reap() {
     return signal;
 }
 
+Reason ReasonOfDeath(int signal, int seconds) {
+    switch (signal) {
+        case 0:
+            return ReasonCode::DecoderGaveUp;
+        case SIGXCPU:
+            return {ReasonCode::TookTooLong, seconds};
+        case SIGSYS:
+            return ReasonCode::DecoderTriedForbidden;
+        case SIGKILL:
+        case SIGBUS:
+            return {ReasonCode::DecoderEndedBySystem, signal};
+        default:
+            return {ReasonCode::DecoderDied, signal};
+    }
+}
+
 }  // namespace varnel

@@ -61,4 +61,8 @@ class DecoderProcess {
     int status_ = 0;  // how the last one ended
 };
 
+// What became of a decoder that a signal ended, or none (0), while it was at work; the seconds are
+// those that it may take.
+Reason ReasonOfDeath(int signal, int seconds);
+
 }  // namespace varnel

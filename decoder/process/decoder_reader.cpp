@@ -183,23 +183,7 @@ void DecoderReader::Died() {
         Ask();
         return;
     }
-    switch (signal) {
-        case 0:
-            FinishRefused(ReasonCode::DecoderGaveUp);
-            break;
-        case SIGXCPU:
-            FinishRefused(TookTooLong());
-            break;
-        case SIGSYS:
-            FinishRefused(ReasonCode::DecoderTriedForbidden);
-            break;
-        case SIGKILL:
-        case SIGBUS:
-            FinishRefused({ReasonCode::DecoderEndedBySystem, signal});
-            break;
-        default:
-            FinishRefused({ReasonCode::DecoderDied, signal});
-    }
+    FinishRefused(ReasonOfDeath(signal, options_.secondsPerPhoto));
 }
 
 // After anything but a sound photo the decoder is replaced: one that is still at work has to be

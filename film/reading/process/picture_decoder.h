@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The picture stream's packets in, frames and what is wrong with them out, in the order in which
+// they are shown. Throws std::bad_alloc.
+#pragma once
+
+#include <deque>
+#include <set>
+#include <vector>
+
+#include "base/reason.h"
+#include "film/frames/film_info.h"
+#include "film/reading/process/libav.h"
+
+namespace varnel {
+
+// A frame to be shown at its time; without a picture where that was lost.
+struct DecodedFrame {
+    FrameHandle picture;
+    std::int64_t pts = noTime;
+    std::int64_t duration = 0;
+    bool key = false;
+    bool isDamaged = false;
+};
+
+class PictureDecoder {
+  public:
+    // Empty when it can decode; the reason when not.
+    Reason Open(AVStream& stream);
+    AVCodecContext& Codec() { return *codec_; }
+
+    // A packet, or null behind the last one.
+    void Put(const AVPacket* packet);
+    enum class Got { Frame, WantsMore, End };
+    Got Take(DecodedFrame& frame);
+    // Forgets what it was given, as after a seek. Frames before that time are left out from now on,
+    // noTime: none.
+    void Flush(std::int64_t from);
+
+  private:
+    void NoteError();
+    Got Receive();
+    void AddLost(std::int64_t before);
+    void AddPicture(FrameHandle picture);
+    std::int64_t TimeOf(std::int64_t stated) const;
+
+    CodecHandle codec_;
+    std::int64_t usualDuration_ = 1;  // in the stream's time base
+    std::int64_t from_ = noTime;
+    std::int64_t last_ = noTime;        // time of the last frame that came
+    std::set<std::int64_t> waiting_;    // times of the packets whose frames have not come
+    std::vector<std::int64_t> errors_;  // for each, the last time that had been put in then
+    std::deque<DecodedFrame> ready_;
+};
+
+}  // namespace varnel

@@ -15,7 +15,7 @@
 
 namespace varnel::testing {
 
-inline QByteArray Run(const QString& program, const QStringList& arguments) {
+inline QByteArray OutputOf(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(program, arguments);
@@ -25,7 +25,7 @@ inline QByteArray Run(const QString& program, const QStringList& arguments) {
 }
 
 // The words of a command line, apart by blanks.
-inline QStringList Words(const char* line) {
+inline QStringList Words(const QByteArray& line) {
     return QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts);
 }
 
@@ -39,7 +39,7 @@ class FilmFolder {
         process.setStandardInputFile(QProcess::nullDevice());
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(QStringLiteral("ffmpeg"),
-                      Words("-v error -y") + Words(words.constData()) + QStringList{path});
+                      Words("-v error -y") + Words(words) + QStringList{path});
         process.waitForFinished(-1);
         return process.exitCode() == 0 ? path : QString();
     }

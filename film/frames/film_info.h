@@ -52,6 +52,7 @@ struct StreamInfo {
     std::int32_t level = -99;
     std::int32_t bitsPerCodedSample = 0;
     std::int32_t bitsPerRawSample = 0;
+    PixelSize size{};  // of pictures that are not decoded, as covers; pixels
     std::int32_t sampleRate = 0;
     std::int32_t channels = 0;
     std::uint64_t channelMask = 0;

@@ -92,7 +92,8 @@ QDataStream& operator<<(QDataStream& out, const StreamInfo& stream) {
         << Wide(stream.startTime) << Wide(stream.duration) << qint32{stream.disposition}
         << Wide(stream.bitRate) << qint32{stream.format} << qint32{stream.profile}
         << qint32{stream.level} << qint32{stream.bitsPerCodedSample}
-        << qint32{stream.bitsPerRawSample} << qint32{stream.sampleRate} << qint32{stream.channels}
+        << qint32{stream.bitsPerRawSample} << qint32{stream.size.width}
+        << qint32{stream.size.height} << qint32{stream.sampleRate} << qint32{stream.channels}
         << quint64{stream.channelMask} << qint32{stream.blockAlign} << qint32{stream.frameSize}
         << qint32{stream.initialPadding} << qint32{stream.trailingPadding}
         << qint32{stream.seekPreroll} << stream.extraData;
@@ -110,7 +111,8 @@ QDataStream& operator>>(QDataStream& in, StreamInfo& stream) {
     in >> stream.disposition;
     Take(in, stream.bitRate);
     in >> stream.format >> stream.profile >> stream.level >> stream.bitsPerCodedSample >>
-        stream.bitsPerRawSample >> stream.sampleRate >> stream.channels;
+        stream.bitsPerRawSample >> stream.size.width >> stream.size.height >> stream.sampleRate >>
+        stream.channels;
     quint64 mask = 0;
     in >> mask;
     stream.channelMask = mask;
@@ -166,10 +168,10 @@ bool IsSound(const FrameFormat& format) {
 }
 
 bool IsSound(const StreamInfo& stream, int index) {
-    const std::int32_t counts[] = {stream.sampleRate,     stream.channels,
-                                   stream.blockAlign,     stream.frameSize,
-                                   stream.initialPadding, stream.trailingPadding,
-                                   stream.seekPreroll,    stream.bitsPerCodedSample};
+    const std::int32_t counts[] = {
+        stream.size.width,  stream.size.height,       stream.sampleRate,     stream.channels,
+        stream.blockAlign,  stream.frameSize,         stream.initialPadding, stream.trailingPadding,
+        stream.seekPreroll, stream.bitsPerCodedSample};
     return stream.index == index && IsSound(stream.timeBase) && stream.bitRate >= 0 &&
            std::ranges::all_of(counts, [](std::int32_t count) { return count >= 0; });
 }

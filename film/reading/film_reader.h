@@ -14,12 +14,14 @@
 
 namespace varnel {
 
-// A decoded picture, upright. Its pixels stay readable as long as anyone holds it; a reader has
-// framesAhead of them at most.
+// A decoded picture, upright. Its pixels stay readable as long as anyone holds it, on any thread
+// and behind the reader's end; a reader has framesAhead of them at most, and while all are held
+// elsewhere, Next waits. Behind the last sample 64 bytes may be read. Samples of a hostile film may
+// lie above what its bits hold.
 class FilmFrame {
   public:
     virtual ~FilmFrame() = default;
-    std::int64_t pts = noTime;  // in the picture stream's time base
+    std::int64_t pts = noTime;  // in the picture stream's time base; rises from frame to frame
     std::int64_t duration = 0;
     bool key = false;
     FrameView view;
@@ -49,13 +51,15 @@ struct FilmReadChoices {
 class FilmReader {
   public:
     virtual ~FilmReader() = default;
-    // Opens a film and waits until its streams are known. The reason where it is none.
+    // Opens a film and waits until its first frame is decoded. The reason where it is none. The
+    // thread that opens it has to live as long as the film is read.
     virtual Reason Open(const QString& path, const FilmReadChoices& choices = {}) = 0;
     virtual const FilmInfo& Info() const = 0;
     // The next item. Waits for it; decoding goes on meanwhile up to framesAhead frames.
     virtual FilmItem Next() = 0;
-    // On to the last key frame at or before the time, or to the first frame of all. Next gives the
-    // frames from there on.
+    // On to the last key frame at or before the time, seconds from the first frame, or to the first
+    // frame of all; where a container has no index perhaps to an earlier key frame. Next gives the
+    // frames from there on. Also behind the end, and behind one that was a decoder's death.
     virtual Reason Seek(double seconds) = 0;
 };
 

@@ -62,6 +62,7 @@ void AddParameters(const AVCodecParameters& codec, StreamInfo& stream) {
     stream.level = codec.level;
     stream.bitsPerCodedSample = std::max(codec.bits_per_coded_sample, 0);
     stream.bitsPerRawSample = codec.bits_per_raw_sample;
+    stream.size = {std::max(codec.width, 0), std::max(codec.height, 0)};
     stream.sampleRate = std::max(codec.sample_rate, 0);
     stream.channels = std::max(codec.ch_layout.nb_channels, 0);
     stream.channelMask =

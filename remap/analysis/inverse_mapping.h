@@ -54,6 +54,11 @@ class InverseMapping {
     // every other one out.
     const std::vector<int>& Columns() const { return columns_; }
     const std::vector<int>& Rows() const { return rows_; }
+    // What the positions come from: the map, its lines with those beside what it is for black, and
+    // where on the photo its offsets count from.
+    const ProjectionMap& Map() const { return *map_; }
+    const ResultLines& Lines() const { return lines_; }
+    const SourcePosition& Centre() const { return centre_; }
     PixelSize SourceSize() const { return sourceSize_; }
     PixelSize ResultSize() const { return resultSize_; }
     // Whether the photo's middle is a whole row of the result, around which the rest is unrolled.

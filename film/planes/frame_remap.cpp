@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "film/planes/frame_remap.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+#include "film/planes/band_maker.h"
+#include "film/planes/cell_kernels.h"
+#include "remap/projection/record_maps.h"
+
+namespace varnel {
+
+namespace {
+
+// An even size where two share a sample; a single one stays.
+std::int32_t WholeShares(std::int32_t side, std::int32_t sharing) {
+    return std::max(side / sharing * sharing, 1);
+}
+
+// Photos of bytes are rounded down, those of finer samples to the nearest level. The little more
+// keeps whole levels from being lost to the last bit of a position. Colour has no direction to be
+// rounded in.
+float RoundingOf(const FrameFormat& format, int plane) {
+    constexpr float lastBits = 1.0F / 512.0F;
+    const bool isAlpha = format.alpha && plane == PlanesOf(format) - 1;
+    return format.bits > 8 || IsChromaPlane(format, plane) || isAlpha ? 0.5F : lastBits;
+}
+
+}  // namespace
+
+FrameFormat RemappedFormat(const FrameFormat& source, const ImageRecord& image) {
+    FrameFormat result = source;
+    const PixelSize size = ResultSizeOf(image, source.size);
+    const PixelSize sharing = SharingOf(source, 1);
+    result.size = {WholeShares(size.width, sharing.width),
+                   WholeShares(size.height, sharing.height)};
+    return result;
+}
+
+struct FrameRemap::Tables {
+    Projection projection = Projection::Varnel;
+    std::optional<ImageRecord> image;  // none as long as nothing is set
+    FrameFormat source, result;
+    NodeLattice nodes;
+    std::vector<Band> bands;
+
+    bool Have(Projection wanted, const ImageRecord& record, const FrameFormat& format) const {
+        return image && projection == wanted && source == format && *image == record;
+    }
+    void Make(BlockRunner& runner);
+    void DrawBandOf(std::size_t band, const FrameView& from, const FrameTarget& to) const;
+};
+
+void FrameRemap::Tables::Make(BlockRunner& runner) {
+    result = RemappedFormat(source, *image);
+    const MapPlaces places(projection, *image, source.size);
+    if (places.Smooth() != nullptr) {
+        nodes.Fill(places, runner);
+    }
+    const BandMaker maker(places, nodes, source, result);
+    bands.resize(static_cast<std::size_t>(maker.Bands()));
+    runner.Run(maker.Bands(), [&](int n) { maker.Make(n, bands[static_cast<std::size_t>(n)]); });
+}
+
+void FrameRemap::Tables::DrawBandOf(std::size_t band, const FrameView& from,
+                                    const FrameTarget& to) const {
+    std::array<std::array<PlanePair, mostPlanes>, grids> pairs;
+    std::array<std::size_t, grids> counts{};
+    std::array<int, grids> planes{};
+    for (int plane = 0; plane < PlanesOf(source); ++plane) {
+        const std::size_t id = SharingOf(source, plane).width > 1 ? colour : brightness;
+        const auto n = static_cast<std::size_t>(plane);
+        pairs[id][counts[id]++] = {from.planes[n], to.planes[n],
+                                   static_cast<float>(BlankLevel(source, plane)),
+                                   RoundingOf(source, plane)};
+        planes[id] = plane;
+    }
+    for (const GridId id : {brightness, colour}) {
+        if (counts[id] == 0) {
+            continue;
+        }
+        const SampleGrid samples = SampleGrid::Of(source, planes[id]);
+        DrawBand({bands[band], id, samples, source.size, PlaneSize(source, planes[id]),
+                  PlaneSize(result, planes[id]), static_cast<int>(band) * samples.CellRows(),
+                  BytesPerSample(source), std::span(pairs[id]).first(counts[id])});
+    }
+}
+
+FrameRemap::FrameRemap() : tables_(std::make_unique<Tables>()) {}
+
+FrameRemap::~FrameRemap() = default;
+
+void FrameRemap::Set(Projection projection, const ImageRecord& image, const FrameFormat& source,
+                     BlockRunner& runner) {
+    if (tables_->Have(projection, image, source)) {
+        return;
+    }
+    tables_->projection = projection;
+    tables_->source = source;
+    tables_->image = image;
+    try {
+        tables_->Make(runner);
+    } catch (...) {
+        tables_->image.reset();
+        throw;
+    }
+}
+
+const FrameFormat& FrameRemap::ResultFormat() const {
+    return tables_->result;
+}
+
+void FrameRemap::Draw(const FrameView& source, const FrameTarget& result,
+                      BlockRunner& runner) const {
+    runner.Run(static_cast<int>(tables_->bands.size()),
+               [&](int n) { tables_->DrawBandOf(static_cast<std::size_t>(n), source, result); });
+}
+
+}  // namespace varnel

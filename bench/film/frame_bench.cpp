@@ -97,9 +97,11 @@ int main(int argc, char** argv) {
             const std::string its = name + "/" + std::to_string(bits) + "bit";
             benchmark::RegisterBenchmark((its + "/fixed").c_str(), Draw, projection, bits)
                 ->UseRealTime()
+                ->MeasureProcessCPUTime()
                 ->Unit(benchmark::kMillisecond);
             benchmark::RegisterBenchmark((its + "/moving").c_str(), SetAndDraw, projection, bits)
                 ->UseRealTime()
+                ->MeasureProcessCPUTime()
                 ->Unit(benchmark::kMillisecond);
         }
     }

@@ -17,7 +17,7 @@ struct PlanePair {
     ConstPlane source;
     Plane result;
     float blank = 0.0F;     // the level where nothing is shown
-    float rounding = 0.5F;  // what a level gets before its fraction is cut off
+    float rounding = 0.0F;  // what a level gets before it becomes the nearest whole one
 };
 
 // A row of cells for planes whose samples lie at the same places.

@@ -26,7 +26,8 @@ std::int32_t WholeShares(std::int32_t side, std::int32_t sharing) {
 float RoundingOf(const FrameFormat& format, int plane) {
     constexpr float lastBits = 1.0F / 512.0F;
     const bool isAlpha = format.alpha && plane == PlanesOf(format) - 1;
-    return format.bits > 8 || IsChromaPlane(format, plane) || isAlpha ? 0.5F : lastBits;
+    const bool toNearest = format.bits > 8 || IsChromaPlane(format, plane) || isAlpha;
+    return toNearest ? lastBits : lastBits - 0.5F;
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ struct BorderPlace {
     float partX, partY;
 };
 
-// The same as StoreInside, sample by sample.
+// The same as for vectors, sample by sample.
 template <class Sample>
 class BorderReader {
   public:
@@ -119,8 +119,12 @@ void DrawInside(const BandDrawing& drawing, const CellArea& area, const Position
         const typename Positions::Row its(positions, row);
         for (int k = 0; k < area.columns; k += static_cast<int>(hn::Lanes(d))) {
             const Places<Floats> at = its.At(d, k);
+            const Window<Sample, Floats> window(d, at, drawing.source);
             for (const PlanePair& plane : drawing.planes) {
-                StoreInside(d, plane, at, RowOf<Sample>(plane, area, row) + k);
+                const Words<Floats> words = window.Fits()
+                                                ? window.Load(plane.source)
+                                                : LoadOneByOne(d, plane.source, at, sizeof(Sample));
+                StoreBlend(d, words, at, plane.rounding, RowOf<Sample>(plane, area, row) + k);
             }
         }
     }

@@ -14,6 +14,7 @@
 
 #include <hwy/highway.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -182,40 +183,125 @@ class ByList {
     int columns_;
 };
 
-// Two neighbouring samples of each lane.
+// Two neighbouring samples of each lane as 32 bits or, of bytes, in the low half of them.
+template <class Floats>
+struct Words {
+    hn::Vec<IntsOf<Floats>> upper, lower;  // of the rows above and below the positions
+};
+
+// Where the neighbours of a vector of positions lie close together, they are taken out of a few
+// whole vectors; that is sooner than loading them one by one.
 template <class Sample, class Floats>
-HWY_INLINE void LoadPairs(Floats d, const std::byte* first, const std::int32_t* offsets,
-                          std::array<hn::Vec<Floats>, 2>& pair) {
+class Window {
+  public:
+    Window([[maybe_unused]] Floats d, [[maybe_unused]] const Places<Floats>& at,
+           [[maybe_unused]] PixelSize plane) {
+#if HWY_TARGET != HWY_SCALAR
+        const IntsOf<Floats> ints;
+        const std::size_t last = hn::Lanes(d) - 1;
+        const std::int32_t lastX = hn::ExtractLane(at.x, last);
+        const std::int32_t lastY = hn::ExtractLane(at.y, last);
+        left_ = std::min(hn::GetLane(at.x), lastX);
+        top_ = std::min(hn::GetLane(at.y), lastY);
+        rows_ = std::max(hn::GetLane(at.y), lastY) - top_;
+        const int samples = perWord * static_cast<int>(hn::Lanes(d));
+        const auto x = hn::Sub(at.x, hn::Set(ints, left_));
+        y_ = hn::Sub(at.y, hn::Set(ints, top_));
+        word_ = hn::ShiftRight<perWord / 2>(x);
+        isHalfway_ = IsSet(x, perWord / 2);
+        isOdd_ = IsSet(x, 1);
+        const auto zero = hn::Zero(ints);
+        const auto least = hn::Min(x, y_);
+        const auto tooFar = hn::Or(hn::Gt(x, hn::Set(ints, samples - perWord)),
+                                   hn::Gt(y_, hn::Set(ints, rows_)));
+        fits_ = rows_ <= mostRows && left_ + samples + perWord <= plane.width &&
+                hn::AllFalse(ints, hn::Or(tooFar, hn::Lt(least, zero)));
+#endif
+    }
+    bool Fits() const { return fits_; }
+
+    HWY_INLINE Words<Floats> Load(const ConstPlane& plane) const {
+        const IntsOf<Floats> ints;
+        const std::byte* row =
+            plane.first + top_ * plane.pitch + left_ * static_cast<std::ptrdiff_t>(sizeof(Sample));
+        Words<Floats> words{Row(row), Row(row + plane.pitch)};
+        auto next = words.lower;
+        for (std::int32_t n = 1; n <= rows_; ++n) {
+            row += plane.pitch;
+            const auto its = hn::Eq(y_, hn::Set(ints, n));
+            words.upper = hn::IfThenElse(its, next, words.upper);
+            next = Row(row + plane.pitch);
+            words.lower = hn::IfThenElse(its, next, words.lower);
+        }
+        if constexpr (sizeof(Sample) == 1) {
+            words.upper = hn::IfThenElse(isOdd_, hn::ShiftRight<8>(words.upper), words.upper);
+            words.lower = hn::IfThenElse(isOdd_, hn::ShiftRight<8>(words.lower), words.lower);
+        }
+        return words;
+    }
+
+  private:
+    using VecI = hn::Vec<IntsOf<Floats>>;
+    static constexpr int perWord = 4 / sizeof(Sample);
+    // Rows beyond two; with more of them loading one by one is as good.
+    static constexpr std::int32_t mostRows = 4;
+
+    static hn::Mask<IntsOf<Floats>> IsSet(VecI value, std::int32_t bit) {
+        const IntsOf<Floats> ints;
+        return hn::Ne(hn::And(value, hn::Set(ints, bit)), hn::Zero(ints));
+    }
+    // The words that begin at whole ones and, for positions half a word further, those between.
+    HWY_INLINE VecI Row(const std::byte* row) const {
+        const IntsOf<Floats> ints;
+        const auto indices = hn::IndicesFromVec(ints, word_);
+        const auto* const words = reinterpret_cast<const std::int32_t*>(row);
+        const auto* const between = reinterpret_cast<const std::int32_t*>(row + 2);
+        return hn::IfThenElse(isHalfway_,
+                              hn::TableLookupLanes(hn::LoadU(ints, between), indices),
+                              hn::TableLookupLanes(hn::LoadU(ints, words), indices));
+    }
+
+    VecI word_, y_;
+    hn::Mask<IntsOf<Floats>> isHalfway_, isOdd_;
+    std::int32_t left_ = 0, top_ = 0, rows_ = 0;
+    bool fits_ = false;
+};
+
+template <class Floats>
+HWY_NOINLINE Words<Floats> LoadOneByOne(Floats d, const ConstPlane& plane,
+                                        const Places<Floats>& at, std::ptrdiff_t sampleBytes) {
+    const IntsOf<Floats> ints;
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> x;
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> y;
+    hn::Store(at.x, ints, x.data());
+    hn::Store(at.y, ints, y.data());
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> upper;
+    HWY_ALIGN std::array<std::int32_t, lanesAtMost> lower;
+    for (std::size_t n = 0; n < hn::Lanes(d); ++n) {
+        const std::byte* const place = plane.first + y[n] * plane.pitch + x[n] * sampleBytes;
+        std::memcpy(&upper[n], place, sizeof upper[n]);
+        std::memcpy(&lower[n], place + plane.pitch, sizeof lower[n]);
+    }
+    return {hn::Load(ints, upper.data()), hn::Load(ints, lower.data())};
+}
+
+template <class Sample, class Floats>
+HWY_INLINE hn::Vec<Floats> Across(Floats d, hn::Vec<IntsOf<Floats>> words,
+                                  hn::Vec<Floats> part) {
     const IntsOf<Floats> ints;
     constexpr int bits = 8 * sizeof(Sample);
     const auto mask = hn::Set(ints, (1 << bits) - 1);
-    // Sooner than the library's gathering on the processors measured.
-    HWY_ALIGN std::array<std::int32_t, lanesAtMost> words;
-    for (std::size_t n = 0; n < hn::Lanes(d); ++n) {
-        std::memcpy(&words[n], first + offsets[n], sizeof words[n]);
-    }
-    const auto both = hn::Load(ints, words.data());
-    pair[0] = hn::ConvertTo(d, hn::And(both, mask));
-    pair[1] = hn::ConvertTo(d, hn::And(hn::ShiftRight<bits>(both), mask));
+    return Between(hn::ConvertTo(d, hn::And(words, mask)),
+                   hn::ConvertTo(d, hn::And(hn::ShiftRight<bits>(words), mask)), part);
 }
 
-// All neighbours are on the plane.
 template <class Sample, class Floats>
-HWY_INLINE void StoreInside(Floats d, const PlanePair& plane, const Places<Floats>& at,
-                            Sample* out) {
+HWY_INLINE void StoreBlend(Floats d, const Words<Floats>& words, const Places<Floats>& at,
+                           float rounding, Sample* out) {
     const IntsOf<Floats> ints;
-    const auto pitch = static_cast<std::int32_t>(plane.source.pitch);
-    const auto columns = sizeof(Sample) == 2 ? hn::ShiftLeft<1>(at.x) : at.x;
-    HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
-    hn::Store(hn::Add(hn::Mul(at.y, hn::Set(ints, pitch)), columns), ints, offsets.data());
-    std::array<hn::Vec<Floats>, 2> upper;
-    std::array<hn::Vec<Floats>, 2> lower;
-    LoadPairs<Sample>(d, plane.source.first, offsets.data(), upper);
-    LoadPairs<Sample>(d, plane.source.first + pitch, offsets.data(), lower);
-    const auto level = Between(Between(upper[0], upper[1], at.partX),
-                               Between(lower[0], lower[1], at.partX), at.partY);
-    const auto shifted =
-        hn::Add(hn::Add(level, hn::Set(d, plane.rounding)), hn::Set(d, wholeShift));
+    const auto level = Between(Across<Sample>(d, words.upper, at.partX),
+                               Across<Sample>(d, words.lower, at.partX), at.partY);
+    const auto shifted = hn::Add(hn::Add(level, hn::Set(d, rounding)), hn::Set(d, wholeShift));
     const auto whole = hn::And(hn::BitCast(ints, shifted), hn::Set(ints, 0xFFFF));
     const hn::Rebind<Sample, IntsOf<Floats>> narrow;
     hn::StoreU(hn::DemoteTo(narrow, whole), narrow, out);

@@ -212,13 +212,15 @@ class Window {
         isOdd_ = IsSet(x, 1);
         const auto zero = hn::Zero(ints);
         const auto least = hn::Min(x, y_);
-        const auto tooFar = hn::Or(hn::Gt(x, hn::Set(ints, samples - perWord)),
-                                   hn::Gt(y_, hn::Set(ints, rows_)));
+        const auto tooFar =
+            hn::Or(hn::Gt(x, hn::Set(ints, samples - perWord)), hn::Gt(y_, hn::Set(ints, rows_)));
         fits_ = rows_ <= mostRows && left_ + samples + perWord <= plane.width &&
                 hn::AllFalse(ints, hn::Or(tooFar, hn::Lt(least, zero)));
 #endif
     }
-    bool Fits() const { return fits_; }
+    bool Fits() const {
+        return fits_;
+    }
 
     HWY_INLINE Words<Floats> Load(const ConstPlane& plane) const {
         const IntsOf<Floats> ints;
@@ -256,8 +258,7 @@ class Window {
         const auto indices = hn::IndicesFromVec(ints, word_);
         const auto* const words = reinterpret_cast<const std::int32_t*>(row);
         const auto* const between = reinterpret_cast<const std::int32_t*>(row + 2);
-        return hn::IfThenElse(isHalfway_,
-                              hn::TableLookupLanes(hn::LoadU(ints, between), indices),
+        return hn::IfThenElse(isHalfway_, hn::TableLookupLanes(hn::LoadU(ints, between), indices),
                               hn::TableLookupLanes(hn::LoadU(ints, words), indices));
     }
 
@@ -268,8 +269,8 @@ class Window {
 };
 
 template <class Floats>
-HWY_NOINLINE Words<Floats> LoadOneByOne(Floats d, const ConstPlane& plane,
-                                        const Places<Floats>& at, std::ptrdiff_t sampleBytes) {
+HWY_NOINLINE Words<Floats> LoadOneByOne(Floats d, const ConstPlane& plane, const Places<Floats>& at,
+                                        std::ptrdiff_t sampleBytes) {
     const IntsOf<Floats> ints;
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> x;
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> y;
@@ -286,8 +287,7 @@ HWY_NOINLINE Words<Floats> LoadOneByOne(Floats d, const ConstPlane& plane,
 }
 
 template <class Sample, class Floats>
-HWY_INLINE hn::Vec<Floats> Across(Floats d, hn::Vec<IntsOf<Floats>> words,
-                                  hn::Vec<Floats> part) {
+HWY_INLINE hn::Vec<Floats> Across(Floats d, hn::Vec<IntsOf<Floats>> words, hn::Vec<Floats> part) {
     const IntsOf<Floats> ints;
     constexpr int bits = 8 * sizeof(Sample);
     const auto mask = hn::Set(ints, (1 << bits) - 1);

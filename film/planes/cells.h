@@ -81,6 +81,10 @@ struct BandOfGrid {
 
 enum GridId : std::size_t { brightness, colour, grids };
 
+inline GridId GridOf(const FrameFormat& format, int plane) {
+    return SharingOf(format, plane).width > 1 ? colour : brightness;
+}
+
 // A row of cells.
 struct Band {
     std::vector<CellPolynomial> cells;

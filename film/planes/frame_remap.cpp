@@ -9,6 +9,7 @@
 
 #include "film/planes/band_maker.h"
 #include "film/planes/cell_kernels.h"
+#include "film/planes/outside_cover.h"
 #include "remap/projection/record_maps.h"
 
 namespace varnel {
@@ -47,12 +48,15 @@ struct FrameRemap::Tables {
     FrameFormat source, result;
     NodeLattice nodes;
     std::vector<Band> bands;
+    std::optional<OutsideCover> outside;
 
     bool Have(Projection wanted, const ImageRecord& record, const FrameFormat& format) const {
         return image && projection == wanted && source == format && *image == record;
     }
     void Make(BlockRunner& runner);
+    // Of frames of the source's size in that format.
     void DrawBandOf(std::size_t band, const FrameView& from, const FrameTarget& to) const;
+    void FillBandOf(std::size_t band, const FrameTarget& to) const;
 };
 
 void FrameRemap::Tables::Make(BlockRunner& runner) {
@@ -64,29 +68,48 @@ void FrameRemap::Tables::Make(BlockRunner& runner) {
     const BandMaker maker(places, nodes, source, result);
     bands.resize(static_cast<std::size_t>(maker.Bands()));
     runner.Run(maker.Bands(), [&](int n) { maker.Make(n, bands[static_cast<std::size_t>(n)]); });
+    outside.reset();
+    if (image->Outside.kind == OutsideFill::Kind::Colour) {
+        outside.emplace(*image, source, result, [&](const FrameView& from, const FrameTarget& to) {
+            runner.Run(maker.Bands(),
+                       [&](int n) { DrawBandOf(static_cast<std::size_t>(n), from, to); });
+        });
+    }
 }
 
 void FrameRemap::Tables::DrawBandOf(std::size_t band, const FrameView& from,
                                     const FrameTarget& to) const {
+    const FrameFormat& format = from.format;
     std::array<std::array<PlanePair, mostPlanes>, grids> pairs;
     std::array<std::size_t, grids> counts{};
     std::array<int, grids> planes{};
-    for (int plane = 0; plane < PlanesOf(source); ++plane) {
-        const std::size_t id = SharingOf(source, plane).width > 1 ? colour : brightness;
+    for (int plane = 0; plane < PlanesOf(format); ++plane) {
+        const std::size_t id = GridOf(format, plane);
         const auto n = static_cast<std::size_t>(plane);
         pairs[id][counts[id]++] = {from.planes[n], to.planes[n],
-                                   static_cast<float>(BlankLevel(source, plane)),
-                                   RoundingOf(source, plane)};
+                                   static_cast<float>(BlankLevel(format, plane)),
+                                   RoundingOf(format, plane)};
         planes[id] = plane;
     }
     for (const GridId id : {brightness, colour}) {
         if (counts[id] == 0) {
             continue;
         }
-        const SampleGrid samples = SampleGrid::Of(source, planes[id]);
-        DrawBand({bands[band], id, samples, source.size, PlaneSize(source, planes[id]),
-                  PlaneSize(result, planes[id]), static_cast<int>(band) * samples.CellRows(),
-                  BytesPerSample(source), std::span(pairs[id]).first(counts[id])});
+        const SampleGrid samples = SampleGrid::Of(format, planes[id]);
+        DrawBand({bands[band], id, samples, format.size, PlaneSize(format, planes[id]),
+                  PlaneSize(to.format, planes[id]), static_cast<int>(band) * samples.CellRows(),
+                  BytesPerSample(format), std::span(pairs[id]).first(counts[id])});
+    }
+}
+
+void FrameRemap::Tables::FillBandOf(std::size_t band, const FrameTarget& to) const {
+    for (int plane = 0; plane < PlanesOf(to.format); ++plane) {
+        const int rows = SampleGrid::Of(to.format, plane).CellRows();
+        const int first = static_cast<int>(band) * rows;
+        const int end = std::min(first + rows, PlaneSize(to.format, plane).height);
+        for (int row = first; row < end; ++row) {
+            outside->FillRow(to, plane, row);
+        }
     }
 }
 
@@ -116,8 +139,13 @@ const FrameFormat& FrameRemap::ResultFormat() const {
 
 void FrameRemap::Draw(const FrameView& source, const FrameTarget& result,
                       BlockRunner& runner) const {
-    runner.Run(static_cast<int>(tables_->bands.size()),
-               [&](int n) { tables_->DrawBandOf(static_cast<std::size_t>(n), source, result); });
+    runner.Run(static_cast<int>(tables_->bands.size()), [&](int n) {
+        const auto band = static_cast<std::size_t>(n);
+        tables_->DrawBandOf(band, source, result);
+        if (tables_->outside) {
+            tables_->FillBandOf(band, result);
+        }
+    });
 }
 
 }  // namespace varnel

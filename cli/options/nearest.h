@@ -1,18 +1,14 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Which known name a misspelt one may stand for. Throws std::bad_alloc only.
+// What is asked when a name is not known. Throws std::bad_alloc only.
 #pragma once
 
 #include <QString>
-#include <QStringList>
+
+#include "base/nearest_name.h"
 
 namespace varnel {
-
-// The name that is the fewest letters away, as long as that is no more than a third of what was
-// given, else the shortest that begins with it; small and capital letters are the same. Empty when
-// nothing is near.
-QString Nearest(const QString& given, const QStringList& names);
 
 // "WHAT; did you mean "NEAREST"? REST", without the middle when nothing is near.
 QString AskIfMeant(const QString& what, const QString& nearest, const QString& rest);

@@ -4,52 +4,32 @@
 #include "pipeline/conversion/morph_sequence.h"
 
 #include <QCoreApplication>
-#include <QLatin1StringView>
 #include <algorithm>
 #include <array>
 
 #include "base/run_time_error.h"
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/moved_fields.h"
 
 namespace varnel {
 
 namespace {
 
-// A moved setting: its place in the record and among the values, and the least that a frame may
-// have of it. The effects may go lower here than on the main window, where both end at 0.1.
-struct MovedField {
-    QLatin1StringView name;
-    float ImageRecord::*field;
-    float MorphValues::*value;
-    std::optional<float> floor = std::nullopt;
-};
+// Where each of movedFields, in their order, is among the values.
+constexpr std::array<float MorphValues::*, movedFields.size()> movedValues{
+    &MorphValues::OutputAOV,     &MorphValues::effect,      &MorphValues::effect,
+    &MorphValues::RotateX,       &MorphValues::RotateY,     &MorphValues::RotateZ,
+    &MorphValues::TranslateX,    &MorphValues::TranslateY,  &MorphValues::PaniniD,
+    &MorphValues::PaniniSqueeze, &MorphValues::UnrollStart, &MorphValues::UnrollFrom,
+    &MorphValues::UnrollTo};
 
-#define VARNEL_MOVED(name)                                               \
-    MovedField {                                                         \
-        QLatin1StringView(#name), &ImageRecord::name, &MorphValues::name \
-    }
-constexpr std::array movedFields{
-    VARNEL_MOVED(OutputAOV),
-    MovedField{QLatin1StringView("EffectVarnel"), &ImageRecord::EffectVarnel, &MorphValues::effect,
-               0.01F},
-    MovedField{QLatin1StringView("EffectRectilinear"), &ImageRecord::EffectRectilinear,
-               &MorphValues::effect, 0.1F},
-    VARNEL_MOVED(RotateX),
-    VARNEL_MOVED(RotateY),
-    VARNEL_MOVED(RotateZ),
-    VARNEL_MOVED(TranslateX),
-    VARNEL_MOVED(TranslateY),
-    VARNEL_MOVED(PaniniD),
-    VARNEL_MOVED(PaniniSqueeze),
-    VARNEL_MOVED(UnrollStart),
-    VARNEL_MOVED(UnrollFrom),
-    VARNEL_MOVED(UnrollTo),
-};
-#undef VARNEL_MOVED
+float MorphValues::*ValueOf(const MovedField& moved) {
+    return movedValues[static_cast<std::size_t>(&moved - movedFields.data())];
+}
 
 // Of the two effects that which the projection reads, and all else.
 bool Moves(const MovedField& moved, Projection projection) {
-    return moved.value != &MorphValues::effect || EffectReadBy(projection) == moved.field;
+    return ValueOf(moved) != &MorphValues::effect || EffectReadBy(projection) == moved.field;
 }
 
 // How far frame i is on its way, 0 to 1.
@@ -60,38 +40,25 @@ float Progress(int i, int N) {
     return static_cast<float>((i - 1) / static_cast<double>(N - 1));
 }
 
-float Between(float start, float end, float t, std::optional<float> floor) {
-    const float value = start + (end - start) * t;
-    return floor ? std::max(value, *floor) : value;
-}
-
 }  // namespace
 
 MorphEnds EndsFrom(const ImageRecord& image) {
     MorphValues values;
     for (const MovedField& moved : movedFields) {
         if (Moves(moved, ProjectionFromIndex(image.Projection))) {
-            values.*moved.value = image.*moved.field;
+            values.*ValueOf(moved) = image.*moved.field;
         }
     }
     return {values, values};
 }
 
 float* MorphValue(MorphValues& values, Projection projection, const QString& field) {
-    for (const MovedField& moved : movedFields) {
-        if (moved.name == field && Moves(moved, projection)) {
-            return &(values.*moved.value);
-        }
-    }
-    return nullptr;
+    const MovedField* const moved = MovedFieldOf(field);
+    return moved != nullptr && Moves(*moved, projection) ? &(values.*ValueOf(*moved)) : nullptr;
 }
 
 QStringList MorphFields() {
-    QStringList names;
-    for (const MovedField& moved : movedFields) {
-        names.append(moved.name);
-    }
-    return names;
+    return MovedFieldNames();
 }
 
 ImageRecord MorphFrame(const ImageRecord& image, const MorphEnds& ends, int i, int N) {
@@ -100,7 +67,7 @@ ImageRecord MorphFrame(const ImageRecord& image, const MorphEnds& ends, int i, i
     for (const MovedField& moved : movedFields) {
         if (Moves(moved, ProjectionFromIndex(image.Projection))) {
             frame.*moved.field =
-                Between(ends.start.*moved.value, ends.end.*moved.value, t, moved.floor);
+                OnTheWay(moved, ends.start.*ValueOf(moved), ends.end.*ValueOf(moved), t);
         }
     }
     frame.NameSuffix =

@@ -2,41 +2,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Settings that move along a film: at some times some numbers of the record are given, and between
-// them they go from one to the next. Throws std::bad_alloc only.
+// them they go from one to the next. Times are seconds from the film's first frame. Throws
+// std::bad_alloc only.
 #pragma once
 
 #include <QByteArray>
-#include <QMap>
 #include <QString>
 #include <variant>
-#include <vector>
 
 #include "state/records/image_record.h"
 
 namespace varnel {
 
-// How the numbers go from a key to the next one: evenly, slowly out and slowly in (cubic, 3t^2 -
-// 2t^3), or not at all until the next one is there.
-enum class KeyEase : std::uint8_t { Linear, Ease, Hold };
+inline constexpr double latestKey = 1e6;  // seconds, eleven days
 
-struct FilmKey {
-    double time = 0.0;  // seconds from the film's start, 0 or more
-    KeyEase ease = KeyEase::Linear;
-    QMap<QString, float> set;  // by the record field's name; any that a morph moves
-
-    bool operator==(const FilmKey&) const = default;
-};
-
-// In the order of their times, no two of them at the same time.
-using FilmKeys = std::vector<FilmKey>;
-
-// {"keys":[{"time":1.5,"ease":"linear","set":{"RotateY":-10}}]}. The keys, or one line that says
-// what is wrong.
+// {"keys":[{"time":1.5,"ease":"linear","set":{"RotateY":-10}}]}, in any order; ease is linear,
+// ease or hold, and linear where it is missing. The keys in their order, or one line that says what
+// is wrong.
 std::variant<FilmKeys, QString> FilmKeysFromJson(const QByteArray& json);
+// One line, from which the same keys are read.
 QByteArray ToJson(const FilmKeys& keys);
 
-// The record at a time: each field by the keys that give it, as at the first of them before it and
-// as at the last behind it.
+// The record at a time, as a photo's: each field by the keys that give it, as at the first of them
+// before it and as at the last behind it. Without keys of that field it stays as it is.
 ImageRecord RecordAt(const ImageRecord& image, const FilmKeys& keys, double seconds);
+
+// Whether any key gives the field.
+bool Moves(const FilmKeys& keys, const QString& field);
+
+// The key whose time is nearest, if it is no more than `reach` seconds away; else the end.
+FilmKeys::const_iterator KeyNear(const FilmKeys& keys, double seconds, double reach);
+
+// Gives the field that value at that time: in the key that is within reach, or in a new one, which
+// takes over how the one before it goes on.
+void SetKey(FilmKeys& keys, double seconds, double reach, const QString& field, float value);
+
+// Gives the key another time, 0 to latestKey; its new place. Where another key is within reach it
+// stays as it is.
+FilmKeys::const_iterator MoveKey(FilmKeys& keys, FilmKeys::const_iterator key, double seconds,
+                                 double reach);
+
+// The other keys as they are.
+void RemoveKey(FilmKeys& keys, FilmKeys::const_iterator key);
 
 }  // namespace varnel

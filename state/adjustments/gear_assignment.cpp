@@ -156,6 +156,7 @@ void CopySettings(const ImageRecord& from, ImageRecord& to) {
     changed.FileName = to.FileName;
     changed.NameSuffix = to.NameSuffix;
     changed.Orientation = to.Orientation;
+    changed.Film = to.Film;
     to = std::move(changed);
 }
 

@@ -9,11 +9,13 @@
 #include <QMap>
 #include <QString>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "base/bool16.h"
 #include "state/records/camera_pose.h"
 #include "state/records/face_ellipse.h"
+#include "state/records/film_course.h"
 #include "state/records/outside_fill.h"
 #include "state/records/projection.h"
 #include "state/records/sampled_lens.h"
@@ -81,6 +83,9 @@ struct ImageRecord {
     Bool16 Tunnel;                   // a little planet that looks the other way
     std::vector<FaceEllipse> Faces;  // parts that keep their shape in the straight view
     SamplingKind Sampling = SamplingKind::Classic;
+
+    // Of a film: which part of it is converted and what moves along it. None for a photo.
+    std::optional<FilmCourse> Film;
 
     // Takes the place of the lens's two numbers where it is there.
     LensReference Lens;

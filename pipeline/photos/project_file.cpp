@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 
+#include "film/keys/course_lines.h"
 #include "pipeline/photos/add_images.h"
 #include "state/adjustments/picture_settings.h"
 #include "state/adjustments/record_fields.h"
@@ -126,6 +127,11 @@ void AddPhoto(QString& text, const ImageRecord& image, const QString& folder) {
             AddLine(text, name, value);
         }
     }
+    if (image.Film) {
+        for (const auto& [name, value] : LinesOf(*image.Film)) {
+            AddLine(text, name, value);
+        }
+    }
 }
 
 // Goes through the file line by line.
@@ -180,6 +186,7 @@ class Reader {
     ImageRecord image_;
     PictureSettings settings_;
     QList<std::pair<const PhotoField*, QString>> fields_;
+    FilmLines film_;
     ReadProject project_;
     QString error_;
 };
@@ -244,6 +251,8 @@ bool Reader::TakeLine() {
     const auto* const field = std::ranges::find(photoFields, name, &PhotoField::name);
     if (field != photoFields.end()) {
         fields_.append({field, *value});
+    } else if (IsFilmLine(name)) {
+        film_.append({name, *value});
     } else if (name != version) {
         settings_.insert(name, *value);
     }
@@ -283,11 +292,17 @@ void Reader::EndPhoto() {
     for (const auto& [field, value] : fields_) {
         TakePhotoField(*field, value);
     }
+    if (!film_.isEmpty()) {
+        for (const QString& unusable : TakeLines(film_, image_.Film.emplace())) {
+            AddNote(Texts::tr("the setting %1 cannot be used").arg(unusable));
+        }
+    }
     if (!QFileInfo::exists(SourcePath(image_))) {
         project_.missing.append(SourcePath(image_));
     }
     project_.images.Append(std::exchange(image_, {}));
     settings_.clear();
+    film_.clear();
     fields_.clear();
 }
 

@@ -3,9 +3,9 @@
 
 // The image list with all settings as a text file: UTF-8, a first line with the version, the number
 // of photos, then one block a photo with its fields by name, and a last line that shows that
-// nothing was cut off. What a field would have anyway is not written. Folders are relative to the
-// project file's where a part of the way is common. Throws std::bad_alloc only; errors are
-// returned.
+// nothing was cut off. What a field would have anyway is not written. A film's block has lines more
+// (film/keys/course_lines.h). Folders are relative to the project file's where a part of the way is
+// common. Throws std::bad_alloc only; errors are returned.
 #pragma once
 
 #include <QByteArray>

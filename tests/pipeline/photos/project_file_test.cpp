@@ -89,6 +89,29 @@ TEST(ProjectFile, ComesBackBitByBitWithWhateverLineEnds) {
     EXPECT_EQ(moved.images(3).Folder, Text("/elsewhere"));
 }
 
+TEST(ProjectFile, FilmsKeepTheirKeysAndPhotosHaveNoLineMore) {
+    RecordArray<ImageRecord> images;
+    ImageRecord film = testing::FisheyePhoto(Text("/p"), Text("a.mp4"));
+    film.Film = FilmCourse{0.5, 12.25, {{1.0 / 3.0, KeyEase::Ease, {{Text("RotateY"), 0.1F}}}}};
+    images.Append(film);
+    film.Film = FilmCourse();
+    images.Append(film);
+    images.Append(testing::FisheyePhoto(Text("/p"), Text("a.jpg")));
+    const QByteArray text = ProjectText(images, Text("/p"));
+    const ReadProject read = ProjectFromText(text, Text("/p"));
+    EXPECT_EQ(read.notes, QStringList());
+    ASSERT_EQ(read.images.UpperBound(), 3);
+    for (int n = 1; n <= 3; ++n) {
+        EXPECT_EQ(read.images(n).Film, images(n).Film);
+    }
+    EXPECT_EQ(text.count("Film"), 4);
+    QByteArray damaged = text;
+    damaged.replace("\"ease\":\"ease\"", "\"ease\":\"odd\"");
+    const ReadProject rest = ProjectFromText(damaged, Text("/p"));
+    EXPECT_EQ(rest.notes, QStringList{Text("/p/a.mp4: the setting FilmKeys cannot be used")});
+    EXPECT_EQ(rest.images(1).Film, (FilmCourse{0.5, 12.25, {}}));
+}
+
 TEST(ProjectFile, SaysWhatIsWrongWithADamagedOrNewerOne) {
     const QByteArray good = "Varnel project 1\nPhotos=1\n\n[Photo]\nSource=a.jpg\n\n[End]\n";
     ASSERT_EQ(ProjectFromText(good, Text("/p")).images.UpperBound(), 1);

@@ -187,6 +187,61 @@
     </message>
 </context>
 <context>
+    <name>FilmKeys</name>
+    <message>
+        <source>there is %1</source>
+        <translation>es gibt %1</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>war „%1“ gemeint?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means nothing here; %2</source>
+        <translation>„%1“ bedeutet hier nichts; %2</translation>
+    </message>
+    <message>
+        <source>&quot;time&quot; must be a number of seconds from 0 to %1</source>
+        <translation>„time“ muss eine Zahl von Sekunden von 0 bis %1 sein</translation>
+    </message>
+    <message>
+        <source>&quot;ease&quot; must be linear, ease or hold</source>
+        <translation>„ease“ muss linear, ease oder hold sein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no setting that moves; %2</source>
+        <translation>„%1“ ist keine Einstellung, die sich bewegt; %2</translation>
+    </message>
+    <message>
+        <source>the value of %1 must be a number</source>
+        <translation>der Wert von %1 muss eine Zahl sein</translation>
+    </message>
+    <message>
+        <source>&quot;set&quot; must hold settings and their numbers</source>
+        <translation>„set“ muss Einstellungen und ihre Zahlen enthalten</translation>
+    </message>
+    <message>
+        <source>it must be an object with time and set</source>
+        <translation>er muss ein Objekt mit time und set sein</translation>
+    </message>
+    <message>
+        <source>it is not JSON: %1 at byte %2</source>
+        <translation>es ist kein JSON: %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>it has no list &quot;keys&quot;</source>
+        <translation>die Liste „keys“ fehlt</translation>
+    </message>
+    <message>
+        <source>key %1: %2</source>
+        <translation>Schlüssel %1: %2</translation>
+    </message>
+    <message>
+        <source>there are two keys at %1 seconds</source>
+        <translation>bei %1 Sekunden sind zwei Schlüssel</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -920,6 +975,38 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Zurück zu den Fotos; was hinzugefügt wurde, bleibt im Stapel</translation>
+    </message>
+    <message>
+        <source>&amp;Write as film</source>
+        <translation>Als &amp;Film schreiben</translation>
+    </message>
+    <message>
+        <source>The images become one film at once instead of pictures in the batch queue</source>
+        <translation>Aus den Bildern wird sofort ein Film statt Bilder im Stapel</translation>
+    </message>
+    <message>
+        <source>Images in a second of the film</source>
+        <translation>Bilder in einer Sekunde des Films</translation>
+    </message>
+    <message>
+        <source>How many images the film shows in a second</source>
+        <translation>Wie viele Bilder der Film in einer Sekunde zeigt</translation>
+    </message>
+    <message>
+        <source> images a second</source>
+        <translation> Bilder je Sekunde</translation>
+    </message>
+    <message>
+        <source>Images written</source>
+        <translation>Geschriebene Bilder</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stops writing the film; nothing of it is kept</source>
+        <translation>Hört auf, den Film zu schreiben; nichts davon bleibt</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +1778,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>the gear is a guess</source>
         <translation>die Ausrüstung ist angenommen</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>Film</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -2186,6 +2277,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Export presets</source>
         <translation>Voreinstellungen exportieren</translation>
+    </message>
+    <message>
+        <source>Save film as</source>
+        <translation>Film speichern unter</translation>
+    </message>
+    <message>
+        <source>Films (%1)</source>
+        <translation>Filme (%1)</translation>
     </message>
 </context>
 <context>
@@ -3209,6 +3308,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>tunnel</source>
         <translation>Tunnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>Schlüssel des Films</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>Teil des Films</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3824,6 +3931,120 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Spielt den Film ab (Leertaste)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>Der Film beginnt mit diesem Bild (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>Der Film endet mit diesem Bild (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Schlüssel setzen</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Schlüssel automatisch</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Jeder Regler, der bewegt wird, macht hier einen Schlüssel; sonst nur die, die schon Schlüssel haben</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Codec des Films</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Wie der Film kodiert wird</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Qualität des Films (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF des Kodierers: eine kleinere Zahl gibt eine bessere und längere Datei</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Übliche Qualität</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Geschwindigkeit des Kodierens</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Ein langsamerer Kodierer macht kürzere Dateien gleicher Qualität</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Übliche Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Film speichern ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Wandelt den Film mit seinen Schlüsseln um, von Anfang bis Ende, und schreibt ihn</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Schlüssel entfernen</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Entfernt den Schlüssel an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Ein Schlüssel an dieser Stelle mit den Zahlen aller Regler, die sich bewegen (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>Das ist der Film selbst; wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Es wurde kein Film geschrieben</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -4087,6 +4308,50 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 Bilder hinzugefügt, %2 im Stapel</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
+    </message>
+    <message>
+        <source>&amp;Write film ...</source>
+        <translation>Film &amp;schreiben ...</translation>
+    </message>
+    <message>
+        <source>&amp;Add to batch que</source>
+        <translation>&amp;Zum Stapel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Asks for a name and writes the sequence as a film</source>
+        <translation>Fragt nach einem Namen und schreibt die Sequenz als Film</translation>
+    </message>
+    <message>
+        <source>Puts every image of the sequence into the batch queue, where &quot;Process batch que&quot; writes them</source>
+        <translation>Legt jedes Bild der Sequenz in den Stapel, wo „Stapel verarbeiten“ sie schreibt</translation>
+    </message>
+    <message>
+        <source>Write the sequence as a film</source>
+        <translation>Die Sequenz als Film schreiben</translation>
+    </message>
+    <message>
+        <source>Add the sequence to the batch queue</source>
+        <translation>Die Sequenz zum Stapel hinzufügen</translation>
+    </message>
+    <message>
+        <source>A film needs two images or more</source>
+        <translation>Ein Film braucht zwei oder mehr Bilder</translation>
+    </message>
+    <message>
+        <source>The film %1 was written</source>
+        <translation>Der Film %1 wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Es wurde kein Film geschrieben</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
     </message>
 </context>
 <context>
@@ -4994,6 +5259,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Dunkel</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Zeitleiste des Films</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Gleichmäßig zum nächsten Schlüssel</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Langsam los und langsam an</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Halten bis zum nächsten Schlüssel</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Den Schlüssel entfernen</translation>
     </message>
 </context>
 <context>

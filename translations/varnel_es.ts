@@ -187,6 +187,61 @@
     </message>
 </context>
 <context>
+    <name>FilmKeys</name>
+    <message>
+        <source>there is %1</source>
+        <translation>hay %1</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>¿quiso decir «%1»?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means nothing here; %2</source>
+        <translation>«%1» no significa nada aquí; %2</translation>
+    </message>
+    <message>
+        <source>&quot;time&quot; must be a number of seconds from 0 to %1</source>
+        <translation>«time» debe ser un número de segundos de 0 a %1</translation>
+    </message>
+    <message>
+        <source>&quot;ease&quot; must be linear, ease or hold</source>
+        <translation>«ease» debe ser linear, ease o hold</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no setting that moves; %2</source>
+        <translation>«%1» no es un ajuste que se mueva; %2</translation>
+    </message>
+    <message>
+        <source>the value of %1 must be a number</source>
+        <translation>el valor de %1 debe ser un número</translation>
+    </message>
+    <message>
+        <source>&quot;set&quot; must hold settings and their numbers</source>
+        <translation>«set» debe contener ajustes y sus números</translation>
+    </message>
+    <message>
+        <source>it must be an object with time and set</source>
+        <translation>debe ser un objeto con time y set</translation>
+    </message>
+    <message>
+        <source>it is not JSON: %1 at byte %2</source>
+        <translation>no es JSON: %1 en el byte %2</translation>
+    </message>
+    <message>
+        <source>it has no list &quot;keys&quot;</source>
+        <translation>no tiene la lista «keys»</translation>
+    </message>
+    <message>
+        <source>key %1: %2</source>
+        <translation>clave %1: %2</translation>
+    </message>
+    <message>
+        <source>there are two keys at %1 seconds</source>
+        <translation>hay dos claves a los %1 segundos</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -920,6 +975,38 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Volver a las fotos; lo que se añadió se queda en la cola</translation>
+    </message>
+    <message>
+        <source>&amp;Write as film</source>
+        <translation>Escribir como &amp;película</translation>
+    </message>
+    <message>
+        <source>The images become one film at once instead of pictures in the batch queue</source>
+        <translation>Las imágenes se convierten enseguida en una película en vez de imágenes en la cola del lote</translation>
+    </message>
+    <message>
+        <source>Images in a second of the film</source>
+        <translation>Imágenes en un segundo de la película</translation>
+    </message>
+    <message>
+        <source>How many images the film shows in a second</source>
+        <translation>Cuántas imágenes muestra la película en un segundo</translation>
+    </message>
+    <message>
+        <source> images a second</source>
+        <translation> imágenes por segundo</translation>
+    </message>
+    <message>
+        <source>Images written</source>
+        <translation>Imágenes escritas</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Stops writing the film; nothing of it is kept</source>
+        <translation>Deja de escribir la película; no se conserva nada de ella</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +1778,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>the gear is a guess</source>
         <translation>el equipo es una suposición</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>película</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -2186,6 +2277,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Export presets</source>
         <translation>Exportar preajustes</translation>
+    </message>
+    <message>
+        <source>Save film as</source>
+        <translation>Guardar película como</translation>
+    </message>
+    <message>
+        <source>Films (%1)</source>
+        <translation>Películas (%1)</translation>
     </message>
 </context>
 <context>
@@ -3209,6 +3308,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>tunnel</source>
         <translation>túnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>claves de la película</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>parte de la película</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3824,6 +3931,120 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Reproduce la película (espacio)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>La película empieza con este fotograma (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>La película termina con este fotograma (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Poner clave</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Clave automática</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Cada control que se mueve pone una clave en este momento; si no, solo los que ya tienen claves</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Códec de la película</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Cómo se codifica la película</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Calidad de la película (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF del codificador: un número menor da un archivo mejor y más largo</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Calidad habitual</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Velocidad de codificación</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Un codificador más lento hace archivos más cortos de la misma calidad</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Velocidad habitual</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Guardar película ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Convierte la película con sus claves, de Inicio a Fin, y la escribe</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Quitar clave</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Quita la clave en este momento</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Una clave en este momento con los números de todos los controles que se mueven (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>Es la propia película; elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>No se ha escrito ninguna película</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Guardado %1</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -4087,6 +4308,50 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 imágenes añadidas, %2 en la cola</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 segundos</translation>
+    </message>
+    <message>
+        <source>&amp;Write film ...</source>
+        <translation>&amp;Escribir película ...</translation>
+    </message>
+    <message>
+        <source>&amp;Add to batch que</source>
+        <translation>&amp;Añadir a la cola</translation>
+    </message>
+    <message>
+        <source>Asks for a name and writes the sequence as a film</source>
+        <translation>Pide un nombre y escribe la secuencia como película</translation>
+    </message>
+    <message>
+        <source>Puts every image of the sequence into the batch queue, where &quot;Process batch que&quot; writes them</source>
+        <translation>Pone cada imagen de la secuencia en la cola, donde «Procesar la cola» las escribe</translation>
+    </message>
+    <message>
+        <source>Write the sequence as a film</source>
+        <translation>Escribir la secuencia como película</translation>
+    </message>
+    <message>
+        <source>Add the sequence to the batch queue</source>
+        <translation>Añadir la secuencia a la cola</translation>
+    </message>
+    <message>
+        <source>A film needs two images or more</source>
+        <translation>Una película necesita dos imágenes o más</translation>
+    </message>
+    <message>
+        <source>The film %1 was written</source>
+        <translation>Se ha escrito la película %1</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>No se ha escrito ninguna película</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
     </message>
 </context>
 <context>
@@ -4994,6 +5259,33 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Theme</source>
         <translation>Tema</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Línea de tiempo de la película</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Uniformemente hasta la clave siguiente</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Salida lenta y llegada lenta</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Mantener hasta la clave siguiente</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Quitar la clave</translation>
     </message>
 </context>
 <context>

@@ -187,6 +187,61 @@
     </message>
 </context>
 <context>
+    <name>FilmKeys</name>
+    <message>
+        <source>there is %1</source>
+        <translation>il y a %1</translation>
+    </message>
+    <message>
+        <source>did you mean &quot;%1&quot;?</source>
+        <translation>vouliez-vous dire « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; means nothing here; %2</source>
+        <translation>« %1 » ne veut rien dire ici ; %2</translation>
+    </message>
+    <message>
+        <source>&quot;time&quot; must be a number of seconds from 0 to %1</source>
+        <translation>« time » doit être un nombre de secondes de 0 à %1</translation>
+    </message>
+    <message>
+        <source>&quot;ease&quot; must be linear, ease or hold</source>
+        <translation>« ease » doit être linear, ease ou hold</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no setting that moves; %2</source>
+        <translation>« %1 » n’est pas un réglage qui évolue ; %2</translation>
+    </message>
+    <message>
+        <source>the value of %1 must be a number</source>
+        <translation>la valeur de %1 doit être un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;set&quot; must hold settings and their numbers</source>
+        <translation>« set » doit contenir des réglages et leurs nombres</translation>
+    </message>
+    <message>
+        <source>it must be an object with time and set</source>
+        <translation>elle doit être un objet avec time et set</translation>
+    </message>
+    <message>
+        <source>it is not JSON: %1 at byte %2</source>
+        <translation>ce n’est pas du JSON : %1 à l’octet %2</translation>
+    </message>
+    <message>
+        <source>it has no list &quot;keys&quot;</source>
+        <translation>il n’a pas de liste « keys »</translation>
+    </message>
+    <message>
+        <source>key %1: %2</source>
+        <translation>clé %1 : %2</translation>
+    </message>
+    <message>
+        <source>there are two keys at %1 seconds</source>
+        <translation>il y a deux clés à %1 secondes</translation>
+    </message>
+</context>
+<context>
     <name>FormAbout</name>
     <message>
         <source>About Varnel</source>
@@ -920,6 +975,38 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Back to the photos; what was added stays in the queue</source>
         <translation>Retour aux photos&#x202f;; ce qui a été ajouté reste dans la file</translation>
+    </message>
+    <message>
+        <source>&amp;Write as film</source>
+        <translation>Écrire comme &amp;film</translation>
+    </message>
+    <message>
+        <source>The images become one film at once instead of pictures in the batch queue</source>
+        <translation>Les images deviennent aussitôt un film au lieu d’images dans la file du lot</translation>
+    </message>
+    <message>
+        <source>Images in a second of the film</source>
+        <translation>Images dans une seconde du film</translation>
+    </message>
+    <message>
+        <source>How many images the film shows in a second</source>
+        <translation>Combien d’images le film montre en une seconde</translation>
+    </message>
+    <message>
+        <source> images a second</source>
+        <translation> images par seconde</translation>
+    </message>
+    <message>
+        <source>Images written</source>
+        <translation>Images écrites</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stops writing the film; nothing of it is kept</source>
+        <translation>Arrête d’écrire le film ; rien n’en est gardé</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +1778,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>the gear is a guess</source>
         <translation>l’équipement est supposé</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>film</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -2186,6 +2277,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Export presets</source>
         <translation>Exporter les préréglages</translation>
+    </message>
+    <message>
+        <source>Save film as</source>
+        <translation>Enregistrer le film sous</translation>
+    </message>
+    <message>
+        <source>Films (%1)</source>
+        <translation>Films (%1)</translation>
     </message>
 </context>
 <context>
@@ -3209,6 +3308,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>tunnel</source>
         <translation>tunnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>clés du film</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>partie du film</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3824,6 +3931,120 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Lit le film (espace)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>Le film commence par cette image (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>Le film finit par cette image (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Poser une clé</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Clé automatique</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Chaque curseur déplacé pose une clé à cet instant ; sinon seulement ceux qui ont déjà des clés</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Codec du film</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Comment le film est encodé</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Qualité du film (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF de l’encodeur : un nombre plus petit donne un fichier meilleur et plus long</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Qualité usuelle</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Vitesse d’encodage</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Un encodeur plus lent fait des fichiers plus courts de même qualité</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Vitesse usuelle</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Enregistrer le film ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Convertit le film avec ses clés, de Début à Fin, et l’écrit</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Retirer la clé</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Retire la clé à cet instant</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Une clé à cet instant avec les nombres de tous les curseurs qui évoluent (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Impossible d’enregistrer %1</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>C’est le film lui-même ; choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Aucun film n’a été écrit</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
+    </message>
+</context>
+<context>
     <name>varnel::FoldGroup</name>
     <message>
         <source>Shows what is in this group</source>
@@ -4087,6 +4308,50 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>%1 images added, %2 in the batch que</source>
         <translation>%1 images ajoutées, %2 dans la file d’attente</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 secondes</translation>
+    </message>
+    <message>
+        <source>&amp;Write film ...</source>
+        <translation>É&amp;crire le film ...</translation>
+    </message>
+    <message>
+        <source>&amp;Add to batch que</source>
+        <translation>&amp;Ajouter à la file d’attente</translation>
+    </message>
+    <message>
+        <source>Asks for a name and writes the sequence as a film</source>
+        <translation>Demande un nom et écrit la séquence comme film</translation>
+    </message>
+    <message>
+        <source>Puts every image of the sequence into the batch queue, where &quot;Process batch que&quot; writes them</source>
+        <translation>Met chaque image de la séquence dans la file d’attente, où «&#xa0;Traiter la file d’attente&#xa0;» les écrit</translation>
+    </message>
+    <message>
+        <source>Write the sequence as a film</source>
+        <translation>Écrire la séquence comme film</translation>
+    </message>
+    <message>
+        <source>Add the sequence to the batch queue</source>
+        <translation>Ajouter la séquence à la file d’attente</translation>
+    </message>
+    <message>
+        <source>A film needs two images or more</source>
+        <translation>Un film a besoin de deux images ou plus</translation>
+    </message>
+    <message>
+        <source>The film %1 was written</source>
+        <translation>Le film %1 a été écrit</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Aucun film n’a été écrit</translation>
+    </message>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Impossible d’enregistrer %1</translation>
     </message>
 </context>
 <context>
@@ -4994,6 +5259,33 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Theme</source>
         <translation>Thème</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Ligne de temps du film</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Régulièrement jusqu’à la clé suivante</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Départ lent et arrivée lente</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Tenir jusqu’à la clé suivante</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Retirer la clé</translation>
     </message>
 </context>
 <context>

@@ -124,6 +124,7 @@ FormMorph::FormMorph(const ImageRecord& image, const Bitmap* previewSource,
     BuildPairs();
     MarkUnused();
     SetUpPictures(previewSource);
+    OfferFilm({});
     ConnectControls();
     ShowFrameCount();
     ui_->SliderScrub->setValue((ui_->SliderScrub->maximum() + 1) / 2);
@@ -248,7 +249,7 @@ void FormMorph::ConnectControls() {
         ShowBetweenTitle();
         DrawLater(Between);
     });
-    connect(ui_->CmdAddMorphToBatch, &QPushButton::clicked, this, &FormMorph::AddFrames);
+    connect(ui_->CmdAddMorphToBatch, &QPushButton::clicked, this, &FormMorph::AddOrWrite);
     connect(ui_->CmdClose, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -270,6 +271,7 @@ void FormMorph::ShowFrameCount() {
         ui_->SliderScrub->setValue(1 + CLng(way * (N - 1), ReasonCode::ImageNumber));
     }
     ShowBetweenTitle();
+    ShowFilmChoice();
     DrawLater(Between);
 }
 
@@ -320,15 +322,23 @@ void FormMorph::Draw(QLabel& label, int i, int N) {
     }
 }
 
-void FormMorph::AddFrames() {
+std::optional<int> FormMorph::TypedCount() {
     const auto count = FrameCountFromText(ui_->TextNumImages->text());
     ui_->TextNumImages->setFocus();
     ui_->TextNumImages->selectAll();
     if (const auto* error = std::get_if<QString>(&count)) {
         notices_.Tell(*error, QString());
+        return std::nullopt;
+    }
+    return std::get<int>(count);
+}
+
+void FormMorph::AddFrames() {
+    const std::optional<int> count = TypedCount();
+    if (!count) {
         return;
     }
-    const int N = std::get<int>(count);
+    const int N = *count;
     try {
         AddMorph(queue_, image_, ends_, N);
     } catch (const RunTimeError& error) {

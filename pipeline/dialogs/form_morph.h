@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The morph dialog: a numbered sequence between two settings of one photo goes into the batch
-// queue, its first and last picture and one between in view. Throws nothing; what the pictures or
-// the sequence are short of becomes a message.
+// queue or becomes a film, its first and last picture and one between in view. Throws nothing; what
+// the pictures or the sequence are short of becomes a message.
 #pragma once
 
 #include <QDialog>
@@ -13,10 +13,11 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "base/notices.h"
 #include "base/thread_runner.h"
-#include "pipeline/conversion/morph_sequence.h"
+#include "pipeline/conversion/morph_film.h"
 #include "remap/image/bitmap.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/slider_table.h"
@@ -26,6 +27,13 @@ class FormMorph;
 }
 
 namespace varnel {
+
+// Where a film's choice lives: who writes it, and how its name is asked for. Takes a proposal and
+// gives the path with its ending, which may be replaced; empty when cancelled.
+struct MorphFilmPorts {
+    MorphFilmMaker* maker = nullptr;
+    std::function<QString(const QString& proposal)> chooseName;
+};
 
 class FormMorph : public QDialog {
     Q_OBJECT
@@ -37,6 +45,10 @@ class FormMorph : public QDialog {
               RecordArray<ImageRecord>& queue, ThreadRunner& pool, Notices& notices,
               std::function<void(int)> queueChanged, QWidget* parent = nullptr);
     ~FormMorph() override;
+    // Shows the choice of a film, which is hidden otherwise.
+    void OfferFilm(MorphFilmPorts film);
+    // While a film is written, stops that first.
+    void reject() override;
 
   private:
     enum Picture { First, Between, Last };
@@ -61,7 +73,14 @@ class FormMorph : public QDialog {
     void DrawLater(Picture picture);
     void DrawPending();
     void Draw(QLabel& label, int i, int N);
+    // The number of images that was typed; nothing after a message that it is none.
+    std::optional<int> TypedCount();
     void AddFrames();
+    void ShowFilmChoice();
+    void AddOrWrite();
+    void WriteFilm(int N);
+    Reason MakeFilm(const MorphFilm& film);
+    void LetChoose(bool on);
 
     Projection ItsProjection() const { return ProjectionFromIndex(image_.Projection); }
 
@@ -75,6 +94,10 @@ class FormMorph : public QDialog {
     ThreadRunner& pool_;
     QTimer drawTimer_{this};  // fires when no event waits any more: the newest values are drawn
     std::array<bool, 3> pending_{};
+    MorphFilmPorts film_;
+    bool writing_ = false;
+    bool stopped_ = false;  // the film that is being written
+    bool closeWanted_ = false;
     QString noPreview_ = tr("No preview");  // or why there is none
 };
 

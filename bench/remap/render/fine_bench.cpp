@@ -2,89 +2,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The fine sampling beside the classic one: how near both come to what a camera of the result's
-// view would have taken (decibels, by how the view changes the photo), and their time at 24
-// megapixels on one core. Read times as ratios within one run.
+// view would have taken (decibels, by how the view changes the photo) and to the best that the
+// photo itself allows, what is left of lines too fine for the result, and their time. Read times as
+// ratios within one run.
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
-#include <numbers>
+#include <string_view>
 
 #include "base/thread_runner.h"
-#include "remap/render/render.h"
-#include "samples/light_shot.h"
+#include "bench/remap/render/fine_views.h"
+#include "remap/image/transfer_curve.h"
+#include "remap/render/reference/fine.h"
 
-namespace varnel {
+namespace varnel::bench {
 namespace {
 
-constexpr double pi = std::numbers::pi;
 constexpr PixelSize photoSize{1500, 1000};
+constexpr std::array samplings{SamplingKind::Classic, SamplingKind::Fine};
 
-// A 15 mm equisolid lens on 36 x 24 mm.
-ImageRecord WideRecord(float outputAov, SamplingKind sampling) {
-    ImageRecord record;
-    record.Landscape = true;
-    record.SensorWidth = 36.0F;
-    record.SensorHeight = 24.0F;
-    record.LensMapScale = 30.59F;
-    record.LensMapFactor = 0.5F;
-    record.ImageCircleRadius = 21.63F;
-    record.Ratio = 83.2F;
-    record.InputAOV = 147.0F;
-    record.OutputAOV = outputAov;
-    record.EffectVarnel = 100.0F;
-    record.EffectRectilinear = 100.0F;
-    record.Sampling = sampling;
-    return record;
-}
-
-// A circle of 180 degrees that fills a square.
-ImageRecord CircularRecord(SamplingKind sampling) {
-    ImageRecord record = WideRecord(180.0F, sampling);
-    record.SensorWidth = record.SensorHeight = 24.0F;
-    record.LensMapScale = static_cast<float>(12.0 / std::sin(pi / 4.0));
-    record.ImageCircleRadius = 12.0F;
-    record.Ratio = 100.0F;
-    record.InputAOV = 180.0F;
-    return record;
-}
-
-// Directions by the angle from the axis, for a distance from the middle; nothing beyond most.
-RayAt AroundAxis(PixelSize size, const std::function<double(double)>& angleAt, double most) {
-    return [=](double x, double y) -> std::optional<Ray> {
-        const double across = x - size.width / 2;
-        const double up = y - size.height / 2;
-        const double radius = std::hypot(across, up);
-        if (radius > most) {
-            return std::nullopt;
-        }
-        const double angle = angleAt(radius);
-        const double aside = radius > 0.0 ? std::sin(angle) / radius : 0.0;
-        return Ray{across * aside, up * aside, std::cos(angle)};
-    };
-}
-
-RayAt Equisolid(PixelSize size, double focal, double most) {
-    return AroundAxis(
-        size, [focal](double r) { return 2.0 * std::asin(std::min(r / (2.0 * focal), 1.0)); },
-        most);
-}
-
-RayAt Straight(PixelSize size, double focal) {
-    return AroundAxis(
-        size, [focal](double r) { return std::atan(r / focal); }, 1e9);
-}
-
-BitmapHandle Converted(Projection projection, const ImageRecord& record, const Bitmap& photo,
-                       const OutputWish& wish = {}) {
-    Bitmaps bitmaps;
-    bitmaps.FullSourceBitmap = CloneBitmap(&photo);
-    SilentProgress silent;
-    RenderContext context{.bitmaps = bitmaps, .output = wish};
-    Render(projection, record, SizeKind::Large, silent, context);
-    return std::move(bitmaps.ResultBitmap);
+const char* NameOf(SamplingKind sampling) {
+    return sampling == SamplingKind::Fine ? "fine" : "classic";
 }
 
 using ZoneOf = std::function<int(double x, double y)>;  // from the middle; below 0: not counted
@@ -121,12 +60,12 @@ struct Comparison {
 };
 
 void Compare(const Comparison& c, const Bitmap& photo, const LightPicture& truth) {
-    for (const SamplingKind sampling : {SamplingKind::Classic, SamplingKind::Fine}) {
+    for (const SamplingKind sampling : samplings) {
         const bool fine = sampling == SamplingKind::Fine;
         const auto found = Decibels(*Converted(c.projection, c.record(sampling), photo, c.wish),
                                     truth, fine ? 0.0 : 0.5, c.zoneOf);
-        std::printf("%-22s %-8s %6.2f %6.2f %6.2f dB\n", c.name, fine ? "fine" : "classic",
-                    found[0], found[1], found[2]);
+        std::printf("%-22s %-8s %6.2f %6.2f %6.2f dB\n", c.name, NameOf(sampling), found[0],
+                    found[1], found[2]);
     }
 }
 
@@ -186,52 +125,137 @@ void CompareAll(double patch) {
             TakeLight(patches, square, AroundAxis(square, equidistant, 500.0), runner));
 }
 
-// Processor seconds of the fastest of some runs.
-double SecondsOf(const ImageRecord& record, Bitmaps& bitmaps) {
-    double least = 1e9;
-    for (int run = 0; run < 5; ++run) {
-        SilentProgress silent;
-        RenderContext context{bitmaps};
-        const std::clock_t start = std::clock();
-        Render(Projection::Rectilinear, record, SizeKind::Large, silent, context);
-        least = std::min(least, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
-    }
-    return least;
-}
+// ---- beside the inner truth ----
 
-BitmapHandle Grain(PixelFormat format) {
-    BitmapHandle bitmap = NewBitmap({6000, 4000}, format);
-    unsigned grain = 1;
-    for (int y = 0; y < 4000; ++y) {
-        for (std::uint8_t& byte : bitmap->ScanLine(y)) {
-            grain = grain * 1664525U + 1013904223U;
-            byte = static_cast<std::uint8_t>(120 + (grain >> 27) + ((y / 40) % 2) * 60);
+// The same photo read at 16 times 16 places of each pixel.
+void CompareInnerTruth(double patch) {
+    constexpr PixelSize size{240, 160};
+    const double focal = size.width / 36.0 * 30.59 / 2.0;
+    ThreadRunner runner;
+    const BitmapHandle photo =
+        Developed(TakeLight(PatchScene{patch / focal}, size, Equisolid(size, focal, 1e9), runner));
+    for (const float aov : {120.0F, 90.0F}) {
+        const BitmapHandle truth = reference::RenderSupersampled(
+            Projection::Rectilinear, WideRecord(aov, SamplingKind::Fine), *photo);
+        for (const SamplingKind sampling : samplings) {
+            const BitmapHandle result =
+                Converted(Projection::Rectilinear, WideRecord(aov, sampling), *photo);
+            double squares = 0.0;
+            for (int y = 3; y < size.height - 3; ++y) {
+                for (int x = 3; x < size.width - 3; ++x) {
+                    const auto at = static_cast<std::size_t>(3 * x);
+                    const double rounding = sampling == SamplingKind::Fine ? 0.0 : 0.5;
+                    const double error =
+                        result->ScanLine(y)[at] + rounding - truth->ScanLine(y)[at];
+                    squares += error * error;
+                }
+            }
+            std::printf(
+                "rectilinear %3.0f beside 16 x 16 places of the photo, %-8s %6.2f dB\n",
+                static_cast<double>(aov), NameOf(sampling),
+                10.0 * std::log10(255.0 * 255.0 * (size.width - 6) * (size.height - 6) / squares));
         }
     }
-    return bitmap;
 }
 
-void CompareTimes() {
-    for (const float aov : {120.0F, 90.0F}) {
-        Bitmaps bitmaps;
-        bitmaps.FullSourceBitmap = Grain(PixelFormat::Bgr8);
-        const double classic = SecondsOf(WideRecord(aov, SamplingKind::Classic), bitmaps);
-        const double fine = SecondsOf(WideRecord(aov, SamplingKind::Fine), bitmaps);
-        bitmaps.FullSourceBitmap = Grain(PixelFormat::Bgr16);
-        const double deep = SecondsOf(WideRecord(aov, SamplingKind::Fine), bitmaps);
-        std::printf(
-            "rectilinear %.0f, 24 megapixels: classic %.3f s, fine %.3f s (%.2f), fine of 16 bits "
-            "%.3f s (%.2f of 8)\n",
-            static_cast<double>(aov), classic, fine, fine / classic, deep, deep / fine);
+// ---- lines too fine for the result ----
+
+// How far light goes up and down, as a share of what the scene's lines do.
+class Strength {
+  public:
+    void Add(double light) {
+        sum_ += light;
+        squares_ += light * light;
+        count_ += 1.0;
     }
+    double Share() const {
+        const double mean = sum_ / count_;
+        return std::sqrt(std::max(squares_ / count_ - mean * mean, 0.0)) /
+               (contrast / std::sqrt(2.0));
+    }
+    static constexpr double contrast = 0.4;
+
+  private:
+    double sum_ = 0.0;
+    double squares_ = 0.0;
+    double count_ = 0.0;
+};
+
+// Lines in the middle of a photo: so many for each of its pixels, turned by an angle.
+LightScene Lines(double focal, double perPixel, double turn) {
+    return [=](const Ray& ray) {
+        const double length = std::sqrt(ray.x * ray.x + ray.y * ray.y + ray.z * ray.z);
+        const double stretch = focal * std::sqrt(2.0 / (length * (length + ray.z)));
+        const double way = (ray.x * std::cos(turn) + ray.y * std::sin(turn)) * stretch;
+        return 0.5 + Strength::contrast * std::sin(2.0 * pi * perPixel * way + 0.3);
+    };
+}
+
+// From just too fine for the result's middle to the finest that a photo holds. As in a zone plate
+// finer lines count more, as their number.
+void CompareLines(const char* name, PixelSize result, float aov) {
+    ThreadRunner runner;
+    constexpr PixelSize small{480, 320};
+    const double focal = small.width / 36.0 * 30.59 / 2.0;
+    const double straight = result.width / 2 / std::tan(static_cast<double>(aov) * pi / 360.0);
+    const double coarsest = 0.5 * straight / focal;
+    const int across = static_cast<int>(0.15 * straight);  // the shrink varies little
+    const OutputWish wish = [&](const SourceFrame& frame) {
+        return OutputFrameOf(WideRecord(aov, {}), frame, result);
+    };
+    std::array<double, 3> shares{};  // of the truth, classic, fine
+    double weights = 0.0;
+    constexpr int steps = 10;
+    for (int n = 0; n < 3 * steps; ++n) {
+        const double perPixel = coarsest + (0.5 - coarsest) * (n / 3 + 0.5) / steps;
+        const LightScene lines = Lines(focal, perPixel, 0.3927 * (n % 3));
+        const BitmapHandle photo =
+            Developed(TakeLight(lines, small, Equisolid(small, focal, 1e9), runner));
+        const LightPicture truth = TakeLight(lines, result, Straight(result, straight), runner);
+        const auto add = [&](std::size_t which, const std::function<double(int, int)>& lightAt) {
+            Strength strength;
+            for (int y = -across; y <= across; ++y) {
+                for (int x = -across; x <= across; ++x) {
+                    strength.Add(lightAt(result.width / 2 + x, result.height / 2 + y));
+                }
+            }
+            shares[which] += perPixel * strength.Share();
+        };
+        add(0, [&](int x, int y) { return static_cast<double>(truth.At(x, y)); });
+        for (const SamplingKind sampling : samplings) {
+            const BitmapHandle view =
+                Converted(Projection::Rectilinear, WideRecord(aov, sampling), *photo, wish);
+            add(sampling == SamplingKind::Fine ? 2 : 1, [&](int x, int y) {
+                const std::uint8_t level = view->ScanLine(y)[static_cast<std::size_t>(3 * x)];
+                return static_cast<double>(TransferCurve::Srgb()->LightOf(level));
+            });
+        }
+        weights += perPixel;
+    }
+    std::printf("%s, too fine lines left: a camera %.1f, classic %.1f, fine %.1f %%\n", name,
+                100.0 * shares[0] / weights, 100.0 * shares[1] / weights,
+                100.0 * shares[2] / weights);
 }
 
 }  // namespace
-}  // namespace varnel
+}  // namespace varnel::bench
 
-int main() {
-    for (const double patch : {1.2, 2.5}) {
-        varnel::CompareAll(patch);
+// With a word: only how near the samplings come, only the lines or only the times, or those of
+// views whose name begins with a second one.
+int main(int argc, char** argv) {
+    using namespace varnel::bench;
+    const std::string_view only = argc > 1 ? argv[1] : "";
+    if (only.empty() || only == "near") {
+        for (const double patch : {1.2, 1.5, 2.5}) {
+            CompareAll(patch);
+        }
+        CompareInnerTruth(1.5);
     }
-    varnel::CompareTimes();
+    if (only.empty() || only == "lines") {
+        CompareLines("rectilinear 120", {480, 320}, 120.0F);
+        CompareLines("reduced 4 times", {120, 80}, 90.0F);
+    }
+    if (only.empty() || only == "times") {
+        CompareTimes(argc > 2 ? argv[2] : "");
+    }
 }

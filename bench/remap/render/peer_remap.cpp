@@ -9,29 +9,53 @@
 
 namespace varnel::bench {
 
+namespace {
+
+struct Maps {
+    cv::Mat x, y;
+
+    explicit Maps(const RectilinearView& view)
+        : x(view.source.size.height, view.source.size.width, CV_32FC1), y(x.size(), CV_32FC1) {
+        const RectilinearRadius radius(view);
+        cv::parallel_for_(cv::Range(0, x.rows), [&](const cv::Range& rows) {
+            for (int row = rows.start; row < rows.end; ++row) {
+                const double up = row - x.rows / 2;
+                for (int column = 0; column < x.cols; ++column) {
+                    const double across = column - x.cols / 2;
+                    const double r = std::sqrt(across * across + up * up);
+                    const double scale = r == 0.0 ? 0.0 : radius.At(r) / r;
+                    x.at<float>(row, column) = static_cast<float>(x.cols / 2 + across * scale);
+                    y.at<float>(row, column) = static_cast<float>(x.rows / 2 + up * scale);
+                }
+            }
+        });
+    }
+    void Draw(std::uint8_t* source, std::uint8_t* result, int kernel) const {
+        const cv::Mat from(x.size(), CV_8UC3, source);
+        cv::Mat to(x.size(), CV_8UC3, result);
+        cv::remap(from, to, x, y, kernel, cv::BORDER_CONSTANT);
+    }
+};
+
+}  // namespace
+
 void PeerRectilinear(const RectilinearView& view, std::uint8_t* source, std::uint8_t* result,
                      int threads) {
     cv::setNumThreads(threads);
-    const int width = view.source.size.width;
-    const int height = view.source.size.height;
-    cv::Mat mapX(height, width, CV_32FC1);
-    cv::Mat mapY(height, width, CV_32FC1);
-    const RectilinearRadius radius(view);
-    cv::parallel_for_(cv::Range(0, height), [&](const cv::Range& rows) {
-        for (int row = rows.start; row < rows.end; ++row) {
-            const double y = row - height / 2;
-            for (int column = 0; column < width; ++column) {
-                const double x = column - width / 2;
-                const double r = std::sqrt(x * x + y * y);
-                const double scale = r == 0.0 ? 0.0 : radius.At(r) / r;
-                mapX.at<float>(row, column) = static_cast<float>(width / 2 + x * scale);
-                mapY.at<float>(row, column) = static_cast<float>(height / 2 + y * scale);
-            }
-        }
-    });
-    const cv::Mat from(height, width, CV_8UC3, source);
-    cv::Mat to(height, width, CV_8UC3, result);
-    cv::remap(from, to, mapX, mapY, cv::INTER_LINEAR, cv::BORDER_CONSTANT);
+    Maps(view).Draw(source, result, cv::INTER_LINEAR);
+}
+
+struct PeerLanczos::Map : Maps {
+    using Maps::Maps;
+};
+
+PeerLanczos::PeerLanczos(const RectilinearView& view) : map_(std::make_unique<Map>(view)) {}
+
+PeerLanczos::~PeerLanczos() = default;
+
+void PeerLanczos::Draw(std::uint8_t* source, std::uint8_t* result) const {
+    cv::setNumThreads(1);
+    map_->Draw(source, result, cv::INTER_LANCZOS4);
 }
 
 }  // namespace varnel::bench

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "remap/projection/maps/rectilinear_map.h"
 
@@ -14,5 +15,17 @@ namespace varnel::bench {
 // library's users write them, built anew each time on as many threads as the remap takes.
 void PeerRectilinear(const RectilinearView& view, std::uint8_t* source, std::uint8_t* result,
                      int threads);
+
+// That library's Lanczos kernel, with its map worked out beforehand; on one thread.
+class PeerLanczos {
+  public:
+    explicit PeerLanczos(const RectilinearView& view);
+    ~PeerLanczos();
+    void Draw(std::uint8_t* source, std::uint8_t* result) const;
+
+  private:
+    struct Map;
+    std::unique_ptr<Map> map_;
+};
 
 }  // namespace varnel::bench

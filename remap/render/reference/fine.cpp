@@ -89,39 +89,49 @@ struct Spot {
     double scaleY = 0.0;
 };
 
-double SharpAt(const Photo& photo, double x, double y, std::size_t channel) {
-    const FineAxis<double> axis = FineAxis<double>::Of(1.0);
-    const int left = static_cast<int>(std::floor(x));
-    const int bottom = static_cast<int>(std::floor(y));
-    const double found = Blend(axis, y, [&](int row) {
-        return Blend(axis, x, [&](int column) { return photo.At(column, row, channel); });
+// Along both axes at once.
+double BlendOfBoth(const Photo& photo, const Spot& spot, std::size_t channel) {
+    const auto across = FineAxis<double>::Of(spot.scaleX);
+    const auto up = FineAxis<double>::Of(spot.scaleY);
+    return Blend(up, spot.y, [&](int row) {
+        return Blend(across, spot.x, [&](int column) { return photo.At(column, row, channel); });
     });
+}
+
+double WithinFour(double value, const Photo& photo, const Spot& spot, std::size_t channel,
+                  double slack) {
+    const int left = static_cast<int>(std::floor(spot.x));
+    const int bottom = static_cast<int>(std::floor(spot.y));
     const auto [low, high] =
         std::minmax({photo.At(left, bottom, channel), photo.At(left + 1, bottom, channel),
                      photo.At(left, bottom + 1, channel), photo.At(left + 1, bottom + 1, channel)});
-    return std::clamp(found, low, high);
+    return Within(value, low, high, slack);
 }
 
-// The axis that shrinks more comes first.
+// Where only one axis is smooth it comes first.
 double ColourAt(const Photo& photo, const Spot& spot, std::size_t channel) {
-    if (spot.scaleX <= 1.0 && spot.scaleY <= 1.0) {
-        return SharpAt(photo, spot.x, spot.y, channel);
-    }
     const auto across = FineAxis<double>::Of(spot.scaleX);
     const auto up = FineAxis<double>::Of(spot.scaleY);
+    const bool smoothAcross = across.blur >= 1.0;
+    const bool smoothUp = up.blur >= 1.0;
     const auto at = [&](int x, int y) { return photo.At(x, y, channel); };
-    const double found =
-        across.Slack() >= up.Slack()
-            ? BlendWithin(up, spot.y,
-                          [&](int y) {
-                              return BlendWithin(across, spot.x, [&](int x) { return at(x, y); });
-                          })
-            : BlendWithin(across, spot.x, [&](int x) {
-                  return BlendWithin(up, spot.y, [&](int y) { return at(x, y); });
-              });
+    if (smoothAcross && !smoothUp) {
+        return BlendWithin(up, spot.y, [&](int y) {
+            return BlendWithin(across, spot.x, [&](int x) { return at(x, y); });
+        });
+    }
+    if (smoothUp && !smoothAcross) {
+        return BlendWithin(across, spot.x, [&](int x) {
+            return BlendWithin(up, spot.y, [&](int y) { return at(x, y); });
+        });
+    }
+    const double found = BlendOfBoth(photo, spot, channel);
+    if (!smoothUp) {
+        return WithinFour(found, photo, spot, channel, std::min(across.Slack(), up.Slack()));
+    }
     const double nearest =
         at(static_cast<int>(std::floor(spot.x)), static_cast<int>(std::floor(spot.y)));
-    return across.blur < 1.0 || up.blur < 1.0 ? found : std::max(found, std::min(nearest, 0.0));
+    return std::max(found, std::min(nearest, 0.0));
 }
 
 // What of a pixel is on a side of the photo.
@@ -283,7 +293,7 @@ BitmapHandle RenderSupersampled(Projection projection, const ImageRecord& image,
                                const double column = centre.x + at.u;
                                const double row = centre.y + at.v;
                                return IsThere(at) && IsOn(photo, column, row)
-                                          ? SharpAt(photo, column, row, channel)
+                                          ? ColourAt(photo, {column, row, 1.0, 1.0}, channel)
                                           : 0.0;
                            }));
         });

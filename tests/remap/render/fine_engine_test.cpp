@@ -144,7 +144,7 @@ TEST(FineEngine, AgreesWithThePlainLoops) {
             const Apart apart = Compare(*drawn, *plain, 1.5 / 255.0);
             EXPECT_LT(apart.share, HasEdges(c.projection) ? 0.04 : 0.002);
             if (!HasEdges(c.projection) && c.times >= 1.0) {
-                EXPECT_LT(apart.most, format == PixelFormat::Bgr8 ? 1.5 / 255.0 : 16.0 / 65535.0);
+                EXPECT_LT(apart.most, format == PixelFormat::Bgr8 ? 1.5 / 255.0 : 32.0 / 65535.0);
             }
         }
     }

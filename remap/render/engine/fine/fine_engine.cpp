@@ -82,7 +82,7 @@ void PutPixel(const float* levels, const TargetView& target, std::uint8_t* pixel
 std::unique_ptr<PlaceFinder> PlacesFor(const ProjectionMap& map, const ResultGrid& grid,
                                        PixelSize photo, PixelSize result) {
     if (const StraightRows* const rows = map.AsStraightRows()) {
-        return StraightRowPlaces(*rows, photo);
+        return StraightRowPlaces(*rows, photo, grid.Across());
     }
     if (const CircleRows* const circles = map.AsCircleRows()) {
         return CircleRowPlaces(*circles, photo, grid.Across());
@@ -122,7 +122,7 @@ class FineEngine::Workplace {
   public:
     Workplace() {
         places.Resize(static_cast<std::size_t>(pieceRows * placesStep) + pixelsAhead);
-        colours.resize((placesStep + 1) * lightNumbers);  // whole vectors, see CodeLight
+        colours.resize(placesStep * lightNumbers);
     }
 
     // Of a row of a piece.
@@ -232,13 +232,13 @@ void FineEngine::DrawPiece(const Piece& piece, Workplace& work) const {
 void FineEngine::WriteRow(const Piece& piece, std::int32_t row, Workplace& work) const {
     const FineRun run = work.Run(piece, row);
     SampleLight(work.light, run, work.colours.data());
-    const std::span<float> colours(work.colours);
-    const auto pixels = colours.first(static_cast<std::size_t>(piece.count) * lightNumbers);
+    const auto pixels =
+        std::span(work.colours).first(static_cast<std::size_t>(piece.count) * lightNumbers);
     const bool alpha = HasAlpha(target_.format);
     if (alpha) {
         TakeAlphaOut(pixels);
     }
-    CodeLight(*curve_, colours.first((pixels.size() + 7) / 8 * 8));
+    CodeLight(*curve_, pixels);
     TakeShares(pixels, run.share, alpha);
     if (grid_.IsPlain() && !target_.only && target_.format == PixelFormat::Bgr8) {
         return StoreBytes(pixels, target_.At(grid_.ColumnOf(piece.x), piece.row + row));

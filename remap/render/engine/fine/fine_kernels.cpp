@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 
 #include "remap/render/engine/fine/fine_kernel.h"
 #include "remap/render/engine/fine/fine_kernels.h"
@@ -55,15 +54,23 @@ inline Pixel OuterAt(const CubicKernel<float>& kernel, const Pixel& t) {
     return (bend * t + Every(kernel.outer1)) * t + Every(kernel.outer0);
 }
 
-// The weights of the four neighbours for parts of 0 to 1, four after the other for each pixel.
-inline void WeighSharp(const float* parts, float* weights) {
-    constexpr CubicKernel<float> kernel = sharpKernel<float>;
+// The weights of the four neighbours for parts of 0 to 1 and scales, four after the other for each
+// pixel. Of kernels with B = 0 the outer part is C times that for C = 1.
+inline void WeighSharp(const float* parts, const float* scales, float* weights) {
+    constexpr auto none = CubicKernel<float>::Of(0.0F, 0.0F);
+    constexpr auto full = CubicKernel<float>::Of(0.0F, 1.0F);
     const Pixel one = Every(1.0F);
     for (std::size_t n = 0; n < pixelsAhead; n += 4) {
         const Pixel part = LoadPixel(parts + n);
         const Pixel rest = one - part;
-        StoreInTurn({OuterAt(kernel, part + one), InnerAt(kernel, part), InnerAt(kernel, rest),
-                     OuterAt(kernel, rest + one)},
+        const Pixel stretch = (one - LoadPixel(scales + n)) * Every(sharpnessByScale);
+        const Pixel sharpness =
+            Every(evenSharpness) + Every(moreSharpness) * Least(Most(stretch, Every(0.0F)), one);
+        const auto inner = [&](const Pixel& t) {
+            return InnerAt(none, t) + sharpness * (t * t * (one - t));
+        };
+        StoreInTurn({sharpness * OuterAt(full, part + one), inner(part), inner(rest),
+                     sharpness * OuterAt(full, rest + one)},
                     weights + 4 * n);
     }
 }
@@ -71,10 +78,30 @@ inline void WeighSharp(const float* parts, float* weights) {
 inline void PrepareSharp(const FineRun& run, int first, Sharp& sharp) {
     HWY_ALIGN std::array<float, pixelsAhead> parts;
     Split(run.x + first, sharp.x.data(), parts.data());
-    WeighSharp(parts.data(), sharp.weightsX.data());
+    WeighSharp(parts.data(), run.scaleX + first, sharp.weightsX.data());
     Split(run.y + first, sharp.y.data(), parts.data());
-    WeighSharp(parts.data(), sharp.weightsY.data());
+    WeighSharp(parts.data(), run.scaleY + first, sharp.weightsY.data());
 }
+
+// The range of the four pixels from the corner on.
+struct Range {
+    Pixel low, high;
+
+    static Range OfFour(const float* corner, std::ptrdiff_t pitch) {
+        const Pair below = LoadPair(corner);
+        const Pair above = LoadPair(corner + pitch);
+        const Pair least = Least(below, above);
+        const Pair most = Most(below, above);
+        return {Least(First(least), Second(least)), Most(First(most), Second(most))};
+    }
+    static Range OfTwo(const Pixel& a, const Pixel& b) { return {Least(a, b), Most(a, b)}; }
+    // Larger to both sides, by a share of it.
+    Range With(float slack) const {
+        const Pixel room = (high - low) * Every(slack);
+        return {low - room, high + room};
+    }
+    Pixel Nearest(const Pixel& value) const { return Least(Most(value, low), high); }
+};
 
 // By four times four neighbours from the corner on, within the range of the four nearest.
 inline Pixel SharpColour(const float* corner, std::ptrdiff_t pitch, const float* across,
@@ -86,22 +113,18 @@ inline Pixel SharpColour(const float* corner, std::ptrdiff_t pitch, const float*
         return (LoadPair(pixels) * left + LoadPair(pixels + 8) * right) * Both(up[row]);
     };
     const Pair sum = (line(0) + line(1)) + (line(2) + line(3));
-    const Pair below = LoadPair(corner + pitch + 4);
-    const Pair above = LoadPair(corner + 2 * pitch + 4);
-    const Pair low = Least(below, above);
-    const Pair high = Most(below, above);
-    return Least(Most(First(sum) + Second(sum), Least(First(low), Second(low))),
-                 Most(First(high), Second(high)));
+    return Range::OfFour(corner + pitch + 4, pitch).Nearest(First(sum) + Second(sum));
 }
 
 // ---- pixels where an axis shrinks ----
 
-// An axis of one pixel: its neighbours, their weights, whose sum is 1, and how far a blend may
-// leave the range of the two nearest.
+// An axis of one pixel: its neighbours, their weights, and how far a blend may leave the range of
+// the two nearest.
 struct Taps {
     int first = 0;
-    int count = 0;    // even, the last may weigh nothing
-    int nearest = 0;  // the lower of the two nearest, from the first
+    int count = 0;       // even, the last may weigh nothing
+    int nearest = 0;     // the lower of the two nearest, from the first
+    float share = 1.0F;  // 1 for the sum of the weights
     float slack = 0.0F;
     HWY_ALIGN std::array<float, mostTaps> weights;
 
@@ -110,16 +133,40 @@ struct Taps {
         first = whole - 1;
         count = 4;
         nearest = 1;
+        share = 1.0F;
         slack = 0.0F;
         StorePixel(LoadPixel(sharp), weights.data());
     }
 };
 
-inline Pixel KernelAt(const CubicKernel<float>& kernel, const Pixel& distance) {
-    const Pixel t = Size(distance);
-    const Pixel outer = WhereLess(t, 2.0F, OuterAt(kernel, t), Every(0.0F));
-    return WhereLess(t, 1.0F, InnerAt(kernel, t), outer);
-}
+// The kernel of an axis that shrinks, see FineAxis.
+class ShrinkingKernel {
+  public:
+    explicit ShrinkingKernel(float blur) {
+        constexpr CubicKernel<float> from = FineAxis<float>{1.0F, 0.0F, evenSharpness}.Kernel();
+        constexpr CubicKernel<float> to = FineAxis<float>{1.0F, 1.0F, evenSharpness}.Kernel();
+        HWY_ALIGN static constexpr std::array<float, 8> start{from.inner0, from.inner2, from.inner3,
+                                                              from.outer0, from.outer1, from.outer2,
+                                                              from.outer3, 0.0F};
+        HWY_ALIGN static constexpr std::array<float, 8> way{
+            to.inner0 - from.inner0, to.inner2 - from.inner2,
+            to.inner3 - from.inner3, to.outer0 - from.outer0,
+            to.outer1 - from.outer1, to.outer2 - from.outer2,
+            to.outer3 - from.outer3, 0.0F};
+        StorePair(LoadPair(start.data()) + LoadPair(way.data()) * Both(blur), factors_.data());
+    }
+    Pair At(const Pair& distance) const {
+        const Pair t = Size(distance);
+        const Pair inner = (Factor(2) * t + Factor(1)) * t * t + Factor(0);
+        const Pair outer = ((Factor(6) * t + Factor(5)) * t + Factor(4)) * t + Factor(3);
+        return WhereLess(t, 1.0F, inner, WhereLess(t, 2.0F, outer, Both(0.0F)));
+    }
+
+  private:
+    Pair Factor(std::size_t n) const { return Both(factors_[n]); }
+
+    HWY_ALIGN std::array<float, 8> factors_;
+};
 
 inline float SumOf(const Pixel& pixel) {
     HWY_ALIGN std::array<float, 4> parts;
@@ -129,54 +176,36 @@ inline float SumOf(const Pixel& pixel) {
 
 inline void WeighTaps(double position, float scale, Taps& taps) {
     const auto axis = FineAxis<float>::Of(scale);
-    const CubicKernel<float> kernel = axis.Kernel();
+    const ShrinkingKernel kernel(axis.blur);
     taps.first = axis.FirstTap(position);
     taps.count = (axis.LastTap(position) - taps.first + 2) & ~1;
     taps.nearest = static_cast<int>(std::floor(position)) - taps.first;
     taps.slack = axis.Slack();
-    HWY_ALIGN constexpr std::array<float, 4> steps{0.0F, 1.0F, 2.0F, 3.0F};
-    const Pixel from = Every(static_cast<float>(taps.first - position)) + LoadPixel(steps.data());
-    const Pixel inverse = Every(1.0F / axis.width);
-    Pixel sums = Every(0.0F);
-    for (int n = 0; n < taps.count; n += 4) {
-        const Pixel weight = KernelAt(kernel, (from + Every(static_cast<float>(n))) * inverse);
+    HWY_ALIGN static constexpr std::array<float, 8> steps{0.0F, 1.0F, 2.0F, 3.0F,
+                                                          4.0F, 5.0F, 6.0F, 7.0F};
+    const Pair from = Both(static_cast<float>(taps.first - position)) + LoadPair(steps.data());
+    const Pair inverse = Both(1.0F / axis.width);
+    Pair sums = Both(0.0F);
+    for (int n = 0; n < taps.count; n += 8) {
+        const Pair weight = kernel.At((from + Both(static_cast<float>(n))) * inverse);
         sums = sums + weight;
-        StorePixel(weight, taps.weights.data() + n);
+        StorePair(weight, taps.weights.data() + n);
     }
-    const Pixel share = Every(1.0F / SumOf(sums));
-    for (int n = 0; n < taps.count; n += 4) {
-        float* const weights = taps.weights.data() + n;
-        StorePixel(LoadPixel(weights) * share, weights);
-    }
+    taps.share = 1.0F / SumOf(First(sums) + Second(sums));
 }
 
-// Where both axes are smooth: nothing can ring much. What is nowhere below black does not get so.
-inline Pixel SmoothColour(const float* corner, std::ptrdiff_t pitch, const Taps& across,
-                          const Taps& up) {
-    HWY_ALIGN std::array<float, lightNumbers * mostTaps> spread;
-    for (int n = 0; n < across.count; ++n) {
-        const auto at = static_cast<std::size_t>(n);
-        StorePixel(Every(across.weights[at]), &spread[lightNumbers * at]);
-    }
+inline Pixel Blend(const float* corner, std::ptrdiff_t pitch, const Taps& across, const Taps& up) {
     Pair sum = Both(0.0F);
-    for (int row = 0; row < up.count; ++row) {
-        const float* const pixels = corner + row * pitch;
-        Pair line = Both(0.0F);
-        for (int n = 0; n < 4 * across.count; n += 8) {
-            line = line + LoadPair(pixels + n) * LoadPair(spread.data() + n);
+    for (int n = 0; n < across.count; n += 2) {
+        Pair column = Both(0.0F);
+        for (int row = 0; row < up.count; ++row) {
+            const float weight = up.weights[static_cast<std::size_t>(row)];
+            column = column + LoadPair(corner + row * pitch + 4 * n) * Both(weight);
         }
-        sum = sum + line * Both(up.weights[static_cast<std::size_t>(row)]);
+        const float* const weights = &across.weights[static_cast<std::size_t>(n)];
+        sum = sum + column * PairOf(weights[0], weights[1]);
     }
-    const float* const nearest = corner + up.nearest * pitch + 4 * across.nearest;
-    return Most(First(sum) + Second(sum), Least(LoadPixel(nearest), Every(0.0F)));
-}
-
-// Between two neighbours, or so much beyond as there is slack.
-inline Pixel Within(const Pixel& value, const Pixel& a, const Pixel& b, float slack) {
-    const Pixel low = Least(a, b);
-    const Pixel high = Most(a, b);
-    const Pixel room = (high - low) * Every(slack);
-    return Least(Most(value, low - room), high + room);
+    return (First(sum) + Second(sum)) * Every(across.share * up.share);
 }
 
 // A line of neighbours a step apart.
@@ -187,7 +216,8 @@ inline Pixel LineColour(const float* pixels, std::ptrdiff_t step, const Taps& ta
         sum = sum + LoadPixel(pixels + n * step) * Every(weight);
     }
     const float* const nearest = pixels + taps.nearest * step;
-    return Within(sum, LoadPixel(nearest), LoadPixel(nearest + step), taps.slack);
+    const Range range = Range::OfTwo(LoadPixel(nearest), LoadPixel(nearest + step));
+    return range.With(taps.slack).Nearest(sum * Every(taps.share));
 }
 
 // First along one axis, in lines, then over the lines.
@@ -202,19 +232,27 @@ inline Pixel MixedColour(const float* corner, std::ptrdiff_t step, const Taps& a
         below = n == lines.nearest ? line : below;
         above = n == lines.nearest + 1 ? line : above;
     }
-    return Within(sum, below, above, lines.slack);
+    return Range::OfTwo(below, above).With(lines.slack).Nearest(sum * Every(lines.share));
 }
 
-// The axis that shrinks more comes first.
+// Where both axes are smooth nothing can ring much, but what is nowhere below black does not get
+// so. Where only one is, that one comes first.
 inline Pixel WideColour(const LightView& view, const Taps& across, const Taps& up) {
+    const std::ptrdiff_t pitch = view.pitch;
     const float* const corner =
-        view.pixels + (up.first - view.bottom) * view.pitch + 4 * (across.first - view.left);
-    constexpr float none = 1e5F;
-    if (across.slack > none && up.slack > none) {
-        return SmoothColour(corner, view.pitch, across, up);
+        view.pixels + (up.first - view.bottom) * pitch + 4 * (across.first - view.left);
+    const float* const nearest = corner + up.nearest * pitch + 4 * across.nearest;
+    const bool smoothAcross = across.slack >= FineAxis<float>::anySlack;
+    const bool smoothUp = up.slack >= FineAxis<float>::anySlack;
+    if (smoothAcross != smoothUp) {
+        return smoothAcross ? MixedColour(corner, 4, across, pitch, up)
+                            : MixedColour(corner, pitch, up, 4, across);
     }
-    return across.slack >= up.slack ? MixedColour(corner, 4, across, view.pitch, up)
-                                    : MixedColour(corner, view.pitch, up, 4, across);
+    const Pixel blend = Blend(corner, pitch, across, up);
+    return smoothUp ? Most(blend, Least(LoadPixel(nearest), Every(0.0F)))
+                    : Range::OfFour(nearest, pitch)
+                          .With(std::min(across.slack, up.slack))
+                          .Nearest(blend);
 }
 
 // ---- runs ----
@@ -262,56 +300,6 @@ void SampleLightImpl(const LightView& view, const FineRun& run, float* out) {
     }
 }
 
-void ReachOfImpl(const FineRun& run, FineReach& reach) {
-    const Doubles d;
-    const hn::Rebind<float, Doubles> floats;
-    const auto far = hn::Set(d, std::numeric_limits<double>::infinity());
-    auto left = far;
-    auto bottom = far;
-    auto right = hn::Neg(far);
-    auto top = right;
-    auto scaleX = hn::Zero(floats);
-    auto scaleY = scaleX;
-    for (int n = 0; n < run.count; n += static_cast<int>(hn::Lanes(d))) {
-        const auto share = hn::LoadU(floats, run.share + n);
-        const auto isLeft = hn::Lt(hn::Iota(d, n), hn::Set(d, run.count));
-        const auto shown = hn::And(isLeft, hn::Gt(hn::PromoteTo(d, share), hn::Zero(d)));
-        const auto x = hn::LoadU(d, run.x + n);
-        const auto y = hn::LoadU(d, run.y + n);
-        left = hn::Min(left, hn::IfThenElse(shown, x, far));
-        right = hn::Max(right, hn::IfThenElse(shown, x, hn::Neg(far)));
-        bottom = hn::Min(bottom, hn::IfThenElse(shown, y, far));
-        top = hn::Max(top, hn::IfThenElse(shown, y, hn::Neg(far)));
-        scaleX = hn::Max(scaleX, hn::LoadU(floats, run.scaleX + n));
-        scaleY = hn::Max(scaleY, hn::LoadU(floats, run.scaleY + n));
-    }
-    reach.left = std::min(reach.left, hn::GetLane(hn::MinOfLanes(d, left)));
-    reach.right = std::max(reach.right, hn::GetLane(hn::MaxOfLanes(d, right)));
-    reach.bottom = std::min(reach.bottom, hn::GetLane(hn::MinOfLanes(d, bottom)));
-    reach.top = std::max(reach.top, hn::GetLane(hn::MaxOfLanes(d, top)));
-    reach.scaleX = std::max(reach.scaleX, hn::GetLane(hn::MaxOfLanes(floats, scaleX)));
-    reach.scaleY = std::max(reach.scaleY, hn::GetLane(hn::MaxOfLanes(floats, scaleY)));
-}
-
-void FillPolynomialImpl(const std::array<double, 6>& c, std::span<double> into) {
-    const Doubles d;
-    const std::size_t lanes = hn::Lanes(d);
-    for (std::size_t n = 0; n < into.size(); n += lanes) {
-        const auto t = hn::Iota(d, static_cast<double>(n));
-        auto sum = hn::Set(d, c[5]);
-        for (std::size_t power = 5; power-- > 0;) {
-            sum = hn::Add(hn::Mul(sum, t), hn::Set(d, c[power]));
-        }
-        if (n + lanes <= into.size()) {
-            hn::StoreU(sum, d, &into[n]);
-        } else {
-            HWY_ALIGN std::array<double, 4> last;
-            hn::Store(sum, d, last.data());
-            std::copy_n(last.begin(), into.size() - n, &into[n]);
-        }
-    }
-}
-
 }  // namespace HWY_NAMESPACE
 }  // namespace varnel
 HWY_AFTER_NAMESPACE();
@@ -320,25 +308,9 @@ HWY_AFTER_NAMESPACE();
 namespace varnel {
 
 HWY_EXPORT(SampleLightImpl);
-HWY_EXPORT(ReachOfImpl);
-HWY_EXPORT(FillPolynomialImpl);
 
 void SampleLight(const LightView& view, const FineRun& run, float* out) {
     HWY_DYNAMIC_DISPATCH(SampleLightImpl)(view, run, out);
-}
-
-void ExtendReach(const FineRun& run, FineReach& reach) {
-    HWY_DYNAMIC_DISPATCH(ReachOfImpl)(run, reach);
-}
-
-void FillPolynomial(const std::array<double, 6>& c, std::span<double> into) {
-    HWY_DYNAMIC_DISPATCH(FillPolynomialImpl)(c, into);
-}
-
-void FillStraight(float from, float step, std::span<float> into) {
-    for (std::size_t n = 0; n < into.size(); ++n) {
-        into[n] = from + static_cast<float>(n) * step;
-    }
 }
 
 }  // namespace varnel

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The inner loops of the fine engine. Their vector code is in fine_kernels.cpp alone and chooses
-// the instruction set when it runs; what it gives is the same on all of them, to the last bit: it
-// multiplies and adds in one order, each rounded. Throws nothing.
+// The inner loops of the fine engine. Their vector code is in fine_kernels.cpp, place_kernels.cpp
+// and light_codes.cpp alone and chooses the instruction set when it runs; what it gives is the same
+// on all of them, to the last bit: it multiplies and adds in one order, each rounded. Throws
+// nothing.
 #pragma once
 
 #include <array>
@@ -20,6 +21,12 @@ namespace varnel {
 void FillPolynomial(const std::array<double, 6>& c, std::span<double> into);
 // from + n step for n from 0 on.
 void FillStraight(float from, float step, std::span<float> into);
+// The lengths of vectors with the parts aside[n] * asideUnit and up[n] * upUnit.
+struct Sides {
+    const double *aside, *up;
+    double asideUnit, upUnit;
+};
+void FillLengths(const Sides& sides, std::span<float> into);
 
 // Light of a piece of a photo: four numbers for each pixel, blue, green, red and alpha, the colours
 // multiplied by alpha.

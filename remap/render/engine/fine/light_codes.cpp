@@ -20,24 +20,21 @@ HWY_BEFORE_NAMESPACE();
 namespace varnel {
 namespace HWY_NAMESPACE {
 
-// The span is as long as whole vectors, see CodeLight.
 void CodeLightImpl(const float* byRoot, float slope, std::span<float> pixels) {
-    const hn::CappedTag<float, 8> d;
-    const hn::Rebind<std::int32_t, decltype(d)> ints;
-    const auto isAlpha = hn::Eq(hn::And(hn::Iota(ints, 0), hn::Set(ints, 3)), hn::Set(ints, 3));
-    const auto one = hn::Set(d, 1.0F);
-    const std::size_t lanes = hn::Lanes(d);
-    for (std::size_t n = 0; n + lanes <= pixels.size(); n += lanes) {
-        const auto light = hn::LoadU(d, &pixels[n]);
-        const auto root = hn::Sqrt(hn::Min(hn::Max(light, hn::Zero(d)), one));
-        const auto place = hn::Mul(root, hn::Set(d, static_cast<float>(TransferCurve::rootSteps)));
-        const auto below = hn::ConvertTo(ints, place);
-        const auto part = hn::Sub(place, hn::ConvertTo(d, below));
-        const auto low = hn::GatherIndex(d, byRoot, below);
-        const auto high = hn::GatherIndex(d, byRoot + 1, below);
-        const auto beyond = hn::Mul(hn::Max(hn::Sub(light, one), hn::Zero(d)), hn::Set(d, slope));
-        const auto sample = hn::Add(hn::Add(low, hn::Mul(hn::Sub(high, low), part)), beyond);
-        hn::StoreU(hn::IfThenElse(hn::RebindMask(d, isAlpha), light, sample), d, &pixels[n]);
+    constexpr auto steps = static_cast<float>(TransferCurve::rootSteps);
+    const Pixel black = Every(0.0F);
+    const Pixel white = Every(1.0F);
+    for (std::size_t n = 0; n < pixels.size(); n += lightNumbers) {
+        const Pixel light = LoadPixel(&pixels[n]);
+        const Pixel place = Root(Least(Most(light, black), white)) * Every(steps);
+        HWY_ALIGN std::array<std::int32_t, lightNumbers> below;
+        StoreWhole(place, below.data());
+        const auto [low, high] = LoadEntries(byRoot, below.data());
+        const Pixel part = place - OfWhole(below.data());
+        const Pixel beyond = Most(light - white, black) * Every(slope);
+        const float alpha = pixels[n + 3];
+        StorePixel(low + (high - low) * part + beyond, &pixels[n]);
+        pixels[n + 3] = alpha;
     }
 }
 

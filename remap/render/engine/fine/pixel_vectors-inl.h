@@ -44,6 +44,17 @@ inline void StorePixel(const Pixel& pixel, float* out) {
 inline void StoreWhole(const Pixel& pixel, std::int32_t* out) {
     std::ranges::transform(pixel.n, out, [](float n) { return static_cast<std::int32_t>(n); });
 }
+inline Pixel OfWhole(const std::int32_t* whole) {
+    return OfEach([&](std::size_t i) { return static_cast<float>(whole[i]); });
+}
+// Four entries of a table, and those after them.
+inline std::array<Pixel, 2> LoadEntries(const float* table, const std::int32_t* at) {
+    return {OfEach([&](std::size_t i) { return table[at[i]]; }),
+            OfEach([&](std::size_t i) { return table[at[i] + 1]; })};
+}
+inline Pixel Root(const Pixel& a) {
+    return OfEach([&](std::size_t i) { return std::sqrt(a.n[i]); });
+}
 inline Pixel operator+(const Pixel& a, const Pixel& b) {
     return OfEach([&](std::size_t i) { return a.n[i] + b.n[i]; });
 }
@@ -89,6 +100,24 @@ inline void StoreWhole(const Pixel& pixel, std::int32_t* out) {
     const hn::Rebind<std::int32_t, Four> ints;
     hn::StoreU(hn::ConvertTo(ints, pixel.v), ints, out);
 }
+inline Pixel OfWhole(const std::int32_t* whole) {
+    return {hn::ConvertTo(Four(), hn::LoadU(hn::Rebind<std::int32_t, Four>(), whole))};
+}
+// Four entries of a table, and those after them. Loads of two are faster than gathering.
+inline std::array<Pixel, 2> LoadEntries(const float* table, const std::int32_t* at) {
+    const hn::Half<Four> two;
+    const auto pairs = [&](std::size_t i) {
+        return hn::Combine(Four(), hn::LoadU(two, table + at[i + 1]),
+                           hn::LoadU(two, table + at[i]));
+    };
+    const auto first = pairs(0);
+    const auto second = pairs(2);
+    return {Pixel{hn::ConcatEven(Four(), second, first)},
+            Pixel{hn::ConcatOdd(Four(), second, first)}};
+}
+inline Pixel Root(const Pixel& a) {
+    return {hn::Sqrt(a.v)};
+}
 inline Pixel operator+(const Pixel& a, const Pixel& b) {
     return {hn::Add(a.v, b.v)};
 }
@@ -124,6 +153,15 @@ struct Pair {
 inline Pair LoadPair(const float* pixels) {
     return {hn::LoadU(Eight(), pixels)};
 }
+inline void StorePair(const Pair& pair, float* out) {
+    hn::StoreU(pair.v, Eight(), out);
+}
+inline Pair Size(const Pair& a) {
+    return {hn::Abs(a.v)};
+}
+inline Pair WhereLess(const Pair& value, float limit, const Pair& then, const Pair& other) {
+    return {hn::IfThenElse(hn::Lt(value.v, hn::Set(Eight(), limit)), then.v, other.v)};
+}
 inline Pair PairOf(float first, float second) {
     return {hn::Combine(Eight(), hn::Set(Four(), second), hn::Set(Four(), first))};
 }
@@ -154,6 +192,17 @@ struct Pair {
 };
 inline Pair LoadPair(const float* pixels) {
     return {LoadPixel(pixels), LoadPixel(pixels + 4)};
+}
+inline void StorePair(const Pair& pair, float* out) {
+    StorePixel(pair.first, out);
+    StorePixel(pair.second, out + 4);
+}
+inline Pair Size(const Pair& a) {
+    return {Size(a.first), Size(a.second)};
+}
+inline Pair WhereLess(const Pair& value, float limit, const Pair& then, const Pair& other) {
+    return {WhereLess(value.first, limit, then.first, other.first),
+            WhereLess(value.second, limit, then.second, other.second)};
 }
 inline Pair PairOf(float first, float second) {
     return {Every(first), Every(second)};

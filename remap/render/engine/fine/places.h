@@ -60,7 +60,8 @@ inline constexpr int placesStep = 64;
 // The map has to outlive it. The photo's size tells which share of a pixel lies beside it, the
 // result's how far apart a map is worked out.
 std::unique_ptr<PlaceFinder> SmoothPlaces(const SmoothMap& map, PixelSize photo, PixelSize result);
-std::unique_ptr<PlaceFinder> StraightRowPlaces(const StraightRows& map, PixelSize photo);
+std::unique_ptr<PlaceFinder> StraightRowPlaces(const StraightRows& map, PixelSize photo,
+                                               LineRange across);
 std::unique_ptr<PlaceFinder> CircleRowPlaces(const CircleRows& map, PixelSize photo,
                                              LineRange across);
 

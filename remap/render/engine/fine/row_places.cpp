@@ -9,34 +9,33 @@
 
 #include "remap/projection/circle_rows.h"
 #include "remap/projection/straight_rows.h"
+#include "remap/render/engine/fine/fine_kernels.h"
 #include "remap/render/engine/fine/places.h"
 
 namespace varnel {
 
 namespace {
 
-struct Place {
-    double x, y;
-    float scaleX, scaleY;
-};
-
-// Of a pixel that also lies within the circle by a share.
-void Put(const Place& place, float within, PixelSize photo, std::size_t at, Places& into) {
-    into.x[at] = place.x;
-    into.y[at] = place.y;
-    into.scaleX[at] = place.scaleX;
-    into.scaleY[at] = place.scaleY;
-    into.share[at] = within * ShareOnSide(place.x, place.scaleX, photo.width) *
-                     ShareOnSide(place.y, place.scaleY, photo.height);
+// Of a run's places, whose pixels lie within the circle by a share too. All of them lie no farther
+// from the first than so many pixels of the photo, with all that they span.
+void FillShares(const PlaceRun& run, float within, double far, PixelSize photo, Places& into) {
+    const auto fits = [far](double position, std::int32_t side) {
+        return position - far >= -0.5 && position + far <= side - 0.5;
+    };
+    if (fits(into.x[run.at], photo.width) && fits(into.y[run.at], photo.height)) {
+        std::fill_n(&into.share[run.at], run.count, within);
+        return;
+    }
+    const std::size_t end = run.at + static_cast<std::size_t>(run.count);
+    for (std::size_t n = run.at; n < end; ++n) {
+        into.share[n] = within * ShareOnSide(into.x[n], into.scaleX[n], photo.width) *
+                        ShareOnSide(into.y[n], into.scaleY[n], photo.height);
+    }
 }
 
 // Of a row whose middle lies a way within the circle, rows of the result; positive.
 float ShareWithin(double rows) {
     return static_cast<float>(std::clamp(rows + 0.5, 0.0, 1.0));
-}
-
-float Length(double a, double b) {
-    return static_cast<float>(std::sqrt(a * a + b * b));
 }
 
 // Of a finder whose rows have nothing in common.
@@ -52,7 +51,13 @@ class RowsBy : public PlaceRows {
 
 class StraightPlaces : public PlaceFinder {
   public:
-    StraightPlaces(const StraightRows& map, PixelSize photo) : map_(map), photo_(photo) {}
+    StraightPlaces(const StraightRows& map, PixelSize photo, LineRange across)
+        : map_(map), photo_(photo), first_(across.first) {
+        for (int column = across.first; column <= across.last; ++column) {
+            columns_.push_back(column);
+        }
+        ones_.assign(columns_.size(), 1.0);
+    }
 
     std::unique_ptr<PlaceRows> RowsOf(LineRange /*across*/, LineRange /*up*/) const override {
         return std::make_unique<RowsBy<StraightPlaces>>(*this);
@@ -65,12 +70,18 @@ class StraightPlaces : public PlaceFinder {
         const float scaleY = static_cast<float>(1.0 / circle.scale);
         const double y = circle.sourceCentre.y + (run.y < 0 ? -1.0 : 1.0) * map_.HeightOf(row);
         const float within = ShareWithin(map_.Radius() - row);
-        for (int n = 0; n < run.count; ++n) {
-            const int column = run.x + n;
-            Put({circle.sourceCentre.x + column * stretch, y, Length(stretch, column * bend),
-                 scaleY},
-                within, photo_, run.at + static_cast<std::size_t>(n), into);
+        const double* const columns = &columns_[static_cast<std::size_t>(run.x - first_)];
+        const auto count = static_cast<std::size_t>(run.count);
+        for (std::size_t n = 0; n < count; ++n) {
+            into.x[run.at + n] = circle.sourceCentre.x + columns[n] * stretch;
         }
+        std::fill_n(&into.y[run.at], run.count, y);
+        std::fill_n(&into.scaleY[run.at], run.count, scaleY);
+        FillLengths({ones_.data(), columns, stretch, bend}, {&into.scaleX[run.at], count});
+        const double widest =
+            stretch + std::fabs(bend) * std::max(std::abs(run.x), std::abs(run.x + run.count));
+        FillShares(run, within, stretch * run.count + widest + static_cast<double>(scaleY), photo_,
+                   into);
     }
 
   private:
@@ -81,6 +92,8 @@ class StraightPlaces : public PlaceFinder {
 
     const StraightRows& map_;
     PixelSize photo_;
+    int first_;
+    std::vector<double> columns_, ones_;
 };
 
 class CirclePlaces : public PlaceFinder {
@@ -104,14 +117,17 @@ class CirclePlaces : public PlaceFinder {
         const double outward = static_cast<double>(run.height) / circle.scale;
         const double around = radius * turn_;
         const float within = ShareWithin((static_cast<double>(circle.radius) - radius) / outward);
-        for (int n = 0; n < run.count; ++n) {
-            const auto column = static_cast<std::size_t>(run.x + n - first_);
-            const double cosine = cosines_[column];
-            const double sine = sines_[column];
-            Put({circle.sourceCentre.x + radius * cosine, circle.sourceCentre.y + radius * sine,
-                 Length(around * sine, outward * cosine), Length(around * cosine, outward * sine)},
-                within, photo_, run.at + static_cast<std::size_t>(n), into);
+        const auto column = static_cast<std::size_t>(run.x - first_);
+        const auto count = static_cast<std::size_t>(run.count);
+        const double* const cosines = &cosines_[column];
+        const double* const sines = &sines_[column];
+        for (std::size_t n = 0; n < count; ++n) {
+            into.x[run.at + n] = circle.sourceCentre.x + radius * cosines[n];
+            into.y[run.at + n] = circle.sourceCentre.y + radius * sines[n];
         }
+        FillLengths({sines, cosines, around, outward}, {&into.scaleX[run.at], count});
+        FillLengths({cosines, sines, around, outward}, {&into.scaleY[run.at], count});
+        FillShares(run, within, std::fabs(around) * (run.count + 1) + outward, photo_, into);
     }
 
   private:
@@ -124,8 +140,9 @@ class CirclePlaces : public PlaceFinder {
 
 }  // namespace
 
-std::unique_ptr<PlaceFinder> StraightRowPlaces(const StraightRows& map, PixelSize photo) {
-    return std::make_unique<StraightPlaces>(map, photo);
+std::unique_ptr<PlaceFinder> StraightRowPlaces(const StraightRows& map, PixelSize photo,
+                                               LineRange across) {
+    return std::make_unique<StraightPlaces>(map, photo, across);
 }
 
 std::unique_ptr<PlaceFinder> CircleRowPlaces(const CircleRows& map, PixelSize photo,

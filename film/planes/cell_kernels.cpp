@@ -81,8 +81,8 @@ class BorderReader {
 };
 
 template <class Sample, class Floats>
-HWY_NOINLINE void StoreBorder(const BandDrawing& drawing, const PlanePair& plane,
-                              const Places<Floats>& at, Sample* out) {
+HWY_NOINLINE void BlendBorder(const BandDrawing& drawing, const PlanePair& plane,
+                              const Places<Floats>& at, std::array<Sample, lanesAtMost>& levels) {
     const IntsOf<Floats> ints;
     const Floats floats;
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> x;
@@ -95,7 +95,7 @@ HWY_NOINLINE void StoreBorder(const BandDrawing& drawing, const PlanePair& plane
     hn::Store(at.partY, floats, partY.data());
     const BorderReader<Sample> reader(drawing, plane);
     for (std::size_t n = 0; n < hn::Lanes(floats); ++n) {
-        out[n] = reader.At({x[n], y[n], partX[n], partY[n]});
+        levels[n] = reader.At({x[n], y[n], partX[n], partY[n]});
     }
 }
 
@@ -114,17 +114,23 @@ Sample* RowOf(const PlanePair& plane, const CellArea& area, int row) {
 // Whole cells with all neighbours on the planes.
 template <class Sample, class Floats, class Positions>
 void DrawInside(const BandDrawing& drawing, const CellArea& area, const Positions& positions) {
+    using Its = Shape<Floats>;
     const Floats d;
-    for (int row = 0; row < area.rows; ++row) {
-        const typename Positions::Row its(positions, row);
-        for (int k = 0; k < area.columns; k += static_cast<int>(hn::Lanes(d))) {
-            const Places<Floats> at = its.At(d, k);
-            const Window<Sample, Floats> window(d, at, drawing.source);
+    const int reach = positions.Reach(drawing.samples);
+    for (int row = 0; row < area.rows; row += Its::rows) {
+        const typename Positions::template Rows<Floats> its(positions, row);
+        for (int k = 0; k < area.columns; k += Its::columns) {
+            const Places<Floats> at = its.At(k);
+            const Window<Sample, Floats> window(at, drawing.source, reach);
             for (const PlanePair& plane : drawing.planes) {
                 const Words<Floats> words = window.Fits()
                                                 ? window.Load(plane.source)
                                                 : LoadOneByOne(d, plane.source, at, sizeof(Sample));
-                StoreBlend(d, words, at, plane.rounding, RowOf<Sample>(plane, area, row) + k);
+                const auto levels = Blended<Sample>(words, at, plane.rounding);
+                const bool hasSecond = row + 1 < area.rows;
+                Its::template Store<Sample>(
+                    levels, RowOf<Sample>(plane, area, row) + k,
+                    hasSecond ? RowOf<Sample>(plane, area, row + 1) + k : nullptr);
             }
         }
     }
@@ -133,17 +139,19 @@ void DrawInside(const BandDrawing& drawing, const CellArea& area, const Position
 // What is beyond the result is worked out and not stored.
 template <class Sample, class Floats, class Positions>
 void DrawBorder(const BandDrawing& drawing, const CellArea& area, const Positions& positions) {
-    const Floats d;
-    const int lanes = static_cast<int>(hn::Lanes(d));
-    std::array<Sample, lanesAtMost> samples;
-    for (int row = 0; row < area.rows; ++row) {
-        const typename Positions::Row its(positions, row);
-        for (int k = 0; k < area.columns; k += lanes) {
-            const Places<Floats> at = its.At(d, k);
+    using Its = Shape<Floats>;
+    std::array<Sample, lanesAtMost> levels;
+    for (int row = 0; row < area.rows; row += Its::rows) {
+        const typename Positions::template Rows<Floats> its(positions, row);
+        for (int k = 0; k < area.columns; k += Its::columns) {
+            const Places<Floats> at = its.At(k);
             for (const PlanePair& plane : drawing.planes) {
-                StoreBorder(drawing, plane, at, samples.data());
-                std::copy_n(samples.data(), std::min(lanes, area.columns - k),
-                            RowOf<Sample>(plane, area, row) + k);
+                BlendBorder(drawing, plane, at, levels);
+                for (int n = 0; n < std::min(Its::rows, area.rows - row); ++n) {
+                    std::copy_n(levels.data() + n * Its::columns,
+                                std::min(Its::columns, area.columns - k),
+                                RowOf<Sample>(plane, area, row + n) + k);
+                }
             }
         }
     }
@@ -188,16 +196,50 @@ void DrawCell(const BandDrawing& drawing, std::size_t n) {
     }
 }
 
-// As many lanes as a row of a cell has samples, at most.
+// A little before a cell is drawn: its right border on the source, the left one being that of the
+// cell before it, and where it goes to. Cells touch few bytes of many rows, which the processor
+// does not foresee.
+void Fetch(const BandDrawing& drawing, std::size_t n) {
+    if (n >= drawing.band.cells.size() ||
+        drawing.band.of[drawing.id].kinds[n] != CellKind::Inside) {
+        return;
+    }
+    const SampleGrid& grid = drawing.samples;
+    const CellPolynomial& cell = drawing.band.cells[n];
+    const auto sum = [&](std::size_t m, std::size_t from) {
+        const auto& c = cell.c[m];
+        return c[from] + c[from + 1] + c[from + 2] + c[from + 3];
+    };
+    const auto x = (cell.baseX + static_cast<std::ptrdiff_t>(sum(0, 0))) / grid.stepX;
+    const auto top = (cell.baseY + static_cast<std::ptrdiff_t>(sum(0, 4))) / grid.stepY;
+    const auto down = static_cast<std::ptrdiff_t>(sum(1, 4) + sum(2, 4) + sum(3, 4)) / grid.stepY;
+    const std::ptrdiff_t first =
+        std::clamp<std::ptrdiff_t>(std::min(top, top + down), 0, drawing.source.height - 1);
+    const std::ptrdiff_t last = std::clamp<std::ptrdiff_t>(
+        std::max(top, top + down) + 1, first,
+        std::min<std::ptrdiff_t>(first + 2 * cellSide, drawing.source.height - 1));
+    const std::ptrdiff_t column = std::clamp<std::ptrdiff_t>(x, 0, drawing.source.width - 1);
+    const std::ptrdiff_t to = static_cast<std::ptrdiff_t>(n) * grid.CellColumns();
+    for (const PlanePair& plane : drawing.planes) {
+        const std::byte* from = plane.source.first + column * drawing.bytesPerSample;
+        for (std::ptrdiff_t row = first; row <= last; ++row) {
+            __builtin_prefetch(from + row * plane.source.pitch);
+        }
+        const int rows = std::min(grid.CellRows(), drawing.result.height - drawing.firstRow);
+        for (int row = 0; row < rows; ++row) {
+            __builtin_prefetch(plane.result.first + (drawing.firstRow + row) * plane.result.pitch +
+                                   to * drawing.bytesPerSample,
+                               1);
+        }
+    }
+}
+
 template <class Sample>
 void DrawCells(const BandDrawing& drawing) {
-    const bool isShort = drawing.samples.CellColumns() < lanesAtMost;
+    constexpr std::size_t ahead = 4;
     for (std::size_t n = 0; n < drawing.band.cells.size(); ++n) {
-        if (isShort) {
-            DrawCell<Sample, hn::CappedTag<float, cellSide / 2>>(drawing, n);
-        } else {
-            DrawCell<Sample, hn::CappedTag<float, lanesAtMost>>(drawing, n);
-        }
+        Fetch(drawing, n + ahead);
+        DrawCell<Sample, hn::CappedTag<float, lanesAtMost>>(drawing, n);
     }
 }
 

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstring>
 
 #include "film/planes/cell_kernels.h"
@@ -53,30 +54,89 @@ HWY_INLINE V Between(V a, V b, V part) {
     return TimesPlus(hn::Sub(b, a), part, a);
 }
 
-// The polynomials of a row: of x, then of y.
-class RowPolynomial {
-  public:
-    // down is the share of the way down the cell.
-    RowPolynomial(const CellPolynomial& cell, float down) {
-        const hn::CappedTag<float, 8> d;
-        const auto share = hn::Set(d, down);
-        for (std::size_t n = 0; n < 8; n += hn::Lanes(d)) {
-            auto sum = TimesPlus(hn::Load(d, cell.c[3].data() + n), share,
-                                 hn::Load(d, cell.c[2].data() + n));
-            sum = TimesPlus(sum, share, hn::Load(d, cell.c[1].data() + n));
-            sum = TimesPlus(sum, share, hn::Load(d, cell.c[0].data() + n));
-            hn::Store(sum, d, c_.data() + n);
+// A vector has neighbouring samples of one row or, where it is long, of two: what they are read
+// from lies closer together than that of a long row.
+template <class Floats>
+struct Shape {
+    static constexpr int rows = hn::MaxLanes(Floats()) > 8 ? 2 : 1;
+    static constexpr int columns = static_cast<int>(hn::MaxLanes(Floats())) / rows;
+
+    // One number for all of a row.
+    static HWY_INLINE hn::Vec<Floats> ByRow(float first, [[maybe_unused]] float second) {
+        const Floats d;
+        if constexpr (rows == 2) {
+            return hn::IfThenElse(hn::FirstN(d, columns), hn::Set(d, first), hn::Set(d, second));
+        } else {
+            return hn::Set(d, first);
         }
     }
-    template <std::size_t from, class Floats>
-    HWY_INLINE hn::Vec<Floats> At(Floats d, hn::Vec<Floats> across) const {
-        auto sum = TimesPlus(hn::Set(d, c_[from + 3]), across, hn::Set(d, c_[from + 2]));
-        sum = TimesPlus(sum, across, hn::Set(d, c_[from + 1]));
-        return TimesPlus(sum, across, hn::Set(d, c_[from]));
+    // 0, 1, 2 ... from the first column of a row.
+    static HWY_INLINE hn::Vec<Floats> Columns() {
+        return hn::Sub(hn::Iota(Floats(), 0.0F), ByRow(0.0F, columns));
+    }
+    // What is at a place and, of the second row, so much further.
+    template <class T>
+    static HWY_INLINE hn::Vec<hn::Rebind<T, Floats>> Load(const T* from,
+                                                          [[maybe_unused]] std::ptrdiff_t pitch) {
+        const hn::Rebind<T, Floats> d;
+#if HWY_TARGET != HWY_SCALAR
+        if constexpr (rows == 2) {
+            const hn::Half<decltype(d)> half;
+            return hn::Combine(d, hn::LoadU(half, from + pitch), hn::LoadU(half, from));
+        }
+#endif
+        return hn::LoadU(d, from);
+    }
+    // To a place and, of the second row, to another one, if there is one.
+    template <class T>
+    static HWY_INLINE void Store(hn::Vec<hn::Rebind<T, Floats>> values, T* to,
+                                 [[maybe_unused]] T* second) {
+        const hn::Rebind<T, Floats> d;
+#if HWY_TARGET != HWY_SCALAR
+        if constexpr (rows == 2) {
+            const hn::Half<decltype(d)> half;
+            hn::StoreU(hn::LowerHalf(half, values), half, to);
+            if (second != nullptr) {
+                hn::StoreU(hn::UpperHalf(half, values), half, second);
+            }
+            return;
+        }
+#endif
+        hn::StoreU(values, d, to);
+    }
+};
+
+// The polynomials of the rows of a vector: of x, then of y.
+template <class Floats>
+class RowPolynomials {
+  public:
+    // down: the shares of the way down the cell.
+    RowPolynomials(const CellPolynomial& cell, const std::array<float, 2>& down) {
+        const hn::CappedTag<float, 8> d;
+        for (std::size_t row = 0; row < Shape<Floats>::rows; ++row) {
+            const auto share = hn::Set(d, down[row]);
+            for (std::size_t n = 0; n < 8; n += hn::Lanes(d)) {
+                auto sum = TimesPlus(hn::Load(d, cell.c[3].data() + n), share,
+                                     hn::Load(d, cell.c[2].data() + n));
+                sum = TimesPlus(sum, share, hn::Load(d, cell.c[1].data() + n));
+                sum = TimesPlus(sum, share, hn::Load(d, cell.c[0].data() + n));
+                hn::Store(sum, d, c_[row].data() + n);
+            }
+        }
+    }
+    template <std::size_t from>
+    HWY_INLINE hn::Vec<Floats> At(hn::Vec<Floats> across) const {
+        auto sum = TimesPlus(C(from + 3), across, C(from + 2));
+        sum = TimesPlus(sum, across, C(from + 1));
+        return TimesPlus(sum, across, C(from));
     }
 
   private:
-    alignas(32) std::array<float, 8> c_;
+    HWY_INLINE hn::Vec<Floats> C(std::size_t n) const {
+        return Shape<Floats>::ByRow(c_[0][n], c_[Shape<Floats>::rows - 1][n]);
+    }
+
+    alignas(32) std::array<std::array<float, 8>, 2> c_;
 };
 
 // An axis of a plane: how positions in samples of brightness from a base become its own.
@@ -111,38 +171,54 @@ class ByPolynomial {
   public:
     ByPolynomial(const SampleGrid& grid, const CellPolynomial& cell)
         : cell_(cell),
-          grid_(grid),
           x_(cell.baseX, grid.stepX, grid.shiftX),
           y_(cell.baseY, grid.stepY, grid.shiftY),
-          step_(static_cast<float>(grid.stepX) / cellSide),
-          shift_(static_cast<float>(grid.shiftX) / cellSide) {}
+          perColumn_(static_cast<float>(grid.stepX) / cellSide),
+          firstColumn_(static_cast<float>(grid.shiftX) / cellSide),
+          perRow_(static_cast<float>(grid.stepY) / cellSide),
+          firstRow_(static_cast<float>(grid.shiftY) / cellSide) {}
 
-    class Row {
+    // Rows of the source that a vector of positions spans, as good as always.
+    int Reach(const SampleGrid& grid) const {
+        const auto at = [&](std::size_t m, std::size_t n) { return cell_.c[m][4 + n]; };
+        const float across = std::fabs(at(0, 1) + at(0, 2) + at(0, 3)) / 2.0F;
+        const float bend = std::fabs(at(1, 1)) / 2.0F + std::fabs(at(0, 2)) / 2.0F;
+        const float down = (std::fabs(at(1, 0)) + std::fabs(at(2, 0))) / cellSide;
+        const float rows =
+            (across * static_cast<float>(grid.stepX) + bend) / static_cast<float>(grid.stepY) +
+            down;
+        return 1 + static_cast<int>(std::min(rows, 100.0F));
+    }
+
+    // From a row of the cell on.
+    template <class Floats>
+    class Rows {
       public:
-        Row(const ByPolynomial& cell, int row)
-            : its_(cell),
-              row_(cell.cell_,
-                   static_cast<float>((row * cell.grid_.stepY + cell.grid_.shiftY) / cellSide)) {}
-        template <class Floats>
-        HWY_INLINE Places<Floats> At(Floats d, int k) const {
-            const auto across = TimesPlus(hn::Iota(d, static_cast<float>(k)),
-                                          hn::Set(d, its_.step_), hn::Set(d, its_.shift_));
+        Rows(const ByPolynomial& cell, int row)
+            : its_(cell), rows_(cell.cell_, {cell.ShareOf(row), cell.ShareOf(row + 1)}) {}
+        HWY_INLINE Places<Floats> At(int k) const {
+            const Floats d;
+            const auto column =
+                hn::Add(Shape<Floats>::Columns(), hn::Set(d, static_cast<float>(k)));
+            const auto across =
+                TimesPlus(column, hn::Set(d, its_.perColumn_), hn::Set(d, its_.firstColumn_));
             Places<Floats> places;
-            its_.x_.Split(d, row_.At<0>(d, across), places.x, places.partX);
-            its_.y_.Split(d, row_.At<4>(d, across), places.y, places.partY);
+            its_.x_.Split(d, rows_.template At<0>(across), places.x, places.partX);
+            its_.y_.Split(d, rows_.template At<4>(across), places.y, places.partY);
             return places;
         }
 
       private:
         const ByPolynomial& its_;
-        RowPolynomial row_;
+        RowPolynomials<Floats> rows_;
     };
 
   private:
+    float ShareOf(int row) const { return static_cast<float>(row) * perRow_ + firstRow_; }
+
     const CellPolynomial& cell_;
-    const SampleGrid& grid_;
     Axis x_, y_;
-    float step_, shift_;
+    float perColumn_, firstColumn_, perRow_, firstRow_;
 };
 
 // Positions one by one.
@@ -151,31 +227,33 @@ class ByList {
     ByList(const SampleGrid& grid, const std::int32_t* block)
         : block_(block), columns_(grid.CellColumns()) {}
 
-    class Row {
+    int Reach(const SampleGrid& /*grid*/) const { return 3; }
+
+    template <class Floats>
+    class Rows {
       public:
-        Row(const ByList& cell, int row)
-            : x_(cell.block_ + 2 * row * cell.columns_), y_(x_ + cell.columns_) {}
-        template <class Floats>
-        HWY_INLINE Places<Floats> At(Floats d, int k) const {
+        Rows(const ByList& cell, int row)
+            : x_(cell.block_ + 2 * row * cell.columns_), columns_(cell.columns_) {}
+        HWY_INLINE Places<Floats> At(int k) const {
             Places<Floats> places;
-            Take(d, x_ + k, places.x, places.partX);
-            Take(d, y_ + k, places.y, places.partY);
+            Take(x_ + k, places.x, places.partX);
+            Take(x_ + columns_ + k, places.y, places.partY);
             return places;
         }
 
       private:
-        template <class Floats>
-        static HWY_INLINE void Take(Floats d, const std::int32_t* from,
-                                    hn::Vec<IntsOf<Floats>>& whole, hn::Vec<Floats>& part) {
+        HWY_INLINE void Take(const std::int32_t* from, hn::Vec<IntsOf<Floats>>& whole,
+                             hn::Vec<Floats>& part) const {
+            const Floats d;
             const IntsOf<Floats> ints;
-            const auto fixed = hn::LoadU(ints, from);
+            const auto fixed = Shape<Floats>::Load(from, 2 * columns_);
             whole = hn::ShiftRight<16>(fixed);
             part = hn::Mul(hn::ConvertTo(d, hn::And(fixed, hn::Set(ints, 0xFFFF))),
                            hn::Set(d, static_cast<float>(1.0 / placesPerSample)));
         }
 
         const std::int32_t* x_;
-        const std::int32_t* y_;
+        int columns_;
     };
 
   private:
@@ -194,28 +272,25 @@ struct Words {
 template <class Sample, class Floats>
 class Window {
   public:
-    Window([[maybe_unused]] Floats d, [[maybe_unused]] const Places<Floats>& at,
-           [[maybe_unused]] PixelSize plane) {
+    // reach: how many rows the positions span beyond the first.
+    Window([[maybe_unused]] const Places<Floats>& at, [[maybe_unused]] PixelSize plane, int reach)
+        : reach_(reach) {
 #if HWY_TARGET != HWY_SCALAR
         const IntsOf<Floats> ints;
-        const std::size_t last = hn::Lanes(d) - 1;
-        const std::int32_t lastX = hn::ExtractLane(at.x, last);
-        const std::int32_t lastY = hn::ExtractLane(at.y, last);
-        left_ = std::min(hn::GetLane(at.x), lastX);
-        top_ = std::min(hn::GetLane(at.y), lastY);
-        rows_ = std::max(hn::GetLane(at.y), lastY) - top_;
-        const int samples = perWord * static_cast<int>(hn::Lanes(d));
-        const auto x = hn::Sub(at.x, hn::Set(ints, left_));
-        y_ = hn::Sub(at.y, hn::Set(ints, top_));
+        const auto left = hn::MinOfLanes(ints, at.x);
+        const auto top = hn::MinOfLanes(ints, at.y);
+        left_ = hn::GetLane(left);
+        top_ = hn::GetLane(top);
+        const int samples = perWord * static_cast<int>(hn::Lanes(ints));
+        const auto x = hn::Sub(at.x, left);
+        y_ = hn::Sub(at.y, top);
         word_ = hn::ShiftRight<perWord / 2>(x);
         isHalfway_ = IsSet(x, perWord / 2);
         isOdd_ = IsSet(x, 1);
-        const auto zero = hn::Zero(ints);
-        const auto least = hn::Min(x, y_);
-        const auto tooFar =
-            hn::Or(hn::Gt(x, hn::Set(ints, samples - perWord)), hn::Gt(y_, hn::Set(ints, rows_)));
-        fits_ = rows_ <= mostRows && left_ + samples + perWord <= plane.width &&
-                hn::AllFalse(ints, hn::Or(tooFar, hn::Lt(least, zero)));
+        const auto isTooFar =
+            hn::Or(hn::Gt(x, hn::Set(ints, samples - perWord)), hn::Gt(y_, hn::Set(ints, reach)));
+        fits_ = reach <= mostRows && left_ + samples + perWord <= plane.width &&
+                top_ + reach + 1 < plane.height && hn::AllFalse(ints, isTooFar);
 #endif
     }
     bool Fits() const {
@@ -228,7 +303,7 @@ class Window {
             plane.first + top_ * plane.pitch + left_ * static_cast<std::ptrdiff_t>(sizeof(Sample));
         Words<Floats> words{Row(row), Row(row + plane.pitch)};
         auto next = words.lower;
-        for (std::int32_t n = 1; n <= rows_; ++n) {
+        for (std::int32_t n = 1; n <= reach_; ++n) {
             row += plane.pitch;
             const auto its = hn::Eq(y_, hn::Set(ints, n));
             words.upper = hn::IfThenElse(its, next, words.upper);
@@ -264,7 +339,8 @@ class Window {
 
     VecI word_, y_;
     hn::Mask<IntsOf<Floats>> isHalfway_, isOdd_;
-    std::int32_t left_ = 0, top_ = 0, rows_ = 0;
+    std::int32_t left_ = 0, top_ = 0;
+    int reach_;
     bool fits_ = false;
 };
 
@@ -296,15 +372,18 @@ HWY_INLINE hn::Vec<Floats> Across(Floats d, hn::Vec<IntsOf<Floats>> words, hn::V
 }
 
 template <class Sample, class Floats>
-HWY_INLINE void StoreBlend(Floats d, const Words<Floats>& words, const Places<Floats>& at,
-                           float rounding, Sample* out) {
+using LevelsOf = hn::Vec<hn::Rebind<Sample, Floats>>;
+
+template <class Sample, class Floats>
+HWY_INLINE LevelsOf<Sample, Floats> Blended(const Words<Floats>& words, const Places<Floats>& at,
+                                            float rounding) {
+    const Floats d;
     const IntsOf<Floats> ints;
     const auto level = Between(Across<Sample>(d, words.upper, at.partX),
                                Across<Sample>(d, words.lower, at.partX), at.partY);
     const auto shifted = hn::Add(hn::Add(level, hn::Set(d, rounding)), hn::Set(d, wholeShift));
     const auto whole = hn::And(hn::BitCast(ints, shifted), hn::Set(ints, 0xFFFF));
-    const hn::Rebind<Sample, IntsOf<Floats>> narrow;
-    hn::StoreU(hn::DemoteTo(narrow, whole), narrow, out);
+    return hn::DemoteTo(hn::Rebind<Sample, Floats>(), whole);
 }
 
 }  // namespace HWY_NAMESPACE

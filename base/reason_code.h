@@ -158,6 +158,18 @@ enum class ReasonCode : std::uint16_t {
     FilmChanges,
     FrameLost,
     FrameDamaged,
+    // films: writing
+    FilmsNotWritable,
+    NoEncoder,
+    EncoderTakesNoSuchFrames,
+    EncoderTakesNoSuchValue,
+    EncoderFailed,
+    ContainerHoldsNo,
+    StreamLeftOut,
+    FilmIsBeingWritten,
+    FrameTooLate,
+    NothingBetweenTimes,
+    StillOfOtherSize,
     Count  // of the codes; not a code itself
 };
 

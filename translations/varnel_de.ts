@@ -2840,6 +2840,50 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>the picture at %1 seconds is damaged</source>
         <translation>das Bild bei %1 Sekunden ist beschädigt</translation>
     </message>
+    <message>
+        <source>films cannot be written: %1</source>
+        <translation>Filme können nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>the installed libavcodec has no encoder for %1 (%2)</source>
+        <translation>das installierte libavcodec hat keinen Encoder für %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no pictures of %2; these do: %3</source>
+        <translation>der Encoder %1 nimmt keine Bilder mit %2 an; diese schon: %3</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
+        <translation>der Encoder %1 kennt für %2 nicht „%3“, aber %4</translation>
+    </message>
+    <message>
+        <source>the encoder %1 failed: %2</source>
+        <translation>der Encoder %1 ist gescheitert: %2</translation>
+    </message>
+    <message>
+        <source>%1 files cannot hold %2; these can: %3</source>
+        <translation>%1-Dateien können %2 nicht enthalten; diese schon: %3</translation>
+    </message>
+    <message>
+        <source>stream %1 (%2) is left out: %3 files cannot hold it</source>
+        <translation>Spur %1 (%2) wird weggelassen: %3-Dateien können sie nicht enthalten</translation>
+    </message>
+    <message>
+        <source>another program is writing this film</source>
+        <translation>ein anderes Programm schreibt diesen Film gerade</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds comes behind a later one and is left out</source>
+        <translation>das Bild bei %1 Sekunden kommt nach einem späteren und wird weggelassen</translation>
+    </message>
+    <message>
+        <source>the film has no picture from %1 to %2 seconds; it is %3 seconds long</source>
+        <translation>der Film hat kein Bild von %1 bis %2 Sekunden; er ist %3 Sekunden lang</translation>
+    </message>
+    <message>
+        <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
+        <translation>sein Bild hat %1 x %2 Pixel, das erste des Films %3 x %4</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -2840,6 +2840,50 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>the picture at %1 seconds is damaged</source>
         <translation>la imagen a los %1 segundos está dañada</translation>
     </message>
+    <message>
+        <source>films cannot be written: %1</source>
+        <translation>no se pueden escribir películas: %1</translation>
+    </message>
+    <message>
+        <source>the installed libavcodec has no encoder for %1 (%2)</source>
+        <translation>la libavcodec instalada no tiene codificador para %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no pictures of %2; these do: %3</source>
+        <translation>el codificador %1 no admite imágenes de %2; estos sí: %3</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
+        <translation>el codificador %1 no admite %2 «%3», pero sí %4</translation>
+    </message>
+    <message>
+        <source>the encoder %1 failed: %2</source>
+        <translation>el codificador %1 ha fallado: %2</translation>
+    </message>
+    <message>
+        <source>%1 files cannot hold %2; these can: %3</source>
+        <translation>los archivos %1 no pueden contener %2; estos sí: %3</translation>
+    </message>
+    <message>
+        <source>stream %1 (%2) is left out: %3 files cannot hold it</source>
+        <translation>la pista %1 (%2) se omite: los archivos %3 no pueden contenerla</translation>
+    </message>
+    <message>
+        <source>another program is writing this film</source>
+        <translation>otro programa está escribiendo esta película</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds comes behind a later one and is left out</source>
+        <translation>la imagen en el segundo %1 viene detrás de una posterior y se omite</translation>
+    </message>
+    <message>
+        <source>the film has no picture from %1 to %2 seconds; it is %3 seconds long</source>
+        <translation>la película no tiene imágenes del segundo %1 al %2; dura %3 segundos</translation>
+    </message>
+    <message>
+        <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
+        <translation>su imagen tiene %1 x %2 píxeles, la primera de la película %3 x %4</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -2840,6 +2840,50 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>the picture at %1 seconds is damaged</source>
         <translation>l’image à %1 secondes est endommagée</translation>
     </message>
+    <message>
+        <source>films cannot be written: %1</source>
+        <translation>les films ne peuvent pas être écrits : %1</translation>
+    </message>
+    <message>
+        <source>the installed libavcodec has no encoder for %1 (%2)</source>
+        <translation>la libavcodec installée n’a pas d’encodeur pour %1 (%2)</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no pictures of %2; these do: %3</source>
+        <translation>l’encodeur %1 n’accepte pas les images en %2 ; ceux-ci le font : %3</translation>
+    </message>
+    <message>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
+        <translation>l’encodeur %1 n’accepte pas %2 « %3 », mais %4</translation>
+    </message>
+    <message>
+        <source>the encoder %1 failed: %2</source>
+        <translation>l’encodeur %1 a échoué : %2</translation>
+    </message>
+    <message>
+        <source>%1 files cannot hold %2; these can: %3</source>
+        <translation>les fichiers %1 ne peuvent pas contenir %2 ; ceux-ci le peuvent : %3</translation>
+    </message>
+    <message>
+        <source>stream %1 (%2) is left out: %3 files cannot hold it</source>
+        <translation>le flux %1 (%2) est laissé de côté : les fichiers %3 ne peuvent pas le contenir</translation>
+    </message>
+    <message>
+        <source>another program is writing this film</source>
+        <translation>un autre programme est en train d’écrire ce film</translation>
+    </message>
+    <message>
+        <source>the picture at %1 seconds comes behind a later one and is left out</source>
+        <translation>l’image à %1 secondes vient après une image ultérieure et est laissée de côté</translation>
+    </message>
+    <message>
+        <source>the film has no picture from %1 to %2 seconds; it is %3 seconds long</source>
+        <translation>le film n’a pas d’image de %1 à %2 secondes ; il dure %3 secondes</translation>
+    </message>
+    <message>
+        <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
+        <translation>son image a %1 x %2 pixels, la première du film %3 x %4</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

@@ -11,74 +11,22 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
-#include <climits>
-#include <optional>
 #include <utility>
 
 #include "files/file_operations.h"
 #include "files/temp_names.h"
+#include "files/write_target.h"
 
 namespace varnel {
 
 namespace {
 
 constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
-constexpr int mostLinks = 40;              // as the system itself follows
-
-Reason By(int error) {
-    return {ReasonCode::SystemError, error};
-}
-
-// The file to replace or create, with all links followed: renaming would replace a link itself.
-struct Target {
-    QByteArray name;
-    std::optional<unsigned> permissions;  // of the older file, if there is one
-    Reason error;
-};
-
-QByteArray FolderOf(const QByteArray& name) {
-    const qsizetype slash = name.lastIndexOf('/');
-    return slash < 0 ? QByteArray(".") : name.left(std::max<qsizetype>(slash, 1));
-}
-
-// Empty when the links form a ring.
-std::optional<QByteArray> FollowLinks(QByteArray name) {
-    for (int links = 0; links <= mostLinks; ++links) {
-        QByteArray next(PATH_MAX, Qt::Uninitialized);
-        const ssize_t length = ::readlink(name.constData(), next.data(), PATH_MAX);
-        if (length < 0) {  // no link
-            return name;
-        }
-        next.truncate(length);
-        name = next.startsWith('/') ? next : FolderOf(name) + '/' + next;
-    }
-    return std::nullopt;
-}
-
-Target FindTarget(const QString& path) {
-    const QByteArray given = QFile::encodeName(path);
-    const std::optional<QByteArray> name = FollowLinks(given);
-    if (given.contains('\0') || !name) {
-        return {given, {}, By(name ? EINVAL : ELOOP)};
-    }
-    struct stat older {};
-    if (::stat(name->constData(), &older) != 0) {
-        return {*name, {}, errno == ENOENT ? Reason() : By(errno)};
-    }
-    if (!S_ISREG(older.st_mode)) {
-        return {*name, {}, S_ISDIR(older.st_mode) ? By(EISDIR) : ReasonCode::NotRegular};
-    }
-    // Renaming needs the folder's permission only; a write-protected file must not be replaced.
-    if (::faccessat(AT_FDCWD, name->constData(), W_OK, AT_EACCESS) != 0) {
-        return {*name, {}, By(errno)};
-    }
-    return {*name, older.st_mode & 0777U, {}};
-}
 
 // The hidden file until it is renamed to the target. Removed with this object if that failed.
 class TempFile {
   public:
-    TempFile(const Target& target, FileOperations& operations)
+    TempFile(const WriteTarget& target, FileOperations& operations)
         : target_(target), operations_(operations) {}
     TempFile(const TempFile&) = delete;
     TempFile& operator=(const TempFile&) = delete;
@@ -99,7 +47,7 @@ class TempFile {
   private:
     bool Check(qint64 result, ReasonCode doing) {
         if (result == -1) {
-            reason_ = {doing, By(errno)};
+            reason_ = {doing, SystemReason(errno)};
         }
         return result != -1;
     }
@@ -202,7 +150,7 @@ class TempFile {
         }
     }
 
-    const Target& target_;
+    const WriteTarget& target_;
     FileOperations& operations_;
     QByteArray name_;  // empty while there is no hidden file
     struct stat identity_ {};
@@ -211,18 +159,10 @@ class TempFile {
     Reason reason_;
 };
 
-// The reason why the folder could not be synced. Some file systems cannot sync folders, and files
-// can be created in a folder that cannot be read.
-Reason SyncError(const QByteArray& folder, FileOperations& operations) {
-    const bool failed = operations.SyncFolder(folder) == -1 && errno != EINVAL &&
-                        errno != ENOTSUP && errno != EACCES;
-    return failed ? Reason(ReasonCode::WhileSyncingFolder, By(errno)) : Reason();
-}
-
 }  // namespace
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& operations) {
-    const Target target = FindTarget(path);
+    const WriteTarget target = FindWriteTarget(path);
     if (!target.error.isEmpty()) {
         return {false, target.error};
     }
@@ -247,7 +187,7 @@ FileSeries::~FileSeries() {
 }
 
 WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
-    const Target target = FindTarget(path);
+    const WriteTarget target = FindWriteTarget(path);
     if (!target.error.isEmpty()) {
         return {false, target.error};
     }

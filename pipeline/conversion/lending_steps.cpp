@@ -5,7 +5,7 @@
 
 #include <cerrno>
 
-#include "files/file_operations.h"
+#include "files/noting_operations.h"
 
 namespace varnel {
 
@@ -13,19 +13,10 @@ namespace varnel {
 
 namespace {
 
-class LendingSteps : public FileOperations {
+class LendingSteps : public NotingOperations {
   public:
     LendingSteps(ThreadRunner& cores, UnfinishedFile& unfinished)
-        : cores_(cores), unfinished_(unfinished) {}
-    int Create(const QByteArray& name, unsigned permissions) override {
-        return unfinished_.Begin(name, [&] { return FileOperations::Create(name, permissions); });
-    }
-    int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return unfinished_.End([&] { return FileOperations::Rename(name, newName); });
-    }
-    int Remove(const QByteArray& name) override {
-        return unfinished_.End([&] { return FileOperations::Remove(name); });
-    }
+        : NotingOperations(unfinished), cores_(cores) {}
     int Sync(int file) override {
         return Lent([&] { return FileOperations::Sync(file); });
     }
@@ -48,7 +39,6 @@ class LendingSteps : public FileOperations {
     }
 
     ThreadRunner& cores_;
-    UnfinishedFile& unfinished_;
 };
 
 }  // namespace

@@ -15,6 +15,8 @@
 
 namespace varnel {
 
+class FileOperations;
+
 enum class FilmContainer : std::uint8_t { Mp4, Matroska, QuickTime };
 enum class FilmCodec : std::uint8_t { H264, H265, Av1, Vp9, Ffv1, ProRes };
 
@@ -63,7 +65,10 @@ struct OpenedFilmWriter {
     Reason error;
 };
 
-// Errors are those of the file, and encoders that the installed library does not have.
-OpenedFilmWriter NewFilmWriter(const QString& path, const FilmToWrite& film);
+// Errors are those of the file, encoders that the installed library does not have, and what
+// container, codec and frames do not have in common. Films are written by a module that is loaded
+// when the first one is. The operations, where they are given, outlive the writer.
+OpenedFilmWriter NewFilmWriter(const QString& path, const FilmToWrite& film,
+                               FileOperations* operations = nullptr);
 
 }  // namespace varnel

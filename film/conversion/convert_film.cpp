@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "film/conversion/convert_film.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+#include <vector>
+
+#include "base/error_reason.h"
+#include "film/conversion/film_cut.h"
+#include "film/conversion/writing_thread.h"
+#include "film/keys/film_keys.h"
+#include "film/planes/frame_remap.h"
+#include "remap/projection/projection_info.h"
+
+namespace varnel {
+
+namespace {
+
+constexpr qsizetype mostTold = 1000;  // of a film's damage
+
+// As people read it.
+QString SecondsText(double seconds) {
+    return QString::number(seconds, 'f', 3);
+}
+
+// Empty where it may be finished.
+bool MayBeFinished(const Reason& end) {
+    return end.isEmpty() || end.Is(ReasonCode::FileCutShort);
+}
+
+class Conversion {
+  public:
+    Conversion(FilmReader& reader, const FilmJob& job, const FilmPorts& ports)
+        : reader_(reader), job_(job), ports_(ports), cut_(reader.Info(), job.image.Film) {}
+
+    FilmOutcome Go() {
+        const Reason thrown = Attempt([this] { Convert(); });
+        outcome_.error = thrown.isEmpty() ? outcome_.error : thrown;
+        thread_.reset();
+        writer_.reset();  // an unfinished one removes its file
+        return std::move(outcome_);
+    }
+
+  private:
+    const FilmInfo& Info() const { return reader_.Info(); }
+
+    void Convert() {
+        if (!Fail(reader_.Seek(cut_.From()))) {
+            while (!over_ && outcome_.error.isEmpty()) {
+                Take(reader_.Next());
+                GoOn();
+            }
+        }
+        if (outcome_.error.isEmpty()) {
+            Finish();
+        }
+    }
+
+    bool Fail(const Reason& error) {
+        outcome_.error = error;
+        return !error.isEmpty();
+    }
+
+    void GoOn() {
+        const double end = std::min(cut_.To(), Info().seconds);
+        const double length = std::max(end - cut_.From(), 1e-3);
+        const double part = std::clamp((at_ - cut_.From()) / length, 0.0, 1.0);
+        if (outcome_.error.isEmpty() && ports_.goesOn && !ports_.goesOn(part)) {
+            Fail(ReasonCode::Cancelled);
+        }
+        if (outcome_.error.isEmpty() && thread_) {
+            Fail(thread_->Error());
+        }
+    }
+
+    void Take(FilmItem item) {
+        if (const auto* const frame = std::get_if<std::shared_ptr<const FilmFrame>>(&item)) {
+            TakeFrame(**frame);
+        } else if (auto* const packet = std::get_if<FilmPacket>(&item)) {
+            TakePacket(std::move(*packet));
+        } else if (const auto* const fault = std::get_if<FilmFault>(&item)) {
+            Tell(fault->reason);
+        } else {
+            TakeEnd(std::get<FilmEnd>(item).reason);
+        }
+    }
+
+    void Tell(const Reason& damage) {
+        if (outcome_.damage.size() < mostTold && !outcome_.damage.contains(damage)) {
+            outcome_.damage.append(damage);
+        }
+    }
+
+    void TakeEnd(const Reason& end) {
+        over_ = true;
+        if (MayBeFinished(end)) {
+            Tell(end);
+        } else {
+            Fail(end);
+        }
+    }
+
+    void TakePacket(FilmPacket packet) {
+        if (!cut_.HasBegun()) {
+            waiting_.push_back(std::move(packet));
+        } else if (auto moved = cut_.Moved(std::move(packet))) {
+            thread_->Put(std::move(*moved));
+        }
+    }
+
+    void TakeFrame(const FilmFrame& frame) {
+        at_ = cut_.Seconds(Info().picture, frame.pts);
+        if (cut_.IsBefore(at_)) {
+            return;
+        }
+        if (cut_.IsBehind(at_)) {
+            over_ = cut_.IsOver(at_);
+            return;
+        }
+        if (!cut_.HasBegun() && Fail(Begin(frame.pts))) {
+            return;
+        }
+        const std::int64_t pts = cut_.Moved(frame.pts);
+        if (last_ && pts <= *last_) {
+            Tell({ReasonCode::FrameTooLate, SecondsText(at_)});
+            return;
+        }
+        last_ = pts;
+        Draw(frame, pts);
+    }
+
+    void Draw(const FilmFrame& frame, std::int64_t pts) {
+        if (Moving()) {
+            SetMaps();
+        }
+        FrameBuffer& slot = thread_->Slot();
+        remap_.Draw(frame.view, slot.Target(), ports_.runner);
+        thread_->Put(pts, frame.duration > 0 ? frame.duration : UsualDuration());
+        ++outcome_.frames;
+    }
+
+    bool Moving() const { return job_.image.Film && !job_.image.Film->keys.empty(); }
+
+    void SetMaps() {
+        const ImageRecord image =
+            Moving() ? RecordAt(job_.image, job_.image.Film->keys, at_) : job_.image;
+        remap_.Set(ProjectionFromIndex(image.Projection), image, Info().format, ports_.runner);
+    }
+
+    TimeBase PictureTimes() const {
+        for (const StreamInfo& stream : Info().streams) {
+            if (stream.index == Info().picture) {
+                return stream.timeBase;
+            }
+        }
+        return {1, 1000};
+    }
+
+    // Of a frame whose stream does not say, in its time base.
+    std::int64_t UsualDuration() const {
+        const TimeBase rate = Info().frameRate;
+        const TimeBase base = PictureTimes();
+        const double units = static_cast<double>(base.den) / base.num;
+        return rate.num > 0 ? std::llround(units * rate.den / rate.num) : 0;
+    }
+
+    Reason Begin(std::int64_t pts) {
+        SetMaps();
+        cut_.Begin(pts);
+        const FilmInfo info = cut_.Info();
+        FilmToWrite film{job_.encoding,    remap_.ResultFormat(), PictureTimes(),
+                         Info().frameRate, Info().sampleAspect,   &info};
+        OpenedFilmWriter opened = NewFilmWriter(job_.target, film, ports_.operations);
+        if (!opened.writer) {
+            return opened.error;
+        }
+        writer_ = std::move(opened.writer);
+        outcome_.notes = writer_->Notes();
+        outcome_.size = remap_.ResultFormat().size;
+        thread_.emplace(*writer_, remap_.ResultFormat());
+        for (FilmPacket& packet : std::exchange(waiting_, {})) {
+            TakePacket(std::move(packet));
+        }
+        return {};
+    }
+
+    void Finish() {
+        if (outcome_.frames == 0) {
+            Fail({ReasonCode::NothingBetweenTimes, SecondsText(cut_.From()),
+                  SecondsText(std::min(cut_.To(), std::max(Info().seconds, cut_.From()))),
+                  SecondsText(Info().seconds)});
+            return;
+        }
+        if (!Fail(thread_->Drain())) {
+            thread_.reset();
+            Fail(writer_->Finish());
+        }
+    }
+
+    FilmReader& reader_;
+    const FilmJob& job_;
+    const FilmPorts& ports_;
+    FilmCut cut_;
+    FrameRemap remap_;
+    FilmOutcome outcome_;
+    std::vector<FilmPacket> waiting_;  // before the first frame
+    std::optional<std::int64_t> last_;
+    double at_ = 0.0;  // of the frame at hand
+    bool over_ = false;
+    std::unique_ptr<FilmWriter> writer_;
+    std::optional<WritingThread> thread_;  // last: it ends before what it works with
+};
+
+}  // namespace
+
+FilmOutcome ConvertFilm(FilmReader& reader, const FilmJob& job, const FilmPorts& ports) {
+    return Conversion(reader, job, ports).Go();
+}
+
+}  // namespace varnel

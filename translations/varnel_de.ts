@@ -185,6 +185,14 @@
         <source>after</source>
         <translation>nachher</translation>
     </message>
+    <message>
+        <source>classic</source>
+        <translation>klassisch</translation>
+    </message>
+    <message>
+        <source>fine</source>
+        <translation>fein</translation>
+    </message>
 </context>
 <context>
     <name>FilmKeys</name>
@@ -3853,6 +3861,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Before an&amp;d after, divided</source>
         <translation>Vorher u&amp;nd nachher, geteilt</translation>
+    </message>
+    <message>
+        <source>Classic and fine sampling, divided</source>
+        <translation>Klassisch und fein abgetastet, geteilt</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,14 @@
         <source>after</source>
         <translation>después</translation>
     </message>
+    <message>
+        <source>classic</source>
+        <translation>clásico</translation>
+    </message>
+    <message>
+        <source>fine</source>
+        <translation>fino</translation>
+    </message>
 </context>
 <context>
     <name>FilmKeys</name>
@@ -3853,6 +3861,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Before an&amp;d after, divided</source>
         <translation>Antes y después, di&amp;vididos</translation>
+    </message>
+    <message>
+        <source>Classic and fine sampling, divided</source>
+        <translation>Muestreo clásico y fino, dividido</translation>
     </message>
 </context>
 <context>

@@ -185,6 +185,14 @@
         <source>after</source>
         <translation>après</translation>
     </message>
+    <message>
+        <source>classic</source>
+        <translation>classique</translation>
+    </message>
+    <message>
+        <source>fine</source>
+        <translation>fin</translation>
+    </message>
 </context>
 <context>
     <name>FilmKeys</name>
@@ -3853,6 +3861,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Before an&amp;d after, divided</source>
         <translation>Avant et après &amp;face à face</translation>
+    </message>
+    <message>
+        <source>Classic and fine sampling, divided</source>
+        <translation>Échantillonnages classique et fin face à face</translation>
     </message>
 </context>
 <context>

@@ -100,7 +100,8 @@ void PictureBox::StandIn(const PictureBox* other) {
 
 QRectF PictureBox::DividedPart() const {
     QRectF part = SeenPart();
-    part.setWidth(before_ != nullptr ? std::round(part.width() * divided_) : 0.0);
+    const bool divided = left_.other != nullptr || (left_.full && Zoomed());
+    part.setWidth(divided ? std::round(part.width() * divided_) : 0.0);
     return part;
 }
 

@@ -12,6 +12,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "app/picture/picture_overlay.h"
@@ -25,10 +26,19 @@ namespace varnel {
 inline constexpr QColor pictureSurround(96, 96, 96);
 inline constexpr int pictureMargin = 12;  // logical pixels around and between pictures
 
+class PictureBox;
+
 // What of a picture is drawn at full size.
 struct FullPicture {
     const Bitmap* bitmap = nullptr;
     const RegionRenderer* rows = nullptr;  // those that are drawn; null when all are
+};
+
+// What is shown left of a line: another box's picture or, of this box's zoomed picture, other
+// pixels at full size. Neither: there is no line.
+struct LeftPart {
+    const PictureBox* other = nullptr;
+    std::function<FullPicture()> full = nullptr;
 };
 
 // Shows one bitmap as large as the box allows, or a hint without one.
@@ -62,10 +72,9 @@ class PictureBox : public QWidget {
     // Shows the other box's picture instead, if any.
     void StandIn(const PictureBox* other);
     bool StoodInFor() const { return standIn_ != nullptr; }
-    // The other box's picture left of a line, at that share of what is seen of this one from the
-    // left; null for no line.
-    void Divide(const PictureBox* before, double share) {
-        before_ = before;
+    // The line is at that share of what is seen of the picture, from the left.
+    void Divide(LeftPart left, double share) {
+        left_ = std::move(left);
         divided_ = share;
         update();
     }
@@ -146,7 +155,7 @@ class PictureBox : public QWidget {
     const PictureZoom* standInZoom_ = nullptr;
     std::function<FullPicture()> full_;
     const PictureBox* standIn_ = nullptr;
-    const PictureBox* before_ = nullptr;  // left of the line
+    LeftPart left_;
     double divided_ = 0.5;
     std::optional<QPointF> dragFrom_;  // device pixels, while the picture is dragged
     bool panHeld_ = false;

@@ -4,6 +4,7 @@
 // What a picture box paints.
 
 #include <QPainter>
+#include <QScopedValueRollback>
 
 #include "app/picture/picture_box.h"
 #include "remap/display/paint_part.h"
@@ -51,19 +52,20 @@ void PictureBox::PaintPicture(QPainter& painter, const QRegion& region) const {
     }
 }
 
-// All that is left of the line: the photo may have another shape.
+// All that is left of the line: another picture may have another shape.
 void PictureBox::PaintDivided(QPainter& painter, const QRegion& region) {
     const QRect divided = DividedPart().toAlignedRect();
-    if (divided.isEmpty() || standIn_ != nullptr || before_->image_.isNull()) {
+    const PictureBox* const other = left_.other;
+    if (divided.isEmpty() || standIn_ != nullptr || (other != nullptr && other->image_.isNull())) {
         return;
     }
     const QRect part(0, 0, divided.right() + 1, height());
     painter.save();
     painter.setClipRect(part);
     painter.fillRect(part, pictureSurround);
-    standIn_ = before_;
+    const QScopedValueRollback standIn(standIn_, other);
+    const QScopedValueRollback full(full_, other == nullptr ? left_.full : full_);
     PaintPicture(painter, region & part);
-    standIn_ = nullptr;
     painter.restore();
 }
 

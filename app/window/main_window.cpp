@@ -37,12 +37,12 @@
 #include "app/tools/presets/preset_tools.h"
 #include "app/tools/sample_tools.h"
 #include "app/tools/sheet_tools.h"
-#include "app/tools/steer/divider_tools.h"
 #include "app/tools/steer/picture_menus.h"
 #include "app/tools/steer/steer_tools.h"
 #include "app/tools/steer/walk_tools.h"
 #include "app/tools/undo_tools.h"
 #include "app/tools/view/colour_tools.h"
+#include "app/tools/view/divider_tools.h"
 #include "app/tools/view/picture_size_tools.h"
 #include "app/tools/view/view_tools.h"
 #include "app/tools/view/zoom_tools.h"
@@ -88,10 +88,10 @@ void MDIForm1::MakeTools() {
     sessions_ = new SessionTools(*projects_, workspace_, state_, ports_, this);
     new PresetTools(this, parts_, view_, workspace_, store_, ports_.dialogs, batch_);
     views_ = new ViewTools(this, parts_, store_);
-    new ZoomTools(this, parts_, view_, workspace_, state_);
+    auto* const zoom = new ZoomTools(this, parts_, view_, workspace_, state_);
     new ColourTools(this, parts_, model_, store_, ports_.screenProfile);
     new SteerTools(parts_, view_, workspace_, this);
-    new DividerTools(parts_, this);
+    new DividerTools(parts_, *zoom, this);
     new WalkTools(parts_, view_, model_.activity, this);
     parts_.viewMenu->addSeparator();
     new SheetTools(parts_, view_, workspace_, state_, this);

@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QStatusBar>
 #include <cmath>
+#include <utility>
 
 #include "app/panels/menu_entry.h"
 #include "app/tools/hold_key.h"
@@ -25,10 +26,16 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
       workspace_(workspace),
       state_(state),
       from_(parts.pictures->From()),
-      to_(parts.pictures->To()),
-      feed_(nullptr) {
-    feed_.Serve([this] { return Wish(); }, [this] { return workspace_.model.activity.Busy(); });
-    connect(&feed_, &RegionScheduler::Drawn, to_, &PictureBox::RedrawRows);
+      to_(parts.pictures->To()) {
+    const auto busy = [this] { return workspace_.model.activity.Busy(); };
+    feed_.Serve(
+        [this] { return Wish(compares_ ? SamplingKind::Fine : SamplingOf(state_.settings)); },
+        busy);
+    classic_.Serve(
+        [this] { return compares_ ? Wish(SamplingKind::Classic) : RegionScheduler::Wish(); }, busy);
+    for (const RegionScheduler* const feed : {&feed_, &classic_}) {
+        connect(feed, &RegionScheduler::Drawn, to_, &PictureBox::RedrawRows);
+    }
     FollowZoom();
     for (PictureBox* const box : {from_, to_}) {
         box->AddOverlay(&lines_);
@@ -142,7 +149,7 @@ void ZoomTools::ConnectBox(PictureBox* box) {
 
 void ZoomTools::OnSourceShown() {
     if (Photo() == nullptr) {
-        feed_.Drop();
+        Drop();
         ShowScale();
         return;
     }
@@ -167,13 +174,23 @@ void ZoomTools::SetPicture(PictureZoom& zoom, QSize picture) {
 // An emptied box is also reported before another photo is loaded.
 void ZoomTools::OnResultShown() {
     if (to_->Empty()) {
-        feed_.Drop();
+        Drop();
         return;
     }
     SetPicture(zooms_.result, to_->Picture());
+    Renew();
+}
+
+void ZoomTools::Renew() {
     if (!zooms_.result.Fit()) {
         feed_.Renew();
+        classic_.Renew();
     }
+}
+
+void ZoomTools::Drop() {
+    feed_.Drop();
+    classic_.Drop();
 }
 
 void ZoomTools::OnRoomChanged() {
@@ -192,13 +209,15 @@ void ZoomTools::SetView() {
     zooms_.result.SetView(Main()->View());
 }
 
-RegionScheduler::Wish ZoomTools::Wish() const {
+RegionScheduler::Wish ZoomTools::Wish(SamplingKind sampling) const {
     if (zooms_.result.Fit() || to_->Empty() || to_->isHidden()) {
         return {};
     }
-    const ImageRecord& drawn = view_.Drawn();
-    return {Photo(), ProjectionFromIndex(drawn.Projection),
-            AsSaved(drawn, SamplingOf(state_.settings)), VisibleRows()};
+    ImageRecord drawn = AsSaved(view_.Drawn(), sampling);
+    if (compares_) {
+        drawn.Sampling = sampling;
+    }
+    return {Photo(), ProjectionFromIndex(drawn.Projection), drawn, VisibleRows()};
 }
 
 RowSpan ZoomTools::VisibleRows() const {
@@ -245,9 +264,20 @@ void ZoomTools::ShowZoom() {
     from_->update();
     to_->update();
     if (zooms_.result.Fit()) {
-        feed_.Drop();
+        Drop();
     } else {
         feed_.Wake();
+        classic_.Wake();
+    }
+}
+
+void ZoomTools::CompareSamplings(bool on) {
+    const bool changed = std::exchange(compares_, on) != on;
+    if (on && zooms_.result.Fit()) {
+        ZoomMiddle(1.0);
+    } else if (changed) {
+        classic_.Drop();
+        Renew();
     }
 }
 

@@ -23,6 +23,9 @@ class ZoomTools : public QObject {
   public:
     ZoomTools(QMainWindow* window, const WindowParts& parts, const WindowView& view,
               const Workspace& workspace, const WorkingState& state);
+    // The result by the fine sampling, at 100 % where it was shown whole, and Classic() beside it.
+    void CompareSamplings(bool on);
+    FullPicture Classic() const { return {classic_.Part().Result(), &classic_.Part()}; }
 
   private:
     void AddEntries();
@@ -38,7 +41,9 @@ class ZoomTools : public QObject {
     bool AllShown() const { return zooms_.photo.Fit() && zooms_.result.Fit(); }
 
     const Bitmap* Photo() const { return state_.bitmaps.FullSourceBitmap.get(); }
-    RegionScheduler::Wish Wish() const;
+    RegionScheduler::Wish Wish(SamplingKind sampling) const;
+    void Renew();
+    void Drop();
     RowSpan VisibleRows() const;
     PictureBox* Main() const { return parts_.pictures->Main(); }
     bool Follows(const PictureBox* box) const;
@@ -62,7 +67,9 @@ class ZoomTools : public QObject {
     PictureBox* from_;
     PictureBox* to_;
     ZoomPair zooms_;
-    RegionScheduler feed_;
+    RegionScheduler feed_{nullptr};
+    RegionScheduler classic_{nullptr};  // while samplings are compared
+    bool compares_ = false;
     PictureLines lines_;
     ZoomBar* bar_ = nullptr;
 };

@@ -45,19 +45,72 @@ bool Shows(TestWindow& workspace, const char* name, const Bitmap* picture) {
         20'000);
 }
 
+BitmapHandle FullResult(TestWindow& workspace, SamplingKind sampling) {
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = CloneBitmap(workspace.state.bitmaps.FullSourceBitmap.get());
+    ImageRecord image = workspace.Record(1);
+    image.Sampling = sampling;
+    SilentProgress silent;
+    RenderContext whole{bitmaps};
+    Render(Projection::Rectilinear, image, SizeKind::Large, silent, whole);
+    return std::move(bitmaps.ResultBitmap);
+}
+
+// Pixels of the box away from the line, by the share of its width.
+bool ShowsBetween(TestWindow& workspace, const Bitmap* picture, double left, double right) {
+    const auto part = [left, right](const QImage& image) {
+        return image.copy(
+            QRect(QPoint(static_cast<int>(left * image.width()), image.height() / 2),
+                  QPoint(static_cast<int>(right * image.width()), image.height() - 20)));
+    };
+    return QTest::qWaitFor(
+        [&] {
+            const Seen seen = SeenIn(workspace, "PicSmallTo", picture);
+            return part(seen.box) == part(seen.picture);
+        },
+        20'000);
+}
+
+TEST(Zoom, TheDividerComparesSamplingsAtActualSize) {
+    TestWindow workspace;
+    ShowActualSize(workspace);
+    const BitmapHandle classic = FullResult(workspace, SamplingKind::Classic);
+    const BitmapHandle fine = FullResult(workspace, SamplingKind::Fine);
+    auto* const box = workspace.Find<PictureBox>("PicSmallTo");
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", classic.get()));
+    workspace.Entry("CmdViewFit")->trigger();
+    workspace.Entry("CmdViewDivider")->trigger();
+    workspace.Entry("CmdViewSamplings")->trigger();
+    EXPECT_FALSE(workspace.Entry("CmdViewDivider")->isChecked());
+    EXPECT_EQ(workspace.Label("ZoomText"), QStringLiteral("100 %"));
+    EXPECT_TRUE(ShowsBetween(workspace, classic.get(), 0.05, 0.45));
+    EXPECT_TRUE(ShowsBetween(workspace, fine.get(), 0.55, 0.95));
+    const Seen seen = SeenIn(workspace, "PicSmallTo", fine.get());
+    EXPECT_NE(seen.picture, SeenIn(workspace, "PicSmallTo", classic.get()).picture);
+
+    workspace.Slider("SliderX")->setValue(7);  // both are drawn anew
+    EXPECT_TRUE(
+        ShowsBetween(workspace, FullResult(workspace, SamplingKind::Classic).get(), 0.05, 0.45));
+    EXPECT_TRUE(
+        ShowsBetween(workspace, FullResult(workspace, SamplingKind::Fine).get(), 0.55, 0.95));
+    workspace.Slider("SliderX")->setValue(0);
+
+    workspace.Entry("CmdViewFit")->trigger();  // shown whole, there is nothing to compare
+    EXPECT_TRUE(box->DividedPart().isEmpty());
+    workspace.Entry("CmdViewActual")->trigger();
+    workspace.Entry("CmdViewSamplings")->trigger();
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", classic.get()));
+}
+
 TEST(Zoom, AtActualSizeBothShowTheFullSizePixels) {
     TestWindow workspace;
     ShowActualSize(workspace);
-    Bitmaps bitmaps;
-    bitmaps.FullSourceBitmap = CloneBitmap(workspace.state.bitmaps.FullSourceBitmap.get());
-    SilentProgress silent;
-    RenderContext whole{bitmaps};
-    Render(Projection::Rectilinear, workspace.Record(1), SizeKind::Large, silent, whole);
-    const Bitmap* const photo = bitmaps.FullSourceBitmap.get();
+    const BitmapHandle result = FullResult(workspace, SamplingKind::Classic);
+    const Bitmap* const photo = workspace.state.bitmaps.FullSourceBitmap.get();
     EXPECT_TRUE(Shows(workspace, "PicSmallFrom", photo));
-    EXPECT_TRUE(Shows(workspace, "PicSmallTo", bitmaps.ResultBitmap.get()));
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", result.get()));
     const Seen from = SeenIn(workspace, "PicSmallFrom", photo);
-    const Seen to = SeenIn(workspace, "PicSmallTo", bitmaps.ResultBitmap.get());
+    const Seen to = SeenIn(workspace, "PicSmallTo", result.get());
     EXPECT_NE(to.picture, from.picture);
 
     workspace.Find("OptionRemap_1")->setFocus();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/tools/steer/divider_overlay.h"
+#include "app/tools/view/divider_overlay.h"
 
 #include "app/picture/overlay_geometry.h"
 
@@ -23,25 +23,32 @@ struct Texts {
 
 }  // namespace
 
-void DividerOverlay::Show(bool on) {
-    shown_ = on;
-    box_.Divide(on ? &before_ : nullptr, share_);
+void DividerOverlay::Show(Division division) {
+    division_ = division;
+    MoveTo(share_);
 }
 
 void DividerOverlay::MoveTo(double share) {
     share_ = std::clamp(share, edge, 1.0 - edge);
-    box_.Divide(&before_, share_);
+    LeftPart left;
+    if (division_ == Division::Photo) {
+        left.other = &before_;
+    } else if (division_ == Division::Sampling) {
+        left.full = classic_;
+    }
+    box_.Divide(std::move(left), share_);
 }
 
 void DividerOverlay::Paint(QPainter& painter, const QTransform& /*toWidget*/, QSize /*picture*/) {
-    const QRectF before = box_.DividedPart();
-    if (!shown_ || before.isEmpty() || box_.StoodInFor()) {
+    if (!IsShown()) {
         return;
     }
+    const QRectF before = box_.DividedPart();
     const QPointF top = before.topRight();
+    const bool samplings = division_ == Division::Sampling;
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintLabel(painter, top, Texts::tr("before"), true);
-    PaintLabel(painter, top, Texts::tr("after"));
+    PaintLabel(painter, top, samplings ? Texts::tr("classic") : Texts::tr("before"), true);
+    PaintLabel(painter, top, samplings ? Texts::tr("fine") : Texts::tr("after"));
     for (const QPen& pen : {QPen(QColor(0, 0, 0, 160), 3.5), QPen(Qt::white, 1.6)}) {
         painter.setPen(pen);
         painter.drawLine(top, before.bottomRight());
@@ -55,7 +62,7 @@ void DividerOverlay::Paint(QPainter& painter, const QTransform& /*toWidget*/, QS
 }
 
 bool DividerOverlay::IsAt(const OverlayInput& input) const {
-    if (!shown_ || box_.StoodInFor()) {
+    if (!IsShown()) {
         return false;
     }
     const double x = box_.ToWidget().map(input.point).x();
@@ -74,7 +81,7 @@ void DividerOverlay::Move(const OverlayInput& input) {
 }
 
 bool DividerOverlay::Key(const OverlayKey& key) {
-    if (!shown_ || key.modifiers != Qt::ControlModifier || key.arrow.x() == 0) {
+    if (!IsShown() || key.modifiers != Qt::ControlModifier || key.arrow.x() == 0) {
         return false;
     }
     MoveTo(share_ + key.arrow.x() * keyStep);

@@ -1,18 +1,22 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The line between before and after on the converted picture: the photo left of it, to be moved by
-// the mouse or with Ctrl and the arrow keys. Throws nothing.
+// The line on the converted picture, to be moved by the mouse or with Ctrl and the arrow keys: left
+// of it the photo, or the picture by the classic sampling beside the fine one. Throws nothing.
 #pragma once
 
 #include "app/picture/picture_box.h"
 
 namespace varnel {
 
+enum class Division { None, Photo, Sampling };
+
 class DividerOverlay : public PictureOverlay {
   public:
-    DividerOverlay(PictureBox& box, const PictureBox& before) : box_(box), before_(before) {}
-    void Show(bool on);
+    // classic gives the picture by that sampling at full size.
+    DividerOverlay(PictureBox& box, const PictureBox& before, std::function<FullPicture()> classic)
+        : box_(box), before_(before), classic_(std::move(classic)) {}
+    void Show(Division division);
 
     void Paint(QPainter& painter, const QTransform& toWidget, QSize picture) override;
     bool Press(const OverlayInput& input) override;
@@ -22,12 +26,15 @@ class DividerOverlay : public PictureOverlay {
     std::optional<QCursor> CursorAt(const OverlayInput& input) const override;
 
   private:
+    // Samplings are compared where the picture is zoomed.
+    bool IsShown() const { return !box_.DividedPart().isEmpty() && !box_.StoodInFor(); }
     bool IsAt(const OverlayInput& input) const;
     void MoveTo(double share);
 
     PictureBox& box_;
     const PictureBox& before_;
-    bool shown_ = false;
+    std::function<FullPicture()> classic_;
+    Division division_ = Division::None;
     double share_ = 0.5;  // of what is seen of the picture, from the left
 };
 

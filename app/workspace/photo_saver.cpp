@@ -91,8 +91,8 @@ SaveChoice PhotoSaver::Proposal(const ImageRecord& image) const {
                             shown, {pattern.isEmpty() ? QString(savePattern) : pattern}, facts);
                     }};
     const QString folder = image.Folder + u'/';
-    return {folder + offer.nameBy(settings.NamePattern),
-            FilterIndexOf(OutputTypeFromText(settings.FileType)), std::move(offer)};
+    return {folder + offer.nameBy(settings.NamePattern), FilterIndexOf(OutputTypeFromText(settings.FileType)),
+            std::move(offer)};
 }
 
 void PhotoSaver::SaveAs(FileChooser& chooser) {
@@ -111,6 +111,7 @@ void PhotoSaver::SaveAs(FileChooser& chooser) {
     }
     if (choice->output) {
         TakeWish(choice->output->wish, model_.state.settings);
+        Q_EMIT model_.SavingChanged();
     }
     CancelFlag cancelled = false;
     const SaveResult saved =

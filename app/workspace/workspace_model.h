@@ -36,6 +36,8 @@ class WorkspaceModel : public QObject {
     void CurrentShown();
     // In a file of that name.
     void PictureSaved(const QString& path);
+    // How results are saved may be another way now.
+    void SavingChanged();
     // By the user, without settings of their own.
     void PhotosAdded(const QStringList& paths);
 };

@@ -57,6 +57,7 @@ void PictureSizeTools::OnRoomChanged() {
 void PictureSizeTools::ChangeDefaults() {
     dialogs_.ChangeDefaults(window_);
     view_.ShowOffer();
+    Q_EMIT workspace_.model.SavingChanged();
     Redraw();
 }
 

@@ -44,6 +44,7 @@ ZoomTools::ZoomTools(QMainWindow* window, const WindowParts& parts, const Window
     connect(from_, &PictureBox::Shown, this, &ZoomTools::OnSourceShown);
     connect(to_, &PictureBox::Shown, this, &ZoomTools::OnResultShown);
     connect(parts.pictures, &PictureArea::RoomChanged, this, &ZoomTools::OnRoomChanged);
+    connect(&workspace.model, &WorkspaceModel::SavingChanged, this, &ZoomTools::Renew);
     AddEntries();
     AddChoices();
     AddKeys();

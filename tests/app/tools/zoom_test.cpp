@@ -102,6 +102,25 @@ TEST(Zoom, TheDividerComparesSamplingsAtActualSize) {
     EXPECT_TRUE(Shows(workspace, "PicSmallTo", classic.get()));
 }
 
+// Also without automatic preview.
+TEST(Zoom, ASamplingThatIsChosenForSavingShowsAtOnce) {
+    TestWindow workspace;
+    ShowActualSize(workspace);
+    const BitmapHandle classic = FullResult(workspace, SamplingKind::Classic);
+    const BitmapHandle fine = FullResult(workspace, SamplingKind::Fine);
+    workspace.Click("CheckAutoPreview");
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", classic.get()));
+    workspace.dialogs.onDefaults = [&workspace] { workspace.state.settings.FineSampling = true; };
+    workspace.Entry("CmdSetupSetup")->trigger();
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", fine.get()));
+
+    SaveChoice choice{workspace.files.Path(QStringLiteral("out.bmp")), 1, SaveOffer()};
+    choice.output->wish.sampling = SamplingKind::Classic;
+    workspace.chooser.answer = choice;
+    workspace.Entry("CmdFileSaveImage")->trigger();
+    EXPECT_TRUE(Shows(workspace, "PicSmallTo", classic.get()));
+}
+
 TEST(Zoom, AtActualSizeBothShowTheFullSizePixels) {
     TestWindow workspace;
     ShowActualSize(workspace);

@@ -40,23 +40,23 @@ void SaveDialog::Add(OutputPanel& panel, const SaveOffer& offer) {
     resize(std::max(width(), 720), height() + panel.sizeHint().height());
 }
 
-// Another pattern makes another name in place of the one that was typed.
+// What makes another name puts it in place of the one that was typed.
 void SaveDialog::FollowPattern(OutputPanel& panel, const SaveOffer& offer) {
     const auto show = [&panel, offer] {
         const SaveWish wish = panel.Wish();
         const OutputType type = wish.encoding.type;
-        panel.ShowExample(WithExtension(offer.nameBy(wish.pattern), type));
+        panel.ShowExample(WithExtension(offer.nameBy(wish), type));
         panel.ShowSize(QStringLiteral("%1, %2").arg(
             UsualSizeText(UsualBytes(offer.pixels, wish.encoding, offer.samples)),
             DepthText(wish.encoding, offer.samples)));
     };
     connect(&panel, &OutputPanel::WishChanged, this,
-            [this, &panel, offer, show, last = offer.wish.pattern]() mutable {
+            [this, &panel, offer, show, last = offer.nameBy(offer.wish)]() mutable {
                 show();
-                const QString pattern = panel.Wish().pattern;
+                const QString name = offer.nameBy(panel.Wish());
                 auto* const edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-                if (edit != nullptr && std::exchange(last, pattern) != pattern) {
-                    edit->setText(offer.nameBy(pattern));
+                if (edit != nullptr && std::exchange(last, name) != name) {
+                    edit->setText(name);
                 }
             });
     show();

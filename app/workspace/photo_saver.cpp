@@ -86,12 +86,13 @@ SaveChoice PhotoSaver::Proposal(const ImageRecord& image) const {
                     savePattern,
                     QFileInfo(SourcePath(image)).path(),
                     SampleKindOf(model_.state.bitmaps.FullSourceBitmap->Format()),
-                    [shown, facts](const QString& pattern) {
-                        return NameByPattern(
-                            shown, {pattern.isEmpty() ? QString(savePattern) : pattern}, facts);
+                    [shown, facts](const SaveWish& wish) {
+                        const QString pattern =
+                            wish.pattern.isEmpty() ? QString(savePattern) : wish.pattern;
+                        return NameByPattern(AsSaved(shown, wish.sampling), {pattern}, facts);
                     }};
     const QString folder = image.Folder + u'/';
-    return {folder + offer.nameBy(settings.NamePattern), FilterIndexOf(OutputTypeFromText(settings.FileType)),
+    return {folder + offer.nameBy(offer.wish), FilterIndexOf(OutputTypeFromText(settings.FileType)),
             std::move(offer)};
 }
 

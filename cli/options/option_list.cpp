@@ -113,7 +113,8 @@ constexpr std::array outputRows{
     OptionRow{u"output-dir", u"DIR",
               u"The folder to write to, under names that tell the settings."},
     OptionRow{u"name", u"PATTERN",
-              u"Names of the results of {name} {ending} {projection} {tags} {suffix} {n} {date}."},
+              u"Names of the results of {name} {ending} {projection} {tags} {suffix} {sampling} "
+              u"{n} {date}."},
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
     OptionRow{

@@ -185,7 +185,7 @@ QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices) {
 }
 
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices, const NameFacts& facts) {
-    return PathByPattern(entry, BatchFolder(entry, choices),
+    return PathByPattern(AsSaved(entry, choices.sampling), BatchFolder(entry, choices),
                          {PatternOf(choices), choices.additions, PhotoEnding::Cut}, choices.type,
                          facts);
 }

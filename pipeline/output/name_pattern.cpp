@@ -10,6 +10,7 @@
 #include <array>
 
 #include "remap/projection/projection_info.h"
+#include "state/adjustments/sampling_text.h"
 
 namespace varnel {
 
@@ -48,6 +49,10 @@ QString Tags(const Naming& naming) {
     return SettingsTags(naming.image);
 }
 
+QString Sampling(const Naming& naming) {
+    return ToText(naming.image.Sampling);
+}
+
 QString Suffix(const Naming& naming) {
     const QString& suffix = naming.image.NameSuffix;
     return suffix.isEmpty() ? suffix : u'_' + suffix;
@@ -75,6 +80,7 @@ constexpr std::array tokens{
     Token{QLatin1StringView("{projection}"), &Addition},
     Token{QLatin1StringView("{tags}"), &Tags},
     Token{QLatin1StringView("{suffix}"), &Suffix},
+    Token{QLatin1StringView("{sampling}"), &Sampling},
     Token{QLatin1StringView("{n}"), &Number},
     Token{QLatin1StringView("{date}"), &Day},
 };

@@ -53,8 +53,8 @@ struct SaveOffer {
     QString pattern;      // that an empty one stands for
     QString photoFolder;
     SampleKind samples = SampleKind::Byte;  // of the photo
-    // The proposed name by a pattern, without folder and extension.
-    std::function<QString(const QString& pattern)> nameBy;
+    // The proposed name by a wish's pattern and sampling, without folder and extension.
+    std::function<QString(const SaveWish& wish)> nameBy;
 };
 
 }  // namespace varnel

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -77,8 +78,9 @@ TEST(SaveDialog, ThePanelMakesNameExampleAndSize) {
     offer.samples = SampleKind::Word;  // more than JPEG holds
     offer.pattern = Text("{name}");
     offer.photoFolder = folder.Path(Text("sub"));
-    offer.nameBy = [](const QString& pattern) {
-        return pattern.isEmpty() ? Text("usual") : pattern + Text("!");
+    offer.nameBy = [](const SaveWish& wish) {
+        const bool fine = wish.sampling == SamplingKind::Fine;
+        return wish.pattern.isEmpty() ? Text("usual") : wish.pattern + Text(fine ? "?" : "!");
     };
     const Answers answers({[&](QDialog* dialog) {
         const auto label = [dialog](const char* name) {
@@ -94,6 +96,10 @@ TEST(SaveDialog, ThePanelMakesNameExampleAndSize) {
         EXPECT_EQ(edit->text(), Text("by hand"));
         pattern->setText(Text("{n}"));
         EXPECT_EQ(edit->text(), Text("{n}!"));
+        auto* const fine = dialog->findChild<QCheckBox*>(Text("FineSamplingCheck"));
+        fine->click();
+        EXPECT_EQ(edit->text(), Text("{n}?"));
+        fine->click();
         EXPECT_EQ(label("LabelExample"), Text("{n}!.JPG"));
         QTest::keyClick(edit, Qt::Key_Return);
     }});

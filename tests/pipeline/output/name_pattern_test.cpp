@@ -33,6 +33,7 @@ TEST(NamePattern, TokensStandForWhatTheyName) {
         {"{n}{n}", "007007"},
         {"x {date}}", "x 2014-05-03}"},
         {"{tags}", "_hAOV095_LR-5"},
+        {"{name}-{sampling}", "a.b-classic"},
     };
     for (const auto& [pattern, name] : rows) {
         EXPECT_TRUE(PatternError(Text(pattern)).isEmpty()) << pattern;
@@ -40,6 +41,9 @@ TEST(NamePattern, TokensStandForWhatTheyName) {
     }
     EXPECT_EQ(NameByPattern(Frame(), {Text("{name}_{n}"), {}, PhotoEnding::Kept}, {1, 9}),
               Text("a.b.tiff_1"));
+    ImageRecord fine = Frame();
+    fine.Sampling = SamplingKind::Fine;
+    EXPECT_EQ(NameByPattern(fine, {Text("{n} {sampling}{tags}")}, {}), Text("1 fine_hAOV095_LR-5"));
     NameRules wide{Text("{projection}")};
     wide.additions.texts[Projection::Rectilinear] = Text("wide");
     EXPECT_EQ(NameByPattern(Frame(), wide, {}), Text("wide"));

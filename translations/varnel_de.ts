@@ -5252,8 +5252,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>Keine Farbe: %1. Eine wie #ff8000 ist eine.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4, %5</source>
-        <translation>%1 x %2 Pixel, %3 als %4, %5</translation>
+        <source>%1 x %2, %3 as %4, %5</source>
+        <translation>%1 x %2, %3 als %4, %5</translation>
     </message>
 </context>
 <context>

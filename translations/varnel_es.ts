@@ -5252,8 +5252,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>No es un color: %1. Uno como #ff8000 lo es.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4, %5</source>
-        <translation>%1 x %2 píxeles, %3 como %4, %5</translation>
+        <source>%1 x %2, %3 as %4, %5</source>
+        <translation>%1 x %2, %3 como %4, %5</translation>
     </message>
 </context>
 <context>

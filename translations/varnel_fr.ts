@@ -5252,8 +5252,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>Pas une couleur : %1. #ff8000 par exemple en est une.</translation>
     </message>
     <message>
-        <source>%1 x %2 pixels, %3 as %4, %5</source>
-        <translation>%1 x %2 pixels, %3 en %4, %5</translation>
+        <source>%1 x %2, %3 as %4, %5</source>
+        <translation>%1 x %2, %3 en %4, %5</translation>
     </message>
 </context>
 <context>

@@ -198,7 +198,6 @@ SavePanel::SavePanel(QWidget* parent) : TitleCornerBox(QString(), parent) {
     grid->setSpacing(rowGap);
     size_ = new ElidedLabel(this);
     size_->setObjectName(QStringLiteral("LabelSaveSize"));
-    size_->setToolTip(tr("What the saved picture usually takes in the file type of the defaults"));
     grid->addWidget(saveAs_, 0, 0, 1, 2);
     grid->addWidget(addToQueue_, 1, 0);
     grid->addWidget(processQueue_, 1, 1);
@@ -217,6 +216,9 @@ void SavePanel::ShowQueue(int length) {
 
 void SavePanel::ShowSize(const QString& size) {
     size_->setText(size);
+    // Long words may not fit.
+    const QString tip = tr("What the saved picture usually takes in the file type of the defaults");
+    size_->setToolTip(size.isEmpty() ? tip : size + u'\n' + tip);
     Place();
 }
 

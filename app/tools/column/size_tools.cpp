@@ -62,7 +62,7 @@ QString SizeTools::NumbersOf(const ImageRecord& image) const {
     const double pixels = static_cast<double>(size.width) * size.height;
     const Bitmap* const photo = workspace_.model.state.bitmaps.FullSourceBitmap.get();
     const SampleKind samples = photo != nullptr ? SampleKindOf(photo->Format()) : SampleKind::Byte;
-    return tr("%1 x %2 pixels, %3 as %4, %5")
+    return tr("%1 x %2, %3 as %4, %5")
         .arg(size.width)
         .arg(size.height)
         .arg(UsualSizeText(UsualBytes(pixels, encoding, samples)), ToText(encoding.type),

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "decoder/request/picture_limits.h"
+#include "pipeline/photos/photo_loader.h"
 #include "remap/image/preview_size.h"
 
 namespace varnel {
@@ -43,7 +44,8 @@ PhotoShelf::~PhotoShelf() {
 
 PhotoShelf::Stamp PhotoShelf::StampOf(const QString& path) const {
     const QFileInfo file(path);
-    return {path, file.lastModified(), file.size(), settings_.AutoOrient};
+    const ReadChoices choices = ReadChoicesOf(settings_);
+    return {path, file.lastModified(), file.size(), choices.upright, choices.depth};
 }
 
 bool PhotoShelf::Has(const QString& path) const {
@@ -157,7 +159,7 @@ void PhotoShelf::BeginNext() {
             return;  // reading would keep everybody waiting
         }
         underWay_ = StampOf(path);
-        reader_->Begin({path, ReadKind::Whole, {}, underWay_->upright});
+        reader_->Begin({path, ReadKind::Whole, {}, underWay_->upright, underWay_->depth});
         timer_.start(betweenLooks);
         return;
     }

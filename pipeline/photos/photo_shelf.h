@@ -53,6 +53,7 @@ class PhotoShelf : public QObject {
         QDateTime changed;
         qint64 bytes = 0;
         bool upright = true;
+        ReadDepth depth = ReadDepth::Eight;
 
         bool operator==(const Stamp& other) const = default;
     };

@@ -8,7 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <utility>
 
+#include "remap/encode/save_bitmap.h"
 #include "tests/support/files.h"
 #include "tests/support/loading.h"
 #include "tests/support/texts.h"
@@ -58,6 +60,25 @@ TEST_F(PhotoShelfTest, AChangedFileOrSettingIsReadAnew) {
     EXPECT_TRUE(shelf.Has(path));
     Photo("a.bmp", {31, 20});
     EXPECT_FALSE(shelf.Take(path));
+}
+
+TEST_F(PhotoShelfTest, PhotosComeInTheDepthThatTheSettingsWant) {
+    const QString path = files.Path(Text("deep.tif"));
+    OutputEncoding encoding(OutputType::Tiff);
+    encoding.depth = OutputDepth::Own;
+    ASSERT_TRUE(SaveBitmap(encoding, NewBitmap({30, 20}, PixelFormat::Bgr16).get(), path));
+    for (const auto& [keeps, format] :
+         {std::pair{false, PixelFormat::Bgr8}, {true, PixelFormat::Bgr16}}) {
+        settings.KeepDepth = keeps;
+        shelf.ReadAhead({path});
+        ASSERT_TRUE(ReadsAhead(path));
+        settings.KeepDepth = !keeps;
+        EXPECT_FALSE(shelf.Has(path));
+        settings.KeepDepth = keeps;
+        const std::optional<ShelvedPhoto> taken = shelf.Take(path);
+        ASSERT_TRUE(taken && taken->picture.bitmap);
+        EXPECT_EQ(taken->picture.bitmap->Format(), format);
+    }
 }
 
 TEST_F(PhotoShelfTest, HoldsFourAndThoseThatWerePutLast) {

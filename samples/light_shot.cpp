@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "remap/image/levels/srgb_curve.h"
 #include "samples/texture.h"
 
 namespace varnel {
@@ -102,8 +103,7 @@ LightPicture TakeLight(const LightScene& scene, PixelSize size, const RayAt& ray
 }
 
 double LevelOf(double light) {
-    return 255.0 *
-           (light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055);
+    return 255.0 * SrgbCoded(light);
 }
 
 BitmapHandle Developed(const LightPicture& picture) {

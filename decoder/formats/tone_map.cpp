@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <vector>
 
+#include "remap/image/levels/srgb_curve.h"
+
 namespace varnel {
 
 namespace {
@@ -113,15 +115,13 @@ class Exposure {
     float white_;
 };
 
-// The sRGB curve (IEC 61966-2-1), tabled; linear light from 0 to 1 in, 0 to 255 out.
+// The curve of sRGB, tabled; linear light from 0 to 1 in, 0 to 255 out.
 class ScreenCurve {
   public:
     ScreenCurve() {
         for (std::size_t i = 0; i < table_.size(); ++i) {
             const double light = double(i) / double(table_.size() - 1);
-            const double value =
-                light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
-            table_[i] = static_cast<std::uint8_t>(value * 255 + 0.5);
+            table_[i] = static_cast<std::uint8_t>(SrgbCoded(light) * 255 + 0.5);
         }
     }
     std::uint8_t operator()(float light) const {

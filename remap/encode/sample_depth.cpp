@@ -4,25 +4,18 @@
 #include "remap/encode/sample_depth.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <vector>
 
+#include "remap/image/levels/srgb_curve.h"
 #include "remap/image/pixel_access.h"
+#include "remap/image/transfer_curve.h"
 
 namespace varnel {
 
 namespace {
 
 constexpr int rowsPerBlock = 32;
-
-// IEC 61966-2-1, both from 0 to 1.
-float Linear(float coded) {
-    return coded <= 0.04045F ? coded / 12.92F : std::pow((coded + 0.055F) / 1.055F, 2.4F);
-}
-float Coded(float linear) {
-    return linear <= 0.0031308F ? linear * 12.92F : 1.055F * std::pow(linear, 1.0F / 2.4F) - 0.055F;
-}
 
 // No number becomes 0.
 float WithinRange(float sample) {
@@ -47,7 +40,7 @@ class Conversion {
             table_.resize(std::size_t{1} << BitsPerSample(from));
             const auto top = static_cast<float>(table_.size() - 1);
             for (std::size_t n = 0; n < table_.size(); ++n) {
-                table_[n] = Linear(static_cast<float>(n) / top);
+                table_[n] = SrgbLight(static_cast<float>(n) / top);
             }
         }
     }
@@ -59,7 +52,7 @@ class Conversion {
             return sample;
         } else if constexpr (std::is_same_v<From, float>) {
             const float within = WithinRange(sample);
-            return Rounded<To>(linear_ && !isAlpha ? Coded(within) : within);
+            return Rounded<To>(linear_ && !isAlpha ? SrgbCoded(within) : within);
         } else if constexpr (std::is_same_v<To, float>) {
             return linear_ && !isAlpha ? table_[sample]
                                        : static_cast<float>(sample) / largest<From>;
@@ -96,7 +89,8 @@ BitmapHandle InSamples(const Bitmap& bitmap, SampleKind samples, BlockRunner& ru
     const SampleKind own = SampleKindOf(bitmap.Format());
     BitmapHandle copy = NewBitmap(size, PixelFormatOf(samples, HasAlpha(bitmap.Format())));
     copy->metadata = bitmap.metadata;
-    const Conversion conversion(own, samples, bitmap.metadata.colourProfile.isEmpty());
+    const Conversion conversion(own, samples,
+                                AreLight(SampleKind::Float, bitmap.metadata.colourProfile));
     runner.Run((size.height + rowsPerBlock - 1) / rowsPerBlock, [&](int block) {
         const int first = block * rowsPerBlock;
         for (int y = first; y < std::min(first + rowsPerBlock, size.height); ++y) {

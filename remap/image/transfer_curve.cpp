@@ -10,6 +10,8 @@
 #include <memory>
 #include <utility>
 
+#include "remap/image/levels/srgb_curve.h"
+
 namespace varnel {
 
 namespace {
@@ -20,10 +22,6 @@ struct CloseProfile {
     void operator()(void* profile) const { cmsCloseProfile(profile); }
 };
 using Profile = std::unique_ptr<void, CloseProfile>;
-
-double SrgbLight(double sample) {
-    return sample <= 0.04045 ? sample / 12.92 : std::pow((sample + 0.055) / 1.055, 2.4);
-}
 
 // The curve of a profile's green; none in profiles that are made of tables of colours. The profile
 // keeps it.
@@ -70,7 +68,7 @@ double PlaceOf(const std::vector<double>& table, double value) {
 TransferCurve::TransferCurve(const Curve& lightOf) {
     std::vector<double> light = Rising(lightOf);
     if (light.empty()) {
-        light = Rising(SrgbLight);
+        light = Rising(SrgbLight<double>);
     }
     linear_.assign(light.begin(), light.end());
     for (int n = 0; n <= rootSteps; ++n) {
@@ -83,7 +81,7 @@ TransferCurve::TransferCurve(const Curve& lightOf) {
 }
 
 TransferCurve::Handle TransferCurve::Srgb() {
-    static const Handle curve = std::make_shared<const TransferCurve>(SrgbLight);
+    static const Handle curve = std::make_shared<const TransferCurve>(SrgbLight<double>);
     return curve;
 }
 
@@ -91,10 +89,14 @@ TransferCurve::Handle TransferCurve::Straight() {
     return Handle(new TransferCurve());
 }
 
+bool AreLight(SampleKind samples, const QByteArray& colourProfile) {
+    return samples == SampleKind::Float && colourProfile.isEmpty();
+}
+
 TransferCurve::Handle TransferCurve::Of(const Bitmap& bitmap) {
     const QByteArray& icc = bitmap.metadata.colourProfile;
     if (icc.isEmpty()) {
-        return SampleKindOf(bitmap.Format()) == SampleKind::Float ? Straight() : Srgb();
+        return AreLight(SampleKindOf(bitmap.Format()), icc) ? Straight() : Srgb();
     }
     const Profile profile(
         cmsOpenProfileFromMem(icc.constData(), static_cast<cmsUInt32Number>(icc.size())));

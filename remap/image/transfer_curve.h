@@ -14,6 +14,9 @@
 
 namespace varnel {
 
+// Whether samples of a picture with that colour profile, empty for none, are light one for one.
+bool AreLight(SampleKind samples, const QByteArray& colourProfile);
+
 class TransferCurve {
   public:
     using Handle = std::shared_ptr<const TransferCurve>;

@@ -7,17 +7,11 @@
 #include <array>
 #include <cmath>
 
+#include "remap/image/levels/srgb_curve.h"
+
 namespace varnel {
 
 namespace {
-
-double Coded(double light) {
-    return light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1.0 / 2.4) - 0.055;
-}
-
-double Light(double coded) {
-    return coded <= 0.04045 ? coded / 12.92 : std::pow((coded + 0.055) / 1.055, 2.4);
-}
 
 // Where the curve is steepest a byte is twenty entries.
 class CodedBytes {
@@ -25,7 +19,7 @@ class CodedBytes {
     CodedBytes() {
         for (std::size_t n = 0; n < bytes_.size(); ++n) {
             const double light = static_cast<double>(n) / static_cast<double>(bytes_.size() - 1);
-            bytes_[n] = varnel::ByteOf(static_cast<float>(Coded(light)));
+            bytes_[n] = varnel::ByteOf(static_cast<float>(SrgbCoded(light)));
         }
     }
     std::uint8_t Of(float light) const {
@@ -70,8 +64,8 @@ PixelLevels ByteCoding::LevelsOf(const PixelColor& colour) const {
     if (!linear_) {
         return varnel::LevelsOf(colour, format_);
     }
-    return {Light(colour.blue / 255.0), Light(colour.green / 255.0), Light(colour.red / 255.0),
-            1.0};
+    return {SrgbLight(colour.blue / 255.0), SrgbLight(colour.green / 255.0),
+            SrgbLight(colour.red / 255.0), 1.0};
 }
 
 }  // namespace varnel

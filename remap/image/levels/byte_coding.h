@@ -7,6 +7,7 @@
 #pragma once
 
 #include "remap/image/levels/pixel_levels.h"
+#include "remap/image/transfer_curve.h"
 
 namespace varnel {
 
@@ -16,7 +17,7 @@ class ByteCoding {
     explicit ByteCoding(const Bitmap& bitmap)
         : format_(bitmap.Format()),
           samples_(SampleKindOf(bitmap.Format())),
-          linear_(samples_ == SampleKind::Float && bitmap.metadata.colourProfile.isEmpty()) {}
+          linear_(AreLight(samples_, bitmap.metadata.colourProfile)) {}
 
     // The pixel that begins there; of transparent ones, too.
     PixelColor ColourAt(const std::uint8_t* pixel) const {

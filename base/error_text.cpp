@@ -105,6 +105,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no settings or colour profile")},
     {ReasonCode::TypeHoldsPixelsOnly,
      QT_TRANSLATE_NOOP("Reasons", "%1 files hold no metadata, settings or colour profile")},
+    {ReasonCode::TypeHoldsNoIptc,
+     QT_TRANSLATE_NOOP("Reasons", "written without its IPTC: JPEG XL files hold none")},
     {ReasonCode::TypeHoldsNoTransparency,
      QT_TRANSLATE_NOOP("Reasons", "%1 files cannot be transparent; what would be is black")},
     {ReasonCode::TypeHoldsFewerBits,

@@ -68,6 +68,7 @@ enum class ReasonCode : std::uint16_t {
     TypeHoldsNoMetadataOrProfile,
     TypeHoldsNoSettingsOrProfile,
     TypeHoldsPixelsOnly,
+    TypeHoldsNoIptc,
     TypeHoldsNoTransparency,
     TypeHoldsFewerBits,
     CentreReduced,

@@ -117,10 +117,12 @@ constexpr std::array outputRows{
               u"{n} {date}."},
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
-    OptionRow{
-        u"type", u"TYPE",
-        u"tiff, jpeg, bmp, png or exr; default: by the ending of --output, else the setting."},
-    OptionRow{u"quality", u"Q", u"JPEG quality, 1 to 100; default: the setting."},
+    OptionRow{u"type", u"TYPE",
+              u"tiff, jpeg, bmp, png, exr, hdr or jxl; default: by the ending of --output, else "
+              u"the setting."},
+    OptionRow{u"quality", u"Q",
+              u"Quality of JPEG and JPEG XL, 1 to 100, JPEG XL's 100 without loss; default: the "
+              u"setting."},
     OptionRow{u"chroma", u"C",
               u"444: JPEG with colour at full resolution, 420: at half of it; default: the "
               u"setting."},

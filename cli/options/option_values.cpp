@@ -153,6 +153,20 @@ PixelSize PreviewBoxOf(const QString& text) {
     return size;
 }
 
+namespace {
+
+// "a, b or c": the text of each type that is written.
+QString OneOfAll(QString (*textOf)(OutputType)) {
+    QStringList texts;
+    for (const OutputType type : AllOutputTypes()) {
+        texts.append(textOf(type).toLower());
+    }
+    const QString last = texts.takeLast();
+    return texts.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+}
+
+}  // namespace
+
 OutputType TypeOf(const QString& text) {
     if (const auto type = OutputTypeByName(text)) {
         return *type;
@@ -161,13 +175,11 @@ OutputType TypeOf(const QString& text) {
         throw UsageError{
             QStringLiteral("unknown type \"%1\"; use %2").arg(text, ToText(*type).toLower())};
     }
-    QStringList types;
-    for (const OutputType type : AllOutputTypes()) {
-        types.append(ToText(type).toLower());
-    }
-    const QString last = types.takeLast();
-    throw UsageError{QStringLiteral("unknown type \"%1\"; use %2 or %3")
-                         .arg(text, types.join(QStringLiteral(", ")), last)};
+    throw UsageError{QStringLiteral("unknown type \"%1\"; use %2").arg(text, OneOfAll(&ToText))};
+}
+
+QString WrittenEndings() {
+    return OneOfAll(&ExtensionOf);
 }
 
 int WholeBetween(const QString& option, const QString& text, int least, int most) {

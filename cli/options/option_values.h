@@ -29,6 +29,8 @@ double FocalLengthOf(const QString& text);
 QString PatternOf(const QString& text);
 PixelSize PreviewBoxOf(const QString& text);
 OutputType TypeOf(const QString& text);
+// ".tif, .jpg ... or .hdr": the endings of the types that are written.
+QString WrittenEndings();
 // Numbers have a decimal point whatever the locale.
 float NumberOf(const QString& option, const QString& text);
 int WholeBetween(const QString& option, const QString& text, int least, int most);

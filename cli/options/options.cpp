@@ -339,8 +339,8 @@ void CheckTogether(const Options& options) {
     if (!options.type && IsOtherPictureName(options.output)) {
         throw UsageError{
             QStringLiteral("--output %1: no pictures of this type are written; end the "
-                           "name in .tif, .jpg, .bmp, .png or .exr, or give --type")
-                .arg(options.output)};
+                           "name in %2, or give --type")
+                .arg(options.output, WrittenEndings())};
     }
     if (options.skipExisting && options.force) {
         throw UsageError{

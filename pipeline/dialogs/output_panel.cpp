@@ -111,7 +111,7 @@ void OutputPanel::ShowState() {
     ui_->SliderJPEGcompression->setEnabled(takesQuality);
     ui_->SpinSliderJPEGcompression->setEnabled(takesQuality);
     ui_->HeadingSliderJPEGcompression->setEnabled(takesQuality);
-    ui_->Chroma444Check->setEnabled(takesQuality);
+    ui_->Chroma444Check->setEnabled(format.takesChroma);
     ui_->WriteMetadataCheck->setEnabled(format.holds.metadata);
 }
 

@@ -3,12 +3,15 @@
 
 #include "remap/encode/encode_bitmap.h"
 
+#include <limits>
 #include <new>
+#include <type_traits>
 
 #include "remap/encode/linear_light.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/encode/output_format.h"
 #include "remap/encode/sample_depth.h"
+#include "remap/image/pixel_access.h"
 
 namespace varnel {
 
@@ -36,19 +39,35 @@ EncodedBitmap Encoded(const OutputEncoding& encoding, const Bitmap& bitmap,
     }
 }
 
-// Black where the bitmap, of 8 bits a sample, is transparent: types that cannot be transparent have
-// no more.
-BitmapHandle Opaque(const Bitmap& bitmap) {
-    BitmapHandle opaque = NewBitmap(bitmap.Size());
-    opaque->metadata = bitmap.metadata;
-    for (std::int32_t y = 0; y < bitmap.Size().height; ++y) {
-        const std::uint8_t* from = bitmap.ScanLine(y).data();
-        std::uint8_t* to = opaque->ScanLine(y).data();
-        for (std::int32_t x = 0; x < bitmap.Size().width; ++x, from += 4, to += 3) {
-            for (int n = 0; n < 3; ++n) {
-                to[n] = static_cast<std::uint8_t>((from[n] * from[3] + 127) / 255);
+template <class Sample>
+void PutOpaqueRow(const std::uint8_t* from, std::int32_t width, std::uint8_t* to) {
+    for (std::int32_t x = 0; x < width; ++x) {
+        const auto alpha = SampleAt<Sample>(from, 3);
+        for (std::size_t n = 0; n < 3; ++n) {
+            const auto sample = SampleAt<Sample>(from, n);
+            if constexpr (std::is_same_v<Sample, float>) {
+                PutSample(to, n, sample * alpha);
+            } else {
+                constexpr std::uint32_t full = std::numeric_limits<Sample>::max();
+                PutSample(to, n,
+                          static_cast<Sample>((std::uint64_t{sample} * alpha + full / 2) / full));
             }
         }
+        from += 4 * sizeof(Sample);
+        to += 3 * sizeof(Sample);
+    }
+}
+
+// Black where the bitmap is transparent.
+BitmapHandle Opaque(const Bitmap& bitmap) {
+    const SampleKind samples = SampleKindOf(bitmap.Format());
+    BitmapHandle opaque = NewBitmap(bitmap.Size(), PixelFormatOf(samples, false));
+    opaque->metadata = bitmap.metadata;
+    for (std::int32_t y = 0; y < bitmap.Size().height; ++y) {
+        WithSample(samples, [&](auto kind) {
+            PutOpaqueRow<decltype(kind)>(bitmap.ScanLine(y).data(), bitmap.Size().width,
+                                         opaque->ScanLine(y).data());
+        });
     }
     return opaque;
 }

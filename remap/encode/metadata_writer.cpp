@@ -38,6 +38,7 @@ class Assembly {
     bool IsNeeded() const { return !photo_.IsEmpty() || HasOwnXmp(own_); }
     WrittenMetadata Jpeg();
     WrittenMetadata Png();
+    WrittenMetadata Jxl();
     WrittenMetadata Tiff();
     Reason LostIn(OutputType type) const;
 
@@ -116,6 +117,16 @@ WrittenMetadata Assembly::Png() {
     return std::move(result_);
 }
 
+// IPTC has no place in such files.
+WrittenMetadata Assembly::Jxl() {
+    WrittenMetadata written = Png();
+    if (!written.iptc.isEmpty()) {
+        written.iptc.clear();
+        written.notes += ReasonCode::TypeHoldsNoIptc;
+    }
+    return written;
+}
+
 WrittenMetadata Assembly::Tiff() {
     result_.exif = WrittenExifWithoutThumbnail(photo_.exif, bitmap_.Size());
     result_.entries = photo_.tiffEntries;
@@ -165,6 +176,11 @@ WrittenMetadata MetadataForJpeg(const Bitmap& bitmap) {
 WrittenMetadata MetadataForPng(const Bitmap& bitmap) {
     Assembly assembly(bitmap);
     return assembly.IsNeeded() ? assembly.Png() : WrittenMetadata();
+}
+
+WrittenMetadata MetadataForJxl(const Bitmap& bitmap) {
+    Assembly assembly(bitmap);
+    return assembly.IsNeeded() ? assembly.Jxl() : WrittenMetadata();
 }
 
 WrittenMetadata MetadataForTiff(const Bitmap& bitmap) {

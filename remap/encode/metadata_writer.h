@@ -24,6 +24,7 @@ struct WrittenMetadata {
 // For a file of each type. Throw std::bad_alloc.
 WrittenMetadata MetadataForJpeg(const Bitmap& bitmap);
 WrittenMetadata MetadataForPng(const Bitmap& bitmap);
+WrittenMetadata MetadataForJxl(const Bitmap& bitmap);
 WrittenMetadata MetadataForTiff(const Bitmap& bitmap);
 // What the bitmap has and a file of the type cannot hold, by the type's row; empty when that is
 // nothing. Throws std::bad_alloc.

@@ -9,7 +9,10 @@
 namespace varnel {
 
 // The coders, each in its file under coders/.
-EncodeFunction EncodeTiff, EncodeJpeg, EncodeBmp, EncodePng, EncodeExr;
+EncodeFunction EncodeTiff, EncodeJpeg, EncodeBmp, EncodePng, EncodeExr, EncodeHdr;
+#ifdef VARNEL_JXL
+EncodeFunction EncodeJxl;
+#endif
 
 namespace {
 
@@ -59,12 +62,27 @@ double PlainBytesPerPixelOf(const OutputEncoding& /*encoding*/, SampleKind sampl
     return PlainBytesPerPixel(samples);
 }
 
+double HdrBytesPerPixel(const OutputEncoding& /*encoding*/, SampleKind /*samples*/) {
+    return 3.7;
+}
+
+#ifdef VARNEL_JXL
+// Without loss at 100.
+double JxlBytesPerPixel(const OutputEncoding& encoding, SampleKind samples) {
+    const double quality = encoding.quality;
+    return quality >= 100.0  ? (samples == SampleKind::Byte ? 1.7 : PlainBytesPerPixel(samples))
+           : quality <= 90.0 ? Between(std::max(quality, 50.0), 50.0, 0.17, 90.0, 0.41)
+                             : Between(quality, 90.0, 0.41, 99.0, 0.9);
+}
+#endif
+
 constexpr std::array rows{
     OutputFormat{u"TIFF",
                  u"Tiff",
                  u".TIF",
                  u".TIFF",
                  {.bitsPerSample = 32, .alpha = true, .metadata = true, .profile = true},
+                 false,
                  false,
                  &TiffBytesPerPixel,
                  &EncodeTiff},
@@ -74,14 +92,17 @@ constexpr std::array rows{
                  u".JPEG",
                  {.metadata = true, .profile = true},
                  true,
+                 true,
                  &JpegBytesPerPixel,
                  &EncodeJpeg},
-    OutputFormat{u"BMP", u"BMP", u".BMP", u".BMP", {}, false, &PlainBytesPerPixelOf, &EncodeBmp},
+    OutputFormat{
+        u"BMP", u"BMP", u".BMP", u".BMP", {}, false, false, &PlainBytesPerPixelOf, &EncodeBmp},
     OutputFormat{u"PNG",
                  u"PNG",
                  u".PNG",
                  u".PNG",
                  {.bitsPerSample = 16, .alpha = true, .metadata = true, .profile = true},
+                 false,
                  false,
                  &PngBytesPerPixel,
                  &EncodePng},
@@ -91,8 +112,30 @@ constexpr std::array rows{
                  u".EXR",
                  {.bitsPerSample = 32, .leastBits = 32, .alpha = true},
                  false,
+                 false,
                  &PlainBytesPerPixelOf,
-                 &EncodeExr}};
+                 &EncodeExr},
+    OutputFormat{u"HDR",
+                 u"Radiance",
+                 u".HDR",
+                 u".HDR",
+                 {.bitsPerSample = 32, .leastBits = 32},
+                 false,
+                 false,
+                 &HdrBytesPerPixel,
+                 &EncodeHdr},
+#ifdef VARNEL_JXL
+    OutputFormat{u"JXL",
+                 u"JPEG XL",
+                 u".JXL",
+                 u".JXL",
+                 {.bitsPerSample = 32, .alpha = true, .metadata = true, .profile = true},
+                 true,
+                 false,
+                 &JxlBytesPerPixel,
+                 &EncodeJxl},
+#endif
+};
 
 // Of places that are the table's, one after the other.
 constexpr auto types = [] {

@@ -26,7 +26,8 @@ struct OutputFormat {
     const char16_t* ending;   // with its dot, as it is written
     const char16_t* synonym;  // another ending by which the type is known
     OutputAbilities holds;
-    bool takesQuality;  // and colour at full resolution
+    bool takesQuality;
+    bool takesChroma;  // may have colour at full resolution, or not
     // Of a file to be expected. Measured with converted photos of foliage, which need two to four
     // times what indoor ones do. Of such samples, which the type can hold.
     double (*bytesPerPixel)(const OutputEncoding&, SampleKind);

@@ -46,7 +46,9 @@ TEST_F(FormBatchTest, HasItsControlsAndTheSettingsAtFirst) {
         EXPECT_TRUE(control->inherits(kind)) << name;
         EXPECT_FALSE(control->accessibleName().isEmpty()) << name;
     }
-    EXPECT_EQ(testing::Items(The<QComboBox>("ComboFileType")), Text("TIFF JPEG BMP PNG EXR"));
+    EXPECT_EQ(
+        testing::Items(The<QComboBox>("ComboFileType")),
+        Text("TIFF JPEG BMP PNG EXR HDR") + (OutputTypeByName(u"jxl") ? Text(" JXL") : Text("")));
     EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("PNG"));
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").value(), 77);
     EXPECT_EQ(The<QSlider>("SliderJPEGcompression").minimum(), 1);

@@ -24,6 +24,7 @@ TEST(OutputType, SettingsTextsEndingsAndAbilities) {
         {OutputType::Bmp, "BMP", ".BMP", "BMP (*.BMP)", false, false, false},
         {OutputType::Png, "PNG", ".PNG", "PNG (*.PNG)", true, true, false},
         {*OutputTypeByName(u"exr"), "EXR", ".EXR", "OpenEXR (*.EXR)", false, false, false},
+        {*OutputTypeByName(u"hdr"), "HDR", ".HDR", "Radiance (*.HDR)", false, false, false},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(ToText(row.type), Text(row.text));

@@ -106,7 +106,8 @@ TEST(SaveBitmap, AFileThatIsGivenUpLeavesTheOlderOneAsItWas) {
     for (const OutputType type : AllOutputTypes()) {
         testing::WriteFile(name, "older");
         int before = 0;
-        for (bool saved = false; !saved; ++before) {
+        // Of types that ask hundreds of times, the later moments are samples.
+        for (bool saved = false; !saved; before += before < 40 ? 1 : before / 4) {
             std::atomic<int> asked = 0;
             const StoppableFile file{name, [&] { return asked++ == before; }};
             saved = SaveBitmap(type, bitmap.get(), file, runner).ok;

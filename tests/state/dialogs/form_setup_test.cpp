@@ -61,7 +61,9 @@ TEST_F(FormSetupTest, ShowsTheFirstRunWithTiffInPlaceOfJpg) {
     EXPECT_EQ(The<QComboBox>("GearCombo").currentText(), Text("Gear 2"));
     EXPECT_EQ(Label("LabelPreviewWidth"), Text("400 pixels"));
     EXPECT_EQ(Label("LabelPreviewHeight"), Text("300 pixels"));
-    EXPECT_EQ(testing::Items(The<QComboBox>("ComboFileType")), Text("TIFF JPEG BMP PNG EXR"));
+    EXPECT_EQ(
+        testing::Items(The<QComboBox>("ComboFileType")),
+        Text("TIFF JPEG BMP PNG EXR HDR") + (OutputTypeByName(u"jxl") ? Text(" JXL") : Text("")));
     EXPECT_EQ(The<QComboBox>("ComboFileType").currentText(), Text("TIFF"));
     const struct {
         const char* name;

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <cmath>
 #include <cstring>
-#include <random>
 
 #include "remap/encode/encode_bitmap.h"
 #include "remap/encode/linear_light.h"
@@ -15,6 +14,7 @@
 #include "remap/image/library_messages.h"
 #include "remap/image/pixel_access.h"
 #include "tests/support/bitmaps.h"
+#include "tests/support/deep_bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seeds/file_bytes.h"
 #include "tests/support/seeds/seed_files.h"
@@ -22,29 +22,7 @@
 namespace varnel {
 namespace {
 
-// A slope with grain that uses all bits of each sample.
-BitmapHandle Deep(PixelSize size, PixelFormat format) {
-    BitmapHandle bitmap = NewBitmap(size, format);
-    std::mt19937 random(11);
-    const std::size_t samples = HasAlpha(format) ? 4 : 3;
-    for (int y = 0; y < size.height; ++y) {
-        std::uint8_t* pixel = bitmap->ScanLine(y).data();
-        for (int x = 0; x < size.width; ++x, pixel += PixelStep(format)) {
-            for (std::size_t n = 0; n < samples; ++n) {
-                const auto value =
-                    static_cast<unsigned>((x * 150U + y * 70U) * (n + 1) + random() % 900);
-                WithSample(SampleKindOf(format), [&](auto kind) {
-                    using Sample = decltype(kind);
-                    PutSample(pixel, n,
-                              std::is_same_v<Sample, float>
-                                  ? static_cast<Sample>(static_cast<float>(value) / 50000.0F - 0.1F)
-                                  : static_cast<Sample>(value));
-                });
-            }
-        }
-    }
-    return bitmap;
-}
+using testing::Deep;
 
 std::string Named(const char* type, PixelFormat format, TiffCompression compression) {
     return std::string(type) + ' ' + std::to_string(BitsPerSample(format)) +
@@ -208,6 +186,8 @@ TEST(EncodeBitmap, SaysWhatATypeCannotHold) {
         {PixelFormat::Bgr8, OutputType::Png, OutputDepth::Sixteen, SampleKind::Word, {}},
         {PixelFormat::Bgra8, OutputType::Tiff, OutputDepth::Float, SampleKind::Float, {}},
         {PixelFormat::Bgr8, OutputType::Jpeg, OutputDepth::Own, SampleKind::Byte, {}},
+        {PixelFormat::Bgra16, *OutputTypeByName(u"hdr"), OutputDepth::Own, SampleKind::Float,
+         Reason(ReasonCode::TypeHoldsNoTransparency, QStringLiteral("HDR"))},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(Named(ToText(row.type).toUtf8(), row.format, TiffCompression::Usual));

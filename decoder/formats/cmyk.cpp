@@ -29,7 +29,7 @@ bool IsProfileForCmyk(QByteArrayView profile) {
     return profile.size() > header && profile.sliced(colourSpace, 4) == QByteArrayView("CMYK");
 }
 
-BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile) {
+BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile, SampleKind samples) {
     const Profile inks(
         cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
     const Profile screen(cmsCreate_sRGBProfile());
@@ -37,13 +37,13 @@ BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile) {
         return nullptr;
     }
     const cmsUInt32Number depth = cmyk.bytesPerSample == 1 ? TYPE_CMYK_8 : TYPE_CMYK_16;
-    const std::unique_ptr<void, TransformDeleter> transform(
-        cmsCreateTransform(inks.get(), depth, screen.get(), TYPE_BGR_8,
-                           INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION));
+    const std::unique_ptr<void, TransformDeleter> transform(cmsCreateTransform(
+        inks.get(), depth, screen.get(), samples == SampleKind::Word ? TYPE_BGR_16 : TYPE_BGR_8,
+        INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION));
     if (!transform) {
         return nullptr;
     }
-    BitmapHandle result = NewBitmap(cmyk.size);
+    BitmapHandle result = NewBitmap(cmyk.size, PixelFormatOf(samples, false));
     for (int y = 0; y < cmyk.size.height; ++y) {
         cmsDoTransform(transform.get(), cmyk.Row(y), ScanLine(result.get(), y).data(),
                        static_cast<cmsUInt32Number>(cmyk.size.width));
@@ -51,13 +51,16 @@ BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile) {
     return result;
 }
 
-BitmapHandle FromInks(const LibraryReader& reader, const BitmapMetadata& metadata) {
+BitmapHandle FromInks(const LibraryReader& reader, const BitmapMetadata& metadata, bool ownDepth) {
     if (!IsProfileForCmyk(metadata.colourProfile)) {
         return nullptr;
     }
     const LibraryPicture picture = reader.WithInks();
     const std::optional<SampleRows> inks = picture.Inks();
-    BitmapHandle colours = inks ? FromCmyk(*inks, metadata.colourProfile) : nullptr;
+    const bool isDeep = ownDepth && inks && inks->bytesPerSample == 2;
+    BitmapHandle colours =
+        inks ? FromCmyk(*inks, metadata.colourProfile, isDeep ? SampleKind::Word : SampleKind::Byte)
+             : nullptr;
     if (colours) {
         colours->metadata = metadata;
         colours->metadata.colourProfile.clear();

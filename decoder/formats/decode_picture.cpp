@@ -343,7 +343,7 @@ class Decoding {
             // The library looks at its own only after it has given back the memory.
             metadata.colourProfile = tiff_->colourProfile;
         }
-        BitmapHandle colours = FromInks(reader_, metadata);
+        BitmapHandle colours = FromInks(reader_, metadata, WantsOwnFormat());
         if (!colours) {
             colours = WantsOwnFormat() ? InOwnFormat(std::move(picture), std::move(metadata))
                                        : To24Bits(std::move(picture), std::move(metadata));

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "decoder/formats/profiles/coded_colours.h"
 #include "decoder/formats/readers/file_bytes.h"
 #include "decoder/formats/readers/modern_formats.h"
 #include "decoder/formats/readers/part_of_range.h"
@@ -204,7 +205,18 @@ class HeifReader : public DirectReader {
         const bool isThere =
             !profile.isEmpty() &&
             Succeeded(heif_image_handle_get_raw_color_profile(picture_.get(), profile.data()));
-        return isThere ? profile : QByteArray();
+        return isThere ? profile : ProfileByCodes();
+    }
+    // Colours may be stated by numbers alone.
+    QByteArray ProfileByCodes() const {
+        heif_color_profile_nclx* codes = nullptr;
+        const heif_error error = heif_image_handle_get_nclx_color_profile(picture_.get(), &codes);
+        if (error.code != heif_error_Ok || codes == nullptr) {
+            return {};
+        }
+        const std::unique_ptr<heif_color_profile_nclx, Releaser<heif_nclx_color_profile_free>>
+            owned(codes);
+        return ProfileOfCodes(codes->color_primaries, codes->transfer_characteristics);
     }
 
     FileBytes bytes_;

@@ -10,8 +10,8 @@
 #include <new>
 #include <vector>
 
+#include "decoder/formats/profiles/raw_profile.h"
 #include "decoder/formats/readers/file_bytes.h"
-#include "decoder/formats/readers/raw_profile.h"
 #include "remap/image/library_messages.h"
 #include "remap/image/pixel_access.h"
 

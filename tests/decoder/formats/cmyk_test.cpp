@@ -60,6 +60,31 @@ TEST(DecodePicture, InksBecomeColoursByTheirProfileAndLoseIt) {
     }
 }
 
+// Inks of 16 bits in steps that 8 bits do not have: the slope keeps rising.
+TEST(DecodePicture, DeepInksStayDeepWhereThatIsWanted) {
+    constexpr int columns = 64;
+    const LibraryBitmap inks(FreeImage_AllocateT(FIT_RGBA16, columns, 1));
+    auto* const row = reinterpret_cast<std::uint16_t*>(FreeImage_GetScanLine(inks.get(), 0));
+    for (int x = 0; x < columns; ++x) {
+        row[4 * x + 3] = static_cast<std::uint16_t>(32000 - 40 * x);  // black alone
+    }
+    QByteArray profile = testing::InkProfile();
+    FreeImage_CreateICCProfile(inks.get(), profile.data(), static_cast<long>(profile.size()));
+    FreeImage_GetICCProfile(inks.get())->flags |= FIICC_COLOR_IS_CMYK;
+    const QByteArray file = LibraryFile(FIF_TIFF, inks.get(), TIFF_CMYK | TIFF_LZW).bytes;
+    const LoadedPicture deep = testing::Decode(file, {.path = {}, .depth = ReadDepth::Own});
+    ASSERT_TRUE(deep.bitmap) << ErrorText(deep.reason).toStdString();
+    ASSERT_EQ(deep.bitmap->Format(), PixelFormat::Bgr16);
+    EXPECT_EQ(testing::Decode(file).bitmap->Format(), PixelFormat::Bgr8);
+    const std::uint8_t* const samples = deep.bitmap->ScanLine(0).data();
+    for (std::size_t x = 1; x < columns; ++x) {
+        EXPECT_GT(SampleAt<std::uint16_t>(samples, 3 * x),
+                  SampleAt<std::uint16_t>(samples, 3 * x - 3))
+            << x;
+    }
+    EXPECT_NEAR(SampleAt<std::uint16_t>(samples, 0) / 257.0, 121.5, 2.0);
+}
+
 TEST(DecodePicture, InksWithoutAProfileAreTakenByRuleOfThumb) {
     const LoadedPicture picture = testing::Decode(Inked(FIF_JPEG, 100, false));
     ASSERT_EQ(picture.outcome, LoadOutcome::Loaded) << ErrorText(picture.reason).toStdString();

@@ -3,9 +3,13 @@
 
 // HEIC, AVIF and JPEG XL, where they are read.
 #include <gtest/gtest.h>
+#include <lcms2.h>
+
+#include <array>
 
 #include "base/error_text.h"
 #include "decoder/formats/decode_picture.h"
+#include "decoder/formats/profiles/coded_colours.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/seed_files.h"
@@ -69,6 +73,71 @@ INSTANTIATE_TEST_SUITE_P(
                       ModernRow{"heif/avif-10", PixelFormat::Bgr16, {0, 0, 128}, {255, 128, 0}, 16},
                       ModernRow{
                           "jxl/lossless-deep", PixelFormat::Bgr16, {0, 0, 128}, {255, 128, 0}, 0}));
+
+// The colour that a sample of the three stands for by a profile, CIE XYZ of D50.
+cmsCIEXYZ ColourBy(const QByteArray& icc, std::array<std::uint16_t, 3> sample) {
+    const cmsHPROFILE profile =
+        cmsOpenProfileFromMem(icc.constData(), static_cast<cmsUInt32Number>(icc.size()));
+    const cmsHPROFILE xyz = cmsCreateXYZProfile();
+    const cmsHTRANSFORM transform = cmsCreateTransform(
+        profile, TYPE_RGB_16, xyz, TYPE_XYZ_DBL, INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE);
+    cmsCIEXYZ colour{};
+    cmsDoTransform(transform, sample.data(), &colour, 1);
+    cmsDeleteTransform(transform);
+    cmsCloseProfile(xyz);
+    cmsCloseProfile(profile);
+    return colour;
+}
+
+// By the numbers in the file; Y of the red primary and the light of half a sample. Wide range is
+// shown by its own curve: PQ has 92.2457 cd/m2 at a half, HLG 50.68, and the reference white of 203
+// counts as 1, beyond which light is compressed.
+TEST(CodedColours, BecomeAProfile) {
+    constexpr struct {
+        char primaries, transfer;
+        double red, half;
+    } rows[] = {{12, 13, 0.2410, 0.2140}, {9, 1, 0.2789, 0.2597}, {9, 13, 0.2789, 0.2140},
+                {1, 8, 0.2225, 0.5000},   {1, 1, 0.2225, 0.2597}, {9, 16, 0.2789, 0.3124},
+                {9, 18, 0.2789, 0.2020}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(int{row.primaries} * 100 + row.transfer);
+        QByteArray file = testing::Seed("heif/avif-10");
+        const qsizetype place = file.indexOf("nclx") + 4;
+        file[place + 1] = row.primaries;
+        file[place + 3] = row.transfer;
+        const LoadedPicture picture = testing::Decode(file, {.path = {}, .depth = ReadDepth::Own});
+        if (picture.reason.Code() == ReasonCode::NoKnownType) {
+            GTEST_SKIP() << "its library was not there";
+        }
+        ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
+        const QByteArray& profile = picture.bitmap->metadata.colourProfile;
+        ASSERT_FALSE(profile.isEmpty());
+        EXPECT_NEAR(ColourBy(profile, {65535, 0, 0}).Y, row.red, 0.001);
+        EXPECT_NEAR(ColourBy(profile, {32768, 32768, 32768}).Y, row.half, 0.001);
+        EXPECT_NEAR(ColourBy(profile, {65535, 65535, 65535}).Y, 1.0, 0.001);
+    }
+    EXPECT_TRUE(ProfileOfCodes(1, 13).isEmpty());  // sRGB needs none
+    EXPECT_TRUE(ProfileOfCodes(2, 2).isEmpty());
+    EXPECT_TRUE(ProfileOfCodes(10, 17).isEmpty());
+}
+
+// The box of a turn to the left in place of another: its library turns the picture, nothing else.
+TEST(Heif, IsTurnedOnce) {
+    QByteArray file = testing::Seed("heif/heic");
+    file.replace(file.indexOf("pixi"), 12, QByteArray("irot\1\0\0\0\0\0\0\0", 12));
+    for (const bool upright : {true, false}) {
+        const LoadedPicture picture = testing::Decode(file, {.path = {}, .upright = upright});
+        if (picture.reason.Code() == ReasonCode::NoKnownType) {
+            GTEST_SKIP() << "its library was not there";
+        }
+        ASSERT_TRUE(picture.bitmap) << ErrorText(picture.reason).toStdString();
+        EXPECT_EQ(picture.bitmap->Size().width, 12);
+        EXPECT_EQ(picture.size.height, 16);
+        EXPECT_EQ(picture.orientation, 1);
+        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 6, 1).red, 200, 12);
+        EXPECT_NEAR(testing::PixelAt(picture.bitmap.get(), 6, 14).blue, 200, 12);
+    }
+}
 
 }  // namespace
 }  // namespace varnel

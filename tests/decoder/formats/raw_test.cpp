@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "base/error_text.h"
-#include "decoder/formats/readers/raw_profile.h"
+#include "decoder/formats/profiles/raw_profile.h"
 #include "decoder/formats/true_colour.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"

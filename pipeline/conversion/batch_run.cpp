@@ -8,6 +8,7 @@
 
 #include "base/error_text.h"
 #include "pipeline/output/save_wish.h"
+#include "pipeline/photos/raw_pairs.h"
 #include "remap/image/photo_date.h"
 
 namespace varnel {
@@ -69,6 +70,7 @@ class Batch : public ConversionObserver {
             }
         }
         firstEntries_.append(queue_.UpperBound() + 1);
+        choices_.paired = PairedPhotos(queue_);
         summary_.folder = choices_.nextToPhoto ? QString() : choices_.folder;
         summary_.queued = queue_.UpperBound();
     }
@@ -168,7 +170,7 @@ class Batch : public ConversionObserver {
     }
 
     RecordArray<ImageRecord>& queue_;
-    const BatchChoices& choices_;
+    BatchChoices choices_;
     BatchObserver& observer_;
     QStringList photos_;
     QList<int> firstEntries_;  // of each photo, and one past the last
@@ -185,9 +187,22 @@ QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices) {
 }
 
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices, const NameFacts& facts) {
+    const PhotoEnding ending =
+        choices.paired.contains(SourcePath(entry)) ? PhotoEnding::Kept : PhotoEnding::Cut;
     return PathByPattern(AsSaved(entry, choices.sampling), BatchFolder(entry, choices),
-                         {PatternOf(choices), choices.additions, PhotoEnding::Cut}, choices.type,
-                         facts);
+                         {PatternOf(choices), choices.additions, ending}, choices.type, facts);
+}
+
+QSet<QString> PairedPhotos(const RecordArray<ImageRecord>& queue) {
+    QStringList photos;
+    for (const ImageRecord& entry : queue) {
+        photos.append(SourcePath(entry));
+    }
+    QSet<QString> paired;
+    for (const auto& [raw, jpeg] : RawPairsIn(photos)) {
+        paired << raw << jpeg;
+    }
+    return paired;
 }
 
 NameFacts FactsOf(const RecordArray<ImageRecord>& queue, int entry, const BatchChoices& choices,

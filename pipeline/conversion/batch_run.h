@@ -7,6 +7,7 @@
 
 #include <QDate>
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include "base/record_array.h"
@@ -30,7 +31,11 @@ struct BatchChoices {
     OutputDepth depth = OutputDepth::Own;
     TiffCompression compression = TiffCompression::Usual;
     SamplingKind sampling = SamplingKind::Classic;
+    QSet<QString> paired = {};  // photos whose files keep their ending in the name
 };
+
+// The queue's photos that are there as raw file and as JPEG: their files would have one name.
+QSet<QString> PairedPhotos(const RecordArray<ImageRecord>& queue);
 
 inline OutputEncoding EncodingOf(const BatchChoices& choices) {
     OutputEncoding encoding(choices.type, choices.jpegQuality, choices.chroma444);
@@ -46,8 +51,8 @@ inline QString PatternOf(const BatchChoices& choices) {
 // Where an entry's file goes.
 QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices);
 
-// The full path under which an entry is written. Throws RunTimeError when a number of the record
-// cannot stand in a name.
+// The full path under which an entry is written, by the choices' paired photos. Throws RunTimeError
+// when a number of the record cannot stand in a name.
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices,
                   const NameFacts& facts = {});
 
@@ -75,10 +80,10 @@ class BatchObserver {
     virtual bool StopAsked() = 0;
 };
 
-// Converts and writes the entries in order. Loading sets an entry's size, nothing else of it is
-// changed. An entry that fails is noted and nothing is written for it. A file that is a photo of
-// the queue is never replaced, and no older file by a conversion of a damaged photo. Throws
-// std::bad_alloc and what the observer throws.
+// Converts and writes the entries in order, with the paired photos of this queue. Loading sets an
+// entry's size, nothing else of it is changed. An entry that fails is noted and nothing is written
+// for it. A file that is a photo of the queue is never replaced, and no older file by a conversion
+// of a damaged photo. Throws std::bad_alloc and what the observer throws.
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
                       BatchObserver& observer, const ConversionPorts& ports);
 

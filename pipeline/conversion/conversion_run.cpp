@@ -10,6 +10,8 @@
 #include "base/thread_runner.h"
 #include "pipeline/conversion/lending_steps.h"
 #include "pipeline/conversion/save_worker.h"
+#include "remap/encode/output_format.h"
+#include "remap/encode/sample_depth.h"
 #include "remap/image/photo_metadata.h"
 #include "remap/image/preview_size.h"
 #include "remap/projection/projection_info.h"
@@ -68,7 +70,10 @@ class Run : private RenderProgress {
         }
         turn_.what.damage = loaded.reason;
         ConversionRecords records;
-        const Reason error = Attempt([&] { records = plan_.records(photo_, loaded); });
+        const Reason error = Attempt([&] {
+            records = plan_.records(photo_, loaded);
+            loaded.bitmap = InWorkingDepth(std::move(loaded.bitmap));
+        });
         if (!error.isEmpty() || records.all.empty()) {
             EndPhoto(ConversionEnd::NoRecords, error.isEmpty() ? records.error : error);
             return;
@@ -137,6 +142,17 @@ class Run : private RenderProgress {
         LoadedPicture loaded;
         const Reason error = Attempt([&] { loaded = ports_.load(plan_.photos[photo_]); });
         return error.isEmpty() ? std::move(loaded) : LoadedPicture::Refused(error);
+    }
+
+    // For deeper files than the photo, what lies between its pixels is worked out with 16 bits.
+    BitmapHandle InWorkingDepth(BitmapHandle bitmap) {
+        const OutputEncoding& encoding = plan_.output.encoding;
+        const bool isWidened =
+            bitmap && SampleKindOf(bitmap->Format()) == SampleKind::Byte &&
+            encoding.depth != OutputDepth::Own &&
+            SamplesIn(encoding.type, SamplesFor(encoding.depth, SampleKind::Byte)) !=
+                SampleKind::Byte;
+        return isWidened ? InSamples(*bitmap, SampleKind::Word, runner_) : std::move(bitmap);
     }
 
     void DropSource() {

@@ -208,6 +208,7 @@ BatchChoices FormBatch::Choices() const {
                          wish.encoding.depth,
                          wish.encoding.compression,
                          wish.sampling};
+    choices.paired = PairedPhotos(queue_);
     for (const auto& [projection, box] : additions_) {
         choices.additions.texts[projection] = box->text();
     }

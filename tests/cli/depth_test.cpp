@@ -12,7 +12,9 @@
 
 #include "cli/convert.h"
 #include "remap/image/ifd_reader.h"
+#include "remap/image/pixel_access.h"
 #include "tests/support/files.h"
+#include "tests/support/loading.h"
 #include "tests/support/seeds/seed_files.h"
 
 namespace varnel {
@@ -88,6 +90,31 @@ TEST_F(Depth, EachChoiceIsInTheFileAndInItsLine) {
     store_.Save(Q("setting"), Q("TiffCompression"), Q("none"));
     EXPECT_EQ(Run({Q("--type=tiff"), photo}), exitAllWritten);
     EXPECT_EQ(Number(files_.Path(Q("a.Varnel.TIF")), compression), 1U);
+}
+
+// Of a photo of 8 bits, too: between its pixels lie levels that it does not have.
+TEST_F(Depth, BlendsHaveTheBitsThatAreAskedFor) {
+    const QString photo = files_.Picture(Q("a.png"), OutputType::Png);
+    const QString result = files_.Path(Q("result.png"));
+    for (const char* depth : {"16", "auto"}) {
+        EXPECT_EQ(Run({Q("--force"), Q("--depth"), Q(depth), Q("--output"), result, photo}),
+                  exitAllWritten)
+            << err_.str();
+        const LoadedPicture loaded =
+            ReadPicture(testing::Reader(), {.path = result, .depth = ReadDepth::Own});
+        ASSERT_TRUE(loaded.bitmap);
+        int between = 0;
+        if (loaded.bitmap->Format() == PixelFormat::Bgr16) {
+            for (int y = 0; y < loaded.bitmap->Size().height; ++y) {
+                for (std::size_t n = 0; n < loaded.bitmap->ScanLine(y).size() / 2; ++n) {
+                    const auto level =
+                        SampleAt<std::uint16_t>(loaded.bitmap->ScanLine(y).data(), n);
+                    between += level % 257 == 0 ? 0 : 1;
+                }
+            }
+        }
+        EXPECT_EQ(between > 100, Q(depth) == Q("16")) << between;
+    }
 }
 
 TEST_F(Depth, WhatATypeCannotHoldIsToldOnce) {

@@ -54,6 +54,22 @@ TEST(BatchChecks, CountNamesThatCollideOrLieThereAlready) {
                    "1 file in this folder will be replaced."));
 }
 
+TEST(BatchChecks, RawFilesWithTheirJpegsKeepTheirEndings) {
+    RecordArray<ImageRecord> queue;
+    for (const char* name : {"a.nef", "a.JPG", "b.nef", "c.jpg"}) {
+        queue.Append(FisheyePhoto(Text("/in"), Text(name)));
+    }
+    BatchChoices choices{Text("/out"), {}, OutputType::Tiff, 90};
+    EXPECT_EQ(CollidingNames(queue, choices), 1);
+    choices.paired = PairedPhotos(queue);
+    EXPECT_EQ(CollidingNames(queue, choices), 0);
+    const char* const names[] = {"a.nef.Varnel.TIF", "a.JPG.Varnel.TIF", "b.Varnel.TIF",
+                                 "c.Varnel.TIF"};
+    for (int entry = 1; entry <= 4; ++entry) {
+        EXPECT_EQ(BatchPath(queue(entry), choices), Text("/out/") + Text(names[entry - 1]));
+    }
+}
+
 TEST(BatchChecks, WarnOnlyWhenTheSpaceIsShort) {
     RecordArray<ImageRecord> queue;
     queue.Append(FisheyePhoto({}, Text("a.jpg")));

@@ -253,15 +253,16 @@ TEST_F(FakeRun, EveryKindOfFailureIsNotedAndTheRunGoesOn) {
 }
 
 TEST_F(FakeRun, OfTwoWithOneNameTheLaterStaysAndIsTold) {
-    for (const char* name : {"a.jpg", "b.jpg", "a.tif", "a.bmp"}) {
+    for (const char* name : {"a.jpg", "b.jpg", "c.nef", "a.tif", "a.bmp", "c.jpg"}) {
         queue.Append(FisheyePhoto(Text("/in"), Text(name)));
     }
-    EXPECT_EQ(CollidingNames(queue, choices), 1);
+    EXPECT_EQ(CollidingNames(queue, choices), 2);  // the run looks for pairs itself
     const BatchSummary summary = Go();
-    EXPECT_EQ(summary.written.size(), 4);
+    EXPECT_EQ(summary.written.size(), 6);
+    EXPECT_EQ(summary.written.value(5), Text("/out/c.jpg.Varnel.JPG"));
     EXPECT_EQ(summary.replaced, QStringList{Text("/out/a.Varnel.JPG")});
     EXPECT_EQ(SummaryText(summary),
-              Text("4 of 4 images written into /out\n\n1 file was replaced by a "
+              Text("6 of 6 images written into /out\n\n1 file was replaced by a "
                    "later image of the same name:\n"
                    "  /out/a.Varnel.JPG\n"));
 }

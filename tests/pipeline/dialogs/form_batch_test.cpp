@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QSpinBox>
 
+#include "remap/encode/output_type.h"
 #include "tests/pipeline/dialogs/batch_dialog.h"
 #include "tests/support/settled.h"
 

@@ -11,6 +11,7 @@
 #include <QSpinBox>
 #include <array>
 
+#include "remap/encode/output_type.h"
 #include "state/settings/default_choices.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/texts.h"

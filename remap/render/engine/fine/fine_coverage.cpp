@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "remap/render/engine/fine/fine_engine.h"
 #include "remap/render/engine/projection_engine.h"
@@ -46,16 +45,6 @@ class PhotoCircle {
     double radius_ = 0.0;
 };
 
-template <class Sample>
-Sample SampleOfShare(float share) {
-    if constexpr (std::is_same_v<Sample, float>) {
-        return share;
-    } else {
-        constexpr auto most = static_cast<float>(std::numeric_limits<Sample>::max());
-        return static_cast<Sample>(std::lround(share * most));
-    }
-}
-
 // A row of the result that the map shows.
 template <class Sample>
 void PutRow(const ResultGrid& grid, const Places& places, const PhotoCircle& circle,
@@ -67,8 +56,8 @@ void PutRow(const ResultGrid& grid, const Places& places, const PhotoCircle& cir
             const float within = circle.ShareOf(places, static_cast<std::size_t>(n));
             std::uint8_t* const pixel =
                 out + static_cast<std::ptrdiff_t>(3 * sizeof(Sample)) * column;
-            PutSample(pixel, 0, SampleOfShare<Sample>(share * within));
-            PutSample(pixel, 1, SampleOfShare<Sample>(share));
+            PutSample(pixel, 0, NearestSample<Sample>(share * within));
+            PutSample(pixel, 1, NearestSample<Sample>(share));
         }
     }
 }

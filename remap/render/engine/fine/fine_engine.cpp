@@ -54,25 +54,15 @@ void TakeShares(std::span<float> pixels, const float* shares, bool toAlpha) {
     }
 }
 
-template <class Sample>
-Sample SampleOf(float level) {
-    if constexpr (std::is_same_v<Sample, float>) {
-        return level;
-    } else {
-        constexpr auto most = static_cast<float>(std::numeric_limits<Sample>::max());
-        return static_cast<Sample>(std::clamp(level * most + 0.5F, 0.0F, most));
-    }
-}
-
 void PutPixel(const float* levels, const TargetView& target, std::uint8_t* pixel) {
     WithSample(SampleKindOf(target.format), [&](auto kind) {
         using Sample = decltype(kind);
         if (target.only) {
             const auto channel = static_cast<std::size_t>(*target.only);
-            return PutSample(pixel, channel, SampleOf<Sample>(levels[channel]));
+            return PutSample(pixel, channel, NearestSample<Sample>(levels[channel]));
         }
         for (std::size_t n = 0; n < (HasAlpha(target.format) ? 4U : 3U); ++n) {
-            PutSample(pixel, n, SampleOf<Sample>(levels[n]));
+            PutSample(pixel, n, NearestSample<Sample>(levels[n]));
         }
     });
 }

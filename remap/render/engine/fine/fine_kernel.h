@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The kernel of the fine engine, which the plain loops and the vectors share: for each axis of the
-// photo a cubic that is sharp where the photo is made larger and, by a shrink of 1.44, has become a
+// photo a cubic that is sharp where the photo is made larger and, at a shrink of 1.44, has become a
 // smooth one that grows with the shrink. Its numbers are those that came nearest to what a camera
 // of the result's view would have taken, with no more false lines than half of what a linear blend
 // leaves; fine_bench measures both. A scale is in pixels of the photo for each of the result, along
@@ -53,6 +53,9 @@ struct CubicKernel {
     }
 };
 
+// An axis that shrinks no more than that is read sharply, by four neighbours: what aliases is
+// little.
+inline constexpr float sharpUntil = 1.06F;
 // Of kernels with B = 0, which is that of all sharp ones, C at a scale of 1, and what it gains
 // until a pixel of the photo is 1 / 0.6 pixels wide. Beyond a C of 1 slopes get steps.
 inline constexpr float evenSharpness = 0.8F;
@@ -66,9 +69,9 @@ struct FineAxis {
     Real sharpness = Real(0);  // C of the sharp kernel
 
     static FineAxis Of(Real scale) {
-        const Real shrink = std::clamp(scale, Real(1), Real(mostScale));
+        const Real shrink = std::clamp(scale, Real(sharpUntil), Real(mostScale));
         const Real gain = std::clamp((Real(1) - scale) * Real(sharpnessByScale), Real(0), Real(1));
-        return {WidthFor(shrink), std::min((shrink - Real(1)) / Real(0.44F), Real(1)),
+        return {WidthFor(shrink), std::min((shrink - Real(sharpUntil)) / Real(0.38F), Real(1)),
                 Real(evenSharpness) + Real(moreSharpness) * gain};
     }
     constexpr CubicKernel<Real> Kernel() const {
@@ -95,8 +98,10 @@ struct FineAxis {
   private:
     // Narrower than the shrink while that is small, as cameras keep some of what is too fine.
     static constexpr Real WidthFor(Real shrink) {
-        return std::max(Real(1) + Real(0.8F) * (shrink - Real(1)),
-                        std::min(Real(1.39F) * shrink - Real(0.85F), shrink + Real(0.25F)));
+        const Real little =
+            std::min(shrink + Real(1.0F - sharpUntil), Real(0.8F) * shrink + Real(0.2F));
+        const Real more = std::min(Real(1.39F) * shrink - Real(0.85F), shrink + Real(0.25F));
+        return std::max({Real(1), little, more});
     }
 };
 

@@ -122,9 +122,9 @@ inline Pixel SharpColour(const float* corner, std::ptrdiff_t pitch, const float*
 // the two nearest.
 struct Taps {
     int first = 0;
-    int count = 0;       // even, the last may weigh nothing
-    int nearest = 0;     // the lower of the two nearest, from the first
-    float share = 1.0F;  // 1 for the sum of the weights
+    int count = 0;     // even, the last may weigh nothing
+    int nearest = 0;   // the lower of the two nearest, from the first
+    float sum = 1.0F;  // of the weights
     float slack = 0.0F;
     HWY_ALIGN std::array<float, mostTaps> weights;
 
@@ -133,7 +133,7 @@ struct Taps {
         first = whole - 1;
         count = 4;
         nearest = 1;
-        share = 1.0F;
+        sum = 1.0F;
         slack = 0.0F;
         StorePixel(LoadPixel(sharp), weights.data());
     }
@@ -191,7 +191,7 @@ inline void WeighTaps(double position, float scale, Taps& taps) {
         sums = sums + weight;
         StorePair(weight, taps.weights.data() + n);
     }
-    taps.share = 1.0F / SumOf(First(sums) + Second(sums));
+    taps.sum = SumOf(First(sums) + Second(sums));
 }
 
 inline Pixel Blend(const float* corner, std::ptrdiff_t pitch, const Taps& across, const Taps& up) {
@@ -205,7 +205,7 @@ inline Pixel Blend(const float* corner, std::ptrdiff_t pitch, const Taps& across
         const float* const weights = &across.weights[static_cast<std::size_t>(n)];
         sum = sum + column * PairOf(weights[0], weights[1]);
     }
-    return (First(sum) + Second(sum)) * Every(across.share * up.share);
+    return (First(sum) + Second(sum)) * Every(1.0F / (across.sum * up.sum));
 }
 
 // A line of neighbours a step apart.
@@ -217,7 +217,7 @@ inline Pixel LineColour(const float* pixels, std::ptrdiff_t step, const Taps& ta
     }
     const float* const nearest = pixels + taps.nearest * step;
     const Range range = Range::OfTwo(LoadPixel(nearest), LoadPixel(nearest + step));
-    return range.With(taps.slack).Nearest(sum * Every(taps.share));
+    return range.With(taps.slack).Nearest(sum * Every(1.0F / taps.sum));
 }
 
 // First along one axis, in lines, then over the lines.
@@ -232,7 +232,7 @@ inline Pixel MixedColour(const float* corner, std::ptrdiff_t step, const Taps& a
         below = n == lines.nearest ? line : below;
         above = n == lines.nearest + 1 ? line : above;
     }
-    return Range::OfTwo(below, above).With(lines.slack).Nearest(sum * Every(lines.share));
+    return Range::OfTwo(below, above).With(lines.slack).Nearest(sum * Every(1.0F / lines.sum));
 }
 
 // Where both axes are smooth nothing can ring much, but what is nowhere below black does not get
@@ -270,12 +270,12 @@ HWY_NOINLINE void PutWideColour(const LightView& view, const FineRun& run, int n
     const auto k = static_cast<std::size_t>(n) % pixelsAhead;
     Taps across;
     Taps up;
-    if (run.scaleX[n] > 1.0F) {
+    if (run.scaleX[n] > sharpUntil) {
         WeighTaps(run.x[n], run.scaleX[n], across);
     } else {
         across.TakeSharp(sharp.x[k], &sharp.weightsX[4 * k]);
     }
-    if (run.scaleY[n] > 1.0F) {
+    if (run.scaleY[n] > sharpUntil) {
         WeighTaps(run.y[n], run.scaleY[n], up);
     } else {
         up.TakeSharp(sharp.y[k], &sharp.weightsY[4 * k]);
@@ -292,7 +292,7 @@ void SampleLightImpl(const LightView& view, const FineRun& run, float* out) {
         }
         if (!(run.share[n] > 0.0F)) {
             StorePixel(Every(0.0F), out);
-        } else if (run.scaleX[n] <= 1.0F && run.scaleY[n] <= 1.0F) {
+        } else if (run.scaleX[n] <= sharpUntil && run.scaleY[n] <= sharpUntil) {
             PutSharpColour(view, sharp, ahead, out);
         } else {
             PutWideColour(view, run, n, sharp, out);

@@ -7,11 +7,13 @@
 // nothing.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <span>
+#include <type_traits>
 
 #include "remap/image/transfer_curve.h"
 
@@ -70,6 +72,17 @@ void SampleLight(const LightView& view, const FineRun& run, float* out);
 
 // From light to samples of 0 to 1, four numbers for each pixel, of which the fourth stays.
 void CodeLight(const TransferCurve& curve, std::span<float> pixels);
+
+// A level of 0 to 1 as the nearest sample; floating-point ones keep it.
+template <class Sample>
+Sample NearestSample(float level) {
+    if constexpr (std::is_same_v<Sample, float>) {
+        return level;
+    } else {
+        constexpr auto most = static_cast<float>(std::numeric_limits<Sample>::max());
+        return static_cast<Sample>(std::clamp(level * most + 0.5F, 0.0F, most));
+    }
+}
 
 // Samples of 0 to 1 to bytes or words, blue, green and red of each pixel.
 void StoreBytes(std::span<const float> pixels, std::uint8_t* out);

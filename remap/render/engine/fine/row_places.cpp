@@ -38,15 +38,23 @@ float ShareWithin(double rows) {
     return static_cast<float>(std::clamp(rows + 0.5, 0.0, 1.0));
 }
 
-// Of a finder whose rows have nothing in common.
+// Of a finder that works out rows by themselves.
 template <class Finder>
 class RowsBy : public PlaceRows {
   public:
-    explicit RowsBy(const Finder& finder) : finder_(finder) {}
-    void Fill(const PlaceRun& run, Places& into) override { finder_.Find(run, into); }
+    RowsBy(const Finder& finder, LineRange up) : finder_(finder), first_(up.first) {
+        for (int y = up.first; y <= up.last; ++y) {
+            rows_.push_back(finder.RowAt(y));
+        }
+    }
+    void Fill(const PlaceRun& run, Places& into) override {
+        finder_.Find(run, rows_[static_cast<std::size_t>(run.y - first_)], into);
+    }
 
   private:
     const Finder& finder_;
+    int first_;
+    std::vector<typename Finder::Row> rows_;
 };
 
 class StraightPlaces : public PlaceFinder {
@@ -59,33 +67,39 @@ class StraightPlaces : public PlaceFinder {
         ones_.assign(columns_.size(), 1.0);
     }
 
-    std::unique_ptr<PlaceRows> RowsOf(LineRange /*across*/, LineRange /*up*/) const override {
-        return std::make_unique<RowsBy<StraightPlaces>>(*this);
+    std::unique_ptr<PlaceRows> RowsOf(LineRange /*across*/, LineRange up) const override {
+        return std::make_unique<RowsBy<StraightPlaces>>(*this, up);
     }
-    void Find(const PlaceRun& run, Places& into) const {
+    struct Row {
+        double stretch;  // pixels of the photo for each column
+        double bend;     // how much more in the next row
+        double y;
+        float within;
+    };
+    Row RowAt(int position) const {
+        const int row = std::abs(position);
+        return {StretchOf(row), (StretchOf(row + 1) - StretchOf(std::abs(row - 1))) / 2.0,
+                map_.Circle().sourceCentre.y + (position < 0 ? -1.0 : 1.0) * map_.HeightOf(row),
+                ShareWithin(map_.Radius() - row)};
+    }
+    void Find(const PlaceRun& run, const Row& row, Places& into) const {
         const ImageCircleGeometry& circle = map_.Circle();
-        const int row = std::abs(run.y);
-        const double stretch = StretchOf(row);
-        const double bend = (StretchOf(row + 1) - StretchOf(std::abs(row - 1))) / 2.0;
-        const float scaleY = static_cast<float>(1.0 / circle.scale);
-        const double y = circle.sourceCentre.y + (run.y < 0 ? -1.0 : 1.0) * map_.HeightOf(row);
-        const float within = ShareWithin(map_.Radius() - row);
+        const auto scaleY = static_cast<float>(1.0 / circle.scale);
         const double* const columns = &columns_[static_cast<std::size_t>(run.x - first_)];
         const auto count = static_cast<std::size_t>(run.count);
         for (std::size_t n = 0; n < count; ++n) {
-            into.x[run.at + n] = circle.sourceCentre.x + columns[n] * stretch;
+            into.x[run.at + n] = circle.sourceCentre.x + columns[n] * row.stretch;
         }
-        std::fill_n(&into.y[run.at], run.count, y);
+        std::fill_n(&into.y[run.at], run.count, row.y);
         std::fill_n(&into.scaleY[run.at], run.count, scaleY);
-        FillLengths({ones_.data(), columns, stretch, bend}, {&into.scaleX[run.at], count});
-        const double widest =
-            stretch + std::fabs(bend) * std::max(std::abs(run.x), std::abs(run.x + run.count));
-        FillShares(run, within, stretch * run.count + widest + static_cast<double>(scaleY), photo_,
-                   into);
+        FillLengths({ones_.data(), columns, row.stretch, row.bend}, {&into.scaleX[run.at], count});
+        const int farthest = std::max(std::abs(run.x), std::abs(run.x + run.count));
+        const double widest = row.stretch + std::fabs(row.bend) * farthest;
+        FillShares(run, row.within, row.stretch * run.count + widest + static_cast<double>(scaleY),
+                   photo_, into);
     }
 
   private:
-    // Pixels of the photo for each column.
     double StretchOf(int row) const {
         return map_.Plain(row) ? 1.0 : map_.Chord(row) / map_.Radius();
     }
@@ -108,12 +122,13 @@ class CirclePlaces : public PlaceFinder {
         turn_ = std::fabs(map.Angle(2) - map.Angle(1));
     }
 
-    std::unique_ptr<PlaceRows> RowsOf(LineRange /*across*/, LineRange /*up*/) const override {
-        return std::make_unique<RowsBy<CirclePlaces>>(*this);
+    std::unique_ptr<PlaceRows> RowsOf(LineRange /*across*/, LineRange up) const override {
+        return std::make_unique<RowsBy<CirclePlaces>>(*this, up);
     }
-    void Find(const PlaceRun& run, Places& into) const {
+    using Row = double;  // its radius on the photo
+    Row RowAt(int position) const { return map_.SourceRadius(position); }
+    void Find(const PlaceRun& run, Row radius, Places& into) const {
         const ImageCircleGeometry& circle = map_.Circle();
-        const double radius = map_.SourceRadius(run.y);
         const double outward = static_cast<double>(run.height) / circle.scale;
         const double around = radius * turn_;
         const float within = ShareWithin((static_cast<double>(circle.radius) - radius) / outward);

@@ -26,7 +26,7 @@ constexpr char asf[] = "\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62
 constexpr char mxf[] = "\x06\x0E\x2B\x34\x02\x05\x01\x01\x0D\x01\x02\x01\x01";
 
 // By which a container is known without more ado.
-const std::array signatures{
+constexpr std::array signatures{
     Signature{8, "AVI "},       Signature{0, QByteArrayView("\0\0\1\xBA", 4)},
     Signature{0, {asf, 16}},    Signature{0, {"FLV\1", 4}},
     Signature{0, {mxf, 13}},    Signature{0, "DKIF"},

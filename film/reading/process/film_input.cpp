@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstring>
 #include <limits>
 #include <new>
+#include <span>
 
 namespace varnel {
 
@@ -113,6 +115,31 @@ std::int64_t FilmInput::SeekBytes(void* input, std::int64_t offset, int whence) 
     return self.place_;
 }
 
+bool FilmInput::IsCutBox() const {
+    std::int64_t place = 0;
+    bool isMovie = false;
+    while (place < length_) {
+        // Length and name; 1 stands for a length of 8 bytes behind them, 0 for all that is left.
+        std::array<std::uint8_t, 16> head{};
+        if (pread(file_.Get(), head.data(), head.size(), place) < 8) {
+            return true;
+        }
+        const bool isLong = AV_RB32(head.data()) == 1;
+        const std::uint64_t length = isLong ? AV_RB64(head.data() + 8) : AV_RB32(head.data());
+        const bool isKnown = std::ranges::all_of(
+            std::span(head).subspan(4, 4), [](std::uint8_t c) { return c >= ' ' && c < 0x7F; });
+        if (!isKnown || length < (isLong ? 16U : 8U)) {
+            return false;
+        }
+        if (length > static_cast<std::uint64_t>(length_ - place)) {
+            return true;
+        }
+        isMovie = isMovie || std::memcmp(head.data() + 4, "moov", 4) == 0;
+        place += static_cast<std::int64_t>(length);
+    }
+    return !isMovie;
+}
+
 Reason FilmInput::Open() {
     container_->pb = bytes_;
     container_->flags |= AVFMT_FLAG_CUSTOM_IO;
@@ -121,9 +148,7 @@ Reason FilmInput::Open() {
     container_->format_whitelist = av_strdup(containers);
     // Frees the container where it fails.
     if (const int error = avformat_open_input(&container_, nullptr, nullptr, nullptr); error < 0) {
-        return error == AVERROR_INVALIDDATA
-                   ? Reason(ReasonCode::Damaged, Reason(ReasonCode::NoKnownFilm))
-                   : LibavReason(error);
+        return IsCutBox() ? Reason(ReasonCode::FileCutShort) : LibavReason(error);
     }
     if (const int error = avformat_find_stream_info(container_, nullptr); error < 0) {
         return LibavReason(error);

@@ -34,6 +34,10 @@ class FilmInput {
     static int ReadBytes(void* input, std::uint8_t* bytes, int length);
     static std::int64_t SeekBytes(void* input, std::int64_t offset, int whence);
 
+    // Whether it is made of boxes, and they end beyond the file or the one about the film is
+    // missing.
+    bool IsCutBox() const;
+
     Descriptor file_;
     std::int64_t length_ = 0;
     std::int64_t place_ = 0;

@@ -18,6 +18,7 @@ namespace {
 constexpr int mostReadErrors = 100;      // one after the other
 constexpr std::uint64_t memoryPart = 4;  // of the machine's, that frames here may take
 constexpr double cutShort = 1.0;         // seconds that are missing at least
+constexpr int cutPictures = 10;          // likewise
 
 // Only that is the same from frame to frame.
 bool IsAlike(const FrameFormat& one, const FrameFormat& other) {
@@ -129,7 +130,12 @@ void FilmSource::TakePacket(const AVPacket& packet) {
     }
     if (packet.stream_index == film_.picture) {
         farthestEntry_ = std::max(farthestEntry_, packet.dts);
-        decoder_.Put(&packet);
+        ++pictures_;
+        if (av_packet_get_side_data(&packet, AV_PKT_DATA_ENCRYPTION_INFO, nullptr) != nullptr) {
+            AddEnd(ReasonCode::FilmEncrypted);
+        } else {
+            decoder_.Put(&packet);
+        }
     } else if (request_.packets &&
                static_cast<std::size_t>(packet.stream_index) < film_.streams.size() &&
                static_cast<std::uint64_t>(packet.size) < longestPayload / 2) {
@@ -238,6 +244,10 @@ Reason FilmSource::EndReason() const {
     if (readErrors_ >= mostReadErrors) {
         return ReasonCode::FileCutShort;
     }
+    // Stated by the head; what is dropped in recording may be counted there, too.
+    if (!sought_ && stream->nb_frames - stream->nb_frames / 20 > pictures_ + cutPictures) {
+        return ReasonCode::FileCutShort;
+    }
     const bool isStated = container.duration != AV_NOPTS_VALUE &&
                           container.duration_estimation_method == AVFMT_DURATION_FROM_STREAM;
     const double start = container.start_time != AV_NOPTS_VALUE
@@ -248,6 +258,7 @@ Reason FilmSource::EndReason() const {
 }
 
 FilmOutput FilmSource::Seek(double seconds) {
+    sought_ = true;
     const AVRational base = input_.Picture().time_base;
     const double units = seconds / av_q2d(base);
     constexpr double farthest = 1e15;

@@ -70,7 +70,9 @@ class FilmSource {
     std::int64_t firstPts_ = 0;            // of the film's first frame
     double farthest_ = 0.0;                // seconds, where the last packets end
     std::int64_t farthestEntry_ = noTime;  // as the container's index counts
+    std::int64_t pictures_ = 0;            // packets of the picture so far
     int readErrors_ = 0;
+    bool sought_ = false;
     bool opened_ = false;
     bool drained_ = false;
     bool ended_ = false;

@@ -130,7 +130,7 @@ extern "C" const char* __asan_default_options() {
 int main() {
     varnel::KeepFreedMemory();
     setenv("TZ", ":/etc/localtime", 0);
-    av_log_set_level(AV_LOG_QUIET);
+    varnel::ListenForDamage();
     varnel::Confine();
     varnel::Run();
     // Not through the exit handlers: what damaged films left in the libraries' memory is of no

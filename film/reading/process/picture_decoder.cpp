@@ -4,6 +4,8 @@
 #include "film/reading/process/picture_decoder.h"
 
 #include <algorithm>
+#include <cstdarg>
+#include <cstring>
 #include <new>
 
 #include "film/reading/process/film_input.h"
@@ -33,7 +35,31 @@ std::int64_t UsualDuration(const AVStream& stream) {
     return std::clamp<std::int64_t>(av_rescale_q(1, av_inv_q(rate), stream.time_base), 1, latest);
 }
 
+// The time of a packet, which is what its frame is known by.
+std::int64_t PacketTime(const AVPacket& packet) {
+    return Sane(packet.pts != AV_NOPTS_VALUE ? packet.pts : packet.dts);
+}
+
+// Called on the codec's own threads, each of which has a context of its own with the packet that it
+// works on. What H.264 calls an error is often none to be seen; where it has to make up a part of
+// the picture, that is told as other codecs of its time do.
+void NoteDamage(void* context, int level, const char* format, va_list /*arguments*/) {
+    if (context == nullptr || *static_cast<const AVClass**>(context) != avcodec_get_class()) {
+        return;
+    }
+    const auto& codec = *static_cast<const AVCodecContext*>(context);
+    const bool isConcealed = std::strncmp(format, "concealing ", 11) == 0;
+    const bool isError = level <= AV_LOG_ERROR && codec.codec_id != AV_CODEC_ID_H264;
+    if (codec.opaque != nullptr && (isConcealed || isError)) {
+        static_cast<DamageNotes*>(codec.opaque)->Add(codec.reordered_opaque);
+    }
+}
+
 }  // namespace
+
+void ListenForDamage() {
+    av_log_set_callback(&NoteDamage);
+}
 
 Reason PictureDecoder::Open(AVStream& stream) {
     const AVCodec* const decoder = avcodec_find_decoder(stream.codecpar->codec_id);
@@ -44,6 +70,7 @@ Reason PictureDecoder::Open(AVStream& stream) {
     avcodec_parameters_to_context(codec_.get(), stream.codecpar);
     codec_->pkt_timebase = stream.time_base;
     codec_->thread_count = threads;
+    codec_->opaque = &damage_;
     usualDuration_ = UsualDuration(stream);
     const int error = avcodec_open2(codec_.get(), decoder, nullptr);
     return error < 0 ? LibavReason(error) : Reason();
@@ -54,9 +81,13 @@ void PictureDecoder::NoteError() {
 }
 
 void PictureDecoder::Put(const AVPacket* packet) {
-    if (packet != nullptr && Sane(packet->pts) != noTime &&
-        (packet->flags & AV_PKT_FLAG_DISCARD) == 0 && waiting_.size() < mostWaiting) {
-        waiting_.insert(packet->pts);
+    if (packet != nullptr) {
+        const std::int64_t time = PacketTime(*packet);
+        codec_->reordered_opaque = time;
+        if (time != noTime && (packet->flags & AV_PKT_FLAG_DISCARD) == 0 &&
+            waiting_.size() < mostWaiting) {
+            waiting_.insert(time);
+        }
     }
     const int error = avcodec_send_packet(codec_.get(), packet);
     if (error < 0 && error != AVERROR_EOF && error != AVERROR(EAGAIN)) {
@@ -122,8 +153,8 @@ std::int64_t PictureDecoder::TimeOf(std::int64_t stated) const {
 
 void PictureDecoder::AddPicture(FrameHandle picture) {
     const std::int64_t stated = Sane(picture->best_effort_timestamp);
+    waiting_.erase(picture->reordered_opaque);
     if (stated != noTime) {
-        waiting_.erase(stated);
         if (from_ != noTime && stated < from_) {
             return;
         }
@@ -136,6 +167,9 @@ void PictureDecoder::AddPicture(FrameHandle picture) {
     frame.key = picture->key_frame != 0;
     frame.isDamaged =
         (picture->flags & AV_FRAME_FLAG_CORRUPT) != 0 || picture->decode_error_flags != 0;
+    const bool isNoted = damage_.Take(picture->reordered_opaque);
+    // References that a stream's beginning lacks are no damage.
+    frame.isDamaged = frame.isDamaged || (isNoted && last_ != noTime);
     // An error that lost no frame was one within this one.
     const auto isPast = [&](std::int64_t time) { return time <= frame.pts; };
     if (std::erase_if(errors_, isPast) > 0) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <deque>
+#include <mutex>
 #include <set>
 #include <vector>
 
@@ -23,6 +24,27 @@ struct DecodedFrame {
     bool key = false;
     bool isDamaged = false;
 };
+
+// Times of packets whose pictures the codec told to be damaged: not all codecs mark the frames
+// themselves, and those that do forget it between their threads.
+class DamageNotes {
+  public:
+    void Add(std::int64_t time) {
+        const std::lock_guard lock(mutex_);
+        times_.insert(time);
+    }
+    bool Take(std::int64_t time) {
+        const std::lock_guard lock(mutex_);
+        return times_.erase(time) > 0;
+    }
+
+  private:
+    std::mutex mutex_;
+    std::set<std::int64_t> times_;
+};
+
+// The library's messages go there from now on, and nowhere else.
+void ListenForDamage();
 
 class PictureDecoder {
   public:
@@ -45,6 +67,7 @@ class PictureDecoder {
     void AddPicture(FrameHandle picture);
     std::int64_t TimeOf(std::int64_t stated) const;
 
+    DamageNotes damage_;
     CodecHandle codec_;
     std::int64_t usualDuration_ = 1;  // in the stream's time base
     std::int64_t from_ = noTime;

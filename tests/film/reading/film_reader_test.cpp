@@ -271,5 +271,59 @@ TEST(FilmReader, SeeksToTheKeyFrameAtOrBefore) {
     }
 }
 
+// As cameras do: the matrix stands in the track's head, 40 bytes behind its name.
+void Turn(const QString& path, int degrees) {
+    QByteArray bytes = testing::Contents(path);
+    const qsizetype place = bytes.indexOf("tkhd") + 4 + 40;
+    const QByteArray one("\0\1\0\0", 4);
+    const QByteArray less("\xFF\xFF\0\0", 4);
+    const QByteArray none(4, '\0');
+    const QByteArray a = degrees == 0 ? one : degrees == 180 ? less : none;
+    const QByteArray b = degrees == 90 ? one : degrees == 270 ? less : none;
+    const QByteArray c = degrees == 90 ? less : degrees == 270 ? one : none;
+    bytes.replace(place, 20, a + b + none + c + a);
+    testing::WriteFile(path, bytes);
+}
+
+TEST(FilmReader, FramesComeUprightAndTheTurnIsTold) {
+    const FilmFolder folder;
+    const struct {
+        int degrees;
+        const char* pixels;
+        ChromaLayout chroma;
+    } rows[] = {
+        {0, "yuv420p", ChromaLayout::C420},   {90, "yuv420p", ChromaLayout::C420},
+        {180, "yuv420p", ChromaLayout::C420}, {270, "yuv420p", ChromaLayout::C420},
+        {90, "yuv444p", ChromaLayout::C444},  {270, "yuv420p10", ChromaLayout::C420},
+        {90, "yuv422p", ChromaLayout::C444},
+    };
+    for (const auto& row : rows) {
+        const QByteArray name = QByteArray::number(row.degrees) + row.pixels + ".mp4";
+        const QString path = folder.Make(
+            name.constData(),
+            QByteArray("-f lavfi -i testsrc2=s=66x48:d=0.2 -vf setsar=4/3 -c:v libx264 -pix_fmt ") +
+                row.pixels);
+        Turn(path, row.degrees);
+        const ReadFilm film = ReadWhole(path);
+        ASSERT_TRUE(film.error.isEmpty()) << name.constData() << TextOf(film.error);
+        const bool isSideways = row.degrees % 180 == 90;
+        EXPECT_EQ(film.info.turnedBy, row.degrees);
+        EXPECT_EQ(film.info.format.size.width, isSideways ? 48 : 66);
+        EXPECT_EQ(film.info.format.chroma, row.chroma) << name.constData();
+        EXPECT_EQ(film.info.sampleAspect.num, isSideways ? 3 : 4);
+        EXPECT_TRUE(film.info.streams[0].sideData.empty()) << name.constData();
+        if (row.pixels != QByteArray("yuv422p")) {
+            EXPECT_TRUE(film.AllFrames() ==
+                        OutputOf(QStringLiteral("ffmpeg"),
+                                 Words("-v error -i") + QStringList{path} +
+                                     Words("-fps_mode passthrough -f rawvideo -")))
+                << name.constData();
+        }
+        const ReadFilm asItIs = ReadWhole(path, {.upright = false});
+        EXPECT_EQ(asItIs.info.turnedBy, 0);
+        EXPECT_TRUE(asItIs.AllFrames() == Decoded(path)) << name.constData();
+    }
+}
+
 }  // namespace
 }  // namespace varnel

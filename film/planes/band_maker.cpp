@@ -4,6 +4,7 @@
 #include "film/planes/band_maker.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "film/planes/cubic_patch.h"
@@ -35,8 +36,10 @@ bool IsInside(double x, double y, PixelSize plane) {
     return x >= 0.0 && x < plane.width - samplesRead + 1 && y >= 0.0 && y < plane.height - 1;
 }
 
+// To the nearest, as adding leaves it in the low bits.
 std::int32_t FixedOf(double place) {
-    return static_cast<std::int32_t>(std::lround(place * placesPerSample));
+    constexpr double shift = 6755399441055744.0;  // 1.5 * 2^52
+    return static_cast<std::int32_t>(std::bit_cast<std::int64_t>(place * placesPerSample + shift));
 }
 
 }  // namespace
@@ -146,7 +149,7 @@ void BandMaker::Make(int cellRow, Band& band) const {
 }
 
 BandMaker::Way BandMaker::WayOf(const CellArea& area) const {
-    if (places_.Smooth() == nullptr) {
+    if (!places_.IsSmooth()) {
         return Way::OneByOne;
     }
     const auto [firstColumn, endColumn] = places_.Columns();
@@ -246,11 +249,9 @@ void BandMaker::TakePlaces(const Grid& grid, const CellPlaces& places, BandOfGri
 }
 
 void BandMaker::FillExactly(const CellArea& area, CellPlaces& places) const {
+    const auto columns = static_cast<std::size_t>(area.right - area.left);
     for (int row = area.top; row < area.bottom; ++row) {
-        for (int column = area.left; column < area.right; ++column) {
-            places.At(row - area.top, column - area.left) =
-                places_.At(column, row).value_or(SourcePosition{none, none});
-        }
+        places_.Row(row, area.left, {&places.At(row - area.top, 0), columns});
     }
     places.Repeat(area);
 }
@@ -267,8 +268,7 @@ void BandMaker::FillByInside(const CellArea& area, CellPlaces& places) const {
             const double share = shares.At(row, column);
             SourcePosition& place = places.At(row, column);
             if (!(std::fabs(share) > close)) {
-                place = places_.At(area.left + column, area.top + row)
-                            .value_or(SourcePosition{none, none});
+                place = places_.At(area.left + column, area.top + row);
             } else if (share > 0.0) {
                 place = {x.At(row, column), y.At(row, column)};
             } else {

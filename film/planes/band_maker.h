@@ -11,7 +11,7 @@ namespace varnel {
 
 class BandMaker {
   public:
-    // The nodes are looked at where the places are of a smooth map only. All have to outlive it.
+    // The nodes are looked at where the places are smooth only. All have to outlive it.
     BandMaker(const MapPlaces& places, const NodeLattice& nodes, const FrameFormat& source,
               const FrameFormat& result);
 

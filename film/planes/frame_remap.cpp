@@ -62,7 +62,7 @@ struct FrameRemap::Tables {
 void FrameRemap::Tables::Make(BlockRunner& runner) {
     result = RemappedFormat(source, *image);
     const MapPlaces places(projection, *image, source.size);
-    if (places.Smooth() != nullptr) {
+    if (places.IsSmooth()) {
         nodes.Fill(places, runner);
     }
     const BandMaker maker(places, nodes, source, result);

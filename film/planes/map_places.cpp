@@ -3,11 +3,17 @@
 
 #include "film/planes/map_places.h"
 
+#include <cmath>
+
 #include "base/rounding.h"
+#include "remap/projection/circle_rows.h"
+#include "remap/projection/straight_rows.h"
 
 namespace varnel {
 
 namespace {
+
+constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
 // The shown lines where their positions go up by one from each to the next; otherwise nothing.
 std::optional<MapPlaces::Shown> RunOf(const std::vector<ResultLine>& lines) {
@@ -31,39 +37,108 @@ std::optional<MapPlaces::Shown> RunOf(const std::vector<ResultLine>& lines) {
     return run;
 }
 
+// Rows as they are: at whole positions, and where nodes lie the map is as smooth as its circle.
+class RowNodes : public SmoothNodes {
+  public:
+    explicit RowNodes(const StraightRows& map) : map_(map) {}
+    void Fill(const NodeRun& run, const NodeValues& into) const override {
+        for (std::size_t n = 0; n < into.u.size(); ++n) {
+            const auto x = static_cast<int>(run.PlaceOf(n));
+            const SourceOffset offset = map_.OffsetAt(x, run.y);
+            into.u[n] = offset.u;
+            into.v[n] = offset.v;
+        }
+    }
+
+  private:
+    const StraightRows& map_;
+};
+
 }  // namespace
 
 MapPlaces::MapPlaces(Projection projection, const ImageRecord& image, PixelSize source)
     : mapping_(projection, image, source), readsWholeRows_(mapping_.Map().AsSmooth() == nullptr) {
+    const StraightRows* const straight = mapping_.Map().AsStraightRows();
+    const bool keepsRows = straight != nullptr && straight->Circle().scale == 1.0;
+    if (!readsWholeRows_ || keepsRows) {
+        TakeRuns();
+    }
+    if (mapping_.Map().AsCircleRows() != nullptr) {
+        TakeAngles();
+    }
+}
+
+void MapPlaces::TakeRuns() {
     const ResultLines& lines = mapping_.Lines();
     const auto columns = RunOf(lines.columns);
     const auto rows = RunOf(lines.rows);
-    if (readsWholeRows_ || !columns || !rows || columns->end == 0 || rows->end == 0) {
+    if (!columns || !rows || columns->end == 0 || rows->end == 0) {
         return;
     }
     const int height = mapping_.ResultSize().height;
-    smooth_ = mapping_.Map().AsSmooth();
+    isSmooth_ = true;
     columns_ = *columns;
     rows_ = {height - rows->end, height - rows->first};
     firstX_ = lines.columns[static_cast<std::size_t>(columns->first)].position - columns->first;
     firstY_ = lines.rows[static_cast<std::size_t>(rows->end - 1)].position + rows_.first;
 }
 
-std::optional<SourcePosition> MapPlaces::At(int column, int row) const {
+// The left half is the mirror image of the right one.
+void MapPlaces::TakeAngles() {
+    for (const ResultLine& line : mapping_.Lines().columns) {
+        const double angle = mapping_.Map().AsCircleRows()->Angle(std::abs(line.position));
+        cosines_.push_back(line.position > 0 ? std::cos(angle) : -std::cos(angle));
+        sines_.push_back(std::sin(angle));
+    }
+}
+
+std::unique_ptr<SmoothNodes> MapPlaces::Nodes() const {
+    if (const SmoothMap* const smooth = mapping_.Map().AsSmooth()) {
+        return smooth->Nodes();
+    }
+    return std::make_unique<RowNodes>(*mapping_.Map().AsStraightRows());
+}
+
+SourcePosition MapPlaces::At(int column, int row) const {
     const int height = ResultSize().height;
     const int fromBottom = height - 1 - row;
     const PixelSize source = SourceSize();
     if (mapping_.Untouched(column, fromBottom)) {
         const bool keepsSource = source.width == ResultSize().width && source.height == height;
-        return keepsSource ? std::optional(SourcePosition{static_cast<double>(column),
-                                                          static_cast<double>(row)})
-                           : std::nullopt;
+        return keepsSource ? SourcePosition{static_cast<double>(column), static_cast<double>(row)}
+                           : SourcePosition{none, none};
     }
-    std::optional<SourcePosition> place = mapping_.ReadAt(column, fromBottom);
-    if (place) {
-        place->y = source.height - 1 - (readsWholeRows_ ? Round(place->y) : place->y);
+    const std::optional<SourcePosition> place = mapping_.ReadAt(column, fromBottom);
+    if (!place) {
+        return {none, none};
     }
-    return place;
+    return readsWholeRows_ ? OnWholeRow(*place)
+                           : SourcePosition{place->x, source.height - 1 - place->y};
+}
+
+SourcePosition MapPlaces::OnWholeRow(SourcePosition place) const {
+    return {place.x, SourceSize().height - 1 - Round(place.y)};
+}
+
+void MapPlaces::Row(int row, int firstColumn, std::span<SourcePosition> places) const {
+    const ResultLine& line =
+        mapping_.Lines().rows[static_cast<std::size_t>(ResultSize().height - 1 - row)];
+    const CircleRows* const circles = mapping_.Map().AsCircleRows();
+    if (circles == nullptr || line.kind != ResultLine::Kind::Shown) {
+        for (std::size_t n = 0; n < places.size(); ++n) {
+            places[n] = At(firstColumn + static_cast<int>(n), row);
+        }
+        return;
+    }
+    // As CircleRows::At, without its angles over and over again.
+    const double radius = circles->SourceRadius(line.position);
+    for (std::size_t n = 0; n < places.size(); ++n) {
+        const std::size_t column = static_cast<std::size_t>(firstColumn) + n;
+        const bool isShown = mapping_.Lines().columns[column].kind == ResultLine::Kind::Shown;
+        places[n] = isShown ? OnWholeRow({mapping_.Centre().x + radius * cosines_[column],
+                                          mapping_.Centre().y + radius * sines_[column]})
+                            : SourcePosition{none, none};
+    }
 }
 
 }  // namespace varnel

@@ -2,12 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Where each pixel of a result is read, exactly as the conversion of a photo reads it. Rows count
-// from the top row. Constructing throws what maps throw, the rest nothing.
+// from the top row. Constructing throws what maps throw, the rest nothing but for want of memory.
 #pragma once
 
-#include <optional>
+#include <span>
 
 #include "remap/analysis/inverse_mapping.h"
+#include "remap/projection/smooth_map.h"
 
 namespace varnel {
 
@@ -17,17 +18,18 @@ class MapPlaces {
 
     PixelSize SourceSize() const { return mapping_.SourceSize(); }
     PixelSize ResultSize() const { return mapping_.ResultSize(); }
-    // Nothing where nothing is shown. Pixels that no loop writes have their own place of a source
-    // as large as the result.
-    std::optional<SourcePosition> At(int column, int row) const;
+    // Those of a row from a column on; x is not a number where nothing is shown. Pixels that no
+    // loop writes have their own place of a source as large as the result.
+    void Row(int row, int firstColumn, std::span<SourcePosition> places) const;
+    SourcePosition At(int column, int row) const;
 
-    // A smooth map whose columns and rows follow each other without a gap where they are shown;
-    // null for any other.
-    const SmoothMap* Smooth() const { return smooth_; }
-    // What its map is asked for at column 0 and at row 0, and that it grows to the right and
-    // upward.
-    int FirstX() const { return firstX_; }
-    int FirstY() const { return firstY_; }
+    // Whether positions between those of the result exist, that is, the columns and rows that are
+    // shown follow each other without a gap and no row of the photo is read as a whole.
+    bool IsSmooth() const { return isSmooth_; }
+    // These take runs in the map's own positions, and are there where it is smooth.
+    std::unique_ptr<SmoothNodes> Nodes() const;
+    int FirstX() const { return firstX_; }  // of column 0; the next one's is larger
+    int FirstY() const { return firstY_; }  // of row 0; the next one's is less
     // The columns and rows first to end - 1 that are shown.
     struct Shown {
         int first = 0, end = 0;
@@ -40,12 +42,18 @@ class MapPlaces {
     }
 
   private:
+    void TakeRuns();
+    void TakeAngles();
+    SourcePosition OnWholeRow(SourcePosition place) const;
+
     InverseMapping mapping_;
     bool readsWholeRows_;
-    const SmoothMap* smooth_ = nullptr;
+    bool isSmooth_ = false;
     Shown columns_, rows_;
     int firstX_ = 0;
     int firstY_ = 0;
+    // By columns, of maps that unroll circles.
+    std::vector<double> cosines_, sines_;
 };
 
 }  // namespace varnel

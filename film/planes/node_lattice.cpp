@@ -11,7 +11,7 @@ void NodeLattice::Fill(const MapPlaces& places, BlockRunner& runner) {
     const auto nodesFor = [](int pixels) {
         return (pixels + cellSide - 1) / cellSide + 1 + 2 * nodesAround;
     };
-    const std::unique_ptr<SmoothNodes> nodes = places.Smooth()->Nodes();
+    const std::unique_ptr<SmoothNodes> nodes = places.Nodes();
     const int rows = nodesFor(places.ResultSize().height);
     columns_ = nodesFor(places.ResultSize().width);
     const std::size_t size = static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns_);

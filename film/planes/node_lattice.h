@@ -15,7 +15,7 @@ namespace varnel {
 
 class NodeLattice {
   public:
-    // The places' map is smooth. The memory of an earlier lattice is used again.
+    // The places are smooth. The memory of an earlier lattice is used again.
     void Fill(const MapPlaces& places, BlockRunner& runner);
 
     // Values at six nodes by six: [2][2] is the cell's upper left corner.

@@ -117,10 +117,10 @@ void DrawInside(const BandDrawing& drawing, const CellArea& area, const Position
     using Its = Shape<Floats>;
     const Floats d;
     const int reach = positions.Reach(drawing.samples);
-    for (int row = 0; row < area.rows; row += Its::rows) {
-        const typename Positions::template Rows<Floats> its(positions, row);
-        for (int k = 0; k < area.columns; k += Its::columns) {
-            const Places<Floats> at = its.At(k);
+    for (int k = 0; k < area.columns; k += Its::columns) {
+        const typename Positions::template Columns<Floats> its(positions, k);
+        for (int row = 0; row < area.rows; row += Its::rows) {
+            const Places<Floats> at = its.At(row);
             const Window<Sample, Floats> window(at, drawing.source, reach);
             for (const PlanePair& plane : drawing.planes) {
                 const Words<Floats> words = window.Fits()
@@ -141,10 +141,10 @@ template <class Sample, class Floats, class Positions>
 void DrawBorder(const BandDrawing& drawing, const CellArea& area, const Positions& positions) {
     using Its = Shape<Floats>;
     std::array<Sample, lanesAtMost> levels;
-    for (int row = 0; row < area.rows; row += Its::rows) {
-        const typename Positions::template Rows<Floats> its(positions, row);
-        for (int k = 0; k < area.columns; k += Its::columns) {
-            const Places<Floats> at = its.At(k);
+    for (int k = 0; k < area.columns; k += Its::columns) {
+        const typename Positions::template Columns<Floats> its(positions, k);
+        for (int row = 0; row < area.rows; row += Its::rows) {
+            const Places<Floats> at = its.At(row);
             for (const PlanePair& plane : drawing.planes) {
                 BlendBorder(drawing, plane, at, levels);
                 for (int n = 0; n < std::min(Its::rows, area.rows - row); ++n) {
@@ -219,17 +219,10 @@ void Fetch(const BandDrawing& drawing, std::size_t n) {
         std::max(top, top + down) + 1, first,
         std::min<std::ptrdiff_t>(first + 2 * cellSide, drawing.source.height - 1));
     const std::ptrdiff_t column = std::clamp<std::ptrdiff_t>(x, 0, drawing.source.width - 1);
-    const std::ptrdiff_t to = static_cast<std::ptrdiff_t>(n) * grid.CellColumns();
     for (const PlanePair& plane : drawing.planes) {
         const std::byte* from = plane.source.first + column * drawing.bytesPerSample;
         for (std::ptrdiff_t row = first; row <= last; ++row) {
             __builtin_prefetch(from + row * plane.source.pitch);
-        }
-        const int rows = std::min(grid.CellRows(), drawing.result.height - drawing.firstRow);
-        for (int row = 0; row < rows; ++row) {
-            __builtin_prefetch(plane.result.first + (drawing.firstRow + row) * plane.result.pitch +
-                                   to * drawing.bytesPerSample,
-                               1);
         }
     }
 }

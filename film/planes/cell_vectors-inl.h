@@ -106,37 +106,29 @@ struct Shape {
     }
 };
 
-// The polynomials of the rows of a vector: of x, then of y.
+// What a polynomial of a cell is along its columns: cubics of the share of the way down.
 template <class Floats>
-class RowPolynomials {
+class ColumnPolynomials {
   public:
-    // down: the shares of the way down the cell.
-    RowPolynomials(const CellPolynomial& cell, const std::array<float, 2>& down) {
-        const hn::CappedTag<float, 8> d;
-        for (std::size_t row = 0; row < Shape<Floats>::rows; ++row) {
-            const auto share = hn::Set(d, down[row]);
-            for (std::size_t n = 0; n < 8; n += hn::Lanes(d)) {
-                auto sum = TimesPlus(hn::Load(d, cell.c[3].data() + n), share,
-                                     hn::Load(d, cell.c[2].data() + n));
-                sum = TimesPlus(sum, share, hn::Load(d, cell.c[1].data() + n));
-                sum = TimesPlus(sum, share, hn::Load(d, cell.c[0].data() + n));
-                hn::Store(sum, d, c_[row].data() + n);
-            }
-        }
-    }
-    template <std::size_t from>
-    HWY_INLINE hn::Vec<Floats> At(hn::Vec<Floats> across) const {
-        auto sum = TimesPlus(C(from + 3), across, C(from + 2));
-        sum = TimesPlus(sum, across, C(from + 1));
-        return TimesPlus(sum, across, C(from));
+    // from: 0 for x, 4 for y. across: the shares of the columns.
+    ColumnPolynomials(const CellPolynomial& cell, std::size_t from, hn::Vec<Floats> across)
+        : c0_(Along(cell.c[0].data() + from, across)),
+          c1_(Along(cell.c[1].data() + from, across)),
+          c2_(Along(cell.c[2].data() + from, across)),
+          c3_(Along(cell.c[3].data() + from, across)) {}
+    HWY_INLINE hn::Vec<Floats> At(hn::Vec<Floats> down) const {
+        return TimesPlus(TimesPlus(TimesPlus(c3_, down, c2_), down, c1_), down, c0_);
     }
 
   private:
-    HWY_INLINE hn::Vec<Floats> C(std::size_t n) const {
-        return Shape<Floats>::ByRow(c_[0][n], c_[Shape<Floats>::rows - 1][n]);
+    static HWY_INLINE hn::Vec<Floats> Along(const float* c, hn::Vec<Floats> across) {
+        const Floats d;
+        auto sum = TimesPlus(hn::Set(d, c[3]), across, hn::Set(d, c[2]));
+        sum = TimesPlus(sum, across, hn::Set(d, c[1]));
+        return TimesPlus(sum, across, hn::Set(d, c[0]));
     }
 
-    alignas(32) std::array<std::array<float, 8>, 2> c_;
+    hn::Vec<Floats> c0_, c1_, c2_, c3_;
 };
 
 // An axis of a plane: how positions in samples of brightness from a base become its own.
@@ -190,31 +182,37 @@ class ByPolynomial {
         return 1 + static_cast<int>(std::min(rows, 100.0F));
     }
 
-    // From a row of the cell on.
+    // From a column of the cell on.
     template <class Floats>
-    class Rows {
+    class Columns {
       public:
-        Rows(const ByPolynomial& cell, int row)
-            : its_(cell), rows_(cell.cell_, {cell.ShareOf(row), cell.ShareOf(row + 1)}) {}
-        HWY_INLINE Places<Floats> At(int k) const {
+        Columns(const ByPolynomial& cell, int column)
+            : its_(cell),
+              x_(cell.cell_, 0, cell.Across<Floats>(column)),
+              y_(cell.cell_, 4, cell.Across<Floats>(column)) {}
+        HWY_INLINE Places<Floats> At(int row) const {
             const Floats d;
-            const auto column =
-                hn::Add(Shape<Floats>::Columns(), hn::Set(d, static_cast<float>(k)));
-            const auto across =
-                TimesPlus(column, hn::Set(d, its_.perColumn_), hn::Set(d, its_.firstColumn_));
+            const auto down = Shape<Floats>::ByRow(its_.Down(row), its_.Down(row + 1));
             Places<Floats> places;
-            its_.x_.Split(d, rows_.template At<0>(across), places.x, places.partX);
-            its_.y_.Split(d, rows_.template At<4>(across), places.y, places.partY);
+            its_.x_.Split(d, x_.At(down), places.x, places.partX);
+            its_.y_.Split(d, y_.At(down), places.y, places.partY);
             return places;
         }
 
       private:
         const ByPolynomial& its_;
-        RowPolynomials<Floats> rows_;
+        ColumnPolynomials<Floats> x_, y_;
     };
 
   private:
-    float ShareOf(int row) const { return static_cast<float>(row) * perRow_ + firstRow_; }
+    template <class Floats>
+    HWY_INLINE hn::Vec<Floats> Across(int column) const {
+        const Floats d;
+        const auto columns =
+            hn::Add(Shape<Floats>::Columns(), hn::Set(d, static_cast<float>(column)));
+        return TimesPlus(columns, hn::Set(d, perColumn_), hn::Set(d, firstColumn_));
+    }
+    float Down(int row) const { return static_cast<float>(row) * perRow_ + firstRow_; }
 
     const CellPolynomial& cell_;
     Axis x_, y_;
@@ -230,14 +228,15 @@ class ByList {
     int Reach(const SampleGrid& /*grid*/) const { return 3; }
 
     template <class Floats>
-    class Rows {
+    class Columns {
       public:
-        Rows(const ByList& cell, int row)
-            : x_(cell.block_ + 2 * row * cell.columns_), columns_(cell.columns_) {}
-        HWY_INLINE Places<Floats> At(int k) const {
+        Columns(const ByList& cell, int column)
+            : x_(cell.block_ + column), columns_(cell.columns_) {}
+        HWY_INLINE Places<Floats> At(int row) const {
+            const std::int32_t* const x = x_ + 2 * row * columns_;
             Places<Floats> places;
-            Take(x_ + k, places.x, places.partX);
-            Take(x_ + columns_ + k, places.y, places.partY);
+            Take(x, places.x, places.partX);
+            Take(x + columns_, places.y, places.partY);
             return places;
         }
 

@@ -276,13 +276,12 @@ class Window {
         : reach_(reach) {
 #if HWY_TARGET != HWY_SCALAR
         const IntsOf<Floats> ints;
-        const auto left = hn::MinOfLanes(ints, at.x);
-        const auto top = hn::MinOfLanes(ints, at.y);
-        left_ = hn::GetLane(left);
-        top_ = hn::GetLane(top);
+        const std::uint32_t corner = LeastHalves(ints, hn::Or(at.x, hn::ShiftLeft<16>(at.y)));
+        left_ = static_cast<std::int32_t>(corner & 0xFFFFU);
+        top_ = static_cast<std::int32_t>(corner >> 16U);
         const int samples = perWord * static_cast<int>(hn::Lanes(ints));
-        const auto x = hn::Sub(at.x, left);
-        y_ = hn::Sub(at.y, top);
+        const auto x = hn::Sub(at.x, hn::Set(ints, left_));
+        y_ = hn::Sub(at.y, hn::Set(ints, top_));
         word_ = hn::ShiftRight<perWord / 2>(x);
         isHalfway_ = IsSet(x, perWord / 2);
         isOdd_ = IsSet(x, 1);
@@ -321,6 +320,27 @@ class Window {
     static constexpr int perWord = 4 / sizeof(Sample);
     // Rows beyond two; with more of them loading one by one is as good.
     static constexpr std::int32_t mostRows = 4;
+
+#if HWY_TARGET != HWY_SCALAR
+    // The least of the low and of the high halves of all lanes.
+    template <class Ints>
+    static HWY_INLINE std::uint32_t LeastHalves(Ints ints, hn::Vec<Ints> value) {
+        if constexpr (hn::MaxLanes(ints) > 4) {
+            const hn::Half<Ints> half;
+            const auto low = hn::LowerHalf(half, value);
+            return LeastHalves(half, Lesser(half, low, hn::UpperHalf(half, value)));
+        } else {
+            value = Lesser(ints, value, hn::Shuffle1032(value));
+            value = Lesser(ints, value, hn::Shuffle2301(value));
+            return static_cast<std::uint32_t>(hn::GetLane(value));
+        }
+    }
+    template <class Ints>
+    static HWY_INLINE hn::Vec<Ints> Lesser(Ints ints, hn::Vec<Ints> a, hn::Vec<Ints> b) {
+        const hn::Repartition<std::uint16_t, Ints> halves;
+        return hn::BitCast(ints, hn::Min(hn::BitCast(halves, a), hn::BitCast(halves, b)));
+    }
+#endif
 
     static hn::Mask<IntsOf<Floats>> IsSet(VecI value, std::int32_t bit) {
         const IntsOf<Floats> ints;
@@ -377,12 +397,11 @@ template <class Sample, class Floats>
 HWY_INLINE LevelsOf<Sample, Floats> Blended(const Words<Floats>& words, const Places<Floats>& at,
                                             float rounding) {
     const Floats d;
-    const IntsOf<Floats> ints;
     const auto level = Between(Across<Sample>(d, words.upper, at.partX),
                                Across<Sample>(d, words.lower, at.partX), at.partY);
     const auto shifted = hn::Add(hn::Add(level, hn::Set(d, rounding)), hn::Set(d, wholeShift));
-    const auto whole = hn::And(hn::BitCast(ints, shifted), hn::Set(ints, 0xFFFF));
-    return hn::DemoteTo(hn::Rebind<Sample, Floats>(), whole);
+    return hn::TruncateTo(hn::Rebind<Sample, Floats>(),
+                          hn::BitCast(hn::Rebind<std::uint32_t, Floats>(), shifted));
 }
 
 }  // namespace HWY_NAMESPACE

@@ -4,6 +4,7 @@
 #include "film/planes/frame_remap.h"
 
 #include <gtest/gtest.h>
+#include <hwy/targets.h>
 
 #include "base/run_time_error.h"
 #include "base/thread_runner.h"
@@ -87,6 +88,42 @@ TEST(FrameRemap, IsTheSameInAnyOrderAndOnThreads) {
         FrameRemap remap;
         remap.Set(Projection::Panini, image, source.Format(), *runner);
         EXPECT_TRUE(AreEqual(Drawn(remap, source.View(), *runner), expected));
+    }
+}
+
+TEST(FrameRemap, IsTheSameOnEveryInstructionSet) {
+    for (const int bits : {8, 10}) {
+        const FrameBuffer source = Noise(Yuv({320, 206}, ChromaLayout::C420, bits));
+        for (const Projection projection : {Projection::Horizon, Projection::Equirectangular}) {
+            const FrameBuffer expected = Remapped(projection, View(150.0F), source.View());
+            for (const std::int64_t target : hwy::SupportedAndGeneratedTargets()) {
+                hwy::SetSupportedTargetsForTest(target);
+                EXPECT_TRUE(AreEqual(Remapped(projection, View(150.0F), source.View()), expected))
+                    << hwy::TargetName(target);
+            }
+            hwy::SetSupportedTargetsForTest(0);
+        }
+    }
+}
+
+// Rows that end at the very end of memory, and rows from the lowest up, which have a negative
+// pitch.
+TEST(FrameRemap, ReadsNothingBesideTheFrame) {
+    const FrameFormat format = Yuv({222, 130}, ChromaLayout::Grey);
+    const FrameBuffer source = Noise(format);
+    const FrameBuffer expected = Remapped(Projection::Stereographic, View(90.0F), source.View());
+    for (const bool upward : {false, true}) {
+        std::vector<std::byte> bytes(std::size_t{222} * 130);  // the sanitizers look at its ends
+        FrameView view{format, {}};
+        FrameTarget target{format, {}};
+        std::byte* const first = upward ? bytes.data() + std::ptrdiff_t{222} * 129 : bytes.data();
+        const std::ptrdiff_t pitch = upward ? -222 : 222;
+        view.planes[0] = {first, pitch};
+        target.planes[0] = {first, pitch};
+        ForEachSample(format, [&](int plane, int column, int row) {
+            PutSampleOf(target, plane, column, row, SampleOf(source.View(), plane, column, row));
+        });
+        EXPECT_TRUE(AreEqual(Remapped(Projection::Stereographic, View(90.0F), view), expected));
     }
 }
 

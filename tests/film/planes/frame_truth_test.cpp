@@ -110,7 +110,7 @@ TEST(FrameTruth, EveryLayoutDepthAndSiteIsWithinALevelOfThePlainLoops) {
             for (const int bits : {8, 10, 12}) {
                 for (const ChromaSite site : sites) {
                     FrameFormat format;
-                    format.size = {331, 205};
+                    format.size = {179, 133};
                     format.chroma = chroma;
                     format.site = site;
                     format.bits = static_cast<std::uint8_t>(bits);

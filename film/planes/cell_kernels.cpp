@@ -14,6 +14,7 @@
 
 #include "film/planes/cell_kernels.h"
 #include "film/planes/cell_vectors-inl.h"
+#include "film/planes/cell_windows-inl.h"
 
 HWY_BEFORE_NAMESPACE();
 namespace varnel {

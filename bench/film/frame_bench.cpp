@@ -64,7 +64,7 @@ void Draw(benchmark::State& state, Projection projection, int bits) {
     FrameRemap remap;
     remap.Set(projection, Record(), source.Format(), runner);
     const FrameBuffer result(remap.ResultFormat());
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         remap.Draw(source.View(), result.Target(), runner);
     }
 }
@@ -76,7 +76,7 @@ void SetAndDraw(benchmark::State& state, Projection projection, int bits) {
     FrameRemap remap;
     remap.Set(projection, record, source.Format(), runner);
     const FrameBuffer result(remap.ResultFormat());
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         record.RotateY += 0.01F;
         record.OutputAOV -= 0.001F;
         record.InputAOV -= 0.001F;

@@ -3,8 +3,12 @@
 
 // The remap of a film's frames plane by plane, without a way through RGB. The tables are made once
 // for each change of settings. Brightness is read where varnel-convert reads a photo of the same
-// size (classic sampling, which blends the four nearest samples), colour at the mean of its places
-// in brightness, with its site respected. Throws what maps throw and std::bad_alloc.
+// size (classic sampling, which blends the four nearest samples, whatever the record says), colour
+// at the mean of its places in brightness, with its site respected. Levels are within one of those
+// that double precision gives, and the same on every machine. Where a record wants transparency
+// outside the photo it is black; a lens that sees red and blue at other places than green is taken
+// at green's, because planes of colour hold all three; marks are not drawn. Rows count from the top
+// row. Throws what maps throw and std::bad_alloc.
 #pragma once
 
 #include <memory>

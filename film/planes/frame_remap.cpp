@@ -70,10 +70,11 @@ void FrameRemap::Tables::Make(BlockRunner& runner) {
     runner.Run(maker.Bands(), [&](int n) { maker.Make(n, bands[static_cast<std::size_t>(n)]); });
     outside.reset();
     if (image->Outside.kind == OutsideFill::Kind::Colour) {
-        outside.emplace(*image, source, result, [&](const FrameView& from, const FrameTarget& to) {
+        const auto draw = [&](const FrameView& from, const FrameTarget& to) {
             runner.Run(maker.Bands(),
                        [&](int n) { DrawBandOf(static_cast<std::size_t>(n), from, to); });
-        });
+        };
+        outside.emplace(*image, source, result, OutsideCover::Tools{draw, runner});
     }
 }
 

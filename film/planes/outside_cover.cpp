@@ -24,7 +24,7 @@ FrameFormat GreyOf(PixelSize size) {
     return format;
 }
 
-std::uint16_t* RowOf(const FrameTarget& grey, int row) {
+std::uint16_t* SamplesOf(const FrameTarget& grey, int row) {
     return reinterpret_cast<std::uint16_t*>(grey.planes[0].first + row * grey.planes[0].pitch);
 }
 
@@ -36,16 +36,17 @@ double ShareAt(const FrameView& grey, int column, int row) {
     return static_cast<double>(level) / whiteLevel;
 }
 
-FrameBuffer WhiteFrame(PixelSize size, const std::optional<PhotoCircle>& circle) {
+FrameBuffer WhiteFrame(PixelSize size, const std::optional<PhotoCircle>& circle,
+                       BlockRunner& runner) {
     FrameBuffer frame(GreyOf(size));
-    for (int row = 0; row < size.height; ++row) {
-        std::uint16_t* const samples = RowOf(frame.Target(), row);
+    runner.Run(size.height, [&](int row) {
+        std::uint16_t* const samples = SamplesOf(frame.Target(), row);
         for (int column = 0; column < size.width; ++column) {
             const SourcePosition place{static_cast<double>(column),
                                        static_cast<double>(size.height - 1 - row)};
             samples[column] = !circle || circle->Holds(place) ? whiteLevel : 0;
         }
-    }
+    });
     return frame;
 }
 
@@ -133,55 +134,56 @@ std::array<float, mostPlanes> LevelsOf(const OutsideFill& colour, const FrameFor
 }
 
 OutsideCover::OutsideCover(const ImageRecord& image, const FrameFormat& source,
-                           const FrameFormat& result, const DrawGrey& draw)
+                           const FrameFormat& result, const Tools& tools)
     : format_(result), levels_(LevelsOf(image.Outside, source)) {
     const auto drawn = [&](const std::optional<PhotoCircle>& circle) {
         FrameBuffer frame(GreyOf(result.size));
-        draw(WhiteFrame(source.size, circle).View(), frame.Target());
+        tools.draw(WhiteFrame(source.size, circle, tools.runner).View(), frame.Target());
         return frame;
     };
     const FrameBuffer circle = drawn(PhotoCircleOf(image, source.size));
     const FrameBuffer photo = drawn({});
     for (int plane = 0; plane < std::min(PlanesOf(result), 2); ++plane) {
-        runs_[GridOf(result, plane)] = RunsOf(circle.View(), photo.View(), PlaneSize(result, plane),
-                                              SampleGrid::Of(result, plane));
+        const PixelSize size = PlaneSize(result, plane);
+        const Shares shares{circle.View(), photo.View(), SampleGrid::Of(result, plane)};
+        Runs& runs = runs_[GridOf(result, plane)];
+        runs.resize(static_cast<std::size_t>(size.height));
+        tools.runner.Run(size.height, [&](int row) {
+            runs[static_cast<std::size_t>(row)] = RowOf(shares, row, size.width);
+        });
     }
 }
 
-OutsideCover::Runs OutsideCover::RunsOf(const FrameView& circle, const FrameView& photo,
-                                        PixelSize size, const SampleGrid& grid) {
-    const PixelSize whole = circle.format.size;
-    const auto shareOf = [&](const FrameView& grey, int column, int row) {
-        const int right =
-            std::min(column * grid.stepX + (grid.shiftX > 0.0 ? 1 : 0), whole.width - 1);
-        const int lower =
-            std::min(row * grid.stepY + (grid.shiftY > 0.0 ? 1 : 0), whole.height - 1);
-        const int left = grid.shiftX < 1.0 ? column * grid.stepX : right;
-        const int upper = grid.shiftY < 1.0 ? row * grid.stepY : lower;
+std::vector<OutsideCover::Run> OutsideCover::RowOf(const Shares& shares, int row, int columns) {
+    const SampleGrid& grid = shares.grid;
+    const PixelSize whole = shares.circle.format.size;
+    // The mean of the brightness samples that it stands for.
+    const int lower = std::min(row * grid.stepY + (grid.shiftY > 0.0 ? 1 : 0), whole.height - 1);
+    const int upper = grid.shiftY < 1.0 ? row * grid.stepY : lower;
+    const auto shareOf = [&](const FrameView& grey, int column) {
+        const int left = column * grid.stepX;
+        const int right = std::min(left + (grid.shiftX > 0.0 ? 1 : 0), whole.width - 1);
         return static_cast<float>((ShareAt(grey, left, upper) + ShareAt(grey, right, upper) +
                                    ShareAt(grey, left, lower) + ShareAt(grey, right, lower)) /
                                   4.0);
     };
     // What blends of white leave below white.
     constexpr float all = 1.0F - 2.0F / whiteLevel;
-    Runs runs(static_cast<std::size_t>(size.height));
-    for (int row = 0; row < size.height; ++row) {
-        std::vector<Run>& its = runs[static_cast<std::size_t>(row)];
-        for (int column = 0; column < size.width; ++column) {
-            const float share = shareOf(circle, column, row);
-            if (share >= all) {
-                continue;
-            }
-            const bool showsNothing = share == 0.0F;
-            if (its.empty() || its.back().end != column ||
-                its.back().circle.empty() != showsNothing) {
-                its.push_back({column, column, {}, {}});
-            }
-            its.back().end = column + 1;
-            if (!showsNothing) {
-                its.back().circle.push_back(share);
-                its.back().photo.push_back(shareOf(photo, column, row));
-            }
+    std::vector<Run> runs;
+    for (int column = 0; column < columns; ++column) {
+        const float share = shareOf(shares.circle, column);
+        if (share >= all) {
+            continue;
+        }
+        const bool showsNothing = share == 0.0F;
+        if (runs.empty() || runs.back().end != column ||
+            runs.back().circle.empty() != showsNothing) {
+            runs.push_back({column, column, {}, {}});
+        }
+        runs.back().end = column + 1;
+        if (!showsNothing) {
+            runs.back().circle.push_back(share);
+            runs.back().photo.push_back(shareOf(shares.photo, column));
         }
     }
     return runs;

@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "base/block_runner.h"
 #include "film/frames/frame_buffer.h"
 #include "film/planes/cells.h"
 #include "state/records/image_record.h"
@@ -23,9 +24,13 @@ class OutsideCover {
   public:
     // Remaps brightness alone, of the source's size.
     using DrawGrey = std::function<void(const FrameView& source, const FrameTarget& result)>;
+    struct Tools {
+        DrawGrey draw;
+        BlockRunner& runner;
+    };
     // The record's fill is a colour.
     OutsideCover(const ImageRecord& image, const FrameFormat& source, const FrameFormat& result,
-                 const DrawGrey& draw);
+                 const Tools& tools);
 
     // A row of a plane, once it is drawn.
     void FillRow(const FrameTarget& result, int plane, int row) const;
@@ -39,8 +44,12 @@ class OutsideCover {
     };
     using Runs = std::vector<std::vector<Run>>;  // by rows
 
-    static Runs RunsOf(const FrameView& circle, const FrameView& photo, PixelSize size,
-                       const SampleGrid& grid);
+    // The rows of a plane, from frames of all the result's brightness.
+    struct Shares {
+        FrameView circle, photo;
+        SampleGrid grid;
+    };
+    static std::vector<Run> RowOf(const Shares& shares, int row, int columns);
 
     FrameFormat format_;
     std::array<float, mostPlanes> levels_;

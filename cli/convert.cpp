@@ -4,9 +4,11 @@
 #include "cli/convert.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
+#include "cli/films.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
 #include "cli/measure_command.h"
@@ -43,6 +45,50 @@ void GuessForStitching(Options& options) {
     }
 }
 
+// What does not go with films, in words; empty when all does.
+QString FilmError(const Options& options, qsizetype films) {
+    if (films > 0 && !options.film.output.isEmpty()) {
+        return QStringLiteral("--film makes a film of photos; leave the films out");
+    }
+    if (films > 0 && options.morph) {
+        return QStringLiteral("--morph is for photos; --keys FILE moves the settings of a film");
+    }
+    if (films > 0 && !options.output.isEmpty() && !ContainerOf(options.film, options.output)) {
+        return QStringLiteral(
+                   "--output %1: films are written as .mp4, .mkv or .mov; end the name "
+                   "so, or give --type")
+            .arg(options.output);
+    }
+    const bool onlyForFilms = options.film.from > 0.0 || options.film.to || options.film.frame ||
+                              !options.film.keysFile.isEmpty();
+    return films == 0 && onlyForFilms
+               ? QStringLiteral(
+                     "--from-time, --to-time, --frame and --keys are for films, and "
+                     "none is given")
+               : QString();
+}
+
+// Photos first, then films; frames of films are photos.
+int ConvertFiles(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
+                 const Console& console) {
+    Options films = options;
+    Options photos = options;
+    films.files.removeIf([](const QString& path) { return !IsFilmFile(path); });
+    const bool asPhotos = options.film.frame.has_value();
+    if (const QString error = FilmError(options, films.files.size());
+        !error.isEmpty() && !(asPhotos && !films.files.isEmpty())) {
+        return Refuse(console, error);
+    }
+    if (asPhotos || films.files.isEmpty()) {
+        return ConvertPhotos(options, gears, settings, console);
+    }
+    photos.files.removeIf([&](const QString& path) { return films.files.contains(path); });
+    const int first =
+        photos.files.isEmpty() ? exitAllWritten : ConvertPhotos(photos, gears, settings, console);
+    return first > exitStopped ? first
+                               : std::max(first, ConvertFilms(films, gears, settings, console));
+}
+
 int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const QString missing = MissingFolder(options); !missing.isEmpty()) {
         return Refuse(console, missing);
@@ -61,6 +107,9 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const QString error = TakeLensFile(options); !error.isEmpty()) {
         return Refuse(console, error);
     }
+    if (const QString error = TakeKeys(options.film); !error.isEmpty()) {
+        return Refuse(console, error);
+    }
     GuessForStitching(options);
     if (const QString note = TakeRawPairs(options); !note.isEmpty()) {
         Complain(console, note);
@@ -70,8 +119,10 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     if (const auto* error = std::get_if<QString>(&gears)) {
         return Refuse(console, *error);
     }
-    return (options.command == Command::Stitch ? StitchPhotos : ConvertPhotos)(
-        options, std::get<GearChoice>(gears), settings, console);
+    if (options.command == Command::Stitch) {
+        return StitchPhotos(options, std::get<GearChoice>(gears), settings, console);
+    }
+    return ConvertFiles(options, std::get<GearChoice>(gears), settings, console);
 }
 
 int Run(const QStringList& arguments, SettingsStore& store, const Console& console) {

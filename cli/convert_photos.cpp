@@ -3,6 +3,7 @@
 
 #include "cli/convert_photos.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QHash>
 #include <QThread>
@@ -14,6 +15,7 @@
 #include "base/thread_runner.h"
 #include "cli/conversion_records.h"
 #include "cli/existing_results.h"
+#include "cli/films.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"
 #include "pipeline/conversion/conversion_run.h"
@@ -52,14 +54,19 @@ class CommandRun : public ConversionObserver {
           reader_(NewPictureReader()),
           feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_,
                 ReadChoicesOf(settings_, options.raw), &runner_),
-          targets_(options.files, RulesOf(options)) {}
+          targets_(options.files,
+                   options.film.output.isEmpty() ? RulesOf(options) : TargetRules()) {}
 
     // Returns the exit code.
     int Go() {
         files_ = FilesToDo();
         reports_.Bar().Start(files_.size() * RecordsOfEach(request_.options));
+        if (!request_.options.film.output.isEmpty() && !BeginFilm()) {
+            return exitSomeFailed;
+        }
         const ConversionRunEnd end = RunConversions(Plan(), targets_, *this, Ports());
         ReportSkipped(files_.size());
+        FinishFilm(end.stopped);
         reports_.Finish();
         if (!end.lasting.isEmpty()) {
             reports_.Say(ErrorText(end.lasting));
@@ -80,7 +87,7 @@ class CommandRun : public ConversionObserver {
 
     static GeneralSettings With(const Options& options, GeneralSettings settings) {
         settings.AutoOrient = settings.AutoOrient && !options.noAutoOrient;
-        settings.KeepDepth = KeepsDepth(options, settings);
+        settings.KeepDepth = KeepsDepth(options, settings) && options.film.output.isEmpty();
         return settings;
     }
 
@@ -91,6 +98,9 @@ class CommandRun : public ConversionObserver {
                                   const LoadedPicture& picture) { return Records(photo, picture); },
                 .target =
                     [this](const Conversion& conversion) {
+                        if (film_) {
+                            return request_.options.film.output;
+                        }
                         return TargetFor(
                             request_, files_[conversion.photo], conversion.record,
                             {ResultNumber(numbers_[conversion.photo], conversion.index), Results(),
@@ -108,8 +118,22 @@ class CommandRun : public ConversionObserver {
         ConversionPorts ports = PortsFor(*feed_);
         ports.load = [this](const QString& path) {
             reports_.Bar().SetPhoto(path);
-            return feed_->Take(path);
+            return IsFrameOf(path) ? LoadFilmFrame(path, *request_.options.film.frame,
+                                                   settings_.KeepDepth, runner_)
+                                   : feed_->Take(path);
         };
+        if (request_.options.film.frame) {
+            ports.readAhead = [this, photos = ports.readAhead](const QString& path) {
+                return photos && !IsFrameOf(path) && photos(path);
+            };
+        }
+        if (film_) {
+            ports.save = [this](const OutputEncoding& /*encoding*/, const Bitmap* picture,
+                                const QString& /*path*/) {
+                Reason error = film_->Add(*picture);
+                return SaveResult{error.isEmpty(), std::move(error)};
+            };
+        }
         if (runner_.Cores() == 1) {
             ports.readAhead = nullptr;
         }
@@ -120,6 +144,57 @@ class CommandRun : public ConversionObserver {
         ports.cores = &runner_;
         ports.unfinished = console_.unfinished;
         return ports;
+    }
+
+    bool IsFrameOf(const QString& path) const {
+        return request_.options.film.frame && IsFilmFile(path);
+    }
+
+    // False where there is none to be.
+    bool BeginFilm() {
+        const QString& path = request_.options.film.output;
+        FileReport report{.photo = path};
+        report.result = path;
+        ConversionTargets films(request_.options.files, RulesOf(request_.options));
+        if (films.IsSkipped(path)) {
+            report.status = FileStatus::Skipped;
+            reports_.Skipped(report);
+            files_.clear();
+            return true;
+        }
+        if (const TargetRefusal refused = films.Check({}, path, false)) {
+            report.status = FileStatus::Failed;
+            report.reason = RefusalText(request_.options, path, refused);
+            reports_.Failed(report);
+            return false;
+        }
+        film_ = NewResultsAsFilm(request_.options, console_, runner_);
+        clock_.start();
+        return film_ != nullptr;
+    }
+
+    void FinishFilm(bool stopped) {
+        if (!film_ || stopped) {
+            film_.reset();
+            return;
+        }
+        FileReport report{.photo = request_.options.film.output};
+        report.result = report.photo;
+        const bool whole = filmFrames_ == files_.size() * RecordsOfEach(request_.options);
+        const Reason error = whole ? film_->Finish() : Reason();
+        film_.reset();
+        if (!whole || !error.isEmpty()) {
+            report.status = FileStatus::Failed;
+            report.reason = whole ? ErrorText(error)
+                                  : QStringLiteral("not written, because not all photos are in it");
+            reports_.Failed(report);
+            return;
+        }
+        report.frames = filmFrames_;
+        report.bytes = QFileInfo(report.result).size();
+        report.seconds = static_cast<double>(clock_.elapsed()) / 1000.0;
+        report.size = filmSize_;
+        reports_.Written(report);
     }
 
     // Of all results of the command, those that exist already included.
@@ -137,7 +212,9 @@ class CommandRun : public ConversionObserver {
         PhotoLoader photos(*reader_, &wait_, &settings_, request_.options.raw);
         for (qsizetype n = 0; n < request_.options.files.size(); ++n) {
             const QString& file = request_.options.files[n];
-            const bool asks = request_.options.skipExisting && !StopAsked();
+            const bool asks = request_.options.skipExisting && !StopAsked() &&
+                              !request_.options.film.frame &&
+                              request_.options.film.output.isEmpty();
             const auto results = asks ? ExistingResults(request_, targets_, photos,
                                                         {file, ResultNumber(n, 0), Results()})
                                       : std::vector<FileReport>();
@@ -204,7 +281,10 @@ class CommandRun : public ConversionObserver {
         report.gearSource = ToText(started.reading.source);
         report.uncertain = started.reading.doubts.Names();
         report.notes = started.notes;
-        if (outcome.end == ConversionEnd::Written) {
+        if (outcome.end == ConversionEnd::Written && film_) {
+            ++filmFrames_;
+            filmSize_ = outcome.size;
+        } else if (outcome.end == ConversionEnd::Written) {
             ReportWritten(report, conversion, outcome);
         } else if (outcome.end == ConversionEnd::Skipped) {
             report.status = FileStatus::Skipped;
@@ -277,6 +357,10 @@ class CommandRun : public ConversionObserver {
     std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
     std::optional<PrefetchingReader> feed_;
     ConversionTargets targets_;
+    std::unique_ptr<ResultsAsFilm> film_;  // of --film
+    qsizetype filmFrames_ = 0;
+    PixelSize filmSize_{};
+    QElapsedTimer clock_;
     QStringList files_;
     QList<qsizetype> numbers_;      // of these files among those of the command
     QHash<qsizetype, QDate> days_;  // on which they were taken

@@ -13,7 +13,7 @@ constexpr qsizetype helpColumn = 27;
 constexpr qsizetype lastColumn = 80;
 
 constexpr char16_t head[] =
-    uR"(Usage: varnel-convert [OPTIONS] PHOTO...
+    uR"(Usage: varnel-convert [OPTIONS] PHOTO-OR-FILM...
        varnel-convert --like PICTURE [OPTIONS] [PHOTO...]
        varnel-convert --measure-lens FILE [--focal MM] PHOTO...
        varnel-convert --list-gears | --list-presets
@@ -22,8 +22,9 @@ constexpr char16_t head[] =
        varnel-convert --list-cameras [BRAND]
        varnel-convert --list-lenses [BRAND]
 
-Converts fisheye photos into other projections, at full size. Without --output
-and --output-dir IMG.jpg becomes IMG.Varnel.TIF (or another type) beside it.
+Converts fisheye photos and films into other projections, at full size. Without
+--output and --output-dir IMG.jpg becomes IMG.Varnel.TIF (or another type)
+beside it, and CLIP.mp4 becomes CLIP.Varnel.mp4.
 )";
 
 constexpr char16_t foot[] =

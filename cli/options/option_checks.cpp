@@ -69,7 +69,55 @@ void CheckExporting(const Options& options) {
     }
 }
 
+// Of options that make one film of many pictures.
+void CheckStills(const Options& options) {
+    const FilmOptions& film = options.film;
+    if (film.output.isEmpty()) {
+        return;
+    }
+    const std::array others{
+        std::pair{u"output", !options.output.isEmpty()},
+        std::pair{u"output-dir", !options.outputDir.isEmpty()},
+        std::pair{u"name", !options.namePattern.isEmpty()},
+        std::pair{u"stitch", options.command == Command::Stitch},
+        std::pair{u"from-time", film.from > 0.0},
+        std::pair{u"to-time", film.to.has_value()},
+        std::pair{u"keys", !film.keysFile.isEmpty()},
+    };
+    for (const auto& [name, given] : others) {
+        if (given) {
+            throw UsageError{QStringLiteral("--%1 does not go with --film FILE; leave it out")
+                                 .arg(OptionText(name))};
+        }
+    }
+    if (options.projections.size() > 1 || (options.morph && options.files.size() > 1)) {
+        throw UsageError{QStringLiteral("--film is one film; give one %1")
+                             .arg(options.morph ? QStringLiteral("photo for --morph")
+                                                : QStringLiteral("projection"))};
+    }
+    if (!ContainerOf(film, film.output)) {
+        throw UsageError{QStringLiteral("--film %1: films are written as .mp4, .mkv or .mov; end "
+                                        "the name so, or give --type")
+                             .arg(film.output)};
+    }
+}
+
 }  // namespace
+
+void CheckFilm(const Options& options) {
+    const FilmOptions& film = options.film;
+    CheckStills(options);
+    if (film.to && *film.to <= film.from) {
+        throw UsageError{QStringLiteral("--to-time has to be behind --from-time")};
+    }
+    if (film.rateGiven && film.output.isEmpty()) {
+        throw UsageError{QStringLiteral("--fps goes with --film FILE; give that too")};
+    }
+    if (film.frame && (film.from > 0.0 || film.to || !film.keysFile.isEmpty())) {
+        throw UsageError{
+            QStringLiteral("--frame is one picture; leave --from-time, --to-time and --keys out")};
+    }
+}
 
 void CheckCommand(const Options& options) {
     CheckMeasuring(options);

@@ -108,6 +108,21 @@ constexpr std::array sequenceRows{
     OptionRow{u"to", u"FIELD=VALUE", u"A setting of the last frame; may be repeated."},
 };
 
+constexpr std::array filmRows{
+    OptionRow{u"codec", u"NAME", u"h264 (default), h265, av1, vp9, ffv1 (lossless) or prores."},
+    OptionRow{u"crf", u"N", u"Quality, 0 (best) to 51 or 63; default: the encoder's."},
+    OptionRow{u"speed", u"NAME",
+              u"Of the encoder: ultrafast to placebo (h264, h265), or a number (av1, vp9)."},
+    OptionRow{u"from-time", u"T", u"Begin at that time: seconds, M:S or H:M:S."},
+    OptionRow{u"to-time", u"T", u"End at that time."},
+    OptionRow{u"keys", u"FILE", u"Settings that move along the film, as JSON."},
+    OptionRow{u"frame", u"T", u"The frame of that time as a picture, converted as a photo."},
+    OptionRow{u"film", u"FILE", u"Write the results of all photos, or of --morph, as one film."},
+    OptionRow{u"fps", u"N", u"Frames in a second of --film, as 25 or 30000/1001; default: 25."},
+    OptionRow{u"keep-part", nullptr,
+              u"Keep FILE.part, which plays, of a film that is not finished."},
+};
+
 constexpr std::array outputRows{
     OptionRow{u"output", u"FILE", u"The file to write, for one photo and one projection."},
     OptionRow{u"output-dir", u"DIR",
@@ -118,8 +133,8 @@ constexpr std::array outputRows{
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
     OptionRow{u"type", u"TYPE",
-              u"tiff, jpeg, bmp, png, exr, hdr or jxl; default: by the ending of --output, else "
-              u"the setting."},
+              u"tiff, jpeg, bmp, png, exr, hdr or jxl, for films mp4, mkv or mov; default: by the "
+              u"ending of --output, else the setting, or as the film."},
     OptionRow{u"quality", u"Q",
               u"Quality of JPEG and JPEG XL, 1 to 100, JPEG XL's 100 without loss; default: the "
               u"setting."},
@@ -155,6 +170,7 @@ constexpr std::array groups{
     OptionGroup{u"Camera and lens", gearRows},
     OptionGroup{u"Projection and view", viewRows},
     OptionGroup{u"Sequences", sequenceRows},
+    OptionGroup{u"Films", filmRows},
     OptionGroup{u"Output", outputRows},
     OptionGroup{u"Behaviour", runRows},
 };

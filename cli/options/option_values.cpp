@@ -175,7 +175,8 @@ OutputType TypeOf(const QString& text) {
         throw UsageError{
             QStringLiteral("unknown type \"%1\"; use %2").arg(text, ToText(*type).toLower())};
     }
-    throw UsageError{QStringLiteral("unknown type \"%1\"; use %2").arg(text, OneOfAll(&ToText))};
+    throw UsageError{QStringLiteral("unknown type \"%1\"; use %2, and mp4, mkv or mov for films")
+                         .arg(text, OneOfAll(&ToText))};
 }
 
 QString WrittenEndings() {

@@ -226,7 +226,12 @@ Options Take(const QCommandLineParser& parser) {
     options.outputDir = parser.value(QStringLiteral("output-dir"));
     options.keepEnding = parser.isSet(QStringLiteral("keep-ending"));
     TakeIfSet(parser, u"name", options.namePattern, &PatternOf);
-    TakeIfSet(parser, u"type", options.type, &TypeOf);
+    for (const QString& type : parser.values(QStringLiteral("type"))) {
+        options.film.type =
+            FilmContainerFromText(type) ? FilmContainerFromText(type) : options.film.type;
+        options.type = FilmContainerFromText(type) ? options.type : TypeOf(type);
+    }
+    TakeFilm(parser, options.film);
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);
     });
@@ -347,6 +352,7 @@ void CheckTogether(const Options& options) {
             QStringLiteral("--skip-existing and --force exclude each other; give one of the two")};
     }
     CheckMorph(options);
+    CheckFilm(options);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/pixel_size.h"
+#include "cli/options/film_options.h"
 #include "decoder/request/read_request.h"
 #include "pipeline/output/frame_wish.h"
 #include "pipeline/photos/raw_pairs.h"
@@ -96,6 +97,7 @@ struct Options {
     RawJpeg rawJpeg = RawJpeg::Both;             // of photos that are there as raw file and as JPEG
     RawDevelopment raw;
     QSet<QString> paired;  // files whose results keep the ending for that
+    FilmOptions film;
     bool noMetadata = false;
     bool noAutoOrient = false;
     bool noSettings = false;

@@ -48,6 +48,7 @@ QByteArray ToJson(const FileReport& report) {
         {u"depth", KnownText(report.depth)},
         {u"bytes", written ? report.bytes : QJsonValue()},
         {u"seconds", std::round(report.seconds * 1000.0) / 1000.0},
+        {u"frames", report.frames >= 0 ? report.frames : QJsonValue()},
         {u"notes", QJsonArray::fromStringList(report.notes)},
     });
 }

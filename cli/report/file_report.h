@@ -27,6 +27,7 @@ struct FileReport {
     qint64 bytes = -1;           // of the result; negative when there is none
     QString depth = {};          // of the result: "8", "16" or "float"; empty when there is none
     double seconds = 0.0;        // by the clock
+    qint64 frames = -1;          // of a film; negative for a picture
     QStringList notes = {};
 };
 

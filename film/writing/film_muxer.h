@@ -14,9 +14,9 @@
 namespace varnel {
 
 // The file, as the module writes it.
-class FilmOutput {
+class FilmSink {
   public:
-    virtual ~FilmOutput() = default;
+    virtual ~FilmSink() = default;
     virtual Reason Write(QByteArrayView bytes) = 0;
     // Bytes from the start.
     virtual Reason MoveTo(qint64 place) = 0;
@@ -40,7 +40,7 @@ struct OpenedFilmMuxer {
 };
 
 // The module's one function. The output outlives the muxer.
-using OpenFilmMuxer = void (*)(const FilmToWrite& film, FilmOutput& output,
+using OpenFilmMuxer = void (*)(const FilmToWrite& film, FilmSink& output,
                                OpenedFilmMuxer& opened);
 inline constexpr char openFilmMuxer[] = "VarnelOpenFilmMuxer1";
 

@@ -32,7 +32,7 @@ std::pair<OpenFilmMuxer, Reason> LoadModule() {
     return {open, {}};
 }
 
-class OutputToPart : public FilmOutput {
+class OutputToPart : public FilmSink {
   public:
     explicit OutputToPart(PartFile& file) : file_(file) {}
     Reason Write(QByteArrayView bytes) override { return file_.Write(bytes); }

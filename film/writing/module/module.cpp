@@ -7,7 +7,7 @@
 #include "film/writing/module/muxer.h"
 
 extern "C" __attribute__((visibility("default"))) void VarnelOpenFilmMuxer1(
-    const varnel::FilmToWrite& film, varnel::FilmOutput& output, varnel::OpenedFilmMuxer& opened) {
+    const varnel::FilmToWrite& film, varnel::FilmSink& output, varnel::OpenedFilmMuxer& opened) {
     varnel::CatchAvLog();
     ::setenv("SVT_LOG", "1", 0);  // errors only; this encoder takes it from nowhere else
     auto muxer = std::make_unique<varnel::Muxer>(output);

@@ -15,7 +15,7 @@ namespace varnel {
 
 class Muxer : public FilmMuxer {
   public:
-    explicit Muxer(FilmOutput& output) : output_(output) {}
+    explicit Muxer(FilmSink& output) : output_(output) {}
     ~Muxer() override;
     Muxer(const Muxer&) = delete;
     Muxer& operator=(const Muxer&) = delete;
@@ -35,7 +35,7 @@ class Muxer : public FilmMuxer {
     static int WriteBytes(void* self, std::uint8_t* bytes, int length);
     static std::int64_t Seek(void* self, std::int64_t place, int whence);
 
-    FilmOutput& output_;
+    FilmSink& output_;
     Reason outputError_;
     AVFormatContext* file_ = nullptr;
     AVStream* pictures_ = nullptr;

@@ -8,7 +8,7 @@
 
 #include "cli/choose_gear.h"
 #include "cli/convert_photos.h"
-#include "cli/films.h"
+#include "cli/films/films.h"
 #include "cli/like_picture.h"
 #include "cli/lists.h"
 #include "cli/measure_command.h"

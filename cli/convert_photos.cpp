@@ -15,7 +15,7 @@
 #include "base/thread_runner.h"
 #include "cli/conversion_records.h"
 #include "cli/existing_results.h"
-#include "cli/films.h"
+#include "cli/films/films.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"
 #include "pipeline/conversion/conversion_run.h"

@@ -183,6 +183,16 @@ QString WrittenEndings() {
     return OneOfAll(&ExtensionOf);
 }
 
+void TakeTypes(const QStringList& texts, Options& options) {
+    for (const QString& text : texts) {
+        if (const auto container = FilmContainerFromText(text)) {
+            options.film.type = container;
+        } else {
+            options.type = TypeOf(text);
+        }
+    }
+}
+
 int WholeBetween(const QString& option, const QString& text, int least, int most) {
     bool ok = false;
     const int number = text.toInt(&ok);

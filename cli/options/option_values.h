@@ -31,6 +31,8 @@ PixelSize PreviewBoxOf(const QString& text);
 OutputType TypeOf(const QString& text);
 // ".tif, .jpg ... or .hdr": the endings of the types that are written.
 QString WrittenEndings();
+// That of photos, and that of films.
+void TakeTypes(const QStringList& texts, Options& options);
 // Numbers have a decimal point whatever the locale.
 float NumberOf(const QString& option, const QString& text);
 int WholeBetween(const QString& option, const QString& text, int least, int most);

@@ -226,11 +226,7 @@ Options Take(const QCommandLineParser& parser) {
     options.outputDir = parser.value(QStringLiteral("output-dir"));
     options.keepEnding = parser.isSet(QStringLiteral("keep-ending"));
     TakeIfSet(parser, u"name", options.namePattern, &PatternOf);
-    for (const QString& type : parser.values(QStringLiteral("type"))) {
-        options.film.type =
-            FilmContainerFromText(type) ? FilmContainerFromText(type) : options.film.type;
-        options.type = FilmContainerFromText(type) ? options.type : TypeOf(type);
-    }
+    TakeTypes(parser.values(QStringLiteral("type")), options);
     TakeFilm(parser, options.film);
     TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
         return WholeBetween(QStringLiteral("quality"), text, 1, 100);

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "base/error_reason.h"
-#include "cli/films.h"
+#include "cli/films/films.h"
 #include "files/noting_operations.h"
 #include "film/conversion/film_pictures.h"
 #include "film/conversion/stills_film.h"

@@ -4,7 +4,7 @@
 // Where photos are decoded in the program itself nothing reads films: they need the confined
 // process.
 
-#include "cli/films.h"
+#include "cli/films/films.h"
 
 namespace varnel {
 

@@ -9,7 +9,7 @@
 #include "base/error_reason.h"
 #include "base/error_text.h"
 #include "cli/existing_results.h"
-#include "cli/films.h"
+#include "cli/films/films.h"
 #include "cli/options/advice.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/run_reports.h"

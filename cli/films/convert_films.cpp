@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QThread>
@@ -23,6 +24,17 @@ namespace varnel {
 namespace {
 
 constexpr qsizetype mostDamageTold = 20;  // of a film, line by line
+
+// On which it was filmed, as its own tag or else its file says.
+QDate DayOf(const FilmInfo& film, const QString& path) {
+    for (const auto& [name, value] : film.tags) {
+        if (const QDateTime time = QDateTime::fromString(QString::fromUtf8(value), Qt::ISODate);
+            name == "creation_time" && time.isValid()) {
+            return time.date();
+        }
+    }
+    return QFileInfo(path).lastModified().date();
+}
 
 class FilmsRun {
   public:
@@ -138,14 +150,10 @@ class FilmsRun {
     }
 
     QString TargetOf(const QString& path, const ImageRecord& record, FilmContainer container,
-                     qsizetype index) {
+                     const NameFacts& facts) {
         if (!request_.options.output.isEmpty()) {
             return request_.options.output;
         }
-        const auto each = RecordsOfEach(request_.options);
-        const NameFacts facts{static_cast<int>(film_ * each + index) + 1,
-                              static_cast<int>(request_.options.files.size() * each),
-                              QFileInfo(path).lastModified().date()};
         QString target = TargetFor(request_, path, record, facts);
         target.chop(ExtensionOf(TypeFor(request_)).size());
         return target + u'.' + ToText(container);
@@ -160,8 +168,12 @@ class FilmsRun {
         report.gearSource = ToText(start_.reading.source);
         report.uncertain = start_.reading.doubts.Names();
         report.notes = notes_;
+        const auto each = RecordsOfEach(request_.options);
+        const NameFacts facts{static_cast<int>(film_ * each + index) + 1,
+                              static_cast<int>(request_.options.files.size() * each),
+                              DayOf(reader.Info(), path)};
         const Reason named =
-            Attempt([&] { report.result = TargetOf(path, record, container, index); });
+            Attempt([&] { report.result = TargetOf(path, record, container, facts); });
         if (!named.isEmpty()) {
             Fail(report, ErrorText(named));
             return;

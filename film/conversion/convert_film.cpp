@@ -90,7 +90,8 @@ class Conversion {
     }
 
     void Tell(const Reason& damage) {
-        if (outcome_.damage.size() < mostTold && !outcome_.damage.contains(damage)) {
+        if (!damage.isEmpty() && outcome_.damage.size() < mostTold &&
+            !outcome_.damage.contains(damage)) {
             outcome_.damage.append(damage);
         }
     }

@@ -13,6 +13,7 @@
 #include "tests/film/reading/films.h"
 #include "tests/film/support/films.h"
 #include "tests/support/contents.h"
+#include "tests/support/records.h"
 
 namespace varnel {
 namespace {
@@ -25,11 +26,10 @@ using testing::WarningsOn;
 using testing::Words;
 
 ImageRecord Fisheye(PixelSize size) {
-    ImageRecord record;
+    ImageRecord record = testing::FisheyeRecord();
     record.Width = static_cast<std::int16_t>(size.width);
     record.Height = static_cast<std::int16_t>(size.height);
     record.Projection = static_cast<std::int16_t>(Projection::Rectilinear);
-    record.Aspect = static_cast<float>(size.width) / static_cast<float>(size.height);
     return record;
 }
 

@@ -38,7 +38,7 @@ inline FrameBuffer SlopeFrame(const FrameFormat& format, int n) {
 }
 
 // Plane after plane without gaps, as "-f rawvideo" writes them.
-inline QByteArray BytesOf(const FrameView& frame) {
+inline QByteArray PlaneBytes(const FrameView& frame) {
     QByteArray bytes;
     for (int plane = 0; plane < PlanesOf(frame.format); ++plane) {
         const auto& [first, pitch] = frame.planes[static_cast<std::size_t>(plane)];

@@ -18,9 +18,9 @@
 namespace varnel {
 namespace {
 
-using testing::BytesOf;
 using testing::Contents;
 using testing::NamesIn;
+using testing::PlaneBytes;
 using testing::Probe;
 using testing::RunProgram;
 using testing::SlopeFrame;
@@ -145,7 +145,7 @@ TEST(FilmWriter, LosesNothingWhereTheCodecDoesNot) {
         ASSERT_EQ(ErrorText(writer->Finish()), QString());
         QByteArray expected;
         for (int n = 0; n < 3; ++n) {
-            expected += BytesOf(SlopeFrame(format, n).View());
+            expected += PlaneBytes(SlopeFrame(format, n).View());
         }
         const auto ran =
             RunProgram(QStringLiteral("ffmpeg"),

@@ -140,7 +140,7 @@ class Conversion {
         }
         FrameBuffer& slot = thread_->Slot();
         remap_.Draw(frame.view, slot.Target(), ports_.runner);
-        thread_->Put(pts, frame.duration > 0 ? frame.duration : UsualDuration());
+        thread_->Put(pts, DurationOf(frame));
         ++outcome_.frames;
     }
 
@@ -152,21 +152,33 @@ class Conversion {
         remap_.Set(ProjectionFromIndex(image.Projection), image, Info().format, ports_.runner);
     }
 
-    TimeBase PictureTimes() const {
-        for (const StreamInfo& stream : Info().streams) {
-            if (stream.index == Info().picture) {
-                return stream.timeBase;
-            }
-        }
-        return {1, 1000};
+    const StreamInfo* Pictures() const {
+        const auto& streams = Info().streams;
+        const auto found = std::ranges::find(streams, Info().picture, &StreamInfo::index);
+        return found == streams.end() ? nullptr : &*found;
     }
 
-    // Of a frame whose stream does not say, in its time base.
-    std::int64_t UsualDuration() const {
+    TimeBase PictureTimes() const {
+        return Pictures() == nullptr ? TimeBase{1, 1000} : Pictures()->timeBase;
+    }
+
+    // In the stream's time base. Near the stream's end up to that, which is right for the last
+    // frame; of all others the next one's time decides. What a decoder says of a frame is that of
+    // its packet, in the order of the file.
+    std::int64_t DurationOf(const FilmFrame& frame) const {
         const TimeBase rate = Info().frameRate;
         const TimeBase base = PictureTimes();
         const double units = static_cast<double>(base.den) / base.num;
-        return rate.num > 0 ? std::llround(units * rate.den / rate.num) : 0;
+        const std::int64_t usual = rate.num > 0 ? std::llround(units * rate.den / rate.num) : 0;
+        const StreamInfo* const stream = Pictures();
+        if (stream != nullptr && stream->startTime != noTime && stream->duration > 0) {
+            constexpr std::int64_t longest = 4;  // frames
+            const std::int64_t rest = stream->startTime + stream->duration - frame.pts;
+            if (rest > 0 && rest <= longest * usual) {
+                return rest;
+            }
+        }
+        return frame.duration > 0 ? frame.duration : usual;
     }
 
     Reason Begin(std::int64_t pts) {

@@ -40,8 +40,7 @@ struct OpenedFilmMuxer {
 };
 
 // The module's one function. The output outlives the muxer.
-using OpenFilmMuxer = void (*)(const FilmToWrite& film, FilmSink& output,
-                               OpenedFilmMuxer& opened);
+using OpenFilmMuxer = void (*)(const FilmToWrite& film, FilmSink& output, OpenedFilmMuxer& opened);
 inline constexpr char openFilmMuxer[] = "VarnelOpenFilmMuxer1";
 
 }  // namespace varnel

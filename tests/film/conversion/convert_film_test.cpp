@@ -108,15 +108,16 @@ TEST_F(FilmConversion, KeepsTimesThatNoRateHas) {
     ASSERT_FALSE(film.isEmpty());
     const FilmOutcome outcome = Convert(film, folder_.Path("result.mp4"));
     ASSERT_EQ(ErrorText(outcome.error), QString());
-    const char* const entries = "frame=pts,pkt_duration";
-    EXPECT_EQ(Probe(folder_.Path("result.mp4"), entries), Probe(film, entries));
+    for (const char* const entries : {"frame=pts", "stream=time_base,duration_ts,nb_frames"}) {
+        EXPECT_EQ(Probe(folder_.Path("result.mp4"), entries), Probe(film, entries)) << entries;
+    }
 }
 
 TEST_F(FilmConversion, APartBeginsAndEndsAtItsFrames) {
     const QString film = folder_.Make(
         "film.mkv",
         "-f lavfi -i testsrc2=s=64x48:r=25:d=4 -f lavfi -i sine=d=4 -c:v libx264 -g 25 "
-        "-c:a pcm_s16le");
+        "-c:a aac");
     FilmCourse course;
     course.in = 1.3;
     course.out = 2.5;
@@ -126,13 +127,12 @@ TEST_F(FilmConversion, APartBeginsAndEndsAtItsFrames) {
     const std::string times = Probe(folder_.Path("result.mkv"), "frame=pts_time");
     EXPECT_TRUE(times.starts_with("0.000000 0.040000 ") && times.ends_with(" 1.160000")) << times;
     const std::string sound = Probe(folder_.Path("result.mkv"), "packet=pts_time", "a");
-    EXPECT_EQ(sound.substr(0, 4), "0.0");
+    EXPECT_EQ(sound.substr(0, 3), "0.0");
     EXPECT_EQ(WarningsOn(folder_.Path("result.mkv")), "");
     course = {};
     course.in = 9.0;
-    EXPECT_EQ(ErrorText(Convert(film, folder_.Path("none.mkv"), {}, course).error),
-              QStringLiteral("the film has no picture from 9.000 to 9.000 seconds; it is 4.000 "
-                             "seconds long"));
+    EXPECT_TRUE(Convert(film, folder_.Path("none.mkv"), {}, course)
+                    .error.Is(ReasonCode::NothingBetweenTimes));
     EXPECT_FALSE(QFileInfo::exists(folder_.Path("none.mkv")));
 }
 
@@ -155,11 +155,12 @@ TEST_F(FilmConversion, TenBitsAndTheirColoursStay) {
 TEST_F(FilmConversion, UprightFramesHaveNoTurnLeft) {
     const QString flat = folder_.Make("flat.mp4", "-f lavfi -i testsrc2=s=128x64:r=25:d=0.4");
     const QString film =
-        folder_.Make("film.mp4", "-display_rotation 90 -i " + flat.toUtf8() + " -c copy");
+        folder_.Make("film.mp4", "-i " + flat.toUtf8() + " -c copy -metadata:s:v rotate=90");
+    ASSERT_NE(Probe(film, "stream_side_data=rotation"), "");
     const QString target = folder_.Path("result.mp4");
-    const QString source = film.isEmpty() ? flat : film;
-    ASSERT_EQ(ErrorText(Convert(source, target).error), QString());
+    ASSERT_EQ(ErrorText(Convert(film, target).error), QString());
     EXPECT_EQ(Probe(target, "stream_side_data=rotation"), "");
+    EXPECT_EQ(Probe(target, "stream=width,height"), "64,128");
 }
 
 TEST_F(FilmConversion, StoppedOrBadFilmsLeaveNothing) {

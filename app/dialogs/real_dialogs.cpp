@@ -16,6 +16,7 @@
 #include "app/dialogs/form_about.h"
 #include "app/dialogs/message_boxes.h"
 #include "app/dialogs/save_dialog.h"
+#include "app/films/films.h"
 #include "app/straighten/form_straighten.h"
 #include "gear/dialogs/form_gear_edit.h"
 #include "gear/dialogs/form_gear_list.h"
@@ -129,6 +130,8 @@ void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChang
                         QWidget* parent) {
     FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, state_.pool,
                    notices_, queueChanged, parent);
+    const std::unique_ptr<MorphFilmMaker> maker = NewMorphFilmMaker(state_.pool, state_.settings);
+    form.OfferFilm({maker.get(), &RealDialogs::ChooseFilmName});
     form.exec();
 }
 
@@ -233,6 +236,20 @@ QString RealDialogs::ChooseProjectName(const QString& proposal) {
                       {ProjectFilter()});
     dialog.setDefaultSuffix(projectEnding.mid(1).toString());
     return dialog.Choose();
+}
+
+QString RealDialogs::ChooseFilmName(const QString& proposal) {
+    const QString ending = QFileInfo(proposal).suffix();
+    SaveDialog dialog(QObject::tr("Save film as"), QFileInfo(proposal).absoluteFilePath(),
+                      {QObject::tr("Films (%1)").arg(QStringLiteral("*.mp4 *.mkv *.mov"))});
+    dialog.setDefaultSuffix(ending);
+    const QString name = dialog.Choose();
+    const QStringList endings{QStringLiteral("mp4"), QStringLiteral("mkv"), QStringLiteral("mov")};
+    if (name.isEmpty() || endings.contains(QFileInfo(name).suffix(), Qt::CaseInsensitive)) {
+        return name;
+    }
+    const QString whole = name + u'.' + ending;  // another file than the dialog asked about
+    return !QFileInfo::exists(whole) || SaveDialog::AgreesToReplace(whole) ? whole : QString();
 }
 
 }  // namespace varnel

@@ -50,6 +50,8 @@ class RealDialogs : public Dialogs {
 
   private:
     QString LastFolder() const;
+    // With one of the films' endings; what is there may be replaced. Empty when cancelled.
+    static QString ChooseFilmName(const QString& proposal);
 
     WorkingState& state_;
     SettingsStore& store_;

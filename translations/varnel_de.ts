@@ -2888,6 +2888,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
         <translation>sein Bild hat %1 x %2 Pixel, das erste des Films %3 x %4</translation>
     </message>
+    <message>
+        <source>written without its IPTC: JPEG XL files hold none</source>
+        <translation>ohne IPTC geschrieben: JPEG-XL-Dateien fassen keines</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

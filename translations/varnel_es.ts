@@ -2888,6 +2888,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
         <translation>su imagen tiene %1 x %2 píxeles, la primera de la película %3 x %4</translation>
     </message>
+    <message>
+        <source>written without its IPTC: JPEG XL files hold none</source>
+        <translation>escrita sin su IPTC: los archivos JPEG XL no lo admiten</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

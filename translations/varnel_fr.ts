@@ -2888,6 +2888,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>its picture has %1 x %2 pixels, the film&apos;s first one %3 x %4</source>
         <translation>son image a %1 x %2 pixels, la première du film %3 x %4</translation>
     </message>
+    <message>
+        <source>written without its IPTC: JPEG XL files hold none</source>
+        <translation>écrite sans son IPTC&#xa0;: les fichiers JPEG XL n&apos;en contiennent pas</translation>
+    </message>
 </context>
 <context>
     <name>RevisionAge</name>

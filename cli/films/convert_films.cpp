@@ -36,6 +36,16 @@ QDate DayOf(const FilmInfo& film, const QString& path) {
     return QFileInfo(path).lastModified().date();
 }
 
+// The rule by which the last three letters of a photo's name are its ending is for theirs: ".webm"
+// or no ending at all would leave odd names.
+QString WithEndingOfThree(const QString& path) {
+    const QFileInfo file(path);
+    return file.suffix().size() == 3
+               ? path
+               : path.chopped(file.suffix().size() + (file.suffix().isEmpty() ? 0 : 1)) +
+                     QStringLiteral(".mp4");
+}
+
 class FilmsRun {
   public:
     FilmsRun(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
@@ -154,7 +164,12 @@ class FilmsRun {
         if (!request_.options.output.isEmpty()) {
             return request_.options.output;
         }
-        QString target = TargetFor(request_, path, record, facts);
+        const Options& options = request_.options;
+        const bool keeps = options.keepEnding || options.namePattern.contains(u"{ending}");
+        const QString named = keeps ? path : WithEndingOfThree(path);
+        ImageRecord called = record;
+        called.FileName = QFileInfo(named).fileName();
+        QString target = TargetFor(request_, named, called, facts);
         target.chop(ExtensionOf(TypeFor(request_)).size());
         return target + u'.' + ToText(container);
     }

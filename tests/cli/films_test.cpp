@@ -67,6 +67,16 @@ TEST_F(Films, AreToldFromPhotosAndNamedAsThey) {
     EXPECT_TRUE(again.err.contains("exists")) << again.err.toStdString();
 }
 
+TEST_F(Films, NamesOfOtherEndingsAreCutAtTheDot) {
+    for (const auto& [film, result] : {std::pair{"clip.webm", "clip.Varnel.mkv"},
+                                       {"part.ts", "part.Varnel.mp4"},
+                                       {"plain", "plain.Varnel.mp4"}}) {
+        ASSERT_TRUE(QFile::rename(Film("made.mkv", "0.2"), folder_.Path(film)));
+        EXPECT_EQ(Run("--speed ultrafast", {folder_.Path(film)}).out.trimmed(),
+                  folder_.Path(result).toUtf8());
+    }
+}
+
 TEST_F(Films, EachFrameIsAsAPictureOfItBecomes) {
     const QString film = folder_.Make(
         "film.mkv",

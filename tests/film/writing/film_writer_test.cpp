@@ -10,6 +10,10 @@
 #include <QTemporaryDir>
 #include <cerrno>
 
+extern "C" {
+#include <libavcodec/codec_id.h>
+}
+
 #include "base/error_text.h"
 #include "files/file_operations.h"
 #include "tests/film/support/films.h"
@@ -68,6 +72,11 @@ Reason WriteFrames(FilmWriter& writer, const FrameFormat& format, std::size_t co
     return {};
 }
 
+using enum ChromaLayout;
+constexpr auto mp4 = FilmContainer::Mp4;
+constexpr auto mkv = FilmContainer::Matroska;
+constexpr auto mov = FilmContainer::QuickTime;
+
 class FilmFolder {
   public:
     QString Path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
@@ -110,11 +119,6 @@ TEST_P(WrittenKind, PlaysWithEveryFrameAtItsTime) {
     }
     EXPECT_EQ(Probe(path, "frame=pts_time"), expected);
 }
-
-using enum ChromaLayout;
-constexpr auto mp4 = FilmContainer::Mp4;
-constexpr auto mkv = FilmContainer::Matroska;
-constexpr auto mov = FilmContainer::QuickTime;
 
 INSTANTIATE_TEST_SUITE_P(
     All, WrittenKind,
@@ -170,6 +174,38 @@ TEST(FilmWriter, TellsColoursSiteAndShapeOfPixels) {
                     "stream=sample_aspect_ratio,color_range,color_space,color_transfer,"
                     "color_primaries,chroma_location"),
               "4:3,pc,bt2020nc,smpte2084,bt2020,topleft");
+}
+
+TEST(FilmWriter, DataTracksOfCamerasGoAlong) {
+    const FilmFolder folder;
+    FilmInfo source;
+    source.picture = 0;
+    source.streams.resize(2);
+    source.streams[1].index = 1;
+    source.streams[1].codecId = AV_CODEC_ID_BIN_DATA;
+    source.streams[1].codec = "bin_data";
+    source.streams[1].codecTag = 'g' | 'p' << 8 | 'm' << 16 | 'd' << 24;
+    source.streams[1].timeBase = {1, 1000};
+    for (const FilmContainer container : {mp4, mov, mkv}) {
+        const QString path = folder.Path("film.") + ToText(container);
+        FilmToWrite film = Film(container, FilmCodec::H264, Format(C420, 8));
+        film.source = &source;
+        auto [writer, error] = NewFilmWriter(path, film);
+        ASSERT_TRUE(writer) << ErrorText(error).toStdString();
+        if (container == mkv) {
+            EXPECT_EQ(writer->Notes().join(u'\n').toStdString(),
+                      "stream 1 (data bin_data) is left out: mkv files cannot hold it");
+            continue;
+        }
+        EXPECT_EQ(writer->Notes(), QStringList());
+        ASSERT_EQ(ErrorText(writer->Write(FilmPacket{1, 0, 0, 100, 1, "telemetry", {}})),
+                  QString());
+        ASSERT_EQ(ErrorText(WriteFrames(*writer, film.format, 5)), QString());
+        ASSERT_EQ(ErrorText(writer->Write(FilmPacket{1, 100, 100, 63, 1, "more", {}})), QString());
+        ASSERT_EQ(ErrorText(writer->Finish()), QString());
+        EXPECT_EQ(Probe(path, "stream=codec_tag_string:packet=pts_time,size", "d"),
+                  "0.000000,9 0.100000,4 gpmd");
+    }
 }
 
 struct BadWish {

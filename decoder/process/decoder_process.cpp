@@ -90,7 +90,10 @@ Reason DecoderProcess::Start() {
 }
 
 bool DecoderProcess::Send(const void* message, std::size_t length, std::array<int, 2> descriptors) {
-    return Runs() && SendMessage(socket_.Get(), message, length, descriptors);
+    // One that does not take its messages any more must not hold its parent up.
+    pollfd room{socket_.Get(), POLLOUT, 0};
+    return Runs() && poll(&room, 1, 0) > 0 &&
+           SendMessage(socket_.Get(), message, length, descriptors);
 }
 
 DecoderProcess::Heard DecoderProcess::Listen(int milliseconds, void* message, std::size_t length) {

@@ -31,7 +31,7 @@ class DecoderProcess {
     // Why it could not be started; empty when it was. It ends with the thread that started it.
     Reason Start();
     // The request with the descriptors of the photo and the memory file, which stay the caller's.
-    // False when the process is gone.
+    // False when the process is gone, or has not taken many messages before. Never waits.
     bool Send(const DecoderRequest& request, int photo, int memory) {
         return Send(&request, sizeof request, {photo, memory});
     }

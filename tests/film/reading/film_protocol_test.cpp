@@ -110,6 +110,8 @@ std::string FateOf(const char* order) {
 
 TEST(FilmProtocol, AHostileDecodersAnswersEndTheFilm) {
     EXPECT_EQ(FateOf("sound"), "");
+    // It never hears that its frames are free again.
+    EXPECT_EQ(FateOf("flood"), "");
     for (const char* order : {"refused without reason", "film cut short", "no slots", "odd slots",
                               "slot", "last slot", "offset", "overflow", "pitch", "packet",
                               "picture packet", "fault without reason", "kind", "endless"}) {

@@ -58,6 +58,12 @@ void Obey(const QByteArray& order) {
     if (order == "sound") {
         Send(frame, {});
         Send({.kind = FilmAnswerKind::End}, none);
+    } else if (order == "flood") {
+        for (int n = 0; n < 20'000; ++n) {
+            Send(frame, {});
+        }
+        Send({.kind = FilmAnswerKind::End}, none);
+        pause();
     } else if (order == "slot") {
         frame.slot = 1;
         Send(frame, {});
@@ -100,6 +106,7 @@ void Obey(const QByteArray& order) {
 }  // namespace
 
 int main() {
+    alarm(60);  // should its parent be gone
     varnel::FilmRequest request;
     std::array<varnel::Descriptor, 2> files;
     if (!varnel::ReceiveMessage(decoderSocket, &request, sizeof request, &files)) {

@@ -243,7 +243,7 @@ QString RealDialogs::ChooseFilmName(const QString& proposal) {
     SaveDialog dialog(QObject::tr("Save film as"), QFileInfo(proposal).absoluteFilePath(),
                       {QObject::tr("Films (%1)").arg(QStringLiteral("*.mp4 *.mkv *.mov"))});
     dialog.setDefaultSuffix(ending);
-    const QString name = dialog.Choose();
+    QString name = dialog.Choose();
     const QStringList endings{QStringLiteral("mp4"), QStringLiteral("mkv"), QStringLiteral("mov")};
     if (name.isEmpty() || endings.contains(QFileInfo(name).suffix(), Qt::CaseInsensitive)) {
         return name;

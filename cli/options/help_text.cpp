@@ -23,9 +23,9 @@ constexpr char16_t head[] =
        varnel-convert --list-cameras [BRAND]
        varnel-convert --list-lenses [BRAND]
 
-Converts fisheye photos and films into other projections, at full size. Without
---output and --output-dir IMG.jpg becomes IMG.Varnel.TIF (or another type)
-beside it, and CLIP.mp4 becomes CLIP.Varnel.mp4.
+Converts fisheye photos and films into other projections, at full size. IMG.jpg
+becomes IMG.Varnel.TIF (or another type) beside it, and CLIP.mp4 becomes
+CLIP.Varnel.mp4; --output and --output-dir name other places.
 )";
 
 constexpr char16_t foot[] =

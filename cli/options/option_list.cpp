@@ -132,9 +132,10 @@ constexpr std::array outputRows{
               u"{n} {date}."},
     OptionRow{u"keep-ending", nullptr,
               u"Results of y.jpg and y.png in one folder: y.jpg.Varnel.TIF, y.png.Varnel.TIF."},
-    OptionRow{u"type", u"TYPE",
-              u"tiff, jpeg, bmp, png, exr, hdr, jxl; of films mp4, mkv, mov; default: by --output, "
-              u"else the setting."},
+    OptionRow{
+        u"type", u"TYPE",
+        u"tiff, jpeg, bmp, png, exr, hdr, jxl; films mp4, mkv, mov; default: by the name, else "
+        u"the setting."},
     OptionRow{u"quality", u"Q",
               u"Quality of JPEG and JPEG XL, 1 to 100, JPEG XL's 100 without loss; default: the "
               u"setting."},

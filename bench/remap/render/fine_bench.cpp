@@ -103,7 +103,7 @@ void CompareAll(double patch) {
                  ZonesOf(focal, straight)},
                 *photo, TakeLight(scene, photoSize, Straight(photoSize, straight), runner));
     }
-    constexpr PixelSize quarter{photoSize.width / 4 / 2 * 2, photoSize.height / 4};
+    static constexpr PixelSize quarter{photoSize.width / 4 / 2 * 2, photoSize.height / 4};
     const auto all = [](double, double) { return 0; };
     Compare({"reduced 4 times", Projection::Rectilinear,
              [](SamplingKind sampling) { return WideRecord(90.0F, sampling); },

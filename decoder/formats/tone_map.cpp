@@ -121,12 +121,12 @@ class ScreenCurve {
     ScreenCurve() {
         for (std::size_t i = 0; i < table_.size(); ++i) {
             const double light = double(i) / double(table_.size() - 1);
-            table_[i] = static_cast<std::uint8_t>(SrgbCoded(light) * 255 + 0.5);
+            table_[i] = static_cast<std::uint8_t>(std::lround(SrgbCoded(light) * 255));
         }
     }
     std::uint8_t operator()(float light) const {
-        const float place = std::min(light, 1.0F) * float(table_.size() - 1);
-        return table_[static_cast<std::size_t>(place + 0.5F)];
+        const float place = std::min(light, 1.0F) * float(table_.size() - 1) + 0.5F;
+        return table_[static_cast<std::size_t>(place)];
     }
 
   private:

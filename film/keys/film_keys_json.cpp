@@ -91,7 +91,7 @@ QString TakeSet(const QJsonValue& value, FilmKey& key) {
         return Texts::tr("\"set\" must hold settings and their numbers");
     }
     for (auto field = fields.begin(); field != fields.end(); ++field) {
-        if (const QString error = TakeField(field.key(), field.value(), key); !error.isEmpty()) {
+        if (QString error = TakeField(field.key(), field.value(), key); !error.isEmpty()) {
             return error;
         }
     }
@@ -138,7 +138,7 @@ std::variant<FilmKeys, QString> FilmKeysFromJson(const QByteArray& json) {
         return Texts::tr("it has no list \"keys\"");
     }
     FilmKeys keys;
-    for (const QJsonValue& value : object.value(keysName).toArray()) {
+    for (const auto& value : object.value(keysName).toArray()) {
         FilmKey key;
         if (const QString error = TakeKey(value, key); !error.isEmpty()) {
             return Texts::tr("key %1: %2").arg(keys.size() + 1).arg(error);

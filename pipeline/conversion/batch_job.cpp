@@ -131,7 +131,7 @@ void BatchJob::Work(const BatchChoices& how, bool upright) {
         ConversionPorts ports = PortsFor(feed);
         ports.cores = &pool;
         Observer observer(*this);
-        summary = RunBatch(atWork_, how, observer, ports);
+        summary = RunBatch(atWork_, how, observer, ports, films_);
     });
     Tell([this, summary, shortage] {
         summary_ = summary;

@@ -64,6 +64,8 @@ class BatchJob : public QObject {
     const QString& Shortage() const { return shortage_; }
 
     const NewReader& ReaderMaker() const { return newReader_; }
+    // Who writes entries that are films, on the job's thread; has to outlive the job.
+    void Use(FilmSaver* films) { films_ = films; }
     // The last ones, for the run of the program.
     BatchChoices choices;
 
@@ -88,6 +90,7 @@ class BatchJob : public QObject {
     void End();
 
     NewReader newReader_;
+    FilmSaver* films_ = nullptr;
     RecordArray<ImageRecord> entries_;
     std::vector<EntryProgress> progress_;
     RecordArray<ImageRecord> atWork_;  // the worker's own copy

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <cerrno>
 
+#include "base/error_reason.h"
 #include "base/error_text.h"
 #include "pipeline/output/save_wish.h"
 #include "pipeline/photos/raw_pairs.h"
@@ -63,8 +64,8 @@ class Batch : public ConversionObserver {
     Batch(RecordArray<ImageRecord>& queue, const BatchChoices& choices, BatchObserver& observer)
         : queue_(queue), choices_(choices), observer_(observer) {
         for (int entry = 1; entry <= queue_.UpperBound(); ++entry) {
-            if (const QString path = SourcePath(queue_(entry));
-                photos_.isEmpty() || path != photos_.last()) {
+            const QString path = SourcePath(queue_(entry));
+            if (photos_.isEmpty() || path != photos_.last()) {
                 photos_.append(path);
                 firstEntries_.append(entry);
             }
@@ -75,21 +76,94 @@ class Batch : public ConversionObserver {
         summary_.queued = queue_.UpperBound();
     }
 
-    BatchSummary Go(const ConversionPorts& ports) {
-        const ConversionPlan plan{
-            .photos = photos_,
-            .records = [this](qsizetype photo,
-                              const LoadedPicture& picture) { return Records(photo, picture); },
-            .target = [this](const Conversion& conversion) { return Target(conversion); },
-            .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings}};
+    // Photos that follow one another in one run, and each film by itself.
+    BatchSummary Go(const ConversionPorts& ports, FilmSaver* films) {
         ConversionTargets targets(photos_, {});
-        RunConversions(plan, targets, *this, ports);
+        bool stopped = false;
+        while (first_ < photos_.size() && !stopped) {
+            qsizetype end = first_;
+            while (end < photos_.size() && !IsFilm(end)) {
+                ++end;
+            }
+            if (end > first_) {
+                stopped = ConvertPhotos(end, targets, ports);
+            } else {
+                stopped = ConvertFilms(targets, films);
+                ++end;
+            }
+            first_ = end;
+        }
         return std::move(summary_);
     }
 
   private:
+    bool IsFilm(qsizetype photo) const { return queue_(firstEntries_[photo]).Film.has_value(); }
+    qsizetype PhotoOf(const Conversion& conversion) const { return first_ + conversion.photo; }
     int EntryOf(const Conversion& conversion) const {
-        return firstEntries_[conversion.photo] + static_cast<int>(conversion.index);
+        return firstEntries_[PhotoOf(conversion)] + static_cast<int>(conversion.index);
+    }
+
+    bool ConvertPhotos(qsizetype end, ConversionTargets& targets, const ConversionPorts& ports) {
+        const ConversionPlan plan{
+            .photos = photos_.mid(first_, end - first_),
+            .records =
+                [this](qsizetype photo, const LoadedPicture& picture) {
+                    return Records(first_ + photo, picture);
+                },
+            .target = [this](const Conversion& conversion) { return Target(conversion); },
+            .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings}};
+        return RunConversions(plan, targets, *this, ports).stopped;
+    }
+
+    // The entries of the film at hand.
+    bool ConvertFilms(ConversionTargets& targets, FilmSaver* films) {
+        for (int entry = firstEntries_[first_]; entry < firstEntries_[first_ + 1]; ++entry) {
+            if (StopAsked()) {
+                return true;
+            }
+            Conversion conversion;
+            conversion.index = entry - firstEntries_[first_];
+            conversion.record = AsSaved(queue_(entry), choices_.sampling);
+            const Reason error = Attempt([&] { ConvertFilm(conversion, targets, films); });
+            if (!error.isEmpty()) {
+                NoteFailure(conversion, ErrorText(error));
+            }
+            NoteDone();
+        }
+        return false;
+    }
+
+    void ConvertFilm(Conversion& conversion, ConversionTargets& targets, FilmSaver* films) {
+        const QString& film = photos_[first_];
+        conversion.target = Target(conversion);
+        TargetRefusal refusal = targets.Take(film, conversion.target);
+        refusal = refusal ? refusal : targets.Check(film, conversion.target, false);
+        if (refusal) {
+            NoteFailure(conversion, RefusalText(refusal.error, conversion.target, {}));
+            return;
+        }
+        Begun(conversion);
+        if (films == nullptr) {
+            NoteFailure(conversion, Texts::tr("this program cannot write films"));
+            return;
+        }
+        Progress().Begin(1.0F);
+        const SavedFilm saved =
+            films->Save(conversion.record, choices_.film, conversion.target, [this](double part) {
+                Progress().Advance(static_cast<float>(part));
+                return true;  // the image at hand is finished
+            });
+        Progress().End();
+        if (!saved.error.isEmpty()) {
+            NoteFailure(
+                conversion,
+                Texts::tr("could not write %1: %2").arg(conversion.target, ErrorText(saved.error)));
+            return;
+        }
+        targets.NoteWritten(film, conversion.target, false);
+        NoteWritten(conversion, saved.notes.isEmpty()
+                                    ? Reason()
+                                    : Reason(ReasonCode::Words, saved.notes.join(u"; ")));
     }
 
     QString Target(const Conversion& conversion) const {
@@ -119,7 +193,7 @@ class Batch : public ConversionObserver {
 
     void Ended(const Conversion& conversion, const ConversionOutcome& outcome) override {
         if (outcome.end == ConversionEnd::NotRead || outcome.end == ConversionEnd::NoRecords) {
-            FailAll(conversion.photo, FailureText(conversion, outcome));
+            FailAll(PhotoOf(conversion), FailureText(conversion, outcome));
             return;
         }
         if (outcome.end == ConversionEnd::Written) {
@@ -144,7 +218,7 @@ class Batch : public ConversionObserver {
     }
 
     void NoteFailure(const Conversion& conversion, const QString& error) {
-        summary_.failures.push_back({photos_[conversion.photo], error});
+        summary_.failures.push_back({photos_[PhotoOf(conversion)], error});
         observer_.EntryEnded(EntryOf(conversion), false, error);
     }
 
@@ -160,7 +234,8 @@ class Batch : public ConversionObserver {
         summary_.entries.append(EntryOf(conversion));
         observer_.EntryEnded(EntryOf(conversion), true, path);
         if (!conversion.damage.isEmpty()) {
-            summary_.damaged.push_back({photos_[conversion.photo], ErrorText(conversion.damage)});
+            summary_.damaged.push_back(
+                {photos_[PhotoOf(conversion)], ErrorText(conversion.damage)});
         }
     }
 
@@ -176,6 +251,7 @@ class Batch : public ConversionObserver {
     QList<int> firstEntries_;  // of each photo, and one past the last
     PhotoDays days_;
     BatchSummary summary_;
+    qsizetype first_ = 0;  // photo of those at hand
 };
 
 }  // namespace
@@ -189,8 +265,11 @@ QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices) {
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices, const NameFacts& facts) {
     const PhotoEnding ending =
         choices.paired.contains(SourcePath(entry)) ? PhotoEnding::Kept : PhotoEnding::Cut;
-    return PathByPattern(AsSaved(entry, choices.sampling), BatchFolder(entry, choices),
-                         {PatternOf(choices), choices.additions, ending}, choices.type, facts);
+    const QString path =
+        PathByPattern(AsSaved(entry, choices.sampling), BatchFolder(entry, choices),
+                      {PatternOf(choices), choices.additions, ending}, choices.type, facts);
+    return entry.Film ? path.chopped(ExtensionOf(choices.type).size()) + EndingOf(choices.film)
+                      : path;
 }
 
 QSet<QString> PairedPhotos(const RecordArray<ImageRecord>& queue) {
@@ -217,8 +296,8 @@ NameFacts FactsOf(const RecordArray<ImageRecord>& queue, int entry, const BatchC
 }
 
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
-                      BatchObserver& observer, const ConversionPorts& ports) {
-    return Batch(queue, choices, observer).Go(ports);
+                      BatchObserver& observer, const ConversionPorts& ports, FilmSaver* films) {
+    return Batch(queue, choices, observer).Go(ports, films);
 }
 
 }  // namespace varnel

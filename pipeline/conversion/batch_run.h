@@ -13,6 +13,7 @@
 #include "base/record_array.h"
 #include "pipeline/conversion/batch_summary.h"
 #include "pipeline/conversion/conversion_run.h"
+#include "pipeline/conversion/film_saver.h"
 #include "pipeline/output/name_pattern.h"
 
 namespace varnel {
@@ -32,6 +33,7 @@ struct BatchChoices {
     TiffCompression compression = TiffCompression::Usual;
     SamplingKind sampling = SamplingKind::Classic;
     QSet<QString> paired = {};  // photos whose files keep their ending in the name
+    FilmOutput film = {};       // how entries that are films are written
 };
 
 // The queue's photos that are there as raw file and as JPEG: their files would have one name.
@@ -51,8 +53,8 @@ inline QString PatternOf(const BatchChoices& choices) {
 // Where an entry's file goes.
 QString BatchFolder(const ImageRecord& entry, const BatchChoices& choices);
 
-// The full path under which an entry is written, by the choices' paired photos. Throws RunTimeError
-// when a number of the record cannot stand in a name.
+// The full path under which an entry is written, with the type's ending or a film's, by the
+// choices' paired photos. Throws RunTimeError when a number of the record cannot stand in a name.
 QString BatchPath(const ImageRecord& entry, const BatchChoices& choices,
                   const NameFacts& facts = {});
 
@@ -83,8 +85,10 @@ class BatchObserver {
 // Converts and writes the entries in order, with the paired photos of this queue. Loading sets an
 // entry's size, nothing else of it is changed. An entry that fails is noted and nothing is written
 // for it. A file that is a photo of the queue is never replaced, and no older file by a conversion
-// of a damaged photo. Throws std::bad_alloc and what the observer throws.
+// of a damaged photo. Films are written by their saver in their turn; without one they fail. Throws
+// std::bad_alloc and what the observer throws.
 BatchSummary RunBatch(RecordArray<ImageRecord>& queue, const BatchChoices& choices,
-                      BatchObserver& observer, const ConversionPorts& ports);
+                      BatchObserver& observer, const ConversionPorts& ports,
+                      FilmSaver* films = nullptr);
 
 }  // namespace varnel

@@ -119,6 +119,10 @@
         <source>%1 of %2 images written next to their photos</source>
         <translation>%1 von %2 Bildern neben ihre Fotos geschrieben</translation>
     </message>
+    <message>
+        <source>this program cannot write films</source>
+        <translation>dieses Programm kann keine Filme schreiben</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>
@@ -1786,6 +1790,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>the gear is a guess</source>
         <translation>die Ausrüstung ist angenommen</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>Film</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -3360,6 +3368,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>tunnel</source>
         <translation>Tunnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>Schlüssel des Films</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>Teil des Films</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3976,6 +3992,120 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>Only Rectilinear draws faces out; the others have none to soften.</source>
         <translation>Nur Rectilinear zieht Gesichter in die Länge; die anderen haben keine zu schonen.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Spielt den Film ab (Leertaste)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>Der Film beginnt mit diesem Bild (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>Der Film endet mit diesem Bild (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Schlüssel setzen</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Schlüssel automatisch</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Jeder Regler, der bewegt wird, macht hier einen Schlüssel; sonst nur die, die schon Schlüssel haben</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Codec des Films</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Wie der Film kodiert wird</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Qualität des Films (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF des Kodierers: eine kleinere Zahl gibt eine bessere und längere Datei</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Übliche Qualität</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Geschwindigkeit des Kodierens</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Ein langsamerer Kodierer macht kürzere Dateien gleicher Qualität</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Übliche Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Film speichern ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Wandelt den Film mit seinen Schlüsseln um, von Anfang bis Ende, und schreibt ihn</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Schlüssel entfernen</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Entfernt den Schlüssel an dieser Stelle</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Ein Schlüssel an dieser Stelle mit den Zahlen aller Regler, die sich bewegen (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>%1 konnte nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>Das ist der Film selbst; wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Es wurde kein Film geschrieben</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 gespeichert</translation>
     </message>
 </context>
 <context>
@@ -5193,6 +5323,33 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Dunkel</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Zeitleiste des Films</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Gleichmäßig zum nächsten Schlüssel</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Langsam los und langsam an</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Halten bis zum nächsten Schlüssel</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Den Schlüssel entfernen</translation>
     </message>
 </context>
 <context>

@@ -119,6 +119,10 @@
         <source>%1 of %2 images written next to their photos</source>
         <translation>%1 de %2 imágenes escritas junto a sus fotos</translation>
     </message>
+    <message>
+        <source>this program cannot write films</source>
+        <translation>este programa no puede escribir películas</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>
@@ -1786,6 +1790,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>the gear is a guess</source>
         <translation>el equipo es una suposición</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>película</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -3360,6 +3368,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>tunnel</source>
         <translation>túnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>claves de la película</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>parte de la película</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3976,6 +3992,120 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Only Rectilinear draws faces out; the others have none to soften.</source>
         <translation>Solo Rectilinear estira los rostros; las demás no tienen nada que suavizar.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Reproduce la película (espacio)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>La película empieza con este fotograma (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>La película termina con este fotograma (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Poner clave</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Clave automática</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Cada control que se mueve pone una clave en este momento; si no, solo los que ya tienen claves</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Códec de la película</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Cómo se codifica la película</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Calidad de la película (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF del codificador: un número menor da un archivo mejor y más largo</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Calidad habitual</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Velocidad de codificación</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Un codificador más lento hace archivos más cortos de la misma calidad</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Velocidad habitual</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Guardar película ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Convierte la película con sus claves, de Inicio a Fin, y la escribe</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Quitar clave</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Quita la clave en este momento</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Una clave en este momento con los números de todos los controles que se mueven (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>No se pudo guardar %1</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>Es la propia película; elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>No se ha escrito ninguna película</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>Guardado %1</translation>
     </message>
 </context>
 <context>
@@ -5193,6 +5323,33 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     <message>
         <source>Theme</source>
         <translation>Tema</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Línea de tiempo de la película</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Uniformemente hasta la clave siguiente</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Salida lenta y llegada lenta</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Mantener hasta la clave siguiente</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Quitar la clave</translation>
     </message>
 </context>
 <context>

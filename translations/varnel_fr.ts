@@ -119,6 +119,10 @@
         <source>%1 of %2 images written next to their photos</source>
         <translation>%1 images sur %2 écrites à côté de leurs photos</translation>
     </message>
+    <message>
+        <source>this program cannot write films</source>
+        <translation>ce programme ne peut pas écrire de films</translation>
+    </message>
 </context>
 <context>
     <name>Choices</name>
@@ -1786,6 +1790,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>the gear is a guess</source>
         <translation>l’équipement est supposé</translation>
     </message>
+    <message>
+        <source>film</source>
+        <translation>film</translation>
+    </message>
 </context>
 <context>
     <name>MagnificationOverlay</name>
@@ -3360,6 +3368,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>tunnel</source>
         <translation>tunnel</translation>
     </message>
+    <message>
+        <source>keys of the film</source>
+        <translation>clés du film</translation>
+    </message>
+    <message>
+        <source>part of the film</source>
+        <translation>partie du film</translation>
+    </message>
 </context>
 <context>
     <name>ToolbarTools</name>
@@ -3976,6 +3992,120 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Only Rectilinear draws faces out; the others have none to soften.</source>
         <translation>Seule Rectilinear étire les visages&#x202f;; les autres n’en ont pas à adoucir.</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmBar</name>
+    <message>
+        <source>Play</source>
+        <translation>Lire</translation>
+    </message>
+    <message>
+        <source>Plays the film (space)</source>
+        <translation>Lit le film (espace)</translation>
+    </message>
+    <message>
+        <source>In</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>The film begins with this frame (I)</source>
+        <translation>Le film commence par cette image (I)</translation>
+    </message>
+    <message>
+        <source>Out</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>The film ends with this frame (O)</source>
+        <translation>Le film finit par cette image (O)</translation>
+    </message>
+    <message>
+        <source>Set key</source>
+        <translation>Poser une clé</translation>
+    </message>
+    <message>
+        <source>Auto key</source>
+        <translation>Clé automatique</translation>
+    </message>
+    <message>
+        <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
+        <translation>Chaque curseur déplacé pose une clé à cet instant ; sinon seulement ceux qui ont déjà des clés</translation>
+    </message>
+    <message>
+        <source>Codec of the film</source>
+        <translation>Codec du film</translation>
+    </message>
+    <message>
+        <source>How the film is encoded</source>
+        <translation>Comment le film est encodé</translation>
+    </message>
+    <message>
+        <source>Quality of the film (CRF)</source>
+        <translation>Qualité du film (CRF)</translation>
+    </message>
+    <message>
+        <source>CRF of the encoder: a smaller number is a better and longer file</source>
+        <translation>CRF de l’encodeur : un nombre plus petit donne un fichier meilleur et plus long</translation>
+    </message>
+    <message>
+        <source>Usual quality</source>
+        <translation>Qualité usuelle</translation>
+    </message>
+    <message>
+        <source>Speed of encoding</source>
+        <translation>Vitesse d’encodage</translation>
+    </message>
+    <message>
+        <source>A slower encoder makes shorter files of the same quality</source>
+        <translation>Un encodeur plus lent fait des fichiers plus courts de même qualité</translation>
+    </message>
+    <message>
+        <source>Usual speed</source>
+        <translation>Vitesse usuelle</translation>
+    </message>
+    <message>
+        <source>Save film ...</source>
+        <translation>Enregistrer le film ...</translation>
+    </message>
+    <message>
+        <source>Converts the film with its keys, from In to Out, and writes it</source>
+        <translation>Convertit le film avec ses clés, de Début à Fin, et l’écrit</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Remove key</source>
+        <translation>Retirer la clé</translation>
+    </message>
+    <message>
+        <source>Removes the key at this time</source>
+        <translation>Retire la clé à cet instant</translation>
+    </message>
+    <message>
+        <source>A key at this time with the numbers of all sliders that move (K)</source>
+        <translation>Une clé à cet instant avec les nombres de tous les curseurs qui évoluent (K)</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::FilmTools</name>
+    <message>
+        <source>Could not save %1</source>
+        <translation>Impossible d’enregistrer %1</translation>
+    </message>
+    <message>
+        <source>This is the film itself; choose another name.</source>
+        <translation>C’est le film lui-même ; choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>No film was written</source>
+        <translation>Aucun film n’a été écrit</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 enregistré</translation>
     </message>
 </context>
 <context>
@@ -5193,6 +5323,33 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     <message>
         <source>Theme</source>
         <translation>Thème</translation>
+    </message>
+</context>
+<context>
+    <name>varnel::TimeLine</name>
+    <message>
+        <source>Time line of the film</source>
+        <translation>Ligne de temps du film</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Evenly to the next key</source>
+        <translation>Régulièrement jusqu’à la clé suivante</translation>
+    </message>
+    <message>
+        <source>Slowly out and slowly in</source>
+        <translation>Départ lent et arrivée lente</translation>
+    </message>
+    <message>
+        <source>Hold until the next key</source>
+        <translation>Tenir jusqu’à la clé suivante</translation>
+    </message>
+    <message>
+        <source>Remove the key</source>
+        <translation>Retirer la clé</translation>
     </message>
 </context>
 <context>

@@ -48,9 +48,12 @@ bool RealDialogs::AddImages(QWidget* parent) {
                              QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
                              &MountedVolumes};
     // A separate reader, so that a slow small picture never delays a photo.
-    const auto reader = NewPictureReader({.secondsPerPhoto = 10});
+    const auto reader = NewReaderWithFilms({.secondsPerPhoto = 10});
     FormAddImages form(state_.Images, store_, notices_, places,
                        {*reader, state_.settings.AutoOrient}, parent);
+    if (CanReadFilms()) {
+        form.OfferFilms();
+    }
     return form.exec() == QDialog::Accepted;
 }
 
@@ -131,7 +134,7 @@ void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChang
     FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, state_.pool,
                    notices_, queueChanged, parent);
     const std::unique_ptr<MorphFilmMaker> maker = NewMorphFilmMaker(state_.pool, state_.settings);
-    form.OfferFilm({maker.get(), &RealDialogs::ChooseFilmName});
+    form.OfferFilm({maker.get(), [this](const QString& name) { return ChooseFilmName(name); }});
     form.exec();
 }
 

@@ -40,6 +40,7 @@ class RealDialogs : public Dialogs {
     Restore AskToRestore(const LostList& list) override;
     QString ChooseProject(const QString& folder) override;
     QString ChooseProjectName(const QString& proposal) override;
+    QString ChooseFilmName(const QString& proposal) override;
 
     // What every gear editor works with.
     GearEditorPorts EditorPorts();
@@ -50,8 +51,6 @@ class RealDialogs : public Dialogs {
 
   private:
     QString LastFolder() const;
-    // With one of the films' endings; what is there may be replaced. Empty when cancelled.
-    static QString ChooseFilmName(const QString& proposal);
 
     WorkingState& state_;
     SettingsStore& store_;

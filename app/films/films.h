@@ -1,18 +1,26 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Who works on films for the window. Where the program is built without them, these are null.
-// Throws std::bad_alloc only.
+// The window's films. Where the program is built without their decoder there are none: then the
+// reader reads photos only, and all else is null. Throws std::bad_alloc only.
 #pragma once
 
 #include <memory>
 
+#include "app/workspace/film/film_source.h"
 #include "base/thread_runner.h"
+#include "decoder/process/picture_reader.h"
+#include "pipeline/conversion/film_saver.h"
 #include "pipeline/conversion/morph_film.h"
 #include "state/settings/general_settings.h"
 
 namespace varnel {
 
+bool CanReadFilms();
+// Photos as they are, and films as their first frame.
+std::unique_ptr<PictureReader> NewReaderWithFilms(const ReaderOptions& options = {});
+std::unique_ptr<FilmSource> NewFilmSource(ThreadRunner& pool);
+std::unique_ptr<FilmSaver> NewFilmSaver(const GeneralSettings& settings);
 std::unique_ptr<MorphFilmMaker> NewMorphFilmMaker(ThreadRunner& pool,
                                                   const GeneralSettings& settings);
 

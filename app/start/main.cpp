@@ -14,6 +14,7 @@
 #include "app/dialogs/reading_box.h"
 #include "app/dialogs/real_dialogs.h"
 #include "app/dialogs/screen_profile.h"
+#include "app/films/films.h"
 #include "app/start/application.h"
 #include "app/start/console_start.h"
 #include "app/start/focus_style.h"
@@ -53,7 +54,9 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
     ThemeKeeper theme(StoredTheme(store));
     WorkingState state;
     state.settings = LoadSettings(store);
-    const auto reader = NewPictureReader();
+    const auto reader = NewReaderWithFilms();
+    const auto films = NewFilmSource(state.pool);
+    const auto filmSaver = NewFilmSaver(state.settings);
     ReadingBox wait;
     PhotoLoader photos(*reader, &wait, &state.settings);
     RealDialogs dialogs(state, store, *reader, photos, notices, fileChooser);
@@ -64,11 +67,12 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      gearPrompt,
                      fileChooser,
                      dialogs,
-                     [] { return NewPictureReader({.secondsPerPhoto = 10}); },
+                     [] { return NewReaderWithFilms({.secondsPerPhoto = 10}); },
                      {UserSessionFolder()},
-                     [] { return NewPictureReader(); },
+                     [] { return NewReaderWithFilms(); },
                      &theme,
-                     &ScreenProfile});
+                     &ScreenProfile,
+                     {films.get(), filmSaver.get()}});
     dialogs.Use([&window] { return window.CurrentImage(); });
     QObject::connect(&window, &MDIForm1::QuitWanted, &application, &QApplication::quit,
                      Qt::QueuedConnection);

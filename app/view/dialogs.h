@@ -12,10 +12,12 @@
 #include <vector>
 
 #include "app/looks/theme.h"
+#include "app/workspace/film/film_source.h"
 #include "base/notices.h"
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_store.h"
 #include "pipeline/conversion/batch_job.h"
+#include "pipeline/conversion/film_saver.h"
 #include "pipeline/photos/file_chooser.h"
 #include "pipeline/photos/photo_loader.h"
 
@@ -91,6 +93,9 @@ class Dialogs {
     // Paths of project files, to be opened or written; empty when cancelled.
     virtual QString ChooseProject(const QString& folder) = 0;
     virtual QString ChooseProjectName(const QString& proposal) = 0;
+    // Of a film that is to be written, with its ending; what is there may be replaced. Empty when
+    // cancelled.
+    virtual QString ChooseFilmName(const QString& proposal) = 0;
 };
 
 // Everything besides itself through which the main window communicates with the user.
@@ -113,6 +118,11 @@ struct WindowPorts {
     ThemeKeeper* theme = nullptr;
     // The screen's colour profile, empty for sRGB; without it that is taken.
     std::function<QByteArray()> screenProfile = nullptr;
+    // What reads and what writes films; without them there are only photos.
+    struct {
+        FilmSource* source = nullptr;
+        FilmSaver* saver = nullptr;
+    } films = {};
 };
 
 }  // namespace varnel

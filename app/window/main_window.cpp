@@ -23,6 +23,7 @@
 #include "app/tools/crop/crop_tools.h"
 #include "app/tools/empty_state.h"
 #include "app/tools/faces/face_tools.h"
+#include "app/tools/film/film_tools.h"
 #include "app/tools/frame_tools.h"
 #include "app/tools/gear/photo_gear_tools.h"
 #include "app/tools/guide_tools.h"
@@ -63,7 +64,8 @@ MDIForm1::MDIForm1(WorkingState& state, SettingsStore& store, const WindowPorts&
              [this](PixelSize photo) {
                  return PreviewSize(photo, view_.PreviewBox(), view_.PictureRoom());
              }),
-      workspace_(model_, WorkspacePorts{ports_.photos, ports_.notices, view_, &shelf_}) {
+      workspace_(model_, WorkspacePorts{ports_.photos, ports_.notices, view_, &shelf_,
+                                        ports_.films.source}) {
     setObjectName(QStringLiteral("MDIForm1"));
     setWindowTitle(QStringLiteral("Varnel"));
     setAcceptDrops(true);
@@ -112,6 +114,9 @@ void MDIForm1::MakeTools() {
     new PhotoGearTools(this, parts_, view_, workspace_, store_, ports_);
     new PairTools(parts_, view_, workspace_, this);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
+    if (ports_.films.source != nullptr) {
+        new FilmTools(this, parts_, view_, workspace_, ports_, batch_);
+    }
     new SizeTools(this, parts_, view_, workspace_);
     new SaveTools(this, parts_, workspace_, *list, ports_, batch_);
     new BatchTools(this, parts_, view_, batch_);

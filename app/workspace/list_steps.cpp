@@ -59,6 +59,13 @@ void ListSteps::MarkWritten(const ImageRecord& image, const QString& file) {
     Q_EMIT Changed();
 }
 
+std::optional<Restored> ListSteps::Told(std::optional<Restored> restored) {
+    if (restored) {
+        Q_EMIT RecordsRestored();
+    }
+    return restored;
+}
+
 void ListSteps::NotifyRestored(const Restored& restored) {
     Q_EMIT Changed();
     if (restored.besides.gear) {

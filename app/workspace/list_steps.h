@@ -43,8 +43,8 @@ class ListSteps : public QObject {
 
     // Nothing when there is no step. The caller shows what was restored and then calls
     // NotifyRestored.
-    std::optional<Restored> Undo() { return history_.Undo(); }
-    std::optional<Restored> Redo() { return history_.Redo(); }
+    std::optional<Restored> Undo() { return Told(history_.Undo()); }
+    std::optional<Restored> Redo() { return Told(history_.Redo()); }
     void NotifyRestored(const Restored& restored);
 
     QString UndoName() const { return history_.UndoName(); }
@@ -55,12 +55,16 @@ class ListSteps : public QObject {
 
   Q_SIGNALS:
     void Changed();
+    // A step was undone or done again, and nothing of it is shown yet.
+    void RecordsRestored();
     // The gear change that the step undone or done again asks for.
     void GearRestored(const varnel::GearChange& change);
     // The new gears of that step; they go when it was undone.
     void NewGearsRestored(const std::vector<varnel::GearRecord>& gears, bool undone);
 
   private:
+    std::optional<Restored> Told(std::optional<Restored> restored);
+
     const ImageSelection& list_;
     History history_;
 };

@@ -42,7 +42,17 @@ void PhotoAdder::Report(const std::vector<BadFile>& bad) {
                 lines);
 }
 
+// From that one on.
+void PhotoAdder::MarkFilms(RecordArray<ImageRecord>& images, int first) const {
+    for (int n = first; ports_.films != nullptr && n <= images.UpperBound(); ++n) {
+        if (!images(n).Film && ports_.films->IsFilm(SourcePath(images(n)))) {
+            images(n).Film.emplace();
+        }
+    }
+}
+
 void PhotoAdder::ImagesAdded(int before) {
+    MarkFilms(model_.list.Images(), before + 1);
     std::vector<BadFile> bad;
     {
         const auto hourglass = ports_.view.Hourglass();
@@ -99,6 +109,7 @@ void PhotoAdder::AddFiles(const QStringList& paths) {
     if (images.Empty()) {
         return;
     }
+    MarkFilms(images, 1);
     photo_.NoteUnreadable(added.bad);
     const int before = model_.list.Images().UpperBound();
     const int line = added.like.isEmpty() ? 0 : before + added.like.firstKey() - 1;

@@ -22,6 +22,7 @@ class PhotoAdder {
     void AddFiles(const QStringList& paths);
 
   private:
+    void MarkFilms(RecordArray<ImageRecord>& images, int first) const;
     void Report(const std::vector<BadFile>& bad);
     // Of the records after the first ones those that can be read and have no settings.
     void TellAdded(int before, const std::vector<BadFile>& bad, const QMap<int, QString>& like);

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "app/workspace/film/film_source.h"
 #include "base/notices.h"
 #include "base/pixel_size.h"
 #include "pipeline/photos/photo_loader.h"
@@ -44,7 +45,8 @@ struct WorkspacePorts {
     PhotoLoader& photos;
     Notices& notices;
     WorkspaceView& view;
-    PhotoShelf* shelf = nullptr;  // null: every photo is read when its line becomes current
+    PhotoShelf* shelf = nullptr;        // null: every photo is read when its line becomes current
+    const FilmSource* films = nullptr;  // null: there are only photos
 };
 
 }  // namespace varnel

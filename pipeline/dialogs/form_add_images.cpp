@@ -71,7 +71,11 @@ void FormAddImages::OnFolder() {
 
 void FormAddImages::RefillFiles() {
     const QIcon plain = style()->standardIcon(QStyle::SP_FileIcon);
-    const QStringView patterns = ui_->Option1->isChecked() ? photoPatterns : anyPattern;
+    QString patterns = (ui_->Option1->isChecked() ? photoPatterns : anyPattern).toString();
+    if (films_ && ui_->Option1->isChecked()) {
+        patterns += u';';
+        patterns += filmPatterns;
+    }
     ui_->File1->clear();
     for (const QString& fileName : FilesIn(place_->Folder(), patterns)) {
         auto* const item = new QListWidgetItem(plain, fileName, ui_->File1);
@@ -83,6 +87,11 @@ void FormAddImages::RefillFiles() {
     if (isVisible()) {
         previews_->Start();
     }
+}
+
+void FormAddImages::OfferFilms() {
+    films_ = true;
+    RefillFiles();
 }
 
 void FormAddImages::ShowCounts() {

@@ -42,6 +42,8 @@ class FormAddImages : public QDialog, private PreviewMaker {
                   const PhotoPlaces& places, const SmallPictures& pictures,
                   QWidget* parent = nullptr);
     ~FormAddImages() override;
+    // Shows films among the photos.
+    void OfferFilms();
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -71,6 +73,7 @@ class FormAddImages : public QDialog, private PreviewMaker {
     SmallPictures pictures_;
     std::unique_ptr<FolderChooser> place_;
     std::unique_ptr<IdlePreviews> previews_;
+    bool films_ = false;
 };
 
 }  // namespace varnel

@@ -21,6 +21,9 @@ namespace varnel {
 inline constexpr QStringView photoPatterns =
     u"*.jpg;*.tif;*.png;*.bmp;*.dng;*.jpeg;*.jpe;*.jif;*.jfif;*.tiff;*.dib;*.cr2;*.cr3;*.nef;*.arw;"
     u"*.orf;*.rw2;*.raf;*.pef;*.heic;*.heif;*.avif;*.jxl";
+// Of films, for those who can read them.
+inline constexpr QStringView filmPatterns =
+    u"*.mp4;*.mov;*.mkv;*.avi;*.webm;*.m4v;*.mts;*.m2ts;*.mpg;*.wmv;*.insv;*.360";
 inline constexpr QStringView anyPattern = u"*.*";  // every file, with a dot in its name or without
 
 // The names of the folder's files that match one of the patterns, sorted; case never counts. Hidden

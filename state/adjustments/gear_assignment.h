@@ -60,8 +60,8 @@ void TurnCentre(ImageRecord& image, int orientation);
 // assigned.
 void ApplyGearToAll(RecordArray<ImageRecord>& images, const QString& gearName);
 
-// Copies everything but size, orientations, file and name suffix. Centre offsets go as they stand
-// onto a record of the other orientation, too.
+// Copies everything but size, orientations, file, name suffix and what films have. Centre offsets
+// go as they stand onto a record of the other orientation, too.
 void CopySettings(const ImageRecord& from, ImageRecord& to);
 // From the current image to all.
 void ApplySettingsToAll(RecordArray<ImageRecord>& images, int current);

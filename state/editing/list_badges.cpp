@@ -23,6 +23,10 @@ ListBadges MarksOf(const ImageRecord& image, bool queued, const QString& error) 
     const QString projection = TitleOf(ProjectionFromIndex(image.Projection));
     QString letters = projection.left(1);
     QStringList words{projection};
+    if (image.Film) {
+        letters += QChar(0x25B8);
+        words.append(Texts::tr("film"));
+    }
     if (image.SettingsApplied) {
         letters += u'A';
         words.append(Texts::tr("adjusted"));

@@ -10,8 +10,8 @@
 
 namespace varnel {
 
-// The initial of the projection, then "A" for adjusted, "?" for a gear that is a guess, "Q" for
-// queued and "!" for error.
+// The initial of the projection, then a triangle for a film, "A" for adjusted, "?" for a gear that
+// is a guess, "Q" for queued and "!" for error.
 struct ListBadges {
     QString letters;
     QString words;  // the same, joined with commas; the error stands last

@@ -39,6 +39,8 @@ constexpr std::array names{QT_TRANSLATE_NOOP("Steps", "projection"),
                            QT_TRANSLATE_NOOP("Steps", "size"),
                            QT_TRANSLATE_NOOP("Steps", "crop"),
                            QT_TRANSLATE_NOOP("Steps", "outside"),
+                           QT_TRANSLATE_NOOP("Steps", "keys of the film"),
+                           QT_TRANSLATE_NOOP("Steps", "part of the film"),
                            QT_TRANSLATE_NOOP("Steps", "change")};
 static_assert(names.size() == static_cast<std::size_t>(StepKind::Other) + 1);
 

@@ -42,6 +42,8 @@ enum class StepKind {
     Size,
     Crop,
     Outside,
+    Keys,      // of a film
+    FilmPart,  // that is converted
     Other
 };
 

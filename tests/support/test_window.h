@@ -120,10 +120,15 @@ class FakeDialogs : public Dialogs {
     }
     QString ChooseProject(const QString& /*folder*/) override { return project; }
     QString ChooseProjectName(const QString& /*proposal*/) override { return project; }
+    QString ChooseFilmName(const QString& proposal) override {
+        opened.append(QStringLiteral("ChooseFilmName ") + proposal);
+        return film;
+    }
     QStringList opened;
     QStringList shownInFolder;
     SaveFirst saveFirst = SaveFirst::Cancel;
     QString project;  // the path that is chosen
+    QString film;     // likewise
     std::function<bool()> onAdd;
     std::function<std::vector<GearChange>()> onManage;
     bool givesNewNumbers = true;
@@ -165,6 +170,8 @@ class SlowReader : public PictureReader {
 struct TestStart {
     NewSmallReader newGearReader = nullptr;  // added photos keep the default gear without it
     QStringList files = {};
+    FilmSource* films = nullptr;
+    FilmSaver* filmSaver = nullptr;
 };
 
 class TestWindow {
@@ -182,7 +189,10 @@ class TestWindow {
                   dialogs,
                   newSmallReader,
                   {sessionFolder, 20},
-                  start.newGearReader}) {
+                  start.newGearReader,
+                  nullptr,
+                  nullptr,
+                  {start.films, start.filmSaver}}) {
         dialogs.restore = restore;
         window.OpenAtStart(start.files);
         window.resize(1200, 900);

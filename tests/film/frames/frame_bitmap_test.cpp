@@ -7,7 +7,7 @@
 
 #include <cstring>
 
-#include "film/frames/frame_buffer.h"
+#include "film/frames/bitmap_frame.h"
 
 namespace varnel {
 namespace {
@@ -118,6 +118,34 @@ TEST(FrameToBitmap, TurnsTheRowsAndPutsColourWhereItsSamplesAre) {
             EXPECT_NEAR(ColourOf(*bitmap, 4, 7 - y)[0], row.down[static_cast<std::size_t>(y) - 1],
                         1)
                 << y;
+        }
+    }
+}
+
+// There and back: what colour loses by being shared is no more than a few levels on a slope.
+TEST(BitmapToFrame, ComesBackAndLeavesOddBordersOut) {
+    SerialRunner runner;
+    const BitmapHandle picture = NewBitmap({33, 21});
+    for (int y = 0; y < 21; ++y) {
+        for (int x = 0; x < 33; ++x) {
+            picture->ScanLine(y)[static_cast<std::size_t>(x) * 3] =
+                static_cast<std::uint8_t>(7 * x);
+            picture->ScanLine(y)[static_cast<std::size_t>(x) * 3 + 1] =
+                static_cast<std::uint8_t>(12 * y);
+            picture->ScanLine(y)[static_cast<std::size_t>(x) * 3 + 2] = 90;
+        }
+    }
+    const FrameBuffer frame(StillFormat({33, 21}));
+    BitmapToFrame(*picture, frame.Target(), runner);
+    const BitmapHandle back = FrameToBitmap(frame.View(), runner);
+    ASSERT_EQ(back->Size().width, 32);
+    ASSERT_EQ(back->Size().height, 20);
+    for (int y = 1; y < 19; ++y) {
+        for (int x = 1; x < 31; ++x) {
+            const Levels colour = ColourOf(*back, x, y);
+            EXPECT_NEAR(colour[2], 7 * x, 6) << x << ' ' << y;
+            EXPECT_NEAR(colour[1], 12 * (y + 1), 6) << x << ' ' << y;
+            EXPECT_NEAR(colour[0], 90, 6) << x << ' ' << y;
         }
     }
 }

@@ -109,51 +109,6 @@ TEST_F(FakeRun, ChoicesSayWhetherMetadataSettingsAndFullColourAreWritten) {
     EXPECT_EQ(saved, Text(" 1:125:83:0 0:none:83:1"));
 }
 
-class FakeFilms : public FilmSaver {
-  public:
-    explicit FakeFilms(QStringList& log) : log_(log) {}
-    SavedFilm Save(const ImageRecord& film, const FilmOutput& output, const QString& path,
-                   const std::function<bool(double)>& goesOn) override {
-        log_ += Text("film %1 to %2 by %3").arg(film.FileName, path, output.codec);
-        goesOn(0.5);
-        return answer;
-    }
-    SavedFilm answer;
-
-  private:
-    QStringList& log_;
-};
-
-TEST_F(FakeRun, FilmsAreWrittenInTheirTurnByTheirSaver) {
-    for (const char* const name : {"a.jpg", "b.mp4", "c.mp4", "d.jpg"}) {
-        queue.Append(FisheyePhoto(Text("/in"), Text(name)));
-    }
-    queue(2).Film.emplace();
-    queue(3).Film.emplace();
-    choices.film.codec = Text("ffv1");
-    FakeFilms films(log);
-    const BatchSummary summary = RunBatch(queue, choices, listener, ports, &films);
-    EXPECT_EQ(log.join(u'\n'),
-              Text("load /in/a.jpg\nname /out/a.Varnel.JPG\nbegin\nend\n"
-                   "save /out/a.Varnel.JPG as JPEG with 83\n1 of 4 images\n"
-                   "name /out/b.Varnel.mkv\nbegin\nfilm b.mp4 to /out/b.Varnel.mkv by ffv1\nend\n"
-                   "2 of 4 images\n"
-                   "name /out/c.Varnel.mkv\nbegin\nfilm c.mp4 to /out/c.Varnel.mkv by ffv1\nend\n"
-                   "3 of 4 images\n"
-                   "load /in/d.jpg\nname /out/d.Varnel.JPG\nbegin\nend\n"
-                   "save /out/d.Varnel.JPG as JPEG with 83\n4 of 4 images"));
-    EXPECT_EQ(summary.entries, (QList<int>{1, 2, 3, 4}));
-    films.answer = {ReasonCode::NotEnoughMemory, {}};
-    listener.stopAfter = 2;
-    log.clear();
-    const BatchSummary failed = RunBatch(queue, choices, listener, ports, &films);
-    EXPECT_EQ(failed.failures.size(), 1U);
-    EXPECT_EQ(failed.failures.front().file, Text("/in/b.mp4"));
-    EXPECT_FALSE(log.join(u'\n').contains(Text("c.mp4")));
-    listener.stopAfter = -1;
-    EXPECT_EQ(RunBatch(queue, choices, listener, ports).failures.size(), 2U);
-}
-
 TEST_F(FakeRun, LoadingSetsTheSizeAndNothingElse) {
     queue.Append(FisheyePhoto(Text("/in"), Text("a.jpg")));
     ImageRecord expected = queue(1);

@@ -124,6 +124,7 @@ void RealDialogs::ChangeDefaults(QWidget* parent) {
 
 void RealDialogs::ProcessBatch(BatchJob& job, const QueueChanged& queueChanged, QWidget* parent) {
     FormBatch form(state_.BatchQueue, job, state_.settings, notices_, queueChanged, parent);
+    form.ReadPicturesBy([] { return NewReaderWithFilms({.secondsPerPhoto = 10}); });
     QObject::connect(&form, &FormBatch::ShowInFolderWanted, parent,
                      [this](const QString& file) { ShowInFolder(file); });
     form.exec();

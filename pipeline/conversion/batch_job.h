@@ -34,13 +34,13 @@ class BatchJob : public QObject {
   public:
     using NewReader = std::function<std::unique_ptr<PictureReader>()>;
     explicit BatchJob(NewReader newReader = [] { return NewPictureReader(); });
-    // Finishes the image at hand.
+    // Stops it.
     ~BatchJob() override;
 
     // Takes the entries and begins; nothing else may be under way. Upright: photos are turned as
     // their EXIF says.
     void Start(RecordArray<ImageRecord> entries, const BatchChoices& choices, bool upright);
-    // The image at hand is finished first. A paused run goes on for that.
+    // The photo at hand is finished first, for which a paused run goes on; a film is given up.
     void Stop();
     // At once, within the image at hand; a file that is being written is finished.
     void Pause(bool on);

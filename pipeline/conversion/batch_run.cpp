@@ -151,7 +151,7 @@ class Batch : public ConversionObserver {
         const SavedFilm saved =
             films->Save(conversion.record, choices_.film, conversion.target, [this](double part) {
                 Progress().Advance(static_cast<float>(part));
-                return true;  // the image at hand is finished
+                return !StopAsked();  // a film may take long: it is given up
             });
         Progress().End();
         if (!saved.error.isEmpty()) {

@@ -180,6 +180,10 @@ void FormBatch::ConnectRun() {
     connect(pictures_.get(), &QueuePictures::DayFound, this, &FormBatch::ShowNames);
 }
 
+void FormBatch::ReadPicturesBy(BatchJob::NewReader newReader) {
+    pictures_->ReadBy(std::move(newReader));
+}
+
 // The last one used; at first where the photos are.
 QString FormBatch::StartFolder() const {
     QStringList wishes{job_.choices.folder};
@@ -209,6 +213,7 @@ BatchChoices FormBatch::Choices() const {
                          wish.encoding.compression,
                          wish.sampling};
     choices.paired = PairedPhotos(queue_);
+    choices.film = job_.choices.film;  // as the film bar says
     for (const auto& [projection, box] : additions_) {
         choices.additions.texts[projection] = box->text();
     }

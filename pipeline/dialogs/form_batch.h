@@ -39,6 +39,8 @@ class FormBatch : public QDialog {
               Notices& notices, std::function<void(int)> queueChanged, QWidget* parent = nullptr,
               const FolderChooser::Volumes& volumes = MountedVolumes);
     ~FormBatch() override;
+    // Before it is shown: who reads the small pictures, other than the job's reader.
+    void ReadPicturesBy(BatchJob::NewReader newReader);
 
     // Escape and the window's close button; during a run they count as Stop.
     void reject() override;

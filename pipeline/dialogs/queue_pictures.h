@@ -20,6 +20,8 @@ class QueuePictures : public QObject {
     QueuePictures(QueueModel& model, const QAbstractItemView& view, BatchJob::NewReader newReader,
                   bool upright);
     ~QueuePictures() override;
+    // Before events are handled for the first time.
+    void ReadBy(BatchJob::NewReader newReader) { newReader_ = std::move(newReader); }
 
     // Of these photos the days are read as well.
     void WantDays(const QStringList& paths);

@@ -50,8 +50,7 @@ class BatchFilms : public ::testing::Test,
     SavedFilm Save(const ImageRecord& film, const FilmOutput& output, const QString& path,
                    const std::function<bool(double)>& goesOn) override {
         log += Text("film %1 to %2 by %3").arg(film.FileName, path, output.codec);
-        EXPECT_TRUE(goesOn(0.5));
-        return answer;
+        return goesOn(0.5) ? answer : SavedFilm{ReasonCode::Cancelled, {}};
     }
 
     QStringList log;
@@ -81,6 +80,14 @@ TEST_F(BatchFilms, FailByThemselvesAndStopAtTheNextEntry) {
     ASSERT_EQ(failed.failures.size(), 1U);
     EXPECT_EQ(failed.failures.front().file, Text("/in/b.mp4"));
     EXPECT_EQ(failed.done, 2);
+    log.clear();
+    stopAt = Text("name /out/c.Varnel.mp4");  // within the film, which is given up
+    answer = {};
+    const BatchSummary stopped = Go(this);
+    EXPECT_EQ(stopped.entries, (QList<int>{1, 2}));
+    ASSERT_EQ(stopped.failures.size(), 1U);
+    EXPECT_EQ(stopped.failures.front().file, Text("/in/c.mp4"));
+    EXPECT_EQ(log.last(), Text("3"));
     stopAt = Text("never");
     EXPECT_EQ(Go(nullptr).failures.size(), 2U);  // films cannot be written
 }

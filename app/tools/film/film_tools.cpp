@@ -3,6 +3,7 @@
 
 #include "app/tools/film/film_tools.h"
 
+#include <QEvent>
 #include <QFileInfo>
 #include <QLayout>
 #include <atomic>
@@ -34,6 +35,7 @@ FilmTools::FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& 
       bar_(new FilmBar(parts.pictures->parentWidget())) {
     parts.pictures->parentWidget()->layout()->addWidget(bar_);
     bar_->OfferSaving(ports_.films.saver != nullptr);
+    parts.column->installEventFilter(this);
     ConnectLine();
     ConnectButtons();
     job.Use(ports_.films.saver);
@@ -43,6 +45,13 @@ FilmTools::FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& 
     connect(&commands_, &FilmCommands::NotOpened, this,
             [this](const Reason& reason) { error_ = ErrorText(reason); });
     connect(&commands_.Player(), &FilmPlayer::PlayingChanged, bar_, &FilmBar::ShowPlaying);
+}
+
+bool FilmTools::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::EnabledChange) {
+        bar_->setEnabled(!view_.Locked());
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void FilmTools::ConnectLine() {

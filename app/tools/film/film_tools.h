@@ -19,6 +19,8 @@ class FilmTools : public QObject {
   public:
     FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Workspace& workspace,
               const WindowPorts& ports, BatchJob& job);
+    // The bar is locked with the column.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void ConnectLine();

@@ -109,6 +109,7 @@ void FilmCommands::GoToRecord() {
     if (const ImageRecord* const image = Film()) {
         known_ = *image;
         player_.GoTo(image->Film->at);
+        Q_EMIT Changed();  // its keys may be others though it stands where it stood
     }
 }
 

@@ -5,7 +5,7 @@
 // number as their colour. Every file called a film is one.
 #pragma once
 
-#include <QElapsedTimer>
+#include <QFileInfo>
 #include <QThread>
 #include <cmath>
 
@@ -18,7 +18,7 @@ class FakeFilm : public FilmSource {
   public:
     static constexpr int frames = 50;
     bool IsFilm(const QString& path) const override {
-        return path.contains(QStringLiteral("film"));
+        return QFileInfo(path).fileName().startsWith(u"film");
     }
     Reason Open(const QString& path) override {
         opened.append(path);

@@ -170,8 +170,11 @@ TEST_F(FilmCommandsTest, KeysAreSetMovedEasedAndRemoved) {
     Settle();
     ASSERT_EQ(Keys().size(), 1U);
     EXPECT_EQ(Film().RotateY, 40.0F);
-    Undo();
+    std::size_t told = 0;
+    QObject::connect(&films, &FilmCommands::Changed, [&] { told = Keys().size(); });
+    Undo();  // while it stands
     EXPECT_EQ(Keys().size(), 2U);
+    EXPECT_EQ(told, 2U);
 }
 
 TEST_F(FilmCommandsTest, InAndOutBoundThePartThatIsPlayed) {

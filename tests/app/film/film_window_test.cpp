@@ -127,6 +127,7 @@ TEST_F(FilmWindow, AMovedSliderMakesAKeyWhereItHasSomeAndIsUndoneWithIt) {
 }
 
 TEST_F(FilmWindow, KeysAreSetMovedAndRemovedOnTheLine) {
+    window.Click("OptionRemap_1");
     GoTo(1.0);
     bar->KeyButton()->click();
     Settle();
@@ -168,7 +169,10 @@ TEST_F(FilmWindow, SavesTheFilmAsTheBarSays) {
     window.Find<QComboBox>("FilmCodecCombo")->setCurrentIndex(1);
     window.Find<QSpinBox>("SpinFilmQuality")->setValue(20);
     window.Find<QComboBox>("FilmSpeedCombo")->setCurrentIndex(1);
+    bool locked = false;
+    QTimer::singleShot(40, bar, [&] { locked = !bar->isEnabled(); });
     bar->SaveButton()->click();
+    EXPECT_TRUE(locked && bar->isEnabled());
     EXPECT_EQ(saver.saved, Film());
     EXPECT_EQ(saver.how.codec, QStringLiteral("h265"));
     EXPECT_EQ(saver.how.crf, 20);

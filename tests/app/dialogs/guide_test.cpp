@@ -17,6 +17,7 @@
 #include "app/dialogs/form_guide.h"
 #include "app/tools/guide_tools.h"
 #include "remap/projection/projection_info.h"
+#include "tests/app/film/fake_film.h"
 #include "tests/support/test_window.h"
 #include "translations/window_language.h"
 
@@ -93,7 +94,8 @@ INSTANTIATE_TEST_SUITE_P(Guides, EachGuide, ::testing::Values("en", "de"),
                          [](const auto& language) { return std::string(language.param); });
 
 TEST_P(EachGuide, NamesOnlyControlsAndMenuEntriesThatAreThere) {
-    testing::TestWindow workspace;
+    testing::FakeFilm film;
+    testing::TestWindow workspace{nullptr, {}, Restore::Later, {nullptr, {}, &film, nullptr}};
     const QStringList shown = ShownTexts(workspace);
     EXPECT_EQ(Pages(GetParam()), Pages());
     for (const QString& page : Pages(GetParam())) {

@@ -17,15 +17,15 @@ struct Named {
 };
 
 constexpr std::array containers{
-    Named{FilmContainer::Mp4, u"mp4"},
-    Named{FilmContainer::Matroska, u"mkv"},
-    Named{FilmContainer::QuickTime, u"mov"},
+    Named<FilmContainer>{FilmContainer::Mp4, u"mp4"},
+    Named<FilmContainer>{FilmContainer::Matroska, u"mkv"},
+    Named<FilmContainer>{FilmContainer::QuickTime, u"mov"},
 };
 
 constexpr std::array codecs{
-    Named{FilmCodec::H264, u"h264"}, Named{FilmCodec::H265, u"h265"},
-    Named{FilmCodec::Av1, u"av1"},   Named{FilmCodec::Vp9, u"vp9"},
-    Named{FilmCodec::Ffv1, u"ffv1"}, Named{FilmCodec::ProRes, u"prores"},
+    Named<FilmCodec>{FilmCodec::H264, u"h264"}, Named<FilmCodec>{FilmCodec::H265, u"h265"},
+    Named<FilmCodec>{FilmCodec::Av1, u"av1"},   Named<FilmCodec>{FilmCodec::Vp9, u"vp9"},
+    Named<FilmCodec>{FilmCodec::Ffv1, u"ffv1"}, Named<FilmCodec>{FilmCodec::ProRes, u"prores"},
 };
 
 template <class Rows, class Value>

@@ -64,7 +64,7 @@ class PartWriter : public FilmWriter {
         if (open == nullptr) {
             return missing;
         }
-        if (const Reason error = file_.Open(path); !error.isEmpty()) {
+        if (Reason error = file_.Open(path); !error.isEmpty()) {
             return error;
         }
         open(film, output_, opened_);

@@ -61,13 +61,13 @@ FilmOutput FilmSource::Open() {
 }
 
 Reason FilmSource::OpenPicture() {
-    if (const Reason error = input_.Open(); !error.isEmpty()) {
+    if (Reason error = input_.Open(); !error.isEmpty()) {
         return error;
     }
     const AVCodecParameters& codec = *input_.Picture().codecpar;
-    const Reason error = codec.width > 0 || codec.height > 0
-                             ? SizeError(codec.width, codec.height, request_.memory)
-                             : Reason();
+    Reason error = codec.width > 0 || codec.height > 0
+                       ? SizeError(codec.width, codec.height, request_.memory)
+                       : Reason();
     if (!error.isEmpty()) {
         return error;
     }
@@ -178,7 +178,7 @@ Reason FilmSource::Prepare(AVFrame& picture, const FrameFormat& format, std::int
 }
 
 Reason FilmSource::Draw(AVFrame& picture, std::int64_t pts) {
-    if (const Reason error = SizeError(picture.width, picture.height, request_.memory);
+    if (Reason error = SizeError(picture.width, picture.height, request_.memory);
         !error.isEmpty()) {
         return error;
     }

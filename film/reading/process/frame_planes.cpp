@@ -107,7 +107,7 @@ ChromaSite SiteOf(AVChromaLocation location) {
     }
 }
 
-// The forms with a j are those of full range, whatever else is said.
+// The forms with a j, of one bit and of floating point are of full range, whatever else is said.
 bool IsFullRange(const AVFrame& frame) {
     switch (frame.format) {
         case AV_PIX_FMT_YUVJ420P:
@@ -115,7 +115,6 @@ bool IsFullRange(const AVFrame& frame) {
         case AV_PIX_FMT_YUVJ444P:
         case AV_PIX_FMT_YUVJ440P:
         case AV_PIX_FMT_YUVJ411P:
-            return true;
         case AV_PIX_FMT_MONOBLACK:
         case AV_PIX_FMT_MONOWHITE:
         case AV_PIX_FMT_GRAYF32LE:

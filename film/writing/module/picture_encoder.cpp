@@ -207,7 +207,7 @@ Reason PictureEncoder::Encode(const FrameView& frame, std::int64_t pts, std::int
         }
     }
     durations_[pts] = duration;
-    const Reason error = Send(frame_.get(), take);
+    Reason error = Send(frame_.get(), take);
     av_frame_unref(frame_.get());
     return error;
 }

@@ -64,7 +64,7 @@ class FilmsRun {
     int Go() {
         const QStringList& films = request_.options.files;
         reports_.Bar().Start(films.size() * RecordsOfEach(request_.options));
-        for (film_ = 0; film_ < films.size() && console_.StopSignal() == 0; ++film_) {
+        for (film_ = 0; film_ < films.size() && !StopAsked(); ++film_) {
             ConvertFile(films[film_]);
         }
         reports_.Finish();

@@ -3,25 +3,12 @@
 
 #include "decoder/formats/cmyk.h"
 
-#include <lcms2.h>
-
 #include <memory>
 #include <utility>
 
+#include "remap/image/lcms_handles.h"
+
 namespace varnel {
-
-namespace {
-
-struct LcmsDeleter {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, LcmsDeleter>;
-
-struct TransformDeleter {
-    void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
-
-}  // namespace
 
 bool IsProfileForCmyk(QByteArrayView profile) {
     constexpr qsizetype header = 128;      // bytes
@@ -30,14 +17,13 @@ bool IsProfileForCmyk(QByteArrayView profile) {
 }
 
 BitmapHandle FromCmyk(const SampleRows& cmyk, QByteArrayView profile, SampleKind samples) {
-    const Profile inks(
-        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
-    const Profile screen(cmsCreate_sRGBProfile());
+    const ProfileHandle inks = OpenProfile(profile);
+    const ProfileHandle screen(cmsCreate_sRGBProfile());
     if (!inks || !screen || cmsGetColorSpace(inks.get()) != cmsSigCmykData) {
         return nullptr;
     }
     const cmsUInt32Number depth = cmyk.bytesPerSample == 1 ? TYPE_CMYK_8 : TYPE_CMYK_16;
-    const std::unique_ptr<void, TransformDeleter> transform(cmsCreateTransform(
+    const ColourTransform transform(cmsCreateTransform(
         inks.get(), depth, screen.get(), samples == SampleKind::Word ? TYPE_BGR_16 : TYPE_BGR_8,
         INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_BLACKPOINTCOMPENSATION));
     if (!transform) {

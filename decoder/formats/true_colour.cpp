@@ -3,22 +3,17 @@
 
 #include "decoder/formats/true_colour.h"
 
-#include <lcms2.h>
-
 #include <QtEndian>
 #include <memory>
 #include <optional>
 #include <utility>
 
 #include "decoder/formats/tone_map.h"
+#include "remap/image/lcms_handles.h"
 
 namespace varnel {
 
 namespace {
-
-struct ProfileCloser {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
 
 // Of a device's colours, and on the way to the two spaces that profiles connect by.
 bool IsOfDevice(cmsHPROFILE profile) {
@@ -36,8 +31,7 @@ bool IsProfileForRgb(QByteArrayView profile) {
     if (profile.size() < tagCount + 4 || number(0) != profile.size()) {
         return false;
     }
-    const std::unique_ptr<void, ProfileCloser> opened(
-        cmsOpenProfileFromMem(profile.data(), static_cast<cmsUInt32Number>(profile.size())));
+    const ProfileHandle opened = OpenProfile(profile);
     // lcms2 passes over tags that lie outside of the profile; who reads our files may not.
     return opened && cmsGetColorSpace(opened.get()) == cmsSigRgbData && IsOfDevice(opened.get()) &&
            static_cast<quint32>(cmsGetTagCount(opened.get())) == number(tagCount);

@@ -3,52 +3,33 @@
 
 #include "remap/encode/linear_light.h"
 
-#include <lcms2.h>
-
 #include <memory>
 #include <new>
 #include <type_traits>
 
+#include "remap/image/lcms_handles.h"
 #include "remap/image/pixel_access.h"
 
 namespace varnel {
 
 namespace {
 
-struct ProfileCloser {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, ProfileCloser>;
-
-struct TransformDeleter {
-    void operator()(void* transform) const { cmsDeleteTransform(transform); }
-};
-using Transform = std::unique_ptr<void, TransformDeleter>;
-
 // IEC 61966-2-1 without its curve.
-Profile LinearProfile() {
+ProfileHandle LinearProfile() {
     const cmsCIExyY white{0.3127, 0.3290, 1.0};
     const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.30, 0.60, 1.0}, {0.15, 0.06, 1.0}};
-    cmsToneCurve* const line = cmsBuildGamma(nullptr, 1.0);
-    cmsToneCurve* const lines[3] = {line, line, line};
-    Profile profile(cmsCreateRGBProfile(&white, &primaries, lines));
-    cmsFreeToneCurve(line);
-    return profile;
-}
-
-Transform TransformFrom(const Profile& profile, bool alpha) {
-    const auto format = static_cast<cmsUInt32Number>(alpha ? TYPE_BGRA_FLT : TYPE_BGR_FLT);
-    return Transform(profile
-                         ? cmsCreateTransform(profile.get(), format, LinearProfile().get(), format,
-                                              INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOCACHE)
-                         : nullptr);
+    const ToneCurve line(cmsBuildGamma(nullptr, 1.0));
+    cmsToneCurve* const lines[3] = {line.get(), line.get(), line.get()};
+    return ProfileHandle(cmsCreateRGBProfile(&white, &primaries, lines));
 }
 
 // Null when the profile cannot be used.
-Transform TransformFrom(const QByteArray& profile, bool alpha) {
-    return TransformFrom(Profile(cmsOpenProfileFromMem(
-                             profile.constData(), static_cast<cmsUInt32Number>(profile.size()))),
-                         alpha);
+ColourTransform TransformFrom(const ProfileHandle& profile, bool alpha) {
+    const auto format = static_cast<cmsUInt32Number>(alpha ? TYPE_BGRA_FLT : TYPE_BGR_FLT);
+    return ColourTransform(
+        profile ? cmsCreateTransform(profile.get(), format, LinearProfile().get(), format,
+                                     INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOCACHE)
+                : nullptr);
 }
 
 }  // namespace
@@ -58,9 +39,9 @@ BitmapHandle InLinearLight(const Bitmap& bitmap, BlockRunner& runner) {
     linear->metadata.colourProfile.clear();
     const PixelSize size = bitmap.Size();
     const bool alpha = HasAlpha(bitmap.Format());
-    Transform transform = TransformFrom(bitmap.metadata.colourProfile, alpha);
+    ColourTransform transform = TransformFrom(OpenProfile(bitmap.metadata.colourProfile), alpha);
     if (!transform) {
-        transform = TransformFrom(Profile(cmsCreate_sRGBProfile()), alpha);
+        transform = TransformFrom(ProfileHandle(cmsCreate_sRGBProfile()), alpha);
     }
     if (!transform) {
         throw std::bad_alloc();

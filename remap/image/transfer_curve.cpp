@@ -3,13 +3,12 @@
 
 #include "remap/image/transfer_curve.h"
 
-#include <lcms2.h>
-
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <utility>
 
+#include "remap/image/lcms_handles.h"
 #include "remap/image/levels/srgb_curve.h"
 
 namespace varnel {
@@ -17,11 +16,6 @@ namespace varnel {
 namespace {
 
 constexpr std::size_t most = 65535;  // of 16 bits
-
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
-using Profile = std::unique_ptr<void, CloseProfile>;
 
 // The curve of a profile's green; none in profiles that are made of tables of colours. The profile
 // keeps it.
@@ -98,8 +92,7 @@ TransferCurve::Handle TransferCurve::Of(const Bitmap& bitmap) {
     if (icc.isEmpty()) {
         return AreLight(SampleKindOf(bitmap.Format()), icc) ? Straight() : Srgb();
     }
-    const Profile profile(
-        cmsOpenProfileFromMem(icc.constData(), static_cast<cmsUInt32Number>(icc.size())));
+    const ProfileHandle profile = OpenProfile(icc);
     const cmsToneCurve* const green = GreenOf(profile.get());
     if (green == nullptr) {
         return Srgb();

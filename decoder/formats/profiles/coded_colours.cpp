@@ -50,7 +50,7 @@ double LightOfHlg(double sample) {
 }
 
 // The light of a screen without that range: about linear in the dark, 1 at the sample 1.
-ProfileCurve CurveOfWideRange(double (*lightOf)(double)) {
+ToneCurve CurveOfWideRange(double (*lightOf)(double)) {
     constexpr std::size_t steps = 4096;
     const double most = lightOf(1.0) / referenceWhite;
     std::vector<cmsUInt16Number> table(steps);
@@ -60,11 +60,11 @@ ProfileCurve CurveOfWideRange(double (*lightOf)(double)) {
         const double shown = light * (1.0 + light / (most * most)) / (1.0 + light);
         table[n] = static_cast<cmsUInt16Number>(std::lround(std::min(shown, 1.0) * 65535.0));
     }
-    return ProfileCurve(cmsBuildTabulatedToneCurve16(nullptr, steps, table.data()));
+    return ToneCurve(cmsBuildTabulatedToneCurve16(nullptr, steps, table.data()));
 }
 
 // Null for a number that is not known here.
-ProfileCurve CurveOf(int transfer) {
+ToneCurve CurveOf(int transfer) {
     switch (transfer) {
         case 1:  // ITU-R BT.709, as 601 and 2020 have it, too
         case 6:
@@ -73,14 +73,14 @@ ProfileCurve CurveOf(int transfer) {
             constexpr cmsInt32Number kind = 4;  // a power with a straight foot
             const std::array<double, 5> curve{1.0 / 0.45, 1.0 / 1.099, 0.099 / 1.099, 1.0 / 4.5,
                                               0.081};
-            return ProfileCurve(cmsBuildParametricToneCurve(nullptr, kind, curve.data()));
+            return ToneCurve(cmsBuildParametricToneCurve(nullptr, kind, curve.data()));
         }
         case 4:
-            return ProfileCurve(cmsBuildGamma(nullptr, 2.2));
+            return ToneCurve(cmsBuildGamma(nullptr, 2.2));
         case 5:
-            return ProfileCurve(cmsBuildGamma(nullptr, 2.8));
+            return ToneCurve(cmsBuildGamma(nullptr, 2.8));
         case 8:
-            return ProfileCurve(cmsBuildGamma(nullptr, 1.0));
+            return ToneCurve(cmsBuildGamma(nullptr, 1.0));
         case 2:  // unspecified
         case 13:
             return SrgbProfileCurve();
@@ -108,7 +108,7 @@ QByteArray ProfileOfCodes(int primaries, int transfer) {
     if (colours == primariesList.end() || isSrgb) {
         return {};
     }
-    const ProfileCurve curve = CurveOf(transfer);
+    const ToneCurve curve = CurveOf(transfer);
     const QByteArray name = QByteArray(colours->name) + NameOf(transfer);
     return curve ? MadeProfile(name.constData(), colours->colours, curve) : QByteArray();
 }

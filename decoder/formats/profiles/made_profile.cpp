@@ -10,15 +10,7 @@ namespace varnel {
 
 namespace {
 
-template <auto close>
-struct Closer {
-    template <class Thing>
-    void operator()(Thing* thing) const {
-        close(thing);
-    }
-};
-using Profile = std::unique_ptr<void, Closer<cmsCloseProfile>>;
-using Text = std::unique_ptr<cmsMLU, Closer<cmsMLUfree>>;
+using Text = std::unique_ptr<cmsMLU, ReleasedBy<cmsMLUfree>>;
 
 void Name(cmsHPROFILE profile, const char* name) {
     const Text text(cmsMLUalloc(nullptr, 1));
@@ -40,17 +32,17 @@ QByteArray Bytes(cmsHPROFILE profile) {
 
 }  // namespace
 
-ProfileCurve SrgbProfileCurve() {
+ToneCurve SrgbProfileCurve() {
     constexpr cmsInt32Number kind = 4;  // a power with a straight foot
     const std::array<double, 5> srgb{2.4, 1.0 / 1.055, 0.055 / 1.055, 1.0 / 12.92, 0.04045};
-    return ProfileCurve(cmsBuildParametricToneCurve(nullptr, kind, srgb.data()));
+    return ToneCurve(cmsBuildParametricToneCurve(nullptr, kind, srgb.data()));
 }
 
-QByteArray MadeProfile(const char* name, const cmsCIExyYTRIPLE& primaries,
-                       const ProfileCurve& curve) {
+QByteArray MadeProfile(const char* name, const cmsCIExyYTRIPLE& primaries, const ToneCurve& curve) {
     constexpr cmsCIExyY d65{0.3127, 0.3290, 1.0};
     const std::array<cmsToneCurve*, 3> curves{curve.get(), curve.get(), curve.get()};
-    const Profile profile(curve ? cmsCreateRGBProfile(&d65, &primaries, curves.data()) : nullptr);
+    const ProfileHandle profile(curve ? cmsCreateRGBProfile(&d65, &primaries, curves.data())
+                                      : nullptr);
     if (!profile) {
         throw std::bad_alloc();
     }

@@ -4,25 +4,17 @@
 // ICC profiles of red, green and blue that are made here. Throws std::bad_alloc.
 #pragma once
 
-#include <lcms2.h>
-
 #include <QByteArray>
-#include <memory>
-#include <type_traits>
+
+#include "remap/image/lcms_handles.h"
 
 namespace varnel {
 
-struct CurveFreer {
-    void operator()(cmsToneCurve* curve) const { cmsFreeToneCurve(curve); }
-};
-using ProfileCurve = std::unique_ptr<cmsToneCurve, CurveFreer>;
-
 // That of sRGB (IEC 61966-2-1).
-ProfileCurve SrgbProfileCurve();
+ToneCurve SrgbProfileCurve();
 
 // With the white of D65 and one curve for all three, null where there was no memory; always the
 // same bytes.
-QByteArray MadeProfile(const char* name, const cmsCIExyYTRIPLE& primaries,
-                       const ProfileCurve& curve);
+QByteArray MadeProfile(const char* name, const cmsCIExyYTRIPLE& primaries, const ToneCurve& curve);
 
 }  // namespace varnel

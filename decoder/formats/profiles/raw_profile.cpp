@@ -37,7 +37,7 @@ QByteArray ProfileOf(RawProfile profile) {
     switch (profile) {
         case RawProfile::AdobeRgb:
             return MadeProfile("Compatible with Adobe RGB (1998)", adobeRgb,
-                               ProfileCurve(cmsBuildGamma(nullptr, adobeRgbPower)));
+                               ToneCurve(cmsBuildGamma(nullptr, adobeRgbPower)));
         case RawProfile::Rec2020:
             return MadeProfile("Rec. 2020 with the sRGB curve", rec2020, SrgbProfileCurve());
         case RawProfile::Srgb:

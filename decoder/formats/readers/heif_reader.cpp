@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/released_by.h"
 #include "decoder/formats/profiles/coded_colours.h"
 #include "decoder/formats/readers/file_bytes.h"
 #include "decoder/formats/readers/modern_formats.h"
@@ -21,16 +22,9 @@ namespace varnel {
 
 namespace {
 
-template <auto release>
-struct Releaser {
-    template <class Thing>
-    void operator()(Thing* thing) const {
-        release(thing);
-    }
-};
-using Context = std::unique_ptr<heif_context, Releaser<heif_context_free>>;
-using Handle = std::unique_ptr<heif_image_handle, Releaser<heif_image_handle_release>>;
-using Image = std::unique_ptr<heif_image, Releaser<heif_image_release>>;
+using Context = std::unique_ptr<heif_context, ReleasedBy<heif_context_free>>;
+using Handle = std::unique_ptr<heif_image_handle, ReleasedBy<heif_image_handle_release>>;
+using Image = std::unique_ptr<heif_image, ReleasedBy<heif_image_release>>;
 
 // True when the step was done.
 bool Succeeded(const heif_error& error) {
@@ -214,7 +208,7 @@ class HeifReader : public DirectReader {
         if (error.code != heif_error_Ok || codes == nullptr) {
             return {};
         }
-        const std::unique_ptr<heif_color_profile_nclx, Releaser<heif_nclx_color_profile_free>>
+        const std::unique_ptr<heif_color_profile_nclx, ReleasedBy<heif_nclx_color_profile_free>>
             owned(codes);
         return ProfileOfCodes(codes->color_primaries, codes->transfer_characteristics);
     }

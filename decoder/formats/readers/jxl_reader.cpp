@@ -7,6 +7,7 @@
 #include <cstring>
 #include <utility>
 
+#include "base/released_by.h"
 #include "decoder/formats/readers/direct_reader.h"
 #include "decoder/formats/readers/file_bytes.h"
 #include "decoder/formats/readers/sane_sample.h"
@@ -17,10 +18,7 @@ namespace varnel {
 
 namespace {
 
-struct Destroyer {
-    void operator()(JxlDecoder* decoder) const { JxlDecoderDestroy(decoder); }
-};
-using Decoder = std::unique_ptr<JxlDecoder, Destroyer>;
+using Decoder = std::unique_ptr<JxlDecoder, ReleasedBy<JxlDecoderDestroy>>;
 
 // At the file's beginning, waiting for these events; null when there is no memory.
 Decoder Started(const FileBytes& bytes, int events, bool keepOrientation) {

@@ -9,6 +9,7 @@
 
 #include <QtEndian>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <condition_variable>
 #include <exception>
@@ -18,8 +19,10 @@
 #include <thread>
 #include <vector>
 
+#include "base/released_by.h"
 #include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/metadata_writer.h"
+#include "remap/image/lcms_handles.h"
 #include "remap/image/pixel_access.h"
 #include "remap/image/transfer_curve.h"
 
@@ -27,10 +30,7 @@ namespace varnel {
 
 namespace {
 
-struct Destroyer {
-    void operator()(JxlEncoder* encoder) const { JxlEncoderDestroy(encoder); }
-};
-using Encoder = std::unique_ptr<JxlEncoder, Destroyer>;
+using Encoder = std::unique_ptr<JxlEncoder, ReleasedBy<JxlEncoderDestroy>>;
 
 // The library's work on the blocks of a runner. It wants to know which of so many threads a block
 // runs on, which the runner does not say, and exceptions must not pass through it.
@@ -148,10 +148,8 @@ std::vector<std::uint8_t> TopFirst(const Bitmap& bitmap, const EncodeOptions& op
 // profile stands for. They can for a profile that the format states by a few numbers; for others
 // they would make sRGB, which may hold less.
 bool IsStatedByNumbers(QByteArrayView file) {
-    struct Closer {
-        void operator()(JxlDecoder* decoder) const { JxlDecoderDestroy(decoder); }
-    };
-    const std::unique_ptr<JxlDecoder, Closer> decoder(JxlDecoderCreate(nullptr));
+    const std::unique_ptr<JxlDecoder, ReleasedBy<JxlDecoderDestroy>> decoder(
+        JxlDecoderCreate(nullptr));
     if (!decoder) {
         throw std::bad_alloc();
     }
@@ -321,6 +319,23 @@ class FileCoder {
     Encoder encoder_;
 };
 
+// libjxl 0.7 ends the program where it has taken a profile that lcms2 then makes no transform of:
+// of other colours than red, green and blue, or with damaged tags.
+bool CanBeConverted(const QByteArray& profile) {
+    const ProfileHandle from = OpenProfile(profile);
+    const ProfileHandle to(cmsCreate_sRGBProfile());
+    if (!from || !to || cmsGetColorSpace(from.get()) != cmsSigRgbData) {
+        return false;
+    }
+    constexpr std::array<cmsUInt32Number, 4> intents{
+        INTENT_PERCEPTUAL, INTENT_RELATIVE_COLORIMETRIC, INTENT_SATURATION,
+        INTENT_ABSOLUTE_COLORIMETRIC};
+    return std::ranges::all_of(intents, [&](cmsUInt32Number intent) {
+        return ColourTransform(cmsCreateTransform(from.get(), TYPE_RGB_FLT, to.get(), TYPE_RGB_FLT,
+                                                  intent, cmsFLAGS_NOCACHE)) != nullptr;
+    });
+}
+
 // Tried with a file of one pixel.
 Colours ColoursFor(const Bitmap& bitmap, int quality) {
     if (quality >= 100) {
@@ -341,6 +356,10 @@ Colours ColoursFor(const Bitmap& bitmap, int quality) {
 
 EncodedBitmap EncodeJxl(const Bitmap* bitmap, const OutputEncoding& encoding,
                         const EncodeOptions& options) {
+    const QByteArray& profile = bitmap->metadata.colourProfile;
+    if (!profile.isEmpty() && !CanBeConverted(profile)) {
+        return {{}, ReasonCode::CannotBeEncoded};
+    }
     const WrittenMetadata metadata = MetadataForJxl(*bitmap);
     const Colours colours = ColoursFor(*bitmap, encoding.quality);
     EncodedBitmap file = FileCoder(*bitmap, encoding.quality, colours, options).Encode(metadata);

@@ -16,6 +16,7 @@
 #include "tests/support/bitmaps.h"
 #include "tests/support/deep_bitmaps.h"
 #include "tests/support/runners.h"
+#include "tests/support/seeds/profiles.h"
 #include "tests/support/seeds/seed_files.h"
 
 namespace varnel {
@@ -43,22 +44,6 @@ double Apart(const Bitmap& one, const Bitmap& other) {
            static_cast<double>(one.ScanLine(0).size());
 }
 
-// A profile with such primaries and a plain power.
-QByteArray WideProfile() {
-    cmsToneCurve* const curve = cmsBuildGamma(nullptr, 563.0 / 256.0);
-    cmsToneCurve* const curves[] = {curve, curve, curve};
-    const cmsCIExyY white{0.3127, 0.3290, 1.0};
-    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1.0}, {0.21, 0.71, 1.0}, {0.15, 0.06, 1.0}};
-    const cmsHPROFILE profile = cmsCreateRGBProfile(&white, &primaries, curves);
-    cmsUInt32Number size = 0;
-    cmsSaveProfileToMem(profile, nullptr, &size);
-    QByteArray bytes(static_cast<qsizetype>(size), '\0');
-    cmsSaveProfileToMem(profile, bytes.data(), &size);
-    cmsCloseProfile(profile);
-    cmsFreeToneCurve(curve);
-    return bytes;
-}
-
 PhotoMetadata MetadataIn(QByteArray file) {
     const MetadataRequest wanted = WantedFor(testing::Decode(file));
     const FileHandle opened(fmemopen(file.data(), static_cast<std::size_t>(file.size()), "rb"));
@@ -76,7 +61,7 @@ class Jxl : public ::testing::Test {
 };
 
 TEST_F(Jxl, LosesNothingAtAQualityOf100) {
-    const QByteArray profile = WideProfile();  // states when it was made
+    const QByteArray profile = testing::RgbProfile();  // states when it was made
     for (const PixelFormat format : allFormats) {
         for (const PixelSize size : {PixelSize{1, 1}, {3, 2}, {701, 503}}) {
             for (const bool wide : {false, true}) {
@@ -118,7 +103,7 @@ TEST_F(Jxl, KeepsColoursThatSrgbDoesNotHave) {
     BitmapHandle green = testing::Painted({64, 64}, [](int, int) {
         return PixelColor{0, 255, 0, 0};
     });
-    green->metadata.colourProfile = WideProfile();
+    green->metadata.colourProfile = testing::RgbProfile();
     const BitmapHandle read = ReadBack(EncodeBitmap(With(95), green.get()).bytes);
     const auto lab = [](const Bitmap& bitmap) {
         const QByteArray& icc = bitmap.metadata.colourProfile;
@@ -149,6 +134,23 @@ TEST_F(Jxl, HoldsExifAndXmpAndSaysThatItHasNoIptc) {
     const PhotoMetadata back = MetadataIn(file.bytes);
     EXPECT_FALSE(back.exif.bytes.isEmpty());
     EXPECT_FALSE(back.xmp.isEmpty());
+}
+
+// The library itself would end the program.
+TEST_F(Jxl, LeavesProfilesOutThatCannotBeConverted) {
+    QByteArray damaged = testing::RgbProfile();
+    damaged.replace("rTRC", "rTRX");
+    for (const QByteArray& profile :
+         {damaged, testing::InkProfile(), testing::GreyProfile(), QByteArray(200, 'p')}) {
+        BitmapHandle bitmap = testing::Grainy({40, 30});
+        bitmap->metadata.colourProfile = profile;
+        for (const int quality : {80, 100}) {
+            const EncodedBitmap file = EncodeBitmap(With(quality), bitmap.get());
+            EXPECT_TRUE(file.reason.isEmpty());
+            EXPECT_EQ(file.note, Reason(ReasonCode::WithoutProfile, ReasonCode::CannotBeEncoded));
+            EXPECT_LT(Apart(*bitmap, *ReadBack(file.bytes)), 20.0);
+        }
+    }
 }
 
 TEST_F(Jxl, StopsWhereTheFileWouldBeTooLarge) {

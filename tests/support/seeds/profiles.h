@@ -22,11 +22,11 @@ inline QByteArray Saved(cmsHPROFILE profile) {
     return bytes;
 }
 
-// Not sRGB, so that nobody takes it for that.
-inline QByteArray RgbProfile() {
+// With a plain power as its curve. Not sRGB, so that nobody takes it for that.
+inline QByteArray RgbProfile(double gamma = 2.2) {
     const cmsCIExyY white{0.3127, 0.3290, 1};
     const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1}, {0.21, 0.71, 1}, {0.15, 0.06, 1}};
-    cmsToneCurve* const curve = cmsBuildGamma(nullptr, 2.2);
+    cmsToneCurve* const curve = cmsBuildGamma(nullptr, gamma);
     const std::array curves{curve, curve, curve};
     const QByteArray bytes = Saved(cmsCreateRGBProfile(&white, &primaries, curves.data()));
     cmsFreeToneCurve(curve);

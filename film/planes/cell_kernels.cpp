@@ -123,11 +123,12 @@ void DrawInside(const BandDrawing& drawing, const CellArea& area, const Position
         for (int row = 0; row < area.rows; row += Its::rows) {
             const Places<Floats> at = its.At(row);
             const Window<Sample, Floats> window(at, drawing.source, reach);
+            const Blender<Sample, Floats> blender(at);
             for (const PlanePair& plane : drawing.planes) {
-                const Words<Floats> words = window.Fits()
+                const Pairs<Floats> pairs = window.Fits()
                                                 ? window.Load(plane.source)
-                                                : LoadOneByOne(d, plane.source, at, sizeof(Sample));
-                const auto levels = Blended<Sample>(words, at, plane.rounding);
+                                                : LoadOneByOne<Sample>(d, plane.source, at);
+                const auto levels = blender.Levels(pairs, plane.rounding);
                 const bool hasSecond = row + 1 < area.rows;
                 Its::template Store<Sample>(
                     levels, RowOf<Sample>(plane, area, row) + k,

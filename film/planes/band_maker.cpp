@@ -141,8 +141,10 @@ void BandMaker::Make(int cellRow, Band& band) const {
                 TakePlaces(places, band);
                 break;
             case Way::OneByOne:
-                FillExactly(area, places);
-                TakePlaces(places, band);
+                if (!TakeCircleCell(area, band)) {
+                    FillExactly(area, places);
+                    TakePlaces(places, band);
+                }
                 break;
         }
     }
@@ -209,9 +211,8 @@ void BandMaker::TakePolynomial(const CellArea& area, Band& band) const {
 }
 
 void BandMaker::TakePlaces(const CellPlaces& places, Band& band) const {
-    CellPolynomial& cell = band.cells.emplace_back();
-    const auto& first = band.of[brightness];
-    cell.block = static_cast<std::uint32_t>(first.places.size() / (2 * cellSide * cellSide));
+    const std::uint32_t block = NextBlock(band);
+    band.cells.emplace_back().block = block;
     for (std::size_t n = 0; n < grids; ++n) {
         TakePlaces(grids_[n], places, band.of[n]);
     }
@@ -246,6 +247,44 @@ void BandMaker::TakePlaces(const Grid& grid, const CellPlaces& places, BandOfGri
     band.kinds.push_back(allInside  ? CellKind::PixelsInside
                          : anyShown ? CellKind::Pixels
                                     : CellKind::Blank);
+}
+
+std::uint32_t BandMaker::NextBlock(const Band& band) {
+    return static_cast<std::uint32_t>(band.of[brightness].places.size() /
+                                      (2 * cellSide * cellSide));
+}
+
+bool BandMaker::TakeCircleCell(const CellArea& area, Band& band) const {
+    const std::optional<CircleCell> circles = places_.CircleCellAt(area.left, area.top);
+    if (!circles) {
+        return false;
+    }
+    CellPositions positions;
+    const PositionBounds bounds = FillPositions(*circles, positions);
+    const bool allInside = std::ranges::all_of(grids_, [&](const Grid& grid) {
+        const SampleGrid& samples = grid.samples;
+        return !grid.isThere ||
+               (IsInside(samples.ColumnOf(bounds.leastX), samples.RowOf(bounds.leastY),
+                         grid.source) &&
+                IsInside(samples.ColumnOf(bounds.mostX), samples.RowOf(bounds.mostY), grid.source));
+    });
+    if (!allInside) {
+        return false;
+    }
+    const std::uint32_t block = NextBlock(band);
+    band.cells.emplace_back().block = block;
+    for (std::size_t n = 0; n < grids; ++n) {
+        const auto& [isThere, samples, plane] = grids_[n];
+        BandOfGrid& of = band.of[n];
+        of.kinds.push_back(isThere ? CellKind::PixelsInside : CellKind::Blank);
+        if (isThere) {
+            const std::size_t start = of.places.size();
+            of.places.resize(
+                start + static_cast<std::size_t>(2 * samples.CellColumns() * samples.CellRows()));
+            TakePositions(positions, samples, of.places.data() + start);
+        }
+    }
+    return true;
 }
 
 void BandMaker::FillExactly(const CellArea& area, CellPlaces& places) const {

@@ -40,6 +40,10 @@ class BandMaker {
     void TakePolynomial(const CellArea& area, Band& band) const;
     void TakePlaces(const CellPlaces& places, Band& band) const;
     void TakePlaces(const Grid& grid, const CellPlaces& places, BandOfGrid& band) const;
+    // All of the cells' places so far have been taken.
+    static std::uint32_t NextBlock(const Band& band);
+    // False, and nothing is taken, where it is no whole cell inside of the source's planes.
+    bool TakeCircleCell(const CellArea& area, Band& band) const;
     void FillExactly(const CellArea& area, CellPlaces& places) const;
     void FillByInside(const CellArea& area, CellPlaces& places) const;
 

@@ -46,8 +46,13 @@ struct FrameRemap::Tables {
     Projection projection = Projection::Varnel;
     std::optional<ImageRecord> image;  // none as long as nothing is set
     FrameFormat source, result;
+    std::optional<MapPlaces> places;
     NodeLattice nodes;
-    std::vector<Band> bands;
+    std::optional<BandMaker> maker;  // refers to what stands above
+    struct MadeBand : Band {
+        bool isMade = false;
+    };
+    std::vector<MadeBand> bands;  // each is made as it is first drawn, while it is at hand
     std::optional<OutsideCover> outside;
 
     bool Have(Projection wanted, const ImageRecord& record, const FrameFormat& format) const {
@@ -55,23 +60,26 @@ struct FrameRemap::Tables {
     }
     void Make(BlockRunner& runner);
     // Of frames of the source's size in that format.
-    void DrawBandOf(std::size_t band, const FrameView& from, const FrameTarget& to) const;
+    void DrawBandOf(std::size_t band, const FrameView& from, const FrameTarget& to);
     void FillBandOf(std::size_t band, const FrameTarget& to) const;
 };
 
 void FrameRemap::Tables::Make(BlockRunner& runner) {
     result = RemappedFormat(source, *image);
-    const MapPlaces places(projection, *image, source.size);
-    if (places.IsSmooth()) {
-        nodes.Fill(places, runner);
+    maker.reset();
+    places.emplace(projection, *image, source.size);
+    if (places->IsSmooth()) {
+        nodes.Fill(*places, runner);
     }
-    const BandMaker maker(places, nodes, source, result);
-    bands.resize(static_cast<std::size_t>(maker.Bands()));
-    runner.Run(maker.Bands(), [&](int n) { maker.Make(n, bands[static_cast<std::size_t>(n)]); });
+    maker.emplace(*places, nodes, source, result);
+    bands.resize(static_cast<std::size_t>(maker->Bands()));
+    for (MadeBand& band : bands) {
+        band.isMade = false;
+    }
     outside.reset();
     if (image->Outside.kind == OutsideFill::Kind::Colour) {
         const auto draw = [&](const FrameView& from, const FrameTarget& to) {
-            runner.Run(maker.Bands(),
+            runner.Run(maker->Bands(),
                        [&](int n) { DrawBandOf(static_cast<std::size_t>(n), from, to); });
         };
         outside.emplace(*image, source, result, OutsideCover::Tools{draw, runner});
@@ -79,7 +87,12 @@ void FrameRemap::Tables::Make(BlockRunner& runner) {
 }
 
 void FrameRemap::Tables::DrawBandOf(std::size_t band, const FrameView& from,
-                                    const FrameTarget& to) const {
+                                    const FrameTarget& to) {
+    MadeBand& made = bands[band];
+    if (!made.isMade) {
+        maker->Make(static_cast<int>(band), made);
+        made.isMade = true;
+    }
     const FrameFormat& format = from.format;
     std::array<std::array<PlanePair, mostPlanes>, grids> pairs;
     std::array<std::size_t, grids> counts{};
@@ -97,7 +110,7 @@ void FrameRemap::Tables::DrawBandOf(std::size_t band, const FrameView& from,
             continue;
         }
         const SampleGrid samples = SampleGrid::Of(format, planes[id]);
-        DrawBand({bands[band], id, samples, format.size, PlaneSize(format, planes[id]),
+        DrawBand({made, id, samples, format.size, PlaneSize(format, planes[id]),
                   PlaneSize(to.format, planes[id]), static_cast<int>(band) * samples.CellRows(),
                   BytesPerSample(format), std::span(pairs[id]).first(counts[id])});
     }

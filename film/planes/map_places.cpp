@@ -3,6 +3,7 @@
 
 #include "film/planes/map_places.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/rounding.h"
@@ -64,7 +65,7 @@ MapPlaces::MapPlaces(Projection projection, const ImageRecord& image, PixelSize 
         TakeRuns();
     }
     if (mapping_.Map().AsCircleRows() != nullptr) {
-        TakeAngles();
+        TakeCircles();
     }
 }
 
@@ -84,12 +85,41 @@ void MapPlaces::TakeRuns() {
 }
 
 // The left half is the mirror image of the right one.
-void MapPlaces::TakeAngles() {
+void MapPlaces::TakeCircles() {
+    const CircleRows& circles = *mapping_.Map().AsCircleRows();
     for (const ResultLine& line : mapping_.Lines().columns) {
-        const double angle = mapping_.Map().AsCircleRows()->Angle(std::abs(line.position));
-        cosines_.push_back(line.position > 0 ? std::cos(angle) : -std::cos(angle));
+        const double angle = circles.Angle(std::abs(line.position));
+        const bool isShown = line.kind == ResultLine::Kind::Shown;
+        cosines_.push_back(!isShown            ? none
+                           : line.position > 0 ? std::cos(angle)
+                                               : -std::cos(angle));
         sines_.push_back(std::sin(angle));
     }
+    for (const ResultLine& line : mapping_.Lines().rows) {
+        radii_.push_back(line.kind == ResultLine::Kind::Shown ? circles.SourceRadius(line.position)
+                                                              : none);
+    }
+    std::ranges::reverse(radii_);  // from the top row
+}
+
+std::optional<CircleCell> MapPlaces::CircleCellAt(int left, int top) const {
+    const PixelSize size = ResultSize();
+    if (radii_.empty() || left + cellSide > size.width || top + cellSide > size.height) {
+        return std::nullopt;
+    }
+    const double* const cosines = cosines_.data() + left;
+    const double* const radii = radii_.data() + top;
+    const auto isNone = [](double value) { return std::isnan(value); };
+    if (std::any_of(cosines, cosines + cellSide, isNone) ||
+        std::any_of(radii, radii + cellSide, isNone)) {
+        return std::nullopt;
+    }
+    return CircleCell{cosines,
+                      sines_.data() + left,
+                      radii,
+                      mapping_.Centre().x,
+                      mapping_.Centre().y,
+                      SourceSize().height - 1.0};
 }
 
 std::unique_ptr<SmoothNodes> MapPlaces::Nodes() const {
@@ -121,23 +151,20 @@ SourcePosition MapPlaces::OnWholeRow(SourcePosition place) const {
 }
 
 void MapPlaces::Row(int row, int firstColumn, std::span<SourcePosition> places) const {
-    const ResultLine& line =
-        mapping_.Lines().rows[static_cast<std::size_t>(ResultSize().height - 1 - row)];
-    const CircleRows* const circles = mapping_.Map().AsCircleRows();
-    if (circles == nullptr || line.kind != ResultLine::Kind::Shown) {
+    const double radius = radii_.empty() ? none : radii_[static_cast<std::size_t>(row)];
+    if (std::isnan(radius)) {
         for (std::size_t n = 0; n < places.size(); ++n) {
             places[n] = At(firstColumn + static_cast<int>(n), row);
         }
         return;
     }
     // As CircleRows::At, without its angles over and over again.
-    const double radius = circles->SourceRadius(line.position);
     for (std::size_t n = 0; n < places.size(); ++n) {
         const std::size_t column = static_cast<std::size_t>(firstColumn) + n;
-        const bool isShown = mapping_.Lines().columns[column].kind == ResultLine::Kind::Shown;
-        places[n] = isShown ? OnWholeRow({mapping_.Centre().x + radius * cosines_[column],
-                                          mapping_.Centre().y + radius * sines_[column]})
-                            : SourcePosition{none, none};
+        places[n] = std::isnan(cosines_[column])
+                        ? SourcePosition{none, none}
+                        : OnWholeRow({mapping_.Centre().x + radius * cosines_[column],
+                                      mapping_.Centre().y + radius * sines_[column]});
     }
 }
 

@@ -5,8 +5,10 @@
 // from the top row. Constructing throws what maps throw, the rest nothing but for want of memory.
 #pragma once
 
+#include <optional>
 #include <span>
 
+#include "film/planes/circle_cell.h"
 #include "remap/analysis/inverse_mapping.h"
 #include "remap/projection/smooth_map.h"
 
@@ -22,6 +24,8 @@ class MapPlaces {
     // loop writes have their own place of a source as large as the result.
     void Row(int row, int firstColumn, std::span<SourcePosition> places) const;
     SourcePosition At(int column, int row) const;
+    // The cell from a column and a row on where the map unrolls circles and shows all of the cell.
+    std::optional<CircleCell> CircleCellAt(int left, int top) const;
 
     // Whether positions between those of the result exist, that is, the columns and rows that are
     // shown follow each other without a gap and no row of the photo is read as a whole.
@@ -43,7 +47,7 @@ class MapPlaces {
 
   private:
     void TakeRuns();
-    void TakeAngles();
+    void TakeCircles();
     SourcePosition OnWholeRow(SourcePosition place) const;
 
     InverseMapping mapping_;
@@ -52,8 +56,8 @@ class MapPlaces {
     Shown columns_, rows_;
     int firstX_ = 0;
     int firstY_ = 0;
-    // By columns, of maps that unroll circles.
-    std::vector<double> cosines_, sines_;
+    // By columns and rows, of maps that unroll circles; not a number where nothing is shown.
+    std::vector<double> cosines_, sines_, radii_;
 };
 
 }  // namespace varnel

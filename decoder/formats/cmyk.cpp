@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
 
 namespace varnel {
 

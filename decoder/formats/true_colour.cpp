@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "decoder/formats/tone_map.h"
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
 
 namespace varnel {
 

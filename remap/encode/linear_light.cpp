@@ -7,7 +7,7 @@
 #include <new>
 #include <type_traits>
 
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
 #include "remap/image/pixel_access.h"
 
 namespace varnel {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "remap/image/levels/srgb_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/image/pixel_access.h"
-#include "remap/image/transfer_curve.h"
 
 namespace varnel {
 

@@ -13,7 +13,7 @@
 
 #include "base/thread_runner.h"
 #include "bench/remap/render/fine_views.h"
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/render/reference/fine.h"
 
 namespace varnel::bench {

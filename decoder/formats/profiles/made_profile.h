@@ -6,7 +6,7 @@
 
 #include <QByteArray>
 
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
 
 namespace varnel {
 

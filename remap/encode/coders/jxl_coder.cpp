@@ -22,9 +22,9 @@
 #include "base/released_by.h"
 #include "remap/encode/coders/encoded_bitmap.h"
 #include "remap/encode/metadata_writer.h"
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/image/pixel_access.h"
-#include "remap/image/transfer_curve.h"
 
 namespace varnel {
 

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "remap/image/levels/pixel_levels.h"
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 
 namespace varnel {
 

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <functional>
 
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/projection/circle_rows.h"
 #include "remap/projection/smooth_map.h"
 #include "remap/projection/straight_rows.h"

@@ -8,7 +8,7 @@
 // OverflowError, and what the surface's Pause throws.
 #pragma once
 
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/render/engine/engine.h"
 #include "remap/render/engine/fine/light_band.h"
 #include "remap/render/engine/fine/places.h"

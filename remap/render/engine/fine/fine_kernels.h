@@ -15,7 +15,7 @@
 #include <span>
 #include <type_traits>
 
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 
 namespace varnel {
 

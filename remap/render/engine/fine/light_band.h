@@ -7,7 +7,7 @@
 #include <array>
 #include <vector>
 
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 #include "remap/render/engine/fine/fine_kernels.h"
 #include "remap/render/engine/source_view.h"
 

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/image/transfer_curve.h"
+#include "remap/image/levels/transfer_curve.h"
 
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <utility>
 
-#include "remap/image/lcms_handles.h"
+#include "remap/image/levels/lcms_handles.h"
 #include "remap/image/levels/srgb_curve.h"
 
 namespace varnel {

@@ -111,6 +111,7 @@ class CommandRun : public ConversionObserver {
                 .preview = options.preview,
                 .smoothPreview = options.antialiased,
                 .finishesBegun = true,
+                .drawsByRows = true,
                 .namesLastAtEnd = true};
     }
 

@@ -9,12 +9,9 @@
 #include "base/error_reason.h"
 #include "base/thread_runner.h"
 #include "pipeline/conversion/lending_steps.h"
+#include "pipeline/conversion/run/result_drawer.h"
 #include "pipeline/conversion/save_worker.h"
-#include "remap/encode/output_format.h"
-#include "remap/encode/sample_depth.h"
 #include "remap/image/photo_metadata.h"
-#include "remap/image/preview_size.h"
-#include "remap/projection/projection_info.h"
 #include "state/adjustments/picture_settings.h"
 
 namespace varnel {
@@ -27,7 +24,8 @@ constexpr int betweenEvents = 10;  // ms
 struct Turn {
     Conversion what{};
     ConversionOutcome outcome{};
-    BitmapHandle result{};
+    DrawnResult drawn{};
+    Reason drawError{};  // of what is drawn as it is written
     QElapsedTimer sinceBegun{};
     bool announced = false;
     float maximum = 0.0F;  // of its progress; 0 until it begins
@@ -46,6 +44,7 @@ class Run : private RenderProgress {
           runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
           series_(LendingSeries(runner_,
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
+          drawer_(plan, runner_, *this, plan.drawsByRows && !ports.save),
           worker_(overlaps_ ? &runner_ : nullptr) {}
 
     ConversionRunEnd Go() {
@@ -72,7 +71,7 @@ class Run : private RenderProgress {
         ConversionRecords records;
         const Reason error = Attempt([&] {
             records = plan_.records(photo_, loaded);
-            loaded.bitmap = InWorkingDepth(std::move(loaded.bitmap));
+            loaded.bitmap = drawer_.InWorkingDepth(std::move(loaded.bitmap));
         });
         if (!error.isEmpty() || records.all.empty()) {
             EndPhoto(ConversionEnd::NoRecords, error.isEmpty() ? records.error : error);
@@ -97,7 +96,8 @@ class Run : private RenderProgress {
     }
 
     void BeginTurn(qsizetype index, const Reason& damage) {
-        turn_ = Turn{.what = {photo_, index, {}, {}, damage}, .result = std::move(turn_.result)};
+        turn_ = Turn{.what = {photo_, index, {}, {}, damage},
+                     .drawn = {std::move(turn_.drawn.result), nullptr}};
         turn_.sinceBegun.start();
     }
 
@@ -144,17 +144,6 @@ class Run : private RenderProgress {
         return error.isEmpty() ? std::move(loaded) : LoadedPicture::Refused(error);
     }
 
-    // For deeper files than the photo, what lies between its pixels is worked out with 16 bits.
-    BitmapHandle InWorkingDepth(BitmapHandle bitmap) {
-        const OutputEncoding& encoding = plan_.output.encoding;
-        const bool isWidened =
-            bitmap && SampleKindOf(bitmap->Format()) == SampleKind::Byte &&
-            encoding.depth != OutputDepth::Own &&
-            SamplesIn(encoding.type, SamplesFor(encoding.depth, SampleKind::Byte)) !=
-                SampleKind::Byte;
-        return isWidened ? InSamples(*bitmap, SampleKind::Word, runner_) : std::move(bitmap);
-    }
-
     void DropSource() {
         bitmaps_.FullSourceBitmap.reset();
         bitmaps_.PreviewSourceBitmap.reset();
@@ -166,7 +155,7 @@ class Run : private RenderProgress {
         const Reason error = Attempt([this] {
             ChooseTarget();
             if (!Failed() && !Dropped()) {
-                RenderTurn();
+                DrawTurn();
             }
         });
         if (!error.isEmpty()) {
@@ -216,19 +205,9 @@ class Run : private RenderProgress {
         turn_.outcome.refusal = refusal;
     }
 
-    void RenderTurn() {
-        const Bitmap* const full = bitmaps_.FullSourceBitmap.get();
-        if (plan_.preview && !bitmaps_.PreviewSourceBitmap) {
-            bitmaps_.PreviewSourceBitmap =
-                ReducedCopy(full, PreviewSize(SizeOf(full), *plan_.preview, *plan_.preview));
-        }
-        bitmaps_.ResultBitmap = std::move(turn_.result);
-        RenderContext context{bitmaps_, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
-        const ImageRecord& record = turn_.what.record;
-        Render(ProjectionFromIndex(record.Projection), record,
-               plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, *this, context);
-        turn_.result = std::move(bitmaps_.ResultBitmap);
-        NoteSettings(turn_.result.get(), record, plan_.output.writeSettings,
+    void DrawTurn() {
+        turn_.drawn = drawer_.Draw(bitmaps_, turn_.what.record, std::move(turn_.drawn.result));
+        NoteSettings(turn_.drawn.result.get(), turn_.what.record, plan_.output.writeSettings,
                      plan_.output.writeMetadata ? turn_.what.target : QString());
     }
 
@@ -236,18 +215,18 @@ class Run : private RenderProgress {
 
     void BeginWriting() {
         Announce();
-        turn_.outcome.size = SizeOf(turn_.result.get());
+        turn_.outcome.size = SizeOf(turn_.drawn.result.get());
         writing_ = std::move(turn_);
-        turn_.result = std::move(spare_);
-        worker_.Begin([this, bitmap = writing_->result.get(), path = writing_->what.target] {
-            return Save(bitmap, path);
-        });
+        turn_.drawn.result = std::move(spare_);
+        worker_.Begin([this] { return Save(*writing_); });
         if (!overlaps_) {
             FinishWriting();
         }
     }
 
-    SaveResult Save(Bitmap* bitmap, const QString& path) {
+    SaveResult Save(Turn& turn) {
+        Bitmap* const bitmap = turn.drawn.result.get();
+        const QString& path = turn.what.target;
         const OutputChoices& output = plan_.output;
         if (!output.writeMetadata) {
             DropMetadata(bitmap);
@@ -255,8 +234,11 @@ class Run : private RenderProgress {
         if (ports_.save) {
             return ports_.save(output.encoding, bitmap, path);
         }
-        const SaveResult saved =
-            SaveBitmap(output.encoding, bitmap, FileInSeries{path, series_}, &runner_);
+        SaveResult saved;
+        turn.drawError = Attempt([&] {
+            saved = SaveBitmap(output.encoding, bitmap,
+                               FileInSeries{path, series_, turn.drawn.rows.get()}, &runner_);
+        });
         const WriteResult lasts = plan_.namesLastAtEnd ? WriteResult{true, {}} : series_.Finish();
         return !saved || lasts ? saved : SaveResult{false, lasts.reason};
     }
@@ -268,14 +250,25 @@ class Run : private RenderProgress {
         if (!worker_.Wait(0)) {
             const CoreLent lent(runner_);
             while (!worker_.Wait(betweenEvents)) {
-                observer_.Progress().HandleEvents();
+                if (writing_->drawn.rows) {
+                    observer_.Progress().Advance(static_cast<float>(writing_->drawn.rows->Done()));
+                } else {
+                    observer_.Progress().HandleEvents();
+                }
             }
+        }
+        if (writing_->drawn.rows) {
+            observer_.Progress().End();
         }
         const SaveResult saved = worker_.Take();
         Turn written = std::move(*writing_);
         writing_.reset();
-        spare_ = std::move(written.result);
-        if (saved) {
+        spare_ = written.drawn.rows ? nullptr : std::move(written.drawn.result);
+        written.drawn.rows.reset();
+        if (!written.drawError.isEmpty()) {
+            written.outcome.end = ConversionEnd::NotConverted;
+            written.outcome.reason = written.drawError;
+        } else if (saved) {
             written.outcome.note = saved.note;
             written.outcome.samples = saved.samples;
             targets_.NoteWritten(plan_.photos[written.what.photo], written.what.target,
@@ -361,6 +354,7 @@ class Run : private RenderProgress {
     ThreadRunner& runner_;
     UnfinishedFile unfinished_;  // where no other is given
     FileSeries series_;
+    ResultDrawer drawer_;
     qsizetype photo_ = 0;
     qsizetype asked_ = 0;  // photos that were begun to be read
     Bitmaps bitmaps_;      // of the photo at hand

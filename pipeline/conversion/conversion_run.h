@@ -56,6 +56,9 @@ struct ConversionPlan {
     // When the observer asks to stop, what was begun and not reported yet is finished all the same,
     // or else dropped as if it had not been begun.
     bool finishesBegun = false;
+    // Results that can be are drawn and encoded a band of rows at a time, while the next photo is
+    // read, so that none is in memory as a whole. Not where the port saves.
+    bool drawsByRows = false;
     // The names of the files are made last on the disk at the end of the run, not each by itself.
     bool namesLastAtEnd = false;
 };

@@ -166,4 +166,10 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     return file;
 }
 
+bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size) {
+    constexpr std::int64_t fewest = 1'000'000;  // pixels
+    return encoding.type == OutputType::Jpeg && format == PixelFormat::Bgr8 &&
+           std::int64_t{size.width} * size.height >= fewest;
+}
+
 }  // namespace varnel

@@ -16,4 +16,8 @@ namespace varnel {
 EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                            const EncodeOptions& options = {});
 
+// Whether a picture of that format is encoded from rows that come and go (EncodeOptions::rows), and
+// is large enough for that to be worth the while.
+bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size);
+
 }  // namespace varnel

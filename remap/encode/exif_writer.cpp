@@ -27,10 +27,9 @@ void Put(QByteArray& bytes, std::uint32_t place, qint64 number) {
 }
 
 // The best that takes no more bytes than that; empty when there is none.
-QByteArray ThumbnailFile(const Bitmap* bitmap, qsizetype room) {
-    const BitmapHandle thumbnail = ThumbnailOf(bitmap);
+QByteArray ThumbnailFile(const Bitmap* thumbnail, qsizetype room) {
     for (const int quality : {85, 75, 60, 40, 20, 5}) {
-        QByteArray file = PlainJpeg(thumbnail.get(), quality);
+        QByteArray file = PlainJpeg(thumbnail, quality);
         if (file.size() <= room) {
             return file;
         }
@@ -44,11 +43,13 @@ void PutThumbnail(QByteArray& bytes, const ExifBlock& block, const QByteArray& t
     std::fill(rest, room + block.thumbnailRoom, '\0');
 }
 
-QByteArray Written(const ExifBlock& block, PixelSize size, const Bitmap* thumbnailed) {
+bool HasRoomForThumbnail(const ExifBlock& block) {
+    return Holds(block.bytes, block.thumbnail, block.thumbnailRoom);
+}
+
+QByteArray Written(const ExifBlock& block, PixelSize size, const QByteArray& thumbnail) {
     QByteArray bytes = block.bytes;
-    if (Holds(bytes, block.thumbnail, block.thumbnailRoom)) {
-        const QByteArray thumbnail =
-            thumbnailed == nullptr ? QByteArray() : ThumbnailFile(thumbnailed, block.thumbnailRoom);
+    if (HasRoomForThumbnail(block)) {
         PutThumbnail(bytes, block, thumbnail);
         Put(bytes, block.thumbnailLength, thumbnail.size());
     }
@@ -59,12 +60,17 @@ QByteArray Written(const ExifBlock& block, PixelSize size, const Bitmap* thumbna
 
 }  // namespace
 
-QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap) {
-    return Written(block, SizeOf(bitmap), bitmap);
+QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap, const Bitmap* thumbnail) {
+    QByteArray file;
+    if (HasRoomForThumbnail(block)) {
+        const BitmapHandle own = thumbnail != nullptr ? nullptr : ThumbnailOf(bitmap);
+        file = ThumbnailFile(own ? own.get() : thumbnail, block.thumbnailRoom);
+    }
+    return Written(block, SizeOf(bitmap), file);
 }
 
 QByteArray WrittenExifWithoutThumbnail(const ExifBlock& block, PixelSize size) {
-    QByteArray bytes = Written(block, size, nullptr);
+    QByteArray bytes = Written(block, size, {});
     const bool lastOfAll =
         std::uint64_t{block.thumbnail} + block.thumbnailRoom == std::uint64_t(bytes.size());
     if (block.thumbnail != 0 && lastOfAll) {

@@ -10,10 +10,11 @@
 
 namespace varnel {
 
-// With the bitmap's width and height and, where the block has room for one, a thumbnail of it. One
-// that does not fit is left out: its length is 0 then. The bitmap has 24 bits. Throws
-// std::bad_alloc.
-QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap);
+// With the bitmap's width and height and, where the block has room for one, a thumbnail of it, or
+// the given one of a bitmap whose pixels are not there. One that does not fit is left out: its
+// length is 0 then. The bitmap has 24 bits. Throws std::bad_alloc.
+QByteArray WrittenExif(const ExifBlock& block, const Bitmap* bitmap,
+                       const Bitmap* thumbnail = nullptr);
 
 // With width and height, and without a thumbnail.
 QByteArray WrittenExifWithoutThumbnail(const ExifBlock& block, PixelSize size);

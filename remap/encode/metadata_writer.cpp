@@ -25,8 +25,11 @@ constexpr qsizetype longestIptcInJpeg = 65533 - 14;  // wrapped
 // What goes into one file; its steps add to the result.
 class Assembly {
   public:
-    explicit Assembly(const Bitmap& bitmap)
-        : bitmap_(bitmap), photo_(bitmap.metadata.photo), own_(bitmap.metadata) {
+    explicit Assembly(const Bitmap& bitmap, const Bitmap* thumbnail = nullptr)
+        : bitmap_(bitmap),
+          thumbnail_(thumbnail),
+          photo_(bitmap.metadata.photo),
+          own_(bitmap.metadata) {
         constexpr qsizetype tiffHeader = 8;
         if (photo_.exif.bytes.size() < tiffHeader) {
             photo_.exif = {};
@@ -50,6 +53,7 @@ class Assembly {
     bool IsWorthKeeping() const;
 
     const Bitmap& bitmap_;
+    const Bitmap* thumbnail_;
     PhotoMetadata photo_;
     const BitmapMetadata& own_;
     WrittenMetadata result_;
@@ -77,7 +81,7 @@ void Assembly::AddShortExif() {
     if (isShortened) {
         result_.notes += ReasonCode::PartOfExifTooLong;
     }
-    result_.exif = WrittenExif(exif, &bitmap_);
+    result_.exif = WrittenExif(exif, &bitmap_, thumbnail_);
 }
 
 void Assembly::AddShortXmp() {
@@ -168,8 +172,8 @@ Reason Assembly::LostIn(OutputType type) const {
 
 }  // namespace
 
-WrittenMetadata MetadataForJpeg(const Bitmap& bitmap) {
-    Assembly assembly(bitmap);
+WrittenMetadata MetadataForJpeg(const Bitmap& bitmap, const Bitmap* thumbnail) {
+    Assembly assembly(bitmap, thumbnail);
     return assembly.IsNeeded() ? assembly.Jpeg() : WrittenMetadata();
 }
 

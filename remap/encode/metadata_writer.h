@@ -21,8 +21,9 @@ struct WrittenMetadata {
     Reasons notes;       // what the file is without
 };
 
-// For a file of each type. Throw std::bad_alloc.
-WrittenMetadata MetadataForJpeg(const Bitmap& bitmap);
+// For a file of each type. A thumbnail is given for a bitmap whose pixels are not there. Throw
+// std::bad_alloc.
+WrittenMetadata MetadataForJpeg(const Bitmap& bitmap, const Bitmap* thumbnail = nullptr);
 WrittenMetadata MetadataForPng(const Bitmap& bitmap);
 WrittenMetadata MetadataForJxl(const Bitmap& bitmap);
 WrittenMetadata MetadataForTiff(const Bitmap& bitmap);

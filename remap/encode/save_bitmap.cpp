@@ -95,7 +95,7 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, cons
 
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner) {
-    return Written(EncodeBitmap(encoding, bitmap, {.runner = runner}),
+    return Written(EncodeBitmap(encoding, bitmap, {.runner = runner, .rows = file.rows}),
                    [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
 }
 

@@ -11,7 +11,7 @@
 #include "base/block_runner.h"
 #include "files/atomic_file.h"
 #include "remap/encode/output_type.h"
-#include "remap/image/bitmap.h"
+#include "remap/image/row_source.h"
 
 namespace varnel {
 
@@ -35,6 +35,7 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, cons
 struct FileInSeries {
     QString name;
     FileSeries& series;
+    RowSource* rows = nullptr;  // see EncodeOptions
 };
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner = nullptr);

@@ -4,7 +4,6 @@
 #include "remap/encode/thumbnail.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <vector>
 
@@ -40,49 +39,60 @@ std::vector<std::int32_t> PlacesOf(std::int32_t thumbnailSide, std::int32_t side
     return places;
 }
 
-using Rows = std::array<const std::uint8_t*, samples>;
+}  // namespace
 
-// One row of the thumbnail.
-void Average(const Rows& rows, const Bitmap& bitmap, const std::vector<std::int32_t>& columns,
-             std::uint8_t* out) {
-    constexpr unsigned all = samples * samples;
+ThumbnailSampler::ThumbnailSampler(PixelSize picture)
+    : size_(ThumbnailSize(picture)),
+      columns_(PlacesOf(size_.width, picture.width)),
+      rows_(PlacesOf(size_.height, picture.height)),
+      samples_(columns_.size() * rows_.size()) {}
+
+void ThumbnailSampler::Take(const Bitmap& bitmap, LineRange rows) {
     const ByteCoding coding(bitmap);
     const std::ptrdiff_t step = PixelStep(bitmap.Format());
-    for (std::size_t first = 0; first < columns.size(); first += samples, out += 3) {
-        unsigned blue = all / 2;
-        unsigned green = all / 2;
-        unsigned red = all / 2;
-        for (const std::uint8_t* const row : rows) {
-            for (std::size_t n = 0; n < samples; ++n) {
-                const PixelColor pixel = coding.ColourAt(row + columns[first + n] * step);
-                blue += pixel.blue;
-                green += pixel.green;
-                red += pixel.red;
-            }
+    const auto first = std::ranges::lower_bound(rows_, rows.first);
+    const auto end = std::ranges::upper_bound(rows_, rows.last);
+    PixelColor* to = samples_.data() + (first - rows_.begin()) * std::ssize(columns_);
+    for (auto row = first; row < end; ++row) {
+        const std::uint8_t* const from = bitmap.ScanLine(*row).data();
+        for (const std::int32_t column : columns_) {
+            *to++ = coding.ColourAt(from + column * step);
         }
-        out[0] = static_cast<std::uint8_t>(blue / all);
-        out[1] = static_cast<std::uint8_t>(green / all);
-        out[2] = static_cast<std::uint8_t>(red / all);
     }
 }
 
-}  // namespace
+BitmapHandle ThumbnailSampler::Thumbnail() const {
+    constexpr unsigned all = samples * samples;
+    BitmapHandle thumbnail = NewBitmap(size_);
+    for (std::int32_t y = 0; y < size_.height; ++y) {
+        std::uint8_t* out = thumbnail->ScanLine(y).data();
+        for (std::int32_t x = 0; x < size_.width; ++x, out += 3) {
+            unsigned blue = all / 2;
+            unsigned green = all / 2;
+            unsigned red = all / 2;
+            for (std::int32_t n = 0; n < samples; ++n) {
+                const auto row = static_cast<std::size_t>(y * samples + n);
+                const PixelColor* const pixels =
+                    samples_.data() + row * columns_.size() + x * samples;
+                for (std::int32_t m = 0; m < samples; ++m) {
+                    blue += pixels[m].blue;
+                    green += pixels[m].green;
+                    red += pixels[m].red;
+                }
+            }
+            out[0] = static_cast<std::uint8_t>(blue / all);
+            out[1] = static_cast<std::uint8_t>(green / all);
+            out[2] = static_cast<std::uint8_t>(red / all);
+        }
+    }
+    return thumbnail;
+}
 
 BitmapHandle ThumbnailOf(const Bitmap* bitmap) {
     const PixelSize size = SizeOf(bitmap);
-    BitmapHandle thumbnail = NewBitmap(ThumbnailSize(size));
-    const PixelSize small = SizeOf(thumbnail.get());
-    const std::vector<std::int32_t> columns = PlacesOf(small.width, size.width);
-    const std::vector<std::int32_t> rows = PlacesOf(small.height, size.height);
-    for (std::int32_t y = 0; y < small.height; ++y) {
-        Rows sampled;
-        for (std::int32_t n = 0; n < samples; ++n) {
-            sampled[static_cast<std::size_t>(n)] =
-                bitmap->ScanLine(rows[static_cast<std::size_t>(y * samples + n)]).data();
-        }
-        Average(sampled, *bitmap, columns, thumbnail->ScanLine(y).data());
-    }
-    return thumbnail;
+    ThumbnailSampler sampler(size);
+    sampler.Take(*bitmap, {0, size.height - 1});
+    return sampler.Thumbnail();
 }
 
 }  // namespace varnel

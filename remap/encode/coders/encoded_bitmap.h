@@ -11,7 +11,7 @@
 #include "base/block_runner.h"
 #include "base/reason.h"
 #include "remap/encode/output_type.h"
-#include "remap/image/bitmap.h"
+#include "remap/image/row_source.h"
 
 namespace varnel {
 
@@ -21,10 +21,20 @@ inline constexpr qint64 largestFile = 0xFFFFFFFF;
 struct EncodeOptions {
     BlockRunner* runner = nullptr;  // none: on the caller's thread alone
     qint64 largest = largestFile;   // bytes
+    RowSource* rows = nullptr;      // of the picture, whose bitmap is without pixels then
 
     void Run(int blocks, const std::function<void(int)>& block) const {
         SerialRunner serial;
         (runner != nullptr ? *runner : serial).Run(blocks, block);
+    }
+    // Calls use with a bitmap that has these rows.
+    void WithRows(const Bitmap& bitmap, LineRange wanted,
+                  const std::function<void(const Bitmap&)>& use) const {
+        if (rows == nullptr) {
+            use(bitmap);
+        } else {
+            rows->WithRows(wanted, use);
+        }
     }
 };
 

@@ -8,10 +8,12 @@
 #include <array>
 #include <cstdlib>
 #include <new>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "remap/encode/metadata_writer.h"
+#include "remap/encode/thumbnail.h"
 #include "remap/image/jpeg_errors.h"
 
 namespace varnel {
@@ -29,6 +31,7 @@ constexpr QByteArrayView startOfImage("\xFF\xD8");
 constexpr QByteArrayView endOfImage("\xFF\xD9");
 constexpr QByteArrayView lastRestart("\xFF\xD7");
 constexpr unsigned char frameMarker = 0xC0;
+constexpr unsigned char tablesMarker = 0xDB;
 constexpr unsigned char scanMarker = 0xDA;
 
 // Rows of a bitmap, counted from the top as in a JPEG file.
@@ -219,6 +222,7 @@ QString CodeBand(const Band& band, const OutputEncoding& encoding, const Head* h
 
 // Where a coded band has what joining it to others needs.
 struct Places {
+    qsizetype tables = 0;  // behind all that may stand in front of them
     qsizetype height = 0;  // two bytes
     qsizetype data = 0;    // of the scan, behind its header; 0 when there is none
 };
@@ -227,6 +231,9 @@ Places PlacesIn(QByteArrayView coded) {
     Places places;
     for (qsizetype at = startOfImage.size(); at + 9 < coded.size();) {
         const auto marker = static_cast<unsigned char>(coded[at + 1]);
+        if (marker == tablesMarker && places.tables == 0) {
+            places.tables = at;
+        }
         if (marker == frameMarker) {
             places.height = at + 5;
         }
@@ -239,15 +246,16 @@ Places PlacesIn(QByteArrayView coded) {
     return places;
 }
 
-// The first band's file made as high as the picture, with the scans of the others behind its own.
-// The bands are freed on the way. Empty when one has no scan.
-QByteArray Joined(std::vector<CodedBytes>& bands, int height) {
-    qsizetype most = 0;
+// The head, the first band's file made as high as the picture and the scans of the others behind
+// its own. The bands are freed on the way. Empty when one has no scan.
+QByteArray Joined(QByteArrayView head, std::vector<CodedBytes>& bands, int height) {
+    qsizetype most = head.size();
     for (const CodedBytes& band : bands) {
         most += band.View().size();
     }
     QByteArray file;
     file.reserve(most);
+    file += head;
     for (CodedBytes& band : bands) {
         const bool isFirst = &band == &bands.front();
         const Places places = PlacesIn(band.View());
@@ -257,13 +265,24 @@ QByteArray Joined(std::vector<CodedBytes>& bands, int height) {
         if (!isFirst) {
             file += lastRestart;
         }
-        file += band.View().sliced(isFirst ? 0 : places.data).chopped(endOfImage.size());
+        file +=
+            band.View().sliced(isFirst ? places.tables : places.data).chopped(endOfImage.size());
         if (isFirst) {
-            qToBigEndian(static_cast<quint16>(height), file.data() + places.height);
+            qToBigEndian(static_cast<quint16>(height),
+                         file.data() + head.size() + places.height - places.tables);
         }
         band.Free();
     }
     return file += endOfImage;
+}
+
+// All that stands in front of the tables, as a file of one pixel has it. The error is returned.
+QString CodeHead(const Head& head, const OutputEncoding& encoding, QByteArray& bytes) {
+    const BitmapHandle pixel = NewBitmap({1, 1});
+    CodedBytes coded;
+    QString error = CodeBand({pixel.get(), 0, 1, false}, encoding, &head, coded);
+    bytes = coded.View().first(error.isEmpty() ? PlacesIn(coded.View()).tables : 0).toByteArray();
+    return error;
 }
 
 // libjpeg refuses higher pictures, and is to report that, but not bands of them.
@@ -288,20 +307,39 @@ std::vector<Band> BandsOf(const Bitmap* bitmap) {
 
 EncodedBitmap EncodeJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options) {
-    const WrittenMetadata metadata = MetadataForJpeg(*bitmap);
-    const Head head = HeadFor(*bitmap, metadata);
+    const int height = SizeOf(bitmap).height;
     const std::vector<Band> bands = BandsOf(bitmap);
     std::vector<CodedBytes> coded(bands.size());
     std::vector<QString> errors(bands.size());
+    std::optional<ThumbnailSampler> sampler;
+    if (options.rows != nullptr) {
+        sampler.emplace(SizeOf(bitmap));
+    }
     options.Run(static_cast<int>(bands.size()), [&](int n) {
-        errors[n] = CodeBand(bands[n], encoding, n == 0 ? &head : nullptr, coded[n]);
+        Band band = bands[n];
+        const int top = height - 1 - band.first;
+        const LineRange rows{top - band.count + 1, top};
+        options.WithRows(*bitmap, rows, [&](const Bitmap& there) {
+            if (sampler) {
+                sampler->Take(there, rows);
+            }
+            band.bitmap = &there;
+            errors[n] = CodeBand(band, encoding, nullptr, coded[n]);
+        });
     });
+    const BitmapHandle thumbnail = sampler ? sampler->Thumbnail() : nullptr;
+    const WrittenMetadata metadata = MetadataForJpeg(*bitmap, thumbnail.get());
+    QByteArray head;
+    errors.push_back(CodeHead(HeadFor(*bitmap, metadata), encoding, head));
     const auto error =
         std::ranges::find_if_not(errors, [](const QString& text) { return text.isEmpty(); });
     if (error != errors.end()) {
         return {{}, {ReasonCode::Added, Reason(ReasonCode::CannotBeEncoded), *error}};
     }
-    QByteArray file = Joined(coded, SizeOf(bitmap).height);
+    if (options.rows != nullptr) {
+        options.rows->End();
+    }
+    QByteArray file = Joined(head, coded, height);
     return file.isEmpty() ? EncodedBitmap{{}, ReasonCode::CannotBeEncoded}
                           : EncodedBitmap{std::move(file), {}, Joined(metadata.notes)};
 }

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "pipeline/conversion/run/result_drawer.h"
+
+#include <utility>
+
+#include "remap/encode/encode_bitmap.h"
+#include "remap/encode/output_format.h"
+#include "remap/encode/sample_depth.h"
+#include "remap/image/preview_size.h"
+#include "remap/projection/projection_info.h"
+
+namespace varnel {
+
+BitmapHandle ResultDrawer::InWorkingDepth(BitmapHandle photo) {
+    const OutputEncoding& encoding = plan_.output.encoding;
+    const bool isWidened =
+        photo && SampleKindOf(photo->Format()) == SampleKind::Byte &&
+        encoding.depth != OutputDepth::Own &&
+        SamplesIn(encoding.type, SamplesFor(encoding.depth, SampleKind::Byte)) != SampleKind::Byte;
+    return isWidened ? InSamples(*photo, SampleKind::Word, runner_) : std::move(photo);
+}
+
+bool ResultDrawer::IsDrawnByRows(const ImageRecord& record, const Bitmap& photo) const {
+    return byRows_ && !plan_.preview && DrawnRows::CanDraw(record) &&
+           IsEncodedByRows(plan_.output.encoding, photo.Format(),
+                           ResultSizeOf(record, photo.Size()));
+}
+
+DrawnResult ResultDrawer::Draw(Bitmaps& bitmaps, const ImageRecord& record, BitmapHandle used) {
+    const Bitmap& photo = *bitmaps.FullSourceBitmap;
+    const Projection projection = ProjectionFromIndex(record.Projection);
+    if (IsDrawnByRows(record, photo)) {
+        progress_.HandleEvents();
+        auto rows = std::make_unique<DrawnRows>(projection, record, photo);
+        BitmapHandle result = rows->WithoutPixels();
+        progress_.Begin(static_cast<float>(result->Size().height));
+        return {std::move(result), std::move(rows)};
+    }
+    if (plan_.preview && !bitmaps.PreviewSourceBitmap) {
+        bitmaps.PreviewSourceBitmap =
+            ReducedCopy(&photo, PreviewSize(SizeOf(&photo), *plan_.preview, *plan_.preview));
+    }
+    bitmaps.ResultBitmap = std::move(used);
+    RenderContext context{bitmaps, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
+    Render(projection, record, plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, progress_,
+           context);
+    return {std::move(bitmaps.ResultBitmap), nullptr};
+}
+
+}  // namespace varnel

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: Varnel developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// A conversion that is drawn a band of rows at a time, as they are asked for, so that the whole
+// result is never in memory. Rows count from the bottom row.
+#pragma once
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include "remap/image/row_source.h"
+#include "remap/projection/record_maps.h"
+
+namespace varnel {
+
+class DrawnRows : public RowSource {
+  public:
+    // Whether bands can be drawn by themselves at about the cost of the whole: in the classic
+    // sampling, where nothing but black stands beside the photo.
+    static bool CanDraw(const ImageRecord& image) {
+        return image.Sampling == SamplingKind::Classic &&
+               image.Outside.kind == OutsideFill::Kind::Black;
+    }
+
+    // The photo's pixels are kept for as long as this lives. Throws what a conversion throws before
+    // its work.
+    DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo);
+
+    // What a conversion makes of the photo, but for the pixels, which are not there.
+    BitmapHandle WithoutPixels() const;
+    // Rows that are drawn so far.
+    int Done() const { return done_; }
+    // Throws as the conversion does.
+    void WithRows(LineRange rows, const std::function<void(const Bitmap&)>& use) const override;
+    void End() override;
+
+  private:
+    using Memory = std::vector<std::byte>;
+    Memory Take(std::size_t length) const;
+    void GiveBack(Memory memory) const;
+
+    Projection projection_;
+    ImageRecord image_;
+    Bitmap photo_;
+    Frames frames_;
+    mutable std::atomic<int> done_ = 0;
+    mutable std::mutex mutex_;
+    mutable std::vector<Memory> free_;  // as many as there are threads that ask
+};
+
+}  // namespace varnel

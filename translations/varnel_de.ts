@@ -3771,6 +3771,10 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>The gear &quot;%1&quot; has its circle again: %2.</source>
         <translation>Die Ausrüstung „%1“ hat wieder ihren Kreis: %2.</translation>
     </message>
+    <message>
+        <source>No rim of an image circle was found in this film.</source>
+        <translation>In diesem Film wurde kein Rand eines Bildkreises gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::ColourTools</name>

@@ -3771,6 +3771,10 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>The gear &quot;%1&quot; has its circle again: %2.</source>
         <translation>El equipo «%1» vuelve a tener su círculo: %2.</translation>
     </message>
+    <message>
+        <source>No rim of an image circle was found in this film.</source>
+        <translation>En esta película no se encontró el borde de ningún círculo de imagen.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::ColourTools</name>

@@ -3771,6 +3771,10 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>The gear &quot;%1&quot; has its circle again: %2.</source>
         <translation>L’équipement «&#xa0;%1&#xa0;» a retrouvé son cercle&#xa0;: %2.</translation>
     </message>
+    <message>
+        <source>No rim of an image circle was found in this film.</source>
+        <translation>Aucun bord de cercle image n’a été trouvé dans ce film.</translation>
+    </message>
 </context>
 <context>
     <name>varnel::ColourTools</name>

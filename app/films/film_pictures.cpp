@@ -3,11 +3,13 @@
 
 #include "app/films/film_pictures.h"
 
+#include <atomic>
 #include <chrono>
 #include <future>
 #include <utility>
 
 #include "base/shortage.h"
+#include "film/conversion/film_pictures.h"
 #include "film/frames/frame_bitmap.h"
 #include "film/reading/film_reader.h"
 #include "remap/image/preview_size.h"
@@ -17,18 +19,10 @@ namespace varnel {
 namespace {
 
 // The first frame that can be decoded; none and a reason where there is no such frame.
-LoadedPicture FirstFrame(const ReadRequest& request) {
-    const std::unique_ptr<FilmReader> reader = NewFilmReader();
-    if (const Reason reason = reader->Open(request.path, {request.upright, false});
-        !reason.isEmpty()) {
-        return LoadedPicture::Refused(reason);
-    }
-    LoadedPicture picture{LoadOutcome::Loaded, nullptr, {}, reader->Info().format.size};
-    if (request.kind == ReadKind::Size || request.kind == ReadKind::Facts) {
-        return picture;
-    }
+LoadedPicture FirstFrame(FilmReader& reader, const ReadRequest& request) {
+    LoadedPicture picture{LoadOutcome::Loaded, nullptr, {}, reader.Info().format.size};
     while (true) {
-        const FilmItem item = reader->Next();
+        const FilmItem item = reader.Next();
         if (const auto* const end = std::get_if<FilmEnd>(&item)) {
             return LoadedPicture::Refused(end->reason.isEmpty() ? ReasonCode::NoPicture
                                                                 : end->reason);
@@ -43,14 +37,48 @@ LoadedPicture FirstFrame(const ReadRequest& request) {
                 picture.bitmap =
                     ReducedCopy(picture.bitmap.get(), PreviewSize(whole, request.box, request.box));
             }
+            picture.bitmap->metadata.photo.origin = CameraOf(reader.Info());
             return picture;
         }
     }
 }
 
+LoadedPicture MiddleFrame(FilmReader& reader, const std::function<bool()>& goesOn) {
+    SerialRunner runner;
+    auto frame = TypicalFrame(reader, runner, goesOn);
+    if (const auto* const reason = std::get_if<Reason>(&frame)) {
+        return LoadedPicture::Refused(*reason);
+    }
+    return {LoadOutcome::Loaded,
+            std::get<BitmapHandle>(std::move(frame)),
+            {},
+            reader.Info().format.size};
+}
+
+LoadedPicture ReadFilm(const ReadRequest& request, StandIn frame,
+                       const std::function<bool()>& goesOn) {
+    const std::unique_ptr<FilmReader> reader = NewFilmReader();
+    if (const Reason reason = reader->Open(request.path, {request.upright, false});
+        !reason.isEmpty()) {
+        return LoadedPicture::Refused(reason);
+    }
+    if (request.kind == ReadKind::Size || request.kind == ReadKind::Facts) {
+        LoadedPicture picture{LoadOutcome::Loaded, nullptr, {}, reader->Info().format.size};
+        picture.facts.origin = CameraOf(reader->Info());
+        return picture;
+    }
+    return frame == StandIn::Typical && request.kind == ReadKind::Whole
+               ? MiddleFrame(*reader, goesOn)
+               : FirstFrame(*reader, request);
+}
+
 class FilmPictures : public PictureReader {
   public:
-    explicit FilmPictures(std::unique_ptr<PictureReader> photos) : photos_(std::move(photos)) {}
+    FilmPictures(std::unique_ptr<PictureReader> photos, StandIn frame)
+        : photos_(std::move(photos)), frame_(frame) {}
+    ~FilmPictures() override { givenUp_ = true; }
+    FilmPictures(const FilmPictures&) = delete;
+    FilmPictures& operator=(const FilmPictures&) = delete;
 
     void Begin(const ReadRequest& request) override {
         if (!IsFilm(request.path)) {
@@ -58,9 +86,11 @@ class FilmPictures : public PictureReader {
             return;
         }
         // The reader of films waits on its own thread, as a decoder does in its process.
-        film_ = std::async(std::launch::async, [request] {
+        givenUp_ = false;
+        film_ = std::async(std::launch::async, [this, request] {
             LoadedPicture picture;
-            const QString shortage = Shortage([&] { picture = FirstFrame(request); });
+            const QString shortage = Shortage(
+                [&] { picture = ReadFilm(request, frame_, [this] { return !givenUp_; }); });
             return shortage.isEmpty() ? std::move(picture)
                                       : LoadedPicture::Refused({ReasonCode::Words, shortage});
         });
@@ -76,7 +106,8 @@ class FilmPictures : public PictureReader {
 
     void Cancel() override {
         if (film_.valid()) {
-            film_.get();  // one frame: it is soon there
+            givenUp_ = true;
+            film_.get();  // a frame is soon there
         } else {
             photos_->Cancel();
         }
@@ -86,13 +117,15 @@ class FilmPictures : public PictureReader {
 
   private:
     std::unique_ptr<PictureReader> photos_;
+    StandIn frame_;
+    std::atomic<bool> givenUp_ = false;
     std::future<LoadedPicture> film_;
 };
 
 }  // namespace
 
-std::unique_ptr<PictureReader> WithFilms(std::unique_ptr<PictureReader> photos) {
-    return std::make_unique<FilmPictures>(std::move(photos));
+std::unique_ptr<PictureReader> WithFilms(std::unique_ptr<PictureReader> photos, StandIn frame) {
+    return std::make_unique<FilmPictures>(std::move(photos), frame);
 }
 
 }  // namespace varnel

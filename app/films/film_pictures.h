@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Films where photos are read: their first frame stands for them. Throws std::bad_alloc.
+// Films where photos are read: one of their frames stands for them. Throws std::bad_alloc.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,12 @@
 
 namespace varnel {
 
-// A reader that reads films' first frames itself and has all else read by the other one.
-std::unique_ptr<PictureReader> WithFilms(std::unique_ptr<PictureReader> photos);
+enum class StandIn {
+    First,   // the first frame that can be decoded
+    Typical  // where whole pictures are asked for, the one that TypicalFrame chooses
+};
+
+// A reader that reads films' frames itself and has all else read by the other one.
+std::unique_ptr<PictureReader> WithFilms(std::unique_ptr<PictureReader> photos, StandIn frame);
 
 }  // namespace varnel

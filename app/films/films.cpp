@@ -15,7 +15,11 @@ bool CanReadFilms() {
 }
 
 std::unique_ptr<PictureReader> NewReaderWithFilms(const ReaderOptions& options) {
-    return WithFilms(NewPictureReader(options));
+    return WithFilms(NewPictureReader(options), StandIn::First);
+}
+
+std::unique_ptr<PictureReader> NewGearReader() {
+    return WithFilms(NewPictureReader(), StandIn::Typical);
 }
 
 std::unique_ptr<FilmSource> NewFilmSource(ThreadRunner& pool) {

@@ -19,6 +19,8 @@ namespace varnel {
 bool CanReadFilms();
 // Photos as they are, and films as their first frame.
 std::unique_ptr<PictureReader> NewReaderWithFilms(const ReaderOptions& options = {});
+// The same for finding gears and image circles: of films a frame that shows them well.
+std::unique_ptr<PictureReader> NewGearReader();
 std::unique_ptr<FilmSource> NewFilmSource(ThreadRunner& pool);
 std::unique_ptr<FilmSaver> NewFilmSaver(const GeneralSettings& settings);
 std::unique_ptr<MorphFilmMaker> NewMorphFilmMaker(ThreadRunner& pool,

@@ -13,6 +13,10 @@ std::unique_ptr<PictureReader> NewReaderWithFilms(const ReaderOptions& options) 
     return NewPictureReader(options);
 }
 
+std::unique_ptr<PictureReader> NewGearReader() {
+    return NewPictureReader();
+}
+
 std::unique_ptr<FilmSource> NewFilmSource(ThreadRunner& /*pool*/) {
     return nullptr;
 }

@@ -69,7 +69,7 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
                      dialogs,
                      [] { return NewReaderWithFilms({.secondsPerPhoto = 10}); },
                      {UserSessionFolder()},
-                     [] { return NewReaderWithFilms(); },
+                     &NewGearReader,
                      &theme,
                      &ScreenProfile,
                      {films.get(), filmSaver.get()}});

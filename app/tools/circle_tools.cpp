@@ -5,6 +5,7 @@
 
 #include <QLayout>
 #include <QLocale>
+#include <QScopeGuard>
 #include <algorithm>
 #include <cmath>
 #include <new>
@@ -51,13 +52,15 @@ ImageCircle Inscribed(PixelSize picture) {
 }  // namespace
 
 CircleTools::CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                         Workspace& workspace, WorkingState& state, SettingsStore& store)
+                         Workspace& workspace, SettingsStore& store,
+                         std::function<std::unique_ptr<PictureReader>()> newReader)
     : QObject(window),
       parts_(parts),
       view_(view),
       workspace_(workspace),
-      state_(state),
+      state_(workspace.model.state),
       store_(store),
+      newReader_(std::move(newReader)),
       overlay_([this] { return Shown(); },
                [this](const ImageCircle& circle) {
                    Put(circle, {circleKey, workspace_.model.list.CurrentLine()});
@@ -203,26 +206,51 @@ bool CircleTools::IsNewToGear(const ImageCircle& circle) {
 }
 
 void CircleTools::Find() {
-    const Bitmap* const photo = state_.bitmaps.FullSourceBitmap.get();
-    if (photo == nullptr || workspace_.model.list.Current() == nullptr ||
-        workspace_.model.activity.Busy()) {
+    const ImageRecord* const image = workspace_.model.list.Current();
+    const auto& photo = state_.bitmaps.FullSourceBitmap;
+    if (!photo || image == nullptr || workspace_.model.activity.Busy() || view_.Locked()) {
         return;
     }
+    const bool isFilm = image->Film.has_value();
     try {
-        if (const std::optional<FoundCircle> found = FindPhotoCircle(photo)) {
-            if (!Put(*found)) {
-                return;
-            }
-            found_ = found->rough ? tr("A rough image circle, from the light inside: it is dark at "
-                                       "the rim. Drag the rim where it is not right.")
-                                  : tr("Image circle found.");
+        const BitmapHandle frame = isFilm && newReader_ ? FrameForFinding(*image) : nullptr;
+        const auto found = FindPhotoCircle(frame ? frame.get() : photo.get());
+        if (!found || Put(*found)) {
+            found_ = FoundText(found, isFilm);
             view_.ShowStatus(found_);
-        } else {
-            view_.ShowStatus(tr("No rim of an image circle was found on this photo."));
+        }
+        if (frame) {
+            Q_EMIT workspace_.model.activity.Idle();
         }
     } catch (const std::bad_alloc&) {
         view_.ShowStatus(ShortageText(Scarce::Memory));
     }
+}
+
+// Null where the film cannot be read.
+BitmapHandle CircleTools::FrameForFinding(const ImageRecord& film) {
+    const ReadRequest request{.path = SourcePath(film), .upright = state_.settings.AutoOrient};
+    const auto busy = workspace_.model.activity.Occupy();
+    const auto hourglass = view_.Hourglass();
+    view_.Lock(true);
+    const auto unlock = qScopeGuard([this] { view_.Lock(false); });
+    const std::unique_ptr<PictureReader> reader = newReader_();
+    return ReadPicture(*reader, request,
+                       [this] {
+                           view_.HandleEvents();
+                           return true;
+                       })
+        .bitmap;
+}
+
+QString CircleTools::FoundText(const std::optional<FoundCircle>& found, bool onFilm) {
+    if (found) {
+        return found->rough ? tr("A rough image circle, from the light inside: it is dark at the "
+                                 "rim. Drag the rim where it is not right.")
+                            : tr("Image circle found.");
+    }
+    return onFilm ? tr("No rim of an image circle was found in this film.")
+                  : tr("No rim of an image circle was found on this photo.");
 }
 
 void CircleTools::Ask() {

@@ -15,6 +15,8 @@
 #include "app/tools/circle_bar.h"
 #include "app/view/window_view.h"
 #include "app/workspace/workspace.h"
+#include "decoder/process/picture_reader.h"
+#include "remap/analysis/circle_finder.h"
 #include "state/editing/gear_circle.h"
 #include "state/settings/settings_store.h"
 
@@ -23,8 +25,10 @@ namespace varnel {
 class CircleTools : public QObject {
     Q_OBJECT
   public:
+    // The reader gives films' frames for finding; without it they are searched as they are shown.
     CircleTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                Workspace& workspace, WorkingState& state, SettingsStore& store);
+                Workspace& workspace, SettingsStore& store,
+                std::function<std::unique_ptr<PictureReader>()> newReader);
 
   private:
     void Connect();
@@ -43,6 +47,8 @@ class CircleTools : public QObject {
     bool Change(const std::function<void(ImageRecord&)>& change, const StepKey& key);
     void Refresh();
     void Find();
+    BitmapHandle FrameForFinding(const ImageRecord& film);
+    static QString FoundText(const std::optional<FoundCircle>& found, bool onFilm);
     void Reset();
     void Ask();
     void Decline();
@@ -54,6 +60,7 @@ class CircleTools : public QObject {
     Workspace& workspace_;
     WorkingState& state_;
     SettingsStore& store_;
+    std::function<std::unique_ptr<PictureReader>()> newReader_;
     CircleOverlay overlay_;
     QString found_;  // what the status shows of the last search for the circle
     CircleBar* bar_;

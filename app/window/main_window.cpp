@@ -102,7 +102,7 @@ void MDIForm1::MakeTools() {
     new CropTools(this, parts_, view_, workspace_);
     new FaceTools(this, parts_, view_, workspace_, state_);
     new StraightenTools(this, view_, workspace_, state_, ports_);
-    new CircleTools(this, parts_, view_, workspace_, state_, store_);
+    new CircleTools(this, parts_, view_, workspace_, store_, ports_.newGearReader);
     new PictureKeys(this, parts_);
     new PictureMenus(this, parts_, view_, model_.list, ports_.dialogs);
     new EmptyState(this, parts_);

@@ -49,11 +49,7 @@ QString TagOf(const FilmInfo& film, std::initializer_list<const char*> names) {
 BitmapHandle PictureOf(const FilmReader& reader, const FilmFrame& frame, BlockRunner& runner,
                        bool eightBits) {
     BitmapHandle picture = FrameToBitmap(frame.view, runner, eightBits);
-    CameraInfo& camera = picture->metadata.photo.origin;
-    camera.Make =
-        TagOf(reader.Info(), {"make", "com.apple.quicktime.make", "com.android.manufacturer"});
-    camera.Model =
-        TagOf(reader.Info(), {"model", "com.apple.quicktime.model", "com.android.model"});
+    picture->metadata.photo.origin = CameraOf(reader.Info());
     return picture;
 }
 
@@ -92,11 +88,22 @@ std::variant<BitmapHandle, Reason> FilmFrameAt(FilmReader& reader, double second
     }
 }
 
-std::variant<BitmapHandle, Reason> TypicalFrame(FilmReader& reader, BlockRunner& runner) {
+CameraInfo CameraOf(const FilmInfo& film) {
+    CameraInfo camera;
+    camera.Make = TagOf(film, {"make", "com.apple.quicktime.make", "com.android.manufacturer"});
+    camera.Model = TagOf(film, {"model", "com.apple.quicktime.model", "com.android.model"});
+    return camera;
+}
+
+std::variant<BitmapHandle, Reason> TypicalFrame(FilmReader& reader, BlockRunner& runner,
+                                                const std::function<bool()>& goesOn) {
     constexpr int count = 5;
     std::vector<Candidate> candidates;
     Reason reason;
     for (int n = 0; n < count; ++n) {
+        if (goesOn && !goesOn()) {
+            return ReasonCode::Cancelled;
+        }
         // Key frames: nothing else is to be decoded for them.
         reason = reader.Seek(reader.Info().seconds * (n + 0.5) / count);
         const NextFrame next = reason.isEmpty() ? FrameOf(reader) : NextFrame{nullptr, reason};

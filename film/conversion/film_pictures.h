@@ -4,6 +4,7 @@
 // Single frames of a film, as pictures. Throws std::bad_alloc only.
 #pragma once
 
+#include <functional>
 #include <variant>
 
 #include "base/block_runner.h"
@@ -20,6 +21,11 @@ std::variant<BitmapHandle, Reason> FilmFrameAt(FilmReader& reader, double second
 
 // A frame that stands for the others: of five that are spread over the film, the one whose image
 // circle is the middle one; one without a circle where most have none. 8 bits.
-std::variant<BitmapHandle, Reason> TypicalFrame(FilmReader& reader, BlockRunner& runner);
+// Cancelled is the reason when goesOn, which is asked before each of them, says so.
+std::variant<BitmapHandle, Reason> TypicalFrame(FilmReader& reader, BlockRunner& runner,
+                                                const std::function<bool()>& goesOn = {});
+
+// The camera that the film names; empty where it names none.
+CameraInfo CameraOf(const FilmInfo& film);
 
 }  // namespace varnel

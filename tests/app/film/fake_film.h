@@ -42,11 +42,12 @@ class FakeFilm : public FilmSource {
     }
     BitmapHandle Picture() override {
         const auto level = static_cast<BYTE>(now * 5);
-        return Painted({60, 40}, [level](int, int) { return PixelColor{level, level, level, 0}; });
+        return Painted(size, [level](int, int) { return PixelColor{level, level, level, 0}; });
     }
 
     QStringList opened;
     Reason refusal;
+    PixelSize size{60, 40};
     int next = 0;
     int now = 0;
     int seeks = 0;

@@ -37,6 +37,25 @@ class FakeSaver : public FilmSaver {
     SavedFilm answer;
 };
 
+// Every film is a disc.
+class DiscReader : public PictureReader {
+  public:
+    void Begin(const ReadRequest& /*request*/) override {}
+    bool Wait(int /*milliseconds*/) override { return true; }
+    LoadedPicture Take() override {
+        return {LoadOutcome::Loaded,
+                testing::Painted({600, 400},
+                                 [](int x, int y) {
+                                     const BYTE grey =
+                                         std::hypot(x - 305.5, y - 213.5) < 150.0 ? 200 : 3;
+                                     return PixelColor{grey, grey, grey, 0};
+                                 }),
+                {},
+                {600, 400}};
+    }
+    void Cancel() override {}
+};
+
 class FilmWindow : public ::testing::Test {
   protected:
     FilmWindow() {
@@ -186,6 +205,36 @@ TEST_F(FilmWindow, SavesTheFilmAsTheBarSays) {
     window.dialogs.film = SourcePath(Film());
     bar->SaveButton()->click();
     EXPECT_TRUE(window.notices.details.last().contains(QStringLiteral("the film itself")));
+}
+
+// Not on the frame that is shown.
+TEST(FilmCircle, IsFoundOnTheFrameThatStandsForTheFilm) {
+    testing::FakeFilm film;
+    film.size = {600, 400};
+    int asked = 0;
+    TestWindow window{nullptr,
+                      {},
+                      Restore::Later,
+                      {[&asked]() -> std::unique_ptr<PictureReader> {
+                           ++asked;
+                           return std::make_unique<DiscReader>();
+                       },
+                       {},
+                       &film,
+                       nullptr}};
+    window.state.settings.TakeGear = false;
+    window.AddPhotos({QStringLiteral("film.bmp"), QStringLiteral("photo.bmp")}, {600, 400});
+    window.ClickLine(0);
+    ASSERT_TRUE(testing::Settle());
+    window.Entry("CmdViewCircle")->trigger();
+    window.Click("CmdCircleFind");
+    EXPECT_EQ(window.Label("LabelCircle"),
+              QStringLiteral("Centre 10.0 ‰ right, 35.0 ‰ up, diameter 50.0 %"));
+    EXPECT_EQ(asked, 1);
+    window.ClickLine(1);
+    window.Click("CmdCircleFind");
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(window.Label("StatusText").endsWith(QStringLiteral("on this photo.")));
 }
 
 TEST_F(FilmWindow, SaysWhyAFilmCannotBeRead) {

@@ -253,7 +253,7 @@ constexpr Row rows[] = {
     {ReasonCode::EncoderTakesNoSuchFrames,
      QT_TRANSLATE_NOOP("Reasons", "the encoder %1 takes no pictures of %2; these do: %3")},
     {ReasonCode::EncoderTakesNoSuchValue,
-     QT_TRANSLATE_NOOP("Reasons", "the encoder %1 takes no %2 \"%3\", but %4")},
+     QT_TRANSLATE_NOOP("Reasons", "the encoder %1 takes no %2 \"%3\"; it takes: %4")},
     {ReasonCode::EncoderFailed, QT_TRANSLATE_NOOP("Reasons", "the encoder %1 failed: %2")},
     {ReasonCode::ContainerHoldsNo,
      QT_TRANSLATE_NOOP("Reasons", "%1 files cannot hold %2; these can: %3")},

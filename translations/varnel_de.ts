@@ -1945,8 +1945,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
 <context>
     <name>PhotoGear</name>
     <message>
-        <source>the photo does not tell what took it</source>
-        <translation>das Foto verrät nicht, womit es aufgenommen wurde</translation>
+        <source>the file does not tell what took it</source>
+        <translation>die Datei verrät nicht, womit sie aufgenommen wurde</translation>
     </message>
     <message>
         <source>the camera %1 is not in the catalogue</source>
@@ -1957,12 +1957,12 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>das Objektiv %1 steht nicht im Katalog</translation>
     </message>
     <message>
-        <source>the photo does not tell well enough which lens took it</source>
-        <translation>das Foto verrät nicht genau genug, mit welchem Objektiv es aufgenommen wurde</translation>
+        <source>the file does not tell well enough which lens took it</source>
+        <translation>die Datei verrät nicht genau genug, mit welchem Objektiv sie aufgenommen wurde</translation>
     </message>
     <message>
-        <source>the photo does not tell which gear of its camera took it</source>
-        <translation>das Foto verrät nicht, welche Ausrüstung mit dieser Kamera es aufgenommen hat</translation>
+        <source>the file does not tell which gear of its camera took it</source>
+        <translation>die Datei verrät nicht, welche Ausrüstung mit dieser Kamera sie aufgenommen hat</translation>
     </message>
     <message>
         <source>no gear has this camera and this lens</source>
@@ -2865,8 +2865,8 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <translation>der Encoder %1 nimmt keine Bilder mit %2 an; diese schon: %3</translation>
     </message>
     <message>
-        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
-        <translation>der Encoder %1 kennt für %2 nicht „%3“, aber %4</translation>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;; it takes: %4</source>
+        <translation>der Encoder %1 kennt für %2 nicht „%3“; er kennt: %4</translation>
     </message>
     <message>
         <source>the encoder %1 failed: %2</source>

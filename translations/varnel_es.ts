@@ -1945,8 +1945,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
 <context>
     <name>PhotoGear</name>
     <message>
-        <source>the photo does not tell what took it</source>
-        <translation>la foto no indica con qué se hizo</translation>
+        <source>the file does not tell what took it</source>
+        <translation>el archivo no indica con qué se tomó</translation>
     </message>
     <message>
         <source>the camera %1 is not in the catalogue</source>
@@ -1957,12 +1957,12 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>el objetivo %1 no está en el catálogo</translation>
     </message>
     <message>
-        <source>the photo does not tell well enough which lens took it</source>
-        <translation>la foto no indica lo bastante bien con qué objetivo se hizo</translation>
+        <source>the file does not tell well enough which lens took it</source>
+        <translation>el archivo no indica lo bastante bien con qué objetivo se tomó</translation>
     </message>
     <message>
-        <source>the photo does not tell which gear of its camera took it</source>
-        <translation>la foto no indica con qué equipo de su cámara se hizo</translation>
+        <source>the file does not tell which gear of its camera took it</source>
+        <translation>el archivo no indica con qué equipo de su cámara se tomó</translation>
     </message>
     <message>
         <source>no gear has this camera and this lens</source>
@@ -2865,8 +2865,8 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <translation>el codificador %1 no admite imágenes de %2; estos sí: %3</translation>
     </message>
     <message>
-        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
-        <translation>el codificador %1 no admite %2 «%3», pero sí %4</translation>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;; it takes: %4</source>
+        <translation>el codificador %1 no admite %2 «%3»; admite: %4</translation>
     </message>
     <message>
         <source>the encoder %1 failed: %2</source>

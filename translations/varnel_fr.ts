@@ -1945,8 +1945,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
 <context>
     <name>PhotoGear</name>
     <message>
-        <source>the photo does not tell what took it</source>
-        <translation>la photo n’indique pas avec quoi elle a été prise</translation>
+        <source>the file does not tell what took it</source>
+        <translation>le fichier n’indique pas avec quoi il a été pris</translation>
     </message>
     <message>
         <source>the camera %1 is not in the catalogue</source>
@@ -1957,12 +1957,12 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>l’objectif %1 n’est pas dans le catalogue</translation>
     </message>
     <message>
-        <source>the photo does not tell well enough which lens took it</source>
-        <translation>la photo n’indique pas assez bien avec quel objectif elle a été prise</translation>
+        <source>the file does not tell well enough which lens took it</source>
+        <translation>le fichier n’indique pas assez bien avec quel objectif il a été pris</translation>
     </message>
     <message>
-        <source>the photo does not tell which gear of its camera took it</source>
-        <translation>la photo n’indique pas avec quel équipement de son appareil elle a été prise</translation>
+        <source>the file does not tell which gear of its camera took it</source>
+        <translation>le fichier n’indique pas avec quel équipement de son appareil il a été pris</translation>
     </message>
     <message>
         <source>no gear has this camera and this lens</source>
@@ -2865,8 +2865,8 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <translation>l’encodeur %1 n’accepte pas les images en %2 ; ceux-ci le font : %3</translation>
     </message>
     <message>
-        <source>the encoder %1 takes no %2 &quot;%3&quot;, but %4</source>
-        <translation>l’encodeur %1 n’accepte pas %2 « %3 », mais %4</translation>
+        <source>the encoder %1 takes no %2 &quot;%3&quot;; it takes: %4</source>
+        <translation>l’encodeur %1 n’accepte pas %2 « %3 » ; il accepte : %4</translation>
     </message>
     <message>
         <source>the encoder %1 failed: %2</source>

@@ -32,6 +32,15 @@ bool MayBeFinished(const Reason& end) {
     return end.isEmpty() || end.Is(ReasonCode::FileCutShort);
 }
 
+// In memory, about.
+std::uint64_t BytesOf(const FilmPacket& packet) {
+    std::uint64_t bytes = sizeof packet + static_cast<std::uint64_t>(packet.bytes.size());
+    for (const SideData& side : packet.sideData) {
+        bytes += sizeof side + static_cast<std::uint64_t>(side.bytes.size());
+    }
+    return bytes;
+}
+
 class Conversion {
   public:
     Conversion(FilmReader& reader, const FilmJob& job, const FilmPorts& ports)
@@ -107,9 +116,21 @@ class Conversion {
 
     void TakePacket(FilmPacket packet) {
         if (!cut_.HasBegun()) {
-            waiting_.push_back(std::move(packet));
+            Keep(std::move(packet));
         } else if (auto moved = cut_.Moved(std::move(packet))) {
             thread_->Put(std::move(*moved));
+        }
+    }
+
+    void Keep(FilmPacket packet) {
+        if (cut_.IsLost(packet)) {
+            return;
+        }
+        waitingBytes_ += BytesOf(packet);
+        if (waitingBytes_ > mostBeforePicture) {
+            Fail(TooMuchBeforePicture(mostBeforePicture));
+        } else {
+            waiting_.push_back(std::move(packet));
         }
     }
 
@@ -221,6 +242,7 @@ class Conversion {
     FrameRemap remap_;
     FilmOutcome outcome_;
     std::vector<FilmPacket> waiting_;  // before the first frame
+    std::uint64_t waitingBytes_ = 0;
     std::optional<std::int64_t> last_;
     double at_ = 0.0;  // of the frame at hand
     bool over_ = false;

@@ -18,6 +18,10 @@ double SecondsOf(std::int64_t time, const TimeBase& base) {
     return static_cast<double>(time) * base.num / base.den;
 }
 
+std::int64_t TimeOf(const FilmPacket& packet) {
+    return packet.pts == noTime ? packet.dts : packet.pts;
+}
+
 }  // namespace
 
 FilmCut::FilmCut(const FilmInfo& film, const std::optional<FilmCourse>& course)
@@ -63,9 +67,19 @@ std::int64_t FilmCut::ShiftIn(const TimeBase& base) const {
     return static_cast<std::int64_t>(std::llroundl(exact));
 }
 
+bool FilmCut::IsLost(const FilmPacket& packet) const {
+    const StreamInfo* const info = Find(packet.stream);
+    if (info == nullptr || !isPart_) {
+        return info == nullptr;
+    }
+    const std::int64_t time = TimeOf(packet);
+    return time == noTime ||
+           ((info->disposition & attachedPicture) == 0 && IsBefore(Seconds(packet.stream, time)));
+}
+
 std::optional<FilmPacket> FilmCut::Moved(FilmPacket packet) const {
     const StreamInfo* const info = Find(packet.stream);
-    const std::int64_t time = packet.pts == noTime ? packet.dts : packet.pts;
+    const std::int64_t time = TimeOf(packet);
     if (info == nullptr || time == noTime || !isPart_) {
         return isPart_ || info == nullptr ? std::nullopt : std::optional(std::move(packet));
     }

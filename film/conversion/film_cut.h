@@ -33,6 +33,8 @@ class FilmCut {
     void Begin(std::int64_t pts);
     bool HasBegun() const { return begun_; }
     std::int64_t Moved(std::int64_t pts) const { return pts - shift_; }
+    // Whether it is not of the part wherever that begins.
+    bool IsLost(const FilmPacket& packet) const;
     // With its new times; none where it is not of the part.
     std::optional<FilmPacket> Moved(FilmPacket packet) const;
 

@@ -9,6 +9,17 @@
 
 namespace varnel {
 
+namespace {
+
+constexpr std::uint64_t mostPacketBytes = std::uint64_t{64}
+                                          << 20;  // beyond them packets wait to be put
+
+std::uint64_t LengthOf(const FilmPacket& packet) {
+    return static_cast<std::uint64_t>(packet.bytes.size()) + sizeof packet;
+}
+
+}  // namespace
+
 WritingThread::WritingThread(FilmWriter& writer, const FrameFormat& format) : writer_(writer) {
     for (int n = 0; n < slots; ++n) {
         frames_[static_cast<std::size_t>(n)] = FrameBuffer(format);
@@ -45,7 +56,9 @@ void WritingThread::Put(std::int64_t pts, std::int64_t duration) {
 
 void WritingThread::Put(FilmPacket packet) {
     {
-        const std::lock_guard lock(mutex_);
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [this] { return packetBytes_ < mostPacketBytes; });
+        packetBytes_ += LengthOf(packet);
         items_.emplace_back(std::move(packet));
     }
     changed_.notify_all();
@@ -92,6 +105,8 @@ void WritingThread::Work() {
         busy_ = false;
         if (const auto* const timed = std::get_if<Timed>(&item)) {
             free_.push_back(timed->slot);
+        } else {
+            packetBytes_ -= LengthOf(std::get<FilmPacket>(item));
         }
         changed_.notify_all();
     }

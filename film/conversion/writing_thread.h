@@ -32,6 +32,7 @@ class WritingThread {
     FrameBuffer& Slot();
     // The slot that was given last, with its times.
     void Put(std::int64_t pts, std::int64_t duration);
+    // Waits while too much is on its way.
     void Put(FilmPacket packet);
     // What went wrong so far; nothing is written any more then.
     Reason Error();
@@ -55,6 +56,7 @@ class WritingThread {
     std::condition_variable changed_;
     std::deque<Item> items_;
     std::deque<int> free_;
+    std::uint64_t packetBytes_ = 0;  // on their way
     int given_ = 0;
     bool busy_ = false;
     bool ends_ = false;

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "decoder/request/picture_limits.h"
+#include "film/reading/film_reader.h"
 
 namespace varnel {
 
@@ -198,6 +199,12 @@ bool IsWhole(const QDataStream& in) {
 }
 
 }  // namespace
+
+Reason TooMuchBeforePicture(std::uint64_t bytes) {
+    return {ReasonCode::Damaged,
+            QStringLiteral("more than %1 MB of sound and other data come before the film's picture")
+                .arg(bytes >> 20)};
+}
 
 bool IsConsistentOpened(const FilmAnswer& answer) {
     constexpr std::uint64_t longest = std::uint64_t{1} << 40;

@@ -29,6 +29,11 @@ class FilmFrame {
 
 inline constexpr int framesAhead = 6;
 
+// More bytes of packets before a picture than this end a film: whoever writes it has to keep them
+// until that picture tells what is written.
+inline constexpr std::uint64_t mostBeforePicture = std::uint64_t{256} << 20;
+Reason TooMuchBeforePicture(std::uint64_t bytes);
+
 // Part of the picture stream could not be decoded; what was decoded last is handed out again in
 // its place, by a frame that follows.
 struct FilmFault {

@@ -84,15 +84,15 @@ QString ReasonFor(GearLack lack, const QString& camera, const QString& lens) {
         case GearLack::None:
             break;
         case GearLack::Origin:
-            return Texts::tr("the photo does not tell what took it");
+            return Texts::tr("the file does not tell what took it");
         case GearLack::KnownCamera:
             return Texts::tr("the camera %1 is not in the catalogue").arg(camera);
         case GearLack::KnownLens:
             return Texts::tr("the lens %1 is not in the catalogue").arg(lens);
         case GearLack::DefiniteLens:
-            return Texts::tr("the photo does not tell well enough which lens took it");
+            return Texts::tr("the file does not tell well enough which lens took it");
         case GearLack::OneGear:
-            return Texts::tr("the photo does not tell which gear of its camera took it");
+            return Texts::tr("the file does not tell which gear of its camera took it");
         case GearLack::DefinedGear:
             return Texts::tr("no gear has this camera and this lens");
     }

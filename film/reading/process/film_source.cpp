@@ -16,7 +16,7 @@ namespace varnel {
 namespace {
 
 constexpr int mostReadErrors = 100;      // one after the other
-constexpr std::uint64_t memoryPart = 4;  // of the machine's, that frames here may take
+constexpr std::uint64_t memoryPart = 4;  // of the machine's, that frames or packets may take here
 constexpr double cutShort = 1.0;         // seconds that are missing at least
 constexpr int cutPictures = 10;          // likewise
 
@@ -91,6 +91,9 @@ std::optional<FilmOutput> FilmSource::Next() {
     }
     FilmOutput output = std::move(outputs_.front());
     outputs_.pop_front();
+    if (outputs_.empty()) {
+        waitingBytes_ = 0;
+    }
     return output;
 }
 
@@ -139,7 +142,17 @@ void FilmSource::TakePacket(const AVPacket& packet) {
     } else if (request_.packets &&
                static_cast<std::size_t>(packet.stream_index) < film_.streams.size() &&
                static_cast<std::uint64_t>(packet.size) < longestPayload / 2) {
-        outputs_.push_back(OutputOf(FilmAnswerKind::Packet, Pack(PacketOf(packet))));
+        AddPacket(packet);
+    }
+}
+
+void FilmSource::AddPacket(const AVPacket& packet) {
+    outputs_.push_back(OutputOf(FilmAnswerKind::Packet, Pack(PacketOf(packet))));
+    waitingBytes_ +=
+        sizeof(FilmOutput) + static_cast<std::uint64_t>(outputs_.back().payload.size());
+    const std::uint64_t most = std::min(mostBeforePicture, request_.memory / memoryPart);
+    if (waitingBytes_ > most) {
+        AddEnd(TooMuchBeforePicture(most));
     }
 }
 
@@ -283,6 +296,7 @@ FilmOutput FilmSource::Seek(double seconds) {
 // none from there on.
 bool FilmSource::SeekKey(std::int64_t time, std::int64_t wanted) {
     outputs_.clear();
+    waitingBytes_ = 0;
     shown_ = {};
     drained_ = false;
     ended_ = false;
@@ -306,7 +320,7 @@ bool FilmSource::SeekKey(std::int64_t time, std::int64_t wanted) {
             TakePacket(*packet_);
         }
         av_packet_unref(packet_.get());
-        if (isKey) {
+        if (isKey || ended_) {
             return true;
         }
     }

@@ -44,6 +44,7 @@ class FilmSource {
     void Advance();
     void ReadPacket();
     void TakePacket(const AVPacket& packet);
+    void AddPacket(const AVPacket& packet);
     void HandOut(const DecodedFrame& frame);
     Reason Prepare(AVFrame& picture, const FrameFormat& format, std::int64_t pts);
     Reason Draw(AVFrame& picture, std::int64_t pts);
@@ -66,6 +67,7 @@ class FilmSource {
     SlotLayout layout_;
     PacketHandle packet_;
     std::deque<FilmOutput> outputs_;
+    std::uint64_t waitingBytes_ = 0;       // of packets among the outputs
     SlotHold shown_;                       // with the last good frame
     std::int64_t firstPts_ = 0;            // of the film's first frame
     double farthest_ = 0.0;                // seconds, where the last packets end

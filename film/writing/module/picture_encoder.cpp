@@ -85,16 +85,16 @@ Reason PictureEncoder::SetChoices(const FilmEncoding& encoding) {
         const QString crf = QString::number(*encoding.crf);
         if (*encoding.crf < 0 || *encoding.crf > row_->mostCrf) {
             return NoSuchValue(*row_, QStringLiteral("crf"), crf,
-                               row_->mostCrf < 0 ? QStringLiteral("-")
+                               row_->mostCrf < 0 ? QStringLiteral("none")
                                                  : QStringLiteral("0 to %1").arg(row_->mostCrf));
         }
         av_opt_set(codec_.get(), "crf", crf.toLatin1().constData(), AV_OPT_SEARCH_CHILDREN);
     }
     if (!encoding.speed.isEmpty()) {
         if (row_->speed == nullptr || !TakesSpeed(*row_, encoding.speed)) {
-            return NoSuchValue(
-                *row_, QStringLiteral("speed"), encoding.speed,
-                row_->speed == nullptr ? QStringLiteral("-") : QString::fromLatin1(row_->speeds));
+            return NoSuchValue(*row_, QStringLiteral("speed"), encoding.speed,
+                               row_->speed == nullptr ? QStringLiteral("none")
+                                                      : QString::fromLatin1(row_->speeds));
         }
         av_opt_set(codec_.get(), row_->speed, encoding.speed.toLatin1().constData(),
                    AV_OPT_SEARCH_CHILDREN);

@@ -163,6 +163,53 @@ TEST_F(FilmConversion, UprightFramesHaveNoTurnLeft) {
     EXPECT_EQ(Probe(target, "stream=width,height"), "64,128");
 }
 
+// Sound without end, and no picture.
+class SoundOnly : public FilmReader {
+  public:
+    SoundOnly() {
+        info_.streams.resize(2);
+        info_.streams[1].index = 1;
+        info_.streams[0].timeBase = info_.streams[1].timeBase = {1, 25};
+        info_.picture = 0;
+        info_.format.size = {64, 48};
+    }
+    Reason Open(const QString& /*path*/, const FilmReadChoices& /*choices*/) override { return {}; }
+    const FilmInfo& Info() const override { return info_; }
+    FilmItem Next() override {
+        if (++packets > 1000) {
+            return FilmEnd{};
+        }
+        FilmPacket packet;
+        packet.stream = 1;
+        packet.pts = packets;
+        packet.bytes = megabyte_;  // shared
+        return packet;
+    }
+    Reason Seek(double /*seconds*/) override { return {}; }
+
+    int packets = 0;
+
+  private:
+    FilmInfo info_;
+    QByteArray megabyte_ = QByteArray(1 << 20, 'a');
+};
+
+TEST_F(FilmConversion, SoundWithoutEndBeforeThePictureIsNotKept) {
+    SoundOnly reader;
+    ImageRecord image = Fisheye({64, 48});
+    const FilmOutcome whole =
+        ConvertFilm(reader, {folder_.Path("a.mp4"), image, {}}, {runner_, nullptr, {}});
+    EXPECT_EQ(whole.error, TooMuchBeforePicture(mostBeforePicture));
+    EXPECT_EQ(reader.packets, 256);
+    // What is before a part is nothing to be kept.
+    reader.packets = 0;
+    image.Film = FilmCourse{};
+    image.Film->in = 1000.0;
+    const FilmOutcome part =
+        ConvertFilm(reader, {folder_.Path("a.mp4"), image, {}}, {runner_, nullptr, {}});
+    EXPECT_TRUE(part.error.Is(ReasonCode::NothingBetweenTimes));
+}
+
 TEST_F(FilmConversion, StoppedOrBadFilmsLeaveNothing) {
     const QString film = folder_.Make("film.mp4", "-f lavfi -i testsrc2=s=64x48:r=25:d=2");
     testing::WriteFile(folder_.Path("old.mp4"), "older");

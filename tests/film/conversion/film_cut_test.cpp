@@ -48,6 +48,8 @@ TEST(FilmCut, StreamsOfAPartMoveBySameTime) {
     FilmCut cut(film, course);
     EXPECT_TRUE(cut.IsBefore(cut.Seconds(0, 29)));
     EXPECT_FALSE(cut.IsBefore(cut.Seconds(0, 30)));
+    EXPECT_TRUE(cut.IsLost(Packet(1, 47999)) && cut.IsLost(Packet(1, noTime)));
+    EXPECT_FALSE(cut.IsLost(Packet(1, 48000)) || cut.IsLost(Packet(2, 0)));
     cut.Begin(30);  // 1.001 seconds
     EXPECT_EQ(cut.Moved(30), 0);
     EXPECT_FALSE(cut.Moved(Packet(1, 48000)));

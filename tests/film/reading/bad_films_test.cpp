@@ -54,6 +54,17 @@ TEST(BadFilms, AreRefusedWithWhatIsWrong) {
     EXPECT_EQ(WhyNot(folder.Path("head.mp4")), "damaged: the file is cut short");
 }
 
+TEST(BadFilms, ThatHoldTooMuchBeforeTheirPictureAreNotKeptInMemory) {
+    const FilmFolder folder;
+    const QString path = folder.Make("late.mkv",
+                                     "-f lavfi -i sine=d=31 -itsoffset 30 -f lavfi -i "
+                                     "testsrc2=s=64x48:d=1 -c:a pcm_s16le -ac 2 -c:v libx264");
+    EXPECT_EQ(WhyNot(path), "");
+    ProcessFilmReader reader({.memory = 16 << 20});
+    EXPECT_EQ(ErrorText(ReadWhole(reader, path).error).toStdString(),
+              "damaged: more than 4 MB of sound and other data come before the film's picture");
+}
+
 TEST(BadFilms, ThatAreCutShortEndEarlyAndSaySo) {
     const FilmFolder folder;
     for (const auto& [name, words] :

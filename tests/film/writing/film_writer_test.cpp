@@ -229,10 +229,19 @@ struct BadWish {
 TEST(FilmWriter, SaysWhatDoesNotGoAndLeavesNoFile) {
     const FrameFormat plain = Format(C420, 8);
     const BadWish wishes[] = {
-        {"crf", mp4, FilmCodec::H264, plain, 99, u"", "film.mp4", "no crf \"99\", but 0 to 51"},
-        {"no crf", mkv, FilmCodec::Ffv1, plain, 5, u"", "film.mkv", "ffv1 takes no crf"},
-        {"speed", mp4, FilmCodec::H265, plain, {}, u"hasty", "film.mp4", "but ultrafast"},
-        {"number", mp4, FilmCodec::Vp9, plain, {}, u"fast", "film.mp4", "but 0 to 8"},
+        {"crf", mp4, FilmCodec::H264, plain, 99, u"", "film.mp4",
+         "no crf \"99\"; it takes: 0 to 51"},
+        {"no crf", mkv, FilmCodec::Ffv1, plain, 5, u"", "film.mkv", "no crf \"5\"; it takes: none"},
+        {"no speed",
+         mkv,
+         FilmCodec::Ffv1,
+         plain,
+         {},
+         u"fast",
+         "film.mkv",
+         "no speed \"fast\"; it takes: none"},
+        {"speed", mp4, FilmCodec::H265, plain, {}, u"hasty", "film.mp4", "it takes: ultrafast"},
+        {"number", mp4, FilmCodec::Vp9, plain, {}, u"fast", "film.mp4", "it takes: 0 to 8"},
         {"container",
          mp4,
          FilmCodec::ProRes,

@@ -53,6 +53,18 @@ struct SpanTarget {
     void Put(std::ptrdiff_t n, const PixelLevels& levels) const {
         PutLevels(At(n), levels, format, only);
     }
+    // The pixels begin to end - 1, if there are any.
+    void Blacken(std::ptrdiff_t begin, std::ptrdiff_t end) const {
+        const std::ptrdiff_t step = PixelStep(format);
+        if (only || (stride != step && stride != -step)) {
+            for (std::ptrdiff_t n = begin; n < end; ++n) {
+                Put(n, noLight);
+            }
+        } else if (begin < end) {
+            std::memset(stride > 0 ? At(begin) : At(end - 1), 0,
+                        static_cast<std::size_t>((end - begin) * step));
+        }
+    }
 };
 
 // The picture that runs are written into, of the source's format.

@@ -78,9 +78,7 @@ HWY_NOINLINE void StoreOtherwise(const NodeSpan& span, int first, int end) {
 
 HWY_NOINLINE void StoreBlack(const NodeSpan& span, int first, int end) {
     for (const SpanImage& image : span.images) {
-        for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
-            image.target.Put(n, noLight);
-        }
+        image.target.Blacken(std::max(first, image.begin), std::min(end, image.end));
     }
 }
 
@@ -106,16 +104,17 @@ HWY_NOINLINE void StoreOddLanes(const NodeSpan& span, const SpanImage& image, co
     hn::Store(x.part, Floats(), at.partX.data());
     hn::Store(y.part, Floats(), at.partY.data());
     const bool outside = AllOutside(x.whole, y.whole, span.source);
+    if (outside && !span.nearest) {
+        image.target.Blacken(std::max(first, image.begin), std::min(first + lanes, image.end));
+        return;
+    }
     for (int n = std::max(first, image.begin); n < std::min(first + lanes, image.end); ++n) {
         const auto lane = static_cast<std::size_t>(n - first);
-        PixelLevels colour = noLight;
-        if (span.nearest) {
-            colour = NearestColour(span, image, at, lane, n);
-        } else if (!outside) {
-            colour = BlendBilinear(span.source, at.x[lane] + static_cast<double>(at.partX[lane]),
-                                   at.y[lane] + static_cast<double>(at.partY[lane]));
-        }
-        image.target.Put(n, colour);
+        image.target.Put(
+            n, span.nearest
+                   ? NearestColour(span, image, at, lane, n)
+                   : BlendBilinear(span.source, at.x[lane] + static_cast<double>(at.partX[lane]),
+                                   at.y[lane] + static_cast<double>(at.partY[lane])));
     }
 }
 

@@ -21,10 +21,8 @@ void AddComment(FITAG* tag, BitmapMetadata& metadata) {
     }
 }
 
-void (*listener)(const QString&) = nullptr;
-
 void PassOn(FREE_IMAGE_FORMAT /*format*/, const char* message) {
-    listener(QString::fromLocal8Bit(message));
+    AddLibraryMessage(QString::fromLocal8Bit(message));
 }
 
 }  // namespace
@@ -107,8 +105,7 @@ BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size) {
     return result;
 }
 
-void SendLibraryMessagesTo(void (*function)(const QString& message)) {
-    listener = function;
+ImageLibraryMessages::ImageLibraryMessages() {
     FreeImage_SetOutputMessage(&PassOn);
 }
 

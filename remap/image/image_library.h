@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "remap/image/bitmap.h"
+#include "remap/image/library_messages.h"
 
 namespace varnel {
 
@@ -14,8 +15,12 @@ namespace varnel {
 // metadata.
 BitmapHandle RescaledByBox(const Bitmap& bitmap, PixelSize size);
 
-// From now on the function gets, in the thread that works, each message of the library's.
-void SendLibraryMessagesTo(void (*function)(const QString& message));
+// Those of the library and of libtiff, which it reads with. From the first one on neither prints
+// anything on stderr any more.
+class ImageLibraryMessages : public TiffMessages {
+  public:
+    ImageLibraryMessages();
+};
 
 // By the keyword, texts of a PNG file in which programs keep EXIF and the like: these are read
 // elsewhere and are no comments.

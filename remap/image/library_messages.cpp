@@ -3,14 +3,7 @@
 
 #include "remap/image/library_messages.h"
 
-#include <tiffio.h>
-
-#include <array>
 #include <cassert>
-#include <cstdarg>
-#include <cstdio>
-
-#include "remap/image/image_library.h"
 
 namespace varnel {
 
@@ -23,20 +16,11 @@ QStringList*& Collector() {
     return collector;
 }
 
-void KeepFromTiff(const char* /*module*/, const char* format, va_list arguments) {
-    std::array<char, 512> text{};
-    std::vsnprintf(text.data(), text.size(), format, arguments);
-    AddLibraryMessage(QString::fromLocal8Bit(text.data()));
-}
-
 }  // namespace
 
 LibraryMessages::LibraryMessages() {
     assert(Collector() == nullptr);
     Collector() = &lines_;
-    SendLibraryMessagesTo(&AddLibraryMessage);
-    TIFFSetErrorHandler(&KeepFromTiff);
-    TIFFSetWarningHandler(nullptr);
 }
 
 LibraryMessages::~LibraryMessages() {

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The messages that the image libraries give while they work on one file. Without this libtiff
-// alone would print dozens of lines on stderr for ordinary photographs. Throws nothing.
+// The messages that the libraries give while they work on one file. Throws nothing.
 #pragma once
 
 #include <QString>
@@ -12,8 +11,9 @@
 
 namespace varnel {
 
-// Collects the messages of this thread's library calls while it lives. Only one may live in a
-// thread at a time. From the first one on nothing is printed on stderr any more.
+// Collects what is handed to AddLibraryMessage in this thread while it lives. Only one may live in
+// a thread at a time. The image library's own are with ImageLibraryMessages
+// (remap/image/image_library.h).
 class LibraryMessages {
   public:
     LibraryMessages();
@@ -27,6 +27,13 @@ class LibraryMessages {
 
   private:
     QStringList lines_;
+};
+
+// Those of libtiff, too; it alone would print dozens of lines on stderr for ordinary photographs.
+// From the first one on it prints nothing there any more.
+class TiffMessages : public LibraryMessages {
+  public:
+    TiffMessages();
 };
 
 // Hands a message to the collector of this thread, if there is one, as a library would.

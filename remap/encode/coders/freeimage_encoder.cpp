@@ -13,7 +13,7 @@
 
 #include "remap/encode/coders/memory_file.h"
 #include "remap/image/freeimage_bitmap.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 
 namespace varnel {
 
@@ -48,7 +48,7 @@ bool CutByLibrary(const QStringList& messages) {
 
 // The reason why the file is not whole; empty when it is.
 Reason Encode(FREE_IMAGE_FORMAT format, FIBITMAP* bitmap, int flags, MemoryFile& file) {
-    const LibraryMessages messages;
+    const ImageLibraryMessages messages;
     FreeImageIO access{ReadItems, WriteItems, SeekTo, TellPosition};
     const bool done = FreeImage_SaveToHandle(format, bitmap, &access, &file, flags) == TRUE;
     if (!file.Error().isEmpty()) {

@@ -126,7 +126,7 @@ bool EncodeStrips(TiffFile& file, const Picture& picture, const EncodeOptions& o
 
 EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options) {
-    const LibraryMessages messages;
+    const TiffMessages messages;
     const WrittenMetadata metadata = MetadataForTiff(*bitmap);
     const Picture picture(bitmap,
                           CompressionFor(encoding.compression, SampleKindOf(bitmap->Format())),

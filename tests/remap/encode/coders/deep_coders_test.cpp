@@ -11,7 +11,7 @@
 #include "remap/encode/encode_bitmap.h"
 #include "remap/encode/linear_light.h"
 #include "remap/encode/sample_depth.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 #include "remap/image/pixel_access.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/deep_bitmaps.h"
@@ -47,7 +47,7 @@ void ExpectSamples(FIBITMAP* read, const Bitmap& bitmap) {
 }
 
 void ExpectHolds(FREE_IMAGE_FORMAT type, QByteArray file, const Bitmap& bitmap) {
-    const LibraryMessages unheard;
+    const ImageLibraryMessages unheard;
     FIMEMORY* const memory =
         FreeImage_OpenMemory(reinterpret_cast<BYTE*>(file.data()), static_cast<DWORD>(file.size()));
     const LibraryBitmap read(FreeImage_LoadFromMemory(type, memory, 0));

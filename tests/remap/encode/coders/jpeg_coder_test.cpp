@@ -12,7 +12,7 @@
 
 #include "base/thread_runner.h"
 #include "remap/encode/coders/freeimage_encoder.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seeds/jpeg_files.h"
@@ -47,7 +47,7 @@ void ExpectLikeTheLibrarys(const Bitmap* bitmap, const OutputEncoding& encoding)
     const QByteArray expected = ByLibrary(bitmap, encoding);
     EXPECT_EQ(Segments(file), Segments(expected));
     EXPECT_LE(file.size(), expected.size() * 101 / 100);
-    const LibraryMessages messages;  // one comes for a marker that is not where it should be
+    const ImageLibraryMessages messages;  // one comes for a marker that is not where it should be
     const BitmapHandle picture = FromFile(FIF_JPEG, file, JPEG_ACCURATE);
     ASSERT_TRUE(picture);
     EXPECT_TRUE(

@@ -14,7 +14,7 @@
 #include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/encode/coders/lzw_coder.h"
 #include "remap/image/ifd_reader.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/runners.h"
 #include "tests/support/seeds/file_bytes.h"
@@ -76,7 +76,7 @@ Bytes Noise(std::size_t length, unsigned levels, unsigned run, unsigned seed) {
 }
 
 TEST(LzwEncoder, WritesWhatAnotherDecoderReads) {
-    const LibraryMessages messages;
+    const ImageLibraryMessages messages;
     std::vector<std::size_t> lengths = {2000, 3834, 3835, 3836, 3837,
                                         3838, 7671, 7672, 7673, 70000};
     for (std::size_t length = 1; length < 300; length += length < 20 ? 1 : 7) {
@@ -168,7 +168,7 @@ void ExpectLikeTheLibrarys(const Bitmap* bitmap) {
     const QByteArray expected = LibraryFile(FIF_TIFF, bitmap, TIFF_LZW).bytes;
     EXPECT_LE(file.size(), expected.size() * 103 / 100);
     EXPECT_EQ(Tags(file), Tags(expected));
-    const LibraryMessages unheard;
+    const ImageLibraryMessages unheard;
     const BitmapHandle picture = testing::FromFile(FIF_TIFF, file);
     ASSERT_TRUE(picture);
     EXPECT_EQ(SizeOf(picture.get()).width, SizeOf(bitmap).width);
@@ -240,7 +240,7 @@ TEST(EncodeTiff, TakesThePhotosEntriesAsTheyAre) {
         const QByteArray fraction = reader.Bytes(*directory.Find(282), 8);
         EXPECT_EQ(fraction, testing::Number(600, 4, order) + testing::Number(2, 4, order));
         EXPECT_EQ(directory.Find(0x7d7d), nullptr);
-        const LibraryMessages unheard;
+        const ImageLibraryMessages unheard;
         EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_TIFF, file).get(), photo.get()));
     }
 }

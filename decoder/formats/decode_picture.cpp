@@ -11,14 +11,14 @@
 #include "decoder/formats/bmp_picture.h"
 #include "decoder/formats/cmyk.h"
 #include "decoder/formats/header_size.h"
-#include "decoder/formats/jpeg_frame.h"
-#include "decoder/formats/jpeg_pixels.h"
 #include "decoder/formats/library_reader.h"
 #include "decoder/formats/orientation.h"
 #include "decoder/formats/picture_file.h"
+#include "decoder/formats/profiles/rgb_profile.h"
 #include "decoder/formats/readers/camera_preview.h"
 #include "decoder/formats/readers/hidden_tags.h"
 #include "decoder/formats/readers/modern_formats.h"
+#include "decoder/formats/readers/ordinary_jpeg.h"
 #include "decoder/formats/readers/picture_forms.h"
 #include "decoder/formats/readers/raw_reader.h"
 #include "decoder/formats/readers/stated_header.h"
@@ -26,7 +26,7 @@
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
 #include "decoder/request/picture_limits.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 
 namespace varnel {
 
@@ -253,25 +253,6 @@ class Decoding {
         return picture;
     }
 
-    // Past the library, which takes half as long again; empty where it has to do it.
-    BitmapHandle DirectJpeg() {
-        if (format_ != InputFormat::Jpeg || !stated_ || request_.kind != ReadKind::Whole) {
-            return nullptr;
-        }
-        const PixelSize size = Pixels(*stated_);
-        BitmapHandle bitmap = Room(Turned(size, turn_));
-        std::optional<BitmapMetadata> metadata;
-        if (bitmap) {
-            metadata = ReadJpegPixels(file_.File(), size, RowsOf(*bitmap), turn_);
-        }
-        if (!metadata) {
-            return nullptr;
-        }
-        bitmap->metadata = TurnedMetadata(std::move(*metadata), turn_);
-        turn_ = 1;
-        return bitmap;
-    }
-
     LoadedPicture ByDirectReader() {
         if (const Reason error = Error(*stated_, statedFormat_); !error.isEmpty()) {
             return LoadedPicture::Refused(error);
@@ -297,9 +278,6 @@ class Decoding {
     LoadedPicture Whole() {
         if (direct_) {
             return ByDirectReader();
-        }
-        if (BitmapHandle bitmap = DirectJpeg()) {
-            return Judged(std::move(bitmap));
         }
         const std::optional<BmpHeader> bmp =
             format_ == InputFormat::Bmp ? ReadBmpHeader(file_) : std::nullopt;
@@ -379,8 +357,12 @@ class Decoding {
 
 LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
                             const RowsFor& rowsFor) {
-    const LibraryMessages messages;
+    const ImageLibraryMessages messages;
     try {
+        // The library takes half as long again.
+        if (auto jpeg = DecodeOrdinaryJpeg(file, request, memory, rowsFor, messages)) {
+            return std::move(*jpeg);
+        }
         return Decoding(file, request, memory, rowsFor, messages).Answer();
     } catch (const std::bad_alloc&) {
         return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);

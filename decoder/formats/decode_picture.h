@@ -5,26 +5,15 @@
 // this belongs into a process of its own.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <functional>
-#include <memory>
 
+#include "decoder/formats/picture_file.h"
+#include "decoder/formats/rows_for.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
 
 namespace varnel {
-
-struct FileCloser {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-// The only owner of an open file; closes it.
-using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
-
-// Memory for the rows of a picture of this size, bottom row first, as far apart as in a bitmap of
-// 24 bits; null when there is none.
-using RowsFor = std::function<std::byte*(PixelSize size, PixelFormat format)>;
 
 // Reads the photo from an open regular file (position anywhere; the request's path is not looked
 // at). The type is taken from the contents, the size is looked up before any pixel is read and

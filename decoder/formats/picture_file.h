@@ -8,9 +8,16 @@
 #include <QByteArray>
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <vector>
 
 namespace varnel {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+// The only owner of an open file; closes it.
+using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
 
 class PictureFile {
   public:

@@ -4,8 +4,6 @@
 // Bringing decoded pictures of any depth to 24 bits, or to a format that has their own depth.
 #pragma once
 
-#include <QByteArrayView>
-
 #include "decoder/formats/library_reader.h"
 
 namespace varnel {
@@ -16,8 +14,5 @@ BitmapHandle To24Bits(LibraryPicture picture, BitmapMetadata metadata);
 
 // Likewise in the picture's own format, where floating-point colours keep their profile, too.
 BitmapHandle InOwnFormat(LibraryPicture picture, BitmapMetadata metadata);
-
-// Whether an ICC profile is sound and describes red, green and blue. Throws nothing.
-bool IsProfileForRgb(QByteArrayView profile);
 
 }  // namespace varnel

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <array>
 
-#include "decoder/formats/bmp_picture.h"
 #include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/readers/bmp_header.h"
 #include "decoder/formats/tiff_structure.h"
 
 namespace varnel {

@@ -11,11 +11,9 @@
 #include <string>
 
 #include "decoder/formats/jpeg_frame.h"
-#include "decoder/formats/library_reader.h"
 #include "decoder/formats/picture_file.h"
+#include "decoder/formats/profiles/rgb_profile.h"
 #include "decoder/formats/readers/file_bytes.h"
-#include "decoder/formats/readers/modern_formats.h"
-#include "decoder/formats/true_colour.h"
 #include "decoder/metadata/exif_block.h"
 #include "decoder/metadata/xmp_packet.h"
 
@@ -84,8 +82,8 @@ Reason Unreadable(QStringView kind) {
 
 class Reading {
   public:
-    Reading(std::FILE* file, const MetadataRequest& request)
-        : file_(file), bytes_(file), request_(request) {}
+    Reading(const MetadataSource& source, const MetadataRequest& request)
+        : source_(source), file_(source.file), bytes_(source.file), request_(request) {}
 
     FileMetadata Answer() {
         Try(ReasonCode::MetadataUnreadable, [this] { Read(); });
@@ -119,7 +117,7 @@ class Reading {
 
     void Read() {
         if (Format() == InputFormat::Heif) {
-            TakeBlocks(HeifBlocks(PictureFile(file_)));
+            TakeBlocks(source_.heifBlocks(PictureFile(file_)));
             return;
         }
         if (bytes_.Bytes() == nullptr ||
@@ -195,7 +193,7 @@ class Reading {
         return told == exif_.end() || told->count() == 0 || told->toLong() == 1 ||
                told->toLong() == request_.orientation || ComesUpright(Format());
     }
-    InputFormat Format() const { return LibraryReader(PictureFile(file_)).Format(); }
+    InputFormat Format() const { return source_.format; }
 
     ExifWishes Wishes(bool upright) const {
         constexpr double metresPerInch = 0.0254;
@@ -232,6 +230,7 @@ class Reading {
         }
     }
 
+    const MetadataSource source_;
     std::FILE* file_;
     bool upright_ = true;
     FileBytes bytes_;
@@ -268,10 +267,10 @@ MetadataRequest WantedFor(const LoadedPicture& picture) {
     return wanted;
 }
 
-FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request) {
+FileMetadata ReadMetadata(const MetadataSource& source, const MetadataRequest& request) {
     try {
         PrepareMetadata();
-        return Reading(file, request).Answer();
+        return Reading(source, request).Answer();
     } catch (const std::exception&) {  // no memory
         return UnreadMetadata();
     }

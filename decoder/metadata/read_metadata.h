@@ -8,6 +8,8 @@
 #include <cstdio>
 
 #include "base/pixel_size.h"
+#include "decoder/formats/input_format.h"
+#include "decoder/formats/readers/modern_formats.h"
 #include "decoder/request/file_metadata.h"
 #include "decoder/request/loaded_picture.h"
 
@@ -25,8 +27,18 @@ struct MetadataRequest {
 // For a picture as it was loaded.
 MetadataRequest WantedFor(const LoadedPicture& picture);
 
-// Reads the open file (position anywhere). What is broken is left out and named in the notes; never
-// throws.
+// An open file (position anywhere) whose type is known.
+struct MetadataSource {
+    std::FILE* file = nullptr;
+    InputFormat format = InputFormat::Other;
+    // What stands in a Heif file; not called for other types.
+    MetadataBlocks (*heifBlocks)(const PictureFile& file) = nullptr;
+};
+
+// What is broken is left out and named in the notes; never throws.
+FileMetadata ReadMetadata(const MetadataSource& source, const MetadataRequest& request);
+
+// The same of a file of any type. In a source of its own, as it takes all libraries of pictures.
 FileMetadata ReadMetadata(std::FILE* file, const MetadataRequest& request);
 
 // Has the library open now what it would open later. To be called before a process gives up its

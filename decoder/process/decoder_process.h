@@ -30,6 +30,8 @@ class DecoderProcess {
     pid_t Id() const { return id_; }
     // Why it could not be started; empty when it was. It ends with the thread that started it.
     Reason Start();
+    // Another program from the next start on.
+    void SetProgram(const QString& program) { program_ = program; }
     // The request with the descriptors of the photo and the memory file, which stay the caller's.
     // False when the process is gone, or has not taken many messages before. Never waits.
     bool Send(const DecoderRequest& request, int photo, int memory) {

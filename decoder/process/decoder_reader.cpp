@@ -3,7 +3,10 @@
 
 #include "decoder/process/decoder_reader.h"
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <new>
@@ -21,13 +24,17 @@ constexpr std::uint64_t longestSpare = 2;  // times the picture
 constexpr qint64 mostSecondsForMetadata = 5;
 
 ReaderOptions Completed(ReaderOptions options) {
-    if (options.program.isEmpty()) {
-        options.program = DecoderProgram(QStringLiteral("varnel-decoder"));
-    }
     if (options.memory == 0) {
         options.memory = MachineMemory();
     }
     return options;
+}
+
+// Which decoder is asked goes by no more than these bytes: what reads on in the file is confined.
+bool StartsAsJpeg(const Descriptor& photo) {
+    std::array<char, 2> start{};
+    return pread(photo.Get(), start.data(), start.size(), 0) == ssize_t{start.size()} &&
+           start == std::array{'\xFF', '\xD8'};
 }
 
 // Gives the memory file back when the bitmap that stands in it is gone.
@@ -47,7 +54,16 @@ struct PixelOwner {
 }  // namespace
 
 DecoderReader::DecoderReader(const ReaderOptions& options)
-    : options_(Completed(options)), process_(options_.program) {
+    : options_(Completed(options)),
+      onlyJpeg_(options.program.isEmpty()),
+      process_(onlyJpeg_ ? DecoderProgram(QStringLiteral("varnel-jpeg-decoder"))
+                         : options.program) {
+    Restart();
+}
+
+void DecoderReader::TakeAllTypes() {
+    onlyJpeg_ = false;
+    process_.SetProgram(DecoderProgram(QStringLiteral("varnel-decoder")));
     Restart();
 }
 
@@ -82,6 +98,9 @@ void DecoderReader::Begin(const ReadRequest& request) {
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     first_.reset();
+    if (onlyJpeg_ && (request.kind == ReadKind::Small || !StartsAsJpeg(photo_))) {
+        TakeAllTypes();
+    }
     Ask();
 }
 
@@ -124,6 +143,11 @@ bool DecoderReader::Wait(int milliseconds) {
 // The pixels come first, so that they are safe whatever the metadata do to the decoder.
 void DecoderReader::Heard(const DecoderAnswer& answer) {
     const bool isSecond = first_.has_value();
+    if (answer.outcome == leftToOther && onlyJpeg_ && !isSecond) {
+        TakeAllTypes();
+        Ask();
+        return;
+    }
     if (answer.outcome == triedForbidden) {
         isSecond ? FinishWithoutMetadata()
                  : FinishRefused({ReasonCode::DecoderTriedForbiddenCall, answer.number});

@@ -30,6 +30,7 @@ class DecoderReader : public PictureReader {
   private:
     void Ask();
     void Restart();
+    void TakeAllTypes();
     void Finish(LoadedPicture picture);
     void FinishRefused(const Reason& reason) { Finish(LoadedPicture::Refused(reason)); }
     void Died();
@@ -41,6 +42,9 @@ class DecoderReader : public PictureReader {
     void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
 
     ReaderOptions options_;
+    // The decoder at work reads ordinary JPEG photos alone. With the first other photo one that
+    // reads all types takes its place for good, so that a mixed folder does not start one for each.
+    bool onlyJpeg_;
     DecoderProcess process_;
     Reason startError_;
     std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();

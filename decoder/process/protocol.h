@@ -36,6 +36,9 @@ inline constexpr std::size_t longestReason = 2000;  // bytes
 // and is dead. A decoder that sends this is not asked again.
 inline constexpr std::uint32_t triedForbidden = 0xF0;
 
+// In place of an outcome: the photo is none of those that this decoder reads.
+inline constexpr std::uint32_t leftToOther = 0xF1;
+
 // The memory file holds the rows, bottom row first, then what else belongs to the picture.
 struct DecoderAnswer {
     std::uint32_t number = 0;

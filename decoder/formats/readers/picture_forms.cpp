@@ -26,17 +26,6 @@ PixelSize Within(PixelSize picture, PixelSize box) {
 
 }  // namespace
 
-PixelRows RowsOf(Bitmap& bitmap) {
-    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
-}
-
-BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
-    if (SwapsSides(orientation)) {
-        std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
-    }
-    return metadata;
-}
-
 void TurnInto(Bitmap& turned, Bitmap bitmap, int orientation) {
     TurnRows(bitmap.Size(), {0, bitmap.Size().height}, RowsOf(bitmap), orientation, RowsOf(turned));
     turned.metadata = TurnedMetadata(std::move(bitmap.metadata), orientation);

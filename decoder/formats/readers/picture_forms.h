@@ -4,15 +4,24 @@
 // Pictures brought to other forms: turned, of fewer bits, reduced. Throws std::bad_alloc.
 #pragma once
 
+#include <utility>
+
 #include "remap/image/bitmap.h"
 #include "remap/image/exif_orientation.h"
 
 namespace varnel {
 
-PixelRows RowsOf(Bitmap& bitmap);
+inline PixelRows RowsOf(Bitmap& bitmap) {
+    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
+}
 
 // The metadata of a picture for the same turned by the orientation.
-BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation);
+inline BitmapMetadata TurnedMetadata(BitmapMetadata metadata, int orientation) {
+    if (SwapsSides(orientation)) {
+        std::swap(metadata.dotsPerMetreX, metadata.dotsPerMetreY);
+    }
+    return metadata;
+}
 
 // The bitmap's pixels and metadata, turned by the orientation, into one that has their size and
 // format by then.

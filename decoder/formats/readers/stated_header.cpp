@@ -3,8 +3,8 @@
 
 #include "decoder/formats/readers/stated_header.h"
 
-#include "decoder/formats/bmp_picture.h"
 #include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/readers/bmp_header.h"
 
 namespace varnel {
 

@@ -11,11 +11,12 @@
 #include <vector>
 
 #include "decoder/formats/jpeg_frame.h"
+#include "decoder/formats/profiles/rgb_profile.h"
 #include "decoder/formats/true_colour.h"
 #include "decoder/formats/truncation.h"
 #include "remap/encode/coders/freeimage_encoder.h"
 #include "remap/encode/coders/jpeg_coder.h"
-#include "remap/image/library_messages.h"
+#include "remap/image/image_library.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/jpeg_files.h"
 #include "tests/support/seeds/mutate.h"
@@ -44,7 +45,7 @@ File Opened(QByteArray& bytes) {
 std::optional<Photo> ByLibrary(QByteArray bytes) {
     const File file = Opened(bytes);
     const PictureFile picture(file.get());
-    const LibraryMessages said;
+    const ImageLibraryMessages said;
     LibraryPicture loaded = LibraryReader(picture).Whole();
     if (!loaded.Exists()) {
         return std::nullopt;
@@ -63,7 +64,7 @@ std::optional<Photo> Directly(QByteArray bytes) {
         size->height > 2000) {
         return std::nullopt;
     }
-    const LibraryMessages said;
+    const ImageLibraryMessages said;
     Photo photo{NewBitmap(*size), {}, {}};
     std::optional<BitmapMetadata> metadata = ReadJpegPixels(
         file.get(), *size, {photo.bitmap->SharedPixels().get(), photo.bitmap->Pitch()});

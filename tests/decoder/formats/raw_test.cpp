@@ -8,7 +8,7 @@
 
 #include "base/error_text.h"
 #include "decoder/formats/profiles/raw_profile.h"
-#include "decoder/formats/true_colour.h"
+#include "decoder/formats/profiles/rgb_profile.h"
 #include "tests/decoder/formats/decoding.h"
 #include "tests/support/bitmaps.h"
 #include "tests/support/seeds/file_bytes.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "decoder/formats/true_colour.h"
+#include "decoder/formats/profiles/rgb_profile.h"
 
 #include <gtest/gtest.h>
 

@@ -231,12 +231,70 @@ TEST(DecoderReader, OneProcessNamesManyLenses) {
     EXPECT_EQ(reader.ProcessId(), first);
 }
 
-TEST(DecoderReader, HasNoRightsNoSecretsAndLimitsThatStay) {
+QString ProgramOf(const DecoderReader& reader) {
+    return QFileInfo(QFile::symLinkTarget(Text("/proc/%1/exe").arg(reader.ProcessId()))).fileName();
+}
+
+TEST(DecoderReader, OrdinaryJpegsHaveADecoderOfTheirOwnUntilTheFirstOtherPhoto) {
+    const PictureFolder folder;
+    const QString jpeg = folder.Path(Text("photo"));
+    testing::WriteFile(jpeg, testing::Seed("jpeg/described"));
+    // To the last byte that is looked at a JPEG as any other.
+    QByteArray arithmetic = testing::Seed("jpeg/444");
+    arithmetic[arithmetic.indexOf("\xFF\xC0") + 1] = '\xC9';
+    const struct {
+        const char* name;
+        QByteArray file;
+        ReadRequest request;
+        const char* program;
+    } rows[] = {
+        {"whole", testing::Seed("jpeg/progressive"), {}, "varnel-jpeg-decoder"},
+        {"size",
+         testing::Seed("jpeg/grey"),
+         {.path = {}, .kind = ReadKind::Size},
+         "varnel-jpeg-decoder"},
+        {"facts",
+         testing::Seed("jpeg/444"),
+         {.path = {}, .kind = ReadKind::Facts},
+         "varnel-jpeg-decoder"},
+        {"small",
+         testing::Seed("jpeg/444"),
+         {.path = {}, .kind = ReadKind::Small, .box = {9, 9}},
+         "varnel-decoder"},
+        {"arithmetic", arithmetic, {}, "varnel-decoder"},
+        {"another type", testing::Seed("png/colour2-8"), {}, "varnel-decoder"},
+        {"no photo", "GIF", {}, "varnel-decoder"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ReadRequest request = row.request;
+        request.path = folder.Path(Text(row.name));
+        testing::WriteFile(request.path, row.file);
+        DecoderReader reader({});
+        EXPECT_EQ(ReadPicture(reader, {jpeg}).outcome, LoadOutcome::Loaded);
+        EXPECT_EQ(ProgramOf(reader), Text("varnel-jpeg-decoder"));
+        const LoadedPicture first = ReadPicture(reader, request);
+        EXPECT_EQ(ProgramOf(reader), Text(row.program));
+        EXPECT_EQ(ReadPicture(reader, {jpeg}).outcome, LoadOutcome::Loaded);
+        EXPECT_EQ(ProgramOf(reader), Text(row.program)) << "for good";
+        const LoadedPicture again = ReadPicture(reader, request);
+        EXPECT_EQ(first.reason, again.reason);
+        EXPECT_EQ(first.size.width, again.size.width);
+    }
+}
+
+class DecoderWalls : public ::testing::TestWithParam<OutputType> {};
+
+INSTANTIATE_TEST_SUITE_P(EachDecoder, DecoderWalls,
+                         ::testing::Values(OutputType::Jpeg, OutputType::Png));
+
+TEST_P(DecoderWalls, ThereAreNoRightsNoSecretsAndLimitsThatStay) {
     const PictureFolder folder;
     qputenv("VARNEL_SECRET", "a password");
     DecoderReader reader({});
+    const QString photo = folder.Picture(Text("a"), GetParam());
+    ASSERT_TRUE(ReadPicture(reader, {photo}).bitmap);
     qunsetenv("VARNEL_SECRET");
-    ASSERT_TRUE(ReadPicture(reader, {folder.Picture(Text("a"), OutputType::Png)}).bitmap);
     EXPECT_TRUE(ProcessStatus(reader.ProcessId()).contains("NoNewPrivs:\t1"));
     const auto has = [&](const char* limit) {
         return QString::fromUtf8(testing::Contents(Text("/proc/%1/limits").arg(reader.ProcessId())))

@@ -88,10 +88,4 @@ SampleKind SamplesWithin(int bitsPerSample, SampleKind wanted) {
     return SampleKind::Byte;
 }
 
-TiffCompression CompressionFor(TiffCompression choice, SampleKind samples) {
-    return choice != TiffCompression::Usual ? choice
-           : samples == SampleKind::Byte    ? TiffCompression::Lzw
-                                            : TiffCompression::Deflate;
-}
-
 }  // namespace varnel

@@ -17,7 +17,8 @@ namespace varnel {
 // Own: as deep as the photo. Each as far as the file type goes.
 enum class OutputDepth : std::uint8_t { Own, Eight, Sixteen, Float };
 
-// Usual: LZW for 8 bits, and deflate for deeper samples, which LZW makes larger than they are.
+// Usual: LZW for 8 bits; deflate where a level is asked for, which LZW does not have, and for
+// deeper samples, which LZW makes larger than they are.
 enum class TiffCompression : std::uint8_t { Usual, Lzw, Deflate, Zstd, None };
 
 // "auto", "8", "16" or "float".
@@ -39,7 +40,5 @@ QString DepthText(SampleKind samples);
 SampleKind SamplesFor(OutputDepth depth, SampleKind own);
 // The deepest of those that have at most so many bits.
 SampleKind SamplesWithin(int bitsPerSample, SampleKind wanted);
-// What Usual stands for.
-TiffCompression CompressionFor(TiffCompression choice, SampleKind samples);
 
 }  // namespace varnel

@@ -48,7 +48,7 @@ double DeepBytesPerPixel(TiffCompression compression, SampleKind samples) {
 }
 
 double TiffBytesPerPixel(const OutputEncoding& encoding, SampleKind samples) {
-    const TiffCompression compression = CompressionFor(encoding.compression, samples);
+    const TiffCompression compression = CompressionFor(encoding, samples);
     return compression == TiffCompression::None ? PlainBytesPerPixel(samples)
            : samples == SampleKind::Byte        ? 2.3
                                                 : DeepBytesPerPixel(compression, samples);

@@ -21,6 +21,15 @@ std::optional<OutputType> FirstOf(const Holds& holds) {
 
 }  // namespace
 
+TiffCompression CompressionFor(const OutputEncoding& encoding, SampleKind samples) {
+    if (encoding.compression != TiffCompression::Usual) {
+        return encoding.compression;
+    }
+    return samples == SampleKind::Byte && encoding.level == OutputEncoding::usualLevel
+               ? TiffCompression::Lzw
+               : TiffCompression::Deflate;
+}
+
 QString ToText(OutputType type) {
     return QString::fromUtf16(FormatOf(type).key);
 }

@@ -27,8 +27,11 @@ struct OutputEncoding {
     bool chroma444 = false;      // colour at full resolution
     OutputDepth depth = OutputDepth::Own;
     TiffCompression compression = TiffCompression::Usual;  // of TIFF files
+    int level = usualLevel;  // of what compresses without loss: 1, fast, to 9, small
 
     static constexpr int usualQuality = 75;
+    static constexpr int usualLevel = 0;  // what is fast and hardly larger
+    static constexpr int mostLevel = 9;
 
     OutputEncoding() = default;
     // On purpose not explicit: most types need no more than that.
@@ -36,6 +39,9 @@ struct OutputEncoding {
         : type(its), quality(itsQuality), chroma444(fullColour) {}
     bool operator==(const OutputEncoding&) const = default;
 };
+
+// What the compression of TIFF files with such samples is: not Usual.
+TiffCompression CompressionFor(const OutputEncoding& encoding, SampleKind samples);
 
 // "TIFF", "JPEG", "BMP" or "PNG": the setting "FileType".
 QString ToText(OutputType type);

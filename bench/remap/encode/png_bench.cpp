@@ -50,10 +50,13 @@ void Library(benchmark::State& state, const Bitmap* photo, double* megabytes) {
     state.counters["MB"] = *megabytes;
 }
 
+// Threads, and a level, 0 for the usual way.
 void Ours(benchmark::State& state, const Bitmap* photo, const double* libraryMegabytes) {
     ThreadRunner runner(static_cast<int>(state.range(0)));
+    OutputEncoding encoding(OutputType::Png);
+    encoding.level = static_cast<int>(state.range(1));
     for (auto _ : state) {
-        const EncodedBitmap file = EncodePng(photo, OutputType::Png, {.runner = &runner});
+        const EncodedBitmap file = EncodePng(photo, encoding, {.runner = &runner});
         state.counters["MB"] = MegabytesOf(file.bytes);
         state.counters["grown"] = MegabytesOf(file.bytes) / *libraryMegabytes;
     }
@@ -67,14 +70,15 @@ struct Photo {
 
 void Measure(Photo& photo) {
     const auto set = [](benchmark::internal::Benchmark* timing) {
-        return timing->Unit(benchmark::kMillisecond)->UseRealTime();
+        return timing->Unit(benchmark::kMillisecond)->UseRealTime()->MeasureProcessCPUTime();
     };
     set(benchmark::RegisterBenchmark((photo.name + "/library").c_str(), Library, photo.bitmap.get(),
                                      &photo.libraryMegabytes));
-    set(benchmark::RegisterBenchmark((photo.name + "/ours/threads").c_str(), Ours,
-                                     photo.bitmap.get(), &photo.libraryMegabytes))
-        ->Arg(1)
-        ->Arg(2);
+    set(benchmark::RegisterBenchmark((photo.name + "/ours").c_str(), Ours, photo.bitmap.get(),
+                                     &photo.libraryMegabytes))
+        ->ArgNames({"threads", "level"})
+        ->ArgsProduct({{1, 2}, {OutputEncoding::usualLevel}})
+        ->ArgsProduct({{2}, benchmark::CreateDenseRange(1, OutputEncoding::mostLevel, 1)});
 }
 
 }  // namespace
@@ -84,8 +88,10 @@ int main(int count, char** words) {
     benchmark::Initialize(&count, words);
     std::vector<varnel::Photo> photos;
     for (int n = 1; n < count; ++n) {
-        photos.push_back({words[n], varnel::TakeOver(varnel::LibraryBitmap(FreeImage_Load(
-                                        FreeImage_GetFileType(words[n]), words[n])))});
+        const varnel::LibraryBitmap photo(
+            FreeImage_Load(FreeImage_GetFileType(words[n]), words[n]));
+        photos.push_back({words[n], varnel::TakeOver(varnel::LibraryBitmap(
+                                        FreeImage_ConvertTo24Bits(photo.get())))});
         if (!photos.back().bitmap) {
             std::fprintf(stderr, "%s: not loaded\n", words[n]);
             return 1;

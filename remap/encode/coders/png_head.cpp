@@ -3,8 +3,8 @@
 
 #include "remap/encode/coders/png_head.h"
 
+#include <libdeflate.h>
 #include <png.h>
-#include <zlib.h>
 
 #include <QtEndian>
 #include <cstring>
@@ -146,9 +146,9 @@ PngHead PngHeadFor(const Bitmap& bitmap, const WrittenMetadata& metadata) {
 void SealPngChunk(char* chunk, qsizetype dataLength, const char* type) {
     qToBigEndian<quint32>(static_cast<quint32>(dataLength), chunk);
     std::memcpy(chunk + 4, type, 4);
-    const auto* const summed = reinterpret_cast<const Bytef*>(chunk + 4);
-    const uLong sum = crc32(crc32(0, nullptr, 0), summed, static_cast<uInt>(4 + dataLength));
-    qToBigEndian<quint32>(static_cast<quint32>(sum), chunk + pngChunkStart + dataLength);
+    const std::uint32_t sum =
+        libdeflate_crc32(0, chunk + 4, 4 + static_cast<std::size_t>(dataLength));
+    qToBigEndian<quint32>(sum, chunk + pngChunkStart + dataLength);
 }
 
 }  // namespace varnel

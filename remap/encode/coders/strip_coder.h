@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How the strips of a TIFF file are compressed. Constructors throw std::bad_alloc, the rest
+// How the strips of a TIFF file are compressed. Throws std::bad_alloc, Room and destructors
 // nothing.
 #pragma once
 
@@ -23,7 +23,8 @@ class StripCoder {
     virtual void Encode(LzwStrip& first, LzwStrip& second) = 0;
 };
 
-// compression: not Usual.
-std::unique_ptr<StripCoder> NewStripCoder(TiffCompression compression);
+// compression: not Usual. level: 0 the usual one, else 1 (fast) to 9 (small); LZW and none have
+// none.
+std::unique_ptr<StripCoder> NewStripCoder(TiffCompression compression, int level);
 
 }  // namespace varnel

@@ -29,25 +29,31 @@ constexpr std::size_t stripsPerBlock = 4;
 // The strips of so many bytes of pixels are held beside the file that they are then appended to.
 constexpr std::size_t bytesAtOnce = 16 * 1024 * 1024;
 
+TiffLayout LayoutFor(const OutputEncoding& encoding, SampleKind samples) {
+    const TiffCompression compression = CompressionFor(encoding, samples);
+    return {.compression = compression,
+            .predictor =
+                compression == TiffCompression::None ? TiffPredictor::None : PredictorFor(samples)};
+}
+
 // The pixels of a bitmap as TIFF has them: from the top row down.
 struct Picture {
     const Bitmap* bitmap;
     TiffLayout layout;
+    int level;
     bool bigEndian;
     std::size_t width;
     std::size_t height;
 
-    Picture(const Bitmap* source, TiffCompression compression, bool highFirst)
+    Picture(const Bitmap* source, const OutputEncoding& encoding, bool highFirst)
         : bitmap(source),
-          layout{.compression = compression,
-                 .predictor = compression == TiffCompression::None
-                                  ? TiffPredictor::None
-                                  : PredictorFor(SampleKindOf(source->Format()))},
+          layout(LayoutFor(encoding, SampleKindOf(source->Format()))),
+          level(encoding.level),
           bigEndian(highFirst),
           width(static_cast<std::size_t>(source->Size().width)),
           height(static_cast<std::size_t>(source->Size().height)) {
         const std::size_t stripBytes =
-            compression == TiffCompression::Lzw ? lzwStripBytes : otherStripBytes;
+            layout.compression == TiffCompression::Lzw ? lzwStripBytes : otherStripBytes;
         layout.rowsPerStrip =
             static_cast<std::uint32_t>(std::clamp<std::size_t>(stripBytes / RowBytes(), 1, height));
     }
@@ -79,7 +85,8 @@ struct Block {
 
 void EncodeBlock(const Picture& picture, std::size_t firstStrip, Block& block) {
     const std::size_t largest = picture.StripBytes();
-    const std::unique_ptr<StripCoder> coder = NewStripCoder(picture.layout.compression);
+    const std::unique_ptr<StripCoder> coder =
+        NewStripCoder(picture.layout.compression, picture.level);
     const std::size_t room = coder->Room(largest);
     if (!block.memory) {
         block.memory = std::make_unique_for_overwrite<std::uint8_t[]>(stripsPerBlock * room);
@@ -128,9 +135,7 @@ EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options) {
     const TiffMessages messages;
     const WrittenMetadata metadata = MetadataForTiff(*bitmap);
-    const Picture picture(bitmap,
-                          CompressionFor(encoding.compression, SampleKindOf(bitmap->Format())),
-                          metadata.exif.startsWith('M'));
+    const Picture picture(bitmap, encoding, metadata.exif.startsWith('M'));
     TiffFile file(metadata, static_cast<qint64>(picture.height * picture.RowBytes()),
                   options.largest);
     if (!file.Describe(*bitmap, picture.layout) || !EncodeStrips(file, picture, options) ||

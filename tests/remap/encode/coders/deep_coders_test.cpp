@@ -5,6 +5,7 @@
 // and less deep.
 
 #include <gtest/gtest.h>
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -89,6 +90,42 @@ TEST(DeepTiff, ComesBackValueForValue) {
             }
         }
     }
+}
+
+// A level asks for deflate where nothing else is said, also of 8 bits.
+TEST(DeepTiff, HigherLevelsMakeSmallerFilesOfTheSameValues) {
+    using enum TiffCompression;
+    SerialRunner runner;
+    const BitmapHandle slopes = testing::Painted({200, 103}, [](int x, int y) {
+        return PixelColor{static_cast<BYTE>(x * y / 9), static_cast<BYTE>(x % 7 * y), 90, 0};
+    });
+    const BitmapHandle bitmaps[] = {InSamples(*slopes, SampleKind::Word, runner),
+                                    Deep({200, 103}, PixelFormat::Bgr16),
+                                    Deep({200, 103}, PixelFormat::BgraFloat)};
+    for (const BitmapHandle& bitmap : bitmaps) {
+        for (const TiffCompression compression : {Usual, Deflate, Zstd}) {
+            OutputEncoding encoding(OutputType::Tiff);
+            encoding.compression = compression;
+            std::vector<qsizetype> sizes;
+            for (encoding.level = 1; encoding.level <= OutputEncoding::mostLevel;
+                 ++encoding.level) {
+                SCOPED_TRACE(Named("TIFF", bitmap->Format(), compression) +
+                             std::to_string(encoding.level));
+                const QByteArray file = EncodeBitmap(encoding, bitmap.get()).bytes;
+                ExpectHolds(FIF_TIFF, file, *bitmap);
+                sizes.push_back(file.size());
+                EXPECT_LE(file.size(), sizes.front());
+            }
+            const bool isNoise = bitmap != bitmaps[0];
+            EXPECT_LE(sizes.back(), sizes.front() * (isNoise ? 100 : 95) / 100);
+        }
+    }
+    OutputEncoding encoding(OutputType::Tiff);
+    EXPECT_EQ(CompressionFor(encoding, SampleKind::Byte), Lzw);
+    encoding.level = 1;
+    EXPECT_EQ(CompressionFor(encoding, SampleKind::Byte), Deflate);
+    encoding.compression = Lzw;
+    EXPECT_EQ(CompressionFor(encoding, SampleKind::Byte), Lzw);
 }
 
 // The file has the order of the EXIF block that it begins with.

@@ -133,6 +133,39 @@ TEST(EncodePng, GrowsTheFileByLessThanATenth) {
     }
 }
 
+TEST(EncodePng, HigherLevelsMakeSmallerFilesOfTheSamePixels) {
+    const BitmapHandle bitmap = Mixture({700, 420});
+    OutputEncoding encoding(OutputType::Png);
+    const QByteArray usual = EncodePng(bitmap.get(), encoding, {}).bytes;
+    qsizetype before = 0;
+    for (const int level : {1, 2, 5, 9}) {
+        SCOPED_TRACE(level);
+        encoding.level = level;
+        testing::ShuffledRunner shuffled(3);
+        const QByteArray file = EncodePng(bitmap.get(), encoding, {.runner = &shuffled}).bytes;
+        EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, file).get(), bitmap.get()));
+        EXPECT_TRUE(PartsOf(file).sound);
+        if (level == 1) {
+            EXPECT_GE(file.size(), usual.size());
+        } else {
+            EXPECT_LT(file.size(), before);
+        }
+        before = file.size();
+    }
+    EXPECT_LT(before, usual.size());
+}
+
+// Rows so long that filters are chosen by a part of them: each half asks for another filter, and so
+// do rows that differ between the samples only.
+TEST(EncodePng, WritesLongRowsWhicheverFilterTheyGet) {
+    const BitmapHandle bitmap = testing::Painted({5003, 9}, [](int x, int y) {
+        const auto slope = static_cast<BYTE>((x < 2500 ? x : y) * 3);
+        return PixelColor{slope, static_cast<BYTE>(x * y), static_cast<BYTE>(x % 512 < 130), 0};
+    });
+    const QByteArray file = EncodePng(bitmap.get(), OutputType::Png, {}).bytes;
+    EXPECT_TRUE(testing::SamePixels(testing::FromFile(FIF_PNG, file).get(), bitmap.get()));
+}
+
 TEST(EncodePng, SaysWhatLibpngRefuses) {
     const BitmapHandle wide = NewBitmap({1'000'001, 1});
     const EncodedBitmap file = EncodePng(wide.get(), OutputType::Png, {});

@@ -258,6 +258,7 @@ OutputEncoding EncodingFor(const ConvertRequest& request) {
     encoding.chroma444 = options.chroma444.value_or(encoding.chroma444);
     encoding.depth = options.depth.value_or(encoding.depth);
     encoding.compression = options.compression.value_or(encoding.compression);
+    encoding.level = options.level.value_or(encoding.level);
     return encoding;
 }
 

@@ -102,6 +102,17 @@ void CheckStills(const Options& options) {
     }
 }
 
+// Kinds of TIFF that have no levels.
+void CheckCompression(const Options& options) {
+    const auto kind = options.compression.value_or(TiffCompression::Usual);
+    if (options.level && (kind == TiffCompression::Lzw || kind == TiffCompression::None)) {
+        throw UsageError{
+            QStringLiteral("--compression does not go with --tiff %1; leave one of them out, or "
+                           "give --tiff deflate or zstd")
+                .arg(ToText(kind))};
+    }
+}
+
 }  // namespace
 
 void CheckFilm(const Options& options) {
@@ -123,6 +134,7 @@ void CheckCommand(const Options& options) {
     CheckMeasuring(options);
     CheckExporting(options);
     CheckStitching(options);
+    CheckCompression(options);
 }
 
 }  // namespace varnel

@@ -148,6 +148,8 @@ constexpr std::array outputRows{
     OptionRow{u"tiff", u"C",
               u"Compression of TIFF: lzw, deflate, zstd, none or auto: lzw for 8 bits, else "
               u"deflate."},
+    OptionRow{u"compression", u"N",
+              u"Of PNG and of TIFF by deflate or zstd: 1 (fast) to 9 (small); default: fast."},
     OptionRow{u"preview", u"WxH", u"The preview of that size instead of the full picture."},
     OptionRow{u"antialiased", nullptr, u"Interpolate the preview."},
     OptionRow{u"no-metadata", nullptr, u"Leave the photo's EXIF, IPTC and XMP out."},

@@ -187,6 +187,18 @@ void TakeRaw(const QCommandLineParser& parser, Options& options) {
     options.raw.isQuick = parser.isSet(QStringLiteral("raw-quick"));
 }
 
+void TakeEncoding(const QCommandLineParser& parser, Options& options) {
+    TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
+        return WholeBetween(QStringLiteral("quality"), text, 1, 100);
+    });
+    TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
+    TakeIfSet(parser, u"depth", options.depth, &DepthOf);
+    TakeIfSet(parser, u"tiff", options.compression, &CompressionOf);
+    TakeIfSet(parser, u"compression", options.level, [](const QString& text) {
+        return WholeBetween(QStringLiteral("compression"), text, 1, OutputEncoding::mostLevel);
+    });
+}
+
 Options Take(const QCommandLineParser& parser) {
     Options options;
     options.command = CommandOf(parser);
@@ -228,12 +240,7 @@ Options Take(const QCommandLineParser& parser) {
     TakeIfSet(parser, u"name", options.namePattern, &PatternOf);
     TakeTypes(parser.values(QStringLiteral("type")), options);
     TakeFilm(parser, options.film);
-    TakeIfSet(parser, u"quality", options.quality, [](const QString& text) {
-        return WholeBetween(QStringLiteral("quality"), text, 1, 100);
-    });
-    TakeIfSet(parser, u"chroma", options.chroma444, &IsChroma444);
-    TakeIfSet(parser, u"depth", options.depth, &DepthOf);
-    TakeIfSet(parser, u"tiff", options.compression, &CompressionOf);
+    TakeEncoding(parser, options);
     TakeRaw(parser, options);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
     options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));

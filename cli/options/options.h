@@ -94,6 +94,7 @@ struct Options {
     std::optional<bool> chroma444;
     std::optional<OutputDepth> depth;
     std::optional<TiffCompression> compression;  // of TIFF files
+    std::optional<int> level;                    // of compression, 1 to 9
     RawJpeg rawJpeg = RawJpeg::Both;             // of photos that are there as raw file and as JPEG
     RawDevelopment raw;
     QSet<QString> paired;  // files whose results keep the ending for that

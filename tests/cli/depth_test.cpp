@@ -75,7 +75,9 @@ TEST_F(Depth, EachChoiceIsInTheFileAndInItsLine) {
                 {"--depth=16 --tiff=lzw", "16", 5, 2},
                 {"--depth=16 --tiff=zstd", "16", 50000, 2},
                 {"--depth=float --tiff=none", "float", 1, 0},
-                {"--tiff=deflate", "8", 8, 2}};
+                {"--tiff=deflate", "8", 8, 2},
+                {"--compression=9", "8", 8, 2},
+                {"--tiff=zstd --compression=1", "8", 50000, 2}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.options);
         const QString result = files_.Path(Q("result.tif"));
@@ -188,10 +190,15 @@ TEST_F(Depth, UnknownWordsAreRefused) {
         const char *option, *said;
     } rows[] = {{"--depth=12", "--depth needs auto, 8, 16 or float, not \"12\""},
                 {"--tiff=zip", "--tiff needs auto, lzw, deflate, zstd or none, not \"zip\""},
+                {"--compression=0", "--compression needs a whole number from 1 to 9, not \"0\""},
+                {"--compression=10", "from 1 to 9, not \"10\""},
+                {"--compression=best", "from 1 to 9, not \"best\""},
+                {"--compression=9 --tiff=lzw", "--compression does not go with --tiff lzw"},
+                {"--compression=9 --tiff=none", "--compression does not go with --tiff none"},
                 {"--raw-jpeg=dng", "--raw-jpeg needs raw, jpeg or both, not \"dng\""},
                 {"--raw-profile=p3", "--raw-profile needs srgb, adobe-rgb or rec2020"}};
     for (const auto& row : rows) {
-        EXPECT_EQ(Run({Q(row.option), Q("a")}), exitUsage);
+        EXPECT_EQ(Run(Q(row.option).split(u' ') + QStringList{Q("a")}), exitUsage);
         EXPECT_NE(err_.str().find(row.said), std::string::npos) << err_.str();
     }
 }

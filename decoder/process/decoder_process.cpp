@@ -10,11 +10,11 @@
 #include <sys/wait.h>
 
 #include <QFile>
-#include <QFileInfo>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 
+#include "base/program_file.h"
 #include "decoder/process/decoder_socket.h"
 
 // POSIX leaves its declaration to the programs.
@@ -66,9 +66,7 @@ class SpawnActions {
 }  // namespace
 
 QString DecoderProgram(const QString& name) {
-    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
-    const QString beside = folder + u'/' + name;
-    return QFileInfo::exists(beside) ? beside : folder + QStringLiteral("/../lib/varnel/") + name;
+    return ProgramFile(name);
 }
 
 Reason DecoderProcess::Start() {

@@ -3,12 +3,11 @@
 
 #include "film/writing/film_writer.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QLibrary>
 #include <utility>
 
 #include "base/error_text.h"
+#include "base/program_file.h"
 #include "files/file_operations.h"
 #include "files/part_file.h"
 #include "film/writing/film_muxer.h"
@@ -19,11 +18,7 @@ namespace {
 
 // It stays loaded to the program's end: the codecs' libraries do not unload cleanly.
 std::pair<OpenFilmMuxer, Reason> LoadModule() {
-    const QString folder = QFileInfo(QFile::symLinkTarget(QStringLiteral("/proc/self/exe"))).path();
-    const QString beside = folder + QStringLiteral("/varnel-film-writer.so");
-    QLibrary module(QFileInfo::exists(beside)
-                        ? beside
-                        : folder + QStringLiteral("/../lib/varnel/varnel-film-writer.so"));
+    QLibrary module(ProgramFile(QStringLiteral("varnel-film-writer.so")));
     const auto open = reinterpret_cast<OpenFilmMuxer>(module.resolve(openFilmMuxer));
     if (open == nullptr) {
         return {nullptr,

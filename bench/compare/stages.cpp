@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <ctime>
 
+#include "bench/compare/fisheye_record.h"
 #include "decoder/formats/decode_picture.h"
 #include "decoder/request/picture_limits.h"
 #include "remap/encode/encode_bitmap.h"
@@ -29,19 +30,6 @@ double Now() {
     timespec time{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
-}
-
-// What the command line of bench/compare/tools.sh gives varnel-convert.
-ImageRecord FisheyeRecord() {
-    ImageRecord record;
-    record.Landscape = true;
-    record.SensorWidth = 36.0F;
-    record.SensorHeight = 24.0F;
-    record.LensMapScale = 30.0F;
-    record.LensMapFactor = 0.5F;
-    record.OutputAOV = 90.0F;
-    record.EffectRectilinear = 100.0F;
-    return record;
 }
 
 bool Convert(const char* name, Bitmaps& bitmaps, Spent& spent) {

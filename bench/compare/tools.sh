@@ -2,13 +2,14 @@
 # $work (photo.jpg and the folders ten, small and middle are in it), $bin, $quick and empty lists.
 # shellcheck shell=bash disable=SC2004,SC2034,SC2154
 
-rows=(jpeg tiff png deep ten small middle)
+rows=(jpeg tiff png deep ten one small middle)
 row_title=(
   [jpeg]="JPEG to JPEG 95, one file" [tiff]="JPEG to TIFF LZW, one file" [png]="JPEG to PNG, one file"
   [deep]="TIFF to TIFF, 16 bits deflated, one file"
   [ten]="Ten files, JPEG to JPEG 95, two cores"
+  [one]="One file of 600 x 400, from the start of the program to its end"
   [small]="Many files of 600 x 400, JPEG to JPEG 95" [middle]="Many files of 1200 x 800, JPEG to JPEG 95")
-row_pieces=([deep]=yes [small]=yes [middle]=yes)  # of these no true pictures were made
+row_pieces=([deep]=yes [one]=yes [small]=yes [middle]=yes)  # of these no true pictures were made
 
 # tool ROW NAME NEEDS FILES COMMAND...
 # NEEDS is the program without which there is no such tool, FILES how many it writes. A @@ in COMMAND
@@ -92,6 +93,10 @@ full tool ten "lensfun, 2 processes" "$bin/peer_lensfun" 10 "$bin/peer_lensfun" 
 full tool ten "ImageMagick, bilinear lookup, 2 processes" convert-im6.q16 10 \
   env -C "$work/ten" MAGICK_THREAD_LIMIT=1 xargs -a "$work/ten.txt" -P 2 -I '{}' \
   convert-im6.q16 '{}' "${barrel[@]}" '@@/{}'
+
+piece=$work/small/piece10000.jpg
+tool one Varnel "" 1 "${varnel[@]}" --type jpeg --quality 95 --output @@/piece.jpg "$piece"
+tool one "Decoding, remapping, encoding and writing alone" "" 1 "$bin/compare_one_photo" "$piece" @@/piece.jpg
 
 for size in small middle; do
   many=("$work/$size"/*.jpg)

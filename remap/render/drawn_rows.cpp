@@ -33,10 +33,9 @@ void DrawnRows::WithRows(LineRange rows, const std::function<void(const Bitmap&)
     const std::size_t pitch = RowPitch(size.width, photo_.Format());
     Memory memory = Take(pitch * static_cast<std::size_t>(rows.Count()));
     // The bitmap begins before its only memory: all that draws and reads goes by rows.
-    const auto bottom = reinterpret_cast<std::uintptr_t>(memory.data()) -
-                        pitch * static_cast<std::size_t>(rows.first);
-    const BitmapHandle band =
-        BitmapOver(reinterpret_cast<std::byte*>(bottom), size, photo_.Format());
+    std::byte* const bottom =
+        memory.data() - static_cast<std::ptrdiff_t>(pitch) * std::ptrdiff_t{rows.first};
+    const BitmapHandle band = BitmapOver(bottom, size, photo_.Format());
     band->metadata.colourProfile = photo_.metadata.colourProfile;
     SerialRunner alone;
     const RenderSurface surface(&photo_, band.get(), frames_.output, alone);

@@ -23,6 +23,7 @@ ImageRecord FreshRecord(const ImageRecord& image) {
     fresh.Height = image.Height;
     fresh.Landscape = image.Landscape;
     fresh.Orientation = image.Orientation;
+    fresh.Film = image.Film;
     return fresh;
 }
 
@@ -74,7 +75,8 @@ ImageRecord WithFrameOf(const ImageRecord& frame, ImageRecord image) {
 }  // namespace
 
 bool IsUntouched(const ImageRecord& image, const GearTable& table) {
-    return image == FreshRecord(image) || image == WithDefaultGear(table, image);
+    const bool hasKeys = image.Film && !image.Film->keys.empty();
+    return !hasKeys && (image == FreshRecord(image) || image == WithDefaultGear(table, image));
 }
 
 FrameReading GiveGearAndFrame(const GearRecord& gear, const std::optional<FoundCircle>& circle,

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // A film of 5 seconds with 10 frames in each and a key frame every second, whose frames show their
-// number as their colour. Every file called a film is one.
+// number as their colour. Every file called a film is one. And what notes how films are saved.
 #pragma once
 
 #include <QFileInfo>
@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "app/workspace/film/film_source.h"
+#include "pipeline/conversion/film_saver.h"
 #include "tests/support/bitmaps.h"
 
 namespace varnel::testing {
@@ -53,6 +54,27 @@ class FakeFilm : public FilmSource {
     int seeks = 0;
     int decoded = 0;
     int slow = 0;  // ms for each frame
+};
+
+class FakeSaver : public FilmSaver {
+  public:
+    SavedFilm Save(const ImageRecord& film, const FilmOutput& output, const QString& path,
+                   const std::function<bool(double)>& goesOn) override {
+        saved = film;
+        how = output;
+        to = path;
+        for (int part = 0; part < 100; ++part) {
+            QThread::msleep(2);
+            if (!goesOn(part / 100.0)) {
+                return {ReasonCode::Cancelled, {}};
+            }
+        }
+        return answer;
+    }
+    ImageRecord saved;
+    FilmOutput how;
+    QString to;
+    SavedFilm answer;
 };
 
 }  // namespace varnel::testing

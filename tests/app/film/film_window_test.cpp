@@ -7,6 +7,7 @@
 
 #include "app/tools/film/film_bar.h"
 #include "film/keys/film_keys.h"
+#include "state/editing/read_gear.h"
 #include "tests/app/film/fake_film.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
@@ -15,27 +16,6 @@ namespace varnel {
 namespace {
 
 using testing::TestWindow;
-
-class FakeSaver : public FilmSaver {
-  public:
-    SavedFilm Save(const ImageRecord& film, const FilmOutput& output, const QString& path,
-                   const std::function<bool(double)>& goesOn) override {
-        saved = film;
-        how = output;
-        to = path;
-        for (int part = 0; part < 100; ++part) {
-            QThread::msleep(2);
-            if (!goesOn(part / 100.0)) {
-                return {ReasonCode::Cancelled, {}};
-            }
-        }
-        return answer;
-    }
-    ImageRecord saved;
-    FilmOutput how;
-    QString to;
-    SavedFilm answer;
-};
 
 // Every film is a disc.
 class DiscReader : public PictureReader {
@@ -81,7 +61,7 @@ class FilmWindow : public ::testing::Test {
     const FilmKeys& Keys() { return Film().Film->keys; }
 
     testing::FakeFilm film;
-    FakeSaver saver;
+    testing::FakeSaver saver;
     TestWindow window{nullptr, {}, Restore::Later, {nullptr, {}, &film, &saver}};
     FilmBar* bar = nullptr;
 };
@@ -207,29 +187,46 @@ TEST_F(FilmWindow, SavesTheFilmAsTheBarSays) {
     EXPECT_TRUE(window.notices.details.last().contains(QStringLiteral("the film itself")));
 }
 
-// Not on the frame that is shown.
-TEST(FilmCircle, IsFoundOnTheFrameThatStandsForTheFilm) {
+// On the frame that stands for the film, not on the one that is shown.
+class FilmCircle : public ::testing::Test {
+  protected:
+    void Open(bool takeGear) {
+        film.size = {600, 400};
+        window.state.settings.TakeGear = takeGear;
+        window.AddPhotos({QStringLiteral("film.bmp"), QStringLiteral("photo.bmp")}, film.size);
+        window.ClickLine(0);
+        ASSERT_TRUE(testing::Settle());
+        window.Entry("CmdViewCircle")->trigger();
+    }
+
     testing::FakeFilm film;
-    film.size = {600, 400};
     int asked = 0;
     TestWindow window{nullptr,
                       {},
                       Restore::Later,
-                      {[&asked]() -> std::unique_ptr<PictureReader> {
+                      {[this]() -> std::unique_ptr<PictureReader> {
                            ++asked;
                            return std::make_unique<DiscReader>();
                        },
                        {},
                        &film,
                        nullptr}};
-    window.state.settings.TakeGear = false;
-    window.AddPhotos({QStringLiteral("film.bmp"), QStringLiteral("photo.bmp")}, {600, 400});
-    window.ClickLine(0);
+    const QString found{QStringLiteral("Centre 10.0 ‰ right, 35.0 ‰ up, diameter 50.0 %")};
+};
+
+TEST_F(FilmCircle, IsFoundWhenTheFilmIsAdded) {
+    Open(true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return IsGuessed(window.Record(1)); }, 20'000));
     ASSERT_TRUE(testing::Settle());
-    window.Entry("CmdViewCircle")->trigger();
+    EXPECT_TRUE(window.Record(1).Film);
+    EXPECT_EQ(window.Label("LabelCircle"), found);
+}
+
+TEST_F(FilmCircle, IsFoundByTheButton) {
+    Open(false);
+    EXPECT_EQ(asked, 0);
     window.Click("CmdCircleFind");
-    EXPECT_EQ(window.Label("LabelCircle"),
-              QStringLiteral("Centre 10.0 ‰ right, 35.0 ‰ up, diameter 50.0 %"));
+    EXPECT_EQ(window.Label("LabelCircle"), found);
     EXPECT_EQ(asked, 1);
     window.ClickLine(1);
     window.Click("CmdCircleFind");

@@ -98,6 +98,19 @@ TEST(ReadGear, OnlyWhatNobodyChangedIsUntouched) {
     }
 }
 
+TEST(ReadGear, AFilmStaysOneAndItsKeysAreAdjustments) {
+    GearTable table = TableOf(canon);
+    std::vector<GearRecord> newGears;
+    ImageRecord image = Added(600, 400);
+    image.Film = FilmCourse{1.0, 4.0, {}, 2.0};
+    EXPECT_TRUE(IsUntouched(image, table));
+    EXPECT_EQ(GiveReadGear({{}, circle}, table, newGears, image), ReadGear::Guess);
+    EXPECT_EQ(image.Film, (FilmCourse{1.0, 4.0, {}, 2.0}));
+    image = Added(600, 400);
+    image.Film = FilmCourse{0.0, {}, {{1.0, KeyEase::Linear, {}}}, 0.0};
+    EXPECT_FALSE(IsUntouched(image, table));
+}
+
 // The square shows 13.6 mm of the sensor's 23.5 x 15.6, which its circle tells.
 TEST(ReadGear, ACropIsSeenAsAPieceAndAsTheWhole) {
     const GearRecord gear = BuiltGear(nikon);

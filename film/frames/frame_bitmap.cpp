@@ -4,7 +4,8 @@
 #include "film/frames/frame_bitmap.h"
 
 #include <algorithm>
-#include <cstring>
+#include <array>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -56,15 +57,6 @@ Scale ScaleOf(const FrameFormat& format, bool chroma) {
                             : Scale{16.0F * step, 1.0F / (219.0F * step)};
 }
 
-float SampleOf(const FrameFormat& format, const std::byte* row, int column) {
-    if (format.bits == 8) {
-        return static_cast<float>(std::to_integer<int>(row[column]));
-    }
-    std::uint16_t sample = 0;
-    std::memcpy(&sample, row + std::ptrdiff_t{2} * column, sizeof sample);
-    return static_cast<float>(sample);
-}
-
 // Where a pixel lies between two samples of a plane, in quarters of the way.
 struct Between {
     int first, second;
@@ -77,14 +69,6 @@ Between BetweenOf(int quarters, int samples) {
             static_cast<float>(quarters & 3) / 4.0F};
 }
 
-Between ColumnOf(const FrameFormat& format, int plane, int x) {
-    const PixelSize size = PlaneSize(format, plane);
-    const bool isShared = SharingOf(format, plane).width == 2;
-    const bool isLeft = format.site == ChromaSite::Left || format.site == ChromaSite::TopLeft ||
-                        format.site == ChromaSite::BottomLeft;
-    return BetweenOf(isShared ? 2 * x - (isLeft ? 0 : 1) : 4 * x, size.width);
-}
-
 Between RowOf(const FrameFormat& format, int plane, int y) {
     const PixelSize size = PlaneSize(format, plane);
     const bool isShared = SharingOf(format, plane).height == 2;
@@ -94,37 +78,98 @@ Between RowOf(const FrameFormat& format, int plane, int y) {
     return BetweenOf(isShared ? 2 * y - below : 4 * y, size.height);
 }
 
+// The loops below are plain and each over one thing, so that the compiler makes vectors of them.
+
+template <class Sample>
+void Spread(const std::byte* row, Scale scale, std::span<float> to) {
+    const auto* const from = reinterpret_cast<const Sample*>(row);
+    for (std::size_t x = 0; x < to.size(); ++x) {
+        to[x] = scale(static_cast<float>(from[x]));
+    }
+}
+
+// Between two rows. Of samples and quarters everything is exact, in whatever order it is added up.
+template <class Sample>
+void Mix(const std::byte* upper, const std::byte* lower, float part, std::span<float> to) {
+    const auto* const above = reinterpret_cast<const Sample*>(upper);
+    const auto* const below = reinterpret_cast<const Sample*>(lower);
+    for (std::size_t x = 0; x < to.size(); ++x) {
+        to[x] = static_cast<float>(above[x]) * (1.0F - part) + static_cast<float>(below[x]) * part;
+    }
+}
+
+// Two pixels for each sample; `samples` has one more at either end.
+void Widen(std::span<const float> samples, bool isLeft, Scale scale, std::span<float> to) {
+    const float own = isLeft ? 1.0F : 0.75F;    // of the left pixel's sample
+    const float right = isLeft ? 0.5F : 0.75F;  // and of the right one's
+    const std::size_t pairs = to.size() / 2;
+    for (std::size_t n = 0; n < pairs; ++n) {
+        const float sample = samples[n + 1];
+        to[2 * n] = scale(samples[n] * (1.0F - own) + sample * own);
+        to[2 * n + 1] = scale(sample * right + samples[n + 2] * (1.0F - right));
+    }
+    if (to.size() % 2 != 0) {
+        to.back() = scale(samples[pairs] * (1.0F - own) + samples[pairs + 1] * own);
+    }
+}
+
+template <class Sample>
+void Round(std::span<const float> parts, std::span<Sample> to) {
+    constexpr auto most = static_cast<float>(std::numeric_limits<Sample>::max());
+    for (std::size_t x = 0; x < to.size(); ++x) {
+        const float above = parts[x] < 0.0F ? 0.0F : parts[x];
+        const float level = above > 1.0F ? 1.0F : above;
+        to[x] = static_cast<Sample>(static_cast<std::int32_t>(level * most + 0.5F));
+    }
+}
+
+template <class Sample>
+void Interleave(const std::array<std::span<Sample>, 3>& colours, Sample* line) {
+    const auto& [blue, green, red] = colours;
+    for (std::size_t x = 0; x < blue.size(); ++x) {
+        line[3 * x] = blue[x];
+        line[3 * x + 1] = green[x];
+        line[3 * x + 2] = red[x];
+    }
+}
+
+template <class Value>
+class Rows {
+  public:
+    explicit Rows(std::size_t width) : values_(3 * width), width_(width) {}
+    std::span<Value> operator[](std::size_t n) {
+        return std::span(values_).subspan(n * width_, width_);
+    }
+
+  private:
+    std::vector<Value> values_;
+    std::size_t width_;
+};
+
 class Converter {
   public:
     Converter(const FrameView& frame, Bitmap& bitmap)
-        : frame_(frame), bitmap_(bitmap), width_(frame.format.size.width) {
-        if (IsChromaPlane(frame.format, 1)) {
-            for (int x = 0; x < width_; ++x) {
-                columns_.push_back(ColumnOf(frame.format, 1, x));
-            }
-        }
-    }
+        : frame_(frame),
+          bitmap_(bitmap),
+          width_(static_cast<std::size_t>(frame.format.size.width)) {}
 
-    void Rows(int first, int end) const {
-        std::vector<float> parts(static_cast<std::size_t>(width_) * 3);
-        const std::span<float> all(parts);
-        const auto width = static_cast<std::size_t>(width_);
-        const std::array<std::span<float>, 3> colours{all.first(width), all.subspan(width, width),
-                                                      all.subspan(2 * width, width)};
+    template <class Sample>
+    void Convert(int first, int end) const {
+        Rows<float> parts(width_);
+        Rows<Sample> rounded(width_);
+        std::vector<float> samples;
         for (int y = first; y < end; ++y) {
-            Fill(y, colours);
-            auto* const line = bitmap_.ScanLine(frame_.format.size.height - 1 - y).data();
-            if (bitmap_.Format() == PixelFormat::Bgr8) {
-                Write<std::uint8_t>(colours, line, 255.0F);
-            } else {
-                Write<std::uint16_t>(colours, line, 65535.0F);
+            Fill(y, parts, samples);
+            for (std::size_t n = 0; n < 3; ++n) {
+                Round<Sample>(parts[n], rounded[n]);
             }
+            auto* const line = bitmap_.ScanLine(frame_.format.size.height - 1 - y).data();
+            Interleave<Sample>({rounded[0], rounded[1], rounded[2]},
+                               reinterpret_cast<Sample*>(line));
         }
     }
 
   private:
-    using Colours = std::array<std::span<float>, 3>;  // blue, green, red; parts of 1
-
     const std::byte* RowAt(int plane, int y) const {
         const ConstPlane& from = frame_.planes[static_cast<std::size_t>(plane)];
         return from.first + y * from.pitch;
@@ -132,30 +177,38 @@ class Converter {
 
     void Level(int plane, int y, std::span<float> to) const {
         const Scale scale = ScaleOf(frame_.format, false);
-        const std::byte* const row = RowAt(plane, y);
-        for (int x = 0; x < width_; ++x) {
-            to[static_cast<std::size_t>(x)] = scale(SampleOf(frame_.format, row, x));
+        if (frame_.format.bits == 8) {
+            Spread<std::uint8_t>(RowAt(plane, y), scale, to);
+        } else {
+            Spread<std::uint16_t>(RowAt(plane, y), scale, to);
         }
     }
 
-    void Chroma(int plane, int y, std::span<float> to) const {
-        const Scale scale = ScaleOf(frame_.format, true);
-        const Between rows = RowOf(frame_.format, plane, y);
-        const std::byte* const upper = RowAt(plane, rows.first);
-        const std::byte* const lower = RowAt(plane, rows.second);
-        const auto at = [&](int column) {
-            return SampleOf(frame_.format, upper, column) * (1.0F - rows.part) +
-                   SampleOf(frame_.format, lower, column) * rows.part;
-        };
-        for (int x = 0; x < width_; ++x) {
-            const Between& across = columns_[static_cast<std::size_t>(x)];
-            to[static_cast<std::size_t>(x)] =
-                scale(at(across.first) * (1.0F - across.part) + at(across.second) * across.part);
+    void Chroma(int plane, int y, std::vector<float>& samples, std::span<float> to) const {
+        const FrameFormat& format = frame_.format;
+        const Scale scale = ScaleOf(format, true);
+        const Between rows = RowOf(format, plane, y);
+        const auto count = static_cast<std::size_t>(PlaneSize(format, plane).width);
+        samples.resize(count + 2);
+        const auto inner = std::span(samples).subspan(1, count);
+        const auto mix = format.bits == 8 ? &Mix<std::uint8_t> : &Mix<std::uint16_t>;
+        mix(RowAt(plane, rows.first), RowAt(plane, rows.second), rows.part, inner);
+        if (format.chroma == ChromaLayout::C444) {
+            std::ranges::transform(inner, to.begin(), scale);
+            return;
         }
+        samples.front() = inner.front();
+        samples.back() = inner.back();
+        const bool isLeft = format.site == ChromaSite::Left || format.site == ChromaSite::TopLeft ||
+                            format.site == ChromaSite::BottomLeft;
+        Widen(samples, isLeft, scale, to);
     }
 
-    void Fill(int y, const Colours& colours) const {
-        const auto& [blue, green, red] = colours;
+    // Blue, green and red as parts of 1.
+    void Fill(int y, Rows<float>& colours, std::vector<float>& samples) const {
+        const std::span<float> blue = colours[0];
+        const std::span<float> green = colours[1];
+        const std::span<float> red = colours[2];
         if (frame_.format.chroma == ChromaLayout::Colours) {
             Level(0, y, green);
             Level(1, y, blue);
@@ -168,8 +221,8 @@ class Converter {
             std::ranges::copy(green, red.begin());
             return;
         }
-        Chroma(1, y, blue);
-        Chroma(2, y, red);
+        Chroma(1, y, samples, blue);
+        Chroma(2, y, samples, red);
         const Shares shares = SharesOf(frame_.format);
         const float toBlue = 2.0F * (1.0F - shares.blue);
         const float toRed = 2.0F * (1.0F - shares.red);
@@ -182,22 +235,9 @@ class Converter {
         }
     }
 
-    template <class Sample>
-    static void Write(const Colours& colours, std::uint8_t* line, float most) {
-        for (std::size_t x = 0; x < colours[0].size(); ++x) {
-            std::array<Sample, 3> pixel{};
-            for (std::size_t n = 0; n < 3; ++n) {
-                const float level = std::clamp(colours[n][x], 0.0F, 1.0F) * most + 0.5F;
-                pixel[n] = static_cast<Sample>(level);
-            }
-            std::memcpy(line + x * sizeof pixel, pixel.data(), sizeof pixel);
-        }
-    }
-
     const FrameView& frame_;
     Bitmap& bitmap_;
-    int width_;
-    std::vector<Between> columns_;  // of colour
+    std::size_t width_;
 };
 
 }  // namespace
@@ -210,7 +250,12 @@ BitmapHandle FrameToBitmap(const FrameView& frame, BlockRunner& runner, bool eig
     const int height = frame.format.size.height;
     runner.Run((height + rowsOfBlock - 1) / rowsOfBlock, [&](int block) {
         const int first = block * rowsOfBlock;
-        converter.Rows(first, std::min(first + rowsOfBlock, height));
+        const int end = std::min(first + rowsOfBlock, height);
+        if (isDeep) {
+            converter.Convert<std::uint16_t>(first, end);
+        } else {
+            converter.Convert<std::uint8_t>(first, end);
+        }
     });
     return bitmap;
 }

@@ -8,7 +8,7 @@ step() {
 }
 
 # The targets that need no window's libraries, and all.
-quick_targets=(settings numbers answer)
+quick_targets=(settings numbers answer film)
 all_targets=("${quick_targets[@]}" arguments)
 
 # fuzz SECONDS TARGET...: so long for each of those that build/clang has; a crash or a leak is a failure.

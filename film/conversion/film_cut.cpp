@@ -22,6 +22,12 @@ std::int64_t TimeOf(const FilmPacket& packet) {
     return packet.pts == noTime ? packet.dts : packet.pts;
 }
 
+// What is broadcast has times of a clock that nobody sees: in other containers hours of nothing
+// would stand before the first frame.
+bool CountsFromAnywhere(const FilmInfo& film) {
+    return film.container == "mpegts" || film.container == "mpeg";
+}
+
 }  // namespace
 
 FilmCut::FilmCut(const FilmInfo& film, const std::optional<FilmCourse>& course)
@@ -34,6 +40,21 @@ FilmCut::FilmCut(const FilmInfo& film, const std::optional<FilmCourse>& course)
         from_ = course->in;
         to_ = course->out.value_or(to_);
     }
+    shift_ = CountsFromAnywhere(film) ? FirstTime() : 0;
+}
+
+// Of the stream that begins first, in the pictures' time base and rounded down; 0 where it is not
+// known.
+std::int64_t FilmCut::FirstTime() const {
+    std::optional<double> first;
+    for (const StreamInfo& stream : film_.streams) {
+        if (stream.startTime != noTime) {
+            const double seconds = SecondsOf(stream.startTime, stream.timeBase);
+            first = std::min(first.value_or(seconds), seconds);
+        }
+    }
+    const double units = first.value_or(0.0) * base_.den / base_.num;
+    return std::abs(units) < 9e15 ? static_cast<std::int64_t>(std::floor(units)) : 0;
 }
 
 const StreamInfo* FilmCut::Find(int stream) const {
@@ -57,7 +78,7 @@ bool FilmCut::IsBehind(double seconds) const {
 void FilmCut::Begin(std::int64_t pts) {
     begun_ = true;
     first_ = Seconds(film_.picture, pts);
-    shift_ = isPart_ ? pts : 0;
+    shift_ = isPart_ ? pts : shift_;
 }
 
 // To the nearest unit; the streams' times stay together to half of one.
@@ -80,14 +101,14 @@ bool FilmCut::IsLost(const FilmPacket& packet) const {
 std::optional<FilmPacket> FilmCut::Moved(FilmPacket packet) const {
     const StreamInfo* const info = Find(packet.stream);
     const std::int64_t time = TimeOf(packet);
-    if (info == nullptr || time == noTime || !isPart_) {
-        return isPart_ || info == nullptr ? std::nullopt : std::optional(std::move(packet));
+    if (info == nullptr || (isPart_ && time == noTime)) {
+        return std::nullopt;
     }
     if ((info->disposition & attachedPicture) != 0) {
         return packet;
     }
     const double seconds = Seconds(packet.stream, time);
-    if (seconds < first_ - rounding || IsBehind(seconds)) {
+    if (isPart_ && (seconds < first_ - rounding || IsBehind(seconds))) {
         return std::nullopt;
     }
     const std::int64_t shift = ShiftIn(info->timeBase);

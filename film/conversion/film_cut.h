@@ -13,7 +13,8 @@
 
 namespace varnel {
 
-// A whole film keeps its times. Of a part the first frame comes at 0, and packets of other streams
+// A whole film keeps its times, but for those of a broadcast, whose first stream then begins at 0.
+// Of a part the first frame comes at 0, and packets of other streams
 // that begin with it or later, and before the part's end, move by the same time.
 class FilmCut {
   public:
@@ -43,6 +44,7 @@ class FilmCut {
 
   private:
     const StreamInfo* Find(int stream) const;
+    std::int64_t FirstTime() const;
     std::int64_t ShiftIn(const TimeBase& base) const;
 
     const FilmInfo& film_;

@@ -40,6 +40,25 @@ TEST(FilmCut, AWholeFilmKeepsItsTimes) {
     EXPECT_EQ(cut.Info().tags.size(), 2);
 }
 
+TEST(FilmCut, ABroadcastBeginsWithItsFirstStream) {
+    FilmInfo film = Film();
+    film.container = "mpegts";
+    film.streams[0].startTime = 3000;                 // 100.1 seconds
+    film.streams[1].startTime = 100 * 48000;          // before it
+    film.streams[2].startTime = 100 * 90000 + 45000;  // behind
+    FilmCut cut(film, std::nullopt);
+    cut.Begin(3000);
+    EXPECT_EQ(cut.Moved(3000), 3);
+    // 2997 frames, the last whole one before 100 seconds.
+    EXPECT_EQ(cut.Moved(Packet(1, 100 * 48000))->pts, 100 * 48000 - 2997 * 48048 / 30);
+    EXPECT_EQ(cut.Moved(Packet(1, noTime))->pts, noTime);
+    FilmCourse course;
+    course.in = 1.0;
+    FilmCut part(film, course);
+    part.Begin(3030);
+    EXPECT_EQ(part.Moved(3030), 0);
+}
+
 TEST(FilmCut, StreamsOfAPartMoveBySameTime) {
     const FilmInfo film = Film();
     FilmCourse course;

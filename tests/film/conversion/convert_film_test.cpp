@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 #include "base/error_text.h"
@@ -110,6 +111,28 @@ TEST_F(FilmConversion, KeepsTimesThatNoRateHas) {
     ASSERT_EQ(ErrorText(outcome.error), QString());
     for (const char* const entries : {"frame=pts", "stream=time_base,duration_ts,nb_frames"}) {
         EXPECT_EQ(Probe(folder_.Path("result.mp4"), entries), Probe(film, entries)) << entries;
+    }
+}
+
+// Seconds of the first packet in the order of the file.
+double FirstTime(const QString& film, const char* streams) {
+    return std::stod(Probe(film, "packet=pts_time", streams));
+}
+
+TEST_F(FilmConversion, ABroadcastBeginsAtItsFirstSoundAndStaysInStep) {
+    const QString film = folder_.Make(
+        "film.ts",
+        "-f lavfi -i testsrc2=s=64x48:r=25:d=1 -itsoffset 0.3 -f lavfi -i sine=d=1 -c:v libx264 "
+        "-c:a aac -output_ts_offset 5000");
+    const double apart = FirstTime(film, "a") - FirstTime(film, "v:0");
+    ASSERT_GT(FirstTime(film, "v:0"), 5000.0);
+    ASSERT_GT(apart, 0.2);
+    for (const char* const name : {"result.mp4", "result.mkv", "result.mov"}) {
+        const QString target = folder_.Path(name);
+        ASSERT_EQ(ErrorText(Convert(film, target).error), QString());
+        EXPECT_NEAR(FirstTime(target, "a") - FirstTime(target, "v:0"), apart, 0.0011) << name;
+        EXPECT_NEAR(FirstTime(target, "v:0"), 0.0, 0.001) << name;
+        EXPECT_EQ(WarningsOn(target), "") << name;
     }
 }
 
@@ -225,6 +248,28 @@ TEST_F(FilmConversion, StoppedOrBadFilmsLeaveNothing) {
     Convert(film, folder_.Path("new.mp4"), kept, {}, [&](double) { return ++asked < 19; });
     EXPECT_FALSE(QFileInfo::exists(folder_.Path("new.mp4")));
     EXPECT_EQ(WarningsOn(folder_.Path("new.mp4.part")), "");
+}
+
+// Encoders with threads of their own have been seen to wait for frames that never come.
+TEST_F(FilmConversion, AStopInTheMiddleEndsEveryEncoderAtOnce) {
+    const QString film = folder_.Make("film.mp4", "-f lavfi -i testsrc2=s=96x64:r=25:d=4");
+    for (const FilmCodec codec :
+         {FilmCodec::H264, FilmCodec::H265, FilmCodec::Av1, FilmCodec::Vp9, FilmCodec::Ffv1}) {
+        for (const int items : {2, 60}) {
+            FilmEncoding encoding;
+            encoding.codec = codec;
+            QElapsedTimer clock;
+            int asked = 0;
+            const FilmOutcome stopped =
+                Convert(film, folder_.Path("out.mkv"), encoding, {}, [&](double) {
+                    clock.start();
+                    return ++asked < items;
+                });
+            EXPECT_TRUE(stopped.error.Is(ReasonCode::Cancelled)) << ToText(codec).toStdString();
+            EXPECT_LT(clock.elapsed(), 30'000) << ToText(codec).toStdString() << items;
+            EXPECT_FALSE(QFileInfo::exists(folder_.Path("out.mkv.part")));
+        }
+    }
 }
 
 TEST_F(FilmConversion, AFrameIsTheOneThatIsShownThen) {

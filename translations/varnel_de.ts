@@ -4030,7 +4030,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Auto key</source>
-        <translation>Schlüssel automatisch</translation>
+        <translation>Auto-Schlüssel</translation>
     </message>
     <message>
         <source>Every slider that is moved makes a key at this time; without it only those do that have keys already</source>
@@ -4066,7 +4066,7 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
     <message>
         <source>Usual speed</source>
-        <translation>Übliche Geschwindigkeit</translation>
+        <translation>Übliches Tempo</translation>
     </message>
     <message>
         <source>Save film ...</source>

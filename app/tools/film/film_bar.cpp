@@ -3,8 +3,8 @@
 
 #include "app/tools/film/film_bar.h"
 
-#include <QHBoxLayout>
 #include <QStyle>
+#include <algorithm>
 #include <array>
 
 #include "state/dialogs/wheel_guard.h"
@@ -22,10 +22,23 @@ constexpr std::array speeds{"ultrafast", "veryfast", "fast", "medium", "slow", "
 constexpr int ownQuality = -1;
 constexpr int mostCrf = 63;
 
+// A button that now has one text and now another is as wide as the longer one, so that nothing
+// beside it moves.
+void KeepRoom(QToolButton& button, const QStringList& texts) {
+    for (const QString& text : texts) {
+        button.setText(text);
+        button.setMinimumWidth(std::max(button.minimumWidth(), button.sizeHint().width()));
+    }
+}
+
 }  // namespace
 
 FilmBar::FilmBar(QWidget* parent)
     : QWidget(parent),
+      playing_(new QHBoxLayout),
+      choices_(new QBoxLayout(QBoxLayout::LeftToRight)),
+      keys_(new QHBoxLayout),
+      saving_(new QHBoxLayout),
       time_(new QLabel(this)),
       error_(new QLabel(this)),
       line_(new TimeLine(this)) {
@@ -34,26 +47,30 @@ FilmBar::FilmBar(QWidget* parent)
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(9, 4, 9, 4);
     rows->setSpacing(4);
-    auto* const first = new QHBoxLayout;
-    auto* const second = new QHBoxLayout;
-    rows->addLayout(first);
-    rows->addLayout(second);
-    play_ = AddButton(first, "CmdFilmPlay", tr("Play"), tr("Plays the film (space)"));
-    first->addWidget(line_, 1);
+    rows->addLayout(playing_);
+    rows->addLayout(choices_);
+    choices_->addLayout(keys_);
+    choices_->addLayout(saving_);
+    play_ = AddButton(playing_, "CmdFilmPlay", tr("Play"), tr("Plays the film (space)"));
+    playing_->addWidget(line_, 1);
     time_->setObjectName(QStringLiteral("LabelFilmTime"));
-    first->addWidget(time_);
-    in_ = AddButton(second, "CmdFilmIn", tr("In"), tr("The film begins with this frame (I)"));
-    out_ = AddButton(second, "CmdFilmOut", tr("Out"), tr("The film ends with this frame (O)"));
-    key_ = AddButton(second, "CmdFilmKey", tr("Set key"), {});
-    keying_ = AddButton(second, "CmdFilmKeying", tr("Auto key"),
+    playing_->addWidget(time_);
+    in_ = AddButton(keys_, "CmdFilmIn", tr("In"), tr("The film begins with this frame (I)"));
+    out_ = AddButton(keys_, "CmdFilmOut", tr("Out"), tr("The film ends with this frame (O)"));
+    key_ = AddButton(keys_, "CmdFilmKey", tr("Set key"), {});
+    keying_ = AddButton(keys_, "CmdFilmKeying", tr("Auto key"),
                         tr("Every slider that is moved makes a key at this time; without it only "
                            "those do that have keys already"));
     keying_->setCheckable(true);
     error_->setObjectName(QStringLiteral("LabelFilmError"));
     error_->setTextFormat(Qt::PlainText);
     error_->setWordWrap(true);
-    second->addWidget(error_, 1);
-    AddSaving(second);
+    error_->hide();
+    rows->addWidget(error_);
+    keys_->addStretch(1);
+    saving_->addStretch(1);
+    AddSaving();
+    KeepRoom(*key_, {tr("Remove key"), tr("Set key")});
     ShowPlaying(false);
     ShowKey(false);
     hide();
@@ -70,7 +87,7 @@ QToolButton* FilmBar::AddButton(QLayout* row, const char* name, const QString& t
     return button;
 }
 
-void FilmBar::AddSaving(QLayout* row) {
+void FilmBar::AddSaving() {
     codec_ = new QComboBox(this);
     codec_->setObjectName(QStringLiteral("FilmCodecCombo"));
     codec_->setAccessibleName(tr("Codec of the film"));
@@ -97,7 +114,7 @@ void FilmBar::AddSaving(QLayout* row) {
     for (QWidget* const control : std::initializer_list<QWidget*>{codec_, quality_, speed_}) {
         control->setFocusPolicy(Qt::StrongFocus);
         new WheelGuard(control);
-        row->addWidget(control);
+        saving_->addWidget(control);
     }
     connect(quality_, &QSpinBox::valueChanged, this, &FilmBar::OutputChanged);
     connect(speed_, &QComboBox::currentIndexChanged, this, &FilmBar::OutputChanged);
@@ -108,8 +125,27 @@ void FilmBar::AddSaving(QLayout* row) {
         quality_->setEnabled(codec != u"ffv1" && codec != u"prores");
         Q_EMIT OutputChanged();
     });
-    save_ = AddButton(row, "CmdFilmSave", tr("Save film ..."),
+    save_ = AddButton(saving_, "CmdFilmSave", tr("Save film ..."),
                       tr("Converts the film with its keys, from In to Out, and writes it"));
+}
+
+QSize FilmBar::minimumSizeHint() const {
+    const QMargins around = layout()->contentsMargins();
+    const int widest = std::max({playing_->minimumSize().width(), keys_->minimumSize().width(),
+                                 saving_->minimumSize().width()});
+    return {widest + around.left() + around.right(), layout()->totalMinimumSize().height()};
+}
+
+void FilmBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int beside =
+        keys_->minimumSize().width() + choices_->spacing() + saving_->minimumSize().width();
+    choices_->setDirection(layout()->contentsRect().width() < beside ? QBoxLayout::TopToBottom
+                                                                     : QBoxLayout::LeftToRight);
+}
+
+QWidgetList FilmBar::Controls() const {
+    return {play_, line_, in_, out_, key_, keying_, codec_, quality_, speed_, save_};
 }
 
 void FilmBar::OfferSaving(bool on) {
@@ -150,6 +186,7 @@ void FilmBar::ShowKey(bool there) {
 
 void FilmBar::ShowError(const QString& text) {
     error_->setText(text);
+    error_->setVisible(!text.isEmpty());
     line_->setEnabled(text.isEmpty());
     for (QToolButton* const button : {play_, in_, out_, key_, keying_, save_}) {
         button->setEnabled(text.isEmpty());

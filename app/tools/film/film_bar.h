@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
 #include <QToolButton>
@@ -20,6 +21,8 @@ class FilmBar : public QWidget {
   public:
     explicit FilmBar(QWidget* parent);
 
+    // In the order of reading.
+    QWidgetList Controls() const;
     TimeLine* Line() const { return line_; }
     QToolButton* PlayButton() const { return play_; }
     QToolButton* InButton() const { return in_; }
@@ -36,14 +39,23 @@ class FilmBar : public QWidget {
     // Without the choices there is nothing that could write a film.
     void OfferSaving(bool on);
     FilmOutput Output() const;
+    // As narrow as with one row below the other.
+    QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
     void OutputChanged();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     QToolButton* AddButton(QLayout* row, const char* name, const QString& text, const QString& tip);
-    void AddSaving(QLayout* row);
+    void AddSaving();
 
+    QHBoxLayout* playing_;
+    QBoxLayout* choices_;  // keys and saving, beside or below one another
+    QHBoxLayout* keys_;
+    QHBoxLayout* saving_;
     QLabel* time_;
     QLabel* error_;
     TimeLine* line_;

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "app/tools/film/film_bar.h"
 #include "app/tools/layout/kept_choice.h"
 #include "state/settings/setting_names.h"
 
@@ -49,6 +50,9 @@ void LayoutTools::OrderTabs(bool inColumn) const {
     QWidgetList order;
     for (const QString& name : below) {
         order.append(window_->findChild<QWidget*>(name));
+    }
+    if (const auto* const film = window_->findChild<FilmBar*>()) {
+        order += film->Controls();
     }
     Chain({parts_.views.back(), window_->findChild<QWidget*>(QStringLiteral("CmdEmptyAdd")),
            window_->findChild<QWidget*>(QStringLiteral("CmdEmptySample"))});

@@ -18,6 +18,7 @@
 #include "state/dialogs/form_presets.h"
 #include "state/dialogs/form_save_preset.h"
 #include "state/dialogs/form_setup.h"
+#include "tests/app/film/fake_film.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
 
@@ -59,6 +60,28 @@ void ShowMainWindow(TestWindow& workspace, const Look& look, PixelSize photo) {
     GearOffer offer;
     offer.define = true;
     workspace.window.findChild<GearOfferRow*>()->Show(offer, workspace.state.Gear);
+    EXPECT_TRUE(Settle());
+    look(workspace.window);
+}
+
+void ShowFilm(const Look& look, PixelSize photo) {
+    FakeFilm film;
+    FakeSaver saver;
+    film.size = photo;
+    TestWindow workspace{nullptr, {}, Restore::Later, {nullptr, {}, &film, &saver}};
+    workspace.AddPhotos({QStringLiteral("film.bmp"), QStringLiteral("b.bmp")}, photo);
+    workspace.ClickLine(0);
+    workspace.Click("OptionRemap_1");
+    Show(workspace.window, look);
+    workspace.Click("CmdFilmKey");
+    EXPECT_TRUE(Settle());
+    look(workspace.window);
+    workspace.Click("CmdFilmPlay");
+    EXPECT_TRUE(QTest::qWaitFor([&film] { return film.now > 0; }));
+    look(workspace.window);
+    film.refusal = {ReasonCode::NoKnownType};
+    workspace.AddPhotos({QStringLiteral("film2.bmp")}, photo);
+    workspace.ClickLine(2);
     EXPECT_TRUE(Settle());
     look(workspace.window);
 }
@@ -132,6 +155,7 @@ void ShowToolForms(TestWindow& workspace, const Look& look) {
 void ShowEveryForm(const Look& look, PixelSize photo) {
     TestWindow workspace;
     ShowMainWindow(workspace, look, photo);
+    ShowFilm(look, photo);
     FormAbout about;
     Show(about, look);
     // A page without links, which Tab would visit.

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
+#include <QStyleOptionComboBox>
 #include <QTest>
 
 #include "app/start/focus_style.h"
@@ -101,7 +102,21 @@ QStringList UnmarkedIn(QWidget& form) {
     return found;
 }
 
+// The names of gears are the user's and may be long; projections are elided in a narrow column.
+bool IsCutChoice(const QComboBox& box) {
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    const QRect room = box.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                   QStyle::SC_ComboBoxEditField, &box);
+    return box.objectName() != Q("GearCombo") && box.objectName() != Q("ProjectionCombo") &&
+           !box.visibleRegion().isEmpty() &&
+           room.width() < box.fontMetrics().horizontalAdvance(box.currentText());
+}
+
 bool IsCut(const QWidget& widget) {
+    if (const auto* const box = qobject_cast<const QComboBox*>(&widget)) {
+        return IsCutChoice(*box);
+    }
     const auto* const label = qobject_cast<const QLabel*>(&widget);
     const bool isText = (label != nullptr && !label->text().isEmpty() &&
                          dynamic_cast<const ElidedLabel*>(label) == nullptr) ||

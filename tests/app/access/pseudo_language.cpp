@@ -70,7 +70,7 @@ QString Unmarked(const QString& text) {
                        "|Mercator|Equirectangular|Fisheye|Equidistant|Equisolid|Orthographic"
                        "|LittlePlanet|Unrolled|TIFF?|JPEG|BMP|PNG|FreeImage|Morph"
                        "|English|Deutsch|Español|Français|OfsetX|OfsetY|GearRatio|Canon|EOS"
-                       "|\\d+D|Sigma|EX|mm|f:|DejaVu"
+                       "|\\d+D|Sigma|EX|mm|f:|DejaVu|CRF"
                        "|https://\\S+|(?:[\\w.-]*/)+[\\w.-]*|\\w+\\.(?:bmp|tif|TIF|JPG)"
                        "|(?:Ctrl|Alt|Shift)\\+|\\bF\\d|\\tB$|<[^>]*>"));
     QString outside;

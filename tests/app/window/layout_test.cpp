@@ -14,6 +14,8 @@
 #include "app/panels/photo_list.h"
 #include "app/panels/reset_dot.h"
 #include "decoder/process/picture_reader.h"
+#include "state/settings/default_choices.h"
+#include "tests/app/film/fake_film.h"
 #include "tests/support/settled.h"
 #include "tests/support/test_window.h"
 #include "tests/support/texts.h"
@@ -46,6 +48,31 @@ TEST(Layout, AllSlidersShowOnALowScreenInBothLanguages) {
         EXPECT_TRUE(IsInSight(*workspace.Find("CommandSaveFreeimage"))) << language;
         EXPECT_TRUE(IsInSight(*workspace.Find("ImageList1"))) << language;
     }
+}
+
+// The bar's choices go below one another there, and beside one another where there is room.
+TEST(Layout, AFilmFitsASmallScreenInEveryLanguage) {
+    bool isStacked = false;
+    for (const Language& language : languages) {
+        const WindowLanguage texts(*QApplication::instance(), language.code);
+        testing::FakeFilm film;
+        testing::FakeSaver saver;
+        TestWindow workspace{nullptr, {}, Restore::Later, {nullptr, {}, &film, &saver}};
+        workspace.AddPhotos({Text("film.bmp")});
+        EXPECT_TRUE(testing::Settle());
+        const QWidget* const bar = workspace.Find("BarFilm");
+        std::vector<int> heights;
+        for (const int width : {1600, 1024}) {
+            workspace.window.resize(width, 700);
+            EXPECT_TRUE(testing::Settle());
+            EXPECT_EQ(workspace.window.width(), width) << language.code.data();
+            heights.push_back(bar->height());
+            EXPECT_TRUE(IsInSight(*workspace.Find("CmdFilmSave"))) << language.code.data();
+            EXPECT_TRUE(IsInSight(*workspace.Find("CmdFilmIn"))) << language.code.data();
+        }
+        isStacked = isStacked || heights[1] > heights[0];
+    }
+    EXPECT_TRUE(isStacked);
 }
 
 TEST(Layout, TheToolbarHasTheEntriesOfTheMenus) {

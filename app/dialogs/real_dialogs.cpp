@@ -22,6 +22,7 @@
 #include "gear/dialogs/form_gear_list.h"
 #include "gear/lens/import/lensfun_data.h"
 #include "gear/store/gear_list.h"
+#include "pipeline/conversion/films/kept_film_output.h"
 #include "pipeline/dialogs/form_add_images.h"
 #include "pipeline/dialogs/form_batch.h"
 #include "pipeline/dialogs/form_morph.h"
@@ -134,8 +135,10 @@ void RealDialogs::Morph(const ImageRecord& image, const QueueChanged& queueChang
                         QWidget* parent) {
     FormMorph form(image, state_.bitmaps.PreviewSourceBitmap.get(), state_.BatchQueue, state_.pool,
                    notices_, queueChanged, parent);
-    const std::unique_ptr<MorphFilmMaker> maker = NewMorphFilmMaker(state_.pool, state_.settings);
-    form.OfferFilm({maker.get(), [this](const QString& name) { return ChooseFilmName(name); }});
+    const FilmOutput output = LoadFilmOutput(store_);
+    const auto maker = NewMorphFilmMaker(state_.pool, state_.settings, output);
+    form.OfferFilm({maker.get(), [this](const QString& name) { return ChooseFilmName(name); },
+                    EndingOf(output)});
     form.exec();
 }
 

@@ -31,9 +31,10 @@ std::unique_ptr<FilmSaver> NewFilmSaver(const GeneralSettings& settings) {
 }
 
 std::unique_ptr<MorphFilmMaker> NewMorphFilmMaker(ThreadRunner& pool,
-                                                  const GeneralSettings& settings) {
+                                                  const GeneralSettings& settings,
+                                                  const FilmOutput& output) {
     return std::make_unique<MorphFilms>([] { return NewPictureReader(); }, pool,
-                                        [&settings] { return settings.AutoOrient; });
+                                        [&settings] { return settings.AutoOrient; }, output);
 }
 
 }  // namespace varnel

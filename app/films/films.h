@@ -10,8 +10,8 @@
 #include "app/workspace/film/film_source.h"
 #include "base/thread_runner.h"
 #include "decoder/process/picture_reader.h"
-#include "pipeline/conversion/film_saver.h"
-#include "pipeline/conversion/morph_film.h"
+#include "pipeline/conversion/films/film_saver.h"
+#include "pipeline/conversion/films/morph_film.h"
 #include "state/settings/general_settings.h"
 
 namespace varnel {
@@ -24,6 +24,7 @@ std::unique_ptr<PictureReader> NewGearReader();
 std::unique_ptr<FilmSource> NewFilmSource(ThreadRunner& pool);
 std::unique_ptr<FilmSaver> NewFilmSaver(const GeneralSettings& settings);
 std::unique_ptr<MorphFilmMaker> NewMorphFilmMaker(ThreadRunner& pool,
-                                                  const GeneralSettings& settings);
+                                                  const GeneralSettings& settings,
+                                                  const FilmOutput& output);
 
 }  // namespace varnel

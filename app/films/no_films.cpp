@@ -26,7 +26,8 @@ std::unique_ptr<FilmSaver> NewFilmSaver(const GeneralSettings& /*settings*/) {
 }
 
 std::unique_ptr<MorphFilmMaker> NewMorphFilmMaker(ThreadRunner& /*pool*/,
-                                                  const GeneralSettings& /*settings*/) {
+                                                  const GeneralSettings& /*settings*/,
+                                                  const FilmOutput& /*output*/) {
     return nullptr;
 }
 

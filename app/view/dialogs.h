@@ -17,7 +17,7 @@
 #include "gear/catalogue/gear_catalogue.h"
 #include "gear/store/gear_store.h"
 #include "pipeline/conversion/batch_job.h"
-#include "pipeline/conversion/film_saver.h"
+#include "pipeline/conversion/films/film_saver.h"
 #include "pipeline/photos/file_chooser.h"
 #include "pipeline/photos/photo_loader.h"
 

@@ -115,7 +115,7 @@ void MDIForm1::MakeTools() {
     new PairTools(parts_, view_, workspace_, this);
     new GearTools(this, parts_, view_, workspace_, state_, ports_.dialogs);
     if (ports_.films.source != nullptr) {
-        new FilmTools(this, parts_, view_, workspace_, ports_, batch_);
+        new FilmTools(this, parts_, view_, workspace_, store_, ports_, batch_);
     }
     new SizeTools(this, parts_, view_, workspace_);
     new SaveTools(this, parts_, workspace_, *list, ports_, batch_);

@@ -11,6 +11,16 @@
 
 namespace varnel {
 
+FilmEncoding EncodingOf(const FilmOutput& output, const QString& path) {
+    FilmEncoding encoding;
+    encoding.container =
+        FilmContainerFromText(QFileInfo(path).suffix()).value_or(FilmContainer::Mp4);
+    encoding.codec = FilmCodecFromText(output.codec).value_or(FilmCodec::H264);
+    encoding.crf = output.crf;
+    encoding.speed = output.speed;
+    return encoding;
+}
+
 SavedFilm ConvertedFilms::Save(const ImageRecord& film, const FilmOutput& output,
                                const QString& path,
                                const std::function<bool(double part)>& goesOn) {
@@ -22,11 +32,7 @@ SavedFilm ConvertedFilms::Save(const ImageRecord& film, const FilmOutput& output
     FilmJob job{path, film, {}};
     job.image.Width = static_cast<std::int16_t>(reader->Info().format.size.width);
     job.image.Height = static_cast<std::int16_t>(reader->Info().format.size.height);
-    job.encoding.container =
-        FilmContainerFromText(QFileInfo(path).suffix()).value_or(FilmContainer::Mp4);
-    job.encoding.codec = FilmCodecFromText(output.codec).value_or(FilmCodec::H264);
-    job.encoding.crf = output.crf;
-    job.encoding.speed = output.speed;
+    job.encoding = EncodingOf(output, path);
     ThreadRunner runner;
     const FilmOutcome outcome = ConvertFilm(*reader, job, {runner, nullptr, goesOn});
     SavedFilm saved{outcome.error, outcome.notes};

@@ -6,9 +6,13 @@
 
 #include <functional>
 
-#include "pipeline/conversion/film_saver.h"
+#include "film/writing/film_writer.h"
+#include "pipeline/conversion/films/film_saver.h"
 
 namespace varnel {
+
+// The container is that of the path's ending, mp4 for any other.
+FilmEncoding EncodingOf(const FilmOutput& output, const QString& path);
 
 class ConvertedFilms : public FilmSaver {
   public:

@@ -3,10 +3,9 @@
 
 #include "film/conversion/morph_films.h"
 
-#include <QFileInfo>
-
 #include "base/error_reason.h"
 #include "base/run_time_error.h"
+#include "film/conversion/converted_films.h"
 #include "film/conversion/stills_film.h"
 #include "pipeline/conversion/save_meanwhile.h"
 #include "remap/projection/projection_info.h"
@@ -46,10 +45,7 @@ Reason MorphFilms::Make(const MorphFilm& film, const std::function<bool(int fram
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = std::move(photo.bitmap);
     RenderContext context{.bitmaps = bitmaps, .runner = &pool_};
-    FilmEncoding encoding = encoding_;
-    encoding.container =
-        FilmContainerFromText(QFileInfo(film.path).suffix()).value_or(encoding.container);
-    StillsFilm stills(film.path, encoding, FrameRateOf(film.framesPerSecond));
+    StillsFilm stills(film.path, EncodingOf(output_, film.path), FrameRateOf(film.framesPerSecond));
     int frames = 0;
     CancelFlag cancelled = false;
     Asking asking(goesOn, frames, cancelled);

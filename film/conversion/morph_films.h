@@ -10,8 +10,8 @@
 
 #include "base/thread_runner.h"
 #include "decoder/process/picture_reader.h"
-#include "film/writing/film_writer.h"
-#include "pipeline/conversion/morph_film.h"
+#include "pipeline/conversion/films/film_saver.h"
+#include "pipeline/conversion/films/morph_film.h"
 
 namespace varnel {
 
@@ -20,18 +20,18 @@ class MorphFilms : public MorphFilmMaker {
     using NewReader = std::function<std::unique_ptr<PictureReader>()>;
     // Upright: the photo is turned as its EXIF says. The container is that of the path's ending.
     MorphFilms(NewReader newReader, ThreadRunner& pool, std::function<bool()> upright,
-               FilmEncoding encoding = {})
+               FilmOutput output = {})
         : newReader_(std::move(newReader)),
           pool_(pool),
           upright_(std::move(upright)),
-          encoding_(std::move(encoding)) {}
+          output_(std::move(output)) {}
     Reason Make(const MorphFilm& film, const std::function<bool(int frames)>& goesOn) override;
 
   private:
     NewReader newReader_;
     ThreadRunner& pool_;
     std::function<bool()> upright_;
-    FilmEncoding encoding_;
+    FilmOutput output_;
 };
 
 }  // namespace varnel

@@ -13,7 +13,7 @@
 #include "base/record_array.h"
 #include "pipeline/conversion/batch_summary.h"
 #include "pipeline/conversion/conversion_run.h"
-#include "pipeline/conversion/film_saver.h"
+#include "pipeline/conversion/films/film_saver.h"
 #include "pipeline/output/name_pattern.h"
 
 namespace varnel {

@@ -17,7 +17,7 @@
 
 #include "base/notices.h"
 #include "base/thread_runner.h"
-#include "pipeline/conversion/morph_film.h"
+#include "pipeline/conversion/films/morph_film.h"
 #include "remap/image/bitmap.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/slider_table.h"
@@ -32,7 +32,8 @@ namespace varnel {
 // gives the path with its ending, which may be replaced; empty when cancelled.
 struct MorphFilmPorts {
     MorphFilmMaker* maker = nullptr;
-    std::function<QString(const QString& proposal)> chooseName;
+    std::function<QString(const QString& proposal)> chooseName = nullptr;
+    QString ending = QStringLiteral(".mp4");  // that is proposed
 };
 
 class FormMorph : public QDialog {

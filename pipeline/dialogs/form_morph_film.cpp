@@ -19,9 +19,9 @@ namespace varnel {
 
 namespace {
 
-QString ProposedFilm(const ImageRecord& image) {
+QString ProposedFilm(const ImageRecord& image, const QString& ending) {
     const QFileInfo photo(SourcePath(image));
-    return photo.path() + u'/' + photo.completeBaseName() + QStringLiteral("_Morph.mp4");
+    return photo.path() + u'/' + photo.completeBaseName() + QStringLiteral("_Morph") + ending;
 }
 
 }  // namespace
@@ -72,7 +72,7 @@ void FormMorph::WriteFilm(int N) {
         notices_.Tell(tr("A film needs two images or more"), QString());
         return;
     }
-    const QString path = film_.chooseName(ProposedFilm(image_));
+    const QString path = film_.chooseName(ProposedFilm(image_, film_.ending));
     if (path.isEmpty()) {
         return;
     }

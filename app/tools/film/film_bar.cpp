@@ -165,6 +165,14 @@ FilmOutput FilmBar::Output() const {
     return output;
 }
 
+void FilmBar::Choose(const FilmOutput& output) {
+    for (const auto& [choices, chosen] :
+         {std::pair{codec_, output.codec}, {speed_, output.speed}}) {
+        choices->setCurrentIndex(std::max(choices->findData(chosen), 0));
+    }
+    quality_->setValue(output.crf.value_or(ownQuality));
+}
+
 void FilmBar::ShowTime(double now, double seconds) {
     const QString text = QStringLiteral("%1 / %2").arg(TimeText(now), TimeText(seconds));
     time_->setMinimumWidth(fontMetrics().horizontalAdvance(text) + 4);

@@ -12,7 +12,7 @@
 #include <QToolButton>
 
 #include "app/tools/film/time_line.h"
-#include "pipeline/conversion/film_saver.h"
+#include "pipeline/conversion/films/film_saver.h"
 
 namespace varnel {
 
@@ -39,6 +39,8 @@ class FilmBar : public QWidget {
     // Without the choices there is nothing that could write a film.
     void OfferSaving(bool on);
     FilmOutput Output() const;
+    // What the bar does not have is the usual one.
+    void Choose(const FilmOutput& output);
     // As narrow as with one row below the other.
     QSize minimumSizeHint() const override;
 

@@ -13,6 +13,7 @@
 #include "base/error_text.h"
 #include "base/shortage.h"
 #include "files/file_identity.h"
+#include "pipeline/conversion/films/kept_film_output.h"
 #include "pipeline/output/output_name.h"
 #include "remap/projection/projection_info.h"
 
@@ -26,7 +27,8 @@ constexpr float whole = 1000.0F;  // of the progress bar
 }  // namespace
 
 FilmTools::FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& view,
-                     Workspace& workspace, const WindowPorts& ports, BatchJob& job)
+                     Workspace& workspace, SettingsStore& store, const WindowPorts& ports,
+                     BatchJob& job)
     : QObject(window),
       view_(view),
       workspace_(workspace),
@@ -39,8 +41,12 @@ FilmTools::FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& 
     ConnectLine();
     ConnectButtons();
     job.Use(ports_.films.saver);
-    connect(bar_, &FilmBar::OutputChanged, &job,
-            [this, &job] { job.choices.film = bar_->Output(); });
+    bar_->Choose(LoadFilmOutput(store));
+    job.choices.film = bar_->Output();
+    connect(bar_, &FilmBar::OutputChanged, &job, [this, &job, &store] {
+        job.choices.film = bar_->Output();
+        SaveFilmOutput(job.choices.film, store);
+    });
     connect(&commands_, &FilmCommands::Changed, this, &FilmTools::Show);
     connect(&commands_, &FilmCommands::NotOpened, this,
             [this](const Reason& reason) { error_ = ErrorText(reason); });

@@ -18,7 +18,7 @@ class FilmTools : public QObject {
     Q_OBJECT
   public:
     FilmTools(QMainWindow* window, const WindowParts& parts, WindowView& view, Workspace& workspace,
-              const WindowPorts& ports, BatchJob& job);
+              SettingsStore& store, const WindowPorts& ports, BatchJob& job);
     // The bar is locked with the column.
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "app/workspace/film/film_source.h"
-#include "pipeline/conversion/film_saver.h"
+#include "pipeline/conversion/films/film_saver.h"
 #include "tests/support/bitmaps.h"
 
 namespace varnel::testing {

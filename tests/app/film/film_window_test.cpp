@@ -7,6 +7,7 @@
 
 #include "app/tools/film/film_bar.h"
 #include "film/keys/film_keys.h"
+#include "pipeline/conversion/films/kept_film_output.h"
 #include "state/editing/read_gear.h"
 #include "tests/app/film/fake_film.h"
 #include "tests/support/settled.h"
@@ -232,6 +233,26 @@ TEST_F(FilmCircle, IsFoundByTheButton) {
     window.Click("CmdCircleFind");
     EXPECT_EQ(asked, 1);
     EXPECT_TRUE(window.Label("StatusText").endsWith(QStringLiteral("on this photo.")));
+}
+
+TEST_F(FilmWindow, ChoicesOfWritingAreKept) {
+    EXPECT_EQ(bar->Output(), FilmOutput());
+    EXPECT_EQ(LoadFilmOutput(window.store), FilmOutput());
+    const FilmOutput rows[] = {{QStringLiteral("h265"), 20, QStringLiteral("slow")},
+                               {QStringLiteral("h264"), {}, QStringLiteral("ultrafast")},
+                               {QStringLiteral("vp9"), 0, {}},
+                               {QStringLiteral("prores"), {}, {}}};
+    for (const FilmOutput& row : rows) {
+        bar->Choose(row);
+        FilmBar later(nullptr);
+        later.Choose(LoadFilmOutput(window.store));
+        EXPECT_EQ(later.Output(), row) << row.codec.toStdString();
+    }
+    window.store.Save(QStringLiteral("Settings"), QStringLiteral("FilmCodec"),
+                      QStringLiteral("mjpeg"));
+    window.store.Save(QStringLiteral("Settings"), QStringLiteral("FilmCrf"), QStringLiteral("99"));
+    bar->Choose(LoadFilmOutput(window.store));
+    EXPECT_EQ(bar->Output(), FilmOutput());
 }
 
 TEST_F(FilmWindow, SaysWhyAFilmCannotBeRead) {

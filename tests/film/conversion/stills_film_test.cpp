@@ -47,14 +47,23 @@ class MorphFilmsTest : public ::testing::Test {
         film.path = folder.Path(Text("morph.mp4"));
     }
     Reason Make(const std::function<bool(int)>& goesOn = [](int) { return true; }) {
-        return MorphFilms([] { return NewPictureReader(); }, pool, [] { return true; })
+        return MorphFilms([] { return NewPictureReader(); }, pool, [] { return true; }, output)
             .Make(film, goesOn);
     }
 
     testing::PictureFolder folder;
     ThreadRunner pool;
     MorphFilm film;
+    FilmOutput output;
 };
+
+TEST_F(MorphFilmsTest, IsWrittenAsFilmsOfTheListAre) {
+    output = {QStringLiteral("ffv1"), {}, {}};
+    film.path = folder.Path(Text("morph.mkv"));
+    ASSERT_TRUE(Make().isEmpty());
+    EXPECT_EQ(testing::Probe(film.path, "stream=codec_name:format=format_name"),
+              "ffv1 matroska,webm");
+}
 
 TEST_F(MorphFilmsTest, EveryPictureOfTheSequenceIsAFrame) {
     std::vector<int> told;

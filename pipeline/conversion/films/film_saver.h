@@ -19,6 +19,8 @@ struct FilmOutput {
     QString codec = QStringLiteral("h264");  // as the command line names it
     std::optional<int> crf = {};             // none: the encoder's own
     QString speed = {};                      // as the encoder names it; empty: its own
+
+    bool operator==(const FilmOutput&) const = default;
 };
 
 // ".mp4", or what else the codec is usually found in.

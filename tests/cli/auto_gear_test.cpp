@@ -67,8 +67,8 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
                   .toStdString());
     const char* const told[] = {
         "zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue; give ",
-        "compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue; "
-        "give ",
+        ("compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue; "
+         "give "),
         "plain.bmp: no gear for it: the file does not tell what took it; give "};
     for (const char* const line : told) {
         EXPECT_NE(err.str().find(line), std::string::npos) << err.str();

@@ -62,7 +62,7 @@ TEST_F(MorphFilmsTest, IsWrittenAsFilmsOfTheListAre) {
     film.path = folder.Path(Text("morph.mkv"));
     ASSERT_TRUE(Make().isEmpty());
     EXPECT_EQ(testing::Probe(film.path, "stream=codec_name:format=format_name"),
-              "ffv1 matroska,webm");
+              "ffv1 \"matroska,webm\"");
 }
 
 TEST_F(MorphFilmsTest, EveryPictureOfTheSequenceIsAFrame) {

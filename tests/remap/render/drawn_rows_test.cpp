@@ -44,7 +44,7 @@ QByteArray FileOfRows(const Bitmap& photo, const ImageRecord& record, BlockRunne
     DrawnRows rows(ProjectionFromIndex(record.Projection), record, photo);
     const BitmapHandle frame = rows.WithoutPixels();
     EXPECT_TRUE(IsEncodedByRows(OutputType::Jpeg, frame->Format(), photoSize));
-    const QByteArray file =
+    QByteArray file =
         EncodeBitmap(OutputType::Jpeg, frame.get(), {.runner = &runner, .rows = &rows}).bytes;
     EXPECT_EQ(rows.Done(), frame->Size().height);
     return file;

@@ -45,7 +45,7 @@ constexpr Case cases[] = {
 QString Made(const QTemporaryDir& folder, const Case& c) {
     const bool isDeep = std::strstr(c.pixels, "10") != nullptr;
     const QString step = isDeep ? QStringLiteral("4") : QStringLiteral("1");
-    const QString path = folder.filePath(QString::fromUtf8(c.name) + QStringLiteral(".mkv"));
+    QString path = folder.filePath(QString::fromUtf8(c.name) + QStringLiteral(".mkv"));
     const QString scene = QStringLiteral(
                               "nullsrc=s=1280x720:r=25:d=0.16,format=%1,"
                               "geq=lum='%2*(128+37*sin(X/7+N)+20*sin(Y/5)+10*sin(X*Y/900))':"

@@ -30,7 +30,7 @@ constexpr int keyInterval = 60;
 const QString& Film() {
     static const QTemporaryDir folder;
     static const QString path = [] {
-        const QString made = folder.filePath(QStringLiteral("film.mp4"));
+        QString made = folder.filePath(QStringLiteral("film.mp4"));
         QProcess::execute(
             QStringLiteral("ffmpeg"),
             QStringLiteral("-v error -f lavfi -i "

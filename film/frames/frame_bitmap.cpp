@@ -119,7 +119,8 @@ void Round(std::span<const float> parts, std::span<Sample> to) {
     for (std::size_t x = 0; x < to.size(); ++x) {
         const float above = parts[x] < 0.0F ? 0.0F : parts[x];
         const float level = above > 1.0F ? 1.0F : above;
-        to[x] = static_cast<Sample>(static_cast<std::int32_t>(level * most + 0.5F));
+        const float rounded = level * most + 0.5F;
+        to[x] = static_cast<Sample>(static_cast<std::int32_t>(rounded));
     }
 }
 

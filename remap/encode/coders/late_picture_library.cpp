@@ -18,7 +18,7 @@ const PictureLibrary& Library() {
         QLibrary module(ProgramFile(QStringLiteral("varnel-picture-library.so")));
         const auto give =
             reinterpret_cast<GivePictureLibrary>(module.resolve(pictureLibrarySymbol));
-        return give != nullptr ? give()
+        return give != nullptr ? *give()
                                : throw std::runtime_error(module.errorString().toStdString());
     }();
     return library;

@@ -30,6 +30,6 @@ struct PictureLibrary {
 
 // The module's one function; both are built together.
 inline constexpr char pictureLibrarySymbol[] = "varnelPictureLibrary";
-using GivePictureLibrary = const PictureLibrary& (*)();
+using GivePictureLibrary = const PictureLibrary* (*)();
 
 }  // namespace varnel

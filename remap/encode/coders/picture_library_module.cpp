@@ -4,7 +4,7 @@
 // varnel-picture-library.so: see the header.
 #include "remap/encode/coders/picture_library.h"
 
-extern "C" __attribute__((visibility("default"))) const varnel::PictureLibrary&
+extern "C" __attribute__((visibility("default"))) const varnel::PictureLibrary*
 varnelPictureLibrary() {
     static constexpr varnel::PictureLibrary library{
         &varnel::EncodeBmp,     &varnel::EncodeExr,     &varnel::EncodeHdr,
@@ -15,5 +15,5 @@ varnelPictureLibrary() {
 #endif
         &varnel::RescaledByBox, &varnel::IsPictureName, &varnel::LibraryVersion,
         &varnel::LibraryNotice};
-    return library;
+    return &library;
 }

@@ -19,13 +19,6 @@ extern "C" {
 #include "tests/film/support/films.h"
 #include "tests/support/contents.h"
 
-// The encoder of H.265 keeps a piece of memory to its end.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the sanitizer asks for this name
-extern "C" const char* __lsan_default_suppressions();
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:libx265";
-}
-
 namespace varnel {
 namespace {
 

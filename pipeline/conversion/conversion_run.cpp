@@ -235,10 +235,15 @@ class Run : private RenderProgress {
             return ports_.save(output.encoding, bitmap, path);
         }
         SaveResult saved;
-        turn.drawError = Attempt([&] {
+        const auto save = [&] {
             saved = SaveBitmap(output.encoding, bitmap,
                                FileInSeries{path, series_, turn.drawn.rows.get()}, &runner_);
-        });
+        };
+        if (turn.drawn.rows) {
+            turn.drawError = Attempt(save);
+        } else {
+            save();
+        }
         const WriteResult lasts = plan_.namesLastAtEnd ? WriteResult{true, {}} : series_.Finish();
         return !saved || lasts ? saved : SaveResult{false, lasts.reason};
     }

@@ -246,8 +246,12 @@ Places PlacesIn(QByteArrayView coded) {
     return places;
 }
 
+bool HasScan(const CodedBytes& band) {
+    return PlacesIn(band.View()).data > 0 && band.View().endsWith(endOfImage);
+}
+
 // The head, the first band's file made as high as the picture and the scans of the others behind
-// its own. The bands are freed on the way. Empty when one has no scan.
+// its own. The bands are freed on the way. All have a scan.
 QByteArray Joined(QByteArrayView head, std::vector<CodedBytes>& bands, int height) {
     qsizetype most = head.size();
     for (const CodedBytes& band : bands) {
@@ -259,9 +263,6 @@ QByteArray Joined(QByteArrayView head, std::vector<CodedBytes>& bands, int heigh
     for (CodedBytes& band : bands) {
         const bool isFirst = &band == &bands.front();
         const Places places = PlacesIn(band.View());
-        if (places.data == 0 || !band.View().endsWith(endOfImage)) {
-            return {};
-        }
         if (!isFirst) {
             file += lastRestart;
         }
@@ -336,12 +337,13 @@ EncodedBitmap EncodeJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
     if (error != errors.end()) {
         return {{}, {ReasonCode::Added, Reason(ReasonCode::CannotBeEncoded), *error}};
     }
-    if (options.rows != nullptr) {
-        options.rows->End();
+    if (!std::ranges::all_of(coded, &HasScan)) {
+        return {{}, ReasonCode::CannotBeEncoded};
     }
-    QByteArray file = Joined(head, coded, height);
-    return file.isEmpty() ? EncodedBitmap{{}, ReasonCode::CannotBeEncoded}
-                          : EncodedBitmap{std::move(file), {}, Joined(metadata.notes)};
+    if (options.rows != nullptr) {
+        options.rows->End();  // nothing can fail any more that would be tried again
+    }
+    return {Joined(head, coded, height), {}, Joined(metadata.notes)};
 }
 
 QByteArray PlainJpeg(const Bitmap* bitmap, int quality) {

@@ -7,10 +7,9 @@
 #include <fcntl.h>
 
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <cstdlib>
 
+#include "bench/film/made_film.h"
 #include "film/reading/film_reader.h"
 #include "film/reading/process/film_input.h"
 #include "film/reading/process/picture_decoder.h"
@@ -21,18 +20,7 @@ namespace {
 constexpr int frames = 60;
 
 const QString& Film() {
-    static const QTemporaryDir folder;
-    static const QString path = [] {
-        QString made = folder.filePath(QStringLiteral("film.mp4"));
-        QProcess::execute(
-            QStringLiteral("ffmpeg"),
-            QStringLiteral("-v error -f lavfi -i testsrc2=s=3840x2160:d=2.4:r=25 -c:v libx264 "
-                           "-preset veryfast -pix_fmt yuv420p")
-                    .split(u' ') +
-                QStringList{made});
-        return made;
-    }();
-    return path;
+    return bench::MadeFilm(QStringLiteral("testsrc2=s=3840x2160:d=2.4:r=25"));
 }
 
 void Decoded(benchmark::State& state) {

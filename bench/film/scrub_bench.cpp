@@ -11,10 +11,9 @@
 #include <time.h>
 
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include "base/thread_runner.h"
+#include "bench/film/made_film.h"
 #include "film/frames/frame_bitmap.h"
 #include "film/reading/process/film_input.h"
 #include "film/reading/process/picture_decoder.h"
@@ -28,20 +27,8 @@ constexpr int keyInterval = 60;
 
 // Ten seconds with grain, a key frame every two.
 const QString& Film() {
-    static const QTemporaryDir folder;
-    static const QString path = [] {
-        QString made = folder.filePath(QStringLiteral("film.mp4"));
-        QProcess::execute(
-            QStringLiteral("ffmpeg"),
-            QStringLiteral("-v error -f lavfi -i "
-                           "testsrc2=s=3840x2160:d=10:r=30,noise=alls=4:allf=t -c:v libx264 "
-                           "-preset veryfast -x264-params keyint=60:min-keyint=60:scenecut=0 "
-                           "-pix_fmt yuv420p")
-                    .split(u' ') +
-                QStringList{made});
-        return made;
-    }();
-    return path;
+    return bench::MadeFilm(QStringLiteral("testsrc2=s=3840x2160:d=10:r=30,noise=alls=4:allf=t"),
+                           QStringLiteral("-x264-params keyint=60:min-keyint=60:scenecut=0"));
 }
 
 // Of the runs one after the other: another key frame each time, and the last frame but two behind

@@ -11,6 +11,8 @@
 #include <new>
 #include <optional>
 
+#include "base/released_by.h"
+
 namespace varnel {
 
 namespace {
@@ -49,17 +51,11 @@ std::optional<LastBlock> FindLastBlock(std::span<std::uint8_t> coded, std::size_
     return isFound ? std::optional(block) : std::nullopt;
 }
 
-struct Freer {
-    void operator()(libdeflate_compressor* compressor) const {
-        libdeflate_free_compressor(compressor);
-    }
-};
-
 }  // namespace
 
 bool DeflateMatches(std::span<const std::uint8_t> bytes, int level, bool last,
                     std::vector<std::uint8_t>& target) {
-    const std::unique_ptr<libdeflate_compressor, Freer> compressor(
+    const std::unique_ptr<libdeflate_compressor, ReleasedBy<libdeflate_free_compressor>> compressor(
         libdeflate_alloc_compressor(level));
     if (!compressor) {
         throw std::bad_alloc();

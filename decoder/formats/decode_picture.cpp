@@ -42,13 +42,13 @@ PixelSize Pixels(const StatedSize& stated) {
 class Decoding {
   public:
     Decoding(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
-             const RowsFor& rowsFor, const LibraryMessages& messages)
+             const PixelPlace& place, const LibraryMessages& messages)
         : file_(file),
           reader_(file_),
           format_(reader_.Format()),
           request_(request),
           memory_(memory),
-          rowsFor_(rowsFor),
+          rowsFor_(place.rows),
           messages_(messages) {}
 
     LoadedPicture Answer() {
@@ -356,14 +356,14 @@ class Decoding {
 }  // namespace
 
 LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
-                            const RowsFor& rowsFor) {
+                            const PixelPlace& place) {
     const ImageLibraryMessages messages;
     try {
         // The library takes half as long again.
-        if (auto jpeg = DecodeOrdinaryJpeg(file, request, memory, rowsFor, messages)) {
+        if (auto jpeg = DecodeOrdinaryJpeg(file, request, memory, place, messages)) {
             return std::move(*jpeg);
         }
-        return Decoding(file, request, memory, rowsFor, messages).Answer();
+        return Decoding(file, request, memory, place, messages).Answer();
     } catch (const std::bad_alloc&) {
         return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
     } catch (const std::exception& error) {

@@ -9,7 +9,7 @@
 #include <cstdio>
 
 #include "decoder/formats/picture_file.h"
-#include "decoder/formats/rows_for.h"
+#include "decoder/formats/row_pieces.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
 
@@ -26,9 +26,9 @@ namespace varnel {
 // taken; other pictures are decoded whole unless that would take long. The answer's size is 0 x 0
 // when the file does not state it.
 // Where it can, a whole photo is decoded right into the rows that it asks for, and the bitmap
-// stands there; else the bitmap has memory of its own.
+// stands there, or in pieces, and the bitmap is without pixels; else it has memory of its own.
 LoadedPicture DecodePicture(std::FILE* file, const ReadRequest& request, std::uint64_t memory,
-                            const RowsFor& rowsFor = {});
+                            const PixelPlace& place = {});
 
 // Has the libraries open now what they would open at the first photo; from then on decoding opens
 // no file. To be called before a process gives up its rights to files.

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <vector>
 
+#include "decoder/formats/readers/picture_forms.h"
 #include "remap/image/jpeg_errors.h"
 #include "remap/image/library_messages.h"
 #include "remap/image/pixel_format.h"
@@ -200,7 +201,45 @@ bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientati
     return true;
 }
 
+bool AllPieces(JpegDecoder& decoder, PixelSize size, int rowsOfAPiece, RowPieces& pieces) {
+    const std::size_t pitch = RowPitch(size.width);
+    for (std::int32_t left = size.height; left > 0;) {
+        const std::int32_t count = std::min(left, rowsOfAPiece);
+        std::byte* const room = pieces.Room();
+        if (room == nullptr || !decoder.Rows({room, pitch}, static_cast<JDIMENSION>(count)) ||
+            !pieces.Give()) {
+            return false;
+        }
+        left -= count;
+    }
+    return true;
+}
+
+void PassOnWarning(const JpegDecoder& decoder) {
+    if (decoder.HasWarned()) {
+        AddLibraryMessage(QString::fromLocal8Bit(decoder.Warning()));
+    }
+}
+
 }  // namespace
+
+PiecesEnd ReadJpegPieces(std::FILE* file, PixelSize expected, int orientation, RowPieces& pieces) {
+    std::rewind(file);
+    JpegDecoder decoder(file);
+    if (!decoder.Start(expected)) {
+        return PiecesEnd::NotBegun;
+    }
+    // Others may read in the file before the first piece.
+    const long place = std::ftell(file);
+    const int rows =
+        pieces.Begin(expected, orientation, TurnedMetadata(decoder.Metadata(), orientation));
+    if (rows <= 0 || std::fseek(file, place, SEEK_SET) != 0 ||
+        !AllPieces(decoder, expected, rows, pieces)) {
+        return PiecesEnd::Broken;
+    }
+    PassOnWarning(decoder);
+    return PiecesEnd::Whole;
+}
 
 std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows,
                                              int orientation) {
@@ -213,9 +252,7 @@ std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected
     if (!AllRows(decoder, expected, rows, orientation)) {
         return std::nullopt;
     }
-    if (decoder.HasWarned()) {
-        AddLibraryMessage(QString::fromLocal8Bit(decoder.Warning()));
-    }
+    PassOnWarning(decoder);
     return metadata;
 }
 

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "decoder/formats/row_pieces.h"
 #include "remap/image/bitmap_metadata.h"
 #include "remap/image/exif_orientation.h"
 
@@ -21,5 +22,14 @@ namespace varnel {
 // Throws std::bad_alloc.
 std::optional<BitmapMetadata> ReadJpegPixels(std::FILE* file, PixelSize expected, PixelRows rows,
                                              int orientation = 1);
+
+enum class PiecesEnd {
+    NotBegun,  // to be left to the library, without any message
+    Whole,
+    Broken  // an error ended the decoding, or the taker is gone
+};
+
+// The same piece by piece, as it is stored: the orientation is only told.
+PiecesEnd ReadJpegPieces(std::FILE* file, PixelSize expected, int orientation, RowPieces& pieces);
 
 }  // namespace varnel

@@ -10,8 +10,10 @@
 #include <cerrno>
 #include <csignal>
 #include <new>
+#include <utility>
 
 #include "decoder/request/picture_limits.h"
+#include "remap/image/exif_orientation.h"
 
 namespace varnel {
 
@@ -93,8 +95,10 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 static_cast<std::uint32_t>(options_.secondsPerPhoto),
                 memory_->Name(),
                 request.upright,
+                request.inPieces,
                 request.depth,
                 request.raw};
+    begun_ = request.begun;
     deadline_ = QDeadlineTimer(options_.secondsPerPhoto * 1000);
     askedTwice_ = false;
     first_.reset();
@@ -117,8 +121,16 @@ void DecoderReader::Ask() {
 }
 
 bool DecoderReader::Wait(int milliseconds) {
+    const QDeadlineTimer until(milliseconds);
+    do {
+        Listen(static_cast<int>(until.remainingTime()));
+    } while (pieces_ && !until.hasExpired());
+    return answer_.has_value();
+}
+
+void DecoderReader::Listen(int milliseconds) {
     if (answer_) {
-        return true;
+        return;
     }
     const int left = static_cast<int>(std::max<qint64>(deadline_.remainingTime(), 0));
     DecoderAnswer answer;
@@ -132,17 +144,22 @@ bool DecoderReader::Wait(int milliseconds) {
         case DecoderProcess::Heard::Nothing:
             if (deadline_.hasExpired() && first_) {
                 FinishWithoutMetadata();
+            } else if (deadline_.hasExpired() && pieces_ && !pieces_->HasMetadata()) {
+                AskForWhole();
             } else if (deadline_.hasExpired()) {
                 FinishRefused(TookTooLong());
             }
             break;
     }
-    return answer_.has_value();
 }
 
 // The pixels come first, so that they are safe whatever the metadata do to the decoder.
 void DecoderReader::Heard(const DecoderAnswer& answer) {
     const bool isSecond = first_.has_value();
+    if (pieces_ || (!isSecond && IsConsistentInPieces(answer, request_, memory_->Length()))) {
+        HeardOfPieces(answer);
+        return;
+    }
     if (answer.outcome == leftToOther && onlyJpeg_ && !isSecond) {
         TakeAllTypes();
         Ask();
@@ -159,7 +176,7 @@ void DecoderReader::Heard(const DecoderAnswer& answer) {
         return;
     }
     if (isSecond) {
-        Finish(PictureFrom(*first_, MetadataFrom(answer)));
+        Finish(PictureFrom(*first_, MetadataFrom(answer, *first_)));
     } else if (answer.metadataFollows == 0) {
         Finish(PictureFrom(answer, {}));
     } else {
@@ -169,14 +186,96 @@ void DecoderReader::Heard(const DecoderAnswer& answer) {
     }
 }
 
+// Of a picture in pieces, what the decoder says from the first answer on.
+void DecoderReader::HeardOfPieces(const DecoderAnswer& answer) {
+    if (!pieces_) {
+        BeginPieces(answer);
+    } else if (!pieces_->HasMetadata()) {
+        TakeMetadataOfPieces(answer);
+    } else if (answer.number == request_.number && answer.outcome == rowsGivenUp) {
+        AskForWhole();
+    } else if (answer.outcome == triedForbidden) {
+        FinishRefused({ReasonCode::DecoderTriedForbiddenCall, answer.number});
+    } else if (answer.number == request_.number && answer.outcome == rowsCame) {
+        if (!TakePiece()) {
+            FinishRefused(ReasonCode::DecoderMakesNoSense);
+        }
+    } else if (!pieces_->IsWhole() || !IsConsistentEnd(answer, request_)) {
+        FinishRefused(ReasonCode::DecoderMakesNoSense);
+    } else {
+        LoadedPicture picture = pieces_->Begun();
+        picture.arriving.reset();
+        picture.outcome = static_cast<LoadOutcome>(answer.outcome);
+        picture.reason = *ReasonOf(answer);
+        pieces_->End(picture.outcome == LoadOutcome::Loaded);
+        Finish(std::move(picture));
+    }
+}
+
+void DecoderReader::BeginPieces(const DecoderAnswer& first) {
+    try {
+        pieces_.emplace(first, *pixelMemory_);
+    } catch (const std::bad_alloc&) {
+        FinishRefused(ReasonCode::NotEnoughMemory);
+        return;
+    }
+    wholeDeadline_ = deadline_;
+    deadline_ =
+        QDeadlineTimer(std::min<qint64>(deadline_.remainingTime(), mostSecondsForMetadata * 1000));
+}
+
+// Metadata that this decoder cannot read must not cost the picture.
+void DecoderReader::TakeMetadataOfPieces(const DecoderAnswer& answer) {
+    const DecoderAnswer& first = pieces_->First();
+    const std::byte* const bytes =
+        IsConsistentMetadata(answer, first, memory_->Length())
+            ? memory_->Map(PlaceBehindRows(first) + first.attributesLength + answer.metadataLength)
+            : nullptr;
+    if (bytes == nullptr) {
+        AskForWhole();
+        return;
+    }
+    const QByteArray attributes(reinterpret_cast<const char*>(bytes + PlaceBehindRows(first)),
+                                static_cast<qsizetype>(first.attributesLength));
+    pieces_->TakeMetadata(attributes, MetadataFrom(answer, first));
+    deadline_ = wholeDeadline_;
+    if (begun_) {
+        std::exchange(begun_, nullptr)(pieces_->Begun());
+    }
+}
+
+// False when there are no more, or the decoder does not take it any more that its piece was taken.
+bool DecoderReader::TakePiece() {
+    const std::byte* const pieces =
+        pieces_->IsWhole() ? nullptr
+                           : memory_->Map(PieceLayout(Turned(pieces_->First().bitmap,
+                                                             pieces_->First().orientation))
+                                              .Length());
+    if (pieces == nullptr) {
+        return false;
+    }
+    pieces_->TakePiece(pieces);
+    return process_.Send(&request_.number, sizeof request_.number);
+}
+
+// By a fresh decoder: the one at hand may be at anything.
+void DecoderReader::AskForWhole() {
+    pieces_.reset();
+    deadline_ = wholeDeadline_;
+    request_.inPieces = false;
+    ++request_.number;
+    Restart();
+    Ask();
+}
+
 void DecoderReader::FinishWithoutMetadata() {
     LoadedPicture picture = PictureFrom(*first_, UnreadMetadata());
     Restart();
     Finish(std::move(picture));
 }
 
-FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer) {
-    const std::uint64_t place = RowBytes(*first_) + first_->attributesLength;
+FileMetadata DecoderReader::MetadataFrom(const DecoderAnswer& answer, const DecoderAnswer& first) {
+    const std::uint64_t place = PlaceBehindRows(first) + first.attributesLength;
     const std::byte* const bytes = memory_->Map(place + answer.metadataLength);
     if (bytes == nullptr) {
         return UnreadMetadata();
@@ -198,6 +297,11 @@ void DecoderReader::Died() {
         FinishWithoutMetadata();
         return;
     }
+    if (pieces_ && !pieces_->HasMetadata()) {
+        AskForWhole();
+        return;
+    }
+    pieces_.reset();
     const int signal = process_.Reap();
     // Killed from outside: that was not the photo's fault.
     if (signal == SIGKILL && !askedTwice_) {
@@ -216,8 +320,11 @@ void DecoderReader::Finish(LoadedPicture picture) {
     const bool wasAsked = static_cast<bool>(photo_);
     photo_ = Descriptor();
     first_.reset();
+    pieces_.reset();
+    begun_ = nullptr;
     if (wasAsked && picture.outcome != LoadOutcome::Loaded) {
         memoryFiles_->DropSpare();
+        pixelMemory_->DropSpare();
         memory_.reset();
         Restart();
     }

@@ -10,6 +10,7 @@
 #include "decoder/process/decoder_process.h"
 #include "decoder/process/photo_file.h"
 #include "decoder/process/picture_reader.h"
+#include "decoder/process/pieced_picture.h"
 #include "decoder/process/shared_memory.h"
 
 namespace varnel {
@@ -29,6 +30,7 @@ class DecoderReader : public PictureReader {
 
   private:
     void Ask();
+    void Listen(int milliseconds);
     void Restart();
     void TakeAllTypes();
     void Finish(LoadedPicture picture);
@@ -36,8 +38,13 @@ class DecoderReader : public PictureReader {
     void Died();
     Reason TookTooLong() const;
     void Heard(const DecoderAnswer& answer);
+    void HeardOfPieces(const DecoderAnswer& answer);
+    void BeginPieces(const DecoderAnswer& first);
+    void TakeMetadataOfPieces(const DecoderAnswer& answer);
+    bool TakePiece();
+    void AskForWhole();
     void FinishWithoutMetadata();
-    FileMetadata MetadataFrom(const DecoderAnswer& answer);
+    FileMetadata MetadataFrom(const DecoderAnswer& answer, const DecoderAnswer& first);
     LoadedPicture PictureFrom(const DecoderAnswer& answer, const FileMetadata& metadata);
     void TakePixels(const DecoderAnswer& answer, LoadedPicture& picture);
 
@@ -49,11 +56,15 @@ class DecoderReader : public PictureReader {
     Reason startError_;
     std::shared_ptr<MemoryFiles> memoryFiles_ = std::make_shared<MemoryFiles>();
     std::unique_ptr<SharedMemory> memory_;  // of the picture under way
+    std::shared_ptr<PixelMemory> pixelMemory_ = std::make_shared<PixelMemory>();
     Descriptor photo_;
     DecoderRequest request_;
     QDeadlineTimer deadline_;
+    QDeadlineTimer wholeDeadline_;  // while the metadata have one of their own
     bool askedTwice_ = false;
     std::optional<DecoderAnswer> first_;  // the pixels', when the metadata follow
+    std::optional<PiecedPicture> pieces_;
+    std::function<void(LoadedPicture)> begun_;
     std::optional<LoadedPicture> answer_;
 };
 

@@ -15,7 +15,7 @@ namespace varnel {
 namespace {
 
 std::optional<LoadedPicture> Picture(std::FILE* photo, const ReadRequest& request,
-                                     std::uint64_t memory, const RowsFor& rowsFor) {
+                                     std::uint64_t memory, const PixelPlace& place) {
     if (request.kind == ReadKind::Facts) {
         return IsJpeg(PictureFile(photo))
                    ? std::optional(LoadedPicture{LoadOutcome::Loaded, nullptr, {}, {}})
@@ -23,7 +23,7 @@ std::optional<LoadedPicture> Picture(std::FILE* photo, const ReadRequest& reques
     }
     const LibraryMessages messages;
     try {
-        return DecodeOrdinaryJpeg(photo, request, memory, rowsFor, messages);
+        return DecodeOrdinaryJpeg(photo, request, memory, place, messages);
     } catch (const std::bad_alloc&) {
         return LoadedPicture::Refused(ReasonCode::NotEnoughMemory);
     }

@@ -17,9 +17,9 @@ void Prepare() {
 }
 
 std::optional<LoadedPicture> Picture(std::FILE* photo, const ReadRequest& request,
-                                     std::uint64_t memory, const RowsFor& rowsFor) {
+                                     std::uint64_t memory, const PixelPlace& place) {
     return request.kind == ReadKind::Facts ? LoadedPicture{LoadOutcome::Loaded, nullptr, {}, {}}
-                                           : DecodePicture(photo, request, memory, rowsFor);
+                                           : DecodePicture(photo, request, memory, place);
 }
 
 }  // namespace

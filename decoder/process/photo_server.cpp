@@ -14,6 +14,7 @@
 #include "base/huge_pages.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/process/decoder_socket.h"
+#include "decoder/process/handover.h"
 #include "decoder/process/protocol.h"
 #include "decoder/process/sandbox.h"
 #include "remap/image/pixel_format.h"
@@ -21,70 +22,6 @@
 namespace varnel {
 
 namespace {
-
-// Memory files stay mapped while they take turns: to map one anew for each small photo costs as
-// much time as a tenth of its decoding.
-class MappedFiles {
-  public:
-    // The first bytes of that memory file, which is so long; null when there is no memory for them.
-    std::byte* Map(std::uint32_t name, int file, std::size_t length) {
-        Mapped& mapped = Find(name);
-        if (mapped.name != name || mapped.length < length) {
-            if (mapped.bytes != nullptr) {
-                munmap(mapped.bytes, mapped.length);
-            }
-            // All at once: one fault for each page costs as much time as half the decoding.
-            void* const bytes =
-                mmap(nullptr, length, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE, file, 0);
-            mapped = bytes == MAP_FAILED ? Mapped{}
-                                         : Mapped{name, static_cast<std::byte*>(bytes), length};
-        }
-        return mapped.bytes;
-    }
-
-  private:
-    struct Mapped {
-        std::uint32_t name = 0;
-        std::byte* bytes = nullptr;
-        std::size_t length = 0;
-    };
-    // Its place, or that of the one that was not used last.
-    Mapped& Find(std::uint32_t name) {
-        last_ = mapped_[last_].name == name ? last_ : 1 - last_;
-        return mapped_[last_];
-    }
-
-    std::array<Mapped, 2> mapped_;
-    std::size_t last_ = 0;
-};
-
-// The memory file of the photo at hand, where its picture goes.
-class Handover {
-  public:
-    Handover(MappedFiles& mapped, std::uint32_t name, int file)
-        : mapped_(mapped), name_(name), file_(file) {}
-
-    // Null when there is no memory for them.
-    std::byte* Rows(std::size_t length) {
-        return Lengthen(length) ? mapped_.Map(name_, file_, length) : nullptr;
-    }
-    bool WriteAt(std::size_t place, const QByteArray& block) const {
-        return Lengthen(place + static_cast<std::size_t>(block.size())) &&
-               pwrite(file_, block.constData(), static_cast<std::size_t>(block.size()),
-                      static_cast<off_t>(place)) == static_cast<ssize_t>(block.size());
-    }
-
-  private:
-    // The file only grows: a longer one of an earlier picture stays as it is.
-    bool Lengthen(std::size_t length) const {
-        return lseek(file_, 0, SEEK_END) >= static_cast<off_t>(length) ||
-               ftruncate(file_, static_cast<off_t>(length)) == 0;
-    }
-
-    MappedFiles& mapped_;
-    std::uint32_t name_;
-    int file_;
-};
 
 // False when there is no memory for rows and attributes.
 bool HandOver(const Bitmap& bitmap, const QByteArray& attributes, const DecoderAnswer& answer,
@@ -129,25 +66,23 @@ DecoderAnswer AnswerFor(const LoadedPicture& picture, const DecoderRequest& requ
     return answer;
 }
 
-// The pixels are the parent's already: should the metadata end this process, they are not lost.
-bool SendMetadata(const QByteArray& block, const DecoderAnswer& first, Handover& handover) {
-    DecoderAnswer answer;
-    answer.number = first.number;
-    if (static_cast<std::uint64_t>(block.size()) <= longestBlock &&
-        handover.WriteAt(RowBytes(first) + first.attributesLength, block)) {
-        answer.metadataLength = static_cast<std::uint64_t>(block.size());
-    }
-    return SendMessage(decoderSocket, &answer, sizeof answer);
-}
-
 std::optional<LoadedPicture> Decoded(std::FILE* photo, const PhotoReaders& readers,
-                                     const DecoderRequest& request, Handover& handover) {
+                                     const DecoderRequest& request, Handover& handover,
+                                     PieceHandover& pieces) {
     return readers.picture(
         photo, {{}, request.kind, request.box, request.upright, request.depth, request.raw},
-        request.memory, [&handover](PixelSize size, PixelFormat format) {
-            return handover.Rows(RowPitch(size.width, format) *
-                                 static_cast<std::size_t>(size.height));
-        });
+        request.memory,
+        {[&handover](PixelSize size, PixelFormat format) {
+             return handover.Rows(RowPitch(size.width, format) *
+                                  static_cast<std::size_t>(size.height));
+         },
+         request.kind == ReadKind::Whole ? &pieces : nullptr});
+}
+
+QByteArray PackedMetadata(std::FILE* photo, const PhotoReaders& readers,
+                          const MetadataRequest& wanted) {
+    LimitMetadata(PictureFile(photo).Length());
+    return PackFileMetadata(readers.metadata(photo, wanted));
 }
 
 bool LeaveToOther(const DecoderRequest& request) {
@@ -171,9 +106,17 @@ bool Serve(const PhotoReaders& readers, MappedFiles& mapped) {
         return false;
     }
     Handover handover(mapped, request.memoryFile, files[1].Get());
-    std::optional<LoadedPicture> picture = Decoded(photo.get(), readers, request, handover);
+    PieceHandover pieces(request, handover, [&](const LoadedPicture& begun) {
+        QByteArray block = PackedMetadata(photo.get(), readers, WantedFor(begun));
+        LimitNextPhoto(request.memory, request.seconds);
+        return block;
+    });
+    std::optional<LoadedPicture> picture = Decoded(photo.get(), readers, request, handover, pieces);
     if (!picture) {
         return LeaveToOther(request);
+    }
+    if (pieces.Begun()) {
+        return pieces.End(*picture);
     }
     DecoderAnswer answer = AnswerFor(*picture, request, handover);
     const MetadataRequest wanted = WantedFor(*picture);
@@ -187,8 +130,8 @@ bool Serve(const PhotoReaders& readers, MappedFiles& mapped) {
     if (!hasMetadata) {
         return true;
     }
-    LimitMetadata(PictureFile(photo.get()).Length());
-    return SendMetadata(PackFileMetadata(readers.metadata(photo.get(), wanted)), answer, handover);
+    // The pixels are the parent's already: should the metadata end this process, they are not lost.
+    return SendMetadata(PackedMetadata(photo.get(), readers, wanted), answer, handover);
 }
 
 }  // namespace

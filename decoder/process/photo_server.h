@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "decoder/formats/rows_for.h"
+#include "decoder/formats/row_pieces.h"
 #include "decoder/metadata/read_metadata.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
@@ -21,7 +21,7 @@ struct PhotoReaders {
     // The picture, as DecodePicture does it; of a request for the facts alone, that it is there.
     // Nothing for what the process has no reader for: that is left to another program.
     std::optional<LoadedPicture> (*picture)(std::FILE* photo, const ReadRequest& request,
-                                            std::uint64_t memory, const RowsFor& rowsFor);
+                                            std::uint64_t memory, const PixelPlace& place);
     FileMetadata (*metadata)(std::FILE* photo, const MetadataRequest& request);
 };
 

@@ -13,7 +13,9 @@ constexpr int betweenQuestions = 15;  // ms; events are handled that often while
 
 LoadedPicture ReadPicture(PictureReader& reader, const ReadRequest& request,
                           const KeepReading& keepReading) {
-    reader.Begin(request);
+    ReadRequest asked = request;
+    asked.inPieces = true;
+    reader.Begin(asked);
     while (!reader.Wait(betweenQuestions)) {
         if (keepReading && !keepReading()) {
             reader.Cancel();

@@ -57,8 +57,7 @@ bool IsConsistentWithoutPixels(const DecoderAnswer& answer, const DecoderRequest
             SizeError(answer.size.width, answer.size.height, request.memory).isEmpty());
 }
 
-bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request,
-                      std::uint64_t memoryFileLength) {
+bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request) {
     const PixelSize bitmap = answer.bitmap;
     if (answer.format > static_cast<std::uint32_t>(lastPhotoFormat)) {
         return false;
@@ -79,30 +78,65 @@ bool BelievablePixels(const DecoderAnswer& answer, const DecoderRequest& request
         return false;
     }
     return answer.pitch == RowPitch(bitmap.width, format) &&
-           answer.attributesLength <= longestBlock &&
-           RowBytes(answer) + answer.attributesLength <= memoryFileLength;
+           answer.attributesLength <= longestBlock;
+}
+
+// Whether rows and attributes are there.
+bool FitsIn(const DecoderAnswer& answer, std::uint64_t memoryFileLength) {
+    return PlaceBehindRows(answer) + answer.attributesLength <= memoryFileLength;
+}
+
+bool IsForRequest(const DecoderAnswer& answer, const DecoderRequest& request) {
+    return answer.number == request.number && answer.reasonLength <= longestReason &&
+           IsOrientation(answer.orientation) && (answer.orientation == 1 || request.upright);
 }
 
 }  // namespace
 
 bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
                   std::uint64_t memoryFileLength) {
-    if (answer.number != request.number || answer.reasonLength > longestReason ||
+    if (!IsForRequest(answer, request) ||
         answer.outcome > static_cast<std::uint32_t>(LoadOutcome::NotLoaded) ||
-        !IsConsistentReason(answer) || !IsOrientation(answer.orientation) ||
-        (answer.orientation != 1 && !request.upright)) {
+        !IsConsistentReason(answer)) {
         return false;
     }
     const bool hasPixels = request.kind != ReadKind::Size && request.kind != ReadKind::Facts &&
                            answer.outcome != static_cast<std::uint32_t>(LoadOutcome::NotLoaded);
-    return hasPixels ? BelievablePixels(answer, request, memoryFileLength)
+    return hasPixels ? BelievablePixels(answer, request) && FitsIn(answer, memoryFileLength)
                      : IsConsistentWithoutPixels(answer, request);
+}
+
+bool IsConsistentInPieces(const DecoderAnswer& answer, const DecoderRequest& request,
+                          std::uint64_t memoryFileLength) {
+    return request.inPieces && answer.outcome == inPieces && IsForRequest(answer, request) &&
+           answer.format == static_cast<std::uint32_t>(PixelFormat::Bgr8) &&
+           BelievablePixels(answer, request) && FitsIn(answer, memoryFileLength);
+}
+
+bool IsConsistentEnd(const DecoderAnswer& answer, const DecoderRequest& request) {
+    return IsForRequest(answer, request) &&
+           answer.outcome <= static_cast<std::uint32_t>(LoadOutcome::Damaged) &&
+           IsConsistentReason(answer);
 }
 
 bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
                           std::uint64_t memoryFileLength) {
     return answer.number == first.number && answer.metadataLength <= longestBlock &&
-           RowBytes(first) + first.attributesLength + answer.metadataLength <= memoryFileLength;
+           PlaceBehindRows(first) + first.attributesLength + answer.metadataLength <=
+               memoryFileLength;
+}
+
+PieceLayout::PieceLayout(PixelSize size) : pitch(RowPitch(size.width)), stored(size) {
+    // Together they stay in a core's cache; in whole blocks of the coding.
+    constexpr std::size_t most = std::size_t{256} << 10;
+    constexpr int blockRows = 16;
+    rows = std::max(static_cast<int>(most / pitch) / blockRows, 1) * blockRows;
+    count = (size.height + rows - 1) / rows;
+}
+
+std::uint64_t PlaceBehindRows(const DecoderAnswer& first) {
+    return first.outcome == inPieces ? PieceLayout(Turned(first.bitmap, first.orientation)).Length()
+                                     : RowBytes(first);
 }
 
 void SetReason(DecoderAnswer& answer, const Reason& reason) {

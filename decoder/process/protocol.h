@@ -26,6 +26,7 @@ struct DecoderRequest {
     std::uint32_t seconds = 0;     // of processor time that it may take, about
     std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
     bool upright = true;
+    bool inPieces = false;  // a large picture may come so
     ReadDepth depth = ReadDepth::Eight;
     RawDevelopment raw{};
 };
@@ -39,10 +40,41 @@ inline constexpr std::uint32_t triedForbidden = 0xF0;
 // In place of an outcome: the photo is none of those that this decoder reads.
 inline constexpr std::uint32_t leftToOther = 0xF1;
 
-// The memory file holds the rows, bottom row first, then what else belongs to the picture.
+// In place of an outcome: the picture comes in pieces. The answer tells of the picture as any
+// other, the second one of its metadata; then each piece is told of with rowsCame, from the top of
+// the picture as it is stored. The last answer has the outcome, without pixels, or is rowsGivenUp:
+// then the picture is to be asked for as a whole. The memory file holds the pieces in turns, then
+// what else belongs to the picture. The parent tells the decoder of each piece that it has taken,
+// by the request's number alone.
+inline constexpr std::uint32_t inPieces = 0xF2;
+inline constexpr std::uint32_t rowsCame = 0xF3;
+inline constexpr std::uint32_t rowsGivenUp = 0xF4;
+
+// The pieces of a picture of 24 bits and this size, as it is stored.
+struct PieceLayout {
+    static constexpr int inTurns = 4;  // pieces in the memory file
+
+    int rows = 0;           // of all pieces but the last
+    int count = 0;          // pieces
+    std::size_t pitch = 0;  // bytes from row to row
+    PixelSize stored{};
+
+    explicit PieceLayout(PixelSize size);
+    std::uint64_t PieceBytes() const { return pitch * static_cast<std::size_t>(rows); }
+    // Where the n-th lies in the memory file.
+    std::uint64_t Place(int n) const {
+        return PieceBytes() * (static_cast<std::uint64_t>(n) % inTurns);
+    }
+    // Bytes of the memory file that they take.
+    std::uint64_t Length() const { return PieceBytes() * inTurns; }
+};
+// Pictures with fewer bytes come at once: they are read in a moment.
+inline constexpr std::uint64_t fewestBytesForPieces = std::uint64_t{4} << 20;
+
+// Else the memory file holds the rows, bottom row first, then what else belongs to the picture.
 struct DecoderAnswer {
     std::uint32_t number = 0;
-    std::uint32_t outcome = 0;  // as LoadOutcome, or triedForbidden
+    std::uint32_t outcome = 0;  // as LoadOutcome, or one of the above
     PixelSize size{};           // of the full picture
     PixelSize bitmap{};         // of the pixels in the memory file, 0 x 0 when there are none
     std::uint32_t format = 0;   // a PixelFormat
@@ -66,9 +98,17 @@ inline std::uint64_t RowBytes(const DecoderAnswer& answer) {
 bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
                   std::uint64_t memoryFileLength);
 
+// The same of the first answer of a picture that comes in pieces, and of the last.
+bool IsConsistentInPieces(const DecoderAnswer& answer, const DecoderRequest& request,
+                          std::uint64_t memoryFileLength);
+bool IsConsistentEnd(const DecoderAnswer& answer, const DecoderRequest& request);
+
 // The second answer, of which nothing but number and length of the metadata counts: likewise.
 bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
                           std::uint64_t memoryFileLength);
+
+// Where attributes and metadata begin in the memory file.
+std::uint64_t PlaceBehindRows(const DecoderAnswer& first);
 
 // Puts the reason into the answer, its texts cut where it would be too long, and takes it out
 // again: nothing when its bytes are no sound reason.

@@ -4,7 +4,10 @@
 // What comes of reading a photo. Throws nothing.
 #pragma once
 
+#include <memory>
+
 #include "base/reason.h"
+#include "decoder/request/arriving_picture.h"
 #include "remap/image/bitmap.h"
 #include "remap/image/photo_metadata.h"
 
@@ -23,6 +26,7 @@ struct LoadedPicture {
     PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
     PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
     int orientation = 1;       // that the file states and that was undone, as EXIF counts
+    std::shared_ptr<ArrivingPicture> arriving{};  // while the bitmap's rows are on their way
 
     static LoadedPicture Refused(const Reason& reason) {
         return {LoadOutcome::NotLoaded, nullptr, reason, {}};

@@ -6,8 +6,10 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 #include "base/pixel_size.h"
+#include "decoder/request/loaded_picture.h"
 
 namespace varnel {
 
@@ -41,6 +43,12 @@ struct ReadRequest {
     bool upright = true;  // turned as its EXIF orientation says; raw files are at any rate
     ReadDepth depth = ReadDepth::Eight;
     RawDevelopment raw{};
+    // Whoever asks goes on asking until the answer is there: a large picture then may come in
+    // pieces.
+    bool inPieces = false;
+    // Called at most once while the answer is waited for, with a sound picture of which all but the
+    // rows are there. What the answer will be is another question.
+    std::function<void(LoadedPicture)> begun{};
 };
 
 }  // namespace varnel

@@ -15,12 +15,23 @@
 
 namespace varnel {
 
+namespace {
+
+LoadedPicture Judged(LoadedPicture loaded, const PictureFile& file,
+                     const LibraryMessages& messages) {
+    loaded.reason = DamageOf(InputFormat::Jpeg, file, messages.Lines());
+    loaded.outcome = loaded.reason.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged;
+    return loaded;
+}
+
+}  // namespace
+
 bool IsJpeg(const PictureFile& file) {
     return file.Read(0, 2) == "\xFF\xD8";
 }
 
 std::optional<LoadedPicture> DecodeOrdinaryJpeg(std::FILE* file, const ReadRequest& request,
-                                                std::uint64_t memory, const RowsFor& rowsFor,
+                                                std::uint64_t memory, const PixelPlace& place,
                                                 const LibraryMessages& messages) {
     const PictureFile picture(file);
     const bool isAsked = request.kind == ReadKind::Whole || request.kind == ReadKind::Size;
@@ -41,8 +52,18 @@ std::optional<LoadedPicture> DecodeOrdinaryJpeg(std::FILE* file, const ReadReque
     if (request.kind == ReadKind::Size) {
         return loaded;
     }
-    loaded.bitmap = rowsFor ? BitmapOver(rowsFor(loaded.size, PixelFormat::Bgr8), loaded.size)
-                            : NewBitmap(loaded.size);
+    if (place.pieces != nullptr && place.pieces->Wants(*stored)) {
+        const PiecesEnd end = ReadJpegPieces(file, *stored, orientation, *place.pieces);
+        if (end != PiecesEnd::Whole) {
+            return end == PiecesEnd::NotBegun
+                       ? std::nullopt
+                       : std::optional(LoadedPicture::Refused(ReasonCode::CannotBeDecoded));
+        }
+        loaded.bitmap = std::make_unique<Bitmap>(PixelFormat::Bgr8, loaded.size, nullptr);
+        return Judged(std::move(loaded), picture, messages);
+    }
+    loaded.bitmap = place.rows ? BitmapOver(place.rows(loaded.size, PixelFormat::Bgr8), loaded.size)
+                               : NewBitmap(loaded.size);
     std::optional<BitmapMetadata> metadata;
     if (loaded.bitmap) {
         metadata = ReadJpegPixels(file, *stored, RowsOf(*loaded.bitmap), orientation);
@@ -54,9 +75,7 @@ std::optional<LoadedPicture> DecodeOrdinaryJpeg(std::FILE* file, const ReadReque
     if (!IsProfileForRgb(loaded.bitmap->metadata.colourProfile)) {
         loaded.bitmap->metadata.colourProfile.clear();
     }
-    loaded.reason = DamageOf(InputFormat::Jpeg, picture, messages.Lines());
-    loaded.outcome = loaded.reason.isEmpty() ? LoadOutcome::Loaded : LoadOutcome::Damaged;
-    return loaded;
+    return Judged(std::move(loaded), picture, messages);
 }
 
 }  // namespace varnel

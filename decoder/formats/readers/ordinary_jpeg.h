@@ -10,7 +10,7 @@
 #include <optional>
 
 #include "decoder/formats/picture_file.h"
-#include "decoder/formats/rows_for.h"
+#include "decoder/formats/row_pieces.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
 #include "remap/image/library_messages.h"
@@ -23,9 +23,9 @@ bool IsJpeg(const PictureFile& file);
 // As DecodePicture does, which leaves such photos to this: whole or only the size, from an open
 // file, position anywhere; the messages are collected meanwhile. Nothing, without a message, for
 // files of other types, quick small pictures, and kinds of JPEG that ReadJpegPixels leaves to the
-// image library.
+// image library. What goes in pieces has a bitmap without pixels for its answer.
 std::optional<LoadedPicture> DecodeOrdinaryJpeg(std::FILE* file, const ReadRequest& request,
-                                                std::uint64_t memory, const RowsFor& rowsFor,
+                                                std::uint64_t memory, const PixelPlace& place,
                                                 const LibraryMessages& messages);
 
 }  // namespace varnel

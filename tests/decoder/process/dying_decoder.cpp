@@ -37,6 +37,32 @@ void GoOn(const QByteArray& order, varnel::DecoderAnswer answer) {
     varnel::SendMessage(varnel::decoderSocket, &answer, sizeof answer);
 }
 
+// A picture that is begun in pieces.
+void BeginPieces(const QByteArray& order, varnel::DecoderAnswer answer, int file) {
+    answer.outcome = varnel::inPieces;
+    answer.size = answer.bitmap = {2000, order == "rows too large" ? 40'000 : 1000};
+    answer.pitch = 6000;
+    const varnel::PieceLayout layout(answer.bitmap);
+    (void)!ftruncate(file, static_cast<off_t>(layout.Length()));
+    varnel::SendMessage(varnel::decoderSocket, &answer, sizeof answer);
+    answer.outcome = 0;
+    if (order.startsWith("pieces ")) {
+        GoOn(order.mid(7), answer);
+        return;
+    }
+    varnel::SendMessage(varnel::decoderSocket, &answer, sizeof answer);
+    const int pieces =
+        layout.count + (order == "rows too many" ? 1 : 0) - (order == "rows missing" ? 1 : 0);
+    for (int n = 0; n < pieces; ++n) {
+        answer.outcome = varnel::rowsCame;
+        std::uint32_t taken = 0;
+        varnel::SendMessage(varnel::decoderSocket, &answer, sizeof answer);
+        varnel::ReceiveMessage(varnel::decoderSocket, &taken, sizeof taken, nullptr);
+    }
+    answer.outcome = order == "rows given up" ? varnel::rowsGivenUp : 0;
+    GoOn(order.mid(5), answer);
+}
+
 }  // namespace
 
 int main() {
@@ -51,6 +77,11 @@ int main() {
         varnel::DecoderAnswer answer;
         answer.number = request.number;
         answer.metadataFollows = 1;
+        if (request.inPieces && (order.startsWith("pieces ") || order.startsWith("rows "))) {
+            varnel::SetReason(answer, {});
+            BeginPieces(order, answer, files[1].Get());
+            continue;
+        }
         if (request.kind == varnel::ReadKind::Whole) {
             answer.size = answer.bitmap = {4, 2};
             answer.pitch = 12;

@@ -160,6 +160,10 @@ FrameOutcome FrameOf(const ConvertRequest& request, std::span<ImageRecord> recor
 
 }  // namespace
 
+bool NeedsPixels(const Options& options, const std::optional<GearRecord>& gear) {
+    return !gear || options.curve || options.straighten || options.circle == CircleUse::Found;
+}
+
 StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
                           const std::optional<GearRecord>& gear, const Bitmap* photo) {
     const Options& options = request.options;

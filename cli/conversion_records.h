@@ -38,6 +38,9 @@ struct StartedRecord {
 StartedRecord StartRecord(const ConvertRequest& request, const QString& path, const PhotoSize& size,
                           const std::optional<GearRecord>& gear, const Bitmap* photo);
 
+// Whether that looks at the photo's pixels. Throws nothing.
+bool NeedsPixels(const Options& options, const std::optional<GearRecord>& gear);
+
 // Every record that a photo is converted with, at least one: its projections, or the frames of its
 // sequence, with the frame that the options give them. The fields that --set names have the last
 // word. Throws as MorphFrame and as maps do.

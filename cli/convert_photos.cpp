@@ -123,6 +123,9 @@ class CommandRun : public ConversionObserver {
                                                    settings_.KeepDepth, runner_)
                                    : feed_->Take(path);
         };
+        if (film_ || request_.options.film.frame) {
+            ports.loadEarly = nullptr;
+        }
         if (request_.options.film.frame) {
             ports.readAhead = [this, photos = ports.readAhead](const QString& path) {
                 return photos && !IsFrameOf(path) && photos(path);
@@ -133,6 +136,12 @@ class CommandRun : public ConversionObserver {
                                 const QString& /*path*/) {
                 Reason error = film_->Add(*picture);
                 return SaveResult{error.isEmpty(), std::move(error)};
+            };
+        }
+        if (ports.loadEarly) {
+            ports.loadEarly = [this, early = ports.loadEarly](const QString& path) {
+                reports_.Bar().SetPhoto(path);
+                return early(path);
             };
         }
         if (runner_.Cores() == 1) {
@@ -239,9 +248,13 @@ class CommandRun : public ConversionObserver {
         if (const auto* const error = std::get_if<QString>(&gear)) {
             return {{}, {ReasonCode::Words, *error}};
         }
+        const auto& known = std::get<std::optional<GearRecord>>(gear);
+        if (picture.arriving && NeedsPixels(request_.options, known)) {
+            return {.needsPixels = true};
+        }
         const StartedRecord start =
-            StartRecord(request_, files_[photo], {picture.size, picture.orientation},
-                        std::get<std::optional<GearRecord>>(gear), picture.bitmap.get());
+            StartRecord(request_, files_[photo], {picture.size, picture.orientation}, known,
+                        picture.bitmap.get());
         PhotoRecords records = RecordsFor(request_, start.record, runner_);
         Started& started = started_[photo] = {start.reading, start.notes};
         for (const Reason& note : records.notes) {

@@ -3,13 +3,14 @@
 
 #include "pipeline/conversion/conversion_run.h"
 
-#include <QElapsedTimer>
-#include <QFileInfo>
+#include <thread>
 
 #include "base/error_reason.h"
 #include "base/thread_runner.h"
 #include "pipeline/conversion/lending_steps.h"
-#include "pipeline/conversion/run/result_drawer.h"
+#include "pipeline/conversion/run/early_result.h"
+#include "pipeline/conversion/run/photo_feed.h"
+#include "pipeline/conversion/run/turn.h"
 #include "pipeline/conversion/save_worker.h"
 #include "remap/image/photo_metadata.h"
 #include "state/adjustments/picture_settings.h"
@@ -20,18 +21,6 @@ namespace {
 
 constexpr int betweenEvents = 10;  // ms
 
-// A conversion on its way. The observer is notified of it only when the one before it is done.
-struct Turn {
-    Conversion what{};
-    ConversionOutcome outcome{};
-    DrawnResult drawn{};
-    Reason drawError{};  // of what is drawn as it is written
-    QElapsedTimer sinceBegun{};
-    bool announced = false;
-    float maximum = 0.0F;  // of its progress; 0 until it begins
-    bool rendered = false;
-};
-
 class Run : private RenderProgress {
   public:
     Run(const ConversionPlan& plan, ConversionTargets& targets, ConversionObserver& observer,
@@ -41,6 +30,7 @@ class Run : private RenderProgress {
           observer_(observer),
           ports_(ports),
           overlaps_(ports.readAhead),
+          feed_(plan, ports),
           runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
           series_(LendingSeries(runner_,
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
@@ -58,7 +48,20 @@ class Run : private RenderProgress {
   private:
     void ConvertPhoto() {
         BeginTurn(0, {});
-        LoadedPicture loaded = Load();
+        if (!feed_.HasBegun(photo_)) {
+            FinishWriting();  // it may be what is written, however odd that is
+        }
+        LoadedPicture loaded = feed_.Load(photo_, overlaps_);
+        if (loaded.arriving) {
+            BeginEarly(loaded);
+            loaded = feed_.Whole(photo_);
+            KeepEarlyOf(loaded);
+        }
+        ConvertLoaded(std::move(loaded));
+        DropEarly();
+    }
+
+    void ConvertLoaded(LoadedPicture loaded) {
         if (loaded.reason.Is(ReasonCode::Cancelled)) {
             stopped_ = left_ = true;
             return;
@@ -70,7 +73,7 @@ class Run : private RenderProgress {
         turn_.what.damage = loaded.reason;
         ConversionRecords records;
         const Reason error = Attempt([&] {
-            records = plan_.records(photo_, loaded);
+            records = early_ ? early_->Records() : plan_.records(photo_, loaded);
             loaded.bitmap = drawer_.InWorkingDepth(std::move(loaded.bitmap));
         });
         if (!error.isEmpty() || records.all.empty()) {
@@ -96,8 +99,8 @@ class Run : private RenderProgress {
     }
 
     void BeginTurn(qsizetype index, const Reason& damage) {
-        turn_ = Turn{.what = {photo_, index, {}, {}, damage},
-                     .drawn = {std::move(turn_.drawn.result), nullptr}};
+        auto used = turn_.drawn ? std::move(turn_.drawn) : std::make_shared<DrawnResult>();
+        turn_ = Turn{.what = {photo_, index, {}, {}, damage}, .drawn = std::move(used)};
         turn_.sinceBegun.start();
     }
 
@@ -120,28 +123,34 @@ class Run : private RenderProgress {
         return stopped_;
     }
 
-    // Reading.
+    // What is drawn while the photo is decoded.
 
-    LoadedPicture Load() {
-        if (asked_ <= photo_) {
-            FinishWriting();  // it may be what is written, however odd that is
-            asked_ = photo_ + 1;
+    void BeginEarly(const LoadedPicture& photo) {
+        early_ = std::make_unique<EarlyResult>(plan_, drawer_, turn_.what, photo);
+        if (!early_->CanBe()) {
+            early_.reset();
+            return;
         }
-        LoadedPicture loaded = LoadNow();
-        while (overlaps_ && asked_ < plan_.photos.size() && asked_ <= photo_ + ports_.aheadAtMost &&
-               HasRoomAhead(asked_ - photo_, loaded) && ports_.readAhead(plan_.photos[asked_])) {
-            ++asked_;
-        }
-        if (photo_ + 1 == plan_.photos.size() && ports_.allRead) {
-            ports_.allRead();
-        }
-        return loaded;
+        const auto self = std::this_thread::get_id();
+        worker_.Begin([this, self, drawn = early_->Drawn(), target = early_->Target()] {
+            // Where the system gives no thread nobody would decide.
+            return std::this_thread::get_id() == self ? SaveResult{} : Save(*drawn, target);
+        });
     }
 
-    LoadedPicture LoadNow() {
-        LoadedPicture loaded;
-        const Reason error = Attempt([&] { loaded = ports_.load(plan_.photos[photo_]); });
-        return error.isEmpty() ? std::move(loaded) : LoadedPicture::Refused(error);
+    void KeepEarlyOf(const LoadedPicture& photo) {
+        if (early_ && (photo.outcome != LoadOutcome::Loaded || worker_.Wait(0))) {
+            DropEarly();
+        }
+    }
+
+    void DropEarly() {
+        if (early_) {
+            early_->Decide(false);
+            const CoreLent lent(runner_);
+            worker_.Take();
+            early_.reset();
+        }
     }
 
     void DropSource() {
@@ -206,8 +215,13 @@ class Run : private RenderProgress {
     }
 
     void DrawTurn() {
-        turn_.drawn = drawer_.Draw(bitmaps_, turn_.what.record, std::move(turn_.drawn.result));
-        NoteSettings(turn_.drawn.result.get(), turn_.what.record, plan_.output.writeSettings,
+        if (early_) {
+            turn_.drawn = early_->Drawn();
+            Begin(static_cast<float>(turn_.drawn->result->Size().height));
+            return;
+        }
+        *turn_.drawn = drawer_.Draw(bitmaps_, turn_.what.record, std::move(turn_.drawn->result));
+        NoteSettings(turn_.drawn->result.get(), turn_.what.record, plan_.output.writeSettings,
                      plan_.output.writeMetadata ? turn_.what.target : QString());
     }
 
@@ -215,32 +229,35 @@ class Run : private RenderProgress {
 
     void BeginWriting() {
         Announce();
-        turn_.outcome.size = SizeOf(turn_.drawn.result.get());
+        turn_.outcome.size = SizeOf(turn_.drawn->result.get());
         writing_ = std::move(turn_);
-        turn_.drawn.result = std::move(spare_);
-        worker_.Begin([this] { return Save(*writing_); });
+        turn_.drawn = std::make_shared<DrawnResult>(DrawnResult{std::move(spare_)});
+        if (early_) {
+            early_->Decide(true);
+            early_.reset();
+        } else {
+            worker_.Begin([this] { return Save(*writing_->drawn, writing_->what.target); });
+        }
         if (!overlaps_) {
             FinishWriting();
         }
     }
 
-    SaveResult Save(Turn& turn) {
-        Bitmap* const bitmap = turn.drawn.result.get();
-        const QString& path = turn.what.target;
+    SaveResult Save(DrawnResult& drawn, const QString& path) {
         const OutputChoices& output = plan_.output;
         if (!output.writeMetadata) {
-            DropMetadata(bitmap);
+            DropMetadata(drawn.result.get());
         }
         if (ports_.save) {
-            return ports_.save(output.encoding, bitmap, path);
+            return ports_.save(output.encoding, drawn.result.get(), path);
         }
         SaveResult saved;
         const auto save = [&] {
-            saved = SaveBitmap(output.encoding, bitmap,
-                               FileInSeries{path, series_, turn.drawn.rows.get()}, &runner_);
+            saved = SaveBitmap(output.encoding, drawn.result.get(),
+                               FileInSeries{path, series_, drawn.rows.get()}, &runner_);
         };
-        if (turn.drawn.rows) {
-            turn.drawError = Attempt(save);
+        if (drawn.rows) {
+            drawn.error = Attempt(save);
         } else {
             save();
         }
@@ -255,24 +272,24 @@ class Run : private RenderProgress {
         if (!worker_.Wait(0)) {
             const CoreLent lent(runner_);
             while (!worker_.Wait(betweenEvents)) {
-                if (writing_->drawn.rows) {
-                    observer_.Progress().Advance(static_cast<float>(writing_->drawn.rows->Done()));
+                if (writing_->drawn->rows) {
+                    observer_.Progress().Advance(static_cast<float>(writing_->drawn->rows->Done()));
                 } else {
                     observer_.Progress().HandleEvents();
                 }
             }
         }
-        if (writing_->drawn.rows) {
+        if (writing_->drawn->rows) {
             observer_.Progress().End();
         }
         const SaveResult saved = worker_.Take();
         Turn written = std::move(*writing_);
         writing_.reset();
-        spare_ = written.drawn.rows ? nullptr : std::move(written.drawn.result);
-        written.drawn.rows.reset();
-        if (!written.drawError.isEmpty()) {
+        spare_ = written.drawn->rows ? nullptr : std::move(written.drawn->result);
+        written.drawn->rows.reset();
+        if (!written.drawn->error.isEmpty()) {
             written.outcome.end = ConversionEnd::NotConverted;
-            written.outcome.reason = written.drawError;
+            written.outcome.reason = written.drawn->error;
         } else if (saved) {
             written.outcome.note = saved.note;
             written.outcome.samples = saved.samples;
@@ -355,16 +372,17 @@ class Run : private RenderProgress {
     ConversionObserver& observer_;
     const ConversionPorts& ports_;
     const bool overlaps_;
+    PhotoFeed feed_;
     std::optional<ThreadRunner> own_;
     ThreadRunner& runner_;
     UnfinishedFile unfinished_;  // where no other is given
     FileSeries series_;
     ResultDrawer drawer_;
     qsizetype photo_ = 0;
-    qsizetype asked_ = 0;  // photos that were begun to be read
-    Bitmaps bitmaps_;      // of the photo at hand
+    Bitmaps bitmaps_;  // of the photo at hand
     Turn turn_;
     std::optional<Turn> writing_;
+    std::unique_ptr<EarlyResult> early_;  // which the worker is at
     BitmapHandle spare_;
     bool stopped_ = false;
     bool left_ = false;  // something was not done because of that
@@ -372,23 +390,6 @@ class Run : private RenderProgress {
 };
 
 }  // namespace
-
-ConversionPorts PortsFor(PrefetchingReader& feed) {
-    ConversionPorts ports;
-    ports.load = [&feed](const QString& path) { return feed.Take(path); };
-    ports.cores = feed.Cores();
-    ports.aheadAtMost = feed.Ahead();
-    if (ports.aheadAtMost > 0) {
-        ports.readAhead = [&feed](const QString& path) {
-            const bool isThere = QFileInfo::exists(path);
-            if (isThere) {
-                feed.ReadAhead(path);
-            }
-            return isThere;
-        };
-    }
-    return ports;
-}
 
 ConversionRunEnd RunConversions(const ConversionPlan& plan, ConversionTargets& targets,
                                 ConversionObserver& observer, const ConversionPorts& ports) {

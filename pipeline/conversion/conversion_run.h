@@ -32,6 +32,8 @@ struct OutputChoices {
 struct ConversionRecords {
     std::vector<ImageRecord> all{};
     Reason error{};
+    bool needsPixels =
+        false;  // of a picture whose rows are arriving: to be asked for anew with them
 };
 
 // One result: a photo and one of its records.
@@ -45,7 +47,7 @@ struct Conversion {
 
 struct ConversionPlan {
     QStringList photos;  // in the order in which they are converted
-    // Asked once for each photo, given by its number, when it was read.
+    // Asked for each photo, given by its number, when it was read.
     std::function<ConversionRecords(qsizetype photo, const LoadedPicture& picture)> records;
     // The full path of a result, asked after its photo's records. Throws RunTimeError when a number
     // of the record cannot stand in a name.
@@ -108,7 +110,11 @@ struct ConversionPorts {
     // (save is called on another thread then) while a third is converted. Neither the calls of the
     // observer nor the files show it.
     std::function<bool(const QString& path)> readAhead{};
-    int aheadAtMost = 1;              // photos
+    int aheadAtMost = 1;  // photos
+    // As load, but the picture may be arriving; whole then gives what load would have given. Where
+    // these are there, the rows of a run's only photo are drawn while others are decoded.
+    std::function<LoadedPicture(const QString& path)> loadEarly{};
+    std::function<LoadedPicture(const QString& path)> whole{};
     std::function<void()> allRead{};  // no photo is loaded after this
     // Those that converting and writing share with reading; null: as many as the machine has.
     ThreadRunner* cores = nullptr;

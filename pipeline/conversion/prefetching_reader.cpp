@@ -59,8 +59,26 @@ PictureReader* PrefetchingReader::FreeReader() const {
 void PrefetchingReader::ReadAhead(const QString& path) {
     if (PictureReader* const reader = FreeReader()) {
         underWay_.push_back({path, reader});
-        reader->Begin({path, ReadKind::Whole, {}, choices_.upright, choices_.depth, choices_.raw});
+        reader->Begin(RequestFor(path));
     }
+}
+
+ReadRequest PrefetchingReader::RequestFor(const QString& path) const {
+    return {path, ReadKind::Whole, {}, choices_.upright, choices_.depth, choices_.raw};
+}
+
+LoadedPicture PrefetchingReader::TakeEarly(const QString& path) {
+    if (!thread_ || !underWay_.empty()) {
+        return Take(path);
+    }
+    thread_->BeginEarly(RequestFor(path));
+    underWay_.push_back({path, thread_.get()});
+    return Take(path);
+}
+
+LoadedPicture PrefetchingReader::TakeWhole(const QString& path) {
+    underWay_.push_back({path, thread_.get()});
+    return Take(path);
 }
 
 LoadedPicture PrefetchingReader::Take(const QString& path) {

@@ -32,6 +32,11 @@ class PrefetchingReader {
     // The photo that was started on first, if it is this one; else reads it now, and what was
     // started on is given up.
     LoadedPicture Take(const QString& path);
+    // The same, but a large picture may come as soon as all of it but its rows is there: then it is
+    // arriving, and TakeWhole, to be called once before anything else, gives what Take would have
+    // given.
+    LoadedPicture TakeEarly(const QString& path);
+    LoadedPicture TakeWhole(const QString& path);
     // How many photos may be read ahead at once; none where that would only keep the caller
     // waiting.
     int Ahead() const { return first_.IsApart() ? static_cast<int>(1 + more_.size()) : 0; }
@@ -44,6 +49,7 @@ class PrefetchingReader {
         PictureReader* reader;
     };
     PictureReader* FreeReader() const;
+    ReadRequest RequestFor(const QString& path) const;
     std::optional<CoreLent> Lent();
     void GiveUp();
     LoadedPicture WaitFor(const UnderWay& photo);

@@ -26,6 +26,9 @@ class ReadingThread : public PictureReader {
     ReadingThread& operator=(const ReadingThread&) = delete;
 
     void Begin(const ReadRequest& request) override;
+    // The same, but the answer may be there as soon as all of the picture but its rows is: then it
+    // is arriving, and the next answer is the picture as it came in the end.
+    void BeginEarly(const ReadRequest& request);
     bool Wait(int milliseconds) override;
     LoadedPicture Take() override;
     // The caller's core is given to the thread meanwhile.
@@ -33,13 +36,18 @@ class ReadingThread : public PictureReader {
     bool IsApart() const override { return true; }
 
   private:
+    class Early;
+
     PictureReader& Reader();
+    void Start(const ReadRequest& request, const std::shared_ptr<Early>& early);
+    LoadedPicture Whole();
 
     ThreadRunner& pool_;
     PictureReader* reader_;
     std::unique_ptr<PictureReader> own_;
     bool direct_ = false;                // there was no thread for the last photo
     std::atomic<bool> givenUp_ = false;  // the photo that is being read
+    std::future<LoadedPicture> early_;   // not valid where only the whole picture is waited for
     std::future<LoadedPicture> picture_;
 };
 

@@ -96,7 +96,12 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, cons
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner) {
     return Written(EncodeBitmap(encoding, bitmap, {.runner = runner, .rows = file.rows}),
-                   [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
+                   [&](QByteArrayView bytes) {
+                       if (file.rows != nullptr) {
+                           file.rows->End();
+                       }
+                       return file.series.Write(file.name, bytes);
+                   });
 }
 
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,

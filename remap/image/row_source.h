@@ -18,7 +18,8 @@ class RowSource {
     // bottom row, are there and no other ones; only as long as it runs. Several threads may ask at
     // once. Throws what making the rows and use throw.
     virtual void WithRows(LineRange rows, const std::function<void(const Bitmap&)>& use) const = 0;
-    // No more rows are asked for: what they are made from can go.
+    // No more rows are asked for: what they are made from can go. Throws when those that there were
+    // are not to be used after all.
     virtual void End() {}
 };
 

@@ -11,10 +11,12 @@
 
 namespace varnel {
 
-DrawnRows::DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo)
+DrawnRows::DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo,
+                     std::shared_ptr<const ArrivingRows> arriving)
     : projection_(projection),
       image_(image),
       photo_(photo),
+      arriving_(std::move(arriving)),
       frames_(FramesOf(image, photo.Size(), {})) {
     const ProjectionMaps maps(projection, image, frames_);
     maps.Green().ProgressAt(maps.Green().LastLine());  // an overflow is better found now
@@ -38,7 +40,7 @@ void DrawnRows::WithRows(LineRange rows, const std::function<void(const Bitmap&)
     const BitmapHandle band = BitmapOver(bottom, size, photo_.Format());
     band->metadata.colourProfile = photo_.metadata.colourProfile;
     SerialRunner alone;
-    const RenderSurface surface(&photo_, band.get(), frames_.output, alone);
+    const RenderSurface surface(&photo_, band.get(), frames_.output, alone, arriving_.get());
     const std::unique_ptr<RowRenderer> renderer = RowsOf(projection_, image_, frames_, surface);
     for (int row = rows.first; row <= rows.last; ++row) {
         renderer->DrawRow(row);

@@ -10,6 +10,7 @@
 #include <mutex>
 #include <vector>
 
+#include "base/arriving_rows.h"
 #include "remap/image/row_source.h"
 #include "remap/projection/record_maps.h"
 
@@ -24,9 +25,10 @@ class DrawnRows : public RowSource {
                image.Outside.kind == OutsideFill::Kind::Black;
     }
 
-    // The photo's pixels are kept for as long as this lives. Throws what a conversion throws before
-    // its work.
-    DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo);
+    // The photo's pixels are kept for as long as this lives; where they are arriving, rows are
+    // drawn as soon as what they need is there. Throws what a conversion throws before its work.
+    DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo,
+              std::shared_ptr<const ArrivingRows> arriving = nullptr);
 
     // What a conversion makes of the photo, but for the pixels, which are not there.
     BitmapHandle WithoutPixels() const;
@@ -44,6 +46,7 @@ class DrawnRows : public RowSource {
     Projection projection_;
     ImageRecord image_;
     Bitmap photo_;
+    std::shared_ptr<const ArrivingRows> arriving_;
     Frames frames_;
     mutable std::atomic<int> done_ = 0;
     mutable std::mutex mutex_;

@@ -82,6 +82,9 @@ void RenderSurface::FillAll() const {
 void RenderSurface::FillRow(std::int32_t row) const {
     const auto target = ScanLine(result_, row);
     if (keepsSource_) {
+        if (arriving_ != nullptr) {
+            arriving_->WaitFor(row);
+        }
         std::ranges::copy(ScanLine(source_, row), target.begin());
     } else {
         std::ranges::fill(target, std::uint8_t{0});

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "base/arriving_rows.h"
 #include "remap/image/levels/pixel_levels.h"
 #include "remap/render/render.h"
 
@@ -21,13 +22,16 @@ class RenderSurface {
   public:
     // The frame is the result's, for the source.
     RenderSurface(const Bitmap* source, Bitmap* result, const OutputFrame& frame,
-                  BlockRunner& runner)
+                  BlockRunner& runner, const ArrivingRows* arriving = nullptr)
         : source_(source),
           result_(result),
           runner_(&runner),
+          arriving_(arriving),
           keepsSource_(IsOwnFrame(source, frame)) {}
 
     const Bitmap* Source() const { return source_; }
+    // Of the source, where they have to be waited for; null: all are there.
+    const ArrivingRows* Arriving() const { return arriving_; }
     Bitmap* Result() const { return result_; }
     BlockRunner& Runner() const { return *runner_; }
     PixelSize SourceSize() const { return SizeOf(source_); }
@@ -58,6 +62,7 @@ class RenderSurface {
     const Bitmap* source_ = nullptr;
     Bitmap* result_ = nullptr;
     BlockRunner* runner_ = nullptr;
+    const ArrivingRows* arriving_ = nullptr;
     bool nearest_ = false;
     bool keepsSource_ = false;
 };

@@ -13,19 +13,52 @@
 
 namespace varnel {
 
-BitmapHandle ResultDrawer::InWorkingDepth(BitmapHandle photo) {
+namespace {
+
+class RowsWithEnd : public DrawnRows {
+  public:
+    RowsWithEnd(const ImageRecord& record, const LoadedPicture& photo, std::function<void()> atEnd)
+        : DrawnRows(ProjectionFromIndex(record.Projection), record, *photo.bitmap,
+                    {photo.arriving, &photo.arriving->rows}),
+          atEnd_(std::move(atEnd)) {}
+    void End() override {
+        atEnd_();
+        DrawnRows::End();
+    }
+
+  private:
+    std::function<void()> atEnd_;
+};
+
+}  // namespace
+
+bool ResultDrawer::IsWidened(PixelFormat photo) const {
     const OutputEncoding& encoding = plan_.output.encoding;
-    const bool isWidened =
-        photo && SampleKindOf(photo->Format()) == SampleKind::Byte &&
-        encoding.depth != OutputDepth::Own &&
-        SamplesIn(encoding.type, SamplesFor(encoding.depth, SampleKind::Byte)) != SampleKind::Byte;
-    return isWidened ? InSamples(*photo, SampleKind::Word, runner_) : std::move(photo);
+    return SampleKindOf(photo) == SampleKind::Byte && encoding.depth != OutputDepth::Own &&
+           SamplesIn(encoding.type, SamplesFor(encoding.depth, SampleKind::Byte)) !=
+               SampleKind::Byte;
+}
+
+BitmapHandle ResultDrawer::InWorkingDepth(BitmapHandle photo) {
+    return photo && IsWidened(photo->Format()) ? InSamples(*photo, SampleKind::Word, runner_)
+                                               : std::move(photo);
 }
 
 bool ResultDrawer::IsDrawnByRows(const ImageRecord& record, const Bitmap& photo) const {
     return byRows_ && !plan_.preview && DrawnRows::CanDraw(record) &&
            IsEncodedByRows(plan_.output.encoding, photo.Format(),
                            ResultSizeOf(record, photo.Size()));
+}
+
+std::optional<DrawnResult> ResultDrawer::DrawArriving(const LoadedPicture& photo,
+                                                      const ImageRecord& record,
+                                                      const std::function<void()>& atEnd) const {
+    if (IsWidened(photo.bitmap->Format()) || !IsDrawnByRows(record, *photo.bitmap)) {
+        return std::nullopt;
+    }
+    auto rows = std::make_unique<RowsWithEnd>(record, photo, atEnd);
+    BitmapHandle result = rows->WithoutPixels();
+    return DrawnResult{std::move(result), std::move(rows)};
 }
 
 DrawnResult ResultDrawer::Draw(Bitmaps& bitmaps, const ImageRecord& record, BitmapHandle used) {
@@ -36,7 +69,7 @@ DrawnResult ResultDrawer::Draw(Bitmaps& bitmaps, const ImageRecord& record, Bitm
         auto rows = std::make_unique<DrawnRows>(projection, record, photo);
         BitmapHandle result = rows->WithoutPixels();
         progress_.Begin(static_cast<float>(result->Size().height));
-        return {std::move(result), std::move(rows)};
+        return {std::move(result), std::move(rows), {}};
     }
     if (plan_.preview && !bitmaps.PreviewSourceBitmap) {
         bitmaps.PreviewSourceBitmap =
@@ -46,7 +79,7 @@ DrawnResult ResultDrawer::Draw(Bitmaps& bitmaps, const ImageRecord& record, Bitm
     RenderContext context{bitmaps, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
     Render(projection, record, plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, progress_,
            context);
-    return {std::move(bitmaps.ResultBitmap), nullptr};
+    return {std::move(bitmaps.ResultBitmap), nullptr, {}};
 }
 
 }  // namespace varnel

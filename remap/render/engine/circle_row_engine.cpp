@@ -20,7 +20,7 @@ class CircleRowEngine : public Engine {
           owners_(map, surface.ResultSize().height),
           pieceColumns_(SampleKindOf(surface.Source()->Format()) == SampleKind::Byte ? 256 : 128),
           columns_(Columns(map.Circle(), surface.ResultSize().width)),
-          source_(SourceView::Of(surface.Source())),
+          source_(SourceView::Of(surface.Source(), surface.Arriving())),
           target_(TargetView::Of(surface.Result())) {}
 
     LineRange Lines() const override { return map_.Radii(); }

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <optional>
 
+#include "base/arriving_rows.h"
 #include "remap/image/bitmap.h"
 #include "remap/image/levels/pixel_levels.h"
 
@@ -21,11 +22,19 @@ struct SourceView {
     std::int32_t width = 0;
     std::int32_t height = 0;
     PixelFormat format = PixelFormat::Bgr8;
+    const ArrivingRows* arriving = nullptr;  // where rows have to be waited for
 
-    static SourceView Of(const Bitmap* bitmap) {
+    static SourceView Of(const Bitmap* bitmap, const ArrivingRows* arriving = nullptr) {
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(), static_cast<std::ptrdiff_t>(bitmap->Pitch()), size.width,
-                size.height, bitmap->Format()};
+        return {bitmap->Bits(),   static_cast<std::ptrdiff_t>(bitmap->Pitch()),
+                size.width,       size.height,
+                bitmap->Format(), arriving};
+    }
+    // Before rows from this one on are read.
+    void WaitFor(std::int32_t row) const {
+        if (arriving != nullptr) {
+            arriving->WaitFor(row);
+        }
     }
 
     // x and y are whole; no light off the picture.
@@ -33,6 +42,7 @@ struct SourceView {
         if (!(x >= 0.0 && x < width && y >= 0.0 && y < height)) {
             return noLight;
         }
+        WaitFor(static_cast<std::int32_t>(y));
         return LevelsAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
                             static_cast<std::ptrdiff_t>(x) * PixelStep(format),
                         format);

@@ -123,6 +123,12 @@ inline bool AllInside(VecI x, VecI y, const SourceView source) {
                        hn::And(Within(x, 0, source.width - 3), Within(y, 0, source.height - 2)));
 }
 
+inline void WaitForRows(VecI rows, const SourceView& source) {
+    if (HWY_UNLIKELY(source.arriving != nullptr)) {
+        source.WaitFor(hn::GetLane(hn::MinOfLanes(Ints(), rows)));
+    }
+}
+
 // One node to the next, in all images.
 template <class Blend>
 void SampleSegment(const NodeSpan& span, int n, const std::array<double, 5>& steps) {
@@ -146,6 +152,7 @@ void SampleSegment(const NodeSpan& span, int n, const std::array<double, 5>& ste
             const int pixel = first + k;
             if (plain && pixel >= image.begin && pixel + lanes <= image.end &&
                 AllInside(x.whole, y.whole, source)) {
+                WaitForRows(y.whole, source);
                 Blend::StoreInside(source, x, y, image.target, pixel);
             } else {
                 StoreOddLanes(span, image, x, y, pixel, lanes);
@@ -276,6 +283,7 @@ HWY_INLINE void StoreRowPixels(const SourceView source, const RowPositions& at, 
         if (!fits || end - n < lanes || !Plain(column.whole, row, column.part, source)) {
             StoreRowLanes(source, at, nearest, {n, end}, target);
         } else {
+            WaitForRows(row, source);
             Blend::StoreBetween(source, column, row, target, static_cast<std::ptrdiff_t>(n));
         }
     }

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFileInfo>
 #include <future>
 
 #include "tests/support/bitmaps.h"
@@ -130,6 +132,100 @@ TEST_F(ConversionRunTest, APhotoThatIsGivenUpEndsItUntold) {
     };
     EXPECT_TRUE(Go().stopped);
     EXPECT_EQ(log.join(u' '), Text("begun 0 written 0"));
+}
+
+// A photo that is drawn while it arrives: whatever comes of it in the end, files and log are as if
+// it had been read before anything else.
+class EarlyRunTest : public ConversionRunTest {
+  protected:
+    EarlyRunTest() {
+        plan.photos = {folder.Path(Text("photo"))};
+        plan.output.encoding = {OutputType::Jpeg, 90};
+        plan.drawsByRows = true;
+        plan.target = [this](const Conversion&) { return folder.Path(Text("result.jpg")); };
+        ports.save = nullptr;
+        ports.load = [this](const QString&) { return Picture(); };
+    }
+    LoadedPicture Picture() const {
+        return {outcome,
+                outcome == LoadOutcome::NotLoaded ? nullptr : testing::PositionPicture(size),
+                outcome == LoadOutcome::Loaded ? Reason() : Reason(ReasonCode::FileCutShort), size};
+    }
+    void ArriveEarly() {
+        ports.loadEarly = [this](const QString&) {
+            LoadedPicture early{LoadOutcome::Loaded, NewBitmap(size), {}, size};
+            arriving = early.arriving = std::make_shared<ArrivingPicture>(size.height);
+            rows = std::make_unique<Bitmap>(*early.bitmap);
+            return early;
+        };
+        ports.whole = [this](const QString&) {
+            LoadedPicture whole = Picture();
+            if (whole.bitmap) {
+                std::copy_n(whole.bitmap->Bits(), whole.bitmap->Pitch() * size.height,
+                            rows->Bits());
+            }
+            arriving->isSound = outcome == LoadOutcome::Loaded;
+            arriving->rows.End();
+            return whole;
+        };
+    }
+    QByteArray Result() const { return testing::Contents(folder.Path(Text("result.jpg"))); }
+
+    static constexpr PixelSize size{1500, 800};
+    testing::PictureFolder folder;
+    LoadOutcome outcome = LoadOutcome::Loaded;
+    std::shared_ptr<ArrivingPicture> arriving;
+    BitmapHandle rows;
+};
+
+TEST_F(EarlyRunTest, EndsAsIfThePhotoHadBeenThereFromTheBeginning) {
+    const struct {
+        const char* name;
+        LoadOutcome outcome;
+        bool hasOlderFile;
+        int records;
+        bool needsPixels;
+    } rowsOfTable[] = {
+        {"sound", LoadOutcome::Loaded, false, 1, false},
+        {"over an older file", LoadOutcome::Loaded, true, 1, false},
+        {"damaged", LoadOutcome::Damaged, false, 1, false},
+        {"damaged, not over an older file", LoadOutcome::Damaged, true, 1, false},
+        {"not loaded", LoadOutcome::NotLoaded, true, 1, false},
+        {"two results", LoadOutcome::Loaded, false, 2, false},
+        {"found on its pixels", LoadOutcome::Loaded, false, 1, true},
+    };
+    for (const auto& row : rowsOfTable) {
+        SCOPED_TRACE(row.name);
+        outcome = row.outcome;
+        plan.records = [&row](qsizetype, const LoadedPicture& picture) {
+            return ConversionRecords{
+                std::vector(static_cast<std::size_t>(row.records), testing::FisheyeRecord()),
+                {},
+                row.needsPixels && picture.arriving != nullptr};
+        };
+        QByteArray files[2];
+        QStringList logs[2];
+        for (const int early : {0, 1}) {
+            QFile::remove(folder.Path(Text("result.jpg")));
+            if (row.hasOlderFile) {
+                testing::WriteFile(folder.Path(Text("result.jpg")), "older");
+            }
+            ports.loadEarly = nullptr;
+            if (early == 1) {
+                ArriveEarly();
+            }
+            log.clear();
+            Go();
+            files[early] = Result();
+            logs[early] = log;
+        }
+        EXPECT_EQ(files[1], files[0]);
+        EXPECT_EQ(logs[1].join(u' ').toStdString(), logs[0].join(u' ').toStdString());
+        EXPECT_EQ(QDir(QFileInfo(folder.Path(Text("x"))).path())
+                      .entryList(QDir::Files | QDir::Hidden)
+                      .size(),
+                  files[0].isEmpty() ? 0 : 1);
+    }
 }
 
 TEST(ConversionTargets, RefuseByTheirRules) {

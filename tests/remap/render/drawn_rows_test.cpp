@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstring>
+#include <thread>
+
 #include "base/thread_runner.h"
 #include "remap/encode/encode_bitmap.h"
 #include "remap/projection/projection_info.h"
@@ -40,14 +44,33 @@ QByteArray FileOfWhole(const Bitmap& photo, const ImageRecord& record, BlockRunn
     return EncodeBitmap(OutputType::Jpeg, bitmaps.ResultBitmap.get(), {.runner = &runner}).bytes;
 }
 
-QByteArray FileOfRows(const Bitmap& photo, const ImageRecord& record, BlockRunner& runner) {
-    DrawnRows rows(ProjectionFromIndex(record.Projection), record, photo);
+QByteArray FileOfRows(const Bitmap& photo, const ImageRecord& record, BlockRunner& runner,
+                      const std::shared_ptr<const ArrivingRows>& arriving = nullptr) {
+    DrawnRows rows(ProjectionFromIndex(record.Projection), record, photo, arriving);
     const BitmapHandle frame = rows.WithoutPixels();
     EXPECT_TRUE(IsEncodedByRows(OutputType::Jpeg, frame->Format(), photoSize));
     QByteArray file =
         EncodeBitmap(OutputType::Jpeg, frame.get(), {.runner = &runner, .rows = &rows}).bytes;
     EXPECT_EQ(rows.Done(), frame->Size().height);
     return file;
+}
+
+// From a photo whose rows are not there when drawing begins.
+QByteArray FileOfArrivingRows(const Bitmap& photo, const ImageRecord& record, BlockRunner& runner) {
+    const BitmapHandle late = NewBitmap(photoSize);
+    late->metadata = photo.metadata;
+    std::memset(late->Bits(), 0x55, late->Pitch() * photoSize.height);
+    const auto arriving = std::make_shared<ArrivingRows>(photoSize.height);
+    const std::jthread decoder([&] {
+        for (int y = photoSize.height - 1; y >= 0; --y) {
+            std::ranges::copy(photo.ScanLine(y), late->ScanLine(y).begin());
+            if (y % 60 == 0) {
+                std::this_thread::sleep_for(std::chrono::microseconds(300));
+                arriving->Came(y);
+            }
+        }
+    });
+    return FileOfRows(*late, record, runner, arriving);
 }
 
 struct Change {
@@ -89,6 +112,8 @@ TEST(DrawnRows, GiveTheFileOfTheWholeResult) {
             ASSERT_FALSE(whole.isEmpty());
             EXPECT_EQ(FileOfRows(*photo, record, runner), whole)
                 << ToText(projection).toStdString() << ", " << change.name;
+            EXPECT_EQ(FileOfArrivingRows(*photo, record, runner), whole)
+                << ToText(projection).toStdString() << ", " << change.name << ", arriving";
         }
     }
 }

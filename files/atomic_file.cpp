@@ -11,6 +11,7 @@
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
+#include <optional>
 #include <utility>
 
 #include "files/file_operations.h"
@@ -39,19 +40,10 @@ class TempFile {
     }
 
     WriteResult Write(QByteArrayView bytes) {
-        const bool ok = Create() && WriteAll(bytes) && KeepPermissions() &&
-                        Check(Sync(), ReasonCode::WhileSyncing) && Close() && Rename();
+        const bool ok = Create() && WriteAll(bytes) && Finish();
         return {ok, reason_};
     }
-
-  private:
-    bool Check(qint64 result, ReasonCode doing) {
-        if (result == -1) {
-            reason_ = {doing, SystemReason(errno)};
-        }
-        return result != -1;
-    }
-
+    // The steps of it, each false when it failed.
     bool Create() {
         const QByteArray folder = FolderOf(target_.name);
         // A photo that only its owner may read stays so while it is written.
@@ -75,17 +67,6 @@ class TempFile {
         errno = EEXIST;
         return Check(-1, ReasonCode::WhileCreating);
     }
-
-    // False when another program removed it as a stray before it was locked. On file systems
-    // without locks no program removes strays, and the file is safe without a lock.
-    bool Lock(const QByteArray& name) {
-        lock_ = operations_.Lock(file_);
-        if (lock_ == -1 && errno == EWOULDBLOCK) {
-            return false;
-        }
-        return ::fstat(file_, &identity_) == 0 && IsNamed(identity_, name);
-    }
-
     bool WriteAll(QByteArrayView bytes) {
         while (!bytes.isEmpty()) {
             const qint64 length = std::min<qint64>(bytes.size(), largestPiece);
@@ -102,6 +83,41 @@ class TempFile {
             bytes = bytes.sliced(written);
         }
         return true;
+    }
+    // Has the system begin to write bytes to the disk, which has less to do when all are synced
+    // then. A hint: it may fail.
+    void BeginToStore(qint64 place, qint64 length) const {
+#ifdef Q_OS_LINUX
+        ::sync_file_range(file_, place, length, SYNC_FILE_RANGE_WRITE);
+#endif
+    }
+    // What follows is written from the start on.
+    bool GoToStart() {
+        return Check(::lseek(file_, 0, SEEK_SET), ReasonCode::WhileWriting);
+    }
+    bool Finish() {
+        return KeepPermissions() && Check(Sync(), ReasonCode::WhileSyncing) && Close() && Rename();
+    }
+    const Reason& Error() const {
+        return reason_;
+    }
+
+  private:
+    bool Check(qint64 result, ReasonCode doing) {
+        if (result == -1) {
+            reason_ = {doing, SystemReason(errno)};
+        }
+        return result != -1;
+    }
+
+    // False when another program removed it as a stray before it was locked. On file systems
+    // without locks no program removes strays, and the file is safe without a lock.
+    bool Lock(const QByteArray& name) {
+        lock_ = operations_.Lock(file_);
+        if (lock_ == -1 && errno == EWOULDBLOCK) {
+            return false;
+        }
+        return ::fstat(file_, &identity_) == 0 && IsNamed(identity_, name);
     }
 
     // File systems without permissions may refuse. Then the file is less open than the older one
@@ -159,6 +175,53 @@ class TempFile {
     Reason reason_;
 };
 
+// A hidden file that grows.
+class TempSink : public FileSink {
+  public:
+    TempSink(const WriteTarget& target, FileOperations& operations)
+        : target_(target), operations_(operations) {}
+
+    bool Begin() override {
+        file_.reset();
+        file_.emplace(target_, operations_);
+        length_ = stored_ = 0;
+        return Noted(file_->Create());
+    }
+    bool Append(QByteArrayView bytes) override {
+        if (!Noted(file_->WriteAll(bytes))) {
+            return false;
+        }
+        length_ += bytes.size();
+        if (length_ - stored_ >= bytesAtOnce) {
+            file_->BeginToStore(stored_, length_ - stored_);
+            stored_ = length_;
+        }
+        return true;
+    }
+    bool PutAtStart(QByteArrayView bytes) override {
+        return Noted(file_->GoToStart() && file_->WriteAll(bytes));
+    }
+    bool Finish() { return (file_ || Begin()) && Noted(file_->Finish()); }
+    const Reason& Error() const override { return error_; }
+
+  private:
+    static constexpr qint64 bytesAtOnce = 8 << 20;
+
+    bool Noted(bool ok) {
+        if (!ok) {
+            error_ = file_->Error();
+        }
+        return ok;
+    }
+
+    const WriteTarget& target_;
+    FileOperations& operations_;
+    std::optional<TempFile> file_;
+    qint64 length_ = 0;
+    qint64 stored_ = 0;  // bytes that the system was told to write to the disk
+    Reason error_;
+};
+
 }  // namespace
 
 WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes, FileOperations& operations) {
@@ -187,6 +250,24 @@ FileSeries::~FileSeries() {
 }
 
 WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
+    return WriteFile(path, [&](const WriteTarget& target) {
+        return TempFile(target, *operations_).Write(bytes);
+    });
+}
+
+WriteResult FileSeries::Write(const QString& path, const std::function<Reason(FileSink&)>& fill) {
+    return WriteFile(path, [&](const WriteTarget& target) -> WriteResult {
+        TempSink sink(target, *operations_);
+        const Reason missing = fill(sink);
+        if (!missing.isEmpty()) {
+            return {false, missing};
+        }
+        return {sink.Finish(), sink.Error()};
+    });
+}
+
+WriteResult FileSeries::WriteFile(const QString& path,
+                                  const std::function<WriteResult(const WriteTarget&)>& write) {
     const WriteTarget target = FindWriteTarget(path);
     if (!target.error.isEmpty()) {
         return {false, target.error};
@@ -196,7 +277,7 @@ WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
         RemoveStrays(folder);
         folder_ = folder;
     }
-    WriteResult written = TempFile(target, *operations_).Write(bytes);
+    WriteResult written = write(target);
     unsynced_ += written ? 1 : 0;
     if (!written || unsynced_ == mostUnsynced) {
         SyncFolder();
@@ -241,6 +322,38 @@ WriteResult WriteWholeFile(const QString& path, QByteArrayView bytes) {
 
 WriteResult FileSeries::Write(const QString& path, QByteArrayView bytes) {
     return WriteWholeFile(path, bytes);
+}
+
+namespace {
+
+class MemorySink : public FileSink {
+  public:
+    bool Begin() override {
+        bytes.clear();
+        return true;
+    }
+    bool Append(QByteArrayView more) override {
+        bytes += more;
+        return true;
+    }
+    bool PutAtStart(QByteArrayView start) override {
+        bytes.replace(0, start.size(), start.toByteArray());
+        return true;
+    }
+    const Reason& Error() const override { return error_; }
+
+    QByteArray bytes;
+
+  private:
+    Reason error_;
+};
+
+}  // namespace
+
+WriteResult FileSeries::Write(const QString& path, const std::function<Reason(FileSink&)>& fill) {
+    MemorySink sink;
+    const Reason missing = fill(sink);
+    return missing.isEmpty() ? WriteWholeFile(path, sink.bytes) : WriteResult{false, missing};
 }
 
 WriteResult FileSeries::Finish() {

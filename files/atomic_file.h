@@ -10,13 +10,16 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "base/reason.h"
+#include "files/file_sink.h"
 
 namespace varnel {
 
 class FileOperations;
+struct WriteTarget;
 
 // True when the whole file is in place; otherwise with the reason, in which Reason::IsBy finds the
 // system's error.
@@ -54,11 +57,17 @@ class FileSeries {
 #endif
 
     WriteResult Write(const QString& path, QByteArrayView bytes);
+    // The same of bytes that come piece by piece: fill puts them where it is told to, from one
+    // thread at a time, and returns why there is no file, or nothing when it is whole. What it
+    // throws ends the file, too.
+    WriteResult Write(const QString& path, const std::function<Reason(FileSink&)>& fill);
     // Syncs the folder of the last files. A reason names the first folder that could not be synced.
     WriteResult Finish();
 
 #ifdef Q_OS_UNIX
   private:
+    WriteResult WriteFile(const QString& path,
+                          const std::function<WriteResult(const WriteTarget&)>& write);
     void SyncFolder();
 
     std::unique_ptr<FileOperations> operations_;

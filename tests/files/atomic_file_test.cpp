@@ -23,12 +23,15 @@
 #include "base/error_text.h"
 #include "files/file_operations.h"
 #include "files/temp_names.h"
+#include "tests/files/failing_steps.h"
 #include "tests/support/contents.h"
 
 namespace varnel {
 namespace {
 
 using testing::Contents;
+using testing::FailingSteps;
+using testing::Fault;
 using testing::NamesIn;
 using testing::WriteFile;
 
@@ -51,57 +54,29 @@ unsigned Permissions(const QByteArray& name) {
     return ::lstat(name.constData(), &file) == 0 ? file.st_mode & 0777U : 0U;
 }
 
-enum class Fault { Once, Lasting, Kill };
+// At once, or piece by piece and its start at last.
+enum class Way { Whole, Pieces };
 
-// Step n fails, and all after it where the fault is lasting; or the process is killed before step
-// n. Writes five bytes at a time.
-class FailingSteps : public FileOperations {
-  public:
-    FailingSteps(int n, Fault fault) : n_(n), fault_(fault) {}
-    int count = 0;
-
-    int Create(const QByteArray& name, unsigned permissions) override {
-        return Fails() ? -1 : FileOperations::Create(name, permissions);
+WriteResult WriteNewer(const QString& path, FailingSteps& steps, Way way) {
+    if (way == Way::Whole) {
+        return WriteWholeFile(path, newer, steps);
     }
-    int Lock(int file) override { return Fails() ? -1 : FileOperations::Lock(file); }
-    qint64 Write(int file, const char* bytes, qint64 length) override {
-        return Fails() ? -1 : FileOperations::Write(file, bytes, std::min<qint64>(length, 5));
-    }
-    int SetPermissions(int file, unsigned permissions) override {
-        return Fails() ? -1 : FileOperations::SetPermissions(file, permissions);
-    }
-    int Sync(int file) override { return Fails() ? -1 : FileOperations::Sync(file); }
-    int Close(int file) override {
-        const bool fails = Fails();
-        const int result = FileOperations::Close(file);  // closed in any case, as by the system
-        errno = fails ? ENOSPC : errno;
-        return fails ? -1 : result;
-    }
-    int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return Fails() ? -1 : FileOperations::Rename(name, newName);
-    }
-    int SyncFolder(const QByteArray& folder) override {
-        return Fails() ? -1 : FileOperations::SyncFolder(folder);
-    }
-    int Remove(const QByteArray& name) override {
-        return Fails() ? -1 : FileOperations::Remove(name);
-    }
-
-  private:
-    bool Fails() {
-        ++count;
-        if (fault_ == Fault::Kill && count == n_) {
-            std::raise(SIGKILL);
-        }
-        errno = ENOSPC;
-        return fault_ == Fault::Lasting ? count >= n_ : count == n_;
-    }
-    const int n_;
-    const Fault fault_;
-};
+    FileSeries series(std::make_unique<FailingSteps>(steps));
+    WriteResult written = series.Write(path, [](FileSink& sink) {
+        const bool ok = sink.Begin() && sink.Append("xxxxx ") && sink.Append(newer.sliced(6)) &&
+                        sink.PutAtStart(newer.first(6));
+        return ok ? Reason() : sink.Error();
+    });
+    const WriteResult lasting = series.Finish();
+    // The folder's name stands in front of the reason.
+    return !written || lasting ? written
+                               : WriteResult{false,
+                                             {ReasonCode::WhileSyncingFolder,
+                                              Reason(ReasonCode::SystemError, ENOSPC)}};
+}
 
 // The reasons of all failures, n = 1 until clean.
-QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
+QSet<QString> FailEveryStep(Fault fault, const QByteArray& before, Way way) {
     const bool lasting = fault == Fault::Lasting;
     QSet<QString> reasons;
     for (int n = 1;; ++n) {
@@ -111,7 +86,7 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
             ::chmod(folder.Bytes("target").constData(), 0640);
         }
         FailingSteps steps(n, fault);
-        const WriteResult result = WriteWholeFile(folder.Path("target"), newer, steps);
+        const WriteResult result = WriteNewer(folder.Path("target"), steps, way);
         const bool inPlace = result.ok || result.reason.Is(ReasonCode::WhileSyncingFolder);
         EXPECT_EQ(Contents(folder.Path("target")), inPlace ? newer : before) << n;
         EXPECT_NE(result.ok, !result.reason.isEmpty());
@@ -119,7 +94,7 @@ QSet<QString> FailEveryStep(Fault fault, const QByteArray& before) {
         EXPECT_TRUE(!lasting || WriteWholeFile(folder.Path("target"), newer).ok);
         EXPECT_EQ(folder.Names().join(u' '),
                   inPlace || lasting || !before.isEmpty() ? QStringLiteral("target") : QString());
-        if (steps.count < n) {
+        if (steps.Count() < n) {
             EXPECT_TRUE(result.ok);
             EXPECT_GE(n, 9);
             return reasons;
@@ -135,11 +110,15 @@ TEST(WriteWholeFile, NoFailedStepIsASuccessOrCostsTheOlderFile) {
         expected.insert(
             QStringLiteral("No space left on device (while %1)").arg(QLatin1StringView(doing)));
     }
-    EXPECT_EQ(FailEveryStep(Fault::Once, older), expected);
-    EXPECT_EQ(FailEveryStep(Fault::Lasting, older), expected - QSet<QString>{QString()});
-    expected.remove(QStringLiteral("No space left on device (while setting its permissions)"));
-    EXPECT_EQ(FailEveryStep(Fault::Once, {}), expected);
-    EXPECT_EQ(FailEveryStep(Fault::Lasting, {}), expected - QSet<QString>{QString()});
+    QSet<QString> withoutOlder = expected;
+    withoutOlder.remove(QStringLiteral("No space left on device (while setting its permissions)"));
+    const QSet<QString> none{QString()};
+    for (const Way way : {Way::Whole, Way::Pieces}) {
+        EXPECT_EQ(FailEveryStep(Fault::Once, older, way), expected);
+        EXPECT_EQ(FailEveryStep(Fault::Lasting, older, way), expected - none);
+        EXPECT_EQ(FailEveryStep(Fault::Once, {}, way), withoutOlder);
+        EXPECT_EQ(FailEveryStep(Fault::Lasting, {}, way), withoutOlder - none);
+    }
 }
 
 // Whether the child was killed rather than done.

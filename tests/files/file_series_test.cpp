@@ -110,5 +110,36 @@ TEST_F(Series, RemovesStraysOnEnteringAFolderAndAfterAFailure) {
     }
 }
 
+TEST_F(Series, AFileInPiecesMayBeginAnew) {
+    EXPECT_TRUE(series_.Write(Path("a/1"), [](FileSink& sink) {
+        EXPECT_TRUE(sink.Begin() && sink.Append("a long first attempt") && sink.PutAtStart("A"));
+        EXPECT_TRUE(sink.Begin() && sink.Append("newe") && sink.Append("r") &&
+                    sink.PutAtStart("N"));
+        return Reason();
+    }));
+    EXPECT_TRUE(series_.Write(Path("a/2"), [](FileSink&) { return Reason(); }));
+    EXPECT_EQ(Contents(Path("a/1")), "Newer");
+    EXPECT_EQ(NamesIn(Path("a")).join(u' '), QStringLiteral("1 2"));
+}
+
+// It does not cost the older file and leaves nothing of the new one; what is thrown passes.
+TEST_F(Series, AFileInPiecesThatIsNotWholeIsNone) {
+    WriteFile(Path("a/1"), "older");
+    const WriteResult result = series_.Write(Path("a/1"), [](FileSink& sink) {
+        EXPECT_TRUE(sink.Begin() && sink.Append("half of"));
+        return Reason(ReasonCode::CannotBeEncoded);
+    });
+    EXPECT_EQ(result.reason, Reason(ReasonCode::CannotBeEncoded));
+    EXPECT_FALSE(result.ok);
+    EXPECT_THROW(series_.Write(Path("a/1"),
+                               [](FileSink& sink) -> Reason {
+                                   EXPECT_TRUE(sink.Begin() && sink.Append("half of"));
+                                   throw std::bad_alloc();
+                               }),
+                 std::bad_alloc);
+    EXPECT_EQ(Contents(Path("a/1")), "older");
+    EXPECT_EQ(NamesIn(Path("a")).join(u' '), QStringLiteral("1"));
+}
+
 }  // namespace
 }  // namespace varnel

@@ -96,7 +96,8 @@ EncodedBitmap EncodedAsItIs(const OutputEncoding& encoding, const Bitmap& bitmap
         return EncodedOpaque(encoding, bitmap, options);
     }
     EncodedBitmap whole = Encoded(encoding, bitmap, options);
-    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory)) {
+    const bool isFilesFault = options.sink != nullptr && !options.sink->Error().isEmpty();
+    if (whole.reason.isEmpty() || whole.reason.Is(ReasonCode::NotEnoughMemory) || isFilesFault) {
         return whole;
     }
     const struct {
@@ -166,10 +167,16 @@ EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     return file;
 }
 
-bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size) {
+bool IsWorthPieces(PixelSize size) {
     constexpr std::int64_t fewest = 1'000'000;  // pixels
-    return encoding.type == OutputType::Jpeg && format == PixelFormat::Bgr8 &&
-           std::int64_t{size.width} * size.height >= fewest;
+    return std::int64_t{size.width} * size.height >= fewest;
+}
+
+bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size) {
+    const SampleKind own = SampleKindOf(format);
+    const OutputFormat& type = FormatOf(encoding.type);
+    return type.takesRows && SamplesIn(encoding.type, SamplesFor(encoding.depth, own)) == own &&
+           (type.holds.alpha || !HasAlpha(format)) && IsWorthPieces(size);
 }
 
 }  // namespace varnel

@@ -16,8 +16,11 @@ namespace varnel {
 EncodedBitmap EncodeBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                            const EncodeOptions& options = {});
 
+// Whether a picture is large enough for its file to be made piece by piece.
+bool IsWorthPieces(PixelSize size);
+
 // Whether a picture of that format is encoded from rows that come and go (EncodeOptions::rows), and
-// is large enough for that to be worth the while.
+// is large enough for that.
 bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size);
 
 }  // namespace varnel

@@ -114,7 +114,7 @@ WrittenMetadata Assembly::Jpeg() {
 
 WrittenMetadata Assembly::Png() {
     if (!photo_.exif.bytes.isEmpty()) {
-        result_.exif = WrittenExif(photo_.exif, &bitmap_);
+        result_.exif = WrittenExif(photo_.exif, &bitmap_, thumbnail_);
     }
     result_.xmp = Packet();
     result_.iptc = photo_.iptc;
@@ -177,8 +177,8 @@ WrittenMetadata MetadataForJpeg(const Bitmap& bitmap, const Bitmap* thumbnail) {
     return assembly.IsNeeded() ? assembly.Jpeg() : WrittenMetadata();
 }
 
-WrittenMetadata MetadataForPng(const Bitmap& bitmap) {
-    Assembly assembly(bitmap);
+WrittenMetadata MetadataForPng(const Bitmap& bitmap, const Bitmap* thumbnail) {
+    Assembly assembly(bitmap, thumbnail);
     return assembly.IsNeeded() ? assembly.Png() : WrittenMetadata();
 }
 

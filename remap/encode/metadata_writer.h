@@ -24,7 +24,7 @@ struct WrittenMetadata {
 // For a file of each type. A thumbnail is given for a bitmap whose pixels are not there. Throw
 // std::bad_alloc.
 WrittenMetadata MetadataForJpeg(const Bitmap& bitmap, const Bitmap* thumbnail = nullptr);
-WrittenMetadata MetadataForPng(const Bitmap& bitmap);
+WrittenMetadata MetadataForPng(const Bitmap& bitmap, const Bitmap* thumbnail = nullptr);
 WrittenMetadata MetadataForJxl(const Bitmap& bitmap);
 WrittenMetadata MetadataForTiff(const Bitmap& bitmap);
 // What the bitmap has and a file of the type cannot hold, by the type's row; empty when that is

@@ -95,13 +95,28 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap, cons
 
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner) {
-    return Written(EncodeBitmap(encoding, bitmap, {.runner = runner, .rows = file.rows}),
-                   [&](QByteArrayView bytes) {
-                       if (file.rows != nullptr) {
-                           file.rows->End();
-                       }
-                       return file.series.Write(file.name, bytes);
-                   });
+    EncodeOptions options{.runner = runner, .rows = file.rows};
+    if (bitmap == nullptr || !IsWorthPieces(bitmap->Size())) {
+        return Written(EncodeBitmap(encoding, bitmap, options),
+                       [&](QByteArrayView bytes) { return file.series.Write(file.name, bytes); });
+    }
+    EncodedBitmap encoded;
+    const auto fill = [&](FileSink& sink) {
+        options.sink = &sink;
+        encoded = EncodeBitmap(encoding, bitmap, options);
+        if (file.rows != nullptr) {
+            file.rows->End();
+        }
+        const bool isDone = !encoded.reason.isEmpty() || encoded.bytes.isEmpty() ||
+                            (sink.Begin() && sink.Append(encoded.bytes));
+        return isDone ? encoded.reason : sink.Error();
+    };
+    try {
+        const WriteResult written = file.series.Write(file.name, fill);
+        return {written.ok, written.reason, written ? encoded.note : Reason(), encoded.samples};
+    } catch (const std::bad_alloc&) {
+        return {false, ReasonCode::NotEnoughMemory};
+    }
 }
 
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,

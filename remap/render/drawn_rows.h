@@ -5,6 +5,7 @@
 // result is never in memory. Rows count from the bottom row.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <mutex>
@@ -32,8 +33,8 @@ class DrawnRows : public RowSource {
 
     // What a conversion makes of the photo, but for the pixels, which are not there.
     BitmapHandle WithoutPixels() const;
-    // Rows that are drawn so far.
-    int Done() const { return done_; }
+    // About how many rows are drawn so far: some may be asked for more than once.
+    int Done() const { return std::min<int>(done_, frames_.output.size.height); }
     // Throws as the conversion does.
     void WithRows(LineRange rows, const std::function<void(const Bitmap&)>& use) const override;
     void End() override;

@@ -10,6 +10,7 @@
 
 #include "base/block_runner.h"
 #include "base/reason.h"
+#include "files/file_sink.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/row_source.h"
 
@@ -22,6 +23,8 @@ struct EncodeOptions {
     BlockRunner* runner = nullptr;  // none: on the caller's thread alone
     qint64 largest = largestFile;   // bytes
     RowSource* rows = nullptr;      // of the picture, whose bitmap is without pixels then
+    // Coders that make a file piece by piece put it there and return no bytes.
+    FileSink* sink = nullptr;
 
     void Run(int blocks, const std::function<void(int)>& block) const {
         SerialRunner serial;
@@ -38,7 +41,7 @@ struct EncodeOptions {
     }
 };
 
-// No bytes and the reason when it could not be done.
+// No bytes and the reason when it could not be done. The bytes may have gone to a sink.
 struct EncodedBitmap {
     QByteArray bytes;
     Reason reason;

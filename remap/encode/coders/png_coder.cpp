@@ -13,14 +13,17 @@
 #include <algorithm>
 #include <array>
 #include <new>
+#include <optional>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "remap/encode/coders/deflate/deflate_matches.h"
 #include "remap/encode/coders/deflate/deflate_runs.h"
+#include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/coders/png_filter.h"
 #include "remap/encode/coders/png_head.h"
+#include "remap/encode/thumbnail.h"
 
 namespace varnel {
 
@@ -65,45 +68,63 @@ struct Band {
 
 class BandCoder {
   public:
-    explicit BandCoder(const Bitmap* bitmap)
+    BandCoder(const Bitmap* bitmap, const EncodeOptions& options)
         : bitmap_(bitmap),
+          options_(options),
           size_(SizeOf(bitmap)),
-          rowBytes_(bitmap->ScanLine(0).size()),
+          rowBytes_(static_cast<std::size_t>(size_.width) * BytesPerPixel(bitmap->Format())),
           bandRows_(RowsIn(bandBytes)),
-          bands_((size_.height + bandRows_ - 1) / bandRows_) {}
+          bands_((size_.height + bandRows_ - 1) / bandRows_) {
+        if (options.rows != nullptr) {
+            sampler_.emplace(size_);
+        }
+    }
 
     int Bands() const { return bands_; }
-    void Choose(int level, const EncodeOptions& options);
+    void Choose(int level);
     // A band without bytes could not be coded.
-    Band Code(int n) const;
+    Band Code(int n);
+    // Of bands that are all coded, from rows that came and went; else none.
+    BitmapHandle Thumbnail() const { return sampler_ ? sampler_->Thumbnail() : nullptr; }
 
   private:
     std::int32_t RowsIn(std::int64_t bytes) const {
         return static_cast<std::int32_t>(
             std::clamp<std::int64_t>(bytes / (1 + std::int64_t(rowBytes_)), 1, size_.height));
     }
-    std::vector<std::uint8_t> Filtered(std::int32_t top, std::int32_t rows) const;
+    std::vector<std::uint8_t> Filtered(std::int32_t top, std::int32_t rows,
+                                       ThumbnailSampler* sampler) const;
 
     const Bitmap* const bitmap_;
+    const EncodeOptions& options_;
     const PixelSize size_;
     const std::size_t rowBytes_;
     const std::int32_t bandRows_;
     const int bands_;
     Method method_ = runs;
+    std::optional<ThumbnailSampler> sampler_;
 };
 
 // top counts from the picture's top row.
-std::vector<std::uint8_t> BandCoder::Filtered(std::int32_t top, std::int32_t rows) const {
-    const auto row = [this](std::int32_t y) { return ScanLine(bitmap_, size_.height - 1 - y); };
+std::vector<std::uint8_t> BandCoder::Filtered(std::int32_t top, std::int32_t rows,
+                                              ThumbnailSampler* sampler) const {
     const std::int32_t end = std::min(top + rows, size_.height);
+    const std::int32_t above = std::max(top - 1, 0);
     std::vector<std::uint8_t> filtered;
     filtered.reserve(static_cast<std::size_t>(end - top) * (1 + rowBytes_));
-    PngFilter filter(rowBytes_, top > 0 ? row(top - 1) : std::span<const std::uint8_t>(),
-                     bitmap_->Format());
-    for (std::int32_t y = top; y < end; ++y) {
-        const auto bytes = filter.Next(row(y));
-        filtered.insert(filtered.end(), bytes.begin(), bytes.end());
-    }
+    options_.WithRows(
+        *bitmap_, {size_.height - end, size_.height - 1 - above}, [&](const Bitmap& there) {
+            const auto row = [&](std::int32_t y) { return ScanLine(&there, size_.height - 1 - y); };
+            PngFilter filter(rowBytes_, top > 0 ? row(above) : std::span<const std::uint8_t>(),
+                             there.Format());
+            for (std::int32_t y = top; y < end; ++y) {
+                const auto bytes = filter.Next(row(y));
+                filtered.insert(filtered.end(), bytes.begin(), bytes.end());
+            }
+            if (sampler != nullptr) {
+                sampler->Take(there, {size_.height - end, size_.height - 1 - top});
+            }
+        });
     return filtered;
 }
 
@@ -130,7 +151,7 @@ bool Deflate(std::span<const std::uint8_t> bytes, Method method, bool last,
 }
 
 // Without a level by pieces of bands all over the picture.
-void BandCoder::Choose(int level, const EncodeOptions& options) {
+void BandCoder::Choose(int level) {
     if (level != OutputEncoding::usualLevel) {
         method_ = ofLevel[static_cast<std::size_t>(level) - 1];
         return;
@@ -138,8 +159,9 @@ void BandCoder::Choose(int level, const EncodeOptions& options) {
     const int step = (bands_ + probes - 1) / probes;
     const int pieces = (bands_ + step - 1) / step;
     std::vector<std::pair<std::size_t, std::size_t>> sizes(static_cast<std::size_t>(pieces));
-    options.Run(pieces, [&](int n) {
-        const std::vector<std::uint8_t> piece = Filtered(n * step * bandRows_, RowsIn(probeBytes));
+    options_.Run(pieces, [&](int n) {
+        const std::vector<std::uint8_t> piece =
+            Filtered(n * step * bandRows_, RowsIn(probeBytes), nullptr);
         std::vector<std::uint8_t> byRuns;
         std::vector<std::uint8_t> byMatches;
         Deflate(piece, runs, true, byRuns);
@@ -155,8 +177,9 @@ void BandCoder::Choose(int level, const EncodeOptions& options) {
     method_ = byRuns > runsMayGrow * byMatches ? matches : runs;
 }
 
-Band BandCoder::Code(int n) const {
-    const std::vector<std::uint8_t> filtered = Filtered(n * bandRows_, bandRows_);
+Band BandCoder::Code(int n) {
+    const std::vector<std::uint8_t> filtered =
+        Filtered(n * bandRows_, bandRows_, sampler_ ? &*sampler_ : nullptr);
     const auto start =
         n == 0 ? std::span<const std::uint8_t>(streamStart) : std::span<const std::uint8_t>();
     std::vector<std::uint8_t> chunk(static_cast<std::size_t>(pngChunkStart) + start.size());
@@ -173,12 +196,8 @@ Band BandCoder::Code(int n) const {
             static_cast<qint64>(filtered.size())};
 }
 
-// The checksum that ends the compressed bytes, in a chunk of its own.
-QByteArray SumChunk(const std::vector<Band>& bands) {
-    uLong sum = adler32(0, nullptr, 0);
-    for (const Band& band : bands) {
-        sum = adler32_combine(sum, band.sum, static_cast<z_off_t>(band.length));
-    }
+// What ends the compressed bytes, in a chunk of its own.
+QByteArray SumChunk(uLong sum) {
     QByteArray chunk(pngChunkStart + 4 + pngChunkEnd, '\0');
     qToBigEndian<quint32>(static_cast<quint32>(sum), chunk.data() + pngChunkStart);
     SealPngChunk(chunk.data(), 4, "IDAT");
@@ -191,40 +210,92 @@ QByteArray EndChunk() {
     return chunk;
 }
 
-// Each band is let go once it is in the file.
-QByteArray Joined(const QByteArray& head, std::vector<Band>& bands) {
-    const QByteArray tail = SumChunk(bands) + EndChunk();
-    qsizetype length = head.size() + tail.size();
-    for (const Band& band : bands) {
-        length += band.chunk.size();
+// The file's bytes one after the other, to the sink or kept. False from the first that had no place
+// on, with the reason.
+class PngBytes {
+  public:
+    explicit PngBytes(const EncodeOptions& options) : options_(options) {}
+
+    bool Add(const QByteArray& more) {
+        if (!reason.isEmpty()) {
+            return false;
+        }
+        length_ += more.size();
+        if (length_ > options_.largest) {
+            reason = {ReasonCode::FileTooLarge, options_.largest};
+        } else if (options_.sink == nullptr) {
+            bytes += more;
+        } else if ((length_ == more.size() && !options_.sink->Begin()) ||
+                   !options_.sink->Append(more)) {
+            reason = options_.sink->Error();
+        }
+        return reason.isEmpty();
     }
-    QByteArray file;
-    file.reserve(length);
-    file += head;
-    for (Band& band : bands) {
-        file += band.chunk;
-        band.chunk = QByteArray();
+    // In the place of what was added first, which was as long.
+    bool PutAtStart(const QByteArray& start) {
+        if (reason.isEmpty() && options_.sink == nullptr) {
+            bytes.replace(0, start.size(), start);
+        } else if (reason.isEmpty() && !options_.sink->PutAtStart(start)) {
+            reason = options_.sink->Error();
+        }
+        return reason.isEmpty();
     }
-    return file += tail;
+
+    QByteArray bytes;
+    Reason reason;
+
+  private:
+    const EncodeOptions& options_;
+    qint64 length_ = 0;
+};
+
+constexpr std::size_t mostWaiting = 32;  // bands, while one is being written
+
+// Each band goes into the file as soon as those before it are in it.
+void AddBands(BandCoder& coder, const EncodeOptions& options, PngBytes& file) {
+    uLong sum = adler32(0, nullptr, 0);
+    OrderedPieces<Band> inOrder(
+        [&](const Band& band) {
+            if (band.chunk.isEmpty()) {
+                file.reason = ReasonCode::CannotBeEncoded;
+            }
+            sum = adler32_combine(sum, band.sum, static_cast<z_off_t>(band.length));
+            return file.Add(band.chunk);
+        },
+        mostWaiting);
+    options.Run(coder.Bands(), [&](int n) {
+        if (!inOrder.Failed()) {
+            inOrder.Put(static_cast<std::size_t>(n), coder.Code(n));
+        }
+    });
+    file.Add(SumChunk(sum));
 }
 
 }  // namespace
 
 EncodedBitmap EncodePng(const Bitmap* bitmap, const OutputEncoding& encoding,
                         const EncodeOptions& options) {
-    const WrittenMetadata metadata = MetadataForPng(*bitmap);
+    // The head has a thumbnail. Where the pixels are yet to come, one just as long keeps its place.
+    const BitmapHandle early = options.rows != nullptr ? NewBitmap({1, 1}) : nullptr;
+    const WrittenMetadata metadata = MetadataForPng(*bitmap, early.get());
     const PngHead head = PngHeadFor(*bitmap, metadata);
     if (!head.error.isEmpty()) {
         return {{}, head.error};
     }
-    BandCoder coder(bitmap);
-    coder.Choose(encoding.level, options);
-    std::vector<Band> bands(static_cast<std::size_t>(coder.Bands()));
-    options.Run(coder.Bands(), [&](int n) { bands[static_cast<std::size_t>(n)] = coder.Code(n); });
-    if (std::ranges::any_of(bands, [](const Band& band) { return band.chunk.isEmpty(); })) {
-        return {{}, ReasonCode::CannotBeEncoded};
+    BandCoder coder(bitmap, options);
+    coder.Choose(encoding.level);
+    PngBytes file(options);
+    file.Add(head.bytes);
+    AddBands(coder, options, file);
+    file.Add(EndChunk());
+    if (const BitmapHandle thumbnail = coder.Thumbnail()) {
+        file.PutAtStart(PngHeadFor(*bitmap, MetadataForPng(*bitmap, thumbnail.get())).bytes);
     }
-    return {Joined(head.bytes, bands), {}, Joined(metadata.notes)};
+    if (!file.reason.isEmpty()) {
+        return {{}, file.reason};
+    }
+    file.bytes.squeeze();
+    return {std::move(file.bytes), {}, Joined(metadata.notes)};
 }
 
 }  // namespace varnel

@@ -4,14 +4,15 @@
 #include "remap/encode/coders/tiff_coder.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <utility>
 #include <vector>
 
+#include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/coders/strip_coder.h"
 #include "remap/encode/coders/tiff_file.h"
 #include "remap/encode/coders/tiff_rows.h"
@@ -25,9 +26,11 @@ namespace {
 // longer strips would gain nothing more; the others gain a little up to here.
 constexpr std::size_t lzwStripBytes = 128 * 1024;
 constexpr std::size_t otherStripBytes = 512 * 1024;
-constexpr std::size_t stripsPerBlock = 4;
-// The strips of so many bytes of pixels are held beside the file that they are then appended to.
-constexpr std::size_t bytesAtOnce = 16 * 1024 * 1024;
+// Bytes of pixels that a thread codes at a time. Rows that are drawn for it cost a little more in
+// small bands.
+constexpr std::size_t blockBytes = 2 * 1024 * 1024;
+constexpr std::size_t fewestBlocks = 16;  // of a large picture, so that no core has to wait long
+constexpr std::size_t mostWaiting = 8;    // blocks, while one is being written
 
 TiffLayout LayoutFor(const OutputEncoding& encoding, SampleKind samples) {
     const TiffCompression compression = CompressionFor(encoding, samples);
@@ -64,43 +67,57 @@ struct Picture {
     std::size_t RowsIn(std::size_t strip) const {
         return std::min<std::size_t>(layout.rowsPerStrip, height - strip * layout.rowsPerStrip);
     }
+    // Even, as strips are coded two at a time.
+    std::size_t StripsPerBlock() const {
+        const std::size_t wanted = std::min(blockBytes / StripBytes(), Strips() / fewestBlocks);
+        return std::max<std::size_t>(wanted / 2 * 2, 2);
+    }
+    // Of a block's strips, counted from the bottom row.
+    LineRange RowsOf(std::size_t firstStrip) const {
+        const std::size_t top = firstStrip * layout.rowsPerStrip;
+        const std::size_t end = std::min(top + StripsPerBlock() * layout.rowsPerStrip, height);
+        return {static_cast<int>(height - end), static_cast<int>(height - 1 - top)};
+    }
 };
 
-std::span<const std::uint8_t> StripOf(const Picture& picture, std::size_t strip, TiffRows& rows,
-                                      std::uint8_t* out) {
+std::span<const std::uint8_t> StripOf(const Picture& picture, const Bitmap& there,
+                                      std::size_t strip, TiffRows& rows, std::uint8_t* out) {
     const std::size_t count = picture.RowsIn(strip);
     for (std::size_t n = 0; n < count; ++n) {
         const std::size_t fromTop = strip * picture.layout.rowsPerStrip + n;
         const auto y = static_cast<int>(picture.height - 1 - fromTop);
-        rows.Put(picture.bitmap->ScanLine(y).data(), out + n * picture.RowBytes());
+        rows.Put(there.ScanLine(y).data(), out + n * picture.RowBytes());
     }
     return {out, count * picture.RowBytes()};
 }
 
 // The codes of a block's strips, and the memory for them, used again and again.
 struct Block {
-    std::unique_ptr<std::uint8_t[]> memory;
-    std::array<LzwStrip, stripsPerBlock> strips;
+    std::unique_ptr<std::uint8_t[]> memory{};
+    std::vector<LzwStrip> strips{};
 };
 
-void EncodeBlock(const Picture& picture, std::size_t firstStrip, Block& block) {
+// From the rows that are there.
+void EncodeBlock(const Picture& picture, const Bitmap& there, std::size_t firstStrip,
+                 Block& block) {
     const std::size_t largest = picture.StripBytes();
     const std::unique_ptr<StripCoder> coder =
         NewStripCoder(picture.layout.compression, picture.level);
     const std::size_t room = coder->Room(largest);
     if (!block.memory) {
-        block.memory = std::make_unique_for_overwrite<std::uint8_t[]>(stripsPerBlock * room);
+        block.strips.resize(picture.StripsPerBlock());
+        block.memory = std::make_unique_for_overwrite<std::uint8_t[]>(block.strips.size() * room);
     }
     const auto pixels = std::make_unique_for_overwrite<std::uint8_t[]>(2 * largest);
     TiffRows rows(picture.bitmap->Format(), picture.width, picture.layout.predictor,
                   picture.bigEndian);
-    for (std::size_t n = 0; n < stripsPerBlock; n += 2) {
+    for (std::size_t n = 0; n < block.strips.size(); n += 2) {
         for (std::size_t k = n; k < n + 2; ++k) {
             LzwStrip& strip = block.strips[k];
             strip = {{}, block.memory.get() + k * room, 0};
             if (firstStrip + k < picture.Strips()) {
                 strip.bytes =
-                    StripOf(picture, firstStrip + k, rows, pixels.get() + (k - n) * largest);
+                    StripOf(picture, there, firstStrip + k, rows, pixels.get() + (k - n) * largest);
             }
         }
         coder->Encode(block.strips[n], block.strips[n + 1]);
@@ -108,25 +125,59 @@ void EncodeBlock(const Picture& picture, std::size_t firstStrip, Block& block) {
 }
 
 // False when the file could not take one.
-bool EncodeStrips(TiffFile& file, const Picture& picture, const EncodeOptions& options) {
-    const std::size_t blocks = (picture.Strips() + stripsPerBlock - 1) / stripsPerBlock;
-    const std::size_t blockBytes = stripsPerBlock * picture.StripBytes();
-    std::vector<Block> memory(std::clamp<std::size_t>(bytesAtOnce / blockBytes, 1, blocks));
-    for (std::size_t first = 0; first < blocks; first += memory.size()) {
-        const std::size_t count = std::min(memory.size(), blocks - first);
-        options.Run(static_cast<int>(count), [&](int n) {
-            const auto block = static_cast<std::size_t>(n);
-            EncodeBlock(picture, (first + block) * stripsPerBlock, memory[block]);
-        });
-        for (std::size_t n = 0; n < stripsPerBlock * count; ++n) {
-            const LzwStrip& strip = memory[n / stripsPerBlock].strips[n % stripsPerBlock];
-            if (!strip.bytes.empty() &&
-                (strip.length == 0 || !file.Append({strip.codes, strip.length}))) {
-                return false;
-            }
+bool AppendBlock(TiffFile& file, const Block& block) {
+    return std::ranges::all_of(block.strips, [&file](const LzwStrip& strip) {
+        return strip.bytes.empty() ||
+               (strip.length > 0 && file.Append({strip.codes, strip.length}));
+    });
+}
+
+// Blocks that wait to be used again. Several threads may ask at once.
+class SpareBlocks {
+  public:
+    std::unique_ptr<Block> Take() {
+        const std::scoped_lock lock(mutex_);
+        if (blocks_.empty()) {
+            return std::make_unique<Block>();
         }
+        std::unique_ptr<Block> block = std::move(blocks_.back());
+        blocks_.pop_back();
+        return block;
     }
-    return true;
+    void GiveBack(std::unique_ptr<Block> block) {
+        const std::scoped_lock lock(mutex_);
+        blocks_.push_back(std::move(block));
+    }
+
+  private:
+    std::mutex mutex_;
+    std::vector<std::unique_ptr<Block>> blocks_;
+};
+
+bool EncodeStrips(TiffFile& file, const Picture& picture, const EncodeOptions& options) {
+    using BlockHandle = std::unique_ptr<Block>;
+    const std::size_t perBlock = picture.StripsPerBlock();
+    const std::size_t blocks = (picture.Strips() + perBlock - 1) / perBlock;
+    SpareBlocks spare;
+    OrderedPieces<BlockHandle> inOrder(
+        [&](BlockHandle block) {
+            const bool ok = AppendBlock(file, *block);
+            spare.GiveBack(std::move(block));
+            return ok;
+        },
+        mostWaiting);
+    options.Run(static_cast<int>(blocks), [&](int n) {
+        if (inOrder.Failed()) {
+            return;
+        }
+        const auto place = static_cast<std::size_t>(n);
+        const std::size_t first = place * perBlock;
+        BlockHandle block = spare.Take();
+        options.WithRows(*picture.bitmap, picture.RowsOf(first),
+                         [&](const Bitmap& there) { EncodeBlock(picture, there, first, *block); });
+        inOrder.Put(place, std::move(block));
+    });
+    return !inOrder.Failed();
 }
 
 }  // namespace
@@ -137,12 +188,15 @@ EncodedBitmap EncodeTiff(const Bitmap* bitmap, const OutputEncoding& encoding,
     const WrittenMetadata metadata = MetadataForTiff(*bitmap);
     const Picture picture(bitmap, encoding, metadata.exif.startsWith('M'));
     TiffFile file(metadata, static_cast<qint64>(picture.height * picture.RowBytes()),
-                  options.largest);
+                  options.largest, options.sink);
     if (!file.Describe(*bitmap, picture.layout) || !EncodeStrips(file, picture, options) ||
         !file.Finish()) {
         return {
             {},
             file.Error().isEmpty() ? messages.Added(ReasonCode::CannotBeEncoded) : file.Error()};
+    }
+    if (options.sink != nullptr) {
+        return {{}, {}, Joined(metadata.notes)};
     }
     file.Bytes().squeeze();
     return {std::move(file.Bytes()), {}, Joined(metadata.notes)};

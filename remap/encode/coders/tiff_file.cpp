@@ -42,7 +42,7 @@ int Close(thandle_t /*handle*/) {
 }
 
 toff_t Length(thandle_t handle) {
-    return static_cast<toff_t>(FileOf(handle).Bytes().size());
+    return static_cast<toff_t>(FileOf(handle).Length());
 }
 
 template <class Number>
@@ -53,10 +53,23 @@ void Append(QByteArray& bytes, Number number, bool bigEndian) {
 
 using Entries = TiffFile::Entries;
 
-Entries EntriesOf(const QByteArray& file, const IfdReader& reader) {
+// From a place on, no more than that.
+QByteArray BytesIn(MemoryFile& file, qint64 place, qint64 most) {
+    QByteArray bytes(std::min(most, std::max<qint64>(file.Length() - place, 0)), '\0');
+    file.Seek(place, SEEK_SET);
+    bytes.truncate(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+IfdReader ReaderOf(MemoryFile& file) {
+    return IfdReader(IfdReader::Source{
+        file.Length(), [&file](qint64 place, qint64 most) { return BytesIn(file, place, most); }});
+}
+
+Entries EntriesOf(MemoryFile& file, const IfdReader& reader) {
     Entries entries;
     for (const IfdEntry& entry : reader.Directory(reader.First()).entries) {
-        entries[entry.tag] = file.mid(entry.place, reader.EntryBytes());
+        entries[entry.tag] = BytesIn(file, entry.place, reader.EntryBytes());
     }
     return entries;
 }
@@ -117,13 +130,13 @@ double DotsPerInch(std::uint32_t dotsPerMetre) {
 
 }  // namespace
 
-TiffFile::TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest)
-    : metadata_(metadata), file_(largest) {
+TiffFile::TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest, FileSink* sink)
+    : metadata_(metadata), file_(largest, sink) {
     QByteArray start = metadata.exif;
     std::fill_n(start.begin(), start.isEmpty() ? 0 : directoryPlace + 4, '\0');
     std::copy_n(metadata.exif.begin(), start.isEmpty() ? 0 : directoryPlace, start.begin());
     // Rarely reached, and what is not reached takes no memory.
-    file_.Bytes().reserve(std::min(start.size() + expected, largest));
+    file_.Bytes().reserve(std::min(start.size() + (sink == nullptr ? expected : 0), largest));
     file_.Write(start.constData(), start.size());
     file_.Seek(0, SEEK_SET);
     const char* const mode = start.isEmpty() ? "wl" : "a";
@@ -195,14 +208,17 @@ bool TiffFile::SetBlock(std::uint32_t tag, const QByteArray& block) {
 }
 
 bool TiffFile::Append(std::span<const std::uint8_t> strip) {
+    file_.BeginMiddle();
     // libtiff's parameter only lacks a const.
-    return TIFFWriteRawStrip(tiff_.get(), strips_++, const_cast<std::uint8_t*>(strip.data()),
-                             static_cast<tmsize_t>(strip.size())) ==
-           static_cast<tmsize_t>(strip.size());
+    const tmsize_t written =
+        TIFFWriteRawStrip(tiff_.get(), strips_++, const_cast<std::uint8_t*>(strip.data()),
+                          static_cast<tmsize_t>(strip.size()));
+    file_.EndMiddle();
+    return written == static_cast<tmsize_t>(strip.size());
 }
 
 bool TiffFile::AppendEven(const QByteArray& bytes, quint32& place) {
-    place = static_cast<quint32>((file_.Bytes().size() + 1) / 2 * 2);
+    place = static_cast<quint32>((file_.Length() + 1) / 2 * 2);
     return file_.Seek(place, SEEK_SET) && file_.Write(bytes.constData(), bytes.size());
 }
 
@@ -228,15 +244,16 @@ bool TiffFile::AppendIptc(Entries& entries) {
 bool TiffFile::Finish() {
     const bool isWritten = TIFFWriteDirectory(tiff_.get()) == 1;
     tiff_.reset();
-    if (!isWritten || !file_.Error().isEmpty()) {
-        return false;
-    }
+    return isWritten && file_.Error().isEmpty() && AddPhotosEntries() && file_.Finish();
+}
+
+bool TiffFile::AddPhotosEntries() {
     if (metadata_.entries.isEmpty() && metadata_.iptc.isEmpty()) {
         return true;
     }
-    const IfdReader reader(file_.Bytes());
+    const IfdReader reader = ReaderOf(file_);
     const bool isBigEndian = reader.IsBigEndian();
-    Entries entries = EntriesOf(file_.Bytes(), reader);
+    Entries entries = EntriesOf(file_, reader);
     AddEntries(entries, metadata_);
     quint32 place = 0;
     if (!AppendIptc(entries) || !AppendEven(DirectoryOf(entries, isBigEndian), place)) {

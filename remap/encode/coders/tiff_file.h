@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// A TIFF file as libtiff writes it, in memory. Its strips come coded: libtiff's own coding works
-// on one core, and so does everything that goes through its scan lines.
+// A TIFF file as libtiff writes it, in memory or all but its strips. They come coded: libtiff's own
+// coding works on one core, and so does everything that goes through its scan lines.
 #pragma once
 
 #include <tiffio.h>
@@ -31,9 +31,10 @@ class TiffFile {
     using Entries = std::map<std::uint16_t, QByteArray>;  // of a directory, by tag
 
     // For a bitmap in strips. The file begins with the EXIF block, so that places in it hold, and
-    // has its order of bytes. expected is the likely number of bytes of the pixels.
-    // Throws std::bad_alloc.
-    TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest);
+    // has its order of bytes. expected is the likely number of bytes of the pixels. With a sink
+    // all goes there, the strips at once. Throws std::bad_alloc.
+    TiffFile(const WrittenMetadata& metadata, qint64 expected, qint64 largest,
+             FileSink* sink = nullptr);
 
     // What the file has beside its strips. To be called first; false as of all others when it
     // failed.
@@ -44,6 +45,7 @@ class TiffFile {
     bool Finish();
 
     const Reason& Error() const { return file_.Error(); }
+    // The whole file where there is no sink.
     QByteArray& Bytes() { return file_.Bytes(); }
 
   private:
@@ -51,6 +53,7 @@ class TiffFile {
     bool SetAlpha(bool isThere);
     bool SetBlock(std::uint32_t tag, const QByteArray& block);
     QByteArray PhotoshopBlock() const;
+    bool AddPhotosEntries();
     bool AppendEven(const QByteArray& bytes, quint32& place);
     bool AppendIptc(Entries& entries);
 

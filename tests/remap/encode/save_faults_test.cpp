@@ -39,15 +39,20 @@ constexpr int page = 4096;  // what a small file system counts in
 struct Type {
     const char* name;
     OutputEncoding encoding;
+    bool inPieces = false;  // put into the file while it is made
 };
 
 class SaveFaults : public ::testing::TestWithParam<Type> {
   protected:
     SaveResult Save(const QString& path) const {
-        return SaveBitmap(GetParam().encoding, picture_.get(), path);
+        FileSeries series;
+        return GetParam().inPieces
+                   ? SaveBitmap(GetParam().encoding, picture_.get(), FileInSeries{path, series})
+                   : SaveBitmap(GetParam().encoding, picture_.get(), path);
     }
     // Noise, so that every type makes a file of many pages.
-    const BitmapHandle picture_ = testing::Noise({420, 320});
+    const BitmapHandle picture_ =
+        testing::Noise(GetParam().inPieces ? PixelSize{1000, 1000} : PixelSize{420, 320});
     const QByteArray whole_ = EncodeBitmap(GetParam().encoding, picture_.get()).bytes;
     const QByteArray older_ = QByteArray(3 * page, 'o');
 };
@@ -207,7 +212,9 @@ INSTANTIATE_TEST_SUITE_P(Types, SaveFaults,
                          ::testing::Values(Type{"Tiff", OutputType::Tiff},
                                            Type{"Jpeg", {OutputType::Jpeg, 100}},
                                            Type{"Bmp", OutputType::Bmp},
-                                           Type{"Png", OutputType::Png}),
+                                           Type{"Png", OutputType::Png},
+                                           Type{"TiffInPieces", OutputType::Tiff, true},
+                                           Type{"PngInPieces", OutputType::Png, true}),
                          [](const auto& type) { return std::string(type.param.name); });
 
 }  // namespace

@@ -14,17 +14,18 @@
 #include "remap/projection/projection_info.h"
 #include "remap/render/render.h"
 #include "tests/support/bitmaps.h"
+#include "tests/support/deep_bitmaps.h"
 #include "tests/support/records.h"
+#include "tests/support/sinks.h"
 
 namespace varnel {
 namespace {
 
 constexpr PixelSize photoSize{1300, 900};
 
-// With EXIF that has room for a thumbnail, and nothing else in it.
-BitmapHandle Photo() {
+// Gives it EXIF that has room for a thumbnail, and nothing else in it.
+BitmapHandle WithExif(BitmapHandle photo) {
     constexpr std::uint32_t room = 6000;
-    BitmapHandle photo = testing::Grainy(photoSize);
     ExifBlock& exif = photo->metadata.photo.exif;
     exif.bytes = QByteArray("II*\0\0\0\0\0", 8) + QByteArray(12 + room, '\0');
     exif.width = 8;
@@ -35,24 +36,32 @@ BitmapHandle Photo() {
     return photo;
 }
 
-QByteArray FileOfWhole(const Bitmap& photo, const ImageRecord& record, BlockRunner& runner) {
+QByteArray FileOfWhole(const Bitmap& photo, const ImageRecord& record,
+                       const OutputEncoding& encoding, BlockRunner& runner) {
     Bitmaps bitmaps;
     bitmaps.FullSourceBitmap = std::make_unique<Bitmap>(photo);
     SilentProgress silent;
     RenderContext context{.bitmaps = bitmaps, .runner = &runner, .keepsTransparency = true};
     Render(ProjectionFromIndex(record.Projection), record, SizeKind::Batch, silent, context);
-    return EncodeBitmap(OutputType::Jpeg, bitmaps.ResultBitmap.get(), {.runner = &runner}).bytes;
+    return EncodeBitmap(encoding, bitmaps.ResultBitmap.get(), {.runner = &runner}).bytes;
 }
 
-QByteArray FileOfRows(const Bitmap& photo, const ImageRecord& record, BlockRunner& runner,
-                      const std::shared_ptr<const ArrivingRows>& arriving = nullptr) {
-    DrawnRows rows(ProjectionFromIndex(record.Projection), record, photo, arriving);
+// Kept in memory, or put into a sink as it is made.
+QByteArray FileOf(DrawnRows&& rows, const OutputEncoding& encoding, BlockRunner& runner,
+                  testing::KeepingSink* sink) {
     const BitmapHandle frame = rows.WithoutPixels();
-    EXPECT_TRUE(IsEncodedByRows(OutputType::Jpeg, frame->Format(), photoSize));
+    EXPECT_TRUE(IsEncodedByRows(encoding, frame->Format(), photoSize));
     QByteArray file =
-        EncodeBitmap(OutputType::Jpeg, frame.get(), {.runner = &runner, .rows = &rows}).bytes;
+        EncodeBitmap(encoding, frame.get(), {.runner = &runner, .rows = &rows, .sink = sink}).bytes;
     EXPECT_EQ(rows.Done(), frame->Size().height);
     return file;
+}
+
+QByteArray FileOfRows(const Bitmap& photo, const ImageRecord& record,
+                      const OutputEncoding& encoding, BlockRunner& runner,
+                      testing::KeepingSink* sink = nullptr) {
+    return FileOf(DrawnRows(ProjectionFromIndex(record.Projection), record, photo), encoding,
+                  runner, sink);
 }
 
 // From a photo whose rows are not there when drawing begins.
@@ -70,7 +79,8 @@ QByteArray FileOfArrivingRows(const Bitmap& photo, const ImageRecord& record, Bl
             }
         }
     });
-    return FileOfRows(*late, record, runner, arriving);
+    return FileOf(DrawnRows(ProjectionFromIndex(record.Projection), record, *late, arriving),
+                  OutputType::Jpeg, runner, nullptr);
 }
 
 struct Change {
@@ -102,19 +112,83 @@ TEST(DrawnRows, GiveTheFileOfTheWholeResult) {
         {"marked", [](ImageRecord& record) { record.Marks = true; }},
     };
     ThreadRunner runner(3);
-    const BitmapHandle photo = Photo();
+    const BitmapHandle photo = WithExif(testing::Grainy(photoSize));
     for (const Projection projection : AllProjections()) {
         for (const Change& change : changes) {
             ImageRecord record = testing::FisheyeRecord();
             record.Projection = static_cast<std::int16_t>(projection);
             change.make(record);
-            const QByteArray whole = FileOfWhole(*photo, record, runner);
+            const QByteArray whole = FileOfWhole(*photo, record, OutputType::Jpeg, runner);
             ASSERT_FALSE(whole.isEmpty());
-            EXPECT_EQ(FileOfRows(*photo, record, runner), whole)
+            EXPECT_EQ(FileOfRows(*photo, record, OutputType::Jpeg, runner), whole)
                 << ToText(projection).toStdString() << ", " << change.name;
             EXPECT_EQ(FileOfArrivingRows(*photo, record, runner), whole)
                 << ToText(projection).toStdString() << ", " << change.name << ", arriving";
         }
+    }
+}
+
+// Of every type and depth that is made by rows: kept and put into a sink, with the photo's own
+// entries and without.
+TEST(DrawnRows, GiveEveryTypesFilePieceByPiece) {
+    const auto tiff = [](TiffCompression compression, int level = 0) {
+        OutputEncoding encoding(OutputType::Tiff);
+        encoding.compression = compression;
+        encoding.level = level;
+        return encoding;
+    };
+    OutputEncoding smallPng(OutputType::Png);
+    smallPng.level = 4;
+    const OutputEncoding encodings[] = {tiff(TiffCompression::Lzw),
+                                        tiff(TiffCompression::None),
+                                        tiff(TiffCompression::Deflate, 6),
+                                        tiff(TiffCompression::Zstd),
+                                        OutputType::Png,
+                                        smallPng};
+    ThreadRunner runner(3);
+    const ImageRecord record = testing::FisheyeRecord();
+    for (const PixelFormat format : {PixelFormat::Bgr8, PixelFormat::Bgra8, PixelFormat::Bgr16,
+                                     PixelFormat::Bgra16, PixelFormat::BgrFloat}) {
+        const BitmapHandle photo = WithExif(testing::Deep(photoSize, format));
+        photo->metadata.colourProfile = QByteArray(300, 'c');
+        photo->metadata.photo.tiffEntries =
+            QByteArray("\x0f\x01\x02\0\x04\0\0\0abc\0", 12);  // the camera's maker
+        for (const OutputEncoding& encoding : encodings) {
+            if (encoding.type == OutputType::Png && format == PixelFormat::BgrFloat) {
+                EXPECT_FALSE(IsEncodedByRows(encoding, format, photoSize));
+                continue;
+            }
+            SCOPED_TRACE(::testing::Message() << static_cast<int>(format) << ' '
+                                              << ToText(encoding.compression).toStdString());
+            const QByteArray whole = FileOfWhole(*photo, record, encoding, runner);
+            ASSERT_FALSE(whole.isEmpty());
+            EXPECT_EQ(FileOfRows(*photo, record, encoding, runner), whole);
+            testing::KeepingSink sink;
+            EXPECT_EQ(FileOfRows(*photo, record, encoding, runner, &sink), QByteArray());
+            EXPECT_EQ(sink.bytes, whole);
+            EXPECT_EQ(sink.begun, 1);
+            EXPECT_GT(sink.pieces, 5);
+        }
+    }
+}
+
+TEST(DrawnRows, EndWhereTheirFileHasNoPlace) {
+    ThreadRunner runner(3);
+    const BitmapHandle photo = testing::Grainy(photoSize);
+    for (const OutputType type : {OutputType::Tiff, OutputType::Png}) {
+        for (const qint64 room : {qint64{3}, qint64{300'000}}) {
+            testing::KeepingSink sink(room);
+            DrawnRows rows(Projection::Varnel, testing::FisheyeRecord(), *photo);
+            const EncodedBitmap file =
+                EncodeBitmap(type, rows.WithoutPixels().get(),
+                             {.runner = &runner, .rows = &rows, .sink = &sink});
+            EXPECT_EQ(file.reason, Reason(ReasonCode::NotRegular));
+            EXPECT_EQ(sink.begun, 1);  // not tried again without metadata
+        }
+        testing::KeepingSink sink;
+        const EncodedBitmap large =
+            EncodeBitmap(type, photo.get(), {.largest = 300'000, .sink = &sink});
+        EXPECT_EQ(large.reason, Reason(ReasonCode::FileTooLarge, qint64{300'000}));
     }
 }
 
@@ -133,7 +207,7 @@ TEST(DrawnRows, RefuseImpossibleNumbersAtOnce) {
     ImageRecord record = testing::FisheyeRecord();
     record.Projection = static_cast<std::int16_t>(Projection::Rectilinear);
     record.SensorWidth = 0.0F;
-    const BitmapHandle photo = Photo();
+    const BitmapHandle photo = WithExif(testing::Grainy(photoSize));
     EXPECT_THROW(DrawnRows(Projection::Rectilinear, record, *photo), std::exception);
 }
 

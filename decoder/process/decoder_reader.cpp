@@ -244,7 +244,7 @@ void DecoderReader::TakeMetadataOfPieces(const DecoderAnswer& answer) {
     }
 }
 
-// False when there are no more, or the decoder does not take it any more that its piece was taken.
+// False when there are no more.
 bool DecoderReader::TakePiece() {
     const std::byte* const pieces =
         pieces_->IsWhole() ? nullptr
@@ -255,7 +255,9 @@ bool DecoderReader::TakePiece() {
         return false;
     }
     pieces_->TakePiece(pieces);
-    return process_.Send(&request_.number, sizeof request_.number);
+    // One that is dead by now is heard of in its turn.
+    process_.Send(&request_.number, sizeof request_.number);
+    return true;
 }
 
 // By a fresh decoder: the one at hand may be at anything.

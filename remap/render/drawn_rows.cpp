@@ -42,9 +42,7 @@ void DrawnRows::WithRows(LineRange rows, const std::function<void(const Bitmap&)
     SerialRunner alone;
     const RenderSurface surface(&photo_, band.get(), frames_.output, alone, arriving_.get());
     const std::unique_ptr<RowRenderer> renderer = RowsOf(projection_, image_, frames_, surface);
-    for (int row = rows.first; row <= rows.last; ++row) {
-        renderer->DrawRow(row);
-    }
+    renderer->DrawRows(rows);
     done_ += rows.Count();
     use(*band);
     GiveBack(std::move(memory));

@@ -20,9 +20,12 @@ class MarkedRows : public RowRenderer {
   public:
     MarkedRows(std::unique_ptr<RowRenderer> rows, Marks marks, Bitmap& result)
         : rows_(std::move(rows)), marks_(std::move(marks)), result_(result) {}
-    void DrawRow(std::int32_t row) override {
-        rows_->DrawRow(row);
-        marks_.DrawRow(result_, row);
+    void DrawRow(std::int32_t row) override { DrawRows({row, row}); }
+    void DrawRows(LineRange rows) override {
+        rows_->DrawRows(rows);
+        for (std::int32_t row = rows.first; row <= rows.last; ++row) {
+            marks_.DrawRow(result_, row);
+        }
     }
 
   private:

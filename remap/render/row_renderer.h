@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "base/line_range.h"
 #include "remap/render/render_session.h"
 
 namespace varnel {
@@ -17,6 +18,12 @@ class RowRenderer {
     // Every pixel of the row (of the result, from 0 at the bottom), exactly as the whole
     // conversion leaves it, and no other row.
     virtual void DrawRow(std::int32_t row) = 0;
+    // The same for each of the rows.
+    virtual void DrawRows(LineRange rows) {
+        for (std::int32_t row = rows.first; row <= rows.last; ++row) {
+            DrawRow(row);
+        }
+    }
 };
 
 // By the projection's kind; the record's own Projection is not looked at. The surface has to

@@ -6,12 +6,14 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/thread_runner.h"
 #include "bench/remap/render/peer_remap.h"
 #include "remap/projection/projection_info.h"
 #include "remap/projection/record_maps.h"
+#include "remap/render/drawn_rows.h"
 #include "remap/render/reference/render.h"
 #include "remap/render/reference/render_stretch.h"
 
@@ -97,6 +99,35 @@ void Register(const std::string& name, Renderer renderer, Projection projection,
                                  workers)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
+}
+
+// Band after band, as the encoders ask for them.
+void DrawBands(benchmark::State& state, Projection projection, const View& view, PixelSize size) {
+    constexpr int bandRows = 128;
+    const BitmapHandle photo = Texture(size, view.format);
+    ImageRecord record = FisheyeRecord(view);
+    for (auto _ : state) {
+        record.OutputAOV += record.OutputAOV == view.outputAov ? -1.0F : 1.0F;
+        const DrawnRows rows(projection, record, *photo);
+        for (int row = 0; row < size.height; row += bandRows) {
+            rows.WithRows({row, std::min(row + bandRows, size.height) - 1},
+                          [](const Bitmap& band) { benchmark::DoNotOptimize(&band); });
+        }
+    }
+}
+
+void RegisterBands(PixelSize size) {
+    for (const Projection projection : AllProjections()) {
+        for (const bool moved : {false, true}) {
+            if (!moved || InfoOf(projection).frame.turns) {
+                const std::string name =
+                    "bands/24MP/" + ToText(projection).toStdString() + (moved ? " turned" : "");
+                benchmark::RegisterBenchmark(name.c_str(), &DrawBands, projection, View{moved},
+                                             size)
+                    ->Unit(benchmark::kMillisecond);
+            }
+        }
+    }
 }
 
 using Stretcher = void (*)(const StretchCurve&, SizeKind, RenderProgress&, RenderContext&);
@@ -199,6 +230,7 @@ void RegisterAll() {
         Register("engine/24MP/2 cores/" + name, &Render, projection, {}, full, SizeKind::Large, 2);
     }
     RegisterTurned(full);
+    RegisterBands(full);
     RegisterStretch("reference/24MP/Stretch", &reference::RenderStretch, full, 1);
     RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);
     RegisterStretch("engine/24MP/2 cores/Stretch", &RenderStretch, full, 2);

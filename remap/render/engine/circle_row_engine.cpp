@@ -5,6 +5,7 @@
 
 #include "remap/projection/last_writer.h"
 #include "remap/render/engine/batches.h"
+#include "remap/render/engine/circle_prefetch.h"
 #include "remap/render/engine/control_points.h"
 #include "remap/render/engine/engine.h"
 
@@ -21,7 +22,8 @@ class CircleRowEngine : public Engine {
           pieceColumns_(SampleKindOf(surface.Source()->Format()) == SampleKind::Byte ? 256 : 128),
           columns_(Columns(map.Circle(), surface.ResultSize().width)),
           source_(SourceView::Of(surface.Source(), surface.Arriving())),
-          target_(TargetView::Of(surface.Result())) {}
+          target_(TargetView::Of(surface.Result())),
+          prefetch_(map, source_, cosines_, sines_) {}
 
     LineRange Lines() const override { return map_.Radii(); }
     void FillTheRest() override {
@@ -31,19 +33,31 @@ class CircleRowEngine : public Engine {
             }
         });
     }
-    void DrawRow(std::int32_t row) override {
-        if (!FillUnownedRow(row)) {
-            PrepareColumns(owners_.Radius(row));
-            DrawRadii(owners_.Radius(row), owners_.Radius(row));
+    void DrawRow(std::int32_t row) override { DrawRows({row, row}); }
+    void DrawRows(LineRange rows) override {
+        std::vector<RadiusRow> radii;
+        for (std::int32_t row = rows.first; row <= rows.last; ++row) {
+            if (!FillUnownedRow(row)) {
+                PrepareColumns(owners_.Radius(row));
+                radii.push_back({owners_.Radius(row), row});
+            }
         }
+        DrawRadii(radii);
     }
 
-    // Radii r to r + count - 1. Within a block narrow pieces of neighbouring radii follow each
-    // other: a whole turn around the centre reads thousands of source rows, a piece a small patch.
+    // Radii r to r + count - 1.
     void Draw(int r, int count) override {
         PrepareColumns(r);
-        DrawBlocks(surface_, {r, r + count - 1}, 16,
-                   [this](int from, int to) { DrawRadii(from, to); });
+        DrawBlocks(surface_, {r, r + count - 1}, radiiOfATile, [this](int from, int to) {
+            std::vector<RadiusRow> radii;
+            for (int n = from; n <= to; ++n) {
+                const std::int32_t row = map_.Blank(n) ? -1 : map_.OutputRow(n);
+                if (owners_.Has(row, n)) {
+                    radii.push_back({n, row});
+                }
+            }
+            DrawRadii(radii);
+        });
     }
 
   private:
@@ -65,12 +79,30 @@ class CircleRowEngine : public Engine {
         return false;
     }
 
-    void DrawRadii(int from, int to) const {
+    void DrawRadii(std::span<const RadiusRow> radii) const {
+        for (; radii.size() > radiiOfATile; radii = radii.subspan(radiiOfATile)) {
+            DrawTiles(radii.first(radiiOfATile));
+        }
+        DrawTiles(radii);
+    }
+    // Narrow pieces of neighbouring radii follow each other: a whole turn around the centre reads
+    // thousands of source rows, a piece a small patch.
+    void DrawTiles(std::span<const RadiusRow> radii) const {
+        for (std::size_t n = 0; n < radii.size(); ++n) {
+            AskFor(radii, n, columns_.first);
+        }
         for (int first = columns_.first; first <= columns_.last; first += pieceColumns_) {
-            const int pieceEnd = std::min(first + pieceColumns_, columns_.last + 1);
-            for (int n = from; n <= to; ++n) {
-                DrawPiece(n, first, pieceEnd);
+            for (std::size_t n = 0; n < radii.size(); ++n) {
+                AskFor(radii, n, first + pieceColumns_);
+                DrawPiece(radii[n], first, PieceEnd(first));
             }
+        }
+    }
+    int PieceEnd(int first) const { return std::min(first + pieceColumns_, columns_.last + 1); }
+    void AskFor(std::span<const RadiusRow> radii, std::size_t n, int first) const {
+        if (first <= columns_.last) {
+            prefetch_.Ask(radii, n, static_cast<std::size_t>(first - columns_.first),
+                          static_cast<std::size_t>(PieceEnd(first) - columns_.first));
         }
     }
 
@@ -89,11 +121,7 @@ class CircleRowEngine : public Engine {
     }
 
     // Columns first to end - 1 of both halves of the row that a radius goes to.
-    void DrawPiece(int r, int first, int end) const {
-        const std::int32_t row = map_.Blank(r) ? -1 : map_.OutputRow(r);
-        if (!owners_.Has(row, r)) {
-            return;
-        }
+    void DrawPiece(const RadiusRow& line, int first, int end) const {
         const std::int32_t centre = map_.Circle().outputCentre.x;
         CircleSpan span{source_,
                         0,
@@ -101,7 +129,7 @@ class CircleRowEngine : public Engine {
                         static_cast<double>(map_.Circle().sourceCentre.x),
                         static_cast<double>(map_.Circle().sourceCentre.y),
                         1.0,
-                        map_.SourceRadius(r),
+                        map_.SourceRadius(line.radius),
                         cosines_.data(),
                         sines_.data(),
                         surface_.Nearest() ? RowReading::Nearest : RowReading::Vectors};
@@ -113,10 +141,12 @@ class CircleRowEngine : public Engine {
                 span.sign = sign;
                 span.first = begin - columns_.first;
                 span.count = clip.end - begin;
-                SampleCircleSpan(span, target_.From(centre + sign * begin, row, sign));
+                SampleCircleSpan(span, target_.From(centre + sign * begin, line.row, sign));
             }
         }
     }
+
+    static constexpr int radiiOfATile = 32;
 
     const RenderSurface& surface_;
     const CircleRows& map_;
@@ -126,6 +156,7 @@ class CircleRowEngine : public Engine {
     SourceView source_;
     TargetView target_;
     std::vector<double> cosines_, sines_;  // from the first of the columns on
+    CirclePrefetch prefetch_;
 };
 
 }  // namespace

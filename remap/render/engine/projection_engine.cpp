@@ -48,11 +48,13 @@ void ProjectionEngine::Draw(int first, int count) {
     }
 }
 
-void ProjectionEngine::DrawRow(std::int32_t row) {
+void ProjectionEngine::DrawRows(LineRange rows) {
     for (const auto& engine : engines_) {
-        engine->DrawRow(row);
+        engine->DrawRows(rows);
     }
-    surface_.BlackenBeside(maps_.Green().Shown(), row);
+    for (std::int32_t row = rows.first; row <= rows.last; ++row) {
+        surface_.BlackenBeside(maps_.Green().Shown(), row);
+    }
 }
 
 }  // namespace varnel

@@ -36,7 +36,8 @@ class ProjectionEngine : public Engine {
     LineRange Lines() const override { return engines_.front()->Lines(); }
     void FillTheRest() override { engines_.front()->FillTheRest(); }
     void Draw(int first, int count) override;
-    void DrawRow(std::int32_t row) override;
+    void DrawRow(std::int32_t row) override { DrawRows({row, row}); }
+    void DrawRows(LineRange rows) override;
     // Once all lines are drawn: what of the result the maps are not for.
     void BlackenTheRest() const { surface_.BlackenBeside(maps_.Green().Shown()); }
 

@@ -5,10 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
+#include <string>
 #include <thread>
 
+#include "base/run_time_error.h"
 #include "base/thread_runner.h"
 #include "remap/encode/encode_bitmap.h"
 #include "remap/projection/projection_info.h"
@@ -83,6 +86,35 @@ QByteArray FileOfArrivingRows(const Bitmap& photo, const ImageRecord& record, Bl
                   OutputType::Jpeg, runner, nullptr);
 }
 
+void ExpectBandsOfTheWhole(Projection projection, const ImageRecord& record, const Bitmap& photo,
+                           const std::string& name) {
+    SCOPED_TRACE(name);
+    Bitmaps bitmaps;
+    bitmaps.FullSourceBitmap = std::make_unique<Bitmap>(photo);
+    SilentProgress silent;
+    RenderContext context{.bitmaps = bitmaps};
+    try {
+        Render(projection, record, SizeKind::Batch, silent, context);
+    } catch (const RunTimeError&) {
+        EXPECT_THROW(DrawnRows(projection, record, photo).WithRows({0, 0}, [](const Bitmap&) {}),
+                     RunTimeError);
+        return;
+    }
+    const Bitmap& whole = *bitmaps.ResultBitmap;
+    const DrawnRows rows(projection, record, photo);
+    int first = 0;
+    for (int height = 1; first < whole.Size().height; height = height * 3 + 1) {
+        const LineRange band{first, std::min(first + height, whole.Size().height) - 1};
+        rows.WithRows(band, [&](const Bitmap& drawn) {
+            for (int row = band.first; row <= band.last; ++row) {
+                ASSERT_TRUE(std::ranges::equal(drawn.ScanLine(row), whole.ScanLine(row)))
+                    << "row " << row;
+            }
+        });
+        first = band.last + 1;
+    }
+}
+
 struct Change {
     const char* name;
     void (*make)(ImageRecord& record);
@@ -124,6 +156,35 @@ TEST(DrawnRows, GiveTheFileOfTheWholeResult) {
                 << ToText(projection).toStdString() << ", " << change.name;
             EXPECT_EQ(FileOfArrivingRows(*photo, record, runner), whole)
                 << ToText(projection).toStdString() << ", " << change.name << ", arriving";
+        }
+    }
+}
+
+// Bands of all heights, also where rows are black, come from no radius or several radii share one.
+TEST(DrawnRows, HaveTheWholeResultsPixelsInBandsOfAllHeights) {
+    struct Case {
+        const char* name;
+        PixelSize size;
+        void (*change)(ImageRecord& record);
+    };
+    const Case cases[] = {
+        {"wide", {301, 200}, [](ImageRecord&) {}},
+        {"upright", {150, 401}, [](ImageRecord&) {}},
+        {"off centre", {301, 200}, [](ImageRecord& r) { r.OfsetX = 60.0F, r.OfsetY = -71.0F; }},
+        {"a centre beside the photo", {120, 200}, [](ImageRecord& r) { r.OfsetX = -180.0F; }},
+        {"a small circle", {301, 200}, [](ImageRecord& r) { r.Ratio = 30.0F; }},
+        {"reduced", {600, 400}, [](ImageRecord& r) { r.OutputWidth = 97, r.OutputHeight = 65; }},
+        {"enlarged", {120, 80}, [](ImageRecord& r) { r.OutputWidth = 900, r.OutputHeight = 600; }},
+        {"one column", {1, 40}, [](ImageRecord&) {}},
+    };
+    for (const Case& c : cases) {
+        const BitmapHandle photo = testing::Grainy(c.size);
+        ImageRecord record = testing::FisheyeRecord();
+        record.Landscape = c.size.width >= c.size.height;
+        c.change(record);
+        for (const Projection projection : AllProjections()) {
+            ExpectBandsOfTheWhole(projection, record, *photo,
+                                  std::string(c.name) + ", " + ToText(projection).toStdString());
         }
     }
 }

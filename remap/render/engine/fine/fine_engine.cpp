@@ -153,15 +153,15 @@ std::int32_t FineEngine::RowOf(int line) const {
 
 void FineEngine::Draw(int first, int count) {
     DrawBlocks(surface_, {RowOf(first), RowOf(first + count) - 1}, pieceRows,
-               [this](int from, int to) { DrawRows(from, to + 1); });
+               [this](int from, int to) { DrawFewRows(from, to + 1); });
 }
 
 void FineEngine::DrawRow(std::int32_t row) {
-    DrawRows(row, row + 1);
+    DrawFewRows(row, row + 1);
 }
 
 // Shown rows together, the others one by one.
-void FineEngine::DrawRows(std::int32_t first, std::int32_t end) const {
+void FineEngine::DrawFewRows(std::int32_t first, std::int32_t end) const {
     Workplace work;
     for (std::int32_t row = first; row < end;) {
         const auto isShown = [this](std::int32_t n) {

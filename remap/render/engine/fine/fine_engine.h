@@ -36,7 +36,7 @@ class FineEngine : public Engine {
     class Workplace;
 
     std::int32_t RowOf(int line) const;
-    void DrawRows(std::int32_t first, std::int32_t end) const;
+    void DrawFewRows(std::int32_t first, std::int32_t end) const;
     void DrawShownRows(std::int32_t first, std::int32_t end, Workplace& work) const;
     void DrawPiece(const Piece& piece, Workplace& work) const;
     void WriteRow(const Piece& piece, std::int32_t row, Workplace& work) const;

@@ -7,11 +7,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <memory>
 #include <new>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "remap/encode/coders/file_bytes.h"
+#include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/encode/thumbnail.h"
 #include "remap/image/jpeg_errors.h"
@@ -246,35 +249,21 @@ Places PlacesIn(QByteArrayView coded) {
     return places;
 }
 
-bool HasScan(const CodedBytes& band) {
-    return PlacesIn(band.View()).data > 0 && band.View().endsWith(endOfImage);
-}
-
-// The head, the first band's file made as high as the picture and the scans of the others behind
-// its own. The bands are freed on the way. All have a scan.
-QByteArray Joined(QByteArrayView head, std::vector<CodedBytes>& bands, int height) {
-    qsizetype most = head.size();
-    for (const CodedBytes& band : bands) {
-        most += band.View().size();
+// Behind the head the first band's file, made as high as the picture, and behind that the scans of
+// the others. False when the band has no scan or no place.
+bool AddBand(const CodedBytes& band, bool isFirst, int height, FileBytes& file) {
+    const QByteArrayView coded = band.View();
+    const Places places = PlacesIn(coded);
+    if (places.data == 0 || !coded.endsWith(endOfImage)) {
+        return false;
     }
-    QByteArray file;
-    file.reserve(most);
-    file += head;
-    for (CodedBytes& band : bands) {
-        const bool isFirst = &band == &bands.front();
-        const Places places = PlacesIn(band.View());
-        if (!isFirst) {
-            file += lastRestart;
-        }
-        file +=
-            band.View().sliced(isFirst ? places.tables : places.data).chopped(endOfImage.size());
-        if (isFirst) {
-            qToBigEndian(static_cast<quint16>(height),
-                         file.data() + head.size() + places.height - places.tables);
-        }
-        band.Free();
+    const QByteArrayView rest = coded.chopped(endOfImage.size());
+    if (!isFirst) {
+        return file.Add(lastRestart) && file.Add(rest.sliced(places.data));
     }
-    return file += endOfImage;
+    QByteArray start = rest.sliced(places.tables).toByteArray();
+    qToBigEndian(static_cast<quint16>(height), start.data() + places.height - places.tables);
+    return file.Add(start);
 }
 
 // All that stands in front of the tables, as a file of one pixel has it. The error is returned.
@@ -304,46 +293,102 @@ std::vector<Band> BandsOf(const Bitmap* bitmap) {
     return bands;
 }
 
+constexpr std::size_t mostWaiting = 16;  // bands, while one is being written
+
+// The picture's bands, coded apart, each in the file as soon as those before it are.
+class BandsInOrder {
+  public:
+    BandsInOrder(const Bitmap* bitmap, const OutputEncoding& encoding, const EncodeOptions& options)
+        : bitmap_(*bitmap),
+          encoding_(encoding),
+          options_(options),
+          bands_(BandsOf(bitmap)),
+          errors_(bands_.size()) {
+        if (options.rows != nullptr) {
+            sampler_.emplace(bitmap->Size());
+        }
+    }
+
+    // False when one could not be coded or had no place.
+    bool AddTo(FileBytes& file) {
+        using Coded = std::unique_ptr<CodedBytes>;
+        bool isFirst = true;
+        OrderedPieces<Coded> inOrder(
+            [&](const Coded& coded) {
+                return AddBand(*coded, std::exchange(isFirst, false), bitmap_.Size().height, file);
+            },
+            mostWaiting);
+        options_.Run(static_cast<int>(bands_.size()), [&](int n) {
+            if (!inOrder.Failed()) {
+                auto coded = std::make_unique<CodedBytes>();
+                const auto place = static_cast<std::size_t>(n);
+                errors_[place] = Code(bands_[place], *coded);
+                inOrder.Put(place, std::move(coded));
+            }
+        });
+        return !inOrder.Failed();
+    }
+    // What libjpeg says of the first that it could not code; empty when it could all.
+    QString Error() const {
+        const auto error =
+            std::ranges::find_if_not(errors_, [](const QString& text) { return text.isEmpty(); });
+        return error == errors_.end() ? QString() : *error;
+    }
+    // Of bands that are all coded, from rows that came and went; else none.
+    BitmapHandle Thumbnail() const { return sampler_ ? sampler_->Thumbnail() : nullptr; }
+
+  private:
+    QString Code(Band band, CodedBytes& coded) {
+        QString error;
+        const int top = bitmap_.Size().height - 1 - band.first;
+        const LineRange rows{top - band.count + 1, top};
+        options_.WithRows(bitmap_, rows, [&](const Bitmap& there) {
+            if (sampler_) {
+                sampler_->Take(there, rows);
+            }
+            band.bitmap = &there;
+            error = CodeBand(band, encoding_, nullptr, coded);
+        });
+        return error;
+    }
+
+    const Bitmap& bitmap_;
+    const OutputEncoding& encoding_;
+    const EncodeOptions& options_;
+    const std::vector<Band> bands_;
+    std::vector<QString> errors_;
+    std::optional<ThumbnailSampler> sampler_;
+};
+
+EncodedBitmap Refused(const QString& error) {
+    const Reason reason(ReasonCode::CannotBeEncoded);
+    return {{}, error.isEmpty() ? reason : Reason(ReasonCode::Added, reason, error)};
+}
+
 }  // namespace
 
 EncodedBitmap EncodeJpeg(const Bitmap* bitmap, const OutputEncoding& encoding,
                          const EncodeOptions& options) {
-    const int height = SizeOf(bitmap).height;
-    const std::vector<Band> bands = BandsOf(bitmap);
-    std::vector<CodedBytes> coded(bands.size());
-    std::vector<QString> errors(bands.size());
-    std::optional<ThumbnailSampler> sampler;
-    if (options.rows != nullptr) {
-        sampler.emplace(SizeOf(bitmap));
-    }
-    options.Run(static_cast<int>(bands.size()), [&](int n) {
-        Band band = bands[n];
-        const int top = height - 1 - band.first;
-        const LineRange rows{top - band.count + 1, top};
-        options.WithRows(*bitmap, rows, [&](const Bitmap& there) {
-            if (sampler) {
-                sampler->Take(there, rows);
-            }
-            band.bitmap = &there;
-            errors[n] = CodeBand(band, encoding, nullptr, coded[n]);
-        });
-    });
-    const BitmapHandle thumbnail = sampler ? sampler->Thumbnail() : nullptr;
-    const WrittenMetadata metadata = MetadataForJpeg(*bitmap, thumbnail.get());
+    // The head has a thumbnail. Where the pixels are yet to come, one just as long keeps its place.
+    const BitmapHandle early = options.rows != nullptr ? NewBitmap({1, 1}) : nullptr;
+    const WrittenMetadata metadata = MetadataForJpeg(*bitmap, early.get());
     QByteArray head;
-    errors.push_back(CodeHead(HeadFor(*bitmap, metadata), encoding, head));
-    const auto error =
-        std::ranges::find_if_not(errors, [](const QString& text) { return text.isEmpty(); });
-    if (error != errors.end()) {
-        return {{}, {ReasonCode::Added, Reason(ReasonCode::CannotBeEncoded), *error}};
+    if (const QString error = CodeHead(HeadFor(*bitmap, metadata), encoding, head);
+        !error.isEmpty()) {
+        return Refused(error);
     }
-    if (!std::ranges::all_of(coded, &HasScan)) {
-        return {{}, ReasonCode::CannotBeEncoded};
+    BandsInOrder bands(bitmap, encoding, options);
+    FileBytes file(options);
+    bool ok = file.Add(head) && bands.AddTo(file) && file.Add(endOfImage);
+    if (const BitmapHandle thumbnail = bands.Thumbnail(); ok && thumbnail) {
+        const QString error =
+            CodeHead(HeadFor(*bitmap, MetadataForJpeg(*bitmap, thumbnail.get())), encoding, head);
+        ok = error.isEmpty() && file.PutAtStart(head);
     }
-    if (options.rows != nullptr) {
-        options.rows->End();  // nothing can fail any more that would be tried again
+    if (!ok) {
+        return file.Error().isEmpty() ? Refused(bands.Error()) : EncodedBitmap{{}, file.Error()};
     }
-    return {Joined(head, coded, height), {}, Joined(metadata.notes)};
+    return {std::move(file.Bytes()), {}, Joined(metadata.notes)};
 }
 
 QByteArray PlainJpeg(const Bitmap* bitmap, int quality) {

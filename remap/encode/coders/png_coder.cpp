@@ -20,6 +20,7 @@
 
 #include "remap/encode/coders/deflate/deflate_matches.h"
 #include "remap/encode/coders/deflate/deflate_runs.h"
+#include "remap/encode/coders/file_bytes.h"
 #include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/coders/png_filter.h"
 #include "remap/encode/coders/png_head.h"
@@ -210,57 +211,16 @@ QByteArray EndChunk() {
     return chunk;
 }
 
-// The file's bytes one after the other, to the sink or kept. False from the first that had no place
-// on, with the reason.
-class PngBytes {
-  public:
-    explicit PngBytes(const EncodeOptions& options) : options_(options) {}
-
-    bool Add(const QByteArray& more) {
-        if (!reason.isEmpty()) {
-            return false;
-        }
-        length_ += more.size();
-        if (length_ > options_.largest) {
-            reason = {ReasonCode::FileTooLarge, options_.largest};
-        } else if (options_.sink == nullptr) {
-            bytes += more;
-        } else if ((length_ == more.size() && !options_.sink->Begin()) ||
-                   !options_.sink->Append(more)) {
-            reason = options_.sink->Error();
-        }
-        return reason.isEmpty();
-    }
-    // In the place of what was added first, which was as long.
-    bool PutAtStart(const QByteArray& start) {
-        if (reason.isEmpty() && options_.sink == nullptr) {
-            bytes.replace(0, start.size(), start);
-        } else if (reason.isEmpty() && !options_.sink->PutAtStart(start)) {
-            reason = options_.sink->Error();
-        }
-        return reason.isEmpty();
-    }
-
-    QByteArray bytes;
-    Reason reason;
-
-  private:
-    const EncodeOptions& options_;
-    qint64 length_ = 0;
-};
-
 constexpr std::size_t mostWaiting = 32;  // bands, while one is being written
 
-// Each band goes into the file as soon as those before it are in it.
-void AddBands(BandCoder& coder, const EncodeOptions& options, PngBytes& file) {
+// Each band goes into the file as soon as those before it are in it. False when one could not be
+// coded or had no place.
+bool AddBands(BandCoder& coder, const EncodeOptions& options, FileBytes& file) {
     uLong sum = adler32(0, nullptr, 0);
     OrderedPieces<Band> inOrder(
         [&](const Band& band) {
-            if (band.chunk.isEmpty()) {
-                file.reason = ReasonCode::CannotBeEncoded;
-            }
             sum = adler32_combine(sum, band.sum, static_cast<z_off_t>(band.length));
-            return file.Add(band.chunk);
+            return !band.chunk.isEmpty() && file.Add(band.chunk);
         },
         mostWaiting);
     options.Run(coder.Bands(), [&](int n) {
@@ -268,7 +228,7 @@ void AddBands(BandCoder& coder, const EncodeOptions& options, PngBytes& file) {
             inOrder.Put(static_cast<std::size_t>(n), coder.Code(n));
         }
     });
-    file.Add(SumChunk(sum));
+    return !inOrder.Failed() && file.Add(SumChunk(sum));
 }
 
 }  // namespace
@@ -284,18 +244,15 @@ EncodedBitmap EncodePng(const Bitmap* bitmap, const OutputEncoding& encoding,
     }
     BandCoder coder(bitmap, options);
     coder.Choose(encoding.level);
-    PngBytes file(options);
-    file.Add(head.bytes);
-    AddBands(coder, options, file);
-    file.Add(EndChunk());
-    if (const BitmapHandle thumbnail = coder.Thumbnail()) {
-        file.PutAtStart(PngHeadFor(*bitmap, MetadataForPng(*bitmap, thumbnail.get())).bytes);
+    FileBytes file(options);
+    bool ok = file.Add(head.bytes) && AddBands(coder, options, file) && file.Add(EndChunk());
+    if (const BitmapHandle thumbnail = coder.Thumbnail(); ok && thumbnail) {
+        ok = file.PutAtStart(PngHeadFor(*bitmap, MetadataForPng(*bitmap, thumbnail.get())).bytes);
     }
-    if (!file.reason.isEmpty()) {
-        return {{}, file.reason};
+    if (!ok) {
+        return {{}, file.Error().isEmpty() ? Reason(ReasonCode::CannotBeEncoded) : file.Error()};
     }
-    file.bytes.squeeze();
-    return {std::move(file.bytes), {}, Joined(metadata.notes)};
+    return {std::move(file.Bytes()), {}, Joined(metadata.notes)};
 }
 
 }  // namespace varnel

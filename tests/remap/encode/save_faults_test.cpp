@@ -214,7 +214,8 @@ INSTANTIATE_TEST_SUITE_P(Types, SaveFaults,
                                            Type{"Bmp", OutputType::Bmp},
                                            Type{"Png", OutputType::Png},
                                            Type{"TiffInPieces", OutputType::Tiff, true},
-                                           Type{"PngInPieces", OutputType::Png, true}),
+                                           Type{"PngInPieces", OutputType::Png, true},
+                                           Type{"JpegInPieces", {OutputType::Jpeg, 100}, true}),
                          [](const auto& type) { return std::string(type.param.name); });
 
 }  // namespace

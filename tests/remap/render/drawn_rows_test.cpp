@@ -152,6 +152,9 @@ TEST(DrawnRows, GiveTheFileOfTheWholeResult) {
             change.make(record);
             const QByteArray whole = FileOfWhole(*photo, record, OutputType::Jpeg, runner);
             ASSERT_FALSE(whole.isEmpty());
+            testing::KeepingSink sink;
+            EXPECT_TRUE(FileOfRows(*photo, record, OutputType::Jpeg, runner, &sink).isEmpty());
+            EXPECT_EQ(sink.bytes, whole);
             EXPECT_EQ(FileOfRows(*photo, record, OutputType::Jpeg, runner), whole)
                 << ToText(projection).toStdString() << ", " << change.name;
             EXPECT_EQ(FileOfArrivingRows(*photo, record, runner), whole)
@@ -236,8 +239,8 @@ TEST(DrawnRows, GiveEveryTypesFilePieceByPiece) {
 TEST(DrawnRows, EndWhereTheirFileHasNoPlace) {
     ThreadRunner runner(3);
     const BitmapHandle photo = testing::Grainy(photoSize);
-    for (const OutputType type : {OutputType::Tiff, OutputType::Png}) {
-        for (const qint64 room : {qint64{3}, qint64{300'000}}) {
+    for (const OutputType type : {OutputType::Tiff, OutputType::Png, OutputType::Jpeg}) {
+        for (const qint64 room : {qint64{3}, qint64{100'000}}) {
             testing::KeepingSink sink(room);
             DrawnRows rows(Projection::Varnel, testing::FisheyeRecord(), *photo);
             const EncodedBitmap file =
@@ -248,8 +251,8 @@ TEST(DrawnRows, EndWhereTheirFileHasNoPlace) {
         }
         testing::KeepingSink sink;
         const EncodedBitmap large =
-            EncodeBitmap(type, photo.get(), {.largest = 300'000, .sink = &sink});
-        EXPECT_EQ(large.reason, Reason(ReasonCode::FileTooLarge, qint64{300'000}));
+            EncodeBitmap(type, photo.get(), {.largest = 100'000, .sink = &sink});
+        EXPECT_EQ(large.reason, Reason(ReasonCode::FileTooLarge, qint64{100'000}));
     }
 }
 

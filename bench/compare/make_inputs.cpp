@@ -6,6 +6,8 @@
 // gradients, octaves of texture, hard edges and noise; and photo16.tif, the same with noise in 16
 // bits, deflated. COUNT pieces of it each of 600 x 400 and of
 // 1200 x 800 go into the folders small and middle. The same on every machine but for rounding.
+// make_inputs --pieces WIDTH FOLDER COUNT
+// Writes pieces alone, of that width, into the folder.
 
 #include <FreeImage.h>
 
@@ -129,14 +131,18 @@ bool Cut(FIBITMAP* photo, const std::filesystem::path& folder, int pieceWidth, i
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("make_inputs FOLDER COUNT\n", stderr);
+    const bool piecesAlone = argc == 5 && std::string(argv[1]) == "--pieces";
+    if (argc != 3 && !piecesAlone) {
+        std::fputs("make_inputs FOLDER COUNT\nmake_inputs --pieces WIDTH FOLDER COUNT\n", stderr);
         return 2;
     }
-    const std::filesystem::path folder = argv[1];
-    const int count = std::stoi(argv[2]);
+    const std::filesystem::path folder = argv[argc - 2];
+    const int count = std::stoi(argv[argc - 1]);
     FIBITMAP* const photo = FreeImage_Allocate(width, height, 24);
     Paint(photo);
+    if (piecesAlone) {
+        return Cut(photo, folder, std::stoi(argv[2]), count) ? 0 : 1;
+    }
     const bool good =
         Save(photo, folder / "photo.jpg") && SaveDeep(photo, folder / "photo16.tif") &&
         Cut(photo, folder / "small", 600, count) && Cut(photo, folder / "middle", 1200, count);

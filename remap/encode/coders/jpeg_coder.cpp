@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/ordered_pieces.h"
 #include "remap/encode/coders/file_bytes.h"
-#include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/metadata_writer.h"
 #include "remap/encode/thumbnail.h"
 #include "remap/image/jpeg_errors.h"
@@ -303,11 +303,9 @@ class BandsInOrder {
           encoding_(encoding),
           options_(options),
           bands_(BandsOf(bitmap)),
-          errors_(bands_.size()) {
-        if (options.rows != nullptr) {
-            sampler_.emplace(bitmap->Size());
-        }
-    }
+          errors_(bands_.size()),
+          sampler_(options.rows != nullptr ? std::optional<ThumbnailSampler>(bitmap->Size())
+                                           : std::nullopt) {}
 
     // False when one could not be coded or had no place.
     bool AddTo(FileBytes& file) {
@@ -321,9 +319,8 @@ class BandsInOrder {
         options_.Run(static_cast<int>(bands_.size()), [&](int n) {
             if (!inOrder.Failed()) {
                 auto coded = std::make_unique<CodedBytes>();
-                const auto place = static_cast<std::size_t>(n);
-                errors_[place] = Code(bands_[place], *coded);
-                inOrder.Put(place, std::move(coded));
+                errors_[n] = Code(bands_[n], *coded);
+                inOrder.Put(static_cast<std::size_t>(n), std::move(coded));
             }
         });
         return !inOrder.Failed();

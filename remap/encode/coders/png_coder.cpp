@@ -18,10 +18,10 @@
 #include <utility>
 #include <vector>
 
+#include "base/ordered_pieces.h"
 #include "remap/encode/coders/deflate/deflate_matches.h"
 #include "remap/encode/coders/deflate/deflate_runs.h"
 #include "remap/encode/coders/file_bytes.h"
-#include "remap/encode/coders/ordered_pieces.h"
 #include "remap/encode/coders/png_filter.h"
 #include "remap/encode/coders/png_head.h"
 #include "remap/encode/thumbnail.h"

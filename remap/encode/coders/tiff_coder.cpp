@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "remap/encode/coders/ordered_pieces.h"
+#include "base/ordered_pieces.h"
 #include "remap/encode/coders/strip_coder.h"
 #include "remap/encode/coders/tiff_file.h"
 #include "remap/encode/coders/tiff_rows.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "remap/encode/coders/ordered_pieces.h"
+#include "base/ordered_pieces.h"
 
 #include <gtest/gtest.h>
 

@@ -51,9 +51,10 @@ class CommandRun : public ConversionObserver {
           console_(console),
           reports_(options, console),
           wait_(reports_.Bar(), console),
-          reader_(NewPictureReader()),
-          feed_(std::in_place, *reader_, MoreReaders(runner_.Cores()), wait_,
-                ReadChoicesOf(settings_, options.raw), &runner_),
+          reader_(console.TakeReader()),
+          feed_(std::make_shared<PrefetchingReader>(*reader_, MoreReaders(runner_.Cores()), wait_,
+                                                    ReadChoicesOf(settings_, options.raw),
+                                                    &runner_)),
           targets_(options.files,
                    options.film.output.isEmpty() ? RulesOf(options) : TargetRules()) {}
 
@@ -147,13 +148,22 @@ class CommandRun : public ConversionObserver {
         if (runner_.Cores() == 1) {
             ports.readAhead = nullptr;
         }
-        ports.allRead = [this] {  // its decoders' memory is better used now
-            feed_.reset();
-            reader_.reset();
-        };
+        ports.allRead = [this] { EndReaders(); };
         ports.cores = &runner_;
         ports.unfinished = console_.unfinished;
         return ports;
+    }
+
+    // Their decoders' memory is better used now. Nobody waits for them to be gone.
+    void EndReaders() {
+        std::packaged_task<void()> end(
+            [feed = std::move(feed_), reader = std::move(reader_)]() mutable {
+                feed.reset();
+                reader.reset();
+            });
+        if (!runner_.Begin(end, TaskWeight::Light)) {
+            end();
+        }
     }
 
     bool IsFrameOf(const QString& path) const {
@@ -368,8 +378,8 @@ class CommandRun : public ConversionObserver {
     const Console& console_;
     RunReports reports_;
     SignalWait wait_;
-    std::unique_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
-    std::optional<PrefetchingReader> feed_;
+    std::shared_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
+    std::shared_ptr<PrefetchingReader> feed_;
     ConversionTargets targets_;
     std::unique_ptr<ResultsAsFilm> film_;  // of --film
     qsizetype filmFrames_ = 0;

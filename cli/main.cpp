@@ -11,17 +11,20 @@
 
 #include "base/huge_pages.h"
 #include "cli/convert.h"
+#include "cli/early_reader.h"
 #include "cli/stop_signals.h"
 #include "state/settings/autosaving_store.h"
 
 namespace {
 
 int Convert(int argc, char* argv[]) {
+    std::unique_ptr<varnel::PictureReader> reader = varnel::EarlyReader(argc, argv);
     varnel::UnfinishedFile unfinished;
     const varnel::StopSignals stop(unfinished);
     const QCoreApplication application(argc, argv);
     const varnel::Console console{std::cout,        std::cerr,    ::isatty(STDERR_FILENO) == 1,
-                                  "varnel-convert", &stop.Came(), &unfinished};
+                                  "varnel-convert", &stop.Came(), &unfinished,
+                                  &reader};
     if (!stop.Error().isEmpty()) {
         varnel::Complain(console, stop.Error());
     }

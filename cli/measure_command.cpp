@@ -180,7 +180,7 @@ int RunMeasureLens(const Options& given, SettingsStore& store, const Console& co
         return Fail(console,
                     options.measureLens + QStringLiteral(": the file exists; --force replaces it"));
     }
-    const std::unique_ptr<PictureReader> reader = NewPictureReader();
+    const std::unique_ptr<PictureReader> reader = console.TakeReader();
     UntilStopped wait(console);
     PhotoLoader loader(*reader, &wait);
     std::vector<LoadedPicture> pictures;

@@ -119,7 +119,7 @@ class StitchRun {
 
     // Two with their records; fewer when something was reported.
     std::vector<StitchHalf> Halves() {
-        const std::unique_ptr<PictureReader> reader = NewPictureReader();
+        const std::unique_ptr<PictureReader> reader = console_.TakeReader();
         UntilStopped wait(console_);
         PhotoLoader loader(*reader, &wait, &settings_, options_.raw);
         std::vector<StitchHalf> halves;

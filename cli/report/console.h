@@ -6,10 +6,12 @@
 
 #include <QString>
 #include <atomic>
+#include <memory>
 #include <ostream>
 #include <string>
 
 #include "base/notices.h"
+#include "decoder/process/picture_reader.h"
 #include "files/unfinished_file.h"
 
 namespace varnel {
@@ -26,7 +28,12 @@ struct Console {
     const char* program = "varnel-convert";
     const std::atomic<int>* stop = nullptr;  // the signal that asks to stop, once it is not 0
     UnfinishedFile* unfinished = nullptr;    // where the file that is being written is noted
+    std::unique_ptr<PictureReader>* early = nullptr;  // gets ready since the program's start
 
+    // For whoever reads photos first; a new one where there is none that got ready.
+    std::unique_ptr<PictureReader> TakeReader() const {
+        return early != nullptr && *early ? std::move(*early) : NewPictureReader();
+    }
     int StopSignal() const { return stop != nullptr ? stop->load() : 0; }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// What span_kernels.cpp blends vectors of output pixels by, once for each instruction set: for each
+// What the kernels blend vectors of output pixels by, once for each instruction set: for each
 // kind of pixel a type with the same two functions, which WithBlend chooses. StoreInside takes the
 // four neighbours, StoreBetween two of a row; all of them have to be on the picture, and so has a
 // third pixel to their right. Blends other than of Bgr8 are rounded to the nearest sample; they
@@ -33,15 +33,16 @@ struct ByteBlend {
     // The target's pixels from the n-th on.
     static HWY_INLINE void StoreInside(const SourceView source, const Coordinate& x,
                                        const Coordinate& y, const SpanTarget& target, int n) {
-        HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
+        HWY_ALIGN std::array<std::uint32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> below;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> above;
-        hn::Store(Offsets<3>(x.whole, y.whole, source.pitch), Ints(), offsets.data());
+        hn::Store(hn::BitCast(Words(), Offsets<3>(x.whole, y.whole, source.pitch)), Words(),
+                  offsets.data());
+        const std::uint8_t* const rowAbove = source.bits + source.pitch;
         const std::size_t lanes = hn::Lanes(Floats());
         for (std::size_t lane = 0; lane < lanes; ++lane) {
-            const std::uint8_t* const pixel = source.bits + offsets[lane];
-            std::memcpy(&below[lane], pixel, 8);
-            std::memcpy(&above[lane], pixel + source.pitch, 8);
+            std::memcpy(&below[lane], source.bits + offsets[lane], 8);
+            std::memcpy(&above[lane], rowAbove + offsets[lane], 8);
         }
         const Pair lowerPair = LoadPairs(below.data());
         const Pair upperPair = LoadPairs(above.data());
@@ -61,9 +62,10 @@ struct ByteBlend {
 
     static HWY_INLINE void StoreBetween(const SourceView source, const Coordinate& x, VecI row,
                                         const SpanTarget& target, std::ptrdiff_t n) {
-        HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
+        HWY_ALIGN std::array<std::uint32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> pairs;
-        hn::Store(Offsets<3>(x.whole, row, source.pitch), Ints(), offsets.data());
+        hn::Store(hn::BitCast(Words(), Offsets<3>(x.whole, row, source.pitch)), Words(),
+                  offsets.data());
         const std::size_t lanes = hn::Lanes(Floats());
         for (std::size_t lane = 0; lane < lanes; ++lane) {
             std::memcpy(&pairs[lane], source.bits + offsets[lane], 8);

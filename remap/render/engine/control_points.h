@@ -40,10 +40,11 @@ inline constexpr int closestNodeStep = 8;
 inline void WorkOutNodes(const SmoothNodes& nodes, ControlPointLine& line) {
     const int segments = (line.count + line.step - 1) / line.step;
     const auto size = static_cast<std::size_t>(segments + 1 + 2 * nodesAround);
-    line.u.resize(size);
-    line.v.resize(size);
+    line.u.resize(size + nodesBeyond);
+    line.v.resize(size + nodesBeyond);
     line.inside.resize(nodes.HasEdge() ? size : 0);
-    nodes.Fill({line.x, line.y, line.step}, {line.u, line.v, line.inside});
+    nodes.Fill({line.x, line.y, line.step},
+               {std::span(line.u).first(size), std::span(line.v).first(size), line.inside});
 }
 
 // A run's exact colours: by the map itself and the literal blends.

@@ -22,17 +22,6 @@ inline bool Smooth(const double* p, double limit) {
            std::fabs(p[2]) < 1e6 && std::fabs(p[3]) < 1e6;
 }
 
-// Whether the positions between p[2] and p[3] keep so close to whole ones that single precision
-// would lose what is left of them, as everywhere where a whole picture comes from one pixel.
-inline bool Lost(const double* p) {
-    constexpr double close = 1e-4;
-    const auto lost = [](double at) {
-        const double part = at - std::floor(at);
-        return (part < close && part > 0.0) || part > 1.0 - close;
-    };
-    return lost(p[2]) && lost(p[3]);
-}
-
 enum class Shown { All, None, Part };
 
 // What is shown between w[2] and w[3], see NodeValues: what bends less than it is away from 0 does

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The inner loops of the engine: runs of neighbouring output pixels from the source. Their vector
-// code is in span_kernels.cpp alone and chooses the instruction set when it runs. Positions are in
-// pixels of the source, rows counted from the bottom row. Throws nothing.
+// code, in span_kernels.cpp and row_kernels.cpp, chooses the instruction set when it runs.
+// Positions are in pixels of the source, rows counted from the bottom row. Throws nothing.
 #pragma once
 
 #include <cmath>
@@ -25,6 +25,9 @@ struct SpanImage {
     int begin = 0;
     int end = 0;
 };
+
+// Places after the last node that are read as well, with whole vectors, whatever is there.
+inline constexpr std::size_t nodesBeyond = 7;
 
 // A run whose source offsets (u, v) from the centre are known at nodes; between them they follow a
 // polynomial.

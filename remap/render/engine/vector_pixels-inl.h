@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Vectors of pixels for span_kernels.cpp, which includes this once for each instruction set. Blends
+// Vectors of pixels for the kernels, which include this once for each instruction set. Blends
 // are linear interpolations in single precision, which leave flat areas exactly flat; they differ
 // from the double-precision blends by one level in fewer than one of a thousand channels (tested).
 // Throws nothing.
@@ -34,6 +34,8 @@ using Words = hn::Rebind<std::uint32_t, Floats>;
 using VecF = hn::Vec<Floats>;
 using VecI = hn::Vec<Ints>;
 using VecW = hn::Vec<Words>;
+using Doubles = hn::CappedTag<double, lanesAtMost>;
+using VecD = hn::Vec<Doubles>;
 
 // Source pixels of one vector: whole coordinates of the lower left neighbour and what is left.
 struct Positions {
@@ -43,25 +45,35 @@ struct Positions {
     HWY_ALIGN std::array<float, lanesAtMost> partY;
 };
 
-// A coordinate of a vector of pixels: the whole one of the lower neighbour and what is left, for an
-// offset and for its mirror image.
+// A coordinate of a vector of pixels: the whole one of the lower neighbour and what is left.
 struct Coordinate {
     VecI whole;
     VecF part;
 };
 
-inline Coordinate Upward(VecF offset, std::int32_t base) {
-    const VecF floor = hn::Floor(offset);
-    return {hn::Add(hn::ConvertTo(Ints(), floor), hn::Set(Ints(), base)), hn::Sub(offset, floor)};
-}
+// One axis of an image: from offsets within a piece to coordinates.
+struct ImageAxis {
+    VecF sign;
+    VecF shift;
+    VecI base;  // as single-precision whole numbers keep it, see At
 
-// At the base minus the offset, plus the shift.
-inline Coordinate Mirrored(VecF offset, std::int32_t base, VecF shift) {
-    offset = hn::Sub(offset, shift);
-    const VecF ceiling = hn::Ceil(offset);
-    return {hn::Sub(hn::Set(Ints(), base), hn::ConvertTo(Ints(), ceiling)),
-            hn::Sub(ceiling, offset)};
-}
+    ImageAxis(int direction, std::int32_t centre, std::int32_t offset, double mirror)
+        : sign(hn::Set(Floats(), direction > 0 ? 1.0F : -1.0F)),
+          shift(hn::Set(Floats(), direction > 0 ? 0.0F : static_cast<float>(mirror))),
+          base(hn::Set(Ints(), centre + (direction > 0 ? offset : -offset) - wholeBits)) {}
+
+    // Whole numbers below 2^22 are the last bits of what they make of 1.5 * 2^23. Offsets are
+    // smaller, see Smooth.
+    Coordinate At(VecF offset) const {
+        const VecF at = hn::MulAdd(offset, sign, shift);
+        const VecF floor = hn::Floor(at);
+        const VecF bits = hn::Add(floor, hn::Set(Floats(), 12582912.0F));
+        return {hn::Add(hn::BitCast(Ints(), bits), base), hn::Sub(at, floor)};
+    }
+
+  private:
+    static constexpr std::int32_t wholeBits = 0x4B400000;
+};
 
 // Two neighbouring pixels of a row as 8 bytes: blue, green, red, blue, green, red and two more.
 struct Pair {
@@ -77,7 +89,10 @@ inline Pair LoadPairs(const std::uint64_t* pairs) {
 
 template <int kShift>
 inline VecF Byte(VecW word) {
-    const VecW byte = hn::And(hn::ShiftRight<kShift>(word), hn::Set(Words(), 255U));
+    VecW byte = hn::ShiftRight<kShift>(word);
+    if constexpr (kShift < 24) {
+        byte = hn::And(byte, hn::Set(Words(), 255U));
+    }
     return hn::ConvertTo(Floats(), hn::BitCast(Ints(), byte));
 }
 
@@ -134,10 +149,12 @@ inline void StorePacked(VecI pixels, std::uint8_t* out, bool backward) {
 inline void StoreColours(const Colours& colours, std::uint8_t* out, std::ptrdiff_t stride,
                          int count) {
     const Ints ints;
-    const VecI blue = hn::ConvertTo(ints, colours.blue);
-    const VecI green = hn::ShiftLeft<8>(hn::ConvertTo(ints, colours.green));
-    const VecI red = hn::ShiftLeft<16>(hn::ConvertTo(ints, colours.red));
-    const VecI whole = hn::Or(blue, hn::Or(green, red));
+    const Floats floats;
+    // Three bytes side by side are whole numbers below 2^24, exact in single precision.
+    const VecF both =
+        hn::MulAdd(hn::Floor(colours.green), hn::Set(floats, 256.0F), hn::Floor(colours.blue));
+    const VecI whole =
+        hn::ConvertTo(ints, hn::MulAdd(hn::Floor(colours.red), hn::Set(floats, 65536.0F), both));
 #if HWY_TARGET != HWY_SCALAR
     if (count == static_cast<int>(hn::Lanes(ints))) {
         StorePacked(whole, out, stride < 0);
@@ -180,6 +197,13 @@ VecI Offsets(VecI x, VecI y, std::ptrdiff_t pitch) {
     const Ints ints;
     const VecI columns = samples == 4 ? hn::ShiftLeft<2>(x) : hn::Add(x, hn::Add(x, x));
     return hn::Add(hn::Mul(y, hn::Set(ints, static_cast<std::int32_t>(pitch))), columns);
+}
+
+// Before rows from the lowest of these on are read.
+inline void WaitForRows(VecI rows, const SourceView& source) {
+    if (HWY_UNLIKELY(source.arriving != nullptr)) {
+        source.WaitFor(hn::GetLane(hn::MinOfLanes(Ints(), rows)));
+    }
 }
 
 // Whether the vector code can read the source: up to 2^31 samples, where a vector is a single

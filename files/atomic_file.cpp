@@ -184,17 +184,22 @@ class TempSink : public FileSink {
     bool Begin() override {
         file_.reset();
         file_.emplace(target_, operations_);
-        length_ = stored_ = 0;
+        length_ = storedFrom_ = 0;
         return Noted(file_->Create());
     }
     bool Append(QByteArrayView bytes) override {
-        if (!Noted(file_->WriteAll(bytes))) {
-            return false;
-        }
-        length_ += bytes.size();
-        if (length_ - stored_ >= bytesAtOnce) {
-            file_->BeginToStore(stored_, length_ - stored_);
-            stored_ = length_;
+        while (!bytes.isEmpty()) {
+            const qint64 length =
+                std::min<qint64>(bytes.size(), storedFrom_ + bytesAtOnce - length_);
+            if (!Noted(file_->WriteAll(bytes.first(length)))) {
+                return false;
+            }
+            length_ += length;
+            if (length_ == storedFrom_ + bytesAtOnce) {
+                file_->BeginToStore(storedFrom_, bytesAtOnce);
+                storedFrom_ = length_;
+            }
+            bytes = bytes.sliced(length);
         }
         return true;
     }
@@ -205,7 +210,7 @@ class TempSink : public FileSink {
     const Reason& Error() const override { return error_; }
 
   private:
-    static constexpr qint64 bytesAtOnce = 8 << 20;
+    static constexpr qint64 bytesAtOnce = 8 << 20;  // of what a killed program waits for
 
     bool Noted(bool ok) {
         if (!ok) {
@@ -218,7 +223,7 @@ class TempSink : public FileSink {
     FileOperations& operations_;
     std::optional<TempFile> file_;
     qint64 length_ = 0;
-    qint64 stored_ = 0;  // bytes that the system was told to write to the disk
+    qint64 storedFrom_ = 0;  // up to there the system was told to write to the disk
     Reason error_;
 };
 

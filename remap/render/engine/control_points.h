@@ -10,7 +10,6 @@
 #include <cmath>
 #include <vector>
 
-#include "remap/image/interpolation.h"
 #include "remap/projection/smooth_map.h"
 #include "remap/render/engine/span_kernels.h"
 
@@ -47,20 +46,15 @@ inline void WorkOutNodes(const SmoothNodes& nodes, ControlPointLine& line) {
                {std::span(line.u).first(size), std::span(line.v).first(size), line.inside});
 }
 
-// A run's exact colours: by the map itself and the literal blends.
+// A run's exact offsets, by the map itself.
 struct ExactLine {
     const SmoothMap& map;
     const ControlPointLine& line;
     const SmoothNodes& nodes;
 
-    static PixelLevels Colour(const void* context, const NodeSpan& span, const SpanImage& image,
-                              int n) {
+    static SourceOffset At(const void* context, int n) {
         const auto& self = *static_cast<const ExactLine*>(context);
-        const auto [u, v] = self.map.At(self.line.x + n, self.line.y);
-        const double column = image.signX > 0 ? u : span.mirrorX - u;
-        const double row = span.centreY + (image.signY > 0 ? v : span.mirrorY - v);
-        return span.nearest ? span.source(Round(span.centreX + Round(column)), Round(row))
-                            : BlendBilinear(span.source, span.centreX + column, row);
+        return self.map.At(self.line.x + n, self.line.y);
     }
     // Nodes less far apart: at an edge and where the map bends.
     static void Closer(const void* context, const NodeSpan& span, int first, int end) {
@@ -91,7 +85,7 @@ struct ExactLine {
                 map.MirrorShift().x,
                 map.MirrorShift().y,
                 nearest,
-                &ExactLine::Colour,
+                &ExactLine::At,
                 line.inside.empty() || line.step <= closestNodeStep ? nullptr : &ExactLine::Closer,
                 this,
                 images};

@@ -17,6 +17,7 @@
 
 #include "remap/image/interpolation.h"
 #include "remap/render/engine/blends-inl.h"
+#include "remap/render/engine/exact_blends-inl.h"
 #include "remap/render/engine/node_checks.h"
 #include "remap/render/engine/node_segments-inl.h"
 #include "remap/render/engine/span_kernels.h"
@@ -26,21 +27,17 @@ HWY_BEFORE_NAMESPACE();
 namespace varnel {
 namespace HWY_NAMESPACE {
 
-// Pixels of an image worked out one by one.
-HWY_NOINLINE void StoreExact(const NodeSpan& span, const SpanImage& image, int first, int end) {
-    for (int n = std::max(first, image.begin); n < std::min(end, image.end); ++n) {
-        image.target.Put(n, span.exact(span.context, span, image, n));
-    }
-}
-
 // Pixels that the nodes around them cannot stand for.
 HWY_NOINLINE void StoreOtherwise(const NodeSpan& span, int first, int end) {
     if (first < end && span.closer != nullptr) {
         span.closer(span.context, span, first, end);
         return;
     }
-    for (const SpanImage& image : span.images) {
-        StoreExact(span, image, first, end);
+    for (; first < end; first += lanesAtMost) {
+        const ExactOffsets offsets(span, first, end);
+        for (const SpanImage& image : span.images) {
+            StoreExact(span, image, offsets);
+        }
     }
 }
 
@@ -56,7 +53,7 @@ inline PixelLevels NearestColour(const NodeSpan& span, const SpanImage& image, c
                                  std::size_t lane, int n) {
     const auto close = [](float part) { return std::fabs(part - 0.5F) < 0.001F; };
     if (close(at.partX[lane]) || close(at.partY[lane])) {
-        return span.exact(span.context, span, image, n);
+        return ExactColour(span, image, span.exact(span.context, n));
     }
     return span.source(at.x[lane] + (at.partX[lane] > 0.5F ? 1 : 0),
                        at.y[lane] + (at.partY[lane] > 0.5F ? 1 : 0));

@@ -42,10 +42,9 @@ struct NodeSpan {
     std::int32_t centreX = 0, centreY = 0;
     double mirrorX = 0.0, mirrorY = 0.0;
     bool nearest = false;
-    // The colour of pixel n of an image, worked out without nodes: where they are not smooth, and
-    // where a nearest read is too close to call.
-    PixelLevels (*exact)(const void* context, const NodeSpan& span, const SpanImage& image,
-                         int n) = nullptr;
+    // The offset of pixel n worked out without nodes: where they are not smooth, and where a
+    // nearest read is too close to call.
+    SourceOffset (*exact)(const void* context, int n) = nullptr;
     // Takes pixels first to end - 1 by closer nodes; null: they are worked out without nodes.
     void (*closer)(const void* context, const NodeSpan& span, int first, int end) = nullptr;
     const void* context = nullptr;

@@ -168,6 +168,11 @@ std::vector<Case> Cases() {
     const auto turned = [](ImageRecord& r) { r.RotateX = 20.0F, r.RotateY = -30.0F; };
     cases.push_back({"large", Projection::Rectilinear, {2100, 900}});
     cases.push_back({"large turned", Projection::Rectilinear, {4100, 1000}, turned});
+    // Most of it lies between nodes that cannot stand for the map.
+    const auto wide = [](ImageRecord& r) { r.OutputAOV = 165.0F; };
+    const auto wideTurned = [](ImageRecord& r) { r.OutputAOV = 165.0F, r.RotateX = 20.0F; };
+    cases.push_back({"large, wide", Projection::Rectilinear, {2100, 500}, wide});
+    cases.push_back({"large, wide, turned", Projection::Rectilinear, {2100, 500}, wideTurned});
     cases.push_back({"large Equidistance", Projection::Equidistance, {4100, 1000}});
     for (const float effect : {0.1F, 40.0F, 250.0F}) {
         cases.push_back({"Varnel effect", Projection::Varnel, {301, 200}, [effect](ImageRecord& r) {

@@ -148,22 +148,12 @@ class CommandRun : public ConversionObserver {
         if (runner_.Cores() == 1) {
             ports.readAhead = nullptr;
         }
-        ports.allRead = [this] { EndReaders(); };
+        ports.allRead = [this] {  // its decoders' memory is better used now
+            EndMeanwhile(std::move(feed_), std::move(reader_), runner_);
+        };
         ports.cores = &runner_;
         ports.unfinished = console_.unfinished;
         return ports;
-    }
-
-    // Their decoders' memory is better used now. Nobody waits for them to be gone.
-    void EndReaders() {
-        std::packaged_task<void()> end(
-            [feed = std::move(feed_), reader = std::move(reader_)]() mutable {
-                feed.reset();
-                reader.reset();
-            });
-        if (!runner_.Begin(end, TaskWeight::Light)) {
-            end();
-        }
     }
 
     bool IsFrameOf(const QString& path) const {

@@ -30,7 +30,10 @@ bool SameFile(const QString& a, const QString& b) {
 bool MayBeSameFile(const QString& a, const QString& b) {
     const QFileInfo first(a);
     const QFileInfo second(b);
-    return first.fileName().compare(second.fileName(), Qt::CaseInsensitive) == 0 &&
+    const auto name = [](const QFileInfo& file) {
+        return file.fileName().normalized(QString::NormalizationForm_KC);
+    };
+    return name(first).compare(name(second), Qt::CaseInsensitive) == 0 &&
            FileIdentity(first.path()) == FileIdentity(second.path());
 }
 

@@ -18,7 +18,7 @@ QString FileIdentity(const QString& path);
 bool SameFile(const QString& a, const QString& b);
 
 // Whether both names may lead to one file, whether it exists or not: the same folder, and names
-// that differ in case at most.
+// that differ in case or in how Unicode composes their letters at most.
 bool MayBeSameFile(const QString& a, const QString& b);
 
 // A set of files, some of which need not exist yet.

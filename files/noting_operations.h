@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// File operations that note the file that is being written. Throws std::bad_alloc only.
+// File operations that note the files that are being written. Throws std::bad_alloc only.
 #pragma once
 
 #include "files/file_operations.h"
@@ -18,10 +18,10 @@ class NotingOperations : public FileOperations {
         return unfinished_.Begin(name, [&] { return FileOperations::Create(name, permissions); });
     }
     int Rename(const QByteArray& name, const QByteArray& newName) override {
-        return unfinished_.End([&] { return FileOperations::Rename(name, newName); });
+        return unfinished_.End(name, [&] { return FileOperations::Rename(name, newName); });
     }
     int Remove(const QByteArray& name) override {
-        return unfinished_.End([&] { return FileOperations::Remove(name); });
+        return unfinished_.End(name, [&] { return FileOperations::Remove(name); });
     }
 
   private:

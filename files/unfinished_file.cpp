@@ -10,8 +10,10 @@ namespace varnel {
 
 void UnfinishedFile::RemoveForEver() {
     constexpr std::chrono::milliseconds longest(100);
-    if (mutex_.try_lock_for(longest) && !name_.isEmpty()) {
-        std::remove(name_.constData());
+    if (mutex_.try_lock_for(longest)) {
+        for (const QByteArray& name : names_) {
+            std::remove(name.constData());
+        }
     }
 }
 

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The temporary file that a run is writing, to be removed when the run is ended in the middle of
+// The temporary files that a run is writing, to be removed when the run is ended in the middle of
 // it. Throws what the given operations throw.
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <mutex>
 
 namespace varnel {
@@ -17,24 +18,28 @@ class UnfinishedFile {
     int Begin(const QByteArray& name, const Operation& operation) {
         const std::lock_guard lock(mutex_);
         const int result = operation();
-        name_ = result == -1 ? name_ : name;
+        if (result != -1) {
+            names_.append(name);
+        }
         return result;
     }
     // Runs the operation that removes or renames it; it returns -1 on failure.
     template <class Operation>
-    int End(const Operation& operation) {
+    int End(const QByteArray& name, const Operation& operation) {
         const std::lock_guard lock(mutex_);
         const int result = operation();
-        name_ = result == -1 ? name_ : QByteArray();
+        if (result != -1) {
+            names_.removeOne(name);
+        }
         return result;
     }
-    // To be called just before the program ends: removes the file and blocks later calls of Begin
+    // To be called just before the program ends: removes the files and blocks later calls of Begin
     // and End. Waits for at most 100 ms for a disk that does not answer. Throws nothing.
     void RemoveForEver();
 
   private:
     std::timed_mutex mutex_;
-    QByteArray name_;  // empty while there is none
+    QByteArrayList names_;
 };
 
 }  // namespace varnel

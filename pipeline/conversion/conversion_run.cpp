@@ -8,11 +8,11 @@
 #include "base/error_reason.h"
 #include "base/thread_runner.h"
 #include "pipeline/conversion/lending_steps.h"
+#include "pipeline/conversion/run/begun_turns.h"
 #include "pipeline/conversion/run/early_result.h"
 #include "pipeline/conversion/run/photo_feed.h"
 #include "pipeline/conversion/run/turn.h"
 #include "pipeline/conversion/save_worker.h"
-#include "remap/image/photo_metadata.h"
 #include "state/adjustments/picture_settings.h"
 
 namespace varnel {
@@ -35,6 +35,7 @@ class Run : private RenderProgress {
           series_(LendingSeries(runner_,
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
           drawer_(plan, runner_, *this, plan.drawsByRows && !ports.save),
+          begun_({plan, ports, series_, runner_}),
           worker_(overlaps_ ? &runner_ : nullptr) {}
 
     ConversionRunEnd Go() {
@@ -173,6 +174,10 @@ class Run : private RenderProgress {
         if (last) {
             DropSource();  // encoding needs memory of its own
         }
+        if (!Failed() && IsBegunOnly()) {
+            BeginSaving();
+            return;
+        }
         FinishWriting();
         if (!Failed()) {
             CheckTarget();  // what was written meanwhile may be the same file by another name
@@ -187,12 +192,11 @@ class Run : private RenderProgress {
     void ChooseTarget() {
         const QString& photo = plan_.photos[photo_];
         turn_.what.target = plan_.target(turn_.what);
-        if (writing_ && MayBeSameFile(writing_->what.target, turn_.what.target)) {
+        if ((writing_ && MayBeSameFile(writing_->what.target, turn_.what.target)) ||
+            begun_.MayHave(turn_.what.target)) {
             FinishWriting();
         }
-        if (!writing_ && !Dropped()) {
-            Announce();
-        }
+        AnnounceTurn();
         if (const TargetRefusal taken = targets_.Take(photo, turn_.what.target)) {
             Refuse(taken);
         } else if (targets_.IsSkipped(turn_.what.target)) {
@@ -227,8 +231,38 @@ class Run : private RenderProgress {
 
     // Writing.
 
+    // Small pictures are encoded on this thread, and their ends are not waited for.
+    bool IsBegunOnly() const {
+        return !writing_ && !early_ && overlaps_ && !ports_.save && plan_.namesLastAtEnd &&
+               BegunTurns::IsSmall(turn_);
+    }
+
+    void BeginSaving() {
+        AnnounceTurn();
+        turn_.outcome.size = SizeOf(turn_.drawn->result.get());
+        turn_.drawn = std::make_shared<DrawnResult>(DrawnResult{begun_.Begin(std::move(turn_))});
+        EndDue();
+    }
+
+    void EndDue() {
+        while (begun_.IsFirstDue()) {
+            EndBegun();
+        }
+    }
+
+    void EndBegun() { EndSaved(begun_.TakeFirst(observer_.Progress())); }
+
+    void EndSaved(Turn turn) {
+        if (turn.outcome.end == ConversionEnd::Written) {
+            targets_.NoteWritten(plan_.photos[turn.what.photo], turn.what.target,
+                                 !turn.what.damage.isEmpty());
+        }
+        Announce(turn, observer_);
+        End(turn);
+    }
+
     void BeginWriting() {
-        Announce();
+        AnnounceTurn();
         turn_.outcome.size = SizeOf(turn_.drawn->result.get());
         writing_ = std::move(turn_);
         turn_.drawn = std::make_shared<DrawnResult>(DrawnResult{std::move(spare_)});
@@ -244,28 +278,13 @@ class Run : private RenderProgress {
     }
 
     SaveResult Save(DrawnResult& drawn, const QString& path) {
-        const OutputChoices& output = plan_.output;
-        if (!output.writeMetadata) {
-            DropMetadata(drawn.result.get());
-        }
-        if (ports_.save) {
-            return ports_.save(output.encoding, drawn.result.get(), path);
-        }
-        SaveResult saved;
-        const auto save = [&] {
-            saved = SaveBitmap(output.encoding, drawn.result.get(),
-                               FileInSeries{path, series_, drawn.rows.get()}, &runner_);
-        };
-        if (drawn.rows) {
-            drawn.error = Attempt(save);
-        } else {
-            save();
-        }
-        const WriteResult lasts = plan_.namesLastAtEnd ? WriteResult{true, {}} : series_.Finish();
-        return !saved || lasts ? saved : SaveResult{false, lasts.reason};
+        return SaveNow(drawn, path, {plan_, ports_, series_, runner_});
     }
 
     void FinishWriting() {
+        while (!begun_.IsEmpty()) {
+            EndBegun();
+        }
         if (!writing_) {
             return;
         }
@@ -287,19 +306,8 @@ class Run : private RenderProgress {
         writing_.reset();
         spare_ = written.drawn->rows ? nullptr : std::move(written.drawn->result);
         written.drawn->rows.reset();
-        if (!written.drawn->error.isEmpty()) {
-            written.outcome.end = ConversionEnd::NotConverted;
-            written.outcome.reason = written.drawn->error;
-        } else if (saved) {
-            written.outcome.note = saved.note;
-            written.outcome.samples = saved.samples;
-            targets_.NoteWritten(plan_.photos[written.what.photo], written.what.target,
-                                 !written.what.damage.isEmpty());
-        } else {
-            written.outcome.end = ConversionEnd::NotSaved;
-            written.outcome.reason = saved.reason;
-        }
-        End(written);
+        NoteSaved(written, saved);
+        EndSaved(std::move(written));
     }
 
     // Reporting.
@@ -313,7 +321,7 @@ class Run : private RenderProgress {
             left_ = true;
             return;
         }
-        Announce();
+        AnnounceTurn();
         End(turn_);
     }
 
@@ -323,17 +331,10 @@ class Run : private RenderProgress {
         stopped_ = stopped_ || (!plan_.finishesBegun && observer_.StopAsked());
     }
 
-    void Announce() {
-        if (turn_.announced) {
-            return;
-        }
-        turn_.announced = true;
-        observer_.Begun(turn_.what);
-        if (turn_.maximum > 0.0F) {
-            observer_.Progress().Begin(turn_.maximum);
-        }
-        if (turn_.rendered) {
-            observer_.Progress().End();
+    // What is before it is done.
+    void AnnounceTurn() {
+        if (!writing_ && begun_.IsEmpty() && !Dropped()) {
+            Announce(turn_, observer_);
         }
     }
 
@@ -350,9 +351,8 @@ class Run : private RenderProgress {
         if (writing_ && worker_.Wait(0)) {
             FinishWriting();
         }
-        if (!writing_ && !Dropped()) {
-            Announce();
-        }
+        EndDue();
+        AnnounceTurn();
         if (turn_.announced) {
             observer_.Progress().Advance(value);
         } else {
@@ -382,6 +382,7 @@ class Run : private RenderProgress {
     Bitmaps bitmaps_;  // of the photo at hand
     Turn turn_;
     std::optional<Turn> writing_;
+    BegunTurns begun_;                    // small ones; nothing is writing then
     std::unique_ptr<EarlyResult> early_;  // which the worker is at
     BitmapHandle spare_;
     bool stopped_ = false;

@@ -44,7 +44,8 @@ class LendingSteps : public NotingOperations {
 }  // namespace
 
 FileSeries LendingSeries(ThreadRunner& cores, UnfinishedFile& unfinished) {
-    return FileSeries(std::make_unique<LendingSteps>(cores, unfinished));
+    return FileSeries(std::make_shared<LendingSteps>(cores, unfinished),
+                      std::make_shared<NotingOperations>(unfinished));
 }
 
 #else

@@ -5,13 +5,13 @@
 #pragma once
 
 #include "base/thread_runner.h"
-#include "files/atomic_file.h"
+#include "files/file_series.h"
 #include "files/unfinished_file.h"
 
 namespace varnel {
 
-// A series, written by threads that have a core, whose core is lent while the disk is waited for.
-// The file that is being written is noted.
+// A series, written by threads that have a core, whose core is lent while the disk is waited for;
+// its own thread for what is only begun has none. The files that are being written are noted.
 FileSeries LendingSeries(ThreadRunner& cores, UnfinishedFile& unfinished);
 
 }  // namespace varnel

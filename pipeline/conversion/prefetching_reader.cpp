@@ -113,6 +113,17 @@ LoadedPicture PrefetchingReader::WaitFor(const UnderWay& photo) {
     return photo.reader->Take();
 }
 
+void EndMeanwhile(std::shared_ptr<PrefetchingReader> feed, std::shared_ptr<PictureReader> reader,
+                  ThreadRunner& pool) {
+    std::packaged_task<void()> end([ending = std::move(feed), after = std::move(reader)]() mutable {
+        ending.reset();
+        after.reset();
+    });
+    if (!pool.Begin(end, TaskWeight::Light)) {
+        end();
+    }
+}
+
 bool HasRoomAhead(qsizetype photos, const LoadedPicture& last) {
     constexpr std::int64_t atWork = 4;  // source, two results, one of them encoded
     const PixelFormat format = last.bitmap ? last.bitmap->Format() : PixelFormat::Bgr8;

@@ -63,6 +63,11 @@ class PrefetchingReader {
     std::deque<UnderWay> underWay_;
 };
 
+// Ends both, the reader after the feed that uses it, while the caller goes on: to wait for a
+// decoder to be gone takes as long as half the drawing of a small picture.
+void EndMeanwhile(std::shared_ptr<PrefetchingReader> feed, std::shared_ptr<PictureReader> reader,
+                  ThreadRunner& pool);
+
 // Whether so many photos like the last one may be read ahead: together with those at work they have
 // to fit into three quarters of the machine's memory.
 bool HasRoomAhead(qsizetype photos, const LoadedPicture& last);

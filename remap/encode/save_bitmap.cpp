@@ -4,7 +4,9 @@
 #include "remap/encode/save_bitmap.h"
 
 #include <cerrno>
+#include <chrono>
 #include <new>
+#include <utility>
 
 #include "files/file_operations.h"
 #include "remap/encode/encode_bitmap.h"
@@ -117,6 +119,28 @@ SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
     } catch (const std::bad_alloc&) {
         return {false, ReasonCode::NotEnoughMemory};
     }
+}
+
+BegunSave::BegunSave(const OutputEncoding& encoding, const Bitmap* bitmap, const FileInSeries& file,
+                     BlockRunner* runner)
+    : result_(Written(EncodeBitmap(encoding, bitmap, {.runner = runner, .rows = file.rows}),
+                      [&](QByteArrayView bytes) {
+                          file_ = file.series.Begin(file.name, bytes);
+                          return WriteResult{true, {}};
+                      })) {}
+
+bool BegunSave::Wait(int milliseconds) const {
+    return !file_.valid() ||
+           file_.wait_for(std::chrono::milliseconds(milliseconds)) == std::future_status::ready;
+}
+
+SaveResult BegunSave::Take() {
+    if (file_.valid()) {
+        if (const WriteResult written = file_.get(); !written) {
+            return {false, written.reason};
+        }
+    }
+    return std::move(result_);
 }
 
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,

@@ -7,9 +7,10 @@
 
 #include <QString>
 #include <functional>
+#include <future>
 
 #include "base/block_runner.h"
-#include "files/atomic_file.h"
+#include "files/file_series.h"
 #include "remap/encode/output_type.h"
 #include "remap/image/row_source.h"
 
@@ -39,6 +40,21 @@ struct FileInSeries {
 };
 SaveResult SaveBitmap(const OutputEncoding& encoding, const Bitmap* bitmap,
                       const FileInSeries& file, BlockRunner* runner = nullptr);
+
+// Encodes it and begins the file (see FileSeries::Begin); the bitmap is not needed any more then.
+class BegunSave {
+  public:
+    BegunSave(const OutputEncoding& encoding, const Bitmap* bitmap, const FileInSeries& file,
+              BlockRunner* runner = nullptr);
+    // Whether the file is done; waits for it this many milliseconds at most.
+    bool Wait(int milliseconds) const;
+    // Waits for the file. To be called once.
+    SaveResult Take();
+
+  private:
+    std::future<WriteResult> file_;  // none after an error
+    SaveResult result_;
+};
 
 // A file that may still be given up: asked on any thread and often until the file gets its name.
 // Once stopped returns true no file is written and an older one stays as it was.

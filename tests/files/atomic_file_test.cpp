@@ -22,6 +22,7 @@
 
 #include "base/error_text.h"
 #include "files/file_operations.h"
+#include "files/file_series.h"
 #include "files/temp_names.h"
 #include "tests/files/failing_steps.h"
 #include "tests/support/contents.h"

@@ -6,10 +6,13 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <cerrno>
+#include <chrono>
+#include <future>
+#include <vector>
 
 #include "base/error_text.h"
-#include "files/atomic_file.h"
-#include "files/file_operations.h"
+#include "files/file_series.h"
+#include "files/noting_operations.h"
 #include "files/temp_names.h"
 #include "tests/support/contents.h"
 
@@ -46,21 +49,26 @@ class LoggingSteps : public FileOperations {
     Log& log_;
 };
 
-class Series : public ::testing::Test {
+// Whether each file is written at once or begun and waited for.
+class Series : public ::testing::TestWithParam<bool> {
   protected:
     Series() {
         QDir(folders_.path()).mkdir(QStringLiteral("a"));
         QDir(folders_.path()).mkdir(QStringLiteral("b"));
     }
     QString Path(const char* name) const { return folders_.filePath(QString::fromUtf8(name)); }
-    bool Write(const char* name) { return series_.Write(Path(name), "newer").ok; }
+    bool Write(const char* name) {
+        return (GetParam() ? series_.Begin(Path(name), "newer").get()
+                           : series_.Write(Path(name), "newer"))
+            .ok;
+    }
 
     const QTemporaryDir folders_;
     Log log_;
-    FileSeries series_{std::make_unique<LoggingSteps>(log_)};
+    FileSeries series_{std::make_shared<LoggingSteps>(log_)};
 };
 
-TEST_F(Series, SyncsAFolderAfterSixteenFilesOnLeavingItAndAtTheEnd) {
+TEST_P(Series, SyncsAFolderAfterSixteenFilesOnLeavingItAndAtTheEnd) {
     const QString sixteen(16, u'r');
     for (int n = 0; n < 34; ++n) {
         ASSERT_TRUE(Write(QByteArray("a/" + QByteArray::number(n)).constData()));
@@ -75,7 +83,7 @@ TEST_F(Series, SyncsAFolderAfterSixteenFilesOnLeavingItAndAtTheEnd) {
     EXPECT_EQ(NamesIn(Path("a")).size(), 34);  // nothing hidden
 }
 
-TEST_F(Series, TellsAtTheEndOfTheFirstFolderWhoseNamesMayNotLast) {
+TEST_P(Series, TellsAtTheEndOfTheFirstFolderWhoseNamesMayNotLast) {
     log_.failAt = 3;
     EXPECT_TRUE(Write("a/0") && Write("a/1") && Write("b/0"));
     const WriteResult end = series_.Finish();
@@ -86,7 +94,7 @@ TEST_F(Series, TellsAtTheEndOfTheFirstFolderWhoseNamesMayNotLast) {
     EXPECT_TRUE(series_.Finish().ok);  // told once
 }
 
-TEST_F(Series, AFailedFileCostsNeitherTheOneBeforeNorTheOneAfter) {
+TEST_P(Series, AFailedFileCostsNeitherTheOneBeforeNorTheOneAfter) {
     WriteFile(Path("a/1"), "older");
     log_.failAt = 2;
     EXPECT_TRUE(Write("a/0"));
@@ -99,7 +107,7 @@ TEST_F(Series, AFailedFileCostsNeitherTheOneBeforeNorTheOneAfter) {
     EXPECT_EQ(NamesIn(Path("a")).join(u' '), QStringLiteral("0 1 2"));
 }
 
-TEST_F(Series, RemovesStraysOnEnteringAFolderAndAfterAFailure) {
+TEST_P(Series, RemovesStraysOnEnteringAFolderAndAfterAFailure) {
     const QString stray = QFile::decodeName(TempName(QFile::encodeName(Path("a")), 7));
     for (const bool failed : {false, true}) {
         WriteFile(stray, "half of");
@@ -110,7 +118,7 @@ TEST_F(Series, RemovesStraysOnEnteringAFolderAndAfterAFailure) {
     }
 }
 
-TEST_F(Series, AFileInPiecesMayBeginAnew) {
+TEST_P(Series, AFileInPiecesMayBeginAnew) {
     EXPECT_TRUE(series_.Write(Path("a/1"), [](FileSink& sink) {
         EXPECT_TRUE(sink.Begin() && sink.Append("a long first attempt") && sink.PutAtStart("A"));
         EXPECT_TRUE(sink.Begin() && sink.Append("newe") && sink.Append("r") &&
@@ -123,7 +131,7 @@ TEST_F(Series, AFileInPiecesMayBeginAnew) {
 }
 
 // It does not cost the older file and leaves nothing of the new one; what is thrown passes.
-TEST_F(Series, AFileInPiecesThatIsNotWholeIsNone) {
+TEST_P(Series, AFileInPiecesThatIsNotWholeIsNone) {
     WriteFile(Path("a/1"), "older");
     const WriteResult result = series_.Write(Path("a/1"), [](FileSink& sink) {
         EXPECT_TRUE(sink.Begin() && sink.Append("half of"));
@@ -139,6 +147,87 @@ TEST_F(Series, AFileInPiecesThatIsNotWholeIsNone) {
                  std::bad_alloc);
     EXPECT_EQ(Contents(Path("a/1")), "older");
     EXPECT_EQ(NamesIn(Path("a")).join(u' '), QStringLiteral("1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(, Series, ::testing::Bool(),
+                         [](const auto& tested) { return tested.param ? "Begun" : "Written"; });
+
+// Syncing a file waits until that is allowed; the sync of one of them fails.
+class GatedSteps : public FileOperations {
+  public:
+    GatedSteps(std::shared_future<void> gate, int failAt) : gate_(std::move(gate)), left_(failAt) {}
+    int Sync(int file) override {
+        gate_.wait();
+        errno = EIO;
+        return --left_ == 0 ? -1 : FileOperations::Sync(file);
+    }
+
+  private:
+    std::shared_future<void> gate_;
+    int left_;
+};
+
+TEST(BegunFiles, KeepNobodyWaitingAndGetTheirNamesInOrderOnceTheyAreSynced) {
+    const QTemporaryDir folder;
+    std::promise<void> open;
+    const auto path = [&](int n) { return folder.filePath(QString::number(n)); };
+    WriteFile(path(1), "older");
+    std::vector<std::future<WriteResult>> files;
+    {
+        FileSeries series(std::make_shared<FileOperations>(),
+                          std::make_shared<GatedSteps>(open.get_future().share(), 2));
+        for (int n = 0; n < 4; ++n) {
+            files.push_back(series.Begin(path(n), "newer " + QByteArray::number(n)));
+        }
+        EXPECT_FALSE(series.Begin(folder.path(), "x").get().ok) << "is a folder";
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("1")))
+            << "before they are synced";
+        EXPECT_EQ(files[0].wait_for(std::chrono::seconds(0)), std::future_status::timeout);
+        open.set_value();
+        EXPECT_TRUE(files[3].get().ok);  // the last: so all are done
+        EXPECT_TRUE(files[0].get().ok && files[2].get().ok);
+        const WriteResult failed = files[1].get();
+        EXPECT_FALSE(failed.ok);
+        EXPECT_EQ(ErrorText(failed.reason), QStringLiteral("Input/output error (while syncing)"));
+        files.clear();
+        files.push_back(series.Begin(path(9), "last"));
+    }
+    EXPECT_EQ(Contents(path(1)), "older");
+    EXPECT_EQ(Contents(path(3)), "newer 3");
+    EXPECT_EQ(Contents(path(9)), "last") << "the series' end waits for it";
+    EXPECT_EQ(NamesIn(folder.path()).join(u' '), QStringLiteral("0 1 2 3 9"));
+}
+
+TEST(UnfinishedFiles, AllAreRemovedWhenTheProgramIsEnded) {
+    const QTemporaryDir folder;
+    std::promise<void> open;
+    UnfinishedFile unfinished;
+    class Steps : public NotingOperations {
+      public:
+        Steps(UnfinishedFile& noted, std::shared_future<void> gate)
+            : NotingOperations(noted), gate_(std::move(gate)) {}
+        int Sync(int /*file*/) override {
+            gate_.wait();
+            return 0;
+        }
+        int Rename(const QByteArray& /*name*/, const QByteArray& /*newName*/) override {
+            return 0;  // would wait for ever: the program is ended
+        }
+        int Remove(const QByteArray& /*name*/) override { return 0; }
+
+      private:
+        std::shared_future<void> gate_;
+    };
+    FileSeries series(std::make_shared<Steps>(unfinished, open.get_future().share()));
+    const auto hidden = [&] { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); };
+    std::vector<std::future<WriteResult>> files;
+    for (int n = 0; n < 3; ++n) {
+        files.push_back(series.Begin(folder.filePath(QString::number(n)), "half"));
+    }
+    EXPECT_EQ(hidden().size(), 3);
+    unfinished.RemoveForEver();
+    EXPECT_EQ(hidden(), QStringList());
+    open.set_value();
 }
 
 }  // namespace

@@ -1,16 +1,19 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+// A conversion on its way through a run. Throws what the observer throws.
 #pragma once
 
 #include <QElapsedTimer>
 #include <memory>
 
+#include "base/thread_runner.h"
+#include "pipeline/conversion/conversion_run.h"
 #include "pipeline/conversion/run/result_drawer.h"
 
 namespace varnel {
 
-// A conversion on its way. The observer is notified of it only when the one before it is done.
+// The observer is notified of it only when the one before it is done.
 struct Turn {
     Conversion what{};
     ConversionOutcome outcome{};
@@ -20,5 +23,22 @@ struct Turn {
     float maximum = 0.0F;  // of its progress; 0 until it begins
     bool rendered = false;
 };
+
+// With all that has happened to it so far; once.
+void Announce(Turn& turn, ConversionObserver& observer);
+
+// How a run saves its pictures.
+struct Saving {
+    const ConversionPlan& plan;
+    const ConversionPorts& ports;
+    FileSeries& series;
+    ThreadRunner& runner;  // of which the caller holds a core
+};
+
+// Into that file, without metadata where none are to be in it.
+SaveResult SaveNow(DrawnResult& drawn, const QString& path, const Saving& how);
+
+// The outcome by what became of its file.
+void NoteSaved(Turn& turn, const SaveResult& saved);
 
 }  // namespace varnel

@@ -13,6 +13,7 @@
 #include <future>
 
 #include "tests/support/bitmaps.h"
+#include "tests/support/contents.h"
 #include "tests/support/files.h"
 #include "tests/support/records.h"
 #include "tests/support/texts.h"
@@ -226,6 +227,41 @@ TEST_F(EarlyRunTest, EndsAsIfThePhotoHadBeenThereFromTheBeginning) {
                       .size(),
                   files[0].isEmpty() ? 0 : 1);
     }
+}
+
+// Small files are begun several at a time: neither their order nor what is refused shows it.
+TEST_F(ConversionRunTest, SmallFilesAreToldOfAndRefusedAsIfEachWereDoneBeforeTheNext) {
+    plan.photos.clear();
+    for (int n = 0; n < 12; ++n) {
+        plan.photos.append(Text("/in/%1").arg(n));
+    }
+    plan.namesLastAtEnd = true;
+    ports.save = nullptr;
+    QString logs[2];
+    QByteArray last[2];
+    for (const bool overlaps : {false, true}) {
+        const testing::PictureFolder files;
+        ASSERT_TRUE(QFile::link(files.Path(Text("4.tif")), files.Path(Text("link"))));
+        plan.target = [&](const Conversion& what) {
+            return files.Path(what.photo == 5   ? Text("link")  // to the one before
+                              : what.photo == 7 ? Text("none/7.tif")
+                              : what.photo == 9 ? Text("8.tif")
+                                                : Text("%1.tif").arg(what.photo));
+        };
+        ports.readAhead =
+            overlaps ? [](const QString&) { return true; } : std::function<bool(const QString&)>();
+        log.clear();
+        ConversionTargets targets(plan.photos, {RepeatedName::LaterFails, ExistingFile::Replaced});
+        EXPECT_FALSE(RunConversions(plan, targets, *this, ports).stopped);
+        logs[overlaps ? 1 : 0] = log.join(u' ');
+        last[overlaps ? 1 : 0] = testing::Contents(files.Path(Text("11.tif")));
+        EXPECT_EQ(QDir(files.Path({})).entryList(QDir::Files | QDir::Hidden).size(), 10);
+    }
+    EXPECT_TRUE(logs[0].contains(Text("begun 5 failed 5 begun 6 written 6 begun 7 failed 7")));
+    EXPECT_TRUE(logs[0].contains(Text("begun 9 failed 9")));
+    EXPECT_EQ(logs[1], logs[0]);
+    EXPECT_FALSE(last[0].isEmpty());
+    EXPECT_EQ(last[1], last[0]);
 }
 
 TEST(ConversionTargets, RefuseByTheirRules) {

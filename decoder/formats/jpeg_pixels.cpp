@@ -74,8 +74,9 @@ class JpegDecoder {
     JpegDecoder(const JpegDecoder&) = delete;
     JpegDecoder& operator=(const JpegDecoder&) = delete;
 
-    // Up to the first pixel; of a picture in several scans, the whole file is read for that.
-    bool Start(PixelSize expected) {
+    // Up to the first pixel; of a picture in several scans, the whole file is read for that. Where
+    // planes are wanted they are given of pictures that have them.
+    bool Start(PixelSize expected, bool wantsPlanes = false) {
         if (setjmp(errors_.Back()) != 0) {
             return false;
         }
@@ -89,6 +90,10 @@ class JpegDecoder {
             return false;
         }
         info_.out_color_space = JCS_EXT_BGR;
+        if (wantsPlanes && HasPlanes()) {
+            info_.raw_data_out = TRUE;
+            info_.out_color_space = JCS_YCbCr;
+        }
         jpeg_start_decompress(&info_);
         return true;
     }
@@ -110,6 +115,36 @@ class JpegDecoder {
             jpeg_read_scanlines(&info_, next.data(), asked);
         }
         if (end == info_.output_height) {
+            jpeg_finish_decompress(&info_);
+        }
+        return true;
+    }
+
+    bool GivesPlanes() const { return info_.raw_data_out != FALSE; }
+
+    // The next rows where planes are given, as many as fit the piece or are left.
+    bool Planes(const PiecePlanes& planes, std::byte* piece) {
+        if (setjmp(errors_.Back()) != 0) {
+            return false;
+        }
+        auto* const samples = reinterpret_cast<JSAMPROW>(piece);
+        constexpr std::size_t block = PiecePlanes::blockRows;
+        for (std::size_t row = 0; row < planes.rows && info_.output_scanline < info_.output_height;
+             row += block) {
+            std::array<JSAMPROW, block> brightness;
+            std::array<JSAMPROW, block / 2> blue;
+            std::array<JSAMPROW, block / 2> red;
+            for (std::size_t n = 0; n < block; ++n) {
+                brightness[n] = samples + planes.Brightness(row + n);
+            }
+            for (std::size_t n = 0; n < block / 2; ++n) {
+                blue[n] = samples + planes.Blue(row / 2 + n);
+                red[n] = samples + planes.Red(row / 2 + n);
+            }
+            std::array<JSAMPARRAY, 3> all{brightness.data(), blue.data(), red.data()};
+            jpeg_read_raw_data(&info_, all.data(), block);
+        }
+        if (info_.output_scanline >= info_.output_height) {
             jpeg_finish_decompress(&info_);
         }
         return true;
@@ -176,6 +211,17 @@ class JpegDecoder {
                 info_.jpeg_color_space == JCS_RGB);
     }
 
+    // Colours for each four pixels.
+    bool HasPlanes() const {
+        const auto samples = [this](int n, int across, int down) {
+            return info_.comp_info[n].h_samp_factor == across &&
+                   info_.comp_info[n].v_samp_factor == down;
+        };
+        return info_.jpeg_color_space == JCS_YCbCr && info_.num_components == 3 &&
+               samples(0, 2, 2) && samples(1, 1, 1) && samples(2, 1, 1) &&
+               info_.image_width > 4;  // narrower ones have their colours repeated, not blended
+    }
+
     JpegErrors errors_;
     FileSource source_;
     jpeg_decompress_struct info_{};
@@ -201,12 +247,18 @@ bool AllRows(JpegDecoder& decoder, PixelSize size, PixelRows rows, int orientati
     return true;
 }
 
+bool NextPiece(JpegDecoder& decoder, const PiecePlanes& planes, PixelRows rows,
+               std::int32_t count) {
+    return decoder.GivesPlanes() ? decoder.Planes(planes, rows.bottom)
+                                 : decoder.Rows(rows, static_cast<JDIMENSION>(count));
+}
+
 bool AllPieces(JpegDecoder& decoder, PixelSize size, int rowsOfAPiece, RowPieces& pieces) {
-    const std::size_t pitch = RowPitch(size.width);
+    const PiecePlanes planes(size, rowsOfAPiece);
     for (std::int32_t left = size.height; left > 0;) {
         const std::int32_t count = std::min(left, rowsOfAPiece);
         std::byte* const room = pieces.Room();
-        if (room == nullptr || !decoder.Rows({room, pitch}, static_cast<JDIMENSION>(count)) ||
+        if (room == nullptr || !NextPiece(decoder, planes, {room, RowPitch(size.width)}, count) ||
             !pieces.Give()) {
             return false;
         }
@@ -226,13 +278,14 @@ void PassOnWarning(const JpegDecoder& decoder) {
 PiecesEnd ReadJpegPieces(std::FILE* file, PixelSize expected, int orientation, RowPieces& pieces) {
     std::rewind(file);
     JpegDecoder decoder(file);
-    if (!decoder.Start(expected)) {
+    if (!decoder.Start(expected, orientation == 1 && pieces.WantsPlanar())) {
         return PiecesEnd::NotBegun;
     }
     // Others may read in the file before the first piece.
     const long place = std::ftell(file);
     const int rows =
-        pieces.Begin(expected, orientation, TurnedMetadata(decoder.Metadata(), orientation));
+        pieces.Begin({expected, orientation, TurnedMetadata(decoder.Metadata(), orientation),
+                      decoder.GivesPlanes()});
     if (rows <= 0 || std::fseek(file, place, SEEK_SET) != 0 ||
         !AllPieces(decoder, expected, rows, pieces)) {
         return PiecesEnd::Broken;

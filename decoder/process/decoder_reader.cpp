@@ -13,7 +13,6 @@
 #include <utility>
 
 #include "decoder/request/picture_limits.h"
-#include "remap/image/exif_orientation.h"
 
 namespace varnel {
 
@@ -96,6 +95,7 @@ void DecoderReader::Begin(const ReadRequest& request) {
                 memory_->Name(),
                 request.upright,
                 request.inPieces,
+                request.planar,
                 request.depth,
                 request.raw};
     begun_ = request.begun;
@@ -247,10 +247,7 @@ void DecoderReader::TakeMetadataOfPieces(const DecoderAnswer& answer) {
 // False when there are no more.
 bool DecoderReader::TakePiece() {
     const std::byte* const pieces =
-        pieces_->IsWhole() ? nullptr
-                           : memory_->Map(PieceLayout(Turned(pieces_->First().bitmap,
-                                                             pieces_->First().orientation))
-                                              .Length());
+        pieces_->IsWhole() ? nullptr : memory_->Map(pieces_->Layout().Length());
     if (pieces == nullptr) {
         return false;
     }

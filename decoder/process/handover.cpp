@@ -50,13 +50,13 @@ bool PieceHandover::Wants(PixelSize stored) const {
                fewestBytesForPieces;
 }
 
-int PieceHandover::Begin(PixelSize stored, int orientation, const BitmapMetadata& metadata) {
-    layout_.emplace(stored);
-    LoadedPicture picture{LoadOutcome::Loaded, nullptr, {}, Turned(stored, orientation)};
-    picture.orientation = orientation;
+int PieceHandover::Begin(const PiecedHead& head) {
+    layout_.emplace(head.stored, head.isPlanar);
+    LoadedPicture picture{LoadOutcome::Loaded, nullptr, {}, Turned(head.stored, head.orientation)};
+    picture.orientation = head.orientation;
     picture.bitmap = std::make_unique<Bitmap>(PixelFormat::Bgr8, picture.size, nullptr);
-    picture.bitmap->metadata = metadata;
-    QByteArray attributes = PackAttributes(metadata);
+    picture.bitmap->metadata = head.metadata;
+    QByteArray attributes = PackAttributes(head.metadata);
     if (static_cast<std::uint64_t>(attributes.size()) > longestBlock) {
         attributes.clear();
     }
@@ -67,7 +67,8 @@ int PieceHandover::Begin(PixelSize stored, int orientation, const BitmapMetadata
     first_.pitch = static_cast<std::uint32_t>(RowPitch(picture.size.width));
     first_.attributesLength = static_cast<std::uint64_t>(attributes.size());
     first_.metadataFollows = 1;
-    first_.orientation = orientation;
+    first_.orientation = head.orientation;
+    first_.isPlanar = head.isPlanar ? 1 : 0;
     pieces_ = handover_.Rows(layout_->Length());
     const bool told = pieces_ != nullptr && handover_.WriteAt(layout_->Length(), attributes) &&
                       SendMessage(decoderSocket, &first_, sizeof first_) &&

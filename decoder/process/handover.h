@@ -71,7 +71,8 @@ class PieceHandover : public RowPieces {
     bool End(const LoadedPicture& picture);
 
     bool Wants(PixelSize stored) const override;
-    int Begin(PixelSize stored, int orientation, const BitmapMetadata& metadata) override;
+    bool WantsPlanar() const override { return request_.planar; }
+    int Begin(const PiecedHead& head) override;
     std::byte* Room() override;
     bool Give() override;
 

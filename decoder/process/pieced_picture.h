@@ -50,15 +50,20 @@ class PiecedPicture {
     // are pieces.
     void TakePiece(const std::byte* memoryFile);
     bool IsWhole() const { return taken_ == layout_.count; }
+    const PieceLayout& Layout() const { return layout_; }
     // All that is known of it; the rows may still be on their way.
     LoadedPicture Begun() const;
     // To whoever works with the rows already.
     void End(bool isSound);
 
   private:
+    void TakePixels(const std::byte* piece, int lowest, int count);
+    void TakePlanes(const std::byte* piece, int before, int count);
+
     DecoderAnswer first_;
     PieceLayout layout_;
     Bitmap bitmap_;
+    std::shared_ptr<PlanarPicture> planar_;
     bool hasMetadata_ = false;
     int taken_ = 0;
     std::shared_ptr<ArrivingPicture> arriving_;

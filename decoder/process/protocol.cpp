@@ -108,7 +108,9 @@ bool IsConsistent(const DecoderAnswer& answer, const DecoderRequest& request,
 
 bool IsConsistentInPieces(const DecoderAnswer& answer, const DecoderRequest& request,
                           std::uint64_t memoryFileLength) {
+    const bool isPlanar = answer.isPlanar != 0;
     return request.inPieces && answer.outcome == inPieces && IsForRequest(answer, request) &&
+           (!isPlanar || (request.planar && answer.orientation == 1)) &&
            answer.format == static_cast<std::uint32_t>(PixelFormat::Bgr8) &&
            BelievablePixels(answer, request) && FitsIn(answer, memoryFileLength);
 }
@@ -126,17 +128,21 @@ bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& firs
                memoryFileLength;
 }
 
-PieceLayout::PieceLayout(PixelSize size) : pitch(RowPitch(size.width)), stored(size) {
+PieceLayout::PieceLayout(PixelSize size, bool isPlanar)
+    : pitch(RowPitch(size.width)), stored(size), planar(isPlanar) {
     // Together they stay in a core's cache; in whole blocks of the coding.
     constexpr std::size_t most = std::size_t{256} << 10;
-    constexpr int blockRows = 16;
+    constexpr int blockRows = PiecePlanes::blockRows;
     rows = std::max(static_cast<int>(most / pitch) / blockRows, 1) * blockRows;
     count = (size.height + rows - 1) / rows;
 }
 
+PieceLayout LayoutOf(const DecoderAnswer& first) {
+    return {Turned(first.bitmap, first.orientation), first.isPlanar != 0};
+}
+
 std::uint64_t PlaceBehindRows(const DecoderAnswer& first) {
-    return first.outcome == inPieces ? PieceLayout(Turned(first.bitmap, first.orientation)).Length()
-                                     : RowBytes(first);
+    return first.outcome == inPieces ? LayoutOf(first).Length() : RowBytes(first);
 }
 
 void SetReason(DecoderAnswer& answer, const Reason& reason) {

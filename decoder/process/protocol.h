@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "decoder/formats/row_pieces.h"
 #include "decoder/request/file_metadata.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
@@ -27,6 +28,7 @@ struct DecoderRequest {
     std::uint32_t memoryFile = 0;  // the same number: the same memory file as before
     bool upright = true;
     bool inPieces = false;  // a large picture may come so
+    bool planar = false;    // and its planes in place of pixels
     ReadDepth depth = ReadDepth::Eight;
     RawDevelopment raw{};
 };
@@ -50,7 +52,7 @@ inline constexpr std::uint32_t inPieces = 0xF2;
 inline constexpr std::uint32_t rowsCame = 0xF3;
 inline constexpr std::uint32_t rowsGivenUp = 0xF4;
 
-// The pieces of a picture of 24 bits and this size, as it is stored.
+// The pieces of a picture of this size, as it is stored: pixels of 24 bits, or planes.
 struct PieceLayout {
     static constexpr int inTurns = 4;  // pieces in the memory file
 
@@ -58,9 +60,13 @@ struct PieceLayout {
     int count = 0;          // pieces
     std::size_t pitch = 0;  // bytes from row to row
     PixelSize stored{};
+    bool planar = false;
 
-    explicit PieceLayout(PixelSize size);
-    std::uint64_t PieceBytes() const { return pitch * static_cast<std::size_t>(rows); }
+    PieceLayout(PixelSize size, bool isPlanar);
+    PiecePlanes Planes() const { return {stored, rows}; }
+    std::uint64_t PieceBytes() const {
+        return planar ? Planes().Bytes() : pitch * static_cast<std::size_t>(rows);
+    }
     // Where the n-th lies in the memory file.
     std::uint64_t Place(int n) const {
         return PieceBytes() * (static_cast<std::uint64_t>(n) % inTurns);
@@ -82,6 +88,7 @@ struct DecoderAnswer {
     std::uint64_t attributesLength = 0;  // bytes after the rows
     std::uint64_t metadataLength = 0;    // bytes after those
     std::uint32_t metadataFollows = 0;   // not 0: they come with a second answer
+    std::uint32_t isPlanar = 0;          // not 0: the pieces are planes
     std::int32_t orientation = 1;        // as in LoadedPicture
     std::uint32_t reasonLength = 0;
     std::array<char, longestReason> reason{};  // its code and arguments as a stream
@@ -106,6 +113,9 @@ bool IsConsistentEnd(const DecoderAnswer& answer, const DecoderRequest& request)
 // The second answer, of which nothing but number and length of the metadata counts: likewise.
 bool IsConsistentMetadata(const DecoderAnswer& answer, const DecoderAnswer& first,
                           std::uint64_t memoryFileLength);
+
+// Of a first answer.
+PieceLayout LayoutOf(const DecoderAnswer& first);
 
 // Where attributes and metadata begin in the memory file.
 std::uint64_t PlaceBehindRows(const DecoderAnswer& first);

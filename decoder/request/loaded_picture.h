@@ -10,6 +10,7 @@
 #include "decoder/request/arriving_picture.h"
 #include "remap/image/bitmap.h"
 #include "remap/image/photo_metadata.h"
+#include "remap/image/planar/planar_picture.h"
 
 namespace varnel {
 
@@ -26,7 +27,8 @@ struct LoadedPicture {
     PixelSize size{};     // of the full picture, pixels; 0 x 0 when not loaded
     PhotoMetadata facts = {};  // when only they were asked for; a bitmap has its own with it
     int orientation = 1;       // that the file states and that was undone, as EXIF counts
-    std::shared_ptr<ArrivingPicture> arriving{};  // while the bitmap's rows are on their way
+    std::shared_ptr<ArrivingPicture> arriving{};    // while the bitmap's rows are on their way
+    std::shared_ptr<const PlanarPicture> planar{};  // in place of the bitmap's pixels
 
     static LoadedPicture Refused(const Reason& reason) {
         return {LoadOutcome::NotLoaded, nullptr, reason, {}};

@@ -46,6 +46,8 @@ struct ReadRequest {
     // Whoever asks goes on asking until the answer is there: a large picture then may come in
     // pieces.
     bool inPieces = false;
+    // Such a picture may be planar, where its file is: half the memory.
+    bool planar = false;
     // Called at most once while the answer is waited for, with a sound picture of which all but the
     // rows are there. What the answer will be is another question.
     std::function<void(LoadedPicture)> begun{};

@@ -12,11 +12,11 @@
 namespace varnel {
 
 DrawnRows::DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo,
-                     std::shared_ptr<const ArrivingRows> arriving)
+                     PhotoRows rows)
     : projection_(projection),
       image_(image),
       photo_(photo),
-      arriving_(std::move(arriving)),
+      rows_(std::move(rows)),
       frames_(FramesOf(image, photo.Size(), {})) {
     const ProjectionMaps maps(projection, image, frames_);
     maps.Green().ProgressAt(maps.Green().LastLine());  // an overflow is better found now
@@ -40,7 +40,8 @@ void DrawnRows::WithRows(LineRange rows, const std::function<void(const Bitmap&)
     const BitmapHandle band = BitmapOver(bottom, size, photo_.Format());
     band->metadata.colourProfile = photo_.metadata.colourProfile;
     SerialRunner alone;
-    const RenderSurface surface(&photo_, band.get(), frames_.output, alone, arriving_.get());
+    const RenderSurface surface(&photo_, band.get(), frames_.output, alone,
+                                {rows_.arriving.get(), rows_.planar.get()});
     const std::unique_ptr<RowRenderer> renderer = RowsOf(projection_, image_, frames_, surface);
     renderer->DrawRows(rows);
     done_ += rows.Count();
@@ -50,6 +51,7 @@ void DrawnRows::WithRows(LineRange rows, const std::function<void(const Bitmap&)
 
 void DrawnRows::End() {
     photo_ = Bitmap(photo_.Format(), photo_.Size(), nullptr);
+    rows_.planar = nullptr;
     free_.clear();
 }
 

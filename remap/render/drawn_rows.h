@@ -12,10 +12,17 @@
 #include <vector>
 
 #include "base/arriving_rows.h"
+#include "remap/image/planar/planar_picture.h"
 #include "remap/image/row_source.h"
 #include "remap/projection/record_maps.h"
 
 namespace varnel {
+
+// Where a photo's rows are that are not simply in its bitmap, see SourceRows.
+struct PhotoRows {
+    std::shared_ptr<const ArrivingRows> arriving{};
+    std::shared_ptr<const PlanarPicture> planar{};
+};
 
 class DrawnRows : public RowSource {
   public:
@@ -29,7 +36,7 @@ class DrawnRows : public RowSource {
     // The photo's pixels are kept for as long as this lives; where they are arriving, rows are
     // drawn as soon as what they need is there. Throws what a conversion throws before its work.
     DrawnRows(Projection projection, const ImageRecord& image, const Bitmap& photo,
-              std::shared_ptr<const ArrivingRows> arriving = nullptr);
+              PhotoRows rows = {});
 
     // What a conversion makes of the photo, but for the pixels, which are not there.
     BitmapHandle WithoutPixels() const;
@@ -47,7 +54,7 @@ class DrawnRows : public RowSource {
     Projection projection_;
     ImageRecord image_;
     Bitmap photo_;
-    std::shared_ptr<const ArrivingRows> arriving_;
+    PhotoRows rows_;
     Frames frames_;
     mutable std::atomic<int> done_ = 0;
     mutable std::mutex mutex_;

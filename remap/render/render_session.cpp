@@ -82,10 +82,14 @@ void RenderSurface::FillAll() const {
 void RenderSurface::FillRow(std::int32_t row) const {
     const auto target = ScanLine(result_, row);
     if (keepsSource_) {
-        if (arriving_ != nullptr) {
-            arriving_->WaitFor(row);
+        if (rows_.arriving != nullptr) {
+            rows_.arriving->WaitFor(row);
         }
-        std::ranges::copy(ScanLine(source_, row), target.begin());
+        if (rows_.planar != nullptr) {
+            rows_.planar->CopyRow(row, target.data());
+        } else {
+            std::ranges::copy(ScanLine(source_, row), target.begin());
+        }
     } else {
         std::ranges::fill(target, std::uint8_t{0});
     }

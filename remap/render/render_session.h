@@ -8,6 +8,7 @@
 
 #include "base/arriving_rows.h"
 #include "remap/image/levels/pixel_levels.h"
+#include "remap/image/planar/planar_picture.h"
 #include "remap/render/render.h"
 
 namespace varnel {
@@ -17,21 +18,26 @@ namespace varnel {
 // every pixel will be written.
 enum class Canvas { CopyOfSource, Anything };
 
+// Where a source's rows are that are not simply in its bitmap.
+struct SourceRows {
+    const ArrivingRows* arriving = nullptr;  // where they have to be waited for
+    const PlanarPicture* planar = nullptr;   // in place of the bitmap's, which is without pixels
+};
+
 // What an engine reads from and writes to.
 class RenderSurface {
   public:
     // The frame is the result's, for the source.
     RenderSurface(const Bitmap* source, Bitmap* result, const OutputFrame& frame,
-                  BlockRunner& runner, const ArrivingRows* arriving = nullptr)
+                  BlockRunner& runner, const SourceRows& rows = {})
         : source_(source),
           result_(result),
           runner_(&runner),
-          arriving_(arriving),
+          rows_(rows),
           keepsSource_(IsOwnFrame(source, frame)) {}
 
     const Bitmap* Source() const { return source_; }
-    // Of the source, where they have to be waited for; null: all are there.
-    const ArrivingRows* Arriving() const { return arriving_; }
+    const SourceRows& Rows() const { return rows_; }
     Bitmap* Result() const { return result_; }
     BlockRunner& Runner() const { return *runner_; }
     PixelSize SourceSize() const { return SizeOf(source_); }
@@ -62,7 +68,7 @@ class RenderSurface {
     const Bitmap* source_ = nullptr;
     Bitmap* result_ = nullptr;
     BlockRunner* runner_ = nullptr;
-    const ArrivingRows* arriving_ = nullptr;
+    SourceRows rows_;
     bool nearest_ = false;
     bool keepsSource_ = false;
 };

@@ -42,7 +42,7 @@ void RenderStretch(const StretchCurve& curve, SizeKind kind, RenderProgress& pro
                    RenderContext& context) {
     RenderSession run(kind, progress, context, Canvas::Anything);
     const int rows = run.SourceSize().height;
-    const SourceView source = SourceView::Of(run.Source());
+    const SourceView source = SourceView::Of(run);
     const TargetView target = TargetView::Of(run.Result());
     const auto draw = [&](int from, int to) {
         for (int y = from; y <= to; ++y) {

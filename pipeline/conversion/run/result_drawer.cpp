@@ -19,7 +19,7 @@ class RowsWithEnd : public DrawnRows {
   public:
     RowsWithEnd(const ImageRecord& record, const LoadedPicture& photo, std::function<void()> atEnd)
         : DrawnRows(ProjectionFromIndex(record.Projection), record, *photo.bitmap,
-                    {photo.arriving, &photo.arriving->rows}),
+                    {{photo.arriving, &photo.arriving->rows}, nullptr}),
           atEnd_(std::move(atEnd)) {}
     void End() override {
         atEnd_();

@@ -20,6 +20,7 @@
 #include <array>
 #include <cstring>
 
+#include "remap/render/engine/planar_blend-inl.h"
 #include "remap/render/engine/vector_pixels-inl.h"
 
 HWY_BEFORE_NAMESPACE();
@@ -203,12 +204,16 @@ struct PixelBlend {
 };
 #endif
 
-// Calls the function with the type for the format. Where a vector is a single number TakesVectors
+// Calls the function with the type for the source. Where a vector is a single number TakesVectors
 // is true for Bgr8 alone.
 template <class Function>
-void WithBlend([[maybe_unused]] PixelFormat format, const Function& function) {
+void WithBlend([[maybe_unused]] const SourceView& source, const Function& function) {
 #if HWY_TARGET != HWY_SCALAR
-    switch (format) {
+    if (source.planar != nullptr) {
+        function(PlanarBlend());
+        return;
+    }
+    switch (source.format) {
         case PixelFormat::Bgra8:
             return function(PixelBlend<std::uint8_t, true>());
         case PixelFormat::Bgr16:

@@ -34,7 +34,8 @@ class CirclePrefetch {
           source_(source),
           cosines_(cosines),
           sines_(sines),
-          pixelStep_(static_cast<std::ptrdiff_t>(PixelStep(source.format))),
+          pixelStep_(
+              source.planar != nullptr ? 1 : static_cast<std::ptrdiff_t>(PixelStep(source.format))),
           reach_(static_cast<double>(reachBytes / pixelStep_)) {}
 
     // The n-th part of what the radii, evenly spaced, read in both halves of columns first to end -
@@ -85,6 +86,10 @@ class CirclePrefetch {
             map_.SourceRadius(radii.back().radius) - map_.SourceRadius(radii.front().radius);
         return std::fabs(whole) / static_cast<double>(std::max<std::size_t>(radii.size(), 2) - 1);
     }
+    const std::uint8_t* Row(std::ptrdiff_t y) const {
+        return source_.planar != nullptr ? source_.planar->Brightness(source_.height - 1 - y)
+                                         : source_.bits + y * source_.pitch;
+    }
     void AskAt(int radius, std::size_t first, std::size_t end, std::size_t step) const {
         const double length = map_.SourceRadius(radius);
         const auto centreX = static_cast<double>(map_.Circle().sourceCentre.x);
@@ -94,8 +99,7 @@ class CirclePrefetch {
             if (!(y >= 0.0 && y < source_.height)) {
                 continue;
             }
-            const std::uint8_t* const row =
-                source_.bits + static_cast<std::ptrdiff_t>(y) * source_.pitch;
+            const std::uint8_t* const row = Row(static_cast<std::ptrdiff_t>(y));
             for (const double x :
                  {centreX + length * cosines_[i], centreX - length * cosines_[i]}) {
                 if (x >= 0.0 && x < source_.width) {

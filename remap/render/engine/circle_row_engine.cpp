@@ -21,7 +21,7 @@ class CircleRowEngine : public Engine {
           owners_(map, surface.ResultSize().height),
           pieceColumns_(SampleKindOf(surface.Source()->Format()) == SampleKind::Byte ? 256 : 128),
           columns_(Columns(map.Circle(), surface.ResultSize().width)),
-          source_(SourceView::Of(surface.Source(), surface.Arriving())),
+          source_(SourceView::Of(surface)),
           target_(TargetView::Of(surface.Result())),
           prefetch_(map, source_, cosines_, sines_) {}
 

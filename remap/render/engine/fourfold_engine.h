@@ -25,7 +25,7 @@ class FourfoldEngine : public Engine {
           centre_(map.Extents()),
           columns_(Columns(centre_, surface.ResultSize().width)),
           rows_(OnPicture(centre_.cy, surface.ResultSize().height, centre_.bottom)),
-          source_(SourceView::Of(surface.Source(), surface.Arriving())),
+          source_(SourceView::Of(surface)),
           target_(TargetView::Of(surface.Result(), only)) {}
 
     // Those to be drawn, all <= 0.

@@ -172,18 +172,15 @@ void DrawStretchSpan(const StretchSpan& span, const SpanTarget& target) {
 
 // For a span's kind of pixels.
 void ChordSpanImpl(const ChordSpan& span, SpanTarget target) {
-    WithBlend(span.source.format,
-              [&](auto blend) { DrawChordSpan<decltype(blend)>(span, target); });
+    WithBlend(span.source, [&](auto blend) { DrawChordSpan<decltype(blend)>(span, target); });
 }
 
 void CircleSpanImpl(const CircleSpan& span, SpanTarget target) {
-    WithBlend(span.source.format,
-              [&](auto blend) { DrawCircleSpan<decltype(blend)>(span, target); });
+    WithBlend(span.source, [&](auto blend) { DrawCircleSpan<decltype(blend)>(span, target); });
 }
 
 void StretchSpanImpl(const StretchSpan& span, SpanTarget target) {
-    WithBlend(span.source.format,
-              [&](auto blend) { DrawStretchSpan<decltype(blend)>(span, target); });
+    WithBlend(span.source, [&](auto blend) { DrawStretchSpan<decltype(blend)>(span, target); });
 }
 
 }  // namespace HWY_NAMESPACE

@@ -17,7 +17,7 @@ SmoothEngine::SmoothEngine(const RenderSurface& surface, const SmoothMap& map,
       columns_(map.ColumnAxis(), surface.ResultSize().width),
       rows_(map.RowAxis(), surface.ResultSize().height),
       covers_(columns_.Covers() && rows_.Covers()),
-      source_(SourceView::Of(surface.Source(), surface.Arriving())),
+      source_(SourceView::Of(surface)),
       target_(TargetView::Of(surface.Result(), only)) {}
 
 void SmoothEngine::FillTheRest() {

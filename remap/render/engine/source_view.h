@@ -10,9 +10,9 @@
 #include <cstring>
 #include <optional>
 
-#include "base/arriving_rows.h"
 #include "remap/image/bitmap.h"
 #include "remap/image/levels/pixel_levels.h"
+#include "remap/render/render_session.h"
 
 namespace varnel {
 
@@ -23,12 +23,15 @@ struct SourceView {
     std::int32_t height = 0;
     PixelFormat format = PixelFormat::Bgr8;
     const ArrivingRows* arriving = nullptr;  // where rows have to be waited for
+    const PlanarPicture* planar = nullptr;   // has the pixels, if it is there
 
-    static SourceView Of(const Bitmap* bitmap, const ArrivingRows* arriving = nullptr) {
+    static SourceView Of(const RenderSurface& surface) {
+        const Bitmap* const bitmap = surface.Source();
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(),   static_cast<std::ptrdiff_t>(bitmap->Pitch()),
-                size.width,       size.height,
-                bitmap->Format(), arriving};
+        return {bitmap->Bits(),       static_cast<std::ptrdiff_t>(bitmap->Pitch()),
+                size.width,           size.height,
+                bitmap->Format(),     surface.Rows().arriving,
+                surface.Rows().planar};
     }
     // Before rows from this one on are read.
     void WaitFor(std::int32_t row) const {
@@ -43,6 +46,11 @@ struct SourceView {
             return noLight;
         }
         WaitFor(static_cast<std::int32_t>(y));
+        if (planar != nullptr) {
+            const PixelColor colour =
+                planar->At(static_cast<std::int32_t>(x), static_cast<std::int32_t>(y));
+            return LevelsAt(&colour.blue, format);
+        }
         return LevelsAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
                             static_cast<std::ptrdiff_t>(x) * PixelStep(format),
                         format);

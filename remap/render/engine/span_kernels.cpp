@@ -202,7 +202,7 @@ void DrawNodeSpan(const NodeSpan& span) {
 }
 
 void NodeSpanImpl(const NodeSpan& span) {
-    WithBlend(span.source.format, [&](auto blend) { DrawNodeSpan<decltype(blend)>(span); });
+    WithBlend(span.source, [&](auto blend) { DrawNodeSpan<decltype(blend)>(span); });
 }
 
 }  // namespace HWY_NAMESPACE

@@ -18,7 +18,7 @@ class StraightRowEngine : public Engine {
     StraightRowEngine(const RenderSurface& surface, const StraightRows& map)
         : surface_(surface),
           map_(map),
-          source_(SourceView::Of(surface.Source(), surface.Arriving())),
+          source_(SourceView::Of(surface)),
           target_(TargetView::Of(surface.Result())) {}
 
     // The rows r to r + count - 1 above and below the centre.

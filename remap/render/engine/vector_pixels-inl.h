@@ -209,6 +209,9 @@ inline void WaitForRows(VecI rows, const SourceView& source) {
 // Whether the vector code can read the source: up to 2^31 samples, where a vector is a single
 // number only bytes. Single pixels can be read in any case.
 inline bool TakesVectors(const SourceView& source) {
+    if (source.planar != nullptr) {
+        return HWY_TARGET != HWY_SCALAR;
+    }
     const std::ptrdiff_t sampleBytes = BitsPerSample(source.format) / 8;
     return (HWY_TARGET != HWY_SCALAR || source.format == PixelFormat::Bgr8) &&
            source.pitch / sampleBytes * source.height <= std::numeric_limits<std::int32_t>::max();

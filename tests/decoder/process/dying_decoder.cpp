@@ -42,7 +42,7 @@ void BeginPieces(const QByteArray& order, varnel::DecoderAnswer answer, int file
     answer.outcome = varnel::inPieces;
     answer.size = answer.bitmap = {2000, order == "rows too large" ? 40'000 : 1000};
     answer.pitch = 6000;
-    const varnel::PieceLayout layout(answer.bitmap);
+    const varnel::PieceLayout layout(answer.bitmap, false);
     (void)!ftruncate(file, static_cast<off_t>(layout.Length()));
     varnel::SendMessage(varnel::decoderSocket, &answer, sizeof answer);
     answer.outcome = 0;

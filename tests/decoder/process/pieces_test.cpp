@@ -68,6 +68,53 @@ TEST(PiecedPicture, IsThePictureAsItComesAtOnce) {
     }
 }
 
+// Planes give the pixels that the decoder gives, at all edges and for the strongest colours.
+TEST(PiecedPicture, PlanesHaveThePixelsOfTheDecoder) {
+    const PictureFolder folder;
+    const QString path = folder.Path(Text("photo.jpg"));
+    DecoderReader reader({});
+    for (const PixelSize odd : {PixelSize{1500, 1000}, {1501, 1001}, {1503, 1000}, {1488, 1007}}) {
+        SCOPED_TRACE(odd.width);
+        ASSERT_TRUE(SaveBitmap({OutputType::Jpeg, 95}, testing::Noise(odd).get(), path));
+        std::shared_ptr<const PlanarPicture> early;
+        LoadedPicture planes =
+            ReadPicture(reader, {.path = path, .planar = true, .begun = [&](LoadedPicture begun) {
+                                     early = begun.planar;
+                                 }});
+        ASSERT_TRUE(planes.planar);
+        EXPECT_EQ(early, planes.planar);
+        EXPECT_EQ(planes.bitmap->Bits(), nullptr);
+        const LoadedPicture whole = AtOnce(reader, path);
+        BitmapHandle pixels = planes.planar->Pixels();
+        pixels->metadata = planes.bitmap->metadata;
+        for (const int x : {0, 1, odd.width / 2, odd.width - 2, odd.width - 1}) {
+            for (int y = 0; y < odd.height; ++y) {
+                const PixelColor one = planes.planar->At(x, y);
+                const PixelColor other = testing::PixelAt(whole.bitmap.get(), x, y);
+                ASSERT_TRUE(testing::operator==(one, other)) << x << ' ' << y;
+            }
+        }
+        planes.bitmap = std::move(pixels);
+        ExpectSame(planes, whole);
+    }
+}
+
+TEST(PiecedPicture, OnlyUprightPhotosOfHalvedColoursArePlanar) {
+    const PictureFolder folder;
+    const QString path = folder.Path(Text("photo.jpg"));
+    DecoderReader reader({});
+    OutputEncoding full{OutputType::Jpeg, 90};
+    full.chroma444 = true;
+    const QByteArray rows[] = {TurnedJpeg(folder, 6),
+                               testing::Contents(folder.Picture(Text("full.jpg"), full, size))};
+    for (const QByteArray& file : rows) {
+        testing::WriteFile(path, file);
+        const LoadedPicture picture = ReadPicture(reader, {.path = path, .planar = true});
+        EXPECT_FALSE(picture.planar);
+        ExpectSame(picture, AtOnce(reader, path));
+    }
+}
+
 TEST(PiecedPicture, DamageIsToldAsOfAPictureAtOnce) {
     const PictureFolder folder;
     const QByteArray sound = TurnedJpeg(folder, 1);

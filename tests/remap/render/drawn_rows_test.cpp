@@ -82,8 +82,25 @@ QByteArray FileOfArrivingRows(const Bitmap& photo, const ImageRecord& record, Bl
             }
         }
     });
-    return FileOf(DrawnRows(ProjectionFromIndex(record.Projection), record, *late, arriving),
-                  OutputType::Jpeg, runner, nullptr);
+    return FileOf(
+        DrawnRows(ProjectionFromIndex(record.Projection), record, *late, {arriving, nullptr}),
+        OutputType::Jpeg, runner, nullptr);
+}
+
+// Brightness and colours of anything.
+std::shared_ptr<const PlanarPicture> Planes() {
+    auto planes = std::make_shared<PlanarPicture>(photoSize);
+    const BitmapHandle noise = testing::Noise(photoSize);
+    for (int row = 0; row < photoSize.height; ++row) {
+        const auto pixels = noise->ScanLine(row);
+        for (std::size_t x = 0; x < static_cast<std::size_t>(photoSize.width); ++x) {
+            planes->Brightness(row)[x] = pixels[3 * x];
+        }
+        if (row % 2 == 0) {
+            planes->TakeColours(row / 2, pixels.data() + 700, pixels.data() + 1500);
+        }
+    }
+    return planes;
 }
 
 void ExpectBandsOfTheWhole(Projection projection, const ImageRecord& record, const Bitmap& photo,
@@ -188,6 +205,30 @@ TEST(DrawnRows, HaveTheWholeResultsPixelsInBandsOfAllHeights) {
         for (const Projection projection : AllProjections()) {
             ExpectBandsOfTheWhole(projection, record, *photo,
                                   std::string(c.name) + ", " + ToText(projection).toStdString());
+        }
+    }
+}
+
+// Rows of a planar photo are those of its pixels, through all kinds of engines.
+TEST(DrawnRows, ReadPlanarPhotosAsTheirPixels) {
+    SerialRunner runner;
+    const std::shared_ptr<const PlanarPicture> planes = Planes();
+    const BitmapHandle pixels = planes->Pixels();
+    const Bitmap without(PixelFormat::Bgr8, photoSize, nullptr);
+    for (const Projection projection : AllProjections()) {
+        for (const float turn : {0.0F, 25.0F}) {
+            ImageRecord record = testing::FisheyeRecord();
+            record.Projection = static_cast<std::int16_t>(projection);
+            record.RotateX = turn;
+            const DrawnRows rows(projection, record, without, {nullptr, planes});
+            const DrawnRows known(projection, record, *pixels);
+            const LineRange all{0, rows.WithoutPixels()->Size().height - 1};
+            rows.WithRows(all, [&](const Bitmap& drawn) {
+                known.WithRows(all, [&](const Bitmap& expected) {
+                    EXPECT_TRUE(testing::SamePixels(&drawn, &expected))
+                        << ToText(projection).toStdString() << ", " << turn;
+                });
+            });
         }
     }
 }

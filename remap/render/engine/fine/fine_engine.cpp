@@ -143,7 +143,7 @@ FineEngine::FineEngine(const RenderSurface& surface, const ProjectionMap& map,
       lines_(EngineFor(surface, map)->Lines()),
       curve_(std::move(curve)),
       places_(PlacesFor(map, grid_, surface.SourceSize(), surface.ResultSize())),
-      source_(SourceView::Of(surface.Source()), *curve_),
+      source_(SourceView::Of(surface), *curve_),
       target_(TargetView::Of(surface.Result(), only)) {}
 
 std::int32_t FineEngine::RowOf(int line) const {

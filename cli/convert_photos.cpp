@@ -53,8 +53,7 @@ class CommandRun : public ConversionObserver {
           wait_(reports_.Bar(), console),
           reader_(console.TakeReader()),
           feed_(std::make_shared<PrefetchingReader>(*reader_, MoreReaders(runner_.Cores()), wait_,
-                                                    ReadChoicesOf(settings_, options.raw),
-                                                    &runner_)),
+                                                    ReadChoicesFor(options, settings_), &runner_)),
           targets_(options.files,
                    options.film.output.isEmpty() ? RulesOf(options) : TargetRules()) {}
 
@@ -90,6 +89,12 @@ class CommandRun : public ConversionObserver {
         settings.AutoOrient = settings.AutoOrient && !options.noAutoOrient;
         settings.KeepDepth = KeepsDepth(options, settings) && options.film.output.isEmpty();
         return settings;
+    }
+
+    static ReadChoices ReadChoicesFor(const Options& options, const GeneralSettings& settings) {
+        ReadChoices choices = ReadChoicesOf(settings, options.raw);
+        choices.planar = options.planar;
+        return choices;
     }
 
     ConversionPlan Plan() {
@@ -249,7 +254,7 @@ class CommandRun : public ConversionObserver {
             return {{}, {ReasonCode::Words, *error}};
         }
         const auto& known = std::get<std::optional<GearRecord>>(gear);
-        if (picture.arriving && NeedsPixels(request_.options, known)) {
+        if ((picture.arriving || picture.planar) && NeedsPixels(request_.options, known)) {
             return {.needsPixels = true};
         }
         const StartedRecord start =

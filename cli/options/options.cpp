@@ -243,6 +243,7 @@ Options Take(const QCommandLineParser& parser) {
     TakeEncoding(parser, options);
     TakeRaw(parser, options);
     options.noMetadata = parser.isSet(QStringLiteral("no-metadata"));
+    options.planar = parser.isSet(QStringLiteral("planar"));
     options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
     options.noSettings = parser.isSet(QStringLiteral("no-settings"));
     options.force = parser.isSet(QStringLiteral("force"));

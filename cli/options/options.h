@@ -101,6 +101,7 @@ struct Options {
     FilmOptions film;
     bool noMetadata = false;
     bool noAutoOrient = false;
+    bool planar = false;  // less memory
     bool noSettings = false;
     bool force = false;
     bool skipExisting = false;

@@ -75,13 +75,16 @@ class Run : private RenderProgress {
         ConversionRecords records;
         const Reason error = Attempt([&] {
             records = early_ ? early_->Records() : plan_.records(photo_, loaded);
-            loaded.bitmap = drawer_.InWorkingDepth(std::move(loaded.bitmap));
+            if (records.needsPixels) {
+                HavePixels(loaded);
+                records = plan_.records(photo_, loaded);
+            }
+            drawer_.TakePhoto(loaded);
         });
         if (!error.isEmpty() || records.all.empty()) {
             EndPhoto(ConversionEnd::NoRecords, error.isEmpty() ? records.error : error);
             return;
         }
-        bitmaps_.FullSourceBitmap = std::move(loaded.bitmap);
         ConvertAll(records.all, loaded.reason);
         DropSource();
     }
@@ -154,10 +157,7 @@ class Run : private RenderProgress {
         }
     }
 
-    void DropSource() {
-        bitmaps_.FullSourceBitmap.reset();
-        bitmaps_.PreviewSourceBitmap.reset();
-    }
+    void DropSource() { drawer_.DropPhoto(); }
 
     // Converting.
 
@@ -224,7 +224,7 @@ class Run : private RenderProgress {
             Begin(static_cast<float>(turn_.drawn->result->Size().height));
             return;
         }
-        *turn_.drawn = drawer_.Draw(bitmaps_, turn_.what.record, std::move(turn_.drawn->result));
+        *turn_.drawn = drawer_.Draw(turn_.what.record, std::move(turn_.drawn->result));
         NoteSettings(turn_.drawn->result.get(), turn_.what.record, plan_.output.writeSettings,
                      plan_.output.writeMetadata ? turn_.what.target : QString());
     }
@@ -379,7 +379,6 @@ class Run : private RenderProgress {
     FileSeries series_;
     ResultDrawer drawer_;
     qsizetype photo_ = 0;
-    Bitmaps bitmaps_;  // of the photo at hand
     Turn turn_;
     std::optional<Turn> writing_;
     BegunTurns begun_;                    // small ones; nothing is writing then

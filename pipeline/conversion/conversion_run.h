@@ -32,8 +32,8 @@ struct OutputChoices {
 struct ConversionRecords {
     std::vector<ImageRecord> all{};
     Reason error{};
-    bool needsPixels =
-        false;  // of a picture whose rows are arriving: to be asked for anew with them
+    // Only that the picture is to come with its pixels, which are arriving or planar.
+    bool needsPixels = false;
 };
 
 // One result: a photo and one of its records.

@@ -64,7 +64,9 @@ void PrefetchingReader::ReadAhead(const QString& path) {
 }
 
 ReadRequest PrefetchingReader::RequestFor(const QString& path) const {
-    return {path, ReadKind::Whole, {}, choices_.upright, choices_.depth, choices_.raw};
+    ReadRequest request{path, ReadKind::Whole, {}, choices_.upright, choices_.depth, choices_.raw};
+    request.planar = choices_.planar;
+    return request;
 }
 
 LoadedPicture PrefetchingReader::TakeEarly(const QString& path) {

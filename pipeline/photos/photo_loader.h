@@ -43,6 +43,7 @@ struct ReadChoices {
     bool upright = true;  // turned as their EXIF orientation says
     ReadDepth depth = ReadDepth::Eight;
     RawDevelopment raw{};
+    bool planar = false;  // large photos may be planar, see LoadedPicture
 };
 ReadChoices ReadChoicesOf(const GeneralSettings& settings, const RawDevelopment& raw = {});
 

@@ -31,7 +31,7 @@ LoadedPicture PhotoFeed::Load(qsizetype photo, bool early) {
 }
 
 LoadedPicture PhotoFeed::Read(qsizetype photo, bool early) const {
-    const bool isEarly = early && plan_.photos.size() == 1 && ports_.loadEarly;
+    const bool isEarly = early && plan_.drawsByRows && plan_.photos.size() == 1 && ports_.loadEarly;
     return Attempted([&] {
         return isEarly ? ports_.loadEarly(plan_.photos[photo]) : ports_.load(plan_.photos[photo]);
     });

@@ -15,11 +15,17 @@ namespace varnel {
 
 namespace {
 
+BitmapHandle PixelsOf(const PlanarPicture& planar, const Bitmap& photo) {
+    BitmapHandle pixels = planar.Pixels();
+    pixels->metadata = photo.metadata;
+    return pixels;
+}
+
 class RowsWithEnd : public DrawnRows {
   public:
     RowsWithEnd(const ImageRecord& record, const LoadedPicture& photo, std::function<void()> atEnd)
         : DrawnRows(ProjectionFromIndex(record.Projection), record, *photo.bitmap,
-                    {{photo.arriving, &photo.arriving->rows}, nullptr}),
+                    {{photo.arriving, &photo.arriving->rows}, photo.planar}),
           atEnd_(std::move(atEnd)) {}
     void End() override {
         atEnd_();
@@ -32,6 +38,13 @@ class RowsWithEnd : public DrawnRows {
 
 }  // namespace
 
+void HavePixels(LoadedPicture& picture) {
+    if (picture.planar) {
+        picture.bitmap = PixelsOf(*picture.planar, *picture.bitmap);
+        picture.planar.reset();
+    }
+}
+
 bool ResultDrawer::IsWidened(PixelFormat photo) const {
     const OutputEncoding& encoding = plan_.output.encoding;
     return SampleKindOf(photo) == SampleKind::Byte && encoding.depth != OutputDepth::Own &&
@@ -39,9 +52,21 @@ bool ResultDrawer::IsWidened(PixelFormat photo) const {
                SampleKind::Byte;
 }
 
-BitmapHandle ResultDrawer::InWorkingDepth(BitmapHandle photo) {
-    return photo && IsWidened(photo->Format()) ? InSamples(*photo, SampleKind::Word, runner_)
-                                               : std::move(photo);
+void ResultDrawer::TakePhoto(LoadedPicture& photo) {
+    DropPhoto();
+    const bool isWidened = photo.bitmap && IsWidened(photo.bitmap->Format());
+    if (isWidened) {
+        HavePixels(photo);
+        photo.bitmap = InSamples(*photo.bitmap, SampleKind::Word, runner_);
+    }
+    bitmaps_.FullSourceBitmap = std::move(photo.bitmap);
+    planar_ = std::move(photo.planar);
+}
+
+void ResultDrawer::DropPhoto() {
+    bitmaps_.FullSourceBitmap.reset();
+    bitmaps_.PreviewSourceBitmap.reset();
+    planar_.reset();
 }
 
 bool ResultDrawer::IsDrawnByRows(const ImageRecord& record, const Bitmap& photo) const {
@@ -61,25 +86,31 @@ std::optional<DrawnResult> ResultDrawer::DrawArriving(const LoadedPicture& photo
     return DrawnResult{std::move(result), std::move(rows)};
 }
 
-DrawnResult ResultDrawer::Draw(Bitmaps& bitmaps, const ImageRecord& record, BitmapHandle used) {
-    const Bitmap& photo = *bitmaps.FullSourceBitmap;
+DrawnResult ResultDrawer::Draw(const ImageRecord& record, BitmapHandle used) {
+    const Bitmap& photo = *bitmaps_.FullSourceBitmap;
     const Projection projection = ProjectionFromIndex(record.Projection);
     if (IsDrawnByRows(record, photo)) {
         progress_.HandleEvents();
-        auto rows = std::make_unique<DrawnRows>(projection, record, photo);
+        auto rows =
+            std::make_unique<DrawnRows>(projection, record, photo, PhotoRows{nullptr, planar_});
         BitmapHandle result = rows->WithoutPixels();
         progress_.Begin(static_cast<float>(result->Size().height));
         return {std::move(result), std::move(rows), {}};
     }
-    if (plan_.preview && !bitmaps.PreviewSourceBitmap) {
-        bitmaps.PreviewSourceBitmap =
+    if (planar_) {
+        bitmaps_.FullSourceBitmap = PixelsOf(*planar_, photo);
+        planar_.reset();
+        return Draw(record, std::move(used));
+    }
+    if (plan_.preview && !bitmaps_.PreviewSourceBitmap) {
+        bitmaps_.PreviewSourceBitmap =
             ReducedCopy(&photo, PreviewSize(SizeOf(&photo), *plan_.preview, *plan_.preview));
     }
-    bitmaps.ResultBitmap = std::move(used);
-    RenderContext context{bitmaps, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
+    bitmaps_.ResultBitmap = std::move(used);
+    RenderContext context{bitmaps_, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
     Render(projection, record, plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, progress_,
            context);
-    return {std::move(bitmaps.ResultBitmap), nullptr, {}};
+    return {std::move(bitmaps_.ResultBitmap), nullptr, {}};
 }
 
 }  // namespace varnel

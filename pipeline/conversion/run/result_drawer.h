@@ -20,6 +20,9 @@ struct DrawnResult {
     Reason error{};                     // of the rows
 };
 
+// A planar picture's pixels in its bitmap.
+void HavePixels(LoadedPicture& picture);
+
 // Thrown by the rows of an arriving photo that was not sound in the end.
 struct UnsoundPhoto : std::exception {};
 
@@ -31,10 +34,12 @@ class ResultDrawer {
                  bool byRows)
         : plan_(plan), runner_(runner), progress_(progress), byRows_(byRows) {}
 
-    // For deeper files than the photo, what lies between its pixels is worked out with 16 bits.
-    BitmapHandle InWorkingDepth(BitmapHandle photo);
-    // Of FullSourceBitmap. The bitmap is used again where it fits.
-    DrawnResult Draw(Bitmaps& bitmaps, const ImageRecord& record, BitmapHandle used);
+    // The photo that is drawn from now on, whose pixels are taken from it. For deeper files than
+    // it, what lies between its pixels is worked out with 16 bits.
+    void TakePhoto(LoadedPicture& photo);
+    void DropPhoto();
+    // The bitmap is used again where it fits.
+    DrawnResult Draw(const ImageRecord& record, BitmapHandle used);
     // The same by rows while the photo is arriving, without progress; nothing where the photo's
     // have to be there first. At the end of the rows the function is called, and may throw.
     std::optional<DrawnResult> DrawArriving(const LoadedPicture& photo, const ImageRecord& record,
@@ -48,6 +53,8 @@ class ResultDrawer {
     BlockRunner& runner_;
     RenderProgress& progress_;
     const bool byRows_;  // where that can be
+    Bitmaps bitmaps_;
+    std::shared_ptr<const PlanarPicture> planar_;  // in place of the photo's pixels
 };
 
 }  // namespace varnel

@@ -49,7 +49,7 @@ struct SourceView {
         if (planar != nullptr) {
             const PixelColor colour =
                 planar->At(static_cast<std::int32_t>(x), static_cast<std::int32_t>(y));
-            return LevelsAt(&colour.blue, format);
+            return LevelsAt(&colour.blue, PixelFormat::Bgr8);
         }
         return LevelsAt(bits + static_cast<std::ptrdiff_t>(y) * pitch +
                             static_cast<std::ptrdiff_t>(x) * PixelStep(format),

@@ -160,6 +160,15 @@ FrameOutcome FrameOf(const ConvertRequest& request, std::span<ImageRecord> recor
 
 }  // namespace
 
+ReadChoices ReadChoicesFor(const Options& options, const GeneralSettings& settings) {
+    ReadChoices choices = ReadChoicesOf(settings, options.raw);
+    const bool isFine = std::ranges::any_of(options.fields, [](const auto& field) {
+        return field.first == QStringLiteral("Sampling") && field.second == QStringLiteral("fine");
+    });
+    choices.planar = (options.planar || settings.LessMemory) && !isFine;
+    return choices;
+}
+
 bool NeedsPixels(const Options& options, const std::optional<GearRecord>& gear) {
     return !gear || options.curve || options.straighten || options.circle == CircleUse::Found;
 }

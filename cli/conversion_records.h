@@ -52,6 +52,9 @@ struct PhotoRecords {
 PhotoRecords RecordsFor(const ConvertRequest& request, const ImageRecord& start,
                         BlockRunner& runner);
 
+// How photos are read; planar where that is asked for. Throws nothing.
+ReadChoices ReadChoicesFor(const Options& options, const GeneralSettings& settings);
+
 // What becomes of files that lie there. Throws nothing.
 TargetRules RulesOf(const Options& options);
 

@@ -91,12 +91,6 @@ class CommandRun : public ConversionObserver {
         return settings;
     }
 
-    static ReadChoices ReadChoicesFor(const Options& options, const GeneralSettings& settings) {
-        ReadChoices choices = ReadChoicesOf(settings, options.raw);
-        choices.planar = options.planar;
-        return choices;
-    }
-
     ConversionPlan Plan() {
         const Options& options = request_.options;
         return {.photos = files_,
@@ -129,9 +123,6 @@ class CommandRun : public ConversionObserver {
                                                    settings_.KeepDepth, runner_)
                                    : feed_->Take(path);
         };
-        if (film_ || request_.options.film.frame) {
-            ports.loadEarly = nullptr;
-        }
         if (request_.options.film.frame) {
             ports.readAhead = [this, photos = ports.readAhead](const QString& path) {
                 return photos && !IsFrameOf(path) && photos(path);
@@ -144,7 +135,9 @@ class CommandRun : public ConversionObserver {
                 return SaveResult{error.isEmpty(), std::move(error)};
             };
         }
-        if (ports.loadEarly) {
+        if (film_ || request_.options.film.frame) {
+            ports.loadEarly = nullptr;
+        } else if (ports.loadEarly) {
             ports.loadEarly = [this, early = ports.loadEarly](const QString& path) {
                 reports_.Bar().SetPhoto(path);
                 return early(path);

@@ -1373,6 +1373,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
         <translation>Schärfer, wo die Ansicht das Foto vergrößert, kein Moiré, wo sie es verkleinert, glatte Ränder; dauert um ein Mehrfaches länger</translation>
     </message>
+    <message>
+        <source>Less memory</source>
+        <translation>Weniger Speicher</translation>
+    </message>
+    <message>
+        <source>With classic sampling the batch reads large JPEG photos in half the memory and draws results a band at a time; they are the same and take somewhat longer</source>
+        <translation>Mit klassischer Abtastung liest der Stapel große JPEG-Fotos in halb so viel Speicher und zeichnet die Ergebnisse streifenweise; sie sind dieselben und dauern etwas länger</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>

@@ -1373,6 +1373,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
         <translation>Más nítido donde la vista amplía la foto, sin moaré donde la reduce, bordes suaves; tarda varias veces más</translation>
     </message>
+    <message>
+        <source>Less memory</source>
+        <translation>Menos memoria</translation>
+    </message>
+    <message>
+        <source>With classic sampling the batch reads large JPEG photos in half the memory and draws results a band at a time; they are the same and take somewhat longer</source>
+        <translation>Con el muestreo clásico, el lote lee las fotos JPEG grandes en la mitad de memoria y dibuja los resultados por franjas; son los mismos y tardan algo más</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>

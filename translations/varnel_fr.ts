@@ -1373,6 +1373,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Sharper where the view enlarges the photo, no moire where it makes it smaller, smooth borders; takes several times as long</source>
         <translation>Plus net là où la vue agrandit la photo, sans moiré là où elle la réduit, bords lisses ; prend plusieurs fois plus de temps</translation>
     </message>
+    <message>
+        <source>Less memory</source>
+        <translation>Moins de mémoire</translation>
+    </message>
+    <message>
+        <source>With classic sampling the batch reads large JPEG photos in half the memory and draws results a band at a time; they are the same and take somewhat longer</source>
+        <translation>Avec l’échantillonnage classique, le lot lit les grandes photos JPEG dans la moitié de la mémoire et dessine les résultats bande par bande ; ils sont les mêmes et prennent un peu plus de temps</translation>
+    </message>
 </context>
 <context>
     <name>FormStraighten</name>

@@ -9,9 +9,9 @@
 #include <cstdio>
 
 #include "decoder/formats/picture_file.h"
-#include "decoder/formats/row_pieces.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
+#include "decoder/request/row_pieces.h"
 
 namespace varnel {
 

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "decoder/formats/row_pieces.h"
+#include "decoder/request/row_pieces.h"
 #include "remap/image/bitmap_metadata.h"
 #include "remap/image/exif_orientation.h"
 

@@ -11,8 +11,8 @@
 #include <functional>
 #include <optional>
 
-#include "decoder/formats/row_pieces.h"
 #include "decoder/process/protocol.h"
+#include "decoder/request/row_pieces.h"
 
 namespace varnel {
 

@@ -8,10 +8,10 @@
 #include <cstdio>
 #include <optional>
 
-#include "decoder/formats/row_pieces.h"
 #include "decoder/metadata/read_metadata.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
+#include "decoder/request/row_pieces.h"
 
 namespace varnel {
 

@@ -12,10 +12,10 @@
 #include <cstdint>
 #include <optional>
 
-#include "decoder/formats/row_pieces.h"
 #include "decoder/request/file_metadata.h"
 #include "decoder/request/loaded_picture.h"
 #include "decoder/request/read_request.h"
+#include "decoder/request/row_pieces.h"
 
 namespace varnel {
 

@@ -127,7 +127,9 @@ void BatchJob::Work(const BatchChoices& how, bool upright) {
         const std::unique_ptr<PictureReader> reader = newReader_();
         ReadingWait wait;
         const ReadDepth depth = how.depth == OutputDepth::Eight ? ReadDepth::Eight : ReadDepth::Own;
-        PrefetchingReader feed(*reader, MoreReaders(pool.Cores()), wait, {upright, depth}, &pool);
+        ReadChoices read{upright, depth};
+        read.planar = how.lessMemory && how.sampling == SamplingKind::Classic;
+        PrefetchingReader feed(*reader, MoreReaders(pool.Cores()), wait, read, &pool);
         ConversionPorts ports = PortsFor(feed);
         ports.cores = &pool;
         Observer observer(*this);

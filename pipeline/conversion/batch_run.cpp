@@ -111,7 +111,8 @@ class Batch : public ConversionObserver {
                     return Records(first_ + photo, picture);
                 },
             .target = [this](const Conversion& conversion) { return Target(conversion); },
-            .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings}};
+            .output = {EncodingOf(choices_), choices_.writeMetadata, choices_.writeSettings},
+            .drawsByRows = choices_.lessMemory};
         return RunConversions(plan, targets, *this, ports).stopped;
     }
 

@@ -34,6 +34,7 @@ struct BatchChoices {
     SamplingKind sampling = SamplingKind::Classic;
     QSet<QString> paired = {};  // photos whose files keep their ending in the name
     FilmOutput film = {};       // how entries that are films are written
+    bool lessMemory = false;    // as GeneralSettings::LessMemory
 };
 
 // The queue's photos that are there as raw file and as JPEG: their files would have one name.

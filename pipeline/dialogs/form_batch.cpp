@@ -212,6 +212,7 @@ BatchChoices FormBatch::Choices() const {
                          wish.encoding.depth,
                          wish.encoding.compression,
                          wish.sampling};
+    choices.lessMemory = settings_.LessMemory;
     choices.paired = PairedPhotos(queue_);
     choices.film = job_.choices.film;  // as the film bar says
     for (const auto& [projection, box] : additions_) {

@@ -29,7 +29,7 @@ struct Check {
     bool GeneralSettings::*flag;
 };
 
-std::array<Check, 8> ChecksOf(const Ui::FormSetup& ui) {
+std::array<Check, 9> ChecksOf(const Ui::FormSetup& ui) {
     return {{{ui.Chroma444Check, &GeneralSettings::JPEGchroma444},
              {ui.FineSamplingCheck, &GeneralSettings::FineSampling},
              {ui.AutoOrientCheck, &GeneralSettings::AutoOrient},
@@ -37,7 +37,8 @@ std::array<Check, 8> ChecksOf(const Ui::FormSetup& ui) {
              {ui.TakeGearCheck, &GeneralSettings::TakeGear},
              {ui.WriteMetadataCheck, &GeneralSettings::WriteMetadata},
              {ui.WriteSettingsCheck, &GeneralSettings::WriteSettings},
-             {ui.KeepDepthCheck, &GeneralSettings::KeepDepth}}};
+             {ui.KeepDepthCheck, &GeneralSettings::KeepDepth},
+             {ui.LessMemoryCheck, &GeneralSettings::LessMemory}}};
 }
 
 }  // namespace

@@ -43,6 +43,7 @@ void SaveDefaults(SettingsStore& store, const QString& defaultGearName,
     saveFlag(setting::WriteMetadata, settings.WriteMetadata);
     saveFlag(setting::WriteSettings, settings.WriteSettings);
     saveFlag(setting::KeepDepth, settings.KeepDepth);
+    saveFlag(setting::LessMemory, settings.LessMemory);
     save(setting::TiffCompression, settings.TiffCompression);
     save(setting::Language, settings.Language);
 }

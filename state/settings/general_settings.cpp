@@ -45,6 +45,7 @@ GeneralSettings LoadSettings(const SettingsStore& store) {
     read(settings.WriteMetadata, setting::WriteMetadata);
     read(settings.WriteSettings, setting::WriteSettings);
     read(settings.KeepDepth, setting::KeepDepth);
+    read(settings.LessMemory, setting::LessMemory);
     settings.TiffCompression =
         store.Get(setting::General, setting::TiffCompression, settings.TiffCompression);
     settings.Language = store.Get(setting::General, setting::Language, settings.Language);

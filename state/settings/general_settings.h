@@ -30,6 +30,7 @@ struct GeneralSettings {
     bool KeepDepth = true;     // photos are read and written with as many bits as they have
     QString TiffCompression = QStringLiteral("auto");  // a text of remap/encode/output_depth.h
     bool FineSampling = false;                         // the window saves by the fine sampling
+    bool LessMemory = false;  // where it can be, large photos take half the memory and more time
 
     bool operator==(const GeneralSettings&) const = default;
 };

@@ -32,6 +32,7 @@ inline constexpr QLatin1StringView TakeGear("TakeGear");  // since 1.1
 inline constexpr QLatin1StringView WriteMetadata("WriteMetadata");
 inline constexpr QLatin1StringView WriteSettings("WriteSettings");
 inline constexpr QLatin1StringView KeepDepth("KeepDepth");              // since 1.1
+inline constexpr QLatin1StringView LessMemory("LessMemory");            // since 1.1
 inline constexpr QLatin1StringView TiffCompression("TiffCompression");  // since 1.1
 inline constexpr QLatin1StringView Language("Language");
 

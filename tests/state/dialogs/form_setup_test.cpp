@@ -169,6 +169,7 @@ TEST_F(FormSetupTest, SaveAsDefaultAppliesWritesInOrderAndStaysOpen) {
                    "setting/JPEGcompression=100\nsetting/JPEGchroma444=0\nsetting/FineSampling=0\n"
                    "setting/AutoOrient=1\nsetting/OfferGear=1\nsetting/TakeGear=1\n"
                    "setting/WriteMetadata=1\nsetting/WriteSettings=1\nsetting/KeepDepth=1\n"
+                   "setting/LessMemory=0\n"
                    "setting/TiffCompression=auto\nsetting/Language=en"));
     EXPECT_EQ(Label("LabelSaved"), Text("Saved"));
     Choose("ComboFileType", 0);
@@ -182,22 +183,24 @@ TEST_F(FormSetupTest, EachCheckBoxIsAppliedAndSavedUnderItsKey) {
         const char *name, *text, *key;
         bool GeneralSettings::*flag;
         bool atFirst;
-    } rows[] = {{"Chroma444Check", "Full colour resolution (4:4:4)", "JPEGchroma444",
-                 &GeneralSettings::JPEGchroma444, false},
-                {"FineSamplingCheck", "Best quality (fine sampling)", "FineSampling",
-                 &GeneralSettings::FineSampling, false},
-                {"AutoOrientCheck", "Turn photos upright", "AutoOrient",
-                 &GeneralSettings::AutoOrient, true},
-                {"OfferGearCheck", "Offer the gear that a photo tells", "OfferGear",
-                 &GeneralSettings::OfferGear, true},
-                {"TakeGearCheck", "Give added photos their own gear", "TakeGear",
-                 &GeneralSettings::TakeGear, true},
-                {"WriteMetadataCheck", "Keep the photo's metadata", "WriteMetadata",
-                 &GeneralSettings::WriteMetadata, true},
-                {"WriteSettingsCheck", "Write the settings into the picture", "WriteSettings",
-                 &GeneralSettings::WriteSettings, true},
-                {"KeepDepthCheck", "Keep the depth of photos", "KeepDepth",
-                 &GeneralSettings::KeepDepth, true}};
+    } rows[] = {
+        {"Chroma444Check", "Full colour resolution (4:4:4)", "JPEGchroma444",
+         &GeneralSettings::JPEGchroma444, false},
+        {"FineSamplingCheck", "Best quality (fine sampling)", "FineSampling",
+         &GeneralSettings::FineSampling, false},
+        {"AutoOrientCheck", "Turn photos upright", "AutoOrient", &GeneralSettings::AutoOrient,
+         true},
+        {"OfferGearCheck", "Offer the gear that a photo tells", "OfferGear",
+         &GeneralSettings::OfferGear, true},
+        {"TakeGearCheck", "Give added photos their own gear", "TakeGear",
+         &GeneralSettings::TakeGear, true},
+        {"WriteMetadataCheck", "Keep the photo's metadata", "WriteMetadata",
+         &GeneralSettings::WriteMetadata, true},
+        {"WriteSettingsCheck", "Write the settings into the picture", "WriteSettings",
+         &GeneralSettings::WriteSettings, true},
+        {"KeepDepthCheck", "Keep the depth of photos", "KeepDepth", &GeneralSettings::KeepDepth,
+         true},
+        {"LessMemoryCheck", "Less memory", "LessMemory", &GeneralSettings::LessMemory, false}};
     for (const auto& row : rows) {
         settings = {};
         Open();

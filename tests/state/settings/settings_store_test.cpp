@@ -240,6 +240,8 @@ TEST(LoadSettings, CutsLargeSidesAndReplacesUnusableValues) {
         {"TakeGear", "2", {}},
         {"KeepDepth", "0", {.KeepDepth = false}},
         {"KeepDepth", "deep", {}},
+        {"LessMemory", "1", {.LessMemory = true}},
+        {"LessMemory", "less", {}},
         {"TiffCompression", "zstd", {.TiffCompression = Text("zstd")}},
         {"WriteMetadata", "0", {400, 300, Text("JPG"), 100, false, true, true, false}},
         {"WriteMetadata", "-1", {400, 300, Text("JPG"), 100, false, true, true, true}},

@@ -7,7 +7,7 @@
 #include <cstddef>
 
 #include "base/pixel_size.h"
-#include "decoder/formats/rows_for.h"
+#include "decoder/request/rows_for.h"
 #include "remap/image/bitmap_metadata.h"
 
 namespace varnel {

@@ -97,6 +97,10 @@ inline bool BlendExactly(const NodeSpan& span, const SpanImage& image, const Exa
         hn::Store(hn::DemoteTo(ints, value), ints, at[place].data());
     };
     keep(0, x.lower), keep(1, x.upper), keep(2, y.lower), keep(3, y.upper);
+    if (HWY_UNLIKELY(span.source.arriving != nullptr)) {
+        const auto rows = at[2].begin();
+        span.source.WaitFor(*std::min_element(rows, rows + hn::Lanes(d)));
+    }
     HWY_ALIGN std::array<std::array<std::int32_t, lanesAtMost>, 4> words;
     for (std::size_t lane = 0; lane < hn::Lanes(d); ++lane) {
         for (std::size_t neighbour = 0; neighbour < 4; ++neighbour) {

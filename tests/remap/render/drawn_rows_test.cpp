@@ -148,6 +148,11 @@ TEST(DrawnRows, GiveTheFileOfTheWholeResult) {
              record.RotateY = -15.0F;
              record.TranslateX = 5.0F;
          }},
+        {"very wide, turned upside down",  // few nodes stand for the map, the last rows come first
+         [](ImageRecord& record) {
+             record.OutputAOV = 165.0F;
+             record.RotateZ = 180.0F;
+         }},
         {"part of the effect", [](ImageRecord& record) { record.EffectVarnel = 40.0F; }},
         {"another size, cut",
          [](ImageRecord& record) {

@@ -132,8 +132,8 @@ inline bool BlendExactly(const NodeSpan& span, const SpanImage& image, const Exa
 // Those of an image's pixels that it has.
 inline void StoreExact(const NodeSpan& span, const SpanImage& image, const ExactOffsets& offsets) {
     HWY_ALIGN std::array<std::int32_t, lanesAtMost> pixels;
-    const bool plain =
-        span.source.format == PixelFormat::Bgr8 && !span.nearest && !image.target.only;
+    const bool plain = span.source.format == PixelFormat::Bgr8 && span.source.planar == nullptr &&
+                       !span.nearest && !image.target.only;
     const int begin = std::max(image.begin - offsets.first, 0);
     const int end = std::min(image.end - offsets.first, offsets.count);
     const int lanes = static_cast<int>(hn::Lanes(Doubles()));

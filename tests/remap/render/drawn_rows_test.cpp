@@ -221,10 +221,13 @@ TEST(DrawnRows, ReadPlanarPhotosAsTheirPixels) {
     const BitmapHandle pixels = planes->Pixels();
     const Bitmap without(PixelFormat::Bgr8, photoSize, nullptr);
     for (const Projection projection : AllProjections()) {
-        for (const float turn : {0.0F, 25.0F}) {
+        for (const float turn : {0.0F, 25.0F, 180.0F}) {
             ImageRecord record = testing::FisheyeRecord();
             record.Projection = static_cast<std::int16_t>(projection);
-            record.RotateX = turn;
+            record.RotateX = std::min(turn, 25.0F);
+            if (turn > 90.0F) {  // most pixels are worked out one by one
+                record.OutputAOV = 165.0F;
+            }
             const DrawnRows rows(projection, record, without, {nullptr, planes});
             const DrawnRows known(projection, record, *pixels);
             const LineRange all{0, rows.WithoutPixels()->Size().height - 1};

@@ -235,13 +235,13 @@ void RegisterAll() {
     RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);
     RegisterStretch("engine/24MP/2 cores/Stretch", &RenderStretch, full, 2);
     for (const PixelSize box : {PixelSize{400, 300}, PixelSize{1000, 750}}) {
-        const std::string size = std::to_string(box.width) + "x" + std::to_string(box.height);
         for (const bool moved : {false, true}) {
-            const std::string view = moved ? " turned" : "";
-            Register("reference/preview/" + size + view, &reference::Render,
-                     Projection::Rectilinear, {moved}, box, SizeKind::Thumbnails, 1);
-            Register("engine/preview/" + size + view, &Render, Projection::Rectilinear, {moved},
-                     box, SizeKind::Thumbnails, 1);
+            std::string view = std::to_string(box.width) + "x" + std::to_string(box.height);
+            view += moved ? " turned" : "";
+            Register("reference/preview/" + view, &reference::Render, Projection::Rectilinear,
+                     {moved}, box, SizeKind::Thumbnails, 1);
+            Register("engine/preview/" + view, &Render, Projection::Rectilinear, {moved}, box,
+                     SizeKind::Thumbnails, 1);
         }
     }
     for (const double millions : {6.0, 12.0, 24.0, 48.0, 96.0}) {

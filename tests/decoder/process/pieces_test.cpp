@@ -6,10 +6,12 @@
 
 #include <csignal>
 #include <future>
+#include <string_view>
 
 #include "base/error_text.h"
 #include "decoder/process/decoder_reader.h"
 #include "decoder/process/protocol.h"
+#include "decoder/process/sandbox.h"
 #include "tests/support/files.h"
 #include "tests/support/texts.h"
 
@@ -173,19 +175,22 @@ TEST(PiecedPicture, DecodersThatDieOrLieCostNoMoreThanTheyHaveTo) {
         const char* order;   // what the decoder does after it has begun
         const char* reason;  // empty: asked as a whole, the picture comes
     } rows[] = {
-        {"pieces signal 11", ""},
+        {"pieces signal 6", ""},
         {"pieces forbidden", ""},
         {"pieces other number", ""},
         {"pieces length 99999999999", ""},
         {"pieces stutter", ""},
         {"rows given up", ""},
-        {"rows signal 11", "damaged: the decoder died of it (signal 11)"},
+        {"rows signal 6", "damaged: the decoder died of it (signal 6)"},
         {"rows too many", "damaged: the decoder's answer makes no sense"},
         {"rows missing", "damaged: the decoder's answer makes no sense"},
         {"rows too large", "damaged: the decoder's answer makes no sense"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.order);
+        if (sanitized && row.order == std::string_view("pieces forbidden")) {
+            continue;  // there are no walls then
+        }
         testing::WriteFile(photo, row.order);
         DecoderReader reader({.program = QStringLiteral(VARNEL_DYING_DECODER)});
         const LoadedPicture picture = ReadPicture(reader, {photo});

@@ -3,6 +3,7 @@
 
 #include "pipeline/conversion/conversion_run.h"
 
+#include <QScopeGuard>
 #include <thread>
 
 #include "base/error_reason.h"
@@ -53,13 +54,14 @@ class Run : private RenderProgress {
             FinishWriting();  // it may be what is written, however odd that is
         }
         LoadedPicture loaded = feed_.Load(photo_, overlaps_);
+        // Whatever is thrown: the worker would wait for a decision for ever.
+        const auto atEnd = qScopeGuard([this] { DropEarly(); });
         if (loaded.arriving) {
             BeginEarly(loaded);
             loaded = feed_.Whole(photo_);
             KeepEarlyOf(loaded);
         }
         ConvertLoaded(std::move(loaded));
-        DropEarly();
     }
 
     void ConvertLoaded(LoadedPicture loaded) {
@@ -86,7 +88,7 @@ class Run : private RenderProgress {
             return;
         }
         ConvertAll(records.all, loaded.reason);
-        DropSource();
+        drawer_.DropPhoto();
     }
 
     void ConvertAll(const std::vector<ImageRecord>& records, const Reason& damage) {
@@ -157,8 +159,6 @@ class Run : private RenderProgress {
         }
     }
 
-    void DropSource() { drawer_.DropPhoto(); }
-
     // Converting.
 
     void Convert(bool last) {
@@ -172,7 +172,7 @@ class Run : private RenderProgress {
             Fail(ConversionEnd::NotConverted, error);
         }
         if (last) {
-            DropSource();  // encoding needs memory of its own
+            drawer_.DropPhoto();  // encoding needs memory of its own
         }
         if (!Failed() && IsBegunOnly()) {
             BeginSaving();

@@ -29,6 +29,9 @@ class ConversionRunTest : public ::testing::Test, public ConversionObserver, pub
   protected:
     void Begun(const Conversion& conversion) override {
         log.append(Text("begun %1").arg(conversion.photo));
+        if (throws) {
+            throw 1;
+        }
     }
     RenderProgress& Progress() override { return *this; }
     void HandleEvents() override {
@@ -52,6 +55,7 @@ class ConversionRunTest : public ::testing::Test, public ConversionObserver, pub
 
     QStringList log;
     std::promise<void> written;
+    bool throws = false;
     bool stopsMeanwhile = false;
     bool stop = false;
     int ended = 0;
@@ -262,6 +266,14 @@ TEST_F(ConversionRunTest, SmallFilesAreToldOfAndRefusedAsIfEachWereDoneBeforeThe
     EXPECT_EQ(logs[1], logs[0]);
     EXPECT_FALSE(last[0].isEmpty());
     EXPECT_EQ(last[1], last[0]);
+}
+
+// What is thrown past the run must not leave the worker waiting for a decision.
+TEST_F(EarlyRunTest, EndsWhenTheObserverThrows) {
+    ArriveEarly();
+    throws = true;
+    EXPECT_THROW(Go(), int);
+    EXPECT_TRUE(Result().isEmpty());
 }
 
 TEST(ConversionTargets, RefuseByTheirRules) {

@@ -74,6 +74,7 @@ int ConvertFiles(const Options& options, const GearChoice& gears, const GeneralS
     Options films = options;
     Options photos = options;
     films.files.removeIf([](const QString& path) { return !IsFilmFile(path); });
+    films.files.squeeze();
     const bool asPhotos = options.film.frame.has_value();
     if (const QString error = FilmError(options, films.files.size());
         !error.isEmpty() && !(asPhotos && !films.files.isEmpty())) {

@@ -5,7 +5,6 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QHash>
 #include <QThread>
 #include <map>
 #include <optional>
@@ -79,8 +78,9 @@ class CommandRun : public ConversionObserver {
     }
 
   private:
-    // What is known of a photo's numbers.
-    struct Started {
+    // What is known of a photo until it is done.
+    struct Facts {
+        QDate day;  // on which it was taken, where the names ask for it
         FrameReading reading;
         QStringList notes;
     };
@@ -102,9 +102,10 @@ class CommandRun : public ConversionObserver {
                             return request_.options.film.output;
                         }
                         return TargetFor(
-                            request_, files_[conversion.photo], conversion.record,
-                            {ResultNumber(numbers_[conversion.photo], conversion.index), Results(),
-                             days_.value(conversion.photo)});
+                            request_, files_.at(conversion.photo), conversion.record,
+                            {ResultNumber(numbers_.value(conversion.photo, conversion.photo),
+                                          conversion.index),
+                             Results(), facts_[conversion.photo].day});
                     },
                 .output = {EncodingFor(request_), settings_.WriteMetadata && !options.noMetadata,
                            settings_.WriteSettings && !options.noSettings},
@@ -216,12 +217,14 @@ class CommandRun : public ConversionObserver {
 
     // Without those of which every result exists already, if the options say so.
     QStringList FilesToDo() {
+        if (!request_.options.skipExisting) {
+            return request_.options.files;
+        }
         QStringList files;
         PhotoLoader photos(*reader_, &wait_, &settings_, request_.options.raw);
         for (qsizetype n = 0; n < request_.options.files.size(); ++n) {
             const QString& file = request_.options.files[n];
-            const bool asks = request_.options.skipExisting && !StopAsked() &&
-                              !request_.options.film.frame &&
+            const bool asks = !StopAsked() && !request_.options.film.frame &&
                               request_.options.film.output.isEmpty();
             const auto results = asks ? ExistingResults(request_, targets_, photos,
                                                         {file, ResultNumber(n, 0), Results()})
@@ -230,15 +233,17 @@ class CommandRun : public ConversionObserver {
                 files.append(file);
                 numbers_.append(n);
             }
-            auto& skipped = skipped_[files.size()];
-            skipped.insert(skipped.end(), results.begin(), results.end());
+            if (!results.empty()) {
+                auto& skipped = skipped_[files.size()];
+                skipped.insert(skipped.end(), results.begin(), results.end());
+            }
         }
         return files;
     }
 
     ConversionRecords Records(qsizetype photo, const LoadedPicture& picture) {
         if (NamesDay(request_.options.namePattern)) {
-            days_.insert(photo, PhotoDate(picture.bitmap->metadata.photo, files_[photo]));
+            facts_[photo].day = PhotoDate(picture.bitmap->metadata.photo, files_.at(photo));
         }
         const GearChoice& gears = request_.gears;
         const auto gear =
@@ -251,14 +256,16 @@ class CommandRun : public ConversionObserver {
             return {.needsPixels = true};
         }
         const StartedRecord start =
-            StartRecord(request_, files_[photo], {picture.size, picture.orientation}, known,
+            StartRecord(request_, files_.at(photo), {picture.size, picture.orientation}, known,
                         picture.bitmap.get());
         PhotoRecords records = RecordsFor(request_, start.record, runner_);
-        Started& started = started_[photo] = {start.reading, start.notes};
+        Facts& facts = facts_[photo];
+        facts.reading = start.reading;
+        facts.notes = start.notes;
         for (const Reason& note : records.notes) {
-            started.notes.append(ErrorText(note));
+            facts.notes.append(ErrorText(note));
         }
-        started.notes.removeAll(QString());
+        facts.notes.removeAll(QString());
         return {std::move(records.all), records.error};
     }
 
@@ -266,12 +273,12 @@ class CommandRun : public ConversionObserver {
         if (conversion.index > 0) {
             return;
         }
-        const QString& photo = files_[conversion.photo];
+        const QString& photo = files_.at(conversion.photo);
         ReportSkipped(conversion.photo);
         if (!conversion.damage.isEmpty()) {
             reports_.Damaged(photo, ErrorText(conversion.damage));
         }
-        for (const QString& note : started_.value(conversion.photo).notes) {
+        for (const QString& note : facts_[conversion.photo].notes) {
             reports_.Say(photo + QStringLiteral(": ") + note);
         }
     }
@@ -281,7 +288,8 @@ class CommandRun : public ConversionObserver {
     bool StopAsked() override { return console_.StopSignal() != 0; }
 
     void Ended(const Conversion& conversion, const ConversionOutcome& outcome) override {
-        const QString& photo = files_[conversion.photo];
+        const QString& photo = files_.at(conversion.photo);
+        facts_.erase(facts_.begin(), facts_.lower_bound(conversion.photo));
         if (outcome.end == ConversionEnd::NotRead || outcome.end == ConversionEnd::NoRecords) {
             ReportFailed({.photo = photo}, conversion, outcome);
             reports_.Bar().Done(RecordsOfEach(request_.options));
@@ -289,10 +297,10 @@ class CommandRun : public ConversionObserver {
         }
         FileReport report = ReportOf(photo, conversion.record);
         report.result = conversion.target;
-        const Started started = started_.value(conversion.photo);
-        report.gearSource = ToText(started.reading.source);
-        report.uncertain = started.reading.doubts.Names();
-        report.notes = started.notes;
+        const Facts& facts = facts_[conversion.photo];
+        report.gearSource = ToText(facts.reading.source);
+        report.uncertain = facts.reading.doubts.Names();
+        report.notes = facts.notes;
         if (outcome.end == ConversionEnd::Written && film_) {
             ++filmFrames_;
             filmSize_ = outcome.size;
@@ -337,7 +345,8 @@ class CommandRun : public ConversionObserver {
 
     // Those that come before the file of that number.
     void ReportSkipped(qsizetype n) {
-        for (const FileReport& report : skipped_[n]) {
+        const auto skipped = skipped_.extract(n);
+        for (const FileReport& report : skipped ? skipped.mapped() : std::vector<FileReport>()) {
             if (report.status == FileStatus::Failed) {
                 reports_.Failed(report);
             } else {
@@ -374,10 +383,9 @@ class CommandRun : public ConversionObserver {
     PixelSize filmSize_{};
     QElapsedTimer clock_;
     QStringList files_;
-    QList<qsizetype> numbers_;      // of these files among those of the command
-    QHash<qsizetype, QDate> days_;  // on which they were taken
+    QList<qsizetype> numbers_;  // of these files among those of the command, unless all are done
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number
-    QHash<qsizetype, Started> started_;                     // by the photo's number
+    std::map<qsizetype, Facts> facts_;                      // by the photo's number
     qsizetype written_ = 0;
 };
 

@@ -34,9 +34,10 @@ TargetRefusal ConversionTargets::Check(const QString& photo, const QString& targ
     if (photos_.Contains(target)) {
         return {TargetError::IsPhotoOfRun};
     }
-    if (const QString first = written_.value(file.canonicalFilePath());
-        !first.isEmpty() && rules_.repeated == RepeatedName::LaterFails) {
-        return {TargetError::IsResultOfRun, first};  // through a link, say
+    if (rules_.repeated == RepeatedName::LaterFails) {
+        if (const QString first = names_.WriterOf(file.canonicalFilePath()); !first.isEmpty()) {
+            return {TargetError::IsResultOfRun, first};  // through a link, say
+        }
     }
     if (rules_.existing != ExistingFile::Replaced) {
         return {TargetError::Exists};
@@ -46,7 +47,9 @@ TargetRefusal ConversionTargets::Check(const QString& photo, const QString& targ
 }
 
 void ConversionTargets::NoteWritten(const QString& photo, const QString& target, bool damaged) {
-    written_.insert(QFileInfo(target).canonicalFilePath(), photo);
+    if (rules_.repeated == RepeatedName::LaterFails) {
+        names_.NoteWritten(target, photo);
+    }
     if (damaged) {
         halfPictures_.insert(target);
     } else {

@@ -5,7 +5,6 @@
 // but std::bad_alloc.
 #pragma once
 
-#include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -62,8 +61,7 @@ class ConversionTargets {
     FileIdentities photos_;
     TargetRules rules_;
     TakenNames names_;
-    QHash<QString, QString> written_;  // photos by the canonical names of their results
-    QSet<QString> halfPictures_;       // written by this run from damaged photos
+    QSet<QString> halfPictures_;  // written by this run from damaged photos
 };
 
 }  // namespace varnel

@@ -15,7 +15,9 @@
 #include "cli/conversion_records.h"
 #include "cli/existing_results.h"
 #include "cli/films/films.h"
+#include "cli/other_shards.h"
 #include "cli/report/failure_text.h"
+#include "cli/report/file_digest.h"
 #include "cli/report/run_reports.h"
 #include "pipeline/conversion/conversion_run.h"
 #include "remap/image/photo_date.h"
@@ -24,7 +26,7 @@ namespace varnel {
 
 namespace {
 
-// While a photo is read: the time left is counted down, and a signal gives the photo up.
+// While a photo is read the time left is counted down, and a signal gives the photo up.
 class SignalWait : public ReadingWait {
   public:
     SignalWait(TerminalBar& bar, const Console& console) : bar_(bar), console_(console) {}
@@ -38,7 +40,7 @@ class SignalWait : public ReadingWait {
     const Console& console_;
 };
 
-// The run of one command, as the console shows it.
+// The run of one command, as the console shows it; Go returns the exit code.
 class CommandRun : public ConversionObserver {
   public:
     CommandRun(const Options& options, const GearChoice& gears, const GeneralSettings& settings,
@@ -53,10 +55,9 @@ class CommandRun : public ConversionObserver {
           reader_(console.TakeReader()),
           feed_(std::make_shared<PrefetchingReader>(*reader_, MoreReaders(runner_.Cores()), wait_,
                                                     ReadChoicesFor(options, settings_), &runner_)),
-          targets_(options.files,
-                   options.film.output.isEmpty() ? RulesOf(options) : TargetRules()) {}
+          targets_(options.files, options.film.output.isEmpty() ? RulesOf(options) : TargetRules()),
+          others_(request_) {}
 
-    // Returns the exit code.
     int Go() {
         files_ = FilesToDo();
         reports_.Bar().Start(files_.size() * RecordsOfEach(request_.options));
@@ -96,17 +97,7 @@ class CommandRun : public ConversionObserver {
         return {.photos = files_,
                 .records = [this](qsizetype photo,
                                   const LoadedPicture& picture) { return Records(photo, picture); },
-                .target =
-                    [this](const Conversion& conversion) {
-                        if (film_) {
-                            return request_.options.film.output;
-                        }
-                        return TargetFor(
-                            request_, files_.at(conversion.photo), conversion.record,
-                            {ResultNumber(numbers_.value(conversion.photo, conversion.photo),
-                                          conversion.index),
-                             Results(), facts_[conversion.photo].day});
-                    },
+                .target = [this](const Conversion& result) { return Target(result); },
                 .output = {EncodingFor(request_), settings_.WriteMetadata && !options.noMetadata,
                            settings_.WriteSettings && !options.noSettings},
                 .preview = options.preview,
@@ -114,6 +105,18 @@ class CommandRun : public ConversionObserver {
                 .finishesBegun = true,
                 .drawsByRows = true,
                 .namesLastAtEnd = true};
+    }
+
+    QString Target(const Conversion& conversion) {
+        if (film_) {
+            return request_.options.film.output;
+        }
+        const qsizetype number = numbers_.value(conversion.photo, conversion.photo);
+        QString target = TargetFor(
+            request_, files_.at(conversion.photo), conversion.record,
+            {ResultNumber(number, conversion.index), Results(), facts_[conversion.photo].day});
+        others_.Take(number, target, targets_);
+        return target;
     }
 
     ConversionPorts Ports() {
@@ -150,6 +153,7 @@ class CommandRun : public ConversionObserver {
         ports.allRead = [this] {  // its decoders' memory is better used now
             EndMeanwhile(std::move(feed_), std::move(reader_), runner_);
         };
+        ports.digest = request_.options.json ? &Sha256Of : nullptr;
         ports.cores = &runner_;
         ports.unfinished = console_.unfinished;
         return ports;
@@ -201,6 +205,7 @@ class CommandRun : public ConversionObserver {
         }
         report.frames = filmFrames_;
         report.bytes = QFileInfo(report.result).size();
+        report.sha256 = DigestFor(request_.options, report.result);
         report.seconds = static_cast<double>(clock_.elapsed()) / 1000.0;
         report.size = filmSize_;
         reports_.Written(report);
@@ -217,17 +222,26 @@ class CommandRun : public ConversionObserver {
 
     // Without those of which every result exists already, if the options say so.
     QStringList FilesToDo() {
-        if (!request_.options.skipExisting) {
+        if (!request_.options.skipExisting && !request_.options.shard) {
             return request_.options.files;
         }
         QStringList files;
         PhotoLoader photos(*reader_, &wait_, &settings_, request_.options.raw);
         for (qsizetype n = 0; n < request_.options.files.size(); ++n) {
+            if (!IsInShard(request_.options, n)) {
+                continue;
+            }
             const QString& file = request_.options.files[n];
-            const bool asks = !StopAsked() && !request_.options.film.frame &&
+            others_.LookUp(n, photos);
+            const bool asks = request_.options.skipExisting && !StopAsked() &&
+                              !request_.options.film.frame &&
                               request_.options.film.output.isEmpty();
-            const auto results = asks ? ExistingResults(request_, targets_, photos,
-                                                        {file, ResultNumber(n, 0), Results()})
+            const auto take = [&](const QString& result) {
+                others_.Take(n, result, targets_);
+                return targets_.Take(file, result);
+            };
+            const auto results = asks ? ExistingResults(request_, photos,
+                                                        {file, ResultNumber(n, 0), Results()}, take)
                                       : std::vector<FileReport>();
             if (results.empty()) {
                 files.append(file);
@@ -321,6 +335,7 @@ class CommandRun : public ConversionObserver {
         report.reason = ErrorText(conversion.damage);
         report.size = outcome.size;
         report.bytes = QFileInfo(report.result).size();
+        report.sha256 = outcome.digest;
         report.depth = DepthText(outcome.samples);
         report.seconds = outcome.seconds;
         if (!outcome.note.isEmpty()) {
@@ -356,17 +371,10 @@ class CommandRun : public ConversionObserver {
     }
 
     void ReportStopped() {
-        const QString rest =
-            request_.options.skipExisting ? QStringLiteral("the same command does the rest")
-            : request_.options.force
-                ? QStringLiteral(
-                      "with --skip-existing instead of --force the same command does "
-                      "what is missing")
-                : QStringLiteral("with --skip-existing the same command does the rest");
         reports_.Say(QStringLiteral("stopped, %1 of %2 pictures are written; ")
                          .arg(written_)
                          .arg(files_.size() * RecordsOfEach(request_.options)) +
-                     rest);
+                     HowToGoOn(request_.options));
     }
 
     const GeneralSettings settings_;
@@ -378,6 +386,7 @@ class CommandRun : public ConversionObserver {
     std::shared_ptr<PictureReader> reader_;  // early: it gets ready meanwhile
     std::shared_ptr<PrefetchingReader> feed_;
     ConversionTargets targets_;
+    NamesOfOthers others_;
     std::unique_ptr<ResultsAsFilm> film_;  // of --film
     qsizetype filmFrames_ = 0;
     PixelSize filmSize_{};

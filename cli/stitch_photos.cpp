@@ -15,6 +15,7 @@
 #include "base/thread_runner.h"
 #include "cli/conversion_records.h"
 #include "cli/report/failure_text.h"
+#include "cli/report/file_digest.h"
 #include "cli/report/run_reports.h"
 #include "cli/until_stopped.h"
 #include "pipeline/conversion/conversion_targets.h"
@@ -221,6 +222,7 @@ class StitchRun {
         }
         report_.size = result->Size();
         report_.bytes = QFileInfo(report_.result).size();
+        report_.sha256 = DigestFor(options_, report_.result);
         report_.depth = DepthText(saved.samples);
         reports_.Note(report_.result, saved.note);
         reports_.Written(report_);

@@ -12,7 +12,9 @@
 #include "cli/existing_results.h"
 #include "cli/films/films.h"
 #include "cli/options/advice.h"
+#include "cli/other_shards.h"
 #include "cli/report/failure_text.h"
+#include "cli/report/file_digest.h"
 #include "cli/report/run_reports.h"
 #include "files/noting_operations.h"
 #include "film/conversion/convert_film.h"
@@ -64,7 +66,14 @@ class FilmsRun {
     int Go() {
         const QStringList& films = request_.options.files;
         reports_.Bar().Start(films.size() * RecordsOfEach(request_.options));
+        const Namesakes namesakes(request_.options);
         for (film_ = 0; film_ < films.size() && !StopAsked(); ++film_) {
+            if (!IsInShard(request_.options, film_)) {
+                continue;
+            }
+            for (const qsizetype other : namesakes.Before(film_)) {
+                TakeNames(other);
+            }
             ConvertFile(films[film_]);
         }
         reports_.Finish();
@@ -159,8 +168,34 @@ class FilmsRun {
         }
     }
 
-    QString TargetOf(const QString& path, const ImageRecord& record, FilmContainer container,
-                     const NameFacts& facts) {
+    FilmContainer ContainerOfResult(const QString& path) const {
+        const QString& output = request_.options.output;
+        return ContainerFor(request_.options.film, output.isEmpty() ? path : output);
+    }
+
+    NameFacts FactsOf(qsizetype film, qsizetype index, const FilmReader& reader) const {
+        const QStringList& films = request_.options.files;
+        const auto each = RecordsOfEach(request_.options);
+        return {static_cast<int>(film * each + index) + 1, static_cast<int>(films.size() * each),
+                DayOf(reader.Info(), films[film])};
+    }
+
+    // Of a film that another shard converts.
+    void TakeNames(qsizetype film) {
+        const QString& path = request_.options.files[film];
+        const std::unique_ptr<FilmReader> reader = NewFilmReader();
+        if (!reader->Open(path).isEmpty()) {
+            return;
+        }
+        Attempt([&] {
+            qsizetype index = 0;
+            for (const ImageRecord& record : Records(path, *reader).all) {
+                targets_.Take(path, TargetOf(path, record, FactsOf(film, index++, *reader)));
+            }
+        });
+    }
+
+    QString TargetOf(const QString& path, const ImageRecord& record, const NameFacts& facts) {
         if (!request_.options.output.isEmpty()) {
             return request_.options.output;
         }
@@ -171,24 +206,18 @@ class FilmsRun {
         called.FileName = QFileInfo(named).fileName();
         QString target = TargetFor(request_, named, called, facts);
         target.chop(ExtensionOf(TypeFor(request_)).size());
-        return target + u'.' + ToText(container);
+        return target + u'.' + ToText(ContainerOfResult(path));
     }
 
     void ConvertRecord(const QString& path, FilmReader& reader, const ImageRecord& record,
                        qsizetype index) {
-        const FilmOptions& film = request_.options.film;
-        const QString& output = request_.options.output;
-        const FilmContainer container = ContainerFor(film, output.isEmpty() ? path : output);
+        const FilmContainer container = ContainerOfResult(path);
         FileReport report = ReportOf(path, record);
         report.gearSource = ToText(start_.reading.source);
         report.uncertain = start_.reading.doubts.Names();
         report.notes = notes_;
-        const auto each = RecordsOfEach(request_.options);
-        const NameFacts facts{static_cast<int>(film_ * each + index) + 1,
-                              static_cast<int>(request_.options.files.size() * each),
-                              DayOf(reader.Info(), path)};
         const Reason named =
-            Attempt([&] { report.result = TargetOf(path, record, container, facts); });
+            Attempt([&] { report.result = TargetOf(path, record, FactsOf(film_, index, reader)); });
         if (!named.isEmpty()) {
             Fail(report, ErrorText(named));
             return;
@@ -201,7 +230,8 @@ class FilmsRun {
         } else if (const TargetRefusal refused = targets_.Check(path, report.result, false)) {
             Fail(report, RefusalText(request_.options, path, refused));
         } else {
-            Convert(reader, {report.result, record, EncodingFor(film, container)}, report);
+            Convert(reader, {report.result, record, EncodingFor(request_.options.film, container)},
+                    report);
         }
     }
 
@@ -227,6 +257,7 @@ class FilmsRun {
         report.size = outcome.size;
         report.frames = outcome.frames;
         report.bytes = QFileInfo(report.result).size();
+        report.sha256 = DigestFor(request_.options, report.result);
         report.depth = QString::number(reader.Info().format.bits);
         report.notes += outcome.notes;
         for (const QString& note : outcome.notes) {

@@ -102,6 +102,27 @@ void CheckStills(const Options& options) {
     }
 }
 
+// Of what makes one result of all photos, or none.
+void CheckShard(const Options& options) {
+    if (!options.shard) {
+        return;
+    }
+    const std::array others{
+        std::pair{u"output", !options.output.isEmpty()},
+        std::pair{u"film", !options.film.output.isEmpty()},
+        std::pair{u"stitch", options.command == Command::Stitch},
+        std::pair{u"measure-lens", options.command == Command::MeasureLens},
+    };
+    for (const auto& [name, given] : others) {
+        if (given) {
+            throw UsageError{
+                QStringLiteral("--shard shares many photos out and does not go with --%1; leave "
+                               "one of them out")
+                    .arg(OptionText(name))};
+        }
+    }
+}
+
 // Kinds of TIFF that have no levels.
 void CheckCompression(const Options& options) {
     const auto kind = options.compression.value_or(TiffCompression::Usual);
@@ -135,6 +156,7 @@ void CheckCommand(const Options& options) {
     CheckExporting(options);
     CheckStitching(options);
     CheckCompression(options);
+    CheckShard(options);
 }
 
 }  // namespace varnel

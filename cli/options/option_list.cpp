@@ -15,6 +15,8 @@ constexpr std::array photoRows{
     OptionRow{
         u"stitch", nullptr,
         u"Two opposite circles, in one photo or two, as one sphere; --input-aov: across each."},
+    OptionRow{u"files-from", u"LIST",
+              u"The photos that a file names, one a line or by zero bytes; - is standard input."},
     OptionRow{u"raw-jpeg", u"WHICH",
               u"Of photos given as raw file and as JPEG: raw, jpeg or both (default)."},
     OptionRow{u"raw-profile", u"NAME",
@@ -163,6 +165,8 @@ constexpr std::array runRows{
     OptionRow{u"skip-existing", nullptr,
               u"Do only what is missing: leave results that lie there alone."},
     OptionRow{u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."},
+    OptionRow{u"shard", u"K/N",
+              u"Every N-th photo from the K-th on: N such runs make what one makes of all."},
     OptionRow{u"quiet", nullptr, u"No progress and no names of written files."},
     OptionRow{u"json", nullptr,
               u"For scripts: one JSON object a line on standard output for each result."},

@@ -12,6 +12,7 @@
 #include "cli/options/option_checks.h"
 #include "cli/options/option_list.h"
 #include "cli/options/option_values.h"
+#include "cli/options/run_options.h"
 #include "pipeline/conversion/morph_sequence.h"
 #include "remap/image/image_library.h"
 #include "remap/projection/projection_info.h"
@@ -246,13 +247,7 @@ Options Take(const QCommandLineParser& parser) {
     options.planar = parser.isSet(QStringLiteral("planar"));
     options.noAutoOrient = parser.isSet(QStringLiteral("no-auto-orient"));
     options.noSettings = parser.isSet(QStringLiteral("no-settings"));
-    options.force = parser.isSet(QStringLiteral("force"));
-    options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
-    TakeIfSet(parser, u"jobs", options.jobs, [](const QString& text) {
-        return WholeBetween(QStringLiteral("jobs"), text, 1, 256);
-    });
-    options.quiet = parser.isSet(QStringLiteral("quiet"));
-    options.json = parser.isSet(QStringLiteral("json"));
+    TakeRun(parser, options);
     return options;
 }
 
@@ -360,6 +355,10 @@ void CheckTogether(const Options& options) {
 }
 
 }  // namespace
+
+bool IsInShard(const Options& options, qsizetype index) {
+    return !options.shard || index % options.shard->count == options.shard->number - 1;
+}
 
 bool HasOnlyLens(const Options& options) {
     return !options.lensFile.isEmpty() && options.gear.isEmpty() && !options.camera;

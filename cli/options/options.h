@@ -53,6 +53,12 @@ struct Adjustment {
 // The image circle on the photos: left to the gear, looked for, or given.
 enum class CircleUse { Off, Found, Given };
 
+// One of several runs that share the photos out.
+struct Shard {
+    int number = 1;  // from 1 to count
+    int count = 1;
+};
+
 // Names of --gear that stand for a gear of each photo's own.
 bool IsAutomatic(const QString& gear);
 inline constexpr QLatin1StringView autoGear("auto");
@@ -105,11 +111,15 @@ struct Options {
     bool noSettings = false;
     bool force = false;
     bool skipExisting = false;
-    std::optional<int> jobs;  // cores to use; none: all
+    std::optional<int> jobs;     // cores to use; none: all
+    std::optional<Shard> shard;  // of the photos, and of the films by themselves; none: all
     bool quiet = false;
     bool advises = true;  // errors name the options that help; off for a program without them
     bool json = false;    // what is reported of each result goes to out as JSON, all else to err
 };
+
+// Whether the shard has the file of that number, from 0 on, among the photos or the films.
+bool IsInShard(const Options& options, qsizetype index);
 
 // A lens from a file, and no gear for its camera.
 bool HasOnlyLens(const Options& options);

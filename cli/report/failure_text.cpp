@@ -83,4 +83,13 @@ QString FailureText(const Options& options, const QString& photo, const Conversi
     return reason;
 }
 
+QString HowToGoOn(const Options& options) {
+    return options.skipExisting ? QStringLiteral("the same command does the rest")
+           : options.force
+               ? QStringLiteral(
+                     "with --skip-existing instead of --force the same command does what is "
+                     "missing")
+               : QStringLiteral("with --skip-existing the same command does the rest");
+}
+
 }  // namespace varnel

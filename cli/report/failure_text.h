@@ -19,4 +19,7 @@ QString RefusalText(const Options& options, const QString& photo, const TargetRe
 QString FailureText(const Options& options, const QString& photo, const Conversion& conversion,
                     const ConversionOutcome& outcome);
 
+// What does the rest of a stopped run.
+QString HowToGoOn(const Options& options);
+
 }  // namespace varnel

@@ -47,6 +47,7 @@ QByteArray ToJson(const FileReport& report) {
         {u"height", written ? report.size.height : QJsonValue()},
         {u"depth", KnownText(report.depth)},
         {u"bytes", written ? report.bytes : QJsonValue()},
+        {u"sha256", KnownText(QString::fromLatin1(report.sha256))},
         {u"seconds", std::round(report.seconds * 1000.0) / 1000.0},
         {u"frames", report.frames >= 0 ? report.frames : QJsonValue()},
         {u"notes", QJsonArray::fromStringList(report.notes)},

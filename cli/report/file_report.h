@@ -25,6 +25,7 @@ struct FileReport {
     QStringList uncertain = {};  // what of them is not certain
     PixelSize size{};            // of the result, pixels; 0 x 0 when there is none
     qint64 bytes = -1;           // of the result; negative when there is none
+    QByteArray sha256 = {};      // of the result's file, hexadecimal; empty when it is not known
     QString depth = {};          // of the result: "8", "16" or "float"; empty when there is none
     double seconds = 0.0;        // by the clock
     qint64 frames = -1;          // of a film; negative for a picture

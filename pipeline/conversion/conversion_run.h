@@ -81,6 +81,7 @@ struct ConversionOutcome {
     TargetRefusal refusal;  // why the target was refused
     Reason note;            // what of the picture is not in the written file; empty when all is
     PixelSize size;         // of the written picture, pixels
+    QByteArray digest;      // of its file, where the ports make one
     SampleKind samples = SampleKind::Byte;  // of the written picture
     double seconds = 0.0;                   // by the clock, since it was begun
 };
@@ -115,6 +116,8 @@ struct ConversionPorts {
     // these are there, the rows of a run's only photo are drawn while others are decoded.
     std::function<LoadedPicture(const QString& path)> loadEarly{};
     std::function<LoadedPicture(const QString& path)> whole{};
+    // Of a written file, for its outcome; called where files are written.
+    std::function<QByteArray(const QString& path)> digest{};
     std::function<void()> allRead{};  // no photo is loaded after this
     // Those that converting and writing share with reading; null: as many as the machine has.
     ThreadRunner* cores = nullptr;

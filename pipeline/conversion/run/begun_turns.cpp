@@ -64,6 +64,9 @@ Turn BegunTurns::TakeFirst(RenderProgress& progress) {
     if (first.save) {
         const Reason error = Attempt([&] { saved = first.save->Take(); });
         saved = error.isEmpty() ? saved : SaveResult{false, error};
+        if (saved) {
+            NoteDigest(*first.turn.drawn, first.turn.what.target, how_.ports);
+        }
     }
     NoteSaved(first.turn, saved);
     return std::move(first.turn);

@@ -18,6 +18,7 @@ struct DrawnResult {
     BitmapHandle result;
     std::unique_ptr<DrawnRows> rows{};  // where the result is without pixels
     Reason error{};                     // of the rows
+    QByteArray digest{};                // of its file once that is written
 };
 
 // A planar picture's pixels in its bitmap.

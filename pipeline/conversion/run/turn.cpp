@@ -41,7 +41,14 @@ SaveResult SaveNow(DrawnResult& drawn, const QString& path, const Saving& how) {
         save();
     }
     const WriteResult lasts = how.plan.namesLastAtEnd ? WriteResult{true, {}} : how.series.Finish();
+    if (saved && lasts) {
+        NoteDigest(drawn, path, how.ports);
+    }
     return !saved || lasts ? saved : SaveResult{false, lasts.reason};
+}
+
+void NoteDigest(DrawnResult& drawn, const QString& path, const ConversionPorts& ports) {
+    drawn.digest = ports.digest ? ports.digest(path) : QByteArray();
 }
 
 void NoteSaved(Turn& turn, const SaveResult& saved) {
@@ -51,6 +58,7 @@ void NoteSaved(Turn& turn, const SaveResult& saved) {
     } else if (saved) {
         turn.outcome.note = saved.note;
         turn.outcome.samples = saved.samples;
+        turn.outcome.digest = turn.drawn->digest;
     } else {
         turn.outcome.end = ConversionEnd::NotSaved;
         turn.outcome.reason = saved.reason;

@@ -38,6 +38,9 @@ struct Saving {
 // Into that file, without metadata where none are to be in it.
 SaveResult SaveNow(DrawnResult& drawn, const QString& path, const Saving& how);
 
+// Of the file that was written, if the ports want one. Reads what is still in the system's memory.
+void NoteDigest(DrawnResult& drawn, const QString& path, const ConversionPorts& ports);
+
 // The outcome by what became of its file.
 void NoteSaved(Turn& turn, const SaveResult& saved);
 

@@ -24,7 +24,7 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
         "varnel-convert --projection HORIZON --camera Canon/EOS --lens A/B/C --effect 50 "
         "--rotate-x -5 --translate-y 1.5 --set RotateZ=2 --set Landscape=0 --preview 400x300 "
         "--antialiased --output-dir out --type png --quality 80 --chroma 444 --no-metadata --force "
-        "--no-auto-orient --keep-ending --jobs 3 --quiet a.jpg b.jpg");
+        "--no-auto-orient --keep-ending --jobs 3 --shard 2/5 --quiet a.jpg b.jpg");
     ASSERT_TRUE(std::holds_alternative<Options>(parsed)) << std::get<QString>(parsed).toStdString();
     const Options& options = std::get<Options>(parsed);
     EXPECT_EQ(options.projections, std::vector{Projection::Horizon});
@@ -45,6 +45,8 @@ TEST(ParseOptions, EveryOptionReachesItsPlace) {
                 options.noAutoOrient && options.keepEnding);
     EXPECT_EQ(options.files.size(), 2);
     EXPECT_EQ(options.jobs, 3);
+    EXPECT_FALSE(IsInShard(options, 0) || IsInShard(options, 5));
+    EXPECT_TRUE(IsInShard(options, 1) && IsInShard(options, 6));
 }
 
 TEST(ParseOptions, AllProjectionsAndDefaults) {
@@ -134,6 +136,15 @@ TEST(ParseOptions, AWrongLineIsToldInOneLineWithWhatHelps) {
         {"p --quality 101 a", "from 1 to 100"},
         {"p --quality 1.5 a", "from 1 to 100"},
         {"p --jobs 0 a", "from 1 to 256"},
+        {"p --shard 3 a", "--shard needs K/N"},
+        {"p --shard 0/4 a", "with K from 1 to N, not \"0/4\"; for example --shard 1/4"},
+        {"p --shard 5/4 a", "K from 1 to N"},
+        {"p --shard 1/4/4 a", "K from 1 to N"},
+        {"p --shard 1/x a", "K from 1 to N"},
+        {"p --shard 1/2 --shard 2/2 a", "--shard is there twice"},
+        {"p --shard 1/4 --output x a", "does not go with --output; leave one of them out"},
+        {"p --shard 1/4 --film x.mp4 a", "does not go with --film"},
+        {"p --shard 1/4 --stitch a", "does not go with --stitch"},
         {"p --force --skip-existing a", "exclude each other; give one"},
         {"p --chroma 422 a", "--chroma needs 444 or 420"},
         {"p --chroma 4:4:4 a", "--chroma needs 444 or 420"},

@@ -40,7 +40,7 @@ class Json : public ::testing::Test {
                 QJsonParseError error;
                 objects.append(QJsonDocument::fromJson(line, &error).object());
                 EXPECT_EQ(error.error, QJsonParseError::NoError) << line.toStdString();
-                EXPECT_EQ(objects.last().size(), 15) << line.toStdString();
+                EXPECT_EQ(objects.last().size(), 16) << line.toStdString();
             }
         }
         return objects;

@@ -8,6 +8,9 @@ test_packages=("${build_packages[@]}" ffmpeg qt6-translations-l10n libgtest-dev 
 # What looks at the sources and builds them in other ways, for .ci/run and .ci/nightly.
 ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags)
 
+# What .ci/nightly runs the programs with: clusters.
+nightly_packages=(slurmctld slurmd slurm-client munge snakemake)
+
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }
 

@@ -30,6 +30,15 @@ class Recipes : public ::testing::Test {
     }
     int Run(const QString& recipe, const QList<std::pair<const char*, const char*>>& variables,
             const QString& folder, const QStringList& more = {}) {
+        return RunProgram(
+            Text(VARNEL_RECIPES "/") + recipe, variables,
+            QStringList{files_.Path(Text("photos.txt")), files_.Path(folder), Text("--camera"),
+                        Text("Canon/EOS 5D"), Text("--lens"), Text("Sigma/EX 8 mm f:3.5")} +
+                more);
+    }
+    int RunProgram(const QString& program,
+                   const QList<std::pair<const char*, const char*>>& variables,
+                   const QStringList& arguments) {
         QProcess job;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(Text("PATH"),
@@ -41,11 +50,7 @@ class Recipes : public ::testing::Test {
         }
         job.setProcessEnvironment(environment);
         job.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        job.start(
-            Text(VARNEL_RECIPES "/") + recipe,
-            QStringList{files_.Path(Text("photos.txt")), files_.Path(folder), Text("--camera"),
-                        Text("Canon/EOS 5D"), Text("--lens"), Text("Sigma/EX 8 mm f:3.5")} +
-                more);
+        job.start(program, arguments);
         job.waitForFinished(120'000);
         return job.exitCode();
     }
@@ -81,6 +86,37 @@ TEST_F(Recipes, ParallelJobsMakeTheSame) {
     }
     EXPECT_EQ(Run(Text("parallel-job"), {}, Text("parallel")), 0);
     EXPECT_TRUE(Outputs(Text("parallel")) == expected_);
+}
+
+TEST_F(Recipes, SnakemakeKeepsAManifestAndDoesNothingTwice) {
+    const QString snakemake = QStandardPaths::findExecutable(Text("snakemake"));
+    if (snakemake.isEmpty()) {
+        GTEST_SKIP() << "Snakemake is not installed";
+    }
+    const auto make = [&](const QStringList& more) {
+        const QStringList arguments{Text("--quiet"),     Text("all"),
+                                    Text("--snakefile"), Text(VARNEL_RECIPES "/Snakefile"),
+                                    Text("--directory"), files_.Path({}),
+                                    Text("--cores"),     Text("2")};
+        const QStringList config{
+            Text("--config"), Text("photos=photos.txt"), Text("out=made"),
+            Text("options=--camera 'Canon/EOS 5D' --lens 'Sigma/EX 8 mm f:3.5'")};
+        return RunProgram(snakemake, {}, arguments + more + config);
+    };
+    EXPECT_EQ(make({}), 0);
+    const QString manifest = files_.Path(Text("made/manifest.jsonl"));
+    EXPECT_EQ(testing::Contents(manifest).count("\"status\":\"converted\""), 23);
+    std::map<QString, QByteArray> made = Outputs(Text("made"));
+    EXPECT_EQ(made.erase(Text("manifest.jsonl")), 1U);
+    EXPECT_TRUE(made == expected_);
+    EXPECT_EQ(make({Text("check")}), 0);
+    // One share is lost: the other one's results stay as they lie there.
+    QFile::remove(files_.Path(Text("made/shares/2-2.jsonl")));
+    const QString kept = files_.Path(Text("made/photo 0.Varnel.TIF"));
+    testing::WriteFile(kept, "changed");
+    EXPECT_EQ(make({}), 0);
+    EXPECT_EQ(testing::Contents(kept), "changed");
+    EXPECT_NE(make({Text("check")}), 0) << "that is not what was written";
 }
 
 TEST_F(Recipes, OfPhotosThatWouldHaveOneResultTheFirstHasIt) {

@@ -9,10 +9,10 @@
 
 #include "base/error_reason.h"
 #include "base/error_text.h"
-#include "cli/existing_results.h"
 #include "cli/films/films.h"
+#include "cli/names/existing_results.h"
+#include "cli/names/other_shards.h"
 #include "cli/options/advice.h"
-#include "cli/other_shards.h"
 #include "cli/report/failure_text.h"
 #include "cli/report/file_digest.h"
 #include "cli/report/run_reports.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/existing_results.h"
+#include "cli/names/existing_results.h"
 
 #include <QFileInfo>
 #include <algorithm>

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "cli/other_shards.h"
+#include "cli/names/other_shards.h"
 
 #include <QFileInfo>
 #include <algorithm>
 
-#include "cli/existing_results.h"
+#include "cli/names/existing_results.h"
 
 namespace varnel {
 

@@ -19,26 +19,13 @@
 #include "cli/report/failure_text.h"
 #include "cli/report/file_digest.h"
 #include "cli/report/run_reports.h"
+#include "cli/signal_wait.h"
 #include "pipeline/conversion/conversion_run.h"
 #include "remap/image/photo_date.h"
 
 namespace varnel {
 
 namespace {
-
-// While a photo is read the time left is counted down, and a signal gives the photo up.
-class SignalWait : public ReadingWait {
-  public:
-    SignalWait(TerminalBar& bar, const Console& console) : bar_(bar), console_(console) {}
-    bool Continue() override {
-        bar_.Refresh();
-        return console_.StopSignal() == 0;
-    }
-
-  private:
-    TerminalBar& bar_;
-    const Console& console_;
-};
 
 // The run of one command, as the console shows it; Go returns the exit code.
 class CommandRun : public ConversionObserver {

@@ -83,7 +83,7 @@ void PiecedPicture::TakePixels(const std::byte* piece, int lowest, int count) {
                     layout_.pitch * static_cast<std::size_t>(count));
     } else {
         TurnRows(layout_.stored, {lowest, count}, {const_cast<std::byte*>(piece), layout_.pitch},
-                 first_.orientation, {rows, bitmap_.Pitch()});
+                 first_.orientation, {rows, RowPitch(bitmap_.Size().width, bitmap_.Format())});
     }
 }
 

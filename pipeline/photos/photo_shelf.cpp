@@ -24,7 +24,7 @@ constexpr std::ptrdiff_t mostKept = 4;  // the photo that was left, the neighbou
 
 std::uint64_t BytesOf(const LoadedPicture& picture) {
     const PixelSize size = picture.bitmap->Size();
-    return picture.bitmap->Pitch() * static_cast<std::uint64_t>(size.height);
+    return static_cast<std::uint64_t>(picture.bitmap->Pitch() * size.height);
 }
 
 }  // namespace

@@ -22,12 +22,18 @@ class Bitmap {
     // Rows RowPitch apart, the bottom one first. The pixels are let go with the last bitmap of
     // theirs.
     Bitmap(PixelFormat format, PixelSize size, std::shared_ptr<std::byte> pixels)
-        : format_(format), size_(size), pixels_(std::move(pixels)) {}
+        : Bitmap(format, size, std::move(pixels),
+                 static_cast<std::ptrdiff_t>(RowPitch(size.width, format))) {}
+    // Rows that lie otherwise, as others have them: pixels is the bottom one, and so many bytes
+    // after it, or with a negative number before it, is the one above.
+    Bitmap(PixelFormat format, PixelSize size, std::shared_ptr<std::byte> pixels,
+           std::ptrdiff_t pitch)
+        : format_(format), size_(size), pixels_(std::move(pixels)), pitch_(pitch) {}
 
     PixelFormat Format() const { return format_; }
     PixelSize Size() const { return size_; }
-    // Bytes from row to row.
-    std::size_t Pitch() const { return RowPitch(size_.width, format_); }
+    // Bytes from row to row: RowPitch, unless the rows are another's.
+    std::ptrdiff_t Pitch() const { return pitch_; }
     // The first byte of the bottom row.
     std::uint8_t* Bits() { return reinterpret_cast<std::uint8_t*>(pixels_.get()); }
     const std::uint8_t* Bits() const {
@@ -41,7 +47,7 @@ class Bitmap {
     BitmapMetadata metadata;
 
   private:
-    std::size_t Offset(int y) const { return static_cast<std::size_t>(y) * Pitch(); }
+    std::ptrdiff_t Offset(int y) const { return std::ptrdiff_t{y} * pitch_; }
     std::size_t RowBytes() const {
         return static_cast<std::size_t>(size_.width) * BytesPerPixel(format_);
     }
@@ -49,6 +55,7 @@ class Bitmap {
     PixelFormat format_;
     PixelSize size_;
     std::shared_ptr<std::byte> pixels_;
+    std::ptrdiff_t pitch_;
 };
 
 using BitmapHandle = std::unique_ptr<Bitmap>;

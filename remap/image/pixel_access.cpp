@@ -4,6 +4,7 @@
 #include "remap/image/pixel_access.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "remap/image/levels/byte_coding.h"
@@ -12,46 +13,46 @@ namespace varnel {
 
 namespace {
 
-// Where the pixel is in the bytes of the bitmap; none outside.
-std::ptrdiff_t PlaceOf(const Bitmap& bitmap, std::int32_t x, std::int32_t y) {
+// Where the pixel is, from the bitmap's first byte; nothing outside.
+std::optional<std::ptrdiff_t> PlaceOf(const Bitmap& bitmap, std::int32_t x, std::int32_t y) {
     const auto [width, height] = bitmap.Size();
-    const bool inside = x >= 0 && x < width && y >= 0 && y < height;
-    return inside ? y * static_cast<std::ptrdiff_t>(bitmap.Pitch()) + x * PixelStep(bitmap.Format())
-                  : -1;
+    if (x < 0 || x >= width || y < 0 || y >= height) {
+        return std::nullopt;
+    }
+    return y * bitmap.Pitch() + x * PixelStep(bitmap.Format());
 }
 
 }  // namespace
 
 PixelLevels GetLevels(const Bitmap* bitmap, std::int32_t x, std::int32_t y) {
-    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
-    return place < 0 ? noLight : LevelsAt(bitmap->Bits() + place, bitmap->Format());
+    const auto place = PlaceOf(*bitmap, x, y);
+    return place ? LevelsAt(bitmap->Bits() + *place, bitmap->Format()) : noLight;
 }
 
 void SetLevels(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelLevels& levels,
                std::optional<Channel> only) {
-    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
-    if (place >= 0) {
-        PutLevels(bitmap->Bits() + place, levels, bitmap->Format(), only);
+    if (const auto place = PlaceOf(*bitmap, x, y)) {
+        PutLevels(bitmap->Bits() + *place, levels, bitmap->Format(), only);
     }
 }
 
 bool GetPixelColor(const Bitmap* bitmap, std::int32_t x, std::int32_t y, PixelColor& colour) {
-    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
-    if (place < 0) {
+    const auto place = PlaceOf(*bitmap, x, y);
+    if (!place) {
         return false;
     }
     const std::uint8_t reserved = colour.reserved;
-    colour = ColourAt(bitmap->Bits() + place, bitmap->Format());
+    colour = ColourAt(bitmap->Bits() + *place, bitmap->Format());
     colour.reserved = reserved;
     return true;
 }
 
 bool SetPixelColor(Bitmap* bitmap, std::int32_t x, std::int32_t y, const PixelColor& colour) {
-    const std::ptrdiff_t place = PlaceOf(*bitmap, x, y);
-    if (place < 0) {
+    const auto place = PlaceOf(*bitmap, x, y);
+    if (!place) {
         return false;
     }
-    PutColour(bitmap->Bits() + place, colour, bitmap->Format());
+    PutColour(bitmap->Bits() + *place, colour, bitmap->Format());
     return true;
 }
 

@@ -71,7 +71,7 @@ void DecodeDirectly(benchmark::State& state) {
     const BitmapHandle bitmap = NewBitmap(pictureSize);
     for (auto _ : state) {
         if (!ReadJpegPixels(file.get(), pictureSize,
-                            {bitmap->SharedPixels().get(), bitmap->Pitch()})) {
+                            {bitmap->SharedPixels().get(), RowPitch(pictureSize.width)})) {
             state.SkipWithError("not decoded");
         }
     }

@@ -12,7 +12,8 @@
 namespace varnel {
 
 inline PixelRows RowsOf(Bitmap& bitmap) {
-    return {reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(), bitmap.Format()};
+    return {reinterpret_cast<std::byte*>(bitmap.Bits()), static_cast<std::size_t>(bitmap.Pitch()),
+            bitmap.Format()};
 }
 
 // The metadata of a picture for the same turned by the orientation.

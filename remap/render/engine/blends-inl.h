@@ -34,11 +34,10 @@ struct ByteBlend {
     // The target's pixels from the n-th on.
     static HWY_INLINE void StoreInside(const SourceView source, const Coordinate& x,
                                        const Coordinate& y, const SpanTarget& target, int n) {
-        HWY_ALIGN std::array<std::uint32_t, lanesAtMost> offsets;
+        HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> below;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> above;
-        hn::Store(hn::BitCast(Words(), Offsets<3>(x.whole, y.whole, source.pitch)), Words(),
-                  offsets.data());
+        hn::Store(Offsets<3>(x.whole, y.whole, source.pitch), Ints(), offsets.data());
         const std::uint8_t* const rowAbove = source.bits + source.pitch;
         const std::size_t lanes = hn::Lanes(Floats());
         for (std::size_t lane = 0; lane < lanes; ++lane) {
@@ -63,10 +62,9 @@ struct ByteBlend {
 
     static HWY_INLINE void StoreBetween(const SourceView source, const Coordinate& x, VecI row,
                                         const SpanTarget& target, std::ptrdiff_t n) {
-        HWY_ALIGN std::array<std::uint32_t, lanesAtMost> offsets;
+        HWY_ALIGN std::array<std::int32_t, lanesAtMost> offsets;
         HWY_ALIGN std::array<std::uint64_t, lanesAtMost> pairs;
-        hn::Store(hn::BitCast(Words(), Offsets<3>(x.whole, row, source.pitch)), Words(),
-                  offsets.data());
+        hn::Store(Offsets<3>(x.whole, row, source.pitch), Ints(), offsets.data());
         const std::size_t lanes = hn::Lanes(Floats());
         for (std::size_t lane = 0; lane < lanes; ++lane) {
             std::memcpy(&pairs[lane], source.bits + offsets[lane], 8);

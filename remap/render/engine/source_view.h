@@ -28,9 +28,8 @@ struct SourceView {
     static SourceView Of(const RenderSurface& surface) {
         const Bitmap* const bitmap = surface.Source();
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(),       static_cast<std::ptrdiff_t>(bitmap->Pitch()),
-                size.width,           size.height,
-                bitmap->Format(),     surface.Rows().arriving,
+        return {bitmap->Bits(),       bitmap->Pitch(),  size.width,
+                size.height,          bitmap->Format(), surface.Rows().arriving,
                 surface.Rows().planar};
     }
     // Before rows from this one on are read.
@@ -96,9 +95,8 @@ struct TargetView {
 
     static TargetView Of(Bitmap* bitmap, std::optional<Channel> only = {}) {
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(),   static_cast<std::ptrdiff_t>(bitmap->Pitch()),
-                size.width,       size.height,
-                bitmap->Format(), only};
+        return {bitmap->Bits(), bitmap->Pitch(),  size.width,
+                size.height,    bitmap->Format(), only};
     }
     std::uint8_t* At(std::int32_t x, std::int32_t y) const {
         return bits + y * pitch + x * PixelStep(format);

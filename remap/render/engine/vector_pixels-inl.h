@@ -16,6 +16,7 @@
 #include <hwy/highway.h>
 
 #include <array>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 
@@ -214,7 +215,8 @@ inline bool TakesVectors(const SourceView& source) {
     }
     const std::ptrdiff_t sampleBytes = BitsPerSample(source.format) / 8;
     return (HWY_TARGET != HWY_SCALAR || source.format == PixelFormat::Bgr8) &&
-           source.pitch / sampleBytes * source.height <= std::numeric_limits<std::int32_t>::max();
+           std::abs(source.pitch) / sampleBytes * source.height <=
+               std::numeric_limits<std::int32_t>::max();
 }
 
 }  // namespace HWY_NAMESPACE

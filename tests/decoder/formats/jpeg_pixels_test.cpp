@@ -67,7 +67,7 @@ std::optional<Photo> Directly(QByteArray bytes) {
     const ImageLibraryMessages said;
     Photo photo{NewBitmap(*size), {}, {}};
     std::optional<BitmapMetadata> metadata = ReadJpegPixels(
-        file.get(), *size, {photo.bitmap->SharedPixels().get(), photo.bitmap->Pitch()});
+        file.get(), *size, {photo.bitmap->SharedPixels().get(), RowPitch(size->width)});
     if (!metadata) {
         EXPECT_TRUE(said.Lines().isEmpty());
         return std::nullopt;

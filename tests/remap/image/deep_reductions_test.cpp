@@ -84,8 +84,8 @@ TEST(DeepReductions, PixelsOfAllSizesAreTurned) {
         for (int orientation = 1; orientation <= 8; ++orientation) {
             const BitmapHandle turned = NewBitmap(Turned(size, orientation), format);
             const auto rows = [format](Bitmap& bitmap) {
-                return PixelRows{reinterpret_cast<std::byte*>(bitmap.Bits()), bitmap.Pitch(),
-                                 format};
+                return PixelRows{reinterpret_cast<std::byte*>(bitmap.Bits()),
+                                 static_cast<std::size_t>(bitmap.Pitch()), format};
             };
             TurnRows(size, {0, size.height}, rows(*photo), orientation, rows(*turned));
             const bool left =

@@ -7,6 +7,7 @@
 #include <numbers>
 #include <span>
 
+#include "base/error_text.h"
 #include "decoder/process/picture_reader.h"
 #include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
@@ -78,10 +79,11 @@ std::unique_ptr<varnel_lens> NewLens(const GearNames& names, const LensReference
     lens->curve = curve;
     const QString model =
         curve ? curve->name : QStringLiteral("%1 %2").arg(names.lensBrand, names.lensModel);
-    lens->name = (names.cameraModel.isEmpty()
-                      ? model
-                      : QStringLiteral("%1 %2 + %3").arg(names.cameraBrand, names.cameraModel, model))
-                     .toStdString();
+    lens->name =
+        (names.cameraModel.isEmpty()
+             ? model
+             : QStringLiteral("%1 %2 + %3").arg(names.cameraBrand, names.cameraModel, model))
+            .toStdString();
     return lens;
 }
 
@@ -95,9 +97,8 @@ varnel_status varnel_lens_from_catalogue(const char* lens, const char* camera, v
         varnel::GearNames names = varnel::CameraNamed(camera);
         const auto [brand, model] = varnel::Split(text);
         if (!varnel::FindLens(brand, model)) {
-            throw varnel::CallError(
-                VARNEL_NOT_FOUND,
-                QStringLiteral("the catalogue has no lens \"%1\"").arg(text));
+            throw varnel::CallError(VARNEL_NOT_FOUND,
+                                    QStringLiteral("the catalogue has no lens \"%1\"").arg(text));
         }
         names.lensBrand = brand;
         names.lensModel = model;
@@ -138,10 +139,10 @@ varnel_status varnel_lens_from_curve(const double* degrees, const double* radii,
                                      varnel_lens** out, varnel_error** error) {
     return varnel::Guarded(error, [&] {
         varnel_lens*& place = varnel::Place(out, "out");
-        place = varnel::NewLens({}, varnel::LensFromCurve(
-                                        {varnel::Given(degrees, "degrees"), count},
-                                        {varnel::Given(radii, "radii"), count}))
-                    .release();
+        place =
+            varnel::NewLens({}, varnel::LensFromCurve({varnel::Given(degrees, "degrees"), count},
+                                                      {varnel::Given(radii, "radii"), count}))
+                .release();
     });
 }
 
@@ -152,7 +153,8 @@ varnel_status varnel_lens_of_photo(const char* path, varnel_lens** out, varnel_e
         const auto reader = varnel::NewPictureReader();
         const varnel::PhotoFacts facts = varnel::PhotoLoader(*reader).Facts(file);
         if (!facts.error.isEmpty()) {
-            throw varnel::CallError(VARNEL_NOT_READ, facts.error);
+            throw varnel::CallError(VARNEL_NOT_READ, QStringLiteral("%1: %2").arg(
+                                                         file, varnel::ErrorText(facts.error)));
         }
         const varnel::PhotoGear gear =
             varnel::GearOfPhoto(facts.metadata.origin, varnel::GearTable());

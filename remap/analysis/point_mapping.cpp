@@ -14,8 +14,9 @@ namespace {
 
 constexpr double farthest = 1e6;  // pixels from the result that still have a position
 
-// All lines of a result are moved by the same; a line in the middle tells by how much.
-std::optional<double> MoveOf(const std::vector<ResultLine>& lines) {
+// All lines of a result are moved by the same, or are so counted from the other side, as those of
+// the horizon are; two lines in the middle tell.
+std::optional<PointMapping::Lines> LinesOf(const std::vector<ResultLine>& lines) {
     const auto shown = [](const ResultLine& line) { return line.kind == ResultLine::Kind::Shown; };
     const auto middle = lines.begin() + static_cast<std::ptrdiff_t>(lines.size() / 2);
     auto line = std::find_if(middle, lines.end(), shown);
@@ -25,7 +26,10 @@ std::optional<double> MoveOf(const std::vector<ResultLine>& lines) {
             return std::nullopt;
         }
     }
-    return line->position - static_cast<double>(line - lines.begin());
+    const auto next = std::find_if(line + 1, lines.end(), shown);
+    const double step = next != lines.end() && next->position < line->position ? -1.0 : 1.0;
+    return PointMapping::Lines{line->position - step * static_cast<double>(line - lines.begin()),
+                               step};
 }
 
 double Between(double low, double high, double share) {
@@ -41,19 +45,18 @@ PointMapping::PointMapping(Projection projection, const ImageRecord& image, Pixe
     axis_ = {centre_.x + frames.source.fraction.x, centre_.y + frames.source.fraction.y};
     map_ = InfoOf(projection).Make(image, frames);
     const ResultLines lines = map_->Lines();
-    acrossMove_ = MoveOf(lines.columns);
-    upMove_ = MoveOf(lines.rows);
+    across_ = LinesOf(lines.columns);
+    up_ = LinesOf(lines.rows);
 }
 
 // The map is smooth: between four whole positions a straight line differs from it by less than a
 // thousandth of a pixel.
 std::optional<SourcePosition> PointMapping::At(const SourcePosition& point) const {
-    if (!acrossMove_ || !upMove_ ||
-        !(std::max(std::fabs(point.x), std::fabs(point.y)) < farthest)) {
+    if (!across_ || !up_ || !(std::max(std::fabs(point.x), std::fabs(point.y)) < farthest)) {
         return std::nullopt;
     }
-    const double x = point.x + *acrossMove_;
-    const double y = point.y + *upMove_;
+    const double x = across_->first + across_->step * point.x;
+    const double y = up_->first + up_->step * point.y;
     const int left = static_cast<int>(std::floor(x));
     const int low = static_cast<int>(std::floor(y));
     const double right = x - left;

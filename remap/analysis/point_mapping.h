@@ -21,12 +21,17 @@ class PointMapping {
     // The optical axis, around which a roll of the camera turns positions.
     const SourcePosition& Axis() const { return axis_; }
 
+    // From columns or rows to the map's own positions.
+    struct Lines {
+        double first = 0.0;  // of line 0
+        double step = 1.0;   // 1 or -1
+    };
+
   private:
     SourcePosition centre_;
     SourcePosition axis_;
     std::unique_ptr<ProjectionMap> map_;
-    // From columns and rows to the map's own positions; nothing when none of them shows anything.
-    std::optional<double> acrossMove_, upMove_;
+    std::optional<Lines> across_, up_;  // nothing when none of them shows anything
 };
 
 }  // namespace varnel

@@ -6,7 +6,7 @@ test_packages=("${build_packages[@]}" ffmpeg qt6-translations-l10n libgtest-dev 
   "${pack_packages[@]}" desktop-file-utils appstream mandoc bash-completion lintian)
 
 # What looks at the sources and builds them in other ways, for .ci/run and .ci/nightly.
-ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags)
+ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags abigail-tools)
 
 # What .ci/nightly runs the programs with: clusters.
 nightly_packages=(slurmctld slurmd slurm-client munge snakemake)

@@ -4,7 +4,7 @@
 #include "library/caller_image.h"
 
 #include <array>
-#include <cstdlib>
+#include <limits>
 #include <utility>
 
 #include "library/guard.h"
@@ -92,9 +92,13 @@ void Check(const varnel_image* image, const char* name) {
     }
     const std::size_t sample = SampleBytes(image->sample);
     const std::size_t least = static_cast<std::size_t>(image->width) * image->channels * sample;
-    const auto row = static_cast<std::size_t>(std::abs(image->row_bytes));
-    if (row % sample != 0 || (row < least && image->height > 1)) {
-        Refuse(name, QStringLiteral("its row_bytes are too few, or no multiple of a sample"));
+    const auto given = static_cast<std::size_t>(image->row_bytes);
+    const std::size_t row = image->row_bytes < 0 ? std::size_t{0} - given : given;
+    const auto most = static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max()) /
+                      static_cast<std::size_t>(image->height);
+    if (row % sample != 0 || (row < least && image->height > 1) || row > most) {
+        Refuse(name,
+               QStringLiteral("its row_bytes are too few, too many or no multiple of a sample"));
     }
     if (reinterpret_cast<std::uintptr_t>(image->pixels) % sample != 0) {
         Refuse(name, QStringLiteral("its pixels are not aligned for their samples"));

@@ -127,8 +127,7 @@ VARNEL_API varnel_status varnel_list_lenses_of_file(const char* path, varnel_nam
                                                     varnel_error** error);
 /* A curve: angles from the axis in degrees, rising from 0 up to 180, and radii, rising from 0, in any
  * unit: the last one is the radius of the image circle, see varnel_lens_set_circle(). At least two
- * pairs; a monotone cubic goes through up to sixteen of them, through more as near as sixteen knots
- * can. */
+ * pairs; a monotone cubic goes through them, of which the lens keeps sixteen knots. */
 VARNEL_API varnel_status varnel_lens_from_curve(const double* degrees, const double* radii,
                                                 size_t count, varnel_lens** out,
                                                 varnel_error** error);

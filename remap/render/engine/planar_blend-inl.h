@@ -152,8 +152,9 @@ class PlanarPixels {
     }
 
     hn::Mask<Words> evenX_;
-    ColourSamples upper_;
-    ColourSamples lower_;
+    // Set here, as a constructor that the compiler makes for it knows no instruction set.
+    ColourSamples upper_{hn::Zero(Words()), hn::Zero(Words()), hn::Zero(Words())};
+    ColourSamples lower_{hn::Zero(Words()), hn::Zero(Words()), hn::Zero(Words())};
     VecW brightness_[2];
 };
 

@@ -82,10 +82,10 @@ struct Pair {
 };
 
 inline Pair LoadPairs(const std::uint64_t* pairs) {
-    Pair pair;
-    hn::LoadInterleaved2(Words(), reinterpret_cast<const std::uint32_t*>(pairs), pair.low,
-                         pair.high);
-    return pair;
+    VecW low;
+    VecW high;
+    hn::LoadInterleaved2(Words(), reinterpret_cast<const std::uint32_t*>(pairs), low, high);
+    return {low, high};
 }
 
 template <int kShift>

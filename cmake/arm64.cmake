@@ -1,0 +1,15 @@
+# Builds for arm64 on another machine, against the folder that .ci/arm64-sysroot makes; what is built runs under
+# qemu's user emulation. Qt's own programs (moc, lrelease) are this machine's.
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(VARNEL_ARM64_ROOT ${CMAKE_CURRENT_LIST_DIR}/../build/arm64-sysroot/root CACHE PATH "Debian's libraries of arm64")
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES VARNEL_ARM64_ROOT)
+get_filename_component(CMAKE_SYSROOT ${VARNEL_ARM64_ROOT} ABSOLUTE)
+set(CMAKE_LIBRARY_ARCHITECTURE aarch64-linux-gnu)
+set(CMAKE_CXX_COMPILER aarch64-linux-gnu-g++)
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64 -L ${CMAKE_SYSROOT})
+set(QT_HOST_PATH /usr CACHE PATH "Where this machine's Qt is")
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)

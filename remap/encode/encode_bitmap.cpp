@@ -135,6 +135,12 @@ bool IsToBeLinear(OutputType type, const Bitmap& bitmap) {
 EncodedBitmap EncodedIn(SampleKind samples, const OutputEncoding& encoding, const Bitmap& bitmap,
                         const EncodeOptions& options) {
     try {
+        if (options.rows != nullptr) {
+            RowsInSamples rows(*options.rows, bitmap, samples);
+            EncodeOptions others = options;
+            others.rows = &rows;
+            return EncodedAsItIs(encoding, *rows.WithoutPixels(), others);
+        }
         SerialRunner serial;
         BlockRunner& runner = options.runner != nullptr ? *options.runner : serial;
         BitmapHandle other = InSamples(bitmap, samples, runner);
@@ -173,10 +179,8 @@ bool IsWorthPieces(PixelSize size) {
 }
 
 bool IsEncodedByRows(const OutputEncoding& encoding, PixelFormat format, PixelSize size) {
-    const SampleKind own = SampleKindOf(format);
     const OutputFormat& type = FormatOf(encoding.type);
-    return type.takesRows && SamplesIn(encoding.type, SamplesFor(encoding.depth, own)) == own &&
-           (type.holds.alpha || !HasAlpha(format)) && IsWorthPieces(size);
+    return type.takesRows && (type.holds.alpha || !HasAlpha(format)) && IsWorthPieces(size);
 }
 
 }  // namespace varnel

@@ -28,7 +28,7 @@ struct OutputFormat {
     OutputAbilities holds;
     bool takesQuality;
     bool takesChroma;  // may have colour at full resolution, or not
-    bool takesRows;    // is coded from rows that come and go, as they are
+    bool takesRows;    // is coded from rows that come and go
     // Of a file to be expected. Measured with converted photos of foliage, which need two to four
     // times what indoor ones do. Of such samples, which the type can hold.
     double (*bytesPerPixel)(const OutputEncoding&, SampleKind);

@@ -31,11 +31,13 @@ Whole Rounded(float sample) {
     return static_cast<Whole>(above);
 }
 
+}  // namespace
+
 // A sample of one kind as one of another.
-class Conversion {
+class SampleConversion {
   public:
     // linear: floating-point samples are linear light.
-    Conversion(SampleKind from, SampleKind to, bool linear) : linear_(linear) {
+    SampleConversion(SampleKind from, SampleKind to, bool linear) : linear_(linear) {
         if (linear && to == SampleKind::Float && from != to) {
             table_.resize(std::size_t{1} << BitsPerSample(from));
             const auto top = static_cast<float>(table_.size() - 1);
@@ -68,8 +70,10 @@ class Conversion {
     std::vector<float> table_;  // of all samples there are
 };
 
+namespace {
+
 template <class From, class To>
-void ConvertRow(const Conversion& conversion, const Bitmap& from, Bitmap& to, int y) {
+void ConvertRow(const SampleConversion& conversion, const Bitmap& from, Bitmap& to, int y) {
     const std::size_t samples = HasAlpha(from.Format()) ? 4 : 3;
     const std::uint8_t* in = from.ScanLine(y).data();
     std::uint8_t* out = to.ScanLine(y).data();
@@ -82,26 +86,68 @@ void ConvertRow(const Conversion& conversion, const Bitmap& from, Bitmap& to, in
     }
 }
 
+void ConvertRows(const SampleConversion& conversion, const Bitmap& from, Bitmap& to,
+                 LineRange rows) {
+    for (int y = rows.first; y <= rows.last; ++y) {
+        WithSample(SampleKindOf(from.Format()), [&](auto in) {
+            WithSample(SampleKindOf(to.Format()), [&](auto out) {
+                ConvertRow<decltype(in), decltype(out)>(conversion, from, to, y);
+            });
+        });
+    }
+}
+
+SampleConversion ConversionOf(const Bitmap& bitmap, SampleKind samples) {
+    return {SampleKindOf(bitmap.Format()), samples,
+            AreLight(SampleKind::Float, bitmap.metadata.colourProfile)};
+}
+
+PixelFormat FormatIn(SampleKind samples, const Bitmap& bitmap) {
+    return PixelFormatOf(samples, HasAlpha(bitmap.Format()));
+}
+
 }  // namespace
 
 BitmapHandle InSamples(const Bitmap& bitmap, SampleKind samples, BlockRunner& runner) {
     const PixelSize size = bitmap.Size();
-    const SampleKind own = SampleKindOf(bitmap.Format());
-    BitmapHandle copy = NewBitmap(size, PixelFormatOf(samples, HasAlpha(bitmap.Format())));
+    BitmapHandle copy = NewBitmap(size, FormatIn(samples, bitmap));
     copy->metadata = bitmap.metadata;
-    const Conversion conversion(own, samples,
-                                AreLight(SampleKind::Float, bitmap.metadata.colourProfile));
+    const SampleConversion conversion = ConversionOf(bitmap, samples);
     runner.Run((size.height + rowsPerBlock - 1) / rowsPerBlock, [&](int block) {
         const int first = block * rowsPerBlock;
-        for (int y = first; y < std::min(first + rowsPerBlock, size.height); ++y) {
-            WithSample(own, [&](auto from) {
-                WithSample(samples, [&](auto to) {
-                    ConvertRow<decltype(from), decltype(to)>(conversion, bitmap, *copy, y);
-                });
-            });
-        }
+        ConvertRows(conversion, bitmap, *copy,
+                    {first, std::min(first + rowsPerBlock, size.height) - 1});
     });
     return copy;
+}
+
+RowsInSamples::RowsInSamples(RowSource& rows, const Bitmap& picture, SampleKind samples)
+    : rows_(rows),
+      picture_(picture),
+      samples_(samples),
+      conversion_(std::make_unique<SampleConversion>(ConversionOf(picture, samples))) {}
+
+RowsInSamples::~RowsInSamples() = default;
+
+BitmapHandle RowsInSamples::WithoutPixels() const {
+    auto picture = std::make_unique<Bitmap>(FormatIn(samples_, picture_), picture_.Size(), nullptr);
+    picture->metadata = picture_.metadata;
+    return picture;
+}
+
+void RowsInSamples::WithRows(LineRange rows, const std::function<void(const Bitmap&)>& use) const {
+    const PixelFormat format = FormatIn(samples_, picture_);
+    const std::size_t pitch = RowPitch(picture_.Size().width, format);
+    rows_.WithRows(rows, [&](const Bitmap& from) {
+        std::vector<std::byte> memory(pitch * static_cast<std::size_t>(rows.Count()));
+        // The bitmap begins before its only memory: all that reads it goes by rows.
+        std::byte* const bottom =
+            memory.data() - static_cast<std::ptrdiff_t>(pitch) * std::ptrdiff_t{rows.first};
+        const BitmapHandle band = BitmapOver(bottom, picture_.Size(), format);
+        band->metadata.colourProfile = picture_.metadata.colourProfile;
+        ConvertRows(*conversion_, from, *band, rows);
+        use(*band);
+    });
 }
 
 }  // namespace varnel

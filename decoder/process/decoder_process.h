@@ -11,6 +11,7 @@
 #include <cstddef>
 
 #include "base/reason.h"
+#include "decoder/process/decoder_start.h"
 #include "decoder/process/descriptor.h"
 #include "decoder/process/protocol.h"
 
@@ -30,6 +31,8 @@ class DecoderProcess {
     pid_t Id() const { return id_; }
     // Why it could not be started; empty when it was. It ends with the thread that started it.
     Reason Start();
+    // The same with one that was started before, or could not be.
+    Reason Take(const StartedDecoder& started);
     // Another program from the next start on.
     void SetProgram(const QString& program) { program_ = program; }
     // The request with the descriptors of the photo and the memory file, which stay the caller's.

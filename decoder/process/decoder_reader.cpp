@@ -62,6 +62,12 @@ DecoderReader::DecoderReader(const ReaderOptions& options)
     Restart();
 }
 
+DecoderReader::DecoderReader(const StartedDecoder& started)
+    : options_(Completed({})),
+      onlyJpeg_(true),
+      process_(DecoderProgram(QStringLiteral("varnel-jpeg-decoder"))),
+      startError_(process_.Take(started)) {}
+
 void DecoderReader::TakeAllTypes() {
     onlyJpeg_ = false;
     process_.SetProgram(DecoderProgram(QStringLiteral("varnel-decoder")));

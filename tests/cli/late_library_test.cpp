@@ -71,7 +71,7 @@ TEST(LateLibrary, FilesAreTheSameAsOfProgramsThatAreLinkedWithIt) {
 TEST(LateLibrary, AnInstallationWithoutItSaysSoAndConvertsTheRest) {
     const testing::PictureFolder folder;
     const QString photo = folder.Picture(Text("photo.jpg"), OutputType::Jpeg, {90, 60});
-    for (const char* name : {"varnel-convert", "varnel-jpeg-decoder"}) {
+    for (const char* name : {"varnel-convert", "varnel-convert.so", "varnel-jpeg-decoder"}) {
         const QFileInfo program(QFileInfo(Text(VARNEL_CONVERT)).dir().filePath(Text(name)));
         ASSERT_TRUE(QFile::copy(program.filePath(), folder.Path(Text(name))));
     }
@@ -82,6 +82,17 @@ TEST(LateLibrary, AnInstallationWithoutItSaysSoAndConvertsTheRest) {
     EXPECT_FALSE(QFileInfo::exists(bmp));
     EXPECT_TRUE(Said(program, Arguments(photo, jpeg, {})).isEmpty());
     EXPECT_TRUE(QFileInfo::exists(jpeg));
+}
+
+TEST(LateLibrary, AProgramWithoutItsModuleSaysSo) {
+    const testing::PictureFolder folder;
+    const QString program = folder.Path(Text("varnel-convert"));
+    ASSERT_TRUE(QFile::copy(Text(VARNEL_CONVERT), program));
+    QProcess process;
+    process.start(program, {Text("photo.jpg")});
+    ASSERT_TRUE(process.waitForFinished(60'000));
+    EXPECT_EQ(process.exitCode(), exitUsage);
+    EXPECT_TRUE(process.readAllStandardError().startsWith("varnel-convert: "));
 }
 
 }  // namespace

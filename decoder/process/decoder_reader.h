@@ -10,7 +10,7 @@
 #include "decoder/process/decoder_process.h"
 #include "decoder/process/photo_file.h"
 #include "decoder/process/picture_reader.h"
-#include "decoder/process/pieced_picture.h"
+#include "decoder/process/pieces/pieced_picture.h"
 #include "decoder/process/shared_memory.h"
 
 namespace varnel {

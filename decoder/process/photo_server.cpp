@@ -14,7 +14,7 @@
 #include "base/huge_pages.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/process/decoder_socket.h"
-#include "decoder/process/handover.h"
+#include "decoder/process/pieces/handover.h"
 #include "decoder/process/protocol.h"
 #include "decoder/process/sandbox.h"
 #include "remap/image/pixel_format.h"

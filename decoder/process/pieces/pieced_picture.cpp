@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "decoder/process/pieced_picture.h"
+#include "decoder/process/pieces/pieced_picture.h"
 
 #include <algorithm>
 #include <cstring>

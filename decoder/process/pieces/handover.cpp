@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: Varnel developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "decoder/process/handover.h"
+#include "decoder/process/pieces/handover.h"
 
 #include <sys/mman.h>
 #include <unistd.h>

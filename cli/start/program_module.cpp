@@ -10,5 +10,7 @@
 extern "C" __attribute__((visibility("default"))) int varnelConvert(
     int argc, char** argv, const varnel::StartedDecoder* decoder) {
     return varnel::RunProgram(
-        argc, argv, decoder->id > 0 ? std::make_unique<varnel::DecoderReader>(*decoder) : nullptr);
+        argc, argv,
+        decoder->id > 0 ? std::make_unique<varnel::DecoderReader>(varnel::ReaderOptions(), *decoder)
+                        : nullptr);
 }

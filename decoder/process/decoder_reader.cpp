@@ -62,8 +62,8 @@ DecoderReader::DecoderReader(const ReaderOptions& options)
     Restart();
 }
 
-DecoderReader::DecoderReader(const StartedDecoder& started)
-    : options_(Completed({})),
+DecoderReader::DecoderReader(const ReaderOptions& options, const StartedDecoder& started)
+    : options_(Completed(options)),
       onlyJpeg_(true),
       process_(DecoderProgram(QStringLiteral("varnel-jpeg-decoder"))),
       startError_(process_.Take(started)) {}

@@ -18,8 +18,8 @@ namespace varnel {
 class DecoderReader : public PictureReader {
   public:
     explicit DecoderReader(const ReaderOptions& options);
-    // With a varnel-jpeg-decoder that was started before, if it could be.
-    explicit DecoderReader(const StartedDecoder& started);
+    // With a varnel-jpeg-decoder that was started before, if it could be. The options name none.
+    DecoderReader(const ReaderOptions& options, const StartedDecoder& started);
 
     void Begin(const ReadRequest& request) override;
     bool Wait(int milliseconds) override;

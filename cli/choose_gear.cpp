@@ -116,7 +116,13 @@ std::variant<GearChoice, QString> ChooseGear(const Options& options, SettingsSto
         return GearChoice{std::nullopt, std::move(table), true, true};
     }
     if (IsAutomatic(options.gear)) {
-        return GearChoice{std::nullopt, std::move(table), options.gear == guessGear};
+        GearChoice choice{std::nullopt, std::move(table), options.gear == guessGear};
+        if (const auto byDefault = DefaultGear(choice.table);
+            options.prefersDefaultGear && byDefault && !LacksLens(*byDefault)) {
+            choice.insteadOfGuess = byDefault;
+        }
+        choice.advises = options.advises;
+        return choice;
     }
     const std::optional<GearRecord> byDefault = DefaultGear(table);
     if (!byDefault) {
@@ -146,11 +152,18 @@ std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choic
     if (std::optional<GearRecord> gear = CertainGear(found, choice.table)) {
         return gear;
     }
+    const std::optional<GearRecord>& own = choice.insteadOfGuess;
+    if (own && !NamesPlainLens(origin) &&
+        (found.lack == GearLack::Origin || SpeaksFor(origin, *own))) {
+        return own;
+    }
     if (choice.anyLens || (choice.guesses && !NamesPlainLens(origin))) {
         return std::nullopt;
     }
-    return QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")
-        .arg(found.said);
+    return choice.advises
+               ? QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")
+                     .arg(found.said)
+               : found.said;  // in the window's language
 }
 
 }  // namespace varnel

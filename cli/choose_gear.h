@@ -30,6 +30,8 @@ struct GearChoice {
     GearTable table;                   // to find that in
     bool guesses = false;              // a typical fisheye stands in for what is not known
     bool anyLens = false;              // the lens is given apart: only cameras count
+    bool advises = true;               // errors name the options that help
+    std::optional<GearRecord> insteadOfGuess{};  // where the photo does not speak against it
 };
 
 // From the catalogues when a camera and a lens are given, each photo's own for the name "auto",

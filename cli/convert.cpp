@@ -126,8 +126,21 @@ int Convert(Options options, SettingsStore& store, const Console& console) {
     return ConvertFiles(options, std::get<GearChoice>(gears), settings, console);
 }
 
-int Run(const QStringList& arguments, SettingsStore& store, const Console& console) {
-    const auto parsed = ParseOptions(arguments);
+// What nobody says who clicks on a photo.
+void ChooseForMenu(Options& options) {
+    if (!NamesGear(options) && !HasOnlyLens(options) && options.like.isEmpty()) {
+        options.gear = guessGear;
+        options.circle = options.circle == CircleUse::Off ? CircleUse::Found : options.circle;
+        options.prefersDefaultGear = true;
+    }
+    if (!options.projectionGiven && options.like.isEmpty()) {
+        options.projections = {Projection::Rectilinear};
+    }
+    options.keepBoth = !options.force && !options.skipExisting && !options.shard;
+    options.advises = false;
+}
+
+int Run(std::variant<Options, QString> parsed, SettingsStore& store, const Console& console) {
     if (const auto* error = std::get_if<QString>(&parsed)) {
         return Refuse(console, *error);
     }
@@ -160,15 +173,29 @@ int Run(const QStringList& arguments, SettingsStore& store, const Console& conso
     return Show(console, std::get<QStringList>(list).join(u'\n') + u'\n');
 }
 
-}  // namespace
-
-int RunConvert(const QStringList& arguments, SettingsStore& store, const Console& console) {
-    const int exitCode = Run(arguments, store, console);
+int Flushed(int exitCode, const Console& console) {
     if (console.out.flush()) {
         return exitCode;
     }
     Complain(console, QStringLiteral("the standard output could not be written"));
     return exitCode == exitAllWritten ? exitSomeFailed : exitCode;
+}
+
+}  // namespace
+
+int RunConvert(const QStringList& arguments, SettingsStore& store, const Console& console) {
+    return Flushed(Run(ParseOptions(arguments), store, console), console);
+}
+
+int RunConvertForMenu(const QStringList& arguments, SettingsStore& store, const Console& console) {
+    auto parsed = ParseOptions(arguments);
+    if (auto* const options = std::get_if<Options>(&parsed)) {
+        if (options->command != Command::Convert || !options->film.output.isEmpty()) {
+            return Refuse(console, QStringLiteral("--beside converts photos, each by itself"));
+        }
+        ChooseForMenu(*options);
+    }
+    return Flushed(Run(std::move(parsed), store, console), console);
 }
 
 }  // namespace varnel

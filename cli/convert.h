@@ -15,4 +15,9 @@ namespace varnel {
 // Returns the exit code. The first argument is the program's name.
 int RunConvert(const QStringList& arguments, SettingsStore& store, const Console& console);
 
+// The same for a click on photos, which says nothing but a preset perhaps: what is not given is the
+// gear that the photo tells, else the default one, else a guess; Rectilinear; beside the photo, and
+// no file that is there is replaced.
+int RunConvertForMenu(const QStringList& arguments, SettingsStore& store, const Console& console);
+
 }  // namespace varnel

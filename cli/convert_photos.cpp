@@ -21,6 +21,7 @@
 #include "cli/report/run_reports.h"
 #include "cli/signal_wait.h"
 #include "pipeline/conversion/conversion_run.h"
+#include "pipeline/conversion/free_names.h"
 #include "remap/image/photo_date.h"
 
 namespace varnel {
@@ -99,9 +100,12 @@ class CommandRun : public ConversionObserver {
             return request_.options.film.output;
         }
         const qsizetype number = numbers_.value(conversion.photo, conversion.photo);
-        QString target = TargetFor(
+        const QString target = TargetFor(
             request_, files_.at(conversion.photo), conversion.record,
             {ResultNumber(number, conversion.index), Results(), facts_[conversion.photo].day});
+        if (request_.options.keepBoth) {
+            return free_.For(ResultNumber(number, conversion.index), target);
+        }
         others_.Take(number, target, targets_);
         return target;
     }
@@ -380,6 +384,7 @@ class CommandRun : public ConversionObserver {
     QElapsedTimer clock_;
     QStringList files_;
     QList<qsizetype> numbers_;  // of these files among those of the command, unless all are done
+    FreeNames free_;
     std::map<qsizetype, std::vector<FileReport>> skipped_;  // before the file of that number
     std::map<qsizetype, Facts> facts_;                      // by the photo's number
     qsizetype written_ = 0;

@@ -19,6 +19,7 @@
 #include "cli/report/run_reports.h"
 #include "cli/until_stopped.h"
 #include "pipeline/conversion/conversion_targets.h"
+#include "pipeline/conversion/free_names.h"
 #include "remap/analysis/photo_circle.h"
 #include "remap/encode/save_bitmap.h"
 #include "remap/projection/projection_info.h"
@@ -179,6 +180,9 @@ class StitchRun {
     bool ChooseTarget(const ImageRecord& record) {
         const ConvertRequest request{options_, gears_, settings_};
         report_.result = TargetFor(request, report_.photo, record);
+        if (options_.keepBoth) {
+            report_.result = FreeNames().Take(report_.result);
+        }
         ConversionTargets targets(options_.files, RulesOf(options_));
         if (targets.IsSkipped(report_.result)) {
             report_.status = FileStatus::Skipped;

@@ -19,6 +19,7 @@
 #include "files/noting_operations.h"
 #include "film/conversion/convert_film.h"
 #include "film/conversion/film_pictures.h"
+#include "pipeline/conversion/free_names.h"
 #include "remap/projection/projection_info.h"
 
 namespace varnel {
@@ -216,8 +217,12 @@ class FilmsRun {
         report.gearSource = ToText(start_.reading.source);
         report.uncertain = start_.reading.doubts.Names();
         report.notes = notes_;
-        const Reason named =
-            Attempt([&] { report.result = TargetOf(path, record, FactsOf(film_, index, reader)); });
+        const Reason named = Attempt([&] {
+            report.result = TargetOf(path, record, FactsOf(film_, index, reader));
+            if (request_.options.keepBoth) {
+                report.result = free_.Take(report.result);
+            }
+        });
         if (!named.isEmpty()) {
             Fail(report, ErrorText(named));
             return;
@@ -293,6 +298,7 @@ class FilmsRun {
     ThreadRunner runner_;
     std::optional<NotingOperations> operations_;
     ConversionTargets targets_;
+    FreeNames free_;
     qsizetype film_ = 0;
     StartedRecord start_;  // of the film at hand
     QStringList notes_;

@@ -159,4 +159,17 @@ void CheckCommand(const Options& options) {
     CheckShard(options);
 }
 
+void CheckOlderFiles(const Options& options) {
+    if (options.skipExisting && options.force) {
+        throw UsageError{
+            QStringLiteral("--skip-existing and --force exclude each other; give one of the two")};
+    }
+    if (options.keepBoth && (options.force || options.skipExisting || options.shard ||
+                             !options.film.output.isEmpty())) {
+        throw UsageError{
+            QStringLiteral("--keep-both gives free names; leave --force, --skip-existing, --shard "
+                           "and --film out")};
+    }
+}
+
 }  // namespace varnel

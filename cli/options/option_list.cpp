@@ -164,6 +164,8 @@ constexpr std::array runRows{
     OptionRow{u"force", nullptr, u"Replace existing files; photos are never replaced."},
     OptionRow{u"skip-existing", nullptr,
               u"Do only what is missing: leave results that lie there alone."},
+    OptionRow{u"keep-both", nullptr,
+              u"Where a file has the name of a result, write IMG.Varnel-2.TIF and so on."},
     OptionRow{u"jobs", u"N", u"How many cores to use, 1 to 256; default: all."},
     OptionRow{u"shard", u"K/N",
               u"Every N-th photo from the K-th on: N such runs make what one makes of all."},

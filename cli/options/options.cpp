@@ -346,10 +346,7 @@ void CheckTogether(const Options& options) {
                            "name in %2, or give --type")
                 .arg(options.output, WrittenEndings())};
     }
-    if (options.skipExisting && options.force) {
-        throw UsageError{
-            QStringLiteral("--skip-existing and --force exclude each other; give one of the two")};
-    }
+    CheckOlderFiles(options);
     CheckMorph(options);
     CheckFilm(options);
 }

@@ -111,8 +111,10 @@ struct Options {
     bool noSettings = false;
     bool force = false;
     bool skipExisting = false;
-    std::optional<int> jobs;     // cores to use; none: all
-    std::optional<Shard> shard;  // of the photos, and of the films by themselves; none: all
+    bool keepBoth = false;            // a result whose name a file has gets a number
+    bool prefersDefaultGear = false;  // to a guess, where the photo does not speak against it
+    std::optional<int> jobs;          // cores to use; none: all
+    std::optional<Shard> shard;       // of the photos, and of the films by themselves; none: all
     bool quiet = false;
     bool advises = true;  // errors name the options that help; off for a program without them
     bool json = false;    // what is reported of each result goes to out as JSON, all else to err

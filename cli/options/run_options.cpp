@@ -13,6 +13,7 @@ namespace varnel {
 void TakeRun(const QCommandLineParser& parser, Options& options) {
     options.force = parser.isSet(QStringLiteral("force"));
     options.skipExisting = parser.isSet(QStringLiteral("skip-existing"));
+    options.keepBoth = parser.isSet(QStringLiteral("keep-both"));
     if (const QString jobs = QStringLiteral("jobs"); parser.isSet(jobs)) {
         options.jobs = WholeBetween(jobs, parser.value(jobs), 1, 256);
     }

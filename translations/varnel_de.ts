@@ -1819,6 +1819,36 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
     </message>
 </context>
 <context>
+    <name>MenuStart</name>
+    <message>
+        <source>New pictures beside the photos: %1</source>
+        <translation>Neue Bilder neben den Fotos: %1</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>Not everything went well. New pictures beside the photos: %1</source>
+        <translation>Nicht alles ist gelungen. Neue Bilder neben den Fotos: %1</translation>
+    </message>
+    <message>
+        <source>No picture was written.</source>
+        <translation>Es wurde kein Bild geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>Straighten with Varnel</source>
+        <translation>Mit Varnel geraderichten</translation>
+    </message>
+    <message>
+        <source>Convert fisheye photos into new files beside them</source>
+        <translation>Fischaugenfotos in neue Dateien daneben umwandeln</translation>
+    </message>
+</context>
+<context>
     <name>Morph</name>
     <message>
         <source>&quot;%1&quot; is not a whole number.</source>

@@ -1819,6 +1819,36 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
     </message>
 </context>
 <context>
+    <name>MenuStart</name>
+    <message>
+        <source>New pictures beside the photos: %1</source>
+        <translation>Imágenes nuevas junto a las fotos: %1</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 más</translation>
+    </message>
+    <message>
+        <source>Not everything went well. New pictures beside the photos: %1</source>
+        <translation>No todo ha salido bien. Imágenes nuevas junto a las fotos: %1</translation>
+    </message>
+    <message>
+        <source>No picture was written.</source>
+        <translation>No se ha escrito ninguna imagen.</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>Straighten with Varnel</source>
+        <translation>Enderezar con Varnel</translation>
+    </message>
+    <message>
+        <source>Convert fisheye photos into new files beside them</source>
+        <translation>Convertir fotos de ojo de pez en archivos nuevos junto a ellas</translation>
+    </message>
+</context>
+<context>
     <name>Morph</name>
     <message>
         <source>&quot;%1&quot; is not a whole number.</source>

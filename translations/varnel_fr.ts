@@ -1819,6 +1819,36 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
     </message>
 </context>
 <context>
+    <name>MenuStart</name>
+    <message>
+        <source>New pictures beside the photos: %1</source>
+        <translation>Nouvelles images à côté des photos : %1</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 de plus</translation>
+    </message>
+    <message>
+        <source>Not everything went well. New pictures beside the photos: %1</source>
+        <translation>Tout n’a pas réussi. Nouvelles images à côté des photos : %1</translation>
+    </message>
+    <message>
+        <source>No picture was written.</source>
+        <translation>Aucune image n’a été écrite.</translation>
+    </message>
+</context>
+<context>
+    <name>Menus</name>
+    <message>
+        <source>Straighten with Varnel</source>
+        <translation>Redresser avec Varnel</translation>
+    </message>
+    <message>
+        <source>Convert fisheye photos into new files beside them</source>
+        <translation>Convertir des photos fisheye en nouveaux fichiers à côté d’elles</translation>
+    </message>
+</context>
+<context>
     <name>Morph</name>
     <message>
         <source>&quot;%1&quot; is not a whole number.</source>

@@ -3,6 +3,7 @@
 
 #include "translations/window_language.h"
 
+#include <QDir>
 #include <QLibraryInfo>
 
 // A macro of the toolkit that wants no namespace around it.
@@ -11,6 +12,23 @@ static void LoadTranslations() {
 }
 
 namespace varnel {
+
+std::map<QString, QString> InAllLanguages(const char* context, const char* text) {
+    LoadTranslations();
+    const QDir folder(QStringLiteral(":/translations"));
+    std::map<QString, QString> texts;
+    for (const QString& file : folder.entryList({QStringLiteral("varnel_*.qm")})) {
+        QTranslator language;
+        if (language.load(folder.filePath(file))) {
+            const QString code = file.section(u'_', 1).section(u'.', 0, 0);
+            if (const QString translated = language.translate(context, text);
+                !translated.isEmpty()) {
+                texts.emplace(code, translated);
+            }
+        }
+    }
+    return texts;
+}
 
 WindowLanguage::WindowLanguage(QCoreApplication& application, const QString& code)
     : application_(application) {

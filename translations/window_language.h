@@ -6,8 +6,12 @@
 
 #include <QCoreApplication>
 #include <QTranslator>
+#include <map>
 
 namespace varnel {
+
+// A text in every language that has a translation of it, by the language's code.
+std::map<QString, QString> InAllLanguages(const char* context, const char* text);
 
 // Installed as long as it lives. Made before the first text is asked for.
 class WindowLanguage {

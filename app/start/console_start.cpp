@@ -3,8 +3,10 @@
 
 #include "app/start/console_start.h"
 
+#include "app/menus/install_menu.h"
 #include "app/start/convert_arguments.h"
 #include "app/start/start_arguments.h"
+#include "cli/convert.h"
 
 namespace varnel {
 
@@ -30,6 +32,12 @@ std::variant<QStringList, int> StartOnConsole(const QStringList& arguments, Sett
             return Show(console, QStringLiteral("varnel " VARNEL_VERSION "\n"));
         case StartMode::Convert:
             return ConvertArguments(request.files, store, today, console);
+        case StartMode::InstallMenu:
+            return InstallMenu(store, UserMenuPlaces(), console);
+        case StartMode::RemoveMenu:
+            return RemoveMenu(UserMenuPlaces(), console);
+        case StartMode::Beside:
+            return RunConvertForMenu(QStringList{arguments[0]} + request.files, store, console);
         case StartMode::Window:
             break;
     }

@@ -18,6 +18,7 @@
 #include "app/start/application.h"
 #include "app/start/console_start.h"
 #include "app/start/focus_style.h"
+#include "app/start/menu_start.h"
 #include "app/start/plain_texts.h"
 #include "app/start/revision_age.h"
 #include "app/tools/layout/theme_tools.h"
@@ -89,8 +90,12 @@ int RunWindow(Application& application, const QStringList& files, SettingsStore&
 int main(int argc, char* argv[]) {
     UseUtf8Locale();
     const auto store = OpenUserStore(QDateTime::currentDateTime());
+    const QStringList arguments = ArgumentTexts(argc, argv);
+    if (IsForMenu(arguments)) {
+        return ConvertForMenu(argc, argv, *store);
+    }
     const auto start =
-        StartOnConsole(ArgumentTexts(argc, argv), *store, QDate::currentDate(),
+        StartOnConsole(arguments, *store, QDate::currentDate(),
                        {std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1, "varnel"});
     if (const int* const exitCode = std::get_if<int>(&start)) {
         return *exitCode;

@@ -35,9 +35,13 @@ Sorted SortArguments(const QStringList& arguments) {
 }  // namespace
 
 std::variant<StartRequest, QString> ParseStartArguments(const QStringList& arguments) {
+    if (arguments.value(1) == QStringLiteral("--beside")) {
+        return StartRequest{StartMode::Beside, arguments.mid(2)};
+    }
     const auto [options, files] = SortArguments(arguments);
     const QStringList known{QStringLiteral("--help"), QStringLiteral("--version"),
-                            QStringLiteral("--open")};
+                            QStringLiteral("--open"), QStringLiteral("--install-menu"),
+                            QStringLiteral("--remove-menu")};
     for (const QString& option : options) {
         if (!known.contains(option)) {
             return QStringLiteral("unknown option \"%1\"; see --help").arg(option);
@@ -48,6 +52,14 @@ std::variant<StartRequest, QString> ParseStartArguments(const QStringList& argum
     }
     if (options.contains(known[1])) {
         return StartRequest{StartMode::Version, {}};
+    }
+    for (const auto& [option, mode] : {std::pair(known[3], StartMode::InstallMenu),
+                                       std::pair(known[4], StartMode::RemoveMenu)}) {
+        if (options.contains(option)) {
+            return arguments.size() == 2
+                       ? std::variant<StartRequest, QString>(StartRequest{mode, {}})
+                       : QStringLiteral("%1 stands alone; see --help").arg(option);
+        }
     }
     // A desktop entry that names no photo gives --open alone.
     if (arguments.size() <= 1 || options.contains(known[2]) ||
@@ -72,6 +84,14 @@ QString StartHelpText() {
         "                         default gear into the Varnel projection, beside the photo, in\n"
         "                         the file type of the defaults. From IMG.jpg comes\n"
         "                         IMG.Varnel.TIF; an older file of that name is replaced.\n"
+        "  varnel --beside [OPTIONS] PHOTO...\n"
+        "                         What a file manager's menu does: convert each photo beside it\n"
+        "                         under a name that no file has, with the gear that it tells;\n"
+        "                         errors are shown in a box. OPTIONS as of varnel-convert,\n"
+        "                         --preset NAME for one.\n"
+        "  varnel --install-menu  \"Straighten with Varnel\" with all presets in the menus of\n"
+        "                         Dolphin, Nemo and Thunar, for yourself; again for new presets.\n"
+        "  varnel --remove-menu   Take that away again.\n"
         "\n"
         "  --help                 Show this text.\n"
         "  --version              Show the version.\n"

@@ -18,20 +18,25 @@ TEST(ParseStartArguments, TellsWindowConversionHelpAndVersionApart) {
         StartMode mode;
         const char* files;
     };
-    for (const Case& c : {Case{"", StartMode::Window, ""}, Case{"varnel", StartMode::Window, ""},
-                          Case{"varnel --open", StartMode::Window, ""},
-                          Case{"varnel --open a.jpg b.jpg", StartMode::Window, "a.jpg b.jpg"},
-                          Case{"varnel --open -- --odd.jpg", StartMode::Window, "--odd.jpg"},
-                          Case{"varnel trip.varnel", StartMode::Window, "trip.varnel"},
-                          Case{"varnel --open trip.Varnel", StartMode::Window, "trip.Varnel"},
-                          Case{"varnel a.jpg", StartMode::Convert, "a.jpg"},
-                          Case{"varnel b.jpg a.jpg b.jpg", StartMode::Convert, "b.jpg a.jpg b.jpg"},
-                          Case{"varnel -a.jpg -", StartMode::Convert, "-a.jpg -"},
-                          Case{"varnel -- --help --", StartMode::Convert, "--help --"},
-                          Case{"varnel --help", StartMode::Help, ""},
-                          Case{"varnel a.jpg --help", StartMode::Help, ""},
-                          Case{"varnel --version --help", StartMode::Help, ""},
-                          Case{"varnel --version", StartMode::Version, ""}}) {
+    for (const Case& c :
+         {Case{"", StartMode::Window, ""}, Case{"varnel", StartMode::Window, ""},
+          Case{"varnel --open", StartMode::Window, ""},
+          Case{"varnel --open a.jpg b.jpg", StartMode::Window, "a.jpg b.jpg"},
+          Case{"varnel --open -- --odd.jpg", StartMode::Window, "--odd.jpg"},
+          Case{"varnel trip.varnel", StartMode::Window, "trip.varnel"},
+          Case{"varnel --open trip.Varnel", StartMode::Window, "trip.Varnel"},
+          Case{"varnel a.jpg", StartMode::Convert, "a.jpg"},
+          Case{"varnel b.jpg a.jpg b.jpg", StartMode::Convert, "b.jpg a.jpg b.jpg"},
+          Case{"varnel -a.jpg -", StartMode::Convert, "-a.jpg -"},
+          Case{"varnel -- --help --", StartMode::Convert, "--help --"},
+          Case{"varnel --help", StartMode::Help, ""},
+          Case{"varnel a.jpg --help", StartMode::Help, ""},
+          Case{"varnel --version --help", StartMode::Help, ""},
+          Case{"varnel --beside --help -- a.jpg", StartMode::Beside, "--help -- a.jpg"},
+          Case{"varnel a.jpg -- --beside", StartMode::Convert, "a.jpg --beside"},
+          Case{"varnel --install-menu", StartMode::InstallMenu, ""},
+          Case{"varnel --remove-menu", StartMode::RemoveMenu, ""},
+          Case{"varnel --version", StartMode::Version, ""}}) {
         const auto parsed = Parse(c.line);
         ASSERT_TRUE(std::holds_alternative<StartRequest>(parsed)) << c.line;
         const StartRequest expected{c.mode,
@@ -49,6 +54,8 @@ TEST(ParseStartArguments, AWrongLineIsToldInOneLine) {
          {Case{"varnel --", "no photo given; see --help"},
           Case{"varnel --gear mine a.jpg", "unknown option \"--gear\"; see --help"},
           Case{"varnel --open=a.jpg", "unknown option \"--open=a.jpg\"; see --help"},
+          Case{"varnel --install-menu a.jpg", "--install-menu stands alone; see --help"},
+          Case{"varnel a.jpg --beside", "unknown option \"--beside\"; see --help"},
           Case{"varnel --OPEN a.jpg", "unknown option \"--OPEN\"; see --help"},
           Case{"varnel --help --nonsense", "unknown option \"--nonsense\"; see --help"}}) {
         const auto parsed = Parse(c.line);

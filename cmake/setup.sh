@@ -3,7 +3,7 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev libfreeimage-dev libjpeg-dev libpng-dev libtiff-dev zlib1g-dev libdeflate-dev libzstd-dev libhwy-dev libexiv2-dev liblcms2-dev nettle-dev libraw-dev libheif-dev libjxl-dev libseccomp-dev libavformat-dev libavcodec-dev libswscale-dev libavutil-dev libxcb1-dev fonts-dejavu-core)
 pack_packages=(dpkg-dev binutils python3-dev pybind11-dev python3-numpy)
 test_packages=("${build_packages[@]}" ffmpeg qt6-translations-l10n libgtest-dev liblensfun-data-v1 libimage-exiftool-perl xvfb xauth parallel pkg-config
-  "${pack_packages[@]}" desktop-file-utils appstream mandoc bash-completion lintian)
+  "${pack_packages[@]}" desktop-file-utils appstream mandoc bash-completion lintian python3 lua5.3)
 
 # What looks at the sources and builds them in other ways, for .ci/run and .ci/nightly.
 ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags abigail-tools)

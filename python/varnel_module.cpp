@@ -135,14 +135,19 @@ varnel::Size ToSize(const SizePair& size) {
 }
 
 // Lenses and views are copied (cheaply) before the lock goes: other threads may change theirs.
+template <class Handle>
+Handle CopyOf(const Handle& handle) {
+    return handle;
+}
+
 void Remap(const Lens& lens, const View& view, const Image& source, const Image& result,
            int threads) {
     if (!result.IsWriteable()) {
         Refuse("out", "it cannot be written to");
     }
     const varnel::Pool* const pool = PoolOf(threads);
-    const Lens ownLens(lens);
-    const View ownView(view);
+    const Lens ownLens = CopyOf(lens);
+    const View ownView = CopyOf(view);
     const py::gil_scoped_release released;
     varnel::Remap(ownLens, ownView, source.Get(), result.Get(), pool);
 }
@@ -170,7 +175,7 @@ using ViewPoints = varnel_status (*)(const varnel_lens*, const varnel_view*, std
 
 template <LensPoints function, int inWidth, int outWidth>
 py::array_t<double> OfLens(const Lens& lens, const Points& in, const SizePair& size) {
-    const Lens own(lens);
+    const Lens own = CopyOf(lens);
     return Mapped(in, inWidth, outWidth, [&](const double* from, std::size_t count, double* to) {
         varnel::detail::Call(function, own.Handle(), size.first, size.second, from, count, to);
     });
@@ -179,8 +184,8 @@ py::array_t<double> OfLens(const Lens& lens, const Points& in, const SizePair& s
 template <ViewPoints function>
 py::array_t<double> OfView(const Lens& lens, const View& view, const Points& in,
                            const SizePair& size) {
-    const Lens own(lens);
-    const View ownView(view);
+    const Lens own = CopyOf(lens);
+    const View ownView = CopyOf(view);
     return Mapped(in, 2, 2, [&](const double* from, std::size_t count, double* to) {
         varnel::detail::Call(function, own.Handle(), ownView.Handle(), size.first, size.second,
                              from, count, to);

@@ -41,7 +41,8 @@ def view_of(
     if len(rotate) != 3:
         raise ArgumentError(f"rotate: three angles are needed, not {len(rotate)}")
     for axis, degrees in zip("XYZ", rotate):
-        view.set(f"Rotate{axis}", repr(float(degrees)))
+        if degrees != 0:
+            view.set(f"Rotate{axis}", repr(float(degrees)))
     if angle is not None:
         if projection.lower() in _WITHOUT_ANGLE:
             raise ArgumentError(f"angle: the projection {projection} has none")

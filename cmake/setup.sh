@@ -14,7 +14,7 @@ nightly_packages=(slurmctld slurmd slurm-client munge snakemake)
 # What only .ci/nightly needs: builds for other systems, and what looks at their recipes.
 arm64_packages=(g++-aarch64-linux-gnu qemu-user)
 windows_packages=(g++-mingw-w64-x86-64-posix)
-nightly_packages=("${arm64_packages[@]}" "${windows_packages[@]}" shellcheck python3-yaml patchelf)
+nightly_packages+=("${arm64_packages[@]}" "${windows_packages[@]}" shellcheck python3-yaml mypy patchelf)
 
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }

@@ -289,6 +289,14 @@ Lizenz: GPL-3.0-or-later. Für dieses Programm besteht keinerlei Gewährleistung
         <source>Back to your photos</source>
         <translation>Zurück zu Ihren Fotos</translation>
     </message>
+    <message>
+        <source>Lens data</source>
+        <translation>Objektivdaten</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s own catalogue has Varnel&apos;s licence. The lenses of the brand lensfun, and those that were taken from it into My lenses, are from the database of lensfun, © its contributors, licence CC BY-SA 3.0: whoever passes them on names them and keeps the licence. Lenses from other files have the licences of those files; the gear editor shows where each one comes from.</source>
+        <translation>Varnels eigener Katalog steht unter Varnels Lizenz. Die Objektive der Marke lensfun, und die von dort unter „My lenses“ übernommenen, stammen aus der Datenbank von lensfun, © deren Mitwirkende, Lizenz CC BY-SA 3.0: Wer sie weitergibt, nennt sie und behält die Lizenz bei. Objektive aus anderen Dateien haben die Lizenzen dieser Dateien; das Fenster für Ausrüstungen zeigt, woher jedes stammt.</translation>
+    </message>
 </context>
 <context>
     <name>FormAddImages</name>

@@ -289,6 +289,14 @@ Licencia: GPL-3.0-or-later. Este programa no ofrece ninguna garantía.</translat
         <source>Back to your photos</source>
         <translation>Volver a sus fotos</translation>
     </message>
+    <message>
+        <source>Lens data</source>
+        <translation>Datos de objetivos</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s own catalogue has Varnel&apos;s licence. The lenses of the brand lensfun, and those that were taken from it into My lenses, are from the database of lensfun, © its contributors, licence CC BY-SA 3.0: whoever passes them on names them and keeps the licence. Lenses from other files have the licences of those files; the gear editor shows where each one comes from.</source>
+        <translation>El catálogo propio de Varnel tiene la licencia de Varnel. Los objetivos de la marca lensfun, y los tomados de ella en «My lenses», proceden de la base de datos de lensfun, © sus colaboradores, licencia CC BY-SA 3.0: quien los transmita los nombra y mantiene la licencia. Los objetivos de otros archivos tienen las licencias de esos archivos; el editor de equipo muestra de dónde procede cada uno.</translation>
+    </message>
 </context>
 <context>
     <name>FormAddImages</name>

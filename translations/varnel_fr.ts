@@ -289,6 +289,14 @@ Licence&#xa0;: GPL-3.0-or-later. Ce programme est fourni sans aucune garantie.</
         <source>Back to your photos</source>
         <translation>Retour à vos photos</translation>
     </message>
+    <message>
+        <source>Lens data</source>
+        <translation>Données d’objectifs</translation>
+    </message>
+    <message>
+        <source>Varnel&apos;s own catalogue has Varnel&apos;s licence. The lenses of the brand lensfun, and those that were taken from it into My lenses, are from the database of lensfun, © its contributors, licence CC BY-SA 3.0: whoever passes them on names them and keeps the licence. Lenses from other files have the licences of those files; the gear editor shows where each one comes from.</source>
+        <translation>Le catalogue propre de Varnel est sous la licence de Varnel. Les objectifs de la marque lensfun, et ceux qui en ont été repris sous «&#xa0;My lenses&#xa0;», viennent de la base de données de lensfun, © ses contributeurs, licence CC BY-SA 3.0&#xa0;: qui les transmet les nomme et garde la licence. Les objectifs d’autres fichiers ont les licences de ces fichiers&#xa0;; l’éditeur d’équipement montre d’où vient chacun.</translation>
+    </message>
 </context>
 <context>
     <name>FormAddImages</name>

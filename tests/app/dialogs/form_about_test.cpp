@@ -26,6 +26,7 @@ TEST(FormAbout, ShowsTheVersionsOfProgramAndImageLibrary) {
               QStringLiteral("Version ") + QString::fromLatin1(FreeImage_GetVersion()));
     EXPECT_TRUE(text("LabelCopyright").contains(QStringLiteral("Varnel developers")));
     EXPECT_TRUE(text("LabelCopyright").contains(QStringLiteral("GPL-3.0-or-later")));
+    EXPECT_TRUE(text("LabelLensDataNotice").contains(QStringLiteral("CC BY-SA 3.0")));
 }
 
 TEST(FormAbout, ClosesByButtonEnterAndEscape) {

@@ -199,9 +199,9 @@ class Lenses(unittest.TestCase):
         cases = [
             (varnel.NotFoundError, "Sigma/None", lambda: varnel.Lens.from_catalogue("Sigma/None")),
             (varnel.ReadError, "no-such-file", lambda: varnel.Lens.from_file("/no-such-file.json")),
-            (varnel.ReadError, "", lambda: varnel.Lens.of_photo("/no-such-file.jpg")),
+            (varnel.ReadError, "no-such-file", lambda: varnel.Lens.of_photo("/no-such-file.jpg")),
             (varnel.ArgumentError, "number", lambda: varnel.Lens.from_file("/no-such-file.json", -1)),
-            (varnel.ArgumentError, "", lambda: varnel.Lens.from_curve([0, 30, 20], [0, 1, 2])),
+            (varnel.ArgumentError, "have to rise", lambda: varnel.Lens.from_curve([0, 30, 20], [0, 1, 2])),
             (varnel.ArgumentError, "as many", lambda: varnel.Lens.from_curve([0, 30], [0])),
             (varnel.ArgumentError, "curve", lambda: sigma().write("/tmp/lens.json")),
             (varnel.NotMeasuredError, "few", lambda: varnel.measure_lens([np.zeros((200, 300), np.uint8)])),

@@ -8,13 +8,12 @@ test_packages=("${build_packages[@]}" ffmpeg qt6-translations-l10n libgtest-dev 
 # What looks at the sources and builds them in other ways, for .ci/run and .ci/nightly.
 ci_packages=(git clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev universal-ctags abigail-tools)
 
-# What .ci/nightly runs the programs with: clusters; and what compares packages built on different days.
-nightly_packages=(slurmctld slurmd slurm-client munge snakemake faketime diffoscope-minimal)
-
-# What only .ci/nightly needs: builds for other systems, and what looks at their recipes.
+# What only .ci/nightly needs: clusters, packages built on different days, builds for other systems, and what looks
+# at their recipes.
 arm64_packages=(g++-aarch64-linux-gnu qemu-user)
 windows_packages=(g++-mingw-w64-x86-64-posix)
-nightly_packages+=("${arm64_packages[@]}" "${windows_packages[@]}" shellcheck python3-yaml mypy patchelf)
+nightly_packages=(slurmctld slurmd slurm-client munge snakemake faketime diffoscope-minimal "${arm64_packages[@]}"
+  "${windows_packages[@]}" shellcheck python3-yaml mypy patchelf)
 
 say() { printf '== %s\n' "$*"; }
 fail() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; exit 1; }

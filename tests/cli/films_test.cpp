@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QImage>
@@ -65,6 +66,24 @@ TEST_F(Films, AreToldFromPhotosAndNamedAsThey) {
     const testing::Ran again = Run("--speed ultrafast --projection rectilinear", {film});
     EXPECT_EQ(again.exitCode, 1);
     EXPECT_TRUE(again.err.contains("exists")) << again.err.toStdString();
+}
+
+TEST_F(Films, AreSharedOutAndHaveTheirHashes) {
+    const QString film = Film("clip.mp4", "0.2");
+    ASSERT_TRUE(QFile::rename(Film("other.mp4", "0.2"), folder_.Path("clip.mov")));
+    const QStringList films{film, Film("last.mp4", "0.2"), folder_.Path("clip.mov")};
+    const testing::Ran second = Run("--json --speed ultrafast --type mp4 --shard 2/2", films);
+    EXPECT_EQ(second.exitCode, 0) << second.err.toStdString();
+    const QJsonObject line = QJsonDocument::fromJson(second.out.trimmed()).object();
+    EXPECT_EQ(line[u"result"].toString(), folder_.Path("last.Varnel.mp4"));
+    const QByteArray hash = QCryptographicHash::hash(
+        testing::Contents(folder_.Path("last.Varnel.mp4")), QCryptographicHash::Sha256);
+    EXPECT_EQ(line[u"sha256"].toString().toLatin1(), hash.toHex());
+    // The third film's result has the name of the first one's, which another share converts.
+    const testing::Ran third = Run("--speed ultrafast --type mp4 --shard 3/3", films);
+    EXPECT_EQ(third.exitCode, 1);
+    EXPECT_TRUE(third.err.contains("clip.mp4 of this command has the same"))
+        << third.err.toStdString();
 }
 
 TEST_F(Films, NamesOfOtherEndingsAreCutAtTheDot) {

@@ -100,7 +100,7 @@ class CommandRun : public ConversionObserver {
             return request_.options.film.output;
         }
         const qsizetype number = numbers_.value(conversion.photo, conversion.photo);
-        const QString target = TargetFor(
+        QString target = TargetFor(
             request_, files_.at(conversion.photo), conversion.record,
             {ResultNumber(number, conversion.index), Results(), facts_[conversion.photo].day});
         if (request_.options.keepBoth) {

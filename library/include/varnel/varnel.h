@@ -6,6 +6,8 @@
  * Pixels: row 0 of a picture is its top row, x counts to the right and y down, and whole numbers are
  * the middles of pixels: (0, 0) is the middle of the top left one. (The files of the program itself
  * count rows from the bottom; this interface does not.)
+ * The projections set the axis of a lens of the catalogue on a whole pixel, up to half a pixel beside
+ * where its directions have it.
  * Directions: x to the right, y up and z along the optical axis, of the camera that took the photo;
  * of length 1.
  * Texts are UTF-8 and end with a zero byte. Numbers in texts have a decimal point.

@@ -86,8 +86,8 @@ void Check(const varnel_image* image, const char* name) {
     if (image->channels < 1 || image->channels > 4) {
         Refuse(name, QStringLiteral("it has not 1 to 4 channels"));
     }
-    if (image->sample < VARNEL_UINT8 || image->sample > VARNEL_FLOAT ||
-        image->order < VARNEL_RGB || image->order > VARNEL_BGR) {
+    if (image->sample < VARNEL_UINT8 || image->sample > VARNEL_FLOAT || image->order < VARNEL_RGB ||
+        image->order > VARNEL_BGR) {
         Refuse(name, QStringLiteral("its samples or their order mean nothing"));
     }
     const std::size_t sample = SampleBytes(image->sample);

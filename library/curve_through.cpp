@@ -23,8 +23,7 @@ void Check(std::span<const double> degrees, std::span<const double> radii) {
     if (degrees.size() < 2) {
         throw CallError(VARNEL_BAD_ARGUMENT, QStringLiteral("a curve has two points or more"));
     }
-    if (!rises(degrees) || !rises(radii) || !(degrees.back() <= widest) ||
-        !(radii.back() < 1e12)) {
+    if (!rises(degrees) || !rises(radii) || !(degrees.back() <= widest) || !(radii.back() < 1e12)) {
         throw CallError(VARNEL_BAD_ARGUMENT,
                         QStringLiteral("angles and radii have to rise from 0, angles up to %1 "
                                        "degrees at most")

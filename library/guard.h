@@ -51,7 +51,8 @@ varnel_status Guarded(varnel_error** error, const Function& function) noexcept {
 template <class Pointer>
 Pointer* Given(Pointer* pointer, const char* name) {
     if (pointer == nullptr) {
-        throw CallError(VARNEL_BAD_ARGUMENT, QString::fromLatin1(name) + QStringLiteral(" is null"));
+        throw CallError(VARNEL_BAD_ARGUMENT,
+                        QString::fromLatin1(name) + QStringLiteral(" is null"));
     }
     return pointer;
 }

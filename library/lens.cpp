@@ -31,10 +31,9 @@ GearRecord GearFor(const varnel_lens& lens, const ImageRecord& image) {
         const bool inRadii = lens.curve->unit == SampledLens::Unit::CircleRadii;
         if (inRadii && lens.circle && !knowsCamera) {
             // The sensor is made up: then so is the size of the circle on it.
-            gear.ImageCircleRadius =
-                static_cast<float>(Scaled(*lens.circle, image).radius *
-                                   static_cast<double>(gear.SensorWidth) /
-                                   std::max(image.Width, image.Height));
+            gear.ImageCircleRadius = static_cast<float>(Scaled(*lens.circle, image).radius *
+                                                        static_cast<double>(gear.SensorWidth) /
+                                                        std::max(image.Width, image.Height));
         }
         GiveLens(lens.curve, gear);
     }
@@ -76,9 +75,8 @@ ImageRecord RecordOf(const varnel_lens& lens, int32_t width, int32_t height,
 }  // namespace varnel
 
 varnel_status varnel_lens_copy(const varnel_lens* lens, varnel_lens** out, varnel_error** error) {
-    return varnel::Guarded(error, [&] {
-        varnel::Place(out, "out") = new varnel_lens(*varnel::Given(lens, "lens"));
-    });
+    return varnel::Guarded(
+        error, [&] { varnel::Place(out, "out") = new varnel_lens(*varnel::Given(lens, "lens")); });
 }
 
 void varnel_lens_free(varnel_lens* lens) {
@@ -89,7 +87,8 @@ varnel_status varnel_lens_set_circle(varnel_lens* lens, double x, double y, doub
                                      int32_t width, int32_t height, varnel_error** error) {
     return varnel::Guarded(error, [&] {
         // From the middle of the first pixel to its corner.
-        varnel::SetCircle(*varnel::Given(lens, "lens"), {{x + 0.5, y + 0.5, radius}, {width, height}});
+        varnel::SetCircle(*varnel::Given(lens, "lens"),
+                          {{x + 0.5, y + 0.5, radius}, {width, height}});
     });
 }
 

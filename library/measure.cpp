@@ -69,8 +69,8 @@ void Report(const Measurement& measured, varnel_measurement* report) {
 std::unique_ptr<varnel_lens> Measured(std::span<const varnel_image> photos,
                                       const varnel_lens* known, varnel_measurement* report) {
     if (photos.empty() || photos.size() > mostPhotos) {
-        throw CallError(VARNEL_BAD_ARGUMENT, QStringLiteral("a lens is measured on one to %1 photos")
-                                                 .arg(mostPhotos));
+        throw CallError(VARNEL_BAD_ARGUMENT,
+                        QStringLiteral("a lens is measured on one to %1 photos").arg(mostPhotos));
     }
     std::vector<BitmapHandle> copies;
     std::vector<MeasuredPhoto> measuredPhotos;
@@ -85,9 +85,8 @@ std::unique_ptr<varnel_lens> Measured(std::span<const varnel_image> photos,
         throw CallError(VARNEL_NOT_MEASURED, QString::fromLatin1(WhyNot(measured)));
     }
     const GearNames camera =
-        known == nullptr
-            ? GearNames()
-            : GearNames{known->names.cameraBrand, known->names.cameraModel, {}, {}};
+        known == nullptr ? GearNames()
+                         : GearNames{known->names.cameraBrand, known->names.cameraModel, {}, {}};
     return NewLens(camera, std::make_shared<const SampledLens>(measured.lens));
 }
 

@@ -11,10 +11,10 @@ namespace varnel {
 
 namespace {
 
-constexpr int netLines = 48;     // across and up
-constexpr int startsTried = 4;   // the nearest nodes
+constexpr int netLines = 48;    // across and up
+constexpr int startsTried = 4;  // the nearest nodes
 constexpr int mostSteps = 40;
-constexpr double exact = 1e-3;   // pixels of the photo
+constexpr double exact = 1e-3;  // pixels of the photo
 
 double DistanceOf(const SourcePosition& a, const SourcePosition& b) {
     return std::hypot(a.x - b.x, a.y - b.y);

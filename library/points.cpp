@@ -80,8 +80,8 @@ void SourceToDirection(const varnel_lens& lens, PixelSize photo, const Points& p
     const LensView view = ViewOn(lens, photo);
     for (size_t n = 0; n < points.count; ++n) {
         // Its points count from the lower left corner.
-        const Ray ray = view.RayAt(
-            {points.in[2 * n] + 0.5, photo.height - 0.5 - points.in[2 * n + 1]});
+        const Ray ray =
+            view.RayAt({points.in[2 * n] + 0.5, photo.height - 0.5 - points.in[2 * n + 1]});
         const bool known = std::isfinite(points.in[2 * n]) && std::isfinite(points.in[2 * n + 1]);
         points.out[3 * n] = known ? ray.x : nowhere;
         points.out[3 * n + 1] = known ? ray.y : nowhere;

@@ -17,7 +17,8 @@ varnel_status varnel_pool_new(int threads, varnel_pool** pool, varnel_error** er
         if (threads < 0 || threads > mostThreads) {
             throw varnel::CallError(
                 VARNEL_BAD_ARGUMENT,
-                QStringLiteral("a pool has 1 to %1 threads, or 0 for one each core").arg(mostThreads));
+                QStringLiteral("a pool has 1 to %1 threads, or 0 for one each core")
+                    .arg(mostThreads));
         }
         place = new varnel_pool(threads);
     });

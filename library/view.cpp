@@ -40,17 +40,17 @@ void Set(varnel_view& view, const QString& name, const QString& value) {
 
 QStringList ViewSettings() {
     const QSet<QString> ofPhotoAndLens{
-        QStringLiteral("Width"),           QStringLiteral("Height"),
-        QStringLiteral("Landscape"),       QStringLiteral("GearName"),
-        QStringLiteral("CameraBrand"),     QStringLiteral("CameraModel"),
-        QStringLiteral("SensorWidth"),     QStringLiteral("SensorHeight"),
-        QStringLiteral("CameraData1"),     QStringLiteral("CameraData2"),
-        QStringLiteral("LensBrand"),       QStringLiteral("LensModel"),
-        QStringLiteral("LensShift"),       QStringLiteral("ImageCircleRadius"),
-        QStringLiteral("LensData3"),       QStringLiteral("LensMapScale"),
-        QStringLiteral("LensMapFactor"),   QStringLiteral("SettingsApplied"),
-        QStringLiteral("Folder"),          QStringLiteral("FileName"),
-        QStringLiteral("NameSuffix"),      QStringLiteral("Orientation")};
+        QStringLiteral("Width"),         QStringLiteral("Height"),
+        QStringLiteral("Landscape"),     QStringLiteral("GearName"),
+        QStringLiteral("CameraBrand"),   QStringLiteral("CameraModel"),
+        QStringLiteral("SensorWidth"),   QStringLiteral("SensorHeight"),
+        QStringLiteral("CameraData1"),   QStringLiteral("CameraData2"),
+        QStringLiteral("LensBrand"),     QStringLiteral("LensModel"),
+        QStringLiteral("LensShift"),     QStringLiteral("ImageCircleRadius"),
+        QStringLiteral("LensData3"),     QStringLiteral("LensMapScale"),
+        QStringLiteral("LensMapFactor"), QStringLiteral("SettingsApplied"),
+        QStringLiteral("Folder"),        QStringLiteral("FileName"),
+        QStringLiteral("NameSuffix"),    QStringLiteral("Orientation")};
     QStringList names = FieldNames();
     names.removeIf([&](const QString& name) { return ofPhotoAndLens.contains(name); });
     return names;
@@ -93,9 +93,8 @@ varnel_status varnel_view_new(varnel_view** view, varnel_error** error) {
 }
 
 varnel_status varnel_view_copy(const varnel_view* view, varnel_view** out, varnel_error** error) {
-    return varnel::Guarded(error, [&] {
-        varnel::Place(out, "out") = new varnel_view(*varnel::Given(view, "view"));
-    });
+    return varnel::Guarded(
+        error, [&] { varnel::Place(out, "out") = new varnel_view(*varnel::Given(view, "view")); });
 }
 
 void varnel_view_free(varnel_view* view) {

@@ -46,7 +46,7 @@ QByteArray NemoAction(const PhotoMenu& menu);
 QByteArray NemoAction(const PhotoMenu& menu, const MenuEntry& entry);
 
 // The command lines of an entry, before what their files escape themselves. A desktop entry quotes
-// as its specification says, with percent signs doubled; the others as a shell.
+// as the desktop entry standard says, with percent signs doubled; the others as a shell.
 QString DesktopCommand(const QString& program, const QString& preset);
 QString ShellCommand(const QString& program, const QString& preset);
 

@@ -28,9 +28,8 @@ struct SourceView {
     static SourceView Of(const RenderSurface& surface) {
         const Bitmap* const bitmap = surface.Source();
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(),       bitmap->Pitch(),  size.width,
-                size.height,          bitmap->Format(), surface.Rows().arriving,
-                surface.Rows().planar};
+        return {bitmap->Bits(),   bitmap->Pitch(),         size.width,           size.height,
+                bitmap->Format(), surface.Rows().arriving, surface.Rows().planar};
     }
     // Before rows from this one on are read.
     void WaitFor(std::int32_t row) const {
@@ -95,8 +94,7 @@ struct TargetView {
 
     static TargetView Of(Bitmap* bitmap, std::optional<Channel> only = {}) {
         const PixelSize size = bitmap->Size();
-        return {bitmap->Bits(), bitmap->Pitch(),  size.width,
-                size.height,    bitmap->Format(), only};
+        return {bitmap->Bits(), bitmap->Pitch(), size.width, size.height, bitmap->Format(), only};
     }
     std::uint8_t* At(std::int32_t x, std::int32_t y) const {
         return bits + y * pitch + x * PixelStep(format);

@@ -84,7 +84,7 @@ class Walk {
     void CheckName(const QWidget& widget) {
         const auto* const label = qobject_cast<const QLabel*>(&widget);
         const bool picture = widget.objectName().startsWith(Q("Pic")) ||
-                             (label != nullptr && !label->pixmap(Qt::ReturnByValue).isNull());
+                             (label != nullptr && !label->pixmap().isNull());
         const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
         if ((TakesFocus(&widget) || picture) && widget.accessibleName().isEmpty() &&
             (button == nullptr || button->text().isEmpty()) && LabelOf(widget) == nullptr) {

@@ -64,6 +64,7 @@ Handle*& Place(Handle** place, const char* name) {
     return *place;
 }
 
+// From UTF-8. Throws as Given.
 QString TextOf(const char* text, const char* name);
 
 }  // namespace varnel

@@ -3,10 +3,10 @@
 
 #include "library/view.h"
 
+#include <QLatin1StringView>
 #include <QSet>
 #include <algorithm>
 
-#include "base/nearest_name.h"
 #include "library/guard.h"
 #include "pipeline/photos/photo_loader.h"
 #include "remap/projection/projection_info.h"
@@ -17,10 +17,7 @@ namespace varnel {
 
 namespace {
 
-const QString& ProjectionField() {
-    static const QString name = QStringLiteral("Projection");
-    return name;
-}
+constexpr QLatin1StringView projectionField("Projection");
 
 void Set(varnel_view& view, const QString& name, const QString& value) {
     if (!ViewSettings().contains(name)) {
@@ -59,7 +56,7 @@ QStringList ViewSettings() {
 Projection ProjectionOf(const varnel_view& view) {
     ImageRecord image;
     for (const auto& [name, value] : view.settings) {
-        if (name == ProjectionField()) {
+        if (name == projectionField) {
             SetField(image, name, value);
         }
     }

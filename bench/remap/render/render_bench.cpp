@@ -23,12 +23,15 @@ namespace {
 using Renderer = void (*)(Projection, const ImageRecord&, SizeKind, RenderProgress&,
                           RenderContext&);
 
-// How the photo is looked at: turned and shifted or not, and how wide, degrees. And what it is made
-// of.
+// How the photo is looked at: turned and shifted or not, and how wide, degrees. What it is made of.
+// And a turn about one axis more, degrees.
 struct View {
     bool moved = false;
     float outputAov = 90.0F;
     PixelFormat format = PixelFormat::Bgr8;
+    float tilt = 0.0F;
+    float pan = 0.0F;
+    float roll = 0.0F;
 };
 
 ImageRecord FisheyeRecord(const View& view) {
@@ -44,12 +47,10 @@ ImageRecord FisheyeRecord(const View& view) {
     record.OutputAOV = view.outputAov;
     record.EffectVarnel = 100.0F;
     record.EffectRectilinear = 100.0F;
-    if (view.moved) {
-        record.RotateX = 10.0F;
-        record.RotateY = -20.0F;
-        record.RotateZ = 5.0F;
-        record.TranslateX = 2.0F;
-    }
+    record.RotateX = view.tilt + (view.moved ? 10.0F : 0.0F);
+    record.RotateY = view.pan - (view.moved ? 20.0F : 0.0F);
+    record.RotateZ = view.roll + (view.moved ? 5.0F : 0.0F);
+    record.TranslateX = view.moved ? 2.0F : 0.0F;
     return record;
 }
 
@@ -196,6 +197,20 @@ void RegisterTurned(PixelSize size) {
     }
 }
 
+// About one axis each, straight ahead beside them.
+void RegisterTurns(PixelSize size) {
+    const auto add = [size](const std::string& name, const View& view) {
+        Register("turns/24MP/" + name, &Render, Projection::Rectilinear, view, size,
+                 SizeKind::Large, 1);
+    };
+    add("none", {});
+    add("tilt 40", {.tilt = 40.0F});
+    add("pan 40", {.pan = 40.0F});
+    for (const int roll : {15, 45, 90}) {
+        add("roll " + std::to_string(roll), {.roll = static_cast<float>(roll)});
+    }
+}
+
 // The same photo in all depths, for each kind of map and of engine.
 void RegisterDepths(PixelSize size) {
     const struct {
@@ -230,6 +245,7 @@ void RegisterAll() {
         Register("engine/24MP/2 cores/" + name, &Render, projection, {}, full, SizeKind::Large, 2);
     }
     RegisterTurned(full);
+    RegisterTurns(full);
     RegisterBands(full);
     RegisterStretch("reference/24MP/Stretch", &reference::RenderStretch, full, 1);
     RegisterStretch("engine/24MP/1 core/Stretch", &RenderStretch, full, 1);

@@ -67,8 +67,9 @@ GearNames CameraNamed(const char* camera) {
     const QString text = TextOf(camera, "camera");
     const auto [brand, model] = Split(text);
     if (!FindCamera(brand, model)) {
-        throw CallError(VARNEL_NOT_FOUND,
-                        QStringLiteral("the catalogue has no camera \"%1\"").arg(text));
+        throw CallError(
+            VARNEL_NOT_FOUND,
+            NotAmong(CameraNames(), QStringLiteral("the catalogue has no camera"), text));
     }
     return {brand, model, {}, {}};
 }
@@ -97,8 +98,10 @@ varnel_status varnel_lens_from_catalogue(const char* lens, const char* camera, v
         varnel::GearNames names = varnel::CameraNamed(camera);
         const auto [brand, model] = varnel::Split(text);
         if (!varnel::FindLens(brand, model)) {
-            throw varnel::CallError(VARNEL_NOT_FOUND,
-                                    QStringLiteral("the catalogue has no lens \"%1\"").arg(text));
+            throw varnel::CallError(
+                VARNEL_NOT_FOUND,
+                varnel::NotAmong(varnel::LensNames(), QStringLiteral("the catalogue has no lens"),
+                                 text));
         }
         names.lensBrand = brand;
         names.lensModel = model;

@@ -3,6 +3,7 @@
 
 #include "library/names.h"
 
+#include "base/nearest_name.h"
 #include "gear/catalogue/camera_catalogue.h"
 #include "gear/catalogue/lens_catalogue.h"
 #include "library/guard.h"
@@ -24,7 +25,21 @@ QStringList WithBrands(const QStringList& brands, QStringList (*models)(const QS
     return names;
 }
 
-QStringList Projections() {
+varnel_status List(varnel_names** names, varnel_error** error, QStringList (*list)()) {
+    return Guarded(error, [&] { Place(names, "names") = NewNames(list()); });
+}
+
+}  // namespace
+
+QStringList CameraNames() {
+    return WithBrands(FillCameraBrands(), &FillCameraModels);
+}
+
+QStringList LensNames() {
+    return WithBrands(FillLensBrands(), &FillLensModels);
+}
+
+QStringList ViewProjections() {
     QStringList keys;
     for (const Projection projection : AllProjections()) {
         keys.append(KeyOf(projection).toLower());
@@ -32,11 +47,11 @@ QStringList Projections() {
     return keys;
 }
 
-varnel_status List(varnel_names** names, varnel_error** error, QStringList (*list)()) {
-    return Guarded(error, [&] { Place(names, "names") = NewNames(list()); });
+QString NotAmong(const QStringList& names, const QString& what, const QString& given) {
+    const QString near = Nearest(given, names);
+    const QString missing = QStringLiteral("%1 \"%2\"").arg(what, given);
+    return near.isEmpty() ? missing : QStringLiteral("%1; did you mean \"%2\"?").arg(missing, near);
 }
-
-}  // namespace
 
 varnel_names* NewNames(const QStringList& names) {
     auto list = std::make_unique<varnel_names>();
@@ -61,19 +76,15 @@ void varnel_names_free(varnel_names* names) {
 }
 
 varnel_status varnel_list_cameras(varnel_names** names, varnel_error** error) {
-    return varnel::List(names, error, [] {
-        return varnel::WithBrands(varnel::FillCameraBrands(), &varnel::FillCameraModels);
-    });
+    return varnel::List(names, error, &varnel::CameraNames);
 }
 
 varnel_status varnel_list_lenses(varnel_names** names, varnel_error** error) {
-    return varnel::List(names, error, [] {
-        return varnel::WithBrands(varnel::FillLensBrands(), &varnel::FillLensModels);
-    });
+    return varnel::List(names, error, &varnel::LensNames);
 }
 
 varnel_status varnel_list_projections(varnel_names** names, varnel_error** error) {
-    return varnel::List(names, error, &varnel::Projections);
+    return varnel::List(names, error, &varnel::ViewProjections);
 }
 
 varnel_status varnel_list_settings(varnel_names** names, varnel_error** error) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "library/guard.h"
+#include "library/names.h"
 #include "pipeline/photos/photo_loader.h"
 #include "remap/projection/projection_info.h"
 #include "state/adjustments/gear_assignment.h"
@@ -22,12 +23,13 @@ constexpr QLatin1StringView projectionField("Projection");
 void Set(varnel_view& view, const QString& name, const QString& value) {
     if (!ViewSettings().contains(name)) {
         throw CallError(VARNEL_BAD_ARGUMENT,
-                        QStringLiteral("there is no setting \"%1\" of a view").arg(name));
+                        NotAmong(ViewSettings(), QStringLiteral("a view has no setting"), name));
     }
     ImageRecord trial;
     if (SetField(trial, name, value) != FieldResult::Ok) {
         throw CallError(VARNEL_BAD_ARGUMENT,
-                        QStringLiteral("%1 does not take \"%2\"").arg(name, value));
+                        NotAmong(name == projectionField ? ViewProjections() : QStringList(),
+                                 QStringLiteral("%1 does not take").arg(name), value));
     }
     std::erase_if(view.settings, [&](const auto& setting) { return setting.first == name; });
     view.settings.emplace_back(name, value);

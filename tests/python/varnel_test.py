@@ -124,6 +124,8 @@ class Arrays(unittest.TestCase):
             ("rotate", good, {"rotate": (1, 2)}),
             ("RotateX", good, {"rotate": (float("nan"), 0, 0)}),
             ("no setting", good, {"settings": {"Nothing": 1}}),
+            ('mean "RotateX"', good, {"settings": {"RotatX": 1}}),
+            ('mean "rectilinear"', good, {"projection": "rectilinar"}),
         ]
         for text, array, rest in cases:
             with self.subTest(text), self.assertRaises(varnel.ArgumentError) as raised:
@@ -197,7 +199,8 @@ class Lenses(unittest.TestCase):
 
     def test_lenses_that_are_none_are_told(self):
         cases = [
-            (varnel.NotFoundError, "Sigma/None", lambda: varnel.Lens.from_catalogue("Sigma/None")),
+            (varnel.NotFoundError, 'no lens "Sigma/None"$', lambda: varnel.Lens.from_catalogue("Sigma/None")),
+            (varnel.NotFoundError, 'mean "Sigma/EX 8 mm f:3.5"', lambda: varnel.Lens.from_catalogue("Sigma/EX 8mm f3.5")),
             (varnel.ReadError, "no-such-file", lambda: varnel.Lens.from_file("/no-such-file.json")),
             (varnel.ReadError, "no-such-file", lambda: varnel.Lens.of_photo("/no-such-file.jpg")),
             (varnel.ArgumentError, "number", lambda: varnel.Lens.from_file("/no-such-file.json", -1)),

@@ -10,10 +10,17 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
 namespace varnel {
+
+namespace {
+
+constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
+
+}  // namespace
 
 int FileOperations::Create(const QByteArray& name, unsigned permissions) {
     return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, permissions);
@@ -25,6 +32,25 @@ int FileOperations::Lock(int file) {
 
 qint64 FileOperations::Write(int file, const char* bytes, qint64 length) {
     return ::write(file, bytes, static_cast<std::size_t>(length));
+}
+
+qint64 FileOperations::WriteAll(int file, QByteArrayView bytes) {
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const qint64 length = std::min<qint64>(bytes.size() - done, largestPiece);
+        const qint64 written = Write(file, bytes.data() + done, length);
+        if (written == -1 && errno == EINTR) {
+            continue;
+        }
+        if (written == 0) {  // would loop for ever
+            errno = EIO;
+        }
+        if (written <= 0) {
+            break;
+        }
+        done += written;
+    }
+    return done;
 }
 
 int FileOperations::SetPermissions(int file, unsigned permissions) {

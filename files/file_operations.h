@@ -22,6 +22,8 @@ class FileOperations {
     virtual int Lock(int file);
     // Returns the number of bytes written, which may be less than length.
     virtual qint64 Write(int file, const char* bytes, qint64 length);
+    // As often as it takes. Returns how many bytes were written; fewer than given is a failure.
+    qint64 WriteAll(int file, QByteArrayView bytes);
     virtual int SetPermissions(int file, unsigned permissions);
     virtual int Sync(int file);
     virtual int Close(int file);

@@ -20,8 +20,6 @@ namespace varnel {
 
 namespace {
 
-constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
-
 // Removes what an ended run left under the name. False while a program is writing it; other things
 // of that name stay, too, and creating the file fails by them.
 bool RemoveLeft(const QByteArray& name, FileOperations& operations) {
@@ -89,23 +87,13 @@ Reason PartFile::Create() {
 }
 
 Reason PartFile::Write(QByteArrayView bytes) {
-    while (error_.isEmpty() && !bytes.isEmpty()) {
-        const qint64 length = std::min<qint64>(bytes.size(), largestPiece);
-        const qint64 written = operations_.Write(file_, bytes.data(), length);
-        if (written == -1 && errno == EINTR) {
-            continue;
-        }
-        if (written == 0) {  // would loop for ever
-            errno = EIO;
-        }
-        if (written <= 0) {
-            return Check(-1, ReasonCode::WhileWriting);
-        }
-        bytes = bytes.sliced(written);
-        place_ += written;
-        length_ = std::max(length_, place_);
+    if (!error_.isEmpty()) {
+        return error_;
     }
-    return error_;
+    const qint64 written = operations_.WriteAll(file_, bytes);
+    place_ += written;
+    length_ = std::max(length_, place_);
+    return Check(written == bytes.size() ? 0 : -1, ReasonCode::WhileWriting);
 }
 
 Reason PartFile::MoveTo(qint64 place) {

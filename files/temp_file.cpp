@@ -8,7 +8,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -16,12 +15,6 @@
 #include "files/temp_names.h"
 
 namespace varnel {
-
-namespace {
-
-constexpr qint64 largestPiece = 16 << 20;  // bytes given to the system at a time
-
-}  // namespace
 
 TempFile::~TempFile() {
     if (!name_.isEmpty()) {
@@ -87,21 +80,8 @@ bool TempFile::Lock(const QByteArray& name) {
 }
 
 bool TempFile::WriteAll(QByteArrayView bytes) {
-    while (!bytes.isEmpty()) {
-        const qint64 length = std::min<qint64>(bytes.size(), largestPiece);
-        const qint64 written = operations_.Write(file_, bytes.data(), length);
-        if (written == -1 && errno == EINTR) {
-            continue;
-        }
-        if (written == 0) {  // would loop for ever
-            errno = EIO;
-        }
-        if (!Check(written > 0 ? written : -1, ReasonCode::WhileWriting)) {
-            return false;
-        }
-        bytes = bytes.sliced(written);
-    }
-    return true;
+    const bool isWhole = operations_.WriteAll(file_, bytes) == bytes.size();
+    return Check(isWhole ? 0 : -1, ReasonCode::WhileWriting);
 }
 
 // File systems without permissions may refuse. Then the file is less open than the older one

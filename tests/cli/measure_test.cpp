@@ -10,8 +10,8 @@
 
 #include "cli/convert.h"
 #include "gear/lens/lens_file.h"
-#include "samples/fisheye_shot.h"
 #include "tests/support/files.h"
+#include "tests/support/room_shot.h"
 
 namespace varnel {
 namespace {
@@ -20,16 +20,8 @@ QString Q(const char* text) {
     return QString::fromUtf8(text);
 }
 
-// The sample room, 1200 pixels wide, through a lens that is not the typical one.
 QString RoomPhoto(const testing::PictureFolder& files) {
-    FisheyeShot shot;
-    shot.size = {1200, 1200};
-    shot.pixelsPerMillimetre = 50.0;
-    shot.centreX = shot.centreY = 600.0;
-    shot.circleRadius = 11.0;
-    shot.curve = {14.0F, 0.6F};
-    shot.samples = 2;
-    const BitmapHandle picture = TakeFisheye(LookAt, shot);
+    const BitmapHandle picture = testing::RoomShot();
     QString photo = files.Path(Q("room.png"));
     SaveBitmap(OutputType::Png, picture.get(), photo);
     return photo;

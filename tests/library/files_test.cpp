@@ -11,10 +11,9 @@
 #include <QStringList>
 
 #include "remap/encode/save_bitmap.h"
-#include "samples/fisheye_shot.h"
-#include "samples/room.h"
 #include "tests/support/contents.h"
 #include "tests/support/files.h"
+#include "tests/support/room_shot.h"
 #include "varnel/varnel.h"
 
 namespace varnel {
@@ -82,14 +81,7 @@ TEST_F(Files, AreNotConvertedOnceTheReportSaysStop) {
 
 // Measured, written, read again: the same curve.
 TEST_F(Files, HoldLenses) {
-    FisheyeShot shot;
-    shot.size = {1200, 1200};
-    shot.pixelsPerMillimetre = 50.0;
-    shot.centreX = shot.centreY = 600.0;
-    shot.circleRadius = 11.0;
-    shot.curve = {14.0F, 0.6F};
-    shot.samples = 2;
-    const BitmapHandle room = TakeFisheye(LookAt, shot);
+    const BitmapHandle room = testing::RoomShot();
     // Its bottom row comes first.
     const varnel_image image{room->Bits() + room->Pitch() * 1199,
                              1200,

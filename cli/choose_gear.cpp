@@ -32,6 +32,14 @@ QString HowToGiveOne() {
         "them), or --gear auto for what each photo's EXIF tells");
 }
 
+// Photos of no fisheye are not to be guessed at.
+QString NoGear(const QString& why, bool mayBeFisheye) {
+    const QString guess =
+        mayBeFisheye ? QStringLiteral(", or --gear guess for a typical fisheye") : QString();
+    return QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens%2")
+        .arg(why, guess);
+}
+
 // As a shell takes it for one word.
 QString Quoted(const QString& word) {
     return word.contains(u' ') ? u'"' + word + u'"' : word;
@@ -160,10 +168,8 @@ std::variant<std::optional<GearRecord>, QString> GearFor(const GearChoice& choic
     if (choice.anyLens || (choice.guesses && !NamesPlainLens(origin))) {
         return std::nullopt;
     }
-    return choice.advises
-               ? QStringLiteral("no gear for it: %1; give --gear NAME or --camera with --lens")
-                     .arg(found.said)
-               : found.said;  // in the window's language
+    return choice.advises ? NoGear(found.said, !NamesPlainLens(origin))
+                          : found.said;  // in the window's language
 }
 
 }  // namespace varnel

@@ -66,10 +66,12 @@ TEST(AutoGear, EachPhotoGetsItsOwnAndTheOthersAreNamed) {
               (files.Path(Q("table.Varnel.BMP\n")) + files.Path(Q("catalogues.Varnel.BMP\n")))
                   .toStdString());
     const char* const told[] = {
-        "zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue; give ",
+        ("zoom.jpg: no gear for it: the lens 24.0-70.0 mm f/2.8 is not in the catalogue; give "
+         "--gear NAME or --camera with --lens\n"),
         ("compact.jpg: no gear for it: the camera NIKON CORPORATION E5700 is not in the catalogue; "
          "give "),
-        "plain.bmp: no gear for it: the file does not tell what took it; give "};
+        ("plain.bmp: no gear for it: the file does not tell what took it; give --gear NAME or "
+         "--camera with --lens, or --gear guess for a typical fisheye\n")};
     for (const char* const line : told) {
         EXPECT_NE(err.str().find(line), std::string::npos) << err.str();
     }

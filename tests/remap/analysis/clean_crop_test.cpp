@@ -193,7 +193,7 @@ TEST(FillOutside, BlendsByWhatThePlainLoopsShowOfThePhoto) {
         record.Outside.kind = OutsideFill::Kind::Colour;
         const BitmapHandle source = testing::PhotoLike(photo);
         part.Start(ProjectionFromIndex(record.Projection), record, source.get());
-        part.DrawSome({0, 999}, std::chrono::seconds(9));
+        part.DrawSome({0, 999}, std::chrono::hours(1));
         const BitmapHandle whole = Drawn(&Render, record, testing::PhotoLike(photo));
         EXPECT_LE(testing::Compare(part.Result(), whole.get()).largest, 1);
     }

@@ -268,9 +268,9 @@ TEST(RegionRenderer, RowsAreThoseOfTheWholePicture) {
         c.change(record);
         part.Start(c.projection, record, source.get());
         const int half = c.size.height / 2;
-        part.DrawSome({half - 1, half}, std::chrono::seconds(9));
+        part.DrawSome({half - 1, half}, std::chrono::hours(1));
         EXPECT_TRUE(part.Has(half) && part.Has(half - 1) && !part.Has(half - 2));
-        part.DrawSome({-5, c.size.height + 5}, std::chrono::seconds(9));
+        part.DrawSome({-5, c.size.height + 5}, std::chrono::hours(1));
         EXPECT_EQ(Compare(part.Result(), whole.get()).largest, 0);
     }
 }
@@ -281,9 +281,9 @@ TEST(RegionRenderer, DrawsFromTheMiddleAndForgetsWithANewStart) {
     part.Start(Projection::Horizon, FisheyeRecord(), source.get());
     const RowSpan one = part.DrawSome({40, 60}, std::chrono::microseconds(0));
     EXPECT_EQ(std::pair(one.first, one.last), std::pair(50, 50));
-    const RowSpan rest = part.DrawSome({49, 51}, std::chrono::seconds(9));
+    const RowSpan rest = part.DrawSome({49, 51}, std::chrono::hours(1));
     EXPECT_EQ(std::pair(rest.first, rest.last), std::pair(49, 51));
-    EXPECT_LT(part.DrawSome({49, 51}, std::chrono::seconds(9)).last, 0);
+    EXPECT_LT(part.DrawSome({49, 51}, std::chrono::hours(1)).last, 0);
     part.Start(Projection::Varnel, FisheyeRecord(), source.get());
     EXPECT_FALSE(part.Has(50));
     ImageRecord impossible = FisheyeRecord();

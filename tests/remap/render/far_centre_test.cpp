@@ -78,7 +78,7 @@ void ExpectTheLoopsPicture(Projection projection, const ImageRecord& record, Pix
         RegionRenderer part;
         const BitmapHandle source = PhotoLike(size);
         part.Start(projection, record, source.get());
-        part.DrawSome({0, size.height - 1}, std::chrono::seconds(9));
+        part.DrawSome({0, size.height - 1}, std::chrono::hours(1));
         EXPECT_EQ(Compare(part.Result(), drawn.Result()).largest, 0);
     }
 }

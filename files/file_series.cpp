@@ -7,6 +7,8 @@
 
 #include <QFile>
 #include <algorithm>
+#include <array>
+#include <chrono>
 #include <new>
 #include <optional>
 #include <system_error>
@@ -20,6 +22,8 @@
 namespace varnel {
 
 namespace {
+
+constexpr std::chrono::milliseconds longestWait(20);  // of a file for others
 
 // A hidden file that grows.
 class TempSink : public FileSink {
@@ -155,19 +159,35 @@ std::future<WriteResult> FileSeries::Begin(const QString& path, QByteArrayView b
         return result;
     }
     Enter(FolderOf(target.name));
-    begun.file = std::make_unique<TempFile>(std::move(target), *later_);
+    begun.file = std::make_unique<TempFile>(std::move(target), *later_, firstName_);
+    firstName_ = (firstName_ + 1) % fixedTempNames;
     const bool isWritten = begun.file->Create() && begun.file->WriteAll(bytes);
     if (!isWritten || !HasThread()) {
         Wait();
-        FinishOne(begun, isWritten);
+        FinishOne(begun, isWritten && begun.file->Store());
         return result;
     }
+    std::size_t count = 0;
     {
         const std::lock_guard lock(mutex_);
         begun_.push_back(std::move(begun));
+        count = begun_.size();
+    }
+    if (count == 1 || count == filesTogether) {
+        changed_.notify_all();
+    }
+    return result;
+}
+
+void FileSeries::Hurry() {
+    {
+        const std::lock_guard lock(mutex_);
+        if (hurries_ || begun_.empty()) {
+            return;
+        }
+        hurries_ = true;
     }
     changed_.notify_all();
-    return result;
 }
 
 // Where the system gives no thread, what is begun is finished at once.
@@ -182,15 +202,36 @@ bool FileSeries::HasThread() {
     return true;
 }
 
-void FileSeries::FinishOne(Begun& begun, bool isWritten) {
+void FileSeries::FinishOne(Begun& begun, bool isStored) {
     try {
-        const bool ok = isWritten && begun.file->Finish();
+        const bool ok = isStored && begun.file->PutInPlace();
         const WriteResult end = NoteEnd({ok, begun.file->Error()}, *later_);
         begun.file.reset();
         begun.result.set_value(end);
     } catch (const std::bad_alloc&) {
         begun.result.set_exception(std::current_exception());
     }
+}
+
+// All are synced before the first is renamed: some file systems sync the folder with each new file.
+void FileSeries::FinishTogether(std::size_t count, std::unique_lock<std::mutex>& lock) {
+    std::array<Begun*, filesTogether> files{};
+    for (std::size_t n = 0; n < count; ++n) {
+        files[n] = &begun_[n];
+    }
+    lock.unlock();
+    for (std::size_t n = 0; n < count; ++n) {
+        files[n]->file->BeginToStore(0, 0);  // as a whole
+    }
+    std::array<bool, filesTogether> isStored{};
+    for (std::size_t n = 0; n < count; ++n) {
+        isStored[n] = files[n]->file->Store();
+    }
+    for (std::size_t n = 0; n < count; ++n) {
+        FinishOne(*files[n], isStored[n]);
+    }
+    lock.lock();
+    begun_.erase(begun_.begin(), begun_.begin() + static_cast<std::ptrdiff_t>(count));
 }
 
 void FileSeries::FinishBegun() {
@@ -200,18 +241,18 @@ void FileSeries::FinishBegun() {
         if (begun_.empty()) {
             return;
         }
-        Begun& first = begun_.front();
-        lock.unlock();
-        FinishOne(first, true);
-        lock.lock();
-        begun_.pop_front();
+        changed_.wait_for(lock, longestWait,
+                          [this] { return ending_ || hurries_ || begun_.size() >= filesTogether; });
+        FinishTogether(std::min<std::size_t>(begun_.size(), filesTogether), lock);
         if (begun_.empty()) {
+            hurries_ = false;
             changed_.notify_all();
         }
     }
 }
 
 void FileSeries::Wait() {
+    Hurry();
     std::unique_lock lock(mutex_);
     changed_.wait(lock, [this] { return begun_.empty(); });
 }

@@ -34,8 +34,8 @@ bool TempFile::GoToStart() {
     return Check(::lseek(file_, 0, SEEK_SET), ReasonCode::WhileWriting);
 }
 
-bool TempFile::Finish() {
-    return KeepPermissions() && Check(Sync(), ReasonCode::WhileSyncing) && Close() && Rename();
+bool TempFile::Store() {
+    return KeepPermissions() && Check(Sync(), ReasonCode::WhileSyncing);
 }
 
 bool TempFile::Check(qint64 result, ReasonCode doing) {
@@ -50,7 +50,8 @@ bool TempFile::Create() {
     // A photo that only its owner may read stays so while it is written.
     const unsigned permissions = target_.permissions ? 0600 : 0666;
     for (int n = 0; n <= fixedTempNames; ++n) {
-        const QByteArray name = TempName(folder, n);
+        const QByteArray name =
+            TempName(folder, n < fixedTempNames ? (firstName_ + n) % fixedTempNames : n);
         file_ = operations_.Create(name, permissions);
         if (file_ == -1 && errno == EEXIST) {
             continue;

@@ -20,8 +20,9 @@ class FileOperations;
 // Removed with this object unless it got its name. The operations outlive it.
 class TempFile {
   public:
-    TempFile(WriteTarget target, FileOperations& operations)
-        : target_(std::move(target)), operations_(operations) {}
+    // The fixed name of that number is tried first.
+    TempFile(WriteTarget target, FileOperations& operations, int firstName = 0)
+        : target_(std::move(target)), operations_(operations), firstName_(firstName) {}
     ~TempFile();
     TempFile(const TempFile&) = delete;
     TempFile& operator=(const TempFile&) = delete;
@@ -37,7 +38,10 @@ class TempFile {
     bool GoToStart();
     // What takes the disk its time: syncs what was written and renames it to the target. May be
     // called on another thread.
-    bool Finish();
+    bool Finish() { return Store() && PutInPlace(); }
+    // Its two halves.
+    bool Store();
+    bool PutInPlace() { return Close() && Rename(); }
     // Of the step that failed.
     const Reason& Error() const { return reason_; }
 
@@ -52,6 +56,7 @@ class TempFile {
 
     const WriteTarget target_;
     FileOperations& operations_;
+    const int firstName_;
     QByteArray name_;  // empty while there is no hidden file
     struct stat identity_ {};
     int file_ = -1;

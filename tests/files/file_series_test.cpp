@@ -198,6 +198,49 @@ TEST(BegunFiles, KeepNobodyWaitingAndGetTheirNamesInOrderOnceTheyAreSynced) {
     EXPECT_EQ(NamesIn(folder.path()).join(u' '), QStringLiteral("0 1 2 3 9"));
 }
 
+// "s" and "r" for each sync and renaming; the first sync tells that it is there and waits.
+class GroupSteps : public FileOperations {
+  public:
+    int Sync(int file) override {
+        done += 's';
+        if (done.size() == 1) {
+            there.set_value();
+            open.get_future().wait();
+        }
+        return FileOperations::Sync(file);
+    }
+    int Rename(const QByteArray& name, const QByteArray& newName) override {
+        done += 'r';
+        return FileOperations::Rename(name, newName);
+    }
+    QByteArray done;
+    std::promise<void> there;
+    std::promise<void> open;
+};
+
+TEST(BegunFiles, ThatCameMeanwhileAreAllSyncedBeforeTheFirstIsRenamed) {
+    const QTemporaryDir folder;
+    const auto steps = std::make_shared<GroupSteps>();
+    FileSeries series(std::make_shared<FileOperations>(), steps);
+    std::vector<std::future<WriteResult>> files;
+    const auto begin = [&](int n) {
+        files.push_back(series.Begin(folder.filePath(QString::number(n)), "x"));
+    };
+    begin(0);
+    series.Hurry();
+    steps->there.get_future().wait();
+    for (int n = 1; n <= FileSeries::filesTogether; ++n) {
+        begin(n);
+    }
+    steps->open.set_value();
+    for (auto& file : files) {
+        EXPECT_TRUE(file.get().ok);
+    }
+    EXPECT_EQ(steps->done, "sr" + QByteArray(FileSeries::filesTogether, 's') +
+                               QByteArray(FileSeries::filesTogether, 'r'));
+    EXPECT_EQ(NamesIn(folder.path()).size(), FileSeries::filesTogether + 1);
+}
+
 TEST(UnfinishedFiles, AllAreRemovedWhenTheProgramIsEnded) {
     const QTemporaryDir folder;
     std::promise<void> open;

@@ -14,9 +14,9 @@ namespace varnel {
 
 namespace {
 
-constexpr std::size_t mostBegun = 4;         // files that the disk is waited for
-constexpr std::int64_t mostSmall = 1000000;  // pixels
-constexpr int betweenEvents = 10;            // ms
+constexpr std::size_t mostBegun = 2 * FileSeries::filesTogether;  // the disk is waited for
+constexpr std::int64_t mostSmall = 1000000;                       // pixels
+constexpr int betweenEvents = 10;                                 // ms
 
 }  // namespace
 
@@ -53,6 +53,7 @@ bool BegunTurns::IsFirstDue() const {
 
 Turn BegunTurns::TakeFirst(RenderProgress& progress) {
     if (!IsFirstDone()) {
+        how_.series.Hurry();
         const CoreLent lent(how_.runner);
         while (!turns_.front().save->Wait(betweenEvents)) {
             progress.HandleEvents();

@@ -76,8 +76,8 @@ class MarkerWalk {
 
     int Byte() {
         if (place_ < blockPlace_ || place_ >= blockPlace_ + block_.size()) {
-            constexpr std::int64_t blockBytes = 65536;
-            block_ = file_.Read(place_, blockBytes);
+            // Many headers are short.
+            block_ = file_.Read(place_, blockPlace_ + block_.size() > 0 ? 65536 : 4096);
             blockPlace_ = place_;
             if (block_.isEmpty()) {
                 return -1;

@@ -14,6 +14,7 @@
 #include "base/huge_pages.h"
 #include "decoder/formats/picture_file.h"
 #include "decoder/process/decoder_socket.h"
+#include "decoder/process/photo_stream.h"
 #include "decoder/process/pieces/handover.h"
 #include "decoder/process/protocol.h"
 #include "decoder/process/sandbox.h"
@@ -93,7 +94,7 @@ bool LeaveToOther(const DecoderRequest& request) {
 }
 
 // One photo; false when the parent is gone.
-bool Serve(const PhotoReaders& readers, MappedFiles& mapped) {
+bool Serve(const PhotoReaders& readers, MappedFiles& mapped, PhotoStream& stream) {
     DecoderRequest request;
     std::array<Descriptor, 2> files;
     if (!ReceiveMessage(decoderSocket, &request, sizeof request, &files) || !files[0] ||
@@ -101,7 +102,7 @@ bool Serve(const PhotoReaders& readers, MappedFiles& mapped) {
         return false;
     }
     LimitNextPhoto(request.memory, request.seconds);
-    const FileHandle photo(fdopen(files[0].Release(), "rb"));
+    const FileHandle photo = stream.Open(std::move(files[0]));
     if (!photo) {
         return false;
     }
@@ -144,7 +145,8 @@ void ServePhotos(const PhotoReaders& readers) {
     readers.prepare();
     Confine();
     MappedFiles mapped;
-    while (Serve(readers, mapped)) {
+    PhotoStream stream;
+    while (Serve(readers, mapped, stream)) {
     }
     // Not through the exit handlers: what damaged photos left in the libraries' memory is of no
     // interest any more.

@@ -11,7 +11,8 @@ FileBytes::FileBytes(std::FILE* file) {
     // Not by its name or state, of which the decoder may not ask.
     const PictureFile picture(file);
     length_ = picture.Length();
-    if (file_.open(file, QIODevice::ReadOnly)) {
+    const bool isInMemory = fileno(file) == -1;  // already
+    if (!isInMemory && file_.open(file, QIODevice::ReadOnly)) {
         bytes_ = file_.map(0, length_);
     }
     if (bytes_ == nullptr && length_ > 0) {

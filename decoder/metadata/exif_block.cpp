@@ -8,8 +8,10 @@
 #include <cmath>
 #include <exiv2/exiv2.hpp>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "remap/image/ifd_reader.h"
 
@@ -194,9 +196,31 @@ QByteArray EntriesForTiff(const ExifBlock& block) {
     return entries;
 }
 
+// What a photo without EXIF gets is the same for many photos of a batch, and takes the library a
+// twentieth of the time of decoding one of 600 x 400.
+auto AllOf(const ExifWishes& wishes) {
+    return std::tuple(wishes.size.width, wishes.size.height, wishes.upright, wishes.byteOrder,
+                      wishes.dotsPerInchX, wishes.dotsPerInchY, wishes.isSrgb);
+}
+struct MadeOfNothing {
+    ExifWishes wishes;
+    ExifBlock exif;
+    QByteArray tiffEntries;
+};
+std::optional<MadeOfNothing>& LastMade() {
+    thread_local std::optional<MadeOfNothing> last;
+    return last;
+}
+
 }  // namespace
 
 void FillExif(Exiv2::ExifData data, const ExifWishes& wishes, PhotoMetadata& metadata) {
+    const bool isNothing = data.empty();
+    if (isNothing && LastMade() && AllOf(LastMade()->wishes) == AllOf(wishes)) {
+        metadata.exif = LastMade()->exif;
+        metadata.tiffEntries = LastMade()->tiffEntries;
+        return;
+    }
     const bool thumbnail =
         data.findKey(Exiv2::ExifKey("Exif.Thumbnail.JPEGInterchangeFormat")) != data.end() ||
         data.findKey(Exiv2::ExifKey("Exif.Thumbnail.StripOffsets")) != data.end();
@@ -210,6 +234,9 @@ void FillExif(Exiv2::ExifData data, const ExifWishes& wishes, PhotoMetadata& met
         if (metadata.exifForJpeg.bytes.size() > longestExifInJpeg) {
             metadata.exifForJpeg = {};
         }
+    }
+    if (isNothing) {
+        LastMade() = {wishes, metadata.exif, metadata.tiffEntries};
     }
 }
 

@@ -61,6 +61,9 @@ QString LensByMakerNote(const Exiv2::ExifData& data) {
 }
 
 CameraInfo OriginOf(const Exiv2::ExifData& data) {
+    if (data.empty()) {
+        return {};
+    }
     CameraInfo origin{.Make = Text(data, "Exif.Image.Make"),
                       .Model = Text(data, "Exif.Image.Model"),
                       .LensMake = Text(data, "Exif.Photo.LensMake"),

@@ -4,7 +4,9 @@
 // Films are told by the bytes that their containers begin with: those of ISO/IEC 14496-12 (boxes),
 // the Matroska, RIFF, ASF, FLV, Ogg, MXF (SMPTE 377), NUT and IVF containers, and the transport and
 // program streams of ISO/IEC 13818-1.
-#include <QFile>
+#include <unistd.h>
+
+#include <QByteArrayView>
 #include <algorithm>
 #include <array>
 
@@ -91,13 +93,9 @@ bool IsOggVideo(QByteArrayView head) {
 
 bool IsFilm(const QString& path) {
     const OpenedPhoto opened = OpenPhotoFile(path);
-    QFile file;
-    if (!opened.file ||
-        !file.open(opened.file.Get(), QIODevice::ReadOnly, QFileDevice::DontCloseHandle)) {
-        return false;
-    }
-    const QByteArray bytes = file.read(headLength);
-    const QByteArrayView head(bytes);
+    std::array<char, headLength> bytes{};
+    const ssize_t length = opened.file ? pread(opened.file.Get(), bytes.data(), headLength, 0) : -1;
+    const QByteArrayView head(bytes.data(), std::max<ssize_t>(length, 0));
     const bool isSigned = std::ranges::any_of(
         signatures, [&](const Signature& one) { return Has(head, one.at, one.bytes); });
     return isSigned || IsBoxes(head) || IsMatroska(head) || IsTransport(head) || IsOggVideo(head);

@@ -241,7 +241,8 @@ QString NoteOf(Taking taking, const QString& name, const QString& value) {
 }  // namespace
 
 bool IsOfNewRecord(const ImageRecord& image, const QString& field) {
-    return FieldText(image, field) == FieldText(ImageRecord(), field);
+    static const ImageRecord newRecord;
+    return FieldText(image, field) == FieldText(newRecord, field);
 }
 
 QString Shown(const QString& setting, qsizetype longest) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <lcms2.h>
 
+#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -48,6 +49,21 @@ PhotoMetadata MetadataIn(QByteArray file) {
     const MetadataRequest wanted = WantedFor(testing::Decode(file));
     const FileHandle opened(fmemopen(file.data(), static_cast<std::size_t>(file.size()), "rb"));
     return ReadMetadata(opened.get(), wanted).metadata;
+}
+
+// Made once for several alike.
+TEST(MadeExif, IsAboutEachPhotoThatHasNone) {
+    for (const PixelSize size : {PixelSize{30, 20}, {30, 20}, {30, 40}, {50, 40}, {30, 20}}) {
+        const BitmapHandle bitmap = NewBitmap(size);
+        const ExifBlock exif =
+            MetadataIn(EncodeBitmap({OutputType::Jpeg, 90}, bitmap.get()).bytes).exif;
+        ASSERT_TRUE(exif.width > 0 && exif.height > 0);
+        EXPECT_EQ(qFromLittleEndian<qint32>(exif.bytes.constData() + exif.width), size.width);
+        EXPECT_EQ(qFromLittleEndian<qint32>(exif.bytes.constData() + exif.height), size.height);
+        bitmap->metadata.dotsPerMetreX = bitmap->metadata.dotsPerMetreY = 11811;  // 300 dpi
+        EXPECT_NE(MetadataIn(EncodeBitmap({OutputType::Jpeg, 90}, bitmap.get()).bytes).exif.bytes,
+                  exif.bytes);
+    }
 }
 
 class Jxl : public ::testing::Test {

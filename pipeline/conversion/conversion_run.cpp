@@ -35,8 +35,9 @@ class Run : private RenderProgress {
           runner_(ports.cores != nullptr ? *ports.cores : own_.emplace()),
           series_(LendingSeries(runner_,
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
-          drawer_(plan, runner_, *this, plan.drawsByRows && !ports.save),
-          begun_({plan, ports, series_, runner_}),
+          sharing_(runner_, overlaps_ && plan.photos.size() > 1),
+          drawer_(plan, sharing_, *this, plan.drawsByRows && !ports.save),
+          begun_({plan, ports, series_, runner_, sharing_}),
           worker_(overlaps_ ? &runner_ : nullptr) {}
 
     ConversionRunEnd Go() {
@@ -251,7 +252,6 @@ class Run : private RenderProgress {
     }
 
     void EndBegun() { EndSaved(begun_.TakeFirst(observer_.Progress())); }
-
     void EndSaved(Turn turn) {
         if (turn.outcome.end == ConversionEnd::Written) {
             targets_.NoteWritten(plan_.photos[turn.what.photo], turn.what.target,
@@ -278,7 +278,7 @@ class Run : private RenderProgress {
     }
 
     SaveResult Save(DrawnResult& drawn, const QString& path) {
-        return SaveNow(drawn, path, {plan_, ports_, series_, runner_});
+        return SaveNow(drawn, path, {plan_, ports_, series_, runner_, sharing_});
     }
 
     void FinishWriting() {
@@ -377,6 +377,7 @@ class Run : private RenderProgress {
     ThreadRunner& runner_;
     UnfinishedFile unfinished_;  // where no other is given
     FileSeries series_;
+    const Sharing sharing_;
     ResultDrawer drawer_;
     qsizetype photo_ = 0;
     Turn turn_;

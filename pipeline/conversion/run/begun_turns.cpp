@@ -40,7 +40,8 @@ BitmapHandle BegunTurns::Begin(Turn turn) {
     Begun begun{std::move(turn), {}, {}};
     begun.error = Attempt([&] {
         begun.save.emplace(how_.plan.output.encoding, bitmap,
-                           FileInSeries{begun.turn.what.target, how_.series}, &how_.runner);
+                           FileInSeries{begun.turn.what.target, how_.series},
+                           how_.sharing.For(bitmap->Size()));
     });
     BitmapHandle used = std::move(begun.turn.drawn->result);
     turns_.push_back(std::move(begun));

@@ -57,7 +57,7 @@ void ResultDrawer::TakePhoto(LoadedPicture& photo) {
     const bool isWidened = photo.bitmap && IsWidened(photo.bitmap->Format());
     if (isWidened) {
         HavePixels(photo);
-        photo.bitmap = InSamples(*photo.bitmap, SampleKind::Word, runner_);
+        photo.bitmap = InSamples(*photo.bitmap, SampleKind::Word, sharing_.All());
     }
     bitmaps_.FullSourceBitmap = std::move(photo.bitmap);
     planar_ = std::move(photo.planar);
@@ -107,7 +107,12 @@ DrawnResult ResultDrawer::Draw(const ImageRecord& record, BitmapHandle used) {
             ReducedCopy(&photo, PreviewSize(SizeOf(&photo), *plan_.preview, *plan_.preview));
     }
     bitmaps_.ResultBitmap = std::move(used);
-    RenderContext context{bitmaps_, [this] { return plan_.smoothPreview; }, &runner_, {}, true};
+    const PixelSize source = SizeOf(plan_.preview ? bitmaps_.PreviewSourceBitmap.get() : &photo);
+    RenderContext context{bitmaps_,
+                          [this] { return plan_.smoothPreview; },
+                          sharing_.For(ResultSizeOf(record, source)),
+                          {},
+                          true};
     Render(projection, record, plan_.preview ? SizeKind::Thumbnails : SizeKind::Batch, progress_,
            context);
     return {std::move(bitmaps_.ResultBitmap), nullptr, {}};

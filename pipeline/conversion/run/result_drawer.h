@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "pipeline/conversion/conversion_run.h"
+#include "pipeline/conversion/run/sharing.h"
 #include "remap/render/drawn_rows.h"
 
 namespace varnel {
@@ -31,9 +32,9 @@ class ResultDrawer {
   public:
     // All have to outlive it. The progress is notified as Render does it; of rows it hears the
     // beginning only.
-    ResultDrawer(const ConversionPlan& plan, BlockRunner& runner, RenderProgress& progress,
+    ResultDrawer(const ConversionPlan& plan, const Sharing& sharing, RenderProgress& progress,
                  bool byRows)
-        : plan_(plan), runner_(runner), progress_(progress), byRows_(byRows) {}
+        : plan_(plan), sharing_(sharing), progress_(progress), byRows_(byRows) {}
 
     // The photo that is drawn from now on, whose pixels are taken from it. For deeper files than
     // it, what lies between its pixels is worked out with 16 bits.
@@ -51,7 +52,7 @@ class ResultDrawer {
     bool IsDrawnByRows(const ImageRecord& record, const Bitmap& photo) const;
 
     const ConversionPlan& plan_;
-    BlockRunner& runner_;
+    const Sharing sharing_;
     RenderProgress& progress_;
     const bool byRows_;  // where that can be
     Bitmaps bitmaps_;

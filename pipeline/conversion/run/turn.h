@@ -10,6 +10,7 @@
 #include "base/thread_runner.h"
 #include "pipeline/conversion/conversion_run.h"
 #include "pipeline/conversion/run/result_drawer.h"
+#include "pipeline/conversion/run/sharing.h"
 
 namespace varnel {
 
@@ -33,6 +34,7 @@ struct Saving {
     const ConversionPorts& ports;
     FileSeries& series;
     ThreadRunner& runner;  // of which the caller holds a core
+    Sharing sharing;
 };
 
 // Into that file, without metadata where none are to be in it.

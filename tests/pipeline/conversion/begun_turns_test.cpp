@@ -59,7 +59,7 @@ class BegunTurnsTest : public ::testing::Test, public SilentProgress {
     const ConversionPlan plan_{};
     const ConversionPorts ports_{};
     FileSeries series_{std::make_shared<SlowDisk>(gate_.get_future().share())};
-    BegunTurns turns_{{plan_, ports_, series_, cores_}};
+    BegunTurns turns_{{plan_, ports_, series_, cores_, {cores_, false}}};
 };
 
 TEST_F(BegunTurnsTest, EndInOrderWithWhatBecameOfEach) {
@@ -84,11 +84,11 @@ TEST_F(BegunTurnsTest, EndInOrderWithWhatBecameOfEach) {
 }
 
 TEST_F(BegunTurnsTest, NoMoreAreBegunThanFewWhatEverTheDiskDoes) {
-    for (int n = 0; n < 4; ++n) {
+    for (int n = 0; n < 2 * FileSeries::filesTogether; ++n) {
         BeginOne(Path(QString::number(n)));
         EXPECT_FALSE(turns_.IsFirstDue());
     }
-    BeginOne(Path(Text("4")));
+    BeginOne(Path(Text("last")));
     EXPECT_TRUE(turns_.IsFirstDue());
     gate_.set_value();
 }

@@ -144,7 +144,7 @@ QByteArray JpegExif(const PictureFile& file) {
         if (walk.Marker() != exifSegment) {
             continue;
         }
-        const QByteArray segment = walk.Segment(mostBytes);
+        QByteArray segment = walk.Segment(mostBytes);
         if (segment.startsWith(QByteArrayView("Exif\0\0", 6))) {
             return segment;
         }

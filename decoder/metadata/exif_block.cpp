@@ -153,7 +153,7 @@ QByteArray SetPlaceholder(Exiv2::ExifData& data, bool wanted, std::uint32_t room
         return {};
     }
     constexpr std::uint16_t inches = 2;
-    const QByteArray placeholder = Placeholder(room);
+    QByteArray placeholder = Placeholder(room);
     Exiv2::ExifThumb(data).setJpegThumbnail(
         reinterpret_cast<const Exiv2::byte*>(placeholder.constData()), placeholder.size(), {72, 1},
         {72, 1}, inches);

@@ -76,8 +76,8 @@ class MarkerWalk {
 
     int Byte() {
         if (place_ < blockPlace_ || place_ >= blockPlace_ + block_.size()) {
-            // Many headers are short.
-            block_ = file_.Read(place_, blockPlace_ + block_.size() > 0 ? 65536 : 4096);
+            const bool isFirst = blockPlace_ == 0 && block_.isEmpty();
+            block_ = file_.Read(place_, isFirst ? 4096 : 65536);  // many headers are short
             blockPlace_ = place_;
             if (block_.isEmpty()) {
                 return -1;

@@ -37,7 +37,7 @@ class Run : private RenderProgress {
                                 ports.unfinished != nullptr ? *ports.unfinished : unfinished_)),
           sharing_(runner_, overlaps_ && plan.photos.size() > 1),
           drawer_(plan, sharing_, *this, plan.drawsByRows && !ports.save),
-          begun_({plan, ports, series_, runner_, sharing_}),
+          begun_({plan, ports, series_, sharing_}),
           worker_(overlaps_ ? &runner_ : nullptr) {}
 
     ConversionRunEnd Go() {
@@ -278,7 +278,7 @@ class Run : private RenderProgress {
     }
 
     SaveResult Save(DrawnResult& drawn, const QString& path) {
-        return SaveNow(drawn, path, {plan_, ports_, series_, runner_, sharing_});
+        return SaveNow(drawn, path, {plan_, ports_, series_, sharing_});
     }
 
     void FinishWriting() {

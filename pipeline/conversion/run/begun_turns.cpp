@@ -55,7 +55,7 @@ bool BegunTurns::IsFirstDue() const {
 Turn BegunTurns::TakeFirst(RenderProgress& progress) {
     if (!IsFirstDone()) {
         how_.series.Hurry();
-        const CoreLent lent(how_.runner);
+        const CoreLent lent(how_.sharing.Cores());
         while (!turns_.front().save->Wait(betweenEvents)) {
             progress.HandleEvents();
         }

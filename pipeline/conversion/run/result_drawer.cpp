@@ -57,7 +57,7 @@ void ResultDrawer::TakePhoto(LoadedPicture& photo) {
     const bool isWidened = photo.bitmap && IsWidened(photo.bitmap->Format());
     if (isWidened) {
         HavePixels(photo);
-        photo.bitmap = InSamples(*photo.bitmap, SampleKind::Word, sharing_.All());
+        photo.bitmap = InSamples(*photo.bitmap, SampleKind::Word, sharing_.Cores());
     }
     bitmaps_.FullSourceBitmap = std::move(photo.bitmap);
     planar_ = std::move(photo.planar);

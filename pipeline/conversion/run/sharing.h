@@ -27,7 +27,7 @@ class Sharing {
         return smallAlone_ && isSmall ? nullptr : &cores_;
     }
 
-    BlockRunner& All() const { return cores_; }
+    ThreadRunner& Cores() const { return cores_; }
 
   private:
     ThreadRunner& cores_;

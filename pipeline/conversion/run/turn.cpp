@@ -33,7 +33,7 @@ SaveResult SaveNow(DrawnResult& drawn, const QString& path, const Saving& how) {
     SaveResult saved;
     const auto save = [&] {
         saved = SaveBitmap(output.encoding, drawn.result.get(),
-                           FileInSeries{path, how.series, drawn.rows.get()}, &how.runner);
+                           FileInSeries{path, how.series, drawn.rows.get()}, &how.sharing.Cores());
     };
     if (drawn.rows) {
         drawn.error = Attempt(save);

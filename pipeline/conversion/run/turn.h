@@ -7,7 +7,6 @@
 #include <QElapsedTimer>
 #include <memory>
 
-#include "base/thread_runner.h"
 #include "pipeline/conversion/conversion_run.h"
 #include "pipeline/conversion/run/result_drawer.h"
 #include "pipeline/conversion/run/sharing.h"
@@ -33,8 +32,7 @@ struct Saving {
     const ConversionPlan& plan;
     const ConversionPorts& ports;
     FileSeries& series;
-    ThreadRunner& runner;  // of which the caller holds a core
-    Sharing sharing;
+    Sharing sharing;  // of cores of which the caller holds one
 };
 
 // Into that file, without metadata where none are to be in it.

@@ -59,7 +59,7 @@ class BegunTurnsTest : public ::testing::Test, public SilentProgress {
     const ConversionPlan plan_{};
     const ConversionPorts ports_{};
     FileSeries series_{std::make_shared<SlowDisk>(gate_.get_future().share())};
-    BegunTurns turns_{{plan_, ports_, series_, cores_, {cores_, false}}};
+    BegunTurns turns_{{plan_, ports_, series_, {cores_, false}}};
 };
 
 TEST_F(BegunTurnsTest, EndInOrderWithWhatBecameOfEach) {
